@@ -1,0 +1,54 @@
+#include "TestSupport.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace testsupport {
+
+namespace {
+/// The warnings in a log of QtTest. Those that QTest::ignoreMessage() announced are not in it, and
+/// those of the offscreen plug-in about itself do not count.
+QList<QByteArray> unexpectedWarnings(const QByteArray& log)
+{
+    QList<QByteArray> found;
+    const QList<QByteArray> lines = log.split('\n');
+    for (const QByteArray& line : lines)
+        if ((line.startsWith("QWARN") || line.startsWith("QCRITICAL")) &&
+            !line.contains("This plugin does not support"))
+            found << line;
+    return found;
+}
+} // namespace
+
+int run(QObject* test, int argc, char* argv[])
+{
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("log"));
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    arguments << QStringLiteral("-o") << QStringLiteral("-,txt") << QStringLiteral("-o")
+              << log + QLatin1String(",txt");
+    const int failed = QTest::qExec(test, arguments);
+    const QList<QByteArray> warnings = unexpectedWarnings(readFile(log));
+    for (const QByteArray& warning : warnings)
+        std::fprintf(stderr, "FAIL!  : unexpected warning: %s\n", warning.constData());
+    return failed + warnings.size();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+} // namespace testsupport
