@@ -1,0 +1,103 @@
+#include "JsonPlace.h"
+
+#include <QJsonArray>
+#include <QVector>
+
+#include <cmath>
+#include <limits>
+
+namespace vkd {
+namespace dbo {
+
+void JsonPlace::fail(const QString& what) const
+{
+    throw ModelFileError{m_place.isEmpty() ? what : m_place + QLatin1String(": ") + what};
+}
+
+double JsonPlace::real() const
+{
+    if (!m_value.isDouble() || !std::isfinite(m_value.toDouble()))
+        fail(QStringLiteral("a number is needed"));
+    return m_value.toDouble();
+}
+
+int JsonPlace::integer() const
+{
+    const double value = real();
+    if (value != std::floor(value) || std::abs(value) > std::numeric_limits<int>::max())
+        fail(QStringLiteral("a whole number is needed"));
+    return int(value);
+}
+
+int JsonPlace::positive() const
+{
+    const int value = integer();
+    if (value < 1)
+        fail(QStringLiteral("a number of 1 or more is needed"));
+    return value;
+}
+
+QString JsonPlace::string() const
+{
+    if (!m_value.isString())
+        fail(QStringLiteral("a text is needed"));
+    return m_value.toString();
+}
+
+QString JsonPlace::title(int language) const
+{
+    if (m_value.isString())
+        return string();
+    const QString german = QStringLiteral("german");
+    const QString english = QStringLiteral("english");
+    checkKeys({german, english}, {});
+    return at(language == 0 ? german : english).string();
+}
+
+QVector<JsonPlace> JsonPlace::list(int least, int most) const
+{
+    if (!m_value.isArray())
+        fail(QStringLiteral("a list is needed"));
+    const QJsonArray values = m_value.toArray();
+    if (values.size() < least)
+        fail(QStringLiteral("%1 values are needed").arg(least));
+    if (most > 0 && values.size() > most)
+        fail(QStringLiteral("no more than %1 values can stand here").arg(most));
+    QVector<JsonPlace> places;
+    places.reserve(values.size());
+    for (int i = 0; i < values.size(); ++i)
+        places.append({values[i], QStringLiteral("%1[%2]").arg(m_place).arg(i)});
+    return places;
+}
+
+QJsonObject JsonPlace::object() const
+{
+    if (!m_value.isObject())
+        fail(QStringLiteral("an object is needed"));
+    return m_value.toObject();
+}
+
+void JsonPlace::checkKeys(const QStringList& needed, const QStringList& optional) const
+{
+    const QJsonObject all = object();
+    const QStringList keys = all.keys();
+    for (const QString& key : keys)
+        if (!needed.contains(key) && !optional.contains(key))
+            fail(QStringLiteral("unknown key \"%1\"").arg(key));
+    for (const QString& key : needed)
+        if (!all.contains(key))
+            fail(QStringLiteral("the key \"%1\" is missing").arg(key));
+}
+
+bool JsonPlace::has(const QString& key) const
+{
+    return object().contains(key);
+}
+
+JsonPlace JsonPlace::at(const QString& key) const
+{
+    return {object().value(key), m_place.isEmpty() ? key : m_place + QLatin1Char('.') + key};
+}
+
+} // namespace dbo
+} // namespace vkd

@@ -1,0 +1,333 @@
+#include "vkd_dbo_model.h"
+
+#include "JsonPlace.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QSet>
+
+#include <algorithm>
+
+namespace vkd {
+namespace dbo {
+
+namespace {
+
+/// Reads one model file. What others refer to by number is read first, so that a number that
+/// belongs to nothing is found where it stands.
+class ModelFileReader
+{
+public:
+    ModelFileReader(JsonPlace root, int language)
+        : m_root(std::move(root))
+        , m_language(language)
+    {
+    }
+    Model read();
+
+private:
+    using Numbers = QSet<int>;
+
+    void readSystem();
+    void readElements();
+    void readGeometry();
+
+    template <typename T, typename ReadOne>
+    void each(const char* key, QVector<T>& things, ReadOne readOne);
+    template <typename T>
+    void titled(const char* key, QVector<T>& things, Numbers* numbers);
+    void lineElements(const char* key, QVector<LineElement>& elements, Numbers* numbers);
+    void outlines(const char* key, QVector<Outline>& outlines, int least, int most);
+    void polylines(const char* key, QVector<Polyline>& lines);
+    void readSecondaryGroups();
+
+    static int unique(const JsonPlace& place, Numbers& used);
+    static int known(const JsonPlace& place, const Numbers& numbers, const char* what);
+    static Position position(const QVector<JsonPlace>& values, int first);
+    template <size_t N>
+    void nodes(const QVector<JsonPlace>& values, int first, int (&numbers)[N], bool lastMayBeZero);
+    static QVector<int> members(const JsonPlace& group, const char* key, const Numbers& numbers);
+
+    JsonPlace m_root;
+    int m_language;
+    Model m_model;
+    Numbers m_nodes, m_groups, m_sections, m_points, m_beams, m_quads;
+};
+
+int fixedDirections(const JsonPlace& place)
+{
+    static const QStringList names{QStringLiteral("x"),  QStringLiteral("y"),
+                                   QStringLiteral("z"),  QStringLiteral("rx"),
+                                   QStringLiteral("ry"), QStringLiteral("rz")};
+    int fixed = 0;
+    const QStringList words = place.string().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString& word : words) {
+        const int bit = names.indexOf(word);
+        if (bit < 0)
+            place.fail(QStringLiteral("unknown direction \"%1\"").arg(word));
+        fixed |= 1 << bit;
+    }
+    return fixed;
+}
+
+Model ModelFileReader::read()
+{
+    const auto words = [](std::initializer_list<const char*> list) {
+        QStringList result;
+        std::transform(list.begin(), list.end(), std::back_inserter(result),
+                       [](const char* word) { return QString::fromLatin1(word); });
+        return result;
+    };
+    m_root.checkKeys(
+        words({"title", "kindOfSystem", "nodes", "groups"}),
+        words({"crossSections", "secondaryGroups", "supports", "beams", "trusses", "cables",
+               "springs", "quads", "bricks", "quadTendons", "beamTendons", "points", "lines",
+               "areas", "axes", "sectionCuts", "designLines", "loadCases"}));
+    readSystem();
+    readElements();
+    readGeometry();
+    readSecondaryGroups();
+    return m_model;
+}
+
+template <typename T, typename ReadOne>
+void ModelFileReader::each(const char* key, QVector<T>& things, ReadOne readOne)
+{
+    const QString name = QString::fromLatin1(key);
+    if (!m_root.has(name))
+        return;
+    const QVector<JsonPlace> places = m_root.at(name).list();
+    things.reserve(places.size());
+    for (const JsonPlace& place : places) {
+        T thing;
+        readOne(place, thing);
+        things.append(thing);
+    }
+}
+
+template <typename T>
+void ModelFileReader::titled(const char* key, QVector<T>& things, Numbers* numbers)
+{
+    each(key, things, [&](const JsonPlace& place, T& thing) {
+        place.checkKeys({QStringLiteral("number"), QStringLiteral("title")}, {});
+        thing.number = unique(place.at(QStringLiteral("number")), *numbers);
+        thing.title = place.at(QStringLiteral("title")).title(m_language);
+    });
+}
+
+void ModelFileReader::readSystem()
+{
+    m_model.system.title = m_root.at(QStringLiteral("title")).title(m_language);
+    m_model.system.kindOfSystem = m_root.at(QStringLiteral("kindOfSystem")).integer();
+    titled("crossSections", m_model.crossSections, &m_sections);
+    titled("groups", m_model.groups, &m_groups);
+    each("nodes", m_model.nodes, [this](const JsonPlace& place, Node& node) {
+        const auto values = place.list(4, 4);
+        node.number = unique(values[0], m_nodes);
+        node.position = position(values, 1);
+    });
+    each("supports", m_model.supports, [this](const JsonPlace& place, Boundary& boundary) {
+        const auto values = place.list(2, 2);
+        boundary.node = known(values[0], m_nodes, "node");
+        boundary.fixed = fixedDirections(values[1]);
+    });
+    Numbers used;
+    each("loadCases", m_model.loadCases, [&](const JsonPlace& place, LoadCase& loadCase) {
+        place.checkKeys({QStringLiteral("number"), QStringLiteral("title")},
+                        {QStringLiteral("kind")});
+        loadCase.number = unique(place.at(QStringLiteral("number")), used);
+        loadCase.title = place.at(QStringLiteral("title")).title(m_language);
+        if (!place.has(QStringLiteral("kind")))
+            return;
+        const JsonPlace kind = place.at(QStringLiteral("kind"));
+        loadCase.kind = kind.integer();
+        if (loadCase.kind != 1 && loadCase.kind != 2)
+            kind.fail(QStringLiteral("a kind of 1 or 2 is needed"));
+    });
+}
+
+void ModelFileReader::readElements()
+{
+    Numbers trusses, cables, springs, bricks;
+    lineElements("beams", m_model.beams, &m_beams);
+    lineElements("trusses", m_model.trusses, &trusses);
+    lineElements("cables", m_model.cables, &cables);
+    each("springs", m_model.springs, [&](const JsonPlace& place, Spring& spring) {
+        const auto values = place.list(5, 5);
+        spring.number = unique(values[0], springs);
+        spring.group = known(values[1], m_groups, "group");
+        nodes(values, 2, spring.nodes, true);
+        spring.stiffness = values[4].real();
+    });
+    each("quads", m_model.quads, [&](const JsonPlace& place, Quad& quad) {
+        const auto values = place.list(7, 7);
+        quad.number = unique(values[0], m_quads);
+        quad.group = known(values[1], m_groups, "group");
+        nodes(values, 2, quad.nodes, true);
+        quad.thickness = values[6].real();
+    });
+    each("bricks", m_model.bricks, [&](const JsonPlace& place, Brick& brick) {
+        const auto values = place.list(10, 10);
+        brick.number = unique(values[0], bricks);
+        brick.group = known(values[1], m_groups, "group");
+        nodes(values, 2, brick.nodes, false);
+    });
+}
+
+void ModelFileReader::readGeometry()
+{
+    each("points", m_model.points, [this](const JsonPlace& place, Point& point) {
+        const auto values = place.list(4, 4);
+        point.number = unique(values[0], m_points);
+        point.position = position(values, 1);
+    });
+    outlines("lines", m_model.lines, 3, 3);
+    outlines("areas", m_model.areas, 4, 0);
+    polylines("axes", m_model.axes);
+    polylines("sectionCuts", m_model.sectionCuts);
+    polylines("designLines", m_model.designLines);
+    polylines("quadTendons", m_model.quadTendons);
+    polylines("beamTendons", m_model.beamTendons);
+}
+
+void ModelFileReader::lineElements(const char* key, QVector<LineElement>& elements,
+                                   Numbers* numbers)
+{
+    each(key, elements, [&](const JsonPlace& place, LineElement& element) {
+        const auto values = place.list(5, 5);
+        element.number = unique(values[0], *numbers);
+        element.group = known(values[1], m_groups, "group");
+        element.crossSection = known(values[2], m_sections, "cross section");
+        nodes(values, 3, element.nodes, false);
+    });
+}
+
+void ModelFileReader::outlines(const char* key, QVector<Outline>& outlines, int least, int most)
+{
+    Numbers used;
+    each(key, outlines, [&](const JsonPlace& place, Outline& outline) {
+        const auto values = place.list(least, most);
+        outline.number = unique(values[0], used);
+        for (int i = 1; i < values.size(); ++i)
+            outline.points.append(known(values[i], m_points, "point"));
+    });
+}
+
+void ModelFileReader::polylines(const char* key, QVector<Polyline>& lines)
+{
+    Numbers used;
+    each(key, lines, [&](const JsonPlace& place, Polyline& line) {
+        place.checkKeys(
+            {QStringLiteral("number"), QStringLiteral("title"), QStringLiteral("points")}, {});
+        line.number = unique(place.at(QStringLiteral("number")), used);
+        line.title = place.at(QStringLiteral("title")).title(m_language);
+        const auto points = place.at(QStringLiteral("points")).list(2);
+        for (const JsonPlace& point : points)
+            line.points.append(position(point.list(3, 3), 0));
+    });
+}
+
+void ModelFileReader::readSecondaryGroups()
+{
+    QSet<QString> used;
+    each("secondaryGroups", m_model.secondaryGroups,
+         [&](const JsonPlace& place, SecondaryGroup& group) {
+             place.checkKeys({QStringLiteral("name"), QStringLiteral("title")},
+                             {QStringLiteral("quads"), QStringLiteral("beams")});
+             const JsonPlace name = place.at(QStringLiteral("name"));
+             group.name = name.string();
+             // Four bytes of Latin-1, because the name is packed into a group number.
+             if (group.name.isEmpty() || group.name.size() > 4 ||
+                 QString::fromLatin1(group.name.toLatin1()) != group.name)
+                 name.fail(QStringLiteral("a name of one to four characters is needed"));
+             if (used.contains(group.name))
+                 name.fail(QStringLiteral("\"%1\" stands here twice").arg(group.name));
+             used.insert(group.name);
+             group.title = place.at(QStringLiteral("title")).title(m_language);
+             group.quads = members(place, "quads", m_quads);
+             group.beams = members(place, "beams", m_beams);
+         });
+}
+
+QVector<int> ModelFileReader::members(const JsonPlace& group, const char* key,
+                                      const Numbers& numbers)
+{
+    QVector<int> result;
+    const QString name = QString::fromLatin1(key);
+    if (!group.has(name))
+        return result;
+    const auto places = group.at(name).list();
+    for (const JsonPlace& place : places)
+        result.append(known(place, numbers, "element"));
+    return result;
+}
+
+int ModelFileReader::unique(const JsonPlace& place, Numbers& used)
+{
+    const int number = place.positive();
+    if (used.contains(number))
+        place.fail(QStringLiteral("the number %1 stands here twice").arg(number));
+    used.insert(number);
+    return number;
+}
+
+int ModelFileReader::known(const JsonPlace& place, const Numbers& numbers, const char* what)
+{
+    const int number = place.integer();
+    if (!numbers.contains(number))
+        place.fail(QStringLiteral("%1 %2 does not exist").arg(QLatin1String(what)).arg(number));
+    return number;
+}
+
+Position ModelFileReader::position(const QVector<JsonPlace>& values, int first)
+{
+    return {values[first].real(), values[first + 1].real(), values[first + 2].real()};
+}
+
+template <size_t N>
+void ModelFileReader::nodes(const QVector<JsonPlace>& values, int first, int (&numbers)[N],
+                            bool lastMayBeZero)
+{
+    for (size_t i = 0; i < N; ++i) {
+        const JsonPlace& place = values[first + int(i)];
+        const bool isNone = lastMayBeZero && i + 1 == N && place.integer() == 0;
+        numbers[i] = isNone ? 0 : known(place, m_nodes, "node");
+    }
+}
+
+/// "line 3, column 7" of an offset in bytes.
+QString lineAndColumn(const QByteArray& bytes, int offset)
+{
+    const QByteArray before = bytes.left(offset);
+    return QStringLiteral("line %1, column %2")
+        .arg(before.count('\n') + 1)
+        .arg(before.size() - before.lastIndexOf('\n'));
+}
+} // namespace
+
+bool readModelFile(const QString& path, int language, Model* model, QString* error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return false;
+    }
+    const QByteArray bytes = file.readAll();
+    QJsonParseError problem;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &problem);
+    try {
+        if (problem.error != QJsonParseError::NoError)
+            throw ModelFileError{lineAndColumn(bytes, problem.offset) + QLatin1String(": ") +
+                                 problem.errorString()};
+        const QJsonValue root =
+            document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);
+        *model = ModelFileReader(JsonPlace(root, QString()), language).read();
+    } catch (const ModelFileError& wrong) {
+        *error = QStringLiteral("%1: %2").arg(path, wrong.text);
+        return false;
+    }
+    return true;
+}
+
+} // namespace dbo
+} // namespace vkd

@@ -1,0 +1,123 @@
+#include "recordfields.h"
+#include "recordlist.h"
+#include "vkd_dbo_queries.h"
+
+#include <vkd_zob.h>
+
+#include <QLoggingCategory>
+
+namespace vkd {
+namespace dbo {
+
+namespace {
+Q_LOGGING_CATEGORY(lcModel, "vkd.dbo")
+
+template <typename T>
+QVector<QByteArray> toRecords(const QVector<T>& things)
+{
+    QVector<QByteArray> records(things.size());
+    for (int i = 0; i < things.size(); ++i) {
+        FieldWriter writer(&records[i]);
+        T copy = things[i]; // one list of fields serves reader and writer, so it is not const
+        fields(writer, copy);
+    }
+    return records;
+}
+
+template <typename T>
+void readList(int index, KeyPair pair, QVector<T>& things)
+{
+    forEachRecord(index, pair, [&](const QByteArray& bytes) {
+        T thing;
+        FieldReader reader(bytes);
+        fields(reader, thing);
+        if (reader.isComplete())
+            things.append(thing);
+        else
+            reportDamagedRecord(index, pair);
+    });
+}
+
+SystemInformation readSystem(int index)
+{
+    QVector<SystemInformation> systems;
+    readList(index, keys::System, systems);
+    return systems.isEmpty() ? SystemInformation() : systems.first();
+}
+} // namespace
+
+bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records)
+{
+    const int none = 0;
+    bool done = vkd_zob_put(index, pair.key1, pair.key2, nullptr, &none, 0) == VKD_ZOB_OK;
+    for (const QByteArray& record : records) {
+        const int length = record.size();
+        done = done && vkd_zob_put(index, pair.key1, pair.key2, record.constData(), &length, 1) ==
+                           VKD_ZOB_OK;
+    }
+    return done;
+}
+
+void forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit)
+{
+    QByteArray buffer(1024, Qt::Uninitialized);
+    for (int position = 0;;) {
+        int length = buffer.size();
+        const cd_error_t status =
+            vkd_zob_get(index, pair.key1, pair.key2, buffer.data(), &length, position);
+        if (status > VKD_ZOB_CUT)
+            break;
+        if (status == VKD_ZOB_CUT) {
+            buffer.resize(2 * buffer.size());
+            continue;
+        }
+        visit(QByteArray(buffer.constData(), length));
+        ++position;
+    }
+    vkd_zob_free_ex(index, pair.key1, pair.key2);
+}
+
+void reportDamagedRecord(int index, KeyPair pair)
+{
+    qCWarning(lcModel, "database %d: a record under %d, %d is too short and left out", index,
+              pair.key1, pair.key2);
+}
+
+bool storeModel(int index, const Model& model)
+{
+    constexpr KeyPair lock = keys::System; // the project has one lock; any pair of it will do
+    if (vkd_zob_lock_ex(index, lock.key1, lock.key2) != VKD_ZOB_OK) {
+        vkd_zob_free_ex(index, lock.key1, lock.key2);
+        return false;
+    }
+    const QVector<SystemInformation> systems{model.system};
+    bool done = putRecords(index, keys::System, toRecords(systems));
+    forEachList(model, [&](KeyPair pair, const auto& things) {
+        done = done && putRecords(index, pair, toRecords(things));
+    });
+    vkd_zob_free_ex(index, lock.key1, lock.key2);
+    return done;
+}
+
+Model readModel(int index)
+{
+    Model model;
+    model.system = readSystem(index);
+    forEachList(model, [&](KeyPair pair, auto& things) { readList(index, pair, things); });
+    return model;
+}
+
+QVector<LoadCase> readLoadCases(int index)
+{
+    QVector<LoadCase> loadCases;
+    readList(index, keys::LoadCases, loadCases);
+    return loadCases;
+}
+
+int getKindOfSystem(int index, structKindSystem*)
+{
+    return readSystem(index).kindOfSystem;
+}
+
+} // namespace dbo
+} // namespace vkd

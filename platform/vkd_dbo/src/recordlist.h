@@ -1,0 +1,22 @@
+#pragma once
+
+#include "modelkeys.h"
+
+#include <QVector>
+
+#include <functional>
+
+namespace vkd {
+namespace dbo {
+
+/// Replaces the sequence under the pair; true if the store took all of it.
+bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records);
+
+/// Hands over each record under the pair, in order, from one state of the project.
+void forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit);
+
+/// The line in the log for a record that is too short for what it should hold.
+void reportDamagedRecord(int index, KeyPair pair);
+
+} // namespace dbo
+} // namespace vkd

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "vkd_h_export.h"
+
+#include <vkd_zob.h>
+
+#include <QString>
+
+#include <memory>
+
+/// A project that is open: it owns the database index under which the store knows the file, and
+/// closes it with its own end. Documents are handed around as pointers that nobody else owns.
+class VKD_H_EXPORT VKD_H_ZOBDoc
+{
+public:
+    /// Opens a project file, or makes a new one that must not be there yet. Null if that fails;
+    /// `status`, if given, is then a VkdZobStatus above 1 and the log holds a line.
+    static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, cd_error_t* status = nullptr);
+    static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, cd_error_t* status = nullptr);
+    ~VKD_H_ZOBDoc();
+    VKD_H_ZOBDoc(const VKD_H_ZOBDoc&) = delete;
+    VKD_H_ZOBDoc& operator=(const VKD_H_ZOBDoc&) = delete;
+
+    /// The database index for the calls of the store and the model queries; 1 or more, and -1 once
+    /// the document is closed.
+    int index() const;
+    QString path() const;
+
+    /// Closes the document before its end, to learn whether all that was written is stored: the
+    /// result of vkd_zob_close(), 0 if the document was closed already.
+    cd_error_t close();
+
+private:
+    VKD_H_ZOBDoc(int index, const QString& path);
+
+    int m_index;
+    QString m_path;
+};

@@ -1,0 +1,54 @@
+#include "VKD_H_ZOBDoc.h"
+
+VKD_H_ZOBDoc::VKD_H_ZOBDoc(int index, const QString& path)
+    : m_index(index)
+    , m_path(path)
+{
+}
+
+VKD_H_ZOBDoc::~VKD_H_ZOBDoc()
+{
+    close();
+}
+
+namespace {
+int openIndex(decltype(&vkd_zob_open) operation, const QString& path, cd_error_t* status)
+{
+    int index = -1;
+    const cd_error_t result = operation(path.toUtf8().constData(), &index);
+    if (status)
+        *status = result;
+    return index;
+}
+} // namespace
+
+std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::open(const QString& path, cd_error_t* status)
+{
+    const int index = openIndex(&vkd_zob_open, path, status);
+    return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
+}
+
+std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::create(const QString& path, cd_error_t* status)
+{
+    const int index = openIndex(&vkd_zob_create, path, status);
+    return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
+}
+
+int VKD_H_ZOBDoc::index() const
+{
+    return m_index;
+}
+
+QString VKD_H_ZOBDoc::path() const
+{
+    return m_path;
+}
+
+cd_error_t VKD_H_ZOBDoc::close()
+{
+    if (m_index < 0)
+        return VKD_ZOB_OK;
+    const cd_error_t status = vkd_zob_close(m_index);
+    m_index = -1;
+    return status;
+}

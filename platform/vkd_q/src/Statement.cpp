@@ -1,0 +1,54 @@
+#include "Statement.h"
+
+#include <sqlite3.h>
+
+Statement::~Statement()
+{
+    sqlite3_finalize(m_statement);
+}
+
+int Statement::start(sqlite3* connection, const char* sql, int first, int second)
+{
+    if (!m_statement) {
+        const int code = sqlite3_prepare_v3(connection, sql, -1, SQLITE_PREPARE_PERSISTENT,
+                                            &m_statement, nullptr);
+        if (code != SQLITE_OK)
+            return code;
+    }
+    bind(1, first);
+    return bind(2, second);
+}
+
+int Statement::bind(int parameter, int value)
+{
+    return sqlite3_bind_int(m_statement, parameter, value);
+}
+
+int Statement::bindBytes(int parameter, const void* bytes, int length)
+{
+    // A null pointer would store a null, but an empty record is a record.
+    return length == 0 ? sqlite3_bind_zeroblob(m_statement, parameter, 0)
+                       : sqlite3_bind_blob(m_statement, parameter, bytes, length, SQLITE_STATIC);
+}
+
+int Statement::step()
+{
+    return sqlite3_step(m_statement);
+}
+
+int Statement::column(int index) const
+{
+    return sqlite3_column_int(m_statement, index);
+}
+
+const void* Statement::columnBytes(int index, int* length) const
+{
+    const void* bytes = sqlite3_column_blob(m_statement, index);
+    *length = sqlite3_column_bytes(m_statement, index);
+    return bytes;
+}
+
+void Statement::done()
+{
+    sqlite3_reset(m_statement);
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// A prepared statement that is kept for the life of its database and reset after each use, so that
+/// it never holds a lock between two calls. Used by ZobDatabase only.
+class Statement
+{
+public:
+    Statement() = default;
+    ~Statement();
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+
+    /// Prepares `sql` on the first call and binds the integers to its first parameters. The result
+    /// is SQLite's code.
+    int start(sqlite3* connection, const char* sql, int first, int second);
+    int bind(int parameter, int value);
+    /// The bytes have to live until done().
+    int bindBytes(int parameter, const void* bytes, int length);
+    int step();
+    int column(int index) const;
+    const void* columnBytes(int index, int* length) const;
+    void done();
+
+private:
+    sqlite3_stmt* m_statement = nullptr;
+};

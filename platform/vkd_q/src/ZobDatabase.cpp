@@ -1,0 +1,346 @@
+#include "ZobDatabase.h"
+
+#include "vkd_lib_value.h"
+#include "ZobStatus.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+#include <thread>
+
+namespace {
+constexpr int ApplicationId = 0x564b4442; // "VKDB"
+constexpr int SchemaVersion = 1;
+constexpr int LockDeadlineKey = 201;
+constexpr int DefaultLockDeadline = 5000; // ms
+
+constexpr char Schema[] = "BEGIN;"
+                          "CREATE TABLE record(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL,"
+                          " position INTEGER NOT NULL, data BLOB NOT NULL,"
+                          " PRIMARY KEY(key1, key2, position)) WITHOUT ROWID;"
+                          "PRAGMA application_id = 1447773250;"
+                          "PRAGMA user_version = 1;"
+                          "COMMIT;";
+static_assert(ApplicationId == 1447773250 && SchemaVersion == 1);
+
+constexpr char GetSql[] = "SELECT data FROM record WHERE key1=?1 AND key2=?2 AND position=?3";
+constexpr char AnySql[] = "SELECT 1 FROM record WHERE key1=?1 AND key2=?2 LIMIT 1";
+constexpr char NextSql[] = "SELECT key1, key2 FROM record WHERE (key1, key2) >= (?1, ?2)"
+                           " ORDER BY key1, key2 LIMIT 1";
+constexpr char FirstSql[] = "INSERT OR REPLACE INTO record VALUES(?1, ?2, 0, ?3)";
+constexpr char AppendSql[] = "INSERT INTO record SELECT ?1, ?2, ifnull(max(position) + 1, 0), ?3"
+                             " FROM record WHERE key1=?1 AND key2=?2";
+constexpr char ClearSql[] = "DELETE FROM record WHERE key1=?1 AND key2=?2";
+
+/// Called by SQLite while another program holds the file: sleeps shortly and gives up after the
+/// deadline. Short sleeps keep a queue of writers fair.
+int waitForOther(void*, int calls)
+{
+    using Clock = std::chrono::steady_clock;
+    static thread_local Clock::time_point start;
+    if (calls == 0)
+        start = Clock::now();
+    const int setting = vkd_lib_getvalue(LockDeadlineKey);
+    const int deadline = setting > 0 ? setting : DefaultLockDeadline;
+    if (Clock::now() - start >= std::chrono::milliseconds(deadline))
+        return 0;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return 1;
+}
+
+/// A file without any write permission is meant to stay as it is, even if this user could write it.
+bool isWriteProtected(const QString& path)
+{
+    const QFileInfo file(path);
+    const auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return !(file.permissions() & anyWrite) || !file.isWritable();
+}
+} // namespace
+
+void ZobDatabase::Closer::operator()(sqlite3* connection) const
+{
+    sqlite3_close(connection);
+}
+
+ZobDatabase::ZobDatabase(const QString& path)
+    : m_path(path)
+{
+}
+
+ZobDatabase::~ZobDatabase() = default;
+
+std::unique_ptr<ZobDatabase> ZobDatabase::open(const QString& path, cd_error_t* status)
+{
+    std::unique_ptr<ZobDatabase> database(new ZobDatabase(path));
+    if (!QFileInfo(path).isFile())
+        *status = reportZob(VKD_ZOB_NO_FILE, "open", path);
+    else if (QFileInfo(path).size() == 0) // would pass as a sound database without tables
+        *status = reportZob(VKD_ZOB_NO_PROJECT, "open", path, QStringLiteral("it is empty"));
+    else if ((*status = database->connect(isWriteProtected(path) ? SQLITE_OPEN_READONLY
+                                                                 : SQLITE_OPEN_READWRITE)) ==
+             VKD_ZOB_OK)
+        *status = database->checkFile();
+    return *status == VKD_ZOB_OK ? std::move(database) : nullptr;
+}
+
+std::unique_ptr<ZobDatabase> ZobDatabase::create(const QString& path, cd_error_t* status)
+{
+    std::unique_ptr<ZobDatabase> database(new ZobDatabase(path));
+    // Made exclusively, so that two programs cannot both believe that the file is theirs.
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        *status = reportZob(VKD_ZOB_NO_FILE, "create", path, file.errorString());
+        return nullptr;
+    }
+    file.close();
+    *status = database->connect(SQLITE_OPEN_READWRITE);
+    if (*status == VKD_ZOB_OK)
+        *status = database->makeSchema();
+    if (*status == VKD_ZOB_OK)
+        return database;
+    database.reset();
+    file.remove();
+    return nullptr;
+}
+
+std::unique_ptr<ZobDatabase> ZobDatabase::inMemory(cd_error_t* status)
+{
+    std::unique_ptr<ZobDatabase> database(new ZobDatabase(QStringLiteral(":memory:")));
+    *status = database->connect(SQLITE_OPEN_READWRITE);
+    if (*status == VKD_ZOB_OK)
+        *status = database->makeSchema();
+    return *status == VKD_ZOB_OK ? std::move(database) : nullptr;
+}
+
+cd_error_t ZobDatabase::connect(int flags)
+{
+    sqlite3* connection = nullptr;
+    const int code = sqlite3_open_v2(m_path.toUtf8().constData(), &connection, flags, nullptr);
+    m_connection.reset(connection);
+    if (code != SQLITE_OK)
+        return reportZob(VKD_ZOB_NO_FILE, "open", m_path, QString::fromUtf8(sqlite3_errstr(code)));
+    sqlite3_extended_result_codes(connection, 0);
+    sqlite3_busy_handler(connection, waitForOther, nullptr);
+    return VKD_ZOB_OK;
+}
+
+cd_error_t ZobDatabase::makeSchema()
+{
+    const cd_error_t status = execute("PRAGMA synchronous = EXTRA;", "create");
+    return status == VKD_ZOB_OK ? execute(Schema, "create") : status;
+}
+
+cd_error_t ZobDatabase::checkFile()
+{
+    int id = 0;
+    int version = 0;
+    cd_error_t status = number("PRAGMA application_id", &id);
+    if (status == VKD_ZOB_OK && id != ApplicationId)
+        status = reportZob(VKD_ZOB_NO_PROJECT, "open", m_path);
+    if (status == VKD_ZOB_OK)
+        status = number("PRAGMA user_version", &version);
+    if (status == VKD_ZOB_OK && version != SchemaVersion)
+        status = reportZob(version > SchemaVersion ? VKD_ZOB_NEWER : VKD_ZOB_DAMAGED, "open",
+                           m_path, QStringLiteral("version %1").arg(version));
+    if (status == VKD_ZOB_OK)
+        status = checkSoundness();
+    if (status == VKD_ZOB_OK) // with a deleted journal, FULL can lose a commit in a power cut
+        status = execute("PRAGMA synchronous = EXTRA;", "open");
+    return status;
+}
+
+cd_error_t ZobDatabase::checkSoundness()
+{
+    sqlite3_stmt* check = nullptr;
+    int code = sqlite3_prepare_v2(m_connection.get(), "PRAGMA quick_check(1)", -1, &check, nullptr);
+    if (code == SQLITE_OK)
+        code = sqlite3_step(check);
+    const auto* text = code == SQLITE_ROW ? sqlite3_column_text(check, 0) : nullptr;
+    const QString result = QString::fromUtf8(reinterpret_cast<const char*>(text)).simplified();
+    cd_error_t status = VKD_ZOB_OK;
+    if (code != SQLITE_ROW)
+        status = fail(code, "open");
+    else if (result != QLatin1String("ok"))
+        status = reportZob(VKD_ZOB_DAMAGED, "open", m_path, result);
+    sqlite3_finalize(check);
+    return status;
+}
+
+cd_error_t ZobDatabase::number(const char* sql, int* value)
+{
+    sqlite3_stmt* statement = nullptr;
+    int code = sqlite3_prepare_v2(m_connection.get(), sql, -1, &statement, nullptr);
+    if (code == SQLITE_OK)
+        code = sqlite3_step(statement);
+    if (code == SQLITE_ROW)
+        *value = sqlite3_column_int(statement, 0);
+    const cd_error_t status = code == SQLITE_ROW ? cd_error_t(VKD_ZOB_OK) : fail(code, "open");
+    sqlite3_finalize(statement);
+    return status;
+}
+
+cd_error_t ZobDatabase::execute(const char* sql, const char* action)
+{
+    const int code = sqlite3_exec(m_connection.get(), sql, nullptr, nullptr, nullptr);
+    return code == SQLITE_OK ? cd_error_t(VKD_ZOB_OK) : fail(code, action);
+}
+
+cd_error_t ZobDatabase::fail(int sqliteCode, const char* action)
+{
+    return reportZob(zobStatus(m_connection.get(), sqliteCode), action, m_path,
+                     QString::fromUtf8(sqlite3_errmsg(m_connection.get())));
+}
+
+cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int position)
+{
+    if (position < 0 || *length < 0)
+        return reportZob(VKD_ZOB_BAD_CALL, "read", m_path);
+    // The statement that follows takes the shared lock, which then lasts to the end of the pass.
+    if (position == 0 && m_taken.empty() && !m_snapshot)
+        m_snapshot = execute("BEGIN", "read") == VKD_ZOB_OK;
+    int code = m_get.start(m_connection.get(), GetSql, key1, key2);
+    if (code == SQLITE_OK) {
+        m_get.bind(3, position);
+        code = m_get.step();
+    }
+    if (code != SQLITE_ROW) {
+        const cd_error_t status =
+            code == SQLITE_DONE ? positionAfterEnd(key1, key2) : fail(code, "read");
+        m_get.done();
+        endSnapshot();
+        return status;
+    }
+    int stored = 0;
+    const void* bytes = m_get.columnBytes(0, &stored);
+    const cd_error_t status = stored > *length ? VKD_ZOB_CUT : VKD_ZOB_OK;
+    *length = std::min(stored, *length);
+    if (*length > 0)
+        std::memcpy(record, bytes, size_t(*length));
+    m_get.done();
+    return status;
+}
+
+cd_error_t ZobDatabase::positionAfterEnd(int key1, int key2)
+{
+    int code = m_any.start(m_connection.get(), AnySql, key1, key2);
+    if (code == SQLITE_OK)
+        code = m_any.step();
+    m_any.done();
+    if (code == SQLITE_ROW)
+        return VKD_ZOB_END;
+    return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_NO_KEY) : fail(code, "read");
+}
+
+cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, int position)
+{
+    if (m_refused.count({key1, key2}))
+        return VKD_ZOB_LOCKED; // the failed take has said why
+    // A full disk may have ended the transaction: what is put now would be stored on its own.
+    if (!m_taken.empty() && m_putFailed)
+        return VKD_ZOB_FAILED;
+    if (length < 0 || position < 0 || position > 1)
+        return reportZob(VKD_ZOB_BAD_CALL, "write", m_path);
+    if (m_taken.empty())
+        endSnapshot();
+    int code = startPut(key1, key2, record, length, position);
+    Statement& statement = putStatement(length, position);
+    if (code == SQLITE_OK)
+        code = statement.step();
+    const cd_error_t status = code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : fail(code, "write");
+    statement.done();
+    if (status != VKD_ZOB_OK && !m_taken.empty())
+        m_putFailed = true;
+    return status;
+}
+
+Statement& ZobDatabase::putStatement(int length, int position)
+{
+    if (position == 1)
+        return m_append;
+    return length == 0 ? m_clear : m_first;
+}
+
+int ZobDatabase::startPut(int key1, int key2, const void* record, int length, int position)
+{
+    Statement& statement = putStatement(length, position);
+    const char* sql = &statement == &m_append  ? AppendSql
+                      : &statement == &m_clear ? ClearSql
+                                               : FirstSql;
+    const int code = statement.start(m_connection.get(), sql, key1, key2);
+    if (code != SQLITE_OK || &statement == &m_clear)
+        return code;
+    return statement.bindBytes(3, record, length);
+}
+
+cd_error_t ZobDatabase::take(int key1, int key2)
+{
+    endSnapshot();
+    if (m_taken.empty()) {
+        const cd_error_t status = execute("BEGIN IMMEDIATE", "take the lock of");
+        if (status != VKD_ZOB_OK) {
+            m_refused.insert({key1, key2});
+            return status;
+        }
+        m_putFailed = false;
+    }
+    m_refused.erase({key1, key2});
+    m_taken.insert({key1, key2});
+    return VKD_ZOB_OK;
+}
+
+void ZobDatabase::release(int key1, int key2)
+{
+    m_refused.erase({key1, key2});
+    endSnapshot();
+    if (m_taken.erase({key1, key2}) && m_taken.empty())
+        storeOrDrop();
+}
+
+void ZobDatabase::storeOrDrop()
+{
+    cd_error_t status = VKD_ZOB_FAILED;
+    if (!m_putFailed) // else the put has said why
+        status = execute("COMMIT", "store the changes in");
+    if (status == VKD_ZOB_OK)
+        return;
+    // Some failures have rolled back already; what the old content was, it is again.
+    if (!sqlite3_get_autocommit(m_connection.get()))
+        execute("ROLLBACK", "undo the changes in");
+    if (m_releaseStatus == VKD_ZOB_OK)
+        m_releaseStatus = status;
+}
+
+void ZobDatabase::firstPairFrom(int* key1, int* key2)
+{
+    int code = m_next.start(m_connection.get(), NextSql, *key1, *key2);
+    if (code == SQLITE_OK)
+        code = m_next.step();
+    if (code != SQLITE_ROW && code != SQLITE_DONE)
+        fail(code, "search");
+    *key1 = code == SQLITE_ROW ? m_next.column(0) : -1;
+    *key2 = code == SQLITE_ROW ? m_next.column(1) : -1;
+    m_next.done();
+}
+
+void ZobDatabase::endSnapshot()
+{
+    if (!m_snapshot)
+        return;
+    m_snapshot = false;
+    if (!sqlite3_get_autocommit(m_connection.get()))
+        execute("COMMIT", "finish reading");
+}
+
+cd_error_t ZobDatabase::finish()
+{
+    endSnapshot();
+    if (!m_taken.empty() && !sqlite3_get_autocommit(m_connection.get()))
+        execute("ROLLBACK", "undo the changes in");
+    m_taken.clear();
+    return m_releaseStatus;
+}

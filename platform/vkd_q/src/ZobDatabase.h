@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Statement.h"
+#include "vkd_zob.h"
+
+#include <QString>
+
+#include <memory>
+#include <set>
+#include <utility>
+
+/// One open store: an SQLite file with a rollback journal, or a store in memory. Records lie in one
+/// table by key pair and position. It knows transactions and states of reading, and maps SQLite's
+/// codes to those of the ZOB; the list of open stores is kept by vkd_zob.cpp.
+class ZobDatabase
+{
+public:
+    /// Each of the three gives null and a status, after its log line, if there is no usable store.
+    static std::unique_ptr<ZobDatabase> open(const QString& path, cd_error_t* status);
+    static std::unique_ptr<ZobDatabase> create(const QString& path, cd_error_t* status);
+    static std::unique_ptr<ZobDatabase> inMemory(cd_error_t* status);
+    ~ZobDatabase();
+
+    cd_error_t get(int key1, int key2, void* record, int* length, int position);
+    cd_error_t put(int key1, int key2, const void* record, int length, int position);
+    cd_error_t take(int key1, int key2);
+    void release(int key1, int key2);
+    /// Moves the pair to the first one in use from there on, or to -1, -1.
+    void firstPairFrom(int* key1, int* key2);
+    /// Drops what is still taken; gives the first failure of a release.
+    cd_error_t finish();
+
+private:
+    using KeyPair = std::pair<int, int>;
+
+    explicit ZobDatabase(const QString& path);
+    cd_error_t connect(int flags);
+    cd_error_t checkFile();
+    cd_error_t makeSchema();
+    cd_error_t execute(const char* sql, const char* action);
+    cd_error_t number(const char* sql, int* value);
+    cd_error_t checkSoundness();
+    cd_error_t fail(int sqliteCode, const char* action);
+    cd_error_t positionAfterEnd(int key1, int key2);
+    int startPut(int key1, int key2, const void* record, int length, int position);
+    Statement& putStatement(int length, int position);
+    void endSnapshot();
+    void storeOrDrop();
+
+    QString m_path;
+    struct Closer
+    {
+        void operator()(sqlite3* connection) const;
+    };
+    std::unique_ptr<sqlite3, Closer> m_connection; // outlives the statements below
+    Statement m_get, m_any, m_next, m_first, m_append, m_clear;
+    std::set<KeyPair> m_taken;
+    std::set<KeyPair> m_refused;
+    bool m_snapshot = false;  // a transaction for reading is open
+    bool m_putFailed = false; // the open transaction for writing will be dropped
+    cd_error_t m_releaseStatus = VKD_ZOB_OK;
+};
