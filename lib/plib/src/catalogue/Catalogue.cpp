@@ -1,0 +1,50 @@
+#include "Catalogue.h"
+
+#include "CatalogueParser.h"
+
+#include <vkd_lib_searchpath.h>
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace plib {
+
+namespace {
+constexpr char FileName[] = "graphicaloutput.data";
+constexpr int SearchMode = 3;
+
+/// The messages belong to the tree, which is what the user sees fail.
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("GraphicalOutputTreeWidget", text);
+}
+} // namespace
+
+Catalogue& sharedCatalogue()
+{
+    static Catalogue catalogue;
+    return catalogue;
+}
+
+bool loadCatalogue(Catalogue& catalogue, int language, const ShowError& showError)
+{
+    if (language == catalogue.catalogueLanguage)
+        return true;
+    const auto path = vkd_lib_searchpath(FileName, SearchMode);
+    if (!path) {
+        showError(translated("File not found"),
+                  translated("File %1 not found").arg(QLatin1String(FileName)));
+        return false;
+    }
+    QFile file(QFile::decodeName(path->c_str()));
+    if (!file.open(QIODevice::ReadOnly)) {
+        showError(translated("Couldn't open file"),
+                  translated("Failed to open file %1").arg(file.fileName()));
+        return false;
+    }
+    parseCatalogue(file, catalogue.list);
+    catalogue.catalogueLanguage = language;
+    return true;
+}
+
+} // namespace plib

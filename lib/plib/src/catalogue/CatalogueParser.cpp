@@ -1,0 +1,231 @@
+#include "CatalogueParser.h"
+
+#include "captionText.h"
+
+#include <vkd_lib_text.h>
+
+#include <QIODevice>
+
+#include <algorithm>
+#include <cstring>
+
+namespace plib {
+
+namespace {
+bool isAscii(const char* bytes, int length)
+{
+    quint64 all = 0;
+    int i = 0;
+    for (; i + 8 <= length; i += 8) {
+        quint64 eight;
+        std::memcpy(&eight, bytes + i, 8);
+        all |= eight;
+    }
+    for (; i < length; ++i)
+        all |= quint64(static_cast<unsigned char>(bytes[i]));
+    return !(all & Q_UINT64_C(0x8080808080808080));
+}
+
+/// What QChar::isSpace() says of an ASCII character.
+bool isSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+QLatin1String trimmed(const char* begin, const char* end)
+{
+    while (begin < end && isSpace(*begin))
+        ++begin;
+    while (begin < end && isSpace(end[-1]))
+        --end;
+    return QLatin1String(begin, int(end - begin));
+}
+
+int ctrlOf(const QString& word)
+{
+    static const struct
+    {
+        const char* word;
+        int ctrl;
+    } words[] = {{"last", 1}, {"sngl", 0}, {"nonl", 0},          {"supp", 0},   {"eige", 0},
+                 {"zrt1", 0}, {"zrt2", 0}, {"desi", CtrlDesign}, {"beam", -10}, {"dsln", -10}};
+    for (const auto& known : words)
+        if (word == QLatin1String(known.word))
+            return known.ctrl;
+    return CtrlStandsAlone;
+}
+
+int rowClassOf(const QString& suffix)
+{
+    if (suffix == QLatin1String("l"))
+        return 1;
+    if (suffix == QLatin1String("c"))
+        return 2;
+    return suffix == QLatin1String("e") ? 3 : 0;
+}
+} // namespace
+
+CatalogueParser::CatalogueParser()
+{
+    // The cache of parts starts as a line of blank columns; the record has to agree with it.
+    for (int column = 0; column < UsedParts; ++column)
+        storeColumn(column);
+}
+
+CatalogueParser::Outcome CatalogueParser::parseLine(const char* bytes, int length)
+{
+    m_partCount = 0;
+    return isAscii(bytes, length) ? parseAscii(bytes, length)
+                                  : parseText(QString::fromUtf8(bytes, length));
+}
+
+/// The same as parseText() for a line of ASCII alone, where a byte is a character.
+CatalogueParser::Outcome CatalogueParser::parseAscii(const char* bytes, int length)
+{
+    const char* const end = bytes + length;
+    if (length >= 2 && bytes[0] == '/' && bytes[1] == '/')
+        return Outcome::Comment;
+    if (std::all_of(bytes, end, isSpace))
+        return Outcome::Blank;
+    std::array<QLatin1String, UsedParts> parts;
+    for (const char* begin = bytes; begin < end;) {
+        const void* found = std::memchr(begin, '|', size_t(end - begin));
+        const char* bar = found ? static_cast<const char*>(found) : end;
+        if (bar > begin) {
+            if (m_partCount < UsedParts)
+                parts[size_t(m_partCount)] = QLatin1String(begin, int(bar - begin));
+            ++m_partCount;
+        }
+        begin = bar + 1;
+    }
+    if (m_partCount < MinimumParts)
+        return Outcome::TooFewParts;
+    for (int i = 0; i < std::min(m_partCount, UsedParts); ++i) {
+        const QLatin1String part = parts[size_t(i)];
+        storePart(i, trimmed(part.begin(), part.end()));
+    }
+    return outcome();
+}
+
+CatalogueParser::Outcome CatalogueParser::parseText(const QString& line)
+{
+    if (line.startsWith(QLatin1String("//")))
+        return Outcome::Comment;
+    if (line.trimmed().isEmpty())
+        return Outcome::Blank;
+    const auto parts = line.splitRef(QLatin1Char('|'), Qt::SkipEmptyParts);
+    m_partCount = parts.size();
+    if (m_partCount < MinimumParts)
+        return Outcome::TooFewParts;
+    for (int i = 0; i < std::min(m_partCount, UsedParts); ++i)
+        storePart(i, parts[i].trimmed().toString());
+    return outcome();
+}
+
+CatalogueParser::Outcome CatalogueParser::outcome() const
+{
+    if (m_record.scriptGerman.isEmpty())
+        return Outcome::NoGermanScript;
+    return m_record.scriptEnglish.isEmpty() ? Outcome::NoEnglishScript : Outcome::Accepted;
+}
+
+template <typename Text>
+void CatalogueParser::storePart(int column, Text trimmed)
+{
+    QString& part = m_parts[size_t(column)];
+    if (part == trimmed)
+        return;
+    part = QString(trimmed);
+    storeColumn(column);
+}
+
+void CatalogueParser::storeColumn(int column)
+{
+    const QString& part = m_parts[size_t(column)];
+    GraphicalOutputRecord& r = m_record;
+    switch (column) {
+    case 0:
+        r.prog1 = part.toInt();
+        break;
+    case 1:
+        r.prog2 = part.toInt();
+        break;
+    case 2:
+        r.prog3 = part.toInt();
+        break;
+    case 3:
+        storeCaption(part, 1, &r.title1, &r.id1);
+        break;
+    case 4:
+        storeCaption(part, 2, &r.title2, &r.id2);
+        break;
+    case 5:
+        storeCaption(part, 3, &r.title3, &r.id3);
+        break;
+    case 6:
+        r.contentTag = part;
+        break;
+    case 7:
+        r.number7 = part.toInt();
+        break;
+    case 8:
+        storeCaseWord(part);
+        break;
+    case 9:
+        r.preselect = part.toInt();
+        break;
+    case 10:
+        r.viewKind = part.toInt();
+        break;
+    case 11:
+        r.text11 = part;
+        break;
+    case 12:
+        r.systemMask = part.toInt();
+        break;
+    case 13:
+        r.scriptGerman = part;
+        break;
+    case 14:
+        r.scriptEnglish = part;
+        break;
+    default:
+        break;
+    }
+}
+
+void CatalogueParser::storeCaption(const QString& part, int place, QString* caption,
+                                   QString* identifier)
+{
+    *identifier = QStringLiteral("    00%1").arg(place);
+    *caption = part;
+    if (!isKeyText(part))
+        return;
+    const int prefixLength = hasQualifier(part) ? 7 : 4;
+    *identifier = part.left(prefixLength).rightJustified(7);
+    const QString text = captionText(part);
+    *caption = (text.isEmpty() ? part.mid(prefixLength) : text).trimmed();
+}
+
+void CatalogueParser::storeCaseWord(const QString& part)
+{
+    m_record.caseWord = part;
+    const QString lower = part.toLower();
+    const int dash = lower.indexOf(QLatin1Char('-'));
+    m_record.rowClass = dash < 0 ? 0 : rowClassOf(lower.mid(dash + 1));
+    m_record.ctrl = ctrlOf(dash < 0 ? lower : lower.left(dash));
+    const int designMark = m_record.ctrl == CtrlDesign ? 3 : 2;
+    m_record.rowMark = m_record.rowClass == 3 ? designMark : 1;
+}
+
+void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list)
+{
+    vkd_lib_opentext("grav");
+    CatalogueParser parser;
+    char line[CatalogueParser::LineBuffer];
+    for (qint64 length; (length = device.readLine(line, sizeof line)) > 0;)
+        if (parser.parseLine(line, int(length)) == CatalogueParser::Outcome::Accepted)
+            list.push_back(parser.record());
+}
+
+} // namespace plib

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "GraphicalOutputRecord.h"
+
+#include <memory>
+#include <vector>
+
+namespace plib {
+
+/// An item of an output tree without a screen. It has the handful of members that the algorithms on
+/// trees use, spelt as QTreeWidgetItem and the tree's own item class spell them. Parents own their
+/// children; the root, which shows nothing, stands for the tree.
+class OutputNode
+{
+public:
+    OutputNode() = default;
+    OutputNode(const OutputNode&) = delete;
+    OutputNode& operator=(const OutputNode&) = delete;
+
+    GraphicalOutputRecord record;
+    int isLC = -1;
+    int number = 0;
+    int level = 0;
+    bool plain = false; ///< stands for an item of the base class, which is no output item
+
+    OutputNode* addChild(const QString& text);
+    void removeChild(OutputNode* child);
+
+    int childCount() const { return int(m_children.size()); }
+    OutputNode* child(int index) const { return m_children[size_t(index)].get(); }
+    /// Null for top level items, as with QTreeWidgetItem.
+    OutputNode* parent() const { return m_parent && m_parent->m_parent ? m_parent : nullptr; }
+    QString text(int) const { return m_text; }
+    Qt::CheckState checkState(int) const { return m_state; }
+    void setCheckState(int, Qt::CheckState state) { m_state = state; }
+    bool isExpanded() const { return m_expanded; }
+    void setExpanded(bool expanded) { m_expanded = expanded; }
+
+private:
+    OutputNode* m_parent = nullptr;
+    QString m_text;
+    Qt::CheckState m_state = Qt::Unchecked;
+    bool m_expanded = false;
+    std::vector<std::unique_ptr<OutputNode>> m_children;
+};
+
+/// The output item that this node is, or null for a plain one. Trees of widgets bring a function of
+/// the same name.
+inline OutputNode* outputItem(OutputNode* node)
+{
+    return node->plain ? nullptr : node;
+}
+
+/// What TreeBuilder needs of a tree of plain nodes: no icons, all else as it is.
+class OutputNodeOperations
+{
+public:
+    explicit OutputNodeOperations(OutputNode* root)
+        : m_root(root)
+    {
+    }
+
+    OutputNode* create(OutputNode* parent, const QString& text) { return parent->addChild(text); }
+    void remove(OutputNode* node) { (node->parent() ? node->parent() : m_root)->removeChild(node); }
+    void plotIcon(OutputNode*) {}
+    void rowIcon(OutputNode*) {}
+    void expand(OutputNode* node) { node->setExpanded(true); }
+
+private:
+    OutputNode* m_root;
+};
+
+} // namespace plib

@@ -1,0 +1,120 @@
+#include "captionText.h"
+
+#include <vkd_lib_text.h>
+#include <vkd_lib_value.h>
+
+namespace plib {
+
+namespace {
+constexpr int LanguageKey = 102;
+constexpr int QualifierLength = 3;
+constexpr int TokenLength = 4;
+
+/// What a qualifier adds to a caption.
+struct Addition
+{
+    const char* characters; ///< the qualifiers that this line is for
+    const char* token;
+    const char* suffix; ///< "%" stands for the qualifier itself
+};
+
+constexpr Addition FirstAdditions[] = {
+    {"1", "", "I"},    {"2", "", "II"},      {"3", "", "III"},     {"ABC", "&0ZH", ""},
+    {"O", "^19O", ""}, {"S", "^1LN", ""},    {"T", "^1LT", ""},    {"U", "^19U", ""},
+    {"V", "&0Z1", ""}, {"XYZ", "&0ZG", "%"}, {"abc", "&0ZM", "%"}, {"s", "^1LA", ""},
+    {"t", "^1LB", ""}, {"xyz", "&0ZL", "%"},
+};
+
+constexpr Addition SecondAdditions[] = {
+    {"+", "^143", "1 + 2"}, {"1", "^143", "1"}, {"2", "^143", "2"},
+    {"h", "&7ZH", ""},      {"st", "&7ZT", ""},
+};
+
+constexpr Addition ThirdAdditions[] = {
+    {"A", "&25C", ""}, {"C", "&27W", ""}, {"D", "&271", ""},
+    {"I", "&20A", ""}, {"R", "&27Q", ""}, {"S", "&27E", ""},
+};
+
+bool isTokenSign(QChar sign)
+{
+    return sign == QLatin1Char('&') || sign == QLatin1Char('^') || sign == QLatin1Char('$');
+}
+
+/// The text of class 0, 1 or 4 for a token; the token itself, with `isToken` false, if it is none.
+QString tokenText(const QString& token, bool* isToken)
+{
+    const QChar sign = token.at(0);
+    *isToken = isTokenSign(sign);
+    if (!*isToken)
+        return token;
+    const int textClass = sign == QLatin1Char('&') ? 0 : sign == QLatin1Char('^') ? 1 : 4;
+    const QByteArray key = token.mid(1, 3).toLatin1();
+    const QString text = QString::fromStdString(
+        vkd_lib_convtext(textClass, vkd_lib_getvalue(LanguageKey), key.constData()));
+    // A short form may stand before a ">"; a text that begins with one is meant to.
+    const int mark = textClass == 0 ? text.indexOf(QLatin1Char('>')) : -1;
+    return mark > 0 ? text.mid(mark + 1) : text;
+}
+
+enum class Place { Behind, Before };
+
+/// Adds the text of the token, which may be empty, and the suffix. The suffix stands even where the
+/// token has no text. False if the token is none.
+bool expand(const QString& token, const QString& suffix, Place place, QString* out)
+{
+    const QLatin1Char blank(' ');
+    bool isToken = true;
+    const QString text = token.isEmpty() ? QString() : tokenText(token, &isToken);
+    if (!text.isEmpty())
+        *out = place == Place::Before ? text + blank + *out : *out + blank + text;
+    if (!suffix.isEmpty())
+        *out += blank + suffix;
+    return isToken;
+}
+
+template <size_t N>
+void addQualifier(const Addition (&additions)[N], QChar qualifier, Place place, QString* out)
+{
+    for (const Addition& addition : additions) {
+        if (!QLatin1String(addition.characters).contains(qualifier))
+            continue;
+        const bool repeats = addition.suffix[0] == '%';
+        expand(QString::fromLatin1(addition.token),
+               repeats ? QString(qualifier) : QString::fromLatin1(addition.suffix), place, out);
+        return;
+    }
+}
+} // namespace
+
+bool isKeyText(const QString& text)
+{
+    if (text.size() >= TokenLength && (text.at(0) == QLatin1Char('@') || isTokenSign(text.at(0))))
+        return true;
+    // An "@" begins an identifier in the first place only.
+    return text.size() >= QualifierLength + TokenLength && isTokenSign(text.at(QualifierLength));
+}
+
+bool hasQualifier(const QString& keyText)
+{
+    return isKeyText(keyText.mid(QualifierLength, TokenLength));
+}
+
+QString captionText(const QString& field)
+{
+    const bool qualified = hasQualifier(field);
+    QString out;
+    if (!expand(field.mid(qualified ? QualifierLength : 0, TokenLength), QString(), Place::Behind,
+                &out))
+        return QString();
+    // An empty caption is not a null one: the token is one, it only has no text.
+    if (out.isNull())
+        out = QLatin1String("");
+    if (!qualified)
+        return out;
+    addQualifier(ThirdAdditions, field.at(2), Place::Before, &out);
+    addQualifier(FirstAdditions, field.at(0), Place::Behind, &out);
+    addQualifier(SecondAdditions, field.at(1), Place::Behind, &out);
+    return out;
+}
+
+} // namespace plib

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "GraphicalOutputRecord.h"
+#include "rowLabel.h"
+
+#include <VKD_P_WidgetGraphicalOutput_Progname.h>
+
+#include <functional>
+#include <vector>
+
+namespace plib {
+
+/// The keywords of one language, and what the lines written so far have set.
+struct ScriptContext
+{
+    int lastCase = -1;
+    QString lastView;
+    QString viewWord;
+    QString lcWord;
+    QString designWord;
+    QString andWord;
+    QString firstColour;
+    QString secondColour;
+    QString colourEnd;
+};
+
+ScriptContext scriptContext(bool english);
+
+/// Writes the lines of one run. The walk over the tree is collectScriptLines(); here are the rules
+/// for one checked plot or row.
+class ScriptLineWriter
+{
+public:
+    using KindOfSystem = std::function<int()>;
+
+    /// `kindOfSystem` is asked at most once, and only if a plot's view depends on it.
+    ScriptLineWriter(std::vector<QString>& lines, bool english, int progname,
+                     KindOfSystem kindOfSystem);
+
+    /// The script text of a record in the language of the run.
+    const QString& script(const GraphicalOutputRecord& record) const;
+    void writeView(int viewKind);
+    /// Everything of a load case whose number is above 0. `label` gives its text, asked for only
+    /// where it counts, and `above` the record of the second caption (or null), whose script tells
+    /// the unit.
+    template <typename Label, typename Above>
+    void writeCase(int number, const QString& text, Label label, Above above)
+    {
+        if (m_progname == VKD_P_GraphicalOutput_Split)
+            return writeSplit(number, text);
+        writeCaseLine(number);
+        const int second = secondNumber(label());
+        if (second == NoSecondNumber)
+            m_lines.push_back(text);
+        else
+            writeDouble(second, text, above());
+    }
+    void writeText(const QString& text) { m_lines.push_back(text); }
+
+private:
+    void writeSplit(int number, QString text);
+    void writeCaseLine(int number);
+    void writeDouble(int second, const QString& text, const GraphicalOutputRecord* above);
+    QString caseLine(int number) const;
+    QLatin1String viewName(int viewKind);
+
+    std::vector<QString>& m_lines;
+    const bool m_english;
+    const int m_progname;
+    KindOfSystem m_askKind;
+    bool m_kindKnown = false;
+    bool m_isSpatial = false;
+    ScriptContext m_context;
+};
+
+/// Walks the children of the item, each after its own children, and writes those that are checked.
+template <typename Node>
+void writeChildren(Node* parent, ScriptLineWriter& writer)
+{
+    const int count = parent->childCount();
+    for (int i = 0; i < count; ++i) {
+        auto* item = outputItem(parent->child(i));
+        if (!item)
+            continue;
+        writeChildren(item, writer);
+        if (item->isLC < 0 || item->checkState(0) == Qt::Unchecked)
+            continue;
+        writer.writeView(item->record.viewKind);
+        const QString& text = writer.script(item->record);
+        if (item->number == 0)
+            writer.writeText(text);
+        else if (item->number > 0)
+            // A row's parent is its plot, and the test for the unit looks at the item above the
+            // plot, with the record that first came through it, not at the plot's own: this is
+            // meant.
+            writer.writeCase(
+                item->number, text, [item] { return item->text(0); },
+                [parent] {
+                    return parent->parent() ? &outputItem(parent->parent())->record : nullptr;
+                });
+    }
+}
+
+/// Empties `lines` and fills it with the script lines of the checked plots and rows below the root,
+/// with German or English keywords; returns their number. A tree whose first item is no output item
+/// has none.
+template <typename Node>
+int collectScriptLines(Node* root, std::vector<QString>& lines, bool english, int progname,
+                       ScriptLineWriter::KindOfSystem kindOfSystem)
+{
+    lines.clear();
+    if (root->childCount() == 0 || !outputItem(root->child(0)))
+        return 0;
+    ScriptLineWriter writer(lines, english, progname, std::move(kindOfSystem));
+    for (int i = 0; i < root->childCount(); ++i)
+        writeChildren(root->child(i), writer);
+    return int(lines.size());
+}
+
+} // namespace plib

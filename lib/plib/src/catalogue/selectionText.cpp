@@ -1,0 +1,47 @@
+#include "selectionText.h"
+
+namespace plib {
+
+namespace {
+QVector<int> numbersOf(const QStringRef& text)
+{
+    const auto parts = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    QVector<int> numbers;
+    numbers.reserve(parts.size());
+    for (const QStringRef& part : parts)
+        numbers.append(part.toInt()); // what is no number reads as 0
+    return numbers;
+}
+} // namespace
+
+QString itemId(const GraphicalOutputRecord& record, int level)
+{
+    QString id = record.id1;
+    if (level >= 1)
+        id += record.id2;
+    if (level >= 2)
+        id += record.id3;
+    return id.trimmed();
+}
+
+std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty)
+{
+    std::vector<SelectionLine> result;
+    const auto lines = text.splitRef(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    *isEmpty = lines.isEmpty();
+    for (const QStringRef& line : lines) {
+        const auto parts = line.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+        if (parts.size() < 2)
+            continue;
+        const QString id = parts[1].trimmed().toString();
+        if (parts[0] == QLatin1String("Checked"))
+            result.push_back({SelectionLine::Check, id, {}});
+        else if (parts[0] == QLatin1String("Unchecked"))
+            result.push_back({SelectionLine::Uncheck, id, {}});
+        else if (parts[0] == QLatin1String("Partially") && parts.size() >= 3)
+            result.push_back({SelectionLine::Partial, id, numbersOf(parts[2])});
+    }
+    return result;
+}
+
+} // namespace plib

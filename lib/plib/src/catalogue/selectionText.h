@@ -1,0 +1,190 @@
+#pragma once
+
+#include "checkStates.h"
+#include "GraphicalOutputRecord.h"
+
+#include <QHash>
+#include <QStringList>
+#include <QVector>
+
+namespace plib {
+
+/// The identifier of an item in the selection text: the identifiers of its captions down to its own
+/// level, trimmed. A row has that of its plot.
+QString itemId(const GraphicalOutputRecord& record, int level);
+
+/// The choice of one item and what is below it, as lines of the selection text.
+template <typename Node>
+void appendSelection(Node* node, QString& text)
+{
+    auto* item = outputItem(node);
+    if (!item)
+        return;
+    const QString id = itemId(item->record, item->level);
+    const Qt::CheckState state = item->checkState(0);
+    const QLatin1String word(state == Qt::Checked ? "Checked:" : "Unchecked:");
+    const int count = item->childCount();
+    if (count > 0 && state == Qt::PartiallyChecked) {
+        if (item->level != 2) {
+            for (int i = 0; i < count; ++i)
+                appendSelection(item->child(i), text);
+            return;
+        }
+        text += QLatin1String("Partially:") + id + QLatin1String(" : ");
+        for (int i = 0; i < count; ++i)
+            if (item->child(i)->checkState(0) == Qt::Checked)
+                if (auto* row = outputItem(item->child(i)))
+                    text += QString::number(row->number) + QLatin1Char(',');
+        text += QLatin1Char('\n');
+    } else if (state == Qt::PartiallyChecked) {
+        text += QLatin1String("ERROR CASE\n"); // a leaf cannot be in between
+    } else if (count == 0 && item->number > 0) {
+        // Plots answer for their rows, so the walk does not come here. If it did, the place for the
+        // number stays in the line as it is, which readers of old files know.
+        text += word + id + QLatin1String(":%2\n");
+    } else {
+        text += word + id + QLatin1Char('\n');
+    }
+}
+
+/// The choice of the whole tree as text; begins with an empty line.
+template <typename Node>
+QString selectionText(Node* root)
+{
+    QString text(QLatin1Char('\n'));
+    for (int i = 0; i < root->childCount(); ++i)
+        appendSelection(root->child(i), text);
+    return text;
+}
+
+/// Finds items by their identifier. Of several items with the same one, that which stands last in
+/// its level is found, a caption before what is below it; rows are not looked at.
+template <typename Node>
+class ItemIndex
+{
+public:
+    explicit ItemIndex(Node* root) { add(root, 0); }
+
+    /// Null if no item has the identifier.
+    Node* findItem(const QString& id) const { return m_items.value(id); }
+
+private:
+    void add(Node* parent, int level)
+    {
+        for (int i = parent->childCount() - 1; i >= 0; --i) {
+            auto* item = outputItem(parent->child(i));
+            if (!item)
+                continue;
+            Node*& known = m_items[itemId(item->record, item->level)];
+            if (!known)
+                known = item;
+            if (level < 2)
+                add(item, level + 1);
+        }
+    }
+
+    QHash<QString, Node*> m_items;
+};
+
+/// One line of a selection text that can be applied.
+struct SelectionLine
+{
+    enum Kind { Check, Uncheck, Partial };
+    Kind kind;
+    QString id;
+    QVector<int> numbers; ///< of the rows to check, Partial only
+};
+
+/// The lines that say something; others are skipped. `isEmpty` tells that the text has no line at
+/// all, which leaves a tree as it is.
+std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty);
+
+/// Sets the check states from a selection text; what it does not name becomes unchecked. The result
+/// is that of setting item after item with an automatic update in between, but each item is
+/// touched once: the last line that reaches an item, by itself or from above, holds.
+template <typename Node>
+class SelectionApplier
+{
+public:
+    explicit SelectionApplier(Node* root)
+        : m_root(root)
+        , m_index(root)
+    {
+    }
+
+    void apply(const std::vector<SelectionLine>& lines)
+    {
+        for (const SelectionLine& line : lines)
+            if (Node* item = m_index.findItem(line.id))
+                add(item, line);
+        for (int i = 0; i < m_root->childCount(); ++i)
+            setStates(m_root->child(i), Order());
+        settleTree(m_root);
+    }
+
+private:
+    /// What a line orders for an item and all below it; a later order wins.
+    struct Order
+    {
+        int time = 0;
+        Qt::CheckState state = Qt::Unchecked;
+    };
+
+    void add(Node* item, const SelectionLine& line)
+    {
+        const bool checks = line.kind == SelectionLine::Check;
+        m_orders[item] = {++m_time, checks ? Qt::Checked : Qt::Unchecked};
+        for (int number : line.numbers)
+            if (Node* row = rowsOf(item).value(number))
+                m_orders[row] = {++m_time, Qt::Checked};
+    }
+
+    /// The children of the item by number; of two with the same number the last one.
+    const QHash<int, Node*>& rowsOf(Node* item)
+    {
+        auto found = m_rows.find(item);
+        if (found == m_rows.end()) {
+            QHash<int, Node*> rows;
+            rows.reserve(item->childCount());
+            for (int i = 0; i < item->childCount(); ++i)
+                if (auto* row = outputItem(item->child(i)))
+                    rows[row->number] = row;
+            found = m_rows.insert(item, rows);
+        }
+        return found.value();
+    }
+
+    template <typename Any>
+    void setStates(Any* node, Order order)
+    {
+        auto* item = outputItem(node);
+        if (!item)
+            return;
+        const Order own = m_orders.value(item);
+        if (own.time > order.time)
+            order = own;
+        const int count = item->childCount();
+        for (int i = 0; i < count; ++i)
+            setStates(item->child(i), order);
+        if (count == 0)
+            item->setCheckState(0, order.state);
+    }
+
+    Node* m_root;
+    ItemIndex<Node> m_index;
+    QHash<Node*, Order> m_orders;
+    QHash<Node*, QHash<int, Node*>> m_rows;
+    int m_time = 0;
+};
+
+/// Applies a selection text to the tree; a text without any line leaves it as it is.
+template <typename Node>
+void applySelection(Node* root, const QString& text)
+{
+    bool isEmpty = false;
+    const std::vector<SelectionLine> lines = parseSelection(text, &isEmpty);
+    if (!isEmpty)
+        SelectionApplier<Node>(root).apply(lines);
+}
+
+} // namespace plib

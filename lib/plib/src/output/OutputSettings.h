@@ -1,0 +1,30 @@
+#pragma once
+
+#include <VKD_P_WidgetGraphicalOutput_Progname.h>
+
+#include <QString>
+#include <QStringList>
+
+namespace plib {
+
+/// What the user set up on a graphical output page, as the script needs it. A page fills a new one
+/// for each script; the initial values are those of a new page.
+struct OutputSettings
+{
+    VKD_P_WidgetGraphicalOutput_Progname variant = VKD_P_GraphicalOutput_Standard;
+    int scaleMode = 1;     ///< 0 engineering scale, 1 scale to fit
+    int scaleIndex = 0;    ///< row of scaleRows(), 0 is "Auto"
+    QString scaleText;     ///< text of that row, such as "1:100"
+    int pageSplitId = 0;   ///< division of the sheet, 0 to 5; split variant only
+    bool hasFormat = true; ///< false in the split variant, which has no format to choose
+    int formatId = 0;      ///< 0 portrait, 1 landscape
+    int picturesId = 1;    ///< 0 one per page, 1 two per page
+    int viewId = 3;        ///< 0 X/Y, 1 X/Z, 2 Y/Z, 3 3D standard, 4 user defined
+    QString fontSizeText = QStringLiteral("2"); ///< in millimetres, as typed
+    bool fillAreas = false;                     ///< iso areas are filled
+};
+
+/// The rows of the scale list behind "Auto", which stands at index 0 and is translated.
+QStringList engineeringScales();
+
+} // namespace plib

@@ -1,0 +1,48 @@
+#include "PlatformScriptEnvironment.h"
+
+#include <vkd_dbo_camera.h>
+#include <vkd_dbo_queries.h>
+#include <VKD_H_PluginParameter.h>
+#include <vkd_h_program.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+
+#include <QCoreApplication>
+
+namespace plib {
+
+namespace {
+constexpr int ProgramHeadKey = 108;
+constexpr int DesktopCamera = 0; // the camera belongs to the desktop, not to one project
+constexpr int ScriptForm = 1;
+} // namespace
+
+PlatformScriptEnvironment::PlatformScriptEnvironment(VKD_H_PluginParameter* parameter)
+    : m_parameter(parameter)
+{
+}
+
+QString PlatformScriptEnvironment::programHead() const
+{
+    const QString title =
+        QCoreApplication::translate("VKD_P_WidgetGraphicalOutput", "Graphical Output");
+    return vkd_h_generatePROG(m_parameter, QStringLiteral("GRAV"), title, title,
+                              vkd_lib_getvalue(ProgramHeadKey), 0);
+}
+
+QString PlatformScriptEnvironment::programEnd(bool english) const
+{
+    return vkd_h_generateENDE(english ? 1 : 0);
+}
+
+bool PlatformScriptEnvironment::hasQuads() const
+{
+    return vkd::dbo::hasQuads(m_parameter->modelDoc()->index(), nullptr);
+}
+
+QString PlatformScriptEnvironment::camera() const
+{
+    return vkd::dbo::getAnimatorPerspektive(DesktopCamera, ScriptForm);
+}
+
+} // namespace plib

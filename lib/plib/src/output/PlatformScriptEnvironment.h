@@ -1,0 +1,25 @@
+#pragma once
+
+#include "outputScript.h"
+
+class VKD_H_PluginParameter;
+
+namespace plib {
+
+/// The texts of a script as the platform gives them for the project of a page.
+class PlatformScriptEnvironment : public ScriptEnvironment
+{
+public:
+    /// `parameter` is not owned and has to outlive the object.
+    explicit PlatformScriptEnvironment(VKD_H_PluginParameter* parameter);
+
+    QString programHead() const override;
+    QString programEnd(bool english) const override;
+    bool hasQuads() const override;
+    QString camera() const override;
+
+private:
+    VKD_H_PluginParameter* m_parameter;
+};
+
+} // namespace plib

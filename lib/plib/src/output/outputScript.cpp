@@ -1,0 +1,208 @@
+#include "outputScript.h"
+
+namespace plib {
+
+namespace {
+/// A text of the script in both keyword languages.
+struct Words
+{
+    const char* german;
+    const char* english;
+
+    QString in(bool useEnglish) const { return QString::fromUtf8(useEnglish ? english : german); }
+};
+
+constexpr Words FontWords{"SCHR H6 ", "SCHH H6 "};
+constexpr Words TypeWord{"TYP ", "TYPE "};
+constexpr Words TwoPictures{"SIZ2 TEIL BILD\n", "SIZ2 SPLI PICT\n"};
+constexpr Words TwoByOne{" TEIL  2x1", " SPLI  2x1"};
+constexpr Words ScaleWord{" M ", " SC "};
+constexpr Words Margin{" RAND NEIN FORM STAN", " MARG NO FORM STAN"};
+constexpr Words SplitKind{"DINA", "TYPE"};
+constexpr Words SplitScale{"M", "SC"};
+constexpr Words SplitDivision{"TEIL", "SPLI"};
+
+constexpr Words FillOff{"#define FILL=-\n#define FILLI=-\n#define FILLC=-\n"
+                        "#define SCHRI=-\n#define SCHRC=-\n",
+                        "#define FILL=-\n#define FILLI=-\n#define FILLC=-\n"
+                        "#define SCHRI=-\n#define SCHRC=-\n"};
+constexpr Words FillOn{"#define FILL=SENK\n#define FILLI=FLAE\n#define FILLC=SENK\n"
+                       "#define SCHRI=NEIN\n#define SCHRC=NEIN\n",
+                       "#define FILL=VERT\n#define FILLI=AREA\n#define FILLC=VERT\n"
+                       "#define SCHRI=NO\n#define SCHRC=NO\n"};
+
+constexpr Words ControlLines{
+    "STEU LEER JA          $ leere Bilder erzeugen, wenn angeforderte Ergebnisse nicht darstellbar "
+    "sind\n"
+    "STEU WARN (800 802 1) $ keine Warnungen, wenn angeforderte Ergebnisse nicht darstellbar sind\n"
+    "STEU WARN (804 808 1) $ keine Warnungen, wenn angeforderte Ergebnisse nicht darstellbar sind\n"
+    "STEU WARN 873         $ keine Warnung wegen 2D Sichtbarkeit\n",
+    "CTRL EMPT YES         $ create empty pages if results not available\n"
+    "CTRL WARN (800 802 1) $ no warnings if no values found\n"
+    "CTRL WARN (804 808 1) $ no warnings if no values found\n"
+    "CTRL WARN 873         $ no warning for 2D visibility\n"};
+
+/// Two cuts in each global direction across the page.
+constexpr Words CutLines{
+    "BEOB EGXY    $ Blick in die globale Z-Richtung\n"
+    "MOVE UNIT PRWC X  0 Y 33 DTYP QSCH ; DRAW UNIT PRWC X 100 Y  33 DTYP QSCH $ Schnitt in "
+    "X-Richtung\n"
+    "MOVE UNIT PRWC X  0 Y 66 DTYP QSCH ; DRAW UNIT PRWC X 100 Y  66 DTYP QSCH $ Schnitt in "
+    "X-Richtung\n"
+    "MOVE UNIT PRWC X 33 Y  0 DTYP QSCH ; DRAW UNIT PRWC X  33 Y 100 DTYP QSCH $ Schnitt in "
+    "Y-Richtung\n"
+    "MOVE UNIT PRWC X 66 Y  0 DTYP QSCH ; DRAW UNIT PRWC X  66 Y 100 DTYP QSCH $ Schnitt in "
+    "Y-Richtung\n",
+    "VIEW EGXY    $ view in global Z direction\n"
+    "MOVE UNIT PRWC X  0 Y 33 DTYP QSEC ; DRAW UNIT PRWC X 100 Y  33 DTYP QSEC $ cut in global X "
+    "direction\n"
+    "MOVE UNIT PRWC X  0 Y 66 DTYP QSEC ; DRAW UNIT PRWC X 100 Y  66 DTYP QSEC $ cut in global X "
+    "direction\n"
+    "MOVE UNIT PRWC X 33 Y  0 DTYP QSEC ; DRAW UNIT PRWC X  33 Y 100 DTYP QSEC $ cut in global Y "
+    "direction\n"
+    "MOVE UNIT PRWC X 66 Y  0 DTYP QSEC ; DRAW UNIT PRWC X  66 Y 100 DTYP QSEC $ cut in global Y "
+    "direction\n"};
+
+constexpr struct
+{
+    const char* division;
+    const char* sheet;
+} PageSplits[] = {{" 1X1", " \"-URS\" "}, {" 2X1", " \"-URS\" "}, {" 2X2", " \"-URS\" "},
+                  {" 3X2", " \"-URS\" "}, {" 1X1", " \"URS\" "},  {" 2X2", " \"URS\" "}};
+
+constexpr int Portrait = 0;
+constexpr int TwoPerPage = 1;
+constexpr int EngineeringScale = 0;
+constexpr int StandardView = 3;
+
+/// The font size in centimetres; a text that is no number counts as 0.
+QString fontNumber(const OutputSettings& settings)
+{
+    return QString::number(settings.fontSizeText.toDouble() / 10.0, 'g', 6);
+}
+
+QString scaleValue(const OutputSettings& settings)
+{
+    if (settings.scaleMode != EngineeringScale)
+        return QStringLiteral("0");
+    if (settings.scaleIndex == 0)
+        return QStringLiteral("-");
+    // The factor stays a text on purpose: the graphics program multiplies.
+    return settings.scaleText.mid(settings.scaleText.indexOf(QLatin1Char(':')) + 1) +
+           QLatin1String("*1.e+10");
+}
+
+/// The scale of the split variant, where no factor is added.
+QString splitScaleValue(const OutputSettings& settings)
+{
+    if (settings.scaleMode != EngineeringScale)
+        return QStringLiteral(" 0");
+    if (settings.scaleIndex == 0)
+        return QStringLiteral(" -");
+    return QLatin1Char(' ') + QString(settings.scaleText).remove(QLatin1String("1:"));
+}
+
+QString splitResult(const OutputSettings& settings, const QString& additional, bool english)
+{
+    QString kind = SplitKind.in(english);
+    QString division;
+    if (settings.pageSplitId >= 0 && settings.pageSplitId < int(std::size(PageSplits))) {
+        const auto& split = PageSplits[settings.pageSplitId];
+        kind += QLatin1String(split.sheet);
+        division = SplitDivision.in(english) + QLatin1String(split.division);
+    }
+    const QString scale = SplitScale.in(english) + splitScaleValue(settings);
+    // The host resolves $(XYZ); here it is text like any other.
+    QString result = QLatin1String("SIZE ") + kind + scale + QLatin1Char(' ') + division +
+                     QLatin1String("|SIZE ") + kind + QLatin1String("$(XYZ) ") + division;
+    if (!additional.isEmpty())
+        result += additional + QLatin1Char('\n');
+    return result;
+}
+
+/// The selected lines, with the page's view in the place of the standard view.
+QString body(const std::vector<QString>& lines, int viewId, const QString& clause)
+{
+    int size = 0;
+    for (const QString& line : lines)
+        size += line.size() + clause.size() + 1;
+    QString text;
+    text.reserve(size);
+    for (const QString& line : lines) {
+        const int view = viewId == StandardView ? -1 : line.indexOf(QLatin1String("EG3"));
+        if (view > 0) // what stands behind the view goes with it
+            text += line.leftRef(view) + clause;
+        else
+            text += line;
+        text += QLatin1Char('\n');
+    }
+    return text;
+}
+} // namespace
+
+QString fontStatement(const OutputSettings& settings, bool english)
+{
+    const QString number = fontNumber(settings);
+    return settings.variant == VKD_P_GraphicalOutput_Split ? number
+                                                           : FontWords.in(english) + number;
+}
+
+QString viewClause(const OutputSettings& settings, bool english,
+                   const ScriptEnvironment& environment)
+{
+    const QString type = TypeWord.in(english);
+    switch (settings.viewId) {
+    case 0:
+        return type + QLatin1String("EGXY ; PERS INFI");
+    case 1:
+        return type + QLatin1String("EGXZ ; PERS INFI");
+    case 2:
+        return type + QLatin1String("EGYZ ; PERS INFI");
+    case 3:
+        return type + QLatin1String("EG3");
+    case 4:
+        return type + QLatin1String("STAN ") + environment.camera();
+    default:
+        return type;
+    }
+}
+
+QString sizeStatement(const OutputSettings& settings, bool english)
+{
+    const bool portrait = settings.hasFormat && settings.formatId == Portrait;
+    const bool two = portrait && settings.picturesId == TwoPerPage;
+    return (two ? TwoPictures.in(english) : QString()) + QLatin1String("SIZE ") +
+           QLatin1String(portrait ? "-URS" : "URS") + ScaleWord.in(english) + scaleValue(settings) +
+           (two ? TwoByOne.in(english) : QString()) + Margin.in(english);
+}
+
+QString fillDefinitions(bool fill, bool english)
+{
+    return (fill ? FillOn : FillOff).in(english);
+}
+
+QString outputScript(const OutputSettings& settings, const std::vector<QString>& lines,
+                     const QString& additional, bool english, const ScriptEnvironment& environment)
+{
+    if (settings.variant == VKD_P_GraphicalOutput_Split)
+        return splitResult(settings, additional, english);
+    if (lines.empty())
+        return QString();
+    const bool ahead = settings.variant == VKD_P_GraphicalOutput_Prefix;
+    const QLatin1Char end('\n');
+    QString script = environment.programHead() + ControlLines.in(english) +
+                     QLatin1String("#define SCHR=") + fontNumber(settings) + end +
+                     fontStatement(settings, english) + end +
+                     fillDefinitions(settings.fillAreas, english);
+    if (environment.hasQuads())
+        script += CutLines.in(english);
+    script += sizeStatement(settings, english) + end;
+    if (ahead) // brings its own line end
+        script += additional;
+    script += body(lines, settings.viewId, viewClause(settings, english, environment));
+    if (!ahead && !additional.isEmpty())
+        script += additional + end;
+    return script + environment.programEnd(english) + end;
+}
+
+} // namespace plib
