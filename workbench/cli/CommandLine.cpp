@@ -1,0 +1,182 @@
+#include "CommandLine.h"
+
+#include "commands.h"
+#include "PlatformLog.h"
+
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+
+#include <QFile>
+
+#include <cstdio>
+
+namespace workbench {
+
+namespace {
+constexpr int LanguageKey = 102;
+
+struct Command
+{
+    const char* name;
+    int (*run)(const QStringList&);
+    const char* summary;
+};
+
+constexpr Command Commands[] = {
+    {"new", newCommand, "make a project file from a model"},
+    {"script", scriptCommand, "print the script of a project's plots"},
+    {"catalogue", catalogueCommand, "print and check a catalogue of plots"},
+    {"tree", treeCommand, "print the plots that a project offers, with their check marks"},
+};
+
+QString usage()
+{
+    QString text = QStringLiteral("Usage: plib_workbench COMMAND ...\n\nCommands:\n");
+    for (const Command& command : Commands)
+        text += QStringLiteral("  %1 %2\n")
+                    .arg(QLatin1String(command.name), -12)
+                    .arg(QLatin1String(command.summary));
+    return text + QStringLiteral("\nplib_workbench COMMAND --help tells more about a command.\n");
+}
+
+int runCommand(const QStringList& arguments)
+{
+    const QString name = arguments.value(1);
+    if (name.isEmpty() || name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        print(usage());
+        return 0;
+    }
+    for (const Command& command : Commands)
+        if (name == QLatin1String(command.name))
+            return command.run(arguments.mid(1));
+    throw CommandError{
+        QStringLiteral("unknown command \"%1\"; --help lists the commands").arg(name)};
+}
+} // namespace
+
+int run(const QStringList& arguments)
+{
+    try {
+        return runCommand(arguments);
+    } catch (const HelpWanted& help) {
+        print(help.text);
+        return 0;
+    } catch (const CommandError& error) {
+        // One line, whatever a file name or a message may hold.
+        const QString line = error.text.simplified();
+        std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(line));
+        return 1;
+    }
+}
+
+CommandLine::CommandLine(const QString& description, const QStringList& positional,
+                         const std::vector<Option>& options)
+    : m_positional(positional)
+{
+    m_parser.setApplicationDescription(description);
+    m_parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Prints this help.")});
+    for (const QString& name : positional)
+        m_parser.addPositionalArgument(name, QString(), name);
+    for (const Option& option : options)
+        m_parser.addOption({option.name, option.description, option.value});
+}
+
+void CommandLine::parse(const QStringList& arguments)
+{
+    if (!m_parser.parse(arguments))
+        throw CommandError{m_parser.errorText()};
+    if (m_parser.isSet(QStringLiteral("help"))) {
+        // The parser knows the program, but not that its first argument names the command.
+        const QString text = m_parser.helpText();
+        throw HelpWanted{QStringLiteral("Usage: plib_workbench %1 ").arg(arguments.first()) +
+                         text.mid(text.indexOf(QLatin1String("[options]")))};
+    }
+    const int given = m_parser.positionalArguments().size();
+    if (given > m_positional.size())
+        throw CommandError{QStringLiteral("unexpected argument \"%1\"")
+                               .arg(m_parser.positionalArguments().at(m_positional.size()))};
+    if (given < m_positional.size() && !m_positional[given].startsWith(QLatin1Char('[')))
+        throw CommandError{QStringLiteral("%1 is missing").arg(m_positional[given])};
+}
+
+QString CommandLine::argument(int index) const
+{
+    return m_parser.positionalArguments().value(index);
+}
+
+bool CommandLine::has(const char* option) const
+{
+    return m_parser.isSet(QString::fromLatin1(option));
+}
+
+QString CommandLine::value(const char* option) const
+{
+    return m_parser.value(QString::fromLatin1(option));
+}
+
+QStringList CommandLine::values(const char* option) const
+{
+    return m_parser.values(QString::fromLatin1(option));
+}
+
+int CommandLine::number(const char* option, int otherwise) const
+{
+    if (!has(option))
+        return otherwise;
+    bool isNumber = false;
+    const int number = value(option).toInt(&isNumber);
+    if (!isNumber)
+        throw CommandError{QStringLiteral("--%1 needs a whole number, not \"%2\"")
+                               .arg(QLatin1String(option), value(option))};
+    return number;
+}
+
+bool CommandLine::english(const char* option, bool otherwise) const
+{
+    if (!has(option))
+        return otherwise;
+    const QString language = value(option);
+    if (language != QLatin1String("english") && language != QLatin1String("german"))
+        throw CommandError{QStringLiteral("--%1 is english or german, not \"%2\"")
+                               .arg(QLatin1String(option), language)};
+    return language == QLatin1String("english");
+}
+
+std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path)
+{
+    auto document = VKD_H_ZOBDoc::open(path);
+    if (!document)
+        throw CommandError{PlatformLog::take()};
+    return document;
+}
+
+QString readText(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw CommandError{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
+    return QString::fromUtf8(file.readAll());
+}
+
+void print(const QString& text)
+{
+    QFile out;
+    const QByteArray bytes = text.toUtf8();
+    if (!out.open(stdout, QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.flush())
+        throw CommandError{QStringLiteral("cannot write the result: %1").arg(out.errorString())};
+}
+
+CommandLine::Option languageOption()
+{
+    return {QStringLiteral("language"), QStringLiteral("german|english"),
+            QStringLiteral("Language of captions and titles; that of the desktop by default.")};
+}
+
+void applyLanguage(const CommandLine& commandLine)
+{
+    const bool english = commandLine.english("language", vkd_lib_getvalue(LanguageKey) != 0);
+    vkd_lib_setvalue(LanguageKey, english ? 1 : 0);
+}
+
+} // namespace workbench

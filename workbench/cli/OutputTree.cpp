@@ -1,0 +1,103 @@
+#include "OutputTree.h"
+
+#include "CommandLine.h"
+
+#include <Catalogue.h>
+#include <rowLabel.h>
+#include <scriptLines.h>
+#include <selectionText.h>
+#include <TreeBuilder.h>
+#include <vkd_dbo_model.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+OutputTree::Rows rowsOfModel(int index)
+{
+    OutputTree::Rows rows;
+    const auto loadCases = vkd::dbo::readLoadCases(index);
+    for (const vkd::dbo::LoadCase& loadCase : loadCases)
+        rows.push_back(
+            {loadCase.kind, loadCase.number, plib::rowLabel(loadCase.number, loadCase.title)});
+    std::sort(rows.begin(), rows.end(),
+              [](const auto& a, const auto& b) { return a.number < b.number; });
+    return rows;
+}
+
+void showError(const QString& title, const QString& text)
+{
+    throw CommandError{QStringLiteral("%1: %2").arg(title, text)};
+}
+} // namespace
+
+OutputTree::OutputTree(const QString& projectPath, int progname, const Rows* rows)
+    : m_document(openProject(projectPath))
+    , m_parameter(m_document.get())
+    , m_queries(&m_parameter)
+    , m_progname(progname)
+{
+    fill(rows ? *rows : rowsOfModel(m_document->index()));
+}
+
+OutputTree::~OutputTree() = default;
+
+void OutputTree::fill(const Rows& rows)
+{
+    constexpr int LanguageKey = 102;
+    plib::Catalogue& catalogue = plib::sharedCatalogue();
+    plib::loadCatalogue(catalogue, vkd_lib_getvalue(LanguageKey), showError);
+    plib::OutputNodeOperations operations(&m_root);
+    plib::TreeBuilder<plib::OutputNode, plib::OutputNodeOperations> builder(&m_root, rows,
+                                                                            operations);
+    for (const plib::GraphicalOutputRecord& record : catalogue.list)
+        if (plib::isRecordOffered(record, m_progname, m_queries, {}))
+            builder.add(record);
+    builder.finish();
+    if (m_root.childCount() == 0)
+        m_root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
+}
+
+void OutputTree::applySelection(const QString& text)
+{
+    plib::applySelection(&m_root, text);
+}
+
+QString OutputTree::selectionText()
+{
+    return plib::selectionText(&m_root);
+}
+
+std::vector<QString> OutputTree::scriptLines(bool english)
+{
+    std::vector<QString> lines;
+    plib::collectScriptLines(&m_root, lines, english, m_progname,
+                             [this] { return m_queries.kindOfSystem(); });
+    return lines;
+}
+
+OutputTree::Rows readRows(const QString& path)
+{
+    OutputTree::Rows rows;
+    const QStringList lines = readText(path).remove(QLatin1Char('\r')).split(QLatin1Char('\n'));
+    for (int i = 0; i < lines.size(); ++i) {
+        if (lines[i].trimmed().isEmpty())
+            continue;
+        bool hasKind = false;
+        bool hasNumber = false;
+        const int kind = lines[i].section(QLatin1Char(' '), 0, 0).toInt(&hasKind);
+        const int number = lines[i].section(QLatin1Char(' '), 1, 1).toInt(&hasNumber);
+        if (!hasKind || !hasNumber || kind < 1 || kind > 2)
+            throw CommandError{QStringLiteral("%1:%2: a kind of 1 or 2, a number and a name are "
+                                              "needed")
+                                   .arg(path)
+                                   .arg(i + 1)};
+        rows.push_back({kind, number, lines[i].section(QLatin1Char(' '), 2)});
+    }
+    return rows;
+}
+
+} // namespace workbench

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QStringList>
+
+namespace workbench {
+
+/// Runs the command that the arguments name, the program's name first. Results go to standard
+/// output; a failure is one line on standard error. The result is the exit code, 0 or 1.
+int run(const QStringList& arguments);
+
+// The commands. Each takes the arguments from its own name on, throws a CommandError if it cannot
+// do its work, and gives the exit code.
+int newCommand(const QStringList& arguments);
+int scriptCommand(const QStringList& arguments);
+int catalogueCommand(const QStringList& arguments);
+int treeCommand(const QStringList& arguments);
+
+} // namespace workbench
