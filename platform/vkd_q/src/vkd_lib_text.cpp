@@ -30,8 +30,10 @@ Texts readTexts(const QString& path)
         qCWarning(lcText, "cannot read the texts %s: %s", qUtf8Printable(path),
                   qUtf8Printable(file.errorString()));
     for (int number = 1; file.isReadable() && !file.atEnd(); ++number) {
-        const QByteArray line = file.readLine().trimmed();
-        if (line.isEmpty() || line.startsWith('#'))
+        QByteArray line = file.readLine();
+        while (line.endsWith('\n') || line.endsWith('\r'))
+            line.chop(1); // blanks stay: they can be part of a text
+        if (line.trimmed().isEmpty() || line.startsWith('#'))
             continue;
         const QList<QByteArray> parts = line.split('|');
         if (parts.size() != 4) {

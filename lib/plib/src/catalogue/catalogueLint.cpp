@@ -126,7 +126,7 @@ void CatalogueLint::checkIdentifiers(const GraphicalOutputRecord& record)
         if (program <= 0 || findings.size() != before) // say it once, not for each kind of page
             continue;
         checkCaption(record, program, 0, record.title1);
-        checkCaption(record, program, 1, record.title1 + QLatin1String(" / ") + record.title2);
+        checkCaption(record, program, 1, record.title2);
         checkPlotIdentifier(record, program);
     }
 }
