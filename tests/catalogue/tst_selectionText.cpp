@@ -17,6 +17,7 @@ private Q_SLOTS:
     void emptyTextLeavesTheTree();
     void itemsThatAreNoneOfOurs();
     void statesAreThoseOfSingleSteps();
+    void numbersAreReadAsQtDoes();
 };
 
 /// Two plots with identifiers and three rows each, and two with plain captions.
@@ -171,6 +172,18 @@ void TestSelectionText::statesAreThoseOfSingleSteps()
         makeTree(&stepwise);
         applyStepByStep(&stepwise, text);
         QCOMPARE(states(&atOnce), states(&stepwise));
+    }
+}
+
+void TestSelectionText::numbersAreReadAsQtDoes()
+{
+    std::mt19937 random(5);
+    const QString characters = QStringLiteral("0123456789999 +-.ex\t\u00a0\u0663\u2212");
+    for (int round = 0; round < 20000; ++round) {
+        QString text;
+        for (int n = testsupport::below(random, 12); n > 0; --n)
+            text += characters[testsupport::below(random, round % 2 ? 10 : characters.size())];
+        QCOMPARE(plib::selectionNumber(QStringRef(&text)), text.toInt());
     }
 }
 

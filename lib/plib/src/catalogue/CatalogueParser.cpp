@@ -5,6 +5,7 @@
 #include <vkd_lib_text.h>
 
 #include <QIODevice>
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <cstring>
@@ -32,8 +33,10 @@ bool isSpace(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-QLatin1String trimmed(const char* begin, const char* end)
+QLatin1String trimmed(QLatin1String text)
 {
+    const char* begin = text.begin();
+    const char* end = text.end();
     while (begin < end && isSpace(*begin))
         ++begin;
     while (begin < end && isSpace(end[-1]))
@@ -65,13 +68,6 @@ int rowClassOf(const QString& suffix)
 }
 } // namespace
 
-CatalogueParser::CatalogueParser()
-{
-    // The cache of parts starts as a line of blank columns; the record has to agree with it.
-    for (int column = 0; column < UsedParts; ++column)
-        storeColumn(column);
-}
-
 CatalogueParser::Outcome CatalogueParser::parseLine(const char* bytes, int length)
 {
     m_partCount = 0;
@@ -102,7 +98,12 @@ CatalogueParser::Outcome CatalogueParser::parseAscii(const char* bytes, int leng
         return Outcome::TooFewParts;
     for (int i = 0; i < std::min(m_partCount, UsedParts); ++i) {
         const QLatin1String part = parts[size_t(i)];
-        storePart(i, trimmed(part.begin(), part.end()));
+        std::string& stored = m_bytes[size_t(i)];
+        if (stored.size() == size_t(part.size()) &&
+            std::memcmp(stored.data(), part.data(), stored.size()) == 0)
+            continue;
+        stored.assign(part.data(), size_t(part.size()));
+        storePart(i, trimmed(part));
     }
     return outcome();
 }
@@ -117,8 +118,10 @@ CatalogueParser::Outcome CatalogueParser::parseText(const QString& line)
     m_partCount = parts.size();
     if (m_partCount < MinimumParts)
         return Outcome::TooFewParts;
-    for (int i = 0; i < std::min(m_partCount, UsedParts); ++i)
+    for (int i = 0; i < std::min(m_partCount, UsedParts); ++i) {
+        m_bytes[size_t(i)].clear();
         storePart(i, parts[i].trimmed().toString());
+    }
     return outcome();
 }
 
@@ -129,19 +132,8 @@ CatalogueParser::Outcome CatalogueParser::outcome() const
     return m_record.scriptEnglish.isEmpty() ? Outcome::NoEnglishScript : Outcome::Accepted;
 }
 
-template <typename Text>
-void CatalogueParser::storePart(int column, Text trimmed)
+void CatalogueParser::storePart(int column, const QString& part)
 {
-    QString& part = m_parts[size_t(column)];
-    if (part == trimmed)
-        return;
-    part = QString(trimmed);
-    storeColumn(column);
-}
-
-void CatalogueParser::storeColumn(int column)
-{
-    const QString& part = m_parts[size_t(column)];
     GraphicalOutputRecord& r = m_record;
     switch (column) {
     case 0:
@@ -197,14 +189,18 @@ void CatalogueParser::storeColumn(int column)
 void CatalogueParser::storeCaption(const QString& part, int place, QString* caption,
                                    QString* identifier)
 {
-    *identifier = QStringLiteral("    00%1").arg(place);
-    *caption = part;
-    if (!isKeyText(part))
+    const QLatin1String plainIdentifiers[] = {QLatin1String("    001"), QLatin1String("    002"),
+                                              QLatin1String("    003")};
+    if (!isKeyText(part)) {
+        *identifier = plainIdentifiers[place - 1];
+        *caption = part;
         return;
+    }
     const int prefixLength = hasQualifier(part) ? 7 : 4;
-    *identifier = part.left(prefixLength).rightJustified(7);
+    *identifier = QLatin1String("   ", 7 - prefixLength) % QStringView(part).left(prefixLength);
     const QString text = captionText(part);
-    *caption = (text.isEmpty() ? part.mid(prefixLength) : text).trimmed();
+    *caption =
+        text.isEmpty() ? QStringView(part).mid(prefixLength).trimmed().toString() : text.trimmed();
 }
 
 void CatalogueParser::storeCaseWord(const QString& part)

@@ -2,9 +2,10 @@
 
 #include "GraphicalOutputRecord.h"
 
-#include <QStringList>
+#include <QString>
 
 #include <array>
+#include <string>
 #include <vector>
 
 class QIODevice;
@@ -23,8 +24,6 @@ public:
     static constexpr int UsedParts = 15;
     static constexpr int LineBuffer = 1024; ///< one byte of it is for the end of the text
 
-    CatalogueParser();
-
     /// One line as QIODevice::readLine() gives it, with its line feed if it has one.
     Outcome parseLine(const char* bytes, int length);
 
@@ -37,14 +36,14 @@ private:
     Outcome parseAscii(const char* bytes, int length);
     Outcome parseText(const QString& line);
     Outcome outcome() const;
-    template <typename Text>
-    void storePart(int column, Text trimmed);
-    void storeColumn(int column);
+    void storePart(int column, const QString& part);
     void storeCaption(const QString& part, int place, QString* caption, QString* identifier);
     void storeCaseWord(const QString& part);
 
     GraphicalOutputRecord m_record;
-    std::array<QString, UsedParts> m_parts; // trimmed, as last stored
+    // What each column was last stored from, blanks and all; empty if that was no plain ASCII. A
+    // part is never empty, so an empty one fits nothing.
+    std::array<std::string, UsedParts> m_bytes;
     int m_partCount = 0;
 };
 

@@ -40,13 +40,10 @@ bool isTokenSign(QChar sign)
     return sign == QLatin1Char('&') || sign == QLatin1Char('^') || sign == QLatin1Char('$');
 }
 
-/// The text of class 0, 1 or 4 for a token; the token itself, with `isToken` false, if it is none.
-QString tokenText(const QString& token, bool* isToken)
+/// The text of class 0, 1 or 4 for a token.
+QString tokenText(QStringView token)
 {
     const QChar sign = token.at(0);
-    *isToken = isTokenSign(sign);
-    if (!*isToken)
-        return token;
     const int textClass = sign == QLatin1Char('&') ? 0 : sign == QLatin1Char('^') ? 1 : 4;
     const QByteArray key = token.mid(1, 3).toLatin1();
     const QString text = QString::fromStdString(
@@ -59,17 +56,15 @@ QString tokenText(const QString& token, bool* isToken)
 enum class Place { Behind, Before };
 
 /// Adds the text of the token, which may be empty, and the suffix. The suffix stands even where the
-/// token has no text. False if the token is none.
-bool expand(const QString& token, const QString& suffix, Place place, QString* out)
+/// token has no text.
+void expand(QStringView token, const QString& suffix, Place place, QString* out)
 {
     const QLatin1Char blank(' ');
-    bool isToken = true;
-    const QString text = token.isEmpty() ? QString() : tokenText(token, &isToken);
+    const QString text = token.isEmpty() ? QString() : tokenText(token);
     if (!text.isEmpty())
         *out = place == Place::Before ? text + blank + *out : *out + blank + text;
     if (!suffix.isEmpty())
         *out += blank + suffix;
-    return isToken;
 }
 
 template <size_t N>
@@ -86,7 +81,7 @@ void addQualifier(const Addition (&additions)[N], QChar qualifier, Place place, 
 }
 } // namespace
 
-bool isKeyText(const QString& text)
+bool isKeyText(QStringView text)
 {
     if (text.size() >= TokenLength && (text.at(0) == QLatin1Char('@') || isTokenSign(text.at(0))))
         return true;
@@ -94,7 +89,7 @@ bool isKeyText(const QString& text)
     return text.size() >= QualifierLength + TokenLength && isTokenSign(text.at(QualifierLength));
 }
 
-bool hasQualifier(const QString& keyText)
+bool hasQualifier(QStringView keyText)
 {
     return isKeyText(keyText.mid(QualifierLength, TokenLength));
 }
@@ -102,13 +97,11 @@ bool hasQualifier(const QString& keyText)
 QString captionText(const QString& field)
 {
     const bool qualified = hasQualifier(field);
-    QString out;
-    if (!expand(field.mid(qualified ? QualifierLength : 0, TokenLength), QString(), Place::Behind,
-                &out))
+    const QStringView base = QStringView(field).mid(qualified ? QualifierLength : 0, TokenLength);
+    if (!base.isEmpty() && !isTokenSign(base.at(0)))
         return QString();
-    // An empty caption is not a null one: the token is one, it only has no text.
-    if (out.isNull())
-        out = QLatin1String("");
+    QString out(QLatin1String("")); // a token without a text is empty, not null
+    expand(base, QString(), Place::Behind, &out);
     if (!qualified)
         return out;
     addQualifier(ThirdAdditions, field.at(2), Place::Before, &out);

@@ -9,10 +9,24 @@ QVector<int> numbersOf(const QStringRef& text)
     QVector<int> numbers;
     numbers.reserve(parts.size());
     for (const QStringRef& part : parts)
-        numbers.append(part.toInt()); // what is no number reads as 0
+        numbers.append(selectionNumber(part));
     return numbers;
 }
 } // namespace
+
+int selectionNumber(const QStringRef& text)
+{
+    constexpr int AlwaysFits = 9; // digits
+    if (text.size() > AlwaysFits)
+        return text.toInt();
+    int number = 0;
+    for (const QChar c : text) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return text.toInt();
+        number = 10 * number + (c.unicode() - '0');
+    }
+    return number;
+}
 
 QString itemId(const GraphicalOutputRecord& record, int level)
 {

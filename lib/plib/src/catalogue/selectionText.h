@@ -7,6 +7,12 @@
 #include <QStringList>
 #include <QVector>
 
+#include <algorithm>
+#include <limits>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
 namespace plib {
 
 /// The identifier of an item in the selection text: the identifiers of its captions down to its own
@@ -86,6 +92,10 @@ private:
     QHash<QString, Node*> m_items;
 };
 
+/// What QStringRef::toInt() reads, 0 for what is no number; short runs of ASCII digits by
+/// themselves, which is what nearly all of a selection text is made of.
+int selectionNumber(const QStringRef& text);
+
 /// One line of a selection text that can be applied.
 struct SelectionLine
 {
@@ -128,30 +138,48 @@ private:
     {
         int time = 0;
         Qt::CheckState state = Qt::Unchecked;
+
+        Order orLater(Order other) const { return other.time > time ? other : *this; }
+    };
+
+    /// The children of an item by number, and what lines order for them by their place.
+    struct Children
+    {
+        std::vector<std::pair<int, int>> places; // number and place, in rising order
+        std::vector<Order> orders;
     };
 
     void add(Node* item, const SelectionLine& line)
     {
         const bool checks = line.kind == SelectionLine::Check;
         m_orders[item] = {++m_time, checks ? Qt::Checked : Qt::Unchecked};
-        for (int number : line.numbers)
-            if (Node* row = rowsOf(item).value(number))
-                m_orders[row] = {++m_time, Qt::Checked};
+        if (line.numbers.isEmpty())
+            return;
+        Children& children = childrenOf(item);
+        for (int number : line.numbers) {
+            // The last of those with this number, as a search from the back would find.
+            auto found = std::upper_bound(children.places.begin(), children.places.end(),
+                                          std::make_pair(number, std::numeric_limits<int>::max()));
+            if (found != children.places.begin() && (--found)->first == number)
+                children.orders[size_t(found->second)] = {++m_time, Qt::Checked};
+        }
     }
 
-    /// The children of the item by number; of two with the same number the last one.
-    const QHash<int, Node*>& rowsOf(Node* item)
+    Children& childrenOf(Node* item)
     {
-        auto found = m_rows.find(item);
-        if (found == m_rows.end()) {
-            QHash<int, Node*> rows;
-            rows.reserve(item->childCount());
-            for (int i = 0; i < item->childCount(); ++i)
-                if (auto* row = outputItem(item->child(i)))
-                    rows[row->number] = row;
-            found = m_rows.insert(item, rows);
-        }
-        return found.value();
+        auto found = m_children.find(item);
+        if (found != m_children.end())
+            return found->second;
+        Children& children = m_children[item];
+        const int count = item->childCount();
+        children.orders.resize(size_t(count));
+        children.places.reserve(size_t(count));
+        for (int i = 0; i < count; ++i)
+            if (auto* child = outputItem(item->child(i)))
+                children.places.emplace_back(child->number, i);
+        if (!std::is_sorted(children.places.begin(), children.places.end()))
+            std::sort(children.places.begin(), children.places.end());
+        return children;
     }
 
     template <typename Any>
@@ -160,20 +188,23 @@ private:
         auto* item = outputItem(node);
         if (!item)
             return;
-        const Order own = m_orders.value(item);
-        if (own.time > order.time)
-            order = own;
         const int count = item->childCount();
-        for (int i = 0; i < count; ++i)
-            setStates(item->child(i), order);
+        if (item->level < RowLevel) // rows are never named by themselves
+            order = order.orLater(m_orders.value(item));
         if (count == 0)
-            item->setCheckState(0, order.state);
+            return item->setCheckState(0, order.state);
+        const auto own = m_children.find(item);
+        const Order* orders = own == m_children.end() ? nullptr : own->second.orders.data();
+        for (int i = 0; i < count; ++i)
+            setStates(item->child(i), orders ? order.orLater(orders[i]) : order);
     }
+
+    static constexpr int RowLevel = 3;
 
     Node* m_root;
     ItemIndex<Node> m_index;
     QHash<Node*, Order> m_orders;
-    QHash<Node*, QHash<int, Node*>> m_rows;
+    std::unordered_map<Node*, Children> m_children; // of items that a line names rows of
     int m_time = 0;
 };
 

@@ -1,0 +1,205 @@
+// The road from a catalogue to a script, each step against the least that any program would have to
+// do for it, and against itself at other sizes.
+
+#include "RatioReporter.h"
+
+#include <CatalogueParser.h>
+#include <OutputNode.h>
+#include <scriptLines.h>
+#include <selectionText.h>
+#include <TreeBuilder.h>
+
+#include <QTemporaryFile>
+
+namespace {
+
+constexpr int RowsPerPlot = 1000;
+
+QByteArray catalogueOf(int lines)
+{
+    QByteArray file;
+    for (int i = 0; i < lines; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        file += "1   |222 |0  |&27Q Reaction forces  |@S" + QByteArray::number(i / 50 % 90 + 10) +
+                " Supports |@P" + number + " Plot " + number +
+                "  |Quad|0|last-l|1|1| |0|AUFL REAK RICH Z SCHH $(SCHR) NUMM " + number +
+                "|SUPP REAC DIRE Z SCHH $(SCHR) NUMB " + number + "\n";
+    }
+    return file;
+}
+
+/// A catalogue on disk, as it is read in the program.
+class CatalogueFile
+{
+public:
+    explicit CatalogueFile(int lines)
+    {
+        if (!m_file.open() || m_file.write(catalogueOf(lines)) < 0 || !m_file.flush())
+            qFatal("cannot write a catalogue");
+    }
+    QIODevice& fromStart()
+    {
+        m_file.seek(0);
+        return m_file;
+    }
+
+private:
+    QTemporaryFile m_file;
+};
+
+void parseCatalogue(benchmark::State& state)
+{
+    CatalogueFile file(int(state.range(0)));
+    std::vector<plib::GraphicalOutputRecord> records;
+    for (auto _ : state) {
+        plib::parseCatalogue(file.fromStart(), records);
+        benchmark::DoNotOptimize(records.size());
+        state.PauseTiming(); // a catalogue lives as long as the process
+        records = {};
+        state.ResumeTiming();
+    }
+}
+
+/// The same file through Qt's own splitting and trimming, with nothing made of the parts.
+void splitCatalogue(benchmark::State& state)
+{
+    CatalogueFile file(int(state.range(0)));
+    for (auto _ : state) {
+        QIODevice& device = file.fromStart();
+        char line[1024];
+        int size = 0;
+        for (qint64 length; (length = device.readLine(line, sizeof line)) > 0;) {
+            const QString text = QString::fromUtf8(line, int(length));
+            const QStringList parts = text.split(QLatin1Char('|'), Qt::SkipEmptyParts);
+            for (const QString& part : parts)
+                size += part.trimmed().size();
+        }
+        benchmark::DoNotOptimize(size);
+    }
+}
+
+/// A tree of plots with a thousand rows each.
+class Tree
+{
+public:
+    explicit Tree(int rows)
+    {
+        CatalogueFile file(rows / RowsPerPlot);
+        plib::parseCatalogue(file.fromStart(), m_records);
+        for (int i = 1; i <= RowsPerPlot; ++i)
+            m_rows.push_back({1, i, QStringLiteral("%1 : Load case %1").arg(i)});
+        rebuild();
+    }
+
+    void rebuild()
+    {
+        root = std::make_unique<plib::OutputNode>();
+        plib::OutputNodeOperations operations(root.get());
+        plib::TreeBuilder<plib::OutputNode, plib::OutputNodeOperations> builder(root.get(), m_rows,
+                                                                                operations);
+        for (const auto& record : m_records)
+            builder.add(record);
+        builder.finish();
+    }
+
+    void checkAll()
+    {
+        for (int i = 0; i < root->childCount(); ++i)
+            plib::carryDown(root->child(i), Qt::Checked);
+    }
+
+    std::unique_ptr<plib::OutputNode> root;
+
+private:
+    std::vector<plib::GraphicalOutputRecord> m_records;
+    std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> m_rows;
+};
+
+void rebuildTree(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    for (auto _ : state)
+        tree.rebuild();
+}
+
+/// A choice that differs from plot to plot, half of the rows by their numbers.
+void applySelection(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    const plib::OutputNode* top = tree.root->child(0);
+    for (int i = 0; i < top->childCount(); ++i)
+        for (int j = 0; j < top->child(i)->childCount(); ++j)
+            for (int row = 0; row < RowsPerPlot; row += 2)
+                top->child(i)->child(j)->child(row)->setCheckState(0, Qt::Checked);
+    plib::settleTree(tree.root.get());
+    const QString text = plib::selectionText(tree.root.get());
+    for (auto _ : state)
+        plib::applySelection(tree.root.get(), text);
+}
+
+void collectScript(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    tree.checkAll();
+    for (auto _ : state) {
+        std::vector<QString> lines;
+        plib::collectScriptLines(tree.root.get(), lines, true, 1, [] { return 0; });
+        benchmark::DoNotOptimize(lines.size());
+    }
+}
+
+void walk(const plib::OutputNode* parent, const std::vector<QString>& all,
+          std::vector<QString>* lines)
+{
+    for (int i = 0; i < parent->childCount(); ++i) {
+        const plib::OutputNode* node = parent->child(i);
+        walk(node, all, lines);
+        if (node->isLC < 0 || node->checkState(0) == Qt::Unchecked)
+            continue;
+        // Two lines a row; each is made anew, since a line that nobody has made cannot be shared.
+        for (int n = 0; n < 2 && lines->size() < all.size(); ++n) {
+            const QString& line = all[lines->size()];
+            lines->push_back(QString(line.constData(), line.size()));
+        }
+    }
+}
+
+/// A bare walk over the same tree that appends the same lines, which are known beforehand.
+void appendLines(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    tree.checkAll();
+    std::vector<QString> all;
+    plib::collectScriptLines(tree.root.get(), all, true, 1, [] { return 0; });
+    for (auto _ : state) {
+        std::vector<QString> lines;
+        walk(tree.root.get(), all, &lines);
+        benchmark::DoNotOptimize(lines.size());
+    }
+}
+
+constexpr int Small = 10000;
+constexpr int Medium = 100000;
+constexpr int Large = 300000;
+
+BENCHMARK(parseCatalogue)->Arg(Small)->Arg(Medium)->Arg(Large);
+BENCHMARK(splitCatalogue)->Arg(Medium);
+BENCHMARK(rebuildTree)->Arg(Small)->Arg(Medium)->Arg(Large);
+BENCHMARK(applySelection)->Arg(Small)->Arg(Medium)->Arg(Large);
+BENCHMARK(collectScript)->Arg(Small)->Arg(Medium)->Arg(Large);
+BENCHMARK(appendLines)->Arg(Medium);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // What grows with more than the number of items would be thirty times over the last four.
+    return runBenchmarks(argc, argv,
+                         {{"parseCatalogue/100000", "splitCatalogue/100000", 0.5},
+                          {"collectScript/100000", "appendLines/100000", 4.0},
+                          {"applySelection/100000", "rebuildTree/100000", 0.5},
+                          {"parseCatalogue/300000", "parseCatalogue/10000", 3.0, true},
+                          {"rebuildTree/300000", "rebuildTree/10000", 3.0, true},
+                          {"applySelection/300000", "applySelection/10000", 3.0, true},
+                          {"collectScript/300000", "collectScript/10000", 3.0, true}});
+}
