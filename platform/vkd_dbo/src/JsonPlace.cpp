@@ -66,7 +66,7 @@ QVector<JsonPlace> JsonPlace::list(int least, int most) const
     QVector<JsonPlace> places;
     places.reserve(values.size());
     for (int i = 0; i < values.size(); ++i)
-        places.append({values[i], QStringLiteral("%1[%2]").arg(m_place).arg(i)});
+        places.append({values[i], m_place + QStringLiteral("[%1]").arg(i)});
     return places;
 }
 

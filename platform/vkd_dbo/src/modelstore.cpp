@@ -5,6 +5,7 @@
 #include <vkd_zob.h>
 
 #include <QLoggingCategory>
+#include <QUuid>
 
 namespace vkd {
 namespace dbo {
@@ -85,18 +86,22 @@ void reportDamagedRecord(int index, KeyPair pair)
 
 bool storeModel(int index, const Model& model)
 {
-    constexpr KeyPair lock = keys::System; // the project has one lock; any pair of it will do
-    if (vkd_zob_lock_ex(index, lock.key1, lock.key2) != VKD_ZOB_OK) {
-        vkd_zob_free_ex(index, lock.key1, lock.key2);
-        return false;
-    }
-    const QVector<SystemInformation> systems{model.system};
-    bool done = putRecords(index, keys::System, toRecords(systems));
+    constexpr KeyPair lock = keys::Lock;
+    bool done = vkd_zob_lock_ex(index, lock.key1, lock.key2) == VKD_ZOB_OK;
+    // Behind its fields the record bears a mark of its own, because releasing has no result:
+    // whoever finds the mark in the project knows that all that was put with it is there too.
+    QByteArray system = toRecords(QVector<SystemInformation>{model.system}).first();
+    system += QUuid::createUuid().toRfc4122();
+    done = done && putRecords(index, keys::System, {system});
     forEachList(model, [&](KeyPair pair, const auto& things) {
         done = done && putRecords(index, pair, toRecords(things));
     });
     vkd_zob_free_ex(index, lock.key1, lock.key2);
-    return done;
+    if (!done)
+        return false;
+    QByteArray stored;
+    forEachRecord(index, keys::System, [&](const QByteArray& bytes) { stored = bytes; });
+    return stored == system;
 }
 
 Model readModel(int index)

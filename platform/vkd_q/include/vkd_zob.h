@@ -7,7 +7,9 @@
 /// index 0 is a scratch store in memory that lives as long as the process.
 ///
 /// Every operation that fails writes one log line of the category vkd.zob that says what failed and
-/// why, and leaves what was stored as it was. All of it is for one thread, the GUI thread.
+/// why, and leaves what was stored as it was. What fails only because something before it failed, a
+/// put after a failed take above all, repeats the status without a line. All of it is for one
+/// thread, the GUI thread.
 using cd_error_t = int;
 
 /// What the operations answer. Anything above VKD_ZOB_CUT means that nothing was delivered or done.
@@ -22,7 +24,7 @@ enum VkdZobStatus : cd_error_t {
     VKD_ZOB_NEWER = 7,      ///< the file was written by a newer version
     VKD_ZOB_DAMAGED = 8,    ///< the file is damaged
     VKD_ZOB_READ_ONLY = 9,  ///< the file, or the folder it lies in, cannot be written
-    VKD_ZOB_FULL = 10,      ///< no room left for the file
+    VKD_ZOB_FULL = 10,      ///< no room left for the file, or the disk does not take it
     VKD_ZOB_LOCKED = 11,    ///< another program held the project for too long
     VKD_ZOB_FAILED = 12,    ///< the system failed to read or write
     VKD_ZOB_BAD_CALL = 13   ///< an argument is out of range
@@ -50,7 +52,8 @@ VKD_Q_EXPORT cd_error_t vkd_zob_get(int index, int key1, int key2, void* record,
 
 /// With `position` 0 writes the first record, and with `*length` 0 as well empties the key pair;
 /// with `position` 1 appends. Outside of a taken key pair the record is stored at once. Inside, it
-/// counts from vkd_zob_free_ex() on. A key pair that could not be taken refuses the call.
+/// counts from vkd_zob_free_ex() on. A key pair that could not be taken refuses the call until it
+/// is released.
 VKD_Q_EXPORT cd_error_t vkd_zob_put(int index, int key1, int key2, const void* record,
                                     const int* length, int position);
 
@@ -60,7 +63,7 @@ VKD_Q_EXPORT cd_error_t vkd_zob_put(int index, int key1, int key2, const void* r
 VKD_Q_EXPORT cd_error_t vkd_zob_lock_ex(int index, int key1, int key2);
 
 /// Releases the key pair after reading or writing; what was put since it was taken is now stored.
-/// If one of the puts failed, none of them counts.
+/// If anything failed meanwhile, a read too, none of it counts.
 VKD_Q_EXPORT void vkd_zob_free_ex(int index, int key1, int key2);
 
 /// With `mode` 1 moves `*key1`, `*key2` to the first key pair in use that is not below them, both

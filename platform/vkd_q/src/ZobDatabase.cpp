@@ -19,6 +19,8 @@ constexpr int SchemaVersion = 1;
 constexpr int LockDeadlineKey = 201;
 constexpr int DefaultLockDeadline = 5000; // ms
 
+const QLatin1String InMemory(":memory:");
+
 constexpr char Schema[] = "BEGIN;"
                           "CREATE TABLE record(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL,"
                           " position INTEGER NOT NULL, data BLOB NOT NULL,"
@@ -110,7 +112,7 @@ std::unique_ptr<ZobDatabase> ZobDatabase::create(const QString& path, cd_error_t
 
 std::unique_ptr<ZobDatabase> ZobDatabase::inMemory(cd_error_t* status)
 {
-    std::unique_ptr<ZobDatabase> database(new ZobDatabase(QStringLiteral(":memory:")));
+    std::unique_ptr<ZobDatabase> database(new ZobDatabase(InMemory));
     *status = database->connect(SQLITE_OPEN_READWRITE);
     if (*status == VKD_ZOB_OK)
         *status = database->makeSchema();
@@ -120,7 +122,11 @@ std::unique_ptr<ZobDatabase> ZobDatabase::inMemory(cd_error_t* status)
 cd_error_t ZobDatabase::connect(int flags)
 {
     sqlite3* connection = nullptr;
-    const int code = sqlite3_open_v2(m_path.toUtf8().constData(), &connection, flags, nullptr);
+    // Absolute, because SQLite would take "file:x" for an address.
+    const QByteArray path = m_path == InMemory
+                                ? m_path.toUtf8()
+                                : QFile::encodeName(QFileInfo(m_path).absoluteFilePath());
+    const int code = sqlite3_open_v2(path.constData(), &connection, flags, nullptr);
     m_connection.reset(connection);
     if (code != SQLITE_OK)
         return reportZob(VKD_ZOB_NO_FILE, "open", m_path, QString::fromUtf8(sqlite3_errstr(code)));
@@ -168,6 +174,10 @@ cd_error_t ZobDatabase::checkSoundness()
     else if (result != QLatin1String("ok"))
         status = reportZob(VKD_ZOB_DAMAGED, "open", m_path, result);
     sqlite3_finalize(check);
+    // A sound database of ours without our table.
+    if (status == VKD_ZOB_OK && m_get.start(m_connection.get(), GetSql, 0, 0) != SQLITE_OK)
+        status = reportZob(VKD_ZOB_DAMAGED, "open", m_path,
+                           QString::fromUtf8(sqlite3_errmsg(m_connection.get())));
     return status;
 }
 
@@ -199,29 +209,33 @@ cd_error_t ZobDatabase::fail(int sqliteCode, const char* action)
 cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int position)
 {
     if (position < 0 || *length < 0)
-        return reportZob(VKD_ZOB_BAD_CALL, "read", m_path);
-    // The statement that follows takes the shared lock, which then lasts to the end of the pass.
-    if (position == 0 && m_taken.empty() && !m_snapshot)
-        m_snapshot = execute("BEGIN", "read") == VKD_ZOB_OK;
+        return spoilChange(reportZob(VKD_ZOB_BAD_CALL, "read", m_path));
+    if (position == 0 && m_taken.empty())
+        beginPass({key1, key2});
     int code = m_get.start(m_connection.get(), GetSql, key1, key2);
     if (code == SQLITE_OK) {
         m_get.bind(3, position);
         code = m_get.step();
     }
-    if (code != SQLITE_ROW) {
-        const cd_error_t status =
-            code == SQLITE_DONE ? positionAfterEnd(key1, key2) : fail(code, "read");
-        m_get.done();
-        endSnapshot();
-        return status;
-    }
+    cd_error_t status = VKD_ZOB_OK;
+    if (code == SQLITE_ROW)
+        status = deliver(record, length);
+    else
+        status = code == SQLITE_DONE ? positionAfterEnd(key1, key2) : failInside(code, "read");
+    m_get.done();
+    if (status > VKD_ZOB_CUT)
+        endPass({key1, key2});
+    return status;
+}
+
+cd_error_t ZobDatabase::deliver(void* record, int* length) const
+{
     int stored = 0;
     const void* bytes = m_get.columnBytes(0, &stored);
     const cd_error_t status = stored > *length ? VKD_ZOB_CUT : VKD_ZOB_OK;
     *length = std::min(stored, *length);
     if (*length > 0)
         std::memcpy(record, bytes, size_t(*length));
-    m_get.done();
     return status;
 }
 
@@ -233,28 +247,70 @@ cd_error_t ZobDatabase::positionAfterEnd(int key1, int key2)
     m_any.done();
     if (code == SQLITE_ROW)
         return VKD_ZOB_END;
-    return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_NO_KEY) : fail(code, "read");
+    return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_NO_KEY) : failInside(code, "read");
+}
+
+/// The first statement of a transaction for reading takes the shared lock, which lasts to its end.
+void ZobDatabase::beginPass(KeyPair pair)
+{
+    if (m_passes.empty() && execute("BEGIN", "read") != VKD_ZOB_OK)
+        return;
+    m_passes.insert(pair);
+}
+
+void ZobDatabase::endPass(KeyPair pair)
+{
+    if (m_passes.erase(pair) && m_passes.empty())
+        endReading();
+}
+
+void ZobDatabase::endPasses()
+{
+    if (m_passes.empty())
+        return;
+    m_passes.clear();
+    endReading();
+}
+
+void ZobDatabase::endReading()
+{
+    if (!sqlite3_get_autocommit(m_connection.get()) &&
+        execute("COMMIT", "finish reading") != VKD_ZOB_OK)
+        execute("ROLLBACK", "finish reading");
+}
+
+/// A failure inside of a taken key pair, even one of reading, may have ended the transaction: what
+/// is put from then on would be stored on its own, and what could not be read may be missing from
+/// it. So the whole change counts as failed.
+cd_error_t ZobDatabase::failInside(int sqliteCode, const char* action)
+{
+    return spoilChange(fail(sqliteCode, action));
+}
+
+cd_error_t ZobDatabase::spoilChange(cd_error_t status)
+{
+    if (!m_taken.empty() && m_changeStatus == VKD_ZOB_OK)
+        m_changeStatus = status;
+    return status;
 }
 
 cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, int position)
 {
-    if (m_refused.count({key1, key2}))
-        return VKD_ZOB_LOCKED; // the failed take has said why
-    // A full disk may have ended the transaction: what is put now would be stored on its own.
-    if (!m_taken.empty() && m_putFailed)
-        return VKD_ZOB_FAILED;
+    const auto refused = m_refused.find({key1, key2});
+    if (refused != m_refused.end())
+        return refused->second;
+    if (!m_taken.empty() && m_changeStatus != VKD_ZOB_OK)
+        return m_changeStatus;
     if (length < 0 || position < 0 || position > 1)
-        return reportZob(VKD_ZOB_BAD_CALL, "write", m_path);
-    if (m_taken.empty())
-        endSnapshot();
+        return spoilChange(reportZob(VKD_ZOB_BAD_CALL, "write", m_path));
+    endPasses(); // there is none while a pair is taken
     int code = startPut(key1, key2, record, length, position);
     Statement& statement = putStatement(length, position);
     if (code == SQLITE_OK)
         code = statement.step();
-    const cd_error_t status = code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : fail(code, "write");
+    const cd_error_t status =
+        code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : failInside(code, "write");
     statement.done();
-    if (status != VKD_ZOB_OK && !m_taken.empty())
-        m_putFailed = true;
     return status;
 }
 
@@ -279,32 +335,40 @@ int ZobDatabase::startPut(int key1, int key2, const void* record, int length, in
 
 cd_error_t ZobDatabase::take(int key1, int key2)
 {
-    endSnapshot();
+    endPasses();
     if (m_taken.empty()) {
-        const cd_error_t status = execute("BEGIN IMMEDIATE", "take the lock of");
+        const cd_error_t status = beginChange();
         if (status != VKD_ZOB_OK) {
-            m_refused.insert({key1, key2});
+            m_refused[{key1, key2}] = status;
             return status;
         }
-        m_putFailed = false;
     }
     m_refused.erase({key1, key2});
     m_taken.insert({key1, key2});
     return VKD_ZOB_OK;
 }
 
+cd_error_t ZobDatabase::beginChange()
+{
+    m_changeStatus = VKD_ZOB_OK;
+    // SQLite would begin, and refuse only what is written.
+    if (sqlite3_db_readonly(m_connection.get(), "main"))
+        return reportZob(VKD_ZOB_READ_ONLY, "take the lock of", m_path);
+    return execute("BEGIN IMMEDIATE", "take the lock of");
+}
+
 void ZobDatabase::release(int key1, int key2)
 {
     m_refused.erase({key1, key2});
-    endSnapshot();
+    endPass({key1, key2});
     if (m_taken.erase({key1, key2}) && m_taken.empty())
         storeOrDrop();
 }
 
 void ZobDatabase::storeOrDrop()
 {
-    cd_error_t status = VKD_ZOB_FAILED;
-    if (!m_putFailed) // else the put has said why
+    cd_error_t status = m_changeStatus; // whose reason has been said
+    if (status == VKD_ZOB_OK)
         status = execute("COMMIT", "store the changes in");
     if (status == VKD_ZOB_OK)
         return;
@@ -321,24 +385,15 @@ void ZobDatabase::firstPairFrom(int* key1, int* key2)
     if (code == SQLITE_OK)
         code = m_next.step();
     if (code != SQLITE_ROW && code != SQLITE_DONE)
-        fail(code, "search");
+        failInside(code, "search");
     *key1 = code == SQLITE_ROW ? m_next.column(0) : -1;
     *key2 = code == SQLITE_ROW ? m_next.column(1) : -1;
     m_next.done();
 }
 
-void ZobDatabase::endSnapshot()
-{
-    if (!m_snapshot)
-        return;
-    m_snapshot = false;
-    if (!sqlite3_get_autocommit(m_connection.get()))
-        execute("COMMIT", "finish reading");
-}
-
 cd_error_t ZobDatabase::finish()
 {
-    endSnapshot();
+    endPasses();
     if (!m_taken.empty() && !sqlite3_get_autocommit(m_connection.get()))
         execute("ROLLBACK", "undo the changes in");
     m_taken.clear();

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <map>
 #include <memory>
 #include <set>
 #include <utility>
@@ -41,10 +42,17 @@ private:
     cd_error_t number(const char* sql, int* value);
     cd_error_t checkSoundness();
     cd_error_t fail(int sqliteCode, const char* action);
+    cd_error_t failInside(int sqliteCode, const char* action);
+    cd_error_t spoilChange(cd_error_t status);
+    cd_error_t deliver(void* record, int* length) const;
     cd_error_t positionAfterEnd(int key1, int key2);
     int startPut(int key1, int key2, const void* record, int length, int position);
     Statement& putStatement(int length, int position);
-    void endSnapshot();
+    cd_error_t beginChange();
+    void beginPass(KeyPair pair);
+    void endPass(KeyPair pair);
+    void endPasses();
+    void endReading();
     void storeOrDrop();
 
     QString m_path;
@@ -54,9 +62,9 @@ private:
     };
     std::unique_ptr<sqlite3, Closer> m_connection; // outlives the statements below
     Statement m_get, m_any, m_next, m_first, m_append, m_clear;
+    std::set<KeyPair> m_passes; // being read from one state of the file
     std::set<KeyPair> m_taken;
-    std::set<KeyPair> m_refused;
-    bool m_snapshot = false;  // a transaction for reading is open
-    bool m_putFailed = false; // the open transaction for writing will be dropped
+    std::map<KeyPair, cd_error_t> m_refused; // could not be taken, and why
+    cd_error_t m_changeStatus = VKD_ZOB_OK;  // first failure since the first pair was taken
     cd_error_t m_releaseStatus = VKD_ZOB_OK;
 };

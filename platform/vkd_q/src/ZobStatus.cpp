@@ -2,19 +2,9 @@
 
 #include <sqlite3.h>
 
-#include <cerrno>
-
 Q_LOGGING_CATEGORY(lcZob, "vkd.zob")
 
 namespace {
-cd_error_t ioStatus(sqlite3* connection, int extendedCode)
-{
-    const int reason = sqlite3_system_errno(connection);
-    if (reason == ENOSPC || reason == EDQUOT || reason == EFBIG)
-        return VKD_ZOB_FULL;
-    return extendedCode == SQLITE_IOERR_SHORT_READ ? VKD_ZOB_DAMAGED : VKD_ZOB_FAILED;
-}
-
 const char* reasonOf(cd_error_t status)
 {
     switch (status) {
@@ -31,7 +21,7 @@ const char* reasonOf(cd_error_t status)
     case VKD_ZOB_READ_ONLY:
         return "the file or its folder is write-protected";
     case VKD_ZOB_FULL:
-        return "no room is left for the file";
+        return "the disk is full, or it does not take what is written";
     case VKD_ZOB_LOCKED:
         return "another program holds the project";
     case VKD_ZOB_BAD_CALL:
@@ -55,8 +45,7 @@ cd_error_t zobStatus(sqlite3* connection, int sqliteCode)
     case SQLITE_LOCKED:
         return VKD_ZOB_LOCKED;
     case SQLITE_CORRUPT:
-    case SQLITE_ERROR:
-        return VKD_ZOB_DAMAGED; // our statements fit every sound file
+        return VKD_ZOB_DAMAGED;
     case SQLITE_FULL:
         return VKD_ZOB_FULL;
     case SQLITE_READONLY:
@@ -70,7 +59,9 @@ cd_error_t zobStatus(sqlite3* connection, int sqliteCode)
     case SQLITE_RANGE:
         return VKD_ZOB_BAD_CALL;
     case SQLITE_IOERR:
-        return ioStatus(connection, sqlite3_extended_errcode(connection));
+        // SQLite knows of a full disk by itself; a used up quota is a failed write to it.
+        return sqlite3_extended_errcode(connection) == SQLITE_IOERR_WRITE ? VKD_ZOB_FULL
+                                                                          : VKD_ZOB_FAILED;
     default:
         return VKD_ZOB_FAILED;
     }

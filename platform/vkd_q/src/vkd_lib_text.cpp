@@ -36,13 +36,15 @@ Texts readTexts(const QString& path)
         if (line.trimmed().isEmpty() || line.startsWith('#'))
             continue;
         const QList<QByteArray> parts = line.split('|');
-        if (parts.size() != 4) {
+        bool hasClass = false;
+        const int textClass = parts[0].toInt(&hasClass);
+        if (parts.size() != 4 || !hasClass) {
             qCWarning(lcText, "%s:%d: a text needs class, key, German and English",
                       qUtf8Printable(path), number);
             continue;
         }
         // Keys come from captions and are compared in Latin-1.
-        const auto key = qMakePair(parts[0].toInt(), QString::fromUtf8(parts[1]).toLatin1());
+        const auto key = qMakePair(textClass, QString::fromUtf8(parts[1]).toLatin1());
         if (!texts.contains(key))
             texts.insert(key, {parts[2], parts[3]});
     }
