@@ -89,9 +89,8 @@ private:
             checkRows(plot);
             return;
         }
-        const int kind = kindOf(record.rowClass);
         for (const auto& row : m_rows)
-            if (row.kind == kind)
+            if (takesRow(record.rowClass, row.kind))
                 addRow(plot, row.name, row.number);
         if (plot->childCount() == 0)
             return;
@@ -101,12 +100,11 @@ private:
             checkRows(plot);
     }
 
-    /// The kind of load case that plots of this class bind to; -1 for none.
-    static int kindOf(int rowClass)
+    /// Classes 1 and 2 take load cases, class 3 combinations of the design, any other class
+    /// nothing.
+    static bool takesRow(int rowClass, int kind)
     {
-        if (rowClass == 1 || rowClass == 2)
-            return 1;
-        return rowClass == 3 ? 2 : -1;
+        return rowClass == 3 ? kind == 2 : (rowClass == 1 || rowClass == 2) && kind == 1;
     }
 
     void addRow(Node* plot, const QString& name, int number)

@@ -21,7 +21,7 @@ using Outcome = CatalogueParser::Outcome;
 class CatalogueLint
 {
 public:
-    void line(int number, const QByteArray& bytes);
+    void line(int number, const QByteArray& bytes, bool isCut);
     std::vector<CatalogueFinding> findings;
     std::vector<GraphicalOutputRecord> records;
 
@@ -45,9 +45,12 @@ private:
     QHash<OnPage, QPair<QString, int>> m_captions; // caption and line
 };
 
-void CatalogueLint::line(int number, const QByteArray& bytes)
+void CatalogueLint::line(int number, const QByteArray& bytes, bool isCut)
 {
     m_line = number;
+    if (isCut)
+        say(QStringLiteral("longer than %1 bytes: the rest is read as a line of its own")
+                .arg(bytes.size()));
     const Outcome outcome = m_parser.parseLine(bytes.constData(), bytes.size());
     if (outcome == Outcome::Comment || outcome == Outcome::Blank)
         return;
@@ -66,9 +69,6 @@ void CatalogueLint::checkBytes(const QByteArray& bytes)
 {
     if (bytes.startsWith('|') || bytes.contains("||"))
         say(QStringLiteral("adjacent bars count as one: the columns behind them are shifted"));
-    if (bytes.size() == CatalogueParser::LineBuffer - 1 && !bytes.endsWith('\n'))
-        say(QStringLiteral("longer than %1 bytes: the rest is read as a line of its own")
-                .arg(bytes.size()));
 }
 
 void CatalogueLint::checkScripts(Outcome outcome)
@@ -148,8 +148,7 @@ void CatalogueLint::checkPlotIdentifier(const GraphicalOutputRecord& record, int
     }
     if (sharedWith)
         say(QStringLiteral("identifier \"%1\" shared with the plot of line %2")
-                .arg(itemId(record, 2))
-                .arg(sharedWith));
+                .arg(itemId(record, 2), QString::number(sharedWith)));
 }
 
 void CatalogueLint::checkCaption(const GraphicalOutputRecord& record, int program, int level,
@@ -161,8 +160,7 @@ void CatalogueLint::checkCaption(const GraphicalOutputRecord& record, int progra
         known = {caption, m_line};
     else if (known.first != caption)
         say(QStringLiteral("identifier \"%1\" stands for \"%2\" here and for \"%3\" in line %4")
-                .arg(id, caption, known.first)
-                .arg(known.second));
+                .arg(id, caption, known.first, QString::number(known.second)));
 }
 } // namespace
 
@@ -174,8 +172,9 @@ std::vector<CatalogueFinding> lintCatalogue(QIODevice& device,
     char bytes[CatalogueParser::LineBuffer];
     int number = 1;
     for (qint64 length; (length = device.readLine(bytes, sizeof bytes)) > 0;) {
-        lint.line(number, QByteArray::fromRawData(bytes, int(length)));
-        number += bytes[length - 1] == '\n';
+        const bool isWhole = bytes[length - 1] == '\n' || device.atEnd();
+        lint.line(number, QByteArray::fromRawData(bytes, int(length)), !isWhole);
+        number += isWhole;
     }
     if (records)
         *records = std::move(lint.records);

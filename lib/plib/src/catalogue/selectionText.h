@@ -45,9 +45,11 @@ void appendSelection(Node* node, QString& text)
     } else if (state == Qt::PartiallyChecked) {
         text += QLatin1String("ERROR CASE\n"); // a leaf cannot be in between
     } else if (count == 0 && item->number > 0) {
-        // Plots answer for their rows, so the walk does not come here. If it did, the place for the
-        // number stays in the line as it is, which readers of old files know.
-        text += word + id + QLatin1String(":%2\n");
+        // Plots answer for their rows, so the walk does not come here. If it did, the number goes
+        // into the identifier and not into its own place, on purpose: readers of old files know
+        // that line.
+        text += word + QString(id).replace(QLatin1String("%1"), QString::number(item->number)) +
+                QLatin1String(":%2\n");
     } else {
         text += word + id + QLatin1Char('\n');
     }

@@ -13,7 +13,7 @@ struct OutputSettings
 {
     VKD_P_WidgetGraphicalOutput_Progname variant = VKD_P_GraphicalOutput_Standard;
     int scaleMode = 1;     ///< 0 engineering scale, 1 scale to fit
-    int scaleIndex = 0;    ///< row of scaleRows(), 0 is "Auto"
+    int scaleIndex = 0;    ///< row of the scale list, 0 is "Auto"
     QString scaleText;     ///< text of that row, such as "1:100"
     int pageSplitId = 0;   ///< division of the sheet, 0 to 5; split variant only
     bool hasFormat = true; ///< false in the split variant, which has no format to choose
