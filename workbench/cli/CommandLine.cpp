@@ -6,6 +6,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cstdio>
@@ -46,6 +47,11 @@ int runCommand(const QStringList& arguments)
         print(usage());
         return 0;
     }
+    if (name == QLatin1String("--version")) {
+        print(QCoreApplication::applicationName() + QLatin1Char(' ') +
+              QCoreApplication::applicationVersion() + QLatin1Char('\n'));
+        return 0;
+    }
     for (const Command& command : Commands)
         if (name == QLatin1String(command.name))
             return command.run(arguments.mid(1));
@@ -54,17 +60,27 @@ int runCommand(const QStringList& arguments)
 }
 } // namespace
 
+namespace {
+/// A line on standard error, whatever a file name or a message may hold.
+void complain(const QString& text)
+{
+    std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(text.simplified()));
+}
+} // namespace
+
 int run(const QStringList& arguments)
 {
     try {
-        return runCommand(arguments);
+        const int exitCode = runCommand(arguments);
+        const QStringList warnings = PlatformLog::take();
+        for (const QString& warning : warnings)
+            complain(QLatin1String("warning: ") + warning);
+        return exitCode;
     } catch (const HelpWanted& help) {
         print(help.text);
         return 0;
     } catch (const CommandError& error) {
-        // One line, whatever a file name or a message may hold.
-        const QString line = error.text.simplified();
-        std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(line));
+        complain(error.text);
         return 1;
     }
 }
@@ -147,7 +163,7 @@ std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path)
 {
     auto document = VKD_H_ZOBDoc::open(path);
     if (!document)
-        throw CommandError{PlatformLog::take()};
+        throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
     return document;
 }
 

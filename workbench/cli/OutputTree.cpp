@@ -11,6 +11,8 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace workbench {
@@ -58,7 +60,10 @@ void OutputTree::fill(const Rows& rows)
             builder.add(record);
     builder.finish();
     if (m_root.childCount() == 0)
-        m_root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
+        m_root
+            .addChild(
+                QCoreApplication::translate("GraphicalOutputTreeWidget", "No Entries in database!"))
+            ->plain = true;
 }
 
 void OutputTree::applySelection(const QString& text)
@@ -93,8 +98,7 @@ OutputTree::Rows readRows(const QString& path)
         if (!hasKind || !hasNumber || kind < 1 || kind > 2)
             throw CommandError{QStringLiteral("%1:%2: a kind of 1 or 2, a number and a name are "
                                               "needed")
-                                   .arg(path)
-                                   .arg(i + 1)};
+                                   .arg(path, QString::number(i + 1))};
         rows.push_back({kind, number, lines[i].section(QLatin1Char(' '), 2)});
     }
     return rows;

@@ -1,7 +1,5 @@
 #include "PlatformLog.h"
 
-#include <QStringList>
-
 #include <cstring>
 
 namespace workbench {
@@ -29,10 +27,11 @@ void PlatformLog::install()
     previous = qInstallMessageHandler(keep);
 }
 
-QString PlatformLog::take()
+QStringList PlatformLog::take()
 {
-    const QString lines = kept().join(QLatin1String("; "));
-    kept().clear();
+    QStringList lines;
+    lines.swap(kept());
+    lines.removeDuplicates();
     return lines;
 }
 

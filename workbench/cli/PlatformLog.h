@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 namespace workbench {
 
@@ -10,8 +10,8 @@ class PlatformLog
 {
 public:
     static void install();
-    /// The lines since the last call, joined; warnings of others than the platform are printed.
-    static QString take();
+    /// The lines since the last call, each once.
+    static QStringList take();
 };
 
 } // namespace workbench

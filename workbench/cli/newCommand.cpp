@@ -30,28 +30,27 @@ QString modelPath(const QString& nameOrFile)
 void writeProject(const QString& path, const vkd::dbo::Model& model)
 {
     const QString unfinished =
-        QStringLiteral("%1.%2").arg(path).arg(QCoreApplication::applicationPid());
-    auto document = VKD_H_ZOBDoc::create(unfinished);
-    if (!document)
-        throw CommandError{PlatformLog::take()};
-    const bool stored = vkd::dbo::storeModel(document->index(), model);
-    if (document->close() == VKD_ZOB_OK && stored && QFile::rename(unfinished, path))
-        return;
-    QFile::remove(unfinished);
-    const QString reason = PlatformLog::take();
-    throw CommandError{reason.isEmpty() ? QStringLiteral("cannot create %1").arg(path) : reason};
+        path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
+    bool done = false;
+    if (auto document = VKD_H_ZOBDoc::create(unfinished)) {
+        done = vkd::dbo::storeModel(document->index(), model) && document->close() == VKD_ZOB_OK;
+        done = done && QFile::rename(unfinished, path);
+        document->close();
+        QFile::remove(unfinished);
+    }
+    if (!done)
+        throw CommandError{QLatin1String("cannot create ") + path + QLatin1String(": ") +
+                           PlatformLog::take().join(QLatin1String("; ")).replace(unfinished, path)};
 }
 
 QString summary(const QString& path, const vkd::dbo::Model& model)
 {
     const int elements = model.quads.size() + model.beams.size() + model.trusses.size() +
                          model.cables.size() + model.springs.size() + model.bricks.size();
+    const auto number = [](int value) { return QString::number(value); };
     return QStringLiteral("%1: %2, %3 nodes, %4 elements in %5 groups, %6 load cases\n")
-        .arg(path, model.system.title)
-        .arg(model.nodes.size())
-        .arg(elements)
-        .arg(model.groups.size())
-        .arg(model.loadCases.size());
+        .arg(path, model.system.title, number(model.nodes.size()), number(elements),
+             number(model.groups.size()), number(model.loadCases.size()));
 }
 } // namespace
 

@@ -8,6 +8,7 @@
 #include <PlatformScriptEnvironment.h>
 #include <vkd_lib_value.h>
 
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace workbench {
@@ -45,6 +46,9 @@ std::vector<CommandLine::Option> options()
 void write(QSaveFile* file, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
+    const QFileInfo existing(file->fileName());
+    if (existing.exists() && !existing.isFile()) // a pipe or device would be replaced by a file
+        throw CommandError{QStringLiteral("cannot write %1: it is no file").arg(file->fileName())};
     if (!file->open(QIODevice::WriteOnly) || file->write(bytes) != bytes.size() || !file->flush())
         throw CommandError{
             QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};
@@ -67,9 +71,12 @@ plib::OutputSettings settingsFrom(const CommandLine& line)
     return settings;
 }
 
-/// Both files appear, or none of them does.
+/// No file is touched before all that is to be written has been.
 void writeResults(const CommandLine& line, const QString& script, const QString& selection)
 {
+    if (line.has("o") && line.value("o") == line.value("selection-out"))
+        throw CommandError{QStringLiteral("the script and the choice cannot both go into %1")
+                               .arg(line.value("o"))};
     QSaveFile scriptFile(line.value("o"));
     QSaveFile selectionFile(line.value("selection-out"));
     if (line.has("o"))
@@ -102,9 +109,13 @@ int scriptCommand(const QStringList& arguments)
     OutputTree tree(line.argument(0), settings.variant, line.has("load-cases") ? &rows : nullptr);
     if (line.has("selection"))
         tree.applySelection(readText(line.value("selection")));
+    QString additional = line.value("additional");
+    // On the prefix page the line end is the caller's business.
+    if (settings.variant == VKD_P_GraphicalOutput_Prefix && !additional.isEmpty())
+        additional += QLatin1Char('\n');
     const plib::PlatformScriptEnvironment environment(tree.parameter());
-    const QString script = plib::outputScript(settings, tree.scriptLines(english),
-                                              line.value("additional"), english, environment);
+    const QString script =
+        plib::outputScript(settings, tree.scriptLines(english), additional, english, environment);
     writeResults(line, script, tree.selectionText());
     return 0;
 }

@@ -49,9 +49,7 @@ int numberUpTo(int highest, const QString& name, const QString& value)
     const int number = value.toInt(&isNumber);
     if (!isNumber || number < 0 || number > highest)
         throw CommandError{QStringLiteral("%1 is a number from 0 to %2, not \"%3\"")
-                               .arg(name)
-                               .arg(highest)
-                               .arg(value)};
+                               .arg(name, QString::number(highest), value)};
     return number;
 }
 
