@@ -1,0 +1,70 @@
+#include "VKD_H_ProjectDialogPage.h"
+
+#include <vkd_zob.h>
+
+namespace {
+constexpr int EntriesKey = 420; // with the number of the page: a record for key and value in turn
+
+QByteArray readRecord(int index, int page, int position, cd_error_t* status)
+{
+    QByteArray bytes(1024, Qt::Uninitialized);
+    int length = bytes.size();
+    while ((*status = vkd_zob_get(index, EntriesKey, page, bytes.data(), &length, position)) ==
+           VKD_ZOB_CUT) {
+        bytes.resize(2 * bytes.size());
+        length = bytes.size();
+    }
+    return *status == VKD_ZOB_OK ? bytes.left(length) : QByteArray();
+}
+
+bool append(int index, int page, const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    const int length = bytes.size();
+    return vkd_zob_put(index, EntriesKey, page, bytes.constData(), &length, 1) == VKD_ZOB_OK;
+}
+} // namespace
+
+VKD_H_ProjectDialogPage::VKD_H_ProjectDialogPage(int index, int page)
+    : m_index(index)
+    , m_page(page)
+{
+    if (index < 0)
+        return;
+    cd_error_t status = VKD_ZOB_OK;
+    for (int position = 0; status == VKD_ZOB_OK; position += 2) {
+        const QByteArray key = readRecord(index, page, position, &status);
+        if (status != VKD_ZOB_OK)
+            break;
+        const QByteArray value = readRecord(index, page, position + 1, &status);
+        m_entries.insert(QString::fromUtf8(key), QString::fromUtf8(value));
+    }
+    vkd_zob_free_ex(index, EntriesKey, page);
+}
+
+QString VKD_H_ProjectDialogPage::getEntry(const QString& key, const QString& defaultValue) const
+{
+    return m_entries.value(key, defaultValue);
+}
+
+void VKD_H_ProjectDialogPage::setEntry(const QString& key, const QString& value)
+{
+    m_entries.insert(key, value);
+}
+
+void VKD_H_ProjectDialogPage::deleteEntry(const QString& key)
+{
+    m_entries.remove(key);
+}
+
+bool VKD_H_ProjectDialogPage::save() const
+{
+    const int none = 0;
+    bool done = vkd_zob_lock_ex(m_index, EntriesKey, m_page) == VKD_ZOB_OK &&
+                vkd_zob_put(m_index, EntriesKey, m_page, nullptr, &none, 0) == VKD_ZOB_OK;
+    for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
+        done =
+            done && append(m_index, m_page, entry.key()) && append(m_index, m_page, entry.value());
+    vkd_zob_free_ex(m_index, EntriesKey, m_page);
+    return done;
+}
