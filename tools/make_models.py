@@ -12,7 +12,7 @@ from pathlib import Path
 TARGET = Path(__file__).resolve().parents[1] / "share" / "models"
 LARGEST_FILE = 400_000                        # bytes
 KEYS = ("title kindOfSystem crossSections groups secondaryGroups nodes supports beams trusses cables springs "
-        "quads bricks quadTendons beamTendons points lines areas axes sectionCuts designLines loadCases").split()
+        "quads bricks quadTendons beamTendons points lines areas axes sectionCuts designLines loadCases designParameters").split()
 
 # What the columns of a row mean: a list to look the number up in, or a plain value; "nodes?" may be 0.
 BAR = "number groups crossSections nodes nodes"
@@ -117,6 +117,9 @@ class Model:
         self.records("loadCases", 1, cases, kind=1)
         self.records("loadCases", 101, designs, kind=2)
 
+    def design(self, groups, **values):
+        self.rows("designParameters").append({"groups": groups.split(), "values": values})
+
     def path(self, key, title, *points):
         self.records(key, len(self.rows(key)) + 1, title, points=list(map(tidy, points)))
 
@@ -163,6 +166,12 @@ class Building(Model):
         self.geometry()
         self.loads("Eigengewicht=Self-weight; Ausbaulasten=Superimposed dead load; Nutzlast Geschossdecke=Live load "
                    "floor slab; Nutzlast Dach=Live load roof; Schnee=Snow; Wind in X=Wind in X; Wind in Y=Wind in Y")
+        self.design("1", type=1, hio=0.05, hiu=0.06, dio=16, dioq=16, diu=16, diuq=16, aso=7.85, asu=7.85,
+                    wko=0.3, wkoq=0.3, wku=0.2, wkuq=0.2)
+        self.design("2 3", type=2, hio=0.03, hiu=0.03, dio=12, dioq=12, aso=3.35, asoq=3.35, asu=3.35, asuq=3.35,
+                    sigo=280, sigoq=280, sigu=320, siguq=320)
+        self.design("COLS", type=2, hio=0.03, hiu=0.03, dio=14, dioq=14, aso=7.7, asoq=7.7, amo=25, amoq=25)
+        self.design("4 5", type=1, hio=0.035, hiu=0.035, aso=2.5, asu=2.5, wko=0.3, wku=0.3)
 
     def slabs(self):
         xs, ys = steps(0, 18, 0.75), steps(0, 12, 0.75)
@@ -230,6 +239,9 @@ class Slab(Model):
                    "Temperatur, unten wärmer=Temperature, bottom warmer",
                    "Schachbrett, Felder 1, 3 und 5=Chess pattern, fields 1, 3 and 5;"
                    "Schachbrett, Felder 2, 4 und 6=Chess pattern, fields 2, 4 and 6;" + DESIGN)
+        self.design("1", type=1, hio=0.03, hiu=0.03, aso=2.57, asu=5.24, wko=0.4, wku=0.4)
+        self.design("2 3", type=2, hio=0.035, hiu=0.03, dio=16, dioq=14, aso=7.54, asoq=7.54, amo=40, amoq=40)
+        self.design("4", type=3, rioi=0.7853982, hio=0.04, dio=12, dioi=10, aso=5.24, asoq=2.57, asoi=2.57)
 
     def mesh(self, columns, in_strip):
         def zone(x, y):
@@ -327,6 +339,7 @@ class Hall(Model):
         self.outline(rectangle(0.6, 29.4, 1, 19))
         self.path("sectionCuts", "Bodenschnitt quer=Floor cut across", (15.6, 1, 0), (15.6, 19, 0))
         self.path("designLines", "Bodenmitte längs=Floor centre line", (0.6, 10, 0), (29.4, 10, 0))
+        self.design("9", type=1, hio=0.04, hiu=0.04, aso=5.24, asu=5.24, wko=0.2, wkoq=0.2, wku=0.3, wkuq=0.3)
 
     def crane(self):
         for y, axis in (0.6, "A"), (19.4, "B"):
@@ -378,6 +391,13 @@ def check(data):
         fixed = directions.split()
         require(fixed and fixed == [word for word in DIRECTIONS if word in fixed], f"supports: node {node}")
     check_secondary_groups(data.get("secondaryGroups", ()), known)
+    check_design(data.get("designParameters", ()), data)
+
+
+def check_design(rows, data):
+    groups = [str(group["number"]) for group in data["groups"]] + [group["name"] for group in data["secondaryGroups"]]
+    named = [name for row in rows for name in row["groups"]]
+    require(len(named) == len(set(named)) and set(named) <= set(groups), "designParameters: double or unknown group")
 
 
 def check_secondary_groups(groups, known):

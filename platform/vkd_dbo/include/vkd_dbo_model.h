@@ -2,7 +2,9 @@
 
 #include "vkd_dbo_export.h"
 
+#include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <array>
@@ -115,6 +117,14 @@ struct SystemInformation
     int kindOfSystem = 0; ///< see getKindOfSystem()
 };
 
+/// Design parameters of some groups, by the names of their fields; only a model file has them, a
+/// project keeps records.
+struct DesignValues
+{
+    QStringList groups; ///< numbers, and names of secondary groups
+    QMap<QString, double> values;
+};
+
 /// A structural model. Plain data: the reader of model files sees to it that every number that one
 /// thing names belongs to another one.
 struct Model
@@ -140,6 +150,7 @@ struct Model
     QVector<Polyline> sectionCuts;
     QVector<Polyline> designLines;
     QVector<LoadCase> loadCases;
+    QVector<DesignValues> designParameters; ///< not stored with the model
 };
 
 /// Reads a model file (JSON, described in share/models/README.md). Titles are taken in the given

@@ -94,6 +94,11 @@ bool JsonPlace::has(const QString& key) const
     return object().contains(key);
 }
 
+QStringList JsonPlace::keys() const
+{
+    return object().keys();
+}
+
 JsonPlace JsonPlace::at(const QString& key) const
 {
     return {object().value(key), m_place.isEmpty() ? key : m_place + QLatin1Char('.') + key};

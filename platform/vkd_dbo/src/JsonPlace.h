@@ -39,6 +39,7 @@ public:
     /// Sees to it that this is an object with all of `needed` and no other keys than those of both.
     void checkKeys(const QStringList& needed, const QStringList& optional) const;
     bool has(const QString& key) const;
+    QStringList keys() const;
     JsonPlace at(const QString& key) const;
 
 private:

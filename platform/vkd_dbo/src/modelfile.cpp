@@ -40,6 +40,7 @@ private:
     void outlines(const char* key, QVector<Outline>& outlines, int least, int most);
     void polylines(const char* key, QVector<Polyline>& lines);
     void readSecondaryGroups();
+    void readDesign();
 
     static int unique(const JsonPlace& place, Numbers& used);
     static int known(const JsonPlace& place, const Numbers& numbers, const char* what);
@@ -82,11 +83,12 @@ Model ModelFileReader::read()
         words({"title", "kindOfSystem", "nodes", "groups"}),
         words({"crossSections", "secondaryGroups", "supports", "beams", "trusses", "cables",
                "springs", "quads", "bricks", "quadTendons", "beamTendons", "points", "lines",
-               "areas", "axes", "sectionCuts", "designLines", "loadCases"}));
+               "areas", "axes", "sectionCuts", "designLines", "loadCases", "designParameters"}));
     readSystem();
     readElements();
     readGeometry();
     readSecondaryGroups();
+    readDesign();
     return m_model;
 }
 
@@ -246,6 +248,30 @@ void ModelFileReader::readSecondaryGroups()
              group.title = place.at(QStringLiteral("title")).title(m_language);
              group.quads = members(place, "quads", m_quads);
              group.beams = members(place, "beams", m_beams);
+         });
+}
+
+void ModelFileReader::readDesign()
+{
+    QSet<QString> known;
+    for (int number : qAsConst(m_groups))
+        known.insert(QString::number(number));
+    for (const SecondaryGroup& group : qAsConst(m_model.secondaryGroups))
+        known.insert(group.name);
+    each("designParameters", m_model.designParameters,
+         [&](const JsonPlace& place, DesignValues& design) {
+             place.checkKeys({QStringLiteral("groups"), QStringLiteral("values")}, {});
+             const auto groups = place.at(QStringLiteral("groups")).list(1);
+             for (const JsonPlace& group : groups) {
+                 if (!known.remove(group.string()))
+                     group.fail(QStringLiteral("group %1 does not exist or stands here twice")
+                                    .arg(group.string()));
+                 design.groups << group.string();
+             }
+             const JsonPlace values = place.at(QStringLiteral("values"));
+             const QStringList names = values.keys();
+             for (const QString& name : names)
+                 design.values[name] = values.at(name).real();
          });
 }
 
