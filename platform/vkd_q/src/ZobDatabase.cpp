@@ -359,7 +359,11 @@ cd_error_t ZobDatabase::beginChange()
 
 void ZobDatabase::release(int key1, int key2)
 {
-    m_refused.erase({key1, key2});
+    const auto refused = m_refused.find({key1, key2});
+    if (refused != m_refused.end()) {
+        rememberRelease(refused->second);
+        m_refused.erase(refused);
+    }
     endPass({key1, key2});
     if (m_taken.erase({key1, key2}) && m_taken.empty())
         storeOrDrop();
@@ -375,6 +379,11 @@ void ZobDatabase::storeOrDrop()
     // Some failures have rolled back already; what the old content was, it is again.
     if (!sqlite3_get_autocommit(m_connection.get()))
         execute("ROLLBACK", "undo the changes in");
+    rememberRelease(status);
+}
+
+void ZobDatabase::rememberRelease(cd_error_t status)
+{
     if (m_releaseStatus == VKD_ZOB_OK)
         m_releaseStatus = status;
 }

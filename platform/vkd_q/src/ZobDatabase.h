@@ -54,6 +54,7 @@ private:
     void endPasses();
     void endReading();
     void storeOrDrop();
+    void rememberRelease(cd_error_t status);
 
     QString m_path;
     struct Closer
