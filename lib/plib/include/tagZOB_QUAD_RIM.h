@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+/// The design parameters of the area elements of one group, as the project's record store keeps
+/// them and the design program reads them: 53 words of four bytes, little-endian in the store.
+/// -99999.0 means not set in every real field.
+///
+/// In the names `o` is the upper and `u` the lower side; nothing behind it the principal
+/// reinforcement, `q` the cross reinforcement, `i` the third layer.
+struct tagZOB_QUAD_RIM
+{
+    std::int32_t group; ///< -1: all groups without a record of their own; from 1000000: secondary
+    std::int32_t subId; ///< 0, else the record belongs to another program
+    std::int32_t
+        type; ///< 0 none, 1 two layers orthogonal, 2 two layers, 3 three layers, 4 circular
+    std::int32_t mode;                      ///< carried along
+    std::int32_t mark;                      ///< 0 or 11, else the record belongs to another program
+    float rio, rioq, rioi, riu, riuq, riui; ///< directions, radians
+    float xref, yref, zref;                 ///< reference point of circular reinforcement, metres
+    /// Distances in metres. Stored: of each layer from the surface. Edited: of the first layer from
+    /// the surface, then the spacings from the first to the second and the second to the third.
+    float hio, hioq, hioi, hiu, hiuq, hiui;
+    float dio, dioq, dioi, diu, diuq, diui; ///< bar diameters, mm
+    float reservedD;
+    float aso, asoq, asoi, asu, asuq, asui; ///< minimum reinforcement, cm²/m
+    float reservedS;
+    float amo, amoq, amoi, amu, amuq, amui; ///< maximum reinforcement, cm²/m
+    float reservedM;
+    float wko, wkoq, wkoi, wku, wkuq, wkui;       ///< permissible crack widths, mm
+    float sigo, sigoq, sigoi, sigu, siguq, sigui; ///< permissible steel stresses, N/mm²
+};
+
+static_assert(sizeof(tagZOB_QUAD_RIM) == 212 && alignof(tagZOB_QUAD_RIM) == 4);
+static_assert(offsetof(tagZOB_QUAD_RIM, rio) == 20 && offsetof(tagZOB_QUAD_RIM, xref) == 44);
+static_assert(offsetof(tagZOB_QUAD_RIM, hio) == 56 && offsetof(tagZOB_QUAD_RIM, dio) == 80);
+static_assert(offsetof(tagZOB_QUAD_RIM, reservedD) == 104 && offsetof(tagZOB_QUAD_RIM, aso) == 108);
+static_assert(offsetof(tagZOB_QUAD_RIM, reservedS) == 132 && offsetof(tagZOB_QUAD_RIM, amo) == 136);
+static_assert(offsetof(tagZOB_QUAD_RIM, reservedM) == 160 && offsetof(tagZOB_QUAD_RIM, wko) == 164);
+static_assert(offsetof(tagZOB_QUAD_RIM, sigo) == 188 && offsetof(tagZOB_QUAD_RIM, sigui) == 208);

@@ -1,0 +1,110 @@
+#include "designEntries.h"
+
+#include "designFields.h"
+#include "designRecord.h"
+
+#include <VKD_H_ProjectDialogPage.h>
+
+#include <QStringList>
+
+namespace plib {
+
+namespace {
+using R = tagZOB_QUAD_RIM;
+
+/// Upper and lower side alternate, unlike in all other fields of an entry.
+constexpr SixFields DiametersOfEntry{&R::dio, &R::diu, &R::dioq, &R::diuq, &R::dioi, &R::diui};
+
+constexpr int FieldCount = 7;
+
+QString key(int number)
+{
+    return QStringLiteral("MerPara%1").arg(number);
+}
+
+QString integers(int value)
+{
+    return QString::number(value, 10) + QLatin1Char(';');
+}
+
+template <typename Fields>
+QString reals(const R& record, const Fields& fields)
+{
+    QString text;
+    for (RealField field : fields)
+        text += QString::number(double(record.*field), 'g', 6) + QLatin1Char(';');
+    return text;
+}
+
+/// Takes the values by position; one that is missing reads as 0.
+template <typename Fields>
+void readReals(R& record, const QStringList& values, const Fields& fields, int first = 0)
+{
+    for (size_t i = 0; i < fields.size(); ++i)
+        record.*fields[i] = values.value(first + int(i)).toFloat();
+}
+} // namespace
+
+QString entryText(const tagZOB_QUAD_RIM& record)
+{
+    const QStringList texts{
+        integers(record.type),
+        reals(record, fields::Directions),
+        reals(record, fields::Distances),
+        reals(record, fields::Reference),
+        reals(record, DiametersOfEntry),
+        reals(record, fields::CrackWidths) + reals(record, fields::Stresses),
+        integers(record.mark),
+    };
+    return texts.join(QLatin1String(" | "));
+}
+
+void parseEntry(const QString& text, DesignParameterRow& row)
+{
+    const QStringList parts = text.split(QLatin1Char('|'));
+    if (parts.size() < FieldCount)
+        return;
+    QVector<QStringList> values;
+    for (int i = 0; i < FieldCount; ++i)
+        values << parts[i].split(QLatin1Char(';'));
+    R& record = row.record;
+    record.type = values[0].value(0).toInt();
+    readReals(record, values[1], fields::Directions);
+    readReals(record, values[2], fields::Distances);
+    readReals(record, values[3], fields::Reference);
+    // The one field with a short form: a single diameter for the first bar.
+    if (values[4].size() >= 6)
+        readReals(record, values[4], DiametersOfEntry);
+    else
+        record.dio = values[4].value(0).toFloat();
+    readReals(record, values[5], fields::CrackWidths);
+    // Written as reals but read as integers, on purpose: a stress with a fraction comes back as 0.
+    for (size_t i = 0; i < fields::Stresses.size(); ++i)
+        record.*fields::Stresses[i] = float(values[5].value(6 + int(i)).toInt());
+    record.mark = values[6].value(0).toInt();
+}
+
+void readRowsFromEntries(DesignParameterData& data, const VKD_H_ProjectDialogPage& page)
+{
+    for (int n = 1;; ++n) {
+        const QString text = page.getEntry(key(n), QString());
+        if (text.isEmpty())
+            return;
+        DesignParameterRow row{data.barData, {}, {}};
+        parseEntry(text, row);
+        toEditedForm(row.record, data.kindOfSystem);
+        data.rows.push_back(row);
+    }
+}
+
+void writeRowsToEntries(const DesignParameterData& data, VKD_H_ProjectDialogPage& page)
+{
+    int n = 1;
+    for (const DesignParameterRow& row : data.rows)
+        if (row.groups.empty())
+            page.setEntry(key(n++), entryText(row.record));
+    for (; !page.getEntry(key(n), QString()).isEmpty(); ++n)
+        page.deleteEntry(key(n));
+}
+
+} // namespace plib

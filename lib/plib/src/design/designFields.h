@@ -1,0 +1,51 @@
+#pragma once
+
+#include <tagZOB_QUAD_RIM.h>
+
+#include <QString>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace plib {
+
+using RealField = float tagZOB_QUAD_RIM::*;
+
+/// The six fields of one kind, in the order of the record: upper side principal, cross, third
+/// layer, then the lower side.
+using SixFields = std::array<RealField, 6>;
+
+/// The kinds of real fields, as the rules of the record, the entries, the texts and the dialogs
+/// need them.
+namespace fields {
+using R = tagZOB_QUAD_RIM;
+constexpr SixFields Directions{&R::rio, &R::rioq, &R::rioi, &R::riu, &R::riuq, &R::riui};
+constexpr std::array<RealField, 3> Reference{&R::xref, &R::yref, &R::zref};
+constexpr SixFields Distances{&R::hio, &R::hioq, &R::hioi, &R::hiu, &R::hiuq, &R::hiui};
+constexpr SixFields Diameters{&R::dio, &R::dioq, &R::dioi, &R::diu, &R::diuq, &R::diui};
+constexpr SixFields Minimum{&R::aso, &R::asoq, &R::asoi, &R::asu, &R::asuq, &R::asui};
+constexpr SixFields Maximum{&R::amo, &R::amoq, &R::amoi, &R::amu, &R::amuq, &R::amui};
+constexpr SixFields CrackWidths{&R::wko, &R::wkoq, &R::wkoi, &R::wku, &R::wkuq, &R::wkui};
+constexpr SixFields Stresses{&R::sigo, &R::sigoq, &R::sigoi, &R::sigu, &R::siguq, &R::sigui};
+} // namespace fields
+
+/// The dimension code of a real field; -1 for the reserved ones.
+int dimensionCode(RealField field);
+
+/// A field by its name, as the command line knows it: a real one or one of the integers.
+struct NamedField
+{
+    const char* name;
+    RealField real;
+    std::int32_t tagZOB_QUAD_RIM::*integer; ///< null for a real field
+};
+
+/// All fields by name in the order of the record, without `group`, `subId` and the reserved words,
+/// which are no parameters.
+const std::vector<NamedField>& namedFields();
+
+/// The field of this name, or nothing.
+std::optional<NamedField> fieldByName(const QString& name);
+
+} // namespace plib

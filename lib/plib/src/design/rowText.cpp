@@ -1,0 +1,154 @@
+#include "rowText.h"
+
+#include "designFields.h"
+#include "designRecord.h"
+
+#include <VKD_A_BarDiameterData.h>
+#include <VKD_H_UnitLabel.h>
+#include <vkd_h_units.h>
+
+#include <QCoreApplication>
+
+#include <iterator>
+
+namespace plib {
+
+namespace {
+using R = tagZOB_QUAD_RIM;
+using FieldList = std::vector<RealField>;
+
+constexpr int FirstPackedName = 1000000;
+constexpr int BarCode = 1023;
+
+/// What a column shows for a type: the fields of its two lines, and whether a separator closes the
+/// text.
+struct Summary
+{
+    FieldList first;
+    FieldList second;
+    bool closes;
+};
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("DesignParameter", text);
+}
+
+Summary distances(int type)
+{
+    Summary summary{{&R::rio, &R::riu}, {&R::hio, &R::hiu, &R::hioq, &R::hiuq}, true};
+    if (type == 2 || type == 3)
+        summary.first.insert(summary.first.end(), {&R::rioq, &R::riuq});
+    if (type == 3) // with the third layer's distances, but without its directions: this is meant
+        summary.second.insert(summary.second.end(), {&R::hioi, &R::hiui});
+    return summary;
+}
+
+/// The principal reinforcement alone, for every type.
+Summary reinforcement()
+{
+    return {{&R::dio, &R::aso, &R::amo}, {&R::diu, &R::asu, &R::amu}, false};
+}
+
+/// Crack widths for type 1 only; every other type shows stresses, whatever it holds. The third
+/// layer is listed for all of them.
+Summary crackControl(int type)
+{
+    const SixFields& all = type == 1 ? fields::CrackWidths : fields::Stresses;
+    return {{all.begin(), all.begin() + 3}, {all.begin() + 3, all.end()}, true};
+}
+
+Summary summaryOf(int column, int type)
+{
+    if (column == 2)
+        return distances(type);
+    return column == 3 ? reinforcement() : crackControl(type);
+}
+
+QString line(const DesignParameterRow& row, const FieldList& fields)
+{
+    QStringList values;
+    for (RealField field : fields) {
+        const int code = dimensionCode(field);
+        values << valueText(row, row.record.*field, code, VKD_H_UnitLabel::dimString(code, 0));
+    }
+    return values.join(QLatin1String(" ;"));
+}
+
+QString summaryText(const DesignParameterRow& row, int column)
+{
+    constexpr int LastTypeWithText = 5; // has no name, and reads like type 4
+    const int type = row.record.type;
+    if (type < 1 || type > LastTypeWithText)
+        return QString();
+    const Summary summary = summaryOf(column, type);
+    return line(row, summary.first) + QLatin1Char('\n') + line(row, summary.second) +
+           QLatin1String(summary.closes ? " ;" : "");
+}
+
+QString groupsText(const std::vector<int>& groups)
+{
+    if (groups.empty())
+        return translated("None");
+    if (isRemainingGroups(groups))
+        return translated("Remaining Groups");
+    QStringList texts;
+    for (int group : groups)
+        texts << groupText(group);
+    return texts.join(QLatin1Char(';'));
+}
+
+QString typeText(int type)
+{
+    const int index = type % 10;
+    if (index < 0 || index >= int(std::size(DesignTypeNames)))
+        return QString();
+    return translated(DesignTypeNames[index]);
+}
+} // namespace
+
+QString groupText(int group)
+{
+    if (group < FirstPackedName)
+        return QString::number(group);
+    QByteArray name;
+    for (quint32 rest = quint32(group); rest & 0xff; rest >>= 8)
+        name += char(rest & 0xff);
+    return QString::fromLatin1(name).trimmed();
+}
+
+int packedGroupName(const QString& name)
+{
+    const QByteArray bytes = name.toLatin1().leftJustified(4, ' ', true);
+    quint32 packed = 0;
+    for (int i = 3; i >= 0; --i)
+        packed = packed << 8 | quint8(bytes[i]);
+    return int(packed);
+}
+
+QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit)
+{
+    if (value == NotSet)
+        return QStringLiteral(" - ");
+    if (code == BarCode)
+        return row.barData->getString(value);
+    return vkd_h_getDimStringFromVal(double(value), code, -1) + unit;
+}
+
+QString rowText(const DesignParameterRow& row, int column)
+{
+    switch (column) {
+    case 0:
+        return groupsText(row.groups);
+    case 1:
+        return typeText(row.record.type);
+    case 2:
+    case 3:
+    case 4:
+        return summaryText(row, column);
+    default:
+        return QString();
+    }
+}
+
+} // namespace plib
