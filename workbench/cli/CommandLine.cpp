@@ -27,6 +27,7 @@ constexpr Command Commands[] = {
     {"new", newCommand, "make a project file from a model"},
     {"script", scriptCommand, "print the script of a project's plots"},
     {"catalogue", catalogueCommand, "print and check a catalogue of plots"},
+    {"rows", rowsCommand, "print and change how a project\'s area elements are designed"},
     {"tree", treeCommand, "print the plots that a project offers, with their check marks"},
 };
 
@@ -109,7 +110,8 @@ void CommandLine::parse(const QStringList& arguments)
                          text.mid(text.indexOf(QLatin1String("[options]")))};
     }
     const int given = m_parser.positionalArguments().size();
-    if (given > m_positional.size())
+    const bool takesMore = m_positional.last().endsWith(QLatin1String("...]"));
+    if (given > m_positional.size() && !takesMore)
         throw CommandError{QStringLiteral("unexpected argument \"%1\"")
                                .arg(m_parser.positionalArguments().at(m_positional.size()))};
     if (given < m_positional.size() && !m_positional[given].startsWith(QLatin1Char('[')))
@@ -119,6 +121,11 @@ void CommandLine::parse(const QStringList& arguments)
 QString CommandLine::argument(int index) const
 {
     return m_parser.positionalArguments().value(index);
+}
+
+QStringList CommandLine::argumentsFrom(int index) const
+{
+    return m_parser.positionalArguments().mid(index);
 }
 
 bool CommandLine::has(const char* option) const

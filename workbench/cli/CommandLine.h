@@ -33,12 +33,14 @@ public:
         QString description;
     };
 
-    /// `positional` names the arguments that are needed, then in brackets those that are not.
+    /// `positional` names the arguments that are needed, then in brackets those that are not; dots
+    /// at the end of the last one stand for any number of them.
     CommandLine(const QString& description, const QStringList& positional,
                 const std::vector<Option>& options);
     void parse(const QStringList& arguments);
 
     QString argument(int index) const;
+    QStringList argumentsFrom(int index) const;
     bool has(const char* option) const;
     QString value(const char* option) const;
     QStringList values(const char* option) const;

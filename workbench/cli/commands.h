@@ -13,6 +13,7 @@ int run(const QStringList& arguments);
 int newCommand(const QStringList& arguments);
 int scriptCommand(const QStringList& arguments);
 int catalogueCommand(const QStringList& arguments);
+int rowsCommand(const QStringList& arguments);
 int treeCommand(const QStringList& arguments);
 
 } // namespace workbench

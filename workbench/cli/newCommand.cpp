@@ -1,8 +1,10 @@
 #include "commands.h"
 
 #include "CommandLine.h"
+#include "DesignRows.h"
 #include "PlatformLog.h"
 
+#include <designStore.h>
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_searchpath.h>
@@ -26,21 +28,52 @@ QString modelPath(const QString& nameOrFile)
     return QFile::decodeName(found->c_str());
 }
 
+void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs)
+{
+    plib::checkAndCreateZobDefault(document->index());
+    DesignRows rows(document);
+    for (const vkd::dbo::DesignValues& design : designs) {
+        QStringList fields;
+        for (auto value = design.values.begin(); value != design.values.end(); ++value)
+            fields << value.key() + QLatin1Char('=') + QString::number(value.value(), 'g', 9);
+        rows.setRow(design.groups.join(QLatin1Char(';')), fields);
+    }
+    rows.write();
+}
+
+/// A file that is gone with the object, unless it got another name.
+class UnfinishedFile
+{
+public:
+    explicit UnfinishedFile(const QString& path)
+        : m_path(path)
+    {
+    }
+    ~UnfinishedFile() { QFile::remove(m_path); }
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+
+private:
+    QString m_path;
+};
+
 /// Stores the model in a file of another name, which gets its own name once it is whole.
 void writeProject(const QString& path, const vkd::dbo::Model& model)
 {
-    const QString unfinished =
+    const QString name =
         path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
     bool done = false;
-    if (auto document = VKD_H_ZOBDoc::create(unfinished)) {
-        done = vkd::dbo::storeModel(document->index(), model) && document->close() == VKD_ZOB_OK;
-        done = done && QFile::rename(unfinished, path);
-        document->close();
-        QFile::remove(unfinished);
+    auto document = VKD_H_ZOBDoc::create(name);
+    if (document) {
+        const UnfinishedFile unfinished(name);
+        done = vkd::dbo::storeModel(document->index(), model);
+        if (done)
+            storeDesign(document.get(), model.designParameters);
+        done = document->close() == VKD_ZOB_OK && done && QFile::rename(name, path);
     }
     if (!done)
         throw CommandError{QLatin1String("cannot create ") + path + QLatin1String(": ") +
-                           PlatformLog::take().join(QLatin1String("; ")).replace(unfinished, path)};
+                           PlatformLog::take().join(QLatin1String("; ")).replace(name, path)};
 }
 
 QString summary(const QString& path, const vkd::dbo::Model& model)

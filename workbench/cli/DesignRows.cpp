@@ -1,0 +1,158 @@
+#include "DesignRows.h"
+
+#include "CommandLine.h"
+
+#include <designEntries.h>
+#include <designFields.h>
+#include <designRecord.h>
+#include <designStore.h>
+#include <rowText.h>
+#include <vkd_dbo_model.h>
+#include <vkd_dbo_queries.h>
+#include <VKD_H_ZOBDoc.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+namespace workbench {
+
+namespace {
+constexpr int DesignPage = 1;
+
+void setInteger(std::int32_t& field, const QString& name, const QString& value)
+{
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    const bool fits = name == QLatin1String("type")   ? number >= 0 && number <= 4
+                      : name == QLatin1String("mark") ? number == 0 || number == 11
+                                                      : true;
+    if (!isNumber || !fits)
+        throw CommandError{QStringLiteral("\"%1\" is no value for %2").arg(value, name)};
+    field = number;
+}
+
+void setReal(float& field, const QString& name, const QString& value)
+{
+    bool isNumber = true;
+    const float number = value == QLatin1String("unset") ? plib::NotSet : value.toFloat(&isNumber);
+    if (!isNumber || !std::isfinite(number))
+        throw CommandError{QStringLiteral("\"%1\" is no value for %2").arg(value, name)};
+    field = number;
+}
+
+void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
+{
+    const QString name = assignment.section(QLatin1Char('='), 0, 0);
+    const auto field = plib::fieldByName(name);
+    if (!field || !assignment.contains(QLatin1Char('=')))
+        throw CommandError{
+            QStringLiteral("\"%1\" is no FIELD=VALUE of a design record").arg(assignment)};
+    const QString value = assignment.section(QLatin1Char('='), 1);
+    if (field->integer)
+        setInteger(record.*field->integer, name, value);
+    else
+        setReal(record.*field->real, name, value);
+}
+
+/// The groups of the model by what a user calls them.
+std::map<QString, int> knownGroups(int index)
+{
+    std::map<QString, int> known;
+    const vkd::dbo::Model model = vkd::dbo::readModel(index);
+    for (const auto& group : model.groups)
+        known[QString::number(group.number)] = group.number;
+    for (const auto& group : model.secondaryGroups)
+        known[group.name] = plib::packedGroupName(group.name);
+    return known;
+}
+} // namespace
+
+DesignRows::DesignRows(VKD_H_ZOBDoc* document)
+    : m_document(document)
+    , m_page(document->index(), DesignPage)
+{
+    const int index = document->index();
+    m_bars.load(index);
+    m_data.doc = document;
+    m_data.designDoc = document;
+    m_data.barData = &m_bars;
+    m_data.kindOfSystem = vkd::dbo::getKindOfSystem(index, nullptr);
+    plib::readRowsFromZob(m_data);
+    plib::readRowsFromEntries(m_data, m_page);
+}
+
+QString DesignRows::text() const
+{
+    QString all;
+    for (const plib::DesignParameterRow& row : m_data.rows) {
+        QStringList columns;
+        for (int column = 0; column < 5; ++column)
+            columns << plib::rowText(row, column).replace(QLatin1Char('\n'), QLatin1String(" / "));
+        all += columns.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    }
+    return all;
+}
+
+std::vector<int> DesignRows::parseGroups(const QString& text) const
+{
+    if (text == QLatin1String("none"))
+        return {};
+    if (text == QLatin1String("remaining"))
+        return {-1};
+    const auto known = knownGroups(m_document->index());
+    std::set<int> groups;
+    const QStringList names = text.split(QLatin1Char(';'));
+    for (const QString& name : names) {
+        const auto found = known.find(name.trimmed());
+        if (found == known.end())
+            throw CommandError{QStringLiteral("the model has no group \"%1\"").arg(name)};
+        groups.insert(found->second);
+    }
+    return {groups.begin(), groups.end()};
+}
+
+plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
+{
+    for (plib::DesignParameterRow& row : m_data.rows) {
+        std::vector<int> sorted = row.groups;
+        std::sort(sorted.begin(), sorted.end());
+        if (sorted == groups)
+            return row;
+    }
+    takeFromOthers(groups);
+    plib::DesignParameterRow& row = plib::addDefaultRow(m_data);
+    row.groups = groups;
+    return row;
+}
+
+/// A group can have one record only. A row that loses its last group goes.
+void DesignRows::takeFromOthers(const std::vector<int>& groups)
+{
+    const std::set<int> taken(groups.begin(), groups.end());
+    auto& rows = m_data.rows;
+    const auto losesAll = [&](plib::DesignParameterRow& row) {
+        const bool had = !row.groups.empty();
+        row.groups.erase(std::remove_if(row.groups.begin(), row.groups.end(),
+                                        [&](int group) { return taken.count(group) > 0; }),
+                         row.groups.end());
+        return had && row.groups.empty();
+    };
+    rows.erase(std::remove_if(rows.begin(), rows.end(), losesAll), rows.end());
+}
+
+void DesignRows::setRow(const QString& groups, const QStringList& fields)
+{
+    tagZOB_QUAD_RIM& record = rowOf(parseGroups(groups)).record;
+    for (const QString& field : fields)
+        setField(record, field);
+}
+
+void DesignRows::write()
+{
+    plib::writeRowsToZob(m_data, m_converted);
+    plib::writeRowsToEntries(m_data, m_page);
+    m_page.save();
+}
+
+} // namespace workbench

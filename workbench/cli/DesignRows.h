@@ -1,0 +1,46 @@
+#pragma once
+
+#include <DesignParameterData.h>
+#include <VKD_A_BarDiameterData.h>
+#include <VKD_H_ProjectDialogPage.h>
+
+#include <QString>
+#include <QStringList>
+
+class VKD_H_ZOBDoc;
+
+namespace workbench {
+
+/// The design parameters of a project as the rows of the design page, without the page: read,
+/// changed and written in the same order of calls.
+class DesignRows
+{
+public:
+    /// Reads the rows; a project without any gets the default row. The document is not owned.
+    explicit DesignRows(VKD_H_ZOBDoc* document);
+
+    /// A line for each row: groups, type and the three summaries with tabs between them.
+    QString text() const;
+
+    /// Changes fields of the row with just these groups, or of a new one, which takes its groups
+    /// from the rows that had them. `groups` is "none", "remaining", or numbers and names of
+    /// secondary groups with ";" between them; `fields` are NAME=VALUE in base units, "unset" for
+    /// no value. Throws a CommandError for a name or a value that does not fit.
+    void setRow(const QString& groups, const QStringList& fields);
+
+    /// Stores the rows. Whether all of it is in the file is known when the document is closed.
+    void write();
+
+private:
+    std::vector<int> parseGroups(const QString& text) const;
+    plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
+    void takeFromOthers(const std::vector<int>& groups);
+
+    VKD_H_ZOBDoc* m_document;
+    VKD_A_BarDiameterData m_bars;
+    plib::DesignParameterData m_data;
+    VKD_H_ProjectDialogPage m_page;
+    bool m_converted = false;
+};
+
+} // namespace workbench

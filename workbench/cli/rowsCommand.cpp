@@ -1,0 +1,57 @@
+#include "commands.h"
+
+#include "CommandLine.h"
+#include "DesignRows.h"
+#include "PlatformLog.h"
+
+#include <designFields.h>
+#include <VKD_H_ZOBDoc.h>
+
+namespace workbench {
+
+namespace {
+QString fieldNames()
+{
+    QStringList names;
+    for (const plib::NamedField& field : plib::namedFields())
+        names << QString::fromLatin1(field.name);
+    return names.join(QLatin1Char(' '));
+}
+} // namespace
+
+int rowsCommand(const QStringList& arguments)
+{
+    CommandLine line(
+        QStringLiteral(
+            "Prints how the area elements of a project are designed, a line for each set "
+            "of parameters: groups, type, directions and distances, reinforcement, crack "
+            "control. FIELD=VALUE changes the row that --set-row names, in base units (rad, "
+            "m, mm for bars and crack widths, cm²/m, N/mm²); the second and third "
+            "distance are spacings, \"unset\" is no value. The fields are %1.")
+            .arg(fieldNames()),
+        {QStringLiteral("FILE"), QStringLiteral("[FIELD=VALUE...]")},
+        {{QStringLiteral("set-row"), QStringLiteral("GROUPS"),
+          QStringLiteral(
+              "Changes the row with just these groups, or makes one, and stores the rows. "
+              "GROUPS are numbers and names of secondary groups with \";\" between them, "
+              "\"remaining\" or \"none\". A new row takes its groups from others.")},
+         languageOption()});
+    line.parse(arguments);
+    applyLanguage(line);
+    const QStringList fields = line.argumentsFrom(1);
+    if (!fields.isEmpty() && !line.has("set-row"))
+        throw CommandError{QStringLiteral("--set-row is missing")};
+    const auto document = openProject(line.argument(0));
+    if (line.has("set-row")) {
+        DesignRows rows(document.get());
+        rows.setRow(line.value("set-row"), fields);
+        rows.write();
+    }
+    const QString text = DesignRows(document.get()).text();
+    if (document->close() != VKD_ZOB_OK)
+        throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
+    print(text);
+    return 0;
+}
+
+} // namespace workbench
