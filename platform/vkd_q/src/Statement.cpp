@@ -24,16 +24,24 @@ int Statement::bind(int parameter, int value)
     return sqlite3_bind_int(m_statement, parameter, value);
 }
 
-int Statement::bindBytes(int parameter, const void* bytes, int length)
-{
-    // A null pointer would store a null, but an empty record is a record.
-    return length == 0 ? sqlite3_bind_zeroblob(m_statement, parameter, 0)
-                       : sqlite3_bind_blob(m_statement, parameter, bytes, length, SQLITE_STATIC);
-}
-
 int Statement::step()
 {
     return sqlite3_step(m_statement);
+}
+
+int Statement::run()
+{
+    const int code = step();
+    done();
+    return code;
+}
+
+int Statement::run(const void* bytes, int length)
+{
+    // A null pointer would store a null, but an empty record is a record.
+    const int code = length == 0 ? sqlite3_bind_zeroblob(m_statement, 3, 0)
+                                 : sqlite3_bind_blob(m_statement, 3, bytes, length, SQLITE_STATIC);
+    return code == SQLITE_OK ? run() : code;
 }
 
 int Statement::column(int index) const

@@ -17,9 +17,10 @@ public:
     /// is SQLite's code.
     int start(sqlite3* connection, const char* sql, int first, int second);
     int bind(int parameter, int value);
-    /// The bytes have to live until done().
-    int bindBytes(int parameter, const void* bytes, int length);
     int step();
+    /// Steps once and resets, with the bytes as third parameter where the statement has one.
+    int run();
+    int run(const void* bytes, int length);
     int column(int index) const;
     const void* columnBytes(int index, int* length) const;
     void done();

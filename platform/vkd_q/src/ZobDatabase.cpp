@@ -30,13 +30,17 @@ constexpr char Schema[] = "BEGIN;"
                           "COMMIT;";
 static_assert(ApplicationId == 1447773250 && SchemaVersion == 1);
 
-constexpr char GetSql[] = "SELECT data FROM record WHERE key1=?1 AND key2=?2 AND position=?3";
+constexpr char GetSql[] = "SELECT data FROM record WHERE key1=?1 AND key2=?2 AND position>=?3"
+                          " ORDER BY position";
 constexpr char AnySql[] = "SELECT 1 FROM record WHERE key1=?1 AND key2=?2 LIMIT 1";
 constexpr char NextSql[] = "SELECT key1, key2 FROM record WHERE (key1, key2) >= (?1, ?2)"
                            " ORDER BY key1, key2 LIMIT 1";
 constexpr char FirstSql[] = "INSERT OR REPLACE INTO record VALUES(?1, ?2, 0, ?3)";
 constexpr char AppendSql[] = "INSERT INTO record SELECT ?1, ?2, ifnull(max(position) + 1, 0), ?3"
                              " FROM record WHERE key1=?1 AND key2=?2";
+constexpr char AppendAtSql[] = "INSERT INTO record VALUES(?1, ?2, ?4, ?3)";
+constexpr char EndSql[] = "SELECT ifnull(max(position) + 1, 0) FROM record"
+                          " WHERE key1=?1 AND key2=?2";
 constexpr char ClearSql[] = "DELETE FROM record WHERE key1=?1 AND key2=?2";
 
 /// Called by SQLite while another program holds the file: sleeps shortly and gives up after the
@@ -212,20 +216,40 @@ cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int p
         return spoilChange(reportZob(VKD_ZOB_BAD_CALL, "read", m_path));
     if (position == 0 && m_taken.empty())
         beginPass({key1, key2});
-    int code = m_get.start(m_connection.get(), GetSql, key1, key2);
-    if (code == SQLITE_OK) {
-        m_get.bind(3, position);
-        code = m_get.step();
-    }
+    const int code = stepTo({key1, key2}, position);
     cd_error_t status = VKD_ZOB_OK;
     if (code == SQLITE_ROW)
         status = deliver(record, length);
     else
         status = code == SQLITE_DONE ? positionAfterEnd(key1, key2) : failInside(code, "read");
-    m_get.done();
     if (status > VKD_ZOB_CUT)
         endPass({key1, key2});
+    // Outside of a pass nobody ends the reading, which would keep the file locked.
+    if (status > VKD_ZOB_CUT || (m_passes.empty() && m_taken.empty()))
+        stopWalk();
     return status;
+}
+
+/// Brings the statement to the record; who asks for one position after the other steps through one
+/// run of it.
+int ZobDatabase::stepTo(KeyPair pair, int position)
+{
+    if (pair != m_walkPair || position != m_walkPosition + 1) {
+        stopWalk();
+        const int code = m_get.start(m_connection.get(), GetSql, pair.first, pair.second);
+        if (code != SQLITE_OK)
+            return code;
+        m_get.bind(3, position);
+        m_walkPair = pair;
+    }
+    m_walkPosition = position;
+    return m_get.step();
+}
+
+void ZobDatabase::stopWalk()
+{
+    m_get.done();
+    m_walkPosition = NoPosition;
 }
 
 cd_error_t ZobDatabase::deliver(void* record, int* length) const
@@ -274,6 +298,7 @@ void ZobDatabase::endPasses()
 
 void ZobDatabase::endReading()
 {
+    stopWalk();
     if (!sqlite3_get_autocommit(m_connection.get()) &&
         execute("COMMIT", "finish reading") != VKD_ZOB_OK)
         execute("ROLLBACK", "finish reading");
@@ -304,33 +329,54 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
     if (length < 0 || position < 0 || position > 1)
         return spoilChange(reportZob(VKD_ZOB_BAD_CALL, "write", m_path));
     endPasses(); // there is none while a pair is taken
-    int code = startPut(key1, key2, record, length, position);
-    Statement& statement = putStatement(length, position);
-    if (code == SQLITE_OK)
-        code = statement.step();
-    const cd_error_t status =
-        code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : failInside(code, "write");
-    statement.done();
-    return status;
-}
-
-Statement& ZobDatabase::putStatement(int length, int position)
-{
+    stopWalk();
+    const KeyPair pair{key1, key2};
+    int code = SQLITE_OK;
     if (position == 1)
-        return m_append;
-    return length == 0 ? m_clear : m_first;
+        code = m_taken.empty() ? append(pair, record, length) : appendInside(pair, record, length);
+    else
+        code = length == 0 ? clear(pair) : writeFirst(pair, record, length);
+    return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : failInside(code, "write");
 }
 
-int ZobDatabase::startPut(int key1, int key2, const void* record, int length, int position)
+int ZobDatabase::clear(KeyPair pair)
 {
-    Statement& statement = putStatement(length, position);
-    const char* sql = &statement == &m_append  ? AppendSql
-                      : &statement == &m_clear ? ClearSql
-                                               : FirstSql;
-    const int code = statement.start(m_connection.get(), sql, key1, key2);
-    if (code != SQLITE_OK || &statement == &m_clear)
-        return code;
-    return statement.bindBytes(3, record, length);
+    m_ends.erase(pair);
+    int code = m_clear.start(m_connection.get(), ClearSql, pair.first, pair.second);
+    return code == SQLITE_OK ? m_clear.run() : code;
+}
+
+int ZobDatabase::writeFirst(KeyPair pair, const void* record, int length)
+{
+    m_ends.erase(pair);
+    const int code = m_first.start(m_connection.get(), FirstSql, pair.first, pair.second);
+    return code == SQLITE_OK ? m_first.run(record, length) : code;
+}
+
+int ZobDatabase::append(KeyPair pair, const void* record, int length)
+{
+    const int code = m_append.start(m_connection.get(), AppendSql, pair.first, pair.second);
+    return code == SQLITE_OK ? m_append.run(record, length) : code;
+}
+
+/// Nobody else writes meanwhile, so the end of the sequence is looked up only once.
+int ZobDatabase::appendInside(KeyPair pair, const void* record, int length)
+{
+    auto end = m_ends.find(pair);
+    if (end == m_ends.end()) {
+        int code = m_end.start(m_connection.get(), EndSql, pair.first, pair.second);
+        if (code == SQLITE_OK)
+            code = m_end.step();
+        const int position = code == SQLITE_ROW ? m_end.column(0) : 0;
+        m_end.done();
+        if (code != SQLITE_ROW)
+            return code;
+        end = m_ends.emplace(pair, position).first;
+    }
+    int code = m_appendAt.start(m_connection.get(), AppendAtSql, pair.first, pair.second);
+    if (code == SQLITE_OK)
+        code = m_appendAt.bind(4, end->second++);
+    return code == SQLITE_OK ? m_appendAt.run(record, length) : code;
 }
 
 cd_error_t ZobDatabase::take(int key1, int key2)
@@ -351,6 +397,7 @@ cd_error_t ZobDatabase::take(int key1, int key2)
 cd_error_t ZobDatabase::beginChange()
 {
     m_changeStatus = VKD_ZOB_OK;
+    m_ends.clear();
     // SQLite would begin, and refuse only what is written.
     if (sqlite3_db_readonly(m_connection.get(), "main"))
         return reportZob(VKD_ZOB_READ_ONLY, "take the lock of", m_path);
@@ -365,8 +412,10 @@ void ZobDatabase::release(int key1, int key2)
         m_refused.erase(refused);
     }
     endPass({key1, key2});
-    if (m_taken.erase({key1, key2}) && m_taken.empty())
+    if (m_taken.erase({key1, key2}) && m_taken.empty()) {
+        stopWalk();
         storeOrDrop();
+    }
 }
 
 void ZobDatabase::storeOrDrop()
@@ -403,6 +452,7 @@ void ZobDatabase::firstPairFrom(int* key1, int* key2)
 cd_error_t ZobDatabase::finish()
 {
     endPasses();
+    stopWalk();
     if (!m_taken.empty() && !sqlite3_get_autocommit(m_connection.get()))
         execute("ROLLBACK", "undo the changes in");
     m_taken.clear();

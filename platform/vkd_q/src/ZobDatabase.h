@@ -44,10 +44,14 @@ private:
     cd_error_t fail(int sqliteCode, const char* action);
     cd_error_t failInside(int sqliteCode, const char* action);
     cd_error_t spoilChange(cd_error_t status);
+    int stepTo(KeyPair pair, int position);
+    void stopWalk();
     cd_error_t deliver(void* record, int* length) const;
     cd_error_t positionAfterEnd(int key1, int key2);
-    int startPut(int key1, int key2, const void* record, int length, int position);
-    Statement& putStatement(int length, int position);
+    int clear(KeyPair pair);
+    int writeFirst(KeyPair pair, const void* record, int length);
+    int append(KeyPair pair, const void* record, int length);
+    int appendInside(KeyPair pair, const void* record, int length);
     cd_error_t beginChange();
     void beginPass(KeyPair pair);
     void endPass(KeyPair pair);
@@ -62,9 +66,13 @@ private:
         void operator()(sqlite3* connection) const;
     };
     std::unique_ptr<sqlite3, Closer> m_connection; // outlives the statements below
-    Statement m_get, m_any, m_next, m_first, m_append, m_clear;
-    std::set<KeyPair> m_passes; // being read from one state of the file
+    Statement m_get, m_any, m_next, m_first, m_append, m_appendAt, m_end, m_clear;
+    static constexpr int NoPosition = -2; // is followed by no position
+    KeyPair m_walkPair{};
+    int m_walkPosition = NoPosition; // of the record that m_get has delivered
+    std::set<KeyPair> m_passes;      // being read from one state of the file
     std::set<KeyPair> m_taken;
+    std::map<KeyPair, int> m_ends; // of sequences appended to since the first pair was taken
     std::map<KeyPair, cd_error_t> m_refused; // could not be taken, and why
     cd_error_t m_changeStatus = VKD_ZOB_OK;  // first failure since the first pair was taken
     cd_error_t m_releaseStatus = VKD_ZOB_OK;
