@@ -204,10 +204,11 @@ void TestDesignRecord::littleEndianBytes()
     R record{};
     record.group = 0x04030201;
     record.sigui = 1.0F; // 0x3F800000
-    const QByteArray bytes = plib::toBytes(record);
+    const auto words = plib::toBytes(record);
+    const QByteArray bytes(words.data(), int(words.size()));
     QCOMPARE(bytes.left(4).toHex(), QByteArray("01020304"));
     QCOMPARE(bytes.right(4).toHex(), QByteArray("0000803f"));
-    const R back = plib::fromBytes(bytes);
+    const R back = plib::fromBytes(words);
     QVERIFY(std::memcmp(&back, &record, sizeof record) == 0);
 }
 

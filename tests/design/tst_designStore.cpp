@@ -50,7 +50,8 @@ void TestDesignStore::init()
 
 void TestDesignStore::put(const R& record, int length)
 {
-    const QByteArray bytes = plib::toBytes(record) + "more";
+    const auto words = plib::toBytes(record);
+    const QByteArray bytes = QByteArray(words.data(), int(words.size())) + "more";
     QCOMPARE(vkd_zob_put(m_doc->index(), 200, 6, bytes.constData(), &length, 1), VKD_ZOB_OK);
 }
 
@@ -94,10 +95,10 @@ QString TestDesignStore::read()
 QString TestDesignStore::stored(int index, int key1, int key2)
 {
     QStringList all;
-    QByteArray bytes(int(sizeof(R)), '\0');
-    for (int length = bytes.size(), position = 0;
+    plib::RecordBytes bytes{};
+    for (int length = int(bytes.size()), position = 0;
          vkd_zob_get(index, key1, key2, bytes.data(), &length, position) < 2;
-         ++position, length = bytes.size()) {
+         ++position, length = int(bytes.size())) {
         const R r = plib::fromBytes(bytes);
         all << QStringLiteral("%1:%2").arg(r.group).arg(double(r.rio));
     }
@@ -220,8 +221,8 @@ void TestDesignStore::writing()
     QCOMPARE(stored(m_doc->index(), 200, 6), expected);
     if (rows.rows[0].groups.empty())
         return;
-    QByteArray bytes(int(sizeof(R)), '\0');
-    int length = bytes.size();
+    plib::RecordBytes bytes{};
+    int length = int(bytes.size());
     vkd_zob_get(m_doc->index(), 200, 6, bytes.data(), &length, 0);
     vkd_zob_free_ex(m_doc->index(), 200, 6);
     QCOMPARE(length, 212);

@@ -151,17 +151,17 @@ bool isDesignRecord(const tagZOB_QUAD_RIM& record)
     return (record.mark == 0 || record.mark == 11) && record.subId == 0;
 }
 
-QByteArray toBytes(const tagZOB_QUAD_RIM& record)
+RecordBytes toBytes(const tagZOB_QUAD_RIM& record)
 {
-    QByteArray bytes(int(sizeof record), Qt::Uninitialized);
+    RecordBytes bytes;
     qToLittleEndian<quint32>(&record, sizeof record / 4, bytes.data());
     return bytes;
 }
 
-tagZOB_QUAD_RIM fromBytes(const QByteArray& bytes)
+tagZOB_QUAD_RIM fromBytes(const RecordBytes& bytes)
 {
-    tagZOB_QUAD_RIM record{};
-    qFromLittleEndian<quint32>(bytes.constData(), sizeof record / 4, &record);
+    tagZOB_QUAD_RIM record;
+    qFromLittleEndian<quint32>(bytes.data(), sizeof record / 4, &record);
     return record;
 }
 

@@ -2,7 +2,7 @@
 
 #include <tagZOB_QUAD_RIM.h>
 
-#include <QByteArray>
+#include <array>
 
 namespace plib {
 
@@ -30,8 +30,9 @@ bool recordsEqual(const tagZOB_QUAD_RIM& a, const tagZOB_QUAD_RIM& b);
 /// Whether the record belongs to the design parameters and not to another program.
 bool isDesignRecord(const tagZOB_QUAD_RIM& record);
 
-/// The 212 bytes as the store keeps them, little-endian on any machine.
-QByteArray toBytes(const tagZOB_QUAD_RIM& record);
-tagZOB_QUAD_RIM fromBytes(const QByteArray& bytes);
+/// The bytes of a record as the store keeps them, little-endian on any machine.
+using RecordBytes = std::array<char, sizeof(tagZOB_QUAD_RIM)>;
+RecordBytes toBytes(const tagZOB_QUAD_RIM& record);
+tagZOB_QUAD_RIM fromBytes(const RecordBytes& bytes);
 
 } // namespace plib

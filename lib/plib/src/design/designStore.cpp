@@ -31,7 +31,7 @@ public:
     /// False at the end, or where reading fails, which looks the same.
     bool next(tagZOB_QUAD_RIM& record)
     {
-        QByteArray bytes = toBytes(record);
+        RecordBytes bytes = toBytes(record);
         length = RecordLength;
         const cd_error_t status =
             vkd_zob_get(m_index, m_key1, m_key2, bytes.data(), &length, m_position++);
@@ -58,8 +58,8 @@ void empty(int index, int key1, int key2)
 
 void append(int index, int key1, int key2, const tagZOB_QUAD_RIM& record, int length)
 {
-    const QByteArray bytes = toBytes(record);
-    vkd_zob_put(index, key1, key2, bytes.constData(), &length, 1);
+    const RecordBytes bytes = toBytes(record);
+    vkd_zob_put(index, key1, key2, bytes.data(), &length, 1);
 }
 
 /// Puts aside what other programs keep under our key pair.
@@ -89,12 +89,12 @@ bool isRemainingGroups(const std::vector<int>& groups)
 
 void checkAndCreateZobDefault(int index)
 {
-    QByteArray bytes(RecordLength, '\0');
+    RecordBytes bytes{};
     int length = RecordLength;
     if (vkd_zob_get(index, Key1, Key2, bytes.data(), &length, 0) == VKD_ZOB_NO_KEY) {
         bytes = toBytes(getDefaultMerPara(true));
         length = RecordLength;
-        vkd_zob_put(index, Key1, Key2, bytes.constData(), &length, 0);
+        vkd_zob_put(index, Key1, Key2, bytes.data(), &length, 0);
     }
     vkd_zob_free_ex(index, Key1, Key2);
 }

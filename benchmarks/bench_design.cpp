@@ -1,0 +1,131 @@
+// Design records on their way between a project file and rows.
+
+#include "RatioReporter.h"
+
+#include <designRecord.h>
+#include <designStore.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_zob.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <tuple>
+
+#include <unistd.h>
+
+namespace {
+
+/// Parameters that change with every tenth group, so that nine records of ten fold.
+tagZOB_QUAD_RIM recordOf(int group)
+{
+    tagZOB_QUAD_RIM record = plib::getDefaultMerPara(true);
+    record.group = group;
+    record.rio = float(group / 10);
+    return record;
+}
+
+/// A project with the records of so many groups, as rows of ten groups each.
+class Project
+{
+public:
+    explicit Project(int groups)
+        : doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.zob"))))
+    {
+        data.designDoc = doc.get();
+        for (int group = 0; group < groups; ++group) {
+            if (group % 10 == 0)
+                data.rows.push_back({nullptr, recordOf(group), {}});
+            data.rows.back().groups.push_back(group);
+        }
+        write();
+    }
+
+    void write() { plib::writeRowsToZob(data, converted); }
+    QString path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+
+private:
+    QTemporaryDir m_folder;
+
+public:
+    std::unique_ptr<VKD_H_ZOBDoc> doc;
+    plib::DesignParameterData data;
+    bool converted = true; // the records above are in the stored form
+};
+
+void readAndFold(benchmark::State& state)
+{
+    Project project(int(state.range(0)));
+    for (auto _ : state) {
+        plib::DesignParameterData read;
+        read.designDoc = project.doc.get();
+        plib::readRowsFromZob(read);
+        if (read.rows.size() != project.data.rows.size())
+            state.SkipWithError("the rows did not come back");
+    }
+}
+
+/// The same records by the same keys from a map in memory, one copy of each.
+void readFromMap(benchmark::State& state)
+{
+    std::map<std::tuple<int, int, int>, plib::RecordBytes> records;
+    for (int i = 0; i < int(state.range(0)); ++i)
+        records[{200, 6, i}] = plib::toBytes(recordOf(i));
+    for (auto _ : state) {
+        std::vector<tagZOB_QUAD_RIM> all;
+        for (int i = 0;; ++i) {
+            const auto found = records.find({200, 6, i});
+            if (found == records.end())
+                break;
+            tagZOB_QUAD_RIM record;
+            std::memcpy(&record, found->second.data(), sizeof record);
+            all.push_back(record);
+        }
+        benchmark::DoNotOptimize(all.data());
+    }
+}
+
+void writeRecords(benchmark::State& state)
+{
+    Project project(int(state.range(0)));
+    for (auto _ : state)
+        project.write();
+    if (project.doc->close() != VKD_ZOB_OK)
+        state.SkipWithError("the records were not stored");
+}
+
+/// The same bytes into a plain file that is safe on the disk afterwards.
+void writeFile(benchmark::State& state)
+{
+    const Project project(1);
+    const QByteArray path = QFile::encodeName(project.path("plain"));
+    for (auto _ : state) {
+        std::FILE* file = std::fopen(path.constData(), "w");
+        for (int i = 0; i < int(state.range(0)); ++i) {
+            const plib::RecordBytes bytes = plib::toBytes(recordOf(i));
+            std::fwrite(bytes.data(), 1, bytes.size(), file);
+        }
+        std::fflush(file);
+        fdatasync(fileno(file));
+        std::fclose(file);
+    }
+}
+
+BENCHMARK(readAndFold)->Arg(1000)->Arg(10000)->Arg(100000);
+BENCHMARK(readFromMap)->Arg(10000);
+BENCHMARK(writeRecords)->Arg(1000)->Arg(10000)->Arg(100000);
+BENCHMARK(writeFile)->Arg(10000);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    return runBenchmarks(argc, argv,
+                         {{"readAndFold/10000", "readFromMap/10000", 4.0},
+                          {"writeRecords/10000", "writeFile/10000", 10.0},
+                          {"readAndFold/100000", "readAndFold/1000", 2.0, true},
+                          {"writeRecords/100000", "writeRecords/1000", 2.0, true}});
+}
