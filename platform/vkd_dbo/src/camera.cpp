@@ -8,6 +8,7 @@
 #include <QtEndian>
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstring>
 
@@ -34,6 +35,14 @@ bool isUsable(const Values& values)
         if (!std::isfinite(value))
             return false;
     return std::hypot(values[0], values[1], values[2]) > 0 && values[7] > 0;
+}
+
+/// The shortest text that reads back as the same value; unlike Qt's it keeps the sign of a zero.
+QString exactText(double value)
+{
+    char text[32];
+    const auto end = std::to_chars(text, text + sizeof text, value);
+    return QString::fromLatin1(text, int(end.ptr - text));
 }
 
 QString persistentMark()
@@ -76,7 +85,7 @@ QString getAnimatorPerspektive(int index, int form)
         return QString();
     QString text = persistentMark();
     for (double value : values)
-        text += QLatin1Char(' ') + QString::number(value, 'g', 17);
+        text += QLatin1Char(' ') + exactText(value);
     return text;
 }
 
