@@ -1,0 +1,168 @@
+#include "TestSupport.h"
+
+#include <vkd_dbo_model.h>
+#include <vkd_lib_searchpath.h>
+
+#include <QTemporaryDir>
+
+using namespace vkd::dbo;
+
+/// Model files: the shipped ones, and what is said about those that are wrong.
+class TestModelFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shipped_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QStringList>("titles"); // in German and in English
+        QTest::addColumn<QVector<int>>("atLeast");
+        const auto titles = [](const char* german, const char* english) {
+            return QStringList{QString::fromUtf8(german), QString::fromUtf8(english)};
+        };
+        QTest::newRow("building") << "models/building.json" << 0
+                                  << titles("Bürogebäude mit zwei Geschossen",
+                                            "Two-storey office building")
+                                  << QVector<int>{1000, 1000, 100, 0, 100};
+        QTest::newRow("slab") << "models/slab.json" << 20
+                              << titles("Punktgestützte Flachdecke mit Balkon",
+                                        "Flat slab on columns with a balcony")
+                              << QVector<int>{1000, 1000, 0, 0, 0};
+        QTest::newRow("hall") << "models/hall.json" << 0
+                              << titles("Industriehalle mit Kranbahn",
+                                        "Industrial hall with crane runway")
+                              << QVector<int>{500, 300, 200, 40, 400};
+    }
+
+    void shipped()
+    {
+        QFETCH(const QString, file);
+        QFETCH(const QStringList, titles);
+        QFETCH(const QVector<int>, atLeast);
+        const auto path = vkd_lib_searchpath(file.toUtf8(), 3);
+        QVERIFY(path);
+        Model models[2];
+        for (int language : {0, 1}) {
+            Model& m = models[language];
+            QString error;
+            QVERIFY(readModelFile(QString::fromStdString(*path), language, &m, &error));
+            QCOMPARE(m.system.title, titles[language]);
+            QTEST(m.system.kindOfSystem, "kind");
+            const QVector<int> counts{m.nodes.size(), m.quads.size(), m.beams.size(),
+                                      m.bricks.size(), m.springs.size()};
+            for (int i = 0; i < counts.size(); ++i)
+                QVERIFY(counts[i] >= atLeast[i] && (counts[i] == 0) == (atLeast[i] == 0));
+            QVERIFY(m.loadCases.size() >= 10 && m.groups.size() >= 4 && m.axes.size() >= 7);
+            QVERIFY(m.secondaryGroups.size() >= 2 && !m.sectionCuts[0].title.isEmpty());
+        }
+        for (int i = 0; i < models[0].groups.size(); ++i)
+            QVERIFY(models[0].groups[i].title != models[1].groups[i].title);
+    }
+
+    void allowed()
+    {
+        writeFile(R"("supports": [[1, "z rx"], [2, ""], [3, "x y z rx ry rz"]],
+                     "quads": [[5, 1, 1, 2, 3, 0, 0.25]], "springs": [[6, 1, 2, 0, 1e3]],
+                     "loadCases": [{"number": 7, "title": {"german": "a", "english": "b"}}])");
+        Model m;
+        QString error;
+        QVERIFY2(readModelFile(m_path, 1, &m, &error), qPrintable(error));
+        QCOMPARE(m.supports[0].fixed, 4 + 8);
+        QCOMPARE(m.supports[1].fixed, 0);
+        QCOMPARE(m.supports[2].fixed, 63);
+        QCOMPARE(m.nodes[1].position, (Position{1, -2.5, 0.125}));
+        QVERIFY(m.quads[0].nodes[3] == 0 && m.quads[0].thickness == 0.25);
+        QVERIFY(m.springs[0].nodes[1] == 0 && m.springs[0].stiffness == 1000);
+        QVERIFY(m.loadCases[0].kind == 1 && m.loadCases[0].title == QLatin1String("b"));
+    }
+
+    void wrong_data()
+    {
+        QTest::addColumn<QString>(
+            "text"); // one more key of a sound file, or "{" or "[" a whole one
+        QTest::addColumn<QString>("error");
+        const auto row = [](const char* text, const char* error) {
+            QTest::newRow(error) << text << error;
+        };
+        row("{\"title\": \"t\",\n \"nodes\": oh}", "line 2, column 11: illegal number");
+        row("[]", "an object is needed");
+        row("{\"title\": \"t\", \"kindOfSystem\": 0, \"groups\": []}",
+            "the key \"nodes\" is missing");
+        row("\"knots\": []", "unknown key \"knots\"");
+        row("\"title\": 7", "title: an object is needed");
+        row("\"title\": {\"german\": \"t\"}", "title: the key \"english\" is missing");
+        row("\"groups\": [{\"number\": 1, \"titel\": \"t\"}]", "groups[0]: unknown key \"titel\"");
+        row("\"groups\": [{\"number\": 1}]", "groups[0]: the key \"title\" is missing");
+        row("\"groups\": {}", "groups: a list is needed");
+        row("\"nodes\": [[1, 0, 0, 0], [1, 0, 0, 1]]",
+            "nodes[1][0]: the number 1 stands here twice");
+        row("\"nodes\": [[0, 0, 0, 0]]", "nodes[0][0]: a number of 1 or more is needed");
+        row("\"nodes\": [[1, 0, 0]]", "nodes[0]: 4 values are needed");
+        row("\"nodes\": [[1, 0, 0, 0, 0]]", "nodes[0]: no more than 4 values can stand here");
+        row("\"nodes\": [[1, 0, \"0\", 0]]", "nodes[0][2]: a number is needed");
+        row("\"nodes\": [[1.5, 0, 0, 0]]", "nodes[0][0]: a whole number is needed");
+        row("\"nodes\": [[1, 0, 0, 0], [3e9, 0, 0, 0]]", "nodes[1][0]: a whole number is needed");
+        row("\"supports\": [[4, \"x\"]]", "supports[0][0]: node 4 does not exist");
+        row("\"supports\": [[1, \"x u\"]]", "supports[0][1]: unknown direction \"u\"");
+        row("\"beams\": [[1, 1, 1, 1, 2], [2, 1, 1, 1, 9]]", "beams[1][4]: node 9 does not exist");
+        row("\"cables\": [[1, 2, 1, 1, 2]]", "cables[0][1]: group 2 does not exist");
+        row("\"trusses\": [[1, 1, 5, 1, 2]]", "trusses[0][2]: cross section 5 does not exist");
+        row("\"quads\": [[1, 1, 0, 1, 2, 3, 0.2]]", "quads[0][2]: node 0 does not exist");
+        row("\"bricks\": [[1, 1, 1, 2, 3, 1, 2, 3, 1, 0]]", "bricks[0][9]: node 0 does not exist");
+        row("\"areas\": [[1, 1, 2, 7]]", "areas[0][3]: point 7 does not exist");
+        row("\"axes\": [{\"number\": 1, \"title\": \"t\", \"points\": [[0, 0, 0], [1, 0]]}]",
+            "axes[0].points[1]: 3 values are needed");
+        row("\"secondaryGroups\": [{\"name\": \"A\", \"title\": \"t\", \"quads\": [8]}]",
+            "secondaryGroups[0].quads[0]: element 8 does not exist");
+        row("\"secondaryGroups\": [{\"name\": \"ABCDE\", \"title\": \"t\"}]",
+            "secondaryGroups[0].name: a name of one to four characters is needed");
+        row("\"loadCases\": [{\"number\": 1, \"title\": \"t\", \"kind\": 3}]",
+            "loadCases[0].kind: a kind of 1 or 2 is needed");
+    }
+
+    void wrong()
+    {
+        QFETCH(const QString, text);
+        writeFile(text.toUtf8());
+        Model m;
+        m.system.title = QStringLiteral("untouched");
+        QString error;
+        QVERIFY(!readModelFile(m_path, 1, &m, &error));
+        QCOMPARE(error.left(m_path.size() + 2), m_path + QLatin1String(": "));
+        QTEST(error.mid(m_path.size() + 2), "error");
+        QCOMPARE(m.system.title, QStringLiteral("untouched"));
+    }
+
+    void missingFile()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("none.json"));
+        Model m;
+        QString error;
+        QVERIFY(!readModelFile(path, 1, &m, &error));
+        QCOMPARE(error, path + QLatin1String(": No such file or directory"));
+    }
+
+private:
+    /// Writes a sound file with the text's key added, or in place of the one that begins like it.
+    void writeFile(const QByteArray& text) const
+    {
+        QByteArray file = '{' + text;
+        for (const char* line : {R"("title": "t")", R"("kindOfSystem": 0)",
+                                 R"("groups": [{"number": 1, "title": "g"}])",
+                                 R"("crossSections": [{"number": 1, "title": "s"}])",
+                                 R"("nodes": [[1, 0, 0, 0], [2, 1, -2.5, 0.125], [3, 0, 1, 0]])",
+                                 R"("points": [[1, 0, 0, 0], [2, 1, 0, 0]])"})
+            if (text.left(5) != QByteArray(line).left(5))
+                file += QByteArray(", ") + line;
+        const bool isWhole = text.startsWith('{') || text.startsWith('[');
+        testsupport::writeFile(m_path, isWhole ? text : file + '}');
+    }
+
+    QTemporaryDir m_folder;
+    const QString m_path = m_folder.filePath(QStringLiteral("model %1.json"));
+};
+
+PLIB_TEST_MAIN(TestModelFile)
+#include "tst_modelFile.moc"

@@ -1,0 +1,208 @@
+#include "TestSupport.h"
+
+#include <vkd_dbo_model.h>
+#include <vkd_dbo_queries.h>
+#include <vkd_lib_searchpath.h>
+#include <vkd_lib_value.h>
+#include <vkd_zob.h>
+
+#include <QTemporaryDir>
+
+#include <tuple>
+#include <vector>
+
+namespace vkd {
+namespace dbo {
+/// What makes two things equal.
+struct Fields
+{
+    template <size_t N>
+    static std::vector<int> all(const int (&numbers)[N])
+    {
+        return std::vector<int>(numbers, numbers + N);
+    }
+    static auto of(const SystemInformation& s) { return std::tie(s.title, s.kindOfSystem); }
+    static auto of(const Node& n) { return std::tie(n.number, n.position); }
+    static auto of(const Boundary& b) { return std::tie(b.node, b.fixed); }
+    static auto of(const CrossSection& s) { return std::tie(s.number, s.title); }
+    static auto of(const Group& g) { return std::tie(g.number, g.title); }
+    static auto of(const SecondaryGroup& g) { return std::tie(g.name, g.title, g.quads, g.beams); }
+    static auto of(const LineElement& e)
+    {
+        return std::make_tuple(e.number, e.group, e.crossSection, all(e.nodes));
+    }
+    static auto of(const Spring& s)
+    {
+        return std::make_tuple(s.number, s.group, all(s.nodes), s.stiffness);
+    }
+    static auto of(const Quad& q)
+    {
+        return std::make_tuple(q.number, q.group, all(q.nodes), q.thickness);
+    }
+    static auto of(const Brick& b) { return std::make_tuple(b.number, b.group, all(b.nodes)); }
+    static auto of(const Point& p) { return std::tie(p.number, p.position); }
+    static auto of(const Outline& o) { return std::tie(o.number, o.points); }
+    static auto of(const Polyline& p) { return std::tie(p.number, p.title, p.points); }
+    static auto of(const LoadCase& l) { return std::tie(l.number, l.title, l.kind); }
+    static auto of(const Model& m)
+    {
+        return std::tie(m.system, m.nodes, m.supports, m.crossSections, m.groups, m.secondaryGroups,
+                        m.beams, m.trusses, m.cables, m.springs, m.quads, m.bricks, m.quadTendons,
+                        m.beamTendons, m.points, m.lines, m.areas, m.axes, m.sectionCuts,
+                        m.designLines, m.loadCases);
+    }
+};
+
+template <typename T>
+auto operator==(const T& a, const T& b) -> decltype(Fields::of(a), true)
+{
+    return Fields::of(a) == Fields::of(b);
+}
+} // namespace dbo
+} // namespace vkd
+
+using namespace vkd::dbo;
+
+struct Query
+{
+    const char* name;
+    bool (*has)(int, int*);
+    void (*add)(Model&);
+};
+
+static const Query queries[] = {
+    {"nodes", hasNodes, [](Model& m) { m.nodes.resize(1); }},
+    {"quads", hasQuads, [](Model& m) { m.quads.resize(1); }},
+    {"boundaries", hasBoundaries, [](Model& m) { m.supports.resize(1); }},
+    {"beams", hasBeams, [](Model& m) { m.beams.resize(1); }},
+    {"trusses", hasTrus, [](Model& m) { m.trusses.resize(1); }},
+    {"section cuts", hasBscts, [](Model& m) { m.sectionCuts.resize(1); }},
+    {"points", hasPoints, [](Model& m) { m.points.resize(1); }},
+    {"lines", hasLines, [](Model& m) { m.lines.resize(1); }},
+    {"areas", hasAreas, [](Model& m) { m.areas.resize(1); }},
+    {"axes", hasAxes, [](Model& m) { m.axes.resize(1); }},
+    {"cables", hasCables, [](Model& m) { m.cables.resize(1); }},
+    {"springs", hasSprings, [](Model& m) { m.springs.resize(1); }},
+    {"bricks", hasBrics, [](Model& m) { m.bricks.resize(1); }},
+    {"quad tendons", hasQuadTendons, [](Model& m) { m.quadTendons.resize(1); }},
+    {"beam tendons", hasBeamTendons, [](Model& m) { m.beamTendons.resize(1); }},
+    {"cross sections", hasCrossSections, [](Model& m) { m.crossSections.resize(1); }},
+};
+
+/// Models in a project, and the questions about them.
+class TestModelStore : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_path = m_folder->filePath(QStringLiteral("p"));
+        QCOMPARE(vkd_zob_create(m_path.toUtf8(), &m_index), int(VKD_ZOB_OK));
+        vkd_lib_setvalue(201, 30);
+    }
+
+    void cleanup() { vkd_zob_close(m_index); }
+
+    void eachModelReplacesTheOneBefore()
+    {
+        QVERIFY(readModel(m_index) == Model());
+        for (const char* name : {"hall", "building", "slab", "hall"}) {
+            const Model model = shipped(name);
+            QVERIFY(storeModel(m_index, model));
+            QVERIFY2(readModel(m_index) == model, name);
+            QVERIFY(readLoadCases(m_index) == model.loadCases);
+            QCOMPARE(getKindOfSystem(m_index, nullptr), model.system.kindOfSystem);
+        }
+        QVERIFY(storeModel(m_index, Model()));
+        QVERIFY(readModel(m_index) == Model());
+        QCOMPARE(getKindOfSystem(m_index, nullptr), 0);
+    }
+
+    void query_data()
+    {
+        QTest::addColumn<int>("row");
+        for (const Query& one : queries)
+            QTest::newRow(one.name) << int(&one - queries);
+    }
+
+    void query()
+    {
+        QFETCH(const int, row);
+        QVERIFY(!queries[row].has(m_index, nullptr));
+        Model model;
+        queries[row].add(model);
+        QVERIFY(storeModel(m_index, model));
+        for (const Query& one : queries)
+            QVERIFY2(one.has(m_index, nullptr) == (&one == queries + row), one.name);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("no project is open")));
+        QVERIFY(!queries[row].has(77, nullptr));
+    }
+
+    void refusedModelLeavesTheOldOne_data()
+    {
+        QTest::addColumn<bool>("isWritable");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("write-protected") << false << "cannot take the lock of .*write-protected";
+        QTest::newRow("found out by the release") << true << "cannot store the changes in .*holds";
+    }
+
+    void refusedModelLeavesTheOldOne()
+    {
+        QFETCH(const bool, isWritable);
+        QFETCH(const QString, line);
+        const Model old = shipped("slab");
+        QVERIFY(storeModel(m_index, old));
+        if (!isWritable)
+            QFile::setPermissions(m_path, QFile::ReadOwner);
+        int index = -1, length = 0;
+        QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index), int(VKD_ZOB_OK));
+        vkd_zob_get(m_index, 20, 0, nullptr, &length, 0); // a pass that holds off who stores
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(line));
+        QVERIFY(!storeModel(index, shipped("hall")));
+        QVERIFY(readModel(index) == old);
+        vkd_zob_close(index);
+    }
+
+    void damagedRecordIsLeftOut_data()
+    {
+        QTest::addColumn<int>("key1");
+        QTest::addColumn<QByteArray>("record");
+        QTest::newRow("node cut") << 20 << QByteArray(20, '\1');
+        QTest::newRow("outline longer than its record") << 32 << QByteArray(12, '\x7F');
+        QTest::newRow("outline of negative length") << 32 << QByteArray(12, '\xFF');
+        QTest::newRow("group with a title that cannot be") << 11 << QByteArray(12, '\x7E');
+    }
+
+    void damagedRecordIsLeftOut()
+    {
+        QFETCH(const int, key1);
+        QFETCH(const QByteArray, record);
+        const Model model = shipped("hall");
+        QVERIFY(storeModel(m_index, model));
+        const int length = record.size();
+        QCOMPARE(vkd_zob_put(m_index, key1, 0, record, &length, 1), int(VKD_ZOB_OK));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("too short")));
+        QVERIFY(readModel(m_index) == model);
+    }
+
+private:
+    static Model shipped(const char* name)
+    {
+        Model model;
+        QString error;
+        const auto path = vkd_lib_searchpath(QByteArray("models/") + name + ".json", 3);
+        if (!path || !readModelFile(QString::fromStdString(*path), 0, &model, &error))
+            qFatal("no model %s %s", name, qPrintable(error));
+        return model;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+    int m_index = -1;
+};
+
+PLIB_TEST_MAIN(TestModelStore)
+#include "tst_modelStore.moc"

@@ -1,0 +1,85 @@
+#include "TestSupport.h"
+
+#include <VKD_H_PluginParameter.h>
+#include <vkd_h_program.h>
+#include <VKD_H_ZOBDoc.h>
+
+#include <QTemporaryDir>
+
+/// Documents, and the text around a program block.
+class TestDocuments : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void life()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("Träger.vkd"));
+        const QRegularExpression notOpen(QStringLiteral("no project is open"));
+        const int length = 1;
+        auto document = VKD_H_ZOBDoc::create(path);
+        const auto again = VKD_H_ZOBDoc::open(path);
+        QVERIFY(document && again && document->path() == path);
+        const int first = document->index(), second = again->index();
+        QVERIFY(first > 0 && second > 0 && first != second);
+        for (int i = 0; i < 2; ++i) { // closing twice does no harm, neither here nor to others
+            QCOMPARE(again->close(), int(VKD_ZOB_OK));
+            QCOMPARE(again->index(), -1);
+        }
+        QTest::ignoreMessage(QtWarningMsg, notOpen);
+        QCOMPARE(vkd_zob_put(second, 1, 1, "x", &length, 1), int(VKD_ZOB_NOT_OPEN));
+        QCOMPARE(vkd_zob_put(first, 1, 1, "x", &length, 1), int(VKD_ZOB_OK));
+        document.reset(); // closes
+        QTest::ignoreMessage(QtWarningMsg, notOpen);
+        QCOMPARE(vkd_zob_put(first, 1, 1, "x", &length, 1), int(VKD_ZOB_NOT_OPEN));
+    }
+
+    void failures()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("text"));
+        testsupport::writeFile(path, "no project");
+        cd_error_t status = -1;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no project file")));
+        QVERIFY(!VKD_H_ZOBDoc::open(path, &status));
+        QCOMPARE(status, int(VKD_ZOB_NO_PROJECT));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot create ")));
+        QVERIFY(!VKD_H_ZOBDoc::create(path)); // and asks for no status
+    }
+
+    void block_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("begin");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("German") << 0 << "PROG GRAV $ Bild %2\nKOPF Träger %1\n"
+                                << "ENDE";
+        QTest::newRow("English") << 1 << "PROG GRAV $ Bild %2\nHEAD Träger %1\n"
+                                 << "END";
+    }
+
+    void block()
+    {
+        QFETCH(const int, language);
+        const QString begin =
+            vkd_h_generatePROG(nullptr, QStringLiteral("GRAV"), QStringLiteral("Träger %1"),
+                               QStringLiteral("Bild %2"), language, 0);
+        QTEST(begin, "begin");
+        QTEST(vkd_h_generateENDE(language), "end");
+    }
+
+    void pluginParameter()
+    {
+        const auto model = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("model")));
+        const auto sections = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("sections")));
+        QVERIFY(!VKD_H_PluginParameter(model.get()).sectionDoc());
+        const VKD_H_PluginParameter both(model.get(), sections.get());
+        QCOMPARE(both.modelDoc(), model.get());
+        QCOMPARE(both.sectionDoc(), sections.get());
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+PLIB_TEST_MAIN(TestDocuments)
+#include "tst_documents.moc"

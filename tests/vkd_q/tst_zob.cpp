@@ -1,0 +1,267 @@
+#include "ZobTestSupport.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <optional>
+
+/// The records of a project and its lock, seen through two indexes of one file that holds the
+/// records "old 0" and "old 1" under 1, 1.
+class TestZob : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace();
+        m_log.emplace();
+        const QString path = m_folder->filePath(QStringLiteral("Träger.vkd"));
+        makeProject(path, m_old);
+        m_first = openProject(path);
+        m_second = openProject(path);
+        QVERIFY(m_first > 0 && m_second > 0 && m_first != m_second);
+        vkd_lib_setvalue(201, 30);
+    }
+
+    void cleanup()
+    {
+        for (int index : {m_first, m_second})
+            if (index > 0)
+                vkd_zob_close(index);
+        const int lines = m_log->take();
+        m_log.reset();
+        QCOMPARE(lines, 0);
+    }
+
+    void sequence_data()
+    {
+        QTest::addColumn<QString>("puts"); // "=" writes the first record, "+" appends
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("appended in order") << "+a +b"
+                                           << "a b ";
+        QTest::newRow("a first one") << "=a"
+                                     << "a ";
+        QTest::newRow("first replaced, the rest stays") << "+a +b +c =x"
+                                                        << "x b c ";
+        QTest::newRow("empty records") << "+ +b + +d"
+                                       << " b  d ";
+        QTest::newRow("emptied") << "+a +b ="
+                                 << "";
+        QTest::newRow("emptied while empty") << "="
+                                             << "";
+        QTest::newRow("begun again") << "+a +b = +c"
+                                     << "c ";
+    }
+
+    void sequence()
+    {
+        QFETCH(const QString, puts);
+        QFETCH(const QString, expected);
+        for (int index : {0, m_first}) {
+            put(index, 1, 7, QByteArray(), 0); // the scratch store still has the row before
+            for (int neighbour : {6, 8})
+                put(index, 1, neighbour, "other", 0);
+            for (const QByteArray& one : puts.toUtf8().split(' '))
+                QCOMPARE(put(index, 1, 7, one.mid(1), one[0] == '+' ? 1 : 0), VKD_ZOB_OK);
+            cd_error_t end = -1;
+            QByteArray found;
+            for (const QByteArray& record : readAll(index, 7, &end))
+                found += record + ' ';
+            QCOMPARE(QString::fromUtf8(found), expected);
+            QCOMPARE(end, expected.isEmpty() ? VKD_ZOB_NO_KEY : VKD_ZOB_END);
+            for (int neighbour : {6, 8})
+                QCOMPARE(readAll(index, neighbour), Records{"other"});
+        }
+    }
+
+    void delivery_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<int>("key2");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("buffer");
+        QTest::newRow("larger buffer") << 8 << 0 << 1 << int(VKD_ZOB_OK) << "old 0...";
+        QTest::newRow("just large enough") << 5 << 1 << 1 << int(VKD_ZOB_OK) << "old 1...";
+        QTest::newRow("cut") << 3 << 0 << 1 << int(VKD_ZOB_CUT) << "old.....";
+        QTest::newRow("cut to nothing") << 0 << 0 << 1 << int(VKD_ZOB_CUT) << "........";
+        QTest::newRow("behind the end") << 8 << 2 << 1 << int(VKD_ZOB_END) << "........";
+        QTest::newRow("nothing there") << 8 << 0 << 2 << int(VKD_ZOB_NO_KEY) << "........";
+        QTest::newRow("no position") << 8 << -1 << 1 << int(VKD_ZOB_BAD_CALL) << "........";
+        QTest::newRow("no size") << -1 << 0 << 1 << int(VKD_ZOB_BAD_CALL) << "........";
+    }
+
+    void delivery()
+    {
+        QFETCH(const int, size);
+        QFETCH(const int, position);
+        QFETCH(const int, key2);
+        QFETCH(const int, status);
+        QByteArray buffer(8, '.');
+        int length = size;
+        QCOMPARE(vkd_zob_get(m_first, 1, key2, buffer.data(), &length, position), status);
+        QTEST(QString::fromUtf8(buffer), "buffer");
+        QCOMPARE(length, status == VKD_ZOB_OK ? 5 : size);
+        QCOMPARE(m_log->take(), status > VKD_ZOB_NO_KEY ? 1 : 0);
+    }
+
+    void nextPair_data()
+    {
+        using Pair = QPair<int, int>;
+        QTest::addColumn<Pair>("from");
+        QTest::addColumn<Pair>("found");
+        QTest::newRow("the very first") << Pair(-5, -5) << Pair(1, 1);
+        QTest::newRow("a pair in use is itself") << Pair(35, 4) << Pair(35, 4);
+        QTest::newRow("in the same first key") << Pair(35, 0) << Pair(35, 4);
+        QTest::newRow("in the next first key") << Pair(35, 8) << Pair(36, 0);
+        QTest::newRow("an emptied one is passed over") << Pair(36, 1) << Pair(40, 2);
+        QTest::newRow("behind the last") << Pair(40, 3) << Pair(-1, -1);
+    }
+
+    void nextPair()
+    {
+        using Pair = QPair<int, int>;
+        QFETCH(Pair, from);
+        for (const Pair& used : {Pair(36, 0), Pair(40, 2), Pair(38, 0), Pair(35, 4)})
+            put(m_first, used.first, used.second, "x", 1);
+        put(m_first, 38, 0, QByteArray(), 0);
+        vkd_zob_kenq_ex(m_first, &from.first, &from.second, 1);
+        QTEST(from, "found");
+        from = Pair(1, 1);
+        vkd_zob_kenq_ex(m_first, &from.first, &from.second, 2);
+        QCOMPARE(from, Pair(-1, -1));
+        QCOMPARE(m_log->take(), 1);
+    }
+
+    void unknownIndex()
+    {
+        for (int index : {-1, 77}) {
+            int length = 0, key1 = 1, key2 = 1;
+            QCOMPARE(m_log->once(vkd_zob_get(index, 1, 1, nullptr, &length, 0)), VKD_ZOB_NOT_OPEN);
+            QCOMPARE(m_log->once(put(index, 1, 1, "x", 1)), VKD_ZOB_NOT_OPEN);
+            QCOMPARE(m_log->once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_NOT_OPEN);
+            QCOMPARE(m_log->once(vkd_zob_close(index)), VKD_ZOB_NOT_OPEN);
+            vkd_zob_kenq_ex(index, &key1, &key2, 1);
+            QCOMPARE(m_log->once(key1), -1);
+        }
+    }
+
+    void readingPassSeesOneState_data()
+    {
+        QTest::addColumn<bool>("innerPass");
+        QTest::newRow("to the end of the sequence") << false;
+        QTest::newRow("around a pass over other records, until released") << true;
+    }
+
+    void readingPassSeesOneState()
+    {
+        QFETCH(const bool, innerPass);
+        put(m_first, 1, 2, "inner", 0);
+        QCOMPARE(readOne(0), QByteArray("old 0"));
+        if (innerPass)
+            QCOMPARE(readAll(m_first, 2), Records{"inner"});
+        QCOMPARE(m_log->once(put(m_second, 1, 1, QByteArray(), 0)), VKD_ZOB_LOCKED);
+        QCOMPARE(readOne(1), QByteArray("old 1"));
+        if (innerPass)
+            vkd_zob_free_ex(m_first, 1, 1);
+        else
+            readOne(2);
+        QCOMPARE(put(m_second, 1, 1, "new", 0), VKD_ZOB_OK);
+        QCOMPARE(readAll(m_first), (Records{"new", "old 1"}));
+    }
+
+    void lastReleaseStoresAndCloseDrops()
+    {
+        QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
+        QCOMPARE(vkd_zob_lock_ex(m_first, 1, 2), VKD_ZOB_OK);
+        QCOMPARE(put(m_first, 1, 1, "new", 0), VKD_ZOB_OK);
+        QCOMPARE(readAll(m_first), (Records{"new", "old 1"}));
+        vkd_zob_free_ex(m_first, 1, 1);
+        vkd_zob_free_ex(m_first, 3, 3); // never taken
+        QCOMPARE(readAll(m_second), m_old);
+        vkd_zob_free_ex(m_first, 1, 2);
+        QCOMPARE(readAll(m_second), (Records{"new", "old 1"}));
+        QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
+        QCOMPARE(put(m_first, 1, 1, "dropped", 1), VKD_ZOB_OK);
+        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)), VKD_ZOB_OK);
+        QCOMPARE(readAll(m_second), (Records{"new", "old 1"}));
+        QCOMPARE(put(m_second, 1, 1, "more", 1), VKD_ZOB_OK);
+    }
+
+    void secondTakerIsRefused()
+    {
+        QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
+        QCOMPARE(put(m_first, 1, 1, "first", 1), VKD_ZOB_OK);
+        vkd_lib_setvalue(201, 120);
+        QElapsedTimer waited;
+        waited.start();
+        QCOMPARE(m_log->once(vkd_zob_lock_ex(m_second, 1, 2)), VKD_ZOB_LOCKED);
+        QVERIFY(waited.elapsed() >= 115 && waited.elapsed() < 4000);
+        vkd_zob_free_ex(m_first, 1, 1);
+        // The file is free by now, but who was refused has not seen what the other one wrote.
+        QCOMPARE(put(m_second, 1, 2, "second", 1), VKD_ZOB_LOCKED);
+        vkd_zob_free_ex(m_second, 1, 2);
+        QCOMPARE(readAll(m_first, 2), Records());
+        QCOMPARE(readAll(m_second), m_old + Records{"first"});
+        QCOMPARE(put(m_second, 1, 2, "later", 1), VKD_ZOB_OK);
+        QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)), VKD_ZOB_LOCKED); // "second" is lost
+    }
+
+    void closeTellsThatAReleaseCouldNotStore()
+    {
+        QCOMPARE(vkd_zob_lock_ex(m_second, 1, 1), VKD_ZOB_OK);
+        QCOMPARE(put(m_second, 1, 1, "new", 1), VKD_ZOB_OK);
+        QCOMPARE(readOne(0), QByteArray("old 0")); // begins a pass and goes no further
+        vkd_zob_free_ex(m_second, 1, 1);
+        QCOMPARE(m_log->take(), 1);
+        vkd_zob_free_ex(m_first, 1, 1);
+        QCOMPARE(readAll(m_second), m_old);
+        QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)), VKD_ZOB_LOCKED);
+    }
+
+    void failureDropsTheChange_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<int>("position");
+        QTest::newRow("read instead of put") << 1 << -1;
+        QTest::newRow("record beyond all bounds") << 2000000000 << 1;
+        QTest::newRow("negative length") << -1 << 1;
+        QTest::newRow("position in the middle") << 1 << 2;
+    }
+
+    void failureDropsTheChange()
+    {
+        QFETCH(const int, length);
+        QFETCH(const int, position);
+        QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
+        QCOMPARE(put(m_first, 1, 1, QByteArray(), 0), VKD_ZOB_OK);
+        char record = 'x';
+        int size = length;
+        const cd_error_t failed = position < 0
+                                      ? vkd_zob_get(m_first, 1, 1, &record, &size, position)
+                                      : vkd_zob_put(m_first, 1, 1, &record, &size, position);
+        QCOMPARE(m_log->once(failed), VKD_ZOB_BAD_CALL);
+        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // and says no more
+        vkd_zob_free_ex(m_first, 1, 1);
+        QCOMPARE(readAll(m_first), m_old);
+        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)), VKD_ZOB_BAD_CALL);
+    }
+
+private:
+    QByteArray readOne(int position) const
+    {
+        QByteArray buffer(8, '.');
+        int length = buffer.size();
+        vkd_zob_get(m_first, 1, 1, buffer.data(), &length, position);
+        return buffer.left(length);
+    }
+
+    const Records m_old{"old 0", "old 1"};
+    std::optional<QTemporaryDir> m_folder;
+    std::optional<ZobLog> m_log;
+    int m_first = -1, m_second = -1;
+};
+
+PLIB_TEST_MAIN(TestZob)
+#include "tst_zob.moc"

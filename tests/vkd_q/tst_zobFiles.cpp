@@ -1,0 +1,137 @@
+#include "ZobTestSupport.h"
+
+#include <QTemporaryDir>
+
+static QByteArray patched(QByteArray bytes, int offset, const QByteArray& patch)
+{
+    return bytes.replace(offset, patch.size(), patch);
+}
+
+/// What may lie under the path of a project, and that a project that is only read stays as it is.
+class TestZobFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (int i = 0; i < 3000; ++i)
+            m_records << QByteArray::number(i).repeated(20);
+        makeProject(m_path, m_records);
+        m_sound = testsupport::readFile(m_path);
+        QVERIFY(m_sound.size() > 200000);
+    }
+
+    void unusable_data()
+    {
+        QTest::addColumn<QByteArray>("bytes"); // a null one stands for no file
+        QTest::addColumn<int>("status");
+        const int middle = m_sound.size() / 2;
+        const int page = middle - middle % 4096;
+        const int foreign = VKD_ZOB_NO_PROJECT, newer = VKD_ZOB_NEWER, damaged = VKD_ZOB_DAMAGED;
+        const QByteArray zero(4, '\0'), noise("\x93\x07\xFE\x5A\xC1\x88\x33\xD6");
+        QTest::newRow("no file") << QByteArray() << int(VKD_ZOB_NO_FILE);
+        QTest::newRow("empty file") << QByteArray("") << foreign;
+        QTest::newRow("text") << QByteArray("Not a project.\n") << foreign;
+        QTest::newRow("other application") << patched(m_sound, 68, zero) << foreign;
+        QTest::newRow("newer version") << patched(m_sound, 63, QByteArray(1, '\2')) << newer;
+        QTest::newRow("version 0") << patched(m_sound, 60, zero) << damaged;
+        QTest::newRow("no record table")
+            << QByteArray(m_sound).replace("record", "recall") << damaged;
+        QTest::newRow("first page only") << m_sound.left(4096) << damaged;
+        QTest::newRow("first half") << m_sound.left(middle) << damaged;
+        QTest::newRow("last bytes missing") << m_sound.left(m_sound.size() - 100) << damaged;
+        QTest::newRow("noise at the head of a page") << patched(m_sound, page, noise) << damaged;
+        QTest::newRow("noise in the middle")
+            << patched(m_sound, middle, noise.repeated(100)) << damaged;
+        QTest::newRow("noise in the table of contents") << patched(m_sound, 100, noise) << damaged;
+    }
+
+    void unusable()
+    {
+        QFETCH(const QByteArray, bytes);
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        if (!bytes.isNull())
+            testsupport::writeFile(path, bytes);
+        ZobLog log;
+        int index = -1;
+        QTEST(log.once(vkd_zob_open(path.toUtf8(), &index)), "status");
+        QCOMPARE(index, -1);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), bytes.isNull() ? 0 : 1);
+        QVERIFY(bytes.isNull() || testsupport::readFile(path) == bytes);
+        QCOMPARE(log.once(vkd_zob_open(folder.path().toUtf8(), &index)), VKD_ZOB_NO_FILE);
+    }
+
+    void readingLeavesTheFileAlone_data()
+    {
+        QTest::addColumn<bool>("isWritable");
+        QTest::newRow("writable") << true;
+        QTest::newRow("write-protected") << false;
+    }
+
+    void readingLeavesTheFileAlone()
+    {
+        QFETCH(const bool, isWritable);
+        const QDateTime longAgo(QDate(2001, 2, 3), QTime(4, 5), Qt::UTC);
+        QFile file(m_path);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+        file.close();
+        if (!isWritable)
+            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ReadGroup));
+        ZobLog log;
+        const int index = openProject(m_path);
+        if (!isWritable) {
+            QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
+            QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has said why
+            vkd_zob_free_ex(index, 1, 1);
+            QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);
+        }
+        QVERIFY(readAll(index) == m_records);
+        QCOMPARE(vkd_zob_close(index), isWritable ? VKD_ZOB_OK : VKD_ZOB_READ_ONLY);
+        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+        QVERIFY(testsupport::readFile(m_path) == m_sound);
+        QCOMPARE(QFileInfo(m_path).lastModified(), longAgo);
+        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("p")));
+    }
+
+    void create_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("status");
+        QTest::newRow("new") << "Überbau.vkd" << int(VKD_ZOB_OK);
+        QTest::newRow("project there") << "project" << int(VKD_ZOB_NO_FILE);
+        QTest::newRow("folder missing") << "no/new.vkd" << int(VKD_ZOB_NO_FILE);
+    }
+
+    void create()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const int, status);
+        QTemporaryDir folder;
+        const QString there = folder.filePath(QStringLiteral("project"));
+        testsupport::writeFile(there, m_sound);
+        ZobLog log;
+        int index = -1;
+        QCOMPARE(vkd_zob_create(folder.filePath(name).toUtf8(), &index), status);
+        QCOMPARE(log.take(), status == VKD_ZOB_OK ? 0 : 1);
+        QVERIFY(testsupport::readFile(there) == m_sound);
+        if (status != VKD_ZOB_OK)
+            return;
+        int key1 = 0, key2 = 0;
+        vkd_zob_kenq_ex(index, &key1, &key2, 1);
+        QCOMPARE(key1, -1);
+        QCOMPARE(vkd_zob_close(index), VKD_ZOB_OK);
+        QCOMPARE(readProject(folder.filePath(name)), Records());
+    }
+
+private:
+    QTemporaryDir m_folder;
+    const QString m_path = m_folder.filePath(QStringLiteral("p"));
+    QByteArray m_sound; ///< the bytes of a large project
+    Records m_records;
+};
+
+PLIB_TEST_MAIN(TestZobFiles)
+#include "tst_zobFiles.moc"
