@@ -1,0 +1,37 @@
+#!/bin/sh
+# Renders the drawings of lib/plib/resources to the pictures that are committed beside them.
+# Needs the Debian packages librsvg2-bin and fonts-dejavu-core. Call it after changing a drawing.
+set -eu
+
+resources=$(CDPATH='' cd -- "$(dirname -- "$0")/../lib/plib/resources" && pwd)
+
+need() {
+    echo "render_pictures: $1 is missing; install the Debian package $2" >&2
+    exit 1
+}
+
+command -v rsvg-convert >/dev/null || need rsvg-convert librsvg2-bin
+command -v fc-match >/dev/null || need fc-match fontconfig
+case $(fc-match --format='%{family}' 'DejaVu Sans') in
+    'DejaVu Sans'*) ;;
+    *) need 'the font DejaVu Sans' fonts-dejavu-core ;;
+esac
+
+# render DRAWING PICTURE LANGUAGE WIDTH HEIGHT; zxx, "no language", leaves the texts out.
+render() {
+    rsvg-convert --background-color=white --accept-language="$3" \
+        --page-width="$4" --page-height="$5" \
+        --output="$resources/pictures/$2.png" "$resources/drawings/$1.svg"
+    echo "$2.png: $4 x $5"
+}
+
+# render_forms DRAWING WIDTH HEIGHT: without texts, _0 German and _1 English, these one row higher.
+render_forms() {
+    render "$1" "$1" zxx "$2" "$3"
+    render "$1" "$1_0" de "$2" $(($3 + 1))
+    render "$1" "$1_1" en "$2" $(($3 + 1))
+}
+
+render_forms neq_merpara_rich 193 111
+render_forms betondeckung 240 111
+render neq_designline_zrt_bew_mod_allg neq_designline_zrt_bew_mod_allg zxx 299 104
