@@ -12,7 +12,6 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
     workbench::PlatformLog::install();
-    constexpr int LanguageKey = 102;
-    vkd_lib_setvalue(LanguageKey, QLocale().language() == QLocale::German ? 0 : 1);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     return workbench::run(QCoreApplication::arguments());
 }

@@ -14,7 +14,6 @@
 namespace workbench {
 
 namespace {
-constexpr int LanguageKey = 102;
 
 struct Command
 {
@@ -198,8 +197,9 @@ CommandLine::Option languageOption()
 
 void applyLanguage(const CommandLine& commandLine)
 {
-    const bool english = commandLine.english("language", vkd_lib_getvalue(LanguageKey) != 0);
-    vkd_lib_setvalue(LanguageKey, english ? 1 : 0);
+    const bool english =
+        commandLine.english("language", vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, english ? 1 : 0);
 }
 
 } // namespace workbench

@@ -49,9 +49,8 @@ OutputTree::~OutputTree() = default;
 
 void OutputTree::fill(const Rows& rows)
 {
-    constexpr int LanguageKey = 102;
     plib::Catalogue& catalogue = plib::sharedCatalogue();
-    plib::loadCatalogue(catalogue, vkd_lib_getvalue(LanguageKey), showError);
+    plib::loadCatalogue(catalogue, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), showError);
     plib::OutputNodeOperations operations(&m_root);
     plib::TreeBuilder<plib::OutputNode, plib::OutputNodeOperations> builder(&m_root, rows,
                                                                             operations);

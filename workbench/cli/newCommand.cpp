@@ -103,9 +103,8 @@ int newCommand(const QStringList& arguments)
         throw CommandError{QStringLiteral("%1 exists already").arg(path)};
     vkd::dbo::Model model;
     QString error;
-    constexpr int LanguageKey = 102;
-    if (!vkd::dbo::readModelFile(modelPath(line.value("model")), vkd_lib_getvalue(LanguageKey),
-                                 &model, &error))
+    if (!vkd::dbo::readModelFile(modelPath(line.value("model")),
+                                 vkd_lib_getvalue(VKD_SETTING_LANGUAGE), &model, &error))
         throw CommandError{error};
     writeProject(path, model);
     print(summary(path, model));

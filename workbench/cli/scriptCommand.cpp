@@ -100,8 +100,7 @@ int scriptCommand(const QStringList& arguments)
     line.parse(arguments);
     applyLanguage(line);
     const bool english = line.english("keywords", true);
-    constexpr int ProgramHeadKey = 108;
-    vkd_lib_setvalue(ProgramHeadKey, english ? 1 : 0);
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, english ? 1 : 0);
     const plib::OutputSettings settings = settingsFrom(line);
     OutputTree::Rows rows;
     if (line.has("load-cases"))

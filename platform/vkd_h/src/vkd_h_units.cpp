@@ -6,7 +6,6 @@
 
 namespace {
 constexpr double DegreesPerRadian = 57.295779513082320877;
-constexpr int LanguageKey = 102;
 
 constexpr VkdDimension Dimensions[] = {
     {5, DegreesPerRadian, "°", 1}, {1001, 1.0, "m", 3},     {1021, 1.0, "cm²/m", 2},
@@ -30,7 +29,7 @@ QString vkd_h_getNumberString(double value, int decimals)
     // A value that rounds to nothing is nothing: no "-0.0".
     if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0)
         text.remove(0, 1);
-    const bool german = vkd_lib_getvalue(LanguageKey) == 0;
+    const bool german = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == 0;
     return german ? text.replace(QLatin1Char('.'), QLatin1Char(',')) : text;
 }
 

@@ -16,7 +16,6 @@
 namespace {
 constexpr int ApplicationId = 0x564b4442; // "VKDB"
 constexpr int SchemaVersion = 1;
-constexpr int LockDeadlineKey = 201;
 constexpr int DefaultLockDeadline = 5000; // ms
 
 const QLatin1String InMemory(":memory:");
@@ -51,7 +50,7 @@ int waitForOther(void*, int calls)
     static thread_local Clock::time_point start;
     if (calls == 0)
         start = Clock::now();
-    const int setting = vkd_lib_getvalue(LockDeadlineKey);
+    const int setting = vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE);
     const int deadline = setting > 0 ? setting : DefaultLockDeadline;
     if (Clock::now() - start >= std::chrono::milliseconds(deadline))
         return 0;

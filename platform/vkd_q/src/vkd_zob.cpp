@@ -55,6 +55,8 @@ cd_error_t vkd_zob_create(const char* path, int* index)
 
 cd_error_t vkd_zob_close(int index)
 {
+    if (index == 0) // lives as long as the process
+        return reportZob(VKD_ZOB_BAD_CALL, "close", QStringLiteral("the scratch store"));
     cd_error_t status = VKD_ZOB_OK;
     ZobDatabase* closing = database(index, &status);
     if (!closing)

@@ -6,7 +6,6 @@
 namespace plib {
 
 namespace {
-constexpr int LanguageKey = 102;
 constexpr int QualifierLength = 3;
 constexpr int TokenLength = 4;
 
@@ -47,7 +46,7 @@ QString tokenText(QStringView token)
     const int textClass = sign == QLatin1Char('&') ? 0 : sign == QLatin1Char('^') ? 1 : 4;
     const QByteArray key = token.mid(1, 3).toLatin1();
     const QString text = QString::fromStdString(
-        vkd_lib_convtext(textClass, vkd_lib_getvalue(LanguageKey), key.constData()));
+        vkd_lib_convtext(textClass, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), key.constData()));
     // A short form may stand before a ">"; a text that begins with one is meant to.
     const int mark = textClass == 0 ? text.indexOf(QLatin1Char('>')) : -1;
     return mark > 0 ? text.mid(mark + 1) : text;

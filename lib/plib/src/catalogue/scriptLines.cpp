@@ -1,14 +1,10 @@
 #include "scriptLines.h"
 
+#include "Words.h"
+
 namespace plib {
 
 namespace {
-struct Words
-{
-    const char* german;
-    const char* english;
-};
-
 constexpr Words ViewWord{"BEOB ", "VIEW "};
 constexpr Words LcWord{"LF ", "LC "};
 constexpr Words DesignWord{" BEME ", " DESI "};
@@ -20,17 +16,14 @@ constexpr Words ColourEnd{" ; FARB STAN", " ; COLO STAN"};
 
 ScriptContext scriptContext(bool english)
 {
-    const auto word = [english](Words words) {
-        return QString::fromLatin1(english ? words.english : words.german);
-    };
     ScriptContext context;
-    context.viewWord = word(ViewWord);
-    context.lcWord = word(LcWord);
-    context.designWord = word(DesignWord);
-    context.andWord = word(AndWord);
-    context.firstColour = word(FirstColour);
-    context.secondColour = word(SecondColour);
-    context.colourEnd = word(ColourEnd);
+    context.viewWord = ViewWord.in(english);
+    context.lcWord = LcWord.in(english);
+    context.designWord = DesignWord.in(english);
+    context.andWord = AndWord.in(english);
+    context.firstColour = FirstColour.in(english);
+    context.secondColour = SecondColour.in(english);
+    context.colourEnd = ColourEnd.in(english);
     return context;
 }
 

@@ -12,7 +12,6 @@
 namespace plib {
 
 namespace {
-constexpr int ProgramHeadKey = 108;
 constexpr int DesktopCamera = 0; // the camera belongs to the desktop, not to one project
 constexpr int ScriptForm = 1;
 } // namespace
@@ -27,7 +26,7 @@ QString PlatformScriptEnvironment::programHead() const
     const QString title =
         QCoreApplication::translate("VKD_P_WidgetGraphicalOutput", "Graphical Output");
     return vkd_h_generatePROG(m_parameter, QStringLiteral("GRAV"), title, title,
-                              vkd_lib_getvalue(ProgramHeadKey), 0);
+                              vkd_lib_getvalue(VKD_SETTING_HEAD_LANGUAGE), 0);
 }
 
 QString PlatformScriptEnvironment::programEnd(bool english) const

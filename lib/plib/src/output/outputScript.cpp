@@ -1,17 +1,10 @@
 #include "outputScript.h"
 
+#include <Words.h>
+
 namespace plib {
 
 namespace {
-/// A text of the script in both keyword languages.
-struct Words
-{
-    const char* german;
-    const char* english;
-
-    QString in(bool useEnglish) const { return QString::fromUtf8(useEnglish ? english : german); }
-};
-
 constexpr Words FontWords{"SCHR H6 ", "SCHH H6 "};
 constexpr Words TypeWord{"TYP ", "TYPE "};
 constexpr Words TwoPictures{"SIZ2 TEIL BILD\n", "SIZ2 SPLI PICT\n"};
