@@ -100,27 +100,6 @@ private Q_SLOTS:
         QCOMPARE(child.exitCode(), VKD_ZOB_OK);
     }
 
-    void killedWriters()
-    {
-        makeProject(m_path, Records(QVector<QByteArray>(500, record(0, 200)).toList()));
-        int interrupted = 0;
-        for (int kill = 0, last = 0; kill < 15; ++kill) {
-            QProcess child;
-            QVERIFY(start(child, {0, 100000, 500, 200}));
-            child.waitForFinished(5 + 3 * kill);
-            child.kill();
-            QVERIFY(child.waitForFinished());
-            interrupted += QFile::exists(m_path + QLatin1String("-journal"));
-            const Records left = readProject(m_path);
-            QCOMPARE(left.size(), 500);
-            QCOMPARE(left.count(left.first()), 500);
-            const int round = atoi(left.first());
-            QVERIFY(round >= last);
-            last = round;
-        }
-        QVERIFY2(interrupted > 0, "no kill met a write");
-    }
-
     void diskFull_data()
     {
         QTest::addColumn<int>("records");

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void otherShareFolder();
     void warningsOfThePlatform();
     void namesWithPercentSigns();
+    void designRows();
+    void lookingChangesNothing();
     void strictCatalogue();
     void failures_data();
     void failures();
@@ -212,6 +214,41 @@ void TestCommandLine::namesWithPercentSigns()
     QVERIFY(run("tree a%1%2b.zob").out.startsWith(QLatin1Char('[')));
 }
 
+void TestCommandLine::designRows()
+{
+    QCOMPARE(run("new rows.zob --model slab").exitCode, 0);
+    const QString summary =
+        QStringLiteral("0.0° ;0.0° / 35.0 mm ;35.0 mm ;10.0 mm ;10.0 mm ;\tØ10 ; -  ; "
+                       "-  / Ø10 ; -  ; - \t -  ; -  ; -  /  -  ; -  ; -  ;\n");
+    const QString before = run("rows rows.zob --language english").out;
+    QCOMPARE(before.count(QLatin1Char('\n')), 4);
+    QVERIFY(
+        before.startsWith(QLatin1String("Remaining Groups\tTwo Layers (orthogonal)\t") + summary));
+    // A new row takes its groups from others, and a row that loses its last one goes.
+    QCOMPARE(run("rows rows.zob --set-row 4;GURX type=4 wko=unset --language english").error,
+             QString());
+    const QString changed = run("rows rows.zob --language english").out;
+    QVERIFY2(changed.endsWith(QLatin1String("\n4;GURX\tCircular\t") + summary),
+             qPrintable(changed));
+    QCOMPARE(changed.count(QLatin1Char('\n')), 4);
+    // An existing row keeps what is not named, and a row without groups is kept with the project
+    // too.
+    run("rows rows.zob --set-row GURX;4 hio=0.05");
+    run("rows rows.zob --set-row none type=3 dio=20");
+    const QString again = run("rows rows.zob --language german").out;
+    QVERIFY(again.contains(QLatin1String("\n4;GURX\t")));
+    QVERIFY(again.contains(QStringLiteral("0,0° ;0,0° / 50,0 mm ;35,0 mm ;")));
+    QVERIFY(again.section(QLatin1Char('\n'), -2).contains(QStringLiteral("Ø20")));
+}
+
+void TestCommandLine::lookingChangesNothing()
+{
+    const QByteArray before = testsupport::readFile(path("hall.zob"));
+    for (const char* command : {"rows hall.zob", "script hall.zob", "tree hall.zob"})
+        QCOMPARE(run(command).exitCode, 0);
+    QVERIFY(testsupport::readFile(path("hall.zob")) == before);
+}
+
 void TestCommandLine::strictCatalogue()
 {
     QCOMPARE(run("catalogue --strict").exitCode, 0);
@@ -268,6 +305,11 @@ void TestCommandLine::failures_data()
         "cannot create no/x.zob: cannot create no/x.zob: the file is not there or cannot be opened "
         "(No such file or directory)",
         "no/x.zob");
+    row("rows slab.zob type=1", "--set-row is missing");
+    row("rows slab.zob --set-row 99 type=1", "the model has no group \"99\"");
+    row("rows slab.zob --set-row 1 colour=1", "\"colour=1\" is no FIELD=VALUE of a design record");
+    row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");
+    row("rows slab.zob --set-row 1 hio=inf", "\"inf\" is no value for hio");
     row("script slab.zob -o both.txt --selection-out both.txt",
         "the script and the choice cannot both go into both.txt", "both.txt");
     row("script slab.zob -o .", "cannot write .: it is no file");
@@ -294,7 +336,7 @@ void TestCommandLine::help_data()
     QTest::addColumn<QString>("begins");
     QTest::newRow("all") << QStringLiteral("--help")
                          << QStringLiteral("Usage: plib_workbench COMMAND");
-    for (const char* command : {"new", "script", "catalogue", "tree"})
+    for (const char* command : {"new", "rows", "script", "catalogue", "tree"})
         QTest::newRow(command) << QString::fromLatin1(command) + QLatin1String(" --help")
                                << QLatin1String("Usage: plib_workbench ") + QLatin1String(command) +
                                       QLatin1String(" [options]");
