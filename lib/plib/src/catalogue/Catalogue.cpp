@@ -14,10 +14,10 @@ constexpr char FileName[] = "graphicaloutput.data";
 constexpr int SearchMode = 3;
 
 /// The messages belong to the tree, which is what the user sees fail.
-QString translated(const char* text)
+struct TreeText
 {
-    return QCoreApplication::translate("GraphicalOutputTreeWidget", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(GraphicalOutputTreeWidget)
+};
 } // namespace
 
 Catalogue& sharedCatalogue()
@@ -32,14 +32,14 @@ bool loadCatalogue(Catalogue& catalogue, int language, const ShowError& showErro
         return true;
     const auto path = vkd_lib_searchpath(FileName, SearchMode);
     if (!path) {
-        showError(translated("File not found"),
-                  translated("File %1 not found").arg(QLatin1String(FileName)));
+        showError(TreeText::tr("File not found"),
+                  TreeText::tr("File %1 not found").arg(QLatin1String(FileName)));
         return false;
     }
     QFile file(QFile::decodeName(path->c_str()));
     if (!file.open(QIODevice::ReadOnly)) {
-        showError(translated("Couldn't open file"),
-                  translated("Failed to open file %1").arg(file.fileName()));
+        showError(TreeText::tr("Couldn't open file"),
+                  TreeText::tr("Failed to open file %1").arg(file.fileName()));
         return false;
     }
     parseCatalogue(file, catalogue.list);

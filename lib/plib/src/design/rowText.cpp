@@ -29,10 +29,11 @@ struct Summary
     bool closes;
 };
 
-QString translated(const char* text)
+/// The texts belong to the page's widget, whatever file makes them.
+struct PageText
 {
-    return QCoreApplication::translate("DesignParameter", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(DesignParameter)
+};
 
 Summary distances(int type)
 {
@@ -89,9 +90,9 @@ QString summaryText(const DesignParameterRow& row, int column)
 QString groupsText(const std::vector<int>& groups)
 {
     if (groups.empty())
-        return translated("None");
+        return PageText::tr("None");
     if (isRemainingGroups(groups))
-        return translated("Remaining Groups");
+        return PageText::tr("Remaining Groups");
     QStringList texts;
     for (int group : groups)
         texts << groupText(group);
@@ -103,7 +104,7 @@ QString typeText(int type)
     const int index = type % 10;
     if (index < 0 || index >= int(std::size(DesignTypeNames)))
         return QString();
-    return translated(DesignTypeNames[index]);
+    return PageText::tr(DesignTypeNames[index]);
 }
 } // namespace
 
@@ -138,16 +139,12 @@ QString valueText(const DesignParameterRow& row, float value, int code, const QS
 QString rowText(const DesignParameterRow& row, int column)
 {
     switch (column) {
-    case 0:
-        return groupsText(row.groups);
-    case 1:
-        return typeText(row.record.type);
+    case 0: return groupsText(row.groups);
+    case 1: return typeText(row.record.type);
     case 2:
     case 3:
-    case 4:
-        return summaryText(row, column);
-    default:
-        return QString();
+    case 4: return summaryText(row, column);
+    default: return QString();
     }
 }
 

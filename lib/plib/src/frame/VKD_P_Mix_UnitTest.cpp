@@ -1,0 +1,28 @@
+#include "VKD_P_Mix_UnitTest.h"
+
+#include "languagePictures.h"
+
+#include <QtTest>
+
+// QtTest's checks leave the function when they fail. That is why the language is not restored by a
+// guard: hosts find it after a failure as the failing step had set it.
+void VKD_P_Mix_UnitTest::check_qrc_system()
+{
+    const QString cover = QStringLiteral(":/betondeckung.png");
+    const QString covers[] = {QStringLiteral(":/betondeckung_0.png"),
+                              QStringLiteral(":/betondeckung_1.png")};
+    const QString noForms = QStringLiteral(":/neq_designline_zrt_bew_mod_allg.png");
+
+    QCOMPARE(vkd_qt_getFileNameWithLang(cover, 0), covers[0]);
+    QCOMPARE(vkd_qt_getFileNameWithLang(cover, 1), covers[1]);
+    QCOMPARE(vkd_qt_getFileNameWithLang(noForms, 0), noForms);
+    QCOMPARE(vkd_qt_getFileNameWithLang(noForms, 1), noForms);
+
+    const int before = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    for (int language : {0, 1}) {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+        QCOMPARE(GET_FILENAME_WITH_LANG(cover), covers[language]);
+        QCOMPARE(GET_PIXMAP_WITH_LANG(cover).cacheKey(), QPixmap(covers[language]).cacheKey());
+    }
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, before);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <vkd_lib_value.h>
+#include <vkd_qt_getFileNameWithLang.h>
+
+#include <QPixmap>
+
+/// A picture's form for the language of the desktop, under the names that the suite's developers
+/// know these shorthands by.
+inline QString GET_FILENAME_WITH_LANG(const QString& name)
+{
+    return vkd_qt_getFileNameWithLang(name, vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
+}
+
+inline QPixmap GET_PIXMAP_WITH_LANG(const QString& name)
+{
+    return QPixmap(GET_FILENAME_WITH_LANG(name));
+}

@@ -1,0 +1,60 @@
+#include "VKD_QT_InitTranslator.h"
+
+#include <vkd_lib_value.h>
+
+#include <QCoreApplication>
+#include <QTranslator>
+#include <QVector>
+
+namespace {
+constexpr int German = 0;
+
+/// Built within the first object's construction, so that it outlives every static object.
+QVector<VKD_QT_InitTranslator*>& livingObjects()
+{
+    static QVector<VKD_QT_InitTranslator*> objects;
+    return objects;
+}
+
+/// Qt keeps the routine and calls it for each application that is constructed from now on.
+void callAtEachStart()
+{
+    static const bool once = [] {
+        qAddPreRoutine(&VKD_QT_InitTranslator::languageChanged);
+        return true;
+    }();
+    Q_UNUSED(once)
+}
+} // namespace
+
+VKD_QT_InitTranslator::VKD_QT_InitTranslator(const char* module)
+    : m_module(module)
+{
+    callAtEachStart();
+    livingObjects().append(this);
+    if (QCoreApplication::instance())
+        install();
+}
+
+VKD_QT_InitTranslator::~VKD_QT_InitTranslator()
+{
+    livingObjects().removeOne(this);
+}
+
+void VKD_QT_InitTranslator::languageChanged()
+{
+    for (VKD_QT_InitTranslator* object : qAsConst(livingObjects()))
+        object->install();
+}
+
+void VKD_QT_InitTranslator::install()
+{
+    // A new one each time: an application that has ended took its list of translators with it.
+    m_translator.reset();
+    if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != German)
+        return;
+    m_translator.reset(new QTranslator);
+    const QString file = QLatin1String(":/translations/") + QLatin1String(m_module);
+    if (m_translator->load(file + QLatin1String("_de.qm")))
+        QCoreApplication::installTranslator(m_translator.data());
+}

@@ -1,0 +1,13 @@
+#include "vkd_qt_getFileNameWithLang.h"
+
+#include <QFile>
+
+QString vkd_qt_getFileNameWithLang(const QString& name, int language)
+{
+    const int dot = name.lastIndexOf(QLatin1Char('.'));
+    if (dot <= name.lastIndexOf(QLatin1Char('/'))) // a dot in a folder's name begins no extension
+        return name;
+    QString form = name;
+    form.insert(dot, QLatin1Char('_') + QString::number(language));
+    return QFile::exists(form) ? form : name;
+}

@@ -1,0 +1,140 @@
+#include "TestSupport.h"
+
+#include <VKD_H_PluginFactory.h>
+#include <vkd_lib_value.h>
+#include <vkd_qt_getFileNameWithLang.h>
+#include <vkd_unittests.h>
+
+#include <QApplication>
+#include <QPixmapCache>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+constexpr int LanguageKey = 102;
+
+/// What this program prints when it runs as a host of its own, see main().
+QString host(const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    process.waitForFinished();
+    return QString::fromLocal8Bit(process.readAll().trimmed());
+}
+} // namespace
+
+class tst_frame : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noPlugin();
+    void selfCheck();
+    void failedSelfCheckLeavesLanguage();
+    void applicationsInTurn();
+    void languageForm();
+    void pictures_data();
+    void pictures();
+};
+
+void tst_frame::noPlugin()
+{
+    QVERIFY(!VKD_H_PluginFactory(QString()));
+    QVERIFY(!VKD_H_PluginFactory(QStringLiteral("VKD_P_DesignParameter")));
+}
+
+void tst_frame::selfCheck()
+{
+    for (const QString& language : {QStringLiteral("0"), QStringLiteral("1")}) {
+        const QTemporaryDir folder;
+        QCOMPARE(host({QStringLiteral("selfcheck"), language, QStringLiteral("LOGPATH:/nowhere"),
+                       QStringLiteral("LogPath:") + folder.path()}),
+                 QStringLiteral("result 0, language ") + language);
+        const QString log = folder.filePath(QStringLiteral("VKD_P_Mix_UnitTest.log"));
+        QVERIFY(
+            testsupport::readFile(log).contains("PASS   : VKD_P_Mix_UnitTest::check_qrc_system()"));
+    }
+}
+
+void tst_frame::failedSelfCheckLeavesLanguage()
+{
+    const QTemporaryDir folder;
+    QCOMPARE(host({QStringLiteral("selfcheck-without-cache"), QStringLiteral("1"),
+                   QStringLiteral("logpath:") + folder.path()}),
+             QStringLiteral("result 1, language 0"));
+}
+
+void tst_frame::applicationsInTurn()
+{
+    QCOMPARE(host({QStringLiteral("applications")}),
+             QStringLiteral("Grafische Ausgabe\nGraphical Output\nGrafische Ausgabe"));
+}
+
+void tst_frame::languageForm()
+{
+    const QTemporaryDir folder;
+    const auto path = [&](const char* name) { return folder.filePath(QLatin1String(name)); };
+    QVERIFY(QDir().mkpath(path("a.b")) && QDir().mkpath(path("a_1.b")));
+    for (const char* name : {"two.dots_1.txt", "two_1.dots.txt", "a_1.b/bare"})
+        testsupport::writeFile(path(name), "x");
+    QCOMPARE(vkd_qt_getFileNameWithLang(path("two.dots.txt"), 1), path("two.dots_1.txt"));
+    QCOMPARE(vkd_qt_getFileNameWithLang(path("two.dots.txt"), 0), path("two.dots.txt"));
+    QCOMPARE(vkd_qt_getFileNameWithLang(path("a.b/bare"), 1), path("a.b/bare"));
+    QCOMPARE(vkd_qt_getFileNameWithLang(QString(), 1), QString());
+}
+
+void tst_frame::pictures_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow(":/neq_merpara_rich.png") << QSize(193, 111);
+    QTest::newRow(":/neq_merpara_rich_0.png") << QSize(193, 112);
+    QTest::newRow(":/neq_merpara_rich_1.png") << QSize(193, 112);
+    QTest::newRow(":/betondeckung.png") << QSize(240, 111);
+    QTest::newRow(":/betondeckung_0.png") << QSize(240, 112);
+    QTest::newRow(":/betondeckung_1.png") << QSize(240, 112);
+    QTest::newRow(":/neq_designline_zrt_bew_mod_allg.png") << QSize(299, 104);
+}
+
+void tst_frame::pictures()
+{
+    QTEST(QPixmap(QLatin1String(QTest::currentDataTag()), "PNG").size(), "size");
+}
+
+namespace {
+int selfCheckHost(QApplication& application)
+{
+    const QStringList arguments = application.arguments();
+    if (arguments[1].endsWith(QLatin1String("without-cache")))
+        QPixmapCache::setCacheLimit(0); // pixmaps of one file then differ: the check has to fail
+    vkd_lib_setvalue(LanguageKey, arguments[2].toInt());
+    const int result = vkd_unittests(arguments);
+    std::printf("result %d, language %d\n", result, vkd_lib_getvalue(LanguageKey));
+    return 0;
+}
+
+int applicationsHost(int argc, char* argv[])
+{
+    for (int language : {0, 1, 0}) {
+        vkd_lib_setvalue(LanguageKey, language);
+        const QApplication application(argc, argv);
+        std::puts(qPrintable(
+            QCoreApplication::translate("VKD_P_WidgetGraphicalOutput", "Graphical Output")));
+    }
+    return 0;
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QByteArray role = argc > 1 ? argv[1] : "";
+    if (role == "applications")
+        return applicationsHost(argc, argv);
+    QApplication application(argc, argv);
+    if (role.startsWith("selfcheck"))
+        return selfCheckHost(application);
+    tst_frame test;
+    return testsupport::run(&test, argc, argv);
+}
+
+#include "tst_frame.moc"

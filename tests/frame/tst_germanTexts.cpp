@@ -1,0 +1,98 @@
+#include "TestSupport.h"
+
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+
+#include <QLibrary>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+namespace {
+constexpr int LanguageKey = 102;
+const QString TextFile = QStringLiteral(PLIB "/resources/translations/vkd_p_dll_de.ts");
+
+struct Message
+{
+    QByteArray context, source, comment;
+    QString german;
+    bool finished;
+};
+
+QVector<Message> messages(const QString& file)
+{
+    QVector<Message> found;
+    QByteArray context;
+    const QByteArray bytes = testsupport::readFile(file);
+    QXmlStreamReader xml(bytes);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("name"))
+            context = xml.readElementText().toUtf8();
+        else if (xml.name() == QLatin1String("source"))
+            found << Message{context, xml.readElementText().toUtf8(), {}, {}, false};
+        else if (xml.name() == QLatin1String("comment"))
+            found.last().comment = xml.readElementText().toUtf8();
+        else if (xml.name() == QLatin1String("translation")) {
+            found.last().finished =
+                xml.attributes().value(QLatin1String("type")) != QLatin1String("unfinished");
+            found.last().german = xml.readElementText();
+        }
+    }
+    return found;
+}
+
+QString translated(const Message& message)
+{
+    const char* comment = message.comment.isEmpty() ? nullptr : message.comment.data();
+    return QCoreApplication::translate(message.context, message.source, comment);
+}
+} // namespace
+
+class tst_germanTexts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everySourceTextIsTranslated();
+    void libraryLoadedLate();
+};
+
+void tst_germanTexts::everySourceTextIsTranslated()
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("texts_de.ts"));
+    QVERIFY(QFile::copy(TextFile, copy));
+    QCOMPARE(QProcess::execute(QStringLiteral(LUPDATE),
+                               {QStringLiteral("-silent"), QStringLiteral(PLIB "/src"),
+                                QStringLiteral("-ts"), copy}),
+             0);
+    QByteArrayList missing;
+    for (const Message& message : messages(copy))
+        if (!message.finished || message.german.isEmpty())
+            missing << message.context + ": " + message.source;
+    QCOMPARE(missing.join('\n'), QByteArray());
+}
+
+void tst_germanTexts::libraryLoadedLate()
+{
+    const QVector<Message> all = messages(TextFile);
+    QVERIFY(!all.isEmpty());
+    QLibrary library(QStringLiteral(LIBRARY));
+    QVERIFY2(library.load(), qPrintable(library.errorString()));
+    for (const Message& message : all)
+        QCOMPARE(translated(message), message.german);
+    for (int language : {1, 0}) {
+        vkd_lib_setvalue(LanguageKey, language);
+        VKD_QT_InitTranslator::languageChanged();
+        const Message& last = all.last();
+        QCOMPARE(translated(last), language ? QString::fromUtf8(last.source) : last.german);
+    }
+    QVERIFY(library.unload());
+    VKD_QT_InitTranslator::languageChanged(); // must not reach into what is gone
+    QCOMPARE(translated(all.last()), QString::fromUtf8(all.last().source));
+}
+
+PLIB_TEST_MAIN(tst_germanTexts)
+#include "tst_germanTexts.moc"
