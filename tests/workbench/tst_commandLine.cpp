@@ -236,7 +236,7 @@ void TestCommandLine::designRows()
     run("rows rows.zob --set-row GURX;4 hio=0.05");
     run("rows rows.zob --set-row none type=3 dio=20");
     const QString again = run("rows rows.zob --language german").out;
-    QVERIFY(again.contains(QLatin1String("\n4;GURX\t")));
+    QVERIFY2(again.contains(QStringLiteral("\n4;GURX\tRingförmig\t")), qPrintable(again));
     QVERIFY(again.contains(QStringLiteral("0,0° ;0,0° / 50,0 mm ;35,0 mm ;")));
     QVERIFY(again.section(QLatin1Char('\n'), -2).contains(QStringLiteral("Ø20")));
 }

@@ -5,6 +5,7 @@
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -200,6 +201,7 @@ void applyLanguage(const CommandLine& commandLine)
     const bool english =
         commandLine.english("language", vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, english ? 1 : 0);
+    VKD_QT_InitTranslator::languageChanged();
 }
 
 } // namespace workbench

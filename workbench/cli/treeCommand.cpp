@@ -13,12 +13,9 @@ QString mark(const plib::OutputNode* node)
     if (node->plain) // has no check box
         return QString();
     switch (node->checkState(0)) {
-    case Qt::Checked:
-        return QStringLiteral("[x] ");
-    case Qt::PartiallyChecked:
-        return QStringLiteral("[-] ");
-    default:
-        return QStringLiteral("[ ] ");
+    case Qt::Checked: return QStringLiteral("[x] ");
+    case Qt::PartiallyChecked: return QStringLiteral("[-] ");
+    default: return QStringLiteral("[ ] ");
     }
 }
 
