@@ -30,17 +30,10 @@ static QByteArray mutated(QByteArray text, std::mt19937& random)
         const int at = testsupport::below(random, text.size());
         const int length = testsupport::below(random, 20);
         switch (testsupport::below(random, 4)) {
-        case 0:
-            text.remove(at, length);
-            break;
-        case 1:
-            text.insert(at, pieces[testsupport::below(random, int(std::size(pieces)))]);
-            break;
-        case 2:
-            text[at] = char(testsupport::below(random, 256));
-            break;
-        default:
-            text.insert(at, text.mid(testsupport::below(random, text.size()), 10 * length));
+        case 0: text.remove(at, length); break;
+        case 1: text.insert(at, pieces[testsupport::below(random, int(std::size(pieces)))]); break;
+        case 2: text[at] = char(testsupport::below(random, 256)); break;
+        default: text.insert(at, text.mid(testsupport::below(random, text.size()), 10 * length));
         }
     }
     return text;

@@ -136,53 +136,22 @@ void CatalogueParser::storePart(int column, const QString& part)
 {
     GraphicalOutputRecord& r = m_record;
     switch (column) {
-    case 0:
-        r.prog1 = part.toInt();
-        break;
-    case 1:
-        r.prog2 = part.toInt();
-        break;
-    case 2:
-        r.prog3 = part.toInt();
-        break;
-    case 3:
-        storeCaption(part, 1, &r.title1, &r.id1);
-        break;
-    case 4:
-        storeCaption(part, 2, &r.title2, &r.id2);
-        break;
-    case 5:
-        storeCaption(part, 3, &r.title3, &r.id3);
-        break;
-    case 6:
-        r.contentTag = part;
-        break;
-    case 7:
-        r.number7 = part.toInt();
-        break;
-    case 8:
-        storeCaseWord(part);
-        break;
-    case 9:
-        r.preselect = part.toInt();
-        break;
-    case 10:
-        r.viewKind = part.toInt();
-        break;
-    case 11:
-        r.text11 = part;
-        break;
-    case 12:
-        r.systemMask = part.toInt();
-        break;
-    case 13:
-        r.scriptGerman = part;
-        break;
-    case 14:
-        r.scriptEnglish = part;
-        break;
-    default:
-        break;
+    case 0: r.prog1 = part.toInt(); break;
+    case 1: r.prog2 = part.toInt(); break;
+    case 2: r.prog3 = part.toInt(); break;
+    case 3: storeCaption(part, 1, &r.title1, &r.id1); break;
+    case 4: storeCaption(part, 2, &r.title2, &r.id2); break;
+    case 5: storeCaption(part, 3, &r.title3, &r.id3); break;
+    case 6: r.contentTag = part; break;
+    case 7: r.number7 = part.toInt(); break;
+    case 8: storeCaseWord(part); break;
+    case 9: r.preselect = part.toInt(); break;
+    case 10: r.viewKind = part.toInt(); break;
+    case 11: r.text11 = part; break;
+    case 12: r.systemMask = part.toInt(); break;
+    case 13: r.scriptGerman = part; break;
+    case 14: r.scriptEnglish = part; break;
+    default: break;
     }
 }
 

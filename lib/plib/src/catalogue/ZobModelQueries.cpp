@@ -20,40 +20,23 @@ using Query = bool (*)(int, int*);
 Query queryOf(Content content)
 {
     switch (content) {
-    case Content::Nodes:
-        return vkd::dbo::hasNodes;
-    case Content::Quads:
-        return vkd::dbo::hasQuads;
-    case Content::Boundaries:
-        return vkd::dbo::hasBoundaries;
-    case Content::Beams:
-        return vkd::dbo::hasBeams;
-    case Content::DesignLines:
-        return hasDesignLines;
-    case Content::Trusses:
-        return vkd::dbo::hasTrus;
-    case Content::SectionCuts:
-        return vkd::dbo::hasBscts;
-    case Content::Points:
-        return vkd::dbo::hasPoints;
-    case Content::Lines:
-        return vkd::dbo::hasLines;
-    case Content::Areas:
-        return vkd::dbo::hasAreas;
-    case Content::Axes:
-        return vkd::dbo::hasAxes;
-    case Content::Cables:
-        return vkd::dbo::hasCables;
-    case Content::Springs:
-        return vkd::dbo::hasSprings;
-    case Content::Bricks:
-        return vkd::dbo::hasBrics;
-    case Content::QuadTendons:
-        return vkd::dbo::hasQuadTendons;
-    case Content::BeamTendons:
-        return vkd::dbo::hasBeamTendons;
-    case Content::CrossSections:
-        return vkd::dbo::hasCrossSections;
+    case Content::Nodes: return vkd::dbo::hasNodes;
+    case Content::Quads: return vkd::dbo::hasQuads;
+    case Content::Boundaries: return vkd::dbo::hasBoundaries;
+    case Content::Beams: return vkd::dbo::hasBeams;
+    case Content::DesignLines: return hasDesignLines;
+    case Content::Trusses: return vkd::dbo::hasTrus;
+    case Content::SectionCuts: return vkd::dbo::hasBscts;
+    case Content::Points: return vkd::dbo::hasPoints;
+    case Content::Lines: return vkd::dbo::hasLines;
+    case Content::Areas: return vkd::dbo::hasAreas;
+    case Content::Axes: return vkd::dbo::hasAxes;
+    case Content::Cables: return vkd::dbo::hasCables;
+    case Content::Springs: return vkd::dbo::hasSprings;
+    case Content::Bricks: return vkd::dbo::hasBrics;
+    case Content::QuadTendons: return vkd::dbo::hasQuadTendons;
+    case Content::BeamTendons: return vkd::dbo::hasBeamTendons;
+    case Content::CrossSections: return vkd::dbo::hasCrossSections;
     }
     Q_UNREACHABLE();
 }

@@ -42,16 +42,11 @@ int systemBit(int kind)
 {
     switch (kind / 10) { // rounds towards zero: -9 to 9 are one tens
     case 0:
-    case 2:
-        return 8;
-    case 1:
-        return ((kind - 10) & ~5) == 0 ? 1 : 2;
-    case 3:
-        return 4;
-    case 4:
-        return 0;
-    default:
-        return AnySystem;
+    case 2: return 8;
+    case 1: return ((kind - 10) & ~5) == 0 ? 1 : 2;
+    case 3: return 4;
+    case 4: return 0;
+    default: return AnySystem;
     }
 }
 

@@ -143,20 +143,14 @@ QString fontStatement(const OutputSettings& settings, bool english)
 QString viewClause(const OutputSettings& settings, bool english,
                    const ScriptEnvironment& environment)
 {
-    const QString type = TypeWord.in(english);
+    QString type = TypeWord.in(english);
     switch (settings.viewId) {
-    case 0:
-        return type + QLatin1String("EGXY ; PERS INFI");
-    case 1:
-        return type + QLatin1String("EGXZ ; PERS INFI");
-    case 2:
-        return type + QLatin1String("EGYZ ; PERS INFI");
-    case 3:
-        return type + QLatin1String("EG3");
-    case 4:
-        return type + QLatin1String("STAN ") + environment.camera();
-    default:
-        return type;
+    case 0: return type + QLatin1String("EGXY ; PERS INFI");
+    case 1: return type + QLatin1String("EGXZ ; PERS INFI");
+    case 2: return type + QLatin1String("EGYZ ; PERS INFI");
+    case 3: return type + QLatin1String("EG3");
+    case 4: return type + QLatin1String("STAN ") + environment.camera();
+    default: return type;
     }
 }
 
