@@ -306,7 +306,7 @@ void TestCommandLine::failures_data()
         "(No such file or directory)",
         "no/x.zob");
     row("rows slab.zob type=1", "--set-row is missing");
-    row("rows slab.zob --set-row 99 type=1", "the model has no group \"99\"");
+    row("rows slab.zob --set-row 99 type=1", "there is no group \"99\"");
     row("rows slab.zob --set-row 1 colour=1", "\"colour=1\" is no FIELD=VALUE of a design record");
     row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");
     row("rows slab.zob --set-row 1 hio=inf", "\"inf\" is no value for hio");

@@ -1,6 +1,7 @@
 #include "DesignRows.h"
 
 #include "CommandLine.h"
+#include "PlatformLog.h"
 
 #include <designEntries.h>
 #include <designFields.h>
@@ -13,12 +14,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <set>
 
 namespace workbench {
 
 namespace {
 constexpr int DesignPage = 1;
+// Holds nothing; readers and writers inside of a change release pairs of their own.
+constexpr int ChangeKey1 = 421;
+constexpr int ChangeKey2 = 0;
 
 void setInteger(std::int32_t& field, const QString& name, const QString& value)
 {
@@ -55,18 +60,21 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
         setReal(record.*field->real, name, value);
 }
 
-/// The groups of the model by what a user calls them.
-std::map<QString, int> knownGroups(int index)
-{
-    std::map<QString, int> known;
-    const vkd::dbo::Model model = vkd::dbo::readModel(index);
-    for (const auto& group : model.groups)
-        known[QString::number(group.number)] = group.number;
-    for (const auto& group : model.secondaryGroups)
-        known[group.name] = plib::packedGroupName(group.name);
-    return known;
-}
 } // namespace
+
+ProjectChange::ProjectChange(const VKD_H_ZOBDoc* document)
+    : m_index(document->index())
+{
+    if (vkd_zob_lock_ex(m_index, ChangeKey1, ChangeKey2) == VKD_ZOB_OK)
+        return;
+    vkd_zob_free_ex(m_index, ChangeKey1, ChangeKey2);
+    throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
+}
+
+ProjectChange::~ProjectChange()
+{
+    vkd_zob_free_ex(m_index, ChangeKey1, ChangeKey2);
+}
 
 DesignRows::DesignRows(VKD_H_ZOBDoc* document)
     : m_document(document)
@@ -94,19 +102,34 @@ QString DesignRows::text() const
     return all;
 }
 
+/// What a user can call a group: those of the rows as the rows show them, and those of the model.
+std::map<QString, int> DesignRows::knownGroups() const
+{
+    std::map<QString, int> known;
+    for (const plib::DesignParameterRow& row : m_data.rows)
+        for (int group : row.groups)
+            known.emplace(plib::groupText(group), group);
+    const vkd::dbo::Model model = vkd::dbo::readModel(m_document->index());
+    for (const auto& group : model.groups)
+        known.emplace(QString::number(group.number), group.number);
+    for (const auto& group : model.secondaryGroups)
+        known.emplace(group.name, plib::packedGroupName(group.name));
+    return known;
+}
+
 std::vector<int> DesignRows::parseGroups(const QString& text) const
 {
-    if (text == QLatin1String("none"))
+    const auto known = knownGroups();
+    if (text == QLatin1String("none") && !known.count(text))
         return {};
     if (text == QLatin1String("remaining"))
         return {-1};
-    const auto known = knownGroups(m_document->index());
     std::set<int> groups;
     const QStringList names = text.split(QLatin1Char(';'));
     for (const QString& name : names) {
         const auto found = known.find(name.trimmed());
         if (found == known.end())
-            throw CommandError{QStringLiteral("the model has no group \"%1\"").arg(name)};
+            throw CommandError{QStringLiteral("there is no group \"%1\"").arg(name)};
         groups.insert(found->second);
     }
     return {groups.begin(), groups.end()};
@@ -114,12 +137,10 @@ std::vector<int> DesignRows::parseGroups(const QString& text) const
 
 plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 {
-    for (plib::DesignParameterRow& row : m_data.rows) {
-        std::vector<int> sorted = row.groups;
-        std::sort(sorted.begin(), sorted.end());
-        if (sorted == groups)
+    for (plib::DesignParameterRow& row : m_data.rows)
+        if (std::set<int>(row.groups.begin(), row.groups.end()) ==
+            std::set<int>(groups.begin(), groups.end()))
             return row;
-    }
     takeFromOthers(groups);
     plib::DesignParameterRow& row = plib::addDefaultRow(m_data);
     row.groups = groups;

@@ -7,16 +7,33 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
+
 class VKD_H_ZOBDoc;
 
 namespace workbench {
+
+/// A change of a project of which all that is read and written counts or nothing does: other
+/// programs wait until the object is gone. Throws a CommandError if the project cannot be taken;
+/// whether the change is stored is known when the document is closed.
+class ProjectChange
+{
+public:
+    explicit ProjectChange(const VKD_H_ZOBDoc* document);
+    ~ProjectChange();
+    ProjectChange(const ProjectChange&) = delete;
+    ProjectChange& operator=(const ProjectChange&) = delete;
+
+private:
+    int m_index;
+};
 
 /// The design parameters of a project as the rows of the design page, without the page: read,
 /// changed and written in the same order of calls.
 class DesignRows
 {
 public:
-    /// Reads the rows; a project without any gets the default row. The document is not owned.
+    /// Reads the rows. The document is not owned.
     explicit DesignRows(VKD_H_ZOBDoc* document);
 
     /// A line for each row: groups, type and the three summaries with tabs between them.
@@ -28,10 +45,11 @@ public:
     /// no value. Throws a CommandError for a name or a value that does not fit.
     void setRow(const QString& groups, const QStringList& fields);
 
-    /// Stores the rows. Whether all of it is in the file is known when the document is closed.
+    /// Puts the rows into the project; to be called within a ProjectChange that saw them read.
     void write();
 
 private:
+    std::map<QString, int> knownGroups() const;
     std::vector<int> parseGroups(const QString& text) const;
     plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
     void takeFromOthers(const std::vector<int>& groups);

@@ -30,6 +30,7 @@ QString modelPath(const QString& nameOrFile)
 
 void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs)
 {
+    const ProjectChange change(document);
     plib::checkAndCreateZobDefault(document->index());
     DesignRows rows(document);
     for (const vkd::dbo::DesignValues& design : designs) {

@@ -5,6 +5,7 @@
 #include "PlatformLog.h"
 
 #include <designFields.h>
+#include <designStore.h>
 #include <VKD_H_ZOBDoc.h>
 
 namespace workbench {
@@ -43,6 +44,8 @@ int rowsCommand(const QStringList& arguments)
         throw CommandError{QStringLiteral("--set-row is missing")};
     const auto document = openProject(line.argument(0));
     if (line.has("set-row")) {
+        const ProjectChange change(document.get());
+        plib::checkAndCreateZobDefault(document->index());
         DesignRows rows(document.get());
         rows.setRow(line.value("set-row"), fields);
         rows.write();
