@@ -116,8 +116,17 @@ private Q_SLOTS:
             "axes[0].points[1]: 3 values are needed");
         row("\"secondaryGroups\": [{\"name\": \"A\", \"title\": \"t\", \"quads\": [8]}]",
             "secondaryGroups[0].quads[0]: element 8 does not exist");
-        row("\"secondaryGroups\": [{\"name\": \"ABCDE\", \"title\": \"t\"}]",
-            "secondaryGroups[0].name: a name of one to four characters is needed");
+        for (const char* name : {"ABCDE", "", "12", "A;B", "\xC3\x84"})
+            row(("\"secondaryGroups\": [{\"name\": \"" + QByteArray(name) +
+                 "\", \"title\": \"t\"}]")
+                    .constData(),
+                "secondaryGroups[0].name: a name of one to four letters and digits of ASCII, not "
+                "of "
+                "digits alone, is needed");
+        row("\"designParameters\": [{\"groups\": [\"1\", \"1\"], \"values\": {}}]",
+            "designParameters[0].groups[1]: group 1 does not exist or stands here twice");
+        row("\"designParameters\": [{\"groups\": [\"1\"], \"values\": {\"hio\": \"x\"}}]",
+            "designParameters[0].values.hio: a number is needed");
         row("\"loadCases\": [{\"number\": 1, \"title\": \"t\", \"kind\": 3}]",
             "loadCases[0].kind: a kind of 1 or 2 is needed");
     }

@@ -40,7 +40,8 @@ struct Group
     QString title;
 };
 
-/// A named set of elements across the primary groups; the name has one to four characters.
+/// A named set of elements across the primary groups; the name has one to four letters
+/// and digits of ASCII and is no number.
 struct SecondaryGroup
 {
     QString name;

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -69,6 +70,13 @@ int fixedDirections(const JsonPlace& place)
         fixed |= 1 << bit;
     }
     return fixed;
+}
+
+/// A name is packed into the four bytes of a group number, and users write it beside numbers.
+bool isGroupName(const QString& name)
+{
+    static const QRegularExpression form(QStringLiteral("^(?=.*[A-Za-z])[A-Za-z0-9]{1,4}$"));
+    return form.match(name).hasMatch();
 }
 
 Model ModelFileReader::read()
@@ -238,10 +246,10 @@ void ModelFileReader::readSecondaryGroups()
                              {QStringLiteral("quads"), QStringLiteral("beams")});
              const JsonPlace name = place.at(QStringLiteral("name"));
              group.name = name.string();
-             // Four bytes of Latin-1, because the name is packed into a group number.
-             if (group.name.isEmpty() || group.name.size() > 4 ||
-                 QString::fromLatin1(group.name.toLatin1()) != group.name)
-                 name.fail(QStringLiteral("a name of one to four characters is needed"));
+             if (!isGroupName(group.name))
+                 name.fail(
+                     QStringLiteral("a name of one to four letters and digits of ASCII, not of "
+                                    "digits alone, is needed"));
              if (used.contains(group.name))
                  name.fail(QStringLiteral("\"%1\" stands here twice").arg(group.name));
              used.insert(group.name);
