@@ -73,15 +73,17 @@ void tst_frame::applicationsInTurn()
 
 void tst_frame::languageForm()
 {
+    const auto form = [](const char* name) {
+        return vkd_qt_getFileNameWithLang(QLatin1String(name), 1);
+    };
+    QCOMPARE(form(":/betondeckung.png"), QStringLiteral(":/betondeckung_1.png"));
+    QCOMPARE(form(":/no.such.png"), QStringLiteral(":/no.such.png"));
+    QCOMPARE(form(""), QString());
+    // Only what the resources hold counts, not what happens to lie on the disk.
     const QTemporaryDir folder;
-    const auto path = [&](const char* name) { return folder.filePath(QLatin1String(name)); };
-    QVERIFY(QDir().mkpath(path("a.b")) && QDir().mkpath(path("a_1.b")));
-    for (const char* name : {"two.dots_1.txt", "two_1.dots.txt", "a_1.b/bare"})
-        testsupport::writeFile(path(name), "x");
-    QCOMPARE(vkd_qt_getFileNameWithLang(path("two.dots.txt"), 1), path("two.dots_1.txt"));
-    QCOMPARE(vkd_qt_getFileNameWithLang(path("two.dots.txt"), 0), path("two.dots.txt"));
-    QCOMPARE(vkd_qt_getFileNameWithLang(path("a.b/bare"), 1), path("a.b/bare"));
-    QCOMPARE(vkd_qt_getFileNameWithLang(QString(), 1), QString());
+    const QString onDisk = folder.filePath(QStringLiteral("a.png"));
+    testsupport::writeFile(folder.filePath(QStringLiteral("a_1.png")), "x");
+    QCOMPARE(vkd_qt_getFileNameWithLang(onDisk, 1), onDisk);
 }
 
 void tst_frame::pictures_data()

@@ -6,6 +6,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 constexpr int BarKey1 = 15; // the project's own bars, one little-endian float each
@@ -26,7 +27,8 @@ bool VKD_A_BarDiameterData::load(int index)
         int length = sizeof bytes;
         status = vkd_zob_get(index, BarKey1, BarKey2, &bytes, &length, position);
         const float diameter = qFromLittleEndian<float>(&bytes);
-        if (status == VKD_ZOB_OK && length == int(sizeof bytes) && diameter > 0)
+        if (status == VKD_ZOB_OK && length == int(sizeof bytes) && diameter > 0 &&
+            std::isfinite(diameter))
             m_diameters.append(diameter);
     }
     vkd_zob_free_ex(index, BarKey1, BarKey2);

@@ -20,11 +20,14 @@ public:
     void setEntry(const QString& key, const QString& value);
     void deleteEntry(const QString& key);
 
-    /// Stores all entries in the project, or none: false, with a log line, if the store refuses.
+    /// Puts all entries into the project in place of those there. False, with a log line, if the
+    /// store refuses or the entries could not be read before. As with all that is put into a taken
+    /// pair, whether it is stored is known when the project is closed.
     bool save() const;
 
 private:
     int m_index;
     int m_page;
     QMap<QString, QString> m_entries;
+    bool m_isRead = true;
 };

@@ -39,6 +39,7 @@ VKD_H_ProjectDialogPage::VKD_H_ProjectDialogPage(int index, int page)
         const QByteArray value = readRecord(index, page, position + 1, &status);
         m_entries.insert(QString::fromUtf8(key), QString::fromUtf8(value));
     }
+    m_isRead = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
     vkd_zob_free_ex(index, EntriesKey, page);
 }
 
@@ -59,6 +60,8 @@ void VKD_H_ProjectDialogPage::deleteEntry(const QString& key)
 
 bool VKD_H_ProjectDialogPage::save() const
 {
+    if (!m_isRead)
+        return false;
     const int none = 0;
     bool done = vkd_zob_lock_ex(m_index, EntriesKey, m_page) == VKD_ZOB_OK &&
                 vkd_zob_put(m_index, EntriesKey, m_page, nullptr, &none, 0) == VKD_ZOB_OK;

@@ -5,5 +5,5 @@
 #include <QString>
 
 /// The form of a picture for a language, 0 German or 1 English: the name with "_0" or "_1" before
-/// its extension, if there is such a file, or else the name itself.
+/// its extension, if the resources hold such a file, or else the name itself.
 VKD_QT_EXPORT QString vkd_qt_getFileNameWithLang(const QString& name, int language);

@@ -43,7 +43,8 @@ VKD_QT_InitTranslator::~VKD_QT_InitTranslator()
 
 void VKD_QT_InitTranslator::languageChanged()
 {
-    for (VKD_QT_InitTranslator* object : qAsConst(livingObjects()))
+    const QVector<VKD_QT_InitTranslator*> objects = livingObjects(); // a widget may load a module
+    for (VKD_QT_InitTranslator* object : objects)
         object->install();
 }
 

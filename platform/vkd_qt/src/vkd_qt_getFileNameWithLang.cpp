@@ -9,5 +9,5 @@ QString vkd_qt_getFileNameWithLang(const QString& name, int language)
         return name;
     QString form = name;
     form.insert(dot, QLatin1Char('_') + QString::number(language));
-    return QFile::exists(form) ? form : name;
+    return name.startsWith(QLatin1Char(':')) && QFile::exists(form) ? form : name;
 }
