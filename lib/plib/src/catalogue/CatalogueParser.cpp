@@ -186,6 +186,8 @@ void CatalogueParser::storeCaseWord(const QString& part)
 void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list)
 {
     vkd_lib_opentext("grav");
+    constexpr int ShortLine = 128; // bytes; longer lines leave some room unused
+    list.reserve(list.size() + size_t(device.bytesAvailable() / ShortLine));
     CatalogueParser parser;
     char line[CatalogueParser::LineBuffer];
     for (qint64 length; (length = device.readLine(line, sizeof line)) > 0;)

@@ -150,6 +150,9 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     for (DesignParameterRow& row : data.rows)
         if (!isRemainingGroups(row.groups))
             writeRow(index, row);
+    // The first of the records put aside is looked at and not used: none of them comes back.
+    tagZOB_QUAD_RIM unused{};
+    RecordPass(ScratchIndex, ScratchKey1, ScratchKey2).next(unused);
     vkd_zob_free_ex(index, Key1, Key2);
 }
 

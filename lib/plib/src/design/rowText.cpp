@@ -132,7 +132,7 @@ QString valueText(const DesignParameterRow& row, float value, int code, const QS
     if (value == NotSet)
         return QStringLiteral(" - ");
     if (code == BarCode)
-        return row.barData->getString(value);
+        return (row.barData ? *row.barData : VKD_A_BarDiameterData()).getString(value);
     return vkd_h_getDimStringFromVal(double(value), code, -1) + unit;
 }
 

@@ -28,8 +28,8 @@ QString valueText(const DesignParameterRow& row, float value, int code, const QS
 /// A group number as text; from 1000000 the name that is packed into it.
 QString groupText(int group);
 
-/// The number for a name of one to four characters of Latin-1, padded with blanks, which makes
-/// every name come out above 1000000.
+/// The number for a name of one to four characters of ASCII, padded with blanks; it is above
+/// 1000000 for every such name.
 int packedGroupName(const QString& name);
 
 } // namespace plib
