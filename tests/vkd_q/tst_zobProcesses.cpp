@@ -90,7 +90,7 @@ private Q_SLOTS:
         makeProject(m_path, {"0"});
         const int index = openProject(m_path);
         QProcess child;
-        QVERIFY(start(child, {250, 1, 1, 1}));
+        QVERIFY(start(child, {1000, 1, 1, 1}));
         QElapsedTimer waited;
         waited.start();
         QCOMPARE(vkd_zob_lock_ex(index, 1, 1), VKD_ZOB_OK);
