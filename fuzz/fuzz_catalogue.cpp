@@ -12,7 +12,7 @@
 /// Throws damaged catalogues, rows and selection texts at everything that reads them. What comes
 /// out is checked for what holds whatever goes in; crashes and hangs are the sanitizers' and
 /// ctest's.
-class TestRandomInput : public QObject
+class FuzzCatalogue : public QObject
 {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ static QByteArray mutated(QByteArray text, std::mt19937& random)
     return text;
 }
 
-void TestRandomInput::damagedTexts()
+void FuzzCatalogue::damagedTexts()
 {
     std::mt19937 random(1);
     QFile file(QFile::decodeName(vkd_lib_searchpath("graphicaloutput.data", 3).value().c_str()));
@@ -77,5 +77,5 @@ void TestRandomInput::damagedTexts()
     QVERIFY(scripts > 10000); // else the mutations left nothing to test
 }
 
-PLIB_TEST_MAIN(TestRandomInput)
-#include "tst_randomInput.moc"
+PLIB_TEST_MAIN(FuzzCatalogue)
+#include "fuzz_catalogue.moc"
