@@ -1,6 +1,5 @@
 #include "TestSupport.h"
 
-#include <VKD_H_PluginParameter.h>
 #include <vkd_h_program.h>
 #include <VKD_H_ZOBDoc.h>
 
@@ -34,18 +33,6 @@ private Q_SLOTS:
         QCOMPARE(vkd_zob_put(first, 1, 1, "x", &length, 1), int(VKD_ZOB_NOT_OPEN));
     }
 
-    void failures()
-    {
-        const QString path = m_folder.filePath(QStringLiteral("text"));
-        testsupport::writeFile(path, "no project");
-        cd_error_t status = -1;
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no project file")));
-        QVERIFY(!VKD_H_ZOBDoc::open(path, &status));
-        QCOMPARE(status, int(VKD_ZOB_NO_PROJECT));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot create ")));
-        QVERIFY(!VKD_H_ZOBDoc::create(path)); // and asks for no status
-    }
-
     void block_data()
     {
         QTest::addColumn<int>("language");
@@ -65,16 +52,6 @@ private Q_SLOTS:
                                QStringLiteral("Bild %2"), language, 0);
         QTEST(begin, "begin");
         QTEST(vkd_h_generateENDE(language), "end");
-    }
-
-    void pluginParameter()
-    {
-        const auto model = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("model")));
-        const auto sections = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("sections")));
-        QVERIFY(!VKD_H_PluginParameter(model.get()).sectionDoc());
-        const VKD_H_PluginParameter both(model.get(), sections.get());
-        QCOMPARE(both.modelDoc(), model.get());
-        QCOMPARE(both.sectionDoc(), sections.get());
     }
 
 private:

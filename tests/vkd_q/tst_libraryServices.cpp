@@ -2,13 +2,10 @@
 
 #include <vkd_lib_searchpath.h>
 #include <vkd_lib_text.h>
-#include <vkd_lib_value.h>
 
 #include <QTemporaryDir>
 
-#include <climits>
-
-/// The settings, the search path and the texts.
+/// The search path and the texts.
 class TestLibraryServices : public QObject
 {
     Q_OBJECT
@@ -20,16 +17,6 @@ private Q_SLOTS:
         m_folder = std::make_unique<QTemporaryDir>();
         for (const char* folder : {"one/sub", "two/texts"})
             QDir(m_folder->path()).mkpath(QString::fromLatin1(folder));
-    }
-
-    void settings()
-    {
-        QCOMPARE(vkd_lib_getvalue(102), 0);
-        vkd_lib_setvalue(102, 1);
-        vkd_lib_setvalue(-7, INT_MIN);
-        QCOMPARE(vkd_lib_getvalue(102), 1);
-        QCOMPARE(vkd_lib_getvalue(-7), INT_MIN);
-        QCOMPARE(vkd_lib_getvalue(108), 0);
     }
 
     void searchPath_data()

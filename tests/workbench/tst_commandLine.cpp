@@ -246,6 +246,14 @@ void TestCommandLine::lookingChangesNothing()
     const QByteArray before = testsupport::readFile(path("hall.zob"));
     for (const char* command : {"rows hall.zob", "script hall.zob", "tree hall.zob"})
         QCOMPARE(run(command).exitCode, 0);
+    const auto writable = QFile::permissions(path("hall.zob"));
+    QFile::setPermissions(path("hall.zob"), QFile::ReadOwner);
+    const Result refused = run("rows hall.zob --set-row 9 type=2");
+    QFile::setPermissions(path("hall.zob"), writable);
+    QCOMPARE(refused.exitCode, 1);
+    QCOMPARE(refused.error,
+             QStringLiteral("plib_workbench: cannot take the lock of hall.zob: the file "
+                            "or its folder is write-protected\n"));
     QVERIFY(testsupport::readFile(path("hall.zob")) == before);
 }
 
@@ -273,6 +281,10 @@ void TestCommandLine::failures_data()
     testsupport::writeFile(path("key.json"),
                            "{\"title\": \"x\", \"kindOfSystem\": 0, \"nodes\": [[1,0,0,0]],"
                            " \"groups\": [], \"supports\": [[2, \"z\"]]}");
+    testsupport::writeFile(path("field.json"),
+                           "{\"title\": \"x\", \"kindOfSystem\": 0, \"nodes\": [],"
+                           " \"groups\": [{\"number\": 7, \"title\": \"g\"}], \"designParameters\":"
+                           " [{\"groups\": [\"7\"], \"values\": {\"hiox\": 1}}]}");
     testsupport::writeFile(path("badcases.txt"), "1 2 ok\n3 x y\n");
     const auto row = [](const char* arguments, const char* message, const char* untouched = "") {
         QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(message)
@@ -301,6 +313,9 @@ void TestCommandLine::failures_data()
     row("new x.zob --model none", "there is no model \"none\"", "x.zob");
     row("new x.zob --model bad.json", "bad.json: line 3, column 3: unterminated object", "x.zob");
     row("new x.zob --model key.json", "key.json: supports[0][0]: node 2 does not exist", "x.zob");
+    row("new x.zob --model field.json",
+        "field.json: designParameters of group 7: \"hiox=1\" is no FIELD=VALUE of a design record",
+        "x.zob");
     row("new no/x.zob --model slab",
         "cannot create no/x.zob: cannot create no/x.zob: the file is not there or cannot be opened "
         "(No such file or directory)",
@@ -344,6 +359,13 @@ void TestCommandLine::help_data()
 
 void TestCommandLine::help()
 {
+    QProcess full;
+    full.setStandardOutputFile(QStringLiteral("/dev/full"));
+    full.start(QStringLiteral(WORKBENCH), {QStringLiteral("new"), QStringLiteral("--help")});
+    QVERIFY(full.waitForFinished());
+    QCOMPARE(full.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(full.exitCode(), 1);
+
     QFETCH(QString, arguments);
     QFETCH(QString, begins);
     const Result result = run(arguments.split(QLatin1Char(' ')));

@@ -27,7 +27,7 @@ constexpr Command Commands[] = {
     {"new", newCommand, "make a project file from a model"},
     {"script", scriptCommand, "print the script of a project's plots"},
     {"catalogue", catalogueCommand, "print and check a catalogue of plots"},
-    {"rows", rowsCommand, "print and change how a project\'s area elements are designed"},
+    {"rows", rowsCommand, "print and change how a project's area elements are designed"},
     {"tree", treeCommand, "print the plots that a project offers, with their check marks"},
 };
 
@@ -39,6 +39,16 @@ QString usage()
                     .arg(QLatin1String(command.name), -12)
                     .arg(QLatin1String(command.summary));
     return text + QStringLiteral("\nplib_workbench COMMAND --help tells more about a command.\n");
+}
+
+int runOrHelp(const Command& command, const QStringList& arguments)
+{
+    try {
+        return command.run(arguments);
+    } catch (const HelpWanted& help) {
+        print(help.text);
+        return 0;
+    }
 }
 
 int runCommand(const QStringList& arguments)
@@ -55,13 +65,11 @@ int runCommand(const QStringList& arguments)
     }
     for (const Command& command : Commands)
         if (name == QLatin1String(command.name))
-            return command.run(arguments.mid(1));
+            return runOrHelp(command, arguments.mid(1));
     throw CommandError{
         QStringLiteral("unknown command \"%1\"; --help lists the commands").arg(name)};
 }
-} // namespace
 
-namespace {
 /// A line on standard error, whatever a file name or a message may hold.
 void complain(const QString& text)
 {
@@ -77,9 +85,6 @@ int run(const QStringList& arguments)
         for (const QString& warning : warnings)
             complain(QLatin1String("warning: ") + warning);
         return exitCode;
-    } catch (const HelpWanted& help) {
-        print(help.text);
-        return 0;
     } catch (const CommandError& error) {
         complain(error.text);
         return 1;

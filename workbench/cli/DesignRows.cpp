@@ -102,6 +102,18 @@ QString DesignRows::text() const
     return all;
 }
 
+const std::map<QString, int>& DesignRows::modelGroups() const
+{
+    if (!m_modelGroups.empty())
+        return m_modelGroups;
+    const vkd::dbo::Model model = vkd::dbo::readModel(m_document->index());
+    for (const auto& group : model.groups)
+        m_modelGroups.emplace(QString::number(group.number), group.number);
+    for (const auto& group : model.secondaryGroups)
+        m_modelGroups.emplace(group.name, plib::packedGroupName(group.name));
+    return m_modelGroups;
+}
+
 /// What a user can call a group: those of the rows as the rows show them, and those of the model.
 std::map<QString, int> DesignRows::knownGroups() const
 {
@@ -109,11 +121,7 @@ std::map<QString, int> DesignRows::knownGroups() const
     for (const plib::DesignParameterRow& row : m_data.rows)
         for (int group : row.groups)
             known.emplace(plib::groupText(group), group);
-    const vkd::dbo::Model model = vkd::dbo::readModel(m_document->index());
-    for (const auto& group : model.groups)
-        known.emplace(QString::number(group.number), group.number);
-    for (const auto& group : model.secondaryGroups)
-        known.emplace(group.name, plib::packedGroupName(group.name));
+    known.insert(modelGroups().begin(), modelGroups().end());
     return known;
 }
 
@@ -137,9 +145,11 @@ std::vector<int> DesignRows::parseGroups(const QString& text) const
 
 plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 {
+    // A list of the file can name a group twice, but not fewer groups than the set has.
     for (plib::DesignParameterRow& row : m_data.rows)
-        if (std::set<int>(row.groups.begin(), row.groups.end()) ==
-            std::set<int>(groups.begin(), groups.end()))
+        if (row.groups.size() >= groups.size() &&
+            std::set<int>(row.groups.begin(), row.groups.end()) ==
+                std::set<int>(groups.begin(), groups.end()))
             return row;
     takeFromOthers(groups);
     plib::DesignParameterRow& row = plib::addDefaultRow(m_data);

@@ -49,6 +49,7 @@ public:
     void write();
 
 private:
+    const std::map<QString, int>& modelGroups() const;
     std::map<QString, int> knownGroups() const;
     std::vector<int> parseGroups(const QString& text) const;
     plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
@@ -58,6 +59,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
+    mutable std::map<QString, int> m_modelGroups; // by name; read when first asked for
     bool m_converted = false;
 };
 

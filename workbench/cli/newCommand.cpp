@@ -28,7 +28,8 @@ QString modelPath(const QString& nameOrFile)
     return QFile::decodeName(found->c_str());
 }
 
-void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs)
+void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs,
+                 const QString& modelFile)
 {
     const ProjectChange change(document);
     plib::checkAndCreateZobDefault(document->index());
@@ -37,7 +38,13 @@ void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& 
         QStringList fields;
         for (auto value = design.values.begin(); value != design.values.end(); ++value)
             fields << value.key() + QLatin1Char('=') + QString::number(value.value(), 'g', 9);
-        rows.setRow(design.groups.join(QLatin1Char(';')), fields);
+        try {
+            rows.setRow(design.groups.join(QLatin1Char(';')), fields);
+        } catch (const CommandError& error) {
+            throw CommandError{
+                QStringLiteral("%1: designParameters of group %2: %3")
+                    .arg(modelFile, design.groups.join(QLatin1Char(';')), error.text)};
+        }
     }
     rows.write();
 }
@@ -59,7 +66,7 @@ private:
 };
 
 /// Stores the model in a file of another name, which gets its own name once it is whole.
-void writeProject(const QString& path, const vkd::dbo::Model& model)
+void writeProject(const QString& path, const vkd::dbo::Model& model, const QString& modelFile)
 {
     const QString name =
         path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
@@ -69,7 +76,7 @@ void writeProject(const QString& path, const vkd::dbo::Model& model)
         const UnfinishedFile unfinished(name);
         done = vkd::dbo::storeModel(document->index(), model);
         if (done)
-            storeDesign(document.get(), model.designParameters);
+            storeDesign(document.get(), model.designParameters, modelFile);
         done = document->close() == VKD_ZOB_OK && done && QFile::rename(name, path);
     }
     if (!done)
@@ -104,10 +111,10 @@ int newCommand(const QStringList& arguments)
         throw CommandError{QStringLiteral("%1 exists already").arg(path)};
     vkd::dbo::Model model;
     QString error;
-    if (!vkd::dbo::readModelFile(modelPath(line.value("model")),
-                                 vkd_lib_getvalue(VKD_SETTING_LANGUAGE), &model, &error))
+    const QString modelFile = modelPath(line.value("model"));
+    if (!vkd::dbo::readModelFile(modelFile, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), &model, &error))
         throw CommandError{error};
-    writeProject(path, model);
+    writeProject(path, model, modelFile);
     print(summary(path, model));
     return 0;
 }

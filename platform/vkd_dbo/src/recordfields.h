@@ -82,13 +82,14 @@ private:
     QDataStream m_stream;
 };
 
-/// The fields of each sort of record in their order; `Archive` is one of the two classes above.
 template <typename Archive, typename Numbers>
 void numbers(Archive& archive, Numbers& values)
 {
     for (auto& value : values)
         archive(value);
 }
+
+// The fields of each sort of record in their order; `Archive` is one of the two classes above.
 
 template <typename Archive>
 void fields(Archive& archive, Node& node)
