@@ -11,7 +11,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core LinguistTools Widgets)
 
 find_program(PLIB_CCACHE ccache)
 if(PLIB_CCACHE)
@@ -52,4 +52,16 @@ function(vkd_add_platform_library name)
                                               ${CMAKE_CURRENT_BINARY_DIR})
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
     install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endfunction()
+
+# Compiles translations/<target>_de.ts into the target and makes the translator object that installs
+# it when the target is loaded.
+function(vkd_add_translations target)
+    qt5_add_translation(compiled translations/${target}_de.ts OPTIONS -silent)
+    set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}_translations.qrc)
+    file(CONFIGURE OUTPUT ${list} CONTENT
+        "<RCC><qresource prefix=\"/translations\"><file>${target}_de.qm</file></qresource></RCC>\n")
+    qt5_add_resources(resources ${list})
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in translator.cpp @ONLY)
+    target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/translator.cpp ${resources})
 endfunction()

@@ -11,8 +11,9 @@ class QTranslator;
 /// application that runs meanwhile. Made for a global object in the module's library: it may be
 /// built before there is an application and destroyed after it. The language is that of setting 102
 /// when the application starts. English is what the source texts are written in and needs no file;
-/// German is looked for in the resource ":/translations/<module>_de.qm", and without it the source
-/// texts stay. For the GUI thread only.
+/// German is looked for in the resource ":/translations/<module>_de.qm", then in a file of that
+/// name in Qt's folder of translations, and without either the source texts stay. For the GUI
+/// thread only.
 class VKD_QT_EXPORT VKD_QT_InitTranslator
 {
 public:

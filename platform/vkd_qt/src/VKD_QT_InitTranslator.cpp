@@ -3,6 +3,7 @@
 #include <vkd_lib_value.h>
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
 #include <QVector>
 
@@ -55,7 +56,8 @@ void VKD_QT_InitTranslator::install()
     if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != German)
         return;
     m_translator.reset(new QTranslator);
-    const QString file = QLatin1String(":/translations/") + QLatin1String(m_module);
-    if (m_translator->load(file + QLatin1String("_de.qm")))
+    const QString file = QLatin1String(m_module) + QLatin1String("_de.qm");
+    if (m_translator->load(QLatin1String(":/translations/") + file) ||
+        m_translator->load(file, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(m_translator.data());
 }

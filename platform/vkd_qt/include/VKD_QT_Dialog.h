@@ -1,0 +1,32 @@
+#pragma once
+
+#include "vkd_qt_export.h"
+
+#include <QDialog>
+
+/// The base of the suite's dialogs. A page in such a dialog may ask for a detour: the dialog closes
+/// with a result of the page's choice, its host lets the user do something else, and shows the same
+/// dialog again. The dialog then tells its pages by isReOpen().
+class VKD_QT_EXPORT VKD_QT_Dialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit VKD_QT_Dialog(QWidget* parent = nullptr, const char* name = nullptr,
+                           Qt::WindowFlags flags = {});
+
+    /// Closes the dialog for a detour; exec() returns `result`.
+    virtual void callDone(int result);
+
+Q_SIGNALS:
+    /// The dialog is shown again after callDone() with this result. Not sent for a dialog that was
+    /// closed in any other way in between.
+    void isReOpen(int result);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    bool m_isAway = false;
+    int m_detour = 0;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "vkd_qt_export.h"
+
+#include <QWidget>
+
+class QLabel;
+
+/// A note to the user: a text that breaks its lines to the width it gets, with the information sign
+/// in front if `withSign` is set.
+class VKD_QT_EXPORT VKD_QT_InfoText : public QWidget
+{
+    Q_OBJECT
+
+public:
+    VKD_QT_InfoText(bool withSign, const QString& text, QWidget* parent = nullptr,
+                    const char* name = nullptr);
+
+    QString text() const;
+
+private:
+    QLabel* m_text;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "vkd_qt_export.h"
+
+#include <QTableWidget>
+
+#include <set>
+
+/// QTableWidget with questions about its selection by row. A row is selected if one of its cells
+/// is.
+class VKD_QT_EXPORT VKD_QT_TableWidget : public QTableWidget
+{
+    Q_OBJECT
+
+public:
+    VKD_QT_TableWidget(int rows, int columns, QWidget* parent = nullptr,
+                       const char* name = nullptr);
+
+    bool isRowSelected(int row) const;
+    std::set<int> getSelectetRows() const;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "vkd_qt_export.h"
+
+#include <QPersistentModelIndex>
+#include <QPushButton>
+
+class QTableWidgetItem;
+
+/// A button to be laid over a cell of a table: it shows the cell's text, always the present one,
+/// with a mark that it opens something. Too long a text is cut with dots and shown whole in a tool
+/// tip.
+class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    enum ButtonModus {
+        MarkBeside = 0,      ///< the mark stands to the right of the text
+        MarkOnly = 1,        ///< no text
+        MarkInTheCorner = 2, ///< the text has the whole width, for narrow columns
+    };
+
+    /// `table` becomes the parent; `item` is one of its items and not owned.
+    VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetItem* item, ButtonModus modus);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    QString itemText() const;
+
+    QPersistentModelIndex m_index;
+    ButtonModus m_modus;
+};

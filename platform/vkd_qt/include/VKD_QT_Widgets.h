@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+/// Qt's plain widgets with an object name as the framework's constructors take it.
+
+class VKD_QT_PushButton : public QPushButton
+{
+public:
+    VKD_QT_PushButton(const QString& text, QWidget* parent, const char* name)
+        : QPushButton(text, parent)
+    {
+        setObjectName(QLatin1String(name));
+    }
+    VKD_QT_PushButton(QWidget* parent, const char* name)
+        : VKD_QT_PushButton(QString(), parent, name)
+    {
+    }
+};
+
+class VKD_QT_CheckBox : public QCheckBox
+{
+public:
+    VKD_QT_CheckBox(const QString& text, QWidget* parent, const char* name)
+        : QCheckBox(text, parent)
+    {
+        setObjectName(QLatin1String(name));
+    }
+};
+
+class VKD_QT_GroupBox : public QGroupBox
+{
+public:
+    VKD_QT_GroupBox(const QString& title, QWidget* parent, const char* name)
+        : QGroupBox(title, parent)
+    {
+        setObjectName(QLatin1String(name));
+    }
+};
+
+class VKD_QT_Label : public QLabel
+{
+public:
+    explicit VKD_QT_Label(QWidget* parent, const char* name = nullptr, Qt::WindowFlags flags = {})
+        : QLabel(parent, flags)
+    {
+        setObjectName(QLatin1String(name));
+    }
+    VKD_QT_Label(const QString& text, QWidget* parent, const char* name = nullptr,
+                 Qt::WindowFlags flags = {})
+        : VKD_QT_Label(parent, name, flags)
+    {
+        setText(text);
+    }
+};

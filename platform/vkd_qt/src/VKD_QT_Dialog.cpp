@@ -1,0 +1,26 @@
+#include "VKD_QT_Dialog.h"
+
+#include <QShowEvent>
+
+VKD_QT_Dialog::VKD_QT_Dialog(QWidget* parent, const char* name, Qt::WindowFlags flags)
+    : QDialog(parent, flags | Qt::WindowCloseButtonHint)
+{
+    setObjectName(QLatin1String(name));
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+void VKD_QT_Dialog::callDone(int result)
+{
+    m_isAway = true;
+    m_detour = result;
+    done(result);
+}
+
+void VKD_QT_Dialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!m_isAway || event->spontaneous())
+        return;
+    m_isAway = false;
+    Q_EMIT isReOpen(m_detour);
+}

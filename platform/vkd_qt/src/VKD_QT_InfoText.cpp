@@ -1,0 +1,31 @@
+#include "VKD_QT_InfoText.h"
+
+#include "VKD_QT_Layouts.h"
+
+#include <vkd_qt_icon_named.h>
+
+#include <QLabel>
+#include <QStyle>
+
+VKD_QT_InfoText::VKD_QT_InfoText(bool withSign, const QString& text, QWidget* parent,
+                                 const char* name)
+    : QWidget(parent)
+    , m_text(new QLabel(text, this))
+{
+    setObjectName(QLatin1String(name));
+    auto layout = new VKD_QT_HBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (withSign) {
+        const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+        auto sign = new QLabel(this);
+        sign->setPixmap(vkd::qt::icon(QStringLiteral(":/icon/program/information")).pixmap(side));
+        layout->addWidget(sign, 0, Qt::AlignTop);
+    }
+    m_text->setWordWrap(true);
+    layout->addWidget(m_text, 1);
+}
+
+QString VKD_QT_InfoText::text() const
+{
+    return m_text->text();
+}

@@ -1,0 +1,84 @@
+#include "VKD_QT_TableWidgetButton.h"
+
+#include <QHelpEvent>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <QTableWidget>
+#include <QToolTip>
+
+namespace {
+constexpr int Margin = 3;
+constexpr int MarkWidth = 12;
+
+/// Each line cut to the width by itself: cutting the whole would drop the second line.
+QString elided(const QString& text, const QFontMetrics& metrics, int width)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines)
+        line = metrics.elidedText(line, Qt::ElideRight, width);
+    return lines.join(QLatin1Char('\n'));
+}
+
+/// Three dots at the bottom right of the area.
+void paintMark(QPainter& painter, const QRect& area)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    for (int dot = 0; dot < 3; ++dot)
+        painter.drawEllipse(QPointF(area.right() - 1.5 - 4 * dot, area.bottom() - 2), 1.2, 1.2);
+}
+} // namespace
+
+VKD_QT_TableWidgetButton::VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetItem* item,
+                                                   ButtonModus modus)
+    : QPushButton(table)
+    , m_modus(modus)
+{
+    if (item && item->tableWidget())
+        m_index = item->tableWidget()->model()->index(item->row(), item->column());
+    setAutoDefault(false);
+    setAccessibleName(itemText());
+}
+
+QString VKD_QT_TableWidgetButton::itemText() const
+{
+    return m_index.data().toString();
+}
+
+QSize VKD_QT_TableWidgetButton::sizeHint() const
+{
+    QSize size = fontMetrics().size(0, itemText()) + QSize(2 * Margin, 2 * Margin);
+    if (m_modus == MarkBeside)
+        size.rwidth() += MarkWidth;
+    return size;
+}
+
+void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    const QRect textArea = m_modus == MarkBeside ? inner.adjusted(0, 0, -MarkWidth, 0) : inner;
+    if (m_modus != MarkOnly)
+        painter.drawItemText(textArea, Qt::AlignCenter, option.palette, isEnabled(),
+                             elided(itemText(), fontMetrics(), textArea.width()),
+                             QPalette::ButtonText);
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.rect = inner;
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    }
+    painter.setBrush(option.palette.color(QPalette::ButtonText));
+    paintMark(painter, inner);
+}
+
+bool VKD_QT_TableWidgetButton::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QPushButton::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), itemText(), this);
+    return true;
+}
