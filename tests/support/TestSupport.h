@@ -4,7 +4,7 @@
 #include <QtTest>
 
 /// Makes every warning that a test did not announce by QTest::ignoreMessage() a failure of the test
-/// program. Use PLIB_TEST_MAIN in place of QTEST_GUILESS_MAIN.
+/// program. Use PLIB_TEST_MAIN in place of QTEST_GUILESS_MAIN, and WidgetTestSupport.h for widgets.
 namespace testsupport {
 
 int run(QObject* test, int argc, char* argv[]);
