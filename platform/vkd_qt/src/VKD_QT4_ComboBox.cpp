@@ -1,5 +1,9 @@
 #include "VKD_QT4_ComboBox.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QStylePainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 VKD_QT4_ComboBox::VKD_QT4_ComboBox(QWidget* parent, const char* name)
@@ -26,6 +30,44 @@ bool VKD_QT4_ComboBox::setCurrentId(int id)
     if (entry >= 0)
         setCurrentIndex(entry);
     return entry >= 0;
+}
+
+void VKD_QT4_ComboBox::showPopup()
+{
+    const int frame = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) +
+                      style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + frame);
+    QComboBox::showPopup();
+}
+
+QString VKD_QT4_ComboBox::cutText() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                QStyle::SC_ComboBoxEditField, this);
+    return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width() - 2);
+}
+
+bool VKD_QT4_ComboBox::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || isEditable() || !toolTip().isEmpty() ||
+        cutText() == currentText())
+        return QComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), currentText(), this);
+    return true;
+}
+
+void VKD_QT4_ComboBox::paintEvent(QPaintEvent* event)
+{
+    if (isEditable())
+        return QComboBox::paintEvent(event);
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    option.currentText = cutText();
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void VKD_QT4_ComboBox::wheelEvent(QWheelEvent* event)

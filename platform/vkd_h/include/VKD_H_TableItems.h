@@ -1,0 +1,82 @@
+#pragma once
+
+#include "ComboList.h"
+#include "vkd_h_export.h"
+
+#include <QTableWidgetItem>
+#include <QVector>
+
+#include <list>
+
+/// The header of a column of a VKD_H_TableWidget. It knows the column's id, by which a column is
+/// found wherever it stands, and makes the empty items of its cells.
+class VKD_H_EXPORT VKD_H_TwHeaderItem : public QTableWidgetItem
+{
+public:
+    /// `longText` is the tool tip, which is left out where `withToolTip` is false. `alignment`
+    /// holds for the cells.
+    VKD_H_TwHeaderItem(int id, const QString& text, const QString& longText, bool withToolTip,
+                       Qt::Alignment alignment);
+
+    int columnId() const { return m_id; }
+    /// A new cell of this column; the caller owns it.
+    virtual QTableWidgetItem* createEmptyItem() const;
+    QTableWidgetItem* clone() const override;
+
+protected:
+    QTableWidgetItem* aligned(QTableWidgetItem* item) const;
+
+private:
+    int m_id;
+    Qt::Alignment m_alignment;
+};
+
+/// The header of a column of combo boxes.
+class VKD_H_EXPORT VKD_H_TwHeaderComboBoxItem : public VKD_H_TwHeaderItem
+{
+public:
+    VKD_H_TwHeaderComboBoxItem(int id, const std::list<ComboList>& entries, const QString& text,
+                               const QString& longText, bool withToolTip, Qt::Alignment alignment);
+
+    QTableWidgetItem* createEmptyItem() const override;
+    QTableWidgetItem* clone() const override;
+
+private:
+    QVector<ComboList> m_entries;
+};
+
+/// The header of a column of check boxes.
+class VKD_H_EXPORT VKD_H_TwHeaderCheckBoxItem : public VKD_H_TwHeaderItem
+{
+public:
+    using VKD_H_TwHeaderItem::VKD_H_TwHeaderItem;
+
+    QTableWidgetItem* createEmptyItem() const override;
+    QTableWidgetItem* clone() const override;
+};
+
+/// A cell with a choice. It holds the text alone: the id is that of the entry with this text.
+class VKD_H_EXPORT VKD_H_TwSimpleComboBoxItem : public QTableWidgetItem
+{
+public:
+    explicit VKD_H_TwSimpleComboBoxItem(const QVector<ComboList>& entries);
+
+    const QVector<ComboList>& entries() const { return m_entries; }
+    /// The id of the entry that the cell shows, -99999 for a text that is none of them.
+    int getCurrentId() const;
+    QTableWidgetItem* clone() const override;
+
+private:
+    QVector<ComboList> m_entries;
+};
+
+/// A cell with a check box.
+class VKD_H_EXPORT VKD_H_TwSimpleCheckBoxItem : public QTableWidgetItem
+{
+public:
+    VKD_H_TwSimpleCheckBoxItem();
+
+    bool isChecked() const { return checkState() == Qt::Checked; }
+    void setChecked(bool checked) { setCheckState(checked ? Qt::Checked : Qt::Unchecked); }
+    QTableWidgetItem* clone() const override;
+};

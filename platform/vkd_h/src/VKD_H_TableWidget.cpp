@@ -1,0 +1,201 @@
+#include "VKD_H_TableWidget.h"
+
+#include "CellDelegate.h"
+#include "VKD_H_TableItems.h"
+
+#include <VKD_QT_Menu.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMimeData>
+
+#include <algorithm>
+
+namespace {
+/// A cell for a spreadsheet: one with a tab or a line end stands in quotation marks.
+QString plainCell(QString text)
+{
+    const QLatin1Char quote('"');
+    if (!text.contains(QLatin1Char('\t')) && !text.contains(QLatin1Char('\n')) &&
+        !text.contains(quote))
+        return text;
+    return quote + text.replace(quote, QStringLiteral("\"\"")) + quote;
+}
+
+QString htmlCell(const QString& text)
+{
+    return QLatin1String("<td>") +
+           text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")) +
+           QLatin1String("</td>");
+}
+} // namespace
+
+VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, const char* name)
+    : VKD_QT_TableWidget(rows, columns, parent, name)
+    , m_rowCount(rows)
+{
+    setTabKeyNavigation(false);
+    setEditTriggers(DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
+    setItemDelegate(new CellDelegate(this));
+    const auto changed = [this] { rowCountMayHaveChanged(); };
+    connect(model(), &QAbstractItemModel::rowsInserted, this, changed);
+    connect(model(), &QAbstractItemModel::rowsRemoved, this, changed);
+    connect(model(), &QAbstractItemModel::modelReset, this, changed);
+}
+
+void VKD_H_TableWidget::rowCountMayHaveChanged()
+{
+    const int before = m_rowCount;
+    m_rowCount = rowCount();
+    if (before != m_rowCount)
+        Q_EMIT signal_rowCountChanged(before, m_rowCount);
+}
+
+void VKD_H_TableWidget::setContextmenueEnabled_new_del(bool enabled)
+{
+    m_addsAndDeletes = enabled;
+}
+
+int VKD_H_TableWidget::getColumnNumber(int id) const
+{
+    for (int column = 0; column < columnCount(); ++column)
+        if (horizontalHeaderItem(column) && getColumnId(column) == id)
+            return column;
+    return -1;
+}
+
+int VKD_H_TableWidget::getColumnId(int column) const
+{
+    const auto header = dynamic_cast<const VKD_H_TwHeaderItem*>(horizontalHeaderItem(column));
+    return header ? header->columnId() : -1;
+}
+
+QTableWidgetItem* VKD_H_TableWidget::itemOnColId(int row, int id) const
+{
+    return item(row, getColumnNumber(id));
+}
+
+void VKD_H_TableWidget::addNewRow(bool withItems)
+{
+    const int row = rowCount();
+    insertRow(row);
+    if (withItems)
+        createEmptyItems(row);
+}
+
+void VKD_H_TableWidget::createEmptyItems(int row)
+{
+    for (int column = 0; column < columnCount(); ++column)
+        if (const auto header =
+                dynamic_cast<const VKD_H_TwHeaderItem*>(horizontalHeaderItem(column)))
+            setItem(row, column, header->createEmptyItem());
+}
+
+void VKD_H_TableWidget::deleteSelectedRows()
+{
+    const std::set<int> rows = getSelectetRows();
+    // Neighbours go together, from the end, so that the numbers of the others stay valid.
+    for (auto last = rows.rbegin(); last != rows.rend();) {
+        auto next = last;
+        int first = *last;
+        while (++next != rows.rend() && *next == first - 1)
+            first = *next;
+        model()->removeRows(first, *last - first + 1);
+        last = next;
+    }
+}
+
+VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
+{
+    delete m_menu;
+    m_menu = new VKD_QT_Menu(this);
+    QAction* copy =
+        m_menu->addAction(tr("Copy"), this, &VKD_H_TableWidget::copySelection, QKeySequence::Copy);
+    copy->setEnabled(selectionModel()->hasSelection());
+    m_menu->addAction(tr("Select All"), this, &QTableWidget::selectAll, QKeySequence::SelectAll);
+    if (m_addsAndDeletes) {
+        m_menu->addSeparator();
+        m_menu->addAction(tr("New"), this, [this] { addNewRow(true); });
+        m_menu->addAction(tr("Delete"), this, &VKD_H_TableWidget::deleteSelectedRows);
+    }
+    return m_menu;
+}
+
+void VKD_H_TableWidget::copySelection() const
+{
+    QModelIndexList cells = selectedIndexes();
+    if (cells.isEmpty())
+        return;
+    std::sort(cells.begin(), cells.end());
+    const auto byColumn = [](const QModelIndex& a, const QModelIndex& b) {
+        return a.column() < b.column();
+    };
+    const auto columns = std::minmax_element(cells.begin(), cells.end(), byColumn);
+    QString text, html = QStringLiteral("<table>");
+    for (auto cell = cells.cbegin(); cell != cells.cend();) {
+        html += QLatin1String("<tr>");
+        const int row = cell->row();
+        for (int column = columns.first->column(); column <= columns.second->column(); ++column) {
+            const bool isNext =
+                cell != cells.cend() && cell->row() == row && cell->column() == column;
+            const QString content = isNext ? (cell++)->data().toString() : QString();
+            text += plainCell(content);
+            text += column < columns.second->column() ? QLatin1Char('\t') : QLatin1Char('\n');
+            html += htmlCell(content);
+        }
+        html += QLatin1String("</tr>");
+    }
+    auto mime = new QMimeData;
+    mime->setText(text);
+    mime->setHtml(html + QLatin1String("</table>"));
+    QApplication::clipboard()->setMimeData(mime);
+}
+
+void VKD_H_TableWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (VKD_QT_Menu* menu = getContextMenu())
+        menu->exec(event->globalPos());
+}
+
+void VKD_H_TableWidget::keyPressEvent(QKeyEvent* event)
+{
+    QWidget* cell = cellWidget(currentRow(), currentColumn());
+    if (event->matches(QKeySequence::Copy))
+        copySelection();
+    else if (event->key() == Qt::Key_Escape && cell)
+        Q_EMIT itemSelectionChanged();
+    else if (event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return ||
+             event->key() == Qt::Key_Enter)
+        openCell();
+    else if (m_addsAndDeletes && event->key() == Qt::Key_Insert)
+        addNewRow(true);
+    else if (m_addsAndDeletes && event->key() == Qt::Key_Delete)
+        deleteSelectedRows();
+    else
+        VKD_QT_TableWidget::keyPressEvent(event);
+}
+
+/// Enter must not reach the dialog around the table, whose OK it would press.
+void VKD_H_TableWidget::openCell()
+{
+    const QModelIndex cell = currentIndex();
+    if (!cell.isValid() || stepInto(indexWidget(cell)))
+        return;
+    if (cell.flags() & Qt::ItemIsEditable)
+        edit(cell);
+    else
+        Q_EMIT itemSelectionChanged();
+    stepInto(indexWidget(currentIndex()));
+}
+
+bool VKD_H_TableWidget::stepInto(QWidget* cell)
+{
+    if (auto button = qobject_cast<QAbstractButton*>(cell))
+        button->click();
+    else if (cell)
+        cell->setFocus(Qt::TabFocusReason);
+    return cell;
+}

@@ -1,0 +1,54 @@
+#include "VKD_H_TableWidgetBox.h"
+
+#include "VKD_H_TableWidget.h"
+
+#include <VKD_QT_Layouts.h>
+
+#include <QShortcut>
+
+VKD_H_TableWidgetBox::VKD_H_TableWidgetBox(VKD_H_TableWidget* table, const QString& title,
+                                           QWidget* parent, const char* name)
+    : VKD_QT_GroupBox(title, parent, name)
+    , m_table(table)
+    , m_row(new VKD_QT_HBoxLayout)
+{
+    m_row->addStretch();
+}
+
+void VKD_H_TableWidgetBox::createDefaultLayout(bool buttonsAbove, bool buttonsBelow)
+{
+    auto layout = new VKD_QT_VBoxLayout(this);
+    if (buttonsAbove)
+        layout->addLayout(m_row);
+    layout->addWidget(m_table);
+    if (buttonsBelow && !buttonsAbove)
+        layout->addLayout(m_row);
+}
+
+void VKD_H_TableWidgetBox::addButton(Buttons button, bool toTheRight)
+{
+    const bool isNew = button == New;
+    auto widget = new VKD_QT_PushButton(isNew ? tr("New") : tr("Delete"), this,
+                                        isNew ? "btnNew" : "btnDelete");
+    m_buttons[button] = widget;
+    if (toTheRight)
+        m_row->addWidget(widget);
+    else
+        addWidget(widget);
+    auto key = new QShortcut(isNew ? Qt::Key_Insert : Qt::Key_Delete, m_table);
+    key->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(key, &QShortcut::activated, widget, [widget] { widget->click(); });
+}
+
+QPushButton* VKD_H_TableWidgetBox::getButton(Buttons button) const
+{
+    const auto found = m_buttons.find(button);
+    return found == m_buttons.end() ? nullptr : found->second;
+}
+
+void VKD_H_TableWidgetBox::addWidget(QWidget* widget)
+{
+    if (auto button = qobject_cast<QPushButton*>(widget))
+        button->setAutoDefault(false); // Enter in the table must not press it
+    m_row->insertWidget(m_left++, widget);
+}

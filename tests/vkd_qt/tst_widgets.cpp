@@ -1,0 +1,126 @@
+#include "WidgetTestSupport.h"
+
+#include <vkd_lib_value.h>
+#include <VKD_QT4_ComboBox.h>
+#include <VKD_QT_Dialog.h>
+#include <VKD_QT_InitTranslator.h>
+#include <VKD_QT_MessageBox.h>
+#include <VKD_QT_Ok.h>
+#include <VKD_QT_TableWidget.h>
+#include <VKD_QT_TableWidgetButton.h>
+
+#include <QWheelEvent>
+
+class tst_widgets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dialogComesBackFromADetour();
+    void boxLeftByEscape();
+    void okInTheLanguageOfTheDesktop();
+    void wheelOverACombo();
+    void cellButtonShowsThePresentText();
+    void rowsOfASelection();
+};
+
+void tst_widgets::dialogComesBackFromADetour()
+{
+    VKD_QT_Dialog dialog;
+    QSignalSpy reopened(&dialog, &VKD_QT_Dialog::isReOpen);
+    dialog.show();
+    dialog.reject();
+    dialog.show(); // was not away for a detour
+    QCOMPARE(reopened.size(), 0);
+    for (int times = 1; times < 3; ++times) {
+        QTimer::singleShot(0, &dialog, [&] { dialog.callDone(6); });
+        QCOMPARE(dialog.exec(), 6);
+        dialog.show();
+        QCOMPARE(reopened.size(), times);
+        QCOMPARE(reopened.last().first().toInt(), 6);
+    }
+}
+
+void tst_widgets::boxLeftByEscape()
+{
+    const auto answer = [](Qt::Key key) {
+        testsupport::whenModal([key](QWidget* box) { QTest::keyClick(box, key); });
+        return VKD_QT_MessageBox::warning(nullptr, QStringLiteral("t"), QStringLiteral("x"),
+                                          QMessageBox::Yes, QMessageBox::No, 0);
+    };
+    QCOMPARE(answer(Qt::Key_Escape), 0); // and not No, which Qt would press
+    QCOMPARE(answer(Qt::Key_Enter), int(QMessageBox::Yes));
+    testsupport::whenModal([](QWidget* box) { box->close(); });
+    QCOMPARE(VKD_QT_MessageBox::warning(nullptr, QStringLiteral("t"), QStringLiteral("x"), {}, {},
+                                        {}, 0, -1),
+             -1);
+}
+
+void tst_widgets::okInTheLanguageOfTheDesktop()
+{
+    QStringList cancel;
+    for (int language : {0, 1}) {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+        VKD_QT_InitTranslator::languageChanged();
+        const VKD_QT_Ok row(nullptr, 3, "okayandcancelbutton");
+        QVERIFY(row.cmdOk()->isDefault());
+        cancel << row.cmdCancel()->text();
+    }
+    QCOMPARE(cancel.join(QLatin1Char('/')).remove(QLatin1Char('&')),
+             QStringLiteral("Abbrechen/Cancel"));
+    QVERIFY(!VKD_QT_Ok(nullptr, 1, "").cmdCancel());
+}
+
+void tst_widgets::wheelOverACombo()
+{
+    QWidget window;
+    VKD_QT4_ComboBox combo(&window, "combo");
+    QWidget other(&window);
+    other.setFocusPolicy(Qt::StrongFocus);
+    for (int id : {3, 4, 5})
+        combo.addEntry(QString::number(id), id);
+    window.show();
+    window.activateWindow();
+    const auto idAfterTheWheel = [&] {
+        QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&combo, &wheel);
+        return combo.getCurrentId();
+    };
+    other.setFocus();
+    QCOMPARE(idAfterTheWheel(), 3);
+    combo.setFocus();
+    QTRY_VERIFY(combo.hasFocus());
+    QCOMPARE(idAfterTheWheel(), 4);
+    combo.addItem(QStringLiteral("without an id"));
+    combo.setCurrentIndex(3);
+    QCOMPARE(combo.getCurrentId(), VKD_QT4_ComboBox::NoId);
+}
+
+void tst_widgets::cellButtonShowsThePresentText()
+{
+    QTableWidget table(1, 1);
+    table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("x")));
+    VKD_QT_TableWidgetButton button(&table, table.item(0, 0), VKD_QT_TableWidgetButton::MarkBeside);
+    const int narrow = button.sizeHint().width();
+    table.item(0, 0)->setText(QStringLiteral("a much longer text"));
+    QVERIFY(button.sizeHint().width() > narrow);
+    table.setRowCount(0); // the cell has gone before its button
+    button.show();
+    button.repaint();
+    QVERIFY(button.sizeHint().width() <= narrow);
+}
+
+void tst_widgets::rowsOfASelection()
+{
+    VKD_QT_TableWidget table(6, 2);
+    QCOMPARE(table.getSelectetRows(), std::set<int>());
+    table.setRangeSelected({1, 0, 2, 0}, true);
+    table.setRangeSelected({2, 1, 4, 1}, true);
+    QCOMPARE(table.getSelectetRows(), (std::set<int>{1, 2, 3, 4}));
+    QVERIFY(table.isRowSelected(4));
+    QVERIFY(!table.isRowSelected(5));
+}
+
+PLIB_WIDGET_TEST_MAIN(tst_widgets)
+#include "tst_widgets.moc"
