@@ -112,11 +112,14 @@ void tst_tableWidget::scatteredRowsAreDeleted()
         table.addNewRow(true);
         table.item(row, 0)->setText(QString::number(row));
     }
+    table.setCurrentCell(6, 1, QItemSelectionModel::NoUpdate);
     QSignalSpy counted(&table, &VKD_H_TableWidget::signal_rowCountChanged);
     for (int row : {8, 0, 4, 5, 2})
         table.setRangeSelected({row, 0, row, 1}, true);
     table.deleteSelectedRows();
     QCOMPARE(table.firstColumn(), QStringLiteral("t1367"));
+    QCOMPARE(table.currentIndex(), table.model()->index(2, 1)); // moved up with its row
+    QVERIFY(table.getSelectetRows().empty());
     QCOMPARE(counted.first().first().toInt(), 9);
     QCOMPARE(counted.last().last().toInt(), 4);
 }

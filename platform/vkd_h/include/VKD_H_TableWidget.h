@@ -33,6 +33,8 @@ public:
     virtual void addNewRow(bool withItems);
     /// Gives each cell of a row the empty item of its column.
     virtual void createEmptyItems(int row);
+    /// Deletes all rows with a selected cell, in one pass. Widgets over cells from the first of them
+    /// on go, too. Nothing is selected afterwards.
     virtual void deleteSelectedRows();
 
     /// The context menu, made anew with each call. The table owns it and deletes it with the next
@@ -52,6 +54,7 @@ protected:
 
 private:
     void rowCountMayHaveChanged();
+    void moveRow(int row, int to);
     void openCell();
     bool stepInto(QWidget* cell);
 

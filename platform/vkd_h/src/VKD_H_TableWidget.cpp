@@ -94,17 +94,34 @@ void VKD_H_TableWidget::createEmptyItems(int row)
             setItem(row, column, header->createEmptyItem());
 }
 
+/// The rows that stay move up, and the end is cut off once: removing row after row is quadratic.
 void VKD_H_TableWidget::deleteSelectedRows()
 {
     const std::set<int> rows = getSelectetRows();
-    // Neighbours go together, from the end, so that the numbers of the others stay valid.
-    for (auto last = rows.rbegin(); last != rows.rend();) {
-        auto next = last;
-        int first = *last;
-        while (++next != rows.rend() && *next == first - 1)
-            first = *next;
-        model()->removeRows(first, *last - first + 1);
-        last = next;
+    if (rows.empty())
+        return;
+    const int above = int(std::distance(rows.begin(), rows.lower_bound(currentRow())));
+    const QPoint current(currentColumn(), currentRow() - above);
+    int kept = *rows.begin();
+    {
+        const QSignalBlocker blocker(model());
+        for (int row = kept; row < rowCount(); ++row)
+            moveRow(row, rows.count(row) ? -1 : kept++);
+    }
+    model()->removeRows(kept, rowCount() - kept);
+    clearSelection();
+    selectionModel()->setCurrentIndex(model()->index(qMin(current.y(), kept - 1), current.x()),
+                                      QItemSelectionModel::NoUpdate);
+    viewport()->update();
+}
+
+void VKD_H_TableWidget::moveRow(int row, int to)
+{
+    for (int column = 0; column < columnCount(); ++column) {
+        if (cellWidget(row, column))
+            removeCellWidget(row, column);
+        if (to >= 0 && to != row)
+            setItem(to, column, takeItem(row, column));
     }
 }
 
