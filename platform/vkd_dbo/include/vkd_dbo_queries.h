@@ -32,6 +32,8 @@ VKD_DBO_EXPORT bool hasBrics(int index, int* unused);
 VKD_DBO_EXPORT bool hasQuadTendons(int index, int* unused);
 VKD_DBO_EXPORT bool hasBeamTendons(int index, int* unused);
 VKD_DBO_EXPORT bool hasCrossSections(int index, int* unused);
+VKD_DBO_EXPORT bool hasGroups(int index, int* unused);
+VKD_DBO_EXPORT bool hasSgrp(int index, int* unused);
 
 } // namespace dbo
 } // namespace vkd

@@ -96,5 +96,15 @@ bool hasCrossSections(int index, int*)
     return has(index, keys::CrossSections);
 }
 
+bool hasGroups(int index, int*)
+{
+    return has(index, keys::Groups);
+}
+
+bool hasSgrp(int index, int*)
+{
+    return has(index, keys::SecondaryGroups);
+}
+
 } // namespace dbo
 } // namespace vkd

@@ -1,4 +1,3 @@
-#include "recordfields.h"
 #include "recordlist.h"
 #include "vkd_dbo_queries.h"
 
@@ -23,20 +22,6 @@ QVector<QByteArray> toRecords(const QVector<T>& things)
         fields(writer, copy);
     }
     return records;
-}
-
-template <typename T>
-void readList(int index, KeyPair pair, QVector<T>& things)
-{
-    forEachRecord(index, pair, [&](const QByteArray& bytes) {
-        T thing;
-        FieldReader reader(bytes);
-        fields(reader, thing);
-        if (reader.isComplete())
-            things.append(thing);
-        else
-            reportDamagedRecord(index, pair);
-    });
 }
 
 SystemInformation readSystem(int index)

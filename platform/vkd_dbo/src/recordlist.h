@@ -1,6 +1,7 @@
 #pragma once
 
 #include "modelkeys.h"
+#include "recordfields.h"
 
 #include <QVector>
 
@@ -17,6 +18,21 @@ void forEachRecord(int index, KeyPair pair, const std::function<void(const QByte
 
 /// The line in the log for a record that is too short for what it should hold.
 void reportDamagedRecord(int index, KeyPair pair);
+
+/// Appends the thing of each record under the pair that is sound.
+template <typename T>
+void readList(int index, KeyPair pair, QVector<T>& things)
+{
+    forEachRecord(index, pair, [&](const QByteArray& bytes) {
+        T thing;
+        FieldReader reader(bytes);
+        fields(reader, thing);
+        if (reader.isComplete())
+            things.append(thing);
+        else
+            reportDamagedRecord(index, pair);
+    });
+}
 
 } // namespace dbo
 } // namespace vkd

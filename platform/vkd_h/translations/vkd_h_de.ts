@@ -2,6 +2,172 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>VKD_H_GroupDialog</name>
+    <message>
+        <source>1 area</source>
+        <translation>1 Flächenelement</translation>
+    </message>
+    <message>
+        <source>%1 areas</source>
+        <translation>%1 Flächenelemente</translation>
+    </message>
+    <message>
+        <source>1 beam</source>
+        <translation>1 Stab</translation>
+    </message>
+    <message>
+        <source>%1 beams</source>
+        <translation>%1 Stäbe</translation>
+    </message>
+    <message>
+        <source>1 truss</source>
+        <translation>1 Fachwerkstab</translation>
+    </message>
+    <message>
+        <source>%1 trusses</source>
+        <translation>%1 Fachwerkstäbe</translation>
+    </message>
+    <message>
+        <source>1 cable</source>
+        <translation>1 Seil</translation>
+    </message>
+    <message>
+        <source>%1 cables</source>
+        <translation>%1 Seile</translation>
+    </message>
+    <message>
+        <source>1 spring</source>
+        <translation>1 Feder</translation>
+    </message>
+    <message>
+        <source>%1 springs</source>
+        <translation>%1 Federn</translation>
+    </message>
+    <message>
+        <source>1 brick</source>
+        <translation>1 Volumenelement</translation>
+    </message>
+    <message>
+        <source>%1 bricks</source>
+        <translation>%1 Volumenelemente</translation>
+    </message>
+    <message>
+        <source>no elements</source>
+        <translation>keine Elemente</translation>
+    </message>
+    <message>
+        <source>not in the model</source>
+        <translation>nicht im Modell</translation>
+    </message>
+    <message>
+        <source>taken over from another row</source>
+        <translation>aus anderer Zeile übernommen</translation>
+    </message>
+    <message>
+        <source>used by another row</source>
+        <translation>in anderer Zeile verwendet</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>The model has no secondary groups.</source>
+        <translation>Das Modell enthält keine Sekundärgruppen.</translation>
+    </message>
+    <message>
+        <source>The model has no groups.</source>
+        <translation>Das Modell enthält keine Gruppen.</translation>
+    </message>
+    <message>
+        <source>Name or title</source>
+        <translation>Name oder Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Number or title</source>
+        <translation>Nummer oder Bezeichnung</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Names to check</source>
+        <translation>Zu markierende Namen</translation>
+    </message>
+    <message>
+        <source>Numbers, e.g. 1-5 9</source>
+        <translation>Nummern, z. B. 1-5 9</translation>
+    </message>
+    <message>
+        <source>Na&amp;mes:</source>
+        <translation>&amp;Namen:</translation>
+    </message>
+    <message>
+        <source>N&amp;umbers:</source>
+        <translation>N&amp;ummern:</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k</source>
+        <translation>&amp;Markieren</translation>
+    </message>
+    <message>
+        <source>Cannot read: %1. Type numbers and ranges such as 1-5 9.</source>
+        <translation>Nicht lesbar: %1. Bitte Nummern und Bereiche wie 1-5 9 eingeben.</translation>
+    </message>
+    <message>
+        <source>There is no group %1.</source>
+        <translation>Es gibt keine Gruppe %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 groups checked</source>
+        <translation>%1 von %2 Gruppen markiert</translation>
+    </message>
+    <message>
+        <source>%1 taken over from another row</source>
+        <translation>%1 aus anderer Zeile übernommen</translation>
+    </message>
+    <message>
+        <source>%1 hidden by the filter</source>
+        <translation>%1 durch den Filter ausgeblendet</translation>
+    </message>
+</context>
+<context>
+    <name>VKD_H_SecondaryGroupDialog</name>
+    <message>
+        <source>Secondary Group Selection</source>
+        <translation>Sekundärgruppenauswahl</translation>
+    </message>
+</context>
+<context>
     <name>VKD_H_TableWidget</name>
     <message>
         <source>Copy</source>
@@ -29,6 +195,13 @@
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>vkd::h::GroupView</name>
+    <message>
+        <source>No group matches the filter.</source>
+        <translation>Keine Gruppe entspricht dem Filter.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,71 @@
+#include "recordlist.h"
+#include "vkd_dbo_groups.h"
+
+#include <QHash>
+#include <QtEndian>
+
+namespace vkd {
+namespace dbo {
+
+namespace {
+struct ElementList
+{
+    KeyPair pair;
+    int GroupContents::*count;
+};
+
+constexpr ElementList elementLists[] = {
+    {keys::Quads, &GroupContents::quads},     {keys::Beams, &GroupContents::beams},
+    {keys::Trusses, &GroupContents::trusses}, {keys::Cables, &GroupContents::cables},
+    {keys::Springs, &GroupContents::springs}, {keys::Bricks, &GroupContents::bricks},
+};
+
+/// Looks at the group alone, the second number of every element's record: taking all of the record
+/// apart would be most of the time for a large model.
+void countElements(int index, const ElementList& list, QHash<int, GroupContents>& contents)
+{
+    constexpr int GroupAt = sizeof(qint32);
+    forEachRecord(index, list.pair, [&](const QByteArray& bytes) {
+        if (bytes.size() < GroupAt + int(sizeof(qint32))) {
+            reportDamagedRecord(index, list.pair);
+            return;
+        }
+        const int group = qFromLittleEndian<qint32>(bytes.constData() + GroupAt);
+        ++(contents[group].*list.count);
+    });
+}
+} // namespace
+
+QVector<GroupSummary> readGroups(int index)
+{
+    QVector<Group> groups;
+    readList(index, keys::Groups, groups);
+    if (groups.isEmpty())
+        return {};
+    QHash<int, GroupContents> contents;
+    for (const ElementList& list : elementLists)
+        countElements(index, list, contents);
+    QVector<GroupSummary> summaries;
+    summaries.reserve(groups.size());
+    for (const Group& group : qAsConst(groups))
+        summaries.append({group.number, {}, group.title, contents.value(group.number)});
+    return summaries;
+}
+
+QVector<GroupSummary> readSecondaryGroups(int index)
+{
+    QVector<SecondaryGroup> groups;
+    readList(index, keys::SecondaryGroups, groups);
+    QVector<GroupSummary> summaries;
+    summaries.reserve(groups.size());
+    for (const SecondaryGroup& group : qAsConst(groups)) {
+        GroupContents contents;
+        contents.quads = group.quads.size();
+        contents.beams = group.beams.size();
+        summaries.append({0, group.name, group.title, contents});
+    }
+    return summaries;
+}
+
+} // namespace dbo
+} // namespace vkd

@@ -1,0 +1,112 @@
+#include "pickedGroups.h"
+
+#include <vkd_zob.h>
+
+#include <QByteArray>
+#include <QLoggingCategory>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace {
+Q_LOGGING_CATEGORY(lcPicked, "vkd.grouptable")
+
+constexpr int Key1 = 430;
+constexpr int Key2 = 0;
+constexpr int WordLength = sizeof(qint32);
+
+QByteArray word(int value)
+{
+    QByteArray bytes(WordLength, Qt::Uninitialized);
+    qToLittleEndian<qint32>(value, bytes.data());
+    return bytes;
+}
+
+int wordAt(const QByteArray& bytes, int position)
+{
+    return qFromLittleEndian<qint32>(bytes.constData() + position * WordLength);
+}
+
+QByteArray toRecord(const std::vector<int>& groups)
+{
+    QByteArray bytes = word(int(groups.size()));
+    for (int group : groups)
+        bytes += word(group);
+    return bytes;
+}
+
+/// False for anything that toRecord() would not make of groups that may be stored.
+bool fromRecord(const QByteArray& bytes, std::vector<int>& groups)
+{
+    const int words = bytes.size() / WordLength;
+    if (words == 0 || bytes.size() % WordLength != 0 || wordAt(bytes, 0) != words - 1)
+        return false;
+    std::vector<int> read;
+    for (int position = 1; position < words; ++position)
+        read.push_back(wordAt(bytes, position));
+    const bool ascends =
+        std::adjacent_find(read.begin(), read.end(), std::greater_equal<>()) == read.end();
+    if (!ascends || (!read.empty() && read.front() < 0))
+        return false;
+    groups = read;
+    return true;
+}
+
+/// The record; a null one if there is none.
+QByteArray readRecord(int index)
+{
+    QByteArray bytes(1024, Qt::Uninitialized);
+    int length = bytes.size();
+    cd_error_t status = VKD_ZOB_OK;
+    while ((status = vkd_zob_get(index, Key1, Key2, bytes.data(), &length, 0)) == VKD_ZOB_CUT) {
+        bytes.resize(2 * bytes.size());
+        length = bytes.size();
+    }
+    vkd_zob_free_ex(index, Key1, Key2);
+    return status == VKD_ZOB_OK ? bytes.left(length) : QByteArray();
+}
+
+/// Puts the record, unless it is null, in place of what is there. Releasing has no result, so
+/// whether it is stored shows by looking.
+bool replaceRecord(int index, const QByteArray& record)
+{
+    const int none = 0;
+    const int length = record.size();
+    bool done = vkd_zob_lock_ex(index, Key1, Key2) == VKD_ZOB_OK &&
+                vkd_zob_put(index, Key1, Key2, nullptr, &none, 0) == VKD_ZOB_OK;
+    if (length > 0)
+        done = done && vkd_zob_put(index, Key1, Key2, record.constData(), &length, 1) == VKD_ZOB_OK;
+    vkd_zob_free_ex(index, Key1, Key2);
+    return done && readRecord(index) == record;
+}
+} // namespace
+
+bool readPickedGroups(int index, std::vector<int>& groups)
+{
+    const QByteArray record = readRecord(index);
+    if (record.isNull())
+        return false;
+    const bool isSound = fromRecord(record, groups);
+    if (!isSound)
+        qCWarning(lcPicked, "database %d: the record of picked groups under %d, %d is damaged",
+                  index, Key1, Key2);
+    return isSound;
+}
+
+bool storePickedGroups(int index, const std::vector<int>& groups)
+{
+    std::vector<int> sorted = groups;
+    std::sort(sorted.begin(), sorted.end());
+    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
+    if (!sorted.empty() && sorted.front() < 0) {
+        qCWarning(lcPicked, "database %d: picked groups not stored, %d is no group", index,
+                  sorted.front());
+        return false;
+    }
+    return replaceRecord(index, toRecord(sorted));
+}
+
+bool removePickedGroups(int index)
+{
+    return replaceRecord(index, QByteArray());
+}

@@ -1,0 +1,19 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>VKD_H_SelGRP_Dialog</name>
+    <message>
+        <source>Group Selection</source>
+        <translation>Gruppenauswahl</translation>
+    </message>
+    <message>
+        <source>&amp;Pick in 3D View</source>
+        <translation>In 3D-Ansicht &amp;wählen</translation>
+    </message>
+    <message>
+        <source>Leaves this dialog to pick the groups in the 3D view. What is checked here is not kept.</source>
+        <translation>Verlässt diesen Dialog, um die Gruppen in der 3D-Ansicht zu wählen. Was hier markiert ist, wird nicht übernommen.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "groupRows.h"
+
+#include <QAbstractTableModel>
+
+namespace vkd {
+namespace h {
+
+/// The rows of a group dialog with their check boxes. A group of another row of the caller is set
+/// apart until it is checked, which takes it over.
+class GroupTableModel : public QAbstractTableModel
+{
+public:
+    enum Column { Group, Title, Contents, Remark, ColumnCount };
+    static constexpr int SortRole = Qt::UserRole;
+
+    GroupTableModel(VKD_H_GroupKind kind, const QVector<GroupRow>& rows, QObject* parent);
+
+    const QVector<GroupRow>& rows() const { return m_rows; }
+    std::vector<int> groups() const;
+    std::vector<int> checkedGroups() const;
+    void setChecked(const QVector<int>& rows, bool isChecked);
+    /// The row of a group that is in the list.
+    int rowOf(int group) const;
+    /// Whether there is anything that this column could have to say.
+    bool hasRemarks() const;
+    /// The longest text that the column may come to show.
+    QString longestText(int column) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QString text(const GroupRow& row, int column) const;
+    QVariant sortValue(const GroupRow& row, int column) const;
+
+    VKD_H_GroupKind m_kind;
+    QVector<GroupRow> m_rows;
+};
+
+} // namespace h
+} // namespace vkd

@@ -1,0 +1,120 @@
+#include "groupInput.h"
+
+#include "packedNames.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <limits>
+
+namespace vkd {
+namespace h {
+
+namespace {
+/// Marks in place of a growing list, because the same range may be typed thousands of times.
+class Marks
+{
+public:
+    explicit Marks(const std::vector<int>& existing)
+        : m_existing(existing)
+        , m_isMarked(existing.size())
+    {
+    }
+
+    /// False if nothing exists from `first` to `last`.
+    bool mark(qint64 first, qint64 last)
+    {
+        const auto begin = std::lower_bound(m_existing.begin(), m_existing.end(), first);
+        const auto end = std::upper_bound(begin, m_existing.end(), last);
+        std::fill(m_isMarked.begin() + (begin - m_existing.begin()),
+                  m_isMarked.begin() + (end - m_existing.begin()), true);
+        return begin != end;
+    }
+
+    std::vector<int> groups() const
+    {
+        std::vector<int> marked;
+        for (size_t i = 0; i < m_existing.size(); ++i)
+            if (m_isMarked[i])
+                marked.push_back(m_existing[i]);
+        return marked;
+    }
+
+private:
+    const std::vector<int>& m_existing;
+    std::vector<bool> m_isMarked;
+};
+
+QStringList parts(const QString& text)
+{
+    static const QRegularExpression separator(QStringLiteral("[ ,;]+"));
+    return text.split(separator, Qt::SkipEmptyParts);
+}
+
+/// Ranges in one piece: hyphens in place of the dashes that come with copied texts, and no blanks
+/// around them.
+QString withPlainRanges(const QString& text)
+{
+    static const QRegularExpression dash(QStringLiteral("[\\x{2010}-\\x{2015}\\x{2212}]"));
+    QString plain = text.simplified(); // at most one blank: the time of what follows is linear
+    plain.replace(dash, QStringLiteral("-"));
+    plain.replace(QStringLiteral(" -"), QStringLiteral("-"));
+    plain.replace(QStringLiteral("- "), QStringLiteral("-"));
+    return plain;
+}
+
+/// Digits as a number; too large a one is beyond every group anyway.
+qint64 number(const QString& digits)
+{
+    bool isFitting = false;
+    const qint64 value = digits.toLongLong(&isFitting);
+    return isFitting ? value : std::numeric_limits<qint64>::max();
+}
+} // namespace
+
+GroupInput readNumbers(const QString& text, const std::vector<int>& existing)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\A([0-9]+)(?:-([0-9]+))?\\z"));
+    GroupInput input;
+    Marks marks(existing);
+    const QStringList all = parts(withPlainRanges(text));
+    for (const QString& part : all) {
+        const QRegularExpressionMatch match = pattern.match(part);
+        if (!match.hasMatch()) {
+            input.unreadable << part;
+            continue;
+        }
+        const qint64 first = number(match.captured(1));
+        const qint64 last = match.capturedLength(2) > 0 ? number(match.captured(2)) : first;
+        if (!marks.mark(std::min(first, last), std::max(first, last)))
+            input.missing << part;
+    }
+    input.groups = marks.groups();
+    return input;
+}
+
+GroupInput readNames(const QString& text, const std::vector<int>& existing)
+{
+    QMultiHash<QString, int> byFoldedName;
+    for (int packed : existing)
+        byFoldedName.insert(unpackedName(packed).toCaseFolded(), packed);
+    GroupInput input;
+    Marks marks(existing);
+    const QStringList all = parts(text.simplified());
+    for (const QString& part : all) {
+        const QList<int> alike = byFoldedName.values(part.toCaseFolded());
+        if (alike.isEmpty())
+            input.missing << part;
+        else if (alike.size() > 1 && alike.contains(packedName(part)))
+            marks.mark(packedName(part), packedName(part));
+        else
+            for (int packed : alike)
+                marks.mark(packed, packed);
+    }
+    input.groups = marks.groups();
+    return input;
+}
+
+} // namespace h
+} // namespace vkd
