@@ -1,9 +1,12 @@
 #!/bin/sh
-# Renders the drawings of lib/plib/resources to the pictures that are committed beside them.
+# Renders the drawings of lib/plib/resources to the pictures that are committed beside them, and to
+# the figures of the help.
 # Needs the Debian packages librsvg2-bin and fonts-dejavu-core. Call it after changing a drawing.
 set -eu
 
-resources=$(CDPATH='' cd -- "$(dirname -- "$0")/../lib/plib/resources" && pwd)
+root=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
+resources=$root/lib/plib/resources
+help=$root/share/help/merdan
 
 need() {
     echo "render_pictures: $1 is missing; install the Debian package $2" >&2
@@ -35,3 +38,17 @@ render_forms() {
 render_forms neq_merpara_rich 193 111
 render_forms betondeckung 240 111
 render neq_designline_zrt_bew_mod_allg neq_designline_zrt_bew_mod_allg zxx 299 104
+
+# render_help DRAWING FIGURE LANGUAGE: the size of the drawing enlarged for reading.
+render_help() {
+    rsvg-convert --background-color=white --accept-language="$3" --zoom=1.75 \
+        --output="$help/$2.png" "$resources/drawings/$1.svg"
+    echo "help: $2.png"
+}
+
+for language in de en; do
+    render_help neq_merpara_rich "$language/directions" "$language"
+    render_help betondeckung "$language/distances" "$language"
+done
+render_help help_cover cover zxx
+render_help help_circular circular zxx

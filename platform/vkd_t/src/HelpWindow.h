@@ -1,0 +1,66 @@
+#pragma once
+
+#include "HelpSearch.h"
+
+#include <QMainWindow>
+
+class HelpBook;
+class HelpBrowser;
+class QAction;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+class WindowTie;
+
+/// The window of the help: the page, at its left the topics of the book and the topics that have
+/// the text searched for, above them the tool bar. What is found, and where, is left to the book,
+/// the search and the browser; which window it belongs to is left to the tie.
+class HelpWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    HelpWindow();
+
+    /// Opens a topic of a book, which may be the present one in another language.
+    void open(const HelpBook& book, int topic);
+    /// Shows the window in front, as a child window of that of `caller` or of the modal dialog that
+    /// is active.
+    void showFor(QWidget* caller);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QAction* addKeyAction(const char* name, const QList<QKeySequence>& keys);
+    void makeToolBar();
+    void makeSearchField();
+    void makeKeyActions();
+    void makePanes();
+    QListWidget* makeTopicList(const char* name, QWidget* parent);
+
+    void translate();
+    void changeLanguage();
+    void topicChanged();
+    void listTopics();
+    void openListed(const QListWidgetItem* item);
+
+    QString searchText() const;
+    void search();
+    void listHits();
+    void findNext(bool backward);
+    void updateSidePane();
+
+    WindowTie* m_tie;
+    QAction* m_back = nullptr;
+    QAction* m_forward = nullptr;
+    QAction* m_showContents = nullptr;
+    QLineEdit* m_searchField = nullptr;
+    QWidget* m_sidePane = nullptr;
+    QListWidget* m_contents = nullptr;
+    QLabel* m_searchResult = nullptr;
+    QListWidget* m_hits = nullptr;
+    HelpBrowser* m_browser = nullptr;
+    HelpSearch m_search;
+};

@@ -1,0 +1,128 @@
+#include "HelpTestSupport.h"
+
+#include <vkd_lib_searchpath.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTextBlock>
+
+using namespace testsupport;
+
+namespace {
+QDir folder(const char* language)
+{
+    const QByteArray index = QByteArray("help/merdan/") + language + "/index.txt";
+    return QFileInfo(QFile::decodeName(vkd_lib_searchpath(index, 3).value_or("").c_str())).dir();
+}
+
+QStringList topicNames(const char* language)
+{
+    QStringList names;
+    const QByteArray index = readFile(folder(language).filePath(QStringLiteral("index.txt")));
+    for (const QByteArray& line : index.split('\n'))
+        if (!line.startsWith('#') && line.contains('|'))
+            names << QString::fromUtf8(line.left(line.indexOf('|')));
+    return names;
+}
+
+QVector<QTextCharFormat> formats(const QTextDocument& document)
+{
+    QVector<QTextCharFormat> found;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        for (auto it = block.begin(); !it.atEnd(); ++it)
+            found << it.fragment().charFormat();
+    return found;
+}
+
+QImage picture(const QString& name)
+{
+    const QVariant found =
+        helpPage()->document()->resource(QTextDocument::ImageResource, QUrl(name));
+    return found.userType() == QMetaType::QByteArray ? QImage::fromData(found.toByteArray())
+                                                     : found.value<QPixmap>().toImage();
+}
+
+bool hasAnchor(const QTextDocument& document, const QString& name)
+{
+    for (const QTextCharFormat& format : formats(document))
+        if (format.anchorNames().contains(name))
+            return true;
+    return false;
+}
+
+bool linkLeadsSomewhere(const QString& link)
+{
+    const QUrl address(link);
+    const QString topic = QFileInfo(address.path()).completeBaseName();
+    return address.isRelative() &&
+           VKD_T_Help::show(nullptr, "MERDAN", topic.toUtf8().constData()) &&
+           (!address.hasFragment() || hasAnchor(*helpPage()->document(), address.fragment()));
+}
+} // namespace
+
+class tst_helpBook : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { closeHelp(); }
+
+    void languagesHaveTheSamePages();
+    void page_data();
+    void page();
+};
+
+void tst_helpBook::languagesHaveTheSamePages()
+{
+    const QStringList names = topicNames("de");
+    QCOMPARE(topicNames("en"), names);
+    QVERIFY(names.contains(QStringLiteral("PARA")));
+    QStringList files;
+    for (const QString& name : names)
+        files << name.toLower() + QLatin1String(".html");
+    files.sort();
+    for (const char* language : {"de", "en"})
+        QCOMPARE(folder(language).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name),
+                 files);
+}
+
+void tst_helpBook::page_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::addColumn<QString>("topic");
+    for (int language : {German, English})
+        for (const QString& name : topicNames("en"))
+            QTest::addRow("%s %s", language == German ? "German" : "English", qPrintable(name))
+                << language << name;
+}
+
+void tst_helpBook::page()
+{
+    QFETCH(int, language);
+    QFETCH(QString, topic);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    QVERIFY(VKD_T_Help::show(nullptr, "MERDAN", topic.toUtf8().constData()));
+    QVERIFY(helpWindows().at(0)->windowTitle().endsWith(
+        QLatin1String(" - ") + helpPage()->document()->firstBlock().text()));
+    QVERIFY(helpPage()->document()->blockCount() > 10);
+
+    QSet<QString> links;
+    for (const QTextCharFormat& format : formats(*helpPage()->document())) {
+        QVERIFY2(format.isAnchor() || format.foreground().style() == Qt::NoBrush, "fixed colour");
+        QVERIFY2(format.background().style() == Qt::NoBrush, "fixed background");
+        if (format.isImageFormat()) {
+            const QString name = format.toImageFormat().name();
+            const QImage image = picture(name);
+            QVERIFY2(!image.isNull(), qPrintable(name));
+            QVERIFY2(!image.hasAlphaChannel() || qAlpha(image.pixel(1, 1)) == 255, "no ground");
+        }
+        if (!format.anchorHref().isEmpty())
+            links << format.anchorHref();
+    }
+    QVERIFY(!links.isEmpty());
+    for (const QString& link : qAsConst(links))
+        QVERIFY2(linkLeadsSomewhere(link), qPrintable(link));
+}
+
+PLIB_WIDGET_TEST_MAIN(tst_helpBook)
+#include "tst_helpBook.moc"
