@@ -27,6 +27,7 @@ int run(QObject* test, int argc, char* argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
+    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0"); // none is to be lost
     arguments << QStringLiteral("-o") << QStringLiteral("-,txt") << QStringLiteral("-o")
               << log + QLatin1String(",txt");
     const int failed = QTest::qExec(test, arguments);

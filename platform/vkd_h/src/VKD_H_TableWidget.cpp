@@ -202,7 +202,7 @@ void VKD_H_TableWidget::openCell()
     if (!cell.isValid() || stepInto(indexWidget(cell)))
         return;
     if (cell.flags() & Qt::ItemIsEditable)
-        edit(cell);
+        edit(cell, EditKeyPressed, nullptr); // says nothing where an editor is open already
     else
         Q_EMIT itemSelectionChanged();
     stepInto(indexWidget(currentIndex()));

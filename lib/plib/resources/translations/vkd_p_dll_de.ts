@@ -31,6 +31,82 @@
         <source>Circular</source>
         <translation>Ringförmig</translation>
     </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Direction and Distance</source>
+        <translation>Richtung und Abstand</translation>
+    </message>
+    <message>
+        <source>Reinforcement</source>
+        <translation>Bewehrung</translation>
+    </message>
+    <message>
+        <source>Crack Control</source>
+        <translation>Rissnachweis</translation>
+    </message>
+    <message>
+        <source>Design parameter</source>
+        <translation>Bemessungsparameter</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Aufwärts</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abwärts</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>No groups selected.
+Possible loss of data!</source>
+        <translation>Keine Gruppen ausgewählt.
+Daten können verloren gehen!</translation>
+    </message>
+</context>
+<context>
+    <name>DesignParameterTable</name>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>dlgSelection</name>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Remaining Groups</source>
+        <translation>Übrige Gruppen</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Select groups</source>
+        <translation>Gruppen auswählen</translation>
+    </message>
+    <message>
+        <source>Select secondary groups</source>
+        <translation>Sekundärgruppen auswählen</translation>
+    </message>
 </context>
 <context>
     <name>GraphicalOutputTreeWidget</name>

@@ -1,0 +1,58 @@
+#include "designColumns.h"
+
+#include "DesignParameterTable.h"
+#include "rowText.h"
+
+#include <VKD_H_TableItems.h>
+
+#include <QCoreApplication>
+
+namespace plib {
+
+namespace {
+using Table = DesignParameterTable;
+
+/// The columns are texts of the page.
+struct PageText
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignParameter)
+};
+
+struct Column
+{
+    Table::Column id;
+    const char* header;
+    int width; ///< pixels
+};
+
+constexpr Column Columns[] = {
+    {Table::Selection, QT_TRANSLATE_NOOP("DesignParameter", "Selection"), 150},
+    {Table::Type, QT_TRANSLATE_NOOP("DesignParameter", "Type"), 150},
+    {Table::DirectionAndDistance, QT_TRANSLATE_NOOP("DesignParameter", "Direction and Distance"),
+     200},
+    {Table::Reinforcement, QT_TRANSLATE_NOOP("DesignParameter", "Reinforcement"), 120},
+    {Table::CrackControl, QT_TRANSLATE_NOOP("DesignParameter", "Crack Control"), 120},
+};
+
+VKD_H_TwHeaderItem* newHeader(const Column& column)
+{
+    const QString text = PageText::tr(column.header);
+    if (column.id != Table::Type)
+        return new VKD_H_TwHeaderItem(column.id, text, text, true, Qt::AlignCenter);
+    std::list<ComboList> types;
+    for (int type = 0; type < int(std::size(DesignTypeNames)); ++type)
+        types.push_back({PageText::tr(DesignTypeNames[type]), type});
+    return new VKD_H_TwHeaderComboBoxItem(column.id, types, text, text, true, Qt::AlignCenter);
+}
+} // namespace
+
+void buildDesignColumns(DesignParameterTable* table)
+{
+    for (const Column& column : Columns)
+        table->setHorizontalHeaderItem(column.id, newHeader(column));
+    table->resizeColumnsToContents();
+    for (const Column& column : Columns)
+        table->setColumnWidth(table->getColumnNumber(column.id), column.width);
+}
+
+} // namespace plib

@@ -1,0 +1,61 @@
+#include "designRows.h"
+
+#include <algorithm>
+
+namespace plib {
+
+DesignParameterRow* rowAt(DesignParameterData& data, int row)
+{
+    if (row < 0 || row >= int(data.rows.size()))
+        return nullptr;
+    DesignParameterRow& found = data.rows[std::size_t(row)];
+    std::sort(found.groups.begin(), found.groups.end());
+    return &found;
+}
+
+bool hasRemainingRow(const DesignParameterData& data)
+{
+    return std::any_of(data.rows.begin(), data.rows.end(),
+                       [](const DesignParameterRow& row) { return isRemainingGroups(row.groups); });
+}
+
+void collectUsedGroups(const DesignParameterData& data, int row, std::vector<int>& list)
+{
+    for (std::size_t other = 0; other < data.rows.size(); ++other) {
+        const std::vector<int>& groups = data.rows[other].groups;
+        if (int(other) != row && !isRemainingGroups(groups))
+            list.insert(list.end(), groups.begin(), groups.end());
+    }
+    std::sort(list.begin(), list.end());
+}
+
+bool hasRowWithoutGroups(const DesignParameterData& data)
+{
+    return std::any_of(data.rows.begin(), data.rows.end(),
+                       [](const DesignParameterRow& row) { return row.groups.empty(); });
+}
+
+bool mayMoveUp(const DesignParameterData& data, int row)
+{
+    return row > 1 && row < int(data.rows.size());
+}
+
+bool mayMoveDown(const DesignParameterData& data, int row)
+{
+    return row > 0 && row < int(data.rows.size()) - 1;
+}
+
+void removeRows(DesignParameterData& data, const std::set<int>& rows)
+{
+    std::size_t kept = 0;
+    auto next = rows.begin();
+    for (std::size_t row = 0; row < data.rows.size(); ++row) {
+        if (next != rows.end() && *next == int(row))
+            ++next;
+        else if (kept++ != row)
+            data.rows[kept - 1] = std::move(data.rows[row]);
+    }
+    data.rows.resize(kept);
+}
+
+} // namespace plib

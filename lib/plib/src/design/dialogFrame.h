@@ -1,0 +1,31 @@
+#pragma once
+
+#include "designFields.h"
+
+#include <VKD_QT_Dialog.h>
+#include <VKD_QT_Layouts.h>
+#include <VKD_QT_Widgets.h>
+
+class VKD_H_LineEdit;
+
+/// What the dialogs of a row's parameters have in common.
+namespace plib {
+
+/// The white face of these dialogs and their title. White is required: the figures are drawn on it.
+void dressDialog(VKD_QT_Dialog* dialog, const QString& title);
+
+/// The row with OK, which accepts, and Cancel, which rejects, at the end of the layout.
+void addOkRow(VKD_QT_Dialog* dialog, VKD_QT_VBoxLayout* layout);
+
+/// A label at a place of the grid.
+VKD_QT_Label* addLabel(VKD_QT_GridLayout* grid, int row, int column, const QString& text);
+
+/// Puts a field at a place of the grid. `about` says which value of the dialog it holds, for those
+/// who do not see where it stands.
+void addField(VKD_QT_GridLayout* grid, int row, int column, QWidget* field, const QString& about);
+
+/// Shows a field of the record, and reads one; in base units, -99999.0 for a field without a value.
+void showValue(VKD_H_LineEdit* edit, const tagZOB_QUAD_RIM& record, RealField field);
+float readValue(const VKD_H_LineEdit* edit);
+
+} // namespace plib

@@ -1,0 +1,131 @@
+#include "dlgCrackControl.h"
+
+#include "designFields.h"
+#include "designRecord.h"
+#include "dialogFrame.h"
+
+#include <StructLineEdit.h>
+#include <VKD_H_LineEdit.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
+#include <VKD_QT4_ComboBox.h>
+#include <VKD_QT_InfoText.h>
+
+namespace {
+using R = tagZOB_QUAD_RIM;
+
+constexpr int CrackWidthCode = 1026;
+constexpr int StressCode = 1092;
+constexpr int ThreeLayers = 3;
+constexpr int LayersOfASide = 3;
+constexpr int StressesBehind = 6; // behind the crack width of the same layer in the table of fields
+
+/// In millimetres and in N/mm², the units that users of these dimensions read.
+const QVector<double> CrackWidths{0.2, 0.3, 0.4};
+const QVector<double> Stresses{160, 200, 240, 280, 320, 360, 400, 450};
+
+VKD_H_LineEdit* editOf(const VKD_QT4_ComboBox* combo)
+{
+    return combo ? qobject_cast<VKD_H_LineEdit*>(combo->lineEdit()) : nullptr;
+}
+} // namespace
+
+/// A combo, its object name and that of its edit, the field of the record and its dimension. The
+/// lower crack widths share the plain name "crack"; this is meant.
+struct dlgCrackControl::Field
+{
+    Combo combo;
+    const char* name;
+    const char* editName;
+    plib::RealField field;
+    int code;
+};
+
+using D = dlgCrackControl;
+const dlgCrackControl::Field dlgCrackControl::Fields[] = {
+    {&D::m_pWKO, "m_pWKO", "crackWKO", &R::wko, CrackWidthCode},
+    {&D::m_pWKOQ, "m_pWKOQ", "crackWKOQ", &R::wkoq, CrackWidthCode},
+    {&D::m_pWKOI, "m_pWKOI", "crackWKOI", &R::wkoi, CrackWidthCode},
+    {&D::m_pWKU, "m_pWKU", "crack", &R::wku, CrackWidthCode},
+    {&D::m_pWKUQ, "m_pWKUQ", "crack", &R::wkuq, CrackWidthCode},
+    {&D::m_pWKUI, "m_pWKUI", "crack", &R::wkui, CrackWidthCode},
+    {&D::m_pSIGO, "m_pSIGO", "stressSIGO", &R::sigo, StressCode},
+    {&D::m_pSIGOQ, "m_pSIGOQ", "stressSIGOQ", &R::sigoq, StressCode},
+    {&D::m_pSIGOI, "m_pSIGOI", "stressSIGOI", &R::sigoi, StressCode},
+    {&D::m_pSIGU, "m_pSIGU", "stressSIGU", &R::sigu, StressCode},
+    {&D::m_pSIGUQ, "m_pSIGUQ", "stressSIGUQ", &R::siguq, StressCode},
+    {&D::m_pSIGUI, "m_pSIGUI", "stressSIGUI", &R::sigui, StressCode},
+};
+
+dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
+    : VKD_QT_Dialog(parent)
+    , type(record->type)
+{
+    plib::dressDialog(this, tr("Crack Control"));
+    auto layout = new VKD_QT_VBoxLayout;
+    layout->addWidget(side(true));
+    layout->addWidget(side(false));
+    layout->addWidget(new VKD_QT_InfoText(
+        true,
+        tr("Permissible crack width for crack width control with or without direct calculation. "
+           "Crack width control acc. to EN 1992-1-1, table 7.3N requires input for permissible "
+           "steel stress."),
+        this, "infoCrack"));
+    plib::addOkRow(this, layout);
+    setLayout(layout);
+    // After the lists are filled: a combo shows its first entry until it is told another value, and
+    // not set has to show as an empty field.
+    for (const Field& field : Fields)
+        if (VKD_H_LineEdit* edit = editOf(this->*field.combo))
+            plib::showValue(edit, *record, field.field);
+}
+
+VKD_QT_GroupBox* dlgCrackControl::side(bool upper)
+{
+    auto box = upper ? new VKD_QT_GroupBox(tr("Upper"), this, "upper")
+                     : new VKD_QT_GroupBox(tr("Lower"), this, "Lower");
+    auto grid = new VKD_QT_GridLayout(box);
+    plib::addLabel(grid, 0, 1, tr("Crack width"));
+    plib::addLabel(grid, 0, 3, tr("Steel stress"));
+    const QString layers[] = {tr("Principal Reinforcement"), tr("Cross Reinforcement"),
+                              tr("Third Layer")};
+    const int count = type == ThreeLayers ? 3 : 2;
+    for (int layer = 0; layer < count; ++layer) {
+        const Field* width = Fields + (upper ? 0 : LayersOfASide) + layer;
+        const QString about = layers[layer] + QLatin1String(", ") + box->title();
+        VKD_QT_Label* label = plib::addLabel(grid, layer + 1, 0, layers[layer]);
+        plib::addField(grid, layer + 1, 1, newCombo(*width), about);
+        plib::addField(grid, layer + 1, 3, newCombo(width[StressesBehind]), about);
+        label->setBuddy(this->*width->combo);
+    }
+    return box;
+}
+
+VKD_QT4_ComboBox* dlgCrackControl::newCombo(const Field& field)
+{
+    const bool isWidth = field.code == CrackWidthCode;
+    auto combo = new VKD_QT4_ComboBox(this, field.name);
+    combo->setEditable(true);
+    StructLineEdit format = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(field.code);
+    auto edit =
+        new VKD_H_LineEdit(this, &format, field.editName,
+                           isWidth ? tr("Crack width") : tr("Steel stress"), QString(), true);
+    combo->setLineEdit(edit);
+    combo->setAccessibleName(edit->accessibleName());
+    for (double value : isWidth ? CrackWidths : Stresses)
+        combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', 2));
+    return this->*field.combo = combo;
+}
+
+void dlgCrackControl::accept()
+{
+    QDialog::accept();
+}
+
+/// A field without a combo is not kept: it becomes not set.
+void dlgCrackControl::writeToRecord(tagZOB_QUAD_RIM* record) const
+{
+    for (const Field& field : Fields) {
+        const VKD_H_LineEdit* edit = editOf(this->*field.combo);
+        record->*field.field = edit ? plib::readValue(edit) : plib::NotSet;
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <tagZOB_QUAD_RIM.h>
+
+#include <VKD_QT_Dialog.h>
+
+class VKD_QT4_ComboBox;
+class VKD_QT_GroupBox;
+
+/// Edits the permissible crack widths and steel stresses of one row. The lists of usual values are
+/// a help for typing: any other value is taken as well, and nothing is checked. The third layer is
+/// there for type 3 alone; for other types its fields become not set with writeToRecord().
+class dlgCrackControl : public VKD_QT_Dialog
+{
+    Q_OBJECT
+
+public:
+    /// Shows the values of the record.
+    dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent);
+
+    /// Overwrites crack widths and steel stresses, and nothing else.
+    void writeToRecord(tagZOB_QUAD_RIM* record) const;
+
+public Q_SLOTS:
+    void accept() override;
+
+private:
+    using Combo = VKD_QT4_ComboBox* dlgCrackControl::*;
+    struct Field;
+    static const Field Fields[];
+
+    VKD_QT_GroupBox* side(bool upper);
+    VKD_QT4_ComboBox* newCombo(const Field& field);
+
+    int type;
+    VKD_QT4_ComboBox* m_pWKO = nullptr;
+    VKD_QT4_ComboBox* m_pWKOQ = nullptr;
+    VKD_QT4_ComboBox* m_pWKOI = nullptr;
+    VKD_QT4_ComboBox* m_pWKU = nullptr;
+    VKD_QT4_ComboBox* m_pWKUQ = nullptr;
+    VKD_QT4_ComboBox* m_pWKUI = nullptr;
+    VKD_QT4_ComboBox* m_pSIGO = nullptr;
+    VKD_QT4_ComboBox* m_pSIGOQ = nullptr;
+    VKD_QT4_ComboBox* m_pSIGOI = nullptr;
+    VKD_QT4_ComboBox* m_pSIGU = nullptr;
+    VKD_QT4_ComboBox* m_pSIGUQ = nullptr;
+    VKD_QT4_ComboBox* m_pSIGUI = nullptr;
+};

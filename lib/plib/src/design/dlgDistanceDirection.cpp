@@ -1,0 +1,211 @@
+#include "dlgDistanceDirection.h"
+
+#include "designFields.h"
+#include "designRecord.h"
+#include "dialogFrame.h"
+#include "languagePictures.h"
+
+#include <StructLineEdit.h>
+#include <VKD_H_LineEdit.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
+#include <VKD_QT_InfoText.h>
+#include <VKD_QT_Widgets.h>
+
+namespace {
+using R = tagZOB_QUAD_RIM;
+
+constexpr int DirectionCode = 5;
+constexpr int DistanceCode = 1024;
+constexpr int CoordinateCode = 1001;
+
+constexpr int Circular = 4;
+
+constexpr int FigureColumn = 10;
+constexpr int FigureRows = 5;
+constexpr int FigureColumns = 14;
+
+StructLineEdit description(int code)
+{
+    if (code != CoordinateCode)
+        return VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(code);
+    return {2,         CoordinateCode,      0.0,       99999.0, -99999.0, -99998.0, 2048,
+            QString(), QStringLiteral(","), QString(), {}};
+}
+
+void addFigure(VKD_QT_GridLayout* grid, const QPixmap& picture)
+{
+    auto figure = new VKD_QT_Label(grid->parentWidget());
+    figure->setPixmap(picture);
+    grid->addWidget(figure, 0, FigureColumn, FigureRows, FigureColumns, Qt::AlignHCenter);
+}
+} // namespace
+
+/// An edit, the field of the record that it shows, its object name and its dimension.
+struct dlgDistanceDirection::Field
+{
+    Edit edit;
+    plib::RealField field;
+    const char* name;
+    int code;
+};
+
+const dlgDistanceDirection::Field dlgDistanceDirection::Fields[] = {
+    {&dlgDistanceDirection::hio, &R::hio, "hio", DistanceCode},
+    {&dlgDistanceDirection::hiu, &R::hiu, "hiu", DistanceCode},
+    {&dlgDistanceDirection::hioq, &R::hioq, "hioq", DistanceCode},
+    {&dlgDistanceDirection::hiuq, &R::hiuq, "hiuq", DistanceCode},
+    {&dlgDistanceDirection::hioi, &R::hioi, "hioi", DistanceCode},
+    {&dlgDistanceDirection::hiui, &R::hiui, "hiui", DistanceCode},
+    {&dlgDistanceDirection::rio, &R::rio, "rio", DirectionCode},
+    {&dlgDistanceDirection::riu, &R::riu, "riu", DirectionCode},
+    {&dlgDistanceDirection::rioq, &R::rioq, "rioq", DirectionCode},
+    {&dlgDistanceDirection::riuq, &R::riuq, "riuq", DirectionCode},
+    {&dlgDistanceDirection::rioi, &R::rioi, "rioi", DirectionCode},
+    {&dlgDistanceDirection::riui, &R::riui, "riui", DirectionCode},
+    {&dlgDistanceDirection::xref, &R::xref, "xref", CoordinateCode},
+    {&dlgDistanceDirection::yref, &R::yref, "yref", CoordinateCode},
+    {&dlgDistanceDirection::zref, &R::zref, "zref", CoordinateCode},
+};
+
+dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* parent)
+    : VKD_QT_Dialog(parent)
+{
+    plib::dressDialog(this, tr("Direction and Distance"));
+    auto layout = new VKD_QT_VBoxLayout;
+    const int type = record->type;
+    if (type >= 1 && type < Circular) {
+        layout->addWidget(layeredDirection(type));
+        layout->addWidget(layeredDistance(type));
+    } else if (type == Circular) {
+        layout->addWidget(circular());
+        layout->addWidget(midpoint());
+    }
+    plib::addOkRow(this, layout);
+    setLayout(layout);
+    for (const Field& field : Fields)
+        if (this->*field.edit)
+            plib::showValue(this->*field.edit, *record, field.field);
+}
+
+/// A field without an edit is not kept: it becomes not set.
+void dlgDistanceDirection::writeToRecord(tagZOB_QUAD_RIM* record) const
+{
+    for (const Field& field : Fields)
+        record->*field.field =
+            this->*field.edit ? plib::readValue(this->*field.edit) : plib::NotSet;
+}
+
+VKD_QT_GroupBox* dlgDistanceDirection::layeredDirection(int type)
+{
+    VKD_QT_GroupBox* box = nullptr;
+    VKD_QT_GridLayout* grid = newGrid(tr("Direction"), "direction", &box);
+    const QLatin1String range(" (0 ... 180)");
+    addHeader(grid);
+    addRow(grid, 1, tr("Principal Reinforcement") + range, &dlgDistanceDirection::rio,
+           &dlgDistanceDirection::riu);
+    if (type >= 2)
+        addRow(grid, 2, tr("Cross Reinforcement") + range, &dlgDistanceDirection::rioq,
+               &dlgDistanceDirection::riuq);
+    if (type == 3)
+        addRow(grid, 3, tr("Third Layer") + range, &dlgDistanceDirection::rioi,
+               &dlgDistanceDirection::riui);
+    addNote(grid);
+    addFigure(grid, GET_PIXMAP_WITH_LANG(QStringLiteral(":/neq_merpara_rich.png")));
+    return box;
+}
+
+VKD_QT_GroupBox* dlgDistanceDirection::layeredDistance(int type)
+{
+    VKD_QT_GroupBox* box = nullptr;
+    VKD_QT_GridLayout* grid = newGrid(tr("Distance"), "distance", &box);
+    addHeader(grid);
+    addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"),
+           &dlgDistanceDirection::hio, &dlgDistanceDirection::hiu);
+    addRow(grid, 2, tr("Cross Reinforcement") + QLatin1String(" (DH)"), &dlgDistanceDirection::hioq,
+           &dlgDistanceDirection::hiuq);
+    if (type == 3)
+        addRow(grid, 3, tr("Third layer reinforcement (DDH)"), &dlgDistanceDirection::hioi,
+               &dlgDistanceDirection::hiui);
+    addFigure(grid, QPixmap(QStringLiteral(":/betondeckung_1.png")));
+    return box;
+}
+
+VKD_QT_GroupBox* dlgDistanceDirection::circular()
+{
+    VKD_QT_GroupBox* box = nullptr;
+    VKD_QT_GridLayout* grid = newGrid(tr("Direction / Distance"), "direction_distance", &box);
+    addHeader(grid);
+    addRow(grid, 1, tr("Direction (-180 ... 180)"), &dlgDistanceDirection::rio,
+           &dlgDistanceDirection::riu);
+    addRow(grid, 2, tr("Distance of Principal Reinforcement (H)"), &dlgDistanceDirection::hio,
+           &dlgDistanceDirection::hiu);
+    addRow(grid, 3, tr("Distance of Cross Reinforcement (DH)"), &dlgDistanceDirection::hioq,
+           &dlgDistanceDirection::hiuq);
+    addNote(grid);
+    addFigure(grid, GET_PIXMAP_WITH_LANG(QStringLiteral(":/neq_merpara_rich.png")));
+    return box;
+}
+
+VKD_QT_GroupBox* dlgDistanceDirection::midpoint()
+{
+    VKD_QT_GroupBox* box = nullptr;
+    VKD_QT_GridLayout* grid = newGrid(tr("Midpoint"), "Midpoint", &box);
+    const struct
+    {
+        QString text;
+        Edit edit;
+    } rows[] = {
+        {tr("X coordinate"), &dlgDistanceDirection::xref},
+        {tr("Y coordinate"), &dlgDistanceDirection::yref},
+        {tr("Z coordinate"), &dlgDistanceDirection::zref},
+    };
+    int number = 0;
+    for (const auto& row : rows) {
+        VKD_H_LineEdit* edit = newEdit(row.edit);
+        edit->setAccessibleDescription(row.text);
+        plib::addLabel(grid, number, 0, row.text)->setBuddy(edit);
+        grid->addWidget(edit, number++, 1, 1, 2);
+    }
+    return box;
+}
+
+VKD_QT_GridLayout* dlgDistanceDirection::newGrid(const QString& title, const char* name,
+                                                 VKD_QT_GroupBox** box)
+{
+    *box = new VKD_QT_GroupBox(title, this, name);
+    return new VKD_QT_GridLayout(*box);
+}
+
+void dlgDistanceDirection::addHeader(VKD_QT_GridLayout* grid)
+{
+    plib::addLabel(grid, 0, 1, tr("Upper") + QLatin1String(" (A)"));
+    plib::addLabel(grid, 0, 3, tr("Lower") + QLatin1String(" (B)"));
+}
+
+void dlgDistanceDirection::addRow(VKD_QT_GridLayout* grid, int row, const QString& text, Edit upper,
+                                  Edit lower)
+{
+    VKD_QT_Label* label = plib::addLabel(grid, row, 0, text);
+    plib::addField(grid, row, 1, newEdit(upper), text + QLatin1String(", ") + tr("Upper"));
+    plib::addField(grid, row, 3, newEdit(lower), text + QLatin1String(", ") + tr("Lower"));
+    label->setBuddy(this->*upper);
+}
+
+void dlgDistanceDirection::addNote(VKD_QT_GridLayout* grid)
+{
+    auto note = new VKD_QT_InfoText(true, tr("The local x-axis of the elements is the default "
+                                             "direction of the principal reinforcement."));
+    grid->addWidget(note, 4, 0, 1, 4);
+}
+
+VKD_H_LineEdit* dlgDistanceDirection::newEdit(Edit edit)
+{
+    const Field& field = *std::find_if(std::begin(Fields), std::end(Fields),
+                                       [edit](const Field& entry) { return entry.edit == edit; });
+    const QString text =
+        field.code == DirectionCode  ? tr("Rotation angle of reinforcement towards local x-axis")
+        : field.code == DistanceCode ? tr("Axial Distance")
+                                     : tr("Reference point for circular reinforcement");
+    StructLineEdit format = description(field.code);
+    return this->*edit = new VKD_H_LineEdit(this, &format, field.name, text, QString(), true);
+}

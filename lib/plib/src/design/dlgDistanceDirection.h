@@ -1,0 +1,56 @@
+#pragma once
+
+#include <tagZOB_QUAD_RIM.h>
+
+#include <VKD_QT_Dialog.h>
+#include <VKD_QT_Layouts.h>
+
+class VKD_H_LineEdit;
+class VKD_QT_GroupBox;
+
+/// Edits how the layers of reinforcement of one row lie: their directions, their distances, and for
+/// circular reinforcement the reference point. Which of the edits there are depends on the type of
+/// the record; a field without one becomes not set with writeToRecord(). Checks nothing.
+class dlgDistanceDirection : public VKD_QT_Dialog
+{
+    Q_OBJECT
+
+public:
+    /// Shows the values of the record, whose distances are in the edited form.
+    dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* parent);
+
+    /// Overwrites directions, distances and reference point, and nothing else.
+    void writeToRecord(tagZOB_QUAD_RIM* record) const;
+
+private:
+    using Edit = VKD_H_LineEdit* dlgDistanceDirection::*;
+    struct Field;
+    struct Row;
+    static const Field Fields[];
+
+    VKD_QT_GroupBox* layeredDirection(int type);
+    VKD_QT_GroupBox* layeredDistance(int type);
+    VKD_QT_GroupBox* circular();
+    VKD_QT_GroupBox* midpoint();
+    VKD_QT_GridLayout* newGrid(const QString& title, const char* name, VKD_QT_GroupBox** box);
+    void addHeader(VKD_QT_GridLayout* grid);
+    void addRow(VKD_QT_GridLayout* grid, int row, const QString& text, Edit upper, Edit lower);
+    void addNote(VKD_QT_GridLayout* grid);
+    VKD_H_LineEdit* newEdit(Edit edit);
+
+    VKD_H_LineEdit* hio = nullptr;
+    VKD_H_LineEdit* hiu = nullptr;
+    VKD_H_LineEdit* hioq = nullptr;
+    VKD_H_LineEdit* hiuq = nullptr;
+    VKD_H_LineEdit* hioi = nullptr;
+    VKD_H_LineEdit* hiui = nullptr;
+    VKD_H_LineEdit* rio = nullptr;
+    VKD_H_LineEdit* riu = nullptr;
+    VKD_H_LineEdit* rioq = nullptr;
+    VKD_H_LineEdit* riuq = nullptr;
+    VKD_H_LineEdit* rioi = nullptr;
+    VKD_H_LineEdit* riui = nullptr;
+    VKD_H_LineEdit* xref = nullptr;
+    VKD_H_LineEdit* yref = nullptr;
+    VKD_H_LineEdit* zref = nullptr;
+};

@@ -1,0 +1,259 @@
+#include "dlgReinforcement.h"
+
+#include "designFields.h"
+#include "designRecord.h"
+#include "dialogFrame.h"
+
+#include <StructLineEdit.h>
+#include <VKD_A_BarDiameterCombo.h>
+#include <vkd_a_ReinforcementCalculation.h>
+#include <VKD_H_LineEdit.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
+#include <vkd_qt_icon_named.h>
+#include <VKD_QT_MessageBox.h>
+
+namespace {
+using R = tagZOB_QUAD_RIM;
+
+constexpr int ReinforcementCode = 1021;
+constexpr int CalculationMode = 1; // for minimum and maximum alike
+constexpr int LayersOfASide = 3;
+
+struct PairOfLimits
+{
+    plib::RealField minimum;
+    plib::RealField maximum;
+};
+
+/// In the order in which the user is told.
+constexpr PairOfLimits Pairs[] = {
+    {&R::aso, &R::amo},   {&R::asu, &R::amu},   {&R::asoq, &R::amoq},
+    {&R::asuq, &R::amuq}, {&R::asoi, &R::amoi}, {&R::asui, &R::amui},
+};
+
+enum Column {
+    TextColumn = 0,
+    DiameterColumn = 1,
+    MinimumColumn = 4,
+    MinimumCalculatorColumn = 6,
+    MaximumColumn = 8,
+    MaximumCalculatorColumn = 10,
+};
+} // namespace
+
+/// The widgets of one layer and the fields of the record that they show.
+struct dlgReinforcement::Layer
+{
+    Combo diameter;
+    const char* diameterName;
+    plib::RealField diameterField;
+    Edit minimum;
+    const char* minimumName;
+    plib::RealField minimumField;
+    Slot calculateMinimum;
+    Edit maximum;
+    const char* maximumName;
+    plib::RealField maximumField;
+    Slot calculateMaximum;
+    plib::RealField maximumShown;
+};
+
+using D = dlgReinforcement;
+
+/// Principal, cross and third layer of the upper side, then of the lower side. The maximum of the
+/// upper third layer opens with that of the lower one; this is meant.
+const dlgReinforcement::Layer dlgReinforcement::Layers[] = {
+    {&D::m_pDIO, "m_pDIO", &R::dio, &D::aso, "aso", &R::aso, &D::calcO, &D::amo, "amo", &R::amo,
+     &D::calcMaxO, &R::amo},
+    {&D::m_pDIOQ, "m_pDIOQ", &R::dioq, &D::asoq, "asoq", &R::asoq, &D::calcOQ, &D::amoq, "amoq",
+     &R::amoq, &D::calcMaxOQ, &R::amoq},
+    {&D::m_pDIOI, "m_pDIOI", &R::dioi, &D::asoi, "asoi", &R::asoi, &D::calcOI, &D::amoi, "amoi",
+     &R::amoi, &D::calcMaxOI, &R::amui},
+    {&D::m_pDIU, "m_pDIU", &R::diu, &D::asu, "asu", &R::asu, &D::calcU, &D::amu, "amu", &R::amu,
+     &D::calcMaxU, &R::amu},
+    {&D::m_pDIUQ, "m_pDIUQ", &R::diuq, &D::asuq, "asuq", &R::asuq, &D::calcUQ, &D::amuq, "amuq",
+     &R::amuq, &D::calcMaxUQ, &R::amuq},
+    {&D::m_pDIUI, "m_pDIUI", &R::diui, &D::asui, "asui", &R::asui, &D::calcUI, &D::amui, "amui",
+     &R::amui, &D::calcMaxUI, &R::amui},
+};
+
+dlgReinforcement::dlgReinforcement(int index, tagZOB_QUAD_RIM* record, QWidget* parent)
+    : VKD_QT_Dialog(parent)
+    , zobIndex(index)
+{
+    plib::dressDialog(this, tr("Reinforcement"));
+    auto layout = new VKD_QT_VBoxLayout;
+    layout->addWidget(side(true, record->type));
+    layout->addWidget(side(false, record->type));
+    plib::addOkRow(this, layout);
+    setLayout(layout);
+    showValues(*record);
+}
+
+VKD_QT_GroupBox* dlgReinforcement::side(bool upper, int type)
+{
+    auto box = upper ? new VKD_QT_GroupBox(tr("Upper"), this, "upper")
+                     : new VKD_QT_GroupBox(tr("Lower"), this, "Lower");
+    auto grid = new VKD_QT_GridLayout(box);
+    plib::addLabel(grid, 0, DiameterColumn, tr("Diameter"));
+    plib::addLabel(grid, 0, MinimumColumn, tr("Min. Reinforcement"));
+    // With a small letter on the lower side: the two texts are different ones.
+    plib::addLabel(grid, 0, MaximumColumn,
+                   upper ? tr("Max. Reinforcement") : tr("max. Reinforcement"));
+    const Layer* layers = Layers + (upper ? 0 : LayersOfASide);
+    addLayer(box, 1, layers[0], tr("Principal Reinforcement"));
+    addLayer(box, 2, layers[1], tr("Cross Reinforcement"));
+    if (type == 3)
+        addLayer(box, 3, layers[2], tr("Third Layer"));
+    return box;
+}
+
+void dlgReinforcement::addLayer(QWidget* box, int row, const Layer& layer, const QString& text)
+{
+    auto grid = static_cast<VKD_QT_GridLayout*>(box->layout());
+    auto combo = new VKD_A_BarDiameterCombo(this, layer.diameterName);
+    combo->load(zobIndex);
+    this->*layer.diameter = combo;
+    const QString about = text + QLatin1String(", ") + static_cast<QGroupBox*>(box)->title();
+    plib::addLabel(grid, row, TextColumn, text)->setBuddy(combo);
+    plib::addField(grid, row, DiameterColumn, combo, about);
+    this->*layer.minimum = newEdit(layer.minimumName, tr("Minimum Reinforcement"));
+    plib::addField(grid, row, MinimumColumn, this->*layer.minimum, about);
+    addCalculator(grid, row, MinimumCalculatorColumn, layer.calculateMinimum, about);
+    this->*layer.maximum = newEdit(layer.maximumName, tr("Maximum Reinforcement"));
+    plib::addField(grid, row, MaximumColumn, this->*layer.maximum, about);
+    addCalculator(grid, row, MaximumCalculatorColumn, layer.calculateMaximum, about);
+}
+
+VKD_H_LineEdit* dlgReinforcement::newEdit(const char* name, const QString& text)
+{
+    StructLineEdit format = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(ReinforcementCode);
+    return new VKD_H_LineEdit(this, &format, name, text, QString(), true);
+}
+
+void dlgReinforcement::addCalculator(VKD_QT_GridLayout* grid, int row, int column, Slot slot,
+                                     const QString& about)
+{
+    auto button = new VKD_QT_PushButton(this, "Calc");
+    button->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/calculator")));
+    button->setAutoDefault(false);
+    button->setAccessibleName(column == MinimumCalculatorColumn
+                                  ? tr("Calculate minimum reinforcement")
+                                  : tr("Calculate maximum reinforcement"));
+    button->setToolTip(button->accessibleName());
+    plib::addField(grid, row, column, button, about);
+    connect(button, &QPushButton::clicked, this, slot);
+}
+
+void dlgReinforcement::showValues(const tagZOB_QUAD_RIM& record)
+{
+    for (const Layer& layer : Layers) {
+        if (!(this->*layer.diameter))
+            continue;
+        (this->*layer.diameter)->setCurrent(record.*layer.diameterField);
+        plib::showValue(this->*layer.minimum, record, layer.minimumField);
+        plib::showValue(this->*layer.maximum, record, layer.maximumShown);
+    }
+}
+
+/// A layer without widgets is not kept: its fields become not set.
+void dlgReinforcement::writeToRecord(tagZOB_QUAD_RIM* record) const
+{
+    for (const Layer& layer : Layers) {
+        const bool exists = this->*layer.diameter;
+        record->*layer.diameterField =
+            exists ? (this->*layer.diameter)->getCurrent() : plib::NotSet;
+        record->*layer.minimumField = exists ? plib::readValue(this->*layer.minimum) : plib::NotSet;
+        record->*layer.maximumField = exists ? plib::readValue(this->*layer.maximum) : plib::NotSet;
+    }
+}
+
+/// In single precision, as the record keeps the values. What cannot be compared is not in order.
+bool dlgReinforcement::checkMinMax(float minimum, float maximum)
+{
+    if (minimum == plib::NotSet || maximum == plib::NotSet || maximum >= minimum)
+        return true;
+    VKD_QT_MessageBox::warning(this, tr("Warning"), tr("Min greater than Max is not allowed!"),
+                               QString(), QString(), QString(), 0, -1);
+    return false;
+}
+
+void dlgReinforcement::accept()
+{
+    tagZOB_QUAD_RIM scratch{};
+    writeToRecord(&scratch);
+    for (const PairOfLimits& pair : Pairs)
+        if (!checkMinMax(scratch.*pair.minimum, scratch.*pair.maximum))
+            return; // one message at a time, however many pairs are wrong
+    QDialog::accept();
+}
+
+void dlgReinforcement::calculate(Combo combo, Edit edit)
+{
+    if (!(this->*combo) || !(this->*edit))
+        return;
+    float value = plib::readValue(this->*edit);
+    vkd_a_ReinforcementCalculation(this, zobIndex, CalculationMode, value,
+                                   (this->*combo)->getCurrent());
+    (this->*edit)->setVal(double(value));
+}
+
+void dlgReinforcement::calcO()
+{
+    calculate(&D::m_pDIO, &D::aso);
+}
+
+void dlgReinforcement::calcU()
+{
+    calculate(&D::m_pDIU, &D::asu);
+}
+
+void dlgReinforcement::calcOQ()
+{
+    calculate(&D::m_pDIOQ, &D::asoq);
+}
+
+void dlgReinforcement::calcUQ()
+{
+    calculate(&D::m_pDIUQ, &D::asuq);
+}
+
+void dlgReinforcement::calcOI()
+{
+    calculate(&D::m_pDIOI, &D::asoi);
+}
+
+void dlgReinforcement::calcUI()
+{
+    calculate(&D::m_pDIUI, &D::asui);
+}
+
+void dlgReinforcement::calcMaxO()
+{
+    calculate(&D::m_pDIO, &D::amo);
+}
+
+void dlgReinforcement::calcMaxU()
+{
+    calculate(&D::m_pDIU, &D::amu);
+}
+
+void dlgReinforcement::calcMaxOQ()
+{
+    calculate(&D::m_pDIOQ, &D::amoq);
+}
+
+void dlgReinforcement::calcMaxUQ()
+{
+    calculate(&D::m_pDIUQ, &D::amuq);
+}
+
+void dlgReinforcement::calcMaxOI()
+{
+    calculate(&D::m_pDIOI, &D::amoi);
+}
+
+void dlgReinforcement::calcMaxUI()
+{
+    calculate(&D::m_pDIUI, &D::amui);
+}

@@ -1,0 +1,81 @@
+#include "dlgSelection.h"
+
+#include "DesignParameterData.h"
+#include "rowText.h"
+
+#include <vkd_dbo_queries.h>
+#include <VKD_QT4_ComboBox.h>
+#include <vkd_qt_icon.h>
+#include <VKD_QT_Layouts.h>
+#include <VKD_QT_SignalBlocker.h>
+#include <VKD_QT_Widgets.h>
+
+namespace {
+constexpr int GroupsIcon = 2125;
+constexpr int SecondaryGroupsIcon = 2126;
+constexpr int IconSize = 32;
+
+VKD_QT_PushButton* newButton(QWidget* parent, const char* name, int icon, const QString& purpose)
+{
+    auto button = new VKD_QT_PushButton(parent, name);
+    button->setIcon(vkd_qt_icon(icon, IconSize));
+    button->setAutoDefault(false);
+    button->setToolTip(purpose);
+    button->setAccessibleName(purpose);
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    return button;
+}
+} // namespace
+
+dlgSelection::dlgSelection(int index, QWidget* parent)
+    : QWidget(parent)
+    , comboGroups(new VKD_QT4_ComboBox(this, "comboGroups"))
+    , zobIndex(index)
+{
+    comboGroups->setEditable(false);
+    comboGroups->setAccessibleName(tr("Selection"));
+    comboGroups->setMinimumContentsLength(1); // the cell's width decides, not the longest entry
+    comboGroups->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    comboGroups->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    auto groups = newButton(this, "buttonGroups", GroupsIcon, tr("Select groups"));
+    auto secondary =
+        newButton(this, "buttonSekGroups", SecondaryGroupsIcon, tr("Select secondary groups"));
+    connect(groups, &QPushButton::clicked, this, &dlgSelection::signal_groupButtonClicked);
+    connect(secondary, &QPushButton::clicked, this, &dlgSelection::signal_sekGroupButtonClicked);
+    connect(comboGroups, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this] { Q_EMIT signal_selectionComboChanged(comboGroups->currentText()); });
+    if (!vkd::dbo::hasGroups(zobIndex, nullptr))
+        groups->setEnabled(false);
+    if (!vkd::dbo::hasSgrp(zobIndex, nullptr))
+        secondary->setEnabled(false);
+    auto layout = new VKD_QT_HBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(1);
+    layout->addWidget(comboGroups);
+    layout->addWidget(groups);
+    layout->addWidget(secondary);
+    setAutoFillBackground(true);
+    setFocusProxy(comboGroups);
+}
+
+void dlgSelection::fillCombo(const plib::DesignParameterRow& row, bool remainingInUse)
+{
+    const VKD_QT_SignalBlocker blocker(comboGroups);
+    const bool isRemaining = plib::isRemainingGroups(row.groups);
+    QString selected = tr("None");
+    comboGroups->clear();
+    comboGroups->addItem(selected);
+    if (!remainingInUse || isRemaining)
+        comboGroups->addItem(tr("Remaining Groups"));
+    if (isRemaining)
+        selected = tr("Remaining Groups");
+    else if (!row.groups.empty())
+        comboGroups->addItem(selected = plib::rowText(row, 0));
+    // By its text: a secondary group named like the entry for none is shown as that.
+    comboGroups->setCurrentIndex(comboGroups->findText(selected, Qt::MatchCaseSensitive));
+}
+
+int dlgSelection::getCurrentId() const
+{
+    return comboGroups->getCurrentId();
+}

@@ -1,0 +1,69 @@
+#include "DesignDesk.h"
+
+#include <QPushButton>
+#include <QtTest>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int TypeColumn = 1; // has the editors of the framework
+} // namespace
+
+DesignDesk::DesignDesk(HostProject& project)
+    : page(new VKD_P_DesignParameter(project.doc(), project.doc(), this, false, true))
+{
+    (new QVBoxLayout(this))->addWidget(page);
+    page->init();
+    resize(1000, 500);
+    show();
+    if (!QTest::qWaitForWindowActive(this))
+        qFatal("the dialog was not activated");
+    table()->setFocus();
+}
+
+QComboBox* DesignDesk::groupCombo() const
+{
+    const QList<QComboBox*> found =
+        table()->findChildren<QComboBox*>(QStringLiteral("comboGroups"));
+    for (QComboBox* combo : found) // a closed editor goes with the next turn of the event loop
+        if (combo->parentWidget() ==
+            table()->cellWidget(table()->currentRow(), table()->currentColumn()))
+            return combo;
+    return nullptr;
+}
+
+QString DesignDesk::row(int number) const
+{
+    QStringList texts;
+    for (int column = 0; column < table()->columnCount(); ++column)
+        texts << table()->item(number, column)->text();
+    return texts.join(QLatin1Char('|')).replace(QLatin1Char('\n'), QLatin1Char('/'));
+}
+
+QString DesignDesk::groups() const
+{
+    QStringList texts;
+    for (int number = 0; number < table()->rowCount(); ++number)
+        texts << table()->item(number, 0)->text();
+    return texts.join(QLatin1Char('|'));
+}
+
+QString DesignDesk::editors() const
+{
+    QStringList places;
+    for (int number = 0; number < table()->rowCount(); ++number)
+        for (int column = 0; column < table()->columnCount(); ++column)
+            if (column != TypeColumn && table()->cellWidget(number, column))
+                places << QStringLiteral("%1,%2").arg(number).arg(column);
+    return places.join(QLatin1Char(' '));
+}
+
+void DesignDesk::press(const char* button)
+{
+    QTest::mouseClick(findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+}
+
+void DesignDesk::keys(const std::vector<Qt::Key>& keys)
+{
+    for (Qt::Key key : keys)
+        QTest::keyClick(table(), key);
+}

@@ -1,0 +1,61 @@
+#include "HostProject.h"
+
+#include <vkd_dbo_model.h>
+#include <vkd_zob.h>
+
+namespace {
+constexpr int Key1 = 200;
+constexpr int Key2 = 6;
+
+void require(bool condition, const char* what)
+{
+    if (!condition)
+        qFatal("%s", what);
+}
+} // namespace
+
+HostProject::HostProject(const QString& name)
+    : m_doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("project.zob"))))
+{
+    require(bool(m_doc), "no project");
+    if (name.isEmpty())
+        return;
+    vkd::dbo::Model model;
+    QString error;
+    require(vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name), 1, &model, &error),
+            qPrintable(error));
+    require(vkd::dbo::storeModel(m_doc->index(), model), "model not stored");
+}
+
+void HostProject::reopen()
+{
+    const QString path = m_doc->path();
+    require(m_doc->close() == 0, "not all was stored");
+    m_doc = VKD_H_ZOBDoc::open(path);
+    require(bool(m_doc), "project cannot be opened again");
+}
+
+std::vector<tagZOB_QUAD_RIM> HostProject::records()
+{
+    std::vector<tagZOB_QUAD_RIM> found;
+    tagZOB_QUAD_RIM record{};
+    int length = sizeof record;
+    for (int position = 0;
+         vkd_zob_get(m_doc->index(), Key1, Key2, &record, &length, position) == VKD_ZOB_OK;
+         ++position)
+        found.push_back(record);
+    vkd_zob_free_ex(m_doc->index(), Key1, Key2);
+    return found;
+}
+
+void HostProject::setRecords(const std::vector<tagZOB_QUAD_RIM>& records)
+{
+    const int none = 0;
+    const int length = sizeof(tagZOB_QUAD_RIM);
+    const int index = m_doc->index();
+    vkd_zob_lock_ex(index, Key1, Key2);
+    vkd_zob_put(index, Key1, Key2, nullptr, &none, 0);
+    for (const tagZOB_QUAD_RIM& record : records)
+        vkd_zob_put(index, Key1, Key2, &record, &length, 1);
+    vkd_zob_free_ex(index, Key1, Key2);
+}

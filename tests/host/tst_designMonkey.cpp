@@ -1,0 +1,204 @@
+#include "DesignDesk.h"
+#include "WidgetTestSupport.h"
+
+#include <VKD_H_ProjectDialogPage.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QMenu>
+
+#include <algorithm>
+#include <random>
+
+namespace {
+constexpr unsigned Seed = 20261121;
+constexpr int Steps = 20000;
+constexpr int MostRows = 40; // more would only repeat the same
+
+/// Presses keys and clicks at random. A modal dialog or a menu is worked on for a few steps while
+/// it blocks the caller, and is left then.
+class Monkey : public QObject
+{
+public:
+    explicit Monkey(DesignDesk* desk)
+        : m_desk(desk)
+    {
+        workOnDialog();
+    }
+
+    void step()
+    {
+        switch (below(8)) {
+        case 0: clickSomewhere(m_desk->table()->viewport()); break;
+        case 1:
+        case 2: openSomeCell(); break;
+        case 3: below(4) ? pressButton(m_desk) : keepRowsFew(); break;
+        case 4: press(QApplication::focusWidget(), Qt::Key_Tab); break;
+        default: press(QApplication::focusWidget(), randomKey()); break;
+        }
+        if (below(4) == 0)
+            QApplication::processEvents();
+    }
+
+private:
+    int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
+
+    Qt::Key randomKey()
+    {
+        static const Qt::Key keys[] = {
+            Qt::Key_Up,     Qt::Key_Down,  Qt::Key_Left, Qt::Key_Right, Qt::Key_F2,
+            Qt::Key_Enter,  Qt::Key_Space, Qt::Key_Home, Qt::Key_End,   Qt::Key_Insert,
+            Qt::Key_Delete, Qt::Key_D,     Qt::Key_Down, Qt::Key_Right, Qt::Key_PageDown,
+            Qt::Key_Escape, Qt::Key_A,     Qt::Key_1,    Qt::Key_Minus, Qt::Key_Backspace,
+        };
+        return keys[below(int(std::size(keys)))];
+    }
+
+    void press(QWidget* widget, Qt::Key key)
+    {
+        // Escape with nothing to close would leave the dialog of the host.
+        const bool staysOpen = key != Qt::Key_Escape || !m_desk->editors().isEmpty() ||
+                               m_desk != QApplication::activeWindow();
+        if (widget && staysOpen)
+            QTest::keyClick(widget, key,
+                            below(9) ? Qt::NoModifier : Qt::KeyboardModifier(Qt::ControlModifier));
+    }
+
+    void clickSomewhere(QWidget* widget)
+    {
+        const QPoint place(below(qMax(1, widget->width())), below(qMax(1, widget->height())));
+        QWidget* hit = widget->childAt(place);
+        QWidget* target = hit ? hit : widget;
+        const Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::NoModifier,
+                                                   Qt::ControlModifier, Qt::ShiftModifier};
+        const QPoint local = target->mapFrom(widget, place);
+        if (below(20) == 0)
+            QTest::mouseDClick(target, Qt::LeftButton, {}, local);
+        else if (below(20) == 0)
+            QCoreApplication::postEvent(
+                m_desk->table()->viewport(),
+                new QContextMenuEvent(QContextMenuEvent::Keyboard, place, place));
+        else
+            QTest::mouseClick(target, Qt::LeftButton, modifiers[below(4)], local);
+    }
+
+    void openSomeCell()
+    {
+        QTableWidget* table = m_desk->table();
+        table->setCurrentCell(below(table->rowCount()), below(2));
+        QTest::keyClick(table, Qt::Key_F2);
+        if (m_desk->groupCombo())
+            pressButton(m_desk->groupCombo()->parentWidget());
+    }
+
+    void pressButton(QWidget* parent)
+    {
+        QList<QAbstractButton*> buttons = parent->findChildren<QAbstractButton*>();
+        std::shuffle(buttons.begin(), buttons.end(), m_random);
+        for (QAbstractButton* button : buttons)
+            if (button->isVisible() &&
+                (button->objectName() != QLatin1String("btnDelete") || !below(4)))
+                return QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    void keepRowsFew()
+    {
+        if (m_desk->table()->rowCount() < MostRows)
+            return m_desk->press("btnNew");
+        m_desk->table()->selectAll();
+        m_desk->table()->setRangeSelected({0, 0, below(MostRows), 4}, false);
+        m_desk->press("btnDelete");
+    }
+
+    void workOnDialog()
+    {
+        QTimer::singleShot(0, this, [this] { workOnDialog(); }); // first: a step may open another
+        QWidget* window = QApplication::activePopupWidget();
+        if (!window)
+            window = QApplication::activeModalWidget();
+        if (!window || window == m_desk)
+            return;
+        if (below(12) == 0)
+            return QTest::keyClick(window, Qt::Key_Escape);
+        if (QApplication::activePopupWidget()) {
+            QWidget* list = window->findChild<QAbstractItemView*>();
+            return QTest::keyClick(list ? list : window, below(3) ? Qt::Key_Down : Qt::Key_Enter);
+        }
+        switch (below(3)) {
+        case 0: return pressButton(window);
+        case 1: return clickSomewhere(window);
+        default:
+            QWidget* focus = window->focusWidget();
+            QTest::keyClick(focus ? focus : window, randomKey());
+        }
+    }
+
+    DesignDesk* m_desk;
+    std::mt19937 m_random{Seed};
+};
+} // namespace
+
+class tst_designMonkey : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rowsAndTableAgree();
+};
+
+namespace {
+/// Group by group, what the table says about it, in an order of its own: a group may stand in two
+/// rows, and rows with equal parameters are one when they are read again. The page's entries, which
+/// keep the rows without groups, have no place for the limits of the reinforcement.
+QStringList groupByGroup(const DesignDesk& desk)
+{
+    QStringList all;
+    for (int number = 0; number < desk.table()->rowCount(); ++number) {
+        const QString row = desk.row(number);
+        const QStringList groups = row.section(QLatin1Char('|'), 0, 0).split(QLatin1Char(';'));
+        const int lastColumn = row.startsWith(QLatin1String("None")) ? 2 : -1;
+        for (const QString& group : groups)
+            all << group + QLatin1Char('|') + row.section(QLatin1Char('|'), 1, lastColumn);
+    }
+    all.sort();
+    return all;
+}
+} // namespace
+
+/// The rows are seen by what is written: a fresh page has to show the same.
+void tst_designMonkey::rowsAndTableAgree()
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+    VKD_QT_InitTranslator::languageChanged();
+    HostProject project(QStringLiteral("slab"));
+    VKD_H_ProjectDialogPage entries;
+    QStringList before;
+    {
+        DesignDesk desk(project);
+        desk.page->getEntrys(entries);
+        int counted = desk.table()->rowCount();
+        connect(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged, &desk,
+                [&counted](int rows) { counted = rows; });
+        Monkey monkey(&desk);
+        for (int step = 0; step < Steps; ++step) {
+            monkey.step();
+            desk.show(); // some key may have closed the dialog
+            QCOMPARE(desk.table()->rowCount(), counted);
+            const QString editors = desk.editors();
+            QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
+        }
+        desk.press("btnNew");
+        desk.table()->setCurrentCell(0, 1); // closes the last editor
+        before = groupByGroup(desk);
+        desk.page->setEntrys(entries);
+    }
+    DesignDesk desk(project);
+    desk.page->getEntrys(entries);
+    QVERIFY(before.size() > 2);
+    QCOMPARE(groupByGroup(desk).join(QLatin1Char('\n')), before.join(QLatin1Char('\n')));
+}
+
+PLIB_WIDGET_TEST_MAIN(tst_designMonkey)
+#include "tst_designMonkey.moc"
