@@ -87,6 +87,8 @@ static const Query queries[] = {
     {"quad tendons", hasQuadTendons, [](Model& m) { m.quadTendons.resize(1); }},
     {"beam tendons", hasBeamTendons, [](Model& m) { m.beamTendons.resize(1); }},
     {"cross sections", hasCrossSections, [](Model& m) { m.crossSections.resize(1); }},
+    {"groups", hasGroups, [](Model& m) { m.groups.resize(1); }},
+    {"secondary groups", hasSgrp, [](Model& m) { m.secondaryGroups.resize(1); }},
 };
 
 /// Models in a project, and the questions about them.

@@ -53,11 +53,6 @@ QString toolTip(const QString& text)
                ? text
                : QLatin1String("<span>") + text.toHtmlEscaped() + QLatin1String("</span>");
 }
-
-const QString& longer(const QString& a, const QString& b)
-{
-    return b.size() > a.size() ? b : a;
-}
 } // namespace
 
 GroupTableModel::GroupTableModel(VKD_H_GroupKind kind, const QVector<GroupRow>& rows,
@@ -110,15 +105,19 @@ bool GroupTableModel::hasRemarks() const
                        [](const GroupRow& row) { return row.isTaken || !row.isInModel; });
 }
 
-QString GroupTableModel::longestText(int column) const
+QStringList GroupTableModel::longestTexts(int column) const
 {
-    QString longest;
-    for (const GroupRow& row : m_rows)
-        longest = longer(longest, text(row, column));
-    if (column == Remark)
-        for (const GroupRow& row : m_rows)
-            longest = longer(longest, remark(row, !row.isChecked));
-    return longest;
+    constexpr int Most = 50;
+    QStringList texts;
+    for (const GroupRow& row : m_rows) {
+        texts << text(row, column);
+        if (column == Remark)
+            texts << remark(row, !row.isChecked);
+    }
+    const int count = qMin(Most, texts.size());
+    std::partial_sort(texts.begin(), texts.begin() + count, texts.end(),
+                      [](const QString& a, const QString& b) { return a.size() > b.size(); });
+    return texts.mid(0, count);
 }
 
 int GroupTableModel::rowCount(const QModelIndex& parent) const

@@ -25,8 +25,8 @@ public:
     int rowOf(int group) const;
     /// Whether there is anything that this column could have to say.
     bool hasRemarks() const;
-    /// The longest text that the column may come to show.
-    QString longestText(int column) const;
+    /// The longest texts that the column may come to show, a few dozen at most.
+    QStringList longestTexts(int column) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

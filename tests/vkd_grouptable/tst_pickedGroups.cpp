@@ -1,0 +1,117 @@
+#include "TestSupport.h"
+
+#include <VKD_H_SelGRP_Dialog.h>
+#include <VKD_H_ZOBDoc.h>
+
+#include <QTemporaryDir>
+
+#include <numeric>
+
+using Groups = std::vector<int>;
+Q_DECLARE_METATYPE(Groups)
+
+/// The selection that the 3D view leaves in a project.
+class TestPickedGroups : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_doc = VKD_H_ZOBDoc::create(m_folder->filePath(QStringLiteral("p.vkd")));
+        QVERIFY(m_doc);
+    }
+
+    void roundTrip_data()
+    {
+        Groups many(3000);
+        std::iota(many.begin(), many.end(), 1);
+        QTest::addColumn<Groups>("put");
+        QTest::addColumn<Groups>("got");
+        QTest::newRow("empty") << Groups() << Groups();
+        QTest::newRow("sorted, each once") << Groups{9, 2, 9, 0} << Groups{0, 2, 9};
+        QTest::newRow("secondary") << Groups{0x534c4f43, 7} << Groups{7, 0x534c4f43};
+        QTest::newRow("many") << many << many;
+    }
+
+    void roundTrip()
+    {
+        QFETCH(const Groups, put);
+        QFETCH(const Groups, got);
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {100, 200, 300}));
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), put));
+        m_doc = VKD_H_ZOBDoc::open(m_doc->path());
+        Groups groups{1, 2};
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), 0);
+        QCOMPARE(groups, got);
+        QVERIFY(VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_doc->index()));
+        groups = {1, 2};
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), -1);
+        QCOMPARE(groups, (Groups{1, 2}));
+    }
+
+    void bytesInTheProject()
+    {
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {258}));
+        QByteArray bytes(100, '\0');
+        int length = bytes.size();
+        QCOMPARE(vkd_zob_get(m_doc->index(), 430, 0, bytes.data(), &length, 0), int(VKD_ZOB_OK));
+        vkd_zob_free_ex(m_doc->index(), 430, 0);
+        QCOMPARE(bytes.left(length), QByteArray("\1\0\0\0\2\1\0\0", 8));
+    }
+
+    void damaged_data()
+    {
+        QTest::addColumn<QByteArray>("record");
+        const auto row = [](const char* name, const QByteArray& hex) {
+            QTest::newRow(name) << QByteArray::fromHex(hex);
+        };
+        row("cut within the count", "020000");
+        row("cut within a group", "0100000007");
+        row("fewer than counted", "0200000007000000");
+        row("more than counted", "00000000 07000000");
+        row("negative count", "ffffffff");
+        row("huge count", "ffffff7f 07000000");
+        row("the mark of remaining groups", "01000000 ffffffff");
+        row("twice the same", "02000000 07000000 07000000");
+        row("descending", "02000000 07000000 06000000");
+    }
+
+    void damaged()
+    {
+        QFETCH(const QByteArray, record);
+        const int length = record.size();
+        vkd_zob_put(m_doc->index(), 430, 0, record.constData(), &length, 0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is damaged")));
+        Groups groups{1, 2};
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), -1);
+        QCOMPARE(groups, (Groups{1, 2}));
+    }
+
+    void refused()
+    {
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {5}));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("-1 is no group")));
+        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {-1}));
+        const QString path = m_doc->path();
+        m_doc.reset();
+        QFile::setPermissions(path, QFile::ReadOwner);
+        m_doc = VKD_H_ZOBDoc::open(path);
+        const QRegularExpression locked(QStringLiteral("cannot take the lock"));
+        QTest::ignoreMessage(QtWarningMsg, locked);
+        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {6}));
+        QTest::ignoreMessage(QtWarningMsg, locked);
+        QVERIFY(!VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_doc->index()));
+        Groups groups;
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), 0);
+        QCOMPARE(groups, Groups{5});
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
+};
+
+PLIB_TEST_MAIN(TestPickedGroups)
+#include "tst_pickedGroups.moc"
