@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include <vkd_dbo_groups.h>
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_queries.h>
 #include <vkd_lib_searchpath.h>
@@ -8,6 +9,7 @@
 
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <tuple>
 #include <vector>
 
@@ -190,7 +192,41 @@ private Q_SLOTS:
         QVERIFY(readModel(m_index) == model);
     }
 
+    void groupsOfShippedModels()
+    {
+        for (const char* name : {"building", "slab", "hall"}) {
+            const Model model = shipped(name);
+            QVERIFY(storeModel(m_index, model));
+            // An element without a group, and one of a group that is not listed.
+            const int cut = 7, whole = 8;
+            vkd_zob_put(m_index, 200, 0, "\1\0\0\0\1\0\0", &cut, 1);
+            vkd_zob_put(m_index, 200, 0, "\1\0\0\0\377\377\377\177", &whole, 1);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("too short")));
+            const QVector<GroupSummary> groups = readGroups(m_index);
+            QCOMPARE(groups.size(), model.groups.size());
+            for (int i = 0; i < groups.size(); ++i) {
+                const int number = groups[i].number;
+                QVERIFY(number == model.groups[i].number &&
+                        groups[i].title == model.groups[i].title);
+                const GroupContents& contents = groups[i].contents;
+                QCOMPARE(contents.quads, elementsOf(number, model.quads));
+                QCOMPARE(contents.beams, elementsOf(number, model.beams));
+                QCOMPARE(contents.trusses, elementsOf(number, model.trusses));
+                QCOMPARE(contents.cables, elementsOf(number, model.cables));
+                QCOMPARE(contents.springs, elementsOf(number, model.springs));
+                QCOMPARE(contents.bricks, elementsOf(number, model.bricks));
+            }
+        }
+    }
+
 private:
+    template <typename Element>
+    static int elementsOf(int group, const QVector<Element>& elements)
+    {
+        return int(std::count_if(elements.begin(), elements.end(),
+                                 [&](const Element& element) { return element.group == group; }));
+    }
+
     static Model shipped(const char* name)
     {
         Model model;
