@@ -7,6 +7,8 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <cstddef>
+#include <functional>
 
 namespace {
 Q_LOGGING_CATEGORY(lcPicked, "vkd.grouptable")
@@ -24,7 +26,7 @@ QByteArray word(int value)
 
 int wordAt(const QByteArray& bytes, int position)
 {
-    return qFromLittleEndian<qint32>(bytes.constData() + position * WordLength);
+    return qFromLittleEndian<qint32>(bytes.constData() + std::ptrdiff_t(position) * WordLength);
 }
 
 QByteArray toRecord(const std::vector<int>& groups)
