@@ -265,9 +265,14 @@ void tst_helpWindow::goesWithItsParents()
     auto page = new QWidget(dialog.data());
     dialog->show();
     QVERIFY(VKD_T_Help::show(page, "MERDAN", "PARA"));
-    QCOMPARE(helpWindows().at(0)->windowHandle()->transientParent(), dialog->windowHandle());
+    const auto host = [] { return helpWindows().at(0)->windowHandle()->transientParent(); };
+    QCOMPARE(host(), dialog->windowHandle());
+    dialog->hide();
+    QCOMPARE(host(), main->windowHandle());
+    QVERIFY(VKD_T_Help::show(page, "MERDAN", "PARA"));
+    QCOMPARE(host(), dialog->windowHandle());
     dialog.reset();
-    QCOMPARE(helpWindows().at(0)->windowHandle()->transientParent(), main->windowHandle());
+    QCOMPARE(host(), main->windowHandle());
     main.reset();
     QVERIFY(helpWindows().isEmpty());
 }

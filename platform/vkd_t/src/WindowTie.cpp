@@ -61,8 +61,7 @@ void WindowTie::setHost(QWidget* host)
 
 void WindowTie::followModal()
 {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal && modal->window() != m_host)
+    if (QWidget* modal = QApplication::activeModalWidget())
         setHost(modal->window());
 }
 
