@@ -1,0 +1,78 @@
+#pragma once
+
+#include "StructLineEdit.h"
+#include "vkd_h_export.h"
+
+#include <QLineEdit>
+
+class FieldMessage;
+
+/// An input field for a number of a dimension, in base units for its callers and in the shown unit
+/// for its users; also as the line edit of an editable combo box with preset texts. A value that is
+/// only shown comes back bit for bit, however few digits stand there. Text that is no acceptable
+/// number stays, marked and with a message at the field, until it is mended or Escape brings the
+/// last value's text back; meanwhile that value is the one that counts.
+class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    /// `description` is copied; null is a number without unit. `text` names the quantity, for the
+    /// tool tip and for screen readers; the tool tip also holds `secondText`, a further
+    /// explanation. `showsUnit` shows the unit in the field.
+    VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, const char* objectName,
+                   const QString& text, const QString& secondText, bool showsUnit);
+
+    /// Shows a value in base units, any that is. As the line edit of a combo box this is to be
+    /// called after the entries are in, because the combo box puts its current entry into the
+    /// field.
+    void setVal(double value);
+    /// The value of the text as it stands, while it is typed too. If the text is refused: the value
+    /// from before it was typed. -99999.0, or what the description says, for an empty field.
+    double getVal() const;
+
+    /// Why the text that stands in the field is refused, in the language of the desktop; empty if
+    /// it is not.
+    QString refusal() const;
+    /// The first enabled field on `page` whose text is refused, null if there is none. It gets the
+    /// focus and shows why. For the OK of a dialog, before the fields are read.
+    static VKD_H_LineEdit* showFirstRefused(QWidget* page);
+
+Q_SIGNALS:
+    /// getVal() gives another value than before, because the user typed or chose a preset text.
+    void valueChanged();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void takeText(const QString& text);
+    void keepText();
+    bool restoreText();
+    void dropInlineCompletion();
+    void setTips();
+    void setMark(const QString& reason);
+    void setMargins();
+    void showMessage();
+    void hideMessage();
+    void paintMark(QPainter* painter, const QRect& place) const;
+
+    StructLineEdit m_description;
+    QString m_name;
+    QString m_explanation;
+    bool m_showsUnit;
+    double m_value; ///< the value kept, which the text m_shown stands for, exactly
+    double m_told;  ///< the value of the last valueChanged()
+    QString m_shown;
+    QString m_mark; ///< the reason that the mark stands for; empty without a mark
+    bool m_isTyped = false;
+    bool m_selectsAll = false;
+    FieldMessage* m_message = nullptr; ///< made when it is first needed
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+#include <QTimer>
+
+/// A short message at an input field, in the look of a tool tip. Unlike one it outlives the change
+/// of focus and the key presses that it is about; after a while it goes by itself.
+class FieldMessage : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// The field becomes the parent.
+    explicit FieldMessage(QWidget* field);
+
+    /// Shows the text below the field, or above it at the foot of the screen.
+    void showText(const QString& text);
+
+private:
+    QTimer m_end;
+};

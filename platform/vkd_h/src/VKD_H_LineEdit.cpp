@@ -1,0 +1,324 @@
+#include "VKD_H_LineEdit.h"
+
+#include "FieldMessage.h"
+#include "refusalText.h"
+#include "vkd_h_numberText.h"
+
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOptionFrame>
+
+#include <cmath>
+#include <utility>
+
+namespace {
+constexpr int Gap = 4; // between the number and what stands around it, in pixels
+constexpr int LongestQuote = 24;
+
+bool isSame(double a, double b)
+{
+    return a == b || (std::isnan(a) && std::isnan(b));
+}
+
+/// A red as light or dark as the field's ground asks for; palettes have no role for it.
+QColor markColour(const QPalette& palette)
+{
+    const bool isLight = palette.color(QPalette::Base).lightnessF() > 0.5;
+    return QColor::fromHslF(0.0, 0.85, isLight ? 0.42 : 0.68);
+}
+
+QColor dimmed(QColor colour)
+{
+    colour.setAlphaF(0.6);
+    return colour;
+}
+
+QString quoted(const QString& text)
+{
+    const QString simple = text.simplified();
+    return simple.size() > LongestQuote ? simple.left(LongestQuote) + QChar(0x2026) : simple;
+}
+} // namespace
+
+VKD_H_LineEdit::VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, const char* objectName,
+                               const QString& text, const QString& secondText, bool showsUnit)
+    : QLineEdit(parent)
+    , m_description(description ? *description : vkd_h_defaultStructLineEdit(-1))
+    , m_name(text)
+    , m_explanation(secondText)
+    , m_showsUnit(showsUnit)
+    , m_value(m_description.value)
+    , m_told(m_value)
+{
+    setObjectName(QLatin1String(objectName));
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    connect(this, &QLineEdit::textEdited, this, [this] { m_isTyped = true; });
+    connect(this, &QLineEdit::textChanged, this, &VKD_H_LineEdit::takeText);
+    setTips();
+    setMargins();
+    setVal(m_value);
+}
+
+void VKD_H_LineEdit::setVal(double value)
+{
+    m_value = m_told = value;
+    m_shown = vkd_h_numberText(value, m_description);
+    setText(m_shown);
+    setMark(QString()); // the text may have been the same, and then no signal came
+}
+
+double VKD_H_LineEdit::getVal() const
+{
+    if (text() == m_shown)
+        return m_value;
+    const VkdNumberReading reading = vkd_h_readNumber(text(), m_description);
+    return reading.state == VkdNumberState::Accepted ? reading.value : m_value;
+}
+
+QString VKD_H_LineEdit::refusal() const
+{
+    if (text() == m_shown)
+        return QString();
+    const VkdNumberReading reading = vkd_h_readNumber(text(), m_description);
+    return refusalText(reading.state, quoted(text()), m_description);
+}
+
+VKD_H_LineEdit* VKD_H_LineEdit::showFirstRefused(QWidget* page)
+{
+    const QList<VKD_H_LineEdit*> fields = page->findChildren<VKD_H_LineEdit*>();
+    for (VKD_H_LineEdit* field : fields) {
+        if (!field->isEnabled() || field->refusal().isEmpty())
+            continue;
+        field->setFocus();
+        field->setMark(field->refusal());
+        field->showMessage();
+        return field;
+    }
+    return nullptr;
+}
+
+/// Text that the user did not type is a preset and counts at once: Escape does not undo it.
+void VKD_H_LineEdit::takeText(const QString& text)
+{
+    const bool isTyped = std::exchange(m_isTyped, false);
+    const VkdNumberReading reading = vkd_h_readNumber(text, m_description);
+    if (!isTyped && text != m_shown && reading.state == VkdNumberState::Accepted) {
+        m_value = reading.value;
+        m_shown = text;
+    }
+    const bool mayGrow = isTyped && reading.state == VkdNumberState::Incomplete;
+    setMark(mayGrow ? QString() : refusal());
+    if (isTyped && !m_mark.isEmpty() && hasFocus())
+        showMessage();
+    if (!isSame(m_told, getVal())) {
+        m_told = getVal();
+        Q_EMIT valueChanged();
+    }
+}
+
+/// The end of typing: what stands in the field is taken and written as fields write it.
+void VKD_H_LineEdit::keepText()
+{
+    m_value = getVal();
+    m_shown = vkd_h_numberText(m_value, m_description);
+    if (text() != m_shown)
+        setText(m_shown);
+}
+
+bool VKD_H_LineEdit::restoreText()
+{
+    if (text() == m_shown)
+        return false;
+    setText(m_shown);
+    selectAll();
+    return true;
+}
+
+/// A combo box completes what is typed by its entries, so that "1" would become "10" unasked.
+void VKD_H_LineEdit::dropInlineCompletion()
+{
+    if (completer() && completer()->completionMode() == QCompleter::InlineCompletion)
+        setCompleter(nullptr);
+}
+
+void VKD_H_LineEdit::setTips()
+{
+    const QString unit = vkd_h_suffixText(m_description);
+    const QString name = unit.isEmpty()     ? m_name
+                         : m_name.isEmpty() ? unit
+                                            : tr("%1 in %2").arg(m_name, unit);
+    setAccessibleName(name);
+    setAccessibleDescription(m_mark.isEmpty() ? m_explanation : m_mark);
+    QStringList lines{m_mark, name, m_explanation};
+    lines.removeAll(QString());
+    setToolTip(lines.join(QLatin1Char('\n')));
+}
+
+void VKD_H_LineEdit::setMark(const QString& reason)
+{
+    const QString mark = reason.isEmpty()
+                             ? reason
+                             : reason + QLatin1Char('\n') + keptValueText(m_value, m_description);
+    if (mark.isEmpty())
+        hideMessage();
+    if (mark == m_mark)
+        return;
+    m_mark = mark;
+    setTips();
+    setMargins();
+    update();
+}
+
+void VKD_H_LineEdit::setMargins()
+{
+    const auto widthOf = [this](const QString& text) {
+        return text.isEmpty() ? 0 : fontMetrics().horizontalAdvance(text) + Gap;
+    };
+    const int unit = m_showsUnit ? widthOf(vkd_h_suffixText(m_description)) : 0;
+    const int mark = m_mark.isEmpty() ? 0 : fontMetrics().ascent() + Gap;
+    setTextMargins(widthOf(m_description.prefix), 0, unit + mark, 0);
+}
+
+void VKD_H_LineEdit::showMessage()
+{
+    if (!isVisible())
+        return;
+    if (!m_message)
+        m_message = new FieldMessage(this);
+    m_message->showText(m_mark);
+}
+
+void VKD_H_LineEdit::hideMessage()
+{
+    if (m_message)
+        m_message->hide();
+}
+
+bool VKD_H_LineEdit::event(QEvent* event)
+{
+    // A dialog's shortcut must not take the Escape that brings the text back.
+    if (event->type() == QEvent::ShortcutOverride && text() != m_shown &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void VKD_H_LineEdit::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::LanguageChange:
+        if (text() == m_shown)
+            setVal(m_value);
+        else
+            setMark(refusal());
+        setTips();
+        break;
+    case QEvent::FontChange:
+    case QEvent::StyleChange: setMargins(); break;
+    case QEvent::ActivationChange: hideMessage(); break;
+    default: break;
+    }
+}
+
+void VKD_H_LineEdit::keyPressEvent(QKeyEvent* event)
+{
+    dropInlineCompletion();
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const QString reason = refusal();
+    if (event->key() == Qt::Key_Escape && restoreText())
+        return;
+    if (isEnter && !reason.isEmpty()) { // and not on to the dialog's OK
+        setMark(reason);
+        showMessage();
+        return;
+    }
+    if (isEnter)
+        keepText();
+    QLineEdit::keyPressEvent(event);
+}
+
+void VKD_H_LineEdit::focusInEvent(QFocusEvent* event)
+{
+    dropInlineCompletion();
+    m_selectsAll = event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
+    if (!m_mark.isEmpty() && event->reason() != Qt::PopupFocusReason)
+        showMessage();
+}
+
+void VKD_H_LineEdit::focusOutEvent(QFocusEvent* event)
+{
+    const bool staysIn =
+        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    const QString reason = refusal();
+    if (!staysIn && reason.isEmpty())
+        keepText();
+    QLineEdit::focusOutEvent(event);
+    if (staysIn || reason.isEmpty())
+        return;
+    setMark(reason);
+    showMessage();
+}
+
+void VKD_H_LineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(m_selectsAll, false) && !hasSelectedText())
+        selectAll();
+}
+
+void VKD_H_LineEdit::hideEvent(QHideEvent* event)
+{
+    hideMessage();
+    QLineEdit::hideEvent(event);
+}
+
+void VKD_H_LineEdit::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    QPainter painter(this);
+    QRect place = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    place.adjust(Gap / 2, 0, -Gap / 2, 0);
+    if (!m_mark.isEmpty()) {
+        paintMark(&painter, place);
+        place.setRight(place.right() - fontMetrics().ascent() - Gap);
+    }
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    painter.setPen(dimmed(palette().color(group, QPalette::Text)));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, m_description.prefix);
+    if (m_showsUnit)
+        painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, vkd_h_suffixText(m_description));
+}
+
+/// A frame, and a warning sign for those who do not see its colour.
+void VKD_H_LineEdit::paintMark(QPainter* painter, const QRect& place) const
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(markColour(palette()), 2));
+    painter->drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
+
+    const double side = fontMetrics().ascent();
+    QRectF sign(0, 0, side, side);
+    sign.moveCenter(QRectF(place).center());
+    sign.moveRight(place.right() + 1);
+    QPainterPath triangle(QPointF(sign.center().x(), sign.top()));
+    triangle.lineTo(sign.bottomRight());
+    triangle.lineTo(sign.bottomLeft());
+    triangle.closeSubpath();
+    painter->fillPath(triangle, markColour(palette()));
+    QFont bold = font();
+    bold.setBold(true);
+    bold.setPixelSize(qMax(1, int(side * 0.75)));
+    painter->setFont(bold);
+    painter->setPen(palette().color(QPalette::Base));
+    painter->drawText(sign, Qt::AlignHCenter | Qt::AlignBottom, QStringLiteral("!"));
+    painter->restore();
+}

@@ -1,0 +1,150 @@
+#include "vkd_h_numberText.h"
+
+#include "StructLineEdit.h"
+#include "vkd_h_units.h"
+
+#include <vkd_lib_value.h>
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+constexpr int LongestText = 200;
+constexpr int SignificantDigits = 6;
+constexpr double ExponentFrom = 1e9;
+constexpr double ExponentBelow = 1e-6;
+
+/// The text with "." as the decimal sign and "-" as the minus, for the C locale.
+QString plainText(const QString& text, const QString& decimalSigns)
+{
+    QString plain = text;
+    for (QChar& sign : plain) {
+        if (sign == QLatin1Char(',') || decimalSigns.contains(sign))
+            sign = QLatin1Char('.');
+        else if (sign == QChar(0x2212))
+            sign = QLatin1Char('-');
+    }
+    return plain;
+}
+
+/// \d would match the digits of every script.
+bool isNumber(const QString& plain)
+{
+    static const QRegularExpression number(
+        QStringLiteral("\\A[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?\\z"));
+    return number.match(plain).hasMatch();
+}
+
+bool isBeginning(const QString& plain)
+{
+    static const QRegularExpression beginning(
+        QStringLiteral("\\A[+-]?(\\.|([0-9]+\\.?[0-9]*|\\.[0-9]+)[eE][+-]?)?\\z"));
+    return beginning.match(plain).hasMatch();
+}
+
+VkdNumberState stateOf(const QString& plain)
+{
+    if (plain.size() > LongestText)
+        return VkdNumberState::NoNumber;
+    if (isNumber(plain))
+        return VkdNumberState::Accepted;
+    if (isBeginning(plain))
+        return VkdNumberState::Incomplete;
+    const QString whole = QString(plain).remove(QLatin1Char('.'));
+    const bool two = plain.size() > whole.size() + 1 && isNumber(whole);
+    return two ? VkdNumberState::TwoDecimalSigns : VkdNumberState::NoNumber;
+}
+
+/// Records hold floats: what is typed has to be one, and not infinity.
+VkdNumberState stateOf(double value, const StructLineEdit& description)
+{
+    if (!(std::fabs(value) <= double(std::numeric_limits<float>::max())))
+        return value < 0 ? VkdNumberState::TooSmall : VkdNumberState::TooLarge;
+    if (float(value) > float(description.maximum))
+        return VkdNumberState::TooLarge;
+    if (float(value) < float(description.minimum) || vkd_h_isNotSet(value, description))
+        return VkdNumberState::TooSmall;
+    return VkdNumberState::Accepted;
+}
+
+VkdNumberState emptyState(const StructLineEdit& description)
+{
+    const bool allowed = description.flags & StructLineEdit::EmptyAllowed;
+    return allowed ? VkdNumberState::Accepted : VkdNumberState::Missing;
+}
+
+bool isNotSetText(const QString& text, const StructLineEdit& description)
+{
+    const auto& texts = description.notSetTexts;
+    return text.isEmpty() || std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+/// Six significant digits, closing zeros cut down to this many decimals.
+QString significantText(double shown, int decimals)
+{
+    const int needed = SignificantDigits - 1 - int(std::floor(std::log10(std::fabs(shown))));
+    int cut = needed - decimals;
+    QString text = QString::number(shown, 'f', std::max(needed, decimals));
+    while (cut-- > 0 && text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text;
+}
+
+QString digits(double value, const VkdDimension& dimension)
+{
+    const double shown = value * dimension.factor;
+    const int decimals = std::max(dimension.decimals, 0);
+    if (!(std::fabs(shown) < ExponentFrom))
+        return QString::number(shown, 'g', SignificantDigits);
+    const QString text = QString::number(shown, 'f', decimals);
+    if (float(text.toDouble() / dimension.factor) == float(value))
+        return text;
+    return std::fabs(shown) < ExponentBelow ? QString::number(shown, 'g', SignificantDigits)
+                                            : significantText(shown, decimals);
+}
+} // namespace
+
+bool vkd_h_isNotSet(double value, const StructLineEdit& description)
+{
+    return float(value) == float(description.notSet);
+}
+
+VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& description)
+{
+    const QString trimmed = text.trimmed(); // of Unicode's blanks too, as the no-break ones
+    if (isNotSetText(trimmed, description))
+        return {emptyState(description), description.notSet};
+    const QString plain = plainText(trimmed, description.decimalSigns);
+    VkdNumberState state = stateOf(plain);
+    double value = 0.0;
+    if (state == VkdNumberState::Accepted) {
+        value = plain.toDouble() / vkd_h_dimension(description.dimension).factor;
+        state = stateOf(value, description);
+    }
+    if (state != VkdNumberState::Accepted)
+        return {state, description.notSet};
+    return {state, float(value) == 0 ? 0.0 : value}; // "-0" too, and what no float can hold
+}
+
+QString vkd_h_numberText(double value, const StructLineEdit& description)
+{
+    if (vkd_h_isNotSet(value, description))
+        return QString();
+    QString text = digits(value, vkd_h_dimension(description.dimension));
+    if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0)
+        text.remove(0, 1);
+    const bool german = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == 0;
+    return german ? text.replace(QLatin1Char('.'), QLatin1Char(',')) : text;
+}
+
+QString vkd_h_suffixText(const StructLineEdit& description)
+{
+    if (!description.suffix.isEmpty())
+        return description.suffix;
+    return QString::fromUtf8(vkd_h_dimension(description.dimension).unit);
+}
