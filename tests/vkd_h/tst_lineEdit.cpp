@@ -1,0 +1,292 @@
+#include "WidgetTestSupport.h"
+
+#include <VKD_H_LineEdit.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT4_ComboBox.h>
+#include <VKD_QT_Dialog.h>
+#include <VKD_QT_InitTranslator.h>
+#include <VKD_QT_Layouts.h>
+#include <VKD_QT_Ok.h>
+
+#include <QPushButton>
+#include <QRandomGenerator>
+
+#include <cmath>
+#include <cstring>
+#include <memory>
+
+namespace {
+constexpr int German = 0, English = 1;
+constexpr double NotSet = -99999.0;
+constexpr int Crack = 1026, Distance = 1024;
+
+void setLanguage(int language)
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    VKD_QT_InitTranslator::languageChanged();
+    QCoreApplication::sendPostedEvents();
+}
+
+VKD_H_LineEdit* field(QWidget* parent, int code, const char* name = "field")
+{
+    StructLineEdit description = vkd_h_defaultStructLineEdit(code); // gone after this call
+    return new VKD_H_LineEdit(parent, &description, name, QStringLiteral("Axial Distance"),
+                              QStringLiteral("from the surface"), true);
+}
+
+void type(QWidget* widget, const char* text)
+{
+    static_cast<QLineEdit*>(widget)->selectAll();
+    QTest::keyClicks(widget, QString::fromUtf8(text));
+}
+
+quint32 bitsOf(double value)
+{
+    const float narrow = float(value);
+    quint32 bits = 0;
+    std::memcpy(&bits, &narrow, sizeof bits);
+    return bits;
+}
+
+/// A dialog with two fields that closes by OK as dialogs do that ask no field.
+struct Dialog
+{
+    Dialog()
+    {
+        auto layout = new VKD_QT_VBoxLayout(&box);
+        first = field(&box, Distance, "first");
+        second = field(&box, Distance, "second");
+        auto buttons = new VKD_QT_Ok(&box, 3, "buttons");
+        for (QWidget* widget : {static_cast<QWidget*>(first), static_cast<QWidget*>(second),
+                                static_cast<QWidget*>(buttons)})
+            layout->addWidget(widget);
+        QObject::connect(buttons->cmdOk(), &QPushButton::clicked, &box, &QDialog::accept);
+        QObject::connect(buttons->cmdCancel(), &QPushButton::clicked, &box, &QDialog::reject);
+        first->setVal(0.03);
+        second->setVal(0.04);
+        box.show();
+        QApplication::setActiveWindow(&box);
+        first->setFocus();
+    }
+
+    VKD_QT_Dialog box;
+    VKD_H_LineEdit* first;
+    VKD_H_LineEdit* second;
+};
+
+/// An editable combo with preset crack widths, as its callers build one.
+struct Combo
+{
+    Combo()
+    {
+        for (const char* text : {"0.10", "0.20", "0.30", " - "})
+            box.addItem(QLatin1String(text));
+        box.setEditable(true);
+        StructLineEdit description = vkd_h_defaultStructLineEdit(Crack);
+        description.notSetTexts = {QStringLiteral("-")};
+        edit = new VKD_H_LineEdit(&box, &description, "edit", QString(), QString(), true);
+        box.setLineEdit(edit);
+        box.show();
+        QApplication::setActiveWindow(&box);
+        box.setFocus();
+    }
+
+    VKD_QT4_ComboBox box;
+    VKD_H_LineEdit* edit;
+};
+} // namespace
+
+class TestLineEdit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { setLanguage(English); }
+
+    void everyFloatComesBack_data()
+    {
+        QTest::addColumn<int>("code");
+        for (int code : {5, 1001, 1021, 1023, 1024, 1026, 1092, -1})
+            QTest::addRow("%d", code) << code;
+    }
+
+    void everyFloatComesBack()
+    {
+        QFETCH(const int, code);
+        const std::unique_ptr<VKD_H_LineEdit> edit(field(nullptr, code));
+        const QSignalSpy changed(edit.get(), &VKD_H_LineEdit::valueChanged);
+        QRandomGenerator random(code);
+        for (int i = 0; i < 300; ++i) {
+            const quint32 any = random.generate();
+            float value = 0;
+            std::memcpy(&value, &any, sizeof value);
+            if (i % 2 || std::isnan(value)) // widening changes a signalling NaN
+                value = float(random.generateDouble() * 200.0 - 20.0);
+            edit->setVal(double(value));
+            const quint32 bits = bitsOf(double(value));
+            QCOMPARE(bitsOf(edit->getVal()), bits);
+            QVERIFY(edit->refusal().isEmpty());
+            QTest::keyClick(edit.get(), Qt::Key_Return);
+            QCOMPARE(bitsOf(edit->getVal()), bits);
+        }
+        QCOMPARE(changed.count(), 0);
+        edit->setVal(0.033333333);
+        QTest::keyClicks(edit.get(), QStringLiteral("7"));
+        QCOMPARE(changed.count(), 1);
+        QTest::keyClick(edit.get(), Qt::Key_Backspace); // back at the text that was shown
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(edit->getVal(), 0.033333333);
+    }
+
+    void typedValueCountsAtOnce()
+    {
+        Dialog dialog;
+        const QSignalSpy changed(dialog.first, &VKD_H_LineEdit::valueChanged);
+        type(dialog.first, "35,5");
+        QCOMPARE(dialog.first->getVal(), 35.5 / 1000.0);
+        QCOMPARE(changed.count(), 3); // 3, 35 (and "35,"), 35,5
+        QTest::keyClick(dialog.first, Qt::Key_Return);
+        QCOMPARE(dialog.box.result(), int(QDialog::Accepted));
+        QVERIFY(!dialog.box.isVisible());
+        QCOMPARE(dialog.first->getVal(), 35.5 / 1000.0);
+        QCOMPARE(dialog.first->text(), QStringLiteral("35.5"));
+    }
+
+    void leavingWritesTheNumber()
+    {
+        setLanguage(German);
+        Dialog dialog;
+        type(dialog.first, " 12.5 ");
+        QTest::keyClick(dialog.first, Qt::Key_Tab);
+        QCOMPARE(dialog.first->text(), QStringLiteral("12,5"));
+        QCOMPARE(dialog.second->selectedText(), QStringLiteral("40,0"));
+        QTest::keyClick(dialog.second, Qt::Key_Delete);
+        QTest::keyClick(dialog.second, Qt::Key_Backtab);
+        QCOMPARE(dialog.second->getVal(), NotSet);
+    }
+
+    /// Neither Enter nor leaving the field lets refused text pass for a value.
+    void refusedText()
+    {
+        Dialog dialog;
+        VKD_H_LineEdit* edit = dialog.first;
+        type(edit, "1.234,5");
+        QVERIFY(edit->toolTip().contains(QLatin1String("decimal sign")));
+        QTest::keyClick(edit, Qt::Key_Return);
+        QVERIFY(dialog.box.isVisible());
+        auto message = edit->findChild<QWidget*>(QStringLiteral("fieldMessage"));
+        QVERIFY(message && message->isVisible());
+        QTest::keyClick(edit, Qt::Key_Tab);
+        QVERIFY(dialog.second->hasFocus());
+        QVERIFY(message->isVisible());
+        QCOMPARE(edit->text(), QStringLiteral("1.234,5"));
+        QCOMPARE(edit->getVal(), 0.03);
+        QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), edit);
+        QVERIFY(edit->hasFocus());
+        type(edit, "1234,5");
+        QVERIFY(!message->isVisible());
+        QCOMPARE(edit->refusal(), QString());
+        QCOMPARE(edit->toolTip(), QStringLiteral("Axial Distance in mm\nfrom the surface"));
+        QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), nullptr);
+    }
+
+    /// Only text that could not become a number by typing on is marked while it is typed.
+    void beginningOfANumber()
+    {
+        Dialog dialog;
+        type(dialog.first, "-");
+        QVERIFY(!dialog.first->toolTip().contains(QLatin1String("number")));
+        QVERIFY(!dialog.first->refusal().isEmpty());
+        QTest::keyClick(dialog.first, Qt::Key_Tab);
+        QVERIFY(dialog.first->toolTip().contains(QLatin1String("number")));
+        QVERIFY(dialog.first->accessibleDescription().contains(QLatin1String("number")));
+    }
+
+    void escape()
+    {
+        Dialog dialog;
+        const QSignalSpy changed(dialog.first, &VKD_H_LineEdit::valueChanged);
+        for (const char* text : {"77", "abc", ""}) {
+            type(dialog.first, text);
+            if (!*text)
+                QTest::keyClick(dialog.first, Qt::Key_Delete);
+            QTest::keyClick(dialog.first, Qt::Key_Escape);
+            QVERIFY(dialog.box.isVisible());
+            QCOMPARE(dialog.first->text(), QStringLiteral("30.0"));
+            QCOMPARE(dialog.first->getVal(), 0.03);
+            QVERIFY(dialog.first->refusal().isEmpty());
+        }
+        QCOMPARE(changed.count(), 5); // 7, 77, back; nothing by abc; empty, back
+        QTest::keyClick(dialog.first, Qt::Key_Escape);
+        QVERIFY(!dialog.box.isVisible());
+    }
+
+    void mouse()
+    {
+        Dialog dialog;
+        QTest::mouseClick(dialog.second, Qt::LeftButton);
+        QCOMPARE(dialog.second->selectedText(), QStringLiteral("40.0"));
+        QTest::mouseClick(dialog.second, Qt::LeftButton); // the second click sets the cursor
+        QCOMPARE(dialog.second->selectedText(), QString());
+        QWheelEvent wheel({5, 5}, dialog.second->mapToGlobal(QPoint(5, 5)), {}, {0, 120},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(dialog.second, &wheel);
+        QCOMPARE(dialog.second->getVal(), 0.04);
+        QVERIFY(!wheel.isAccepted());
+    }
+
+    void languageChange()
+    {
+        const std::unique_ptr<VKD_H_LineEdit> edit(field(nullptr, Distance));
+        edit->setVal(0.0125);
+        setLanguage(German);
+        QCOMPARE(edit->text(), QStringLiteral("12,5"));
+        type(edit.get(), "1,2,3");
+        QVERIFY2(edit->toolTip().contains(QStringLiteral("„1,2,3“ hat mehr als ein")) &&
+                     edit->toolTip().contains(QStringLiteral("der Wert 12,5 mm.")),
+                 qPrintable(edit->toolTip()));
+    }
+
+    void combo()
+    {
+        Combo combo;
+        combo.edit->setVal(NotSet);
+        QCOMPARE(combo.box.currentText(), QString());
+        const QSignalSpy changed(combo.edit, &VKD_H_LineEdit::valueChanged);
+        combo.box.setCurrentIndex(1);
+        QCOMPARE(float(combo.edit->getVal()), 0.2F);
+        combo.box.setCurrentIndex(3);
+        QCOMPARE(combo.edit->getVal(), NotSet);
+        QTest::keyClick(&combo.box, Qt::Key_Up);
+        QCOMPARE(float(combo.edit->getVal()), 0.3F);
+        QCOMPARE(changed.count(), 3);
+        // A preset is no typing: Escape leaves it.
+        QTest::keyClick(&combo.box, Qt::Key_Escape);
+        QCOMPARE(combo.edit->text(), QStringLiteral("0.30"));
+        combo.edit->setVal(double(std::nextafter(0.3F, 1.0F)));
+        combo.box.clearFocus(); // the combo box now finds its entry by the text
+        QCOMPARE(bitsOf(combo.edit->getVal()), bitsOf(double(std::nextafter(0.3F, 1.0F))));
+    }
+
+    void typingInACombo()
+    {
+        Combo combo;
+        combo.edit->setVal(NotSet);
+        QTest::keyClicks(&combo.box, QStringLiteral("0.2")); // not completed to 0.20
+        QCOMPARE(combo.edit->text(), QStringLiteral("0.2"));
+        QTest::keyClicks(&combo.box, QStringLiteral("x"));
+        QCOMPARE(combo.edit->getVal(), NotSet);
+        QTest::keyClick(&combo.box, Qt::Key_Return); // makes no entry of it
+        QCOMPARE(combo.box.count(), 4);
+        QTest::keyClick(&combo.box, Qt::Key_Escape);
+        QCOMPARE(combo.edit->text(), QString());
+        setLanguage(German);
+        QTest::keyClicks(&combo.box, QStringLiteral("0.25"));
+        QTest::keyClick(&combo.box, Qt::Key_Return);
+        QCOMPARE(combo.edit->text(), QStringLiteral("0,25"));
+        QCOMPARE(combo.edit->getVal(), 0.25);
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(TestLineEdit)
+#include "tst_lineEdit.moc"
