@@ -28,7 +28,7 @@ void FieldMessage::showText(const QString& text)
 {
     setPalette(QToolTip::palette());
     setText(text);
-    adjustSize();
+    resize(sizeHint()); // adjustSize() cuts long lines on a small screen
     const QWidget* field = parentWidget();
     const QRect area = field->screen()->availableGeometry();
     QPoint place = field->mapToGlobal(field->rect().bottomLeft()) + QPoint(0, Distance);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <VKD_QT_TableWidget.h>
+
+#include <QVector>
+
+struct VkdBarLayout;
+
+/// The areas of all bars of a project at the usual spacings. The current cell is the one nearest to
+/// a given layout; a click or the arrow keys choose another.
+class BarAreaTable : public VKD_QT_TableWidget
+{
+    Q_OBJECT
+
+public:
+    BarAreaTable(const QVector<float>& diameters, QWidget* parent, const char* name);
+
+    /// Shows the areas for this number of bars per place, and the cell nearest to the layout; none
+    /// for a layout that has no positive spacing.
+    void showLayout(const VkdBarLayout& layout);
+
+Q_SIGNALS:
+    /// The user chose a bar diameter in mm and a spacing in m.
+    void chosen(float diameter, double spacing);
+
+private:
+    void setHeaders();
+    void choose(int row, int column);
+    void showAreas(int barsPerPlace);
+
+    QVector<float> m_diameters;
+    int m_barsPerPlace = 0;
+};

@@ -1,0 +1,69 @@
+#include "VKD_A_BarDiameterCombo.h"
+
+#include <VKD_QT_SignalBlocker.h>
+
+#include <QEvent>
+
+#include <algorithm>
+
+VKD_A_BarDiameterCombo::VKD_A_BarDiameterCombo(QWidget* parent, const char* name)
+    : VKD_QT4_ComboBox(parent, name)
+{
+    setAccessibleName(tr("Bar diameter"));
+    fill(NotSet);
+}
+
+bool VKD_A_BarDiameterCombo::load(int index)
+{
+    const bool isLoaded = m_bars.load(index);
+    fill(getCurrent());
+    return isLoaded;
+}
+
+void VKD_A_BarDiameterCombo::setNotSetAllowed(bool isAllowed)
+{
+    m_isNotSetAllowed = isAllowed;
+    fill(getCurrent());
+}
+
+bool VKD_A_BarDiameterCombo::setCurrent(float diameter)
+{
+    fill(diameter);
+    return isOffered(diameter);
+}
+
+float VKD_A_BarDiameterCombo::getCurrent() const
+{
+    const QVariant diameter = currentData();
+    return diameter.isValid() ? diameter.toFloat() : NotSet;
+}
+
+void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        fill(getCurrent());
+    VKD_QT4_ComboBox::changeEvent(event);
+}
+
+void VKD_A_BarDiameterCombo::fill(float current)
+{
+    const VKD_QT_SignalBlocker blocker(this);
+    QVector<float> diameters = m_bars.diameters();
+    const bool isExtra = !isOffered(current) && current != NotSet;
+    const auto place = std::upper_bound(diameters.begin(), diameters.end(), current);
+    int entry = int(place - diameters.begin()) - (isExtra ? 0 : 1);
+    if (isExtra)
+        diameters.insert(place, current);
+    clear();
+    for (float diameter : qAsConst(diameters))
+        addItem(m_bars.getString(diameter), diameter);
+    if (m_isNotSetAllowed)
+        insertItem(0, tr("not set"), NotSet);
+    entry = current == NotSet ? 0 : entry + int(m_isNotSetAllowed);
+    setCurrentIndex(entry);
+}
+
+bool VKD_A_BarDiameterCombo::isOffered(float diameter) const
+{
+    return (diameter == NotSet && m_isNotSetAllowed) || m_bars.diameters().contains(diameter);
+}

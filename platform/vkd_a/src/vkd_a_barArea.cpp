@@ -1,0 +1,57 @@
+#include "vkd_a_barArea.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr double Pi = 3.14159265358979323846;
+constexpr double MillimetresPerMetre = 1000.0;
+constexpr double SquareMillimetresPerSquareCentimetre = 100.0;
+constexpr double LeastClearDistance = 20.0;            // mm
+constexpr double LeastArea = 1e-3, GreatestArea = 1e6; // cm²/m
+constexpr double LeastRoundedArea = 0.1;               // cm²/m
+
+double hundredths(double area)
+{
+    return std::round(area * 100.0);
+}
+} // namespace
+
+VkdBarFault vkd_a_barFault(const VkdBarLayout& layout)
+{
+    if (!(layout.diameter > 0))
+        return VkdBarFault::NoDiameter;
+    if (!(layout.spacing > 0))
+        return VkdBarFault::NoSpacing;
+    if (!(layout.spacing * MillimetresPerMetre > layout.diameter))
+        return VkdBarFault::Overlap;
+    const double area = vkd_a_barArea(layout);
+    const bool isInRange = area >= LeastArea && area <= GreatestArea;
+    return isInRange ? VkdBarFault::None : VkdBarFault::OutOfRange;
+}
+
+double vkd_a_barArea(const VkdBarLayout& layout)
+{
+    const double bar = Pi * layout.diameter * layout.diameter / 4.0;
+    return layout.barsPerPlace * bar / layout.spacing / SquareMillimetresPerSquareCentimetre;
+}
+
+double vkd_a_roundedBarArea(const VkdBarLayout& layout)
+{
+    const double area = vkd_a_barArea(layout);
+    return area < LeastRoundedArea ? area : hundredths(area) / 100.0;
+}
+
+double vkd_a_barSpacing(double area, double diameter, int barsPerPlace)
+{
+    const double spacing = vkd_a_barArea({diameter, 1.0, barsPerPlace}) / area;
+    const double whole = std::round(spacing * MillimetresPerMetre) / MillimetresPerMetre;
+    const bool isSame =
+        whole > 0 && hundredths(vkd_a_barArea({diameter, whole, barsPerPlace})) == hundredths(area);
+    return isSame ? whole : spacing;
+}
+
+double vkd_a_leastClearDistance(const VkdBarLayout& layout)
+{
+    return std::max(LeastClearDistance, layout.diameter * std::sqrt(double(layout.barsPerPlace)));
+}

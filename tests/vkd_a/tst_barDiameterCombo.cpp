@@ -1,0 +1,109 @@
+#include "WidgetTestSupport.h"
+
+#include <VKD_A_BarDiameterCombo.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace {
+constexpr float NotSet = VKD_A_BarDiameterCombo::NotSet;
+
+QStringList texts(const QComboBox& box)
+{
+    QStringList list;
+    for (int i = 0; i < box.count(); ++i)
+        list << box.itemText(i);
+    return list;
+}
+} // namespace
+
+class TestBarDiameterCombo : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// The bars of a project, not those in common use.
+    void init()
+    {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        VKD_QT_InitTranslator::languageChanged();
+        m_document = VKD_H_ZOBDoc::create(m_folder.filePath(QString::number(++m_files)));
+        QVERIFY(m_document);
+        int length = 4, position = 0;
+        for (const char* bar : {"\0\0\x80\x41", "\0\0\x20\x41", "\0\0\xa0\x41"}) // 16, 10, 20
+            QCOMPARE(vkd_zob_put(m_document->index(), 15, 0, bar, &length, position++ > 0), 0);
+    }
+
+    void barsOfTheProject()
+    {
+        VKD_A_BarDiameterCombo box(nullptr, "bar");
+        QCOMPARE(box.getCurrent(), NotSet); // before there is a table
+        box.setCurrent(10.0F);
+        QVERIFY(box.load(m_document->index()));
+        QCOMPARE(texts(box).join(QLatin1Char('|')), QStringLiteral("not set|Ø10|Ø16|Ø20"));
+        QCOMPARE(box.getCurrent(), 10.0F); // the choice outlives the loading
+        QVERIFY(box.setCurrent(NotSet));
+        QCOMPARE(box.currentIndex(), 0);
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0);
+        VKD_QT_InitTranslator::languageChanged();
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(box.currentText(), QStringLiteral("nicht gesetzt"));
+    }
+
+    void otherDiameter_data()
+    {
+        QTest::addColumn<float>("diameter");
+        QTest::addColumn<int>("entry");
+        QTest::newRow("between") << 12.7F << 2;
+        QTest::newRow("a bit off the table") << std::nextafter(16.0F, 17.0F) << 3;
+        QTest::newRow("above") << 57.3F << 4;
+        QTest::newRow("below") << 0.0F << 1;
+        QTest::newRow("negative") << -3.0F << 1;
+        QTest::newRow("no number") << std::numeric_limits<float>::quiet_NaN() << 4;
+    }
+
+    void otherDiameter()
+    {
+        QFETCH(const float, diameter);
+        VKD_A_BarDiameterCombo box;
+        box.load(m_document->index());
+        const QSignalSpy changed(&box, QOverload<int>::of(&QComboBox::currentIndexChanged));
+        QVERIFY(!box.setCurrent(11.5F));
+        QVERIFY(!box.setCurrent(diameter));
+        QTEST(box.currentIndex(), "entry");
+        QCOMPARE(box.count(), 5);
+        const float current = box.getCurrent();
+        QCOMPARE(std::memcmp(&current, &diameter, sizeof current), 0);
+        QCOMPARE(changed.count(), 0);
+        QVERIFY(box.setCurrent(20.0F));
+        QCOMPARE(box.count(), 4);
+        QTest::keyClick(&box, Qt::Key_Up); // the user's choice
+        QCOMPARE(box.getCurrent(), 16.0F);
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void withoutNotSet()
+    {
+        VKD_A_BarDiameterCombo box;
+        box.load(m_document->index());
+        box.setNotSetAllowed(false);
+        QCOMPARE(box.count(), 3);
+        QCOMPARE(box.getCurrent(), 10.0F);
+        QVERIFY(!box.setCurrent(12.7F));
+        QCOMPARE(box.currentText(), QStringLiteral("Ø12.7"));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    int m_files = 0;
+    std::unique_ptr<VKD_H_ZOBDoc> m_document;
+};
+
+PLIB_WIDGET_TEST_MAIN(TestBarDiameterCombo)
+#include "tst_barDiameterCombo.moc"

@@ -1,0 +1,261 @@
+#include "WidgetTestSupport.h"
+
+#include <vkd_a_barArea.h>
+#include <VKD_A_BarDiameterCombo.h>
+#include <vkd_a_ReinforcementCalculation.h>
+#include <VKD_H_LineEdit.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace {
+constexpr float NotSet = -99999.0F;
+constexpr int CommonBars = 0; // the scratch store, which has no bars of its own
+
+/// The parts of the dialog, by their names.
+struct Parts
+{
+    explicit Parts(QWidget* dialog)
+        : diameter(dialog->findChild<VKD_A_BarDiameterCombo*>(QStringLiteral("diameter")))
+        , arrangement(dialog->findChild<QComboBox*>(QStringLiteral("arrangement")))
+        , spacing(dialog->findChild<VKD_H_LineEdit*>(QStringLiteral("spacing")))
+        , number(dialog->findChild<VKD_H_LineEdit*>(QStringLiteral("number")))
+        , table(dialog->findChild<QTableWidget*>(QStringLiteral("table")))
+        , buttons(dialog->findChild<QWidget*>(QStringLiteral("okayandcancelbutton")))
+        , window(dialog)
+    {
+    }
+
+    QString text(const char* name) const
+    {
+        return window->findChild<QLabel*>(QLatin1String(name))->text();
+    }
+    QPushButton* ok() const { return button(QDialogButtonBox::Ok); }
+    QPushButton* cancel() const { return button(QDialogButtonBox::Cancel); }
+    QPushButton* button(QDialogButtonBox::StandardButton which) const
+    {
+        return buttons->findChild<QDialogButtonBox*>()->button(which);
+    }
+    void type(QLineEdit* field, const char* text) const
+    {
+        field->selectAll();
+        QTest::keyClicks(field, QLatin1String(text));
+    }
+    void click(int row, int column) const
+    {
+        table->scrollTo(table->model()->index(row, column));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                          table->visualItemRect(table->item(row, column)).center());
+    }
+
+    VKD_A_BarDiameterCombo* diameter;
+    QComboBox* arrangement;
+    VKD_H_LineEdit* spacing;
+    VKD_H_LineEdit* number;
+    QTableWidget* table;
+    QWidget* buttons;
+    QWidget* window;
+};
+
+/// The value after a dialog in which `act` was done; `act` has to close it.
+float calculate(float value, float barDiameter, const std::function<void(const Parts&)>& act)
+{
+    bool isDone = false;
+    testsupport::whenModal([&](QWidget* dialog) {
+        act(Parts(dialog));
+        isDone = true;
+        if (dialog->isVisible()) {
+            QTest::qFail("the dialog is still open", __FILE__, __LINE__);
+            dialog->close();
+        }
+    });
+    vkd_a_ReinforcementCalculation(nullptr, CommonBars, 1, value, barDiameter);
+    return isDone ? value : std::numeric_limits<float>::quiet_NaN();
+}
+} // namespace
+
+class TestReinforcementCalculation : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        VKD_QT_InitTranslator::languageChanged();
+    }
+
+    void printedTables_data()
+    {
+        QTest::addColumn<double>("diameter");
+        QTest::addColumn<double>("spacing");
+        QTest::addColumn<int>("bars");
+        QTest::addColumn<double>("area");
+        QTest::newRow("10/150") << 10.0 << 0.150 << 1 << 5.24;
+        QTest::newRow("12/100") << 12.0 << 0.100 << 1 << 11.31;
+        QTest::newRow("8/200") << 8.0 << 0.200 << 1 << 2.51;
+        QTest::newRow("28/75") << 28.0 << 0.075 << 1 << 82.10;
+        QTest::newRow("6/250") << 6.0 << 0.250 << 1 << 1.13;
+        QTest::newRow("pairs of 16/125") << 16.0 << 0.125 << 2 << 32.17;
+    }
+
+    void printedTables()
+    {
+        QFETCH(const double, diameter);
+        QFETCH(const double, spacing);
+        QFETCH(const int, bars);
+        QFETCH(const double, area);
+        const VkdBarLayout layout{diameter, spacing, bars};
+        QCOMPARE(vkd_a_barFault(layout), VkdBarFault::None);
+        QCOMPARE(vkd_a_roundedBarArea(layout), area);
+        QVERIFY(std::fabs(vkd_a_barArea(layout) - area) <= 0.005);
+        QCOMPARE(vkd_a_barSpacing(area, diameter, bars), spacing);
+    }
+
+    void faults()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        for (double bad : {0.0, -10.0, nan}) {
+            QCOMPARE(vkd_a_barFault({bad, 0.15, 1}), VkdBarFault::NoDiameter);
+            QCOMPARE(vkd_a_barFault({10.0, bad, 1}), VkdBarFault::NoSpacing);
+        }
+        QCOMPARE(vkd_a_barFault({10.0, 0.01, 1}), VkdBarFault::Overlap);
+        QCOMPARE(vkd_a_barFault({10.0, 0.0101, 1}), VkdBarFault::None);
+        QCOMPARE(vkd_a_barFault({10.0, 1e9, 1}), VkdBarFault::OutOfRange);
+        QCOMPARE(vkd_a_barFault({1e38, 1e38, 1}), VkdBarFault::OutOfRange);
+        QCOMPARE(vkd_a_leastClearDistance({10.0, 0.15, 1}), 20.0);
+        QCOMPARE(vkd_a_leastClearDistance({32.0, 0.15, 2}), 32.0 * std::sqrt(2.0));
+    }
+
+    void begins_data()
+    {
+        QTest::addColumn<float>("value");
+        QTest::addColumn<float>("barDiameter");
+        QTest::addColumn<QString>("begin"); // diameter, spacing, number, row, column, present value
+        const float nan = std::numeric_limits<float>::quiet_NaN();
+        const QString usual = QStringLiteral("Ø10 150.0 6.66667 2 4 not set");
+        QTest::newRow("not set") << NotSet << NotSet << usual;
+        QTest::newRow("zero") << 0.0F << 0.0F << usual;
+        QTest::newRow("no numbers") << nan << nan << usual;
+        QTest::newRow("infinite") << std::numeric_limits<float>::infinity() << 1e30F << usual;
+        QTest::newRow("value and bar")
+            << 11.31F << 12.0F << "Ø12 100.0 10 3 2 11.31 cm²/m (chosen: 100 %)";
+        QTest::newRow("bar of another project")
+            << 9.0F << 12.7F << "Ø12.7 140.752 7.10469 3 4 9.00 cm²/m (chosen: 100 %)";
+        QTest::newRow("far too much") << 900.0F << 10.0F << "Ø10 0.872665 1145.92 2 0 900.00 cm²/m";
+    }
+
+    void begins()
+    {
+        QFETCH(const float, value);
+        QFETCH(const float, barDiameter);
+        QString begin;
+        const float after = calculate(value, barDiameter, [&begin](const Parts& parts) {
+            begin = QStringList{parts.diameter->currentText(),
+                                parts.spacing->text(),
+                                parts.number->text(),
+                                QString::number(parts.table->currentRow()),
+                                QString::number(parts.table->currentColumn()),
+                                parts.text("present")}
+                        .join(QLatin1Char(' '));
+            parts.type(parts.spacing, "77");
+            QTest::mouseClick(parts.cancel(), Qt::LeftButton);
+        });
+        QTEST(begin, "begin");
+        QCOMPARE(std::memcmp(&after, &value, sizeof value), 0); // Cancel
+    }
+
+    void spacingAndNumber()
+    {
+        const float value = calculate(NotSet, 12.0F, [](const Parts& parts) {
+            parts.type(parts.spacing, "125");
+            QCOMPARE(parts.number->text(), QStringLiteral("8"));
+            QCOMPARE(parts.text("area"), QStringLiteral("9.05 cm²/m"));
+            parts.type(parts.number, "5");
+            QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
+            QTest::keyClick(parts.arrangement, Qt::Key_Down); // pairs: the spacing stays
+            QCOMPARE(parts.number->text(), QStringLiteral("10"));
+            QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
+            QCOMPARE(parts.table->item(3, 2)->text(), QStringLiteral("22.62"));
+            QTest::keyClick(parts.diameter, Qt::Key_Up);
+            QTest::keyClick(parts.spacing, Qt::Key_Return);
+        });
+        QCOMPARE(value, 7.85F);
+    }
+
+    void impossibleInput()
+    {
+        const float value = calculate(5.0F, 10.0F, [](const Parts& parts) {
+            for (const char* text : {"0", "", "9.9", "1.2.3", "abc", "-5", "."}) {
+                parts.type(parts.spacing, "150");
+                QVERIFY(parts.ok()->isEnabled());
+                QCOMPARE(parts.text("note"), QString());
+                parts.type(parts.spacing, text);
+                if (!*text)
+                    QTest::keyClick(parts.spacing, Qt::Key_Delete);
+                QVERIFY2(!parts.ok()->isEnabled(), text);
+                QVERIFY2(!parts.text("note").isEmpty(), text);
+                QTest::keyClick(parts.spacing, Qt::Key_Return);
+                QVERIFY2(parts.window->isVisible(), text);
+            }
+            parts.type(parts.number, "40"); // possible, but tight
+            QVERIFY(parts.ok()->isEnabled());
+            QVERIFY(parts.text("note").contains(QLatin1String("15 mm is below 20 mm")));
+            QTest::mouseClick(parts.ok(), Qt::LeftButton);
+        });
+        QCOMPARE(value, 31.42F);
+    }
+
+    void table()
+    {
+        const float value = calculate(NotSet, 12.7F, [](const Parts& parts) {
+            const QStringList texts{parts.table->item(1, 6)->text(),
+                                    parts.table->item(3, 2)->text()};
+            QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("2.51 11.31"));
+            parts.click(3, 4); // the marked cell, near to 12.7/150
+            QCOMPARE(parts.diameter->getCurrent(), 12.0F);
+            parts.click(1, 6);
+            QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
+            QTest::keyClick(parts.table, Qt::Key_Down);
+            QTest::keyClick(parts.table, Qt::Key_Right);
+            QCOMPARE(parts.diameter->getCurrent(), 10.0F);
+            QCOMPARE(parts.number->text(), QStringLiteral("4"));
+            parts.type(parts.spacing, "270"); // marks the nearest
+            QCOMPARE(parts.table->currentColumn(), 7);
+            QCOMPARE(parts.spacing->getVal(), 0.27);
+            QTest::mouseClick(parts.ok(), Qt::LeftButton);
+        });
+        QCOMPARE(value, 2.91F);
+    }
+
+    /// OK without a change keeps a value that the bars only come near to.
+    void unchanged()
+    {
+        const float value = std::nextafter(5.24F, 6.0F);
+        QCOMPARE(calculate(value, 10.0F,
+                           [](const Parts& parts) {
+                               QCOMPARE(parts.spacing->text(), QStringLiteral("150.0"));
+                               QTest::keyClick(parts.window, Qt::Key_Return);
+                           }),
+                 value);
+        QCOMPARE(
+            calculate(NotSet, NotSet,
+                      [](const Parts& parts) { QTest::keyClick(parts.window, Qt::Key_Return); }),
+            5.24F);
+        QCOMPARE(
+            calculate(value, 10.0F,
+                      [](const Parts& parts) { QTest::keyClick(parts.window, Qt::Key_Escape); }),
+            value);
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(TestReinforcementCalculation)
+#include "tst_reinforcementCalculation.moc"
