@@ -62,7 +62,6 @@ private:
     void setMargins();
     void showMessage();
     void hideMessage();
-    void paintMark(QPainter* painter, const QRect& place) const;
 
     StructLineEdit m_description;
     QString m_name;

@@ -1,5 +1,7 @@
 #include "FieldMessage.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QScreen>
 #include <QToolTip>
 
@@ -19,6 +21,8 @@ FieldMessage::FieldMessage(QWidget* field)
     setFont(QToolTip::font());
     setForegroundRole(QPalette::ToolTipText);
     setBackgroundRole(QPalette::ToolTipBase);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    qApp->installEventFilter(this);
     m_end.setSingleShot(true);
     m_end.setInterval(ShownTime);
     connect(&m_end, &QTimer::timeout, this, &QWidget::hide);
@@ -38,4 +42,13 @@ void FieldMessage::showText(const QString& text)
     move(place);
     show();
     m_end.start();
+}
+
+bool FieldMessage::eventFilter(QObject* watched, QEvent* event)
+{
+    // Input comes to the window first; what the widgets make of it may show the message again.
+    const QEvent::Type type = event->type();
+    if (watched->isWindowType() && (type == QEvent::KeyPress || type == QEvent::MouseButtonPress))
+        hide();
+    return QLabel::eventFilter(watched, event);
 }

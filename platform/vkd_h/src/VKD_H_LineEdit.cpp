@@ -1,5 +1,6 @@
 #include "VKD_H_LineEdit.h"
 
+#include "fieldMark.h"
 #include "FieldMessage.h"
 #include "refusalText.h"
 #include "vkd_h_numberText.h"
@@ -7,7 +8,6 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOptionFrame>
 
 #include <cmath>
@@ -20,13 +20,6 @@ constexpr int LongestQuote = 24;
 bool isSame(double a, double b)
 {
     return a == b || (std::isnan(a) && std::isnan(b));
-}
-
-/// A red as light or dark as the field's ground asks for; palettes have no role for it.
-QColor markColour(const QPalette& palette)
-{
-    const bool isLight = palette.color(QPalette::Base).lightnessF() > 0.5;
-    return QColor::fromHslF(0.0, 0.85, isLight ? 0.42 : 0.68);
 }
 
 QColor dimmed(QColor colour)
@@ -177,7 +170,7 @@ void VKD_H_LineEdit::setMargins()
         return text.isEmpty() ? 0 : fontMetrics().horizontalAdvance(text) + Gap;
     };
     const int unit = m_showsUnit ? widthOf(vkd_h_suffixText(m_description)) : 0;
-    const int mark = m_mark.isEmpty() ? 0 : fontMetrics().ascent() + Gap;
+    const int mark = m_mark.isEmpty() ? 0 : fieldMarkWidth(*this) + Gap;
     setTextMargins(widthOf(m_description.prefix), 0, unit + mark, 0);
 }
 
@@ -287,38 +280,12 @@ void VKD_H_LineEdit::paintEvent(QPaintEvent* event)
     QRect place = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
     place.adjust(Gap / 2, 0, -Gap / 2, 0);
     if (!m_mark.isEmpty()) {
-        paintMark(&painter, place);
-        place.setRight(place.right() - fontMetrics().ascent() - Gap);
+        paintFieldMark(&painter, *this, place);
+        place.setRight(place.right() - fieldMarkWidth(*this) - Gap);
     }
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     painter.setPen(dimmed(palette().color(group, QPalette::Text)));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, m_description.prefix);
     if (m_showsUnit)
         painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, vkd_h_suffixText(m_description));
-}
-
-/// A frame, and a warning sign for those who do not see its colour.
-void VKD_H_LineEdit::paintMark(QPainter* painter, const QRect& place) const
-{
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(markColour(palette()), 2));
-    painter->drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
-
-    const double side = fontMetrics().ascent();
-    QRectF sign(0, 0, side, side);
-    sign.moveCenter(QRectF(place).center());
-    sign.moveRight(place.right() + 1);
-    QPainterPath triangle(QPointF(sign.center().x(), sign.top()));
-    triangle.lineTo(sign.bottomRight());
-    triangle.lineTo(sign.bottomLeft());
-    triangle.closeSubpath();
-    painter->fillPath(triangle, markColour(palette()));
-    QFont bold = font();
-    bold.setBold(true);
-    bold.setPixelSize(qMax(1, int(side * 0.75)));
-    painter->setFont(bold);
-    painter->setPen(palette().color(QPalette::Base));
-    painter->drawText(sign, Qt::AlignHCenter | Qt::AlignBottom, QStringLiteral("!"));
-    painter->restore();
 }
