@@ -224,7 +224,7 @@ QString ReinforcementDialog::presentText(const VkdBarLayout& layout) const
 {
     if (!isValue(m_value))
         return tr("not set");
-    const QString text = areaText(double(m_value));
+    QString text = areaText(double(m_value));
     if (vkd_a_barFault(layout) != VkdBarFault::None)
         return text;
     const double percent = vkd_a_barArea(layout) / double(m_value) * 100.0;

@@ -101,7 +101,7 @@ QString digits(double value, const VkdDimension& dimension)
     const int decimals = std::max(dimension.decimals, 0);
     if (!(std::fabs(shown) < ExponentFrom))
         return QString::number(shown, 'g', SignificantDigits);
-    const QString text = QString::number(shown, 'f', decimals);
+    QString text = QString::number(shown, 'f', decimals);
     if (float(text.toDouble() / dimension.factor) == float(value))
         return text;
     return std::fabs(shown) < ExponentBelow ? QString::number(shown, 'g', SignificantDigits)
