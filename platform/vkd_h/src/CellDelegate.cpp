@@ -1,7 +1,8 @@
 #include "CellDelegate.h"
 
-#include "VKD_H_TableItems.h"
+#include "VKD_H_LineEdit.h"
 #include "VKD_H_TableWidget.h"
+#include "VKD_H_TwHeaderLineEditItem.h"
 
 #include <VKD_QT4_ComboBox.h>
 
@@ -43,14 +44,25 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const
 {
-    const VKD_H_TwSimpleComboBoxItem* item = comboItem(m_table, index);
-    if (!item)
-        return QStyledItemDelegate::createEditor(parent, option, index);
+    const QTableWidgetItem* item = m_table->item(index.row(), index.column());
+    const QTableWidgetItem* header = m_table->horizontalHeaderItem(index.column());
+    const QString name = header ? header->text() : QString();
+    if (auto choice = dynamic_cast<const VKD_H_TwSimpleComboBoxItem*>(item))
+        return newCombo(parent, *choice, name);
+    if (auto number = dynamic_cast<const VKD_H_TwSimpleLineEditItem*>(item)) {
+        StructLineEdit description = number->description();
+        return new VKD_H_LineEdit(parent, &description, "cellEdit", name, QString(), true);
+    }
+    return QStyledItemDelegate::createEditor(parent, option, index);
+}
+
+QWidget* CellDelegate::newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,
+                                const QString& name) const
+{
     auto combo = new VKD_QT4_ComboBox(parent, "cellCombo");
-    for (const ComboList& entry : item->entries())
+    for (const ComboList& entry : item.entries())
         combo->addEntry(entry.text, entry.id);
-    if (const QTableWidgetItem* header = m_table->horizontalHeaderItem(index.column()))
-        combo->setAccessibleName(header->text());
+    combo->setAccessibleName(name);
     // A choice is an answer: the user need not leave the cell to have it taken.
     auto self = const_cast<CellDelegate*>(this);
     connect(combo, QOverload<int>::of(&QComboBox::activated), self, [self, combo] {
@@ -63,8 +75,11 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
 
 void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
+    const QTableWidgetItem* item = m_table->item(index.row(), index.column());
     if (auto combo = qobject_cast<VKD_QT4_ComboBox*>(editor))
         combo->setCurrentIndex(combo->findText(index.data().toString(), Qt::MatchExactly));
+    else if (auto number = dynamic_cast<const VKD_H_TwSimpleLineEditItem*>(item))
+        static_cast<VKD_H_LineEdit*>(editor)->setVal(number->getVal(nullptr));
     else
         QStyledItemDelegate::setEditorData(editor, index);
 }
@@ -72,9 +87,15 @@ void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
 void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                 const QModelIndex& index) const
 {
-    const auto combo = qobject_cast<VKD_QT4_ComboBox*>(editor);
-    if (!combo)
+    if (const auto combo = qobject_cast<VKD_QT4_ComboBox*>(editor)) {
+        if (combo->currentIndex() >= 0 && combo->currentText() != index.data().toString())
+            model->setData(index, combo->currentText());
+    } else if (const auto edit = qobject_cast<VKD_H_LineEdit*>(editor)) {
+        auto number =
+            dynamic_cast<VKD_H_TwSimpleLineEditItem*>(m_table->item(index.row(), index.column()));
+        if (number)
+            number->setVal(edit->getVal());
+    } else {
         QStyledItemDelegate::setModelData(editor, model, index);
-    else if (combo->currentIndex() >= 0 && combo->currentText() != index.data().toString())
-        model->setData(index, combo->currentText());
+    }
 }

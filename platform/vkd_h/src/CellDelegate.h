@@ -3,6 +3,7 @@
 #include <QStyledItemDelegate>
 
 class VKD_H_TableWidget;
+class VKD_H_TwSimpleComboBoxItem;
 
 /// Paints and edits the cells of a VKD_H_TableWidget: cells with a choice get an arrow and a combo
 /// box.
@@ -22,5 +23,8 @@ public:
                       const QModelIndex& index) const override;
 
 private:
+    QWidget* newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,
+                      const QString& name) const;
+
     VKD_H_TableWidget* m_table;
 };

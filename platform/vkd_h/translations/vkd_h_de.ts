@@ -161,6 +161,43 @@
     </message>
 </context>
 <context>
+    <name>VKD_H_LineEdit</name>
+    <message>
+        <source>“%1” has more than one decimal sign.
+Comma and dot both are one; there is no thousands separator.</source>
+        <translation>„%1“ hat mehr als ein Dezimalzeichen.
+Komma und Punkt sind beide eines; ein Tausendertrennzeichen gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is too large; the greatest value is %2.</source>
+        <translation>%1 ist zu groß; der größte Wert ist %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too small; the smallest value is %2.</source>
+        <translation>%1 ist zu klein; der kleinste Wert ist %2.</translation>
+    </message>
+    <message>
+        <source>A value is needed here.</source>
+        <translation>Hier muss ein Wert stehen.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The value is still not set. Esc empties the field.</source>
+        <translation>Der Wert ist weiterhin nicht gesetzt. Esc leert das Feld.</translation>
+    </message>
+    <message>
+        <source>The value is still %1. Esc brings it back.</source>
+        <translation>Es gilt weiterhin der Wert %1. Esc stellt ihn wieder her.</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+</context>
+<context>
     <name>VKD_H_SecondaryGroupDialog</name>
     <message>
         <source>Secondary Group Selection</source>
@@ -202,40 +239,6 @@
     <message>
         <source>No group matches the filter.</source>
         <translation>Keine Gruppe entspricht dem Filter.</translation>
-    <name>VKD_H_LineEdit</name>
-    <message>
-        <source>“%1” has more than one decimal sign.
-Comma and dot both are one; there is no thousands separator.</source>
-        <translation>„%1“ hat mehr als ein Dezimalzeichen.
-Komma und Punkt sind beide eines; ein Tausendertrennzeichen gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>%1 is too large; the greatest value is %2.</source>
-        <translation>%1 ist zu groß; der größte Wert ist %2.</translation>
-    </message>
-    <message>
-        <source>%1 is too small; the smallest value is %2.</source>
-        <translation>%1 ist zu klein; der kleinste Wert ist %2.</translation>
-    </message>
-    <message>
-        <source>A value is needed here.</source>
-        <translation>Hier muss ein Wert stehen.</translation>
-    </message>
-    <message>
-        <source>“%1” is not a number.</source>
-        <translation>„%1“ ist keine Zahl.</translation>
-    </message>
-    <message>
-        <source>The value is still not set. Esc empties the field.</source>
-        <translation>Der Wert ist weiterhin nicht gesetzt. Esc leert das Feld.</translation>
-    </message>
-    <message>
-        <source>The value is still %1. Esc brings it back.</source>
-        <translation>Es gilt weiterhin der Wert %1. Esc stellt ihn wieder her.</translation>
-    </message>
-    <message>
-        <source>%1 in %2</source>
-        <translation>%1 in %2</translation>
     </message>
 </context>
 </TS>
