@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Type</source>
-        <translation>Typ</translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Direction and Distance</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Crack Control</source>
-        <translation>Rissnachweis</translation>
+        <translation>Rissbreite</translation>
     </message>
     <message>
         <source>Design parameter</source>
@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>Up</source>
-        <translation>Aufwärts</translation>
+        <translation>Nach oben</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation>Abwärts</translation>
+        <translation>Nach unten</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -83,6 +83,199 @@ Daten können verloren gehen!</translation>
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>dlgCrackControl</name>
+    <message>
+        <source>Crack Control</source>
+        <translation>Rissbreite</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Principal Reinforcement</source>
+        <translation>Hauptbewehrung</translation>
+    </message>
+    <message>
+        <source>Cross Reinforcement</source>
+        <translation>Querbewehrung</translation>
+    </message>
+    <message>
+        <source>Third Layer</source>
+        <translation>Dritte Lage</translation>
+    </message>
+    <message>
+        <source>Crack width</source>
+        <translation>Rissbreite</translation>
+    </message>
+    <message>
+        <source>Steel stress</source>
+        <translation>Stahlspannung</translation>
+    </message>
+    <message>
+        <source>Permissible crack width for crack width control with or without direct calculation. Crack width control acc. to EN 1992-1-1, table 7.3N requires input for permissible steel stress.</source>
+        <translation>Zulässige Rissbreite für die Begrenzung der Rissbreite mit oder ohne direkte Berechnung. Die Begrenzung nach EN 1992-1-1, Tabelle 7.3N erfordert die Eingabe der zulässigen Stahlspannung.</translation>
+    </message>
+</context>
+<context>
+    <name>dlgDistanceDirection</name>
+    <message>
+        <source>Direction and Distance</source>
+        <translation>Richtung und Abstand</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Direction / Distance</source>
+        <translation>Richtung / Abstand</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Principal Reinforcement</source>
+        <translation>Hauptbewehrung</translation>
+    </message>
+    <message>
+        <source>Cross Reinforcement</source>
+        <translation>Querbewehrung</translation>
+    </message>
+    <message>
+        <source>Third Layer</source>
+        <translation>Dritte Lage</translation>
+    </message>
+    <message>
+        <source>Third layer reinforcement (DDH)</source>
+        <translation>Dritte Lage (DDH)</translation>
+    </message>
+    <message>
+        <source>Direction (-180 ... 180)</source>
+        <translation>Richtung (-180 ... 180)</translation>
+    </message>
+    <message>
+        <source>Distance of Principal Reinforcement (H)</source>
+        <translation>Abstand der Hauptbewehrung (H)</translation>
+    </message>
+    <message>
+        <source>Distance of Cross Reinforcement (DH)</source>
+        <translation>Abstand der Querbewehrung (DH)</translation>
+    </message>
+    <message>
+        <source>Midpoint</source>
+        <translation>Mittelpunkt</translation>
+    </message>
+    <message>
+        <source>X coordinate</source>
+        <translation>X-Koordinate</translation>
+    </message>
+    <message>
+        <source>Y coordinate</source>
+        <translation>Y-Koordinate</translation>
+    </message>
+    <message>
+        <source>Z coordinate</source>
+        <translation>Z-Koordinate</translation>
+    </message>
+    <message>
+        <source>The local x-axis of the elements is the default direction of the principal reinforcement.</source>
+        <translation>Ohne Angabe liegt die Hauptbewehrung in Richtung der lokalen x-Achse der Elemente.</translation>
+    </message>
+    <message>
+        <source>Rotation angle of reinforcement towards local x-axis</source>
+        <translation>Drehwinkel der Bewehrung gegen die lokale x-Achse</translation>
+    </message>
+    <message>
+        <source>Axial Distance</source>
+        <translation>Achsabstand</translation>
+    </message>
+    <message>
+        <source>Reference point for circular reinforcement</source>
+        <translation>Bezugspunkt der ringförmigen Bewehrung</translation>
+    </message>
+</context>
+<context>
+    <name>dlgReinforcement</name>
+    <message>
+        <source>Reinforcement</source>
+        <translation>Bewehrung</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Principal Reinforcement</source>
+        <translation>Hauptbewehrung</translation>
+    </message>
+    <message>
+        <source>Cross Reinforcement</source>
+        <translation>Querbewehrung</translation>
+    </message>
+    <message>
+        <source>Third Layer</source>
+        <translation>Dritte Lage</translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation>Durchmesser</translation>
+    </message>
+    <message>
+        <source>Min. Reinforcement</source>
+        <translation>Min. Bewehrung</translation>
+    </message>
+    <message>
+        <source>Max. Reinforcement</source>
+        <translation>Max. Bewehrung</translation>
+    </message>
+    <message>
+        <source>max. Reinforcement</source>
+        <translation>max. Bewehrung</translation>
+    </message>
+    <message>
+        <source>Minimum Reinforcement</source>
+        <translation>Mindestbewehrung</translation>
+    </message>
+    <message>
+        <source>Maximum Reinforcement</source>
+        <translation>Höchstbewehrung</translation>
+    </message>
+    <message>
+        <source>Calculate minimum reinforcement</source>
+        <translation>Mindestbewehrung berechnen</translation>
+    </message>
+    <message>
+        <source>Calculate maximum reinforcement</source>
+        <translation>Höchstbewehrung berechnen</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Min greater than Max is not allowed!</source>
+        <translation>Das Minimum darf nicht größer als das Maximum sein!</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,9 @@
 #include "DesignParameterTable.h"
 #include "designRows.h"
 #include "designStore.h"
+#include "dlgCrackControl.h"
+#include "dlgDistanceDirection.h"
+#include "dlgReinforcement.h"
 #include "dlgSelection.h"
 #include "rowText.h"
 
@@ -353,11 +356,35 @@ void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
     connect(button, &QPushButton::clicked, this, slot);
 }
 
-void DesignParameter::slot_editButtonClicked() {}
+/// The dialog works on the row's record, and changes it after OK alone.
+template <class Dialog, typename... Arguments>
+void DesignParameter::editRecord(Arguments... arguments)
+{
+    const int row = data->table->currentRow();
+    DesignParameterRow* edited = plib::rowAt(*data, row);
+    if (!edited)
+        return;
+    Dialog dialog(arguments..., &edited->record, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.writeToRecord(&edited->record);
+    refreshRows(row);
+}
 
-void DesignParameter::slot_calcReinforcementButtonClicked() {}
+void DesignParameter::slot_editButtonClicked()
+{
+    editRecord<dlgDistanceDirection>();
+}
 
-void DesignParameter::slot_calcCrackButtonClicked() {}
+void DesignParameter::slot_calcReinforcementButtonClicked()
+{
+    editRecord<dlgReinforcement>(data->doc->index());
+}
+
+void DesignParameter::slot_calcCrackButtonClicked()
+{
+    editRecord<dlgCrackControl>();
+}
 
 void DesignParameter::slot_openGroups()
 {

@@ -69,6 +69,8 @@ private:
     void clearCellWidget(int row, int column);
     void openSelection(int row, int column, plib::DesignParameterRow& shown);
     void openButton(int row, int column, QTableWidgetItem* item);
+    template <class Dialog, typename... Arguments>
+    void editRecord(Arguments... arguments);
     void takeGroups(int row, const std::vector<int>& groups);
 
     std::unique_ptr<plib::DesignParameterData> data;
