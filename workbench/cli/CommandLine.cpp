@@ -29,6 +29,7 @@ constexpr Command Commands[] = {
     {"catalogue", catalogueCommand, "print and check a catalogue of plots"},
     {"rows", rowsCommand, "print and change how a project's area elements are designed"},
     {"tree", treeCommand, "print the plots that a project offers, with their check marks"},
+    {"snapshots", snapshotsCommand, "leave a picture of every page and dialog in a folder"},
 };
 
 QString usage()

@@ -15,5 +15,6 @@ int scriptCommand(const QStringList& arguments);
 int catalogueCommand(const QStringList& arguments);
 int rowsCommand(const QStringList& arguments);
 int treeCommand(const QStringList& arguments);
+int snapshotsCommand(const QStringList& arguments); // needs a QApplication
 
 } // namespace workbench

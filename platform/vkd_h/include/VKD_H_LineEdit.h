@@ -38,6 +38,10 @@ public:
     /// focus and shows why. For the OK of a dialog, before the fields are read.
     static VKD_H_LineEdit* showFirstRefused(QWidget* page);
 
+    /// Room for a number of nine characters and what stands around it.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     /// getVal() gives another value than before, because the user typed or chose a preset text.
     void valueChanged();

@@ -172,6 +172,7 @@ void VKD_H_LineEdit::setMargins()
     const int unit = m_showsUnit ? widthOf(vkd_h_suffixText(m_description)) : 0;
     const int mark = m_mark.isEmpty() ? 0 : fieldMarkWidth(*this) + Gap;
     setTextMargins(widthOf(m_description.prefix), 0, unit + mark, 0);
+    updateGeometry();
 }
 
 void VKD_H_LineEdit::showMessage()
@@ -187,6 +188,23 @@ void VKD_H_LineEdit::hideMessage()
 {
     if (m_message)
         m_message->hide();
+}
+
+QSize VKD_H_LineEdit::sizeHint() const
+{
+    const QMargins around = textMargins();
+    const int number = fontMetrics().horizontalAdvance(QLatin1String("-99999,00"));
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QSize content(number + around.left() + around.right() + 2 * Gap,
+                        QLineEdit::sizeHint().height());
+    const QSize framed = style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
+    return {framed.width(), content.height()};
+}
+
+QSize VKD_H_LineEdit::minimumSizeHint() const
+{
+    return sizeHint();
 }
 
 bool VKD_H_LineEdit::event(QEvent* event)

@@ -18,6 +18,9 @@ public:
 
     QString text() const;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QLabel* m_text;
 };

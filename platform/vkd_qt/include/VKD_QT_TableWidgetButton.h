@@ -5,6 +5,8 @@
 #include <QPersistentModelIndex>
 #include <QPushButton>
 
+class QStyleOptionButton;
+class QStylePainter;
 class QTableWidgetItem;
 
 /// A button to be laid over a cell of a table: it shows the cell's text, always the present one,
@@ -32,6 +34,8 @@ protected:
 
 private:
     QString itemText() const;
+    void paintText(QStylePainter* painter, const QStyleOptionButton& option,
+                   const QRect& area) const;
 
     QPersistentModelIndex m_index;
     ButtonModus m_modus;

@@ -5,6 +5,7 @@
 #include <vkd_qt_icon_named.h>
 
 #include <QLabel>
+#include <QResizeEvent>
 #include <QStyle>
 
 VKD_QT_InfoText::VKD_QT_InfoText(bool withSign, const QString& text, QWidget* parent,
@@ -23,6 +24,14 @@ VKD_QT_InfoText::VKD_QT_InfoText(bool withSign, const QString& text, QWidget* pa
     }
     m_text->setWordWrap(true);
     layout->addWidget(m_text, 1);
+}
+
+/// A layout that puts the note into several columns of a grid gives it too little height for the
+/// lines that it breaks into.
+void VKD_QT_InfoText::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    setMinimumHeight(heightForWidth(event->size().width()));
 }
 
 QString VKD_QT_InfoText::text() const

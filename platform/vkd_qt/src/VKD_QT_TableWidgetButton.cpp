@@ -62,9 +62,7 @@ void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
     const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
     const QRect textArea = m_modus == MarkBeside ? inner.adjusted(0, 0, -MarkWidth, 0) : inner;
     if (m_modus != MarkOnly)
-        painter.drawItemText(textArea, Qt::AlignCenter, option.palette, isEnabled(),
-                             elided(itemText(), fontMetrics(), textArea.width()),
-                             QPalette::ButtonText);
+        paintText(&painter, option, textArea);
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
@@ -73,6 +71,20 @@ void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
     }
     painter.setBrush(option.palette.color(QPalette::ButtonText));
     paintMark(painter, inner);
+}
+
+/// In as many lines as there is room for, as the cell does; if these do not do, its own lines are
+/// cut.
+void VKD_QT_TableWidgetButton::paintText(QStylePainter* painter, const QStyleOptionButton& option,
+                                         const QRect& area) const
+{
+    constexpr int Wrapped = Qt::AlignCenter | Qt::TextWordWrap;
+    const QString text = itemText();
+    const QRect needed = fontMetrics().boundingRect(area, Wrapped, text);
+    const bool fits = needed.height() <= area.height() && needed.width() <= area.width();
+    painter->drawItemText(area, fits ? Wrapped : int(Qt::AlignCenter), option.palette, isEnabled(),
+                          fits ? text : elided(text, fontMetrics(), area.width()),
+                          QPalette::ButtonText);
 }
 
 bool VKD_QT_TableWidgetButton::event(QEvent* event)

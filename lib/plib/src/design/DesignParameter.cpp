@@ -184,14 +184,17 @@ void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool is
 void DesignParameter::refreshRows(int number)
 {
     if (number != -1) {
-        if (isRow(number))
-            drawRow(data->rows[std::size_t(number)], number, false);
+        if (!isRow(number))
+            return;
+        drawRow(data->rows[std::size_t(number)], number, false);
+        data->table->fitRow(number);
         return;
     }
     for (const DesignParameterRow& row : data->rows) {
         addTableRow();
         drawRow(row, data->table->rowCount() - 1, true);
     }
+    data->table->fitRows();
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
 
@@ -221,6 +224,7 @@ void DesignParameter::slot_newRowClicked()
     addTableRow();
     const int row = data->table->rowCount() - 1;
     drawRow(plib::addDefaultRow(*data), row, true);
+    data->table->fitRow(row);
     data->table->scrollToItem(data->table->item(row, 0));
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
@@ -323,6 +327,7 @@ void DesignParameter::clearCellWidget(int row, int column)
     const bool hadFocus = widget->isAncestorOf(focusWidget()) || widget->hasFocus();
     if (hadFocus)
         data->table->setFocus();
+    widget->hide(); // it is deleted later, and a dialog may run before
     data->table->setCellWidget(row, column, nullptr);
 }
 

@@ -5,14 +5,30 @@
 #include <QHeaderView>
 
 namespace {
-constexpr int LinesPerRow = 2;
-constexpr int RowMargin = 10;
+constexpr int MostLines = 4; // two lines of text, each broken once
+constexpr int RowMargin = 8;
+constexpr int MostRowsToFit = 500; // beyond that, measuring texts would cost more than filling
 } // namespace
 
 DesignParameterTable::DesignParameterTable(QWidget* parent)
     : VKD_H_TableWidget(0, ColumnCount, parent, "table")
 {
-    verticalHeader()->setDefaultSectionSize(LinesPerRow * fontMetrics().lineSpacing() + RowMargin);
+    setVerticalScrollMode(ScrollPerPixel); // rows are tall
+    verticalHeader()->setDefaultSectionSize(MostLines * fontMetrics().lineSpacing() + RowMargin);
+    verticalHeader()->setMinimumSectionSize(2 * fontMetrics().lineSpacing() + RowMargin);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &DesignParameterTable::fitRows);
+}
+
+void DesignParameterTable::fitRow(int row)
+{
+    if (rowCount() <= MostRowsToFit)
+        resizeRowToContents(row);
+}
+
+void DesignParameterTable::fitRows()
+{
+    if (rowCount() <= MostRowsToFit)
+        resizeRowsToContents();
 }
 
 void DesignParameterTable::contextMenuEvent(QContextMenuEvent*)

@@ -21,6 +21,11 @@ public:
 
     explicit DesignParameterTable(QWidget* parent);
 
+    /// Gives a row, or all of them, the height that its texts need in columns as wide as they are.
+    /// In a very long table rows keep the height that the longest texts need.
+    void fitRow(int row);
+    void fitRows();
+
 Q_SIGNALS:
     void signal_newClicked();
     void signal_delClicked();

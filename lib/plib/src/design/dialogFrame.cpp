@@ -3,6 +3,8 @@
 #include <VKD_H_LineEdit.h>
 #include <VKD_QT_Ok.h>
 
+#include <algorithm>
+
 namespace plib {
 
 void dressDialog(VKD_QT_Dialog* dialog, const QString& title)
@@ -31,6 +33,40 @@ void addField(VKD_QT_GridLayout* grid, int row, int column, QWidget* field, cons
 {
     grid->addWidget(field, row, column);
     field->setAccessibleDescription(about);
+}
+
+namespace {
+QGridLayout* gridOf(const QGroupBox* box)
+{
+    return static_cast<QGridLayout*>(box->layout());
+}
+
+/// The width that the widgets need which stand in this column alone.
+int widthNeeded(const QGridLayout* grid, int column)
+{
+    int width = 0;
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        const QLayoutItem* item = grid->itemAtPosition(row, column);
+        const bool isAlone = column == 0 || item != grid->itemAtPosition(row, column - 1);
+        if (item && isAlone && item != grid->itemAtPosition(row, column + 1))
+            width = std::max(width, item->sizeHint().width());
+    }
+    return width;
+}
+} // namespace
+
+void alignColumns(const std::vector<QGroupBox*>& boxes)
+{
+    constexpr int ColumnsOfFields = 11;
+    for (int column = 0; column < ColumnsOfFields; ++column) {
+        int width = 0;
+        for (const QGroupBox* box : boxes)
+            width = std::max(width, widthNeeded(gridOf(box), column));
+        if (width == 0)
+            continue; // an empty column keeps the width that it was given
+        for (const QGroupBox* box : boxes)
+            gridOf(box)->setColumnMinimumWidth(column, width);
+    }
 }
 
 void showValue(VKD_H_LineEdit* edit, const tagZOB_QUAD_RIM& record, RealField field)

@@ -6,6 +6,8 @@
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_Widgets.h>
 
+#include <vector>
+
 class VKD_H_LineEdit;
 
 /// What the dialogs of a row's parameters have in common.
@@ -23,6 +25,10 @@ VKD_QT_Label* addLabel(VKD_QT_GridLayout* grid, int row, int column, const QStri
 /// Puts a field at a place of the grid. `about` says which value of the dialog it holds, for those
 /// who do not see where it stands.
 void addField(VKD_QT_GridLayout* grid, int row, int column, QWidget* field, const QString& about);
+
+/// Gives the columns of the grids in these boxes the same widths, so that fields stand below each
+/// other. For boxes that are complete.
+void alignColumns(const std::vector<QGroupBox*>& boxes);
 
 /// Shows a field of the record, and reads one; in base units, -99999.0 for a field without a value.
 void showValue(VKD_H_LineEdit* edit, const tagZOB_QUAD_RIM& record, RealField field);

@@ -10,6 +10,8 @@
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_InfoText.h>
 
+#include <QStyle>
+
 namespace {
 using R = tagZOB_QUAD_RIM;
 
@@ -62,8 +64,11 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
 {
     plib::dressDialog(this, tr("Crack Control"));
     auto layout = new VKD_QT_VBoxLayout;
-    layout->addWidget(side(true));
-    layout->addWidget(side(false));
+    VKD_QT_GroupBox* upper = side(true);
+    VKD_QT_GroupBox* lower = side(false);
+    layout->addWidget(upper);
+    layout->addWidget(lower);
+    plib::alignColumns({upper, lower});
     layout->addWidget(new VKD_QT_InfoText(
         true,
         tr("Permissible crack width for crack width control with or without direct calculation. "
@@ -110,6 +115,10 @@ VKD_QT4_ComboBox* dlgCrackControl::newCombo(const Field& field)
         new VKD_H_LineEdit(this, &format, field.editName,
                            isWidth ? tr("Crack width") : tr("Steel stress"), QString(), true);
     combo->setLineEdit(edit);
+    combo->setInsertPolicy(QComboBox::NoInsert); // the list holds the usual values alone
+    combo->setMinimumWidth(edit->sizeHint().width() +
+                           combo->style()->pixelMetric(QStyle::PM_ComboBoxFrameWidth) +
+                           combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     combo->setAccessibleName(edit->accessibleName());
     for (double value : isWidth ? CrackWidths : Stresses)
         combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', 2));

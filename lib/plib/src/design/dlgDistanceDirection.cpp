@@ -37,6 +37,7 @@ void addFigure(VKD_QT_GridLayout* grid, const QPixmap& picture)
     auto figure = new VKD_QT_Label(grid->parentWidget());
     figure->setPixmap(picture);
     grid->addWidget(figure, 0, FigureColumn, FigureRows, FigureColumns, Qt::AlignHCenter);
+    grid->setColumnStretch(FigureColumn, 1); // what is left over goes to the figure
 }
 } // namespace
 
@@ -73,12 +74,12 @@ dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* par
     plib::dressDialog(this, tr("Direction and Distance"));
     auto layout = new VKD_QT_VBoxLayout;
     const int type = record->type;
-    if (type >= 1 && type < Circular) {
-        layout->addWidget(layeredDirection(type));
-        layout->addWidget(layeredDistance(type));
-    } else if (type == Circular) {
-        layout->addWidget(circular());
-        layout->addWidget(midpoint());
+    if (type >= 1 && type <= Circular) {
+        VKD_QT_GroupBox* first = type == Circular ? circular() : layeredDirection(type);
+        VKD_QT_GroupBox* second = type == Circular ? midpoint() : layeredDistance(type);
+        layout->addWidget(first);
+        layout->addWidget(second);
+        plib::alignColumns({first, second});
     }
     plib::addOkRow(this, layout);
     setLayout(layout);
@@ -118,6 +119,7 @@ VKD_QT_GroupBox* dlgDistanceDirection::layeredDistance(int type)
 {
     VKD_QT_GroupBox* box = nullptr;
     VKD_QT_GridLayout* grid = newGrid(tr("Distance"), "distance", &box);
+    grid->setColumnMinimumWidth(2, grid->horizontalSpacing()); // as the note makes it above
     addHeader(grid);
     addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"),
            &dlgDistanceDirection::hio, &dlgDistanceDirection::hiu);
@@ -166,6 +168,7 @@ VKD_QT_GroupBox* dlgDistanceDirection::midpoint()
         plib::addLabel(grid, number, 0, row.text)->setBuddy(edit);
         grid->addWidget(edit, number++, 1, 1, 2);
     }
+    grid->setColumnStretch(FigureColumn, 1);
     return box;
 }
 
@@ -195,6 +198,9 @@ void dlgDistanceDirection::addNote(VKD_QT_GridLayout* grid)
 {
     auto note = new VKD_QT_InfoText(true, tr("The local x-axis of the elements is the default "
                                              "direction of the principal reinforcement."));
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the fields give the width
+    policy.setHeightForWidth(true);
+    note->setSizePolicy(policy);
     grid->addWidget(note, 4, 0, 1, 4);
 }
 

@@ -83,8 +83,11 @@ dlgReinforcement::dlgReinforcement(int index, tagZOB_QUAD_RIM* record, QWidget* 
 {
     plib::dressDialog(this, tr("Reinforcement"));
     auto layout = new VKD_QT_VBoxLayout;
-    layout->addWidget(side(true, record->type));
-    layout->addWidget(side(false, record->type));
+    VKD_QT_GroupBox* upper = side(true, record->type);
+    VKD_QT_GroupBox* lower = side(false, record->type);
+    layout->addWidget(upper);
+    layout->addWidget(lower);
+    plib::alignColumns({upper, lower});
     plib::addOkRow(this, layout);
     setLayout(layout);
     showValues(*record);

@@ -22,7 +22,7 @@ VKD_QT_PushButton* newButton(QWidget* parent, const char* name, int icon, const 
     button->setAutoDefault(false);
     button->setToolTip(purpose);
     button->setAccessibleName(purpose);
-    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return button;
 }
 } // namespace
@@ -36,7 +36,7 @@ dlgSelection::dlgSelection(int index, QWidget* parent)
     comboGroups->setAccessibleName(tr("Selection"));
     comboGroups->setMinimumContentsLength(1); // the cell's width decides, not the longest entry
     comboGroups->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    comboGroups->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    comboGroups->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto groups = newButton(this, "buttonGroups", GroupsIcon, tr("Select groups"));
     auto secondary =
         newButton(this, "buttonSekGroups", SecondaryGroupsIcon, tr("Select secondary groups"));

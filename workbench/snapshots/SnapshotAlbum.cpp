@@ -1,0 +1,80 @@
+#include "SnapshotAlbum.h"
+
+#include <vkd_lib_value.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QPainter>
+#include <QTimer>
+
+#include <exception>
+#include <stdexcept>
+
+namespace workbench {
+
+namespace {
+/// Layouts of word-wrapped texts need a few rounds.
+void settle()
+{
+    for (int round = 0; round < 4; ++round)
+        QApplication::processEvents();
+}
+
+std::runtime_error failure(const QString& text)
+{
+    return std::runtime_error(text.toStdString());
+}
+} // namespace
+
+SnapshotAlbum::SnapshotAlbum(const QString& folder)
+    : m_folder(folder)
+{
+    if (!QDir().mkpath(folder))
+        throw failure(QStringLiteral("cannot make the folder %1").arg(folder));
+}
+
+void SnapshotAlbum::add(const QString& name, QWidget* widget)
+{
+    settle();
+    QPixmap picture = widget->grab();
+    if (QWidget* list = QApplication::activePopupWidget()) {
+        QPainter painter(&picture);
+        painter.drawPixmap(widget->mapFromGlobal(list->mapToGlobal(QPoint())), list->grab());
+    }
+    const QString language =
+        vkd_lib_getvalue(VKD_SETTING_LANGUAGE) ? QStringLiteral("en") : QStringLiteral("de");
+    const QString file = QDir(m_folder).filePath(QStringLiteral("%1.%2.png").arg(name, language));
+    if (!picture.save(file))
+        throw failure(QStringLiteral("cannot write %1").arg(file));
+    m_files << file;
+}
+
+void SnapshotAlbum::addModal(const QString& name, const std::function<void()>& open,
+                             const std::function<void(QWidget*)>& work)
+{
+    std::exception_ptr failed; // must not pass through the event loop
+    bool wasOpened = false;
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return;
+        wasOpened = true;
+        try {
+            add(name, dialog);
+            if (work)
+                work(dialog);
+        } catch (...) {
+            failed = std::current_exception();
+        }
+        dialog->close();
+    });
+    open();
+    settle();
+    if (failed)
+        std::rethrow_exception(failed);
+    if (!wasOpened)
+        throw failure(QStringLiteral("%1 did not open").arg(name));
+}
+
+} // namespace workbench
