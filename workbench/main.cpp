@@ -18,8 +18,8 @@ std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
     if (argc < 2 || std::strcmp(argv[1], "snapshots") != 0)
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication::setStyle(QStringLiteral("fusion"));
     auto application = std::make_unique<QApplication>(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // as desktops have it
     return application;
 }
@@ -27,10 +27,10 @@ std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
 
 int main(int argc, char* argv[])
 {
+    workbench::PlatformLog::install();
     const auto application = newApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
-    workbench::PlatformLog::install();
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     return workbench::run(QCoreApplication::arguments());
 }

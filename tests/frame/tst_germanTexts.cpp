@@ -57,6 +57,7 @@ class tst_germanTexts : public QObject
 private Q_SLOTS:
     void everySourceTextIsTranslated_data();
     void everySourceTextIsTranslated();
+    void sameWordsWhereverTheyAreCompared();
     void libraryLoadedLate();
 };
 
@@ -90,6 +91,19 @@ void tst_germanTexts::everySourceTextIsTranslated()
         if (!message.finished || message.german.isEmpty())
             missing << message.context + ": " + message.source;
     QCOMPARE(missing.join('\n'), QByteArray());
+}
+
+/// An entry of the group editor is recognised by its text, in another context than its own.
+void tst_germanTexts::sameWordsWhereverTheyAreCompared()
+{
+    for (const char* source : {"None", "Remaining Groups"}) {
+        QStringList words;
+        for (const Message& message : messages(TextFile))
+            if (message.source == source)
+                words << message.german;
+        QVERIFY(words.size() >= 2);
+        QCOMPARE(words.count(words.first()), words.size());
+    }
 }
 
 void tst_germanTexts::libraryLoadedLate()

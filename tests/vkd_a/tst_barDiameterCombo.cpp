@@ -86,6 +86,8 @@ private Q_SLOTS:
         QTest::keyClick(&box, Qt::Key_Up); // the user's choice
         QCOMPARE(box.getCurrent(), 16.0F);
         QCOMPARE(changed.count(), 1);
+        QTest::keyClicks(&box, QStringLiteral("20"));
+        QCOMPARE(box.getCurrent(), 20.0F);
     }
 
     void withoutNotSet()

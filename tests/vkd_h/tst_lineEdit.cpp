@@ -187,11 +187,13 @@ private Q_SLOTS:
         QCOMPARE(edit->getVal(), 0.03);
         QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), edit);
         QVERIFY(edit->hasFocus());
+        QVERIFY(edit->accessibleDescription().startsWith(edit->refusal()));
         type(edit, "1234,5");
         QVERIFY(!message->isVisible());
         QCOMPARE(edit->refusal(), QString());
         QCOMPARE(edit->toolTip(), QStringLiteral("Axial Distance in mm\nfrom the surface"));
         QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), nullptr);
+        QCOMPARE(edit->accessibleDescription(), QStringLiteral("from the surface"));
     }
 
     /// Only text that could not become a number by typing on is marked while it is typed.

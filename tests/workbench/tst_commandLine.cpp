@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void namesWithPercentSigns();
     void designRows();
     void lookingChangesNothing();
+    void snapshots();
     void strictCatalogue();
     void failures_data();
     void failures();
@@ -257,6 +259,29 @@ void TestCommandLine::lookingChangesNothing()
     QVERIFY(testsupport::readFile(path("hall.zob")) == before);
 }
 
+/// In both languages the same pictures, each of a widget that has something in it.
+void TestCommandLine::snapshots()
+{
+    const QByteArray before = testsupport::readFile(path("hall.zob"));
+    QStringList names[2];
+    for (int english : {0, 1}) {
+        const QString language = english ? QStringLiteral("english") : QStringLiteral("german");
+        const Result result =
+            run({QStringLiteral("snapshots"), QStringLiteral("hall.zob"),
+                 QStringLiteral("pictures"), QStringLiteral("--language"), language});
+        QCOMPARE(result.error, QString());
+        QCOMPARE(result.exitCode, 0);
+        for (const QString& file : result.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+            const QImage picture(m_folder.filePath(file));
+            QVERIFY2(picture.width() > 100 && picture.height() > 50, qPrintable(file));
+            names[english] << file.section(QLatin1Char('.'), 0, 0);
+        }
+    }
+    QVERIFY(names[0].contains(QLatin1String("pictures/design-page")));
+    QCOMPARE(names[0], names[1]);
+    QVERIFY(testsupport::readFile(path("hall.zob")) == before);
+}
+
 void TestCommandLine::strictCatalogue()
 {
     QCOMPARE(run("catalogue --strict").exitCode, 0);
@@ -328,6 +353,9 @@ void TestCommandLine::failures_data()
     row("script slab.zob -o both.txt --selection-out both.txt",
         "the script and the choice cannot both go into both.txt", "both.txt");
     row("script slab.zob -o .", "cannot write .: it is no file");
+    row("snapshots noproject.zob pictures", "cannot open noproject.zob: this is no project file "
+                                            "(file is not a database)");
+    row("snapshots slab.zob bad.json/pictures", "cannot make the folder bad.json/pictures");
 }
 
 void TestCommandLine::failures()
@@ -351,7 +379,7 @@ void TestCommandLine::help_data()
     QTest::addColumn<QString>("begins");
     QTest::newRow("all") << QStringLiteral("--help")
                          << QStringLiteral("Usage: plib_workbench COMMAND");
-    for (const char* command : {"new", "rows", "script", "catalogue", "tree"})
+    for (const char* command : {"new", "rows", "script", "catalogue", "tree", "snapshots"})
         QTest::newRow(command) << QString::fromLatin1(command) + QLatin1String(" --help")
                                << QLatin1String("Usage: plib_workbench ") + QLatin1String(command) +
                                       QLatin1String(" [options]");

@@ -13,12 +13,18 @@ QStringList& kept()
 
 QtMessageHandler previous = nullptr;
 
-/// What Qt's plug-in for programs without a screen says about itself is left out.
+/// What Qt says about itself in a program without a screen.
+bool isOfNoUse(const QString& message)
+{
+    return message.startsWith(QLatin1String("This plugin does not support ")) ||
+           message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"));
+}
+
 void keep(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (context.category && std::strncmp(context.category, "vkd.", 4) == 0)
         kept() << message;
-    else if (!message.startsWith(QLatin1String("This plugin does not support ")))
+    else if (!isOfNoUse(message))
         previous(type, context, message);
 }
 } // namespace

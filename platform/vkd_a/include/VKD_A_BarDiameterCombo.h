@@ -5,6 +5,8 @@
 
 #include <VKD_QT4_ComboBox.h>
 
+#include <QElapsedTimer>
+
 /// A choice among the bars of a project. A bar value is the nominal diameter in millimetres, and
 /// -99999 stands for "not set", the first entry. A diameter that the project does not have gets an
 /// entry at its place in the order, so that it can be shown and comes back bit for bit. Only the
@@ -34,11 +36,16 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void fill(float current);
+    void selectSilently(int entry);
     bool isOffered(float diameter) const;
 
     VKD_A_BarDiameterData m_bars;
     bool m_isNotSetAllowed = true;
+    bool m_hasExtra = false;
+    QString m_typed; ///< digits, to find the bar that begins with them
+    QElapsedTimer m_lastDigit;
 };

@@ -2,7 +2,8 @@
 
 #include <VKD_QT_SignalBlocker.h>
 
-#include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 
 #include <algorithm>
 
@@ -10,7 +11,6 @@ VKD_A_BarDiameterCombo::VKD_A_BarDiameterCombo(QWidget* parent, const char* name
     : VKD_QT4_ComboBox(parent, name)
 {
     setAccessibleName(tr("Bar diameter"));
-    fill(NotSet);
 }
 
 bool VKD_A_BarDiameterCombo::load(int index)
@@ -28,7 +28,11 @@ void VKD_A_BarDiameterCombo::setNotSetAllowed(bool isAllowed)
 
 bool VKD_A_BarDiameterCombo::setCurrent(float diameter)
 {
-    fill(diameter);
+    const int entry = m_hasExtra ? -1 : findData(diameter);
+    if (entry < 0)
+        fill(diameter);
+    else
+        selectSilently(entry);
     return isOffered(diameter);
 }
 
@@ -43,6 +47,21 @@ void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange)
         fill(getCurrent());
     VKD_QT4_ComboBox::changeEvent(event);
+}
+
+/// Digits find a diameter, although the texts begin with its sign.
+void VKD_A_BarDiameterCombo::keyPressEvent(QKeyEvent* event)
+{
+    const QString digit = event->text();
+    if (digit.size() != 1 || !digit.at(0).isDigit())
+        return VKD_QT4_ComboBox::keyPressEvent(event);
+    if (!m_lastDigit.isValid() || m_lastDigit.hasExpired(QApplication::keyboardInputInterval()))
+        m_typed.clear();
+    m_lastDigit.start();
+    m_typed += digit;
+    const int entry = findText(m_bars.getString(m_typed.toFloat()), Qt::MatchStartsWith);
+    if (entry >= 0)
+        setCurrentIndex(entry);
 }
 
 void VKD_A_BarDiameterCombo::fill(float current)
@@ -60,6 +79,13 @@ void VKD_A_BarDiameterCombo::fill(float current)
     if (m_isNotSetAllowed)
         insertItem(0, tr("not set"), NotSet);
     entry = current == NotSet ? 0 : entry + int(m_isNotSetAllowed);
+    setCurrentIndex(entry);
+    m_hasExtra = isExtra;
+}
+
+void VKD_A_BarDiameterCombo::selectSilently(int entry)
+{
+    const VKD_QT_SignalBlocker blocker(this);
     setCurrentIndex(entry);
 }
 

@@ -11,7 +11,8 @@ class FieldMessage;
 /// for its users; also as the line edit of an editable combo box with preset texts. A value that is
 /// only shown comes back bit for bit, however few digits stand there. Text that is no acceptable
 /// number stays, marked and with a message at the field, until it is mended or Escape brings the
-/// last value's text back; meanwhile that value is the one that counts.
+/// last value's text back; meanwhile that value is the one that counts, also for a dialog that is
+/// closed.
 class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -35,7 +36,7 @@ public:
     /// it is not.
     QString refusal() const;
     /// The first enabled field on `page` whose text is refused, null if there is none. It gets the
-    /// focus and shows why. For the OK of a dialog, before the fields are read.
+    /// focus and shows why. For dialogs that close only when every field is read.
     static VKD_H_LineEdit* showFirstRefused(QWidget* page);
 
     /// Room for a number of nine characters and what stands around it.
@@ -76,6 +77,8 @@ private:
     QString m_shown;
     QString m_mark; ///< the reason that the mark stands for; empty without a mark
     bool m_isTyped = false;
+    QString m_about;      ///< the accessible description while there is no mark
+    bool m_wasIn = false; ///< the focus went to a list or another window, and may come back
     bool m_selectsAll = false;
     FieldMessage* m_message = nullptr; ///< made when it is first needed
 };

@@ -19,6 +19,7 @@ class VKD_H_EXPORT VKD_H_TableWidget : public VKD_QT_TableWidget
 
 public:
     VKD_H_TableWidget(int rows, int columns, QWidget* parent = nullptr, const char* name = nullptr);
+    ~VKD_H_TableWidget() override;
 
     /// Whether the context menu and the keys Insert and Delete add and delete rows by themselves.
     void setContextmenueEnabled_new_del(bool enabled);

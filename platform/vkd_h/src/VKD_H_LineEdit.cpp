@@ -49,6 +49,7 @@ VKD_H_LineEdit::VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, con
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QLineEdit::textEdited, this, [this] { m_isTyped = true; });
     connect(this, &QLineEdit::textChanged, this, &VKD_H_LineEdit::takeText);
+    setAccessibleDescription(m_explanation);
     setTips();
     setMargins();
     setVal(m_value);
@@ -143,7 +144,6 @@ void VKD_H_LineEdit::setTips()
                          : m_name.isEmpty() ? unit
                                             : tr("%1 in %2").arg(m_name, unit);
     setAccessibleName(name);
-    setAccessibleDescription(m_mark.isEmpty() ? m_explanation : m_mark);
     QStringList lines{m_mark, name, m_explanation};
     lines.removeAll(QString());
     setToolTip(lines.join(QLatin1Char('\n')));
@@ -158,6 +158,9 @@ void VKD_H_LineEdit::setMark(const QString& reason)
         hideMessage();
     if (mark == m_mark)
         return;
+    if (m_mark.isEmpty())
+        m_about = accessibleDescription();
+    setAccessibleDescription(mark.isEmpty() ? m_about : mark + QLatin1Char('\n') + m_about);
     m_mark = mark;
     setTips();
     setMargins();
@@ -256,8 +259,11 @@ void VKD_H_LineEdit::keyPressEvent(QKeyEvent* event)
 void VKD_H_LineEdit::focusInEvent(QFocusEvent* event)
 {
     dropInlineCompletion();
+    const bool wasIn = std::exchange(m_wasIn, false);
     m_selectsAll = event->reason() == Qt::MouseFocusReason;
     QLineEdit::focusInEvent(event);
+    if (!wasIn && !m_selectsAll) // with the mouse when its button is released
+        selectAll();
     if (!m_mark.isEmpty() && event->reason() != Qt::PopupFocusReason)
         showMessage();
 }
@@ -269,6 +275,7 @@ void VKD_H_LineEdit::focusOutEvent(QFocusEvent* event)
     const QString reason = refusal();
     if (!staysIn && reason.isEmpty())
         keepText();
+    m_wasIn = staysIn;
     QLineEdit::focusOutEvent(event);
     if (staysIn || reason.isEmpty())
         return;

@@ -46,6 +46,12 @@ VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, con
     connect(model(), &QAbstractItemModel::modelReset, this, changed);
 }
 
+/// The model outlives this part of the table and is reset while it goes.
+VKD_H_TableWidget::~VKD_H_TableWidget()
+{
+    model()->disconnect(this);
+}
+
 void VKD_H_TableWidget::rowCountMayHaveChanged()
 {
     const int before = m_rowCount;

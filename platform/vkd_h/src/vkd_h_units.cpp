@@ -4,6 +4,8 @@
 
 #include <vkd_lib_value.h>
 
+#include <vector>
+
 namespace {
 constexpr double DegreesPerRadian = 57.295779513082320877;
 
@@ -39,8 +41,24 @@ QString vkd_h_getDimStringFromVal(double value, int code, int)
     return vkd_h_getNumberString(value * dimension.factor, dimension.decimals);
 }
 
+namespace {
+/// The units as they stand behind a number, in the order of the table.
+std::vector<QString> unitLabels()
+{
+    std::vector<QString> labels;
+    for (const VkdDimension& dimension : Dimensions) {
+        const QString unit = QString::fromUtf8(dimension.unit);
+        labels.push_back(unit == QLatin1String("\xB0") ? unit : QLatin1Char(' ') + unit);
+    }
+    return labels;
+}
+} // namespace
+
 QString VKD_H_UnitLabel::dimString(int code, int)
 {
-    const QString unit = QString::fromUtf8(vkd_h_dimension(code).unit);
-    return unit.isEmpty() || unit == QLatin1String("\xB0") ? unit : QLatin1Char(' ') + unit;
+    static const std::vector<QString> labels = unitLabels(); // asked for with each value of a table
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        if (Dimensions[i].code == code)
+            return labels[i];
+    return QString();
 }

@@ -32,6 +32,7 @@ void VKD_QT_InfoText::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     setMinimumHeight(heightForWidth(event->size().width()));
+    layout()->setGeometry(rect()); // which may have grown meanwhile
 }
 
 QString VKD_QT_InfoText::text() const

@@ -26,6 +26,7 @@ QPen line(const QColor& color, qreal width = 1.2)
 void calculator(QPainter& painter, const QPalette& palette)
 {
     painter.setPen(line(ink(palette)));
+    painter.setBrush(palette.color(QPalette::Base)); // it also stands on grounds of other colours
     painter.drawRoundedRect(QRectF(3, 1.5, 10, 13), 1.5, 1.5);
     painter.setPen(Qt::NoPen);
     painter.setBrush(accent(palette));

@@ -89,7 +89,7 @@ Daten können verloren gehen!</translation>
     <name>dlgCrackControl</name>
     <message>
         <source>Crack Control</source>
-        <translation>Rissbreite</translation>
+        <translation>Begrenzung der Rissbreite</translation>
     </message>
     <message>
         <source>Upper</source>
@@ -164,7 +164,7 @@ Daten können verloren gehen!</translation>
     </message>
     <message>
         <source>Third layer reinforcement (DDH)</source>
-        <translation>Dritte Lage (DDH)</translation>
+        <translation>Bewehrung der dritten Lage (DDH)</translation>
     </message>
     <message>
         <source>Direction (-180 ... 180)</source>

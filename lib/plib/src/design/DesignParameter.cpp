@@ -3,6 +3,7 @@
 #include "designColumns.h"
 #include "designEntries.h"
 #include "DesignParameterTable.h"
+#include "designRecord.h"
 #include "designRows.h"
 #include "designStore.h"
 #include "dlgCrackControl.h"
@@ -292,7 +293,7 @@ void DesignParameter::slot_editCellWidget()
         openSelection(row, column, *shown);
     QTableWidgetItem* item = table->item(row, column);
     if (item && id >= Table::DirectionAndDistance) {
-        if (!shown || shown->record.type == 0)
+        if (!shown || shown->record.type == plib::NoDesign)
             return;
         openButton(row, column, item);
     }

@@ -8,6 +8,15 @@ namespace plib {
 
 constexpr float NotSet = -99999.0F;
 
+/// How the layers of an element are designed: tagZOB_QUAD_RIM::type.
+enum DesignType {
+    NoDesign = 0,
+    TwoLayersOrthogonal = 1,
+    TwoLayers = 2,
+    ThreeLayers = 3,
+    Circular = 4,
+};
+
 /// The record that a new row starts from, in the stored form. For the remaining groups it has the
 /// group -1 and the type 1, else the group 0 and no design.
 tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups);

@@ -57,8 +57,10 @@ int widthNeeded(const QGridLayout* grid, int column)
 
 void alignColumns(const std::vector<QGroupBox*>& boxes)
 {
-    constexpr int ColumnsOfFields = 11;
-    for (int column = 0; column < ColumnsOfFields; ++column) {
+    int columns = gridOf(boxes.front())->columnCount();
+    for (const QGroupBox* box : boxes)
+        columns = std::min(columns, gridOf(box)->columnCount());
+    for (int column = 0; column < columns; ++column) {
         int width = 0;
         for (const QGroupBox* box : boxes)
             width = std::max(width, widthNeeded(gridOf(box), column));

@@ -13,7 +13,8 @@ class VKD_H_LineEdit;
 /// What the dialogs of a row's parameters have in common.
 namespace plib {
 
-/// The white face of these dialogs and their title. White is required: the figures are drawn on it.
+/// The white face of these dialogs and their title. All of them are white, because the figures of
+/// one of them have a white ground.
 void dressDialog(VKD_QT_Dialog* dialog, const QString& title);
 
 /// The row with OK, which accepts, and Cancel, which rejects, at the end of the layout.

@@ -17,9 +17,8 @@ using R = tagZOB_QUAD_RIM;
 
 constexpr int CrackWidthCode = 1026;
 constexpr int StressCode = 1092;
-constexpr int ThreeLayers = 3;
 constexpr int LayersOfASide = 3;
-constexpr int StressesBehind = 6; // behind the crack width of the same layer in the table of fields
+constexpr int CrackWidthFields = 6; // the stresses of the same layers follow in the table of fields
 
 /// In millimetres and in N/mm², the units that users of these dimensions read.
 const QVector<double> CrackWidths{0.2, 0.3, 0.4};
@@ -77,8 +76,7 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
         this, "infoCrack"));
     plib::addOkRow(this, layout);
     setLayout(layout);
-    // After the lists are filled: a combo shows its first entry until it is told another value, and
-    // not set has to show as an empty field.
+    // After the lists are filled, which put a text of theirs into the field.
     for (const Field& field : Fields)
         if (VKD_H_LineEdit* edit = editOf(this->*field.combo))
             plib::showValue(edit, *record, field.field);
@@ -93,14 +91,15 @@ VKD_QT_GroupBox* dlgCrackControl::side(bool upper)
     plib::addLabel(grid, 0, 3, tr("Steel stress"));
     const QString layers[] = {tr("Principal Reinforcement"), tr("Cross Reinforcement"),
                               tr("Third Layer")};
-    const int count = type == ThreeLayers ? 3 : 2;
+    const int count = type == plib::ThreeLayers ? 3 : 2;
     for (int layer = 0; layer < count; ++layer) {
-        const Field* width = Fields + (upper ? 0 : LayersOfASide) + layer;
+        const Field& width = Fields[(upper ? 0 : LayersOfASide) + layer];
+        const Field& stress = Fields[(upper ? 0 : LayersOfASide) + layer + CrackWidthFields];
         const QString about = layers[layer] + QLatin1String(", ") + box->title();
         VKD_QT_Label* label = plib::addLabel(grid, layer + 1, 0, layers[layer]);
-        plib::addField(grid, layer + 1, 1, newCombo(*width), about);
-        plib::addField(grid, layer + 1, 3, newCombo(width[StressesBehind]), about);
-        label->setBuddy(this->*width->combo);
+        plib::addField(grid, layer + 1, 1, newCombo(width), about);
+        plib::addField(grid, layer + 1, 3, newCombo(stress), about);
+        label->setBuddy(this->*width.combo);
     }
     return box;
 }
@@ -122,6 +121,7 @@ VKD_QT4_ComboBox* dlgCrackControl::newCombo(const Field& field)
     combo->setAccessibleName(edit->accessibleName());
     for (double value : isWidth ? CrackWidths : Stresses)
         combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', 2));
+    combo->setCurrentIndex(-1); // else Down would begin behind the first
     return this->*field.combo = combo;
 }
 

@@ -21,7 +21,6 @@ public:
     /// Overwrites crack widths and steel stresses, and nothing else.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
-public Q_SLOTS:
     void accept() override;
 
 private:

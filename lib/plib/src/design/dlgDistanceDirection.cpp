@@ -11,14 +11,16 @@
 #include <VKD_QT_InfoText.h>
 #include <VKD_QT_Widgets.h>
 
+#include <QPixmap>
+
+#include <algorithm>
+
 namespace {
 using R = tagZOB_QUAD_RIM;
 
 constexpr int DirectionCode = 5;
 constexpr int DistanceCode = 1024;
 constexpr int CoordinateCode = 1001;
-
-constexpr int Circular = 4;
 
 constexpr int FigureColumn = 10;
 constexpr int FigureRows = 5;
@@ -41,6 +43,8 @@ void addFigure(VKD_QT_GridLayout* grid, const QPixmap& picture)
 }
 } // namespace
 
+using D = dlgDistanceDirection;
+
 /// An edit, the field of the record that it shows, its object name and its dimension.
 struct dlgDistanceDirection::Field
 {
@@ -51,21 +55,14 @@ struct dlgDistanceDirection::Field
 };
 
 const dlgDistanceDirection::Field dlgDistanceDirection::Fields[] = {
-    {&dlgDistanceDirection::hio, &R::hio, "hio", DistanceCode},
-    {&dlgDistanceDirection::hiu, &R::hiu, "hiu", DistanceCode},
-    {&dlgDistanceDirection::hioq, &R::hioq, "hioq", DistanceCode},
-    {&dlgDistanceDirection::hiuq, &R::hiuq, "hiuq", DistanceCode},
-    {&dlgDistanceDirection::hioi, &R::hioi, "hioi", DistanceCode},
-    {&dlgDistanceDirection::hiui, &R::hiui, "hiui", DistanceCode},
-    {&dlgDistanceDirection::rio, &R::rio, "rio", DirectionCode},
-    {&dlgDistanceDirection::riu, &R::riu, "riu", DirectionCode},
-    {&dlgDistanceDirection::rioq, &R::rioq, "rioq", DirectionCode},
-    {&dlgDistanceDirection::riuq, &R::riuq, "riuq", DirectionCode},
-    {&dlgDistanceDirection::rioi, &R::rioi, "rioi", DirectionCode},
-    {&dlgDistanceDirection::riui, &R::riui, "riui", DirectionCode},
-    {&dlgDistanceDirection::xref, &R::xref, "xref", CoordinateCode},
-    {&dlgDistanceDirection::yref, &R::yref, "yref", CoordinateCode},
-    {&dlgDistanceDirection::zref, &R::zref, "zref", CoordinateCode},
+    {&D::hio, &R::hio, "hio", DistanceCode},      {&D::hiu, &R::hiu, "hiu", DistanceCode},
+    {&D::hioq, &R::hioq, "hioq", DistanceCode},   {&D::hiuq, &R::hiuq, "hiuq", DistanceCode},
+    {&D::hioi, &R::hioi, "hioi", DistanceCode},   {&D::hiui, &R::hiui, "hiui", DistanceCode},
+    {&D::rio, &R::rio, "rio", DirectionCode},     {&D::riu, &R::riu, "riu", DirectionCode},
+    {&D::rioq, &R::rioq, "rioq", DirectionCode},  {&D::riuq, &R::riuq, "riuq", DirectionCode},
+    {&D::rioi, &R::rioi, "rioi", DirectionCode},  {&D::riui, &R::riui, "riui", DirectionCode},
+    {&D::xref, &R::xref, "xref", CoordinateCode}, {&D::yref, &R::yref, "yref", CoordinateCode},
+    {&D::zref, &R::zref, "zref", CoordinateCode},
 };
 
 dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* parent)
@@ -74,9 +71,9 @@ dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* par
     plib::dressDialog(this, tr("Direction and Distance"));
     auto layout = new VKD_QT_VBoxLayout;
     const int type = record->type;
-    if (type >= 1 && type <= Circular) {
-        VKD_QT_GroupBox* first = type == Circular ? circular() : layeredDirection(type);
-        VKD_QT_GroupBox* second = type == Circular ? midpoint() : layeredDistance(type);
+    if (type >= plib::TwoLayersOrthogonal && type <= plib::Circular) {
+        VKD_QT_GroupBox* first = type == plib::Circular ? circular() : layeredDirection(type);
+        VKD_QT_GroupBox* second = type == plib::Circular ? midpoint() : layeredDistance(type);
         layout->addWidget(first);
         layout->addWidget(second);
         plib::alignColumns({first, second});
@@ -102,14 +99,11 @@ VKD_QT_GroupBox* dlgDistanceDirection::layeredDirection(int type)
     VKD_QT_GridLayout* grid = newGrid(tr("Direction"), "direction", &box);
     const QLatin1String range(" (0 ... 180)");
     addHeader(grid);
-    addRow(grid, 1, tr("Principal Reinforcement") + range, &dlgDistanceDirection::rio,
-           &dlgDistanceDirection::riu);
-    if (type >= 2)
-        addRow(grid, 2, tr("Cross Reinforcement") + range, &dlgDistanceDirection::rioq,
-               &dlgDistanceDirection::riuq);
-    if (type == 3)
-        addRow(grid, 3, tr("Third Layer") + range, &dlgDistanceDirection::rioi,
-               &dlgDistanceDirection::riui);
+    addRow(grid, 1, tr("Principal Reinforcement") + range, &D::rio, &D::riu);
+    if (type >= plib::TwoLayers)
+        addRow(grid, 2, tr("Cross Reinforcement") + range, &D::rioq, &D::riuq);
+    if (type == plib::ThreeLayers)
+        addRow(grid, 3, tr("Third Layer") + range, &D::rioi, &D::riui);
     addNote(grid);
     addFigure(grid, GET_PIXMAP_WITH_LANG(QStringLiteral(":/neq_merpara_rich.png")));
     return box;
@@ -121,13 +115,10 @@ VKD_QT_GroupBox* dlgDistanceDirection::layeredDistance(int type)
     VKD_QT_GridLayout* grid = newGrid(tr("Distance"), "distance", &box);
     grid->setColumnMinimumWidth(2, grid->horizontalSpacing()); // as the note makes it above
     addHeader(grid);
-    addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"),
-           &dlgDistanceDirection::hio, &dlgDistanceDirection::hiu);
-    addRow(grid, 2, tr("Cross Reinforcement") + QLatin1String(" (DH)"), &dlgDistanceDirection::hioq,
-           &dlgDistanceDirection::hiuq);
-    if (type == 3)
-        addRow(grid, 3, tr("Third layer reinforcement (DDH)"), &dlgDistanceDirection::hioi,
-               &dlgDistanceDirection::hiui);
+    addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"), &D::hio, &D::hiu);
+    addRow(grid, 2, tr("Cross Reinforcement") + QLatin1String(" (DH)"), &D::hioq, &D::hiuq);
+    if (type == plib::ThreeLayers)
+        addRow(grid, 3, tr("Third layer reinforcement (DDH)"), &D::hioi, &D::hiui);
     addFigure(grid, QPixmap(QStringLiteral(":/betondeckung_1.png")));
     return box;
 }
@@ -137,12 +128,9 @@ VKD_QT_GroupBox* dlgDistanceDirection::circular()
     VKD_QT_GroupBox* box = nullptr;
     VKD_QT_GridLayout* grid = newGrid(tr("Direction / Distance"), "direction_distance", &box);
     addHeader(grid);
-    addRow(grid, 1, tr("Direction (-180 ... 180)"), &dlgDistanceDirection::rio,
-           &dlgDistanceDirection::riu);
-    addRow(grid, 2, tr("Distance of Principal Reinforcement (H)"), &dlgDistanceDirection::hio,
-           &dlgDistanceDirection::hiu);
-    addRow(grid, 3, tr("Distance of Cross Reinforcement (DH)"), &dlgDistanceDirection::hioq,
-           &dlgDistanceDirection::hiuq);
+    addRow(grid, 1, tr("Direction (-180 ... 180)"), &D::rio, &D::riu);
+    addRow(grid, 2, tr("Distance of Principal Reinforcement (H)"), &D::hio, &D::hiu);
+    addRow(grid, 3, tr("Distance of Cross Reinforcement (DH)"), &D::hioq, &D::hiuq);
     addNote(grid);
     addFigure(grid, GET_PIXMAP_WITH_LANG(QStringLiteral(":/neq_merpara_rich.png")));
     return box;
@@ -157,9 +145,9 @@ VKD_QT_GroupBox* dlgDistanceDirection::midpoint()
         QString text;
         Edit edit;
     } rows[] = {
-        {tr("X coordinate"), &dlgDistanceDirection::xref},
-        {tr("Y coordinate"), &dlgDistanceDirection::yref},
-        {tr("Z coordinate"), &dlgDistanceDirection::zref},
+        {tr("X coordinate"), &D::xref},
+        {tr("Y coordinate"), &D::yref},
+        {tr("Z coordinate"), &D::zref},
     };
     int number = 0;
     for (const auto& row : rows) {
@@ -204,14 +192,20 @@ void dlgDistanceDirection::addNote(VKD_QT_GridLayout* grid)
     grid->addWidget(note, 4, 0, 1, 4);
 }
 
+QString dlgDistanceDirection::textOf(int code)
+{
+    switch (code) {
+    case DirectionCode: return tr("Rotation angle of reinforcement towards local x-axis");
+    case DistanceCode: return tr("Axial Distance");
+    default: return tr("Reference point for circular reinforcement");
+    }
+}
+
 VKD_H_LineEdit* dlgDistanceDirection::newEdit(Edit edit)
 {
     const Field& field = *std::find_if(std::begin(Fields), std::end(Fields),
                                        [edit](const Field& entry) { return entry.edit == edit; });
-    const QString text =
-        field.code == DirectionCode  ? tr("Rotation angle of reinforcement towards local x-axis")
-        : field.code == DistanceCode ? tr("Axial Distance")
-                                     : tr("Reference point for circular reinforcement");
     StructLineEdit format = description(field.code);
-    return this->*edit = new VKD_H_LineEdit(this, &format, field.name, text, QString(), true);
+    return this->*edit =
+               new VKD_H_LineEdit(this, &format, field.name, textOf(field.code), QString(), true);
 }

@@ -25,7 +25,6 @@ public:
 private:
     using Edit = VKD_H_LineEdit* dlgDistanceDirection::*;
     struct Field;
-    struct Row;
     static const Field Fields[];
 
     VKD_QT_GroupBox* layeredDirection(int type);
@@ -36,6 +35,7 @@ private:
     void addHeader(VKD_QT_GridLayout* grid);
     void addRow(VKD_QT_GridLayout* grid, int row, const QString& text, Edit upper, Edit lower);
     void addNote(VKD_QT_GridLayout* grid);
+    static QString textOf(int code);
     VKD_H_LineEdit* newEdit(Edit edit);
 
     VKD_H_LineEdit* hio = nullptr;

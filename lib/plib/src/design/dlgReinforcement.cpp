@@ -55,26 +55,24 @@ struct dlgReinforcement::Layer
     const char* maximumName;
     plib::RealField maximumField;
     Slot calculateMaximum;
-    plib::RealField maximumShown;
 };
 
 using D = dlgReinforcement;
 
-/// Principal, cross and third layer of the upper side, then of the lower side. The maximum of the
-/// upper third layer opens with that of the lower one; this is meant.
+/// Principal, cross and third layer of the upper side, then of the lower side.
 const dlgReinforcement::Layer dlgReinforcement::Layers[] = {
     {&D::m_pDIO, "m_pDIO", &R::dio, &D::aso, "aso", &R::aso, &D::calcO, &D::amo, "amo", &R::amo,
-     &D::calcMaxO, &R::amo},
+     &D::calcMaxO},
     {&D::m_pDIOQ, "m_pDIOQ", &R::dioq, &D::asoq, "asoq", &R::asoq, &D::calcOQ, &D::amoq, "amoq",
-     &R::amoq, &D::calcMaxOQ, &R::amoq},
+     &R::amoq, &D::calcMaxOQ},
     {&D::m_pDIOI, "m_pDIOI", &R::dioi, &D::asoi, "asoi", &R::asoi, &D::calcOI, &D::amoi, "amoi",
-     &R::amoi, &D::calcMaxOI, &R::amui},
+     &R::amoi, &D::calcMaxOI},
     {&D::m_pDIU, "m_pDIU", &R::diu, &D::asu, "asu", &R::asu, &D::calcU, &D::amu, "amu", &R::amu,
-     &D::calcMaxU, &R::amu},
+     &D::calcMaxU},
     {&D::m_pDIUQ, "m_pDIUQ", &R::diuq, &D::asuq, "asuq", &R::asuq, &D::calcUQ, &D::amuq, "amuq",
-     &R::amuq, &D::calcMaxUQ, &R::amuq},
+     &R::amuq, &D::calcMaxUQ},
     {&D::m_pDIUI, "m_pDIUI", &R::diui, &D::asui, "asui", &R::asui, &D::calcUI, &D::amui, "amui",
-     &R::amui, &D::calcMaxUI, &R::amui},
+     &R::amui, &D::calcMaxUI},
 };
 
 dlgReinforcement::dlgReinforcement(int index, tagZOB_QUAD_RIM* record, QWidget* parent)
@@ -106,18 +104,19 @@ VKD_QT_GroupBox* dlgReinforcement::side(bool upper, int type)
     const Layer* layers = Layers + (upper ? 0 : LayersOfASide);
     addLayer(box, 1, layers[0], tr("Principal Reinforcement"));
     addLayer(box, 2, layers[1], tr("Cross Reinforcement"));
-    if (type == 3)
+    if (type == plib::ThreeLayers)
         addLayer(box, 3, layers[2], tr("Third Layer"));
     return box;
 }
 
-void dlgReinforcement::addLayer(QWidget* box, int row, const Layer& layer, const QString& text)
+void dlgReinforcement::addLayer(VKD_QT_GroupBox* box, int row, const Layer& layer,
+                                const QString& text)
 {
     auto grid = static_cast<VKD_QT_GridLayout*>(box->layout());
     auto combo = new VKD_A_BarDiameterCombo(this, layer.diameterName);
     combo->load(zobIndex);
     this->*layer.diameter = combo;
-    const QString about = text + QLatin1String(", ") + static_cast<QGroupBox*>(box)->title();
+    const QString about = text + QLatin1String(", ") + box->title();
     plib::addLabel(grid, row, TextColumn, text)->setBuddy(combo);
     plib::addField(grid, row, DiameterColumn, combo, about);
     this->*layer.minimum = newEdit(layer.minimumName, tr("Minimum Reinforcement"));
@@ -139,7 +138,6 @@ void dlgReinforcement::addCalculator(VKD_QT_GridLayout* grid, int row, int colum
 {
     auto button = new VKD_QT_PushButton(this, "Calc");
     button->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/calculator")));
-    button->setAutoDefault(false);
     button->setAccessibleName(column == MinimumCalculatorColumn
                                   ? tr("Calculate minimum reinforcement")
                                   : tr("Calculate maximum reinforcement"));
@@ -155,8 +153,11 @@ void dlgReinforcement::showValues(const tagZOB_QUAD_RIM& record)
             continue;
         (this->*layer.diameter)->setCurrent(record.*layer.diameterField);
         plib::showValue(this->*layer.minimum, record, layer.minimumField);
-        plib::showValue(this->*layer.maximum, record, layer.maximumShown);
+        plib::showValue(this->*layer.maximum, record, layer.maximumField);
     }
+    // The upper third layer opens with the value of the lower one; this is meant.
+    if (amoi)
+        plib::showValue(amoi, record, &R::amui);
 }
 
 /// A layer without widgets is not kept: its fields become not set.

@@ -46,7 +46,7 @@ private:
     static const Layer Layers[];
 
     VKD_QT_GroupBox* side(bool upper, int type);
-    void addLayer(QWidget* box, int row, const Layer& layer, const QString& text);
+    void addLayer(VKD_QT_GroupBox* box, int row, const Layer& layer, const QString& text);
     VKD_H_LineEdit* newEdit(const char* name, const QString& text);
     void addCalculator(VKD_QT_GridLayout* grid, int row, int column, Slot slot,
                        const QString& about);

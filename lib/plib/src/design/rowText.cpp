@@ -8,6 +8,7 @@
 #include <vkd_h_units.h>
 
 #include <QCoreApplication>
+#include <QVarLengthArray>
 
 #include <iterator>
 
@@ -15,7 +16,7 @@ namespace plib {
 
 namespace {
 using R = tagZOB_QUAD_RIM;
-using FieldList = std::vector<RealField>;
+using FieldList = QVarLengthArray<RealField, 6>;
 
 constexpr int FirstPackedName = 1000000;
 constexpr int BarCode = 1023;
@@ -39,9 +40,9 @@ Summary distances(int type)
 {
     Summary summary{{&R::rio, &R::riu}, {&R::hio, &R::hiu, &R::hioq, &R::hiuq}, true};
     if (type == 2 || type == 3)
-        summary.first.insert(summary.first.end(), {&R::rioq, &R::riuq});
+        summary.first << &R::rioq << &R::riuq;
     if (type == 3) // with the third layer's distances, but without its directions: this is meant
-        summary.second.insert(summary.second.end(), {&R::hioi, &R::hiui});
+        summary.second << &R::hioi << &R::hiui;
     return summary;
 }
 
@@ -56,7 +57,7 @@ Summary reinforcement()
 Summary crackControl(int type)
 {
     const SixFields& all = type == 1 ? fields::CrackWidths : fields::Stresses;
-    return {{all.begin(), all.begin() + 3}, {all.begin() + 3, all.end()}, true};
+    return {{all[0], all[1], all[2]}, {all[3], all[4], all[5]}, true};
 }
 
 Summary summaryOf(int column, int type)
@@ -66,14 +67,15 @@ Summary summaryOf(int column, int type)
     return column == 3 ? reinforcement() : crackControl(type);
 }
 
-QString line(const DesignParameterRow& row, const FieldList& fields)
+void appendLine(const DesignParameterRow& row, const FieldList& fields, QString* text)
 {
-    QStringList values;
-    for (RealField field : fields) {
-        const int code = dimensionCode(field);
-        values << valueText(row, row.record.*field, code, VKD_H_UnitLabel::dimString(code, 0));
+    const QLatin1String separator(" ;");
+    for (int i = 0; i < fields.size(); ++i) {
+        const int code = dimensionCode(fields[i]);
+        if (i > 0)
+            *text += separator;
+        *text += valueText(row, row.record.*fields[i], code, VKD_H_UnitLabel::dimString(code, 0));
     }
-    return values.join(QLatin1String(" ;"));
 }
 
 QString summaryText(const DesignParameterRow& row, int column)
@@ -83,8 +85,15 @@ QString summaryText(const DesignParameterRow& row, int column)
     if (type < 1 || type > LastTypeWithText)
         return QString();
     const Summary summary = summaryOf(column, type);
-    return line(row, summary.first) + QLatin1Char('\n') + line(row, summary.second) +
-           QLatin1String(summary.closes ? " ;" : "");
+    constexpr int UsualLength = 80;
+    QString text;
+    text.reserve(UsualLength);
+    appendLine(row, summary.first, &text);
+    text += QLatin1Char('\n');
+    appendLine(row, summary.second, &text);
+    if (summary.closes)
+        text += QLatin1String(" ;");
+    return text;
 }
 
 QString groupsText(const std::vector<int>& groups)

@@ -1,0 +1,238 @@
+// The table of the design page and its dialogs, against Qt's plain widgets with the same content.
+
+#include "RatioReporter.h"
+
+#include <DesignParameterData.h>
+#include <designRecord.h>
+#include <designStore.h>
+#include <dlgCrackControl.h>
+#include <dlgDistanceDirection.h>
+#include <dlgReinforcement.h>
+#include <rowText.h>
+#include <VKD_H_ZOBDoc.h>
+#include <VKD_P_DesignParameter>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+#include <chrono>
+
+namespace {
+constexpr int Rows = 10000;
+constexpr int Columns = 5;
+
+using Clock = std::chrono::steady_clock;
+
+double secondsSince(Clock::time_point start)
+{
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/// A project in which each group has parameters of its own, so that it has a row of its own.
+class Project
+{
+public:
+    Project()
+        : doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.zob"))))
+    {
+        plib::DesignParameterData written;
+        written.designDoc = doc.get();
+        for (int group = 0; group < Rows; ++group) {
+            tagZOB_QUAD_RIM record = plib::getDefaultMerPara(true);
+            record.rio = float(group) / Rows;
+            written.rows.push_back({nullptr, record, {group}});
+        }
+        bool converted = true; // the records above are in the stored form
+        plib::writeRowsToZob(written, converted);
+    }
+
+    plib::DesignParameterData read() const
+    {
+        plib::DesignParameterData data;
+        data.designDoc = doc.get();
+        plib::readRowsFromZob(data);
+        return data;
+    }
+
+private:
+    QTemporaryDir m_folder;
+
+public:
+    std::unique_ptr<VKD_H_ZOBDoc> doc;
+};
+
+std::unique_ptr<VKD_P_DesignParameter> newPage(const Project& project)
+{
+    auto page = std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(),
+                                                        nullptr, false, false);
+    page->init();
+    page->show();
+    QApplication::processEvents();
+    return page;
+}
+
+/// What the page takes to read and show, without what reading takes by itself.
+void fillPage(benchmark::State& state)
+{
+    const Project project;
+    for (auto _ : state) {
+        Clock::time_point start = Clock::now();
+        project.read();
+        const double reading = secondsSince(start);
+        const auto page = newPage(project);
+        start = Clock::now();
+        page->readZob();
+        state.SetIterationTime(secondsSince(start) - reading);
+    }
+}
+
+/// The same items row by row. Their texts are made on the way, as the page makes them: what is
+/// compared is the table.
+void fillBareTable(benchmark::State& state)
+{
+    const Project project;
+    const plib::DesignParameterData data = project.read();
+    for (auto _ : state) {
+        QTableWidget table(0, Columns);
+        table.show();
+        QApplication::processEvents();
+        const Clock::time_point start = Clock::now();
+        for (const plib::DesignParameterRow& row : data.rows) {
+            const int number = table.rowCount();
+            table.insertRow(number);
+            for (int column = 0; column < Columns; ++column) {
+                auto item = new QTableWidgetItem(plib::rowText(row, column));
+                item->setTextAlignment(Qt::AlignCenter);
+                item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+                table.setItem(number, column, item);
+            }
+        }
+        state.SetIterationTime(secondsSince(start));
+    }
+}
+
+/// Every second row, which is the worst choice.
+void deleteHalf(benchmark::State& state)
+{
+    const Project project;
+    for (auto _ : state) {
+        const auto page = newPage(project);
+        page->readZob();
+        auto table = page->findChild<QTableWidget*>(QStringLiteral("table"));
+        QItemSelection selection;
+        for (int row = 1; row < Rows; row += 2)
+            selection.select(table->model()->index(row, 0),
+                             table->model()->index(row, Columns - 1));
+        table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+        const Clock::time_point start = Clock::now();
+        page->findChild<QPushButton*>(QStringLiteral("btnDelete"))->click();
+        state.SetIterationTime(secondsSince(start));
+        if (table->rowCount() != Rows / 2)
+            state.SkipWithError("not all rows were deleted");
+    }
+}
+
+void openAndPaint(QWidget* dialog)
+{
+    dialog->show();
+    dialog->grab();
+}
+
+tagZOB_QUAD_RIM threeLayers()
+{
+    tagZOB_QUAD_RIM record = plib::getDefaultMerPara(false);
+    record.type = 3;
+    return record;
+}
+
+template <class Dialog>
+std::unique_ptr<Dialog> newDialog()
+{
+    tagZOB_QUAD_RIM record = threeLayers();
+    if constexpr (std::is_same_v<Dialog, dlgReinforcement>)
+        return std::make_unique<Dialog>(0, &record, nullptr);
+    else
+        return std::make_unique<Dialog>(&record, nullptr);
+}
+
+template <class Dialog>
+void openDialog(benchmark::State& state)
+{
+    for (auto _ : state)
+        openAndPaint(newDialog<Dialog>().get());
+}
+
+/// As many of Qt's widgets of each sort as the dialog has, in a box with a grid of four columns.
+template <class Dialog>
+void openPlainDialog(benchmark::State& state)
+{
+    const auto model = newDialog<Dialog>();
+    const QList<QComboBox*> combos = model->template findChildren<QComboBox*>();
+    int edits = model->template findChildren<QLineEdit*>().size();
+    for (const QComboBox* combo : combos)
+        edits -= combo->isEditable(); // has one of its own
+    const int buttons = model->template findChildren<QPushButton*>().size();
+    const int labels = model->template findChildren<QLabel*>().size();
+    for (auto _ : state) {
+        QDialog dialog;
+        auto box = new QGroupBox(QStringLiteral("Title"), &dialog);
+        (new QGridLayout(&dialog))->addWidget(box);
+        auto grid = new QGridLayout(box);
+        int place = 0;
+        const auto add = [&](QWidget* widget) {
+            grid->addWidget(widget, place / 4, place % 4);
+            ++place;
+        };
+        for (const QComboBox* combo : combos) {
+            auto plain = new QComboBox(&dialog);
+            plain->setEditable(combo->isEditable());
+            for (int entry = 0; entry < combo->count(); ++entry)
+                plain->addItem(combo->itemText(entry));
+            add(plain);
+        }
+        for (int i = 0; i < edits; ++i)
+            add(new QLineEdit(QStringLiteral("12.50"), &dialog));
+        for (int i = 0; i < labels; ++i)
+            add(new QLabel(QStringLiteral("Principal Reinforcement"), &dialog));
+        for (int i = 0; i < buttons; ++i)
+            add(new QPushButton(QStringLiteral("OK"), &dialog));
+        openAndPaint(&dialog);
+    }
+}
+
+BENCHMARK(fillPage)->UseManualTime();
+BENCHMARK(fillBareTable)->UseManualTime();
+BENCHMARK(deleteHalf)->UseManualTime();
+BENCHMARK_TEMPLATE(openDialog, dlgDistanceDirection);
+BENCHMARK_TEMPLATE(openPlainDialog, dlgDistanceDirection);
+BENCHMARK_TEMPLATE(openDialog, dlgReinforcement);
+BENCHMARK_TEMPLATE(openPlainDialog, dlgReinforcement);
+BENCHMARK_TEMPLATE(openDialog, dlgCrackControl);
+BENCHMARK_TEMPLATE(openPlainDialog, dlgCrackControl);
+
+Bound opening(const char* dialog)
+{
+    return {std::string("openDialog<") + dialog + ">",
+            std::string("openPlainDialog<") + dialog + ">", 1.5};
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    return runBenchmarks(argc, argv,
+                         {{"fillPage/manual_time", "fillBareTable/manual_time", 1.3},
+                          {"deleteHalf/manual_time", "fillPage/manual_time", 1.0},
+                          opening("dlgDistanceDirection"),
+                          opening("dlgReinforcement"),
+                          opening("dlgCrackControl")});
+}
