@@ -6,9 +6,13 @@
 #include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_Ok.h>
+#include <VKD_QT_TabDialog.h>
 #include <VKD_QT_TableWidget.h>
 #include <VKD_QT_TableWidgetButton.h>
+#include <vkd_qt_xmlpart.h>
 
+#include <QPushButton>
+#include <QTabWidget>
 #include <QWheelEvent>
 
 class tst_widgets : public QObject
@@ -20,6 +24,10 @@ private Q_SLOTS:
     void boxLeftByEscape();
     void okInTheLanguageOfTheDesktop();
     void wheelOverACombo();
+    void comboKeepsItsState_data();
+    void comboKeepsItsState();
+    void comboShowsPictures();
+    void tabDialogTellsItsPages();
     void cellButtonShowsThePresentText();
     void rowsOfASelection();
 };
@@ -95,6 +103,72 @@ void tst_widgets::wheelOverACombo()
     combo.addItem(QStringLiteral("without an id"));
     combo.setCurrentIndex(3);
     QCOMPARE(combo.getCurrentId(), VKD_QT4_ComboBox::NoId);
+}
+
+void tst_widgets::comboKeepsItsState_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<int>("entry");
+    QTest::newRow("id among other parts") << "<List_4>x</List_4><cbo>7</cbo><cb>4</cb>" << 2;
+    QTest::newRow("text of an entry without id") << "<cbo>1 &lt; 2</cbo>" << 3;
+    QTest::newRow("number as a text") << "<cbo>10</cbo>" << 4;
+    QTest::newRow("text of an entry with an id") << "<cbo>seven</cbo>" << 1;
+    QTest::newRow("unknown id") << "<cbo>5</cbo>" << 1;
+    QTest::newRow("other tag") << "<cbo2>7</cbo2>" << 1;
+    QTest::newRow("empty text") << "<cbo></cbo>" << 5;
+    QTest::newRow("no parts") << "7" << 1;
+}
+
+void tst_widgets::comboKeepsItsState()
+{
+    QFETCH(const QString, stored);
+    QFETCH(const int, entry);
+    VKD_QT4_ComboBox combo(nullptr, "cbo");
+    QCOMPARE(combo.writeXMLstring(), QString());
+    combo.addEntry(QStringLiteral("four"), 4);
+    combo.addEntry(QStringLiteral("minus one"), -1);
+    combo.addEntry(QStringLiteral("seven"), 7);
+    combo.addItems({QStringLiteral("1 < 2"), QStringLiteral("10"), QString()});
+    combo.setCurrentIndex(1);
+    combo.readXMLstring(stored);
+    QCOMPARE(combo.currentIndex(), entry);
+    const QString part = combo.writeXMLstring();
+    combo.setCurrentIndex(0);
+    combo.readXMLstring(vkd_qt_writeXMLpart(part, QStringLiteral("other")) + part);
+    QCOMPARE(combo.currentIndex(), entry);
+}
+
+void tst_widgets::comboShowsPictures()
+{
+    VKD_QT4_ComboBox combo;
+    QPixmap picture(60, 12);
+    picture.fill(Qt::black);
+    const int narrow = combo.iconSize().width();
+    combo.addItem(picture, QStringLiteral("dashed"), 2);
+    QCOMPARE(combo.getCurrentId(), 2);
+    QVERIFY(combo.iconSize().width() == 60 && narrow < 60);
+}
+
+void tst_widgets::tabDialogTellsItsPages()
+{
+    VKD_QT_TabDialog dialog;
+    QSignalSpy changed(&dialog, &VKD_QT_TabDialog::currentChanged);
+    QWidgetList pages;
+    for (const char* label : {"a", "b", "c"}) {
+        pages << new QWidget;
+        dialog.addTab(pages.last(), QLatin1String(label));
+    }
+    dialog.tabWidget()->setCurrentIndex(1);
+    QCOMPARE(changed.size(), 0);
+    dialog.show();
+    dialog.tabWidget()->setCurrentIndex(2);
+    dialog.okRow()->cmdCancel()->click();
+    dialog.show(); // the same page as before
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(changed[0].first().value<QWidget*>(), pages[1]);
+    QCOMPARE(changed[1].first().value<QWidget*>(), pages[2]);
+    dialog.okRow()->cmdOk()->click();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void tst_widgets::cellButtonShowsThePresentText()

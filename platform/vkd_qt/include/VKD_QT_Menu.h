@@ -2,9 +2,14 @@
 
 #include <QMenu>
 
-/// The menu of the framework. It adds nothing to Qt's.
+/// Qt's menu with an object name as the framework's constructors take it.
 class VKD_QT_Menu : public QMenu
 {
 public:
     using QMenu::QMenu;
+    VKD_QT_Menu(QWidget* parent, const char* name)
+        : QMenu(parent)
+    {
+        setObjectName(QLatin1String(name));
+    }
 };

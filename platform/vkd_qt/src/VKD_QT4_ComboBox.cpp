@@ -1,16 +1,29 @@
 #include "VKD_QT4_ComboBox.h"
 
+#include "vkd_qt_xmlpart.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QStylePainter>
 #include <QToolTip>
 #include <QWheelEvent>
 
+namespace {
+constexpr int PictureGap = 4; // what styles leave between an entry's picture and its text
+} // namespace
+
 VKD_QT4_ComboBox::VKD_QT4_ComboBox(QWidget* parent, const char* name)
     : QComboBox(parent)
 {
     setObjectName(QLatin1String(name));
     setFocusPolicy(Qt::StrongFocus); // and not Qt's own, which takes the focus by the wheel
+}
+
+void VKD_QT4_ComboBox::addItem(const QPixmap& picture, const QString& text, int id)
+{
+    addItem(QIcon(picture), text, id);
+    if (!picture.isNull())
+        setIconSize(iconSize().expandedTo(picture.size() / picture.devicePixelRatio()));
 }
 
 void VKD_QT4_ComboBox::addEntry(const QString& text, int id)
@@ -32,6 +45,27 @@ bool VKD_QT4_ComboBox::setCurrentId(int id)
     return entry >= 0;
 }
 
+QString VKD_QT4_ComboBox::writeXMLstring() const
+{
+    if (currentIndex() < 0 || objectName().isEmpty())
+        return QString();
+    const bool hasId = currentData().isValid();
+    return vkd_qt_writeXMLpart(hasId ? QString::number(getCurrentId()) : itemText(currentIndex()),
+                               objectName());
+}
+
+void VKD_QT4_ComboBox::readXMLstring(const QString& wholeString)
+{
+    const QString value = vkd_qt_readXMLpart(wholeString, 0, objectName());
+    bool isNumber = false;
+    const int id = value.toInt(&isNumber);
+    if (isNumber && setCurrentId(id))
+        return;
+    for (int entry = 0; entry < count() && !value.isNull(); ++entry)
+        if (!itemData(entry).isValid() && itemText(entry) == value)
+            return setCurrentIndex(entry);
+}
+
 void VKD_QT4_ComboBox::showPopup()
 {
     const int frame = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) +
@@ -44,9 +78,10 @@ QString VKD_QT4_ComboBox::cutText() const
 {
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                QStyle::SC_ComboBoxEditField, this);
-    return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width() - 2);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const int picture = itemIcon(currentIndex()).isNull() ? 0 : iconSize().width() + PictureGap;
+    return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width() - 2 - picture);
 }
 
 bool VKD_QT4_ComboBox::event(QEvent* event)

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QAction>
+
+/// Qt's action with an object name as the framework's constructors take it.
+class VKD_QT_Action : public QAction
+{
+public:
+    VKD_QT_Action(const QIcon& icon, const QString& text, const QKeySequence& shortcut,
+                  QObject* parent, const char* name)
+        : QAction(icon, text, parent)
+    {
+        setShortcut(shortcut);
+        setObjectName(QLatin1String(name));
+    }
+};

@@ -1,0 +1,52 @@
+#include "VKD_QT_TabDialog.h"
+
+#include "VKD_QT_Layouts.h"
+#include "VKD_QT_Ok.h"
+
+#include <QPushButton>
+#include <QTabWidget>
+
+VKD_QT_TabDialog::VKD_QT_TabDialog(QWidget* parent, const char* name, Qt::WindowFlags flags)
+    : VKD_QT_Dialog(parent, name, flags)
+    , m_tabs(new QTabWidget(this))
+    , m_ok(new VKD_QT_Ok(this, 3, "okayandcancelbutton"))
+{
+    m_tabs->setObjectName(QStringLiteral("tabs"));
+    auto layout = new VKD_QT_VBoxLayout(this);
+    layout->addWidget(m_tabs);
+    layout->addWidget(m_ok);
+    connect(m_ok->cmdOk(), &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_ok->cmdCancel(), &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &VKD_QT_TabDialog::tellPage);
+}
+
+int VKD_QT_TabDialog::addTab(QWidget* page, const QString& label)
+{
+    return m_tabs->addTab(page, label);
+}
+
+QTabWidget* VKD_QT_TabDialog::tabWidget() const
+{
+    return m_tabs;
+}
+
+VKD_QT_Ok* VKD_QT_TabDialog::okRow() const
+{
+    return m_ok;
+}
+
+void VKD_QT_TabDialog::showEvent(QShowEvent* event)
+{
+    VKD_QT_Dialog::showEvent(event);
+    m_wasShown = true;
+    tellPage();
+}
+
+void VKD_QT_TabDialog::tellPage()
+{
+    QWidget* page = m_tabs->currentWidget();
+    if (!m_wasShown || !page || page == m_told)
+        return;
+    m_told = page;
+    Q_EMIT currentChanged(page);
+}

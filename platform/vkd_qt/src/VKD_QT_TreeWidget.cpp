@@ -1,0 +1,92 @@
+#include "VKD_QT_TreeWidget.h"
+
+#include "treeCheckStates.h"
+#include "VKD_QT_Menu.h"
+#include "VKD_QT_SignalBlocker.h"
+
+#include <QKeyEvent>
+
+VKD_QT_TreeWidget::VKD_QT_TreeWidget(QWidget* parent, const char* name)
+    : QTreeWidget(parent)
+{
+    setObjectName(QLatin1String(name));
+    // Behind QTreeWidget's own connections: whoever hears this may delete the item.
+    connect(model(), &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex&, const QModelIndex&, const QVector<int>& roles) {
+                if (m_isAutomatic && roles.contains(Qt::CheckStateRole))
+                    Q_EMIT checkStatesChanged();
+            });
+}
+
+void VKD_QT_TreeWidget::setAutomaticCheckStateUpdate(bool on)
+{
+    m_isAutomatic = on;
+}
+
+void VKD_QT_TreeWidget::settleCheckStates()
+{
+    {
+        const VKD_QT_SignalBlocker silence(model());
+        for (int column = 0; column < columnCount(); ++column)
+            settleBelow(invisibleRootItem(), column);
+    }
+    viewport()->update();
+    Q_EMIT checkStatesChanged();
+}
+
+QAction* VKD_QT_TreeWidget::addExpandAll(VKD_QT_Menu* menu)
+{
+    QAction* action = menu->addAction(tr("Expand All"), this, &QTreeView::expandAll);
+    action->setObjectName(QStringLiteral("actExpandAll"));
+    return action;
+}
+
+QAction* VKD_QT_TreeWidget::addCollapseAll(VKD_QT_Menu* menu)
+{
+    QAction* action = menu->addAction(tr("Collapse All"), this, &VKD_QT_TreeWidget::closeBranches);
+    action->setObjectName(QStringLiteral("actCollapseAll"));
+    return action;
+}
+
+void VKD_QT_TreeWidget::closeBranches()
+{
+    collapseAll();
+    QTreeWidgetItem* item = currentItem();
+    if (!item)
+        return;
+    while (item->parent())
+        item = item->parent();
+    // Else the arrow keys would begin at the first row.
+    setCurrentItem(item, currentColumn(), QItemSelectionModel::NoUpdate);
+}
+
+/// The view hears of a change ahead of all others, so that these find the states settled.
+void VKD_QT_TreeWidget::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                                    const QVector<int>& roles)
+{
+    QTreeWidget::dataChanged(topLeft, bottomRight, roles);
+    if (!m_isAutomatic || !roles.contains(Qt::CheckStateRole))
+        return;
+    QTreeWidgetItem* item = itemFromIndex(topLeft);
+    if (!item || !hasCheckBox(item, topLeft.column()))
+        return;
+    const Qt::CheckState state = item->checkState(topLeft.column());
+    const VKD_QT_SignalBlocker silence(model());
+    if (state != Qt::PartiallyChecked)
+        carryDown(item, topLeft.column(), state);
+    settleAncestors(item, topLeft);
+    viewport()->update();
+}
+
+/// Qt's Space asks the current cell only, and that may be one beside the check box.
+void VKD_QT_TreeWidget::keyPressEvent(QKeyEvent* event)
+{
+    constexpr Qt::ItemFlags Usable = Qt::ItemIsEnabled | Qt::ItemIsUserCheckable;
+    QTreeWidgetItem* item = currentItem();
+    const bool isBeside = event->key() == Qt::Key_Space && item && currentColumn() > 0 &&
+                          (item->flags() & Usable) == Usable &&
+                          !hasCheckBox(item, currentColumn()) && hasCheckBox(item, 0);
+    if (!isBeside)
+        return QTreeWidget::keyPressEvent(event);
+    item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+}

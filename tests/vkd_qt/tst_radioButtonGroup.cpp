@@ -1,0 +1,175 @@
+#include "WidgetTestSupport.h"
+
+#include <VKD_QT_Layouts.h>
+#include <VKD_QT_RadioButtonGroup.h>
+
+#include <QLineEdit>
+#include <QRadioButton>
+
+namespace {
+std::vector<StructRadioButtonGrup> entries(int count, int withWidget = -1)
+{
+    std::vector<StructRadioButtonGrup> items;
+    for (int i = 0; i < count; ++i)
+        items.push_back({-1, QStringLiteral("Entry %1").arg(i), {}, {}, int(i == withWidget)});
+    return items;
+}
+
+/// A window with a field before and behind a group, whose entry 1 bears a field.
+struct Page
+{
+    explicit Page(const std::vector<StructRadioButtonGrup>& items = entries(4, 1))
+        : before(new QLineEdit(&window))
+        , group(new VKD_QT_RadioButtonGroup(QStringLiteral("Scale"), items, &window, "scale"))
+        , behind(new QLineEdit(&window))
+        , own(new QLineEdit)
+    {
+        auto layout = new VKD_QT_VBoxLayout(&window);
+        for (QWidget* widget : {static_cast<QWidget*>(before), static_cast<QWidget*>(group),
+                                static_cast<QWidget*>(behind)})
+            layout->addWidget(widget);
+        group->setWidget(1, own);
+        group->init(items);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        before->setFocus();
+    }
+
+    QRadioButton* radio(int entry) const
+    {
+        return window.findChild<QRadioButton*>(QStringLiteral("scale_%1").arg(entry));
+    }
+
+    static void key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+
+    QWidget window;
+    QLineEdit* before;
+    VKD_QT_RadioButtonGroup* group;
+    QLineEdit* behind;
+    QLineEdit* own;
+};
+} // namespace
+
+class tst_radioButtonGroup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void choiceOfTheUser()
+    {
+        const Page page;
+        QSignalSpy told(page.group, &VKD_QT_RadioButtonGroup::buttWasClicked);
+        QCOMPARE(page.group->selectedButton(), -1);
+        QTest::mouseClick(page.radio(0), Qt::LeftButton, {}, {8, page.radio(0)->height() / 2});
+        QCOMPARE(told.takeFirst().first().toInt(), 0);
+        page.radio(0)->click();
+        page.group->setButton(2);
+        page.group->getRadioButton(2)->click(); // chosen by code before
+        for (int none : {-1, 4})
+            page.group->setButton(none);
+        QCOMPARE(told.size(), 0);
+        QCOMPARE(page.group->selectedButton(), 2);
+        page.radio(2)->setFocus();
+        Page::key(Qt::Key_Down);
+        QCOMPARE(told.takeFirst().first().toInt(), 3);
+        QCOMPARE(page.group->selectedButton(), 3);
+    }
+
+    void oneTabStop()
+    {
+        const Page page;
+        page.group->setButton(2);
+        QWidgetList stops;
+        for (int i = 0; i < 4; ++i) {
+            stops << QApplication::focusWidget();
+            Page::key(Qt::Key_Tab);
+        }
+        QCOMPARE(stops, (QWidgetList{page.before, page.own, page.radio(2), page.behind}));
+        QCOMPARE(page.group->selectedButton(), 2); // the Tab key only passed through the field
+    }
+
+    void usingAWidgetChoosesItsEntry_data()
+    {
+        QTest::addColumn<int>("key"); // 0: the mouse
+        QTest::addColumn<int>("chosen");
+        QTest::newRow("mouse") << 0 << 1;
+        QTest::newRow("digit") << int(Qt::Key_5) << 1;
+        QTest::newRow("delete") << int(Qt::Key_Delete) << 1;
+        QTest::newRow("enter") << int(Qt::Key_Return) << 0;
+        QTest::newRow("modifier") << int(Qt::Key_Shift) << 0;
+        QTest::newRow("help") << int(Qt::Key_F1) << 0;
+    }
+
+    void usingAWidgetChoosesItsEntry()
+    {
+        QFETCH(const int, key);
+        QFETCH(const int, chosen);
+        const Page page;
+        page.group->setButton(0);
+        QSignalSpy told(page.group, &VKD_QT_RadioButtonGroup::buttWasClicked);
+        page.own->setFocus();
+        if (key)
+            Page::key(Qt::Key(key));
+        else
+            QTest::mouseClick(page.own, Qt::LeftButton);
+        QCOMPARE(page.group->selectedButton(), chosen);
+        QCOMPARE(told.size(), chosen);
+        QVERIFY(page.own->hasFocus());
+    }
+
+    void places_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("row") << Qt::Horizontal << -1 << "01234";
+        QTest::newRow("rows of 3") << Qt::Horizontal << 3 << "012/34";
+        QTest::newRow("column") << Qt::Vertical << -1 << "0/1/2/3/4";
+        QTest::newRow("columns of 3") << Qt::Vertical << 3 << "03/14/2";
+    }
+
+    void places()
+    {
+        QFETCH(const Qt::Orientation, orientation);
+        QFETCH(const int, count);
+        QFETCH(const QString, rows);
+        VKD_QT_RadioButtonGroup group({}, entries(5, 4), nullptr, "g", orientation, count);
+        auto own = new QLineEdit(&group);
+        group.setWidget(4, own);
+        group.show();
+        QMap<int, QMap<int, int>> entryAt; // by y and x
+        for (int entry = 0; entry < 5; ++entry) {
+            const QPoint place = group.getRadioButton(entry)->geometry().center();
+            entryAt[place.y()][group.getRadioButton(entry)->x()] = entry;
+        }
+        QStringList shown;
+        for (const auto& row : qAsConst(entryAt)) {
+            shown << QString();
+            for (int entry : row)
+                shown.last() += QString::number(entry);
+        }
+        QCOMPARE(shown.join(QLatin1Char('/')), rows);
+        const QRect last = group.getRadioButton(4)->geometry();
+        QVERIFY(own->x() > last.right() && own->geometry().center().y() == last.center().y());
+    }
+
+    void otherEntries()
+    {
+        const Page page;
+        const QPointer<QWidget> own = page.own;
+        page.group->setButton(1);
+        QRadioButton* kept = page.group->getRadioButton(1);
+        page.group->setWidget(0, nullptr); // bears no widget
+        page.group->init(entries(6, 1));
+        QCOMPARE(page.group->getRadioButton(1), kept);
+        QCOMPARE(page.group->selectedButton(), 1);
+        QVERIFY(own && page.radio(5));
+        QCOMPARE(own->accessibleName(), QStringLiteral("Entry 1"));
+        page.group->init(entries(1));
+        QCOMPARE(page.group->selectedButton(), -1);
+        QVERIFY(!own && !page.radio(1) && !page.group->getRadioButton(1));
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_radioButtonGroup)
+#include "tst_radioButtonGroup.moc"

@@ -1,0 +1,269 @@
+#include "WidgetTestSupport.h"
+
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+#include <VKD_QT_Menu.h>
+#include <VKD_QT_TreeWidget.h>
+
+#include <QRandomGenerator>
+
+namespace {
+constexpr int NoBox = -1;
+using Items = QVector<QTreeWidgetItem*>;
+
+int stateOf(const QTreeWidgetItem* item)
+{
+    const QVariant state = item->data(0, Qt::CheckStateRole);
+    return state.isValid() ? state.toInt() : NoBox;
+}
+
+/// The check boxes below the item with none between.
+Items boxesRightBelow(const QTreeWidgetItem* item)
+{
+    Items boxes;
+    for (int i = 0; i < item->childCount(); ++i)
+        boxes += stateOf(item->child(i)) == NoBox ? boxesRightBelow(item->child(i))
+                                                  : Items{item->child(i)};
+    return boxes;
+}
+
+/// The states of a tree, which change as its rules say by plain counting.
+struct Expected
+{
+    explicit Expected(const Items& all)
+    {
+        for (QTreeWidgetItem* item : all)
+            states[item] = stateOf(item);
+    }
+
+    void derive(QTreeWidgetItem* item)
+    {
+        const Items boxes = boxesRightBelow(item);
+        if (states[item] == NoBox || boxes.isEmpty())
+            return;
+        const int checked = int(std::count_if(
+            boxes.begin(), boxes.end(), [&](auto box) { return states[box] == Qt::Checked; }));
+        const bool none = std::all_of(boxes.begin(), boxes.end(),
+                                      [&](auto box) { return states[box] == Qt::Unchecked; });
+        states[item] = none                      ? Qt::Unchecked
+                       : checked == boxes.size() ? Qt::Checked
+                                                 : Qt::PartiallyChecked;
+    }
+
+    void step(QTreeWidgetItem* item, int state)
+    {
+        if (state != Qt::PartiallyChecked)
+            setAll(item, state);
+        states[item] = state;
+        for (QTreeWidgetItem* above = item->parent(); above; above = above->parent())
+            derive(above);
+    }
+
+    void setAll(QTreeWidgetItem* item, int state)
+    {
+        states[item] = state;
+        const Items boxes = boxesRightBelow(item);
+        for (QTreeWidgetItem* box : boxes)
+            setAll(box, state);
+    }
+
+    QHash<QTreeWidgetItem*, int> states;
+};
+
+/// Each item behind its parent; some have no check box. The states are at random.
+Items fill(QTreeWidget* tree, QRandomGenerator& random, int count)
+{
+    Items all;
+    for (int i = 0; i < count; ++i) {
+        const int parent = random.bounded(-2, qMax(1, i));
+        auto item =
+            parent < 0 || i == 0 ? new QTreeWidgetItem(tree) : new QTreeWidgetItem(all[parent]);
+        item->setText(0, QString::number(i));
+        if (random.bounded(5))
+            item->setCheckState(0, Qt::CheckState(random.bounded(3)));
+        all << item;
+    }
+    return all;
+}
+
+/// A caption with two plots of three rows each, all unchecked, and the automatic update on.
+struct Catalogue
+{
+    Catalogue()
+    {
+        tree.setColumnCount(2);
+        top = add(tree.invisibleRootItem());
+        for (int plot = 0; plot < 2; ++plot) {
+            add(top);
+            for (int row = 0; row < 3; ++row)
+                add(top->child(plot));
+        }
+        tree.setAutomaticCheckStateUpdate(true);
+    }
+
+    static QTreeWidgetItem* add(QTreeWidgetItem* parent)
+    {
+        auto item = new QTreeWidgetItem(parent, {QStringLiteral("a"), QStringLiteral("b")});
+        item->setCheckState(0, Qt::Unchecked);
+        return item;
+    }
+
+    VKD_QT_TreeWidget tree{nullptr, "tree"};
+    QTreeWidgetItem* top;
+};
+
+QPoint checkBoxOf(const QTreeWidget& tree, const QTreeWidgetItem* item)
+{
+    QStyleOptionViewItem option;
+    option.initFrom(&tree);
+    option.rect = tree.visualItemRect(item);
+    option.features = QStyleOptionViewItem::HasCheckIndicator;
+    return tree.style()
+        ->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &tree)
+        .center();
+}
+} // namespace
+
+class tst_treeWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void statesFollowEachOther_data();
+    void statesFollowEachOther();
+    void oneWordForEachStep();
+    void mouse();
+    void spaceBesideTheCheckBox();
+    void otherDataThanStates();
+    void menu();
+};
+
+void tst_treeWidget::statesFollowEachOther_data()
+{
+    QTest::addColumn<int>("seed");
+    for (int seed = 0; seed < 40; ++seed)
+        QTest::addRow("%d", seed) << seed;
+}
+
+void tst_treeWidget::statesFollowEachOther()
+{
+    QFETCH(const int, seed);
+    QRandomGenerator random(seed);
+    VKD_QT_TreeWidget tree;
+    const Items all = fill(&tree, random, 5 + seed);
+    Expected expected(all);
+    tree.settleCheckStates();
+    for (int i = all.size(); i-- > 0;)
+        expected.derive(all[i]);
+    QCOMPARE(Expected(all).states, expected.states);
+    tree.setAutomaticCheckStateUpdate(true);
+    for (int step = 0; step < 60; ++step) {
+        QTreeWidgetItem* item = all[random.bounded(all.size())];
+        const int before = stateOf(item);
+        if (before == NoBox)
+            continue;
+        const bool byUser = random.bounded(2);
+        const int toggled = before == Qt::Checked ? Qt::Unchecked : Qt::Checked;
+        const int state = byUser ? toggled : random.bounded(3);
+        tree.setCurrentItem(item);
+        if (byUser)
+            QTest::keyClick(&tree, Qt::Key_Space);
+        else
+            item->setCheckState(0, Qt::CheckState(state));
+        if (state != before)
+            expected.step(item, state);
+        QCOMPARE(Expected(all).states, expected.states);
+    }
+}
+
+void tst_treeWidget::oneWordForEachStep()
+{
+    Catalogue catalogue;
+    QSignalSpy settled(&catalogue.tree, &VKD_QT_TreeWidget::checkStatesChanged);
+    Items changed;
+    QVector<int> seen;
+    connect(&catalogue.tree, &QTreeWidget::itemChanged, this, [&](QTreeWidgetItem* item) {
+        changed << item;
+        seen << stateOf(catalogue.top) << stateOf(item->child(2)) << settled.size();
+    });
+    QTreeWidgetItem* plot = catalogue.top->child(1);
+    plot->setCheckState(0, Qt::Checked);
+    QCOMPARE(seen, (QVector<int>{Qt::PartiallyChecked, Qt::Checked, 0}));
+    QCOMPARE(changed, Items{plot});
+    QCOMPARE(settled.size(), 1);
+    plot->setCheckState(0, Qt::Checked); // no change
+    catalogue.tree.setAutomaticCheckStateUpdate(false);
+    plot->setCheckState(0, Qt::Unchecked);
+    QCOMPARE(settled.size(), 1);
+    QCOMPARE(stateOf(plot->child(0)), int(Qt::Checked));
+    catalogue.tree.settleCheckStates();
+    QCOMPARE(settled.size(), 2);
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(stateOf(plot), int(Qt::Checked));
+}
+
+void tst_treeWidget::mouse()
+{
+    Catalogue catalogue;
+    catalogue.tree.expandAll();
+    catalogue.tree.resize(300, 300);
+    catalogue.tree.show();
+    const QTreeWidgetItem* row = catalogue.top->child(0)->child(1);
+    QTest::mouseClick(catalogue.tree.viewport(), Qt::LeftButton, {},
+                      checkBoxOf(catalogue.tree, row));
+    QCOMPARE(stateOf(row), int(Qt::Checked));
+    QCOMPARE(stateOf(catalogue.top), int(Qt::PartiallyChecked));
+    QTest::mouseClick(catalogue.tree.viewport(), Qt::LeftButton, {},
+                      checkBoxOf(catalogue.tree, catalogue.top));
+    QCOMPARE(stateOf(catalogue.top->child(1)->child(2)), int(Qt::Checked));
+}
+
+void tst_treeWidget::spaceBesideTheCheckBox()
+{
+    Catalogue catalogue;
+    catalogue.tree.setCurrentItem(catalogue.top, 1);
+    QTest::keyClick(&catalogue.tree, Qt::Key_Space);
+    QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Checked));
+    catalogue.top->setFlags(Qt::ItemIsEnabled); // a box that only shows
+    QTest::keyClick(&catalogue.tree, Qt::Key_Space);
+    QCOMPARE(stateOf(catalogue.top), int(Qt::Checked));
+}
+
+/// A text or flags that change carry no state, not even in a tree that is not settled.
+void tst_treeWidget::otherDataThanStates()
+{
+    Catalogue catalogue;
+    catalogue.tree.setAutomaticCheckStateUpdate(false);
+    catalogue.top->setCheckState(0, Qt::Checked);
+    catalogue.tree.setAutomaticCheckStateUpdate(true);
+    QSignalSpy settled(&catalogue.tree, &VKD_QT_TreeWidget::checkStatesChanged);
+    catalogue.top->setText(0, QStringLiteral("other"));
+    catalogue.top->setDisabled(true);
+    QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Unchecked));
+    QCOMPARE(settled.size(), 0);
+}
+
+void tst_treeWidget::menu()
+{
+    QStringList texts;
+    for (int language : {0, 1}) {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+        VKD_QT_InitTranslator::languageChanged();
+        Catalogue catalogue;
+        VKD_QT_Menu shown(&catalogue.tree, "menu");
+        QAction* open = catalogue.tree.addExpandAll(&shown);
+        QAction* close = catalogue.tree.addCollapseAll(&shown);
+        texts << open->text() << close->text();
+        open->trigger();
+        QVERIFY(catalogue.top->isExpanded() && catalogue.top->child(1)->isExpanded());
+        catalogue.tree.setCurrentItem(catalogue.top->child(1)->child(0));
+        close->trigger();
+        QVERIFY(!catalogue.top->isExpanded() && !catalogue.top->child(1)->isExpanded());
+        QCOMPARE(catalogue.tree.currentItem(), catalogue.top);
+    }
+    QCOMPARE(texts.join(QLatin1Char('/')),
+             QStringLiteral("Alle aufklappen/Alle zuklappen/Expand All/Collapse All"));
+}
+
+PLIB_WIDGET_TEST_MAIN(tst_treeWidget)
+#include "tst_treeWidget.moc"

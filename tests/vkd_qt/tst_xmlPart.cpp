@@ -1,0 +1,145 @@
+#include "TestSupport.h"
+
+#include <vkd_qt_xmlpart.h>
+
+#include <QRandomGenerator>
+
+namespace {
+const QStringList Tags{QStringLiteral("A"), QStringLiteral("List_4"), QStringLiteral("List_40")};
+
+/// Made of what a reader may stumble over.
+QString anyText(QRandomGenerator& random)
+{
+    static const QStringList pieces{
+        QStringLiteral("<A>"),  QStringLiteral("</A>"), QStringLiteral("<List_4>x</List_4>"),
+        QStringLiteral("&lt;"), QStringLiteral("&#x"),  QStringLiteral("&amp;#xa;"),
+        QStringLiteral("<"),    QStringLiteral(">"),    QStringLiteral("&"),
+        QStringLiteral("%1"),   QStringLiteral("\r\n"), QStringLiteral(" \t\"':;"),
+        QString(QChar(0)),      QString(QChar(0xD83D)), QString(QChar(0xDE00)),
+        QString(QChar(0xFFFE)), QString(QChar(0x85))};
+    QString text = QStringLiteral("");
+    for (int length = random.bounded(12); length > 0; --length)
+        text += random.bounded(3) ? pieces[random.bounded(pieces.size())]
+                                  : QString(QChar(ushort(random.bounded(0x10000))));
+    return text;
+}
+
+struct Parts
+{
+    explicit Parts(QRandomGenerator& random)
+    {
+        for (int count = random.bounded(8); count > 0; --count) {
+            const QString tag = Tags[random.bounded(Tags.size())];
+            texts[tag] << anyText(random);
+            whole += vkd_qt_writeXMLpart(texts[tag].last(), tag);
+        }
+    }
+
+    QMap<QString, QStringList> texts;
+    QString whole;
+};
+
+QStringList allTexts(const QString& whole, const QString& tag)
+{
+    QStringList texts;
+    int at = 0;
+    for (QString text = vkd_qt_readXMLpart(whole, at, tag, &at); !text.isNull();
+         text = vkd_qt_readXMLpart(whole, at, tag, &at))
+        texts << text;
+    return texts;
+}
+} // namespace
+
+class tst_xmlPart : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readableForm()
+    {
+        const QString tag = QStringLiteral("Scale");
+        QCOMPARE(vkd_qt_writeXMLpart(QStringLiteral("1:100 \"%\" <ä>&\n"), tag),
+                 QStringLiteral("<Scale>1:100 \"%\" &lt;ä&gt;&amp;&#xa;</Scale>"));
+    }
+
+    void everyTextComesBack()
+    {
+        QRandomGenerator random(4);
+        for (int round = 0; round < 3000; ++round) {
+            const Parts parts(random);
+            QCOMPARE(QString::fromUtf8(parts.whole.toUtf8()), parts.whole);
+            for (const QString& tag : Tags)
+                QCOMPARE(allTexts(parts.whole, tag), parts.texts[tag]);
+        }
+    }
+
+    void emptyIsNotAbsent()
+    {
+        const QString tag = Tags[0];
+        const QString whole = vkd_qt_writeXMLpart(QString(), tag);
+        int next = 77;
+        const QString text = vkd_qt_readXMLpart(whole, -5, tag, &next);
+        QVERIFY(text.isEmpty() && !text.isNull());
+        QCOMPARE(next, whole.size());
+        QVERIFY(vkd_qt_readXMLpart(whole, 1, tag, &next).isNull());
+        QVERIFY(vkd_qt_readXMLpart(whole, whole.size() + 1, tag).isNull());
+        QVERIFY(vkd_qt_readXMLpart(whole, 0, QString()).isNull());
+        QCOMPARE(next, whole.size());
+    }
+
+    void malformed_data()
+    {
+        QTest::addColumn<QString>("whole");
+        QTest::addColumn<QStringList>("texts");
+        const auto row = [](const char* whole, const QStringList& texts) {
+            QTest::newRow(whole) << QString::fromLatin1(whole) << texts;
+        };
+        const QString x = QStringLiteral("x");
+        row("<A>", {});
+        row("<A>x</A", {});
+        row("x</A><A>x</A>", {x});
+        row("<A><A>x</A>", {x});
+        row("<A>y</List_4><A>x</A></A>", {x});
+        row("<A>y<<A>x</A>", {x});
+        row("<A>&lt</A><A>&;</A>", {QStringLiteral("&lt"), QStringLiteral("&;")});
+        row("<A>&#xfffff;&#x;&#x-1;&quux;</A>", {QStringLiteral("&#xfffff;&#x;&#x-1;&quux;")});
+    }
+
+    void malformed()
+    {
+        QFETCH(const QString, whole);
+        QFETCH(const QStringList, texts);
+        QCOMPARE(allTexts(whole, Tags[0]), texts);
+    }
+
+    /// Whatever happens to the end of a string, the parts ahead of it are read.
+    void damagedEnd()
+    {
+        QRandomGenerator random(5);
+        for (int round = 0; round < 300; ++round) {
+            const QString sound = Parts(random).whole;
+            QString damaged = Parts(random).whole + QStringLiteral("<A>");
+            damaged.truncate(random.bounded(damaged.size()));
+            for (QChar& unit : damaged)
+                if (random.bounded(10) == 0)
+                    unit = QLatin1Char("<>/&;A"[random.bounded(6)]);
+            for (const QString& tag : Tags) {
+                const QStringList texts = allTexts(sound, tag);
+                QCOMPARE(allTexts(sound + damaged, tag).mid(0, texts.size()), texts);
+            }
+        }
+    }
+
+    /// Minutes, if a part that is not closed were searched to the end of the string.
+    void longStrings()
+    {
+        const QString open = QStringLiteral("<A>").repeated(500000);
+        QCOMPARE(allTexts(open + QStringLiteral("</A>"), Tags[0]), QStringList(QString()));
+        const QString ampersands = QStringLiteral("&#x1").repeated(500000);
+        const QString part = QStringLiteral("<A>") + ampersands + QStringLiteral("</A>");
+        QCOMPARE(vkd_qt_readXMLpart(part, 0, Tags[0]), ampersands);
+    }
+};
+
+PLIB_TEST_MAIN(tst_xmlPart)
+#include "tst_xmlPart.moc"
