@@ -1,0 +1,148 @@
+#include "VKD_H_BoxedLineEdit.h"
+
+#include "VKD_H_LineEdit.h"
+#include "vkd_h_numberText.h"
+
+#include <VKD_QT_Layouts.h>
+#include <VKD_QT_Widgets.h>
+
+#include <QKeyEvent>
+
+namespace {
+/// The label as the name of a quantity.
+QString plainName(QString label)
+{
+    label = label.remove(QLatin1Char('&')).trimmed();
+    if (label.endsWith(QLatin1Char(':')))
+        label.chop(1);
+    return label.trimmed();
+}
+
+bool fallsBack(const StructLineEdit& edit)
+{
+    return (edit.flags & StructBoxedEdit::EmptyIsDefault) && !vkd_h_isNotSet(edit.value, edit);
+}
+
+StructBoxedEdit completed(const StructBoxedEdit* given)
+{
+    StructBoxedEdit description = given ? *given : StructBoxedEdit();
+    if (fallsBack(description.edit))
+        description.edit.flags |= StructLineEdit::EmptyAllowed; // while it is typed
+    return description;
+}
+
+VKD_H_LineEdit* newEdit(QWidget* parent, StructBoxedEdit& description, const char* name)
+{
+    const QByteArray editName = QByteArray(name) + "_edit";
+    return new VKD_H_LineEdit(parent, &description.edit, editName.constData(),
+                              plainName(description.label), description.toolTip, true);
+}
+
+bool endsInput(QEvent* event)
+{
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
+    }
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+} // namespace
+
+VKD_H_BoxedLineEdit::VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description,
+                                         const char* name)
+    : QWidget(parent)
+    , m_description(completed(description))
+    , m_edit(newEdit(this, m_description, name))
+{
+    setObjectName(QLatin1String(name));
+    setFocusProxy(m_edit);
+    for (QWidget* widget : {static_cast<QWidget*>(this), static_cast<QWidget*>(m_edit)}) {
+        widget->setWhatsThis(m_description.whatsThis);
+        widget->setStatusTip(m_description.statusTip);
+    }
+    arrange();
+    showDefault();
+    m_edit->installEventFilter(this);
+    connect(m_edit, &QLineEdit::textEdited, this, [this] { m_setText.clear(); });
+    connect(m_edit, &VKD_H_LineEdit::valueChanged, this, &VKD_H_BoxedLineEdit::valueChanged);
+}
+
+QString VKD_H_BoxedLineEdit::getText() const
+{
+    return m_setText.isNull() ? m_edit->text() : m_setText;
+}
+
+void VKD_H_BoxedLineEdit::setText(const QString& text)
+{
+    const QSignalBlocker silence(this); // the field takes it for a preset that was chosen
+    m_edit->setText(text);
+    m_setText = m_edit->refusal().isEmpty() ? text : QString(); // refused text stays by itself
+    fillEmptyField();
+}
+
+double VKD_H_BoxedLineEdit::getVal() const
+{
+    return standsForDefault() ? m_description.edit.value : m_edit->getVal();
+}
+
+void VKD_H_BoxedLineEdit::setVal(double value)
+{
+    m_setText.clear();
+    m_edit->setVal(value);
+}
+
+VKD_H_LineEdit* VKD_H_BoxedLineEdit::edit() const
+{
+    return m_edit;
+}
+
+bool VKD_H_BoxedLineEdit::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_edit && endsInput(event))
+        fillEmptyField(); // ahead of what the field makes of it
+    return QWidget::eventFilter(watched, event);
+}
+
+void VKD_H_BoxedLineEdit::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        showDefault();
+}
+
+void VKD_H_BoxedLineEdit::arrange()
+{
+    QBoxLayout* layout = new VKD_QT_HBoxLayout(this);
+    if (m_description.labelPlace == StructBoxedEdit::LabelAbove)
+        layout->setDirection(QBoxLayout::TopToBottom);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (!m_description.label.isEmpty()) {
+        auto label = new VKD_QT_Label(m_description.label, this);
+        label->setBuddy(m_edit);
+        label->setToolTip(m_description.toolTip);
+        layout->addWidget(label);
+    }
+    layout->addWidget(m_edit, 1);
+}
+
+bool VKD_H_BoxedLineEdit::standsForDefault() const
+{
+    return fallsBack(m_description.edit) && m_edit->refusal().isEmpty() &&
+           vkd_h_isNotSet(m_edit->getVal(), m_description.edit);
+}
+
+void VKD_H_BoxedLineEdit::fillEmptyField()
+{
+    if (standsForDefault())
+        setVal(m_description.edit.value);
+}
+
+/// An emptied field shows, dimmed, what it stands for.
+void VKD_H_BoxedLineEdit::showDefault()
+{
+    if (fallsBack(m_description.edit))
+        m_edit->setPlaceholderText(vkd_h_numberText(m_description.edit.value, m_description.edit));
+}
