@@ -102,8 +102,6 @@ private Q_SLOTS:
         QWidget window;
         VKD_H_BoxedLineEdit size(&window, &description, "size");
         size.setVal(7.0);
-        size.edit()->clear();
-        size.setVal(7.0);
         size.edit()->selectAll();
         QTest::keyClick(size.edit(), Qt::Key_Delete);
         if (flags == StructBoxedEdit::EmptyIsDefault) {

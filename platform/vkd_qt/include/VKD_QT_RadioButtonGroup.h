@@ -60,7 +60,7 @@ private:
     void arrange();
     /// The column and the row of the entry's button in the grid; its widget has the next column.
     QPoint placeOf(int entry) const;
-    void put(QWidget* widget, const QPoint& place);
+    void put(QWidget* widget, const QPoint& place, int columns);
     void chainTabs();
     void setTabStop();
     void watch(QWidget* widget);

@@ -149,6 +149,8 @@ void VKD_QT_RadioButtonGroup::describe(int entry)
     if (item.flag != StructRadioButtonGrup::WithWidget)
         delete m_widgets[entry];
     QWidget* widget = m_widgets[entry];
+    while (widget && widget->focusProxy())
+        widget = widget->focusProxy();
     if (widget && widget->accessibleName().isEmpty())
         widget->setAccessibleName(QString(item.text).remove(QLatin1Char('&')));
 }
@@ -162,8 +164,8 @@ void VKD_QT_RadioButtonGroup::arrange()
     QPoint foot;
     for (int entry = 0; isEntry(entry); ++entry) {
         const QPoint place = placeOf(entry);
-        put(m_radios[entry], place);
-        put(m_widgets[entry], place + QPoint(1, 0));
+        put(m_radios[entry], place, m_widgets[entry] ? 1 : 2); // a long text moves no widget away
+        put(m_widgets[entry], place + QPoint(1, 0), 1);
         foot = {qMax(foot.x(), place.x() + 2), qMax(foot.y(), place.y() + 1)};
     }
     // What room is left stays at the right and at the foot.
@@ -179,12 +181,12 @@ QPoint VKD_QT_RadioButtonGroup::placeOf(int entry) const
     return m_orientation == Qt::Horizontal ? QPoint(2 * along, across) : QPoint(2 * across, along);
 }
 
-void VKD_QT_RadioButtonGroup::put(QWidget* widget, const QPoint& place)
+void VKD_QT_RadioButtonGroup::put(QWidget* widget, const QPoint& place, int columns)
 {
     if (!widget)
         return;
     m_grid->removeWidget(widget);
-    m_grid->addWidget(widget, place.y(), place.x());
+    m_grid->addWidget(widget, place.y(), place.x(), 1, columns);
 }
 
 void VKD_QT_RadioButtonGroup::chainTabs()
