@@ -1,0 +1,374 @@
+#include "AnimatorView.h"
+
+#include "GroupMarks.h"
+#include "ScenePainter.h"
+#include "SceneView.h"
+#include "symbols.h"
+
+#include <vkd_dbo_camera.h>
+#include <vkd_dbo_model.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <cmath>
+
+using namespace vkd::aniview;
+
+namespace {
+constexpr double DegreesToPixel = 0.4;
+constexpr double DegreesToKey = 5.0;
+constexpr double PixelsToKey = 40.0;
+constexpr double ZoomToStep = 1.2; // a notch of the wheel or a key
+constexpr int RestMs = 200;
+} // namespace
+
+AnimatorView::AnimatorView(int index, QWidget* parent, const char* name)
+    : QWidget(parent)
+    , m_index(index)
+    , m_scene(std::make_unique<SceneView>())
+    , m_painter(std::make_unique<ScenePainter>())
+    , m_marks(std::make_unique<GroupMarks>())
+{
+    setObjectName(QLatin1String(name));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(RestMs);
+    connect(&m_rest, &QTimer::timeout, this, QOverload<>::of(&QWidget::update));
+    setTexts();
+    reload();
+}
+
+AnimatorView::~AnimatorView() = default;
+
+void AnimatorView::setProject(int index)
+{
+    m_index = index;
+    reload();
+}
+
+void AnimatorView::reload()
+{
+    m_scene->setGeometry(m_index > 0 ? buildGeometry(vkd::dbo::readModel(m_index))
+                                     : ModelGeometry());
+    hover(NoGroup);
+    updateCursor();
+    showMarks();
+}
+
+bool AnimatorView::isPicking() const
+{
+    return m_marks->isPicking();
+}
+
+void AnimatorView::setPicking(bool picking)
+{
+    if (!m_marks->setPicking(picking))
+        return;
+    endDrag();
+    setMouseTracking(picking);
+    hover(NoGroup);
+    setTexts();
+    showMarks();
+}
+
+std::vector<int> AnimatorView::pickedGroups() const
+{
+    return m_marks->picked();
+}
+
+void AnimatorView::setPickedGroups(const std::vector<int>& groups)
+{
+    if (m_marks->setPicked(groups))
+        showMarks();
+}
+
+void AnimatorView::setHighlightedGroup(int group)
+{
+    if (m_marks->setHighlighted(group))
+        showMarks();
+}
+
+QSize AnimatorView::sizeHint() const
+{
+    return {480, 360};
+}
+
+QSize AnimatorView::minimumSizeHint() const
+{
+    return {160, 120};
+}
+
+void AnimatorView::slotViewControl(AnimatorViewControl control, double /*value*/)
+{
+    switch (control) {
+    case AnimatorStandardView: m_scene->setCamera(Camera()); break;
+    case AnimatorShowAll: m_scene->showAll(); break;
+    case AnimatorNoChange: return;
+    case AnimatorViewXY: lookFrom(0, 0, 1); break;
+    case AnimatorViewXZ: lookFrom(0, -1, 0); break;
+    case AnimatorViewYZ: lookFrom(1, 0, 0); break;
+    case AnimatorStoreCamera: vkd::dbo::setCamera(0, m_scene->camera()); return;
+    case AnimatorTakeCamera: m_scene->setCamera(vkd::dbo::camera(0)); break;
+    }
+    update();
+}
+
+void AnimatorView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::EnabledChange:
+        endDrag();
+        hover(NoGroup);
+        break;
+    case QEvent::LanguageChange: setTexts(); break;
+    case QEvent::PaletteChange: showMarks(); break;
+    default: break;
+    }
+}
+
+void AnimatorView::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    endDrag();
+    hover(NoGroup);
+}
+
+void AnimatorView::keyPressEvent(QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool shift = modifiers == Qt::ShiftModifier;
+    if ((modifiers == Qt::NoModifier || shift) && !isEmpty() && moveByKey(event->key(), shift))
+        return;
+    QWidget::keyPressEvent(event);
+}
+
+void AnimatorView::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    if (m_hand == Hand::Free)
+        hover(NoGroup);
+}
+
+/// While picking, the second click on a group undoes the first one and shows nothing else.
+void AnimatorView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (isPicking() && m_scene->groupAt(event->localPos()) != NoGroup) {
+        mousePressEvent(event);
+        return;
+    }
+    if (event->button() == Qt::LeftButton)
+        slotViewControl(AnimatorShowAll, 0.0);
+}
+
+void AnimatorView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_hand == Hand::Free) {
+        if (isPicking())
+            hover(m_scene->groupAt(event->localPos()));
+        return;
+    }
+    const int way = (event->pos() - m_pressed).manhattanLength();
+    if (m_isClick && isPicking() && way < QApplication::startDragDistance())
+        return;
+    m_isClick = false;
+    updateCursor();
+    drag(event->pos() - m_last);
+    m_last = event->pos();
+}
+
+void AnimatorView::mousePressEvent(QMouseEvent* event)
+{
+    const Qt::MouseButton button = event->button();
+    const bool pans = button == Qt::RightButton || button == Qt::MiddleButton ||
+                      event->modifiers() & Qt::ShiftModifier;
+    if (m_hand != Hand::Free || isEmpty() || (button != Qt::LeftButton && !pans))
+        return;
+    m_hand = pans ? Hand::Panning : Hand::Turning;
+    m_button = button;
+    m_pressed = m_last = event->pos();
+    m_isClick = true;
+    updateCursor();
+}
+
+void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_hand == Hand::Free || event->button() != m_button)
+        return;
+    const bool picks = m_isClick && isPicking() && m_hand == Hand::Turning;
+    endDrag();
+    if (picks)
+        click(event->pos());
+    if (isPicking())
+        hover(rect().contains(event->pos()) ? m_scene->groupAt(event->localPos()) : NoGroup);
+}
+
+void AnimatorView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const auto colour = [this](QPalette::ColorRole role) {
+        return palette().color(QPalette::Active, role);
+    };
+    painter.fillRect(rect(), colour(QPalette::Base));
+    painter.setPen(colour(QPalette::Text));
+    if (isEmpty()) {
+        painter.drawText(rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
+                         emptyText());
+    } else {
+        const Projection projection = m_scene->projection();
+        painter.setRenderHint(QPainter::Antialiasing, !m_rest.isActive());
+        m_painter->paint(painter, palette(), m_scene->geometry(), m_scene->picture(), projection,
+                         *m_marks);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const double length = qBound(12.0, 0.06 * qMin(width(), height()), 26.0);
+        const double inset = length + 16.0; // has room for a name and the frame
+        drawTriad(painter, projection.axes(), {inset, height() - inset}, length,
+                  {colour(QPalette::Text), colour(QPalette::Base)});
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+    const int frame = hasFocus() ? 2 : 1;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.setClipRegion(QRegion(rect()) - rect().adjusted(frame, frame, -frame, -frame));
+    painter.drawRect(rect());
+}
+
+void AnimatorView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_scene->setSize(size());
+}
+
+void AnimatorView::wheelEvent(QWheelEvent* event)
+{
+    const double notches = event->angleDelta().y() / double(QWheelEvent::DefaultDeltasPerStep);
+    event->accept();
+    if (isEmpty() || notches == 0.0)
+        return;
+    m_scene->zoom(std::pow(ZoomToStep, qBound(-10.0, notches, 10.0)), event->position());
+    moved();
+}
+
+bool AnimatorView::isEmpty() const
+{
+    return m_scene->geometry().isEmpty();
+}
+
+QString AnimatorView::emptyText() const
+{
+    return m_index > 0 ? tr("The project holds no structural model.") : tr("No project is open.");
+}
+
+void AnimatorView::setTexts()
+{
+    setAccessibleName(tr("Model view"));
+    setAccessibleDescription(tr("Arrow keys turn the model and, with Shift, move it. Plus and "
+                                "minus zoom, Home shows all."));
+    const QString mouse = tr("Left button: turn\nRight button, or Shift and left: move\n"
+                             "Wheel: zoom\nDouble click: show all");
+    setToolTip(isPicking() ? tr("Click: pick a group or drop it") + QLatin1Char('\n') + mouse
+                           : mouse);
+    update();
+}
+
+void AnimatorView::lookFrom(double x, double y, double z)
+{
+    m_scene->setCamera(lookingFrom({x, y, z}));
+}
+
+void AnimatorView::moved()
+{
+    m_rest.start();
+    update();
+}
+
+void AnimatorView::showMarks()
+{
+    m_painter->forgetColours();
+    update();
+}
+
+void AnimatorView::drag(const QPoint& by)
+{
+    if (m_hand == Hand::Panning)
+        m_scene->pan(by);
+    else
+        m_scene->turn(DegreesToPixel * by.x(), DegreesToPixel * by.y());
+    moved();
+}
+
+void AnimatorView::endDrag()
+{
+    m_hand = Hand::Free;
+    m_button = Qt::NoButton;
+    updateCursor();
+}
+
+void AnimatorView::click(const QPoint& place)
+{
+    const int group = m_scene->groupAt(place);
+    if (group == NoGroup)
+        return;
+    m_marks->toggle(group);
+    showMarks();
+    Q_EMIT pickedGroupsChanged();
+}
+
+void AnimatorView::hover(int group)
+{
+    if (!m_marks->setHovered(group))
+        return;
+    updateCursor();
+    showMarks();
+    Q_EMIT groupHovered(group);
+}
+
+void AnimatorView::updateCursor()
+{
+    if (!isEnabled() || isEmpty())
+        unsetCursor();
+    else if (m_hand == Hand::Panning)
+        setCursor(Qt::SizeAllCursor);
+    else if (m_hand == Hand::Turning && !(isPicking() && m_isClick))
+        setCursor(Qt::ClosedHandCursor);
+    else if (isPicking())
+        setCursor(m_marks->hovered() == NoGroup ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    else
+        setCursor(Qt::OpenHandCursor);
+}
+
+bool AnimatorView::moveByKey(int key, bool shift)
+{
+    const QPointF middle = QRectF(rect()).center();
+    switch (key) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: m_scene->zoom(ZoomToStep, middle); break;
+    case Qt::Key_Minus: m_scene->zoom(1.0 / ZoomToStep, middle); break;
+    case Qt::Key_Home: m_scene->showAll(); break;
+    default: return turnOrPanByKey(key, shift);
+    }
+    moved();
+    return true;
+}
+
+bool AnimatorView::turnOrPanByKey(int key, bool pan)
+{
+    QPointF way;
+    switch (key) {
+    case Qt::Key_Left: way = {-1.0, 0.0}; break;
+    case Qt::Key_Right: way = {1.0, 0.0}; break;
+    case Qt::Key_Up: way = {0.0, -1.0}; break;
+    case Qt::Key_Down: way = {0.0, 1.0}; break;
+    default: return false;
+    }
+    if (pan)
+        m_scene->pan(PixelsToKey * way);
+    else
+        m_scene->turn(DegreesToKey * way.x(), DegreesToKey * way.y());
+    moved();
+    return true;
+}

@@ -1,0 +1,227 @@
+#include "GeometryBuilder.h"
+
+#include "brickfaces.h"
+#include "faceedges.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vkd {
+namespace aniview {
+
+namespace {
+/// Farther away than anything that is built; beyond, squares of lengths lose their meaning.
+constexpr double Nowhere = 1e9;
+constexpr int MostPieces = 32;
+
+bool isSomewhere(const Position& position)
+{
+    return std::all_of(position.begin(), position.end(),
+                       [](double value) { return std::abs(value) < Nowhere; });
+}
+} // namespace
+
+GeometryBuilder::GeometryBuilder(const dbo::Model& model)
+    : m_model(model)
+{
+    m_nodes.reserve(model.nodes.size());
+    for (const dbo::Node& node : model.nodes)
+        if (isSomewhere(node.position))
+            m_nodes.insert(node.number, &node);
+}
+
+ModelGeometry GeometryBuilder::build()
+{
+    addQuads();
+    addBricks();
+    m_cell = meanEdge();
+    addLines(m_model.beams, LineKind::Beam);
+    addLines(m_model.trusses, LineKind::Truss);
+    addLines(m_model.cables, LineKind::Cable);
+    addSprings();
+    addSupports();
+    numberGroups();
+    measure();
+    scalePoints();
+    completeFaces(m_geometry);
+    return std::move(m_geometry);
+}
+
+int GeometryBuilder::pointAt(int node)
+{
+    const auto known = m_pointOfNode.constFind(node);
+    if (known != m_pointOfNode.constEnd())
+        return *known;
+    const dbo::Node* found = m_nodes.value(node);
+    if (!found)
+        return -1;
+    const int point = addPoint(found->position);
+    m_pointOfNode.insert(node, point);
+    return point;
+}
+
+int GeometryBuilder::addPoint(const Position& position)
+{
+    m_positions.push_back(position);
+    return int(m_positions.size()) - 1;
+}
+
+bool GeometryBuilder::takePoints(const int* nodes, int count, int* points)
+{
+    if (!std::all_of(nodes, nodes + count, [this](int node) { return m_nodes.contains(node); }))
+        return false;
+    std::transform(nodes, nodes + count, points, [this](int node) { return pointAt(node); });
+    return true;
+}
+
+void GeometryBuilder::addQuads()
+{
+    for (const dbo::Quad& quad : m_model.quads)
+        addFace(quad.nodes, quad.nodes[3] == 0 ? 3 : 4, quad.group, quad.thickness);
+}
+
+void GeometryBuilder::addBricks()
+{
+    for (const BrickFace& face : outerFaces(m_model.bricks))
+        addFace(face.nodes.data(), int(face.nodes.size()), face.group, 0.0);
+}
+
+void GeometryBuilder::addFace(const int* nodes, int count, int group, double thickness)
+{
+    Face face;
+    face.count = count;
+    face.group = group;
+    face.thickness = float(qBound(0.0, thickness, 10.0));
+    if (takePoints(nodes, count, face.points))
+        m_geometry.faces.push_back(face);
+}
+
+void GeometryBuilder::addLines(const QVector<dbo::LineElement>& elements, LineKind kind)
+{
+    for (const dbo::LineElement& element : elements) {
+        Line line;
+        line.group = element.group;
+        line.kind = kind;
+        if (takePoints(element.nodes, 2, line.points))
+            addSplit(line);
+    }
+}
+
+/// A line that passes many faces is partly in front of them and partly behind.
+void GeometryBuilder::addSplit(const Line& line)
+{
+    const double length = lengthOf(line.points[0], line.points[1]);
+    const double wanted = m_cell > 0 ? std::ceil(length / (1.5 * m_cell)) : 1.0;
+    const int pieces = int(qBound(1.0, wanted, double(MostPieces)));
+    const Position from = m_positions[size_t(line.points[0])];
+    const Position way = along(m_positions[size_t(line.points[1])], -1.0, from);
+    Line piece = line;
+    for (int i = 1; i <= pieces; ++i) {
+        piece.points[1] =
+            i == pieces ? line.points[1] : addPoint(along(from, i / double(pieces), way));
+        m_geometry.lines.push_back(piece);
+        piece.points[0] = piece.points[1];
+    }
+}
+
+/// A spring to the ground stands below its node and is half as long as a face, so that a bedding
+/// shows at the edges of its plate.
+void GeometryBuilder::addSprings()
+{
+    const double length = m_cell > 0 ? 0.5 * m_cell : 0.5;
+    for (const dbo::Spring& spring : m_model.springs) {
+        Line line;
+        line.group = spring.group;
+        const bool toGround = spring.nodes[1] == 0;
+        line.kind = toGround ? LineKind::GroundSpring : LineKind::Spring;
+        if (!takePoints(spring.nodes, toGround ? 1 : 2, line.points))
+            continue;
+        if (toGround)
+            line.points[1] = addPoint(
+                along(m_positions[size_t(line.points[0])], -length, Position{0.0, 0.0, 1.0}));
+        m_geometry.lines.push_back(line);
+    }
+}
+
+/// Only at nodes of elements: others would make the box larger than what is seen.
+void GeometryBuilder::addSupports()
+{
+    for (const dbo::Boundary& support : m_model.supports) {
+        const auto point = m_pointOfNode.constFind(support.node);
+        if (point != m_pointOfNode.constEnd())
+            m_geometry.supports.push_back({*point, support.fixed});
+    }
+}
+
+double GeometryBuilder::meanEdge() const
+{
+    double sum = 0.0;
+    int edges = 0;
+    for (const Face& face : m_geometry.faces)
+        for (int i = 0; i < face.count; ++i, ++edges)
+            sum += lengthOf(face.points[i], face.points[(i + 1) % face.count]);
+    return edges > 0 ? sum / edges : 0.0;
+}
+
+double GeometryBuilder::lengthOf(int from, int to) const
+{
+    const Position way = along(m_positions[size_t(from)], -1.0, m_positions[size_t(to)]);
+    return std::sqrt(dot(way, way));
+}
+
+/// Replaces the numbers of the groups by their indexes.
+void GeometryBuilder::numberGroups()
+{
+    std::vector<int>& groups = m_geometry.groups;
+    for (const Face& face : m_geometry.faces)
+        groups.push_back(face.group);
+    for (const Line& line : m_geometry.lines)
+        groups.push_back(line.group);
+    std::sort(groups.begin(), groups.end());
+    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
+    const auto indexOf = [&groups](int number) {
+        return int(std::lower_bound(groups.begin(), groups.end(), number) - groups.begin());
+    };
+    for (Face& face : m_geometry.faces)
+        face.group = indexOf(face.group);
+    for (Line& line : m_geometry.lines)
+        line.group = indexOf(line.group);
+}
+
+void GeometryBuilder::measure()
+{
+    if (m_positions.empty())
+        return;
+    Position least = m_positions.front();
+    Position most = least;
+    for (const Position& position : m_positions)
+        for (size_t i = 0; i < position.size(); ++i) {
+            least[i] = std::min(least[i], position[i]);
+            most[i] = std::max(most[i], position[i]);
+        }
+    for (size_t i = 0; i < least.size(); ++i) {
+        m_geometry.box.centre[i] = (least[i] + most[i]) / 2.0;
+        m_geometry.box.half[i] = (most[i] - least[i]) / 2.0;
+    }
+    const Position& half = m_geometry.box.half;
+    m_geometry.unit = std::max(std::sqrt(dot(half, half)), 1e-3);
+}
+
+void GeometryBuilder::scalePoints()
+{
+    for (const Position& position : m_positions) {
+        const Position offset = along(position, -1.0, m_geometry.box.centre);
+        m_geometry.x.push_back(float(offset[0] / m_geometry.unit));
+        m_geometry.y.push_back(float(offset[1] / m_geometry.unit));
+        m_geometry.z.push_back(float(offset[2] / m_geometry.unit));
+    }
+    m_geometry.cell = float(m_cell / m_geometry.unit);
+}
+
+ModelGeometry buildGeometry(const dbo::Model& model)
+{
+    return GeometryBuilder(model).build();
+}
+
+} // namespace aniview
+} // namespace vkd

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ModelGeometry.h"
+
+#include <QHash>
+
+namespace vkd {
+namespace aniview {
+
+/// Collects the elements of a model, in metres, for buildGeometry().
+class GeometryBuilder
+{
+public:
+    explicit GeometryBuilder(const dbo::Model& model);
+
+    ModelGeometry build();
+
+private:
+    /// The index of the point at a node, or -1.
+    int pointAt(int node);
+    int addPoint(const Position& position);
+    bool takePoints(const int* nodes, int count, int* points);
+
+    void addQuads();
+    void addBricks();
+    void addFace(const int* nodes, int count, int group, double thickness);
+    void addLines(const QVector<dbo::LineElement>& elements, LineKind kind);
+    void addSplit(const Line& line);
+    void addSprings();
+    void addSupports();
+
+    double meanEdge() const;
+    double lengthOf(int from, int to) const;
+    void numberGroups();
+    void measure();
+    void scalePoints();
+
+    const dbo::Model& m_model;
+    QHash<int, const dbo::Node*> m_nodes;
+    QHash<int, int> m_pointOfNode;
+    std::vector<Position> m_positions;
+    double m_cell = 0.0; // metres
+    ModelGeometry m_geometry;
+};
+
+} // namespace aniview
+} // namespace vkd

@@ -1,0 +1,102 @@
+#include "GroupColours.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vkd {
+namespace aniview {
+
+namespace {
+// Apart in lightness as well as in hue, and neighbours in the list the most.
+constexpr QRgb Hues[] = {0xff56b4e9, 0xffe69f00, 0xff009e73, 0xffcc79a7, 0xfff0e442,
+                         0xff0072b2, 0xffd55e00, 0xffa6a6a6, 0xff882255, 0xffaad26e};
+constexpr int HueCount = sizeof Hues / sizeof *Hues;
+constexpr double LeastContrast = 2.4; // of thin lines with the background
+
+QColor mixed(const QColor& a, const QColor& b, double partOfB)
+{
+    const double partOfA = 1.0 - partOfB;
+    return QColor::fromRgbF(partOfA * a.redF() + partOfB * b.redF(),
+                            partOfA * a.greenF() + partOfB * b.greenF(),
+                            partOfA * a.blueF() + partOfB * b.blueF());
+}
+
+double linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour)
+{
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const auto range = std::minmax({luminance(a), luminance(b)});
+    return (range.second + 0.05) / (range.first + 0.05);
+}
+
+/// More groups than hues come back lighter or darker.
+QColor colourOf(int groupIndex)
+{
+    const QColor hue = QColor::fromRgb(Hues[groupIndex % HueCount]);
+    const int round = groupIndex / HueCount % 3;
+    return round == 0 ? hue : mixed(hue, round == 1 ? Qt::white : Qt::black, 0.4);
+}
+} // namespace
+
+GroupColours::GroupColours(const QPalette& palette, const std::vector<int>& groups,
+                           const GroupMarks& marks, double meshStrength)
+    : m_text(palette.color(QPalette::Active, QPalette::Text))
+    , m_background(palette.color(QPalette::Active, QPalette::Base))
+    , m_highlight(palette.color(QPalette::Active, QPalette::Highlight))
+{
+    m_sets.reserve(groups.size());
+    for (size_t i = 0; i < groups.size(); ++i)
+        m_sets.push_back(makeSet(int(i), marks.markOf(groups[i]), meshStrength));
+}
+
+GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double meshStrength) const
+{
+    const bool isLit = mark == GroupMark::Lit || mark == GroupMark::PickedLit;
+    const QColor colour = markedColour(groupIndex, mark);
+    const double paleness = mark == GroupMark::Pale ? 0.6 : 0.0;
+    const QColor outline = mixed(m_text, m_background, paleness);
+    Set set;
+    for (int shade = 0; shade < Shades; ++shade) {
+        const double dark = 0.45 * (1.0 - shade / double(Shades - 1));
+        const QColor fill = mixed(colour, Qt::black, dark);
+        const QColor mesh = mixed(fill, outline, (isLit ? 0.8 : 0.35) * meshStrength);
+        set.fills[size_t(shade)] = fill;
+        set.meshes[size_t(shade)] = QPen(mesh, 0);
+    }
+    set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.0 : 1.2, Qt::SolidLine, Qt::RoundCap);
+    set.line = mark == GroupMark::Pale ? colour : readable(colour);
+    return set;
+}
+
+QColor GroupColours::markedColour(int groupIndex, GroupMark mark) const
+{
+    const QColor colour = colourOf(groupIndex);
+    switch (mark) {
+    case GroupMark::None: break;
+    case GroupMark::Pale: return mixed(colour, m_background, 0.75);
+    case GroupMark::Lit: return mixed(colour, m_highlight, 0.6);
+    case GroupMark::Picked: return m_highlight;
+    case GroupMark::PickedLit: return mixed(m_highlight, m_text, 0.25);
+    }
+    return colour;
+}
+
+/// The colour, as far darker or lighter as a thin line needs.
+QColor GroupColours::readable(QColor colour) const
+{
+    for (int i = 0; i < 10 && contrast(colour, m_background) < LeastContrast; ++i)
+        colour = mixed(colour, m_text, 0.12);
+    return colour;
+}
+
+} // namespace aniview
+} // namespace vkd

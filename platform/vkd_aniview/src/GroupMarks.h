@@ -1,0 +1,41 @@
+#pragma once
+
+#include <vector>
+
+namespace vkd {
+namespace aniview {
+
+enum class GroupMark { None, Pale, Lit, Picked, PickedLit };
+constexpr int GroupMarkCount = 5;
+
+/// Which groups are picked and which one is lit up, by their numbers.
+class GroupMarks
+{
+public:
+    static constexpr int NoGroup = -1;
+
+    /// Each change answers whether there was one.
+    bool setPicking(bool picking);
+    bool setPicked(const std::vector<int>& groups);
+    bool setHovered(int group);
+    bool setHighlighted(int group);
+    void toggle(int group);
+
+    bool isPicking() const { return m_isPicking; }
+    int hovered() const { return m_hovered; }
+    const std::vector<int>& picked() const { return m_picked; } ///< ascending, each once
+
+    /// How a group looks. Picked groups show while picking only.
+    GroupMark markOf(int group) const;
+
+private:
+    bool isPicked(int group) const;
+
+    std::vector<int> m_picked;
+    bool m_isPicking = false;
+    int m_hovered = NoGroup;
+    int m_highlighted = NoGroup;
+};
+
+} // namespace aniview
+} // namespace vkd

@@ -1,0 +1,101 @@
+#include "Picture.h"
+
+#include <algorithm>
+
+namespace vkd {
+namespace aniview {
+
+namespace {
+constexpr int Steps = 1 << 16;
+} // namespace
+
+void Picture::update(const ModelGeometry& geometry, const Projection& projection,
+                     const QRectF& visible)
+{
+    projectPoints(geometry, projection);
+    findDepths(geometry, projection.axes().eye);
+    sortVisible(geometry, visible);
+}
+
+void Picture::projectPoints(const ModelGeometry& geometry, const Projection& projection)
+{
+    const double scale = projection.scale() * geometry.unit;
+    const QPointF middle = projection.toScreen(geometry.box.centre);
+    const Position& right = projection.axes().right;
+    const Position& up = projection.axes().up;
+    const Position h{scale * right[0], scale * right[1], scale * right[2]};
+    const Position v{-scale * up[0], -scale * up[1], -scale * up[2]};
+    m_points.resize(geometry.x.size());
+    for (size_t i = 0; i < m_points.size(); ++i) {
+        const Position p{double(geometry.x[i]), double(geometry.y[i]), double(geometry.z[i])};
+        m_points[i] = {middle.x() + dot(h, p), middle.y() + dot(v, p)};
+    }
+}
+
+void Picture::findDepths(const ModelGeometry& geometry, const Position& eye)
+{
+    const auto x = float(eye[0]);
+    const auto y = float(eye[1]);
+    const auto z = float(eye[2]);
+    m_depths.resize(geometry.sortPlaces.size());
+    for (size_t i = 0; i < m_depths.size(); ++i) {
+        const SortPlace& place = geometry.sortPlaces[i];
+        m_depths[i] = x * place.x + y * place.y + z * place.z + place.nearer;
+    }
+}
+
+/// A counting sort by depth: one pass, whatever the number of items.
+void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible)
+{
+    m_order.clear();
+    m_places.assign(Steps + 1, 0);
+    m_steps.resize(m_depths.size());
+    if (m_depths.empty())
+        return;
+    const auto range = std::minmax_element(m_depths.begin(), m_depths.end());
+    const float farthest = *range.first;
+    const float perDepth = float(Steps - 1) / std::max(*range.second - farthest, 1e-6F);
+    const int items = int(m_depths.size());
+    for (int item = 0; item < items; ++item) {
+        const int step = int((m_depths[size_t(item)] - farthest) * perDepth);
+        m_steps[size_t(item)] = static_cast<unsigned short>(qBound(0, step, Steps - 1));
+        ++m_places[size_t(m_steps[size_t(item)]) + 1];
+    }
+    for (size_t step = 1; step < m_places.size(); ++step)
+        m_places[step] += m_places[step - 1];
+    m_order.resize(m_depths.size());
+    for (int item = 0; item < items; ++item)
+        m_order[size_t(m_places[m_steps[size_t(item)]]++)] = item;
+    m_order.erase(std::remove_if(m_order.begin(), m_order.end(),
+                                 [&](int item) { return !isVisible(geometry, item, visible); }),
+                  m_order.end());
+}
+
+bool Picture::isVisible(const int* points, int count, const QRectF& visible) const
+{
+    QPointF least = point(points[0]);
+    QPointF most = least;
+    for (int i = 1; i < count; ++i) {
+        const QPointF& p = point(points[i]);
+        least = {std::min(least.x(), p.x()), std::min(least.y(), p.y())};
+        most = {std::max(most.x(), p.x()), std::max(most.y(), p.y())};
+    }
+    return most.x() >= visible.left() && least.x() <= visible.right() &&
+           most.y() >= visible.top() && least.y() <= visible.bottom();
+}
+
+bool Picture::isVisible(const ModelGeometry& geometry, int item, const QRectF& visible) const
+{
+    const auto faces = int(geometry.faces.size());
+    const auto lines = int(geometry.lines.size());
+    if (item < faces) {
+        const Face& face = geometry.faces[size_t(item)];
+        return isVisible(face.points, face.count, visible);
+    }
+    if (item < faces + lines)
+        return isVisible(geometry.lines[size_t(item - faces)].points, 2, visible);
+    return isVisible(&geometry.supports[size_t(item - faces - lines)].point, 1, visible);
+}
+
+} // namespace aniview
+} // namespace vkd

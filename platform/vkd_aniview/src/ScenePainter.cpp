@@ -1,0 +1,172 @@
+#include "ScenePainter.h"
+
+#include "symbols.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace vkd {
+namespace aniview {
+
+namespace {
+constexpr int MeshSteps = 8;
+constexpr double MostSymbol = 9.0; // pixels
+constexpr double EdgeOn = 0.02;    // the sine of the angle below which a plate shows its edge only
+
+/// Line elements have no width in the model: one that suits their kind, within limits in pixels.
+struct LineLook
+{
+    double metres;
+    double least;
+    double most;
+};
+constexpr LineLook LineLooks[LineKindCount] = {
+    {0.30, 2.6, 9.0}, {0.15, 1.8, 5.0}, {0.06, 1.2, 3.0}, {0.0, 1.2, 1.2}, {0.0, 1.0, 1.0}};
+
+double component(const Position& direction, const float* normal)
+{
+    return direction[0] * normal[0] + direction[1] * normal[1] + direction[2] * normal[2];
+}
+
+/// The mean edge of the faces in pixels.
+double cellPixels(const ModelGeometry& geometry, const Projection& projection)
+{
+    return geometry.cell * geometry.unit * projection.scale();
+}
+
+/// The light comes over the left shoulder of the viewer.
+Position lightOf(const ViewAxes& axes)
+{
+    const Position sum = along(along(along({}, 0.8, axes.eye), 0.5, axes.up), -0.33, axes.right);
+    return along({}, 1.0 / std::sqrt(dot(sum, sum)), sum);
+}
+} // namespace
+
+/// What one picture needs beside the colours.
+struct ScenePainter::Frame
+{
+    Frame(QPainter& p, const Picture& shown, const Projection& view, double cellPixels)
+        : painter(p)
+        , picture(shown)
+        , projection(view)
+        , light(lightOf(view.axes()))
+        , symbolSize(cellPixels > 0 ? qBound(4.0, 0.35 * cellPixels, MostSymbol) : MostSymbol)
+    {
+        for (int i = 0; i < LineKindCount; ++i) {
+            const LineLook& look = LineLooks[i];
+            widths[size_t(i)] = qBound(look.least, look.metres * view.scale(), look.most);
+        }
+    }
+
+    QPainter& painter;
+    const Picture& picture;
+    const Projection& projection;
+    const Position light;
+    const double symbolSize;
+    std::array<double, LineKindCount> widths{};
+    // What the painter is set to, as setting it again takes time.
+    int group = -1;
+    int shade = -1;
+};
+
+void ScenePainter::paint(QPainter& painter, const QPalette& palette, const ModelGeometry& geometry,
+                         const Picture& picture, const Projection& projection,
+                         const GroupMarks& marks)
+{
+    prepare(palette, geometry, projection, marks);
+    Frame frame(painter, picture, projection, cellPixels(geometry, projection));
+    const size_t faces = geometry.faces.size();
+    const size_t lines = geometry.lines.size();
+    for (int index : picture.order()) {
+        const auto item = size_t(index);
+        if (item < faces) {
+            drawFace(frame, geometry.faces[item]);
+            continue;
+        }
+        frame.group = -1;
+        if (item < faces + lines) {
+            drawLine(frame, geometry.lines[item - faces]);
+            continue;
+        }
+        const Support& support = geometry.supports[item - faces - lines];
+        drawSupport(painter, projection.axes(), picture.point(support.point), support.fixed,
+                    frame.symbolSize, {m_colours->symbol(), m_colours->background()});
+    }
+}
+
+/// Elements of a few pixels would be all outline; so outlines fade as elements get small.
+void ScenePainter::prepare(const QPalette& palette, const ModelGeometry& geometry,
+                           const Projection& projection, const GroupMarks& marks)
+{
+    const double pixels = cellPixels(geometry, projection);
+    const int step = int(qBound(0.0, (pixels - 2.0) / 8.0, 1.0) * MeshSteps);
+    if (m_colours && step == m_meshStep)
+        return;
+    m_meshStep = step;
+    m_colours =
+        std::make_unique<GroupColours>(palette, geometry.groups, marks, step / double(MeshSteps));
+}
+
+void ScenePainter::drawFace(Frame& frame, const Face& face) const
+{
+    QPointF corners[4];
+    for (int i = 0; i < face.count; ++i)
+        corners[i] = frame.picture.point(face.points[i]);
+    const double facing = component(frame.projection.axes().eye, face.normal);
+    if (std::abs(facing) < EdgeOn && face.thickness > 0.0F) {
+        drawEdgeOn(frame, face, corners);
+        return;
+    }
+    const double lit = component(frame.light, face.normal) * (facing < 0.0 ? -1.0 : 1.0);
+    const int shade = int(qBound(0.0, lit, 1.0) * (GroupColours::Shades - 1));
+    if (face.group != frame.group || shade != frame.shade) {
+        const GroupColours::Set& set = (*m_colours)[face.group];
+        frame.painter.setBrush(set.fills[size_t(shade)]);
+        frame.painter.setPen(set.meshes[size_t(shade)]);
+        frame.group = face.group;
+        frame.shade = shade;
+    }
+    frame.painter.drawConvexPolygon(corners, face.count);
+    if (face.strongEdges)
+        drawStrongEdges(frame, face, corners);
+}
+
+void ScenePainter::drawStrongEdges(Frame& frame, const Face& face, const QPointF* corners) const
+{
+    frame.painter.setPen((*m_colours)[face.group].edge);
+    for (int i = 0; i < face.count; ++i)
+        if (face.strongEdges & 1U << unsigned(i))
+            frame.painter.drawLine(corners[i], corners[(i + 1) % face.count]);
+    frame.group = -1;
+}
+
+/// A plate that would be a hairline shows its thickness.
+void ScenePainter::drawEdgeOn(Frame& frame, const Face& face, const QPointF* corners) const
+{
+    const double width = std::max(2.0, face.thickness * frame.projection.scale());
+    frame.painter.setPen(QPen((*m_colours)[face.group].line, width, Qt::SolidLine, Qt::FlatCap));
+    for (int i = 0; i < face.count; ++i)
+        frame.painter.drawLine(corners[i], corners[(i + 1) % face.count]);
+    frame.group = -1;
+}
+
+void ScenePainter::drawLine(Frame& frame, const Line& line) const
+{
+    const QPointF& from = frame.picture.point(line.points[0]);
+    const QPointF& to = frame.picture.point(line.points[1]);
+    const double width = frame.widths[size_t(line.kind)];
+    const bool isSpring = line.kind == LineKind::Spring || line.kind == LineKind::GroundSpring;
+    // A round end would show through the plate that a column stands below.
+    frame.painter.setPen(QPen((*m_colours)[line.group].line, width, Qt::SolidLine,
+                              isSpring || line.meetsFace ? Qt::FlatCap : Qt::RoundCap));
+    if (isSpring)
+        drawSpring(frame.painter, from, to, line.kind == LineKind::GroundSpring);
+    else
+        frame.painter.drawLine(from, to);
+}
+
+} // namespace aniview
+} // namespace vkd

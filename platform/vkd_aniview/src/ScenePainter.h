@@ -1,0 +1,38 @@
+#pragma once
+
+#include "GroupColours.h"
+#include "Picture.h"
+
+#include <memory>
+
+class QPainter;
+
+namespace vkd {
+namespace aniview {
+
+/// Draws a picture of a geometry. Keeps pens and brushes until the looks change.
+class ScenePainter
+{
+public:
+    /// To be called when the palette, the geometry or the marks changed.
+    void forgetColours() { m_colours.reset(); }
+
+    void paint(QPainter& painter, const QPalette& palette, const ModelGeometry& geometry,
+               const Picture& picture, const Projection& projection, const GroupMarks& marks);
+
+private:
+    struct Frame;
+
+    void prepare(const QPalette& palette, const ModelGeometry& geometry,
+                 const Projection& projection, const GroupMarks& marks);
+    void drawFace(Frame& frame, const Face& face) const;
+    void drawStrongEdges(Frame& frame, const Face& face, const QPointF* corners) const;
+    void drawEdgeOn(Frame& frame, const Face& face, const QPointF* corners) const;
+    void drawLine(Frame& frame, const Line& line) const;
+
+    std::unique_ptr<GroupColours> m_colours;
+    int m_meshStep = -1;
+};
+
+} // namespace aniview
+} // namespace vkd

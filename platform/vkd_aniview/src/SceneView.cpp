@@ -1,0 +1,78 @@
+#include "SceneView.h"
+
+#include "GroupMarks.h"
+#include "hittest.h"
+
+#include <utility>
+
+namespace vkd {
+namespace aniview {
+
+namespace {
+constexpr double SymbolRoom = 12.0; // symbols reach out of the points that they stand at
+}
+
+void SceneView::setGeometry(ModelGeometry geometry)
+{
+    m_geometry = std::move(geometry);
+    m_isCurrent = false;
+}
+
+void SceneView::setCamera(const Camera& camera)
+{
+    m_camera = camera;
+    m_isCurrent = false;
+}
+
+void SceneView::setSize(const QSizeF& size)
+{
+    m_size = size;
+    m_isCurrent = false;
+}
+
+void SceneView::showAll()
+{
+    Camera camera = lookingFrom({m_camera.eye[0], m_camera.eye[1], m_camera.eye[2]});
+    camera.roll = m_camera.roll;
+    setCamera(camera);
+}
+
+void SceneView::turn(double right, double down)
+{
+    setCamera(turnedInPicture(m_camera, m_geometry.box, m_size, right, down));
+}
+
+void SceneView::pan(const QPointF& by)
+{
+    setCamera(panned(m_camera, m_geometry.box, m_size, by));
+}
+
+void SceneView::zoom(double factor, const QPointF& at)
+{
+    setCamera(zoomed(m_camera, m_geometry.box, m_size, factor, at));
+}
+
+Projection SceneView::projection() const
+{
+    return {m_camera, m_geometry.box, m_size};
+}
+
+const Picture& SceneView::picture()
+{
+    if (!m_isCurrent) {
+        const QRectF visible =
+            QRectF(QPointF(), m_size).adjusted(-SymbolRoom, -SymbolRoom, SymbolRoom, SymbolRoom);
+        m_picture.update(m_geometry, projection(), visible);
+    }
+    m_isCurrent = true;
+    return m_picture;
+}
+
+int SceneView::groupAt(const QPointF& place)
+{
+    const int index = aniview::groupAt(m_geometry, picture(), place);
+    return index < 0 ? GroupMarks::NoGroup : m_geometry.groups[size_t(index)];
+}
+
+} // namespace aniview
+} // namespace vkd

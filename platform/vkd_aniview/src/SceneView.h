@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Picture.h"
+
+namespace vkd {
+namespace aniview {
+
+/// A geometry, the camera that looks at it and the picture of the two, which follows their changes
+/// when it is asked for.
+class SceneView
+{
+public:
+    void setGeometry(ModelGeometry geometry);
+    const ModelGeometry& geometry() const { return m_geometry; }
+
+    const Camera& camera() const { return m_camera; }
+    void setCamera(const Camera& camera);
+    void setSize(const QSizeF& size);
+
+    void showAll();
+    void turn(double right, double down); ///< degrees
+    void pan(const QPointF& by);          ///< pixels
+    void zoom(double factor, const QPointF& at);
+
+    Projection projection() const;
+    const Picture& picture();
+
+    /// The number of the group in front at a place of the picture, or GroupMarks::NoGroup.
+    int groupAt(const QPointF& place);
+
+private:
+    ModelGeometry m_geometry;
+    Camera m_camera;
+    QSizeF m_size{1.0, 1.0};
+    Picture m_picture;
+    bool m_isCurrent = false;
+};
+
+} // namespace aniview
+} // namespace vkd

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <vkd_dbo_model.h>
+
+#include <vector>
+
+namespace vkd {
+namespace aniview {
+
+struct BrickFace
+{
+    std::array<int, 4> nodes{};
+    int group = 0;
+};
+
+/// The faces that no two bricks share.
+std::vector<BrickFace> outerFaces(const QVector<dbo::Brick>& bricks);
+
+} // namespace aniview
+} // namespace vkd
