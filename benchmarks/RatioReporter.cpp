@@ -27,10 +27,10 @@ bool RatioReporter::check(const std::vector<Bound>& bounds) const
         const double time = seconds(bound.subject, bound.perItem);
         const double ratio = time / seconds(bound.baseline, bound.perItem);
         kept = kept && ratio <= bound.most;
-        std::printf("%-4s %5.2f of at most %4.2f  %s to %s%s (%.3g ms)\n",
+        std::printf("%-4s %5.2f of at most %4.2f  %s to %s%s (%.3g ms, %.3g in a second)\n",
                     ratio <= bound.most ? "ok" : "SLOW", ratio, bound.most, bound.subject.c_str(),
                     bound.baseline.c_str(), bound.perItem ? ", each item" : "",
-                    1000 * m_seconds.at(bound.subject));
+                    1000 * m_seconds.at(bound.subject), 1 / m_seconds.at(bound.subject));
     }
     return kept;
 }

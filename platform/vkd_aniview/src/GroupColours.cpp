@@ -9,7 +9,7 @@ namespace aniview {
 namespace {
 // Apart in lightness as well as in hue, and neighbours in the list the most.
 constexpr QRgb Hues[] = {0xff56b4e9, 0xffe69f00, 0xff009e73, 0xffcc79a7, 0xfff0e442,
-                         0xff0072b2, 0xffd55e00, 0xffa6a6a6, 0xff882255, 0xffaad26e};
+                         0xff0072b2, 0xffd55e00, 0xffa6a6a6, 0xffbb5566, 0xffaad26e};
 constexpr int HueCount = sizeof Hues / sizeof *Hues;
 constexpr double LeastContrast = 2.4; // of thin lines with the background
 
@@ -73,7 +73,8 @@ GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double m
         set.meshes[size_t(shade)] = QPen(mesh, 0);
     }
     set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.0 : 1.2, Qt::SolidLine, Qt::RoundCap);
-    set.line = mark == GroupMark::Pale ? colour : readable(colour);
+    set.line = mark == GroupMark::Pale ? mixed(colour, outline, 0.3) : readable(colour);
+    set.widening = isLit ? 2.0 : 0.0;
     return set;
 }
 

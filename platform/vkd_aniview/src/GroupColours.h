@@ -26,6 +26,7 @@ public:
         std::array<QPen, Shades> meshes;  ///< the outlines of elements
         QPen edge;                        ///< edges of plates, folds
         QColor line;                      ///< line elements, and plates seen edge-on
+        double widening;                  ///< of line elements, pixels
     };
 
     /// `meshStrength` from 0 to 1 is how much the outlines of elements stand out.

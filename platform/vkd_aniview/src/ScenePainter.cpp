@@ -53,7 +53,7 @@ struct ScenePainter::Frame
         , picture(shown)
         , projection(view)
         , light(lightOf(view.axes()))
-        , symbolSize(cellPixels > 0 ? qBound(4.0, 0.35 * cellPixels, MostSymbol) : MostSymbol)
+        , symbolSize(cellPixels > 0 ? qBound(5.0, 0.5 * cellPixels, MostSymbol) : MostSymbol)
     {
         for (int i = 0; i < LineKindCount; ++i) {
             const LineLook& look = LineLooks[i];
@@ -157,11 +157,12 @@ void ScenePainter::drawLine(Frame& frame, const Line& line) const
 {
     const QPointF& from = frame.picture.point(line.points[0]);
     const QPointF& to = frame.picture.point(line.points[1]);
-    const double width = frame.widths[size_t(line.kind)];
+    const GroupColours::Set& set = (*m_colours)[line.group];
     const bool isSpring = line.kind == LineKind::Spring || line.kind == LineKind::GroundSpring;
     // A round end would show through the plate that a column stands below.
-    frame.painter.setPen(QPen((*m_colours)[line.group].line, width, Qt::SolidLine,
-                              isSpring || line.meetsFace ? Qt::FlatCap : Qt::RoundCap));
+    const bool isFlat = isSpring || line.meetsFace;
+    frame.painter.setPen(QPen(set.line, frame.widths[size_t(line.kind)] + set.widening,
+                              Qt::SolidLine, isFlat ? Qt::FlatCap : Qt::RoundCap));
     if (isSpring)
         drawSpring(frame.painter, from, to, line.kind == LineKind::GroundSpring);
     else

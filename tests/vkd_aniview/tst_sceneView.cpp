@@ -1,0 +1,283 @@
+#include "GroupMarks.h"
+#include "SceneView.h"
+#include "TestSupport.h"
+
+#include <QLineF>
+
+#include <cmath>
+
+using namespace vkd::aniview;
+using vkd::dbo::LineElement;
+using vkd::dbo::Model;
+
+Q_DECLARE_METATYPE(Position)
+
+namespace {
+constexpr double Tolerance = 1e-3; // pixels, from single precision
+constexpr int None = GroupMarks::NoGroup;
+
+bool isClose(const Position& a, const Position& b)
+{
+    return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]) < 1e-9;
+}
+
+bool isClose(const QPointF& a, const QPointF& b)
+{
+    return QLineF(a, b).length() < Tolerance;
+}
+
+/// Nodes 1 to 4 are the square from (0, 0) to (4, 4) at z = 0, and 5 to 8 that at z = 3.
+Model squares()
+{
+    Model model;
+    for (int i = 0; i < 8; ++i) {
+        const double x = i % 4 == 1 || i % 4 == 2 ? 4.0 : 0.0;
+        const double y = i % 4 > 1 ? 4.0 : 0.0;
+        model.nodes.push_back({i + 1, {x, y, i < 4 ? 0.0 : 3.0}});
+    }
+    return model;
+}
+
+/// The squares as plates of the groups 1 and 2, a column 3 off their middle between them, and an
+/// edge beam 4 from node 5 to 6.
+Model storey()
+{
+    Model model = squares();
+    model.nodes.push_back({9, {2.0, 2.5, 0.0}});
+    model.nodes.push_back({10, {2.0, 2.5, 3.0}});
+    model.quads.push_back({1, 1, {1, 2, 3, 4}, 0.2});
+    model.quads.push_back({2, 2, {5, 6, 7, 8}, 0.2});
+    model.beams.push_back({3, 3, 1, {9, 10}});
+    model.beams.push_back({4, 4, 1, {5, 6}});
+    return model;
+}
+
+SceneView viewOf(const Model& model, const Position& eye)
+{
+    SceneView view;
+    view.setGeometry(buildGeometry(model));
+    view.setSize({856, 656}); // less a margin of 28, 800 by 600
+    view.setCamera(lookingFrom(eye));
+    return view;
+}
+} // namespace
+
+/// What the view of a model shows where, without widgets.
+class TestSceneView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void axes_data()
+    {
+        QTest::addColumn<Position>("eye");
+        QTest::addColumn<double>("roll");
+        QTest::addColumn<Position>("right");
+        QTest::addColumn<Position>("up");
+        const Position x{1, 0, 0};
+        const Position y{0, 1, 0};
+        const Position z{0, 0, 1};
+        const double third = std::sqrt(1.0 / 3.0);
+        QTest::newRow("X/Y") << z << 0.0 << x << y;
+        QTest::newRow("X/Z") << Position{0, -1, 0} << 0.0 << x << z;
+        QTest::newRow("Y/Z") << x << 0.0 << y << z;
+        QTest::newRow("from below") << Position{0, 0, -1} << 0.0 << x << Position{0, -1, 0};
+        QTest::newRow("length") << Position{0, -1e-200, 0} << 0.0 << x << z;
+        QTest::newRow("very long") << Position{1e308, 1e308, 0} << 0.0
+                                   << Position{-std::sqrt(0.5), std::sqrt(0.5), 0} << z;
+        QTest::newRow("standard") << Position{1, -2, 1} << 0.0
+                                  << Position{2 / std::sqrt(5), 1 / std::sqrt(5), 0}
+                                  << Position{-1 / std::sqrt(30), 2 / std::sqrt(30),
+                                              5 / std::sqrt(30)};
+        QTest::newRow("roll") << z << 90.0 << Position{0, -1, 0} << x;
+        QTest::newRow("full turns") << z << -1440.0 << x << y;
+        QTest::newRow("isometric")
+            << Position{third, third, third} << 180.0
+            << Position{std::sqrt(0.5), -std::sqrt(0.5), 0}
+            << Position{std::sqrt(1 / 6.0), std::sqrt(1 / 6.0), -std::sqrt(2 / 3.0)};
+    }
+
+    void axes()
+    {
+        QFETCH(const Position, eye);
+        QFETCH(const double, roll);
+        QFETCH(const Position, right);
+        QFETCH(const Position, up);
+        Camera camera = lookingFrom(eye);
+        camera.roll = roll;
+        const ViewAxes axes = axesOf(camera);
+        QVERIFY(isClose(axes.right, right));
+        QVERIFY(isClose(axes.up, up));
+        QVERIFY(isClose(axes.eye, cross(right, up)));
+    }
+
+    void fixedViews_data()
+    {
+        QTest::addColumn<Position>("eye");
+        QTest::addColumn<QPointF>("farCorner");
+        QTest::newRow("X/Y") << Position{0, 0, 1} << QPointF(828, 168);
+        QTest::newRow("X/Z") << Position{0, -1, 0} << QPointF(828, 88);
+        QTest::newRow("Y/Z") << Position{1, 0, 0} << QPointF(628, 28);
+    }
+
+    /// The whole model with a margin, in the middle, though it stands far from the origin.
+    void fixedViews()
+    {
+        QFETCH(const Position, eye);
+        QFETCH(const QPointF, farCorner);
+        Model model;
+        model.nodes.push_back({1, {5e6, -3e5, 100}});
+        model.nodes.push_back({2, {5e6 + 10, -3e5 + 4, 106}});
+        model.beams.push_back({1, 1, 1, {1, 2}});
+        SceneView view = viewOf(model, eye);
+        const Picture& picture = view.picture();
+        QVERIFY(isClose(picture.point(1), farCorner));
+        QVERIFY(isClose(picture.point(0), QPointF(856, 656) - farCorner));
+        QVERIFY(isClose(view.projection().toScreen({5e6 + 10, -3e5 + 4, 106}), farCorner));
+    }
+
+    void hand_data()
+    {
+        QTest::addColumn<double>("roll");
+        QTest::addColumn<QPointF>("way");
+        QTest::newRow("right") << 0.0 << QPointF(0.2, 0);
+        QTest::newRow("down") << 0.0 << QPointF(0, 0.2);
+        QTest::newRow("up left, rolled") << 30.0 << QPointF(-0.2, -0.1);
+        QTest::newRow("down, upside down") << 180.0 << QPointF(0, 0.2);
+    }
+
+    /// Turning takes the near side of the model along with the hand.
+    void hand()
+    {
+        QFETCH(const double, roll);
+        QFETCH(const QPointF, way);
+        SceneView view = viewOf(squares(), {0, -1, 0});
+        Camera camera = view.camera();
+        camera.roll = roll;
+        view.setCamera(camera);
+        const QPointF before = view.projection().toScreen({0, -10, 0});
+        view.turn(way.x(), way.y());
+        const QPointF moved = view.projection().toScreen({0, -10, 0}) - before;
+        const double angle = QLineF({}, moved).angleTo(QLineF({}, way));
+        QVERIFY2(std::min(angle, 360.0 - angle) < 1.0, qPrintable(QString::number(angle)));
+    }
+
+    /// Straight above, the view still knows where it came from.
+    void steepest()
+    {
+        SceneView view = viewOf(storey(), {3, -1, 1});
+        const ViewAxes before = axesOf(view.camera());
+        view.turn(0.0, 5000.0);
+        QVERIFY(axesOf(view.camera()).eye[2] > 0.999);
+        view.turn(0.0, -5000.0);
+        QVERIFY(axesOf(view.camera()).eye[2] < -0.999);
+        view.turn(0.0, 30.0);
+        QVERIFY(isClose(axesOf(view.camera()).right, before.right));
+    }
+
+    void zoomAndPan()
+    {
+        SceneView view = viewOf(storey(), {1, -2, 1});
+        const Position corner{4.0, 0.0, 3.0};
+        const QPointF place = view.projection().toScreen(corner);
+        const double scale = view.projection().scale();
+        view.zoom(3.0, place);
+        QVERIFY(isClose(view.projection().toScreen(corner), place));
+        QVERIFY(qFuzzyCompare(view.projection().scale(), 3.0 * scale));
+        view.pan({30.0, -20.0});
+        QVERIFY(isClose(view.projection().toScreen(corner), place + QPointF(30.0, -20.0)));
+        view.turn(40.0, 10.0);
+        QVERIFY(qFuzzyCompare(view.projection().scale(), 3.0 * scale));
+        view.showAll();
+        QVERIFY(isClose(view.projection().toScreen({2.0, 2.0, 1.5}), {428.0, 328.0}));
+        for (int i = 0; i < 2000; ++i)
+            view.zoom(0.5, place);
+        QVERIFY(view.projection().scale() > 0.0);
+    }
+
+    void frontmost_data()
+    {
+        QTest::addColumn<Position>("eye");
+        QTest::addColumn<Position>("at"); // the place where this point is seen
+        QTest::addColumn<int>("group");
+        const Position above{0, 0, 1};
+        const Position below{0, 0, -1};
+        const Position front{0, -1, 0};
+        const Position oblique{0, -1, 0.8};
+        QTest::newRow("upper plate") << above << Position{2, 1, 0} << 2;
+        QTest::newRow("lower plate") << below << Position{2, 1, 3} << 1;
+        QTest::newRow("column below its plate") << above << Position{2, 2.5, 0} << 2;
+        QTest::newRow("column between") << front << Position{2, 2.5, 1.5} << 3;
+        QTest::newRow("column before a plate") << oblique << Position{2, 2.5, 0.5} << 3;
+        QTest::newRow("column's end behind a plate") << oblique << Position{2, 2.5, 2.9} << 2;
+        QTest::newRow("edge beam from above") << above << Position{2, 0, 3} << 4;
+        QTest::newRow("edge beam from below") << Position{0, -1, -0.8} << Position{2, 0, 3} << 4;
+        QTest::newRow("plate seen edge-on") << front << Position{1, 0, 0} << 1;
+        QTest::newRow("between the plates") << front << Position{1, 0, 1.5} << None;
+        QTest::newRow("outside") << above << Position{5, 5, 0} << None;
+    }
+
+    void frontmost()
+    {
+        QFETCH(const Position, eye);
+        QFETCH(const Position, at);
+        QTEST(viewOf(storey(), eye).groupAt(viewOf(storey(), eye).projection().toScreen(at)),
+              "group");
+    }
+
+    void triangleAndBow()
+    {
+        Model model = squares();
+        model.quads.push_back({1, 1, {1, 2, 3, 0}, 0.2});
+        model.quads.push_back({2, 2, {5, 6, 8, 7}, 0.2}); // its edges cross
+        SceneView view = viewOf(model, {0, 0, -1});
+        const Projection projection = view.projection();
+        QCOMPARE(view.groupAt(projection.toScreen({3, 1, 0})), 1);
+        QCOMPARE(view.groupAt(projection.toScreen({1, 2, 0})), None);
+        QCOMPARE(view.groupAt(projection.toScreen({2, 3.5, 3})), 2);
+    }
+
+    /// Two bricks on each other show ten faces, and their common one is not in the way.
+    void bricks()
+    {
+        Model model = squares();
+        for (int i = 0; i < 4; ++i) {
+            model.nodes.push_back(model.nodes[i]);
+            model.nodes.last().number = 9 + i;
+            model.nodes.last().position[2] = 5.0;
+        }
+        model.bricks.push_back({1, 1, {1, 2, 3, 4, 5, 6, 7, 8}});
+        model.bricks.push_back({2, 2, {5, 6, 7, 8, 9, 10, 11, 12}});
+        QCOMPARE(int(buildGeometry(model).faces.size()), 10);
+    }
+
+    /// Outlines stand out at the rim of a plate and at folds and between groups only.
+    void strongEdges_data()
+    {
+        QTest::addColumn<int>("group");
+        QTest::addColumn<double>("rise");
+        QTest::addColumn<int>("strong");
+        QTest::newRow("one plate") << 1 << 0.5 << 6;
+        QTest::newRow("fold") << 1 << 3.0 << 8;
+        QTest::newRow("two groups") << 2 << 0.0 << 8;
+    }
+
+    void strongEdges()
+    {
+        QFETCH(const int, group);
+        QFETCH(const double, rise);
+        Model model = squares();
+        model.nodes.push_back({9, {8, 0, rise}});
+        model.nodes.push_back({10, {8, 4, rise}});
+        model.quads.push_back({1, 1, {1, 2, 3, 4}, 0.2});
+        model.quads.push_back({2, group, {3, 2, 9, 10}, 0.2});
+        int strong = 0;
+        for (const Face& face : buildGeometry(model).faces)
+            for (unsigned bit = 0; bit < 4; ++bit)
+                strong += face.strongEdges >> bit & 1U;
+        QTEST(strong, "strong");
+    }
+};
+
+PLIB_TEST_MAIN(TestSceneView)
+#include "tst_sceneView.moc"
