@@ -7,7 +7,6 @@
 #include <cmath>
 
 using namespace vkd::aniview;
-using vkd::dbo::LineElement;
 using vkd::dbo::Model;
 
 Q_DECLARE_METATYPE(Position)
@@ -212,6 +211,8 @@ private Q_SLOTS:
         QTest::newRow("column's end behind a plate") << oblique << Position{2, 2.5, 2.9} << 2;
         QTest::newRow("edge beam from above") << above << Position{2, 0, 3} << 4;
         QTest::newRow("edge beam from below") << Position{0, -1, -0.8} << Position{2, 0, 3} << 4;
+        QTest::newRow("edge beam at the far edge")
+            << Position{0, 1, 0.8} << Position{2, 0.02, 3} << 4;
         QTest::newRow("plate seen edge-on") << front << Position{1, 0, 0} << 1;
         QTest::newRow("between the plates") << front << Position{1, 0, 1.5} << None;
         QTest::newRow("outside") << above << Position{5, 5, 0} << None;
@@ -223,6 +224,27 @@ private Q_SLOTS:
         QFETCH(const Position, at);
         QTEST(viewOf(storey(), eye).groupAt(viewOf(storey(), eye).projection().toScreen(at)),
               "group");
+    }
+
+    /// A long line is in front of a plate with the one end and behind it with the other.
+    void lineThroughPlate()
+    {
+        Model model;
+        const auto node = [](int column, int row) { return 9 * row + column + 1; };
+        for (int i = 0; i < 81; ++i)
+            model.nodes.push_back({i + 1, {double(i % 9), double(i / 9), 0.0}});
+        for (int i = 0; i < 64; ++i) {
+            const int x = i % 8;
+            const int y = i / 8;
+            model.quads.push_back(
+                {i, 1, {node(x, y), node(x + 1, y), node(x + 1, y + 1), node(x, y + 1)}, 0.2});
+        }
+        model.nodes.push_back({100, {4.5, -1.5, 4.0}});
+        model.nodes.push_back({101, {4.5, 9.5, -4.0}});
+        model.beams.push_back({1, 2, 1, {100, 101}});
+        SceneView view = viewOf(model, {0, 0, 1});
+        QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 1, 0})), 2);
+        QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 7, 0})), 1);
     }
 
     void triangleAndBow()

@@ -82,6 +82,9 @@ private:
     bool isEmpty() const;
     QString emptyText() const;
     void setTexts();
+    /// Of an active window, because a disabled view is not to look so.
+    QColor activeColour(QPalette::ColorRole role) const;
+    void drawScene(QPainter& painter);
     void lookFrom(double x, double y, double z);
     /// Repaints coarsely now and finely when nothing moved for a while.
     void moved();

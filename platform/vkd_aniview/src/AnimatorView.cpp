@@ -210,31 +210,18 @@ void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
 void AnimatorView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const auto colour = [this](QPalette::ColorRole role) {
-        return palette().color(QPalette::Active, role);
-    };
-    painter.fillRect(rect(), colour(QPalette::Base));
-    painter.setPen(colour(QPalette::Text));
+    painter.fillRect(rect(), activeColour(QPalette::Base));
     if (isEmpty()) {
+        painter.setPen(activeColour(QPalette::Text));
         painter.drawText(rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
                          emptyText());
     } else {
-        const Projection projection = m_scene->projection();
-        painter.setRenderHint(QPainter::Antialiasing, !m_rest.isActive());
-        m_painter->paint(painter, palette(), m_scene->geometry(), m_scene->picture(), projection,
-                         *m_marks);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const double length = qBound(12.0, 0.06 * qMin(width(), height()), 26.0);
-        const double inset = length + 16.0; // has room for a name and the frame
-        drawTriad(painter, projection.axes(), {inset, height() - inset}, length,
-                  {colour(QPalette::Text), colour(QPalette::Base)});
-        painter.setRenderHint(QPainter::Antialiasing, false);
+        drawScene(painter);
     }
-    const int frame = hasFocus() ? 2 : 1;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-    painter.setClipRegion(QRegion(rect()) - rect().adjusted(frame, frame, -frame, -frame));
-    painter.drawRect(rect());
+    const int width = hasFocus() ? 2 : 1;
+    const QRegion frame = QRegion(rect()) - rect().adjusted(width, width, -width, -width);
+    painter.setClipRegion(frame);
+    painter.fillRect(rect(), activeColour(hasFocus() ? QPalette::Highlight : QPalette::Mid));
 }
 
 void AnimatorView::resizeEvent(QResizeEvent* event)
@@ -246,7 +233,7 @@ void AnimatorView::resizeEvent(QResizeEvent* event)
 void AnimatorView::wheelEvent(QWheelEvent* event)
 {
     const double notches = event->angleDelta().y() / double(QWheelEvent::DefaultDeltasPerStep);
-    event->accept();
+    event->setAccepted(!isEmpty());
     if (isEmpty() || notches == 0.0)
         return;
     m_scene->zoom(std::pow(ZoomToStep, qBound(-10.0, notches, 10.0)), event->position());
@@ -273,6 +260,27 @@ void AnimatorView::setTexts()
     setToolTip(isPicking() ? tr("Click: pick a group or drop it") + QLatin1Char('\n') + mouse
                            : mouse);
     update();
+}
+
+QColor AnimatorView::activeColour(QPalette::ColorRole role) const
+{
+    return palette().color(QPalette::Active, role);
+}
+
+void AnimatorView::drawScene(QPainter& painter)
+{
+    const Projection projection = m_scene->projection();
+    painter.setRenderHint(QPainter::Antialiasing, !m_rest.isActive());
+    m_painter->paint(painter, palette(), m_scene->geometry(), m_scene->picture(), projection,
+                     *m_marks);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double length = qBound(12.0, 0.06 * qMin(width(), height()), 26.0);
+    const double inset = length + 16.0; // has room for a name and the frame
+    QFont names = font();
+    names.setPixelSize(qMin(QFontInfo(names).pixelSize(), qRound(0.75 * length)));
+    painter.setFont(names);
+    drawTriad(painter, projection.axes(), {inset, height() - inset}, length,
+              {activeColour(QPalette::Text), activeColour(QPalette::Base)});
 }
 
 void AnimatorView::lookFrom(double x, double y, double z)
