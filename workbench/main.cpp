@@ -28,9 +28,9 @@ std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
 int main(int argc, char* argv[])
 {
     workbench::PlatformLog::install();
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     const auto application = newApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     return workbench::run(QCoreApplication::arguments());
 }

@@ -13,8 +13,9 @@
 #include <random>
 
 namespace {
-constexpr unsigned Seed = 20261121;
-constexpr int Steps = 20000;
+constexpr int Seed = 20261121;
+constexpr int Rounds = 40;
+constexpr int StepsInARound = 500;
 constexpr int MostRows = 40; // more would only repeat the same
 
 /// Presses keys and clicks at random. A modal dialog or a menu is worked on for a few steps while
@@ -22,8 +23,9 @@ constexpr int MostRows = 40; // more would only repeat the same
 class Monkey : public QObject
 {
 public:
-    explicit Monkey(DesignDesk* desk)
+    Monkey(DesignDesk* desk, unsigned seed)
         : m_desk(desk)
+        , m_random(seed)
     {
         workOnDialog();
     }
@@ -58,9 +60,11 @@ private:
 
     void press(QWidget* widget, Qt::Key key)
     {
-        // Escape with nothing to close would leave the dialog of the host.
-        const bool staysOpen = key != Qt::Key_Escape || !m_desk->editors().isEmpty() ||
-                               m_desk != QApplication::activeWindow();
+        // Escape with nothing to close in the table would rightly leave the dialog of the host.
+        const bool staysOpen =
+            key != Qt::Key_Escape ||
+            (!m_desk->editors().isEmpty() &&
+             (m_desk->table()->isAncestorOf(widget) || m_desk->table() == widget));
         if (widget && staysOpen)
             QTest::keyClick(widget, key,
                             below(9) ? Qt::NoModifier : Qt::KeyboardModifier(Qt::ControlModifier));
@@ -136,7 +140,7 @@ private:
     }
 
     DesignDesk* m_desk;
-    std::mt19937 m_random{Seed};
+    std::mt19937 m_random;
 };
 } // namespace
 
@@ -145,8 +149,20 @@ class tst_designMonkey : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+    void rowsAndTableAgree_data();
     void rowsAndTableAgree();
+
+private:
+    HostProject m_project{QStringLiteral("slab")}; // goes on from round to round
+    VKD_H_ProjectDialogPage m_entries;
 };
+
+void tst_designMonkey::initTestCase()
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+    VKD_QT_InitTranslator::languageChanged();
+}
 
 namespace {
 /// Group by group, what the table says about it, in an order of its own: a group may stand in two
@@ -167,36 +183,37 @@ QStringList groupByGroup(const DesignDesk& desk)
 }
 } // namespace
 
+void tst_designMonkey::rowsAndTableAgree_data()
+{
+    QTest::addColumn<int>("seed");
+    for (int round = 0; round < Rounds; ++round)
+        QTest::addRow("round %d", round) << Seed + round;
+}
+
 /// The rows are seen by what is written: a fresh page has to show the same.
 void tst_designMonkey::rowsAndTableAgree()
 {
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-    VKD_QT_InitTranslator::languageChanged();
-    HostProject project(QStringLiteral("slab"));
-    VKD_H_ProjectDialogPage entries;
+    QFETCH(int, seed);
     QStringList before;
     {
-        DesignDesk desk(project);
-        desk.page->getEntrys(entries);
-        int counted = desk.table()->rowCount();
-        connect(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged, &desk,
-                [&counted](int rows) { counted = rows; });
-        Monkey monkey(&desk);
-        for (int step = 0; step < Steps; ++step) {
+        DesignDesk desk(m_project);
+        desk.page->getEntrys(m_entries);
+        Monkey monkey(&desk, unsigned(seed));
+        for (int step = 0; step < StepsInARound; ++step) {
             monkey.step();
-            desk.show(); // some key may have closed the dialog
-            QCOMPARE(desk.table()->rowCount(), counted);
             const QString editors = desk.editors();
             QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
+            if (desk.isVisible())
+                continue;
+            QCOMPARE(desk.result(), 6); // left to pick groups, and for nothing else
+            desk.show();
         }
-        desk.press("btnNew");
         desk.table()->setCurrentCell(0, 1); // closes the last editor
         before = groupByGroup(desk);
-        desk.page->setEntrys(entries);
+        desk.page->setEntrys(m_entries);
     }
-    DesignDesk desk(project);
-    desk.page->getEntrys(entries);
-    QVERIFY(before.size() > 2);
+    DesignDesk desk(m_project);
+    desk.page->getEntrys(m_entries);
     QCOMPARE(groupByGroup(desk).join(QLatin1Char('\n')), before.join(QLatin1Char('\n')));
 }
 

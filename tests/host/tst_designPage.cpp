@@ -68,6 +68,7 @@ private Q_SLOTS:
     void fromANewProjectToRecords();
     void aTypeChangesNothingElse();
     void editorsComeAndGo();
+    void editorAwayFromTheCurrentCell();
     void deletingAndMoving();
     void entriesOfTheGroupCombo_data();
     void entriesOfTheGroupCombo();
@@ -199,6 +200,36 @@ void tst_designPage::editorsComeAndGo()
     QCOMPARE(desk.editors(), QString());
 }
 
+/// Clicks go to the window, as the window system sends them.
+void tst_designPage::editorAwayFromTheCurrentCell()
+{
+    HostProject project(QStringLiteral("slab"));
+    project.setRecords({record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
+    DesignDesk desk(project);
+    desk.page->readZob();
+    const auto click = [&desk](QWidget* widget) {
+        QTest::mouseClick(desk.windowHandle(), Qt::LeftButton, {},
+                          widget->mapTo(&desk, widget->rect().center()));
+    };
+    desk.table()->setCurrentCell(1, 0);
+    desk.table()->setCurrentCell(0, 0);
+    confirmGroups(QStringLiteral("3"));
+    click(desk.findChild<QPushButton*>(QStringLiteral("buttonGroups")));
+    QCOMPARE(desk.table()->currentIndex(), desk.table()->model()->index(1, 0));
+    QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
+    desk.table()->setCurrentCell(2, 2);
+    desk.table()->setCurrentCell(0, 0);
+    bool opened = false;
+    whenModal([&opened](QWidget* dialog) {
+        opened = true;
+        dialog->close();
+    });
+    click(desk.table()->cellWidget(2, 2));
+    QVERIFY(opened);
+    QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|3|2"));
+    QCOMPARE(desk.editors(), QStringLiteral("2,2"));
+}
+
 void tst_designPage::deletingAndMoving()
 {
     HostProject project(QStringLiteral("slab"));
@@ -235,6 +266,9 @@ void tst_designPage::deletingAndMoving()
     QCOMPARE(desk.editors(), QString());
     desk.press("btnNew");
     QCOMPARE(desk.row(3), QStringLiteral("None|No design|||"));
+    for (int row = 0; row < 4; ++row) // no text is cut
+        QVERIFY(table->rowHeight(row) >=
+                table->sizeHintForIndex(table->model()->index(row, 2)).height());
     desk.page->writeToZob();
     QCOMPARE(project.records().size(), std::size_t(3));
 }
@@ -340,10 +374,14 @@ void tst_designPage::detourOutOfTheDialog()
     desk.page->readZob();
     desk.press("btnNew");
     desk.hide();
-    const std::vector<int> picks[] = {{4, 2}, {3}};
+    const std::vector<int> picks[] = {{4, 2}, {3}, {}};
     for (const std::vector<int>& pick : picks) {
-        whenModal([&desk](QWidget*) {
+        whenModal([&desk, pick](QWidget*) {
             desk.table()->setCurrentCell(1, 0);
+            if (pick.empty()) {
+                confirmGroups(QStringLiteral("1"));
+                desk.press("buttonGroups");
+            }
             whenModal([](QWidget* groups) {
                 QTest::mouseClick(groups->findChild<QPushButton*>(QStringLiteral("pick")),
                                   Qt::LeftButton);
@@ -351,11 +389,13 @@ void tst_designPage::detourOutOfTheDialog()
             desk.press("buttonGroups");
         });
         QCOMPARE(desk.exec(), 6);
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(project.doc()->index(), pick));
+        if (!pick.empty()) // who picks nothing keeps what the row had, and not the last pick
+            VKD_H_SelGRP_Dialog::putAniSelectionToZob(project.doc()->index(), pick);
         whenModal([&desk](QWidget*) { desk.accept(); });
         QCOMPARE(desk.exec(), int(QDialog::Accepted));
-        QCOMPARE(desk.groupCombo()->currentText(),
-                 pick.size() == 2 ? QStringLiteral("2;4") : QStringLiteral("3"));
+        QCOMPARE(desk.groupCombo()->currentText(), pick.size() == 2   ? QStringLiteral("2;4")
+                                                   : pick.size() == 1 ? QStringLiteral("3")
+                                                                      : QStringLiteral("1"));
         desk.table()->setCurrentCell(1, 1);
     }
 }

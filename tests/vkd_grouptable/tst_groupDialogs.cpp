@@ -218,11 +218,11 @@ private Q_SLOTS:
         QCOMPARE(driver.text("2", 2), QStringLiteral("2 trusses, 2 cables, 1 spring, 2 bricks"));
         QCOMPARE(driver.text("12", 2), QStringLiteral("no elements"));
         QCOMPARE(driver.text("77", 3), QStringLiteral("not in the model"));
-        QCOMPARE(driver.text("2", 3), QStringLiteral("taken over from another row"));
+        QCOMPARE(driver.text("2", 3), QStringLiteral("also in another row"));
         QCOMPARE(driver.text("4", 3), QStringLiteral("used by another row"));
         QVERIFY(driver.cell(QStringLiteral("4"), 1).data(Qt::FontRole).value<QFont>().italic());
         QCOMPARE(driver.labelText("count"),
-                 QStringLiteral("2 of 6 groups checked, 1 taken over from another row"));
+                 QStringLiteral("2 of 6 groups checked, 1 also in another row"));
     }
 
     void filterAndButtons()

@@ -173,13 +173,15 @@ void tst_widgets::tabDialogTellsItsPages()
 
 void tst_widgets::cellButtonShowsThePresentText()
 {
-    QTableWidget table(1, 1);
+    QTableWidget table(2, 1);
+    table.setItem(1, 0, new QTableWidgetItem);
     table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("x")));
     VKD_QT_TableWidgetButton button(&table, table.item(0, 0), VKD_QT_TableWidgetButton::MarkBeside);
     const int narrow = button.sizeHint().width();
     table.item(0, 0)->setText(QStringLiteral("a much longer text"));
     QVERIFY(button.sizeHint().width() > narrow);
-    table.setRowCount(0); // the cell has gone before its button
+    table.removeRow(0); // the cell has gone before its button
+    table.item(0, 0)->setText(QStringLiteral("a text that is longer still"));
     button.show();
     button.repaint();
     QVERIFY(button.sizeHint().width() <= narrow);

@@ -13,7 +13,7 @@ class VKD_H_ZOBDoc;
 /// designed. For dialogs of hosts, on the GUI thread, in this order: the constructor, init(), one
 /// of the readers, the user's work, checkVals(), and if that gives true, one of the writers. The
 /// readers add to what the page shows, so each is to be called once. Nothing is written when the
-/// page is destroyed.
+/// page is destroyed, which must not happen while one of its dialogs is open.
 class VKD_P_FEA_EXPORT VKD_P_DesignParameter : public QWidget
 {
     Q_OBJECT

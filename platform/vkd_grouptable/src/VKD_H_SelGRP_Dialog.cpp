@@ -2,6 +2,7 @@
 
 #include "pickedGroups.h"
 
+#include <VKD_H_ZOBDoc.h>
 #include <vkd_qt_icon_named.h>
 #include <VKD_QT_Widgets.h>
 
@@ -32,7 +33,11 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
                         "here is not kept."));
     pick->setEnabled(hasGroups());
     addFootButton(pick);
-    connect(pick, &QPushButton::clicked, this, [this] { done(PickOutside); });
+    connect(pick, &QPushButton::clicked, this, [this, doc] {
+        if (doc)
+            removePickedGroups(doc->index()); // who picks none is not to get the last ones again
+        done(PickOutside);
+    });
     if (position)
         move(onScreen(*position, size()));
 }

@@ -34,13 +34,15 @@ public:
     virtual void addNewRow(bool withItems);
     /// Gives each cell of a row the empty item of its column.
     virtual void createEmptyItems(int row);
-    /// Deletes all rows with a selected cell, in one pass. Widgets over cells from the first of them
-    /// on go, too. Nothing is selected afterwards.
+    /// Deletes all rows with a selected cell, in one pass. Widgets over cells from the first of
+    /// them on go, too. Nothing is selected afterwards.
     virtual void deleteSelectedRows();
 
     /// The context menu, made anew with each call. The table owns it and deletes it with the next
     /// one.
     virtual VKD_QT_Menu* getContextMenu();
+
+    using VKD_QT_TableWidget::edit;
 
     /// Puts the selected cells on the clipboard, as text with tabs and as HTML.
     void copySelection() const;
@@ -50,13 +52,17 @@ Q_SIGNALS:
     void signal_rowCountChanged(int before, int after);
 
 protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void rowCountMayHaveChanged();
     void moveRow(int row, int to);
+    QString shownText(const QModelIndex& cell) const;
     void openCell();
+    const QWidget* widgetOverACell() const;
+    void closeCell(const QWidget* widget);
     bool stepInto(QWidget* cell);
 
     VKD_QT_Menu* m_menu = nullptr;

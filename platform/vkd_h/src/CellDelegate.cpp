@@ -7,7 +7,9 @@
 #include <VKD_QT4_ComboBox.h>
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace {
 constexpr int ArrowWidth = 14;
@@ -20,6 +22,34 @@ const VKD_H_TwSimpleComboBoxItem* comboItem(const VKD_H_TableWidget* table,
 }
 } // namespace
 
+namespace {
+/// A choice from the open list is an answer: the user need not leave the cell to have it taken.
+/// Keys and wheel on the closed list only browse.
+class CellCombo : public VKD_QT4_ComboBox
+{
+public:
+    using VKD_QT4_ComboBox::VKD_QT4_ComboBox;
+    bool isBrowsing() const { return m_isBrowsing; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        m_isBrowsing = true;
+        VKD_QT4_ComboBox::keyPressEvent(event);
+        m_isBrowsing = false;
+    }
+    void wheelEvent(QWheelEvent* event) override
+    {
+        m_isBrowsing = true;
+        VKD_QT4_ComboBox::wheelEvent(event);
+        m_isBrowsing = false;
+    }
+
+private:
+    bool m_isBrowsing = false;
+};
+} // namespace
+
 CellDelegate::CellDelegate(VKD_H_TableWidget* table)
     : QStyledItemDelegate(table)
     , m_table(table)
@@ -29,9 +59,14 @@ CellDelegate::CellDelegate(VKD_H_TableWidget* table)
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const
 {
-    QStyledItemDelegate::paint(painter, option, index);
     if (!comboItem(m_table, index))
-        return;
+        return QStyledItemDelegate::paint(painter, option, index);
+    QStyleOptionViewItem whole = option;
+    initStyleOption(&whole, index);
+    m_table->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &whole, painter, m_table);
+    QStyleOptionViewItem besideArrow = option;
+    besideArrow.rect.adjust(0, 0, -ArrowWidth, 0);
+    QStyledItemDelegate::paint(painter, besideArrow, index);
     QStyleOption arrow;
     arrow.palette = option.palette;
     arrow.state = QStyle::State_Enabled;
@@ -39,6 +74,36 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     arrow.rect.moveCenter(
         QPoint(option.rect.right() - ArrowWidth / 2 - 2, option.rect.center().y()));
     m_table->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, painter, m_table);
+}
+
+/// A click on the arrow opens the list.
+bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                               const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const bool isClick = event->type() == QEvent::MouseButtonRelease && comboItem(m_table, index);
+    if (!isClick || static_cast<QMouseEvent*>(event)->x() < option.rect.right() - ArrowWidth - 2)
+        return QStyledItemDelegate::editorEvent(event, model, option, index);
+    const QPersistentModelIndex cell = index;
+    const auto open = [this, cell] {
+        if (cell.isValid() && cell == m_table->currentIndex() && !m_table->indexWidget(cell))
+            m_table->edit(cell);
+    };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection); // the view is not done with it yet
+    return true;
+}
+
+/// The whole text of a cell that cannot show it.
+bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const QString text = index.data().toString();
+    const QRect needed =
+        option.fontMetrics.boundingRect(option.rect, Qt::AlignCenter | Qt::TextWordWrap, text);
+    if (event->type() != QEvent::ToolTip || option.rect.contains(needed) ||
+        index.data(Qt::ToolTipRole).isValid())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), text, view);
+    return true;
 }
 
 QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
@@ -59,13 +124,14 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
 QWidget* CellDelegate::newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,
                                 const QString& name) const
 {
-    auto combo = new VKD_QT4_ComboBox(parent, "cellCombo");
+    auto combo = new CellCombo(parent, "cellCombo");
     for (const ComboList& entry : item.entries())
         combo->addEntry(entry.text, entry.id);
     combo->setAccessibleName(name);
-    // A choice is an answer: the user need not leave the cell to have it taken.
     auto self = const_cast<CellDelegate*>(this);
     connect(combo, QOverload<int>::of(&QComboBox::activated), self, [self, combo] {
+        if (combo->isBrowsing())
+            return;
         Q_EMIT self->commitData(combo);
         Q_EMIT self->closeEditor(combo);
     });

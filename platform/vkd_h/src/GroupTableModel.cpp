@@ -22,7 +22,7 @@ QString remark(const GroupRow& row, bool isChecked)
     if (!row.isInModel)
         texts << DialogText::tr("not in the model");
     if (row.isTaken)
-        texts << (isChecked ? DialogText::tr("taken over from another row")
+        texts << (isChecked ? DialogText::tr("also in another row")
                             : DialogText::tr("used by another row"));
     return texts.join(QLatin1String(", "));
 }

@@ -265,7 +265,7 @@ void VKD_H_GroupDialog::updateCount()
                                                     [&](int row) { return rows[row].isChecked; }));
     QStringList texts{tr("%1 of %2 groups checked").arg(checked).arg(rows.size())};
     if (takenOver > 0)
-        texts << tr("%1 taken over from another row").arg(takenOver);
+        texts << tr("%1 also in another row").arg(takenOver);
     if (hidden > 0)
         texts << tr("%1 hidden by the filter").arg(hidden);
     m_count->setText(texts.join(QLatin1String(", ")));

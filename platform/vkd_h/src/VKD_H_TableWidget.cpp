@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMimeData>
@@ -38,7 +39,7 @@ VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, con
     , m_rowCount(rows)
 {
     setTabKeyNavigation(false);
-    setEditTriggers(DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setItemDelegate(new CellDelegate(this));
     const auto changed = [this] { rowCountMayHaveChanged(); };
     connect(model(), &QAbstractItemModel::rowsInserted, this, changed);
@@ -106,6 +107,8 @@ void VKD_H_TableWidget::deleteSelectedRows()
     const std::set<int> rows = getSelectetRows();
     if (rows.empty())
         return;
+    if (isAncestorOf(QApplication::focusWidget()))
+        setFocus(); // an open editor takes what was typed and closes
     const int above = int(std::distance(rows.begin(), rows.lower_bound(currentRow())));
     const QPoint current(currentColumn(), currentRow() - above);
     int kept = *rows.begin();
@@ -147,6 +150,25 @@ VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
     return m_menu;
 }
 
+/// A widget over a cell may show what the cell itself does not.
+QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
+{
+    const QWidget* widget = indexWidget(cell);
+    const auto combo = widget ? widget->findChild<QComboBox*>() : nullptr;
+    return combo ? combo->currentText() : cell.data().toString();
+}
+
+bool VKD_H_TableWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    if (trigger == CurrentChanged)
+        return false; // arrow keys pass over a widget on a cell and do not end up in it
+    // A letter would choose at once among the entries that begin with it.
+    const bool isChoice =
+        dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(item(index.row(), index.column()));
+    return !(isChoice && trigger == AnyKeyPressed) &&
+           VKD_QT_TableWidget::edit(index, trigger, event);
+}
+
 void VKD_H_TableWidget::copySelection() const
 {
     QModelIndexList cells = selectedIndexes();
@@ -164,7 +186,7 @@ void VKD_H_TableWidget::copySelection() const
         for (int column = columns.first->column(); column <= columns.second->column(); ++column) {
             const bool isNext =
                 cell != cells.cend() && cell->row() == row && cell->column() == column;
-            const QString content = isNext ? (cell++)->data().toString() : QString();
+            const QString content = isNext ? shownText(*cell++) : QString();
             text += plainCell(content);
             text += column < columns.second->column() ? QLatin1Char('\t') : QLatin1Char('\n');
             html += htmlCell(content);
@@ -185,11 +207,11 @@ void VKD_H_TableWidget::contextMenuEvent(QContextMenuEvent* event)
 
 void VKD_H_TableWidget::keyPressEvent(QKeyEvent* event)
 {
-    QWidget* cell = cellWidget(currentRow(), currentColumn());
+    const QWidget* open = event->key() == Qt::Key_Escape ? widgetOverACell() : nullptr;
     if (event->matches(QKeySequence::Copy))
         copySelection();
-    else if (event->key() == Qt::Key_Escape && cell)
-        Q_EMIT itemSelectionChanged();
+    else if (open)
+        closeCell(open);
     else if (event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return ||
              event->key() == Qt::Key_Enter)
         openCell();
@@ -201,7 +223,32 @@ void VKD_H_TableWidget::keyPressEvent(QKeyEvent* event)
         VKD_QT_TableWidget::keyPressEvent(event);
 }
 
-/// Enter must not reach the dialog around the table, whose OK it would press.
+/// With the focus back in the table, so that this does not pass for work in the widget.
+void VKD_H_TableWidget::closeCell(const QWidget* widget)
+{
+    setFocus();
+    const QModelIndex cell = indexAt(widget->geometry().center());
+    if (cell.isValid() && cell != currentIndex())
+        setCurrentIndex(cell);
+    else
+        Q_EMIT itemSelectionChanged();
+}
+
+/// A widget over the current cell or else over another one.
+const QWidget* VKD_H_TableWidget::widgetOverACell() const
+{
+    if (const QWidget* here = indexWidget(currentIndex()))
+        return here;
+    const QList<QWidget*> widgets =
+        viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget* widget : widgets)
+        if (!widget->isHidden())
+            return widget;
+    return nullptr;
+}
+
+/// Enter must not reach the dialog around the table, whose OK it would press. Who lays widgets over
+/// cells takes another itemSelectionChanged() for the wish to have one here.
 void VKD_H_TableWidget::openCell()
 {
     const QModelIndex cell = currentIndex();
@@ -216,7 +263,9 @@ void VKD_H_TableWidget::openCell()
 
 bool VKD_H_TableWidget::stepInto(QWidget* cell)
 {
-    if (auto button = qobject_cast<QAbstractButton*>(cell))
+    QWidget* focused = QApplication::focusWidget();
+    const bool isInside = cell && cell->isAncestorOf(focused);
+    if (auto button = qobject_cast<QAbstractButton*>(isInside ? focused : cell))
         button->click();
     else if (cell)
         cell->setFocus(Qt::TabFocusReason);

@@ -60,8 +60,8 @@
         <translation>nicht im Modell</translation>
     </message>
     <message>
-        <source>taken over from another row</source>
-        <translation>aus anderer Zeile übernommen</translation>
+        <source>also in another row</source>
+        <translation>auch in einer anderen Zeile</translation>
     </message>
     <message>
         <source>used by another row</source>
@@ -152,8 +152,8 @@
         <translation>%1 von %2 Gruppen markiert</translation>
     </message>
     <message>
-        <source>%1 taken over from another row</source>
-        <translation>%1 aus anderer Zeile übernommen</translation>
+        <source>%1 also in another row</source>
+        <translation>%1 auch in einer anderen Zeile</translation>
     </message>
     <message>
         <source>%1 hidden by the filter</source>

@@ -18,7 +18,7 @@ class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
 
 public:
     enum ButtonModus {
-        MarkBeside = 0,      ///< the mark stands to the right of the text
+        MarkBeside = 0,      ///< the mark stands to the right of the text, if there is room
         MarkOnly = 1,        ///< no text
         MarkInTheCorner = 2, ///< the text has the whole width, for narrow columns
     };
@@ -34,6 +34,8 @@ protected:
 
 private:
     QString itemText() const;
+    void takeName();
+    bool fits(const QRect& area) const;
     void paintText(QStylePainter* painter, const QStyleOptionButton& option,
                    const QRect& area) const;
 

@@ -9,6 +9,7 @@
 namespace {
 constexpr int Margin = 3;
 constexpr int MarkWidth = 12;
+constexpr int Wrapped = Qt::AlignCenter | Qt::TextWordWrap;
 
 /// Each line cut to the width by itself: cutting the whole would drop the second line.
 QString elided(const QString& text, const QFontMetrics& metrics, int width)
@@ -37,7 +38,19 @@ VKD_QT_TableWidgetButton::VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetI
     if (item && item->tableWidget())
         m_index = item->tableWidget()->model()->index(item->row(), item->column());
     setAutoDefault(false);
-    setAccessibleName(itemText());
+    if (!m_index.isValid())
+        return;
+    takeName();
+    connect(m_index.model(), &QAbstractItemModel::dataChanged, this,
+            &VKD_QT_TableWidgetButton::takeName);
+}
+
+void VKD_QT_TableWidgetButton::takeName()
+{
+    if (!m_index.isValid())
+        return; // the cell has gone before its button
+    const QVariant header = m_index.model()->headerData(m_index.column(), Qt::Horizontal);
+    setAccessibleName(header.toString() + QLatin1String(": ") + itemText());
 }
 
 QString VKD_QT_TableWidgetButton::itemText() const
@@ -59,18 +72,24 @@ void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
     QStyleOptionButton option;
     initStyleOption(&option);
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
-    const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
-    const QRect textArea = m_modus == MarkBeside ? inner.adjusted(0, 0, -MarkWidth, 0) : inner;
-    if (m_modus != MarkOnly)
-        paintText(&painter, option, textArea);
+    const QRect inner = rect().adjusted(Margin, 0, -Margin, 0);
+    const QRect beside = inner.adjusted(0, 0, -MarkWidth, 0);
+    if (m_modus != MarkOnly) // the mark yields its place to a text that needs it
+        paintText(&painter, option, m_modus == MarkBeside && fits(beside) ? beside : inner);
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
-        focus.rect = inner;
+        focus.rect = inner.adjusted(0, Margin, 0, -Margin);
         painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
     }
     painter.setBrush(option.palette.color(QPalette::ButtonText));
-    paintMark(painter, inner);
+    paintMark(painter, inner.adjusted(0, 0, 0, -Margin));
+}
+
+bool VKD_QT_TableWidgetButton::fits(const QRect& area) const
+{
+    const QRect needed = fontMetrics().boundingRect(area, Wrapped, itemText());
+    return needed.height() <= area.height() && needed.width() <= area.width();
 }
 
 /// In as many lines as there is room for, as the cell does; if these do not do, its own lines are
@@ -78,12 +97,10 @@ void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
 void VKD_QT_TableWidgetButton::paintText(QStylePainter* painter, const QStyleOptionButton& option,
                                          const QRect& area) const
 {
-    constexpr int Wrapped = Qt::AlignCenter | Qt::TextWordWrap;
-    const QString text = itemText();
-    const QRect needed = fontMetrics().boundingRect(area, Wrapped, text);
-    const bool fits = needed.height() <= area.height() && needed.width() <= area.width();
-    painter->drawItemText(area, fits ? Wrapped : int(Qt::AlignCenter), option.palette, isEnabled(),
-                          fits ? text : elided(text, fontMetrics(), area.width()),
+    const bool isWhole = fits(area);
+    painter->drawItemText(area, isWhole ? Wrapped : int(Qt::AlignCenter), option.palette,
+                          isEnabled(),
+                          isWhole ? itemText() : elided(itemText(), fontMetrics(), area.width()),
                           QPalette::ButtonText);
 }
 

@@ -3,18 +3,11 @@
 #include "designColumns.h"
 #include "designEntries.h"
 #include "DesignParameterTable.h"
-#include "designRecord.h"
 #include "designRows.h"
 #include "designStore.h"
-#include "dlgCrackControl.h"
-#include "dlgDistanceDirection.h"
-#include "dlgReinforcement.h"
-#include "dlgSelection.h"
 #include "rowText.h"
 
 #include <vkd_dbo_queries.h>
-#include <VKD_H_SecondaryGroupDialog.h>
-#include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_TableItems.h>
 #include <VKD_H_TableWidgetBox.h>
 #include <VKD_H_ZOBDoc.h>
@@ -22,9 +15,9 @@
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_SignalBlocker.h>
-#include <VKD_QT_TableWidgetButton.h>
 #include <VKD_T_Help.h>
 
+#include <QApplication>
 #include <QHeaderView>
 
 #include <algorithm>
@@ -34,14 +27,6 @@ using Table = DesignParameterTable;
 
 namespace {
 constexpr int MinimumWidth = 890;
-constexpr int DesignKey = 200; // the first key of the records
-constexpr int PickOutside = 6; // a group dialog's result
-
-/// What the combo of a cell says about a row's groups when the cell is left.
-enum SelectionId {
-    NoneId = 0,
-    RemainingId = 1,
-};
 } // namespace
 
 DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWidget* parent,
@@ -57,7 +42,11 @@ DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWi
     barTable.load(doc->index());
 }
 
-DesignParameter::~DesignParameter() = default;
+/// The focus still changes while the table goes, when this is a page no longer.
+DesignParameter::~DesignParameter()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void DesignParameter::setDialog(VKD_QT_Dialog* dialog)
 {
@@ -110,6 +99,7 @@ void DesignParameter::connectTable()
     connect(table, &QTableWidget::itemChanged, this, &DesignParameter::slot_typComboChanged);
     connect(table, &QTableWidget::itemSelectionChanged, this,
             &DesignParameter::slot_editCellWidget);
+    connect(qApp, &QApplication::focusChanged, this, &DesignParameter::makeEditedCellCurrent);
     connect(table, &Table::signal_newClicked, this, &DesignParameter::slot_newRowClicked);
     connect(table, &Table::signal_delClicked, this, &DesignParameter::slot_deleteClicked);
 }
@@ -237,12 +227,13 @@ void DesignParameter::slot_deleteClicked()
     if (table->isRowSelected(0))
         return;
     const std::set<int> rows = table->getSelectetRows();
-    closeCellWidget();
-    editRow = editColumn = -1;
-    {
+    if (!rows.empty()) {
+        closeCellWidget();
+        editRow = editColumn = -1;
         const VKD_QT_SignalBlocker blocker(table); // until the rows are those of the table again
         table->deleteSelectedRows();
         plib::removeRows(*data, rows);
+        table->fitRows();
     }
     Q_EMIT signal_rowCountChanged(table->rowCount());
 }
@@ -269,206 +260,3 @@ void DesignParameter::swapRows(int row, int other)
     refreshRows(other);
     data->table->setCurrentCell(other, data->table->currentColumn());
 }
-
-/// Moves the editor to the current cell. A cell that is selected a second time loses its editor and
-/// gets none. A row without design closes the old editor and leaves its place remembered, so that
-/// going back there counts as a second selection.
-void DesignParameter::slot_editCellWidget()
-{
-    Table* table = data->table;
-    if (table->rowCount() != int(data->rows.size()))
-        return; // rows are being removed, and numbers do not mean the same in both
-    const int row = table->currentRow();
-    const int column = table->currentColumn();
-    if (row == 0 && column == 0)
-        return; // no editor here, and one elsewhere stays open
-    closeCellWidget();
-    if (row == editRow && column == editColumn) {
-        editRow = editColumn = -1;
-        return;
-    }
-    DesignParameterRow* shown = plib::rowAt(*data, row);
-    const int id = column < 0 ? -1 : table->getColumnId(column);
-    if (id == Table::Selection && shown)
-        openSelection(row, column, *shown);
-    QTableWidgetItem* item = table->item(row, column);
-    if (item && id >= Table::DirectionAndDistance) {
-        if (!shown || shown->record.type == plib::NoDesign)
-            return;
-        openButton(row, column, item);
-    }
-    editRow = row;
-    editColumn = column;
-}
-
-void DesignParameter::closeCellWidget()
-{
-    const int id = editColumn < 0 ? -1 : data->table->getColumnId(editColumn);
-    if (id >= Table::DirectionAndDistance)
-        return clearCellWidget(editRow, editColumn);
-    const auto selection =
-        qobject_cast<dlgSelection*>(data->table->cellWidget(editRow, editColumn));
-    if (id != Table::Selection || !selection || !isRow(editRow))
-        return;
-    std::vector<int>& groups = data->rows[std::size_t(editRow)].groups;
-    const int chosen = selection->getCurrentId();
-    if (chosen == NoneId)
-        groups.clear();
-    else if (chosen == RemainingId)
-        groups = {-1};
-    refreshRows(editRow);
-    clearCellWidget(editRow, editColumn);
-}
-
-void DesignParameter::clearCellWidget(int row, int column)
-{
-    QWidget* widget = data->table->cellWidget(row, column);
-    if (!widget)
-        return;
-    const bool hadFocus = widget->isAncestorOf(focusWidget()) || widget->hasFocus();
-    if (hadFocus)
-        data->table->setFocus();
-    widget->hide(); // it is deleted later, and a dialog may run before
-    data->table->setCellWidget(row, column, nullptr);
-}
-
-void DesignParameter::openSelection(int row, int column, DesignParameterRow& shown)
-{
-    auto selection = new dlgSelection(data->doc->index(), data->table);
-    selection->fillCombo(shown, plib::hasRemainingRow(*data));
-    data->table->setCellWidget(row, column, selection);
-    connect(selection, &dlgSelection::signal_groupButtonClicked, this,
-            &DesignParameter::slot_openGroups);
-    connect(selection, &dlgSelection::signal_selectionComboChanged, this,
-            &DesignParameter::slot_selectionComboChanged);
-    connect(selection, &dlgSelection::signal_sekGroupButtonClicked, this,
-            &DesignParameter::slot_openSekGroups);
-    if (QTableWidgetItem* item = data->table->item(row, column))
-        item->setText(QString());
-}
-
-void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
-{
-    using Button = VKD_QT_TableWidgetButton;
-    const int id = data->table->getColumnId(column);
-    auto button = new Button(data->table, item,
-                             id == Table::DirectionAndDistance ? Button::MarkBeside
-                                                               : Button::MarkInTheCorner);
-    data->table->setCellWidget(row, column, button);
-    const auto slot = id == Table::DirectionAndDistance ? &DesignParameter::slot_editButtonClicked
-                      : id == Table::Reinforcement
-                          ? &DesignParameter::slot_calcReinforcementButtonClicked
-                          : &DesignParameter::slot_calcCrackButtonClicked;
-    connect(button, &QPushButton::clicked, this, slot);
-}
-
-/// The dialog works on the row's record, and changes it after OK alone.
-template <class Dialog, typename... Arguments>
-void DesignParameter::editRecord(Arguments... arguments)
-{
-    const int row = data->table->currentRow();
-    DesignParameterRow* edited = plib::rowAt(*data, row);
-    if (!edited)
-        return;
-    Dialog dialog(arguments..., &edited->record, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    dialog.writeToRecord(&edited->record);
-    refreshRows(row);
-}
-
-void DesignParameter::slot_editButtonClicked()
-{
-    editRecord<dlgDistanceDirection>();
-}
-
-void DesignParameter::slot_calcReinforcementButtonClicked()
-{
-    editRecord<dlgReinforcement>(data->doc->index());
-}
-
-void DesignParameter::slot_calcCrackButtonClicked()
-{
-    editRecord<dlgCrackControl>();
-}
-
-void DesignParameter::slot_openGroups()
-{
-    const int row = data->table->currentRow();
-    const DesignParameterRow* shown = plib::rowAt(*data, row);
-    if (!shown)
-        return;
-    std::vector<int> checked = shown->groups;
-    std::vector<int> used;
-    plib::collectUsedGroups(*data, row, used);
-    VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, DesignKey, data->doc, checked, used, nullptr,
-                               this, "Group Selection");
-    const int result = dialog.exec();
-    if (result == QDialog::Accepted) {
-        std::vector<int> confirmed;
-        dialog.getChecked(confirmed);
-        takeGroups(row, confirmed);
-    } else if (result == PickOutside && data->dialog) {
-        // Both, so that the slot is connected once however often the user goes this way.
-        disconnect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
-                   &DesignParameter::slot_onReopenGroups);
-        connect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
-                &DesignParameter::slot_onReopenGroups);
-        data->dialog->callDone(PickOutside);
-    }
-}
-
-void DesignParameter::slot_openSekGroups()
-{
-    const int row = data->table->currentRow();
-    const DesignParameterRow* shown = plib::rowAt(*data, row);
-    if (!shown || !data->table->item(row, data->table->getColumnNumber(Table::Selection)))
-        return;
-    std::vector<int> used;
-    plib::collectUsedGroups(*data, row, used);
-    VKD_H_SecondaryGroupDialog dialog(data->doc, shown->groups, used, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    std::vector<int> confirmed;
-    dialog.getChecked(confirmed);
-    takeGroups(data->table->currentRow(), confirmed);
-}
-
-/// Replaces the groups of a row and shows them in its editor.
-void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
-{
-    if (DesignParameterRow* changed = plib::rowAt(*data, row))
-        changed->groups = groups;
-    const DesignParameterRow* sorted = plib::rowAt(*data, row);
-    const int column = data->table->getColumnNumber(Table::Selection);
-    if (auto editor = qobject_cast<dlgSelection*>(data->table->cellWidget(row, column)))
-        editor->fillCombo(*sorted, plib::hasRemainingRow(*data));
-    else
-        refreshRows(row);
-}
-
-/// The entries of the editor are translated in its own context, and compared here in this one: both
-/// have to have the same words. The cell's text follows when the cell is left.
-void DesignParameter::slot_selectionComboChanged(QString text)
-{
-    const int row = data->table->currentRow();
-    DesignParameterRow* chosen = plib::rowAt(*data, row);
-    if (!chosen ||
-        !qobject_cast<dlgSelection*>(data->table->cellWidget(row, data->table->currentColumn())))
-        return;
-    if (text == tr("Remaining Groups"))
-        chosen->groups = {-1};
-    else if (text == tr("None"))
-        chosen->groups.clear();
-}
-
-void DesignParameter::slot_onReopenGroups()
-{
-    std::vector<int> picked;
-    if (VKD_H_SelGRP_Dialog::getAniSelectionFromZob(data->doc->index(), picked) == -1)
-        return;
-    if (isRow(data->table->currentRow()))
-        takeGroups(data->table->currentRow(), picked);
-}
-
-void DesignParameter::slot_onReopenGroupsSecondary() {}

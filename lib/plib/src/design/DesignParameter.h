@@ -66,6 +66,9 @@ private:
     void swapRows(int row, int other);
     bool isRow(int row) const;
     void closeCellWidget();
+    bool hasFocusInEditor() const;
+    void makeEditedCellCurrent();
+    void layOver(int row, int column, QWidget* editor);
     void clearCellWidget(int row, int column);
     void openSelection(int row, int column, plib::DesignParameterRow& shown);
     void openButton(int row, int column, QTableWidgetItem* item);

@@ -13,7 +13,8 @@ constexpr int MostRowsToFit = 500; // beyond that, measuring texts would cost mo
 DesignParameterTable::DesignParameterTable(QWidget* parent)
     : VKD_H_TableWidget(0, ColumnCount, parent, "table")
 {
-    setVerticalScrollMode(ScrollPerPixel); // rows are tall
+    setVerticalScrollMode(ScrollPerPixel);           // rows are tall
+    horizontalHeader()->setHighlightSections(false); // bold headers would be cut
     verticalHeader()->setDefaultSectionSize(MostLines * fontMetrics().lineSpacing() + RowMargin);
     verticalHeader()->setMinimumSectionSize(2 * fontMetrics().lineSpacing() + RowMargin);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &DesignParameterTable::fitRows);

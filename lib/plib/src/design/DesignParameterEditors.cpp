@@ -1,0 +1,274 @@
+// The editors of cells, and the dialogs that they open.
+
+#include "DesignParameter.h"
+
+#include "DesignParameterTable.h"
+#include "designRecord.h"
+#include "designRows.h"
+#include "dlgCrackControl.h"
+#include "dlgDistanceDirection.h"
+#include "dlgReinforcement.h"
+#include "dlgSelection.h"
+
+#include <VKD_H_SecondaryGroupDialog.h>
+#include <VKD_H_SelGRP_Dialog.h>
+#include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_SignalBlocker.h>
+#include <VKD_QT_TableWidgetButton.h>
+
+#include <QApplication>
+
+#include <algorithm>
+
+using plib::DesignParameterRow;
+using Table = DesignParameterTable;
+
+namespace {
+constexpr int DesignKey = 200; // the first key of the records
+
+/// What a combo with ids would say about a row's groups when its cell is left. The entries of ours
+/// have none: what the user chose is in the row by then.
+enum SelectionId {
+    NoneId = 0,
+    RemainingId = 1,
+};
+} // namespace
+
+/// Moves the editor to the current cell. A cell that is selected a second time loses its editor and
+/// gets none. A row without design closes the old editor and leaves its place remembered, so that
+/// going back there counts as a second selection.
+void DesignParameter::slot_editCellWidget()
+{
+    Table* table = data->table;
+    const int row = table->currentRow();
+    const int column = table->currentColumn();
+    if (row == 0 && column == 0)
+        return; // no editor here, and one elsewhere stays open
+    if (row == editRow && column == editColumn && hasFocusInEditor())
+        return; // the view selects the cell whose editor is pressed: that is no second selection
+    closeCellWidget();
+    if (row == editRow && column == editColumn) {
+        editRow = editColumn = -1;
+        return;
+    }
+    DesignParameterRow* shown = plib::rowAt(*data, row);
+    const int id = column < 0 ? -1 : table->getColumnId(column);
+    if (id == Table::Selection && shown)
+        openSelection(row, column, *shown);
+    QTableWidgetItem* item = table->item(row, column);
+    if (item && id >= Table::DirectionAndDistance) {
+        if (!shown || shown->record.type == plib::NoDesign)
+            return;
+        openButton(row, column, item);
+    }
+    editRow = row;
+    editColumn = column;
+}
+
+bool DesignParameter::hasFocusInEditor() const
+{
+    const QWidget* editor = data->table->cellWidget(editRow, editColumn);
+    const QWidget* focused = QApplication::focusWidget();
+    return editor && focused && (editor == focused || editor->isAncestorOf(focused));
+}
+
+/// An editor may stay open while another cell is the current one. Who goes on to use it means its
+/// row, and the slots work on the current row.
+void DesignParameter::makeEditedCellCurrent()
+{
+    if (!hasFocusInEditor() ||
+        (data->table->currentRow() == editRow && data->table->currentColumn() == editColumn))
+        return;
+    const VKD_QT_SignalBlocker blocker(data->table);
+    data->table->setCurrentCell(editRow, editColumn);
+}
+
+void DesignParameter::closeCellWidget()
+{
+    const int id = editColumn < 0 ? -1 : data->table->getColumnId(editColumn);
+    if (id >= Table::DirectionAndDistance)
+        return clearCellWidget(editRow, editColumn);
+    const auto selection =
+        qobject_cast<dlgSelection*>(data->table->cellWidget(editRow, editColumn));
+    if (id != Table::Selection || !selection || !isRow(editRow))
+        return;
+    std::vector<int>& groups = data->rows[std::size_t(editRow)].groups;
+    const int chosen = selection->getCurrentId();
+    if (chosen == NoneId)
+        groups.clear();
+    else if (chosen == RemainingId)
+        groups = {-1};
+    refreshRows(editRow);
+    clearCellWidget(editRow, editColumn);
+}
+
+void DesignParameter::clearCellWidget(int row, int column)
+{
+    QWidget* widget = data->table->cellWidget(row, column);
+    if (!widget)
+        return;
+    if (hasFocusInEditor())
+        data->table->setFocus();
+    widget->hide(); // it is deleted later, and a dialog may run before
+    data->table->setCellWidget(row, column, nullptr);
+}
+
+void DesignParameter::openSelection(int row, int column, DesignParameterRow& shown)
+{
+    auto selection = new dlgSelection(data->doc->index(), data->table);
+    selection->fillCombo(shown, plib::hasRemainingRow(*data));
+    layOver(row, column, selection);
+    connect(selection, &dlgSelection::signal_groupButtonClicked, this,
+            &DesignParameter::slot_openGroups);
+    connect(selection, &dlgSelection::signal_selectionComboChanged, this,
+            &DesignParameter::slot_selectionComboChanged);
+    connect(selection, &dlgSelection::signal_sekGroupButtonClicked, this,
+            &DesignParameter::slot_openSekGroups);
+    if (QTableWidgetItem* item = data->table->item(row, column))
+        item->setText(QString());
+}
+
+void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
+{
+    using Button = VKD_QT_TableWidgetButton;
+    const struct
+    {
+        Button::ButtonModus modus;
+        void (DesignParameter::*slot)();
+    } kinds[] = {
+        {Button::MarkBeside, &DesignParameter::slot_editButtonClicked},
+        {Button::MarkInTheCorner, &DesignParameter::slot_calcReinforcementButtonClicked},
+        {Button::MarkInTheCorner, &DesignParameter::slot_calcCrackButtonClicked},
+    };
+    const auto& kind = kinds[data->table->getColumnId(column) - Table::DirectionAndDistance];
+    auto button = new Button(data->table, item, kind.modus);
+    layOver(row, column, button);
+    connect(button, &QPushButton::clicked, this, kind.slot);
+}
+
+/// Puts an editor over a cell, right behind the table in the order of tabs.
+void DesignParameter::layOver(int row, int column, QWidget* editor)
+{
+    data->table->setCellWidget(row, column, editor);
+    QWidget* before = data->table;
+    QList<QWidget*> stops = editor->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    stops.prepend(editor);
+    for (QWidget* stop : qAsConst(stops))
+        if (stop->focusPolicy() & Qt::TabFocus) {
+            setTabOrder(before, stop);
+            before = stop;
+        }
+}
+
+/// The dialog works on the row's record, and changes it after OK alone.
+template <class Dialog, typename... Arguments>
+void DesignParameter::editRecord(Arguments... arguments)
+{
+    const int row = data->table->currentRow();
+    DesignParameterRow* edited = plib::rowAt(*data, row);
+    if (!edited)
+        return;
+    Dialog dialog(arguments..., &edited->record, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.writeToRecord(&edited->record);
+    refreshRows(row);
+}
+
+void DesignParameter::slot_editButtonClicked()
+{
+    editRecord<dlgDistanceDirection>();
+}
+
+void DesignParameter::slot_calcReinforcementButtonClicked()
+{
+    editRecord<dlgReinforcement>(data->doc->index());
+}
+
+void DesignParameter::slot_calcCrackButtonClicked()
+{
+    editRecord<dlgCrackControl>();
+}
+
+void DesignParameter::slot_openGroups()
+{
+    const int row = data->table->currentRow();
+    const DesignParameterRow* shown = plib::rowAt(*data, row);
+    if (!shown)
+        return;
+    std::vector<int> checked = shown->groups;
+    std::vector<int> used;
+    plib::collectUsedGroups(*data, row, used);
+    VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, DesignKey, data->doc, checked, used, nullptr,
+                               this, "Group Selection");
+    const int result = dialog.exec();
+    if (result == QDialog::Accepted) {
+        std::vector<int> confirmed;
+        dialog.getChecked(confirmed);
+        takeGroups(row, confirmed);
+    } else if (result == VKD_H_SelGRP_Dialog::PickOutside && data->dialog) {
+        // Both, so that the slot is connected once however often the user goes this way.
+        disconnect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
+                   &DesignParameter::slot_onReopenGroups);
+        connect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
+                &DesignParameter::slot_onReopenGroups);
+        data->dialog->callDone(VKD_H_SelGRP_Dialog::PickOutside);
+    }
+}
+
+void DesignParameter::slot_openSekGroups()
+{
+    const int row = data->table->currentRow();
+    const DesignParameterRow* shown = plib::rowAt(*data, row);
+    if (!shown || !data->table->item(row, data->table->getColumnNumber(Table::Selection)))
+        return;
+    std::vector<int> used;
+    plib::collectUsedGroups(*data, row, used);
+    VKD_H_SecondaryGroupDialog dialog(data->doc, shown->groups, used, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    std::vector<int> confirmed;
+    dialog.getChecked(confirmed);
+    takeGroups(data->table->currentRow(), confirmed);
+}
+
+/// Replaces the groups of a row and shows them in its editor.
+void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
+{
+    DesignParameterRow* changed = plib::rowAt(*data, row);
+    if (!changed)
+        return;
+    changed->groups = groups;
+    std::sort(changed->groups.begin(), changed->groups.end());
+    const int column = data->table->getColumnNumber(Table::Selection);
+    if (auto editor = qobject_cast<dlgSelection*>(data->table->cellWidget(row, column)))
+        editor->fillCombo(*changed, plib::hasRemainingRow(*data));
+    else
+        refreshRows(row);
+}
+
+/// The entries of the editor are translated in its own context, and compared here in this one: both
+/// have to have the same words. The cell's text follows when the cell is left.
+void DesignParameter::slot_selectionComboChanged(QString text)
+{
+    const int row = data->table->currentRow();
+    DesignParameterRow* chosen = plib::rowAt(*data, row);
+    if (!chosen ||
+        !qobject_cast<dlgSelection*>(data->table->cellWidget(row, data->table->currentColumn())))
+        return;
+    if (text == tr("Remaining Groups"))
+        chosen->groups = {-1};
+    else if (text == tr("None"))
+        chosen->groups.clear();
+}
+
+void DesignParameter::slot_onReopenGroups()
+{
+    std::vector<int> picked;
+    if (VKD_H_SelGRP_Dialog::getAniSelectionFromZob(data->doc->index(), picked) == -1)
+        return;
+    if (isRow(data->table->currentRow()))
+        takeGroups(data->table->currentRow(), picked);
+}
+
+void DesignParameter::slot_onReopenGroupsSecondary() {}
