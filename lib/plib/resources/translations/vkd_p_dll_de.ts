@@ -323,6 +323,26 @@ Daten können verloren gehen!</translation>
         <source>No Entries in database!</source>
         <translation>Keine Einträge in der Datenbank!</translation>
     </message>
+    <message>
+        <source>Plots and loadcases</source>
+        <translation>Grafiken und Lastfälle</translation>
+    </message>
+    <message>
+        <source>Expand plots</source>
+        <translation>Grafiken aufklappen</translation>
+    </message>
+    <message>
+        <source>Expand loadcases</source>
+        <translation>Lastfälle aufklappen</translation>
+    </message>
+    <message>
+        <source>Close loadcases</source>
+        <translation>Lastfälle zuklappen</translation>
+    </message>
+    <message>
+        <source>Close all entries</source>
+        <translation>Alle Einträge zuklappen</translation>
+    </message>
 </context>
 <context>
     <name>VKD_P_WidgetGraphicalOutput</name>

@@ -1,0 +1,212 @@
+#include "GraphicalOutputTreeWidget.h"
+
+#include "Catalogue.h"
+#include "GraphicalOutputTreeWidgetItem.h"
+#include "outputTreeIcons.h"
+#include "scriptLines.h"
+#include "selectionText.h"
+#include "TreeBuilder.h"
+#include "ZobModelQueries.h"
+
+#include <vkd_lib_value.h>
+#include <VKD_QT_MessageBox.h>
+#include <VKD_QT_SignalBlocker.h>
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+namespace {
+using Item = GraphicalOutputTreeWidgetItem;
+
+constexpr int PlotLevel = 2;
+
+/// What the builder needs of items. Rows are copies of one, because a copy shares icon and check
+/// state with it: that is most of what a row costs.
+class ItemOperations
+{
+public:
+    explicit ItemOperations(bool english)
+        : m_plotIcon(plib::plotIcon())
+    {
+        m_blank.setCheckState(0, Qt::Unchecked);
+        m_blankRow.setIcon(0, plib::rowIcon(english));
+        m_blankRow.setCheckState(0, Qt::Unchecked);
+    }
+
+    Item* create(Item* parent, const QString& text)
+    {
+        Item* item = new Item(parent->level == PlotLevel ? m_blankRow : m_blank);
+        item->setText(0, text);
+        parent->addChild(item);
+        return item;
+    }
+    void remove(Item* item) { delete item; }
+    void plotIcon(Item* item) { item->setIcon(0, m_plotIcon); }
+    void rowIcon(Item*) {} // since create()
+    void expand(Item*) {}  // later: nothing is shown as yet
+
+private:
+    const QIcon m_plotIcon;
+    Item m_blank;
+    Item m_blankRow;
+};
+
+QString dumpLine(Item* item, int indent)
+{
+    const plib::GraphicalOutputRecord& record = item->record;
+    return QStringLiteral("%1 item %2 (%6) ids %3 %4 %5   isLC %7 ctrl %8")
+        .arg(QString(indent, QLatin1Char(' ')), item->text(0), record.id1, record.id2, record.id3,
+             plib::itemId(record, item->level), QString::number(item->isLC),
+             QString::number(record.ctrl));
+}
+} // namespace
+
+GraphicalOutputTreeWidget::GraphicalOutputTreeWidget(QWidget* parent, int kind,
+                                                     VKD_H_PluginParameter* pluginParameter,
+                                                     const char* name)
+    : VKD_QT_TreeWidget(parent, name)
+    , progname(kind)
+    , parameter(pluginParameter)
+{
+    setAutomaticCheckStateUpdate(true);
+    setHeaderHidden(true);
+    setAccessibleName(tr("Plots and loadcases"));
+    const auto showError = [this](const QString& title, const QString& text) {
+        VKD_QT_MessageBox::warning(this, title, text);
+    };
+    const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    if (!plib::loadCatalogue(plib::sharedCatalogue(), language, showError))
+        return;
+    refill(true);
+    popup.build(this, false);
+}
+
+GraphicalOutputTreeWidget::~GraphicalOutputTreeWidget() = default;
+
+void GraphicalOutputTreeWidget::rebuild(bool defaults)
+{
+    const bool hasCatalogue = popup.isBuilt();
+    if (hasCatalogue)
+        refill(defaults);
+}
+
+void GraphicalOutputTreeWidget::additionalData(const QString& tag, bool add)
+{
+    if (add)
+        additional.push_back(tag);
+    else
+        additional.remove(QString(tag)); // a copy: the tag may be one of those in the list
+    rebuild(false);
+}
+
+void GraphicalOutputTreeWidget::setUsedNumbersAndNames(const Rows& newRows)
+{
+    if (newRows == rows)
+        return;
+    rows = newRows;
+    rebuild(true);
+}
+
+int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, bool english) const
+{
+    const plib::ZobModelQueries model(parameter);
+    return plib::collectScriptLines(invisibleRootItem(), lines, english, progname,
+                                    [&model] { return model.kindOfSystem(); });
+}
+
+QString GraphicalOutputTreeWidget::selectionText() const
+{
+    return plib::selectionText(invisibleRootItem());
+}
+
+void GraphicalOutputTreeWidget::applySelection(const QString& text)
+{
+    const QScopedValueRollback<bool> busy(rebuilding, true);
+    selectionLoaded = true;
+    setChoice(text);
+    Q_EMIT checkStatesChanged();
+}
+
+void GraphicalOutputTreeWidget::expandPlots()
+{
+    scheduleDelayedItemsLayout(); // before, or each step would lay out the tree
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        const QModelIndex top = model()->index(i, 0);
+        expand(top);
+        for (int j = 0; j < model()->rowCount(top); ++j)
+            expand(model()->index(j, 0, top));
+    }
+}
+
+void GraphicalOutputTreeWidget::closeLoads()
+{
+    QTreeWidgetItem* current = currentItem();
+    if (current && outputItem(current) && outputItem(current)->level > PlotLevel)
+        // Else the arrow keys would begin at the first row.
+        setCurrentItem(current->parent(), currentColumn(), QItemSelectionModel::NoUpdate);
+    scheduleDelayedItemsLayout();
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        const QModelIndex top = model()->index(i, 0);
+        for (int j = 0; j < model()->rowCount(top); ++j) {
+            const QModelIndex second = model()->index(j, 0, top);
+            for (int plot = 0; plot < model()->rowCount(second); ++plot)
+                collapse(model()->index(plot, 0, second));
+        }
+    }
+}
+
+void GraphicalOutputTreeWidget::dump() const
+{
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        dump(topLevelItem(i), 0);
+}
+
+void GraphicalOutputTreeWidget::dump(QTreeWidgetItem* item, int indent) const
+{
+    Item* output = outputItem(item);
+    if (!output)
+        return;
+    dumpLine(output, indent);
+    const int count = output->level == PlotLevel ? qMin(1, item->childCount()) : item->childCount();
+    for (int i = 0; i < count; ++i)
+        dump(item->child(i), indent + 1);
+}
+
+void GraphicalOutputTreeWidget::refill(bool defaults)
+{
+    const QScopedValueRollback<bool> busy(rebuilding, true);
+    const bool keepsChoice = selectionLoaded && !defaults;
+    const QString choice = keepsChoice ? selectionText() : QString();
+    clear();
+    fillTree();
+    if (topLevelItemCount() == 0)
+        addTopLevelItem(new QTreeWidgetItem({tr("No Entries in database!")}));
+    else if (keepsChoice)
+        setChoice(choice);
+    Q_EMIT checkStatesChanged();
+}
+
+/// Items are complete before the tree gets them, and it gets all of them at once: so it has one
+/// change to follow, whatever their number.
+void GraphicalOutputTreeWidget::fillTree()
+{
+    const plib::ZobModelQueries model(parameter);
+    ItemOperations operations(vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
+    Item root;
+    root.level = -1;
+    plib::TreeBuilder<Item, ItemOperations> builder(&root, rows, operations);
+    for (const plib::GraphicalOutputRecord& record : plib::sharedCatalogue().list)
+        if (plib::isRecordOffered(record, progname, model, additional))
+            builder.add(record);
+    builder.finish();
+    addTopLevelItems(root.takeChildren());
+    expandPlots(); // only items of a tree can be expanded
+}
+
+/// All states are settled once, at the end; the automatic update would do so for each of them.
+void GraphicalOutputTreeWidget::setChoice(const QString& text)
+{
+    const VKD_QT_SignalBlocker silence(model());
+    plib::applySelection(invisibleRootItem(), text);
+    viewport()->update();
+}

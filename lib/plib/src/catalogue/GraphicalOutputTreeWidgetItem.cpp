@@ -1,0 +1,8 @@
+#include "GraphicalOutputTreeWidgetItem.h"
+
+GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem()
+    : QTreeWidgetItem(OutputType)
+{
+}
+
+GraphicalOutputTreeWidgetItem::~GraphicalOutputTreeWidgetItem() = default;

@@ -1,0 +1,63 @@
+#include "PopupHandler.h"
+
+#include "GraphicalOutputTreeWidget.h"
+#include "outputTreeIcons.h"
+
+#include <vkd_lib_value.h>
+#include <VKD_QT_Action.h>
+#include <VKD_QT_Menu.h>
+
+namespace {
+VKD_QT_Action* addAction(VKD_QT_Menu* menu, const QIcon& icon, const QString& text,
+                         const char* name)
+{
+    auto action = new VKD_QT_Action(icon, text, QKeySequence(), menu, name);
+    menu->addAction(action);
+    return action;
+}
+} // namespace
+
+PopupHandler::~PopupHandler()
+{
+    delete menu;
+}
+
+/// The texts belong to the tree, which is what the user sees.
+void PopupHandler::build(GraphicalOutputTreeWidget* owner, bool hasCloseAll)
+{
+    const QIcon rowIcon = plib::rowIcon(vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
+    tree = owner;
+    menu = new VKD_QT_Menu(nullptr, nullptr);
+    tree->addExpandAll(menu);
+    tree->addCollapseAll(menu);
+    expandPlots = addAction(menu, plib::plotIcon(), GraphicalOutputTreeWidget::tr("Expand plots"),
+                            "actExpandPlots");
+    menu->addSeparator();
+    expandLoads = addAction(menu, rowIcon, GraphicalOutputTreeWidget::tr("Expand loadcases"),
+                            "actExpandLoads");
+    menu->addSeparator();
+    closeLoads =
+        addAction(menu, rowIcon, GraphicalOutputTreeWidget::tr("Close loadcases"), "actCloseLoads");
+    if (hasCloseAll) {
+        menu->addSeparator();
+        closeAll = addAction(menu, plib::closeIcon(),
+                             GraphicalOutputTreeWidget::tr("Close all entries"), "actCloseAll");
+    }
+    connectTree();
+}
+
+void PopupHandler::connectTree()
+{
+    tree->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(tree, &QWidget::customContextMenuRequested, this, &PopupHandler::ShowContextMenu);
+    connect(expandPlots, &QAction::triggered, tree, &GraphicalOutputTreeWidget::expandPlots);
+    connect(expandLoads, &QAction::triggered, tree, &QTreeView::expandAll);
+    connect(closeLoads, &QAction::triggered, tree, &GraphicalOutputTreeWidget::closeLoads);
+    if (closeAll)
+        connect(closeAll, &QAction::triggered, tree, &QTreeView::collapseAll);
+}
+
+void PopupHandler::ShowContextMenu(const QPoint& pos)
+{
+    menu->exec(tree->mapToGlobal(pos), nullptr);
+}
