@@ -1,8 +1,7 @@
 #include "GraphicalOutputTreeWidgetItem.h"
 
 GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem()
-    : QTreeWidgetItem(OutputType)
-{
+   {
 }
 
 GraphicalOutputTreeWidgetItem::~GraphicalOutputTreeWidgetItem() = default;

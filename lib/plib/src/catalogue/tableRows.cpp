@@ -1,0 +1,33 @@
+#include "tableRows.h"
+
+#include "rowLabel.h"
+
+#include <limits>
+#include <map>
+
+namespace plib {
+
+namespace {
+/// Also false for a NaN.
+bool fitsInteger(double value)
+{
+    return value > double(std::numeric_limits<int>::min()) - 1 &&
+           value < double(std::numeric_limits<int>::max()) + 1;
+}
+} // namespace
+
+std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
+rowsOfTable(const std::vector<TableLoadCase>& loadCases)
+{
+    constexpr int PlainLoadCase = 1;
+    std::map<int, QString> labels;
+    for (const TableLoadCase& loadCase : loadCases)
+        if (fitsInteger(loadCase.number))
+            labels[int(loadCase.number)] = rowLabel(loadCase.number, loadCase.title);
+    std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> rows;
+    for (const auto& label : labels)
+        rows.push_back({PlainLoadCase, label.first, label.second});
+    return rows;
+}
+
+} // namespace plib

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <VKD_P_WidgetGraphicalOutput_Progname.h>
+
+#include <AnimatorView.h>
+
+#include <QPointer>
+
+class GraphicalOutputTreeWidget;
+class QPushButton;
+class QWidget;
+class VKD_H_BoxedLineEdit;
+class VKD_H_Dialog;
+class VKD_H_PluginParameter;
+class VKD_H_TabDialog;
+class VKD_QT4_ComboBox;
+class VKD_QT_CheckBox;
+class VKD_QT_GroupBox;
+class VKD_QT_RadioButtonGroup;
+
+/// The parts of a graphical output page. The widgets belong to their parents; those that a kind of
+/// page does not have are null.
+struct WidgetGraphicalOutputData
+{
+    VKD_H_PluginParameter* pluginParameter = nullptr;
+    VKD_QT_RadioButtonGroup* scaleGroup = nullptr;
+    VKD_QT_RadioButtonGroup* picturesGroup = nullptr;
+    VKD_QT_RadioButtonGroup* formatGroup = nullptr;
+    VKD_QT_GroupBox* pageSplitBox = nullptr;
+    VKD_QT4_ComboBox* pageSplitCombo = nullptr;
+    VKD_QT_RadioButtonGroup* viewGroup = nullptr;
+    VKD_H_BoxedLineEdit* fontEdit = nullptr;
+    GraphicalOutputTreeWidget* tree = nullptr;
+    VKD_QT_CheckBox* fillCheck = nullptr;
+    VKD_QT4_ComboBox* scaleCombo = nullptr;
+    QPushButton* defaultButton = nullptr;
+    QPointer<AnimatorView> animator;
+    QWidget* attribs = nullptr;
+    bool firstShow = true;
+    bool reservedA = true; ///< read by nothing, and so the next one
+    bool reservedB = false;
+    VKD_H_TabDialog* tabDialog = nullptr;
+    VKD_H_Dialog* dialog = nullptr;
+    VKD_P_WidgetGraphicalOutput_Progname progname = VKD_P_GraphicalOutput_Standard;
+    QPointer<QWidget> animatorHome; ///< the animator's parent before it came onto the page
+};

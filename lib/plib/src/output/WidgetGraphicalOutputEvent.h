@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QEvent>
+
+/// Posted by a page to itself when its tab is first shown, so that the view command runs when the
+/// dialog stands.
+class WidgetGraphicalOutputEvent : public QEvent
+{
+public:
+    static constexpr int FirstShow = 1046;
+
+    WidgetGraphicalOutputEvent()
+        : QEvent(QEvent::User)
+    {
+    }
+    ~WidgetGraphicalOutputEvent() override;
+
+    int identifier() const { return m_identifier; }
+
+private:
+    qint32 m_identifier = FirstShow;
+};

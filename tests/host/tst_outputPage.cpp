@@ -1,0 +1,528 @@
+#include "HostProject.h"
+#include "WidgetTestSupport.h"
+
+#include <AnimatorView.h>
+#include <vkd_dbo_camera.h>
+#include <VKD_H_PluginParameter.h>
+#include <VKD_H_TableWidget.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
+#include <vkd_lib_value.h>
+#include <VKD_P_WidgetGraphicalOutput>
+#include <VKD_P_WidgetGraphicalOutput_AdditionalData>
+#include <VKD_P_WidgetGraphicalOutput_TableWidgetData>
+#include <VKD_QT_InitTranslator.h>
+#include <VKD_QT_RadioButtonGroup.h>
+#include <VKD_QT_TabDialog.h>
+#include <VKD_QT_TreeWidget.h>
+#include <vkd_qt_xmlpart.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
+
+namespace {
+const Rows LoadCases{{1, 1, QStringLiteral("1 : Dead load")},
+                     {1, 2, QStringLiteral("2 : Snow")},
+                     {2, 11, QStringLiteral("11 : Design")}};
+
+/// A page with some load cases, and ways to its widgets.
+class Desk
+{
+public:
+    explicit Desk(HostProject& project,
+                  VKD_P_WidgetGraphicalOutput_Progname kind = VKD_P_GraphicalOutput_Standard,
+                  AnimatorView* animator = nullptr, QWidget* parent = nullptr)
+        : parameter(project.doc())
+        , page(parent, kind, &parameter, animator)
+    {
+        page.setUsedNumbersAndNames(LoadCases);
+        page.show();
+    }
+
+    template <class Widget>
+    Widget* find(const char* name)
+    {
+        auto found = page.findChild<Widget*>(QLatin1String(name));
+        if (!found)
+            qFatal("no %s", name);
+        return found;
+    }
+    VKD_QT_TreeWidget* tree() { return find<VKD_QT_TreeWidget>("m_list"); }
+    VKD_QT_RadioButtonGroup* group(const char* name) { return find<VKD_QT_RadioButtonGroup>(name); }
+    void choose(const char* name, int entry) { group(name)->getRadioButton(entry)->click(); }
+    /// The first plot with load cases below it.
+    QTreeWidgetItem* plotWithRows()
+    {
+        for (QTreeWidgetItemIterator item(tree()); *item; ++item)
+            if ((*item)->childCount() == 2 && (*item)->child(0)->text(0) == LoadCases[0].name)
+                return *item;
+        return nullptr;
+    }
+
+    VKD_H_PluginParameter parameter;
+    VKD_P_WidgetGraphicalOutput page;
+};
+
+QString part(const char* tag, const char* value)
+{
+    return vkd_qt_writeXMLpart(QLatin1String(value), QLatin1String(tag));
+}
+
+/// What differs between two scripts, line by line: those that went and those that came.
+QString difference(const QString& before, const QString& after)
+{
+    QStringList gone = before.split(QLatin1Char('\n'));
+    QStringList come = after.split(QLatin1Char('\n'));
+    for (auto line = gone.begin(); line != gone.end();)
+        line = come.removeOne(*line) ? gone.erase(line) : line + 1;
+    gone.removeDuplicates();
+    come.removeDuplicates();
+    return gone.join(QLatin1Char('|')) + QLatin1String(" -> ") + come.join(QLatin1Char('|'));
+}
+
+QString commands(QSignalSpy& spy)
+{
+    QStringList numbers;
+    for (const QList<QVariant>& arguments : spy)
+        numbers << QString::number(arguments.first().value<AnimatorViewControl>());
+    spy.clear();
+    return numbers.join(QLatin1Char(' '));
+}
+} // namespace
+
+Q_DECLARE_METATYPE(std::function<void(Desk&)>)
+
+class tst_outputPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void eachControlInTheScript_data();
+    void eachControlInTheScript();
+    void aNewPage();
+    void defaultsComeBack();
+    void keptAndRestored_data();
+    void keptAndRestored();
+    void stringsOfOtherPages_data();
+    void stringsOfOtherPages();
+    void theSplitPage();
+    void loadCasesOfABoundTable();
+    void numbersOfABoundTable_data();
+    void numbersOfABoundTable();
+    void switchOfAContentTag();
+    void viewsAndTheAnimator();
+    void firstShow();
+};
+
+void tst_outputPage::initTestCase()
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1);
+    VKD_QT_InitTranslator::languageChanged();
+    qRegisterMetaType<AnimatorViewControl>();
+}
+
+void tst_outputPage::eachControlInTheScript_data()
+{
+    QTest::addColumn<std::function<void(Desk&)>>("change");
+    QTest::addColumn<QString>("english");
+    QTest::addColumn<QString>("german");
+    const auto row = [](const char* name, std::function<void(Desk&)> change, const char* english,
+                        const char* german) {
+        QTest::newRow(name) << std::move(change) << QString::fromLatin1(english)
+                            << QString::fromLatin1(german);
+    };
+    row(
+        "engineering scale, automatic", [](Desk& desk) { desk.choose("ScaleGroup", 0); },
+        "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC - SPLI  2x1 MARG NO FORM STAN",
+        "SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M - TEIL  2x1 RAND NEIN FORM "
+        "STAN");
+    row(
+        "a scale of the list",
+        [](Desk& desk) {
+            desk.choose("ScaleGroup", 0);
+            desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:50"));
+        },
+        "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO "
+        "FORM STAN",
+        "SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 50*1.e+10 TEIL  2x1 RAND NEIN "
+        "FORM STAN");
+    row(
+        "one picture", [](Desk& desk) { desk.choose("PicturesGroup", 0); },
+        "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 0 MARG NO FORM "
+        "STAN",
+        "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 0 RAND NEIN "
+        "FORM STAN");
+    row(
+        "landscape", [](Desk& desk) { desk.choose("FormatGroup", 1); },
+        "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE URS SC 0 MARG NO FORM "
+        "STAN",
+        "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE URS M 0 RAND NEIN FORM "
+        "STAN");
+    row(
+        "font",
+        [](Desk& desk) {
+            auto edit = desk.find<QLineEdit>("m_boxedEdit_edit");
+            edit->selectAll();
+            QTest::keyClicks(edit, QStringLiteral("3.5"));
+        },
+        "#define SCHR=0.2|SCHH H6 0.2 -> #define SCHR=0.35|SCHH H6 0.35",
+        "#define SCHR=0.2|SCHR H6 0.2 -> #define SCHR=0.35|SCHR H6 0.35");
+    row(
+        "filled areas", [](Desk& desk) { desk.find<QCheckBox>("Check: Filled Isolines")->click(); },
+        "#define FILL=-|#define FILLI=-|#define FILLC=-|#define SCHRI=-|#define SCHRC=- -> #define "
+        "FILL=VERT|#define FILLI=AREA|#define FILLC=VERT|#define SCHRI=NO|#define SCHRC=NO",
+        "#define FILL=-|#define FILLI=-|#define FILLC=-|#define SCHRI=-|#define SCHRC=- -> #define "
+        "FILL=SENK|#define FILLI=FLAE|#define FILLC=SENK|#define SCHRI=NEIN|#define SCHRC=NEIN");
+    row(
+        "view", [](Desk& desk) { desk.choose("PerspectiveGroup", 1); },
+        "VIEW EG3 -> VIEW TYPE EGXZ ; PERS INFI", "BEOB EG3 -> BEOB TYP EGXZ ; PERS INFI");
+}
+
+void tst_outputPage::eachControlInTheScript()
+{
+    QFETCH(std::function<void(Desk&)>, change);
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project);
+    desk.page.slotDefaultSettings();
+
+    const QString before[] = {desk.page.getTORVAL(false), desk.page.getTORVAL(true)};
+    change(desk);
+    QTEST(difference(before[1], desk.page.getTORVAL(true)), "english");
+    QTEST(difference(before[0], desk.page.getTORVAL(false)), "german");
+}
+
+void tst_outputPage::aNewPage()
+{
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project);
+    QCOMPARE(desk.page.objectName(), QStringLiteral("Widget_GraphOut"));
+    QVERIFY(desk.page.checkVals());
+    QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), -1); // none without an animator
+    QVERIFY(desk.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
+    QCOMPARE(desk.page.getTORVAL_SIZE(true),
+             QStringLiteral("SIZ2 SPLI PICT\nSIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"));
+    QCOMPARE(desk.page.getTORVAL_SCHR(false), QStringLiteral("SCHR H6 0.2"));
+    std::vector<QString> lines{QStringLiteral("old")};
+    desk.page.getTORVAL_LFs(lines, true);
+    QVERIFY(lines.size() > 1 && lines[0] != QLatin1String("old"));
+    std::vector<QString> scripts{QStringLiteral("first")};
+    QCOMPARE(desk.page.getTORVAL(scripts, true), 1);
+    QCOMPARE(scripts.size(), std::size_t(2));
+    for (int i = 0; i < desk.tree()->topLevelItemCount(); ++i)
+        desk.tree()->topLevelItem(i)->setCheckState(0, Qt::Unchecked);
+    QCOMPARE(desk.page.getTORVAL(QStringLiteral("more"), true), QString());
+    desk.page.readXMLstring(part("List_4", "\nChecked:@SYS   $G00   ^G01\n"));
+    QVERIFY(
+        desk.page.getTORVAL(QStringLiteral("more"), true).contains(QLatin1String("\nmore\nEND")));
+
+    HostProject bare{QString()};
+    Desk empty(bare);
+    QVERIFY(!empty.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
+}
+
+void tst_outputPage::defaultsComeBack()
+{
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project);
+    desk.page.slotDefaultSettings();
+    const QString fresh = desk.page.writeXMLstring();
+    desk.choose("ScaleGroup", 0);
+    desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:100"));
+    desk.choose("FormatGroup", 1);
+    QVERIFY(!desk.group("PicturesGroup")->isEnabled());
+    QCOMPARE(desk.group("PicturesGroup")->selectedButton(), 0);
+    desk.choose("PerspectiveGroup", 0);
+    desk.find<QCheckBox>("Check: Filled Isolines")->click();
+    desk.find<QLineEdit>("m_boxedEdit_edit")->setText(QStringLiteral("7"));
+    desk.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    QVERIFY(desk.page.writeXMLstring() != fresh);
+    desk.find<QPushButton>("Button: Default settings")->click();
+    QCOMPARE(desk.page.writeXMLstring(), fresh);
+    QVERIFY(desk.group("PicturesGroup")->isEnabled());
+    QCOMPARE(desk.find<QComboBox>("box_scale")->currentText(), QStringLiteral("1:100"));
+}
+
+void tst_outputPage::keptAndRestored_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("model");
+    for (int kind : {1, 122, 222})
+        for (const char* model : {"building", "slab", "hall"})
+            QTest::addRow("%d on %s", kind, model) << kind << QString::fromLatin1(model);
+}
+
+void tst_outputPage::keptAndRestored()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, model);
+    HostProject project(model);
+    const auto progname = VKD_P_WidgetGraphicalOutput_Progname(kind);
+    Desk desk(project, progname);
+    desk.choose("ScaleGroup", 0);
+    desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:25"));
+    desk.page.readXMLstring(part("Font", "2,5"));
+    if (kind == 122) {
+        desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(4);
+    } else {
+        desk.choose("FormatGroup", 1);
+        desk.choose("PerspectiveGroup", 2);
+        desk.find<QCheckBox>("Check: Filled Isolines")->click();
+    }
+    if (QTreeWidgetItem* plot = desk.plotWithRows()) {
+        plot->setCheckState(0, Qt::Unchecked);
+        plot->child(1)->setCheckState(0, Qt::Checked);
+    }
+    const QString kept = desk.page.writeXMLstring();
+    const QString script = desk.page.getTORVAL(QStringLiteral("more\n"), false);
+    QVERIFY(kept.contains(QLatin1String("2,5")));
+    Desk again(project, progname);
+    QVERIFY(again.page.writeXMLstring() != kept);
+    again.page.readXMLstring(kept);
+    QCOMPARE(again.page.writeXMLstring(), kept);
+    QCOMPARE(again.page.getTORVAL(QStringLiteral("more\n"), false), script);
+}
+
+void tst_outputPage::stringsOfOtherPages_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<QString>("state"); // scale entry, its row, format, pictures, view, fill
+    const auto row = [](const char* name, const QString& xml, const char* state) {
+        QTest::newRow(name) << xml << QString::fromLatin1(state);
+    };
+    row("nothing", QString(), "0 1:20 0 1 3 true");
+    row("automatic", part("Scale", "-"), "0 Auto 0 1 3 true");
+    row("a hyphen anywhere", part("Scale", "1:5-"), "0 Auto 0 1 3 true");
+    row("an unknown scale", part("Scale", "1:7"), "1 1:20 0 1 3 true");
+    row("a scale that fits", part("Scale", "0"), "1 1:20 0 1 3 true");
+    row("no fill", part("Fill", "0"), "0 1:20 0 1 3 false");
+    row("a one anywhere", part("Fill", "210"), "0 1:20 0 1 3 true");
+    row("landscape", part("Format", "1"), "0 1:20 1 0 3 true");
+    row("landscape and two pictures", part("Format", "1") + part("Part", "1"), "0 1:20 1 1 3 true");
+    row("no number", part("View", "x"), "0 1:20 0 1 0 true");
+    row("a number without a button", part("View", "9") + part("Format", "7"), "0 1:20 0 1 3 true");
+    row("a newer page", part("Colour", "1") + part("View", "2") + QStringLiteral("<broken"),
+        "0 1:20 0 1 2 true");
+}
+
+void tst_outputPage::stringsOfOtherPages()
+{
+    QFETCH(QString, xml);
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project);
+    desk.page.slotDefaultSettings();
+    desk.page.readXMLstring(part("Scale", "1:20") + part("Fill", "1"));
+    const QString choice =
+        vkd_qt_readXMLpart(desk.page.writeXMLstring(), 0, QStringLiteral("List_4"), nullptr);
+    desk.page.readXMLstring(xml);
+    const QString fill = desk.find<QCheckBox>("Check: Filled Isolines")->isChecked()
+                             ? QStringLiteral("true")
+                             : QStringLiteral("false");
+    QTEST(QStringLiteral("%1 %2 %3 %4 %5 %6")
+              .arg(desk.group("ScaleGroup")->selectedButton())
+              .arg(desk.find<QComboBox>("box_scale")->currentText())
+              .arg(desk.group("FormatGroup")->selectedButton())
+              .arg(desk.group("PicturesGroup")->selectedButton())
+              .arg(desk.group("PerspectiveGroup")->selectedButton())
+              .arg(fill),
+          "state");
+    // Without its part the choice stays.
+    QCOMPARE(vkd_qt_readXMLpart(desk.page.writeXMLstring(), 0, QStringLiteral("List_4"), nullptr),
+             choice);
+}
+
+void tst_outputPage::theSplitPage()
+{
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project, VKD_P_GraphicalOutput_Split);
+    for (const char* name : {"FormatGroup", "PicturesGroup", "PerspectiveGroup"})
+        QVERIFY(!desk.page.findChild<QWidget*>(QLatin1String(name)));
+    desk.page.slotDefaultSettings();
+    desk.choose("ScaleGroup", 0);
+    desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:100"));
+    desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(1);
+    QCOMPARE(desk.page.getTORVAL(false), QStringLiteral("SIZE DINA \"-URS\" M 100 TEIL 2X1|SIZE "
+                                                        "DINA \"-URS\" $(XYZ) TEIL 2X1"));
+    QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("0.2"));
+    QCOMPARE(desk.find<QComboBox>("COMBO_PAGESPLITTING")->count(), 6);
+}
+
+void tst_outputPage::loadCasesOfABoundTable()
+{
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project);
+    VKD_H_TableWidget table(0, 3);
+    const StructLineEdit number = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(-1);
+    const QString text = QStringLiteral("header");
+    table.setHorizontalHeaderItem(
+        0, new VKD_H_TwHeaderLineEditItem(0, number, text, text, true, Qt::AlignRight));
+    table.setHorizontalHeaderItem(
+        1, new VKD_H_TwHeaderCheckBoxItem(1, text, text, true, Qt::AlignCenter));
+    table.setHorizontalHeaderItem(2, new VKD_H_TwHeaderItem(2, text, text, true, Qt::AlignLeft));
+    VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
+    binding.reset(); // not bound yet
+    binding.setWidgets(&desk.page, &table, 0, 1, 2);
+    QSignalSpy rebuilt(desk.tree()->model(), &QAbstractItemModel::modelReset);
+    const auto rows = [&desk] {
+        QStringList texts;
+        for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
+            if ((*item)->parent() && (*item)->parent()->parent())
+                for (int i = 0; i < (*item)->childCount(); ++i)
+                    texts << (*item)->child(i)->text(0);
+        return texts.join(QLatin1Char('|'));
+    };
+    for (int value : {7, 3}) {
+        table.addNewRow(true);
+        dynamic_cast<VKD_H_TwSimpleLineEditItem*>(table.item(table.rowCount() - 1, 0))
+            ->setVal(value);
+    }
+    QCOMPARE(rows(), QString()); // no box is checked
+    for (int row : {0, 1})
+        dynamic_cast<VKD_H_TwSimpleCheckBoxItem*>(table.item(row, 1))->setChecked(true);
+    QCOMPARE(rows(), QStringLiteral("3 |7 "));
+    table.item(0, 2)->setText(QStringLiteral("Wind"));
+    QCOMPARE(rows(), QStringLiteral("3 |7 : Wind"));
+    rebuilt.clear();
+    desk.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    table.item(0, 2)->setToolTip(text);
+    binding.reset();
+    QCOMPARE(rebuilt.size(), 0);
+    QCOMPARE(desk.tree()->topLevelItem(0)->checkState(0), Qt::Unchecked);
+    table.removeRow(0);
+    QCOMPARE(rows(), QStringLiteral("3 "));
+}
+
+void tst_outputPage::numbersOfABoundTable_data()
+{
+    QTest::addColumn<QVector<double>>("numbers");
+    QTest::addColumn<QString>("lines"); // of the first plot that binds to load cases
+    QTest::newRow("cut towards zero, the later counts")
+        << QVector<double>{3.2, 3.9} << QStringLiteral("3.9 ");
+    QTest::newRow("out of any range") << QVector<double>{3e9, -3e9, 5} << QStringLiteral("5 ");
+    QTest::newRow("in six digits") << QVector<double>{123456789} << QStringLiteral("1.23457e+08 ");
+    QTest::newRow("below zero") << QVector<double>{-0.5, -1.5} << QStringLiteral("-1.5 |-0.5 ");
+}
+
+void tst_outputPage::numbersOfABoundTable()
+{
+    QFETCH(QVector<double>, numbers);
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project);
+    VKD_H_TableWidget table(0, 1);
+    for (double number : numbers) {
+        table.addNewRow(false);
+        auto item =
+            new VKD_H_TwSimpleLineEditItem(VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(-1));
+        item->setVal(number);
+        table.setItem(table.rowCount() - 1, 0, item);
+    }
+    VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
+    binding.setWidgets(&desk.page, &table, 0, -1, -1);
+    binding.reset();
+    QStringList texts;
+    for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
+        if ((*item)->parent() && (*item)->parent()->parent())
+            for (int i = 0; i < (*item)->childCount(); ++i)
+                texts << (*item)->child(i)->text(0);
+    QTEST(texts.join(QLatin1Char('|')), "lines");
+}
+
+void tst_outputPage::switchOfAContentTag()
+{
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project);
+    StructRadioButtonGrup entry;
+    entry.text = QStringLiteral("choice");
+    VKD_QT_RadioButtonGroup group(entry.text, {entry, entry}, nullptr, "group");
+    VKD_P_WidgetGraphicalOutput_AdditionalData binding;
+    binding.setWidget(&desk.page, &group, QStringLiteral("Bric"), 1);
+    const auto plots = [&desk] {
+        int count = 0;
+        for (QTreeWidgetItemIterator item(desk.tree()); *item; ++item)
+            ++count;
+        return count;
+    };
+    const int before = plots();
+    group.getRadioButton(1)->click();
+    QVERIFY(plots() > before); // the slab has no solid elements
+    binding.clicked(1);        // once more
+    group.getRadioButton(0)->click();
+    QCOMPARE(plots(), before);
+}
+
+void tst_outputPage::viewsAndTheAnimator()
+{
+    HostProject project(QStringLiteral("slab"));
+    QWidget home;
+    auto animator = new AnimatorView(project.doc()->index(), &home);
+    {
+        Desk desk(project, VKD_P_GraphicalOutput_Standard, animator);
+        QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
+        QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), 3);
+        QCOMPARE(commands(sent), QString());
+        QVERIFY(animator->isEnabled());
+        const struct
+        {
+            int view;
+            const char* sent;
+            bool enabled;
+        } steps[] = {{4, "7", true},  {0, "6 3", false}, {1, "4", false},
+                     {2, "5", false}, {4, "7", true},    {3, "6 0", false}};
+        for (const auto& step : steps) {
+            desk.choose("PerspectiveGroup", step.view);
+            QStringList ordered = commands(sent).split(QLatin1Char(' '));
+            ordered.sort();
+            QStringList expected = QString::fromLatin1(step.sent).split(QLatin1Char(' '));
+            expected.sort(); // which of two buttons changes first is Qt's matter
+            QCOMPARE(ordered, expected);
+            QCOMPARE(animator->isEnabled(), step.enabled);
+        }
+        // The user's camera goes with the page's string.
+        desk.choose("PerspectiveGroup", 4);
+        QTest::keyClick(animator, Qt::Key_Left);
+        const QString kept = desk.page.writeXMLstring();
+        const QString camera = vkd::dbo::getAnimatorPerspektive(0, 1);
+        QVERIFY(desk.page.getTORVAL_BEOB(true) == QLatin1String("TYPE STAN ") + camera);
+        vkd::dbo::setCamera(0, vkd::dbo::Camera());
+        commands(sent);
+        desk.page.readXMLstring(kept);
+        QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
+        QCOMPARE(commands(sent), QStringLiteral("7"));
+        desk.page.readXMLstring(part("Scale", "0")); // without a camera
+        QCOMPARE(commands(sent), QStringLiteral("7"));
+        QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
+    }
+    QCOMPARE(animator->parentWidget(), &home); // and not gone with the page
+}
+
+void tst_outputPage::firstShow()
+{
+    HostProject project(QStringLiteral("slab"));
+    AnimatorView animator(project.doc()->index());
+    VKD_QT_TabDialog dialog;
+    auto other = new QWidget;
+    auto container = new QWidget;
+    dialog.addTab(other, QStringLiteral("other"));
+    dialog.addTab(container, QStringLiteral("plots"));
+    Desk desk(project, VKD_P_GraphicalOutput_Standard, &animator, container);
+    QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
+    Q_EMIT dialog.currentChanged(other);
+    QCoreApplication::processEvents();
+    QCOMPARE(sent.size(), 0);
+    for (int times = 0; times < 2; ++times) {
+        Q_EMIT dialog.currentChanged(container);
+        QCOMPARE(sent.size(), times); // posted, and once only
+        QCoreApplication::processEvents();
+        QCOMPARE(sent.size(), 1);
+    }
+    QCOMPARE(commands(sent), QStringLiteral("0"));
+    QVERIFY(!animator.isEnabled());
+}
+
+PLIB_WIDGET_TEST_MAIN(tst_outputPage)
+#include "tst_outputPage.moc"
