@@ -1,6 +1,7 @@
 #include "takeSnapshots.h"
 
 #include "designSnapshots.h"
+#include "outputSnapshots.h"
 #include "SnapshotAlbum.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -23,6 +24,7 @@ QStringList takeSnapshots(const QString& project, const QString& folder)
         throw std::runtime_error(project.toStdString() + " is no project");
     SnapshotAlbum album(folder);
     addDesignSnapshots(album, document.get());
+    addOutputSnapshots(album, document.get());
     return album.files();
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+class VKD_H_ZOBDoc;
+
+namespace workbench {
+
+class SnapshotAlbum;
+
+/// The output page in its kinds, with and without a preview of the model.
+void addOutputSnapshots(SnapshotAlbum& album, VKD_H_ZOBDoc* document);
+
+} // namespace workbench
