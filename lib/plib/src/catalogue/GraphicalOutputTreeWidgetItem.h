@@ -11,7 +11,8 @@ class GraphicalOutputTreeWidgetItem : public QTreeWidgetItem
 public:
     GraphicalOutputTreeWidgetItem();
     /// A copy of the item alone, without its place in a tree and without children.
-    GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem& other) = default;
+    GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem& other);
+    GraphicalOutputTreeWidgetItem& operator=(const GraphicalOutputTreeWidgetItem&) = delete;
     ~GraphicalOutputTreeWidgetItem() override;
 
     plib::GraphicalOutputRecord record; ///< of the first record that came by, or that of the plot

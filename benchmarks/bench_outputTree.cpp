@@ -1,0 +1,212 @@
+// The output tree with a thousand rows under each plot, against Qt's plain tree with the same
+// content and against itself at other sizes.
+
+#include "RatioReporter.h"
+
+#include <GraphicalOutputTreeWidget.h>
+#include <VKD_H_PluginParameter.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_SignalBlocker.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int RowsPerPlot = 1000;
+constexpr int Small = 10000;
+constexpr int Medium = 100000;
+constexpr int Large = 300000;
+
+/// A plot is offered on the pages whose kind is above its number, so that the kind of the page is
+/// its number of plots. Half of the plots come up with all rows checked.
+QByteArray catalogue()
+{
+    QByteArray file;
+    for (int i = 0; i < Large / RowsPerPlot; ++i) {
+        for (int kind : {Small / RowsPerPlot, Medium / RowsPerPlot, Large / RowsPerPlot})
+            file += QByteArray::number(i < kind ? kind : 0) + '|';
+        const QByteArray number = QByteArray::number(100 + i); // identifiers have three characters
+        file += "@TOP Results|@S" + QByteArray::number(10 + i / 10) + " Group " +
+                QByteArray::number(i / 10) + "|@" + number + " Plot " + number + "| |0|last-l|" +
+                QByteArray::number(i % 4) + "|1| |0|AUFL NUMM " + number + "|SUPP NUMB " + number +
+                "\n";
+    }
+    return file;
+}
+
+/// What the trees need around them, for the life of the process.
+class Surroundings
+{
+public:
+    Surroundings()
+    {
+        QFile file(m_folder.filePath(QStringLiteral("graphicaloutput.data")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(catalogue()) < 0)
+            qFatal("cannot write a catalogue");
+        qputenv("VKD_SHARE", QFile::encodeName(m_folder.path()));
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        m_document = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.zob")));
+        parameter = std::make_unique<VKD_H_PluginParameter>(m_document.get());
+        for (int i = 1; i <= RowsPerPlot; ++i)
+            rows.push_back({1, i, QStringLiteral("%1 : Load case %1").arg(i)});
+    }
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<VKD_H_ZOBDoc> m_document;
+
+public:
+    std::unique_ptr<VKD_H_PluginParameter> parameter;
+    GraphicalOutputTreeWidget::Rows rows;
+};
+
+class Tree : public GraphicalOutputTreeWidget
+{
+public:
+    explicit Tree(int count)
+        : GraphicalOutputTreeWidget(nullptr, count / RowsPerPlot, surroundings().parameter.get(),
+                                    "m_list")
+    {
+        setUsedNumbersAndNames(surroundings().rows);
+        show();
+        QApplication::processEvents();
+        top()->child(0)->child(0)->setExpanded(true);
+        if (top()->child(0)->child(0)->childCount() != RowsPerPlot)
+            qFatal("the tree is not as big as it should be");
+    }
+
+    QTreeWidgetItem* top() const { return topLevelItem(0); }
+
+private:
+    static Surroundings& surroundings()
+    {
+        static Surroundings instance;
+        return instance;
+    }
+};
+
+void rebuild(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    for (auto _ : state) {
+        tree.rebuild(true);
+        QApplication::processEvents();
+    }
+}
+
+QTreeWidgetItem* plainCopy(const QTreeWidgetItem* model)
+{
+    auto item = new QTreeWidgetItem;
+    item->setText(0, model->text(0));
+    const QIcon icon = model->icon(0);
+    if (!icon.isNull())
+        item->setIcon(0, icon);
+    item->setCheckState(0, model->checkState(0));
+    for (int i = 0; i < model->childCount(); ++i)
+        item->addChild(plainCopy(model->child(i)));
+    return item;
+}
+
+/// The old items go as well, as they do in a tree that is filled anew.
+void fillBareTree(benchmark::State& state)
+{
+    const Tree model(int(state.range(0)));
+    QTreeWidget tree;
+    tree.setHeaderHidden(true);
+    tree.show();
+    for (auto _ : state) {
+        tree.clear();
+        tree.addTopLevelItem(plainCopy(model.top()));
+        tree.expandToDepth(1);
+        QApplication::processEvents();
+    }
+}
+
+Qt::CheckState other(Qt::CheckState state)
+{
+    return state == Qt::Checked ? Qt::Unchecked : Qt::Checked;
+}
+
+/// The key acts as the click does; what it changes on the screen is painted.
+void clickOnTheCaption(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    tree.setCurrentItem(tree.top());
+    const QTreeWidgetItem* row = tree.top()->child(0)->child(0)->child(1);
+    for (auto _ : state) {
+        const Qt::CheckState expected = other(tree.top()->checkState(0));
+        QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
+        QCoreApplication::sendEvent(&tree, &space);
+        QApplication::processEvents();
+        if (row->checkState(0) != expected)
+            state.SkipWithError("the state was not carried down");
+    }
+}
+
+void setAll(QTreeWidgetItem* item, Qt::CheckState state)
+{
+    item->setCheckState(0, state);
+    for (int i = 0; i < item->childCount(); ++i)
+        setAll(item->child(i), state);
+}
+
+void bareWalk(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    const VKD_QT_SignalBlocker silence(tree.model());
+    for (auto _ : state)
+        setAll(tree.top(), other(tree.top()->checkState(0)));
+}
+
+/// A choice of every second row, from the given one on.
+QString choice(Tree& tree, int first)
+{
+    {
+        const VKD_QT_SignalBlocker silence(tree.model());
+        setAll(tree.top(), Qt::Unchecked);
+        for (int i = 0; i < tree.top()->childCount(); ++i)
+            for (int j = 0; j < tree.top()->child(i)->childCount(); ++j)
+                for (int row = first; row < RowsPerPlot; row += 2)
+                    tree.top()->child(i)->child(j)->child(row)->setCheckState(0, Qt::Checked);
+    }
+    tree.settleCheckStates();
+    return tree.selectionText();
+}
+
+/// Two choices in turn that differ in every row.
+void applySelection(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    const QString choices[] = {choice(tree, 0), choice(tree, 1)};
+    int next = 0;
+    for (auto _ : state) {
+        tree.applySelection(choices[next]);
+        QApplication::processEvents();
+        next = 1 - next;
+    }
+    if (tree.selectionText() != choices[1 - next])
+        state.SkipWithError("the choice was not applied");
+}
+
+BENCHMARK(rebuild)->Arg(Small)->Arg(Medium)->Arg(Large);
+BENCHMARK(fillBareTree)->Arg(Medium);
+BENCHMARK(clickOnTheCaption)->Arg(Medium);
+BENCHMARK(bareWalk)->Arg(Medium);
+BENCHMARK(applySelection)->Arg(Medium);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    return runBenchmarks(argc, argv,
+                         {{"rebuild/100000", "fillBareTree/100000", 1.4},
+                          {"rebuild/300000", "rebuild/10000", 1.4, true},
+                          {"clickOnTheCaption/100000", "bareWalk/100000", 4.0},
+                          {"applySelection/100000", "rebuild/100000", 0.5}});
+}
