@@ -54,8 +54,9 @@ void OutputTree::fill(const Rows& rows)
     plib::OutputNodeOperations operations(&m_root);
     plib::TreeBuilder<plib::OutputNode, plib::OutputNodeOperations> builder(&m_root, rows,
                                                                             operations);
+    const plib::RememberedAnswers model(m_queries);
     for (const plib::GraphicalOutputRecord& record : catalogue.list)
-        if (plib::isRecordOffered(record, m_progname, m_queries, {}))
+        if (plib::isRecordOffered(record, m_progname, model, {}))
             builder.add(record);
     builder.finish();
     if (m_root.childCount() == 0)

@@ -177,10 +177,10 @@ void GraphicalOutputTreeWidget::dump(QTreeWidgetItem* item, int indent) const
 /// A narrow tree can be moved sideways; its texts are not cut.
 void GraphicalOutputTreeWidget::fitToTexts()
 {
-    constexpr int MeasuredRows = 200; // around those in view: measuring takes time
+    constexpr int InView = 0; // measuring the others, too, would take longer than painting
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header()->setResizeContentsPrecision(MeasuredRows);
+    header()->setResizeContentsPrecision(InView);
 }
 
 void GraphicalOutputTreeWidget::refill(bool defaults)
@@ -201,7 +201,8 @@ void GraphicalOutputTreeWidget::refill(bool defaults)
 /// change to follow, whatever their number.
 void GraphicalOutputTreeWidget::fillTree()
 {
-    const plib::ZobModelQueries model(parameter);
+    const plib::ZobModelQueries project(parameter);
+    const plib::RememberedAnswers model(project);
     ItemOperations operations(vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
     Item root;
     root.level = -1;

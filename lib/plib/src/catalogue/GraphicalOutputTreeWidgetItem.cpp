@@ -1,7 +1,8 @@
 #include "GraphicalOutputTreeWidgetItem.h"
 
 GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem()
-   {
+    : QTreeWidgetItem(OutputType)
+{
 }
 
 /// Copied by assignment: the base's copy constructor would make a plain item of it.

@@ -9,6 +9,9 @@
 class GraphicalOutputTreeWidgetItem : public QTreeWidgetItem
 {
 public:
+    /// Tells output items from plain ones.
+    static constexpr int OutputType = UserType + 1;
+
     GraphicalOutputTreeWidgetItem();
     /// A copy of the item alone, without its place in a tree and without children.
     GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem& other);
@@ -21,10 +24,11 @@ public:
     qint32 level = 0;                   ///< 0 and 1 captions, 2 plots, 3 rows
 };
 
-/// The output item that this is, or null for a plain one. By its class and not by type(), which a
-/// copy of an item does not take over. The algorithms on trees find this function by the type of its
-/// argument, so it stands in no namespace.
+/// The output item that this is, or null for a plain one. The algorithms on trees find it by the
+/// type of its argument, so it stands in no namespace.
 inline GraphicalOutputTreeWidgetItem* outputItem(QTreeWidgetItem* item)
 {
-    return dynamic_cast<GraphicalOutputTreeWidgetItem*>(item);
+    return item->type() == GraphicalOutputTreeWidgetItem::OutputType
+               ? static_cast<GraphicalOutputTreeWidgetItem*>(item)
+               : nullptr;
 }

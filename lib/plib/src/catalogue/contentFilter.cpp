@@ -65,4 +65,19 @@ bool isRecordOffered(const GraphicalOutputRecord& record, int progname, const Mo
     return !record.title1.isEmpty() && !record.title2.isEmpty() && !record.title3.isEmpty();
 }
 
+bool RememberedAnswers::has(Content content) const
+{
+    const auto known = m_has.find(content);
+    if (known != m_has.end())
+        return known->second;
+    return m_has.emplace(content, m_model.has(content)).first->second;
+}
+
+int RememberedAnswers::kindOfSystem() const
+{
+    if (!m_kind)
+        m_kind = m_model.kindOfSystem();
+    return *m_kind;
+}
+
 } // namespace plib

@@ -3,6 +3,7 @@
 #include "GraphicalOutputRecord.h"
 
 #include <list>
+#include <map>
 #include <optional>
 
 namespace plib {
@@ -36,6 +37,26 @@ public:
     virtual bool has(Content content) const = 0;
     /// Spatial 0 to 9, plane 10 to 19, slab 20 to 29, axisymmetric 30 to 39.
     virtual int kindOfSystem() const = 0;
+};
+
+/// Asks another model each question once: a catalogue asks the same of it for each of its plots.
+/// For the time of one pass, because a change of the model does not show.
+class RememberedAnswers : public ModelQueries
+{
+public:
+    /// `model` is not owned and outlives the object.
+    explicit RememberedAnswers(const ModelQueries& model)
+        : m_model(model)
+    {
+    }
+
+    bool has(Content content) const override;
+    int kindOfSystem() const override;
+
+private:
+    const ModelQueries& m_model;
+    mutable std::map<Content, bool> m_has;
+    mutable std::optional<int> m_kind;
 };
 
 /// The content that a tag of the catalogue names, in any case; nothing for a tag without condition.

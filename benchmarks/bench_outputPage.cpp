@@ -1,0 +1,92 @@
+// The output page from its constructor to its first picture, against a bare widget with a tree.
+
+#include "RatioReporter.h"
+
+#include <vkd_dbo_model.h>
+#include <VKD_H_PluginParameter.h>
+#include <VKD_H_ZOBDoc.h>
+#include <VKD_P_WidgetGraphicalOutput>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+constexpr QSize Size(900, 640);
+
+/// A project with so much of each sort that about a hundred plots are offered.
+class Project
+{
+public:
+    Project()
+        : doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.zob"))))
+    {
+        vkd::dbo::Model model;
+        model.nodes = {{1, {0, 0, 0}}, {2, {1, 0, 0}}, {3, {1, 1, 0}}};
+        model.groups = {{1, QStringLiteral("slab")}};
+        vkd::dbo::Quad quad;
+        quad.number = quad.group = 1;
+        for (int corner = 0; corner < 3; ++corner)
+            quad.nodes[corner] = corner + 1;
+        model.quads = {quad};
+        vkd::dbo::LineElement beam;
+        beam.number = beam.group = beam.nodes[0] = 1;
+        beam.nodes[1] = 2;
+        model.beams = {beam};
+        vkd::dbo::storeModel(doc->index(), model);
+    }
+
+private:
+    QTemporaryDir m_folder;
+
+public:
+    std::unique_ptr<VKD_H_ZOBDoc> doc;
+};
+
+void showPage(benchmark::State& state)
+{
+    const Project project;
+    VKD_H_PluginParameter parameter(project.doc.get());
+    for (auto _ : state) {
+        VKD_P_WidgetGraphicalOutput page(nullptr, VKD_P_GraphicalOutput_Standard, &parameter,
+                                         nullptr);
+        page.resize(Size);
+        page.show();
+        benchmark::DoNotOptimize(page.grab());
+    }
+}
+
+/// Of rows with check boxes and icons, as the page's tree has them.
+void showBareTree(benchmark::State& state)
+{
+    constexpr int RowCount = 100;
+    QPixmap picture(16, 16);
+    picture.fill(Qt::red);
+    const QIcon icon(picture);
+    for (auto _ : state) {
+        QWidget widget;
+        auto tree = new QTreeWidget;
+        (new QVBoxLayout(&widget))->addWidget(tree);
+        for (int row = 0; row < RowCount; ++row) {
+            auto item = new QTreeWidgetItem({QStringLiteral("Principal stress I")});
+            item->setCheckState(0, Qt::Checked);
+            item->setIcon(0, icon);
+            tree->addTopLevelItem(item);
+        }
+        widget.resize(Size);
+        widget.show();
+        benchmark::DoNotOptimize(widget.grab());
+    }
+}
+
+BENCHMARK(showPage);
+BENCHMARK(showBareTree);
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    return runBenchmarks(argc, argv, {{"showPage", "showBareTree", 2.0}});
+}
