@@ -3,6 +3,7 @@
 #include "Catalogue.h"
 #include "GraphicalOutputTreeWidgetItem.h"
 #include "outputTreeIcons.h"
+#include "RowLooks.h"
 #include "scriptLines.h"
 #include "selectionText.h"
 #include "TreeBuilder.h"
@@ -20,35 +21,55 @@ using Item = GraphicalOutputTreeWidgetItem;
 
 constexpr int PlotLevel = 2;
 
-/// What the builder needs of items. Rows are copies of one, because a copy shares icon and check
-/// state with it: that is most of what a row costs.
+bool isEnglish()
+{
+    return vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0;
+}
+
+/// What the builder needs of the tree. A plot is put into the tree when it has its rows, so that
+/// the tree follows one change for all of them, while they are at hand.
 class ItemOperations
 {
 public:
-    explicit ItemOperations(bool english)
-        : m_plotIcon(plib::plotIcon())
+    ItemOperations(QTreeWidget* tree, Item* root)
+        : m_tree(tree)
+        , m_root(root)
+        , m_plotIcon(plib::plotIcon())
+        , m_looks(isEnglish())
     {
-        m_blank.setCheckState(0, Qt::Unchecked);
-        m_blankRow.setIcon(0, plib::rowIcon(english));
-        m_blankRow.setCheckState(0, Qt::Unchecked);
     }
 
     Item* create(Item* parent, const QString& text)
     {
-        Item* item = new Item(parent->level == PlotLevel ? m_blankRow : m_blank);
-        item->setText(0, text);
-        parent->addChild(item);
+        const bool isRow = parent->level == PlotLevel;
+        Item* item = isRow ? new Item(m_looks.of(text, false)) : new Item(text);
+        if (parent == m_root)
+            m_tree->addTopLevelItem(item);
+        else if (parent->level + 1 == PlotLevel)
+            m_parentOfPlot = parent;
+        else
+            parent->addChild(item);
         return item;
     }
+    void complete(Item* plot) { m_parentOfPlot->addChild(plot); }
     void remove(Item* item) { delete item; }
+    void check(Item* item)
+    {
+        if (item->level > PlotLevel)
+            item->takeLook(m_looks.of(item->text(0), true));
+        else
+            item->setCheckState(0, Qt::Checked);
+    }
     void plotIcon(Item* item) { item->setIcon(0, m_plotIcon); }
-    void rowIcon(Item*) {} // since create()
+    void rowIcon(Item*) {} // part of the look
     void expand(Item*) {}  // later: nothing is shown as yet
 
 private:
+    QTreeWidget* m_tree;
+    Item* m_root;
     const QIcon m_plotIcon;
-    Item m_blank;
-    Item m_blankRow;
+    plib::RowLooks m_looks;
+    Item* m_parentOfPlot = nullptr; // of the plot that is not complete as yet
 };
 
 QString dumpLine(Item* item, int indent)
@@ -197,28 +218,33 @@ void GraphicalOutputTreeWidget::refill(bool defaults)
     Q_EMIT checkStatesChanged();
 }
 
-/// Items are complete before the tree gets them, and it gets all of them at once: so it has one
-/// change to follow, whatever their number.
 void GraphicalOutputTreeWidget::fillTree()
 {
     const plib::ZobModelQueries project(parameter);
     const plib::RememberedAnswers model(project);
-    ItemOperations operations(vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
-    Item root;
+    Item root; // stands for the tree's own, which is no output item
     root.level = -1;
+    ItemOperations operations(this, &root);
     plib::TreeBuilder<Item, ItemOperations> builder(&root, rows, operations);
+    setAutomaticCheckStateUpdate(false);
     for (const plib::GraphicalOutputRecord& record : plib::sharedCatalogue().list)
         if (plib::isRecordOffered(record, progname, model, additional))
             builder.add(record);
     builder.finish();
-    addTopLevelItems(root.takeChildren());
-    expandPlots(); // only items of a tree can be expanded
+    setAutomaticCheckStateUpdate(true);
+    expandPlots();
 }
 
 /// All states are settled once, at the end; the automatic update would do so for each of them.
 void GraphicalOutputTreeWidget::setChoice(const QString& text)
 {
     const VKD_QT_SignalBlocker silence(model());
-    plib::applySelection(invisibleRootItem(), text);
+    plib::RowLooks looks(isEnglish());
+    plib::applySelection(invisibleRootItem(), text, [&looks](Item* item, Qt::CheckState state) {
+        if (item->level > PlotLevel)
+            item->takeLook(looks.of(item->text(0), state == Qt::Checked));
+        else
+            item->setCheckState(0, state);
+    });
     viewport()->update();
 }

@@ -1,8 +1,10 @@
 #include "GraphicalOutputTreeWidgetItem.h"
 
-GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem()
+GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(const QString& text)
     : QTreeWidgetItem(OutputType)
 {
+    setText(0, text);
+    setCheckState(0, Qt::Unchecked);
 }
 
 /// Copied by assignment: the base's copy constructor would make a plain item of it.
@@ -14,7 +16,12 @@ GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(
     , number(other.number)
     , level(other.level)
 {
-    QTreeWidgetItem::operator=(other);
+    takeLook(other);
 }
 
 GraphicalOutputTreeWidgetItem::~GraphicalOutputTreeWidgetItem() = default;
+
+void GraphicalOutputTreeWidgetItem::takeLook(const GraphicalOutputTreeWidgetItem& other)
+{
+    QTreeWidgetItem::operator=(other);
+}

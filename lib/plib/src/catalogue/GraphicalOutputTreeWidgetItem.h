@@ -12,11 +12,15 @@ public:
     /// Tells output items from plain ones.
     static constexpr int OutputType = UserType + 1;
 
-    GraphicalOutputTreeWidgetItem();
+    /// Unchecked, with a text.
+    explicit GraphicalOutputTreeWidgetItem(const QString& text = QString());
     /// A copy of the item alone, without its place in a tree and without children.
     GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem& other);
     GraphicalOutputTreeWidgetItem& operator=(const GraphicalOutputTreeWidgetItem&) = delete;
     ~GraphicalOutputTreeWidgetItem() override;
+
+    /// Takes over text, icon, check state and flags. Its tree, if it is in one, hears nothing.
+    void takeLook(const GraphicalOutputTreeWidgetItem& other);
 
     plib::GraphicalOutputRecord record; ///< of the first record that came by, or that of the plot
     qint32 isLC = -1;                   ///< negative: makes no line of the script by itself

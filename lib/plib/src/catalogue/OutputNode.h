@@ -62,6 +62,8 @@ public:
 
     OutputNode* create(OutputNode* parent, const QString& text) { return parent->addChild(text); }
     void remove(OutputNode* node) { (node->parent() ? node->parent() : m_root)->removeChild(node); }
+    void complete(OutputNode*) {}
+    void check(OutputNode* node) { node->setCheckState(0, Qt::Checked); }
     void plotIcon(OutputNode*) {}
     void rowIcon(OutputNode*) {}
     void expand(OutputNode* node) { node->setExpanded(true); }

@@ -17,9 +17,10 @@ namespace plib {
 ///
 /// `Operations` is what the builder needs of a tree besides the members of a node:
 /// `Node* create(Node* parent, const QString& text)` appends an unchecked output item,
-/// `remove(Node*)` takes one away, `plotIcon(Node*)`, `rowIcon(Node*)` and `expand(Node*)` do what
-/// they say. Captions are found by an index of the builder's own, and check states are settled once
-/// at the end, so that the work is linear in records and rows.
+/// `complete(Node*)` is told of a new plot once it has its rows, `remove(Node*)` takes an item
+/// away, `check(Node*)`, `plotIcon(Node*)`, `rowIcon(Node*)` and `expand(Node*)` do what they say.
+/// Captions are found by an index of the builder's own, and each parent is settled once, plots as
+/// soon as they have their rows, so that the work is linear in records and rows.
 template <typename Node, typename Operations>
 class TreeBuilder
 {
@@ -39,13 +40,27 @@ public:
     {
         Node* top = caption(m_root, record.title1, record, 0);
         Node* second = caption(top, record.title2, record, 1);
-        Node* plot = this->plot(second, record);
+        // A plot is used again only if it bears the caption of the level above: the comparison is
+        // with title2 on purpose. So each record makes a plot of its own, be the captions the same
+        // or not, unless an earlier plot is named as its parent is.
+        Node* namesake = m_namesakes.value(second);
+        Node* plot = namesake ? namesake : newPlot(second, record);
         addLoadcaseRows(plot, record);
+        if (!namesake) {
+            settleBranch(plot);
+            m_operations.complete(plot);
+        }
         removeIfEmpty(plot, second, top);
     }
 
     /// Gives every parent the state of its children. To be called once, behind the last record.
-    void finish() { settleTree(m_root); }
+    void finish()
+    {
+        for (Node* plot : qAsConst(m_namesakes))
+            settleBranch(plot); // it may have got more rows
+        settleCaptions(1);
+        settleCaptions(0);
+    }
 
 private:
     Node* create(Node* parent, const QString& text, const GraphicalOutputRecord& record, int level)
@@ -66,13 +81,8 @@ private:
         return known;
     }
 
-    /// A plot is used again only if it bears the caption of the level above: the comparison is with
-    /// title2 on purpose. So each record makes a plot of its own, be the captions the same or not,
-    /// unless an earlier plot is named as its parent is.
-    Node* plot(Node* second, const GraphicalOutputRecord& record)
+    Node* newPlot(Node* second, const GraphicalOutputRecord& record)
     {
-        if (Node* namesake = m_namesakes.value(second))
-            return namesake;
         Node* made = create(second, record.title3, record, 2);
         m_operations.plotIcon(made);
         if (record.title3 == record.title2)
@@ -80,12 +90,19 @@ private:
         return made;
     }
 
+    void settleCaptions(int level)
+    {
+        for (Node* caption : qAsConst(m_captions))
+            if (caption->level == level && caption->childCount() > 0)
+                caption->setCheckState(0, stateOfChildren(caption));
+    }
+
     void addLoadcaseRows(Node* plot, const GraphicalOutputRecord& record)
     {
         if (record.ctrl == CtrlStandsAlone) {
             plot->isLC = 0;
             m_operations.plotIcon(plot);
-            plot->setCheckState(0, Qt::Checked);
+            m_operations.check(plot);
             checkRows(plot);
             return;
         }
@@ -95,7 +112,7 @@ private:
         if (plot->childCount() == 0)
             return;
         if (record.preselect == 1)
-            plot->child(0)->setCheckState(0, Qt::Checked);
+            m_operations.check(static_cast<Node*>(plot->child(0)));
         else if (record.preselect == 2 || record.preselect == 3)
             checkRows(plot);
     }
@@ -121,7 +138,7 @@ private:
     {
         int& next = m_checkedRows[plot];
         for (; next < plot->childCount(); ++next)
-            plot->child(next)->setCheckState(0, Qt::Checked);
+            m_operations.check(static_cast<Node*>(plot->child(next)));
     }
 
     /// Takes away what a record without any script left behind. The parser lets no such record

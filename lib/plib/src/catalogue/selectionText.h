@@ -124,13 +124,15 @@ public:
     {
     }
 
-    void apply(const std::vector<SelectionLine>& lines)
+    /// `setLeaf(item, state)` sets an item without children to Checked or Unchecked.
+    template <typename SetLeaf>
+    void apply(const std::vector<SelectionLine>& lines, const SetLeaf& setLeaf)
     {
         for (const SelectionLine& line : lines)
             if (Node* item = m_index.findItem(line.id))
                 add(item, line);
         for (int i = 0; i < m_root->childCount(); ++i)
-            setStates(m_root->child(i), Order());
+            setStates(m_root->child(i), Order(), setLeaf);
         settleTree(m_root);
     }
 
@@ -184,8 +186,8 @@ private:
         return children;
     }
 
-    template <typename Any>
-    void setStates(Any* node, Order order)
+    template <typename Any, typename SetLeaf>
+    void setStates(Any* node, Order order, const SetLeaf& setLeaf)
     {
         auto* item = outputItem(node);
         if (!item)
@@ -194,11 +196,11 @@ private:
         if (item->level < RowLevel) // rows are never named by themselves
             order = order.orLater(m_orders.value(item));
         if (count == 0)
-            return item->setCheckState(0, order.state);
+            return setLeaf(item, order.state);
         const auto own = m_children.find(item);
         const Order* orders = own == m_children.end() ? nullptr : own->second.orders.data();
         for (int i = 0; i < count; ++i)
-            setStates(item->child(i), orders ? order.orLater(orders[i]) : order);
+            setStates(item->child(i), orders ? order.orLater(orders[i]) : order, setLeaf);
     }
 
     static constexpr int RowLevel = 3;
@@ -210,14 +212,22 @@ private:
     int m_time = 0;
 };
 
-/// Applies a selection text to the tree; a text without any line leaves it as it is.
-template <typename Node>
-void applySelection(Node* root, const QString& text)
+/// Applies a selection text to the tree; a text without any line leaves it as it is. For `setLeaf`
+/// see SelectionApplier::apply().
+template <typename Node, typename SetLeaf>
+void applySelection(Node* root, const QString& text, const SetLeaf& setLeaf)
 {
     bool isEmpty = false;
     const std::vector<SelectionLine> lines = parseSelection(text, &isEmpty);
     if (!isEmpty)
-        SelectionApplier<Node>(root).apply(lines);
+        SelectionApplier<Node>(root).apply(lines, setLeaf);
+}
+
+template <typename Node>
+void applySelection(Node* root, const QString& text)
+{
+    applySelection(root, text,
+                   [](auto* item, Qt::CheckState state) { item->setCheckState(0, state); });
 }
 
 } // namespace plib
