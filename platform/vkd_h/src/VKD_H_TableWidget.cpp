@@ -3,36 +3,16 @@
 #include "CellDelegate.h"
 #include "VKD_H_TableItems.h"
 
+#include <vkd_qt_copyCells.h>
 #include <VKD_QT_Menu.h>
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QMimeData>
 
 #include <algorithm>
-
-namespace {
-/// A cell for a spreadsheet: one with a tab or a line end stands in quotation marks.
-QString plainCell(QString text)
-{
-    const QLatin1Char quote('"');
-    if (!text.contains(QLatin1Char('\t')) && !text.contains(QLatin1Char('\n')) &&
-        !text.contains(quote))
-        return text;
-    return quote + text.replace(quote, QStringLiteral("\"\"")) + quote;
-}
-
-QString htmlCell(const QString& text)
-{
-    return QLatin1String("<td>") +
-           text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")) +
-           QLatin1String("</td>");
-}
-} // namespace
 
 VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, const char* name)
     : VKD_QT_TableWidget(rows, columns, parent, name)
@@ -171,32 +151,8 @@ bool VKD_H_TableWidget::edit(const QModelIndex& index, EditTrigger trigger, QEve
 
 void VKD_H_TableWidget::copySelection() const
 {
-    QModelIndexList cells = selectedIndexes();
-    if (cells.isEmpty())
-        return;
-    std::sort(cells.begin(), cells.end());
-    const auto byColumn = [](const QModelIndex& a, const QModelIndex& b) {
-        return a.column() < b.column();
-    };
-    const auto columns = std::minmax_element(cells.begin(), cells.end(), byColumn);
-    QString text, html = QStringLiteral("<table>");
-    for (auto cell = cells.cbegin(); cell != cells.cend();) {
-        html += QLatin1String("<tr>");
-        const int row = cell->row();
-        for (int column = columns.first->column(); column <= columns.second->column(); ++column) {
-            const bool isNext =
-                cell != cells.cend() && cell->row() == row && cell->column() == column;
-            const QString content = isNext ? shownText(*cell++) : QString();
-            text += plainCell(content);
-            text += column < columns.second->column() ? QLatin1Char('\t') : QLatin1Char('\n');
-            html += htmlCell(content);
-        }
-        html += QLatin1String("</tr>");
-    }
-    auto mime = new QMimeData;
-    mime->setText(text);
-    mime->setHtml(html + QLatin1String("</table>"));
-    QApplication::clipboard()->setMimeData(mime);
+    vkd_qt_copyCells(selectedIndexes(),
+                     [this](const QModelIndex& cell) { return shownText(cell); });
 }
 
 void VKD_H_TableWidget::contextMenuEvent(QContextMenuEvent* event)

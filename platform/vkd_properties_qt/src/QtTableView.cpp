@@ -1,0 +1,112 @@
+#include "QtTableView.h"
+
+#include "ReadOnlyDelegate.h"
+
+#include <vkd_qt_copyCells.h>
+
+#include <QChildEvent>
+#include <QKeyEvent>
+
+#include <utility>
+
+namespace vkd::properties::nextGen {
+
+QtTableView::QtTableView(QWidget* parent)
+    : QTableView(parent)
+{
+    setItemDelegate(new ReadOnlyDelegate(this));
+}
+
+void QtTableView::set_read_only(bool readOnly)
+{
+    if (readOnly == m_readOnly)
+        return;
+    if (readOnly)
+        closeOpenEditor();
+    m_readOnly = readOnly;
+    if (readOnly)
+        disableWidgets();
+    else
+        enableWidgets();
+    viewport()->update();
+}
+
+bool QtTableView::is_read_only() const
+{
+    return m_readOnly;
+}
+
+/// Check boxes of cells are changed by way of this, too.
+bool QtTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    return !m_readOnly && QTableView::edit(index, trigger, event);
+}
+
+void QtTableView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        vkd_qt_copyCells(selectedIndexes(),
+                         [](const QModelIndex& cell) { return cell.data().toString(); });
+    else
+        QTableView::keyPressEvent(event);
+}
+
+/// To move cells elsewhere would take them out of the model.
+void QtTableView::startDrag(Qt::DropActions actions)
+{
+    const Qt::DropActions allowed = m_readOnly ? actions & Qt::CopyAction : actions;
+    if (allowed)
+        QTableView::startDrag(allowed);
+}
+
+bool QtTableView::viewportEvent(QEvent* event)
+{
+    if (!m_readOnly)
+        return QTableView::viewportEvent(event);
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop: event->ignore(); return true;
+    case QEvent::ChildPolished: // laid over a cell, or shown again, after the table became
+                                // read-only
+        disableWidget(qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()));
+        break;
+    default: break;
+    }
+    return QTableView::viewportEvent(event);
+}
+
+void QtTableView::closeOpenEditor()
+{
+    QWidget* editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (!editor)
+        return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void QtTableView::disableWidgets()
+{
+    const QList<QWidget*> widgets =
+        viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* widget : widgets)
+        disableWidget(widget);
+}
+
+/// Those that the host disabled itself stay out of the list.
+void QtTableView::disableWidget(QWidget* widget)
+{
+    if (!widget || !widget->isEnabledTo(viewport()))
+        return;
+    widget->setEnabled(false);
+    m_disabled.emplace_back(widget);
+}
+
+void QtTableView::enableWidgets()
+{
+    for (const QPointer<QWidget>& widget : std::exchange(m_disabled, {}))
+        if (widget)
+            widget->setEnabled(true);
+}
+
+} // namespace vkd::properties::nextGen
