@@ -1,0 +1,77 @@
+#pragma once
+
+#include "VKD_P_RadioGroup.h"
+
+#include <QButtonGroup>
+
+#include <vector>
+
+class QRadioButton;
+
+/// The buttons of a VKD_P_RadioGroup and what they do; that class passes its operations on to this
+/// one, and those signals that belong to the form of the row back to its host. Buttons, row and
+/// coupled widget that went with their owners are null again.
+class VKD_P_RadioGroupImpl : public QObject
+{
+    Q_OBJECT
+
+public:
+    using ButtonID = VKD_P_RadioGroup::ButtonID;
+
+    VKD_P_RadioGroupImpl();
+    ~VKD_P_RadioGroupImpl() override;
+
+    /// False: there is a row already.
+    bool init(QWidget* parent);
+    bool initForLF(QWidget* parent, const std::list<ButtonID>& ids);
+    bool initEchoOutput(QWidget* parent);
+
+    QLayout* layout() const;
+    void useWidget(QWidget* widget);
+    void setEnabledById(ButtonID id, bool enabled);
+    void setSelectedId(ButtonID id);
+    ButtonID getSelectedId() const;
+    void readXML(const QString& text);
+    QString writeXML() const;
+
+Q_SIGNALS:
+    void buttonClicked(int buttonID);
+    void buttonNoOutputChecked();
+    void buttonManuallyChecked();
+    void buttonAllChecked();
+    void buttonAllAcciChecked();
+    void buttonAllFireChecked();
+    void buttonAllEartChecked();
+    void buttonChecked(int buttonID);
+
+public Q_SLOTS:
+    void updateUsedWidget();
+    void buttonXXClicked(bool on);
+
+private:
+    struct Kind;
+    struct Entry
+    {
+        ButtonID id;
+        QString label;
+        QString toolTip;
+    };
+
+    static const std::vector<Kind>& kinds();
+    bool buildRow(QWidget* parent, const std::vector<Entry>& entries);
+    QRadioButton* makeButton(QWidget* parent, const Entry& entry);
+
+    QLayout* m_layout = nullptr;
+    QRadioButton* m_Manually = nullptr;
+    QRadioButton* m_All = nullptr;
+    QRadioButton* m_All_A = nullptr;
+    QRadioButton* m_All_F = nullptr;
+    QRadioButton* m_All_E = nullptr;
+    QRadioButton* m_All_RARE = nullptr;
+    QRadioButton* m_All_FREQ = nullptr;
+    QRadioButton* m_All_PERM = nullptr;
+    QRadioButton* m_All_NONF = nullptr;
+    QRadioButton* m_NoTextOutput = nullptr;
+    QWidget* m_usedWidget = nullptr; ///< not owned
+    QButtonGroup m_group;
+};
