@@ -102,6 +102,7 @@ private:
     void buildSheetAndViews(QWidget* box);
     void layOut(QWidget* box);
     void placeAnimator(QBoxLayout* layout);
+    void chainTabs();
     void connectAnimator();
     void findDialogs();
     void showFixedView(AnimatorViewControl control, bool on);

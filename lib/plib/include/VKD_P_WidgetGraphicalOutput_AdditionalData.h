@@ -3,6 +3,7 @@
 #include "vkd_p_fea_export.h"
 
 #include <QObject>
+#include <QPointer>
 
 class VKD_P_WidgetGraphicalOutput;
 class VKD_QT_RadioButtonGroup;
@@ -29,6 +30,6 @@ public Q_SLOTS:
 
 private:
     QString tag;
-    VKD_P_WidgetGraphicalOutput* page = nullptr;
+    QPointer<VKD_P_WidgetGraphicalOutput> page; ///< null when it has gone
     int id = 0;
 };

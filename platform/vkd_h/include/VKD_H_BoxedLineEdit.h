@@ -17,8 +17,8 @@ public:
     /// `description` is copied; null is a number without unit and label.
     VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description, const char* name);
 
-    /// The text that setText() set, until the user edits it or setVal() replaces it; otherwise what
-    /// stands in the field.
+    /// The text as it was typed or set, although the field writes its number in its own format when
+    /// it is left. Of an emptied field that stands for a default, the default.
     QString getText() const;
     /// Sets a text as if it were typed, in the shown unit. One that is no acceptable number is
     /// shown and marked, and the value from before counts on.
@@ -41,11 +41,12 @@ protected:
 
 private:
     void arrange();
+    bool counts(const QString& text) const;
     bool standsForDefault() const;
     void fillEmptyField();
     void showDefault();
 
     StructBoxedEdit m_description;
     VKD_H_LineEdit* m_edit;
-    QString m_setText; ///< null if what stands in the field counts
+    QString m_text; ///< as typed or set last; null if what stands in the field counts
 };

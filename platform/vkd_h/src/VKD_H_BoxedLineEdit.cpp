@@ -66,20 +66,31 @@ VKD_H_BoxedLineEdit::VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* descr
     arrange();
     showDefault();
     m_edit->installEventFilter(this);
-    connect(m_edit, &QLineEdit::textEdited, this, [this] { m_setText.clear(); });
+    connect(m_edit, &QLineEdit::textEdited, this, [this](const QString& typed) { m_text = typed; });
     connect(m_edit, &VKD_H_LineEdit::valueChanged, this, &VKD_H_BoxedLineEdit::valueChanged);
 }
 
 QString VKD_H_BoxedLineEdit::getText() const
 {
-    return m_setText.isNull() ? m_edit->text() : m_setText;
+    if (standsForDefault())
+        return vkd_h_numberText(m_description.edit.value, m_description.edit);
+    return counts(m_text) ? m_text : m_edit->text();
+}
+
+/// Whether the value is still the one of this text: the field may have written it in its own format
+/// since, or have gone back to another one.
+bool VKD_H_BoxedLineEdit::counts(const QString& text) const
+{
+    const VkdNumberReading reading = vkd_h_readNumber(text, m_description.edit);
+    return !text.isNull() && reading.state == VkdNumberState::Accepted &&
+           reading.value == m_edit->getVal();
 }
 
 void VKD_H_BoxedLineEdit::setText(const QString& text)
 {
     const QSignalBlocker silence(this); // the field takes it for a preset that was chosen
     m_edit->setText(text);
-    m_setText = m_edit->refusal().isEmpty() ? text : QString(); // refused text stays by itself
+    m_text = text;
     fillEmptyField();
 }
 
@@ -90,7 +101,7 @@ double VKD_H_BoxedLineEdit::getVal() const
 
 void VKD_H_BoxedLineEdit::setVal(double value)
 {
-    m_setText.clear();
+    m_text.clear();
     m_edit->setVal(value);
 }
 

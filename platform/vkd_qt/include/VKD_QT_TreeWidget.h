@@ -24,6 +24,11 @@ public:
     /// settleCheckStates(). Each column is on its own.
     void setAutomaticCheckStateUpdate(bool on);
 
+    /// Makes the only column as wide as the texts in view when the tree is shown, or as the tree if
+    /// that is wider: a narrow tree can be moved sideways. It is not measured again by itself,
+    /// because what is in view depends on the scroll bar that the width brings.
+    void setColumnFitsTexts();
+
     /// Gives every item with check boxes below it the state that follows from them, in one pass. To
     /// be called after many changes without the automatic update; then the states are those that
     /// single steps with it would have led to.
@@ -46,9 +51,15 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void closeBranches();
 
+    void fitColumn();
+
     bool m_isAutomatic = false;
+    bool m_columnFits = false;
+    int m_textWidth = 0;
 };

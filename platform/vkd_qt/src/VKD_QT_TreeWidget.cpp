@@ -4,6 +4,7 @@
 #include "VKD_QT_Menu.h"
 #include "VKD_QT_SignalBlocker.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 
 VKD_QT_TreeWidget::VKD_QT_TreeWidget(QWidget* parent, const char* name)
@@ -89,4 +90,33 @@ void VKD_QT_TreeWidget::keyPressEvent(QKeyEvent* event)
     if (!isBeside)
         return QTreeWidget::keyPressEvent(event);
     item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+}
+
+void VKD_QT_TreeWidget::setColumnFitsTexts()
+{
+    constexpr int RowsInView = 0;
+    m_columnFits = true;
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(0);
+    header()->setResizeContentsPrecision(RowsInView);
+}
+
+void VKD_QT_TreeWidget::fitColumn()
+{
+    if (m_columnFits)
+        header()->resizeSection(0, qMax(m_textWidth, viewport()->width()));
+}
+
+void VKD_QT_TreeWidget::resizeEvent(QResizeEvent* event)
+{
+    QTreeWidget::resizeEvent(event);
+    fitColumn();
+}
+
+void VKD_QT_TreeWidget::showEvent(QShowEvent* event)
+{
+    QTreeWidget::showEvent(event);
+    if (m_columnFits)
+        m_textWidth = sizeHintForColumn(0);
+    fitColumn();
 }

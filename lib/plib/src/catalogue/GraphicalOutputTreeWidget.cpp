@@ -92,7 +92,7 @@ GraphicalOutputTreeWidget::GraphicalOutputTreeWidget(QWidget* parent, int kind,
     setAutomaticCheckStateUpdate(true);
     setHeaderHidden(true);
     setUniformRowHeights(true);
-    fitToTexts();
+    setColumnFitsTexts();
     setAccessibleName(tr("Plots and loadcases"));
     const auto showError = [this](const QString& title, const QString& text) {
         VKD_QT_MessageBox::warning(this, title, text);
@@ -193,15 +193,6 @@ void GraphicalOutputTreeWidget::dump(QTreeWidgetItem* item, int indent) const
     const int count = output->level == PlotLevel ? qMin(1, item->childCount()) : item->childCount();
     for (int i = 0; i < count; ++i)
         dump(item->child(i), indent + 1);
-}
-
-/// A narrow tree can be moved sideways; its texts are not cut.
-void GraphicalOutputTreeWidget::fitToTexts()
-{
-    constexpr int InView = 0; // measuring the others, too, would take longer than painting
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header()->setResizeContentsPrecision(InView);
 }
 
 void GraphicalOutputTreeWidget::refill(bool defaults)

@@ -58,7 +58,6 @@ public Q_SLOTS:
     void dump(QTreeWidgetItem* item, int indent) const;
 
 private:
-    void fitToTexts();
     void refill(bool defaults);
     void fillTree();
     void setChoice(const QString& text);

@@ -10,6 +10,7 @@
 #include <vkd_dbo_queries.h>
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_Dialog.h>
+#include <VKD_H_LineEdit.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
 #include <VKD_H_ZOBDoc.h>
@@ -79,10 +80,9 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
         connectAnimator();
     connect(data->defaultButton, &QPushButton::clicked, this,
             &VKD_P_WidgetGraphicalOutput::slotDefaultSettings);
-    if (data->formatGroup)
-        for (int entry : {PortraitFormat, LandscapeFormat})
-            connect(data->formatGroup->getRadioButton(entry), &QRadioButton::clicked, this,
-                    &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
+    if (data->formatGroup) // by the group, which passes over a click on the entry that is chosen
+        connect(data->formatGroup, &VKD_QT_RadioButtonGroup::buttWasClicked, this,
+                &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
     findDialogs();
     if (progname == VKD_P_GraphicalOutput_Split) {
         const QSize size = data->tree->sizeHint();
@@ -90,11 +90,14 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
     }
 }
 
-/// The animator is the host's.
+/// The animator is the host's. If the parent that was to delete it has gone, it goes with the page.
 VKD_P_WidgetGraphicalOutput::~VKD_P_WidgetGraphicalOutput()
 {
-    if (data->animator && isAncestorOf(data->animator))
-        data->animator->setParent(data->animatorHome);
+    AnimatorView* animator = data->animator;
+    if (!animator || !isAncestorOf(animator) || (data->animatorHadHome && !data->animatorHome))
+        return;
+    animator->setParent(data->animatorHome);
+    animator->setEnabled(true);
 }
 
 void VKD_P_WidgetGraphicalOutput::buildSettings(QWidget* box)
@@ -200,11 +203,38 @@ void VKD_P_WidgetGraphicalOutput::layOut(QWidget* box)
     outer->setColumnStretch(1, 0);
     outer->addWidget(box, 0, 0, 1, 2);
     outer->addWidget(data->defaultButton, 1, 1);
+    chainTabs();
+}
+
+/// In reading order. A group of radio buttons is one stop, at the button that is chosen.
+void VKD_P_WidgetGraphicalOutput::chainTabs()
+{
+    QList<QWidget*> stops{data->tree};
+    const auto addGroup = [&stops](const VKD_QT_RadioButtonGroup* group) {
+        for (int entry = 0; group && group->getRadioButton(entry); ++entry)
+            stops << group->getRadioButton(entry);
+    };
+    addGroup(data->viewGroup);
+    if (data->animator)
+        stops << data->animator;
+    addGroup(data->scaleGroup);
+    stops.insert(stops.size() - 1, data->scaleCombo); // beside the first of the two buttons
+    addGroup(data->formatGroup);
+    if (data->pageSplitCombo)
+        stops << data->pageSplitCombo;
+    addGroup(data->picturesGroup);
+    stops << data->fontEdit->edit();
+    if (data->fillCheck)
+        stops << data->fillCheck;
+    stops << data->defaultButton;
+    for (int stop = 1; stop < stops.size(); ++stop)
+        setTabOrder(stops[stop - 1], stops[stop]);
 }
 
 void VKD_P_WidgetGraphicalOutput::placeAnimator(QBoxLayout* layout)
 {
     data->animatorHome = data->animator->parentWidget();
+    data->animatorHadHome = data->animatorHome;
     data->animator->setMinimumSize(160, 120);
     layout->addWidget(data->animator, 1);
     if (data->viewGroup)

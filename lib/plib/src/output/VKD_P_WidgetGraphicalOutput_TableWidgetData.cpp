@@ -61,6 +61,8 @@ void VKD_P_WidgetGraphicalOutput_TableWidgetData::setWidgets(VKD_P_WidgetGraphic
                                                              int numberColumn, int checkColumn,
                                                              int titleColumn)
 {
+    if (!page || !table)
+        return;
     data->table = table;
     data->numberColumn = numberColumn;
     data->checkColumn = checkColumn;

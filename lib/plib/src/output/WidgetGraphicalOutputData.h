@@ -43,4 +43,5 @@ struct WidgetGraphicalOutputData
     VKD_H_Dialog* dialog = nullptr;
     VKD_P_WidgetGraphicalOutput_Progname progname = VKD_P_GraphicalOutput_Standard;
     QPointer<QWidget> animatorHome; ///< the animator's parent before it came onto the page
+    bool animatorHadHome = false;
 };

@@ -44,7 +44,8 @@ void VKD_P_WidgetGraphicalOutput::showFixedView(AnimatorViewControl control, boo
     if (!data->animator || !on)
         return;
     Q_EMIT signalBeobXY(control, 0.0);
-    data->animator->setEnabled(false);
+    if (data->animator) // who listens may have done away with it
+        data->animator->setEnabled(false);
 }
 
 void VKD_P_WidgetGraphicalOutput::slotBeobXY(bool on)
@@ -73,7 +74,7 @@ void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
     if (!data->animator)
         return;
     Q_EMIT signalBeobXY(on ? AnimatorTakeCamera : AnimatorStoreCamera, 0.0);
-    if (on)
+    if (on && data->animator)
         data->animator->setEnabled(true);
 }
 
@@ -81,7 +82,10 @@ void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
 /// is given once when its tab comes up.
 void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* page)
 {
-    if (!data->firstShow || !page || (page != this && !page->isAncestorOf(this)))
+    const QWidget* ancestor = this; // also across windows, where isAncestorOf() ends
+    while (ancestor && ancestor != page)
+        ancestor = ancestor->parentWidget();
+    if (!data->firstShow || !ancestor)
         return;
     if (data->viewGroup && data->viewGroup->selectedButton() < UserDefinedView)
         QCoreApplication::postEvent(this, new WidgetGraphicalOutputEvent);
