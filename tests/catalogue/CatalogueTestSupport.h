@@ -34,6 +34,9 @@ QByteArray line(const char* titles, const char* caseWord, int preselect, int vie
 /// Fills an empty tree with the records, all offered.
 void build(plib::OutputNode* root, const Records& records, const Rows& rows);
 
+/// Applies a selection text in single steps, each with the automatic update behind it.
+void applyStepByStep(plib::OutputNode* root, const QString& text);
+
 /// The items with check marks, indented, one line each, as the command `tree` prints them.
 QString treeText(const plib::OutputNode* root);
 

@@ -128,28 +128,6 @@ void TestSelectionText::itemsThatAreNoneOfOurs()
     QCOMPARE(plib::selectionText(&leaves), QStringLiteral("\nUnchecked:@ROW:%2\nERROR CASE\n"));
 }
 
-/// The application told in single steps with the automatic update after each.
-static void applyStepByStep(OutputNode* root, const QString& text)
-{
-    for (int i = 0; i < root->childCount(); ++i)
-        plib::setBranchState(root->child(i), Qt::Unchecked);
-    const plib::ItemIndex<OutputNode> index(root);
-    bool isEmpty = false;
-    for (const plib::SelectionLine& line : plib::parseSelection(text, &isEmpty)) {
-        OutputNode* item = index.findItem(line.id);
-        if (!item)
-            continue;
-        plib::setBranchState(item,
-                             line.kind == plib::SelectionLine::Check ? Qt::Checked : Qt::Unchecked);
-        for (int number : line.numbers)
-            for (int i = item->childCount() - 1; i >= 0; --i)
-                if (item->child(i)->number == number) {
-                    plib::setBranchState(item->child(i), Qt::Checked);
-                    break;
-                }
-    }
-}
-
 void TestSelectionText::statesAreThoseOfSingleSteps()
 {
     std::mt19937 random(99);
@@ -170,7 +148,7 @@ void TestSelectionText::statesAreThoseOfSingleSteps()
         plib::applySelection(&atOnce, text);
         OutputNode stepwise;
         makeTree(&stepwise);
-        applyStepByStep(&stepwise, text);
+        testsupport::applyStepByStep(&stepwise, text);
         QCOMPARE(states(&atOnce), states(&stepwise));
     }
 }
