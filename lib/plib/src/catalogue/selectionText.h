@@ -133,7 +133,6 @@ public:
                 add(item, line);
         for (int i = 0; i < m_root->childCount(); ++i)
             setStates(m_root->child(i), Order(), setLeaf);
-        settleTree(m_root);
     }
 
 private:
@@ -201,6 +200,7 @@ private:
         const Order* orders = own == m_children.end() ? nullptr : own->second.orders.data();
         for (int i = 0; i < count; ++i)
             setStates(item->child(i), orders ? order.orLater(orders[i]) : order, setLeaf);
+        item->setCheckState(0, stateOfChildren(item)); // while the children are at hand
     }
 
     static constexpr int RowLevel = 3;
