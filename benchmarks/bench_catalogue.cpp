@@ -131,7 +131,7 @@ void applySelection(benchmark::State& state)
         for (int j = 0; j < top->child(i)->childCount(); ++j)
             for (int row = 0; row < RowsPerPlot; row += 2)
                 top->child(i)->child(j)->child(row)->setCheckState(0, Qt::Checked);
-    plib::settleBranch(tree.root->child(0)); // the only one
+    plib::settleTree(tree.root.get());
     const QString text = plib::selectionText(tree.root.get());
     for (auto _ : state)
         plib::applySelection(tree.root.get(), text);

@@ -59,4 +59,12 @@ void settleBranch(Node* node)
         node->setCheckState(0, stateOfChildren(node));
 }
 
+/// settleBranch() for every top level item below the root.
+template <typename Node>
+void settleTree(Node* root)
+{
+    for (int i = 0; i < root->childCount(); ++i)
+        settleBranch(static_cast<Node*>(root->child(i)));
+}
+
 } // namespace plib
