@@ -4,18 +4,42 @@
 #include <vkd_lib_value.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QFont>
 #include <QLocale>
 
-#include <cstring>
+#include <cstdio>
 #include <memory>
 
 namespace {
-/// Pictures are drawn off the screen, so that none is needed; all other commands do without
-/// widgets.
-std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
+bool hasDisplay()
 {
-    if (argc < 2 || std::strcmp(argv[1], "snapshots") != 0)
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return true;
+    return false;
+}
+
+/// Without a command, and on a desktop, the window is what is wanted: alone or on a file.
+QStringList commandOf(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const bool isFile = arguments.size() == 1 && !workbench::isCommand(arguments[0]) &&
+                        QFileInfo(arguments[0]).isFile();
+    if (hasDisplay() && (arguments.isEmpty() || isFile))
+        arguments.prepend(QStringLiteral("window"));
+    return arguments;
+}
+
+/// Pictures are drawn off the screen, so that none is needed; other commands than these two do
+/// without widgets.
+std::unique_ptr<QCoreApplication> newApplication(const QString& command, int& argc, char* argv[])
+{
+    if (command == QLatin1String("window"))
+        return std::make_unique<QApplication>(argc, argv);
+    if (command != QLatin1String("snapshots"))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     auto application = std::make_unique<QApplication>(argc, argv);
@@ -29,8 +53,16 @@ int main(int argc, char* argv[])
 {
     workbench::PlatformLog::install();
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
-    const auto application = newApplication(argc, argv);
+    const QStringList command = commandOf(argc, argv);
+    if (command.value(0) == QLatin1String("window") && command.size() < 3 && !hasDisplay() &&
+        !command.value(1).startsWith(QLatin1String("--"))) {
+        std::fputs("plib_workbench: the window needs a display\n", stderr);
+        return 1;
+    }
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const auto application = newApplication(command.value(0), argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
-    return workbench::run(QCoreApplication::arguments());
+    return workbench::run(QStringList(QCoreApplication::applicationName()) + command);
 }

@@ -30,6 +30,7 @@ constexpr Command Commands[] = {
     {"rows", rowsCommand, "print and change how a project's area elements are designed"},
     {"tree", treeCommand, "print the plots that a project offers, with their check marks"},
     {"snapshots", snapshotsCommand, "leave a picture of every page and dialog in a folder"},
+    {"window", windowCommand, "open the desktop window"},
 };
 
 QString usage()
@@ -77,6 +78,14 @@ void complain(const QString& text)
     std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(text.simplified()));
 }
 } // namespace
+
+bool isCommand(const QString& name)
+{
+    for (const Command& command : Commands)
+        if (name == QLatin1String(command.name))
+            return true;
+    return false;
+}
 
 int run(const QStringList& arguments)
 {

@@ -8,6 +8,9 @@ namespace workbench {
 /// output; a failure is one line on standard error. The result is the exit code, 0 or 1.
 int run(const QStringList& arguments);
 
+/// Whether there is a command of this name.
+bool isCommand(const QString& name);
+
 // The commands. Each takes the arguments from its own name on, throws a CommandError if it cannot
 // do its work, and gives the exit code.
 int newCommand(const QStringList& arguments);
@@ -16,5 +19,6 @@ int catalogueCommand(const QStringList& arguments);
 int rowsCommand(const QStringList& arguments);
 int treeCommand(const QStringList& arguments);
 int snapshotsCommand(const QStringList& arguments); // needs a QApplication
+int windowCommand(const QStringList& arguments);    // needs a QApplication
 
 } // namespace workbench

@@ -1,0 +1,112 @@
+#include "newProject.h"
+
+#include "CommandLine.h"
+#include "DesignRows.h"
+#include "PlatformLog.h"
+
+#include <designStore.h>
+#include <vkd_dbo_model.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_searchpath.h>
+#include <vkd_lib_value.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+namespace workbench {
+
+namespace {
+QString modelPath(const QString& nameOrFile)
+{
+    if (nameOrFile.endsWith(QLatin1String(".json")) || QFileInfo(nameOrFile).isFile())
+        return nameOrFile;
+    const QByteArray name = QFile::encodeName(QStringLiteral("models/%1.json").arg(nameOrFile));
+    const auto found = vkd_lib_searchpath(name.constData(), 3);
+    if (!found)
+        throw CommandError{QStringLiteral("there is no model \"%1\"").arg(nameOrFile)};
+    return QFile::decodeName(found->c_str());
+}
+
+void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs,
+                 const QString& modelFile)
+{
+    const ProjectChange change(document);
+    plib::checkAndCreateZobDefault(document->index());
+    DesignRows rows(document);
+    for (const vkd::dbo::DesignValues& design : designs) {
+        QStringList fields;
+        for (auto value = design.values.begin(); value != design.values.end(); ++value)
+            fields << value.key() + QLatin1Char('=') + QString::number(value.value(), 'g', 9);
+        try {
+            rows.setRow(design.groups.join(QLatin1Char(';')), fields);
+        } catch (const CommandError& error) {
+            throw CommandError{
+                QStringLiteral("%1: designParameters of group %2: %3")
+                    .arg(modelFile, design.groups.join(QLatin1Char(';')), error.text)};
+        }
+    }
+    rows.write();
+}
+
+/// A file that is gone with the object, unless it got another name.
+class UnfinishedFile
+{
+public:
+    explicit UnfinishedFile(const QString& path)
+        : m_path(path)
+    {
+    }
+    ~UnfinishedFile() { QFile::remove(m_path); }
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+
+private:
+    QString m_path;
+};
+
+/// Stores the model in a file of another name, which gets its own name once it is whole.
+void writeProject(const QString& path, const vkd::dbo::Model& model, const QString& modelFile)
+{
+    const QString name =
+        path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
+    bool done = false;
+    auto document = VKD_H_ZOBDoc::create(name);
+    if (document) {
+        const UnfinishedFile unfinished(name);
+        done = vkd::dbo::storeModel(document->index(), model);
+        if (done)
+            storeDesign(document.get(), model.designParameters, modelFile);
+        done = document->close() == VKD_ZOB_OK && done && QFile::rename(name, path);
+    }
+    if (!done)
+        throw CommandError{QLatin1String("cannot create ") + path + QLatin1String(": ") +
+                           PlatformLog::take().join(QLatin1String("; ")).replace(name, path)};
+}
+
+QString summary(const QString& path, const vkd::dbo::Model& model)
+{
+    const int elements = model.quads.size() + model.beams.size() + model.trusses.size() +
+                         model.cables.size() + model.springs.size() + model.bricks.size();
+    const auto number = [](int value) { return QString::number(value); };
+    return QStringLiteral("%1: %2, %3 nodes, %4 elements in %5 groups, %6 load cases\n")
+        .arg(path, model.system.title, number(model.nodes.size()), number(elements),
+             number(model.groups.size()), number(model.loadCases.size()));
+}
+} // namespace
+
+QString newProject(const QString& path, const QString& model)
+{
+    if (QFileInfo::exists(path))
+        throw CommandError{QStringLiteral("%1 exists already").arg(path)};
+    vkd::dbo::Model content;
+    QString error;
+    const QString modelFile = modelPath(model);
+    const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    if (!vkd::dbo::readModelFile(modelFile, language, &content, &error))
+        throw CommandError{error};
+    writeProject(path, content, modelFile);
+    return summary(path, content);
+}
+
+} // namespace workbench

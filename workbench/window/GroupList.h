@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QTreeWidget>
+
+namespace workbench {
+
+/// The primary groups of a project with number, title and contents. It tells which group the user
+/// points at, with the mouse or the keyboard, and shows the one that is pointed at elsewhere.
+class GroupList : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit GroupList(QWidget* parent = nullptr);
+
+    /// Lists the groups of the project at this database index; below 1 there are none.
+    void setProject(int index);
+    /// Marks a group that is pointed at elsewhere, without a signal; AnimatorView::NoGroup for
+    /// none. The current row stays.
+    void setMarkedGroup(int group);
+
+Q_SIGNALS:
+    /// The group below the mouse or, without one, the current group; or AnimatorView::NoGroup.
+    void groupPointed(int group);
+    /// The user activated a group, by Enter or a double click.
+    void groupChosen(int group);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+private:
+    void setTexts();
+    void fill();
+    void pointAt(const QTreeWidgetItem* item);
+
+    int m_index = -1;
+};
+
+} // namespace workbench

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <VKD_H_TableWidget.h>
+
+#include <QSet>
+
+namespace workbench {
+
+/// The load cases of a project, with a check box for each that is to be offered on the output page.
+class LoadCaseTable : public VKD_H_TableWidget
+{
+    Q_OBJECT
+
+public:
+    enum Column { NumberColumn, CheckColumn, TitleColumn };
+
+    /// The load cases of the project at this database index.
+    LoadCaseTable(int index, QWidget* parent);
+
+    QSet<int> leftOutNumbers() const;
+    void setLeftOutNumbers(const QSet<int>& numbers);
+
+private:
+    void addColumns();
+    void addLoadCase(int number, const QString& title);
+    int numberInRow(int row) const;
+    QTableWidgetItem* checkInRow(int row) const { return item(row, CheckColumn); }
+};
+
+} // namespace workbench

@@ -1,0 +1,210 @@
+#include "MainWindow.h"
+
+#include "DesignDialog.h"
+#include "GroupList.h"
+#include "OutputDialog.h"
+#include "PickBanner.h"
+#include "PlatformLog.h"
+#include "RecordsPane.h"
+#include "ScriptPane.h"
+#include "WindowActions.h"
+#include "WindowSettings.h"
+
+#include <AnimatorView.h>
+#include <vkd_dbo_model.h>
+#include <VKD_H_SelGRP_Dialog.h>
+#include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_MessageBox.h>
+
+#include <QAction>
+#include <QDir>
+#include <QDockWidget>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+namespace {
+constexpr int StateVersion = 1;
+const QString GeometryKey = QStringLiteral("geometry");
+const QString StateKey = QStringLiteral("state");
+} // namespace
+
+MainWindow::MainWindow(ProjectMaker maker, QWidget* parent)
+    : QMainWindow(parent)
+    , m_maker(std::move(maker))
+    , m_actions(new WindowActions(this))
+    , m_view(new AnimatorView(0, this))
+    , m_banner(new PickBanner(this))
+    , m_groups(new GroupList(this))
+    , m_script(new ScriptPane(this))
+    , m_records(new RecordsPane(this))
+    , m_contents(new QLabel(this))
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    setAcceptDrops(true);
+    addCentre();
+    addDocks();
+    statusBar()->addPermanentWidget(m_contents);
+    connectActions();
+    connectPanes();
+    setTexts();
+    const WindowSettings settings;
+    m_script->setEnglish(settings.englishKeywords());
+    m_actions->setRecentFiles(settings.recentFiles());
+    m_actions->enable(false, false);
+    m_actions->setHasScript(false);
+    resize(1280, 800);
+    restoreGeometry(settings.value(GeometryKey).toByteArray());
+    restoreState(settings.value(StateKey).toByteArray(), StateVersion);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::addCentre()
+{
+    auto centre = new QWidget(this);
+    auto layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_banner);
+    layout->addWidget(m_view, 1);
+    m_banner->hide();
+    setCentralWidget(centre);
+}
+
+void MainWindow::addDocks()
+{
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_groupDock = addDock(Qt::LeftDockWidgetArea, m_groups, "GroupDock");
+    m_scriptDock = addDock(Qt::RightDockWidgetArea, m_script, "ScriptDock");
+    m_recordDock = addDock(Qt::BottomDockWidgetArea, m_records, "RecordDock");
+    const int letter = fontMetrics().averageCharWidth();
+    resizeDocks({m_groupDock, m_scriptDock}, {45 * letter, 60 * letter}, Qt::Horizontal);
+    resizeDocks({m_recordDock}, {10 * fontMetrics().height()}, Qt::Vertical);
+}
+
+QDockWidget* MainWindow::addDock(Qt::DockWidgetArea area, QWidget* widget, const char* name)
+{
+    auto dock = new QDockWidget(this);
+    dock->setObjectName(QLatin1String(name));
+    dock->setWidget(widget);
+    addDockWidget(area, dock);
+    m_actions->viewMenu->addAction(dock->toggleViewAction());
+    return dock;
+}
+
+void MainWindow::connectActions()
+{
+    const auto on = [this](const QAction* action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    for (const QAction* sample : qAsConst(m_actions->newFromSample))
+        on(sample, [this, sample] { newProject(sample->data().toString()); });
+    for (const QAction* view : qAsConst(m_actions->views))
+        on(view, [this, view] {
+            m_view->slotViewControl(AnimatorViewControl(view->data().toInt()), 0.0);
+        });
+    on(m_actions->newFromFile, &MainWindow::chooseModel);
+    on(m_actions->open, &MainWindow::chooseProject);
+    on(m_actions->saveAs, &MainWindow::saveAs);
+    on(m_actions->copyScript, &MainWindow::copyScript);
+    on(m_actions->saveScript, &MainWindow::saveScript);
+    on(m_actions->quit, &MainWindow::close);
+    on(m_actions->design, &MainWindow::editDesign);
+    on(m_actions->output, &MainWindow::showOutput);
+    on(m_actions->german, [this] { setLanguage(0); });
+    on(m_actions->english, [this] { setLanguage(1); });
+    on(m_actions->designHelp, &MainWindow::showHelp);
+    on(m_actions->about, &MainWindow::showAbout);
+    connect(m_actions->recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
+        const QString path = file->data().toString(); // the menu is made anew meanwhile
+        if (mayLeaveProject())
+            openProject(path);
+    });
+}
+
+void MainWindow::connectPanes()
+{
+    connect(m_groups, &GroupList::groupPointed, m_view, &AnimatorView::setHighlightedGroup);
+    connect(m_groups, &GroupList::groupChosen, this, &MainWindow::chooseGroup);
+    connect(m_view, &AnimatorView::groupHovered, m_groups, &GroupList::setMarkedGroup);
+    connect(m_view, &AnimatorView::pickedGroupsChanged, this, &MainWindow::showPicked);
+    connect(m_banner, &PickBanner::done, this, [this] {
+        VKD_H_SelGRP_Dialog::putAniSelectionToZob(index(), m_view->pickedGroups());
+        stopPicking();
+        runDesign();
+    });
+    connect(m_banner, &PickBanner::cancelled, this, [this] {
+        stopPicking();
+        runDesign();
+    });
+    connect(m_script, &ScriptPane::languageChosen, this, &MainWindow::setKeywords);
+    connect(m_script, &ScriptPane::copyWanted, this, &MainWindow::copyScript);
+    connect(m_script, &ScriptPane::saveWanted, this, &MainWindow::saveScript);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+}
+
+void MainWindow::setTexts()
+{
+    m_actions->setTexts();
+    m_view->setAccessibleName(tr("Model"));
+    m_groupDock->setWindowTitle(tr("Groups"));
+    m_scriptDock->setWindowTitle(tr("Script"));
+    m_recordDock->setWindowTitle(tr("Records"));
+    setTitle();
+}
+
+void MainWindow::setTitle()
+{
+    const QString program = tr("Workbench");
+    if (!m_document) {
+        m_contents->setText(tr("No project"));
+        return setWindowTitle(program);
+    }
+    setWindowTitle(
+        QStringLiteral("%1[*] - %2").arg(QFileInfo(m_document->path()).fileName(), program));
+    m_contents->setText(tr("Groups: %1, load cases: %2")
+                            .arg(m_groups->topLevelItemCount())
+                            .arg(vkd::dbo::readLoadCases(index()).size()));
+}
+
+void MainWindow::say(const QString& text)
+{
+    statusBar()->showMessage(text);
+}
+
+void MainWindow::complain(const QString& text)
+{
+    PlatformLog::take(); // the message says it already
+    say(text.section(QLatin1Char('\n'), 0, 0));
+    VKD_QT_MessageBox::warning(this, tr("Workbench"), text);
+}
+
+void MainWindow::saveWindowState() const
+{
+    WindowSettings settings;
+    settings.setValue(GeometryKey, saveGeometry());
+    settings.setValue(StateKey, saveState(StateVersion));
+}
+
+int MainWindow::index() const
+{
+    return m_document ? m_document->index() : 0;
+}
+
+QString MainWindow::folder() const
+{
+    return m_document ? QFileInfo(m_document->path()).absolutePath() : QDir::currentPath();
+}
+
+} // namespace workbench

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <functional>
+#include <memory>
+
+class AnimatorView;
+class QDockWidget;
+class QLabel;
+class VKD_H_ZOBDoc;
+
+namespace workbench {
+
+class DesignDialog;
+class GroupList;
+class OutputDialog;
+struct OutputState;
+class PickBanner;
+class RecordsPane;
+class ScriptPane;
+class WindowActions;
+
+/// The desktop around the library's pages: a project's model with its groups, the dialogs of the
+/// pages, the script of the present choice and the design records in the project file.
+///
+/// OK in a dialog writes into the project file at once. What may be unsaved is the choice in an
+/// open output dialog, which is asked for before the project is left; the script follows from the
+/// choice and is never asked for.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Makes a project file, which does not exist yet, from the name of a sample or a model file.
+    /// The result is why it cannot be made, empty if it was.
+    using ProjectMaker = std::function<QString(const QString& path, const QString& model)>;
+
+    explicit MainWindow(ProjectMaker maker, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Opens a project in place of the present one. If it cannot be opened, the user is told, and
+    /// the present one stays.
+    bool openProject(const QString& path);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void addCentre();
+    void addDocks();
+    QDockWidget* addDock(Qt::DockWidgetArea area, QWidget* widget, const char* name);
+    void connectActions();
+    void connectPanes();
+    void setTexts();
+    void setTitle();
+    void say(const QString& text);
+    void complain(const QString& text);
+    void saveWindowState() const;
+    int index() const;
+    QString folder() const;
+
+    void newProject(const QString& model);
+    void chooseModel();
+    void chooseProject();
+    void saveAs();
+    void setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
+    bool mayLeaveProject();
+
+    void editDesign();
+    void runDesign();
+    void storeDesign();
+    void startPicking();
+    void stopPicking();
+    void chooseGroup(int group);
+    void showPicked();
+
+    OutputDialog* output();
+    void makeOutput(const OutputState& state);
+    void showOutput();
+    bool storeOutput();
+    void refreshScript();
+    void setKeywords(bool english);
+    void copyScript();
+    void saveScript();
+
+    void setLanguage(int language);
+    void showHelp();
+    void showAbout();
+
+    ProjectMaker m_maker;
+    std::unique_ptr<VKD_H_ZOBDoc> m_document;
+    WindowActions* m_actions;
+    AnimatorView* m_view;
+    PickBanner* m_banner;
+    GroupList* m_groups;
+    ScriptPane* m_script;
+    RecordsPane* m_records;
+    QDockWidget* m_groupDock = nullptr;
+    QDockWidget* m_scriptDock = nullptr;
+    QDockWidget* m_recordDock = nullptr;
+    QLabel* m_contents;
+    std::unique_ptr<DesignDialog> m_design; // while it is open or away for picking
+    std::unique_ptr<OutputDialog> m_output;
+};
+
+} // namespace workbench

@@ -1,0 +1,228 @@
+#include "OutputDialog.h"
+
+#include "LoadCaseTable.h"
+
+#include <AnimatorView.h>
+#include <vkd_dbo_camera.h>
+#include <vkd_dbo_model.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <VKD_P_WidgetGraphicalOutput>
+#include <VKD_QT_RadioButtonGroup.h>
+#include <vkd_qt_xmlpart.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
+
+constexpr int DesktopCamera = 0;
+constexpr int UsersView = 4;
+constexpr int PlainLoadCase = 1;
+constexpr int WithSolids = 1; // entry of the group of contents
+
+/// What the page writes for its rows by itself, so that lists made here and there are equal.
+QString rowName(const vkd::dbo::LoadCase& loadCase)
+{
+    const QString number = QString::number(loadCase.number) + QLatin1Char(' ');
+    return loadCase.title.isEmpty() ? number : number + QLatin1String(": ") + loadCase.title;
+}
+
+QLabel* newHint(const QString& text)
+{
+    auto hint = new QLabel(text);
+    hint->setWordWrap(true);
+    return hint;
+}
+} // namespace
+
+OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, QWidget* parent)
+    : VKD_H_TabDialog(parent, "OutputDialog")
+    , m_document(document)
+    , m_parameter(document)
+    , m_view(new AnimatorView(document->index(), this, "OutputView"))
+    , m_page(new VKD_P_WidgetGraphicalOutput(this, VKD_P_GraphicalOutput_Standard, &m_parameter,
+                                             m_view))
+{
+    setWindowTitle(tr("Graphical output"));
+    setModal(false);
+    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40);
+    m_changes.setSingleShot(true);
+    connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
+    addTabs();
+    restore(kept);
+    listen();
+    setUnchanged();
+}
+
+/// Widgets that go tell of changes, which nobody is to hear once the timer has gone.
+OutputDialog::~OutputDialog()
+{
+    delete m_page;
+}
+
+void OutputDialog::addTabs()
+{
+    addTab(m_page, tr("Plots"));
+    addTab(newLoadCaseTab(), tr("Load cases"));
+    addTab(newContentTab(), tr("Contents"));
+}
+
+QWidget* OutputDialog::newLoadCaseTab()
+{
+    auto tab = new QWidget(this);
+    m_loadCases = new LoadCaseTable(m_document->index(), tab);
+    auto layout = new QVBoxLayout(tab);
+    layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. A change "
+                                 "brings back the plots that the catalogue proposes.")));
+    layout->addWidget(m_loadCases);
+    return tab;
+}
+
+QWidget* OutputDialog::newContentTab()
+{
+    StructRadioButtonGrup model;
+    model.text = tr("What the model holds");
+    StructRadioButtonGrup solids;
+    solids.text = tr("Also plots of solid elements");
+    auto tab = new QWidget(this);
+    m_contents =
+        new VKD_QT_RadioButtonGroup(tr("Plots on offer"), {model, solids}, tab, "ContentGroup");
+    m_contents->setButton(0);
+    auto layout = new QVBoxLayout(tab);
+    layout->addWidget(m_contents);
+    layout->addStretch();
+    return tab;
+}
+
+void OutputDialog::restore(const OutputState& kept)
+{
+    m_loadCases->setLeftOutNumbers(kept.leftOutNumbers);
+    m_tableBinding.setWidgets(m_page, m_loadCases, LoadCaseTable::NumberColumn,
+                              LoadCaseTable::CheckColumn, LoadCaseTable::TitleColumn);
+    m_contentBinding.setWidget(m_page, m_contents, QStringLiteral("Bric"), WithSolids);
+    if (kept.content == WithSolids) {
+        m_contents->setButton(WithSolids);
+        m_contentBinding.clicked(WithSolids); // a group does not tell what the program chooses
+    }
+    offerLoadCases();
+    if (kept.page.isEmpty())
+        vkd::dbo::setCamera(DesktopCamera, vkd::dbo::Camera()); // that of the project before
+    else
+        m_page->readXMLstring(kept.page);
+}
+
+/// The table stands for plain load cases alone; design combinations are always offered.
+void OutputDialog::offerLoadCases()
+{
+    const QSet<int> leftOut = m_loadCases->leftOutNumbers();
+    Rows rows;
+    const auto loadCases = vkd::dbo::readLoadCases(m_document->index());
+    for (const vkd::dbo::LoadCase& loadCase : loadCases)
+        if (loadCase.kind != PlainLoadCase || !leftOut.contains(loadCase.number))
+            rows.push_back({loadCase.kind, loadCase.number, rowName(loadCase)});
+    std::sort(rows.begin(), rows.end(),
+              [](const auto& a, const auto& b) { return a.number < b.number; });
+    m_page->setUsedNumbersAndNames(rows);
+}
+
+/// The page tells nobody about its changes, so its widgets are listened to.
+void OutputDialog::listen()
+{
+    const auto start = [this] { m_changes.start(0); };
+    for (const auto button : findChildren<QAbstractButton*>()) {
+        connect(button, &QAbstractButton::toggled, this, start);
+        connect(button, &QAbstractButton::clicked, this, start);
+    }
+    for (const auto combo : findChildren<QComboBox*>())
+        connect(combo, &QComboBox::currentTextChanged, this, start);
+    for (const auto edit : findChildren<QLineEdit*>())
+        connect(edit, &QLineEdit::textChanged, this, start);
+    for (const auto tree : m_page->findChildren<QTreeWidget*>()) {
+        connect(tree->model(), &QAbstractItemModel::dataChanged, this, start);
+        connect(tree->model(), &QAbstractItemModel::rowsInserted, this, start);
+        connect(tree->model(), &QAbstractItemModel::modelReset, this, start);
+    }
+    // Behind the binding, which has connected itself to the table before.
+    connect(m_loadCases, &QTableWidget::itemChanged, this, [this, start] {
+        offerLoadCases();
+        start();
+    });
+    m_view->installEventFilter(this);
+}
+
+/// The user's view goes with the camera of the view, which tells nobody either.
+bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||
+                         event->type() == QEvent::KeyRelease || event->type() == QEvent::Wheel;
+    if (watched == m_view && mayTurn && showsUsersView())
+        m_changes.start(0);
+    return VKD_H_TabDialog::eventFilter(watched, event);
+}
+
+bool OutputDialog::showsUsersView() const
+{
+    const auto views =
+        m_page->findChild<VKD_QT_RadioButtonGroup*>(QStringLiteral("PerspectiveGroup"));
+    return views && views->selectedButton() == UsersView;
+}
+
+QString OutputDialog::script(bool english)
+{
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, english ? 1 : 0);
+    if (showsUsersView())
+        m_view->slotViewControl(AnimatorStoreCamera, 0.0);
+    return m_page->getTORVAL(english);
+}
+
+OutputState OutputDialog::state()
+{
+    // The page stores the camera of its view, also one of a fixed view, which the user did not
+    // choose and is not to find when going back to a view of one's own.
+    const vkd::dbo::Camera users = vkd::dbo::camera(DesktopCamera);
+    OutputState present;
+    present.page = m_page->writeXMLstring();
+    if (!showsUsersView())
+        vkd::dbo::setCamera(DesktopCamera, users);
+    present.content = m_contents->selectedButton();
+    present.leftOutNumbers = m_loadCases->leftOutNumbers();
+    return present;
+}
+
+/// A fixed view moves its camera when it is shown first, which is no change of the user's.
+QString OutputDialog::fingerprint()
+{
+    const OutputState present = state();
+    QString text = present.page;
+    const QString camera = QStringLiteral("Camera");
+    if (!showsUsersView())
+        text.remove(vkd_qt_writeXMLpart(vkd_qt_readXMLpart(text, 0, camera), camera));
+    QList<int> leftOut = present.leftOutNumbers.values();
+    std::sort(leftOut.begin(), leftOut.end());
+    for (int number : leftOut)
+        text += QString::number(number) + QLatin1Char(';');
+    return text + QString::number(present.content);
+}
+
+bool OutputDialog::isChanged()
+{
+    return fingerprint() != m_unchanged;
+}
+
+void OutputDialog::setUnchanged()
+{
+    m_unchanged = fingerprint();
+}
+
+} // namespace workbench

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+namespace workbench {
+
+/// What the project keeps of the graphical output: the state string of the page and the choices of
+/// the host's own tabs.
+struct OutputState
+{
+    QString page;             ///< empty until it was stored first
+    int content = 0;          ///< entry of the group of contents
+    QSet<int> leftOutNumbers; ///< load cases that are not checked in the table
+
+    /// The state that lies in the project at this database index.
+    static OutputState read(int index);
+    /// False if the store refused; its log line says why.
+    bool write(int index) const;
+};
+
+} // namespace workbench

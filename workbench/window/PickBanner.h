@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QFrame>
+
+#include <vector>
+
+class QLabel;
+class QPushButton;
+
+namespace workbench {
+
+/// What stands above the view while groups are picked in it.
+class PickBanner : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit PickBanner(QWidget* parent = nullptr);
+
+    void setPicked(const std::vector<int>& groups);
+
+Q_SIGNALS:
+    void done();
+    void cancelled();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void setTexts();
+
+    std::vector<int> m_groups;
+    QLabel* m_what;
+    QLabel* m_picked;
+    QPushButton* m_done;
+    QPushButton* m_cancel;
+};
+
+} // namespace workbench

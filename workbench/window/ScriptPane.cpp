@@ -1,0 +1,161 @@
+#include "ScriptPane.h"
+
+#include "changedLines.h"
+#include "ScriptHighlighter.h"
+
+#include <VKD_QT4_ComboBox.h>
+
+#include <QEvent>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTextBlock>
+
+namespace workbench {
+
+namespace {
+enum Language { German = 0, English = 1 };
+
+QColor markColour(const QPalette& palette)
+{
+    QColor colour = palette.color(QPalette::Highlight);
+    colour.setAlpha(60); // the text keeps its own colours
+    return colour;
+}
+/// Some desktops give a proportional font for the one of fixed width.
+QFont fixedFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (!QFontInfo(font).fixedPitch()) {
+        font.setFamily(QStringLiteral("Monospace"));
+        font.setStyleHint(QFont::TypeWriter);
+    }
+    return font;
+}
+} // namespace
+
+ScriptPane::ScriptPane(QWidget* parent)
+    : QWidget(parent)
+    , m_languageLabel(new QLabel(this))
+    , m_language(new VKD_QT4_ComboBox(this, "KeywordLanguage"))
+    , m_text(new QPlainTextEdit(this))
+    , m_highlighter(new ScriptHighlighter(m_text->document(), palette()))
+    , m_copy(new QPushButton(this))
+    , m_save(new QPushButton(this))
+{
+    m_text->setObjectName(QStringLiteral("ScriptText"));
+    m_copy->setObjectName(QStringLiteral("CopyScript"));
+    m_save->setObjectName(QStringLiteral("SaveScript"));
+    m_languageLabel->setBuddy(m_language);
+    m_language->addItems({QString(), QString()});
+    m_text->setReadOnly(true);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_text->setFont(fixedFont());
+    auto head = new QHBoxLayout;
+    head->addWidget(m_languageLabel);
+    head->addWidget(m_language);
+    head->addStretch();
+    head->addWidget(m_copy);
+    head->addWidget(m_save);
+    auto layout = new QVBoxLayout(this);
+    layout->addLayout(head);
+    layout->addWidget(m_text);
+    connect(m_language, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this](int language) { Q_EMIT languageChosen(language == English); });
+    connect(m_copy, &QPushButton::clicked, this, &ScriptPane::copyWanted);
+    connect(m_save, &QPushButton::clicked, this, &ScriptPane::saveWanted);
+    setTexts();
+}
+
+bool ScriptPane::english() const
+{
+    return m_language->currentIndex() == English;
+}
+
+void ScriptPane::setEnglish(bool english)
+{
+    m_language->setCurrentIndex(english ? English : German);
+}
+
+void ScriptPane::setScript(const QString& script)
+{
+    if (script == m_script)
+        return;
+    const QVector<int> changed =
+        changedLines(m_script.split(QLatin1Char('\n')), script.split(QLatin1Char('\n')));
+    show(script);
+    mark(changed);
+}
+
+void ScriptPane::setOtherScript(const QString& script)
+{
+    show(script);
+    mark({});
+}
+
+int ScriptPane::changedLineCount() const
+{
+    return m_changed.size();
+}
+
+void ScriptPane::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+    if (event->type() == QEvent::PaletteChange) {
+        m_highlighter->setColours(palette());
+        mark(m_changed);
+    }
+}
+
+void ScriptPane::setTexts()
+{
+    const QSignalBlocker blocker(m_language);
+    m_languageLabel->setText(tr("&Keywords:"));
+    m_language->setItemText(German, tr("German"));
+    m_language->setItemText(English, tr("English"));
+    m_language->setAccessibleName(tr("Language of the keywords"));
+    m_text->setAccessibleName(tr("Script"));
+    m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical output."));
+    m_copy->setText(tr("&Copy"));
+    m_copy->setToolTip(tr("Puts the script on the clipboard"));
+    m_save->setText(tr("S&ave..."));
+    m_save->setToolTip(tr("Saves the script in a file"));
+}
+
+void ScriptPane::show(const QString& script)
+{
+    const int place = m_text->verticalScrollBar()->value();
+    m_script = script;
+    m_text->setPlainText(script);
+    m_text->verticalScrollBar()->setValue(place);
+    m_copy->setEnabled(!script.isEmpty());
+    m_save->setEnabled(!script.isEmpty());
+}
+
+void ScriptPane::mark(const QVector<int>& lines)
+{
+    m_changed = lines;
+    QList<QTextEdit::ExtraSelection> marks;
+    for (int line : lines) {
+        QTextEdit::ExtraSelection selection;
+        selection.cursor = QTextCursor(m_text->document()->findBlockByNumber(line));
+        selection.format.setBackground(markColour(palette()));
+        selection.format.setProperty(QTextFormat::FullWidthSelection, true);
+        marks << selection;
+    }
+    m_text->setExtraSelections(marks);
+    if (marks.isEmpty())
+        return;
+    m_text->setTextCursor(marks.first().cursor);
+    m_text->ensureCursorVisible();
+}
+
+} // namespace workbench

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace workbench {
+
+class ScriptHighlighter;
+
+/// The script of the present choice, with its lines that changed last marked by their background.
+class ScriptPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ScriptPane(QWidget* parent = nullptr);
+
+    /// The language of the keywords.
+    bool english() const;
+    void setEnglish(bool english);
+
+    QString script() const { return m_script; }
+    /// Shows a script. Lines that the one before lacks are marked; an equal script changes nothing.
+    void setScript(const QString& script);
+    /// Shows a script that has nothing to do with the one before.
+    void setOtherScript(const QString& script);
+    /// The number of lines that are marked.
+    int changedLineCount() const;
+
+Q_SIGNALS:
+    void languageChosen(bool english);
+    void copyWanted();
+    void saveWanted();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setTexts();
+    void show(const QString& script);
+    void mark(const QVector<int>& lines);
+
+    QString m_script;
+    QVector<int> m_changed;
+    QLabel* m_languageLabel;
+    QComboBox* m_language;
+    QPlainTextEdit* m_text;
+    ScriptHighlighter* m_highlighter;
+    QPushButton* m_copy;
+    QPushButton* m_save;
+};
+
+} // namespace workbench

@@ -1,0 +1,233 @@
+#include "WindowActions.h"
+
+#include <AnimatorViewControl.h>
+#include <vkd_lib_searchpath.h>
+#include <vkd_lib_value.h>
+#include <vkd_qt_icon_named.h>
+
+#include <QActionGroup>
+#include <QDir>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QStyle>
+#include <QToolBar>
+
+namespace workbench {
+
+namespace {
+struct Named
+{
+    const char* name;
+    const char* text;
+};
+
+constexpr Named Samples[] = {
+    {"building", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Building")},
+    {"slab", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Slab")},
+    {"hall", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Hall")},
+};
+
+struct View
+{
+    AnimatorViewControl control;
+    const char* text;
+};
+
+constexpr View Views[] = {
+    {AnimatorShowAll, QT_TRANSLATE_NOOP("workbench::WindowActions", "Show &All")},
+    {AnimatorStandardView, QT_TRANSLATE_NOOP("workbench::WindowActions", "&3D Standard")},
+    {AnimatorViewXY, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Y")},
+    {AnimatorViewXZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Z")},
+    {AnimatorViewYZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "Vie&w Y/Z")},
+};
+
+QString sampleText(const QAction* action)
+{
+    for (const Named& sample : Samples)
+        if (action->data().toString() == QLatin1String(sample.name))
+            return WindowActions::tr(sample.text);
+    return QString();
+}
+
+bool isInstalled(const char* sample)
+{
+    const QByteArray file = QByteArray("models/") + sample + ".json";
+    return vkd_lib_searchpath(file.constData(), 3).has_value();
+}
+} // namespace
+
+WindowActions::WindowActions(QMainWindow* window)
+    : QObject(window)
+    , newFromFile(add("NewFromFile"))
+    , open(add("Open"))
+    , saveAs(add("SaveAs"))
+    , copyScript(add("CopyScriptAction"))
+    , saveScript(add("SaveScriptAction"))
+    , quit(add("Quit"))
+    , design(add("Design"))
+    , output(add("Output"))
+    , german(add("German"))
+    , english(add("English"))
+    , designHelp(add("DesignHelp"))
+    , about(add("About"))
+{
+    addSamples();
+    addViews();
+    auto languages = new QActionGroup(this);
+    for (QAction* language : {german, english}) {
+        language->setCheckable(true);
+        languages->addAction(language);
+    }
+    const QStyle* style = window->style();
+    open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
+    saveScript->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
+    design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/groups")));
+    output->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/contents")));
+    addMenus(window);
+    addToolBar(window);
+    setShortcuts();
+    setTexts();
+}
+
+QAction* WindowActions::add(const char* name)
+{
+    auto action = new QAction(this);
+    action->setObjectName(QLatin1String(name));
+    return action;
+}
+
+void WindowActions::addSamples()
+{
+    for (const Named& sample : Samples)
+        if (isInstalled(sample.name)) {
+            QAction* action = add("NewFromSample");
+            action->setData(QLatin1String(sample.name));
+            newFromSample << action;
+        }
+}
+
+void WindowActions::addViews()
+{
+    for (const View& view : Views) {
+        QAction* action = add("View");
+        action->setData(int(view.control));
+        views << action;
+    }
+}
+
+void WindowActions::addMenus(QMainWindow* window)
+{
+    QMenuBar* bar = window->menuBar();
+    m_fileMenu = bar->addMenu(QString());
+    m_newMenu = m_fileMenu->addMenu(QString());
+    m_newMenu->addActions(newFromSample.toList());
+    m_newMenu->addSeparator();
+    m_newMenu->addAction(newFromFile);
+    m_fileMenu->addAction(open);
+    recentMenu = m_fileMenu->addMenu(QString());
+    m_fileMenu->addAction(saveAs);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addActions({copyScript, saveScript});
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(quit);
+    viewMenu = bar->addMenu(QString());
+    viewMenu->addActions(views.toList());
+    viewMenu->addSeparator();
+    m_projectMenu = bar->addMenu(QString());
+    m_projectMenu->addActions({design, output});
+    m_languageMenu = bar->addMenu(QString());
+    m_languageMenu->addActions({german, english});
+    m_helpMenu = bar->addMenu(QString());
+    m_helpMenu->addActions({designHelp, about});
+}
+
+void WindowActions::addToolBar(QMainWindow* window)
+{
+    m_toolBar = window->addToolBar(QString());
+    m_toolBar->setObjectName(QStringLiteral("ToolBar"));
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_toolBar->addAction(open);
+    m_toolBar->addSeparator();
+    m_toolBar->addActions({design, output});
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(saveScript);
+    m_toolBar->addSeparator();
+    m_toolBar->addActions(views.toList());
+}
+
+void WindowActions::setShortcuts()
+{
+    open->setShortcut(QKeySequence::Open);
+    saveAs->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_S);
+    copyScript->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_C);
+    saveScript->setShortcut(QKeySequence::Save);
+    quit->setShortcut(Qt::CTRL + Qt::Key_Q);
+    design->setShortcut(Qt::CTRL + Qt::Key_D);
+    output->setShortcut(Qt::CTRL + Qt::Key_G);
+    designHelp->setShortcut(QKeySequence::HelpContents);
+    for (int i = 0; i < views.size(); ++i)
+        views[i]->setShortcut(Qt::CTRL + (Qt::Key_0 + i));
+}
+
+void WindowActions::setTexts()
+{
+    m_fileMenu->setTitle(tr("&File"));
+    m_newMenu->setTitle(tr("&New from Model"));
+    recentMenu->setTitle(tr("Open &Recent"));
+    viewMenu->setTitle(tr("&View"));
+    m_projectMenu->setTitle(tr("&Project"));
+    m_languageMenu->setTitle(tr("&Language"));
+    m_helpMenu->setTitle(tr("&Help"));
+    m_toolBar->setWindowTitle(tr("Tool Bar"));
+    for (QAction* action : qAsConst(newFromSample))
+        action->setText(sampleText(action));
+    for (int i = 0; i < views.size(); ++i)
+        views[i]->setText(tr(Views[i].text));
+    newFromFile->setText(tr("&Model File..."));
+    open->setText(tr("&Open..."));
+    saveAs->setText(tr("Save &As..."));
+    copyScript->setText(tr("&Copy Script"));
+    saveScript->setText(tr("&Save Script..."));
+    quit->setText(tr("&Quit"));
+    design->setText(tr("&Design Parameters..."));
+    output->setText(tr("&Graphical Output..."));
+    german->setText(tr("&German"));
+    english->setText(tr("&English"));
+    designHelp->setText(tr("&Design Parameters"));
+    about->setText(tr("&About"));
+    const bool isEnglish = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0;
+    (isEnglish ? english : german)->setChecked(true);
+}
+
+void WindowActions::enable(bool hasProject, bool isPicking)
+{
+    for (QAction* action : qAsConst(newFromSample))
+        action->setEnabled(!isPicking);
+    for (QAction* action : {newFromFile, open, german, english, quit})
+        action->setEnabled(!isPicking);
+    recentMenu->setEnabled(!isPicking && !recentMenu->isEmpty());
+    for (QAction* action : {saveAs, design, output})
+        action->setEnabled(hasProject && !isPicking);
+    for (QAction* action : qAsConst(views))
+        action->setEnabled(hasProject);
+}
+
+void WindowActions::setHasScript(bool hasScript)
+{
+    copyScript->setEnabled(hasScript);
+    saveScript->setEnabled(hasScript);
+}
+
+void WindowActions::setRecentFiles(const QStringList& paths)
+{
+    recentMenu->clear();
+    int number = 0;
+    for (const QString& path : paths) {
+        QString shown = QDir::toNativeSeparators(path);
+        shown.replace(QLatin1Char('&'), QLatin1String("&&"));
+        recentMenu->addAction(QStringLiteral("&%1 %2").arg(++number).arg(shown))->setData(path);
+    }
+    recentMenu->setEnabled(!paths.isEmpty());
+}
+
+} // namespace workbench

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QObject>
+#include <QVector>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+
+namespace workbench {
+
+/// The menus, the tool bar and their actions. They do nothing by themselves; the window connects
+/// them.
+class WindowActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Adds menus and tool bar to the window, which becomes the owner.
+    explicit WindowActions(QMainWindow* window);
+
+    /// Texts and short cuts in the language of the desktop.
+    void setTexts();
+    /// What can be done: nearly all of it needs a project, and while groups are picked the project
+    /// must stay as it is.
+    void enable(bool hasProject, bool isPicking);
+    void setHasScript(bool hasScript);
+    /// The files to open again. The data of each of the menu's actions is its path.
+    void setRecentFiles(const QStringList& paths);
+
+    QVector<QAction*> newFromSample; ///< the data is the name of the model
+    QAction* newFromFile;
+    QAction* open;
+    QAction* saveAs;
+    QAction* copyScript;
+    QAction* saveScript;
+    QAction* quit;
+    QVector<QAction*> views; ///< the data is an AnimatorViewControl
+    QAction* design;
+    QAction* output;
+    QAction* german;
+    QAction* english;
+    QAction* designHelp;
+    QAction* about;
+
+    QMenu* recentMenu = nullptr;
+    QMenu* viewMenu = nullptr;
+
+private:
+    QAction* add(const char* name);
+    void addSamples();
+    void addViews();
+    void addMenus(QMainWindow* window);
+    void addToolBar(QMainWindow* window);
+    void setShortcuts();
+
+    QMenu* m_fileMenu = nullptr;
+    QMenu* m_newMenu = nullptr;
+    QMenu* m_projectMenu = nullptr;
+    QMenu* m_languageMenu = nullptr;
+    QMenu* m_helpMenu = nullptr;
+    QToolBar* m_toolBar = nullptr;
+};
+
+} // namespace workbench

@@ -1,0 +1,25 @@
+#include "runWindow.h"
+
+#include "WindowSettings.h"
+
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+
+#include <QApplication>
+#include <QTimer>
+
+namespace workbench {
+
+int runWindow(const QString& path, MainWindow::ProjectMaker maker)
+{
+    const int language = WindowSettings().language(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    VKD_QT_InitTranslator::languageChanged();
+    MainWindow window(std::move(maker));
+    window.show();
+    if (!path.isEmpty()) // behind the first painting, which a message box would hold up
+        QTimer::singleShot(0, &window, [&window, path] { window.openProject(path); });
+    return QApplication::exec();
+}
+
+} // namespace workbench

@@ -1,0 +1,229 @@
+// The main window and the dialogs of the pages: design parameters with picking, graphical output
+// with its script.
+
+#include "DesignDialog.h"
+#include "GroupList.h"
+#include "MainWindow.h"
+#include "OutputDialog.h"
+#include "PickBanner.h"
+#include "PlatformLog.h"
+#include "RecordsPane.h"
+#include "ScriptPane.h"
+#include "WindowActions.h"
+#include "WindowSettings.h"
+
+#include <AnimatorView.h>
+#include <VKD_H_SelGRP_Dialog.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+#include <VKD_T_Help.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <QStatusBar>
+
+#include <algorithm>
+
+namespace workbench {
+
+void MainWindow::editDesign()
+{
+    m_design = std::make_unique<DesignDialog>(m_document.get(), this);
+    runDesign();
+}
+
+void MainWindow::runDesign()
+{
+    const int result = m_design->exec();
+    if (result == VKD_H_SelGRP_Dialog::PickOutside)
+        return startPicking();
+    if (result == QDialog::Accepted)
+        storeDesign();
+    else
+        say(tr("The design parameters stay as they were."));
+    m_design.reset();
+    m_records->setProject(index()); // the page itself puts a record into a project without any
+}
+
+void MainWindow::storeDesign()
+{
+    PlatformLog::take();
+    const bool entriesStored = m_design->store();
+    const QStringList troubles = PlatformLog::take();
+    if (entriesStored && troubles.isEmpty())
+        return say(tr("The design parameters are in the project file."));
+    complain(
+        tr("The design parameters cannot be stored in the project.\n%1").arg(troubles.value(0)));
+}
+
+void MainWindow::startPicking()
+{
+    m_view->setPickedGroups({});
+    m_view->setPicking(true);
+    m_banner->setPicked({});
+    m_banner->show();
+    m_actions->enable(true, true);
+    say(tr("Pick groups in the view, or by Enter in the list of groups."));
+}
+
+void MainWindow::stopPicking()
+{
+    m_view->setPicking(false);
+    m_view->setPickedGroups({});
+    m_groups->setMarkedGroup(AnimatorView::NoGroup);
+    m_banner->hide();
+    m_actions->enable(true, false);
+    statusBar()->clearMessage();
+}
+
+/// So that groups can be picked by the keyboard, too.
+void MainWindow::chooseGroup(int group)
+{
+    if (!m_view->isPicking())
+        return;
+    std::vector<int> groups = m_view->pickedGroups();
+    const auto place = std::find(groups.begin(), groups.end(), group);
+    if (place == groups.end())
+        groups.push_back(group);
+    else
+        groups.erase(place);
+    m_view->setPickedGroups(groups);
+    showPicked();
+}
+
+void MainWindow::showPicked()
+{
+    m_banner->setPicked(m_view->pickedGroups());
+}
+
+OutputDialog* MainWindow::output()
+{
+    if (!m_output)
+        makeOutput(OutputState::read(index()));
+    return m_output.get();
+}
+
+void MainWindow::makeOutput(const OutputState& state)
+{
+    m_output = std::make_unique<OutputDialog>(m_document.get(), state, this);
+    connect(m_output.get(), &OutputDialog::choiceChanged, this, &MainWindow::refreshScript);
+    connect(m_output.get(), &QDialog::accepted, this, &MainWindow::storeOutput);
+    connect(m_output.get(), &QDialog::rejected, this, [this] {
+        m_output.release()->deleteLater(); // it is still busy with closing
+        say(tr("The choice of plots is again that of the project."));
+        refreshScript();
+    });
+}
+
+void MainWindow::showOutput()
+{
+    output()->show();
+    output()->raise();
+    output()->activateWindow();
+}
+
+bool MainWindow::storeOutput()
+{
+    PlatformLog::take();
+    const bool isStored = output()->state().write(index());
+    const QStringList troubles = PlatformLog::take();
+    if (!isStored || !troubles.isEmpty()) {
+        complain(
+            tr("The choice of plots cannot be stored in the project.\n%1").arg(troubles.value(0)));
+        return false;
+    }
+    output()->setUnchanged();
+    setWindowModified(false);
+    say(tr("The choice of plots is in the project file."));
+    return true;
+}
+
+void MainWindow::refreshScript()
+{
+    if (!m_document)
+        return;
+    const bool isFirst = !m_output;
+    const QString script = output()->script(m_script->english());
+    if (isFirst && m_script->script().isEmpty())
+        m_script->setOtherScript(script);
+    else
+        m_script->setScript(script);
+    setWindowModified(m_output->isChanged());
+    m_actions->setHasScript(!script.isEmpty());
+}
+
+void MainWindow::setKeywords(bool english)
+{
+    WindowSettings().setEnglishKeywords(english);
+    if (m_document)
+        m_script->setOtherScript(output()->script(english));
+}
+
+void MainWindow::copyScript()
+{
+    QApplication::clipboard()->setText(m_script->script());
+    say(tr("The script is on the clipboard."));
+}
+
+void MainWindow::saveScript()
+{
+    const QString proposal = QDir(folder()).filePath(
+        QFileInfo(m_document->path()).completeBaseName() + QLatin1String(".dat"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Script"), proposal,
+                                                      tr("Scripts (*.dat)") + QLatin1String(";;") +
+                                                          tr("All files (*)"));
+    if (path.isEmpty())
+        return;
+    QSaveFile file(path);
+    const QByteArray bytes = m_script->script().toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return complain(tr("The script cannot be written.\n%1").arg(file.errorString()));
+    say(tr("The script is saved in %1.").arg(QDir::toNativeSeparators(path)));
+}
+
+/// The pages take their texts when they are made, so the output page is made anew.
+void MainWindow::setLanguage(int language)
+{
+    if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == language)
+        return;
+    const bool wasOpen = m_output && m_output->isVisible();
+    const bool wasChanged = m_output && m_output->isChanged();
+    const QRect place = wasOpen ? m_output->geometry() : QRect();
+    const OutputState state = m_output ? m_output->state() : OutputState();
+    const bool wasMade = bool(m_output);
+    m_output.reset();
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    VKD_QT_InitTranslator::languageChanged();
+    WindowSettings().setLanguage(language);
+    if (wasMade)
+        makeOutput(state);
+    if (wasChanged)
+        m_output->setChanged();
+    if (wasOpen) {
+        m_output->setGeometry(place);
+        m_output->show();
+    }
+    refreshScript();
+    say(tr("The texts are in English now."));
+}
+
+void MainWindow::showHelp()
+{
+    if (!VKD_T_Help::show(this, VKD_T_String("MERDAN"), VKD_T_String("PARA")))
+        complain(tr("The help is not installed."));
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About"),
+                       tr("Workbench %1\n\nHosts the pages for design parameters and graphical "
+                          "output on projects of their own.")
+                           .arg(QApplication::applicationVersion()));
+}
+
+} // namespace workbench
