@@ -9,6 +9,7 @@
 #include "ScriptPane.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
+#include "windowTexts.h"
 
 #include <AnimatorView.h>
 #include <vkd_dbo_model.h>
@@ -32,10 +33,17 @@ namespace {
 constexpr int StateVersion = 1;
 const QString GeometryKey = QStringLiteral("geometry");
 const QString StateKey = QStringLiteral("state");
+
+/// The parts of the window take their texts as they are built.
+QWidget* withTexts(QWidget* parent)
+{
+    installWindowTexts();
+    return parent;
+}
 } // namespace
 
 MainWindow::MainWindow(ProjectMaker maker, QWidget* parent)
-    : QMainWindow(parent)
+    : QMainWindow(withTexts(parent))
     , m_maker(std::move(maker))
     , m_actions(new WindowActions(this))
     , m_view(new AnimatorView(0, this))

@@ -1,0 +1,540 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>projectTrouble</name>
+    <message>
+        <source>It is not there or cannot be opened.</source>
+        <translation>Sie ist nicht vorhanden oder kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>It is no project file.</source>
+        <translation>Sie ist keine Projektdatei.</translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of the programs.</source>
+        <translation>Sie wurde von einer neueren Version der Programme geschrieben.</translation>
+    </message>
+    <message>
+        <source>It is damaged.</source>
+        <translation>Sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>It is write-protected.</source>
+        <translation>Sie ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk.</source>
+        <translation>Auf dem Datenträger ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>Another program is writing to it.</source>
+        <translation>Ein anderes Programm schreibt gerade hinein.</translation>
+    </message>
+    <message>
+        <source>The system cannot read it.</source>
+        <translation>Das System kann sie nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be opened.
+%2</source>
+        <translation>Die Datei %1 kann nicht geöffnet werden.
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::DesignDialog</name>
+    <message>
+        <source>Design parameters</source>
+        <translation>Bemessungsparameter</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::GroupList</name>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Groups of the model. Pointing at one lights it up in the view.</source>
+        <translation>Gruppen des Modells. Die Gruppe unter dem Mauszeiger leuchtet in der Ansicht auf.</translation>
+    </message>
+    <message>
+        <source>Quads %1</source>
+        <translation>Flächen %1</translation>
+    </message>
+    <message>
+        <source>Beams %1</source>
+        <translation>Stäbe %1</translation>
+    </message>
+    <message>
+        <source>Trusses %1</source>
+        <translation>Fachwerkstäbe %1</translation>
+    </message>
+    <message>
+        <source>Cables %1</source>
+        <translation>Seile %1</translation>
+    </message>
+    <message>
+        <source>Springs %1</source>
+        <translation>Federn %1</translation>
+    </message>
+    <message>
+        <source>Solids %1</source>
+        <translation>Volumen %1</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::LoadCaseTable</name>
+    <message>
+        <source>Load cases</source>
+        <translation>Lastfälle</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Number of the load case</source>
+        <translation>Nummer des Lastfalls</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Anbieten</translation>
+    </message>
+    <message>
+        <source>Whether the plots offer the load case</source>
+        <translation>Ob der Lastfall bei den Bildern angeboten wird</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Title of the load case</source>
+        <translation>Bezeichnung des Lastfalls</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MainWindow</name>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>Workbench</source>
+        <translation>Werkbank</translation>
+    </message>
+    <message>
+        <source>No project</source>
+        <translation>Kein Projekt</translation>
+    </message>
+    <message>
+        <source>Groups: %1, load cases: %2</source>
+        <translation>Gruppen: %1, Lastfälle: %2</translation>
+    </message>
+    <message>
+        <source>The design parameters stay as they were.</source>
+        <translation>Die Bemessungsparameter bleiben, wie sie waren.</translation>
+    </message>
+    <message>
+        <source>The design parameters are in the project file.</source>
+        <translation>Die Bemessungsparameter stehen in der Projektdatei.</translation>
+    </message>
+    <message>
+        <source>The design parameters cannot be stored in the project.
+%1</source>
+        <translation>Die Bemessungsparameter können nicht im Projekt gespeichert werden.
+%1</translation>
+    </message>
+    <message>
+        <source>Pick groups in the view, or by Enter in the list of groups.</source>
+        <translation>Gruppen in der Ansicht wählen oder mit der Eingabetaste in der Liste der Gruppen.</translation>
+    </message>
+    <message>
+        <source>The choice of plots is again that of the project.</source>
+        <translation>Die Auswahl der Bilder ist wieder die des Projekts.</translation>
+    </message>
+    <message>
+        <source>The choice of plots cannot be stored in the project.
+%1</source>
+        <translation>Die Auswahl der Bilder kann nicht im Projekt gespeichert werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The choice of plots is in the project file.</source>
+        <translation>Die Auswahl der Bilder steht in der Projektdatei.</translation>
+    </message>
+    <message>
+        <source>The script is on the clipboard.</source>
+        <translation>Das Skript liegt in der Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Skript speichern</translation>
+    </message>
+    <message>
+        <source>Scripts (*.dat)</source>
+        <translation>Skripte (*.dat)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The script cannot be written.
+%1</source>
+        <translation>Das Skript kann nicht geschrieben werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The script is saved in %1.</source>
+        <translation>Das Skript ist in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The texts are in English now.</source>
+        <translation>Die Texte sind jetzt deutsch.</translation>
+    </message>
+    <message>
+        <source>The help is not installed.</source>
+        <translation>Die Hilfe ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Workbench %1
+
+Hosts the pages for design parameters and graphical output on projects of their own.</source>
+        <translation>Werkbank %1
+
+Zeigt die Seiten für Bemessungsparameter und grafische Ausgabe an eigenen Projekten.</translation>
+    </message>
+    <message>
+        <source>Model for a New Project</source>
+        <translation>Modell für ein neues Projekt</translation>
+    </message>
+    <message>
+        <source>Models (*.json)</source>
+        <translation>Modelle (*.json)</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Projects (*.zob)</source>
+        <translation>Projekte (*.zob)</translation>
+    </message>
+    <message>
+        <source>The project %1 is open.
+Choose another name.</source>
+        <translation>Das Projekt %1 ist geöffnet.
+Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>The project cannot be made.
+%1</source>
+        <translation>Das Projekt kann nicht angelegt werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Projekt speichern unter</translation>
+    </message>
+    <message>
+        <source>The choice of plots cannot be stored in the project.</source>
+        <translation>Die Auswahl der Bilder kann nicht im Projekt gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The project is saved as %1.</source>
+        <translation>Das Projekt ist als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The choice of plots is changed and not yet in the project.
+Is it to be stored?</source>
+        <translation>Die Auswahl der Bilder ist geändert und steht noch nicht im Projekt.
+Soll sie gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Finish picking groups first, with Done or Cancel.</source>
+        <translation>Zuerst die Wahl der Gruppen mit Fertig oder Abbrechen beenden.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::OutputDialog</name>
+    <message>
+        <source>Graphical output</source>
+        <translation>Grafische Ausgabe</translation>
+    </message>
+    <message>
+        <source>Plots</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Load cases</source>
+        <translation>Lastfälle</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>The plots offer the load cases that are checked here. A change brings back the plots that the catalogue proposes.</source>
+        <translation>Bei den Bildern werden die hier angehakten Lastfälle angeboten. Eine Änderung stellt die Bilder wieder her, die der Katalog vorschlägt.</translation>
+    </message>
+    <message>
+        <source>What the model holds</source>
+        <translation>Was das Modell enthält</translation>
+    </message>
+    <message>
+        <source>Also plots of solid elements</source>
+        <translation>Auch Bilder von Volumenelementen</translation>
+    </message>
+    <message>
+        <source>Plots on offer</source>
+        <translation>Angebotene Bilder</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PickBanner</name>
+    <message>
+        <source>Pick groups in the view, then press Done.</source>
+        <translation>Gruppen in der Ansicht wählen, dann Fertig drücken.</translation>
+    </message>
+    <message>
+        <source>No group is picked yet.</source>
+        <translation>Noch keine Gruppe gewählt.</translation>
+    </message>
+    <message>
+        <source>Picked: %1</source>
+        <translation>Gewählt: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Done</source>
+        <translation>Ferti&amp;g</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::RecordsPane</name>
+    <message>
+        <source>Design records</source>
+        <translation>Bemessungsdatensätze</translation>
+    </message>
+    <message>
+        <source>The design records as they lie in the project file. Each row is a word of four bytes.</source>
+        <translation>Die Bemessungsdatensätze, wie sie in der Projektdatei liegen. Jede Zeile ist ein Wort von vier Byte.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Record %1</source>
+        <translation>Datensatz %1</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ScriptPane</name>
+    <message>
+        <source>&amp;Keywords:</source>
+        <translation>Schlüssel&amp;wörter:</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Englisch</translation>
+    </message>
+    <message>
+        <source>Language of the keywords</source>
+        <translation>Sprache der Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>No plot is chosen. Choose plots in Graphical output.</source>
+        <translation>Es ist kein Bild gewählt. Bilder werden in der grafischen Ausgabe gewählt.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Puts the script on the clipboard</source>
+        <translation>Legt das Skript in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>S&amp;ave...</source>
+        <translation>Sp&amp;eichern ...</translation>
+    </message>
+    <message>
+        <source>Saves the script in a file</source>
+        <translation>Speichert das Skript in einer Datei</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WindowActions</name>
+    <message>
+        <source>&amp;Building</source>
+        <translation>&amp;Gebäude</translation>
+    </message>
+    <message>
+        <source>&amp;Slab</source>
+        <translation>&amp;Decke</translation>
+    </message>
+    <message>
+        <source>&amp;Hall</source>
+        <translation>&amp;Halle</translation>
+    </message>
+    <message>
+        <source>Show &amp;All</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;3D Standard</source>
+        <translation>&amp;3D-Standard</translation>
+    </message>
+    <message>
+        <source>View X/&amp;Y</source>
+        <translation>Ansicht X/&amp;Y</translation>
+    </message>
+    <message>
+        <source>View X/&amp;Z</source>
+        <translation>Ansicht X/&amp;Z</translation>
+    </message>
+    <message>
+        <source>Vie&amp;w Y/Z</source>
+        <translation>Ansic&amp;ht Y/Z</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New from Model</source>
+        <translation>&amp;Neu aus Modell</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Projekt</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;Model File...</source>
+        <translation>&amp;Modelldatei ...</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen ...</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Script</source>
+        <translation>Skript &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save Script...</source>
+        <translation>Skript &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Design Parameters...</source>
+        <translation>&amp;Bemessungsparameter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Graphical Output...</source>
+        <translation>&amp;Grafische Ausgabe ...</translation>
+    </message>
+    <message>
+        <source>&amp;German</source>
+        <translation>&amp;Deutsch</translation>
+    </message>
+    <message>
+        <source>&amp;English</source>
+        <translation>&amp;Englisch</translation>
+    </message>
+    <message>
+        <source>&amp;Design Parameters</source>
+        <translation>&amp;Bemessungsparameter</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Über</translation>
+    </message>
+</context>
+</TS>
