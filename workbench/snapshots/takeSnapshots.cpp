@@ -3,6 +3,7 @@
 #include "designSnapshots.h"
 #include "outputSnapshots.h"
 #include "SnapshotAlbum.h"
+#include "windowSnapshots.h"
 
 #include <VKD_H_ZOBDoc.h>
 
@@ -23,6 +24,7 @@ QStringList takeSnapshots(const QString& project, const QString& folder)
     if (!document)
         throw std::runtime_error(project.toStdString() + " is no project");
     SnapshotAlbum album(folder);
+    addWindowSnapshots(album, copy);
     addDesignSnapshots(album, document.get());
     addOutputSnapshots(album, document.get());
     return album.files();

@@ -30,16 +30,17 @@ LoadCaseTable::LoadCaseTable(int index, QWidget* parent)
 void LoadCaseTable::addColumns()
 {
     const auto description = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(NoDimension);
-    setHorizontalHeaderItem(NumberColumn, new VKD_H_TwHeaderLineEditItem(
-                                              NumberColumn, description, tr("Number"),
-                                              tr("Number of the load case"), true, Qt::AlignRight));
+    setHorizontalHeaderItem(NumberColumn,
+                            new VKD_H_TwHeaderLineEditItem(NumberColumn, description, tr("Number"),
+                                                           tr("Number of the load case"), true,
+                                                           Qt::AlignRight | Qt::AlignVCenter));
     setHorizontalHeaderItem(
         CheckColumn, new VKD_H_TwHeaderCheckBoxItem(CheckColumn, tr("Offer"),
                                                     tr("Whether the plots offer the load case"),
                                                     true, Qt::AlignCenter));
     setHorizontalHeaderItem(TitleColumn, new VKD_H_TwHeaderItem(TitleColumn, tr("Title"),
                                                                 tr("Title of the load case"), true,
-                                                                Qt::AlignLeft));
+                                                                Qt::AlignLeft | Qt::AlignVCenter));
 }
 
 void LoadCaseTable::addLoadCase(int number, const QString& title)

@@ -38,6 +38,22 @@ QString rowName(const vkd::dbo::LoadCase& loadCase)
     return loadCase.title.isEmpty() ? number : number + QLatin1String(": ") + loadCase.title;
 }
 
+/// The catalogue is kept for the life of the process, and once read in two languages it offers each
+/// plot twice. So every page finds the language of the first one when it is made. Captions are made
+/// when the tree is filled, which offering the load cases does once more.
+VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
+                                     AnimatorView* view)
+{
+    static const int first = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    const int present = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, first);
+    auto page =
+        new VKD_P_WidgetGraphicalOutput(parent, VKD_P_GraphicalOutput_Standard, parameter, view);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, present);
+    page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // no list of a project
+    return page;
+}
+
 QLabel* newHint(const QString& text)
 {
     auto hint = new QLabel(text);
@@ -51,8 +67,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, QWid
     , m_document(document)
     , m_parameter(document)
     , m_view(new AnimatorView(document->index(), this, "OutputView"))
-    , m_page(new VKD_P_WidgetGraphicalOutput(this, VKD_P_GraphicalOutput_Standard, &m_parameter,
-                                             m_view))
+    , m_page(newPage(this, &m_parameter, m_view))
 {
     setWindowTitle(tr("Graphical output"));
     setModal(false);

@@ -20,10 +20,12 @@ PickBanner::PickBanner(QWidget* parent)
     m_cancel->setObjectName(QStringLiteral("PickCancel"));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Highlight);
-    for (QLabel* label : {m_what, m_picked})
+    for (QLabel* label : {m_what, m_picked}) {
         label->setForegroundRole(QPalette::HighlightedText);
+        label->setWordWrap(true); // the banner is not to widen the view
+    }
     auto layout = new QHBoxLayout(this);
-    layout->addWidget(m_what);
+    layout->addWidget(m_what, 1);
     layout->addWidget(m_picked, 1);
     layout->addWidget(m_done);
     layout->addWidget(m_cancel);

@@ -1,0 +1,79 @@
+#include "windowSnapshots.h"
+
+#include "SnapshotAlbum.h"
+
+#include <MainWindow.h>
+#include <VKD_H_SelGRP_Dialog.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QPushButton>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace workbench {
+
+namespace {
+QPalette darkPalette()
+{
+    QPalette palette(QColor(53, 53, 53), QColor(45, 45, 45));
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(42, 42, 42));
+    palette.setColor(QPalette::Link, QColor(90, 160, 240));
+    return palette;
+}
+
+void trigger(const MainWindow& window, const char* action)
+{
+    window.findChild<QAction*>(QLatin1String(action))->trigger();
+}
+
+void addPicking(SnapshotAlbum& album, MainWindow& window, const QString& look)
+{
+    QTimer::singleShot(0, qApp, [] {
+        auto dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        dialog->done(VKD_H_SelGRP_Dialog::PickOutside);
+    });
+    trigger(window, "Design");
+    album.add(QStringLiteral("window-picking") + look, &window);
+    album.addModal(QStringLiteral("window-design") + look, [&window] {
+        window.findChild<QPushButton*>(QStringLiteral("PickCancel"))->click();
+    });
+}
+
+void addOutput(SnapshotAlbum& album, const MainWindow& window, const QString& look)
+{
+    trigger(window, "Output");
+    auto dialog = window.findChild<QDialog*>(QStringLiteral("OutputDialog"));
+    auto tabs = dialog->findChild<QTabWidget*>();
+    const char* names[] = {"plots", "loadcases", "contents"};
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        album.add(QStringLiteral("window-output-") + QLatin1String(names[tab]) + look, dialog);
+    }
+    dialog->reject();
+}
+} // namespace
+
+void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
+{
+    const QTemporaryDir settings; // the user's own are not to change
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+    const QPalette light = QApplication::palette();
+    for (const bool isDark : {false, true}) {
+        QApplication::setPalette(isDark ? darkPalette() : light);
+        const QString look = isDark ? QStringLiteral("-dark") : QString();
+        MainWindow window([](const QString&, const QString&) { return QString(); });
+        window.show();
+        window.openProject(project);
+        album.add(QStringLiteral("window") + look, &window);
+        addOutput(album, window, look);
+        addPicking(album, window, look);
+    }
+    QApplication::setPalette(light);
+}
+
+} // namespace workbench
