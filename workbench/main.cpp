@@ -35,9 +35,10 @@ QStringList commandOf(int argc, char* argv[])
 
 /// Pictures are drawn off the screen, so that none is needed; other commands than these two do
 /// without widgets.
-std::unique_ptr<QCoreApplication> newApplication(const QString& command, int& argc, char* argv[])
+std::unique_ptr<QCoreApplication> newApplication(bool opensWindow, const QString& command,
+                                                 int& argc, char* argv[])
 {
-    if (command == QLatin1String("window"))
+    if (opensWindow)
         return std::make_unique<QApplication>(argc, argv);
     if (command != QLatin1String("snapshots"))
         return std::make_unique<QCoreApplication>(argc, argv);
@@ -54,14 +55,16 @@ int main(int argc, char* argv[])
     workbench::PlatformLog::install();
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     const QStringList command = commandOf(argc, argv);
-    if (command.value(0) == QLatin1String("window") && command.size() < 3 && !hasDisplay() &&
-        !command.value(1).startsWith(QLatin1String("--"))) {
+    const bool opensWindow = command.value(0) == QLatin1String("window") &&
+                             !command.contains(QLatin1String("--help")) &&
+                             !command.contains(QLatin1String("-h"));
+    if (opensWindow && !hasDisplay()) { // Qt would end the process with a core file
         std::fputs("plib_workbench: the window needs a display\n", stderr);
         return 1;
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    const auto application = newApplication(command.value(0), argc, argv);
+    const auto application = newApplication(opensWindow, command.value(0), argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
     return workbench::run(QStringList(QCoreApplication::applicationName()) + command);

@@ -379,7 +379,8 @@ void TestCommandLine::help_data()
     QTest::addColumn<QString>("begins");
     QTest::newRow("all") << QStringLiteral("--help")
                          << QStringLiteral("Usage: plib_workbench COMMAND");
-    for (const char* command : {"new", "rows", "script", "catalogue", "tree", "snapshots"})
+    for (const char* command :
+         {"new", "rows", "script", "catalogue", "tree", "snapshots", "window"})
         QTest::newRow(command) << QString::fromLatin1(command) + QLatin1String(" --help")
                                << QLatin1String("Usage: plib_workbench ") + QLatin1String(command) +
                                       QLatin1String(" [options]");
