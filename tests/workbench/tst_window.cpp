@@ -79,6 +79,7 @@ private Q_SLOTS:
     void pickingInTheView();
     void troubles_data();
     void troubles();
+    void writeProtectedProject();
     void everyControlHasAName();
     void linesThatChanged_data();
     void linesThatChanged();
@@ -249,6 +250,34 @@ void tst_window::troubles()
     QCOMPARE(messages.size(), 1);
     QVERIFY2(messages[0].contains(reason) && messages[0].contains(bad), qPrintable(messages[0]));
     QCOMPARE(script(window), before);
+}
+
+void tst_window::writeProtectedProject()
+{
+    const QString project = path(QStringLiteral("protected.zob"));
+    makeProject(project, QStringLiteral("slab"));
+    const QByteArray before = testsupport::readFile(project);
+    QFile::setPermissions(project, QFile::ReadOwner);
+    MainWindow window(makeProject);
+    window.show();
+    QVERIFY(window.openProject(project));
+    QTRY_VERIFY(!script(window).isEmpty());
+    QStringList messages;
+    const auto acceptAndRead = [&messages](QWidget* dialog) {
+        whenModal([&messages](QWidget* box) {
+            messages << qobject_cast<QMessageBox*>(box)->text();
+            qobject_cast<QDialog*>(box)->accept();
+        });
+        qobject_cast<QDialog*>(dialog)->accept();
+    };
+    whenModal(acceptAndRead);
+    trigger(window, "Design");
+    trigger(window, "Output");
+    acceptAndRead(find<QDialog>(window, "OutputDialog"));
+    QCOMPARE(messages.size(), 2);
+    for (const QString& message : qAsConst(messages))
+        QVERIFY2(message.contains(QLatin1String("cannot be stored")), qPrintable(message));
+    QVERIFY(testsupport::readFile(project) == before);
 }
 
 void tst_window::everyControlHasAName()
