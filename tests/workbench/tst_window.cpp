@@ -200,6 +200,16 @@ void tst_window::pickingInTheView()
     QVERIFY(banner->isVisible());
     QVERIFY(!window.close()); // the dialog is not done
     auto groups = find<QTreeWidget>(window, "GroupList");
+    // What is below the mouse in the view is marked in the list.
+    for (int group : {3, -1}) {
+        QMetaObject::invokeMethod(find<QWidget>(window, "AnimatorView"), "groupHovered",
+                                  Q_ARG(int, group));
+        QStringList marked;
+        for (int row = 0; row < groups->topLevelItemCount(); ++row)
+            if (groups->topLevelItem(row)->background(0).style() != Qt::NoBrush)
+                marked << groups->topLevelItem(row)->text(0);
+        QCOMPARE(marked.join(QLatin1Char(' ')), group < 0 ? QString() : QString::number(group));
+    }
     for (int row : {5, 6}) {
         groups->setCurrentItem(groups->topLevelItem(row));
         QTest::keyClick(groups, Qt::Key_Return);
