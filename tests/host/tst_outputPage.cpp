@@ -111,6 +111,7 @@ private Q_SLOTS:
     void stringsOfOtherPages_data();
     void stringsOfOtherPages();
     void theSplitPage();
+    void thePrefixPage();
     void loadCasesOfABoundTable();
     void numbersOfABoundTable_data();
     void numbersOfABoundTable();
@@ -183,8 +184,24 @@ void tst_outputPage::eachControlInTheScript_data()
         "#define FILL=-|#define FILLI=-|#define FILLC=-|#define SCHRI=-|#define SCHRC=- -> #define "
         "FILL=SENK|#define FILLI=FLAE|#define FILLC=SENK|#define SCHRI=NEIN|#define SCHRC=NEIN");
     row(
-        "view", [](Desk& desk) { desk.choose("PerspectiveGroup", 1); },
+        "view from above", [](Desk& desk) { desk.choose("PerspectiveGroup", 0); },
+        "VIEW EG3 -> VIEW TYPE EGXY ; PERS INFI", "BEOB EG3 -> BEOB TYP EGXY ; PERS INFI");
+    row(
+        "view along Y", [](Desk& desk) { desk.choose("PerspectiveGroup", 1); },
         "VIEW EG3 -> VIEW TYPE EGXZ ; PERS INFI", "BEOB EG3 -> BEOB TYP EGXZ ; PERS INFI");
+    row(
+        "view along X", [](Desk& desk) { desk.choose("PerspectiveGroup", 2); },
+        "VIEW EG3 -> VIEW TYPE EGYZ ; PERS INFI", "BEOB EG3 -> BEOB TYP EGYZ ; PERS INFI");
+    row(
+        "the entry that is chosen already",
+        [](Desk& desk) {
+            desk.choose("PicturesGroup", 0);
+            desk.choose("FormatGroup", 0); // does not bring back two pictures
+        },
+        "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 0 MARG NO FORM "
+        "STAN",
+        "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 0 RAND NEIN "
+        "FORM STAN");
 }
 
 void tst_outputPage::eachControlInTheScript()
@@ -353,7 +370,27 @@ void tst_outputPage::theSplitPage()
     QCOMPARE(desk.page.getTORVAL(false), QStringLiteral("SIZE DINA \"-URS\" M 100 TEIL 2X1|SIZE "
                                                         "DINA \"-URS\" $(XYZ) TEIL 2X1"));
     QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("0.2"));
-    QCOMPARE(desk.find<QComboBox>("COMBO_PAGESPLITTING")->count(), 6);
+    QStringList divisions;
+    desk.choose("ScaleGroup", 1);
+    for (int id = 0; id < 6; ++id) {
+        desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(id);
+        divisions << desk.page.getTORVAL(true).section(QLatin1Char('|'), 0, 0).mid(10);
+    }
+    QCOMPARE(divisions.join(QLatin1Char('|')),
+             QStringLiteral("\"-URS\" SC 0 SPLI 1X1|\"-URS\" SC 0 SPLI 2X1|\"-URS\" SC 0 SPLI 2X2|"
+                            "\"-URS\" SC 0 SPLI 3X2|\"URS\" SC 0 SPLI 1X1|\"URS\" SC 0 SPLI "
+                            "2X2"));
+}
+
+void tst_outputPage::thePrefixPage()
+{
+    HostProject project(QStringLiteral("slab"));
+    Desk desk(project, VKD_P_GraphicalOutput_Prefix);
+    std::vector<QString> lines;
+    desk.page.getTORVAL_LFs(lines, true);
+    QVERIFY(!lines.empty());
+    QVERIFY(desk.page.getTORVAL(QStringLiteral("ahead\n"), true)
+                .contains(QLatin1String("FORM STAN\nahead\n") + lines[0]));
 }
 
 void tst_outputPage::loadCasesOfABoundTable()

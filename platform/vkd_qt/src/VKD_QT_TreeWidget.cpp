@@ -6,6 +6,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QTimer>
 
 VKD_QT_TreeWidget::VKD_QT_TreeWidget(QWidget* parent, const char* name)
     : QTreeWidget(parent)
@@ -116,7 +117,9 @@ void VKD_QT_TreeWidget::resizeEvent(QResizeEvent* event)
 void VKD_QT_TreeWidget::showEvent(QShowEvent* event)
 {
     QTreeWidget::showEvent(event);
-    if (m_columnFits)
-        m_textWidth = sizeHintForColumn(0);
-    fitColumn();
+    if (m_columnFits) // when it stands: most trees have the room, and need not wait for measuring
+        QTimer::singleShot(0, this, [this] {
+            m_textWidth = sizeHintForColumn(0);
+            fitColumn();
+        });
 }

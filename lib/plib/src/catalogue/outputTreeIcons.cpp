@@ -35,31 +35,35 @@ public:
     {
     }
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {
-        painter->save();
-        painter->translate(rect.topLeft());
-        painter->scale(qreal(rect.width()) / Grid, qreal(rect.height()) / Grid);
-        if (mode == QIcon::Disabled)
-            painter->setOpacity(0.4);
-        for (const Block& block : m_blocks)
-            painter->fillRect(block.x, block.y, block.width, block.height, QColor(block.colour));
-        painter->restore();
+        const QSize pixels = rect.size() * painter->device()->devicePixelRatioF();
+        if (m_picture.size() != pixels || m_mode != mode) {
+            m_picture = pixmap(pixels, mode, state);
+            m_mode = mode;
+        }
+        painter->drawPixmap(rect, m_picture);
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
     {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.scale(qreal(size.width()) / Grid, qreal(size.height()) / Grid);
+        if (mode == QIcon::Disabled)
+            painter.setOpacity(0.4);
+        for (const Block& block : m_blocks)
+            painter.fillRect(block.x, block.y, block.width, block.height, QColor(block.colour));
+        return picture;
     }
 
     QIconEngine* clone() const override { return new BlockIconEngine(*this); }
 
 private:
     Blocks m_blocks;
+    QPixmap m_picture; ///< as painted last: all rows of a tree are painted alike
+    QIcon::Mode m_mode = QIcon::Normal;
 };
 
 QIcon icon(const Blocks& blocks)
