@@ -69,6 +69,8 @@ private Q_SLOTS:
     void aTypeChangesNothingElse();
     void editorsComeAndGo();
     void editorAwayFromTheCurrentCell();
+    void recordDialogsWriteOnOkAlone_data();
+    void recordDialogsWriteOnOkAlone();
     void deletingAndMoving();
     void entriesOfTheGroupCombo_data();
     void entriesOfTheGroupCombo();
@@ -228,6 +230,45 @@ void tst_designPage::editorAwayFromTheCurrentCell()
     QVERIFY(opened);
     QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|3|2"));
     QCOMPARE(desk.editors(), QStringLiteral("2,2"));
+}
+
+void tst_designPage::recordDialogsWriteOnOkAlone_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("edit");
+    QTest::newRow("directions") << 2 << QStringLiteral("rio");
+    QTest::newRow("reinforcement, after its calculator") << 3 << QStringLiteral("aso");
+    QTest::newRow("cracks") << 4 << QStringLiteral("stressSIGO");
+}
+
+void tst_designPage::recordDialogsWriteOnOkAlone()
+{
+    QFETCH(int, column);
+    QFETCH(QString, edit);
+    HostProject project(QStringLiteral("slab"));
+    project.setRecords({record(-1, 1, 0), record(1, 2, 1)});
+    DesignDesk desk(project);
+    desk.page->readZob();
+    desk.table()->setCurrentCell(1, column);
+    const QString before = desk.row(1);
+    const auto editAndLeave = [&](bool accepts) {
+        whenModal([=](QWidget* dialog) {
+            if (auto calculator = dialog->findChild<QPushButton*>(QStringLiteral("Calc"))) {
+                whenModal([](QWidget* opened) { qobject_cast<QDialog*>(opened)->accept(); });
+                calculator->click();
+            }
+            auto field = dialog->findChild<QLineEdit*>(edit);
+            field->selectAll();
+            QTest::keyClicks(field, QStringLiteral("33"));
+            QDialog* asDialog = qobject_cast<QDialog*>(dialog);
+            accepts ? asDialog->accept() : asDialog->reject();
+        });
+        desk.keys({Qt::Key_F2});
+        return desk.row(1);
+    };
+    QCOMPARE(editAndLeave(false), before);
+    const QString after = editAndLeave(true);
+    QVERIFY(after != before && after.contains(QLatin1String("33.0")));
 }
 
 void tst_designPage::deletingAndMoving()

@@ -20,7 +20,7 @@
 #include <QApplication>
 #include <QHeaderView>
 
-#include <algorithm>
+#include <utility>
 
 using plib::DesignParameterRow;
 using Table = DesignParameterTable;

@@ -9,7 +9,6 @@
 #include <memory>
 
 class QTableWidgetItem;
-class QPushButton;
 class VKD_H_ProjectDialogPage;
 class VKD_H_TableWidgetBox;
 class VKD_QT_Dialog;
