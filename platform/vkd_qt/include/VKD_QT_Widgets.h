@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vkd_qt_export.h"
+
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -31,7 +33,8 @@ public:
     }
 };
 
-class VKD_QT_GroupBox : public QGroupBox
+/// Its frame is a thin line in the colours of the palette, in every style.
+class VKD_QT_EXPORT VKD_QT_GroupBox : public QGroupBox
 {
 public:
     VKD_QT_GroupBox(const QString& title, QWidget* parent, const char* name)
@@ -39,6 +42,9 @@ public:
     {
         setObjectName(QLatin1String(name));
     }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 class VKD_QT_Label : public QLabel

@@ -1,0 +1,31 @@
+#include "VKD_QT_Widgets.h"
+
+#include <QStyleOptionGroupBox>
+#include <QStylePainter>
+
+namespace {
+constexpr int FrameMargin = 3;         // pixels between the contents and their frame
+constexpr double FrameStrength = 0.25; // of the text's colour against the ground
+
+QColor frameColour(const QPalette& palette)
+{
+    QColor colour = palette.color(QPalette::WindowText);
+    colour.setAlphaF(FrameStrength);
+    return colour;
+}
+} // namespace
+
+/// A style may fill the whole inside with a stretched picture of a frame. With boxes in boxes that
+/// was a third of the time in which a page of settings is painted.
+void VKD_QT_GroupBox::paintEvent(QPaintEvent*)
+{
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    const QRect contents =
+        style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this);
+    option.subControls &= ~QStyle::SC_GroupBoxFrame;
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_GroupBox, option);
+    painter.setPen(frameColour(palette()));
+    painter.drawRect(rect().adjusted(0, contents.top() - FrameMargin, -1, -1));
+}
