@@ -232,7 +232,10 @@ void TestOutputTreeWidget::shippedCatalogue()
         const Item* item = outputItem(*it);
         QVERIFY(item);
         QCOMPARE(item->isExpanded(), item->level < 2);
-        QCOMPARE(item->icon(0).isNull(), item->level < 2);
+        const QString rowIcon = language == 0 ? QStringLiteral("LF") : QStringLiteral("LC");
+        QCOMPARE(item->icon(0).name(), item->level == 3   ? rowIcon
+                                       : item->level == 2 ? QStringLiteral("plot")
+                                                          : QString());
     }
     tree.dump();
 }
@@ -242,11 +245,12 @@ void TestOutputTreeWidget::menu_data()
     QTest::addColumn<int>("language");
     QTest::addColumn<QString>("expected");
     QTest::newRow("german") << 0
-                            << QStringLiteral("Alle aufklappen,Alle zuklappen,Grafiken aufklappen,,"
-                                              "Lastfälle aufklappen,,Lastfälle zuklappen");
+                            << QStringLiteral(
+                                   "Alle aufklappen,Alle zuklappen,Grafiken aufklappen plot,,"
+                                   "Lastfälle aufklappen LF,,Lastfälle zuklappen LF");
     QTest::newRow("english") << 1
-                             << QStringLiteral("Expand All,Collapse All,Expand plots,,"
-                                               "Expand loadcases,,Close loadcases");
+                             << QStringLiteral("Expand All,Collapse All,Expand plots plot,,"
+                                               "Expand loadcases LC,,Close loadcases LC");
 }
 
 void TestOutputTreeWidget::menu()
@@ -273,7 +277,7 @@ void TestOutputTreeWidget::menu()
             texts.clear();
             QList<QAction*> entries;
             for (QAction* action : shown->actions()) {
-                texts << action->text();
+                texts << (action->text() + QLatin1Char(' ') + action->icon().name()).trimmed();
                 if (!action->isSeparator())
                     entries << action;
             }
@@ -353,13 +357,18 @@ void TestOutputTreeWidget::noCatalogue()
 {
     useCatalogue(line("A|B|C", " ", 0, 0, "g", "e"));
     QString shown;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
     testsupport::whenModal([&](QWidget* box) {
-        shown = static_cast<QMessageBox*>(box)->text();
+        const auto error = static_cast<QMessageBox*>(box);
+        icon = error->icon();
+        shown = error->windowTitle() + QLatin1Char('/') + error->text();
         box->close();
     });
     const NoMoreFiles untilReported;
     Tree tree(nullptr, StandardPage, m_parameter.get(), "m_list");
-    QCOMPARE(shown, QStringLiteral("Failed to open file ") + m_texts->path("graphicaloutput.data"));
+    QCOMPARE(shown, QStringLiteral("Couldn't open file/Failed to open file ") +
+                        m_texts->path("graphicaloutput.data"));
+    QCOMPARE(icon, QMessageBox::Critical);
     const Tree other(nullptr, StandardPage, m_parameter.get(), "m_list");
     QCOMPARE(other.topLevelItemCount(), 1);
     tree.setUsedNumbersAndNames(testsupport::rows(1));

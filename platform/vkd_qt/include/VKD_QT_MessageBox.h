@@ -23,11 +23,17 @@ public:
                        const QString& button0 = QString(), const QString& button1 = QString(),
                        const QString& button2 = QString(), int defaultButton = 0,
                        int escapeButton = -1);
+    /// The same for what has failed.
+    static int critical(QWidget* parent, const QString& title, const QString& text,
+                        const QString& button0 = QString(), const QString& button1 = QString(),
+                        const QString& button2 = QString(), int defaultButton = 0,
+                        int escapeButton = -1);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    VKD_QT_MessageBox(QWidget* parent, const QString& title, const QString& text);
+    VKD_QT_MessageBox(Icon icon, QWidget* parent, const QString& title, const QString& text);
+    int ask(const QStringList& labels, int defaultButton, int escapeButton);
 };

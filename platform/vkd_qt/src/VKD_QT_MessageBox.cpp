@@ -3,15 +3,16 @@
 #include <QCloseEvent>
 #include <QPushButton>
 
-VKD_QT_MessageBox::VKD_QT_MessageBox(QWidget* parent, const QString& title, const QString& text)
-    : QMessageBox(Warning, title, text, NoButton, parent)
+VKD_QT_MessageBox::VKD_QT_MessageBox(Icon icon, QWidget* parent, const QString& title,
+                                     const QString& text)
+    : QMessageBox(icon, title, text, NoButton, parent)
 {
 }
 
 int VKD_QT_MessageBox::warning(QWidget* parent, const QString& title, const QString& text,
                                int button0, int button1, int button2)
 {
-    VKD_QT_MessageBox box(parent, title, text);
+    VKD_QT_MessageBox box(Warning, parent, title, text);
     for (int button : {button0, button1, button2})
         if (button)
             box.addButton(StandardButton(button));
@@ -23,17 +24,16 @@ int VKD_QT_MessageBox::warning(QWidget* parent, const QString& title, const QStr
                                const QString& button0, const QString& button1,
                                const QString& button2, int defaultButton, int escapeButton)
 {
-    VKD_QT_MessageBox box(parent, title, text);
-    QVector<QAbstractButton*> buttons;
-    for (const QString& label : {button0, button1, button2})
-        if (!label.isEmpty())
-            buttons << box.addButton(label, ActionRole);
-    if (buttons.isEmpty())
-        buttons << box.addButton(Ok);
-    box.setDefaultButton(qobject_cast<QPushButton*>(buttons.value(defaultButton)));
-    box.exec();
-    const int pressed = buttons.indexOf(box.clickedButton());
-    return pressed >= 0 ? pressed : escapeButton;
+    VKD_QT_MessageBox box(Warning, parent, title, text);
+    return box.ask({button0, button1, button2}, defaultButton, escapeButton);
+}
+
+int VKD_QT_MessageBox::critical(QWidget* parent, const QString& title, const QString& text,
+                                const QString& button0, const QString& button1,
+                                const QString& button2, int defaultButton, int escapeButton)
+{
+    VKD_QT_MessageBox box(Critical, parent, title, text);
+    return box.ask({button0, button1, button2}, defaultButton, escapeButton);
 }
 
 void VKD_QT_MessageBox::keyPressEvent(QKeyEvent* event)
@@ -47,4 +47,18 @@ void VKD_QT_MessageBox::keyPressEvent(QKeyEvent* event)
 void VKD_QT_MessageBox::closeEvent(QCloseEvent* event)
 {
     QDialog::closeEvent(event);
+}
+
+int VKD_QT_MessageBox::ask(const QStringList& labels, int defaultButton, int escapeButton)
+{
+    QVector<QAbstractButton*> buttons;
+    for (const QString& label : labels)
+        if (!label.isEmpty())
+            buttons << addButton(label, ActionRole);
+    if (buttons.isEmpty())
+        buttons << addButton(Ok);
+    setDefaultButton(qobject_cast<QPushButton*>(buttons.value(defaultButton)));
+    exec();
+    const int pressed = buttons.indexOf(clickedButton());
+    return pressed >= 0 ? pressed : escapeButton;
 }

@@ -95,7 +95,7 @@ GraphicalOutputTreeWidget::GraphicalOutputTreeWidget(QWidget* parent, int kind,
     setColumnFitsTexts();
     setAccessibleName(tr("Plots and loadcases"));
     const auto showError = [this](const QString& title, const QString& text) {
-        VKD_QT_MessageBox::warning(this, title, text);
+        VKD_QT_MessageBox::critical(this, title, text);
     };
     const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
     if (!plib::loadCatalogue(plib::sharedCatalogue(), language, showError))
@@ -186,10 +186,11 @@ void GraphicalOutputTreeWidget::dump() const
 
 void GraphicalOutputTreeWidget::dump(QTreeWidgetItem* item, int indent) const
 {
-    Item* output = outputItem(item);
+    Item* output = item ? outputItem(item) : nullptr;
     if (!output)
         return;
     dumpLine(output, indent);
+    // Of the rows the first is enough, on purpose: they differ in their load case only.
     const int count = output->level == PlotLevel ? qMin(1, item->childCount()) : item->childCount();
     for (int i = 0; i < count; ++i)
         dump(item->child(i), indent + 1);

@@ -66,7 +66,7 @@ private:
     VKD_H_PluginParameter* parameter;
     Rows rows;
     bool selectionLoaded = false;
-    bool rebuilding = false;
+    bool rebuilding = false; // for a look in the debugger: nothing reads it, and it is no lock
     PopupHandler popup;
     std::list<QString> additional;
 };

@@ -33,6 +33,6 @@ private:
     VKD_QT_Action* expandPlots = nullptr;
     VKD_QT_Action* expandLoads = nullptr;
     VKD_QT_Action* closeLoads = nullptr;
-    VKD_QT_Action* closeAll = nullptr; // stays null without its entry
+    VKD_QT_Action* closeAll = nullptr; // stays null without its entry: the tree has none on purpose
     GraphicalOutputTreeWidget* tree = nullptr;
 };

@@ -3,35 +3,50 @@
 #include <QIconEngine>
 #include <QPainter>
 
-#include <vector>
-
 namespace plib {
 
 namespace {
 constexpr int Grid = 16; // squares to a side
 
-struct Block
-{
-    int x, y, width, height;
-    QRgb colour;
-};
-using Blocks = std::vector<Block>;
+// A plate in its axes, with bands of iso areas.
+const char* const Plot[] = {
+    "16 15 7 1",        "  c None",         ". c #ffffff",      "# c #000000",
+    "x c #808080",      "g c #00c000",      "c c #00c0c0",      "y c #ffe000",
+    " xxxxxxxxxxxxxx ", "x..............x", "x..............x", "x..#.yy........x",
+    "x..#.yyyy......x", "x..#.ggyyyy....x", "x..#.ggggyyyy..x", "x..#.ccggggyy..x",
+    "x..#.ccccgggg..x", "x..#.ccccccgg..x", "x..#.ccccccgg..x", "x..##########..x",
+    "x..............x", "x..............x", " xxxxxxxxxxxxxx "};
 
-constexpr QRgb White = qRgb(255, 255, 255);
-constexpr QRgb Black = qRgb(0, 0, 0);
-constexpr QRgb Grey = qRgb(128, 128, 128);
-constexpr QRgb Green = qRgb(0, 128, 0);
-constexpr QRgb Lime = qRgb(0, 192, 0);
-constexpr QRgb Cyan = qRgb(0, 192, 192);
-constexpr QRgb Yellow = qRgb(255, 224, 0);
+const char* const RowGerman[] = {
+    "16 16 2 1",        "  c None",         "g c #008000",      "                ",
+    "                ", "                ", " gg      gggggg ", " gg      gggggg ",
+    " gg      gg     ", " gg      gg     ", " gg      ggggg  ", " gg      ggggg  ",
+    " gg      gg     ", " gg      gg     ", " gggggg  gg     ", " gggggg  gg     ",
+    "                ", "                ", "                "};
 
-/// Paints blocks of a grid. Their edges lie on whole pixels where a square takes whole ones, which
-/// it does at all usual sizes.
-class BlockIconEngine : public QIconEngine
+const char* const RowEnglish[] = {
+    "16 16 2 1",        "  c None",         "g c #008000",      "                ",
+    "                ", "                ", " gg       ggggg ", " gg      gggggg ",
+    " gg      gg     ", " gg      gg     ", " gg      gg     ", " gg      gg     ",
+    " gg      gg     ", " gg      gg     ", " gggggg  gggggg ", " gggggg   ggggg ",
+    "                ", "                ", "                "};
+
+const char* const Close[] = {"16 16 4 1",        "  c None",         ". c #ffffff",
+                             "# c #000000",      "x c #808080",      "                ",
+                             " xxxxxxxxxxxxxx ", " x............x ", " x............x ",
+                             " x............x ", " x............x ", " x............x ",
+                             " x..########..x ", " x..########..x ", " x............x ",
+                             " x............x ", " x............x ", " x............x ",
+                             " x............x ", " xxxxxxxxxxxxxx ", "                "};
+
+/// Paints a bitmap with its squares as blocks, so that it is sharp on every screen. Their edges lie
+/// on whole pixels where a square takes whole ones, which it does at all usual sizes.
+class BitmapIconEngine : public QIconEngine
 {
 public:
-    explicit BlockIconEngine(const Blocks& blocks)
-        : m_blocks(blocks)
+    BitmapIconEngine(const char* name, const char* const xpm[])
+        : m_name(QLatin1String(name))
+        , m_bitmap(xpm)
     {
     }
 
@@ -53,60 +68,35 @@ public:
         painter.scale(qreal(size.width()) / Grid, qreal(size.height()) / Grid);
         if (mode == QIcon::Disabled)
             painter.setOpacity(0.4);
-        for (const Block& block : m_blocks)
-            painter.fillRect(block.x, block.y, block.width, block.height, QColor(block.colour));
+        painter.drawImage(0, 0, m_bitmap);
         return picture;
     }
 
-    QIconEngine* clone() const override { return new BlockIconEngine(*this); }
+    QString iconName() const override { return m_name; }
+    QIconEngine* clone() const override { return new BitmapIconEngine(*this); }
 
 private:
-    Blocks m_blocks;
+    QString m_name;
+    QImage m_bitmap;
     QPixmap m_picture; ///< as painted last: all rows of a tree are painted alike
     QIcon::Mode m_mode = QIcon::Normal;
 };
-
-QIcon icon(const Blocks& blocks)
-{
-    return QIcon(new BlockIconEngine(blocks));
-}
-
-const Blocks LetterL{{1, 3, 2, 10, Green}, {3, 11, 4, 2, Green}};
-const Blocks LetterF{{9, 3, 2, 10, Green}, {11, 3, 4, 2, Green}, {11, 7, 3, 2, Green}};
-const Blocks LetterC{{9, 4, 2, 8, Green}, {10, 3, 5, 2, Green}, {10, 11, 5, 2, Green}};
 } // namespace
 
 QIcon plotIcon()
 {
-    // A plate in its axes, with bands of iso areas.
-    return icon({{0, 0, 16, 15, Grey},
-                 {1, 1, 14, 13, White},
-                 {3, 3, 1, 9, Black},
-                 {3, 11, 10, 1, Black},
-                 {5, 7, 2, 4, Cyan},
-                 {5, 5, 2, 2, Lime},
-                 {5, 3, 2, 2, Yellow},
-                 {7, 8, 2, 3, Cyan},
-                 {7, 6, 2, 2, Lime},
-                 {7, 4, 2, 2, Yellow},
-                 {9, 9, 2, 2, Cyan},
-                 {9, 7, 2, 2, Lime},
-                 {9, 5, 2, 2, Yellow},
-                 {11, 8, 2, 3, Lime},
-                 {11, 6, 2, 2, Yellow}});
+    return QIcon(new BitmapIconEngine("plot", Plot));
 }
 
 QIcon rowIcon(bool english)
 {
-    Blocks blocks = LetterL;
-    const Blocks& second = english ? LetterC : LetterF;
-    blocks.insert(blocks.end(), second.begin(), second.end());
-    return icon(blocks);
+    return QIcon(english ? new BitmapIconEngine("LC", RowEnglish)
+                         : new BitmapIconEngine("LF", RowGerman));
 }
 
 QIcon closeIcon()
 {
-    return icon({{1, 1, 14, 14, Grey}, {2, 2, 12, 12, White}, {4, 7, 8, 2, Black}});
+    return QIcon(new BitmapIconEngine("close", Close));
 }
 
 } // namespace plib
