@@ -5,6 +5,7 @@
 #include <VKD_QT_Menu.h>
 #include <VKD_QT_TreeWidget.h>
 
+#include <QHeaderView>
 #include <QRandomGenerator>
 
 namespace {
@@ -135,6 +136,7 @@ private Q_SLOTS:
     void mouse();
     void spaceBesideTheCheckBox();
     void otherDataThanStates();
+    void longTextsCanBeReached();
     void menu();
 };
 
@@ -241,6 +243,32 @@ void tst_treeWidget::otherDataThanStates()
     catalogue.top->setDisabled(true);
     QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Unchecked));
     QCOMPARE(settled.size(), 0);
+}
+
+/// Also those that come into view when a branch is opened or the tree is moved.
+void tst_treeWidget::longTextsCanBeReached()
+{
+    Catalogue catalogue;
+    VKD_QT_TreeWidget& tree = catalogue.tree;
+    tree.setColumnCount(1);
+    tree.setColumnFitsTexts();
+    tree.resize(200, 100);
+    tree.show();
+    QTRY_COMPARE(tree.header()->sectionSize(0), tree.viewport()->width());
+    const auto isShownWhole = [&](QTreeWidgetItem* item) {
+        const int width = tree.fontMetrics().horizontalAdvance(item->text(0));
+        return width > tree.viewport()->width() && tree.visualItemRect(item).width() > width;
+    };
+    catalogue.top->child(0)->child(0)->setText(0, QString(60, QLatin1Char('m')));
+    catalogue.top->child(1)->child(2)->setText(0, QString(90, QLatin1Char('m')));
+    tree.expandAll();
+    QTRY_VERIFY(isShownWhole(catalogue.top->child(0)->child(0)));
+    QVERIFY(!isShownWhole(catalogue.top->child(1)->child(2)));
+    tree.scrollToBottom();
+    QTRY_VERIFY(isShownWhole(catalogue.top->child(1)->child(2)));
+    tree.clear();
+    tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("a")}));
+    QTRY_COMPARE(tree.header()->sectionSize(0), tree.viewport()->width());
 }
 
 void tst_treeWidget::menu()

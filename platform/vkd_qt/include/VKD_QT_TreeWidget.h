@@ -2,6 +2,7 @@
 
 #include "vkd_qt_export.h"
 
+#include <QTimer>
 #include <QTreeWidget>
 
 class VKD_QT_Menu;
@@ -24,9 +25,10 @@ public:
     /// settleCheckStates(). Each column is on its own.
     void setAutomaticCheckStateUpdate(bool on);
 
-    /// Makes the only column as wide as the texts in view when the tree is shown, or as the tree if
-    /// that is wider: a narrow tree can be moved sideways. It is not measured again by itself,
-    /// because what is in view depends on the scroll bar that the width brings.
+    /// Makes the only column as wide as the texts that have come into view since the tree was
+    /// filled, or as the tree if that is wider: a narrow tree can be moved sideways. It does not
+    /// shrink with what goes out of view, because the scroll bar that the width brings would then
+    /// come and go without end.
     void setColumnFitsTexts();
 
     /// Gives every item with check boxes below it the state that follows from them, in one pass. To
@@ -53,13 +55,16 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void updateGeometries() override;
 
 private:
     void closeBranches();
-
+    void measureLater();
+    void measure();
     void fitColumn();
 
     bool m_isAutomatic = false;
     bool m_columnFits = false;
     int m_textWidth = 0;
+    QTimer m_measuring;
 };

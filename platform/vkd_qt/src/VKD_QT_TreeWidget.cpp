@@ -6,7 +6,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QTimer>
+#include <QScrollBar>
 
 VKD_QT_TreeWidget::VKD_QT_TreeWidget(QWidget* parent, const char* name)
     : QTreeWidget(parent)
@@ -100,6 +100,23 @@ void VKD_QT_TreeWidget::setColumnFitsTexts()
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
     header()->setResizeContentsPrecision(RowsInView);
+    m_measuring.setSingleShot(true);
+    connect(&m_measuring, &QTimer::timeout, this, &VKD_QT_TreeWidget::measure);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &VKD_QT_TreeWidget::measureLater);
+    connect(model(), &QAbstractItemModel::modelReset, this, [this] { m_textWidth = 0; });
+}
+
+/// When the tree stands: most trees have the room, and need not wait for measuring.
+void VKD_QT_TreeWidget::measureLater()
+{
+    if (m_columnFits && isVisible())
+        m_measuring.start();
+}
+
+void VKD_QT_TreeWidget::measure()
+{
+    m_textWidth = qMax(m_textWidth, sizeHintForColumn(0));
+    fitColumn();
 }
 
 void VKD_QT_TreeWidget::fitColumn()
@@ -117,9 +134,12 @@ void VKD_QT_TreeWidget::resizeEvent(QResizeEvent* event)
 void VKD_QT_TreeWidget::showEvent(QShowEvent* event)
 {
     QTreeWidget::showEvent(event);
-    if (m_columnFits) // when it stands: most trees have the room, and need not wait for measuring
-        QTimer::singleShot(0, this, [this] {
-            m_textWidth = sizeHintForColumn(0);
-            fitColumn();
-        });
+    measureLater();
+}
+
+/// What is in view may have changed.
+void VKD_QT_TreeWidget::updateGeometries()
+{
+    QTreeWidget::updateGeometries();
+    measureLater();
 }
