@@ -228,6 +228,7 @@ void TestOutputTreeWidget::shippedCatalogue()
     QCOMPARE(treeText(tree), testsupport::treeText(expected.root.get()));
     QCOMPARE(scripts(tree), expected.scripts());
     QCOMPARE(tree.selectionText(), plib::selectionText(expected.root.get()));
+    tree.applySelection(tree.selectionText());
     for (QTreeWidgetItemIterator it(&tree); *it; ++it) {
         const Item* item = outputItem(*it);
         QVERIFY(item);
