@@ -103,6 +103,17 @@ void contents(QPainter& painter, const QPalette& palette)
     }
 }
 
+/// A page with lines of print.
+void text(QPainter& painter, const QPalette& palette)
+{
+    painter.setPen(line(ink(palette)));
+    painter.setBrush(palette.color(QPalette::Base));
+    painter.drawRect(QRectF(3, 1.5, 10, 13));
+    painter.setPen(line(accent(palette), 1.4));
+    for (int row = 0; row < 3; ++row)
+        painter.drawLine(QPointF(5.5, 5 + 3 * row), QPointF(row == 2 ? 8.5 : 10.5, 5 + 3 * row));
+}
+
 void search(QPainter& painter, const QPalette& palette)
 {
     painter.setPen(line(ink(palette), 1.6));
@@ -132,6 +143,7 @@ const struct
     {":/icon/program/back", back},
     {":/icon/program/forward", forward},
     {":/icon/program/contents", contents},
+    {":/icon/program/text", text},
     {":/icon/program/search", search},
     {":/icon/program/pick", pick},
 };
