@@ -1,6 +1,7 @@
 #include "windowSnapshots.h"
 
 #include "SnapshotAlbum.h"
+#include "textOutputSnapshots.h"
 
 #include <MainWindow.h>
 #include <VKD_H_SelGRP_Dialog.h>
@@ -71,6 +72,7 @@ void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
         window.openProject(project);
         album.add(QStringLiteral("window") + look, &window);
         addOutput(album, window, look);
+        addTextOutputSnapshots(album, window, look);
         addPicking(album, window, look);
     }
     QApplication::setPalette(light);

@@ -43,10 +43,92 @@
     </message>
 </context>
 <context>
+    <name>workbench::CombinationTable</name>
+    <message>
+        <source>Fundamental, other</source>
+        <translation>Grundkombination, sonstige</translation>
+    </message>
+    <message>
+        <source>Accidental</source>
+        <translation>Außergewöhnlich</translation>
+    </message>
+    <message>
+        <source>Fire</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <source>Earthquake</source>
+        <translation>Erdbeben</translation>
+    </message>
+    <message>
+        <source>Characteristic</source>
+        <translation>Charakteristisch</translation>
+    </message>
+    <message>
+        <source>Frequent</source>
+        <translation>Häufig</translation>
+    </message>
+    <message>
+        <source>Quasi-permanent</source>
+        <translation>Quasi-ständig</translation>
+    </message>
+    <message>
+        <source>Non-frequent</source>
+        <translation>Nicht-häufig</translation>
+    </message>
+    <message>
+        <source>Kind of combination</source>
+        <translation>Art der Kombination</translation>
+    </message>
+    <message>
+        <source>Kind of combination %1</source>
+        <translation>Art der Kombination %1</translation>
+    </message>
+</context>
+<context>
     <name>workbench::DesignDialog</name>
     <message>
         <source>Design parameters</source>
         <translation>Bemessungsparameter</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ExtentFields</name>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Loads</source>
+        <translation>Lasten</translation>
+    </message>
+    <message>
+        <source>Displacements</source>
+        <translation>Verschiebungen</translation>
+    </message>
+    <message>
+        <source>Internal forces</source>
+        <translation>Schnittgrößen</translation>
+    </message>
+    <message>
+        <source>Support reactions</source>
+        <translation>Auflagerkräfte</translation>
+    </message>
+    <message>
+        <source>&amp;Result values:</source>
+        <translation>&amp;Ergebniswerte:</translation>
+    </message>
+    <message>
+        <source>Result values</source>
+        <translation>Ergebniswerte</translation>
+    </message>
+    <message>
+        <source>All nodes and elements</source>
+        <translation>Alle Knoten und Elemente</translation>
+    </message>
+    <message>
+        <source>Extreme values</source>
+        <translation>Extremwerte</translation>
     </message>
 </context>
 <context>
@@ -297,6 +379,30 @@ Soll sie gespeichert werden?</translation>
         <source>Finish picking groups first, with Done or Cancel.</source>
         <translation>Zuerst die Wahl der Gruppen mit Fertig oder Abbrechen beenden.</translation>
     </message>
+    <message>
+        <source>The text output stays as it was.</source>
+        <translation>Die Textausgabe bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>The text output cannot be stored in the project.
+%1</source>
+        <translation>Die Textausgabe kann nicht im Projekt gespeichert werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The text output cannot be stored in the project.</source>
+        <translation>Die Textausgabe kann nicht im Projekt gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The text output is in the project file.</source>
+        <translation>Die Textausgabe steht in der Projektdatei.</translation>
+    </message>
+    <message>
+        <source>The text output is changed and not yet in the project.
+Is it to be stored?</source>
+        <translation>Die Textausgabe ist geändert und steht noch nicht im Projekt.
+Soll sie gespeichert werden?</translation>
+    </message>
 </context>
 <context>
     <name>workbench::OutputDialog</name>
@@ -354,6 +460,17 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>Ca&amp;ncel</source>
         <translation>Abb&amp;rechen</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PickTable</name>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Bezeichnung</translation>
     </message>
 </context>
 <context>
@@ -420,6 +537,81 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>Saves the script in a file</source>
         <translation>Speichert das Skript in einer Datei</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::TextOutputDialog</name>
+    <message>
+        <source>Text output</source>
+        <translation>Textausgabe</translation>
+    </message>
+    <message>
+        <source>Extent of the text output</source>
+        <translation>Umfang der Textausgabe</translation>
+    </message>
+    <message>
+        <source>Decides which lists are printed. Manually controlled: those that are checked here.</source>
+        <translation>Legt fest, welche Listen ausgegeben werden. Manuell gesteuert: die hier angekreuzten.</translation>
+    </message>
+    <message>
+        <source>Load cases in the text output</source>
+        <translation>Lastfälle in der Textausgabe</translation>
+    </message>
+    <message>
+        <source>Decides for which load cases loads and results are printed. Manually: those that are checked in the table.</source>
+        <translation>Legt fest, für welche Lastfälle Lasten und Ergebnisse ausgegeben werden. Manuell: für die in der Tabelle angekreuzten.</translation>
+    </message>
+    <message>
+        <source>Load cases</source>
+        <translation>Lastfälle</translation>
+    </message>
+    <message>
+        <source>Combinations in the text output</source>
+        <translation>Kombinationen in der Textausgabe</translation>
+    </message>
+    <message>
+        <source>Decides for which combinations results are printed: all of one kind, or manually those that are checked in the table. The kinds can be changed while Manually is chosen.</source>
+        <translation>Legt fest, für welche Kombinationen Ergebnisse ausgegeben werden: für alle einer Art oder manuell für die in der Tabelle angekreuzten. Die Arten lassen sich ändern, solange Manuell gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Combinations</source>
+        <translation>Kombinationen</translation>
+    </message>
+    <message>
+        <source>Printed lists: none</source>
+        <translation>Ausgegebene Listen: keine</translation>
+    </message>
+    <message>
+        <source>Printed lists: %1</source>
+        <translation>Ausgegebene Listen: %1</translation>
+    </message>
+    <message>
+        <source>%1. Result values: %2</source>
+        <translation>%1. Ergebniswerte: %2</translation>
+    </message>
+    <message>
+        <source>Printed load cases: none, as neither loads nor results are printed</source>
+        <translation>Ausgegebene Lastfälle: keine, da weder Lasten noch Ergebnisse ausgegeben werden</translation>
+    </message>
+    <message>
+        <source>Printed load cases: none</source>
+        <translation>Ausgegebene Lastfälle: keine</translation>
+    </message>
+    <message>
+        <source>Printed load cases (%1 of %2): %3</source>
+        <translation>Ausgegebene Lastfälle (%1 von %2): %3</translation>
+    </message>
+    <message>
+        <source>Printed combinations: none, as no results are printed</source>
+        <translation>Ausgegebene Kombinationen: keine, da keine Ergebnisse ausgegeben werden</translation>
+    </message>
+    <message>
+        <source>Printed combinations: none</source>
+        <translation>Ausgegebene Kombinationen: keine</translation>
+    </message>
+    <message>
+        <source>Printed combinations (%1 of %2): %3</source>
+        <translation>Ausgegebene Kombinationen (%1 von %2): %3</translation>
     </message>
 </context>
 <context>
@@ -535,6 +727,10 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>&amp;About</source>
         <translation>&amp;Über</translation>
+    </message>
+    <message>
+        <source>&amp;Text Output...</source>
+        <translation>&amp;Textausgabe ...</translation>
     </message>
 </context>
 </TS>

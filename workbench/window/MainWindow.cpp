@@ -7,6 +7,7 @@
 #include "PlatformLog.h"
 #include "RecordsPane.h"
 #include "ScriptPane.h"
+#include "TextOutputDialog.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
 #include "windowTexts.h"
@@ -124,6 +125,7 @@ void MainWindow::connectActions()
     on(m_actions->quit, &MainWindow::close);
     on(m_actions->design, &MainWindow::editDesign);
     on(m_actions->output, &MainWindow::showOutput);
+    on(m_actions->textOutput, &MainWindow::showTextOutput);
     on(m_actions->german, [this] { setLanguage(0); });
     on(m_actions->english, [this] { setLanguage(1); });
     on(m_actions->designHelp, &MainWindow::showHelp);

@@ -19,14 +19,15 @@ struct OutputState;
 class PickBanner;
 class RecordsPane;
 class ScriptPane;
+class TextOutputDialog;
 class WindowActions;
 
 /// The desktop around the library's pages: a project's model with its groups, the dialogs of the
 /// pages, the script of the present choice and the design records in the project file.
 ///
 /// OK in a dialog writes into the project file at once. What may be unsaved is the choice in an
-/// open output dialog, which is asked for before the project is left; the script follows from the
-/// choice and is never asked for.
+/// open dialog of an output, which is asked for before the project is left; the script follows from
+/// the choice and is never asked for.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -87,6 +88,14 @@ private:
     void copyScript();
     void saveScript();
 
+    void showTextOutput();
+    void makeTextOutput();
+    void remakeTextOutput();
+    void closeTextOutput();
+    bool storeTextOutput();
+    bool mayLeaveTextOutput();
+    void showModified();
+
     void setLanguage(int language);
     void showHelp();
     void showAbout();
@@ -105,6 +114,7 @@ private:
     QLabel* m_contents;
     std::unique_ptr<DesignDialog> m_design; // while it is open or away for picking
     std::unique_ptr<OutputDialog> m_output;
+    std::unique_ptr<TextOutputDialog> m_textOutput; // while it is open
 };
 
 } // namespace workbench

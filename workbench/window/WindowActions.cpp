@@ -66,6 +66,7 @@ WindowActions::WindowActions(QMainWindow* window)
     , quit(add("Quit"))
     , design(add("Design"))
     , output(add("Output"))
+    , textOutput(add("TextOutput"))
     , german(add("German"))
     , english(add("English"))
     , designHelp(add("DesignHelp"))
@@ -83,6 +84,7 @@ WindowActions::WindowActions(QMainWindow* window)
     saveScript->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
     design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/groups")));
     output->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/contents")));
+    textOutput->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/text")));
     addMenus(window);
     addToolBar(window);
     setShortcuts();
@@ -134,7 +136,7 @@ void WindowActions::addMenus(QMainWindow* window)
     viewMenu->addActions(views.toList());
     viewMenu->addSeparator();
     m_projectMenu = bar->addMenu(QString());
-    m_projectMenu->addActions({design, output});
+    m_projectMenu->addActions({design, output, textOutput});
     m_languageMenu = bar->addMenu(QString());
     m_languageMenu->addActions({german, english});
     m_helpMenu = bar->addMenu(QString());
@@ -148,7 +150,7 @@ void WindowActions::addToolBar(QMainWindow* window)
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_toolBar->addAction(open);
     m_toolBar->addSeparator();
-    m_toolBar->addActions({design, output});
+    m_toolBar->addActions({design, output, textOutput});
     m_toolBar->addSeparator();
     m_toolBar->addAction(saveScript);
     m_toolBar->addSeparator();
@@ -164,6 +166,7 @@ void WindowActions::setShortcuts()
     quit->setShortcut(Qt::CTRL + Qt::Key_Q);
     design->setShortcut(Qt::CTRL + Qt::Key_D);
     output->setShortcut(Qt::CTRL + Qt::Key_G);
+    textOutput->setShortcut(Qt::CTRL + Qt::Key_T);
     designHelp->setShortcut(QKeySequence::HelpContents);
     for (int i = 0; i < views.size(); ++i)
         views[i]->setShortcut(Qt::CTRL + (Qt::Key_0 + i));
@@ -191,6 +194,7 @@ void WindowActions::setTexts()
     quit->setText(tr("&Quit"));
     design->setText(tr("&Design Parameters..."));
     output->setText(tr("&Graphical Output..."));
+    textOutput->setText(tr("&Text Output..."));
     german->setText(tr("&German"));
     english->setText(tr("&English"));
     designHelp->setText(tr("&Design Parameters"));
@@ -206,7 +210,7 @@ void WindowActions::enable(bool hasProject, bool isPicking)
     for (QAction* action : {newFromFile, open, german, english, quit})
         action->setEnabled(!isPicking);
     recentMenu->setEnabled(!isPicking && !recentMenu->isEmpty());
-    for (QAction* action : {saveAs, design, output})
+    for (QAction* action : {saveAs, design, output, textOutput})
         action->setEnabled(hasProject && !isPicking);
     for (QAction* action : qAsConst(views))
         action->setEnabled(hasProject);

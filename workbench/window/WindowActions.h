@@ -39,6 +39,7 @@ public:
     QVector<QAction*> views; ///< the data is an AnimatorViewControl
     QAction* design;
     QAction* output;
+    QAction* textOutput;
     QAction* german;
     QAction* english;
     QAction* designHelp;

@@ -9,6 +9,7 @@
 #include "PlatformLog.h"
 #include "RecordsPane.h"
 #include "ScriptPane.h"
+#include "TextOutputDialog.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
 
@@ -138,7 +139,7 @@ bool MainWindow::storeOutput()
         return false;
     }
     output()->setUnchanged();
-    setWindowModified(false);
+    showModified();
     say(tr("The choice of plots is in the project file."));
     return true;
 }
@@ -153,7 +154,7 @@ void MainWindow::refreshScript()
         m_script->setOtherScript(script);
     else
         m_script->setScript(script);
-    setWindowModified(m_output->isChanged());
+    showModified();
     m_actions->setHasScript(!script.isEmpty());
 }
 
@@ -200,6 +201,7 @@ void MainWindow::setLanguage(int language)
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
     VKD_QT_InitTranslator::languageChanged();
     WindowSettings().setLanguage(language);
+    remakeTextOutput();
     if (wasMade)
         makeOutput(state);
     if (wasChanged)

@@ -8,6 +8,7 @@
 #include "projectTrouble.h"
 #include "RecordsPane.h"
 #include "ScriptPane.h"
+#include "TextOutputDialog.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
 
@@ -23,6 +24,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <optional>
 
 namespace workbench {
 
@@ -115,6 +117,7 @@ bool MainWindow::openProject(const QString& path)
 void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
 {
     m_output.reset();
+    m_textOutput.reset();
     const auto before = std::move(m_document); // until nothing shows it any more
     m_document = std::move(document);
     m_view->setProject(index());
@@ -141,9 +144,12 @@ void MainWindow::saveAs()
     const QString path = withSuffix(chosen);
     if (isSameFile(path, m_document->path())) {
         storeOutput();
+        if (m_textOutput)
+            storeTextOutput();
         return;
     }
     const OutputState state = output()->state();
+    const auto text = m_textOutput ? std::make_optional(m_textOutput->state()) : std::nullopt;
     const QString unfinished = path + QLatin1String(".new");
     QFile::remove(unfinished);
     if (!QFile::copy(m_document->path(), unfinished) || !replaceFile(unfinished, path))
@@ -152,12 +158,16 @@ void MainWindow::saveAs()
         return;
     if (!state.write(index()))
         return complain(tr("The choice of plots cannot be stored in the project."));
+    if (text && !text->write(index()))
+        return complain(tr("The text output cannot be stored in the project."));
     m_output.reset();
     say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
 }
 
 bool MainWindow::mayLeaveProject()
 {
+    if (!mayLeaveTextOutput())
+        return false;
     if (!m_output || !m_output->isChanged())
         return true;
     const int answer = VKD_QT_MessageBox::warning(
@@ -178,6 +188,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     if (!mayLeaveProject())
         return event->ignore();
     m_output.reset();
+    m_textOutput.reset();
     saveWindowState();
     QMainWindow::closeEvent(event);
 }
