@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -125,10 +126,12 @@ private Q_SLOTS:
     void kinds_data();
     void kinds();
     void rowFollowsKinds();
+    void nothingToPick();
     void kept();
     void languages();
     void leaving_data();
     void leaving();
+    void savedAs();
     void namesAndTabOrder();
     void numbers_data();
     void numbers();
@@ -293,6 +296,19 @@ void tst_textOutput::rowFollowsKinds()
     QCOMPARE(dialog.state().combinations, QStringLiteral("checked:m_Manually"));
 }
 
+void tst_textOutput::nothingToPick()
+{
+    const auto document = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("empty.zob")));
+    TextOutputDialog dialog(document->index(), nullptr);
+    dialog.show();
+    choose(dialog, LoadCaseBox, QStringLiteral("Manually"));
+    QTest::keyClick(find<PickTable>(dialog, "TextLoadCases"), Qt::Key_Space);
+    QVERIFY(results(dialog).endsWith(
+        QLatin1String("\nPrinted load cases: none\nPrinted combinations: none")));
+    QCOMPARE(labels(*find<PickTable>(dialog, "TextCombinations")->parentWidget()),
+             QStringLiteral("Manually"));
+}
+
 /// Cancel drops, OK stores, and the file has it.
 void tst_textOutput::kept()
 {
@@ -383,6 +399,29 @@ void tst_textOutput::leaving()
     const auto document = VKD_H_ZOBDoc::open(path());
     const TextOutputDialog dialog(document->index(), nullptr);
     QTEST(results(dialog) != Proposed, "isStored");
+}
+
+/// The choice in the open dialog goes into the new project, and the old one stays as it was.
+void tst_textOutput::savedAs()
+{
+    const QString copy = m_folder.filePath(QStringLiteral("copy.zob"));
+    {
+        MainWindow window({});
+        show(window);
+        choose(*window.findChild<TextOutputDialog*>(), ExtentBox, QStringLiteral("No text output"));
+        whenModal([copy](QWidget* box) {
+            auto name = find<QLineEdit>(*box, "fileNameEdit");
+            name->setText(copy);
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        find<QAction>(window, "SaveAs")->trigger();
+        QVERIFY(window.close());
+    }
+    for (const QString& project : {path(), copy}) {
+        const auto document = VKD_H_ZOBDoc::open(project);
+        const TextOutputDialog dialog(document->index(), nullptr);
+        QCOMPARE(results(dialog) == Proposed, project == path());
+    }
 }
 
 /// In reading order, also when the row of kinds was made anew. A row that has the focus is one
