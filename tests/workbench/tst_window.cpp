@@ -276,6 +276,7 @@ void tst_window::writeProtectedProject()
     const auto acceptAndRead = [&messages](QWidget* dialog) {
         whenModal([&messages](QWidget* box) {
             messages << qobject_cast<QMessageBox*>(box)->text();
+            whenModal([](QWidget* again) { qobject_cast<QDialog*>(again)->reject(); });
             qobject_cast<QDialog*>(box)->accept();
         });
         qobject_cast<QDialog*>(dialog)->accept();

@@ -4,8 +4,20 @@
 <context>
     <name>projectTrouble</name>
     <message>
-        <source>It is not there or cannot be opened.</source>
-        <translation>Sie ist nicht vorhanden oder kann nicht geöffnet werden.</translation>
+        <source>It is a folder.</source>
+        <translation>Sie ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>Its folder is not there.</source>
+        <translation>Ihr Ordner ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>It is not there.</source>
+        <translation>Sie ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>It may not be read.</source>
+        <translation>Sie darf nicht gelesen werden.</translation>
     </message>
     <message>
         <source>It is no project file.</source>
@@ -20,8 +32,8 @@
         <translation>Sie ist beschädigt.</translation>
     </message>
     <message>
-        <source>It is write-protected.</source>
-        <translation>Sie ist schreibgeschützt.</translation>
+        <source>It or the folder it lies in is write-protected.</source>
+        <translation>Sie oder ihr Ordner ist schreibgeschützt.</translation>
     </message>
     <message>
         <source>There is no room left on the disk.</source>
@@ -32,14 +44,8 @@
         <translation>Ein anderes Programm schreibt gerade hinein.</translation>
     </message>
     <message>
-        <source>The system cannot read it.</source>
-        <translation>Das System kann sie nicht lesen.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be opened.
-%2</source>
-        <translation>Die Datei %1 kann nicht geöffnet werden.
-%2</translation>
+        <source>The system cannot read or write it.</source>
+        <translation>Das System kann sie nicht lesen oder schreiben.</translation>
     </message>
 </context>
 <context>
@@ -248,10 +254,8 @@
         <translation>Die Bemessungsparameter stehen in der Projektdatei.</translation>
     </message>
     <message>
-        <source>The design parameters cannot be stored in the project.
-%1</source>
-        <translation>Die Bemessungsparameter können nicht im Projekt gespeichert werden.
-%1</translation>
+        <source>The design parameters cannot be stored in the file %1.</source>
+        <translation>Die Bemessungsparameter können nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
         <source>Pick groups in the view, or by Enter in the list of groups.</source>
@@ -262,10 +266,8 @@
         <translation>Die Auswahl der Bilder ist wieder die des Projekts.</translation>
     </message>
     <message>
-        <source>The choice of plots cannot be stored in the project.
-%1</source>
-        <translation>Die Auswahl der Bilder kann nicht im Projekt gespeichert werden.
-%1</translation>
+        <source>The choice of plots cannot be stored in the file %1.</source>
+        <translation>Die Auswahl der Bilder kann nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
         <source>The choice of plots is in the project file.</source>
@@ -362,8 +364,30 @@ Bitte einen anderen Namen wählen.</translation>
         <translation>Projekt speichern unter</translation>
     </message>
     <message>
-        <source>The choice of plots cannot be stored in the project.</source>
-        <translation>Die Auswahl der Bilder kann nicht im Projekt gespeichert werden.</translation>
+        <source>The project cannot be saved in the file %1.</source>
+        <translation>Das Projekt kann nicht in der Datei %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be opened.</source>
+        <translation>Die Datei %1 kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Not all of the file %1 could be read.
+What is shown may lack something.</source>
+        <translation>Die Datei %1 konnte nicht vollständig gelesen werden.
+In der Anzeige fehlt möglicherweise etwas.</translation>
+    </message>
+    <message>
+        <source>The project is being made.</source>
+        <translation>Das Projekt wird angelegt.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
     </message>
     <message>
         <source>The project is saved as %1.</source>
@@ -384,14 +408,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Die Textausgabe bleibt, wie sie war.</translation>
     </message>
     <message>
-        <source>The text output cannot be stored in the project.
-%1</source>
-        <translation>Die Textausgabe kann nicht im Projekt gespeichert werden.
-%1</translation>
-    </message>
-    <message>
-        <source>The text output cannot be stored in the project.</source>
-        <translation>Die Textausgabe kann nicht im Projekt gespeichert werden.</translation>
+        <source>The text output cannot be stored in the file %1.</source>
+        <translation>Die Textausgabe kann nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
         <source>The text output is in the project file.</source>
@@ -612,6 +630,25 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>Printed combinations (%1 of %2): %3</source>
         <translation>Ausgegebene Kombinationen (%1 von %2): %3</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::SlowWork</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Werkbank</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Another program is writing to the file %1.</source>
+        <translation>Ein anderes Programm schreibt in die Datei %1.</translation>
+    </message>
+    <message>
+        <source>The project is being saved.</source>
+        <translation>Das Projekt wird gespeichert.</translation>
     </message>
 </context>
 <context>

@@ -1,8 +1,10 @@
 #include "DesignDialog.h"
 
 #include "dialogPages.h"
+#include "ProjectWriting.h"
 
-#include <VKD_H_ProjectDialogPage.h>
+#include <vkd_dbo_model.h>
+#include <vkd_dbo_queries.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter>
 #include <VKD_QT_Ok.h>
@@ -14,37 +16,97 @@ namespace workbench {
 
 namespace {
 constexpr int OkAndCancel = 3;
+constexpr int DesignKey1 = 200;
+constexpr int DesignKey2 = 6;
+
+/// Puts the design records of a store in place of those of another one.
+cd_error_t copyRecords(int from, int to)
+{
+    int length = 0;
+    cd_error_t put = vkd_zob_put(to, DesignKey1, DesignKey2, nullptr, &length, 0);
+    QByteArray record(1024, Qt::Uninitialized);
+    cd_error_t status = VKD_ZOB_OK;
+    for (int position = 0; put == VKD_ZOB_OK && status == VKD_ZOB_OK;) {
+        length = record.size();
+        status = vkd_zob_get(from, DesignKey1, DesignKey2, record.data(), &length, position);
+        if (status == VKD_ZOB_CUT) {
+            record.resize(2 * record.size());
+            status = VKD_ZOB_OK;
+        } else if (status == VKD_ZOB_OK) {
+            put = vkd_zob_put(to, DesignKey1, DesignKey2, record.constData(), &length, 1);
+            ++position;
+        }
+    }
+    vkd_zob_free_ex(from, DesignKey1, DesignKey2);
+    const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
+    return put != VKD_ZOB_OK || isWhole ? put : status;
+}
 } // namespace
 
 DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
     : VKD_H_Dialog(parent, "DesignDialog")
     , m_document(document)
-    , m_page(new VKD_P_DesignParameter(document, document, this, false, false))
+    , m_desk(VKD_H_ZOBDoc::scratch())
 {
     setWindowTitle(tr("Design parameters"));
-    auto row = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
-    auto layout = new QVBoxLayout(this);
-    layout->addWidget(m_page, 1);
-    layout->addWidget(row);
-    connect(row->cmdOk(), &QPushButton::clicked, this, &DesignDialog::accept);
-    connect(row->cmdCancel(), &QPushButton::clicked, this, &DesignDialog::reject);
-    m_page->init();
-    VKD_H_ProjectDialogPage entries(document->index(), DesignDialogPage);
-    m_page->getEntrys(entries);
+    new QVBoxLayout(this);
     resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28);
 }
 
-bool DesignDialog::store()
+/// The page goes before its documents.
+DesignDialog::~DesignDialog()
 {
-    VKD_H_ProjectDialogPage entries(m_document->index(), DesignDialogPage);
-    m_page->setEntrys(entries);
-    return entries.save();
+    delete m_page;
+}
+
+cd_error_t DesignDialog::load()
+{
+    const cd_error_t status = copyRecords(m_document->index(), m_desk->index());
+    if (status != VKD_ZOB_OK)
+        return status;
+    vkd::dbo::Model model; // of which the page looks at the kind of system only
+    model.system.kindOfSystem = vkd::dbo::getKindOfSystem(m_document->index(), nullptr);
+    vkd::dbo::storeModel(m_desk->index(), model);
+    m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
+    showPage();
+    return VKD_ZOB_OK;
+}
+
+/// The buttons are made anew, too, so that they follow the page in the order of the tab key.
+void DesignDialog::showPage()
+{
+    delete m_page;
+    delete m_buttons;
+    m_page = new VKD_P_DesignParameter(m_document, m_desk.get(), this, false, false);
+    m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
+    layout()->addWidget(m_page);
+    layout()->addWidget(m_buttons);
+    static_cast<QVBoxLayout*>(layout())->setStretchFactor(m_page, 1);
+    connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &DesignDialog::accept);
+    connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &DesignDialog::reject);
+    m_page->init();
+    m_page->getEntrys(m_entries);
+}
+
+cd_error_t DesignDialog::store()
+{
+    ProjectWriting writing(m_document->index());
+    if (writing.status() != VKD_ZOB_OK)
+        return writing.status();
+    const bool hasEntries = m_entries.save();
+    if (hasEntries)
+        copyRecords(m_desk->index(), m_document->index());
+    const cd_error_t status = writing.finish();
+    return status == VKD_ZOB_OK && !hasEntries ? cd_error_t(VKD_ZOB_FAILED) : status;
 }
 
 void DesignDialog::accept()
 {
-    if (m_page->checkVals())
-        VKD_H_Dialog::accept();
+    if (!m_page->checkVals())
+        return;
+    VKD_H_Dialog::accept();
+    if (result() == Accepted)
+        m_page->setEntrys(m_entries);
 }
 
 } // namespace workbench

@@ -1,15 +1,23 @@
 #pragma once
 
 #include <VKD_H_Dialog.h>
+#include <VKD_H_ProjectDialogPage.h>
+#include <vkd_zob.h>
+
+#include <memory>
 
 class VKD_H_ZOBDoc;
 class VKD_P_DesignParameter;
+class VKD_QT_Ok;
 
 namespace workbench {
 
 /// The design parameters of a project, with OK and Cancel. exec() may also answer
 /// VKD_H_SelGRP_Dialog::PickOutside: then the groups are to be picked in the view, and the same
 /// dialog is to be shown again.
+///
+/// The page works on the scratch store. A page turns what it shows into the stored form when it
+/// writes and cannot go back, so what the project refuses to take is kept there for a new page.
 class DesignDialog : public VKD_H_Dialog
 {
     Q_OBJECT
@@ -17,16 +25,24 @@ class DesignDialog : public VKD_H_Dialog
 public:
     /// `document` is not owned and outlives the dialog.
     DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent);
+    ~DesignDialog() override;
 
-    /// Writes what the page shows into the project. False if the store refused the texts of the
-    /// page; what became of the records stands in the platform's log.
-    bool store();
+    /// Reads what is edited, before the dialog is shown. The result is a VkdZobStatus.
+    cd_error_t load();
+    /// Writes what was accepted into the project, all of it or nothing. The result is a
+    /// VkdZobStatus; it can be tried again.
+    cd_error_t store();
+    /// Puts what was accepted on the page again, for the dialog to be shown once more.
+    void showPage();
 
     void accept() override;
 
 private:
     VKD_H_ZOBDoc* m_document;
-    VKD_P_DesignParameter* m_page;
+    std::unique_ptr<VKD_H_ZOBDoc> m_desk;
+    VKD_H_ProjectDialogPage m_entries;
+    VKD_P_DesignParameter* m_page = nullptr;
+    VKD_QT_Ok* m_buttons = nullptr;
 };
 
 } // namespace workbench

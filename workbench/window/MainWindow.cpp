@@ -5,9 +5,12 @@
 #include "OutputDialog.h"
 #include "PickBanner.h"
 #include "PlatformLog.h"
+#include "projectTrouble.h"
+#include "ProjectWriting.h"
 #include "RecordsPane.h"
 #include "ScriptPane.h"
 #include "TextOutputDialog.h"
+#include "waitForStore.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
 #include "windowTexts.h"
@@ -198,6 +201,25 @@ void MainWindow::complain(const QString& text)
     PlatformLog::take(); // the message says it already
     say(text.section(QLatin1Char('\n'), 0, 0));
     VKD_QT_MessageBox::warning(this, tr("Workbench"), text);
+}
+
+bool MainWindow::succeeds(cd_error_t status, const QString& path, const QString& sentence)
+{
+    if (status == StoreCancelled)
+        say(tr("Cancelled."));
+    else if (status != VKD_ZOB_OK)
+        complain(sentence.arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') +
+                 projectReason(path, status));
+    return status == VKD_ZOB_OK;
+}
+
+/// Whether all that the window reads next can be read: asked once, because each of many readings
+/// would wait for another program on its own.
+bool MainWindow::canRead()
+{
+    const QString path = m_document->path();
+    return succeeds(waitForStore(this, path, [this] { return readingStatus(index()); }), path,
+                    tr("The file %1 cannot be read."));
 }
 
 void MainWindow::saveWindowState() const

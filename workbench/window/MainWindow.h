@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_zob.h>
+
 #include <QMainWindow>
 
 #include <functional>
@@ -20,6 +22,7 @@ class PickBanner;
 class RecordsPane;
 class ScriptPane;
 class TextOutputDialog;
+struct TextOutputState;
 class WindowActions;
 
 /// The desktop around the library's pages: a project's model with its groups, the dialogs of the
@@ -60,25 +63,33 @@ private:
     void setTitle();
     void say(const QString& text);
     void complain(const QString& text);
+    /// Complains about a file by a sentence that names it, with the reason behind; not if the user
+    /// cancelled. False for any status but VKD_ZOB_OK.
+    bool succeeds(cd_error_t status, const QString& path, const QString& sentence);
+    bool canRead();
     void saveWindowState() const;
     int index() const;
     QString folder() const;
 
     void newProject(const QString& model);
+    bool makeProject(const QString& path, const QString& model);
     void chooseModel();
     void chooseProject();
     void saveAs();
+    void takeOver(const QString& path);
     void setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
     bool mayLeaveProject();
 
     void editDesign();
     void runDesign();
-    void storeDesign();
+    bool storeDesign();
     void startPicking();
     void stopPicking();
     void chooseGroup(int group);
     void showPicked();
 
+    /// Made when it is first asked for; null, after a word with the user, if the project cannot be
+    /// read for it.
     OutputDialog* output();
     void makeOutput(const OutputState& state);
     void showOutput();
@@ -89,6 +100,7 @@ private:
     void saveScript();
 
     void showTextOutput();
+    void reopenTextOutput(const TextOutputState& state, const QPoint& place);
     void makeTextOutput();
     void remakeTextOutput();
     void closeTextOutput();

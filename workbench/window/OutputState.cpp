@@ -2,6 +2,7 @@
 
 #include "dialogPages.h"
 #include "numberTexts.h"
+#include "ProjectWriting.h"
 
 #include <VKD_H_ProjectDialogPage.h>
 
@@ -23,13 +24,13 @@ OutputState OutputState::read(int index)
     return state;
 }
 
-bool OutputState::write(int index) const
+cd_error_t OutputState::write(int index) const
 {
     VKD_H_ProjectDialogPage entries(index, OutputDialogPage);
     entries.setEntry(PageKey, page);
     entries.setEntry(ContentKey, QString::number(content));
     entries.setEntry(LeftOutKey, keptNumbers(leftOutNumbers));
-    return entries.save();
+    return storeEntries(index, entries);
 }
 
 } // namespace workbench

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_zob.h>
+
 #include <QSet>
 #include <QString>
 
@@ -15,8 +17,8 @@ struct OutputState
 
     /// The state that lies in the project at this database index.
     static OutputState read(int index);
-    /// False if the store refused; its log line says why.
-    bool write(int index) const;
+    /// The result is a VkdZobStatus.
+    cd_error_t write(int index) const;
 };
 
 } // namespace workbench

@@ -34,6 +34,7 @@ public:
     void setState(const TextOutputState& state);
     /// Whether the choice is another than the one in the project.
     bool isChanged() const;
+    void setUnchanged() { m_kept = state(); }
 
 Q_SIGNALS:
     void choiceChanged();

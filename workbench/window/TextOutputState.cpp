@@ -2,6 +2,7 @@
 
 #include "dialogPages.h"
 #include "numberTexts.h"
+#include "ProjectWriting.h"
 
 #include <VKD_H_ProjectDialogPage.h>
 
@@ -63,7 +64,7 @@ TextOutputState TextOutputState::read(int index, int defaultLists)
     return state;
 }
 
-bool TextOutputState::write(int index) const
+cd_error_t TextOutputState::write(int index) const
 {
     VKD_H_ProjectDialogPage entries(index, TextOutputDialogPage);
     entries.setEntry(ExtentKey, extent);
@@ -74,7 +75,7 @@ bool TextOutputState::write(int index) const
     entries.setEntry(LeftOutLoadCasesKey, keptNumbers(leftOutLoadCases));
     entries.setEntry(LeftOutCombinationsKey, keptNumbers(leftOutCombinations));
     entries.setEntry(KindsKey, kindsText(kinds));
-    return entries.save();
+    return storeEntries(index, entries);
 }
 
 bool TextOutputState::operator==(const TextOutputState& other) const

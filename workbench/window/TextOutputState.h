@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_zob.h>
+
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -23,8 +25,8 @@ struct TextOutputState
     /// The state that lies in the project at this database index. Lists that were never stored are
     /// those of `defaultLists`.
     static TextOutputState read(int index, int defaultLists);
-    /// False if the store refused; its log line says why.
-    bool write(int index) const;
+    /// The result is a VkdZobStatus.
+    cd_error_t write(int index) const;
 
     bool operator==(const TextOutputState& other) const;
 };

@@ -1,5 +1,6 @@
 #include "WindowSettings.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace workbench {
@@ -23,15 +24,17 @@ QStringList WindowSettings::recentFiles() const
     for (const QString& path : kept)
         if (QFileInfo(path).isFile())
             present << path;
-    return present;
+    return present.mid(0, MaximumCount);
 }
 
 void WindowSettings::addRecentFile(const QString& path)
 {
-    QStringList files = recentFiles();
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    files.removeAll(absolute);
-    files.prepend(absolute);
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    QStringList files{QDir::cleanPath(QFileInfo(path).absoluteFilePath())};
+    const QStringList before = recentFiles();
+    for (const QString& file : before)
+        if (QFileInfo(file).canonicalFilePath() != canonical)
+            files << file;
     setValue(RecentKey, QStringList(files.mid(0, MaximumCount)));
 }
 

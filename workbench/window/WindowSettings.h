@@ -13,7 +13,8 @@ class WindowSettings : public QSettings
 public:
     WindowSettings();
 
-    /// The projects opened last, the last one first. Files that are gone are left out.
+    /// The projects opened last, the last one first, eight at most and each file once, by whatever
+    /// path. Files that are gone are left out.
     QStringList recentFiles() const;
     void addRecentFile(const QString& path);
 

@@ -6,10 +6,11 @@
 #include "MainWindow.h"
 #include "OutputDialog.h"
 #include "PickBanner.h"
-#include "PlatformLog.h"
 #include "RecordsPane.h"
 #include "ScriptPane.h"
+#include "SlowWork.h"
 #include "TextOutputDialog.h"
+#include "waitForStore.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
 
@@ -34,32 +35,39 @@ namespace workbench {
 
 void MainWindow::editDesign()
 {
-    m_design = std::make_unique<DesignDialog>(m_document.get(), this);
+    auto dialog = std::make_unique<DesignDialog>(m_document.get(), this);
+    const QString path = m_document->path();
+    const cd_error_t status = waitForStore(this, path, [&dialog] { return dialog->load(); });
+    if (!succeeds(status, path, tr("The file %1 cannot be read.")))
+        return;
+    m_design = std::move(dialog);
     runDesign();
 }
 
 void MainWindow::runDesign()
 {
-    const int result = m_design->exec();
+    int result = m_design->exec();
+    while (result == QDialog::Accepted && !storeDesign()) {
+        m_design->showPage(); // what was entered is not lost
+        result = m_design->exec();
+    }
     if (result == VKD_H_SelGRP_Dialog::PickOutside)
         return startPicking();
+    m_design.reset();
     if (result == QDialog::Accepted)
-        storeDesign();
+        m_records->setProject(index());
     else
         say(tr("The design parameters stay as they were."));
-    m_design.reset();
-    m_records->setProject(index()); // the page itself puts a record into a project without any
 }
 
-void MainWindow::storeDesign()
+bool MainWindow::storeDesign()
 {
-    PlatformLog::take();
-    const bool entriesStored = m_design->store();
-    const QStringList troubles = PlatformLog::take();
-    if (entriesStored && troubles.isEmpty())
-        return say(tr("The design parameters are in the project file."));
-    complain(
-        tr("The design parameters cannot be stored in the project.\n%1").arg(troubles.value(0)));
+    const QString path = m_document->path();
+    const cd_error_t status = waitForStore(this, path, [this] { return m_design->store(); });
+    if (!succeeds(status, path, tr("The design parameters cannot be stored in the file %1.")))
+        return false;
+    say(tr("The design parameters are in the project file."));
+    return true;
 }
 
 void MainWindow::startPicking()
@@ -104,7 +112,7 @@ void MainWindow::showPicked()
 
 OutputDialog* MainWindow::output()
 {
-    if (!m_output)
+    if (!m_output && canRead() && !m_output) // another event may have made it meanwhile
         makeOutput(OutputState::read(index()));
     return m_output.get();
 }
@@ -113,7 +121,10 @@ void MainWindow::makeOutput(const OutputState& state)
 {
     m_output = std::make_unique<OutputDialog>(m_document.get(), state, this);
     connect(m_output.get(), &OutputDialog::choiceChanged, this, &MainWindow::refreshScript);
-    connect(m_output.get(), &QDialog::accepted, this, &MainWindow::storeOutput);
+    connect(m_output.get(), &QDialog::accepted, this, [this] {
+        if (!storeOutput())
+            showOutput();
+    });
     connect(m_output.get(), &QDialog::rejected, this, [this] {
         m_output.release()->deleteLater(); // it is still busy with closing
         say(tr("The choice of plots is again that of the project."));
@@ -123,22 +134,24 @@ void MainWindow::makeOutput(const OutputState& state)
 
 void MainWindow::showOutput()
 {
-    output()->show();
-    output()->raise();
-    output()->activateWindow();
+    if (!output())
+        return;
+    m_output->show();
+    m_output->raise();
+    m_output->activateWindow();
 }
 
 bool MainWindow::storeOutput()
 {
-    PlatformLog::take();
-    const bool isStored = output()->state().write(index());
-    const QStringList troubles = PlatformLog::take();
-    if (!isStored || !troubles.isEmpty()) {
-        complain(
-            tr("The choice of plots cannot be stored in the project.\n%1").arg(troubles.value(0)));
+    if (!output())
         return false;
-    }
-    output()->setUnchanged();
+    const QString path = m_document->path();
+    const OutputState state = m_output->state();
+    const cd_error_t status =
+        waitForStore(this, path, [this, &state] { return state.write(index()); });
+    if (!succeeds(status, path, tr("The choice of plots cannot be stored in the file %1.")))
+        return false;
+    m_output->setUnchanged();
     showModified();
     say(tr("The choice of plots is in the project file."));
     return true;
@@ -149,7 +162,10 @@ void MainWindow::refreshScript()
     if (!m_document)
         return;
     const bool isFirst = !m_output;
-    const QString script = output()->script(m_script->english());
+    const WaitCursor cursor;
+    if (!output())
+        return;
+    const QString script = m_output->script(m_script->english());
     if (isFirst && m_script->script().isEmpty())
         m_script->setOtherScript(script);
     else
@@ -161,8 +177,8 @@ void MainWindow::refreshScript()
 void MainWindow::setKeywords(bool english)
 {
     WindowSettings().setEnglishKeywords(english);
-    if (m_document)
-        m_script->setOtherScript(output()->script(english));
+    if (m_document && output())
+        m_script->setOtherScript(m_output->script(english));
 }
 
 void MainWindow::copyScript()
@@ -192,6 +208,8 @@ void MainWindow::setLanguage(int language)
 {
     if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == language)
         return;
+    if (m_document && !canRead()) // all texts of the project are read anew
+        return m_actions->setTexts();
     const bool wasOpen = m_output && m_output->isVisible();
     const bool wasChanged = m_output && m_output->isChanged();
     const QRect place = wasOpen ? m_output->geometry() : QRect();

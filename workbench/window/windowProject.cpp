@@ -1,14 +1,16 @@
-// The main window and its project: new, open, save as, drag and drop, closing.
+// The main window and its project: open, save as, closing.
 
-#include "DesignDialog.h"
+#include "copyProject.h"
 #include "GroupList.h"
 #include "MainWindow.h"
 #include "OutputDialog.h"
 #include "PlatformLog.h"
-#include "projectTrouble.h"
+#include "projectFiles.h"
 #include "RecordsPane.h"
 #include "ScriptPane.h"
+#include "SlowWork.h"
 #include "TextOutputDialog.h"
+#include "waitForStore.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
 
@@ -18,77 +20,12 @@
 
 #include <QCloseEvent>
 #include <QDir>
-#include <QDropEvent>
 #include <QFileDialog>
-#include <QMimeData>
 #include <QTimer>
 
-#include <cstdio>
 #include <optional>
 
 namespace workbench {
-
-namespace {
-const QString ProjectSuffix = QStringLiteral("zob");
-
-/// The local file that is dragged, if it is one alone.
-QString draggedFile(const QMimeData* data)
-{
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
-}
-
-QString withSuffix(const QString& path)
-{
-    return QFileInfo(path).suffix().isEmpty() ? path + QLatin1Char('.') + ProjectSuffix : path;
-}
-
-bool isSameFile(const QString& a, const QString& b)
-{
-    const QString canonical = QFileInfo(a).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
-}
-
-/// Puts a finished file in the place of another one, in one step.
-bool replaceFile(const QString& file, const QString& path)
-{
-    const bool done =
-        std::rename(QFile::encodeName(file).constData(), QFile::encodeName(path).constData()) == 0;
-    if (!done)
-        QFile::remove(file);
-    return done;
-}
-} // namespace
-
-void MainWindow::chooseModel()
-{
-    const QString model = QFileDialog::getOpenFileName(this, tr("Model for a New Project"),
-                                                       folder(), tr("Models (*.json)"));
-    if (!model.isEmpty())
-        newProject(model);
-}
-
-void MainWindow::newProject(const QString& model)
-{
-    if (!mayLeaveProject())
-        return;
-    const QString proposal =
-        QDir(folder()).filePath(QFileInfo(model).completeBaseName() + QLatin1String(".zob"));
-    const QString chosen =
-        QFileDialog::getSaveFileName(this, tr("New Project"), proposal, tr("Projects (*.zob)"));
-    if (chosen.isEmpty())
-        return;
-    const QString path = withSuffix(chosen);
-    if (m_document && isSameFile(path, m_document->path()))
-        return complain(tr("The project %1 is open.\nChoose another name.").arg(path));
-    const QString unfinished = path + QLatin1String(".new");
-    const QString trouble = m_maker(unfinished, model);
-    if (!trouble.isEmpty())
-        return complain(tr("The project cannot be made.\n%1").arg(trouble));
-    if (!replaceFile(unfinished, path))
-        return complain(tr("The file %1 cannot be written.").arg(path));
-    openProject(path);
-}
 
 void MainWindow::chooseProject()
 {
@@ -103,19 +40,28 @@ void MainWindow::chooseProject()
 
 bool MainWindow::openProject(const QString& path)
 {
-    cd_error_t status = VKD_ZOB_OK;
-    auto document = VKD_H_ZOBDoc::open(QFileInfo(path).absoluteFilePath(), &status);
-    if (!document) {
-        complain(projectTrouble(path, status));
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    std::unique_ptr<VKD_H_ZOBDoc> document;
+    const cd_error_t status = waitForStore(this, absolute, [&document, &absolute] {
+        cd_error_t result = VKD_ZOB_OK;
+        document = VKD_H_ZOBDoc::open(absolute, &result);
+        return result;
+    });
+    if (!succeeds(status, absolute, tr("The file %1 cannot be opened."))) {
+        m_actions->setRecentFiles(WindowSettings().recentFiles()); // it may be gone
         return false;
     }
     setDocument(std::move(document));
     say(tr("%1 is open.").arg(QFileInfo(path).fileName()));
+    if (!PlatformLog::take().isEmpty())
+        complain(tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
+                     .arg(QDir::toNativeSeparators(absolute)));
     return true;
 }
 
 void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
 {
+    const WaitCursor cursor;
     m_output.reset();
     m_textOutput.reset();
     const auto before = std::move(m_document); // until nothing shows it any more
@@ -141,27 +87,43 @@ void MainWindow::saveAs()
                                                         m_document->path(), tr("Projects (*.zob)"));
     if (chosen.isEmpty())
         return;
-    const QString path = withSuffix(chosen);
+    const QString path = withProjectSuffix(chosen);
     if (isSameFile(path, m_document->path())) {
         storeOutput();
         if (m_textOutput)
             storeTextOutput();
         return;
     }
-    const OutputState state = output()->state();
+    if (!output() || !succeeds(copyProject(this, *m_document, path), path,
+                               tr("The project cannot be saved in the file %1.")))
+        return;
+    takeOver(path);
+}
+
+/// Goes on with the copy of the project, and leaves what is chosen as it is on the screen.
+void MainWindow::takeOver(const QString& path)
+{
+    const OutputState plots = m_output->state();
+    const bool werePlotsChanged = m_output->isChanged();
+    const QRect place = m_output->isVisible() ? m_output->geometry() : QRect();
     const auto text = m_textOutput ? std::make_optional(m_textOutput->state()) : std::nullopt;
-    const QString unfinished = path + QLatin1String(".new");
-    QFile::remove(unfinished);
-    if (!QFile::copy(m_document->path(), unfinished) || !replaceFile(unfinished, path))
-        return complain(tr("The file %1 cannot be written.").arg(path));
+    const bool wasTextChanged = text && m_textOutput->isChanged();
+    const QPoint textPlace = text ? m_textOutput->pos() : QPoint();
     if (!openProject(path))
         return;
-    if (!state.write(index()))
-        return complain(tr("The choice of plots cannot be stored in the project."));
-    if (text && !text->write(index()))
-        return complain(tr("The text output cannot be stored in the project."));
-    m_output.reset();
-    say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
+    makeOutput(plots);
+    if (werePlotsChanged)
+        m_output->setChanged();
+    m_script->setOtherScript(m_output->script(m_script->english()));
+    if (place.isValid()) {
+        m_output->setGeometry(place);
+        m_output->show();
+    }
+    if (text)
+        reopenTextOutput(*text, textPlace);
+    const bool arePlotsStored = !werePlotsChanged || storeOutput();
+    if (arePlotsStored && (!wasTextChanged || storeTextOutput()))
+        say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
 }
 
 bool MainWindow::mayLeaveProject()
@@ -191,23 +153,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     m_textOutput.reset();
     saveWindowState();
     QMainWindow::closeEvent(event);
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!m_design && !draggedFile(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-/// Whoever drops the file is not to wait for the answers to questions.
-void MainWindow::dropEvent(QDropEvent* event)
-{
-    const QString path = draggedFile(event->mimeData());
-    event->acceptProposedAction();
-    QTimer::singleShot(0, this, [this, path] {
-        if (!m_design && mayLeaveProject())
-            openProject(path);
-    });
 }
 
 } // namespace workbench

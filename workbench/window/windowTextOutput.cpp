@@ -3,8 +3,8 @@
 #include "ExtentFields.h"
 #include "MainWindow.h"
 #include "OutputDialog.h"
-#include "PlatformLog.h"
 #include "TextOutputDialog.h"
+#include "waitForStore.h"
 
 #include <VKD_QT_MessageBox.h>
 
@@ -23,7 +23,12 @@ void MainWindow::makeTextOutput()
 {
     m_textOutput = std::make_unique<TextOutputDialog>(index(), this);
     connect(m_textOutput.get(), &TextOutputDialog::choiceChanged, this, &MainWindow::showModified);
-    connect(m_textOutput.get(), &QDialog::accepted, this, &MainWindow::storeTextOutput);
+    connect(m_textOutput.get(), &QDialog::accepted, this, [this] {
+        if (storeTextOutput())
+            closeTextOutput();
+        else
+            showTextOutput(); // what was chosen is not lost
+    });
     connect(m_textOutput.get(), &QDialog::rejected, this, [this] {
         closeTextOutput();
         say(tr("The text output stays as it was."));
@@ -40,14 +45,14 @@ void MainWindow::closeTextOutput()
 
 bool MainWindow::storeTextOutput()
 {
-    PlatformLog::take();
-    const bool isStored = m_textOutput->state().write(index());
-    const QStringList troubles = PlatformLog::take();
-    if (!isStored || !troubles.isEmpty()) {
-        complain(tr("The text output cannot be stored in the project.\n%1").arg(troubles.value(0)));
+    const QString path = m_document->path();
+    const TextOutputState state = m_textOutput->state();
+    const cd_error_t status =
+        waitForStore(this, path, [this, &state] { return state.write(index()); });
+    if (!succeeds(status, path, tr("The text output cannot be stored in the file %1.")))
         return false;
-    }
-    closeTextOutput();
+    m_textOutput->setUnchanged();
+    showModified();
     say(tr("The text output is in the project file."));
     return true;
 }
@@ -71,20 +76,19 @@ void MainWindow::showModified()
                       (m_textOutput && m_textOutput->isChanged()));
 }
 
+void MainWindow::reopenTextOutput(const TextOutputState& state, const QPoint& place)
+{
+    makeTextOutput();
+    m_textOutput->setState(state);
+    m_textOutput->move(place);
+    m_textOutput->show();
+}
+
 /// It takes its texts when it is made.
 void MainWindow::remakeTextOutput()
 {
-    if (!m_textOutput)
-        return;
-    const bool wasOpen = m_textOutput->isVisible();
-    const QPoint place = m_textOutput->pos();
-    const TextOutputState state = m_textOutput->state();
-    makeTextOutput();
-    m_textOutput->setState(state);
-    if (!wasOpen)
-        return;
-    m_textOutput->move(place);
-    m_textOutput->show();
+    if (m_textOutput)
+        reopenTextOutput(m_textOutput->state(), m_textOutput->pos());
 }
 
 } // namespace workbench

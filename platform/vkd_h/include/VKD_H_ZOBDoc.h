@@ -17,12 +17,15 @@ public:
     /// `status`, if given, is then a VkdZobStatus above 1 and the log holds a line.
     static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, cd_error_t* status = nullptr);
     static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, cd_error_t* status = nullptr);
+    /// The scratch store as a document, for what is not to be in a project yet. All such documents
+    /// are one store, which keeps what is in it; index 0, without a path.
+    static std::unique_ptr<VKD_H_ZOBDoc> scratch();
     ~VKD_H_ZOBDoc();
     VKD_H_ZOBDoc(const VKD_H_ZOBDoc&) = delete;
     VKD_H_ZOBDoc& operator=(const VKD_H_ZOBDoc&) = delete;
 
-    /// The database index for the calls of the store and the model queries; 1 or more, and -1 once
-    /// the document is closed.
+    /// The database index for the calls of the store and the model queries; 1 or more for a
+    /// project, and -1 once the document is closed.
     int index() const;
     QString path() const;
 

@@ -1,5 +1,9 @@
 #include "VKD_H_ZOBDoc.h"
 
+namespace {
+constexpr int ScratchIndex = 0;
+}
+
 VKD_H_ZOBDoc::VKD_H_ZOBDoc(int index, const QString& path)
     : m_index(index)
     , m_path(path)
@@ -34,6 +38,11 @@ std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::create(const QString& path, cd_error
     return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
 }
 
+std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::scratch()
+{
+    return std::unique_ptr<VKD_H_ZOBDoc>(new VKD_H_ZOBDoc(ScratchIndex, QString()));
+}
+
 int VKD_H_ZOBDoc::index() const
 {
     return m_index;
@@ -48,7 +57,8 @@ cd_error_t VKD_H_ZOBDoc::close()
 {
     if (m_index < 0)
         return VKD_ZOB_OK;
-    const cd_error_t status = vkd_zob_close(m_index);
+    const bool livesOn = m_index == ScratchIndex;
+    const cd_error_t status = livesOn ? cd_error_t(VKD_ZOB_OK) : vkd_zob_close(m_index);
     m_index = -1;
     return status;
 }

@@ -66,6 +66,10 @@ VKD_Q_EXPORT cd_error_t vkd_zob_lock_ex(int index, int key1, int key2);
 /// If anything failed meanwhile, a read too, none of it counts.
 VKD_Q_EXPORT void vkd_zob_free_ex(int index, int key1, int key2);
 
+/// How the last change of the project ended, because releasing it has no result: 0 if what was put
+/// is stored or nothing was taken yet, otherwise why taking or storing failed.
+VKD_Q_EXPORT cd_error_t vkd_zob_change_status(int index);
+
 /// With `mode` 1 moves `*key1`, `*key2` to the first key pair in use that is not below them, both
 /// -1 if there is none: a key pair (35, 0) that still begins with 35 tells that something is stored
 /// under 35. No other mode is known; it answers -1.

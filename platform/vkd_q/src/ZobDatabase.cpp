@@ -422,8 +422,10 @@ void ZobDatabase::storeOrDrop()
     cd_error_t status = m_changeStatus; // whose reason has been said
     if (status == VKD_ZOB_OK)
         status = execute("COMMIT", "store the changes in");
-    if (status == VKD_ZOB_OK)
+    if (status == VKD_ZOB_OK) {
+        m_endOfChange = VKD_ZOB_OK;
         return;
+    }
     // Some failures have rolled back already; what the old content was, it is again.
     if (!sqlite3_get_autocommit(m_connection.get()))
         execute("ROLLBACK", "undo the changes in");
@@ -432,6 +434,7 @@ void ZobDatabase::storeOrDrop()
 
 void ZobDatabase::rememberRelease(cd_error_t status)
 {
+    m_endOfChange = status;
     if (m_releaseStatus == VKD_ZOB_OK)
         m_releaseStatus = status;
 }

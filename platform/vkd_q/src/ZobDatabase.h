@@ -26,6 +26,8 @@ public:
     cd_error_t put(int key1, int key2, const void* record, int length, int position);
     cd_error_t take(int key1, int key2);
     void release(int key1, int key2);
+    /// How the last release of the last taken pair, or of a refused one, ended.
+    cd_error_t endOfChange() const { return m_endOfChange; }
     /// Moves the pair to the first one in use from there on, or to -1, -1.
     void firstPairFrom(int* key1, int* key2);
     /// Drops what is still taken; gives the first failure of a release.
@@ -75,5 +77,6 @@ private:
     std::map<KeyPair, int> m_ends; // of sequences appended to since the first pair was taken
     std::map<KeyPair, cd_error_t> m_refused; // could not be taken, and why
     cd_error_t m_changeStatus = VKD_ZOB_OK;  // first failure since the first pair was taken
-    cd_error_t m_releaseStatus = VKD_ZOB_OK;
+    cd_error_t m_endOfChange = VKD_ZOB_OK;
+    cd_error_t m_releaseStatus = VKD_ZOB_OK; // the first failure of all
 };

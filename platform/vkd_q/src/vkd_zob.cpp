@@ -95,6 +95,13 @@ void vkd_zob_free_ex(int index, int key1, int key2)
         store->release(key1, key2);
 }
 
+cd_error_t vkd_zob_change_status(int index)
+{
+    cd_error_t status = VKD_ZOB_OK;
+    const ZobDatabase* store = database(index, &status);
+    return store ? store->endOfChange() : status;
+}
+
 void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)
 {
     cd_error_t status = VKD_ZOB_OK;

@@ -1,0 +1,63 @@
+#include "SlowWork.h"
+
+#include <QApplication>
+#include <QProgressDialog>
+
+#include <limits>
+
+namespace workbench {
+
+namespace {
+constexpr int PatienceMs = 500;
+} // namespace
+
+WaitCursor::WaitCursor()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+WaitCursor::~WaitCursor()
+{
+    QApplication::restoreOverrideCursor();
+}
+
+SlowWork::SlowWork(QWidget* parent, const QString& text, int maximum)
+    : m_parent(parent)
+    , m_text(text)
+    , m_maximum(maximum)
+    , m_cursor(std::make_unique<WaitCursor>())
+{
+    m_clock.start();
+}
+
+SlowWork::~SlowWork() = default;
+
+bool SlowWork::goOn(int value)
+{
+    if (!m_box && elapsed() < PatienceMs)
+        return true;
+    if (!m_box)
+        showBox();
+    m_box->setValue(value);
+    QApplication::processEvents();
+    return !m_box->wasCanceled();
+}
+
+int SlowWork::elapsed() const
+{
+    return int(m_clock.elapsed());
+}
+
+void SlowWork::showBox()
+{
+    m_cursor.reset();
+    m_box = std::make_unique<QProgressDialog>(m_text, tr("Cancel"), 0, m_maximum, m_parent);
+    m_box->setObjectName(QStringLiteral("SlowWork"));
+    m_box->setWindowTitle(tr("Workbench"));
+    m_box->setWindowModality(Qt::ApplicationModal);
+    m_box->setMinimumDuration(std::numeric_limits<int>::max()); // it is shown here
+    m_box->setAutoReset(false);
+    m_box->show();
+}
+
+} // namespace workbench

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QString>
+
+#include <memory>
+
+class QProgressDialog;
+class QWidget;
+
+namespace workbench {
+
+/// The wait cursor for work in one piece.
+class WaitCursor
+{
+public:
+    WaitCursor();
+    ~WaitCursor();
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+/// Tells the user about work that the window waits for: the wait cursor at once, and after half a
+/// second a box with the progress and Cancel. Until the box is there no event is let in, behind it
+/// only those of the box and of painting.
+class SlowWork
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::SlowWork)
+
+public:
+    /// The box belongs to `parent` and counts to `maximum`.
+    SlowWork(QWidget* parent, const QString& text, int maximum);
+    ~SlowWork();
+    SlowWork(const SlowWork&) = delete;
+    SlowWork& operator=(const SlowWork&) = delete;
+
+    /// To be called every now and then; false once the user has cancelled.
+    bool goOn(int value);
+    /// Since the work began, in ms.
+    int elapsed() const;
+
+private:
+    void showBox();
+
+    QElapsedTimer m_clock;
+    QWidget* m_parent;
+    QString m_text;
+    int m_maximum;
+    std::unique_ptr<WaitCursor> m_cursor;   // until there is a box
+    std::unique_ptr<QProgressDialog> m_box; // once it took long enough
+};
+
+} // namespace workbench

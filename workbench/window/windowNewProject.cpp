@@ -1,0 +1,105 @@
+// The main window and what comes into it: new projects from models, and files that are dropped.
+
+#include "copyProject.h"
+#include "DesignDialog.h"
+#include "MainWindow.h"
+#include "OutputDialog.h"
+#include "projectFiles.h"
+#include "SlowWork.h"
+
+#include <VKD_H_ZOBDoc.h>
+
+#include <QDir>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace workbench {
+
+namespace {
+/// Puts a finished file in the place of another one, in one step.
+bool replaceFile(const QString& file, const QString& path)
+{
+    const bool done =
+        std::rename(QFile::encodeName(file).constData(), QFile::encodeName(path).constData()) == 0;
+    if (!done)
+        QFile::remove(file);
+    return done;
+}
+} // namespace
+
+void MainWindow::chooseModel()
+{
+    const QString model = QFileDialog::getOpenFileName(this, tr("Model for a New Project"),
+                                                       folder(), tr("Models (*.json)"));
+    if (!model.isEmpty())
+        newProject(model);
+}
+
+void MainWindow::newProject(const QString& model)
+{
+    if (!mayLeaveProject())
+        return;
+    const QString proposal =
+        QDir(folder()).filePath(QFileInfo(model).completeBaseName() + QLatin1String(".zob"));
+    const QString chosen =
+        QFileDialog::getSaveFileName(this, tr("New Project"), proposal, tr("Projects (*.zob)"));
+    if (chosen.isEmpty())
+        return;
+    const QString path = withProjectSuffix(chosen);
+    if (m_document && isSameFile(path, m_document->path()))
+        return complain(tr("The project %1 is open.\nChoose another name.").arg(path));
+    if (makeProject(path, model))
+        openProject(path);
+}
+
+bool MainWindow::makeProject(const QString& path, const QString& model)
+{
+    const QString sentence = tr("The file %1 cannot be written.");
+    const ReplacedFile replaced(this, path);
+    if (!succeeds(replaced.status(), path, sentence))
+        return false;
+    say(tr("The project is being made."));
+    const QString unfinished = path + QLatin1String(".new");
+    QFile::remove(unfinished); // of a window that ended in the middle
+    QString trouble;
+    {
+        const WaitCursor cursor;
+        trouble = m_maker(unfinished, model);
+    }
+    if (!trouble.isEmpty())
+        complain(tr("The project cannot be made.\n%1").arg(trouble));
+    else if (succeeds(replaceFile(unfinished, path) ? VKD_ZOB_OK : VKD_ZOB_READ_ONLY, path,
+                      sentence))
+        return true;
+    return false;
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!m_design && !draggedFile(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+/// Whoever drops the file is not to wait for the answers to questions, and is not told that the
+/// file was moved: it would be deleted.
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString path = draggedFile(event->mimeData());
+    if (path.isEmpty())
+        return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    QTimer::singleShot(0, this, [this, path] {
+        if (m_design)
+            return;
+        if (isModelFile(path))
+            newProject(path);
+        else if (mayLeaveProject())
+            openProject(path);
+    });
+}
+
+} // namespace workbench
