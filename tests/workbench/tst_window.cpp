@@ -1,4 +1,4 @@
-#include "WidgetTestSupport.h"
+#include "WindowTestSupport.h"
 
 #include <changedLines.h>
 #include <MainWindow.h>
@@ -6,13 +6,8 @@
 #include <vkd_lib_value.h>
 #include <VKD_QT_InitTranslator.h>
 
-#include <QAction>
 #include <QComboBox>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <QTableWidget>
@@ -22,49 +17,7 @@
 using testsupport::whenModal;
 using workbench::MainWindow;
 
-namespace {
-QByteArray commandLine(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(WORKBENCH), arguments);
-    process.waitForFinished();
-    return process.readAllStandardOutput();
-}
-
-QString makeProject(const QString& path, const QString& model)
-{
-    commandLine({QStringLiteral("new"), path, QStringLiteral("--model"), model});
-    return QFile::exists(path) ? QString() : QStringLiteral("not made");
-}
-
-void answerFileDialog(const QString& path)
-{
-    whenModal([path](QWidget* dialog) {
-        auto name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        name->setText(path);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-}
-
-template <class Widget>
-Widget* find(const QWidget& window, const char* name)
-{
-    auto found = window.findChild<Widget*>(QLatin1String(name));
-    if (!found)
-        qFatal("no %s", name);
-    return found;
-}
-
-void trigger(const QWidget& window, const char* action)
-{
-    window.findChild<QAction*>(QLatin1String(action))->trigger();
-}
-
-QString script(const QWidget& window)
-{
-    return find<QPlainTextEdit>(window, "ScriptText")->toPlainText();
-}
-} // namespace
+using namespace windowtest;
 
 class tst_window : public QObject
 {

@@ -72,8 +72,8 @@ cd_error_t copyBytes(QWidget* parent, QFile& from, QSaveFile& to)
         const QByteArray bytes = from.read(PieceBytes);
         if (bytes.isEmpty())
             return VKD_ZOB_FAILED;
-        if (to.write(bytes) != bytes.size())
-            return statusOf(to);
+        if (to.write(bytes) != bytes.size()) // a part of it is no error to Qt
+            return VKD_ZOB_FULL;
         if (!work.goOn(piece))
             return StoreCancelled;
     }

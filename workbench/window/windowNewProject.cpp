@@ -77,19 +77,18 @@ bool MainWindow::makeProject(const QString& path, const QString& model)
     return false;
 }
 
+/// The file is only looked at. Whoever drags it and is told that it was moved would delete it.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!m_design && !draggedFile(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);
+    const bool stays = event->dropAction() != Qt::MoveAction; // the source may offer nothing else
+    event->setAccepted(!m_design && stays && !draggedFile(event->mimeData()).isEmpty());
 }
 
-/// Whoever drops the file is not to wait for the answers to questions, and is not told that the
-/// file was moved: it would be deleted.
+/// Whoever drops the file is not to wait for the answers to questions.
 void MainWindow::dropEvent(QDropEvent* event)
 {
     const QString path = draggedFile(event->mimeData());
-    if (path.isEmpty())
-        return event->ignore();
     event->setDropAction(Qt::CopyAction);
     event->accept();
     QTimer::singleShot(0, this, [this, path] {

@@ -1,11 +1,11 @@
 // The main window and the dialog of the text output.
 
-#include "ExtentFields.h"
 #include "MainWindow.h"
 #include "OutputDialog.h"
 #include "TextOutputDialog.h"
 #include "waitForStore.h"
 
+#include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_MessageBox.h>
 
 namespace workbench {

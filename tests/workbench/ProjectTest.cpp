@@ -1,0 +1,120 @@
+#include "ProjectTest.h"
+
+#include <PlatformLog.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+#include <vkd_zob.h>
+#include <WindowSettings.h>
+
+#include <QDir>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using testsupport::whenModal;
+using workbench::MainWindow;
+using workbench::WindowSettings;
+
+namespace windowtest {
+
+void press(QWidget* box, QMessageBox::StandardButton button)
+{
+    qobject_cast<QMessageBox*>(box)->button(button)->click();
+}
+
+/// Presses OK in the message that comes next; its text is added to the list.
+void readMessage(QStringList& texts)
+{
+    whenModal([&texts](QWidget* box) {
+        texts << qobject_cast<QMessageBox*>(box)->text();
+        press(box, QMessageBox::Ok);
+    });
+}
+
+void setLanguage(int language)
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    VKD_QT_InitTranslator::languageChanged();
+}
+
+void changeChoice(const QWidget& window)
+{
+    trigger(window, "Output");
+    find<QWidget>(window, "OutputDialog")
+        ->findChild<QTreeWidget*>()
+        ->topLevelItem(0)
+        ->setCheckState(0, Qt::Unchecked);
+    QTRY_VERIFY(window.isWindowModified());
+}
+
+OtherProgram::OtherProgram(const QString& path, Work work)
+{
+    vkd_zob_open(path.toUtf8().constData(), &m_index);
+    vkd_zob_lock_ex(m_index, 9000, 1);
+    const QByteArray bytes(work == Storing ? 4000000 : 5000, 'x'); // more than memory holds
+    const int length = bytes.size();
+    for (int i = 0; i < int(work); ++i)
+        vkd_zob_put(m_index, 9000, 1, bytes.constData(), &length, 1);
+}
+
+OtherProgram::~OtherProgram()
+{
+    vkd_zob_close(m_index);
+}
+
+static void setRoom(rlim_t bytes)
+{
+    std::signal(SIGXFSZ, SIG_IGN); // so that a write fails, as on a full disk
+    rlimit room{};
+    getrlimit(RLIMIT_FSIZE, &room);
+    room.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &room);
+}
+
+Obstacle::Obstacle(const QByteArray& kind, const QString& project)
+    : m_journal(project + QLatin1String("-journal"))
+{
+    if (kind == "locked")
+        m_other = std::make_unique<OtherProgram>(project, OtherProgram::Taking);
+    else if (kind == "no journal")
+        QDir().mkdir(m_journal);
+    else if (kind == "disk full")
+        setRoom(1000);
+}
+
+Obstacle::~Obstacle()
+{
+    QDir().rmdir(m_journal);
+    setRoom(RLIM_INFINITY);
+}
+
+void ProjectTest::initTestCase()
+{
+    workbench::PlatformLog::install();
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_all.path());
+    const QString project = m_all.filePath(QStringLiteral("building.zob"));
+    QCOMPARE(makeProject(project, QStringLiteral("building")), QString());
+    m_building = testsupport::readFile(project);
+}
+
+void ProjectTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    WindowSettings().clear();
+    vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, 300);
+    setLanguage(1);
+}
+
+std::unique_ptr<MainWindow> ProjectTest::open(const char* name) const
+{
+    testsupport::writeFile(path(name), m_building);
+    auto window = std::make_unique<MainWindow>(makeProject);
+    window->show();
+    if (!window->openProject(path(name)))
+        qFatal("not open");
+    return window;
+}
+
+} // namespace windowtest
