@@ -33,6 +33,19 @@ private Q_SLOTS:
         QCOMPARE(vkd_zob_put(first, 1, 1, "x", &length, 1), int(VKD_ZOB_NOT_OPEN));
     }
 
+    void scratch()
+    {
+        const int length = 1, key1 = 77, key2 = 1;
+        auto document = VKD_H_ZOBDoc::scratch();
+        QCOMPARE(vkd_zob_put(document->index(), key1, key2, "x", &length, 0), int(VKD_ZOB_OK));
+        QCOMPARE(document->close(), int(VKD_ZOB_OK));
+        document = VKD_H_ZOBDoc::scratch();
+        char kept = 0;
+        int room = 1;
+        QCOMPARE(vkd_zob_get(document->index(), key1, key2, &kept, &room, 0), int(VKD_ZOB_OK));
+        QCOMPARE(kept, 'x');
+    }
+
     void block_data()
     {
         QTest::addColumn<int>("language");

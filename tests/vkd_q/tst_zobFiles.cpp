@@ -86,6 +86,7 @@ private Q_SLOTS:
             QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
             QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has said why
             vkd_zob_free_ex(index, 1, 1);
+            QCOMPARE(vkd_zob_change_status(index), VKD_ZOB_READ_ONLY);
             QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);
         }
         QVERIFY(readAll(index) == m_records);

@@ -47,8 +47,9 @@ static int childMain(const QVector<int>& numbers, const QString& path)
     cd_error_t result = VKD_ZOB_OK;
     for (int round = 0; round < rounds && result == VKD_ZOB_OK; ++round)
         result = writeRound(index, numbers[2], numbers[3]);
+    const cd_error_t stored = vkd_zob_change_status(index); // of the last round
     const cd_error_t closed = vkd_zob_close(index);
-    return result == VKD_ZOB_OK ? closed : result;
+    return result == VKD_ZOB_OK && stored == closed ? closed : result;
 }
 
 /// Several processes at one project, and processes that die or run out of room while they write.

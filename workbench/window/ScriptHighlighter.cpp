@@ -8,6 +8,11 @@
 namespace workbench {
 
 namespace {
+// Hues. Links are blue in many dark palettes as well, where nobody can read them.
+constexpr int Orange = 25;
+constexpr int Blue = 222;
+constexpr int Violet = 290;
+
 /// A hue that stays readable on the background of texts.
 QColor readable(const QPalette& palette, int hue)
 {
@@ -38,11 +43,11 @@ ScriptHighlighter::ScriptHighlighter(QTextDocument* document, const QPalette& pa
 
 void ScriptHighlighter::setColours(const QPalette& palette)
 {
-    m_statement.setForeground(palette.link());
+    m_statement.setForeground(readable(palette, Blue));
     m_statement.setFontWeight(QFont::Bold);
-    m_keyword.setForeground(palette.link());
-    m_number.setForeground(readable(palette, 25));
-    m_definition.setForeground(readable(palette, 290));
+    m_keyword.setForeground(readable(palette, Blue));
+    m_number.setForeground(readable(palette, Orange));
+    m_definition.setForeground(readable(palette, Violet));
     m_comment.setForeground(between(palette.color(QPalette::Text), palette.color(QPalette::Base)));
     m_comment.setFontItalic(true);
     rehighlight();

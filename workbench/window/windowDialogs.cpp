@@ -119,6 +119,7 @@ OutputDialog* MainWindow::output()
 
 void MainWindow::makeOutput(const OutputState& state)
 {
+    const WaitCursor cursor;
     m_output = std::make_unique<OutputDialog>(m_document.get(), state, this);
     connect(m_output.get(), &OutputDialog::choiceChanged, this, &MainWindow::refreshScript);
     connect(m_output.get(), &QDialog::accepted, this, [this] {
@@ -162,9 +163,9 @@ void MainWindow::refreshScript()
     if (!m_document)
         return;
     const bool isFirst = !m_output;
-    const WaitCursor cursor;
     if (!output())
         return;
+    const WaitCursor cursor;
     const QString script = m_output->script(m_script->english());
     if (isFirst && m_script->script().isEmpty())
         m_script->setOtherScript(script);
