@@ -28,8 +28,11 @@ void press(QWidget* box, QMessageBox::StandardButton button)
 void readMessage(QStringList& texts)
 {
     whenModal([&texts](QWidget* box) {
-        texts << qobject_cast<QMessageBox*>(box)->text();
+        const auto message = qobject_cast<QMessageBox*>(box);
+        const bool isPlain = message->textFormat() == Qt::PlainText;
+        texts << message->text();
         press(box, QMessageBox::Ok);
+        QVERIFY(isPlain); // names of files may look like tags
     });
 }
 

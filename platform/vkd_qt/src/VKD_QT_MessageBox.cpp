@@ -7,6 +7,7 @@ VKD_QT_MessageBox::VKD_QT_MessageBox(Icon icon, QWidget* parent, const QString& 
                                      const QString& text)
     : QMessageBox(icon, title, text, NoButton, parent)
 {
+    setTextFormat(Qt::PlainText); // names of files may look like tags
 }
 
 int VKD_QT_MessageBox::warning(QWidget* parent, const QString& title, const QString& text,
