@@ -43,6 +43,7 @@ public:
 
     void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                      const QVector<int>& roles = QVector<int>()) override;
+    void reset() override;
 
 Q_SIGNALS:
     /// Check states have changed: sent once for each step with the automatic update, however many
@@ -54,6 +55,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void showEvent(QShowEvent* event) override;
     void updateGeometries() override;
 

@@ -6,7 +6,6 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QScrollBar>
 
 VKD_QT_TreeWidget::VKD_QT_TreeWidget(QWidget* parent, const char* name)
     : QTreeWidget(parent)
@@ -102,8 +101,6 @@ void VKD_QT_TreeWidget::setColumnFitsTexts()
     header()->setResizeContentsPrecision(RowsInView);
     m_measuring.setSingleShot(true);
     connect(&m_measuring, &QTimer::timeout, this, &VKD_QT_TreeWidget::measure);
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &VKD_QT_TreeWidget::measureLater);
-    connect(model(), &QAbstractItemModel::modelReset, this, [this] { m_textWidth = 0; });
 }
 
 /// When the tree stands: most trees have the room, and need not wait for measuring.
@@ -135,6 +132,19 @@ void VKD_QT_TreeWidget::showEvent(QShowEvent* event)
 {
     QTreeWidget::showEvent(event);
     measureLater();
+}
+
+void VKD_QT_TreeWidget::reset()
+{
+    QTreeWidget::reset();
+    m_textWidth = 0;
+}
+
+void VKD_QT_TreeWidget::scrollContentsBy(int dx, int dy)
+{
+    QTreeWidget::scrollContentsBy(dx, dy);
+    if (dy != 0)
+        measureLater();
 }
 
 /// What is in view may have changed.
