@@ -8,9 +8,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
+#include <QDockWidget>
 #include <QPushButton>
 #include <QSettings>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -57,6 +60,21 @@ void addOutput(SnapshotAlbum& album, const MainWindow& window, const QString& lo
     }
     dialog->reject();
 }
+/// The preview in the window, and by itself.
+void addSheet(SnapshotAlbum& album, MainWindow& window, const QString& look)
+{
+    auto dock = window.findChild<QDockWidget*>(QStringLiteral("SheetDock"));
+    trigger(window, "SheetPreviewAction");
+    album.add(QStringLiteral("window-sheet") + look, &window);
+    dock->setFloating(true);
+    dock->resize(720, 960);
+    auto page = dock->findChild<QSpinBox*>(QStringLiteral("SheetPage"));
+    page->setValue(12);
+    album.add(QStringLiteral("sheet-page") + look, dock);
+    dock->findChild<QComboBox*>(QStringLiteral("SheetZoom"))->setCurrentIndex(1);
+    album.add(QStringLiteral("sheet-width") + look, dock);
+    dock->setFloating(false);
+}
 } // namespace
 
 void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
@@ -71,6 +89,7 @@ void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
         window.show();
         window.openProject(project);
         album.add(QStringLiteral("window") + look, &window);
+        addSheet(album, window, look);
         addOutput(album, window, look);
         addTextOutputSnapshots(album, window, look);
         addPicking(album, window, look);

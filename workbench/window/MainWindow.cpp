@@ -16,6 +16,7 @@
 #include "windowTexts.h"
 
 #include <AnimatorView.h>
+#include <SheetPreview.h>
 #include <vkd_dbo_model.h>
 #include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_ZOBDoc.h>
@@ -54,6 +55,7 @@ MainWindow::MainWindow(ProjectMaker maker, QWidget* parent)
     , m_banner(new PickBanner(this))
     , m_groups(new GroupList(this))
     , m_script(new ScriptPane(this))
+    , m_sheet(new SheetPreview(this))
     , m_records(new RecordsPane(this))
     , m_contents(new QLabel(this))
 {
@@ -93,6 +95,9 @@ void MainWindow::addDocks()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_groupDock = addDock(Qt::LeftDockWidgetArea, m_groups, "GroupDock");
     m_scriptDock = addDock(Qt::RightDockWidgetArea, m_script, "ScriptDock");
+    m_sheetDock = addDock(Qt::RightDockWidgetArea, m_sheet, "SheetDock");
+    tabifyDockWidget(m_scriptDock, m_sheetDock);
+    m_scriptDock->raise();
     m_recordDock = addDock(Qt::BottomDockWidgetArea, m_records, "RecordDock");
     const int letter = fontMetrics().averageCharWidth();
     resizeDocks({m_groupDock, m_scriptDock}, {45 * letter, 60 * letter}, Qt::Horizontal);
@@ -125,10 +130,12 @@ void MainWindow::connectActions()
     on(m_actions->saveAs, &MainWindow::saveAs);
     on(m_actions->copyScript, &MainWindow::copyScript);
     on(m_actions->saveScript, &MainWindow::saveScript);
+    on(m_actions->exportSheets, &MainWindow::exportSheet);
     on(m_actions->quit, &MainWindow::close);
     on(m_actions->design, &MainWindow::editDesign);
     on(m_actions->output, &MainWindow::showOutput);
     on(m_actions->textOutput, &MainWindow::showTextOutput);
+    on(m_actions->sheet, &MainWindow::showSheet);
     on(m_actions->german, [this] { setLanguage(0); });
     on(m_actions->english, [this] { setLanguage(1); });
     on(m_actions->designHelp, &MainWindow::showHelp);
@@ -158,6 +165,8 @@ void MainWindow::connectPanes()
     connect(m_script, &ScriptPane::languageChosen, this, &MainWindow::setKeywords);
     connect(m_script, &ScriptPane::copyWanted, this, &MainWindow::copyScript);
     connect(m_script, &ScriptPane::saveWanted, this, &MainWindow::saveScript);
+    connect(m_sheet, &SheetPreview::exportWanted, this, &MainWindow::exportSheet);
+    connect(m_sheetDock, &QDockWidget::visibilityChanged, this, &MainWindow::refreshSheet);
 }
 
 void MainWindow::changeEvent(QEvent* event)
@@ -173,6 +182,7 @@ void MainWindow::setTexts()
     m_view->setAccessibleName(tr("Model"));
     m_groupDock->setWindowTitle(tr("Groups"));
     m_scriptDock->setWindowTitle(tr("Script"));
+    m_sheetDock->setWindowTitle(tr("Sheet"));
     m_recordDock->setWindowTitle(tr("Records"));
     setTitle();
 }

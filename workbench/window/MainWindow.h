@@ -1,5 +1,6 @@
 #pragma once
 
+#include <SheetPlan.h>
 #include <vkd_zob.h>
 
 #include <QMainWindow>
@@ -23,6 +24,7 @@ class RecordsPane;
 class ScriptPane;
 class TextOutputDialog;
 struct TextOutputState;
+class SheetPreview;
 class WindowActions;
 
 /// The desktop around the library's pages: a project's model with its groups, the dialogs of the
@@ -107,6 +109,10 @@ private:
     bool storeTextOutput();
     bool mayLeaveTextOutput();
     void showModified();
+    SheetPlan newSheetPlan();
+    void refreshSheet();
+    void showSheet();
+    void exportSheet();
 
     void setLanguage(int language);
     void showHelp();
@@ -119,9 +125,11 @@ private:
     PickBanner* m_banner;
     GroupList* m_groups;
     ScriptPane* m_script;
+    SheetPreview* m_sheet;
     RecordsPane* m_records;
     QDockWidget* m_groupDock = nullptr;
     QDockWidget* m_scriptDock = nullptr;
+    QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;
     QLabel* m_contents;
     std::unique_ptr<DesignDialog> m_design; // while it is open or away for picking

@@ -201,6 +201,11 @@ QString OutputDialog::script(bool english)
     return m_page->getTORVAL(english);
 }
 
+QVector<PlotCaption> OutputDialog::captions() const
+{
+    return plotCaptions(*m_page->findChild<QTreeWidget*>());
+}
+
 OutputState OutputDialog::state()
 {
     // The page stores the camera of its view, also one of a fixed view, which the user did not

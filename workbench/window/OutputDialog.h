@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OutputState.h"
+#include "plotCaptions.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
@@ -32,6 +33,8 @@ public:
 
     /// The script of the present choice with English or German keywords, empty without a plot.
     QString script(bool english);
+    /// What the script draws, as it is called in the tree of the page.
+    QVector<PlotCaption> captions() const;
     /// For the project to keep.
     OutputState state();
     /// Whether the user changed anything since the dialog was made or setUnchanged() was called.

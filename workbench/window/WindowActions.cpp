@@ -63,10 +63,12 @@ WindowActions::WindowActions(QMainWindow* window)
     , saveAs(add("SaveAs"))
     , copyScript(add("CopyScriptAction"))
     , saveScript(add("SaveScriptAction"))
+    , exportSheets(add("ExportSheetsAction"))
     , quit(add("Quit"))
     , design(add("Design"))
     , output(add("Output"))
     , textOutput(add("TextOutput"))
+    , sheet(add("SheetPreviewAction"))
     , german(add("German"))
     , english(add("English"))
     , designHelp(add("DesignHelp"))
@@ -129,14 +131,14 @@ void WindowActions::addMenus(QMainWindow* window)
     recentMenu = m_fileMenu->addMenu(QString());
     m_fileMenu->addAction(saveAs);
     m_fileMenu->addSeparator();
-    m_fileMenu->addActions({copyScript, saveScript});
+    m_fileMenu->addActions({copyScript, saveScript, exportSheets});
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(quit);
     viewMenu = bar->addMenu(QString());
     viewMenu->addActions(views.toList());
     viewMenu->addSeparator();
     m_projectMenu = bar->addMenu(QString());
-    m_projectMenu->addActions({design, output, textOutput});
+    m_projectMenu->addActions({design, output, textOutput, sheet});
     m_languageMenu = bar->addMenu(QString());
     m_languageMenu->addActions({german, english});
     m_helpMenu = bar->addMenu(QString());
@@ -167,6 +169,8 @@ void WindowActions::setShortcuts()
     design->setShortcut(Qt::CTRL + Qt::Key_D);
     output->setShortcut(Qt::CTRL + Qt::Key_G);
     textOutput->setShortcut(Qt::CTRL + Qt::Key_T);
+    sheet->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_P);
+    exportSheets->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_E);
     designHelp->setShortcut(QKeySequence::HelpContents);
     for (int i = 0; i < views.size(); ++i)
         views[i]->setShortcut(Qt::CTRL + (Qt::Key_0 + i));
@@ -191,10 +195,12 @@ void WindowActions::setTexts()
     saveAs->setText(tr("Save &As..."));
     copyScript->setText(tr("&Copy Script"));
     saveScript->setText(tr("&Save Script..."));
+    exportSheets->setText(tr("&Export Sheets..."));
     quit->setText(tr("&Quit"));
     design->setText(tr("&Design Parameters..."));
     output->setText(tr("&Graphical Output..."));
     textOutput->setText(tr("&Text Output..."));
+    sheet->setText(tr("&Sheet Preview"));
     german->setText(tr("&German"));
     english->setText(tr("&English"));
     designHelp->setText(tr("&Design Parameters"));
@@ -210,7 +216,7 @@ void WindowActions::enable(bool hasProject, bool isPicking)
     for (QAction* action : {newFromFile, open, german, english, quit})
         action->setEnabled(!isPicking);
     recentMenu->setEnabled(!isPicking && !recentMenu->isEmpty());
-    for (QAction* action : {saveAs, design, output, textOutput})
+    for (QAction* action : {saveAs, design, output, textOutput, sheet})
         action->setEnabled(hasProject && !isPicking);
     for (QAction* action : qAsConst(views))
         action->setEnabled(hasProject);
@@ -220,6 +226,7 @@ void WindowActions::setHasScript(bool hasScript)
 {
     copyScript->setEnabled(hasScript);
     saveScript->setEnabled(hasScript);
+    exportSheets->setEnabled(hasScript);
 }
 
 void WindowActions::setRecentFiles(const QStringList& paths)

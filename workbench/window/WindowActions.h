@@ -35,11 +35,13 @@ public:
     QAction* saveAs;
     QAction* copyScript;
     QAction* saveScript;
+    QAction* exportSheets;
     QAction* quit;
     QVector<QAction*> views; ///< the data is an AnimatorViewControl
     QAction* design;
     QAction* output;
     QAction* textOutput;
+    QAction* sheet;
     QAction* german;
     QAction* english;
     QAction* designHelp;

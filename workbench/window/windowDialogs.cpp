@@ -173,6 +173,7 @@ void MainWindow::refreshScript()
         m_script->setScript(script);
     showModified();
     m_actions->setHasScript(!script.isEmpty());
+    refreshSheet();
 }
 
 void MainWindow::setKeywords(bool english)
@@ -180,6 +181,7 @@ void MainWindow::setKeywords(bool english)
     WindowSettings().setEnglishKeywords(english);
     if (m_document && output())
         m_script->setOtherScript(m_output->script(english));
+    refreshSheet();
 }
 
 void MainWindow::copyScript()

@@ -15,6 +15,7 @@
 #include "WindowSettings.h"
 
 #include <AnimatorView.h>
+#include <SheetPreview.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_MessageBox.h>
 
@@ -71,6 +72,7 @@ void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
     m_groups->setProject(index());
     m_records->setProject(index());
     m_script->setOtherScript(QString());
+    m_sheet->setProject(index(), QFileInfo(m_document->path()).completeBaseName());
     WindowSettings settings;
     settings.addRecentFile(m_document->path());
     m_actions->setRecentFiles(settings.recentFiles());

@@ -1,0 +1,94 @@
+#include "AnimatorPicture.h"
+
+#include "GeometryBuilder.h"
+#include "ScenePainter.h"
+#include "SceneView.h"
+#include "symbols.h"
+
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace vkd::aniview;
+
+namespace {
+/// Paper is white whatever the desktop looks like.
+QPalette paperPalette()
+{
+    QPalette palette(Qt::white);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+double lengthAlong(const Position& axis, const Position& lengths)
+{
+    return std::abs(axis[0]) * lengths[0] + std::abs(axis[1]) * lengths[1] +
+           std::abs(axis[2]) * lengths[2];
+}
+
+void drawAxes(QPainter& painter, const ViewAxes& axes, const QSizeF& size)
+{
+    const double length = qBound(12.0, 0.06 * qMin(size.width(), size.height()), 26.0);
+    const double inset = length + 16.0; // has room for a name
+    QFont names = painter.font();
+    names.setPixelSize(qRound(0.6 * length));
+    painter.setFont(names);
+    drawTriad(painter, axes, {inset, size.height() - inset}, length, {Qt::black, Qt::white});
+}
+} // namespace
+
+AnimatorPicture::AnimatorPicture(int index)
+    : m_scene(std::make_unique<SceneView>())
+    , m_painter(std::make_unique<ScenePainter>())
+{
+    if (index > 0)
+        m_scene->setGeometry(buildGeometry(vkd::dbo::readModel(index)));
+}
+
+AnimatorPicture::~AnimatorPicture() = default;
+
+bool AnimatorPicture::isEmpty() const
+{
+    return m_scene->geometry().isEmpty();
+}
+
+QSizeF AnimatorPicture::sizeSeen(const Camera& camera) const
+{
+    const ViewAxes axes = axesOf(camera);
+    const Position& half = m_scene->geometry().box.half;
+    return 2.0 * QSizeF(lengthAlong(axes.right, half), lengthAlong(axes.up, half));
+}
+
+double AnimatorPicture::fittingScale(const Camera& camera, const QSizeF& size) const
+{
+    return Projection::fittingScale(axesOf(camera), m_scene->geometry().box, size);
+}
+
+void AnimatorPicture::paint(QPainter& painter, const QSizeF& size, const Camera& camera,
+                            double scale)
+{
+    Camera aimedCamera = wholeModel(camera);
+    aimedCamera.zoom = scale / fittingScale(camera, size);
+    m_scene->setCamera(aimedCamera);
+    m_scene->setSize(size);
+    painter.save();
+    painter.setClipRect(QRectF(QPointF(), size), Qt::IntersectClip);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Projection projection = m_scene->projection();
+    m_painter->paint(painter, paperPalette(), m_scene->geometry(), m_scene->picture(), projection,
+                     GroupMarks());
+    drawAxes(painter, projection.axes(), size);
+    painter.restore();
+}
+
+/// A camera with a zoom of its own has to be aimed, or it would look at the origin.
+Camera AnimatorPicture::wholeModel(const Camera& camera) const
+{
+    Camera direction;
+    std::copy(std::begin(camera.eye), std::end(camera.eye), direction.eye);
+    direction.roll = camera.roll;
+    return aimed(direction, m_scene->geometry().box);
+}

@@ -1,0 +1,242 @@
+#include "SheetPlanReader.h"
+
+#include <cmath>
+
+namespace workbench {
+
+namespace {
+constexpr int MostParts = 10; // rows or columns; frames would be smaller than their captions
+constexpr double LeastText = 1.0;
+constexpr double MostText = 10.0; // mm; above, a caption would take the place of its picture
+constexpr double MostScale = 1e6;
+
+bool isOneOf(QStringView word, const char* german, const char* english)
+{
+    return word == QLatin1String(german) || word == QLatin1String(english);
+}
+
+/// Statements that set up the program and draw nothing by themselves.
+bool isSteering(QStringView word)
+{
+    for (const char* known :
+         {"PROG", "KOPF", "HEAD", "STEU", "CTRL", "SIZ2", "MOVE", "DRAW", "PERS", "FARB", "COLO"})
+        if (word == QLatin1String(known))
+            return true;
+    return false;
+}
+
+/// Without what stands behind a dollar sign, which with a bracket begins a reference.
+QStringView withoutComment(QStringView line)
+{
+    for (int i = 0; i < line.size(); ++i)
+        if (line[i] == QLatin1Char('$') &&
+            (i + 1 == line.size() || line[i + 1] != QLatin1Char('(')))
+            return line.left(i);
+    return line;
+}
+
+bool isSeparator(QChar c)
+{
+    return c.isSpace() || c == QLatin1Char('"');
+}
+
+template <class Words>
+Words wordsOf(QStringView text)
+{
+    Words words;
+    int start = -1;
+    for (int i = 0; i <= text.size(); ++i) {
+        const bool isEnd = i == text.size() || isSeparator(text[i]);
+        if (!isEnd && start < 0)
+            start = i;
+        if (isEnd && start >= 0) {
+            words.append(text.mid(start, i - start));
+            start = -1;
+        }
+    }
+    return words;
+}
+
+/// The number at the beginning of a word, so that a factor behind it does not matter; or nothing
+/// that is above 0.
+double positive(QStringView word)
+{
+    int length = 0;
+    while (length < word.size() && word[length] != QLatin1Char('*'))
+        ++length;
+    const double value = word.left(length).toString().toDouble();
+    return std::isfinite(value) && value > 0.0 ? value : 0.0;
+}
+
+int parts(QStringView digits)
+{
+    int number = 0;
+    for (const QChar c : digits) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            break;
+        number = qMin(10 * number + c.unicode() - '0', MostParts);
+    }
+    return qMax(1, number);
+}
+
+void readDivision(QStringView word, SheetPlan* plan)
+{
+    const QString text = word.left(64).toString().toLower();
+    const int cross = text.indexOf(QLatin1Char('x'));
+    if (cross < 0)
+        return;
+    plan->rows = parts(QStringView(text).left(cross));
+    plan->columns = parts(QStringView(text).mid(cross + 1));
+}
+
+double readScale(QStringView word)
+{
+    if (word == QLatin1String("-"))
+        return SheetPlan::EngineeringScale;
+    const double scale = positive(word);
+    return scale > 0.0 ? qBound(1.0, scale, MostScale) : SheetPlan::ScaleToFit;
+}
+
+/// "A3" is a sheet of that format and "URS" that of the reports, which is A4; both lie, and with a
+/// minus sign they stand. Any other word names no sheet.
+bool readSheet(QStringView word, SheetPlan* plan)
+{
+    const bool stands = word.startsWith(QLatin1Char('-'));
+    const QStringView name = stands ? word.mid(1) : word;
+    int format = 4;
+    if (name.size() == 2 && name[0] == QLatin1Char('A'))
+        format = name[1].unicode() - '0';
+    else if (name != QLatin1String("URS"))
+        return false;
+    constexpr QSizeF Standing[] = {{841, 1189}, {594, 841}, {420, 594}, {297, 420},
+                                   {210, 297},  {148, 210}, {105, 148}};
+    if (format < 0 || format >= int(std::size(Standing)))
+        return false;
+    plan->size = stands ? Standing[format] : Standing[format].transposed();
+    return true;
+}
+} // namespace
+
+void SheetPlanReader::readLine(QStringView line)
+{
+    const QStringView text = withoutComment(line).trimmed();
+    if (m_isEnded || text.startsWith(QLatin1Char('#')))
+        return;
+    int start = 0;
+    for (int i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && text[i] != QLatin1Char(';'))
+            continue;
+        readStatement(text.mid(start, i - start).trimmed());
+        start = i + 1;
+    }
+}
+
+void SheetPlanReader::readStatement(QStringView statement)
+{
+    if (statement.isEmpty() || m_isEnded)
+        return;
+    const Words words = wordsOf<Words>(statement);
+    const QStringView key = words.isEmpty() ? QStringView() : words[0];
+    if (isOneOf(key, "ENDE", "END"))
+        m_isEnded = true;
+    else if (isOneOf(key, "UND", "AND"))
+        m_isJoined = m_hasSetup && !m_plan.isEmpty();
+    else if (isOneOf(key, "SCHR", "SCHH"))
+        readFont(words);
+    else if (isOneOf(key, "BEOB", "VIEW"))
+        readView(words);
+    else if (isOneOf(key, "LF", "LC"))
+        m_loadCase = words.size() > 1 ? qMax(0, words[1].toString().toInt()) : 0;
+    else if (key == QLatin1String("SIZE"))
+        readSetup(words);
+    else if (m_hasSetup && !isSteering(key))
+        addPicture(statement);
+}
+
+void SheetPlanReader::readFont(const Words& words)
+{
+    const double height = 10.0 * positive(words.back()); // the script has centimetres
+    if (height > 0.0)
+        m_plan.textHeight = qBound(LeastText, height, MostText);
+}
+
+void SheetPlanReader::readSetup(const Words& words)
+{
+    m_hasSetup = true;
+    for (int i = 1; i < words.size(); ++i) {
+        const bool hasValue = i + 1 < words.size();
+        if (readSheet(words[i], &m_plan) || !hasValue)
+            continue;
+        const QStringView value = words[i + 1];
+        if (isOneOf(words[i], "M", "SC"))
+            m_plan.scale = readScale(value);
+        else if (isOneOf(words[i], "TEIL", "SPLI"))
+            readDivision(value, &m_plan);
+        else if (isOneOf(words[i], "RAND", "MARG"))
+            m_plan.hasBorder = !isOneOf(value, "NEIN", "NO");
+    }
+}
+
+void SheetPlanReader::readView(const Words& words)
+{
+    const int first = words.size() > 1 && isOneOf(words[1], "TYP", "TYPE") ? 2 : 1;
+    const QStringView name = words.size() > first ? words[first] : QStringView();
+    if (name == QLatin1String("STAN"))
+        return readFreeView(words, first + 1);
+    constexpr struct
+    {
+        const char* name;
+        PictureView::Kind kind;
+    } Known[] = {{"EG3", PictureView::Spatial},
+                 {"EGX", PictureView::Flat},
+                 {"EGXY", PictureView::PlaneXY},
+                 {"EGXZ", PictureView::PlaneXZ},
+                 {"EGYZ", PictureView::PlaneYZ}};
+    PictureView view;
+    for (const auto& known : Known)
+        if (name == QLatin1String(known.name))
+            view.kind = known.kind;
+    setView(view);
+}
+
+void SheetPlanReader::readFreeView(const Words& words, int first)
+{
+    const auto number = [&words](int i) {
+        return i < words.size() ? words[i].toString().toDouble() : 0.0;
+    };
+    PictureView view;
+    double square = 0.0;
+    for (int i = 0; i < 3; ++i) {
+        view.eye[i] = number(first + i);
+        square += view.eye[i] * view.eye[i];
+    }
+    view.roll = std::fmod(number(first + 4), 360.0); // behind the word ROTA
+    view.kind = PictureView::Free;
+    const bool isUsable = std::isfinite(square) && square > 0.0 && std::isfinite(view.roll);
+    setView(isUsable ? view : PictureView());
+}
+
+void SheetPlanReader::setView(const PictureView& view)
+{
+    if (m_plan.views.isEmpty() || !(m_plan.views.last() == view))
+        m_plan.views.append(view);
+}
+
+void SheetPlanReader::addPicture(QStringView command)
+{
+    if (m_isJoined) {
+        m_plan.pictures.last().secondLoadCase = m_loadCase;
+        m_isJoined = false;
+        return;
+    }
+    if (m_plan.views.isEmpty())
+        m_plan.views.append(PictureView());
+    SheetPicture picture;
+    const bool isRepeated = !m_plan.isEmpty() && m_plan.pictures.last().command == command;
+    picture.command = isRepeated ? m_plan.pictures.last().command : command.toString();
+    picture.view = m_plan.views.size() - 1;
+    picture.loadCase = m_loadCase;
+    m_plan.pictures.append(picture);
+}
+
+} // namespace workbench

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "SheetPlan.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QLabel;
+class QPushButton;
+class QSpinBox;
+class QToolButton;
+class VKD_QT4_ComboBox;
+
+namespace workbench {
+
+class ModelImages;
+class SheetPainter;
+class SheetView;
+
+/// The sheets of the present choice, to be leafed through before the graphics program is run, and
+/// to be exported.
+class SheetPreview : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SheetPreview(QWidget* parent = nullptr);
+    ~SheetPreview() override;
+
+    /// Shows sheets of the project at this database index, below 1 none, from their first page on;
+    /// there are no plots until setPlan().
+    void setProject(int index, const QString& name);
+    void setPlan(const SheetPlan& plan);
+    const SheetPlan& plan() const;
+    /// Draws the sheets of the project; belongs to the preview.
+    SheetPainter& painter() { return *m_painter; }
+
+Q_SIGNALS:
+    void exportWanted();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void layOut();
+    void setTexts();
+    void showPage();
+    void zoom(int entry);
+
+    std::unique_ptr<ModelImages> m_models;
+    std::unique_ptr<SheetPainter> m_painter;
+    QToolButton* m_previous;
+    QLabel* m_pageLabel;
+    QSpinBox* m_page;
+    QLabel* m_count;
+    QToolButton* m_next;
+    VKD_QT4_ComboBox* m_zoom;
+    QPushButton* m_export;
+    SheetView* m_view;
+};
+
+} // namespace workbench

@@ -1,0 +1,89 @@
+#include "exportSheets.h"
+
+#include "SheetPainter.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QProgressDialog>
+#include <QSaveFile>
+
+namespace workbench {
+
+namespace {
+constexpr int DotsPerInch = 300;
+constexpr int ShowsAfterMs = 500;
+constexpr int SliceMs = 40; // the user's clicks are answered that often
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("exportSheets", text);
+}
+
+void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
+{
+    const bool lies = plan.size.width() > plan.size.height();
+    const QSizeF standing = lies ? plan.size.transposed() : plan.size;
+    writer.setPageLayout({QPageSize(standing, QPageSize::Millimeter),
+                          lies ? QPageLayout::Landscape : QPageLayout::Portrait,
+                          QMarginsF(0.0, 0.0, 0.0, 0.0)});
+    writer.setResolution(DotsPerInch);
+    writer.setTitle(QFileInfo(path).completeBaseName());
+    writer.setCreator(QCoreApplication::applicationName());
+}
+
+/// False if the user cancelled, or if a page could not be begun.
+bool writePages(const SheetPlan& plan, SheetPainter& sheets, QPdfWriter& writer,
+                QProgressDialog& progress)
+{
+    QPainter painter(&writer);
+    if (!painter.isActive())
+        return false;
+    const QRectF sheet(0.0, 0.0, plan.size.width() / 25.4 * DotsPerInch,
+                       plan.size.height() / 25.4 * DotsPerInch);
+    QElapsedTimer slice;
+    slice.start();
+    for (int page = 0; page < plan.pageCount(); ++page) {
+        if (slice.elapsed() >= SliceMs) {
+            progress.setValue(page); // lets the dialog show and its button be pressed
+            slice.restart();
+        }
+        if (progress.wasCanceled() || (page > 0 && !writer.newPage()))
+            return false;
+        sheets.paint(painter, sheet, plan, page);
+    }
+    return painter.end();
+}
+} // namespace
+
+SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QString& path,
+                         QWidget* parent, QString* trouble)
+{
+    QSaveFile file(path);
+    if (plan.isEmpty() || !file.open(QIODevice::WriteOnly)) {
+        *trouble = file.errorString();
+        return SheetExport::Failed;
+    }
+    QProgressDialog progress(translated("Writing the sheets ..."), translated("Cancel"), 0,
+                             plan.pageCount(), parent);
+    progress.setObjectName(QStringLiteral("SheetProgress"));
+    progress.setWindowModality(Qt::ApplicationModal); // the plan stays while it is written
+    progress.setMinimumDuration(ShowsAfterMs);
+    progress.setValue(0); // from now on the time counts
+    bool isWritten = false;
+    {
+        QPdfWriter writer(&file);
+        setUp(writer, plan, path);
+        isWritten = writePages(plan, painter, writer, progress);
+    }
+    if (isWritten && file.commit())
+        return SheetExport::Done;
+    *trouble = file.errorString();
+    file.cancelWriting();
+    return progress.wasCanceled() ? SheetExport::Cancelled : SheetExport::Failed;
+}
+
+} // namespace workbench

@@ -1,0 +1,65 @@
+// The main window and the preview of its sheets.
+
+#include "MainWindow.h"
+#include "OutputDialog.h"
+#include "ScriptPane.h"
+
+#include <exportSheets.h>
+#include <readSheetPlan.h>
+#include <sheetCaptions.h>
+#include <SheetPreview.h>
+#include <vkd_dbo_model.h>
+#include <VKD_H_ZOBDoc.h>
+
+#include <QDir>
+#include <QDockWidget>
+#include <QFileDialog>
+
+namespace workbench {
+
+SheetPlan MainWindow::newSheetPlan()
+{
+    SheetPlan plan = readSheetPlan(m_script->script());
+    if (!setCaptions(&plan, output()->captions())) {
+        QHash<int, QString> titles;
+        for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index()))
+            titles.insert(loadCase.number, loadCase.title);
+        setLoadCaseTitles(&plan, titles);
+    }
+    return plan;
+}
+
+/// Nobody sees a preview that is closed or behind another one.
+void MainWindow::refreshSheet()
+{
+    if (m_document && m_output && m_sheetDock->isVisible())
+        m_sheet->setPlan(newSheetPlan());
+}
+
+void MainWindow::showSheet()
+{
+    m_sheetDock->show();
+    m_sheetDock->raise();
+    m_sheet->setFocus();
+}
+
+void MainWindow::exportSheet()
+{
+    const QString proposal = QDir(folder()).filePath(
+        QFileInfo(m_document->path()).completeBaseName() + QLatin1String(".pdf"));
+    QString path =
+        QFileDialog::getSaveFileName(this, tr("Export Sheets"), proposal, tr("PDF files (*.pdf)"));
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += QLatin1String(".pdf");
+    QString trouble;
+    switch (exportSheets(newSheetPlan(), m_sheet->painter(), path, this, &trouble)) {
+    case SheetExport::Done:
+        return say(tr("The sheets are saved in %1.").arg(QDir::toNativeSeparators(path)));
+    case SheetExport::Cancelled: return say(tr("No sheet was saved."));
+    case SheetExport::Failed: return complain(tr("The sheets cannot be written.\n%1").arg(trouble));
+    }
+}
+
+} // namespace workbench
