@@ -35,11 +35,16 @@ vkd::dbo::Camera lookingFrom(double x, double y, double z)
     return camera;
 }
 
-QSize pixelsOf(const QPainter& painter, const QRectF& frame)
+/// The dots of the device that a frame covers; whole ones, so that the picture stays crisp.
+QRectF dotsOf(const QPainter& painter, const QRectF& frame)
 {
-    const QSizeF exact = painter.deviceTransform().mapRect(frame).size();
-    const double larger = qMax(qMax(exact.width(), exact.height()), 1.0);
-    const QSizeF held = exact * qMin(1.0, MostPixels / larger);
+    return QRectF(painter.deviceTransform().mapRect(frame).toRect());
+}
+
+QSize pixelsOf(const QSizeF& dots)
+{
+    const double larger = qMax(qMax(dots.width(), dots.height()), 1.0);
+    const QSizeF held = dots * qMin(1.0, MostPixels / larger);
     return {qMax(1, qRound(held.width())), qMax(1, qRound(held.height()))};
 }
 
@@ -81,7 +86,8 @@ bool ModelImages::isCut(const PictureView& view, const QSizeF& frame, double sca
 void ModelImages::paint(QPainter& painter, const QRectF& frame, double unitsPerMm,
                         const PictureView& view, double scale)
 {
-    const QSize pixels = pixelsOf(painter, frame);
+    const QRectF dots = dotsOf(painter, frame);
+    const QSize pixels = pixelsOf(dots.size());
     const QSizeF size = frame.size() / unitsPerMm;
     const QString key = keyOf(pixels, size, view, scale);
     QImage image;
@@ -91,7 +97,7 @@ void ModelImages::paint(QPainter& painter, const QRectF& frame, double unitsPerM
         image = newImage(pixels, size, view, scale);
         m_images.insert(key, new QImage(image), int(image.sizeInBytes() / 1024) + 1);
     }
-    painter.drawImage(frame, image);
+    painter.drawImage(painter.deviceTransform().inverted().mapRect(dots), image);
 }
 
 AnimatorPicture& ModelImages::model()

@@ -28,6 +28,7 @@ QFont fontOf(const QPainter& painter, double capitals)
 {
     QFont font = painter.font();
     font.setPixelSize(qMax(1, qRound(capitals / CapitalShare)));
+    font.setBold(false);
     font.setHintingPreference(QFont::PreferNoHinting); // so that texts have one width at each zoom
     return font;
 }

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>exportSheets</name>
+    <message>
+        <source>Writing the sheets ...</source>
+        <translation>Blätter werden geschrieben ...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>projectTrouble</name>
     <message>
         <source>It is a folder.</source>
@@ -421,6 +432,32 @@ Is it to be stored?</source>
         <translation>Die Textausgabe ist geändert und steht noch nicht im Projekt.
 Soll sie gespeichert werden?</translation>
     </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Export Sheets</source>
+        <translation>Blätter exportieren</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The sheets are saved in %1.</source>
+        <translation>Die Blätter sind in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>No sheet was saved.</source>
+        <translation>Es wurde kein Blatt gespeichert.</translation>
+    </message>
+    <message>
+        <source>The sheets cannot be written.
+%1</source>
+        <translation>Die Blätter können nicht geschrieben werden.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>workbench::OutputDialog</name>
@@ -652,6 +689,143 @@ Soll sie gespeichert werden?</translation>
     </message>
 </context>
 <context>
+    <name>workbench::SheetPainter</name>
+    <message>
+        <source>3D standard</source>
+        <translation>3D-Standard</translation>
+    </message>
+    <message>
+        <source>Plane view</source>
+        <translation>Ebene Ansicht</translation>
+    </message>
+    <message>
+        <source>X/Y plane</source>
+        <translation>X/Y-Ebene</translation>
+    </message>
+    <message>
+        <source>X/Z plane</source>
+        <translation>X/Z-Ebene</translation>
+    </message>
+    <message>
+        <source>Y/Z plane</source>
+        <translation>Y/Z-Ebene</translation>
+    </message>
+    <message>
+        <source>User's view</source>
+        <translation>Benutzeransicht</translation>
+    </message>
+    <message>
+        <source>View not set</source>
+        <translation>Ansicht nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message>
+        <source>%1, cut off</source>
+        <translation>%1, abgeschnitten</translation>
+    </message>
+    <message>
+        <source>%1, to fit</source>
+        <translation>%1, eingepasst</translation>
+    </message>
+    <message>
+        <source>Load case %1</source>
+        <translation>Lastfall %1</translation>
+    </message>
+    <message>
+        <source>Load cases %1 and %2</source>
+        <translation>Lastfälle %1 und %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <translation>%1  %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>The project holds no structural model.</source>
+        <translation>Das Projekt enthält kein Tragwerksmodell.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Preview without results, which the graphics program draws</source>
+        <translation>Vorschau ohne Ergebnisse; diese zeichnet das Grafikprogramm</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::SheetPreview</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge</source>
+        <translation>Sei&amp;te</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Page width</source>
+        <translation>Seitenbreite</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>E&amp;xport PDF...</source>
+        <translation>PDF e&amp;xportieren ...</translation>
+    </message>
+    <message>
+        <source>Saves all pages in a file</source>
+        <translation>Speichert alle Seiten in einer Datei</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::SheetView</name>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>No plot is chosen. Choose plots in Graphical output.</source>
+        <translation>Es ist kein Bild gewählt. Bilder werden in der grafischen Ausgabe gewählt.</translation>
+    </message>
+</context>
+<context>
     <name>workbench::WindowActions</name>
     <message>
         <source>&amp;Building</source>
@@ -768,6 +942,14 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>&amp;Text Output...</source>
         <translation>&amp;Textausgabe ...</translation>
+    </message>
+    <message>
+        <source>&amp;Export Sheets...</source>
+        <translation>Blätter e&amp;xportieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Sheet Preview</source>
+        <translation>Blatt&amp;vorschau</translation>
     </message>
 </context>
 </TS>
