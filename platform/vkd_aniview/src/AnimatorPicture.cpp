@@ -29,14 +29,15 @@ double lengthAlong(const Position& axis, const Position& lengths)
            std::abs(axis[2]) * lengths[2];
 }
 
-void drawAxes(QPainter& painter, const ViewAxes& axes, const QSizeF& size)
+/// Small enough to stand in the margin of most pictures.
+void drawAxes(QPainter& painter, const ViewAxes& axes, double height)
 {
-    const double length = qBound(12.0, 0.06 * qMin(size.width(), size.height()), 26.0);
-    const double inset = length + 16.0; // has room for a name
+    constexpr double Length = 14.0;
+    constexpr double Inset = 18.0;
     QFont names = painter.font();
-    names.setPixelSize(qRound(0.6 * length));
+    names.setPixelSize(9);
     painter.setFont(names);
-    drawTriad(painter, axes, {inset, size.height() - inset}, length, {Qt::black, Qt::white});
+    drawTriad(painter, axes, {Inset, height - Inset}, Length, {Qt::black, Qt::white});
 }
 } // namespace
 
@@ -80,7 +81,7 @@ void AnimatorPicture::paint(QPainter& painter, const QSizeF& size, const Camera&
     const Projection projection = m_scene->projection();
     m_painter->paint(painter, paperPalette(), m_scene->geometry(), m_scene->picture(), projection,
                      GroupMarks());
-    drawAxes(painter, projection.axes(), size);
+    drawAxes(painter, projection.axes(), size.height());
     painter.restore();
 }
 
