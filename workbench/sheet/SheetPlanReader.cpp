@@ -133,10 +133,10 @@ void SheetPlanReader::readLine(QStringView line)
 
 void SheetPlanReader::readStatement(QStringView statement)
 {
-    if (statement.isEmpty() || m_isEnded)
-        return;
     const Words words = wordsOf<Words>(statement);
-    const QStringView key = words.isEmpty() ? QStringView() : words[0];
+    if (words.isEmpty() || m_isEnded)
+        return;
+    const QStringView key = words[0];
     if (isOneOf(key, "ENDE", "END"))
         m_isEnded = true;
     else if (isOneOf(key, "UND", "AND"))

@@ -48,6 +48,7 @@ SheetPreview::SheetPreview(QWidget* parent)
     connect(m_zoom, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SheetPreview::zoom);
     connect(m_view, &SheetView::pageChanged, this, &SheetPreview::showPage);
     connect(m_export, &QPushButton::clicked, this, &SheetPreview::exportWanted);
+    setFocusProxy(m_view);
     setProject(0, QString());
     setTexts();
 }

@@ -95,6 +95,18 @@ void SheetView::changeEvent(QEvent* event)
         describe();
 }
 
+void SheetView::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void SheetView::focusOutEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
+}
+
 void SheetView::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
@@ -109,19 +121,19 @@ void SheetView::keyPressEvent(QKeyEvent* event)
 void SheetView::paintEvent(QPaintEvent*)
 {
     QPainter painter(viewport());
-    const QRectF sheet = sheetRect();
-    if (sheet.isNull() || !m_painter) {
+    if (m_plan.isEmpty() || !m_painter) {
         painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
         painter.setPen(palette().color(QPalette::Text));
         painter.drawText(viewport()->rect().adjusted(Room, Room, -Room, -Room),
                          Qt::AlignCenter | Qt::TextWordWrap,
                          tr("No plot is chosen. Choose plots in Graphical output."));
-        return;
+    } else {
+        paintSheet(painter);
     }
-    painter.fillRect(sheet.translated(2.0, 2.0), palette().color(QPalette::Shadow));
-    m_painter->paint(painter, sheet, m_plan, m_page);
-    painter.setPen(palette().color(QPalette::Dark));
-    painter.drawRect(sheet.toAlignedRect().adjusted(-1, -1, 0, 0));
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
 }
 
 void SheetView::resizeEvent(QResizeEvent* event)
@@ -145,6 +157,15 @@ void SheetView::wheelEvent(QWheelEvent* event)
     if (notches != 0)
         turnPage(-notches);
     event->accept();
+}
+
+void SheetView::paintSheet(QPainter& painter)
+{
+    const QRectF sheet = sheetRect();
+    painter.fillRect(sheet.translated(2.0, 2.0), palette().color(QPalette::Shadow));
+    m_painter->paint(painter, sheet, m_plan, m_page);
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.drawRect(sheet.toAlignedRect().adjusted(-1, -1, 0, 0));
 }
 
 QSizeF SheetView::sheetSize() const

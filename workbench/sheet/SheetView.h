@@ -39,12 +39,15 @@ public Q_SLOTS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void paintSheet(QPainter& painter);
     QSizeF sheetSize() const;
     void fitScrollBars();
     void turnPage(int by);

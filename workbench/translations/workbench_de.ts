@@ -437,6 +437,10 @@ Soll sie gespeichert werden?</translation>
         <translation>Blatt</translation>
     </message>
     <message>
+        <source>Panels</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
         <source>Export Sheets</source>
         <translation>Blätter exportieren</translation>
     </message>

@@ -30,6 +30,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 namespace workbench {
@@ -77,7 +78,11 @@ MainWindow::MainWindow(ProjectMaker maker, QWidget* parent)
     restoreState(settings.value(StateKey).toByteArray(), StateVersion);
 }
 
-MainWindow::~MainWindow() = default;
+/// The docks tell of being hidden once more when the parts of the window have gone.
+MainWindow::~MainWindow()
+{
+    m_sheetDock->disconnect(this);
+}
 
 void MainWindow::addCentre()
 {
@@ -176,6 +181,14 @@ void MainWindow::changeEvent(QEvent* event)
         setTexts();
 }
 
+/// Docks that lie on each other get a bar of tabs whenever there is none as yet.
+void MainWindow::childEvent(QChildEvent* event)
+{
+    QMainWindow::childEvent(event);
+    if (event->type() == QEvent::ChildPolished && qobject_cast<QTabBar*>(event->child()))
+        nameTabBars();
+}
+
 void MainWindow::setTexts()
 {
     m_actions->setTexts();
@@ -184,7 +197,14 @@ void MainWindow::setTexts()
     m_scriptDock->setWindowTitle(tr("Script"));
     m_sheetDock->setWindowTitle(tr("Sheet"));
     m_recordDock->setWindowTitle(tr("Records"));
+    nameTabBars();
     setTitle();
+}
+
+void MainWindow::nameTabBars()
+{
+    for (auto bar : findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly))
+        bar->setAccessibleName(tr("Panels"));
 }
 
 void MainWindow::setTitle()

@@ -51,6 +51,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void childEvent(QChildEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -62,6 +63,7 @@ private:
     void connectActions();
     void connectPanes();
     void setTexts();
+    void nameTabBars();
     void setTitle();
     void say(const QString& text);
     void complain(const QString& text);

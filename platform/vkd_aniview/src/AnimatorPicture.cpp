@@ -32,8 +32,8 @@ double lengthAlong(const Position& axis, const Position& lengths)
 /// Small enough to stand in the margin of most pictures.
 void drawAxes(QPainter& painter, const ViewAxes& axes, double height)
 {
-    constexpr double Length = 14.0;
-    constexpr double Inset = 18.0;
+    constexpr double Length = 18.0;
+    constexpr double Inset = 22.0;
     QFont names = painter.font();
     names.setPixelSize(9);
     painter.setFont(names);
