@@ -9,6 +9,7 @@
 #include <SheetPainter.h>
 #include <SheetPreview.h>
 #include <SheetView.h>
+#include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 #include <VKD_QT_InitTranslator.h>
 
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void anyText();
     void captionsGoToTheirPictures_data();
     void captionsGoToTheirPictures();
+    void scales();
     void leafing();
     void followsTheChoice();
     void exportFromTheWindow_data();
@@ -291,6 +293,22 @@ void tst_sheetPreview::captionsGoToTheirPictures()
     const QStringList chosen{QStringLiteral("Plot 0|"), QStringLiteral("Plot 1|Load case 3: Snow"),
                              QStringLiteral("Plot 2|Load case 3: Snow"), QStringLiteral("Plot 3|")};
     QCOMPARE(captions(plan), agree ? chosen : keywords);
+}
+
+void tst_sheetPreview::scales()
+{
+    const auto document = VKD_H_ZOBDoc::open(project());
+    ModelImages models(document->index());
+    PictureView view;
+    view.kind = PictureView::PlaneXY; // 19.5 m by 13.5 m with the raft
+    const QSizeF frame(180, 110);
+    const double fitting = models.scale(view, frame, SheetPlan::ScaleToFit);
+    QVERIFY(fitting > 13.5 / 0.110 && fitting < 1.3 * 13.5 / 0.110);
+    QVERIFY(!models.isCut(view, frame, fitting));
+    QCOMPARE(models.scale(view, frame, SheetPlan::EngineeringScale), 200.0);
+    QCOMPARE(models.scale(view, frame, 50.0), 50.0);
+    QVERIFY(models.isCut(view, frame, 50.0));
+    QCOMPARE(models.scale(view, {5, 5}, SheetPlan::EngineeringScale), 6000.0);
 }
 
 void tst_sheetPreview::leafing()
