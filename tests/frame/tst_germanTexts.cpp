@@ -66,8 +66,10 @@ void tst_germanTexts::everySourceTextIsTranslated_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("file");
     QTest::newRow("vkd_p_fea") << PLIB "/src" << TextFile;
-    QTest::newRow("workbench") << WORKBENCH "/window"
-                               << QStringLiteral(WORKBENCH "/translations/workbench_de.ts");
+    for (const char* folder : {"window", "sheet"})
+        QTest::addRow("workbench, %s", folder)
+            << QStringLiteral(WORKBENCH "/") + QLatin1String(folder)
+            << QStringLiteral(WORKBENCH "/translations/workbench_de.ts");
     for (const char* name :
          {"vkd_qt", "vkd_t", "vkd_h", "vkd_a", "vkd_grouptable", "vkd_aniview"}) {
         const QString library = QStringLiteral(PLATFORM "/") + QLatin1String(name);

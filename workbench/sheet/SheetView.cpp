@@ -91,8 +91,10 @@ void SheetView::pageDown()
 void SheetView::changeEvent(QEvent* event)
 {
     QAbstractScrollArea::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        describe();
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    describe();
+    viewport()->update();
 }
 
 void SheetView::focusInEvent(QFocusEvent* event)

@@ -18,11 +18,6 @@ constexpr int DotsPerInch = 300;
 constexpr int ShowsAfterMs = 500;
 constexpr int SliceMs = 40; // the user's clicks are answered that often
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("exportSheets", text);
-}
-
 void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
 {
     const bool lies = plan.size.width() > plan.size.height();
@@ -67,7 +62,8 @@ SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QSt
         *trouble = file.errorString();
         return SheetExport::Failed;
     }
-    QProgressDialog progress(translated("Writing the sheets ..."), translated("Cancel"), 0,
+    QProgressDialog progress(QCoreApplication::translate("exportSheets", "Writing the sheets ..."),
+                             QCoreApplication::translate("exportSheets", "Cancel"), 0,
                              plan.pageCount(), parent);
     progress.setObjectName(QStringLiteral("SheetProgress"));
     progress.setWindowModality(Qt::ApplicationModal); // the plan stays while it is written
