@@ -29,7 +29,8 @@ public:
     ~AnimatorPicture();
 
     bool isEmpty() const;
-    /// How wide and high the box of the model is when looked at from the camera's direction, metres.
+    /// How wide and high the box of the model is when looked at from the camera's direction,
+    /// metres.
     QSizeF sizeSeen(const vkd::dbo::Camera& camera) const;
 
     /// The pixels to a metre at which the model fills a picture of this size (pixels) when looked
