@@ -255,7 +255,7 @@ void tst_windowFiles::keptBetweenStarts()
         trigger(*window, "German");
         find<QDockWidget>(*window, "RecordDock")->hide();
         window->addDockWidget(Qt::LeftDockWidgetArea, find<QDockWidget>(*window, "ScriptDock"));
-        window->resize(900, 650);
+        window->resize(1300, 650);
         size = window->size();
     };
     whenModal([&](QWidget* box) {
