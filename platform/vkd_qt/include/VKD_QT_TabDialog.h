@@ -31,6 +31,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void chainButtons();
     void tellPage();
 
     QTabWidget* m_tabs;

@@ -38,8 +38,22 @@ VKD_QT_Ok* VKD_QT_TabDialog::okRow() const
 void VKD_QT_TabDialog::showEvent(QShowEvent* event)
 {
     VKD_QT_Dialog::showEvent(event);
+    chainButtons();
     m_wasShown = true;
     tellPage();
+}
+
+/// The pages are built behind the buttons, which Tab is to reach last.
+void VKD_QT_TabDialog::chainButtons()
+{
+    QWidget* last = m_tabs;
+    for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+        if ((widget->focusPolicy() & Qt::TabFocus) && !m_ok->isAncestorOf(widget))
+            last = widget;
+    for (QWidget* button : {m_ok->cmdOk(), m_ok->cmdCancel()}) {
+        setTabOrder(last, button);
+        last = button;
+    }
 }
 
 void VKD_QT_TabDialog::tellPage()
