@@ -38,6 +38,14 @@ QString listed(const QStringList& parts)
     return shown.join(QLatin1String(", "));
 }
 
+/// In the empty field, which is wide enough for it and for the button that clears.
+void showHint(QLineEdit* field, const QString& hint)
+{
+    field->setPlaceholderText(hint);
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(hint) +
+                           2 * field->sizeHint().height());
+}
+
 QSize mostSize()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -126,8 +134,8 @@ void VKD_H_GroupDialog::addFilterLine(QVBoxLayout* layout)
     m_filter = new QLineEdit(this);
     m_filter->setObjectName(QStringLiteral("filter"));
     m_filter->setClearButtonEnabled(true);
-    m_filter->setPlaceholderText(m_kind == VKD_H_GroupKind::Secondary ? tr("Name or title")
-                                                                      : tr("Number or title"));
+    showHint(m_filter,
+             m_kind == VKD_H_GroupKind::Secondary ? tr("Name or title") : tr("Number or title"));
     auto label = new VKD_QT_Label(tr("&Filter:"), this);
     label->setBuddy(m_filter);
     auto line = new VKD_QT_HBoxLayout;
@@ -168,7 +176,7 @@ void VKD_H_GroupDialog::addInputLine(QVBoxLayout* layout)
     const bool hasNames = m_kind == VKD_H_GroupKind::Secondary;
     m_input = new QLineEdit(this);
     m_input->setObjectName(QStringLiteral("input"));
-    m_input->setPlaceholderText(hasNames ? tr("Names to check") : tr("Numbers, e.g. 1-5 9"));
+    showHint(m_input, hasNames ? tr("Names to check") : tr("Numbers, e.g. 1-5 9"));
     auto label = new VKD_QT_Label(hasNames ? tr("Na&mes:") : tr("N&umbers:"), this);
     label->setBuddy(m_input);
     auto line = new VKD_QT_HBoxLayout;
