@@ -78,13 +78,13 @@ void DesignDialog::showPage()
     delete m_page;
     delete m_buttons;
     m_page = new VKD_P_DesignParameter(m_document, m_desk.get(), this, false, false);
+    m_page->init(); // ahead of the buttons, which Tab reaches last
     m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
     layout()->addWidget(m_page);
     layout()->addWidget(m_buttons);
     static_cast<QVBoxLayout*>(layout())->setStretchFactor(m_page, 1);
     connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &DesignDialog::accept);
     connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &DesignDialog::reject);
-    m_page->init();
     m_page->getEntrys(m_entries);
 }
 

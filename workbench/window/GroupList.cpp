@@ -75,6 +75,7 @@ void GroupList::setTexts()
     setAccessibleName(tr("Groups"));
     setHeaderLabels({tr("No."), tr("Title"), tr("Contents")});
     setToolTip(tr("Groups of the model. Pointing at one lights it up in the view."));
+    fitColumns();
 }
 
 void GroupList::fill()
@@ -106,6 +107,11 @@ void GroupList::fill()
         if (group.number == current)
             setCurrentItem(item);
     }
+    fitColumns();
+}
+
+void GroupList::fitColumns()
+{
     for (int column = 0; column < columnCount(); ++column)
         resizeColumnToContents(column);
 }

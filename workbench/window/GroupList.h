@@ -32,6 +32,7 @@ protected:
 private:
     void setTexts();
     void fill();
+    void fitColumns();
     void pointAt(const QTreeWidgetItem* item);
 
     int m_index = -1;

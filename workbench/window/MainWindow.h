@@ -123,12 +123,13 @@ private:
     ProjectMaker m_maker;
     std::unique_ptr<VKD_H_ZOBDoc> m_document;
     WindowActions* m_actions;
-    AnimatorView* m_view;
-    PickBanner* m_banner;
+    // The panes in the order of Tab, which is column by column.
     GroupList* m_groups;
+    PickBanner* m_banner;
+    AnimatorView* m_view;
+    RecordsPane* m_records;
     ScriptPane* m_script;
     SheetPreview* m_sheet;
-    RecordsPane* m_records;
     QDockWidget* m_groupDock = nullptr;
     QDockWidget* m_scriptDock = nullptr;
     QDockWidget* m_sheetDock = nullptr;

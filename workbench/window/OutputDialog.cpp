@@ -38,9 +38,10 @@ QString rowName(const vkd::dbo::LoadCase& loadCase)
     return loadCase.title.isEmpty() ? number : number + QLatin1String(": ") + loadCase.title;
 }
 
-/// The catalogue is kept for the life of the process, and once read in two languages it offers each
-/// plot twice. So every page finds the language of the first one when it is made. Captions are made
-/// when the tree is filled, which offering the load cases does once more.
+/// The catalogue is kept for the life of the process with the captions of its plots, and once read
+/// in two languages it offers each plot twice. So every page finds the language of the first one
+/// when it is made; the icons of its rows change, since offering the load cases fills the tree once
+/// more.
 VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
                                      AnimatorView* view)
 {

@@ -127,6 +127,7 @@ void RecordsPane::setTexts()
     for (int record = 1; record <= columnCount() - HeadColumns; ++record)
         labels << tr("Record %1").arg(record);
     setHorizontalHeaderLabels(labels);
+    resizeColumnsToContents();
 }
 
 void RecordsPane::fill()
@@ -139,7 +140,6 @@ void RecordsPane::fill()
                     newItem(wordText(records[std::size_t(column - HeadColumns)], word),
                             Qt::AlignRight));
     setTexts();
-    resizeColumnsToContents();
 }
 
 } // namespace workbench

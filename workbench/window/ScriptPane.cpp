@@ -43,10 +43,10 @@ ScriptPane::ScriptPane(QWidget* parent)
     : QWidget(parent)
     , m_languageLabel(new QLabel(this))
     , m_language(new VKD_QT4_ComboBox(this, "KeywordLanguage"))
-    , m_text(new QPlainTextEdit(this))
-    , m_highlighter(new ScriptHighlighter(m_text->document(), palette()))
     , m_copy(new QPushButton(this))
     , m_save(new QPushButton(this))
+    , m_text(new QPlainTextEdit(this))
+    , m_highlighter(new ScriptHighlighter(m_text->document(), palette()))
 {
     m_text->setObjectName(QStringLiteral("ScriptText"));
     m_copy->setObjectName(QStringLiteral("CopyScript"));

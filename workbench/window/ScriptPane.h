@@ -48,11 +48,12 @@ private:
     QString m_script;
     QVector<int> m_changed;
     QLabel* m_languageLabel;
+    // In the order of Tab.
     QComboBox* m_language;
-    QPlainTextEdit* m_text;
-    ScriptHighlighter* m_highlighter;
     QPushButton* m_copy;
     QPushButton* m_save;
+    QPlainTextEdit* m_text;
+    ScriptHighlighter* m_highlighter;
 };
 
 } // namespace workbench

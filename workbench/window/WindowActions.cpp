@@ -31,14 +31,15 @@ struct View
 {
     AnimatorViewControl control;
     const char* text;
+    const char* plane; ///< of the coordinates: says enough in the tool bar; null if there is none
 };
 
 constexpr View Views[] = {
-    {AnimatorShowAll, QT_TRANSLATE_NOOP("workbench::WindowActions", "Show &All")},
-    {AnimatorStandardView, QT_TRANSLATE_NOOP("workbench::WindowActions", "&3D Standard")},
-    {AnimatorViewXY, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Y")},
-    {AnimatorViewXZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Z")},
-    {AnimatorViewYZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "Vie&w Y/Z")},
+    {AnimatorShowAll, QT_TRANSLATE_NOOP("workbench::WindowActions", "Show &All"), nullptr},
+    {AnimatorStandardView, QT_TRANSLATE_NOOP("workbench::WindowActions", "&3D Standard"), nullptr},
+    {AnimatorViewXY, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Y"), "X/Y"},
+    {AnimatorViewXZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Z"), "X/Z"},
+    {AnimatorViewYZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "Vie&w Y/Z"), "Y/Z"},
 };
 
 QString sampleText(const QAction* action)
@@ -115,6 +116,8 @@ void WindowActions::addViews()
     for (const View& view : Views) {
         QAction* action = add("View");
         action->setData(int(view.control));
+        if (view.plane)
+            action->setIconText(QLatin1String(view.plane));
         views << action;
     }
 }

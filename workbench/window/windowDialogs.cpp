@@ -232,7 +232,7 @@ void MainWindow::setLanguage(int language)
         m_output->show();
     }
     refreshScript();
-    say(tr("The texts are in English now."));
+    say(tr("The texts are in English now. The plots follow at the next start."));
 }
 
 void MainWindow::showHelp()
