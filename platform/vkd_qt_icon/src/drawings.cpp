@@ -131,6 +131,26 @@ void pick(QPainter& painter, const QPalette& palette)
     painter.drawPolygon(QPolygonF({{7, 6}, {14.5, 9}, {11, 10.5}, {9.5, 14}}));
 }
 
+/// A folder that stands open.
+void open(QPainter& painter, const QPalette& palette)
+{
+    painter.setPen(line(ink(palette)));
+    painter.drawPolyline(
+        QPolygonF({{1.5, 13}, {1.5, 3.5}, {6, 3.5}, {7.5, 5.5}, {12.5, 5.5}, {12.5, 7.5}}));
+    painter.setBrush(accent(palette));
+    painter.drawPolygon(QPolygonF({{1.5, 13}, {4, 7.5}, {15, 7.5}, {12.5, 13}}));
+}
+
+/// A floppy disk.
+void save(QPainter& painter, const QPalette& palette)
+{
+    painter.setPen(line(ink(palette)));
+    painter.drawPolygon(QPolygonF({{2, 2}, {11.5, 2}, {14, 4.5}, {14, 14}, {2, 14}}));
+    painter.drawRect(QRectF(5, 2, 5, 3.5));
+    painter.setBrush(accent(palette));
+    painter.drawRect(QRectF(4.5, 8.5, 7, 5.5));
+}
+
 const struct
 {
     const char* name;
@@ -146,6 +166,8 @@ const struct
     {":/icon/program/text", text},
     {":/icon/program/search", search},
     {":/icon/program/pick", pick},
+    {":/icon/program/open", open},
+    {":/icon/program/save", save},
 };
 } // namespace
 
