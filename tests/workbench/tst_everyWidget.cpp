@@ -20,6 +20,7 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSettings>
 #include <QTableWidget>
@@ -161,7 +162,7 @@ Open tst_everyWidget::mainWindow(const std::function<void(MainWindow&, const Vis
         MainWindow window([](const QString&, const QString&) { return QString(); });
         window.show();
         QVERIFY(window.openProject(m_project->doc()->path()));
-        QApplication::processEvents();
+        QTRY_VERIFY(!find<QPlainTextEdit>(window, "ScriptText")->toPlainText().isEmpty());
         act(window, visit);
     };
 }

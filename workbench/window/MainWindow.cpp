@@ -7,7 +7,6 @@
 #include "PlatformLog.h"
 #include "projectTrouble.h"
 #include "ProjectWriting.h"
-#include "RecordsPane.h"
 #include "ScriptPane.h"
 #include "TextOutputDialog.h"
 #include "waitForStore.h"
@@ -55,7 +54,6 @@ MainWindow::MainWindow(ProjectMaker maker, QWidget* parent)
     , m_groups(new GroupList(this))
     , m_banner(new PickBanner(this))
     , m_view(new AnimatorView(0, this))
-    , m_records(new RecordsPane(this))
     , m_script(new ScriptPane(this))
     , m_sheet(new SheetPreview(this))
     , m_contents(new QLabel(this))
@@ -103,7 +101,7 @@ void MainWindow::addDocks()
     m_sheetDock = addDock(Qt::RightDockWidgetArea, m_sheet, "SheetDock");
     tabifyDockWidget(m_scriptDock, m_sheetDock);
     m_scriptDock->raise();
-    m_recordDock = addDock(Qt::BottomDockWidgetArea, m_records, "RecordDock");
+    m_recordDock = addDock(Qt::BottomDockWidgetArea, nullptr, "RecordDock");
     const int letter = fontMetrics().averageCharWidth();
     resizeDocks({m_groupDock, m_scriptDock}, {45 * letter, 60 * letter}, Qt::Horizontal);
     resizeDocks({m_recordDock}, {10 * fontMetrics().height()}, Qt::Vertical);
@@ -113,7 +111,8 @@ QDockWidget* MainWindow::addDock(Qt::DockWidgetArea area, QWidget* widget, const
 {
     auto dock = new QDockWidget(this);
     dock->setObjectName(QLatin1String(name));
-    dock->setWidget(widget);
+    if (widget)
+        dock->setWidget(widget);
     addDockWidget(area, dock);
     m_actions->viewMenu->addAction(dock->toggleViewAction());
     return dock;
@@ -199,6 +198,7 @@ void MainWindow::setTexts()
     m_recordDock->setWindowTitle(tr("Records"));
     nameTabBars();
     setTitle();
+    showContents();
 }
 
 void MainWindow::nameTabBars()
@@ -210,15 +210,18 @@ void MainWindow::nameTabBars()
 void MainWindow::setTitle()
 {
     const QString program = tr("Workbench");
-    if (!m_document) {
-        m_contents->setText(tr("No project"));
-        return setWindowTitle(program);
-    }
     setWindowTitle(
-        QStringLiteral("%1[*] - %2").arg(QFileInfo(m_document->path()).fileName(), program));
-    m_contents->setText(tr("Groups: %1, load cases: %2")
-                            .arg(m_groups->topLevelItemCount())
-                            .arg(vkd::dbo::readLoadCases(index()).size()));
+        m_document
+            ? QStringLiteral("%1[*] - %2").arg(QFileInfo(m_document->path()).fileName(), program)
+            : program);
+}
+
+void MainWindow::showContents()
+{
+    m_contents->setText(m_document ? tr("Groups: %1, load cases: %2")
+                                         .arg(m_groups->topLevelItemCount())
+                                         .arg(vkd::dbo::readLoadCases(index()).size())
+                                   : tr("No project"));
 }
 
 void MainWindow::say(const QString& text)

@@ -55,6 +55,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void addCentre();
@@ -65,6 +66,7 @@ private:
     void setTexts();
     void nameTabBars();
     void setTitle();
+    void showContents();
     void say(const QString& text);
     void complain(const QString& text);
     /// Complains about a file by a sentence that names it, with the reason behind; not if the user
@@ -82,6 +84,8 @@ private:
     void saveAs();
     void takeOver(const QString& path);
     void setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
+    void showProject();
+    void showRecords();
     bool mayLeaveProject();
 
     void editDesign();
@@ -127,7 +131,7 @@ private:
     GroupList* m_groups;
     PickBanner* m_banner;
     AnimatorView* m_view;
-    RecordsPane* m_records;
+    RecordsPane* m_records = nullptr; // until there is a project
     ScriptPane* m_script;
     SheetPreview* m_sheet;
     QDockWidget* m_groupDock = nullptr;
@@ -135,6 +139,7 @@ private:
     QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;
     QLabel* m_contents;
+    bool m_isProjectToShow = false;         // behind the next painting
     std::unique_ptr<DesignDialog> m_design; // while it is open or away for picking
     std::unique_ptr<OutputDialog> m_output;
     std::unique_ptr<TextOutputDialog> m_textOutput; // while it is open

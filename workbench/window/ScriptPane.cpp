@@ -56,7 +56,6 @@ ScriptPane::ScriptPane(QWidget* parent)
     m_text->setReadOnly(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_text->setFont(fixedFont());
     auto head = new QHBoxLayout;
     head->addWidget(m_languageLabel);
     head->addWidget(m_language);
@@ -80,6 +79,7 @@ bool ScriptPane::english() const
 
 void ScriptPane::setEnglish(bool english)
 {
+    const QSignalBlocker blocker(m_language);
     m_language->setCurrentIndex(english ? English : German);
 }
 
@@ -133,6 +133,8 @@ void ScriptPane::setTexts()
 void ScriptPane::show(const QString& script)
 {
     const int place = m_text->verticalScrollBar()->value();
+    if (m_script.isEmpty() && !script.isEmpty()) // to look for the font takes its time
+        m_text->setFont(fixedFont());
     m_script = script;
     m_text->setPlainText(script);
     m_text->verticalScrollBar()->setValue(place);

@@ -20,7 +20,7 @@ class ScriptPane : public QWidget
 public:
     explicit ScriptPane(QWidget* parent = nullptr);
 
-    /// The language of the keywords.
+    /// The language of the keywords. To set it gives no signal.
     bool english() const;
     void setEnglish(bool english);
 

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QStyle>
 #include <QToolBar>
 
 namespace workbench {
@@ -82,9 +81,9 @@ WindowActions::WindowActions(QMainWindow* window)
         language->setCheckable(true);
         languages->addAction(language);
     }
-    const QStyle* style = window->style();
-    open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
-    saveScript->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
+    // Drawn icons follow the palette, and no files have to be read for them at the start.
+    open->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/open")));
+    saveScript->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
     design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/groups")));
     output->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/contents")));
     textOutput->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/text")));

@@ -35,6 +35,8 @@ void WindowSettings::addRecentFile(const QString& path)
     for (const QString& file : before)
         if (QFileInfo(file).canonicalFilePath() != canonical)
             files << file;
+    if (files == before)
+        return; // writing waits for the disk
     setValue(RecentKey, QStringList(files.mid(0, MaximumCount)));
 }
 

@@ -6,7 +6,6 @@
 #include "MainWindow.h"
 #include "OutputDialog.h"
 #include "PickBanner.h"
-#include "RecordsPane.h"
 #include "ScriptPane.h"
 #include "SlowWork.h"
 #include "TextOutputDialog.h"
@@ -55,7 +54,7 @@ void MainWindow::runDesign()
         return startPicking();
     m_design.reset();
     if (result == QDialog::Accepted)
-        m_records->setProject(index());
+        showRecords();
     else
         say(tr("The design parameters stay as they were."));
 }

@@ -21,6 +21,7 @@
 
 #include <QCloseEvent>
 #include <QDir>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QTimer>
 
@@ -52,35 +53,66 @@ bool MainWindow::openProject(const QString& path)
         m_actions->setRecentFiles(WindowSettings().recentFiles()); // it may be gone
         return false;
     }
-    setDocument(std::move(document));
     say(tr("%1 is open.").arg(QFileInfo(path).fileName()));
-    if (!PlatformLog::take().isEmpty())
-        complain(tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
-                     .arg(QDir::toNativeSeparators(absolute)));
+    setDocument(std::move(document));
     return true;
 }
 
 void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
 {
-    const WaitCursor cursor;
     m_output.reset();
     m_textOutput.reset();
     const auto before = std::move(m_document); // until nothing shows it any more
     m_document = std::move(document);
+    m_actions->enable(true, false);
+    setWindowModified(false);
+    setTitle();
+    m_isProjectToShow = !before && isVisible(); // the first one is not to hold up the window
+    if (m_isProjectToShow)
+        update();
+    else
+        showProject();
+}
+
+/// The script comes last, since its page takes longest.
+void MainWindow::showProject()
+{
+    const WaitCursor cursor;
     m_view->setProject(index());
     m_view->slotViewControl(AnimatorStandardView, 0.0);
     m_groups->setProject(index());
-    m_records->setProject(index());
+    showRecords();
     m_script->setOtherScript(QString());
     m_sheet->setProject(index(), QFileInfo(m_document->path()).completeBaseName());
     WindowSettings settings;
     settings.addRecentFile(m_document->path());
     m_actions->setRecentFiles(settings.recentFiles());
-    m_actions->enable(true, false);
-    setWindowModified(false);
-    setTitle();
-    // The window is to be painted before the page is built.
+    m_actions->enable(true, m_view->isPicking());
+    showContents();
     QTimer::singleShot(0, this, &MainWindow::refreshScript);
+    if (!PlatformLog::take().isEmpty())
+        complain(tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
+                     .arg(QDir::toNativeSeparators(m_document->path())));
+}
+
+/// The pane is made with the first project: a window without one is not to wait for it.
+void MainWindow::showRecords()
+{
+    if (!m_records) {
+        m_records = new RecordsPane(m_recordDock);
+        m_recordDock->setWidget(m_records);
+        setTabOrder(m_view, m_records);
+    }
+    m_records->setProject(index());
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    if (!m_isProjectToShow)
+        return;
+    m_isProjectToShow = false;
+    QTimer::singleShot(0, this, &MainWindow::showProject);
 }
 
 void MainWindow::saveAs()
