@@ -1,26 +1,18 @@
+#include "VisitedProject.h"
 #include "WidgetTestSupport.h"
 #include "WidgetWalk.h"
 
 #include <AnimatorView.h>
-#include <HostProject.h>
-#include <MainWindow.h>
 #include <PlatformLog.h>
-#include <RecordsPane.h>
-#include <vkd_dbo_groups.h>
-#include <vkd_dbo_model.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TableItems.h>
 #include <vkd_lib_value.h>
 #include <VKD_P_WidgetGraphicalOutput>
-#include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_TabDialog.h>
 
 #include <QAction>
 #include <QCheckBox>
-#include <QContextMenuEvent>
 #include <QLineEdit>
-#include <QMenu>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSettings>
 #include <QTableWidget>
@@ -32,11 +24,7 @@ using testsupport::whenModal;
 using workbench::MainWindow;
 
 namespace {
-enum Language { German = 0, English = 1 };
 enum DesignColumn { Groups, Type, Directions, Reinforcement, Cracks };
-
-using Visit = std::function<void(QWidget&)>;
-using Open = std::function<void(const Visit&)>;
 
 /// The widths of the design page's columns are fixed.
 const QSet<QString> FixedColumns{QStringLiteral("table")};
@@ -47,63 +35,7 @@ const QSet<QString> FirstLanguage{QStringLiteral("m_list")};
 /// Spelt alike in both languages.
 const QSet<QString> SameSpelling{QStringLiteral("&Filter:"), QStringLiteral("Name"),
                                  QStringLiteral("rad")};
-
-void setLanguage(int language)
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-    VKD_QT_InitTranslator::languageChanged();
-}
-
-void trigger(const QWidget& window, const char* action)
-{
-    window.findChild<QAction*>(QLatin1String(action))->trigger();
-}
-
-template <class Widget>
-Widget* find(const QWidget& window, const char* name)
-{
-    auto found = window.findChild<Widget*>(QLatin1String(name));
-    if (!found)
-        qFatal("no %s", name);
-    return found;
-}
-
-/// Looks at the modal window that `act` opens, and closes it.
-void visitModal(const Visit& visit, const std::function<void()>& act)
-{
-    bool isSeen = false;
-    whenModal([&](QWidget* modal) {
-        isSeen = true;
-        visit(*modal);
-        modal->close();
-    });
-    act();
-    if (!isSeen)
-        qFatal("nothing opened");
-}
-
-/// Looks at the menu that a right click on the widget opens, and closes it.
-void visitMenu(const Visit& visit, QWidget* widget)
-{
-    bool isSeen = false;
-    QTimer::singleShot(0, widget, [&] {
-        QWidget* menu = QApplication::activePopupWidget();
-        isSeen = menu;
-        if (menu) {
-            visit(*menu);
-            menu->close();
-        }
-    });
-    const QPoint place = widget->rect().center();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
-    QApplication::sendEvent(widget, &event);
-    if (!isSeen)
-        qFatal("no menu");
-}
 } // namespace
-
-Q_DECLARE_METATYPE(Visit)
-Q_DECLARE_METATYPE(Open)
 
 /// Every window of the program and of the libraries, in both languages. A window is added by a row.
 class tst_everyWidget : public QObject
@@ -119,28 +51,22 @@ private Q_SLOTS:
     void faultsAreFound();
 
 private:
-    using DesignAct = std::function<void(QWidget& dialog, QTableWidget& table, const Visit&)>;
-
     void addWindow(const char* name, const Open& open);
     void addMainWindows();
     void addDesignWindows();
     void addDesignDialogs();
     void addOutputPages();
     void addBoxes();
-    Open design(const DesignAct& act);
-    Open mainWindow(const std::function<void(MainWindow&, const Visit&)>& act);
-    QSet<QString> projectTexts();
 
-    QTemporaryDir m_folder;
-    std::unique_ptr<HostProject> m_project;
-    int m_language = English;
+    QTemporaryDir m_settings;
+    std::unique_ptr<VisitedProject> m_project;
 };
 
 void tst_everyWidget::initTestCase()
 {
     workbench::PlatformLog::install();
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
-    m_project = std::make_unique<HostProject>(QStringLiteral("building"));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
+    m_project = std::make_unique<VisitedProject>();
 }
 
 void tst_everyWidget::init()
@@ -156,101 +82,79 @@ void tst_everyWidget::addWindow(const char* name, const Open& open)
         QTest::addRow("%s, %s", name, language ? "English" : "German") << language << open;
 }
 
-Open tst_everyWidget::mainWindow(const std::function<void(MainWindow&, const Visit&)>& act)
-{
-    return [this, act](const Visit& visit) {
-        MainWindow window([](const QString&, const QString&) { return QString(); });
-        window.show();
-        QVERIFY(window.openProject(m_project->doc()->path()));
-        QTRY_VERIFY(!find<QPlainTextEdit>(window, "ScriptText")->toPlainText().isEmpty());
-        act(window, visit);
-    };
-}
-
 void tst_everyWidget::addMainWindows()
 {
     addWindow("main window",
-              mainWindow([](MainWindow& window, const Visit& visit) { visit(window); }));
+              m_project->mainWindow([](MainWindow& window, const Visit& visit) { visit(window); }));
     addWindow("main window without a project", [](const Visit& visit) {
         MainWindow window([](const QString&, const QString&) { return QString(); });
         window.show();
         visit(window);
     });
     addWindow("main window, language changed", [this](const Visit& visit) {
-        const int language = m_language;
+        const int language = m_project->language;
         setLanguage(1 - language);
-        mainWindow([language](MainWindow& window, const Visit& see) {
+        m_project->mainWindow([language](MainWindow& window, const Visit& see) {
             trigger(window, language ? "English" : "German");
             see(window);
         })(visit);
     });
-    addWindow("output dialog", mainWindow([](MainWindow& window, const Visit& visit) {
-                  trigger(window, "Output");
-                  visit(*find<QDialog>(window, "OutputDialog"));
-              }));
-    addWindow("menu of the plots", mainWindow([](MainWindow& window, const Visit& visit) {
+    addWindow("output dialog", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+        trigger(window, "Output");
+        visit(*find<QDialog>(window, "OutputDialog"));
+    }));
+    addWindow("menu of the plots",
+              m_project->mainWindow([](MainWindow& window, const Visit& visit) {
                   trigger(window, "Output");
                   auto tree = find<QTreeWidget>(*find<QDialog>(window, "OutputDialog"), "m_list");
                   visitMenu(visit, tree->viewport());
               }));
-    addWindow("design dialog", mainWindow([](MainWindow& window, const Visit& visit) {
-                  visitModal(visit, [&window] { trigger(window, "Design"); });
-              }));
-    addWindow("picking", mainWindow([](MainWindow& window, const Visit& visit) {
-                  constexpr int PickOutside = 6;
-                  whenModal(
-                      [](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->done(PickOutside); });
-                  trigger(window, "Design");
-                  visit(window);
-                  whenModal([](QWidget* dialog) { dialog->close(); });
-                  find<QPushButton>(window, "PickCancel")->click();
-              }));
-    addWindow("help", mainWindow([](MainWindow& window, const Visit& visit) {
-                  trigger(window, "DesignHelp");
-                  for (QWidget* help : QApplication::topLevelWidgets())
-                      if (help->objectName() == QLatin1String("VKD_T_Help")) {
-                          visit(*help);
-                          find<QLineEdit>(*help, "searchText")->setText(QStringLiteral("a"));
-                          visit(*help);
-                      }
-              }));
-}
-
-/// A row for remaining groups and one without groups, in the dialog of the program.
-Open tst_everyWidget::design(const DesignAct& act)
-{
-    return mainWindow([act](MainWindow& window, const Visit& visit) {
-        whenModal([&](QWidget* dialog) {
-            find<QPushButton>(*dialog, "btnNew")->click();
-            auto table = find<QTableWidget>(*dialog, "table");
-            act(*dialog, *table, visit);
-            dialog->close();
-        });
+    addWindow("design dialog", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+        visitModal(visit, [&window] { trigger(window, "Design"); });
+    }));
+    addWindow("picking", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+        constexpr int PickOutside = 6;
+        whenModal([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->done(PickOutside); });
         trigger(window, "Design");
-    });
+        visit(window);
+        whenModal([](QWidget* dialog) { dialog->close(); });
+        find<QPushButton>(window, "PickCancel")->click();
+    }));
+    addWindow("help", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+        trigger(window, "DesignHelp");
+        for (QWidget* help : QApplication::topLevelWidgets())
+            if (help->objectName() == QLatin1String("VKD_T_Help")) {
+                visit(*help);
+                find<QLineEdit>(*help, "searchText")->setText(QStringLiteral("a"));
+                visit(*help);
+            }
+    }));
 }
 
 void tst_everyWidget::addDesignWindows()
 {
     for (int column : {Groups, Type, Directions, Reinforcement, Cracks})
-        addWindow(qPrintable(QStringLiteral("editor of design column %1").arg(column)),
-                  design([column](QWidget& dialog, QTableWidget& table, const Visit& visit) {
-                      table.setCurrentCell(1, column);
-                      visit(dialog);
-                  }));
+        addWindow(
+            qPrintable(QStringLiteral("editor of design column %1").arg(column)),
+            m_project->design([column](QWidget& dialog, QTableWidget& table, const Visit& visit) {
+                table.setCurrentCell(1, column);
+                visit(dialog);
+            }));
     for (const char* button : {"buttonGroups", "buttonSekGroups"})
-        addWindow(button, design([button](QWidget&, QTableWidget& table, const Visit& visit) {
+        addWindow(button,
+                  m_project->design([button](QWidget&, QTableWidget& table, const Visit& visit) {
                       table.setCurrentCell(1, Groups);
                       auto clicked = find<QPushButton>(table, button);
                       clicked->setEnabled(true); // also for a model without secondary groups
                       visitModal(visit, [clicked] { clicked->click(); });
                   }));
     addWindow("menu of the design table",
-              design([](QWidget&, QTableWidget& table, const Visit& visit) {
+              m_project->design([](QWidget&, QTableWidget& table, const Visit& visit) {
                   table.setCurrentCell(1, Type);
                   visitMenu(visit, table.viewport());
               }));
-    addWindow("group input refused", design([](QWidget&, QTableWidget& table, const Visit& visit) {
+    addWindow("group input refused",
+              m_project->design([](QWidget&, QTableWidget& table, const Visit& visit) {
                   table.setCurrentCell(1, Groups);
                   whenModal([&visit](QWidget* dialog) {
                       find<QLineEdit>(*dialog, "input")->setText(QStringLiteral("999999 x"));
@@ -277,10 +181,11 @@ void tst_everyWidget::addDesignDialogs()
     for (int type = 1; type <= 4; ++type)
         for (int column : {Directions, Reinforcement, Cracks})
             addWindow(qPrintable(QStringLiteral("type %1, design column %2").arg(type).arg(column)),
-                      design([=](QWidget&, QTableWidget& table, const Visit& visit) {
+                      m_project->design([=](QWidget&, QTableWidget& table, const Visit& visit) {
                           edit(type, column, visit)(table);
                       }));
-    addWindow("calculator", design([=](QWidget&, QTableWidget& table, const Visit& visit) {
+    addWindow("calculator",
+              m_project->design([=](QWidget&, QTableWidget& table, const Visit& visit) {
                   const auto visitTwice = [&visit](QWidget& calculator) {
                       visit(calculator);
                       find<QLineEdit>(calculator, "spacing")->setText(QStringLiteral("1"));
@@ -292,7 +197,7 @@ void tst_everyWidget::addDesignDialogs()
                   })(table);
               }));
     addWindow("minimum above maximum",
-              design([=](QWidget&, QTableWidget& table, const Visit& visit) {
+              m_project->design([=](QWidget&, QTableWidget& table, const Visit& visit) {
                   edit(1, Reinforcement, [&visit](QWidget& dialog) {
                       find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("5"));
                       find<QLineEdit>(dialog, "amo")->setText(QStringLiteral("4"));
@@ -312,7 +217,7 @@ void tst_everyWidget::addOutputPages()
             vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English);
             auto output = new VKD_P_WidgetGraphicalOutput(
                 &dialog, VKD_P_WidgetGraphicalOutput_Progname(kind), &parameter, view);
-            vkd_lib_setvalue(VKD_SETTING_LANGUAGE, m_language);
+            vkd_lib_setvalue(VKD_SETTING_LANGUAGE, m_project->language);
             output->setUsedNumbersAndNames({{1, 1, QStringLiteral("1 : g")}});
             dialog.addTab(output, QStringLiteral("1"));
             dialog.setWindowTitle(QString::number(kind));
@@ -329,39 +234,21 @@ void tst_everyWidget::addOutputPages()
 void tst_everyWidget::addBoxes()
 {
     addWindow("a project that cannot be opened",
-              mainWindow([this](MainWindow& window, const Visit& visit) {
+              m_project->mainWindow([this](MainWindow& window, const Visit& visit) {
                   visitModal(visit, [&] {
-                      window.openProject(m_folder.filePath(QStringLiteral("absent.zob")));
+                      window.openProject(m_settings.filePath(QStringLiteral("absent.zob")));
                   });
               }));
-    addWindow("choice not stored", mainWindow([](MainWindow& window, const Visit& visit) {
-                  trigger(window, "Output");
-                  auto dialog = find<QDialog>(window, "OutputDialog");
-                  dialog->findChild<QTreeWidget*>()->topLevelItem(0)->setCheckState(0,
-                                                                                    Qt::Unchecked);
-                  visitModal(visit, [&window] { window.close(); });
-              }));
-    addWindow("about", mainWindow([](MainWindow& window, const Visit& visit) {
-                  visitModal(visit, [&window] { trigger(window, "About"); });
-              }));
-}
-
-/// What the user of the project named, and with what it is numbered.
-QSet<QString> tst_everyWidget::projectTexts()
-{
-    const int index = m_project->doc()->index();
-    QSet<QString> found{QStringLiteral("1 : g")};
-    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readGroups(index))
-        found << group.title;
-    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readSecondaryGroups(index))
-        found << group.title << group.name;
-    const workbench::RecordsPane words;
-    for (int word = 0; word < words.rowCount(); ++word)
-        found << words.item(word, 0)->text();
-    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index))
-        found << loadCase.title
-              << QStringLiteral("%1 : %2").arg(loadCase.number).arg(loadCase.title);
-    return found;
+    addWindow(
+        "choice not stored", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+            trigger(window, "Output");
+            auto dialog = find<QDialog>(window, "OutputDialog");
+            dialog->findChild<QTreeWidget*>()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+            visitModal(visit, [&window] { window.close(); });
+        }));
+    addWindow("about", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+        visitModal(visit, [&window] { trigger(window, "About"); });
+    }));
 }
 
 void tst_everyWidget::everyWindow_data()
@@ -381,7 +268,7 @@ void tst_everyWidget::everyWindow()
     QFETCH(const Open, open);
     const auto visit = [&](int shown, const Visit& see) {
         int count = 0;
-        m_language = shown;
+        m_project->language = shown;
         setLanguage(shown);
         open([&](QWidget& window) {
             ++count;
@@ -393,7 +280,7 @@ void tst_everyWidget::everyWindow()
     if (language == German)
         visit(English,
               [&](QWidget& window) { english += testsupport::texts(window, FirstLanguage); });
-    english -= projectTexts();
+    english -= m_project->texts();
     english -= SameSpelling;
     static const QRegularExpression Word(QStringLiteral("[A-Za-z]{3}"));
     QStringList faults;

@@ -1,0 +1,102 @@
+#include "VisitedProject.h"
+
+#include "WidgetTestSupport.h"
+
+#include <RecordsPane.h>
+#include <vkd_dbo_groups.h>
+#include <vkd_dbo_model.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+using testsupport::whenModal;
+using workbench::MainWindow;
+
+void setLanguage(int language)
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    VKD_QT_InitTranslator::languageChanged();
+}
+
+void trigger(const QWidget& window, const char* action)
+{
+    window.findChild<QAction*>(QLatin1String(action))->trigger();
+}
+
+/// Looks at the modal window that `act` opens, and closes it.
+void visitModal(const Visit& visit, const std::function<void()>& act)
+{
+    bool isSeen = false;
+    whenModal([&](QWidget* modal) {
+        isSeen = true;
+        visit(*modal);
+        modal->close();
+    });
+    act();
+    if (!isSeen)
+        qFatal("nothing opened");
+}
+
+/// Looks at the menu that a right click on the widget opens, and closes it.
+void visitMenu(const Visit& visit, QWidget* widget)
+{
+    bool isSeen = false;
+    QTimer::singleShot(0, widget, [&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        isSeen = menu;
+        if (menu) {
+            visit(*menu);
+            menu->close();
+        }
+    });
+    const QPoint place = widget->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
+    QApplication::sendEvent(widget, &event);
+    if (!isSeen)
+        qFatal("no menu");
+}
+
+Open VisitedProject::mainWindow(const WindowAct& act)
+{
+    return [this, act](const Visit& visit) {
+        MainWindow window([](const QString&, const QString&) { return QString(); });
+        window.show();
+        QVERIFY(window.openProject(doc()->path()));
+        QTRY_VERIFY(!find<QPlainTextEdit>(window, "ScriptText")->toPlainText().isEmpty());
+        act(window, visit);
+    };
+}
+
+Open VisitedProject::design(const DesignAct& act)
+{
+    return mainWindow([act](MainWindow& window, const Visit& visit) {
+        whenModal([&](QWidget* dialog) {
+            find<QPushButton>(*dialog, "btnNew")->click();
+            auto table = find<QTableWidget>(*dialog, "table");
+            act(*dialog, *table, visit);
+            dialog->close();
+        });
+        trigger(window, "Design");
+    });
+}
+
+QSet<QString> VisitedProject::texts()
+{
+    const int index = doc()->index();
+    QSet<QString> found{QStringLiteral("1 : g")};
+    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readGroups(index))
+        found << group.title;
+    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readSecondaryGroups(index))
+        found << group.title << group.name;
+    const workbench::RecordsPane words;
+    for (int word = 0; word < words.rowCount(); ++word)
+        found << words.item(word, 0)->text();
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index))
+        found << loadCase.title
+              << QStringLiteral("%1 : %2").arg(loadCase.number).arg(loadCase.title);
+    return found;
+}
