@@ -3,6 +3,7 @@
 #include "TestSupport.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QPointer>
 #include <QTimer>
 
@@ -12,16 +13,22 @@ namespace testsupport {
 
 /// Calls `act` with the modal dialog or box that opens next. Call it before the step that opens
 /// one; nothing happens if that opens none within five seconds.
-inline void whenModal(const std::function<void(QWidget*)>& act, int triesLeft = 500)
+inline void whenModal(const std::function<void(QWidget*)>& act)
 {
     const QPointer<QWidget> before = QApplication::activeModalWidget();
-    QTimer::singleShot(10, qApp, [=] {
+    auto timer = new QTimer(qApp);
+    const QDeadlineTimer deadline(5000);
+    QObject::connect(timer, &QTimer::timeout, timer, [=] {
         QWidget* modal = QApplication::activeModalWidget();
-        if (modal && modal != before && modal->isVisible())
+        const bool isThere = modal && modal != before && modal->isVisible();
+        if (!isThere && !deadline.hasExpired())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        if (isThere)
             act(modal);
-        else if (triesLeft > 0)
-            whenModal(act, triesLeft - 1);
     });
+    timer->start(10);
 }
 
 } // namespace testsupport

@@ -12,6 +12,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMap>
 #include <QMenu>
 #include <QRegularExpression>
@@ -53,19 +54,34 @@ private:
     QSet<QString> m_found;
 };
 
-/// Whether the widget is a part of a control that the user knows as one.
+/// Whether the widget is a part of a control that the user knows as one. The tabs of docks are the
+/// docks' titles, and Qt names their bar by the one in front.
 bool isInner(const QWidget* widget)
 {
-    return widget->focusProxy() || widget->objectName().startsWith(QLatin1String("qt_")) ||
+    return widget->focusProxy() || qobject_cast<const QMainWindow*>(widget->parentWidget()) ||
+           widget->objectName().startsWith(QLatin1String("qt_")) ||
            qobject_cast<const QComboBox*>(widget->parentWidget()) ||
            qobject_cast<const QLineEdit*>(widget->parentWidget());
 }
 
 QString nameOf(const QWidget* widget, QAccessible::Text part = QAccessible::Name)
 {
+    // Qt names a field of choices by what is chosen.
+    if (part == QAccessible::Name && qobject_cast<const QComboBox*>(widget) &&
+        !widget->accessibleName().isEmpty())
+        return widget->accessibleName();
     QAccessibleInterface* face =
         QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
     return face ? face->text(part) : QString();
+}
+
+/// The title of the box around the widget, which is read out with its name.
+QString boxTitle(const QWidget* widget)
+{
+    for (const QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
+        if (const auto box = qobject_cast<const QGroupBox*>(parent))
+            return box->title();
+    return QString();
 }
 
 /// The place of a widget in one that lies above it.
@@ -171,12 +187,15 @@ void Walk::lookForNames()
             continue;
         const QString name = nameOf(widget);
         const QString whole = name + QLatin1Char('/') + nameOf(widget, QAccessible::Description);
+        const QString key =
+            QStringList{QLatin1String(widget->metaObject()->className()), boxTitle(widget), whole}
+                .join(QLatin1Char('/'));
         if (name.trimmed().isEmpty())
             note(widget, QStringLiteral("has no accessible name"));
-        else if (known.contains(whole))
+        else if (known.contains(key))
             note(widget, QStringLiteral("has the accessible name \"%1\" of %2")
-                             .arg(whole, known[whole]->objectName()));
-        known.insert(whole, widget);
+                             .arg(whole, known[key]->objectName()));
+        known.insert(key, widget);
     }
 }
 
@@ -233,7 +252,7 @@ void Walk::lookForOrder()
     QMap<const QWidget*, QVector<const QWidget*>> visited; // of each parent, in the order of Tab
     for (const QWidget* stop = m_window.nextInFocusChain(); stop != &m_window;
          stop = stop->nextInFocusChain()) {
-        if (!stop->isVisible() || !m_window.isAncestorOf(stop) || stop->window() != &m_window ||
+        if (!m_window.isAncestorOf(stop) || !isInView(stop, m_window) ||
             !(stop->focusPolicy() & Qt::TabFocus) || isInner(stop))
             continue;
         for (const QWidget* child = stop; child != &m_window; child = child->parentWidget()) {

@@ -58,6 +58,16 @@ void addMenu(QSet<QString>& found, const QList<QAction*>& actions)
     }
 }
 
+/// Docks behind another one in its tabs are visible to Qt, but stand beside the window.
+bool isBehindTab(const QWidget* widget, const QWidget& window)
+{
+    const auto dock = qobject_cast<const QDockWidget*>(widget);
+    if (!dock)
+        return widget->parentWidget() && widget->parentWidget() != &window &&
+               isBehindTab(widget->parentWidget(), window);
+    return !window.rect().intersects(dock->geometry());
+}
+
 QStringList titlesOf(const QTabBar* bar)
 {
     QStringList titles;
@@ -82,11 +92,16 @@ void settle()
 }
 } // namespace
 
+bool isInView(const QWidget* widget, const QWidget& window)
+{
+    return widget->isVisible() && widget->window() == &window && !isBehindTab(widget, window);
+}
+
 QList<QWidget*> visibleWidgets(QWidget& window)
 {
     QList<QWidget*> found{&window};
     for (QWidget* widget : window.findChildren<QWidget*>())
-        if (widget->isVisible() && widget->window() == &window)
+        if (isInView(widget, window))
             found << widget;
     return found;
 }
@@ -158,7 +173,9 @@ QSet<QString> texts(QWidget& window, const QSet<QString>& withoutCells)
             for (const QString& text : textsOf(widget))
                 found << text;
             found << widget->toolTip() << widget->statusTip() << widget->whatsThis()
-                  << widget->accessibleName() << widget->accessibleDescription();
+                  << widget->accessibleName();
+            if (!withoutCells.contains(widget->objectName()))
+                found << widget->accessibleDescription();
             if (const auto view = qobject_cast<const QAbstractItemView*>(widget))
                 if (view->model() && !qobject_cast<const QHeaderView*>(view)) {
                     if (!withoutCells.contains(view->objectName()))

@@ -7,7 +7,10 @@
 
 namespace testsupport {
 
-/// The window and all in it that is visible, apart from other windows.
+/// Whether it can be seen in the window, and not in another one nor behind the tab of a dock.
+bool isInView(const QWidget* widget, const QWidget& window);
+
+/// The window and all in it that is in view.
 QList<QWidget*> visibleWidgets(QWidget& window);
 
 /// Runs `act` for each tab of the window in front, once without tabs.

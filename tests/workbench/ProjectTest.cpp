@@ -115,7 +115,8 @@ std::unique_ptr<MainWindow> ProjectTest::open(const char* name) const
     testsupport::writeFile(path(name), m_building);
     auto window = std::make_unique<MainWindow>(makeProject);
     window->show();
-    if (!window->openProject(path(name)))
+    if (!window->openProject(path(name)) ||
+        !QTest::qWaitFor([&window] { return !script(*window).isEmpty(); }))
         qFatal("not open");
     return window;
 }

@@ -29,12 +29,13 @@ enum DesignColumn { Groups, Type, Directions, Reinforcement, Cracks };
 /// The widths of the design page's columns are fixed.
 const QSet<QString> FixedColumns{QStringLiteral("table")};
 
-/// Plots keep the language of the first page in the process.
-const QSet<QString> FirstLanguage{QStringLiteral("m_list")};
+/// Plots keep the language of the first page in the process, also where a sheet names them.
+const QSet<QString> FirstLanguage{QStringLiteral("m_list"), QStringLiteral("SheetView")};
 
 /// Spelt alike in both languages.
 const QSet<QString> SameSpelling{QStringLiteral("&Filter:"), QStringLiteral("Name"),
-                                 QStringLiteral("rad")};
+                                 QStringLiteral("rad"),      QStringLiteral("System"),
+                                 QStringLiteral("Text"),     QStringLiteral("Zoom")};
 } // namespace
 
 /// Every window of the program and of the libraries, in both languages. A window is added by a row.
@@ -102,6 +103,14 @@ void tst_everyWidget::addMainWindows()
     addWindow("output dialog", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
         trigger(window, "Output");
         visit(*find<QDialog>(window, "OutputDialog"));
+    }));
+    addWindow("sheet", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+        trigger(window, "SheetPreviewAction");
+        visit(window);
+    }));
+    addWindow("text output", m_project->mainWindow([](MainWindow& window, const Visit& visit) {
+        trigger(window, "TextOutput");
+        visit(*find<QDialog>(window, "TextOutputDialog"));
     }));
     addWindow("menu of the plots",
               m_project->mainWindow([](MainWindow& window, const Visit& visit) {

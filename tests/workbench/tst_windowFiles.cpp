@@ -252,6 +252,7 @@ void tst_windowFiles::keptBetweenStarts()
     const auto work = [&] {
         MainWindow* window = shownWindow();
         QVERIFY(window->openProject(path("kept.zob")));
+        QTRY_COMPARE(recentFiles(*window), QStringList(path("kept.zob")));
         trigger(*window, "German");
         find<QDockWidget>(*window, "RecordDock")->hide();
         window->addDockWidget(Qt::LeftDockWidgetArea, find<QDockWidget>(*window, "ScriptDock"));

@@ -832,6 +832,18 @@ Soll sie gespeichert werden?</translation>
 <context>
     <name>workbench::WindowActions</name>
     <message>
+        <source>Design</source>
+        <translation>Bemessung</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
         <source>&amp;Building</source>
         <translation>&amp;Gebäude</translation>
     </message>

@@ -203,6 +203,9 @@ void WindowActions::setTexts()
     output->setText(tr("&Graphical Output..."));
     textOutput->setText(tr("&Text Output..."));
     sheet->setText(tr("&Sheet Preview"));
+    design->setIconText(tr("Design"));
+    output->setIconText(tr("Graphics"));
+    textOutput->setIconText(tr("Text"));
     german->setText(tr("&German"));
     english->setText(tr("&English"));
     designHelp->setText(tr("&Design Parameters"));

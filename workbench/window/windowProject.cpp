@@ -78,6 +78,7 @@ void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
 void MainWindow::showProject()
 {
     const WaitCursor cursor;
+    PlatformLog::take(); // another project may be waited for meanwhile
     m_view->setProject(index());
     m_view->slotViewControl(AnimatorStandardView, 0.0);
     m_groups->setProject(index());
