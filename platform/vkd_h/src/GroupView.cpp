@@ -2,6 +2,8 @@
 
 #include "GroupTableModel.h"
 
+#include <vkd_qt_visibleLines.h>
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -86,6 +88,11 @@ void GroupView::paintEvent(QPaintEvent* event)
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
                      tr("No group matches the filter."));
+}
+
+QStyleOptionViewItem GroupView::viewOptions() const
+{
+    return vkd_qt_visibleLines(QTreeView::viewOptions());
 }
 
 } // namespace h

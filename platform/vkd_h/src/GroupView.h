@@ -28,6 +28,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    QStyleOptionViewItem viewOptions() const override;
 
 private:
     int columnWidthFor(const GroupTableModel& groups, int column) const;

@@ -31,6 +31,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     bool viewportEvent(QEvent* event) override;
+    QStyleOptionViewItem viewOptions() const override;
 
 private:
     void closeOpenEditor();

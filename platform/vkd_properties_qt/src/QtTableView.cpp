@@ -3,6 +3,7 @@
 #include "ReadOnlyDelegate.h"
 
 #include <vkd_qt_copyCells.h>
+#include <vkd_qt_visibleLines.h>
 
 #include <QChildEvent>
 #include <QKeyEvent>
@@ -107,6 +108,11 @@ void QtTableView::enableWidgets()
     for (const QPointer<QWidget>& widget : std::exchange(m_disabled, {}))
         if (widget)
             widget->setEnabled(true);
+}
+
+QStyleOptionViewItem QtTableView::viewOptions() const
+{
+    return vkd_qt_visibleLines(QTableView::viewOptions());
 }
 
 } // namespace vkd::properties::nextGen

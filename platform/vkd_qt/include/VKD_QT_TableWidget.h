@@ -18,4 +18,7 @@ public:
 
     bool isRowSelected(int row) const;
     std::set<int> getSelectetRows() const;
+
+protected:
+    QStyleOptionViewItem viewOptions() const override;
 };

@@ -58,6 +58,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void showEvent(QShowEvent* event) override;
     void updateGeometries() override;
+    QStyleOptionViewItem viewOptions() const override;
 
 private:
     void closeBranches();

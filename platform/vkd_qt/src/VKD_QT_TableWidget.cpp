@@ -1,5 +1,7 @@
 #include "VKD_QT_TableWidget.h"
 
+#include "vkd_qt_visibleLines.h"
+
 VKD_QT_TableWidget::VKD_QT_TableWidget(int rows, int columns, QWidget* parent, const char* name)
     : QTableWidget(rows, columns, parent)
 {
@@ -23,4 +25,9 @@ std::set<int> VKD_QT_TableWidget::getSelectetRows() const
         for (int row = range.top(); row <= range.bottom(); ++row)
             rows.insert(row);
     return rows;
+}
+
+QStyleOptionViewItem VKD_QT_TableWidget::viewOptions() const
+{
+    return vkd_qt_visibleLines(QTableWidget::viewOptions());
 }

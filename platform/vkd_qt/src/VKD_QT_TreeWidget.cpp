@@ -3,6 +3,7 @@
 #include "treeCheckStates.h"
 #include "VKD_QT_Menu.h"
 #include "VKD_QT_SignalBlocker.h"
+#include "vkd_qt_visibleLines.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -152,4 +153,9 @@ void VKD_QT_TreeWidget::updateGeometries()
 {
     QTreeWidget::updateGeometries();
     measureLater();
+}
+
+QStyleOptionViewItem VKD_QT_TreeWidget::viewOptions() const
+{
+    return vkd_qt_visibleLines(QTreeWidget::viewOptions());
 }
