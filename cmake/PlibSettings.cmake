@@ -41,6 +41,33 @@ endif()
 # The share folder stands beside the build tree's lib folder as it does in an installation.
 file(CREATE_LINK ${PROJECT_SOURCE_DIR}/share ${PROJECT_BINARY_DIR}/share SYMBOLIC)
 
+# Installs a library and its headers, in a folder of their own, and makes it a target of the package
+# <package>, which is a component of the installation as well.
+function(vkd_install_library name package)
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name}>)
+    install(TARGETS ${name} EXPORT ${package} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+                                                      COMPONENT ${package})
+    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name}
+            COMPONENT ${package})
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name} COMPONENT ${package})
+endfunction()
+
+# Installs what find_package(<package>) reads: the targets, and cmake/<package>Config.cmake.
+function(vkd_install_package package)
+    include(CMakePackageConfigHelpers)
+    set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
+    set(version ${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake)
+    write_basic_package_version_file(${version} COMPATIBILITY SameMinorVersion)
+    install(EXPORT ${package} FILE ${package}Targets.cmake DESTINATION ${folder}
+            COMPONENT ${package})
+    install(FILES ${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake ${version}
+            DESTINATION ${folder} COMPONENT ${package})
+endfunction()
+
 # One library of the platform: shared, because the store, the settings and the text service have to
 # exist once in a process, with a generated <name>_export.h.
 function(vkd_add_platform_library name)
@@ -48,10 +75,8 @@ function(vkd_add_platform_library name)
     include(GenerateExportHeader)
     add_library(${name} SHARED ${arg_SOURCES})
     generate_export_header(${name} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h)
-    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/include
-                                              ${CMAKE_CURRENT_BINARY_DIR})
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
-    install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    vkd_install_library(${name} vkd_platform)
 endfunction()
 
 # Compiles translations/<target>_de.ts into the target and makes the translator object that installs
