@@ -1,0 +1,45 @@
+// A dialog with the design parameters of a project, which OK writes: designHost PROJECT
+
+#include <VKD_H_Dialog.h>
+#include <VKD_H_SelGRP_Dialog.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <VKD_P_DesignParameter>
+#include <VKD_QT_Ok.h>
+
+#include <QApplication>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+int main(int argc, char* argv[])
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
+    QApplication application(argc, argv);
+    const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
+    if (!project)
+        return 1; // the log has said why
+
+    VKD_H_Dialog dialog; // the page looks for a dialog of the framework above it
+    auto page = new VKD_P_DesignParameter(project.get(), project.get(), &dialog, false, false);
+    auto buttons = new VKD_QT_Ok(&dialog, 1 + 2, "buttons");
+    auto layout = new QVBoxLayout(&dialog);
+    layout->addWidget(page);
+    layout->addWidget(buttons);
+    QObject::connect(buttons->cmdCancel(), &QPushButton::clicked, &dialog, &QDialog::reject);
+    QObject::connect(buttons->cmdOk(), &QPushButton::clicked, [&] {
+        if (page->checkVals())
+            dialog.accept();
+    });
+
+    page->init();
+    page->readZob();
+    int result = dialog.exec();
+    while (result == VKD_H_SelGRP_Dialog::PickOutside) {
+        // Here a desktop lets the user pick in its view; this one has none and picks by itself.
+        VKD_H_SelGRP_Dialog::putAniSelectionToZob(project->index(), {1, 2});
+        result = dialog.exec(); // the same dialog again, in which the page takes the groups
+    }
+    if (result == QDialog::Accepted)
+        page->writeToZob();
+    return project->close() == VKD_ZOB_OK ? 0 : 1;
+}

@@ -1,0 +1,51 @@
+// A dialog with the graphical output of a project; OK prints the script: outputHost PROJECT
+
+#include <AnimatorView.h>
+#include <vkd_dbo_model.h>
+#include <VKD_H_PluginParameter.h>
+#include <VKD_H_ProjectDialogPage.h>
+#include <VKD_H_TabDialog.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <VKD_P_WidgetGraphicalOutput>
+
+#include <QApplication>
+#include <QVBoxLayout>
+
+#include <cstdio>
+
+int main(int argc, char* argv[])
+{
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1); // the keyword language of the script's head
+    QApplication application(argc, argv);
+    const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
+    if (!project)
+        return 1; // the log has said why
+
+    VKD_H_PluginParameter parameter(project.get());
+    VKD_H_TabDialog dialog;
+    auto tab = new QWidget;
+    dialog.addTab(tab, project->path()); // before the page, which looks for the dialog above it
+    auto view = new AnimatorView(project->index(), &dialog);
+    auto page =
+        new VKD_P_WidgetGraphicalOutput(tab, VKD_P_GraphicalOutput_Standard, &parameter, view);
+    (new QVBoxLayout(tab))->addWidget(page);
+
+    std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> rows;
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project->index()))
+        rows.push_back({loadCase.kind, loadCase.number,
+                        QStringLiteral("%1 : %2").arg(loadCase.number).arg(loadCase.title)});
+    page->setUsedNumbersAndNames(rows);
+
+    VKD_H_ProjectDialogPage kept(project->index(), 1);
+    const QString state = kept.getEntry(QStringLiteral("Output"), QString());
+    if (!state.isEmpty()) // an empty one would uncheck all plots
+        page->readXMLstring(state);
+    if (dialog.exec() == QDialog::Accepted) {
+        std::fputs(page->getTORVAL(true).toUtf8().constData(), stdout);
+        kept.setEntry(QStringLiteral("Output"), page->writeXMLstring());
+        kept.save();
+    }
+    return project->close() == VKD_ZOB_OK ? 0 : 1;
+}
