@@ -35,14 +35,15 @@ QStringList commandOf(int argc, char* argv[])
 
 /// Pictures are drawn off the screen, so that none is needed; other commands than these two do
 /// without widgets.
-std::unique_ptr<QCoreApplication> newApplication(bool opensWindow, const QString& command,
+std::unique_ptr<QCoreApplication> newApplication(bool opensWindow, const QStringList& command,
                                                  int& argc, char* argv[])
 {
     if (opensWindow)
         return std::make_unique<QApplication>(argc, argv);
-    if (command != QLatin1String("snapshots"))
+    if (command.value(0) != QLatin1String("snapshots"))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(workbench::snapshotsPixelRatio(command)));
     auto application = std::make_unique<QApplication>(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // as desktops have it
@@ -64,7 +65,7 @@ int main(int argc, char* argv[])
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    const auto application = newApplication(opensWindow, command.value(0), argc, argv);
+    const auto application = newApplication(opensWindow, command, argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
     return workbench::run(QStringList(QCoreApplication::applicationName()) + command);

@@ -356,6 +356,8 @@ void TestCommandLine::failures_data()
     row("snapshots noproject.zob pictures", "cannot open noproject.zob: this is no project file "
                                             "(file is not a database)");
     row("snapshots slab.zob bad.json/pictures", "cannot make the folder bad.json/pictures");
+    row("snapshots slab.zob none --pixel-ratio 5",
+        "--pixel-ratio is a number from 1 to 4, not \"5\"", "none");
 }
 
 void TestCommandLine::failures()

@@ -21,4 +21,7 @@ int treeCommand(const QStringList& arguments);
 int snapshotsCommand(const QStringList& arguments); // needs a QApplication
 int windowCommand(const QStringList& arguments);    // needs a QApplication
 
+/// How many pixels a point of the pictures is to have, which Qt has to know before it starts.
+int snapshotsPixelRatio(const QStringList& arguments);
+
 } // namespace workbench

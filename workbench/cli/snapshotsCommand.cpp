@@ -9,13 +9,40 @@
 
 namespace workbench {
 
+namespace {
+const QString PixelRatio = QStringLiteral("pixel-ratio");
+constexpr int LargestRatio = 4;
+
+bool isPixelRatio(int ratio)
+{
+    return ratio >= 1 && ratio <= LargestRatio;
+}
+} // namespace
+
+/// There is no application yet, which help and messages need: those are left to the command.
+int snapshotsPixelRatio(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.addOption({PixelRatio, QString(), QStringLiteral("N")});
+    parser.parse(arguments);
+    const int ratio = parser.value(PixelRatio).toInt();
+    return isPixelRatio(ratio) ? ratio : 1;
+}
+
 int snapshotsCommand(const QStringList& arguments)
 {
-    CommandLine line(QStringLiteral("Leaves a picture of every page and dialog on this project in "
-                                    "a folder and prints the names of the files. The project stays "
-                                    "as it is."),
-                     {QStringLiteral("FILE"), QStringLiteral("DIR")}, {languageOption()});
+    CommandLine line(
+        QStringLiteral("Leaves a picture of every page and dialog on this project in a folder, "
+                       "light and dark, and prints the names of the files. The project stays as it "
+                       "is."),
+        {QStringLiteral("FILE"), QStringLiteral("DIR")},
+        {languageOption(),
+         {PixelRatio, QStringLiteral("N"),
+          QStringLiteral("Pixels for each point of the screen, as on fine screens: 1 to 4.")}});
     line.parse(arguments);
+    if (!isPixelRatio(line.number("pixel-ratio", 1)))
+        throw CommandError{QStringLiteral("--pixel-ratio is a number from 1 to 4, not \"%1\"")
+                               .arg(line.value("pixel-ratio"))};
     applyLanguage(line);
     openProject(line.argument(0)); // says what is wrong with a file that is none
     try {

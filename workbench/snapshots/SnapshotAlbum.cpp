@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
+#include <QLayout>
 #include <QPainter>
 #include <QTimer>
 
@@ -14,11 +16,28 @@
 namespace workbench {
 
 namespace {
+constexpr int MaxTextWidth = 500;
+
 /// Layouts of word-wrapped texts need a few rounds.
 void settle()
 {
     for (int round = 0; round < 4; ++round)
         QApplication::processEvents();
+}
+
+/// Dialogs come no larger than the screen allows, and the text of a message box wraps at half of
+/// it. The screen behind these pictures is small, the more so with a high pixel ratio.
+void giveRoom(QWidget* dialog)
+{
+    if (auto text = dialog->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        const int whole = text->fontMetrics().size(0, text->text()).width();
+        text->setMinimumWidth(qMin(whole, MaxTextWidth));
+        return; // the box follows by itself
+    }
+    QSize wanted = dialog->sizeHint();
+    if (dialog->layout() && dialog->layout()->hasHeightForWidth())
+        wanted.setHeight(dialog->layout()->totalHeightForWidth(wanted.width()));
+    dialog->resize(wanted.expandedTo(dialog->size()));
 }
 
 std::runtime_error failure(const QString& text)
@@ -44,7 +63,8 @@ void SnapshotAlbum::add(const QString& name, QWidget* widget)
     }
     const QString language =
         vkd_lib_getvalue(VKD_SETTING_LANGUAGE) ? QStringLiteral("en") : QStringLiteral("de");
-    const QString file = QDir(m_folder).filePath(QStringLiteral("%1.%2.png").arg(name, language));
+    const QString file =
+        QDir(m_folder).filePath(QStringLiteral("%1.%2.png").arg(name + m_look, language));
     if (!picture.save(file))
         throw failure(QStringLiteral("cannot write %1").arg(file));
     m_files << file;
@@ -60,6 +80,7 @@ void SnapshotAlbum::addModal(const QString& name, const std::function<void()>& o
         if (!dialog)
             return;
         wasOpened = true;
+        giveRoom(dialog);
         try {
             add(name, dialog);
             if (work)

@@ -1,32 +1,51 @@
 #include "takeSnapshots.h"
 
 #include "designSnapshots.h"
+#include "looks.h"
 #include "outputSnapshots.h"
 #include "SnapshotAlbum.h"
 #include "windowSnapshots.h"
 
 #include <VKD_H_ZOBDoc.h>
 
+#include <QApplication>
 #include <QFile>
+#include <QPalette>
 #include <QTemporaryDir>
 
 #include <stdexcept>
 
 namespace workbench {
 
+namespace {
+/// The pages of a copy of the project, which they change.
+void addPages(SnapshotAlbum& album, const QString& copy)
+{
+    const auto document = VKD_H_ZOBDoc::open(copy);
+    if (!document)
+        throw std::runtime_error(copy.toStdString() + " is no project");
+    addDesignSnapshots(album, document.get());
+    addOutputSnapshots(album, document.get());
+}
+} // namespace
+
 QStringList takeSnapshots(const QString& project, const QString& folder)
 {
     const QTemporaryDir copies;
-    const QString copy = copies.filePath(QStringLiteral("project.zob"));
-    if (!QFile::copy(project, copy))
-        throw std::runtime_error("cannot read " + project.toStdString());
-    const auto document = VKD_H_ZOBDoc::open(copy);
-    if (!document)
-        throw std::runtime_error(project.toStdString() + " is no project");
+    const auto copyOf = [&](const char* name) {
+        const QString copy = copies.filePath(QLatin1String(name));
+        if (!QFile::copy(project, copy))
+            throw std::runtime_error("cannot read " + project.toStdString());
+        return copy;
+    };
     SnapshotAlbum album(folder);
-    addWindowSnapshots(album, copy);
-    addDesignSnapshots(album, document.get());
-    addOutputSnapshots(album, document.get());
+    addWindowSnapshots(album, copyOf("project.zob"));
+    addPages(album, copyOf("light.zob"));
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(darkPalette());
+    album.setLook(QStringLiteral("-dark"));
+    addPages(album, copyOf("dark.zob"));
+    QApplication::setPalette(light);
     return album.files();
 }
 

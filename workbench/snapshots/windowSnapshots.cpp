@@ -1,5 +1,6 @@
 #include "windowSnapshots.h"
 
+#include "looks.h"
 #include "SnapshotAlbum.h"
 #include "textOutputSnapshots.h"
 
@@ -21,15 +22,6 @@
 namespace workbench {
 
 namespace {
-QPalette darkPalette()
-{
-    QPalette palette(QColor(53, 53, 53), QColor(45, 45, 45));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::AlternateBase, QColor(42, 42, 42));
-    palette.setColor(QPalette::Link, QColor(90, 160, 240));
-    return palette;
-}
-
 void trigger(const MainWindow& window, const char* action)
 {
     window.findChild<QAction*>(QLatin1String(action))->trigger();
