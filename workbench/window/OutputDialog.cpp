@@ -89,7 +89,9 @@ OutputDialog::~OutputDialog()
 
 void OutputDialog::addTabs()
 {
-    addTab(m_page, tr("Plots"));
+    auto plots = new QWidget(this);
+    (new QVBoxLayout(plots))->addWidget(m_page); // which has no margins of its own
+    addTab(plots, tr("Plots"));
     addTab(newLoadCaseTab(), tr("Load cases"));
     addTab(newContentTab(), tr("Contents"));
 }
