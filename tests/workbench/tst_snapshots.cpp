@@ -29,7 +29,8 @@ void TestSnapshots::run(const QStringList& arguments) const
     QProcess process;
     process.setWorkingDirectory(m_folder.path());
     process.start(QStringLiteral(WORKBENCH), arguments);
-    QVERIFY(process.waitForFinished());
+    constexpr int Patience = 120000; // ms, for sanitizers on a busy machine
+    QVERIFY(process.waitForFinished(Patience));
     QCOMPARE(QString::fromUtf8(process.readAllStandardError()), QString());
     QCOMPARE(process.exitCode(), 0);
 }
