@@ -79,13 +79,20 @@ function(vkd_add_platform_library name)
     vkd_install_library(${name} vkd_platform)
 endfunction()
 
-# Compiles translations/<target>_de.ts into the target and makes the translator object that installs
-# it when the target is loaded.
+# vkd_add_translations(<target> [<file>]): compiles <file>, translations/<target>_de.ts by default,
+# into the target and makes the translator object that installs it when the target is loaded. The
+# file is called <module>_de.ts; the module is the target, unless the suite knows it by another name.
 function(vkd_add_translations target)
-    qt5_add_translation(compiled translations/${target}_de.ts OPTIONS -silent)
-    set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}_translations.qrc)
+    set(file translations/${target}_de.ts)
+    if(ARGC GREATER 1)
+        set(file ${ARGV1})
+    endif()
+    get_filename_component(module ${file} NAME)
+    string(REPLACE _de.ts "" module ${module})
+    qt5_add_translation(compiled ${file} OPTIONS -silent)
+    set(list ${CMAKE_CURRENT_BINARY_DIR}/${module}_translations.qrc)
     file(CONFIGURE OUTPUT ${list} CONTENT
-        "<RCC><qresource prefix=\"/translations\"><file>${target}_de.qm</file></qresource></RCC>\n")
+        "<RCC><qresource prefix=\"/translations\"><file>${module}_de.qm</file></qresource></RCC>\n")
     qt5_add_resources(resources ${list})
     configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in translator.cpp @ONLY)
     target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/translator.cpp ${resources})

@@ -12,7 +12,6 @@
 #include "waitForStore.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
-#include "windowTexts.h"
 
 #include <AnimatorView.h>
 #include <SheetPreview.h>
@@ -38,17 +37,10 @@ namespace {
 constexpr int StateVersion = 1;
 const QString GeometryKey = QStringLiteral("geometry");
 const QString StateKey = QStringLiteral("state");
-
-/// The parts of the window take their texts as they are built.
-QWidget* withTexts(QWidget* parent)
-{
-    installWindowTexts();
-    return parent;
-}
 } // namespace
 
 MainWindow::MainWindow(ProjectMaker maker, QWidget* parent)
-    : QMainWindow(withTexts(parent))
+    : QMainWindow(parent)
     , m_maker(std::move(maker))
     , m_actions(new WindowActions(this))
     , m_groups(new GroupList(this))
