@@ -14,7 +14,6 @@ private Q_SLOTS:
     void init() { vkd_lib_setvalue(102, 1); }
     void groups_data();
     void groups();
-    void names();
     void columns_data();
     void columns();
     void germanNumbers();
@@ -46,15 +45,6 @@ void TestRowText::groups()
     plib::DesignParameterRow row;
     row.groups = {groups.begin(), groups.end()};
     QCOMPARE(plib::rowText(row, 0), expected);
-}
-
-void TestRowText::names()
-{
-    for (const char* name : {"A", "AB", "CORN", "COLS"}) {
-        const int packed = plib::packedGroupName(QString::fromLatin1(name));
-        QVERIFY(packed >= 1000000);
-        QCOMPARE(plib::groupText(packed), QString::fromLatin1(name));
-    }
 }
 
 void TestRowText::columns_data()

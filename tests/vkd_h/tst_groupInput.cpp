@@ -1,7 +1,8 @@
 #include "TestSupport.h"
 
 #include <groupInput.h>
-#include <packedNames.h>
+#include <shownName.h>
+#include <vkd_dbo_packedNames.h>
 
 #include <algorithm>
 #include <numeric>
@@ -22,7 +23,7 @@ QString names(const Groups& groups)
 {
     QStringList texts;
     for (int group : groups)
-        texts << unpackedName(group);
+        texts << shownName(group);
     return texts.join(QLatin1Char(' '));
 }
 
@@ -30,7 +31,7 @@ Groups packed(const QStringList& list)
 {
     Groups groups;
     for (const QString& name : list)
-        groups.push_back(packedName(name));
+        groups.push_back(vkd::dbo::packedName(name));
     std::sort(groups.begin(), groups.end());
     return groups;
 }
@@ -127,10 +128,10 @@ private Q_SLOTS:
 
     void packing()
     {
-        QCOMPARE(packedName(QStringLiteral("COLS")), 0x534c4f43);
-        QCOMPARE(packedName(QStringLiteral("A")), 0x20202041);
-        QCOMPARE(unpackedName(0x20202041), QStringLiteral("A"));
-        QCOMPARE(unpackedName(FirstPackedName), QStringLiteral("@B?")); // nobody can read it
+        QCOMPARE(vkd::dbo::packedName(QStringLiteral("COLS")), 0x534c4f43);
+        QCOMPARE(vkd::dbo::packedName(QStringLiteral("A")), 0x20202041);
+        QCOMPARE(shownName(0x20202041), QStringLiteral("A"));
+        QCOMPARE(shownName(vkd::dbo::FirstPackedName), QStringLiteral("@B?")); // no letter
     }
 
     void longInputTakesLittle()

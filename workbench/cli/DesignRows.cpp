@@ -9,6 +9,7 @@
 #include <designStore.h>
 #include <rowText.h>
 #include <vkd_dbo_model.h>
+#include <vkd_dbo_packedNames.h>
 #include <vkd_dbo_queries.h>
 #include <VKD_H_ZOBDoc.h>
 
@@ -110,7 +111,7 @@ const std::map<QString, int>& DesignRows::modelGroups() const
     for (const auto& group : model.groups)
         m_modelGroups.emplace(QString::number(group.number), group.number);
     for (const auto& group : model.secondaryGroups)
-        m_modelGroups.emplace(group.name, plib::packedGroupName(group.name));
+        m_modelGroups.emplace(group.name, vkd::dbo::packedName(group.name));
     return m_modelGroups;
 }
 

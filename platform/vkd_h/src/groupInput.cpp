@@ -1,6 +1,8 @@
 #include "groupInput.h"
 
-#include "packedNames.h"
+#include "shownName.h"
+
+#include <vkd_dbo_packedNames.h>
 
 #include <QHash>
 #include <QRegularExpression>
@@ -98,7 +100,7 @@ GroupInput readNames(const QString& text, const std::vector<int>& existing)
 {
     QMultiHash<QString, int> byFoldedName;
     for (int packed : existing)
-        byFoldedName.insert(unpackedName(packed).toCaseFolded(), packed);
+        byFoldedName.insert(shownName(packed).toCaseFolded(), packed);
     GroupInput input;
     Marks marks(existing);
     const QStringList all = parts(text.simplified());
@@ -106,8 +108,8 @@ GroupInput readNames(const QString& text, const std::vector<int>& existing)
         const QList<int> alike = byFoldedName.values(part.toCaseFolded());
         if (alike.isEmpty())
             input.missing << part;
-        else if (alike.size() > 1 && alike.contains(packedName(part)))
-            marks.mark(packedName(part), packedName(part));
+        else if (alike.size() > 1 && alike.contains(dbo::packedName(part)))
+            marks.mark(dbo::packedName(part), dbo::packedName(part));
         else
             for (int packed : alike)
                 marks.mark(packed, packed);

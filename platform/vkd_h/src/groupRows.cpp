@@ -1,8 +1,9 @@
 #include "groupRows.h"
 
-#include "packedNames.h"
+#include "shownName.h"
 
 #include <vkd_dbo_groups.h>
+#include <vkd_dbo_packedNames.h>
 
 #include <QCoreApplication>
 
@@ -67,19 +68,19 @@ int elementCount(const GroupContents& contents)
 
 bool isOfKind(VKD_H_GroupKind kind, int group)
 {
-    return kind == VKD_H_GroupKind::Secondary ? group >= FirstPackedName
-                                              : group >= 0 && group < FirstPackedName;
+    return kind == VKD_H_GroupKind::Secondary ? group >= dbo::FirstPackedName
+                                              : group >= 0 && group < dbo::FirstPackedName;
 }
 
 QString nameOf(VKD_H_GroupKind kind, int group)
 {
-    return kind == VKD_H_GroupKind::Secondary ? unpackedName(group) : QString::number(group);
+    return kind == VKD_H_GroupKind::Secondary ? shownName(group) : QString::number(group);
 }
 
 GroupRow toRow(VKD_H_GroupKind kind, const GroupSummary& summary)
 {
     GroupRow row;
-    row.group = kind == VKD_H_GroupKind::Secondary ? packedName(summary.name) : summary.number;
+    row.group = kind == VKD_H_GroupKind::Secondary ? dbo::packedName(summary.name) : summary.number;
     row.name = nameOf(kind, row.group);
     row.title = summary.title;
     row.contents = contentsText(summary.contents);

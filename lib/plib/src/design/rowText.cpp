@@ -4,6 +4,7 @@
 #include "designRecord.h"
 
 #include <VKD_A_BarDiameterData.h>
+#include <vkd_dbo_packedNames.h>
 #include <VKD_H_UnitLabel.h>
 #include <vkd_h_units.h>
 
@@ -18,7 +19,6 @@ namespace {
 using R = tagZOB_QUAD_RIM;
 using FieldList = QVarLengthArray<RealField, 6>;
 
-constexpr int FirstPackedName = 1000000;
 constexpr int BarCode = 1023;
 
 /// What a column shows for a type: the fields of its two lines, and whether a separator closes the
@@ -119,21 +119,8 @@ QString typeText(int type)
 
 QString groupText(int group)
 {
-    if (group < FirstPackedName)
-        return QString::number(group);
-    QByteArray name;
-    for (quint32 rest = quint32(group); rest & 0xff; rest >>= 8)
-        name += char(rest & 0xff);
-    return QString::fromLatin1(name).trimmed();
-}
-
-int packedGroupName(const QString& name)
-{
-    const QByteArray bytes = name.toLatin1().leftJustified(4, ' ', true);
-    quint32 packed = 0;
-    for (int i = 3; i >= 0; --i)
-        packed = packed << 8 | quint8(bytes[i]);
-    return int(packed);
+    return group < vkd::dbo::FirstPackedName ? QString::number(group)
+                                             : vkd::dbo::unpackedName(group);
 }
 
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit)

@@ -25,11 +25,7 @@ QString rowText(const DesignParameterRow& row, int column);
 /// number in the user's unit with `unit` right behind.
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit);
 
-/// A group number as text; from 1000000 the name that is packed into it.
+/// A group number as text; that of a secondary group is its name.
 QString groupText(int group);
-
-/// The number for a name of one to four characters of ASCII, padded with blanks; it is above
-/// 1000000 for every such name.
-int packedGroupName(const QString& name);
 
 } // namespace plib

@@ -1,9 +1,9 @@
-#include "packedNames.h"
+#include "vkd_dbo_packedNames.h"
 
 #include <QtEndian>
 
 namespace vkd {
-namespace h {
+namespace dbo {
 
 int packedName(const QString& name)
 {
@@ -16,12 +16,8 @@ QString unpackedName(int packed)
     QString name;
     for (quint32 rest = quint32(packed); rest & 0xff; rest >>= 8)
         name += QChar(rest & 0xff);
-    name = name.trimmed();
-    for (QChar& character : name)
-        if (!character.isPrint())
-            character = QLatin1Char('?');
-    return name;
+    return name.trimmed();
 }
 
-} // namespace h
+} // namespace dbo
 } // namespace vkd
