@@ -5,17 +5,6 @@
 #include <vkd_lib_text.h>
 #include <vkd_lib_value.h>
 
-class TestCaptionText : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void caption_data();
-    void caption();
-    void keyText_data();
-    void keyText();
-};
-
 /// Every text names its own token, so that a caption shows which tokens it was made of.
 static QByteArray allTokens()
 {
@@ -32,97 +21,103 @@ static QByteArray allTokens()
     return file;
 }
 
-void TestCaptionText::caption_data()
+class TestCaptionText : public QObject
 {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* field, const char* expected) {
-        QTest::newRow(field) << QString::fromUtf8(field) << QString::fromUtf8(expected);
-    };
-    row("&ABC", " Base");
-    row("^ABC", " Base one");
-    row("$ABC", " Base four");
-    row("&ABC and more", " Base");
-    row("&\xC3\x84"
-        "BC",
-        " Umlaut"); // keys are Latin-1
-    row("&GTX", " long>more");
-    row("&GT0", " >front");         // a mark in the first place parts nothing
-    row("&BLK", "   ");             // blanks are a text
-    row("&XXX", "");                // a token without a text: empty, not null
-    row("1 A&ABC", "25Ce  Base I"); // two blanks behind a text that is put before
-    row(" - &ABC", " Base");
-    row("1 -&XXX", " I"); // a suffix stands even where the base text is missing
-    row("__C&ABC", "27We  Base");
-    row("__D&ABC", "271e  Base");
-    row("__I&ABC", "20Ae  Base");
-    row("__R&ABC", "27Qe  Base");
-    row("__S&ABC", "27Ee  Base");
-    row("2__&ABC", " Base II");
-    row("3__&ABC", " Base III");
-    row("A__&ABC", " Base 0ZHe");
-    row("C__&ABC", " Base 0ZHe");
-    row("O__&ABC", " Base 19Oe");
-    row("S__&ABC", " Base 1LNe");
-    row("T__&ABC", " Base 1LTe");
-    row("U__&ABC", " Base 19Ue");
-    row("V__&ABC", " Base 0Z1e");
-    row("Y__&ABC", " Base 0ZGe Y");
-    row("b__&ABC", " Base 0ZMe b");
-    row("s__&ABC", " Base 1LAe");
-    row("t__&ABC", " Base 1LBe");
-    row("z__&ABC", " Base 0ZLe z");
-    row("_+_&ABC", " Base 143e 1 + 2");
-    row("_1_&ABC", " Base 143e 1");
-    row("_2_&ABC", " Base 143e 2");
-    row("_h_&ABC", " Base 7ZHe");
-    row("_s_&ABC", " Base 7ZTe");
-    row("_t_&ABC", " Base 7ZTe");
-    row("Oh1&ABC", " Base 19Oe 7ZHe");
-    row("X2R^ABC", "27Qe  Base one 0ZGe X 143e 2"); // third, base, first, second
-    QTest::newRow("identifier") << QStringLiteral("@ND1 Nodes") << QString();
-    QTest::newRow("identifier behind qualifiers") << QStringLiteral("@bc@ND1 x") << QString();
-}
+    Q_OBJECT
 
-void TestCaptionText::caption()
-{
-    const testsupport::Texts texts(allTokens());
-    vkd_lib_opentext("grav");
-    vkd_lib_setvalue(102, 1);
-    QFETCH(QString, field);
-    QFETCH(QString, expected);
-    const QString english = plib::captionText(field);
-    QCOMPARE(english, expected);
-    QCOMPARE(english.isNull(), expected.isNull());
-    vkd_lib_setvalue(102, 0);
-    if (expected.contains(QLatin1String("Base")))
-        QVERIFY(plib::captionText(field).contains(QLatin1String("Grund")));
-}
+private Q_SLOTS:
+    void caption_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* field, const char* expected) {
+            QTest::newRow(field) << QString::fromUtf8(field) << QString::fromUtf8(expected);
+        };
+        row("&ABC", " Base");
+        row("^ABC", " Base one");
+        row("$ABC", " Base four");
+        row("&ABC and more", " Base");
+        row("&\xC3\x84"
+            "BC",
+            " Umlaut"); // keys are Latin-1
+        row("&GTX", " long>more");
+        row("&GT0", " >front");         // a mark in the first place parts nothing
+        row("&BLK", "   ");             // blanks are a text
+        row("&XXX", "");                // a token without a text: empty, not null
+        row("1 A&ABC", "25Ce  Base I"); // two blanks behind a text that is put before
+        row(" - &ABC", " Base");
+        row("1 -&XXX", " I"); // a suffix stands even where the base text is missing
+        row("__C&ABC", "27We  Base");
+        row("__D&ABC", "271e  Base");
+        row("__I&ABC", "20Ae  Base");
+        row("__R&ABC", "27Qe  Base");
+        row("__S&ABC", "27Ee  Base");
+        row("2__&ABC", " Base II");
+        row("3__&ABC", " Base III");
+        row("A__&ABC", " Base 0ZHe");
+        row("C__&ABC", " Base 0ZHe");
+        row("O__&ABC", " Base 19Oe");
+        row("S__&ABC", " Base 1LNe");
+        row("T__&ABC", " Base 1LTe");
+        row("U__&ABC", " Base 19Ue");
+        row("V__&ABC", " Base 0Z1e");
+        row("Y__&ABC", " Base 0ZGe Y");
+        row("b__&ABC", " Base 0ZMe b");
+        row("s__&ABC", " Base 1LAe");
+        row("t__&ABC", " Base 1LBe");
+        row("z__&ABC", " Base 0ZLe z");
+        row("_+_&ABC", " Base 143e 1 + 2");
+        row("_1_&ABC", " Base 143e 1");
+        row("_2_&ABC", " Base 143e 2");
+        row("_h_&ABC", " Base 7ZHe");
+        row("_s_&ABC", " Base 7ZTe");
+        row("_t_&ABC", " Base 7ZTe");
+        row("Oh1&ABC", " Base 19Oe 7ZHe");
+        row("X2R^ABC", "27Qe  Base one 0ZGe X 143e 2"); // third, base, first, second
+        QTest::newRow("identifier") << QStringLiteral("@ND1 Nodes") << QString();
+        QTest::newRow("identifier behind qualifiers") << QStringLiteral("@bc@ND1 x") << QString();
+    }
 
-void TestCaptionText::keyText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("expected");
-    const auto row = [](const char* text, bool expected) {
-        QTest::newRow(text) << QString::fromLatin1(text) << expected;
-    };
-    row("", false);
-    row("&AB", false);
-    row("&ABC", true);
-    row("@ND1", true);
-    row("abc", false);
-    row("1 A&ABC", true);
-    row("1 A&AB", false);   // six characters
-    row("1 A@ABCD", false); // an "@" counts in the first place only
-    row("plain text", false);
-}
+    void caption()
+    {
+        const testsupport::Texts texts(allTokens());
+        vkd_lib_opentext("grav");
+        vkd_lib_setvalue(102, 1);
+        QFETCH(QString, field);
+        QFETCH(QString, expected);
+        const QString english = plib::captionText(field);
+        QCOMPARE(english, expected);
+        QCOMPARE(english.isNull(), expected.isNull());
+        vkd_lib_setvalue(102, 0);
+        if (expected.contains(QLatin1String("Base")))
+            QVERIFY(plib::captionText(field).contains(QLatin1String("Grund")));
+    }
 
-void TestCaptionText::keyText()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, expected);
-    QCOMPARE(plib::isKeyText(text), expected);
-}
+    void keyText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("expected");
+        const auto row = [](const char* text, bool expected) {
+            QTest::newRow(text) << QString::fromLatin1(text) << expected;
+        };
+        row("", false);
+        row("&AB", false);
+        row("&ABC", true);
+        row("@ND1", true);
+        row("abc", false);
+        row("1 A&ABC", true);
+        row("1 A&AB", false);   // six characters
+        row("1 A@ABCD", false); // an "@" counts in the first place only
+        row("plain text", false);
+    }
+
+    void keyText()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, expected);
+        QCOMPARE(plib::isKeyText(text), expected);
+    }
+};
 
 PLIB_TEST_MAIN(TestCaptionText)
 #include "tst_captionText.moc"

@@ -6,114 +6,6 @@
 using plib::OutputNode;
 using testsupport::line;
 
-class TestOutputTree : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void tree_data();
-    void tree();
-    void itemsHoldWhatTheScriptNeeds();
-    void recordsWithoutScriptLeaveNothing();
-    void statesAreThoseOfSingleSteps();
-    void clickSettlesAncestors();
-};
-
-void TestOutputTree::tree_data()
-{
-    QTest::addColumn<QByteArray>("catalogue");
-    QTest::addColumn<int>("rowCount");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const QByteArray& catalogue, int rowCount,
-                        const char* expected) {
-        QTest::newRow(name) << catalogue << rowCount << QString::fromLatin1(expected);
-    };
-    row("captions are shared",
-        line("A|B|C", " ", 0, 0, "g", "e") + line("A|B|D", " ", 0, 0, "g", "e"), 0,
-        "[x] A\n  [x] B\n    [x] C\n    [x] D\n");
-    row("order of first appearance",
-        line("B|b|1", " ", 0, 0, "g", "e") + line("A|a|2", "last", 0, 0, "g", "e") +
-            line("B|c|3", "last", 0, 0, "g", "e"),
-        0, "[-] B\n  [x] b\n    [x] 1\n  [ ] c\n    [ ] 3\n[ ] A\n  [ ] a\n    [ ] 2\n");
-    row("the same three captions are two plots",
-        line("A|B|C", "last", 0, 0, "g", "e") + line("A|B|C", " ", 0, 0, "g", "e"), 0,
-        "[-] A\n  [-] B\n    [ ] C\n    [x] C\n");
-    row("a plot called as its parent is used again",
-        line("A|B|B", "last-l", 1, 0, "g", "e") + line("A|B|C", "sngl-l", 0, 0, "g", "e"), 2,
-        "[-] A\n  [-] B\n    [-] B\n      [x] 1 : a\n      [ ] 2 : b\n      [ ] 1 : a\n"
-        "      [ ] 2 : b\n");
-    row("used again it checks the rows it has",
-        line("A|B|B", "last-l", 0, 0, "g", "e") + line("A|B|C", " ", 0, 0, "g", "e"), 2,
-        "[x] A\n  [x] B\n    [x] B\n      [x] 1 : a\n      [x] 2 : b\n");
-    row("a new row counts as a change",
-        line("A|B|B", " ", 0, 0, "g", "e") + line("A|B|C", "last-l", 0, 0, "g", "e"), 1,
-        "[ ] A\n  [ ] B\n    [ ] B\n      [ ] 1 : a\n");
-    row("preselect 1", line("A|B|C", "last-l", 1, 0, "g", "e"), 3,
-        "[-] A\n  [-] B\n    [-] C\n      [x] 1 : a\n      [ ] 2 : b\n      [ ] 3 : c\n");
-    row("preselect 2", line("A|B|C", "last-c", 2, 0, "g", "e"), 2,
-        "[x] A\n  [x] B\n    [x] C\n      [x] 1 : a\n      [x] 2 : b\n");
-    row("preselect 3", line("A|B|C", "desi-c", 3, 0, "g", "e"), 1,
-        "[x] A\n  [x] B\n    [x] C\n      [x] 1 : a\n");
-    row("preselect 4", line("A|B|C", "last-l", 4, 0, "g", "e"), 1,
-        "[ ] A\n  [ ] B\n    [ ] C\n      [ ] 1 : a\n");
-    row("no row of the kind, no class, no rows",
-        line("A|B|C", "last-e", 2, 0, "g", "e") + line("A|B|D", "last", 2, 0, "g", "e"), 1,
-        "[ ] A\n  [ ] B\n    [ ] C\n    [ ] D\n");
-}
-
-void TestOutputTree::tree()
-{
-    QFETCH(QByteArray, catalogue);
-    QFETCH(int, rowCount);
-    QFETCH(QString, expected);
-    OutputNode root;
-    testsupport::build(&root, testsupport::parse(catalogue), testsupport::rows(rowCount));
-    QCOMPARE(testsupport::treeText(&root), expected);
-}
-
-void TestOutputTree::itemsHoldWhatTheScriptNeeds()
-{
-    const auto records = testsupport::parse(line("A|B|B", "desi-e", 0, 0, "g1", "e1") +
-                                            line("A|B|C", "last-l", 0, 0, "g2", "e2"));
-    OutputNode root;
-    testsupport::build(&root, records,
-                       {{1, 4, QStringLiteral("four")}, {2, 9, QStringLiteral("nine")}});
-    const OutputNode* top = root.child(0);
-    const OutputNode* plot = top->child(0)->child(0);
-    QVERIFY(top->isExpanded() && top->child(0)->isExpanded() && !plot->isExpanded());
-    QCOMPARE(top->isLC, -1);
-    QCOMPARE(plot->isLC, -1);
-    QCOMPARE(plot->level, 2);
-    QCOMPARE(plot->childCount(), 2);
-    for (int i = 0; i < 2;
-         ++i) { // both rows hold the record of the plot, not of the line behind it
-        QCOMPARE(plot->child(i)->record.scriptEnglish, QStringLiteral("e1"));
-        QCOMPARE(plot->child(i)->isLC, 3);
-        QCOMPARE(plot->child(i)->level, 3);
-    }
-    QCOMPARE(plot->child(0)->number, 9);
-    QCOMPARE(plot->child(1)->number, 4);
-}
-
-void TestOutputTree::recordsWithoutScriptLeaveNothing()
-{
-    auto records = testsupport::parse(line("A|B|B", " ", 0, 0, "g", "e") +
-                                      line("A|B|C", "last-l", 0, 0, "g", "e"));
-    records[0].scriptGerman.clear();
-    records[0].scriptEnglish.clear();
-    OutputNode root;
-    testsupport::build(&root, records, testsupport::rows(1));
-    // The first plot is gone, so the second record makes one of its own.
-    QCOMPARE(testsupport::treeText(&root), QStringLiteral("[ ] A\n  [ ] B\n    [ ] C\n"
-                                                          "      [ ] 1 : a\n"));
-    OutputNode other;
-    records.resize(1);
-    records[0].title2.clear();
-    records[0].title3.clear();
-    testsupport::build(&other, records, {});
-    QCOMPARE(other.childCount(), 0);
-}
-
 /// The building told in single steps: linear searches, and after each new item or check state all
 /// ancestors brought up to date.
 class StepByStep
@@ -158,43 +50,144 @@ private:
     OutputNode* m_root;
 };
 
-void TestOutputTree::statesAreThoseOfSingleSteps()
+class TestOutputTree : public QObject
 {
-    std::mt19937 random(7);
-    const char* const names[] = {"a", "b", "c"};
-    const char* const words[] = {" ", "last", "last-l", "sngl-c", "desi-l"};
-    const auto name = [&] { return QByteArray(names[testsupport::below(random, 3)]); };
-    for (int round = 0; round < 500; ++round) {
-        QByteArray catalogue;
-        for (int i = testsupport::below(random, 12); i >= 0; --i)
-            catalogue +=
-                line(name() + '|' + name() + '|' + name(), words[testsupport::below(random, 5)],
-                     testsupport::below(random, 4), 0, "g", "e");
-        const auto records = testsupport::parse(catalogue);
-        const auto rows = testsupport::rows(testsupport::below(random, 4));
-        OutputNode built;
-        testsupport::build(&built, records, rows);
-        OutputNode reference;
-        StepByStep steps(&reference);
-        for (const auto& record : records)
-            steps.add(record, rows);
-        QCOMPARE(testsupport::treeText(&built), testsupport::treeText(&reference));
-    }
-}
+    Q_OBJECT
 
-void TestOutputTree::clickSettlesAncestors()
-{
-    OutputNode root;
-    testsupport::build(&root, testsupport::parse(line("A|B|C", "last-l", 0, 0, "g", "e")),
-                       testsupport::rows(2));
-    OutputNode* plot = root.child(0)->child(0)->child(0);
-    plib::setBranchState(plot->child(1), Qt::Checked);
-    QCOMPARE(testsupport::treeText(&root),
-             QStringLiteral("[-] A\n  [-] B\n    [-] C\n      [ ] 1 : a\n      [x] 2 : b\n"));
-    plib::setBranchState(root.child(0), Qt::Checked);
-    QCOMPARE(testsupport::treeText(&root),
-             QStringLiteral("[x] A\n  [x] B\n    [x] C\n      [x] 1 : a\n      [x] 2 : b\n"));
-}
+private Q_SLOTS:
+    void tree_data()
+    {
+        QTest::addColumn<QByteArray>("catalogue");
+        QTest::addColumn<int>("rowCount");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* name, const QByteArray& catalogue, int rowCount,
+                            const char* expected) {
+            QTest::newRow(name) << catalogue << rowCount << QString::fromLatin1(expected);
+        };
+        row("captions are shared",
+            line("A|B|C", " ", 0, 0, "g", "e") + line("A|B|D", " ", 0, 0, "g", "e"), 0,
+            "[x] A\n  [x] B\n    [x] C\n    [x] D\n");
+        row("order of first appearance",
+            line("B|b|1", " ", 0, 0, "g", "e") + line("A|a|2", "last", 0, 0, "g", "e") +
+                line("B|c|3", "last", 0, 0, "g", "e"),
+            0, "[-] B\n  [x] b\n    [x] 1\n  [ ] c\n    [ ] 3\n[ ] A\n  [ ] a\n    [ ] 2\n");
+        row("the same three captions are two plots",
+            line("A|B|C", "last", 0, 0, "g", "e") + line("A|B|C", " ", 0, 0, "g", "e"), 0,
+            "[-] A\n  [-] B\n    [ ] C\n    [x] C\n");
+        row("a plot called as its parent is used again",
+            line("A|B|B", "last-l", 1, 0, "g", "e") + line("A|B|C", "sngl-l", 0, 0, "g", "e"), 2,
+            "[-] A\n  [-] B\n    [-] B\n      [x] 1 : a\n      [ ] 2 : b\n      [ ] 1 : a\n"
+            "      [ ] 2 : b\n");
+        row("used again it checks the rows it has",
+            line("A|B|B", "last-l", 0, 0, "g", "e") + line("A|B|C", " ", 0, 0, "g", "e"), 2,
+            "[x] A\n  [x] B\n    [x] B\n      [x] 1 : a\n      [x] 2 : b\n");
+        row("a new row counts as a change",
+            line("A|B|B", " ", 0, 0, "g", "e") + line("A|B|C", "last-l", 0, 0, "g", "e"), 1,
+            "[ ] A\n  [ ] B\n    [ ] B\n      [ ] 1 : a\n");
+        row("preselect 1", line("A|B|C", "last-l", 1, 0, "g", "e"), 3,
+            "[-] A\n  [-] B\n    [-] C\n      [x] 1 : a\n      [ ] 2 : b\n      [ ] 3 : c\n");
+        row("preselect 2", line("A|B|C", "last-c", 2, 0, "g", "e"), 2,
+            "[x] A\n  [x] B\n    [x] C\n      [x] 1 : a\n      [x] 2 : b\n");
+        row("preselect 3", line("A|B|C", "desi-c", 3, 0, "g", "e"), 1,
+            "[x] A\n  [x] B\n    [x] C\n      [x] 1 : a\n");
+        row("preselect 4", line("A|B|C", "last-l", 4, 0, "g", "e"), 1,
+            "[ ] A\n  [ ] B\n    [ ] C\n      [ ] 1 : a\n");
+        row("no row of the kind, no class, no rows",
+            line("A|B|C", "last-e", 2, 0, "g", "e") + line("A|B|D", "last", 2, 0, "g", "e"), 1,
+            "[ ] A\n  [ ] B\n    [ ] C\n    [ ] D\n");
+    }
+
+    void tree()
+    {
+        QFETCH(QByteArray, catalogue);
+        QFETCH(int, rowCount);
+        QFETCH(QString, expected);
+        OutputNode root;
+        testsupport::build(&root, testsupport::parse(catalogue), testsupport::rows(rowCount));
+        QCOMPARE(testsupport::treeText(&root), expected);
+    }
+
+    void itemsHoldWhatTheScriptNeeds()
+    {
+        const auto records = testsupport::parse(line("A|B|B", "desi-e", 0, 0, "g1", "e1") +
+                                                line("A|B|C", "last-l", 0, 0, "g2", "e2"));
+        OutputNode root;
+        testsupport::build(&root, records,
+                           {{1, 4, QStringLiteral("four")}, {2, 9, QStringLiteral("nine")}});
+        const OutputNode* top = root.child(0);
+        const OutputNode* plot = top->child(0)->child(0);
+        QVERIFY(top->isExpanded() && top->child(0)->isExpanded() && !plot->isExpanded());
+        QCOMPARE(top->isLC, -1);
+        QCOMPARE(plot->isLC, -1);
+        QCOMPARE(plot->level, 2);
+        QCOMPARE(plot->childCount(), 2);
+        for (int i = 0; i < 2;
+             ++i) { // both rows hold the record of the plot, not of the line behind it
+            QCOMPARE(plot->child(i)->record.scriptEnglish, QStringLiteral("e1"));
+            QCOMPARE(plot->child(i)->isLC, 3);
+            QCOMPARE(plot->child(i)->level, 3);
+        }
+        QCOMPARE(plot->child(0)->number, 9);
+        QCOMPARE(plot->child(1)->number, 4);
+    }
+
+    void recordsWithoutScriptLeaveNothing()
+    {
+        auto records = testsupport::parse(line("A|B|B", " ", 0, 0, "g", "e") +
+                                          line("A|B|C", "last-l", 0, 0, "g", "e"));
+        records[0].scriptGerman.clear();
+        records[0].scriptEnglish.clear();
+        OutputNode root;
+        testsupport::build(&root, records, testsupport::rows(1));
+        // The first plot is gone, so the second record makes one of its own.
+        QCOMPARE(testsupport::treeText(&root), QStringLiteral("[ ] A\n  [ ] B\n    [ ] C\n"
+                                                              "      [ ] 1 : a\n"));
+        OutputNode other;
+        records.resize(1);
+        records[0].title2.clear();
+        records[0].title3.clear();
+        testsupport::build(&other, records, {});
+        QCOMPARE(other.childCount(), 0);
+    }
+
+    void statesAreThoseOfSingleSteps()
+    {
+        std::mt19937 random(7);
+        const char* const names[] = {"a", "b", "c"};
+        const char* const words[] = {" ", "last", "last-l", "sngl-c", "desi-l"};
+        const auto name = [&] { return QByteArray(names[testsupport::below(random, 3)]); };
+        for (int round = 0; round < 500; ++round) {
+            QByteArray catalogue;
+            for (int i = testsupport::below(random, 12); i >= 0; --i)
+                catalogue +=
+                    line(name() + '|' + name() + '|' + name(), words[testsupport::below(random, 5)],
+                         testsupport::below(random, 4), 0, "g", "e");
+            const auto records = testsupport::parse(catalogue);
+            const auto rows = testsupport::rows(testsupport::below(random, 4));
+            OutputNode built;
+            testsupport::build(&built, records, rows);
+            OutputNode reference;
+            StepByStep steps(&reference);
+            for (const auto& record : records)
+                steps.add(record, rows);
+            QCOMPARE(testsupport::treeText(&built), testsupport::treeText(&reference));
+        }
+    }
+
+    void clickSettlesAncestors()
+    {
+        OutputNode root;
+        testsupport::build(&root, testsupport::parse(line("A|B|C", "last-l", 0, 0, "g", "e")),
+                           testsupport::rows(2));
+        OutputNode* plot = root.child(0)->child(0)->child(0);
+        plib::setBranchState(plot->child(1), Qt::Checked);
+        QCOMPARE(testsupport::treeText(&root),
+                 QStringLiteral("[-] A\n  [-] B\n    [-] C\n      [ ] 1 : a\n      [x] 2 : b\n"));
+        plib::setBranchState(root.child(0), Qt::Checked);
+        QCOMPARE(testsupport::treeText(&root),
+                 QStringLiteral("[x] A\n  [x] B\n    [x] C\n      [x] 1 : a\n      [x] 2 : b\n"));
+    }
+};
 
 PLIB_TEST_MAIN(TestOutputTree)
 #include "tst_outputTree.moc"

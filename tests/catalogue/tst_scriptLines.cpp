@@ -7,22 +7,6 @@
 using plib::OutputNode;
 using testsupport::line;
 
-class TestScriptLines : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void lines_data();
-    void lines();
-    void german();
-    void splitPage();
-    void treesWithoutItems();
-    void secondNumber_data();
-    void secondNumber();
-    void rowLabel_data();
-    void rowLabel();
-};
-
 Q_DECLARE_METATYPE(testsupport::Rows)
 
 static QString script(OutputNode* root, bool english, int progname, int kind)
@@ -36,144 +20,151 @@ static QString script(OutputNode* root, bool english, int progname, int kind)
     return count == int(lines.size()) ? text : QStringLiteral("wrong count");
 }
 
-void TestScriptLines::lines_data()
+class TestScriptLines : public QObject
 {
-    QTest::addColumn<QByteArray>("catalogue");
-    QTest::addColumn<testsupport::Rows>("rows");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const QByteArray& catalogue,
-                        const testsupport::Rows& rows, int kind, const char* expected) {
-        QTest::newRow(name) << catalogue << rows << kind << QString::fromLatin1(expected);
-    };
-    const auto alone = [](int view, const char* text) {
-        return line("A|B|C", " ", 0, view, "g", text);
-    };
-    const auto bound = [](const char* text) { return line("A|B|C", "last-l", 2, 0, "g", text); };
-    const auto labels = [](std::initializer_list<std::pair<int, const char*>> list) {
-        testsupport::Rows rows;
-        for (const auto& label : list)
-            rows.push_back({1, label.first, QString::fromLatin1(label.second)});
-        return rows;
-    };
-    row("alone", alone(0, "e"), {}, 0, "e\n");
-    row("view by kind of system, spatial", alone(1, "e"), {}, 0, "VIEW EG3\ne\n");
-    row("view by kind of system, 9 is not 0", alone(1, "e"), {}, 9, "VIEW EGX\ne\n");
-    row("views", alone(2, "a") + alone(2, "b") + alone(3, "c") + alone(9, "d") + alone(0, "e"), {},
-        0, "VIEW EGX\na\nb\nVIEW EG3\nc\nVIEW \nd\ne\n");
-    row("cases", bound("e"), testsupport::rows(2), 0, "LC 1 DESI 1\ne\nLC 2 DESI 2\ne\n");
-    row("a case in a row is set once", bound("a") + bound("b"), testsupport::rows(1), 0,
-        "LC 1 DESI 1\na\nb\n");
-    row("case 0 and negative ones", bound("e") + alone(2, "x") + bound("f"),
-        labels({{0, "0 : a"}, {-4, "-4 : b"}}), 0, "e\nVIEW EGX\nx\nVIEW \nf\n");
-    row("double picture", bound("e") + bound("f"), labels({{7, "7+9: text"}, {9, "9 : text"}}), 0,
-        "LC 7 DESI 7\nCOLO C14 -1 ; e ; AND \nLC 9 DESI 9\n"
-        "COLO STAN ; COLO C13 -1 ; e UNIT LAST ; COLO STAN\ne\n"
-        "LC 7 DESI 7\nCOLO C14 -1 ; f ; AND \nLC 9 DESI 9\n"
-        "COLO STAN ; COLO C13 -1 ; f UNIT LAST ; COLO STAN\nf\n");
-    row("the unit is that of the first plot below the caption, not the plot's own",
-        line("A|B|X", "last-l", 0, 0, "g", "UNIT 1") + bound("e") +
-            line("A|D|C", "last-l", 2, 0, "g", "UNIT"),
-        labels({{7, "7+9: text"}}), 0,
-        "LC 7 DESI 7\nCOLO C14 -1 ; e ; AND \nLC 9 DESI 9\n"
-        "COLO STAN ; COLO C13 -1 ; e ; COLO STAN\n"
-        "LC 7 DESI 7\nCOLO C14 -1 ; UNIT ; AND \nLC 9 DESI 9\n"
-        "COLO STAN ; COLO C13 -1 ; UNIT ; COLO STAN\n");
-    row("a plot with rows that stands alone too follows its rows",
-        line("A|B|B", "last-l", 2, 0, "g", "e") + line("A|B|C", " ", 0, 0, "g", "f"),
-        testsupport::rows(1), 0, "LC 1 DESI 1\ne\ne\n");
-}
+    Q_OBJECT
 
-void TestScriptLines::lines()
-{
-    QFETCH(QByteArray, catalogue);
-    QFETCH(testsupport::Rows, rows);
-    QFETCH(int, kind);
-    QFETCH(QString, expected);
-    OutputNode root;
-    testsupport::build(&root, testsupport::parse(catalogue), rows);
-    QCOMPARE(script(&root, true, 1, kind), expected);
-    QCOMPARE(script(&root, true, 222, kind), expected);
-}
+private Q_SLOTS:
+    void lines_data()
+    {
+        QTest::addColumn<QByteArray>("catalogue");
+        QTest::addColumn<testsupport::Rows>("rows");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* name, const QByteArray& catalogue,
+                            const testsupport::Rows& rows, int kind, const char* expected) {
+            QTest::newRow(name) << catalogue << rows << kind << QString::fromLatin1(expected);
+        };
+        const auto alone = [](int view, const char* text) {
+            return line("A|B|C", " ", 0, view, "g", text);
+        };
+        const auto bound = [](const char* text) {
+            return line("A|B|C", "last-l", 2, 0, "g", text);
+        };
+        const auto labels = [](std::initializer_list<std::pair<int, const char*>> list) {
+            testsupport::Rows rows;
+            for (const auto& label : list)
+                rows.push_back({1, label.first, QString::fromLatin1(label.second)});
+            return rows;
+        };
+        row("alone", alone(0, "e"), {}, 0, "e\n");
+        row("view by kind of system, spatial", alone(1, "e"), {}, 0, "VIEW EG3\ne\n");
+        row("view by kind of system, 9 is not 0", alone(1, "e"), {}, 9, "VIEW EGX\ne\n");
+        row("views", alone(2, "a") + alone(2, "b") + alone(3, "c") + alone(9, "d") + alone(0, "e"),
+            {}, 0, "VIEW EGX\na\nb\nVIEW EG3\nc\nVIEW \nd\ne\n");
+        row("cases", bound("e"), testsupport::rows(2), 0, "LC 1 DESI 1\ne\nLC 2 DESI 2\ne\n");
+        row("a case in a row is set once", bound("a") + bound("b"), testsupport::rows(1), 0,
+            "LC 1 DESI 1\na\nb\n");
+        row("case 0 and negative ones", bound("e") + alone(2, "x") + bound("f"),
+            labels({{0, "0 : a"}, {-4, "-4 : b"}}), 0, "e\nVIEW EGX\nx\nVIEW \nf\n");
+        row("double picture", bound("e") + bound("f"), labels({{7, "7+9: text"}, {9, "9 : text"}}),
+            0,
+            "LC 7 DESI 7\nCOLO C14 -1 ; e ; AND \nLC 9 DESI 9\n"
+            "COLO STAN ; COLO C13 -1 ; e UNIT LAST ; COLO STAN\ne\n"
+            "LC 7 DESI 7\nCOLO C14 -1 ; f ; AND \nLC 9 DESI 9\n"
+            "COLO STAN ; COLO C13 -1 ; f UNIT LAST ; COLO STAN\nf\n");
+        row("the unit is that of the first plot below the caption, not the plot's own",
+            line("A|B|X", "last-l", 0, 0, "g", "UNIT 1") + bound("e") +
+                line("A|D|C", "last-l", 2, 0, "g", "UNIT"),
+            labels({{7, "7+9: text"}}), 0,
+            "LC 7 DESI 7\nCOLO C14 -1 ; e ; AND \nLC 9 DESI 9\n"
+            "COLO STAN ; COLO C13 -1 ; e ; COLO STAN\n"
+            "LC 7 DESI 7\nCOLO C14 -1 ; UNIT ; AND \nLC 9 DESI 9\n"
+            "COLO STAN ; COLO C13 -1 ; UNIT ; COLO STAN\n");
+        row("a plot with rows that stands alone too follows its rows",
+            line("A|B|B", "last-l", 2, 0, "g", "e") + line("A|B|C", " ", 0, 0, "g", "f"),
+            testsupport::rows(1), 0, "LC 1 DESI 1\ne\ne\n");
+    }
 
-void TestScriptLines::german()
-{
-    OutputNode root;
-    testsupport::build(&root, testsupport::parse(line("A|B|C", "last-l", 2, 1, "g", "UNIT")),
-                       {{1, 7, QStringLiteral("7+9: text")}});
-    QCOMPARE(script(&root, false, 1, 0),
-             QStringLiteral("BEOB EG3\nLF 7 BEME 7\nFARB F14 -1 ; g ; UND \nLF 9 BEME 9\n"
-                            "FARB STAN ; FARB F13 -1 ; g UNIT LAST ; FARB STAN\n"));
-}
+    void lines()
+    {
+        QFETCH(QByteArray, catalogue);
+        QFETCH(testsupport::Rows, rows);
+        QFETCH(int, kind);
+        QFETCH(QString, expected);
+        OutputNode root;
+        testsupport::build(&root, testsupport::parse(catalogue), rows);
+        QCOMPARE(script(&root, true, 1, kind), expected);
+        QCOMPARE(script(&root, true, 222, kind), expected);
+    }
 
-void TestScriptLines::splitPage()
-{
-    OutputNode root;
-    testsupport::build(
-        &root, testsupport::parse(line("A|B|C", "last-l", 2, 0, "g", "a $(LFNR) $(LFNR) $(lfnr)")),
-        {{1, 12, QStringLiteral("12+14: x")}, {1, 2147483647, QStringLiteral("y")}});
-    QCOMPARE(script(&root, true, 122, 0),
-             QStringLiteral("a 1000012 1000012 $(lfnr)\na 2148483647 2148483647 $(lfnr)\n"));
-}
+    void german()
+    {
+        OutputNode root;
+        testsupport::build(&root, testsupport::parse(line("A|B|C", "last-l", 2, 1, "g", "UNIT")),
+                           {{1, 7, QStringLiteral("7+9: text")}});
+        QCOMPARE(script(&root, false, 1, 0),
+                 QStringLiteral("BEOB EG3\nLF 7 BEME 7\nFARB F14 -1 ; g ; UND \nLF 9 BEME 9\n"
+                                "FARB STAN ; FARB F13 -1 ; g UNIT LAST ; FARB STAN\n"));
+    }
 
-void TestScriptLines::treesWithoutItems()
-{
-    OutputNode root;
-    QCOMPARE(script(&root, true, 1, 0), QString());
-    root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
-    QCOMPARE(script(&root, true, 1, 0), QString());
-}
+    void splitPage()
+    {
+        OutputNode root;
+        testsupport::build(
+            &root,
+            testsupport::parse(line("A|B|C", "last-l", 2, 0, "g", "a $(LFNR) $(LFNR) $(lfnr)")),
+            {{1, 12, QStringLiteral("12+14: x")}, {1, 2147483647, QStringLiteral("y")}});
+        QCOMPARE(script(&root, true, 122, 0),
+                 QStringLiteral("a 1000012 1000012 $(lfnr)\na 2148483647 2148483647 $(lfnr)\n"));
+    }
 
-void TestScriptLines::secondNumber_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<int>("expected");
-    const auto row = [](const char* label, int expected) {
-        QTest::newRow(label) << QString::fromLatin1(label) << expected;
-    };
-    row("", -1);
-    row("12 : Wind", -1);
-    row("12+14: Wind", 14);
-    row("12 + 14 : Wind", 14);
-    row("12 : a+14", -1);
-    row("1+2", 2);
-    row("12+345", 34); // without a colon five characters count
-    row("1+2+3:", -1);
-    row("1+:", -1);
-    row("1+x:", -1);
-    row("1+-5:", -5);
-    row("1e+06 : x", 6); // the label of a million
-    row("1e+06 ", 6);
-    row("+7", 7);
-}
+    void treesWithoutItems()
+    {
+        OutputNode root;
+        QCOMPARE(script(&root, true, 1, 0), QString());
+        root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
+        QCOMPARE(script(&root, true, 1, 0), QString());
+    }
 
-void TestScriptLines::secondNumber()
-{
-    QFETCH(QString, label);
-    QFETCH(int, expected);
-    QCOMPARE(plib::secondNumber(label), expected);
-}
+    void secondNumber_data()
+    {
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<int>("expected");
+        const auto row = [](const char* label, int expected) {
+            QTest::newRow(label) << QString::fromLatin1(label) << expected;
+        };
+        row("", -1);
+        row("12 : Wind", -1);
+        row("12+14: Wind", 14);
+        row("12 + 14 : Wind", 14);
+        row("12 : a+14", -1);
+        row("1+2", 2);
+        row("12+345", 34); // without a colon five characters count
+        row("1+2+3:", -1);
+        row("1+:", -1);
+        row("1+x:", -1);
+        row("1+-5:", -5);
+        row("1e+06 : x", 6); // the label of a million
+        row("1e+06 ", 6);
+        row("+7", 7);
+    }
 
-void TestScriptLines::rowLabel_data()
-{
-    QTest::addColumn<double>("number");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("title") << 12.0 << QStringLiteral("Dead load")
-                           << QStringLiteral("12 : Dead load");
-    QTest::newRow("no title") << 3.9 << QString() << QStringLiteral("3.9 ");
-    QTest::newRow("blanks are a title") << 1.0 << QStringLiteral(" ") << QStringLiteral("1 :  ");
-    QTest::newRow("million") << 1e6 << QString() << QStringLiteral("1e+06 ");
-    QTest::newRow("six digits") << 123456789.0 << QString() << QStringLiteral("1.23457e+08 ");
-}
+    void secondNumber()
+    {
+        QFETCH(QString, label);
+        QFETCH(int, expected);
+        QCOMPARE(plib::secondNumber(label), expected);
+    }
 
-void TestScriptLines::rowLabel()
-{
-    QFETCH(double, number);
-    QFETCH(QString, title);
-    QFETCH(QString, expected);
-    QCOMPARE(plib::rowLabel(number, title), expected);
-}
+    void rowLabel_data()
+    {
+        const Columns<double, QString, QString> row("number", "title", "expected");
+        row("title", 12.0, "Dead load", "12 : Dead load");
+        row("no title", 3.9, {}, "3.9 ");
+        row("blanks are a title", 1.0, " ", "1 :  ");
+        row("million", 1e6, {}, "1e+06 ");
+        row("six digits", 123456789.0, {}, "1.23457e+08 ");
+    }
+
+    void rowLabel()
+    {
+        QFETCH(double, number);
+        QFETCH(QString, title);
+        QFETCH(QString, expected);
+        QCOMPARE(plib::rowLabel(number, title), expected);
+    }
+};
 
 PLIB_TEST_MAIN(TestScriptLines)
 #include "tst_scriptLines.moc"

@@ -6,20 +6,6 @@
 using plib::OutputNode;
 using testsupport::line;
 
-class TestSelectionText : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void storesAndRestores();
-    void apply_data();
-    void apply();
-    void emptyTextLeavesTheTree();
-    void itemsThatAreNoneOfOurs();
-    void statesAreThoseOfSingleSteps();
-    void numbersAreReadAsQtDoes();
-};
-
 /// Two plots with identifiers and three rows each, and two with plain captions.
 static QByteArray catalogue()
 {
@@ -42,128 +28,137 @@ static QString states(const OutputNode* parent)
     return word;
 }
 
-void TestSelectionText::storesAndRestores()
+class TestSelectionText : public QObject
 {
-    OutputNode root;
-    makeTree(&root);
-    OutputNode* plots = root.child(0)->child(0);
-    plib::setBranchState(plots->child(0)->child(0), Qt::Checked);
-    plib::setBranchState(plots->child(0)->child(2), Qt::Checked);
-    plib::setBranchState(plots->child(1), Qt::Checked);
-    plib::setBranchState(root.child(1)->child(0)->child(0), Qt::Unchecked);
-    const QString text = plib::selectionText(&root);
-    QCOMPARE(text,
-             QStringLiteral("\nPartially:@A__   @B__   @C__ : 1,3,\nChecked:@A__   @B__   @D__\n"
-                            "Unchecked:001    002    003\nChecked:001    002    003\n"));
-    OutputNode fresh;
-    makeTree(&fresh);
-    plib::applySelection(&fresh, text);
-    // Plain captions share an identifier, so that the last line meets the last plot alone.
-    QCOMPARE(states(&fresh), states(&root));
-    QCOMPARE(plib::selectionText(&fresh), text);
-}
+    Q_OBJECT
 
-void TestSelectionText::apply_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const char* text, const char* expected) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(expected);
-    };
-    // A, B, C and its rows, D and its rows, E, F, G, H
-    row("everything else is unchecked", "Checked:nothing like it", "...... .... ....");
-    row("top level", "Checked:@A__", "xxxxxx xxxx ....");
-    row("later lines win", "Checked:@A__\nUnchecked:@A__   @B__   @D__", "--xxxx .... ....");
-    row("a caption over its plots", "Checked:@A__   @B__   @C__\nUnchecked:@A__   @B__",
-        "...... .... ....");
-    row("blanks around the identifier", "Checked:  @A__   @B__ ", "xxxxxx xxxx ....");
-    row("empty parts are dropped", ":Checked::@A__\n\n", "xxxxxx xxxx ....");
-    row("the last of equal identifiers", "Checked:001    002    003", "...... .... --.x");
-    row("rows by number", "Partially:@A__   @B__   @C__ : 2, 3 ,", "---.xx .... ....");
-    row("all rows by number", "Partially:@A__   @B__   @C__ : 3,2,1", "--xxxx .... ....");
-    row("a row that is not there", "Partially:@A__   @B__   @C__ : 7,", "...... .... ....");
-    row("no number is 0 and meets a plot", "Partially:@A__   @B__ : x", "--.... xxxx ....");
-    row("no third part", "Checked:@A__\nPartially:@A__   @B__", "xxxxxx xxxx ....");
-    row("partially unchecks what it does not name",
-        "Checked:@A__\nPartially:@A__   @B__   @C__ : 1,", "---x.. xxxx ....");
-    row("unknown words and short lines", "checked:@A__\nChecked\n:\nERROR CASE\nNo:@A__",
-        "...... .... ....");
-    row("a row's number behind the identifier is not read", "Checked:@A__:%2", "xxxxxx xxxx ....");
-}
+private Q_SLOTS:
+    void storesAndRestores()
+    {
+        OutputNode root;
+        makeTree(&root);
+        OutputNode* plots = root.child(0)->child(0);
+        plib::setBranchState(plots->child(0)->child(0), Qt::Checked);
+        plib::setBranchState(plots->child(0)->child(2), Qt::Checked);
+        plib::setBranchState(plots->child(1), Qt::Checked);
+        plib::setBranchState(root.child(1)->child(0)->child(0), Qt::Unchecked);
+        const QString text = plib::selectionText(&root);
+        QCOMPARE(text, QStringLiteral(
+                           "\nPartially:@A__   @B__   @C__ : 1,3,\nChecked:@A__   @B__   @D__\n"
+                           "Unchecked:001    002    003\nChecked:001    002    003\n"));
+        OutputNode fresh;
+        makeTree(&fresh);
+        plib::applySelection(&fresh, text);
+        // Plain captions share an identifier, so that the last line meets the last plot alone.
+        QCOMPARE(states(&fresh), states(&root));
+        QCOMPARE(plib::selectionText(&fresh), text);
+    }
 
-void TestSelectionText::apply()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, expected);
-    OutputNode root;
-    makeTree(&root);
-    plib::applySelection(&root, text);
-    QCOMPARE(states(&root), expected.remove(QLatin1Char(' ')));
-}
+    void apply_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* name, const char* text, const char* expected) {
+            QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(expected);
+        };
+        // A, B, C and its rows, D and its rows, E, F, G, H
+        row("everything else is unchecked", "Checked:nothing like it", "...... .... ....");
+        row("top level", "Checked:@A__", "xxxxxx xxxx ....");
+        row("later lines win", "Checked:@A__\nUnchecked:@A__   @B__   @D__", "--xxxx .... ....");
+        row("a caption over its plots", "Checked:@A__   @B__   @C__\nUnchecked:@A__   @B__",
+            "...... .... ....");
+        row("blanks around the identifier", "Checked:  @A__   @B__ ", "xxxxxx xxxx ....");
+        row("empty parts are dropped", ":Checked::@A__\n\n", "xxxxxx xxxx ....");
+        row("the last of equal identifiers", "Checked:001    002    003", "...... .... --.x");
+        row("rows by number", "Partially:@A__   @B__   @C__ : 2, 3 ,", "---.xx .... ....");
+        row("all rows by number", "Partially:@A__   @B__   @C__ : 3,2,1", "--xxxx .... ....");
+        row("a row that is not there", "Partially:@A__   @B__   @C__ : 7,", "...... .... ....");
+        row("no number is 0 and meets a plot", "Partially:@A__   @B__ : x", "--.... xxxx ....");
+        row("no third part", "Checked:@A__\nPartially:@A__   @B__", "xxxxxx xxxx ....");
+        row("partially unchecks what it does not name",
+            "Checked:@A__\nPartially:@A__   @B__   @C__ : 1,", "---x.. xxxx ....");
+        row("unknown words and short lines", "checked:@A__\nChecked\n:\nERROR CASE\nNo:@A__",
+            "...... .... ....");
+        row("a row's number behind the identifier is not read", "Checked:@A__:%2",
+            "xxxxxx xxxx ....");
+    }
 
-void TestSelectionText::emptyTextLeavesTheTree()
-{
-    OutputNode root;
-    makeTree(&root);
-    const QString before = states(&root);
-    plib::applySelection(&root, QString());
-    plib::applySelection(&root, QStringLiteral("\n\n"));
-    QCOMPARE(states(&root), before);
-}
+    void apply()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        OutputNode root;
+        makeTree(&root);
+        plib::applySelection(&root, text);
+        QCOMPARE(states(&root), expected.remove(QLatin1Char(' ')));
+    }
 
-void TestSelectionText::itemsThatAreNoneOfOurs()
-{
-    OutputNode root;
-    root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
-    root.child(0)->setCheckState(0, Qt::PartiallyChecked); // would be touched by a careless loop
-    plib::applySelection(&root, QStringLiteral("Checked:001"));
-    QCOMPARE(root.child(0)->checkState(0), Qt::PartiallyChecked);
-    QCOMPARE(plib::selectionText(&root), QStringLiteral("\n"));
+    void emptyTextLeavesTheTree()
+    {
+        OutputNode root;
+        makeTree(&root);
+        const QString before = states(&root);
+        plib::applySelection(&root, QString());
+        plib::applySelection(&root, QStringLiteral("\n\n"));
+        QCOMPARE(states(&root), before);
+    }
 
-    OutputNode leaves; // states and levels that no tree of ours has
-    OutputNode* row = leaves.addChild(QString());
-    row->record.id1 = QStringLiteral("   @ROW");
-    row->number = 5;
-    leaves.addChild(QString())->setCheckState(0, Qt::PartiallyChecked);
-    QCOMPARE(plib::selectionText(&leaves), QStringLiteral("\nUnchecked:@ROW:%2\nERROR CASE\n"));
-}
+    void itemsThatAreNoneOfOurs()
+    {
+        OutputNode root;
+        root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
+        root.child(0)->setCheckState(0,
+                                     Qt::PartiallyChecked); // would be touched by a careless loop
+        plib::applySelection(&root, QStringLiteral("Checked:001"));
+        QCOMPARE(root.child(0)->checkState(0), Qt::PartiallyChecked);
+        QCOMPARE(plib::selectionText(&root), QStringLiteral("\n"));
 
-void TestSelectionText::statesAreThoseOfSingleSteps()
-{
-    std::mt19937 random(99);
-    const char* const words[] = {"Checked:", "Unchecked:", "Partially:"};
-    const char* const ids[] = {"@A__", "@A__   @B__", "@A__   @B__   @C__", "@A__   @B__   @D__",
-                               "001",  "001    002",  "001    002    003"};
-    for (int round = 0; round < 1000; ++round) {
-        QString text;
-        for (int i = testsupport::below(random, 8); i >= 0; --i) {
-            text += QLatin1String(words[testsupport::below(random, 3)]) +
-                    QLatin1String(ids[testsupport::below(random, 7)]) + QLatin1String(" : ");
-            for (int n = testsupport::below(random, 4); n > 0; --n)
-                text += QString::number(testsupport::below(random, 5)) + QLatin1Char(',');
-            text += QLatin1Char('\n');
+        OutputNode leaves; // states and levels that no tree of ours has
+        OutputNode* row = leaves.addChild(QString());
+        row->record.id1 = QStringLiteral("   @ROW");
+        row->number = 5;
+        leaves.addChild(QString())->setCheckState(0, Qt::PartiallyChecked);
+        QCOMPARE(plib::selectionText(&leaves), QStringLiteral("\nUnchecked:@ROW:%2\nERROR CASE\n"));
+    }
+
+    void statesAreThoseOfSingleSteps()
+    {
+        std::mt19937 random(99);
+        const char* const words[] = {"Checked:", "Unchecked:", "Partially:"};
+        const char* const ids[] = {
+            "@A__", "@A__   @B__", "@A__   @B__   @C__", "@A__   @B__   @D__",
+            "001",  "001    002",  "001    002    003"};
+        for (int round = 0; round < 1000; ++round) {
+            QString text;
+            for (int i = testsupport::below(random, 8); i >= 0; --i) {
+                text += QLatin1String(words[testsupport::below(random, 3)]) +
+                        QLatin1String(ids[testsupport::below(random, 7)]) + QLatin1String(" : ");
+                for (int n = testsupport::below(random, 4); n > 0; --n)
+                    text += QString::number(testsupport::below(random, 5)) + QLatin1Char(',');
+                text += QLatin1Char('\n');
+            }
+            OutputNode atOnce;
+            makeTree(&atOnce);
+            plib::applySelection(&atOnce, text);
+            OutputNode stepwise;
+            makeTree(&stepwise);
+            testsupport::applyStepByStep(&stepwise, text);
+            QCOMPARE(states(&atOnce), states(&stepwise));
         }
-        OutputNode atOnce;
-        makeTree(&atOnce);
-        plib::applySelection(&atOnce, text);
-        OutputNode stepwise;
-        makeTree(&stepwise);
-        testsupport::applyStepByStep(&stepwise, text);
-        QCOMPARE(states(&atOnce), states(&stepwise));
     }
-}
 
-void TestSelectionText::numbersAreReadAsQtDoes()
-{
-    std::mt19937 random(5);
-    const QString characters = QStringLiteral("0123456789999 +-.ex\t\u00a0\u0663\u2212");
-    for (int round = 0; round < 20000; ++round) {
-        QString text;
-        for (int n = testsupport::below(random, 12); n > 0; --n)
-            text += characters[testsupport::below(random, round % 2 ? 10 : characters.size())];
-        QCOMPARE(plib::selectionNumber(QStringRef(&text)), text.toInt());
+    void numbersAreReadAsQtDoes()
+    {
+        std::mt19937 random(5);
+        const QString characters = QStringLiteral("0123456789999 +-.ex\t\u00a0\u0663\u2212");
+        for (int round = 0; round < 20000; ++round) {
+            QString text;
+            for (int n = testsupport::below(random, 12); n > 0; --n)
+                text += characters[testsupport::below(random, round % 2 ? 10 : characters.size())];
+            QCOMPARE(plib::selectionNumber(QStringRef(&text)), text.toInt());
+        }
     }
-}
+};
 
 PLIB_TEST_MAIN(TestSelectionText)
 #include "tst_selectionText.moc"

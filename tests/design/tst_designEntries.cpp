@@ -9,29 +9,10 @@
 
 #include <cstring>
 
-class TestDesignEntries : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void entryOfTheDefaults();
-    void parsing_data();
-    void parsing();
-    void whatAnEntryLoses();
-    void rowsWithoutGroupsGoThereAndComeBack();
-    void gapsInTheKeys();
-    void pageIsKeptInTheProject();
-};
-
 static const char Defaults[] =
     "1; | 0;1.5708;-99999;0;1.5708;-99999; | 0.035;0.045;0.045;0.035;0.045;0.045; | 0;0;0; | "
     "10;10;10;10;10;10; | -99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999;"
     "-99999;-99999; | 11;";
-
-void TestDesignEntries::entryOfTheDefaults()
-{
-    QCOMPARE(plib::entryText(plib::getDefaultMerPara(true)), QLatin1String(Defaults));
-}
 
 static QString summary(const tagZOB_QUAD_RIM& r)
 {
@@ -40,64 +21,6 @@ static QString summary(const tagZOB_QUAD_RIM& r)
          {r.rio, r.riui, r.hiui, r.zref, r.dio, r.diu, r.dioq, r.diui, r.wkui, r.sigo, r.sigui})
         texts << QString::number(double(value));
     return texts.join(QLatin1Char(' '));
-}
-
-void TestDesignEntries::parsing_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>(
-        "expected"); // type mark rio riui hiui zref dio diu dioq diui wkui sigo sigui
-    const auto row = [](const char* name, const char* text, const char* expected) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(expected);
-    };
-    row("whole",
-        "2; | 1;2;3;4;5;6; | 1;2;3;4;5;6; | 1;2;3; | 1;2;3;4;5;6; | "
-        "1;2;3;4;5;6;7;8;9;10;11;12; | 11;",
-        "2 11 1 6 6 3 1 2 3 6 6 7 12");
-    row("without closing semicolons",
-        "2|1;2;3;4;5;6|1;2;3;4;5;6|1;2;3|1;2;3;4;5;6|"
-        "1;2;3;4;5;6;7;8;9;10;11;12|11",
-        "2 11 1 6 6 3 1 2 3 6 6 7 12");
-    row("too few fields", "2; | 0", "0 0 0 0 0 0 0 0 0 0 0 0 0");
-    row("empty fields", "||||||", "0 0 0 0 0 0 0 0 0 0 0 0 0");
-    row("more than seven fields", "3||||||0|9|9", "3 0 0 0 0 0 0 0 0 0 0 0 0");
-    row("one diameter", "1;||||8;||", "1 0 0 0 0 0 8 0 0 0 0 0 0");
-    row("four diameters are one", "1;||||8;9;10;11;||", "1 0 0 0 0 0 8 0 0 0 0 0 0");
-    row("five and the element behind them are six", "1;||||8;9;10;11;12;||",
-        "1 0 0 0 0 0 8 9 10 0 0 0 0");
-    row("stresses are read as integers", "1|||||;;;;;;347.8;0;0;0;0;1.23457e+06|",
-        "1 0 0 0 0 0 0 0 0 0 0 0 0");
-    row("whole stresses and unset ones", "1|||||;;;;;;500;0;0;0;0;-99999|",
-        "1 0 0 0 0 0 0 0 0 0 0 500 -99999");
-    row("no numbers", "x;|y;||||;;;;;z|1.5", "0 0 0 0 0 0 0 0 0 0 0 0 0");
-}
-
-void TestDesignEntries::parsing()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, expected);
-    plib::DesignParameterRow row;
-    plib::parseEntry(text, row);
-    QCOMPARE(summary(row.record), expected);
-}
-
-void TestDesignEntries::whatAnEntryLoses()
-{
-    tagZOB_QUAD_RIM record = plib::getDefaultMerPara(true);
-    record.aso = 5;
-    record.amo = 6;
-    record.sigo = 347.8F;
-    record.sigoq = 240;
-    plib::DesignParameterRow row;
-    plib::parseEntry(plib::entryText(record), row);
-    QCOMPARE(row.record.rioq, 1.5708F);
-    QCOMPARE(row.record.sigo, 0.0F);
-    QCOMPARE(row.record.sigoq, 240.0F);
-    // Not -99999.0: the format has no place for them, and the reader fills nothing in.
-    for (float lost : {row.record.aso, row.record.asui, row.record.amo, row.record.reservedD,
-                       row.record.reservedS, row.record.reservedM})
-        QCOMPARE(lost, 0.0F);
-    QCOMPARE(row.record.mode, 0);
 }
 
 static plib::DesignParameterRow rowOf(int type, std::vector<int> groups)
@@ -109,71 +32,141 @@ static plib::DesignParameterRow rowOf(int type, std::vector<int> groups)
     return row;
 }
 
-void TestDesignEntries::rowsWithoutGroupsGoThereAndComeBack()
+class TestDesignEntries : public QObject
 {
-    VKD_H_ProjectDialogPage page;
-    for (int n = 1; n <= 4; ++n)
-        page.setEntry(QStringLiteral("MerPara%1").arg(n), QStringLiteral("old"));
-    plib::DesignParameterData data;
-    data.rows = {rowOf(1, {4}), rowOf(2, {}), rowOf(3, {-1}), rowOf(4, {})};
-    plib::writeRowsToEntries(data, page);
-    QVERIFY(
-        page.getEntry(QStringLiteral("MerPara3"), QString()).isNull()); // an earlier, longer list
-    QVERIFY(page.getEntry(QStringLiteral("MerPara4"), QString()).isNull());
+    Q_OBJECT
 
-    plib::DesignParameterData read;
-    read.rows = {rowOf(0, {1})};
-    plib::readRowsFromEntries(read, page);
-    QCOMPARE(int(read.rows.size()), 3);
-    QCOMPARE(read.rows[1].record.type, 2);
-    QCOMPARE(read.rows[2].record.type, 4);
-    QVERIFY(read.rows[2].groups.empty());
-    QCOMPARE(read.rows[2].record.hioq, 0.045F - 0.035F);
-    read.kindOfSystem = 10;
-    plib::readRowsFromEntries(read, page);
-    QCOMPARE(read.rows[3].record.hio, -99999.0F);
-
-    data.rows.resize(1);
-    plib::writeRowsToEntries(data, page);
-    QVERIFY(page.getEntry(QStringLiteral("MerPara1"), QString()).isNull());
-}
-
-void TestDesignEntries::gapsInTheKeys()
-{
-    VKD_H_ProjectDialogPage page;
-    page.setEntry(QStringLiteral("MerPara1"), QLatin1String(Defaults));
-    page.setEntry(QStringLiteral("MerPara2"), QString());
-    page.setEntry(QStringLiteral("MerPara3"), QLatin1String(Defaults));
-    plib::DesignParameterData data;
-    plib::readRowsFromEntries(data, page);
-    QCOMPARE(int(data.rows.size()), 1);
-    plib::writeRowsToEntries(data, page); // the empty one stops the clean-up too
-    QVERIFY(!page.getEntry(QStringLiteral("MerPara3"), QString()).isNull());
-}
-
-void TestDesignEntries::pageIsKeptInTheProject()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("p.zob"));
-    const QString longText(5000, QLatin1Char('x'));
+private Q_SLOTS:
+    void entryOfTheDefaults()
     {
-        const auto doc = VKD_H_ZOBDoc::create(path);
-        VKD_H_ProjectDialogPage page(doc->index(), 3);
-        page.setEntry(QStringLiteral("ä"), QString());
-        page.setEntry(QStringLiteral("b"), longText);
-        page.setEntry(QStringLiteral("c"), longText);
-        page.deleteEntry(QStringLiteral("c"));
-        QVERIFY(page.save());
-        QCOMPARE(doc->close(), 0);
+        QCOMPARE(plib::entryText(plib::getDefaultMerPara(true)), QLatin1String(Defaults));
     }
-    const auto doc = VKD_H_ZOBDoc::open(path);
-    const VKD_H_ProjectDialogPage page(doc->index(), 3);
-    QCOMPARE(page.getEntry(QStringLiteral("ä"), QStringLiteral("none")), QString());
-    QCOMPARE(page.getEntry(QStringLiteral("b"), QString()), longText);
-    QCOMPARE(page.getEntry(QStringLiteral("c"), QStringLiteral("none")), QStringLiteral("none"));
-    const VKD_H_ProjectDialogPage other(doc->index(), 4);
-    QVERIFY(other.getEntry(QStringLiteral("b"), QString()).isNull());
-}
+
+    void parsing_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>(
+            "expected"); // type mark rio riui hiui zref dio diu dioq diui wkui sigo sigui
+        const auto row = [](const char* name, const char* text, const char* expected) {
+            QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(expected);
+        };
+        row("whole",
+            "2; | 1;2;3;4;5;6; | 1;2;3;4;5;6; | 1;2;3; | 1;2;3;4;5;6; | "
+            "1;2;3;4;5;6;7;8;9;10;11;12; | 11;",
+            "2 11 1 6 6 3 1 2 3 6 6 7 12");
+        row("without closing semicolons",
+            "2|1;2;3;4;5;6|1;2;3;4;5;6|1;2;3|1;2;3;4;5;6|"
+            "1;2;3;4;5;6;7;8;9;10;11;12|11",
+            "2 11 1 6 6 3 1 2 3 6 6 7 12");
+        row("too few fields", "2; | 0", "0 0 0 0 0 0 0 0 0 0 0 0 0");
+        row("empty fields", "||||||", "0 0 0 0 0 0 0 0 0 0 0 0 0");
+        row("more than seven fields", "3||||||0|9|9", "3 0 0 0 0 0 0 0 0 0 0 0 0");
+        row("one diameter", "1;||||8;||", "1 0 0 0 0 0 8 0 0 0 0 0 0");
+        row("four diameters are one", "1;||||8;9;10;11;||", "1 0 0 0 0 0 8 0 0 0 0 0 0");
+        row("five and the element behind them are six", "1;||||8;9;10;11;12;||",
+            "1 0 0 0 0 0 8 9 10 0 0 0 0");
+        row("stresses are read as integers", "1|||||;;;;;;347.8;0;0;0;0;1.23457e+06|",
+            "1 0 0 0 0 0 0 0 0 0 0 0 0");
+        row("whole stresses and unset ones", "1|||||;;;;;;500;0;0;0;0;-99999|",
+            "1 0 0 0 0 0 0 0 0 0 0 500 -99999");
+        row("no numbers", "x;|y;||||;;;;;z|1.5", "0 0 0 0 0 0 0 0 0 0 0 0 0");
+    }
+
+    void parsing()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        plib::DesignParameterRow row;
+        plib::parseEntry(text, row);
+        QCOMPARE(summary(row.record), expected);
+    }
+
+    void whatAnEntryLoses()
+    {
+        tagZOB_QUAD_RIM record = plib::getDefaultMerPara(true);
+        record.aso = 5;
+        record.amo = 6;
+        record.sigo = 347.8F;
+        record.sigoq = 240;
+        plib::DesignParameterRow row;
+        plib::parseEntry(plib::entryText(record), row);
+        QCOMPARE(row.record.rioq, 1.5708F);
+        QCOMPARE(row.record.sigo, 0.0F);
+        QCOMPARE(row.record.sigoq, 240.0F);
+        // Not -99999.0: the format has no place for them, and the reader fills nothing in.
+        for (float lost : {row.record.aso, row.record.asui, row.record.amo, row.record.reservedD,
+                           row.record.reservedS, row.record.reservedM})
+            QCOMPARE(lost, 0.0F);
+        QCOMPARE(row.record.mode, 0);
+    }
+
+    void rowsWithoutGroupsGoThereAndComeBack()
+    {
+        VKD_H_ProjectDialogPage page;
+        for (int n = 1; n <= 4; ++n)
+            page.setEntry(QStringLiteral("MerPara%1").arg(n), QStringLiteral("old"));
+        plib::DesignParameterData data;
+        data.rows = {rowOf(1, {4}), rowOf(2, {}), rowOf(3, {-1}), rowOf(4, {})};
+        plib::writeRowsToEntries(data, page);
+        QVERIFY(page.getEntry(QStringLiteral("MerPara3"), QString())
+                    .isNull()); // an earlier, longer list
+        QVERIFY(page.getEntry(QStringLiteral("MerPara4"), QString()).isNull());
+
+        plib::DesignParameterData read;
+        read.rows = {rowOf(0, {1})};
+        plib::readRowsFromEntries(read, page);
+        QCOMPARE(int(read.rows.size()), 3);
+        QCOMPARE(read.rows[1].record.type, 2);
+        QCOMPARE(read.rows[2].record.type, 4);
+        QVERIFY(read.rows[2].groups.empty());
+        QCOMPARE(read.rows[2].record.hioq, 0.045F - 0.035F);
+        read.kindOfSystem = 10;
+        plib::readRowsFromEntries(read, page);
+        QCOMPARE(read.rows[3].record.hio, -99999.0F);
+
+        data.rows.resize(1);
+        plib::writeRowsToEntries(data, page);
+        QVERIFY(page.getEntry(QStringLiteral("MerPara1"), QString()).isNull());
+    }
+
+    void gapsInTheKeys()
+    {
+        VKD_H_ProjectDialogPage page;
+        page.setEntry(QStringLiteral("MerPara1"), QLatin1String(Defaults));
+        page.setEntry(QStringLiteral("MerPara2"), QString());
+        page.setEntry(QStringLiteral("MerPara3"), QLatin1String(Defaults));
+        plib::DesignParameterData data;
+        plib::readRowsFromEntries(data, page);
+        QCOMPARE(int(data.rows.size()), 1);
+        plib::writeRowsToEntries(data, page); // the empty one stops the clean-up too
+        QVERIFY(!page.getEntry(QStringLiteral("MerPara3"), QString()).isNull());
+    }
+
+    void pageIsKeptInTheProject()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p.zob"));
+        const QString longText(5000, QLatin1Char('x'));
+        {
+            const auto doc = VKD_H_ZOBDoc::create(path);
+            VKD_H_ProjectDialogPage page(doc->index(), 3);
+            page.setEntry(QStringLiteral("ä"), QString());
+            page.setEntry(QStringLiteral("b"), longText);
+            page.setEntry(QStringLiteral("c"), longText);
+            page.deleteEntry(QStringLiteral("c"));
+            QVERIFY(page.save());
+            QCOMPARE(doc->close(), 0);
+        }
+        const auto doc = VKD_H_ZOBDoc::open(path);
+        const VKD_H_ProjectDialogPage page(doc->index(), 3);
+        QCOMPARE(page.getEntry(QStringLiteral("ä"), QStringLiteral("none")), QString());
+        QCOMPARE(page.getEntry(QStringLiteral("b"), QString()), longText);
+        QCOMPARE(page.getEntry(QStringLiteral("c"), QStringLiteral("none")),
+                 QStringLiteral("none"));
+        const VKD_H_ProjectDialogPage other(doc->index(), 4);
+        QVERIFY(other.getEntry(QStringLiteral("b"), QString()).isNull());
+    }
+};
 
 PLIB_TEST_MAIN(TestDesignEntries)
 #include "tst_designEntries.moc"

@@ -70,10 +70,51 @@ class TestDesignProcesses : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void killedWriters_data();
-    void killedWriters();
-    void twoWriters();
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_path = m_folder->filePath(QStringLiteral("p.zob"));
+        writeRound(VKD_H_ZOBDoc::create(m_path).get(), 0);
+    }
+
+    void killedWriters_data()
+    {
+        const Columns<QByteArray, bool> row("mode", "alwaysWhole");
+        row("as the page writes", QByteArray("taken"), true);
+        // Shows that the kills meet the writing, and what the lock is for.
+        row("control without the lock", QByteArray("bare"), false);
+    }
+
+    void killedWriters()
+    {
+        QFETCH(QByteArray, mode);
+        QFETCH(bool, alwaysWhole);
+        int broken = 0;
+        for (int kill = 0; kill < 50; ++kill) {
+            QProcess child;
+            QVERIFY(start(child, mode.constData(), 1000000));
+            child.waitForFinished(1 + kill % 25);
+            child.kill();
+            QVERIFY(child.waitForFinished());
+            broken += isWhole(m_path) ? 0 : 1;
+        }
+        QCOMPARE(broken == 0, alwaysWhole);
+    }
+
+    void twoWriters()
+    {
+        QProcess one;
+        QProcess two;
+        QVERIFY(start(one, "taken", 20) && start(two, "taken", 20));
+        while (one.state() == QProcess::Running || two.state() == QProcess::Running) {
+            QVERIFY(isWhole(m_path));
+            one.waitForFinished(5);
+            two.waitForFinished(5);
+        }
+        QCOMPARE(one.exitCode(), 0);
+        QCOMPARE(two.exitCode(), 0);
+        QVERIFY(isWhole(m_path));
+    }
 
 private:
     bool start(QProcess& child, const char* mode, int rounds) const;
@@ -82,58 +123,11 @@ private:
     QString m_path;
 };
 
-void TestDesignProcesses::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_path = m_folder->filePath(QStringLiteral("p.zob"));
-    writeRound(VKD_H_ZOBDoc::create(m_path).get(), 0);
-}
-
 bool TestDesignProcesses::start(QProcess& child, const char* mode, int rounds) const
 {
     child.start(QCoreApplication::applicationFilePath(),
                 {m_path, QString::fromLatin1(mode), QString::number(rounds)});
     return child.waitForReadyRead();
-}
-
-void TestDesignProcesses::killedWriters_data()
-{
-    QTest::addColumn<QByteArray>("mode");
-    QTest::addColumn<bool>("alwaysWhole");
-    QTest::newRow("as the page writes") << QByteArray("taken") << true;
-    // Shows that the kills meet the writing, and what the lock is for.
-    QTest::newRow("control without the lock") << QByteArray("bare") << false;
-}
-
-void TestDesignProcesses::killedWriters()
-{
-    QFETCH(QByteArray, mode);
-    QFETCH(bool, alwaysWhole);
-    int broken = 0;
-    for (int kill = 0; kill < 50; ++kill) {
-        QProcess child;
-        QVERIFY(start(child, mode.constData(), 1000000));
-        child.waitForFinished(1 + kill % 25);
-        child.kill();
-        QVERIFY(child.waitForFinished());
-        broken += isWhole(m_path) ? 0 : 1;
-    }
-    QCOMPARE(broken == 0, alwaysWhole);
-}
-
-void TestDesignProcesses::twoWriters()
-{
-    QProcess one;
-    QProcess two;
-    QVERIFY(start(one, "taken", 20) && start(two, "taken", 20));
-    while (one.state() == QProcess::Running || two.state() == QProcess::Running) {
-        QVERIFY(isWhole(m_path));
-        one.waitForFinished(5);
-        two.waitForFinished(5);
-    }
-    QCOMPARE(one.exitCode(), 0);
-    QCOMPARE(two.exitCode(), 0);
-    QVERIFY(isWhole(m_path));
 }
 
 int main(int argc, char* argv[])

@@ -12,130 +12,119 @@ class TestRowText : public QObject
 
 private Q_SLOTS:
     void init() { vkd_lib_setvalue(102, 1); }
-    void groups_data();
-    void groups();
-    void columns_data();
-    void columns();
-    void germanNumbers();
-};
 
-void TestRowText::groups_data()
-{
-    QTest::addColumn<QVector<int>>("groups");
-    QTest::addColumn<QString>("expected");
-    const auto packed = [](int a, int b, int c, int d) { return a | b << 8 | c << 16 | d << 24; };
-    QTest::newRow("none") << QVector<int>{} << QStringLiteral("None");
-    QTest::newRow("remaining") << QVector<int>{-1} << QStringLiteral("Remaining Groups");
-    QTest::newRow("numbers as they stand") << QVector<int>{7, 3, 4} << QStringLiteral("7;3;4");
-    QTest::newRow("-1 among others") << QVector<int>{-1, 4} << QStringLiteral("-1;4");
-    QTest::newRow("last number") << QVector<int>{999999} << QStringLiteral("999999");
-    QTest::newRow("blanks go") << QVector<int>{packed('A', 'B', ' ', ' ')} << QStringLiteral("AB");
-    QTest::newRow("a zero ends it")
-        << QVector<int>{packed('A', 'B', 0, 'C')} << QStringLiteral("AB");
-    QTest::newRow("four letters") << QVector<int>{5, packed('C', 'O', 'R', 'N')}
-                                  << QStringLiteral("5;CORN");
-    QTest::newRow("Latin-1") << QVector<int>{packed(0xD6, 'L', ' ', ' ')} << QStringLiteral("ÖL");
-    QTest::newRow("first that is a name") << QVector<int>{1000000} << QStringLiteral("@B\x0F");
-}
-
-void TestRowText::groups()
-{
-    QFETCH(const QVector<int>, groups);
-    QFETCH(QString, expected);
-    plib::DesignParameterRow row;
-    row.groups = {groups.begin(), groups.end()};
-    QCOMPARE(plib::rowText(row, 0), expected);
-}
-
-void TestRowText::columns_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QStringList>("expected"); // columns 1 to 4
-    const QString bars =
-        QStringLiteral("Ø10 ;18.00 cm²/m ;25.00 cm²/m\nØ13 ;21.00 cm²/m ;28.00 cm²/m");
-    const QString stresses = QStringLiteral("39.0 N/mm² ;40.0 N/mm² ;41.0 N/mm²\n"
-                                            "42.0 N/mm² ;43.0 N/mm² ;44.0 N/mm² ;");
-    const QString straight = QStringLiteral("0.0° ;171.9°\n4.0 mm ;7.0 mm ;5.0 mm ;8.0 mm ;");
-    QTest::newRow("no design") << 0 << QStringList{QStringLiteral("No design"), {}, {}, {}};
-    QTest::newRow("orthogonal") << 1
-                                << QStringList{QStringLiteral("Two Layers (orthogonal)"), straight,
-                                               bars,
-                                               QStringLiteral("32.00 mm ;33.00 mm ;34.00 mm\n"
-                                                              "35.00 mm ;36.00 mm ;37.00 mm ;")};
-    QTest::newRow("two layers") << 2
-                                << QStringList{QStringLiteral("Two Layers"),
-                                               QStringLiteral("0.0° ;171.9° ;57.3° ;229.2°\n"
-                                                              "4.0 mm ;7.0 mm ;5.0 mm ;8.0 mm ;"),
-                                               bars, stresses};
-    QTest::newRow("three layers") << 3
-                                  << QStringList{
-                                         QStringLiteral("Three Layers"),
-                                         QStringLiteral("0.0° ;171.9° ;57.3° ;229.2°\n4.0 mm ;"
-                                                        "7.0 mm ;5.0 mm ;8.0 mm ;6.0 mm ;9.0 mm ;"),
-                                         bars, stresses};
-    QTest::newRow("circular") << 4
-                              << QStringList{QStringLiteral("Circular"), straight, bars, stresses};
-    QTest::newRow("5 has no name and reads like 4")
-        << 5 << QStringList{{}, straight, bars, stresses};
-    QTest::newRow("6") << 6 << QStringList{{}, {}, {}, {}};
-    QTest::newRow("12 is called as 2")
-        << 12 << QStringList{QStringLiteral("Two Layers"), {}, {}, {}};
-    QTest::newRow("negative") << -1 << QStringList{{}, {}, {}, {}};
-}
-
-void TestRowText::columns()
-{
-    QFETCH(int, type);
-    QFETCH(QStringList, expected);
-    VKD_A_BarDiameterData bars;
-    plib::DesignParameterRow row;
-    row.barData = &bars;
-    row.record.type = type;
-    // Each field has a value of its own, so that a wrong one shows.
-    float value = 0;
-    for (const plib::NamedField& field : plib::namedFields()) {
-        if (!field.real)
-            continue;
-        const int code = plib::dimensionCode(field.real);
-        if (code == 1001)
-            continue;
-        row.record.*field.real = value * (code == 1024 ? 0.001F : 1.0F);
-        value += 1;
-        if (code == 1024 && field.real == &tagZOB_QUAD_RIM::hiui)
-            value = 10;
-        if (field.real == &tagZOB_QUAD_RIM::riui)
-            value = 4;
-        if (field.real == &tagZOB_QUAD_RIM::diui)
-            value = 18;
-        if (field.real == &tagZOB_QUAD_RIM::asui)
-            value = 25;
-        if (field.real == &tagZOB_QUAD_RIM::amui)
-            value = 32;
-        if (field.real == &tagZOB_QUAD_RIM::wkui)
-            value = 39;
+    void groups_data()
+    {
+        const Columns<QVector<int>, QString> row("groups", "expected");
+        const auto packed = [](int a, int b, int c, int d) {
+            return a | b << 8 | c << 16 | d << 24;
+        };
+        row("none", {}, "None");
+        row("remaining", {-1}, "Remaining Groups");
+        row("numbers as they stand", {7, 3, 4}, "7;3;4");
+        row("-1 among others", {-1, 4}, "-1;4");
+        row("last number", {999999}, "999999");
+        row("blanks go", {packed('A', 'B', ' ', ' ')}, "AB");
+        row("a zero ends it", {packed('A', 'B', 0, 'C')}, "AB");
+        row("four letters", {5, packed('C', 'O', 'R', 'N')}, "5;CORN");
+        row("Latin-1", {packed(0xD6, 'L', ' ', ' ')}, "ÖL");
+        row("first that is a name", {1000000}, "@B\x0F");
     }
-    QStringList texts;
-    for (int column = 1; column < 5; ++column)
-        texts << plib::rowText(row, column);
-    QCOMPARE(texts, expected);
-    QCOMPARE(plib::rowText(row, 5), QString());
-    QCOMPARE(plib::rowText(row, -1), QString());
-}
 
-void TestRowText::germanNumbers()
-{
-    vkd_lib_setvalue(102, 0);
-    VKD_A_BarDiameterData bars;
-    plib::DesignParameterRow row{&bars, plib::getDefaultMerPara(true), {}};
-    row.record.rio = -99999.0F;
-    row.record.riu = -0.0001F;
-    row.record.dio = 11.5F; // in no table of bars
-    row.record.diu = -99999.0F;
-    QCOMPARE(plib::rowText(row, 2),
-             QStringLiteral(" -  ;0,0°\n35,0 mm ;35,0 mm ;45,0 mm ;45,0 mm ;"));
-    QCOMPARE(plib::rowText(row, 3), QStringLiteral("Ø11,5 ; -  ; - \n -  ; -  ; - "));
-    QCOMPARE(plib::rowText(row, 4), QStringLiteral(" -  ; -  ; - \n -  ; -  ; -  ;"));
-}
+    void groups()
+    {
+        QFETCH(const QVector<int>, groups);
+        QFETCH(QString, expected);
+        plib::DesignParameterRow row;
+        row.groups = {groups.begin(), groups.end()};
+        QCOMPARE(plib::rowText(row, 0), expected);
+    }
+
+    void columns_data()
+    {
+        // expected: columns 1 to 4
+        const Columns<int, QStringList> row("type", "expected");
+        const QString bars =
+            QStringLiteral("Ø10 ;18.00 cm²/m ;25.00 cm²/m\nØ13 ;21.00 cm²/m ;28.00 cm²/m");
+        const QString stresses = QStringLiteral("39.0 N/mm² ;40.0 N/mm² ;41.0 N/mm²\n"
+                                                "42.0 N/mm² ;43.0 N/mm² ;44.0 N/mm² ;");
+        const QString straight = QStringLiteral("0.0° ;171.9°\n4.0 mm ;7.0 mm ;5.0 mm ;8.0 mm ;");
+        row("no design", 0, {QStringLiteral("No design"), {}, {}, {}});
+        row("orthogonal", 1,
+            {QStringLiteral("Two Layers (orthogonal)"), straight, bars,
+             QStringLiteral("32.00 mm ;33.00 mm ;34.00 mm\n"
+                            "35.00 mm ;36.00 mm ;37.00 mm ;")});
+        row("two layers", 2,
+            {QStringLiteral("Two Layers"),
+             QStringLiteral("0.0° ;171.9° ;57.3° ;229.2°\n"
+                            "4.0 mm ;7.0 mm ;5.0 mm ;8.0 mm ;"),
+             bars, stresses});
+        row("three layers", 3,
+            {QStringLiteral("Three Layers"),
+             QStringLiteral("0.0° ;171.9° ;57.3° ;229.2°\n4.0 mm ;"
+                            "7.0 mm ;5.0 mm ;8.0 mm ;6.0 mm ;9.0 mm ;"),
+             bars, stresses});
+        row("circular", 4, {QStringLiteral("Circular"), straight, bars, stresses});
+        row("5 has no name and reads like 4", 5, {{}, straight, bars, stresses});
+        row("6", 6, {{}, {}, {}, {}});
+        row("12 is called as 2", 12, {QStringLiteral("Two Layers"), {}, {}, {}});
+        row("negative", -1, {{}, {}, {}, {}});
+    }
+
+    void columns()
+    {
+        QFETCH(int, type);
+        QFETCH(QStringList, expected);
+        VKD_A_BarDiameterData bars;
+        plib::DesignParameterRow row;
+        row.barData = &bars;
+        row.record.type = type;
+        // Each field has a value of its own, so that a wrong one shows.
+        float value = 0;
+        for (const plib::NamedField& field : plib::namedFields()) {
+            if (!field.real)
+                continue;
+            const int code = plib::dimensionCode(field.real);
+            if (code == 1001)
+                continue;
+            row.record.*field.real = value * (code == 1024 ? 0.001F : 1.0F);
+            value += 1;
+            if (code == 1024 && field.real == &tagZOB_QUAD_RIM::hiui)
+                value = 10;
+            if (field.real == &tagZOB_QUAD_RIM::riui)
+                value = 4;
+            if (field.real == &tagZOB_QUAD_RIM::diui)
+                value = 18;
+            if (field.real == &tagZOB_QUAD_RIM::asui)
+                value = 25;
+            if (field.real == &tagZOB_QUAD_RIM::amui)
+                value = 32;
+            if (field.real == &tagZOB_QUAD_RIM::wkui)
+                value = 39;
+        }
+        QStringList texts;
+        for (int column = 1; column < 5; ++column)
+            texts << plib::rowText(row, column);
+        QCOMPARE(texts, expected);
+        QCOMPARE(plib::rowText(row, 5), QString());
+        QCOMPARE(plib::rowText(row, -1), QString());
+    }
+
+    void germanNumbers()
+    {
+        vkd_lib_setvalue(102, 0);
+        VKD_A_BarDiameterData bars;
+        plib::DesignParameterRow row{&bars, plib::getDefaultMerPara(true), {}};
+        row.record.rio = -99999.0F;
+        row.record.riu = -0.0001F;
+        row.record.dio = 11.5F; // in no table of bars
+        row.record.diu = -99999.0F;
+        QCOMPARE(plib::rowText(row, 2),
+                 QStringLiteral(" -  ;0,0°\n35,0 mm ;35,0 mm ;45,0 mm ;45,0 mm ;"));
+        QCOMPARE(plib::rowText(row, 3), QStringLiteral("Ø11,5 ; -  ; - \n -  ; -  ; - "));
+        QCOMPARE(plib::rowText(row, 4), QStringLiteral(" -  ; -  ; - \n -  ; -  ; -  ;"));
+    }
+};
 
 PLIB_TEST_MAIN(TestRowText)
 #include "tst_rowText.moc"

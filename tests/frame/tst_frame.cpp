@@ -29,79 +29,72 @@ class tst_frame : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void noPlugin();
-    void selfCheck();
-    void failedSelfCheckLeavesLanguage();
-    void applicationsInTurn();
-    void languageForm();
-    void pictures_data();
-    void pictures();
-};
-
-void tst_frame::noPlugin()
-{
-    QVERIFY(!VKD_H_PluginFactory(QString()));
-    QVERIFY(!VKD_H_PluginFactory(QStringLiteral("VKD_P_DesignParameter")));
-}
-
-void tst_frame::selfCheck()
-{
-    for (const QString& language : {QStringLiteral("0"), QStringLiteral("1")}) {
-        const QTemporaryDir folder;
-        QCOMPARE(host({QStringLiteral("selfcheck"), language, QStringLiteral("LOGPATH:/nowhere"),
-                       QStringLiteral("LogPath:") + folder.path()}),
-                 QStringLiteral("result 0, language ") + language);
-        const QString log = folder.filePath(QStringLiteral("VKD_P_Mix_UnitTest.log"));
-        QVERIFY(
-            testsupport::readFile(log).contains("PASS   : VKD_P_Mix_UnitTest::check_qrc_system()"));
+    void noPlugin()
+    {
+        QVERIFY(!VKD_H_PluginFactory(QString()));
+        QVERIFY(!VKD_H_PluginFactory(QStringLiteral("VKD_P_DesignParameter")));
     }
-}
 
-void tst_frame::failedSelfCheckLeavesLanguage()
-{
-    const QTemporaryDir folder;
-    QCOMPARE(host({QStringLiteral("selfcheck-without-cache"), QStringLiteral("1"),
-                   QStringLiteral("logpath:") + folder.path()}),
-             QStringLiteral("result 1, language 0"));
-}
+    void selfCheck()
+    {
+        for (const QString& language : {QStringLiteral("0"), QStringLiteral("1")}) {
+            const QTemporaryDir folder;
+            QCOMPARE(
+                host({QStringLiteral("selfcheck"), language, QStringLiteral("LOGPATH:/nowhere"),
+                      QStringLiteral("LogPath:") + folder.path()}),
+                QStringLiteral("result 0, language ") + language);
+            const QString log = folder.filePath(QStringLiteral("VKD_P_Mix_UnitTest.log"));
+            QVERIFY(testsupport::readFile(log).contains(
+                "PASS   : VKD_P_Mix_UnitTest::check_qrc_system()"));
+        }
+    }
 
-void tst_frame::applicationsInTurn()
-{
-    QCOMPARE(host({QStringLiteral("applications")}),
-             QStringLiteral("Grafische Ausgabe\nGraphical Output\nGrafische Ausgabe"));
-}
+    void failedSelfCheckLeavesLanguage()
+    {
+        const QTemporaryDir folder;
+        QCOMPARE(host({QStringLiteral("selfcheck-without-cache"), QStringLiteral("1"),
+                       QStringLiteral("logpath:") + folder.path()}),
+                 QStringLiteral("result 1, language 0"));
+    }
 
-void tst_frame::languageForm()
-{
-    const auto form = [](const char* name) {
-        return vkd_qt_getFileNameWithLang(QLatin1String(name), 1);
-    };
-    QCOMPARE(form(":/betondeckung.png"), QStringLiteral(":/betondeckung_1.png"));
-    QCOMPARE(form(":/no.such.png"), QStringLiteral(":/no.such.png"));
-    QCOMPARE(form(""), QString());
-    // Only what the resources hold counts, not what happens to lie on the disk.
-    const QTemporaryDir folder;
-    const QString onDisk = folder.filePath(QStringLiteral("a.png"));
-    testsupport::writeFile(folder.filePath(QStringLiteral("a_1.png")), "x");
-    QCOMPARE(vkd_qt_getFileNameWithLang(onDisk, 1), onDisk);
-}
+    void applicationsInTurn()
+    {
+        QCOMPARE(host({QStringLiteral("applications")}),
+                 QStringLiteral("Grafische Ausgabe\nGraphical Output\nGrafische Ausgabe"));
+    }
 
-void tst_frame::pictures_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow(":/neq_merpara_rich.png") << QSize(193, 111);
-    QTest::newRow(":/neq_merpara_rich_0.png") << QSize(193, 112);
-    QTest::newRow(":/neq_merpara_rich_1.png") << QSize(193, 112);
-    QTest::newRow(":/betondeckung.png") << QSize(240, 111);
-    QTest::newRow(":/betondeckung_0.png") << QSize(240, 112);
-    QTest::newRow(":/betondeckung_1.png") << QSize(240, 112);
-    QTest::newRow(":/neq_designline_zrt_bew_mod_allg.png") << QSize(299, 104);
-}
+    void languageForm()
+    {
+        const auto form = [](const char* name) {
+            return vkd_qt_getFileNameWithLang(QLatin1String(name), 1);
+        };
+        QCOMPARE(form(":/betondeckung.png"), QStringLiteral(":/betondeckung_1.png"));
+        QCOMPARE(form(":/no.such.png"), QStringLiteral(":/no.such.png"));
+        QCOMPARE(form(""), QString());
+        // Only what the resources hold counts, not what happens to lie on the disk.
+        const QTemporaryDir folder;
+        const QString onDisk = folder.filePath(QStringLiteral("a.png"));
+        testsupport::writeFile(folder.filePath(QStringLiteral("a_1.png")), "x");
+        QCOMPARE(vkd_qt_getFileNameWithLang(onDisk, 1), onDisk);
+    }
 
-void tst_frame::pictures()
-{
-    QTEST(QPixmap(QLatin1String(QTest::currentDataTag()), "PNG").size(), "size");
-}
+    void pictures_data()
+    {
+        const Columns<QSize> row("size");
+        row(":/neq_merpara_rich.png", QSize(193, 111));
+        row(":/neq_merpara_rich_0.png", QSize(193, 112));
+        row(":/neq_merpara_rich_1.png", QSize(193, 112));
+        row(":/betondeckung.png", QSize(240, 111));
+        row(":/betondeckung_0.png", QSize(240, 112));
+        row(":/betondeckung_1.png", QSize(240, 112));
+        row(":/neq_designline_zrt_bew_mod_allg.png", QSize(299, 104));
+    }
+
+    void pictures()
+    {
+        QTEST(QPixmap(QLatin1String(QTest::currentDataTag()), "PNG").size(), "size");
+    }
+};
 
 namespace {
 int selfCheckHost(QApplication& application)

@@ -55,82 +55,74 @@ class tst_germanTexts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everySourceTextIsTranslated_data();
-    void everySourceTextIsTranslated();
-    void sameWordsWhereverTheyAreCompared();
-    void libraryLoadedLate();
+    void everySourceTextIsTranslated_data()
+    {
+        const Columns<QString, QString> row("folder", "file");
+        row("vkd_p_fea", PLIB "/src", TextFile);
+        const QString window = QStringLiteral(WORKBENCH "/translations/workbench_de.ts");
+        row("workbench, window", WORKBENCH "/window", window);
+        row("workbench, sheet", WORKBENCH "/sheet", window);
+        for (const char* name :
+             {"vkd_qt", "vkd_t", "vkd_h", "vkd_a", "vkd_grouptable", "vkd_aniview"}) {
+            const QString library = QStringLiteral(PLATFORM "/") + QLatin1String(name);
+            row(name, library + QLatin1String("/src"),
+                library + QStringLiteral("/translations/%1_de.ts").arg(QLatin1String(name)));
+        }
+    }
+
+    void everySourceTextIsTranslated()
+    {
+        QFETCH(const QString, folder);
+        QFETCH(const QString, file);
+        const QTemporaryDir copies;
+        const QString copy = copies.filePath(QStringLiteral("texts_de.ts"));
+        QVERIFY(QFile::copy(file, copy));
+        QCOMPARE(
+            QProcess::execute(QStringLiteral(LUPDATE),
+                              {QStringLiteral("-silent"), folder, QStringLiteral("-I"),
+                               folder + QLatin1String("/../include"), QStringLiteral("-ts"), copy}),
+            0);
+        QByteArrayList missing;
+        for (const Message& message : messages(copy))
+            if (!message.finished || message.german.isEmpty())
+                missing << message.context + ": " + message.source;
+        QCOMPARE(missing.join('\n'), QByteArray());
+    }
+
+    /// An entry of the group editor (dlgSelection) is recognised by its text in the context of the
+    /// page, which is also that of the text in the table.
+    void sameWordsWhereverTheyAreCompared()
+    {
+        for (const char* source : {"None", "Remaining Groups"}) {
+            QStringList words;
+            for (const Message& message : messages(TextFile))
+                if (message.source == source)
+                    words << QString::fromUtf8(message.context) + QLatin1Char(':') + message.german;
+            const QString german = words.value(0).section(QLatin1Char(':'), 1);
+            QCOMPARE(words.join(QLatin1Char(' ')),
+                     QStringLiteral("DesignParameter:%1 dlgSelection:%1").arg(german));
+        }
+    }
+
+    void libraryLoadedLate()
+    {
+        const QVector<Message> all = messages(TextFile);
+        QVERIFY(!all.isEmpty());
+        QLibrary library(QStringLiteral(LIBRARY));
+        QVERIFY2(library.load(), qPrintable(library.errorString()));
+        for (const Message& message : all)
+            QCOMPARE(translated(message), message.german);
+        for (int language : {1, 0}) {
+            vkd_lib_setvalue(LanguageKey, language);
+            VKD_QT_InitTranslator::languageChanged();
+            const Message& last = all.last();
+            QCOMPARE(translated(last), language ? QString::fromUtf8(last.source) : last.german);
+        }
+        QVERIFY(library.unload());
+        VKD_QT_InitTranslator::languageChanged(); // must not reach into what is gone
+        QCOMPARE(translated(all.last()), QString::fromUtf8(all.last().source));
+    }
 };
-
-void tst_germanTexts::everySourceTextIsTranslated_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("file");
-    QTest::newRow("vkd_p_fea") << PLIB "/src" << TextFile;
-    for (const char* folder : {"window", "sheet"})
-        QTest::addRow("workbench, %s", folder)
-            << QStringLiteral(WORKBENCH "/") + QLatin1String(folder)
-            << QStringLiteral(WORKBENCH "/translations/workbench_de.ts");
-    for (const char* name :
-         {"vkd_qt", "vkd_t", "vkd_h", "vkd_a", "vkd_grouptable", "vkd_aniview"}) {
-        const QString library = QStringLiteral(PLATFORM "/") + QLatin1String(name);
-        QTest::newRow(name)
-            << library + QLatin1String("/src")
-            << library + QStringLiteral("/translations/%1_de.ts").arg(QLatin1String(name));
-    }
-}
-
-void tst_germanTexts::everySourceTextIsTranslated()
-{
-    QFETCH(const QString, folder);
-    QFETCH(const QString, file);
-    const QTemporaryDir copies;
-    const QString copy = copies.filePath(QStringLiteral("texts_de.ts"));
-    QVERIFY(QFile::copy(file, copy));
-    QCOMPARE(
-        QProcess::execute(QStringLiteral(LUPDATE),
-                          {QStringLiteral("-silent"), folder, QStringLiteral("-I"),
-                           folder + QLatin1String("/../include"), QStringLiteral("-ts"), copy}),
-        0);
-    QByteArrayList missing;
-    for (const Message& message : messages(copy))
-        if (!message.finished || message.german.isEmpty())
-            missing << message.context + ": " + message.source;
-    QCOMPARE(missing.join('\n'), QByteArray());
-}
-
-/// An entry of the group editor (dlgSelection) is recognised by its text in the context of the page,
-/// which is also that of the text in the table.
-void tst_germanTexts::sameWordsWhereverTheyAreCompared()
-{
-    for (const char* source : {"None", "Remaining Groups"}) {
-        QStringList words;
-        for (const Message& message : messages(TextFile))
-            if (message.source == source)
-                words << QString::fromUtf8(message.context) + QLatin1Char(':') + message.german;
-        const QString german = words.value(0).section(QLatin1Char(':'), 1);
-        QCOMPARE(words.join(QLatin1Char(' ')),
-                 QStringLiteral("DesignParameter:%1 dlgSelection:%1").arg(german));
-    }
-}
-
-void tst_germanTexts::libraryLoadedLate()
-{
-    const QVector<Message> all = messages(TextFile);
-    QVERIFY(!all.isEmpty());
-    QLibrary library(QStringLiteral(LIBRARY));
-    QVERIFY2(library.load(), qPrintable(library.errorString()));
-    for (const Message& message : all)
-        QCOMPARE(translated(message), message.german);
-    for (int language : {1, 0}) {
-        vkd_lib_setvalue(LanguageKey, language);
-        VKD_QT_InitTranslator::languageChanged();
-        const Message& last = all.last();
-        QCOMPARE(translated(last), language ? QString::fromUtf8(last.source) : last.german);
-    }
-    QVERIFY(library.unload());
-    VKD_QT_InitTranslator::languageChanged(); // must not reach into what is gone
-    QCOMPARE(translated(all.last()), QString::fromUtf8(all.last().source));
-}
 
 PLIB_TEST_MAIN(tst_germanTexts)
 #include "tst_germanTexts.moc"

@@ -142,29 +142,7 @@ private:
     DesignDesk* m_desk;
     std::mt19937 m_random;
 };
-} // namespace
 
-class tst_designMonkey : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void rowsAndTableAgree_data();
-    void rowsAndTableAgree();
-
-private:
-    HostProject m_project{QStringLiteral("slab")}; // goes on from round to round
-    VKD_H_ProjectDialogPage m_entries;
-};
-
-void tst_designMonkey::initTestCase()
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-    VKD_QT_InitTranslator::languageChanged();
-}
-
-namespace {
 /// Group by group, what the table says about it, in an order of its own: a group may stand in two
 /// rows, and rows with equal parameters are one when they are read again. The page's entries, which
 /// keep the rows without groups, have no place for the limits of the reinforcement.
@@ -183,39 +161,55 @@ QStringList groupByGroup(const DesignDesk& desk)
 }
 } // namespace
 
-void tst_designMonkey::rowsAndTableAgree_data()
+class tst_designMonkey : public QObject
 {
-    QTest::addColumn<int>("seed");
-    for (int round = 0; round < Rounds; ++round)
-        QTest::addRow("round %d", round) << Seed + round;
-}
+    Q_OBJECT
 
-/// The rows are seen by what is written: a fresh page has to show the same.
-void tst_designMonkey::rowsAndTableAgree()
-{
-    QFETCH(int, seed);
-    QStringList before;
+private Q_SLOTS:
+    void initTestCase()
     {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        VKD_QT_InitTranslator::languageChanged();
+    }
+
+    void rowsAndTableAgree_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int round = 0; round < Rounds; ++round)
+            QTest::addRow("round %d", round) << Seed + round;
+    }
+
+    /// The rows are seen by what is written: a fresh page has to show the same.
+    void rowsAndTableAgree()
+    {
+        QFETCH(int, seed);
+        QStringList before;
+        {
+            DesignDesk desk(m_project);
+            desk.page->getEntrys(m_entries);
+            Monkey monkey(&desk, unsigned(seed));
+            for (int step = 0; step < StepsInARound; ++step) {
+                monkey.step();
+                const QString editors = desk.editors();
+                QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
+                if (desk.isVisible())
+                    continue;
+                QCOMPARE(desk.result(), 6); // left to pick groups, and for nothing else
+                desk.show();
+            }
+            desk.table()->setCurrentCell(0, 1); // closes the last editor
+            before = groupByGroup(desk);
+            desk.page->setEntrys(m_entries);
+        }
         DesignDesk desk(m_project);
         desk.page->getEntrys(m_entries);
-        Monkey monkey(&desk, unsigned(seed));
-        for (int step = 0; step < StepsInARound; ++step) {
-            monkey.step();
-            const QString editors = desk.editors();
-            QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
-            if (desk.isVisible())
-                continue;
-            QCOMPARE(desk.result(), 6); // left to pick groups, and for nothing else
-            desk.show();
-        }
-        desk.table()->setCurrentCell(0, 1); // closes the last editor
-        before = groupByGroup(desk);
-        desk.page->setEntrys(m_entries);
+        QCOMPARE(groupByGroup(desk).join(QLatin1Char('\n')), before.join(QLatin1Char('\n')));
     }
-    DesignDesk desk(m_project);
-    desk.page->getEntrys(m_entries);
-    QCOMPARE(groupByGroup(desk).join(QLatin1Char('\n')), before.join(QLatin1Char('\n')));
-}
+
+private:
+    HostProject m_project{QStringLiteral("slab")}; // goes on from round to round
+    VKD_H_ProjectDialogPage m_entries;
+};
 
 PLIB_WIDGET_TEST_MAIN(tst_designMonkey)
 #include "tst_designMonkey.moc"

@@ -63,438 +63,407 @@ class tst_designPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void fromANewProjectToRecords_data();
-    void fromANewProjectToRecords();
-    void aTypeChangesNothingElse();
-    void editorsComeAndGo();
-    void editorAwayFromTheCurrentCell();
-    void recordDialogsWriteOnOkAlone_data();
-    void recordDialogsWriteOnOkAlone();
-    void deletingAndMoving();
-    void entriesOfTheGroupCombo_data();
-    void entriesOfTheGroupCombo();
-    void choosingRemainingGroups();
-    void dialogsKnowTheGroupsOfOtherRows();
-    void detourOutOfTheDialog();
-    void leavingThePage();
-    void rowsWithoutGroupsStayWithThePage();
-    void helpIsFound();
-};
+    void init() { useLanguage(1); }
 
-void tst_designPage::init()
-{
-    useLanguage(1);
-}
-
-void tst_designPage::fromANewProjectToRecords_data()
-{
-    QTest::addColumn<int>("language");
-    QTest::addColumn<QString>("firstRow");
-    QTest::addColumn<QString>("lastRow");
-    QTest::newRow("German")
-        << 0
-        << QStringLiteral("Übrige Gruppen|Zwei Lagen (orthogonal)|0,0° ;0,0°/35,0 mm ;35,0 mm "
-                          ";10,0 mm ;10,0 mm ;|Ø10 ; -  ; - /Ø10 ; -  ; - | -  ; -  ; - / -  ; -  "
-                          "; -  ;")
-        << QStringLiteral("2;3|Zwei Lagen|");
-    QTest::newRow("English")
-        << 1
-        << QStringLiteral("Remaining Groups|Two Layers (orthogonal)|0.0° ;0.0°/35.0 mm ;35.0 mm "
-                          ";10.0 mm ;10.0 mm ;|Ø10 ; -  ; - /Ø10 ; -  ; - | -  ; -  ; - / -  ; -  "
-                          "; -  ;")
-        << QStringLiteral("2;3|Two Layers|");
-}
-
-void tst_designPage::fromANewProjectToRecords()
-{
-    QFETCH(int, language);
-    QFETCH(QString, firstRow);
-    QFETCH(QString, lastRow);
-    useLanguage(language);
-    HostProject project(QStringLiteral("slab"));
+    void fromANewProjectToRecords_data()
     {
+        const Columns<int, QString, QString> row("language", "firstRow", "lastRow");
+        row("German", 0,
+            "Übrige Gruppen|Zwei Lagen (orthogonal)|0,0° ;0,0°/35,0 mm ;35,0 mm "
+            ";10,0 mm ;10,0 mm ;|Ø10 ; -  ; - /Ø10 ; -  ; - | -  ; -  ; - / -  ; -  "
+            "; -  ;",
+            "2;3|Zwei Lagen|");
+        row("English", 1,
+            "Remaining Groups|Two Layers (orthogonal)|0.0° ;0.0°/35.0 mm ;35.0 mm "
+            ";10.0 mm ;10.0 mm ;|Ø10 ; -  ; - /Ø10 ; -  ; - | -  ; -  ; - / -  ; -  "
+            "; -  ;",
+            "2;3|Two Layers|");
+    }
+
+    void fromANewProjectToRecords()
+    {
+        QFETCH(int, language);
+        QFETCH(QString, firstRow);
+        QFETCH(QString, lastRow);
+        useLanguage(language);
+        HostProject project(QStringLiteral("slab"));
+        {
+            DesignDesk desk(project);
+            QSignalSpy counted(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged);
+            desk.page->readZob();
+            desk.keys({Qt::Key_Insert, Qt::Key_Insert, Qt::Key_Down, Qt::Key_Down, Qt::Key_Delete});
+            QCOMPARE(counted.size(), 4);
+            QCOMPARE(counted.last().first().toInt(), 2);
+            desk.table()->setCurrentCell(1, 0); // Delete left no selection
+            desk.keys({Qt::Key_Right, Qt::Key_F2});
+            auto types = desk.findChild<QComboBox*>(QStringLiteral("cellCombo"));
+            QTRY_VERIFY(types->view()->isVisible());
+            QTest::keyClick(types->view(), Qt::Key_Down);
+            QTest::keyClick(types->view(), Qt::Key_Down);
+            QTest::keyClick(types->view(), Qt::Key_Enter);
+            desk.keys({Qt::Key_Left, Qt::Key_F2});
+            QVERIFY(desk.groupCombo()->hasFocus());
+            QTest::keyClick(desk.groupCombo(), Qt::Key_Tab);
+            confirmGroups(QStringLiteral("2-3"));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+            QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("2;3"));
+            QTest::keyClick(desk.groupCombo(), Qt::Key_Escape);
+            QCOMPARE(desk.editors(), QString());
+            QCOMPARE(desk.row(0), firstRow);
+            QVERIFY2(desk.row(1).startsWith(lastRow), qPrintable(desk.row(1)));
+            QVERIFY(desk.page->checkVals());
+            desk.page->writeToZob();
+        }
+        project.reopen();
+        QStringList stored;
+        for (const tagZOB_QUAD_RIM& found : project.records())
+            stored << QStringLiteral("%1:%2").arg(found.group).arg(found.type);
+        QCOMPARE(stored.join(QLatin1Char(' ')), QStringLiteral("-1:1 2:2 3:2"));
+    }
+
+    void aTypeChangesNothingElse()
+    {
+        HostProject project(QStringLiteral("slab"));
+        tagZOB_QUAD_RIM before = record(1, 3, 7);
+        before.dioi = 12;
+        project.setRecords({record(-1, 1, 0), before});
         DesignDesk desk(project);
-        QSignalSpy counted(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged);
         desk.page->readZob();
-        desk.keys({Qt::Key_Insert, Qt::Key_Insert, Qt::Key_Down, Qt::Key_Down, Qt::Key_Delete});
-        QCOMPARE(counted.size(), 4);
-        QCOMPARE(counted.last().first().toInt(), 2);
-        desk.table()->setCurrentCell(1, 0); // Delete left no selection
-        desk.keys({Qt::Key_Right, Qt::Key_F2});
-        auto types = desk.findChild<QComboBox*>(QStringLiteral("cellCombo"));
-        QTRY_VERIFY(types->view()->isVisible());
-        QTest::keyClick(types->view(), Qt::Key_Down);
-        QTest::keyClick(types->view(), Qt::Key_Down);
-        QTest::keyClick(types->view(), Qt::Key_Enter);
-        desk.keys({Qt::Key_Left, Qt::Key_F2});
-        QVERIFY(desk.groupCombo()->hasFocus());
-        QTest::keyClick(desk.groupCombo(), Qt::Key_Tab);
-        confirmGroups(QStringLiteral("2-3"));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("2;3"));
-        QTest::keyClick(desk.groupCombo(), Qt::Key_Escape);
-        QCOMPARE(desk.editors(), QString());
-        QCOMPARE(desk.row(0), firstRow);
-        QVERIFY2(desk.row(1).startsWith(lastRow), qPrintable(desk.row(1)));
-        QVERIFY(desk.page->checkVals());
+        QVERIFY(desk.table()->item(1, 3)->text().contains(QLatin1String("7.00")));
+        desk.table()->item(1, 1)->setText(QStringLiteral("Two Layers"));
         desk.page->writeToZob();
+        tagZOB_QUAD_RIM after = project.records().at(1);
+        QCOMPARE(after.type, 2);
+        after.type = 3;
+        QVERIFY(std::memcmp(&after, &before, sizeof before) == 0);
+        desk.table()->item(1, 1)->setText(QStringLiteral("No design"));
+        QCOMPARE(desk.row(1), QStringLiteral("1|No design|||"));
     }
-    project.reopen();
-    QStringList stored;
-    for (const tagZOB_QUAD_RIM& found : project.records())
-        stored << QStringLiteral("%1:%2").arg(found.group).arg(found.type);
-    QCOMPARE(stored.join(QLatin1Char(' ')), QStringLiteral("-1:1 2:2 3:2"));
-}
 
-void tst_designPage::aTypeChangesNothingElse()
-{
-    HostProject project(QStringLiteral("slab"));
-    tagZOB_QUAD_RIM before = record(1, 3, 7);
-    before.dioi = 12;
-    project.setRecords({record(-1, 1, 0), before});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    QVERIFY(desk.table()->item(1, 3)->text().contains(QLatin1String("7.00")));
-    desk.table()->item(1, 1)->setText(QStringLiteral("Two Layers"));
-    desk.page->writeToZob();
-    tagZOB_QUAD_RIM after = project.records().at(1);
-    QCOMPARE(after.type, 2);
-    after.type = 3;
-    QVERIFY(std::memcmp(&after, &before, sizeof before) == 0);
-    desk.table()->item(1, 1)->setText(QStringLiteral("No design"));
-    QCOMPARE(desk.row(1), QStringLiteral("1|No design|||"));
-}
-
-void tst_designPage::editorsComeAndGo()
-{
-    HostProject project(QStringLiteral("slab"));
-    project.setRecords({record(-1, 1, 0), record(1, 2, 1), record(2, 0, 2), record(3, 4, 3)});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    const auto select = [&](int row, int column) {
-        desk.table()->setCurrentCell(row, column);
-        return desk.editors();
-    };
-    const auto again = [&] {
-        Q_EMIT desk.table()->itemSelectionChanged();
-        return desk.editors();
-    };
-    QCOMPARE(select(0, 2), QStringLiteral("0,2"));
-    QCOMPARE(select(1, 0), QStringLiteral("1,0"));
-    QCOMPARE(desk.row(1).section(QLatin1Char('|'), 0, 0), QString()); // the combo shows it
-    QCOMPARE(select(1, 3), QStringLiteral("1,3"));
-    QCOMPARE(desk.row(1).section(QLatin1Char('|'), 0, 0), QStringLiteral("1"));
-    QCOMPARE(select(0, 0), QStringLiteral("1,3")); // stays open
-    QCOMPARE(select(3, 4), QStringLiteral("3,4"));
-    QCOMPARE(again(), QString());
-    QCOMPARE(again(), QStringLiteral("3,4"));
-    QTest::keyClick(desk.table(), Qt::Key_Escape);
-    QCOMPARE(desk.editors(), QString());
-    QCOMPARE(select(3, 2), QStringLiteral("3,2"));
-    // No design: the old editor goes, its place is remembered, and going back there counts as a
-    // second selection.
-    QCOMPARE(select(2, 2), QString());
-    QCOMPARE(select(3, 2), QString());
-    QCOMPARE(again(), QStringLiteral("3,2"));
-    QCOMPARE(select(3, 1), QString());
-    desk.table()->setCurrentItem(nullptr);
-    QCOMPARE(desk.editors(), QString());
-}
-
-/// Clicks go to the window, as the window system sends them.
-void tst_designPage::editorAwayFromTheCurrentCell()
-{
-    HostProject project(QStringLiteral("slab"));
-    project.setRecords({record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    const auto click = [&desk](QWidget* widget) {
-        QTest::mouseClick(desk.windowHandle(), Qt::LeftButton, {},
-                          widget->mapTo(&desk, widget->rect().center()));
-    };
-    desk.table()->setCurrentCell(1, 0);
-    desk.table()->setCurrentCell(0, 0);
-    confirmGroups(QStringLiteral("3"));
-    click(desk.findChild<QPushButton*>(QStringLiteral("buttonGroups")));
-    QCOMPARE(desk.table()->currentIndex(), desk.table()->model()->index(1, 0));
-    QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
-    desk.table()->setCurrentCell(2, 2);
-    desk.table()->setCurrentCell(0, 0);
-    bool opened = false;
-    whenModal([&opened](QWidget* dialog) {
-        opened = true;
-        dialog->close();
-    });
-    click(desk.table()->cellWidget(2, 2));
-    QVERIFY(opened);
-    QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|3|2"));
-    QCOMPARE(desk.editors(), QStringLiteral("2,2"));
-}
-
-void tst_designPage::recordDialogsWriteOnOkAlone_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("edit");
-    QTest::newRow("directions") << 2 << QStringLiteral("rio");
-    QTest::newRow("reinforcement, after its calculator") << 3 << QStringLiteral("aso");
-    QTest::newRow("cracks") << 4 << QStringLiteral("stressSIGO");
-}
-
-void tst_designPage::recordDialogsWriteOnOkAlone()
-{
-    QFETCH(int, column);
-    QFETCH(QString, edit);
-    HostProject project(QStringLiteral("slab"));
-    project.setRecords({record(-1, 1, 0), record(1, 2, 1)});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    desk.table()->setCurrentCell(1, column);
-    const QString before = desk.row(1);
-    const auto editAndLeave = [&](bool accepts) {
-        whenModal([=](QWidget* dialog) {
-            if (auto calculator = dialog->findChild<QPushButton*>(QStringLiteral("Calc"))) {
-                whenModal([](QWidget* opened) { qobject_cast<QDialog*>(opened)->accept(); });
-                calculator->click();
-            }
-            auto field = dialog->findChild<QLineEdit*>(edit);
-            field->selectAll();
-            QTest::keyClicks(field, QStringLiteral("33"));
-            QDialog* asDialog = qobject_cast<QDialog*>(dialog);
-            accepts ? asDialog->accept() : asDialog->reject();
-        });
-        desk.keys({Qt::Key_F2});
-        return desk.row(1);
-    };
-    QCOMPARE(editAndLeave(false), before);
-    const QString after = editAndLeave(true);
-    QVERIFY(after != before && after.contains(QLatin1String("33.0")));
-}
-
-void tst_designPage::deletingAndMoving()
-{
-    HostProject project(QStringLiteral("slab"));
-    project.setRecords(
-        {record(-1, 1, 0), record(1, 1, 1), record(2, 1, 2), record(3, 1, 3), record(4, 1, 4)});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    QSignalSpy counted(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged);
-    const auto groupsAfter = [&](const char* button, int row) {
-        desk.table()->setCurrentCell(row, 2);
-        desk.press(button);
-        return desk.groups();
-    };
-    QTableWidget* table = desk.table();
-    table->setRangeSelected({0, 1, 0, 1}, true);
-    table->setRangeSelected({3, 1, 3, 1}, true);
-    desk.press("btnDelete");
-    QCOMPARE(counted.size(), 0);
-    QCOMPARE(groupsAfter("btnUp", 2), QStringLiteral("Remaining Groups|2|1|3|4"));
-    QCOMPARE(table->currentIndex(), table->model()->index(1, 2));
-    QCOMPARE(desk.editors(), QStringLiteral("1,2"));
-    desk.press("btnUp"); // nothing takes the place of the first row
-    QCOMPARE(groupsAfter("btnDown", 1), QStringLiteral("Remaining Groups|1|2|3|4"));
-    QCOMPARE(groupsAfter("btnDown", 4), QStringLiteral("Remaining Groups|1|2|3|4"));
-    QCOMPARE(groupsAfter("btnDown", 0), QStringLiteral("Remaining Groups|1|2|3|4"));
-    table->setCurrentItem(nullptr);
-    desk.press("btnDown");
-    desk.press("btnUp");
-    table->setCurrentCell(4, 0);
-    table->setRangeSelected({2, 2, 2, 2}, true);
-    desk.press("btnDelete");
-    QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|3"));
-    QCOMPARE(counted.size(), 1);
-    QCOMPARE(desk.editors(), QString());
-    desk.press("btnNew");
-    QCOMPARE(desk.row(3), QStringLiteral("None|No design|||"));
-    for (int row = 0; row < 4; ++row) // no text is cut
-        QVERIFY(table->rowHeight(row) >=
-                table->sizeHintForIndex(table->model()->index(row, 2)).height());
-    desk.page->writeToZob();
-    QCOMPARE(project.records().size(), std::size_t(3));
-}
-
-void tst_designPage::entriesOfTheGroupCombo_data()
-{
-    QTest::addColumn<QVector<int>>("groups");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("entries");
-    QTest::newRow("nobody has the remaining ones, none here")
-        << QVector<int>{1} << QString() << QStringLiteral("*None|Remaining Groups");
-    QTest::newRow("nobody has the remaining ones, groups here")
-        << QVector<int>{1} << QStringLiteral("4 3") << QStringLiteral("None|Remaining Groups|*3;4");
-    QTest::newRow("another row has them, none here")
-        << QVector<int>{-1} << QString() << QStringLiteral("*None");
-    QTest::newRow("another row has them, groups here")
-        << QVector<int>{-1} << QStringLiteral("4 3") << QStringLiteral("None|*3;4");
-}
-
-void tst_designPage::entriesOfTheGroupCombo()
-{
-    QFETCH(QVector<int>, groups);
-    QFETCH(QString, typed);
-    HostProject project(QStringLiteral("slab"));
-    project.setRecords({record(groups.first(), 1, 0)});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    desk.press("btnNew");
-    desk.table()->setCurrentCell(1, 0);
-    if (!typed.isEmpty()) {
-        confirmGroups(typed);
-        desk.press("buttonGroups");
-    }
-    QTEST(entriesOf(desk.groupCombo()), "entries");
-    // Choosing the list again changes nothing, also where it has the second place.
-    choose(desk.groupCombo(), Qt::Key_End);
-    desk.table()->setCurrentCell(1, 1);
-    desk.table()->setCurrentCell(1, 0);
-    if (!typed.isEmpty())
-        QTEST(entriesOf(desk.groupCombo()), "entries");
-}
-
-void tst_designPage::choosingRemainingGroups()
-{
-    HostProject project(QStringLiteral("slab"));
-    project.setRecords({record(4, 1, 0), record(1, 1, 1), record(2, 1, 2)});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    const auto entriesAt = [&](int row) {
-        desk.table()->setCurrentCell(row, 0);
-        return entriesOf(desk.groupCombo());
-    };
-    QCOMPARE(entriesAt(1), QStringLiteral("None|Remaining Groups|*1"));
-    choose(desk.groupCombo(), Qt::Key_Up);
-    QCOMPARE(entriesAt(2), QStringLiteral("None|*2"));
-    QCOMPARE(desk.groups(), QStringLiteral("4|Remaining Groups|"));
-    QCOMPARE(entriesAt(1), QStringLiteral("None|*Remaining Groups"));
-    choose(desk.groupCombo(), Qt::Key_Up);
-    QCOMPARE(entriesAt(2), QStringLiteral("None|Remaining Groups|*2"));
-    choose(desk.groupCombo(), Qt::Key_Home);
-    choose(desk.groupCombo(), Qt::Key_End); // the list is still an entry, but empty by now
-    QCOMPARE(entriesAt(1), QStringLiteral("*None|Remaining Groups"));
-    QCOMPARE(desk.groups(), QStringLiteral("4||None"));
-}
-
-void tst_designPage::dialogsKnowTheGroupsOfOtherRows()
-{
-    HostProject project(QStringLiteral("slab"));
-    project.setRecords({record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2)});
-    DesignDesk desk(project);
-    desk.page->readZob();
-    desk.table()->setCurrentCell(1, 0);
-    whenModal([](QWidget* dialog) {
-        const auto list = dialog->findChild<QAbstractItemView*>(QStringLiteral("groups"))->model();
-        QStringList used;
-        for (int row = 0; row < list->rowCount(); ++row)
-            used << list->index(row, list->columnCount() - 1).data().toString();
-        QVERIFY(!used.at(0).isEmpty() && used.at(1).isEmpty() && used.at(2).isEmpty());
-        dialog->close();
-    });
-    desk.press("buttonGroups");
-    QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
-    confirmGroups(QStringLiteral("OPEN"));
-    desk.press("buttonSekGroups");
-    QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("OPEN"));
-    desk.table()->setCurrentCell(1, 1);
-    desk.page->writeToZob();
-    QVERIFY(project.records().at(1).group > 1000000);
-
-    HostProject bare{QString()};
-    DesignDesk without(bare);
-    without.page->readZob();
-    without.press("btnNew");
-    without.table()->setCurrentCell(1, 0);
-    for (const char* name : {"buttonGroups", "buttonSekGroups"})
-        QVERIFY(!without.findChild<QPushButton*>(QLatin1String(name))->isEnabled());
-}
-
-void tst_designPage::detourOutOfTheDialog()
-{
-    HostProject project(QStringLiteral("slab"));
-    DesignDesk desk(project);
-    desk.page->readZob();
-    desk.press("btnNew");
-    desk.hide();
-    const std::vector<int> picks[] = {{4, 2}, {3}, {}};
-    for (const std::vector<int>& pick : picks) {
-        whenModal([&desk, pick](QWidget*) {
-            desk.table()->setCurrentCell(1, 0);
-            if (pick.empty()) {
-                confirmGroups(QStringLiteral("1"));
-                desk.press("buttonGroups");
-            }
-            whenModal([](QWidget* groups) {
-                QTest::mouseClick(groups->findChild<QPushButton*>(QStringLiteral("pick")),
-                                  Qt::LeftButton);
-            });
-            desk.press("buttonGroups");
-        });
-        QCOMPARE(desk.exec(), 6);
-        if (!pick.empty()) // who picks nothing keeps what the row had, and not the last pick
-            VKD_H_SelGRP_Dialog::putAniSelectionToZob(project.doc()->index(), pick);
-        whenModal([&desk](QWidget*) { desk.accept(); });
-        QCOMPARE(desk.exec(), int(QDialog::Accepted));
-        QCOMPARE(desk.groupCombo()->currentText(), pick.size() == 2   ? QStringLiteral("2;4")
-                                                   : pick.size() == 1 ? QStringLiteral("3")
-                                                                      : QStringLiteral("1"));
-        desk.table()->setCurrentCell(1, 1);
-    }
-}
-
-void tst_designPage::leavingThePage()
-{
-    HostProject project(QStringLiteral("slab"));
-    DesignDesk desk(project);
-    desk.page->readZob();
-    QVERIFY(desk.page->checkVals());
-    desk.press("btnNew");
-    const auto answered = [&](Qt::Key key, QMessageBox::StandardButton button) {
-        whenModal([=](QWidget* box) {
-            QCOMPARE(box->property("text").toString(),
-                     QStringLiteral("No groups selected.\nPossible loss of data!"));
-            if (button == QMessageBox::NoButton)
-                QTest::keyClick(box, key);
-            else
-                qobject_cast<QMessageBox*>(box)->button(button)->click();
-        });
-        return desk.page->checkVals();
-    };
-    QVERIFY(!answered(Qt::Key_unknown, QMessageBox::No));
-    QVERIFY(answered(Qt::Key_unknown, QMessageBox::Yes));
-    QVERIFY(answered(Qt::Key_Escape, QMessageBox::NoButton));
-}
-
-void tst_designPage::rowsWithoutGroupsStayWithThePage()
-{
-    HostProject project(QStringLiteral("slab"));
-    VKD_H_ProjectDialogPage entries;
+    void editorsComeAndGo()
     {
+        HostProject project(QStringLiteral("slab"));
+        project.setRecords({record(-1, 1, 0), record(1, 2, 1), record(2, 0, 2), record(3, 4, 3)});
+        DesignDesk desk(project);
+        desk.page->readZob();
+        const auto select = [&](int row, int column) {
+            desk.table()->setCurrentCell(row, column);
+            return desk.editors();
+        };
+        const auto again = [&] {
+            Q_EMIT desk.table()->itemSelectionChanged();
+            return desk.editors();
+        };
+        QCOMPARE(select(0, 2), QStringLiteral("0,2"));
+        QCOMPARE(select(1, 0), QStringLiteral("1,0"));
+        QCOMPARE(desk.row(1).section(QLatin1Char('|'), 0, 0), QString()); // the combo shows it
+        QCOMPARE(select(1, 3), QStringLiteral("1,3"));
+        QCOMPARE(desk.row(1).section(QLatin1Char('|'), 0, 0), QStringLiteral("1"));
+        QCOMPARE(select(0, 0), QStringLiteral("1,3")); // stays open
+        QCOMPARE(select(3, 4), QStringLiteral("3,4"));
+        QCOMPARE(again(), QString());
+        QCOMPARE(again(), QStringLiteral("3,4"));
+        QTest::keyClick(desk.table(), Qt::Key_Escape);
+        QCOMPARE(desk.editors(), QString());
+        QCOMPARE(select(3, 2), QStringLiteral("3,2"));
+        // No design: the old editor goes, its place is remembered, and going back there counts as a
+        // second selection.
+        QCOMPARE(select(2, 2), QString());
+        QCOMPARE(select(3, 2), QString());
+        QCOMPARE(again(), QStringLiteral("3,2"));
+        QCOMPARE(select(3, 1), QString());
+        desk.table()->setCurrentItem(nullptr);
+        QCOMPARE(desk.editors(), QString());
+    }
+
+    /// Clicks go to the window, as the window system sends them.
+    void editorAwayFromTheCurrentCell()
+    {
+        HostProject project(QStringLiteral("slab"));
+        project.setRecords({record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
+        DesignDesk desk(project);
+        desk.page->readZob();
+        const auto click = [&desk](QWidget* widget) {
+            QTest::mouseClick(desk.windowHandle(), Qt::LeftButton, {},
+                              widget->mapTo(&desk, widget->rect().center()));
+        };
+        desk.table()->setCurrentCell(1, 0);
+        desk.table()->setCurrentCell(0, 0);
+        confirmGroups(QStringLiteral("3"));
+        click(desk.findChild<QPushButton*>(QStringLiteral("buttonGroups")));
+        QCOMPARE(desk.table()->currentIndex(), desk.table()->model()->index(1, 0));
+        QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
+        desk.table()->setCurrentCell(2, 2);
+        desk.table()->setCurrentCell(0, 0);
+        bool opened = false;
+        whenModal([&opened](QWidget* dialog) {
+            opened = true;
+            dialog->close();
+        });
+        click(desk.table()->cellWidget(2, 2));
+        QVERIFY(opened);
+        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|3|2"));
+        QCOMPARE(desk.editors(), QStringLiteral("2,2"));
+    }
+
+    void recordDialogsWriteOnOkAlone_data()
+    {
+        const Columns<int, QString> row("column", "edit");
+        row("directions", 2, "rio");
+        row("reinforcement, after its calculator", 3, "aso");
+        row("cracks", 4, "stressSIGO");
+    }
+
+    void recordDialogsWriteOnOkAlone()
+    {
+        QFETCH(int, column);
+        QFETCH(QString, edit);
+        HostProject project(QStringLiteral("slab"));
+        project.setRecords({record(-1, 1, 0), record(1, 2, 1)});
+        DesignDesk desk(project);
+        desk.page->readZob();
+        desk.table()->setCurrentCell(1, column);
+        const QString before = desk.row(1);
+        const auto editAndLeave = [&](bool accepts) {
+            whenModal([=](QWidget* dialog) {
+                if (auto calculator = dialog->findChild<QPushButton*>(QStringLiteral("Calc"))) {
+                    whenModal([](QWidget* opened) { qobject_cast<QDialog*>(opened)->accept(); });
+                    calculator->click();
+                }
+                auto field = dialog->findChild<QLineEdit*>(edit);
+                field->selectAll();
+                QTest::keyClicks(field, QStringLiteral("33"));
+                QDialog* asDialog = qobject_cast<QDialog*>(dialog);
+                accepts ? asDialog->accept() : asDialog->reject();
+            });
+            desk.keys({Qt::Key_F2});
+            return desk.row(1);
+        };
+        QCOMPARE(editAndLeave(false), before);
+        const QString after = editAndLeave(true);
+        QVERIFY(after != before && after.contains(QLatin1String("33.0")));
+    }
+
+    void deletingAndMoving()
+    {
+        HostProject project(QStringLiteral("slab"));
+        project.setRecords(
+            {record(-1, 1, 0), record(1, 1, 1), record(2, 1, 2), record(3, 1, 3), record(4, 1, 4)});
+        DesignDesk desk(project);
+        desk.page->readZob();
+        QSignalSpy counted(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged);
+        const auto groupsAfter = [&](const char* button, int row) {
+            desk.table()->setCurrentCell(row, 2);
+            desk.press(button);
+            return desk.groups();
+        };
+        QTableWidget* table = desk.table();
+        table->setRangeSelected({0, 1, 0, 1}, true);
+        table->setRangeSelected({3, 1, 3, 1}, true);
+        desk.press("btnDelete");
+        QCOMPARE(counted.size(), 0);
+        QCOMPARE(groupsAfter("btnUp", 2), QStringLiteral("Remaining Groups|2|1|3|4"));
+        QCOMPARE(table->currentIndex(), table->model()->index(1, 2));
+        QCOMPARE(desk.editors(), QStringLiteral("1,2"));
+        desk.press("btnUp"); // nothing takes the place of the first row
+        QCOMPARE(groupsAfter("btnDown", 1), QStringLiteral("Remaining Groups|1|2|3|4"));
+        QCOMPARE(groupsAfter("btnDown", 4), QStringLiteral("Remaining Groups|1|2|3|4"));
+        QCOMPARE(groupsAfter("btnDown", 0), QStringLiteral("Remaining Groups|1|2|3|4"));
+        table->setCurrentItem(nullptr);
+        desk.press("btnDown");
+        desk.press("btnUp");
+        table->setCurrentCell(4, 0);
+        table->setRangeSelected({2, 2, 2, 2}, true);
+        desk.press("btnDelete");
+        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|3"));
+        QCOMPARE(counted.size(), 1);
+        QCOMPARE(desk.editors(), QString());
+        desk.press("btnNew");
+        QCOMPARE(desk.row(3), QStringLiteral("None|No design|||"));
+        for (int row = 0; row < 4; ++row) // no text is cut
+            QVERIFY(table->rowHeight(row) >=
+                    table->sizeHintForIndex(table->model()->index(row, 2)).height());
+        desk.page->writeToZob();
+        QCOMPARE(project.records().size(), std::size_t(3));
+    }
+
+    void entriesOfTheGroupCombo_data()
+    {
+        const Columns<QVector<int>, QString, QString> row("groups", "typed", "entries");
+        row("nobody has the remaining ones, none here", {1}, {}, "*None|Remaining Groups");
+        row("nobody has the remaining ones, groups here", {1}, "4 3", "None|Remaining Groups|*3;4");
+        row("another row has them, none here", {-1}, {}, "*None");
+        row("another row has them, groups here", {-1}, "4 3", "None|*3;4");
+    }
+
+    void entriesOfTheGroupCombo()
+    {
+        QFETCH(QVector<int>, groups);
+        QFETCH(QString, typed);
+        HostProject project(QStringLiteral("slab"));
+        project.setRecords({record(groups.first(), 1, 0)});
+        DesignDesk desk(project);
+        desk.page->readZob();
+        desk.press("btnNew");
+        desk.table()->setCurrentCell(1, 0);
+        if (!typed.isEmpty()) {
+            confirmGroups(typed);
+            desk.press("buttonGroups");
+        }
+        QTEST(entriesOf(desk.groupCombo()), "entries");
+        // Choosing the list again changes nothing, also where it has the second place.
+        choose(desk.groupCombo(), Qt::Key_End);
+        desk.table()->setCurrentCell(1, 1);
+        desk.table()->setCurrentCell(1, 0);
+        if (!typed.isEmpty())
+            QTEST(entriesOf(desk.groupCombo()), "entries");
+    }
+
+    void choosingRemainingGroups()
+    {
+        HostProject project(QStringLiteral("slab"));
+        project.setRecords({record(4, 1, 0), record(1, 1, 1), record(2, 1, 2)});
+        DesignDesk desk(project);
+        desk.page->readZob();
+        const auto entriesAt = [&](int row) {
+            desk.table()->setCurrentCell(row, 0);
+            return entriesOf(desk.groupCombo());
+        };
+        QCOMPARE(entriesAt(1), QStringLiteral("None|Remaining Groups|*1"));
+        choose(desk.groupCombo(), Qt::Key_Up);
+        QCOMPARE(entriesAt(2), QStringLiteral("None|*2"));
+        QCOMPARE(desk.groups(), QStringLiteral("4|Remaining Groups|"));
+        QCOMPARE(entriesAt(1), QStringLiteral("None|*Remaining Groups"));
+        choose(desk.groupCombo(), Qt::Key_Up);
+        QCOMPARE(entriesAt(2), QStringLiteral("None|Remaining Groups|*2"));
+        choose(desk.groupCombo(), Qt::Key_Home);
+        choose(desk.groupCombo(), Qt::Key_End); // the list is still an entry, but empty by now
+        QCOMPARE(entriesAt(1), QStringLiteral("*None|Remaining Groups"));
+        QCOMPARE(desk.groups(), QStringLiteral("4||None"));
+    }
+
+    void dialogsKnowTheGroupsOfOtherRows()
+    {
+        HostProject project(QStringLiteral("slab"));
+        project.setRecords({record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2)});
+        DesignDesk desk(project);
+        desk.page->readZob();
+        desk.table()->setCurrentCell(1, 0);
+        whenModal([](QWidget* dialog) {
+            const auto list =
+                dialog->findChild<QAbstractItemView*>(QStringLiteral("groups"))->model();
+            QStringList used;
+            for (int row = 0; row < list->rowCount(); ++row)
+                used << list->index(row, list->columnCount() - 1).data().toString();
+            QVERIFY(!used.at(0).isEmpty() && used.at(1).isEmpty() && used.at(2).isEmpty());
+            dialog->close();
+        });
+        desk.press("buttonGroups");
+        QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
+        confirmGroups(QStringLiteral("OPEN"));
+        desk.press("buttonSekGroups");
+        QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("OPEN"));
+        desk.table()->setCurrentCell(1, 1);
+        desk.page->writeToZob();
+        QVERIFY(project.records().at(1).group > 1000000);
+
+        HostProject bare{QString()};
+        DesignDesk without(bare);
+        without.page->readZob();
+        without.press("btnNew");
+        without.table()->setCurrentCell(1, 0);
+        for (const char* name : {"buttonGroups", "buttonSekGroups"})
+            QVERIFY(!without.findChild<QPushButton*>(QLatin1String(name))->isEnabled());
+    }
+
+    void detourOutOfTheDialog()
+    {
+        HostProject project(QStringLiteral("slab"));
+        DesignDesk desk(project);
+        desk.page->readZob();
+        desk.press("btnNew");
+        desk.hide();
+        const std::vector<int> picks[] = {{4, 2}, {3}, {}};
+        for (const std::vector<int>& pick : picks) {
+            whenModal([&desk, pick](QWidget*) {
+                desk.table()->setCurrentCell(1, 0);
+                if (pick.empty()) {
+                    confirmGroups(QStringLiteral("1"));
+                    desk.press("buttonGroups");
+                }
+                whenModal([](QWidget* groups) {
+                    QTest::mouseClick(groups->findChild<QPushButton*>(QStringLiteral("pick")),
+                                      Qt::LeftButton);
+                });
+                desk.press("buttonGroups");
+            });
+            QCOMPARE(desk.exec(), 6);
+            if (!pick.empty()) // who picks nothing keeps what the row had, and not the last pick
+                VKD_H_SelGRP_Dialog::putAniSelectionToZob(project.doc()->index(), pick);
+            whenModal([&desk](QWidget*) { desk.accept(); });
+            QCOMPARE(desk.exec(), int(QDialog::Accepted));
+            QCOMPARE(desk.groupCombo()->currentText(), pick.size() == 2   ? QStringLiteral("2;4")
+                                                       : pick.size() == 1 ? QStringLiteral("3")
+                                                                          : QStringLiteral("1"));
+            desk.table()->setCurrentCell(1, 1);
+        }
+    }
+
+    void leavingThePage()
+    {
+        HostProject project(QStringLiteral("slab"));
+        DesignDesk desk(project);
+        desk.page->readZob();
+        QVERIFY(desk.page->checkVals());
+        desk.press("btnNew");
+        const auto answered = [&](Qt::Key key, QMessageBox::StandardButton button) {
+            whenModal([=](QWidget* box) {
+                QCOMPARE(box->property("text").toString(),
+                         QStringLiteral("No groups selected.\nPossible loss of data!"));
+                if (button == QMessageBox::NoButton)
+                    QTest::keyClick(box, key);
+                else
+                    qobject_cast<QMessageBox*>(box)->button(button)->click();
+            });
+            return desk.page->checkVals();
+        };
+        QVERIFY(!answered(Qt::Key_unknown, QMessageBox::No));
+        QVERIFY(answered(Qt::Key_unknown, QMessageBox::Yes));
+        QVERIFY(answered(Qt::Key_Escape, QMessageBox::NoButton));
+    }
+
+    void rowsWithoutGroupsStayWithThePage()
+    {
+        HostProject project(QStringLiteral("slab"));
+        VKD_H_ProjectDialogPage entries;
+        {
+            DesignDesk desk(project);
+            desk.page->getEntrys(entries);
+            desk.press("btnNew");
+            desk.table()->item(1, 1)->setText(QStringLiteral("Circular"));
+            QVERIFY(desk.page->checkVals()); // would hang with a question
+            desk.page->setEntrys(entries);
+        }
         DesignDesk desk(project);
         desk.page->getEntrys(entries);
-        desk.press("btnNew");
-        desk.table()->item(1, 1)->setText(QStringLiteral("Circular"));
-        QVERIFY(desk.page->checkVals()); // would hang with a question
-        desk.page->setEntrys(entries);
+        QVERIFY2(desk.row(1).startsWith(QStringLiteral("None|Circular|0.0° ;0.0°")),
+                 qPrintable(desk.row(1)));
     }
-    DesignDesk desk(project);
-    desk.page->getEntrys(entries);
-    QVERIFY2(desk.row(1).startsWith(QStringLiteral("None|Circular|0.0° ;0.0°")),
-             qPrintable(desk.row(1)));
-}
 
-void tst_designPage::helpIsFound()
-{
-    HostProject project{QString()};
-    DesignDesk desk(project);
-    const QWidgetList before = QApplication::topLevelWidgets();
-    desk.page->showHelp();
-    QWidget* opened = nullptr;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (!before.contains(window) && window->isVisible() && window->isWindow())
-            opened = window;
-    QVERIFY(opened);
-    opened->close();
-}
+    void helpIsFound()
+    {
+        HostProject project{QString()};
+        DesignDesk desk(project);
+        const QWidgetList before = QApplication::topLevelWidgets();
+        desk.page->showHelp();
+        QWidget* opened = nullptr;
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (!before.contains(window) && window->isVisible() && window->isWindow())
+                opened = window;
+        QVERIFY(opened);
+        opened->close();
+    }
+};
 
 PLIB_WIDGET_TEST_MAIN(tst_designPage)
 #include "tst_designPage.moc"

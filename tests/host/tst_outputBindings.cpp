@@ -29,193 +29,185 @@ class tst_outputBindings : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void loadCasesOfABoundTable();
-    void numbersOfABoundTable_data();
-    void numbersOfABoundTable();
-    void switchOfAContentTag();
-    void viewsAndTheAnimator();
-    void firstShow();
-};
+    void initTestCase()
+    {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        qRegisterMetaType<AnimatorViewControl>();
+    }
 
-void tst_outputBindings::initTestCase()
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-    qRegisterMetaType<AnimatorViewControl>();
-}
+    void loadCasesOfABoundTable()
+    {
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project);
+        VKD_H_TableWidget table(0, 3);
+        const StructLineEdit number = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(-1);
+        const QString text = QStringLiteral("header");
+        table.setHorizontalHeaderItem(
+            0, new VKD_H_TwHeaderLineEditItem(0, number, text, text, true, Qt::AlignRight));
+        table.setHorizontalHeaderItem(
+            1, new VKD_H_TwHeaderCheckBoxItem(1, text, text, true, Qt::AlignCenter));
+        table.setHorizontalHeaderItem(2,
+                                      new VKD_H_TwHeaderItem(2, text, text, true, Qt::AlignLeft));
+        VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
+        binding.reset(); // not bound yet
+        binding.setWidgets(&desk.page, &table, 0, 1, 2);
+        QSignalSpy rebuilt(desk.tree()->model(), &QAbstractItemModel::modelReset);
+        const auto rows = [&desk] {
+            QStringList texts;
+            for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
+                if ((*item)->parent() && (*item)->parent()->parent())
+                    for (int i = 0; i < (*item)->childCount(); ++i)
+                        texts << (*item)->child(i)->text(0);
+            return texts.join(QLatin1Char('|'));
+        };
+        for (int value : {7, 3}) {
+            table.addNewRow(true);
+            dynamic_cast<VKD_H_TwSimpleLineEditItem*>(table.item(table.rowCount() - 1, 0))
+                ->setVal(value);
+        }
+        QCOMPARE(rows(), QString()); // no box is checked
+        for (int row : {0, 1})
+            dynamic_cast<VKD_H_TwSimpleCheckBoxItem*>(table.item(row, 1))->setChecked(true);
+        QCOMPARE(rows(), QStringLiteral("3 |7 "));
+        table.item(0, 2)->setText(QStringLiteral("Wind"));
+        QCOMPARE(rows(), QStringLiteral("3 |7 : Wind"));
+        rebuilt.clear();
+        desk.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+        table.item(0, 2)->setToolTip(text);
+        binding.reset();
+        QCOMPARE(rebuilt.size(), 0);
+        QCOMPARE(desk.tree()->topLevelItem(0)->checkState(0), Qt::Unchecked);
+        table.removeRow(0);
+        QCOMPARE(rows(), QStringLiteral("3 "));
+    }
 
-void tst_outputBindings::loadCasesOfABoundTable()
-{
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project);
-    VKD_H_TableWidget table(0, 3);
-    const StructLineEdit number = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(-1);
-    const QString text = QStringLiteral("header");
-    table.setHorizontalHeaderItem(
-        0, new VKD_H_TwHeaderLineEditItem(0, number, text, text, true, Qt::AlignRight));
-    table.setHorizontalHeaderItem(
-        1, new VKD_H_TwHeaderCheckBoxItem(1, text, text, true, Qt::AlignCenter));
-    table.setHorizontalHeaderItem(2, new VKD_H_TwHeaderItem(2, text, text, true, Qt::AlignLeft));
-    VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
-    binding.reset(); // not bound yet
-    binding.setWidgets(&desk.page, &table, 0, 1, 2);
-    QSignalSpy rebuilt(desk.tree()->model(), &QAbstractItemModel::modelReset);
-    const auto rows = [&desk] {
+    void numbersOfABoundTable_data()
+    {
+        // lines: of the first plot that binds to load cases
+        const Columns<QVector<double>, QString> row("numbers", "lines");
+        row("cut towards zero, the later counts", {3.2, 3.9}, "3.9 ");
+        row("out of any range", {3e9, -3e9, 5}, "5 ");
+        row("in six digits", {123456789}, "1.23457e+08 ");
+        row("below zero", {-0.5, -1.5}, "-1.5 |-0.5 ");
+    }
+
+    void numbersOfABoundTable()
+    {
+        QFETCH(QVector<double>, numbers);
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project);
+        VKD_H_TableWidget table(0, 1);
+        for (double number : numbers) {
+            table.addNewRow(false);
+            auto item =
+                new VKD_H_TwSimpleLineEditItem(VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(-1));
+            item->setVal(number);
+            table.setItem(table.rowCount() - 1, 0, item);
+        }
+        VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
+        binding.setWidgets(&desk.page, &table, 0, -1, -1);
+        binding.reset();
         QStringList texts;
         for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
             if ((*item)->parent() && (*item)->parent()->parent())
                 for (int i = 0; i < (*item)->childCount(); ++i)
                     texts << (*item)->child(i)->text(0);
-        return texts.join(QLatin1Char('|'));
-    };
-    for (int value : {7, 3}) {
-        table.addNewRow(true);
-        dynamic_cast<VKD_H_TwSimpleLineEditItem*>(table.item(table.rowCount() - 1, 0))
-            ->setVal(value);
+        QTEST(texts.join(QLatin1Char('|')), "lines");
     }
-    QCOMPARE(rows(), QString()); // no box is checked
-    for (int row : {0, 1})
-        dynamic_cast<VKD_H_TwSimpleCheckBoxItem*>(table.item(row, 1))->setChecked(true);
-    QCOMPARE(rows(), QStringLiteral("3 |7 "));
-    table.item(0, 2)->setText(QStringLiteral("Wind"));
-    QCOMPARE(rows(), QStringLiteral("3 |7 : Wind"));
-    rebuilt.clear();
-    desk.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-    table.item(0, 2)->setToolTip(text);
-    binding.reset();
-    QCOMPARE(rebuilt.size(), 0);
-    QCOMPARE(desk.tree()->topLevelItem(0)->checkState(0), Qt::Unchecked);
-    table.removeRow(0);
-    QCOMPARE(rows(), QStringLiteral("3 "));
-}
 
-void tst_outputBindings::numbersOfABoundTable_data()
-{
-    QTest::addColumn<QVector<double>>("numbers");
-    QTest::addColumn<QString>("lines"); // of the first plot that binds to load cases
-    QTest::newRow("cut towards zero, the later counts")
-        << QVector<double>{3.2, 3.9} << QStringLiteral("3.9 ");
-    QTest::newRow("out of any range") << QVector<double>{3e9, -3e9, 5} << QStringLiteral("5 ");
-    QTest::newRow("in six digits") << QVector<double>{123456789} << QStringLiteral("1.23457e+08 ");
-    QTest::newRow("below zero") << QVector<double>{-0.5, -1.5} << QStringLiteral("-1.5 |-0.5 ");
-}
-
-void tst_outputBindings::numbersOfABoundTable()
-{
-    QFETCH(QVector<double>, numbers);
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project);
-    VKD_H_TableWidget table(0, 1);
-    for (double number : numbers) {
-        table.addNewRow(false);
-        auto item =
-            new VKD_H_TwSimpleLineEditItem(VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(-1));
-        item->setVal(number);
-        table.setItem(table.rowCount() - 1, 0, item);
-    }
-    VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
-    binding.setWidgets(&desk.page, &table, 0, -1, -1);
-    binding.reset();
-    QStringList texts;
-    for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
-        if ((*item)->parent() && (*item)->parent()->parent())
-            for (int i = 0; i < (*item)->childCount(); ++i)
-                texts << (*item)->child(i)->text(0);
-    QTEST(texts.join(QLatin1Char('|')), "lines");
-}
-
-void tst_outputBindings::switchOfAContentTag()
-{
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project);
-    StructRadioButtonGrup entry;
-    entry.text = QStringLiteral("choice");
-    VKD_QT_RadioButtonGroup group(entry.text, {entry, entry}, nullptr, "group");
-    VKD_P_WidgetGraphicalOutput_AdditionalData binding;
-    binding.setWidget(&desk.page, &group, QStringLiteral("Bric"), 1);
-    const auto plots = [&desk] {
-        int count = 0;
-        for (QTreeWidgetItemIterator item(desk.tree()); *item; ++item)
-            ++count;
-        return count;
-    };
-    const int before = plots();
-    group.getRadioButton(1)->click();
-    QVERIFY(plots() > before); // the slab has no solid elements
-    binding.clicked(1);        // once more
-    group.getRadioButton(0)->click();
-    QCOMPARE(plots(), before);
+    void switchOfAContentTag()
     {
-        Desk gone(project);
-        binding.setWidget(&gone.page, &group, QStringLiteral("Bric"), 1);
-    }
-    binding.clicked(1); // of a page that is there no longer
-}
-
-void tst_outputBindings::viewsAndTheAnimator()
-{
-    HostProject project(QStringLiteral("slab"));
-    QWidget home;
-    auto animator = new AnimatorView(project.doc()->index(), &home);
-    {
-        Desk desk(project, VKD_P_GraphicalOutput_Standard, animator);
-        QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
-        QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), 3);
-        QCOMPARE(commands(sent), QString());
-        QVERIFY(animator->isEnabled());
-        const struct
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project);
+        StructRadioButtonGrup entry;
+        entry.text = QStringLiteral("choice");
+        VKD_QT_RadioButtonGroup group(entry.text, {entry, entry}, nullptr, "group");
+        VKD_P_WidgetGraphicalOutput_AdditionalData binding;
+        binding.setWidget(&desk.page, &group, QStringLiteral("Bric"), 1);
+        const auto plots = [&desk] {
+            int count = 0;
+            for (QTreeWidgetItemIterator item(desk.tree()); *item; ++item)
+                ++count;
+            return count;
+        };
+        const int before = plots();
+        group.getRadioButton(1)->click();
+        QVERIFY(plots() > before); // the slab has no solid elements
+        binding.clicked(1);        // once more
+        group.getRadioButton(0)->click();
+        QCOMPARE(plots(), before);
         {
-            int view;
-            const char* sent;
-            bool enabled;
-        } steps[] = {{4, "7", true},  {0, "6 3", false}, {1, "4", false},
-                     {2, "5", false}, {4, "7", true},    {3, "6 0", false}};
-        for (const auto& step : steps) {
-            desk.choose("PerspectiveGroup", step.view);
-            QCOMPARE(commands(sent), QString::fromLatin1(step.sent)); // the user's camera first
-            QCOMPARE(animator->isEnabled(), step.enabled);
+            Desk gone(project);
+            binding.setWidget(&gone.page, &group, QStringLiteral("Bric"), 1);
         }
-        // The user's camera goes with the page's string.
-        desk.choose("PerspectiveGroup", 4);
-        QTest::keyClick(animator, Qt::Key_Left);
-        const QString kept = desk.page.writeXMLstring();
-        const QString camera = vkd::dbo::getAnimatorPerspektive(0, 1);
-        QVERIFY(desk.page.getTORVAL_BEOB(true) == QLatin1String("TYPE STAN ") + camera);
-        vkd::dbo::setCamera(0, vkd::dbo::Camera());
-        commands(sent);
-        desk.page.readXMLstring(kept);
-        QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
-        QCOMPARE(commands(sent), QStringLiteral("7"));
-        desk.page.readXMLstring(part("Scale", "0")); // without a camera
-        QCOMPARE(commands(sent), QStringLiteral("7"));
-        QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
+        binding.clicked(1); // of a page that is there no longer
     }
-    QCOMPARE(animator->parentWidget(), &home); // and not gone with the page
-}
 
-void tst_outputBindings::firstShow()
-{
-    HostProject project(QStringLiteral("slab"));
-    AnimatorView animator(project.doc()->index());
-    VKD_QT_TabDialog dialog;
-    auto other = new QWidget;
-    auto container = new QWidget;
-    dialog.addTab(other, QStringLiteral("other"));
-    dialog.addTab(container, QStringLiteral("plots"));
-    Desk desk(project, VKD_P_GraphicalOutput_Standard, &animator, container);
-    QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
-    Q_EMIT dialog.currentChanged(other);
-    QCoreApplication::processEvents();
-    QCOMPARE(sent.size(), 0);
-    for (int times = 0; times < 2; ++times) {
-        Q_EMIT dialog.currentChanged(container);
-        QCOMPARE(sent.size(), times); // posted, and once only
-        QCoreApplication::processEvents();
-        QCOMPARE(sent.size(), 1);
+    void viewsAndTheAnimator()
+    {
+        HostProject project(QStringLiteral("slab"));
+        QWidget home;
+        auto animator = new AnimatorView(project.doc()->index(), &home);
+        {
+            Desk desk(project, VKD_P_GraphicalOutput_Standard, animator);
+            QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
+            QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), 3);
+            QCOMPARE(commands(sent), QString());
+            QVERIFY(animator->isEnabled());
+            const struct
+            {
+                int view;
+                const char* sent;
+                bool enabled;
+            } steps[] = {{4, "7", true},  {0, "6 3", false}, {1, "4", false},
+                         {2, "5", false}, {4, "7", true},    {3, "6 0", false}};
+            for (const auto& step : steps) {
+                desk.choose("PerspectiveGroup", step.view);
+                QCOMPARE(commands(sent), QString::fromLatin1(step.sent)); // the user's camera first
+                QCOMPARE(animator->isEnabled(), step.enabled);
+            }
+            // The user's camera goes with the page's string.
+            desk.choose("PerspectiveGroup", 4);
+            QTest::keyClick(animator, Qt::Key_Left);
+            const QString kept = desk.page.writeXMLstring();
+            const QString camera = vkd::dbo::getAnimatorPerspektive(0, 1);
+            QVERIFY(desk.page.getTORVAL_BEOB(true) == QLatin1String("TYPE STAN ") + camera);
+            vkd::dbo::setCamera(0, vkd::dbo::Camera());
+            commands(sent);
+            desk.page.readXMLstring(kept);
+            QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
+            QCOMPARE(commands(sent), QStringLiteral("7"));
+            desk.page.readXMLstring(part("Scale", "0")); // without a camera
+            QCOMPARE(commands(sent), QStringLiteral("7"));
+            QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
+        }
+        QCOMPARE(animator->parentWidget(), &home); // and not gone with the page
     }
-    QCOMPARE(commands(sent), QStringLiteral("0"));
-    QVERIFY(!animator.isEnabled());
-}
+
+    void firstShow()
+    {
+        HostProject project(QStringLiteral("slab"));
+        AnimatorView animator(project.doc()->index());
+        VKD_QT_TabDialog dialog;
+        auto other = new QWidget;
+        auto container = new QWidget;
+        dialog.addTab(other, QStringLiteral("other"));
+        dialog.addTab(container, QStringLiteral("plots"));
+        Desk desk(project, VKD_P_GraphicalOutput_Standard, &animator, container);
+        QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
+        Q_EMIT dialog.currentChanged(other);
+        QCoreApplication::processEvents();
+        QCOMPARE(sent.size(), 0);
+        for (int times = 0; times < 2; ++times) {
+            Q_EMIT dialog.currentChanged(container);
+            QCOMPARE(sent.size(), times); // posted, and once only
+            QCoreApplication::processEvents();
+            QCOMPARE(sent.size(), 1);
+        }
+        QCOMPARE(commands(sent), QStringLiteral("0"));
+        QVERIFY(!animator.isEnabled());
+    }
+};
 
 PLIB_WIDGET_TEST_MAIN(tst_outputBindings)
 #include "tst_outputBindings.moc"

@@ -130,42 +130,39 @@ class tst_outputMonkey : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aFreshPageBecomesTheSame_data();
-    void aFreshPageBecomesTheSame();
+    void aFreshPageBecomesTheSame_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int round = 0; round < Rounds; ++round)
+            QTest::addRow("round %d", round) << Seed + round;
+    }
+
+    void aFreshPageBecomesTheSame()
+    {
+        QFETCH(int, seed);
+        VKD_H_PluginParameter parameter(m_project.doc());
+        AnimatorView animator(m_project.doc()->index());
+        VKD_P_WidgetGraphicalOutput page(nullptr, VKD_P_GraphicalOutput_Standard, &parameter,
+                                         &animator);
+        page.resize(800, 600);
+        page.show();
+        Monkey monkey(&page, &animator, unsigned(seed));
+        for (int step = 0; step < StepsInARound; ++step)
+            monkey.step();
+        const QString kept = page.writeXMLstring();
+        const QString script = page.getTORVAL(QString(), true);
+        AnimatorView otherAnimator(m_project.doc()->index());
+        VKD_P_WidgetGraphicalOutput fresh(nullptr, VKD_P_GraphicalOutput_Standard, &parameter,
+                                          &otherAnimator);
+        fresh.setUsedNumbersAndNames(monkey.rows);
+        fresh.readXMLstring(kept);
+        QCOMPARE(fresh.writeXMLstring(), kept);
+        QCOMPARE(fresh.getTORVAL(QString(), true), script);
+    }
 
 private:
     HostProject m_project{QStringLiteral("hall")};
 };
-
-void tst_outputMonkey::aFreshPageBecomesTheSame_data()
-{
-    QTest::addColumn<int>("seed");
-    for (int round = 0; round < Rounds; ++round)
-        QTest::addRow("round %d", round) << Seed + round;
-}
-
-void tst_outputMonkey::aFreshPageBecomesTheSame()
-{
-    QFETCH(int, seed);
-    VKD_H_PluginParameter parameter(m_project.doc());
-    AnimatorView animator(m_project.doc()->index());
-    VKD_P_WidgetGraphicalOutput page(nullptr, VKD_P_GraphicalOutput_Standard, &parameter,
-                                     &animator);
-    page.resize(800, 600);
-    page.show();
-    Monkey monkey(&page, &animator, unsigned(seed));
-    for (int step = 0; step < StepsInARound; ++step)
-        monkey.step();
-    const QString kept = page.writeXMLstring();
-    const QString script = page.getTORVAL(QString(), true);
-    AnimatorView otherAnimator(m_project.doc()->index());
-    VKD_P_WidgetGraphicalOutput fresh(nullptr, VKD_P_GraphicalOutput_Standard, &parameter,
-                                      &otherAnimator);
-    fresh.setUsedNumbersAndNames(monkey.rows);
-    fresh.readXMLstring(kept);
-    QCOMPARE(fresh.writeXMLstring(), kept);
-    QCOMPARE(fresh.getTORVAL(QString(), true), script);
-}
 
 PLIB_WIDGET_TEST_MAIN(tst_outputMonkey)
 #include "tst_outputMonkey.moc"

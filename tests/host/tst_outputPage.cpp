@@ -33,290 +33,294 @@ class tst_outputPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void eachControlInTheScript_data();
-    void eachControlInTheScript();
-    void aNewPage();
-    void defaultsComeBack();
-    void keptAndRestored_data();
-    void keptAndRestored();
-    void stringsOfOtherPages_data();
-    void stringsOfOtherPages();
-    void theSplitPage();
-    void thePrefixPage();
-};
+    void initTestCase()
+    {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1);
+        VKD_QT_InitTranslator::languageChanged();
+    }
 
-void tst_outputPage::initTestCase()
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1);
-    VKD_QT_InitTranslator::languageChanged();
-}
+    void eachControlInTheScript_data()
+    {
+        QTest::addColumn<std::function<void(Desk&)>>("change");
+        QTest::addColumn<QString>("english");
+        QTest::addColumn<QString>("german");
+        const auto row = [](const char* name, std::function<void(Desk&)> change,
+                            const char* english, const char* german) {
+            QTest::newRow(name) << std::move(change) << QString::fromLatin1(english)
+                                << QString::fromLatin1(german);
+        };
+        row(
+            "engineering scale, automatic", [](Desk& desk) { desk.choose("ScaleGroup", 0); },
+            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC - SPLI  2x1 MARG NO FORM "
+            "STAN",
+            "SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M - TEIL  2x1 RAND NEIN FORM "
+            "STAN");
+        row(
+            "a scale of the list",
+            [](Desk& desk) {
+                desk.choose("ScaleGroup", 0);
+                desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:50"));
+            },
+            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG "
+            "NO "
+            "FORM STAN",
+            "SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 50*1.e+10 TEIL  2x1 RAND "
+            "NEIN "
+            "FORM STAN");
+        row(
+            "one picture", [](Desk& desk) { desk.choose("PicturesGroup", 0); },
+            "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 0 MARG NO "
+            "FORM "
+            "STAN",
+            "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 0 RAND NEIN "
+            "FORM STAN");
+        row(
+            "landscape", [](Desk& desk) { desk.choose("FormatGroup", 1); },
+            "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE URS SC 0 MARG NO "
+            "FORM "
+            "STAN",
+            "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE URS M 0 RAND NEIN "
+            "FORM "
+            "STAN");
+        row(
+            "font",
+            [](Desk& desk) {
+                auto edit = desk.find<QLineEdit>("m_boxedEdit_edit");
+                edit->selectAll();
+                QTest::keyClicks(edit, QStringLiteral("3.5"));
+                vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0); // the field writes 3,5 when it is left
+                QTest::keyClick(edit, Qt::Key_Enter);
+                vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+            },
+            "#define SCHR=0.2|SCHH H6 0.2 -> #define SCHR=0.35|SCHH H6 0.35",
+            "#define SCHR=0.2|SCHR H6 0.2 -> #define SCHR=0.35|SCHR H6 0.35");
+        row(
+            "filled areas",
+            [](Desk& desk) { desk.find<QCheckBox>("Check: Filled Isolines")->click(); },
+            "#define FILL=-|#define FILLI=-|#define FILLC=-|#define SCHRI=-|#define SCHRC=- -> "
+            "#define "
+            "FILL=VERT|#define FILLI=AREA|#define FILLC=VERT|#define SCHRI=NO|#define SCHRC=NO",
+            "#define FILL=-|#define FILLI=-|#define FILLC=-|#define SCHRI=-|#define SCHRC=- -> "
+            "#define "
+            "FILL=SENK|#define FILLI=FLAE|#define FILLC=SENK|#define SCHRI=NEIN|#define "
+            "SCHRC=NEIN");
+        row(
+            "view from above", [](Desk& desk) { desk.choose("PerspectiveGroup", 0); },
+            "VIEW EG3 -> VIEW TYPE EGXY ; PERS INFI", "BEOB EG3 -> BEOB TYP EGXY ; PERS INFI");
+        row(
+            "view along Y", [](Desk& desk) { desk.choose("PerspectiveGroup", 1); },
+            "VIEW EG3 -> VIEW TYPE EGXZ ; PERS INFI", "BEOB EG3 -> BEOB TYP EGXZ ; PERS INFI");
+        row(
+            "view along X", [](Desk& desk) { desk.choose("PerspectiveGroup", 2); },
+            "VIEW EG3 -> VIEW TYPE EGYZ ; PERS INFI", "BEOB EG3 -> BEOB TYP EGYZ ; PERS INFI");
+        row(
+            "the entry that is chosen already",
+            [](Desk& desk) {
+                desk.choose("PicturesGroup", 0);
+                desk.choose("FormatGroup", 0); // does not bring back two pictures
+            },
+            "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 0 MARG NO "
+            "FORM "
+            "STAN",
+            "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 0 RAND NEIN "
+            "FORM STAN");
+    }
 
-void tst_outputPage::eachControlInTheScript_data()
-{
-    QTest::addColumn<std::function<void(Desk&)>>("change");
-    QTest::addColumn<QString>("english");
-    QTest::addColumn<QString>("german");
-    const auto row = [](const char* name, std::function<void(Desk&)> change, const char* english,
-                        const char* german) {
-        QTest::newRow(name) << std::move(change) << QString::fromLatin1(english)
-                            << QString::fromLatin1(german);
-    };
-    row(
-        "engineering scale, automatic", [](Desk& desk) { desk.choose("ScaleGroup", 0); },
-        "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC - SPLI  2x1 MARG NO FORM STAN",
-        "SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M - TEIL  2x1 RAND NEIN FORM "
-        "STAN");
-    row(
-        "a scale of the list",
-        [](Desk& desk) {
-            desk.choose("ScaleGroup", 0);
-            desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:50"));
-        },
-        "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO "
-        "FORM STAN",
-        "SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 50*1.e+10 TEIL  2x1 RAND NEIN "
-        "FORM STAN");
-    row(
-        "one picture", [](Desk& desk) { desk.choose("PicturesGroup", 0); },
-        "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 0 MARG NO FORM "
-        "STAN",
-        "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 0 RAND NEIN "
-        "FORM STAN");
-    row(
-        "landscape", [](Desk& desk) { desk.choose("FormatGroup", 1); },
-        "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE URS SC 0 MARG NO FORM "
-        "STAN",
-        "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE URS M 0 RAND NEIN FORM "
-        "STAN");
-    row(
-        "font",
-        [](Desk& desk) {
-            auto edit = desk.find<QLineEdit>("m_boxedEdit_edit");
-            edit->selectAll();
-            QTest::keyClicks(edit, QStringLiteral("3.5"));
-            vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0); // the field writes 3,5 when it is left
-            QTest::keyClick(edit, Qt::Key_Enter);
-            vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-        },
-        "#define SCHR=0.2|SCHH H6 0.2 -> #define SCHR=0.35|SCHH H6 0.35",
-        "#define SCHR=0.2|SCHR H6 0.2 -> #define SCHR=0.35|SCHR H6 0.35");
-    row(
-        "filled areas", [](Desk& desk) { desk.find<QCheckBox>("Check: Filled Isolines")->click(); },
-        "#define FILL=-|#define FILLI=-|#define FILLC=-|#define SCHRI=-|#define SCHRC=- -> #define "
-        "FILL=VERT|#define FILLI=AREA|#define FILLC=VERT|#define SCHRI=NO|#define SCHRC=NO",
-        "#define FILL=-|#define FILLI=-|#define FILLC=-|#define SCHRI=-|#define SCHRC=- -> #define "
-        "FILL=SENK|#define FILLI=FLAE|#define FILLC=SENK|#define SCHRI=NEIN|#define SCHRC=NEIN");
-    row(
-        "view from above", [](Desk& desk) { desk.choose("PerspectiveGroup", 0); },
-        "VIEW EG3 -> VIEW TYPE EGXY ; PERS INFI", "BEOB EG3 -> BEOB TYP EGXY ; PERS INFI");
-    row(
-        "view along Y", [](Desk& desk) { desk.choose("PerspectiveGroup", 1); },
-        "VIEW EG3 -> VIEW TYPE EGXZ ; PERS INFI", "BEOB EG3 -> BEOB TYP EGXZ ; PERS INFI");
-    row(
-        "view along X", [](Desk& desk) { desk.choose("PerspectiveGroup", 2); },
-        "VIEW EG3 -> VIEW TYPE EGYZ ; PERS INFI", "BEOB EG3 -> BEOB TYP EGYZ ; PERS INFI");
-    row(
-        "the entry that is chosen already",
-        [](Desk& desk) {
-            desk.choose("PicturesGroup", 0);
-            desk.choose("FormatGroup", 0); // does not bring back two pictures
-        },
-        "SIZ2 SPLI PICT|SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC 0 MARG NO FORM "
-        "STAN",
-        "SIZ2 TEIL BILD|SIZE -URS M 0 TEIL  2x1 RAND NEIN FORM STAN -> SIZE -URS M 0 RAND NEIN "
-        "FORM STAN");
-}
+    void eachControlInTheScript()
+    {
+        QFETCH(std::function<void(Desk&)>, change);
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project);
+        desk.page.slotDefaultSettings();
 
-void tst_outputPage::eachControlInTheScript()
-{
-    QFETCH(std::function<void(Desk&)>, change);
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project);
-    desk.page.slotDefaultSettings();
+        const QString before[] = {desk.page.getTORVAL(false), desk.page.getTORVAL(true)};
+        change(desk);
+        QTEST(difference(before[1], desk.page.getTORVAL(true)), "english");
+        QTEST(difference(before[0], desk.page.getTORVAL(false)), "german");
+    }
 
-    const QString before[] = {desk.page.getTORVAL(false), desk.page.getTORVAL(true)};
-    change(desk);
-    QTEST(difference(before[1], desk.page.getTORVAL(true)), "english");
-    QTEST(difference(before[0], desk.page.getTORVAL(false)), "german");
-}
+    void aNewPage()
+    {
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project);
+        QCOMPARE(desk.page.objectName(), QStringLiteral("Widget_GraphOut"));
+        QVERIFY(desk.page.checkVals());
+        QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), -1); // none without an animator
+        QVERIFY(desk.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
+        QCOMPARE(desk.page.getTORVAL_SIZE(true),
+                 QStringLiteral("SIZ2 SPLI PICT\nSIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"));
+        QCOMPARE(desk.page.getTORVAL_SCHR(false), QStringLiteral("SCHR H6 0.2"));
+        std::vector<QString> lines{QStringLiteral("old")};
+        desk.page.getTORVAL_LFs(lines, true);
+        QVERIFY(lines.size() > 1 && lines[0] != QLatin1String("old"));
+        std::vector<QString> scripts{QStringLiteral("first")};
+        QCOMPARE(desk.page.getTORVAL(scripts, true), 1);
+        QCOMPARE(scripts.size(), std::size_t(2));
+        for (int i = 0; i < desk.tree()->topLevelItemCount(); ++i)
+            desk.tree()->topLevelItem(i)->setCheckState(0, Qt::Unchecked);
+        QCOMPARE(desk.page.getTORVAL(QStringLiteral("more"), true), QString());
+        desk.page.readXMLstring(part("List_4", "\nChecked:@SYS   $G00   ^G01\n"));
+        QVERIFY(desk.page.getTORVAL(QStringLiteral("more"), true)
+                    .contains(QLatin1String("\nmore\nEND")));
 
-void tst_outputPage::aNewPage()
-{
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project);
-    QCOMPARE(desk.page.objectName(), QStringLiteral("Widget_GraphOut"));
-    QVERIFY(desk.page.checkVals());
-    QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), -1); // none without an animator
-    QVERIFY(desk.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
-    QCOMPARE(desk.page.getTORVAL_SIZE(true),
-             QStringLiteral("SIZ2 SPLI PICT\nSIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"));
-    QCOMPARE(desk.page.getTORVAL_SCHR(false), QStringLiteral("SCHR H6 0.2"));
-    std::vector<QString> lines{QStringLiteral("old")};
-    desk.page.getTORVAL_LFs(lines, true);
-    QVERIFY(lines.size() > 1 && lines[0] != QLatin1String("old"));
-    std::vector<QString> scripts{QStringLiteral("first")};
-    QCOMPARE(desk.page.getTORVAL(scripts, true), 1);
-    QCOMPARE(scripts.size(), std::size_t(2));
-    for (int i = 0; i < desk.tree()->topLevelItemCount(); ++i)
-        desk.tree()->topLevelItem(i)->setCheckState(0, Qt::Unchecked);
-    QCOMPARE(desk.page.getTORVAL(QStringLiteral("more"), true), QString());
-    desk.page.readXMLstring(part("List_4", "\nChecked:@SYS   $G00   ^G01\n"));
-    QVERIFY(
-        desk.page.getTORVAL(QStringLiteral("more"), true).contains(QLatin1String("\nmore\nEND")));
+        HostProject bare{QString()};
+        Desk empty(bare);
+        QVERIFY(!empty.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
+    }
 
-    HostProject bare{QString()};
-    Desk empty(bare);
-    QVERIFY(!empty.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
-}
-
-void tst_outputPage::defaultsComeBack()
-{
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project);
-    desk.page.slotDefaultSettings();
-    const QString fresh = desk.page.writeXMLstring();
-    desk.choose("ScaleGroup", 0);
-    desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:100"));
-    desk.choose("FormatGroup", 1);
-    QVERIFY(!desk.group("PicturesGroup")->isEnabled());
-    QCOMPARE(desk.group("PicturesGroup")->selectedButton(), 0);
-    desk.choose("PerspectiveGroup", 0);
-    desk.find<QCheckBox>("Check: Filled Isolines")->click();
-    desk.find<QLineEdit>("m_boxedEdit_edit")->setText(QStringLiteral("7"));
-    desk.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-    QVERIFY(desk.page.writeXMLstring() != fresh);
-    desk.find<QPushButton>("Button: Default settings")->click();
-    QCOMPARE(desk.page.writeXMLstring(), fresh);
-    QVERIFY(desk.group("PicturesGroup")->isEnabled());
-    QCOMPARE(desk.find<QComboBox>("box_scale")->currentText(), QStringLiteral("1:100"));
-}
-
-void tst_outputPage::keptAndRestored_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("model");
-    for (int kind : {1, 122, 222})
-        for (const char* model : {"building", "slab", "hall"})
-            QTest::addRow("%d on %s", kind, model) << kind << QString::fromLatin1(model);
-}
-
-void tst_outputPage::keptAndRestored()
-{
-    QFETCH(int, kind);
-    QFETCH(QString, model);
-    HostProject project(model);
-    const auto progname = VKD_P_WidgetGraphicalOutput_Progname(kind);
-    Desk desk(project, progname);
-    desk.choose("ScaleGroup", 0);
-    desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:25"));
-    desk.page.readXMLstring(part("Font", "2,5"));
-    if (kind == 122) {
-        desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(4);
-    } else {
+    void defaultsComeBack()
+    {
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project);
+        desk.page.slotDefaultSettings();
+        const QString fresh = desk.page.writeXMLstring();
+        desk.choose("ScaleGroup", 0);
+        desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:100"));
         desk.choose("FormatGroup", 1);
-        desk.choose("PerspectiveGroup", 2);
+        QVERIFY(!desk.group("PicturesGroup")->isEnabled());
+        QCOMPARE(desk.group("PicturesGroup")->selectedButton(), 0);
+        desk.choose("PerspectiveGroup", 0);
         desk.find<QCheckBox>("Check: Filled Isolines")->click();
+        desk.find<QLineEdit>("m_boxedEdit_edit")->setText(QStringLiteral("7"));
+        desk.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+        QVERIFY(desk.page.writeXMLstring() != fresh);
+        desk.find<QPushButton>("Button: Default settings")->click();
+        QCOMPARE(desk.page.writeXMLstring(), fresh);
+        QVERIFY(desk.group("PicturesGroup")->isEnabled());
+        QCOMPARE(desk.find<QComboBox>("box_scale")->currentText(), QStringLiteral("1:100"));
     }
-    if (QTreeWidgetItem* plot = desk.plotWithRows()) {
-        plot->setCheckState(0, Qt::Unchecked);
-        plot->child(1)->setCheckState(0, Qt::Checked);
+
+    void keptAndRestored_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("model");
+        for (int kind : {1, 122, 222})
+            for (const char* model : {"building", "slab", "hall"})
+                QTest::addRow("%d on %s", kind, model) << kind << QString::fromLatin1(model);
     }
-    const QString kept = desk.page.writeXMLstring();
-    const QString script = desk.page.getTORVAL(QStringLiteral("more\n"), false);
-    QVERIFY(script.contains(QLatin1String("more\n")));
-    QVERIFY(kept.contains(QLatin1String("2,5")));
-    Desk again(project, progname);
-    QVERIFY(again.page.writeXMLstring() != kept);
-    again.page.readXMLstring(kept);
-    QCOMPARE(again.page.writeXMLstring(), kept);
-    QCOMPARE(again.page.getTORVAL(QStringLiteral("more\n"), false), script);
-}
 
-void tst_outputPage::stringsOfOtherPages_data()
-{
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<QString>("state"); // scale entry, its row, format, pictures, view, fill
-    const auto row = [](const char* name, const QString& xml, const char* state) {
-        QTest::newRow(name) << xml << QString::fromLatin1(state);
-    };
-    row("nothing", QString(), "0 1:20 0 1 3 true");
-    row("automatic", part("Scale", "-"), "0 Auto 0 1 3 true");
-    row("a hyphen anywhere", part("Scale", "1:5-"), "0 Auto 0 1 3 true");
-    row("an unknown scale", part("Scale", "1:7"), "1 1:20 0 1 3 true");
-    row("a scale that fits", part("Scale", "0"), "1 1:20 0 1 3 true");
-    row("no fill", part("Fill", "0"), "0 1:20 0 1 3 false");
-    row("a one anywhere", part("Fill", "210"), "0 1:20 0 1 3 true");
-    row("landscape", part("Format", "1"), "0 1:20 1 0 3 true");
-    row("landscape and two pictures", part("Format", "1") + part("Part", "1"), "0 1:20 1 1 3 true");
-    row("no number", part("View", "x"), "0 1:20 0 1 0 true");
-    row("a number without a button", part("View", "9") + part("Format", "7"), "0 1:20 0 1 3 true");
-    row("a newer page", part("Colour", "1") + part("View", "2") + QStringLiteral("<broken"),
-        "0 1:20 0 1 2 true");
-}
-
-void tst_outputPage::stringsOfOtherPages()
-{
-    QFETCH(QString, xml);
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project);
-    desk.page.slotDefaultSettings();
-    desk.page.readXMLstring(part("Scale", "1:20") + part("Fill", "1"));
-    const QString choice =
-        vkd_qt_readXMLpart(desk.page.writeXMLstring(), 0, QStringLiteral("List_4"), nullptr);
-    desk.page.readXMLstring(xml);
-    const QString fill = desk.find<QCheckBox>("Check: Filled Isolines")->isChecked()
-                             ? QStringLiteral("true")
-                             : QStringLiteral("false");
-    QTEST(QStringLiteral("%1 %2 %3 %4 %5 %6")
-              .arg(desk.group("ScaleGroup")->selectedButton())
-              .arg(desk.find<QComboBox>("box_scale")->currentText())
-              .arg(desk.group("FormatGroup")->selectedButton())
-              .arg(desk.group("PicturesGroup")->selectedButton())
-              .arg(desk.group("PerspectiveGroup")->selectedButton())
-              .arg(fill),
-          "state");
-    // Without its part the choice stays.
-    QCOMPARE(vkd_qt_readXMLpart(desk.page.writeXMLstring(), 0, QStringLiteral("List_4"), nullptr),
-             choice);
-}
-
-void tst_outputPage::theSplitPage()
-{
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project, VKD_P_GraphicalOutput_Split);
-    for (const char* name : {"FormatGroup", "PicturesGroup", "PerspectiveGroup"})
-        QVERIFY(!desk.page.findChild<QWidget*>(QLatin1String(name)));
-    desk.page.slotDefaultSettings();
-    desk.choose("ScaleGroup", 0);
-    desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:100"));
-    desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(1);
-    QCOMPARE(desk.page.getTORVAL(false), QStringLiteral("SIZE DINA \"-URS\" M 100 TEIL 2X1|SIZE "
-                                                        "DINA \"-URS\" $(XYZ) TEIL 2X1"));
-    QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("0.2"));
-    QStringList divisions;
-    desk.choose("ScaleGroup", 1);
-    for (int id = 0; id < 6; ++id) {
-        desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(id);
-        divisions << desk.page.getTORVAL(true).section(QLatin1Char('|'), 0, 0).mid(10);
+    void keptAndRestored()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, model);
+        HostProject project(model);
+        const auto progname = VKD_P_WidgetGraphicalOutput_Progname(kind);
+        Desk desk(project, progname);
+        desk.choose("ScaleGroup", 0);
+        desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:25"));
+        desk.page.readXMLstring(part("Font", "2,5"));
+        if (kind == 122) {
+            desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(4);
+        } else {
+            desk.choose("FormatGroup", 1);
+            desk.choose("PerspectiveGroup", 2);
+            desk.find<QCheckBox>("Check: Filled Isolines")->click();
+        }
+        if (QTreeWidgetItem* plot = desk.plotWithRows()) {
+            plot->setCheckState(0, Qt::Unchecked);
+            plot->child(1)->setCheckState(0, Qt::Checked);
+        }
+        const QString kept = desk.page.writeXMLstring();
+        const QString script = desk.page.getTORVAL(QStringLiteral("more\n"), false);
+        QVERIFY(script.contains(QLatin1String("more\n")));
+        QVERIFY(kept.contains(QLatin1String("2,5")));
+        Desk again(project, progname);
+        QVERIFY(again.page.writeXMLstring() != kept);
+        again.page.readXMLstring(kept);
+        QCOMPARE(again.page.writeXMLstring(), kept);
+        QCOMPARE(again.page.getTORVAL(QStringLiteral("more\n"), false), script);
     }
-    QCOMPARE(divisions.join(QLatin1Char('|')),
-             QStringLiteral("\"-URS\" SC 0 SPLI 1X1|\"-URS\" SC 0 SPLI 2X1|\"-URS\" SC 0 SPLI 2X2|"
-                            "\"-URS\" SC 0 SPLI 3X2|\"URS\" SC 0 SPLI 1X1|\"URS\" SC 0 SPLI "
-                            "2X2"));
-}
 
-void tst_outputPage::thePrefixPage()
-{
-    HostProject project(QStringLiteral("slab"));
-    Desk desk(project, VKD_P_GraphicalOutput_Prefix);
-    std::vector<QString> lines;
-    desk.page.getTORVAL_LFs(lines, true);
-    QVERIFY(!lines.empty());
-    QVERIFY(desk.page.getTORVAL(QStringLiteral("ahead\n"), true)
-                .contains(QLatin1String("FORM STAN\nahead\n") + lines[0]));
-}
+    void stringsOfOtherPages_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::addColumn<QString>("state"); // scale entry, its row, format, pictures, view, fill
+        const auto row = [](const char* name, const QString& xml, const char* state) {
+            QTest::newRow(name) << xml << QString::fromLatin1(state);
+        };
+        row("nothing", QString(), "0 1:20 0 1 3 true");
+        row("automatic", part("Scale", "-"), "0 Auto 0 1 3 true");
+        row("a hyphen anywhere", part("Scale", "1:5-"), "0 Auto 0 1 3 true");
+        row("an unknown scale", part("Scale", "1:7"), "1 1:20 0 1 3 true");
+        row("a scale that fits", part("Scale", "0"), "1 1:20 0 1 3 true");
+        row("no fill", part("Fill", "0"), "0 1:20 0 1 3 false");
+        row("a one anywhere", part("Fill", "210"), "0 1:20 0 1 3 true");
+        row("landscape", part("Format", "1"), "0 1:20 1 0 3 true");
+        row("landscape and two pictures", part("Format", "1") + part("Part", "1"),
+            "0 1:20 1 1 3 true");
+        row("no number", part("View", "x"), "0 1:20 0 1 0 true");
+        row("a number without a button", part("View", "9") + part("Format", "7"),
+            "0 1:20 0 1 3 true");
+        row("a newer page", part("Colour", "1") + part("View", "2") + QStringLiteral("<broken"),
+            "0 1:20 0 1 2 true");
+    }
+
+    void stringsOfOtherPages()
+    {
+        QFETCH(QString, xml);
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project);
+        desk.page.slotDefaultSettings();
+        desk.page.readXMLstring(part("Scale", "1:20") + part("Fill", "1"));
+        const QString choice =
+            vkd_qt_readXMLpart(desk.page.writeXMLstring(), 0, QStringLiteral("List_4"), nullptr);
+        desk.page.readXMLstring(xml);
+        const QString fill = desk.find<QCheckBox>("Check: Filled Isolines")->isChecked()
+                                 ? QStringLiteral("true")
+                                 : QStringLiteral("false");
+        QTEST(QStringLiteral("%1 %2 %3 %4 %5 %6")
+                  .arg(desk.group("ScaleGroup")->selectedButton())
+                  .arg(desk.find<QComboBox>("box_scale")->currentText())
+                  .arg(desk.group("FormatGroup")->selectedButton())
+                  .arg(desk.group("PicturesGroup")->selectedButton())
+                  .arg(desk.group("PerspectiveGroup")->selectedButton())
+                  .arg(fill),
+              "state");
+        // Without its part the choice stays.
+        QCOMPARE(
+            vkd_qt_readXMLpart(desk.page.writeXMLstring(), 0, QStringLiteral("List_4"), nullptr),
+            choice);
+    }
+
+    void theSplitPage()
+    {
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project, VKD_P_GraphicalOutput_Split);
+        for (const char* name : {"FormatGroup", "PicturesGroup", "PerspectiveGroup"})
+            QVERIFY(!desk.page.findChild<QWidget*>(QLatin1String(name)));
+        desk.page.slotDefaultSettings();
+        desk.choose("ScaleGroup", 0);
+        desk.find<QComboBox>("box_scale")->setCurrentText(QStringLiteral("1:100"));
+        desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(1);
+        QCOMPARE(desk.page.getTORVAL(false),
+                 QStringLiteral("SIZE DINA \"-URS\" M 100 TEIL 2X1|SIZE "
+                                "DINA \"-URS\" $(XYZ) TEIL 2X1"));
+        QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("0.2"));
+        QStringList divisions;
+        desk.choose("ScaleGroup", 1);
+        for (int id = 0; id < 6; ++id) {
+            desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(id);
+            divisions << desk.page.getTORVAL(true).section(QLatin1Char('|'), 0, 0).mid(10);
+        }
+        QCOMPARE(
+            divisions.join(QLatin1Char('|')),
+            QStringLiteral("\"-URS\" SC 0 SPLI 1X1|\"-URS\" SC 0 SPLI 2X1|\"-URS\" SC 0 SPLI 2X2|"
+                           "\"-URS\" SC 0 SPLI 3X2|\"URS\" SC 0 SPLI 1X1|\"URS\" SC 0 SPLI "
+                           "2X2"));
+    }
+
+    void thePrefixPage()
+    {
+        HostProject project(QStringLiteral("slab"));
+        Desk desk(project, VKD_P_GraphicalOutput_Prefix);
+        std::vector<QString> lines;
+        desk.page.getTORVAL_LFs(lines, true);
+        QVERIFY(!lines.empty());
+        QVERIFY(desk.page.getTORVAL(QStringLiteral("ahead\n"), true)
+                    .contains(QLatin1String("FORM STAN\nahead\n") + lines[0]));
+    }
+};
 
 PLIB_WIDGET_TEST_MAIN(tst_outputPage)
 #include "tst_outputPage.moc"

@@ -26,28 +26,8 @@ public:
     mutable int quadsAsked = 0;
 };
 
-class TestOutputScript : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void wholeScripts_data();
-    void wholeScripts();
-    void noLines();
-    void views_data();
-    void views();
-    void size_data();
-    void size();
-    void font_data();
-    void font();
-    void split_data();
-    void split();
-
-private:
-    FixedTexts m_texts;
-};
-
 using Change = std::function<void(OutputSettings&)>;
+
 Q_DECLARE_METATYPE(Change)
 
 static OutputSettings settings(const Change& change)
@@ -104,198 +84,206 @@ static const char GermanFilled[] =
     "SIZE -URS M 100*1.e+10 TEIL  2x1 RAND NEIN FORM STAN\n"
     "a\nzuletzt\nENDE\n";
 
-void TestOutputScript::wholeScripts_data()
+class TestOutputScript : public QObject
 {
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<bool>("english");
-    QTest::addColumn<bool>("quads");
-    QTest::addColumn<QString>("additional");
-    QTest::addColumn<QString>("expected");
-    const auto frame = [](const char* cuts, const char* body) {
-        return QString::fromLatin1(EnglishFrame).arg(QLatin1String(cuts), QLatin1String(body));
-    };
-    const auto prefix = [](OutputSettings& s) { s.variant = VKD_P_GraphicalOutput_Prefix; };
-    QTest::newRow("defaults") << Change([](OutputSettings&) {}) << true << false << QString()
-                              << frame("", "a\n");
-    QTest::newRow("areas") << Change([](OutputSettings&) {}) << true << true
-                           << QStringLiteral("last") << frame(EnglishCuts, "a\nlast\n");
-    QTest::newRow("prefix page") << Change(prefix) << true << false << QStringLiteral("first ")
-                                 << frame("", "first a\n");
-    QTest::newRow("German, filled, scaled") << Change([](OutputSettings& s) {
-        s.fillAreas = true;
-        s.fontSizeText = QStringLiteral("2.5");
-        s.scaleMode = 0;
-        s.scaleIndex = 8;
-        s.scaleText = QStringLiteral("1:100");
-    }) << false << true << QStringLiteral("zuletzt")
-                                            << QString::fromLatin1(GermanFilled);
-}
+    Q_OBJECT
 
-void TestOutputScript::wholeScripts()
-{
-    QFETCH(Change, change);
-    QFETCH(bool, english);
-    QFETCH(QString, additional);
-    QFETCH(QString, expected);
-    QFETCH(bool, quads);
-    m_texts.quads = quads;
-    const std::vector<QString> lines{QStringLiteral("a")};
-    QCOMPARE(plib::outputScript(settings(change), lines, additional, english, m_texts), expected);
-}
-
-void TestOutputScript::noLines()
-{
-    m_texts.quadsAsked = 0;
-    for (auto variant : {VKD_P_GraphicalOutput_Standard, VKD_P_GraphicalOutput_Prefix}) {
-        OutputSettings s;
-        s.variant = variant;
-        QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), true, m_texts), QString());
+private Q_SLOTS:
+    void wholeScripts_data()
+    {
+        const Columns<Change, bool, bool, QString, QString> row("change", "english", "quads",
+                                                                "additional", "expected");
+        const auto frame = [](const char* cuts, const char* body) {
+            return QString::fromLatin1(EnglishFrame).arg(QLatin1String(cuts), QLatin1String(body));
+        };
+        const auto prefix = [](OutputSettings& s) { s.variant = VKD_P_GraphicalOutput_Prefix; };
+        row("defaults", Change([](OutputSettings&) {}), true, false, {}, frame("", "a\n"));
+        row("areas", Change([](OutputSettings&) {}), true, true, "last",
+            frame(EnglishCuts, "a\nlast\n"));
+        row("prefix page", Change(prefix), true, false, "first ", frame("", "first a\n"));
+        row("German, filled, scaled", Change([](OutputSettings& s) {
+                s.fillAreas = true;
+                s.fontSizeText = QStringLiteral("2.5");
+                s.scaleMode = 0;
+                s.scaleIndex = 8;
+                s.scaleText = QStringLiteral("1:100");
+            }),
+            false, true, "zuletzt", QString::fromLatin1(GermanFilled));
     }
-    QCOMPARE(m_texts.quadsAsked, 0);
-}
 
-void TestOutputScript::views_data()
-{
-    QTest::addColumn<int>("viewId");
-    QTest::addColumn<bool>("english");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](int view, bool english, const char* line, const char* expected) {
-        QTest::addRow("%d %s", view, line)
-            << view << english << QString::fromLatin1(line) << QString::fromLatin1(expected);
-    };
-    row(3, false, "BEOB EG3 more", "BEOB EG3 more");
-    row(0, false, "BEOB EG3", "BEOB TYP EGXY ; PERS INFI");
-    row(1, true, "VIEW EG3", "VIEW TYPE EGXZ ; PERS INFI");
-    row(2, true, "VIEW EG3 and more EG3", "VIEW TYPE EGYZ ; PERS INFI");
-    row(4, true, "VIEW EG3", "VIEW TYPE STAN 1 2 3");
-    row(-1, true, "VIEW EG3", "VIEW TYPE ");
-    row(0, true, "VIEW EGX", "VIEW EGX");
-    row(0, true, "VIEW eg3", "VIEW eg3");
-    row(0, true, "EG3 at the very beginning, EG3", "EG3 at the very beginning, EG3");
-}
+    void wholeScripts()
+    {
+        QFETCH(Change, change);
+        QFETCH(bool, english);
+        QFETCH(QString, additional);
+        QFETCH(QString, expected);
+        QFETCH(bool, quads);
+        m_texts.quads = quads;
+        const std::vector<QString> lines{QStringLiteral("a")};
+        QCOMPARE(plib::outputScript(settings(change), lines, additional, english, m_texts),
+                 expected);
+    }
 
-void TestOutputScript::views()
-{
-    QFETCH(int, viewId);
-    QFETCH(bool, english);
-    QFETCH(QString, line);
-    QFETCH(QString, expected);
-    OutputSettings s;
-    s.viewId = viewId;
-    const QString script = plib::outputScript(s, {line}, QString(), english, m_texts);
-    QCOMPARE(script.section(QLatin1Char('\n'), -3, -3), expected);
-}
+    void noLines()
+    {
+        m_texts.quadsAsked = 0;
+        for (auto variant : {VKD_P_GraphicalOutput_Standard, VKD_P_GraphicalOutput_Prefix}) {
+            OutputSettings s;
+            s.variant = variant;
+            QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), true, m_texts), QString());
+        }
+        QCOMPARE(m_texts.quadsAsked, 0);
+    }
 
-void TestOutputScript::size_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QString>("english");
-    const auto row = [](const char* name, const Change& change, const char* english) {
-        QTest::newRow(name) << change << QString::fromLatin1(english);
-    };
-    row(
-        "landscape has no division", [](OutputSettings& s) { s.formatId = 1; },
-        "SIZE URS SC 0 MARG NO FORM STAN");
-    row(
-        "one per page", [](OutputSettings& s) { s.picturesId = 0; },
-        "SIZE -URS SC 0 MARG NO FORM STAN");
-    row(
-        "no format to choose", [](OutputSettings& s) { s.hasFormat = false; },
-        "SIZE URS SC 0 MARG NO FORM STAN");
-    row(
-        "automatic engineering scale", [](OutputSettings& s) { s.scaleMode = 0, s.formatId = 1; },
-        "SIZE URS SC - MARG NO FORM STAN");
-    row(
-        "scale text without a colon",
-        [](OutputSettings& s) {
-            s.scaleMode = 0, s.scaleIndex = 3, s.formatId = 1, s.scaleText = QStringLiteral("75");
-        },
-        "SIZE URS SC 75*1.e+10 MARG NO FORM STAN");
-    row(
-        "only the first colon counts",
-        [](OutputSettings& s) {
-            s.scaleMode = 0, s.scaleIndex = 3, s.formatId = 1,
-            s.scaleText = QStringLiteral("1:2:3");
-        },
-        "SIZE URS SC 2:3*1.e+10 MARG NO FORM STAN");
-    row(
-        "a fitted scale hides the list",
-        [](OutputSettings& s) { s.scaleIndex = 5, s.formatId = 1; },
-        "SIZE URS SC 0 MARG NO FORM STAN");
-}
+    void views_data()
+    {
+        QTest::addColumn<int>("viewId");
+        QTest::addColumn<bool>("english");
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](int view, bool english, const char* line, const char* expected) {
+            QTest::addRow("%d %s", view, line)
+                << view << english << QString::fromLatin1(line) << QString::fromLatin1(expected);
+        };
+        row(3, false, "BEOB EG3 more", "BEOB EG3 more");
+        row(0, false, "BEOB EG3", "BEOB TYP EGXY ; PERS INFI");
+        row(1, true, "VIEW EG3", "VIEW TYPE EGXZ ; PERS INFI");
+        row(2, true, "VIEW EG3 and more EG3", "VIEW TYPE EGYZ ; PERS INFI");
+        row(4, true, "VIEW EG3", "VIEW TYPE STAN 1 2 3");
+        row(-1, true, "VIEW EG3", "VIEW TYPE ");
+        row(0, true, "VIEW EGX", "VIEW EGX");
+        row(0, true, "VIEW eg3", "VIEW eg3");
+        row(0, true, "EG3 at the very beginning, EG3", "EG3 at the very beginning, EG3");
+    }
 
-void TestOutputScript::size()
-{
-    QFETCH(Change, change);
-    QFETCH(QString, english);
-    QCOMPARE(plib::sizeStatement(settings(change), true), english);
-    const QString german = english.replace(QLatin1String(" SC "), QLatin1String(" M "))
-                               .replace(QLatin1String("MARG NO"), QLatin1String("RAND NEIN"));
-    QCOMPARE(plib::sizeStatement(settings(change), false), german);
-}
+    void views()
+    {
+        QFETCH(int, viewId);
+        QFETCH(bool, english);
+        QFETCH(QString, line);
+        QFETCH(QString, expected);
+        OutputSettings s;
+        s.viewId = viewId;
+        const QString script = plib::outputScript(s, {line}, QString(), english, m_texts);
+        QCOMPARE(script.section(QLatin1Char('\n'), -3, -3), expected);
+    }
 
-void TestOutputScript::font_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("default") << QStringLiteral("2") << QStringLiteral("0.2");
-    QTest::newRow("a comma is no number") << QStringLiteral("2,5") << QStringLiteral("0");
-    QTest::newRow("empty") << QString() << QStringLiteral("0");
-    QTest::newRow("six digits") << QStringLiteral("12.3456789") << QStringLiteral("1.23457");
-    QTest::newRow("large") << QStringLiteral("1e8") << QStringLiteral("1e+07");
-}
+    void size_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<QString>("english");
+        const auto row = [](const char* name, const Change& change, const char* english) {
+            QTest::newRow(name) << change << QString::fromLatin1(english);
+        };
+        row(
+            "landscape has no division", [](OutputSettings& s) { s.formatId = 1; },
+            "SIZE URS SC 0 MARG NO FORM STAN");
+        row(
+            "one per page", [](OutputSettings& s) { s.picturesId = 0; },
+            "SIZE -URS SC 0 MARG NO FORM STAN");
+        row(
+            "no format to choose", [](OutputSettings& s) { s.hasFormat = false; },
+            "SIZE URS SC 0 MARG NO FORM STAN");
+        row(
+            "automatic engineering scale",
+            [](OutputSettings& s) { s.scaleMode = 0, s.formatId = 1; },
+            "SIZE URS SC - MARG NO FORM STAN");
+        row(
+            "scale text without a colon",
+            [](OutputSettings& s) {
+                s.scaleMode = 0, s.scaleIndex = 3, s.formatId = 1,
+                s.scaleText = QStringLiteral("75");
+            },
+            "SIZE URS SC 75*1.e+10 MARG NO FORM STAN");
+        row(
+            "only the first colon counts",
+            [](OutputSettings& s) {
+                s.scaleMode = 0, s.scaleIndex = 3, s.formatId = 1,
+                s.scaleText = QStringLiteral("1:2:3");
+            },
+            "SIZE URS SC 2:3*1.e+10 MARG NO FORM STAN");
+        row(
+            "a fitted scale hides the list",
+            [](OutputSettings& s) { s.scaleIndex = 5, s.formatId = 1; },
+            "SIZE URS SC 0 MARG NO FORM STAN");
+    }
 
-void TestOutputScript::font()
-{
-    QFETCH(QString, typed);
-    QFETCH(QString, expected);
-    OutputSettings s;
-    s.fontSizeText = typed;
-    QCOMPARE(plib::fontStatement(s, true), QLatin1String("SCHH H6 ") + expected);
-    QCOMPARE(plib::fontStatement(s, false), QLatin1String("SCHR H6 ") + expected);
-    s.variant = VKD_P_GraphicalOutput_Split;
-    QCOMPARE(plib::fontStatement(s, true), expected);
-}
+    void size()
+    {
+        QFETCH(Change, change);
+        QFETCH(QString, english);
+        QCOMPARE(plib::sizeStatement(settings(change), true), english);
+        const QString german = english.replace(QLatin1String(" SC "), QLatin1String(" M "))
+                                   .replace(QLatin1String("MARG NO"), QLatin1String("RAND NEIN"));
+        QCOMPARE(plib::sizeStatement(settings(change), false), german);
+    }
 
-void TestOutputScript::split_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<int>("scale"); // -1: to fit
-    QTest::addColumn<bool>("english");
-    QTest::addColumn<QString>("additional");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](int id, int scale, bool english, const char* additional,
-                        const char* expected) {
-        QTest::newRow(expected) << id << scale << english << QString::fromLatin1(additional)
-                                << QString::fromLatin1(expected);
-    };
-    row(0, -1, true, "", "SIZE TYPE \"-URS\" SC 0 SPLI 1X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 1X1");
-    row(1, 8, false, "", "SIZE DINA \"-URS\" M 100 TEIL 2X1|SIZE DINA \"-URS\" $(XYZ) TEIL 2X1");
-    row(2, 0, true, "", "SIZE TYPE \"-URS\" SC - SPLI 2X2|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X2");
-    row(3, -1, false, "x", "SIZE DINA \"-URS\" M 0 TEIL 3X2|SIZE DINA \"-URS\" $(XYZ) TEIL 3X2x\n");
-    row(4, -1, true, "", "SIZE TYPE \"URS\" SC 0 SPLI 1X1|SIZE TYPE \"URS\" $(XYZ) SPLI 1X1");
-    row(5, -1, true, "", "SIZE TYPE \"URS\" SC 0 SPLI 2X2|SIZE TYPE \"URS\" $(XYZ) SPLI 2X2");
-    row(6, -1, true, "", "SIZE TYPESC 0 |SIZE TYPE$(XYZ) ");
-    row(-1, 8, false, "", "SIZE DINAM 100 |SIZE DINA$(XYZ) ");
-}
+    void font_data()
+    {
+        const Columns<QString, QString> row("typed", "expected");
+        row("default", "2", "0.2");
+        row("a comma is no number", "2,5", "0");
+        row("empty", {}, "0");
+        row("six digits", "12.3456789", "1.23457");
+        row("large", "1e8", "1e+07");
+    }
 
-void TestOutputScript::split()
-{
-    QFETCH(int, id);
-    QFETCH(int, scale);
-    QFETCH(bool, english);
-    QFETCH(QString, additional);
-    QFETCH(QString, expected);
-    OutputSettings s;
-    s.variant = VKD_P_GraphicalOutput_Split;
-    s.pageSplitId = id;
-    s.scaleMode = scale < 0 ? 1 : 0;
-    s.scaleIndex = qMax(scale, 0);
-    s.scaleText = scale > 0 ? plib::engineeringScales()[scale - 1] : QString();
-    for (const std::vector<QString>& lines : {std::vector<QString>(), {QStringLiteral("a")}})
-        QCOMPARE(plib::outputScript(s, lines, additional, english, m_texts), expected);
-}
+    void font()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, expected);
+        OutputSettings s;
+        s.fontSizeText = typed;
+        QCOMPARE(plib::fontStatement(s, true), QLatin1String("SCHH H6 ") + expected);
+        QCOMPARE(plib::fontStatement(s, false), QLatin1String("SCHR H6 ") + expected);
+        s.variant = VKD_P_GraphicalOutput_Split;
+        QCOMPARE(plib::fontStatement(s, true), expected);
+    }
+
+    void split_data()
+    {
+        QTest::addColumn<int>("id");
+        QTest::addColumn<int>("scale"); // -1: to fit
+        QTest::addColumn<bool>("english");
+        QTest::addColumn<QString>("additional");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](int id, int scale, bool english, const char* additional,
+                            const char* expected) {
+            QTest::newRow(expected) << id << scale << english << QString::fromLatin1(additional)
+                                    << QString::fromLatin1(expected);
+        };
+        row(0, -1, true, "", "SIZE TYPE \"-URS\" SC 0 SPLI 1X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 1X1");
+        row(1, 8, false, "",
+            "SIZE DINA \"-URS\" M 100 TEIL 2X1|SIZE DINA \"-URS\" $(XYZ) TEIL 2X1");
+        row(2, 0, true, "", "SIZE TYPE \"-URS\" SC - SPLI 2X2|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X2");
+        row(3, -1, false, "x",
+            "SIZE DINA \"-URS\" M 0 TEIL 3X2|SIZE DINA \"-URS\" $(XYZ) TEIL 3X2x\n");
+        row(4, -1, true, "", "SIZE TYPE \"URS\" SC 0 SPLI 1X1|SIZE TYPE \"URS\" $(XYZ) SPLI 1X1");
+        row(5, -1, true, "", "SIZE TYPE \"URS\" SC 0 SPLI 2X2|SIZE TYPE \"URS\" $(XYZ) SPLI 2X2");
+        row(6, -1, true, "", "SIZE TYPESC 0 |SIZE TYPE$(XYZ) ");
+        row(-1, 8, false, "", "SIZE DINAM 100 |SIZE DINA$(XYZ) ");
+    }
+
+    void split()
+    {
+        QFETCH(int, id);
+        QFETCH(int, scale);
+        QFETCH(bool, english);
+        QFETCH(QString, additional);
+        QFETCH(QString, expected);
+        OutputSettings s;
+        s.variant = VKD_P_GraphicalOutput_Split;
+        s.pageSplitId = id;
+        s.scaleMode = scale < 0 ? 1 : 0;
+        s.scaleIndex = qMax(scale, 0);
+        s.scaleText = scale > 0 ? plib::engineeringScales()[scale - 1] : QString();
+        for (const std::vector<QString>& lines : {std::vector<QString>(), {QStringLiteral("a")}})
+            QCOMPARE(plib::outputScript(s, lines, additional, english, m_texts), expected);
+    }
+
+private:
+    FixedTexts m_texts;
+};
 
 PLIB_TEST_MAIN(TestOutputScript)
 #include "tst_outputScript.moc"

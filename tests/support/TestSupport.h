@@ -13,7 +13,44 @@ int run(QObject* test, int argc, char* argv[]);
 void writeFile(const QString& path, const QByteArray& bytes);
 QByteArray readFile(const QString& path);
 
+/// A text in a row of data.
+struct Text : QString
+{
+    Text() = default;
+    Text(const char* utf8)
+        : QString(fromUtf8(utf8))
+    {
+    }
+    Text(const QString& text)
+        : QString(text)
+    {
+    }
+};
+
+/// The columns of a data function by name; called, it adds a row with its name and its values.
+template <typename... Values>
+class Columns
+{
+public:
+    template <typename... Names>
+    explicit Columns(Names... names)
+    {
+        static_assert(sizeof...(Names) == sizeof...(Values));
+        (QTest::addColumn<Values>(names), ...);
+    }
+
+    template <typename T>
+    using Cell = std::conditional_t<std::is_same_v<T, QString>, Text, T>;
+
+    void operator()(const char* name, const Cell<Values>&... values) const
+    {
+        (QTest::newRow(name) << ... << static_cast<const Values&>(values));
+    }
+};
+
 } // namespace testsupport
+
+using testsupport::Columns;
 
 #define PLIB_TEST_MAIN(TestClass)                   \
     int main(int argc, char* argv[])                \

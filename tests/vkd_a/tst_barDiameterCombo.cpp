@@ -58,14 +58,13 @@ private Q_SLOTS:
 
     void otherDiameter_data()
     {
-        QTest::addColumn<float>("diameter");
-        QTest::addColumn<int>("entry");
-        QTest::newRow("between") << 12.7F << 2;
-        QTest::newRow("a bit off the table") << std::nextafter(16.0F, 17.0F) << 3;
-        QTest::newRow("above") << 57.3F << 4;
-        QTest::newRow("below") << 0.0F << 1;
-        QTest::newRow("negative") << -3.0F << 1;
-        QTest::newRow("no number") << std::numeric_limits<float>::quiet_NaN() << 4;
+        const Columns<float, int> row("diameter", "entry");
+        row("between", 12.7F, 2);
+        row("a bit off the table", std::nextafter(16.0F, 17.0F), 3);
+        row("above", 57.3F, 4);
+        row("below", 0.0F, 1);
+        row("negative", -3.0F, 1);
+        row("no number", std::numeric_limits<float>::quiet_NaN(), 4);
     }
 
     void otherDiameter()

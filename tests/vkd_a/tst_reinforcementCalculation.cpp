@@ -96,16 +96,13 @@ private Q_SLOTS:
 
     void printedTables_data()
     {
-        QTest::addColumn<double>("diameter");
-        QTest::addColumn<double>("spacing");
-        QTest::addColumn<int>("bars");
-        QTest::addColumn<double>("area");
-        QTest::newRow("10/150") << 10.0 << 0.150 << 1 << 5.24;
-        QTest::newRow("12/100") << 12.0 << 0.100 << 1 << 11.31;
-        QTest::newRow("8/200") << 8.0 << 0.200 << 1 << 2.51;
-        QTest::newRow("28/75") << 28.0 << 0.075 << 1 << 82.10;
-        QTest::newRow("6/250") << 6.0 << 0.250 << 1 << 1.13;
-        QTest::newRow("pairs of 16/125") << 16.0 << 0.125 << 2 << 32.17;
+        const Columns<double, double, int, double> row("diameter", "spacing", "bars", "area");
+        row("10/150", 10.0, 0.150, 1, 5.24);
+        row("12/100", 12.0, 0.100, 1, 11.31);
+        row("8/200", 8.0, 0.200, 1, 2.51);
+        row("28/75", 28.0, 0.075, 1, 82.10);
+        row("6/250", 6.0, 0.250, 1, 1.13);
+        row("pairs of 16/125", 16.0, 0.125, 2, 32.17);
     }
 
     void printedTables()
@@ -138,20 +135,18 @@ private Q_SLOTS:
 
     void begins_data()
     {
-        QTest::addColumn<float>("value");
-        QTest::addColumn<float>("barDiameter");
-        QTest::addColumn<QString>("begin"); // diameter, spacing, number, row, column, present value
+        // begin: diameter, spacing, number, row, column, present value
+        const Columns<float, float, QString> row("value", "barDiameter", "begin");
         const float nan = std::numeric_limits<float>::quiet_NaN();
         const QString usual = QStringLiteral("Ø10 150.0 6.66667 2 4 not set");
-        QTest::newRow("not set") << NotSet << NotSet << usual;
-        QTest::newRow("zero") << 0.0F << 0.0F << usual;
-        QTest::newRow("no numbers") << nan << nan << usual;
-        QTest::newRow("infinite") << std::numeric_limits<float>::infinity() << 1e30F << usual;
-        QTest::newRow("value and bar")
-            << 11.31F << 12.0F << "Ø12 100.0 10 3 2 11.31 cm²/m (chosen: 100 %)";
-        QTest::newRow("bar of another project")
-            << 9.0F << 12.7F << "Ø12.7 140.752 7.10469 3 4 9.00 cm²/m (chosen: 100 %)";
-        QTest::newRow("far too much") << 900.0F << 10.0F << "Ø10 0.872665 1145.92 2 0 900.00 cm²/m";
+        row("not set", NotSet, NotSet, usual);
+        row("zero", 0.0F, 0.0F, usual);
+        row("no numbers", nan, nan, usual);
+        row("infinite", std::numeric_limits<float>::infinity(), 1e30F, usual);
+        row("value and bar", 11.31F, 12.0F, "Ø12 100.0 10 3 2 11.31 cm²/m (chosen: 100 %)");
+        row("bar of another project", 9.0F, 12.7F,
+            "Ø12.7 140.752 7.10469 3 4 9.00 cm²/m (chosen: 100 %)");
+        row("far too much", 900.0F, 10.0F, "Ø10 0.872665 1145.92 2 0 900.00 cm²/m");
     }
 
     void begins()

@@ -102,15 +102,14 @@ private Q_SLOTS:
 
     void commands_data()
     {
-        QTest::addColumn<int>("control");
-        QTest::addColumn<QString>("camera");
-        QTest::newRow("standard") << 0 << QStringLiteral("camera1 1 -2 1 0 0 0 0 1");
-        QTest::newRow("show all") << 1 << QStringLiteral("camera1 3 -1 0.5 20 0 0 0 1");
-        QTest::newRow("nothing") << 2 << Aimed;
-        QTest::newRow("X/Y") << 3 << QStringLiteral("camera1 0 0 1 0 0 0 0 1");
-        QTest::newRow("X/Z") << 4 << QStringLiteral("camera1 0 -1 0 0 0 0 0 1");
-        QTest::newRow("Y/Z") << 5 << QStringLiteral("camera1 1 0 0 0 0 0 0 1");
-        QTest::newRow("unknown") << 99 << Aimed;
+        const Columns<int, QString> row("control", "camera");
+        row("standard", 0, "camera1 1 -2 1 0 0 0 0 1");
+        row("show all", 1, "camera1 3 -1 0.5 20 0 0 0 1");
+        row("nothing", 2, Aimed);
+        row("X/Y", 3, "camera1 0 0 1 0 0 0 0 1");
+        row("X/Z", 4, "camera1 0 -1 0 0 0 0 0 1");
+        row("Y/Z", 5, "camera1 1 0 0 0 0 0 0 1");
+        row("unknown", 99, Aimed);
     }
 
     /// From a camera that was taken, also in a locked view.

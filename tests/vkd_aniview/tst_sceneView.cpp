@@ -69,31 +69,23 @@ class TestSceneView : public QObject
 private Q_SLOTS:
     void axes_data()
     {
-        QTest::addColumn<Position>("eye");
-        QTest::addColumn<double>("roll");
-        QTest::addColumn<Position>("right");
-        QTest::addColumn<Position>("up");
+        const Columns<Position, double, Position, Position> row("eye", "roll", "right", "up");
         const Position x{1, 0, 0};
         const Position y{0, 1, 0};
         const Position z{0, 0, 1};
         const double third = std::sqrt(1.0 / 3.0);
-        QTest::newRow("X/Y") << z << 0.0 << x << y;
-        QTest::newRow("X/Z") << Position{0, -1, 0} << 0.0 << x << z;
-        QTest::newRow("Y/Z") << x << 0.0 << y << z;
-        QTest::newRow("from below") << Position{0, 0, -1} << 0.0 << x << Position{0, -1, 0};
-        QTest::newRow("length") << Position{0, -1e-200, 0} << 0.0 << x << z;
-        QTest::newRow("very long") << Position{1e308, 1e308, 0} << 0.0
-                                   << Position{-std::sqrt(0.5), std::sqrt(0.5), 0} << z;
-        QTest::newRow("standard") << Position{1, -2, 1} << 0.0
-                                  << Position{2 / std::sqrt(5), 1 / std::sqrt(5), 0}
-                                  << Position{-1 / std::sqrt(30), 2 / std::sqrt(30),
-                                              5 / std::sqrt(30)};
-        QTest::newRow("roll") << z << 90.0 << Position{0, -1, 0} << x;
-        QTest::newRow("full turns") << z << -1440.0 << x << y;
-        QTest::newRow("isometric")
-            << Position{third, third, third} << 180.0
-            << Position{std::sqrt(0.5), -std::sqrt(0.5), 0}
-            << Position{std::sqrt(1 / 6.0), std::sqrt(1 / 6.0), -std::sqrt(2 / 3.0)};
+        row("X/Y", z, 0.0, x, y);
+        row("X/Z", {0, -1, 0}, 0.0, x, z);
+        row("Y/Z", x, 0.0, y, z);
+        row("from below", {0, 0, -1}, 0.0, x, {0, -1, 0});
+        row("length", {0, -1e-200, 0}, 0.0, x, z);
+        row("very long", {1e308, 1e308, 0}, 0.0, {-std::sqrt(0.5), std::sqrt(0.5), 0}, z);
+        row("standard", {1, -2, 1}, 0.0, {2 / std::sqrt(5), 1 / std::sqrt(5), 0},
+            {-1 / std::sqrt(30), 2 / std::sqrt(30), 5 / std::sqrt(30)});
+        row("roll", z, 90.0, {0, -1, 0}, x);
+        row("full turns", z, -1440.0, x, y);
+        row("isometric", {third, third, third}, 180.0, {std::sqrt(0.5), -std::sqrt(0.5), 0},
+            {std::sqrt(1 / 6.0), std::sqrt(1 / 6.0), -std::sqrt(2 / 3.0)});
     }
 
     void axes()
@@ -112,11 +104,10 @@ private Q_SLOTS:
 
     void fixedViews_data()
     {
-        QTest::addColumn<Position>("eye");
-        QTest::addColumn<QPointF>("farCorner");
-        QTest::newRow("X/Y") << Position{0, 0, 1} << QPointF(828, 168);
-        QTest::newRow("X/Z") << Position{0, -1, 0} << QPointF(828, 88);
-        QTest::newRow("Y/Z") << Position{1, 0, 0} << QPointF(628, 28);
+        const Columns<Position, QPointF> row("eye", "farCorner");
+        row("X/Y", {0, 0, 1}, {828, 168});
+        row("X/Z", {0, -1, 0}, {828, 88});
+        row("Y/Z", {1, 0, 0}, {628, 28});
     }
 
     /// The whole model with a margin, in the middle, though it stands far from the origin.
@@ -137,12 +128,11 @@ private Q_SLOTS:
 
     void hand_data()
     {
-        QTest::addColumn<double>("roll");
-        QTest::addColumn<QPointF>("way");
-        QTest::newRow("right") << 0.0 << QPointF(0.2, 0);
-        QTest::newRow("down") << 0.0 << QPointF(0, 0.2);
-        QTest::newRow("up left, rolled") << 30.0 << QPointF(-0.2, -0.1);
-        QTest::newRow("down, upside down") << 180.0 << QPointF(0, 0.2);
+        const Columns<double, QPointF> row("roll", "way");
+        row("right", 0.0, {0.2, 0});
+        row("down", 0.0, {0, 0.2});
+        row("up left, rolled", 30.0, {-0.2, -0.1});
+        row("down, upside down", 180.0, {0, 0.2});
     }
 
     /// Turning takes the near side of the model along with the hand.
@@ -196,26 +186,24 @@ private Q_SLOTS:
 
     void frontmost_data()
     {
-        QTest::addColumn<Position>("eye");
-        QTest::addColumn<Position>("at"); // the place where this point is seen
-        QTest::addColumn<int>("group");
+        // at: the place where this point is seen
+        const Columns<Position, Position, int> row("eye", "at", "group");
         const Position above{0, 0, 1};
         const Position below{0, 0, -1};
         const Position front{0, -1, 0};
         const Position oblique{0, -1, 0.8};
-        QTest::newRow("upper plate") << above << Position{2, 1, 0} << 2;
-        QTest::newRow("lower plate") << below << Position{2, 1, 3} << 1;
-        QTest::newRow("column below its plate") << above << Position{2, 2.5, 0} << 2;
-        QTest::newRow("column between") << front << Position{2, 2.5, 1.5} << 3;
-        QTest::newRow("column before a plate") << oblique << Position{2, 2.5, 0.5} << 3;
-        QTest::newRow("column's end behind a plate") << oblique << Position{2, 2.5, 2.9} << 2;
-        QTest::newRow("edge beam from above") << above << Position{2, 0, 3} << 4;
-        QTest::newRow("edge beam from below") << Position{0, -1, -0.8} << Position{2, 0, 3} << 4;
-        QTest::newRow("edge beam at the far edge")
-            << Position{0, 1, 0.8} << Position{2, 0.02, 3} << 4;
-        QTest::newRow("plate seen edge-on") << front << Position{1, 0, 0} << 1;
-        QTest::newRow("between the plates") << front << Position{1, 0, 1.5} << None;
-        QTest::newRow("outside") << above << Position{5, 5, 0} << None;
+        row("upper plate", above, {2, 1, 0}, 2);
+        row("lower plate", below, {2, 1, 3}, 1);
+        row("column below its plate", above, {2, 2.5, 0}, 2);
+        row("column between", front, {2, 2.5, 1.5}, 3);
+        row("column before a plate", oblique, {2, 2.5, 0.5}, 3);
+        row("column's end behind a plate", oblique, {2, 2.5, 2.9}, 2);
+        row("edge beam from above", above, {2, 0, 3}, 4);
+        row("edge beam from below", {0, -1, -0.8}, {2, 0, 3}, 4);
+        row("edge beam at the far edge", {0, 1, 0.8}, {2, 0.02, 3}, 4);
+        row("plate seen edge-on", front, {1, 0, 0}, 1);
+        row("between the plates", front, {1, 0, 1.5}, None);
+        row("outside", above, {5, 5, 0}, None);
     }
 
     void frontmost()
@@ -276,12 +264,10 @@ private Q_SLOTS:
     /// Outlines stand out at the rim of a plate and at folds and between groups only.
     void strongEdges_data()
     {
-        QTest::addColumn<int>("group");
-        QTest::addColumn<double>("rise");
-        QTest::addColumn<int>("strong");
-        QTest::newRow("one plate") << 1 << 0.5 << 6;
-        QTest::newRow("fold") << 1 << 3.0 << 8;
-        QTest::newRow("two groups") << 2 << 0.0 << 8;
+        const Columns<int, double, int> row("group", "rise", "strong");
+        row("one plate", 1, 0.5, 6);
+        row("fold", 1, 3.0, 8);
+        row("two groups", 2, 0.0, 8);
     }
 
     void strongEdges()

@@ -38,11 +38,10 @@ private Q_SLOTS:
 
     void keptBitForBit_data()
     {
-        QTest::addColumn<Camera>("odd");
-        QTest::newRow("long fractions") << Camera{{0.1, -1. / 3, 2. / 3}, M_PI, {1e-7, -7, 3}, 1.1};
-        QTest::newRow("very small and large")
-            << Camera{{4e-320, 0, 0}, 1e-300, {1e308, 0, 0}, 9e99};
-        QTest::newRow("negative zero") << Camera{{-0.0, 1, 0}, -0.0, {0, -0.0, 0}, 1};
+        const Columns<Camera> row("odd");
+        row("long fractions", {{0.1, -1. / 3, 2. / 3}, M_PI, {1e-7, -7, 3}, 1.1});
+        row("very small and large", {{4e-320, 0, 0}, 1e-300, {1e308, 0, 0}, 9e99});
+        row("negative zero", {{-0.0, 1, 0}, -0.0, {0, -0.0, 0}, 1});
     }
 
     void keptBitForBit()
@@ -61,18 +60,18 @@ private Q_SLOTS:
 
     void badTextChangesNothing_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("null") << QString();
-        QTest::newRow("empty") << "";
-        QTest::newRow("other mark") << "camera2 1 1 1 0 0 0 0 1";
-        QTest::newRow("too few") << "camera1 1 1 1 0 0 0 0";
-        QTest::newRow("too many") << "camera1 1 1 1 0 0 0 0 1 1";
-        QTest::newRow("no number") << "camera1 1 1 x 0 0 0 0 1";
-        QTest::newRow("not a number") << "camera1 1 1 1 nan 0 0 0 1";
-        QTest::newRow("endless") << "camera1 1 1 1 0 inf 0 0 1";
-        QTest::newRow("no direction") << "camera1 0 -0 0 0 0 0 0 1";
-        QTest::newRow("zoom 0") << "camera1 1 1 1 0 0 0 0 0";
-        QTest::newRow("zoom below 0") << "camera1 1 1 1 0 0 0 0 -1";
+        const Columns<QString> row("text");
+        row("null", {});
+        row("empty", "");
+        row("other mark", "camera2 1 1 1 0 0 0 0 1");
+        row("too few", "camera1 1 1 1 0 0 0 0");
+        row("too many", "camera1 1 1 1 0 0 0 0 1 1");
+        row("no number", "camera1 1 1 x 0 0 0 0 1");
+        row("not a number", "camera1 1 1 1 nan 0 0 0 1");
+        row("endless", "camera1 1 1 1 0 inf 0 0 1");
+        row("no direction", "camera1 0 -0 0 0 0 0 0 1");
+        row("zoom 0", "camera1 1 1 1 0 0 0 0 0");
+        row("zoom below 0", "camera1 1 1 1 0 0 0 0 -1");
     }
 
     void badTextChangesNothing()

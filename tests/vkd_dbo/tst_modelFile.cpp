@@ -15,25 +15,21 @@ class TestModelFile : public QObject
 private Q_SLOTS:
     void shipped_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QStringList>("titles"); // in German and in English
-        QTest::addColumn<QVector<int>>("atLeast");
+        // titles: in German and in English
+        const Columns<QString, int, QStringList, QVector<int>> row("file", "kind", "titles",
+                                                                   "atLeast");
         const auto titles = [](const char* german, const char* english) {
             return QStringList{QString::fromUtf8(german), QString::fromUtf8(english)};
         };
-        QTest::newRow("building") << "models/building.json" << 0
-                                  << titles("Bürogebäude mit zwei Geschossen",
-                                            "Two-storey office building")
-                                  << QVector<int>{1000, 1000, 100, 0, 100};
-        QTest::newRow("slab") << "models/slab.json" << 20
-                              << titles("Punktgestützte Flachdecke mit Balkon",
-                                        "Flat slab on columns with a balcony")
-                              << QVector<int>{1000, 1000, 0, 0, 0};
-        QTest::newRow("hall") << "models/hall.json" << 0
-                              << titles("Industriehalle mit Kranbahn",
-                                        "Industrial hall with crane runway")
-                              << QVector<int>{500, 300, 200, 40, 400};
+        row("building", "models/building.json", 0,
+            titles("Bürogebäude mit zwei Geschossen", "Two-storey office building"),
+            {1000, 1000, 100, 0, 100});
+        row("slab", "models/slab.json", 20,
+            titles("Punktgestützte Flachdecke mit Balkon", "Flat slab on columns with a balcony"),
+            {1000, 1000, 0, 0, 0});
+        row("hall", "models/hall.json", 0,
+            titles("Industriehalle mit Kranbahn", "Industrial hall with crane runway"),
+            {500, 300, 200, 40, 400});
     }
 
     void shipped()

@@ -126,9 +126,9 @@ private Q_SLOTS:
 
     void query_data()
     {
-        QTest::addColumn<int>("row");
+        const Columns<int> row("row");
         for (const Query& one : queries)
-            QTest::newRow(one.name) << int(&one - queries);
+            row(one.name, int(&one - queries));
     }
 
     void query()
@@ -147,10 +147,9 @@ private Q_SLOTS:
 
     void refusedModelLeavesTheOldOne_data()
     {
-        QTest::addColumn<bool>("isWritable");
-        QTest::addColumn<QString>("line");
-        QTest::newRow("write-protected") << false << "cannot take the lock of .*write-protected";
-        QTest::newRow("found out by the release") << true << "cannot store the changes in .*holds";
+        const Columns<bool, QString> row("isWritable", "line");
+        row("write-protected", false, "cannot take the lock of .*write-protected");
+        row("found out by the release", true, "cannot store the changes in .*holds");
     }
 
     void refusedModelLeavesTheOldOne()
@@ -172,12 +171,11 @@ private Q_SLOTS:
 
     void damagedRecordIsLeftOut_data()
     {
-        QTest::addColumn<int>("key1");
-        QTest::addColumn<QByteArray>("record");
-        QTest::newRow("node cut") << 20 << QByteArray(20, '\1');
-        QTest::newRow("outline longer than its record") << 32 << QByteArray(12, '\x7F');
-        QTest::newRow("outline of negative length") << 32 << QByteArray(12, '\xFF');
-        QTest::newRow("group with a title that cannot be") << 11 << QByteArray(12, '\x7E');
+        const Columns<int, QByteArray> row("key1", "record");
+        row("node cut", 20, QByteArray(20, '\1'));
+        row("outline longer than its record", 32, QByteArray(12, '\x7F'));
+        row("outline of negative length", 32, QByteArray(12, '\xFF'));
+        row("group with a title that cannot be", 11, QByteArray(12, '\x7E'));
     }
 
     void damagedRecordIsLeftOut()

@@ -144,13 +144,12 @@ private Q_SLOTS:
 
     void confirmed_data()
     {
-        QTest::addColumn<QList<int>>("checked");
-        QTest::addColumn<QList<int>>("confirmed");
-        QTest::newRow("none") << QList<int>{} << QList<int>{};
-        QTest::newRow("ascending, each once") << QList<int>{12, 2, 12} << QList<int>{2, 12};
-        QTest::newRow("remaining groups") << QList<int>{-1} << QList<int>{};
-        QTest::newRow("not in the model") << QList<int>{77, 3, 0} << QList<int>{0, 3, 77};
-        QTest::newRow("secondary ones") << QList<int>{Cols, 2, Old} << QList<int>{2};
+        const Columns<QList<int>, QList<int>> row("checked", "confirmed");
+        row("none", {}, {});
+        row("ascending, each once", {12, 2, 12}, {2, 12});
+        row("remaining groups", {-1}, {});
+        row("not in the model", {77, 3, 0}, {0, 3, 77});
+        row("secondary ones", {Cols, 2, Old}, {2});
     }
 
     /// Opened and confirmed as it is, with Enter in the list.
@@ -168,10 +167,9 @@ private Q_SLOTS:
 
     void results_data()
     {
-        QTest::addColumn<QByteArray>("button");
-        QTest::addColumn<int>("result");
-        QTest::newRow("pick") << QByteArray("pick") << 6;
-        QTest::newRow("escape") << QByteArray() << 0;
+        const Columns<QByteArray, int> row("button", "result");
+        row("pick", QByteArray("pick"), 6);
+        row("escape", QByteArray(), 0);
     }
 
     /// Whatever was checked before counts for nothing then.

@@ -27,12 +27,11 @@ private Q_SLOTS:
     {
         Groups many(3000);
         std::iota(many.begin(), many.end(), 1);
-        QTest::addColumn<Groups>("put");
-        QTest::addColumn<Groups>("got");
-        QTest::newRow("empty") << Groups() << Groups();
-        QTest::newRow("sorted, each once") << Groups{9, 2, 9, 0} << Groups{0, 2, 9};
-        QTest::newRow("secondary") << Groups{0x534c4f43, 7} << Groups{7, 0x534c4f43};
-        QTest::newRow("many") << many << many;
+        const Columns<Groups, Groups> row("put", "got");
+        row("empty", Groups(), Groups());
+        row("sorted, each once", {9, 2, 9, 0}, {0, 2, 9});
+        row("secondary", {0x534c4f43, 7}, {7, 0x534c4f43});
+        row("many", many, many);
     }
 
     void roundTrip()

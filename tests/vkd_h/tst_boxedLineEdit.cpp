@@ -80,17 +80,13 @@ private Q_SLOTS:
 
     void emptyFieldStandsForTheDefault_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("text");
+        const Columns<int, int, double, QString> row("flags", "key", "value", "text");
         const int isDefault = StructBoxedEdit::EmptyIsDefault;
-        QTest::newRow("tab") << isDefault << int(Qt::Key_Tab) << 2.0 << "2.0";
-        QTest::newRow("enter") << isDefault << int(Qt::Key_Return) << 2.0 << "2.0";
-        QTest::newRow("escape") << isDefault << int(Qt::Key_Escape) << 7.0 << "7.0";
-        QTest::newRow("needed") << 0 << int(Qt::Key_Tab) << 7.0 << "";
-        QTest::newRow("allowed") << int(StructLineEdit::EmptyAllowed) << int(Qt::Key_Tab)
-                                 << -99999.0 << "";
+        row("tab", isDefault, int(Qt::Key_Tab), 2.0, "2.0");
+        row("enter", isDefault, int(Qt::Key_Return), 2.0, "2.0");
+        row("escape", isDefault, int(Qt::Key_Escape), 7.0, "7.0");
+        row("needed", 0, int(Qt::Key_Tab), 7.0, "");
+        row("allowed", int(StructLineEdit::EmptyAllowed), int(Qt::Key_Tab), -99999.0, "");
     }
 
     void emptyFieldStandsForTheDefault()

@@ -48,13 +48,9 @@ private Q_SLOTS:
 
     void block_data()
     {
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("begin");
-        QTest::addColumn<QString>("end");
-        QTest::newRow("German") << 0 << "PROG GRAV $ Bild %2\nKOPF Träger %1\n"
-                                << "ENDE";
-        QTest::newRow("English") << 1 << "PROG GRAV $ Bild %2\nHEAD Träger %1\n"
-                                 << "END";
+        const Columns<int, QString, QString> row("language", "begin", "end");
+        row("German", 0, "PROG GRAV $ Bild %2\nKOPF Träger %1\n", "ENDE");
+        row("English", 1, "PROG GRAV $ Bild %2\nHEAD Träger %1\n", "END");
     }
 
     void block()

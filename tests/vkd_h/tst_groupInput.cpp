@@ -91,27 +91,13 @@ private Q_SLOTS:
 
     void names_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("groups");
-        QTest::addColumn<QString>("missing");
-        QTest::newRow("each separator") << "COLS LOW;A1,LOW"
-                                        << "A1 LOW COLS"
-                                        << "";
-        QTest::newRow("any case") << "cols a1"
-                                  << "A1 COLS"
-                                  << "";
-        QTest::newRow("case tells two apart") << "abcd"
-                                              << "abcd"
-                                              << "";
-        QTest::newRow("case tells nothing") << "aBcD"
-                                            << "ABCD abcd"
-                                            << "";
-        QTest::newRow("too long") << "COLS1 LO"
-                                  << ""
-                                  << "COLS1|LO";
-        QTest::newRow("a hyphen is no range") << "A1-LOW"
-                                              << ""
-                                              << "A1-LOW";
+        const Columns<QString, QString, QString> row("text", "groups", "missing");
+        row("each separator", "COLS LOW;A1,LOW", "A1 LOW COLS", "");
+        row("any case", "cols a1", "A1 COLS", "");
+        row("case tells two apart", "abcd", "abcd", "");
+        row("case tells nothing", "aBcD", "ABCD abcd", "");
+        row("too long", "COLS1 LO", "", "COLS1|LO");
+        row("a hyphen is no range", "A1-LOW", "", "A1-LOW");
     }
 
     void names()

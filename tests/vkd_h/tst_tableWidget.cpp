@@ -50,141 +50,133 @@ class tst_tableWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void columnsByTheirIds();
-    void choosingByKeyboard();
-    void escapeLeavesTheChoice();
-    void scatteredRowsAreDeleted();
-    void copyForSpreadsheets();
-    void keysOfTheFrame();
-    void keysOnACellWithAWidget();
-};
-
-void tst_tableWidget::columnsByTheirIds()
-{
-    const Table table;
-    QCOMPARE(table.getColumnNumber(8), 1);
-    QCOMPARE(table.getColumnNumber(1), -1);
-    QCOMPARE(table.getColumnId(0), 5);
-    QCOMPARE(table.getColumnId(-1), -1);
-    QVERIFY(!table.itemOnColId(0, 6));
-    table.item(0, 1)->setText(QStringLiteral("green"));
-    QCOMPARE(table.idAt(0), -99999);
-}
-
-void tst_tableWidget::choosingByKeyboard()
-{
-    Table table;
-    table.show();
-    table.setCurrentCell(1, 1);
-    int changes = 0;
-    connect(&table, &QTableWidget::itemChanged, &table, [&changes] { ++changes; });
-    QTest::keyClick(&table, Qt::Key_F2);
-    auto combo = table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo"));
-    QVERIFY(combo);
-    QCOMPARE(combo->getCurrentId(), 7);
-    QTRY_VERIFY(combo->view()->isVisible());
-    QTest::keyClick(combo->view(), Qt::Key_Down);
-    QTest::keyClick(combo->view(), Qt::Key_Enter);
-    QCOMPARE(table.idAt(1), 9);
-    QCOMPARE(changes, 1);
-    QTRY_VERIFY(!table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo")));
-}
-
-void tst_tableWidget::escapeLeavesTheChoice()
-{
-    Table table;
-    table.show();
-    const QRect cell = table.visualItemRect(table.item(1, 1));
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
-    QTest::keyClick(&table, Qt::Key_B); // would be the other entry
-    QCoreApplication::processEvents();
-    QVERIFY(!table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo")));
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                      cell.center() + QPoint(cell.width() / 2 - 5, 0));
-    QCoreApplication::processEvents();
-    auto combo = table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo"));
-    QVERIFY(combo);
-    QTRY_VERIFY(combo->view()->isVisible());
-    QTest::keyClick(combo->view(), Qt::Key_Down);
-    QTest::keyClick(combo->view(), Qt::Key_Escape);
-    QTest::keyClick(combo, Qt::Key_Escape);
-    QCOMPARE(table.idAt(1), 7);
-}
-
-void tst_tableWidget::scatteredRowsAreDeleted()
-{
-    Table table;
-    for (int row = 3; row < 9; ++row) {
-        table.addNewRow(true);
-        table.item(row, 0)->setText(QString::number(row));
+    void columnsByTheirIds()
+    {
+        const Table table;
+        QCOMPARE(table.getColumnNumber(8), 1);
+        QCOMPARE(table.getColumnNumber(1), -1);
+        QCOMPARE(table.getColumnId(0), 5);
+        QCOMPARE(table.getColumnId(-1), -1);
+        QVERIFY(!table.itemOnColId(0, 6));
+        table.item(0, 1)->setText(QStringLiteral("green"));
+        QCOMPARE(table.idAt(0), -99999);
     }
-    table.setCurrentCell(6, 1, QItemSelectionModel::NoUpdate);
-    QSignalSpy counted(&table, &VKD_H_TableWidget::signal_rowCountChanged);
-    for (int row : {8, 0, 4, 5, 2})
-        table.setRangeSelected({row, 0, row, 1}, true);
-    table.deleteSelectedRows();
-    QCOMPARE(table.firstColumn(), QStringLiteral("t1367"));
-    QCOMPARE(table.currentIndex(), table.model()->index(2, 1)); // moved up with its row
-    QVERIFY(table.getSelectetRows().empty());
-    QCOMPARE(counted.first().first().toInt(), 9);
-    QCOMPARE(counted.last().last().toInt(), 4);
-}
 
-void tst_tableWidget::copyForSpreadsheets()
-{
-    Table table;
-    table.item(1, 0)->setText(QStringLiteral("two\nlines <\"b\">"));
-    table.setRangeSelected({0, 0, 1, 0}, true);
-    table.setRangeSelected({1, 1, 2, 1}, true);
-    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
-    const QMimeData* copied = QApplication::clipboard()->mimeData();
-    QCOMPARE(copied->text(), QStringLiteral("t0\t\n\"two\nlines <\"\"b\"\">\"\tred\n\tred\n"));
-    QCOMPARE(copied->html(),
-             QStringLiteral("<table><tr><td>t0</td><td></td></tr><tr><td>two<br>lines "
-                            "&lt;&quot;b&quot;&gt;</td><td>red</td></tr>"
-                            "<tr><td></td><td>red</td></tr></table>"));
-}
+    void choosingByKeyboard()
+    {
+        Table table;
+        table.show();
+        table.setCurrentCell(1, 1);
+        int changes = 0;
+        connect(&table, &QTableWidget::itemChanged, &table, [&changes] { ++changes; });
+        QTest::keyClick(&table, Qt::Key_F2);
+        auto combo = table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo"));
+        QVERIFY(combo);
+        QCOMPARE(combo->getCurrentId(), 7);
+        QTRY_VERIFY(combo->view()->isVisible());
+        QTest::keyClick(combo->view(), Qt::Key_Down);
+        QTest::keyClick(combo->view(), Qt::Key_Enter);
+        QCOMPARE(table.idAt(1), 9);
+        QCOMPARE(changes, 1);
+        QTRY_VERIFY(!table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo")));
+    }
 
-void tst_tableWidget::keysOfTheFrame()
-{
-    auto table = new Table;
-    table->setContextmenueEnabled_new_del(false);
-    QDialog window; // whose Enter and Escape must stay away from the table
-    VKD_H_TableWidgetBox box(table, QStringLiteral("Title"), &window, "box");
-    box.createDefaultLayout(false, true);
-    box.addButton(VKD_H_TableWidgetBox::New, false);
-    box.addButton(VKD_H_TableWidgetBox::Delete, false);
-    QSignalSpy added(box.getButton(VKD_H_TableWidgetBox::New), &QPushButton::clicked);
-    QSignalSpy deleted(box.getButton(VKD_H_TableWidgetBox::Delete), &QPushButton::clicked);
-    window.show();
-    window.activateWindow();
-    table->setFocus();
-    table->setCurrentCell(0, 0);
-    QTRY_VERIFY(table->hasFocus());
-    QTest::keyClick(table, Qt::Key_Insert);
-    QTest::keyClick(table, Qt::Key_Delete);
-    QTest::keyClick(table, Qt::Key_Enter);
-    QCOMPARE(added.size(), 1);
-    QCOMPARE(deleted.size(), 1);
-    QCOMPARE(table->rowCount(), 3);
-    QVERIFY(window.isVisible());
-}
+    void escapeLeavesTheChoice()
+    {
+        Table table;
+        table.show();
+        const QRect cell = table.visualItemRect(table.item(1, 1));
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
+        QTest::keyClick(&table, Qt::Key_B); // would be the other entry
+        QCoreApplication::processEvents();
+        QVERIFY(!table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo")));
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                          cell.center() + QPoint(cell.width() / 2 - 5, 0));
+        QCoreApplication::processEvents();
+        auto combo = table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo"));
+        QVERIFY(combo);
+        QTRY_VERIFY(combo->view()->isVisible());
+        QTest::keyClick(combo->view(), Qt::Key_Down);
+        QTest::keyClick(combo->view(), Qt::Key_Escape);
+        QTest::keyClick(combo, Qt::Key_Escape);
+        QCOMPARE(table.idAt(1), 7);
+    }
 
-void tst_tableWidget::keysOnACellWithAWidget()
-{
-    Table table;
-    table.show();
-    table.setCurrentCell(2, 0);
-    auto button = new QPushButton;
-    table.setCellWidget(2, 0, button);
-    QSignalSpy clicked(button, &QPushButton::clicked);
-    QSignalSpy selected(&table, &QTableWidget::itemSelectionChanged);
-    QTest::keyClick(&table, Qt::Key_F2);
-    QCOMPARE(clicked.size(), 1);
-    QCOMPARE(selected.size(), 0);
-    QTest::keyClick(&table, Qt::Key_Escape);
-    QCOMPARE(selected.size(), 1);
-}
+    void scatteredRowsAreDeleted()
+    {
+        Table table;
+        for (int row = 3; row < 9; ++row) {
+            table.addNewRow(true);
+            table.item(row, 0)->setText(QString::number(row));
+        }
+        table.setCurrentCell(6, 1, QItemSelectionModel::NoUpdate);
+        QSignalSpy counted(&table, &VKD_H_TableWidget::signal_rowCountChanged);
+        for (int row : {8, 0, 4, 5, 2})
+            table.setRangeSelected({row, 0, row, 1}, true);
+        table.deleteSelectedRows();
+        QCOMPARE(table.firstColumn(), QStringLiteral("t1367"));
+        QCOMPARE(table.currentIndex(), table.model()->index(2, 1)); // moved up with its row
+        QVERIFY(table.getSelectetRows().empty());
+        QCOMPARE(counted.first().first().toInt(), 9);
+        QCOMPARE(counted.last().last().toInt(), 4);
+    }
+
+    void copyForSpreadsheets()
+    {
+        Table table;
+        table.item(1, 0)->setText(QStringLiteral("two\nlines <\"b\">"));
+        table.setRangeSelected({0, 0, 1, 0}, true);
+        table.setRangeSelected({1, 1, 2, 1}, true);
+        QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+        const QMimeData* copied = QApplication::clipboard()->mimeData();
+        QCOMPARE(copied->text(), QStringLiteral("t0\t\n\"two\nlines <\"\"b\"\">\"\tred\n\tred\n"));
+        QCOMPARE(copied->html(),
+                 QStringLiteral("<table><tr><td>t0</td><td></td></tr><tr><td>two<br>lines "
+                                "&lt;&quot;b&quot;&gt;</td><td>red</td></tr>"
+                                "<tr><td></td><td>red</td></tr></table>"));
+    }
+
+    void keysOfTheFrame()
+    {
+        auto table = new Table;
+        table->setContextmenueEnabled_new_del(false);
+        QDialog window; // whose Enter and Escape must stay away from the table
+        VKD_H_TableWidgetBox box(table, QStringLiteral("Title"), &window, "box");
+        box.createDefaultLayout(false, true);
+        box.addButton(VKD_H_TableWidgetBox::New, false);
+        box.addButton(VKD_H_TableWidgetBox::Delete, false);
+        QSignalSpy added(box.getButton(VKD_H_TableWidgetBox::New), &QPushButton::clicked);
+        QSignalSpy deleted(box.getButton(VKD_H_TableWidgetBox::Delete), &QPushButton::clicked);
+        window.show();
+        window.activateWindow();
+        table->setFocus();
+        table->setCurrentCell(0, 0);
+        QTRY_VERIFY(table->hasFocus());
+        QTest::keyClick(table, Qt::Key_Insert);
+        QTest::keyClick(table, Qt::Key_Delete);
+        QTest::keyClick(table, Qt::Key_Enter);
+        QCOMPARE(added.size(), 1);
+        QCOMPARE(deleted.size(), 1);
+        QCOMPARE(table->rowCount(), 3);
+        QVERIFY(window.isVisible());
+    }
+
+    void keysOnACellWithAWidget()
+    {
+        Table table;
+        table.show();
+        table.setCurrentCell(2, 0);
+        auto button = new QPushButton;
+        table.setCellWidget(2, 0, button);
+        QSignalSpy clicked(button, &QPushButton::clicked);
+        QSignalSpy selected(&table, &QTableWidget::itemSelectionChanged);
+        QTest::keyClick(&table, Qt::Key_F2);
+        QCOMPARE(clicked.size(), 1);
+        QCOMPARE(selected.size(), 0);
+        QTest::keyClick(&table, Qt::Key_Escape);
+        QCOMPARE(selected.size(), 1);
+    }
+};
 
 PLIB_WIDGET_TEST_MAIN(tst_tableWidget)
 #include "tst_tableWidget.moc"

@@ -87,88 +87,82 @@ class tst_qtTableView : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void noEditing();
-    void openEditorCloses();
-    void selectionAndCopying();
-    void widgetsOverCells();
-    void onlyEditFieldsAreDimmed();
+    void noEditing()
+    {
+        Table table;
+        for (bool readOnly : {false, true, false}) {
+            table.set_read_only(readOnly);
+            QCOMPARE(table.clickOnBox(), !readOnly);
+            QCOMPARE(table.drop(), !readOnly);
+            table.setCurrentIndex(table.m_model.index(0, 0));
+            const QString before = table.titles();
+            for (int key : {Qt::Key_F2, Qt::Key_X, Qt::Key_Space, Qt::Key_Delete})
+                QTest::keyClick(&table, Qt::Key(key));
+            QTest::mouseDClick(table.viewport(), Qt::LeftButton, {},
+                               table.visualRect(table.currentIndex()).center());
+            QCOMPARE(table.editor() != nullptr, !readOnly);
+            QCOMPARE(table.titles(), before);
+            QVERIFY(table.isEnabled());
+        }
+    }
+
+    void openEditorCloses()
+    {
+        Table table;
+        table.edit(table.currentIndex());
+        QVERIFY(table.editor());
+        table.editor()->setText(QStringLiteral("typed"));
+        table.set_read_only(true);
+        QVERIFY(!table.editor());
+        QCOMPARE(table.titles(), QStringLiteral("typed|LC 2|LC 3"));
+    }
+
+    void selectionAndCopying()
+    {
+        Table table;
+        table.m_model.item(2, 1)->setText(QStringLiteral("a \"b\""));
+        for (bool readOnly : {true, false}) {
+            QApplication::clipboard()->clear();
+            table.set_read_only(readOnly);
+            table.clearSelection();
+            table.setCurrentIndex(table.m_model.index(1, 0));
+            QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
+            QTest::keyClick(&table, Qt::Key_Right, Qt::ShiftModifier);
+            QTest::keySequence(&table, QKeySequence::Copy);
+            QCOMPARE(QApplication::clipboard()->text(),
+                     QStringLiteral("LC 2\tdead\nLC 3\t\"a \"\"b\"\"\"\n"));
+        }
+    }
+
+    void widgetsOverCells()
+    {
+        Table table;
+        auto own = new QLineEdit, offByHost = new QLineEdit, late = new QLineEdit;
+        offByHost->setEnabled(false);
+        table.setIndexWidget(table.m_model.index(0, 1), own);
+        table.setIndexWidget(table.m_model.index(1, 1), offByHost);
+        table.set_read_only(true);
+        table.setIndexWidget(table.m_model.index(2, 1), late);
+        QTRY_VERIFY(!late->isEnabled());
+        QVERIFY(!own->isEnabled());
+        table.setIndexWidget(table.m_model.index(0, 1), nullptr);
+        QCoreApplication::sendPostedEvents(own, QEvent::DeferredDelete);
+        table.set_read_only(false);
+        QVERIFY(late->isEnabled());
+        QVERIFY(!offByHost->isEnabled());
+    }
+
+    void onlyEditFieldsAreDimmed()
+    {
+        Table table;
+        const QImage title = table.picture(0), kind = table.picture(1);
+        table.set_read_only(true);
+        QVERIFY(table.picture(0) != title);
+        QVERIFY(table.picture(1) == kind);
+        table.set_read_only(false);
+        QVERIFY(table.picture(0) == title);
+    }
 };
-
-void tst_qtTableView::noEditing()
-{
-    Table table;
-    for (bool readOnly : {false, true, false}) {
-        table.set_read_only(readOnly);
-        QCOMPARE(table.clickOnBox(), !readOnly);
-        QCOMPARE(table.drop(), !readOnly);
-        table.setCurrentIndex(table.m_model.index(0, 0));
-        const QString before = table.titles();
-        for (int key : {Qt::Key_F2, Qt::Key_X, Qt::Key_Space, Qt::Key_Delete})
-            QTest::keyClick(&table, Qt::Key(key));
-        QTest::mouseDClick(table.viewport(), Qt::LeftButton, {},
-                           table.visualRect(table.currentIndex()).center());
-        QCOMPARE(table.editor() != nullptr, !readOnly);
-        QCOMPARE(table.titles(), before);
-        QVERIFY(table.isEnabled());
-    }
-}
-
-void tst_qtTableView::openEditorCloses()
-{
-    Table table;
-    table.edit(table.currentIndex());
-    QVERIFY(table.editor());
-    table.editor()->setText(QStringLiteral("typed"));
-    table.set_read_only(true);
-    QVERIFY(!table.editor());
-    QCOMPARE(table.titles(), QStringLiteral("typed|LC 2|LC 3"));
-}
-
-void tst_qtTableView::selectionAndCopying()
-{
-    Table table;
-    table.m_model.item(2, 1)->setText(QStringLiteral("a \"b\""));
-    for (bool readOnly : {true, false}) {
-        QApplication::clipboard()->clear();
-        table.set_read_only(readOnly);
-        table.clearSelection();
-        table.setCurrentIndex(table.m_model.index(1, 0));
-        QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
-        QTest::keyClick(&table, Qt::Key_Right, Qt::ShiftModifier);
-        QTest::keySequence(&table, QKeySequence::Copy);
-        QCOMPARE(QApplication::clipboard()->text(),
-                 QStringLiteral("LC 2\tdead\nLC 3\t\"a \"\"b\"\"\"\n"));
-    }
-}
-
-void tst_qtTableView::widgetsOverCells()
-{
-    Table table;
-    auto own = new QLineEdit, offByHost = new QLineEdit, late = new QLineEdit;
-    offByHost->setEnabled(false);
-    table.setIndexWidget(table.m_model.index(0, 1), own);
-    table.setIndexWidget(table.m_model.index(1, 1), offByHost);
-    table.set_read_only(true);
-    table.setIndexWidget(table.m_model.index(2, 1), late);
-    QTRY_VERIFY(!late->isEnabled());
-    QVERIFY(!own->isEnabled());
-    table.setIndexWidget(table.m_model.index(0, 1), nullptr);
-    QCoreApplication::sendPostedEvents(own, QEvent::DeferredDelete);
-    table.set_read_only(false);
-    QVERIFY(late->isEnabled());
-    QVERIFY(!offByHost->isEnabled());
-}
-
-void tst_qtTableView::onlyEditFieldsAreDimmed()
-{
-    Table table;
-    const QImage title = table.picture(0), kind = table.picture(1);
-    table.set_read_only(true);
-    QVERIFY(table.picture(0) != title);
-    QVERIFY(table.picture(1) == kind);
-    table.set_read_only(false);
-    QVERIFY(table.picture(0) == title);
-}
 
 PLIB_WIDGET_TEST_MAIN(tst_qtTableView)
 #include "tst_qtTableView.moc"

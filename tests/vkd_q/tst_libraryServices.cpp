@@ -21,24 +21,16 @@ private Q_SLOTS:
 
     void searchPath_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("found"); // in the test's folder
-        QTest::newRow("first folder wins") << "both"
-                                           << "one/both";
-        QTest::newRow("second folder") << "second"
-                                       << "two/second";
-        QTest::newRow("before the shipped one") << "graphicaloutput.data"
-                                                << "two/graphicaloutput.data";
-        QTest::newRow("with a folder") << "sub/deep"
-                                       << "one/sub/deep";
-        QTest::newRow("other letters") << "Größe"
-                                       << "two/Größe";
-        QTest::newRow("missing") << "nowhere"
-                                 << "";
-        QTest::newRow("a folder is no file") << "sub"
-                                             << "";
-        QTest::newRow("empty name") << ""
-                                    << "";
+        // found: in the test's folder
+        const Columns<QString, QString> row("name", "found");
+        row("first folder wins", "both", "one/both");
+        row("second folder", "second", "two/second");
+        row("before the shipped one", "graphicaloutput.data", "two/graphicaloutput.data");
+        row("with a folder", "sub/deep", "one/sub/deep");
+        row("other letters", "Größe", "two/Größe");
+        row("missing", "nowhere", "");
+        row("a folder is no file", "sub", "");
+        row("empty name", "", "");
     }
 
     void searchPath()
@@ -58,20 +50,18 @@ private Q_SLOTS:
 
     void text_data()
     {
-        QTest::addColumn<int>("textClass");
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("German") << 0 << 0 << QByteArray("ABC") << "Größe";
-        QTest::newRow("English") << 0 << 1 << QByteArray("ABC") << "Size";
-        QTest::newRow("other class") << 4 << 1 << QByteArray("ABC") << "Four";
-        QTest::newRow("first of duplicates") << 1 << 0 << QByteArray("DUP") << "eins";
-        QTest::newRow("key in Latin-1") << 0 << 1 << QByteArray("\xC4Q1") << "Umlaut";
-        QTest::newRow("blanks stay") << 1 << 1 << QByteArray("NUL") << " none ";
-        QTest::newRow("empty in one language") << 1 << 0 << QByteArray("NUL") << "";
-        QTest::newRow("unknown key") << 0 << 0 << QByteArray("XYZ") << "";
-        QTest::newRow("unknown class") << 2 << 0 << QByteArray("ABC") << "";
-        QTest::newRow("unknown language") << 0 << 2 << QByteArray("ABC") << "";
+        const Columns<int, int, QByteArray, QString> row("textClass", "language", "key",
+                                                         "expected");
+        row("German", 0, 0, QByteArray("ABC"), "Größe");
+        row("English", 0, 1, QByteArray("ABC"), "Size");
+        row("other class", 4, 1, QByteArray("ABC"), "Four");
+        row("first of duplicates", 1, 0, QByteArray("DUP"), "eins");
+        row("key in Latin-1", 0, 1, QByteArray("\xC4Q1"), "Umlaut");
+        row("blanks stay", 1, 1, QByteArray("NUL"), " none ");
+        row("empty in one language", 1, 0, QByteArray("NUL"), "");
+        row("unknown key", 0, 0, QByteArray("XYZ"), "");
+        row("unknown class", 2, 0, QByteArray("ABC"), "");
+        row("unknown language", 0, 2, QByteArray("ABC"), "");
     }
 
     void text()
@@ -86,10 +76,10 @@ private Q_SLOTS:
 
     void badTextLine_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::newRow("language missing") << "0|BAD|German";
-        QTest::newRow("one field too many") << "0|BAD|German|English|more";
-        QTest::newRow("class is no number") << "O|BAD|German|English";
+        const Columns<QString> row("line");
+        row("language missing", "0|BAD|German");
+        row("one field too many", "0|BAD|German|English|more");
+        row("class is no number", "O|BAD|German|English");
     }
 
     void badTextLine()

@@ -36,22 +36,15 @@ private Q_SLOTS:
 
     void sequence_data()
     {
-        QTest::addColumn<QString>("puts"); // "=" writes the first record, "+" appends
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("appended in order") << "+a +b"
-                                           << "a b ";
-        QTest::newRow("a first one") << "=a"
-                                     << "a ";
-        QTest::newRow("first replaced, the rest stays") << "+a +b +c =x"
-                                                        << "x b c ";
-        QTest::newRow("empty records") << "+ +b + +d"
-                                       << " b  d ";
-        QTest::newRow("emptied") << "+a +b ="
-                                 << "";
-        QTest::newRow("emptied while empty") << "="
-                                             << "";
-        QTest::newRow("begun again") << "+a +b = +c"
-                                     << "c ";
+        // puts: "=" writes the first record, "+" appends
+        const Columns<QString, QString> row("puts", "expected");
+        row("appended in order", "+a +b", "a b ");
+        row("a first one", "=a", "a ");
+        row("first replaced, the rest stays", "+a +b +c =x", "x b c ");
+        row("empty records", "+ +b + +d", " b  d ");
+        row("emptied", "+a +b =", "");
+        row("emptied while empty", "=", "");
+        row("begun again", "+a +b = +c", "c ");
     }
 
     void sequence()
@@ -77,19 +70,16 @@ private Q_SLOTS:
 
     void delivery_data()
     {
-        QTest::addColumn<int>("size");
-        QTest::addColumn<int>("position");
-        QTest::addColumn<int>("key2");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("buffer");
-        QTest::newRow("larger buffer") << 8 << 0 << 1 << int(VKD_ZOB_OK) << "old 0...";
-        QTest::newRow("just large enough") << 5 << 1 << 1 << int(VKD_ZOB_OK) << "old 1...";
-        QTest::newRow("cut") << 3 << 0 << 1 << int(VKD_ZOB_CUT) << "old.....";
-        QTest::newRow("cut to nothing") << 0 << 0 << 1 << int(VKD_ZOB_CUT) << "........";
-        QTest::newRow("behind the end") << 8 << 2 << 1 << int(VKD_ZOB_END) << "........";
-        QTest::newRow("nothing there") << 8 << 0 << 2 << int(VKD_ZOB_NO_KEY) << "........";
-        QTest::newRow("no position") << 8 << -1 << 1 << int(VKD_ZOB_BAD_CALL) << "........";
-        QTest::newRow("no size") << -1 << 0 << 1 << int(VKD_ZOB_BAD_CALL) << "........";
+        const Columns<int, int, int, int, QString> row("size", "position", "key2", "status",
+                                                       "buffer");
+        row("larger buffer", 8, 0, 1, VKD_ZOB_OK, "old 0...");
+        row("just large enough", 5, 1, 1, VKD_ZOB_OK, "old 1...");
+        row("cut", 3, 0, 1, VKD_ZOB_CUT, "old.....");
+        row("cut to nothing", 0, 0, 1, VKD_ZOB_CUT, "........");
+        row("behind the end", 8, 2, 1, VKD_ZOB_END, "........");
+        row("nothing there", 8, 0, 2, VKD_ZOB_NO_KEY, "........");
+        row("no position", 8, -1, 1, VKD_ZOB_BAD_CALL, "........");
+        row("no size", -1, 0, 1, VKD_ZOB_BAD_CALL, "........");
     }
 
     void delivery()
@@ -109,14 +99,13 @@ private Q_SLOTS:
     void nextPair_data()
     {
         using Pair = QPair<int, int>;
-        QTest::addColumn<Pair>("from");
-        QTest::addColumn<Pair>("found");
-        QTest::newRow("the very first") << Pair(-5, -5) << Pair(1, 1);
-        QTest::newRow("a pair in use is itself") << Pair(35, 4) << Pair(35, 4);
-        QTest::newRow("in the same first key") << Pair(35, 0) << Pair(35, 4);
-        QTest::newRow("in the next first key") << Pair(35, 8) << Pair(36, 0);
-        QTest::newRow("an emptied one is passed over") << Pair(36, 1) << Pair(40, 2);
-        QTest::newRow("behind the last") << Pair(40, 3) << Pair(-1, -1);
+        const Columns<Pair, Pair> row("from", "found");
+        row("the very first", {-5, -5}, {1, 1});
+        row("a pair in use is itself", {35, 4}, {35, 4});
+        row("in the same first key", {35, 0}, {35, 4});
+        row("in the next first key", {35, 8}, {36, 0});
+        row("an emptied one is passed over", {36, 1}, {40, 2});
+        row("behind the last", {40, 3}, {-1, -1});
     }
 
     void nextPair()
@@ -149,9 +138,9 @@ private Q_SLOTS:
 
     void readingPassSeesOneState_data()
     {
-        QTest::addColumn<bool>("innerPass");
-        QTest::newRow("to the end of the sequence") << false;
-        QTest::newRow("around a pass over other records, until released") << true;
+        const Columns<bool> row("innerPass");
+        row("to the end of the sequence", false);
+        row("around a pass over other records, until released", true);
     }
 
     void readingPassSeesOneState()
@@ -222,12 +211,11 @@ private Q_SLOTS:
 
     void failureDropsTheChange_data()
     {
-        QTest::addColumn<int>("length");
-        QTest::addColumn<int>("position");
-        QTest::newRow("read instead of put") << 1 << -1;
-        QTest::newRow("record beyond all bounds") << 2000000000 << 1;
-        QTest::newRow("negative length") << -1 << 1;
-        QTest::newRow("position in the middle") << 1 << 2;
+        const Columns<int, int> row("length", "position");
+        row("read instead of put", 1, -1);
+        row("record beyond all bounds", 2000000000, 1);
+        row("negative length", -1, 1);
+        row("position in the middle", 1, 2);
     }
 
     void failureDropsTheChange()

@@ -24,27 +24,25 @@ private Q_SLOTS:
 
     void unusable_data()
     {
-        QTest::addColumn<QByteArray>("bytes"); // a null one stands for no file
-        QTest::addColumn<int>("status");
+        // bytes: a null one stands for no file
+        const Columns<QByteArray, int> row("bytes", "status");
         const int middle = m_sound.size() / 2;
         const int page = middle - middle % 4096;
         const int foreign = VKD_ZOB_NO_PROJECT, newer = VKD_ZOB_NEWER, damaged = VKD_ZOB_DAMAGED;
         const QByteArray zero(4, '\0'), noise("\x93\x07\xFE\x5A\xC1\x88\x33\xD6");
-        QTest::newRow("no file") << QByteArray() << int(VKD_ZOB_NO_FILE);
-        QTest::newRow("empty file") << QByteArray("") << foreign;
-        QTest::newRow("text") << QByteArray("Not a project.\n") << foreign;
-        QTest::newRow("other application") << patched(m_sound, 68, zero) << foreign;
-        QTest::newRow("newer version") << patched(m_sound, 63, QByteArray(1, '\2')) << newer;
-        QTest::newRow("version 0") << patched(m_sound, 60, zero) << damaged;
-        QTest::newRow("no record table")
-            << QByteArray(m_sound).replace("record", "recall") << damaged;
-        QTest::newRow("first page only") << m_sound.left(4096) << damaged;
-        QTest::newRow("first half") << m_sound.left(middle) << damaged;
-        QTest::newRow("last bytes missing") << m_sound.left(m_sound.size() - 100) << damaged;
-        QTest::newRow("noise at the head of a page") << patched(m_sound, page, noise) << damaged;
-        QTest::newRow("noise in the middle")
-            << patched(m_sound, middle, noise.repeated(100)) << damaged;
-        QTest::newRow("noise in the table of contents") << patched(m_sound, 100, noise) << damaged;
+        row("no file", QByteArray(), VKD_ZOB_NO_FILE);
+        row("empty file", QByteArray(""), foreign);
+        row("text", QByteArray("Not a project.\n"), foreign);
+        row("other application", patched(m_sound, 68, zero), foreign);
+        row("newer version", patched(m_sound, 63, QByteArray(1, '\2')), newer);
+        row("version 0", patched(m_sound, 60, zero), damaged);
+        row("no record table", QByteArray(m_sound).replace("record", "recall"), damaged);
+        row("first page only", m_sound.left(4096), damaged);
+        row("first half", m_sound.left(middle), damaged);
+        row("last bytes missing", m_sound.left(m_sound.size() - 100), damaged);
+        row("noise at the head of a page", patched(m_sound, page, noise), damaged);
+        row("noise in the middle", patched(m_sound, middle, noise.repeated(100)), damaged);
+        row("noise in the table of contents", patched(m_sound, 100, noise), damaged);
     }
 
     void unusable()
@@ -65,9 +63,9 @@ private Q_SLOTS:
 
     void readingLeavesTheFileAlone_data()
     {
-        QTest::addColumn<bool>("isWritable");
-        QTest::newRow("writable") << true;
-        QTest::newRow("write-protected") << false;
+        const Columns<bool> row("isWritable");
+        row("writable", true);
+        row("write-protected", false);
     }
 
     void readingLeavesTheFileAlone()
@@ -99,11 +97,10 @@ private Q_SLOTS:
 
     void create_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("status");
-        QTest::newRow("new") << "Überbau.vkd" << int(VKD_ZOB_OK);
-        QTest::newRow("project there") << "project" << int(VKD_ZOB_NO_FILE);
-        QTest::newRow("folder missing") << "no/new.vkd" << int(VKD_ZOB_NO_FILE);
+        const Columns<QString, int> row("name", "status");
+        row("new", "Überbau.vkd", VKD_ZOB_OK);
+        row("project there", "project", VKD_ZOB_NO_FILE);
+        row("folder missing", "no/new.vkd", VKD_ZOB_NO_FILE);
     }
 
     void create()

@@ -103,13 +103,12 @@ private Q_SLOTS:
 
     void diskFull_data()
     {
-        QTest::addColumn<int>("records");
-        QTest::addColumn<int>("size");
-        QTest::addColumn<int>("room"); // beyond the size of the file
-        QTest::newRow("not even for the journal") << 300 << 500 << -300000;
-        QTest::newRow("found out by the release") << 600 << 1000 << 20000;
-        QTest::newRow("found out by a put") << 8000 << 1000 << 2000000;
-        QTest::newRow("one large record") << 1 << 3000000 << 100000;
+        // room: beyond the size of the file
+        const Columns<int, int, int> row("records", "size", "room");
+        row("not even for the journal", 300, 500, -300000);
+        row("found out by the release", 600, 1000, 20000);
+        row("found out by a put", 8000, 1000, 2000000);
+        row("one large record", 1, 3000000, 100000);
     }
 
     void diskFull()

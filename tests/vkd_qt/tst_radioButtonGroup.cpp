@@ -90,14 +90,14 @@ private Q_SLOTS:
 
     void usingAWidgetChoosesItsEntry_data()
     {
-        QTest::addColumn<int>("key"); // 0: the mouse
-        QTest::addColumn<int>("chosen");
-        QTest::newRow("mouse") << 0 << 1;
-        QTest::newRow("digit") << int(Qt::Key_5) << 1;
-        QTest::newRow("delete") << int(Qt::Key_Delete) << 1;
-        QTest::newRow("enter") << int(Qt::Key_Return) << 0;
-        QTest::newRow("modifier") << int(Qt::Key_Shift) << 0;
-        QTest::newRow("help") << int(Qt::Key_F1) << 0;
+        // key: 0: the mouse
+        const Columns<int, int> row("key", "chosen");
+        row("mouse", 0, 1);
+        row("digit", int(Qt::Key_5), 1);
+        row("delete", int(Qt::Key_Delete), 1);
+        row("enter", int(Qt::Key_Return), 0);
+        row("modifier", int(Qt::Key_Shift), 0);
+        row("help", int(Qt::Key_F1), 0);
     }
 
     void usingAWidgetChoosesItsEntry()
@@ -119,13 +119,11 @@ private Q_SLOTS:
 
     void places_data()
     {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("row") << Qt::Horizontal << -1 << "01234";
-        QTest::newRow("rows of 3") << Qt::Horizontal << 3 << "012/34";
-        QTest::newRow("column") << Qt::Vertical << -1 << "0/1/2/3/4";
-        QTest::newRow("columns of 3") << Qt::Vertical << 3 << "03/14/2";
+        const Columns<Qt::Orientation, int, QString> row("orientation", "count", "rows");
+        row("row", Qt::Horizontal, -1, "01234");
+        row("rows of 3", Qt::Horizontal, 3, "012/34");
+        row("column", Qt::Vertical, -1, "0/1/2/3/4");
+        row("columns of 3", Qt::Vertical, 3, "03/14/2");
     }
 
     void places()

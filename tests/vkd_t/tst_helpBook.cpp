@@ -67,62 +67,60 @@ class tst_helpBook : public QObject
 private Q_SLOTS:
     void cleanup() { closeHelp(); }
 
-    void languagesHaveTheSamePages();
-    void page_data();
-    void page();
-};
-
-void tst_helpBook::languagesHaveTheSamePages()
-{
-    const QStringList names = topicNames("de");
-    QCOMPARE(topicNames("en"), names);
-    QVERIFY(names.contains(QStringLiteral("PARA")));
-    QStringList files;
-    for (const QString& name : names)
-        files << name.toLower() + QLatin1String(".html");
-    files.sort();
-    for (const char* language : {"de", "en"})
-        QCOMPARE(folder(language).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name),
-                 files);
-}
-
-void tst_helpBook::page_data()
-{
-    QTest::addColumn<int>("language");
-    QTest::addColumn<QString>("topic");
-    for (int language : {German, English})
-        for (const QString& name : topicNames("en"))
-            QTest::addRow("%s %s", language == German ? "German" : "English", qPrintable(name))
-                << language << name;
-}
-
-void tst_helpBook::page()
-{
-    QFETCH(int, language);
-    QFETCH(QString, topic);
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-    QVERIFY(VKD_T_Help::show(nullptr, "MERDAN", topic.toUtf8().constData()));
-    QVERIFY(helpWindows().at(0)->windowTitle().endsWith(
-        QLatin1String(" - ") + helpPage()->document()->firstBlock().text()));
-    QVERIFY(helpPage()->document()->blockCount() > 10);
-
-    QSet<QString> links;
-    for (const QTextCharFormat& format : formats(*helpPage()->document())) {
-        QVERIFY2(format.isAnchor() || format.foreground().style() == Qt::NoBrush, "fixed colour");
-        QVERIFY2(format.background().style() == Qt::NoBrush, "fixed background");
-        if (format.isImageFormat()) {
-            const QString name = format.toImageFormat().name();
-            const QImage image = picture(name);
-            QVERIFY2(!image.isNull(), qPrintable(name));
-            QVERIFY2(!image.hasAlphaChannel() || qAlpha(image.pixel(1, 1)) == 255, "no ground");
-        }
-        if (!format.anchorHref().isEmpty())
-            links << format.anchorHref();
+    void languagesHaveTheSamePages()
+    {
+        const QStringList names = topicNames("de");
+        QCOMPARE(topicNames("en"), names);
+        QVERIFY(names.contains(QStringLiteral("PARA")));
+        QStringList files;
+        for (const QString& name : names)
+            files << name.toLower() + QLatin1String(".html");
+        files.sort();
+        for (const char* language : {"de", "en"})
+            QCOMPARE(
+                folder(language).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name),
+                files);
     }
-    QVERIFY(!links.isEmpty());
-    for (const QString& link : qAsConst(links))
-        QVERIFY2(linkLeadsSomewhere(link), qPrintable(link));
-}
+
+    void page_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("topic");
+        for (int language : {German, English})
+            for (const QString& name : topicNames("en"))
+                QTest::addRow("%s %s", language == German ? "German" : "English", qPrintable(name))
+                    << language << name;
+    }
+
+    void page()
+    {
+        QFETCH(int, language);
+        QFETCH(QString, topic);
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+        QVERIFY(VKD_T_Help::show(nullptr, "MERDAN", topic.toUtf8().constData()));
+        QVERIFY(helpWindows().at(0)->windowTitle().endsWith(
+            QLatin1String(" - ") + helpPage()->document()->firstBlock().text()));
+        QVERIFY(helpPage()->document()->blockCount() > 10);
+
+        QSet<QString> links;
+        for (const QTextCharFormat& format : formats(*helpPage()->document())) {
+            QVERIFY2(format.isAnchor() || format.foreground().style() == Qt::NoBrush,
+                     "fixed colour");
+            QVERIFY2(format.background().style() == Qt::NoBrush, "fixed background");
+            if (format.isImageFormat()) {
+                const QString name = format.toImageFormat().name();
+                const QImage image = picture(name);
+                QVERIFY2(!image.isNull(), qPrintable(name));
+                QVERIFY2(!image.hasAlphaChannel() || qAlpha(image.pixel(1, 1)) == 255, "no ground");
+            }
+            if (!format.anchorHref().isEmpty())
+                links << format.anchorHref();
+        }
+        QVERIFY(!links.isEmpty());
+        for (const QString& link : qAsConst(links))
+            QVERIFY2(linkLeadsSomewhere(link), qPrintable(link));
+    }
+};
 
 PLIB_WIDGET_TEST_MAIN(tst_helpBook)
 #include "tst_helpBook.moc"
