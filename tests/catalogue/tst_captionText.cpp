@@ -28,10 +28,9 @@ class TestCaptionText : public QObject
 private Q_SLOTS:
     void caption_data()
     {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* field, const char* expected) {
-            QTest::newRow(field) << QString::fromUtf8(field) << QString::fromUtf8(expected);
+        const Columns<QString, QString> columns("field", "expected");
+        const auto row = [&columns](const char* field, const char* expected) {
+            columns(field, field, expected);
         };
         row("&ABC", " Base");
         row("^ABC", " Base one");
@@ -95,10 +94,9 @@ private Q_SLOTS:
 
     void keyText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("expected");
-        const auto row = [](const char* text, bool expected) {
-            QTest::newRow(text) << QString::fromLatin1(text) << expected;
+        const Columns<QString, bool> columns("text", "expected");
+        const auto row = [&columns](const char* text, bool expected) {
+            columns(text, text, expected);
         };
         row("", false);
         row("&AB", false);

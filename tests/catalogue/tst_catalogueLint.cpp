@@ -24,11 +24,7 @@ class TestCatalogueLint : public QObject
 private Q_SLOTS:
     void findings_data()
     {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const QByteArray& file, const char* expected) {
-            QTest::newRow(name) << file << QString::fromLatin1(expected);
-        };
+        const Columns<QByteArray, QString> row("file", "expected");
         const QByteArray good = "1|0|0|@A__ a|@B__ b|@C__ c| |0| |0|0| |0|g|e\n";
         row("nothing wrong", "// x\n\n" + good, "");
         row("too few", "1|2|3\n", "1: dropped: 3 columns, 15 are needed\n");

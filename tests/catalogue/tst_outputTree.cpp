@@ -57,13 +57,7 @@ class TestOutputTree : public QObject
 private Q_SLOTS:
     void tree_data()
     {
-        QTest::addColumn<QByteArray>("catalogue");
-        QTest::addColumn<int>("rowCount");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const QByteArray& catalogue, int rowCount,
-                            const char* expected) {
-            QTest::newRow(name) << catalogue << rowCount << QString::fromLatin1(expected);
-        };
+        const Columns<QByteArray, int, QString> row("catalogue", "rowCount", "expected");
         row("captions are shared",
             line("A|B|C", " ", 0, 0, "g", "e") + line("A|B|D", " ", 0, 0, "g", "e"), 0,
             "[x] A\n  [x] B\n    [x] C\n    [x] D\n");

@@ -27,14 +27,8 @@ class TestScriptLines : public QObject
 private Q_SLOTS:
     void lines_data()
     {
-        QTest::addColumn<QByteArray>("catalogue");
-        QTest::addColumn<testsupport::Rows>("rows");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const QByteArray& catalogue,
-                            const testsupport::Rows& rows, int kind, const char* expected) {
-            QTest::newRow(name) << catalogue << rows << kind << QString::fromLatin1(expected);
-        };
+        const Columns<QByteArray, testsupport::Rows, int, QString> row("catalogue", "rows", "kind",
+                                                                       "expected");
         const auto alone = [](int view, const char* text) {
             return line("A|B|C", " ", 0, view, "g", text);
         };
@@ -119,10 +113,9 @@ private Q_SLOTS:
 
     void secondNumber_data()
     {
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<int>("expected");
-        const auto row = [](const char* label, int expected) {
-            QTest::newRow(label) << QString::fromLatin1(label) << expected;
+        const Columns<QString, int> columns("label", "expected");
+        const auto row = [&columns](const char* label, int expected) {
+            columns(label, label, expected);
         };
         row("", -1);
         row("12 : Wind", -1);

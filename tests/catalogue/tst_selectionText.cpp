@@ -56,11 +56,7 @@ private Q_SLOTS:
 
     void apply_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const char* text, const char* expected) {
-            QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(expected);
-        };
+        const Columns<QString, QString> row("text", "expected");
         // A, B, C and its rows, D and its rows, E, F, G, H
         row("everything else is unchecked", "Checked:nothing like it", "...... .... ....");
         row("top level", "Checked:@A__", "xxxxxx xxxx ....");

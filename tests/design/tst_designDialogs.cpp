@@ -146,7 +146,7 @@ private Q_SLOTS:
 
     void everyFieldReachesItsWord_data()
     {
-        // combo: empty: the edit has the field's name
+        // combo: where it is empty, the edit has the field's name
         // factor: from the typed number to the record
         const Columns<QString, QString, int, double> row("field", "combo", "type", "factor");
         const auto rows = [&row](const char* fields, int type, double factor,

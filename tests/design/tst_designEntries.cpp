@@ -44,12 +44,8 @@ private Q_SLOTS:
 
     void parsing_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>(
-            "expected"); // type mark rio riui hiui zref dio diu dioq diui wkui sigo sigui
-        const auto row = [](const char* name, const char* text, const char* expected) {
-            QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(expected);
-        };
+        // expected: type mark rio riui hiui zref dio diu dioq diui wkui sigo sigui
+        const Columns<QString, QString> row("text", "expected");
         row("whole",
             "2; | 1;2;3;4;5;6; | 1;2;3;4;5;6; | 1;2;3; | 1;2;3;4;5;6; | "
             "1;2;3;4;5;6;7;8;9;10;11;12; | 11;",

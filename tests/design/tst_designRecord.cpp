@@ -110,7 +110,7 @@ private Q_SLOTS:
 
     void cleaning_data()
     {
-        // first: offsets of the first and last field
+        // first, last: offsets of the fields
         const Columns<int, int, bool, bool, bool> row("first", "last", "zeroIsUnset", "bigIsUnset",
                                                       "negativeIsUnset");
         row("directions and reference", 20, 52, false, false, false);

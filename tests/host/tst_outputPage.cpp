@@ -42,14 +42,8 @@ private Q_SLOTS:
 
     void eachControlInTheScript_data()
     {
-        QTest::addColumn<std::function<void(Desk&)>>("change");
-        QTest::addColumn<QString>("english");
-        QTest::addColumn<QString>("german");
-        const auto row = [](const char* name, std::function<void(Desk&)> change,
-                            const char* english, const char* german) {
-            QTest::newRow(name) << std::move(change) << QString::fromLatin1(english)
-                                << QString::fromLatin1(german);
-        };
+        const Columns<std::function<void(Desk&)>, QString, QString> row("change", "english",
+                                                                        "german");
         row(
             "engineering scale, automatic", [](Desk& desk) { desk.choose("ScaleGroup", 0); },
             "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN -> SIZE -URS SC - SPLI  2x1 MARG NO FORM "
@@ -234,11 +228,8 @@ private Q_SLOTS:
 
     void stringsOfOtherPages_data()
     {
-        QTest::addColumn<QString>("xml");
-        QTest::addColumn<QString>("state"); // scale entry, its row, format, pictures, view, fill
-        const auto row = [](const char* name, const QString& xml, const char* state) {
-            QTest::newRow(name) << xml << QString::fromLatin1(state);
-        };
+        // state: scale entry, its row, format, pictures, view, fill
+        const Columns<QString, QString> row("xml", "state");
         row("nothing", QString(), "0 1:20 0 1 3 true");
         row("automatic", part("Scale", "-"), "0 Auto 0 1 3 true");
         row("a hyphen anywhere", part("Scale", "1:5-"), "0 Auto 0 1 3 true");

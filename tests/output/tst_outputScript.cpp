@@ -170,11 +170,7 @@ private Q_SLOTS:
 
     void size_data()
     {
-        QTest::addColumn<Change>("change");
-        QTest::addColumn<QString>("english");
-        const auto row = [](const char* name, const Change& change, const char* english) {
-            QTest::newRow(name) << change << QString::fromLatin1(english);
-        };
+        const Columns<Change, QString> row("change", "english");
         row(
             "landscape has no division", [](OutputSettings& s) { s.formatId = 1; },
             "SIZE URS SC 0 MARG NO FORM STAN");
@@ -242,15 +238,12 @@ private Q_SLOTS:
 
     void split_data()
     {
-        QTest::addColumn<int>("id");
-        QTest::addColumn<int>("scale"); // -1: to fit
-        QTest::addColumn<bool>("english");
-        QTest::addColumn<QString>("additional");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](int id, int scale, bool english, const char* additional,
-                            const char* expected) {
-            QTest::newRow(expected) << id << scale << english << QString::fromLatin1(additional)
-                                    << QString::fromLatin1(expected);
+        // scale: -1 is to fit
+        const Columns<int, int, bool, QString, QString> columns("id", "scale", "english",
+                                                                "additional", "expected");
+        const auto row = [&columns](int id, int scale, bool english, const char* additional,
+                                    const char* expected) {
+            columns(expected, id, scale, english, additional, expected);
         };
         row(0, -1, true, "", "SIZE TYPE \"-URS\" SC 0 SPLI 1X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 1X1");
         row(1, 8, false, "",

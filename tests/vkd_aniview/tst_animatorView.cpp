@@ -129,11 +129,8 @@ private Q_SLOTS:
 
     void gestures_data()
     {
-        QTest::addColumn<Gesture>("gesture");
-        QTest::addColumn<QString>("changes"); // e: eye, c: centre, z: zoom
-        const auto row = [](const char* name, const char* changes, Gesture gesture) {
-            QTest::newRow(name) << gesture << QString::fromLatin1(changes);
-        };
+        // changes: e: eye, c: centre, z: zoom
+        const Columns<QString, Gesture> row("changes", "gesture");
         row("left", "ez", [](QWidget& view) { drag(view, {Left, Right}); });
         row("right", "c", [](QWidget& view) { drag(view, {Left, Right}, Qt::RightButton); });
         row("middle", "c", [](QWidget& view) { drag(view, {Left, Right}, Qt::MiddleButton); });
@@ -210,8 +207,7 @@ private Q_SLOTS:
 
     void noPick_data()
     {
-        QTest::addColumn<Gesture>("gesture");
-        const auto row = [](const char* name, Gesture gesture) { QTest::newRow(name) << gesture; };
+        const Columns<Gesture> row("gesture");
         row("drag", [](QWidget& view) { drag(view, {Left, Right}); });
         row("away and back", [](QWidget& view) { drag(view, {Left, Right, Left}); });
         row("right button", [](QWidget& view) { drag(view, {Left}, Qt::RightButton); });

@@ -76,11 +76,10 @@ private Q_SLOTS:
 
     void wrong_data()
     {
-        QTest::addColumn<QString>(
-            "text"); // one more key of a sound file, or "{" or "[" a whole one
-        QTest::addColumn<QString>("error");
-        const auto row = [](const char* text, const char* error) {
-            QTest::newRow(error) << text << error;
+        // text: one more key of a sound file, or "{" or "[" a whole one
+        const Columns<QString, QString> columns("text", "error");
+        const auto row = [&columns](const char* text, const char* error) {
+            columns(error, text, error);
         };
         row("{\"title\": \"t\",\n \"nodes\": oh}", "line 2, column 11: illegal number");
         row("[]", "an object is needed");

@@ -62,9 +62,9 @@ private Q_SLOTS:
 
     void damaged_data()
     {
-        QTest::addColumn<QByteArray>("record");
-        const auto row = [](const char* name, const QByteArray& hex) {
-            QTest::newRow(name) << QByteArray::fromHex(hex);
+        const Columns<QByteArray> columns("record");
+        const auto row = [&columns](const char* name, const QByteArray& hex) {
+            columns(name, QByteArray::fromHex(hex));
         };
         row("cut within the count", "020000");
         row("cut within a group", "0100000007");

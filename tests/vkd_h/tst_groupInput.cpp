@@ -45,13 +45,11 @@ class TestGroupInput : public QObject
 private Q_SLOTS:
     void numbers_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("groups");
-        QTest::addColumn<QString>("unreadable");
-        QTest::addColumn<QString>("missing");
-        const auto row = [](const char* text, const char* groups, const char* unreadable = "",
-                            const char* missing = "") {
-            QTest::newRow(text) << QString::fromUtf8(text) << groups << unreadable << missing;
+        const Columns<QString, QString, QString, QString> columns("text", "groups", "unreadable",
+                                                                  "missing");
+        const auto row = [&columns](const char* text, const char* groups,
+                                    const char* unreadable = "", const char* missing = "") {
+            columns(text, text, groups, unreadable, missing);
         };
         row("", "");
         row(" ;,\t ", "");

@@ -31,13 +31,10 @@ private Q_SLOTS:
 
     void reads_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<State>("state");
-        QTest::addColumn<double>("value");
-        const auto row = [](const char* name, const QString& text, int code, State state,
-                            double value = NotSet) {
-            QTest::newRow(name) << text << code << state << value;
+        const Columns<QString, int, State, double> columns("text", "code", "state", "value");
+        const auto row = [&columns](const char* name, const QString& text, int code, State state,
+                                    double value = NotSet) {
+            columns(name, text, code, state, value);
         };
         const auto accept = [row](const char* text, double value, int code = 1001) {
             row(text, QString::fromUtf8(text), code, State::Accepted, value);

@@ -90,7 +90,7 @@ private Q_SLOTS:
 
     void usingAWidgetChoosesItsEntry_data()
     {
-        // key: 0: the mouse
+        // key: 0 is the mouse
         const Columns<int, int> row("key", "chosen");
         row("mouse", 0, 1);
         row("digit", int(Qt::Key_5), 1);

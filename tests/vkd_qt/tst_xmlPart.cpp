@@ -89,10 +89,9 @@ private Q_SLOTS:
 
     void malformed_data()
     {
-        QTest::addColumn<QString>("whole");
-        QTest::addColumn<QStringList>("texts");
-        const auto row = [](const char* whole, const QStringList& texts) {
-            QTest::newRow(whole) << QString::fromLatin1(whole) << texts;
+        const Columns<QString, QStringList> columns("whole", "texts");
+        const auto row = [&columns](const char* whole, const QStringList& texts) {
+            columns(whole, whole, texts);
         };
         const QString x = QStringLiteral("x");
         row("<A>", {});
