@@ -26,8 +26,6 @@ private:
     int m_kind;
 };
 
-Q_DECLARE_METATYPE(plib::GraphicalOutputRecord)
-
 static plib::GraphicalOutputRecord record()
 {
     plib::GraphicalOutputRecord r;
@@ -44,17 +42,23 @@ private Q_SLOTS:
     void tag_data()
     {
         const Columns<QString, int> row("tag", "content");
-        const char* const tags[] = {"Node", "Quad", "Boun", "Beam", "DSLN", "Trus",
-                                    "Sir",  "Gpt",  "Gln",  "Gar",  "Axis", "Cabl",
-                                    "Spri", "Bric", "Qten", "Bten", "Sect"};
-        const Content contents[] = {
-            Content::Nodes,        Content::Quads,   Content::Boundaries,  Content::Beams,
-            Content::DesignLines,  Content::Trusses, Content::SectionCuts, Content::Points,
-            Content::Lines,        Content::Areas,   Content::Axes,        Content::Cables,
-            Content::Springs,      Content::Bricks,  Content::QuadTendons, Content::BeamTendons,
-            Content::CrossSections};
-        for (size_t i = 0; i < std::size(tags); ++i)
-            row(tags[i], QString::fromLatin1(tags[i]), int(contents[i]));
+        const struct
+        {
+            const char* tag;
+            Content content;
+        } pairs[] = {
+            {"Node", Content::Nodes},         {"Quad", Content::Quads},
+            {"Boun", Content::Boundaries},    {"Beam", Content::Beams},
+            {"DSLN", Content::DesignLines},   {"Trus", Content::Trusses},
+            {"Sir", Content::SectionCuts},    {"Gpt", Content::Points},
+            {"Gln", Content::Lines},          {"Gar", Content::Areas},
+            {"Axis", Content::Axes},          {"Cabl", Content::Cables},
+            {"Spri", Content::Springs},       {"Bric", Content::Bricks},
+            {"Qten", Content::QuadTendons},   {"Bten", Content::BeamTendons},
+            {"Sect", Content::CrossSections},
+        };
+        for (const auto& pair : pairs)
+            row(pair.tag, pair.tag, int(pair.content));
     }
 
     void tag()
@@ -96,60 +100,48 @@ private Q_SLOTS:
 
     void offered_data()
     {
-        QTest::addColumn<plib::GraphicalOutputRecord>("record");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("additional");
-        QTest::addColumn<bool>("expected");
-        const auto row = [](const char* name, auto change, int kind, const char* additional,
-                            bool expected) {
-            auto r = record();
-            change(r);
-            QTest::newRow(name) << r << kind << QString::fromLatin1(additional) << expected;
-        };
-        using R = plib::GraphicalOutputRecord;
-        row(
-            "plain", [](R&) {}, 0, "", true);
-        row(
-            "third program", [](R& r) { r.prog1 = 0, r.prog3 = 3; }, 0, "", true);
-        row(
-            "other program", [](R& r) { r.prog1 = 4; }, 0, "", false);
-        row(
-            "mask fits", [](R& r) { r.systemMask = 9; }, 10, "", true);
-        row(
-            "mask does not fit", [](R& r) { r.systemMask = 2; }, 10, "", false);
-        row(
-            "high bits count for nothing", [](R& r) { r.systemMask = 16 + 2; }, 10, "", false);
-        row(
-            "a mask without low bits is none", [](R& r) { r.systemMask = 16; }, 45, "", true);
-        row(
-            "negative mask", [](R& r) { r.systemMask = -1; }, 10, "", true);
-        row(
-            "negative mask in the forties", [](R& r) { r.systemMask = -1; }, 45, "", false);
-        row(
-            "content missing", [](R& r) { r.contentTag = QStringLiteral("Quad"); }, 0, "", false);
-        row(
-            "content added", [](R& r) { r.contentTag = QStringLiteral("Quad"); }, 0, "Quad", true);
-        row(
-            "added in another case", [](R& r) { r.contentTag = QStringLiteral("Quad"); }, 0, "quad",
-            false);
-        row(
-            "content there", [](R& r) { r.contentTag = QStringLiteral("nODE"); }, 0, "", true);
-        row(
-            "no first title", [](R& r) { r.title1.clear(); }, 0, "", false);
-        row(
-            "no second title", [](R& r) { r.title2.clear(); }, 0, "", false);
-        row(
-            "no third title", [](R& r) { r.title3.clear(); }, 0, "", false);
+        const Columns<int, int, QString, QString, bool> row("kind", "mask", "tag", "additional",
+                                                            "expected");
+        row("plain", 0, 0, "", "", true);
+        row("mask fits", 10, 9, "", "", true);
+        row("mask does not fit", 10, 2, "", "", false);
+        row("high bits count for nothing", 10, 16 + 2, "", "", false);
+        row("a mask without low bits is none", 45, 16, "", "", true);
+        row("negative mask", 10, -1, "", "", true);
+        row("negative mask in the forties", 45, -1, "", "", false);
+        row("content missing", 0, 0, "Quad", "", false);
+        row("content added", 0, 0, "Quad", "Quad", true);
+        row("added in another case", 0, 0, "Quad", "quad", false);
+        row("content there", 0, 0, "nODE", "", true);
     }
 
     void offered()
     {
-        QFETCH(plib::GraphicalOutputRecord, record);
         QFETCH(int, kind);
+        QFETCH(int, mask);
+        QFETCH(QString, tag);
         QFETCH(QString, additional);
-        QFETCH(bool, expected);
+        plib::GraphicalOutputRecord r = record();
+        r.systemMask = mask;
+        r.contentTag = tag;
         const OneAnswer model(Content::Nodes, kind);
-        QCOMPARE(plib::isRecordOffered(record, 3, model, {additional}), expected);
+        QTEST(plib::isRecordOffered(r, 3, model, {additional}), "expected");
+    }
+
+    void pagesAndTitles()
+    {
+        const OneAnswer model(std::nullopt, 0);
+        QVERIFY(plib::isRecordOffered(record(), 3, model, {}));
+        QVERIFY(!plib::isRecordOffered(record(), 4, model, {}));
+        plib::GraphicalOutputRecord r = record();
+        std::swap(r.prog1, r.prog3);
+        QVERIFY(plib::isRecordOffered(r, 3, model, {}));
+        using Record = plib::GraphicalOutputRecord;
+        for (QString Record::*title : {&Record::title1, &Record::title2, &Record::title3}) {
+            r = record();
+            (r.*title).clear();
+            QVERIFY(!plib::isRecordOffered(r, 3, model, {}));
+        }
     }
 
     void kindIsNotAskedWithoutMask()

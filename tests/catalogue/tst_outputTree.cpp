@@ -167,20 +167,6 @@ private Q_SLOTS:
             QCOMPARE(testsupport::treeText(&built), testsupport::treeText(&reference));
         }
     }
-
-    void clickSettlesAncestors()
-    {
-        OutputNode root;
-        testsupport::build(&root, testsupport::parse(line("A|B|C", "last-l", 0, 0, "g", "e")),
-                           testsupport::rows(2));
-        OutputNode* plot = root.child(0)->child(0)->child(0);
-        plib::setBranchState(plot->child(1), Qt::Checked);
-        QCOMPARE(testsupport::treeText(&root),
-                 QStringLiteral("[-] A\n  [-] B\n    [-] C\n      [ ] 1 : a\n      [x] 2 : b\n"));
-        plib::setBranchState(root.child(0), Qt::Checked);
-        QCOMPARE(testsupport::treeText(&root),
-                 QStringLiteral("[x] A\n  [x] B\n    [x] C\n      [x] 1 : a\n      [x] 2 : b\n"));
-    }
 };
 
 PLIB_TEST_MAIN(TestOutputTree)

@@ -101,21 +101,6 @@ private Q_SLOTS:
         QCOMPARE(broken == 0, alwaysWhole);
     }
 
-    void twoWriters()
-    {
-        QProcess one;
-        QProcess two;
-        QVERIFY(start(one, "taken", 20) && start(two, "taken", 20));
-        while (one.state() == QProcess::Running || two.state() == QProcess::Running) {
-            QVERIFY(isWhole(m_path));
-            one.waitForFinished(5);
-            two.waitForFinished(5);
-        }
-        QCOMPARE(one.exitCode(), 0);
-        QCOMPARE(two.exitCode(), 0);
-        QVERIFY(isWhole(m_path));
-    }
-
 private:
     bool start(QProcess& child, const char* mode, int rounds) const;
 

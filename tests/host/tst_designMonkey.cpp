@@ -1,9 +1,8 @@
 #include "DesignDesk.h"
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_H_ProjectDialogPage.h>
-#include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -11,6 +10,8 @@
 
 #include <algorithm>
 #include <random>
+
+using namespace testsupport;
 
 namespace {
 constexpr int Seed = 20261121;
@@ -166,11 +167,7 @@ class tst_designMonkey : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-        VKD_QT_InitTranslator::languageChanged();
-    }
+    void initTestCase() { setLanguage(English); }
 
     void rowsAndTableAgree_data()
     {

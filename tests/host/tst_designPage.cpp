@@ -1,10 +1,9 @@
 #include "DesignDesk.h"
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_H_ProjectDialogPage.h>
 #include <VKD_H_SelGRP_Dialog.h>
-#include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -13,7 +12,7 @@
 
 #include <cstring>
 
-using testsupport::whenModal;
+using namespace testsupport;
 
 namespace {
 tagZOB_QUAD_RIM record(int group, int type, float minimum)
@@ -51,11 +50,6 @@ void choose(QComboBox* combo, Qt::Key arrow)
     QTest::keyClick(combo, arrow);
 }
 
-void useLanguage(int language)
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-    VKD_QT_InitTranslator::languageChanged();
-}
 } // namespace
 
 class tst_designPage : public QObject
@@ -63,7 +57,7 @@ class tst_designPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { useLanguage(1); }
+    void init() { setLanguage(English); }
 
     void fromANewProjectToRecords_data()
     {
@@ -85,7 +79,7 @@ private Q_SLOTS:
         QFETCH(int, language);
         QFETCH(QString, firstRow);
         QFETCH(QString, lastRow);
-        useLanguage(language);
+        setLanguage(language);
         HostProject project(QStringLiteral("slab"));
         {
             DesignDesk desk(project);

@@ -1,13 +1,15 @@
+#include "LanguageSupport.h"
 #include "OutputDesk.h"
 #include "WidgetTestSupport.h"
 
 #include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+
+using namespace testsupport;
 
 using Desk = OutputDesk;
 
@@ -35,9 +37,8 @@ class tst_outputPage : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        setLanguage(English);
         vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1);
-        VKD_QT_InitTranslator::languageChanged();
     }
 
     void eachControlInTheScript_data()

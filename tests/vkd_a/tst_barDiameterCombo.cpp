@@ -1,15 +1,16 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_A_BarDiameterCombo.h>
 #include <VKD_H_ZOBDoc.h>
-#include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 
 #include <QTemporaryDir>
 
 #include <cmath>
 #include <cstring>
 #include <limits>
+
+using namespace testsupport;
 
 namespace {
 constexpr float NotSet = VKD_A_BarDiameterCombo::NotSet;
@@ -31,8 +32,7 @@ private Q_SLOTS:
     /// The bars of a project, not those in common use.
     void init()
     {
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-        VKD_QT_InitTranslator::languageChanged();
+        setLanguage(English);
         m_document = VKD_H_ZOBDoc::create(m_folder.filePath(QString::number(++m_files)));
         QVERIFY(m_document);
         int length = 4, position = 0;
@@ -50,9 +50,7 @@ private Q_SLOTS:
         QCOMPARE(box.getCurrent(), 10.0F); // the choice outlives the loading
         QVERIFY(box.setCurrent(NotSet));
         QCOMPARE(box.currentIndex(), 0);
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0);
-        VKD_QT_InitTranslator::languageChanged();
-        QCoreApplication::sendPostedEvents();
+        setLanguage(German);
         QCOMPARE(box.currentText(), QStringLiteral("nicht gesetzt"));
     }
 

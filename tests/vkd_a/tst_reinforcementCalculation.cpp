@@ -1,11 +1,10 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <vkd_a_barArea.h>
 #include <VKD_A_BarDiameterCombo.h>
 #include <vkd_a_ReinforcementCalculation.h>
 #include <VKD_H_LineEdit.h>
-#include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -15,6 +14,8 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+
+using namespace testsupport;
 
 namespace {
 constexpr float NotSet = -99999.0F;
@@ -70,7 +71,7 @@ struct Parts
 float calculate(float value, float barDiameter, const std::function<void(const Parts&)>& act)
 {
     bool isDone = false;
-    testsupport::whenModal([&](QWidget* dialog) {
+    whenModal([&](QWidget* dialog) {
         act(Parts(dialog));
         isDone = true;
         if (dialog->isVisible()) {
@@ -88,11 +89,7 @@ class TestReinforcementCalculation : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-        VKD_QT_InitTranslator::languageChanged();
-    }
+    void init() { setLanguage(English); }
 
     void printedTables_data()
     {

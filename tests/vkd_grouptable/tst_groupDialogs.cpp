@@ -1,11 +1,10 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <vkd_dbo_model.h>
 #include <VKD_H_SecondaryGroupDialog.h>
 #include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_ZOBDoc.h>
-#include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 
 #include <QAbstractItemView>
 #include <QLabel>
@@ -13,6 +12,8 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
+
+using namespace testsupport;
 
 using Groups = std::vector<int>;
 using namespace vkd::dbo;
@@ -118,7 +119,7 @@ private:
 /// The result of the dialog if the user does that; a dialog that is still open then answers -1.
 int execWith(QDialog& dialog, const std::function<void(const Driver&)>& act)
 {
-    testsupport::whenModal([&](QWidget* modal) {
+    whenModal([&](QWidget* modal) {
         act(Driver(modal));
         if (modal->isVisible())
             dialog.done(-1);
@@ -135,8 +136,7 @@ class TestGroupDialogs : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
-        VKD_QT_InitTranslator::languageChanged();
+        setLanguage(English);
         m_doc = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.vkd")));
         m_empty = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("empty.vkd")));
         QVERIFY(m_doc && m_empty && storeModel(m_doc->index(), sample()));

@@ -1,3 +1,4 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_H_BoxedLineEdit.h>
@@ -5,14 +6,14 @@
 #include <VKD_H_LineEdit.h>
 #include <VKD_H_TabDialog.h>
 #include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_Layouts.h>
 
 #include <QLabel>
 #include <QTabWidget>
 
+using namespace testsupport;
+
 namespace {
-constexpr int German = 0, English = 1;
 
 StructBoxedEdit fontSize()
 {
@@ -62,11 +63,7 @@ class tst_boxedLineEdit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English);
-        VKD_QT_InitTranslator::languageChanged();
-    }
+    void init() { setLanguage(English); }
 
     void names()
     {

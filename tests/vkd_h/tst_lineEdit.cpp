@@ -1,10 +1,9 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_H_LineEdit.h>
-#include <vkd_lib_value.h>
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Dialog.h>
-#include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_Ok.h>
 
@@ -15,17 +14,11 @@
 #include <cstring>
 #include <memory>
 
+using namespace testsupport;
+
 namespace {
-constexpr int German = 0, English = 1;
 constexpr double NotSet = -99999.0;
 constexpr int Crack = 1026, Distance = 1024;
-
-void setLanguage(int language)
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-    VKD_QT_InitTranslator::languageChanged();
-    QCoreApplication::sendPostedEvents();
-}
 
 VKD_H_LineEdit* field(QWidget* parent, int code, const char* name = "field")
 {

@@ -97,17 +97,8 @@ private Q_SLOTS:
     /// A description as callers fill it in place.
     void description()
     {
-        StructLineEdit given = {2,
-                                1026,
-                                0.0,
-                                0.4F,
-                                NotSet,
-                                0.1F,
-                                2048,
-                                QString(),
-                                QStringLiteral(","),
-                                QString(),
-                                {QStringLiteral("-")}};
+        const QString comma(QLatin1Char(',')), dash(QLatin1Char('-'));
+        StructLineEdit given{2, 1026, 0.0, 0.4F, NotSet, 0.1F, 2048, {}, comma, {}, {dash}};
         const auto state = [&given](const char* text) {
             return vkd_h_readNumber(QLatin1String(text), given).state;
         };

@@ -62,25 +62,6 @@ private Q_SLOTS:
         QCOMPARE(table.idAt(0), -99999);
     }
 
-    void choosingByKeyboard()
-    {
-        Table table;
-        table.show();
-        table.setCurrentCell(1, 1);
-        int changes = 0;
-        connect(&table, &QTableWidget::itemChanged, &table, [&changes] { ++changes; });
-        QTest::keyClick(&table, Qt::Key_F2);
-        auto combo = table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo"));
-        QVERIFY(combo);
-        QCOMPARE(combo->getCurrentId(), 7);
-        QTRY_VERIFY(combo->view()->isVisible());
-        QTest::keyClick(combo->view(), Qt::Key_Down);
-        QTest::keyClick(combo->view(), Qt::Key_Enter);
-        QCOMPARE(table.idAt(1), 9);
-        QCOMPARE(changes, 1);
-        QTRY_VERIFY(!table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo")));
-    }
-
     void escapeLeavesTheChoice()
     {
         Table table;
@@ -159,22 +140,6 @@ private Q_SLOTS:
         QCOMPARE(deleted.size(), 1);
         QCOMPARE(table->rowCount(), 3);
         QVERIFY(window.isVisible());
-    }
-
-    void keysOnACellWithAWidget()
-    {
-        Table table;
-        table.show();
-        table.setCurrentCell(2, 0);
-        auto button = new QPushButton;
-        table.setCellWidget(2, 0, button);
-        QSignalSpy clicked(button, &QPushButton::clicked);
-        QSignalSpy selected(&table, &QTableWidget::itemSelectionChanged);
-        QTest::keyClick(&table, Qt::Key_F2);
-        QCOMPARE(clicked.size(), 1);
-        QCOMPARE(selected.size(), 0);
-        QTest::keyClick(&table, Qt::Key_Escape);
-        QCOMPARE(selected.size(), 1);
     }
 };
 

@@ -1,13 +1,11 @@
 #include "ZobTestSupport.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <csignal>
 #include <cstdio>
 #include <sys/resource.h>
-#include <thread>
 
 static QByteArray record(int round, int size)
 {
@@ -30,23 +28,22 @@ static cd_error_t writeRound(int index, int records, int size)
     return result;
 }
 
-/// The child: takes the project, says so and waits for `hold` milliseconds; then writes so many
-/// rounds of so many records of a size, with no file larger than `limit`.
+/// The child: takes the project and says so; then writes so many rounds of so many records of a
+/// size, with no file larger than `limit`.
 static int childMain(const QVector<int>& numbers, const QString& path)
 {
-    const int hold = numbers[0], rounds = numbers[1], limit = numbers[4];
+    const int rounds = numbers[0], limit = numbers[3];
     const int index = openProject(path);
     vkd_zob_lock_ex(index, 1, 1);
     std::puts("taken");
     std::fflush(stdout);
-    std::this_thread::sleep_for(std::chrono::milliseconds(hold));
     vkd_zob_free_ex(index, 1, 1);
     std::signal(SIGXFSZ, SIG_IGN); // so that a write fails, as on a full disk
     const rlimit room{rlim_t(limit), rlim_t(limit)};
     setrlimit(RLIMIT_FSIZE, &room);
     cd_error_t result = VKD_ZOB_OK;
     for (int round = 0; round < rounds && result == VKD_ZOB_OK; ++round)
-        result = writeRound(index, numbers[2], numbers[3]);
+        result = writeRound(index, numbers[1], numbers[2]);
     const cd_error_t stored = vkd_zob_change_status(index); // of the last round
     const cd_error_t closed = vkd_zob_close(index);
     return result == VKD_ZOB_OK && stored == closed ? closed : result;
@@ -69,7 +66,7 @@ private Q_SLOTS:
     {
         makeProject(m_path, Records());
         QProcess one, two;
-        QVERIFY(start(one, {0, 60, 100, 300}) && start(two, {0, 60, 100, 300}));
+        QVERIFY(start(one, {60, 100, 300}) && start(two, {60, 100, 300}));
         const int index = openProject(m_path);
         int passes = 0;
         for (; one.state() == QProcess::Running || two.state() == QProcess::Running; ++passes) {
@@ -84,21 +81,6 @@ private Q_SLOTS:
         QCOMPARE(two.exitCode(), VKD_ZOB_OK);
         QCOMPARE(readAll(index).value(99), record(120, 300)); // no round was lost
         vkd_zob_close(index);
-    }
-
-    void takerWaitsForTheOther()
-    {
-        makeProject(m_path, {"0"});
-        const int index = openProject(m_path);
-        QProcess child;
-        QVERIFY(start(child, {1000, 1, 1, 1}));
-        QElapsedTimer waited;
-        waited.start();
-        QCOMPARE(vkd_zob_lock_ex(index, 1, 1), VKD_ZOB_OK);
-        QVERIFY(waited.elapsed() > 100);
-        vkd_zob_close(index);
-        QVERIFY(child.waitForFinished());
-        QCOMPARE(child.exitCode(), VKD_ZOB_OK);
     }
 
     void diskFull_data()
@@ -122,7 +104,7 @@ private Q_SLOTS:
         makeProject(m_path, old);
         const int limit = int(QFileInfo(m_path).size()) + room;
         QProcess child;
-        QVERIFY(start(child, {0, 1, records, size, limit}));
+        QVERIFY(start(child, {1, records, size, limit}));
         QVERIFY(child.waitForFinished());
         QCOMPARE(child.exitCode(), VKD_ZOB_FULL);
         QVERIFY(readProject(m_path) == old);
@@ -132,7 +114,7 @@ private:
     /// Starts a child and waits until it has the project.
     bool start(QProcess& child, QVector<int> numbers) const
     {
-        if (numbers.size() < 5)
+        if (numbers.size() < 4)
             numbers << 1000000000;
         QStringList arguments{m_path};
         for (int number : numbers)
@@ -148,7 +130,7 @@ private:
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
-    if (argc == 7) {
+    if (argc == 6) {
         QVector<int> numbers;
         for (int i = 2; i < argc; ++i)
             numbers << atoi(argv[i]);

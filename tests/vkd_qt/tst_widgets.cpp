@@ -1,9 +1,8 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
-#include <vkd_lib_value.h>
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Dialog.h>
-#include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_Ok.h>
 #include <VKD_QT_TabDialog.h>
@@ -14,6 +13,8 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QWheelEvent>
+
+using namespace testsupport;
 
 class tst_widgets : public QObject
 {
@@ -40,13 +41,13 @@ private Q_SLOTS:
     void boxLeftByEscape()
     {
         const auto answer = [](Qt::Key key) {
-            testsupport::whenModal([key](QWidget* box) { QTest::keyClick(box, key); });
+            whenModal([key](QWidget* box) { QTest::keyClick(box, key); });
             return VKD_QT_MessageBox::warning(nullptr, QStringLiteral("t"), QStringLiteral("x"),
                                               QMessageBox::Yes, QMessageBox::No, 0);
         };
         QCOMPARE(answer(Qt::Key_Escape), 0); // and not No, which Qt would press
         QCOMPARE(answer(Qt::Key_Enter), int(QMessageBox::Yes));
-        testsupport::whenModal([](QWidget* box) { box->close(); });
+        whenModal([](QWidget* box) { box->close(); });
         QCOMPARE(VKD_QT_MessageBox::warning(nullptr, QStringLiteral("t"), QStringLiteral("x"), {},
                                             {}, {}, 0, -1),
                  -1);
@@ -56,8 +57,7 @@ private Q_SLOTS:
     {
         QStringList cancel;
         for (int language : {0, 1}) {
-            vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-            VKD_QT_InitTranslator::languageChanged();
+            setLanguage(language);
             const VKD_QT_Ok row(nullptr, 3, "okayandcancelbutton");
             QVERIFY(row.cmdOk()->isDefault());
             cancel << row.cmdCancel()->text();

@@ -111,24 +111,6 @@ private Q_SLOTS:
         QCOMPARE(allTexts(whole, Tags[0]), texts);
     }
 
-    /// Whatever happens to the end of a string, the parts ahead of it are read.
-    void damagedEnd()
-    {
-        QRandomGenerator random(5);
-        for (int round = 0; round < 300; ++round) {
-            const QString sound = Parts(random).whole;
-            QString damaged = Parts(random).whole + QStringLiteral("<A>");
-            damaged.truncate(random.bounded(damaged.size()));
-            for (QChar& unit : damaged)
-                if (random.bounded(10) == 0)
-                    unit = QLatin1Char("<>/&;A"[random.bounded(6)]);
-            for (const QString& tag : Tags) {
-                const QStringList texts = allTexts(sound, tag);
-                QCOMPARE(allTexts(sound + damaged, tag).mid(0, texts.size()), texts);
-            }
-        }
-    }
-
     /// Minutes, if a part that is not closed were searched to the end of the string.
     void longStrings()
     {

@@ -1,17 +1,14 @@
 #pragma once
 
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
-#include <vkd_lib_value.h>
 #include <VKD_T_Help.h>
 
 #include <QListWidget>
 #include <QTextBrowser>
 
 namespace testsupport {
-
-constexpr int German = 0;
-constexpr int English = 1;
 
 /// The help windows that are open; there should never be two.
 inline QWidgetList helpWindows()

@@ -1,7 +1,5 @@
 #include "HelpTestSupport.h"
 
-#include <VKD_QT_InitTranslator.h>
-
 #include <QAction>
 #include <QDialog>
 #include <QLabel>
@@ -22,13 +20,6 @@ QString title()
 void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     QTest::keyClick(helpWindows().at(0)->windowHandle(), code, modifiers);
-}
-
-void setLanguage(int language)
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-    VKD_QT_InitTranslator::languageChanged();
-    QCoreApplication::sendPostedEvents();
 }
 
 /// Clicks as the window system does, so that a modal dialog can block it.
