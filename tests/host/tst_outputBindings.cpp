@@ -21,6 +21,17 @@ QString commands(QSignalSpy& spy)
     spy.clear();
     return numbers.join(QLatin1Char(' '));
 }
+
+/// The rows of the first plot that binds to load cases.
+QString rowsOfFirstPlot(Desk& desk)
+{
+    QStringList texts;
+    for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
+        if ((*item)->parent() && (*item)->parent()->parent())
+            for (int i = 0; i < (*item)->childCount(); ++i)
+                texts << (*item)->child(i)->text(0);
+    return texts.join(QLatin1Char('|'));
+}
 } // namespace
 
 /// What a host binds to an output page: tables of load cases, switches of content, an animator.
@@ -52,14 +63,7 @@ private Q_SLOTS:
         binding.reset(); // not bound yet
         binding.setWidgets(&desk.page, &table, 0, 1, 2);
         QSignalSpy rebuilt(desk.tree()->model(), &QAbstractItemModel::modelReset);
-        const auto rows = [&desk] {
-            QStringList texts;
-            for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
-                if ((*item)->parent() && (*item)->parent()->parent())
-                    for (int i = 0; i < (*item)->childCount(); ++i)
-                        texts << (*item)->child(i)->text(0);
-            return texts.join(QLatin1Char('|'));
-        };
+        const auto rows = [&desk] { return rowsOfFirstPlot(desk); };
         for (int value : {7, 3}) {
             table.addNewRow(true);
             dynamic_cast<VKD_H_TwSimpleLineEditItem*>(table.item(table.rowCount() - 1, 0))
@@ -83,7 +87,6 @@ private Q_SLOTS:
 
     void numbersOfABoundTable_data()
     {
-        // lines: of the first plot that binds to load cases
         const Columns<QVector<double>, QString> row("numbers", "lines");
         row("cut towards zero, the later counts", {3.2, 3.9}, "3.9 ");
         row("out of any range", {3e9, -3e9, 5}, "5 ");
@@ -107,12 +110,7 @@ private Q_SLOTS:
         VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
         binding.setWidgets(&desk.page, &table, 0, -1, -1);
         binding.reset();
-        QStringList texts;
-        for (QTreeWidgetItemIterator item(desk.tree()); *item && texts.isEmpty(); ++item)
-            if ((*item)->parent() && (*item)->parent()->parent())
-                for (int i = 0; i < (*item)->childCount(); ++i)
-                    texts << (*item)->child(i)->text(0);
-        QTEST(texts.join(QLatin1Char('|')), "lines");
+        QTEST(rowsOfFirstPlot(desk), "lines");
     }
 
     void switchOfAContentTag()
