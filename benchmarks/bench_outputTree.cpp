@@ -1,6 +1,7 @@
 // The output tree with a thousand rows under each plot, against Qt's plain tree with the same
 // content and against itself at other sizes.
 
+#include "checkStates.h"
 #include "RatioReporter.h"
 
 #include <GraphicalOutputTreeWidget.h>
@@ -126,11 +127,6 @@ void fillBareTree(benchmark::State& state)
     }
 }
 
-Qt::CheckState other(Qt::CheckState state)
-{
-    return state == Qt::Checked ? Qt::Unchecked : Qt::Checked;
-}
-
 /// The key acts as the click does; what it changes on the screen is painted.
 void clickOnTheCaption(benchmark::State& state)
 {
@@ -145,13 +141,6 @@ void clickOnTheCaption(benchmark::State& state)
         if (row->checkState(0) != expected)
             state.SkipWithError("the state was not carried down");
     }
-}
-
-void setAll(QTreeWidgetItem* item, Qt::CheckState state)
-{
-    item->setCheckState(0, state);
-    for (int i = 0; i < item->childCount(); ++i)
-        setAll(item->child(i), state);
 }
 
 void bareWalk(benchmark::State& state)

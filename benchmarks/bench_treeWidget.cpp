@@ -1,5 +1,6 @@
 // Check states that follow each other in a tree of 100 plots with 1000 rows each.
 
+#include "checkStates.h"
 #include "RatioReporter.h"
 
 #include <VKD_QT_SignalBlocker.h>
@@ -38,11 +39,6 @@ public:
     QTreeWidgetItem* top;
 };
 
-Qt::CheckState other(Qt::CheckState state)
-{
-    return state == Qt::Checked ? Qt::Unchecked : Qt::Checked;
-}
-
 /// The key acts as the click does; what it changes on the screen is painted.
 void clickOnTheCaption(benchmark::State& state)
 {
@@ -56,13 +52,6 @@ void clickOnTheCaption(benchmark::State& state)
         if (tree.top->child(0)->child(1)->checkState(0) != expected)
             state.SkipWithError("the state was not carried down");
     }
-}
-
-void setAll(QTreeWidgetItem* item, Qt::CheckState state)
-{
-    item->setCheckState(0, state);
-    for (int i = 0; i < item->childCount(); ++i)
-        setAll(item->child(i), state);
 }
 
 void bareWalk(benchmark::State& state)
