@@ -43,6 +43,8 @@ private:
     void readSecondaryGroups();
     void readDesign();
 
+    template <typename Element>
+    void numberAndGroup(const QVector<JsonPlace>& values, Element& element, Numbers& used) const;
     static int unique(const JsonPlace& place, Numbers& used);
     static int known(const JsonPlace& place, const Numbers& numbers, const char* what);
     static Position position(const QVector<JsonPlace>& values, int first);
@@ -164,22 +166,19 @@ void ModelFileReader::readElements()
     lineElements("cables", m_model.cables, &cables);
     each("springs", m_model.springs, [&](const JsonPlace& place, Spring& spring) {
         const auto values = place.list(5, 5);
-        spring.number = unique(values[0], springs);
-        spring.group = known(values[1], m_groups, "group");
+        numberAndGroup(values, spring, springs);
         nodes(values, 2, spring.nodes, true);
         spring.stiffness = values[4].real();
     });
     each("quads", m_model.quads, [&](const JsonPlace& place, Quad& quad) {
         const auto values = place.list(7, 7);
-        quad.number = unique(values[0], m_quads);
-        quad.group = known(values[1], m_groups, "group");
+        numberAndGroup(values, quad, m_quads);
         nodes(values, 2, quad.nodes, true);
         quad.thickness = values[6].real();
     });
     each("bricks", m_model.bricks, [&](const JsonPlace& place, Brick& brick) {
         const auto values = place.list(10, 10);
-        brick.number = unique(values[0], bricks);
-        brick.group = known(values[1], m_groups, "group");
+        numberAndGroup(values, brick, bricks);
         nodes(values, 2, brick.nodes, false);
     });
 }
@@ -205,8 +204,7 @@ void ModelFileReader::lineElements(const char* key, QVector<LineElement>& elemen
 {
     each(key, elements, [&](const JsonPlace& place, LineElement& element) {
         const auto values = place.list(5, 5);
-        element.number = unique(values[0], *numbers);
-        element.group = known(values[1], m_groups, "group");
+        numberAndGroup(values, element, *numbers);
         element.crossSection = known(values[2], m_sections, "cross section");
         nodes(values, 3, element.nodes, false);
     });
@@ -294,6 +292,15 @@ QVector<int> ModelFileReader::members(const JsonPlace& group, const char* key,
     for (const JsonPlace& place : places)
         result.append(known(place, numbers, "element"));
     return result;
+}
+
+/// What the values of every element begin with.
+template <typename Element>
+void ModelFileReader::numberAndGroup(const QVector<JsonPlace>& values, Element& element,
+                                     Numbers& used) const
+{
+    element.number = unique(values[0], used);
+    element.group = known(values[1], m_groups, "group");
 }
 
 int ModelFileReader::unique(const JsonPlace& place, Numbers& used)

@@ -1,9 +1,9 @@
 #include "vkd_h_numberText.h"
 
+#include "shownNumber.h"
 #include "StructLineEdit.h"
 #include "vkd_h_units.h"
 
-#include <vkd_lib_value.h>
 
 #include <QRegularExpression>
 
@@ -135,11 +135,7 @@ QString vkd_h_numberText(double value, const StructLineEdit& description)
 {
     if (vkd_h_isNotSet(value, description))
         return QString();
-    QString text = digits(value, vkd_h_dimension(description.dimension));
-    if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0)
-        text.remove(0, 1);
-    const bool german = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == 0;
-    return german ? text.replace(QLatin1Char('.'), QLatin1Char(',')) : text;
+    return vkd::h::shownNumber(digits(value, vkd_h_dimension(description.dimension)));
 }
 
 QString vkd_h_suffixText(const StructLineEdit& description)

@@ -1,8 +1,7 @@
 #include "vkd_h_units.h"
 
+#include "shownNumber.h"
 #include "VKD_H_UnitLabel.h"
-
-#include <vkd_lib_value.h>
 
 #include <vector>
 
@@ -26,13 +25,8 @@ VkdDimension vkd_h_dimension(int code)
 
 QString vkd_h_getNumberString(double value, int decimals)
 {
-    QString text =
-        decimals < 0 ? QString::number(value, 'g', 6) : QString::number(value, 'f', decimals);
-    // A value that rounds to nothing is nothing: no "-0.0".
-    if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0)
-        text.remove(0, 1);
-    const bool german = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == 0;
-    return german ? text.replace(QLatin1Char('.'), QLatin1Char(',')) : text;
+    return vkd::h::shownNumber(decimals < 0 ? QString::number(value, 'g', 6)
+                                            : QString::number(value, 'f', decimals));
 }
 
 QString vkd_h_getDimStringFromVal(double value, int code, int)
