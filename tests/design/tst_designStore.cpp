@@ -1,11 +1,10 @@
+#include "TemporaryProject.h"
 #include "TestSupport.h"
 
 #include <designRecord.h>
 #include <designStore.h>
-#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
 #include <vkd_zob.h>
-
-#include <QTemporaryDir>
 
 #include <cmath>
 #include <limits>
@@ -42,19 +41,13 @@ class TestDesignStore : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_doc.reset();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_doc = VKD_H_ZOBDoc::create(m_folder->filePath(QStringLiteral("p.zob")));
-        QVERIFY(m_doc != nullptr);
-    }
+    void init() { m_project = std::make_unique<testsupport::TemporaryProject>(); }
 
     void newProjectGetsTheDefault()
     {
-        plib::checkAndCreateZobDefault(m_doc->index());
-        plib::checkAndCreateZobDefault(m_doc->index());
-        QCOMPARE(stored(m_doc->index(), 200, 6), QStringLiteral("-1:0"));
+        plib::checkAndCreateZobDefault(m_project->index());
+        plib::checkAndCreateZobDefault(m_project->index());
+        QCOMPARE(stored(m_project->index(), 200, 6), QStringLiteral("-1:0"));
         auto rows = data();
         plib::readRowsFromZob(rows);
         QCOMPARE(int(rows.rows.size()), 1);
@@ -62,18 +55,18 @@ private Q_SLOTS:
         QCOMPARE(rows.rows[0].record.type, 1);
         QCOMPARE(rows.rows[0].record.hioq, 0.045F - 0.035F);
         const int none = 0;
-        vkd_zob_put(m_doc->index(), 200, 6, nullptr, &none, 0);
-        plib::checkAndCreateZobDefault(m_doc->index()); // emptied answers as never written
+        vkd_zob_put(m_project->index(), 200, 6, nullptr, &none, 0);
+        plib::checkAndCreateZobDefault(m_project->index()); // emptied answers as never written
         QCOMPARE(read(), QStringLiteral("-1:0"));
     }
 
     void otherRecordsAreLeftAlone()
     {
         put(record(5, 1), 3);
-        plib::checkAndCreateZobDefault(m_doc->index());
+        plib::checkAndCreateZobDefault(m_project->index());
         QByteArray bytes(8, '\0');
         int length = bytes.size();
-        QCOMPARE(vkd_zob_get(m_doc->index(), 200, 6, bytes.data(), &length, 0), VKD_ZOB_OK);
+        QCOMPARE(vkd_zob_get(m_project->index(), 200, 6, bytes.data(), &length, 0), VKD_ZOB_OK);
         QCOMPARE(length, 3);
     }
 
@@ -153,20 +146,20 @@ private Q_SLOTS:
         }
         bool converted = false;
         plib::writeRowsToZob(rows, converted);
-        QCOMPARE(stored(m_doc->index(), 200, 6), expected);
+        QCOMPARE(stored(m_project->index(), 200, 6), expected);
         if (rows.rows[0].groups.empty())
             return;
         plib::RecordBytes bytes{};
         int length = int(bytes.size());
-        vkd_zob_get(m_doc->index(), 200, 6, bytes.data(), &length, 0);
-        vkd_zob_free_ex(m_doc->index(), 200, 6);
+        vkd_zob_get(m_project->index(), 200, 6, bytes.data(), &length, 0);
+        vkd_zob_free_ex(m_project->index(), 200, 6);
         QCOMPARE(length, 212);
         QCOMPARE(plib::fromBytes(bytes).hioq, 0.045F);
     }
 
     void secondWriteConvertsNothing()
     {
-        plib::checkAndCreateZobDefault(m_doc->index());
+        plib::checkAndCreateZobDefault(m_project->index());
         auto rows = data();
         plib::readRowsFromZob(rows);
         bool converted = false;
@@ -179,6 +172,23 @@ private Q_SLOTS:
         QCOMPARE(again.rows[0].record.hioq, 0.045F - 0.035F);
     }
 
+    /// Whoever reads sees all of a writer's rows or none: the project is taken once for all puts.
+    void writingTakesTheProject()
+    {
+        put(record(1, 1));
+        const auto other = VKD_H_ZOBDoc::open(m_project->doc->path());
+        auto rows = data();
+        rows.rows = {{nullptr, record(0, 5), {2, 3}}, {nullptr, record(0, 6), {4}}};
+        vkd_zob_lock_ex(other->index(), 200, 6);
+        vkd_lib_setvalue(201, 30);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("cannot take the lock"))); // once
+        bool converted = true;
+        plib::writeRowsToZob(rows, converted);
+        vkd_zob_free_ex(other->index(), 200, 6);
+        QCOMPARE(read(), QStringLiteral("1:1"));
+    }
+
     void foreignRecordsGoToTheScratchStore()
     {
         R foreign = record(8, 8);
@@ -189,7 +199,7 @@ private Q_SLOTS:
         plib::readRowsFromZob(rows);
         bool converted = false;
         plib::writeRowsToZob(rows, converted);
-        QCOMPARE(stored(m_doc->index(), 200, 6),
+        QCOMPARE(stored(m_project->index(), 200, 6),
                  QStringLiteral("1:1")); // the other one is gone, on purpose
         QCOMPARE(stored(0, 0, 12979), QStringLiteral("8:8"));
         plib::writeRowsToZob(rows, converted);
@@ -215,21 +225,20 @@ private:
     QString read();
     QString stored(int index, int key1, int key2);
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
+    std::unique_ptr<testsupport::TemporaryProject> m_project;
 };
 
 void TestDesignStore::put(const R& record, int length)
 {
     const auto words = plib::toBytes(record);
     const QByteArray bytes = QByteArray(words.data(), int(words.size())) + "more";
-    QCOMPARE(vkd_zob_put(m_doc->index(), 200, 6, bytes.constData(), &length, 1), VKD_ZOB_OK);
+    QCOMPARE(vkd_zob_put(m_project->index(), 200, 6, bytes.constData(), &length, 1), VKD_ZOB_OK);
 }
 
 plib::DesignParameterData TestDesignStore::data(int kind)
 {
     plib::DesignParameterData result;
-    result.designDoc = m_doc.get();
+    result.designDoc = m_project->doc.get();
     result.kindOfSystem = kind;
     return result;
 }

@@ -15,24 +15,22 @@ void require(bool condition, const char* what)
 } // namespace
 
 HostProject::HostProject(const QString& name)
-    : m_doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("project.zob"))))
 {
-    require(bool(m_doc), "no project");
     if (name.isEmpty())
         return;
     vkd::dbo::Model model;
     QString error;
     require(vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name), 1, &model, &error),
             qPrintable(error));
-    require(vkd::dbo::storeModel(m_doc->index(), model), "model not stored");
+    require(vkd::dbo::storeModel(m_project.index(), model), "model not stored");
 }
 
 void HostProject::reopen()
 {
-    const QString path = m_doc->path();
-    require(m_doc->close() == 0, "not all was stored");
-    m_doc = VKD_H_ZOBDoc::open(path);
-    require(bool(m_doc), "project cannot be opened again");
+    const QString path = doc()->path();
+    require(doc()->close() == 0, "not all was stored");
+    m_project.doc = VKD_H_ZOBDoc::open(path);
+    require(bool(m_project.doc), "project cannot be opened again");
 }
 
 std::vector<tagZOB_QUAD_RIM> HostProject::records()
@@ -41,10 +39,10 @@ std::vector<tagZOB_QUAD_RIM> HostProject::records()
     tagZOB_QUAD_RIM record{};
     int length = sizeof record;
     for (int position = 0;
-         vkd_zob_get(m_doc->index(), Key1, Key2, &record, &length, position) == VKD_ZOB_OK;
+         vkd_zob_get(m_project.index(), Key1, Key2, &record, &length, position) == VKD_ZOB_OK;
          ++position)
         found.push_back(record);
-    vkd_zob_free_ex(m_doc->index(), Key1, Key2);
+    vkd_zob_free_ex(m_project.index(), Key1, Key2);
     return found;
 }
 
@@ -52,7 +50,7 @@ void HostProject::setRecords(const std::vector<tagZOB_QUAD_RIM>& records)
 {
     const int none = 0;
     const int length = sizeof(tagZOB_QUAD_RIM);
-    const int index = m_doc->index();
+    const int index = m_project.index();
     vkd_zob_lock_ex(index, Key1, Key2);
     vkd_zob_put(index, Key1, Key2, nullptr, &none, 0);
     for (const tagZOB_QUAD_RIM& record : records)

@@ -1,10 +1,8 @@
 #pragma once
 
+#include "TemporaryProject.h"
+
 #include <tagZOB_QUAD_RIM.h>
-
-#include <VKD_H_ZOBDoc.h>
-
-#include <QTemporaryDir>
 
 #include <memory>
 #include <vector>
@@ -16,7 +14,7 @@ public:
     /// With the sample model of this name; an empty name is a project without a model.
     explicit HostProject(const QString& model);
 
-    VKD_H_ZOBDoc* doc() { return m_doc.get(); }
+    VKD_H_ZOBDoc* doc() { return m_project.doc.get(); }
     /// Closes the file and opens it again, so that what is read afterwards comes from the file.
     void reopen();
 
@@ -25,6 +23,5 @@ public:
     void setRecords(const std::vector<tagZOB_QUAD_RIM>& records);
 
 private:
-    QTemporaryDir m_folder;
-    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
+    testsupport::TemporaryProject m_project;
 };

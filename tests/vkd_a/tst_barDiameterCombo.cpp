@@ -1,10 +1,8 @@
 #include "LanguageSupport.h"
+#include "TemporaryProject.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_A_BarDiameterCombo.h>
-#include <VKD_H_ZOBDoc.h>
-
-#include <QTemporaryDir>
 
 #include <cmath>
 #include <cstring>
@@ -33,11 +31,10 @@ private Q_SLOTS:
     void init()
     {
         setLanguage(English);
-        m_document = VKD_H_ZOBDoc::create(m_folder.filePath(QString::number(++m_files)));
-        QVERIFY(m_document);
+        m_project = std::make_unique<TemporaryProject>();
         int length = 4, position = 0;
         for (const char* bar : {"\0\0\x80\x41", "\0\0\x20\x41", "\0\0\xa0\x41"}) // 16, 10, 20
-            QCOMPARE(vkd_zob_put(m_document->index(), 15, 0, bar, &length, position++ > 0), 0);
+            QCOMPARE(vkd_zob_put(m_project->index(), 15, 0, bar, &length, position++ > 0), 0);
     }
 
     void barsOfTheProject()
@@ -45,7 +42,7 @@ private Q_SLOTS:
         VKD_A_BarDiameterCombo box(nullptr, "bar");
         QCOMPARE(box.getCurrent(), NotSet); // before there is a table
         box.setCurrent(10.0F);
-        QVERIFY(box.load(m_document->index()));
+        QVERIFY(box.load(m_project->index()));
         QCOMPARE(texts(box).join(QLatin1Char('|')), QStringLiteral("not set|Ø10|Ø16|Ø20"));
         QCOMPARE(box.getCurrent(), 10.0F); // the choice outlives the loading
         QVERIFY(box.setCurrent(NotSet));
@@ -69,7 +66,7 @@ private Q_SLOTS:
     {
         QFETCH(const float, diameter);
         VKD_A_BarDiameterCombo box;
-        box.load(m_document->index());
+        box.load(m_project->index());
         const QSignalSpy changed(&box, QOverload<int>::of(&QComboBox::currentIndexChanged));
         QVERIFY(!box.setCurrent(11.5F));
         QVERIFY(!box.setCurrent(diameter));
@@ -90,7 +87,7 @@ private Q_SLOTS:
     void withoutNotSet()
     {
         VKD_A_BarDiameterCombo box;
-        box.load(m_document->index());
+        box.load(m_project->index());
         box.setNotSetAllowed(false);
         QCOMPARE(box.count(), 3);
         QCOMPARE(box.getCurrent(), 10.0F);
@@ -99,9 +96,7 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_folder;
-    int m_files = 0;
-    std::unique_ptr<VKD_H_ZOBDoc> m_document;
+    std::unique_ptr<TemporaryProject> m_project;
 };
 
 PLIB_WIDGET_TEST_MAIN(TestBarDiameterCombo)

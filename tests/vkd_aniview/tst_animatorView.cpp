@@ -1,12 +1,11 @@
+#include "TemporaryProject.h"
 #include "WidgetTestSupport.h"
 
 #include <AnimatorView.h>
 #include <vkd_dbo_camera.h>
 #include <vkd_dbo_model.h>
-#include <VKD_H_ZOBDoc.h>
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -92,9 +91,7 @@ class TestAnimatorView : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_doc = VKD_H_ZOBDoc::create(m_folder->filePath(QStringLiteral("p.vkd")));
-        QVERIFY(m_doc);
+        m_project = std::make_unique<testsupport::TemporaryProject>();
         m_view = viewOf(plates());
     }
 
@@ -256,8 +253,8 @@ private Q_SLOTS:
 
     void noModel()
     {
-        for (int index : {-1, 0, m_doc->index()}) {
-            QVERIFY(storeModel(m_doc->index(), Model()));
+        for (int index : {-1, 0, m_project->index()}) {
+            QVERIFY(storeModel(m_project->index(), Model()));
             AnimatorView view(index);
             view.setPicking(true);
             view.resize(300, 200);
@@ -274,7 +271,7 @@ private Q_SLOTS:
         m_view->setPicking(true);
         Model model = plates();
         model.quads[0].group = 70;
-        QVERIFY(storeModel(m_doc->index(), model));
+        QVERIFY(storeModel(m_project->index(), model));
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), Groups{7});
         m_view->reload();
@@ -375,17 +372,16 @@ private:
     /// Seen from above.
     std::unique_ptr<AnimatorView> viewOf(const Model& model) const
     {
-        if (!storeModel(m_doc->index(), model))
+        if (!storeModel(m_project->index(), model))
             qFatal("model not stored");
-        auto view = std::make_unique<AnimatorView>(m_doc->index());
+        auto view = std::make_unique<AnimatorView>(m_project->index());
         view->resize(600, 400);
         view->show();
         view->slotViewControl(AnimatorViewXY, 0.0);
         return view;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
+    std::unique_ptr<testsupport::TemporaryProject> m_project;
     std::unique_ptr<AnimatorView> m_view;
 };
 

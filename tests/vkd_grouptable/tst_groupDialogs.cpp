@@ -1,17 +1,16 @@
 #include "LanguageSupport.h"
+#include "TemporaryProject.h"
 #include "WidgetTestSupport.h"
 
 #include <vkd_dbo_model.h>
 #include <VKD_H_SecondaryGroupDialog.h>
 #include <VKD_H_SelGRP_Dialog.h>
-#include <VKD_H_ZOBDoc.h>
 
 #include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
-#include <QTemporaryDir>
 
 using namespace testsupport;
 
@@ -137,9 +136,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         setLanguage(English);
-        m_doc = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.vkd")));
-        m_empty = VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("empty.vkd")));
-        QVERIFY(m_doc && m_empty && storeModel(m_doc->index(), sample()));
+        QVERIFY(storeModel(m_project.index(), sample()));
     }
 
     void confirmed_data()
@@ -158,7 +155,7 @@ private Q_SLOTS:
         QFETCH(const QList<int>, checked);
         QFETCH(const QList<int>, confirmed);
         Groups in(checked.begin(), checked.end()), out{8, 8};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), in, {}, nullptr, nullptr);
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), in, {}, nullptr, nullptr);
         QCOMPARE(execWith(dialog, [](const Driver& driver) { driver.enter("groups"); }), 1);
         QCOMPARE(dialog.getChecked(out), 0);
         QCOMPARE(out, Groups(confirmed.begin(), confirmed.end()));
@@ -178,7 +175,8 @@ private Q_SLOTS:
         QFETCH(const QByteArray, button);
         Groups groups{3};
         QPoint position(30, 40);
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), groups, {}, &position, nullptr, "name");
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, &position, nullptr,
+                                   "name");
         QCOMPARE(dialog.objectName(), QStringLiteral("name"));
         const int result = execWith(dialog, [&](const Driver& driver) {
             QCOMPARE(dialog.pos(), position);
@@ -197,14 +195,16 @@ private Q_SLOTS:
     {
         Groups none;
         QPoint position(100000, -100000);
-        const VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), none, {}, &position, nullptr);
+        const VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), none, {}, &position,
+                                         nullptr);
         QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(dialog.geometry()));
     }
 
     void rows()
     {
         Groups checked{77, 2};
-        const VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), checked, {2, 4, 5}, nullptr);
+        const VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), checked, {2, 4, 5},
+                                         nullptr);
         const Driver driver(const_cast<VKD_H_SelGRP_Dialog*>(&dialog));
         QCOMPARE(driver.shown(), QStringLiteral("1 2 3 4 12 77"));
         QCOMPARE(driver.text("3", 1), QStringLiteral("Roof <b>slab</b>"));
@@ -226,7 +226,7 @@ private Q_SLOTS:
     void filterAndButtons()
     {
         Groups groups{1};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), groups, {}, nullptr);
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
         const int result = execWith(dialog, [&](const Driver& driver) {
             driver.type("filter", QStringLiteral(" SLAB "));
             QCOMPARE(driver.shown(), QStringLiteral("2 3"));
@@ -251,7 +251,7 @@ private Q_SLOTS:
     void typedNumbers()
     {
         Groups groups{77};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), groups, {}, nullptr);
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
         const int result = execWith(dialog, [&](const Driver& driver) {
             driver.type("input", QStringLiteral("2-1;x<b>,8"));
             driver.enter("input");
@@ -275,7 +275,7 @@ private Q_SLOTS:
     void spaceTogglesSelectedRows()
     {
         Groups groups{2};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), groups, {}, nullptr);
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
         const int result = execWith(dialog, [&](const Driver& driver) {
             const QString one = QStringLiteral("1"), two = QStringLiteral("2");
             driver.view()->model()->sort(1, Qt::DescendingOrder);
@@ -295,7 +295,7 @@ private Q_SLOTS:
     void clickOnACheckBox()
     {
         Groups groups;
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_doc.get(), groups, {}, nullptr);
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
         const int result = execWith(dialog, [&](const Driver& driver) {
             const QRect cell = driver.view()->visualRect(driver.cell(QStringLiteral("3")));
             QTest::mouseClick(driver.view()->viewport(), Qt::LeftButton, {},
@@ -310,7 +310,7 @@ private Q_SLOTS:
     void secondaryGroups()
     {
         Groups groups{Old, 3};
-        VKD_H_SecondaryGroupDialog dialog(m_doc.get(), groups, {Cols}, nullptr);
+        VKD_H_SecondaryGroupDialog dialog(m_project.doc.get(), groups, {Cols}, nullptr);
         const int result = execWith(dialog, [&](const Driver& driver) {
             QCOMPARE(driver.shown(), QStringLiteral("COLS LOW OLD"));
             QCOMPARE(driver.text("LOW", 2), QStringLiteral("1 area, 2 beams"));
@@ -328,7 +328,7 @@ private Q_SLOTS:
     void emptyModel()
     {
         Groups groups{-1};
-        for (VKD_H_ZOBDoc* doc : {m_empty.get(), static_cast<VKD_H_ZOBDoc*>(nullptr)}) {
+        for (VKD_H_ZOBDoc* doc : {m_empty.doc.get(), static_cast<VKD_H_ZOBDoc*>(nullptr)}) {
             VKD_H_SelGRP_Dialog dialog(true, 200, doc, groups, {1}, nullptr);
             const Driver driver(&dialog);
             QVERIFY(driver.find<QWidget>("empty") && !driver.view());
@@ -338,14 +338,12 @@ private Q_SLOTS:
                 1);
         }
         groups = {4}; // that of another model
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_empty.get(), groups, {}, nullptr);
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_empty.doc.get(), groups, {}, nullptr);
         QCOMPARE(Driver(&dialog).shown(), QStringLiteral("4"));
     }
 
 private:
-    QTemporaryDir m_folder;
-    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
-    std::unique_ptr<VKD_H_ZOBDoc> m_empty;
+    TemporaryProject m_project, m_empty;
 };
 
 PLIB_WIDGET_TEST_MAIN(TestGroupDialogs)

@@ -1,9 +1,7 @@
+#include "TemporaryProject.h"
 #include "TestSupport.h"
 
 #include <VKD_H_SelGRP_Dialog.h>
-#include <VKD_H_ZOBDoc.h>
-
-#include <QTemporaryDir>
 
 #include <numeric>
 
@@ -16,12 +14,7 @@ class TestPickedGroups : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_doc = VKD_H_ZOBDoc::create(m_folder->filePath(QStringLiteral("p.vkd")));
-        QVERIFY(m_doc);
-    }
+    void init() { m_project = std::make_unique<testsupport::TemporaryProject>(); }
 
     void roundTrip_data()
     {
@@ -38,25 +31,26 @@ private Q_SLOTS:
     {
         QFETCH(const Groups, put);
         QFETCH(const Groups, got);
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {100, 200, 300}));
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), put));
-        m_doc = VKD_H_ZOBDoc::open(m_doc->path());
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {100, 200, 300}));
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), put));
+        m_project->doc = VKD_H_ZOBDoc::open(m_project->doc->path());
         Groups groups{1, 2};
-        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), 0);
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), 0);
         QCOMPARE(groups, got);
-        QVERIFY(VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_doc->index()));
+        QVERIFY(VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()));
         groups = {1, 2};
-        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), -1);
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), -1);
         QCOMPARE(groups, (Groups{1, 2}));
     }
 
     void bytesInTheProject()
     {
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {258}));
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {258}));
         QByteArray bytes(100, '\0');
         int length = bytes.size();
-        QCOMPARE(vkd_zob_get(m_doc->index(), 430, 0, bytes.data(), &length, 0), int(VKD_ZOB_OK));
-        vkd_zob_free_ex(m_doc->index(), 430, 0);
+        QCOMPARE(vkd_zob_get(m_project->index(), 430, 0, bytes.data(), &length, 0),
+                 int(VKD_ZOB_OK));
+        vkd_zob_free_ex(m_project->index(), 430, 0);
         QCOMPARE(bytes.left(length), QByteArray("\1\0\0\0\2\1\0\0", 8));
     }
 
@@ -81,35 +75,34 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, record);
         const int length = record.size();
-        vkd_zob_put(m_doc->index(), 430, 0, record.constData(), &length, 0);
+        vkd_zob_put(m_project->index(), 430, 0, record.constData(), &length, 0);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is damaged")));
         Groups groups{1, 2};
-        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), -1);
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), -1);
         QCOMPARE(groups, (Groups{1, 2}));
     }
 
     void refused()
     {
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {5}));
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {5}));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("-1 is no group")));
-        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {-1}));
-        const QString path = m_doc->path();
-        m_doc.reset();
+        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {-1}));
+        const QString path = m_project->doc->path();
+        m_project->doc.reset();
         QFile::setPermissions(path, QFile::ReadOwner);
-        m_doc = VKD_H_ZOBDoc::open(path);
+        m_project->doc = VKD_H_ZOBDoc::open(path);
         const QRegularExpression locked(QStringLiteral("cannot take the lock"));
         QTest::ignoreMessage(QtWarningMsg, locked);
-        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_doc->index(), {6}));
+        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {6}));
         QTest::ignoreMessage(QtWarningMsg, locked);
-        QVERIFY(!VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_doc->index()));
+        QVERIFY(!VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()));
         Groups groups;
-        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_doc->index(), groups), 0);
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), 0);
         QCOMPARE(groups, Groups{5});
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
+    std::unique_ptr<testsupport::TemporaryProject> m_project;
 };
 
 PLIB_TEST_MAIN(TestPickedGroups)

@@ -1,11 +1,9 @@
 #include "TestSupport.h"
 
-#include <vkd_h_program.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <QTemporaryDir>
 
-/// Documents, and the text around a program block.
 class TestDocuments : public QObject
 {
     Q_OBJECT
@@ -44,23 +42,6 @@ private Q_SLOTS:
         int room = 1;
         QCOMPARE(vkd_zob_get(document->index(), key1, key2, &kept, &room, 0), int(VKD_ZOB_OK));
         QCOMPARE(kept, 'x');
-    }
-
-    void block_data()
-    {
-        const Columns<int, QString, QString> row("language", "begin", "end");
-        row("German", 0, "PROG GRAV $ Bild %2\nKOPF Träger %1\n", "ENDE");
-        row("English", 1, "PROG GRAV $ Bild %2\nHEAD Träger %1\n", "END");
-    }
-
-    void block()
-    {
-        QFETCH(const int, language);
-        const QString begin =
-            vkd_h_generatePROG(nullptr, QStringLiteral("GRAV"), QStringLiteral("Träger %1"),
-                               QStringLiteral("Bild %2"), language, 0);
-        QTEST(begin, "begin");
-        QTEST(vkd_h_generateENDE(language), "end");
     }
 
 private:

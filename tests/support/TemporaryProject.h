@@ -1,0 +1,30 @@
+#pragma once
+
+#include <VKD_H_ZOBDoc.h>
+
+#include <QTemporaryDir>
+#include <QtGlobal>
+
+namespace testsupport {
+
+/// A project file in a folder of its own, open.
+class TemporaryProject
+{
+public:
+    TemporaryProject()
+        : doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("project.zob"))))
+    {
+        if (!doc)
+            qFatal("no project");
+    }
+
+    int index() const { return doc->index(); }
+
+private:
+    QTemporaryDir m_folder; // goes after the document
+
+public:
+    std::unique_ptr<VKD_H_ZOBDoc> doc;
+};
+
+} // namespace testsupport
