@@ -73,7 +73,6 @@ private Q_SLOTS:
         const Position x{1, 0, 0};
         const Position y{0, 1, 0};
         const Position z{0, 0, 1};
-        const double third = std::sqrt(1.0 / 3.0);
         row("X/Y", z, 0.0, x, y);
         row("X/Z", {0, -1, 0}, 0.0, x, z);
         row("Y/Z", x, 0.0, y, z);
@@ -84,8 +83,6 @@ private Q_SLOTS:
             {-1 / std::sqrt(30), 2 / std::sqrt(30), 5 / std::sqrt(30)});
         row("roll", z, 90.0, {0, -1, 0}, x);
         row("full turns", z, -1440.0, x, y);
-        row("isometric", {third, third, third}, 180.0, {std::sqrt(0.5), -std::sqrt(0.5), 0},
-            {std::sqrt(1 / 6.0), std::sqrt(1 / 6.0), -std::sqrt(2 / 3.0)});
     }
 
     void axes()

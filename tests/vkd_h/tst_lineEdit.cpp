@@ -132,20 +132,6 @@ private Q_SLOTS:
         QCOMPARE(edit->getVal(), 0.033333333);
     }
 
-    void typedValueCountsAtOnce()
-    {
-        Dialog dialog;
-        const QSignalSpy changed(dialog.first, &VKD_H_LineEdit::valueChanged);
-        type(dialog.first, "35,5");
-        QCOMPARE(dialog.first->getVal(), 35.5 / 1000.0);
-        QCOMPARE(changed.count(), 3); // 3, 35 (and "35,"), 35,5
-        QTest::keyClick(dialog.first, Qt::Key_Return);
-        QCOMPARE(dialog.box.result(), int(QDialog::Accepted));
-        QVERIFY(!dialog.box.isVisible());
-        QCOMPARE(dialog.first->getVal(), 35.5 / 1000.0);
-        QCOMPARE(dialog.first->text(), QStringLiteral("35.5"));
-    }
-
     void leavingWritesTheNumber()
     {
         setLanguage(German);

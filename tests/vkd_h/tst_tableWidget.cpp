@@ -116,31 +116,6 @@ private Q_SLOTS:
                                 "&lt;&quot;b&quot;&gt;</td><td>red</td></tr>"
                                 "<tr><td></td><td>red</td></tr></table>"));
     }
-
-    void keysOfTheFrame()
-    {
-        auto table = new Table;
-        table->setContextmenueEnabled_new_del(false);
-        QDialog window; // whose Enter and Escape must stay away from the table
-        VKD_H_TableWidgetBox box(table, QStringLiteral("Title"), &window, "box");
-        box.createDefaultLayout(false, true);
-        box.addButton(VKD_H_TableWidgetBox::New, false);
-        box.addButton(VKD_H_TableWidgetBox::Delete, false);
-        QSignalSpy added(box.getButton(VKD_H_TableWidgetBox::New), &QPushButton::clicked);
-        QSignalSpy deleted(box.getButton(VKD_H_TableWidgetBox::Delete), &QPushButton::clicked);
-        window.show();
-        window.activateWindow();
-        table->setFocus();
-        table->setCurrentCell(0, 0);
-        QTRY_VERIFY(table->hasFocus());
-        QTest::keyClick(table, Qt::Key_Insert);
-        QTest::keyClick(table, Qt::Key_Delete);
-        QTest::keyClick(table, Qt::Key_Enter);
-        QCOMPARE(added.size(), 1);
-        QCOMPARE(deleted.size(), 1);
-        QCOMPARE(table->rowCount(), 3);
-        QVERIFY(window.isVisible());
-    }
 };
 
 PLIB_WIDGET_TEST_MAIN(tst_tableWidget)
