@@ -67,10 +67,9 @@ private Q_SLOTS:
     void findings()
     {
         QFETCH(QByteArray, file);
-        QFETCH(QString, expected);
         QBuffer device(&file);
         device.open(QIODevice::ReadOnly);
-        QCOMPARE(::findings(device), expected);
+        QTEST(::findings(device), "expected");
     }
 
     void ourCatalogueIsClean_data()

@@ -93,9 +93,8 @@ private Q_SLOTS:
     {
         QFETCH(int, from);
         QFETCH(int, to);
-        QFETCH(int, bit);
         for (int kind = from; kind <= to; ++kind)
-            QCOMPARE(plib::systemBit(kind), bit);
+            QTEST(plib::systemBit(kind), "bit");
     }
 
     void offered_data()

@@ -34,10 +34,9 @@ private Q_SLOTS:
     void groups()
     {
         QFETCH(const QVector<int>, groups);
-        QFETCH(QString, expected);
         plib::DesignParameterRow row;
         row.groups = {groups.begin(), groups.end()};
-        QCOMPARE(plib::rowText(row, 0), expected);
+        QTEST(plib::rowText(row, 0), "expected");
     }
 
     void columns_data()
@@ -45,24 +44,24 @@ private Q_SLOTS:
         // expected: columns 1 to 4
         const Columns<int, QStringList> row("type", "expected");
         const QString bars =
-            QStringLiteral("Ø10 ;18.00 cm²/m ;25.00 cm²/m\nØ13 ;21.00 cm²/m ;28.00 cm²/m");
-        const QString stresses = QStringLiteral("39.0 N/mm² ;40.0 N/mm² ;41.0 N/mm²\n"
-                                                "42.0 N/mm² ;43.0 N/mm² ;44.0 N/mm² ;");
-        const QString straight = QStringLiteral("0.0° ;171.9°\n4.0 mm ;7.0 mm ;5.0 mm ;8.0 mm ;");
+            QStringLiteral("Ø12 ;18.00 cm²/m ;24.00 cm²/m\nØ15 ;21.00 cm²/m ;27.00 cm²/m");
+        const QString stresses = QStringLiteral("36.0 N/mm² ;37.0 N/mm² ;38.0 N/mm²\n"
+                                                "39.0 N/mm² ;40.0 N/mm² ;41.0 N/mm² ;");
+        const QString straight = QStringLiteral("0.0° ;171.9°\n6.0 mm ;9.0 mm ;7.0 mm ;10.0 mm ;");
         row("no design", 0, {QStringLiteral("No design"), {}, {}, {}});
         row("orthogonal", 1,
             {QStringLiteral("Two Layers (orthogonal)"), straight, bars,
-             QStringLiteral("32.00 mm ;33.00 mm ;34.00 mm\n"
-                            "35.00 mm ;36.00 mm ;37.00 mm ;")});
+             QStringLiteral("30.00 mm ;31.00 mm ;32.00 mm\n"
+                            "33.00 mm ;34.00 mm ;35.00 mm ;")});
         row("two layers", 2,
             {QStringLiteral("Two Layers"),
              QStringLiteral("0.0° ;171.9° ;57.3° ;229.2°\n"
-                            "4.0 mm ;7.0 mm ;5.0 mm ;8.0 mm ;"),
+                            "6.0 mm ;9.0 mm ;7.0 mm ;10.0 mm ;"),
              bars, stresses});
         row("three layers", 3,
             {QStringLiteral("Three Layers"),
-             QStringLiteral("0.0° ;171.9° ;57.3° ;229.2°\n4.0 mm ;"
-                            "7.0 mm ;5.0 mm ;8.0 mm ;6.0 mm ;9.0 mm ;"),
+             QStringLiteral("0.0° ;171.9° ;57.3° ;229.2°\n6.0 mm ;"
+                            "9.0 mm ;7.0 mm ;10.0 mm ;8.0 mm ;11.0 mm ;"),
              bars, stresses});
         row("circular", 4, {QStringLiteral("Circular"), straight, bars, stresses});
         row("5 has no name and reads like 4", 5, {{}, straight, bars, stresses});
@@ -74,7 +73,6 @@ private Q_SLOTS:
     void columns()
     {
         QFETCH(int, type);
-        QFETCH(QStringList, expected);
         VKD_A_BarDiameterData bars;
         plib::DesignParameterRow row;
         row.barData = &bars;
@@ -89,23 +87,11 @@ private Q_SLOTS:
                 continue;
             row.record.*field.real = value * (code == 1024 ? 0.001F : 1.0F);
             value += 1;
-            if (code == 1024 && field.real == &tagZOB_QUAD_RIM::hiui)
-                value = 10;
-            if (field.real == &tagZOB_QUAD_RIM::riui)
-                value = 4;
-            if (field.real == &tagZOB_QUAD_RIM::diui)
-                value = 18;
-            if (field.real == &tagZOB_QUAD_RIM::asui)
-                value = 25;
-            if (field.real == &tagZOB_QUAD_RIM::amui)
-                value = 32;
-            if (field.real == &tagZOB_QUAD_RIM::wkui)
-                value = 39;
         }
         QStringList texts;
         for (int column = 1; column < 5; ++column)
             texts << plib::rowText(row, column);
-        QCOMPARE(texts, expected);
+        QTEST(texts, "expected");
         QCOMPARE(plib::rowText(row, 5), QString());
         QCOMPARE(plib::rowText(row, -1), QString());
     }

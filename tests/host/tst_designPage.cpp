@@ -77,7 +77,6 @@ private Q_SLOTS:
     void fromANewProjectToRecords()
     {
         QFETCH(int, language);
-        QFETCH(QString, firstRow);
         QFETCH(QString, lastRow);
         setLanguage(language);
         HostProject project(QStringLiteral("slab"));
@@ -103,7 +102,7 @@ private Q_SLOTS:
             QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("2;3"));
             QTest::keyClick(desk.groupCombo(), Qt::Key_Escape);
             QCOMPARE(desk.editors(), QString());
-            QCOMPARE(desk.row(0), firstRow);
+            QTEST(desk.row(0), "firstRow");
             QVERIFY2(desk.row(1).startsWith(lastRow), qPrintable(desk.row(1)));
             QVERIFY(desk.page->checkVals());
             desk.page->writeToZob();
