@@ -1,54 +1,8 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <checkStates.h>
-
 using plib::OutputNode;
 using testsupport::line;
-
-/// The building told in single steps: linear searches, and after each new item or check state all
-/// ancestors brought up to date.
-class StepByStep
-{
-public:
-    explicit StepByStep(OutputNode* root)
-        : m_root(root)
-    {
-    }
-
-    void add(const plib::GraphicalOutputRecord& r, const testsupport::Rows& rows)
-    {
-        OutputNode* top = find(m_root, r.title1, r.title1);
-        OutputNode* second = find(top, r.title2, r.title2);
-        OutputNode* plot = find(second, r.title2, r.title3);
-        if (r.ctrl == -1)
-            return plib::setBranchState(plot, Qt::Checked);
-        for (const auto& row : rows)
-            if (row.kind == 1 && (r.rowClass == 1 || r.rowClass == 2))
-                create(plot, row.name);
-        for (int i = 0; i < plot->childCount(); ++i)
-            if (r.preselect == 2 || r.preselect == 3 || (r.preselect == 1 && i == 0))
-                plib::setBranchState(plot->child(i), Qt::Checked);
-    }
-
-private:
-    static OutputNode* create(OutputNode* parent, const QString& text)
-    {
-        OutputNode* made = parent->addChild(text);
-        plib::settleAncestors(made);
-        return made;
-    }
-
-    static OutputNode* find(OutputNode* parent, const QString& text, const QString& caption)
-    {
-        for (int i = parent->childCount() - 1; i >= 0; --i)
-            if (parent->child(i)->text(0) == text)
-                return parent->child(i);
-        return create(parent, caption);
-    }
-
-    OutputNode* m_root;
-};
 
 class TestOutputTree : public QObject
 {
@@ -141,30 +95,6 @@ private Q_SLOTS:
         records[0].title3.clear();
         testsupport::build(&other, records, {});
         QCOMPARE(other.childCount(), 0);
-    }
-
-    void statesAreThoseOfSingleSteps()
-    {
-        std::mt19937 random(7);
-        const char* const names[] = {"a", "b", "c"};
-        const char* const words[] = {" ", "last", "last-l", "sngl-c", "desi-l"};
-        const auto name = [&] { return QByteArray(names[testsupport::below(random, 3)]); };
-        for (int round = 0; round < 500; ++round) {
-            QByteArray catalogue;
-            for (int i = testsupport::below(random, 12); i >= 0; --i)
-                catalogue +=
-                    line(name() + '|' + name() + '|' + name(), words[testsupport::below(random, 5)],
-                         testsupport::below(random, 4), 0, "g", "e");
-            const auto records = testsupport::parse(catalogue);
-            const auto rows = testsupport::rows(testsupport::below(random, 4));
-            OutputNode built;
-            testsupport::build(&built, records, rows);
-            OutputNode reference;
-            StepByStep steps(&reference);
-            for (const auto& record : records)
-                steps.add(record, rows);
-            QCOMPARE(testsupport::treeText(&built), testsupport::treeText(&reference));
-        }
     }
 };
 

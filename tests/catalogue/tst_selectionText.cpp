@@ -117,32 +117,6 @@ private Q_SLOTS:
         QCOMPARE(plib::selectionText(&leaves), QStringLiteral("\nUnchecked:@ROW:%2\nERROR CASE\n"));
     }
 
-    void statesAreThoseOfSingleSteps()
-    {
-        std::mt19937 random(99);
-        const char* const words[] = {"Checked:", "Unchecked:", "Partially:"};
-        const char* const ids[] = {
-            "@A__", "@A__   @B__", "@A__   @B__   @C__", "@A__   @B__   @D__",
-            "001",  "001    002",  "001    002    003"};
-        for (int round = 0; round < 1000; ++round) {
-            QString text;
-            for (int i = testsupport::below(random, 8); i >= 0; --i) {
-                text += QLatin1String(words[testsupport::below(random, 3)]) +
-                        QLatin1String(ids[testsupport::below(random, 7)]) + QLatin1String(" : ");
-                for (int n = testsupport::below(random, 4); n > 0; --n)
-                    text += QString::number(testsupport::below(random, 5)) + QLatin1Char(',');
-                text += QLatin1Char('\n');
-            }
-            OutputNode atOnce;
-            makeTree(&atOnce);
-            plib::applySelection(&atOnce, text);
-            OutputNode stepwise;
-            makeTree(&stepwise);
-            testsupport::applyStepByStep(&stepwise, text);
-            QCOMPARE(states(&atOnce), states(&stepwise));
-        }
-    }
-
     void numbersAreReadAsQtDoes()
     {
         std::mt19937 random(5);

@@ -205,11 +205,6 @@ private Q_SLOTS:
                  QStringLiteral("Diameter|Min. Reinforcement|Max. Reinforcement") + rows);
         QCOMPARE(textsOf(reinforcement->findChild<QGroupBox*>(QStringLiteral("Lower"))),
                  QStringLiteral("Diameter|Min. Reinforcement|max. Reinforcement") + rows);
-        const auto directions = open<dlgDistanceDirection>(&record);
-        QCOMPARE(
-            textsOf(directions->findChild<QGroupBox*>(QStringLiteral("distance"))),
-            QStringLiteral("Upper (A)|Lower (B)|Principal Reinforcement (H)|Cross Reinforcement "
-                           "(DH)|Third layer reinforcement (DDH)"));
         const auto cracks = open<dlgCrackControl>(&record);
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }

@@ -98,16 +98,6 @@ private Q_SLOTS:
         }
     }
 
-    void defaultsSurviveTheRoundTrip()
-    {
-        R record = plib::getDefaultMerPara(true);
-        plib::toEditedForm(record, 0);
-        plib::cleanRecord(record);
-        plib::toStoredForm(record, 0);
-        const R expected = plib::getDefaultMerPara(true);
-        QVERIFY(std::memcmp(&record, &expected, sizeof record) == 0);
-    }
-
     void cleaning_data()
     {
         // first, last: offsets of the fields

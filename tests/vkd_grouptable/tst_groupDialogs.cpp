@@ -292,21 +292,6 @@ private Q_SLOTS:
         QCOMPARE(groups, Groups{12});
     }
 
-    void clickOnACheckBox()
-    {
-        Groups groups;
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
-        const int result = execWith(dialog, [&](const Driver& driver) {
-            const QRect cell = driver.view()->visualRect(driver.cell(QStringLiteral("3")));
-            QTest::mouseClick(driver.view()->viewport(), Qt::LeftButton, {},
-                              {cell.left() + 10, cell.center().y()});
-            driver.enter("groups");
-        });
-        QCOMPARE(result, 1);
-        dialog.getChecked(groups);
-        QCOMPARE(groups, Groups{3});
-    }
-
     void secondaryGroups()
     {
         Groups groups{Old, 3};
