@@ -32,5 +32,6 @@ keep 1 window window
 keep 1 window-dark window-dark
 keep 2 design-editor-groups design-page
 keep 2 design-directions-type3 design-directions
-keep 2 calculator calculator
 keep 2 window-output-plots output-page
+keep 1 sheet-page sheet
+keep 1 window-text-chosen text-output
