@@ -20,7 +20,8 @@ namespace workbench {
 SheetPlan MainWindow::newSheetPlan()
 {
     SheetPlan plan = readSheetPlan(m_script->script());
-    if (!setCaptions(&plan, output()->captions())) {
+    const OutputDialog* dialog = output(); // none while the project cannot be read
+    if (!dialog || !setCaptions(&plan, dialog->captions())) {
         QHash<int, QString> titles;
         for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index()))
             titles.insert(loadCase.number, loadCase.title);
