@@ -4,7 +4,6 @@
 #include <designRecord.h>
 #include <VKD_A_BarDiameterData.h>
 
-#include <cmath>
 #include <cstring>
 #include <limits>
 

@@ -6,7 +6,6 @@
 #include <vkd_lib_value.h>
 #include <vkd_zob.h>
 
-#include <cmath>
 #include <limits>
 
 using R = tagZOB_QUAD_RIM;

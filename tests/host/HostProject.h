@@ -4,7 +4,6 @@
 
 #include <tagZOB_QUAD_RIM.h>
 
-#include <memory>
 #include <vector>
 
 /// A project in a folder of its own, as a host has it open.

@@ -6,7 +6,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QMenu>
 
 #include <algorithm>
 #include <random>

@@ -8,7 +8,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMenu>
 #include <QTreeWidget>
 
 #include <random>

@@ -8,7 +8,6 @@
 #include <QSignalSpy>
 #include <QWheelEvent>
 
-#include <cmath>
 #include <limits>
 
 using namespace vkd::dbo;

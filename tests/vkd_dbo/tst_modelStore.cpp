@@ -9,7 +9,6 @@
 
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <tuple>
 #include <vector>
 

@@ -2,11 +2,9 @@
 
 #include <VKD_H_TableItems.h>
 #include <VKD_H_TableWidget.h>
-#include <VKD_H_TableWidgetBox.h>
 #include <VKD_QT4_ComboBox.h>
 
 #include <QClipboard>
-#include <QDialog>
 #include <QMimeData>
 
 namespace {
