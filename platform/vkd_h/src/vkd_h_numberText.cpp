@@ -4,7 +4,6 @@
 #include "StructLineEdit.h"
 #include "vkd_h_units.h"
 
-
 #include <QRegularExpression>
 
 #include <algorithm>
