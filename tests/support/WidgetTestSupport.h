@@ -2,6 +2,7 @@
 
 #include "TestSupport.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QPointer>
@@ -29,6 +30,20 @@ inline void whenModal(const std::function<void(QWidget*)>& act)
             act(modal);
     });
     timer->start(10);
+}
+
+template <class Widget>
+Widget* find(const QWidget& window, const char* name)
+{
+    auto found = window.findChild<Widget*>(QLatin1String(name));
+    if (!found)
+        qFatal("no %s", name);
+    return found;
+}
+
+inline void trigger(const QWidget& window, const char* action)
+{
+    window.findChild<QAction*>(QLatin1String(action))->trigger();
 }
 
 } // namespace testsupport

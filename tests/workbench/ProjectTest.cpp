@@ -1,30 +1,48 @@
 #include "ProjectTest.h"
 
 #include <PlatformLog.h>
-#include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 #include <vkd_zob.h>
-#include <WindowSettings.h>
 
 #include <QDir>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProcess>
 #include <QPushButton>
+#include <QSettings>
 #include <QTreeWidget>
 
 #include <csignal>
 #include <sys/resource.h>
 
-using testsupport::whenModal;
 using workbench::MainWindow;
-using workbench::WindowSettings;
 
 namespace windowtest {
+
+QByteArray commandLine(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(WORKBENCH), arguments);
+    process.waitForFinished();
+    return process.readAllStandardOutput();
+}
+
+QString makeProject(const QString& path, const QString& model)
+{
+    commandLine({QStringLiteral("new"), path, QStringLiteral("--model"), model,
+                 QStringLiteral("--language"), QStringLiteral("english")});
+    return QFile::exists(path) ? QString() : QStringLiteral("not made");
+}
+
+QString script(const QWidget& window)
+{
+    return find<QPlainTextEdit>(window, "ScriptText")->toPlainText();
+}
 
 void press(QWidget* box, QMessageBox::StandardButton button)
 {
     qobject_cast<QMessageBox*>(box)->button(button)->click();
 }
 
-/// Presses OK in the message that comes next; its text is added to the list.
 void readMessage(QStringList& texts)
 {
     whenModal([&texts](QWidget* box) {
@@ -36,10 +54,16 @@ void readMessage(QStringList& texts)
     });
 }
 
-void setLanguage(int language)
+void enterFile(QWidget* dialog, const QString& path)
 {
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-    VKD_QT_InitTranslator::languageChanged();
+    auto name = find<QLineEdit>(*dialog, "fileNameEdit");
+    name->setText(path);
+    QTest::keyClick(name, Qt::Key_Return);
+}
+
+void answerFileDialog(const QString& path)
+{
+    whenModal([path](QWidget* dialog) { enterFile(dialog, path); });
 }
 
 void changeChoice(const QWidget& window)
@@ -96,26 +120,31 @@ Obstacle::~Obstacle()
 void ProjectTest::initTestCase()
 {
     workbench::PlatformLog::install();
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_all.path());
-    const QString project = m_all.filePath(QStringLiteral("building.zob"));
+    const QTemporaryDir folder;
+    const QString project = folder.filePath(QStringLiteral("building.zob"));
     QCOMPARE(makeProject(project, QStringLiteral("building")), QString());
-    m_building = testsupport::readFile(project);
+    m_building = readFile(project);
 }
 
 void ProjectTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    WindowSettings().clear();
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path("ini"));
     vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, 300);
-    setLanguage(1);
+    testsupport::setLanguage(testsupport::English);
+}
+
+QString ProjectTest::copy(const char* name) const
+{
+    writeFile(path(name), m_building);
+    return path(name);
 }
 
 std::unique_ptr<MainWindow> ProjectTest::open(const char* name) const
 {
-    testsupport::writeFile(path(name), m_building);
     auto window = std::make_unique<MainWindow>(makeProject);
     window->show();
-    if (!window->openProject(path(name)) ||
+    if (!window->openProject(copy(name)) ||
         !QTest::qWaitFor([&window] { return !script(*window).isEmpty(); }))
         qFatal("not open");
     return window;

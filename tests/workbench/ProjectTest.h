@@ -1,6 +1,7 @@
 #pragma once
 
-#include "WindowTestSupport.h"
+#include "LanguageSupport.h"
+#include "WidgetTestSupport.h"
 
 #include <MainWindow.h>
 
@@ -9,12 +10,27 @@
 
 #include <memory>
 
+/// What tests of the workbench's window have in common.
 namespace windowtest {
+
+using testsupport::find;
+using testsupport::readFile;
+using testsupport::trigger;
+using testsupport::whenModal;
+using testsupport::writeFile;
+
+/// What the program prints with these arguments.
+QByteArray commandLine(const QStringList& arguments);
+QString makeProject(const QString& path, const QString& model);
+QString script(const QWidget& window);
 
 void press(QWidget* box, QMessageBox::StandardButton button);
 /// Presses OK in the message that comes next; its text is added to the list.
 void readMessage(QStringList& texts);
-void setLanguage(int language);
+/// Names a file in a file dialog.
+void enterFile(QWidget* dialog, const QString& path);
+/// Names a file in the file dialog that opens next.
+void answerFileDialog(const QString& path);
 /// Opens the output dialog and takes a plot back.
 void changeChoice(const QWidget& window);
 
@@ -49,14 +65,16 @@ private:
     std::unique_ptr<OtherProgram> m_other;
 };
 
-/// Tests of the window's projects: English texts, settings of their own, a folder for each test.
+/// Tests of the window's projects: English texts; a folder for each test, with its settings.
 class ProjectTest : public QObject
 {
     Q_OBJECT
 
 protected:
     QString path(const char* name) const { return m_folder->filePath(QString::fromUtf8(name)); }
-    /// A window on a copy of the building.
+    /// The path of a new copy of the building.
+    QString copy(const char* name) const;
+    /// A window on such a copy, with its script.
     std::unique_ptr<workbench::MainWindow> open(const char* name) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -65,9 +83,6 @@ protected:
 private Q_SLOTS:
     void initTestCase();
     void init();
-
-private:
-    QTemporaryDir m_all;
 };
 
 } // namespace windowtest

@@ -1,31 +1,14 @@
 #include "VisitedProject.h"
 
-#include "WidgetTestSupport.h"
-
 #include <RecordsPane.h>
 #include <vkd_dbo_groups.h>
 #include <vkd_dbo_model.h>
-#include <vkd_lib_value.h>
-#include <VKD_QT_InitTranslator.h>
 
-#include <QAction>
 #include <QContextMenuEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-using testsupport::whenModal;
 using workbench::MainWindow;
-
-void setLanguage(int language)
-{
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
-    VKD_QT_InitTranslator::languageChanged();
-}
-
-void trigger(const QWidget& window, const char* action)
-{
-    window.findChild<QAction*>(QLatin1String(action))->trigger();
-}
 
 /// Looks at the modal window that `act` opens, and closes it.
 void visitModal(const Visit& visit, const std::function<void()>& act)

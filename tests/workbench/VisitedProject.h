@@ -1,5 +1,8 @@
 #pragma once
 
+#include "LanguageSupport.h"
+#include "WidgetTestSupport.h"
+
 #include <HostProject.h>
 #include <MainWindow.h>
 
@@ -8,7 +11,12 @@
 
 #include <functional>
 
-enum Language { German = 0, English = 1 };
+using testsupport::English;
+using testsupport::find;
+using testsupport::German;
+using testsupport::setLanguage;
+using testsupport::trigger;
+using testsupport::whenModal;
 
 using Visit = std::function<void(QWidget&)>;
 /// Opens a window, or several one behind the other, lets each be looked at, and closes it.
@@ -16,18 +24,6 @@ using Open = std::function<void(const Visit&)>;
 
 Q_DECLARE_METATYPE(Visit)
 Q_DECLARE_METATYPE(Open)
-
-void setLanguage(int language);
-void trigger(const QWidget& window, const char* action);
-
-template <class Widget>
-Widget* find(const QWidget& window, const char* name)
-{
-    auto found = window.findChild<Widget*>(QLatin1String(name));
-    if (!found)
-        qFatal("no %s", name);
-    return found;
-}
 
 /// Looks at the modal window that `act` opens, and closes it.
 void visitModal(const Visit& visit, const std::function<void()>& act);
