@@ -1,8 +1,10 @@
 #include "TestSupport.h"
 
-#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
+
+using testsupport::readFile;
+using testsupport::writeFile;
 
 /// The command line as a user drives it: the real program, its output and its exit code.
 class TestCommandLine : public QObject
@@ -10,25 +12,295 @@ class TestCommandLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void samples_data();
-    void samples();
-    void choiceIsStoredAndRestored();
-    void settingsChangeTheScript_data();
-    void settingsChangeTheScript();
-    void loadCasesFromFile();
-    void splitPage();
-    void otherShareFolder();
-    void warningsOfThePlatform();
-    void namesWithPercentSigns();
-    void designRows();
-    void lookingChangesNothing();
-    void snapshots();
-    void strictCatalogue();
-    void failures_data();
-    void failures();
-    void help_data();
-    void help();
+    void initTestCase()
+    {
+        for (const char* model : {"building", "slab", "hall"}) {
+            const Result made = run(QStringLiteral("new %1.zob --language english --model %1")
+                                        .arg(QLatin1String(model)));
+            QCOMPARE(made.error, QString());
+            QCOMPARE(made.exitCode, 0);
+        }
+    }
+
+    void samples_data()
+    {
+        // What the models differ in: the view, by the kind of system, and the content.
+        const Columns<QString, QString> row("has", "hasNot");
+        row("building", "\nVIEW EG3\n", "\nCABL");
+        row("slab", "\nVIEW EGX\n", "\nBEAM");
+        row("hall", "\nCABL", "\nEntries");
+    }
+
+    void samples()
+    {
+        QFETCH(const QString, has);
+        QFETCH(const QString, hasNot);
+        const QString command =
+            QStringLiteral("script %1.zob").arg(QLatin1String(QTest::currentDataTag()));
+        const Result english = run(command);
+        QCOMPARE(english.error, QString());
+        QVERIFY(english.out.startsWith(QLatin1String("PROG GRAV $ Graphical Output\nHEAD ")));
+        QVERIFY(english.out.endsWith(QLatin1String("\nEND\n")));
+        QVERIFY(english.out.contains(QLatin1String("QSEC"))); // all of them have area elements
+        QVERIFY2(english.out.contains(has), qPrintable(english.out));
+        QVERIFY2(!english.out.contains(hasNot), qPrintable(english.out));
+        const Result german = run(command + QLatin1String(" --keywords german"));
+        QVERIFY(german.out.contains(QLatin1String("\nKOPF ")));
+        QVERIFY(german.out.endsWith(QLatin1String("\nENDE\n")));
+        QCOMPARE(german.out.count(QLatin1Char('\n')), english.out.count(QLatin1Char('\n')));
+    }
+
+    void choiceIsStoredAndRestored()
+    {
+        const Result first = run("script slab.zob --selection-out choice.txt -o first.txt");
+        QCOMPARE(first.exitCode, 0);
+        QCOMPARE(first.out, QString());
+        const QByteArray choice = readFile(path("choice.txt"));
+        QVERIFY(choice.startsWith('\n'));
+        QVERIFY(choice.contains("Partially:"));
+        QCOMPARE(
+            run("script slab.zob --selection choice.txt --selection-out again.txt -o second.txt")
+                .exitCode,
+            0);
+        QCOMPARE(readFile(path("again.txt")), choice);
+        QCOMPARE(readFile(path("second.txt")), readFile(path("first.txt")));
+        // The choice fits the captions of either language, and a changed choice changes tree and
+        // script.
+        const Result english = run("tree slab.zob --selection choice.txt --language english");
+        const Result german = run("tree slab.zob --selection choice.txt --language german");
+        QCOMPARE(german.out.count(QLatin1String("[x]")), english.out.count(QLatin1String("[x]")));
+        QVERIFY(german.out != english.out);
+        writeFile(path("none.txt"), "Checked:nothing\n");
+        QVERIFY(!run("tree slab.zob --selection none.txt").out.contains(QLatin1String("[x]")));
+        QCOMPARE(run("script slab.zob --selection none.txt --additional more").out, QString());
+    }
+
+    void settingsChangeTheScript_data()
+    {
+        const Columns<QString> row("line");
+        row("--set scaleMode=0", "SIZE -URS SC - SPLI  2x1 MARG NO FORM STAN");
+        row("--set scaleMode=0 --set scaleText=1:50",
+            "SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO FORM STAN");
+        row("--set scaleMode=0 --set scaleIndex=8",
+            "SIZE -URS SC 100*1.e+10 SPLI  2x1 MARG NO FORM STAN");
+        row("--set formatId=1", "SIZE URS SC 0 MARG NO FORM STAN");
+        row("--set hasFormat=0", "SIZE URS SC 0 MARG NO FORM STAN");
+        row("--set picturesId=0", "SIZE -URS SC 0 MARG NO FORM STAN");
+        row("--set viewId=1", "VIEW TYPE EGXZ ; PERS INFI");
+        row("--set viewId=4", "VIEW TYPE STAN 1 -2 1 ROTA 0");
+        row("--set fontSizeText=3.5", "SCHH H6 0.35");
+        row("--set fillAreas=1", "#define FILLI=AREA");
+        row("--additional last", "last");
+        row("--additional first --progname 222", "first");
+    }
+
+    /// Arguments are the name of the row.
+    void settingsChangeTheScript()
+    {
+        QFETCH(const QString, line);
+        const Result result =
+            run(QStringLiteral("script building.zob ") + QLatin1String(QTest::currentDataTag()));
+        QCOMPARE(result.error, QString());
+        QVERIFY2(result.out.split(QLatin1Char('\n')).contains(line), qPrintable(result.out));
+    }
+
+    void loadCasesFromFile()
+    {
+        writeFile(path("cases.txt"), "1 40 40+41: both\r\n\n2 50 design\n");
+        const QString script = run("script building.zob --load-cases cases.txt").out;
+        QVERIFY(script.contains(QLatin1String("\nLC 40 DESI 40\nCOLO C14 -1 ; ")));
+        QVERIFY(script.contains(QLatin1String("\nLC 41 DESI 41\nCOLO STAN ; COLO C13 -1 ; ")));
+        QVERIFY(script.contains(QLatin1String("\nLC 50 DESI 50\n")));
+        QVERIFY(!script.contains(QLatin1String("LC 1 ")));
+    }
+
+    void splitPage()
+    {
+        QCOMPARE(
+            run("script building.zob --progname 122 --set pageSplitId=1").out,
+            QStringLiteral("SIZE TYPE \"-URS\" SC 0 SPLI 2X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X1"));
+        QCOMPARE(run("tree building.zob --progname 7").out,
+                 QStringLiteral("No Entries in database!\n"));
+    }
+
+    void otherShareFolder()
+    {
+        writeFile(path("graphicaloutput.data"), "1|0|0|A|B|C| |0| |0|3| |0|NUR HIER|ONLY HERE\n");
+        const Result result =
+            run({QStringLiteral("script"), QStringLiteral("slab.zob")}, m_folder.path());
+        QVERIFY(result.out.contains(QLatin1String("\nVIEW EG3\nONLY HERE\nEND\n")));
+    }
+
+    void warningsOfThePlatform()
+    {
+        QDir(m_folder.path()).mkpath(QStringLiteral("bad/texts"));
+        writeFile(path("bad/texts/grav.txt"), "0|ABC|no English\n");
+        const Result result =
+            run({QStringLiteral("script"), QStringLiteral("slab.zob")}, path("bad"));
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY(!result.out.isEmpty());
+        QCOMPARE(result.error.section(QLatin1Char(':'), 0, 1),
+                 QStringLiteral("plib_workbench: warning"));
+        QVERIFY(result.error.endsWith(
+            QLatin1String(":1: a text needs class, key, German and English\n")));
+    }
+
+    void namesWithPercentSigns()
+    {
+        const Result made = run("new a%1%2b.zob --model slab --language english");
+        QCOMPARE(made.out,
+                 QStringLiteral("a%1%2b.zob: Flat slab on columns with a balcony, 1278 nodes, "
+                                "1198 elements in 4 groups, 16 load cases\n"));
+        QVERIFY(run("tree a%1%2b.zob").out.startsWith(QLatin1Char('[')));
+    }
+
+    void designRows()
+    {
+        QCOMPARE(run("new rows.zob --model slab").exitCode, 0);
+        const QString summary =
+            QStringLiteral("0.0° ;0.0° / 35.0 mm ;35.0 mm ;10.0 mm ;10.0 mm ;\tØ10 ; -  ; "
+                           "-  / Ø10 ; -  ; - \t -  ; -  ; -  /  -  ; -  ; -  ;\n");
+        const QString before = run("rows rows.zob --language english").out;
+        QCOMPARE(before.count(QLatin1Char('\n')), 4);
+        QVERIFY(before.startsWith(QLatin1String("Remaining Groups\tTwo Layers (orthogonal)\t") +
+                                  summary));
+        // A new row takes its groups from others, and a row that loses its last one goes.
+        QCOMPARE(run("rows rows.zob --set-row 4;GURX type=4 wko=unset --language english").error,
+                 QString());
+        const QString changed = run("rows rows.zob --language english").out;
+        QVERIFY2(changed.endsWith(QLatin1String("\n4;GURX\tCircular\t") + summary),
+                 qPrintable(changed));
+        QCOMPARE(changed.count(QLatin1Char('\n')), 4);
+        // An existing row keeps what is not named, and a row without groups is kept with the
+        // project too.
+        run("rows rows.zob --set-row GURX;4 hio=0.05");
+        run("rows rows.zob --set-row none type=3 dio=20");
+        const QString again = run("rows rows.zob --language german").out;
+        QVERIFY2(again.contains(QStringLiteral("\n4;GURX\tRingförmig\t")), qPrintable(again));
+        QVERIFY(again.contains(QStringLiteral("0,0° ;0,0° / 50,0 mm ;35,0 mm ;")));
+        QVERIFY(again.section(QLatin1Char('\n'), -2).contains(QStringLiteral("Ø20")));
+    }
+
+    void lookingChangesNothing()
+    {
+        const QByteArray before = readFile(path("hall.zob"));
+        for (const char* command : {"rows hall.zob", "script hall.zob", "tree hall.zob"})
+            QCOMPARE(run(command).exitCode, 0);
+        const auto writable = QFile::permissions(path("hall.zob"));
+        QFile::setPermissions(path("hall.zob"), QFile::ReadOwner);
+        const Result refused = run("rows hall.zob --set-row 9 type=2");
+        QFile::setPermissions(path("hall.zob"), writable);
+        QCOMPARE(refused.exitCode, 1);
+        QCOMPARE(refused.error,
+                 QStringLiteral("plib_workbench: cannot take the lock of hall.zob: the file "
+                                "or its folder is write-protected\n"));
+        QVERIFY(readFile(path("hall.zob")) == before);
+    }
+
+    void strictCatalogue()
+    {
+        QCOMPARE(run("catalogue --strict").exitCode, 0);
+        writeFile(path("bad.data"), "1|0|0|@A__ A|@B__ B|@C__ C|Quod|0| |0|3| |0|g|e\n");
+        const Result loose = run("catalogue bad.data");
+        QCOMPARE(loose.exitCode, 0);
+        QCOMPARE(loose.out, QStringLiteral("1\t0\t0\tA\tB\tC\tQuod\t\t0\t3\t0\tg\te\n"));
+        QCOMPARE(loose.error,
+                 QStringLiteral("bad.data:1: unknown content tag \"Quod\": the plot is shown "
+                                "for every model\n"));
+        QCOMPARE(run("catalogue bad.data --strict").exitCode, 1);
+    }
+
+    void failures_data()
+    {
+        const Columns<QString> row("message"); // behind the program's name
+        writeFile(path("noproject.zob"), "just a text that is long enough to be looked at");
+        writeFile(path("bad.json"), "{\n \"title\": \"x\",\n oops }");
+        writeFile(path("field.json"),
+                  "{\"title\": \"x\", \"kindOfSystem\": 0, \"nodes\": [],"
+                  " \"groups\": [{\"number\": 7, \"title\": \"g\"}], \"designParameters\":"
+                  " [{\"groups\": [\"7\"], \"values\": {\"hiox\": 1}}]}");
+        writeFile(path("badcases.txt"), "1 2 ok\n3 x y\n");
+        row("paint", "unknown command \"paint\"; --help lists the commands");
+        row("script", "FILE is missing");
+        row("script a.zob b.zob", "unexpected argument \"b.zob\"");
+        row("script --colour a.zob", "Unknown option 'colour'.");
+        row("script absent.zob",
+            "cannot open absent.zob: the file is not there or cannot be opened");
+        row("script noproject.zob",
+            "cannot open noproject.zob: this is no project file (file is not a database)");
+        row("script slab.zob --keywords french", "--keywords is english or german, not \"french\"");
+        row("script slab.zob --progname x", "--progname needs a whole number, not \"x\"");
+        row("script slab.zob --set viewId", "--set needs NAME=VALUE, not \"viewId\"");
+        row("script slab.zob --set viewId=5", "viewId is a number from 0 to 4, not \"5\"");
+        row("script slab.zob --set scaleText=1:3", "scaleText is one of 1:1 1:2 1:5 1:10 1:20 1:25 "
+                                                   "1:50 1:100 1:200 1:500 1:1000, not \"1:3\"");
+        row("script slab.zob --selection absent.txt",
+            "cannot read absent.txt: No such file or directory");
+        row("script slab.zob --load-cases badcases.txt",
+            "badcases.txt:2: a kind of 1 or 2, a number and a name are needed");
+        row("script slab.zob -o no/such/folder.txt --selection-out kept.txt",
+            "cannot write no/such/folder.txt: No such file or directory");
+        row("new slab.zob --model slab", "slab.zob exists already");
+        row("new x.zob --model none", "there is no model \"none\"");
+        row("new x.zob --model bad.json", "bad.json: line 3, column 3: unterminated object");
+        row("new x.zob --model field.json", "field.json: designParameters of group 7: \"hiox=1\" "
+                                            "is no FIELD=VALUE of a design record");
+        row("new no/x.zob --model slab",
+            "cannot create no/x.zob: cannot create no/x.zob: the file is not there or cannot be "
+            "opened (No such file or directory)");
+        row("rows slab.zob type=1", "--set-row is missing");
+        row("rows slab.zob --set-row 99 type=1", "there is no group \"99\"");
+        row("rows slab.zob --set-row 1 colour=1",
+            "\"colour=1\" is no FIELD=VALUE of a design record");
+        row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");
+        row("rows slab.zob --set-row 1 hio=inf", "\"inf\" is no value for hio");
+        row("script slab.zob -o both.txt --selection-out both.txt",
+            "the script and the choice cannot both go into both.txt");
+        row("script slab.zob -o .", "cannot write .: it is no file");
+        row("snapshots noproject.zob pictures",
+            "cannot open noproject.zob: this is no project file (file is not a database)");
+        row("snapshots slab.zob bad.json/pictures", "cannot make the folder bad.json/pictures");
+        row("snapshots slab.zob none --pixel-ratio 5",
+            "--pixel-ratio is a number from 1 to 4, not \"5\"");
+    }
+
+    /// Nothing is begun that cannot be finished.
+    void failures()
+    {
+        const QDir folder(m_folder.path());
+        const QStringList before = folder.entryList();
+        const Result result = run(QTest::currentDataTag());
+        QCOMPARE(result.exitCode, 1);
+        QCOMPARE(result.out, QString());
+        QFETCH(const QString, message);
+        QCOMPARE(result.error, QStringLiteral("plib_workbench: %1\n").arg(message));
+        QCOMPARE(folder.entryList(), before);
+    }
+
+    void help()
+    {
+        for (const char* command :
+             {"", "new", "rows", "script", "catalogue", "tree", "snapshots", "window"}) {
+            const QString name = QLatin1String(command);
+            const Result result = run((name + QLatin1String(" --help")).trimmed());
+            QCOMPARE(result.exitCode, 0);
+            QCOMPARE(result.error, QString());
+            const QString begins =
+                name.isEmpty() ? QStringLiteral("COMMAND") : name + QLatin1String(" [options]");
+            QVERIFY2(result.out.startsWith(QLatin1String("Usage: plib_workbench ") + begins),
+                     qPrintable(result.out));
+        }
+    }
+
+    void fullDisk()
+    {
+        QProcess full;
+        full.setStandardOutputFile(QStringLiteral("/dev/full"));
+        full.start(QStringLiteral(WORKBENCH), {QStringLiteral("new"), QStringLiteral("--help")});
+        QVERIFY(full.waitForFinished());
+        QCOMPARE(full.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(full.exitCode(), 1);
+    }
 
 private:
     struct Result
@@ -37,373 +309,27 @@ private:
         QString out;
         QString error;
     };
-    Result run(const QStringList& arguments, const QString& share = QString()) const;
-    Result run(const char* arguments) const;
+
+    Result run(const QStringList& arguments, const QString& share = QString()) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(m_folder.path());
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("VKD_SHARE"), share);
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(WORKBENCH), arguments);
+        process.waitForFinished();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+    /// Arguments parted by blanks.
+    Result run(const QString& arguments) const { return run(arguments.split(QLatin1Char(' '))); }
+    Result run(const char* arguments) const { return run(QString::fromUtf8(arguments)); }
     QString path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
 
     QTemporaryDir m_folder;
 };
-
-TestCommandLine::Result TestCommandLine::run(const QStringList& arguments,
-                                             const QString& share) const
-{
-    QProcess process;
-    process.setWorkingDirectory(m_folder.path());
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("VKD_SHARE"), share);
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(WORKBENCH), arguments);
-    process.waitForFinished();
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-/// Arguments parted by blanks.
-TestCommandLine::Result TestCommandLine::run(const char* arguments) const
-{
-    return run(QString::fromUtf8(arguments).split(QLatin1Char(' ')));
-}
-
-void TestCommandLine::initTestCase()
-{
-    for (const char* model : {"building", "slab", "hall"}) {
-        const QByteArray name(model);
-        const Result made =
-            run(("new " + name + ".zob --language english --model " + name).constData());
-        QCOMPARE(made.error, QString());
-        QCOMPARE(made.exitCode, 0);
-    }
-}
-
-void TestCommandLine::samples_data()
-{
-    QTest::addColumn<QString>("project");
-    QTest::addColumn<QString>("has");
-    QTest::addColumn<QString>("hasNot");
-    // What the models differ in: the view, by the kind of system, and the content.
-    QTest::newRow("building") << QStringLiteral("building.zob") << QStringLiteral("\nVIEW EG3\n")
-                              << QStringLiteral("\nCABL");
-    QTest::newRow("slab") << QStringLiteral("slab.zob") << QStringLiteral("\nVIEW EGX\n")
-                          << QStringLiteral("\nBEAM");
-    QTest::newRow("hall") << QStringLiteral("hall.zob") << QStringLiteral("\nCABL")
-                          << QStringLiteral("\nEntries");
-}
-
-void TestCommandLine::samples()
-{
-    QFETCH(QString, project);
-    QFETCH(QString, has);
-    QFETCH(QString, hasNot);
-    const Result english = run({QStringLiteral("script"), project});
-    QCOMPARE(english.error, QString());
-    QVERIFY(english.out.startsWith(QLatin1String("PROG GRAV $ Graphical Output\nHEAD ")));
-    QVERIFY(english.out.endsWith(QLatin1String("\nEND\n")));
-    QVERIFY(english.out.contains(QLatin1String("QSEC"))); // all of them have area elements
-    QVERIFY2(english.out.contains(has), qPrintable(english.out));
-    QVERIFY2(!english.out.contains(hasNot), qPrintable(english.out));
-    const Result german = run({QStringLiteral("script"), project, QStringLiteral("--keywords"),
-                               QStringLiteral("german")});
-    QVERIFY(german.out.contains(QLatin1String("\nKOPF ")));
-    QVERIFY(german.out.endsWith(QLatin1String("\nENDE\n")));
-    QCOMPARE(german.out.count(QLatin1Char('\n')), english.out.count(QLatin1Char('\n')));
-}
-
-void TestCommandLine::choiceIsStoredAndRestored()
-{
-    const Result first = run("script slab.zob --selection-out choice.txt -o first.txt");
-    QCOMPARE(first.exitCode, 0);
-    QCOMPARE(first.out, QString());
-    const QByteArray choice = testsupport::readFile(path("choice.txt"));
-    QVERIFY(choice.startsWith('\n'));
-    QVERIFY(choice.contains("Partially:"));
-    QCOMPARE(run("script slab.zob --selection choice.txt --selection-out again.txt -o second.txt")
-                 .exitCode,
-             0);
-    QCOMPARE(testsupport::readFile(path("again.txt")), choice);
-    QCOMPARE(testsupport::readFile(path("second.txt")), testsupport::readFile(path("first.txt")));
-    // The choice fits the captions of either language, and a changed choice changes tree and
-    // script.
-    const Result english = run("tree slab.zob --selection choice.txt --language english");
-    const Result german = run("tree slab.zob --selection choice.txt --language german");
-    QCOMPARE(german.out.count(QLatin1String("[x]")), english.out.count(QLatin1String("[x]")));
-    QVERIFY(german.out != english.out);
-    testsupport::writeFile(path("none.txt"), "Checked:nothing\n");
-    QVERIFY(!run("tree slab.zob --selection none.txt").out.contains(QLatin1String("[x]")));
-    QCOMPARE(run("script slab.zob --selection none.txt --additional more").out, QString());
-}
-
-void TestCommandLine::settingsChangeTheScript_data()
-{
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("line");
-    const auto row = [](const char* arguments, const char* line) {
-        QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(line);
-    };
-    row("--set scaleMode=0", "SIZE -URS SC - SPLI  2x1 MARG NO FORM STAN");
-    row("--set scaleMode=0 --set scaleText=1:50",
-        "SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO FORM STAN");
-    row("--set scaleMode=0 --set scaleIndex=8",
-        "SIZE -URS SC 100*1.e+10 SPLI  2x1 MARG NO FORM STAN");
-    row("--set formatId=1", "SIZE URS SC 0 MARG NO FORM STAN");
-    row("--set hasFormat=0", "SIZE URS SC 0 MARG NO FORM STAN");
-    row("--set picturesId=0", "SIZE -URS SC 0 MARG NO FORM STAN");
-    row("--set viewId=1", "VIEW TYPE EGXZ ; PERS INFI");
-    row("--set viewId=4", "VIEW TYPE STAN 1 -2 1 ROTA 0");
-    row("--set fontSizeText=3.5", "SCHH H6 0.35");
-    row("--set fillAreas=1", "#define FILLI=AREA");
-    row("--additional last", "last");
-    row("--additional first --progname 222", "first");
-}
-
-void TestCommandLine::settingsChangeTheScript()
-{
-    QFETCH(QString, arguments);
-    QFETCH(QString, line);
-    const Result result =
-        run(QStringList{QStringLiteral("script"), QStringLiteral("building.zob")} +
-            arguments.split(QLatin1Char(' ')));
-    QCOMPARE(result.error, QString());
-    QVERIFY2(result.out.split(QLatin1Char('\n')).contains(line), qPrintable(result.out));
-}
-
-void TestCommandLine::loadCasesFromFile()
-{
-    testsupport::writeFile(path("cases.txt"), "1 40 40+41: both\r\n\n2 50 design\n");
-    const QString script = run("script building.zob --load-cases cases.txt").out;
-    QVERIFY(script.contains(QLatin1String("\nLC 40 DESI 40\nCOLO C14 -1 ; ")));
-    QVERIFY(script.contains(QLatin1String("\nLC 41 DESI 41\nCOLO STAN ; COLO C13 -1 ; ")));
-    QVERIFY(script.contains(QLatin1String("\nLC 50 DESI 50\n")));
-    QVERIFY(!script.contains(QLatin1String("LC 1 ")));
-}
-
-void TestCommandLine::splitPage()
-{
-    QCOMPARE(run("script building.zob --progname 122 --set pageSplitId=1").out,
-             QStringLiteral("SIZE TYPE \"-URS\" SC 0 SPLI 2X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X1"));
-    QCOMPARE(run("tree building.zob --progname 7").out,
-             QStringLiteral("No Entries in database!\n"));
-}
-
-void TestCommandLine::otherShareFolder()
-{
-    testsupport::writeFile(path("graphicaloutput.data"),
-                           "1|0|0|A|B|C| |0| |0|3| |0|NUR HIER|ONLY HERE\n");
-    const Result result =
-        run({QStringLiteral("script"), QStringLiteral("slab.zob")}, m_folder.path());
-    QVERIFY(result.out.contains(QLatin1String("\nVIEW EG3\nONLY HERE\nEND\n")));
-}
-
-void TestCommandLine::warningsOfThePlatform()
-{
-    QDir(m_folder.path()).mkpath(QStringLiteral("bad/texts"));
-    testsupport::writeFile(path("bad/texts/grav.txt"), "0|ABC|no English\n");
-    const Result result = run({QStringLiteral("script"), QStringLiteral("slab.zob")}, path("bad"));
-    QCOMPARE(result.exitCode, 0);
-    QVERIFY(!result.out.isEmpty());
-    QCOMPARE(result.error.section(QLatin1Char(':'), 0, 1),
-             QStringLiteral("plib_workbench: warning"));
-    QVERIFY(
-        result.error.endsWith(QLatin1String(":1: a text needs class, key, German and English\n")));
-}
-
-void TestCommandLine::namesWithPercentSigns()
-{
-    const Result made = run("new a%1%2b.zob --model slab --language english");
-    QCOMPARE(made.out,
-             QStringLiteral("a%1%2b.zob: Flat slab on columns with a balcony, 1278 nodes, "
-                            "1198 elements in 4 groups, 16 load cases\n"));
-    QVERIFY(run("tree a%1%2b.zob").out.startsWith(QLatin1Char('[')));
-}
-
-void TestCommandLine::designRows()
-{
-    QCOMPARE(run("new rows.zob --model slab").exitCode, 0);
-    const QString summary =
-        QStringLiteral("0.0° ;0.0° / 35.0 mm ;35.0 mm ;10.0 mm ;10.0 mm ;\tØ10 ; -  ; "
-                       "-  / Ø10 ; -  ; - \t -  ; -  ; -  /  -  ; -  ; -  ;\n");
-    const QString before = run("rows rows.zob --language english").out;
-    QCOMPARE(before.count(QLatin1Char('\n')), 4);
-    QVERIFY(
-        before.startsWith(QLatin1String("Remaining Groups\tTwo Layers (orthogonal)\t") + summary));
-    // A new row takes its groups from others, and a row that loses its last one goes.
-    QCOMPARE(run("rows rows.zob --set-row 4;GURX type=4 wko=unset --language english").error,
-             QString());
-    const QString changed = run("rows rows.zob --language english").out;
-    QVERIFY2(changed.endsWith(QLatin1String("\n4;GURX\tCircular\t") + summary),
-             qPrintable(changed));
-    QCOMPARE(changed.count(QLatin1Char('\n')), 4);
-    // An existing row keeps what is not named, and a row without groups is kept with the project
-    // too.
-    run("rows rows.zob --set-row GURX;4 hio=0.05");
-    run("rows rows.zob --set-row none type=3 dio=20");
-    const QString again = run("rows rows.zob --language german").out;
-    QVERIFY2(again.contains(QStringLiteral("\n4;GURX\tRingförmig\t")), qPrintable(again));
-    QVERIFY(again.contains(QStringLiteral("0,0° ;0,0° / 50,0 mm ;35,0 mm ;")));
-    QVERIFY(again.section(QLatin1Char('\n'), -2).contains(QStringLiteral("Ø20")));
-}
-
-void TestCommandLine::lookingChangesNothing()
-{
-    const QByteArray before = testsupport::readFile(path("hall.zob"));
-    for (const char* command : {"rows hall.zob", "script hall.zob", "tree hall.zob"})
-        QCOMPARE(run(command).exitCode, 0);
-    const auto writable = QFile::permissions(path("hall.zob"));
-    QFile::setPermissions(path("hall.zob"), QFile::ReadOwner);
-    const Result refused = run("rows hall.zob --set-row 9 type=2");
-    QFile::setPermissions(path("hall.zob"), writable);
-    QCOMPARE(refused.exitCode, 1);
-    QCOMPARE(refused.error,
-             QStringLiteral("plib_workbench: cannot take the lock of hall.zob: the file "
-                            "or its folder is write-protected\n"));
-    QVERIFY(testsupport::readFile(path("hall.zob")) == before);
-}
-
-/// In both languages the same pictures, each of a widget that has something in it.
-void TestCommandLine::snapshots()
-{
-    const QByteArray before = testsupport::readFile(path("hall.zob"));
-    QStringList names[2];
-    for (int english : {0, 1}) {
-        const QString language = english ? QStringLiteral("english") : QStringLiteral("german");
-        const Result result =
-            run({QStringLiteral("snapshots"), QStringLiteral("hall.zob"),
-                 QStringLiteral("pictures"), QStringLiteral("--language"), language});
-        QCOMPARE(result.error, QString());
-        QCOMPARE(result.exitCode, 0);
-        for (const QString& file : result.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-            const QImage picture(m_folder.filePath(file));
-            QVERIFY2(picture.width() > 100 && picture.height() > 50, qPrintable(file));
-            names[english] << file.section(QLatin1Char('.'), 0, 0);
-        }
-    }
-    QVERIFY(names[0].contains(QLatin1String("pictures/design-page")));
-    QCOMPARE(names[0], names[1]);
-    QVERIFY(testsupport::readFile(path("hall.zob")) == before);
-}
-
-void TestCommandLine::strictCatalogue()
-{
-    QCOMPARE(run("catalogue --strict").exitCode, 0);
-    testsupport::writeFile(path("bad.data"), "1|0|0|@A__ A|@B__ B|@C__ C|Quod|0| |0|3| |0|g|e\n");
-    const Result loose = run("catalogue bad.data");
-    QCOMPARE(loose.exitCode, 0);
-    QCOMPARE(loose.out, QStringLiteral("1\t0\t0\tA\tB\tC\tQuod\t\t0\t3\t0\tg\te\n"));
-    QCOMPARE(loose.error,
-             QStringLiteral("bad.data:1: unknown content tag \"Quod\": the plot is shown "
-                            "for every model\n"));
-    QCOMPARE(run("catalogue bad.data --strict").exitCode, 1);
-}
-
-void TestCommandLine::failures_data()
-{
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("message"); // behind the program's name
-    QTest::addColumn<QString>("untouched");
-    testsupport::writeFile(path("noproject.zob"),
-                           "just a text that is long enough to be looked at");
-    testsupport::writeFile(path("bad.json"), "{\n \"title\": \"x\",\n oops }");
-    testsupport::writeFile(path("key.json"),
-                           "{\"title\": \"x\", \"kindOfSystem\": 0, \"nodes\": [[1,0,0,0]],"
-                           " \"groups\": [], \"supports\": [[2, \"z\"]]}");
-    testsupport::writeFile(path("field.json"),
-                           "{\"title\": \"x\", \"kindOfSystem\": 0, \"nodes\": [],"
-                           " \"groups\": [{\"number\": 7, \"title\": \"g\"}], \"designParameters\":"
-                           " [{\"groups\": [\"7\"], \"values\": {\"hiox\": 1}}]}");
-    testsupport::writeFile(path("badcases.txt"), "1 2 ok\n3 x y\n");
-    const auto row = [](const char* arguments, const char* message, const char* untouched = "") {
-        QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(message)
-                                 << QString::fromLatin1(untouched);
-    };
-    row("paint", "unknown command \"paint\"; --help lists the commands");
-    row("script", "FILE is missing");
-    row("script a.zob b.zob", "unexpected argument \"b.zob\"");
-    row("script --colour a.zob", "Unknown option 'colour'.");
-    row("script absent.zob", "cannot open absent.zob: the file is not there or cannot be opened");
-    row("script noproject.zob", "cannot open noproject.zob: this is no project file (file is not a "
-                                "database)");
-    row("script slab.zob --keywords french", "--keywords is english or german, not \"french\"");
-    row("script slab.zob --progname x", "--progname needs a whole number, not \"x\"");
-    row("script slab.zob --set viewId", "--set needs NAME=VALUE, not \"viewId\"");
-    row("script slab.zob --set viewId=5", "viewId is a number from 0 to 4, not \"5\"");
-    row("script slab.zob --set scaleText=1:3", "scaleText is one of 1:1 1:2 1:5 1:10 1:20 1:25 "
-                                               "1:50 1:100 1:200 1:500 1:1000, not \"1:3\"");
-    row("script slab.zob --selection absent.txt",
-        "cannot read absent.txt: No such file or directory");
-    row("script slab.zob --load-cases badcases.txt",
-        "badcases.txt:2: a kind of 1 or 2, a number and a name are needed");
-    row("script slab.zob -o no/such/folder.txt --selection-out kept.txt",
-        "cannot write no/such/folder.txt: No such file or directory", "kept.txt");
-    row("new slab.zob --model slab", "slab.zob exists already");
-    row("new x.zob --model none", "there is no model \"none\"", "x.zob");
-    row("new x.zob --model bad.json", "bad.json: line 3, column 3: unterminated object", "x.zob");
-    row("new x.zob --model key.json", "key.json: supports[0][0]: node 2 does not exist", "x.zob");
-    row("new x.zob --model field.json",
-        "field.json: designParameters of group 7: \"hiox=1\" is no FIELD=VALUE of a design record",
-        "x.zob");
-    row("new no/x.zob --model slab",
-        "cannot create no/x.zob: cannot create no/x.zob: the file is not there or cannot be opened "
-        "(No such file or directory)",
-        "no/x.zob");
-    row("rows slab.zob type=1", "--set-row is missing");
-    row("rows slab.zob --set-row 99 type=1", "there is no group \"99\"");
-    row("rows slab.zob --set-row 1 colour=1", "\"colour=1\" is no FIELD=VALUE of a design record");
-    row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");
-    row("rows slab.zob --set-row 1 hio=inf", "\"inf\" is no value for hio");
-    row("script slab.zob -o both.txt --selection-out both.txt",
-        "the script and the choice cannot both go into both.txt", "both.txt");
-    row("script slab.zob -o .", "cannot write .: it is no file");
-    row("snapshots noproject.zob pictures", "cannot open noproject.zob: this is no project file "
-                                            "(file is not a database)");
-    row("snapshots slab.zob bad.json/pictures", "cannot make the folder bad.json/pictures");
-    row("snapshots slab.zob none --pixel-ratio 5",
-        "--pixel-ratio is a number from 1 to 4, not \"5\"", "none");
-}
-
-void TestCommandLine::failures()
-{
-    QFETCH(QString, arguments);
-    QFETCH(QString, message);
-    QFETCH(QString, untouched);
-    const Result result = run(arguments.split(QLatin1Char(' ')));
-    QCOMPARE(result.exitCode, 1);
-    QCOMPARE(result.out, QString());
-    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
-    QVERIFY(result.error.startsWith(QLatin1String("plib_workbench: ")));
-    QCOMPARE(result.error.mid(16).trimmed(), message);
-    if (!untouched.isEmpty())
-        QVERIFY(!QFile::exists(m_folder.filePath(untouched)));
-}
-
-void TestCommandLine::help_data()
-{
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("begins");
-    QTest::newRow("all") << QStringLiteral("--help")
-                         << QStringLiteral("Usage: plib_workbench COMMAND");
-    for (const char* command :
-         {"new", "rows", "script", "catalogue", "tree", "snapshots", "window"})
-        QTest::newRow(command) << QString::fromLatin1(command) + QLatin1String(" --help")
-                               << QLatin1String("Usage: plib_workbench ") + QLatin1String(command) +
-                                      QLatin1String(" [options]");
-}
-
-void TestCommandLine::help()
-{
-    QProcess full;
-    full.setStandardOutputFile(QStringLiteral("/dev/full"));
-    full.start(QStringLiteral(WORKBENCH), {QStringLiteral("new"), QStringLiteral("--help")});
-    QVERIFY(full.waitForFinished());
-    QCOMPARE(full.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(full.exitCode(), 1);
-
-    QFETCH(QString, arguments);
-    QFETCH(QString, begins);
-    const Result result = run(arguments.split(QLatin1Char(' ')));
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.error, QString());
-    QVERIFY2(result.out.startsWith(begins), qPrintable(result.out));
-}
 
 PLIB_TEST_MAIN(TestCommandLine)
 #include "tst_commandLine.moc"
