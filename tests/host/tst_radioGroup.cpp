@@ -157,37 +157,45 @@ private Q_SLOTS:
         // Places in the row.
         const Columns<Form, int, int, QString, QString> row("form", "from", "to", "sent",
                                                             "sentWithoutWidget");
-        row("first", Form::All, -1, 0, "~1 manual ~1", "manual");
-        row("all", Form::All, 0, 1, "~2 ~2 all ~2", "all");
-        row("again", Form::All, 1, 1, "~2", "");
-        row("manual", Form::LoadCases, 7, 0, "~1 ~1 manual =1 ~1", "manual =1");
-        row("accidental", Form::LoadCases, 0, 1, "~3 ~3 accidental =3 ~3", "accidental =3");
-        row("fire", Form::LoadCases, 0, 2, "~4 ~4 fire =4 ~4", "fire =4");
-        row("earthquake", Form::LoadCases, 0, 3, "~5 ~5 earthquake =5 ~5", "earthquake =5");
-        row("characteristic", Form::LoadCases, 0, 4, "~6 ~6 =6 ~6", "=6");
-        row("frequent", Form::LoadCases, 0, 5, "~7 ~7 =7 ~7", "=7");
-        row("quasi-permanent", Form::LoadCases, 0, 6, "~8 ~8 =8 ~8", "=8");
-        row("non-frequent", Form::LoadCases, -1, 7, "~9 =9 ~9", "=9");
-        row("no text", Form::Echo, 0, 1, "", "");
-        row("full text", Form::Echo, 1, 2, "", "");
+        row("m_Manually, first", Form::All, -1, 0, "~1 manual ~1", "manual");
+        row("m_All", Form::All, 0, 1, "~2 ~2 all ~2", "all");
+        row("m_All, again", Form::All, 1, 1, "~2", "");
+        row("m_Manually", Form::LoadCases, 7, 0, "~1 ~1 manual =1 ~1", "manual =1");
+        row("m_All_A", Form::LoadCases, 0, 1, "~3 ~3 accidental =3 ~3", "accidental =3");
+        row("m_All_F", Form::LoadCases, 0, 2, "~4 ~4 fire =4 ~4", "fire =4");
+        row("m_All_E", Form::LoadCases, 0, 3, "~5 ~5 earthquake =5 ~5", "earthquake =5");
+        row("m_All_RARE", Form::LoadCases, 0, 4, "~6 ~6 =6 ~6", "=6");
+        row("m_All_FREQ", Form::LoadCases, 0, 5, "~7 ~7 =7 ~7", "=7");
+        row("m_All_PERM", Form::LoadCases, 0, 6, "~8 ~8 =8 ~8", "=8");
+        row("m_All_NONF", Form::LoadCases, -1, 7, "~9 =9 ~9", "=9");
+        row("m_NoTextOutput", Form::Echo, 0, 1, "", "");
+        row("m_All, echo", Form::Echo, 1, 2, "", "");
     }
 
+    /// The name of the row begins with that of the button in the kept text.
     void clicks()
     {
         QFETCH(const Form, form);
         QFETCH(const int, from);
         QFETCH(const int, to);
+        const QString name = QString::fromLatin1(QTest::currentDataTag());
         for (bool coupled : {true, false}) {
-            Desk desk(form);
+            Desk desk(form), again(form);
             if (from >= 0)
                 desk.button(from)->click();
             desk.group->useWidget(coupled ? desk.plain : nullptr);
             desk.signalsSent();
             QTest::mouseClick(desk.button(to), Qt::LeftButton, {}, QPoint(8, 8));
             QTEST(desk.signalsSent(), coupled ? "sent" : "sentWithoutWidget");
-            for (int at = 0; at < desk.group->layout()->count() - 1; ++at)
-                QCOMPARE(desk.button(at)->isChecked(), at == to);
-            QCOMPARE(desk.plain->isEnabled(), !coupled || to == 0);
+            QCOMPARE(desk.group->writeXML(),
+                     QLatin1String("checked:") + name.section(QLatin1Char(','), 0, 0));
+            again.group->useWidget(coupled ? again.plain : nullptr);
+            again.group->readXML(desk.group->writeXML());
+            for (const Desk* shown : {&desk, &again}) {
+                for (int at = 0; at < shown->group->layout()->count() - 1; ++at)
+                    QCOMPARE(shown->button(at)->isChecked(), at == to);
+                QCOMPARE(shown->plain->isEnabled(), !coupled || to == 0);
+            }
         }
     }
 
@@ -234,35 +242,6 @@ private Q_SLOTS:
         QCOMPARE(desk.signalsSent(), QStringLiteral("~5 ~5 earthquake =5"));
         desk.group->setEnabledById(Group::All_E, true);
         QVERIFY(desk.button(1)->isEnabled());
-    }
-
-    void keptText_data()
-    {
-        const Columns<Form, int> row("form", "id");
-        row("checked:", Form::All, -1);
-        row("checked:m_All", Form::All, 2);
-        row("checked:m_Manually", Form::LoadCases, 1);
-        row("checked:m_All_A", Form::LoadCases, 3);
-        row("checked:m_All_F", Form::LoadCases, 4);
-        row("checked:m_All_E", Form::LoadCases, 5);
-        row("checked:m_All_RARE", Form::LoadCases, 6);
-        row("checked:m_All_FREQ", Form::LoadCases, 7);
-        row("checked:m_All_PERM", Form::LoadCases, 8);
-        row("checked:m_All_NONF", Form::LoadCases, 9);
-        row("checked:m_NoTextOutput", Form::Echo, 0);
-    }
-
-    void keptText()
-    {
-        QFETCH(const Form, form);
-        QFETCH(const int, id);
-        const Desk desk(form), again(form);
-        desk.group->setSelectedId(Group::ButtonID(id));
-        QCOMPARE(desk.group->writeXML(), QLatin1String(QTest::currentDataTag()));
-        again.group->useWidget(again.plain);
-        again.group->readXML(desk.group->writeXML());
-        QCOMPARE(int(again.group->getSelectedId()), id);
-        QCOMPARE(again.plain->isEnabled(), id == 1);
     }
 
     void textsOfOthers_data()

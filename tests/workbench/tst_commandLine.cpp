@@ -73,6 +73,8 @@ private Q_SLOTS:
         writeFile(path("none.txt"), "Checked:nothing\n");
         QVERIFY(!run("tree slab.zob --selection none.txt").out.contains(QLatin1String("[x]")));
         QCOMPARE(run("script slab.zob --selection none.txt --additional more").out, QString());
+        QCOMPARE(run("tree slab.zob --progname 7").out, // for which there are no plots
+                 QStringLiteral("No Entries in database!\n"));
     }
 
     void settingsChangeTheScript_data()
@@ -92,6 +94,8 @@ private Q_SLOTS:
         row("--set fillAreas=1", "#define FILLI=AREA");
         row("--additional last", "last");
         row("--additional first --progname 222", "first");
+        row("--progname 122 --set pageSplitId=1",
+            "SIZE TYPE \"-URS\" SC 0 SPLI 2X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X1");
     }
 
     /// Arguments are the name of the row.
@@ -112,15 +116,6 @@ private Q_SLOTS:
         QVERIFY(script.contains(QLatin1String("\nLC 41 DESI 41\nCOLO STAN ; COLO C13 -1 ; ")));
         QVERIFY(script.contains(QLatin1String("\nLC 50 DESI 50\n")));
         QVERIFY(!script.contains(QLatin1String("LC 1 ")));
-    }
-
-    void splitPage()
-    {
-        QCOMPARE(
-            run("script building.zob --progname 122 --set pageSplitId=1").out,
-            QStringLiteral("SIZE TYPE \"-URS\" SC 0 SPLI 2X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X1"));
-        QCOMPARE(run("tree building.zob --progname 7").out,
-                 QStringLiteral("No Entries in database!\n"));
     }
 
     void otherShareFolder()
