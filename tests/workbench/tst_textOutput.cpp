@@ -175,10 +175,10 @@ private Q_SLOTS:
         CombinationTable table({{101, title, 2}}, nullptr, "Combinations");
         const int kind = table.kinds().value(101);
         QTEST(kind, "kind");
-        table.setKinds({{101, 4}});
-        QCOMPARE(table.numbersOf(4), QVector<int>{101});
         for (const QMap<int, int>& strange :
              {QMap<int, int>(), {{7, 3}}, {{101, 2}}, {{101, -1}}}) {
+            table.setKinds({{101, 4}});
+            QCOMPARE(table.numbersOf(4), QVector<int>{101});
             table.setKinds(strange);
             QCOMPARE(table.kinds().value(101), kind);
         }
