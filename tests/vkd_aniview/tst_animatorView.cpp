@@ -248,6 +248,13 @@ private Q_SLOTS:
         send(*m_view, QEvent::MouseMove, Left, Qt::NoButton);
         m_view->setPicking(false);
         QCOMPARE(groups(), (Groups{7, AnimatorView::NoGroup}));
+        m_view->setHovering(true);
+        send(*m_view, QEvent::MouseMove, Right, Qt::NoButton);
+        m_view->setPicking(true);
+        m_view->setPicking(false);
+        send(*m_view, QEvent::MouseMove, Left, Qt::NoButton);
+        m_view->setHovering(false);
+        QCOMPARE(groups(), (Groups{8, AnimatorView::NoGroup, 7, AnimatorView::NoGroup}));
     }
 
     void noModel()

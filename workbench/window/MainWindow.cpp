@@ -147,6 +147,7 @@ void MainWindow::connectPanes()
 {
     connect(m_groups, &GroupList::groupPointed, m_view, &AnimatorView::setHighlightedGroup);
     connect(m_groups, &GroupList::groupChosen, this, &MainWindow::chooseGroup);
+    m_view->setHovering(true);
     connect(m_view, &AnimatorView::groupHovered, m_groups, &GroupList::setMarkedGroup);
     connect(m_view, &AnimatorView::pickedGroupsChanged, this, &MainWindow::showPicked);
     connect(m_banner, &PickBanner::done, this, [this] {

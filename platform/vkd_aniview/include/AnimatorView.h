@@ -42,6 +42,9 @@ public:
     bool isPicking() const;
     void setPicking(bool picking);
 
+    /// Whether groups light up below the mouse also when nobody picks; at first they do not.
+    void setHovering(bool hovering);
+
     /// Ascending, each once; also those that the model lacks. Setting them emits no signal.
     std::vector<int> pickedGroups() const;
     void setPickedGroups(const std::vector<int>& groups);
@@ -58,7 +61,7 @@ public Q_SLOTS:
     void slotViewControl(AnimatorViewControl control, double value);
 
 Q_SIGNALS:
-    /// While picking, the group that came below the mouse, or NoGroup.
+    /// While picking or hovering, the group that came below the mouse, or NoGroup.
     void groupHovered(int group);
     /// The user picked a group or dropped one.
     void pickedGroupsChanged();
@@ -93,12 +96,15 @@ private:
     void drag(const QPoint& by);
     void endDrag();
     void click(const QPoint& place);
+    void hoverAt(const QPointF& place);
     void hover(int group);
+    bool isHovering() const;
     void updateCursor();
     bool moveByKey(int key, bool shift);
     bool turnOrPanByKey(int key, bool pan);
 
     int m_index;
+    bool m_hovers = false; // also when nobody picks
     std::unique_ptr<vkd::aniview::SceneView> m_scene;
     std::unique_ptr<vkd::aniview::ScenePainter> m_painter;
     std::unique_ptr<vkd::aniview::GroupMarks> m_marks;

@@ -69,10 +69,18 @@ void AnimatorView::setPicking(bool picking)
     if (!m_marks->setPicking(picking))
         return;
     endDrag();
-    setMouseTracking(picking);
+    setMouseTracking(isHovering());
     hover(NoGroup);
     setTexts();
     showMarks();
+}
+
+void AnimatorView::setHovering(bool hovering)
+{
+    m_hovers = hovering;
+    setMouseTracking(isHovering());
+    if (!isHovering())
+        hover(NoGroup);
 }
 
 std::vector<int> AnimatorView::pickedGroups() const
@@ -168,8 +176,7 @@ void AnimatorView::mouseDoubleClickEvent(QMouseEvent* event)
 void AnimatorView::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_hand == Hand::Free) {
-        if (isPicking())
-            hover(m_scene->groupAt(event->localPos()));
+        hoverAt(event->localPos());
         return;
     }
     const int way = (event->pos() - m_pressed).manhattanLength();
@@ -203,8 +210,7 @@ void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
     endDrag();
     if (picks)
         click(event->pos());
-    if (isPicking())
-        hover(rect().contains(event->pos()) ? m_scene->groupAt(event->localPos()) : NoGroup);
+    hoverAt(event->localPos());
 }
 
 void AnimatorView::paintEvent(QPaintEvent*)
@@ -326,6 +332,12 @@ void AnimatorView::click(const QPoint& place)
     Q_EMIT pickedGroupsChanged();
 }
 
+void AnimatorView::hoverAt(const QPointF& place)
+{
+    if (isHovering())
+        hover(rect().contains(place.toPoint()) ? m_scene->groupAt(place) : NoGroup);
+}
+
 void AnimatorView::hover(int group)
 {
     if (!m_marks->setHovered(group))
@@ -333,6 +345,11 @@ void AnimatorView::hover(int group)
     updateCursor();
     showMarks();
     Q_EMIT groupHovered(group);
+}
+
+bool AnimatorView::isHovering() const
+{
+    return isPicking() || m_hovers;
 }
 
 void AnimatorView::updateCursor()
