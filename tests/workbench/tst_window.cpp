@@ -84,6 +84,8 @@ private Q_SLOTS:
         whenModal([](QWidget* dialog) {
             find<QPushButton>(*dialog, "btnNew")->click();
             auto table = find<QTableWidget>(*dialog, "table");
+            const QRect row = table->visualItemRect(table->item(table->rowCount() - 1, 0));
+            QVERIFY(table->viewport()->rect().contains(row));
             table->setCurrentCell(table->rowCount() - 1, 0);
             whenModal([](QWidget* groups) { find<QPushButton>(*groups, "pick")->click(); });
             find<QPushButton>(*table, "buttonGroups")->click();

@@ -216,7 +216,7 @@ void DesignParameter::slot_newRowClicked()
     const int row = data->table->rowCount() - 1;
     drawRow(plib::addDefaultRow(*data), row, true);
     data->table->fitRow(row);
-    data->table->scrollToItem(data->table->item(row, 0));
+    data->table->bringIntoView(row);
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
 

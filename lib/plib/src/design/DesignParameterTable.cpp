@@ -32,6 +32,14 @@ void DesignParameterTable::fitRows()
         resizeRowsToContents();
 }
 
+/// The table otherwise learns only later that a row that was just added makes it longer.
+void DesignParameterTable::bringIntoView(int row)
+{
+    executeDelayedItemsLayout();
+    updateGeometries();
+    scrollToItem(item(row, 0));
+}
+
 void DesignParameterTable::contextMenuEvent(QContextMenuEvent*)
 {
     VKD_QT_Menu* menu = getContextMenu();

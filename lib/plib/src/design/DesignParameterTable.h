@@ -25,6 +25,8 @@ public:
     /// In a very long table rows keep the height that the longest texts need.
     void fitRow(int row);
     void fitRows();
+    /// Scrolls so that a row is seen, one that was just added, too.
+    void bringIntoView(int row);
 
 Q_SIGNALS:
     void signal_newClicked();
