@@ -119,7 +119,7 @@ QWidget* OutputDialog::newContentTab()
     m_contents->setButton(0);
     auto layout = new QVBoxLayout(tab);
     layout->addWidget(m_contents);
-    layout->addStretch();
+    layout->addStretch(1);
     return tab;
 }
 
