@@ -81,16 +81,18 @@ private Q_SLOTS:
         const auto window = open("pick.zob");
         auto records = find<QTableWidget>(*window, "Records");
         QCOMPARE(records->rowCount(), 53);
-        whenModal([](QWidget* dialog) {
+        bool isNewRowSeen = false;
+        whenModal([&isNewRowSeen](QWidget* dialog) {
             find<QPushButton>(*dialog, "btnNew")->click();
             auto table = find<QTableWidget>(*dialog, "table");
             const QRect row = table->visualItemRect(table->item(table->rowCount() - 1, 0));
-            QVERIFY(table->viewport()->rect().contains(row));
+            isNewRowSeen = table->viewport()->rect().contains(row);
             table->setCurrentCell(table->rowCount() - 1, 0);
             whenModal([](QWidget* groups) { find<QPushButton>(*groups, "pick")->click(); });
             find<QPushButton>(*table, "buttonGroups")->click();
         });
         trigger(*window, "Design");
+        QVERIFY(isNewRowSeen);
         auto banner = find<QWidget>(*window, "PickBanner");
         QVERIFY(banner->isVisible());
         QVERIFY(!window->close()); // the dialog is not done
