@@ -23,6 +23,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QSaveFile>
@@ -136,6 +137,8 @@ void MainWindow::showOutput()
 {
     if (!output())
         return;
+    if (!m_output->testAttribute(Qt::WA_Moved)) // beside the script, which follows each click
+        m_output->move(mapToGlobal(m_groupDock->pos()));
     m_output->show();
     m_output->raise();
     m_output->activateWindow();
