@@ -81,7 +81,7 @@ void showWindow(benchmark::State& state, const Make& make)
 
 std::unique_ptr<workbench::MainWindow> newWindow()
 {
-    auto window = std::make_unique<workbench::MainWindow>(workbench::MainWindow::ProjectMaker());
+    auto window = std::make_unique<workbench::MainWindow>(workbench::WindowServices());
     window->show();
     return window;
 }

@@ -22,6 +22,8 @@ using testsupport::writeFile;
 /// What the program prints with these arguments.
 QByteArray commandLine(const QStringList& arguments);
 QString makeProject(const QString& path, const QString& model);
+/// Of the window, by the command line.
+workbench::WindowServices services();
 QString script(const QWidget& window);
 
 void press(QWidget* box, QMessageBox::StandardButton button);

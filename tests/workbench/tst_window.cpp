@@ -10,6 +10,22 @@
 using namespace windowtest;
 using workbench::MainWindow;
 
+namespace {
+/// As the command line prints it.
+QString treeText(QTreeWidget* tree)
+{
+    QString text;
+    for (QTreeWidgetItemIterator item(tree); *item; ++item) {
+        for (const QTreeWidgetItem* above = (*item)->parent(); above; above = above->parent())
+            text += QLatin1String("  ");
+        text += QStringLiteral("[%1] %2\n")
+                    .arg(QLatin1Char(" -x"[(*item)->checkState(0)]))
+                    .arg((*item)->text(0));
+    }
+    return text;
+}
+} // namespace
+
 class tst_window : public ProjectTest
 {
     Q_OBJECT
@@ -29,7 +45,7 @@ private Q_SLOTS:
         QFETCH(const QString, desktop);
         QFETCH(const QString, keywords);
         const QString project = path("new.zob");
-        MainWindow window(makeProject);
+        MainWindow window(services());
         window.show();
         trigger(window, qPrintable(desktop));
         QTRY_COMPARE(window.findChild<QAction*>(QStringLiteral("Open"))->text(),
@@ -71,9 +87,28 @@ private Q_SLOTS:
             QVERIFY(!window->isWindowModified());
             QCOMPARE(script(*window), isKept ? chosen : proposed);
         }
-        MainWindow again(makeProject);
+        MainWindow again(services());
         QVERIFY(again.openProject(path("kept.zob")));
         QTRY_COMPARE(script(again), chosen);
+    }
+
+    /// Also when the tree is filled anew, as it is by a click in the table of load cases.
+    void plotsFollowTheLanguage()
+    {
+        const auto window = open("names.zob");
+        trigger(*window, "Output");
+        for (const char* language : {"German", "English", "German"}) {
+            trigger(*window, language);
+            const auto dialog = find<QDialog>(*window, "OutputDialog");
+            auto check = dialog->findChild<QTableWidget*>()->item(0, 1);
+            for (const Qt::CheckState state : {Qt::Unchecked, Qt::Checked})
+                check->setCheckState(state);
+            const QString expected = QString::fromUtf8(commandLine(
+                {QStringLiteral("tree"), path("names.zob"), QStringLiteral("--language"),
+                 QString::fromLatin1(language).toLower()}));
+            QVERIFY(expected.size() > 1000);
+            QTRY_COMPARE(treeText(dialog->findChild<QTreeWidget*>()), expected);
+        }
     }
 
     void pickingInTheView()
@@ -126,7 +161,7 @@ private Q_SLOTS:
     void writeProtectedProject()
     {
         QFile::setPermissions(copy("protected.zob"), QFile::ReadOwner);
-        MainWindow window(makeProject);
+        MainWindow window(services());
         window.show();
         QVERIFY(window.openProject(path("protected.zob")));
         QTRY_VERIFY(!script(window).isEmpty());

@@ -95,7 +95,7 @@ private Q_SLOTS:
             QVERIFY(find<QDialog>(*window, dialog)->isVisible());
         QVERIFY(!window->isWindowModified());
         QTRY_COMPARE(script(*window), chosen);
-        MainWindow again(makeProject);
+        MainWindow again(services());
         QVERIFY(again.openProject(path(opened)));
         QTRY_COMPARE(script(again), chosen);
         trigger(again, "TextOutput");
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QVERIFY(!window->openProject(path("8.zob")));
         expected.removeOne(path("8.zob"));
         QCOMPARE(recentFiles(*window), expected);
-        QCOMPARE(recentFiles(MainWindow(makeProject)), expected);
+        QCOMPARE(recentFiles(MainWindow(services())), expected);
     }
 
     void drops_data()
@@ -246,7 +246,7 @@ private Q_SLOTS:
             });
             press(box, QMessageBox::Ok);
         });
-        QCOMPARE(workbench::runWindow(path("missing.zob"), makeProject), 0);
+        QCOMPARE(workbench::runWindow(path("missing.zob"), services()), 0);
         QVERIFY(isTold);
         testsupport::setLanguage(testsupport::English);
         const auto look = [&] {
@@ -262,7 +262,7 @@ private Q_SLOTS:
             look();
             shownWindow()->close();
         });
-        QCOMPARE(workbench::runWindow(QString(), makeProject), 0);
+        QCOMPARE(workbench::runWindow(QString(), services()), 0);
     }
 };
 

@@ -219,7 +219,7 @@ private Q_SLOTS:
         });
         QCOMPARE(window->close(), isClosed);
         QCOMPARE(window->isVisible(), !isClosed);
-        MainWindow other(makeProject);
+        MainWindow other(services());
         QVERIFY(other.openProject(path("leaving.zob")));
         QTRY_VERIFY(!script(other).isEmpty());
         QTEST(script(other) == chosen, "isStored");

@@ -2,12 +2,25 @@
 
 #include "CommandLine.h"
 #include "newProject.h"
+#include "plotTitles.h"
 
 #include <runWindow.h>
 #include <vkd_lib_value.h>
 #include <WindowSettings.h>
 
 namespace workbench {
+
+namespace {
+QString makeProject(const QString& path, const QString& model)
+{
+    try {
+        newProject(path, model);
+        return QString();
+    } catch (const CommandError& error) {
+        return error.text;
+    }
+}
+} // namespace
 
 int windowCommand(const QStringList& arguments)
 {
@@ -18,14 +31,7 @@ int windowCommand(const QStringList& arguments)
     applyLanguage(line);
     if (line.has("language")) // else the window's own one of the last time
         WindowSettings().setLanguage(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
-    return runWindow(line.argument(0), [](const QString& path, const QString& model) {
-        try {
-            newProject(path, model);
-            return QString();
-        } catch (const CommandError& error) {
-            return error.text;
-        }
-    });
+    return runWindow(line.argument(0), {makeProject, plotTitles});
 }
 
 } // namespace workbench

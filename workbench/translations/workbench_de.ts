@@ -311,8 +311,8 @@
         <translation>Das Skript ist in %1 gespeichert.</translation>
     </message>
     <message>
-        <source>The texts are in English now. The plots follow at the next start.</source>
-        <translation>Die Texte sind jetzt deutsch. Die Bilder folgen beim nächsten Start.</translation>
+        <source>The texts are in English now.</source>
+        <translation>Die Texte sind jetzt deutsch.</translation>
     </message>
     <message>
         <source>The help is not installed.</source>

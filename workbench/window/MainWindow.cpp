@@ -39,9 +39,9 @@ const QString GeometryKey = QStringLiteral("geometry");
 const QString StateKey = QStringLiteral("state");
 } // namespace
 
-MainWindow::MainWindow(ProjectMaker maker, QWidget* parent)
+MainWindow::MainWindow(WindowServices services, QWidget* parent)
     : QMainWindow(parent)
-    , m_maker(std::move(maker))
+    , m_services(std::move(services))
     , m_actions(new WindowActions(this))
     , m_groups(new GroupList(this))
     , m_banner(new PickBanner(this))
@@ -163,7 +163,11 @@ void MainWindow::connectPanes()
     connect(m_script, &ScriptPane::copyWanted, this, &MainWindow::copyScript);
     connect(m_script, &ScriptPane::saveWanted, this, &MainWindow::saveScript);
     connect(m_sheet, &SheetPreview::exportWanted, this, &MainWindow::exportSheet);
-    connect(m_sheetDock, &QDockWidget::visibilityChanged, this, &MainWindow::refreshSheet);
+    // Behind another dock it still counts as visible to Qt, and is none the less not to be seen.
+    connect(m_sheetDock, &QDockWidget::visibilityChanged, this, [this](bool seen) {
+        m_isSheetSeen = seen;
+        refreshSheet();
+    });
 }
 
 void MainWindow::changeEvent(QEvent* event)

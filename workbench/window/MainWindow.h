@@ -1,11 +1,12 @@
 #pragma once
 
+#include "PlotNames.h"
+
 #include <SheetPlan.h>
 #include <vkd_zob.h>
 
 #include <QMainWindow>
 
-#include <functional>
 #include <memory>
 
 class AnimatorView;
@@ -38,11 +39,7 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Makes a project file, which does not exist yet, from the name of a sample or a model file.
-    /// The result is why it cannot be made, empty if it was.
-    using ProjectMaker = std::function<QString(const QString& path, const QString& model)>;
-
-    explicit MainWindow(ProjectMaker maker, QWidget* parent = nullptr);
+    explicit MainWindow(WindowServices services, QWidget* parent = nullptr);
     ~MainWindow() override;
 
     /// Opens a project in place of the present one. If it cannot be opened, the user is told, and
@@ -99,6 +96,7 @@ private:
     /// Made when it is first asked for; null, after a word with the user, if the project cannot be
     /// read for it.
     OutputDialog* output();
+    PlotNames plotNames() const;
     void makeOutput(const OutputState& state);
     void showOutput();
     bool storeOutput();
@@ -124,7 +122,7 @@ private:
     void showHelp();
     void showAbout();
 
-    ProjectMaker m_maker;
+    WindowServices m_services;
     std::unique_ptr<VKD_H_ZOBDoc> m_document;
     WindowActions* m_actions;
     // The panes in the order of Tab, which is column by column.
@@ -139,6 +137,7 @@ private:
     QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;
     QLabel* m_contents;
+    bool m_isSheetSeen = false;
     bool m_isProjectToShow = false;         // behind the next painting
     std::unique_ptr<DesignDialog> m_design; // while it is open or away for picking
     std::unique_ptr<OutputDialog> m_output;

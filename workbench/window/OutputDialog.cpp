@@ -38,16 +38,14 @@ QString rowName(const vkd::dbo::LoadCase& loadCase)
     return loadCase.title.isEmpty() ? number : number + QLatin1String(": ") + loadCase.title;
 }
 
-/// The catalogue is kept for the life of the process with the captions of its plots, and once read
-/// in two languages it offers each plot twice. So every page finds the language of the first one
-/// when it is made; the icons of its rows change, since offering the load cases fills the tree once
-/// more.
+/// A page that found another language than the first one would read the catalogue once more and
+/// offer each plot twice. The icons of its rows change all the same, since offering the load cases
+/// fills the tree once more.
 VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
                                      AnimatorView* view)
 {
-    static const int first = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
     const int present = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, first);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, OutputDialog::plotLanguage());
     auto page =
         new VKD_P_WidgetGraphicalOutput(parent, VKD_P_GraphicalOutput_Standard, parameter, view);
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, present);
@@ -63,12 +61,20 @@ QLabel* newHint(const QString& text)
 }
 } // namespace
 
-OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, QWidget* parent)
+int OutputDialog::plotLanguage()
+{
+    static const int first = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    return first;
+}
+
+OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, PlotNames names,
+                           QWidget* parent)
     : VKD_H_TabDialog(parent, "OutputDialog")
     , m_document(document)
     , m_parameter(document)
     , m_view(new AnimatorView(document->index(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
+    , m_names(std::move(names))
 {
     setWindowTitle(tr("Graphical output"));
     setModal(false);
@@ -77,6 +83,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, QWid
     connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
     addTabs();
     restore(kept);
+    namePlots();
     listen();
     setUnchanged();
 }
@@ -166,11 +173,13 @@ void OutputDialog::listen()
         connect(combo, &QComboBox::currentTextChanged, this, start);
     for (const auto edit : findChildren<QLineEdit*>())
         connect(edit, &QLineEdit::textChanged, this, start);
-    for (const auto tree : m_page->findChildren<QTreeWidget*>()) {
-        connect(tree->model(), &QAbstractItemModel::dataChanged, this, start);
-        connect(tree->model(), &QAbstractItemModel::rowsInserted, this, start);
-        connect(tree->model(), &QAbstractItemModel::modelReset, this, start);
-    }
+    const QAbstractItemModel* plots = m_page->findChild<QTreeWidget*>()->model();
+    connect(plots, &QAbstractItemModel::dataChanged, this, start);
+    connect(plots, &QAbstractItemModel::modelReset, this, start);
+    connect(plots, &QAbstractItemModel::rowsInserted, this, start);
+    connect(plots, &QAbstractItemModel::modelReset, this, [this] { m_arePlotsToName = true; });
+    connect(plots, &QAbstractItemModel::rowsInserted, this, &OutputDialog::namePlots,
+            Qt::QueuedConnection); // once the tree is filled, and before it is painted
     // Behind the binding, which has connected itself to the table before.
     connect(m_loadCases, &QTableWidget::itemChanged, this, [this, start] {
         offerLoadCases();
@@ -204,8 +213,18 @@ QString OutputDialog::script(bool english)
     return m_page->getTORVAL(english);
 }
 
-QVector<PlotCaption> OutputDialog::captions() const
+/// The tree is filled anew whenever something else is offered.
+void OutputDialog::namePlots()
 {
+    if (!m_arePlotsToName)
+        return;
+    m_arePlotsToName = false;
+    m_names.apply(m_page->findChild<QTreeWidget*>());
+}
+
+QVector<PlotCaption> OutputDialog::captions()
+{
+    namePlots();
     return plotCaptions(*m_page->findChild<QTreeWidget*>());
 }
 

@@ -2,6 +2,7 @@
 
 #include "OutputState.h"
 #include "plotCaptions.h"
+#include "PlotNames.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
@@ -27,14 +28,20 @@ class OutputDialog : public VKD_H_TabDialog
     Q_OBJECT
 
 public:
-    /// Shows `state`. `document` is not owned and outlives the dialog.
-    OutputDialog(VKD_H_ZOBDoc* document, const OutputState& state, QWidget* parent);
+    /// The language in which every page of the process is filled with plots, as setting 102 has it:
+    /// that of the first call.
+    static int plotLanguage();
+
+    /// Shows `state`. `document` is not owned and outlives the dialog. `names` are those of the
+    /// plots from plotLanguage() into the present language.
+    OutputDialog(VKD_H_ZOBDoc* document, const OutputState& state, PlotNames names,
+                 QWidget* parent);
     ~OutputDialog() override;
 
     /// The script of the present choice with English or German keywords, empty without a plot.
     QString script(bool english);
     /// What the script draws, as it is called in the tree of the page.
-    QVector<PlotCaption> captions() const;
+    QVector<PlotCaption> captions();
     /// For the project to keep.
     OutputState state();
     /// Whether the user changed anything since the dialog was made or setUnchanged() was called.
@@ -55,6 +62,7 @@ private:
     QWidget* newContentTab();
     void restore(const OutputState& state);
     void offerLoadCases();
+    void namePlots();
     void listen();
     bool showsUsersView() const;
     QString fingerprint();
@@ -67,6 +75,8 @@ private:
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
     VKD_P_WidgetGraphicalOutput_TableWidgetData m_tableBinding;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
+    PlotNames m_names;
+    bool m_arePlotsToName = true; // since the tree was filled
     QTimer m_changes;
     QString m_unchanged;
 };

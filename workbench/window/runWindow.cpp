@@ -10,12 +10,12 @@
 
 namespace workbench {
 
-int runWindow(const QString& path, MainWindow::ProjectMaker maker)
+int runWindow(const QString& path, WindowServices services)
 {
     const int language = WindowSettings().language(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
     VKD_QT_InitTranslator::languageChanged();
-    MainWindow window(std::move(maker));
+    MainWindow window(std::move(services));
     window.show();
     if (!path.isEmpty()) // behind the first painting, which a message box would hold up
         QTimer::singleShot(0, &window, [&window, path] { window.openProject(path); });

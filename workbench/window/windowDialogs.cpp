@@ -117,10 +117,20 @@ OutputDialog* MainWindow::output()
     return m_output.get();
 }
 
+/// From the language of the catalogue into the present one.
+PlotNames MainWindow::plotNames() const
+{
+    const int catalogue = OutputDialog::plotLanguage();
+    const int present = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    if (catalogue == present || !m_services.plotTitles)
+        return PlotNames();
+    return PlotNames(m_services.plotTitles(catalogue), m_services.plotTitles(present));
+}
+
 void MainWindow::makeOutput(const OutputState& state)
 {
     const WaitCursor cursor;
-    m_output = std::make_unique<OutputDialog>(m_document.get(), state, this);
+    m_output = std::make_unique<OutputDialog>(m_document.get(), state, plotNames(), this);
     connect(m_output.get(), &OutputDialog::choiceChanged, this, &MainWindow::refreshScript);
     connect(m_output.get(), &QDialog::accepted, this, [this] {
         if (!storeOutput())
@@ -234,7 +244,7 @@ void MainWindow::setLanguage(int language)
         m_output->show();
     }
     refreshScript();
-    say(tr("The texts are in English now. The plots follow at the next start."));
+    say(tr("The texts are in English now."));
 }
 
 void MainWindow::showHelp()

@@ -67,7 +67,7 @@ bool MainWindow::makeProject(const QString& path, const QString& model)
     QString trouble;
     {
         const WaitCursor cursor;
-        trouble = m_maker(unfinished, model);
+        trouble = m_services.makeProject(unfinished, model);
     }
     if (!trouble.isEmpty())
         complain(tr("The project cannot be made.\n%1").arg(trouble));

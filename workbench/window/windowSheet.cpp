@@ -20,7 +20,7 @@ namespace workbench {
 SheetPlan MainWindow::newSheetPlan()
 {
     SheetPlan plan = readSheetPlan(m_script->script());
-    const OutputDialog* dialog = output(); // none while the project cannot be read
+    OutputDialog* dialog = output(); // none while the project cannot be read
     if (!dialog || !setCaptions(&plan, dialog->captions())) {
         QHash<int, QString> titles;
         for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index()))
@@ -33,7 +33,7 @@ SheetPlan MainWindow::newSheetPlan()
 /// Nobody sees a preview that is closed or behind another one.
 void MainWindow::refreshSheet()
 {
-    if (m_document && m_output && m_sheetDock->isVisible())
+    if (m_document && m_output && m_isSheetSeen)
         m_sheet->setPlan(newSheetPlan());
 }
 
