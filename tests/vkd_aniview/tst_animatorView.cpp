@@ -283,7 +283,14 @@ private Q_SLOTS:
         m_view->reload();
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
-        m_view->setProject(-1);
+        model.quads.clear();
+        model.nodes.resize(2000);
+        QVERIFY(storeModel(m_project->index(), model));
+        QVERIFY(!m_view->setProject(m_project->index(), [](int) { return false; }));
+        drag(*m_view, {Left}); // it still shows what it did
+        QCOMPARE(m_view->pickedGroups(), Groups{7});
+        QVERIFY(m_view->setProject(-1));
+        m_view->setPickedGroups({7, 70});
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
     }

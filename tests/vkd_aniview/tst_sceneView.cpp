@@ -54,7 +54,7 @@ Model storey()
 SceneView viewOf(const Model& model, const Position& eye)
 {
     SceneView view;
-    view.setGeometry(buildGeometry(model));
+    view.setGeometry(std::make_shared<ModelGeometry>(buildGeometry(model)));
     view.setSize({856, 656}); // less a margin of 28, 800 by 600
     view.setCamera(lookingFrom(eye));
     return view;

@@ -168,6 +168,24 @@ private Q_SLOTS:
         vkd_zob_close(index);
     }
 
+    void cancelledWorkLeavesTheOldModel()
+    {
+        const VkdGoOn no = [](int) { return false; };
+        const Model old = shipped("slab");
+        QVERIFY(storeModel(m_index, old));
+        QVERIFY(!storeModel(m_index, shipped("hall"), no));
+        QVERIFY(readModel(m_index) == old);
+        QVERIFY(storeModel(m_index, shipped("hall"), [](int percent) { return percent <= 100; }));
+        QVERIFY(!(readModel(m_index, no) == shipped("hall")));
+        int index = -1;
+        QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index, no), int(VKD_ZOB_CANCELLED));
+        Model model;
+        QString error;
+        const auto file = vkd_lib_searchpath("models/hall.json", 3);
+        QVERIFY(!readModelFile(QString::fromStdString(*file), 0, &model, &error, no));
+        QCOMPARE(error, QString());
+    }
+
     void damagedRecordIsLeftOut_data()
     {
         const Columns<int, QByteArray> row("key1", "record");

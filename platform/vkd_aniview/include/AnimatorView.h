@@ -3,6 +3,8 @@
 #include "AnimatorViewControl.h"
 #include "vkd_aniview_export.h"
 
+#include <vkd_progress.h>
+
 #include <QTimer>
 #include <QWidget>
 
@@ -32,8 +34,9 @@ public:
     explicit AnimatorView(int index, QWidget* parent = nullptr, const char* name = "AnimatorView");
     ~AnimatorView() override;
 
-    /// Changes to another project, or to none, and reads its model; the camera stays.
-    void setProject(int index);
+    /// Changes to another project, or to none, and reads its model; the camera stays. False if
+    /// `goOn` answered false, and the view shows what it showed before.
+    bool setProject(int index, const VkdGoOn& goOn = VkdGoOn());
     /// Reads the model again; camera and picked groups stay.
     void reload();
 

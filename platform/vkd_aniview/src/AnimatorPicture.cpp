@@ -1,8 +1,8 @@
 #include "AnimatorPicture.h"
 
-#include "GeometryBuilder.h"
 #include "ScenePainter.h"
 #include "SceneView.h"
+#include "sharedGeometry.h"
 #include "symbols.h"
 
 #include <QPainter>
@@ -45,8 +45,7 @@ AnimatorPicture::AnimatorPicture(int index)
     : m_scene(std::make_unique<SceneView>())
     , m_painter(std::make_unique<ScenePainter>())
 {
-    if (index > 0)
-        m_scene->setGeometry(buildGeometry(vkd::dbo::readModel(index)));
+    m_scene->setGeometry(sharedGeometry(index));
 }
 
 AnimatorPicture::~AnimatorPicture() = default;

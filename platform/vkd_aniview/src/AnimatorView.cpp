@@ -3,10 +3,10 @@
 #include "GroupMarks.h"
 #include "ScenePainter.h"
 #include "SceneView.h"
+#include "sharedGeometry.h"
 #include "symbols.h"
 
 #include <vkd_dbo_camera.h>
-#include <vkd_dbo_model.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -44,19 +44,22 @@ AnimatorView::AnimatorView(int index, QWidget* parent, const char* name)
 
 AnimatorView::~AnimatorView() = default;
 
-void AnimatorView::setProject(int index)
+bool AnimatorView::setProject(int index, const VkdGoOn& goOn)
 {
+    auto geometry = sharedGeometry(index, goOn);
+    if (!geometry)
+        return false;
     m_index = index;
-    reload();
+    m_scene->setGeometry(std::move(geometry));
+    hover(NoGroup);
+    updateCursor();
+    showMarks();
+    return true;
 }
 
 void AnimatorView::reload()
 {
-    m_scene->setGeometry(m_index > 0 ? buildGeometry(vkd::dbo::readModel(m_index))
-                                     : ModelGeometry());
-    hover(NoGroup);
-    updateCursor();
-    showMarks();
+    setProject(m_index);
 }
 
 bool AnimatorView::isPicking() const

@@ -12,7 +12,7 @@ namespace {
 constexpr double SymbolRoom = 12.0; // symbols reach out of the points that they stand at
 }
 
-void SceneView::setGeometry(ModelGeometry geometry)
+void SceneView::setGeometry(std::shared_ptr<const ModelGeometry> geometry)
 {
     m_geometry = std::move(geometry);
     m_isCurrent = false;
@@ -39,22 +39,22 @@ void SceneView::showAll()
 
 void SceneView::turn(double right, double down)
 {
-    setCamera(turnedInPicture(m_camera, m_geometry.box, m_size, right, down));
+    setCamera(turnedInPicture(m_camera, m_geometry->box, m_size, right, down));
 }
 
 void SceneView::pan(const QPointF& by)
 {
-    setCamera(panned(m_camera, m_geometry.box, m_size, by));
+    setCamera(panned(m_camera, m_geometry->box, m_size, by));
 }
 
 void SceneView::zoom(double factor, const QPointF& at)
 {
-    setCamera(zoomed(m_camera, m_geometry.box, m_size, factor, at));
+    setCamera(zoomed(m_camera, m_geometry->box, m_size, factor, at));
 }
 
 Projection SceneView::projection() const
 {
-    return {m_camera, m_geometry.box, m_size};
+    return {m_camera, m_geometry->box, m_size};
 }
 
 const Picture& SceneView::picture()
@@ -62,7 +62,7 @@ const Picture& SceneView::picture()
     if (!m_isCurrent) {
         const QRectF visible =
             QRectF(QPointF(), m_size).adjusted(-SymbolRoom, -SymbolRoom, SymbolRoom, SymbolRoom);
-        m_picture.update(m_geometry, projection(), visible);
+        m_picture.update(*m_geometry, projection(), visible);
     }
     m_isCurrent = true;
     return m_picture;
@@ -70,8 +70,8 @@ const Picture& SceneView::picture()
 
 int SceneView::groupAt(const QPointF& place)
 {
-    const int index = aniview::groupAt(m_geometry, picture(), place);
-    return index < 0 ? GroupMarks::NoGroup : m_geometry.groups[size_t(index)];
+    const int index = aniview::groupAt(*m_geometry, picture(), place);
+    return index < 0 ? GroupMarks::NoGroup : m_geometry->groups[size_t(index)];
 }
 
 } // namespace aniview

@@ -2,6 +2,8 @@
 
 #include "Picture.h"
 
+#include <memory>
+
 namespace vkd {
 namespace aniview {
 
@@ -10,8 +12,8 @@ namespace aniview {
 class SceneView
 {
 public:
-    void setGeometry(ModelGeometry geometry);
-    const ModelGeometry& geometry() const { return m_geometry; }
+    void setGeometry(std::shared_ptr<const ModelGeometry> geometry);
+    const ModelGeometry& geometry() const { return *m_geometry; }
 
     const Camera& camera() const { return m_camera; }
     void setCamera(const Camera& camera);
@@ -29,7 +31,7 @@ public:
     int groupAt(const QPointF& place);
 
 private:
-    ModelGeometry m_geometry;
+    std::shared_ptr<const ModelGeometry> m_geometry = std::make_shared<ModelGeometry>();
     Camera m_camera;
     QSizeF m_size{1.0, 1.0};
     Picture m_picture;

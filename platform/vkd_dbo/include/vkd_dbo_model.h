@@ -2,6 +2,9 @@
 
 #include "vkd_dbo_export.h"
 
+#include <vkd_progress.h>
+
+#include <QByteArray>
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -156,15 +159,22 @@ struct Model
 
 /// Reads a model file (JSON, described in share/models/README.md). Titles are taken in the given
 /// language, 0 German or 1 English. If the file cannot be read or says something impossible, false
-/// comes back and `error` is one line that names the place.
-VKD_DBO_EXPORT bool readModelFile(const QString& path, int language, Model* model, QString* error);
+/// comes back and `error` is one line that names the place, or empty if `goOn` answered false.
+VKD_DBO_EXPORT bool readModelFile(const QString& path, int language, Model* model, QString* error,
+                                  const VkdGoOn& goOn = VkdGoOn());
 
 /// Stores the model in the project at this database index, in place of the one it held; either all
-/// of it or nothing. False if the store refused; its log line says why.
-VKD_DBO_EXPORT bool storeModel(int index, const Model& model);
+/// of it or nothing. False if the store refused, its log line says why, or if `goOn` answered
+/// false.
+VKD_DBO_EXPORT bool storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
 
-/// The model of the project, empty where the project holds none.
-VKD_DBO_EXPORT Model readModel(int index);
+/// The model of the project, empty where the project holds none. If `goOn` answered false, it is
+/// that part of the model that was read until then.
+VKD_DBO_EXPORT Model readModel(int index, const VkdGoOn& goOn = VkdGoOn());
+
+/// Some bytes that differ between any two models that were ever stored, and go with a copy of the
+/// project; empty where the project holds no model.
+VKD_DBO_EXPORT QByteArray modelMark(int index);
 
 /// The load cases alone, for those who need no more.
 VKD_DBO_EXPORT QVector<LoadCase> readLoadCases(int index);

@@ -8,7 +8,8 @@
 namespace vkd {
 namespace dbo {
 
-/// What is wrong with a model file and where; thrown inside of the reader only.
+/// What is wrong with a model file and where, or nothing if the caller wants no more; thrown inside
+/// of the reader only.
 struct ModelFileError
 {
     QString text;

@@ -3,11 +3,15 @@
 #include "JsonPlace.h"
 
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
+#include <chrono>
+#include <future>
+#include <numeric>
 
 namespace vkd {
 namespace dbo {
@@ -19,9 +23,10 @@ namespace {
 class ModelFileReader
 {
 public:
-    ModelFileReader(JsonPlace root, int language)
+    ModelFileReader(JsonPlace root, int language, VkdSteps& steps)
         : m_root(std::move(root))
         , m_language(language)
+        , m_steps(steps)
     {
     }
     Model read();
@@ -54,6 +59,7 @@ private:
 
     JsonPlace m_root;
     int m_language;
+    VkdSteps& m_steps;
     Model m_model;
     Numbers m_nodes, m_groups, m_sections, m_points, m_beams, m_quads;
 };
@@ -111,6 +117,8 @@ void ModelFileReader::each(const char* key, QVector<T>& things, ReadOne readOne)
     const QVector<JsonPlace> places = m_root.at(name).list();
     things.reserve(places.size());
     for (const JsonPlace& place : places) {
+        if (!m_steps.next())
+            throw ModelFileError{QString()};
         T thing;
         readOne(place, thing);
         things.append(thing);
@@ -344,9 +352,34 @@ QString lineAndColumn(const QByteArray& bytes, int offset)
         .arg(before.count('\n') + 1)
         .arg(before.size() - before.lastIndexOf('\n'));
 }
+
+int thingsIn(const QJsonObject& root)
+{
+    return std::accumulate(root.begin(), root.end(), 0, [](int sum, const QJsonValue& list) {
+        return sum + list.toArray().size();
+    });
+}
+
+/// In a thread of its own, since nobody can be asked while Qt parses; the text of a large model
+/// takes a second.
+QJsonDocument parse(const QByteArray& bytes, QJsonParseError* problem, const VkdGoOn& goOn)
+{
+    if (!goOn)
+        return QJsonDocument::fromJson(bytes, problem);
+    auto parsing = std::async(
+        std::launch::async, [&bytes, problem] { return QJsonDocument::fromJson(bytes, problem); });
+    bool goesOn = true;
+    while (goesOn && parsing.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready)
+        goesOn = goOn(0);
+    const QJsonDocument document = parsing.get();
+    if (!goesOn)
+        throw ModelFileError{QString()};
+    return document;
+}
 } // namespace
 
-bool readModelFile(const QString& path, int language, Model* model, QString* error)
+bool readModelFile(const QString& path, int language, Model* model, QString* error,
+                   const VkdGoOn& goOn)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -355,16 +388,17 @@ bool readModelFile(const QString& path, int language, Model* model, QString* err
     }
     const QByteArray bytes = file.readAll();
     QJsonParseError problem;
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &problem);
     try {
+        const QJsonDocument document = parse(bytes, &problem, goOn);
         if (problem.error != QJsonParseError::NoError)
             throw ModelFileError{lineAndColumn(bytes, problem.offset) + QLatin1String(": ") +
                                  problem.errorString()};
         const QJsonValue root =
             document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);
-        *model = ModelFileReader(JsonPlace(root, QString()), language).read();
+        VkdSteps steps(goOn, thingsIn(document.object()));
+        *model = ModelFileReader(JsonPlace(root, QString()), language, steps).read();
     } catch (const ModelFileError& wrong) {
-        *error = QStringLiteral("%1: %2").arg(path, wrong.text);
+        *error = wrong.text.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, wrong.text);
         return false;
     }
     return true;

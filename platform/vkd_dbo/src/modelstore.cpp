@@ -32,22 +32,24 @@ SystemInformation readSystem(int index)
 }
 } // namespace
 
-bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records)
+bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records, VkdSteps* steps)
 {
     const int none = 0;
     bool done = vkd_zob_put(index, pair.key1, pair.key2, nullptr, &none, 0) == VKD_ZOB_OK;
     for (const QByteArray& record : records) {
         const int length = record.size();
-        done = done && vkd_zob_put(index, pair.key1, pair.key2, record.constData(), &length, 1) ==
-                           VKD_ZOB_OK;
+        done =
+            done && (!steps || steps->next()) &&
+            vkd_zob_put(index, pair.key1, pair.key2, record.constData(), &length, 1) == VKD_ZOB_OK;
     }
     return done;
 }
 
-void forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit)
+void forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit,
+                   VkdSteps* steps)
 {
     QByteArray buffer(1024, Qt::Uninitialized);
-    for (int position = 0;;) {
+    for (int position = 0; !steps || steps->next();) {
         int length = buffer.size();
         const cd_error_t status =
             vkd_zob_get(index, pair.key1, pair.key2, buffer.data(), &length, position);
@@ -69,8 +71,11 @@ void reportDamagedRecord(int index, KeyPair pair)
               pair.key1, pair.key2);
 }
 
-bool storeModel(int index, const Model& model)
+bool storeModel(int index, const Model& model, const VkdGoOn& goOn)
 {
+    int total = 0;
+    forEachList(model, [&total](KeyPair, const auto& things) { total += things.size(); });
+    VkdSteps steps(goOn, total);
     constexpr KeyPair lock = keys::Lock;
     bool done = vkd_zob_lock_ex(index, lock.key1, lock.key2) == VKD_ZOB_OK;
     // Behind its fields the record bears a mark of its own, because releasing has no result:
@@ -79,21 +84,27 @@ bool storeModel(int index, const Model& model)
     system += QUuid::createUuid().toRfc4122();
     done = done && putRecords(index, keys::System, {system});
     forEachList(model, [&](KeyPair pair, const auto& things) {
-        done = done && putRecords(index, pair, toRecords(things));
+        done = done && putRecords(index, pair, toRecords(things), &steps);
     });
+    if (steps.isStopped())
+        vkd_zob_drop_ex(index);
     vkd_zob_free_ex(index, lock.key1, lock.key2);
-    if (!done)
-        return false;
-    QByteArray stored;
-    forEachRecord(index, keys::System, [&](const QByteArray& bytes) { stored = bytes; });
-    return stored == system;
+    return done && modelMark(index) == system;
 }
 
-Model readModel(int index)
+QByteArray modelMark(int index)
 {
+    QByteArray mark;
+    forEachRecord(index, keys::System, [&mark](const QByteArray& bytes) { mark = bytes; });
+    return mark;
+}
+
+Model readModel(int index, const VkdGoOn& goOn)
+{
+    VkdSteps steps(goOn);
     Model model;
     model.system = readSystem(index);
-    forEachList(model, [&](KeyPair pair, auto& things) { readList(index, pair, things); });
+    forEachList(model, [&](KeyPair pair, auto& things) { readList(index, pair, things, &steps); });
     return model;
 }
 

@@ -3,6 +3,8 @@
 #include "modelkeys.h"
 #include "recordfields.h"
 
+#include <vkd_progress.h>
+
 #include <QVector>
 
 #include <functional>
@@ -10,20 +12,24 @@
 namespace vkd {
 namespace dbo {
 
+// Each record is a step of `steps`, if they are given, and once they are stopped no other follows.
+
 /// Replaces the sequence under the pair; true if the store took all of it.
-bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records);
+bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records,
+                VkdSteps* steps = nullptr);
 
 /// Hands over each record under the pair, in order, from one state of the project.
-void forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit);
+void forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit,
+                   VkdSteps* steps = nullptr);
 
 /// The line in the log for a record that is too short for what it should hold.
 void reportDamagedRecord(int index, KeyPair pair);
 
 /// Appends the thing of each record under the pair that is sound.
 template <typename T>
-void readList(int index, KeyPair pair, QVector<T>& things)
+void readList(int index, KeyPair pair, QVector<T>& things, VkdSteps* steps = nullptr)
 {
-    forEachRecord(index, pair, [&](const QByteArray& bytes) {
+    const auto add = [&](const QByteArray& bytes) {
         T thing;
         FieldReader reader(bytes);
         fields(reader, thing);
@@ -31,7 +37,8 @@ void readList(int index, KeyPair pair, QVector<T>& things)
             things.append(thing);
         else
             reportDamagedRecord(index, pair);
-    });
+    };
+    forEachRecord(index, pair, add, steps);
 }
 
 } // namespace dbo

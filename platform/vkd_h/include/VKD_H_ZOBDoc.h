@@ -14,8 +14,10 @@ class VKD_H_EXPORT VKD_H_ZOBDoc
 {
 public:
     /// Opens a project file, or makes a new one that must not be there yet. Null if that fails;
-    /// `status`, if given, is then a VkdZobStatus above 1 and the log holds a line.
-    static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, cd_error_t* status = nullptr);
+    /// `status`, if given, is then a VkdZobStatus above 1 and the log holds a line, unless `goOn`
+    /// answered false.
+    static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, cd_error_t* status = nullptr,
+                                              const VkdGoOn& goOn = VkdGoOn());
     static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, cd_error_t* status = nullptr);
     /// The scratch store as a document, for what is not to be in a project yet. All such documents
     /// are one store, which keeps what is in it; index 0, without a path.

@@ -15,26 +15,22 @@ VKD_H_ZOBDoc::~VKD_H_ZOBDoc()
     close();
 }
 
-namespace {
-int openIndex(decltype(&vkd_zob_open) operation, const QString& path, cd_error_t* status)
+std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::open(const QString& path, cd_error_t* status,
+                                                 const VkdGoOn& goOn)
 {
     int index = -1;
-    const cd_error_t result = operation(path.toUtf8().constData(), &index);
+    const cd_error_t result = vkd_zob_open(path.toUtf8().constData(), &index, goOn);
     if (status)
         *status = result;
-    return index;
-}
-} // namespace
-
-std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::open(const QString& path, cd_error_t* status)
-{
-    const int index = openIndex(&vkd_zob_open, path, status);
     return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
 }
 
 std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::create(const QString& path, cd_error_t* status)
 {
-    const int index = openIndex(&vkd_zob_create, path, status);
+    int index = -1;
+    const cd_error_t result = vkd_zob_create(path.toUtf8().constData(), &index);
+    if (status)
+        *status = result;
     return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vkd_progress.h"
 #include "vkd_q_export.h"
 
 /// The ZOB, the record store of a project: ordered sequences of opaque records, each sequence under
@@ -27,13 +28,15 @@ enum VkdZobStatus : cd_error_t {
     VKD_ZOB_FULL = 10,      ///< no room left for the file, or the disk does not take it
     VKD_ZOB_LOCKED = 11,    ///< another program held the project for too long
     VKD_ZOB_FAILED = 12,    ///< the system failed to read or write
-    VKD_ZOB_BAD_CALL = 13   ///< an argument is out of range
+    VKD_ZOB_BAD_CALL = 13,  ///< an argument is out of range
+    VKD_ZOB_CANCELLED = 14  ///< the caller did not want it any more; without a log line
 };
 
 /// Opens the project file at `path` (UTF-8) and gives its database index. Looking at a project that
 /// was left in order changes no byte of it; after a crash the interrupted write is undone first.
-/// A file without any write permission is opened for reading, also for a privileged user.
-VKD_Q_EXPORT cd_error_t vkd_zob_open(const char* path, int* index);
+/// A file without any write permission is opened for reading, also for a privileged user. The file
+/// is checked throughout, some 100 MB in a second, and `goOn` asked meanwhile.
+VKD_Q_EXPORT cd_error_t vkd_zob_open(const char* path, int* index, const VkdGoOn& goOn = VkdGoOn());
 
 /// Makes a new, empty project file and opens it. A file that is there already is left alone and the
 /// call fails with VKD_ZOB_NO_FILE.
@@ -65,6 +68,10 @@ VKD_Q_EXPORT cd_error_t vkd_zob_lock_ex(int index, int key1, int key2);
 /// Releases the key pair after reading or writing; what was put since it was taken is now stored.
 /// If anything failed meanwhile, a read too, none of it counts.
 VKD_Q_EXPORT void vkd_zob_free_ex(int index, int key1, int key2);
+
+/// Drops what was put since the first key pair was taken, and refuses what is put until the last
+/// one is released. Without a taken key pair it does nothing.
+VKD_Q_EXPORT void vkd_zob_drop_ex(int index);
 
 /// How the last change of the project ended, because releasing it has no result: 0 if what was put
 /// is stored or nothing was taken yet, otherwise why taking or storing failed.

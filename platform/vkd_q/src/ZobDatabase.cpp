@@ -17,6 +17,7 @@ namespace {
 constexpr int ApplicationId = 0x564b4442; // "VKDB"
 constexpr int SchemaVersion = 1;
 constexpr int DefaultLockDeadline = 5000; // ms
+constexpr int StepsToQuestion = 20000;    // of SQLite's machine, some ms
 
 const QLatin1String InMemory(":memory:");
 
@@ -58,6 +59,12 @@ int waitForOther(void*, int calls)
     return 1;
 }
 
+/// Called by SQLite in the middle of a statement.
+int isToStop(void* goOn)
+{
+    return (*static_cast<const VkdGoOn*>(goOn))(0) ? 0 : 1;
+}
+
 /// A file without any write permission is meant to stay as it is, even if this user could write it.
 bool isWriteProtected(const QString& path)
 {
@@ -79,7 +86,8 @@ ZobDatabase::ZobDatabase(const QString& path)
 
 ZobDatabase::~ZobDatabase() = default;
 
-std::unique_ptr<ZobDatabase> ZobDatabase::open(const QString& path, cd_error_t* status)
+std::unique_ptr<ZobDatabase> ZobDatabase::open(const QString& path, cd_error_t* status,
+                                               const VkdGoOn& goOn)
 {
     std::unique_ptr<ZobDatabase> database(new ZobDatabase(path));
     if (!QFileInfo(path).isFile())
@@ -89,7 +97,7 @@ std::unique_ptr<ZobDatabase> ZobDatabase::open(const QString& path, cd_error_t* 
     else if ((*status = database->connect(isWriteProtected(path) ? SQLITE_OPEN_READONLY
                                                                  : SQLITE_OPEN_READWRITE)) ==
              VKD_ZOB_OK)
-        *status = database->checkFile();
+        *status = database->checkFile(goOn);
     return *status == VKD_ZOB_OK ? std::move(database) : nullptr;
 }
 
@@ -144,7 +152,7 @@ cd_error_t ZobDatabase::makeSchema()
     return status == VKD_ZOB_OK ? execute(Schema, "create") : status;
 }
 
-cd_error_t ZobDatabase::checkFile()
+cd_error_t ZobDatabase::checkFile(const VkdGoOn& goOn)
 {
     int id = 0;
     int version = 0;
@@ -157,13 +165,23 @@ cd_error_t ZobDatabase::checkFile()
         status = reportZob(version > SchemaVersion ? VKD_ZOB_NEWER : VKD_ZOB_DAMAGED, "open",
                            m_path, QStringLiteral("version %1").arg(version));
     if (status == VKD_ZOB_OK)
-        status = checkSoundness();
+        status = checkSoundness(goOn);
     if (status == VKD_ZOB_OK) // with a deleted journal, FULL can lose a commit in a power cut
         status = execute("PRAGMA synchronous = EXTRA;", "open");
     return status;
 }
 
-cd_error_t ZobDatabase::checkSoundness()
+cd_error_t ZobDatabase::checkSoundness(const VkdGoOn& goOn)
+{
+    if (goOn)
+        sqlite3_progress_handler(m_connection.get(), StepsToQuestion, isToStop,
+                                 const_cast<VkdGoOn*>(&goOn));
+    const cd_error_t status = quickCheck();
+    sqlite3_progress_handler(m_connection.get(), 0, nullptr, nullptr);
+    return status;
+}
+
+cd_error_t ZobDatabase::quickCheck()
 {
     sqlite3_stmt* check = nullptr;
     int code = sqlite3_prepare_v2(m_connection.get(), "PRAGMA quick_check(1)", -1, &check, nullptr);
@@ -172,7 +190,9 @@ cd_error_t ZobDatabase::checkSoundness()
     const auto* text = code == SQLITE_ROW ? sqlite3_column_text(check, 0) : nullptr;
     const QString result = QString::fromUtf8(reinterpret_cast<const char*>(text)).simplified();
     cd_error_t status = VKD_ZOB_OK;
-    if (code != SQLITE_ROW)
+    if (code == SQLITE_INTERRUPT)
+        status = VKD_ZOB_CANCELLED;
+    else if (code != SQLITE_ROW)
         status = fail(code, "open");
     else if (result != QLatin1String("ok"))
         status = reportZob(VKD_ZOB_DAMAGED, "open", m_path, result);

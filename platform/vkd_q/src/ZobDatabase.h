@@ -17,7 +17,8 @@ class ZobDatabase
 {
 public:
     /// Each of the three gives null and a status, after its log line, if there is no usable store.
-    static std::unique_ptr<ZobDatabase> open(const QString& path, cd_error_t* status);
+    static std::unique_ptr<ZobDatabase> open(const QString& path, cd_error_t* status,
+                                             const VkdGoOn& goOn);
     static std::unique_ptr<ZobDatabase> create(const QString& path, cd_error_t* status);
     static std::unique_ptr<ZobDatabase> inMemory(cd_error_t* status);
     ~ZobDatabase();
@@ -26,6 +27,7 @@ public:
     cd_error_t put(int key1, int key2, const void* record, int length, int position);
     cd_error_t take(int key1, int key2);
     void release(int key1, int key2);
+    void drop() { spoilChange(VKD_ZOB_CANCELLED); }
     /// How the last release of the last taken pair, or of a refused one, ended.
     cd_error_t endOfChange() const { return m_endOfChange; }
     /// Moves the pair to the first one in use from there on, or to -1, -1.
@@ -38,11 +40,12 @@ private:
 
     explicit ZobDatabase(const QString& path);
     cd_error_t connect(int flags);
-    cd_error_t checkFile();
+    cd_error_t checkFile(const VkdGoOn& goOn);
     cd_error_t makeSchema();
     cd_error_t execute(const char* sql, const char* action);
     cd_error_t number(const char* sql, int* value);
-    cd_error_t checkSoundness();
+    cd_error_t checkSoundness(const VkdGoOn& goOn);
+    cd_error_t quickCheck();
     cd_error_t fail(int sqliteCode, const char* action);
     cd_error_t failInside(int sqliteCode, const char* action);
     cd_error_t spoilChange(cd_error_t status);

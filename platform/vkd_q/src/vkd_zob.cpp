@@ -39,10 +39,10 @@ cd_error_t add(std::unique_ptr<ZobDatabase> opened, cd_error_t status, int* inde
 }
 } // namespace
 
-cd_error_t vkd_zob_open(const char* path, int* index)
+cd_error_t vkd_zob_open(const char* path, int* index, const VkdGoOn& goOn)
 {
     cd_error_t status = VKD_ZOB_OK;
-    auto opened = ZobDatabase::open(QString::fromUtf8(path), &status);
+    auto opened = ZobDatabase::open(QString::fromUtf8(path), &status, goOn);
     return add(std::move(opened), status, index);
 }
 
@@ -93,6 +93,13 @@ void vkd_zob_free_ex(int index, int key1, int key2)
     cd_error_t status = VKD_ZOB_OK;
     if (ZobDatabase* store = database(index, &status))
         store->release(key1, key2);
+}
+
+void vkd_zob_drop_ex(int index)
+{
+    cd_error_t status = VKD_ZOB_OK;
+    if (ZobDatabase* store = database(index, &status))
+        store->drop();
 }
 
 cd_error_t vkd_zob_change_status(int index)
