@@ -47,7 +47,10 @@ static QVector<workbench::PlotTitles> plotTitles(int language)
 
 workbench::WindowServices services()
 {
-    return {makeProject, plotTitles};
+    const auto make = [](const QString& path, const QString& model, const VkdGoOn&) {
+        return makeProject(path, model);
+    };
+    return {make, plotTitles};
 }
 
 QString script(const QWidget& window)

@@ -4,12 +4,15 @@
 #include <vkd_lib_value.h>
 #include <vkd_zob.h>
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QStatusBar>
 
 using namespace windowtest;
 using workbench::MainWindow;
@@ -221,6 +224,26 @@ private Q_SLOTS:
         if (opened == "made.zob") // the model's project, whose name is asked for
             answerFileDialog(path(opened));
         QTRY_VERIFY(window->windowTitle().startsWith(QString::fromUtf8(opened)));
+    }
+
+    void cancelledMaking()
+    {
+        auto slow = services();
+        slow.makeProject = [](const QString&, const QString&, const VkdGoOn& goOn) {
+            whenModal([](QWidget* box) { box->findChild<QAbstractButton*>()->click(); });
+            QElapsedTimer clock;
+            clock.start();
+            while (goOn(50))
+                if (clock.hasExpired(20000))
+                    qFatal("not cancelled");
+            return QStringLiteral("cancelled");
+        };
+        MainWindow window(slow);
+        window.show();
+        answerFileDialog(path("new.zob"));
+        trigger(window, "NewFromSample");
+        QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("Cancelled."));
+        QVERIFY(!QFile::exists(path("new.zob")));
     }
 
     /// Also what is named on the command line and cannot be opened leaves a window to work with.

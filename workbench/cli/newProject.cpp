@@ -66,7 +66,8 @@ private:
 };
 
 /// Stores the model in a file of another name, which gets its own name once it is whole.
-void writeProject(const QString& path, const vkd::dbo::Model& model, const QString& modelFile)
+void writeProject(const QString& path, const vkd::dbo::Model& model, const QString& modelFile,
+                  const VkdGoOn& goOn)
 {
     const QString name =
         path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
@@ -74,7 +75,7 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
     auto document = VKD_H_ZOBDoc::create(name);
     if (document) {
         const UnfinishedFile unfinished(name);
-        done = vkd::dbo::storeModel(document->index(), model);
+        done = vkd::dbo::storeModel(document->index(), model, goOn);
         if (done)
             storeDesign(document.get(), model.designParameters, modelFile);
         done = document->close() == VKD_ZOB_OK && done && QFile::rename(name, path);
@@ -82,6 +83,14 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
     if (!done)
         throw CommandError{QLatin1String("cannot create ") + path + QLatin1String(": ") +
                            PlatformLog::take().join(QLatin1String("; ")).replace(name, path)};
+}
+
+/// For one half of the work, which has this many percent before it.
+VkdGoOn half(const VkdGoOn& goOn, int before)
+{
+    if (!goOn)
+        return goOn;
+    return [&goOn, before](int percent) { return goOn(before + percent / 2); };
 }
 
 QString summary(const QString& path, const vkd::dbo::Model& model)
@@ -95,7 +104,7 @@ QString summary(const QString& path, const vkd::dbo::Model& model)
 }
 } // namespace
 
-QString newProject(const QString& path, const QString& model)
+QString newProject(const QString& path, const QString& model, const VkdGoOn& goOn)
 {
     if (QFileInfo::exists(path))
         throw CommandError{QStringLiteral("%1 exists already").arg(path)};
@@ -103,9 +112,9 @@ QString newProject(const QString& path, const QString& model)
     QString error;
     const QString modelFile = modelPath(model);
     const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    if (!vkd::dbo::readModelFile(modelFile, language, &content, &error))
+    if (!vkd::dbo::readModelFile(modelFile, language, &content, &error, half(goOn, 0)))
         throw CommandError{error};
-    writeProject(path, content, modelFile);
+    writeProject(path, content, modelFile, half(goOn, 50));
     return summary(path, content);
 }
 

@@ -11,10 +11,10 @@
 namespace workbench {
 
 namespace {
-QString makeProject(const QString& path, const QString& model)
+QString makeProject(const QString& path, const QString& model, const VkdGoOn& goOn)
 {
     try {
-        newProject(path, model);
+        newProject(path, model, goOn);
         return QString();
     } catch (const CommandError& error) {
         return error.text;

@@ -397,6 +397,14 @@ In der Anzeige fehlt möglicherweise etwas.</translation>
         <translation>Das Projekt wird angelegt.</translation>
     </message>
     <message>
+        <source>The project is being opened.</source>
+        <translation>Das Projekt wird geöffnet.</translation>
+    </message>
+    <message>
+        <source>The model is being read.</source>
+        <translation>Das Modell wird gelesen.</translation>
+    </message>
+    <message>
         <source>Cancelled.</source>
         <translation>Abgebrochen.</translation>
     </message>

@@ -235,7 +235,7 @@ void MainWindow::complain(const QString& text)
 
 bool MainWindow::succeeds(cd_error_t status, const QString& path, const QString& sentence)
 {
-    if (status == StoreCancelled)
+    if (status == VKD_ZOB_CANCELLED)
         say(tr("Cancelled."));
     else if (status != VKD_ZOB_OK)
         complain(sentence.arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') +

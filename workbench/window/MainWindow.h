@@ -81,6 +81,8 @@ private:
     void saveAs();
     void takeOver(const QString& path);
     void setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
+    bool showModel(int index);
+    void showFirstProject();
     void showProject();
     void showRecords();
     bool mayLeaveProject();

@@ -29,7 +29,7 @@ class SlowWork
     Q_DECLARE_TR_FUNCTIONS(workbench::SlowWork)
 
 public:
-    /// The box belongs to `parent` and counts to `maximum`.
+    /// The box belongs to `parent` and counts to `maximum`; with 0 it only shows that work goes on.
     SlowWork(QWidget* parent, const QString& text, int maximum);
     ~SlowWork();
     SlowWork(const SlowWork&) = delete;

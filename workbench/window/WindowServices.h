@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_progress.h>
+
 #include <QString>
 #include <QVector>
 
@@ -16,8 +18,9 @@ using PlotTitles = std::array<QString, 3>;
 struct WindowServices
 {
     /// Makes a project file, which does not exist yet, from the name of a sample or a model file.
-    /// The result is why it cannot be made, empty if it was.
-    std::function<QString(const QString& path, const QString& model)> makeProject;
+    /// The result is why it cannot be made, empty if it was; any text if `goOn` answered false.
+    std::function<QString(const QString& path, const QString& model, const VkdGoOn& goOn)>
+        makeProject;
 
     /// The captions of all plots of the catalogue, in its order, in a language as setting 102 has
     /// it. Empty if there is no catalogue.

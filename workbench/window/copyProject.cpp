@@ -75,7 +75,7 @@ cd_error_t copyBytes(QWidget* parent, QFile& from, QSaveFile& to)
         if (to.write(bytes) != bytes.size()) // a part of it is no error to Qt
             return VKD_ZOB_FULL;
         if (!work.goOn(piece))
-            return StoreCancelled;
+            return VKD_ZOB_CANCELLED;
     }
     return VKD_ZOB_OK;
 }

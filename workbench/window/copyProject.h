@@ -23,7 +23,7 @@ public:
     ReplacedFile(const ReplacedFile&) = delete;
     ReplacedFile& operator=(const ReplacedFile&) = delete;
 
-    /// VKD_ZOB_OK, or why the file cannot be replaced, also StoreCancelled.
+    /// VKD_ZOB_OK, or why the file cannot be replaced, also VKD_ZOB_CANCELLED.
     cd_error_t status() const { return m_status; }
 
 private:
@@ -34,7 +34,7 @@ private:
 };
 
 /// Copies an open project, as the last finished change left it, in place of the file at `path` or
-/// as a new one, in one step. The result is VKD_ZOB_OK, StoreCancelled or why not; what was at
+/// as a new one, in one step. The result is VKD_ZOB_OK, VKD_ZOB_CANCELLED or why not; what was at
 /// `path` is then as it was.
 cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path);
 

@@ -37,7 +37,7 @@ cd_error_t waitForStore(QWidget* parent, const QString& path,
                   deadline);
     cd_error_t status = attemptShortly(attempt);
     while (status == VKD_ZOB_LOCKED && work.elapsed() < deadline)
-        status = work.goOn(work.elapsed()) ? attemptShortly(attempt) : StoreCancelled;
+        status = work.goOn(work.elapsed()) ? attemptShortly(attempt) : VKD_ZOB_CANCELLED;
     PlatformLog::take(); // the status says it all
     return status;
 }

@@ -10,13 +10,10 @@ class QWidget;
 
 namespace workbench {
 
-/// Stands beside the VkdZobStatus: the user did not want to wait any longer, and knows.
-constexpr cd_error_t StoreCancelled = -1;
-
 /// Does what needs the project file at `path`, and does it again while another program holds the
 /// file, for the deadline of the store at most. After half a second the user sees that, and can
 /// cancel. `attempt` answers a VkdZobStatus and leaves things as they were if it fails. The result
-/// is that of the last attempt, or StoreCancelled; the lines of the log are taken away.
+/// is that of the last attempt, or VKD_ZOB_CANCELLED; the lines of the log are taken away.
 cd_error_t waitForStore(QWidget* parent, const QString& path,
                         const std::function<cd_error_t()>& attempt);
 

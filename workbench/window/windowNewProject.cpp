@@ -61,14 +61,17 @@ bool MainWindow::makeProject(const QString& path, const QString& model)
     const ReplacedFile replaced(this, path);
     if (!succeeds(replaced.status(), path, sentence))
         return false;
-    say(tr("The project is being made."));
     const QString unfinished = path + QLatin1String(".new");
     QFile::remove(unfinished); // of a window that ended in the middle
     QString trouble;
+    bool goesOn = true;
     {
-        const WaitCursor cursor;
-        trouble = m_services.makeProject(unfinished, model);
+        SlowWork work(this, tr("The project is being made."), 100);
+        trouble = m_services.makeProject(unfinished, model,
+                                         [&](int percent) { return goesOn = work.goOn(percent); });
     }
+    if (!goesOn)
+        return succeeds(VKD_ZOB_CANCELLED, path, sentence);
     if (!trouble.isEmpty())
         complain(tr("The project cannot be made.\n%1").arg(trouble));
     else if (succeeds(replaceFile(unfinished, path) ? VKD_ZOB_OK : VKD_ZOB_READ_ONLY, path,

@@ -44,42 +44,62 @@ bool MainWindow::openProject(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     std::unique_ptr<VKD_H_ZOBDoc> document;
-    const cd_error_t status = waitForStore(this, absolute, [&document, &absolute] {
+    cd_error_t status = waitForStore(this, absolute, [this, &document, &absolute] {
+        SlowWork work(this, tr("The project is being opened."), 0);
         cd_error_t result = VKD_ZOB_OK;
-        document = VKD_H_ZOBDoc::open(absolute, &result);
+        document = VKD_H_ZOBDoc::open(absolute, &result, [&work](int) { return work.goOn(0); });
         return result;
     });
+    const bool isFirst = !m_document && isVisible(); // which is not to hold up the window
+    if (status == VKD_ZOB_OK && !isFirst && !showModel(document->index()))
+        status = VKD_ZOB_CANCELLED;
     if (!succeeds(status, absolute, tr("The file %1 cannot be opened."))) {
         m_actions->setRecentFiles(WindowSettings().recentFiles()); // it may be gone
         return false;
     }
     say(tr("%1 is open.").arg(QFileInfo(path).fileName()));
+    const auto before = std::move(m_document); // until nothing shows it any more
     setDocument(std::move(document));
+    if (isFirst) {
+        m_isProjectToShow = true;
+        update();
+    } else {
+        showProject();
+    }
     return true;
+}
+
+/// Reads the model of the project at this index; false if the user cancelled.
+bool MainWindow::showModel(int index)
+{
+    SlowWork work(this, tr("The model is being read."), 0);
+    PlatformLog::take(); // showProject() looks for what is written from now on
+    return m_view->setProject(index, [&work](int) { return work.goOn(0); });
 }
 
 void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
 {
     m_output.reset();
     m_textOutput.reset();
-    const auto before = std::move(m_document); // until nothing shows it any more
     m_document = std::move(document);
-    m_actions->enable(true, false);
+    m_actions->enable(bool(m_document), false);
     setWindowModified(false);
     setTitle();
-    m_isProjectToShow = !before && isVisible(); // the first one is not to hold up the window
-    if (m_isProjectToShow)
-        update();
-    else
-        showProject();
 }
 
-/// The script comes last, since its page takes longest.
+void MainWindow::showFirstProject()
+{
+    if (showModel(index()))
+        return showProject();
+    setDocument(nullptr);
+    showContents();
+    say(tr("Cancelled."));
+}
+
+/// All but the model itself. The script comes last, since its page takes longest.
 void MainWindow::showProject()
 {
     const WaitCursor cursor;
-    PlatformLog::take(); // another project may be waited for meanwhile
-    m_view->setProject(index());
     m_view->slotViewControl(AnimatorStandardView, 0.0);
     m_groups->setProject(index());
     showRecords();
@@ -113,7 +133,7 @@ void MainWindow::paintEvent(QPaintEvent* event)
     if (!m_isProjectToShow)
         return;
     m_isProjectToShow = false;
-    QTimer::singleShot(0, this, &MainWindow::showProject);
+    QTimer::singleShot(0, this, &MainWindow::showFirstProject);
 }
 
 void MainWindow::saveAs()
