@@ -87,15 +87,12 @@ QTableWidgetItem* newItem(const QString& text, Qt::Alignment alignment = Qt::Ali
 } // namespace
 
 RecordsPane::RecordsPane(QWidget* parent)
-    : QTableWidget(parent)
+    : VKD_QT_TableWidget(WordCount, HeadColumns, parent, "Records")
 {
-    setObjectName(QStringLiteral("Records"));
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setAlternatingRowColors(true);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
-    setRowCount(WordCount);
-    setColumnCount(HeadColumns);
     int word = 0;
     for (const Words& words : recordWords())
         for (const char* name : words.names) {
@@ -113,7 +110,7 @@ void RecordsPane::setProject(int index)
 
 void RecordsPane::changeEvent(QEvent* event)
 {
-    QTableWidget::changeEvent(event);
+    VKD_QT_TableWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         setTexts();
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QTableWidget>
+#include <VKD_QT_TableWidget.h>
 
 namespace workbench {
 
 /// The design records as they lie in the project, word by word: a row for each word with its name
 /// and unit, and a column for each record.
-class RecordsPane : public QTableWidget
+class RecordsPane : public VKD_QT_TableWidget
 {
     Q_OBJECT
 
