@@ -65,6 +65,13 @@ QString live(const QWidget& dialog)
     return names.join(QLatin1Char('+'));
 }
 
+int checkedRows(const PickTable& table)
+{
+    const QAbstractItemModel& rows = *table.model();
+    return rows.match(rows.index(0, 0), Qt::CheckStateRole, Qt::Checked, -1, Qt::MatchExactly)
+        .size();
+}
+
 QString labels(const QWidget& box)
 {
     QStringList texts;
@@ -138,8 +145,13 @@ private Q_SLOTS:
             QTest::keyClick(table, Qt::Key_Down);
         }
         QCOMPARE(result->text(), QStringLiteral("Printed load cases: none"));
+        QCOMPARE(checkedRows(*table), 0);
         choose(desk.dialog, LoadCaseBox, QStringLiteral("All"));
         QCOMPARE(result->text(), all);
+        QCOMPARE(checkedRows(*table), 7); // as the rule has it
+        choose(desk.dialog, LoadCaseBox, QStringLiteral("Manually"));
+        QCOMPARE(checkedRows(*table), 0); // what was picked comes back
+        choose(desk.dialog, LoadCaseBox, QStringLiteral("All"));
         find<QCheckBox>(desk.dialog, "ReactionList")->click();
         QVERIFY(
             results(desk.dialog).startsWith(QLatin1String("Printed lists: System, Loads\n") + all));
@@ -239,8 +251,9 @@ private Q_SLOTS:
         trigger(*window, "TextOutput");
         auto dialog = window->findChild<TextOutputDialog*>();
         QVERIFY(!dialog->isChanged());
+        find<QCheckBox>(*dialog, "ForceList")->click();
         choose(*dialog, ExtentBox, QStringLiteral("Full text output"));
-        find<QCheckBox>(*dialog, "ForceList")->setChecked(true);
+        QVERIFY(find<QCheckBox>(*dialog, "DisplacementList")->isChecked());
         choose(*dialog, LoadCaseBox, QStringLiteral("Manually"));
         find<PickTable>(*dialog, "TextLoadCases")->setLeftOut({1, 6});
         find<PickTable>(*dialog, "TextCombinations")->setLeftOut({102});
@@ -264,6 +277,7 @@ private Q_SLOTS:
         choose(again.dialog, ExtentBox, QStringLiteral("Manually controlled"));
         choose(again.dialog, CombinationBox, QStringLiteral("Manually"));
         QCOMPARE(results(again.dialog).contains(QLatin1String("Internal forces")), isStored);
+        QVERIFY(!results(again.dialog).contains(QLatin1String("Displacements")));
         QCOMPARE(results(again.dialog).endsWith(QLatin1String("101, 103")), isStored);
     }
 

@@ -4,6 +4,9 @@
 #include <VKD_QT_Widgets.h>
 
 #include <QHBoxLayout>
+#include <QSignalBlocker>
+
+#include <utility>
 
 namespace workbench {
 
@@ -50,29 +53,44 @@ ExtentFields::ExtentFields(QWidget* parent)
     setTabOrder(m_boxes.last(), m_values);
 }
 
-int ExtentFields::lists() const
+void ExtentFields::setChoice(const Choice& choice)
 {
-    int lists = 0;
+    if (m_showsRule)
+        m_choice = choice;
+    else
+        display(choice);
+}
+
+void ExtentFields::showChosen()
+{
+    const QSignalBlocker quiet(this);
+    if (std::exchange(m_showsRule, false))
+        display(m_choice);
+}
+
+void ExtentFields::showRule(const Choice& rule)
+{
+    const QSignalBlocker quiet(this);
+    m_choice = choice();
+    m_showsRule = true;
+    display(rule);
+}
+
+ExtentFields::Choice ExtentFields::displayed() const
+{
+    Choice choice;
     for (int i = 0; i < m_boxes.size(); ++i)
         if (m_boxes[i]->isChecked())
-            lists |= Lists[i].list;
-    return lists;
+            choice.lists |= Lists[i].list;
+    choice.allValues = m_values->getCurrentId() != 0;
+    return choice;
 }
 
-void ExtentFields::setLists(int lists)
+void ExtentFields::display(const Choice& choice)
 {
     for (int i = 0; i < m_boxes.size(); ++i)
-        m_boxes[i]->setChecked(lists & Lists[i].list);
-}
-
-bool ExtentFields::allValues() const
-{
-    return m_values->getCurrentId() != 0;
-}
-
-void ExtentFields::setAllValues(bool all)
-{
-    m_values->setCurrentId(int(all));
+        m_boxes[i]->setChecked(choice.lists & Lists[i].list);
+    m_values->setCurrentId(int(choice.allValues));
 }
 
 QString ExtentFields::listNames(int lists)

@@ -1,7 +1,10 @@
 #include "PickTable.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 #include <QStandardItemModel>
+
+#include <utility>
 
 namespace workbench {
 
@@ -68,14 +71,42 @@ QVector<int> PickTable::numbers() const
 
 QVector<int> PickTable::picked() const
 {
+    const QSet<int> left = leftOut();
     QVector<int> checked;
     for (int row = 0; row < rowCount(); ++row)
-        if (m_model->item(row, NumberColumn)->checkState() == Qt::Checked)
+        if (!left.contains(number(row)))
             checked << number(row);
     return checked;
 }
 
-QSet<int> PickTable::leftOut() const
+void PickTable::setLeftOut(const QSet<int>& numbers)
+{
+    if (m_showsRule)
+        m_leftOut = numbers;
+    else
+        showAsLeftOut(numbers);
+}
+
+void PickTable::showPicked()
+{
+    const QSignalBlocker quiet(this);
+    if (std::exchange(m_showsRule, false))
+        showAsLeftOut(m_leftOut);
+}
+
+void PickTable::showRule(const QVector<int>& numbers)
+{
+    const QSignalBlocker quiet(this);
+    m_leftOut = leftOut();
+    m_showsRule = true;
+    QSet<int> left;
+    for (int row = 0; row < rowCount(); ++row)
+        if (!numbers.contains(number(row)))
+            left << number(row);
+    showAsLeftOut(left);
+}
+
+QSet<int> PickTable::shownAsLeftOut() const
 {
     QSet<int> left;
     for (int row = 0; row < rowCount(); ++row)
@@ -84,7 +115,7 @@ QSet<int> PickTable::leftOut() const
     return left;
 }
 
-void PickTable::setLeftOut(const QSet<int>& numbers)
+void PickTable::showAsLeftOut(const QSet<int>& numbers)
 {
     for (int row = 0; row < rowCount(); ++row)
         m_model->item(row, NumberColumn)

@@ -9,8 +9,9 @@ class QStandardItemModel;
 
 namespace workbench {
 
-/// Load cases or combinations of a project, with a check box for each. Read-only while the choice
-/// is not made by hand; what is checked then stays for later.
+/// Load cases or combinations of a project, with a check box for each. While a rule makes the
+/// choice, the table is read-only and shows what comes out of it; what was checked by hand stays
+/// for later.
 class PickTable : public vkd::properties::nextGen::QtTableView
 {
     Q_OBJECT
@@ -22,10 +23,15 @@ public:
     PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
     QVector<int> numbers() const;
-    /// The numbers of the rows that are checked.
+    /// The numbers of the rows that are checked by hand.
     QVector<int> picked() const;
-    QSet<int> leftOut() const;
+    /// Those that are not checked by hand.
+    QSet<int> leftOut() const { return m_showsRule ? m_leftOut : shownAsLeftOut(); }
     void setLeftOut(const QSet<int>& numbers);
+
+    /// Neither tells of a change.
+    void showPicked();
+    void showRule(const QVector<int>& numbers);
 
     /// Room for a few rows; the dialog decides on more.
     QSize sizeHint() const override;
@@ -42,9 +48,13 @@ protected:
     QString title(int row) const;
 
 private:
+    QSet<int> shownAsLeftOut() const;
+    void showAsLeftOut(const QSet<int>& numbers);
     int heightOf(int rows) const;
 
     QStandardItemModel* m_model;
+    bool m_showsRule = false;
+    QSet<int> m_leftOut; ///< by hand, while a rule is shown
 };
 
 } // namespace workbench

@@ -1,7 +1,6 @@
 #include "TextOutputDialog.h"
 
 #include "CombinationTable.h"
-#include "ExtentFields.h"
 #include "numberTexts.h"
 
 #include <VKD_QT_Ok.h>
@@ -177,8 +176,8 @@ TextOutputState TextOutputDialog::state() const
     present.extent = m_extent.writeXML();
     present.loadCases = m_loadCases.writeXML();
     present.combinations = m_combinations->writeXML();
-    present.lists = m_fields->lists();
-    present.allValues = m_fields->allValues();
+    present.lists = m_fields->choice().lists;
+    present.allValues = m_fields->choice().allValues;
     present.leftOutLoadCases = m_loadCaseTable->leftOut();
     present.leftOutCombinations = m_combinationTable->leftOut();
     present.kinds = m_combinationTable->kinds();
@@ -187,8 +186,7 @@ TextOutputState TextOutputDialog::state() const
 
 void TextOutputDialog::setState(const TextOutputState& state)
 {
-    m_fields->setLists(state.lists);
-    m_fields->setAllValues(state.allValues);
+    m_fields->setChoice({state.lists, state.allValues});
     m_loadCaseTable->setLeftOut(state.leftOutLoadCases);
     m_combinationTable->setLeftOut(state.leftOutCombinations);
     m_combinationTable->setKinds(state.kinds);
@@ -209,18 +207,36 @@ bool TextOutputDialog::isChanged() const
 
 void TextOutputDialog::showChoice()
 {
+    showInFields();
     m_extentResult->setText(extentText());
     m_loadCaseResult->setText(loadCaseText());
     m_combinationResult->setText(combinationText());
     Q_EMIT choiceChanged();
 }
 
-int TextOutputDialog::printedLists() const
+/// What does not count is not to be seen.
+void TextOutputDialog::showInFields()
+{
+    if (m_extent.getSelectedId() == Group::Manually)
+        m_fields->showChosen();
+    else
+        m_fields->showRule(printedExtent());
+    if (m_loadCases.getSelectedId() == Group::Manually)
+        m_loadCaseTable->showPicked();
+    else
+        m_loadCaseTable->showRule(printedLoadCases());
+    if (m_combinations->getSelectedId() == Group::Manually)
+        m_combinationTable->showPicked();
+    else
+        m_combinationTable->showRule(printedCombinations());
+}
+
+ExtentFields::Choice TextOutputDialog::printedExtent() const
 {
     switch (m_extent.getSelectedId()) {
-    case Group::Manually: return m_fields->lists();
-    case Group::All: return ExtentFields::AllLists;
-    default: return 0;
+    case Group::Manually: return m_fields->choice();
+    case Group::All: return {ExtentFields::AllLists, true};
+    default: return {};
     }
 }
 
@@ -242,19 +258,18 @@ QVector<int> TextOutputDialog::printedCombinations() const
 
 QString TextOutputDialog::extentText() const
 {
-    const int lists = printedLists();
+    const auto [lists, allValues] = printedExtent();
     if (!lists)
         return tr("Printed lists: none");
     const QString printed = tr("Printed lists: %1").arg(ExtentFields::listNames(lists));
     if (!(lists & ExtentFields::ResultLists))
         return printed;
-    const bool allValues = m_extent.getSelectedId() == Group::All || m_fields->allValues();
     return tr("%1. Result values: %2").arg(printed, ExtentFields::valuesName(allValues));
 }
 
 QString TextOutputDialog::loadCaseText() const
 {
-    if (!(printedLists() & (ExtentFields::Loads | ExtentFields::ResultLists)))
+    if (!(printedExtent().lists & (ExtentFields::Loads | ExtentFields::ResultLists)))
         return tr("Printed load cases: none, as neither loads nor results are printed");
     const QVector<int> printed = printedLoadCases();
     if (printed.isEmpty())
@@ -267,7 +282,7 @@ QString TextOutputDialog::loadCaseText() const
 
 QString TextOutputDialog::combinationText() const
 {
-    if (!(printedLists() & ExtentFields::ResultLists))
+    if (!(printedExtent().lists & ExtentFields::ResultLists))
         return tr("Printed combinations: none, as no results are printed");
     const QVector<int> printed = printedCombinations();
     if (printed.isEmpty())

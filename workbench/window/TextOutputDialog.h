@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ExtentFields.h"
 #include "TextOutputState.h"
 
 #include <VKD_H_Dialog.h>
@@ -14,7 +15,6 @@ class QVBoxLayout;
 namespace workbench {
 
 class CombinationTable;
-class ExtentFields;
 class PickTable;
 
 /// What the text output of a project prints: which lists, for which load cases and for which
@@ -49,8 +49,9 @@ private:
     QLabel* addResult(QVBoxLayout* column, const char* name);
     void addOkRow();
     void showChoice();
+    void showInFields();
 
-    int printedLists() const;
+    ExtentFields::Choice printedExtent() const;
     QVector<int> printedLoadCases() const;
     QVector<int> printedCombinations() const;
     QString extentText() const;
