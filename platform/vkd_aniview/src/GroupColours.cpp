@@ -38,6 +38,11 @@ double contrast(const QColor& a, const QColor& b)
     return (range.second + 0.05) / (range.first + 0.05);
 }
 
+double palenessOf(GroupMark mark)
+{
+    return mark == GroupMark::Pale ? 0.75 : mark == GroupMark::Dimmed ? 0.6 : 0.0;
+}
+
 /// More groups than hues come back lighter or darker.
 QColor colourOf(int groupIndex)
 {
@@ -61,20 +66,21 @@ GroupColours::GroupColours(const QPalette& palette, const std::vector<int>& grou
 GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double meshStrength) const
 {
     const bool isLit = mark == GroupMark::Lit || mark == GroupMark::PickedLit;
+    const bool isPicked = mark == GroupMark::Picked || mark == GroupMark::PickedLit;
     const QColor colour = markedColour(groupIndex, mark);
-    const double paleness = mark == GroupMark::Pale ? 0.6 : 0.0;
-    const QColor outline = mixed(m_text, m_background, paleness);
+    const QColor outline = mixed(m_text, m_background, 0.8 * palenessOf(mark));
+    const QColor meshLine = isPicked ? m_background : outline;
     Set set;
     for (int shade = 0; shade < Shades; ++shade) {
         const double dark = 0.45 * (1.0 - shade / double(Shades - 1));
         const QColor fill = mixed(colour, Qt::black, dark);
-        const QColor mesh = mixed(fill, outline, (isLit ? 0.8 : 0.35) * meshStrength);
+        const QColor mesh = mixed(fill, meshLine, (isLit || isPicked ? 0.8 : 0.35) * meshStrength);
         set.fills[size_t(shade)] = fill;
         set.meshes[size_t(shade)] = QPen(mesh, 0);
     }
-    set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.0 : 1.2, Qt::SolidLine, Qt::RoundCap);
+    set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.6 : 1.2, Qt::SolidLine, Qt::RoundCap);
     set.line = mark == GroupMark::Pale ? mixed(colour, outline, 0.3) : readable(colour);
-    set.widening = isLit ? 2.0 : 0.0;
+    set.widening = isLit ? 2.5 : 0.0;
     return set;
 }
 
@@ -82,9 +88,10 @@ QColor GroupColours::markedColour(int groupIndex, GroupMark mark) const
 {
     const QColor colour = colourOf(groupIndex);
     switch (mark) {
-    case GroupMark::None: break;
-    case GroupMark::Pale: return mixed(colour, m_background, 0.75);
-    case GroupMark::Lit: return mixed(colour, m_highlight, 0.6);
+    case GroupMark::None:
+    case GroupMark::Lit: return colour; // another hue would be taken for another group
+    case GroupMark::Dimmed:
+    case GroupMark::Pale: return mixed(colour, m_background, palenessOf(mark));
     case GroupMark::Picked: return m_highlight;
     case GroupMark::PickedLit: return mixed(m_highlight, m_text, 0.25);
     }

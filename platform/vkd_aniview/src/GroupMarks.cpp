@@ -47,7 +47,10 @@ GroupMark GroupMarks::markOf(int group) const
         return isLit ? GroupMark::PickedLit : GroupMark::Picked;
     if (isLit)
         return GroupMark::Lit;
-    return m_isPicking && !m_picked.empty() ? GroupMark::Pale : GroupMark::None;
+    if (m_isPicking && !m_picked.empty())
+        return GroupMark::Pale;
+    const bool isOtherLit = m_highlighted != NoGroup || m_hovered != NoGroup;
+    return isOtherLit ? GroupMark::Dimmed : GroupMark::None;
 }
 
 bool GroupMarks::isPicked(int group) const

@@ -5,8 +5,8 @@
 namespace vkd {
 namespace aniview {
 
-enum class GroupMark { None, Pale, Lit, Picked, PickedLit };
-constexpr int GroupMarkCount = 5;
+/// Dimmed are those beside a lit one, pale are those that are not picked.
+enum class GroupMark { None, Dimmed, Pale, Lit, Picked, PickedLit };
 
 /// Which groups are picked and which one is lit up, by their numbers.
 class GroupMarks
