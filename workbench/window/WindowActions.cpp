@@ -84,8 +84,8 @@ WindowActions::WindowActions(QMainWindow* window)
     // Drawn icons follow the palette, and no files have to be read for them at the start.
     open->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/open")));
     saveScript->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
-    design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/groups")));
-    output->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/contents")));
+    design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/reinforcement")));
+    output->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/plot")));
     textOutput->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/text")));
     addMenus(window);
     addToolBar(window);

@@ -37,8 +37,8 @@ void calculator(QPainter& painter, const QPalette& palette)
             painter.drawRect(QRectF(4.9 + 2.4 * column, 7.6 + 2.2 * row, 1.4, 1.2));
 }
 
-/// A mesh of two by two elements, seen from the side.
-void drawMesh(QPainter& painter, const QPalette& palette, const QVector<QPoint>& filled)
+/// A mesh of two by two elements, seen from the side, of which some are a group.
+void groups(QPainter& painter, const QPalette& palette)
 {
     const auto corner = [](qreal column, qreal row) {
         return QPointF(1.5 + 5 * column + 1.5 * (2 - row), 4 + 4 * row);
@@ -46,21 +46,44 @@ void drawMesh(QPainter& painter, const QPalette& palette, const QVector<QPoint>&
     painter.setPen(line(ink(palette)));
     for (int row = 0; row < 2; ++row)
         for (int column = 0; column < 2; ++column) {
-            painter.setBrush(filled.contains(QPoint(column, row)) ? QBrush(accent(palette))
-                                                                  : QBrush(Qt::NoBrush));
+            painter.setBrush(column == 0 ? QBrush(accent(palette)) : QBrush(Qt::NoBrush));
             painter.drawPolygon(QPolygonF({corner(column, row), corner(column + 1, row),
                                            corner(column + 1, row + 1), corner(column, row + 1)}));
         }
 }
 
-void groups(QPainter& painter, const QPalette& palette)
-{
-    drawMesh(painter, palette, {{0, 0}, {0, 1}});
-}
-
+/// Two that overlap, as they may have elements in common.
 void secondaryGroups(QPainter& painter, const QPalette& palette)
 {
-    drawMesh(painter, palette, {{0, 0}, {1, 1}});
+    painter.setPen(line(ink(palette)));
+    painter.drawRect(QRectF(1.5, 2, 8.5, 7.5));
+    painter.drawRect(QRectF(6, 6.5, 8.5, 7.5));
+    painter.setBrush(accent(palette));
+    painter.drawRect(QRectF(6, 6.5, 4, 3));
+}
+
+/// The section of a beam with its bars.
+void reinforcement(QPainter& painter, const QPalette& palette)
+{
+    painter.setPen(line(ink(palette)));
+    painter.drawRect(QRectF(2.5, 1.5, 11, 13));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(accent(palette));
+    for (const QPointF& bar :
+         {QPointF(5.3, 4.3), QPointF(10.7, 4.3), QPointF(5.3, 11.7), QPointF(10.7, 11.7)})
+        painter.drawEllipse(bar, 1.6, 1.6);
+}
+
+/// A curve over its axis.
+void plot(QPainter& painter, const QPalette& palette)
+{
+    QPainterPath curve(QPointF(3, 13));
+    curve.cubicTo({5.5, 11}, {6.5, 3.5}, {9, 3.5});
+    curve.cubicTo({11.5, 3.5}, {11.5, 9}, {14, 9});
+    curve.lineTo(14, 13);
+    painter.fillPath(curve, accent(palette));
+    painter.setPen(line(ink(palette), 1.4));
+    painter.drawPolyline(QPolygonF({{2.5, 1.5}, {2.5, 13.5}, {14.5, 13.5}}));
 }
 
 void information(QPainter& painter, const QPalette& palette)
@@ -159,6 +182,8 @@ const struct
     {":/icon/program/calculator", calculator},
     {":/icon/program/groups", groups},
     {":/icon/program/secondary_groups", secondaryGroups},
+    {":/icon/program/reinforcement", reinforcement},
+    {":/icon/program/plot", plot},
     {":/icon/program/information", information},
     {":/icon/program/back", back},
     {":/icon/program/forward", forward},
