@@ -171,28 +171,52 @@
         <translation>Gruppen des Modells. Die Gruppe unter dem Mauszeiger leuchtet in der Ansicht auf.</translation>
     </message>
     <message>
-        <source>Quads %1</source>
-        <translation>Flächen %1</translation>
+        <source>1 area</source>
+        <translation>1 Flächenelement</translation>
     </message>
     <message>
-        <source>Beams %1</source>
-        <translation>Stäbe %1</translation>
+        <source>%1 areas</source>
+        <translation>%1 Flächenelemente</translation>
     </message>
     <message>
-        <source>Trusses %1</source>
-        <translation>Fachwerkstäbe %1</translation>
+        <source>1 beam</source>
+        <translation>1 Stab</translation>
     </message>
     <message>
-        <source>Cables %1</source>
-        <translation>Seile %1</translation>
+        <source>%1 beams</source>
+        <translation>%1 Stäbe</translation>
     </message>
     <message>
-        <source>Springs %1</source>
-        <translation>Federn %1</translation>
+        <source>1 truss</source>
+        <translation>1 Fachwerkstab</translation>
     </message>
     <message>
-        <source>Solids %1</source>
-        <translation>Volumen %1</translation>
+        <source>%1 trusses</source>
+        <translation>%1 Fachwerkstäbe</translation>
+    </message>
+    <message>
+        <source>1 cable</source>
+        <translation>1 Seil</translation>
+    </message>
+    <message>
+        <source>%1 cables</source>
+        <translation>%1 Seile</translation>
+    </message>
+    <message>
+        <source>1 spring</source>
+        <translation>1 Feder</translation>
+    </message>
+    <message>
+        <source>%1 springs</source>
+        <translation>%1 Federn</translation>
+    </message>
+    <message>
+        <source>1 brick</source>
+        <translation>1 Volumenelement</translation>
+    </message>
+    <message>
+        <source>%1 bricks</source>
+        <translation>%1 Volumenelemente</translation>
     </message>
 </context>
 <context>
@@ -491,7 +515,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>The plots offer the load cases that are checked here. A change brings back the plots that the catalogue proposes.</source>
-        <translation>Bei den Bildern werden die hier angehakten Lastfälle angeboten. Eine Änderung stellt die Bilder wieder her, die der Katalog vorschlägt.</translation>
+        <translation>Bei den Bildern werden die hier angekreuzten Lastfälle angeboten. Eine Änderung stellt die Bilder wieder her, die der Katalog vorschlägt.</translation>
     </message>
     <message>
         <source>What the model holds</source>

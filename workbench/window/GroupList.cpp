@@ -11,6 +11,40 @@ namespace workbench {
 namespace {
 enum Column { NumberColumn, TitleColumn, ContentsColumn };
 
+struct ElementSort
+{
+    int vkd::dbo::GroupContents::*count;
+    const char* one;
+    const char* many;
+};
+const ElementSort ElementSorts[] = {
+    {&vkd::dbo::GroupContents::quads, QT_TRANSLATE_NOOP("workbench::GroupList", "1 area"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 areas")},
+    {&vkd::dbo::GroupContents::beams, QT_TRANSLATE_NOOP("workbench::GroupList", "1 beam"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 beams")},
+    {&vkd::dbo::GroupContents::trusses, QT_TRANSLATE_NOOP("workbench::GroupList", "1 truss"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 trusses")},
+    {&vkd::dbo::GroupContents::cables, QT_TRANSLATE_NOOP("workbench::GroupList", "1 cable"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 cables")},
+    {&vkd::dbo::GroupContents::springs, QT_TRANSLATE_NOOP("workbench::GroupList", "1 spring"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 springs")},
+    {&vkd::dbo::GroupContents::bricks, QT_TRANSLATE_NOOP("workbench::GroupList", "1 brick"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 bricks")},
+};
+
+QString contentsText(const vkd::dbo::GroupContents& contents)
+{
+    QStringList texts;
+    for (const ElementSort& sort : ElementSorts) {
+        const int count = contents.*sort.count;
+        if (count == 1)
+            texts << GroupList::tr(sort.one);
+        else if (count > 1)
+            texts << GroupList::tr(sort.many).arg(count);
+    }
+    return texts.join(QLatin1String(", "));
+}
+
 int groupOf(const QTreeWidgetItem* item)
 {
     return item ? item->data(NumberColumn, Qt::DisplayRole).toInt() : int(AnimatorView::NoGroup);
@@ -27,7 +61,7 @@ GroupList::GroupList(QWidget* parent)
     setAllColumnsShowFocus(true);
     viewport()->setMouseTracking(true);
     connect(this, &QTreeWidget::itemEntered, this, &GroupList::pointAt);
-    connect(this, &QTreeWidget::currentItemChanged, this, &GroupList::pointAt);
+    connect(this, &QTreeWidget::currentItemChanged, this, &GroupList::pointAtCurrent);
     connect(this, &QTreeWidget::itemActivated, this,
             [this](const QTreeWidgetItem* item) { Q_EMIT groupChosen(groupOf(item)); });
     setTexts();
@@ -63,10 +97,22 @@ void GroupList::changeEvent(QEvent* event)
     }
 }
 
+void GroupList::focusInEvent(QFocusEvent* event)
+{
+    QTreeWidget::focusInEvent(event);
+    pointAtCurrent();
+}
+
+void GroupList::focusOutEvent(QFocusEvent* event)
+{
+    QTreeWidget::focusOutEvent(event);
+    pointAtCurrent();
+}
+
 bool GroupList::viewportEvent(QEvent* event)
 {
     if (event->type() == QEvent::Leave)
-        pointAt(currentItem());
+        pointAtCurrent();
     return QTreeWidget::viewportEvent(event);
 }
 
@@ -80,20 +126,6 @@ void GroupList::setTexts()
 
 void GroupList::fill()
 {
-    const auto contentsText = [](const vkd::dbo::GroupContents& contents) {
-        QStringList parts;
-        const auto add = [&parts](int count, const QString& text) {
-            if (count)
-                parts << text.arg(count);
-        };
-        add(contents.quads, tr("Quads %1"));
-        add(contents.beams, tr("Beams %1"));
-        add(contents.trusses, tr("Trusses %1"));
-        add(contents.cables, tr("Cables %1"));
-        add(contents.springs, tr("Springs %1"));
-        add(contents.bricks, tr("Solids %1"));
-        return parts.join(QLatin1String(", "));
-    };
     const int current = groupOf(currentItem());
     clear();
     const auto groups =
@@ -114,6 +146,12 @@ void GroupList::fitColumns()
 {
     for (int column = 0; column < columnCount(); ++column)
         resizeColumnToContents(column);
+}
+
+/// Who works elsewhere wants to see the whole model.
+void GroupList::pointAtCurrent()
+{
+    pointAt(hasFocus() ? currentItem() : nullptr);
 }
 
 void GroupList::pointAt(const QTreeWidgetItem* item)

@@ -20,19 +20,23 @@ public:
     void setMarkedGroup(int group);
 
 Q_SIGNALS:
-    /// The group below the mouse or, without one, the current group; or AnimatorView::NoGroup.
+    /// The group below the mouse or, without one, the current group while the list has the focus;
+    /// or AnimatorView::NoGroup.
     void groupPointed(int group);
     /// The user activated a group, by Enter or a double click.
     void groupChosen(int group);
 
 protected:
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
 private:
     void setTexts();
     void fill();
     void fitColumns();
+    void pointAtCurrent();
     void pointAt(const QTreeWidgetItem* item);
 
     int m_index = -1;
