@@ -1,6 +1,7 @@
 #include "ProjectTest.h"
 
 #include <exportSheets.h>
+#include <LoadCaseTable.h>
 #include <ModelImages.h>
 #include <readSheetPlan.h>
 #include <sheetCaptions.h>
@@ -268,6 +269,28 @@ private Q_SLOTS:
         preview.setPlan(SheetPlan());
         QVERIFY(!number->isEnabled());
         QVERIFY(view->sheetRect().isNull());
+    }
+
+    /// Plots without a load case to choose can be checked, but there is no picture of them.
+    void withoutLoadCases()
+    {
+        const auto window = open("without.zob");
+        trigger(*window, "SheetPreviewAction");
+        auto preview = window->findChild<SheetPreview*>();
+        changeChoice(*window);
+        auto dialog = find<QDialog>(*window, "OutputDialog");
+        dialog->findChild<LoadCaseTable*>()->setLeftOutNumbers({1, 2, 3, 4, 5, 6, 7});
+        auto tree = dialog->findChild<QTreeWidget*>();
+        for (int top = 0; top < tree->topLevelItemCount(); ++top)
+            tree->topLevelItem(top)->setCheckState(0, Qt::Checked);
+        // What had to be taken from the script would be called "MATE LEGE".
+        QTRY_COMPARE(captions(preview->plan()).first(),
+                     QStringLiteral("System \u2013 Overview \u2013 Materials|"));
+        for (const SheetPicture& picture : preview->plan().pictures)
+            QVERIFY2(!picture.caption.isEmpty(), qPrintable(picture.command));
+        trigger(*window, "German");
+        QTRY_COMPARE(captions(preview->plan()).first(),
+                     QStringLiteral("System \u2013 \u00DCbersicht \u2013 Baustoffe|"));
     }
 
     void followsTheChoice()

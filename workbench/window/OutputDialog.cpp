@@ -75,6 +75,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
     , m_view(new AnimatorView(document->index(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
     , m_names(std::move(names))
+    , m_waiting(m_page->findChild<QTreeWidget*>(), m_names)
 {
     setWindowTitle(tr("Graphical output"));
     setModal(false);
@@ -225,7 +226,7 @@ void OutputDialog::namePlots()
 QVector<PlotCaption> OutputDialog::captions()
 {
     namePlots();
-    return plotCaptions(*m_page->findChild<QTreeWidget*>());
+    return plotCaptions(*m_page->findChild<QTreeWidget*>(), m_waiting);
 }
 
 OutputState OutputDialog::state()

@@ -3,6 +3,7 @@
 #include "OutputState.h"
 #include "plotCaptions.h"
 #include "PlotNames.h"
+#include "WaitingPlots.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
@@ -71,11 +72,12 @@ private:
     VKD_H_PluginParameter m_parameter;
     AnimatorView* m_view;
     VKD_P_WidgetGraphicalOutput* m_page;
+    PlotNames m_names;
+    WaitingPlots m_waiting; ///< outlives the page
     LoadCaseTable* m_loadCases = nullptr;
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
     VKD_P_WidgetGraphicalOutput_TableWidgetData m_tableBinding;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
-    PlotNames m_names;
     bool m_arePlotsToName = true; // since the tree was filled
     QTimer m_changes;
     QString m_unchanged;

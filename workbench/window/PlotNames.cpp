@@ -34,6 +34,14 @@ void PlotNames::apply(QTreeWidget* tree) const
         rename(tree->topLevelItem(i), {});
 }
 
+QStringList PlotNames::renamed(const QStringList& captions) const
+{
+    QStringList names;
+    for (int depth = 1; depth <= captions.size(); ++depth)
+        names << m_names.value(captions.mid(0, depth), captions[depth - 1]);
+    return names;
+}
+
 /// Rows of load cases have names of the project's, which no catalogue has at this depth.
 void PlotNames::rename(QTreeWidgetItem* item, QStringList path) const
 {

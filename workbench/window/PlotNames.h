@@ -27,6 +27,8 @@ public:
     /// Names what was filled in the first language. What has no other name, or no certain one
     /// because two plots of the same captions differ in the other language, keeps its own.
     void apply(QTreeWidget* tree) const;
+    /// The captions from the top down to a plot after that.
+    QStringList renamed(const QStringList& captions) const;
 
 private:
     void add(const QStringList& path, const QString& name);

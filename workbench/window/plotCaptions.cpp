@@ -1,5 +1,7 @@
 #include "plotCaptions.h"
 
+#include "WaitingPlots.h"
+
 #include <QTreeWidget>
 
 namespace workbench {
@@ -41,7 +43,7 @@ void addRows(const QTreeWidgetItem* plot, QVector<PlotCaption>* captions)
 }
 } // namespace
 
-QVector<PlotCaption> plotCaptions(const QTreeWidget& tree)
+QVector<PlotCaption> plotCaptions(const QTreeWidget& tree, const WaitingPlots& waiting)
 {
     QVector<PlotCaption> captions;
     for (int top = 0; top < tree.topLevelItemCount(); ++top)
@@ -51,7 +53,7 @@ QVector<PlotCaption> plotCaptions(const QTreeWidget& tree)
                 const QTreeWidgetItem* plot = parent->child(i);
                 if (plot->childCount() > 0)
                     addRows(plot, &captions);
-                else if (isChecked(plot))
+                else if (isChecked(plot) && !waiting.contains(plot))
                     captions.append({pathOf(plot), 0, QString()});
             }
         }
