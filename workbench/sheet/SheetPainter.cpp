@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <iterator>
 
 namespace workbench {
 
@@ -23,6 +24,7 @@ constexpr double CapitalShare = 0.72; // of the size of a font is the height of 
 constexpr double LineShare = 1.5;     // of a line of text, in sizes of its font
 const QColor Ink(Qt::black);
 const QColor PaleInk(90, 90, 90);
+const QColor Shadow(222, 222, 222);
 
 QFont fontOf(const QPainter& painter, double capitals)
 {
@@ -74,6 +76,34 @@ QRectF frameRect(const QRectF& area, const SheetPlan& plan, int place)
 bool isLegend(const SheetPicture& picture)
 {
     return picture.command.endsWith(QLatin1String(" LEGE"));
+}
+
+/// Stands in for a list whose entries the graphics program knows: lines with a sample and two
+/// words each, in the font of the painter.
+void sketchLegend(QPainter& painter, const QRectF& frame)
+{
+    const double line = lineHeight(painter.font());
+    const double unit = qMin(line, qMin(frame.height() / 11.0, frame.width() / 24.0));
+    const double sample = 0.7 * unit;
+    const double pitch = 1.8 * unit;
+    const double words[][2] = {{7.0, 9.0}, {9.0, 6.0}, {6.0, 8.0}, {8.0, 10.0}};
+    const double left = frame.center().x() - 10.0 * unit;
+    const double top = frame.center().y() - pitch;
+    painter.setPen(PaleInk);
+    painter.drawText(QRectF(frame.left(), top - 0.8 * unit - line, frame.width(), line),
+                     Qt::AlignCenter, SheetPainter::tr("Legend"));
+    painter.setPen(Qt::NoPen);
+    for (int row = 0; row < int(std::size(words)); ++row) {
+        const double y = top + 0.4 * pitch + row * pitch;
+        painter.setBrush(Shadow.darker(100 + 15 * row));
+        painter.drawRect(QRectF(left, y, 1.6 * sample, sample));
+        painter.setBrush(Shadow);
+        double x = left + 2.5 * unit;
+        for (double word : words[row]) {
+            painter.drawRect(QRectF(x, y + 0.25 * sample, word * unit, 0.5 * sample));
+            x += (word + 0.6) * unit;
+        }
+    }
 }
 
 QString viewText(const PictureView& view)
@@ -178,12 +208,15 @@ QString SheetPainter::paintModel(QPainter& painter, const QRectF& frame, const S
                                  const SheetPicture& picture)
 {
     const PictureView& view = plan.views[picture.view];
-    const bool legend = isLegend(picture);
-    if (legend || m_models->isEmpty()) {
+    if (isLegend(picture)) {
+        sketchLegend(painter, frame);
+        return QString();
+    }
+    if (m_models->isEmpty()) {
         painter.setPen(PaleInk);
         painter.drawText(frame, Qt::AlignCenter | Qt::TextWordWrap,
-                         legend ? tr("Legend") : tr("The project holds no structural model."));
-        return legend ? QString() : viewText(view);
+                         tr("The project holds no structural model."));
+        return viewText(view);
     }
     const QSizeF size = frame.size() / Mm;
     const double scale = m_models->scale(view, size, plan.scale);
