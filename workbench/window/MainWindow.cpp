@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "DesignDialog.h"
+#include "DockShares.h"
 #include "GroupList.h"
 #include "OutputDialog.h"
 #include "PickBanner.h"
@@ -97,6 +98,9 @@ void MainWindow::addDocks()
     const int letter = fontMetrics().averageCharWidth();
     resizeDocks({m_groupDock, m_scriptDock}, {45 * letter, 60 * letter}, Qt::Horizontal);
     resizeDocks({m_recordDock}, {10 * fontMetrics().height()}, Qt::Vertical);
+    auto shares = new DockShares(this); // the list of groups needs no more room than it has
+    shares->add({m_scriptDock, m_sheetDock}, Qt::Horizontal);
+    shares->add({m_recordDock}, Qt::Vertical);
 }
 
 QDockWidget* MainWindow::addDock(Qt::DockWidgetArea area, QWidget* widget, const char* name)
