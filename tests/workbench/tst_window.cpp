@@ -116,6 +116,19 @@ private Q_SLOTS:
         const auto window = open("pick.zob");
         auto records = find<QTableWidget>(*window, "Records");
         QCOMPARE(records->rowCount(), 53);
+        // What is below the mouse in the view is marked in the list.
+        auto groups = find<QTreeWidget>(*window, "GroupList");
+        const auto marked = [groups] {
+            int rows = 0;
+            for (int row = 0; row < groups->topLevelItemCount(); ++row)
+                rows += groups->topLevelItem(row)->background(0).style() != Qt::NoBrush;
+            return rows;
+        };
+        auto view = find<QWidget>(*window, "AnimatorView");
+        QTest::mouseMove(view, view->rect().center());
+        QTRY_COMPARE(marked(), 1);
+        QTest::mouseMove(view, {5, 5});
+        QTRY_COMPARE(marked(), 0);
         bool isNewRowSeen = false;
         whenModal([&isNewRowSeen](QWidget* dialog) {
             find<QPushButton>(*dialog, "btnNew")->click();
@@ -123,7 +136,7 @@ private Q_SLOTS:
             const QRect row = table->visualItemRect(table->item(table->rowCount() - 1, 0));
             isNewRowSeen = table->viewport()->rect().contains(row);
             table->setCurrentCell(table->rowCount() - 1, 0);
-            whenModal([](QWidget* groups) { find<QPushButton>(*groups, "pick")->click(); });
+            whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
             find<QPushButton>(*table, "buttonGroups")->click();
         });
         trigger(*window, "Design");
@@ -131,17 +144,6 @@ private Q_SLOTS:
         auto banner = find<QWidget>(*window, "PickBanner");
         QVERIFY(banner->isVisible());
         QVERIFY(!window->close()); // the dialog is not done
-        auto groups = find<QTreeWidget>(*window, "GroupList");
-        // What is below the mouse in the view is marked in the list.
-        for (int group : {3, -1}) {
-            QMetaObject::invokeMethod(find<QWidget>(*window, "AnimatorView"), "groupHovered",
-                                      Q_ARG(int, group));
-            QStringList marked;
-            for (int row = 0; row < groups->topLevelItemCount(); ++row)
-                if (groups->topLevelItem(row)->background(0).style() != Qt::NoBrush)
-                    marked << groups->topLevelItem(row)->text(0);
-            QCOMPARE(marked.join(QLatin1Char(' ')), group < 0 ? QString() : QString::number(group));
-        }
         for (int row : {5, 6}) {
             groups->setCurrentItem(groups->topLevelItem(row));
             QTest::keyClick(groups, Qt::Key_Return);
@@ -156,6 +158,27 @@ private Q_SLOTS:
         QVERIFY(!banner->isVisible());
         QCOMPARE(text, QStringLiteral("6;7"));
         QCOMPARE(records->columnCount(), before + 2);
+    }
+
+    /// In many small steps, as under the mouse.
+    void docksGrowWithTheWindow()
+    {
+        const auto window = open("docks.zob");
+        window->resize(1200, 800);
+        const auto script = find<QWidget>(*window, "ScriptDock");
+        const auto records = find<QWidget>(*window, "RecordDock");
+        const QSize before(script->width(), records->height());
+        const auto drag = [&](int from, int to) {
+            for (int step = from; step != to; step += from < to ? 1 : -1)
+                window->resize(1200 + 2 * step, 800 + step);
+            window->resize(1200 + 2 * to, 800 + to);
+        };
+        drag(0, 400);
+        QVERIFY2(script->width() > 1.5 * before.width(), QByteArray::number(script->width()));
+        QVERIFY2(records->height() > 1.3 * before.height(), QByteArray::number(records->height()));
+        drag(400, -150); // too small for the shares
+        drag(-150, 0);
+        QCOMPARE(QSize(script->width(), records->height()), before);
     }
 
     void writeProtectedProject()
