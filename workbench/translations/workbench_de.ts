@@ -226,8 +226,8 @@
         <translation>Lastfälle</translation>
     </message>
     <message>
-        <source>Number</source>
-        <translation>Nummer</translation>
+        <source>No.</source>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Number of the load case</source>

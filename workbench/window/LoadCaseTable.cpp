@@ -25,13 +25,14 @@ LoadCaseTable::LoadCaseTable(int index, QWidget* parent)
     verticalHeader()->hide();
     resizeColumnsToContents();
     horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void LoadCaseTable::addColumns()
 {
     const auto description = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(NoDimension);
     setHorizontalHeaderItem(NumberColumn,
-                            new VKD_H_TwHeaderLineEditItem(NumberColumn, description, tr("Number"),
+                            new VKD_H_TwHeaderLineEditItem(NumberColumn, description, tr("No."),
                                                            tr("Number of the load case"), true,
                                                            Qt::AlignRight | Qt::AlignVCenter));
     setHorizontalHeaderItem(

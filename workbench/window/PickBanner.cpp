@@ -24,9 +24,14 @@ PickBanner::PickBanner(QWidget* parent)
         label->setForegroundRole(QPalette::HighlightedText);
         label->setWordWrap(true); // the banner is not to widen the view
     }
+    QFont bold = font();
+    bold.setBold(true);
+    m_picked->setFont(bold);
     auto layout = new QHBoxLayout(this);
-    layout->addWidget(m_what, 1);
-    layout->addWidget(m_picked, 1);
+    auto texts = new QVBoxLayout;
+    texts->addWidget(m_what);
+    texts->addWidget(m_picked);
+    layout->addLayout(texts, 1);
     layout->addWidget(m_done);
     layout->addWidget(m_cancel);
     connect(m_done, &QPushButton::clicked, this, &PickBanner::done);

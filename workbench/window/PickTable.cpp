@@ -38,6 +38,7 @@ PickTable::PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, c
     setTabKeyNavigation(false);
     verticalHeader()->hide();
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter); // as the cells
     horizontalHeader()->setSectionResizeMode(NumberColumn, QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
     // For the space key, without the looks of a choice.

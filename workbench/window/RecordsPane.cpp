@@ -124,6 +124,9 @@ void RecordsPane::setTexts()
     for (int record = 1; record <= columnCount() - HeadColumns; ++record)
         labels << tr("Record %1").arg(record);
     setHorizontalHeaderLabels(labels);
+    for (int column = 0; column < columnCount(); ++column)
+        horizontalHeaderItem(column)->setTextAlignment(
+            int((column < HeadColumns ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter));
     resizeColumnsToContents();
 }
 
