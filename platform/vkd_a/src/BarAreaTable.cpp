@@ -26,6 +26,12 @@ int nearest(const List& values, double wanted)
             found = i;
     return found;
 }
+
+/// Lengths in metres that nobody tells apart.
+bool isSame(double a, double b)
+{
+    return std::fabs(a - b) < 1e-6;
+}
 } // namespace
 
 BarAreaTable::BarAreaTable(const QVector<float>& diameters, QWidget* parent, const char* name)
@@ -68,10 +74,16 @@ void BarAreaTable::showLayout(const VkdBarLayout& layout)
 {
     const VKD_QT_SignalBlocker blocker(this);
     showAreas(layout.barsPerPlace);
-    if (layout.spacing > 0)
-        setCurrentCell(nearest(m_diameters, layout.diameter), nearest(Spacings, layout.spacing));
-    else
-        clearSelection();
+    clearSelection();
+    if (layout.spacing <= 0)
+        return;
+    const int row = nearest(m_diameters, layout.diameter);
+    const int column = nearest(Spacings, layout.spacing);
+    // The keys go on from the nearest cell, but only one of this very layout looks chosen.
+    const bool isThere =
+        isSame(m_diameters[row], layout.diameter) && isSame(Spacings[column], layout.spacing);
+    setCurrentCell(row, column,
+                   isThere ? QItemSelectionModel::Select : QItemSelectionModel::NoUpdate);
 }
 
 void BarAreaTable::showAreas(int barsPerPlace)
