@@ -110,7 +110,7 @@ QString viewText(const PictureView& view)
 {
     switch (view.kind) {
     case PictureView::Unset: break;
-    case PictureView::Spatial: return SheetPainter::tr("3D standard");
+    case PictureView::Spatial: return SheetPainter::tr("3D Standard");
     case PictureView::Flat: return SheetPainter::tr("Plane view");
     case PictureView::PlaneXY: return SheetPainter::tr("X/Y plane");
     case PictureView::PlaneXZ: return SheetPainter::tr("X/Z plane");

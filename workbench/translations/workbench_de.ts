@@ -105,7 +105,7 @@
 <context>
     <name>workbench::DesignDialog</name>
     <message>
-        <source>Design parameters</source>
+        <source>Design Parameters</source>
         <translation>Bemessungsparameter</translation>
     </message>
 </context>
@@ -498,7 +498,7 @@ Soll sie gespeichert werden?</translation>
 <context>
     <name>workbench::OutputDialog</name>
     <message>
-        <source>Graphical output</source>
+        <source>Graphical Output</source>
         <translation>Grafische Ausgabe</translation>
     </message>
     <message>
@@ -610,7 +610,7 @@ Soll sie gespeichert werden?</translation>
         <translation>Skript</translation>
     </message>
     <message>
-        <source>No plot is chosen. Choose plots in Graphical output.</source>
+        <source>No plot is chosen. Choose plots in Graphical Output.</source>
         <translation>Es ist kein Bild gewählt. Bilder werden in der grafischen Ausgabe gewählt.</translation>
     </message>
     <message>
@@ -633,7 +633,7 @@ Soll sie gespeichert werden?</translation>
 <context>
     <name>workbench::TextOutputDialog</name>
     <message>
-        <source>Text output</source>
+        <source>Text Output</source>
         <translation>Textausgabe</translation>
     </message>
     <message>
@@ -727,7 +727,7 @@ Soll sie gespeichert werden?</translation>
 <context>
     <name>workbench::SheetPainter</name>
     <message>
-        <source>3D standard</source>
+        <source>3D Standard</source>
         <translation>3D-Standard</translation>
     </message>
     <message>
@@ -857,7 +857,7 @@ Soll sie gespeichert werden?</translation>
         <translation>Blatt</translation>
     </message>
     <message>
-        <source>No plot is chosen. Choose plots in Graphical output.</source>
+        <source>No plot is chosen. Choose plots in Graphical Output.</source>
         <translation>Es ist kein Bild gewählt. Bilder werden in der grafischen Ausgabe gewählt.</translation>
     </message>
 </context>

@@ -48,7 +48,7 @@ DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
     , m_document(document)
     , m_desk(VKD_H_ZOBDoc::scratch())
 {
-    setWindowTitle(tr("Design parameters"));
+    setWindowTitle(tr("Design Parameters"));
     new QVBoxLayout(this);
     resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28);
 }

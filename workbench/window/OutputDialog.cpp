@@ -77,7 +77,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
     , m_names(std::move(names))
     , m_waiting(m_page->findChild<QTreeWidget*>(), m_names)
 {
-    setWindowTitle(tr("Graphical output"));
+    setWindowTitle(tr("Graphical Output"));
     setModal(false);
     resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40);
     m_changes.setSingleShot(true);

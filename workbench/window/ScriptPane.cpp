@@ -123,7 +123,7 @@ void ScriptPane::setTexts()
     m_language->setItemText(English, tr("English"));
     m_language->setAccessibleName(tr("Language of the keywords"));
     m_text->setAccessibleName(tr("Script"));
-    m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical output."));
+    m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical Output."));
     m_copy->setText(tr("&Copy"));
     m_copy->setToolTip(tr("Puts the script on the clipboard"));
     m_save->setText(tr("S&ave..."));

@@ -43,7 +43,7 @@ std::list<Group::ButtonID> kindsOf(const CombinationTable& table)
 TextOutputDialog::TextOutputDialog(int index, QWidget* parent)
     : VKD_H_Dialog(parent, "TextOutputDialog")
 {
-    setWindowTitle(tr("Text output"));
+    setWindowTitle(tr("Text Output"));
     new QVBoxLayout(this);
     addExtent();
     addLoadCases(index);
