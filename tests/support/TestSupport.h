@@ -27,6 +27,20 @@ struct Text : QString
     }
 };
 
+/// For a function of a text with many cases of text and result: a line for each case that comes out
+/// otherwise, so that nothing is to be left.
+template <typename Function>
+QString differences(std::initializer_list<QPair<Text, Text>> cases, const Function& function)
+{
+    QString lines;
+    for (const auto& one : cases) {
+        const QString result = function(QString(one.first));
+        if (result != one.second)
+            lines += QStringLiteral("\n%1: %2 instead of %3").arg(one.first, result, one.second);
+    }
+    return lines;
+}
+
 /// The columns of a data function by name; called, it adds a row with its name and its values.
 template <typename... Values>
 class Columns
@@ -51,6 +65,7 @@ public:
 } // namespace testsupport
 
 using testsupport::Columns;
+using testsupport::differences;
 
 #define PLIB_TEST_MAIN(TestClass)                   \
     int main(int argc, char* argv[])                \

@@ -4,6 +4,12 @@
 
 #include <QTemporaryDir>
 
+static cd_error_t put(int index)
+{
+    const int length = 1;
+    return vkd_zob_put(index, 77, 1, "x", &length, 1);
+}
+
 class TestDocuments : public QObject
 {
     Q_OBJECT
@@ -11,9 +17,9 @@ class TestDocuments : public QObject
 private Q_SLOTS:
     void life()
     {
-        const QString path = m_folder.filePath(QStringLiteral("Träger.vkd"));
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("Träger.vkd"));
         const QRegularExpression notOpen(QStringLiteral("no project is open"));
-        const int length = 1;
         auto document = VKD_H_ZOBDoc::create(path);
         const auto again = VKD_H_ZOBDoc::open(path);
         QVERIFY(document && again && document->path() == path);
@@ -24,28 +30,22 @@ private Q_SLOTS:
             QCOMPARE(again->index(), -1);
         }
         QTest::ignoreMessage(QtWarningMsg, notOpen);
-        QCOMPARE(vkd_zob_put(second, 1, 1, "x", &length, 1), int(VKD_ZOB_NOT_OPEN));
-        QCOMPARE(vkd_zob_put(first, 1, 1, "x", &length, 1), int(VKD_ZOB_OK));
+        QCOMPARE(put(second), int(VKD_ZOB_NOT_OPEN));
+        QCOMPARE(put(first), int(VKD_ZOB_OK));
         document.reset(); // closes
         QTest::ignoreMessage(QtWarningMsg, notOpen);
-        QCOMPARE(vkd_zob_put(first, 1, 1, "x", &length, 1), int(VKD_ZOB_NOT_OPEN));
+        QCOMPARE(put(first), int(VKD_ZOB_NOT_OPEN));
     }
 
-    void scratch()
+    void scratchKeepsItsRecords()
     {
-        const int length = 1, key1 = 77, key2 = 1;
-        auto document = VKD_H_ZOBDoc::scratch();
-        QCOMPARE(vkd_zob_put(document->index(), key1, key2, "x", &length, 0), int(VKD_ZOB_OK));
-        QCOMPARE(document->close(), int(VKD_ZOB_OK));
-        document = VKD_H_ZOBDoc::scratch();
+        QCOMPARE(put(VKD_H_ZOBDoc::scratch()->index()), int(VKD_ZOB_OK)); // and is closed again
         char kept = 0;
         int room = 1;
-        QCOMPARE(vkd_zob_get(document->index(), key1, key2, &kept, &room, 0), int(VKD_ZOB_OK));
+        QCOMPARE(vkd_zob_get(VKD_H_ZOBDoc::scratch()->index(), 77, 1, &kept, &room, 0),
+                 int(VKD_ZOB_OK));
         QCOMPARE(kept, 'x');
     }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 PLIB_TEST_MAIN(TestDocuments)

@@ -27,10 +27,13 @@ VKD_H_LineEdit* field(QWidget* parent, int code, const char* name = "field")
                               QStringLiteral("from the surface"), true);
 }
 
-void type(QWidget* widget, const char* text)
+/// Types in place of what is there; an empty text deletes it.
+void type(QLineEdit* edit, const char* text)
 {
-    static_cast<QLineEdit*>(widget)->selectAll();
-    QTest::keyClicks(widget, QString::fromUtf8(text));
+    edit->selectAll();
+    if (!*text)
+        QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, QLatin1String(text));
 }
 
 quint32 bitsOf(double value)
@@ -47,14 +50,11 @@ struct Dialog
     Dialog()
     {
         auto layout = new VKD_QT_VBoxLayout(&box);
-        first = field(&box, Distance, "first");
-        second = field(&box, Distance, "second");
         auto buttons = new VKD_QT_Ok(&box, 3, "buttons");
         for (QWidget* widget : {static_cast<QWidget*>(first), static_cast<QWidget*>(second),
                                 static_cast<QWidget*>(buttons)})
             layout->addWidget(widget);
         QObject::connect(buttons->cmdOk(), &QPushButton::clicked, &box, &QDialog::accept);
-        QObject::connect(buttons->cmdCancel(), &QPushButton::clicked, &box, &QDialog::reject);
         first->setVal(0.03);
         second->setVal(0.04);
         box.show();
@@ -63,8 +63,8 @@ struct Dialog
     }
 
     VKD_QT_Dialog box;
-    VKD_H_LineEdit* first;
-    VKD_H_LineEdit* second;
+    VKD_H_LineEdit* first = field(&box, Distance, "first");
+    VKD_H_LineEdit* second = field(&box, Distance, "second");
 };
 
 /// An editable combo with preset crack widths, as its callers build one.
@@ -97,39 +97,25 @@ class TestLineEdit : public QObject
 private Q_SLOTS:
     void init() { setLanguage(English); }
 
-    void everyFloatComesBack_data()
-    {
-        QTest::addColumn<int>("code");
-        for (int code : {5, 1001, 1021, 1023, 1024, 1026, 1092, -1})
-            QTest::addRow("%d", code) << code;
-    }
-
     void everyFloatComesBack()
     {
-        QFETCH(const int, code);
-        const std::unique_ptr<VKD_H_LineEdit> edit(field(nullptr, code));
-        const QSignalSpy changed(edit.get(), &VKD_H_LineEdit::valueChanged);
-        QRandomGenerator random(code);
-        for (int i = 0; i < 300; ++i) {
-            const quint32 any = random.generate();
-            float value = 0;
-            std::memcpy(&value, &any, sizeof value);
-            if (i % 2 || std::isnan(value)) // widening changes a signalling NaN
-                value = float(random.generateDouble() * 200.0 - 20.0);
-            edit->setVal(double(value));
-            const quint32 bits = bitsOf(double(value));
-            QCOMPARE(bitsOf(edit->getVal()), bits);
-            QVERIFY(edit->refusal().isEmpty());
-            QTest::keyClick(edit.get(), Qt::Key_Return);
-            QCOMPARE(bitsOf(edit->getVal()), bits);
+        QRandomGenerator random(4);
+        for (int code : {5, 1001, 1021, 1023, 1024, 1026, 1092, -1}) {
+            const std::unique_ptr<VKD_H_LineEdit> edit(field(nullptr, code));
+            const QSignalSpy changed(edit.get(), &VKD_H_LineEdit::valueChanged);
+            for (int i = 0; i < 300; ++i) {
+                const quint32 any = random.generate();
+                float value = 0;
+                std::memcpy(&value, &any, sizeof value);
+                if (i % 2 || std::isnan(value)) // widening changes a signalling NaN
+                    value = float(random.generateDouble() * 200.0 - 20.0);
+                edit->setVal(double(value));
+                QVERIFY(edit->refusal().isEmpty());
+                QTest::keyClick(edit.get(), Qt::Key_Return);
+                QCOMPARE(bitsOf(edit->getVal()), bitsOf(double(value)));
+            }
+            QCOMPARE(changed.count(), 0);
         }
-        QCOMPARE(changed.count(), 0);
-        edit->setVal(0.033333333);
-        QTest::keyClicks(edit.get(), QStringLiteral("7"));
-        QCOMPARE(changed.count(), 1);
-        QTest::keyClick(edit.get(), Qt::Key_Backspace); // back at the text that was shown
-        QCOMPARE(changed.count(), 2);
-        QCOMPARE(edit->getVal(), 0.033333333);
     }
 
     void leavingWritesTheNumber()
@@ -168,23 +154,15 @@ private Q_SLOTS:
         QVERIFY(edit->hasFocus());
         QVERIFY(edit->accessibleDescription().startsWith(edit->refusal()));
         type(edit, "1234,5");
-        QVERIFY(!message->isVisible());
-        QCOMPARE(edit->refusal(), QString());
+        QVERIFY(!message->isVisible() && edit->refusal().isEmpty());
         QCOMPARE(edit->toolTip(), QStringLiteral("Axial Distance in mm\nfrom the surface"));
-        QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), nullptr);
         QCOMPARE(edit->accessibleDescription(), QStringLiteral("from the surface"));
-    }
-
-    /// Only text that could not become a number by typing on is marked while it is typed.
-    void beginningOfANumber()
-    {
-        Dialog dialog;
-        type(dialog.first, "-");
-        QVERIFY(!dialog.first->toolTip().contains(QLatin1String("number")));
-        QVERIFY(!dialog.first->refusal().isEmpty());
-        QTest::keyClick(dialog.first, Qt::Key_Tab);
-        QVERIFY(dialog.first->toolTip().contains(QLatin1String("number")));
-        QVERIFY(dialog.first->accessibleDescription().contains(QLatin1String("number")));
+        QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), nullptr);
+        type(edit, "-"); // could become a number by typing on
+        QVERIFY(!edit->refusal().isEmpty());
+        QVERIFY(!edit->toolTip().contains(QLatin1String("number")));
+        QTest::keyClick(edit, Qt::Key_Tab);
+        QVERIFY(edit->toolTip().contains(QLatin1String("number")));
     }
 
     void escape()
@@ -193,8 +171,6 @@ private Q_SLOTS:
         const QSignalSpy changed(dialog.first, &VKD_H_LineEdit::valueChanged);
         for (const char* text : {"77", "abc", ""}) {
             type(dialog.first, text);
-            if (!*text)
-                QTest::keyClick(dialog.first, Qt::Key_Delete);
             QTest::keyClick(dialog.first, Qt::Key_Escape);
             QVERIFY(dialog.box.isVisible());
             QCOMPARE(dialog.first->text(), QStringLiteral("30.0"));
@@ -204,6 +180,11 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 5); // 7, 77, back; nothing by abc; empty, back
         QTest::keyClick(dialog.first, Qt::Key_Escape);
         QVERIFY(!dialog.box.isVisible());
+        dialog.first->setVal(0.033333333);
+        QTest::keyClicks(dialog.first, QStringLiteral("7"));
+        QTest::keyClick(dialog.first, Qt::Key_Backspace); // back at the text that was shown
+        QCOMPARE(changed.count(), 7);
+        QCOMPARE(dialog.first->getVal(), 0.033333333);
     }
 
     void mouse()
@@ -237,14 +218,12 @@ private Q_SLOTS:
         Combo combo;
         combo.edit->setVal(NotSet);
         QCOMPARE(combo.box.currentText(), QString());
-        const QSignalSpy changed(combo.edit, &VKD_H_LineEdit::valueChanged);
         combo.box.setCurrentIndex(1);
         QCOMPARE(float(combo.edit->getVal()), 0.2F);
         combo.box.setCurrentIndex(3);
         QCOMPARE(combo.edit->getVal(), NotSet);
         QTest::keyClick(&combo.box, Qt::Key_Up);
         QCOMPARE(float(combo.edit->getVal()), 0.3F);
-        QCOMPARE(changed.count(), 3);
         // A preset is no typing: Escape leaves it.
         QTest::keyClick(&combo.box, Qt::Key_Escape);
         QCOMPARE(combo.edit->text(), QStringLiteral("0.30"));

@@ -51,12 +51,10 @@ private Q_SLOTS:
     void columnsByTheirIds()
     {
         const Table table;
-        QCOMPARE(table.getColumnNumber(8), 1);
-        QCOMPARE(table.getColumnNumber(1), -1);
-        QCOMPARE(table.getColumnId(0), 5);
-        QCOMPARE(table.getColumnId(-1), -1);
+        QVERIFY(table.getColumnNumber(8) == 1 && table.getColumnNumber(1) == -1);
+        QVERIFY(table.getColumnId(0) == 5 && table.getColumnId(-1) == -1);
         QVERIFY(!table.itemOnColId(0, 6));
-        table.item(0, 1)->setText(QStringLiteral("green"));
+        table.item(0, 1)->setText(QStringLiteral("green")); // no choice
         QCOMPARE(table.idAt(0), -99999);
     }
 
