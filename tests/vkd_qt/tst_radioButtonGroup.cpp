@@ -88,33 +88,24 @@ private Q_SLOTS:
         QCOMPARE(page.group->selectedButton(), 2); // the Tab key only passed through the field
     }
 
-    void usingAWidgetChoosesItsEntry_data()
-    {
-        // key: 0 is the mouse
-        const Columns<int, int> row("key", "chosen");
-        row("mouse", 0, 1);
-        row("digit", int(Qt::Key_5), 1);
-        row("delete", int(Qt::Key_Delete), 1);
-        row("enter", int(Qt::Key_Return), 0);
-        row("modifier", int(Qt::Key_Shift), 0);
-        row("help", int(Qt::Key_F1), 0);
-    }
-
     void usingAWidgetChoosesItsEntry()
     {
-        QFETCH(const int, key);
-        QFETCH(const int, chosen);
         const Page page;
-        page.group->setButton(0);
         QSignalSpy told(page.group, &VKD_QT_RadioButtonGroup::buttWasClicked);
-        page.own->setFocus();
-        if (key)
-            Page::key(Qt::Key(key));
-        else
-            QTest::mouseClick(page.own, Qt::LeftButton);
-        QCOMPARE(page.group->selectedButton(), chosen);
-        QCOMPARE(told.size(), chosen);
-        QVERIFY(page.own->hasFocus());
+        const auto press = [](Qt::Key code) { return [code] { Page::key(code); }; };
+        const auto isChosenBy = [&](const std::function<void()>& use) {
+            page.group->setButton(0);
+            told.clear();
+            page.own->setFocus();
+            use();
+            const int chosen = page.group->selectedButton();
+            return chosen == told.size() && page.own->hasFocus() ? chosen : -1;
+        };
+        for (Qt::Key use : {Qt::Key_5, Qt::Key_Delete})
+            QCOMPARE(isChosenBy(press(use)), 1);
+        for (Qt::Key none : {Qt::Key_Return, Qt::Key_Shift, Qt::Key_F1})
+            QCOMPARE(isChosenBy(press(none)), 0);
+        QCOMPARE(isChosenBy([&] { QTest::mouseClick(page.own, Qt::LeftButton); }), 1);
     }
 
     void places_data()
@@ -134,17 +125,14 @@ private Q_SLOTS:
         auto own = new QLineEdit(&group);
         group.setWidget(4, own);
         group.show();
-        QMap<int, QMap<int, int>> entryAt; // by y and x
+        QMap<int, QMap<int, QString>> entryAt; // by y and x
         for (int entry = 0; entry < 5; ++entry) {
-            const QPoint place = group.getRadioButton(entry)->geometry().center();
-            entryAt[place.y()][group.getRadioButton(entry)->x()] = entry;
+            const QRect place = group.getRadioButton(entry)->geometry();
+            entryAt[place.center().y()][place.x()] = QString::number(entry);
         }
         QStringList shown;
-        for (const auto& row : qAsConst(entryAt)) {
-            shown << QString();
-            for (int entry : row)
-                shown.last() += QString::number(entry);
-        }
+        for (const auto& row : qAsConst(entryAt))
+            shown << QStringList(row.values()).join(QString());
         QTEST(shown.join(QLatin1Char('/')), "rows");
         const QRect last = group.getRadioButton(4)->geometry();
         QVERIFY(own->x() > last.right() && own->geometry().center().y() == last.center().y());
