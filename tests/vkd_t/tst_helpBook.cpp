@@ -42,21 +42,16 @@ QImage picture(const QString& name)
                                                      : found.value<QPixmap>().toImage();
 }
 
-bool hasAnchor(const QTextDocument& document, const QString& name)
+/// To a page of the book and a place that is on it.
+bool linkLeadsSomewhere(const QUrl& link)
 {
-    for (const QTextCharFormat& format : formats(document))
-        if (format.anchorNames().contains(name))
-            return true;
-    return false;
-}
-
-bool linkLeadsSomewhere(const QString& link)
-{
-    const QUrl address(link);
-    const QString topic = QFileInfo(address.path()).completeBaseName();
-    return address.isRelative() &&
-           VKD_T_Help::show(nullptr, "MERDAN", topic.toUtf8().constData()) &&
-           (!address.hasFragment() || hasAnchor(*helpPage()->document(), address.fragment()));
+    const QString topic = QFileInfo(link.path()).completeBaseName();
+    if (!link.isRelative() || !VKD_T_Help::show(nullptr, "MERDAN", topic.toUtf8().constData()))
+        return false;
+    QStringList anchors{QString()};
+    for (const QTextCharFormat& format : formats(*helpPage()->document()))
+        anchors << format.anchorNames();
+    return anchors.contains(link.fragment());
 }
 } // namespace
 
@@ -69,17 +64,15 @@ private Q_SLOTS:
 
     void languagesHaveTheSamePages()
     {
-        const QStringList names = topicNames("de");
-        QCOMPARE(topicNames("en"), names);
-        QVERIFY(names.contains(QStringLiteral("PARA")));
-        QStringList files;
-        for (const QString& name : names)
-            files << name.toLower() + QLatin1String(".html");
-        files.sort();
+        QStringList pages;
+        for (const QString& name : topicNames("de"))
+            pages << name.toLower() + QLatin1String(".html");
+        pages.sort();
+        QCOMPARE(topicNames("en"), topicNames("de"));
         for (const char* language : {"de", "en"})
             QCOMPARE(
                 folder(language).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name),
-                files);
+                pages);
     }
 
     void page_data()
@@ -102,7 +95,7 @@ private Q_SLOTS:
             QLatin1String(" - ") + helpPage()->document()->firstBlock().text()));
         QVERIFY(helpPage()->document()->blockCount() > 10);
 
-        QSet<QString> links;
+        QSet<QUrl> links;
         for (const QTextCharFormat& format : formats(*helpPage()->document())) {
             QVERIFY2(format.isAnchor() || format.foreground().style() == Qt::NoBrush,
                      "fixed colour");
@@ -114,11 +107,11 @@ private Q_SLOTS:
                 QVERIFY2(!image.hasAlphaChannel() || qAlpha(image.pixel(1, 1)) == 255, "no ground");
             }
             if (!format.anchorHref().isEmpty())
-                links << format.anchorHref();
+                links << QUrl(format.anchorHref());
         }
         QVERIFY(!links.isEmpty());
-        for (const QString& link : qAsConst(links))
-            QVERIFY2(linkLeadsSomewhere(link), qPrintable(link));
+        for (const QUrl& link : qAsConst(links))
+            QVERIFY2(linkLeadsSomewhere(link), qPrintable(link.toString()));
     }
 };
 
