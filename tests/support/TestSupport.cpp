@@ -37,6 +37,22 @@ int run(QObject* test, int argc, char* argv[])
     return failed + warnings.size();
 }
 
+void compareCases(const std::function<QString(const QString&)>& function, const char* cases)
+{
+    const QString arrow = QStringLiteral(" =>");
+    const QStringList lines = QString::fromUtf8(cases).split(QLatin1Char('\n'));
+    QString others;
+    for (const QString& line : lines) {
+        const QString text = line.section(arrow, 0, 0);
+        const QString result = line.isEmpty() ? QString() : function(text);
+        const QString whole =
+            text + arrow + (result.isEmpty() ? result : QLatin1Char(' ') + result);
+        if (!line.isEmpty() && whole != line)
+            others += QLatin1Char('\n') + whole;
+    }
+    QVERIFY2(others.isEmpty(), qPrintable(QLatin1String("otherwise:") + others));
+}
+
 void writeFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QtTest>
 
+#include <functional>
+
 /// Makes every warning that a test did not announce by QTest::ignoreMessage() a failure of the test
 /// program. Use PLIB_TEST_MAIN in place of QTEST_GUILESS_MAIN, and WidgetTestSupport.h for widgets.
 namespace testsupport {
@@ -27,19 +29,9 @@ struct Text : QString
     }
 };
 
-/// For a function of a text with many cases of text and result: a line for each case that comes out
-/// otherwise, so that nothing is to be left.
-template <typename Function>
-QString differences(std::initializer_list<QPair<Text, Text>> cases, const Function& function)
-{
-    QString lines;
-    for (const auto& one : cases) {
-        const QString result = function(QString(one.first));
-        if (result != one.second)
-            lines += QStringLiteral("\n%1: %2 instead of %3").arg(one.first, result, one.second);
-    }
-    return lines;
-}
+/// Fails unless the function makes the result of each text in `cases`, a line "text => result"
+/// each.
+void compareCases(const std::function<QString(const QString&)>& function, const char* cases);
 
 /// The columns of a data function by name; called, it adds a row with its name and its values.
 template <typename... Values>
@@ -65,7 +57,7 @@ public:
 } // namespace testsupport
 
 using testsupport::Columns;
-using testsupport::differences;
+using testsupport::compareCases;
 
 #define PLIB_TEST_MAIN(TestClass)                   \
     int main(int argc, char* argv[])                \

@@ -42,12 +42,9 @@ Model squares()
 Model storey()
 {
     Model model = squares();
-    model.nodes.push_back({9, {2.0, 2.5, 0.0}});
-    model.nodes.push_back({10, {2.0, 2.5, 3.0}});
-    model.quads.push_back({1, 1, {1, 2, 3, 4}, 0.2});
-    model.quads.push_back({2, 2, {5, 6, 7, 8}, 0.2});
-    model.beams.push_back({3, 3, 1, {9, 10}});
-    model.beams.push_back({4, 4, 1, {5, 6}});
+    model.nodes += {{9, {2.0, 2.5, 0.0}}, {10, {2.0, 2.5, 3.0}}};
+    model.quads += {{1, 1, {1, 2, 3, 4}, 0.2}, {2, 2, {5, 6, 7, 8}, 0.2}};
+    model.beams += {{3, 3, 1, {9, 10}}, {4, 4, 1, {5, 6}}};
     return model;
 }
 
@@ -99,53 +96,38 @@ private Q_SLOTS:
         QVERIFY(isClose(axes.eye, cross(right, up)));
     }
 
-    void fixedViews_data()
-    {
-        const Columns<Position, QPointF> row("eye", "farCorner");
-        row("X/Y", {0, 0, 1}, {828, 168});
-        row("X/Z", {0, -1, 0}, {828, 88});
-        row("Y/Z", {1, 0, 0}, {628, 28});
-    }
-
     /// The whole model with a margin, in the middle, though it stands far from the origin.
     void fixedViews()
     {
-        QFETCH(const Position, eye);
-        QFETCH(const QPointF, farCorner);
+        const QList<QPair<Position, QPointF>> farCorners{
+            {{0, 0, 1}, {828, 168}}, {{0, -1, 0}, {828, 88}}, {{1, 0, 0}, {628, 28}}};
         Model model;
-        model.nodes.push_back({1, {5e6, -3e5, 100}});
-        model.nodes.push_back({2, {5e6 + 10, -3e5 + 4, 106}});
+        model.nodes += {{1, {5e6, -3e5, 100}}, {2, {5e6 + 10, -3e5 + 4, 106}}};
         model.beams.push_back({1, 1, 1, {1, 2}});
-        SceneView view = viewOf(model, eye);
-        const Picture& picture = view.picture();
-        QVERIFY(isClose(picture.point(1), farCorner));
-        QVERIFY(isClose(picture.point(0), QPointF(856, 656) - farCorner));
-        QVERIFY(isClose(view.projection().toScreen({5e6 + 10, -3e5 + 4, 106}), farCorner));
-    }
-
-    void hand_data()
-    {
-        const Columns<double, QPointF> row("roll", "way");
-        row("right", 0.0, {0.2, 0});
-        row("down", 0.0, {0, 0.2});
-        row("up left, rolled", 30.0, {-0.2, -0.1});
-        row("down, upside down", 180.0, {0, 0.2});
+        for (const auto& [eye, farCorner] : farCorners) {
+            SceneView view = viewOf(model, eye);
+            QVERIFY(isClose(view.picture().point(1), farCorner));
+            QVERIFY(isClose(view.picture().point(0), QPointF(856, 656) - farCorner));
+            QVERIFY(isClose(view.projection().toScreen({5e6 + 10, -3e5 + 4, 106}), farCorner));
+        }
     }
 
     /// Turning takes the near side of the model along with the hand.
     void hand()
     {
-        QFETCH(const double, roll);
-        QFETCH(const QPointF, way);
-        SceneView view = viewOf(squares(), {0, -1, 0});
-        Camera camera = view.camera();
-        camera.roll = roll;
-        view.setCamera(camera);
-        const QPointF before = view.projection().toScreen({0, -10, 0});
-        view.turn(way.x(), way.y());
-        const QPointF moved = view.projection().toScreen({0, -10, 0}) - before;
-        const double angle = QLineF({}, moved).angleTo(QLineF({}, way));
-        QVERIFY2(std::min(angle, 360.0 - angle) < 1.0, qPrintable(QString::number(angle)));
+        const QList<QPair<double, QPointF>> ways{
+            {0.0, {0.2, 0}}, {0.0, {0, 0.2}}, {30.0, {-0.2, -0.1}}, {180.0, {0, 0.2}}};
+        for (const auto& [roll, way] : ways) {
+            SceneView view = viewOf(squares(), {0, -1, 0});
+            Camera camera = view.camera();
+            camera.roll = roll;
+            view.setCamera(camera);
+            const QPointF before = view.projection().toScreen({0, -10, 0});
+            view.turn(way.x(), way.y());
+            const QPointF moved = view.projection().toScreen({0, -10, 0}) - before;
+            const double angle = QLineF({}, moved).angleTo(QLineF({}, way));
+            QVERIFY2(std::min(angle, 360.0 - angle) < 1.0, qPrintable(QString::number(angle)));
+        }
     }
 
     /// Straight above, the view still knows where it came from.
@@ -259,28 +241,21 @@ private Q_SLOTS:
     }
 
     /// Outlines stand out at the rim of a plate and at folds and between groups only.
-    void strongEdges_data()
-    {
-        const Columns<int, double, int> row("group", "rise", "strong");
-        row("one plate", 1, 0.5, 6);
-        row("fold", 1, 3.0, 8);
-        row("two groups", 2, 0.0, 8);
-    }
-
     void strongEdges()
     {
-        QFETCH(const int, group);
-        QFETCH(const double, rise);
-        Model model = squares();
-        model.nodes.push_back({9, {8, 0, rise}});
-        model.nodes.push_back({10, {8, 4, rise}});
-        model.quads.push_back({1, 1, {1, 2, 3, 4}, 0.2});
-        model.quads.push_back({2, group, {3, 2, 9, 10}, 0.2});
-        int strong = 0;
-        for (const Face& face : buildGeometry(model).faces)
-            for (unsigned bit = 0; bit < 4; ++bit)
-                strong += face.strongEdges >> bit & 1U;
-        QTEST(strong, "strong");
+        const auto count = [](int group, double rise) {
+            Model model = squares();
+            model.nodes += {{9, {8, 0, rise}}, {10, {8, 4, rise}}};
+            model.quads += {{1, 1, {1, 2, 3, 4}, 0.2}, {2, group, {3, 2, 9, 10}, 0.2}};
+            int strong = 0;
+            for (const Face& face : buildGeometry(model).faces)
+                for (unsigned bit = 0; bit < 4; ++bit)
+                    strong += face.strongEdges >> bit & 1U;
+            return strong;
+        };
+        QCOMPARE(count(1, 0.5), 6); // one plate
+        QCOMPARE(count(1, 3.0), 8); // fold
+        QCOMPARE(count(2, 0.0), 8); // two groups
     }
 };
 

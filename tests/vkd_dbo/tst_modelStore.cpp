@@ -123,25 +123,18 @@ private Q_SLOTS:
         QCOMPARE(getKindOfSystem(m_index, nullptr), 0);
     }
 
-    void query_data()
+    void queriesAreAboutOneThingEach()
     {
-        const Columns<int> row("row");
-        for (const Query& one : queries)
-            row(one.name, int(&one - queries));
-    }
-
-    void query()
-    {
-        QFETCH(const int, row);
-        QVERIFY(!queries[row].has(m_index, nullptr));
-        Model model;
-        queries[row].add(model);
-        QVERIFY(storeModel(m_index, model));
-        for (const Query& one : queries)
-            QVERIFY2(one.has(m_index, nullptr) == (&one == queries + row), one.name);
-        QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(QStringLiteral("no project is open")));
-        QVERIFY(!queries[row].has(77, nullptr));
+        for (const Query& asked : queries) {
+            Model model;
+            asked.add(model);
+            QVERIFY(storeModel(m_index, model));
+            for (const Query& one : queries)
+                QVERIFY2(one.has(m_index, nullptr) == (&one == &asked), one.name);
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QStringLiteral("no project is open")));
+            QVERIFY(!asked.has(77, nullptr));
+        }
     }
 
     void refusedModelLeavesTheOldOne_data()

@@ -81,16 +81,16 @@ private Q_SLOTS:
         const auto read = [](const QString& whole) {
             return allTexts(whole, Tags[0]).join(QLatin1Char('|'));
         };
-        QCOMPARE(differences({{"<A>", ""},
-                              {"<A>x</A", ""},
-                              {"x</A><A>x</A>", "x"},
-                              {"<A><A>x</A>", "x"},
-                              {"<A>y</List_4><A>x</A></A>", "x"},
-                              {"<A>y<<A>x</A>", "x"},
-                              {"<A>&lt</A><A>&;</A>", "&lt|&;"},
-                              {"<A>&#xfffff;&#x;&#x-1;&quux;</A>", "&#xfffff;&#x;&#x-1;&quux;"}},
-                             read),
-                 QString());
+        compareCases(read, R"(
+<A> =>
+<A>x</A =>
+x</A><A>x</A> => x
+<A><A>x</A> => x
+<A>y</List_4><A>x</A></A> => x
+<A>y<<A>x</A> => x
+<A>&lt</A><A>&;</A> => &lt|&;
+<A>&#xfffff;&#x;&#x-1;&quux;</A> => &#xfffff;&#x;&#x-1;&quux;
+)");
     }
 
     /// Minutes, if a part that is not closed were searched to the end of the string.
