@@ -105,7 +105,7 @@ private Q_SLOTS:
 "quads": [[1, 1, 0, 1, 2, 3, 0.2]] => quads[0][2]: node 0 does not exist
 "bricks": [[1, 1, 1, 2, 3, 1, 2, 3, 1, 0]] => bricks[0][9]: node 0 does not exist
 "areas": [[1, 1, 2, 7]] => areas[0][3]: point 7 does not exist
-"loadCases": [{"number": 1, "title": "", "kind": 3}] => loadCases[0].kind: a kind of 1 or 2 is needed
+"loadCases": [{"number":1, "title":"", "kind":3}] => loadCases[0].kind: a kind of 1 or 2 is needed
 [] => an object is needed
 {"title": "t", "kindOfSystem": 0, "groups": []} => the key "nodes" is missing
 )");

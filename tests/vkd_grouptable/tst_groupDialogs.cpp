@@ -26,23 +26,17 @@ constexpr int Old = 0x20444c4f;
 Model sample()
 {
     Model model;
-    const char* titles[] = {"Raft", "Floor slab", "Roof <b>slab</b>", "Walls"};
-    for (int i = 0; i < 4; ++i)
-        model.groups.append({i + 1, QLatin1String(titles[i])});
-    model.groups.append({12, QString()});
-    model.quads.resize(1);
-    model.quads[0].group = 1;
-    for (QVector<LineElement>* list : {&model.beams, &model.trusses, &model.cables})
-        list->resize(2);
-    model.springs.resize(1);
-    model.bricks.resize(2);
-    for (LineElement& beam : model.beams)
-        beam.group = 1;
-    for (QVector<LineElement>* list : {&model.trusses, &model.cables})
-        for (LineElement& element : *list)
-            element.group = 2;
-    model.springs[0].group = 2;
-    model.bricks[0].group = model.bricks[1].group = 2;
+    model.groups = {{1, QStringLiteral("Raft")},
+                    {2, QStringLiteral("Floor slab")},
+                    {3, QStringLiteral("Roof <b>slab</b>")},
+                    {4, QStringLiteral("Walls")},
+                    {12, QString()}};
+    model.quads += {{1, 1, {}, 0.2}};
+    model.beams += {{1, 1, 1, {}}, {2, 1, 1, {}}};
+    model.trusses += {{3, 2, 1, {}}, {4, 2, 1, {}}};
+    model.cables += {{5, 2, 1, {}}, {6, 2, 1, {}}};
+    model.springs += {{7, 2, {}, 1.0}};
+    model.bricks += {{8, 2, {}}, {9, 2, {}}};
     model.secondaryGroups = {
         {QStringLiteral("LOW"), QStringLiteral("Ground floor"), {1}, {1, 2}},
         {QStringLiteral("COLS"), QStringLiteral("Strips at columns"), {1}, {}},
@@ -91,10 +85,6 @@ public:
                 return view()->model()->index(row, column);
         return {};
     }
-    QString text(const char* group, int column) const
-    {
-        return cell(QLatin1String(group), column).data().toString();
-    }
     QString shown() const
     {
         QStringList groups;
@@ -139,56 +129,41 @@ private Q_SLOTS:
         QVERIFY(storeModel(m_project.index(), sample()));
     }
 
-    void confirmed_data()
+    void confirmedAsItIs()
     {
-        const Columns<QList<int>, QList<int>> row("checked", "confirmed");
-        row("none", {}, {});
-        row("ascending, each once", {12, 2, 12}, {2, 12});
-        row("remaining groups", {-1}, {});
-        row("not in the model", {77, 3, 0}, {0, 3, 77});
-        row("secondary ones", {Cols, 2, Old}, {2});
+        const QList<QPair<Groups, Groups>> cases{{{}, {}},
+                                                 {{12, 2, 12}, {2, 12}},
+                                                 {{-1}, {}},
+                                                 {{77, 3, 0}, {0, 3, 77}}, // not in the model
+                                                 {{Cols, 2, Old}, {2}}};
+        for (const auto& [checked, result] : cases)
+            QCOMPARE(confirmed(checked, [](const Driver& driver) { driver.enter("groups"); }),
+                     result);
     }
 
-    /// Opened and confirmed as it is, with Enter in the list.
-    void confirmed()
+    /// Whatever was checked before counts for nothing then, and nothing is picked yet.
+    void leftWithoutOk()
     {
-        QFETCH(const QList<int>, checked);
-        QFETCH(const QList<int>, confirmed);
-        Groups in(checked.begin(), checked.end()), out{8, 8};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), in, {}, nullptr, nullptr);
-        QCOMPARE(execWith(dialog, [](const Driver& driver) { driver.enter("groups"); }), 1);
-        QCOMPARE(dialog.getChecked(out), 0);
-        QCOMPARE(out, Groups(confirmed.begin(), confirmed.end()));
-        QCOMPARE(in, Groups(checked.begin(), checked.end()));
-    }
-
-    void results_data()
-    {
-        const Columns<QByteArray, int> row("button", "result");
-        row("pick", QByteArray("pick"), 6);
-        row("escape", QByteArray(), 0);
-    }
-
-    /// Whatever was checked before counts for nothing then.
-    void results()
-    {
-        QFETCH(const QByteArray, button);
-        Groups groups{3};
-        QPoint position(30, 40);
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, &position, nullptr,
-                                   "name");
-        QCOMPARE(dialog.objectName(), QStringLiteral("name"));
-        const int result = execWith(dialog, [&](const Driver& driver) {
-            QCOMPARE(dialog.pos(), position);
-            driver.press("all");
-            if (button.isEmpty())
-                QTest::keyClick(driver.view(), Qt::Key_Escape);
-            else
-                driver.press(button);
-        });
-        QTEST(result, "result");
-        dialog.getChecked(groups);
-        QCOMPARE(groups, Groups{3});
+        const int index = m_project.index();
+        for (bool picks : {true, false}) {
+            Groups groups{3};
+            QPoint position(30, 40);
+            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(index, {5}));
+            VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, &position,
+                                       nullptr);
+            const int result = execWith(dialog, [&](const Driver& driver) {
+                QCOMPARE(dialog.pos(), position);
+                driver.press("all");
+                if (picks)
+                    driver.press("pick");
+                else
+                    QTest::keyClick(driver.view(), Qt::Key_Escape);
+            });
+            QCOMPARE(result, picks ? 6 : 0);
+            QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(index, groups), picks ? -1 : 0);
+            dialog.getChecked(groups);
+            QCOMPARE(groups, Groups{3});
+        }
     }
 
     void positionOutsideOfTheScreen()
@@ -203,21 +178,23 @@ private Q_SLOTS:
     void rows()
     {
         Groups checked{77, 2};
-        const VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), checked, {2, 4, 5},
-                                         nullptr);
-        const Driver driver(const_cast<VKD_H_SelGRP_Dialog*>(&dialog));
-        QCOMPARE(driver.shown(), QStringLiteral("1 2 3 4 12 77"));
-        QCOMPARE(driver.text("3", 1), QStringLiteral("Roof <b>slab</b>"));
-        QVERIFY(!driver.cell(QStringLiteral("3"), 1)
-                     .data(Qt::ToolTipRole)
-                     .toString()
-                     .contains(QLatin1String("<b>")));
-        QCOMPARE(driver.text("1", 2), QStringLiteral("1 area, 2 beams"));
-        QCOMPARE(driver.text("2", 2), QStringLiteral("2 trusses, 2 cables, 1 spring, 2 bricks"));
-        QCOMPARE(driver.text("12", 2), QStringLiteral("no elements"));
-        QCOMPARE(driver.text("77", 3), QStringLiteral("not in the model"));
-        QCOMPARE(driver.text("2", 3), QStringLiteral("also in another row"));
-        QCOMPARE(driver.text("4", 3), QStringLiteral("used by another row"));
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), checked, {2, 4, 5}, nullptr);
+        const Driver driver(&dialog);
+        const QString wanted = QStringLiteral(
+            "1|Raft|1 area, 2 beams|\n"
+            "2|Floor slab|2 trusses, 2 cables, 1 spring, 2 bricks|also in another row\n"
+            "3|Roof <b>slab</b>|no elements|\n"
+            "4|Walls|no elements|used by another row\n"
+            "12||no elements|\n"
+            "77|||not in the model\n");
+        QString cells;
+        for (const QString& group : driver.shown().split(QLatin1Char(' ')))
+            for (int column = 0; column < 4; ++column)
+                cells += driver.cell(group, column).data().toString() +
+                         QLatin1Char(column < 3 ? '|' : '\n');
+        QCOMPARE(cells, wanted);
+        const QModelIndex title = driver.cell(QStringLiteral("3"), 1);
+        QVERIFY(!title.data(Qt::ToolTipRole).toString().contains(QLatin1String("<b>")));
         QVERIFY(driver.cell(QStringLiteral("4"), 1).data(Qt::FontRole).value<QFont>().italic());
         QCOMPARE(driver.labelText("count"),
                  QStringLiteral("2 of 6 groups checked, 1 also in another row"));
@@ -225,13 +202,10 @@ private Q_SLOTS:
 
     void filterAndButtons()
     {
-        Groups groups{1};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
-        const int result = execWith(dialog, [&](const Driver& driver) {
+        const Groups groups = confirmed({1}, [](const Driver& driver) {
             driver.type("filter", QStringLiteral(" SLAB "));
             QCOMPARE(driver.shown(), QStringLiteral("2 3"));
             driver.enter("filter");
-            QVERIFY(dialog.isVisible());
             driver.press("all");
             QCOMPARE(driver.labelText("count"),
                      QStringLiteral("3 of 5 groups checked, 1 hidden by the filter"));
@@ -243,40 +217,31 @@ private Q_SLOTS:
             driver.press("all");
             driver.enter("groups");
         });
-        QCOMPARE(result, 1);
-        dialog.getChecked(groups);
         QCOMPARE(groups, (Groups{1, 3}));
     }
 
     void typedNumbers()
     {
-        Groups groups{77};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
-        const int result = execWith(dialog, [&](const Driver& driver) {
+        const Groups groups = confirmed({77}, [](const Driver& driver) {
             driver.type("input", QStringLiteral("2-1;x<b>,8"));
             driver.enter("input");
-            QVERIFY(dialog.isVisible());
             QCOMPARE(driver.labelText("message"),
                      QStringLiteral("Cannot read: x<b>. Type numbers and ranges such as 1-5 9.\n"
                                     "There is no group 8."));
             QCOMPARE(driver.labelText("count"), QStringLiteral("3 of 6 groups checked"));
             driver.press("check"); // still the same text
             driver.enter("groups");
-            QVERIFY(dialog.isVisible()); // OK would lose what it cannot read
+            QVERIFY(driver.view()->isVisible()); // OK would lose what it cannot read
             driver.type("input", QStringLiteral("12"));
             QVERIFY(!driver.find<QLabel>("message")->isVisible());
             driver.enter("groups"); // takes what was typed along
         });
-        QCOMPARE(result, 1);
-        dialog.getChecked(groups);
         QCOMPARE(groups, (Groups{1, 2, 12, 77}));
     }
 
     void spaceTogglesSelectedRows()
     {
-        Groups groups{2};
-        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
-        const int result = execWith(dialog, [&](const Driver& driver) {
+        const Groups groups = confirmed({2}, [](const Driver& driver) {
             const QString one = QStringLiteral("1"), two = QStringLiteral("2");
             driver.view()->model()->sort(1, Qt::DescendingOrder);
             QCOMPARE(driver.shown(), QStringLiteral("4 3 1 2 12"));
@@ -287,8 +252,6 @@ private Q_SLOTS:
             QTest::keyClick(driver.view(), Qt::Key_Space);
             driver.enter("groups");
         });
-        QCOMPARE(result, 1);
-        dialog.getChecked(groups);
         QCOMPARE(groups, Groups{12});
     }
 
@@ -298,9 +261,8 @@ private Q_SLOTS:
         VKD_H_SecondaryGroupDialog dialog(m_project.doc.get(), groups, {Cols}, nullptr);
         const int result = execWith(dialog, [&](const Driver& driver) {
             QCOMPARE(driver.shown(), QStringLiteral("COLS LOW OLD"));
-            QCOMPARE(driver.text("LOW", 2), QStringLiteral("1 area, 2 beams"));
-            QCOMPARE(driver.text("OLD", 3), QStringLiteral("not in the model"));
-            QCOMPARE(driver.text("COLS", 3), QStringLiteral("used by another row"));
+            const QModelIndex low = driver.cell(QStringLiteral("LOW"), 2);
+            QCOMPARE(low.data().toString(), QStringLiteral("1 area, 2 beams"));
             driver.type("input", QStringLiteral("low;cols"));
             driver.enter("input");
             driver.enter("groups");
@@ -328,6 +290,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// What the dialog of the project, which the user has to confirm, gives back.
+    Groups confirmed(Groups groups, const std::function<void(const Driver&)>& act)
+    {
+        VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);
+        if (execWith(dialog, act) != 1)
+            QTest::qFail("not confirmed", __FILE__, __LINE__);
+        dialog.getChecked(groups);
+        return groups;
+    }
+
     TemporaryProject m_project, m_empty;
 };
 

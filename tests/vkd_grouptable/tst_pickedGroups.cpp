@@ -6,7 +6,6 @@
 #include <numeric>
 
 using Groups = std::vector<int>;
-Q_DECLARE_METATYPE(Groups)
 
 /// The selection that the 3D view leaves in a project.
 class TestPickedGroups : public QObject
@@ -16,30 +15,24 @@ class TestPickedGroups : public QObject
 private Q_SLOTS:
     void init() { m_project = std::make_unique<testsupport::TemporaryProject>(); }
 
-    void roundTrip_data()
+    void roundTrip()
     {
         Groups many(3000);
         std::iota(many.begin(), many.end(), 1);
-        const Columns<Groups, Groups> row("put", "got");
-        row("empty", Groups(), Groups());
-        row("sorted, each once", {9, 2, 9, 0}, {0, 2, 9});
-        row("secondary", {0x534c4f43, 7}, {7, 0x534c4f43});
-        row("many", many, many);
-    }
-
-    void roundTrip()
-    {
-        QFETCH(const Groups, put);
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {100, 200, 300}));
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), put));
-        m_project->doc = VKD_H_ZOBDoc::open(m_project->doc->path());
-        Groups groups{1, 2};
-        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), 0);
-        QTEST(groups, "got");
-        QVERIFY(VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()));
-        groups = {1, 2};
-        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), -1);
-        QCOMPARE(groups, (Groups{1, 2}));
+        const QList<QPair<Groups, Groups>> cases{
+            {{}, {}}, {{9, 2, 9, 0}, {0, 2, 9}}, {{0x534c4f43, 7}, {7, 0x534c4f43}}, {many, many}};
+        for (const auto& [put, got] : cases) {
+            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {100, 200, 300}));
+            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), put));
+            m_project->doc = VKD_H_ZOBDoc::open(m_project->doc->path());
+            Groups groups{1, 2};
+            QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), 0);
+            QCOMPARE(groups, got);
+            QVERIFY(VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()));
+            groups = {1, 2};
+            QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), -1);
+            QCOMPARE(groups, (Groups{1, 2}));
+        }
     }
 
     void bytesInTheProject()
@@ -53,32 +46,19 @@ private Q_SLOTS:
         QCOMPARE(bytes.left(length), QByteArray("\1\0\0\0\2\1\0\0", 8));
     }
 
-    void damaged_data()
-    {
-        const Columns<QByteArray> columns("record");
-        const auto row = [&columns](const char* name, const QByteArray& hex) {
-            columns(name, QByteArray::fromHex(hex));
-        };
-        row("cut within the count", "020000");
-        row("cut within a group", "0100000007");
-        row("fewer than counted", "0200000007000000");
-        row("more than counted", "00000000 07000000");
-        row("negative count", "ffffffff");
-        row("huge count", "ffffff7f 07000000");
-        row("the mark of remaining groups", "01000000 ffffffff");
-        row("twice the same", "02000000 07000000 07000000");
-        row("descending", "02000000 07000000 06000000");
-    }
-
     void damaged()
     {
-        QFETCH(const QByteArray, record);
-        const int length = record.size();
-        vkd_zob_put(m_project->index(), 430, 0, record.constData(), &length, 0);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is damaged")));
-        Groups groups{1, 2};
-        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), -1);
-        QCOMPARE(groups, (Groups{1, 2}));
+        for (const char* hex : {"020000", "0100000007", "0200000007000000", "00000000 07000000",
+                                "ffffffff", "ffffff7f 07000000", "01000000 ffffffff",
+                                "02000000 07000000 07000000", "02000000 07000000 06000000"}) {
+            const QByteArray record = QByteArray::fromHex(hex);
+            const int length = record.size();
+            vkd_zob_put(m_project->index(), 430, 0, record.constData(), &length, 0);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is damaged")));
+            Groups groups{1, 2};
+            QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), -1);
+            QCOMPARE(groups, (Groups{1, 2}));
+        }
     }
 
     void refused()
