@@ -26,71 +26,36 @@
 namespace testsupport {
 
 namespace {
-class Walk
-{
-public:
-    Walk(QWidget& window, const QSet<QString>& fixedColumns)
-        : m_window(window)
-        , m_fixedColumns(fixedColumns)
-    {
-    }
-
-    void look();
-    QStringList found() const { return m_found.values(); }
-
-private:
-    void note(const QWidget* widget, const QString& what);
-    void lookForNames();
-    void lookForCuts(QWidget* widget);
-    void lookForPlace(const QWidget* widget);
-    void lookAtHeader(const QHeaderView* header);
-    void lookForOrder();
-    void lookForMnemonics();
-    void lookAtMenu(const QWidget* menu);
-    void lookForShortcuts();
-
-    QWidget& m_window;
-    const QSet<QString>& m_fixedColumns;
-    QSet<QString> m_found;
-};
-
 /// Whether the widget is a part of a control that the user knows as one. The tabs of docks are the
 /// docks' titles, and Qt names their bar by the one in front.
 bool isInner(const QWidget* widget)
 {
-    return widget->focusProxy() || qobject_cast<const QMainWindow*>(widget->parentWidget()) ||
-           widget->objectName().startsWith(QLatin1String("qt_")) ||
-           qobject_cast<const QComboBox*>(widget->parentWidget()) ||
-           qobject_cast<const QLineEdit*>(widget->parentWidget());
+    const QWidget* parent = widget->parentWidget();
+    return widget->focusProxy() || widget->objectName().startsWith(QLatin1String("qt_")) ||
+           qobject_cast<const QMainWindow*>(parent) || qobject_cast<const QComboBox*>(parent) ||
+           qobject_cast<const QLineEdit*>(parent);
 }
 
-QString nameOf(const QWidget* widget, QAccessible::Text part = QAccessible::Name)
+QString spokenText(const QWidget* widget, QAccessible::Text part)
 {
     // Qt names a field of choices by what is chosen.
     if (part == QAccessible::Name && qobject_cast<const QComboBox*>(widget) &&
         !widget->accessibleName().isEmpty())
         return widget->accessibleName();
-    QAccessibleInterface* face =
-        QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+    auto face = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
     return face ? face->text(part) : QString();
 }
 
 /// The title of the box around the widget, which is read out with its name.
 QString boxTitle(const QWidget* widget)
 {
-    for (const QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
-        if (const auto box = qobject_cast<const QGroupBox*>(parent))
-            return box->title();
-    return QString();
+    do
+        widget = widget->parentWidget();
+    while (widget && !qobject_cast<const QGroupBox*>(widget));
+    return widget ? static_cast<const QGroupBox*>(widget)->title() : QString();
 }
 
-/// The place of a widget in one that lies above it.
-QRect placeIn(const QWidget* ancestor, const QWidget* widget)
-{
-    return {widget->mapTo(const_cast<QWidget*>(ancestor), QPoint()), widget->size()};
-}
-
-/// Whether the eye comes to `first` no later than to `second`.
+/// Whether the eye comes to `first` no later than to `second`, which is in the same parent.
 bool isInReadingOrder(const QRect& first, const QRect& second)
 {
     const int shared = qMin(first.bottom(), second.bottom()) - qMax(first.top(), second.top());
@@ -110,17 +75,15 @@ int widest(const QFontMetrics& metrics, const QStringList& texts)
 QSize needed(const QWidget* widget)
 {
     const QFontMetrics metrics = widget->fontMetrics();
-    if (const auto label = qobject_cast<const QLabel*>(widget)) {
-        if (!label->wordWrap())
-            return label->sizeHint();
+    const auto label = qobject_cast<const QLabel*>(widget);
+    if (label && label->wordWrap()) {
+        static const QRegularExpression breaks(QStringLiteral("[\\s/-]"));
         const int margins = label->width() - label->contentsRect().width();
-        return {
-            widest(metrics, label->text().split(QRegularExpression(QStringLiteral("[\\s/-]")))) +
-                margins,
-            label->heightForWidth(label->width())};
+        return {widest(metrics, label->text().split(breaks)) + margins,
+                label->heightForWidth(label->width())};
     }
     const auto button = qobject_cast<const QAbstractButton*>(widget);
-    if ((button && !button->text().isEmpty()) || qobject_cast<const QTabBar*>(widget))
+    if (label || (button && !button->text().isEmpty()) || qobject_cast<const QTabBar*>(widget))
         return widget->sizeHint();
     if (qobject_cast<const QGroupBox*>(widget))
         return widget->minimumSizeHint();
@@ -135,93 +98,122 @@ QSize needed(const QWidget* widget)
     return {};
 }
 
-/// The room that a field leaves to its text.
-int textWidth(const QComboBox* combo)
+/// The room that a field of choices or of text leaves to it.
+int textRoom(const QWidget* field)
 {
-    QStyleOptionComboBox option;
-    option.initFrom(combo);
-    option.editable = combo->isEditable();
-    return combo->style()
-        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
-        .width();
-}
-
-int textWidth(const QLineEdit* edit)
-{
+    const QStyle* style = field->style();
+    if (const auto combo = qobject_cast<const QComboBox*>(field)) {
+        QStyleOptionComboBox option;
+        option.initFrom(combo);
+        option.editable = combo->isEditable();
+        const auto part = QStyle::SC_ComboBoxEditField;
+        return style->subControlRect(QStyle::CC_ComboBox, &option, part, combo).width();
+    }
     QStyleOptionFrame option;
-    option.initFrom(edit);
-    option.lineWidth = edit->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, edit);
-    int width =
-        edit->style()->subElementRect(QStyle::SE_LineEditContents, &option, edit).width() - 4;
-    for (const auto button : edit->findChildren<QToolButton*>())
+    option.initFrom(field);
+    option.lineWidth = style->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field);
+    int width = style->subElementRect(QStyle::SE_LineEditContents, &option, field).width() - 4;
+    for (const auto button : field->findChildren<QToolButton*>())
         width -= button->width();
     return width;
 }
 
-void Walk::look()
+class Walk
 {
-    lookForNames();
-    lookForOrder();
-    lookForMnemonics();
-    lookForShortcuts();
-    for (QWidget* widget : visibleWidgets(m_window)) {
-        lookForCuts(widget);
-        lookForPlace(widget);
+public:
+    Walk(QWidget& window, const QSet<QString>& fixedColumns)
+        : m_window(window)
+        , m_fixedColumns(fixedColumns)
+    {
     }
-}
+
+    void look()
+    {
+        lookForNames();
+        lookForOrder();
+        lookForKeys();
+        for (QWidget* widget : visibleWidgets(m_window)) {
+            lookForCuts(widget);
+            lookForPlace(widget);
+        }
+    }
+
+    QStringList found() const { return m_found.values(); }
+
+private:
+    using Keys = QMap<QString, QString>;
+
+    void note(const QWidget* widget, const QString& what);
+    void noteTwice(Keys& known, const QString& key, const QString& owner, const QWidget* widget);
+    void lookForNames();
+    void lookForCuts(QWidget* widget);
+    void lookForPlace(const QWidget* widget);
+    void lookAtHeader(const QHeaderView* header);
+    void lookForOrder();
+    void lookAtStop(const QWidget* stop, QVector<const QWidget*>& before);
+    void lookForKeys();
+
+    QWidget& m_window;
+    const QSet<QString>& m_fixedColumns;
+    QSet<QString> m_found;
+};
 
 void Walk::note(const QWidget* widget, const QString& what)
 {
+    const QString title = m_window.windowTitle();
     m_found << QStringLiteral("%1: %2 %3 \"%4\": %5")
-                   .arg(m_window.windowTitle().isEmpty() ? m_window.objectName()
-                                                         : m_window.windowTitle(),
-                        widget->objectName(), QLatin1String(widget->metaObject()->className()),
+                   .arg(title.isEmpty() ? m_window.objectName() : title, widget->objectName(),
+                        QLatin1String(widget->metaObject()->className()),
                         textsOf(widget).join(QLatin1Char('|')).left(80), what);
+}
+
+void Walk::noteTwice(Keys& known, const QString& key, const QString& owner, const QWidget* widget)
+{
+    if (!key.isEmpty() && known.contains(key))
+        note(widget,
+             QStringLiteral("%1 of \"%2\" is also that of \"%3\"").arg(key, owner, known[key]));
+    known.insert(key, owner);
 }
 
 void Walk::lookForNames()
 {
-    QMap<QString, const QWidget*> known;
+    QMap<QString, QString> known;
     for (const QWidget* widget : visibleWidgets(m_window)) {
         if (widget->focusPolicy() == Qt::NoFocus || isInner(widget))
             continue;
-        const QString name = nameOf(widget);
-        const QString whole = name + QLatin1Char('/') + nameOf(widget, QAccessible::Description);
-        const QString key =
-            QStringList{QLatin1String(widget->metaObject()->className()), boxTitle(widget), whole}
-                .join(QLatin1Char('/'));
+        const QString name = spokenText(widget, QAccessible::Name);
+        const QString whole =
+            name + QLatin1Char('/') + spokenText(widget, QAccessible::Description);
+        const QString kind = QLatin1String(widget->metaObject()->className());
+        const QString key = kind + QLatin1Char('/') + boxTitle(widget) + QLatin1Char('/') + whole;
         if (name.trimmed().isEmpty())
             note(widget, QStringLiteral("has no accessible name"));
         else if (known.contains(key))
             note(widget, QStringLiteral("has the accessible name \"%1\" of %2")
-                             .arg(whole, known[key]->objectName()));
-        known.insert(key, widget);
+                             .arg(whole, known.value(key)));
+        known.insert(key, widget->objectName());
     }
 }
 
 void Walk::lookForCuts(QWidget* widget)
 {
     const QSize need = needed(widget);
+    const auto size = [](const QSize& of) {
+        return QStringLiteral("%1 x %2").arg(of.width()).arg(of.height());
+    };
     if (need.width() > widget->width() || need.height() > widget->height())
-        note(widget, QStringLiteral("is cut: %1 x %2 in %3 x %4")
-                         .arg(need.width())
-                         .arg(need.height())
-                         .arg(widget->width())
-                         .arg(widget->height()));
+        note(widget, QStringLiteral("is cut: %1 in %2").arg(size(need), size(widget->size())));
     if (widget->objectName() == QLatin1String("qt_toolbar_ext_button"))
         note(widget->parentWidget(), QStringLiteral("has no room for all its buttons"));
     if (const auto header = qobject_cast<QHeaderView*>(widget))
         lookAtHeader(header);
-    const QFontMetrics metrics = widget->fontMetrics();
-    if (const auto combo = qobject_cast<QComboBox*>(widget)) {
-        const int width = widest(metrics, textsOf(combo));
-        if (width > textWidth(combo) && !isInCell(combo))
-            note(combo, QStringLiteral("cuts an entry: %1 in %2").arg(width).arg(textWidth(combo)));
-    } else if (const auto edit = qobject_cast<QLineEdit*>(widget)) {
-        const int width = widest(metrics, {edit->text(), edit->placeholderText()});
-        if (width > textWidth(edit) && !isInCell(edit))
-            note(edit, QStringLiteral("cuts its text: %1 in %2").arg(width).arg(textWidth(edit)));
-    }
+    const auto edit = qobject_cast<QLineEdit*>(widget);
+    if ((!edit && !qobject_cast<QComboBox*>(widget)) || isInCell(widget))
+        return;
+    const QStringList texts = textsOf(widget) + (edit ? QStringList(edit->text()) : QStringList());
+    const int width = widest(widget->fontMetrics(), texts);
+    if (width > textRoom(widget))
+        note(widget, QStringLiteral("cuts its text: %1 in %2").arg(width).arg(textRoom(widget)));
 }
 
 /// Only what scrolls may stand out of the widget around it.
@@ -251,73 +243,49 @@ void Walk::lookForOrder()
 {
     QMap<const QWidget*, QVector<const QWidget*>> visited; // of each parent, in the order of Tab
     for (const QWidget* stop = m_window.nextInFocusChain(); stop != &m_window;
-         stop = stop->nextInFocusChain()) {
-        if (!m_window.isAncestorOf(stop) || !isInView(stop, m_window) ||
-            !(stop->focusPolicy() & Qt::TabFocus) || isInner(stop))
-            continue;
-        for (const QWidget* child = stop; child != &m_window; child = child->parentWidget()) {
-            QVector<const QWidget*>& before = visited[child->parentWidget()];
-            if (!before.isEmpty() && before.last() == child)
-                continue;
-            for (const QWidget* other : qAsConst(before))
-                if (other == child)
-                    note(child, QStringLiteral("is left and entered again by Tab at %1 %2")
-                                    .arg(QLatin1String(stop->metaObject()->className()),
-                                         stop->objectName()));
-                else if (!isInReadingOrder(placeIn(child->parentWidget(), other),
-                                           placeIn(child->parentWidget(), child)))
-                    note(child, QStringLiteral("comes behind %1 \"%2\" by Tab")
-                                    .arg(other->objectName(),
-                                         textsOf(other).join(QLatin1Char('|')).left(30)));
-            before << child;
-        }
-    }
+         stop = stop->nextInFocusChain())
+        if (m_window.isAncestorOf(stop) && isInView(stop, m_window) &&
+            (stop->focusPolicy() & Qt::TabFocus) && !isInner(stop))
+            for (const QWidget* at = stop; at != &m_window; at = at->parentWidget())
+                lookAtStop(at, visited[at->parentWidget()]);
 }
 
-void Walk::lookForMnemonics()
+void Walk::lookAtStop(const QWidget* stop, QVector<const QWidget*>& before)
 {
-    QMap<QString, QString> known;
-    const auto look = [&](const QWidget* widget, const QString& text) {
-        const QString key = QKeySequence::mnemonic(text).toString();
-        if (key.isEmpty())
-            return;
-        if (known.contains(key))
-            note(widget, QStringLiteral("%1 is also that of \"%2\"").arg(key, known.value(key)));
-        known.insert(key, text);
+    if (!before.isEmpty() && before.last() == stop)
+        return;
+    if (before.contains(stop))
+        note(stop, QStringLiteral("is left and entered again by Tab"));
+    for (const QWidget* other : qAsConst(before))
+        if (other != stop && !isInReadingOrder(other->geometry(), stop->geometry()))
+            note(stop, QStringLiteral("comes behind %1 \"%2\" by Tab")
+                           .arg(other->objectName(), textsOf(other).value(0).left(30)));
+    before << stop;
+}
+
+void Walk::lookForKeys()
+{
+    const auto mnemonic = [](const QString& text) {
+        return QKeySequence::mnemonic(text).toString();
     };
-    for (const QWidget* widget : visibleWidgets(m_window)) {
+    Keys inWindow, shortcuts;
+    for (const QWidget* widget : visibleWidgets(m_window))
         for (const QString& text : mnemonicTextsOf(widget))
-            look(widget, text);
-    }
+            noteTwice(inWindow, mnemonic(text), text, widget);
+    QWidgetList menus;
     for (const auto menu : m_window.findChildren<QMenu*>())
-        lookAtMenu(menu);
+        menus << menu;
     if (qobject_cast<QMenu*>(&m_window))
-        lookAtMenu(&m_window);
-}
-
-void Walk::lookAtMenu(const QWidget* menu)
-{
-    QMap<QString, QString> known;
-    for (const QAction* action : menu->actions()) {
-        const QString key = QKeySequence::mnemonic(action->text()).toString();
-        if (!key.isEmpty() && known.contains(key))
-            note(menu, QStringLiteral("%1 of \"%2\" is also that of \"%3\"")
-                           .arg(key, action->text(), known.value(key)));
-        known.insert(key, action->text());
+        menus << &m_window;
+    for (const QWidget* menu : qAsConst(menus)) {
+        Keys inMenu;
+        for (const QAction* action : menu->actions())
+            noteTwice(inMenu, mnemonic(action->text()), action->text(), menu);
     }
-}
-
-void Walk::lookForShortcuts()
-{
-    QMap<QString, const QAction*> known;
     for (const auto action : m_window.findChildren<QAction*>())
-        for (const QKeySequence& key : action->shortcuts()) {
-            const QAction* other = known.value(key.toString());
-            if (other && other != action && action->shortcutContext() != Qt::WidgetShortcut)
-                note(&m_window, QStringLiteral("%1 is for %2 and %3")
-                                    .arg(key.toString(), other->text(), action->text()));
-            known.insert(key.toString(), action);
-        }
+        for (const QKeySequence& key : action->shortcuts())
+            if (action->shortcutContext() != Qt::WidgetShortcut)
+                noteTwice(shortcuts, key.toString(), action->text(), &m_window);
 }
 } // namespace
 

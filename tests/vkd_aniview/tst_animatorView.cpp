@@ -310,17 +310,6 @@ private Q_SLOTS:
         }
     }
 
-    void onePoint()
-    {
-        Model model;
-        model.nodes.push_back({1, {3, 3, 3}});
-        model.beams.push_back({1, 5, 1, {1, 1}});
-        const auto view = viewOf(model);
-        view->setPicking(true);
-        drag(*view, {view->rect().center()});
-        QCOMPARE(view->pickedGroups(), Groups{5});
-    }
-
     void strangeCameras()
     {
         for (const char* text : {"camera1 1 1 1 0 1e300 0 0 1", "camera1 0 0 1 1e300 0 0 0 1e300",

@@ -64,36 +64,34 @@ class TestSceneView : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void axes_data()
-    {
-        const Columns<Position, double, Position, Position> row("eye", "roll", "right", "up");
-        const Position x{1, 0, 0};
-        const Position y{0, 1, 0};
-        const Position z{0, 0, 1};
-        row("X/Y", z, 0.0, x, y);
-        row("X/Z", {0, -1, 0}, 0.0, x, z);
-        row("Y/Z", x, 0.0, y, z);
-        row("from below", {0, 0, -1}, 0.0, x, {0, -1, 0});
-        row("length", {0, -1e-200, 0}, 0.0, x, z);
-        row("very long", {1e308, 1e308, 0}, 0.0, {-std::sqrt(0.5), std::sqrt(0.5), 0}, z);
-        row("standard", {1, -2, 1}, 0.0, {2 / std::sqrt(5), 1 / std::sqrt(5), 0},
-            {-1 / std::sqrt(30), 2 / std::sqrt(30), 5 / std::sqrt(30)});
-        row("roll", z, 90.0, {0, -1, 0}, x);
-        row("full turns", z, -1440.0, x, y);
-    }
-
     void axes()
     {
-        QFETCH(const Position, eye);
-        QFETCH(const double, roll);
-        QFETCH(const Position, right);
-        QFETCH(const Position, up);
-        Camera camera = lookingFrom(eye);
-        camera.roll = roll;
-        const ViewAxes axes = axesOf(camera);
-        QVERIFY(isClose(axes.right, right));
-        QVERIFY(isClose(axes.up, up));
-        QVERIFY(isClose(axes.eye, cross(right, up)));
+        const Position x{1, 0, 0}, y{0, 1, 0}, z{0, 0, 1};
+        const struct
+        {
+            Position eye;
+            double roll;
+            Position right, up;
+        } rows[] = {{z, 0.0, x, y},
+                    {{0, -1, 0}, 0.0, x, z},
+                    {x, 0.0, y, z},
+                    {{0, 0, -1}, 0.0, x, {0, -1, 0}},
+                    {{0, -1e-200, 0}, 0.0, x, z}, // its length does not matter
+                    {{1e308, 1e308, 0}, 0.0, {-std::sqrt(0.5), std::sqrt(0.5), 0}, z},
+                    {{1, -2, 1},
+                     0.0,
+                     {2 / std::sqrt(5), 1 / std::sqrt(5), 0},
+                     {-1 / std::sqrt(30), 2 / std::sqrt(30), 5 / std::sqrt(30)}},
+                    {z, 90.0, {0, -1, 0}, x},
+                    {z, -1440.0, x, y}};
+        for (const auto& row : rows) {
+            Camera camera = lookingFrom(row.eye);
+            camera.roll = row.roll;
+            const ViewAxes seen = axesOf(camera);
+            QVERIFY2(isClose(seen.right, row.right) && isClose(seen.up, row.up) &&
+                         isClose(seen.eye, cross(row.right, row.up)),
+                     qPrintable(QString::number(&row - rows)));
+        }
     }
 
     /// The whole model with a margin, in the middle, though it stands far from the origin.
@@ -201,8 +199,7 @@ private Q_SLOTS:
         for (int i = 0; i < 81; ++i)
             model.nodes.push_back({i + 1, {double(i % 9), double(i / 9), 0.0}});
         for (int i = 0; i < 64; ++i) {
-            const int x = i % 8;
-            const int y = i / 8;
+            const int x = i % 8, y = i / 8;
             model.quads.push_back(
                 {i, 1, {node(x, y), node(x + 1, y), node(x + 1, y + 1), node(x, y + 1)}, 0.2});
         }
@@ -214,16 +211,13 @@ private Q_SLOTS:
         QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 7, 0})), 1);
     }
 
-    void triangleAndBow()
+    void triangle()
     {
         Model model = squares();
         model.quads.push_back({1, 1, {1, 2, 3, 0}, 0.2});
-        model.quads.push_back({2, 2, {5, 6, 8, 7}, 0.2}); // its edges cross
         SceneView view = viewOf(model, {0, 0, -1});
-        const Projection projection = view.projection();
-        QCOMPARE(view.groupAt(projection.toScreen({3, 1, 0})), 1);
-        QCOMPARE(view.groupAt(projection.toScreen({1, 2, 0})), None);
-        QCOMPARE(view.groupAt(projection.toScreen({2, 3.5, 3})), 2);
+        QCOMPARE(view.groupAt(view.projection().toScreen({3, 1, 0})), 1);
+        QCOMPARE(view.groupAt(view.projection().toScreen({1, 2, 0})), None);
     }
 
     /// Two bricks on each other show ten faces, and their common one is not in the way.

@@ -36,16 +36,6 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, notOpen);
         QCOMPARE(put(first), int(VKD_ZOB_NOT_OPEN));
     }
-
-    void scratchKeepsItsRecords()
-    {
-        QCOMPARE(put(VKD_H_ZOBDoc::scratch()->index()), int(VKD_ZOB_OK)); // and is closed again
-        char kept = 0;
-        int room = 1;
-        QCOMPARE(vkd_zob_get(VKD_H_ZOBDoc::scratch()->index(), 77, 1, &kept, &room, 0),
-                 int(VKD_ZOB_OK));
-        QCOMPARE(kept, 'x');
-    }
 };
 
 PLIB_TEST_MAIN(TestDocuments)

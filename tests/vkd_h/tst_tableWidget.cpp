@@ -48,16 +48,6 @@ class tst_tableWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void columnsByTheirIds()
-    {
-        const Table table;
-        QVERIFY(table.getColumnNumber(8) == 1 && table.getColumnNumber(1) == -1);
-        QVERIFY(table.getColumnId(0) == 5 && table.getColumnId(-1) == -1);
-        QVERIFY(!table.itemOnColId(0, 6));
-        table.item(0, 1)->setText(QStringLiteral("green")); // no choice
-        QCOMPARE(table.idAt(0), -99999);
-    }
-
     void escapeLeavesTheChoice()
     {
         Table table;

@@ -111,19 +111,6 @@ private Q_SLOTS:
         QCOMPARE(m_log->take(), 1);
     }
 
-    void unknownIndex()
-    {
-        for (int index : {-1, 77}) {
-            int length = 0, key1 = 1, key2 = 1;
-            QCOMPARE(m_log->once(vkd_zob_get(index, 1, 1, nullptr, &length, 0)), VKD_ZOB_NOT_OPEN);
-            QCOMPARE(m_log->once(put(index, 1, 1, "x", 1)), VKD_ZOB_NOT_OPEN);
-            QCOMPARE(m_log->once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_NOT_OPEN);
-            QCOMPARE(m_log->once(vkd_zob_close(index)), VKD_ZOB_NOT_OPEN);
-            vkd_zob_kenq_ex(index, &key1, &key2, 1);
-            QCOMPARE(m_log->once(key1), -1);
-        }
-    }
-
     void readingPassSeesOneState()
     {
         put(m_first, 1, 2, "inner", 0);

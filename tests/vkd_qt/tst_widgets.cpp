@@ -80,20 +80,6 @@ private Q_SLOTS:
                  -1);
     }
 
-    void okInTheLanguageOfTheDesktop()
-    {
-        QStringList cancel;
-        for (int language : {0, 1}) {
-            setLanguage(language);
-            const VKD_QT_Ok row(nullptr, 3, "okayandcancelbutton");
-            QVERIFY(row.cmdOk()->isDefault());
-            cancel << row.cmdCancel()->text();
-        }
-        QCOMPARE(cancel.join(QLatin1Char('/')).remove(QLatin1Char('&')),
-                 QStringLiteral("Abbrechen/Cancel"));
-        QVERIFY(!VKD_QT_Ok(nullptr, 1, "").cmdCancel());
-    }
-
     void wheelOverACombo()
     {
         QWidget window;
@@ -147,17 +133,6 @@ private Q_SLOTS:
 )");
     }
 
-    void comboShowsPictures()
-    {
-        VKD_QT4_ComboBox combo;
-        QPixmap picture(60, 12);
-        picture.fill(Qt::black);
-        const int narrow = combo.iconSize().width();
-        combo.addItem(picture, QStringLiteral("dashed"), 2);
-        QCOMPARE(combo.getCurrentId(), 2);
-        QVERIFY(combo.iconSize().width() == 60 && narrow < 60);
-    }
-
     void tabDialogTellsItsPages()
     {
         VKD_QT_TabDialog dialog;
@@ -195,15 +170,6 @@ private Q_SLOTS:
         button.show();
         button.repaint();
         QVERIFY(button.sizeHint().width() <= narrow);
-    }
-
-    void rowsOfASelection()
-    {
-        VKD_QT_TableWidget table(6, 2);
-        table.setRangeSelected({1, 0, 2, 0}, true);
-        table.setRangeSelected({2, 1, 4, 1}, true);
-        QCOMPARE(table.getSelectetRows(), (std::set<int>{1, 2, 3, 4}));
-        QVERIFY(table.isRowSelected(4) && !table.isRowSelected(5));
     }
 
     void titleOfABoxIsNotCut()
