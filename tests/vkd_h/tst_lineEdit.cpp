@@ -151,8 +151,7 @@ private Q_SLOTS:
         QCOMPARE(edit->text(), QStringLiteral("1.234,5"));
         QCOMPARE(edit->getVal(), 0.03);
         QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), edit);
-        QVERIFY(edit->hasFocus());
-        QVERIFY(edit->accessibleDescription().startsWith(edit->refusal()));
+        QVERIFY(edit->hasFocus() && edit->accessibleDescription().startsWith(edit->refusal()));
         type(edit, "1234,5");
         QVERIFY(!message->isVisible() && edit->refusal().isEmpty());
         QCOMPARE(edit->toolTip(), QStringLiteral("Axial Distance in mm\nfrom the surface"));

@@ -62,32 +62,26 @@ private Q_SLOTS:
 )");
     }
 
-    void delivery_data()
-    {
-        const Columns<int, int, int, int, QString> row("size", "position", "key2", "status",
-                                                       "buffer");
-        row("larger buffer", 8, 0, 1, VKD_ZOB_OK, "old 0...");
-        row("just large enough", 5, 1, 1, VKD_ZOB_OK, "old 1...");
-        row("cut", 3, 0, 1, VKD_ZOB_CUT, "old.....");
-        row("cut to nothing", 0, 0, 1, VKD_ZOB_CUT, "........");
-        row("behind the end", 8, 2, 1, VKD_ZOB_END, "........");
-        row("nothing there", 8, 0, 2, VKD_ZOB_NO_KEY, "........");
-        row("no position", 8, -1, 1, VKD_ZOB_BAD_CALL, "........");
-        row("no size", -1, 0, 1, VKD_ZOB_BAD_CALL, "........");
-    }
-
     void delivery()
     {
-        QFETCH(const int, size);
-        QFETCH(const int, position);
-        QFETCH(const int, key2);
-        QFETCH(const int, status);
-        QByteArray buffer(8, '.');
-        int length = size;
-        QCOMPARE(vkd_zob_get(m_first, 1, key2, buffer.data(), &length, position), status);
-        QTEST(QString::fromUtf8(buffer), "buffer");
-        QCOMPARE(length, status == VKD_ZOB_OK ? 5 : size);
-        QCOMPARE(m_log->take(), status > VKD_ZOB_NO_KEY ? 1 : 0);
+        const struct
+        {
+            int size, position, key2, status;
+            const char* buffer;
+        } rows[] = {
+            {8, 0, 1, VKD_ZOB_OK, "old 0..."},        {5, 1, 1, VKD_ZOB_OK, "old 1..."},
+            {3, 0, 1, VKD_ZOB_CUT, "old....."},       {0, 0, 1, VKD_ZOB_CUT, "........"},
+            {8, 2, 1, VKD_ZOB_END, "........"},       {8, 0, 2, VKD_ZOB_NO_KEY, "........"},
+            {8, -1, 1, VKD_ZOB_BAD_CALL, "........"}, {-1, 0, 1, VKD_ZOB_BAD_CALL, "........"}};
+        for (const auto& row : rows) {
+            QByteArray buffer(8, '.');
+            int length = row.size;
+            QCOMPARE(vkd_zob_get(m_first, 1, row.key2, buffer.data(), &length, row.position),
+                     row.status);
+            QCOMPARE(buffer.constData(), row.buffer);
+            QCOMPARE(length, row.status == VKD_ZOB_OK ? 5 : row.size);
+            QCOMPARE(m_log->take(), row.status > VKD_ZOB_NO_KEY ? 1 : 0);
+        }
     }
 
     void nextPair()

@@ -59,38 +59,33 @@ private Q_SLOTS:
         QCOMPARE(log.once(vkd_zob_open(folder.path().toUtf8(), &index)), VKD_ZOB_NO_FILE);
     }
 
-    void readingLeavesTheFileAlone_data()
-    {
-        const Columns<bool> row("isWritable");
-        row("writable", true);
-        row("write-protected", false);
-    }
-
     void readingLeavesTheFileAlone()
     {
-        QFETCH(const bool, isWritable);
         const QDateTime longAgo(QDate(2001, 2, 3), QTime(4, 5), Qt::UTC);
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
-        file.close();
-        if (!isWritable)
-            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ReadGroup));
-        ZobLog log;
-        const int index = openProject(m_path);
-        if (!isWritable) {
-            QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
-            QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has said why
-            vkd_zob_free_ex(index, 1, 1);
-            QCOMPARE(vkd_zob_change_status(index), VKD_ZOB_READ_ONLY);
-            QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);
+        for (bool isWritable : {true, false}) {
+            QFile file(m_path);
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+            file.close();
+            if (!isWritable)
+                QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ReadGroup));
+            ZobLog log;
+            const int index = openProject(m_path);
+            if (!isWritable) {
+                QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
+                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has said why
+                vkd_zob_free_ex(index, 1, 1);
+                QCOMPARE(vkd_zob_change_status(index), VKD_ZOB_READ_ONLY);
+                QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);
+            }
+            QVERIFY(readAll(index) == m_records);
+            QCOMPARE(vkd_zob_close(index), isWritable ? VKD_ZOB_OK : VKD_ZOB_READ_ONLY);
+            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+            QVERIFY(testsupport::readFile(m_path) == m_sound);
+            QCOMPARE(QFileInfo(m_path).lastModified(), longAgo);
+            QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files),
+                     QStringList(QStringLiteral("p")));
         }
-        QVERIFY(readAll(index) == m_records);
-        QCOMPARE(vkd_zob_close(index), isWritable ? VKD_ZOB_OK : VKD_ZOB_READ_ONLY);
-        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
-        QVERIFY(testsupport::readFile(m_path) == m_sound);
-        QCOMPARE(QFileInfo(m_path).lastModified(), longAgo);
-        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("p")));
     }
 
     void create()
