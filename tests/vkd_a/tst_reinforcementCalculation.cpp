@@ -215,13 +215,14 @@ private Q_SLOTS:
     /// OK without a change keeps a value that the bars only come near to.
     void unchanged()
     {
-        const auto press = [](Qt::Key key) {
-            return [key](const Parts& parts) { QTest::keyClick(parts.window, key); };
+        const auto after = [](Qt::Key key, float value) {
+            return calculate(value, 10.0F,
+                             [key](const Parts& parts) { QTest::keyClick(parts.window, key); });
         };
         const float value = std::nextafter(5.24F, 6.0F);
-        QVERIFY(calculate(value, 10.0F, press(Qt::Key_Return)) == value); // no fuzzy comparison
-        QVERIFY(calculate(value, 10.0F, press(Qt::Key_Escape)) == value);
-        QVERIFY(calculate(NotSet, NotSet, press(Qt::Key_Return)) == 5.24F);
+        QVERIFY(after(Qt::Key_Return, value) == value); // no fuzzy comparison
+        QVERIFY(after(Qt::Key_Escape, value) == value);
+        QVERIFY(after(Qt::Key_Return, NotSet) == 5.24F);
     }
 };
 

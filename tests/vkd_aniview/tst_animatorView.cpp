@@ -193,9 +193,7 @@ private Q_SLOTS:
     void noPick()
     {
         m_view->setPicking(true);
-        const QPoint onThePlate = Left + QPoint(0, 20);
-        drag(*m_view, {Left, onThePlate, Left});
-        drag(*m_view, {Left, onThePlate});
+        drag(*m_view, {Left, Left + QPoint(0, 20), Left}); // all on the plate
         m_view->slotViewControl(AnimatorViewXY, 0.0);
         drag(*m_view, {Left}, Qt::RightButton);
         drag(*m_view, {Corner});
@@ -310,8 +308,8 @@ private Q_SLOTS:
 
     void strangeCameras()
     {
-        for (const char* text : {"camera1 1 1 1 0 1e300 0 0 1", "camera1 0 0 1 1e300 0 0 0 1e300",
-                                 "camera1 1e-300 0 0 0 1 1 1 1e-300"}) {
+        for (const char* text :
+             {"camera1 0 0 1 1e300 1e300 0 0 1e300", "camera1 1e-300 0 0 0 1 1 1 1e-300"}) {
             takeCamera(QLatin1String(text));
             drag(*m_view, {Left, Right});
             wheel(*m_view, -120);

@@ -73,6 +73,10 @@ public:
         QCoreApplication::sendEvent(viewport(), &event);
         return titles() != before;
     }
+    QImage picture(int column)
+    {
+        return viewport()->grab(visualRect(m_model.index(1, column))).toImage();
+    }
 
     QStandardItemModel& m_model;
 };
@@ -142,6 +146,16 @@ private Q_SLOTS:
         table.set_read_only(false);
         QVERIFY(late->isEnabled());
         QVERIFY(!offByHost->isEnabled());
+    }
+
+    void onlyEditFieldsAreDimmed()
+    {
+        Table table;
+        const QImage title = table.picture(0), kind = table.picture(1);
+        table.set_read_only(true);
+        QVERIFY(table.picture(0) != title && table.picture(1) == kind);
+        table.set_read_only(false);
+        QVERIFY(table.picture(0) == title);
     }
 };
 

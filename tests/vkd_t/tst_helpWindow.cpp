@@ -128,8 +128,6 @@ private Q_SLOTS:
         QCOMPARE(result->text(), QStringLiteral("Not found"));
         QVERIFY(result->isVisible() && hits().isEmpty());
         QVERIFY(!helpPage()->textCursor().hasSelection());
-        key(Qt::Key_F3);
-        QCOMPARE(title(), QStringLiteral("Crack Control"));
     }
 
     void searchMarksPlaces()
