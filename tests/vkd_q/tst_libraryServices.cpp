@@ -25,8 +25,7 @@ private Q_SLOTS:
                                  "one/sub/deep", "two/Größe"})
             testsupport::writeFile(m_folder->filePath(QString::fromUtf8(file)), "x");
         const QString base = m_folder->path() + QLatin1Char('/');
-        qputenv("VKD_SHARE",
-                QStringLiteral("%1missing::%1one:%1two/").arg(base).toUtf8()); // as users set it
+        qputenv("VKD_SHARE", QStringLiteral("%1missing::%1one:%1two/").arg(base).toUtf8());
         const auto found = [&base](const QString& name) {
             const auto path = vkd_lib_searchpath(name.toUtf8(), 3);
             return QString::fromStdString(path.value_or("none")).remove(base);

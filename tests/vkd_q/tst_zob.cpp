@@ -42,7 +42,8 @@ private Q_SLOTS:
             for (int neighbour : {6, 8})
                 put(index, 1, neighbour, "other", 0);
             for (const QByteArray& one : puts.toUtf8().split(' '))
-                put(index, 1, 7, one.mid(1), one[0] == '+' ? 1 : 0);
+                if (put(index, 1, 7, one.mid(1), one[0] == '+' ? 1 : 0) != VKD_ZOB_OK)
+                    return QStringLiteral("refused");
             cd_error_t end = -1;
             const QByteArray found = readAll(index, 7, &end).join(',');
             for (int neighbour : {6, 8})
