@@ -13,6 +13,7 @@
 #include <vkd_qt_xmlpart.h>
 
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QWheelEvent>
@@ -143,8 +144,10 @@ private Q_SLOTS:
             dialog.addTab(pages.last(), QLatin1String(label));
         }
         dialog.tabWidget()->setCurrentIndex(1);
+        auto edit = new QLineEdit(pages[1]);
         QCOMPARE(changed.size(), 0);
         dialog.show();
+        QCOMPARE(dialog.focusWidget(), edit);
         dialog.tabWidget()->setCurrentIndex(2);
         dialog.okRow()->cmdCancel()->click();
         dialog.show(); // the same page as before

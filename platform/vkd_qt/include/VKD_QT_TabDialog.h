@@ -7,7 +7,8 @@
 class QTabWidget;
 class VKD_QT_Ok;
 
-/// A dialog of pages behind tabs, above OK and Cancel, which accept and reject it.
+/// A dialog of pages behind tabs, above OK and Cancel, which accept and reject it. The focus begins
+/// in the page that is shown first.
 class VKD_QT_EXPORT VKD_QT_TabDialog : public VKD_QT_Dialog
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ protected:
 
 private:
     void chainButtons();
+    void enterPage();
     void tellPage();
 
     QTabWidget* m_tabs;

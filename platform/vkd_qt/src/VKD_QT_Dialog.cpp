@@ -16,9 +16,12 @@ void VKD_QT_Dialog::callDone(int result)
     done(result);
 }
 
+/// Who comes by the keyboard sees at once where the focus is, as in the window before.
 void VKD_QT_Dialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    if (parentWidget() && parentWidget()->window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        setAttribute(Qt::WA_KeyboardFocusChange);
     if (!m_isAway || event->spontaneous())
         return;
     m_isAway = false;

@@ -39,6 +39,7 @@ void VKD_QT_TabDialog::showEvent(QShowEvent* event)
 {
     VKD_QT_Dialog::showEvent(event);
     chainButtons();
+    enterPage();
     m_wasShown = true;
     tellPage();
 }
@@ -54,6 +55,19 @@ void VKD_QT_TabDialog::chainButtons()
         setTabOrder(last, button);
         last = button;
     }
+}
+
+/// Else the focus would begin at the button that a dialog presses by default.
+void VKD_QT_TabDialog::enterPage()
+{
+    const QWidget* page = m_tabs->currentWidget();
+    if (!page || focusWidget())
+        return;
+    for (QWidget* widget = m_tabs->nextInFocusChain(); widget != m_tabs;
+         widget = widget->nextInFocusChain())
+        if (page->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) &&
+            widget->isEnabled() && widget->isVisible())
+            return widget->setFocus();
 }
 
 void VKD_QT_TabDialog::tellPage()
