@@ -2,9 +2,10 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
 
 namespace workbench {
 
@@ -18,24 +19,27 @@ PickBanner::PickBanner(QWidget* parent)
     setObjectName(QStringLiteral("PickBanner"));
     m_done->setObjectName(QStringLiteral("PickDone"));
     m_cancel->setObjectName(QStringLiteral("PickCancel"));
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Highlight);
+    auto band = new QWidget(this); // without the buttons, whose focus has the same colour
+    band->setAutoFillBackground(true);
+    band->setBackgroundRole(QPalette::Highlight);
+    auto texts = new QVBoxLayout(band);
     for (QLabel* label : {m_what, m_picked}) {
         label->setForegroundRole(QPalette::HighlightedText);
         label->setWordWrap(true); // the banner is not to widen the view
+        texts->addWidget(label);
     }
     QFont bold = font();
     bold.setBold(true);
     m_picked->setFont(bold);
     auto layout = new QHBoxLayout(this);
-    auto texts = new QVBoxLayout;
-    texts->addWidget(m_what);
-    texts->addWidget(m_picked);
-    layout->addLayout(texts, 1);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(band, 1);
     layout->addWidget(m_done);
     layout->addWidget(m_cancel);
     connect(m_done, &QPushButton::clicked, this, &PickBanner::done);
     connect(m_cancel, &QPushButton::clicked, this, &PickBanner::cancelled);
+    auto escape = new QShortcut(Qt::Key_Escape, this); // also from the view, after a click there
+    connect(escape, &QShortcut::activated, this, &PickBanner::cancelled);
     setTexts();
 }
 
@@ -52,18 +56,11 @@ void PickBanner::changeEvent(QEvent* event)
         setTexts();
 }
 
-void PickBanner::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT cancelled();
-    else
-        QFrame::keyPressEvent(event);
-}
-
 void PickBanner::showEvent(QShowEvent* event)
 {
     QFrame::showEvent(event);
     m_done->setFocus();
+    window()->setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen
 }
 
 void PickBanner::setTexts()

@@ -77,6 +77,7 @@ void MainWindow::startPicking()
     m_banner->setPicked({});
     m_banner->show();
     m_actions->enable(true, true);
+    activateWindow(); // dialogs that go together leave some desktops without an active window
     say(tr("Pick groups in the view, or by Enter in the list of groups."));
 }
 
