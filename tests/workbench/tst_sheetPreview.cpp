@@ -366,6 +366,22 @@ private Q_SLOTS:
                  QStringList{QStringLiteral("kept.pdf")});
     }
 
+    /// The suffix comes by itself, and makes it another file than the dialog asked about.
+    void replacedFileIsAskedFor()
+    {
+        const auto window = open("export.zob");
+        writeFile(path("kept.pdf"), "what was there");
+        whenModal([this](QWidget* files) {
+            whenModal([](QWidget* box) {
+                whenModal([](QWidget* again) { qobject_cast<QDialog*>(again)->reject(); });
+                press(box, QMessageBox::No);
+            });
+            enterFile(files, path("kept"));
+        });
+        trigger(*window, "ExportSheetsAction");
+        QCOMPARE(readFile(path("kept.pdf")), QByteArray("what was there"));
+    }
+
     void unwritableFile()
     {
         const auto window = open("export.zob");
@@ -376,7 +392,8 @@ private Q_SLOTS:
         });
         trigger(*window, "ExportSheetsAction");
         QTRY_COMPARE(messages.size(), 1);
-        QVERIFY(messages[0].startsWith(QLatin1String("The sheets cannot be written.\n")));
+        QVERIFY(messages[0].startsWith(
+            QLatin1String("The file /proc/sheets.pdf cannot be written.\n")));
         QVERIFY(messages[0].section(QLatin1Char('\n'), 1).size() > 5);
     }
 

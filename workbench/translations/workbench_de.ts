@@ -325,12 +325,6 @@
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>The script cannot be written.
-%1</source>
-        <translation>Das Skript kann nicht geschrieben werden.
-%1</translation>
-    </message>
-    <message>
         <source>The script is saved in %1.</source>
         <translation>Das Skript ist in %1 gespeichert.</translation>
     </message>
@@ -487,12 +481,6 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>No sheet was saved.</source>
         <translation>Es wurde kein Blatt gespeichert.</translation>
-    </message>
-    <message>
-        <source>The sheets cannot be written.
-%1</source>
-        <translation>Die Blätter können nicht geschrieben werden.
-%1</translation>
     </message>
 </context>
 <context>

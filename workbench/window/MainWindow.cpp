@@ -237,6 +237,12 @@ void MainWindow::complain(const QString& text)
     VKD_QT_MessageBox::warning(this, tr("Workbench"), text);
 }
 
+void MainWindow::complainOfWriting(const QString& path, const QString& reason)
+{
+    const QString sentence = tr("The file %1 cannot be written.");
+    complain(sentence.arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') + reason);
+}
+
 bool MainWindow::succeeds(cd_error_t status, const QString& path, const QString& sentence)
 {
     if (status == VKD_ZOB_CANCELLED)

@@ -66,6 +66,7 @@ private:
     void showContents();
     void say(const QString& text);
     void complain(const QString& text);
+    void complainOfWriting(const QString& path, const QString& reason);
     /// Complains about a file by a sentence that names it, with the reason behind; not if the user
     /// cancelled. False for any status but VKD_ZOB_OK.
     bool succeeds(cd_error_t status, const QString& path, const QString& sentence);

@@ -6,11 +6,6 @@
 
 namespace workbench {
 
-QString withProjectSuffix(const QString& path)
-{
-    return QFileInfo(path).suffix().isEmpty() ? path + QLatin1String(".zob") : path;
-}
-
 bool isSameFile(const QString& a, const QString& b)
 {
     const QString canonical = QFileInfo(a).canonicalFilePath();

@@ -6,9 +6,6 @@ class QMimeData;
 
 namespace workbench {
 
-/// The path of a project as the user named it, with the suffix if it has none.
-QString withProjectSuffix(const QString& path);
-
 /// Whether both paths lead to one file that is there.
 bool isSameFile(const QString& a, const QString& b);
 

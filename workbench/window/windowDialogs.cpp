@@ -1,6 +1,7 @@
 // The main window and the dialogs of the pages: design parameters with picking, graphical output
 // with its script.
 
+#include "chooseFileToSave.h"
 #include "DesignDialog.h"
 #include "GroupList.h"
 #include "MainWindow.h"
@@ -24,7 +25,6 @@
 #include <QClipboard>
 #include <QDir>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QSaveFile>
 #include <QStatusBar>
@@ -207,15 +207,15 @@ void MainWindow::saveScript()
 {
     const QString proposal = QDir(folder()).filePath(
         QFileInfo(m_document->path()).completeBaseName() + QLatin1String(".dat"));
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save Script"), proposal,
-                                                      tr("Scripts (*.dat)") + QLatin1String(";;") +
-                                                          tr("All files (*)"));
+    const QString path = chooseFileToSave(
+        this, tr("Save Script"), proposal,
+        tr("Scripts (*.dat)") + QLatin1String(";;") + tr("All files (*)"), QStringLiteral("dat"));
     if (path.isEmpty())
         return;
     QSaveFile file(path);
     const QByteArray bytes = m_script->script().toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return complain(tr("The script cannot be written.\n%1").arg(file.errorString()));
+        return complainOfWriting(path, file.errorString());
     say(tr("The script is saved in %1.").arg(QDir::toNativeSeparators(path)));
 }
 

@@ -1,5 +1,6 @@
 // The main window and what comes into it: new projects from models, and files that are dropped.
 
+#include "chooseFileToSave.h"
 #include "copyProject.h"
 #include "DesignDialog.h"
 #include "MainWindow.h"
@@ -44,11 +45,10 @@ void MainWindow::newProject(const QString& model)
         return;
     const QString proposal =
         QDir(folder()).filePath(QFileInfo(model).completeBaseName() + QLatin1String(".zob"));
-    const QString chosen =
-        QFileDialog::getSaveFileName(this, tr("New Project"), proposal, tr("Projects (*.zob)"));
-    if (chosen.isEmpty())
+    const QString path = chooseFileToSave(this, tr("New Project"), proposal, tr("Projects (*.zob)"),
+                                          QStringLiteral("zob"));
+    if (path.isEmpty())
         return;
-    const QString path = withProjectSuffix(chosen);
     if (m_document && isSameFile(path, m_document->path()))
         return complain(tr("The project %1 is open.\nChoose another name.").arg(path));
     if (makeProject(path, model))

@@ -1,5 +1,6 @@
 // The main window and its project: open, save as, closing.
 
+#include "chooseFileToSave.h"
 #include "copyProject.h"
 #include "GroupList.h"
 #include "MainWindow.h"
@@ -138,11 +139,10 @@ void MainWindow::paintEvent(QPaintEvent* event)
 
 void MainWindow::saveAs()
 {
-    const QString chosen = QFileDialog::getSaveFileName(this, tr("Save Project As"),
-                                                        m_document->path(), tr("Projects (*.zob)"));
-    if (chosen.isEmpty())
+    const QString path = chooseFileToSave(this, tr("Save Project As"), m_document->path(),
+                                          tr("Projects (*.zob)"), QStringLiteral("zob"));
+    if (path.isEmpty())
         return;
-    const QString path = withProjectSuffix(chosen);
     if (isSameFile(path, m_document->path())) {
         storeOutput();
         if (m_textOutput)

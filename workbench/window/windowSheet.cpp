@@ -1,5 +1,6 @@
 // The main window and the preview of its sheets.
 
+#include "chooseFileToSave.h"
 #include "MainWindow.h"
 #include "OutputDialog.h"
 #include "ScriptPane.h"
@@ -13,7 +14,6 @@
 
 #include <QDir>
 #include <QDockWidget>
-#include <QFileDialog>
 
 namespace workbench {
 
@@ -48,18 +48,16 @@ void MainWindow::exportSheet()
 {
     const QString proposal = QDir(folder()).filePath(
         QFileInfo(m_document->path()).completeBaseName() + QLatin1String(".pdf"));
-    QString path =
-        QFileDialog::getSaveFileName(this, tr("Export Sheets"), proposal, tr("PDF files (*.pdf)"));
+    const QString path = chooseFileToSave(this, tr("Export Sheets"), proposal,
+                                          tr("PDF files (*.pdf)"), QStringLiteral("pdf"));
     if (path.isEmpty())
         return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QLatin1String(".pdf");
     QString trouble;
     switch (exportSheets(newSheetPlan(), m_sheet->painter(), path, this, &trouble)) {
     case SheetExport::Done:
         return say(tr("The sheets are saved in %1.").arg(QDir::toNativeSeparators(path)));
     case SheetExport::Cancelled: return say(tr("No sheet was saved."));
-    case SheetExport::Failed: return complain(tr("The sheets cannot be written.\n%1").arg(trouble));
+    case SheetExport::Failed: return complainOfWriting(path, trouble);
     }
 }
 
