@@ -2,6 +2,7 @@
 
 #include "dialogPages.h"
 #include "ProjectWriting.h"
+#include "withinScreen.h"
 
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_queries.h>
@@ -50,7 +51,7 @@ DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
 {
     setWindowTitle(tr("Design Parameters"));
     new QVBoxLayout(this);
-    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28);
+    resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28});
 }
 
 /// The page goes before its documents.

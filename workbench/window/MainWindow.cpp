@@ -13,6 +13,7 @@
 #include "waitForStore.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
+#include "withinScreen.h"
 
 #include <AnimatorView.h>
 #include <SheetPreview.h>
@@ -53,6 +54,7 @@ MainWindow::MainWindow(WindowServices services, QWidget* parent)
 {
     setObjectName(QStringLiteral("MainWindow"));
     setAcceptDrops(true);
+    resizeWithinScreen(this, {1280, 800});
     addCentre();
     addDocks();
     statusBar()->addPermanentWidget(m_contents);
@@ -64,7 +66,6 @@ MainWindow::MainWindow(WindowServices services, QWidget* parent)
     m_actions->setRecentFiles(settings.recentFiles());
     m_actions->enable(false, false);
     m_actions->setHasScript(false);
-    resize(1280, 800);
     restoreGeometry(settings.value(GeometryKey).toByteArray());
     restoreState(settings.value(StateKey).toByteArray(), StateVersion);
 }
@@ -96,7 +97,8 @@ void MainWindow::addDocks()
     m_scriptDock->raise();
     m_recordDock = addDock(Qt::BottomDockWidgetArea, nullptr, "RecordDock");
     const int letter = fontMetrics().averageCharWidth();
-    resizeDocks({m_groupDock, m_scriptDock}, {45 * letter, 60 * letter}, Qt::Horizontal);
+    resizeDocks({m_groupDock, m_scriptDock},
+                {qMin(45 * letter, width() / 4), qMin(60 * letter, width() / 3)}, Qt::Horizontal);
     resizeDocks({m_recordDock}, {10 * fontMetrics().height()}, Qt::Vertical);
     auto shares = new DockShares(this); // the list of groups needs no more room than it has
     shares->add({m_scriptDock, m_sheetDock}, Qt::Horizontal);

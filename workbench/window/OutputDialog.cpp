@@ -1,6 +1,7 @@
 #include "OutputDialog.h"
 
 #include "LoadCaseTable.h"
+#include "withinScreen.h"
 
 #include <AnimatorView.h>
 #include <vkd_dbo_camera.h>
@@ -79,7 +80,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
 {
     setWindowTitle(tr("Graphical Output"));
     setModal(false);
-    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40);
+    resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40});
     m_changes.setSingleShot(true);
     connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
     addTabs();

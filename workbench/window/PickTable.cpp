@@ -9,7 +9,7 @@
 namespace workbench {
 
 namespace {
-constexpr int FewRows = 3;
+constexpr int FewRows = 2; // so that the dialog fits on a small screen
 constexpr int UsualRows = 4;
 
 QStandardItem* newItem(const QVariant& shown)

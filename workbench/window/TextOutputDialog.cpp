@@ -2,6 +2,7 @@
 
 #include "CombinationTable.h"
 #include "numberTexts.h"
+#include "withinScreen.h"
 
 #include <VKD_QT_Ok.h>
 #include <VKD_QT_Widgets.h>
@@ -52,7 +53,7 @@ TextOutputDialog::TextOutputDialog(int index, QWidget* parent)
     setState(TextOutputState::read(index, ExtentFields::DefaultLists));
     m_kept = state();
     const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
-    resize(width, layout()->totalHeightForWidth(width)); // with all lines of the hints
+    resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // with all hints
 }
 
 QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& explanation)

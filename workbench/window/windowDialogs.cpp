@@ -13,6 +13,7 @@
 #include "waitForStore.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
+#include "withinScreen.h"
 
 #include <AnimatorView.h>
 #include <VKD_H_SelGRP_Dialog.h>
@@ -149,7 +150,7 @@ void MainWindow::showOutput()
     if (!output())
         return;
     if (!m_output->testAttribute(Qt::WA_Moved)) // beside the script, which follows each click
-        m_output->move(mapToGlobal(m_groupDock->pos()));
+        moveWithinScreen(m_output.get(), mapToGlobal(m_groupDock->pos()));
     m_output->show();
     m_output->raise();
     m_output->activateWindow();

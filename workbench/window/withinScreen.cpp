@@ -1,0 +1,26 @@
+#include "withinScreen.h"
+
+#include <QScreen>
+#include <QWidget>
+
+namespace workbench {
+
+namespace {
+const QSize Frame(16, 40); // which is not known before the desktop has made it
+} // namespace
+
+void resizeWithinScreen(QWidget* window, const QSize& size)
+{
+    window->resize(size.boundedTo(window->screen()->availableSize() - Frame));
+}
+
+void moveWithinScreen(QWidget* window, const QPoint& place)
+{
+    const QRect screen = window->screen()->availableGeometry();
+    const QSize size = window->size() + Frame;
+    const QPoint most = screen.bottomRight() - QPoint(size.width(), size.height());
+    window->move(qMax(screen.left(), qMin(place.x(), most.x())),
+                 qMax(screen.top(), qMin(place.y(), most.y())));
+}
+
+} // namespace workbench
