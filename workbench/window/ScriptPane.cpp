@@ -136,6 +136,7 @@ void ScriptPane::show(const QString& script)
     if (m_script.isEmpty() && !script.isEmpty()) // to look for the font takes its time
         m_text->setFont(fixedFont());
     m_script = script;
+    m_text->setExtraSelections({}); // each of thousands would be moved with each line put in
     m_text->setPlainText(script);
     m_text->verticalScrollBar()->setValue(place);
     m_copy->setEnabled(!script.isEmpty());
