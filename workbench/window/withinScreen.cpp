@@ -1,5 +1,6 @@
 #include "withinScreen.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
 
@@ -7,11 +8,18 @@ namespace workbench {
 
 namespace {
 const QSize Frame(16, 40); // which is not known before the desktop has made it
+
+/// Pictures are taken on a screen that is none, and may be as large as they need.
+bool isOffScreen()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen");
+}
 } // namespace
 
 void resizeWithinScreen(QWidget* window, const QSize& size)
 {
-    window->resize(size.boundedTo(window->screen()->availableSize() - Frame));
+    window->resize(isOffScreen() ? size
+                                 : size.boundedTo(window->screen()->availableSize() - Frame));
 }
 
 void moveWithinScreen(QWidget* window, const QPoint& place)
