@@ -3,7 +3,6 @@
 #include "TestSupport.h"
 
 #include <CatalogueParser.h>
-#include <selectionText.h>
 #include <TreeBuilder.h>
 
 #include <QBuffer>
@@ -47,47 +46,6 @@ void build(plib::OutputNode* root, const Records& records, const Rows& rows)
     for (const plib::GraphicalOutputRecord& record : records)
         builder.add(record);
     builder.finish();
-}
-
-void applyStepByStep(plib::OutputNode* root, const QString& text)
-{
-    for (int i = 0; i < root->childCount(); ++i)
-        plib::setBranchState(root->child(i), Qt::Unchecked);
-    const plib::ItemIndex<plib::OutputNode> index(root);
-    bool isEmpty = false;
-    for (const plib::SelectionLine& line : plib::parseSelection(text, &isEmpty)) {
-        plib::OutputNode* item = index.findItem(line.id);
-        if (!item)
-            continue;
-        plib::setBranchState(item,
-                             line.kind == plib::SelectionLine::Check ? Qt::Checked : Qt::Unchecked);
-        for (int number : line.numbers)
-            for (int i = item->childCount() - 1; i >= 0; --i)
-                if (item->child(i)->number == number) {
-                    plib::setBranchState(item->child(i), Qt::Checked);
-                    break;
-                }
-    }
-}
-
-namespace {
-void append(const plib::OutputNode* parent, int depth, QString* text)
-{
-    const char* const marks[] = {"[ ] ", "[-] ", "[x] "}; // in the order of Qt::CheckState
-    for (int i = 0; i < parent->childCount(); ++i) {
-        const plib::OutputNode* node = parent->child(i);
-        *text += QString(2 * depth, QLatin1Char(' ')) + QLatin1String(marks[node->checkState(0)]) +
-                 node->text(0) + QLatin1Char('\n');
-        append(node, depth + 1, text);
-    }
-}
-} // namespace
-
-QString treeText(const plib::OutputNode* root)
-{
-    QString text;
-    append(root, 0, &text);
-    return text;
 }
 
 Rows rows(int count)

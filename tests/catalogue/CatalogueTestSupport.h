@@ -28,17 +28,26 @@ private:
 Records parse(const QByteArray& catalogue);
 
 /// A catalogue line from its last columns; titles, words and numbers as in a file.
-QByteArray line(const char* titles, const char* caseWord, int preselect, int viewKind,
-                const char* german, const char* english);
+QByteArray line(const char* titles, const char* caseWord, int preselect = 0, int viewKind = 0,
+                const char* german = "g", const char* english = "e");
 
 /// Fills an empty tree with the records, all offered.
 void build(plib::OutputNode* root, const Records& records, const Rows& rows);
 
-/// Applies a selection text in single steps, each with the automatic update behind it.
-void applyStepByStep(plib::OutputNode* root, const QString& text);
-
-/// The items with check marks, indented, one line each, as the command `tree` prints them.
-QString treeText(const plib::OutputNode* root);
+/// The items below the node with check marks, indented, one line each, as the command `tree` prints
+/// them. Nodes or items of a widget.
+template <class Node>
+QString treeText(const Node* parent, int depth = 0)
+{
+    const char* const marks[] = {"[ ] ", "[-] ", "[x] "}; // in the order of Qt::CheckState
+    QString text;
+    for (int i = 0; i < parent->childCount(); ++i) {
+        const Node* node = parent->child(i);
+        text += QString(2 * depth, QLatin1Char(' ')) + QLatin1String(marks[node->checkState(0)]) +
+                node->text(0) + QLatin1Char('\n') + treeText(node, depth + 1);
+    }
+    return text;
+}
 
 /// `count` rows of kind 1, "1 : a", "2 : b", ...
 Rows rows(int count);

@@ -46,31 +46,6 @@ private Q_SLOTS:
         row("1 A&ABC", "25Ce  Base I"); // two blanks behind a text that is put before
         row(" - &ABC", " Base");
         row("1 -&XXX", " I"); // a suffix stands even where the base text is missing
-        row("__C&ABC", "27We  Base");
-        row("__D&ABC", "271e  Base");
-        row("__I&ABC", "20Ae  Base");
-        row("__R&ABC", "27Qe  Base");
-        row("__S&ABC", "27Ee  Base");
-        row("2__&ABC", " Base II");
-        row("3__&ABC", " Base III");
-        row("A__&ABC", " Base 0ZHe");
-        row("C__&ABC", " Base 0ZHe");
-        row("O__&ABC", " Base 19Oe");
-        row("S__&ABC", " Base 1LNe");
-        row("T__&ABC", " Base 1LTe");
-        row("U__&ABC", " Base 19Ue");
-        row("V__&ABC", " Base 0Z1e");
-        row("Y__&ABC", " Base 0ZGe Y");
-        row("b__&ABC", " Base 0ZMe b");
-        row("s__&ABC", " Base 1LAe");
-        row("t__&ABC", " Base 1LBe");
-        row("z__&ABC", " Base 0ZLe z");
-        row("_+_&ABC", " Base 143e 1 + 2");
-        row("_1_&ABC", " Base 143e 1");
-        row("_2_&ABC", " Base 143e 2");
-        row("_h_&ABC", " Base 7ZHe");
-        row("_s_&ABC", " Base 7ZTe");
-        row("_t_&ABC", " Base 7ZTe");
         row("Oh1&ABC", " Base 19Oe 7ZHe");
         row("X2R^ABC", "27Qe  Base one 0ZGe X 143e 2"); // third, base, first, second
         QTest::newRow("identifier") << QStringLiteral("@ND1 Nodes") << QString();
@@ -92,27 +67,36 @@ private Q_SLOTS:
             QVERIFY(plib::captionText(field).contains(QLatin1String("Grund")));
     }
 
-    void keyText_data()
+    /// What each qualifier adds in its place of the three.
+    void qualifiers()
     {
-        const Columns<QString, bool> columns("text", "expected");
-        const auto row = [&columns](const char* text, bool expected) {
-            columns(text, text, expected);
+        const testsupport::Texts texts(allTokens());
+        vkd_lib_opentext("grav");
+        vkd_lib_setvalue(102, 1);
+        const auto added = [](const char* qualifiers, const char* field) {
+            QStringList all;
+            for (const QChar qualifier : QString::fromLatin1(qualifiers))
+                all << plib::captionText(
+                           QString::fromLatin1(field).replace(QLatin1Char('?'), qualifier))
+                           .remove(QLatin1String(" Base"));
+            return all.join(QLatin1Char(','));
         };
-        row("", false);
-        row("&AB", false);
-        row("&ABC", true);
-        row("@ND1", true);
-        row("abc", false);
-        row("1 A&ABC", true);
-        row("1 A&AB", false);   // six characters
-        row("1 A@ABCD", false); // an "@" counts in the first place only
-        row("plain text", false);
+        QCOMPARE(added("123ABCOSTUVXYZabcstxyz", "?__&ABC"),
+                 QStringLiteral(" I, II, III, 0ZHe, 0ZHe, 0ZHe, 19Oe, 1LNe, 1LTe, 19Ue, 0Z1e,"
+                                " 0ZGe X, 0ZGe Y, 0ZGe Z, 0ZMe a, 0ZMe b, 0ZMe c, 1LAe, 1LBe,"
+                                " 0ZLe x, 0ZLe y, 0ZLe z"));
+        QCOMPARE(added("+12hst", "_?_&ABC"),
+                 QStringLiteral(" 143e 1 + 2, 143e 1, 143e 2, 7ZHe, 7ZTe, 7ZTe"));
+        QCOMPARE(added("ACDIRS", "__?&ABC"), QStringLiteral("25Ce ,27We ,271e ,20Ae ,27Qe ,27Ee "));
     }
 
     void keyText()
     {
-        QFETCH(QString, text);
-        QTEST(plib::isKeyText(text), "expected");
+        for (const char* text : {"&ABC", "@ND1", "1 A&ABC"})
+            QVERIFY2(plib::isKeyText(QString::fromLatin1(text)), text);
+        // An "@" counts in the first place only.
+        for (const char* text : {"", "&AB", "abc", "1 A&AB", "1 A@ABCD", "plain text"})
+            QVERIFY2(!plib::isKeyText(QString::fromLatin1(text)), text);
     }
 };
 

@@ -1,80 +1,24 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <captionText.h>
 #include <Catalogue.h>
-#include <CatalogueParser.h>
 #include <vkd_lib_value.h>
 
-#include <QBuffer>
-
-using plib::GraphicalOutputRecord;
-
-static QString text(const GraphicalOutputRecord& r)
-{
-    return QStringLiteral("%1,%2,%3 [%4/%5/%6] {%7}{%8}{%9}")
-               .arg(QString::number(r.prog1), QString::number(r.prog2), QString::number(r.prog3),
-                    r.title1, r.title2, r.title3, r.id1, r.id2, r.id3) +
-           QStringLiteral(" %1 %2 %3:%4,%5,%6 %7 %8 %9")
-               .arg(r.contentTag, QString::number(r.number7), r.caseWord, QString::number(r.ctrl),
-                    QString::number(r.rowClass), QString::number(r.rowMark),
-                    QString::number(r.preselect), QString::number(r.viewKind), r.text11) +
-           QStringLiteral(" %1 <%2> <%3>\n")
-               .arg(QString::number(r.systemMask), r.scriptGerman, r.scriptEnglish);
-}
+#include <QTextStream>
 
 static QString text(const testsupport::Records& records)
 {
     QString all;
-    for (const GraphicalOutputRecord& record : records)
-        all += text(record);
-    return all;
-}
-
-/// The format told in Qt's own text functions, one line at a time, as slow as can be.
-static testsupport::Records parseByQt(QByteArray bytes)
-{
-    testsupport::Records records;
-    GraphicalOutputRecord r;
-    const auto caption = [](const QString& f, int place, QString* title, QString* id) {
-        *id = QStringLiteral("    00%1").arg(place);
-        *title = f;
-        if (!plib::isKeyText(f))
-            return;
-        const int prefix = plib::isKeyText(f.mid(3, 4)) ? 7 : 4;
-        *id = prefix == 7 ? f.left(7) : QLatin1String("   ") + f.left(4);
-        const QString found = plib::captionText(f);
-        *title = (found.isEmpty() ? f.mid(prefix) : found).trimmed();
-    };
-    QBuffer device(&bytes);
-    device.open(QIODevice::ReadOnly);
-    char buffer[1024];
-    for (qint64 length; (length = device.readLine(buffer, sizeof buffer)) > 0;) {
-        const QString line = QString::fromUtf8(buffer, int(length));
-        QStringList parts = line.split(QLatin1Char('|'), Qt::SkipEmptyParts);
-        if (line.startsWith(QLatin1String("//")) || line.trimmed().isEmpty() || parts.size() < 14)
-            continue;
-        for (QString& part : parts)
-            part = part.trimmed();
-        r.prog1 = parts[0].toInt();
-        r.prog2 = parts[1].toInt();
-        r.prog3 = parts[2].toInt();
-        caption(parts[3], 1, &r.title1, &r.id1);
-        caption(parts[4], 2, &r.title2, &r.id2);
-        caption(parts[5], 3, &r.title3, &r.id3);
-        r.contentTag = parts[6];
-        r.number7 = parts[7].toInt();
-        r.caseWord = parts[8];
-        r.preselect = parts[9].toInt();
-        r.viewKind = parts[10].toInt();
-        r.text11 = parts[11];
-        r.systemMask = parts[12].toInt();
-        r.scriptGerman = parts[13];
-        r.scriptEnglish = parts.size() > 14 ? parts[14] : r.scriptEnglish;
-        if (!r.scriptGerman.isEmpty() && !r.scriptEnglish.isEmpty())
-            records.push_back(r);
+    QTextStream out(&all);
+    for (const plib::GraphicalOutputRecord& r : records) {
+        out << r.prog1 << ',' << r.prog2 << ',' << r.prog3 << " [" << r.title1 << '/' << r.title2
+            << '/' << r.title3 << "] {" << r.id1 << "}{" << r.id2 << "}{" << r.id3 << "} "
+            << r.contentTag << ' ' << r.number7 << ' ' << r.caseWord << ':' << r.ctrl << ','
+            << r.rowClass << ',' << r.rowMark << ' ' << r.preselect << ' ' << r.viewKind << ' '
+            << r.text11 << ' ' << r.systemMask << " <" << r.scriptGerman << "> <" << r.scriptEnglish
+            << ">\n";
     }
-    return records;
+    return all;
 }
 
 class TestCatalogueParser : public QObject
@@ -105,8 +49,7 @@ private Q_SLOTS:
         row("fifteen parts", fifteen, record);
         row("no line feed at the end", fifteen.chopped(1), record);
         row("carriage return", QByteArray(fifteen).replace("\n", "\r\n"), record);
-        row("byte order mark", "\xEF\xBB\xBF" + fifteen, record);
-        row("comment behind a mark", "\xEF\xBB\xBF//" + fifteen, {});
+        row("comment", "//" + fifteen, {});
         row("sixteen parts", fifteen.chopped(1) + "|ignored\n", record);
         row("blanks around", QByteArray(fifteen).replace("|", " \t|\v "), record);
         row("no number is 0", QByteArray(fifteen).replace("3|0|0|A", "x|1e3|0x1|A"),
@@ -132,10 +75,13 @@ private Q_SLOTS:
             "  0 :-1,0,1 0 0  0 <g> <e>\n");
     }
 
+    /// A byte order mark before each line changes nothing, though no line is ASCII with it.
     void records()
     {
         QFETCH(QByteArray, file);
         QTEST(text(testsupport::parse(file)), "expected");
+        const QByteArray mark = "\xEF\xBB\xBF";
+        QTEST(text(testsupport::parse(mark + file.replace("\n", "\n" + mark))), "expected");
     }
 
     void longLineIsCutAt1023Bytes()
@@ -149,104 +95,34 @@ private Q_SLOTS:
         QCOMPARE(records[1].prog1, 5);
     }
 
-    void caseWord_data()
+    /// Word, ctrl, rowClass and rowMark.
+    void caseWords()
     {
-        // expected: ctrl, rowClass, rowMark
-        const Columns<QByteArray, QVector<int>> columns("word", "expected");
-        const auto row = [&columns](const char* word, int ctrl, int rowClass, int rowMark) {
-            columns(word, word, {ctrl, rowClass, rowMark});
-        };
-        row("LAST-L", 1, 1, 1);
-        row("last-x", 1, 0, 1);
-        row("last-c", 1, 2, 1);
-        row("last-e", 1, 3, 2);
-        row("last-e-l", 1, 0, 1);
-        row("last -l", -1, 1, 1); // the word is not trimmed inside
-        row("desi-e", 8, 3, 3);
-        row("desi", 8, 0, 1);
-        row("sngl", 0, 0, 1);
-        row("nonl-l", 0, 1, 1);
-        row("supp", 0, 0, 1);
-        row("eige", 0, 0, 1);
-        row("zrt1", 0, 0, 1);
-        row("zrt2", 0, 0, 1);
-        row("beam-l", -10, 1, 1);
-        row("dsln", -10, 0, 1);
-        row("none", -1, 0, 1);
-        row("-e", -1, 3, 2);
-        row(" ", -1, 0, 1);
-    }
-
-    void caseWord()
-    {
-        QFETCH(QByteArray, word);
-        const auto records = testsupport::parse("1|0|0|A|B|C| |0|" + word + "|0|0| |0|g|e\n");
-        QCOMPARE(int(records.size()), 1);
-        const QVector<int> actual{records[0].ctrl, records[0].rowClass, records[0].rowMark};
-        QTEST(actual, "expected");
-    }
-
-    void agreesWithQtOnAnyBytes()
-    {
-        std::mt19937 random(20240229);
-        // Parted by tabs, but for the tab and the zero.
-        QList<QByteArray> pieces =
-            QByteArray(
-                "|\t|\t||\t\n\t\r\n\t \t\v\t\x1c\t//\t&BAS\t@ND1\t1 A&BAS\t12\t-7\t+3\t"
-                "99999999999\tx\t\xC3\xA4\t\xC3\t\xEF\xBB\xBF\t\xC2\xA0\t\xC2\x85\t\xE2\x80\xA8\t"
-                "\xF0\x9F\x98\x80\t\xFF")
-                .split('\t');
-        pieces << "\t" << QByteArray(1, '\0');
-        int accepted = 0;
-        for (int round = 0; round < 3000; ++round) {
-            QByteArray file;
-            for (int line = 0; line < 5; ++line) {
-                const int columns = 13 + testsupport::below(random, 4);
-                for (int column = 0; column < columns; ++column) {
-                    for (int n = testsupport::below(random, 3); n >= 0; --n)
-                        file += testsupport::below(random, 4)
-                                    ? pieces[testsupport::below(random, pieces.size())]
-                                    : QByteArray("ab");
-                    file += '|';
-                }
-                file += testsupport::below(random, 3) ? "\n" : "";
-            }
-            auto records = testsupport::parse(file);
-            accepted += int(records.size());
-            for (GraphicalOutputRecord& record : records) { // told by caseWord, tested on their own
-                record.ctrl = -1;
-                record.rowClass = 0;
-                record.rowMark = 1;
-            }
-            QCOMPARE(text(records), text(parseByQt(file)));
+        for (const char* expected :
+             {"LAST-L:1,1,1", "last-x:1,0,1", "last-c:1,2,1", "last-e:1,3,2", "last-e-l:1,0,1",
+              "last -l:-1,1,1", "desi-e:8,3,3", "desi:8,0,1", "sngl:0,0,1", "nonl-l:0,1,1",
+              "supp:0,0,1", "eige:0,0,1", "zrt1:0,0,1", "zrt2:0,0,1", "beam-l:-10,1,1",
+              "dsln:-10,0,1", "none:-1,0,1", "-e:-1,3,2"}) {
+            const QByteArray word = QByteArray(expected).split(':')[0];
+            const QByteArray file = "1|0|0|A|B|C|x|0|" + word + "|0|0|x|0|g|e\n";
+            QVERIFY2(text(testsupport::parse(file)).contains(QLatin1String(expected)), expected);
         }
-        QVERIFY(accepted > 1000);
     }
 
     void loadsOncePerLanguage()
     {
         const auto fail = [](const QString& title, const QString&) { QFAIL(qPrintable(title)); };
         testsupport::writeFile(m_texts->path("graphicaloutput.data"),
-                               testsupport::line("A|B|&BAS", " ", 0, 0, "g", "e"));
+                               testsupport::line("A|B|&BAS", " "));
         plib::Catalogue catalogue;
         QVERIFY(plib::loadCatalogue(catalogue, 1, fail));
         QVERIFY(plib::loadCatalogue(catalogue, 1, fail));
         QCOMPARE(int(catalogue.list.size()), 1);
         vkd_lib_setvalue(102, 0);
-        QVERIFY(plib::loadCatalogue(catalogue, 0,
-                                    fail)); // keeps the first language in front, on purpose
+        QVERIFY(plib::loadCatalogue(catalogue, 0, fail)); // the first one stays, on purpose
         QCOMPARE(int(catalogue.list.size()), 2);
         QCOMPARE(catalogue.list[0].title3, QStringLiteral("Base"));
         QCOMPARE(catalogue.list[1].title3, QStringLiteral("Grund"));
-    }
-
-    void aFileOfCommentsIsLoaded()
-    {
-        testsupport::writeFile(m_texts->path("graphicaloutput.data"), "// nothing\n");
-        plib::Catalogue catalogue;
-        QVERIFY(plib::loadCatalogue(catalogue, 1, [](const QString&, const QString&) {}));
-        QVERIFY(catalogue.list.empty());
-        QCOMPARE(catalogue.catalogueLanguage, 1);
     }
 
 private:

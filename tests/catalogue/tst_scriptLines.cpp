@@ -66,8 +66,8 @@ private Q_SLOTS:
             "LC 7 DESI 7\nCOLO C14 -1 ; UNIT ; AND \nLC 9 DESI 9\n"
             "COLO STAN ; COLO C13 -1 ; UNIT ; COLO STAN\n");
         row("a plot with rows that stands alone too follows its rows",
-            line("A|B|B", "last-l", 2, 0, "g", "e") + line("A|B|C", " ", 0, 0, "g", "f"),
-            testsupport::rows(1), 0, "LC 1 DESI 1\ne\ne\n");
+            line("A|B|B", "last-l", 2) + line("A|B|C", " ", 0, 0, "g", "f"), testsupport::rows(1),
+            0, "LC 1 DESI 1\ne\ne\n");
     }
 
     void lines()
@@ -111,49 +111,26 @@ private Q_SLOTS:
         QCOMPARE(script(&root, true, 1, 0), QString());
     }
 
-    void secondNumber_data()
-    {
-        const Columns<QString, int> columns("label", "expected");
-        const auto row = [&columns](const char* label, int expected) {
-            columns(label, label, expected);
-        };
-        row("", -1);
-        row("12 : Wind", -1);
-        row("12+14: Wind", 14);
-        row("12 + 14 : Wind", 14);
-        row("12 : a+14", -1);
-        row("1+2", 2);
-        row("12+345", 34); // without a colon five characters count
-        row("1+2+3:", -1);
-        row("1+:", -1);
-        row("1+x:", -1);
-        row("1+-5:", -5);
-        row("1e+06 : x", 6); // the label of a million
-        row("1e+06 ", 6);
-        row("+7", 7);
-    }
-
     void secondNumber()
     {
-        QFETCH(QString, label);
-        QTEST(plib::secondNumber(label), "expected");
-    }
-
-    void rowLabel_data()
-    {
-        const Columns<double, QString, QString> row("number", "title", "expected");
-        row("title", 12.0, "Dead load", "12 : Dead load");
-        row("no title", 3.9, {}, "3.9 ");
-        row("blanks are a title", 1.0, " ", "1 :  ");
-        row("million", 1e6, {}, "1e+06 ");
-        row("six digits", 123456789.0, {}, "1.23457e+08 ");
+        const std::pair<const char*, int> labels[] = {
+            {"", -1},          {"12 : Wind", -1}, {"12+14: Wind", 14}, {"12 + 14 : Wind", 14},
+            {"12 : a+14", -1}, {"1+2", 2},        {"12+345", 34}, // without a colon five characters
+                                                                  // count
+            {"1+2+3:", -1},    {"1+:", -1},       {"1+x:", -1},        {"1+-5:", -5},
+            {"1e+06 : x", 6}, // the label of a million
+            {"+7", 7},
+        };
+        for (const auto& [label, number] : labels)
+            QCOMPARE(std::make_pair(label, plib::secondNumber(QString::fromLatin1(label))),
+                     std::make_pair(label, number));
     }
 
     void rowLabel()
     {
-        QFETCH(double, number);
-        QFETCH(QString, title);
-        QTEST(plib::rowLabel(number, title), "expected");
+        QCOMPARE(plib::rowLabel(3.9, {}), QStringLiteral("3.9 "));
+        QCOMPARE(plib::rowLabel(1, QStringLiteral(" ")), QStringLiteral("1 :  "));
+        QCOMPARE(plib::rowLabel(123456789, QStringLiteral("a")), QStringLiteral("1.23457e+08 : a"));
     }
 };
 
