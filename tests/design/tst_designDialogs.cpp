@@ -8,6 +8,7 @@
 #include <VKD_A_BarDiameterCombo.h>
 #include <VKD_H_LineEdit.h>
 #include <vkd_lib_value.h>
+#include <VKD_QT_Ok.h>
 
 #include <QAbstractItemView>
 #include <QGroupBox>
@@ -19,6 +20,7 @@
 #include <random>
 
 using plib::NamedField;
+using testsupport::find;
 using testsupport::whenModal;
 
 namespace {
@@ -70,10 +72,7 @@ std::unique_ptr<Dialog> open(tagZOB_QUAD_RIM* record)
 
 void pressOk(QDialog* dialog)
 {
-    auto row = dialog->findChild<QWidget*>(QStringLiteral("okayandcancelbutton"));
-    for (QPushButton* button : row->findChildren<QPushButton*>())
-        if (button->isDefault())
-            button->click();
+    find<VKD_QT_Ok>(*dialog, "okayandcancelbutton")->cmdOk()->click();
 }
 
 /// What an OK on this record changes.
@@ -87,11 +86,6 @@ QString changesByOk(const tagZOB_QUAD_RIM& record)
         return QStringLiteral("not accepted, or written before");
     dialog->writeToRecord(&edited);
     return changes(record, edited);
-}
-
-VKD_H_LineEdit* edit(QWidget* dialog, const char* name)
-{
-    return dialog->findChild<VKD_H_LineEdit*>(QLatin1String(name));
 }
 
 QString textsOf(QWidget* parent)
@@ -144,54 +138,17 @@ private Q_SLOTS:
         QCOMPARE(changesByOk<dlgCrackControl>(empty), QString());
     }
 
-    void everyFieldReachesItsWord_data()
-    {
-        // combo: where it is empty, the edit has the field's name
-        // factor: from the typed number to the record
-        const Columns<QString, QString, int, double> row("field", "combo", "type", "factor");
-        const auto rows = [&row](const char* fields, int type, double factor,
-                                 const char* combo = "") {
-            for (const QString& field : QString::fromLatin1(fields).split(QLatin1Char(' ')))
-                row(qPrintable(field), field, QString::fromLatin1(combo), type, factor);
-        };
-        constexpr double Radian = 0.017453292519943295;
-        rows("rio rioq rioi riu riuq riui", 3, Radian);
-        rows("hio hioq hioi hiu hiuq hiui", 3, 0.001);
-        rows("xref yref zref", 4, 1);
-        rows("aso asoq asoi asu asuq asui amo amoq amoi amu amuq amui", 3, 1);
-        rows("wko wkoq wkoi wku wkuq wkui sigo sigoq sigoi sigu siguq sigui", 3, 1, "m_p");
-    }
-
     void everyFieldReachesItsWord()
     {
-        QFETCH(QString, field);
-        QFETCH(QString, combo);
-        QFETCH(int, type);
-        QFETCH(double, factor);
-        const tagZOB_QUAD_RIM before = unevenRecord(type);
-        tagZOB_QUAD_RIM after = before;
-        std::unique_ptr<QDialog> dialog;
-        std::function<void()> write;
-        const auto use = [&](auto opened) {
-            write = [&after, raw = opened.get()] { raw->writeToRecord(&after); };
-            dialog = std::move(opened);
-        };
-        if (!combo.isEmpty())
-            use(open<dlgCrackControl>(&after));
-        else if (field.startsWith(QLatin1Char('a')))
-            use(open<dlgReinforcement>(&after));
-        else
-            use(open<dlgDistanceDirection>(&after));
-        QLineEdit* typed = dialog->findChild<QLineEdit*>(field);
-        if (!combo.isEmpty())
-            typed = dialog->findChild<QComboBox*>(combo + field.toUpper())->lineEdit();
-        QVERIFY(typed);
-        typed->selectAll();
-        QTest::keyClicks(typed, QStringLiteral("12,5"));
-        write();
-        QCOMPARE(after.*plib::fieldByName(field)->real, float(12.5 * factor));
-        const QString changed = QLatin1Char(' ') + changes(before, after) + QLatin1Char(' ');
-        QVERIFY(changed.contains(QLatin1Char(' ') + field + QLatin1String("! ")));
+        constexpr double Radian = 0.017453292519943295;
+        typeIntoFields<dlgDistanceDirection>(3, "rio rioq rioi riu riuq riui", Radian);
+        typeIntoFields<dlgDistanceDirection>(3, "hio hioq hioi hiu hiuq hiui", 0.001);
+        typeIntoFields<dlgDistanceDirection>(4, "xref yref zref", 1);
+        typeIntoFields<dlgReinforcement>(
+            3, "aso asoq asoi asu asuq asui amo amoq amoi amu amuq amui", 1);
+        typeIntoFields<dlgCrackControl>(
+            3, "wko wkoq wkoi wku wkuq wkui sigo sigoq sigoi sigu siguq sigui", 1,
+            QStringLiteral("m_p"));
     }
 
     /// The two headers of the greatest reinforcement differ in their first letter.
@@ -213,29 +170,30 @@ private Q_SLOTS:
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);
         const auto dialog = open<dlgReinforcement>(&record);
-        for (const char* name : {"amo", "amui"})
-            edit(dialog.get(), name)->setVal(0.0001);
+        const auto set = [&](const char* name, double value) {
+            find<VKD_H_LineEdit>(*dialog, name)->setVal(value);
+        };
         int warnings = 0;
-        const auto pressOkAndCount = [&] {
+        const auto isRefused = [&] {
+            ++warnings;
             whenModal([&warnings](QWidget* box) {
-                ++warnings;
+                --warnings;
                 QCOMPARE(box->property("text").toString(),
                          QStringLiteral("Min greater than Max is not allowed!"));
                 box->close();
             });
             pressOk(dialog.get());
-            return dialog->isVisible();
+            return dialog->isVisible() && warnings == 0;
         };
-        QVERIFY(pressOkAndCount());
-        QCOMPARE(warnings, 1);
-        edit(dialog.get(), "amo")->setVal(double(record.aso)); // equal is in order
-        QVERIFY(pressOkAndCount());
-        QCOMPARE(warnings, 2);
-        edit(dialog.get(), "amui")->setVal(double(plib::NotSet));
-        edit(dialog.get(), "amoi")->setVal(NAN); // cannot be compared
-        QVERIFY(pressOkAndCount());
-        QCOMPARE(warnings, 3);
-        edit(dialog.get(), "asoi")->clear();
+        set("amo", 0.0001);
+        set("amui", 0.0001);
+        QVERIFY(isRefused());
+        set("amo", double(record.aso)); // equal is in order
+        QVERIFY(isRefused());
+        set("amui", double(plib::NotSet));
+        set("amoi", NAN); // cannot be compared
+        QVERIFY(isRefused());
+        find<VKD_H_LineEdit>(*dialog, "asoi")->clear();
         pressOk(dialog.get());
         QVERIFY(!dialog->isVisible());
     }
@@ -274,10 +232,10 @@ private Q_SLOTS:
         record.wko = 0.25F;
         record.sigu = plib::NotSet;
         const auto dialog = open<dlgCrackControl>(&record);
-        auto width = dialog->findChild<QComboBox*>(QStringLiteral("m_pWKO"));
+        auto width = find<QComboBox>(*dialog, "m_pWKO");
         QCOMPARE(width->lineEdit()->text(), QStringLiteral("0.25"));
         QCOMPARE(width->count(), 3);
-        auto stress = dialog->findChild<QComboBox*>(QStringLiteral("m_pSIGU"));
+        auto stress = find<QComboBox>(*dialog, "m_pSIGU");
         QCOMPARE(stress->lineEdit()->text(), QString()); // and not the first of the list
         stress->showPopup();
         QTest::keyClick(stress->view(), Qt::Key_End);
@@ -303,22 +261,38 @@ private Q_SLOTS:
         QCOMPARE(record.rio, 0.785398185F);
     }
 
-    void noteIsWhole_data()
-    {
-        QTest::addColumn<int>("type");
-        for (int type = 1; type <= 4; ++type)
-            QTest::addRow("type %d", type) << type;
-    }
-
     void noteIsWhole()
     {
-        QFETCH(int, type);
+        for (int type : {1, 2, 3, 4}) {
+            tagZOB_QUAD_RIM record = unevenRecord(type);
+            const auto dialog = open<dlgDistanceDirection>(&record);
+            QApplication::processEvents();
+            for (QLabel* label : dialog->findChildren<QLabel*>())
+                if (label->wordWrap())
+                    QVERIFY(label->height() >= label->heightForWidth(label->width()));
+        }
+    }
+
+private:
+    /// Each field gets a number of its own.
+    template <class Dialog>
+    void typeIntoFields(int type, const char* names, double factor, const QString& combo = {})
+    {
         tagZOB_QUAD_RIM record = unevenRecord(type);
-        const auto dialog = open<dlgDistanceDirection>(&record);
-        QApplication::processEvents();
-        for (QLabel* label : dialog->findChildren<QLabel*>())
-            if (label->wordWrap())
-                QVERIFY(label->height() >= label->heightForWidth(label->width()));
+        const auto dialog = open<Dialog>(&record);
+        const QStringList fields = QString::fromLatin1(names).split(QLatin1Char(' '));
+        for (int i = 0; i < fields.size(); ++i) {
+            auto typed = dialog->template findChild<QLineEdit*>(fields[i]);
+            if (!combo.isEmpty())
+                typed =
+                    find<QComboBox>(*dialog, (combo + fields[i].toUpper()).toLatin1())->lineEdit();
+            QVERIFY2(typed, names);
+            typed->selectAll();
+            QTest::keyClicks(typed, QStringLiteral("%1,5").arg(i + 10));
+        }
+        dialog->writeToRecord(&record);
+        for (int i = 0; i < fields.size(); ++i)
+            QCOMPARE(record.*plib::fieldByName(fields[i])->real, float((i + 10.5) * factor));
     }
 };
 

@@ -46,9 +46,8 @@ private Q_SLOTS:
     {
         plib::checkAndCreateZobDefault(m_project->index());
         plib::checkAndCreateZobDefault(m_project->index());
-        QCOMPARE(stored(m_project->index(), 200, 6), QStringLiteral("-1:0"));
-        auto rows = data();
-        plib::readRowsFromZob(rows);
+        QCOMPARE(stored(), QStringLiteral("-1:0"));
+        auto rows = read();
         QCOMPARE(int(rows.rows.size()), 1);
         QVERIFY(plib::isRemainingGroups(rows.rows[0].groups));
         QCOMPARE(rows.rows[0].record.type, 1);
@@ -56,7 +55,7 @@ private Q_SLOTS:
         const int none = 0;
         vkd_zob_put(m_project->index(), 200, 6, nullptr, &none, 0);
         plib::checkAndCreateZobDefault(m_project->index()); // emptied answers as never written
-        QCOMPARE(read(), QStringLiteral("-1:0"));
+        QCOMPARE(text(read()), QStringLiteral("-1:0"));
     }
 
     void otherRecordsAreLeftAlone()
@@ -96,9 +95,8 @@ private Q_SLOTS:
             foreign.subId = 1;
             put(foreign);
         }
-        QCOMPARE(read(), rows);
-        auto twice = data();
-        plib::readRowsFromZob(twice);
+        QCOMPARE(text(read()), rows);
+        auto twice = read();
         const size_t count = twice.rows.size();
         plib::readRowsFromZob(twice); // appends, removes nothing
         QCOMPARE(twice.rows.size(), 2 * count);
@@ -111,8 +109,7 @@ private Q_SLOTS:
         put(first);
         put(record(2, 2), 60);  // ends behind hio
         put(record(3, 3), 216); // is cut
-        auto rows = data();
-        plib::readRowsFromZob(rows);
+        auto rows = read();
         QCOMPARE(text(rows), QStringLiteral("1:1 2:2 3:3"));
         QCOMPARE(rows.rows[1].record.wko, 0.3F);
         // What stood there is the spacing of the first record, and it is turned into one once more.
@@ -142,9 +139,8 @@ private Q_SLOTS:
             row.groups = {list.begin(), list.end()};
             rows.rows.push_back(row);
         }
-        bool converted = false;
-        plib::writeRowsToZob(rows, converted);
-        QTEST(stored(m_project->index(), 200, 6), "expected");
+        write(rows);
+        QTEST(stored(), "expected");
         if (rows.rows[0].groups.empty())
             return;
         plib::RecordBytes bytes{};
@@ -158,16 +154,13 @@ private Q_SLOTS:
     void secondWriteConvertsNothing()
     {
         plib::checkAndCreateZobDefault(m_project->index());
-        auto rows = data();
-        plib::readRowsFromZob(rows);
+        auto rows = read();
         bool converted = false;
         plib::writeRowsToZob(rows, converted);
         QVERIFY(converted);
         QCOMPARE(rows.rows[0].record.hioq, 0.045F); // and stays in the stored form
         plib::writeRowsToZob(rows, converted);
-        auto again = data();
-        plib::readRowsFromZob(again);
-        QCOMPARE(again.rows[0].record.hioq, 0.045F - 0.035F);
+        QCOMPARE(read().rows[0].record.hioq, 0.045F - 0.035F);
     }
 
     /// Whoever reads sees all of a writer's rows or none: the project is taken once for all puts.
@@ -181,10 +174,9 @@ private Q_SLOTS:
         vkd_lib_setvalue(201, 30);
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(QStringLiteral("cannot take the lock"))); // once
-        bool converted = true;
-        plib::writeRowsToZob(rows, converted);
+        write(rows, true);
         vkd_zob_free_ex(other->index(), 200, 6);
-        QCOMPARE(read(), QStringLiteral("1:1"));
+        QCOMPARE(text(read()), QStringLiteral("1:1"));
     }
 
     void foreignRecordsGoToTheScratchStore()
@@ -193,74 +185,76 @@ private Q_SLOTS:
         foreign.mark = 5;
         put(record(1, 1));
         put(foreign);
-        auto rows = data();
-        plib::readRowsFromZob(rows);
-        bool converted = false;
-        plib::writeRowsToZob(rows, converted);
-        QCOMPARE(stored(m_project->index(), 200, 6),
-                 QStringLiteral("1:1")); // the other one is gone, on purpose
+        auto rows = read();
+        write(rows);
+        QCOMPARE(stored(), QStringLiteral("1:1")); // the other one is gone, on purpose
         QCOMPARE(stored(0, 0, 12979), QStringLiteral("8:8"));
-        plib::writeRowsToZob(rows, converted);
+        write(rows);
         QCOMPARE(stored(0, 0, 12979), QString());
     }
 
     void newRows()
     {
         auto rows = data();
-        QCOMPARE(plib::addDefaultRow(rows).record.hioq, 0.045F - 0.035F);
-        rows.kindOfSystem = 12;
-        QCOMPARE(plib::addDefaultRow(rows).record.hio, -99999.0F);
-        rows.kindOfSystem = -99999; // not known yet
-        QCOMPARE(plib::addDefaultRow(rows).record.hioq, 0.045F);
+        for (int kind : {0, 12, -99999}) { // the last one: not known yet
+            rows.kindOfSystem = kind;
+            plib::addDefaultRow(rows);
+        }
         QCOMPARE(int(rows.rows.size()), 3);
+        QCOMPARE(rows.rows[0].record.hioq, 0.045F - 0.035F);
+        QCOMPARE(rows.rows[1].record.hio, -99999.0F);
+        QCOMPARE(rows.rows[2].record.hioq, 0.045F);
         QVERIFY(rows.rows[2].groups.empty());
         QCOMPARE(rows.rows[2].record.type, 0);
     }
 
 private:
-    void put(const R& record, int length = int(sizeof(R)));
-    plib::DesignParameterData data(int kind = 0);
-    QString read();
-    QString stored(int index, int key1, int key2);
+    void put(const R& record, int length = int(sizeof(R)))
+    {
+        const auto words = plib::toBytes(record);
+        const QByteArray bytes = QByteArray(words.data(), int(words.size())) + "more";
+        QCOMPARE(vkd_zob_put(m_project->index(), 200, 6, bytes.constData(), &length, 1),
+                 VKD_ZOB_OK);
+    }
+
+    plib::DesignParameterData data()
+    {
+        plib::DesignParameterData result;
+        result.designDoc = m_project->doc.get();
+        result.kindOfSystem = 0;
+        return result;
+    }
+
+    plib::DesignParameterData read()
+    {
+        auto rows = data();
+        plib::readRowsFromZob(rows);
+        return rows;
+    }
+
+    void write(plib::DesignParameterData& rows, bool converted = false)
+    {
+        plib::writeRowsToZob(rows, converted);
+    }
+
+    /// What a key pair holds, ours by default.
+    QString stored() { return stored(m_project->index(), 200, 6); }
+    QString stored(int index, int key1, int key2)
+    {
+        QStringList all;
+        plib::RecordBytes bytes{};
+        for (int length = int(bytes.size()), position = 0;
+             vkd_zob_get(index, key1, key2, bytes.data(), &length, position) < 2;
+             ++position, length = int(bytes.size())) {
+            const R r = plib::fromBytes(bytes);
+            all << QStringLiteral("%1:%2").arg(r.group).arg(double(r.rio));
+        }
+        vkd_zob_free_ex(index, key1, key2);
+        return all.join(QLatin1Char(' '));
+    }
 
     std::unique_ptr<testsupport::TemporaryProject> m_project;
 };
-
-void TestDesignStore::put(const R& record, int length)
-{
-    const auto words = plib::toBytes(record);
-    const QByteArray bytes = QByteArray(words.data(), int(words.size())) + "more";
-    QCOMPARE(vkd_zob_put(m_project->index(), 200, 6, bytes.constData(), &length, 1), VKD_ZOB_OK);
-}
-
-plib::DesignParameterData TestDesignStore::data(int kind)
-{
-    plib::DesignParameterData result;
-    result.designDoc = m_project->doc.get();
-    result.kindOfSystem = kind;
-    return result;
-}
-
-QString TestDesignStore::read()
-{
-    auto rows = data();
-    plib::readRowsFromZob(rows);
-    return text(rows);
-}
-
-QString TestDesignStore::stored(int index, int key1, int key2)
-{
-    QStringList all;
-    plib::RecordBytes bytes{};
-    for (int length = int(bytes.size()), position = 0;
-         vkd_zob_get(index, key1, key2, bytes.data(), &length, position) < 2;
-         ++position, length = int(bytes.size())) {
-        const R r = plib::fromBytes(bytes);
-        all << QStringLiteral("%1:%2").arg(r.group).arg(double(r.rio));
-    }
-    vkd_zob_free_ex(index, key1, key2);
-    return all.join(QLatin1Char(' '));
-}
 
 PLIB_TEST_MAIN(TestDesignStore)
 #include "tst_designStore.moc"

@@ -20,6 +20,13 @@ DesignDesk::DesignDesk(HostProject& project)
     table()->setFocus();
 }
 
+DesignDesk::DesignDesk(HostProject& project, const std::vector<tagZOB_QUAD_RIM>& records)
+    : DesignDesk(project)
+{
+    project.setRecords(records);
+    page->readZob();
+}
+
 QComboBox* DesignDesk::groupCombo() const
 {
     const QList<QComboBox*> found =

@@ -13,6 +13,8 @@ class DesignDesk : public VKD_QT_Dialog
 {
 public:
     explicit DesignDesk(HostProject& project);
+    /// With these records in the project, and read.
+    DesignDesk(HostProject& project, const std::vector<tagZOB_QUAD_RIM>& records);
 
     QTableWidget* table() const { return findChild<QTableWidget*>(QStringLiteral("table")); }
     /// The combo of the group editor; null if none is open.

@@ -1,14 +1,12 @@
 #include "DesignDesk.h"
 #include "LanguageSupport.h"
+#include "Monkey.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_H_ProjectDialogPage.h>
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-
-#include <algorithm>
-#include <random>
 
 using namespace testsupport;
 
@@ -18,14 +16,14 @@ constexpr int Rounds = 40;
 constexpr int StepsInARound = 500;
 constexpr int MostRows = 40; // more would only repeat the same
 
-/// Presses keys and clicks at random. A modal dialog or a menu is worked on for a few steps while
-/// it blocks the caller, and is left then.
-class Monkey : public QObject
+/// A modal dialog or a menu is worked on for a few steps while it blocks the caller, and is left
+/// then.
+class DesignMonkey : public Monkey
 {
 public:
-    Monkey(DesignDesk* desk, unsigned seed)
-        : m_desk(desk)
-        , m_random(seed)
+    DesignMonkey(DesignDesk* desk, int seed)
+        : Monkey(seed)
+        , m_desk(desk)
     {
         workOnDialog();
     }
@@ -33,11 +31,12 @@ public:
     void step()
     {
         switch (below(8)) {
-        case 0: clickSomewhere(m_desk->table()->viewport()); break;
+        case 0: clickIn(m_desk->table()->viewport()); break;
         case 1:
         case 2: openSomeCell(); break;
         case 3: below(4) ? pressButton(m_desk) : keepRowsFew(); break;
         case 4: press(QApplication::focusWidget(), Qt::Key_Tab); break;
+        case 5: openMenu(); break;
         default: press(QApplication::focusWidget(), randomKey()); break;
         }
         if (below(4) == 0)
@@ -45,8 +44,6 @@ public:
     }
 
 private:
-    int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
-
     Qt::Key randomKey()
     {
         static const Qt::Key keys[] = {
@@ -55,7 +52,7 @@ private:
             Qt::Key_Delete, Qt::Key_D,     Qt::Key_Down, Qt::Key_Right, Qt::Key_PageDown,
             Qt::Key_Escape, Qt::Key_A,     Qt::Key_1,    Qt::Key_Minus, Qt::Key_Backspace,
         };
-        return keys[below(int(std::size(keys)))];
+        return pick(keys);
     }
 
     void press(QWidget* widget, Qt::Key key)
@@ -66,26 +63,14 @@ private:
             (!m_desk->editors().isEmpty() &&
              (m_desk->table()->isAncestorOf(widget) || m_desk->table() == widget));
         if (widget && staysOpen)
-            QTest::keyClick(widget, key,
-                            below(9) ? Qt::NoModifier : Qt::KeyboardModifier(Qt::ControlModifier));
+            pressKey(widget, key);
     }
 
-    void clickSomewhere(QWidget* widget)
+    void openMenu()
     {
-        const QPoint place(below(qMax(1, widget->width())), below(qMax(1, widget->height())));
-        QWidget* hit = widget->childAt(place);
-        QWidget* target = hit ? hit : widget;
-        const Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::NoModifier,
-                                                   Qt::ControlModifier, Qt::ShiftModifier};
-        const QPoint local = target->mapFrom(widget, place);
-        if (below(20) == 0)
-            QTest::mouseDClick(target, Qt::LeftButton, {}, local);
-        else if (below(20) == 0)
-            QCoreApplication::postEvent(
-                m_desk->table()->viewport(),
-                new QContextMenuEvent(QContextMenuEvent::Keyboard, place, place));
-        else
-            QTest::mouseClick(target, Qt::LeftButton, modifiers[below(4)], local);
+        if (below(5) == 0)
+            QCoreApplication::postEvent(m_desk->table()->viewport(),
+                                        new QContextMenuEvent(QContextMenuEvent::Keyboard, {5, 5}));
     }
 
     void openSomeCell()
@@ -99,12 +84,10 @@ private:
 
     void pressButton(QWidget* parent)
     {
-        QList<QAbstractButton*> buttons = parent->findChildren<QAbstractButton*>();
-        std::shuffle(buttons.begin(), buttons.end(), m_random);
-        for (QAbstractButton* button : buttons)
-            if (button->isVisible() &&
-                (button->objectName() != QLatin1String("btnDelete") || !below(4)))
-                return QTest::mouseClick(button, Qt::LeftButton);
+        QAbstractButton* button = pick(parent->findChildren<QAbstractButton*>());
+        if (button->isVisible() &&
+            (button->objectName() != QLatin1String("btnDelete") || !below(4)))
+            QTest::mouseClick(button, Qt::LeftButton);
     }
 
     void keepRowsFew()
@@ -119,28 +102,25 @@ private:
     void workOnDialog()
     {
         QTimer::singleShot(0, this, [this] { workOnDialog(); }); // first: a step may open another
-        QWidget* window = QApplication::activePopupWidget();
-        if (!window)
-            window = QApplication::activeModalWidget();
+        QWidget* popup = QApplication::activePopupWidget();
+        QWidget* window = popup ? popup : QApplication::activeModalWidget();
         if (!window || window == m_desk)
             return;
         if (below(12) == 0)
             return QTest::keyClick(window, Qt::Key_Escape);
-        if (QApplication::activePopupWidget()) {
-            QWidget* list = window->findChild<QAbstractItemView*>();
-            return QTest::keyClick(list ? list : window, below(3) ? Qt::Key_Down : Qt::Key_Enter);
+        if (popup) {
+            QWidget* list = popup->findChild<QAbstractItemView*>();
+            return QTest::keyClick(list ? list : popup, below(3) ? Qt::Key_Down : Qt::Key_Enter);
         }
         switch (below(3)) {
         case 0: return pressButton(window);
-        case 1: return clickSomewhere(window);
+        case 1: return clickIn(window);
         default:
-            QWidget* focus = window->focusWidget();
-            QTest::keyClick(focus ? focus : window, randomKey());
+            QTest::keyClick(window->focusWidget() ? window->focusWidget() : window, randomKey());
         }
     }
 
     DesignDesk* m_desk;
-    std::mt19937 m_random;
 };
 
 /// Group by group, what the table says about it, in an order of its own: a group may stand in two
@@ -183,7 +163,7 @@ private Q_SLOTS:
         {
             DesignDesk desk(m_project);
             desk.page->getEntrys(m_entries);
-            Monkey monkey(&desk, unsigned(seed));
+            DesignMonkey monkey(&desk, seed);
             for (int step = 0; step < StepsInARound; ++step) {
                 monkey.step();
                 const QString editors = desk.editors();

@@ -28,28 +28,21 @@ tagZOB_QUAD_RIM record(int group, int type, float minimum)
 void confirmGroups(const QString& typed)
 {
     whenModal([typed](QWidget* dialog) {
-        QTest::keyClicks(dialog->findChild<QLineEdit*>(QStringLiteral("input")), typed);
-        QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("none")), Qt::LeftButton);
-        QTest::keyClick(dialog->findChild<QLineEdit*>(QStringLiteral("input")), Qt::Key_Enter);
-        QDialog* asDialog = qobject_cast<QDialog*>(dialog);
-        asDialog->accept();
+        QTest::keyClicks(find<QLineEdit>(*dialog, "input"), typed);
+        QTest::mouseClick(find<QPushButton>(*dialog, "none"), Qt::LeftButton);
+        QTest::keyClick(find<QLineEdit>(*dialog, "input"), Qt::Key_Enter);
+        qobject_cast<QDialog*>(dialog)->accept();
     });
 }
 
+/// The entries, the current one with a star.
 QString entriesOf(const QComboBox* combo)
 {
     QStringList texts;
     for (int entry = 0; entry < combo->count(); ++entry)
-        texts << (entry == combo->currentIndex() ? QLatin1Char('*') + combo->itemText(entry)
-                                                 : combo->itemText(entry));
+        texts << QLatin1String(entry == combo->currentIndex() ? "*" : "") + combo->itemText(entry);
     return texts.join(QLatin1Char('|'));
 }
-
-void choose(QComboBox* combo, Qt::Key arrow)
-{
-    QTest::keyClick(combo, arrow);
-}
-
 } // namespace
 
 class tst_designPage : public QObject
@@ -57,7 +50,11 @@ class tst_designPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setLanguage(English); }
+    void init()
+    {
+        setLanguage(English);
+        m_project = std::make_unique<HostProject>(QStringLiteral("slab"));
+    }
 
     void fromANewProjectToRecords_data()
     {
@@ -79,9 +76,8 @@ private Q_SLOTS:
         QFETCH(int, language);
         QFETCH(QString, lastRow);
         setLanguage(language);
-        HostProject project(QStringLiteral("slab"));
         {
-            DesignDesk desk(project);
+            DesignDesk desk(*m_project);
             QSignalSpy counted(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged);
             desk.page->readZob();
             desk.keys({Qt::Key_Insert, Qt::Key_Insert, Qt::Key_Down, Qt::Key_Down, Qt::Key_Delete});
@@ -89,7 +85,7 @@ private Q_SLOTS:
             QCOMPARE(counted.last().first().toInt(), 2);
             desk.table()->setCurrentCell(1, 0); // Delete left no selection
             desk.keys({Qt::Key_Right, Qt::Key_F2});
-            auto types = desk.findChild<QComboBox*>(QStringLiteral("cellCombo"));
+            auto types = find<QComboBox>(desk, "cellCombo");
             QTRY_VERIFY(types->view()->isVisible());
             QTest::keyClick(types->view(), Qt::Key_Down);
             QTest::keyClick(types->view(), Qt::Key_Down);
@@ -107,25 +103,22 @@ private Q_SLOTS:
             QVERIFY(desk.page->checkVals());
             desk.page->writeToZob();
         }
-        project.reopen();
+        m_project->reopen();
         QStringList stored;
-        for (const tagZOB_QUAD_RIM& found : project.records())
+        for (const tagZOB_QUAD_RIM& found : m_project->records())
             stored << QStringLiteral("%1:%2").arg(found.group).arg(found.type);
         QCOMPARE(stored.join(QLatin1Char(' ')), QStringLiteral("-1:1 2:2 3:2"));
     }
 
     void aTypeChangesNothingElse()
     {
-        HostProject project(QStringLiteral("slab"));
         tagZOB_QUAD_RIM before = record(1, 3, 7);
         before.dioi = 12;
-        project.setRecords({record(-1, 1, 0), before});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project, {record(-1, 1, 0), before});
         QVERIFY(desk.table()->item(1, 3)->text().contains(QLatin1String("7.00")));
         desk.table()->item(1, 1)->setText(QStringLiteral("Two Layers"));
         desk.page->writeToZob();
-        tagZOB_QUAD_RIM after = project.records().at(1);
+        tagZOB_QUAD_RIM after = m_project->records().at(1);
         QCOMPARE(after.type, 2);
         after.type = 3;
         QVERIFY(std::memcmp(&after, &before, sizeof before) == 0);
@@ -135,10 +128,8 @@ private Q_SLOTS:
 
     void editorsComeAndGo()
     {
-        HostProject project(QStringLiteral("slab"));
-        project.setRecords({record(-1, 1, 0), record(1, 2, 1), record(2, 0, 2), record(3, 4, 3)});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project,
+                        {record(-1, 1, 0), record(1, 2, 1), record(2, 0, 2), record(3, 4, 3)});
         const auto select = [&](int row, int column) {
             desk.table()->setCurrentCell(row, column);
             return desk.editors();
@@ -172,10 +163,7 @@ private Q_SLOTS:
     /// Clicks go to the window, as the window system sends them.
     void editorAwayFromTheCurrentCell()
     {
-        HostProject project(QStringLiteral("slab"));
-        project.setRecords({record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
         const auto click = [&desk](QWidget* widget) {
             QTest::mouseClick(desk.windowHandle(), Qt::LeftButton, {},
                               widget->mapTo(&desk, widget->rect().center()));
@@ -183,7 +171,7 @@ private Q_SLOTS:
         desk.table()->setCurrentCell(1, 0);
         desk.table()->setCurrentCell(0, 0);
         confirmGroups(QStringLiteral("3"));
-        click(desk.findChild<QPushButton*>(QStringLiteral("buttonGroups")));
+        click(find<QPushButton>(desk, "buttonGroups"));
         QCOMPARE(desk.table()->currentIndex(), desk.table()->model()->index(1, 0));
         QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
         desk.table()->setCurrentCell(2, 2);
@@ -211,23 +199,20 @@ private Q_SLOTS:
     {
         QFETCH(int, column);
         QFETCH(QString, edit);
-        HostProject project(QStringLiteral("slab"));
-        project.setRecords({record(-1, 1, 0), record(1, 2, 1)});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1)});
         desk.table()->setCurrentCell(1, column);
         const QString before = desk.row(1);
         const auto editAndLeave = [&](bool accepts) {
             whenModal([=](QWidget* dialog) {
-                if (auto calculator = dialog->findChild<QPushButton*>(QStringLiteral("Calc"))) {
+                if (auto calculator = find<QPushButton>(*dialog, "Calc")) {
                     whenModal([](QWidget* opened) { qobject_cast<QDialog*>(opened)->accept(); });
                     calculator->click();
                 }
                 auto field = dialog->findChild<QLineEdit*>(edit);
                 field->selectAll();
                 QTest::keyClicks(field, QStringLiteral("33"));
-                QDialog* asDialog = qobject_cast<QDialog*>(dialog);
-                accepts ? asDialog->accept() : asDialog->reject();
+                qobject_cast<QDialog*>(dialog)->done(accepts ? QDialog::Accepted
+                                                             : QDialog::Rejected);
             });
             desk.keys({Qt::Key_F2});
             return desk.row(1);
@@ -239,11 +224,8 @@ private Q_SLOTS:
 
     void deletingAndMoving()
     {
-        HostProject project(QStringLiteral("slab"));
-        project.setRecords(
-            {record(-1, 1, 0), record(1, 1, 1), record(2, 1, 2), record(3, 1, 3), record(4, 1, 4)});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 1, 1), record(2, 1, 2),
+                                     record(3, 1, 3), record(4, 1, 4)});
         QSignalSpy counted(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged);
         const auto groupsAfter = [&](const char* button, int row) {
             desk.table()->setCurrentCell(row, 2);
@@ -277,7 +259,7 @@ private Q_SLOTS:
             QVERIFY(table->rowHeight(row) >=
                     table->sizeHintForIndex(table->model()->index(row, 2)).height());
         desk.page->writeToZob();
-        QCOMPARE(project.records().size(), std::size_t(3));
+        QCOMPARE(m_project->records().size(), std::size_t(3));
     }
 
     void entriesOfTheGroupCombo_data()
@@ -293,10 +275,7 @@ private Q_SLOTS:
     {
         QFETCH(QVector<int>, groups);
         QFETCH(QString, typed);
-        HostProject project(QStringLiteral("slab"));
-        project.setRecords({record(groups.first(), 1, 0)});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project, {record(groups.first(), 1, 0)});
         desk.press("btnNew");
         desk.table()->setCurrentCell(1, 0);
         if (!typed.isEmpty()) {
@@ -305,7 +284,7 @@ private Q_SLOTS:
         }
         QTEST(entriesOf(desk.groupCombo()), "entries");
         // Choosing the list again changes nothing, also where it has the second place.
-        choose(desk.groupCombo(), Qt::Key_End);
+        QTest::keyClick(desk.groupCombo(), Qt::Key_End);
         desk.table()->setCurrentCell(1, 1);
         desk.table()->setCurrentCell(1, 0);
         if (!typed.isEmpty())
@@ -314,37 +293,31 @@ private Q_SLOTS:
 
     void choosingRemainingGroups()
     {
-        HostProject project(QStringLiteral("slab"));
-        project.setRecords({record(4, 1, 0), record(1, 1, 1), record(2, 1, 2)});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project, {record(4, 1, 0), record(1, 1, 1), record(2, 1, 2)});
         const auto entriesAt = [&](int row) {
             desk.table()->setCurrentCell(row, 0);
             return entriesOf(desk.groupCombo());
         };
         QCOMPARE(entriesAt(1), QStringLiteral("None|Remaining Groups|*1"));
-        choose(desk.groupCombo(), Qt::Key_Up);
+        QTest::keyClick(desk.groupCombo(), Qt::Key_Up);
         QCOMPARE(entriesAt(2), QStringLiteral("None|*2"));
         QCOMPARE(desk.groups(), QStringLiteral("4|Remaining Groups|"));
         QCOMPARE(entriesAt(1), QStringLiteral("None|*Remaining Groups"));
-        choose(desk.groupCombo(), Qt::Key_Up);
+        QTest::keyClick(desk.groupCombo(), Qt::Key_Up);
         QCOMPARE(entriesAt(2), QStringLiteral("None|Remaining Groups|*2"));
-        choose(desk.groupCombo(), Qt::Key_Home);
-        choose(desk.groupCombo(), Qt::Key_End); // the list is still an entry, but empty by now
+        QTest::keyClick(desk.groupCombo(), Qt::Key_Home);
+        QTest::keyClick(desk.groupCombo(),
+                        Qt::Key_End); // the list is still an entry, but empty by now
         QCOMPARE(entriesAt(1), QStringLiteral("*None|Remaining Groups"));
         QCOMPARE(desk.groups(), QStringLiteral("4||None"));
     }
 
     void dialogsKnowTheGroupsOfOtherRows()
     {
-        HostProject project(QStringLiteral("slab"));
-        project.setRecords({record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2)});
-        DesignDesk desk(project);
-        desk.page->readZob();
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2)});
         desk.table()->setCurrentCell(1, 0);
         whenModal([](QWidget* dialog) {
-            const auto list =
-                dialog->findChild<QAbstractItemView*>(QStringLiteral("groups"))->model();
+            const auto list = find<QAbstractItemView>(*dialog, "groups")->model();
             QStringList used;
             for (int row = 0; row < list->rowCount(); ++row)
                 used << list->index(row, list->columnCount() - 1).data().toString();
@@ -358,7 +331,7 @@ private Q_SLOTS:
         QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("OPEN"));
         desk.table()->setCurrentCell(1, 1);
         desk.page->writeToZob();
-        QVERIFY(project.records().at(1).group > 1000000);
+        QVERIFY(m_project->records().at(1).group > 1000000);
 
         HostProject bare{QString()};
         DesignDesk without(bare);
@@ -371,73 +344,67 @@ private Q_SLOTS:
 
     void detourOutOfTheDialog()
     {
-        HostProject project(QStringLiteral("slab"));
-        DesignDesk desk(project);
+        DesignDesk desk(*m_project);
         desk.page->readZob();
         desk.press("btnNew");
         desk.hide();
-        const std::vector<int> picks[] = {{4, 2}, {3}, {}};
-        for (const std::vector<int>& pick : picks) {
-            whenModal([&desk, pick](QWidget*) {
+        const struct
+        {
+            std::vector<int> picked;
+            QString shown;
+        } ways[] = {
+            {{4, 2}, QStringLiteral("2;4")}, {{3}, QStringLiteral("3")}, {{}, QStringLiteral("1")}};
+        for (const auto& way : ways) {
+            whenModal([&](QWidget*) {
                 desk.table()->setCurrentCell(1, 0);
-                if (pick.empty()) {
+                if (way.picked.empty()) {
                     confirmGroups(QStringLiteral("1"));
                     desk.press("buttonGroups");
                 }
-                whenModal([](QWidget* groups) {
-                    QTest::mouseClick(groups->findChild<QPushButton*>(QStringLiteral("pick")),
-                                      Qt::LeftButton);
-                });
+                whenModal([](QWidget* groups) { find<QPushButton>(*groups, "pick")->click(); });
                 desk.press("buttonGroups");
             });
             QCOMPARE(desk.exec(), 6);
-            if (!pick.empty()) // who picks nothing keeps what the row had, and not the last pick
-                VKD_H_SelGRP_Dialog::putAniSelectionToZob(project.doc()->index(), pick);
+            if (!way.picked.empty()) // who picks nothing keeps what the row had, not the last pick
+                VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->doc()->index(), way.picked);
             whenModal([&desk](QWidget*) { desk.accept(); });
             QCOMPARE(desk.exec(), int(QDialog::Accepted));
-            QCOMPARE(desk.groupCombo()->currentText(), pick.size() == 2   ? QStringLiteral("2;4")
-                                                       : pick.size() == 1 ? QStringLiteral("3")
-                                                                          : QStringLiteral("1"));
+            QCOMPARE(desk.groupCombo()->currentText(), way.shown);
             desk.table()->setCurrentCell(1, 1);
         }
     }
 
     void leavingThePage()
     {
-        HostProject project(QStringLiteral("slab"));
-        DesignDesk desk(project);
+        DesignDesk desk(*m_project);
         desk.page->readZob();
         QVERIFY(desk.page->checkVals());
         desk.press("btnNew");
-        const auto answered = [&](Qt::Key key, QMessageBox::StandardButton button) {
-            whenModal([=](QWidget* box) {
+        const auto answered = [&](const std::function<void(QMessageBox*)>& answer) {
+            whenModal([answer](QWidget* box) {
                 QCOMPARE(box->property("text").toString(),
                          QStringLiteral("No groups selected.\nPossible loss of data!"));
-                if (button == QMessageBox::NoButton)
-                    QTest::keyClick(box, key);
-                else
-                    qobject_cast<QMessageBox*>(box)->button(button)->click();
+                answer(qobject_cast<QMessageBox*>(box));
             });
             return desk.page->checkVals();
         };
-        QVERIFY(!answered(Qt::Key_unknown, QMessageBox::No));
-        QVERIFY(answered(Qt::Key_unknown, QMessageBox::Yes));
-        QVERIFY(answered(Qt::Key_Escape, QMessageBox::NoButton));
+        QVERIFY(!answered([](QMessageBox* box) { box->button(QMessageBox::No)->click(); }));
+        QVERIFY(answered([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); }));
+        QVERIFY(answered([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); }));
     }
 
     void rowsWithoutGroupsStayWithThePage()
     {
-        HostProject project(QStringLiteral("slab"));
         VKD_H_ProjectDialogPage entries;
         {
-            DesignDesk desk(project);
+            DesignDesk desk(*m_project);
             desk.page->getEntrys(entries);
             desk.press("btnNew");
             desk.table()->item(1, 1)->setText(QStringLiteral("Circular"));
             QVERIFY(desk.page->checkVals()); // would hang with a question
             desk.page->setEntrys(entries);
         }
-        DesignDesk desk(project);
+        DesignDesk desk(*m_project);
         desk.page->getEntrys(entries);
         QVERIFY2(desk.row(1).startsWith(QStringLiteral("None|Circular|0.0° ;0.0°")),
                  qPrintable(desk.row(1)));
@@ -445,17 +412,15 @@ private Q_SLOTS:
 
     void helpIsFound()
     {
-        HostProject project{QString()};
-        DesignDesk desk(project);
-        const QWidgetList before = QApplication::topLevelWidgets();
+        HostProject bare{QString()};
+        DesignDesk desk(bare);
         desk.page->showHelp();
-        QWidget* opened = nullptr;
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (!before.contains(window) && window->isVisible() && window->isWindow())
-                opened = window;
-        QVERIFY(opened);
-        opened->close();
+        QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != &desk);
+        QApplication::activeWindow()->close();
     }
+
+private:
+    std::unique_ptr<HostProject> m_project;
 };
 
 PLIB_WIDGET_TEST_MAIN(tst_designPage)

@@ -1,4 +1,5 @@
 #include "HostProject.h"
+#include "Monkey.h"
 #include "WidgetTestSupport.h"
 
 #include <AnimatorView.h>
@@ -9,8 +10,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTreeWidget>
-
-#include <random>
 
 namespace {
 constexpr int Seed = 611;
@@ -28,13 +27,13 @@ Rows rowsUpTo(int count)
 }
 
 /// Works on a page at random, as user and as host.
-class Monkey
+class OutputMonkey : public Monkey
 {
 public:
-    Monkey(VKD_P_WidgetGraphicalOutput* page, QWidget* animator, unsigned seed)
-        : m_page(page)
+    OutputMonkey(VKD_P_WidgetGraphicalOutput* page, QWidget* animator, int seed)
+        : Monkey(seed)
+        , m_page(page)
         , m_animator(animator)
-        , m_random(seed)
     {
     }
 
@@ -46,7 +45,9 @@ public:
         case 2: clickIn(tree()->viewport()); break;
         case 3:
         case 4: press(tree()); break;
-        case 5: pressSomeButton(); break;
+        case 5:
+            QTest::mouseClick(pick(m_page->findChildren<QAbstractButton*>()), Qt::LeftButton);
+            break;
         case 6: press(pick(m_page->findChildren<QComboBox*>())); break;
         case 7: press(m_page->findChild<QLineEdit*>(QStringLiteral("m_boxedEdit_edit"))); break;
         case 8: clickIn(m_animator); break;
@@ -61,13 +62,7 @@ public:
     Rows rows;
 
 private:
-    int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
     QTreeWidget* tree() const { return m_page->findChild<QTreeWidget*>(); }
-    template <class Widget>
-    Widget* pick(const QList<Widget*>& widgets)
-    {
-        return widgets[below(widgets.size())];
-    }
 
     void press(QWidget* widget)
     {
@@ -75,21 +70,7 @@ private:
                                        Qt::Key_Space, Qt::Key_Home,  Qt::Key_End,     Qt::Key_1,
                                        Qt::Key_Comma, Qt::Key_Minus, Qt::Key_Escape,  Qt::Key_A,
                                        Qt::Key_Plus,  Qt::Key_Enter, Qt::Key_Asterisk};
-        QTest::keyClick(widget, keys[below(int(std::size(keys)))]);
-    }
-
-    void clickIn(QWidget* widget)
-    {
-        const QPoint place(below(widget->width()), below(widget->height()));
-        if (below(10) == 0)
-            QTest::mouseDClick(widget, Qt::LeftButton, {}, place);
-        else
-            QTest::mouseClick(widget, Qt::LeftButton, {}, place);
-    }
-
-    void pressSomeButton()
-    {
-        QTest::mouseClick(pick(m_page->findChildren<QAbstractButton*>()), Qt::LeftButton);
+        pressKey(widget, pick(keys));
     }
 
     void openMenu()
@@ -119,7 +100,6 @@ private:
 
     VKD_P_WidgetGraphicalOutput* m_page;
     QWidget* m_animator;
-    std::mt19937 m_random;
     QString m_kept;
 };
 } // namespace
@@ -145,7 +125,7 @@ private Q_SLOTS:
                                          &animator);
         page.resize(800, 600);
         page.show();
-        Monkey monkey(&page, &animator, unsigned(seed));
+        OutputMonkey monkey(&page, &animator, seed);
         for (int step = 0; step < StepsInARound; ++step)
             monkey.step();
         const QString kept = page.writeXMLstring();
