@@ -9,7 +9,8 @@
 static QByteArray allTokens()
 {
     QByteArray file =
-        "0|ABC|Grund|Base\n0|GTX|kurz>lang>mehr|short>long>more\n0|GT0|>vorn|>front\n"
+        "0|ABC|Grund|Base\n0|GTX|kurz>lang>mehr|short>long>more\n0|GT0|>vorn|>front\n1|GTX|a>b|a>"
+        "b\n"
         "0|BLK|  |  \n0|ABD|a|a\n1|ABC|Grund eins|Base one\n4|ABC|Grund vier|Base four\n"
         "0|\xC3\x84"
         "BC|Umlaut|Umlaut\n";
@@ -40,6 +41,7 @@ private Q_SLOTS:
             "BC",
             " Umlaut"); // keys are Latin-1
         row("&GTX", " long>more");
+        row("^GTX", " a>b");            // has no short form
         row("&GT0", " >front");         // a mark in the first place parts nothing
         row("&BLK", "   ");             // blanks are a text
         row("&XXX", "");                // a token without a text: empty, not null

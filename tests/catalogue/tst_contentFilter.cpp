@@ -44,9 +44,8 @@ private Q_SLOTS:
             const OneAnswer yes(Content(content++), 0);
             const OneAnswer no(std::nullopt, 0);
             QVERIFY2(plib::hasContent(tag, yes), qPrintable(tag));
-            QVERIFY(plib::hasContent(tag.toUpper(), yes));
-            QVERIFY(plib::hasContent(tag.toLower(), yes));
-            QVERIFY(!plib::hasContent(tag, no));
+            for (const QString& same : {tag, tag.toUpper(), tag.toLower()})
+                QVERIFY(!plib::hasContent(same, no));
             QVERIFY(plib::hasContent(tag + QLatin1Char('s'), no)); // another text is no condition
         }
     }

@@ -114,10 +114,18 @@ private Q_SLOTS:
     void secondNumber()
     {
         const std::pair<const char*, int> labels[] = {
-            {"", -1},          {"12 : Wind", -1}, {"12+14: Wind", 14}, {"12 + 14 : Wind", 14},
-            {"12 : a+14", -1}, {"1+2", 2},        {"12+345", 34}, // without a colon five characters
-                                                                  // count
-            {"1+2+3:", -1},    {"1+:", -1},       {"1+x:", -1},        {"1+-5:", -5},
+            {"", -1},
+            {"12 : Wind", -1},
+            {"12+14: Wind", 14},
+            {"12 + 14 : Wind", 14},
+            {"12 : a+14", -1},
+            {"1+2", 2},
+            {"12+345", 34}, // without a colon five characters
+                            // count
+            {"1+2+3:", -1},
+            {"1+:", -1},
+            {"1+x:", -1},
+            {"1+-5:", -5},
             {"1e+06 : x", 6}, // the label of a million
             {"+7", 7},
         };

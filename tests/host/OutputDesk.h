@@ -8,6 +8,7 @@
 #include <VKD_QT_TreeWidget.h>
 #include <vkd_qt_xmlpart.h>
 
+#include <QComboBox>
 #include <QRadioButton>
 
 using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
@@ -41,6 +42,11 @@ public:
     VKD_QT_TreeWidget* tree() { return find<VKD_QT_TreeWidget>("m_list"); }
     VKD_QT_RadioButtonGroup* group(const char* name) { return find<VKD_QT_RadioButtonGroup>(name); }
     void choose(const char* name, int entry) { group(name)->getRadioButton(entry)->click(); }
+    void chooseScale(const char* scale)
+    {
+        choose("ScaleGroup", 0);
+        find<QComboBox>("box_scale")->setCurrentText(QLatin1String(scale));
+    }
     /// The first plot with load cases below it.
     QTreeWidgetItem* plotWithRows()
     {

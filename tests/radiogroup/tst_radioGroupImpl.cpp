@@ -2,9 +2,6 @@
 
 #include <VKD_P_RadioGroupImpl.h>
 
-#include <QRadioButton>
-
-using Group = VKD_P_RadioGroup;
 using Impl = VKD_P_RadioGroupImpl;
 
 /// What no host sees: the row about the amount of text relays no signal, but its buttons send them.
@@ -13,18 +10,8 @@ class tst_radioGroupImpl : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void amountOfText_data()
-    {
-        const Columns<QString> row("sent");
-        row("checked:m_NoTextOutput", "~0 ~0 none ~0");
-        row("checked:m_All", "~2 ~2 all =2 ~2");
-        row("checked:m_Manually", "~1");
-    }
-
-    /// The kept text is the name of the row.
     void amountOfText()
     {
-        const QString text = QString::fromUtf8(QTest::currentDataTag());
         QWidget dialog, coupled;
         Impl group;
         group.initEchoOutput(&dialog);
@@ -42,26 +29,10 @@ private Q_SLOTS:
         connect(&group, &Impl::buttonManuallyChecked, &dialog, add("manual"));
         connect(&group, &Impl::buttonAllChecked, &dialog, add("all"));
         connect(&group, &Impl::buttonChecked, &dialog, addNumber("="));
-        group.readXML(text);
-        QTEST(log.join(QLatin1Char(' ')), "sent");
-    }
-
-    void onlyItsOwnButtons()
-    {
-        QWidget dialog;
-        Impl group;
-        group.init(&dialog);
-        dialog.setLayout(group.layout());
-        group.useWidget(nullptr);
-        QSignalSpy sent(&group, &Impl::buttonChecked);
-        QRadioButton strange;
-        strange.setAutoExclusive(false);
-        connect(&strange, &QRadioButton::toggled, &group, &Impl::buttonXXClicked);
-        strange.setChecked(true);
-        group.buttonXXClicked(true);
-        QCOMPARE(sent.size(), 0);
-        group.setSelectedId(Group::All);
-        QCOMPARE(sent.size(), 1);
+        for (const char* kept : {"m_Manually", "m_NoTextOutput", "m_All", "m_Manually"})
+            group.readXML(QLatin1String("checked:") + QLatin1String(kept));
+        QCOMPARE(log.join(QLatin1Char(' ')),
+                 QStringLiteral("~1 ~0 ~0 none ~0 ~2 ~2 all =2 ~2 ~1 ~1 manual =1 ~1"));
     }
 };
 
