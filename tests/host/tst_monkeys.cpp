@@ -1,0 +1,116 @@
+#include "DesignDesk.h"
+#include "LanguageSupport.h"
+#include "Monkey.h"
+#include "OutputDesk.h"
+#include "WidgetTestSupport.h"
+
+#include <AnimatorView.h>
+#include <VKD_H_ProjectDialogPage.h>
+
+using namespace testsupport;
+
+namespace {
+constexpr int Seed = 20261121;
+constexpr int Rounds = 40;
+constexpr int StepsInARound = 500;
+
+/// Group by group, what the table says about it, in an order of its own: a group may stand in two
+/// rows, and rows with equal parameters are one when they are read again. The page's entries, which
+/// keep the rows without groups, have no place for the limits of the reinforcement.
+QString groupByGroup(const DesignDesk& desk)
+{
+    QStringList all;
+    for (int number = 0; number < desk.table()->rowCount(); ++number) {
+        const QString row = desk.row(number);
+        const QStringList groups = row.section(QLatin1Char('|'), 0, 0).split(QLatin1Char(';'));
+        const int lastColumn = row.startsWith(QLatin1String("None")) ? 2 : -1;
+        for (const QString& group : groups)
+            all << group + QLatin1Char('|') + row.section(QLatin1Char('|'), 1, lastColumn);
+    }
+    all.sort();
+    return all.join(QLatin1Char('\n'));
+}
+} // namespace
+
+/// Pages on which somebody has worked at random: a fresh one has to become the same.
+class tst_monkeys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { setLanguage(English); }
+
+    void design_data() { addRounds(); }
+
+    /// The rows of the page are seen by what is written.
+    void design()
+    {
+        QFETCH(int, seed);
+        HostProject project(QStringLiteral("slab"));
+        VKD_H_ProjectDialogPage entries;
+        QString before;
+        {
+            DesignDesk desk(project);
+            desk.page->getEntrys(entries);
+            Monkey monkey(&desk, seed);
+            for (int step = 0; step < StepsInARound; ++step) {
+                monkey.step();
+                const QString editors = desk.editors();
+                QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
+                if (desk.isVisible())
+                    continue;
+                QCOMPARE(desk.result(), 6); // left to pick groups, and for nothing else
+                desk.show();
+            }
+            desk.table()->setCurrentCell(0, 1); // closes the last editor
+            before = groupByGroup(desk);
+            desk.page->setEntrys(entries);
+        }
+        DesignDesk desk(project);
+        desk.page->getEntrys(entries);
+        QCOMPARE(groupByGroup(desk), before);
+    }
+
+    void output_data() { addRounds(); }
+
+    void output()
+    {
+        QFETCH(int, seed);
+        HostProject project(QStringLiteral("hall"));
+        AnimatorView animator(project.doc()->index());
+        OutputDesk desk(project, VKD_P_GraphicalOutput_Standard, &animator);
+        desk.page.resize(800, 600);
+        Monkey monkey(&desk.page, seed);
+        Rows rows = LoadCases;
+        QString old;
+        for (int step = 0; step < StepsInARound; ++step) {
+            monkey.step();
+            switch (monkey.below(60)) { // as a host
+            case 0:
+                rows.resize(std::size_t(monkey.below(6)), {1, 7, QStringLiteral("7 : case")});
+                desk.page.setUsedNumbersAndNames(rows);
+                break;
+            case 1: old = desk.page.writeXMLstring(); break;
+            case 2: desk.page.readXMLstring(old.left(monkey.below(old.size() + 1))); break;
+            }
+        }
+        const QString kept = desk.page.writeXMLstring();
+        AnimatorView otherAnimator(project.doc()->index());
+        OutputDesk fresh(project, VKD_P_GraphicalOutput_Standard, &otherAnimator);
+        fresh.page.setUsedNumbersAndNames(rows);
+        fresh.page.readXMLstring(kept);
+        QCOMPARE(fresh.page.writeXMLstring(), kept);
+        QCOMPARE(fresh.page.getTORVAL(true), desk.page.getTORVAL(true));
+    }
+
+private:
+    static void addRounds()
+    {
+        QTest::addColumn<int>("seed");
+        for (int round = 0; round < Rounds; ++round)
+            QTest::addRow("round %d", round) << Seed + round;
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_monkeys)
+#include "tst_monkeys.moc"
