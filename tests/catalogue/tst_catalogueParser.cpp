@@ -65,6 +65,9 @@ private Q_SLOTS:
             QByteArray(fifteen).replace("KNOT", " ") + fourteen, carried);
         row("a blank script is stored too",
             fifteen + QByteArray(fifteen).replace("NODE", " ") + fourteen, record);
+        row("the same line again behind one that is not ASCII",
+            fifteen + QByteArray(fifteen).replace("x", "\xC3\xA4") + fifteen,
+            record + QString(record).replace(QLatin1Char('x'), QChar(0xE4)) + record);
         row("captions",
             QByteArray("1|0|0|@ND1 Nodes|&BAS Fallback|1 A&BAS Fallback| |0| |0|0| |0|g|e\n"),
             "1,0,0 [Nodes/Base/Pre  Base I] {   @ND1}{   &BAS}{1 A&BAS}"

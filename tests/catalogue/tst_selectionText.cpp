@@ -72,7 +72,10 @@ private Q_SLOTS:
         row("no third part", "Checked:@A__\nPartially:@A__   @B__", "xxxxxx xxxx ....");
         row("partially unchecks what it does not name",
             "Checked:@A__\nPartially:@A__   @B__   @C__ : 1,", "---x.. xxxx ....");
-        row("unknown words and short lines", "checked:@A__\nChecked\n:\nERROR CASE\nNo:@A__",
+        row("unknown words and short lines are skipped",
+            "checked:@A__\nChecked\n:\nERROR CASE\nNo:@A__\nChecked:@A__   @B__   @D__",
+            "--.... xxxx ....");
+        row("nothing behind a comma is no number", "Partially:@A__   @B__ : 7,",
             "...... .... ....");
         row("a row's number behind the identifier is not read", "Checked:@A__:%2",
             "xxxxxx xxxx ....");

@@ -1,6 +1,5 @@
 #include "TestSupport.h"
 
-#include <VKD_H_PluginFactory.h>
 #include <vkd_lib_value.h>
 #include <vkd_qt_getFileNameWithLang.h>
 #include <vkd_unittests.h>
@@ -29,12 +28,6 @@ class tst_frame : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void noPlugin()
-    {
-        QVERIFY(!VKD_H_PluginFactory(QString()));
-        QVERIFY(!VKD_H_PluginFactory(QStringLiteral("VKD_P_DesignParameter")));
-    }
-
     void selfCheck()
     {
         for (const QString& language : {QStringLiteral("0"), QStringLiteral("1")}) {
@@ -78,21 +71,19 @@ private Q_SLOTS:
         QCOMPARE(vkd_qt_getFileNameWithLang(onDisk, 1), onDisk);
     }
 
-    void pictures_data()
-    {
-        const Columns<QSize> row("size");
-        row(":/neq_merpara_rich.png", QSize(193, 111));
-        row(":/neq_merpara_rich_0.png", QSize(193, 112));
-        row(":/neq_merpara_rich_1.png", QSize(193, 112));
-        row(":/betondeckung.png", QSize(240, 111));
-        row(":/betondeckung_0.png", QSize(240, 112));
-        row(":/betondeckung_1.png", QSize(240, 112));
-        row(":/neq_designline_zrt_bew_mod_allg.png", QSize(299, 104));
-    }
-
     void pictures()
     {
-        QTEST(QPixmap(QLatin1String(QTest::currentDataTag()), "PNG").size(), "size");
+        const std::pair<const char*, QSize> pictures[] = {
+            {":/neq_merpara_rich.png", {193, 111}},
+            {":/neq_merpara_rich_0.png", {193, 112}},
+            {":/neq_merpara_rich_1.png", {193, 112}},
+            {":/betondeckung.png", {240, 111}},
+            {":/betondeckung_0.png", {240, 112}},
+            {":/betondeckung_1.png", {240, 112}},
+            {":/neq_designline_zrt_bew_mod_allg.png", {299, 104}}};
+        for (const auto& [name, size] : pictures)
+            QCOMPARE(std::make_pair(name, QPixmap(QLatin1String(name), "PNG").size()),
+                     std::make_pair(name, size));
     }
 };
 

@@ -6,24 +6,19 @@ class tst_selfCheckLog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void folder_data()
+    void folders()
     {
-        const Columns<QByteArray, QByteArray> row("arguments", "folder");
-        using Bytes = QByteArray;
-        row("root without any", Bytes("-v all"), Bytes("/"));
-        row("separator appended", Bytes("LOGPATH:/tmp/x"), Bytes("/tmp/x/"));
-        row("separator kept", Bytes("logpath:/tmp/x/"), Bytes("/tmp/x/"));
-        row("last one wins", Bytes("LogPath:/a logPATH:/b all"), Bytes("/b/"));
-        row("last one wins though empty", Bytes("logpath:/a logpath:"), Bytes("/"));
-        row("every mark removed", Bytes("-logpath:/a/LOGPATH:b"), Bytes("-/a/b/"));
-    }
-
-    void folder()
-    {
-        QFETCH(QByteArray, arguments);
-        QFETCH(QByteArray, folder);
-        const QStringList list = QString::fromLatin1(arguments).split(QLatin1Char(' '));
-        QCOMPARE(plib::selfCheckLog(list), QLatin1String(folder + "VKD_P_Mix_UnitTest.log"));
+        const std::pair<const char*, const char*> folders[] = {
+            {"-v all", "/"},
+            {"LOGPATH:/tmp/x", "/tmp/x/"},
+            {"logpath:/tmp/x/", "/tmp/x/"},
+            {"LogPath:/a logPATH:/b all", "/b/"}, // the last one wins,
+            {"logpath:/a logpath:", "/"},         // though it is empty
+            {"-logpath:/a/LOGPATH:b", "-/a/b/"},  // every mark goes
+        };
+        for (const auto& [arguments, folder] : folders)
+            QCOMPARE(plib::selfCheckLog(QString::fromLatin1(arguments).split(QLatin1Char(' '))),
+                     QLatin1String(folder) + QLatin1String("VKD_P_Mix_UnitTest.log"));
     }
 };
 

@@ -120,22 +120,18 @@ private Q_SLOTS:
 
     void noLines()
     {
-        for (auto variant : {VKD_P_GraphicalOutput_Standard, VKD_P_GraphicalOutput_Prefix}) {
-            OutputSettings s;
-            s.variant = variant;
-            QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), true, m_texts), QString());
-        }
+        OutputSettings s;
+        QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), true, m_texts), QString());
+        s.variant = VKD_P_GraphicalOutput_Prefix;
+        QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), true, m_texts), QString());
     }
 
     void views_data()
     {
-        QTest::addColumn<int>("viewId");
-        QTest::addColumn<bool>("english");
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](int view, bool english, const char* line, const char* expected) {
-            QTest::addRow("%d %s", view, line)
-                << view << english << QString::fromLatin1(line) << QString::fromLatin1(expected);
+        const Columns<int, bool, QString> columns("viewId", "english", "expected");
+        const auto row = [&columns](int view, bool english, const char* line,
+                                    const char* expected) {
+            columns(line, view, english, expected);
         };
         row(3, false, "BEOB EG3 more", "BEOB EG3 more");
         row(0, false, "BEOB EG3", "BEOB TYP EGXY ; PERS INFI");
@@ -148,51 +144,44 @@ private Q_SLOTS:
         row(0, true, "EG3 at the very beginning, EG3", "EG3 at the very beginning, EG3");
     }
 
+    /// The line is the name of the row.
     void views()
     {
         QFETCH(int, viewId);
         QFETCH(bool, english);
-        QFETCH(QString, line);
         OutputSettings s;
         s.viewId = viewId;
-        const QString script = plib::outputScript(s, {line}, QString(), english, m_texts);
+        const std::vector<QString> lines{QString::fromLatin1(QTest::currentDataTag())};
+        const QString script = plib::outputScript(s, lines, QString(), english, m_texts);
         QTEST(script.section(QLatin1Char('\n'), -3, -3), "expected");
     }
 
     void size_data()
     {
         const Columns<Change, QString> row("change", "english");
+        const auto scaled = [](int index, const char* text) {
+            return Change([=](OutputSettings& s) {
+                s.formatId = 1;
+                s.scaleMode = 0;
+                s.scaleIndex = index;
+                s.scaleText = QString::fromLatin1(text);
+            });
+        };
+        const char* const fitted = "SIZE URS SC 0 MARG NO FORM STAN";
         row(
-            "landscape has no division", [](OutputSettings& s) { s.formatId = 1; },
-            "SIZE URS SC 0 MARG NO FORM STAN");
+            "landscape has no division", [](OutputSettings& s) { s.formatId = 1; }, fitted);
+        row(
+            "no format to choose", [](OutputSettings& s) { s.hasFormat = false; }, fitted);
+        row(
+            "a fitted scale hides the list",
+            [](OutputSettings& s) { s.scaleIndex = 5, s.formatId = 1; }, fitted);
         row(
             "one per page", [](OutputSettings& s) { s.picturesId = 0; },
             "SIZE -URS SC 0 MARG NO FORM STAN");
-        row(
-            "no format to choose", [](OutputSettings& s) { s.hasFormat = false; },
-            "SIZE URS SC 0 MARG NO FORM STAN");
-        row(
-            "automatic engineering scale",
-            [](OutputSettings& s) { s.scaleMode = 0, s.formatId = 1; },
-            "SIZE URS SC - MARG NO FORM STAN");
-        row(
-            "scale text without a colon",
-            [](OutputSettings& s) {
-                s.scaleMode = 0, s.scaleIndex = 3, s.formatId = 1,
-                s.scaleText = QStringLiteral("75");
-            },
-            "SIZE URS SC 75*1.e+10 MARG NO FORM STAN");
-        row(
-            "only the first colon counts",
-            [](OutputSettings& s) {
-                s.scaleMode = 0, s.scaleIndex = 3, s.formatId = 1,
-                s.scaleText = QStringLiteral("1:2:3");
-            },
+        row("automatic scale", scaled(0, ""), "SIZE URS SC - MARG NO FORM STAN");
+        row("no colon", scaled(3, "75"), "SIZE URS SC 75*1.e+10 MARG NO FORM STAN");
+        row("the first colon counts", scaled(3, "1:2:3"),
             "SIZE URS SC 2:3*1.e+10 MARG NO FORM STAN");
-        row(
-            "a fitted scale hides the list",
-            [](OutputSettings& s) { s.scaleIndex = 5, s.formatId = 1; },
-            "SIZE URS SC 0 MARG NO FORM STAN");
     }
 
     void size()
@@ -205,26 +194,22 @@ private Q_SLOTS:
         QCOMPARE(plib::sizeStatement(settings(change), false), german);
     }
 
-    void font_data()
-    {
-        const Columns<QString, QString> row("typed", "expected");
-        row("default", "2", "0.2");
-        row("a comma is no number", "2,5", "0");
-        row("empty", {}, "0");
-        row("six digits", "12.3456789", "1.23457");
-        row("large", "1e8", "1e+07");
-    }
-
     void font()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, expected);
-        OutputSettings s;
-        s.fontSizeText = typed;
-        QCOMPARE(plib::fontStatement(s, true), QLatin1String("SCHH H6 ") + expected);
-        QCOMPARE(plib::fontStatement(s, false), QLatin1String("SCHR H6 ") + expected);
-        s.variant = VKD_P_GraphicalOutput_Split;
-        QCOMPARE(plib::fontStatement(s, true), expected);
+        const std::pair<const char*, const char*> sizes[] = {{"2", "0.2"},
+                                                             {"2,5", "0"}, // a comma is no number
+                                                             {"", "0"},
+                                                             {"12.3456789", "1.23457"},
+                                                             {"1e8", "1e+07"}};
+        for (const auto& [typed, expected] : sizes) {
+            OutputSettings s;
+            s.fontSizeText = QString::fromLatin1(typed);
+            const QString number = QString::fromLatin1(expected);
+            QCOMPARE(plib::fontStatement(s, true), QLatin1String("SCHH H6 ") + number);
+            QCOMPARE(plib::fontStatement(s, false), QLatin1String("SCHR H6 ") + number);
+            s.variant = VKD_P_GraphicalOutput_Split;
+            QCOMPARE(plib::fontStatement(s, true), number);
+        }
     }
 
     void split_data()
