@@ -50,32 +50,11 @@ class tst_designPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        setLanguage(English);
-        m_project = std::make_unique<HostProject>(QStringLiteral("slab"));
-    }
-
-    void fromANewProjectToRecords_data()
-    {
-        const Columns<int, QString, QString> row("language", "firstRow", "lastRow");
-        row("German", 0,
-            "Übrige Gruppen|Zwei Lagen (orthogonal)|0,0° ;0,0°/35,0 mm ;35,0 mm "
-            ";10,0 mm ;10,0 mm ;|Ø10 ; -  ; - /Ø10 ; -  ; - | -  ; -  ; - / -  ; -  "
-            "; -  ;",
-            "2;3|Zwei Lagen|");
-        row("English", 1,
-            "Remaining Groups|Two Layers (orthogonal)|0.0° ;0.0°/35.0 mm ;35.0 mm "
-            ";10.0 mm ;10.0 mm ;|Ø10 ; -  ; - /Ø10 ; -  ; - | -  ; -  ; - / -  ; -  "
-            "; -  ;",
-            "2;3|Two Layers|");
-    }
+    void initTestCase() { setLanguage(English); }
+    void init() { m_project = std::make_unique<HostProject>(QStringLiteral("slab")); }
 
     void fromANewProjectToRecords()
     {
-        QFETCH(int, language);
-        QFETCH(QString, lastRow);
-        setLanguage(language);
         {
             DesignDesk desk(*m_project);
             QSignalSpy counted(desk.page, &VKD_P_DesignParameter::signal_rowCountChanged);
@@ -98,8 +77,11 @@ private Q_SLOTS:
             QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("2;3"));
             QTest::keyClick(desk.groupCombo(), Qt::Key_Escape);
             QCOMPARE(desk.editors(), QString());
-            QTEST(desk.row(0), "firstRow");
-            QVERIFY2(desk.row(1).startsWith(lastRow), qPrintable(desk.row(1)));
+            QCOMPARE(desk.row(0),
+                     QStringLiteral("Remaining Groups|Two Layers (orthogonal)|"
+                                    "0.0° ;0.0°/35.0 mm ;35.0 mm ;10.0 mm ;10.0 mm ;|"
+                                    "Ø10 ; -  ; - /Ø10 ; -  ; - | -  ; -  ; - / -  ; -  ; -  ;"));
+            QCOMPARE(desk.row(1).left(15), QStringLiteral("2;3|Two Layers|"));
             QVERIFY(desk.page->checkVals());
             desk.page->writeToZob();
         }
@@ -204,7 +186,7 @@ private Q_SLOTS:
         const QString before = desk.row(1);
         const auto editAndLeave = [&](bool accepts) {
             whenModal([=](QWidget* dialog) {
-                if (auto calculator = find<QPushButton>(*dialog, "Calc")) {
+                if (auto calculator = dialog->findChild<QPushButton*>(QStringLiteral("Calc"))) {
                     whenModal([](QWidget* opened) { qobject_cast<QDialog*>(opened)->accept(); });
                     calculator->click();
                 }

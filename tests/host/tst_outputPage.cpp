@@ -152,11 +152,10 @@ private Q_SLOTS:
 
     void keptAndRestored_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("model");
-        for (int kind : {1, 122, 222})
-            for (const char* model : {"building", "slab", "hall"})
-                QTest::addRow("%d on %s", kind, model) << kind << QString::fromLatin1(model);
+        const Columns<int, QString> row("kind", "model");
+        row("standard", VKD_P_GraphicalOutput_Standard, "building");
+        row("split", VKD_P_GraphicalOutput_Split, "hall");
+        row("prefix", VKD_P_GraphicalOutput_Prefix, "slab");
     }
 
     void keptAndRestored()
@@ -168,7 +167,7 @@ private Q_SLOTS:
         Desk desk(project, progname);
         desk.chooseScale("1:25");
         desk.page.readXMLstring(part("Font", "2,5"));
-        if (kind == 122) {
+        if (progname == VKD_P_GraphicalOutput_Split) {
             desk.find<QComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(4);
         } else {
             desk.choose("FormatGroup", 1);
