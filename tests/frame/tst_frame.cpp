@@ -56,19 +56,14 @@ private Q_SLOTS:
                  QStringLiteral("Grafische Ausgabe\nGraphical Output\nGrafische Ausgabe"));
     }
 
+    /// Only what the resources hold counts, not what happens to lie on the disk.
     void languageForm()
     {
-        const auto form = [](const char* name) {
-            return vkd_qt_getFileNameWithLang(QLatin1String(name), 1);
-        };
-        QCOMPARE(form(":/betondeckung.png"), QStringLiteral(":/betondeckung_1.png"));
-        QCOMPARE(form(":/no.such.png"), QStringLiteral(":/no.such.png"));
-        QCOMPARE(form(""), QString());
-        // Only what the resources hold counts, not what happens to lie on the disk.
         const QTemporaryDir folder;
         const QString onDisk = folder.filePath(QStringLiteral("a.png"));
         testsupport::writeFile(folder.filePath(QStringLiteral("a_1.png")), "x");
-        QCOMPARE(vkd_qt_getFileNameWithLang(onDisk, 1), onDisk);
+        for (const QString& name : {onDisk, QStringLiteral(":/no.such.png"), QString()})
+            QCOMPARE(vkd_qt_getFileNameWithLang(name, 1), name);
     }
 
     void pictures()

@@ -244,33 +244,24 @@ private Q_SLOTS:
         QCOMPARE(m_project->records().size(), std::size_t(3));
     }
 
-    void entriesOfTheGroupCombo_data()
-    {
-        const Columns<QVector<int>, QString, QString> row("groups", "typed", "entries");
-        row("nobody has the remaining ones, none here", {1}, {}, "*None|Remaining Groups");
-        row("nobody has the remaining ones, groups here", {1}, "4 3", "None|Remaining Groups|*3;4");
-        row("another row has them, none here", {-1}, {}, "*None");
-        row("another row has them, groups here", {-1}, "4 3", "None|*3;4");
-    }
-
     void entriesOfTheGroupCombo()
     {
-        QFETCH(QVector<int>, groups);
-        QFETCH(QString, typed);
-        DesignDesk desk(*m_project, {record(groups.first(), 1, 0)});
-        desk.press("btnNew");
-        desk.table()->setCurrentCell(1, 0);
-        if (!typed.isEmpty()) {
-            confirmGroups(typed);
+        const std::pair<int, const char*> others[] = {{1, "None|Remaining Groups"}, {-1, "None"}};
+        for (const auto& [other, entries] : others) {
+            DesignDesk desk(*m_project, {record(other, 1, 0)});
+            desk.press("btnNew");
+            desk.table()->setCurrentCell(1, 0);
+            QCOMPARE(entriesOf(desk.groupCombo()), QLatin1Char('*') + QLatin1String(entries));
+            confirmGroups(QStringLiteral("4 3"));
             desk.press("buttonGroups");
+            const QString withGroups = QLatin1String(entries) + QLatin1String("|*3;4");
+            QCOMPARE(entriesOf(desk.groupCombo()), withGroups);
+            // Choosing the list again changes nothing, also where it has the second place.
+            QTest::keyClick(desk.groupCombo(), Qt::Key_End);
+            desk.table()->setCurrentCell(1, 1);
+            desk.table()->setCurrentCell(1, 0);
+            QCOMPARE(entriesOf(desk.groupCombo()), withGroups);
         }
-        QTEST(entriesOf(desk.groupCombo()), "entries");
-        // Choosing the list again changes nothing, also where it has the second place.
-        QTest::keyClick(desk.groupCombo(), Qt::Key_End);
-        desk.table()->setCurrentCell(1, 1);
-        desk.table()->setCurrentCell(1, 0);
-        if (!typed.isEmpty())
-            QTEST(entriesOf(desk.groupCombo()), "entries");
     }
 
     void choosingRemainingGroups()
