@@ -68,6 +68,9 @@ private Q_SLOTS:
         row("a plot with rows that stands alone too follows its rows",
             line("A|B|B", "last-l", 2) + line("A|B|C", " ", 0, 0, "g", "f"), testsupport::rows(1),
             0, "LC 1 DESI 1\ne\ne\n");
+        row("also where only some of its rows are checked",
+            line("A|B|B", "last-l") + line("A|B|C", " ") + line("A|B|D", "last-l"),
+            testsupport::rows(1), 0, "LC 1 DESI 1\ne\ne\n");
     }
 
     void lines()
