@@ -17,6 +17,7 @@
 
 #include <QMenu>
 #include <QMessageBox>
+#include <QTranslator>
 
 #include <sys/resource.h>
 
@@ -27,12 +28,30 @@ using Tree = GraphicalOutputTreeWidget;
 namespace {
 constexpr int StandardPage = 1;
 
-rlimit limitOfFiles()
+/// From now on no file can be opened, whoever runs the test, until a text is asked for: that is
+/// when the failure gets reported, and boxes and sanitizers need files.
+class NoMoreFiles : public QTranslator
 {
-    rlimit limit{};
-    getrlimit(RLIMIT_NOFILE, &limit);
-    return limit;
-}
+public:
+    NoMoreFiles()
+    {
+        QCoreApplication::installTranslator(this);
+        getrlimit(RLIMIT_NOFILE, &m_before);
+        const rlimit none{0, m_before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        if (qstrcmp(source, "Couldn't open file") == 0)
+            setrlimit(RLIMIT_NOFILE, &m_before);
+        return QString();
+    }
+
+private:
+    rlimit m_before{};
+};
 } // namespace
 
 class TestOutputTreeWidget : public QObject
@@ -202,18 +221,14 @@ private Q_SLOTS:
     void noCatalogue()
     {
         useCatalogue(line("A|B|C", " "));
-        QMessageBox().show(); // has what a box needs loaded, for from now on no file can be opened
-        const rlimit before = limitOfFiles();
-        const rlimit none{0, before.rlim_max};
-        setrlimit(RLIMIT_NOFILE, &none);
         QString shown;
         testsupport::whenModal([&](QWidget* box) {
-            setrlimit(RLIMIT_NOFILE, &before);
             const auto error = static_cast<QMessageBox*>(box);
             if (error->icon() == QMessageBox::Critical)
                 shown = error->windowTitle() + QLatin1Char('/') + error->text();
             box->close();
         });
+        const NoMoreFiles untilReported;
         Tree tree(nullptr, StandardPage, m_parameter.get(), "m_list");
         QCOMPARE(shown, QStringLiteral("Couldn't open file/Failed to open file ") +
                             m_texts->path("graphicaloutput.data"));
