@@ -47,6 +47,10 @@ private Q_SLOTS:
     {
         QFETCH(int, seed);
         HostProject project(QStringLiteral("slab"));
+        std::vector<tagZOB_QUAD_RIM> records(5, VKD_P_DesignParameter::getDefaultMerPara(true));
+        for (int group = 1; group < 5; ++group)
+            records[std::size_t(group)].group = records[std::size_t(group)].type = group;
+        project.setRecords(records);
         VKD_H_ProjectDialogPage entries;
         QString before;
         {
