@@ -77,6 +77,8 @@ void readMessage(QStringList& texts)
 void enterFile(QWidget* dialog, const QString& path)
 {
     auto name = find<QLineEdit>(*dialog, "fileNameEdit");
+    QApplication::setActiveWindow(dialog);
+    name->setFocus(); // else what is selected in the list counts, and not the text
     name->setText(path);
     QTest::keyClick(name, Qt::Key_Return);
 }
