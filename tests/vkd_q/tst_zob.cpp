@@ -37,13 +37,17 @@ private Q_SLOTS:
     void sequence()
     {
         // puts: "=" writes the first record, "+" appends
-        const auto sequenceOf = [](int index, const QString& puts) {
+        const auto sequenceOf = [](int index, bool isTaken, const QString& puts) {
+            if (isTaken)
+                vkd_zob_lock_ex(index, 1, 7);
             put(index, 1, 7, QByteArray(), 0);
             for (int neighbour : {6, 8})
                 put(index, 1, neighbour, "other", 0);
             for (const QByteArray& one : puts.toUtf8().split(' '))
                 if (put(index, 1, 7, one.mid(1), one[0] == '+' ? 1 : 0) != VKD_ZOB_OK)
                     return QStringLiteral("refused");
+            if (isTaken)
+                vkd_zob_free_ex(index, 1, 7);
             cd_error_t end = -1;
             const QByteArray found = readAll(index, 7, &end).join(',');
             for (int neighbour : {6, 8})
@@ -51,8 +55,11 @@ private Q_SLOTS:
                     return QStringLiteral("others changed");
             return QString::fromUtf8(found + (end == VKD_ZOB_END ? "." : " no key"));
         };
-        for (int index : {0, m_first})
-            compareCases([&](const QString& puts) { return sequenceOf(index, puts); }, R"(
+        for (const auto& [index, isTaken] :
+             {std::pair(0, false), {m_first, false}, {m_first, true}})
+            compareCases([&, index = index, isTaken = isTaken](
+                             const QString& puts) { return sequenceOf(index, isTaken, puts); },
+                         R"(
 +a +b => a,b.
 =a => a.
 +a +b +c =x => x,b,c.
@@ -60,6 +67,8 @@ private Q_SLOTS:
 +a +b = =>  no key
 = =>  no key
 +a +b = +c => c.
++a +b =x +c => x,b,c.
++a +b = +c =x => x.
 )");
     }
 

@@ -69,6 +69,8 @@ private Q_SLOTS:
             return allTexts(whole, Tags[0]).join(QLatin1Char('|'));
         };
         QVERIFY(vkd_qt_readXMLpart(QString(), 0, QString()).isNull());
+        const QString empty = vkd_qt_readXMLpart(QStringLiteral("<A></A>"), 0, Tags[0]);
+        QVERIFY(empty.isEmpty() && !empty.isNull()); // there, unlike a part that is missing
         compareCases(read, R"(
 <A> =>
 <A>x</A =>

@@ -77,6 +77,11 @@ private Q_SLOTS:
             changeChoice(*window);
             QVERIFY(script(*window) != proposed);
             chosen = script(*window);
+            // The short cuts of the window are there in the dialog beside it.
+            const QString saved = path(isKept ? "kept.dat" : "cancelled.dat");
+            answerFileDialog(saved);
+            QTest::keyClick(find<QDialog>(*window, "OutputDialog"), Qt::Key_S, Qt::ControlModifier);
+            QVERIFY(QFile::exists(saved));
             trigger(*window, "German");
             QVERIFY(window->isWindowModified());
             trigger(*window, "English");

@@ -97,6 +97,8 @@ QAction* WindowActions::add(const char* name)
 {
     auto action = new QAction(this);
     action->setObjectName(QLatin1String(name));
+    // The output dialogs stay open beside the window; its short cuts are meant there as well.
+    action->setShortcutContext(Qt::ApplicationShortcut);
     return action;
 }
 
