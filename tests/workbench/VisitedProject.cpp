@@ -1,6 +1,6 @@
 #include "VisitedProject.h"
 
-#include <RecordsPane.h>
+#include <RecordsModel.h>
 #include <vkd_dbo_groups.h>
 #include <vkd_dbo_model.h>
 
@@ -75,9 +75,9 @@ QSet<QString> VisitedProject::texts()
         found << group.title;
     for (const vkd::dbo::GroupSummary& group : vkd::dbo::readSecondaryGroups(index))
         found << group.title << group.name;
-    const workbench::RecordsPane words;
+    const workbench::RecordsModel words;
     for (int word = 0; word < words.rowCount(); ++word)
-        found << words.item(word, 0)->text();
+        found << words.headerData(word, Qt::Vertical, Qt::DisplayRole).toString();
     for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index))
         found << loadCase.title
               << QStringLiteral("%1 : %2").arg(loadCase.number).arg(loadCase.title);

@@ -1,6 +1,6 @@
 #include "ProjectTest.h"
 
-#include <QTableWidget>
+#include <QTableView>
 #include <QTreeWidget>
 
 using namespace windowtest;
@@ -30,7 +30,7 @@ private Q_SLOTS:
         QVERIFY(window.openProject(copy("first.zob")));
         QCOMPARE(groupCount() == 0, isShown);
         QTRY_VERIFY(groupCount() > 0);
-        QTRY_VERIFY(window.findChild<QTableWidget*>(QStringLiteral("Records")));
+        QTRY_VERIFY(window.findChild<QTableView*>(QStringLiteral("Records")));
         const int groups = groupCount();
         // A second project takes the place of the first at once: its file is closed.
         makeProject(path("second.zob"), QStringLiteral("slab"));

@@ -119,8 +119,9 @@ private Q_SLOTS:
     void pickingInTheView()
     {
         const auto window = open("pick.zob");
-        auto records = find<QTableWidget>(*window, "Records");
+        auto records = find<QTableView>(*window, "Records")->model();
         QCOMPARE(records->rowCount(), 53);
+        QCOMPARE(records->headerData(52, Qt::Vertical).toString(), QStringLiteral("sigui [N/mm²]"));
         // What is below the mouse in the view is marked in the list.
         auto groups = find<QTreeWidget>(*window, "GroupList");
         const auto marked = [groups] {

@@ -553,6 +553,13 @@ Soll sie gespeichert werden?</translation>
     </message>
 </context>
 <context>
+    <name>workbench::RecordsModel</name>
+    <message>
+        <source>Record %1</source>
+        <translation>Datensatz %1</translation>
+    </message>
+</context>
+<context>
     <name>workbench::RecordsPane</name>
     <message>
         <source>Design records</source>
@@ -561,18 +568,6 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>The design records as they lie in the project file. Each row is a word of four bytes.</source>
         <translation>Die Bemessungsdatensätze, wie sie in der Projektdatei liegen. Jede Zeile ist ein Wort von vier Byte.</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>Einheit</translation>
-    </message>
-    <message>
-        <source>Record %1</source>
-        <translation>Datensatz %1</translation>
     </message>
 </context>
 <context>

@@ -1,12 +1,14 @@
 #pragma once
 
-#include <VKD_QT_TableWidget.h>
+#include <QTableView>
 
 namespace workbench {
 
-/// The design records as they lie in the project, word by word: a row for each word with its name
-/// and unit, and a column for each record.
-class RecordsPane : public VKD_QT_TableWidget
+class RecordsModel;
+
+/// The design records as they lie in the project, word by word. Names and units of the words stay
+/// in sight beside them. Chosen cells can be copied.
+class RecordsPane : public QTableView
 {
     Q_OBJECT
 
@@ -18,12 +20,14 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    QStyleOptionViewItem viewOptions() const override;
 
 private:
     void setTexts();
-    void fill();
+    void fitColumns();
 
-    int m_index = -1;
+    RecordsModel* m_model;
 };
 
 } // namespace workbench

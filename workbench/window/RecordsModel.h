@@ -1,0 +1,40 @@
+#pragma once
+
+#include <tagZOB_QUAD_RIM.h>
+
+#include <QAbstractTableModel>
+
+#include <array>
+#include <vector>
+
+namespace workbench {
+
+/// The design records of a project as a table: a column for each record, and a row for each of its
+/// words of four bytes, with name and unit as the heading.
+class RecordsModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Reads the records of the project at this database index anew; below 1 there are none.
+    void read(int index);
+    /// The text with the most characters.
+    QString longestText() const;
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    using Record = std::array<char, sizeof(tagZOB_QUAD_RIM)>;
+
+    static QString wordText(quint32 word, bool isInteger);
+    quint32 word(int record, int row) const;
+
+    std::vector<Record> m_records;
+};
+
+} // namespace workbench
