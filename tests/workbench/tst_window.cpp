@@ -4,7 +4,9 @@
 
 #include <QComboBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
+#include <QTabWidget>
 #include <QTreeWidget>
 
 using namespace windowtest;
@@ -113,6 +115,45 @@ private Q_SLOTS:
                  QString::fromLatin1(language).toLower()}));
             QVERIFY(expected.size() > 1000);
             QTRY_COMPARE(treeText(dialog->findChild<QTreeWidget*>()), expected);
+        }
+    }
+
+    /// With the language a dialog is made anew, and so it is after another start.
+    void dialogsStayAsTheyAre()
+    {
+        const QRect place(20, 30, 1234, 765);
+        const auto dialogs = [](const MainWindow& window) {
+            QVector<QDialog*> both;
+            for (const char* name : {"Output", "TextOutput"}) {
+                trigger(window, name);
+                both << find<QDialog>(window, name + QByteArray("Dialog"));
+            }
+            return both;
+        };
+        auto window = open("places.zob");
+        for (QDialog* dialog : dialogs(*window))
+            dialog->setGeometry(place);
+        auto tree = find<QDialog>(*window, "OutputDialog")->findChild<QTreeWidget*>();
+        tree->collapseItem(tree->topLevelItem(1));
+        tree->setCurrentItem(tree->topLevelItem(2)->child(1));
+        tree->scrollToItem(tree->topLevelItem(2), QTreeWidget::PositionAtTop);
+        const int top = tree->verticalScrollBar()->value();
+        QVERIFY(top > 0);
+        trigger(*window, "German");
+        tree = find<QDialog>(*window, "OutputDialog")->findChild<QTreeWidget*>();
+        QVERIFY(!tree->topLevelItem(1)->isExpanded());
+        QCOMPARE(tree->currentItem(), tree->topLevelItem(2)->child(1));
+        QCOMPARE(tree->verticalScrollBar()->value(), top);
+        auto tabs = find<QDialog>(*window, "OutputDialog")->findChild<QTabWidget*>();
+        tabs->setCurrentIndex(1);
+        trigger(*window, "English");
+        tabs = find<QDialog>(*window, "OutputDialog")->findChild<QTabWidget*>();
+        QCOMPARE(tabs->currentIndex(), 1);
+        for (const bool isNew : {false, true}) {
+            if (isNew)
+                window = open("again.zob");
+            for (const QDialog* dialog : dialogs(*window))
+                QCOMPARE(dialog->geometry(), place);
         }
     }
 

@@ -1,6 +1,7 @@
 #include "DesignDialog.h"
 
 #include "dialogPages.h"
+#include "KeptPlace.h"
 #include "ProjectWriting.h"
 #include "withinScreen.h"
 
@@ -52,6 +53,7 @@ DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
     setWindowTitle(tr("Design Parameters"));
     new QVBoxLayout(this);
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28});
+    new KeptPlace(this);
 }
 
 /// The page goes before its documents.

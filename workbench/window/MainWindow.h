@@ -19,6 +19,7 @@ namespace workbench {
 class DesignDialog;
 class GroupList;
 class OutputDialog;
+struct OutputPresent;
 struct OutputState;
 class PickBanner;
 class RecordsPane;
@@ -101,6 +102,7 @@ private:
     OutputDialog* output();
     PlotNames plotNames() const;
     void makeOutput(const OutputState& state);
+    void remakeOutput(const OutputPresent& before);
     void showOutput();
     bool storeOutput();
     void refreshScript();
@@ -109,7 +111,7 @@ private:
     void saveScript();
 
     void showTextOutput();
-    void reopenTextOutput(const TextOutputState& state, const QPoint& place);
+    void reopenTextOutput(const TextOutputState& state);
     void makeTextOutput();
     void remakeTextOutput();
     void closeTextOutput();

@@ -1,5 +1,6 @@
 #include "OutputDialog.h"
 
+#include "KeptPlace.h"
 #include "LoadCaseTable.h"
 #include "withinScreen.h"
 
@@ -17,6 +18,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -81,6 +83,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
     setWindowTitle(tr("Graphical Output"));
     setModal(false);
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40});
+    new KeptPlace(this);
     m_changes.setSingleShot(true);
     connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
     addTabs();
@@ -267,6 +270,21 @@ bool OutputDialog::isChanged()
 void OutputDialog::setUnchanged()
 {
     m_unchanged = fingerprint();
+}
+
+OutputPresent OutputDialog::present()
+{
+    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(),
+            TreeSight(*m_page->findChild<QTreeWidget*>())};
+}
+
+void OutputDialog::setPresent(const OutputPresent& present)
+{
+    if (present.isChanged)
+        m_unchanged.clear();
+    tabWidget()->setCurrentIndex(present.tab);
+    setVisible(present.isVisible);
+    present.plots.give(m_page->findChild<QTreeWidget*>()); // which has its size now
 }
 
 } // namespace workbench

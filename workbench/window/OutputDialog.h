@@ -3,6 +3,7 @@
 #include "OutputState.h"
 #include "plotCaptions.h"
 #include "PlotNames.h"
+#include "TreeSight.h"
 #include "WaitingPlots.h"
 
 #include <VKD_H_PluginParameter.h>
@@ -20,6 +21,16 @@ class VKD_QT_RadioButtonGroup;
 namespace workbench {
 
 class LoadCaseTable;
+
+/// All that another dialog needs to take the place of one.
+struct OutputPresent
+{
+    OutputState state;
+    bool isChanged;
+    bool isVisible;
+    int tab;
+    TreeSight plots;
+};
 
 /// The graphical output of a project in tabs: the page with a view of its own, the load cases that
 /// it offers, and what more it offers than the model holds. It is not modal and lives as long as
@@ -48,8 +59,10 @@ public:
     /// Whether the user changed anything since the dialog was made or setUnchanged() was called.
     bool isChanged();
     void setUnchanged();
-    /// Counts as changed from now on, for a dialog that takes the place of a changed one.
-    void setChanged() { m_unchanged.clear(); }
+
+    OutputPresent present();
+    /// For a dialog that was made with the state of the other one.
+    void setPresent(const OutputPresent& present);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -1,5 +1,7 @@
 #include "TextOutputDialog.h"
 
+#include "KeptPlace.h"
+
 #include "CombinationTable.h"
 #include "numberTexts.h"
 #include "withinScreen.h"
@@ -54,6 +56,7 @@ TextOutputDialog::TextOutputDialog(int index, QWidget* parent)
     m_kept = state();
     const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
     resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // with all hints
+    new KeptPlace(this);
 }
 
 QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& explanation)

@@ -31,6 +31,7 @@
 #include <QStatusBar>
 
 #include <algorithm>
+#include <optional>
 
 namespace workbench {
 
@@ -145,6 +146,12 @@ void MainWindow::makeOutput(const OutputState& state)
     });
 }
 
+void MainWindow::remakeOutput(const OutputPresent& before)
+{
+    makeOutput(before.state);
+    m_output->setPresent(before);
+}
+
 void MainWindow::showOutput()
 {
     if (!output())
@@ -227,24 +234,14 @@ void MainWindow::setLanguage(int language)
         return;
     if (m_document && !canRead()) // all texts of the project are read anew
         return m_actions->setTexts();
-    const bool wasOpen = m_output && m_output->isVisible();
-    const bool wasChanged = m_output && m_output->isChanged();
-    const QRect place = wasOpen ? m_output->geometry() : QRect();
-    const OutputState state = m_output ? m_output->state() : OutputState();
-    const bool wasMade = bool(m_output);
+    const auto before = m_output ? std::make_optional(m_output->present()) : std::nullopt;
     m_output.reset();
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
     VKD_QT_InitTranslator::languageChanged();
     WindowSettings().setLanguage(language);
     remakeTextOutput();
-    if (wasMade)
-        makeOutput(state);
-    if (wasChanged)
-        m_output->setChanged();
-    if (wasOpen) {
-        m_output->setGeometry(place);
-        m_output->show();
-    }
+    if (before)
+        remakeOutput(*before);
     refreshScript();
     say(tr("The texts are in English now."));
 }

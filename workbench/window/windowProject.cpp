@@ -158,25 +158,16 @@ void MainWindow::saveAs()
 /// Goes on with the copy of the project, and leaves what is chosen as it is on the screen.
 void MainWindow::takeOver(const QString& path)
 {
-    const OutputState plots = m_output->state();
-    const bool werePlotsChanged = m_output->isChanged();
-    const QRect place = m_output->isVisible() ? m_output->geometry() : QRect();
+    const OutputPresent plots = m_output->present();
     const auto text = m_textOutput ? std::make_optional(m_textOutput->state()) : std::nullopt;
     const bool wasTextChanged = text && m_textOutput->isChanged();
-    const QPoint textPlace = text ? m_textOutput->pos() : QPoint();
     if (!openProject(path))
         return;
-    makeOutput(plots);
-    if (werePlotsChanged)
-        m_output->setChanged();
+    remakeOutput(plots);
     m_script->setOtherScript(m_output->script(m_script->english()));
-    if (place.isValid()) {
-        m_output->setGeometry(place);
-        m_output->show();
-    }
     if (text)
-        reopenTextOutput(*text, textPlace);
-    const bool arePlotsStored = !werePlotsChanged || storeOutput();
+        reopenTextOutput(*text);
+    const bool arePlotsStored = !plots.isChanged || storeOutput();
     if (arePlotsStored && (!wasTextChanged || storeTextOutput()))
         say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
 }

@@ -76,19 +76,21 @@ void MainWindow::showModified()
                       (m_textOutput && m_textOutput->isChanged()));
 }
 
-void MainWindow::reopenTextOutput(const TextOutputState& state, const QPoint& place)
+void MainWindow::reopenTextOutput(const TextOutputState& state)
 {
     makeTextOutput();
     m_textOutput->setState(state);
-    m_textOutput->move(place);
     m_textOutput->show();
 }
 
 /// It takes its texts when it is made.
 void MainWindow::remakeTextOutput()
 {
-    if (m_textOutput)
-        reopenTextOutput(m_textOutput->state(), m_textOutput->pos());
+    if (!m_textOutput)
+        return;
+    const TextOutputState before = m_textOutput->state();
+    m_textOutput.reset(); // which keeps its place
+    reopenTextOutput(before);
 }
 
 } // namespace workbench
