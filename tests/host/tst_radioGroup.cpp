@@ -278,6 +278,7 @@ private Q_SLOTS:
             placed.init(&other);
             other.setLayout(placed.layout());
         }
+        placed.init(nullptr); // there was a row already
         QVERIFY(!placed.layout());
         left.setSelectedId(Group::Manually);
         left.setEnabledById(Group::Manually, true);

@@ -88,8 +88,9 @@ bool VKD_P_RadioGroupImpl::initEchoOutput(QWidget* parent)
 
 bool VKD_P_RadioGroupImpl::buildRow(QWidget* parent, const std::vector<Entry>& entries)
 {
-    if (m_layout || !m_group.buttons().isEmpty())
+    if (m_isBuilt)
         return false;
+    m_isBuilt = true;
     auto row = new QHBoxLayout;
     for (const Entry& entry : entries)
         row->addWidget(makeButton(parent, entry));

@@ -61,6 +61,7 @@ private:
     bool buildRow(QWidget* parent, const std::vector<Entry>& entries);
     QRadioButton* makeButton(QWidget* parent, const Entry& entry);
 
+    bool m_isBuilt = false; ///< also when the row has gone with its parent
     QLayout* m_layout = nullptr;
     QRadioButton* m_Manually = nullptr;
     QRadioButton* m_All = nullptr;
