@@ -59,14 +59,9 @@ QString keyOf(const QSize& pixels, const QSizeF& frame, const PictureView& view,
 } // namespace
 
 ModelImages::ModelImages(int index)
-    : m_index(index)
+    : m_model(index)
     , m_images(MostKilobytes)
 {
-}
-
-bool ModelImages::isEmpty()
-{
-    return model().isEmpty();
 }
 
 double ModelImages::scale(const PictureView& view, const QSizeF& frame, double wanted)
@@ -79,7 +74,7 @@ double ModelImages::scale(const PictureView& view, const QSizeF& frame, double w
 
 bool ModelImages::isCut(const PictureView& view, const QSizeF& frame, double scale)
 {
-    const QSizeF onPaper = model().sizeSeen(camera(view)) * (1000.0 / scale);
+    const QSizeF onPaper = m_model.sizeSeen(camera(view)) * (1000.0 / scale);
     return onPaper.width() > frame.width() || onPaper.height() > frame.height();
 }
 
@@ -98,13 +93,6 @@ void ModelImages::paint(QPainter& painter, const QRectF& frame, double unitsPerM
         m_images.insert(key, new QImage(image), int(image.sizeInBytes() / 1024) + 1);
     }
     painter.drawImage(painter.deviceTransform().inverted().mapRect(dots), image);
-}
-
-AnimatorPicture& ModelImages::model()
-{
-    if (!m_model)
-        m_model = std::make_unique<AnimatorPicture>(m_index);
-    return *m_model;
 }
 
 vkd::dbo::Camera ModelImages::camera(const PictureView& view)
@@ -129,7 +117,7 @@ vkd::dbo::Camera ModelImages::camera(const PictureView& view)
 vkd::dbo::Camera ModelImages::flatCamera()
 {
     constexpr double Thin = 1e-6;
-    const QSizeF fromAbove = model().sizeSeen(lookingFrom(0, 0, 1));
+    const QSizeF fromAbove = m_model.sizeSeen(lookingFrom(0, 0, 1));
     if (fromAbove.height() <= Thin * fromAbove.width())
         return lookingFrom(0, -1, 0);
     return fromAbove.width() <= Thin * fromAbove.height() ? lookingFrom(1, 0, 0)
@@ -138,7 +126,7 @@ vkd::dbo::Camera ModelImages::flatCamera()
 
 double ModelImages::fittingScale(const PictureView& view, const QSizeF& frame)
 {
-    return pixelsPerMetre(model().fittingScale(camera(view), frame * PixelsPerMm));
+    return pixelsPerMetre(m_model.fittingScale(camera(view), frame * PixelsPerMm));
 }
 
 QImage ModelImages::newImage(const QSize& pixels, const QSizeF& frame, const PictureView& view,
@@ -149,7 +137,7 @@ QImage ModelImages::newImage(const QSize& pixels, const QSizeF& frame, const Pic
     QPainter painter(&image);
     const QSizeF size = frame * PixelsPerMm;
     painter.scale(pixels.width() / size.width(), pixels.height() / size.height());
-    model().paint(painter, size, camera(view), pixelsPerMetre(scale));
+    m_model.paint(painter, size, camera(view), pixelsPerMetre(scale));
     return image;
 }
 

@@ -17,11 +17,11 @@ namespace workbench {
 class ModelImages
 {
 public:
-    /// The project at this database index; its model is read when the first picture is wanted.
+    /// Reads the model of the project at this database index, unless a view shows it already.
     explicit ModelImages(int index);
 
     /// Whether there is a model to draw.
-    bool isEmpty();
+    bool isEmpty() const { return m_model.isEmpty(); }
     /// The N of the scale 1:N that a view gets in a frame of this size (mm). `wanted` is that of a
     /// plan.
     double scale(const PictureView& view, const QSizeF& frame, double wanted);
@@ -32,15 +32,13 @@ public:
                double scale);
 
 private:
-    AnimatorPicture& model();
     vkd::dbo::Camera camera(const PictureView& view);
     vkd::dbo::Camera flatCamera();
     double fittingScale(const PictureView& view, const QSizeF& frame);
     QImage newImage(const QSize& pixels, const QSizeF& frame, const PictureView& view,
                     double scale);
 
-    int m_index;
-    std::unique_ptr<AnimatorPicture> m_model;
+    AnimatorPicture m_model;
     QCache<QString, QImage> m_images; // the cost is in kilobytes
 };
 

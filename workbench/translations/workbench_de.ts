@@ -305,6 +305,10 @@
         <translation>Die Auswahl der Bilder kann nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
+        <source>The picked groups cannot be stored in the file %1.</source>
+        <translation>Die gewählten Gruppen können nicht in der Datei %1 gespeichert werden.</translation>
+    </message>
+    <message>
         <source>The choice of plots is in the project file.</source>
         <translation>Die Auswahl der Bilder steht in der Projektdatei.</translation>
     </message>

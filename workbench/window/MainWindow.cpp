@@ -18,7 +18,6 @@
 #include <AnimatorView.h>
 #include <SheetPreview.h>
 #include <vkd_dbo_model.h>
-#include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_MessageBox.h>
 
@@ -156,11 +155,7 @@ void MainWindow::connectPanes()
     m_view->setHovering(true);
     connect(m_view, &AnimatorView::groupHovered, m_groups, &GroupList::setMarkedGroup);
     connect(m_view, &AnimatorView::pickedGroupsChanged, this, &MainWindow::showPicked);
-    connect(m_banner, &PickBanner::done, this, [this] {
-        VKD_H_SelGRP_Dialog::putAniSelectionToZob(index(), m_view->pickedGroups());
-        stopPicking();
-        runDesign();
-    });
+    connect(m_banner, &PickBanner::done, this, &MainWindow::takePicked);
     connect(m_banner, &PickBanner::cancelled, this, [this] {
         stopPicking();
         runDesign();

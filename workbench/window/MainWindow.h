@@ -93,6 +93,7 @@ private:
     void runDesign();
     bool storeDesign();
     void startPicking();
+    void takePicked();
     void stopPicking();
     void chooseGroup(int group);
     void showPicked();
@@ -105,6 +106,7 @@ private:
     void remakeOutput(const OutputPresent& before);
     void showOutput();
     bool storeOutput();
+    void showNoScript();
     void refreshScript();
     void setKeywords(bool english);
     void copyScript();

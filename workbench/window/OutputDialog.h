@@ -33,8 +33,8 @@ struct OutputPresent
 };
 
 /// The graphical output of a project in tabs: the page with a view of its own, the load cases that
-/// it offers, and what more it offers than the model holds. It is not modal and lives as long as
-/// the project is open, for the script of the present choice to be had at any time.
+/// it offers, and what more it offers than the model holds. It is not modal and stays when it is
+/// closed by OK, for the script of the present choice to be had at any time.
 class OutputDialog : public VKD_H_TabDialog
 {
     Q_OBJECT

@@ -82,6 +82,7 @@ QVector<int> PickTable::picked() const
 
 void PickTable::setLeftOut(const QSet<int>& numbers)
 {
+    const QSignalBlocker quiet(this);
     if (m_showsRule)
         m_leftOut = numbers;
     else
@@ -95,16 +96,13 @@ void PickTable::showPicked()
         showAsLeftOut(m_leftOut);
 }
 
-void PickTable::showRule(const QVector<int>& numbers)
+void PickTable::showRule(const QVector<int>& rule)
 {
     const QSignalBlocker quiet(this);
     m_leftOut = leftOut();
     m_showsRule = true;
-    QSet<int> left;
-    for (int row = 0; row < rowCount(); ++row)
-        if (!numbers.contains(number(row)))
-            left << number(row);
-    showAsLeftOut(left);
+    const QVector<int> all = numbers();
+    showAsLeftOut(QSet<int>(all.begin(), all.end()) - QSet<int>(rule.begin(), rule.end()));
 }
 
 QSet<int> PickTable::shownAsLeftOut() const

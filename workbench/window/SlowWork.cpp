@@ -1,6 +1,7 @@
 #include "SlowWork.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QProgressDialog>
 
 #include <limits>
@@ -14,18 +15,32 @@ constexpr int PatienceMs = 500;
 WaitCursor::WaitCursor()
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    qApp->installEventFilter(this);
 }
 
 WaitCursor::~WaitCursor()
 {
-    QApplication::restoreOverrideCursor();
+    end();
+}
+
+bool WaitCursor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show && qobject_cast<QDialog*>(watched))
+        end();
+    return false;
+}
+
+void WaitCursor::end()
+{
+    if (m_isOn)
+        QApplication::restoreOverrideCursor();
+    m_isOn = false;
 }
 
 SlowWork::SlowWork(QWidget* parent, const QString& text, int maximum)
     : m_parent(parent)
     , m_text(text)
     , m_maximum(maximum)
-    , m_cursor(std::make_unique<WaitCursor>())
 {
     m_clock.start();
 }
@@ -50,7 +65,6 @@ int SlowWork::elapsed() const
 
 void SlowWork::showBox()
 {
-    m_cursor.reset();
     m_box = std::make_unique<QProgressDialog>(m_text, tr("Cancel"), 0, m_maximum, m_parent);
     m_box->setObjectName(QStringLiteral("SlowWork"));
     m_box->setWindowTitle(tr("Workbench"));

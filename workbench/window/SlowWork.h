@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QObject>
 #include <QString>
 
 #include <memory>
@@ -11,19 +12,26 @@ class QWidget;
 
 namespace workbench {
 
-/// The wait cursor for work in one piece.
-class WaitCursor
+/// The wait cursor for work in one piece. It ends with the work, or when a dialog asks something.
+class WaitCursor : public QObject
 {
+    Q_OBJECT
+
 public:
     WaitCursor();
-    ~WaitCursor();
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
+    ~WaitCursor() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void end();
+
+    bool m_isOn = true;
 };
 
 /// Tells the user about work that the window waits for: the wait cursor at once, and after half a
 /// second a box with the progress and Cancel. Until the box is there no event is let in, behind it
-/// only those of the box and of painting.
+/// the user reaches only the box.
 class SlowWork
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::SlowWork)
@@ -47,7 +55,7 @@ private:
     QWidget* m_parent;
     QString m_text;
     int m_maximum;
-    std::unique_ptr<WaitCursor> m_cursor;   // until there is a box
+    WaitCursor m_cursor;
     std::unique_ptr<QProgressDialog> m_box; // once it took long enough
 };
 

@@ -194,6 +194,8 @@ void TextOutputDialog::setState(const TextOutputState& state)
     m_loadCaseTable->setLeftOut(state.leftOutLoadCases);
     m_combinationTable->setLeftOut(state.leftOutCombinations);
     m_combinationTable->setKinds(state.kinds);
+    if (kindsOf(*m_combinationTable) != m_kinds)
+        fillKindRow();
     // What was never stored leaves these.
     m_extent.setSelectedId(Group::Manually);
     m_loadCases.setSelectedId(Group::All);

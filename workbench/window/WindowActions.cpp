@@ -97,8 +97,6 @@ QAction* WindowActions::add(const char* name)
 {
     auto action = new QAction(this);
     action->setObjectName(QLatin1String(name));
-    // The output dialogs stay open beside the window; its short cuts are meant there as well.
-    action->setShortcutContext(Qt::ApplicationShortcut);
     return action;
 }
 
@@ -178,6 +176,11 @@ void WindowActions::setShortcuts()
     designHelp->setShortcut(QKeySequence::HelpContents);
     for (int i = 0; i < views.size(); ++i)
         views[i]->setShortcut(Qt::CTRL + (Qt::Key_0 + i));
+}
+
+QList<QAction*> WindowActions::besideDialogs() const
+{
+    return {design, output, textOutput, sheet, copyScript, saveScript, exportSheets};
 }
 
 void WindowActions::setTexts()

@@ -29,6 +29,10 @@ public:
     /// The files to open again. The data of each of the menu's actions is its path.
     void setRecentFiles(const QStringList& paths);
 
+    /// What a dialog that is not modal is to hear the short cuts of, too. Short cuts of the whole
+    /// program would also pass by modal dialogs, whenever one has a list open.
+    QList<QAction*> besideDialogs() const;
+
     QVector<QAction*> newFromSample; ///< the data is the name of the model
     QAction* newFromFile;
     QAction* open;

@@ -83,6 +83,21 @@ void MainWindow::startPicking()
     say(tr("Pick groups in the view, or by Enter in the list of groups."));
 }
 
+/// The dialog takes them from the project. What cannot be stored stays picked.
+void MainWindow::takePicked()
+{
+    const QString path = m_document->path();
+    const cd_error_t status = waitForStore(this, path, [this] {
+        const bool isPut =
+            VKD_H_SelGRP_Dialog::putAniSelectionToZob(index(), m_view->pickedGroups());
+        return isPut ? cd_error_t(VKD_ZOB_OK) : vkd_zob_change_status(index());
+    });
+    if (!succeeds(status, path, tr("The picked groups cannot be stored in the file %1.")))
+        return;
+    stopPicking();
+    runDesign();
+}
+
 void MainWindow::stopPicking()
 {
     m_view->setPicking(false);
@@ -134,6 +149,7 @@ void MainWindow::makeOutput(const OutputState& state)
 {
     const WaitCursor cursor;
     m_output = std::make_unique<OutputDialog>(m_document.get(), state, plotNames(), this);
+    m_output->addActions(m_actions->besideDialogs());
     connect(m_output.get(), &OutputDialog::choiceChanged, this, &MainWindow::refreshScript);
     connect(m_output.get(), &QDialog::accepted, this, [this] {
         if (!storeOutput())
@@ -154,8 +170,11 @@ void MainWindow::remakeOutput(const OutputPresent& before)
 
 void MainWindow::showOutput()
 {
+    const bool isFirst = !m_output;
     if (!output())
         return;
+    if (isFirst)
+        refreshScript();
     if (!m_output->testAttribute(Qt::WA_Moved)) // beside the script, which follows each click
         moveWithinScreen(m_output.get(), mapToGlobal(m_groupDock->pos()));
     m_output->show();
@@ -179,13 +198,20 @@ bool MainWindow::storeOutput()
     return true;
 }
 
+void MainWindow::showNoScript()
+{
+    m_script->setOtherScript(QString());
+    m_actions->setHasScript(false);
+    showModified();
+}
+
 void MainWindow::refreshScript()
 {
     if (!m_document)
         return;
     const bool isFirst = !m_output;
     if (!output())
-        return;
+        return showNoScript();
     const WaitCursor cursor;
     const QString script = m_output->script(m_script->english());
     if (isFirst && m_script->script().isEmpty())
@@ -199,8 +225,10 @@ void MainWindow::refreshScript()
 
 void MainWindow::setKeywords(bool english)
 {
+    if (m_document && !output())
+        return m_script->setEnglish(!english);
     WindowSettings().setEnglishKeywords(english);
-    if (m_document && output())
+    if (m_document)
         m_script->setOtherScript(m_output->script(english));
     refreshSheet();
 }

@@ -104,7 +104,7 @@ void MainWindow::showProject()
     m_view->slotViewControl(AnimatorStandardView, 0.0);
     m_groups->setProject(index());
     showRecords();
-    m_script->setOtherScript(QString());
+    showNoScript();
     m_sheet->setProject(index(), QFileInfo(m_document->path()).completeBaseName());
     WindowSettings settings;
     settings.addRecentFile(m_document->path());
@@ -120,6 +120,8 @@ void MainWindow::showProject()
 /// The pane is made with the first project: a window without one is not to wait for it.
 void MainWindow::showRecords()
 {
+    if (!canRead())
+        return; // what was read last stays
     if (!m_records) {
         m_records = new RecordsPane(m_recordDock);
         m_recordDock->setWidget(m_records);

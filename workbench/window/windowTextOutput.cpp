@@ -4,6 +4,7 @@
 #include "OutputDialog.h"
 #include "TextOutputDialog.h"
 #include "waitForStore.h"
+#include "WindowActions.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_MessageBox.h>
@@ -12,6 +13,8 @@ namespace workbench {
 
 void MainWindow::showTextOutput()
 {
+    if (!m_textOutput && !canRead())
+        return;
     if (!m_textOutput)
         makeTextOutput();
     m_textOutput->show();
@@ -22,6 +25,7 @@ void MainWindow::showTextOutput()
 void MainWindow::makeTextOutput()
 {
     m_textOutput = std::make_unique<TextOutputDialog>(index(), this);
+    m_textOutput->addActions(m_actions->besideDialogs());
     connect(m_textOutput.get(), &TextOutputDialog::choiceChanged, this, &MainWindow::showModified);
     connect(m_textOutput.get(), &QDialog::accepted, this, [this] {
         if (storeTextOutput())
