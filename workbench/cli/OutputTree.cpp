@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 
 #include <Catalogue.h>
+#include <OutputState.h>
 #include <rowLabel.h>
 #include <scriptLines.h>
 #include <selectionText.h>
@@ -18,16 +19,24 @@
 namespace workbench {
 
 namespace {
-OutputTree::Rows rowsOfModel(int index)
+OutputTree::Rows rowsOfModel(int index, const OutputState& kept)
 {
     OutputTree::Rows rows;
     const auto loadCases = vkd::dbo::readLoadCases(index);
     for (const vkd::dbo::LoadCase& loadCase : loadCases)
-        rows.push_back(
-            {loadCase.kind, loadCase.number, plib::rowLabel(loadCase.number, loadCase.title)});
+        if (kept.offers(loadCase))
+            rows.push_back(
+                {loadCase.kind, loadCase.number, plib::rowLabel(loadCase.number, loadCase.title)});
     std::sort(rows.begin(), rows.end(),
               [](const auto& a, const auto& b) { return a.number < b.number; });
     return rows;
+}
+
+std::list<QString> additionalContents(const OutputState& kept)
+{
+    if (kept.content == OutputState::WithSolids)
+        return {OutputState::solidsTag()};
+    return {};
 }
 
 void showError(const QString& title, const QString& text)
@@ -36,18 +45,19 @@ void showError(const QString& title, const QString& text)
 }
 } // namespace
 
-OutputTree::OutputTree(const QString& projectPath, int progname, const Rows* rows)
-    : m_document(openProject(projectPath))
+OutputTree::OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname,
+                       const OutputState& kept, const Rows* rows)
+    : m_document(std::move(document))
     , m_parameter(m_document.get())
     , m_queries(&m_parameter)
     , m_progname(progname)
 {
-    fill(rows ? *rows : rowsOfModel(m_document->index()));
+    fill(rows ? *rows : rowsOfModel(m_document->index(), kept), additionalContents(kept));
 }
 
 OutputTree::~OutputTree() = default;
 
-void OutputTree::fill(const Rows& rows)
+void OutputTree::fill(const Rows& rows, const std::list<QString>& additional)
 {
     plib::Catalogue& catalogue = plib::sharedCatalogue();
     plib::loadCatalogue(catalogue, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), showError);
@@ -56,7 +66,7 @@ void OutputTree::fill(const Rows& rows)
                                                                             operations);
     const plib::RememberedAnswers model(m_queries);
     for (const plib::GraphicalOutputRecord& record : catalogue.list)
-        if (plib::isRecordOffered(record, m_progname, model, {}))
+        if (plib::isRecordOffered(record, m_progname, model, additional))
             builder.add(record);
     builder.finish();
     if (m_root.childCount() == 0)

@@ -6,6 +6,7 @@
 
 #include <LoadcaseInformation.h>
 
+#include <list>
 #include <memory>
 #include <vector>
 
@@ -13,7 +14,7 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-class CommandLine;
+struct OutputState;
 
 /// The output tree of a project without widgets: what the output page shows, built and asked by the
 /// same algorithms.
@@ -22,8 +23,11 @@ class OutputTree
 public:
     using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-    /// Opens the project and builds the tree with its default choice; throws a CommandError.
-    OutputTree(const QString& projectPath, int progname, const Rows* rows);
+    /// Builds the tree with the plots that the catalogue proposes; throws a CommandError without a
+    /// catalogue. It offers the contents that `kept` adds, and the load cases of `rows`, or those
+    /// that `kept` leaves in where `rows` is null.
+    OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname, const OutputState& kept,
+               const Rows* rows);
     ~OutputTree();
 
     VKD_H_PluginParameter* parameter() { return &m_parameter; }
@@ -33,7 +37,7 @@ public:
     std::vector<QString> scriptLines(bool english);
 
 private:
-    void fill(const Rows& rows);
+    void fill(const Rows& rows, const std::list<QString>& additional);
 
     std::unique_ptr<VKD_H_ZOBDoc> m_document;
     VKD_H_PluginParameter m_parameter;

@@ -1,11 +1,13 @@
 #include "commands.h"
 
 #include "CommandLine.h"
+#include "keptChoice.h"
 #include "OutputTree.h"
 #include "settingsArguments.h"
 
 #include <outputScript.h>
 #include <PlatformScriptEnvironment.h>
+#include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 
 #include <QFileInfo>
@@ -20,27 +22,26 @@ std::vector<CommandLine::Option> options()
         return CommandLine::Option{QString::fromLatin1(name), QString::fromLatin1(value),
                                    description};
     };
-    return {
+    std::vector<CommandLine::Option> all = choiceOptions();
+    const CommandLine::Option own[] = {
         option("keywords", "english|german",
                QStringLiteral("Language of the script's keywords; "
                               "english by default.")),
-        option("progname", "N",
-               QStringLiteral("Kind of page: 1 standard (default), 122 split, "
-                              "222 prefix.")),
         option("additional", "TEXT",
                QStringLiteral("Text that goes behind the plots, on the prefix "
                               "page ahead of them.")),
         option(
             "set", "NAME=VALUE",
             QStringLiteral("A setting of the page, as often as needed: %1.").arg(settingsHelp())),
-        option("selection", "FILE", QStringLiteral("Takes the choice from a selection text.")),
-        option("selection-out", "FILE", QStringLiteral("Writes the choice as a selection text.")),
+        option("selection-out", "FILE", QStringLiteral("Writes the plots as a selection text.")),
         option("load-cases", "FILE",
                QStringLiteral("Takes the load cases from lines of kind, number "
                               "and name, not from the project.")),
         option("o", "FILE", QStringLiteral("Writes the script into a file, whole or not at all.")),
         languageOption(),
     };
+    all.insert(all.end(), std::begin(own), std::end(own));
+    return all;
 }
 
 void write(QSaveFile* file, const QString& text)
@@ -59,16 +60,6 @@ void commit(QSaveFile* file)
     if (!file->commit())
         throw CommandError{
             QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};
-}
-
-plib::OutputSettings settingsFrom(const CommandLine& line)
-{
-    plib::OutputSettings settings;
-    settings.variant = VKD_P_WidgetGraphicalOutput_Progname(
-        line.number("progname", VKD_P_GraphicalOutput_Standard));
-    settings.hasFormat = settings.variant != VKD_P_GraphicalOutput_Split;
-    applySettings(line.values("set"), &settings);
-    return settings;
 }
 
 /// No file is touched before all that is to be written has been.
@@ -94,20 +85,25 @@ void writeResults(const CommandLine& line, const QString& script, const QString&
 
 int scriptCommand(const QStringList& arguments)
 {
-    CommandLine line(QStringLiteral("Prints the script for the plots that are chosen in a project, "
-                                    "by default those that the catalogue proposes."),
+    CommandLine line(QStringLiteral("Prints the script for the plots that are chosen in a project: "
+                                    "with the plots, load cases and settings that the window keeps "
+                                    "in it, or else those that the catalogue proposes and of a new "
+                                    "page. Options override what is kept."),
                      {QStringLiteral("FILE")}, options());
     line.parse(arguments);
     applyLanguage(line);
     const bool english = line.english("keywords", true);
     vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, english ? 1 : 0);
-    const plib::OutputSettings settings = settingsFrom(line);
+    auto document = openProject(line.argument(0));
+    const OutputState kept = keptChoice(line, document->index());
+    plib::OutputSettings settings = keptSettings(line, kept);
+    applySettings(line.values("set"), &settings);
     OutputTree::Rows rows;
     if (line.has("load-cases"))
         rows = readRows(line.value("load-cases"));
-    OutputTree tree(line.argument(0), settings.variant, line.has("load-cases") ? &rows : nullptr);
-    if (line.has("selection"))
-        tree.applySelection(readText(line.value("selection")));
+    OutputTree tree(std::move(document), settings.variant, kept,
+                    line.has("load-cases") ? &rows : nullptr);
+    tree.applySelection(chosenPlots(line, kept));
     QString additional = line.value("additional");
     // On the prefix page the line end is the caller's business.
     if (settings.variant == VKD_P_GraphicalOutput_Prefix && !additional.isEmpty())

@@ -1,9 +1,10 @@
 #include "commands.h"
 
 #include "CommandLine.h"
+#include "keptChoice.h"
 #include "OutputTree.h"
 
-#include <VKD_P_WidgetGraphicalOutput_Progname.h>
+#include <VKD_H_ZOBDoc.h>
 
 namespace workbench {
 
@@ -32,21 +33,19 @@ void append(const plib::OutputNode* parent, int depth, QString* text)
 
 int treeCommand(const QStringList& arguments)
 {
+    std::vector<CommandLine::Option> options = choiceOptions();
+    options.push_back(languageOption());
     CommandLine line(
-        QStringLiteral("Prints the tree of plots that a project offers: [x] chosen, [-] "
-                       "chosen in part, [ ] not chosen."),
-        {QStringLiteral("FILE")},
-        {{QStringLiteral("progname"), QStringLiteral("N"),
-          QStringLiteral("Kind of page: 1 standard (default), 122 split, 222 prefix.")},
-         {QStringLiteral("selection"), QStringLiteral("FILE"),
-          QStringLiteral("Takes the choice from a selection text.")},
-         languageOption()});
+        QStringLiteral("Prints the tree of plots that a project offers: [x] chosen, [-] chosen in "
+                       "part, [ ] not chosen. Offered and chosen is what the window keeps in the "
+                       "project, or else what the catalogue proposes."),
+        {QStringLiteral("FILE")}, options);
     line.parse(arguments);
     applyLanguage(line);
-    OutputTree tree(line.argument(0), line.number("progname", VKD_P_GraphicalOutput_Standard),
-                    nullptr);
-    if (line.has("selection"))
-        tree.applySelection(readText(line.value("selection")));
+    auto document = openProject(line.argument(0));
+    const OutputState kept = keptChoice(line, document->index());
+    OutputTree tree(std::move(document), progname(line), kept, nullptr);
+    tree.applySelection(chosenPlots(line, kept));
     QString text;
     append(tree.root(), 0, &text);
     print(text);

@@ -32,7 +32,6 @@ using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 constexpr int DesktopCamera = 0;
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
-constexpr int WithSolids = 1; // entry of the group of contents
 
 /// What the page writes for its rows by itself, so that lists made here and there are equal.
 QString rowName(const vkd::dbo::LoadCase& loadCase)
@@ -140,10 +139,11 @@ void OutputDialog::restore(const OutputState& kept)
     m_loadCases->setLeftOutNumbers(kept.leftOutNumbers);
     m_tableBinding.setWidgets(m_page, m_loadCases, LoadCaseTable::NumberColumn,
                               LoadCaseTable::CheckColumn, LoadCaseTable::TitleColumn);
-    m_contentBinding.setWidget(m_page, m_contents, QStringLiteral("Bric"), WithSolids);
-    if (kept.content == WithSolids) {
-        m_contents->setButton(WithSolids);
-        m_contentBinding.clicked(WithSolids); // a group does not tell what the program chooses
+    m_contentBinding.setWidget(m_page, m_contents, OutputState::solidsTag(),
+                               OutputState::WithSolids);
+    if (kept.content == OutputState::WithSolids) {
+        m_contents->setButton(kept.content);
+        m_contentBinding.clicked(kept.content); // a group does not tell what the program chooses
     }
     offerLoadCases();
     if (kept.page.isEmpty())
@@ -152,14 +152,14 @@ void OutputDialog::restore(const OutputState& kept)
         m_page->readXMLstring(kept.page);
 }
 
-/// The table stands for plain load cases alone; design combinations are always offered.
 void OutputDialog::offerLoadCases()
 {
-    const QSet<int> leftOut = m_loadCases->leftOutNumbers();
+    OutputState present;
+    present.leftOutNumbers = m_loadCases->leftOutNumbers();
     Rows rows;
     const auto loadCases = vkd::dbo::readLoadCases(m_document->index());
     for (const vkd::dbo::LoadCase& loadCase : loadCases)
-        if (loadCase.kind != PlainLoadCase || !leftOut.contains(loadCase.number))
+        if (present.offers(loadCase))
             rows.push_back({loadCase.kind, loadCase.number, rowName(loadCase)});
     std::sort(rows.begin(), rows.end(),
               [](const auto& a, const auto& b) { return a.number < b.number; });

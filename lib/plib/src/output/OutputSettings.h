@@ -26,5 +26,11 @@ struct OutputSettings
 
 /// The rows of the scale list behind "Auto", which stands at index 0 and is translated.
 QStringList engineeringScales();
+/// All rows of the scale list.
+QStringList scaleRows();
+
+/// What choosing a format does to the number of pictures: a landscape sheet carries one, and back
+/// in portrait there are two.
+int picturesForFormat(int formatId);
 
 } // namespace plib

@@ -24,7 +24,7 @@
 namespace {
 enum Scale { EngineeringScale = 0, ScaleToFit = 1 };
 enum Format { PortraitFormat = 0, LandscapeFormat = 1 };
-enum Pictures { OnePerPage = 0, TwoPerPage = 1 };
+constexpr int TwoPerPage = 1;
 constexpr int StandardView = 3;
 constexpr double FontSize = 2.0; // mm
 
@@ -121,8 +121,7 @@ void VKD_P_WidgetGraphicalOutput::buildSettings(QWidget* box)
     data->scaleCombo->setAccessibleName(tr("Engineering scale"));
     data->scaleGroup->setWidget(EngineeringScale, data->scaleCombo);
     data->scaleGroup->init(scales);
-    data->scaleCombo->insertItem(0, QIcon(), tr("Auto"));
-    for (const QString& scale : plib::engineeringScales())
+    for (const QString& scale : plib::scaleRows())
         data->scaleCombo->insertItem(data->scaleCombo->count(), QIcon(), scale);
     data->scaleGroup->setButton(ScaleToFit);
     if (data->formatGroup) {
@@ -262,17 +261,14 @@ bool VKD_P_WidgetGraphicalOutput::checkVals()
     return true;
 }
 
-/// A landscape sheet carries one picture; back in portrait there are two.
+/// A landscape sheet leaves no choice.
 void VKD_P_WidgetGraphicalOutput::slotQuerFormat()
 {
     if (!data->formatGroup)
         return;
-    const bool isLandscape = data->formatGroup->selectedButton() == LandscapeFormat;
-    data->picturesGroup->setEnabled(!isLandscape);
-    if (isLandscape)
-        data->picturesGroup->setButton(OnePerPage);
-    else if (data->formatGroup->selectedButton() == PortraitFormat)
-        data->picturesGroup->setButton(TwoPerPage);
+    const int format = data->formatGroup->selectedButton();
+    data->picturesGroup->setEnabled(format != LandscapeFormat);
+    data->picturesGroup->setButton(plib::picturesForFormat(format));
 }
 
 void VKD_P_WidgetGraphicalOutput::slotDefaultSettings()

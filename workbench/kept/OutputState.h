@@ -5,20 +5,35 @@
 #include <QSet>
 #include <QString>
 
+namespace vkd {
+namespace dbo {
+struct LoadCase;
+}
+} // namespace vkd
+
 namespace workbench {
 
 /// What the project keeps of the graphical output: the state string of the page and the choices of
 /// the host's own tabs.
 struct OutputState
 {
+    /// Entries of the group of contents.
+    enum Content { OfTheModel = 0, WithSolids = 1 };
+
     QString page;             ///< empty until it was stored first
-    int content = 0;          ///< entry of the group of contents
+    int content = OfTheModel; ///< entry of the group of contents
     QSet<int> leftOutNumbers; ///< load cases that are not checked in the table
 
     /// The state that lies in the project at this database index.
     static OutputState read(int index);
     /// The result is a VkdZobStatus.
     cd_error_t write(int index) const;
+
+    /// The tag of the content that is there in any case with WithSolids.
+    static QString solidsTag();
+    /// Whether the plots offer it. The table stands for plain load cases alone; design combinations
+    /// are always offered.
+    bool offers(const vkd::dbo::LoadCase& loadCase) const;
 };
 
 } // namespace workbench

@@ -4,6 +4,7 @@
 #include "numberTexts.h"
 #include "ProjectWriting.h"
 
+#include <vkd_dbo_model.h>
 #include <VKD_H_ProjectDialogPage.h>
 
 namespace workbench {
@@ -12,6 +13,7 @@ namespace {
 const QString PageKey = QStringLiteral("Page");
 const QString ContentKey = QStringLiteral("Content");
 const QString LeftOutKey = QStringLiteral("LeftOut");
+constexpr int PlainLoadCase = 1;
 } // namespace
 
 OutputState OutputState::read(int index)
@@ -31,6 +33,16 @@ cd_error_t OutputState::write(int index) const
     entries.setEntry(ContentKey, QString::number(content));
     entries.setEntry(LeftOutKey, keptNumbers(leftOutNumbers));
     return storeEntries(index, entries);
+}
+
+QString OutputState::solidsTag()
+{
+    return QStringLiteral("Bric");
+}
+
+bool OutputState::offers(const vkd::dbo::LoadCase& loadCase) const
+{
+    return loadCase.kind != PlainLoadCase || !leftOutNumbers.contains(loadCase.number);
 }
 
 } // namespace workbench

@@ -1,0 +1,54 @@
+#include "keptSettings.h"
+
+namespace plib {
+
+namespace {
+constexpr int EngineeringScale = 0;
+constexpr int ScaleToFit = 1;
+constexpr int AutoRow = 0;
+constexpr int FormatCount = 2;
+constexpr int PicturesCount = 2;
+constexpr int ViewCount = 5;
+
+/// Any "-" means the row "Auto". A scale that the list does not have, "0" too, is one that fits.
+void applyScale(const QString& value, OutputSettings* settings)
+{
+    if (value.isNull())
+        return;
+    const QStringList rows = scaleRows();
+    const int row = value.contains(QLatin1Char('-')) ? AutoRow : rows.indexOf(value);
+    settings->scaleMode = row >= 0 ? EngineeringScale : ScaleToFit;
+    if (row < 0)
+        return;
+    settings->scaleIndex = row;
+    settings->scaleText = rows[row];
+}
+
+/// Whether there was a part. A text that is no number counts as 0.
+bool applyChoice(const QString& value, int count, int* choice)
+{
+    const int entry = value.toInt();
+    if (!value.isNull() && entry >= 0 && entry < count)
+        *choice = entry;
+    return !value.isNull();
+}
+} // namespace
+
+void applyKeptSettings(const KeptPart& part, OutputSettings* settings)
+{
+    applyScale(part(kepttag::Scale), settings);
+    const QString font = part(kepttag::Font);
+    if (!font.isNull()) // an empty field stands for the font of a new page
+        settings->fontSizeText = font.trimmed().isEmpty() ? OutputSettings().fontSizeText : font;
+    const QString fill = part(kepttag::Fill);
+    if (!fill.isNull())
+        settings->fillAreas = fill.contains(QLatin1Char('1'));
+    if (settings->hasFormat) {
+        if (applyChoice(part(kepttag::Format), FormatCount, &settings->formatId))
+            settings->picturesId = picturesForFormat(settings->formatId);
+        applyChoice(part(kepttag::Pictures), PicturesCount, &settings->picturesId);
+    }
+    applyChoice(part(kepttag::View), ViewCount, &settings->viewId);
+}
+
+} // namespace plib

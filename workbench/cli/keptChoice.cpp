@@ -1,0 +1,61 @@
+#include "keptChoice.h"
+
+#include <keptSettings.h>
+#include <vkd_dbo_camera.h>
+#include <vkd_qt_xmlpart.h>
+
+namespace workbench {
+
+namespace {
+constexpr int DesktopCamera = 0;
+
+plib::KeptPart partsOf(const OutputState& kept)
+{
+    return [xml = kept.page](const char* tag) {
+        return vkd_qt_readXMLpart(xml, 0, QLatin1String(tag));
+    };
+}
+} // namespace
+
+std::vector<CommandLine::Option> choiceOptions()
+{
+    return {
+        {QStringLiteral("progname"), QStringLiteral("N"),
+         QStringLiteral("Kind of page: 1 standard (default), 122 split, 222 prefix. The project "
+                        "keeps a choice for the standard page.")},
+        {QStringLiteral("selection"), QStringLiteral("FILE"),
+         QStringLiteral("Takes the plots from a selection text.")},
+        {QStringLiteral("proposed"), QString(),
+         QStringLiteral("Starts from what the catalogue proposes, whatever the project keeps.")},
+    };
+}
+
+int progname(const CommandLine& line)
+{
+    return line.number("progname", VKD_P_GraphicalOutput_Standard);
+}
+
+OutputState keptChoice(const CommandLine& line, int index)
+{
+    const bool isKept = !line.has("proposed") && progname(line) == VKD_P_GraphicalOutput_Standard;
+    return isKept ? OutputState::read(index) : OutputState();
+}
+
+plib::OutputSettings keptSettings(const CommandLine& line, const OutputState& kept)
+{
+    plib::OutputSettings settings;
+    settings.variant = VKD_P_WidgetGraphicalOutput_Progname(progname(line));
+    settings.hasFormat = settings.variant != VKD_P_GraphicalOutput_Split;
+    const plib::KeptPart part = partsOf(kept);
+    plib::applyKeptSettings(part, &settings);
+    vkd::dbo::setAnimatorPerspektive(DesktopCamera, part(plib::kepttag::Camera));
+    return settings;
+}
+
+QString chosenPlots(const CommandLine& line, const OutputState& kept)
+{
+    return line.has("selection") ? readText(line.value("selection"))
+                                 : partsOf(kept)(plib::kepttag::Plots);
+}
+
+} // namespace workbench
