@@ -1,5 +1,8 @@
 #include "TestSupport.h"
 
+#include <OutputState.h>
+#include <VKD_H_ZOBDoc.h>
+
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -116,6 +119,49 @@ private Q_SLOTS:
         QVERIFY(script.contains(QLatin1String("\nLC 41 DESI 41\nCOLO STAN ; COLO C13 -1 ; ")));
         QVERIFY(script.contains(QLatin1String("\nLC 50 DESI 50\n")));
         QVERIFY(!script.contains(QLatin1String("LC 1 ")));
+    }
+
+    void keptChoice_data()
+    {
+        const Columns<QString, QString, QString> row("page", "options", "same");
+        const auto kept = QStringLiteral("<Scale>1:20</Scale><Part>0</Part><View>1</View><List_4>"
+                                         "Partially:&amp;L00   $L00   &amp;L01 : 2,6,</List_4>");
+        const auto same = QStringLiteral(" --set scaleMode=0 --set scaleText=1:20 --set viewId=1 "
+                                         "--set picturesId=0 --selection l2l6 --load-cases six");
+        writeFile(path("l2l6"), "Partially:&L00   $L00   &L01 : 2,6,");
+        writeFile(path("system"), "Checked:@SYS   $G00   ^G01");
+        writeFile(path("six"), "1 6 six");
+        writeFile(path("twoAndSix"), "1 2 two\n1 6 six");
+        row("taken", kept, "", same);
+        for (const char* option : {" --set viewId=0", " --set scaleMode=1", " --set scaleIndex=0",
+                                   " --selection system", " --load-cases twoAndSix"})
+            row(option, kept, option, same + QLatin1String(option));
+        for (const char* option : {" --proposed", " --progname 222", " --progname 122"})
+            row(option, kept, option, option);
+        row("damaged",
+            "</View><Scale>1:7</Scale><View>2</View><Format>x</Format><Part>9</Part>"
+            "<Font> </Font><List_4>Checked:",
+            "", " --set viewId=2");
+    }
+
+    /// A script that starts from a kept choice is the same as one by arguments alone.
+    void keptChoice()
+    {
+        QFETCH(const QString, page);
+        QFETCH(const QString, options);
+        QFETCH(const QString, same);
+        QFile::copy(path("building.zob"), path("kept.zob"));
+        const auto project = VKD_H_ZOBDoc::open(path("kept.zob"));
+        const bool isDamaged = page.startsWith(QLatin1String("</"));
+        const workbench::OutputState state{page, isDamaged ? 77 : 0, {isDamaged ? -3 : 2}};
+        QCOMPARE(state.write(project->index()), cd_error_t(VKD_ZOB_OK));
+        QCOMPARE(project->close(), cd_error_t(VKD_ZOB_OK));
+        const Result expected = run(QLatin1String("script building.zob") + same);
+        QVERIFY(expected.out.contains(QLatin1String("SIZE ")));
+        const Result result = run(QLatin1String("script kept.zob") + options);
+        QCOMPARE(result.error, QString());
+        QCOMPARE(result.out, expected.out);
+        QFile::remove(path("kept.zob"));
     }
 
     void otherShareFolder()

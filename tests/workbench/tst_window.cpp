@@ -3,6 +3,7 @@
 #include <changedLines.h>
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
@@ -97,6 +98,60 @@ private Q_SLOTS:
         MainWindow again(services());
         QVERIFY(again.openProject(path("kept.zob")));
         QTRY_COMPARE(script(again), chosen);
+    }
+
+    void commandLineTakesTheChoice_data()
+    {
+        const Columns<QString, QString> row("buttons", "line");
+        row("own view", "ScaleGroup_0 PicturesGroup_0 PerspectiveGroup_4",
+            "\nSIZE -URS SC 50*1.e+10 MARG NO FORM STAN\nVIEW TYPE STAN ");
+        row("landscape", "FormatGroup_1 PerspectiveGroup_1",
+            "\nSIZE URS SC 0 MARG NO FORM STAN\nVIEW TYPE EGXZ ");
+    }
+
+    /// What OK left in the project comes out as the window saved it.
+    void commandLineTakesTheChoice()
+    {
+        QFETCH(const QString, buttons);
+        const auto window = open("choice.zob");
+        const auto of = [this](const char* command, const QStringList& options) {
+            return QString::fromUtf8(
+                commandLine(QStringList{QLatin1String(command), path("choice.zob"),
+                                        QStringLiteral("--language"), QStringLiteral("english")} +
+                            options));
+        };
+        const QString proposed = of("script", {});
+        trigger(*window, "Output");
+        const auto dialog = find<QDialog>(*window, "OutputDialog");
+        dialog->findChild<QTableWidget*>()->item(0, 1)->setCheckState(Qt::Unchecked);
+        find<QComboBox>(*dialog, "box_scale")->setCurrentText(QStringLiteral("1:50"));
+        find<QLineEdit>(*dialog, "m_boxedEdit_edit")->setText(QStringLiteral("3.5"));
+        const QStringList common{QStringLiteral("Check: Filled Isolines"),
+                                 QStringLiteral("ContentGroup_1")};
+        for (const QString& name : buttons.split(QLatin1Char(' ')) + common)
+            find<QAbstractButton>(*dialog, qPrintable(name))->click();
+        QTest::keyClick(find<QWidget>(*dialog, "OutputView"), Qt::Key_Left);
+        const auto plots = dialog->findChild<QTreeWidget*>();
+        plots->topLevelItem(0)->child(0)->setCheckState(0, Qt::Unchecked); // Overview
+        dialog->accept();
+        QString saved;
+        for (const QString& keywords : {QStringLiteral("german"), QStringLiteral("english")}) {
+            find<QComboBox>(*window, "KeywordLanguage")
+                ->setCurrentIndex(keywords == QLatin1String("english"));
+            const QString file = path(qPrintable(keywords + QLatin1String(".dat")));
+            answerFileDialog(file);
+            trigger(*window, "SaveScriptAction");
+            saved = QString::fromUtf8(readFile(file));
+            QCOMPARE(of("script", {QStringLiteral("--keywords"), keywords}), saved);
+        }
+        QCOMPARE(of("tree", {}), treeText(plots));
+        QFETCH(const QString, line); // what was changed is there
+        for (const QString& part : {line, QStringLiteral("\nSCHH H6 0.35\n"),
+                                    QStringLiteral("FILLI=AREA\n"), QStringLiteral("\nBRIC SHOW ")})
+            QVERIFY2(saved.contains(part), qPrintable(saved));
+        for (const char* part : {"\nMATE ", "\nLC 1 ", " STAN 1 -2 1 "})
+            QVERIFY2(!saved.contains(QLatin1String(part)), qPrintable(saved));
+        QCOMPARE(of("script", {QStringLiteral("--proposed")}), proposed);
     }
 
     /// Also when the tree is filled anew, as it is by a click in the table of load cases.

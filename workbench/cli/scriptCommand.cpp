@@ -85,10 +85,11 @@ void writeResults(const CommandLine& line, const QString& script, const QString&
 
 int scriptCommand(const QStringList& arguments)
 {
-    CommandLine line(QStringLiteral("Prints the script for the plots that are chosen in a project: "
-                                    "with the plots, load cases and settings that the window keeps "
-                                    "in it, or else those that the catalogue proposes and of a new "
-                                    "page. Options override what is kept."),
+    CommandLine line(QStringLiteral("Prints the script for the plots that are chosen in a project. "
+                                    "Plots, load cases and settings are those that the window "
+                                    "keeps in it, or else the plots that the catalogue proposes "
+                                    "with all load cases and the settings of a new page. Options "
+                                    "override what is kept."),
                      {QStringLiteral("FILE")}, options());
     line.parse(arguments);
     applyLanguage(line);
