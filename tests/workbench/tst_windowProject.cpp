@@ -2,10 +2,12 @@
 
 #include <vkd_lib_value.h>
 
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTreeWidget>
 
 using namespace windowtest;
 using workbench::MainWindow;
@@ -195,6 +197,67 @@ private Q_SLOTS:
         QCOMPARE(script(*window), chosen);
         find<QDialog>(*window, "OutputDialog")->accept();
         QVERIFY(!window->isWindowModified());
+    }
+
+    /// While another program stores: no script rather than that of a choice which is gone, and no
+    /// dialog that would show less than the project holds.
+    void unreadable()
+    {
+        const auto window = open("unreadable.zob");
+        vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, 100);
+        const QString proposed = script(*window);
+        changeChoice(*window);
+        auto other = std::make_unique<OtherProgram>(path("unreadable.zob"), OtherProgram::Storing);
+        QStringList messages;
+        readMessage(messages);
+        QMetaObject::invokeMethod(find<QDialog>(*window, "OutputDialog"), "reject",
+                                  Qt::QueuedConnection); // within the loop of events
+        QTRY_COMPARE(messages.size(), 1);
+        readMessage(messages);
+        trigger(*window, "TextOutput");
+        QVERIFY(!window->findChild<QDialog*>(QStringLiteral("TextOutputDialog")));
+        readMessage(messages);
+        find<QComboBox>(*window, "KeywordLanguage")->setCurrentIndex(0);
+        QCOMPARE(find<QComboBox>(*window, "KeywordLanguage")->currentIndex(), 1);
+        QCOMPARE(messages.size(), 3);
+        for (const QString& message : qAsConst(messages))
+            QCOMPARE(reasonOf(message), InUse);
+        QVERIFY(script(*window).isEmpty() && !window->isWindowModified());
+        QVERIFY(!window->findChild<QAction*>(QStringLiteral("SaveScriptAction"))->isEnabled());
+        other.reset();
+        trigger(*window, "Output");
+        QCOMPARE(script(*window), proposed);
+    }
+
+    void picksAreNotLost()
+    {
+        const auto window = open("picks.zob");
+        whenModal([](QWidget* dialog) {
+            find<QPushButton>(*dialog, "btnNew")->click();
+            auto table = find<QTableWidget>(*dialog, "table");
+            table->setCurrentCell(table->rowCount() - 1, 0);
+            whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
+            find<QPushButton>(*dialog, "buttonGroups")->click();
+        });
+        trigger(*window, "Design");
+        auto groups = find<QTreeWidget>(*window, "GroupList");
+        groups->setCurrentItem(groups->topLevelItem(5));
+        QTest::keyClick(groups, Qt::Key_Return);
+        QStringList messages;
+        {
+            const OtherProgram other(path("picks.zob"), OtherProgram::Taking);
+            readMessage(messages);
+            find<QPushButton>(*window, "PickDone")->click();
+        }
+        QCOMPARE(reasonOf(messages.value(0)), InUse);
+        QVERIFY(find<QWidget>(*window, "PickBanner")->isVisible());
+        QString picked;
+        whenModal([&picked](QWidget* dialog) {
+            picked = find<QComboBox>(*dialog, "comboGroups")->currentText();
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+        find<QPushButton>(*window, "PickDone")->click();
+        QCOMPARE(picked, QStringLiteral("6"));
     }
 
     void leaving_data()

@@ -4,7 +4,6 @@
 #include <VKD_QT4_ComboBox.h>
 
 #include <QRegularExpression>
-#include <QSignalBlocker>
 
 namespace workbench {
 
@@ -97,7 +96,6 @@ QMap<int, int> CombinationTable::kinds() const
 
 void CombinationTable::setKinds(const QMap<int, int>& kinds)
 {
-    const QSignalBlocker quiet(this);
     for (int row = 0; row < rowCount(); ++row) {
         const auto kind = kinds.find(number(row));
         if (kind == kinds.end() || !m_kinds[row]->setCurrentId(*kind))

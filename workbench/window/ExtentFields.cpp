@@ -55,7 +55,6 @@ ExtentFields::ExtentFields(QWidget* parent)
 
 void ExtentFields::setChoice(const Choice& choice)
 {
-    const QSignalBlocker quiet(this);
     if (m_showsRule)
         m_choice = choice;
     else

@@ -82,7 +82,6 @@ QVector<int> PickTable::picked() const
 
 void PickTable::setLeftOut(const QSet<int>& numbers)
 {
-    const QSignalBlocker quiet(this);
     if (m_showsRule)
         m_leftOut = numbers;
     else

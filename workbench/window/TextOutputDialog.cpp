@@ -10,6 +10,7 @@
 #include <VKD_QT_Widgets.h>
 
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -190,10 +191,16 @@ TextOutputState TextOutputDialog::state() const
 
 void TextOutputDialog::setState(const TextOutputState& state)
 {
-    m_fields->setChoice({state.lists, state.allValues});
-    m_loadCaseTable->setLeftOut(state.leftOutLoadCases);
-    m_combinationTable->setLeftOut(state.leftOutCombinations);
-    m_combinationTable->setKinds(state.kinds);
+    {
+        // Between two of these the dialog is half the old one, which is not to be shown.
+        const QSignalBlocker fields(m_fields);
+        const QSignalBlocker loadCaseTable(m_loadCaseTable);
+        const QSignalBlocker combinationTable(m_combinationTable);
+        m_fields->setChoice({state.lists, state.allValues});
+        m_loadCaseTable->setLeftOut(state.leftOutLoadCases);
+        m_combinationTable->setLeftOut(state.leftOutCombinations);
+        m_combinationTable->setKinds(state.kinds);
+    }
     if (kindsOf(*m_combinationTable) != m_kinds)
         fillKindRow();
     // What was never stored leaves these.

@@ -106,7 +106,6 @@ private:
     void connectAnimator();
     void findDialogs();
     void showFixedView(AnimatorViewControl control, bool on);
-    void showKept(const plib::OutputSettings& settings);
     plib::OutputSettings settings() const;
 
     std::unique_ptr<WidgetGraphicalOutputData> data;

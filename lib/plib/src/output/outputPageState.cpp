@@ -59,22 +59,7 @@ QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
     return xml + part(kepttag::Plots, data->tree->selectionText());
 }
 
-/// Before the camera: leaving the user's view stores the one of the animator.
-void VKD_P_WidgetGraphicalOutput::showKept(const plib::OutputSettings& settings)
-{
-    data->scaleCombo->setCurrentIndex(settings.scaleIndex);
-    data->scaleGroup->setButton(settings.scaleMode);
-    if (data->fillCheck)
-        data->fillCheck->setChecked(settings.fillAreas);
-    if (data->formatGroup) {
-        data->formatGroup->setButton(settings.formatId);
-        slotQuerFormat();
-        data->picturesGroup->setButton(settings.picturesId);
-    }
-    if (data->viewGroup)
-        data->viewGroup->setButton(settings.viewId);
-}
-
+/// What is missing leaves its widget alone.
 void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
 {
     if (xml.isEmpty())
@@ -82,13 +67,27 @@ void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
     const auto kept = [&xml](const char* tag) {
         return vkd_qt_readXMLpart(xml, 0, QLatin1String(tag), nullptr);
     };
+    const auto has = [&kept](const char* tag) { return !kept(tag).isNull(); };
     plib::OutputSettings present = settings();
     plib::applyKeptSettings(kept, &present);
-    showKept(present);
-    if (!kept(kepttag::Font).isNull()) // else what is typed stays, a text that is refused too
-        data->fontEdit->setText(present.fontSizeText);
+    if (has(kepttag::Scale)) {
+        data->scaleCombo->setCurrentIndex(present.scaleIndex);
+        data->scaleGroup->setButton(present.scaleMode);
+    }
+    if (has(kepttag::Font))
+        data->fontEdit->setText(kept(kepttag::Font));
+    if (data->fillCheck && has(kepttag::Fill))
+        data->fillCheck->setChecked(present.fillAreas);
+    if (data->formatGroup && has(kepttag::Format)) {
+        data->formatGroup->setButton(present.formatId);
+        slotQuerFormat();
+    }
+    if (data->picturesGroup && has(kepttag::Pictures))
+        data->picturesGroup->setButton(present.picturesId);
     if (data->pageSplitCombo)
         data->pageSplitCombo->readXMLstring(xml);
+    if (data->viewGroup && has(kepttag::View)) // which moves the camera
+        data->viewGroup->setButton(present.viewId);
     if (data->animator) {
         vkd::dbo::setAnimatorPerspektive(DesktopCamera, kept(kepttag::Camera));
         Q_EMIT signalBeobXY(AnimatorTakeCamera, 0.0);
