@@ -295,7 +295,7 @@ private Q_SLOTS:
             "\"colour=1\" is no FIELD=VALUE of a design record");
         row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");
         row("rows slab.zob --set-row 1 hio=inf", "\"inf\" is no value for hio");
-        row("script slab.zob -o both.txt --selection-out both.txt",
+        row("script slab.zob -o both.txt --selection-out ./both.txt",
             "the script and the choice cannot both go into both.txt");
         row("script slab.zob -o .", "cannot write .: it is no file");
         row("snapshots noproject.zob pictures",

@@ -7,6 +7,7 @@
 #include <designFields.h>
 #include <designRecord.h>
 #include <designStore.h>
+#include <projectKeys.h>
 #include <rowText.h>
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_packedNames.h>
@@ -21,10 +22,6 @@
 namespace workbench {
 
 namespace {
-constexpr int DesignPage = 1;
-// Holds nothing; readers and writers inside of a change release pairs of their own.
-constexpr int ChangeKey1 = 421;
-constexpr int ChangeKey2 = 0;
 
 void setInteger(std::int32_t& field, const QString& name, const QString& value)
 {
@@ -63,23 +60,9 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
 
 } // namespace
 
-ProjectChange::ProjectChange(const VKD_H_ZOBDoc* document)
-    : m_index(document->index())
-{
-    if (vkd_zob_lock_ex(m_index, ChangeKey1, ChangeKey2) == VKD_ZOB_OK)
-        return;
-    vkd_zob_free_ex(m_index, ChangeKey1, ChangeKey2);
-    throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
-}
-
-ProjectChange::~ProjectChange()
-{
-    vkd_zob_free_ex(m_index, ChangeKey1, ChangeKey2);
-}
-
 DesignRows::DesignRows(VKD_H_ZOBDoc* document)
     : m_document(document)
-    , m_page(document->index(), DesignPage)
+    , m_page(document->index(), DesignDialogPage)
 {
     const int index = document->index();
     m_bars.load(index);

@@ -13,21 +13,6 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// A change of a project of which all that is read and written counts or nothing does: other
-/// programs wait until the object is gone. Throws a CommandError if the project cannot be taken;
-/// whether the change is stored is known when the document is closed.
-class ProjectChange
-{
-public:
-    explicit ProjectChange(const VKD_H_ZOBDoc* document);
-    ~ProjectChange();
-    ProjectChange(const ProjectChange&) = delete;
-    ProjectChange& operator=(const ProjectChange&) = delete;
-
-private:
-    int m_index;
-};
-
 /// The design parameters of a project as the rows of the design page, without the page: read,
 /// changed and written in the same order of calls.
 class DesignRows
@@ -45,7 +30,7 @@ public:
     /// no value. Throws a CommandError for a name or a value that does not fit.
     void setRow(const QString& groups, const QStringList& fields);
 
-    /// Puts the rows into the project; to be called within a ProjectChange that saw them read.
+    /// Puts the rows into the project; to be called within the ProjectWriting that saw them read.
     void write();
 
 private:

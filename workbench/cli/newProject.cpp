@@ -5,6 +5,7 @@
 #include "PlatformLog.h"
 
 #include <designStore.h>
+#include <ProjectWriting.h>
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_searchpath.h>
@@ -31,7 +32,7 @@ QString modelPath(const QString& nameOrFile)
 void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs,
                  const QString& modelFile)
 {
-    const ProjectChange change(document);
+    ProjectWriting change(document->index());
     plib::checkAndCreateZobDefault(document->index());
     DesignRows rows(document);
     for (const vkd::dbo::DesignValues& design : designs) {
@@ -47,6 +48,7 @@ void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& 
         }
     }
     rows.write();
+    change.finish(); // closing answers for it
 }
 
 /// A file that is gone with the object, unless it got another name.

@@ -6,6 +6,7 @@
 
 #include <designFields.h>
 #include <designStore.h>
+#include <ProjectWriting.h>
 #include <VKD_H_ZOBDoc.h>
 
 namespace workbench {
@@ -44,11 +45,14 @@ int rowsCommand(const QStringList& arguments)
         throw CommandError{QStringLiteral("--set-row is missing")};
     const auto document = openProject(line.argument(0));
     if (line.has("set-row")) {
-        const ProjectChange change(document.get());
+        ProjectWriting change(document->index());
+        if (change.status() != VKD_ZOB_OK)
+            throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
         plib::checkAndCreateZobDefault(document->index());
         DesignRows rows(document.get());
         rows.setRow(line.value("set-row"), fields);
         rows.write();
+        change.finish(); // closing answers for it
     }
     const QString text = DesignRows(document.get()).text();
     if (document->close() != VKD_ZOB_OK)

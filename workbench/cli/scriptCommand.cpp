@@ -10,6 +10,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -65,7 +66,10 @@ void commit(QSaveFile* file)
 /// No file is touched before all that is to be written has been.
 void writeResults(const CommandLine& line, const QString& script, const QString& selection)
 {
-    if (line.has("o") && line.value("o") == line.value("selection-out"))
+    const auto place = [&line](const char* option) {
+        return QDir::cleanPath(QFileInfo(line.value(option)).absoluteFilePath());
+    };
+    if (line.has("o") && line.has("selection-out") && place("o") == place("selection-out"))
         throw CommandError{QStringLiteral("the script and the choice cannot both go into %1")
                                .arg(line.value("o"))};
     QSaveFile scriptFile(line.value("o"));

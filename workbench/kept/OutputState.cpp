@@ -1,7 +1,7 @@
 #include "OutputState.h"
 
-#include "dialogPages.h"
 #include "numberTexts.h"
+#include "projectKeys.h"
 #include "ProjectWriting.h"
 
 #include <vkd_dbo_model.h>
@@ -28,11 +28,11 @@ OutputState OutputState::read(int index)
 
 cd_error_t OutputState::write(int index) const
 {
-    VKD_H_ProjectDialogPage entries(index, OutputDialogPage);
-    entries.setEntry(PageKey, page);
-    entries.setEntry(ContentKey, QString::number(content));
-    entries.setEntry(LeftOutKey, keptNumbers(leftOutNumbers));
-    return storeEntries(index, entries);
+    return storeEntries(index, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
+        entries.setEntry(PageKey, page);
+        entries.setEntry(ContentKey, QString::number(content));
+        entries.setEntry(LeftOutKey, keptNumbers(leftOutNumbers));
+    });
 }
 
 QString OutputState::solidsTag()

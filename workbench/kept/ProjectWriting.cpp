@@ -5,47 +5,52 @@
 namespace workbench {
 
 namespace {
-// Any pair would do, for the file has one lock.
-constexpr int Key1 = 200;
-constexpr int Key2 = 6;
+// Holds nothing: readers and writers inside of a change release pairs of their own.
+constexpr int ChangeKey1 = 421;
+constexpr int ChangeKey2 = 0;
 } // namespace
 
 ProjectWriting::ProjectWriting(int index)
     : m_index(index)
-    , m_status(vkd_zob_lock_ex(index, Key1, Key2))
+    , m_status(vkd_zob_lock_ex(index, ChangeKey1, ChangeKey2))
 {
 }
 
 ProjectWriting::~ProjectWriting()
 {
-    finish();
+    finish(false);
 }
 
-cd_error_t ProjectWriting::finish()
+cd_error_t ProjectWriting::finish(bool isWhole)
 {
     if (!m_isOpen)
         return m_status;
     m_isOpen = false;
-    vkd_zob_free_ex(m_index, Key1, Key2);
+    if (!isWhole)
+        vkd_zob_drop_ex(m_index);
+    vkd_zob_free_ex(m_index, ChangeKey1, ChangeKey2);
     m_status = vkd_zob_change_status(m_index);
+    if (m_status == VKD_ZOB_CANCELLED) // by this object, and not by the user
+        m_status = VKD_ZOB_FAILED;
     return m_status;
 }
 
-cd_error_t storeEntries(int index, VKD_H_ProjectDialogPage& entries)
+cd_error_t storeEntries(int index, int page,
+                        const std::function<void(VKD_H_ProjectDialogPage&)>& set)
 {
     ProjectWriting writing(index);
     if (writing.status() != VKD_ZOB_OK)
         return writing.status();
-    const bool isPut = entries.save();
-    const cd_error_t status = writing.finish();
-    return status == VKD_ZOB_OK && !isPut ? cd_error_t(VKD_ZOB_FAILED) : status;
+    VKD_H_ProjectDialogPage entries(index, page);
+    set(entries);
+    return writing.finish(entries.save());
 }
 
 cd_error_t readingStatus(int index)
 {
     int length = 0;
-    const cd_error_t status = vkd_zob_get(index, Key1, Key2, nullptr, &length, 0);
-    vkd_zob_free_ex(index, Key1, Key2);
+    const cd_error_t status = vkd_zob_get(index, ChangeKey1, ChangeKey2, nullptr, &length, 0);
+    vkd_zob_free_ex(index, ChangeKey1, ChangeKey2);
     return status <= VKD_ZOB_NO_KEY ? cd_error_t(VKD_ZOB_OK) : status;
 }
 

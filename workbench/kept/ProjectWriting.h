@@ -2,12 +2,15 @@
 
 #include <vkd_zob.h>
 
+#include <functional>
+
 class VKD_H_ProjectDialogPage;
 
 namespace workbench {
 
 /// A change of a project, of which all is stored or nothing. It begins with the object, which waits
-/// for other programs as long as the store does, and ends with finish() or with the object.
+/// for other programs as long as the store does. What is read from then on stays as it is until
+/// finish(); without it nothing is stored.
 class ProjectWriting
 {
 public:
@@ -19,8 +22,9 @@ public:
 
     /// Why the change could not begin, VKD_ZOB_OK if it did.
     cd_error_t status() const { return m_status; }
-    /// Stores what was put; the result is why that failed, also a put before.
-    cd_error_t finish();
+    /// Stores what was put, unless it is not the whole change. The result is VKD_ZOB_OK, or why
+    /// nothing is stored.
+    cd_error_t finish(bool isWhole = true);
 
 private:
     int m_index;
@@ -28,9 +32,10 @@ private:
     cd_error_t m_status;
 };
 
-/// Stores the entries of a page of the project in a change of their own. The result is a
+/// Sets entries of a page of the project and stores them, in a change of their own. The result is a
 /// VkdZobStatus.
-cd_error_t storeEntries(int index, VKD_H_ProjectDialogPage& entries);
+cd_error_t storeEntries(int index, int page,
+                        const std::function<void(VKD_H_ProjectDialogPage&)>& set);
 
 /// Whether the project can be read at present: VKD_ZOB_OK, or why not.
 cd_error_t readingStatus(int index);

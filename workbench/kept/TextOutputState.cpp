@@ -1,7 +1,7 @@
 #include "TextOutputState.h"
 
-#include "dialogPages.h"
 #include "numberTexts.h"
+#include "projectKeys.h"
 #include "ProjectWriting.h"
 
 #include <VKD_H_ProjectDialogPage.h>
@@ -66,16 +66,16 @@ TextOutputState TextOutputState::read(int index, int defaultLists)
 
 cd_error_t TextOutputState::write(int index) const
 {
-    VKD_H_ProjectDialogPage entries(index, TextOutputDialogPage);
-    entries.setEntry(ExtentKey, extent);
-    entries.setEntry(LoadCasesKey, loadCases);
-    entries.setEntry(CombinationsKey, combinations);
-    entries.setEntry(ListsKey, QString::number(lists));
-    entries.setEntry(AllValuesKey, QString::number(int(allValues)));
-    entries.setEntry(LeftOutLoadCasesKey, keptNumbers(leftOutLoadCases));
-    entries.setEntry(LeftOutCombinationsKey, keptNumbers(leftOutCombinations));
-    entries.setEntry(KindsKey, kindsText(kinds));
-    return storeEntries(index, entries);
+    return storeEntries(index, TextOutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
+        entries.setEntry(ExtentKey, extent);
+        entries.setEntry(LoadCasesKey, loadCases);
+        entries.setEntry(CombinationsKey, combinations);
+        entries.setEntry(ListsKey, QString::number(lists));
+        entries.setEntry(AllValuesKey, QString::number(int(allValues)));
+        entries.setEntry(LeftOutLoadCasesKey, keptNumbers(leftOutLoadCases));
+        entries.setEntry(LeftOutCombinationsKey, keptNumbers(leftOutCombinations));
+        entries.setEntry(KindsKey, kindsText(kinds));
+    });
 }
 
 bool TextOutputState::operator==(const TextOutputState& other) const

@@ -1,10 +1,11 @@
 #include "DesignDialog.h"
 
-#include "dialogPages.h"
 #include "KeptPlace.h"
-#include "ProjectWriting.h"
+#include "ProjectHold.h"
 #include "withinScreen.h"
 
+#include <projectKeys.h>
+#include <ProjectWriting.h>
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_queries.h>
 #include <VKD_H_ZOBDoc.h>
@@ -18,8 +19,6 @@ namespace workbench {
 
 namespace {
 constexpr int OkAndCancel = 3;
-constexpr int DesignKey1 = 200;
-constexpr int DesignKey2 = 6;
 
 /// Puts the design records of a store in place of those of another one.
 cd_error_t copyRecords(int from, int to)
@@ -64,6 +63,9 @@ DesignDialog::~DesignDialog()
 
 cd_error_t DesignDialog::load()
 {
+    const ProjectHold hold(m_document->index()); // so that all of it can be read, or nothing
+    if (hold.status() > VKD_ZOB_NO_KEY) // one without any record cannot be held
+        return hold.status();
     const cd_error_t status = copyRecords(m_document->index(), m_desk->index());
     if (status != VKD_ZOB_OK)
         return status;
@@ -96,11 +98,9 @@ cd_error_t DesignDialog::store()
     ProjectWriting writing(m_document->index());
     if (writing.status() != VKD_ZOB_OK)
         return writing.status();
-    const bool hasEntries = m_entries.save();
-    if (hasEntries)
-        copyRecords(m_desk->index(), m_document->index());
-    const cd_error_t status = writing.finish();
-    return status == VKD_ZOB_OK && !hasEntries ? cd_error_t(VKD_ZOB_FAILED) : status;
+    const bool isWhole = m_entries.save() && copyRecords(m_desk->index(), m_document->index()) ==
+                                                 cd_error_t(VKD_ZOB_OK);
+    return writing.finish(isWhole);
 }
 
 void DesignDialog::accept()

@@ -1,5 +1,6 @@
 #include "RecordsModel.h"
 
+#include <projectKeys.h>
 #include <vkd_zob.h>
 
 #include <cstring>
@@ -8,8 +9,6 @@
 namespace workbench {
 
 namespace {
-constexpr int DesignKey1 = 200;
-constexpr int DesignKey2 = 6;
 constexpr int IntegerWords = 5;
 constexpr int WordCount = sizeof(tagZOB_QUAD_RIM) / 4;
 

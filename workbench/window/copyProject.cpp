@@ -1,5 +1,6 @@
 #include "copyProject.h"
 
+#include "ProjectHold.h"
 #include "SlowWork.h"
 #include "waitForStore.h"
 
@@ -22,34 +23,6 @@ bool isWriteProtected(const QFileInfo& file)
     const auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     return !file.isWritable() || !(file.permissions() & anyWrite);
 }
-
-/// Keeps all programs from writing into a project: a first record is read, and nothing after it.
-class ProjectHold
-{
-public:
-    explicit ProjectHold(int index)
-        : m_index(index)
-    {
-        vkd_zob_kenq_ex(m_index, &m_key1, &m_key2, 1);
-        int length = 0;
-        m_status = vkd_zob_get(m_index, m_key1, m_key2, nullptr, &length, 0);
-    }
-    ~ProjectHold() { vkd_zob_free_ex(m_index, m_key1, m_key2); }
-    ProjectHold(const ProjectHold&) = delete;
-    ProjectHold& operator=(const ProjectHold&) = delete;
-
-    cd_error_t status() const
-    {
-        const bool isHeld = m_status <= VKD_ZOB_CUT;
-        return isHeld ? cd_error_t(VKD_ZOB_OK) : m_status;
-    }
-
-private:
-    int m_index;
-    int m_key1 = 0;
-    int m_key2 = 0;
-    cd_error_t m_status;
-};
 
 cd_error_t statusOf(const QFileDevice& file)
 {
