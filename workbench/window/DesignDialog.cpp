@@ -64,7 +64,7 @@ DesignDialog::~DesignDialog()
 cd_error_t DesignDialog::load()
 {
     const ProjectHold hold(m_document->index()); // so that all of it can be read, or nothing
-    if (hold.status() > VKD_ZOB_NO_KEY) // one without any record cannot be held
+    if (hold.status() > VKD_ZOB_NO_KEY)          // one without any record cannot be held
         return hold.status();
     const cd_error_t status = copyRecords(m_document->index(), m_desk->index());
     if (status != VKD_ZOB_OK)

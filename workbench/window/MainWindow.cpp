@@ -250,13 +250,26 @@ bool MainWindow::succeeds(cd_error_t status, const QString& path, const QString&
     return status == VKD_ZOB_OK;
 }
 
+bool MainWindow::withProject(const std::function<cd_error_t()>& work, const QString& sentence)
+{
+    const QString path = m_document->path();
+    return succeeds(waitForStore(this, path, work), path, sentence);
+}
+
+bool MainWindow::mayLeave(const QString& question, const std::function<bool()>& store)
+{
+    const int answer =
+        VKD_QT_MessageBox::warning(this, tr("Workbench"), question, QMessageBox::Save,
+                                   QMessageBox::Discard, QMessageBox::Cancel);
+    return answer == QMessageBox::Save ? store() : answer == QMessageBox::Discard;
+}
+
 /// Whether all that the window reads next can be read: asked once, because each of many readings
 /// would wait for another program on its own.
 bool MainWindow::canRead()
 {
-    const QString path = m_document->path();
-    return succeeds(waitForStore(this, path, [this] { return readingStatus(index()); }), path,
-                    tr("The file %1 cannot be read."));
+    return withProject([this] { return readingStatus(index()); },
+                       tr("The file %1 cannot be read."));
 }
 
 void MainWindow::saveWindowState() const

@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 class AnimatorView;
@@ -71,6 +72,11 @@ private:
     /// Complains about a file by a sentence that names it, with the reason behind; not if the user
     /// cancelled. False for any status but VKD_ZOB_OK.
     bool succeeds(cd_error_t status, const QString& path, const QString& sentence);
+    /// Does what needs the project file, waiting for other programs, and complains if it fails.
+    bool withProject(const std::function<cd_error_t()>& work, const QString& sentence);
+    /// Asks whether to store what is changed, and does it. False if the user wants to stay, or if
+    /// it could not be stored.
+    bool mayLeave(const QString& question, const std::function<bool()>& store);
     bool canRead();
     void saveWindowState() const;
     int index() const;

@@ -76,8 +76,9 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
     , m_parameter(document)
     , m_view(new AnimatorView(document->index(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
+    , m_plots(m_page->findChild<QTreeWidget*>())
     , m_names(std::move(names))
-    , m_waiting(m_page->findChild<QTreeWidget*>(), m_names)
+    , m_waiting(m_plots, m_names)
 {
     setWindowTitle(tr("Graphical Output"));
     setModal(false);
@@ -170,15 +171,16 @@ void OutputDialog::offerLoadCases()
 void OutputDialog::listen()
 {
     const auto start = [this] { m_changes.start(0); };
-    for (const auto button : findChildren<QAbstractButton*>()) {
+    const QWidget* tabs = tabWidget(); // without OK and Cancel
+    for (const auto button : tabs->findChildren<QAbstractButton*>()) {
         connect(button, &QAbstractButton::toggled, this, start);
         connect(button, &QAbstractButton::clicked, this, start);
     }
-    for (const auto combo : findChildren<QComboBox*>())
+    for (const auto combo : tabs->findChildren<QComboBox*>())
         connect(combo, &QComboBox::currentTextChanged, this, start);
-    for (const auto edit : findChildren<QLineEdit*>())
+    for (const auto edit : tabs->findChildren<QLineEdit*>())
         connect(edit, &QLineEdit::textChanged, this, start);
-    const QAbstractItemModel* plots = m_page->findChild<QTreeWidget*>()->model();
+    const QAbstractItemModel* plots = m_plots->model();
     connect(plots, &QAbstractItemModel::dataChanged, this, start);
     connect(plots, &QAbstractItemModel::modelReset, this, start);
     connect(plots, &QAbstractItemModel::rowsInserted, this, start);
@@ -224,13 +226,13 @@ void OutputDialog::namePlots()
     if (!m_arePlotsToName)
         return;
     m_arePlotsToName = false;
-    m_names.apply(m_page->findChild<QTreeWidget*>());
+    m_names.apply(m_plots);
 }
 
 QVector<PlotCaption> OutputDialog::captions()
 {
     namePlots();
-    return plotCaptions(*m_page->findChild<QTreeWidget*>(), m_waiting);
+    return plotCaptions(*m_plots, m_waiting);
 }
 
 OutputState OutputDialog::state()
@@ -274,8 +276,7 @@ void OutputDialog::setUnchanged()
 
 OutputPresent OutputDialog::present()
 {
-    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(),
-            TreeSight(*m_page->findChild<QTreeWidget*>())};
+    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(), TreeSight(*m_plots)};
 }
 
 void OutputDialog::setPresent(const OutputPresent& present)
@@ -284,7 +285,7 @@ void OutputDialog::setPresent(const OutputPresent& present)
         m_unchanged.clear();
     tabWidget()->setCurrentIndex(present.tab);
     setVisible(present.isVisible);
-    present.plots.give(m_page->findChild<QTreeWidget*>()); // which has its size now
+    present.plots.give(m_plots); // which has its size now
 }
 
 } // namespace workbench

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 class AnimatorView;
+class QTreeWidget;
 class VKD_H_ZOBDoc;
 class VKD_P_WidgetGraphicalOutput;
 class VKD_QT_RadioButtonGroup;
@@ -85,6 +86,7 @@ private:
     VKD_H_PluginParameter m_parameter;
     AnimatorView* m_view;
     VKD_P_WidgetGraphicalOutput* m_page;
+    QTreeWidget* m_plots;
     PlotNames m_names;
     WaitingPlots m_waiting; ///< outlives the page
     LoadCaseTable* m_loadCases = nullptr;

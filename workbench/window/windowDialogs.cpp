@@ -10,7 +10,6 @@
 #include "ScriptPane.h"
 #include "SlowWork.h"
 #include "TextOutputDialog.h"
-#include "waitForStore.h"
 #include "WindowActions.h"
 #include "WindowSettings.h"
 #include "withinScreen.h"
@@ -38,9 +37,7 @@ namespace workbench {
 void MainWindow::editDesign()
 {
     auto dialog = std::make_unique<DesignDialog>(m_document.get(), this);
-    const QString path = m_document->path();
-    const cd_error_t status = waitForStore(this, path, [&dialog] { return dialog->load(); });
-    if (!succeeds(status, path, tr("The file %1 cannot be read.")))
+    if (!withProject([&dialog] { return dialog->load(); }, tr("The file %1 cannot be read.")))
         return;
     m_design = std::move(dialog);
     runDesign();
@@ -64,9 +61,8 @@ void MainWindow::runDesign()
 
 bool MainWindow::storeDesign()
 {
-    const QString path = m_document->path();
-    const cd_error_t status = waitForStore(this, path, [this] { return m_design->store(); });
-    if (!succeeds(status, path, tr("The design parameters cannot be stored in the file %1.")))
+    if (!withProject([this] { return m_design->store(); },
+                     tr("The design parameters cannot be stored in the file %1.")))
         return false;
     say(tr("The design parameters are in the project file."));
     return true;
@@ -86,13 +82,12 @@ void MainWindow::startPicking()
 /// The dialog takes them from the project. What cannot be stored stays picked.
 void MainWindow::takePicked()
 {
-    const QString path = m_document->path();
-    const cd_error_t status = waitForStore(this, path, [this] {
+    const auto store = [this] {
         const bool isPut =
             VKD_H_SelGRP_Dialog::putAniSelectionToZob(index(), m_view->pickedGroups());
         return isPut ? cd_error_t(VKD_ZOB_OK) : vkd_zob_change_status(index());
-    });
-    if (!succeeds(status, path, tr("The picked groups cannot be stored in the file %1.")))
+    };
+    if (!withProject(store, tr("The picked groups cannot be stored in the file %1.")))
         return;
     stopPicking();
     runDesign();
@@ -186,11 +181,9 @@ bool MainWindow::storeOutput()
 {
     if (!output())
         return false;
-    const QString path = m_document->path();
     const OutputState state = m_output->state();
-    const cd_error_t status =
-        waitForStore(this, path, [this, &state] { return state.write(index()); });
-    if (!succeeds(status, path, tr("The choice of plots cannot be stored in the file %1.")))
+    if (!withProject([this, &state] { return state.write(index()); },
+                     tr("The choice of plots cannot be stored in the file %1.")))
         return false;
     m_output->setUnchanged();
     showModified();

@@ -61,8 +61,8 @@ bool MainWindow::makeProject(const QString& path, const QString& model)
     const ReplacedFile replaced(this, path);
     if (!succeeds(replaced.status(), path, sentence))
         return false;
-    const QString unfinished = path + QLatin1String(".new");
-    QFile::remove(unfinished); // of a window that ended in the middle
+    const QString unfinished =
+        QStringLiteral("%1.%2.new").arg(path).arg(QCoreApplication::applicationPid());
     QString trouble;
     bool goesOn = true;
     {
@@ -73,7 +73,7 @@ bool MainWindow::makeProject(const QString& path, const QString& model)
     if (!goesOn)
         return succeeds(VKD_ZOB_CANCELLED, path, sentence);
     if (!trouble.isEmpty())
-        complain(tr("The project cannot be made.\n%1").arg(trouble));
+        complain(tr("The project cannot be made.\n%1").arg(trouble.replace(unfinished, path)));
     else if (succeeds(replaceFile(unfinished, path) ? VKD_ZOB_OK : VKD_ZOB_READ_ONLY, path,
                       sentence))
         return true;

@@ -18,7 +18,6 @@
 #include <AnimatorView.h>
 #include <SheetPreview.h>
 #include <VKD_H_ZOBDoc.h>
-#include <VKD_QT_MessageBox.h>
 
 #include <QCloseEvent>
 #include <QDir>
@@ -178,15 +177,10 @@ bool MainWindow::mayLeaveProject()
 {
     if (!mayLeaveTextOutput())
         return false;
-    if (!m_output || !m_output->isChanged())
-        return true;
-    const int answer = VKD_QT_MessageBox::warning(
-        this, tr("Workbench"),
-        tr("The choice of plots is changed and not yet in the project.\nIs it to be stored?"),
-        QMessageBox::Save, QMessageBox::Discard, QMessageBox::Cancel);
-    if (answer == QMessageBox::Save)
-        return storeOutput();
-    return answer == QMessageBox::Discard;
+    return !m_output || !m_output->isChanged() ||
+           mayLeave(tr("The choice of plots is changed and not yet in the project.\nIs it to be "
+                       "stored?"),
+                    [this] { return storeOutput(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -3,11 +3,7 @@
 #include "MainWindow.h"
 #include "OutputDialog.h"
 #include "TextOutputDialog.h"
-#include "waitForStore.h"
 #include "WindowActions.h"
-
-#include <VKD_H_ZOBDoc.h>
-#include <VKD_QT_MessageBox.h>
 
 namespace workbench {
 
@@ -49,11 +45,9 @@ void MainWindow::closeTextOutput()
 
 bool MainWindow::storeTextOutput()
 {
-    const QString path = m_document->path();
     const TextOutputState state = m_textOutput->state();
-    const cd_error_t status =
-        waitForStore(this, path, [this, &state] { return state.write(index()); });
-    if (!succeeds(status, path, tr("The text output cannot be stored in the file %1.")))
+    if (!withProject([this, &state] { return state.write(index()); },
+                     tr("The text output cannot be stored in the file %1.")))
         return false;
     m_textOutput->setUnchanged();
     showModified();
@@ -63,15 +57,10 @@ bool MainWindow::storeTextOutput()
 
 bool MainWindow::mayLeaveTextOutput()
 {
-    if (!m_textOutput || !m_textOutput->isChanged())
-        return true;
-    const int answer = VKD_QT_MessageBox::warning(
-        this, tr("Workbench"),
-        tr("The text output is changed and not yet in the project.\nIs it to be stored?"),
-        QMessageBox::Save, QMessageBox::Discard, QMessageBox::Cancel);
-    if (answer == QMessageBox::Save)
-        return storeTextOutput();
-    return answer == QMessageBox::Discard;
+    return !m_textOutput || !m_textOutput->isChanged() ||
+           mayLeave(
+               tr("The text output is changed and not yet in the project.\nIs it to be stored?"),
+               [this] { return storeTextOutput(); });
 }
 
 void MainWindow::showModified()
