@@ -3,6 +3,7 @@
 
 #include <AnimatorView.h>
 #include <PlatformLog.h>
+#include <SlowWork.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TableItems.h>
 #include <VKD_P_WidgetGraphicalOutput>
@@ -12,6 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -26,13 +28,13 @@ enum DesignColumn { Groups, Type, Directions, Reinforcement, Cracks };
 /// The widths of the design page's columns are fixed.
 const QSet<QString> FixedColumns{QStringLiteral("table")};
 
-/// Plots keep the language of the first page in the process, also where a sheet names them.
+/// Without the titles of the command line, plots keep the language of the first page.
 const QSet<QString> FirstLanguage{QStringLiteral("m_list"), QStringLiteral("SheetView")};
 
 /// Spelt alike in both languages.
 const QSet<QString> SameSpelling{QStringLiteral("&Filter:"), QStringLiteral("Name"),
-                                 QStringLiteral("rad"),      QStringLiteral("System"),
-                                 QStringLiteral("Text"),     QStringLiteral("Zoom")};
+                                 QStringLiteral("System"), QStringLiteral("Text"),
+                                 QStringLiteral("Zoom")};
 } // namespace
 
 /// Every window of the program and of the libraries, in both languages. A window is added by a row.
@@ -294,6 +296,17 @@ private:
             auto tree = find<QDialog>(window, "OutputDialog")->findChild<QTreeWidget*>();
             tree->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
             visitModal(visit, [&window] { window.close(); });
+        });
+        addMain("text output not stored", [](MainWindow& window, const Visit& visit) {
+            trigger(window, "TextOutput");
+            find<QCheckBox>(*find<QDialog>(window, "TextOutputDialog"), "ForceList")->toggle();
+            visitModal(visit, [&window] { window.close(); });
+        });
+        addMain("slow work", [](MainWindow& window, const Visit& visit) {
+            workbench::SlowWork work(&window, QString(), 10);
+            while (!window.findChild<QProgressDialog*>()) // for half a second
+                work.goOn(1);
+            visit(*window.findChild<QProgressDialog*>());
         });
     }
 

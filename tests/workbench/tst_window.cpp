@@ -231,6 +231,14 @@ private Q_SLOTS:
         QTRY_COMPARE(marked(), 1);
         QTest::mouseMove(view, {5, 5});
         QTRY_COMPARE(marked(), 0);
+        // And the group of the row below the mouse is lit up in the view.
+        const QImage unlit = view->grab().toImage();
+        QTest::mouseMove(groups->viewport(),
+                         groups->visualItemRect(groups->topLevelItem(2)).center());
+        QTRY_VERIFY(view->grab().toImage() != unlit);
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(groups->viewport(), &leave);
+        QTRY_VERIFY(view->grab().toImage() == unlit);
         bool isNewRowSeen = false;
         whenModal([&isNewRowSeen](QWidget* dialog) {
             find<QPushButton>(*dialog, "btnNew")->click();
