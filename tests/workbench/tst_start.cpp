@@ -6,6 +6,18 @@
 using namespace windowtest;
 using workbench::MainWindow;
 
+class PaintWatch : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        isPainted = isPainted || event->type() == QEvent::Paint;
+        return false;
+    }
+
+    bool isPainted = false;
+};
+
 /// What a start does at once and what it leaves for later.
 class tst_start : public ProjectTest
 {
@@ -36,6 +48,25 @@ private Q_SLOTS:
         makeProject(path("second.zob"), QStringLiteral("slab"));
         QVERIFY(window.openProject(path("second.zob")));
         QVERIFY(groupCount() != groups);
+    }
+
+    /// A damaged one is told about in front of a window that is there.
+    void messageIsBehindThePainting()
+    {
+        writeFile(path("bad.zob"), "no project");
+        MainWindow window({});
+        window.openBehindPainting(path("bad.zob"));
+        PaintWatch watch;
+        window.installEventFilter(&watch);
+        bool isTold = false, wasPainted = false;
+        whenModal([&](QWidget* box) {
+            isTold = true;
+            wasPainted = watch.isPainted;
+            box->close();
+        });
+        window.show();
+        QTRY_VERIFY(isTold);
+        QVERIFY(wasPainted);
     }
 
     /// Writing waits for the disk, and leaves out what was added by hand.

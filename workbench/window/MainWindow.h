@@ -47,6 +47,8 @@ public:
     /// Opens a project in place of the present one. If it cannot be opened, the user is told, and
     /// the present one stays.
     bool openProject(const QString& path);
+    /// Opens it once the window is painted, which a message or a slow disk would hold up.
+    void openBehindPainting(const QString& path) { m_pathToOpen = path; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -151,6 +153,7 @@ private:
     QDockWidget* m_recordDock = nullptr;
     QLabel* m_contents;
     bool m_isSheetSeen = false;
+    QString m_pathToOpen;
     bool m_isProjectToShow = false;         // behind the next painting
     std::unique_ptr<DesignDialog> m_design; // while it is open or away for picking
     std::unique_ptr<OutputDialog> m_output;

@@ -6,7 +6,6 @@
 #include <VKD_QT_InitTranslator.h>
 
 #include <QApplication>
-#include <QTimer>
 
 namespace workbench {
 
@@ -16,9 +15,8 @@ int runWindow(const QString& path, WindowServices services)
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
     VKD_QT_InitTranslator::languageChanged();
     MainWindow window(std::move(services));
+    window.openBehindPainting(path);
     window.show();
-    if (!path.isEmpty()) // behind the first painting, which a message box would hold up
-        QTimer::singleShot(0, &window, [&window, path] { window.openProject(path); });
     return QApplication::exec();
 }
 

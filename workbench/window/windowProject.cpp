@@ -26,6 +26,7 @@
 #include <QTimer>
 
 #include <optional>
+#include <utility>
 
 namespace workbench {
 
@@ -132,10 +133,10 @@ void MainWindow::showRecords()
 void MainWindow::paintEvent(QPaintEvent* event)
 {
     QMainWindow::paintEvent(event);
-    if (!m_isProjectToShow)
-        return;
-    m_isProjectToShow = false;
-    QTimer::singleShot(0, this, &MainWindow::showFirstProject);
+    if (const QString path = std::exchange(m_pathToOpen, QString()); !path.isEmpty())
+        QTimer::singleShot(0, this, [this, path] { openProject(path); });
+    if (std::exchange(m_isProjectToShow, false))
+        QTimer::singleShot(0, this, &MainWindow::showFirstProject);
 }
 
 void MainWindow::saveAs()

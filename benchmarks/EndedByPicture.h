@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QApplication>
+#include <QWidget>
+
+#include <cstdlib>
+
+/// Ends the process behind the first painting of a main window, or of one that has this child.
+class EndedByPicture : public QApplication
+{
+public:
+    EndedByPicture(int& argc, char* argv[], const QString& child)
+        : QApplication(argc, argv)
+        , m_child(child)
+    {
+    }
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        ++m_depth;
+        const bool result = QApplication::notify(receiver, event);
+        --m_depth;
+        if (event->type() == QEvent::Paint && receiver->inherits("QMainWindow"))
+            m_isPainted = m_child.isEmpty() || receiver->findChild<QWidget*>(m_child);
+        if (m_isPainted && m_depth == 0) // what was painted is handed to the screen
+            std::_Exit(EXIT_SUCCESS);
+        return result;
+    }
+
+private:
+    QString m_child;
+    int m_depth = 0;
+    bool m_isPainted = false;
+};
