@@ -78,7 +78,9 @@ GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double m
         set.fills[size_t(shade)] = fill;
         set.meshes[size_t(shade)] = QPen(mesh, 0);
     }
-    set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.6 : 1.2, Qt::SolidLine, Qt::RoundCap);
+    // Round ends take three times as long as all else, and are seen on wide lines only.
+    const Qt::PenCapStyle ends = isLit ? Qt::RoundCap : Qt::SquareCap;
+    set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.6 : 1.2, Qt::SolidLine, ends);
     set.line = mark == GroupMark::Pale ? mixed(colour, outline, 0.3) : readable(colour);
     set.widening = isLit ? 2.5 : 0.0;
     return set;
