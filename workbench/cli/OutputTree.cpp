@@ -4,34 +4,17 @@
 
 #include <Catalogue.h>
 #include <OutputState.h>
-#include <rowLabel.h>
 #include <scriptLines.h>
 #include <selectionText.h>
 #include <TreeBuilder.h>
-#include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace workbench {
 
 namespace {
-OutputTree::Rows rowsOfModel(int index, const OutputState& kept)
-{
-    OutputTree::Rows rows;
-    const auto loadCases = vkd::dbo::readLoadCases(index);
-    for (const vkd::dbo::LoadCase& loadCase : loadCases)
-        if (kept.offers(loadCase))
-            rows.push_back(
-                {loadCase.kind, loadCase.number, plib::rowLabel(loadCase.number, loadCase.title)});
-    std::sort(rows.begin(), rows.end(),
-              [](const auto& a, const auto& b) { return a.number < b.number; });
-    return rows;
-}
-
 std::list<QString> additionalContents(const OutputState& kept)
 {
     if (kept.content == OutputState::WithSolids)
@@ -52,7 +35,7 @@ OutputTree::OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname,
     , m_queries(&m_parameter)
     , m_progname(progname)
 {
-    fill(rows ? *rows : rowsOfModel(m_document->index(), kept), additionalContents(kept));
+    fill(rows ? *rows : kept.offeredRows(m_document->index()), additionalContents(kept));
 }
 
 OutputTree::~OutputTree() = default;

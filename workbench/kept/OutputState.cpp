@@ -7,6 +7,8 @@
 #include <vkd_dbo_model.h>
 #include <VKD_H_ProjectDialogPage.h>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
@@ -14,6 +16,13 @@ const QString PageKey = QStringLiteral("Page");
 const QString ContentKey = QStringLiteral("Content");
 const QString LeftOutKey = QStringLiteral("LeftOut");
 constexpr int PlainLoadCase = 1;
+
+/// All digits of the number: a "+" in it would ask for a double picture.
+QString rowName(const vkd::dbo::LoadCase& loadCase)
+{
+    const QString number = QString::number(loadCase.number) + QLatin1Char(' ');
+    return loadCase.title.isEmpty() ? number : number + QLatin1String(": ") + loadCase.title;
+}
 } // namespace
 
 OutputState OutputState::read(int index)
@@ -40,9 +49,17 @@ QString OutputState::solidsTag()
     return QStringLiteral("Bric");
 }
 
-bool OutputState::offers(const vkd::dbo::LoadCase& loadCase) const
+std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
+OutputState::offeredRows(int index) const
 {
-    return loadCase.kind != PlainLoadCase || !leftOutNumbers.contains(loadCase.number);
+    std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> rows;
+    const auto loadCases = vkd::dbo::readLoadCases(index);
+    for (const vkd::dbo::LoadCase& loadCase : loadCases)
+        if (loadCase.kind != PlainLoadCase || !leftOutNumbers.contains(loadCase.number))
+            rows.push_back({loadCase.kind, loadCase.number, rowName(loadCase)});
+    std::sort(rows.begin(), rows.end(),
+              [](const auto& a, const auto& b) { return a.number < b.number; });
+    return rows;
 }
 
 } // namespace workbench

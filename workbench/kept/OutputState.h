@@ -1,15 +1,12 @@
 #pragma once
 
+#include <LoadcaseInformation.h>
 #include <vkd_zob.h>
 
 #include <QSet>
 #include <QString>
 
-namespace vkd {
-namespace dbo {
-struct LoadCase;
-}
-} // namespace vkd
+#include <vector>
 
 namespace workbench {
 
@@ -31,9 +28,9 @@ struct OutputState
 
     /// The tag of the content that is there in any case with WithSolids.
     static QString solidsTag();
-    /// Whether the plots offer it. The table stands for plain load cases alone; design combinations
-    /// are always offered.
-    bool offers(const vkd::dbo::LoadCase& loadCase) const;
+    /// The load cases of the project at this database index that the plots offer, by number. The
+    /// table stands for plain ones alone; design combinations are always offered.
+    std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> offeredRows(int index) const;
 };
 
 } // namespace workbench

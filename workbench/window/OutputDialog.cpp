@@ -6,7 +6,6 @@
 
 #include <AnimatorView.h>
 #include <vkd_dbo_camera.h>
-#include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 #include <VKD_P_WidgetGraphicalOutput>
@@ -27,19 +26,12 @@
 namespace workbench {
 
 namespace {
-using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
 constexpr int DesktopCamera = 0;
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
 /// What the page writes for its rows by itself, so that lists made here and there are equal.
-QString rowName(const vkd::dbo::LoadCase& loadCase)
-{
-    const QString number = QString::number(loadCase.number) + QLatin1Char(' ');
-    return loadCase.title.isEmpty() ? number : number + QLatin1String(": ") + loadCase.title;
-}
-
 /// A page that found another language than the first one would read the catalogue once more and
 /// offer each plot twice. The icons of its rows change all the same, since offering the load cases
 /// fills the tree once more.
@@ -157,14 +149,7 @@ void OutputDialog::offerLoadCases()
 {
     OutputState present;
     present.leftOutNumbers = m_loadCases->leftOutNumbers();
-    Rows rows;
-    const auto loadCases = vkd::dbo::readLoadCases(m_document->index());
-    for (const vkd::dbo::LoadCase& loadCase : loadCases)
-        if (present.offers(loadCase))
-            rows.push_back({loadCase.kind, loadCase.number, rowName(loadCase)});
-    std::sort(rows.begin(), rows.end(),
-              [](const auto& a, const auto& b) { return a.number < b.number; });
-    m_page->setUsedNumbersAndNames(rows);
+    m_page->setUsedNumbersAndNames(present.offeredRows(m_document->index()));
 }
 
 /// The page tells nobody about its changes, so its widgets are listened to.
