@@ -17,7 +17,7 @@ void JsonPlace::fail(const QString& what) const
 double JsonPlace::real() const
 {
     if (!m_value.isDouble() || !std::isfinite(m_value.toDouble()))
-        fail(QStringLiteral("a number is needed"));
+        fail(ModelFileError::tr("a number is needed"));
     return m_value.toDouble();
 }
 
@@ -25,7 +25,7 @@ int JsonPlace::integer() const
 {
     const double value = real();
     if (value != std::floor(value) || std::abs(value) > std::numeric_limits<int>::max())
-        fail(QStringLiteral("a whole number is needed"));
+        fail(ModelFileError::tr("a whole number is needed"));
     return int(value);
 }
 
@@ -33,14 +33,14 @@ int JsonPlace::positive() const
 {
     const int value = integer();
     if (value < 1)
-        fail(QStringLiteral("a number of 1 or more is needed"));
+        fail(ModelFileError::tr("a number of 1 or more is needed"));
     return value;
 }
 
 QString JsonPlace::string() const
 {
     if (!m_value.isString())
-        fail(QStringLiteral("a text is needed"));
+        fail(ModelFileError::tr("a text is needed"));
     return m_value.toString();
 }
 
@@ -57,12 +57,12 @@ QString JsonPlace::title(int language) const
 QVector<JsonPlace> JsonPlace::list(int least, int most) const
 {
     if (!m_value.isArray())
-        fail(QStringLiteral("a list is needed"));
+        fail(ModelFileError::tr("a list is needed"));
     const QJsonArray values = m_value.toArray();
     if (values.size() < least)
-        fail(QStringLiteral("%1 values are needed").arg(least));
+        fail(ModelFileError::tr("%1 values are needed").arg(least));
     if (most > 0 && values.size() > most)
-        fail(QStringLiteral("no more than %1 values can stand here").arg(most));
+        fail(ModelFileError::tr("no more than %1 values can stand here").arg(most));
     QVector<JsonPlace> places;
     places.reserve(values.size());
     for (int i = 0; i < values.size(); ++i)
@@ -73,7 +73,7 @@ QVector<JsonPlace> JsonPlace::list(int least, int most) const
 QJsonObject JsonPlace::object() const
 {
     if (!m_value.isObject())
-        fail(QStringLiteral("an object is needed"));
+        fail(ModelFileError::tr("an object is needed"));
     return m_value.toObject();
 }
 
@@ -83,10 +83,10 @@ void JsonPlace::checkKeys(const QStringList& needed, const QStringList& optional
     const QStringList keys = all.keys();
     for (const QString& key : keys)
         if (!needed.contains(key) && !optional.contains(key))
-            fail(QStringLiteral("unknown key \"%1\"").arg(key));
+            fail(ModelFileError::tr("unknown key \"%1\"").arg(key));
     for (const QString& key : needed)
         if (!all.contains(key))
-            fail(QStringLiteral("the key \"%1\" is missing").arg(key));
+            fail(ModelFileError::tr("the key \"%1\" is missing").arg(key));
 }
 
 bool JsonPlace::has(const QString& key) const

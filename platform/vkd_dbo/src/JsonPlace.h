@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QStringList>
@@ -12,6 +13,9 @@ namespace dbo {
 /// of the reader only.
 struct ModelFileError
 {
+    Q_DECLARE_TR_FUNCTIONS(vkd::dbo::ModelFileError) // the German texts are those of vkd_qt
+
+public:
     QString text;
 };
 

@@ -17,6 +17,14 @@ namespace vkd {
 namespace dbo {
 
 namespace {
+/// What a number may be one of. Translated when it is told that there is no such thing.
+namespace ThingNames {
+constexpr char Node[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "node");
+constexpr char Group[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "group");
+constexpr char Element[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "element");
+constexpr char CrossSection[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "cross section");
+constexpr char Point[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "point");
+} // namespace ThingNames
 
 /// Reads one model file. What others refer to by number is read first, so that a number that
 /// belongs to nothing is found where it stands.
@@ -74,7 +82,7 @@ int fixedDirections(const JsonPlace& place)
     for (const QString& word : words) {
         const int bit = names.indexOf(word);
         if (bit < 0)
-            place.fail(QStringLiteral("unknown direction \"%1\"").arg(word));
+            place.fail(ModelFileError::tr("unknown direction \"%1\"").arg(word));
         fixed |= 1 << bit;
     }
     return fixed;
@@ -148,7 +156,7 @@ void ModelFileReader::readSystem()
     });
     each("supports", m_model.supports, [this](const JsonPlace& place, Boundary& boundary) {
         const auto values = place.list(2, 2);
-        boundary.node = known(values[0], m_nodes, "node");
+        boundary.node = known(values[0], m_nodes, ThingNames::Node);
         boundary.fixed = fixedDirections(values[1]);
     });
     Numbers used;
@@ -162,7 +170,7 @@ void ModelFileReader::readSystem()
         const JsonPlace kind = place.at(QStringLiteral("kind"));
         loadCase.kind = kind.integer();
         if (loadCase.kind != 1 && loadCase.kind != 2)
-            kind.fail(QStringLiteral("a kind of 1 or 2 is needed"));
+            kind.fail(ModelFileError::tr("a kind of 1 or 2 is needed"));
     });
 }
 
@@ -213,7 +221,7 @@ void ModelFileReader::lineElements(const char* key, QVector<LineElement>& elemen
     each(key, elements, [&](const JsonPlace& place, LineElement& element) {
         const auto values = place.list(5, 5);
         numberAndGroup(values, element, *numbers);
-        element.crossSection = known(values[2], m_sections, "cross section");
+        element.crossSection = known(values[2], m_sections, ThingNames::CrossSection);
         nodes(values, 3, element.nodes, false);
     });
 }
@@ -225,7 +233,7 @@ void ModelFileReader::outlines(const char* key, QVector<Outline>& outlines, int 
         const auto values = place.list(least, most);
         outline.number = unique(values[0], used);
         for (int i = 1; i < values.size(); ++i)
-            outline.points.append(known(values[i], m_points, "point"));
+            outline.points.append(known(values[i], m_points, ThingNames::Point));
     });
 }
 
@@ -254,10 +262,10 @@ void ModelFileReader::readSecondaryGroups()
              group.name = name.string();
              if (!isGroupName(group.name))
                  name.fail(
-                     QStringLiteral("a name of one to four letters and digits of ASCII, not of "
-                                    "digits alone, is needed"));
+                     ModelFileError::tr("a name of one to four letters and digits of ASCII, not of "
+                                        "digits alone, is needed"));
              if (used.contains(group.name))
-                 name.fail(QStringLiteral("\"%1\" stands here twice").arg(group.name));
+                 name.fail(ModelFileError::tr("\"%1\" stands here twice").arg(group.name));
              used.insert(group.name);
              group.title = place.at(QStringLiteral("title")).title(m_language);
              group.quads = members(place, "quads", m_quads);
@@ -278,7 +286,7 @@ void ModelFileReader::readDesign()
              const auto groups = place.at(QStringLiteral("groups")).list(1);
              for (const JsonPlace& group : groups) {
                  if (!known.remove(group.string()))
-                     group.fail(QStringLiteral("group %1 does not exist or stands here twice")
+                     group.fail(ModelFileError::tr("group %1 does not exist or stands here twice")
                                     .arg(group.string()));
                  design.groups << group.string();
              }
@@ -298,7 +306,7 @@ QVector<int> ModelFileReader::members(const JsonPlace& group, const char* key,
         return result;
     const auto places = group.at(name).list();
     for (const JsonPlace& place : places)
-        result.append(known(place, numbers, "element"));
+        result.append(known(place, numbers, ThingNames::Element));
     return result;
 }
 
@@ -308,14 +316,14 @@ void ModelFileReader::numberAndGroup(const QVector<JsonPlace>& values, Element& 
                                      Numbers& used) const
 {
     element.number = unique(values[0], used);
-    element.group = known(values[1], m_groups, "group");
+    element.group = known(values[1], m_groups, ThingNames::Group);
 }
 
 int ModelFileReader::unique(const JsonPlace& place, Numbers& used)
 {
     const int number = place.positive();
     if (used.contains(number))
-        place.fail(QStringLiteral("the number %1 stands here twice").arg(number));
+        place.fail(ModelFileError::tr("the number %1 stands here twice").arg(number));
     used.insert(number);
     return number;
 }
@@ -324,7 +332,8 @@ int ModelFileReader::known(const JsonPlace& place, const Numbers& numbers, const
 {
     const int number = place.integer();
     if (!numbers.contains(number))
-        place.fail(QStringLiteral("%1 %2 does not exist").arg(QLatin1String(what)).arg(number));
+        place.fail(
+            ModelFileError::tr("%1 %2 does not exist").arg(ModelFileError::tr(what)).arg(number));
     return number;
 }
 
@@ -340,7 +349,7 @@ void ModelFileReader::nodes(const QVector<JsonPlace>& values, int first, int (&n
     for (size_t i = 0; i < N; ++i) {
         const JsonPlace& place = values[first + int(i)];
         const bool isNone = lastMayBeZero && i + 1 == N && place.integer() == 0;
-        numbers[i] = isNone ? 0 : known(place, m_nodes, "node");
+        numbers[i] = isNone ? 0 : known(place, m_nodes, ThingNames::Node);
     }
 }
 
@@ -348,7 +357,7 @@ void ModelFileReader::nodes(const QVector<JsonPlace>& values, int first, int (&n
 QString lineAndColumn(const QByteArray& bytes, int offset)
 {
     const QByteArray before = bytes.left(offset);
-    return QStringLiteral("line %1, column %2")
+    return ModelFileError::tr("line %1, column %2")
         .arg(before.count('\n') + 1)
         .arg(before.size() - before.lastIndexOf('\n'));
 }

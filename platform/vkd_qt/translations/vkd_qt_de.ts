@@ -12,4 +12,99 @@
         <translation>Alle zuklappen</translation>
     </message>
 </context>
+<context>
+    <name>vkd::dbo::ModelFileError</name>
+    <message>
+        <source>node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>element</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>cross section</source>
+        <translation>Querschnitt</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>a number is needed</source>
+        <translation>eine Zahl wird gebraucht</translation>
+    </message>
+    <message>
+        <source>a whole number is needed</source>
+        <translation>eine ganze Zahl wird gebraucht</translation>
+    </message>
+    <message>
+        <source>a number of 1 or more is needed</source>
+        <translation>eine Zahl ab 1 wird gebraucht</translation>
+    </message>
+    <message>
+        <source>a text is needed</source>
+        <translation>ein Text wird gebraucht</translation>
+    </message>
+    <message>
+        <source>a list is needed</source>
+        <translation>eine Liste wird gebraucht</translation>
+    </message>
+    <message>
+        <source>%1 values are needed</source>
+        <translation>%1 Werte werden gebraucht</translation>
+    </message>
+    <message>
+        <source>no more than %1 values can stand here</source>
+        <translation>höchstens %1 Werte können hier stehen</translation>
+    </message>
+    <message>
+        <source>an object is needed</source>
+        <translation>ein Objekt wird gebraucht</translation>
+    </message>
+    <message>
+        <source>unknown key &quot;%1&quot;</source>
+        <translation>unbekannter Schlüssel „%1“</translation>
+    </message>
+    <message>
+        <source>the key &quot;%1&quot; is missing</source>
+        <translation>der Schlüssel „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>unknown direction &quot;%1&quot;</source>
+        <translation>unbekannte Richtung „%1“</translation>
+    </message>
+    <message>
+        <source>a kind of 1 or 2 is needed</source>
+        <translation>die Art muss 1 oder 2 sein</translation>
+    </message>
+    <message>
+        <source>a name of one to four letters and digits of ASCII, not of digits alone, is needed</source>
+        <translation>ein Name aus ein bis vier ASCII-Buchstaben und Ziffern, nicht nur aus Ziffern, wird gebraucht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands here twice</source>
+        <translation>„%1“ steht hier zweimal</translation>
+    </message>
+    <message>
+        <source>group %1 does not exist or stands here twice</source>
+        <translation>die Gruppe %1 gibt es nicht, oder sie steht hier zweimal</translation>
+    </message>
+    <message>
+        <source>the number %1 stands here twice</source>
+        <translation>die Nummer %1 steht hier zweimal</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not exist</source>
+        <translation>%1 %2 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+</context>
 </TS>
