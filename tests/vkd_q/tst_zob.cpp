@@ -183,6 +183,17 @@ private Q_SLOTS:
         QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)), VKD_ZOB_LOCKED);
     }
 
+    void droppedOnPurpose()
+    {
+        QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
+        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_OK);
+        vkd_zob_drop_ex(m_first);
+        vkd_zob_free_ex(m_first, 1, 1);
+        QCOMPARE(vkd_zob_change_status(m_first), VKD_ZOB_CANCELLED);
+        QCOMPARE(readAll(m_first), m_old);
+        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)), VKD_ZOB_OK); // nothing went wrong
+    }
+
     void failureDropsTheChange_data()
     {
         const Columns<int, int> row("length", "position");

@@ -2,6 +2,8 @@
 
 #include <QTemporaryDir>
 
+#include <sqlite3.h>
+
 static QByteArray patched(QByteArray bytes, int offset, const QByteArray& patch)
 {
     return bytes.replace(offset, patch.size(), patch);
@@ -11,6 +13,20 @@ static QByteArray patched(QByteArray bytes, int offset, const QByteArray& patch)
 class TestZobFiles : public QObject
 {
     Q_OBJECT
+
+    /// The project after a change by another program.
+    QByteArray with(const char* change) const
+    {
+        const QTemporaryDir folder;
+        const QByteArray path = folder.filePath(QStringLiteral("p")).toUtf8();
+        testsupport::writeFile(QString::fromUtf8(path), m_sound);
+        sqlite3* connection = nullptr;
+        if (sqlite3_open(path, &connection) != SQLITE_OK ||
+            sqlite3_exec(connection, change, nullptr, nullptr, nullptr) != SQLITE_OK)
+            qFatal("%s", sqlite3_errmsg(connection));
+        sqlite3_close(connection);
+        return testsupport::readFile(QString::fromUtf8(path));
+    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -41,6 +57,13 @@ private Q_SLOTS:
         row("last bytes missing", m_sound.left(m_sound.size() - 100), damaged);
         row("noise at the head of a page", patched(m_sound, page, noise), damaged);
         row("noise in the table of contents", patched(m_sound, 100, noise), damaged);
+        row("deletes what is put",
+            with("CREATE TRIGGER t AFTER INSERT ON record BEGIN DELETE FROM record; END"), damaged);
+        row("reads for ever",
+            with("DROP TABLE record; CREATE VIEW record AS WITH RECURSIVE n(i) AS"
+                 " (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT 1 AS key1, 1 AS key2,"
+                 " i AS position, x'00' AS data FROM n"),
+            damaged);
     }
 
     void unusable()

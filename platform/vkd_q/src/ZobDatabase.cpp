@@ -21,14 +21,20 @@ constexpr int StepsToQuestion = 20000;    // of SQLite's machine, some ms
 
 const QLatin1String InMemory(":memory:");
 
-constexpr char Schema[] = "BEGIN;"
-                          "CREATE TABLE record(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL,"
-                          " position INTEGER NOT NULL, data BLOB NOT NULL,"
-                          " PRIMARY KEY(key1, key2, position)) WITHOUT ROWID;"
+#define RECORD_TABLE                                                    \
+    "CREATE TABLE record(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL," \
+    " position INTEGER NOT NULL, data BLOB NOT NULL,"                   \
+    " PRIMARY KEY(key1, key2, position)) WITHOUT ROWID"
+constexpr char Schema[] = "BEGIN;" RECORD_TABLE ";"
                           "PRAGMA application_id = 1447773250;"
                           "PRAGMA user_version = 1;"
                           "COMMIT;";
 static_assert(ApplicationId == 1447773250 && SchemaVersion == 1);
+
+// What a project is made of, and nothing else: a view could run for ever, and a trigger change what
+// is put.
+constexpr char ForeignSql[] =
+    "SELECT count(*) != 1 OR min(sql) IS NOT '" RECORD_TABLE "' FROM sqlite_master";
 
 constexpr char GetSql[] = "SELECT data FROM record WHERE key1=?1 AND key2=?2 AND position>=?3"
                           " ORDER BY position";
@@ -197,10 +203,15 @@ cd_error_t ZobDatabase::quickCheck()
     else if (result != QLatin1String("ok"))
         status = reportZob(VKD_ZOB_DAMAGED, "open", m_path, result);
     sqlite3_finalize(check);
-    // A sound database of ours without our table.
-    if (status == VKD_ZOB_OK && m_get.start(m_connection.get(), GetSql, 0, 0) != SQLITE_OK)
-        status = reportZob(VKD_ZOB_DAMAGED, "open", m_path,
-                           QString::fromUtf8(sqlite3_errmsg(m_connection.get())));
+    return status == VKD_ZOB_OK ? checkTable() : status;
+}
+
+cd_error_t ZobDatabase::checkTable()
+{
+    int isForeign = 0;
+    const cd_error_t status = number(ForeignSql, &isForeign);
+    if (status == VKD_ZOB_OK && isForeign)
+        return reportZob(VKD_ZOB_DAMAGED, "open", m_path, QStringLiteral("its table is another"));
     return status;
 }
 
@@ -455,7 +466,7 @@ void ZobDatabase::storeOrDrop()
 void ZobDatabase::rememberRelease(cd_error_t status)
 {
     m_endOfChange = status;
-    if (m_releaseStatus == VKD_ZOB_OK)
+    if (m_releaseStatus == VKD_ZOB_OK && status != VKD_ZOB_CANCELLED) // which was wanted
         m_releaseStatus = status;
 }
 

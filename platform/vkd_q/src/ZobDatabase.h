@@ -46,6 +46,7 @@ private:
     cd_error_t number(const char* sql, int* value);
     cd_error_t checkSoundness(const VkdGoOn& goOn);
     cd_error_t quickCheck();
+    cd_error_t checkTable();
     cd_error_t fail(int sqliteCode, const char* action);
     cd_error_t failInside(int sqliteCode, const char* action);
     cd_error_t spoilChange(cd_error_t status);
