@@ -5,6 +5,7 @@
 #include <vkd_unittests.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QPixmapCache>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -40,6 +41,18 @@ private Q_SLOTS:
             QVERIFY(testsupport::readFile(log).contains(
                 "PASS   : VKD_P_Mix_UnitTest::check_qrc_system()"));
         }
+    }
+
+    /// A log that cannot be written is told to the host, which goes on.
+    void selfCheckWithoutLog()
+    {
+        const QTemporaryDir folder;
+        QDir(folder.path()).mkdir(QStringLiteral("a,b"));
+        for (const QString& place :
+             {QStringLiteral("/nowhere"), folder.filePath(QStringLiteral("a,b"))})
+            QCOMPARE(host({QStringLiteral("selfcheck"), QStringLiteral("1"),
+                           QStringLiteral("logpath:") + place}),
+                     QStringLiteral("result 1, language 1"));
     }
 
     void failedSelfCheckLeavesLanguage()

@@ -22,7 +22,8 @@ public:
 
     /// The columns of numbers, of check boxes and of titles; the last two may be negative for a
     /// table without them. Neither `page` nor `table` is owned. The rows come with the first change
-    /// in the table, or with reset().
+    /// in the table, or with reset(). Each change that gives other rows fills the tree of the page
+    /// anew, so a table of many rows is better filled before.
     void setWidgets(VKD_P_WidgetGraphicalOutput* page, VKD_H_TableWidget* table, int numberColumn,
                     int checkColumn, int titleColumn);
 

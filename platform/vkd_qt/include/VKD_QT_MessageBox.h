@@ -4,15 +4,15 @@
 
 #include <QMessageBox>
 
-/// Modal boxes for a word with the user. Unlike Qt's own, a box that is left by Escape or by
-/// closing its window is not taken for an answer: that is no button.
+/// Modal boxes for a word with the user. A box that is left by Escape or by closing its window has
+/// no button pressed; what it answers then is said at each.
 class VKD_QT_EXPORT VKD_QT_MessageBox : public QMessageBox
 {
     Q_OBJECT
 
 public:
-    /// A warning with up to three of QMessageBox's buttons, 0 for none. Returns the one pressed, 0
-    /// if the user left the box otherwise.
+    /// A warning with up to three of QMessageBox's buttons, 0 for none. Returns the one pressed. If
+    /// the user left the box otherwise, that is Cancel, else No, and 0 if it has neither.
     static int warning(QWidget* parent, const QString& title, const QString& text, int button0,
                        int button1, int button2);
 

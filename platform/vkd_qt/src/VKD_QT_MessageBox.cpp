@@ -18,7 +18,12 @@ int VKD_QT_MessageBox::warning(QWidget* parent, const QString& title, const QStr
         if (button)
             box.addButton(StandardButton(button));
     box.exec();
-    return box.clickedButton() ? box.standardButton(box.clickedButton()) : 0;
+    if (box.clickedButton())
+        return box.standardButton(box.clickedButton());
+    for (StandardButton refusal : {Cancel, No})
+        if (box.button(refusal))
+            return refusal;
+    return 0;
 }
 
 int VKD_QT_MessageBox::warning(QWidget* parent, const QString& title, const QString& text,

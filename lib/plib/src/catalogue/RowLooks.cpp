@@ -21,7 +21,7 @@ RowLooks::RowLooks(bool english)
 
 const GraphicalOutputTreeWidgetItem& RowLooks::of(const QString& text, bool checked)
 {
-    std::unique_ptr<const Looks>& looks = m_looks[text.constData()];
+    std::unique_ptr<const Looks>& looks = m_looks[{text.constData(), text.size()}];
     if (!looks)
         looks = std::make_unique<const Looks>(text, m_icon);
     return checked ? looks->checked : looks->unchecked;

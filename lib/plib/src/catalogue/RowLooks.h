@@ -2,8 +2,9 @@
 
 #include "GraphicalOutputTreeWidgetItem.h"
 
+#include <map>
 #include <memory>
-#include <unordered_map>
+#include <utility>
 
 namespace plib {
 
@@ -31,7 +32,8 @@ private:
     };
 
     QIcon m_icon;
-    std::unordered_map<const QChar*, std::unique_ptr<const Looks>> m_looks;
+    // By the characters' place and number: texts of different lengths may begin at one place.
+    std::map<std::pair<const QChar*, int>, std::unique_ptr<const Looks>> m_looks;
 };
 
 } // namespace plib

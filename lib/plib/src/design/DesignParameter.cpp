@@ -110,8 +110,17 @@ void DesignParameter::readZob()
     refreshRows(-1);
 }
 
+/// What is chosen in an open list of types counts from when the list loses the focus.
+void DesignParameter::finishEditing()
+{
+    const QWidget* focus = QApplication::focusWidget();
+    if (focus && data->table->viewport()->isAncestorOf(focus))
+        data->table->setFocus();
+}
+
 void DesignParameter::writeToZob()
 {
+    finishEditing();
     plib::writeRowsToZob(*data, converted);
 }
 
@@ -125,6 +134,7 @@ void DesignParameter::getEntrys(VKD_H_ProjectDialogPage& page)
 
 void DesignParameter::setEntrys(VKD_H_ProjectDialogPage& page)
 {
+    finishEditing();
     plib::writeRowsToZob(*data, converted);
     plib::writeRowsToEntries(*data, page);
 }
@@ -228,6 +238,7 @@ void DesignParameter::slot_deleteClicked()
         return;
     const std::set<int> rows = table->getSelectetRows();
     if (!rows.empty()) {
+        finishEditing(); // while the table still tells of it
         closeCellWidget();
         editRow = editColumn = -1;
         const VKD_QT_SignalBlocker blocker(table); // until the rows are those of the table again

@@ -64,6 +64,7 @@ private:
     void refreshRows(int number);
     void swapRows(int row, int other);
     bool isRow(int row) const;
+    void finishEditing();
     void closeCellWidget();
     bool hasFocusInEditor() const;
     void makeEditedCellCurrent();

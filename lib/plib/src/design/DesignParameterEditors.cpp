@@ -171,6 +171,9 @@ void DesignParameter::editRecord(Arguments... arguments)
     Dialog dialog(arguments..., &edited->record, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
+    edited = plib::rowAt(*data, row); // the rows may have been read anew meanwhile
+    if (!edited)
+        return;
     dialog.writeToRecord(&edited->record);
     refreshRows(row);
 }

@@ -268,7 +268,8 @@ void VKD_P_WidgetGraphicalOutput::slotQuerFormat()
         return;
     const int format = data->formatGroup->selectedButton();
     data->picturesGroup->setEnabled(format != LandscapeFormat);
-    data->picturesGroup->setButton(plib::picturesForFormat(format));
+    if (format == PortraitFormat || format == LandscapeFormat)
+        data->picturesGroup->setButton(plib::picturesForFormat(format));
 }
 
 void VKD_P_WidgetGraphicalOutput::slotDefaultSettings()
