@@ -390,6 +390,29 @@ private Q_SLOTS:
         QVERIFY(m_project->records().back().type != 0);
     }
 
+    /// As when a host closes the project by itself.
+    void pageGoesBelowItsDialogs()
+    {
+        for (int column : {0, 2}) {
+            auto desk = std::make_unique<DesignDesk>(*m_project);
+            desk->press("btnNew");
+            desk->press("btnNew");
+            desk->table()->item(1, 1)->setText(QStringLiteral("Circular"));
+            desk->table()->setCurrentCell(1, column);
+            whenModal([&desk](QWidget*) { desk.reset(); });
+            const QWidget* editor = desk->table()->cellWidget(1, column);
+            const auto button =
+                column == 0 ? editor->findChild<QPushButton*>(QStringLiteral("buttonGroups"))
+                            : qobject_cast<const QPushButton*>(editor);
+            const_cast<QPushButton*>(button)->click();
+            QVERIFY(!desk);
+        }
+        auto desk = std::make_unique<DesignDesk>(*m_project);
+        desk->press("btnNew");
+        whenModal([&desk](QWidget*) { desk.reset(); });
+        QVERIFY(!desk->page->checkVals());
+    }
+
     void rowsReadAnewBelowADialog()
     {
         DesignDesk desk(*m_project);

@@ -46,6 +46,12 @@ DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWi
 DesignParameter::~DesignParameter()
 {
     disconnect(qApp, nullptr, this, nullptr);
+    // Dialogs of the page lie on the stack below it: they end, and are not to go with it.
+    const auto dialogs = findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDialog* dialog : dialogs) {
+        dialog->setParent(nullptr);
+        dialog->reject();
+    }
 }
 
 void DesignParameter::setDialog(VKD_QT_Dialog* dialog)

@@ -17,6 +17,7 @@
 #include <VKD_QT_TableWidgetButton.h>
 
 #include <QApplication>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -169,7 +170,8 @@ void DesignParameter::editRecord(Arguments... arguments)
     if (!edited)
         return;
     Dialog dialog(arguments..., &edited->record, this);
-    if (dialog.exec() != QDialog::Accepted)
+    const QPointer<DesignParameter> page(this);
+    if (dialog.exec() != QDialog::Accepted || !page)
         return;
     edited = plib::rowAt(*data, row); // the rows may have been read anew meanwhile
     if (!edited)
@@ -204,7 +206,10 @@ void DesignParameter::slot_openGroups()
     plib::collectUsedGroups(*data, row, used);
     VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, DesignKey, data->doc, checked, used, nullptr,
                                this, "Group Selection");
+    const QPointer<DesignParameter> page(this);
     const int result = dialog.exec();
+    if (!page)
+        return;
     if (result == QDialog::Accepted) {
         std::vector<int> confirmed;
         dialog.getChecked(confirmed);
@@ -228,7 +233,8 @@ void DesignParameter::slot_openSekGroups()
     std::vector<int> used;
     plib::collectUsedGroups(*data, row, used);
     VKD_H_SecondaryGroupDialog dialog(data->doc, shown->groups, used, this);
-    if (dialog.exec() != QDialog::Accepted)
+    const QPointer<DesignParameter> page(this);
+    if (dialog.exec() != QDialog::Accepted || !page)
         return;
     std::vector<int> confirmed;
     dialog.getChecked(confirmed);
