@@ -4,6 +4,7 @@
 #include <AnimatorView.h>
 #include <vkd_dbo_camera.h>
 #include <vkd_dbo_model.h>
+#include <vkd_zob.h>
 
 #include <QSignalSpy>
 #include <QWheelEvent>
@@ -274,6 +275,42 @@ private Q_SLOTS:
         m_view->setPickedGroups({7, 70});
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
+    }
+
+    /// A view takes over what another one shows only if it is of the same model.
+    void otherProject()
+    {
+        AnimatorView other(m_project->index());
+        const testsupport::TemporaryProject none;
+        QVERIFY(m_view->setProject(none.index()));
+        QVERIFY(other.setProject(none.index()));
+        other.setPicking(true);
+        other.show();
+        drag(other, {other.rect().center()});
+        QCOMPARE(other.pickedGroups(), Groups());
+    }
+
+    void unreadRest()
+    {
+        const QByteArray path = m_project->doc->path().toUtf8();
+        Model model = plates();
+        model.nodes.resize(1500);
+        QVERIFY(storeModel(m_project->index(), model));
+        int index = -1;
+        QCOMPARE(vkd_zob_open(path, &index), int(VKD_ZOB_OK));
+        for (int i = 0; i < 3; ++i)
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QStringLiteral("no project is open")));
+        m_view->setPicking(true);
+        const auto closeIt = [index](int) { return vkd_zob_close(index) == VKD_ZOB_OK; };
+        QVERIFY(m_view->setProject(index, closeIt));
+        drag(*m_view, {Left});
+        QCOMPARE(m_view->pickedGroups(), Groups());
+        QCOMPARE(vkd_zob_open(path, &index), int(VKD_ZOB_OK));
+        QVERIFY(m_view->setProject(index));
+        drag(*m_view, {Left});
+        QCOMPARE(m_view->pickedGroups(), Groups{7});
+        vkd_zob_close(index);
     }
 
     /// Drawn from all sides, and the sound plate beside them is still there.

@@ -172,6 +172,41 @@ private Q_SLOTS:
         QCOMPARE(error, QString());
     }
 
+    /// The question comes between two lists, and the other one is still held off.
+    void readFromOneState()
+    {
+        int other = -1;
+        QCOMPARE(vkd_zob_open(m_path.toUtf8(), &other), int(VKD_ZOB_OK));
+        Model old;
+        old.nodes.resize(994);
+        old.supports.resize(1);
+        QVERIFY(storeModel(m_index, old));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot store")));
+        const VkdGoOn storeOther = [other](int) { return !storeModel(other, Model()); };
+        QByteArray mark;
+        QVERIFY(readModel(m_index, storeOther, &mark) == old);
+        QCOMPARE(mark, modelMark(m_index));
+        QVERIFY(storeModel(other, Model()));
+        vkd_zob_close(other);
+    }
+
+    void failureEndsTheReading()
+    {
+        Model model;
+        model.nodes.resize(1500);
+        QVERIFY(storeModel(m_index, model));
+        const QRegularExpression notOpen(QStringLiteral("no project is open"));
+        for (int i = 0; i < 3; ++i) // the record, the end of its list and that of the pass
+            QTest::ignoreMessage(QtWarningMsg, notOpen);
+        QByteArray mark("old");
+        readModel(
+            m_index, [this](int) { return vkd_zob_close(m_index) == VKD_ZOB_OK; }, &mark);
+        QVERIFY(mark.isEmpty());
+        QTest::ignoreMessage(QtWarningMsg, notOpen);
+        QVERIFY(readGroups(m_index).isEmpty());
+        QCOMPARE(vkd_zob_open(m_path.toUtf8(), &m_index), int(VKD_ZOB_OK));
+    }
+
     void damagedRecordIsLeftOut()
     {
         const QList<QPair<int, QByteArray>> records{

@@ -5,26 +5,36 @@
 namespace vkd {
 namespace aniview {
 
+namespace {
+/// The geometry that was built last and the mark of its model, which is never empty.
+struct Known
+{
+    QByteArray mark;
+    std::weak_ptr<const ModelGeometry> geometry;
+};
+} // namespace
+
 std::shared_ptr<const ModelGeometry> sharedGeometry(int index, const VkdGoOn& goOn)
 {
-    static QByteArray lastMark;
-    static std::weak_ptr<const ModelGeometry> last;
+    static Known last;
     if (index <= 0)
         return std::make_shared<ModelGeometry>();
-    const QByteArray mark = dbo::modelMark(index);
-    if (auto geometry = last.lock(); geometry && mark == lastMark)
-        return geometry;
+    if (auto known = last.geometry.lock(); known && dbo::modelMark(index) == last.mark)
+        return known;
     bool goesOn = true;
-    const dbo::Model model = dbo::readModel(index, [&goOn, &goesOn](int percent) {
-        goesOn = goesOn && (!goOn || goOn(percent));
-        return goesOn;
-    });
+    QByteArray mark;
+    const dbo::Model model = dbo::readModel(
+        index,
+        [&goOn, &goesOn](int percent) {
+            goesOn = goesOn && (!goOn || goOn(percent));
+            return goesOn;
+        },
+        &mark);
     if (!goesOn)
         return nullptr;
     auto geometry = std::make_shared<const ModelGeometry>(buildGeometry(model));
-    lastMark = mark;
-    if (!mark.isEmpty()) // else nobody knows whose it is
-        last = geometry;
+    if (!mark.isEmpty()) // else it is that of a part of a model, or of none
+        last = {mark, geometry};
     return geometry;
 }
 

@@ -168,12 +168,14 @@ VKD_DBO_EXPORT bool readModelFile(const QString& path, int language, Model* mode
 /// false.
 VKD_DBO_EXPORT bool storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
 
-/// The model of the project, empty where the project holds none. If `goOn` answered false, it is
-/// that part of the model that was read until then.
-VKD_DBO_EXPORT Model readModel(int index, const VkdGoOn& goOn = VkdGoOn());
+/// The model of the project, from one state of it; empty where the project holds none. If `goOn`
+/// answered false or the store failed, it is that part of the model that was read until then.
+/// `mark` becomes that of the model, see modelMark(), or empty if not all of the model was read.
+VKD_DBO_EXPORT Model readModel(int index, const VkdGoOn& goOn = VkdGoOn(),
+                               QByteArray* mark = nullptr);
 
 /// Some bytes that differ between any two models that were ever stored, and go with a copy of the
-/// project; empty where the project holds no model.
+/// project; empty where the project holds no model, or where it could not be read.
 VKD_DBO_EXPORT QByteArray modelMark(int index);
 
 /// The load cases alone, for those who need no more.

@@ -1,3 +1,4 @@
+#include "ModelPass.h"
 #include "recordlist.h"
 #include "vkd_dbo_groups.h"
 
@@ -22,10 +23,10 @@ constexpr ElementList elementLists[] = {
 
 /// Looks at the group alone, the second number of every element's record: taking all of the record
 /// apart would be most of the time for a large model.
-void countElements(int index, const ElementList& list, QHash<int, GroupContents>& contents)
+bool countElements(int index, const ElementList& list, QHash<int, GroupContents>& contents)
 {
     constexpr int GroupAt = sizeof(qint32);
-    forEachRecord(index, list.pair, [&](const QByteArray& bytes) {
+    return forEachRecord(index, list.pair, [&](const QByteArray& bytes) {
         if (bytes.size() < GroupAt + int(sizeof(qint32))) {
             reportDamagedRecord(index, list.pair);
             return;
@@ -38,13 +39,12 @@ void countElements(int index, const ElementList& list, QHash<int, GroupContents>
 
 QVector<GroupSummary> readGroups(int index)
 {
+    const ModelPass pass(index);
     QVector<Group> groups;
-    readList(index, keys::Groups, groups);
-    if (groups.isEmpty())
-        return {};
+    bool goesOn = pass.hasModel() && readList(index, keys::Groups, groups) && !groups.isEmpty();
     QHash<int, GroupContents> contents;
     for (const ElementList& list : elementLists)
-        countElements(index, list, contents);
+        goesOn = goesOn && countElements(index, list, contents);
     QVector<GroupSummary> summaries;
     summaries.reserve(groups.size());
     for (const Group& group : qAsConst(groups))

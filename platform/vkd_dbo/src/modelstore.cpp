@@ -1,3 +1,4 @@
+#include "ModelPass.h"
 #include "recordlist.h"
 #include "vkd_dbo_queries.h"
 
@@ -12,6 +13,8 @@ namespace dbo {
 namespace {
 Q_LOGGING_CATEGORY(lcModel, "vkd.dbo")
 
+constexpr int FirstGuess = 1024; // bytes; longer records are rare
+
 template <typename T>
 QVector<QByteArray> toRecords(const QVector<T>& things)
 {
@@ -24,10 +27,11 @@ QVector<QByteArray> toRecords(const QVector<T>& things)
     return records;
 }
 
-SystemInformation readSystem(int index)
+SystemInformation systemOf(int index, const ModelPass& pass)
 {
     QVector<SystemInformation> systems;
-    readList(index, keys::System, systems);
+    if (pass.hasModel())
+        addThing(index, keys::System, pass.system(), systems);
     return systems.isEmpty() ? SystemInformation() : systems.first();
 }
 } // namespace
@@ -45,24 +49,33 @@ bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records, Vkd
     return done;
 }
 
-void forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit,
+cd_error_t getRecord(int index, KeyPair pair, int position, QByteArray* record)
+{
+    for (int size = FirstGuess;; size *= 2) {
+        record->resize(size);
+        int length = size;
+        const cd_error_t status =
+            vkd_zob_get(index, pair.key1, pair.key2, record->data(), &length, position);
+        if (status == VKD_ZOB_CUT)
+            continue;
+        record->resize(status == VKD_ZOB_OK ? length : 0);
+        return status;
+    }
+}
+
+bool forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit,
                    VkdSteps* steps)
 {
-    QByteArray buffer(1024, Qt::Uninitialized);
-    for (int position = 0; !steps || steps->next();) {
-        int length = buffer.size();
-        const cd_error_t status =
-            vkd_zob_get(index, pair.key1, pair.key2, buffer.data(), &length, position);
-        if (status > VKD_ZOB_CUT)
-            break;
-        if (status == VKD_ZOB_CUT) {
-            buffer.resize(2 * buffer.size());
-            continue;
-        }
-        visit(QByteArray(buffer.constData(), length));
-        ++position;
+    QByteArray record;
+    record.reserve(FirstGuess);
+    cd_error_t status = VKD_ZOB_OK;
+    for (int position = 0; status == VKD_ZOB_OK && (!steps || steps->next()); ++position) {
+        status = getRecord(index, pair, position, &record);
+        if (status == VKD_ZOB_OK)
+            visit(record);
     }
     vkd_zob_free_ex(index, pair.key1, pair.key2);
+    return status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
 }
 
 void reportDamagedRecord(int index, KeyPair pair)
@@ -99,12 +112,19 @@ QByteArray modelMark(int index)
     return mark;
 }
 
-Model readModel(int index, const VkdGoOn& goOn)
+Model readModel(int index, const VkdGoOn& goOn, QByteArray* mark)
 {
     VkdSteps steps(goOn);
     Model model;
-    model.system = readSystem(index);
-    forEachList(model, [&](KeyPair pair, auto& things) { readList(index, pair, things, &steps); });
+    const ModelPass pass(index);
+    model.system = systemOf(index, pass);
+    bool isWhole = pass.hasModel();
+    // After a failure the others would only fail as well, each after the store's whole patience.
+    forEachList(model, [&](KeyPair pair, auto& things) {
+        isWhole = isWhole && readList(index, pair, things, &steps);
+    });
+    if (mark)
+        *mark = isWhole ? pass.system() : QByteArray();
     return model;
 }
 
@@ -117,7 +137,7 @@ QVector<LoadCase> readLoadCases(int index)
 
 int getKindOfSystem(int index, structKindSystem*)
 {
-    return readSystem(index).kindOfSystem;
+    return systemOf(index, ModelPass(index)).kindOfSystem;
 }
 
 } // namespace dbo
