@@ -89,6 +89,7 @@ private Q_SLOTS:
 "title": {"german": "t"} => title: the key "english" is missing
 "groups": [{"number": 1, "titel": "t"}] => groups[0]: unknown key "titel"
 "groups": {} => groups: a list is needed
+"groups": [{"number": 1000, "title": "t"}] => groups[0].number: a number of 999 or less is needed
 "nodes": oh => line 1, column 11: illegal number
 "nodes": [[1, 0, 0, 0], [1, 0, 0, 1]] => nodes[1][0]: the number 1 stands here twice
 "nodes": [[0, 0, 0, 0]] => nodes[0][0]: a number of 1 or more is needed
@@ -120,7 +121,7 @@ private Q_SLOTS:
              "designParameters[0].groups[1]: group 1 does not exist or stands here twice"}};
         for (const auto& one : inside)
             QCOMPARE(errorOf(QLatin1String(one.first)), QLatin1String(one.second));
-        for (const char* name : {"ABCDE", "", "12", "A;B", "Ä"}) {
+        for (const char* name : {"ABCDE", "", "12", "A;B", "Ä", "AB\\n"}) {
             const QString text =
                 QStringLiteral(R"("secondaryGroups": [{"name": "%1", "title": "t"}])");
             QVERIFY2(errorOf(text.arg(QString::fromUtf8(name)))

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <future>
 #include <numeric>
 
@@ -17,6 +18,8 @@ namespace vkd {
 namespace dbo {
 
 namespace {
+constexpr int MostGroup = 999; // far below the packed names of secondary groups
+
 /// What a number may be one of. Translated when it is told that there is no such thing.
 namespace ThingNames {
 constexpr char Node[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "node");
@@ -49,7 +52,7 @@ private:
     template <typename T, typename ReadOne>
     void each(const char* key, QVector<T>& things, ReadOne readOne);
     template <typename T>
-    void titled(const char* key, QVector<T>& things, Numbers* numbers);
+    void titled(const char* key, QVector<T>& things, Numbers* numbers, int most = INT_MAX);
     void lineElements(const char* key, QVector<LineElement>& elements, Numbers* numbers);
     void outlines(const char* key, QVector<Outline>& outlines, int least, int most);
     void polylines(const char* key, QVector<Polyline>& lines);
@@ -91,7 +94,7 @@ int fixedDirections(const JsonPlace& place)
 /// A name is packed into the four bytes of a group number, and users write it beside numbers.
 bool isGroupName(const QString& name)
 {
-    static const QRegularExpression form(QStringLiteral("^(?=.*[A-Za-z])[A-Za-z0-9]{1,4}$"));
+    static const QRegularExpression form(QStringLiteral("\\A(?=.*[A-Za-z])[A-Za-z0-9]{1,4}\\z"));
     return form.match(name).hasMatch();
 }
 
@@ -134,11 +137,14 @@ void ModelFileReader::each(const char* key, QVector<T>& things, ReadOne readOne)
 }
 
 template <typename T>
-void ModelFileReader::titled(const char* key, QVector<T>& things, Numbers* numbers)
+void ModelFileReader::titled(const char* key, QVector<T>& things, Numbers* numbers, int most)
 {
     each(key, things, [&](const JsonPlace& place, T& thing) {
         place.checkKeys({QStringLiteral("number"), QStringLiteral("title")}, {});
-        thing.number = unique(place.at(QStringLiteral("number")), *numbers);
+        const JsonPlace number = place.at(QStringLiteral("number"));
+        thing.number = unique(number, *numbers);
+        if (thing.number > most)
+            number.fail(ModelFileError::tr("a number of %1 or less is needed").arg(most));
         thing.title = place.at(QStringLiteral("title")).title(m_language);
     });
 }
@@ -148,7 +154,7 @@ void ModelFileReader::readSystem()
     m_model.system.title = m_root.at(QStringLiteral("title")).title(m_language);
     m_model.system.kindOfSystem = m_root.at(QStringLiteral("kindOfSystem")).integer();
     titled("crossSections", m_model.crossSections, &m_sections);
-    titled("groups", m_model.groups, &m_groups);
+    titled("groups", m_model.groups, &m_groups, MostGroup);
     each("nodes", m_model.nodes, [this](const JsonPlace& place, Node& node) {
         const auto values = place.list(4, 4);
         node.number = unique(values[0], m_nodes);

@@ -106,5 +106,9 @@
         <source>line %1, column %2</source>
         <translation>Zeile %1, Spalte %2</translation>
     </message>
+    <message>
+        <source>a number of %1 or less is needed</source>
+        <translation>eine Zahl bis %1 wird gebraucht</translation>
+    </message>
 </context>
 </TS>
