@@ -6,6 +6,7 @@
 #include <vkd_dbo_model.h>
 #include <vkd_zob.h>
 
+#include <QDialog>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -173,6 +174,50 @@ private Q_SLOTS:
         const QString before = textOf(*m_view);
         send(*m_view, QEvent::MouseMove, Right, Qt::LeftButton);
         QCOMPARE(textOf(*m_view), before);
+    }
+
+    void releaseElsewhere()
+    {
+        m_view->setHovering(true);
+        const QString before = textOf(*m_view);
+        send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
+        send(*m_view, QEvent::MouseMove, Right, Qt::NoButton);
+        QCOMPARE(textOf(*m_view), before);
+        send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
+        QDialog box;
+        box.setModal(true);
+        box.show();
+        send(*m_view, QEvent::MouseMove, Right, Qt::LeftButton);
+        QCOMPARE(textOf(*m_view), before);
+        box.hide();
+        send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
+        drag(*m_view, {Left, Right}, Qt::RightButton); // moves, whatever came of the left one
+        const Camera after = cameraOf(*m_view);
+        QVERIFY(after.eye[0] == 0.0 && after.centre[0] < 0.0);
+    }
+
+    /// Of those who are told, anyone may delete the view.
+    void deletedByListener()
+    {
+        m_view->setPicking(true);
+        connect(m_view.get(), &AnimatorView::pickedGroupsChanged, [this] { m_view.reset(); });
+        drag(*m_view, {Left});
+        QVERIFY(!m_view);
+        m_view = viewOf(plates());
+        m_view->setPicking(true);
+        connect(m_view.get(), &AnimatorView::groupHovered, [this] { m_view.reset(); });
+        drag(*m_view, {Left});
+        QVERIFY(!m_view);
+    }
+
+    void litGroup()
+    {
+        const auto picture = [this] { return m_view->grab().toImage(); };
+        const QImage plain = picture();
+        m_view->setHighlightedGroup(7);
+        QVERIFY(picture() != plain);
+        m_view->setHighlightedGroup(99); // without elements
+        QVERIFY(picture() == plain);
     }
 
     void picking()

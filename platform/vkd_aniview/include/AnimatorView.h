@@ -71,6 +71,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -98,6 +99,7 @@ private:
 
     void drag(const QPoint& by);
     void endDrag();
+    void endLostDrag(const QMouseEvent& event);
     void click(const QPoint& place);
     void hoverAt(const QPointF& place);
     void hover(int group);

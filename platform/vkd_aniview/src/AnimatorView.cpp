@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <cmath>
 
@@ -51,9 +52,9 @@ bool AnimatorView::setProject(int index, const VkdGoOn& goOn)
         return false;
     m_index = index;
     m_scene->setGeometry(std::move(geometry));
-    hover(NoGroup);
     updateCursor();
     showMarks();
+    hover(NoGroup);
     return true;
 }
 
@@ -73,9 +74,9 @@ void AnimatorView::setPicking(bool picking)
         return;
     endDrag();
     setMouseTracking(isHovering());
-    hover(NoGroup);
     setTexts();
     showMarks();
+    hover(NoGroup);
 }
 
 void AnimatorView::setHovering(bool hovering)
@@ -142,6 +143,13 @@ void AnimatorView::changeEvent(QEvent* event)
     }
 }
 
+bool AnimatorView::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked) // the modal window takes the release
+        endDrag();
+    return QWidget::event(event);
+}
+
 void AnimatorView::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
@@ -178,6 +186,7 @@ void AnimatorView::mouseDoubleClickEvent(QMouseEvent* event)
 
 void AnimatorView::mouseMoveEvent(QMouseEvent* event)
 {
+    endLostDrag(*event);
     if (m_hand == Hand::Free) {
         hoverAt(event->localPos());
         return;
@@ -193,6 +202,7 @@ void AnimatorView::mouseMoveEvent(QMouseEvent* event)
 
 void AnimatorView::mousePressEvent(QMouseEvent* event)
 {
+    endLostDrag(*event);
     const Qt::MouseButton button = event->button();
     const bool pans = button == Qt::RightButton || button == Qt::MiddleButton ||
                       event->modifiers() & Qt::ShiftModifier;
@@ -211,9 +221,10 @@ void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
         return;
     const bool picks = m_isClick && isPicking() && m_hand == Hand::Turning;
     endDrag();
-    if (picks)
-        click(event->pos());
+    const QPointer<AnimatorView> view(this); // who is told of either may delete it
     hoverAt(event->localPos());
+    if (picks && view)
+        click(event->pos());
 }
 
 void AnimatorView::paintEvent(QPaintEvent*)
@@ -323,6 +334,14 @@ void AnimatorView::endDrag()
     m_hand = Hand::Free;
     m_button = Qt::NoButton;
     updateCursor();
+}
+
+/// Somebody else may have taken the release of the button that began the drag.
+void AnimatorView::endLostDrag(const QMouseEvent& event)
+{
+    const bool isUp = !(event.buttons() & m_button);
+    if (m_hand != Hand::Free && (isUp || event.button() == m_button))
+        endDrag();
 }
 
 void AnimatorView::click(const QPoint& place)

@@ -58,9 +58,11 @@ GroupColours::GroupColours(const QPalette& palette, const std::vector<int>& grou
     , m_background(palette.color(QPalette::Active, QPalette::Base))
     , m_highlight(palette.color(QPalette::Active, QPalette::Highlight))
 {
+    const bool isAnyLit = std::any_of(groups.begin(), groups.end(),
+                                      [&marks](int group) { return marks.isLit(group); });
     m_sets.reserve(groups.size());
     for (size_t i = 0; i < groups.size(); ++i)
-        m_sets.push_back(makeSet(int(i), marks.markOf(groups[i]), meshStrength));
+        m_sets.push_back(makeSet(int(i), marks.markOf(groups[i], isAnyLit), meshStrength));
 }
 
 GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double meshStrength) const

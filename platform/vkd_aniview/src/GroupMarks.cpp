@@ -40,17 +40,20 @@ void GroupMarks::toggle(int group)
         m_picked.insert(place, group);
 }
 
-GroupMark GroupMarks::markOf(int group) const
+bool GroupMarks::isLit(int group) const
 {
-    const bool isLit = group == m_highlighted || group == m_hovered;
+    return group == m_highlighted || group == m_hovered;
+}
+
+GroupMark GroupMarks::markOf(int group, bool isAnyLit) const
+{
     if (m_isPicking && isPicked(group))
-        return isLit ? GroupMark::PickedLit : GroupMark::Picked;
-    if (isLit)
+        return isLit(group) ? GroupMark::PickedLit : GroupMark::Picked;
+    if (isLit(group))
         return GroupMark::Lit;
     if (m_isPicking && !m_picked.empty())
         return GroupMark::Pale;
-    const bool isOtherLit = m_highlighted != NoGroup || m_hovered != NoGroup;
-    return isOtherLit ? GroupMark::Dimmed : GroupMark::None;
+    return isAnyLit ? GroupMark::Dimmed : GroupMark::None;
 }
 
 bool GroupMarks::isPicked(int group) const

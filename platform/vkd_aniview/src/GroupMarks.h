@@ -25,8 +25,10 @@ public:
     int hovered() const { return m_hovered; }
     const std::vector<int>& picked() const { return m_picked; } ///< ascending, each once
 
-    /// How a group looks. Picked groups show while picking only.
-    GroupMark markOf(int group) const;
+    bool isLit(int group) const;
+    /// How a group looks when one of those in the picture is lit, or none. Picked groups show while
+    /// picking only.
+    GroupMark markOf(int group, bool isAnyLit) const;
 
 private:
     bool isPicked(int group) const;
