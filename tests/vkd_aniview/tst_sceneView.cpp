@@ -211,6 +211,20 @@ private Q_SLOTS:
         QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 7, 0})), 1);
     }
 
+    /// A small face among many bars does not make them all many.
+    void fewFaces()
+    {
+        Model model = storey();
+        for (vkd::dbo::Node& node : model.nodes)
+            node.position = along({}, 0.001, node.position);
+        for (int i = 0; i <= 40000; ++i)
+            model.nodes.push_back({100 + i, {double(i), double(i % 7), 1.0}});
+        for (int i = 0; i < 40000; ++i)
+            model.beams.push_back({100 + i, 5, 1, {100 + i, 101 + i}});
+        const size_t lines = buildGeometry(model).lines.size();
+        QVERIFY(lines >= 40002 && lines < 60000);
+    }
+
     void triangle()
     {
         Model model = squares();

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <utility>
 
 namespace vkd {
 namespace aniview {
@@ -12,7 +14,9 @@ namespace aniview {
 namespace {
 /// Farther away than anything that is built; beyond, squares of lengths lose their meaning.
 constexpr double Nowhere = 1e9;
-constexpr int MostPieces = 32;
+constexpr int MostPieces = 32; // of a line
+constexpr size_t PiecesInAll = 10000;
+constexpr size_t PiecesToFace = 4; // and more for each face
 
 bool isSomewhere(const Position& position)
 {
@@ -38,6 +42,7 @@ ModelGeometry GeometryBuilder::build()
     addLines(m_model.beams, LineKind::Beam);
     addLines(m_model.trusses, LineKind::Truss);
     addLines(m_model.cables, LineKind::Cable);
+    splitLines();
     addSprings();
     addSupports();
     numberGroups();
@@ -103,16 +108,33 @@ void GeometryBuilder::addLines(const QVector<dbo::LineElement>& elements, LineKi
         line.group = element.group;
         line.kind = kind;
         if (takePoints(element.nodes, 2, line.points))
-            addSplit(line);
+            m_geometry.lines.push_back(line);
     }
 }
 
-/// A line that passes many faces is partly in front of them and partly behind.
-void GeometryBuilder::addSplit(const Line& line)
+/// A line that passes many faces is partly in front of them and partly behind. Few faces are not
+/// worth many pieces: a single small one would make a frame of thousands of bars slow to draw.
+void GeometryBuilder::splitLines()
+{
+    const std::vector<Line> lines = std::exchange(m_geometry.lines, {});
+    const auto isLong = [this](const Line& line) { return wantedPieces(line) > 1; };
+    const auto longLines = std::count_if(lines.begin(), lines.end(), isLong);
+    const auto worth = ptrdiff_t(PiecesInAll + PiecesToFace * m_geometry.faces.size());
+    const int most =
+        1 + int(std::min<ptrdiff_t>(worth / std::max<ptrdiff_t>(longLines, 1), MostPieces));
+    for (const Line& line : lines)
+        addSplit(line, std::min(wantedPieces(line), most));
+}
+
+int GeometryBuilder::wantedPieces(const Line& line) const
 {
     const double length = lengthOf(line.points[0], line.points[1]);
     const double wanted = m_cell > 0 ? std::ceil(length / (1.5 * m_cell)) : 1.0;
-    const int pieces = int(qBound(1.0, wanted, double(MostPieces)));
+    return int(qBound(1.0, wanted, double(MostPieces)));
+}
+
+void GeometryBuilder::addSplit(const Line& line, int pieces)
+{
     const Position from = m_positions[size_t(line.points[0])];
     const Position way = along(m_positions[size_t(line.points[1])], -1.0, from);
     Line piece = line;

@@ -25,7 +25,9 @@ private:
     void addBricks();
     void addFace(const int* nodes, int count, int group, double thickness);
     void addLines(const QVector<dbo::LineElement>& elements, LineKind kind);
-    void addSplit(const Line& line);
+    void splitLines();
+    void addSplit(const Line& line, int pieces);
+    int wantedPieces(const Line& line) const;
     void addSprings();
     void addSupports();
 
