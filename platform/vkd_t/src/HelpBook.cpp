@@ -22,6 +22,11 @@ QString languageFolder(int language)
     return language == 0 ? QStringLiteral("de") : QStringLiteral("en");
 }
 
+QString pageFile(const QString& topic)
+{
+    return topic.toLower() + QLatin1String(".html");
+}
+
 /// The folder of a book in a language, or nothing.
 QString folderOf(const QString& book, int language)
 {
@@ -67,7 +72,7 @@ int HelpBook::find(const QUrl& addressOfPage) const
 
 QUrl HelpBook::address(int topic) const
 {
-    return QUrl(QStringLiteral("help:/%1/%2.html").arg(m_name, m_topics[topic].name.toLower()));
+    return QUrl(QStringLiteral("help:/%1/%2").arg(m_name, pageFile(m_topics[topic].name)));
 }
 
 QString HelpBook::page(int topic) const
@@ -86,7 +91,7 @@ void HelpBook::readIndex()
     for (const QString& line : lines) {
         const int bar = line.indexOf(QLatin1Char('|'));
         const QString name = line.left(bar).trimmed();
-        if (bar > 0 && isName(name))
+        if (bar > 0 && isName(name) && !read(pageFile(name)).isEmpty())
             m_topics.append({name, line.mid(bar + 1).trimmed()});
     }
 }

@@ -19,7 +19,8 @@ public:
 
     HelpBook() = default;
     /// Reads the index for a language, 0 German or 1 English, or else for the other one. Without
-    /// any there are no topics. The name is compared without case.
+    /// any there are no topics, and a topic without a page that can be read is none. The name is
+    /// compared without case.
     HelpBook(const QString& name, int language);
 
     const QString& name() const { return m_name; }

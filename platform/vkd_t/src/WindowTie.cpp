@@ -39,23 +39,28 @@ bool WindowTie::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_window && event->type() == QEvent::WindowBlocked)
         QTimer::singleShot(0, this, &WindowTie::followModal); // the dialog is still being shown
-    if (watched == m_host && event->type() == QEvent::Hide && m_next)
-        setHost(m_next);
+    if (event->type() == QEvent::Hide && m_hosts.size() > 1 && watched == m_hosts.first())
+        drop(m_hosts.first());
     return QObject::eventFilter(watched, event);
 }
 
 void WindowTie::setHost(QWidget* host)
 {
-    if (m_host) {
-        m_host->removeEventFilter(this);
-        disconnect(m_host, nullptr, this, nullptr);
+    for (QWidget* before : qAsConst(m_hosts))
+        forget(before);
+    m_hosts.clear();
+    for (QWidget* next = host; next; next = windowOf(next->parentWidget())) {
+        m_hosts.append(next);
+        connect(next, &QObject::destroyed, this, [this, next] { drop(next); });
     }
-    m_host = host;
-    m_next = host ? windowOf(host->parentWidget()) : nullptr;
-    if (host) {
+    tieToHost();
+}
+
+void WindowTie::tieToHost()
+{
+    QWidget* host = m_hosts.value(0);
+    if (host)
         host->installEventFilter(this);
-        connect(host, &QObject::destroyed, this, &WindowTie::hostDestroyed);
-    }
     nativeWindow(m_window)->setTransientParent(nativeWindow(host));
 }
 
@@ -65,10 +70,19 @@ void WindowTie::followModal()
         setHost(modal->window());
 }
 
-void WindowTie::hostDestroyed()
+void WindowTie::drop(QWidget* gone)
 {
-    if (m_next)
-        setHost(m_next);
-    else
+    const bool wasHost = gone == m_hosts.first();
+    forget(gone);
+    m_hosts.removeOne(gone);
+    if (m_hosts.isEmpty())
         m_window->close();
+    else if (wasHost)
+        tieToHost();
+}
+
+void WindowTie::forget(QWidget* window)
+{
+    window->removeEventFilter(this);
+    disconnect(window, nullptr, this, nullptr);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
+#include <QVector>
 #include <QWidget>
 
 /// Makes a window without a parent the child window of another one, its host, for the window
@@ -25,10 +25,13 @@ public:
 
 private:
     void setHost(QWidget* host);
+    void tieToHost();
     void followModal();
-    void hostDestroyed();
+    void drop(QWidget* gone);
+    void forget(QWidget* window);
 
     QWidget* m_window;
-    QPointer<QWidget> m_host;
-    QPointer<QWidget> m_next; ///< kept here because a dying host knows its parent no more
+    /// The host and, in turn, the windows that it belongs to: they may die together, and then none
+    /// of them can be asked for its parent.
+    QVector<QWidget*> m_hosts;
 };
