@@ -152,7 +152,30 @@ private Q_SLOTS:
         QCOMPARE(own->accessibleName(), QStringLiteral("Entry 1"));
         page.group->init(entries(1));
         QCOMPARE(page.group->selectedButton(), -1);
-        QVERIFY(!own && !page.radio(1) && !page.group->getRadioButton(1));
+        QVERIFY(!page.radio(1) && !page.group->getRadioButton(1));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!own);
+    }
+
+    /// Whoever is told of a choice takes away the field whose use led to it.
+    void otherEntriesWhileAFieldIsUsed()
+    {
+        for (bool byEntries : {true, false}) {
+            const Page page;
+            const QPointer<QLineEdit> own = page.own;
+            connect(page.group, &VKD_QT_RadioButtonGroup::buttWasClicked, page.group, [&] {
+                if (byEntries)
+                    page.group->init(entries(1));
+                else
+                    page.group->setWidget(1, new QLineEdit);
+            });
+            own->setFocus();
+            Page::key(Qt::Key_5);
+            QVERIFY(own && !own->isVisible() && own->text().isEmpty());
+            QCOMPARE(page.group->selectedButton(), byEntries ? -1 : 1);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(!own);
+        }
     }
 };
 

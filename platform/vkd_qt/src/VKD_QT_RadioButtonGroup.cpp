@@ -7,6 +7,9 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 /// Keys that write, delete, or move within a widget.
 bool isInput(int key)
@@ -28,6 +31,16 @@ bool isUse(const QWidget& widget, QEvent* event)
     case QEvent::Wheel: return widget.hasFocus();
     default: return false;
     }
+}
+
+/// The widget may be in the middle of an event, out of which came what makes it go.
+void dismiss(QWidget* widget)
+{
+    if (!widget)
+        return;
+    widget->setObjectName(QString()); // nobody is to find it in place of the one that follows
+    widget->hide();
+    widget->deleteLater();
 }
 } // namespace
 
@@ -68,12 +81,13 @@ void VKD_QT_RadioButtonGroup::setWidget(int entry, QWidget* widget)
     if (!isEntry(entry) || m_items[entry].flag != StructRadioButtonGrup::WithWidget ||
         m_widgets[entry] == widget)
         return;
-    delete m_widgets[entry];
+    const QPointer<QWidget> before = m_widgets[entry];
     m_widgets[entry] = widget;
     if (widget)
         watch(widget);
     describe(entry);
     arrange();
+    dismiss(before);
 }
 
 int VKD_QT_RadioButtonGroup::selectedButton() const
@@ -107,9 +121,12 @@ bool VKD_QT_RadioButtonGroup::eventFilter(QObject* watched, QEvent* event)
     if (!widget || !isUse(*widget, event))
         return VKD_QT_GroupBox::eventFilter(watched, event);
     for (int entry = 0; isEntry(entry); ++entry) {
-        const QWidget* own = m_widgets[entry];
-        if (own && (own == widget || own->isAncestorOf(widget)) && entry != selectedButton())
-            m_radios[entry]->click();
+        const QPointer<QWidget> own = m_widgets[entry];
+        if (!own || (own != widget && !own->isAncestorOf(widget)) || entry == selectedButton())
+            continue;
+        const QPointer<QWidget> used = widget;
+        m_radios[entry]->click(); // who is told may take the widget away, and then nobody uses it
+        return !used || std::find(m_widgets.begin(), m_widgets.end(), own) == m_widgets.end();
     }
     return false;
 }
@@ -132,10 +149,13 @@ void VKD_QT_RadioButtonGroup::addButton()
 
 void VKD_QT_RadioButtonGroup::removeLastButton()
 {
-    delete m_radios.back();
-    delete m_widgets.back();
+    QRadioButton* radio = m_radios.back();
+    const QPointer<QWidget> widget = m_widgets.back();
     m_radios.pop_back();
     m_widgets.pop_back();
+    m_buttons->removeButton(radio);
+    dismiss(radio);
+    dismiss(widget);
 }
 
 void VKD_QT_RadioButtonGroup::describe(int entry)
@@ -147,7 +167,7 @@ void VKD_QT_RadioButtonGroup::describe(int entry)
     radio->setWhatsThis(item.whatsThis);
     radio->setAccessibleName(item.text.isEmpty() ? item.toolTip : QString());
     if (item.flag != StructRadioButtonGrup::WithWidget)
-        delete m_widgets[entry];
+        dismiss(std::exchange(m_widgets[entry], nullptr));
     QWidget* widget = m_widgets[entry];
     while (widget && widget->focusProxy())
         widget = widget->focusProxy();
