@@ -1,6 +1,7 @@
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
+#include <VKD_H_Dialog.h>
 #include <VKD_H_LineEdit.h>
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Dialog.h>
@@ -9,6 +10,7 @@
 
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QTabWidget>
 
 #include <cmath>
 #include <cstring>
@@ -129,6 +131,30 @@ private Q_SLOTS:
         QTest::keyClick(dialog.second, Qt::Key_Delete);
         QTest::keyClick(dialog.second, Qt::Key_Backtab);
         QCOMPARE(dialog.second->getVal(), NotSet);
+    }
+
+    /// OK leads to a refused field if there is a way to it.
+    void refusedOutOfSight()
+    {
+        VKD_H_Dialog dialog;
+        auto tabs = new QTabWidget(&dialog);
+        auto options = new QWidget(tabs), back = new QWidget(tabs);
+        VKD_H_LineEdit* edit = field(options, Distance);
+        tabs->addTab(back, QStringLiteral("back"));
+        tabs->addTab(options, QStringLiteral("front"));
+        edit->setText(QStringLiteral("abc"));
+        dialog.show();
+        dialog.accept();
+        QVERIFY(dialog.isVisible() && edit->isVisible());
+        tabs->setCurrentWidget(back);
+        edit->hide();
+        dialog.accept();
+        QVERIFY(!dialog.isVisible());
+        dialog.show();
+        edit->show();
+        tabs->setTabVisible(1, false);
+        dialog.accept();
+        QVERIFY(!dialog.isVisible());
     }
 
     /// Neither Enter nor leaving the field lets refused text pass for a value.

@@ -35,8 +35,12 @@ public:
     /// Why the text that stands in the field is refused, in the language of the desktop; empty if
     /// it is not.
     QString refusal() const;
-    /// The first enabled field on `page` whose text is refused, null if there is none. It gets the
-    /// focus and shows why. For dialogs that close only when every field is read.
+    /// Takes the focus and shows why the text is refused. Brings the tab forward that the field is
+    /// on.
+    void showRefusal();
+    /// The first enabled field on `page` whose text is refused, null if there is none. Fields that
+    /// are hidden do not count, unless on another tab. It shows its refusal. For dialogs that close
+    /// only when every field is read.
     static VKD_H_LineEdit* showFirstRefused(QWidget* page);
 
     /// Room for a number of nine characters and what stands around it.

@@ -2,6 +2,7 @@
 
 #include "fieldMark.h"
 #include "FieldMessage.h"
+#include "reachOfField.h"
 #include "refusalText.h"
 #include "vkd_h_numberText.h"
 
@@ -79,15 +80,21 @@ QString VKD_H_LineEdit::refusal() const
     return refusalText(reading.state, quoted(text()), m_description);
 }
 
+void VKD_H_LineEdit::showRefusal()
+{
+    bringTabForward(this);
+    setFocus();
+    setMark(refusal());
+    showMessage();
+}
+
 VKD_H_LineEdit* VKD_H_LineEdit::showFirstRefused(QWidget* page)
 {
     const QList<VKD_H_LineEdit*> fields = page->findChildren<VKD_H_LineEdit*>();
     for (VKD_H_LineEdit* field : fields) {
-        if (!field->isEnabled() || field->refusal().isEmpty())
+        if (!field->isEnabled() || field->refusal().isEmpty() || !isReachable(field, page))
             continue;
-        field->setFocus();
-        field->setMark(field->refusal());
-        field->showMessage();
+        field->showRefusal();
         return field;
     }
     return nullptr;

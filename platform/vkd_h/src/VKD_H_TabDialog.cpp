@@ -6,13 +6,9 @@
 
 void VKD_H_TabDialog::accept()
 {
-    for (int number = 0; number < tabWidget()->count(); ++number) {
-        QWidget* page = tabWidget()->widget(number);
-        if (!VKD_H_LineEdit::showFirstRefused(page))
-            continue;
-        tabWidget()->setCurrentWidget(page);
-        VKD_H_LineEdit::showFirstRefused(page); // on a hidden page it could not be shown
-        return;
-    }
+    for (int number = 0; number < tabWidget()->count(); ++number)
+        if (tabWidget()->isTabVisible(number) &&
+            VKD_H_LineEdit::showFirstRefused(tabWidget()->widget(number)))
+            return;
     VKD_QT_TabDialog::accept();
 }

@@ -1,0 +1,38 @@
+#include "reachOfField.h"
+
+#include <QTabWidget>
+
+namespace {
+/// The tabs that the widget is a page of, or null.
+QTabWidget* tabsOf(const QWidget* widget)
+{
+    const QWidget* stack = widget->parentWidget();
+    auto tabs = stack ? qobject_cast<QTabWidget*>(stack->parentWidget()) : nullptr;
+    return tabs && tabs->indexOf(const_cast<QWidget*>(widget)) >= 0 ? tabs : nullptr;
+}
+
+/// What has never been shown is not hidden for that: its tab has not been opened yet.
+bool isTakenAway(const QWidget* widget)
+{
+    return widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+} // namespace
+
+bool isReachable(const QWidget* field, const QWidget* page)
+{
+    for (const QWidget* part = field; part != page; part = part->parentWidget()) {
+        const QTabWidget* tabs = tabsOf(part);
+        const bool isAway = tabs ? !tabs->isTabVisible(tabs->indexOf(const_cast<QWidget*>(part)))
+                                 : isTakenAway(part);
+        if (isAway || part->isWindow())
+            return false;
+    }
+    return true;
+}
+
+void bringTabForward(QWidget* field)
+{
+    for (QWidget* part = field; !part->isWindow(); part = part->parentWidget())
+        if (QTabWidget* tabs = tabsOf(part))
+            tabs->setCurrentWidget(part);
+}
