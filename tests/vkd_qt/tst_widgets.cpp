@@ -66,6 +66,31 @@ private Q_SLOTS:
         }
     }
 
+    /// Not from one that a class above did not let it take, nor after it was given up.
+    void dialogComesBackFromNoDetour()
+    {
+        struct : VKD_QT_Dialog
+        {
+            void done(int result) override
+            {
+                if (!staysOpen)
+                    VKD_QT_Dialog::done(result);
+            }
+            bool staysOpen = true;
+        } dialog;
+        const QSignalSpy reopened(&dialog, &VKD_QT_Dialog::isReOpen);
+        for (bool vetoed : {true, false}) {
+            dialog.show();
+            dialog.staysOpen = vetoed;
+            dialog.callDone(5);
+            QCOMPARE(dialog.isVisible(), vetoed);
+            dialog.staysOpen = false;
+            dialog.reject();
+            dialog.show();
+            QCOMPARE(reopened.size(), 0);
+        }
+    }
+
     void boxLeftByEscape()
     {
         const auto answer = [](Qt::Key key) {

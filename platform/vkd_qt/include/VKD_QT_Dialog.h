@@ -18,6 +18,8 @@ public:
     /// Closes the dialog for a detour; exec() returns `result`.
     virtual void callDone(int result);
 
+    void done(int result) override;
+
 Q_SIGNALS:
     /// The dialog is shown again after callDone() with this result. Not sent for a dialog that was
     /// closed in any other way in between.
@@ -27,6 +29,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    bool m_isLeaving = false; ///< within callDone(), before anything has closed the dialog
     bool m_isAway = false;
     int m_detour = 0;
 };

@@ -1,6 +1,9 @@
 #include "VKD_QT_Dialog.h"
 
+#include <QPointer>
 #include <QShowEvent>
+
+#include <utility>
 
 VKD_QT_Dialog::VKD_QT_Dialog(QWidget* parent, const char* name, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::WindowCloseButtonHint)
@@ -11,9 +14,18 @@ VKD_QT_Dialog::VKD_QT_Dialog(QWidget* parent, const char* name, Qt::WindowFlags 
 
 void VKD_QT_Dialog::callDone(int result)
 {
-    m_isAway = true;
+    const QPointer<VKD_QT_Dialog> self = this;
+    m_isLeaving = true;
     m_detour = result;
     done(result);
+    if (self)
+        m_isLeaving = false; // a class above may have kept the dialog open
+}
+
+void VKD_QT_Dialog::done(int result)
+{
+    m_isAway = std::exchange(m_isLeaving, false);
+    QDialog::done(result);
 }
 
 /// Who comes by the keyboard sees at once where the focus is, as in the window before.
