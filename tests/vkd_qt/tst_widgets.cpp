@@ -200,6 +200,30 @@ private Q_SLOTS:
         QVERIFY(button.sizeHint().width() <= narrow);
     }
 
+    /// With a button over each cell of a column a change would otherwise ask for all of them.
+    void cellButtonPassesOverOtherCells()
+    {
+        struct Item : QTableWidgetItem
+        {
+            QVariant data(int role) const override
+            {
+                asked += role == Qt::DisplayRole;
+                return QTableWidgetItem::data(role);
+            }
+            mutable int asked = 0;
+        };
+        QTableWidget table(2, 2);
+        auto item = new Item;
+        table.setItem(0, 1, item);
+        const VKD_QT_TableWidgetButton button(&table, item, VKD_QT_TableWidgetButton::MarkOnly);
+        item->asked = 0;
+        for (const QPoint cell : {QPoint(0, 0), QPoint(1, 1)})
+            table.setItem(cell.y(), cell.x(), new QTableWidgetItem(QStringLiteral("x")));
+        QCOMPARE(item->asked, 0);
+        item->setText(QStringLiteral("y"));
+        QVERIFY(button.accessibleName().endsWith(QLatin1String(": y")));
+    }
+
     void titleOfABoxIsNotCut()
     {
         const QString title =

@@ -20,6 +20,12 @@ QString elided(const QString& text, const QFontMetrics& metrics, int width)
     return lines.join(QLatin1Char('\n'));
 }
 
+bool isWithin(const QPersistentModelIndex& cell, const QModelIndex& first, const QModelIndex& last)
+{
+    return cell.row() >= first.row() && cell.row() <= last.row() &&
+           cell.column() >= first.column() && cell.column() <= last.column();
+}
+
 /// Three dots at the bottom right of the area.
 void paintMark(QPainter& painter, const QRect& area)
 {
@@ -42,7 +48,10 @@ VKD_QT_TableWidgetButton::VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetI
         return;
     takeName();
     connect(m_index.model(), &QAbstractItemModel::dataChanged, this,
-            &VKD_QT_TableWidgetButton::takeName);
+            [this](const QModelIndex& first, const QModelIndex& last) {
+                if (isWithin(m_index, first, last))
+                    takeName();
+            });
 }
 
 void VKD_QT_TableWidgetButton::takeName()
