@@ -1,7 +1,9 @@
 #include "WidgetTestSupport.h"
 
+#include <VKD_H_LineEdit.h>
 #include <VKD_H_TableItems.h>
 #include <VKD_H_TableWidget.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
 #include <VKD_QT4_ComboBox.h>
 
 #include <QClipboard>
@@ -86,6 +88,78 @@ private Q_SLOTS:
         QVERIFY(table.getSelectetRows().empty());
         QCOMPARE(counted.first().first().toInt(), 9);
         QCOMPARE(counted.last().last().toInt(), 4);
+    }
+
+    void rowsKeepTheirLooks()
+    {
+        Table table;
+        table.addNewRow(true);
+        const QVector<int> heights{100, 31, 62, 83};
+        for (int row = 0; row < 4; ++row) {
+            table.setRowHeight(row, heights[row]);
+            table.setVerticalHeaderItem(row, new QTableWidgetItem(QString::number(row)));
+        }
+        table.setRowHidden(2, true);
+        table.selectRow(0);
+        table.deleteSelectedRows();
+        for (int row = 0; row < 3; ++row) {
+            QCOMPARE(table.verticalHeaderItem(row)->text(), QString::number(row + 1));
+            QCOMPARE(table.isRowHidden(row), row == 1);
+            table.setRowHidden(row, false);
+            QCOMPARE(table.rowHeight(row), heights[row + 1]);
+        }
+    }
+
+    /// Tab and Enter leave the editor open, with the reason at it, until the text is mended.
+    void refusedNumber()
+    {
+        Table table;
+        const StructLineEdit distance = vkd_h_defaultStructLineEdit(1024);
+        const QString text = QStringLiteral("cover");
+        table.setHorizontalHeaderItem(
+            0, new VKD_H_TwHeaderLineEditItem(5, distance, text, text, true, Qt::AlignRight));
+        table.createEmptyItems(0);
+        table.show();
+        QApplication::setActiveWindow(&table);
+        const auto editor = [&table] {
+            QCoreApplication::processEvents(); // the view closes its editors later
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return table.findChild<VKD_H_LineEdit*>(QStringLiteral("cellEdit"));
+        };
+        for (Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
+            table.editItem(table.item(0, 0));
+            editor()->selectAll();
+            QTest::keyClicks(editor(), QStringLiteral("-"));
+            for (Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Enter}) {
+                QTest::keyClick(editor(), key);
+                QVERIFY(editor() && editor()->hasFocus());
+                QVERIFY(!editor()->accessibleDescription().isEmpty());
+            }
+            if (end == Qt::Key_Return) {
+                editor()->selectAll();
+                QTest::keyClicks(editor(), QStringLiteral("30"));
+            }
+            QTest::keyClick(editor(), end);
+            QVERIFY(!editor());
+            auto number = dynamic_cast<VKD_H_TwSimpleLineEditItem*>(table.item(0, 0));
+            QCOMPARE(number->getVal(nullptr), 0.03);
+        }
+    }
+
+    /// What a combo box shows that lies over a cell by itself or within another widget.
+    void copyOfCombos()
+    {
+        Table table;
+        auto alone = new VKD_QT4_ComboBox(nullptr, "alone");
+        auto frame = new QWidget;
+        auto within = new VKD_QT4_ComboBox(frame, "within");
+        alone->addItem(QStringLiteral("alone"));
+        within->addItem(QStringLiteral("within"));
+        table.setCellWidget(0, 1, alone);
+        table.setCellWidget(1, 1, frame);
+        table.setRangeSelected({0, 1, 1, 1}, true);
+        table.copySelection();
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("alone\nwithin\n"));
     }
 
     void copyForSpreadsheets()

@@ -20,9 +20,20 @@ const VKD_H_TwSimpleComboBoxItem* comboItem(const VKD_H_TableWidget* table,
     return dynamic_cast<const VKD_H_TwSimpleComboBoxItem*>(
         table->item(index.row(), index.column()));
 }
-} // namespace
 
-namespace {
+bool isEndOfTyping(const QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    switch (static_cast<const QKeyEvent*>(event)->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: return true;
+    default: return false;
+    }
+}
+
 /// A choice from the open list is an answer: the user need not leave the cell to have it taken.
 /// Keys and wheel on the closed list only browse.
 class CellCombo : public VKD_QT4_ComboBox
@@ -103,6 +114,17 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         index.data(Qt::ToolTipRole).isValid())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     QToolTip::showText(event->globalPos(), text, view);
+    return true;
+}
+
+/// A refused number keeps its editor open, so that the user learns why; Escape leaves it.
+bool CellDelegate::eventFilter(QObject* editor, QEvent* event)
+{
+    const auto field = qobject_cast<VKD_H_LineEdit*>(editor);
+    if (!field || !isEndOfTyping(event) || field->refusal().isEmpty())
+        return QStyledItemDelegate::eventFilter(editor, event);
+    field->showRefusal();
+    event->accept();
     return true;
 }
 

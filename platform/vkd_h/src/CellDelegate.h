@@ -26,6 +26,7 @@ public:
                      const QModelIndex& index) override;
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
+    bool eventFilter(QObject* editor, QEvent* event) override;
 
 private:
     QWidget* newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,

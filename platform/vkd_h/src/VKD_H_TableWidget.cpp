@@ -94,8 +94,12 @@ void VKD_H_TableWidget::deleteSelectedRows()
     int kept = *rows.begin();
     {
         const QSignalBlocker blocker(model());
+        // With updates on, the header looks up the place of each row that changes its height.
+        const bool updates = verticalHeader()->updatesEnabled();
+        verticalHeader()->setUpdatesEnabled(false);
         for (int row = kept; row < rowCount(); ++row)
             moveRow(row, rows.count(row) ? -1 : kept++);
+        verticalHeader()->setUpdatesEnabled(updates);
     }
     model()->removeRows(kept, rowCount() - kept);
     clearSelection();
@@ -112,6 +116,14 @@ void VKD_H_TableWidget::moveRow(int row, int to)
         if (to >= 0 && to != row)
             setItem(to, column, takeItem(row, column));
     }
+    if (to < 0 || to == row)
+        return;
+    setVerticalHeaderItem(to, takeVerticalHeaderItem(row));
+    const bool isHidden = isRowHidden(row);
+    for (int shown : {row, to})
+        setRowHidden(shown, false); // or else it has no height
+    setRowHeight(to, rowHeight(row));
+    setRowHidden(to, isHidden);
 }
 
 VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
@@ -134,7 +146,9 @@ VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
 QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
 {
     const QWidget* widget = indexWidget(cell);
-    const auto combo = widget ? widget->findChild<QComboBox*>() : nullptr;
+    auto combo = qobject_cast<const QComboBox*>(widget);
+    if (!combo && widget)
+        combo = widget->findChild<QComboBox*>();
     return combo ? combo->currentText() : cell.data().toString();
 }
 
