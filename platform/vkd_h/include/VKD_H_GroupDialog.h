@@ -55,13 +55,15 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void addFilterLine(QVBoxLayout* layout);
     void addList(QVBoxLayout* layout);
     void addInputLine(QVBoxLayout* layout);
     void addFoot(QVBoxLayout* layout);
-    QPushButton* addButton(QHBoxLayout* line, const QString& text, const char* name);
+    QPushButton* addButton(QHBoxLayout* line, const char* name);
+    void setTexts();
 
     void checkShown(bool checked);
     void toggle(const QModelIndexList& rows);
@@ -75,7 +77,11 @@ private:
     vkd::h::GroupTableModel* m_groups;
     vkd::h::GroupFilterModel* m_shown;
     vkd::h::GroupView* m_view = nullptr;
+    QLabel* m_filterLabel = nullptr;
     QLineEdit* m_filter = nullptr;
+    QPushButton* m_all = nullptr;
+    QPushButton* m_none = nullptr;
+    QLabel* m_inputLabel = nullptr;
     QLineEdit* m_input = nullptr;
     QPushButton* m_check = nullptr;
     QLabel* m_message = nullptr;

@@ -12,4 +12,7 @@ public:
     /// As VKD_H_GroupDialog's; both lists hold packed names.
     VKD_H_SecondaryGroupDialog(VKD_H_ZOBDoc* doc, const std::vector<int>& checked,
                                const std::vector<int>& usedElsewhere, QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
 };

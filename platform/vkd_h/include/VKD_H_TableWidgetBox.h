@@ -35,7 +35,12 @@ public:
     /// Adds a widget to the row, behind what stands there at the left.
     void addWidget(QWidget* widget);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void setTexts();
+
     VKD_H_TableWidget* m_table;
     QHBoxLayout* m_row;
     int m_left = 0;

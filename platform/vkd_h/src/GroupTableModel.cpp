@@ -105,6 +105,12 @@ bool GroupTableModel::hasRemarks() const
                        [](const GroupRow& row) { return row.isTaken || !row.isInModel; });
 }
 
+void GroupTableModel::languageChanged()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    Q_EMIT dataChanged(index(0, 0), index(m_rows.size() - 1, ColumnCount - 1), {Qt::DisplayRole});
+}
+
 QStringList GroupTableModel::longestTexts(int column) const
 {
     constexpr int Most = 50;

@@ -27,6 +27,8 @@ public:
     bool hasRemarks() const;
     /// The longest texts that the column may come to show, a few dozen at most.
     QStringList longestTexts(int column) const;
+    /// Tells the views that the texts of the table itself are others.
+    void languageChanged();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

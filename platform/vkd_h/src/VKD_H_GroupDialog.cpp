@@ -70,7 +70,7 @@ VKD_H_GroupDialog::VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* d
         addFilterLine(layout);
         addList(layout);
         addInputLine(layout);
-        updateCount();
+        setTexts();
     } else {
         layout->addWidget(new VKD_QT_InfoText(true,
                                               kind == VKD_H_GroupKind::Secondary
@@ -129,22 +129,30 @@ void VKD_H_GroupDialog::showEvent(QShowEvent* event)
         m_view->scrollTo(m_view->currentIndex());
 }
 
+void VKD_H_GroupDialog::changeEvent(QEvent* event)
+{
+    VKD_QT_Dialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange || !m_view)
+        return;
+    m_groups->languageChanged();
+    setTexts();
+    showMessage(QString()); // Check and OK say it again if need be
+}
+
 void VKD_H_GroupDialog::addFilterLine(QVBoxLayout* layout)
 {
     m_filter = new QLineEdit(this);
     m_filter->setObjectName(QStringLiteral("filter"));
     m_filter->setClearButtonEnabled(true);
-    showHint(m_filter,
-             m_kind == VKD_H_GroupKind::Secondary ? tr("Name or title") : tr("Number or title"));
-    auto label = new VKD_QT_Label(tr("&Filter:"), this);
-    label->setBuddy(m_filter);
+    m_filterLabel = new VKD_QT_Label(this, "filterLabel");
+    m_filterLabel->setBuddy(m_filter);
     auto line = new VKD_QT_HBoxLayout;
-    line->addWidget(label);
+    line->addWidget(m_filterLabel);
     line->addWidget(m_filter, 1);
-    connect(addButton(line, tr("&All"), "all"), &QPushButton::clicked, this,
-            [this] { checkShown(true); });
-    connect(addButton(line, tr("&None"), "none"), &QPushButton::clicked, this,
-            [this] { checkShown(false); });
+    m_all = addButton(line, "all");
+    m_none = addButton(line, "none");
+    connect(m_all, &QPushButton::clicked, this, [this] { checkShown(true); });
+    connect(m_none, &QPushButton::clicked, this, [this] { checkShown(false); });
     layout->addLayout(line);
     connect(m_filter, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_shown->setText(text.trimmed());
@@ -156,11 +164,9 @@ void VKD_H_GroupDialog::addList(QVBoxLayout* layout)
 {
     m_view = new GroupView(this);
     m_view->setObjectName(QStringLiteral("groups"));
-    m_view->setAccessibleName(tr("Groups"));
     m_view->setModel(m_shown);
     m_view->setSortingEnabled(true); // first, because the marks of the header need room
     m_view->sortByColumn(GroupTableModel::Group, Qt::AscendingOrder);
-    m_view->fitColumns(*m_groups);
     const int first = m_confirmed.empty() ? 0 : m_groups->rowOf(m_confirmed.front());
     m_view->setCurrentIndex(m_confirmed.empty()
                                 ? m_shown->index(0, 0)
@@ -173,16 +179,14 @@ void VKD_H_GroupDialog::addList(QVBoxLayout* layout)
 
 void VKD_H_GroupDialog::addInputLine(QVBoxLayout* layout)
 {
-    const bool hasNames = m_kind == VKD_H_GroupKind::Secondary;
     m_input = new QLineEdit(this);
     m_input->setObjectName(QStringLiteral("input"));
-    showHint(m_input, hasNames ? tr("Names to check") : tr("Numbers, e.g. 1-5 9"));
-    auto label = new VKD_QT_Label(hasNames ? tr("Na&mes:") : tr("N&umbers:"), this);
-    label->setBuddy(m_input);
+    m_inputLabel = new VKD_QT_Label(this, "inputLabel");
+    m_inputLabel->setBuddy(m_input);
     auto line = new VKD_QT_HBoxLayout;
-    line->addWidget(label);
+    line->addWidget(m_inputLabel);
     line->addWidget(m_input, 1);
-    m_check = addButton(line, tr("Chec&k"), "check");
+    m_check = addButton(line, "check");
     layout->addLayout(line);
     m_message = new VKD_QT_Label(this, "message");
     m_message->setTextFormat(Qt::PlainText); // it repeats what the user typed
@@ -207,12 +211,27 @@ void VKD_H_GroupDialog::addFoot(QVBoxLayout* layout)
     connect(m_ok->cmdCancel(), &QPushButton::clicked, this, &VKD_H_GroupDialog::reject);
 }
 
-QPushButton* VKD_H_GroupDialog::addButton(QHBoxLayout* line, const QString& text, const char* name)
+QPushButton* VKD_H_GroupDialog::addButton(QHBoxLayout* line, const char* name)
 {
-    auto button = new VKD_QT_PushButton(text, this, name);
+    auto button = new VKD_QT_PushButton(QString(), this, name);
     button->setAutoDefault(false); // Enter is OK
     line->addWidget(button);
     return button;
+}
+
+void VKD_H_GroupDialog::setTexts()
+{
+    const bool hasNames = m_kind == VKD_H_GroupKind::Secondary;
+    m_filterLabel->setText(tr("&Filter:"));
+    showHint(m_filter, hasNames ? tr("Name or title") : tr("Number or title"));
+    m_all->setText(tr("&All"));
+    m_none->setText(tr("&None"));
+    m_view->setAccessibleName(tr("Groups"));
+    m_view->fitColumns(*m_groups);
+    m_inputLabel->setText(hasNames ? tr("Na&mes:") : tr("N&umbers:"));
+    showHint(m_input, hasNames ? tr("Names to check") : tr("Numbers, e.g. 1-5 9"));
+    m_check->setText(tr("Chec&k"));
+    updateCount();
 }
 
 void VKD_H_GroupDialog::checkShown(bool checked)

@@ -4,6 +4,7 @@
 
 #include <VKD_QT_Layouts.h>
 
+#include <QEvent>
 #include <QShortcut>
 
 VKD_H_TableWidgetBox::VKD_H_TableWidgetBox(VKD_H_TableWidget* table, const QString& title,
@@ -28,9 +29,9 @@ void VKD_H_TableWidgetBox::createDefaultLayout(bool buttonsAbove, bool buttonsBe
 void VKD_H_TableWidgetBox::addButton(Buttons button, bool toTheRight)
 {
     const bool isNew = button == New;
-    auto widget = new VKD_QT_PushButton(isNew ? tr("New") : tr("Delete"), this,
-                                        isNew ? "btnNew" : "btnDelete");
+    auto widget = new VKD_QT_PushButton(QString(), this, isNew ? "btnNew" : "btnDelete");
     m_buttons[button] = widget;
+    setTexts();
     if (toTheRight)
         m_row->addWidget(widget);
     else
@@ -51,4 +52,17 @@ void VKD_H_TableWidgetBox::addWidget(QWidget* widget)
     if (auto button = qobject_cast<QPushButton*>(widget))
         button->setAutoDefault(false); // Enter in the table must not press it
     m_row->insertWidget(m_left++, widget);
+}
+
+void VKD_H_TableWidgetBox::changeEvent(QEvent* event)
+{
+    VKD_QT_GroupBox::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+}
+
+void VKD_H_TableWidgetBox::setTexts()
+{
+    for (const auto& [button, widget] : m_buttons)
+        widget->setText(button == New ? tr("New") : tr("Delete"));
 }
