@@ -130,6 +130,20 @@ private Q_SLOTS:
         QVERIFY(!empty.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
     }
 
+    /// Names that begin at one place in memory are two rows all the same.
+    void rowsOfOneBuffer()
+    {
+        const QString both = QStringLiteral("1 : Snow on the roof");
+        Desk desk(m_project);
+        desk.page.setUsedNumbersAndNames({{1, 1, QString::fromRawData(both.constData(), 8)},
+                                          {1, 2, QString::fromRawData(both.constData(), 20)}});
+        QSet<QString> rows;
+        for (QTreeWidgetItemIterator item(desk.tree()); *item; ++item)
+            if ((*item)->text(0).startsWith(QLatin1String("1 :")))
+                rows << (*item)->text(0);
+        QCOMPARE(rows, QSet<QString>({QStringLiteral("1 : Snow"), both}));
+    }
+
     void defaultsComeBack()
     {
         Desk desk(m_project);

@@ -69,10 +69,11 @@ cd_error_t DesignDialog::load()
     const cd_error_t status = copyRecords(m_document->index(), m_desk->index());
     if (status != VKD_ZOB_OK)
         return status;
+    m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
     vkd::dbo::Model model; // of which the page looks at the kind of system only
+    // The last to be read: where its record is the first of the project, that ends the hold.
     model.system.kindOfSystem = vkd::dbo::getKindOfSystem(m_document->index(), nullptr);
     vkd::dbo::storeModel(m_desk->index(), model);
-    m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
     showPage();
     return VKD_ZOB_OK;
 }
@@ -98,8 +99,8 @@ cd_error_t DesignDialog::store()
     ProjectWriting writing(m_document->index());
     if (writing.status() != VKD_ZOB_OK)
         return writing.status();
-    const bool isWhole = m_entries.save() && copyRecords(m_desk->index(), m_document->index()) ==
-                                                 cd_error_t(VKD_ZOB_OK);
+    const bool isWhole =
+        m_entries.save() && copyRecords(m_desk->index(), m_document->index()) == VKD_ZOB_OK;
     return writing.finish(isWhole);
 }
 
