@@ -54,15 +54,16 @@ VKD_Q_EXPORT cd_error_t vkd_zob_get(int index, int key1, int key2, void* record,
                                     int position);
 
 /// With `position` 0 writes the first record, and with `*length` 0 as well empties the key pair;
-/// with `position` 1 appends. Outside of a taken key pair the record is stored at once. Inside, it
-/// counts from vkd_zob_free_ex() on. A key pair that could not be taken refuses the call until it
-/// is released.
+/// with `position` 1 appends. Outside of a change the record is stored at once. Inside, it counts
+/// from the last vkd_zob_free_ex() on. In a change that failed the call is refused.
 VKD_Q_EXPORT cd_error_t vkd_zob_put(int index, int key1, int key2, const void* record,
                                     const int* length, int position);
 
-/// Takes the key pair for writing. Another program that holds one is waited for, at most as long as
-/// setting 201 says. The file has one lock: all pairs taken together are stored or dropped
-/// together, with the release of the last one.
+/// Takes the key pair for writing. The file has one lock: all pairs taken together are one change,
+/// which is stored or dropped with the release of the last one. Another program that holds a pair
+/// is waited for, at most as long as setting 201 says. A change whose first pair is refused has
+/// failed: further pairs and all puts are refused with the same status until each pair, the refused
+/// ones too, is released.
 VKD_Q_EXPORT cd_error_t vkd_zob_lock_ex(int index, int key1, int key2);
 
 /// Releases the key pair after reading or writing; what was put since it was taken is now stored.

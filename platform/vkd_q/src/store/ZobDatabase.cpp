@@ -12,6 +12,7 @@
 #include <chrono>
 #include <cstring>
 #include <thread>
+#include <utility>
 
 namespace {
 constexpr int ApplicationId = 0x564b4442; // "VKDB"
@@ -244,7 +245,7 @@ cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int p
 {
     if (position < 0 || *length < 0)
         return spoilChange(reportZob(VKD_ZOB_BAD_CALL, "read", m_path));
-    if (position == 0 && m_taken.empty())
+    if (position == 0 && !m_isChanging)
         beginPass({key1, key2});
     const int code = stepTo({key1, key2}, position);
     cd_error_t status = VKD_ZOB_OK;
@@ -255,7 +256,7 @@ cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int p
     if (status > VKD_ZOB_CUT)
         endPass({key1, key2});
     // Outside of a pass nobody ends the reading, which would keep the file locked.
-    if (status > VKD_ZOB_CUT || (m_passes.empty() && m_taken.empty()))
+    if (status > VKD_ZOB_CUT || (m_passes.empty() && !m_isChanging))
         stopWalk();
     return status;
 }
@@ -351,9 +352,6 @@ cd_error_t ZobDatabase::spoilChange(cd_error_t status)
 
 cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, int position)
 {
-    const auto refused = m_refused.find({key1, key2});
-    if (refused != m_refused.end())
-        return refused->second;
     if (!m_taken.empty() && m_changeStatus != VKD_ZOB_OK)
         return m_changeStatus;
     if (length < 0 || position < 0 || position > 1)
@@ -413,20 +411,15 @@ cd_error_t ZobDatabase::take(int key1, int key2)
 {
     endPasses();
     if (m_taken.empty()) {
-        const cd_error_t status = beginChange();
-        if (status != VKD_ZOB_OK) {
-            m_refused[{key1, key2}] = status;
-            return status;
-        }
+        m_changeStatus = beginChange();
+        m_isChanging = m_changeStatus == VKD_ZOB_OK;
     }
-    m_refused.erase({key1, key2});
-    m_taken.insert({key1, key2});
-    return VKD_ZOB_OK;
+    m_taken.insert({key1, key2}); // a refused pair, too: the change fails until the last release
+    return m_changeStatus;
 }
 
 cd_error_t ZobDatabase::beginChange()
 {
-    m_changeStatus = VKD_ZOB_OK;
     m_ends.clear();
     // SQLite would begin, and refuse only what is written.
     if (sqlite3_db_readonly(m_connection.get(), "main"))
@@ -436,14 +429,10 @@ cd_error_t ZobDatabase::beginChange()
 
 void ZobDatabase::release(int key1, int key2)
 {
-    const auto refused = m_refused.find({key1, key2});
-    if (refused != m_refused.end()) {
-        rememberRelease(refused->second);
-        m_refused.erase(refused);
-    }
     endPass({key1, key2});
     if (m_taken.erase({key1, key2}) && m_taken.empty()) {
-        stopWalk();
+        if (m_isChanging)
+            stopWalk();
         storeOrDrop();
     }
 }
@@ -453,12 +442,13 @@ void ZobDatabase::storeOrDrop()
     cd_error_t status = m_changeStatus; // whose reason has been said
     if (status == VKD_ZOB_OK)
         status = execute("COMMIT", "store the changes in");
+    const bool wasChanging = std::exchange(m_isChanging, false);
     if (status == VKD_ZOB_OK) {
         m_endOfChange = VKD_ZOB_OK;
         return;
     }
     // Some failures have rolled back already; what the old content was, it is again.
-    if (!sqlite3_get_autocommit(m_connection.get()))
+    if (wasChanging && !sqlite3_get_autocommit(m_connection.get()))
         execute("ROLLBACK", "undo the changes in");
     rememberRelease(status);
 }
@@ -486,8 +476,9 @@ cd_error_t ZobDatabase::finish()
 {
     endPasses();
     stopWalk();
-    if (!m_taken.empty() && !sqlite3_get_autocommit(m_connection.get()))
+    if (m_isChanging && !sqlite3_get_autocommit(m_connection.get()))
         execute("ROLLBACK", "undo the changes in");
+    m_isChanging = false;
     m_taken.clear();
     return m_releaseStatus;
 }

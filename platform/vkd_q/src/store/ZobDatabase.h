@@ -28,7 +28,7 @@ public:
     cd_error_t take(int key1, int key2);
     void release(int key1, int key2);
     void drop() { spoilChange(VKD_ZOB_CANCELLED); }
-    /// How the last release of the last taken pair, or of a refused one, ended.
+    /// How the last change ended.
     cd_error_t endOfChange() const { return m_endOfChange; }
     /// Moves the pair to the first one in use from there on, or to -1, -1.
     void firstPairFrom(int* key1, int* key2);
@@ -79,8 +79,8 @@ private:
     std::set<KeyPair> m_passes;      // being read from one state of the file
     std::set<KeyPair> m_taken;
     std::map<KeyPair, int> m_ends; // of sequences appended to since the first pair was taken
-    std::map<KeyPair, cd_error_t> m_refused; // could not be taken, and why
-    cd_error_t m_changeStatus = VKD_ZOB_OK;  // first failure since the first pair was taken
+    bool m_isChanging = false;     // false as well if the first pair was refused
+    cd_error_t m_changeStatus = VKD_ZOB_OK; // first failure since the first pair was taken
     cd_error_t m_endOfChange = VKD_ZOB_OK;
     cd_error_t m_releaseStatus = VKD_ZOB_OK; // the first failure of all
 };
