@@ -4,7 +4,7 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 /// A prepared statement that is kept for the life of its database and reset after each use, so that
-/// it never holds a lock between two calls. Used by ZobDatabase only.
+/// it never holds a lock between two calls. Used by RecordTable only.
 class Statement
 {
 public:

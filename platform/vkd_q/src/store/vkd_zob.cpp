@@ -61,7 +61,7 @@ cd_error_t vkd_zob_close(int index)
     ZobDatabase* closing = database(index, &status);
     if (!closing)
         return status;
-    status = closing->finish();
+    status = closing->transactions().finish();
     databases().erase(index);
     return status;
 }
@@ -85,28 +85,28 @@ cd_error_t vkd_zob_lock_ex(int index, int key1, int key2)
 {
     cd_error_t status = VKD_ZOB_OK;
     ZobDatabase* store = database(index, &status);
-    return store ? store->take(key1, key2) : status;
+    return store ? store->transactions().take({key1, key2}) : status;
 }
 
 void vkd_zob_free_ex(int index, int key1, int key2)
 {
     cd_error_t status = VKD_ZOB_OK;
     if (ZobDatabase* store = database(index, &status))
-        store->release(key1, key2);
+        store->transactions().release({key1, key2});
 }
 
 void vkd_zob_drop_ex(int index)
 {
     cd_error_t status = VKD_ZOB_OK;
     if (ZobDatabase* store = database(index, &status))
-        store->drop();
+        store->transactions().spoilChange(VKD_ZOB_CANCELLED);
 }
 
 cd_error_t vkd_zob_change_status(int index)
 {
     cd_error_t status = VKD_ZOB_OK;
-    const ZobDatabase* store = database(index, &status);
-    return store ? store->endOfChange() : status;
+    ZobDatabase* store = database(index, &status);
+    return store ? store->transactions().endOfChange() : status;
 }
 
 void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)

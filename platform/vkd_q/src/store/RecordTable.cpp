@@ -1,0 +1,124 @@
+#include "RecordTable.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+constexpr char GetSql[] = "SELECT data FROM record WHERE key1=?1 AND key2=?2 AND position>=?3"
+                          " ORDER BY position";
+constexpr char AnySql[] = "SELECT 1 FROM record WHERE key1=?1 AND key2=?2 LIMIT 1";
+constexpr char NextSql[] = "SELECT key1, key2 FROM record WHERE (key1, key2) >= (?1, ?2)"
+                           " ORDER BY key1, key2 LIMIT 1";
+constexpr char FirstSql[] = "INSERT OR REPLACE INTO record VALUES(?1, ?2, 0, ?3)";
+constexpr char AppendSql[] = "INSERT INTO record SELECT ?1, ?2, ifnull(max(position) + 1, 0), ?3"
+                             " FROM record WHERE key1=?1 AND key2=?2";
+constexpr char AppendAtSql[] = "INSERT INTO record VALUES(?1, ?2, ?4, ?3)";
+constexpr char EndSql[] = "SELECT ifnull(max(position) + 1, 0) FROM record"
+                          " WHERE key1=?1 AND key2=?2";
+constexpr char ClearSql[] = "DELETE FROM record WHERE key1=?1 AND key2=?2";
+} // namespace
+
+RecordTable::RecordTable(sqlite3* connection)
+    : m_connection(connection)
+{
+}
+
+int RecordTable::stepTo(KeyPair pair, int position)
+{
+    if (pair != m_walkPair || position != m_walkPosition + 1) {
+        stopWalk();
+        const int code = m_get.start(m_connection, GetSql, pair.first, pair.second);
+        if (code != SQLITE_OK)
+            return code;
+        m_get.bind(3, position);
+        m_walkPair = pair;
+    }
+    m_walkPosition = position;
+    return m_get.step();
+}
+
+cd_error_t RecordTable::deliver(void* record, int* length) const
+{
+    int stored = 0;
+    const void* bytes = m_get.columnBytes(0, &stored);
+    const cd_error_t status = stored > *length ? VKD_ZOB_CUT : VKD_ZOB_OK;
+    *length = std::min(stored, *length);
+    if (*length > 0)
+        std::memcpy(record, bytes, size_t(*length));
+    return status;
+}
+
+void RecordTable::stopWalk()
+{
+    m_get.done();
+    m_walkPosition = NoPosition;
+}
+
+int RecordTable::findAny(KeyPair pair)
+{
+    int code = m_any.start(m_connection, AnySql, pair.first, pair.second);
+    if (code == SQLITE_OK)
+        code = m_any.step();
+    m_any.done();
+    return code;
+}
+
+int RecordTable::findNext(KeyPair* pair)
+{
+    int code = m_next.start(m_connection, NextSql, pair->first, pair->second);
+    if (code == SQLITE_OK)
+        code = m_next.step();
+    if (code == SQLITE_ROW)
+        *pair = {m_next.column(0), m_next.column(1)};
+    m_next.done();
+    return code;
+}
+
+int RecordTable::clear(KeyPair pair)
+{
+    m_ends.erase(pair);
+    const int code = m_clear.start(m_connection, ClearSql, pair.first, pair.second);
+    return code == SQLITE_OK ? m_clear.run() : code;
+}
+
+int RecordTable::writeFirst(KeyPair pair, const void* record, int length)
+{
+    m_ends.erase(pair);
+    const int code = m_first.start(m_connection, FirstSql, pair.first, pair.second);
+    return code == SQLITE_OK ? m_first.run(record, length) : code;
+}
+
+int RecordTable::append(KeyPair pair, const void* record, int length)
+{
+    const int code = m_append.start(m_connection, AppendSql, pair.first, pair.second);
+    return code == SQLITE_OK ? m_append.run(record, length) : code;
+}
+
+int RecordTable::appendInside(KeyPair pair, const void* record, int length)
+{
+    auto end = m_ends.find(pair);
+    if (end == m_ends.end()) {
+        int position = 0;
+        const int code = findEnd(pair, &position);
+        if (code != SQLITE_ROW)
+            return code;
+        end = m_ends.emplace(pair, position).first;
+    }
+    int code = m_appendAt.start(m_connection, AppendAtSql, pair.first, pair.second);
+    if (code == SQLITE_OK)
+        code = m_appendAt.bind(4, end->second++);
+    return code == SQLITE_OK ? m_appendAt.run(record, length) : code;
+}
+
+int RecordTable::findEnd(KeyPair pair, int* position)
+{
+    int code = m_end.start(m_connection, EndSql, pair.first, pair.second);
+    if (code == SQLITE_OK)
+        code = m_end.step();
+    if (code == SQLITE_ROW)
+        *position = m_end.column(0);
+    m_end.done();
+    return code;
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+constexpr int ZobApplicationId = 0x564b4442; // "VKDB"
+constexpr int ZobSchemaVersion = 1;
+
+#define ZOB_RECORD_TABLE                                                \
+    "CREATE TABLE record(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL," \
+    " position INTEGER NOT NULL, data BLOB NOT NULL,"                   \
+    " PRIMARY KEY(key1, key2, position)) WITHOUT ROWID"
