@@ -72,10 +72,9 @@ private Q_SLOTS:
             [](Desk& desk) {
                 auto edit = desk.find<QLineEdit>("m_boxedEdit_edit");
                 edit->selectAll();
-                QTest::keyClicks(edit, QStringLiteral("3.5"));
-                vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0); // the field writes 3,5 when it is left
+                QTest::keyClicks(edit, QStringLiteral("3,5"));
                 QTest::keyClick(edit, Qt::Key_Enter);
-                vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+                QTest::keyClicks(edit, QStringLiteral("x")); // refused, and not in the script
             },
             "#define SCHR=0.2|SCHH H6 0.2 -> #define SCHR=0.35|SCHH H6 0.35");
         row(

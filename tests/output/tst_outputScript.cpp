@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include <fontSize.h>
 #include <outputScript.h>
 
 #include <functional>
@@ -210,6 +211,13 @@ private Q_SLOTS:
             s.variant = VKD_P_GraphicalOutput_Split;
             QCOMPARE(plib::fontStatement(s, true), number);
         }
+    }
+
+    void fontAsTyped()
+    {
+        compareCases([](const QString& typed) { return plib::fontSizeText(typed); },
+                     "2 => 2\n2,5 => 2.5\n 2,50  => 2.50\n1 => 1\n999 => 999\n0.99 =>\n999,5 =>\n"
+                     "-3 =>\nabc =>\n1.000,5 =>\n =>");
     }
 
     void split_data()

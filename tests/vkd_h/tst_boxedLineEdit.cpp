@@ -7,6 +7,7 @@
 #include <VKD_H_TabDialog.h>
 #include <VKD_QT_Layouts.h>
 
+#include <QClipboard>
 #include <QTabWidget>
 
 using namespace testsupport;
@@ -73,7 +74,7 @@ private Q_SLOTS:
                 .arg(dialog.size->edit()->text());
         };
         const int isDefault = StructBoxedEdit::EmptyIsDefault;
-        QCOMPARE(after(isDefault, Qt::Key_Shift), QStringLiteral("2 ")); // while typing
+        QCOMPARE(after(isDefault, Qt::Key_Shift), QStringLiteral("7 ")); // while typing
         QCOMPARE(after(isDefault, Qt::Key_Tab), QStringLiteral("2 2"));
         QCOMPARE(after(isDefault, Qt::Key_Escape), QStringLiteral("7 7"));
         QCOMPARE(after(0, Qt::Key_Tab), QStringLiteral("7 "));
@@ -90,7 +91,12 @@ private Q_SLOTS:
             dialog.size->setText(QLatin1String(text));
             QTest::keyClick(dialog.size->edit(), Qt::Key_Tab);
             QCOMPARE(dialog.size->getText(), QLatin1String(text));
+            QCOMPARE(dialog.size->edit()->text(), QLatin1String(text));
             QCOMPARE(dialog.size->getVal(), 2.5);
+            dialog.size->setFocus();
+            QTest::keyClicks(dialog.size->edit(), QStringLiteral("x"));
+            QCOMPARE(dialog.size->getText(), QLatin1String(text)); // still the last accepted one
+            QTest::keyClick(dialog.size->edit(), Qt::Key_Escape);
         }
         for (const char* text : {"abc", "0,5", "1000"}) {
             dialog.size->setText(QLatin1String(text));
@@ -105,18 +111,48 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 0);
     }
 
+    /// The text is for programs: in each language it has a point.
+    void editing_data()
+    {
+        const Columns<QString, QString, QString, double> columns("typed", "shown", "text", "value");
+        const auto row = [&columns](const char* typed, const char* shown, const char* text,
+                                    double value) { columns(typed, typed, shown, text, value); };
+        row("3.50", "3.50", "3.50", 3.5);
+        row("3,5", "3.5", "3.5", 3.5);
+        row(" 3,5 ", " 3.5 ", " 3.5 ", 3.5);
+        row("3,5,", "3.5.", "7.5", 7.5);
+        row("abc", "abc", "7.5", 7.5);
+        row("-3", "-3", "7.5", 7.5);
+        row("0.5", "0.5", "7.5", 7.5);
+        row("1000", "1000", "7.5", 7.5);
+        row("", "", "7.5", 7.5);
+    }
+
     void editing()
     {
+        QFETCH(QString, typed);
         setLanguage(German);
         Dialog dialog;
-        QSignalSpy changed(dialog.size, &VKD_H_BoxedLineEdit::valueChanged);
-        dialog.type("3.5");
-        QVERIFY(changed.size() > 0);
-        QTest::keyClick(dialog.size->edit(), Qt::Key_Tab);
-        QCOMPARE(dialog.size->edit()->text(), QStringLiteral("3,5"));
-        QCOMPARE(dialog.size->getText(), QStringLiteral("3.5")); // as typed
-        dialog.size->setVal(4.0);
-        QVERIFY(dialog.size->getText().startsWith(QStringLiteral("4")));
+        dialog.size->setVal(7.5);
+        QCOMPARE(dialog.size->getText(), QStringLiteral("7.5"));
+        const auto state = [&dialog] {
+            return dialog.size->edit()->text() + QLatin1Char('|') + dialog.size->getText() +
+                   QLatin1Char('|') + QString::number(dialog.size->getVal());
+        };
+        QFETCH(QString, shown);
+        QFETCH(QString, text);
+        QFETCH(double, value);
+        const QString expected =
+            shown + QLatin1Char('|') + text + QLatin1Char('|') + QString::number(value);
+        dialog.type(qPrintable(typed));
+        QCOMPARE(state(), expected);
+        dialog.size->edit()->selectAll();
+        QApplication::clipboard()->setText(typed);
+        dialog.size->edit()->paste();
+        QCOMPARE(state(), expected);
+        if (!typed.isEmpty()) // which gets the default
+            QTest::keyClick(dialog.size->edit(), Qt::Key_Tab);
+        QCOMPARE(state(), expected);
     }
 
     void dialogWithARefusedNumber()

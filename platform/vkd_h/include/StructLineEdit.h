@@ -14,6 +14,8 @@ struct StructLineEdit
 {
     static constexpr int RealNumber = 2;
     static constexpr int EmptyAllowed = 2048;
+    static constexpr int TextForPrograms = 0x200000; ///< numbers have a point in every language,
+                                                     ///< and a text stays as it was typed
 
     int kind = RealNumber;          ///< RealNumber is the only one there is
     int dimension = -1;             ///< dimension code, -1 for a number without unit

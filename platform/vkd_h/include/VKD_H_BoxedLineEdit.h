@@ -7,8 +7,9 @@
 
 class VKD_H_LineEdit;
 
-/// A label and an input field for a number in one widget. The field is a VKD_H_LineEdit and treats
-/// text as that does; its object name is that of the box with "_edit" behind.
+/// A label and an input field for a number in one widget. The field is a VKD_H_LineEdit and refuses
+/// text as that does; its object name is that of the box with "_edit" behind. Its text is for
+/// programs: a comma that is typed or pasted becomes a point, in every language.
 class VKD_H_EXPORT VKD_H_BoxedLineEdit : public QWidget
 {
     Q_OBJECT
@@ -17,14 +18,14 @@ public:
     /// `description` is copied; null is a number without unit and label.
     VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description, const char* name);
 
-    /// The text as it was typed or set, although the field writes its number in its own format when
-    /// it is left. Of an emptied field that stands for a default, the default.
+    /// The text as it was typed or set. While a typed text is refused, or the field stands empty,
+    /// the last one that was accepted.
     QString getText() const;
-    /// Sets a text as if it were typed, in the shown unit. One that is no acceptable number is
-    /// shown and marked, and the value from before counts on.
+    /// Sets a text that was kept, in the shown unit. It stays as it is, with a comma too. One that
+    /// is no acceptable number is shown and marked, and the value from before counts on.
     void setText(const QString& text);
 
-    /// In the base unit of the dimension.
+    /// In the base unit of the dimension. While the field stands empty, the last value.
     double getVal() const;
     void setVal(double value);
 
@@ -41,12 +42,11 @@ protected:
 
 private:
     void arrange();
-    bool counts(const QString& text) const;
     bool standsForDefault() const;
     void fillEmptyField();
     void showDefault();
 
     StructBoxedEdit m_description;
     VKD_H_LineEdit* m_edit;
-    QString m_text; ///< as typed or set last; null if what stands in the field counts
+    QString m_set; ///< the text that was set last; null after a value
 };

@@ -32,6 +32,10 @@ public:
     /// from before it was typed. -99999.0, or what the description says, for an empty field.
     double getVal() const;
 
+    /// The value that counts while the text is refused, and the text that Escape brings back.
+    double keptVal() const { return m_value; }
+    QString keptText() const { return m_shown; }
+
     /// Why the text that stands in the field is refused, in the language of the desktop; empty if
     /// it is not.
     QString refusal() const;

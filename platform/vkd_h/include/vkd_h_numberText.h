@@ -33,6 +33,10 @@ VKD_H_EXPORT bool vkd_h_isNotSet(double value, const StructLineEdit& description
 VKD_H_EXPORT VkdNumberReading vkd_h_readNumber(const QString& text,
                                                const StructLineEdit& description);
 
+/// The text as programs read numbers: with a point for each decimal sign of the description, "-"
+/// for a minus, and plain blanks. What is no number stays none.
+VKD_H_EXPORT QString vkd_h_plainNumberText(const QString& text, const StructLineEdit& description);
+
 /// A value in the base unit as the number that stands in a field, without unit and in the format of
 /// the desktop; empty if not set. It has the decimals of the dimension, and more where these would
 /// make it another number in single precision: up to six significant digits, without closing zeros.

@@ -7,6 +7,7 @@
 #include <VKD_QT_Widgets.h>
 
 #include <QKeyEvent>
+#include <QValidator>
 
 namespace {
 /// The label as the name of a quantity.
@@ -28,6 +29,7 @@ StructBoxedEdit completed(const StructBoxedEdit* given)
     StructBoxedEdit description = given ? *given : StructBoxedEdit();
     if (fallsBack(description.edit))
         description.edit.flags |= StructLineEdit::EmptyAllowed; // while it is typed
+    description.edit.flags |= StructLineEdit::TextForPrograms;
     return description;
 }
 
@@ -37,6 +39,26 @@ VKD_H_LineEdit* newEdit(QWidget* parent, StructBoxedEdit& description, const cha
     return new VKD_H_LineEdit(parent, &description.edit, editName.constData(),
                               plainName(description.label), description.toolTip, true);
 }
+
+/// Writes the points of a number while it is typed, pasted or dropped, and refuses nothing.
+class PointWriter : public QValidator
+{
+public:
+    PointWriter(const StructLineEdit& description, QObject* parent)
+        : QValidator(parent)
+        , m_description(description)
+    {
+    }
+
+    State validate(QString& text, int&) const override
+    {
+        text = vkd_h_plainNumberText(text, m_description);
+        return Acceptable;
+    }
+
+private:
+    const StructLineEdit& m_description;
+};
 
 bool endsInput(QEvent* event)
 {
@@ -66,42 +88,36 @@ VKD_H_BoxedLineEdit::VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* descr
     arrange();
     showDefault();
     m_edit->installEventFilter(this);
-    connect(m_edit, &QLineEdit::textEdited, this, [this](const QString& typed) { m_text = typed; });
+    m_edit->setValidator(new PointWriter(m_description.edit, this));
     connect(m_edit, &VKD_H_LineEdit::valueChanged, this, &VKD_H_BoxedLineEdit::valueChanged);
 }
 
 QString VKD_H_BoxedLineEdit::getText() const
 {
-    if (standsForDefault())
-        return vkd_h_numberText(m_description.edit.value, m_description.edit);
-    return counts(m_text) ? m_text : m_edit->text();
-}
-
-/// Whether the value is still the one of this text: the field may have written it in its own format
-/// since, or have gone back to another one.
-bool VKD_H_BoxedLineEdit::counts(const QString& text) const
-{
-    const VkdNumberReading reading = vkd_h_readNumber(text, m_description.edit);
-    return !text.isNull() && reading.state == VkdNumberState::Accepted &&
-           reading.value == m_edit->getVal();
+    if (!m_set.isNull() && m_edit->text() == m_set)
+        return m_set;
+    return m_edit->refusal().isEmpty() && !standsForDefault() ? m_edit->text() : m_edit->keptText();
 }
 
 void VKD_H_BoxedLineEdit::setText(const QString& text)
 {
     const QSignalBlocker silence(this); // the field takes it for a preset that was chosen
+    const QValidator* points = m_edit->validator();
+    m_edit->setValidator(nullptr);
     m_edit->setText(text);
-    m_text = text;
+    m_edit->setValidator(points);
+    m_set = text;
     fillEmptyField();
 }
 
 double VKD_H_BoxedLineEdit::getVal() const
 {
-    return standsForDefault() ? m_description.edit.value : m_edit->getVal();
+    return standsForDefault() ? m_edit->keptVal() : m_edit->getVal();
 }
 
 void VKD_H_BoxedLineEdit::setVal(double value)
 {
-    m_text.clear();
+    m_set.clear();
     m_edit->setVal(value);
 }
 

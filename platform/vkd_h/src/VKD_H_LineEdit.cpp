@@ -123,7 +123,9 @@ void VKD_H_LineEdit::takeText(const QString& text)
 void VKD_H_LineEdit::keepText()
 {
     m_value = getVal();
-    m_shown = vkd_h_numberText(m_value, m_description);
+    m_shown = m_description.flags & StructLineEdit::TextForPrograms
+                  ? text()
+                  : vkd_h_numberText(m_value, m_description);
     if (text() != m_shown)
         setText(m_shown);
 }
@@ -233,10 +235,10 @@ void VKD_H_LineEdit::changeEvent(QEvent* event)
     QLineEdit::changeEvent(event);
     switch (event->type()) {
     case QEvent::LanguageChange:
-        if (text() == m_shown)
-            setVal(m_value);
-        else
+        if (text() != m_shown)
             setMark(refusal());
+        else if (!(m_description.flags & StructLineEdit::TextForPrograms))
+            setVal(m_value);
         setTips();
         break;
     case QEvent::FontChange:

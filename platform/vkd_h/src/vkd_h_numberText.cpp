@@ -16,19 +16,6 @@ constexpr int SignificantDigits = 6;
 constexpr double ExponentFrom = 1e9;
 constexpr double ExponentBelow = 1e-6;
 
-/// The text with "." as the decimal sign and "-" as the minus, for the C locale.
-QString plainText(const QString& text, const QString& decimalSigns)
-{
-    QString plain = text;
-    for (QChar& sign : plain) {
-        if (sign == QLatin1Char(',') || decimalSigns.contains(sign))
-            sign = QLatin1Char('.');
-        else if (sign == QChar(0x2212))
-            sign = QLatin1Char('-');
-    }
-    return plain;
-}
-
 /// \d would match the digits of every script.
 bool isNumber(const QString& plain)
 {
@@ -118,7 +105,7 @@ VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& des
     const QString trimmed = text.trimmed(); // of Unicode's blanks too, as the no-break ones
     if (isNotSetText(trimmed, description))
         return {emptyState(description), description.notSet};
-    const QString plain = plainText(trimmed, description.decimalSigns);
+    const QString plain = vkd_h_plainNumberText(trimmed, description);
     VkdNumberState state = stateOf(plain);
     double value = 0.0;
     if (state == VkdNumberState::Accepted) {
@@ -130,11 +117,28 @@ VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& des
     return {state, float(value) == 0 ? 0.0 : value}; // "-0" too, and what no float can hold
 }
 
+QString vkd_h_plainNumberText(const QString& text, const StructLineEdit& description)
+{
+    QString plain = text;
+    for (QChar& sign : plain) {
+        if (sign == QLatin1Char(',') || description.decimalSigns.contains(sign))
+            sign = QLatin1Char('.');
+        else if (sign == QChar(0x2212))
+            sign = QLatin1Char('-');
+        else if (sign.isSpace())
+            sign = QLatin1Char(' ');
+    }
+    return plain;
+}
+
 QString vkd_h_numberText(double value, const StructLineEdit& description)
 {
     if (vkd_h_isNotSet(value, description))
         return QString();
-    return vkd::h::shownNumber(digits(value, vkd_h_dimension(description.dimension)));
+    const QString text = vkd::h::shownNumber(digits(value, vkd_h_dimension(description.dimension)));
+    return description.flags & StructLineEdit::TextForPrograms
+               ? vkd_h_plainNumberText(text, description)
+               : text;
 }
 
 QString vkd_h_suffixText(const StructLineEdit& description)

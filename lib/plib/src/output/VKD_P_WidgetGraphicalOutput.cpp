@@ -1,5 +1,6 @@
 #include "VKD_P_WidgetGraphicalOutput.h"
 
+#include "fontSize.h"
 #include "GraphicalOutputTreeWidget.h"
 #include "OutputSettings.h"
 #include "pageSplitPictures.h"
@@ -26,7 +27,6 @@ enum Scale { EngineeringScale = 0, ScaleToFit = 1 };
 enum Format { PortraitFormat = 0, LandscapeFormat = 1 };
 constexpr int TwoPerPage = 1;
 constexpr int StandardView = 3;
-constexpr double FontSize = 2.0; // mm
 
 std::vector<StructRadioButtonGrup> entries(const QStringList& texts, int entryWithWidget = -1)
 {
@@ -45,11 +45,7 @@ StructBoxedEdit fontDescription()
     StructBoxedEdit description;
     description.label = VKD_P_WidgetGraphicalOutput::tr("Font Size (mm) : ");
     description.toolTip = VKD_P_WidgetGraphicalOutput::tr("The size of the font");
-    description.edit.value = FontSize;
-    description.edit.minimum = 1.0;
-    description.edit.maximum = 999.0;
-    description.edit.flags = StructBoxedEdit::EmptyIsDefault;
-    description.edit.decimalSigns = QStringLiteral(",");
+    description.edit = plib::fontSizeField();
     return description;
 }
 
@@ -275,7 +271,7 @@ void VKD_P_WidgetGraphicalOutput::slotQuerFormat()
 void VKD_P_WidgetGraphicalOutput::slotDefaultSettings()
 {
     data->tree->rebuild(true);
-    data->fontEdit->setVal(FontSize);
+    data->fontEdit->setVal(plib::fontSizeField().value);
     data->scaleGroup->setButton(ScaleToFit);
     if (data->formatGroup)
         data->formatGroup->setButton(PortraitFormat);
