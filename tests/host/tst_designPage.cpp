@@ -2,6 +2,7 @@
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
+#include <vkd_dbo_model.h>
 #include <VKD_H_ProjectDialogPage.h>
 #include <VKD_H_SelGRP_Dialog.h>
 
@@ -11,6 +12,7 @@
 #include <QPushButton>
 
 #include <cstring>
+#include <map>
 
 using namespace testsupport;
 
@@ -465,6 +467,29 @@ private Q_SLOTS:
         desk.page->getEntrys(entries);
         QVERIFY2(desk.row(1).startsWith(QStringLiteral("None|Circular|0.0° ;0.0°")),
                  qPrintable(desk.row(1)));
+    }
+
+    /// The fields are there, and what is entered in them is lost: they say so, where they are
+    /// empty.
+    void planeSystemsHaveNoUseForDistances()
+    {
+        for (const auto& [kind, hint] :
+             std::map<int, QString>{{0, {}}, {10, QStringLiteral("not used")}}) {
+            HostProject project{QString()};
+            vkd::dbo::Model model;
+            model.system.kindOfSystem = kind;
+            QVERIFY(vkd::dbo::storeModel(project.doc()->index(), model));
+            DesignDesk desk(project, {record(-1, 4, 0)});
+            desk.table()->setCurrentCell(0, 2);
+            QStringList hints;
+            whenModal([&hints](QWidget* dialog) {
+                for (const char* edit : {"hio", "hiuq", "rio"})
+                    hints << find<QLineEdit>(*dialog, edit)->placeholderText();
+                dialog->close();
+            });
+            qobject_cast<QPushButton*>(desk.table()->cellWidget(0, 2))->click();
+            QCOMPARE(hints, QStringList({hint, hint, QString()}));
+        }
     }
 
     void helpIsFound()

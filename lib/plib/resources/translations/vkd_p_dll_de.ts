@@ -203,6 +203,14 @@ Daten können verloren gehen!</translation>
         <translation>Drehwinkel der Bewehrung gegen die lokale x-Achse</translation>
     </message>
     <message>
+        <source>In a plane system the layers have no distances. What is entered here is not stored.</source>
+        <translation>In einem ebenen System haben die Lagen keine Abstände. Eingaben werden hier nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>entfällt</translation>
+    </message>
+    <message>
         <source>Axial Distance</source>
         <translation>Achsabstand</translation>
     </message>

@@ -9,6 +9,7 @@
 #include "dlgDistanceDirection.h"
 #include "dlgReinforcement.h"
 #include "dlgSelection.h"
+#include "unusedDistances.h"
 
 #include <VKD_H_SecondaryGroupDialog.h>
 #include <VKD_H_SelGRP_Dialog.h>
@@ -20,6 +21,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <type_traits>
 
 using plib::DesignParameterRow;
 using Table = DesignParameterTable;
@@ -170,6 +172,9 @@ void DesignParameter::editRecord(Arguments... arguments)
     if (!edited)
         return;
     Dialog dialog(arguments..., &edited->record, this);
+    if constexpr (std::is_same_v<Dialog, dlgDistanceDirection>)
+        if (!plib::hasDistances(data->kindOfSystem))
+            plib::markUnusedDistances(dialog);
     const QPointer<DesignParameter> page(this);
     if (dialog.exec() != QDialog::Accepted || !page)
         return;

@@ -16,11 +16,6 @@ constexpr float HalfPi = 1.5707964F;
 constexpr int UpperBarClass = 6;
 constexpr int LowerBarClass = 5;
 
-bool isPlane(int kindOfSystem)
-{
-    return kindOfSystem >= 10 && kindOfSystem <= 19;
-}
-
 template <typename Fields>
 void setAll(tagZOB_QUAD_RIM& record, const Fields& fields, float value)
 {
@@ -96,9 +91,14 @@ tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups)
     return r;
 }
 
+bool hasDistances(int kindOfSystem)
+{
+    return kindOfSystem < 10 || kindOfSystem > 19;
+}
+
 void toEditedForm(tagZOB_QUAD_RIM& record, int kindOfSystem)
 {
-    if (isPlane(kindOfSystem))
+    if (!hasDistances(kindOfSystem))
         return clearDistances(record);
     tripleToEdited(record.hio, record.hioq, record.hioi);
     tripleToEdited(record.hiu, record.hiuq, record.hiui);
@@ -106,7 +106,7 @@ void toEditedForm(tagZOB_QUAD_RIM& record, int kindOfSystem)
 
 void toStoredForm(tagZOB_QUAD_RIM& record, int kindOfSystem)
 {
-    if (isPlane(kindOfSystem))
+    if (!hasDistances(kindOfSystem))
         return clearDistances(record);
     tripleToStored(record.hio, record.hioq, record.hioi);
     tripleToStored(record.hiu, record.hiuq, record.hiui);

@@ -21,8 +21,12 @@ enum DesignType {
 /// group -1 and the type 1, else the group 0 and no design.
 tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups);
 
+/// Whether a kind of system has distances between layers: plane systems (10 to 19) have no layers
+/// above each other.
+bool hasDistances(int kindOfSystem);
+
 /// From stored distances to edited ones: spacings where the layers lie in order, else not set.
-/// Plane systems (kinds 10 to 19) have no layers above each other, so that all six become not set.
+/// Without distances in the system all six become not set.
 void toEditedForm(tagZOB_QUAD_RIM& record, int kindOfSystem);
 
 /// The way back, to distances from the surface.

@@ -1,0 +1,25 @@
+#include "unusedDistances.h"
+
+#include "dlgDistanceDirection.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+
+namespace plib {
+
+void markUnusedDistances(dlgDistanceDirection& dialog)
+{
+    const QString reason = dlgDistanceDirection::tr(
+        "In a plane system the layers have no distances. What is entered here is not stored.");
+    for (const char* name : {"hio", "hiu", "hioq", "hiuq", "hioi", "hiui"}) {
+        auto edit = dialog.findChild<QLineEdit*>(QLatin1String(name));
+        if (!edit)
+            continue; // not with this type
+        edit->setPlaceholderText(dlgDistanceDirection::tr("not used"));
+        edit->setToolTip(edit->toolTip() + QLatin1Char('\n') + reason);
+    }
+    if (auto box = dialog.findChild<QGroupBox*>(QStringLiteral("distance")))
+        box->setToolTip(reason); // of the labels and the figure
+}
+
+} // namespace plib
