@@ -39,16 +39,20 @@ render_forms neq_merpara_rich 193 111
 render_forms betondeckung 240 111
 render neq_designline_zrt_bew_mod_allg neq_designline_zrt_bew_mod_allg zxx 299 104
 
-# render_help DRAWING FIGURE LANGUAGE: the size of the drawing enlarged for reading.
+# render_help DRAWING FIGURE LANGUAGE [STYLE]: the size of the drawing enlarged for reading.
 render_help() {
-    rsvg-convert --background-color=white --accept-language="$3" --zoom=1.75 \
+    printf '%s' "${4:-}" >"$style"
+    rsvg-convert --background-color=white --accept-language="$3" --zoom=1.75 --stylesheet="$style" \
         --output="$help/$2.png" "$resources/drawings/$1.svg"
     echo "help: $2.png"
 }
 
+style=$(mktemp)
+trap 'rm -f "$style"' EXIT
 for language in de en; do
     render_help neq_merpara_rich "$language/directions" "$language"
-    render_help betondeckung "$language/distances" "$language"
 done
+render_help help_layers two_layers zxx '.third { display: none }'
+render_help help_layers three_layers zxx
 render_help help_cover cover zxx
 render_help help_circular circular zxx

@@ -986,5 +986,17 @@ Soll sie gespeichert werden?</translation>
         <source>&amp;Sheet Preview</source>
         <translation>Blatt&amp;vorschau</translation>
     </message>
+    <message>
+        <source>&amp;Context Help</source>
+        <translation>&amp;Kontexthilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Graphical Output</source>
+        <translation>&amp;Grafische Ausgabe</translation>
+    </message>
+    <message>
+        <source>&amp;Text Output</source>
+        <translation>&amp;Textausgabe</translation>
+    </message>
 </context>
 </TS>

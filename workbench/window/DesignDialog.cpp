@@ -1,5 +1,6 @@
 #include "DesignDialog.h"
 
+#include "HelpKey.h"
 #include "KeptPlace.h"
 #include "ProjectHold.h"
 #include "withinScreen.h"
@@ -50,6 +51,7 @@ DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
     , m_desk(VKD_H_ZOBDoc::scratch())
 {
     setWindowTitle(tr("Design Parameters"));
+    setHelpTopic(this, "MERDAN/PARA");
     new QVBoxLayout(this);
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28});
     new KeptPlace(this);

@@ -3,6 +3,7 @@
 #include "DesignDialog.h"
 #include "DockShares.h"
 #include "GroupList.h"
+#include "HelpKey.h"
 #include "OutputDialog.h"
 #include "PickBanner.h"
 #include "PlatformLog.h"
@@ -59,6 +60,7 @@ MainWindow::MainWindow(WindowServices services, QWidget* parent)
     statusBar()->addPermanentWidget(m_contents);
     connectActions();
     connectPanes();
+    connectHelp();
     setTexts();
     const WindowSettings settings;
     m_script->setEnglish(settings.englishKeywords());
@@ -139,7 +141,6 @@ void MainWindow::connectActions()
     on(m_actions->sheet, &MainWindow::showSheet);
     on(m_actions->german, [this] { setLanguage(0); });
     on(m_actions->english, [this] { setLanguage(1); });
-    on(m_actions->designHelp, &MainWindow::showHelp);
     on(m_actions->about, &MainWindow::showAbout);
     connect(m_actions->recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
         const QString path = file->data().toString(); // the menu is made anew meanwhile
@@ -169,6 +170,20 @@ void MainWindow::connectPanes()
         m_isSheetSeen = seen;
         refreshSheet();
     });
+}
+
+void MainWindow::connectHelp()
+{
+    setHelpTopic(this, "MERDAN/PARA");
+    setHelpTopic(m_scriptDock, "GRAV/SCRIPT");
+    setHelpTopic(m_sheetDock, "GRAV/SHEET");
+    const auto help = [this](QWidget* caller) { showHelp(helpTopic(caller), caller); };
+    connect(new HelpKey(this), &HelpKey::helpWanted, this, help);
+    connect(m_actions->help, &QAction::triggered, this,
+            [this, help] { help(focusWidget() ? focusWidget() : this); });
+    for (const QAction* book : qAsConst(m_actions->books))
+        connect(book, &QAction::triggered, this,
+                [this, book] { showHelp(book->data().toString(), this); });
 }
 
 void MainWindow::changeEvent(QEvent* event)

@@ -63,6 +63,7 @@ private:
     void addDocks();
     QDockWidget* addDock(Qt::DockWidgetArea area, QWidget* widget, const char* name);
     void connectActions();
+    void connectHelp();
     void connectPanes();
     void setTexts();
     void nameTabBars();
@@ -134,7 +135,7 @@ private:
     void exportSheet();
 
     void setLanguage(int language);
-    void showHelp();
+    void showHelp(const QString& topic, QWidget* caller);
     void showAbout();
 
     WindowServices m_services;

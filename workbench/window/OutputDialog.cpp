@@ -1,5 +1,6 @@
 #include "OutputDialog.h"
 
+#include "HelpKey.h"
 #include "KeptPlace.h"
 #include "LoadCaseTable.h"
 #include "withinScreen.h"
@@ -73,6 +74,9 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
     , m_waiting(m_plots, m_names)
 {
     setWindowTitle(tr("Graphical Output"));
+    setHelpTopic(this, "GRAV/OUTPUT");
+    setHelpTopic(m_page, "GRAV/SETTINGS");
+    setHelpTopic(m_plots, "GRAV/PLOTS");
     setModal(false);
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40});
     new KeptPlace(this);
@@ -103,6 +107,7 @@ void OutputDialog::addTabs()
 QWidget* OutputDialog::newLoadCaseTab()
 {
     auto tab = new QWidget(this);
+    setHelpTopic(tab, "GRAV/LOADCASES");
     m_loadCases = new LoadCaseTable(m_document->index(), tab);
     auto layout = new QVBoxLayout(tab);
     layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. A change "
@@ -118,6 +123,7 @@ QWidget* OutputDialog::newContentTab()
     StructRadioButtonGrup solids;
     solids.text = tr("Also plots of solid elements");
     auto tab = new QWidget(this);
+    setHelpTopic(tab, "GRAV/CONTENTS");
     m_contents =
         new VKD_QT_RadioButtonGroup(tr("Plots on offer"), {model, solids}, tab, "ContentGroup");
     m_contents->setButton(0);

@@ -3,6 +3,7 @@
 #include "KeptPlace.h"
 
 #include "CombinationTable.h"
+#include "HelpKey.h"
 #include "numberTexts.h"
 #include "withinScreen.h"
 
@@ -48,6 +49,7 @@ TextOutputDialog::TextOutputDialog(int index, QWidget* parent)
     : VKD_H_Dialog(parent, "TextOutputDialog")
 {
     setWindowTitle(tr("Text Output"));
+    setHelpTopic(this, "TEXT/OUTPUT");
     new QVBoxLayout(this);
     addExtent();
     addLoadCases(index);
@@ -77,6 +79,7 @@ void TextOutputDialog::addExtent()
         tr("Extent of the text output"),
         tr("Decides which lists are printed. Manually controlled: those that are checked here."));
     QWidget* box = column->parentWidget();
+    setHelpTopic(box, "TEXT/EXTENT");
     m_extent.initEchoOutput(box);
     column->addLayout(m_extent.layout());
     m_fields = new ExtentFields(box);
@@ -96,6 +99,7 @@ void TextOutputDialog::addLoadCases(int index)
                                  tr("Decides for which load cases loads and results are printed. "
                                     "Manually: those that are checked in the table."));
     QWidget* box = column->parentWidget();
+    setHelpTopic(box, "TEXT/LOADCASES");
     m_loadCases.init(box);
     column->addLayout(m_loadCases.layout());
     m_loadCaseTable = new PickTable(loadCases(index, true), box, "TextLoadCases");
@@ -114,6 +118,7 @@ void TextOutputDialog::addCombinations(int index)
         tr("Decides for which combinations results are printed: all of one kind, or manually those "
            "that are checked in the table. The kinds can be changed while Manually is chosen."));
     QWidget* box = column->parentWidget();
+    setHelpTopic(box, "TEXT/COMBINATIONS");
     m_kindRow = new QWidget(box);
     column->addWidget(m_kindRow);
     m_combinationTable = new CombinationTable(loadCases(index, false), box, "TextCombinations");

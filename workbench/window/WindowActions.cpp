@@ -41,6 +41,22 @@ constexpr View Views[] = {
     {AnimatorViewYZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "Vie&w Y/Z"), "Y/Z"},
 };
 
+struct Book
+{
+    const char* name;
+    const char* topic;
+    const char* text;
+};
+
+constexpr Book Books[] = {
+    {"DesignHelp", "MERDAN/PARA",
+     QT_TRANSLATE_NOOP("workbench::WindowActions", "&Design Parameters")},
+    {"OutputHelp", "GRAV/OUTPUT",
+     QT_TRANSLATE_NOOP("workbench::WindowActions", "&Graphical Output")},
+    {"TextOutputHelp", "TEXT/OUTPUT",
+     QT_TRANSLATE_NOOP("workbench::WindowActions", "&Text Output")},
+};
+
 QString sampleText(const QAction* action)
 {
     for (const Named& sample : Samples)
@@ -71,11 +87,12 @@ WindowActions::WindowActions(QMainWindow* window)
     , sheet(add("SheetPreviewAction"))
     , german(add("German"))
     , english(add("English"))
-    , designHelp(add("DesignHelp"))
+    , help(add("Help"))
     , about(add("About"))
 {
     addSamples();
     addViews();
+    addBooks();
     auto languages = new QActionGroup(this);
     for (QAction* language : {german, english}) {
         language->setCheckable(true);
@@ -121,6 +138,15 @@ void WindowActions::addViews()
     }
 }
 
+void WindowActions::addBooks()
+{
+    for (const Book& book : Books) {
+        QAction* action = add(book.name);
+        action->setData(QLatin1String(book.topic));
+        books << action;
+    }
+}
+
 void WindowActions::addMenus(QMainWindow* window)
 {
     QMenuBar* bar = window->menuBar();
@@ -144,7 +170,11 @@ void WindowActions::addMenus(QMainWindow* window)
     m_languageMenu = bar->addMenu(QString());
     m_languageMenu->addActions({german, english});
     m_helpMenu = bar->addMenu(QString());
-    m_helpMenu->addActions({designHelp, about});
+    m_helpMenu->addAction(help);
+    m_helpMenu->addSeparator();
+    m_helpMenu->addActions(books.toList());
+    m_helpMenu->addSeparator();
+    m_helpMenu->addAction(about);
 }
 
 void WindowActions::addToolBar(QMainWindow* window)
@@ -173,7 +203,7 @@ void WindowActions::setShortcuts()
     textOutput->setShortcut(Qt::CTRL + Qt::Key_T);
     sheet->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_P);
     exportSheets->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_E);
-    designHelp->setShortcut(QKeySequence::HelpContents);
+    help->setShortcut(QKeySequence::HelpContents);
     for (int i = 0; i < views.size(); ++i)
         views[i]->setShortcut(Qt::CTRL + (Qt::Key_0 + i));
 }
@@ -213,7 +243,9 @@ void WindowActions::setTexts()
     textOutput->setIconText(tr("Text"));
     german->setText(tr("&German"));
     english->setText(tr("&English"));
-    designHelp->setText(tr("&Design Parameters"));
+    help->setText(tr("&Context Help"));
+    for (int i = 0; i < books.size(); ++i)
+        books[i]->setText(tr(Books[i].text));
     about->setText(tr("&About"));
     const bool isEnglish = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0;
     (isEnglish ? english : german)->setChecked(true);

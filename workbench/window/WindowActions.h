@@ -48,7 +48,8 @@ public:
     QAction* sheet;
     QAction* german;
     QAction* english;
-    QAction* designHelp;
+    QAction* help;           ///< on the part of the window that has the focus
+    QVector<QAction*> books; ///< of the help; the data is the topic that each begins with
     QAction* about;
 
     QMenu* recentMenu = nullptr;
@@ -58,6 +59,7 @@ private:
     QAction* add(const char* name);
     void addSamples();
     void addViews();
+    void addBooks();
     void addMenus(QMainWindow* window);
     void addToolBar(QMainWindow* window);
     void setShortcuts();

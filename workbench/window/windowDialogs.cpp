@@ -267,9 +267,11 @@ void MainWindow::setLanguage(int language)
     say(tr("The texts are in English now."));
 }
 
-void MainWindow::showHelp()
+void MainWindow::showHelp(const QString& topic, QWidget* caller)
 {
-    if (!VKD_T_Help::show(this, VKD_T_String("MERDAN"), VKD_T_String("PARA")))
+    const QByteArray book = topic.section(QLatin1Char('/'), 0, 0).toUtf8();
+    const QByteArray page = topic.section(QLatin1Char('/'), 1).toUtf8();
+    if (!VKD_T_Help::show(caller, book.constData(), page.constData()))
         complain(tr("The help is not installed."));
 }
 

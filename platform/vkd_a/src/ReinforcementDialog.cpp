@@ -61,6 +61,7 @@ ReinforcementDialog::ReinforcementDialog(QWidget* parent, int index, float value
     , m_value(value)
 {
     setWindowTitle(tr("Reinforcement Calculation"));
+    setProperty("helpTopic", QStringLiteral("MERDAN/CALCULATOR")); // for the host's help key
     auto layout = new VKD_QT_VBoxLayout(this);
     layout->addWidget(makeInput(index));
     layout->addWidget(makeTable(), 1);

@@ -5,6 +5,7 @@
 #include "DesignParameterTable.h"
 #include "designRecord.h"
 #include "designRows.h"
+#include "dialogFrame.h"
 #include "dlgCrackControl.h"
 #include "dlgDistanceDirection.h"
 #include "dlgReinforcement.h"
@@ -211,6 +212,7 @@ void DesignParameter::slot_openGroups()
     plib::collectUsedGroups(*data, row, used);
     VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, DesignKey, data->doc, checked, used, nullptr,
                                this, "Group Selection");
+    plib::setHelpTopic(&dialog, "GROUPS");
     const QPointer<DesignParameter> page(this);
     const int result = dialog.exec();
     if (!page)
@@ -238,6 +240,7 @@ void DesignParameter::slot_openSekGroups()
     std::vector<int> used;
     plib::collectUsedGroups(*data, row, used);
     VKD_H_SecondaryGroupDialog dialog(data->doc, shown->groups, used, this);
+    plib::setHelpTopic(&dialog, "GROUPS");
     const QPointer<DesignParameter> page(this);
     if (dialog.exec() != QDialog::Accepted || !page)
         return;

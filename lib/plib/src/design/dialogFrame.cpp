@@ -7,11 +7,18 @@
 
 namespace plib {
 
-void dressDialog(VKD_QT_Dialog* dialog, const QString& title)
+void dressDialog(VKD_QT_Dialog* dialog, const QString& title, const char* topic)
 {
+    setHelpTopic(dialog, topic);
     dialog->setPalette(QPalette(Qt::white));
     dialog->setAutoFillBackground(true);
     dialog->setWindowTitle(title);
+}
+
+/// A dynamic property, since the key belongs to the host and not to each dialog.
+void setHelpTopic(QWidget* dialog, const char* topic)
+{
+    dialog->setProperty("helpTopic", QLatin1String("MERDAN/") + QLatin1String(topic));
 }
 
 void addOkRow(VKD_QT_Dialog* dialog, VKD_QT_VBoxLayout* layout)

@@ -13,9 +13,12 @@ class VKD_H_LineEdit;
 /// What the dialogs of a row's parameters have in common.
 namespace plib {
 
-/// The white face of these dialogs and their title. All of them are white, because the figures of
-/// one of them have a white ground.
-void dressDialog(VKD_QT_Dialog* dialog, const QString& title);
+/// The white face of these dialogs, their title and their topic of the help. All of them are white,
+/// because the figures of one of them have a white ground.
+void dressDialog(VKD_QT_Dialog* dialog, const QString& title, const char* topic);
+
+/// Tells the host that the help key in this dialog asks for a topic of the design's book.
+void setHelpTopic(QWidget* dialog, const char* topic);
 
 /// The row with OK, which accepts, and Cancel, which rejects, at the end of the layout.
 void addOkRow(VKD_QT_Dialog* dialog, VKD_QT_VBoxLayout* layout);

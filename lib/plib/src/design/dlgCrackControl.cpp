@@ -61,7 +61,7 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
     : VKD_QT_Dialog(parent)
     , type(record->type)
 {
-    plib::dressDialog(this, tr("Crack Control"));
+    plib::dressDialog(this, tr("Crack Control"), "CRACKCONTROL");
     auto layout = new VKD_QT_VBoxLayout;
     VKD_QT_GroupBox* upper = side(true);
     VKD_QT_GroupBox* lower = side(false);

@@ -68,7 +68,7 @@ const dlgDistanceDirection::Field dlgDistanceDirection::Fields[] = {
 dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* parent)
     : VKD_QT_Dialog(parent)
 {
-    plib::dressDialog(this, tr("Direction and Distance"));
+    plib::dressDialog(this, tr("Direction and Distance"), "DIRECTIONS");
     auto layout = new VKD_QT_VBoxLayout;
     const int type = record->type;
     if (type >= plib::TwoLayersOrthogonal && type <= plib::Circular) {

@@ -79,7 +79,7 @@ dlgReinforcement::dlgReinforcement(int index, tagZOB_QUAD_RIM* record, QWidget* 
     : VKD_QT_Dialog(parent)
     , zobIndex(index)
 {
-    plib::dressDialog(this, tr("Reinforcement"));
+    plib::dressDialog(this, tr("Reinforcement"), "REINFORCEMENT");
     auto layout = new VKD_QT_VBoxLayout;
     VKD_QT_GroupBox* upper = side(true, record->type);
     VKD_QT_GroupBox* lower = side(false, record->type);
