@@ -49,7 +49,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user chose another entry than the one chosen before.
+    /// The user clicked an entry, also the chosen one.
     void buttWasClicked(int entry);
 
 private:
@@ -72,5 +72,4 @@ private:
     std::vector<QPointer<QWidget>> m_widgets; ///< as many as buttons, most of them null
     QButtonGroup* m_buttons;
     QGridLayout* m_grid;
-    int m_before = -1; ///< what was chosen when the last press began
 };

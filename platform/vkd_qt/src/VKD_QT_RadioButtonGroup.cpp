@@ -54,12 +54,7 @@ VKD_QT_RadioButtonGroup::VKD_QT_RadioButtonGroup(const QString& title,
     , m_buttons(new QButtonGroup(this))
     , m_grid(new VKD_QT_GridLayout(this))
 {
-    connect(m_buttons, &QButtonGroup::idPressed, this,
-            [this] { m_before = m_buttons->checkedId(); });
-    connect(m_buttons, &QButtonGroup::idClicked, this, [this](int entry) {
-        if (entry != m_before)
-            Q_EMIT buttWasClicked(entry);
-    });
+    connect(m_buttons, &QButtonGroup::idClicked, this, &VKD_QT_RadioButtonGroup::buttWasClicked);
     connect(m_buttons, &QButtonGroup::idToggled, this, &VKD_QT_RadioButtonGroup::setTabStop);
     init(items);
 }
