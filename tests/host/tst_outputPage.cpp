@@ -58,12 +58,15 @@ private Q_SLOTS:
             "a scale of the list", [](Desk& desk) { desk.chooseScale("1:50"); },
             sheet("SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO FORM STAN"));
         row(
+            "one picture", [](Desk& desk) { desk.choose("PicturesGroup", 0); },
+            single("SIZE -URS SC 0 MARG NO FORM STAN"));
+        row(
             "one picture, and portrait again",
             [](Desk& desk) {
                 desk.choose("PicturesGroup", 0);
-                desk.choose("FormatGroup", 0); // chosen already: does not bring back two pictures
+                desk.choose("FormatGroup", 0); // chosen already, and two pictures all the same
             },
-            single("SIZE -URS SC 0 MARG NO FORM STAN"));
+            " -> ");
         row(
             "landscape", [](Desk& desk) { desk.choose("FormatGroup", 1); },
             single("SIZE URS SC 0 MARG NO FORM STAN"));
@@ -107,6 +110,7 @@ private Q_SLOTS:
         QCOMPARE(desk.page.objectName(), QStringLiteral("Widget_GraphOut"));
         QVERIFY(desk.page.checkVals());
         QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), -1); // none without an animator
+        QCOMPARE(desk.page.getTORVAL_BEOB(true), QStringLiteral("TYPE EG3"));
         QVERIFY(desk.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
         QCOMPARE(desk.page.getTORVAL_SIZE(true),
                  QStringLiteral("SIZ2 SPLI PICT\nSIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"));
@@ -146,7 +150,6 @@ private Q_SLOTS:
     void defaultsComeBack()
     {
         Desk desk(m_project);
-        desk.page.slotDefaultSettings();
         const QString fresh = desk.page.writeXMLstring();
         desk.chooseScale("1:100");
         desk.choose("FormatGroup", 1);

@@ -76,9 +76,10 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
         connectAnimator();
     connect(data->defaultButton, &QPushButton::clicked, this,
             &VKD_P_WidgetGraphicalOutput::slotDefaultSettings);
-    if (data->formatGroup) // by the group, which passes over a click on the entry that is chosen
-        connect(data->formatGroup, &VKD_QT_RadioButtonGroup::buttWasClicked, this,
-                &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
+    if (data->formatGroup) // each click counts, also one on the chosen format
+        for (int format : {PortraitFormat, LandscapeFormat})
+            connect(data->formatGroup->getRadioButton(format), &QRadioButton::clicked, this,
+                    &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
     findDialogs();
     if (progname == VKD_P_GraphicalOutput_Split) {
         const QSize size = data->tree->sizeHint();
@@ -309,7 +310,8 @@ plib::OutputSettings VKD_P_WidgetGraphicalOutput::settings() const
         settings.formatId = data->formatGroup->selectedButton();
     if (data->picturesGroup)
         settings.picturesId = data->picturesGroup->selectedButton();
-    if (data->viewGroup)
+    // Without an animator no view is chosen at first, and the one of a new page holds.
+    if (data->viewGroup && data->viewGroup->selectedButton() >= 0)
         settings.viewId = data->viewGroup->selectedButton();
     settings.fontSizeText = data->fontEdit->getText();
     settings.fillAreas = data->fillCheck && data->fillCheck->isChecked();

@@ -50,7 +50,8 @@ QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
     xml += choicePart(kepttag::Pictures, data->picturesGroup);
     if (data->pageSplitCombo)
         xml += data->pageSplitCombo->writeXMLstring();
-    xml += choicePart(kepttag::View, data->viewGroup);
+    if (data->viewGroup)
+        xml += part(kepttag::View, QString::number(settings().viewId));
     if (data->animator) {
         Q_EMIT signalBeobXY(AnimatorStoreCamera, 0.0);
         xml +=
