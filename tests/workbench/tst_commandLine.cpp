@@ -84,10 +84,12 @@ private Q_SLOTS:
     {
         const Columns<QString> row("line");
         row("--set scaleMode=0", "SIZE -URS SC - SPLI  2x1 MARG NO FORM STAN");
-        row("--set scaleMode=0 --set scaleText=1:50",
-            "SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO FORM STAN");
-        row("--set scaleMode=0 --set scaleIndex=8",
+        row("--set scaleText=1:50", "SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO FORM STAN");
+        row("--set scaleText=1:50 --set scaleIndex=8",
             "SIZE -URS SC 100*1.e+10 SPLI  2x1 MARG NO FORM STAN");
+        row("--set scaleIndex=8 --set scaleMode=1", "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN");
+        row("--set picturesId=0 --set formatId=0",
+            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // as one click after the other
         row("--set formatId=1", "SIZE URS SC 0 MARG NO FORM STAN");
         row("--set hasFormat=0", "SIZE URS SC 0 MARG NO FORM STAN");
         row("--set picturesId=0", "SIZE -URS SC 0 MARG NO FORM STAN");
@@ -273,6 +275,11 @@ private Q_SLOTS:
         row("script slab.zob --progname x", "--progname needs a whole number, not \"x\"");
         row("script slab.zob --set viewId", "--set needs NAME=VALUE, not \"viewId\"");
         row("script slab.zob --set viewId=5", "viewId is a number from 0 to 4, not \"5\"");
+        row("script slab.zob --set pageSplitId=1", "the page of --progname 1 has no pageSplitId");
+        row("script slab.zob --progname 122 --set viewId=1",
+            "the page of --progname 122 has no viewId");
+        row("script slab.zob --set formatId=1 --set picturesId=1",
+            "picturesId=1 needs the portrait format, formatId=0");
         row("script slab.zob --set scaleText=1:3", "scaleText is one of 1:1 1:2 1:5 1:10 1:20 1:25 "
                                                    "1:50 1:100 1:200 1:500 1:1000, not \"1:3\"");
         row("script slab.zob --selection absent.txt",

@@ -33,7 +33,9 @@ std::vector<CommandLine::Option> options()
                               "page ahead of them.")),
         option(
             "set", "NAME=VALUE",
-            QStringLiteral("A setting of the page, as often as needed: %1.").arg(settingsHelp())),
+            QStringLiteral("A setting of the page, as often as needed; each does what its control "
+                           "on the page does, one after the other: %1.")
+                .arg(settingsHelp())),
         option("selection-out", "FILE", QStringLiteral("Writes the plots as a selection text.")),
         option("load-cases", "FILE",
                QStringLiteral("Takes the load cases from lines of kind, number "

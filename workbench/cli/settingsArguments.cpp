@@ -7,122 +7,141 @@ namespace workbench {
 namespace {
 using plib::OutputSettings;
 
-struct NumberField
+enum class Pages { All, Split, AllButSplit };
+
+/// A setting of the record with what its control on a page does beside setting it.
+struct Setting
 {
     const char* name;
-    int OutputSettings::*member;
-    int highest;
+    int highest; ///< a number from 0, or NoNumber
+    Pages pages;
+    void (*set)(const QString& value, OutputSettings* settings);
 };
+constexpr int NoNumber = -1;
 
-struct SwitchField
+template <int OutputSettings::*member>
+void setNumber(const QString& value, OutputSettings* settings)
 {
-    const char* name;
-    bool OutputSettings::*member;
-};
-
-struct TextField
-{
-    const char* name;
-    QString OutputSettings::*member;
-};
-
-constexpr NumberField Numbers[] = {
-    {"scaleMode", &OutputSettings::scaleMode, 1},
-    {"scaleIndex", &OutputSettings::scaleIndex, 11},
-    {"pageSplitId", &OutputSettings::pageSplitId, 5},
-    {"formatId", &OutputSettings::formatId, 1},
-    {"picturesId", &OutputSettings::picturesId, 1},
-    {"viewId", &OutputSettings::viewId, 4},
-};
-constexpr SwitchField Switches[] = {
-    {"hasFormat", &OutputSettings::hasFormat},
-    {"fillAreas", &OutputSettings::fillAreas},
-};
-constexpr TextField Texts[] = {
-    {"scaleText", &OutputSettings::scaleText},
-    {"fontSizeText", &OutputSettings::fontSizeText},
-};
-
-int numberUpTo(int highest, const QString& name, const QString& value)
-{
-    bool isNumber = false;
-    const int number = value.toInt(&isNumber);
-    if (!isNumber || number < 0 || number > highest)
-        throw CommandError{QStringLiteral("%1 is a number from 0 to %2, not \"%3\"")
-                               .arg(name, QString::number(highest), value)};
-    return number;
+    settings->*member = value.toInt();
 }
 
-void set(const QString& name, const QString& value, OutputSettings* settings)
+template <bool OutputSettings::*member>
+void setSwitch(const QString& value, OutputSettings* settings)
 {
-    for (const NumberField& field : Numbers)
-        if (name == QLatin1String(field.name))
-            settings->*field.member = numberUpTo(field.highest, name, value);
-    for (const SwitchField& field : Switches)
-        if (name == QLatin1String(field.name))
-            settings->*field.member = numberUpTo(1, name, value) == 1;
-    for (const TextField& field : Texts)
-        if (name == QLatin1String(field.name))
-            settings->*field.member = value;
+    settings->*member = value.toInt() == 1;
 }
+
+void setScaleIndex(const QString& value, OutputSettings* settings)
+{
+    plib::chooseScale(value.toInt(), settings);
+}
+
+void setScaleText(const QString& value, OutputSettings* settings)
+{
+    const QStringList scales = plib::engineeringScales();
+    const int scale = scales.indexOf(value);
+    if (scale < 0)
+        throw CommandError{QStringLiteral("scaleText is one of %1, not \"%2\"")
+                               .arg(scales.join(QLatin1Char(' ')), value)};
+    plib::chooseScale(scale + 1, settings); // "Auto" comes first
+}
+
+void setFormat(const QString& value, OutputSettings* settings)
+{
+    settings->hasFormat = true;
+    plib::chooseFormat(value.toInt(), settings);
+}
+
+/// A page offers no choice of pictures unless its sheets are in portrait.
+void setPictures(const QString& value, OutputSettings* settings)
+{
+    constexpr int Portrait = 0;
+    const int pictures = value.toInt();
+    const bool isFree = settings->hasFormat && settings->formatId == Portrait;
+    if (!isFree && pictures != settings->picturesId)
+        throw CommandError{
+            QStringLiteral("picturesId=%1 needs the portrait format, formatId=0").arg(pictures)};
+    settings->picturesId = pictures;
+}
+
+void setFontSize(const QString& value, OutputSettings* settings)
+{
+    settings->fontSizeText = value;
+}
+
+constexpr Setting Settings[] = {
+    {"scaleMode", 1, Pages::All, setNumber<&OutputSettings::scaleMode>},
+    {"scaleIndex", 11, Pages::All, setScaleIndex},
+    {"scaleText", NoNumber, Pages::All, setScaleText},
+    {"pageSplitId", 5, Pages::Split, setNumber<&OutputSettings::pageSplitId>},
+    {"hasFormat", 1, Pages::AllButSplit, setSwitch<&OutputSettings::hasFormat>},
+    {"formatId", 1, Pages::AllButSplit, setFormat},
+    {"picturesId", 1, Pages::AllButSplit, setPictures},
+    {"viewId", 4, Pages::AllButSplit, setNumber<&OutputSettings::viewId>},
+    {"fontSizeText", NoNumber, Pages::All, setFontSize},
+    {"fillAreas", 1, Pages::AllButSplit, setSwitch<&OutputSettings::fillAreas>},
+};
 
 QStringList names()
 {
     QStringList all;
-    for (const NumberField& field : Numbers)
-        all << QString::fromLatin1(field.name);
-    for (const SwitchField& field : Switches)
-        all << QString::fromLatin1(field.name);
-    for (const TextField& field : Texts)
-        all << QString::fromLatin1(field.name);
+    for (const Setting& setting : Settings)
+        all << QString::fromLatin1(setting.name);
     return all;
 }
 
-/// Makes row and text of the scale agree where only one of them was given.
-void completeScale(const QStringList& given, OutputSettings* settings)
+const Setting& settingOf(const QString& name)
 {
-    const QStringList scales = plib::engineeringScales();
-    const bool hasIndex = given.contains(QLatin1String("scaleIndex"));
-    const bool hasText = given.contains(QLatin1String("scaleText"));
-    if (hasText && !hasIndex) {
-        const int row = scales.indexOf(settings->scaleText);
-        if (row < 0)
-            throw CommandError{QStringLiteral("scaleText is one of %1, not \"%2\"")
-                                   .arg(scales.join(QLatin1Char(' ')), settings->scaleText)};
-        settings->scaleIndex = row + 1;
-    } else if (hasIndex && !hasText && settings->scaleIndex > 0) {
-        settings->scaleText = scales[settings->scaleIndex - 1];
-    }
+    for (const Setting& setting : Settings)
+        if (name == QLatin1String(setting.name))
+            return setting;
+    throw CommandError{QStringLiteral("unknown setting \"%1\"; there are %2")
+                           .arg(name, names().join(QLatin1String(", ")))};
+}
+
+void checkPage(const Setting& setting, VKD_P_WidgetGraphicalOutput_Progname page)
+{
+    const bool isSplit = page == VKD_P_GraphicalOutput_Split;
+    if (setting.pages == (isSplit ? Pages::AllButSplit : Pages::Split))
+        throw CommandError{QStringLiteral("the page of --progname %1 has no %2")
+                               .arg(page)
+                               .arg(QLatin1String(setting.name))};
+}
+
+void checkNumber(const Setting& setting, const QString& value)
+{
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    if (setting.highest != NoNumber && (!isNumber || number < 0 || number > setting.highest))
+        throw CommandError{
+            QStringLiteral("%1 is a number from 0 to %2, not \"%3\"")
+                .arg(QLatin1String(setting.name), QString::number(setting.highest), value)};
 }
 } // namespace
 
 void applySettings(const QStringList& arguments, plib::OutputSettings* settings)
 {
-    QStringList given;
     for (const QString& argument : arguments) {
         const int equals = argument.indexOf(QLatin1Char('='));
         if (equals < 1)
             throw CommandError{QStringLiteral("--set needs NAME=VALUE, not \"%1\"").arg(argument)};
-        const QString name = argument.left(equals);
-        if (!names().contains(name))
-            throw CommandError{QStringLiteral("unknown setting \"%1\"; there are %2")
-                                   .arg(name, names().join(QLatin1String(", ")))};
-        set(name, argument.mid(equals + 1), settings);
-        given << name;
+        const Setting& setting = settingOf(argument.left(equals));
+        const QString value = argument.mid(equals + 1);
+        checkNumber(setting, value);
+        checkPage(setting, settings->variant);
+        setting.set(value, settings);
     }
-    completeScale(given, settings);
 }
 
 QString settingsHelp()
 {
-    QStringList all = names();
-    for (const NumberField& field : Numbers)
-        all.replace(
-            all.indexOf(QLatin1String(field.name)),
-            QStringLiteral("%1 (0 to %2)").arg(QLatin1String(field.name)).arg(field.highest));
-    for (const SwitchField& field : Switches)
-        all.replace(all.indexOf(QLatin1String(field.name)),
-                    QStringLiteral("%1 (0 or 1)").arg(QLatin1String(field.name)));
+    QStringList all;
+    for (const Setting& setting : Settings) {
+        const QString name = QLatin1String(setting.name);
+        all << (setting.highest == NoNumber
+                    ? name
+                    : QStringLiteral("%1 (0 to %2)").arg(name).arg(setting.highest));
+    }
     return all.join(QLatin1String(", "));
 }
 

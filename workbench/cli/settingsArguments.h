@@ -4,8 +4,9 @@
 
 namespace workbench {
 
-/// Sets fields of the record by arguments such as `scaleMode=0`. A scale that is given by its text
-/// or its row alone gets the other one too. An unknown name or a value out of range throws a
+/// Sets the record by arguments such as `scaleMode=0`, one after the other, each as its control on
+/// a page does: a scale of the list brings the engineering scale, a format its number of pictures.
+/// An unknown name, a value out of range, and a setting that the kind of page does not have throw a
 /// CommandError.
 void applySettings(const QStringList& arguments, plib::OutputSettings* settings);
 

@@ -18,12 +18,26 @@ QStringList scaleRows()
            << engineeringScales();
 }
 
+void chooseScale(int row, OutputSettings* settings)
+{
+    constexpr int EngineeringScale = 0;
+    settings->scaleMode = EngineeringScale;
+    settings->scaleIndex = row;
+    settings->scaleText = scaleRows().value(row);
+}
+
 int picturesForFormat(int formatId)
 {
     constexpr int Landscape = 1;
     constexpr int OnePerPage = 0;
     constexpr int TwoPerPage = 1;
     return formatId == Landscape ? OnePerPage : TwoPerPage;
+}
+
+void chooseFormat(int formatId, OutputSettings* settings)
+{
+    settings->formatId = formatId;
+    settings->picturesId = picturesForFormat(formatId);
 }
 
 } // namespace plib

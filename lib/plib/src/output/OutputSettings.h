@@ -29,8 +29,12 @@ QStringList engineeringScales();
 /// All rows of the scale list.
 QStringList scaleRows();
 
+/// Chooses a row of the scale list, and with it the engineering scale, as the list of a page does.
+void chooseScale(int row, OutputSettings* settings);
+
 /// What choosing a format does to the number of pictures: a landscape sheet carries one, and back
 /// in portrait there are two.
 int picturesForFormat(int formatId);
+void chooseFormat(int formatId, OutputSettings* settings);
 
 } // namespace plib

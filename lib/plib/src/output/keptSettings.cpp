@@ -3,7 +3,6 @@
 namespace plib {
 
 namespace {
-constexpr int EngineeringScale = 0;
 constexpr int ScaleToFit = 1;
 constexpr int AutoRow = 0;
 constexpr int FormatCount = 2;
@@ -17,11 +16,10 @@ void applyScale(const QString& value, OutputSettings* settings)
         return;
     const QStringList rows = scaleRows();
     const int row = value.contains(QLatin1Char('-')) ? AutoRow : rows.indexOf(value);
-    settings->scaleMode = row >= 0 ? EngineeringScale : ScaleToFit;
     if (row < 0)
-        return;
-    settings->scaleIndex = row;
-    settings->scaleText = rows[row];
+        settings->scaleMode = ScaleToFit;
+    else
+        chooseScale(row, settings);
 }
 
 /// Whether there was a part. A text that is no number counts as 0.
