@@ -95,7 +95,7 @@ private Q_SLOTS:
         row("--set picturesId=0", "SIZE -URS SC 0 MARG NO FORM STAN");
         row("--set viewId=1", "VIEW TYPE EGXZ ; PERS INFI");
         row("--set viewId=4", "VIEW TYPE STAN 1 -2 1 ROTA 0");
-        row("--set fontSizeText=3.5", "SCHH H6 0.35");
+        row("--set fontSizeText=3,5", "SCHH H6 0.35");
         row("--set fillAreas=1", "#define FILLI=AREA");
         row("--additional last", "last");
         row("--additional first --progname 222", "first");
@@ -282,6 +282,10 @@ private Q_SLOTS:
             "picturesId=1 needs the portrait format, formatId=0");
         row("script slab.zob --set scaleText=1:3", "scaleText is one of 1:1 1:2 1:5 1:10 1:20 1:25 "
                                                    "1:50 1:100 1:200 1:500 1:1000, not \"1:3\"");
+        for (const char* refused : {"abc", "-3", "0.5", "1000", ""})
+            row(QByteArray("script slab.zob --set fontSizeText=").append(refused).constData(),
+                QStringLiteral("fontSizeText is a number from 1 to 999, not \"%1\"")
+                    .arg(QLatin1String(refused)));
         row("script slab.zob --selection absent.txt",
             "cannot read absent.txt: No such file or directory");
         row("script slab.zob --load-cases badcases.txt",

@@ -2,6 +2,8 @@
 
 #include "CommandLine.h"
 
+#include <fontSize.h>
+
 namespace workbench {
 
 namespace {
@@ -66,7 +68,13 @@ void setPictures(const QString& value, OutputSettings* settings)
 
 void setFontSize(const QString& value, OutputSettings* settings)
 {
-    settings->fontSizeText = value;
+    const QString size = plib::fontSizeText(value);
+    if (size.isNull())
+        throw CommandError{QStringLiteral("fontSizeText is a number from %1 to %2, not \"%3\"")
+                               .arg(plib::fontSizeField().minimum)
+                               .arg(plib::fontSizeField().maximum)
+                               .arg(value)};
+    settings->fontSizeText = size;
 }
 
 constexpr Setting Settings[] = {
