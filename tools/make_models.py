@@ -212,15 +212,15 @@ class Building(Model):
         self.outline(rectangle(7.5, 10.5, 6, 10.5, 3.2), opening=True)
         self.outline(rectangle(8.25, 9.75, 7.5, 9, 6.4), opening=True)
         self.axes({"A": 0, "B": 6, "C": 12, "D": 18}, {"1": 0, "2": 6, "3": 12})
-        self.path("sectionCuts", "Deckenschnitt quer=Slab cut across", (3.375, 0, 3.2), (3.375, 12, 3.2))
-        self.path("sectionCuts", "Deckenschnitt längs=Slab cut along", (0, 3.375, 3.2), (18, 3.375, 3.2))
+        self.path("sectionCuts", "Deckenschnitt quer=Slab section across", (3.375, 0, 3.2), (3.375, 12, 3.2))
+        self.path("sectionCuts", "Deckenschnitt längs=Slab section along", (0, 3.375, 3.2), (18, 3.375, 3.2))
         self.path("designLines", "Bemessungslinie Achse B=Design line axis B", (6, 0, 3.2), (6, 6, 3.2), (6, 12, 3.2))
 
 
 class Slab(Model):
     def __init__(self):
         super().__init__("Punktgestützte Flachdecke mit Balkon=Flat slab on columns with a balcony", 20)
-        self.records("groups", 1, "Feldbereiche=Fields; Stützenkopfverstärkungen=Column heads;"
+        self.records("groups", 1, "Feldbereiche=Panels; Stützenkopfverstärkungen=Column heads;"
                      "Gurtstreifen=Column strips; Balkon=Balcony")
         columns = [(x, y) for x in (0, 7, 14, 21) for y in (0, 7)]
         along = lambda x, y, z=0: min(abs(y - axis) for axis in (0, 7)) < 1.5
@@ -234,11 +234,11 @@ class Slab(Model):
                      lambda x, y, z: 8 < x < 12.5 and 8.5 < y < 12.5, quads={1, 2, 3})
         self.geometry()
         self.loads("Eigengewicht=Self-weight; Ausbaulasten=Superimposed dead load;"
-                   + "".join(f"Nutzlast Feld {i}=Live load field {i};" for i in range(1, 7))
+                   + "".join(f"Nutzlast Feld {i}=Live load panel {i};" for i in range(1, 7))
                    + "Nutzlast Balkon=Live load balcony; Temperatur, oben wärmer=Temperature, top warmer;"
                    "Temperatur, unten wärmer=Temperature, bottom warmer",
-                   "Schachbrett, Felder 1, 3 und 5=Chess pattern, fields 1, 3 and 5;"
-                   "Schachbrett, Felder 2, 4 und 6=Chess pattern, fields 2, 4 and 6;" + DESIGN)
+                   "Schachbrett, Felder 1, 3 und 5=Chequerboard, panels 1, 3 and 5;"
+                   "Schachbrett, Felder 2, 4 und 6=Chequerboard, panels 2, 4 and 6;" + DESIGN)
         self.design("1", type=1, hio=0.03, hiu=0.03, aso=2.57, asu=5.24, wko=0.4, wku=0.4)
         self.design("2 3", type=2, hio=0.035, hiu=0.03, dio=16, dioq=14, aso=7.54, asoq=7.54, amo=40, amoq=40)
         self.design("4", type=3, rioi=0.7853982, hio=0.04, dio=12, dioi=10, aso=5.24, asoq=2.57, asoi=2.57)
@@ -259,11 +259,11 @@ class Slab(Model):
         self.outline([(7, 0, 0), (7, -1, 0), (7.5, -1.5, 0), (13.5, -1.5, 0), (14, -1, 0), (14, 0, 0)])
         self.outline(rectangle(9, 11.5, 9.5, 11.5), opening=True)
         self.axes({"A": 0, "B": 7, "C": 14, "D": 21}, {"1": 0, "2": 7, "3": 14})
-        self.path("sectionCuts", "Feldschnitt längs=Field cut along", (0, 3.25, 0), (21, 3.25, 0))
-        self.path("sectionCuts", "Schnitt neben Achse B=Cut beside axis B", (7.25, 0, 0), (7.25, 14, 0))
-        self.path("sectionCuts", "Balkonanschluss=Balcony root", (7, -0.25, 0), (14, -0.25, 0))
+        self.path("sectionCuts", "Feldschnitt längs=Panel section along", (0, 3.25, 0), (21, 3.25, 0))
+        self.path("sectionCuts", "Schnitt neben Achse B=Section beside axis B", (7.25, 0, 0), (7.25, 14, 0))
+        self.path("sectionCuts", "Balkonanschluss=Balcony support line", (7, -0.25, 0), (14, -0.25, 0))
         self.path("designLines", "Gurtstreifen Achse 2=Column strip axis 2", *((x, 7, 0) for x in (0, 7, 14, 21)))
-        self.path("designLines", "Feldstreifen 1–2=Field strip 1–2", (0, 3.5, 0), (21, 3.5, 0))
+        self.path("designLines", "Feldstreifen 1–2=Middle strip 1–2", (0, 3.5, 0), (21, 3.5, 0))
 
 
 class Hall(Model):
@@ -337,7 +337,7 @@ class Hall(Model):
         for x in steps(1.8, 28.2, 2.4):
             self.path("quadTendons", f"Quer, X {x} m=Across, X {x} m", (x, 1, -0.02), (x, 19, -0.02))
         self.outline(rectangle(0.6, 29.4, 1, 19))
-        self.path("sectionCuts", "Bodenschnitt quer=Floor cut across", (15.6, 1, 0), (15.6, 19, 0))
+        self.path("sectionCuts", "Bodenschnitt quer=Floor section across", (15.6, 1, 0), (15.6, 19, 0))
         self.path("designLines", "Bodenmitte längs=Floor centre line", (0.6, 10, 0), (29.4, 10, 0))
         self.design("9", type=1, hio=0.04, hiu=0.04, aso=5.24, asu=5.24, wko=0.2, wkoq=0.2, wku=0.3, wkuq=0.3)
 

@@ -32,9 +32,13 @@ const QSet<QString> FixedColumns{QStringLiteral("table")};
 const QSet<QString> FirstLanguage{QStringLiteral("m_list"), QStringLiteral("SheetView")};
 
 /// Spelt alike in both languages.
-const QSet<QString> SameSpelling{QStringLiteral("&Filter:"), QStringLiteral("Name"),
-                                 QStringLiteral("System"), QStringLiteral("Text"),
-                                 QStringLiteral("Zoom")};
+const QSet<QString> SameSpelling{QStringLiteral("&Filter:"),
+                                 QStringLiteral("Name"),
+                                 QStringLiteral("System"),
+                                 QStringLiteral("Text"),
+                                 QStringLiteral("Workbench"),
+                                 QStringLiteral("Zoom"),
+                                 QStringLiteral("project.zob[*] - Workbench")};
 } // namespace
 
 /// Every window of the program and of the libraries, in both languages. A window is added by a row.

@@ -115,7 +115,7 @@ QString viewText(const PictureView& view)
     case PictureView::PlaneXY: return SheetPainter::tr("X/Y plane");
     case PictureView::PlaneXZ: return SheetPainter::tr("X/Z plane");
     case PictureView::PlaneYZ: return SheetPainter::tr("Y/Z plane");
-    case PictureView::Free: return SheetPainter::tr("User's view");
+    case PictureView::Free: return SheetPainter::tr("User defined");
     }
     return SheetPainter::tr("View not set");
 }

@@ -239,7 +239,7 @@
     </message>
     <message>
         <source>Whether the plots offer the load case</source>
-        <translation>Ob der Lastfall bei den Bildern angeboten wird</translation>
+        <translation>Ob der Lastfall bei den Grafiken angeboten wird</translation>
     </message>
     <message>
         <source>Title</source>
@@ -270,7 +270,7 @@
     </message>
     <message>
         <source>Workbench</source>
-        <translation>Werkbank</translation>
+        <translation>Workbench</translation>
     </message>
     <message>
         <source>No project</source>
@@ -298,11 +298,11 @@
     </message>
     <message>
         <source>The choice of plots is again that of the project.</source>
-        <translation>Die Auswahl der Bilder ist wieder die des Projekts.</translation>
+        <translation>Die Auswahl der Grafiken ist wieder die des Projekts.</translation>
     </message>
     <message>
         <source>The choice of plots cannot be stored in the file %1.</source>
-        <translation>Die Auswahl der Bilder kann nicht in der Datei %1 gespeichert werden.</translation>
+        <translation>Die Auswahl der Grafiken kann nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
         <source>The picked groups cannot be stored in the file %1.</source>
@@ -310,7 +310,7 @@
     </message>
     <message>
         <source>The choice of plots is in the project file.</source>
-        <translation>Die Auswahl der Bilder steht in der Projektdatei.</translation>
+        <translation>Die Auswahl der Grafiken steht in der Projektdatei.</translation>
     </message>
     <message>
         <source>The script is on the clipboard.</source>
@@ -333,8 +333,8 @@
         <translation>Das Skript ist in %1 gespeichert.</translation>
     </message>
     <message>
-        <source>The texts are in English now.</source>
-        <translation>Die Texte sind jetzt deutsch.</translation>
+        <source>The language is now English.</source>
+        <translation>Die Sprache ist jetzt Deutsch.</translation>
     </message>
     <message>
         <source>The help is not installed.</source>
@@ -348,9 +348,9 @@
         <source>Workbench %1
 
 Hosts the pages for design parameters and graphical output on projects of their own.</source>
-        <translation>Werkbank %1
+        <translation>Workbench %1
 
-Zeigt die Seiten für Bemessungsparameter und grafische Ausgabe an eigenen Projekten.</translation>
+Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Projekten bereit.</translation>
     </message>
     <message>
         <source>Model for a New Project</source>
@@ -437,7 +437,7 @@ In der Anzeige fehlt möglicherweise etwas.</translation>
     <message>
         <source>The choice of plots is changed and not yet in the project.
 Is it to be stored?</source>
-        <translation>Die Auswahl der Bilder ist geändert und steht noch nicht im Projekt.
+        <translation>Die Auswahl der Grafiken ist geändert und steht noch nicht im Projekt.
 Soll sie gespeichert werden?</translation>
     </message>
     <message>
@@ -495,7 +495,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>Plots</source>
-        <translation>Bilder</translation>
+        <translation>Grafiken</translation>
     </message>
     <message>
         <source>Load cases</source>
@@ -507,19 +507,19 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>The plots offer the load cases that are checked here. A change brings back the plots that the catalogue proposes.</source>
-        <translation>Bei den Bildern werden die hier angekreuzten Lastfälle angeboten. Eine Änderung stellt die Bilder wieder her, die der Katalog vorschlägt.</translation>
+        <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Eine Änderung stellt die Grafiken wieder her, die der Katalog vorschlägt.</translation>
     </message>
     <message>
         <source>What the model holds</source>
         <translation>Was das Modell enthält</translation>
     </message>
     <message>
-        <source>Also plots of solid elements</source>
-        <translation>Auch Bilder von Volumenelementen</translation>
+        <source>Also plots of bricks</source>
+        <translation>Auch Grafiken von Volumenelementen</translation>
     </message>
     <message>
         <source>Plots on offer</source>
-        <translation>Angebotene Bilder</translation>
+        <translation>Angebotene Grafiken</translation>
     </message>
 </context>
 <context>
@@ -571,7 +571,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>The design records as they lie in the project file. Each row is a word of four bytes.</source>
-        <translation>Die Bemessungsdatensätze, wie sie in der Projektdatei liegen. Jede Zeile ist ein Wort von vier Byte.</translation>
+        <translation>Die Bemessungsdatensätze, wie sie in der Projektdatei stehen. Jede Zeile ist ein Wort von vier Byte.</translation>
     </message>
 </context>
 <context>
@@ -598,7 +598,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>No plot is chosen. Choose plots in Graphical Output.</source>
-        <translation>Es ist kein Bild gewählt. Bilder werden in der grafischen Ausgabe gewählt.</translation>
+        <translation>Es ist keine Grafik gewählt. Grafiken werden in der grafischen Ausgabe gewählt.</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -696,7 +696,7 @@ Soll sie gespeichert werden?</translation>
     <name>workbench::SlowWork</name>
     <message>
         <source>Workbench</source>
-        <translation>Werkbank</translation>
+        <translation>Workbench</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -734,8 +734,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Y/Z-Ebene</translation>
     </message>
     <message>
-        <source>User's view</source>
-        <translation>Benutzeransicht</translation>
+        <source>User defined</source>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>View not set</source>
@@ -751,7 +751,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>%1, to fit</source>
-        <translation>%1, eingepasst</translation>
+        <translation>%1, formatfüllend</translation>
     </message>
     <message>
         <source>Load case %1</source>
@@ -845,7 +845,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>No plot is chosen. Choose plots in Graphical Output.</source>
-        <translation>Es ist kein Bild gewählt. Bilder werden in der grafischen Ausgabe gewählt.</translation>
+        <translation>Es ist keine Grafik gewählt. Grafiken werden in der grafischen Ausgabe gewählt.</translation>
     </message>
 </context>
 <context>
@@ -924,7 +924,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>Tool Bar</source>
-        <translation>Werkzeugleiste</translation>
+        <translation>Symbolleiste</translation>
     </message>
     <message>
         <source>&amp;Model File...</source>

@@ -121,7 +121,7 @@ QWidget* OutputDialog::newContentTab()
     StructRadioButtonGrup model;
     model.text = tr("What the model holds");
     StructRadioButtonGrup solids;
-    solids.text = tr("Also plots of solid elements");
+    solids.text = tr("Also plots of bricks");
     auto tab = new QWidget(this);
     setHelpTopic(tab, "GRAV/CONTENTS");
     m_contents =

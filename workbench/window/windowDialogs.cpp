@@ -264,7 +264,7 @@ void MainWindow::setLanguage(int language)
     if (before)
         remakeOutput(*before);
     refreshScript();
-    say(tr("The texts are in English now."));
+    say(tr("The language is now English."));
 }
 
 void MainWindow::showHelp(const QString& topic, QWidget* caller)

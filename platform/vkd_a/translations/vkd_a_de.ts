@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>The clear distance of %1 is below %2 (EN 1992-1-1, 8.2).</source>
-        <translation>Der lichte Abstand von %1 ist kleiner als %2 (DIN EN 1992-1-1, 8.2).</translation>
+        <translation>Der lichte Abstand von %1 ist kleiner als %2 (EN 1992-1-1, 8.2).</translation>
     </message>
     <message>
         <source>not set</source>

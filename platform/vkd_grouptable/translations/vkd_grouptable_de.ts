@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Leaves this dialog to pick the groups in the 3D view. What is checked here is not kept.</source>
-        <translation>Verlässt diesen Dialog, um die Gruppen in der 3D-Ansicht zu wählen. Was hier markiert ist, wird nicht übernommen.</translation>
+        <translation>Verlässt diesen Dialog, um die Gruppen in der 3D-Ansicht zu wählen. Was hier angekreuzt ist, wird nicht übernommen.</translation>
     </message>
 </context>
 </TS>

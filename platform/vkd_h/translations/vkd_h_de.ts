@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Names to check</source>
-        <translation>Zu markierende Namen</translation>
+        <translation>Anzukreuzende Namen</translation>
     </message>
     <message>
         <source>Numbers, e.g. 1-5 9</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Chec&amp;k</source>
-        <translation>&amp;Markieren</translation>
+        <translation>Ankreu&amp;zen</translation>
     </message>
     <message>
         <source>Cannot read: %1. Type numbers and ranges such as 1-5 9.</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 of %2 groups checked</source>
-        <translation>%1 von %2 Gruppen markiert</translation>
+        <translation>%1 von %2 Gruppen angekreuzt</translation>
     </message>
     <message>
         <source>%1 also in another row</source>

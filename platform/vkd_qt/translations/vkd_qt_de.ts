@@ -36,27 +36,27 @@
     </message>
     <message>
         <source>a number is needed</source>
-        <translation>eine Zahl wird gebraucht</translation>
+        <translation>eine Zahl wird erwartet</translation>
     </message>
     <message>
         <source>a whole number is needed</source>
-        <translation>eine ganze Zahl wird gebraucht</translation>
+        <translation>eine ganze Zahl wird erwartet</translation>
     </message>
     <message>
         <source>a number of 1 or more is needed</source>
-        <translation>eine Zahl ab 1 wird gebraucht</translation>
+        <translation>eine Zahl ab 1 wird erwartet</translation>
     </message>
     <message>
         <source>a text is needed</source>
-        <translation>ein Text wird gebraucht</translation>
+        <translation>ein Text wird erwartet</translation>
     </message>
     <message>
         <source>a list is needed</source>
-        <translation>eine Liste wird gebraucht</translation>
+        <translation>eine Liste wird erwartet</translation>
     </message>
     <message>
         <source>%1 values are needed</source>
-        <translation>%1 Werte werden gebraucht</translation>
+        <translation>%1 Werte werden erwartet</translation>
     </message>
     <message>
         <source>no more than %1 values can stand here</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>an object is needed</source>
-        <translation>ein Objekt wird gebraucht</translation>
+        <translation>ein Objekt wird erwartet</translation>
     </message>
     <message>
         <source>unknown key &quot;%1&quot;</source>
@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>a name of one to four letters and digits of ASCII, not of digits alone, is needed</source>
-        <translation>ein Name aus ein bis vier ASCII-Buchstaben und Ziffern, nicht nur aus Ziffern, wird gebraucht</translation>
+        <translation>ein Name aus ein bis vier ASCII-Buchstaben und Ziffern, nicht nur aus Ziffern, wird erwartet</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands here twice</source>
@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>a number of %1 or less is needed</source>
-        <translation>eine Zahl bis %1 wird gebraucht</translation>
+        <translation>eine Zahl bis %1 wird erwartet</translation>
     </message>
 </context>
 </TS>

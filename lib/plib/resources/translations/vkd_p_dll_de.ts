@@ -216,7 +216,7 @@ Daten können verloren gehen!</translation>
     </message>
     <message>
         <source>Reference point for circular reinforcement</source>
-        <translation>Bezugspunkt der ringförmigen Bewehrung</translation>
+        <translation>Mittelpunkt der ringförmigen Bewehrung</translation>
     </message>
 </context>
 <context>
@@ -251,15 +251,15 @@ Daten können verloren gehen!</translation>
     </message>
     <message>
         <source>Min. Reinforcement</source>
-        <translation>Min. Bewehrung</translation>
+        <translation>Mindestbewehrung</translation>
     </message>
     <message>
         <source>Max. Reinforcement</source>
-        <translation>Max. Bewehrung</translation>
+        <translation>Höchstbewehrung</translation>
     </message>
     <message>
         <source>max. Reinforcement</source>
-        <translation>max. Bewehrung</translation>
+        <translation>Höchstbewehrung</translation>
     </message>
     <message>
         <source>Minimum Reinforcement</source>
@@ -283,7 +283,7 @@ Daten können verloren gehen!</translation>
     </message>
     <message>
         <source>Min greater than Max is not allowed!</source>
-        <translation>Das Minimum darf nicht größer als das Maximum sein!</translation>
+        <translation>Die Mindestbewehrung darf nicht größer als die Höchstbewehrung sein!</translation>
     </message>
 </context>
 <context>
@@ -433,7 +433,7 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
     <message>
         <source>All settings on this page will be set to the default</source>
-        <translation>Setzt alle Einstellungen dieser Seite auf ihre Vorgabe zurück</translation>
+        <translation>Setzt alle Einstellungen dieser Seite auf die Voreinstellung zurück</translation>
     </message>
     <message>
         <source>Scale</source>
