@@ -198,6 +198,24 @@ private Q_SLOTS:
         QVERIFY(!dialog->isVisible());
     }
 
+    /// OK comes from the dialog's own button, and none of the dialogs asks its fields itself.
+    void refusedTexts()
+    {
+        tagZOB_QUAD_RIM record = unevenRecord(4);
+        const auto isHeld = [](QDialog* dialog, QLineEdit* field) {
+            field->setText(QStringLiteral("1.234,5"));
+            pressOk(dialog);
+            const QWidget* focused = dialog->focusWidget();
+            return dialog->isVisible() && (focused == field || focused == field->focusProxy());
+        };
+        const auto directions = open<dlgDistanceDirection>(&record);
+        QVERIFY(isHeld(directions.get(), find<QLineEdit>(*directions, "zref")));
+        const auto reinforcement = open<dlgReinforcement>(&record);
+        QVERIFY(isHeld(reinforcement.get(), find<QLineEdit>(*reinforcement, "amuq")));
+        const auto cracks = open<dlgCrackControl>(&record);
+        QVERIFY(isHeld(cracks.get(), find<QComboBox>(*cracks, "m_pSIGU")->lineEdit()));
+    }
+
     void calculatorsWorkOnTheirOwnField()
     {
         const tagZOB_QUAD_RIM before = unevenRecord(3);

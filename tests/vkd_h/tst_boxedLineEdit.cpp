@@ -8,6 +8,7 @@
 #include <VKD_QT_Layouts.h>
 
 #include <QClipboard>
+#include <QTabBar>
 #include <QTabWidget>
 
 using namespace testsupport;
@@ -155,24 +156,12 @@ private Q_SLOTS:
         QCOMPARE(state(), expected);
     }
 
-    void dialogWithARefusedNumber()
-    {
-        Dialog dialog;
-        dialog.type("abc");
-        dialog.other->setFocus();
-        dialog.box.accept();
-        QVERIFY(dialog.box.isVisible() && dialog.size->edit()->hasFocus());
-        dialog.type("3");
-        dialog.box.accept();
-        QVERIFY(!dialog.box.isVisible());
-    }
-
     void pageWithARefusedNumber()
     {
         VKD_H_TabDialog tabs;
         StructBoxedEdit description = fontSize();
         auto size = new VKD_H_BoxedLineEdit(nullptr, &description, "size");
-        tabs.addTab(new QLineEdit, QStringLiteral("first"));
+        tabs.addTab(new QLineEdit, QStringLiteral("&first"));
         tabs.addTab(size, QStringLiteral("second"));
         tabs.show();
         QApplication::setActiveWindow(&tabs);
@@ -180,6 +169,29 @@ private Q_SLOTS:
         tabs.accept();
         QVERIFY(tabs.isVisible() && size->edit()->hasFocus());
         QCOMPARE(tabs.tabWidget()->currentIndex(), 1);
+        // Nor does the user leave the page by its tabs.
+        QTabBar* bar = tabs.tabWidget()->tabBar();
+        const auto tryAll = [&] {
+            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(0).center());
+            const int byMouse = tabs.tabWidget()->currentIndex();
+            tabs.tabWidget()->setCurrentIndex(1);
+            QTest::keyClick(bar, Qt::Key_Left);
+            const int byArrow = tabs.tabWidget()->currentIndex();
+            tabs.tabWidget()->setCurrentIndex(1);
+            QTest::keyClick(tabs.tabWidget(), Qt::Key_Backtab, Qt::ControlModifier);
+            const int byTab = tabs.tabWidget()->currentIndex();
+            tabs.tabWidget()->setCurrentIndex(1);
+            QTest::keyClick(tabs.windowHandle(), Qt::Key_F, Qt::AltModifier);
+            return QString::number(byMouse) + QString::number(byArrow) + QString::number(byTab) +
+                   QString::number(tabs.tabWidget()->currentIndex());
+        };
+        QCOMPARE(tryAll(), QStringLiteral("1111"));
+        QVERIFY(size->edit()->hasFocus());
+        size->setVal(3.0);
+        QCOMPARE(tryAll(), QStringLiteral("0000"));
+        size->setText(QStringLiteral("abc"));
+        tabs.reject();
+        QVERIFY(!tabs.isVisible());
     }
 };
 

@@ -14,6 +14,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <functional>
 #include <memory>
 
 using namespace testsupport;
@@ -46,17 +47,18 @@ quint32 bitsOf(double value)
     return bits;
 }
 
-/// A dialog with two fields that closes by OK as dialogs do that ask no field.
+/// A dialog with two fields whose own class asks none of them.
 struct Dialog
 {
     Dialog()
     {
         auto layout = new VKD_QT_VBoxLayout(&box);
-        auto buttons = new VKD_QT_Ok(&box, 3, "buttons");
+        buttons = new VKD_QT_Ok(&box, 3, "buttons");
         for (QWidget* widget : {static_cast<QWidget*>(first), static_cast<QWidget*>(second),
                                 static_cast<QWidget*>(buttons)})
             layout->addWidget(widget);
         QObject::connect(buttons->cmdOk(), &QPushButton::clicked, &box, &QDialog::accept);
+        QObject::connect(buttons->cmdCancel(), &QPushButton::clicked, &box, &QDialog::reject);
         first->setVal(0.03);
         second->setVal(0.04);
         box.show();
@@ -67,6 +69,7 @@ struct Dialog
     VKD_QT_Dialog box;
     VKD_H_LineEdit* first = field(&box, Distance, "first");
     VKD_H_LineEdit* second = field(&box, Distance, "second");
+    VKD_QT_Ok* buttons;
 };
 
 /// An editable combo with preset crack widths, as its callers build one.
@@ -90,7 +93,14 @@ struct Combo
     VKD_QT4_ComboBox box;
     VKD_H_LineEdit* edit;
 };
+
+QWidget* messageOf(const QWidget* field)
+{
+    return field->findChild<QWidget*>(QStringLiteral("fieldMessage"));
+}
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(Dialog&)>)
 
 class TestLineEdit : public QObject
 {
@@ -166,7 +176,7 @@ private Q_SLOTS:
         QVERIFY(edit->toolTip().contains(QLatin1String("decimal sign")));
         QTest::keyClick(edit, Qt::Key_Return);
         QVERIFY(dialog.box.isVisible());
-        auto message = edit->findChild<QWidget*>(QStringLiteral("fieldMessage"));
+        QWidget* message = messageOf(edit);
         QVERIFY(message && message->isVisible());
         QTest::keyClick(edit, Qt::Key_Tab);
         QVERIFY(dialog.second->hasFocus());
@@ -176,13 +186,13 @@ private Q_SLOTS:
         QCOMPARE(dialog.second->text(), QStringLiteral("7"));
         QCOMPARE(edit->text(), QStringLiteral("1.234,5"));
         QCOMPARE(edit->getVal(), 0.03);
-        QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), edit);
+        QCOMPARE(vkd_qt_leadToRefusedField(&dialog.box), edit);
         QVERIFY(edit->hasFocus() && edit->accessibleDescription().startsWith(edit->refusal()));
-        type(edit, "1234,5");
+        type(edit, "234,5");
         QVERIFY(!message->isVisible() && edit->refusal().isEmpty());
         QCOMPARE(edit->toolTip(), QStringLiteral("Axial Distance in mm\nfrom the surface"));
         QCOMPARE(edit->accessibleDescription(), QStringLiteral("from the surface"));
-        QCOMPARE(VKD_H_LineEdit::showFirstRefused(&dialog.box), nullptr);
+        QCOMPARE(vkd_qt_leadToRefusedField(&dialog.box), nullptr);
         type(edit, "-"); // could become a number by typing on
         QVERIFY(!edit->refusal().isEmpty());
         QVERIFY(!edit->toolTip().contains(QLatin1String("number")));
@@ -210,6 +220,73 @@ private Q_SLOTS:
         QTest::keyClick(dialog.first, Qt::Key_Backspace); // back at the text that was shown
         QCOMPARE(changed.count(), 7);
         QCOMPARE(dialog.first->getVal(), 0.033333333);
+    }
+
+    /// No way of OK passes over the text; ways out stay open.
+    void leavingADialog_data()
+    {
+        const Columns<std::function<void(Dialog&)>, bool> row("leave", "closes");
+        row(
+            "OK by the mouse",
+            [](Dialog& dialog) { QTest::mouseClick(dialog.buttons->cmdOk(), Qt::LeftButton); },
+            false);
+        row(
+            "Return in another field",
+            [](Dialog& dialog) {
+                dialog.second->setFocus();
+                QTest::keyClick(dialog.second, Qt::Key_Return);
+            },
+            false);
+        row(
+            "Return in the field",
+            [](Dialog& dialog) { QTest::keyClick(dialog.first, Qt::Key_Return); }, false);
+        row(
+            "a shortcut",
+            [](Dialog& dialog) {
+                dialog.buttons->cmdOk()->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
+                QTest::keyClick(dialog.box.windowHandle(), Qt::Key_Return, Qt::ControlModifier);
+                QTest::qWait(150); // such a click shows the button pressed
+            },
+            false);
+        row(
+            "a host", [](Dialog& dialog) { dialog.box.done(QDialog::Accepted); }, false);
+        row(
+            "Cancel",
+            [](Dialog& dialog) { QTest::mouseClick(dialog.buttons->cmdCancel(), Qt::LeftButton); },
+            true);
+        row(
+            "Escape twice",
+            [](Dialog& dialog) {
+                QTest::keyClick(dialog.first, Qt::Key_Escape);
+                QVERIFY(dialog.box.isVisible() && dialog.first->refusal().isEmpty());
+                QTest::keyClick(dialog.first, Qt::Key_Escape);
+            },
+            true);
+        row(
+            "Escape in another field",
+            [](Dialog& dialog) {
+                dialog.second->setFocus();
+                QTest::keyClick(dialog.second, Qt::Key_Escape);
+            },
+            true);
+        row(
+            "a detour", [](Dialog& dialog) { dialog.box.callDone(QDialog::Accepted); }, true);
+    }
+
+    void leavingADialog()
+    {
+        QFETCH(std::function<void(Dialog&)>, leave);
+        Dialog dialog;
+        type(dialog.first, "1.234,5");
+        leave(dialog);
+        QTEST(!dialog.box.isVisible(), "closes");
+        if (!dialog.box.isVisible())
+            return;
+        QVERIFY(dialog.first->hasFocus() && messageOf(dialog.first)->isVisible());
+        QCOMPARE(dialog.first->text(), QStringLiteral("1.234,5"));
+        type(dialog.first, "1234,5");
+        dialog.box.accept();
+        QCOMPARE(dialog.box.result(), int(QDialog::Accepted));
     }
 
     void mouse()

@@ -4,14 +4,11 @@
 
 #include <VKD_QT_Dialog.h>
 
-/// A dialog that accepts no refused number: while a field's text is refused, OK leads to the field
-/// instead. Users of this class link vkd_qt.
+/// A dialog as pages look for it above them. Users of this class link vkd_qt.
 class VKD_H_EXPORT VKD_H_Dialog : public VKD_QT_Dialog
 {
     Q_OBJECT
 
 public:
     using VKD_QT_Dialog::VKD_QT_Dialog;
-
-    void accept() override;
 };

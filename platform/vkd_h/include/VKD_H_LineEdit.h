@@ -3,6 +3,8 @@
 #include "StructLineEdit.h"
 #include "vkd_h_export.h"
 
+#include <VKD_QT_InputField.h>
+
 #include <QLineEdit>
 
 class FieldMessage;
@@ -11,11 +13,12 @@ class FieldMessage;
 /// for its users; also as the line edit of an editable combo box with preset texts. A value that is
 /// only shown comes back bit for bit, however few digits stand there. Text that is no acceptable
 /// number stays, marked and with a message at the field, until it is mended or Escape brings the
-/// last value's text back; meanwhile that value is the one that counts, also for a dialog that is
-/// closed.
-class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit
+/// last value's text back; meanwhile that value is the one that counts, and no dialog is accepted
+/// (VKD_QT_Dialog.h). Users of this class link vkd_qt.
+class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit, public VKD_QT_InputField
 {
     Q_OBJECT
+    Q_INTERFACES(VKD_QT_InputField)
 
 public:
     /// `description` is copied; null is a number without unit. `text` names the quantity, for the
@@ -36,16 +39,8 @@ public:
     double keptVal() const { return m_value; }
     QString keptText() const { return m_shown; }
 
-    /// Why the text that stands in the field is refused, in the language of the desktop; empty if
-    /// it is not.
-    QString refusal() const;
-    /// Takes the focus and shows why the text is refused. Brings the tab forward that the field is
-    /// on.
-    void showRefusal();
-    /// The first enabled field on `page` whose text is refused, null if there is none. Fields that
-    /// are hidden do not count, unless on another tab. It shows its refusal. For dialogs that close
-    /// only when every field is read.
-    static VKD_H_LineEdit* showFirstRefused(QWidget* page);
+    QString refusal() const override;
+    void showRefusal() override;
 
     /// Room for a number of nine characters and what stands around it.
     QSize sizeHint() const override;

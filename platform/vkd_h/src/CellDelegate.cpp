@@ -121,7 +121,11 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
 bool CellDelegate::eventFilter(QObject* editor, QEvent* event)
 {
     const auto field = qobject_cast<VKD_H_LineEdit*>(editor);
-    if (!field || !isEndOfTyping(event) || field->refusal().isEmpty())
+    if (!field || field->refusal().isEmpty())
+        return QStyledItemDelegate::eventFilter(editor, event);
+    if (event->type() == QEvent::FocusOut)
+        return false; // the field says why; the view would close it
+    if (!isEndOfTyping(event))
         return QStyledItemDelegate::eventFilter(editor, event);
     field->showRefusal();
     event->accept();

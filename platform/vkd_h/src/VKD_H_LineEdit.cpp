@@ -2,7 +2,6 @@
 
 #include "fieldMark.h"
 #include "FieldMessage.h"
-#include "reachOfField.h"
 #include "refusalText.h"
 #include "vkd_h_numberText.h"
 
@@ -82,22 +81,9 @@ QString VKD_H_LineEdit::refusal() const
 
 void VKD_H_LineEdit::showRefusal()
 {
-    bringTabForward(this);
     setFocus();
     setMark(refusal());
     showMessage();
-}
-
-VKD_H_LineEdit* VKD_H_LineEdit::showFirstRefused(QWidget* page)
-{
-    const QList<VKD_H_LineEdit*> fields = page->findChildren<VKD_H_LineEdit*>();
-    for (VKD_H_LineEdit* field : fields) {
-        if (!field->isEnabled() || field->refusal().isEmpty() || !isReachable(field, page))
-            continue;
-        field->showRefusal();
-        return field;
-    }
-    return nullptr;
 }
 
 /// Text that the user did not type is a preset and counts at once: Escape does not undo it.

@@ -8,7 +8,8 @@ class QTabWidget;
 class VKD_QT_Ok;
 
 /// A dialog of pages behind tabs, above OK and Cancel, which accept and reject it. The focus begins
-/// in the page that is shown first.
+/// in the page that is shown first. The user cannot leave a page while a field of it refuses its
+/// text.
 class VKD_QT_EXPORT VKD_QT_TabDialog : public VKD_QT_Dialog
 {
     Q_OBJECT

@@ -1,5 +1,7 @@
 #include "VKD_QT_Dialog.h"
 
+#include "VKD_QT_InputField.h"
+
 #include <QPointer>
 #include <QShowEvent>
 
@@ -24,6 +26,8 @@ void VKD_QT_Dialog::callDone(int result)
 
 void VKD_QT_Dialog::done(int result)
 {
+    if (result == Accepted && !m_isLeaving && isVisible() && vkd_qt_leadToRefusedField(this))
+        return;
     m_isAway = std::exchange(m_isLeaving, false);
     QDialog::done(result);
 }

@@ -1,14 +1,14 @@
 #include "VKD_QT_TabDialog.h"
 
+#include "PageTabs.h"
 #include "VKD_QT_Layouts.h"
 #include "VKD_QT_Ok.h"
 
 #include <QPushButton>
-#include <QTabWidget>
 
 VKD_QT_TabDialog::VKD_QT_TabDialog(QWidget* parent, const char* name, Qt::WindowFlags flags)
     : VKD_QT_Dialog(parent, name, flags)
-    , m_tabs(new QTabWidget(this))
+    , m_tabs(new PageTabs(this))
     , m_ok(new VKD_QT_Ok(this, 3, "okayandcancelbutton"))
 {
     m_tabs->setObjectName(QStringLiteral("tabs"));

@@ -10,6 +10,7 @@
 #include <VKD_H_LineEdit.h>
 #include <VKD_H_TwHeaderLineEditItem.h>
 #include <vkd_qt_icon_named.h>
+#include <VKD_QT_InputField.h>
 #include <VKD_QT_MessageBox.h>
 
 namespace {
@@ -184,6 +185,8 @@ bool dlgReinforcement::checkMinMax(float minimum, float maximum)
 
 void dlgReinforcement::accept()
 {
+    if (vkd_qt_leadToRefusedField(this)) // ahead of pairs, of which it may be one
+        return;
     tagZOB_QUAD_RIM scratch{};
     writeToRecord(&scratch);
     for (const PairOfLimits& pair : Pairs)

@@ -1,4 +1,4 @@
-#include "reachOfField.h"
+#include "VKD_QT_InputField.h"
 
 #include <QTabWidget>
 
@@ -16,7 +16,6 @@ bool isTakenAway(const QWidget* widget)
 {
     return widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
 }
-} // namespace
 
 bool isReachable(const QWidget* field, const QWidget* page)
 {
@@ -35,4 +34,20 @@ void bringTabForward(QWidget* field)
     for (QWidget* part = field; !part->isWindow(); part = part->parentWidget())
         if (QTabWidget* tabs = tabsOf(part))
             tabs->setCurrentWidget(part);
+}
+} // namespace
+
+QWidget* vkd_qt_leadToRefusedField(QWidget* page)
+{
+    const QList<QWidget*> widgets = page->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        auto field = qobject_cast<VKD_QT_InputField*>(widget);
+        if (!field || !widget->isEnabled() || field->refusal().isEmpty() ||
+            !isReachable(widget, page))
+            continue;
+        bringTabForward(widget);
+        field->showRefusal();
+        return widget;
+    }
+    return nullptr;
 }
