@@ -2,10 +2,12 @@
 
 #include "widgetTexts.h"
 
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDockWidget>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -15,6 +17,7 @@
 #include <QMainWindow>
 #include <QMap>
 #include <QMenu>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -22,6 +25,7 @@
 #include <QTabBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace testsupport {
 
@@ -118,6 +122,33 @@ int textRoom(const QWidget* field)
     return width;
 }
 
+/// What is chosen and typed in a window.
+QStringList choices(QWidget& window)
+{
+    QStringList all;
+    for (QWidget* widget : visibleWidgets(window)) {
+        if (const auto combo = qobject_cast<const QComboBox*>(widget))
+            all << combo->currentText();
+        else if (const auto number = qobject_cast<const QAbstractSpinBox*>(widget))
+            all << number->text();
+        else if (const auto edit = qobject_cast<const QLineEdit*>(widget))
+            all << edit->text();
+        else if (const auto button = qobject_cast<const QAbstractButton*>(widget))
+            all << QString::number(button->isChecked());
+        else if (const auto tabs = qobject_cast<const QTabBar*>(widget))
+            all << QString::number(tabs->currentIndex());
+    }
+    return all;
+}
+
+void turnWheel(QWidget* widget, int angle)
+{
+    const QPointF place = widget->rect().center();
+    QWheelEvent event(place, widget->mapToGlobal(place.toPoint()), {}, {0, angle}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
 class Walk
 {
 public:
@@ -136,6 +167,24 @@ public:
             lookForCuts(widget);
             lookForPlace(widget);
         }
+    }
+
+    /// With the focus, which some widgets take for leave to change.
+    void lookForWheel()
+    {
+        const QPointer<QWidget> focused = m_window.focusWidget();
+        for (QWidget* widget : visibleWidgets(m_window)) {
+            if (widget->focusPolicy() & Qt::TabFocus)
+                widget->setFocus();
+            const QStringList before = choices(m_window); // leaving a field rewrites its number
+            for (int angle : {120, -120}) {
+                turnWheel(widget, angle);
+                if (choices(m_window) != before)
+                    return note(widget, QStringLiteral("changes by the wheel"));
+            }
+        }
+        if (focused)
+            focused->setFocus();
     }
 
     QStringList found() const { return m_found.values(); }
@@ -293,6 +342,8 @@ QStringList faults(QWidget& window, const QSet<QString>& fixedColumns)
 {
     Walk walk(window, fixedColumns);
     forEachTab(window, [&walk] { walk.look(); });
+    if (qobject_cast<QDialog*>(&window))
+        forEachTab(window, [&walk] { walk.lookForWheel(); });
     QStringList found = walk.found();
     found.sort();
     return found;

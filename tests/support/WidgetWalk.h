@@ -13,6 +13,7 @@ namespace testsupport {
 /// a control without an accessible name, or with that of another one;
 /// a text that its widget has no room for, and a widget that stands out of the one around it;
 /// Tab going another way than the eye, which is line by line, and through a box in one go;
+/// a choice or a number of a dialog that the wheel changes;
 /// two texts with one mnemonic, two actions with one short cut.
 /// Cells are not looked at, since tables may cut them; `fixedColumns` are the object names of
 /// those tables whose headers may be cut as well.

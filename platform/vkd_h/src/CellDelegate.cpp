@@ -35,7 +35,7 @@ bool isEndOfTyping(const QEvent* event)
 }
 
 /// A choice from the open list is an answer: the user need not leave the cell to have it taken.
-/// Keys and wheel on the closed list only browse.
+/// Keys on the closed list only browse.
 class CellCombo : public VKD_QT4_ComboBox
 {
 public:
@@ -47,12 +47,6 @@ protected:
     {
         m_isBrowsing = true;
         VKD_QT4_ComboBox::keyPressEvent(event);
-        m_isBrowsing = false;
-    }
-    void wheelEvent(QWheelEvent* event) override
-    {
-        m_isBrowsing = true;
-        VKD_QT4_ComboBox::wheelEvent(event);
         m_isBrowsing = false;
     }
 

@@ -4,8 +4,8 @@
 
 #include <QComboBox>
 
-/// A combo box whose entries may bear an id. Without the focus it leaves the wheel to the page
-/// around it, so that scrolling never changes a value. In a narrow place its text is cut with dots
+/// A combo box whose entries may bear an id. It leaves the wheel to the page around it, so that
+/// scrolling changes no value; its open list scrolls. In a narrow place its text is cut with dots
 /// and shown whole in a tool tip, and its list is as wide as its entries need.
 class VKD_QT_EXPORT VKD_QT4_ComboBox : public QComboBox
 {

@@ -107,8 +107,5 @@ void VKD_QT4_ComboBox::paintEvent(QPaintEvent* event)
 
 void VKD_QT4_ComboBox::wheelEvent(QWheelEvent* event)
 {
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
+    event->ignore();
 }

@@ -28,7 +28,6 @@ bool isUse(const QWidget& widget, QEvent* event)
     case QEvent::MouseButtonPress: return widget.isEnabled();
     case QEvent::KeyPress: return isInput(static_cast<QKeyEvent*>(event)->key());
     case QEvent::InputMethod: return true;
-    case QEvent::Wheel: return widget.hasFocus();
     default: return false;
     }
 }
