@@ -166,34 +166,45 @@ private Q_SLOTS:
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }
 
+    /// The fields of the pair that is meant are marked, and the first has the focus.
     void limitsAreCheckedOneByOne()
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);
         const auto dialog = open<dlgReinforcement>(&record);
-        const auto set = [&](const char* name, double value) {
-            find<VKD_H_LineEdit>(*dialog, name)->setVal(value);
+        const QString text = QStringLiteral("Min greater than Max is not allowed!");
+        const auto edit = [&](const char* name) { return find<VKD_H_LineEdit>(*dialog, name); };
+        const auto marked = [&] {
+            QStringList names;
+            for (const VKD_H_LineEdit* any : dialog->findChildren<VKD_H_LineEdit*>())
+                if (any->accessibleDescription().startsWith(text))
+                    names << any->objectName();
+            const QWidget* focused = dialog->focusWidget();
+            return names.join(QLatin1Char(' ')) + QLatin1String(" in ") +
+                   (focused ? focused->objectName() : QString());
         };
-        int warnings = 0;
-        const auto isRefused = [&] {
-            ++warnings;
-            whenModal([&warnings](QWidget* box) {
-                --warnings;
-                QCOMPARE(box->property("text").toString(),
-                         QStringLiteral("Min greater than Max is not allowed!"));
+        const auto refused = [&] {
+            bool isTold = false;
+            whenModal([&](QWidget* box) {
+                isTold = box->property("text").toString() == text;
                 box->close();
             });
             pressOk(dialog.get());
-            return dialog->isVisible() && warnings == 0;
+            return dialog->isVisible() && isTold ? marked() : QStringLiteral("nothing");
         };
-        set("amo", 0.0001);
-        set("amui", 0.0001);
-        QVERIFY(isRefused());
-        set("amo", double(record.aso)); // equal is in order
-        QVERIFY(isRefused());
-        set("amui", double(plib::NotSet));
-        set("amoi", NAN); // cannot be compared
-        QVERIFY(isRefused());
-        find<VKD_H_LineEdit>(*dialog, "asoi")->clear();
+        edit("amo")->setVal(0.0001);
+        edit("amui")->setVal(0.0001);
+        edit("asoi")->setText(QStringLiteral("abc"));
+        pressOk(dialog.get()); // which comes first: the pair may be in order without it
+        QVERIFY(dialog->isVisible() && edit("asoi")->hasFocus());
+        edit("asoi")->setVal(0.0);
+        QCOMPARE(refused(), QStringLiteral("aso amo in aso"));
+        edit("amo")->setVal(double(record.aso)); // equal is in order
+        QCOMPARE(marked(), QStringLiteral(" in aso"));
+        QCOMPARE(refused(), QStringLiteral("asui amui in asui"));
+        edit("amui")->setVal(double(plib::NotSet));
+        edit("amoi")->setVal(NAN); // cannot be compared
+        QCOMPARE(refused(), QStringLiteral("asoi amoi in asoi"));
+        edit("asoi")->clear();
         pressOk(dialog.get());
         QVERIFY(!dialog->isVisible());
     }
@@ -214,6 +225,11 @@ private Q_SLOTS:
         QVERIFY(isHeld(reinforcement.get(), find<QLineEdit>(*reinforcement, "amuq")));
         const auto cracks = open<dlgCrackControl>(&record);
         QVERIFY(isHeld(cracks.get(), find<QComboBox>(*cracks, "m_pSIGU")->lineEdit()));
+        auto direction = find<VKD_H_LineEdit>(*directions, "rio");
+        direction->setText(QStringLiteral("-90")); // around a point
+        QCOMPARE(direction->doubt(), QString());
+        direction->setText(QStringLiteral("-181"));
+        QVERIFY(!direction->doubt().isEmpty());
     }
 
     void calculatorsWorkOnTheirOwnField()

@@ -5,6 +5,7 @@
 #include <VKD_A_BarDiameterCombo.h>
 #include <vkd_a_ReinforcementCalculation.h>
 #include <VKD_H_LineEdit.h>
+#include <vkd_h_units.h>
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -91,8 +92,13 @@ private Q_SLOTS:
         {
             VkdBarLayout layout; // mm, m, bars
             double area;
-        } rows[] = {{{10, 0.150, 1}, 5.24},  {{12, 0.100, 1}, 11.31}, {{8, 0.200, 1}, 2.51},
-                    {{28, 0.075, 1}, 82.10}, {{6, 0.250, 1}, 1.13},   {{16, 0.125, 2}, 32.17}};
+        } rows[] = {{{10, 0.150, 1}, 5.24},
+                    {{12, 0.100, 1}, 11.31},
+                    {{8, 0.200, 1}, 2.51},
+                    {{28, 0.075, 1}, 82.10},
+                    {{6, 0.250, 1}, 1.13},
+                    {{16, 0.125, 2}, 32.17},
+                    {{40, 0.050, 1}, vkd_h_plausibleRange(1021).maximum}};
         for (const auto& [layout, area] : rows) {
             QCOMPARE(vkd_a_barFault(layout), VkdBarFault::None);
             QCOMPARE(vkd_a_roundedBarArea(layout), area);

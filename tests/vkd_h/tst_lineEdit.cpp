@@ -289,6 +289,55 @@ private Q_SLOTS:
         QCOMPARE(dialog.box.result(), int(QDialog::Accepted));
     }
 
+    /// Such values count, with a sentence.
+    void doubts_data()
+    {
+        const Columns<int, QString> columns("code", "doubt");
+        const auto row = [&columns](int code, const char* typed, const char* usual = nullptr) {
+            const QString doubt =
+                usual ? QString::fromUtf8(usual) +
+                            QStringLiteral(" is usual here. The value counts all the same.")
+                      : QString();
+            columns(typed, code, doubt);
+        };
+        row(5, "180");
+        row(5, "180.1", "0.0° to 180.0°");
+        row(5, "-1", "0.0° to 180.0°");
+        row(Distance, "300");
+        row(Distance, "300.1", "0.0 mm to 300.0 mm");
+        row(Crack, "1");
+        row(Crack, "1,01", "0.00 mm to 1.00 mm");
+        row(1092, "600");
+        row(1092, "601", "0.0 N/mm² to 600.0 N/mm²");
+        row(1021, "251.33");
+        row(1021, "252", "0.00 cm²/m to 251.33 cm²/m");
+        row(1001, "99999");
+        row(-1, "99999");
+        row(Distance, "");
+        row(Distance, "abc");
+    }
+
+    void doubts()
+    {
+        QFETCH(int, code);
+        QFETCH(QString, doubt);
+        Dialog dialog;
+        VKD_H_LineEdit* edit = field(&dialog.box, code);
+        dialog.box.layout()->addWidget(edit);
+        edit->show();
+        edit->setFocus();
+        type(edit, QTest::currentDataTag());
+        QCOMPARE(edit->doubt(), doubt);
+        const bool isRefused = !edit->refusal().isEmpty();
+        QCOMPARE(!doubt.isEmpty(), !isRefused && messageOf(edit) && messageOf(edit)->isVisible());
+        QVERIFY(edit->accessibleDescription().startsWith(doubt) &&
+                edit->toolTip().startsWith(doubt));
+        const double value = edit->getVal();
+        dialog.box.accept();
+        QCOMPARE(dialog.box.isVisible(), isRefused);
+        QCOMPARE(edit->getVal(), value);
+    }
+
     void mouse()
     {
         Dialog dialog;

@@ -2,19 +2,23 @@
 
 #include "StructLineEdit.h"
 #include "vkd_h_export.h"
+#include "vkd_h_units.h"
 
 #include <VKD_QT_InputField.h>
 
 #include <QLineEdit>
 
-class FieldMessage;
+#include <memory>
+
+class FieldMark;
 
 /// An input field for a number of a dimension, in base units for its callers and in the shown unit
 /// for its users; also as the line edit of an editable combo box with preset texts. A value that is
 /// only shown comes back bit for bit, however few digits stand there. Text that is no acceptable
 /// number stays, marked and with a message at the field, until it is mended or Escape brings the
 /// last value's text back; meanwhile that value is the one that counts, and no dialog is accepted
-/// (VKD_QT_Dialog.h). Users of this class link vkd_qt.
+/// (VKD_QT_Dialog.h). A value that can hardly be meant is marked in another colour, with a
+/// sentence, and counts. Users of this class link vkd_qt.
 class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit, public VKD_QT_InputField
 {
     Q_OBJECT
@@ -26,6 +30,7 @@ public:
     /// explanation. `showsUnit` shows the unit in the field.
     VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, const char* objectName,
                    const QString& text, const QString& secondText, bool showsUnit);
+    ~VKD_H_LineEdit() override;
 
     /// Shows a value in base units, any that is. As the line edit of a combo box this is to be
     /// called after the entries are in, because the combo box puts its current entry into the
@@ -41,10 +46,21 @@ public:
 
     QString refusal() const override;
     void showRefusal() override;
+    /// Why the value can hardly be meant; empty without a doubt, and for a refused text.
+    QString doubt() const;
+    /// In place of the range of the dimension.
+    void setPlausibleRange(const VkdPlausibleRange& range);
+
+    /// Marks the field like a refused one, for a reason that its dialog knows, until its text
+    /// changes, and shows the reason if it has the focus.
+    void setFault(const QString& reason);
 
     /// Room for a number of nine characters and what stands around it.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+public Q_SLOTS:
+    void clearFault();
 
 Q_SIGNALS:
     /// getVal() gives another value than before, because the user typed or chose a preset text.
@@ -66,10 +82,8 @@ private:
     bool restoreText();
     void dropInlineCompletion();
     void setTips();
-    void setMark(const QString& reason);
+    void updateMark(bool mayGrow = false);
     void setMargins();
-    void showMessage();
-    void hideMessage();
 
     StructLineEdit m_description;
     QString m_name;
@@ -78,10 +92,10 @@ private:
     double m_value; ///< the value kept, which the text m_shown stands for, exactly
     double m_told;  ///< the value of the last valueChanged()
     QString m_shown;
-    QString m_mark; ///< the reason that the mark stands for; empty without a mark
+    QString m_fault;
+    VkdPlausibleRange m_plausible;
+    std::unique_ptr<FieldMark> m_mark;
     bool m_isTyped = false;
-    QString m_about;      ///< the accessible description while there is no mark
     bool m_wasIn = false; ///< the focus went to a list or another window, and may come back
     bool m_selectsAll = false;
-    FieldMessage* m_message = nullptr; ///< made when it is first needed
 };

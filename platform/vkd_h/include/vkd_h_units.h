@@ -30,6 +30,25 @@ struct VkdDimension
 /// The dimension of a code; one without unit and with the factor 1 for unknown codes.
 VKD_H_EXPORT VkdDimension vkd_h_dimension(int code);
 
+/// The values of a dimension that can be meant, in base units. A field takes others as well, but
+/// says that they are unusual.
+struct VkdPlausibleRange
+{
+    int code;
+    double minimum;
+    double maximum;
+};
+
+/// What directions are counted by, where that makes a difference.
+enum class VkdDirections {
+    HalfTurn, ///< of bars in a plane, 0 to 180 degrees
+    Signed    ///< around a point, -180 to 180 degrees
+};
+
+/// Everything that is finite for a code whose values are not limited by what can be built.
+VKD_H_EXPORT VkdPlausibleRange
+vkd_h_plausibleRange(int code, VkdDirections directions = VkdDirections::HalfTurn);
+
 /// A value in base units as the number that users of this dimension read, without its unit. The
 /// third argument is part of the suite's interface; -1 is to be passed.
 VKD_H_EXPORT QString vkd_h_getDimStringFromVal(double value, int code, int unused);

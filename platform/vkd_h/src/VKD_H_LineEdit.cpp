@@ -1,7 +1,6 @@
 #include "VKD_H_LineEdit.h"
 
-#include "fieldMark.h"
-#include "FieldMessage.h"
+#include "FieldMark.h"
 #include "refusalText.h"
 #include "vkd_h_numberText.h"
 
@@ -44,6 +43,8 @@ VKD_H_LineEdit::VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, con
     , m_showsUnit(showsUnit)
     , m_value(m_description.value)
     , m_told(m_value)
+    , m_plausible(vkd_h_plausibleRange(m_description.dimension))
+    , m_mark(new FieldMark(this))
 {
     setObjectName(QLatin1String(objectName));
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -55,12 +56,15 @@ VKD_H_LineEdit::VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, con
     setVal(m_value);
 }
 
+VKD_H_LineEdit::~VKD_H_LineEdit() = default;
+
 void VKD_H_LineEdit::setVal(double value)
 {
     m_value = m_told = value;
     m_shown = vkd_h_numberText(value, m_description);
     setText(m_shown);
-    setMark(QString()); // the text may have been the same, and then no signal came
+    m_fault.clear(); // the text may have been the same, and then no signal came
+    updateMark();
 }
 
 double VKD_H_LineEdit::getVal() const
@@ -82,8 +86,32 @@ QString VKD_H_LineEdit::refusal() const
 void VKD_H_LineEdit::showRefusal()
 {
     setFocus();
-    setMark(refusal());
-    showMessage();
+    updateMark();
+    m_mark->showMessage();
+}
+
+QString VKD_H_LineEdit::doubt() const
+{
+    return refusal().isEmpty() ? doubtText(getVal(), m_plausible, m_description) : QString();
+}
+
+void VKD_H_LineEdit::setPlausibleRange(const VkdPlausibleRange& range)
+{
+    m_plausible = range;
+    updateMark();
+}
+
+void VKD_H_LineEdit::setFault(const QString& reason)
+{
+    m_fault = reason;
+    updateMark();
+    if (hasFocus() && !reason.isEmpty())
+        m_mark->showMessage();
+}
+
+void VKD_H_LineEdit::clearFault()
+{
+    setFault(QString());
 }
 
 /// Text that the user did not type is a preset and counts at once: Escape does not undo it.
@@ -95,10 +123,10 @@ void VKD_H_LineEdit::takeText(const QString& text)
         m_value = reading.value;
         m_shown = text;
     }
-    const bool mayGrow = isTyped && reading.state == VkdNumberState::Incomplete;
-    setMark(mayGrow ? QString() : refusal());
-    if (isTyped && !m_mark.isEmpty() && hasFocus())
-        showMessage();
+    m_fault.clear();
+    updateMark(isTyped && reading.state == VkdNumberState::Incomplete);
+    if (isTyped && !m_mark->text().isEmpty() && hasFocus())
+        m_mark->showMessage();
     if (!isSame(m_told, getVal())) {
         m_told = getVal();
         Q_EMIT valueChanged();
@@ -139,24 +167,22 @@ void VKD_H_LineEdit::setTips()
                          : m_name.isEmpty() ? unit
                                             : tr("%1 in %2").arg(m_name, unit);
     setAccessibleName(name);
-    QStringList lines{m_mark, name, m_explanation};
+    QStringList lines{m_mark->text(), name, m_explanation};
     lines.removeAll(QString());
     setToolTip(lines.join(QLatin1Char('\n')));
 }
 
-void VKD_H_LineEdit::setMark(const QString& reason)
+/// A text that could become a number by typing on is not marked as yet.
+void VKD_H_LineEdit::updateMark(bool mayGrow)
 {
-    const QString mark = reason.isEmpty()
-                             ? reason
-                             : reason + QLatin1Char('\n') + keptValueText(m_value, m_description);
-    if (mark.isEmpty())
-        hideMessage();
-    if (mark == m_mark)
+    const QString reason = mayGrow ? QString() : refusal();
+    const bool isRefused = !reason.isEmpty() || !m_fault.isEmpty();
+    const QString text = !reason.isEmpty()
+                             ? reason + QLatin1Char('\n') + keptValueText(m_value, m_description)
+                         : !m_fault.isEmpty() ? m_fault
+                                              : doubt();
+    if (!m_mark->set(isRefused ? FieldMarkKind::Refused : FieldMarkKind::Doubted, text))
         return;
-    if (m_mark.isEmpty())
-        m_about = accessibleDescription();
-    setAccessibleDescription(mark.isEmpty() ? m_about : mark + QLatin1Char('\n') + m_about);
-    m_mark = mark;
     setTips();
     setMargins();
     update();
@@ -168,24 +194,9 @@ void VKD_H_LineEdit::setMargins()
         return text.isEmpty() ? 0 : fontMetrics().horizontalAdvance(text) + Gap;
     };
     const int unit = m_showsUnit ? widthOf(vkd_h_suffixText(m_description)) : 0;
-    const int mark = m_mark.isEmpty() ? 0 : fieldMarkWidth(*this) + Gap;
+    const int mark = m_mark->width() > 0 ? m_mark->width() + Gap : 0;
     setTextMargins(widthOf(m_description.prefix), 0, unit + mark, 0);
     updateGeometry();
-}
-
-void VKD_H_LineEdit::showMessage()
-{
-    if (!isVisible())
-        return;
-    if (!m_message)
-        m_message = new FieldMessage(this);
-    m_message->showText(m_mark);
-}
-
-void VKD_H_LineEdit::hideMessage()
-{
-    if (m_message)
-        m_message->hide();
 }
 
 QSize VKD_H_LineEdit::sizeHint() const
@@ -221,15 +232,14 @@ void VKD_H_LineEdit::changeEvent(QEvent* event)
     QLineEdit::changeEvent(event);
     switch (event->type()) {
     case QEvent::LanguageChange:
-        if (text() != m_shown)
-            setMark(refusal());
-        else if (!(m_description.flags & StructLineEdit::TextForPrograms))
+        if (text() == m_shown && !(m_description.flags & StructLineEdit::TextForPrograms))
             setVal(m_value);
+        updateMark();
         setTips();
         break;
     case QEvent::FontChange:
     case QEvent::StyleChange: setMargins(); break;
-    case QEvent::ActivationChange: hideMessage(); break;
+    case QEvent::ActivationChange: m_mark->hideMessage(); break;
     default: break;
     }
 }
@@ -238,12 +248,11 @@ void VKD_H_LineEdit::keyPressEvent(QKeyEvent* event)
 {
     dropInlineCompletion();
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const QString reason = refusal();
     if (event->key() == Qt::Key_Escape && restoreText())
         return;
-    if (isEnter && !reason.isEmpty()) { // and not on to the dialog's OK
-        setMark(reason);
-        showMessage();
+    if (isEnter && !refusal().isEmpty()) { // and not on to the dialog's OK
+        updateMark();
+        m_mark->showMessage();
         return;
     }
     if (isEnter)
@@ -259,23 +268,23 @@ void VKD_H_LineEdit::focusInEvent(QFocusEvent* event)
     QLineEdit::focusInEvent(event);
     if (!wasIn && !m_selectsAll) // with the mouse when its button is released
         selectAll();
-    if (!m_mark.isEmpty() && event->reason() != Qt::PopupFocusReason)
-        showMessage();
+    if (!m_mark->text().isEmpty() && event->reason() != Qt::PopupFocusReason)
+        m_mark->showMessage();
 }
 
 void VKD_H_LineEdit::focusOutEvent(QFocusEvent* event)
 {
     const bool staysIn =
         event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
-    const QString reason = refusal();
-    if (!staysIn && reason.isEmpty())
+    const bool isRefused = !refusal().isEmpty();
+    if (!staysIn && !isRefused)
         keepText();
     m_wasIn = staysIn;
     QLineEdit::focusOutEvent(event);
-    if (staysIn || reason.isEmpty())
+    if (staysIn || !isRefused)
         return;
-    setMark(reason);
-    showMessage();
+    updateMark();
+    m_mark->showMessage();
 }
 
 void VKD_H_LineEdit::mouseReleaseEvent(QMouseEvent* event)
@@ -287,7 +296,7 @@ void VKD_H_LineEdit::mouseReleaseEvent(QMouseEvent* event)
 
 void VKD_H_LineEdit::hideEvent(QHideEvent* event)
 {
-    hideMessage();
+    m_mark->hideMessage();
     QLineEdit::hideEvent(event);
 }
 
@@ -299,10 +308,9 @@ void VKD_H_LineEdit::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     QRect place = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
     place.adjust(Gap / 2, 0, -Gap / 2, 0);
-    if (!m_mark.isEmpty()) {
-        paintFieldMark(&painter, *this, place);
-        place.setRight(place.right() - fieldMarkWidth(*this) - Gap);
-    }
+    m_mark->paint(&painter, place);
+    if (m_mark->width() > 0)
+        place.setRight(place.right() - m_mark->width() - Gap);
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     painter.setPen(dimmed(palette().color(group, QPalette::Text)));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, m_description.prefix);

@@ -2,6 +2,7 @@
 
 #include "VKD_H_LineEdit.h"
 #include "vkd_h_numberText.h"
+#include "vkd_h_units.h"
 
 namespace {
 QString withUnit(double value, const StructLineEdit& description)
@@ -32,6 +33,16 @@ QString refusalText(VkdNumberState state, const QString& text, const StructLineE
     case VkdNumberState::NoNumber: break;
     }
     return VKD_H_LineEdit::tr("“%1” is not a number.").arg(text);
+}
+
+QString doubtText(double value, const VkdPlausibleRange& range, const StructLineEdit& description)
+{
+    const bool isUsual =
+        float(value) >= float(range.minimum) && float(value) <= float(range.maximum);
+    if (isUsual || vkd_h_isNotSet(value, description))
+        return QString();
+    return VKD_H_LineEdit::tr("%1 to %2 is usual here. The value counts all the same.")
+        .arg(withUnit(range.minimum, description), withUnit(range.maximum, description));
 }
 
 QString keptValueText(double value, const StructLineEdit& description)

@@ -3,6 +3,7 @@
 #include "shownNumber.h"
 #include "VKD_H_UnitLabel.h"
 
+#include <limits>
 #include <vector>
 
 namespace {
@@ -13,6 +14,18 @@ constexpr VkdDimension Dimensions[] = {
     {1023, 1.0, "mm", 0},          {1024, 1000.0, "mm", 1}, {1026, 1.0, "mm", 2},
     {1092, 1.0, "N/mm²", 1},
 };
+
+constexpr int DirectionCode = 5;
+constexpr double HalfTurn = 180.0 / DegreesPerRadian;
+
+constexpr VkdPlausibleRange Plausible[] = {
+    {DirectionCode, 0.0, HalfTurn},
+    {1021, 0.0, 251.33}, // bars of 40 mm, the largest, at 50 mm
+    {1024, 0.0, 0.3},
+    {1026, 0.0, 1.0},
+    {1092, 0.0, 600.0},
+};
+constexpr VkdPlausibleRange SignedDirections{DirectionCode, -HalfTurn, HalfTurn};
 } // namespace
 
 VkdDimension vkd_h_dimension(int code)
@@ -21,6 +34,16 @@ VkdDimension vkd_h_dimension(int code)
         if (dimension.code == code)
             return dimension;
     return {code, 1.0, "", -1};
+}
+
+VkdPlausibleRange vkd_h_plausibleRange(int code, VkdDirections directions)
+{
+    if (code == DirectionCode && directions == VkdDirections::Signed)
+        return SignedDirections;
+    for (const VkdPlausibleRange& range : Plausible)
+        if (range.code == code)
+            return range;
+    return {code, std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max()};
 }
 
 QString vkd_h_getNumberString(double value, int decimals)

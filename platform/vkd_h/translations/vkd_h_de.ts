@@ -173,6 +173,10 @@ Komma und Punkt sind beide eines; ein Tausendertrennzeichen gibt es nicht.</tran
         <translation>%1 ist zu groß; der größte Wert ist %2.</translation>
     </message>
     <message>
+        <source>%1 to %2 is usual here. The value counts all the same.</source>
+        <translation>Üblich ist hier %1 bis %2. Der Wert gilt trotzdem.</translation>
+    </message>
+    <message>
         <source>%1 is too small; the smallest value is %2.</source>
         <translation>%1 ist zu klein; der kleinste Wert ist %2.</translation>
     </message>

@@ -129,6 +129,8 @@ VKD_QT_GroupBox* dlgDistanceDirection::circular()
     VKD_QT_GridLayout* grid = newGrid(tr("Direction / Distance"), "direction_distance", &box);
     addHeader(grid);
     addRow(grid, 1, tr("Direction (-180 ... 180)"), &D::rio, &D::riu);
+    for (VKD_H_LineEdit* edit : {rio, riu})
+        edit->setPlausibleRange(vkd_h_plausibleRange(DirectionCode, VkdDirections::Signed));
     addRow(grid, 2, tr("Distance of Principal Reinforcement (H)"), &D::hio, &D::hiu);
     addRow(grid, 3, tr("Distance of Cross Reinforcement (DH)"), &D::hioq, &D::hiuq);
     addNote(grid);

@@ -13,6 +13,8 @@
 #include <VKD_QT_InputField.h>
 #include <VKD_QT_MessageBox.h>
 
+#include <algorithm>
+
 namespace {
 using R = tagZOB_QUAD_RIM;
 
@@ -31,6 +33,12 @@ constexpr PairOfLimits Pairs[] = {
     {&R::aso, &R::amo},   {&R::asu, &R::amu},   {&R::asoq, &R::amoq},
     {&R::asuq, &R::amuq}, {&R::asoi, &R::amoi}, {&R::asui, &R::amui},
 };
+
+/// In single precision, as the record keeps the values. What cannot be compared is not in order.
+bool isInOrder(float minimum, float maximum)
+{
+    return minimum == plib::NotSet || maximum == plib::NotSet || maximum >= minimum;
+}
 
 enum Column {
     TextColumn = 0,
@@ -173,10 +181,25 @@ void dlgReinforcement::writeToRecord(tagZOB_QUAD_RIM* record) const
     }
 }
 
-/// In single precision, as the record keeps the values. What cannot be compared is not in order.
+/// Whoever meets the warning finds the fields of the pair marked, and is in the first of them.
+void dlgReinforcement::markPair(plib::RealField minimum)
+{
+    const auto layer = std::find_if(std::begin(Layers), std::end(Layers),
+                                    [&](const Layer& any) { return any.minimumField == minimum; });
+    VKD_H_LineEdit* lower = this->*layer->minimum;
+    VKD_H_LineEdit* upper = this->*layer->maximum;
+    lower->setFocus();
+    for (VKD_H_LineEdit* edit : {upper, lower})
+        edit->setFault(tr("Min greater than Max is not allowed!"));
+    connect(lower, &QLineEdit::textChanged, upper, &VKD_H_LineEdit::clearFault,
+            Qt::UniqueConnection);
+    connect(upper, &QLineEdit::textChanged, lower, &VKD_H_LineEdit::clearFault,
+            Qt::UniqueConnection);
+}
+
 bool dlgReinforcement::checkMinMax(float minimum, float maximum)
 {
-    if (minimum == plib::NotSet || maximum == plib::NotSet || maximum >= minimum)
+    if (isInOrder(minimum, maximum))
         return true;
     VKD_QT_MessageBox::warning(this, tr("Warning"), tr("Min greater than Max is not allowed!"),
                                QString(), QString(), QString(), 0, -1);
@@ -189,9 +212,13 @@ void dlgReinforcement::accept()
         return;
     tagZOB_QUAD_RIM scratch{};
     writeToRecord(&scratch);
-    for (const PairOfLimits& pair : Pairs)
-        if (!checkMinMax(scratch.*pair.minimum, scratch.*pair.maximum))
-            return; // one message at a time, however many pairs are wrong
+    for (const PairOfLimits& pair : Pairs) {
+        if (isInOrder(scratch.*pair.minimum, scratch.*pair.maximum))
+            continue;
+        markPair(pair.minimum);
+        checkMinMax(scratch.*pair.minimum, scratch.*pair.maximum);
+        return; // one message at a time, however many pairs are wrong
+    }
     QDialog::accept();
 }
 

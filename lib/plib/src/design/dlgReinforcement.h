@@ -1,5 +1,7 @@
 #pragma once
 
+#include "designFields.h"
+
 #include <tagZOB_QUAD_RIM.h>
 
 #include <VKD_QT_Dialog.h>
@@ -51,6 +53,7 @@ private:
     void addCalculator(VKD_QT_GridLayout* grid, int row, int column, Slot slot,
                        const QString& about);
     void showValues(const tagZOB_QUAD_RIM& record);
+    void markPair(plib::RealField minimum);
     bool checkMinMax(float minimum, float maximum);
     void calculate(Combo combo, Edit edit);
 
