@@ -378,6 +378,26 @@ private Q_SLOTS:
         QCOMPARE(bitsOf(combo.edit->getVal()), bitsOf(double(std::nextafter(0.3F, 1.0F))));
     }
 
+    /// The arrow keys lead to the presets beside the value that stands there.
+    void typingAfterAPreset()
+    {
+        Combo combo;
+        const auto after = [&combo](const char* typed, Qt::Key key) {
+            combo.box.setCurrentIndex(0);
+            type(combo.edit, typed);
+            const int index = combo.box.currentIndex();
+            QTest::keyClick(&combo.box, key);
+            return QString::number(index) + QLatin1Char(' ') + combo.edit->text();
+        };
+        QCOMPARE(after("0.25", Qt::Key_Down), QStringLiteral("-1 0.30"));
+        QCOMPARE(after("0,25", Qt::Key_Up), QStringLiteral("-1 0.20"));
+        QCOMPARE(after("0.2", Qt::Key_Down), QStringLiteral("1 0.30"));
+        QCOMPARE(after("0.05", Qt::Key_Up), QStringLiteral("-1 0.05")); // there is none below
+        combo.edit->setVal(double(0.2F));
+        QTest::keyClick(&combo.box, Qt::Key_Up);
+        QCOMPARE(combo.edit->text(), QStringLiteral("0.10"));
+    }
+
     void typingInACombo()
     {
         Combo combo;

@@ -11,6 +11,7 @@
 #include <memory>
 
 class FieldMark;
+class QComboBox;
 
 /// An input field for a number of a dimension, in base units for its callers and in the shown unit
 /// for its users; also as the line edit of an editable combo box with preset texts. A value that is
@@ -59,6 +60,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public Q_SLOTS:
     void clearFault();
 
@@ -84,6 +87,9 @@ private:
     void setTips();
     void updateMark(bool mayGrow = false);
     void setMargins();
+    QComboBox* comboBox() const;
+    void followPresets();
+    bool stepToPreset(int key);
 
     StructLineEdit m_description;
     QString m_name;

@@ -1,9 +1,11 @@
 #include "VKD_H_LineEdit.h"
 
 #include "FieldMark.h"
+#include "presetList.h"
 #include "refusalText.h"
 #include "vkd_h_numberText.h"
 
+#include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QPainter>
@@ -65,6 +67,7 @@ void VKD_H_LineEdit::setVal(double value)
     setText(m_shown);
     m_fault.clear(); // the text may have been the same, and then no signal came
     updateMark();
+    followPresets();
 }
 
 double VKD_H_LineEdit::getVal() const
@@ -127,6 +130,7 @@ void VKD_H_LineEdit::takeText(const QString& text)
     updateMark(isTyped && reading.state == VkdNumberState::Incomplete);
     if (isTyped && !m_mark->text().isEmpty() && hasFocus())
         m_mark->showMessage();
+    followPresets();
     if (!isSame(m_told, getVal())) {
         m_told = getVal();
         Q_EMIT valueChanged();
@@ -197,6 +201,50 @@ void VKD_H_LineEdit::setMargins()
     const int mark = m_mark->width() > 0 ? m_mark->width() + Gap : 0;
     setTextMargins(widthOf(m_description.prefix), 0, unit + mark, 0);
     updateGeometry();
+}
+
+QComboBox* VKD_H_LineEdit::comboBox() const
+{
+    auto combo = qobject_cast<QComboBox*>(parentWidget());
+    return combo && combo->lineEdit() == this ? combo : nullptr;
+}
+
+/// The current entry of a combo box is the preset that its field shows, whether chosen or not.
+void VKD_H_LineEdit::followPresets()
+{
+    QComboBox* combo = comboBox();
+    if (!combo)
+        return;
+    combo->installEventFilter(this);
+    const bool isValue = refusal().isEmpty() && !text().isEmpty();
+    markPreset(combo, isValue ? presetAt(*combo, getVal(), m_description) : -1);
+}
+
+/// From a value between presets Up and Down lead to those beside it.
+bool VKD_H_LineEdit::stepToPreset(int key)
+{
+    QComboBox* combo = comboBox();
+    const bool isGreater = key == Qt::Key_Down || key == Qt::Key_PageDown;
+    if (!isGreater && key != Qt::Key_Up && key != Qt::Key_PageUp)
+        return false;
+    if (!combo || combo->currentIndex() >= 0 || text().isEmpty() || !refusal().isEmpty())
+        return false;
+    const int entry = presetBeside(*combo, getVal(), isGreater, m_description);
+    if (entry >= 0) {
+        combo->setCurrentIndex(entry);
+        Q_EMIT combo->activated(entry);
+    }
+    return true;
+}
+
+bool VKD_H_LineEdit::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == comboBox() && event->type() == QEvent::KeyPress) {
+        const auto press = static_cast<QKeyEvent*>(event);
+        const bool isPlain = !(press->modifiers() & ~Qt::KeypadModifier);
+        return isPlain && stepToPreset(press->key());
+    }
+    return QLineEdit::eventFilter(watched, event);
 }
 
 QSize VKD_H_LineEdit::sizeHint() const
