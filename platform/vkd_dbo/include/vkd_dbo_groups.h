@@ -19,6 +19,12 @@ struct GroupContents
     int bricks = 0;
 };
 
+/// Whether the design of area elements finds something to work on in such a group.
+inline bool hasAreas(const GroupContents& contents)
+{
+    return contents.quads > 0;
+}
+
 /// A primary group, or a secondary one, which has a name in place of a number and holds quads and
 /// beams only.
 struct GroupSummary

@@ -34,22 +34,26 @@ class VKD_H_EXPORT VKD_H_GroupDialog : public VKD_QT_Dialog
     Q_OBJECT
 
 public:
-    /// Delivers the confirmed groups in ascending order in place of what the list held; before that
-    /// those that the dialog was opened with. Groups of the other kind, and -1 for the remaining
-    /// ones, are never among them. Returns 0.
+    /// Delivers the confirmed groups in ascending order in place of what the list held. Those
+    /// checked replace all that the dialog was opened with, groups of the other kind and -1 for the
+    /// remaining ones too. If nothing was changed, and before OK, that is still the whole list.
+    /// Returns 0.
     int getChecked(std::vector<int>& groups) const;
 
     void accept() override;
 
 protected:
     /// The document, which may be null, is read here and not kept. What `checked` holds besides
-    /// groups of this kind is passed over; of those that the model lacks each gets a row.
+    /// groups of this kind is not shown; of those that the model lacks each gets a row.
     /// `usedElsewhere` are the groups of the caller's other rows, which may be taken over.
     VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* doc,
                       const std::vector<int>& checked, const std::vector<int>& usedElsewhere,
                       QWidget* parent, const char* name);
 
     bool hasGroups() const;
+    /// The groups that stand checked, with those that are typed and not yet in the list. Typed text
+    /// that cannot be read counts for nothing.
+    std::vector<int> presentChoice();
     /// Puts a button at the left of the foot, ahead of OK in the order of tabs. Becomes its owner.
     void addFootButton(QPushButton* button);
 
@@ -67,9 +71,11 @@ private:
 
     void checkShown(bool checked);
     void toggle(const QModelIndexList& rows);
-    /// Checks what the field names and empties it. False, with a message, if a part of it cannot be
-    /// read or names nothing.
+    /// Checks what the field names and leaves in it the parts that cannot be read or name nothing.
+    /// False, with a message, if there are any. The message may also say something about groups
+    /// that are checked.
     bool applyInput();
+    bool hasInput() const;
     void showMessage(const QString& text);
     void updateCount();
 
@@ -86,7 +92,9 @@ private:
     QPushButton* m_check = nullptr;
     QLabel* m_message = nullptr;
     QLabel* m_count = nullptr;
+    QLabel* m_notShown = nullptr;
     QHBoxLayout* m_foot = nullptr;
     VKD_QT_Ok* m_ok = nullptr;
+    const std::vector<int> m_opened; ///< as the caller has them, of both kinds
     std::vector<int> m_confirmed;
 };

@@ -21,6 +21,8 @@ QString remark(const GroupRow& row, bool isChecked)
     QStringList texts;
     if (!row.isInModel)
         texts << DialogText::tr("not in the model");
+    if (!row.hasAreas)
+        texts << DialogText::tr("no area elements");
     if (row.isTaken)
         texts << (isChecked ? DialogText::tr("also in another row")
                             : DialogText::tr("used by another row"));
@@ -101,8 +103,9 @@ int GroupTableModel::rowOf(int group) const
 
 bool GroupTableModel::hasRemarks() const
 {
-    return std::any_of(m_rows.begin(), m_rows.end(),
-                       [](const GroupRow& row) { return row.isTaken || !row.isInModel; });
+    return std::any_of(m_rows.begin(), m_rows.end(), [](const GroupRow& row) {
+        return row.isTaken || !row.isInModel || !row.hasAreas;
+    });
 }
 
 void GroupTableModel::languageChanged()
@@ -198,7 +201,7 @@ QVariant GroupTableModel::sortValue(const GroupRow& row, int column) const
     switch (column) {
     case Group: return m_kind == VKD_H_GroupKind::Secondary ? QVariant(row.name) : row.group;
     case Contents: return row.elements;
-    case Remark: return (row.isInModel ? 0 : 2) + (row.isTaken ? 1 : 0);
+    case Remark: return (row.isInModel ? 0 : 4) + (row.hasAreas ? 0 : 2) + (row.isTaken ? 1 : 0);
     default: return row.title;
     }
 }

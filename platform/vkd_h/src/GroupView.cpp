@@ -66,6 +66,12 @@ QSize GroupView::sizeHint() const
             header()->sizeHint().height() + rows * sizeHintForRow(0) + frame};
 }
 
+void GroupView::focusInEvent(QFocusEvent* event)
+{
+    QTreeView::focusInEvent(event);
+    Q_EMIT reached();
+}
+
 void GroupView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier) {

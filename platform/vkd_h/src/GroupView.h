@@ -24,8 +24,11 @@ public:
 Q_SIGNALS:
     /// The space bar was pressed; `rows` are the first indexes of the selected rows, never none.
     void toggleRequested(const QModelIndexList& rows);
+    /// The focus came, and the user may change the list next.
+    void reached();
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     QStyleOptionViewItem viewOptions() const override;

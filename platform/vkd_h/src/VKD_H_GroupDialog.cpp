@@ -1,8 +1,10 @@
 #include "VKD_H_GroupDialog.h"
 
+#include "groupChoice.h"
 #include "GroupFilterModel.h"
 #include "groupInput.h"
 #include "GroupTableModel.h"
+#include "groupTexts.h"
 #include "GroupView.h"
 #include "VKD_H_ZOBDoc.h"
 
@@ -25,19 +27,6 @@ using vkd::h::GroupTableModel;
 using vkd::h::GroupView;
 
 namespace {
-/// A few of the parts of an input: what was pasted may be long.
-QString listed(const QStringList& parts)
-{
-    constexpr int Most = 5;
-    constexpr int Longest = 20;
-    QStringList shown;
-    for (const QString& part : parts.mid(0, Most))
-        shown << (part.size() > Longest ? part.left(Longest) + QChar(0x2026) : part);
-    if (parts.size() > Most)
-        shown << QString(QChar(0x2026));
-    return shown.join(QLatin1String(", "));
-}
-
 /// In the empty field, which is wide enough for it and for the button that clears.
 void showHint(QLineEdit* field, const QString& hint)
 {
@@ -62,7 +51,8 @@ VKD_H_GroupDialog::VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* d
     , m_groups(new GroupTableModel(
           kind, vkd::h::groupRows(kind, doc ? doc->index() : -1, checked, usedElsewhere), this))
     , m_shown(new GroupFilterModel(m_groups, this))
-    , m_confirmed(m_groups->checkedGroups())
+    , m_opened(checked)
+    , m_confirmed(vkd::h::confirmedGroups(kind, checked, m_groups->checkedGroups()))
 {
     setModal(true);
     auto layout = new VKD_QT_VBoxLayout(this);
@@ -89,14 +79,31 @@ int VKD_H_GroupDialog::getChecked(std::vector<int>& groups) const
     return 0;
 }
 
+/// What was typed is meant, even without Enter. If there is something to say about it, the user is
+/// to read it first.
 void VKD_H_GroupDialog::accept()
 {
-    if (m_input && !applyInput()) { // what was typed is meant, even without Enter
-        m_input->setFocus();
-        return;
+    if (hasInput()) {
+        const bool isRead = applyInput();
+        if (!isRead)
+            m_input->setFocus();
+        if (!isRead || !m_message->text().isEmpty())
+            return;
     }
-    m_confirmed = m_groups->checkedGroups();
+    m_confirmed = vkd::h::confirmedGroups(m_kind, m_opened, m_groups->checkedGroups());
     VKD_QT_Dialog::accept();
+}
+
+std::vector<int> VKD_H_GroupDialog::presentChoice()
+{
+    if (hasInput())
+        applyInput();
+    return m_groups->checkedGroups();
+}
+
+bool VKD_H_GroupDialog::hasInput() const
+{
+    return m_input && !m_input->text().trimmed().isEmpty();
 }
 
 bool VKD_H_GroupDialog::hasGroups() const
@@ -167,13 +174,15 @@ void VKD_H_GroupDialog::addList(QVBoxLayout* layout)
     m_view->setModel(m_shown);
     m_view->setSortingEnabled(true); // first, because the marks of the header need room
     m_view->sortByColumn(GroupTableModel::Group, Qt::AscendingOrder);
-    const int first = m_confirmed.empty() ? 0 : m_groups->rowOf(m_confirmed.front());
-    m_view->setCurrentIndex(m_confirmed.empty()
-                                ? m_shown->index(0, 0)
-                                : m_shown->mapFromSource(m_groups->index(first, 0)));
+    const std::vector<int> checked = m_groups->checkedGroups();
+    const int first = checked.empty() ? 0 : m_groups->rowOf(checked.front());
+    m_view->setCurrentIndex(checked.empty() ? m_shown->index(0, 0)
+                                            : m_shown->mapFromSource(m_groups->index(first, 0)));
     m_view->setFocus();
     layout->addWidget(m_view, 1);
     connect(m_view, &GroupView::toggleRequested, this, &VKD_H_GroupDialog::toggle);
+    // Who typed and then works in the list sees there what was typed, and may take it back.
+    connect(m_view, &GroupView::reached, this, &VKD_H_GroupDialog::presentChoice);
     connect(m_groups, &GroupTableModel::dataChanged, this, &VKD_H_GroupDialog::updateCount);
 }
 
@@ -196,6 +205,11 @@ void VKD_H_GroupDialog::addInputLine(QVBoxLayout* layout)
     m_count = new VKD_QT_Label(this, "count");
     m_count->setWordWrap(true);
     layout->addWidget(m_count);
+    m_notShown = new VKD_QT_Label(this, "notShown");
+    m_notShown->setTextFormat(Qt::PlainText);
+    m_notShown->setWordWrap(true);
+    m_notShown->setVisible(!vkd::h::groupsNotShown(m_kind, m_opened).empty());
+    layout->addWidget(m_notShown);
     connect(m_input, &QLineEdit::textEdited, this, [this] { showMessage(QString()); });
     connect(m_check, &QPushButton::clicked, this, &VKD_H_GroupDialog::applyInput);
 }
@@ -256,21 +270,18 @@ bool VKD_H_GroupDialog::applyInput()
         m_kind == VKD_H_GroupKind::Secondary ? vkd::h::readNames : vkd::h::readNumbers;
     const GroupInput input = read(m_input->text(), m_groups->groups());
     QVector<int> rows;
-    for (int group : input.groups)
+    std::vector<int> withoutAreas;
+    for (int group : input.groups) {
         rows << m_groups->rowOf(group);
+        if (!m_groups->rows()[rows.last()].hasAreas)
+            withoutAreas.push_back(group);
+    }
     m_groups->setChecked(rows, true);
-    QStringList messages;
-    if (!input.unreadable.isEmpty())
-        messages << tr("Cannot read: %1. Type numbers and ranges such as 1-5 9.")
-                        .arg(listed(input.unreadable));
-    if (!input.missing.isEmpty())
-        messages << tr("There is no group %1.").arg(listed(input.missing));
-    showMessage(messages.join(QLatin1Char('\n')));
-    if (messages.isEmpty())
-        m_input->clear();
-    else
-        m_input->selectAll();
-    return messages.isEmpty();
+    const QStringList refused = input.unreadable + input.missing;
+    showMessage(vkd::h::inputText(input, withoutAreas));
+    m_input->setText(refused.join(QLatin1Char(' '))); // what is in the list is not typed any more
+    m_input->selectAll();
+    return refused.isEmpty();
 }
 
 void VKD_H_GroupDialog::showMessage(const QString& text)
@@ -282,18 +293,6 @@ void VKD_H_GroupDialog::showMessage(const QString& text)
 
 void VKD_H_GroupDialog::updateCount()
 {
-    const QVector<GroupRow>& rows = m_groups->rows();
-    const auto isChecked = [](const GroupRow& row) { return row.isChecked; };
-    const auto isTakenOver = [](const GroupRow& row) { return row.isChecked && row.isTaken; };
-    const auto checked = int(std::count_if(rows.begin(), rows.end(), isChecked));
-    const auto takenOver = int(std::count_if(rows.begin(), rows.end(), isTakenOver));
-    const QVector<int> shown = m_shown->shownRows();
-    const auto hidden = checked - int(std::count_if(shown.begin(), shown.end(),
-                                                    [&](int row) { return rows[row].isChecked; }));
-    QStringList texts{tr("%1 of %2 groups checked").arg(checked).arg(rows.size())};
-    if (takenOver > 0)
-        texts << tr("%1 also in another row").arg(takenOver);
-    if (hidden > 0)
-        texts << tr("%1 hidden by the filter").arg(hidden);
-    m_count->setText(texts.join(QLatin1String(", ")));
+    m_count->setText(vkd::h::countText(m_groups->rows(), m_shown->shownRows()));
+    m_notShown->setText(vkd::h::notShownText(m_kind, m_opened, m_groups->checkedGroups()));
 }

@@ -1,5 +1,6 @@
 #include "groupRows.h"
 
+#include "groupChoice.h"
 #include "shownName.h"
 
 #include <vkd_dbo_groups.h>
@@ -66,12 +67,6 @@ int elementCount(const GroupContents& contents)
     return count;
 }
 
-bool isOfKind(VKD_H_GroupKind kind, int group)
-{
-    return kind == VKD_H_GroupKind::Secondary ? group >= dbo::FirstPackedName
-                                              : group >= 0 && group < dbo::FirstPackedName;
-}
-
 QString nameOf(VKD_H_GroupKind kind, int group)
 {
     return kind == VKD_H_GroupKind::Secondary ? shownName(group) : QString::number(group);
@@ -85,6 +80,7 @@ GroupRow toRow(VKD_H_GroupKind kind, const GroupSummary& summary)
     row.title = summary.title;
     row.contents = contentsText(summary.contents);
     row.elements = elementCount(summary.contents);
+    row.hasAreas = dbo::hasAreas(summary.contents);
     return row;
 }
 

@@ -19,6 +19,7 @@ struct GroupRow
     QString contents;
     int elements = 0;
     bool isInModel = true;
+    bool hasAreas = true; ///< also of a group that is not in the model
     bool isTaken = false; ///< belongs to another row of the caller
     bool isChecked = false;
 };

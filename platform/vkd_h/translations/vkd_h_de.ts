@@ -60,6 +60,10 @@
         <translation>nicht im Modell</translation>
     </message>
     <message>
+        <source>no area elements</source>
+        <translation>keine Flächenelemente</translation>
+    </message>
+    <message>
         <source>also in another row</source>
         <translation>auch in einer anderen Zeile</translation>
     </message>
@@ -158,6 +162,30 @@
     <message>
         <source>%1 hidden by the filter</source>
         <translation>%1 durch den Filter ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Without area elements: %1</source>
+        <translation>Ohne Flächenelemente: %1</translation>
+    </message>
+    <message>
+        <source>%1 without area elements</source>
+        <translation>%1 ohne Flächenelemente</translation>
+    </message>
+    <message>
+        <source>OK replaces 1 group of the row that is not shown here: %1</source>
+        <translation>OK ersetzt 1 Gruppe der Zeile, die hier nicht gezeigt wird: %1</translation>
+    </message>
+    <message>
+        <source>OK replaces %1 groups of the row that are not shown here: %2</source>
+        <translation>OK ersetzt %1 Gruppen der Zeile, die hier nicht gezeigt werden: %2</translation>
+    </message>
+    <message>
+        <source>1 group of the row is not shown here: %1. OK keeps it while nothing is changed, and replaces it otherwise.</source>
+        <translation>1 Gruppe der Zeile wird hier nicht gezeigt: %1. Ohne Änderung behält OK sie bei, sonst ersetzt OK sie.</translation>
+    </message>
+    <message>
+        <source>%1 groups of the row are not shown here: %2. OK keeps them while nothing is changed, and replaces them otherwise.</source>
+        <translation>%1 Gruppen der Zeile werden hier nicht gezeigt: %2. Ohne Änderung behält OK sie bei, sonst ersetzt OK sie.</translation>
     </message>
 </context>
 <context>
