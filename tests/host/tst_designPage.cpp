@@ -506,4 +506,6 @@ private:
 };
 
 PLIB_WIDGET_TEST_MAIN(tst_designPage)
+                QVERIFY(qobject_cast<QMessageBox*>(box)->informativeText().startsWith(
+                    QLatin1String("Yes continues without the rows that have no groups")));
 #include "tst_designPage.moc"

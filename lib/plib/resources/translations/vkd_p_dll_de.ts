@@ -73,6 +73,18 @@ Possible loss of data!</source>
         <translation>Keine Gruppen ausgewählt.
 Daten können verloren gehen!</translation>
     </message>
+    <message>
+        <source>Yes continues without the rows that have no groups; they are not stored. No returns to the page.</source>
+        <translation>„Ja“ fährt ohne die Zeilen ohne Gruppen fort; sie werden nicht gespeichert. „Nein“ kehrt zur Seite zurück.</translation>
+    </message>
+    <message>
+        <source>Remaining Groups: also in row %1</source>
+        <translation>Übrige Gruppen: auch in Zeile %1</translation>
+    </message>
+    <message>
+        <source>Group %1: also in row %2</source>
+        <translation>Gruppe %1: auch in Zeile %2</translation>
+    </message>
 </context>
 <context>
     <name>DesignParameterTable</name>

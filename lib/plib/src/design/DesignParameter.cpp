@@ -1,5 +1,6 @@
 #include "DesignParameter.h"
 
+#include "BoxExplanation.h"
 #include "designColumns.h"
 #include "designEntries.h"
 #include "DesignParameterTable.h"
@@ -149,6 +150,9 @@ bool DesignParameter::checkVals()
 {
     if (data->entriesLoaded || !plib::hasRowWithoutGroups(*data))
         return true;
+    const plib::BoxExplanation explanation(
+        this, tr("Yes continues without the rows that have no groups; they are not stored. No "
+                 "returns to the page."));
     return VKD_QT_MessageBox::warning(this, tr("Warning"),
                                       tr("No groups selected.\nPossible loss of data!"),
                                       QMessageBox::Yes, QMessageBox::No, 0) != QMessageBox::No;

@@ -1,0 +1,23 @@
+#include "BoxExplanation.h"
+
+#include <QChildEvent>
+#include <QMessageBox>
+
+namespace plib {
+
+BoxExplanation::BoxExplanation(QObject* opener, const QString& text)
+    : m_text(text)
+{
+    opener->installEventFilter(this);
+}
+
+/// A child is polished once it is complete, just before it is shown.
+bool BoxExplanation::eventFilter(QObject* opener, QEvent* event)
+{
+    if (event->type() == QEvent::ChildPolished)
+        if (auto box = qobject_cast<QMessageBox*>(static_cast<QChildEvent*>(event)->child()))
+            box->setInformativeText(m_text);
+    return QObject::eventFilter(opener, event);
+}
+
+} // namespace plib
