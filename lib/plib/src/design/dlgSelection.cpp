@@ -1,5 +1,6 @@
 #include "dlgSelection.h"
 
+#include "DeleteKey.h"
 #include "DesignParameterData.h"
 #include "rowText.h"
 
@@ -9,6 +10,8 @@
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_SignalBlocker.h>
 #include <VKD_QT_Widgets.h>
+
+#include <QAbstractItemView>
 
 namespace {
 constexpr int GroupsIcon = 2125;
@@ -56,6 +59,14 @@ dlgSelection::dlgSelection(int index, QWidget* parent)
     layout->addWidget(secondary);
     setAutoFillBackground(true);
     setFocusProxy(comboGroups);
+    auto clear = new plib::DeleteKey(this, [this] {
+        comboGroups->hidePopup();
+        comboGroups->setCurrentIndex(0); // none
+    });
+    for (QWidget* widget :
+         {static_cast<QWidget*>(comboGroups), static_cast<QWidget*>(comboGroups->view()),
+          static_cast<QWidget*>(groups), static_cast<QWidget*>(secondary)})
+        clear->listenTo(widget);
 }
 
 void dlgSelection::fillCombo(const plib::DesignParameterRow& row, bool remainingInUse)
