@@ -3,6 +3,7 @@
 #include <designFields.h>
 #include <designRecord.h>
 #include <rowText.h>
+#include <sharedGroups.h>
 #include <VKD_A_BarDiameterData.h>
 #include <vkd_lib_value.h>
 
@@ -37,6 +38,41 @@ private Q_SLOTS:
         plib::DesignParameterRow row;
         row.groups = {groups.begin(), groups.end()};
         QTEST(plib::rowText(row, 0), "expected");
+    }
+
+    /// Rows with groups in them, and what each has to say, with ", " in place of line feeds.
+    void sharedGroups()
+    {
+        const auto told = [](const QString& text) {
+            std::vector<plib::DesignParameterRow> rows;
+            for (const QString& groups : text.split(QLatin1Char('|'))) {
+                rows.emplace_back();
+                for (const QString& group : groups.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+                    rows.back().groups.push_back(group.toInt());
+            }
+            const auto shared = plib::sharedGroups(rows);
+            const auto ofRows = plib::sharedGroupsOfRows(shared, rows.size());
+            QStringList texts;
+            for (size_t row = 0; row < rows.size(); ++row)
+                texts << plib::sharedGroupsText(int(row), ofRows[row])
+                             .replace(QLatin1Char('\n'), QLatin1String(", "));
+            return texts.join(QLatin1Char('|'));
+        };
+        compareCases(told, "-1|1 2|| => |||\n"
+                           "-1|3 3|4 => ||\n"
+                           "-1|3 1|4|1 => |Group 1: also in row 4||Group 1: also in row 2\n"
+                           "-1|-1 => Remaining Groups: also in row 2|"
+                           "Remaining Groups: also in row 1\n"
+                           "5|4 5|5 4 => Group 5: also in row 2, 3|Group 4: also in row 3, "
+                           "Group 5: also in row 1, 3|Group 4: also in row 2, "
+                           "Group 5: also in row 1, 2\n"
+                           "1 2 3 4 5 6|6|6|6|6|6|6 => Group 6: also in row 2, 3, 4, 5, 6, …|"
+                           "Group 6: also in row 1, 3, 4, 5, 6, …|"
+                           "Group 6: also in row 1, 2, 4, 5, 6, …|"
+                           "Group 6: also in row 1, 2, 3, 5, 6, …|"
+                           "Group 6: also in row 1, 2, 3, 4, 6, …|"
+                           "Group 6: also in row 1, 2, 3, 4, 5, …|"
+                           "Group 6: also in row 1, 2, 3, 4, 5, …\n");
     }
 
     void columns_data()

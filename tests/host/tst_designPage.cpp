@@ -317,6 +317,46 @@ private Q_SLOTS:
             QVERIFY(!without.findChild<QPushButton*>(QLatin1String(name))->isEnabled());
     }
 
+    /// The mark goes with the last group that is shared. Delete takes the choice back, in the open
+    /// list and beside it too, and no row.
+    void groupInTwoRows()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2),
+                                     record(3, 1, 3), record(3, 1, 4)});
+        const auto notes = [&desk] {
+            QStringList texts;
+            for (int row = 0; row < desk.table()->rowCount(); ++row) {
+                const QTableWidgetItem* cell = desk.table()->item(row, 0);
+                texts << cell->toolTip();
+                if (cell->icon().isNull() != cell->toolTip().isEmpty())
+                    texts << QStringLiteral("sign without a text, or a text without a sign");
+            }
+            return texts.join(QLatin1Char('|'));
+        };
+        QCOMPARE(notes(), QStringLiteral("|Group 3: also in row 4, 5||Group 3: also in row 2, 5|"
+                                         "Group 3: also in row 2, 4"));
+        desk.table()->setCurrentCell(1, 0);
+        QCOMPARE(desk.groupCombo()->toolTip(), QStringLiteral("Group 3: also in row 4, 5"));
+        desk.press("btnDown");
+        QCOMPARE(notes(), QStringLiteral("||Group 3: also in row 4, 5|Group 3: also in row 3, 5|"
+                                         "Group 3: also in row 3, 4"));
+        desk.keys({Qt::Key_F2});
+        QTest::keyClick(desk.groupCombo(), Qt::Key_Delete);
+        QVERIFY(desk.groupCombo()->toolTip().isEmpty());
+        QCOMPARE(notes(), QStringLiteral("|||Group 3: also in row 5|Group 3: also in row 4"));
+        desk.table()->setCurrentCell(4, 0);
+        desk.groupCombo()->showPopup();
+        QTest::keyClick(desk.groupCombo()->view(), Qt::Key_Delete);
+        QCOMPARE(notes(), QStringLiteral("||||"));
+        QVERIFY(!desk.groupCombo()->view()->isVisible());
+        desk.table()->setCurrentCell(3, 0);
+        QTest::keyClick(desk.findChild<QPushButton*>(QStringLiteral("buttonGroups")),
+                        Qt::Key_Delete);
+        desk.table()->setCurrentCell(0, 0);
+        desk.table()->setCurrentCell(1, 1);
+        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|None|None|None"));
+    }
+
     void detourOutOfTheDialog()
     {
         DesignDesk desk(*m_project);
@@ -443,6 +483,8 @@ private Q_SLOTS:
             whenModal([answer](QWidget* box) {
                 QCOMPARE(box->property("text").toString(),
                          QStringLiteral("No groups selected.\nPossible loss of data!"));
+                QVERIFY(qobject_cast<QMessageBox*>(box)->informativeText().startsWith(
+                    QLatin1String("Yes continues without the rows that have no groups")));
                 answer(qobject_cast<QMessageBox*>(box));
             });
             return desk.page->checkVals();
@@ -506,6 +548,4 @@ private:
 };
 
 PLIB_WIDGET_TEST_MAIN(tst_designPage)
-                QVERIFY(qobject_cast<QMessageBox*>(box)->informativeText().startsWith(
-                    QLatin1String("Yes continues without the rows that have no groups")));
 #include "tst_designPage.moc"

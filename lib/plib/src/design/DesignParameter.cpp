@@ -205,6 +205,7 @@ void DesignParameter::refreshRows(int number)
         addTableRow();
         drawRow(row, data->table->rowCount() - 1, true);
     }
+    showSharedGroups();
     data->table->fitRows();
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
@@ -254,6 +255,7 @@ void DesignParameter::slot_deleteClicked()
         const VKD_QT_SignalBlocker blocker(table); // until the rows are those of the table again
         table->deleteSelectedRows();
         plib::removeRows(*data, rows);
+        showSharedGroups();
         table->fitRows();
     }
     Q_EMIT signal_rowCountChanged(table->rowCount());
@@ -279,5 +281,6 @@ void DesignParameter::swapRows(int row, int other)
     std::swap(data->rows[std::size_t(row)], data->rows[std::size_t(other)]);
     refreshRows(row);
     refreshRows(other);
+    showSharedGroups();
     data->table->setCurrentCell(other, data->table->currentColumn());
 }

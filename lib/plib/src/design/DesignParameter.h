@@ -75,6 +75,8 @@ private:
     template <class Dialog, typename... Arguments>
     void editRecord(Arguments... arguments);
     void takeGroups(int row, const std::vector<int>& groups);
+    void showSharedGroups();
+    void showSharedGroupsInEditor(int row);
 
     std::unique_ptr<plib::DesignParameterData> data;
     int editRow = 0;

@@ -10,6 +10,7 @@
 #include "dlgDistanceDirection.h"
 #include "dlgReinforcement.h"
 #include "dlgSelection.h"
+#include "sharedGroupMarks.h"
 #include "unusedDistances.h"
 
 #include <VKD_H_SecondaryGroupDialog.h>
@@ -130,6 +131,7 @@ void DesignParameter::openSelection(int row, int column, DesignParameterRow& sho
             &DesignParameter::slot_openSekGroups);
     if (QTableWidgetItem* item = data->table->item(row, column))
         item->setText(QString());
+    showSharedGroupsInEditor(row);
 }
 
 void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
@@ -262,6 +264,25 @@ void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
         editor->fillCombo(*changed, plib::hasRemainingRow(*data));
     else
         refreshRows(row);
+    showSharedGroups();
+}
+
+/// After each change of the groups of a row, since that may concern any other one.
+void DesignParameter::showSharedGroups()
+{
+    const VKD_QT_SignalBlocker blocker(data->table);
+    plib::markSharedGroups(data->table, data->rows);
+    showSharedGroupsInEditor(editRow);
+}
+
+/// The editor covers the mark of its cell, so it shows that itself.
+void DesignParameter::showSharedGroupsInEditor(int row)
+{
+    const int column = data->table->getColumnNumber(Table::Selection);
+    const QTableWidgetItem* item = data->table->item(row, column);
+    const auto editor = qobject_cast<dlgSelection*>(data->table->cellWidget(row, column));
+    if (item && editor)
+        editor->setNote(item->toolTip());
 }
 
 /// The entries of the editor are translated in its own context, and compared here in this one: both
@@ -277,6 +298,7 @@ void DesignParameter::slot_selectionComboChanged(QString text)
         chosen->groups = {-1};
     else if (text == tr("None"))
         chosen->groups.clear();
+    showSharedGroups();
 }
 
 void DesignParameter::slot_onReopenGroups()

@@ -12,6 +12,7 @@
 #include <VKD_QT_Widgets.h>
 
 #include <QAbstractItemView>
+#include <QStyle>
 
 namespace {
 constexpr int GroupsIcon = 2125;
@@ -84,6 +85,16 @@ void dlgSelection::fillCombo(const plib::DesignParameterRow& row, bool remaining
         comboGroups->addItem(selected = plib::rowText(row, 0));
     // By its text: a secondary group named like the entry for none is shown as that.
     comboGroups->setCurrentIndex(comboGroups->findText(selected, Qt::MatchCaseSensitive));
+}
+
+void dlgSelection::setNote(const QString& text)
+{
+    const QIcon sign =
+        text.isEmpty() ? QIcon() : style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    for (int entry = 0; entry < comboGroups->count(); ++entry)
+        comboGroups->setItemIcon(entry, entry == comboGroups->currentIndex() ? sign : QIcon());
+    comboGroups->setToolTip(text);
+    comboGroups->setAccessibleDescription(text);
 }
 
 int dlgSelection::getCurrentId() const

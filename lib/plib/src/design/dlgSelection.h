@@ -24,6 +24,9 @@ public:
     void fillCombo(const plib::DesignParameterRow& row, bool remainingInUse);
     int getCurrentId() const;
 
+    /// A sign beside the chosen entry, with a text that explains it; neither with an empty text.
+    void setNote(const QString& text);
+
 Q_SIGNALS:
     void signal_groupButtonClicked();
     void signal_sekGroupButtonClicked();
