@@ -145,7 +145,7 @@ private Q_SLOTS:
                      result);
     }
 
-    /// Whatever was checked before counts for nothing then, and nothing is picked yet.
+    /// Whatever was checked before is only where picking may begin, and nothing is picked yet.
     void leftWithoutOk()
     {
         const int index = m_project.index();
@@ -168,6 +168,9 @@ private Q_SLOTS:
             dialog.getChecked(groups);
             QCOMPARE(groups, Groups{3});
         }
+        Groups start;
+        VKD_H_SelGRP_Dialog::getAniSelectionFromZob(VKD_H_SelGRP_Dialog::StartOfPicking, start);
+        QCOMPARE(start, (Groups{1, 2, 3, 4, 12}));
     }
 
     void positionOutsideOfTheScreen()

@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
@@ -128,6 +130,7 @@ void GroupList::fill()
 {
     const int current = groupOf(currentItem());
     clear();
+    m_withoutAreas.clear();
     const auto groups =
         m_index < 1 ? QVector<vkd::dbo::GroupSummary>() : vkd::dbo::readGroups(m_index);
     for (const vkd::dbo::GroupSummary& group : groups) {
@@ -138,7 +141,10 @@ void GroupList::fill()
         item->setText(ContentsColumn, contentsText(group.contents));
         if (group.number == current)
             setCurrentItem(item);
+        if (!vkd::dbo::hasAreas(group.contents))
+            m_withoutAreas.push_back(group.number);
     }
+    std::sort(m_withoutAreas.begin(), m_withoutAreas.end());
     fitColumns();
 }
 

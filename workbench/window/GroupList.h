@@ -2,6 +2,8 @@
 
 #include <QTreeWidget>
 
+#include <vector>
+
 namespace workbench {
 
 /// The primary groups of a project with number, title and contents. It tells which group the user
@@ -18,6 +20,8 @@ public:
     /// Marks a group that is pointed at elsewhere, without a signal; AnimatorView::NoGroup for
     /// none. The current row stays.
     void setMarkedGroup(int group);
+    /// Those that the design of area elements has no use for, ascending.
+    const std::vector<int>& groupsWithoutAreas() const { return m_withoutAreas; }
 
 Q_SIGNALS:
     /// The group below the mouse or, without one, the current group while the list has the focus;
@@ -40,6 +44,7 @@ private:
     void pointAt(const QTreeWidgetItem* item);
 
     int m_index = -1;
+    std::vector<int> m_withoutAreas;
 };
 
 } // namespace workbench

@@ -7,12 +7,26 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 namespace workbench {
+
+namespace {
+QString listed(const std::vector<int>& groups)
+{
+    QStringList numbers;
+    for (int group : groups)
+        numbers << QString::number(group);
+    return numbers.join(QLatin1String(", "));
+}
+} // namespace
 
 PickBanner::PickBanner(QWidget* parent)
     : QFrame(parent)
     , m_what(new QLabel(this))
     , m_picked(new QLabel(this))
+    , m_unfit(new QLabel(this))
     , m_done(new QPushButton(this))
     , m_cancel(new QPushButton(this))
 {
@@ -23,7 +37,7 @@ PickBanner::PickBanner(QWidget* parent)
     band->setAutoFillBackground(true);
     band->setBackgroundRole(QPalette::Highlight);
     auto texts = new QVBoxLayout(band);
-    for (QLabel* label : {m_what, m_picked}) {
+    for (QLabel* label : {m_what, m_picked, m_unfit}) {
         label->setForegroundRole(QPalette::HighlightedText);
         label->setWordWrap(true); // the banner is not to widen the view
         texts->addWidget(label);
@@ -40,6 +54,12 @@ PickBanner::PickBanner(QWidget* parent)
     connect(m_cancel, &QPushButton::clicked, this, &PickBanner::cancelled);
     auto escape = new QShortcut(Qt::Key_Escape, this); // also from the view, after a click there
     connect(escape, &QShortcut::activated, this, &PickBanner::cancelled);
+    setTexts();
+}
+
+void PickBanner::setGroupsWithoutAreas(const std::vector<int>& groups)
+{
+    m_withoutAreas = groups;
     setTexts();
 }
 
@@ -65,12 +85,14 @@ void PickBanner::showEvent(QShowEvent* event)
 
 void PickBanner::setTexts()
 {
-    QStringList numbers;
-    for (int group : m_groups)
-        numbers << QString::number(group);
+    std::vector<int> unfit;
+    std::set_intersection(m_groups.begin(), m_groups.end(), m_withoutAreas.begin(),
+                          m_withoutAreas.end(), std::back_inserter(unfit));
     m_what->setText(tr("Pick groups in the view, then press Done."));
-    m_picked->setText(numbers.isEmpty() ? tr("No group is picked yet.")
-                                        : tr("Picked: %1").arg(numbers.join(QLatin1String(", "))));
+    m_picked->setText(m_groups.empty() ? tr("No group is picked yet.")
+                                       : tr("Picked: %1").arg(listed(m_groups)));
+    m_unfit->setText(tr("Without area elements: %1").arg(listed(unfit)));
+    m_unfit->setVisible(!unfit.empty());
     m_done->setText(tr("&Done"));
     m_cancel->setText(tr("Ca&ncel"));
 }

@@ -17,6 +17,9 @@ class PickBanner : public QFrame
 public:
     explicit PickBanner(QWidget* parent = nullptr);
 
+    /// Of the groups that are picked from now on, those that the design of area elements has no use
+    /// for, ascending.
+    void setGroupsWithoutAreas(const std::vector<int>& groups);
     void setPicked(const std::vector<int>& groups);
 
 Q_SIGNALS:
@@ -30,9 +33,11 @@ protected:
 private:
     void setTexts();
 
+    std::vector<int> m_withoutAreas;
     std::vector<int> m_groups;
     QLabel* m_what;
     QLabel* m_picked;
+    QLabel* m_unfit;
     QPushButton* m_done;
     QPushButton* m_cancel;
 };

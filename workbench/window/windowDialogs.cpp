@@ -68,11 +68,15 @@ bool MainWindow::storeDesign()
     return true;
 }
 
+/// With what was checked in the dialog of the groups, so that picking adds to it and takes away.
 void MainWindow::startPicking()
 {
-    m_view->setPickedGroups({});
+    std::vector<int> groups;
+    VKD_H_SelGRP_Dialog::getAniSelectionFromZob(VKD_H_SelGRP_Dialog::StartOfPicking, groups);
+    m_view->setPickedGroups(groups);
     m_view->setPicking(true);
-    m_banner->setPicked({});
+    m_banner->setGroupsWithoutAreas(m_groups->groupsWithoutAreas());
+    showPicked();
     m_banner->show();
     m_actions->enable(true, true);
     activateWindow(); // dialogs that go together leave some desktops without an active window

@@ -19,6 +19,10 @@ public:
         PickOutside = 6 ///< the user wants to pick the groups in the 3D view
     };
 
+    /// The database index of the scratch store. There the dialog leaves the groups that are checked
+    /// when the user goes to pick, as a selection with which the view may begin.
+    static constexpr int StartOfPicking = 0;
+
     /// `checked` is only read; see VKD_H_GroupDialog for both lists. The dialog moves to
     /// `position`, in coordinates of the screen, unless that is null. `entriesLoaded` and `key`,
     /// the first key of the caller's records, are part of the suite's interface and change nothing

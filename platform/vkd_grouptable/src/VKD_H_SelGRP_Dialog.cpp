@@ -29,13 +29,14 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
     setWindowTitle(tr("Group Selection"));
     auto pick = new VKD_QT_PushButton(tr("&Pick in 3D View"), this, "pick");
     pick->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/pick")));
-    pick->setToolTip(tr("Leaves this dialog to pick the groups in the 3D view. What is checked "
-                        "here is not kept."));
+    pick->setToolTip(tr("Leaves this dialog to pick the groups in the 3D view, beginning with "
+                        "those checked here. They replace all groups of the row."));
     pick->setEnabled(hasGroups());
     addFootButton(pick);
     connect(pick, &QPushButton::clicked, this, [this, doc] {
         if (doc)
             removePickedGroups(doc->index()); // who picks none is not to get the last ones again
+        storePickedGroups(StartOfPicking, presentChoice());
         done(PickOutside);
     });
     if (position)

@@ -12,8 +12,8 @@
         <translation>In 3D-Ansicht &amp;wählen</translation>
     </message>
     <message>
-        <source>Leaves this dialog to pick the groups in the 3D view. What is checked here is not kept.</source>
-        <translation>Verlässt diesen Dialog, um die Gruppen in der 3D-Ansicht zu wählen. Was hier angekreuzt ist, wird nicht übernommen.</translation>
+        <source>Leaves this dialog to pick the groups in the 3D view, beginning with those checked here. They replace all groups of the row.</source>
+        <translation>Verlässt diesen Dialog, um die Gruppen in der 3D-Ansicht zu wählen, ausgehend von den hier angekreuzten. Sie ersetzen alle Gruppen der Zeile.</translation>
     </message>
 </context>
 </TS>
