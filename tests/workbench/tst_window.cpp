@@ -1,11 +1,14 @@
 #include "ProjectTest.h"
 
 #include <changedLines.h>
+#include <sharedGroupsQuestion.h>
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -254,10 +257,27 @@ private Q_SLOTS:
         auto banner = find<QWidget>(*window, "PickBanner");
         QVERIFY(banner->isVisible());
         QVERIFY(!window->close()); // the dialog is not done
-        for (int row : {5, 6}) {
-            groups->setCurrentItem(groups->topLevelItem(row));
-            QTest::keyClick(groups, Qt::Key_Return);
-        }
+        const auto pick = [&](const std::vector<int>& rows) {
+            for (int row : rows) {
+                groups->setCurrentItem(groups->topLevelItem(row));
+                QTest::keyClick(groups, Qt::Key_Return);
+            }
+            QString text;
+            for (const QLabel* label : banner->findChildren<QLabel*>())
+                if (!label->isHidden())
+                    text += label->text() + QLatin1Char('|');
+            return text.section(QLatin1Char('|'), 1);
+        };
+        QCOMPARE(pick({3}), QStringLiteral("Picked: 4|"));
+        QCOMPARE(pick({5}), QStringLiteral("Picked: 4, 6|Without area elements: 6|"));
+        // Another time picking begins with the groups of the row, adds to them and takes away.
+        whenModal([](QWidget* dialog) {
+            whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
+            find<QPushButton>(*dialog, "buttonGroups")->click();
+        });
+        find<QPushButton>(*window, "PickDone")->click();
+        QCOMPARE(pick({}), QStringLiteral("Picked: 4, 6|Without area elements: 6|"));
+        QCOMPARE(pick({6, 3}), QStringLiteral("Picked: 6, 7|Without area elements: 6, 7|"));
         QString text;
         whenModal([&text](QWidget* dialog) {
             text = find<QComboBox>(*dialog, "comboGroups")->currentText();
@@ -268,6 +288,83 @@ private Q_SLOTS:
         QVERIFY(!banner->isVisible());
         QCOMPARE(text, QStringLiteral("6;7"));
         QCOMPARE(records->columnCount(), before + 2);
+    }
+
+    /// A group in two rows is asked about. A row without groups is told of, and there again.
+    void rowsThatOkSaysSomethingAbout()
+    {
+        const auto window = open("rows.zob");
+        const auto records = find<QTableView>(*window, "Records")->model();
+        const int before = records->columnCount();
+        QStringList questions;
+        const auto answer = [&questions](QWidget* dialog, int button) {
+            whenModal([&questions, button](QWidget* box) {
+                const auto question = qobject_cast<QMessageBox*>(box);
+                questions << question->text();
+                question->buttons().at(button)->click();
+            });
+            qobject_cast<QDialog*>(dialog)->accept();
+        };
+        int rowToMend = -1;
+        whenModal([&](QWidget* dialog) {
+            auto table = find<QTableWidget>(*dialog, "table");
+            find<QPushButton>(*dialog, "btnNew")->click();
+            find<QPushButton>(*dialog, "btnNew")->click();
+            table->setCurrentCell(table->rowCount() - 1, 0);
+            whenModal([](QWidget* list) {
+                find<QLineEdit>(*list, "input")->setText(QStringLiteral("1"));
+                qobject_cast<QDialog*>(list)->accept();
+            });
+            find<QPushButton>(*table, "buttonGroups")->click();
+            table->setCurrentCell(0, 1);
+            answer(dialog, 1);
+            rowToMend = dialog->isVisible() ? table->currentRow() : -1;
+            answer(dialog, 0);
+        });
+        trigger(*window, "Design");
+        QCOMPARE(questions.size(), 2);
+        QCOMPARE(questions.at(0), questions.at(1));
+        QCOMPARE(questions.at(0),
+                 QStringLiteral("Group 1 is in rows 2 and 7; two records would be stored."));
+        QCOMPARE(rowToMend, 1);
+        QCOMPARE(records->columnCount(), before + 1);
+        QCOMPARE(window->statusBar()->currentMessage(),
+                 QStringLiteral("The design parameters are in the project file. "
+                                "1 row without groups is kept with the page."));
+        QString last;
+        whenModal([&last](QWidget* dialog) {
+            auto table = find<QTableWidget>(*dialog, "table");
+            last = table->item(table->rowCount() - 1, 0)->text();
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+        trigger(*window, "Design");
+        QCOMPARE(last, QStringLiteral("None"));
+    }
+
+    void groupsInSeveralRows_data()
+    {
+        const Columns<QVector<QVector<int>>, QString> row("groups", "question");
+        row("none", {{}, {}}, "");
+        row("remaining groups", {{-1}, {-1}},
+            "“Remaining Groups” is in rows 1 and 2; two records would be stored.");
+        row("three rows, and a name", {{7}, {7}, {}, {7, 0x41414141}, {0x41414141}},
+            "Group 7 is in rows 1, 2 and 4; 3 records would be stored.\n"
+            "Group AAAA is in rows 4 and 5; two records would be stored.");
+        row("many rows", QVector<QVector<int>>(12, {1}),
+            "Group 1 is in rows 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and …; 12 records would be stored.");
+        row("many groups", QVector<QVector<int>>(2, {1, 2, 3, 4, 5, 6, 7}),
+            "Group 1 is in rows 1 and 2; two records would be stored.\n"
+            "Group 2 is in rows 1 and 2; two records would be stored.\n"
+            "Group 3 is in rows 1 and 2; two records would be stored.\n"
+            "Group 4 is in rows 1 and 2; two records would be stored.\n"
+            "Group 5 is in rows 1 and 2; two records would be stored.\n"
+            "2 more groups are in several rows.");
+    }
+
+    void groupsInSeveralRows()
+    {
+        QFETCH(const QVector<QVector<int>>, groups);
+        QTEST(workbench::sharedGroupsQuestion(groups), "question");
     }
 
     /// In many small steps, as under the mouse.

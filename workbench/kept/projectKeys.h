@@ -1,10 +1,15 @@
 #pragma once
 
+#include <QLatin1String>
+
 namespace workbench {
 
 /// The key pair of the design records in a project.
 constexpr int DesignKey1 = 200;
 constexpr int DesignKey2 = 6;
+
+/// The texts in which the design page keeps a row without groups: this with 1, 2, and so on.
+constexpr QLatin1String DesignEntry("MerPara");
 
 /// The numbers under which the window's dialogs keep their texts in a project.
 enum DialogPage { DesignDialogPage = 1, OutputDialogPage = 2, TextOutputDialogPage = 3 };

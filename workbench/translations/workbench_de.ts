@@ -108,6 +108,34 @@
         <source>Design Parameters</source>
         <translation>Bemessungsparameter</translation>
     </message>
+    <message>
+        <source>“Remaining Groups”</source>
+        <translation>„Übrige Gruppen“</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>Gruppe %1</translation>
+    </message>
+    <message>
+        <source>%1 is in rows %2 and %3; two records would be stored.</source>
+        <translation>%1 steht in den Zeilen %2 und %3; es würden zwei Datensätze gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 is in rows %2 and %3; %4 records would be stored.</source>
+        <translation>%1 steht in den Zeilen %2 und %3; es würden %4 Datensätze gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 more groups are in several rows.</source>
+        <translation>%1 weitere Gruppen stehen in mehreren Zeilen.</translation>
+    </message>
+    <message>
+        <source>&amp;Store All the Same</source>
+        <translation>Trotzdem &amp;speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ExtentFields</name>
@@ -486,6 +514,14 @@ Soll sie gespeichert werden?</translation>
         <source>No sheet was saved.</source>
         <translation>Es wurde kein Blatt gespeichert.</translation>
     </message>
+    <message>
+        <source>1 row without groups is kept with the page.</source>
+        <translation>1 Zeile ohne Gruppen bleibt mit der Seite erhalten.</translation>
+    </message>
+    <message>
+        <source>%1 rows without groups are kept with the page.</source>
+        <translation>%1 Zeilen ohne Gruppen bleiben mit der Seite erhalten.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::OutputDialog</name>
@@ -543,6 +579,10 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>Ca&amp;ncel</source>
         <translation>Abb&amp;rechen</translation>
+    </message>
+    <message>
+        <source>Without area elements: %1</source>
+        <translation>Ohne Flächenelemente: %1</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "HelpKey.h"
 #include "KeptPlace.h"
 #include "ProjectHold.h"
+#include "sharedGroupsQuestion.h"
 #include "withinScreen.h"
 
 #include <projectKeys.h>
@@ -11,9 +12,12 @@
 #include <vkd_dbo_queries.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter>
+#include <VKD_P_DesignParameter_Role.h>
+#include <VKD_QT_MessageBox.h>
 #include <VKD_QT_Ok.h>
 
 #include <QPushButton>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace workbench {
@@ -42,6 +46,18 @@ cd_error_t copyRecords(int from, int to)
     vkd_zob_free_ex(from, DesignKey1, DesignKey2);
     const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
     return put != VKD_ZOB_OK || isWhole ? put : status;
+}
+
+/// For each row the groups that other rows name, too.
+QVector<QVector<int>> sharedGroups(const QTableWidget& table)
+{
+    QVector<QVector<int>> groups;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const QVariant shared =
+            table.item(row, 0)->data(vkd::plib::designparameter::SharedGroupsRole);
+        groups << shared.value<QVector<int>>();
+    }
+    return groups;
 }
 } // namespace
 
@@ -106,9 +122,39 @@ cd_error_t DesignDialog::store()
     return writing.finish(isWhole);
 }
 
+int DesignDialog::rowsWithoutGroups() const
+{
+    int count = 0;
+    while (!m_entries.getEntry(DesignEntry + QString::number(count + 1), QString()).isEmpty())
+        ++count;
+    return count;
+}
+
+/// The page stores what its rows say, a record for each row that names a group. Who goes back finds
+/// the first of these rows selected.
+bool DesignDialog::maySharedGroupsStay()
+{
+    const auto table = m_page->findChild<QTableWidget*>(QStringLiteral("table"));
+    const QVector<QVector<int>> groups = sharedGroups(*table);
+    const QString question = sharedGroupsQuestion(groups);
+    if (question.isEmpty())
+        return true;
+    enum Button { Store, GoBack };
+    if (VKD_QT_MessageBox::warning(this, windowTitle(), question, tr("&Store All the Same"),
+                                   tr("&Go Back"), QString(), GoBack, GoBack) == Store)
+        return true;
+    for (int row = 0; row < groups.size(); ++row)
+        if (!groups[row].isEmpty()) {
+            table->setCurrentCell(row, 0);
+            break;
+        }
+    table->setFocus();
+    return false;
+}
+
 void DesignDialog::accept()
 {
-    if (!m_page->checkVals())
+    if (!m_page->checkVals() || !maySharedGroupsStay())
         return;
     VKD_H_Dialog::accept();
     if (result() == Accepted)

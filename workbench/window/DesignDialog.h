@@ -35,9 +35,14 @@ public:
     /// Puts what was accepted on the page again, for the dialog to be shown once more.
     void showPage();
 
+    /// How many of the rows that were accepted name no group: they have no record and are kept with
+    /// the texts of the page.
+    int rowsWithoutGroups() const;
+
     void accept() override;
 
 private:
+    bool maySharedGroupsStay();
     VKD_H_ZOBDoc* m_document;
     std::unique_ptr<VKD_H_ZOBDoc> m_desk;
     VKD_H_ProjectDialogPage m_entries;

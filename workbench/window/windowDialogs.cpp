@@ -64,7 +64,15 @@ bool MainWindow::storeDesign()
     if (!withProject([this] { return m_design->store(); },
                      tr("The design parameters cannot be stored in the file %1.")))
         return false;
-    say(tr("The design parameters are in the project file."));
+    const int kept = m_design->rowsWithoutGroups();
+    const QString stored = tr("The design parameters are in the project file.");
+    if (kept == 0)
+        say(stored);
+    else if (kept == 1)
+        say(stored + QLatin1Char(' ') + tr("1 row without groups is kept with the page."));
+    else
+        say(stored + QLatin1Char(' ') +
+            tr("%1 rows without groups are kept with the page.").arg(kept));
     return true;
 }
 
