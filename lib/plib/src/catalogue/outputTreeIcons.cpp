@@ -1,6 +1,5 @@
 #include "outputTreeIcons.h"
 
-#include <QIconEngine>
 #include <QPainter>
 
 namespace plib {
@@ -39,64 +38,43 @@ const char* const Close[] = {"16 16 4 1",        "  c None",         ". c #fffff
                              " x............x ", " x............x ", " x............x ",
                              " x............x ", " xxxxxxxxxxxxxx ", "                "};
 
-/// Paints a bitmap with its squares as blocks, so that it is sharp on every screen. Their edges lie
-/// on whole pixels where a square takes whole ones, which it does at all usual sizes.
-class BitmapIconEngine : public QIconEngine
+QPixmap blocks(const QImage& bitmap, int side)
 {
-public:
-    BitmapIconEngine(const char* name, const char* const xpm[])
-        : m_name(QLatin1String(name))
-        , m_bitmap(xpm)
-    {
-    }
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.scale(qreal(side) / Grid, qreal(side) / Grid);
+    painter.drawImage(0, 0, bitmap);
+    return picture;
+}
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
-    {
-        const QSize pixels = rect.size() * painter->device()->devicePixelRatioF();
-        if (m_picture.size() != pixels || m_mode != mode) {
-            m_picture = pixmap(pixels, mode, state);
-            m_mode = mode;
-        }
-        painter->drawPixmap(rect, m_picture);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
-    {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        painter.scale(qreal(size.width()) / Grid, qreal(size.height()) / Grid);
-        if (mode == QIcon::Disabled)
-            painter.setOpacity(0.4);
-        painter.drawImage(0, 0, m_bitmap);
-        return picture;
-    }
-
-    QString iconName() const override { return m_name; }
-    QIconEngine* clone() const override { return new BitmapIconEngine(*this); }
-
-private:
-    QString m_name;
-    QImage m_bitmap;
-    QPixmap m_picture; ///< as painted last: all rows of a tree are painted alike
-    QIcon::Mode m_mode = QIcon::Normal;
-};
+/// Pictures with the squares as blocks, for the usual sizes of screens, and in their own colours in
+/// a selection. This library has no icon engine: Qt's style keeps the icon that it painted last,
+/// and would call the engine when the library is no longer loaded.
+QIcon bitmapIcon(const char* const xpm[])
+{
+    const QImage bitmap(xpm);
+    QIcon icon;
+    for (int side : {16, 20, 24, 28, 32, 40, 48, 64})
+        for (QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+            icon.addPixmap(blocks(bitmap, side), mode);
+    return icon;
+}
 } // namespace
 
 QIcon plotIcon()
 {
-    return QIcon(new BitmapIconEngine("plot", Plot));
+    return bitmapIcon(Plot);
 }
 
 QIcon rowIcon(bool english)
 {
-    return QIcon(english ? new BitmapIconEngine("LC", RowEnglish)
-                         : new BitmapIconEngine("LF", RowGerman));
+    return bitmapIcon(english ? RowEnglish : RowGerman);
 }
 
 QIcon closeIcon()
 {
-    return QIcon(new BitmapIconEngine("close", Close));
+    return bitmapIcon(Close);
 }
 
 } // namespace plib

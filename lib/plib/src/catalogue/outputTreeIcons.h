@@ -2,8 +2,8 @@
 
 #include <QIcon>
 
-/// The pictures of the output tree, with the names "plot", "LF" or "LC", and "close". Each call
-/// makes an icon anew; copies share it, so items take copies of one.
+/// The pictures of the output tree. Each call builds an icon; copies share it, so items take copies
+/// of one.
 namespace plib {
 
 QIcon plotIcon();
