@@ -2,7 +2,12 @@
 
 #include <VKD_H_ZOBDoc.h>
 
+#include <QProcess>
 #include <QTemporaryDir>
+
+/// Open documents of a host, at the end of its process: the first is closed then, the other never.
+static std::unique_ptr<VKD_H_ZOBDoc> closedAtEnd;
+static VKD_H_ZOBDoc* neverClosed;
 
 static cd_error_t put(int index)
 {
@@ -36,7 +41,39 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, notOpen);
         QCOMPARE(put(first), int(VKD_ZOB_NOT_OPEN));
     }
+
+    /// Neither a crash nor the journal of a change that was not finished.
+    void openAtEndOfProcess()
+    {
+        const QTemporaryDir folder;
+        QProcess host;
+        host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        host.start(QCoreApplication::applicationFilePath(),
+                   {QStringLiteral("host"), folder.path()});
+        QVERIFY(host.waitForFinished());
+        QCOMPARE(host.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(host.exitCode(), 0);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
+                 QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    }
 };
 
-PLIB_TEST_MAIN(TestDocuments)
+static int leaveOpen(const QString& folder)
+{
+    closedAtEnd = VKD_H_ZOBDoc::create(folder + QLatin1String("/a"));
+    neverClosed = VKD_H_ZOBDoc::create(folder + QLatin1String("/b")).release();
+    int failed = 0;
+    for (int index : {closedAtEnd->index(), neverClosed->index()})
+        failed += vkd_zob_lock_ex(index, 77, 1) != VKD_ZOB_OK || put(index) != VKD_ZOB_OK;
+    return failed;
+}
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "host") == 0)
+        return leaveOpen(QString::fromLocal8Bit(argv[2]));
+    TestDocuments test;
+    return testsupport::run(&test, argc, argv);
+}
 #include "tst_documents.moc"

@@ -8,11 +8,25 @@
 namespace {
 using Databases = std::map<int, std::unique_ptr<ZobDatabase>>;
 
+/// Never destroyed: documents in static objects of a host may be closed at the very end.
 Databases& databases()
 {
-    static Databases open;
+    static Databases& open = *new Databases;
     return open;
 }
+
+/// Drops the changes that nobody stored or dropped, so that no journal stays beside a project.
+/// Built when this library is loaded, so that it is destroyed after the static objects of all that
+/// link it.
+const struct ChangesAtEnd
+{
+    ~ChangesAtEnd()
+    {
+        for (const auto& [index, store] : databases())
+            if (store)
+                store->transactions().finish();
+    }
+} changesAtEnd;
 
 /// The store under this index; null, with `status` set and a log line, if there is none.
 ZobDatabase* database(int index, cd_error_t* status)
