@@ -69,13 +69,16 @@ function(vkd_install_package package)
 endfunction()
 
 # One library of the platform: shared, because the store, the settings and the text service have to
-# exist once in a process, with a generated <name>_export.h.
+# exist once in a process, with a generated <name>_export.h. It stays loaded until the process ends:
+# Qt keeps routines, icons and windows of it and offers no way to take all of them back, and settings
+# and open projects outlive the plug-in that brought them along.
 function(vkd_add_platform_library name)
     cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     include(GenerateExportHeader)
     add_library(${name} SHARED ${arg_SOURCES})
     generate_export_header(${name} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h)
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+    target_link_options(${name} PRIVATE LINKER:-z,nodelete)
     vkd_install_library(${name} vkd_platform)
 endfunction()
 

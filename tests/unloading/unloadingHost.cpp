@@ -1,0 +1,107 @@
+// A desktop that knows the library by a plug-in alone, which it unloads and loads again:
+// unloadingHost PLUGIN WHAT. It links Qt and nothing else, so that what stays loaded does so by
+// itself. A crash, also in the end of the process, is a failure.
+
+#include <QApplication>
+#include <QFile>
+#include <QLibrary>
+#include <QRegularExpression>
+#include <QTreeWidget>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+std::shared_ptr<void> document; // older than all that the plug-in brings along
+
+void require(bool condition, const QString& what)
+{
+    if (condition)
+        return;
+    std::fputs(qPrintable(what + QLatin1Char('\n')), stderr);
+    std::_Exit(1);
+}
+
+/// The suite's libraries that are mapped, by name.
+QString mapped()
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    require(maps.open(QIODevice::ReadOnly), maps.errorString());
+    QStringList names;
+    const QRegularExpression library(QStringLiteral("/lib(vkd_\\w+|pagesPlugin)\\.so"));
+    for (auto i = library.globalMatch(QString::fromLocal8Bit(maps.readAll())); i.hasNext();)
+        names << i.next().captured(1);
+    names.removeDuplicates();
+    names.sort();
+    return names.join(QLatin1Char(' '));
+}
+
+/// What Qt does by itself with what it was given: it paints with icons, asks for texts, sends
+/// events, and makes and destroys values of all types.
+void useApplication()
+{
+    QTreeWidget tree;
+    new QTreeWidgetItem(&tree, {QStringLiteral("own item")});
+    tree.show();
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(window, &change);
+        window->grab();
+    }
+    QCoreApplication::processEvents();
+    for (int type = QMetaType::User; QMetaType::isRegistered(type); ++type)
+        QMetaType::destroy(type, QMetaType::create(type));
+}
+
+template <typename Result>
+void call(QLibrary& library, const char* function, const QByteArray& what, Result* result)
+{
+    using Function = void (*)(const char*, Result*);
+    reinterpret_cast<Function>(library.resolve(function))(what, result);
+}
+
+/// The texts that the plug-in has given are the host's.
+QStringList showAndUnload(const QString& path, const QByteArray& what)
+{
+    QLibrary library(path);
+    library.setLoadHints({}); // in particular not QLibrary::PreventUnloadHint
+    require(library.load(), library.errorString());
+    QStringList texts;
+    call(library, "show", what, &texts);
+    library.unload();
+    const QString platform = QStringLiteral("vkd_a vkd_aniview vkd_dbo vkd_grouptable vkd_h "
+                                            "vkd_properties_qt vkd_q vkd_qt vkd_qt_icon vkd_t");
+    require(mapped() == platform, QLatin1String("mapped: ") + mapped());
+    return texts;
+}
+
+/// Documents that are open when the process ends, with the plug-in loaded: one of the host, in an
+/// object that is older than all the plug-in brings along, and one of the plug-in.
+void keepDocuments(const QString& path)
+{
+    QLibrary library(path);
+    QStringList texts;
+    call(library, "show", "document", &texts);
+    call(library, "openForHost", "", &document);
+    require(bool(document), QStringLiteral("no document"));
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QString plugin = QString::fromLocal8Bit(argv[1]);
+    const QByteArray what = argv[2];
+    for (int turn = 0; turn < 2; ++turn) { // the second application starts without the plug-in
+        QApplication application(argc, argv);
+        useApplication();
+        const QStringList texts = showAndUnload(plugin, what);
+        require(!texts.join(QString()).isEmpty(), QStringLiteral("nothing shown"));
+        if (turn == 0) // else the end of the application finds what was painted last
+            useApplication();
+        showAndUnload(plugin, what);
+    }
+    if (what == "document")
+        keepDocuments(plugin);
+    return 0;
+}
