@@ -43,24 +43,31 @@ private Q_SLOTS:
         }
     }
 
-    /// A log that cannot be written is told to the host, which goes on.
-    void selfCheckWithoutLog()
+    /// QtTest can write neither log.
+    void selfCheckWithLogsOfOtherPlaces()
     {
         const QTemporaryDir folder;
         QDir(folder.path()).mkdir(QStringLiteral("a,b"));
-        for (const QString& place :
-             {QStringLiteral("/nowhere"), folder.filePath(QStringLiteral("a,b"))})
-            QCOMPARE(host({QStringLiteral("selfcheck"), QStringLiteral("1"),
-                           QStringLiteral("logpath:") + place}),
-                     QStringLiteral("result 1, language 1"));
-    }
+        const QString name = QStringLiteral("/VKD_P_Mix_UnitTest.log");
+        const QString inComma = folder.filePath(QStringLiteral("a,b"));
+        const auto check = [](const QString& role, const QString& place) {
+            return host({role, QStringLiteral("1"), QStringLiteral("logpath:") + place});
+        };
+        QCOMPARE(check(QStringLiteral("selfcheck"), inComma),
+                 QStringLiteral("result 0, language 1"));
+        QVERIFY(testsupport::readFile(inComma + name).contains("PASS   : VKD_P_Mix_UnitTest"));
 
-    void failedSelfCheckLeavesLanguage()
-    {
-        const QTemporaryDir folder;
-        QCOMPARE(host({QStringLiteral("selfcheck-without-cache"), QStringLiteral("1"),
-                       QStringLiteral("logpath:") + folder.path()}),
-                 QStringLiteral("result 1, language 0"));
+        const QString nowhere = QStringLiteral("/nowhere");
+        const QString refused = QStringLiteral("cannot write the log ") + nowhere + name;
+        for (const auto& [role, result, mark] :
+             {std::tuple("selfcheck", "result 0, language 1", "PASS   : VKD_P_Mix_UnitTest"),
+              std::tuple("selfcheck-without-cache", "result 1, language 0",
+                         "FAIL!  : VKD_P_Mix_UnitTest")}) {
+            const QString said = check(QLatin1String(role), nowhere);
+            QVERIFY2(said.startsWith(refused) && said.contains(QLatin1String(mark)) &&
+                         said.endsWith(QLatin1String(result)),
+                     qPrintable(said));
+        }
     }
 
     void applicationsInTurn()
@@ -102,6 +109,10 @@ int selfCheckHost(QApplication& application)
     if (arguments[1].endsWith(QLatin1String("without-cache")))
         QPixmapCache::setCacheLimit(0); // pixmaps of one file then differ: the check has to fail
     vkd_lib_setvalue(LanguageKey, arguments[2].toInt());
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
+        if (qstrcmp(context.category, "vkd.selfcheck") == 0)
+            std::puts(qUtf8Printable(text));
+    });
     const int result = vkd_unittests(arguments);
     std::printf("result %d, language %d\n", result, vkd_lib_getvalue(LanguageKey));
     return 0;

@@ -1,6 +1,7 @@
 #include "selfCheckLog.h"
 
 #include <QDir>
+#include <QFile>
 
 namespace plib {
 
@@ -15,6 +16,11 @@ QString selfCheckLog(const QStringList& arguments)
     if (!folder.endsWith(QDir::separator()))
         folder += QDir::separator();
     return folder + QLatin1String("VKD_P_Mix_UnitTest.log");
+}
+
+bool canQtTestLogTo(const QString& log)
+{
+    return !log.contains(QLatin1Char(',')) && QFile(log).open(QIODevice::Append);
 }
 
 } // namespace plib
