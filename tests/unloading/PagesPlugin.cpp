@@ -2,7 +2,6 @@
 
 #include <VKD_H_Dialog.h>
 #include <VKD_H_PluginParameter.h>
-#include <VKD_H_ProjectDialogPage.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter>
 #include <VKD_P_RadioGroup>
@@ -14,6 +13,9 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
+
+#include <functional>
+#include <memory>
 
 namespace {
 /// Documents that nobody closes before this library is destroyed, or the process ends.
@@ -50,7 +52,7 @@ QStringList showDesign()
     page.init();
     page.readZob();
     page.showHelp(); // in a window that closes with the dialog
-    return paint(dialog) << VKD_P_DesignParameter::tr("None");
+    return paint(dialog);
 }
 
 QStringList showOutput()
@@ -61,7 +63,7 @@ QStringList showOutput()
     auto page = new VKD_P_WidgetGraphicalOutput(&dialog, VKD_P_GraphicalOutput_Standard, &parameter,
                                                 nullptr);
     (new QVBoxLayout(&dialog))->addWidget(page);
-    page->setUsedNumbersAndNames({{1, 1, QStringLiteral("1 : Own weight").toUpper()}});
+    page->setUsedNumbersAndNames({{1, 1, QString::fromLatin1("1 : Own weight")}});
     return paint(dialog) << page->getTORVAL(true) << page->writeXMLstring();
 }
 
