@@ -337,6 +337,8 @@ private Q_SLOTS:
                                          "Group 3: also in row 2, 4"));
         desk.table()->setCurrentCell(1, 0);
         QCOMPARE(desk.groupCombo()->toolTip(), QStringLiteral("Group 3: also in row 4, 5"));
+        QCOMPARE(desk.groupCombo()->parentWidget()->geometry(), // it has the sign, not the cell
+                 desk.table()->visualItemRect(desk.table()->item(1, 0)));
         desk.press("btnDown");
         QCOMPARE(notes(), QStringLiteral("||Group 3: also in row 4, 5|Group 3: also in row 3, 5|"
                                          "Group 3: also in row 3, 4"));

@@ -159,6 +159,16 @@ QWidget* CellDelegate::newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxIte
     return combo;
 }
 
+/// A widget over a cell covers a sign of the cell, too: beside it there would be little room.
+void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const
+{
+    if (index.data(Qt::DecorationRole).isValid())
+        editor->setGeometry(option.rect);
+    else
+        QStyledItemDelegate::updateEditorGeometry(editor, option, index);
+}
+
 void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     const QTableWidgetItem* item = m_table->item(index.row(), index.column());
