@@ -262,22 +262,18 @@ private Q_SLOTS:
                 groups->setCurrentItem(groups->topLevelItem(row));
                 QTest::keyClick(groups, Qt::Key_Return);
             }
-            QString text;
-            for (const QLabel* label : banner->findChildren<QLabel*>())
-                if (!label->isHidden())
-                    text += label->text() + QLatin1Char('|');
-            return text.section(QLatin1Char('|'), 1);
+            return banner->findChildren<QLabel*>().last()->text();
         };
-        QCOMPARE(pick({3}), QStringLiteral("Picked: 4|"));
-        QCOMPARE(pick({5}), QStringLiteral("Picked: 4, 6|Without area elements: 6|"));
+        QCOMPARE(pick({3}), QStringLiteral("Picked: 4"));
+        QCOMPARE(pick({5}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
         // Another time picking begins with the groups of the row, adds to them and takes away.
         whenModal([](QWidget* dialog) {
             whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
             find<QPushButton>(*dialog, "buttonGroups")->click();
         });
         find<QPushButton>(*window, "PickDone")->click();
-        QCOMPARE(pick({}), QStringLiteral("Picked: 4, 6|Without area elements: 6|"));
-        QCOMPARE(pick({6, 3}), QStringLiteral("Picked: 6, 7|Without area elements: 6, 7|"));
+        QCOMPARE(pick({}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
+        QCOMPARE(pick({6, 3}), QStringLiteral("Picked: 6, 7. Without area elements: 6, 7"));
         QString text;
         whenModal([&text](QWidget* dialog) {
             text = find<QComboBox>(*dialog, "comboGroups")->currentText();

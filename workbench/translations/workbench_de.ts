@@ -581,8 +581,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Abb&amp;rechen</translation>
     </message>
     <message>
-        <source>Without area elements: %1</source>
-        <translation>Ohne Flächenelemente: %1</translation>
+        <source>Picked: %1. Without area elements: %2</source>
+        <translation>Gewählt: %1. Ohne Flächenelemente: %2</translation>
     </message>
 </context>
 <context>

@@ -26,7 +26,6 @@ PickBanner::PickBanner(QWidget* parent)
     : QFrame(parent)
     , m_what(new QLabel(this))
     , m_picked(new QLabel(this))
-    , m_unfit(new QLabel(this))
     , m_done(new QPushButton(this))
     , m_cancel(new QPushButton(this))
 {
@@ -37,7 +36,7 @@ PickBanner::PickBanner(QWidget* parent)
     band->setAutoFillBackground(true);
     band->setBackgroundRole(QPalette::Highlight);
     auto texts = new QVBoxLayout(band);
-    for (QLabel* label : {m_what, m_picked, m_unfit}) {
+    for (QLabel* label : {m_what, m_picked}) {
         label->setForegroundRole(QPalette::HighlightedText);
         label->setWordWrap(true); // the banner is not to widen the view
         texts->addWidget(label);
@@ -89,10 +88,14 @@ void PickBanner::setTexts()
     std::set_intersection(m_groups.begin(), m_groups.end(), m_withoutAreas.begin(),
                           m_withoutAreas.end(), std::back_inserter(unfit));
     m_what->setText(tr("Pick groups in the view, then press Done."));
-    m_picked->setText(m_groups.empty() ? tr("No group is picked yet.")
-                                       : tr("Picked: %1").arg(listed(m_groups)));
-    m_unfit->setText(tr("Without area elements: %1").arg(listed(unfit)));
-    m_unfit->setVisible(!unfit.empty());
+    // In one line: another one that comes and goes would move the view below the mouse.
+    if (m_groups.empty())
+        m_picked->setText(tr("No group is picked yet."));
+    else if (unfit.empty())
+        m_picked->setText(tr("Picked: %1").arg(listed(m_groups)));
+    else
+        m_picked->setText(
+            tr("Picked: %1. Without area elements: %2").arg(listed(m_groups), listed(unfit)));
     m_done->setText(tr("&Done"));
     m_cancel->setText(tr("Ca&ncel"));
 }

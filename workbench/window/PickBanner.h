@@ -37,7 +37,6 @@ private:
     std::vector<int> m_groups;
     QLabel* m_what;
     QLabel* m_picked;
-    QLabel* m_unfit;
     QPushButton* m_done;
     QPushButton* m_cancel;
 };
