@@ -53,7 +53,7 @@ public:
     void setPlausibleRange(const VkdPlausibleRange& range);
 
     /// Marks the field like a refused one, for a reason that its dialog knows, until its text
-    /// changes, and shows the reason if it has the focus.
+    /// changes. The field shows the reason when it gets the focus, also from a message box.
     void setFault(const QString& reason);
 
     /// Room for a number of nine characters and what stands around it.

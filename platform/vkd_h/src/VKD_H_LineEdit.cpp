@@ -108,8 +108,6 @@ void VKD_H_LineEdit::setFault(const QString& reason)
 {
     m_fault = reason;
     updateMark();
-    if (hasFocus() && !reason.isEmpty())
-        m_mark->showMessage();
 }
 
 void VKD_H_LineEdit::clearFault()

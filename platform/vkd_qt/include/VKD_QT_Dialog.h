@@ -22,7 +22,8 @@ public:
     /// Closes the dialog for a detour; exec() returns `result`.
     virtual void callDone(int result);
 
-    /// Closes the dialog, unless `result` is Accepted and a field refuses its text.
+    /// Closes the dialog, unless `result` is Accepted and a field of the shown dialog refuses its
+    /// text.
     void done(int result) override;
 
 Q_SIGNALS:
