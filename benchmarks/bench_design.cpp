@@ -93,7 +93,7 @@ void writeRecords(benchmark::State& state)
     Project project(int(state.range(0)));
     for (auto _ : state)
         project.write();
-    if (project.doc->close() != VKD_ZOB_OK)
+    if (!project.doc->close().isOk())
         state.SkipWithError("the records were not stored");
 }
 

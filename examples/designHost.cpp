@@ -41,5 +41,5 @@ int main(int argc, char* argv[])
     }
     if (result == QDialog::Accepted)
         page->writeToZob();
-    return project->close() == VKD_ZOB_OK ? 0 : 1;
+    return project->close().isOk() ? 0 : 1;
 }

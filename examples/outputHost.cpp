@@ -47,5 +47,5 @@ int main(int argc, char* argv[])
         kept.setEntry(QStringLiteral("Output"), page->writeXMLstring());
         kept.save();
     }
-    return project->close() == VKD_ZOB_OK ? 0 : 1;
+    return project->close().isOk() ? 0 : 1;
 }

@@ -267,7 +267,7 @@ private:
         QString error;
         const auto path = vkd_lib_searchpath(("models/" + name + ".json").constData(), 3);
         QVERIFY(vkd::dbo::readModelFile(QFile::decodeName(path->c_str()), 0, &model, &error));
-        QVERIFY(vkd::dbo::storeModel(m_doc->index(), model));
+        QVERIFY(vkd::dbo::storeModel(m_doc->index(), model).isOk());
     }
 
     std::unique_ptr<testsupport::Texts> m_texts;

@@ -135,7 +135,7 @@ private Q_SLOTS:
             page.setEntry(QLatin1String(key), longText);
         page.deleteEntry(QStringLiteral("c"));
         QVERIFY(page.save());
-        QCOMPARE(project.doc->close(), 0);
+        QVERIFY(project.doc->close().isOk());
         project.doc = VKD_H_ZOBDoc::open(path);
         const QString none = QStringLiteral("none");
         const VKD_H_ProjectDialogPage again(project.index(), 3);

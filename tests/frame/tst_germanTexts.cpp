@@ -62,8 +62,9 @@ private Q_SLOTS:
         const QString window = QStringLiteral(WORKBENCH "/translations/workbench_de.ts");
         row("workbench, window", WORKBENCH "/window", window);
         row("workbench, sheet", WORKBENCH "/sheet", window);
-        row("vkd_dbo", PLATFORM "/vkd_dbo/src",
-            QStringLiteral(PLATFORM "/vkd_qt/translations/vkd_qt_de.ts"));
+        const QString lowest = QStringLiteral(PLATFORM "/vkd_qt/translations/vkd_qt_de.ts");
+        row("vkd_q", PLATFORM "/vkd_q/src", lowest);
+        row("vkd_dbo", PLATFORM "/vkd_dbo/src", lowest);
         for (const char* name :
              {"vkd_qt", "vkd_t", "vkd_h", "vkd_a", "vkd_grouptable", "vkd_aniview"}) {
             const QString library = QStringLiteral(PLATFORM "/") + QLatin1String(name);

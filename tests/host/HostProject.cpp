@@ -22,13 +22,13 @@ HostProject::HostProject(const QString& name)
     QString error;
     require(vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name), 1, &model, &error),
             qPrintable(error));
-    require(vkd::dbo::storeModel(m_project.index(), model), "model not stored");
+    require(vkd::dbo::storeModel(m_project.index(), model).isOk(), "model not stored");
 }
 
 void HostProject::reopen()
 {
     const QString path = doc()->path();
-    require(doc()->close() == 0, "not all was stored");
+    require(doc()->close().isOk(), "not all was stored");
     m_project.doc = VKD_H_ZOBDoc::open(path);
     require(bool(m_project.doc), "project cannot be opened again");
 }

@@ -522,7 +522,7 @@ private Q_SLOTS:
             HostProject project{QString()};
             vkd::dbo::Model model;
             model.system.kindOfSystem = kind;
-            QVERIFY(vkd::dbo::storeModel(project.doc()->index(), model));
+            QVERIFY(vkd::dbo::storeModel(project.doc()->index(), model).isOk());
             DesignDesk desk(project, {record(-1, 4, 0)});
             desk.table()->setCurrentCell(0, 2);
             QStringList hints;

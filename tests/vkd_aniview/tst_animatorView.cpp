@@ -287,7 +287,7 @@ private Q_SLOTS:
     void noModel()
     {
         for (int index : {-1, 0, m_project->index()}) {
-            QVERIFY(storeModel(m_project->index(), Model()));
+            QVERIFY(storeModel(m_project->index(), Model()).isOk());
             AnimatorView view(index);
             view.setPicking(true);
             view.resize(300, 200);
@@ -304,7 +304,7 @@ private Q_SLOTS:
         m_view->setPicking(true);
         Model model = plates();
         model.quads[0].group = 70;
-        QVERIFY(storeModel(m_project->index(), model));
+        QVERIFY(storeModel(m_project->index(), model).isOk());
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), Groups{7});
         m_view->reload();
@@ -312,7 +312,7 @@ private Q_SLOTS:
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
         model.quads.clear();
         model.nodes.resize(2000);
-        QVERIFY(storeModel(m_project->index(), model));
+        QVERIFY(storeModel(m_project->index(), model).isOk());
         QVERIFY(!m_view->setProject(m_project->index(), [](int) { return false; }));
         drag(*m_view, {Left}); // it still shows what it did
         QCOMPARE(m_view->pickedGroups(), Groups{7});
@@ -340,18 +340,18 @@ private Q_SLOTS:
         const QByteArray path = m_project->doc->path().toUtf8();
         Model model = plates();
         model.nodes.resize(1500);
-        QVERIFY(storeModel(m_project->index(), model));
+        QVERIFY(storeModel(m_project->index(), model).isOk());
         int index = -1;
-        QCOMPARE(vkd_zob_open(path, &index), int(VKD_ZOB_OK));
+        QCOMPARE(vkd_zob_open(path, &index).code, int(VKD_ZOB_OK));
         for (int i = 0; i < 3; ++i)
             QTest::ignoreMessage(QtWarningMsg,
                                  QRegularExpression(QStringLiteral("no project is open")));
         m_view->setPicking(true);
-        const auto closeIt = [index](int) { return vkd_zob_close(index) == VKD_ZOB_OK; };
+        const auto closeIt = [index](int) { return vkd_zob_close(index).code == VKD_ZOB_OK; };
         QVERIFY(m_view->setProject(index, closeIt));
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), Groups());
-        QCOMPARE(vkd_zob_open(path, &index), int(VKD_ZOB_OK));
+        QCOMPARE(vkd_zob_open(path, &index).code, int(VKD_ZOB_OK));
         QVERIFY(m_view->setProject(index));
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), Groups{7});
@@ -409,7 +409,7 @@ private:
     /// Seen from above.
     std::unique_ptr<AnimatorView> viewOf(const Model& model) const
     {
-        if (!storeModel(m_project->index(), model))
+        if (!storeModel(m_project->index(), model).isOk())
             qFatal("model not stored");
         auto view = std::make_unique<AnimatorView>(m_project->index());
         view->resize(600, 400);

@@ -26,10 +26,10 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_path = m_folder->filePath(QStringLiteral("p")).toUtf8();
-        QCOMPARE(vkd_zob_create(m_path, &m_index), int(VKD_ZOB_OK));
+        QCOMPARE(vkd_zob_create(m_path, &m_index).code, int(VKD_ZOB_OK));
     }
 
-    void cleanup() { QCOMPARE(vkd_zob_close(m_index), int(VKD_ZOB_OK)); }
+    void cleanup() { QCOMPARE(vkd_zob_close(m_index).code, int(VKD_ZOB_OK)); }
 
     void standard()
     {
@@ -45,9 +45,10 @@ private Q_SLOTS:
                                   Camera{{4e-320, 0, 0}, 1e-300, {1e308, 0, 0}, 9e99},
                                   Camera{{-0.0, 1, 0}, -0.0, {0, -0.0, 0}, 1}}) {
             setCamera(m_index, odd);
-            QVERIFY(storeModel(m_index, Model())); // which is no reason to look from elsewhere
+            QVERIFY(
+                storeModel(m_index, Model()).isOk()); // which is no reason to look from elsewhere
             vkd_zob_close(m_index);
-            QCOMPARE(vkd_zob_open(m_path, &m_index), int(VKD_ZOB_OK));
+            QCOMPARE(vkd_zob_open(m_path, &m_index).code, int(VKD_ZOB_OK));
             QVERIFY(isSame(camera(m_index), odd));
             setAnimatorPerspektive(0, getAnimatorPerspektive(m_index, 2));
             QVERIFY(isSame(camera(0), odd));

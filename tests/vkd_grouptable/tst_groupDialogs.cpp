@@ -130,7 +130,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         setLanguage(English);
-        QVERIFY(storeModel(m_project.index(), sample()));
+        QVERIFY(storeModel(m_project.index(), sample()).isOk());
     }
 
     void confirmedAsItIs()

@@ -1,3 +1,4 @@
+#include "LanguageSupport.h"
 #include "TestSupport.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -31,7 +32,7 @@ private Q_SLOTS:
         const int first = document->index(), second = again->index();
         QVERIFY(first > 0 && second > 0 && first != second);
         for (int i = 0; i < 2; ++i) { // closing twice does no harm, neither here nor to others
-            QCOMPARE(again->close(), int(VKD_ZOB_OK));
+            QVERIFY(again->close().isOk());
             QCOMPARE(again->index(), -1);
         }
         QTest::ignoreMessage(QtWarningMsg, notOpen);
@@ -55,6 +56,23 @@ private Q_SLOTS:
         QCOMPARE(host.exitCode(), 0);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
                  QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    }
+
+    void reasonOfAFailureInTheDesktopsLanguage()
+    {
+        const QString reasons[] = {
+            QStringLiteral("no.zob kann nicht geöffnet werden: die Datei ist "
+                           "nicht vorhanden oder kann nicht geöffnet werden"),
+            QStringLiteral("cannot open no.zob: the file is not there or "
+                           "cannot be opened")};
+        for (int language : {testsupport::German, testsupport::English}) {
+            testsupport::setLanguage(language);
+            QTest::ignoreMessage(QtWarningMsg, qUtf8Printable(reasons[testsupport::English]));
+            VkdStatus status;
+            QVERIFY(!VKD_H_ZOBDoc::open(QStringLiteral("no.zob"), &status));
+            QCOMPARE(status.code, int(VKD_ZOB_NO_FILE));
+            QCOMPARE(status.reason, reasons[language]);
+        }
     }
 };
 

@@ -59,7 +59,7 @@ void makeProject(const QString& path, const Records& records)
     for (const QByteArray& record : records)
         put(index, 1, 1, record, 1);
     vkd_zob_free_ex(index, 1, 1);
-    if (vkd_zob_close(index) != VKD_ZOB_OK)
+    if (vkd_zob_close(index).code != VKD_ZOB_OK)
         qFatal("cannot make %s", qUtf8Printable(path));
 }
 

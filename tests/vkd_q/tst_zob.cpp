@@ -1,5 +1,8 @@
 #include "ZobTestSupport.h"
 
+#include <ZobSnapshot.h>
+#include <ZobTransaction.h>
+
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 
@@ -134,6 +137,110 @@ private Q_SLOTS:
         }
     }
 
+    void snapshotsAndTransactionsNest_data()
+    {
+        // steps: s, t and l begin a snapshot or a transaction or take a pair, S, T and L end the
+        // last one, C by commit; r reads other records, f releases a pair that is read. After each
+        // step "-" if another program cannot write.
+        const Columns<QString, QByteArray, int> row("steps", "writable", "stored");
+        row("snapshots that overlap", "ssSS", "---+", 0);
+        row("reading in a snapshot", "srrS", "---+", 0);
+        row("release in a snapshot", "sfS", "--+", 0);
+        row("transaction in a snapshot", "stCS", "---+", 1);
+        row("snapshot in a transaction", "tsSC", "---+", 1);
+        row("snapshot that outlives a transaction", "tsCS", "---+", 1);
+        row("transaction that outlives a snapshot", "stSC", "---+", 1);
+        row("pair in a transaction", "tlLC", "---+", 2);
+        row("transaction in a pair", "ltCL", "---+", 2);
+        row("transaction that outlives a pair", "ltLC", "---+", 2);
+        row("transaction in a transaction", "ttCC", "---+", 2);
+        row("dropped in a snapshot", "stTS", "---+", 0);
+        row("dropped in a transaction", "ttTC", "---+", 0);
+        row("dropped in a pair", "ltTL", "---+", 0);
+    }
+
+    void snapshotsAndTransactionsNest()
+    {
+        QFETCH(const QString, steps);
+        QFETCH(const int, stored);
+        std::vector<std::unique_ptr<ZobSnapshot>> snapshots;
+        std::vector<std::unique_ptr<ZobTransaction>> transactions;
+        QByteArray writable;
+        for (char step : steps.toLatin1()) {
+            if (QByteArray("TCL").contains(step)) // which ends a part of the change
+                put(m_first, 1, 1, "part", 1);
+            switch (step) {
+            case 's': snapshots.push_back(std::make_unique<ZobSnapshot>(m_first)); break;
+            case 'S': snapshots.pop_back(); break;
+            case 't': transactions.push_back(std::make_unique<ZobTransaction>(m_first)); break;
+            case 'C': transactions.back()->commit(); Q_FALLTHROUGH();
+            case 'T': transactions.pop_back(); break;
+            case 'l': QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK); break;
+            case 'r': readAll(m_first, 2); break;
+            case 'f': readOne(0); Q_FALLTHROUGH();
+            default: vkd_zob_free_ex(m_first, 1, 1);
+            }
+            writable += m_log->once(put(m_second, 1, 3, "x", 0)) == VKD_ZOB_LOCKED ? '-' : '+';
+        }
+        QTEST(writable, "writable");
+        Records expected = m_old;
+        for (int part = 0; part < stored; ++part)
+            expected << "part";
+        QCOMPARE(readAll(m_second), expected);
+    }
+
+    /// Between the end of the change and the next look no other program gets its turn.
+    void snapshotOutlivesAChange()
+    {
+        const ZobSnapshot snapshot(m_first);
+        for (bool isWhole : {true, false}) {
+            ZobTransaction change(m_first);
+            QCOMPARE(put(m_first, 1, 1, isWhole ? "new" : "dropped", 0), VKD_ZOB_OK);
+            QCOMPARE(readAll(m_first).first(), QByteArray(isWhole ? "new" : "dropped"));
+            if (isWhole)
+                QVERIFY(change.commit().isOk());
+        }
+        {
+            const ZobSnapshot other(m_second);
+            ZobTransaction change(m_first);
+            QCOMPARE(put(m_first, 1, 1, "refused", 0), VKD_ZOB_OK);
+            QCOMPARE(m_log->once(change.commit().code), VKD_ZOB_LOCKED);
+        }
+        QCOMPARE(readAll(m_first), (Records{"new", "old 1"}));
+        QCOMPARE(m_log->once(put(m_second, 1, 1, "other", 0)), VKD_ZOB_LOCKED);
+    }
+
+    void changeInASnapshotDoesNotWait()
+    {
+        auto snapshot = std::make_unique<ZobSnapshot>(m_first);
+        ZobTransaction other(m_second);
+        QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
+        vkd_lib_setvalue(201, 60000); // the other one would wait for the snapshot as long
+        QCOMPARE(m_log->once(ZobTransaction(m_first).status().code), VKD_ZOB_LOCKED);
+        QCOMPARE(m_log->once(put(m_first, 1, 1, "mine", 0)), VKD_ZOB_LOCKED);
+        QCOMPARE(readAll(m_first), m_old);
+        vkd_lib_setvalue(201, 30);
+        snapshot.reset();
+        QVERIFY(other.commit().isOk());
+        const ZobSnapshot later(m_first);
+        QVERIFY(ZobTransaction(m_first).commit().isOk()); // a snapshot is never out of date
+        QCOMPARE(readAll(m_first), (Records{"other", "old 1"}));
+    }
+
+    void closingEndsSnapshotsAndTransactions()
+    {
+        const ZobSnapshot snapshot(m_first);
+        ZobTransaction change(m_first);
+        put(m_first, 1, 1, "new", 0);
+        const QString path = m_folder->filePath(QStringLiteral("Träger.vkd"));
+        QVERIFY(vkd_zob_close(m_first).isOk());
+        m_first = openProject(path); // under the same index
+        QCOMPARE(change.commit().code, VKD_ZOB_NOT_OPEN);
+        QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
+        QCOMPARE(m_log->once(ZobSnapshot(99).status().code), VKD_ZOB_NOT_OPEN);
+        QCOMPARE(m_log->once(ZobTransaction(99).commit().code), VKD_ZOB_NOT_OPEN);
+    }
+
     void lastReleaseStoresAndCloseDrops()
     {
         QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
@@ -147,7 +254,7 @@ private Q_SLOTS:
         QCOMPARE(readAll(m_second), (Records{"new", "old 1"}));
         QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
         QCOMPARE(put(m_first, 1, 1, "dropped", 1), VKD_ZOB_OK);
-        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)), VKD_ZOB_OK);
+        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)).code, VKD_ZOB_OK);
         QCOMPARE(readAll(m_second), (Records{"new", "old 1"}));
         QCOMPARE(put(m_second, 1, 1, "more", 1), VKD_ZOB_OK);
     }
@@ -170,11 +277,18 @@ private Q_SLOTS:
             QCOMPARE(readAll(m_second), m_old + Records{"first"});
             vkd_zob_free_ex(m_second, 1, released);
         }
-        QCOMPARE(vkd_zob_change_status(m_second), VKD_ZOB_LOCKED);
+        const QString reason = QStringLiteral("cannot take the lock of %1: another program holds "
+                                              "the project (database is locked)")
+                                   .arg(m_folder->filePath(QStringLiteral("Träger.vkd")));
+        QCOMPARE(vkd_zob_change_status(m_second).code, VKD_ZOB_LOCKED);
+        QCOMPARE(vkd_zob_change_status(m_second).reason, reason);
+        QCOMPARE(vkd_zob_last_failure(m_second).reason, reason);
+        QVERIFY(vkd_zob_last_failure(m_first).isOk());
         for (int lost : {2, 3})
             QCOMPARE(readAll(m_first, lost), Records());
         QCOMPARE(put(m_second, 1, 2, "later", 1), VKD_ZOB_OK);
-        QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)), VKD_ZOB_LOCKED); // "second" is lost
+        QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)).code,
+                 VKD_ZOB_LOCKED); // "second" is lost
     }
 
     void closeTellsThatAReleaseCouldNotStore()
@@ -186,18 +300,17 @@ private Q_SLOTS:
         QCOMPARE(m_log->take(), 1);
         vkd_zob_free_ex(m_first, 1, 1);
         QCOMPARE(readAll(m_second), m_old);
-        QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)), VKD_ZOB_LOCKED);
+        QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)).code, VKD_ZOB_LOCKED);
     }
 
-    void droppedOnPurpose()
+    void rollback()
     {
-        QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
+        ZobTransaction change(m_first);
         QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_OK);
-        vkd_zob_drop_ex(m_first);
-        vkd_zob_free_ex(m_first, 1, 1);
-        QCOMPARE(vkd_zob_change_status(m_first), VKD_ZOB_CANCELLED);
-        QCOMPARE(readAll(m_first), m_old);
-        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)), VKD_ZOB_OK); // nothing went wrong
+        QCOMPARE(change.rollback().code, VKD_ZOB_CANCELLED);
+        QCOMPARE(change.commit().code, VKD_ZOB_CANCELLED);
+        QCOMPARE(readAll(m_second), m_old);
+        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)).code, VKD_ZOB_OK); // nothing went wrong
     }
 
     void failureDropsTheChange_data()
@@ -224,7 +337,7 @@ private Q_SLOTS:
         QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // and says no more
         vkd_zob_free_ex(m_first, 1, 1);
         QCOMPARE(readAll(m_first), m_old);
-        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)), VKD_ZOB_BAD_CALL);
+        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)).code, VKD_ZOB_BAD_CALL);
     }
 
 private:

@@ -50,8 +50,8 @@ static int childMain(const Task& task, const QString& path)
     cd_error_t result = VKD_ZOB_OK;
     for (int round = 0; round < task.rounds && result == VKD_ZOB_OK; ++round)
         result = writeRound(index, task);
-    const cd_error_t stored = vkd_zob_change_status(index); // of the last round
-    const cd_error_t closed = vkd_zob_close(index);
+    const cd_error_t stored = vkd_zob_change_status(index).code; // of the last round
+    const cd_error_t closed = vkd_zob_close(index).code;
     return result == VKD_ZOB_OK && stored == closed ? closed : result;
 }
 

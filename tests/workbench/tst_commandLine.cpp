@@ -157,7 +157,7 @@ private Q_SLOTS:
         const bool isDamaged = page.startsWith(QLatin1String("</"));
         const workbench::OutputState state{page, isDamaged ? 77 : 0, {isDamaged ? -3 : 2}};
         QCOMPARE(state.write(project->index()), cd_error_t(VKD_ZOB_OK));
-        QCOMPARE(project->close(), cd_error_t(VKD_ZOB_OK));
+        QVERIFY(project->close().isOk());
         const Result expected = run(QLatin1String("script building.zob") + same);
         QVERIFY(expected.out.contains(QLatin1String("SIZE ")));
         const Result result = run(QLatin1String("script kept.zob") + options);
@@ -298,7 +298,7 @@ private Q_SLOTS:
         row("new x.zob --model field.json", "field.json: designParameters of group 7: \"hiox=1\" "
                                             "is no FIELD=VALUE of a design record");
         row("new no/x.zob --model slab",
-            "cannot create no/x.zob: cannot create no/x.zob: the file is not there or cannot be "
+            "cannot create no/x.zob: the file is not there or cannot be "
             "opened (No such file or directory)");
         row("rows slab.zob type=1", "--set-row is missing");
         row("rows slab.zob --set-row 99 type=1", "there is no group \"99\"");

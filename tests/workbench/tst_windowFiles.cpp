@@ -106,9 +106,9 @@ private Q_SLOTS:
         other.reset();
         QCOMPARE(readFile(path("mine.zob")) == m_building, isCopied);
         int index = -1, length = 0;
-        QCOMPARE(vkd_zob_open(path(opened).toUtf8().constData(), &index), VKD_ZOB_OK);
+        QCOMPARE(vkd_zob_open(path(opened).toUtf8().constData(), &index).code, VKD_ZOB_OK);
         QCOMPARE(vkd_zob_get(index, 9000, 1, nullptr, &length, 0), VKD_ZOB_NO_KEY);
-        QCOMPARE(vkd_zob_close(index), VKD_ZOB_OK);
+        QCOMPARE(vkd_zob_close(index).code, VKD_ZOB_OK);
     }
 
     void saveAsFails_data()

@@ -2,14 +2,13 @@
 
 #include "CommandLine.h"
 #include "DesignRows.h"
-#include "PlatformLog.h"
 
 #include <designStore.h>
-#include <ProjectWriting.h>
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_searchpath.h>
 #include <vkd_lib_value.h>
+#include <ZobTransaction.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -29,10 +28,10 @@ QString modelPath(const QString& nameOrFile)
     return QFile::decodeName(found->c_str());
 }
 
-void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs,
-                 const QString& modelFile)
+VkdStatus storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs,
+                      const QString& modelFile)
 {
-    ProjectWriting change(document->index());
+    ZobTransaction change(document->index());
     plib::checkAndCreateZobDefault(document->index());
     DesignRows rows(document);
     for (const vkd::dbo::DesignValues& design : designs) {
@@ -48,7 +47,7 @@ void storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& 
         }
     }
     rows.write();
-    change.finish(); // closing answers for it
+    return change.commit();
 }
 
 /// A file that is gone with the object, unless it got another name.
@@ -59,7 +58,11 @@ public:
         : m_path(path)
     {
     }
-    ~UnfinishedFile() { QFile::remove(m_path); }
+    ~UnfinishedFile()
+    {
+        if (!m_path.isEmpty())
+            QFile::remove(m_path);
+    }
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
@@ -73,18 +76,20 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
 {
     const QString name =
         path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
-    bool done = false;
-    auto document = VKD_H_ZOBDoc::create(name);
-    if (document) {
-        const UnfinishedFile unfinished(name);
-        done = vkd::dbo::storeModel(document->index(), model, goOn);
-        if (done)
-            storeDesign(document.get(), model.designParameters, modelFile);
-        done = document->close() == VKD_ZOB_OK && done && QFile::rename(name, path);
-    }
-    if (!done)
-        throw CommandError{QLatin1String("cannot create ") + path + QLatin1String(": ") +
-                           PlatformLog::take().join(QLatin1String("; ")).replace(name, path)};
+    VkdStatus status;
+    auto document = VKD_H_ZOBDoc::create(name, &status);
+    const UnfinishedFile unfinished(document ? name : QString());
+    if (document)
+        status = vkd::dbo::storeModel(document->index(), model, goOn);
+    if (status.isOk())
+        status = storeDesign(document.get(), model.designParameters, modelFile);
+    if (status.isOk())
+        status = document->close();
+    if (!status.isOk())
+        throw CommandError{status.reason.replace(name, path)};
+    QFile file(name);
+    if (!file.rename(path))
+        throw CommandError{QStringLiteral("cannot create %1: %2").arg(path, file.errorString())};
 }
 
 /// For one half of the work, which has this many percent before it.

@@ -2,12 +2,11 @@
 
 #include "CommandLine.h"
 #include "DesignRows.h"
-#include "PlatformLog.h"
 
 #include <designFields.h>
 #include <designStore.h>
-#include <ProjectWriting.h>
 #include <VKD_H_ZOBDoc.h>
+#include <ZobTransaction.h>
 
 namespace workbench {
 
@@ -18,6 +17,23 @@ QString fieldNames()
     for (const plib::NamedField& field : plib::namedFields())
         names << QString::fromLatin1(field.name);
     return names.join(QLatin1Char(' '));
+}
+/// Throws if there is one.
+void failOn(const VkdStatus& failure)
+{
+    if (!failure.isOk())
+        throw CommandError{failure.reason};
+}
+
+void storeRow(VKD_H_ZOBDoc* document, const QString& groups, const QStringList& fields)
+{
+    ZobTransaction change(document->index());
+    failOn(change.status());
+    plib::checkAndCreateZobDefault(document->index());
+    DesignRows rows(document);
+    rows.setRow(groups, fields);
+    rows.write();
+    failOn(change.commit());
 }
 } // namespace
 
@@ -44,20 +60,9 @@ int rowsCommand(const QStringList& arguments)
     if (!fields.isEmpty() && !line.has("set-row"))
         throw CommandError{QStringLiteral("--set-row is missing")};
     const auto document = openProject(line.argument(0));
-    if (line.has("set-row")) {
-        ProjectWriting change(document->index());
-        if (change.status() != VKD_ZOB_OK)
-            throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
-        plib::checkAndCreateZobDefault(document->index());
-        DesignRows rows(document.get());
-        rows.setRow(line.value("set-row"), fields);
-        rows.write();
-        change.finish(); // closing answers for it
-    }
-    const QString text = DesignRows(document.get()).text();
-    if (document->close() != VKD_ZOB_OK)
-        throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
-    print(text);
+    if (line.has("set-row"))
+        storeRow(document.get(), line.value("set-row"), fields);
+    print(DesignRows(document.get()).text());
     return 0;
 }
 

@@ -5,34 +5,20 @@
 namespace workbench {
 
 namespace {
-// Holds nothing: readers and writers inside of a change release pairs of their own.
+// Holds nothing.
 constexpr int ChangeKey1 = 421;
 constexpr int ChangeKey2 = 0;
 } // namespace
 
 ProjectWriting::ProjectWriting(int index)
-    : m_index(index)
-    , m_status(vkd_zob_lock_ex(index, ChangeKey1, ChangeKey2))
+    : m_change(index)
 {
-}
-
-ProjectWriting::~ProjectWriting()
-{
-    finish(false);
 }
 
 cd_error_t ProjectWriting::finish(bool isWhole)
 {
-    if (!m_isOpen)
-        return m_status;
-    m_isOpen = false;
-    if (!isWhole)
-        vkd_zob_drop_ex(m_index);
-    vkd_zob_free_ex(m_index, ChangeKey1, ChangeKey2);
-    m_status = vkd_zob_change_status(m_index);
-    if (m_status == VKD_ZOB_CANCELLED) // by this object, and not by the user
-        m_status = VKD_ZOB_FAILED;
-    return m_status;
+    const cd_error_t status = (isWhole ? m_change.commit() : m_change.rollback()).code;
+    return status == VKD_ZOB_CANCELLED ? cd_error_t(VKD_ZOB_FAILED) : status; // not by the user
 }
 
 cd_error_t storeEntries(int index, int page,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vkd_zob.h>
+#include <ZobTransaction.h>
 
 #include <functional>
 
@@ -16,20 +17,15 @@ class ProjectWriting
 public:
     /// Of the project at this database index.
     explicit ProjectWriting(int index);
-    ~ProjectWriting();
-    ProjectWriting(const ProjectWriting&) = delete;
-    ProjectWriting& operator=(const ProjectWriting&) = delete;
 
     /// Why the change could not begin, VKD_ZOB_OK if it did.
-    cd_error_t status() const { return m_status; }
+    cd_error_t status() const { return m_change.status().code; }
     /// Stores what was put, unless it is not the whole change. The result is VKD_ZOB_OK, or why
     /// nothing is stored.
     cd_error_t finish(bool isWhole = true);
 
 private:
-    int m_index;
-    bool m_isOpen = true;
-    cd_error_t m_status;
+    ZobTransaction m_change;
 };
 
 /// Sets entries of a page of the project and stores them, in a change of their own. The result is a

@@ -78,8 +78,9 @@ cd_error_t ReplacedFile::take(const QString& path)
         QFile::remove(path + JournalSuffix); // it would be played back into the new file
         return VKD_ZOB_OK;
     }
-    cd_error_t status = VKD_ZOB_OK;
-    m_document = VKD_H_ZOBDoc::open(path, &status); // finishes what was interrupted
+    VkdStatus opening;
+    m_document = VKD_H_ZOBDoc::open(path, &opening); // finishes what was interrupted
+    cd_error_t status = opening.code;
     if (m_document)
         status = vkd_zob_lock_ex(m_document->index(), AnyKey1, AnyKey2);
     if (status == VKD_ZOB_LOCKED)

@@ -47,9 +47,9 @@ bool MainWindow::openProject(const QString& path)
     std::unique_ptr<VKD_H_ZOBDoc> document;
     cd_error_t status = waitForStore(this, absolute, [this, &document, &absolute] {
         SlowWork work(this, tr("The project is being opened."), 0);
-        cd_error_t result = VKD_ZOB_OK;
+        VkdStatus result;
         document = VKD_H_ZOBDoc::open(absolute, &result, [&work](int) { return work.goOn(0); });
-        return result;
+        return cd_error_t(result.code);
     });
     const bool isFirst = !m_document && isVisible(); // which is not to hold up the window
     if (status == VKD_ZOB_OK && !isFirst && !showModel(document->index()))

@@ -3,6 +3,7 @@
 #include "vkd_dbo_export.h"
 
 #include <vkd_progress.h>
+#include <vkd_status.h>
 
 #include <QByteArray>
 #include <QMap>
@@ -164,9 +165,9 @@ VKD_DBO_EXPORT bool readModelFile(const QString& path, int language, Model* mode
                                   const VkdGoOn& goOn = VkdGoOn());
 
 /// Stores the model in the project at this database index, in place of the one it held; either all
-/// of it or nothing. False if the store refused, its log line says why, or if `goOn` answered
+/// of it or nothing. The code of the result is a VkdZobStatus, VKD_ZOB_CANCELLED if `goOn` answered
 /// false.
-VKD_DBO_EXPORT bool storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
+VKD_DBO_EXPORT VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
 
 /// The model of the project, from one state of it; empty where the project holds none. If `goOn`
 /// answered false or the store failed, it is that part of the model that was read until then.

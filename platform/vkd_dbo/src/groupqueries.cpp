@@ -1,6 +1,7 @@
-#include "ModelPass.h"
 #include "recordlist.h"
 #include "vkd_dbo_groups.h"
+
+#include <ZobSnapshot.h>
 
 #include <QHash>
 #include <QtEndian>
@@ -39,9 +40,10 @@ bool countElements(int index, const ElementList& list, QHash<int, GroupContents>
 
 QVector<GroupSummary> readGroups(int index)
 {
-    const ModelPass pass(index);
+    const ZobSnapshot snapshot(index);
     QVector<Group> groups;
-    bool goesOn = pass.hasModel() && readList(index, keys::Groups, groups) && !groups.isEmpty();
+    bool goesOn =
+        snapshot.status().isOk() && readList(index, keys::Groups, groups) && !groups.isEmpty();
     QHash<int, GroupContents> contents;
     for (const ElementList& list : elementLists)
         goesOn = goesOn && countElements(index, list, contents);

@@ -15,7 +15,6 @@ struct KeyPair
 namespace keys {
 constexpr KeyPair CrossSections{9, 0};
 constexpr KeyPair System{10, 0};
-constexpr KeyPair Lock{10, 1}; // holds nothing; taken while a model is stored
 constexpr KeyPair Groups{11, 0};
 constexpr KeyPair LoadCases{12, 0};
 constexpr KeyPair SecondaryGroups{13, 0};

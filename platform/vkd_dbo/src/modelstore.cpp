@@ -1,8 +1,9 @@
-#include "ModelPass.h"
 #include "recordlist.h"
 #include "vkd_dbo_queries.h"
 
 #include <vkd_zob.h>
+#include <ZobSnapshot.h>
+#include <ZobTransaction.h>
 
 #include <QLoggingCategory>
 #include <QUuid>
@@ -27,11 +28,12 @@ QVector<QByteArray> toRecords(const QVector<T>& things)
     return records;
 }
 
-SystemInformation systemOf(int index, const ModelPass& pass)
+/// `mark` is its record, see modelMark().
+SystemInformation systemOf(int index, const QByteArray& mark)
 {
     QVector<SystemInformation> systems;
-    if (pass.hasModel())
-        addThing(index, keys::System, pass.system(), systems);
+    if (!mark.isEmpty())
+        addThing(index, keys::System, mark, systems);
     return systems.isEmpty() ? SystemInformation() : systems.first();
 }
 } // namespace
@@ -84,25 +86,20 @@ void reportDamagedRecord(int index, KeyPair pair)
               pair.key1, pair.key2);
 }
 
-bool storeModel(int index, const Model& model, const VkdGoOn& goOn)
+VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn)
 {
     int total = 0;
     forEachList(model, [&total](KeyPair, const auto& things) { total += things.size(); });
     VkdSteps steps(goOn, total);
-    constexpr KeyPair lock = keys::Lock;
-    bool done = vkd_zob_lock_ex(index, lock.key1, lock.key2) == VKD_ZOB_OK;
-    // Behind its fields the record bears a mark of its own, because releasing has no result:
-    // whoever finds the mark in the project knows that all that was put with it is there too.
+    ZobTransaction change(index);
+    // After its fields the record has bytes of its own, which tell this model from any other.
     QByteArray system = toRecords(QVector<SystemInformation>{model.system}).first();
     system += QUuid::createUuid().toRfc4122();
-    done = done && putRecords(index, keys::System, {system});
+    bool done = change.status().isOk() && putRecords(index, keys::System, {system});
     forEachList(model, [&](KeyPair pair, const auto& things) {
         done = done && putRecords(index, pair, toRecords(things), &steps);
     });
-    if (steps.isStopped())
-        vkd_zob_drop_ex(index);
-    vkd_zob_free_ex(index, lock.key1, lock.key2);
-    return done && modelMark(index) == system;
+    return done ? change.commit() : change.rollback();
 }
 
 QByteArray modelMark(int index)
@@ -116,15 +113,16 @@ Model readModel(int index, const VkdGoOn& goOn, QByteArray* mark)
 {
     VkdSteps steps(goOn);
     Model model;
-    const ModelPass pass(index);
-    model.system = systemOf(index, pass);
-    bool isWhole = pass.hasModel();
+    const ZobSnapshot snapshot(index);
+    const QByteArray system = snapshot.status().isOk() ? modelMark(index) : QByteArray();
+    model.system = systemOf(index, system);
+    bool isWhole = !system.isEmpty();
     // After a failure the others would only fail as well, each after the store's whole patience.
     forEachList(model, [&](KeyPair pair, auto& things) {
         isWhole = isWhole && readList(index, pair, things, &steps);
     });
     if (mark)
-        *mark = isWhole ? pass.system() : QByteArray();
+        *mark = isWhole ? system : QByteArray();
     return model;
 }
 
@@ -137,7 +135,7 @@ QVector<LoadCase> readLoadCases(int index)
 
 int getKindOfSystem(int index, structKindSystem*)
 {
-    return systemOf(index, ModelPass(index)).kindOfSystem;
+    return systemOf(index, modelMark(index)).kindOfSystem;
 }
 
 } // namespace dbo

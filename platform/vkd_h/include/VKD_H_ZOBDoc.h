@@ -13,12 +13,11 @@
 class VKD_H_EXPORT VKD_H_ZOBDoc
 {
 public:
-    /// Opens a project file, or makes a new one that must not be there yet. Null if that fails;
-    /// `status`, if given, is then a VkdZobStatus above 1 and the log holds a line, unless `goOn`
-    /// answered false.
-    static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, cd_error_t* status = nullptr,
+    /// Opens a project file, or makes a new one that must not be there yet. Null if that fails, and
+    /// `status`, if given, says why: the result of vkd_zob_open() or vkd_zob_create().
+    static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, VkdStatus* status = nullptr,
                                               const VkdGoOn& goOn = VkdGoOn());
-    static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, cd_error_t* status = nullptr);
+    static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, VkdStatus* status = nullptr);
     /// The scratch store as a document, for what is not to be in a project yet. All such documents
     /// are one store, which keeps what is in it; index 0, without a path.
     static std::unique_ptr<VKD_H_ZOBDoc> scratch();
@@ -32,8 +31,8 @@ public:
     QString path() const;
 
     /// Closes the document before its end, to learn whether all that was written is stored: the
-    /// result of vkd_zob_close(), 0 if the document was closed already.
-    cd_error_t close();
+    /// result of vkd_zob_close(), OK if the document was closed already.
+    VkdStatus close();
 
 private:
     VKD_H_ZOBDoc(int index, const QString& path);

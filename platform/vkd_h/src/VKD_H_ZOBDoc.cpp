@@ -1,5 +1,7 @@
 #include "VKD_H_ZOBDoc.h"
 
+#include <utility>
+
 namespace {
 constexpr int ScratchIndex = 0;
 }
@@ -15,20 +17,20 @@ VKD_H_ZOBDoc::~VKD_H_ZOBDoc()
     close();
 }
 
-std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::open(const QString& path, cd_error_t* status,
+std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::open(const QString& path, VkdStatus* status,
                                                  const VkdGoOn& goOn)
 {
     int index = -1;
-    const cd_error_t result = vkd_zob_open(path.toUtf8().constData(), &index, goOn);
+    const VkdStatus result = vkd_zob_open(path.toUtf8().constData(), &index, goOn);
     if (status)
         *status = result;
     return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
 }
 
-std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::create(const QString& path, cd_error_t* status)
+std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::create(const QString& path, VkdStatus* status)
 {
     int index = -1;
-    const cd_error_t result = vkd_zob_create(path.toUtf8().constData(), &index);
+    const VkdStatus result = vkd_zob_create(path.toUtf8().constData(), &index);
     if (status)
         *status = result;
     return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
@@ -49,12 +51,10 @@ QString VKD_H_ZOBDoc::path() const
     return m_path;
 }
 
-cd_error_t VKD_H_ZOBDoc::close()
+VkdStatus VKD_H_ZOBDoc::close()
 {
     if (m_index < 0)
-        return VKD_ZOB_OK;
-    const bool livesOn = m_index == ScratchIndex;
-    const cd_error_t status = livesOn ? cd_error_t(VKD_ZOB_OK) : vkd_zob_close(m_index);
-    m_index = -1;
-    return status;
+        return {};
+    const int index = std::exchange(m_index, -1);
+    return index == ScratchIndex ? VkdStatus() : vkd_zob_close(index); // which lives on
 }

@@ -2,15 +2,19 @@
 
 #include "vkd_progress.h"
 #include "vkd_q_export.h"
+#include "vkd_status.h"
 
 /// The ZOB, the record store of a project: ordered sequences of opaque records, each sequence under
 /// a pair of keys, in one file for each project. An open project has a database index of 1 or more;
 /// index 0 is a scratch store in memory that lives as long as the process.
 ///
-/// Every operation that fails writes one log line of the category vkd.zob that says what failed and
-/// why, and leaves what was stored as it was. What fails only because something before it failed, a
-/// put after a failed take above all, repeats the status without a line. All of it is for one
-/// thread, the GUI thread.
+/// Every operation that fails leaves what was stored as it was and writes one log line of the
+/// category vkd.zob, in English. The reason in the status that it answers, or else in
+/// vkd_zob_last_failure(), says the same in the desktop's language. What fails only because
+/// something before it failed, a put after a failed take above all, repeats the status without a
+/// line. All of it is for one thread, the GUI thread.
+///
+/// ZobSnapshot reads a project as a whole, and ZobTransaction changes it as a whole.
 using cd_error_t = int;
 
 /// What the operations answer. Anything above VKD_ZOB_CUT means that nothing was delivered or done.
@@ -36,16 +40,20 @@ enum VkdZobStatus : cd_error_t {
 /// was left in order changes no byte of it; after a crash the interrupted write is undone first.
 /// A file without any write permission is opened for reading, also for a privileged user. The file
 /// is checked throughout, some 100 MB in a second, and `goOn` asked meanwhile.
-VKD_Q_EXPORT cd_error_t vkd_zob_open(const char* path, int* index, const VkdGoOn& goOn = VkdGoOn());
+VKD_Q_EXPORT VkdStatus vkd_zob_open(const char* path, int* index, const VkdGoOn& goOn = VkdGoOn());
 
 /// Makes a new, empty project file and opens it. A file that is there already is left alone and the
 /// call fails with VKD_ZOB_NO_FILE.
-VKD_Q_EXPORT cd_error_t vkd_zob_create(const char* path, int* index);
+VKD_Q_EXPORT VkdStatus vkd_zob_create(const char* path, int* index);
 
 /// Closes the project; key pairs still taken are given back without their changes. Because
 /// releasing a key pair has no result, this call answers the first release that could not store its
 /// changes.
-VKD_Q_EXPORT cd_error_t vkd_zob_close(int index);
+VKD_Q_EXPORT VkdStatus vkd_zob_close(int index);
+
+/// The last failure of an operation on an open project, for the operations that answer a code only
+/// or nothing; OK if none failed yet.
+VKD_Q_EXPORT VkdStatus vkd_zob_last_failure(int index);
 
 /// Delivers the record at `position` (0 is the first). `*length` is the size of the buffer on entry
 /// and the number of bytes delivered on return. From position 0 until the end of the sequence, or
@@ -70,13 +78,9 @@ VKD_Q_EXPORT cd_error_t vkd_zob_lock_ex(int index, int key1, int key2);
 /// If anything failed meanwhile, a read too, none of it counts.
 VKD_Q_EXPORT void vkd_zob_free_ex(int index, int key1, int key2);
 
-/// Drops what was put since the first key pair was taken, and refuses what is put until the last
-/// one is released. Without a taken key pair it does nothing.
-VKD_Q_EXPORT void vkd_zob_drop_ex(int index);
-
 /// How the last change of the project ended, because releasing it has no result: 0 if what was put
 /// is stored or nothing was taken yet, otherwise why taking or storing failed.
-VKD_Q_EXPORT cd_error_t vkd_zob_change_status(int index);
+VKD_Q_EXPORT VkdStatus vkd_zob_change_status(int index);
 
 /// With `mode` 1 moves `*key1`, `*key2` to the first key pair in use that is not below them, both
 /// -1 if there is none: a key pair (35, 0) that still begins with 35 tells that something is stored

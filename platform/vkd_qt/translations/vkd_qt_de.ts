@@ -13,6 +13,93 @@
     </message>
 </context>
 <context>
+    <name>ZobTexts</name>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>%1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot create %1: %2</source>
+        <translation>%1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot close %1: %2</source>
+        <translation>%1 kann nicht geschlossen werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot search %1: %2</source>
+        <translation>%1 kann nicht durchsucht werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot take the lock of %1: %2</source>
+        <translation>%1 kann nicht gesperrt werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot store the changes in %1: %2</source>
+        <translation>Die Änderungen in %1 können nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot undo the changes in %1: %2</source>
+        <translation>Die Änderungen in %1 können nicht zurückgenommen werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot use database %1: %2</source>
+        <translation>Die Datenbank %1 kann nicht benutzt werden: %2</translation>
+    </message>
+    <message>
+        <source>no project is open under this index</source>
+        <translation>unter diesem Index ist kein Projekt geöffnet</translation>
+    </message>
+    <message>
+        <source>the file is not there or cannot be opened</source>
+        <translation>die Datei ist nicht vorhanden oder kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>this is no project file</source>
+        <translation>das ist keine Projektdatei</translation>
+    </message>
+    <message>
+        <source>the file was written by a newer version</source>
+        <translation>die Datei wurde mit einer neueren Version geschrieben</translation>
+    </message>
+    <message>
+        <source>the file is damaged</source>
+        <translation>die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the file or its folder is write-protected</source>
+        <translation>die Datei oder ihr Ordner ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>the disk is full, or it does not take what is written</source>
+        <translation>der Datenträger ist voll oder nimmt die Daten nicht an</translation>
+    </message>
+    <message>
+        <source>another program holds the project</source>
+        <translation>ein anderes Programm hält das Projekt</translation>
+    </message>
+    <message>
+        <source>an argument is out of range</source>
+        <translation>ein Argument liegt außerhalb des zulässigen Bereichs</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>der Vorgang wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>the system failed to read or write</source>
+        <translation>das System konnte nicht lesen oder schreiben</translation>
+    </message>
+</context>
+<context>
     <name>vkd::dbo::ModelFileError</name>
     <message>
         <source>node</source>

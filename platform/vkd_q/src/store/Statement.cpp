@@ -7,14 +7,19 @@ Statement::~Statement()
     sqlite3_finalize(m_statement);
 }
 
+int Statement::prepare(sqlite3* connection, const char* sql)
+{
+    if (m_statement)
+        return SQLITE_OK;
+    return sqlite3_prepare_v3(connection, sql, -1, SQLITE_PREPARE_PERSISTENT, &m_statement,
+                              nullptr);
+}
+
 int Statement::start(sqlite3* connection, const char* sql, int first, int second)
 {
-    if (!m_statement) {
-        const int code = sqlite3_prepare_v3(connection, sql, -1, SQLITE_PREPARE_PERSISTENT,
-                                            &m_statement, nullptr);
-        if (code != SQLITE_OK)
-            return code;
-    }
+    const int code = prepare(connection, sql);
+    if (code != SQLITE_OK)
+        return code;
     bind(1, first);
     return bind(2, second);
 }

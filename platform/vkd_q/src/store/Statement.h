@@ -4,7 +4,7 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 /// A prepared statement that is kept for the life of its database and reset after each use, so that
-/// it never holds a lock between two calls. Used by RecordTable only.
+/// it holds no lock of its own from then on. Used by RecordTable and ZobTransactions.
 class Statement
 {
 public:
@@ -13,8 +13,9 @@ public:
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
 
-    /// Prepares `sql` on the first call and binds the integers to its first parameters. The result
-    /// is SQLite's code.
+    /// Prepares `sql` on the first call. All operations that give an int answer SQLite's code.
+    int prepare(sqlite3* connection, const char* sql);
+    /// Prepares it and binds the integers to its first parameters.
     int start(sqlite3* connection, const char* sql, int first, int second);
     int bind(int parameter, int value);
     int step();

@@ -3,7 +3,6 @@
 #include "vkd_lib_value.h"
 #include "zobFileCheck.h"
 #include "zobSchema.h"
-#include "ZobStatus.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -62,44 +61,44 @@ ZobConnection::ZobConnection(const QString& path)
 {
 }
 
-cd_error_t ZobConnection::open(const VkdGoOn& goOn)
+VkdStatus ZobConnection::open(const VkdGoOn& goOn)
 {
     if (!QFileInfo(m_path).isFile())
-        return reportZob(VKD_ZOB_NO_FILE, "open", m_path);
+        return fail(VKD_ZOB_NO_FILE, ZobAction::Open);
     if (QFileInfo(m_path).size() == 0) // would pass as a sound database without tables
-        return reportZob(VKD_ZOB_NO_PROJECT, "open", m_path, QStringLiteral("it is empty"));
-    cd_error_t status =
+        return fail(VKD_ZOB_NO_PROJECT, ZobAction::Open);
+    VkdStatus status =
         connect(isWriteProtected(m_path) ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
-    if (status == VKD_ZOB_OK)
+    if (status.isOk())
         status = checkZobFile(*this, goOn);
-    return status == VKD_ZOB_OK ? execute(Durability, "open") : status;
+    return status.isOk() ? execute(Durability, ZobAction::Open) : status;
 }
 
-cd_error_t ZobConnection::create()
+VkdStatus ZobConnection::create()
 {
     // Made exclusively, so that two programs cannot both believe that the file is theirs.
     QFile file(m_path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return reportZob(VKD_ZOB_NO_FILE, "create", m_path, file.errorString());
+        return fail(VKD_ZOB_NO_FILE, ZobAction::Create, file.errorString());
     file.close();
-    cd_error_t status = connect(SQLITE_OPEN_READWRITE);
-    if (status == VKD_ZOB_OK)
+    VkdStatus status = connect(SQLITE_OPEN_READWRITE);
+    if (status.isOk())
         status = makeSchema();
-    if (status != VKD_ZOB_OK) {
+    if (!status.isOk()) {
         m_handle.reset();
         file.remove();
     }
     return status;
 }
 
-cd_error_t ZobConnection::openInMemory()
+VkdStatus ZobConnection::openInMemory()
 {
     m_path = InMemory;
-    const cd_error_t status = connect(SQLITE_OPEN_READWRITE);
-    return status == VKD_ZOB_OK ? makeSchema() : status;
+    const VkdStatus status = connect(SQLITE_OPEN_READWRITE);
+    return status.isOk() ? makeSchema() : status;
 }
 
-cd_error_t ZobConnection::connect(int flags)
+VkdStatus ZobConnection::connect(int flags)
 {
     sqlite3* connection = nullptr;
     // Absolute, because SQLite would take "file:x" for an address.
@@ -109,16 +108,16 @@ cd_error_t ZobConnection::connect(int flags)
     const int code = sqlite3_open_v2(path.constData(), &connection, flags, nullptr);
     m_handle.reset(connection);
     if (code != SQLITE_OK)
-        return reportZob(VKD_ZOB_NO_FILE, "open", m_path, QString::fromUtf8(sqlite3_errstr(code)));
+        return fail(VKD_ZOB_NO_FILE, ZobAction::Open, QString::fromUtf8(sqlite3_errstr(code)));
     sqlite3_extended_result_codes(connection, 0);
     sqlite3_busy_handler(connection, waitForOther, nullptr);
-    return VKD_ZOB_OK;
+    return {};
 }
 
-cd_error_t ZobConnection::makeSchema()
+VkdStatus ZobConnection::makeSchema()
 {
-    const cd_error_t status = execute(Durability, "create");
-    return status == VKD_ZOB_OK ? execute(Schema, "create") : status;
+    const VkdStatus status = execute(Durability, ZobAction::Create);
+    return status.isOk() ? execute(Schema, ZobAction::Create) : status;
 }
 
 bool ZobConnection::isReadOnly() const
@@ -131,7 +130,7 @@ bool ZobConnection::isInTransaction() const
     return sqlite3_get_autocommit(handle()) == 0;
 }
 
-cd_error_t ZobConnection::number(const char* sql, int* value)
+VkdStatus ZobConnection::number(const char* sql, int* value)
 {
     sqlite3_stmt* statement = nullptr;
     int code = sqlite3_prepare_v2(handle(), sql, -1, &statement, nullptr);
@@ -139,19 +138,25 @@ cd_error_t ZobConnection::number(const char* sql, int* value)
         code = sqlite3_step(statement);
     if (code == SQLITE_ROW)
         *value = sqlite3_column_int(statement, 0);
-    const cd_error_t status = code == SQLITE_ROW ? cd_error_t(VKD_ZOB_OK) : fail(code, "open");
+    const VkdStatus status = code == SQLITE_ROW ? VkdStatus() : fail(code, ZobAction::Open);
     sqlite3_finalize(statement);
     return status;
 }
 
-cd_error_t ZobConnection::execute(const char* sql, const char* action)
+VkdStatus ZobConnection::execute(const char* sql, ZobAction action)
 {
     const int code = sqlite3_exec(handle(), sql, nullptr, nullptr, nullptr);
-    return code == SQLITE_OK ? cd_error_t(VKD_ZOB_OK) : fail(code, action);
+    return code == SQLITE_OK ? VkdStatus() : fail(code, action);
 }
 
-cd_error_t ZobConnection::fail(int sqliteCode, const char* action) const
+VkdStatus ZobConnection::fail(int sqliteCode, ZobAction action)
 {
-    return reportZob(zobStatus(handle(), sqliteCode), action, m_path,
-                     QString::fromUtf8(sqlite3_errmsg(handle())));
+    const auto code = VkdZobStatus(zobStatus(handle(), sqliteCode));
+    return fail(code, action, QString::fromUtf8(sqlite3_errmsg(handle())));
+}
+
+VkdStatus ZobConnection::fail(VkdZobStatus code, ZobAction action, const QString& detail)
+{
+    m_lastFailure = reportZobFailure(code, action, m_path, detail);
+    return m_lastFailure;
 }

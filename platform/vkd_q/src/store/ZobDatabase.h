@@ -5,32 +5,30 @@
 #include "ZobConnection.h"
 #include "ZobTransactions.h"
 
-#include <QString>
-
 #include <memory>
 
 /// One open store: an SQLite file with a rollback journal, or a store in memory. It joins the
 /// connection, the records and the transactions to the operations of the ZOB; the list of open
 /// stores is kept by vkd_zob.cpp.
-class ZobDatabase
+class ZobDatabase : public std::enable_shared_from_this<ZobDatabase>
 {
 public:
-    /// Each of the three gives null and a status, after its log line, if there is no usable store.
-    static std::unique_ptr<ZobDatabase> open(const QString& path, cd_error_t* status,
-                                             const VkdGoOn& goOn);
-    static std::unique_ptr<ZobDatabase> create(const QString& path, cd_error_t* status);
-    static std::unique_ptr<ZobDatabase> inMemory(cd_error_t* status);
+    /// Of a connection that is open.
+    explicit ZobDatabase(std::unique_ptr<ZobConnection> connection);
 
     cd_error_t get(int key1, int key2, void* record, int* length, int position);
     cd_error_t put(int key1, int key2, const void* record, int length, int position);
     /// Moves the pair to the first one in use from there on, or to -1, -1.
     void firstPairFrom(int* key1, int* key2);
+    /// The failure of a call with an argument out of range.
+    cd_error_t refuseCall(ZobAction action);
     ZobTransactions& transactions() { return m_transactions; }
+    /// OK if nothing has failed yet.
+    const VkdStatus& lastFailure() const { return m_connection->lastFailure(); }
 
 private:
-    explicit ZobDatabase(std::unique_ptr<ZobConnection> connection);
     cd_error_t statusAfterEnd(RecordTable::KeyPair pair);
-    cd_error_t failInside(int sqliteCode, const char* action);
+    cd_error_t failInside(int sqliteCode, ZobAction action);
 
     std::unique_ptr<ZobConnection> m_connection; // outlives the statements of the table
     RecordTable m_table;

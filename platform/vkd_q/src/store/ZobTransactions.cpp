@@ -1,9 +1,15 @@
 #include "ZobTransactions.h"
 
 #include "ZobConnection.h"
-#include "ZobStatus.h"
+
+#include <sqlite3.h>
 
 #include <utility>
+
+namespace {
+// Has a row in every store.
+constexpr char HoldSql[] = "SELECT 1 FROM sqlite_master";
+} // namespace
 
 ZobTransactions::ZobTransactions(ZobConnection& connection, RecordTable& table)
     : m_connection(connection)
@@ -11,108 +17,162 @@ ZobTransactions::ZobTransactions(ZobConnection& connection, RecordTable& table)
 {
 }
 
-/// The first statement of a transaction for reading takes the shared lock, which lasts to its end.
-void ZobTransactions::beginPass(KeyPair pair)
+VkdStatus ZobTransactions::beginPass(KeyPair pair)
 {
-    if (m_passes.empty() && m_connection.execute("BEGIN", "read") != VKD_ZOB_OK)
-        return;
-    m_passes.insert(pair);
+    const VkdStatus status = hold();
+    if (status.isOk())
+        m_passes.insert(pair);
+    return status;
 }
 
 void ZobTransactions::endPass(KeyPair pair)
 {
-    if (m_passes.erase(pair) && m_passes.empty())
-        endReading();
+    m_passes.erase(pair);
+    letGo();
 }
 
 void ZobTransactions::endPasses()
 {
-    if (m_passes.empty())
-        return;
     m_passes.clear();
-    endReading();
+    letGo();
 }
 
-void ZobTransactions::endReading()
+VkdStatus ZobTransactions::beginSnapshot()
 {
-    m_table.stopWalk();
-    if (m_connection.isInTransaction() &&
-        m_connection.execute("COMMIT", "finish reading") != VKD_ZOB_OK)
-        m_connection.execute("ROLLBACK", "finish reading");
+    const VkdStatus status = hold();
+    if (status.isOk())
+        ++m_snapshots;
+    return status;
 }
 
-cd_error_t ZobTransactions::take(KeyPair pair)
+void ZobTransactions::endSnapshot()
+{
+    --m_snapshots;
+    letGo();
+}
+
+/// A statement that runs keeps the shared lock of the file, also from the end of a change of this
+/// connection on. A transaction for reading would end with that change, and other programs could
+/// store before the next one begins.
+VkdStatus ZobTransactions::hold()
+{
+    if (m_isReading)
+        return {};
+    int code = m_hold.prepare(m_connection.handle(), HoldSql);
+    if (code == SQLITE_OK)
+        code = m_hold.step();
+    m_isReading = code == SQLITE_ROW;
+    if (m_isReading)
+        return {};
+    const VkdStatus failure = m_connection.fail(code, ZobAction::Read);
+    m_hold.done();
+    return failure;
+}
+
+void ZobTransactions::letGo()
+{
+    if (!m_isReading || m_snapshots > 0 || !m_passes.empty())
+        return;
+    m_isReading = false;
+    if (!m_isChanging)
+        m_table.stopWalk();
+    m_hold.done();
+}
+
+VkdStatus ZobTransactions::take(KeyPair pair)
+{
+    const VkdStatus status = joinChange();
+    m_taken.insert(pair); // a refused pair, too: the change fails until the last release
+    return status;
+}
+
+VkdStatus ZobTransactions::begin()
+{
+    const VkdStatus status = joinChange();
+    ++m_parts;
+    return status;
+}
+
+VkdStatus ZobTransactions::joinChange()
 {
     endPasses();
-    if (m_taken.empty()) {
+    if (!hasChange())
         m_changeStatus = beginChange();
-        m_isChanging = m_changeStatus == VKD_ZOB_OK;
-    }
-    m_taken.insert(pair); // a refused pair, too: the change fails until the last release
     return m_changeStatus;
 }
 
-cd_error_t ZobTransactions::beginChange()
+VkdStatus ZobTransactions::beginChange()
 {
     m_table.forgetEnds();
     // SQLite would begin, and refuse only what is written.
     if (m_connection.isReadOnly())
-        return reportZob(VKD_ZOB_READ_ONLY, "take the lock of", m_connection.path());
-    return m_connection.execute("BEGIN IMMEDIATE", "take the lock of");
+        return m_connection.fail(VKD_ZOB_READ_ONLY, ZobAction::TakeLock);
+    const VkdStatus status = m_connection.execute("BEGIN IMMEDIATE", ZobAction::TakeLock);
+    m_isChanging = status.isOk();
+    return status;
 }
 
 void ZobTransactions::release(KeyPair pair)
 {
     endPass(pair);
-    if (m_taken.erase(pair) && m_taken.empty()) {
-        if (m_isChanging)
-            m_table.stopWalk();
+    if (m_taken.erase(pair) && !hasChange())
         storeOrDrop();
-    }
+}
+
+VkdStatus ZobTransactions::end(bool isWhole)
+{
+    if (!isWhole)
+        dropChange();
+    --m_parts;
+    if (hasChange())
+        return m_changeStatus;
+    storeOrDrop();
+    return m_endOfChange;
 }
 
 void ZobTransactions::storeOrDrop()
 {
-    cd_error_t status = m_changeStatus; // whose reason has been said
-    if (status == VKD_ZOB_OK)
-        status = m_connection.execute("COMMIT", "store the changes in");
+    if (m_isChanging)
+        m_table.stopWalk();
+    VkdStatus status = std::exchange(m_changeStatus, VkdStatus());
+    if (status.isOk())
+        status = m_connection.execute("COMMIT", ZobAction::StoreChanges);
     const bool wasChanging = std::exchange(m_isChanging, false);
-    if (status == VKD_ZOB_OK) {
-        m_endOfChange = VKD_ZOB_OK;
-        return;
-    }
     // Some failures have rolled back already; what the old content was, it is again.
-    if (wasChanging && m_connection.isInTransaction())
-        m_connection.execute("ROLLBACK", "undo the changes in");
+    if (!status.isOk() && wasChanging && m_connection.isInTransaction())
+        m_connection.execute("ROLLBACK", ZobAction::UndoChanges);
     rememberEnd(status);
 }
 
-void ZobTransactions::rememberEnd(cd_error_t status)
+void ZobTransactions::rememberEnd(const VkdStatus& status)
 {
     m_endOfChange = status;
-    if (m_firstFailure == VKD_ZOB_OK && status != VKD_ZOB_CANCELLED) // which was wanted
+    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // which was wanted
+    if (isFailure && m_firstFailure.isOk())
         m_firstFailure = status;
 }
 
-cd_error_t ZobTransactions::changeStatus() const
+cd_error_t ZobTransactions::spoilChange(const VkdStatus& status)
 {
-    return m_taken.empty() ? cd_error_t(VKD_ZOB_OK) : m_changeStatus;
-}
-
-cd_error_t ZobTransactions::spoilChange(cd_error_t status)
-{
-    if (!m_taken.empty() && m_changeStatus == VKD_ZOB_OK)
+    if (hasChange() && m_changeStatus.isOk())
         m_changeStatus = status;
-    return status;
+    return status.code;
 }
 
-cd_error_t ZobTransactions::finish()
+void ZobTransactions::dropChange()
 {
+    spoilChange(zobFailure(VKD_ZOB_CANCELLED, ZobAction::StoreChanges, m_connection.path()));
+}
+
+VkdStatus ZobTransactions::finish()
+{
+    m_snapshots = 0;
     endPasses();
     m_table.stopWalk();
     if (m_isChanging && m_connection.isInTransaction())
-        m_connection.execute("ROLLBACK", "undo the changes in");
+        m_connection.execute("ROLLBACK", ZobAction::UndoChanges);
     m_isChanging = false;
+    m_parts = 0;
     m_taken.clear();
     return m_firstFailure;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "RecordTable.h"
+#include "Statement.h"
+#include "vkd_status.h"
 #include "vkd_zob.h"
 
 #include <set>
@@ -8,7 +10,8 @@
 class ZobConnection;
 
 /// The state of reading and writing of a store: what is read from one state of the file, and what
-/// is stored or dropped together. Its operations write the log lines of what fails.
+/// is stored or dropped together. It counts who reads and who writes, so that none of them ends the
+/// state of another. Its operations write the log lines of what fails.
 class ZobTransactions
 {
 public:
@@ -17,37 +20,56 @@ public:
     /// Both outlive the object.
     ZobTransactions(ZobConnection& connection, RecordTable& table);
 
-    void beginPass(KeyPair pair);
+    /// A sequence that is read record by record holds the state until it ends, is released or
+    /// something is written.
+    VkdStatus beginPass(KeyPair pair);
     void endPass(KeyPair pair);
     void endPasses();
-    bool isPassing() const { return !m_passes.empty(); }
+    /// A snapshot holds it until endSnapshot(), which is owed only to one that began.
+    VkdStatus beginSnapshot();
+    void endSnapshot();
+    /// Whether other programs are kept from storing.
+    bool isReading() const { return m_isReading; }
 
-    cd_error_t take(KeyPair pair);
+    VkdStatus take(KeyPair pair);
     void release(KeyPair pair);
-    /// Whether what is put now is stored with a later release. False as well if the first pair was
-    /// refused.
+    /// A transaction is a part of the change like a taken pair; end() is owed to a refused one,
+    /// too. One that is not whole drops the change. The result of both is changeStatus(), or how
+    /// the change ended if it was the last part.
+    VkdStatus begin();
+    VkdStatus end(bool isWhole);
+    /// Whether what is put now is stored with the end of a change. False as well if the change
+    /// could not begin.
     bool isChanging() const { return m_isChanging; }
-    /// The first failure since the first pair was taken.
-    cd_error_t changeStatus() const;
-    /// Lets the change fail, if there is one, and passes the status on.
-    cd_error_t spoilChange(cd_error_t status);
+    /// The first failure since the change began.
+    const VkdStatus& changeStatus() const { return m_changeStatus; }
+    /// Lets the change fail, if there is one, and passes the code of the status on.
+    cd_error_t spoilChange(const VkdStatus& status);
+    void dropChange();
     /// How the last change ended.
-    cd_error_t endOfChange() const { return m_endOfChange; }
-    /// Drops what is still taken; gives the first failure of a change.
-    cd_error_t finish();
+    const VkdStatus& endOfChange() const { return m_endOfChange; }
+    /// Ends all of it, and drops what is not stored; gives the first failure of a change.
+    VkdStatus finish();
 
 private:
-    void endReading();
-    cd_error_t beginChange();
+    VkdStatus hold();
+    void letGo();
+    bool hasChange() const { return m_parts > 0 || !m_taken.empty(); }
+    VkdStatus joinChange();
+    VkdStatus beginChange();
     void storeOrDrop();
-    void rememberEnd(cd_error_t status);
+    void rememberEnd(const VkdStatus& status);
 
     ZobConnection& m_connection;
     RecordTable& m_table;
-    std::set<KeyPair> m_passes; // being read from one state of the file
+    Statement m_hold; // while it runs, other programs store nothing
+    bool m_isReading = false;
+    int m_snapshots = 0;
+    std::set<KeyPair> m_passes;
+    int m_parts = 0; // transactions that are open
     std::set<KeyPair> m_taken;
     bool m_isChanging = false;
-    cd_error_t m_changeStatus = VKD_ZOB_OK;
-    cd_error_t m_endOfChange = VKD_ZOB_OK;
-    cd_error_t m_firstFailure = VKD_ZOB_OK; // of all changes
+    VkdStatus m_changeStatus; // OK while there is no change
+    VkdStatus m_endOfChange;
+    VkdStatus m_firstFailure; // of all changes
 };

@@ -2,7 +2,6 @@
 
 #include "ZobConnection.h"
 #include "zobSchema.h"
-#include "ZobStatus.h"
 
 #include <sqlite3.h>
 
@@ -20,17 +19,14 @@ int isToStop(void* goOn)
     return (*static_cast<const VkdGoOn*>(goOn))(0) ? 0 : 1;
 }
 
-cd_error_t checkTable(ZobConnection& connection)
+VkdStatus checkTable(ZobConnection& connection)
 {
     int isForeign = 0;
-    const cd_error_t status = connection.number(ForeignSql, &isForeign);
-    if (status == VKD_ZOB_OK && isForeign)
-        return reportZob(VKD_ZOB_DAMAGED, "open", connection.path(),
-                         QStringLiteral("its table is another"));
-    return status;
+    const VkdStatus status = connection.number(ForeignSql, &isForeign);
+    return status.isOk() && isForeign ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open) : status;
 }
 
-cd_error_t quickCheck(ZobConnection& connection)
+VkdStatus quickCheck(ZobConnection& connection)
 {
     sqlite3_stmt* check = nullptr;
     int code =
@@ -39,39 +35,39 @@ cd_error_t quickCheck(ZobConnection& connection)
         code = sqlite3_step(check);
     const auto* text = code == SQLITE_ROW ? sqlite3_column_text(check, 0) : nullptr;
     const QString result = QString::fromUtf8(reinterpret_cast<const char*>(text)).simplified();
-    cd_error_t status = VKD_ZOB_OK;
+    VkdStatus status;
     if (code == SQLITE_INTERRUPT)
-        status = VKD_ZOB_CANCELLED;
+        status = zobFailure(VKD_ZOB_CANCELLED, ZobAction::Open, connection.path());
     else if (code != SQLITE_ROW)
-        status = connection.fail(code, "open");
+        status = connection.fail(code, ZobAction::Open);
     else if (result != QLatin1String("ok"))
-        status = reportZob(VKD_ZOB_DAMAGED, "open", connection.path(), result);
+        status = connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open, result);
     sqlite3_finalize(check);
-    return status == VKD_ZOB_OK ? checkTable(connection) : status;
+    return status.isOk() ? checkTable(connection) : status;
 }
 
-cd_error_t checkSoundness(ZobConnection& connection, const VkdGoOn& goOn)
+VkdStatus checkSoundness(ZobConnection& connection, const VkdGoOn& goOn)
 {
     if (goOn)
         sqlite3_progress_handler(connection.handle(), StepsToQuestion, isToStop,
                                  const_cast<VkdGoOn*>(&goOn));
-    const cd_error_t status = quickCheck(connection);
+    const VkdStatus status = quickCheck(connection);
     sqlite3_progress_handler(connection.handle(), 0, nullptr, nullptr);
     return status;
 }
 } // namespace
 
-cd_error_t checkZobFile(ZobConnection& connection, const VkdGoOn& goOn)
+VkdStatus checkZobFile(ZobConnection& connection, const VkdGoOn& goOn)
 {
     int id = 0;
     int version = 0;
-    cd_error_t status = connection.number("PRAGMA application_id", &id);
-    if (status == VKD_ZOB_OK && id != ZobApplicationId)
-        status = reportZob(VKD_ZOB_NO_PROJECT, "open", connection.path());
-    if (status == VKD_ZOB_OK)
+    VkdStatus status = connection.number("PRAGMA application_id", &id);
+    if (status.isOk() && id != ZobApplicationId)
+        status = connection.fail(VKD_ZOB_NO_PROJECT, ZobAction::Open);
+    if (status.isOk())
         status = connection.number("PRAGMA user_version", &version);
-    if (status == VKD_ZOB_OK && version != ZobSchemaVersion)
-        status = reportZob(version > ZobSchemaVersion ? VKD_ZOB_NEWER : VKD_ZOB_DAMAGED, "open",
-                           connection.path(), QStringLiteral("version %1").arg(version));
-    return status == VKD_ZOB_OK ? checkSoundness(connection, goOn) : status;
+    if (status.isOk() && version != ZobSchemaVersion)
+        status = connection.fail(version > ZobSchemaVersion ? VKD_ZOB_NEWER : VKD_ZOB_DAMAGED,
+                                 ZobAction::Open, QStringLiteral("version %1").arg(version));
+    return status.isOk() ? checkSoundness(connection, goOn) : status;
 }

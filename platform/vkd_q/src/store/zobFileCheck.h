@@ -1,9 +1,10 @@
 #pragma once
 
-#include "vkd_zob.h"
+#include "vkd_progress.h"
+#include "vkd_status.h"
 
 class ZobConnection;
 
 /// Whether the connected file is a sound project of this version, and nothing else. `goOn` is asked
-/// meanwhile. The result is a status, after its log line.
-cd_error_t checkZobFile(ZobConnection& connection, const VkdGoOn& goOn);
+/// meanwhile. Whatever fails has written its log line, unless it was cancelled.
+VkdStatus checkZobFile(ZobConnection& connection, const VkdGoOn& goOn);

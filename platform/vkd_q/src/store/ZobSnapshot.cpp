@@ -1,0 +1,19 @@
+#include "ZobSnapshot.h"
+
+#include "openStores.h"
+
+ZobSnapshot::ZobSnapshot(int index)
+{
+    ZobDatabase* store = openStore(index, &m_status);
+    if (!store)
+        return;
+    m_status = store->transactions().beginSnapshot();
+    if (m_status.isOk())
+        m_store = store->weak_from_this();
+}
+
+ZobSnapshot::~ZobSnapshot()
+{
+    if (const auto store = m_store.lock())
+        store->transactions().endSnapshot();
+}

@@ -1,0 +1,63 @@
+#include "openStores.h"
+
+#include <map>
+
+namespace {
+constexpr int ScratchIndex = 0;
+
+using Stores = std::map<int, std::shared_ptr<ZobDatabase>>;
+
+/// Never destroyed: documents in static objects of a host may be closed at the very end.
+Stores& stores()
+{
+    static Stores& open = *new Stores;
+    return open;
+}
+
+/// Drops the changes that nobody stored or dropped, so that no journal stays beside a project.
+/// Built when this library is loaded, so that it is destroyed after the static objects of all that
+/// link it.
+const struct ChangesAtEnd
+{
+    ~ChangesAtEnd()
+    {
+        for (const auto& [index, store] : stores())
+            store->transactions().finish();
+    }
+} changesAtEnd;
+
+/// Made when it is first used.
+void addScratchStore()
+{
+    auto connection = std::make_unique<ZobConnection>(QString());
+    if (connection->openInMemory().isOk())
+        stores()[ScratchIndex] = std::make_shared<ZobDatabase>(std::move(connection));
+}
+} // namespace
+
+ZobDatabase* openStore(int index, VkdStatus* failure)
+{
+    auto found = stores().find(index);
+    if (found == stores().end() && index == ScratchIndex) {
+        addScratchStore();
+        found = stores().find(index);
+    }
+    if (found != stores().end())
+        return found->second.get();
+    *failure = reportZobFailure(VKD_ZOB_NOT_OPEN, ZobAction::Use, QString::number(index));
+    return nullptr;
+}
+
+int addStore(std::shared_ptr<ZobDatabase> store)
+{
+    int index = ScratchIndex + 1;
+    while (stores().count(index))
+        ++index;
+    stores()[index] = std::move(store);
+    return index;
+}
+
+void removeStore(int index)
+{
+    stores().erase(index);
+}

@@ -1,0 +1,111 @@
+#include "zobFailure.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <sqlite3.h>
+
+namespace {
+Q_LOGGING_CATEGORY(lcZob, "vkd.zob")
+
+const char* sentence(ZobAction action)
+{
+    switch (action) {
+    case ZobAction::Open: return QT_TRANSLATE_NOOP("ZobTexts", "cannot open %1: %2");
+    case ZobAction::Create: return QT_TRANSLATE_NOOP("ZobTexts", "cannot create %1: %2");
+    case ZobAction::Close: return QT_TRANSLATE_NOOP("ZobTexts", "cannot close %1: %2");
+    case ZobAction::Read: return QT_TRANSLATE_NOOP("ZobTexts", "cannot read %1: %2");
+    case ZobAction::Search: return QT_TRANSLATE_NOOP("ZobTexts", "cannot search %1: %2");
+    case ZobAction::Write: return QT_TRANSLATE_NOOP("ZobTexts", "cannot write %1: %2");
+    case ZobAction::TakeLock:
+        return QT_TRANSLATE_NOOP("ZobTexts", "cannot take the lock of %1: %2");
+    case ZobAction::StoreChanges:
+        return QT_TRANSLATE_NOOP("ZobTexts", "cannot store the changes in %1: %2");
+    case ZobAction::UndoChanges:
+        return QT_TRANSLATE_NOOP("ZobTexts", "cannot undo the changes in %1: %2");
+    case ZobAction::Use: break;
+    }
+    return QT_TRANSLATE_NOOP("ZobTexts", "cannot use database %1: %2");
+}
+
+const char* reasonOf(cd_error_t code)
+{
+    switch (code) {
+    case VKD_ZOB_NOT_OPEN:
+        return QT_TRANSLATE_NOOP("ZobTexts", "no project is open under this index");
+    case VKD_ZOB_NO_FILE:
+        return QT_TRANSLATE_NOOP("ZobTexts", "the file is not there or cannot be opened");
+    case VKD_ZOB_NO_PROJECT: return QT_TRANSLATE_NOOP("ZobTexts", "this is no project file");
+    case VKD_ZOB_NEWER:
+        return QT_TRANSLATE_NOOP("ZobTexts", "the file was written by a newer version");
+    case VKD_ZOB_DAMAGED: return QT_TRANSLATE_NOOP("ZobTexts", "the file is damaged");
+    case VKD_ZOB_READ_ONLY:
+        return QT_TRANSLATE_NOOP("ZobTexts", "the file or its folder is write-protected");
+    case VKD_ZOB_FULL:
+        return QT_TRANSLATE_NOOP("ZobTexts",
+                                 "the disk is full, or it does not take what is written");
+    case VKD_ZOB_LOCKED: return QT_TRANSLATE_NOOP("ZobTexts", "another program holds the project");
+    case VKD_ZOB_BAD_CALL: return QT_TRANSLATE_NOOP("ZobTexts", "an argument is out of range");
+    case VKD_ZOB_CANCELLED: return QT_TRANSLATE_NOOP("ZobTexts", "it was cancelled");
+    default: return QT_TRANSLATE_NOOP("ZobTexts", "the system failed to read or write");
+    }
+}
+
+QString asWritten(const char* source)
+{
+    return QString::fromUtf8(source);
+}
+
+/// The German texts are those of vkd_qt.
+QString inDesktopsLanguage(const char* source)
+{
+    return QCoreApplication::translate("ZobTexts", source);
+}
+
+QString line(cd_error_t code, ZobAction action, const QString& file, const QString& detail,
+             QString (*text)(const char* source))
+{
+    const QString tail = detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail);
+    return text(sentence(action))
+        .arg(file, text(reasonOf(code)) + tail)
+        .replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+} // namespace
+
+cd_error_t zobStatus(sqlite3* connection, int sqliteCode)
+{
+    switch (sqliteCode & 0xff) {
+    case SQLITE_OK:
+    case SQLITE_ROW:
+    case SQLITE_DONE: return VKD_ZOB_OK;
+    case SQLITE_NOTADB: return VKD_ZOB_NO_PROJECT;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return VKD_ZOB_LOCKED;
+    case SQLITE_CORRUPT: return VKD_ZOB_DAMAGED;
+    case SQLITE_FULL: return VKD_ZOB_FULL;
+    case SQLITE_READONLY:
+    case SQLITE_PERM: return VKD_ZOB_READ_ONLY;
+    // The file itself is open by then, so it is the journal beside it that cannot be made.
+    case SQLITE_CANTOPEN: return VKD_ZOB_READ_ONLY;
+    case SQLITE_TOOBIG:
+    case SQLITE_MISUSE:
+    case SQLITE_RANGE: return VKD_ZOB_BAD_CALL;
+    case SQLITE_IOERR:
+        // SQLite knows of a full disk by itself; a used up quota is a failed write to it.
+        return sqlite3_extended_errcode(connection) == SQLITE_IOERR_WRITE ? VKD_ZOB_FULL
+                                                                          : VKD_ZOB_FAILED;
+    default: return VKD_ZOB_FAILED;
+    }
+}
+
+VkdStatus zobFailure(cd_error_t code, ZobAction action, const QString& file, const QString& detail)
+{
+    return {code, line(code, action, file, detail, inDesktopsLanguage)};
+}
+
+VkdStatus reportZobFailure(cd_error_t code, ZobAction action, const QString& file,
+                           const QString& detail)
+{
+    qCWarning(lcZob, "%s", qUtf8Printable(line(code, action, file, detail, asWritten)));
+    return zobFailure(code, action, file, detail);
+}
