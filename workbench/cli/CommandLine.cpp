@@ -183,9 +183,10 @@ bool CommandLine::english(const char* option, bool otherwise) const
 
 std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path)
 {
-    auto document = VKD_H_ZOBDoc::open(path);
+    VkdStatus status;
+    auto document = VKD_H_ZOBDoc::open(path, &status);
     if (!document)
-        throw CommandError{PlatformLog::take().join(QLatin1String("; "))};
+        throw CommandError{status.reason};
     return document;
 }
 

@@ -1,7 +1,6 @@
 #include "DesignRows.h"
 
 #include "CommandLine.h"
-#include "PlatformLog.h"
 
 #include <designEntries.h>
 #include <designFields.h>

@@ -30,7 +30,7 @@ public:
     /// no value. Throws a CommandError for a name or a value that does not fit.
     void setRow(const QString& groups, const QStringList& fields);
 
-    /// Puts the rows into the project; to be called within the ProjectWriting that saw them read.
+    /// Puts the rows into the project; to be called within the transaction in which they were read.
     void write();
 
 private:
