@@ -1,12 +1,15 @@
 #include "ProjectTest.h"
 
+#include <AnimatorView.h>
 #include <changedLines.h>
 #include <sharedGroupsQuestion.h>
+#include <UsersCamera.h>
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTableWidget>
@@ -15,6 +18,7 @@
 
 using namespace windowtest;
 using workbench::MainWindow;
+using workbench::UsersCamera;
 
 namespace {
 /// As the command line prints it.
@@ -174,6 +178,89 @@ private Q_SLOTS:
             QVERIFY(expected.size() > 1000);
             QTRY_COMPARE(treeText(dialog->findChild<QTreeWidget*>()), expected);
         }
+    }
+
+    void choiceOutlastsOffers_data()
+    {
+        const Columns<bool, bool, QString> row("isContent", "isChosen", "line");
+        row("load case, chosen", false, true, "[ ] Overview\n");
+        row("load case, chosen row", false, true, "[x] 3 : ");
+        row("load case, proposed", false, false, "[x] 2 : ");
+        row("content, chosen", true, true, "[ ] Overview\n");
+        row("content, proposed", true, false, "[x] Bricks in");
+    }
+
+    /// In a new project: something else is on offer, and then the same as before.
+    void choiceOutlastsOffers()
+    {
+        QFETCH(const bool, isChosen);
+        QFETCH(const bool, isContent);
+        const auto window = open("offers.zob");
+        trigger(*window, "Output");
+        const auto dialog = find<QDialog>(*window, "OutputDialog");
+        const auto plots = dialog->findChild<QTreeWidget*>();
+        const auto offer = [&](bool isOther) {
+            if (isContent)
+                find<QAbstractButton>(*dialog, isOther ? "ContentGroup_1" : "ContentGroup_0")
+                    ->click();
+            else
+                find<QTableWidget>(*dialog, "LoadCases")
+                    ->item(0, 1)
+                    ->setCheckState(isOther ? Qt::Unchecked : Qt::Checked);
+        };
+        QTreeWidgetItem* loads = plots->topLevelItem(1)->child(0)->child(0);
+        QVERIFY(loads->child(0)->checkState(0) == Qt::Checked && loads->childCount() > 2);
+        if (isChosen) {
+            plots->topLevelItem(0)->child(0)->setCheckState(0, Qt::Unchecked);
+            loads->child(2)->setCheckState(0, Qt::Checked);
+        }
+        const QString before = treeText(plots);
+        QSignalSpy filled(plots->model(), &QAbstractItemModel::modelReset);
+        offer(true);
+        QCOMPARE(filled.size(), 1);
+        QFETCH(const QString, line);
+        QTRY_VERIFY2(treeText(plots).contains(line), qPrintable(treeText(plots)));
+        offer(false);
+        QCOMPARE(filled.size(), 2);
+        QTRY_COMPARE(treeText(plots), before); // once the captions are in English
+    }
+
+    /// A view of one's own is there again, although another one was chosen and kept.
+    void turnedViewIsKept()
+    {
+        const auto choose = [](const QWidget& window, int view) {
+            find<QAbstractButton>(window,
+                                  qPrintable(QStringLiteral("PerspectiveGroup_%1").arg(view)))
+                ->click();
+        };
+        auto window = open("turned.zob");
+        trigger(*window, "Output");
+        QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // shows its first view
+        choose(*window, 4);
+        QTest::keyClick(find<QWidget>(*window, "OutputView"), Qt::Key_Left);
+        const auto camera = [&window] { // in either keyword language
+            return QRegularExpression(QStringLiteral("TYPE? STAN (.*)"))
+                .match(script(*window))
+                .captured(1);
+        };
+        QTRY_VERIFY(!camera().isEmpty() && camera() != QLatin1String("1 -2 1 ROTA 0"));
+        const QString turned = camera();
+        choose(*window, 1);
+        const auto cases = find<QTableWidget>(*window, "LoadCases");
+        for (const Qt::CheckState state : {Qt::Unchecked, Qt::Checked})
+            cases->item(0, 1)->setCheckState(state);
+        {
+            const UsersCamera users;
+            find<AnimatorView>(*window, "OutputView")->slotViewControl(AnimatorStoreCamera, 0.0);
+            QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), QStringLiteral("0 -1 0 ROTA 0"));
+        }
+        find<QDialog>(*window, "OutputDialog")->accept();
+        window = std::make_unique<MainWindow>(services());
+        QVERIFY(window->openProject(path("turned.zob")));
+        trigger(*window, "Output");
+        QTRY_VERIFY(script(*window).contains(QLatin1String("EGXZ")));
+        choose(*window, 4);
+        QTRY_COMPARE(camera(), turned);
     }
 
     /// With the language a dialog is made anew, and so it is after another start.

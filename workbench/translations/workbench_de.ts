@@ -542,8 +542,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Inhalt</translation>
     </message>
     <message>
-        <source>The plots offer the load cases that are checked here. A change brings back the plots that the catalogue proposes.</source>
-        <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Eine Änderung stellt die Grafiken wieder her, die der Katalog vorschlägt.</translation>
+        <source>The plots offer the load cases that are checked here. The plots that you have chosen stay chosen.</source>
+        <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die ausgewählten Grafiken bleiben ausgewählt.</translation>
     </message>
     <message>
         <source>What the model holds</source>

@@ -3,10 +3,10 @@
 #include "HelpKey.h"
 #include "KeptPlace.h"
 #include "LoadCaseTable.h"
+#include "UsersCamera.h"
 #include "withinScreen.h"
 
 #include <AnimatorView.h>
-#include <vkd_dbo_camera.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 #include <VKD_P_WidgetGraphicalOutput>
@@ -28,7 +28,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int DesktopCamera = 0;
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
@@ -46,6 +45,18 @@ VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* par
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, present);
     page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // no list of a project
     return page;
+}
+
+/// A page writes the camera of its view, also that of a fixed view, which the user did not choose
+/// and is not to find when going back to a view of one's own.
+QString withUsersCamera(QString page)
+{
+    constexpr int PersistentForm = 2;
+    const QString tag = QStringLiteral("Camera");
+    const auto part = [&tag](const QString& camera) { return vkd_qt_writeXMLpart(camera, tag); };
+    return page.replace(
+        part(vkd_qt_readXMLpart(page, 0, tag)),
+        part(vkd::dbo::getAnimatorPerspektive(UsersCamera::Database, PersistentForm)));
 }
 
 QLabel* newHint(const QString& text)
@@ -72,6 +83,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
     , m_plots(m_page->findChild<QTreeWidget*>())
     , m_names(std::move(names))
     , m_waiting(m_plots, m_names)
+    , m_choice(m_page, m_view)
 {
     setWindowTitle(tr("Graphical Output"));
     setHelpTopic(this, "GRAV/OUTPUT");
@@ -110,8 +122,8 @@ QWidget* OutputDialog::newLoadCaseTab()
     setHelpTopic(tab, "GRAV/LOADCASES");
     m_loadCases = new LoadCaseTable(m_document->index(), tab);
     auto layout = new QVBoxLayout(tab);
-    layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. A change "
-                                 "brings back the plots that the catalogue proposes.")));
+    layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. The plots "
+                                 "that you have chosen stay chosen.")));
     layout->addWidget(m_loadCases);
     return tab;
 }
@@ -136,19 +148,35 @@ QWidget* OutputDialog::newContentTab()
 void OutputDialog::restore(const OutputState& kept)
 {
     m_loadCases->setLeftOutNumbers(kept.leftOutNumbers);
-    m_tableBinding.setWidgets(m_page, m_loadCases, LoadCaseTable::NumberColumn,
-                              LoadCaseTable::CheckColumn, LoadCaseTable::TitleColumn);
-    m_contentBinding.setWidget(m_page, m_contents, OutputState::solidsTag(),
-                               OutputState::WithSolids);
+    bindOffers();
     if (kept.content == OutputState::WithSolids) {
         m_contents->setButton(kept.content);
         m_contentBinding.clicked(kept.content); // a group does not tell what the program chooses
     }
     offerLoadCases();
-    if (kept.page.isEmpty())
-        vkd::dbo::setCamera(DesktopCamera, vkd::dbo::Camera()); // that of the project before
-    else
+    m_choice.setProposed();
+    vkd::dbo::setCamera(UsersCamera::Database, vkd::dbo::Camera()); // not the one of before
+    if (!kept.page.isEmpty())
         m_page->readXMLstring(kept.page);
+}
+
+/// What is on offer fills the tree anew, once, and the user's plots are chosen again. The library's
+/// own binding of a table is not for this one: it offers plain load cases alone.
+void OutputDialog::bindOffers()
+{
+    connect(m_loadCases, &QTableWidget::itemChanged, this, [this] {
+        m_choice.remember();
+        offerLoadCases();
+        m_choice.giveBack();
+    });
+    const auto clicked = &VKD_QT_RadioButtonGroup::buttWasClicked;
+    connect(m_contents, clicked, this, [this] { m_choice.remember(); });
+    m_contentBinding.setWidget(m_page, m_contents, OutputState::solidsTag(),
+                               OutputState::WithSolids);
+    connect(m_contents, clicked, this, [this] { m_choice.giveBack(); });
+    const auto defaults =
+        m_page->findChild<QAbstractButton*>(QStringLiteral("Button: Default settings"));
+    connect(defaults, &QAbstractButton::clicked, this, [this] { m_choice.setProposed(); });
 }
 
 void OutputDialog::offerLoadCases()
@@ -178,11 +206,7 @@ void OutputDialog::listen()
     connect(plots, &QAbstractItemModel::modelReset, this, [this] { m_arePlotsToName = true; });
     connect(plots, &QAbstractItemModel::rowsInserted, this, &OutputDialog::namePlots,
             Qt::QueuedConnection); // once the tree is filled, and before it is painted
-    // Behind the binding, which has connected itself to the table before.
-    connect(m_loadCases, &QTableWidget::itemChanged, this, [this, start] {
-        offerLoadCases();
-        start();
-    });
+    connect(m_loadCases, &QTableWidget::itemChanged, this, start);
     m_view->installEventFilter(this);
 }
 
@@ -206,9 +230,15 @@ bool OutputDialog::showsUsersView() const
 QString OutputDialog::script(bool english)
 {
     vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, english ? 1 : 0);
+    storeUsersCamera();
+    return m_page->getTORVAL(english);
+}
+
+/// The view does so by itself no earlier than it is left.
+void OutputDialog::storeUsersCamera()
+{
     if (showsUsersView())
         m_view->slotViewControl(AnimatorStoreCamera, 0.0);
-    return m_page->getTORVAL(english);
 }
 
 /// The tree is filled anew whenever something else is offered.
@@ -228,26 +258,22 @@ QVector<PlotCaption> OutputDialog::captions()
 
 OutputState OutputDialog::state()
 {
-    // The page stores the camera of its view, also one of a fixed view, which the user did not
-    // choose and is not to find when going back to a view of one's own.
-    const vkd::dbo::Camera users = vkd::dbo::camera(DesktopCamera);
+    storeUsersCamera();
     OutputState present;
-    present.page = m_page->writeXMLstring();
-    if (!showsUsersView())
-        vkd::dbo::setCamera(DesktopCamera, users);
+    {
+        const UsersCamera camera;
+        present.page = m_page->writeXMLstring();
+    }
+    present.page = withUsersCamera(present.page);
     present.content = m_contents->selectedButton();
     present.leftOutNumbers = m_loadCases->leftOutNumbers();
     return present;
 }
 
-/// A fixed view moves its camera when it is shown first, which is no change of the user's.
 QString OutputDialog::fingerprint()
 {
     const OutputState present = state();
     QString text = present.page;
-    const QString camera = QStringLiteral("Camera");
-    if (!showsUsersView())
-        text.remove(vkd_qt_writeXMLpart(vkd_qt_readXMLpart(text, 0, camera), camera));
     QList<int> leftOut = present.leftOutNumbers.values();
     std::sort(leftOut.begin(), leftOut.end());
     for (int number : leftOut)

@@ -2,6 +2,7 @@
 
 #include "OutputState.h"
 #include "plotCaptions.h"
+#include "PlotChoice.h"
 #include "PlotNames.h"
 #include "TreeSight.h"
 #include "WaitingPlots.h"
@@ -9,7 +10,6 @@
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
 #include <VKD_P_WidgetGraphicalOutput_AdditionalData>
-#include <VKD_P_WidgetGraphicalOutput_TableWidgetData>
 
 #include <QTimer>
 
@@ -76,10 +76,12 @@ private:
     QWidget* newLoadCaseTab();
     QWidget* newContentTab();
     void restore(const OutputState& state);
+    void bindOffers();
     void offerLoadCases();
     void namePlots();
     void listen();
     bool showsUsersView() const;
+    void storeUsersCamera();
     QString fingerprint();
 
     VKD_H_ZOBDoc* m_document;
@@ -89,9 +91,9 @@ private:
     QTreeWidget* m_plots;
     PlotNames m_names;
     WaitingPlots m_waiting; ///< outlives the page
+    PlotChoice m_choice;
     LoadCaseTable* m_loadCases = nullptr;
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
-    VKD_P_WidgetGraphicalOutput_TableWidgetData m_tableBinding;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
     bool m_arePlotsToName = true; // since the tree was filled
     QTimer m_changes;
