@@ -39,9 +39,9 @@ int main(int argc, char* argv[])
     page->setUsedNumbersAndNames(rows);
 
     VKD_H_ProjectDialogPage kept(project->index(), 1);
-    const QString state = kept.getEntry(QStringLiteral("Output"), QString());
-    if (!state.isEmpty()) // an empty one would uncheck all plots
-        page->readXMLstring(state);
+    // An empty one, too: it changes nothing, and from then on the page carries the choice of plots
+    // through a change of content.
+    page->readXMLstring(kept.getEntry(QStringLiteral("Output"), QString()));
     if (dialog.exec() == QDialog::Accepted) {
         std::fputs(page->getTORVAL(true).toUtf8().constData(), stdout);
         kept.setEntry(QStringLiteral("Output"), page->writeXMLstring());

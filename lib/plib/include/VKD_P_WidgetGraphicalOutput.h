@@ -61,7 +61,8 @@ public:
     /// its camera first.
     QString writeXMLstring();
     /// Applies such a string, also one of another kind of page: parts that are missing leave their
-    /// widgets alone, and parts that this page does not know are passed over.
+    /// widgets alone, and parts that this page does not know are passed over. After any string, an
+    /// empty one too, a change of content tags keeps the choice of plots.
     void readXMLstring(QString xml);
 
 Q_SIGNALS:
