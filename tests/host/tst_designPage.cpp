@@ -317,8 +317,8 @@ private Q_SLOTS:
             QVERIFY(!without.findChild<QPushButton*>(QLatin1String(name))->isEnabled());
     }
 
-    /// The mark goes with the last group that is shared. Delete takes the choice back, in the open
-    /// list and beside it too, and no row.
+    /// The mark is taken away with the last group that is shared. Delete clears the choice, in the
+    /// open list and on the buttons too, and deletes no row.
     void groupInTwoRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2),

@@ -373,7 +373,7 @@ private Q_SLOTS:
         QCOMPARE(records->columnCount(), before + 2);
     }
 
-    /// A group in two rows is asked about. A row without groups is told of, and there again.
+    /// OK asks about a group in two rows, and says that a row without groups is kept. It is kept.
     void rowsThatOkSaysSomethingAbout()
     {
         const auto window = open("rows.zob");

@@ -130,8 +130,8 @@ int DesignDialog::rowsWithoutGroups() const
     return count;
 }
 
-/// The page stores what its rows say, a record for each row that names a group. Who goes back finds
-/// the first of these rows selected.
+/// The page stores a record for each row that names a group. On the way back the first row that
+/// shares a group is selected.
 bool DesignDialog::maySharedGroupsStay()
 {
     const auto table = m_page->findChild<QTableWidget*>(QStringLiteral("table"));

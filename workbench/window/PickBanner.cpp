@@ -88,7 +88,7 @@ void PickBanner::setTexts()
     std::set_intersection(m_groups.begin(), m_groups.end(), m_withoutAreas.begin(),
                           m_withoutAreas.end(), std::back_inserter(unfit));
     m_what->setText(tr("Pick groups in the view, then press Done."));
-    // In one line: another one that comes and goes would move the view below the mouse.
+    // In one line: a second one that is shown and hidden would move the view below the mouse.
     if (m_groups.empty())
         m_picked->setText(tr("No group is picked yet."));
     else if (unfit.empty())

@@ -20,7 +20,7 @@ public:
     };
 
     /// The database index of the scratch store. There the dialog leaves the groups that are checked
-    /// when the user goes to pick, as a selection with which the view may begin.
+    /// when the user leaves it to pick, as a selection with which the view may begin.
     static constexpr int StartOfPicking = 0;
 
     /// `checked` is only read; see VKD_H_GroupDialog for both lists. The dialog moves to

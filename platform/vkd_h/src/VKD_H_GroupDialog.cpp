@@ -79,8 +79,8 @@ int VKD_H_GroupDialog::getChecked(std::vector<int>& groups) const
     return 0;
 }
 
-/// What was typed is meant, even without Enter. If there is something to say about it, the user is
-/// to read it first.
+/// Typed text is meant, even without Enter. A message about it keeps the dialog open once, so that
+/// the user reads it.
 void VKD_H_GroupDialog::accept()
 {
     if (hasInput()) {
@@ -181,7 +181,7 @@ void VKD_H_GroupDialog::addList(QVBoxLayout* layout)
     m_view->setFocus();
     layout->addWidget(m_view, 1);
     connect(m_view, &GroupView::toggleRequested, this, &VKD_H_GroupDialog::toggle);
-    // Who typed and then works in the list sees there what was typed, and may take it back.
+    // Before the user works in the list, typed groups are checked there and can be taken back.
     connect(m_view, &GroupView::reached, this, &VKD_H_GroupDialog::presentChoice);
     connect(m_groups, &GroupTableModel::dataChanged, this, &VKD_H_GroupDialog::updateCount);
 }

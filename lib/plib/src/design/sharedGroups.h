@@ -23,8 +23,8 @@ std::vector<SharedGroup> sharedGroups(const std::vector<DesignParameterRow>& row
 std::vector<std::vector<const SharedGroup*>>
 sharedGroupsOfRows(const std::vector<SharedGroup>& shared, std::size_t rowCount);
 
-/// What there is to say in this row about the shared groups that it names: the other rows of each,
-/// with the numbers that the user sees, from 1. Of very many the first ones. Empty without any.
+/// A line for each of these groups, with the other rows that name it, as the user counts them, from
+/// 1. Of very many the first ones. Empty without any.
 QString sharedGroupsText(int row, const std::vector<const SharedGroup*>& shared);
 
 } // namespace plib
