@@ -22,6 +22,7 @@ StructBoxedEdit fontSize(int flags = StructBoxedEdit::EmptyIsDefault)
     description.edit.minimum = 1.0;
     description.edit.maximum = 999.0;
     description.edit.value = 2.0;
+    description.edit.emptied = 3.0;
     description.edit.flags = flags;
     return description;
 }
@@ -76,12 +77,12 @@ private Q_SLOTS:
         };
         const int isDefault = StructBoxedEdit::EmptyIsDefault;
         QCOMPARE(after(isDefault, Qt::Key_Shift), QStringLiteral("7 ")); // while typing
-        QCOMPARE(after(isDefault, Qt::Key_Tab), QStringLiteral("2 2"));
+        QCOMPARE(after(isDefault, Qt::Key_Tab), QStringLiteral("3 3"));
         QCOMPARE(after(isDefault, Qt::Key_Escape), QStringLiteral("7 7"));
         QCOMPARE(after(0, Qt::Key_Tab), QStringLiteral("7 "));
         QCOMPARE(after(StructLineEdit::EmptyAllowed, Qt::Key_Tab), QStringLiteral("-99999 "));
         const Dialog dialog;
-        QVERIFY(dialog.size->edit()->placeholderText().startsWith(QLatin1Char('2')));
+        QVERIFY(dialog.size->edit()->placeholderText().startsWith(QLatin1Char('3')));
     }
 
     void textsFromOutside()
@@ -108,7 +109,7 @@ private Q_SLOTS:
             QCOMPARE(dialog.size->getText().toDouble(), 2.5);
         }
         dialog.size->setText(QString());
-        QCOMPARE(dialog.size->getVal(), 2.0);
+        QCOMPARE(dialog.size->getVal(), 3.0);
         QCOMPARE(changed.size(), 0);
     }
 

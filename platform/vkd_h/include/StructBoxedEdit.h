@@ -7,8 +7,7 @@
 struct StructBoxedEdit
 {
     enum LabelPlace { LabelAbove = 0, LabelBeside = 1 };
-    /// A bit of `edit.flags`: an emptied field stands for `edit.value`, and gets it when it is
-    /// left.
+    /// A bit of `edit.flags`: an emptied field gets `edit.emptied` when it is left.
     static constexpr int EmptyIsDefault = 0x100000;
 
     int labelPlace = LabelBeside;

@@ -28,6 +28,9 @@ struct StructLineEdit
     QString decimalSigns;           ///< characters read as the decimal sign beside dot and comma
     QString suffix;                 ///< stands behind the number; empty: the unit of the dimension
     std::list<QString> notSetTexts; ///< texts, without outer blanks, that also read as "not set"
+    double emptied = -99999.0;      ///< what an emptied field gets, by StructBoxedEdit's flag
+    int reservedA = 0;              ///< 0 is to be passed
+    int reservedB = -1;             ///< -1 is to be passed
 };
 
 /// The description of a field for this dimension code, empty at first and allowed to be. Directions

@@ -21,7 +21,7 @@ QString plainName(QString label)
 
 bool fallsBack(const StructLineEdit& edit)
 {
-    return (edit.flags & StructBoxedEdit::EmptyIsDefault) && !vkd_h_isNotSet(edit.value, edit);
+    return (edit.flags & StructBoxedEdit::EmptyIsDefault) && !vkd_h_isNotSet(edit.emptied, edit);
 }
 
 StructBoxedEdit completed(const StructBoxedEdit* given)
@@ -164,12 +164,13 @@ bool VKD_H_BoxedLineEdit::standsForDefault() const
 void VKD_H_BoxedLineEdit::fillEmptyField()
 {
     if (standsForDefault())
-        setVal(m_description.edit.value);
+        setVal(m_description.edit.emptied);
 }
 
 /// An emptied field shows, dimmed, what it stands for.
 void VKD_H_BoxedLineEdit::showDefault()
 {
     if (fallsBack(m_description.edit))
-        m_edit->setPlaceholderText(vkd_h_numberText(m_description.edit.value, m_description.edit));
+        m_edit->setPlaceholderText(
+            vkd_h_numberText(m_description.edit.emptied, m_description.edit));
 }

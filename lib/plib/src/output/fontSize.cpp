@@ -11,6 +11,7 @@ StructLineEdit fontSizeField()
     field.value = 2.0;
     field.minimum = 1.0;
     field.maximum = 999.0;
+    field.emptied = 2.0;
     field.flags = StructBoxedEdit::EmptyIsDefault;
     field.decimalSigns = QStringLiteral(",");
     return field;
