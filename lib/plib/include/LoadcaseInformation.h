@@ -6,12 +6,13 @@ namespace vkd {
 namespace plib {
 namespace widgetgraphicaloutput {
 
-/// A load case as the output tree shows it, a row under each plot that binds to load cases.
+/// A load case that the host offers. The output tree shows it as a row under each plot that binds
+/// to load cases.
 struct LoadcaseInformation
 {
     int kind = 1;   ///< 1 for plots of load cases, 2 for plots of design combinations
-    int number = 0; ///< the load case; a negative one never makes a script line
-    /// The text of the row. A "+" and a number before the first ":" ask for a double picture.
+    int number = 0; ///< of the load case; a negative number never produces a script line
+    /// The text of the row. A "+" and a number before the first ":" request a double picture.
     QString name;
 
     friend bool operator==(const LoadcaseInformation& a, const LoadcaseInformation& b)

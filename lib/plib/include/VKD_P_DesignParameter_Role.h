@@ -6,11 +6,12 @@ namespace vkd {
 namespace plib {
 namespace designparameter {
 
-/// Roles of the items of the page's table, the QTableWidget with the object name "table", for
-/// hosts.
+/// Data roles of the items in the page's table, a QTableWidget with the object name "table". They
+/// provide data to hosts beyond the visible texts.
 enum Role {
-    /// Items of the first column: a QVector<int> with those groups of the row that other rows name,
-    /// too, as numbers of a group list, -1 for the remaining groups. Invalid if there are none.
+    /// Set on items of the first column: a QVector<int> of the row's groups that other rows name as
+    /// well. The numbers are those of a group list, -1 for the remaining groups. Invalid if there
+    /// are none.
     SharedGroupsRole = Qt::UserRole + 1
 };
 

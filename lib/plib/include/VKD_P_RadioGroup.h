@@ -11,11 +11,11 @@ class QLayout;
 class QWidget;
 class VKD_P_RadioGroupImpl;
 
-/// A row of radio buttons for dialogs of hosts: which load cases to take, or how much text to put
-/// out. A coupled widget, in which the user picks by hand, is live only while the manual button is
-/// chosen. To be used in this order: one of the init operations, layout(), and useWidget(), without
-/// which there are no signals. May be destroyed at any time, even by what its signals are connected
-/// to; the buttons stay with their parent.
+/// A row of radio buttons for dialogs of hosts. With it the user selects load cases, or how much
+/// text is output. A coupled widget, in which the user selects by hand, is enabled only while the
+/// manual button is checked. Call one of the init functions, then layout(), then useWidget(); no
+/// signals are emitted before useWidget(). The group may be destroyed at any time, even in a slot
+/// connected to one of its signals; the buttons stay with their parent.
 class VKD_P_FEA_EXPORT VKD_P_RadioGroup : public QObject
 {
     Q_OBJECT
@@ -37,37 +37,39 @@ public:
     VKD_P_RadioGroup();
     ~VKD_P_RadioGroup() override;
 
-    /// Each makes a row whose buttons belong to `parent`. A second row is not made.
-    /// "Manually" and "All", neither of them chosen.
+    /// Each init function creates a row of buttons owned by `parent`, or does nothing if the group
+    /// already has a row. This one creates "Manually" and "All", neither of them checked.
     void init(QWidget* parent);
-    /// "Manually" and those of All_A to All_NONF that are among `ids`, none of them chosen. The row
-    /// is in the order of the ids. Sends buttonChecked(), too, but not buttonNoOutputChecked().
+    /// Creates "Manually" and the buttons from All_A to All_NONF that `ids` contains, none of them
+    /// checked. The row is sorted by id. It also emits buttonChecked(), but never
+    /// buttonNoOutputChecked().
     void initForLF(QWidget* parent, const std::list<ButtonID>& ids);
-    /// "Manually controlled", which is chosen, "No text output" and "Full text output". Sends no
-    /// signals.
+    /// Creates "Manually controlled", which is checked, "No text output" and "Full text output".
+    /// This row emits no signals.
     void initEchoOutput(QWidget* parent);
 
-    /// The row, to be put into a layout by addLayout() or into a widget by setLayout(), which then
-    /// owns it. Null before an init operation.
+    /// Returns the row. Add it to a layout with addLayout() or to a widget with setLayout(), which
+    /// then owns it. Null before an init function is called.
     QLayout* layout() const;
 
-    /// Couples a widget, which is not owned and may be null, and makes the buttons send signals. To
-    /// be called once: a second call makes each signal come twice.
+    /// Couples a widget, which is not owned and may be null, and connects the buttons to the
+    /// signals. Call it once only: after a second call, each signal is emitted twice.
     void useWidget(QWidget* widget);
 
-    /// A button that the row does not have is ignored.
+    /// Ids of buttons that the row does not have are ignored.
     void setEnabledById(ButtonID id, bool enabled);
     void setSelectedId(ButtonID id);
-    /// -1 if no button is chosen.
+    /// Returns -1 if no button is checked.
     ButtonID getSelectedId() const;
 
-    /// The choice as a text for the host to keep. A text of another form changes nothing.
+    /// Restore the choice from a text that the host saves, and return this text. readXML() ignores
+    /// a text of another format.
     void readXML(const QString& text);
     QString writeXML() const;
 
 Q_SIGNALS:
-    /// The choice may have changed; comes more than once for a click, and only with a coupled
-    /// widget. -1 if no button is chosen.
+    /// Emitted when the choice may have changed, only with a coupled widget, and more than once for
+    /// a click. The id is -1 if no button is checked.
     void buttonClicked(int buttonID);
     void buttonNoOutputChecked();
     void buttonManuallyChecked();
@@ -78,8 +80,8 @@ Q_SIGNALS:
     void buttonChecked(int buttonID);
 
 public Q_SLOTS:
-    /// Makes the coupled widget live or not as the choice has it: a
-    /// vkd::properties::nextGen::QtTableView becomes read-only, any other widget disabled.
+    /// Enables the coupled widget if the manual button is checked. Otherwise a
+    /// vkd::properties::nextGen::QtTableView becomes read-only, and any other widget is disabled.
     void updateUsedWidget();
 
 private:

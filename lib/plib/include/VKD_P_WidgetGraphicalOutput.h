@@ -20,69 +20,69 @@ namespace plib {
 struct OutputSettings;
 }
 
-/// The page on which the user picks plots and load cases and sets up the sheet for a graphics run.
-/// Its product is a script with German or English keywords. It is ready for every operation as soon
-/// as it is made, and belongs to the GUI thread.
+/// The page on which the user selects plots and load cases and sets up the sheet for a graphics
+/// run. It generates a script with German or English keywords. All operations may be called right
+/// after construction, on the GUI thread only.
 class VKD_P_FEA_EXPORT VKD_P_WidgetGraphicalOutput : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `parameter` carries the project, is not owned and outlives the page. `animator`, which may
-    /// be null, is placed on the page and goes back to the parent it had when the page goes. It is
-    /// not for the split page, which has no choice of views.
+    /// `parameter` provides the project; it is not owned and outlives the page. `animator` may be
+    /// null. It is placed on the page, and returned to its former parent when the page is
+    /// destroyed. It must be null for the split page, which has no choice of views.
     VKD_P_WidgetGraphicalOutput(QWidget* parent, VKD_P_WidgetGraphicalOutput_Progname progname,
                                 VKD_H_PluginParameter* parameter, AnimatorView* animator);
     ~VKD_P_WidgetGraphicalOutput() override;
 
-    /// Whether the host may leave the page: always.
+    /// Whether the host may leave the page. Always returns true.
     bool checkVals();
 
-    /// The script. Empty if no plot is checked, whatever `additional` holds. That text goes behind
-    /// the plots and gets a line end; on the prefix page it goes ahead of them as it is. The split
-    /// page gives no script but its page setup as two alternatives.
+    /// Returns the script. It is empty if no plot is checked, whatever `additional` contains. This
+    /// text is appended after the plots, with a line end; on the prefix page it is inserted before
+    /// the plots, unchanged. The split page returns its page setup as two alternatives instead of a
+    /// script.
     QString getTORVAL(const QString& additional, bool english);
     QString getTORVAL(bool english);
-    /// Appends the script to `scripts`, an empty one too. Always 1.
+    /// Appends the script to `scripts`, even if it is empty. Always returns 1.
     int getTORVAL(std::vector<QString>& scripts, bool english);
-    /// The clause of the chosen view; not for the split page.
+    /// Returns the clause of the selected view; meaningless for the split page, which has no views.
     QString getTORVAL_BEOB(bool english);
-    /// The page setup statement, without a line end behind it.
+    /// Returns the page setup statement, without a line end after it.
     QString getTORVAL_SIZE(bool english);
-    /// The font statement; on the split page the size alone, in centimetres.
+    /// Returns the font statement; on the split page only the size, in centimetres.
     QString getTORVAL_SCHR(bool english);
-    /// Replaces `lines` by those of the checked plots, with the views that the catalogue gives
-    /// them.
+    /// Replaces `lines` with the lines of the checked plots, which keep the views of the catalogue.
     void getTORVAL_LFs(std::vector<QString>& lines, bool english);
-    /// Five definitions that say whether areas are filled.
+    /// Returns five definitions that set whether areas are filled.
     QString writeFillSet(bool fill, bool english);
 
-    /// The state of the page as a string of tagged parts, for the host to keep. The animator stores
-    /// its camera first.
+    /// Returns the state of the page as a string of tagged parts, which the host saves. The
+    /// animator stores its camera first.
     QString writeXMLstring();
-    /// Applies such a string, also one of another kind of page: parts that are missing leave their
-    /// widgets alone, and parts that this page does not know are passed over. After any string, an
-    /// empty one too, a change of content tags keeps the choice of plots.
+    /// Applies such a string, which may come from another kind of page. Missing parts leave their
+    /// widgets unchanged, and unknown parts are ignored. After any call, even with an empty string,
+    /// the choice of plots survives a change of the content tags.
     void readXMLstring(QString xml);
 
 Q_SIGNALS:
-    /// Commands for the animator. The page sends all of them by the first of these signals.
+    /// Commands for the animator. The page emits only the first of these signals, for all views.
     void signalBeobXY(AnimatorViewControl control, double value);
     void signalBeobXZ(AnimatorViewControl control, double value);
     void signalBeobYZ(AnimatorViewControl control, double value);
     void signalBeob3D(AnimatorViewControl control, double value);
 
 public Q_SLOTS:
-    /// Brings back the catalogue's choice and the settings of a new page; the lists of scales and
-    /// sheets stay where they are.
+    /// Restores the catalogue's default choice and the settings of a new page. The lists of scales
+    /// and sheets keep their current rows.
     void slotDefaultSettings();
-    /// The load cases that rows are made from. A list that differs from the present one brings back
-    /// the catalogue's choice; an equal one changes nothing.
+    /// Sets the load cases that become rows. A different list restores the catalogue's default
+    /// choice; an equal one changes nothing.
     void setUsedNumbersAndNames(
         const std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>& lc_infos);
 
 protected:
-    /// Counts a content tag as present, whatever the model holds, or no longer.
+    /// Adds or removes a content tag that counts as present whatever the model contains.
     void additionalData(const QString& tag, bool add);
     void customEvent(QEvent* event) override;
 
@@ -96,7 +96,7 @@ protected Q_SLOTS:
     void slotQuerFormat();
 
 private:
-    friend class VKD_P_WidgetGraphicalOutput_AdditionalData; // a host's switch of a content tag
+    friend class VKD_P_WidgetGraphicalOutput_AdditionalData; // switches content tags for hosts
 
     void buildSettings(QWidget* box);
     void buildPageSplit();

@@ -8,8 +8,8 @@
 class VKD_P_WidgetGraphicalOutput;
 class VKD_QT_RadioButtonGroup;
 
-/// Lets a host's group of radio buttons switch a content tag of an output page: the plots that ask
-/// for the tag are offered while one button is chosen. Owned by the host.
+/// Lets a host's group of radio buttons switch a content tag of an output page. Plots that require
+/// the tag are offered while a certain button is checked. Owned by the host.
 class VKD_P_FEA_EXPORT VKD_P_WidgetGraphicalOutput_AdditionalData : public QObject
 {
     Q_OBJECT
@@ -18,18 +18,18 @@ public:
     VKD_P_WidgetGraphicalOutput_AdditionalData();
     ~VKD_P_WidgetGraphicalOutput_AdditionalData() override;
 
-    /// `id` is the number of the button that stands for the tag. The group is not asked for its
-    /// present choice. Neither `page` nor `group` is owned.
+    /// `id` is the number of the button that adds the tag. The current choice of the group has no
+    /// effect until the next click. Neither `page` nor `group` is owned.
     void setWidget(VKD_P_WidgetGraphicalOutput* page, VKD_QT_RadioButtonGroup* group,
                    const QString& tag, int id);
 
 public Q_SLOTS:
-    /// What a click on the button with this number does: it adds the tag, once more each time, or
-    /// with another number takes all of them away.
+    /// Handles a click on the button with this number. If it is the button of the tag, the tag is
+    /// added, once more each time; any other number removes all additions at once.
     void clicked(int no);
 
 private:
     QString tag;
-    QPointer<VKD_P_WidgetGraphicalOutput> page; ///< null when it has gone
+    QPointer<VKD_P_WidgetGraphicalOutput> page; ///< null after the page is destroyed
     int id = 0;
 };

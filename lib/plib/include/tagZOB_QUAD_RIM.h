@@ -3,24 +3,25 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The design parameters of the area elements of one group, as the project's record store keeps
-/// them and the design program reads them: 53 words of four bytes, little-endian in the store.
-/// -99999.0 means not set in every real field.
+/// The design parameters of the area elements of one group. The project stores them in this layout
+/// for the design program: 53 words of four bytes, little-endian in the store. In every real field,
+/// -99999.0 means not set.
 ///
-/// In the names `o` is the upper and `u` the lower side; nothing behind it the principal
-/// reinforcement, `q` the cross reinforcement, `i` the third layer.
+/// In the names, `o` is the upper and `u` the lower side. A suffix gives the layer: none for the
+/// principal reinforcement, `q` for the cross reinforcement, `i` for the third layer.
 struct tagZOB_QUAD_RIM
 {
     std::int32_t group; ///< -1: all groups without a record of their own; from 1000000: secondary
     std::int32_t subId; ///< 0, else the record belongs to another program
     std::int32_t
         type; ///< 0 none, 1 two layers orthogonal, 2 two layers, 3 three layers, 4 circular
-    std::int32_t mode;                      ///< carried along
+    std::int32_t mode;                      ///< preserved, not used
     std::int32_t mark;                      ///< 0 or 11, else the record belongs to another program
     float rio, rioq, rioi, riu, riuq, riui; ///< directions, radians
     float xref, yref, zref;                 ///< reference point of circular reinforcement, metres
-    /// Distances in metres. Stored: of each layer from the surface. Edited: of the first layer from
-    /// the surface, then the spacings from the first to the second and the second to the third.
+    /// Distances in metres. The stored form has the distance of each layer from the surface. The
+    /// edited form has the distance of the first layer from the surface, then the spacings from the
+    /// first to the second layer and from the second to the third.
     float hio, hioq, hioi, hiu, hiuq, hiui;
     float dio, dioq, dioi, diu, diuq, diui; ///< bar diameters, mm
     float reservedD;
