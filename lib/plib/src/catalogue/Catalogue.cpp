@@ -13,7 +13,7 @@ namespace {
 constexpr char FileName[] = "graphicaloutput.data";
 constexpr int SearchMode = 3;
 
-/// The messages belong to the tree, which is what the user sees fail.
+/// Translates in the context of the tree: the messages concern the tree, which stays empty.
 struct TreeText
 {
     Q_DECLARE_TR_FUNCTIONS(GraphicalOutputTreeWidget)

@@ -7,23 +7,23 @@
 
 namespace plib {
 
-/// The catalogue as all output trees of the process share it.
+/// The catalogue of plots, shared by all output trees of the process.
 struct Catalogue
 {
     std::vector<GraphicalOutputRecord> list; ///< in file order; only ever grows
     int catalogueLanguage = -1;              ///< language of the last load that succeeded
 };
 
-/// The catalogue of the process.
+/// Returns the catalogue of the process.
 Catalogue& sharedCatalogue();
 
-/// Shows a failure to the user; called once at most.
+/// Shows an error to the user; called once at most for each load.
 using ShowError = std::function<void(const QString& title, const QString& text)>;
 
-/// Makes sure that the catalogue is loaded for the language, 0 German or 1 English, from the file
-/// `graphicaloutput.data` on the search path. Loading a second language keeps the records of the
-/// first one in front of the new ones, on purpose. False, with `showError` called, if the file is
-/// not there or cannot be opened; the next call then tries again.
+/// Loads the catalogue for the language, 0 German or 1 English, unless that is done already. The
+/// file is `graphicaloutput.data` on the search path. On purpose, the records of a second language
+/// are appended to those of the first. Calls `showError` and returns false if the file is missing
+/// or cannot be opened; the next call then tries again.
 bool loadCatalogue(Catalogue& catalogue, int language, const ShowError& showError);
 
 } // namespace plib

@@ -27,7 +27,7 @@ bool isAscii(const char* bytes, int length)
     return !(all & Q_UINT64_C(0x8080808080808080));
 }
 
-/// What QChar::isSpace() says of an ASCII character.
+/// Equals QChar::isSpace() for ASCII characters.
 bool isSpace(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
@@ -75,7 +75,8 @@ CatalogueParser::Outcome CatalogueParser::parseLine(const char* bytes, int lengt
                                   : parseText(QString::fromUtf8(bytes, length));
 }
 
-/// The same as parseText() for a line of ASCII alone, where a byte is a character.
+/// Does the same as parseText() for a line of pure ASCII, in which each byte is a character. Most
+/// lines are of this kind, and splitting bytes is much faster.
 CatalogueParser::Outcome CatalogueParser::parseAscii(const char* bytes, int length)
 {
     const char* const end = bytes + length;

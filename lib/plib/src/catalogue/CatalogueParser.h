@@ -12,9 +12,10 @@ class QIODevice;
 
 namespace plib {
 
-/// Reads the lines of a catalogue one by one into one working record, whose fields are not reset in
-/// between: a line without an English script takes that of the last line that had one. Columns that
-/// stand as they stood in the line before are neither decoded nor looked up again.
+/// Parses the lines of a catalogue one by one into a single working record. Its fields are not
+/// reset between lines: a line without an English script inherits the script of the last line that
+/// had one. A column with the same bytes as in the line before is neither decoded nor looked up
+/// again, because neighbouring lines differ in few columns.
 class CatalogueParser
 {
 public:
@@ -22,14 +23,14 @@ public:
 
     static constexpr int MinimumParts = 14;
     static constexpr int UsedParts = 15;
-    static constexpr int LineBuffer = 1024; ///< one byte of it is for the end of the text
+    static constexpr int LineBuffer = 1024; ///< including one byte for the terminating zero
 
-    /// One line as QIODevice::readLine() gives it, with its line feed if it has one.
+    /// Parses one line as QIODevice::readLine() returns it, with its line feed if it has one.
     Outcome parseLine(const char* bytes, int length);
 
-    /// The working record; a catalogue record if the outcome was Accepted.
+    /// Returns the working record. It is a valid catalogue record if the outcome was Accepted.
     const GraphicalOutputRecord& record() const { return m_record; }
-    /// How many parts the line had, 0 for comments and blank lines.
+    /// Returns the number of parts in the line, 0 for comments and blank lines.
     int partCount() const { return m_partCount; }
 
 private:
@@ -41,14 +42,15 @@ private:
     void storeCaseWord(const QString& part);
 
     GraphicalOutputRecord m_record;
-    // What each column was last stored from, blanks and all; empty if that was no plain ASCII. A
-    // part is never empty, so an empty one fits nothing.
+    // The bytes of each stored column, including blanks; empty if they were not pure ASCII. Parts
+    // are never empty, so an empty string matches none.
     std::array<std::string, UsedParts> m_bytes;
     int m_partCount = 0;
 };
 
-/// Reads lines of at most 1023 bytes until the device ends and appends the accepted records; the
-/// rest of a longer line is a line of its own. Bad lines are skipped without a word.
+/// Reads lines of at most 1023 bytes until the end of the device and appends the accepted records.
+/// The rest of a longer line is read as a separate line. Invalid lines are skipped without a
+/// message; lintCatalogue() reports them.
 void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list);
 
 } // namespace plib

@@ -4,8 +4,8 @@
 
 namespace plib {
 
-/// One line of the catalogue: a plot that the output page can offer. A plain value; each item of an
-/// output tree holds its own copy.
+/// One line of the catalogue: a plot that the output page can offer. It is a plain value, and each
+/// item of an output tree stores its own copy.
 struct GraphicalOutputRecord
 {
     int prog1 = 0; ///< the kinds of page for which the plot is offered
@@ -14,24 +14,24 @@ struct GraphicalOutputRecord
     QString title1; ///< captions of the top level, the second level and the plot
     QString title2;
     QString title3;
-    QString contentTag; ///< what the model must hold, see hasContent()
+    QString contentTag; ///< required content of the model, see hasContent()
     QString id1;        ///< identifiers of the captions, the same in every language
     QString id2;
     QString id3;
-    int number7 = 0; ///< carried along; nothing reads it
+    int number7 = 0; ///< unused
     QString caseWord;
-    int ctrl = -1; ///< -1: stands without load cases, -10: bound, but never by a known case
+    int ctrl = -1; ///< -1: plot without load cases, -10: bound to load cases, but to no known kind
     int rowClass = 0;
     int rowMark = 1; ///< `isLC` of the plot's rows
     int preselect = 0;
     int viewKind = 0;
     int systemMask = 0;
-    QString text11; ///< carried along; nothing reads it
+    QString text11; ///< unused
     QString scriptGerman;
     QString scriptEnglish;
 };
 
-/// Values of GraphicalOutputRecord::ctrl that rules ask for.
+/// Values of GraphicalOutputRecord::ctrl that rules depend on.
 constexpr int CtrlStandsAlone = -1;
 constexpr int CtrlDesign = 8;
 

@@ -26,8 +26,9 @@ bool isEnglish()
     return vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0;
 }
 
-/// What the builder needs of the tree. A plot is put into the tree when it has its rows, so that
-/// the tree follows one change for all of them, while they are at hand.
+/// Implements the operations of the builder for the tree widget. A plot is added to the tree only
+/// after all its rows are added to the plot, so that the tree processes a single change for all of
+/// them.
 class ItemOperations
 {
 public:
@@ -61,15 +62,15 @@ public:
             item->setCheckState(0, Qt::Checked);
     }
     void plotIcon(Item* item) { item->setIcon(0, m_plotIcon); }
-    void rowIcon(Item*) {} // part of the look
-    void expand(Item*) {}  // later: nothing is shown as yet
+    void rowIcon(Item*) {} // the look contains the icon
+    void expand(Item*) {}  // done later by expandPlots()
 
 private:
     QTreeWidget* m_tree;
     Item* m_root;
     const QIcon m_plotIcon;
     plib::RowLooks m_looks;
-    Item* m_parentOfPlot = nullptr; // of the plot that is not complete as yet
+    Item* m_parentOfPlot = nullptr; // of the plot that is still incomplete
 };
 
 QString dumpLine(Item* item, int indent)
@@ -118,7 +119,7 @@ void GraphicalOutputTreeWidget::additionalData(const QString& tag, bool add)
     if (add)
         additional.push_back(tag);
     else
-        additional.remove(QString(tag)); // a copy: the tag may be one of those in the list
+        additional.remove(QString(tag)); // a copy: the argument may refer to an element of the list
     rebuild(false);
 }
 
@@ -152,7 +153,7 @@ void GraphicalOutputTreeWidget::applySelection(const QString& text)
 
 void GraphicalOutputTreeWidget::expandPlots()
 {
-    scheduleDelayedItemsLayout(); // before, or each step would lay out the tree
+    scheduleDelayedItemsLayout(); // first, otherwise each step would lay out the tree
     for (int i = 0; i < topLevelItemCount(); ++i) {
         const QModelIndex top = model()->index(i, 0);
         expand(top);
@@ -165,7 +166,7 @@ void GraphicalOutputTreeWidget::closeLoads()
 {
     QTreeWidgetItem* current = currentItem();
     if (current && outputItem(current) && outputItem(current)->level > PlotLevel)
-        // Else the arrow keys would begin at the first row.
+        // Otherwise the arrow keys would start at the first row.
         setCurrentItem(current->parent(), currentColumn(), QItemSelectionModel::NoUpdate);
     scheduleDelayedItemsLayout();
     for (int i = 0; i < topLevelItemCount(); ++i) {
@@ -190,7 +191,7 @@ void GraphicalOutputTreeWidget::dump(QTreeWidgetItem* item, int indent) const
     if (!output)
         return;
     dumpLine(output, indent);
-    // Of the rows the first is enough, on purpose: they differ in their load case only.
+    // On purpose, only the first row of a plot is dumped: the others differ only in the load case.
     const int count = output->level == PlotLevel ? qMin(1, item->childCount()) : item->childCount();
     for (int i = 0; i < count; ++i)
         dump(item->child(i), indent + 1);
@@ -214,7 +215,7 @@ void GraphicalOutputTreeWidget::fillTree()
 {
     const plib::ZobModelQueries project(parameter);
     const plib::RememberedAnswers model(project);
-    Item root; // stands for the tree's own, which is no output item
+    Item root; // replaces the tree's invisible root, which is not an output item
     root.level = -1;
     ItemOperations operations(this, &root);
     plib::TreeBuilder<Item, ItemOperations> builder(&root, rows, operations);
@@ -227,7 +228,8 @@ void GraphicalOutputTreeWidget::fillTree()
     expandPlots();
 }
 
-/// All states are settled once, at the end; the automatic update would do so for each of them.
+/// Signals are blocked because the automatic update would recompute the parents after each item.
+/// Here each parent is computed once.
 void GraphicalOutputTreeWidget::setChoice(const QString& text)
 {
     const VKD_QT_SignalBlocker silence(model());

@@ -10,11 +10,11 @@
 
 class VKD_H_PluginParameter;
 
-/// The tree from which the user picks plots and load cases: the catalogue, as far as the page and
-/// the model have a use for it, with the host's load cases under the plots that bind to them. It
-/// gives the choice as lines of a script and as a text to store. checkStatesChanged() is also sent
-/// once when it was filled anew or a choice was applied. Without a catalogue it says so once and
-/// stays empty for life, with no menu.
+/// The tree in which the user checks plots and load cases. It shows the plots of the catalogue that
+/// fit the page and the model, with the host's load cases under the plots that bind to them. It
+/// returns the choice as script lines and as a text for storage. checkStatesChanged() is also
+/// emitted once after the tree is rebuilt or a choice is applied. If the catalogue cannot be
+/// loaded, the tree shows an error once and then stays empty, without a context menu.
 class GraphicalOutputTreeWidget : public VKD_QT_TreeWidget
 {
     Q_OBJECT
@@ -22,38 +22,40 @@ class GraphicalOutputTreeWidget : public VKD_QT_TreeWidget
 public:
     using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-    /// Loads the catalogue and comes up with the default choice. `kind` is the kind of page;
+    /// Loads the catalogue and builds the tree with the default choice. `kind` is the kind of page;
     /// `pluginParameter` is not owned and outlives the tree.
     GraphicalOutputTreeWidget(QWidget* parent, int kind, VKD_H_PluginParameter* pluginParameter,
                               const char* name);
     ~GraphicalOutputTreeWidget() override;
 
-    /// Fills the tree anew. Brings up the default choice if `defaults` is set, or if no choice was
-    /// ever applied; else the present choice is carried over.
+    /// Rebuilds the tree. It gets the default choice if `defaults` is set or if no choice was ever
+    /// applied; otherwise it keeps the current choice.
     void rebuild(bool defaults);
-    /// Lets a content tag count as present whatever the model holds, or no longer, and fills the
-    /// tree anew. A tag that was added twice is taken away by one call.
+    /// Adds or removes a content tag that counts as present whatever the model contains, and
+    /// rebuilds the tree. One call removes a tag even if it was added twice.
     void additionalData(const QString& tag, bool add);
-    /// The load cases that become rows. New ones bring up the default choice; the same ones again
-    /// change nothing.
+    /// Sets the load cases that become rows. A different list restores the default choice; an equal
+    /// one changes nothing.
     void setUsedNumbersAndNames(const Rows& newRows);
 
-    /// Empties `lines` and fills it with the script lines of what is checked, with German or
-    /// English keywords; returns their number.
+    /// Replaces `lines` with the script lines of the checked items, with German or English
+    /// keywords, and returns their number.
     int collectScriptLines(std::vector<QString>& lines, bool english) const;
-    /// The choice as text for applySelection(). Items are named by identifiers that are the same in
-    /// every language; what is not there any more when the text is applied is skipped.
+    /// Returns the choice as a text for applySelection(). The text names items by identifiers that
+    /// are the same in every language. Items that no longer exist when the text is applied are
+    /// skipped.
     QString selectionText() const;
-    /// Takes over a stored choice; what it does not name is unchecked. An empty text leaves the
-    /// check boxes as they are, but counts as a choice that was applied.
+    /// Applies a stored choice and unchecks all items that it does not name. An empty text changes
+    /// no check box, but still counts as an applied choice.
     void applySelection(const QString& text);
 
 public Q_SLOTS:
-    /// Opens the captions, so that all plots show; plots stay as they are.
+    /// Expands the captions, so that all plots are visible; plots are neither expanded nor
+    /// collapsed.
     void expandPlots();
-    /// Closes the plots, so that no load case shows.
+    /// Collapses the plots, so that no load case is visible.
     void closeLoads();
-    /// Make the lines of a diagnosis, for which there is no place to go to as yet.
+    /// Build lines for diagnosis. They are not written anywhere yet.
     void dump() const;
     void dump(QTreeWidgetItem* item, int indent) const;
 
@@ -66,7 +68,7 @@ private:
     VKD_H_PluginParameter* parameter;
     Rows rows;
     bool selectionLoaded = false;
-    bool rebuilding = false; // for a look in the debugger: nothing reads it, and it is no lock
+    bool rebuilding = false; // visible in a debugger; not a lock, and never read
     PopupHandler popup;
     std::list<QString> additional;
 };

@@ -7,7 +7,7 @@ GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(const QString& text
     setCheckState(0, Qt::Unchecked);
 }
 
-/// Copied by assignment: the base's copy constructor would make a plain item of it.
+/// Copies by assignment, because the copy constructor of the base class would create a plain item.
 GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(
     const GraphicalOutputTreeWidgetItem& other)
     : QTreeWidgetItem(OutputType)

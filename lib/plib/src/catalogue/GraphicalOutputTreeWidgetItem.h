@@ -4,32 +4,33 @@
 
 #include <QTreeWidgetItem>
 
-/// An item of the output tree: a caption, a plot, or the row of a load case under a plot. It holds
-/// what a script and a stored choice need of it; text, icon and check box are the base's.
+/// An item of the output tree: a caption, a plot, or the row of a load case under a plot. It stores
+/// the data for the script and for the stored choice; the base class stores text, icon and check
+/// state.
 class GraphicalOutputTreeWidgetItem : public QTreeWidgetItem
 {
 public:
-    /// Tells output items from plain ones.
+    /// The item type that distinguishes output items from plain ones.
     static constexpr int OutputType = UserType + 1;
 
-    /// Unchecked, with a text.
+    /// Creates an unchecked item with a text.
     explicit GraphicalOutputTreeWidgetItem(const QString& text = QString());
-    /// A copy of the item alone, without its place in a tree and without children.
+    /// Copies the item only, not its parent, its tree or its children.
     GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem& other);
     GraphicalOutputTreeWidgetItem& operator=(const GraphicalOutputTreeWidgetItem&) = delete;
     ~GraphicalOutputTreeWidgetItem() override;
 
-    /// Takes over text, icon, check state and flags. Its tree, if it is in one, hears nothing.
+    /// Copies text, icon, check state and flags. The tree of this item, if any, is not notified.
     void takeLook(const GraphicalOutputTreeWidgetItem& other);
 
-    plib::GraphicalOutputRecord record; ///< of the first record that came by, or that of the plot
-    qint32 isLC = -1;                   ///< negative: makes no line of the script by itself
+    plib::GraphicalOutputRecord record; ///< captions: of the first plot; rows: of the plot
+    qint32 isLC = -1;                   ///< negative: the item has no script line of its own
     qint32 number = 0;                  ///< the load case of a row
     qint32 level = 0;                   ///< 0 and 1 captions, 2 plots, 3 rows
 };
 
-/// The output item that this is, or null for a plain one. The algorithms on trees find it by the
-/// type of its argument, so it stands in no namespace.
+/// Returns the item as an output item, or null for a plain one. The tree algorithms find this
+/// function by argument-dependent lookup, so it is not in a namespace.
 inline GraphicalOutputTreeWidgetItem* outputItem(QTreeWidgetItem* item)
 {
     return item->type() == GraphicalOutputTreeWidgetItem::OutputType

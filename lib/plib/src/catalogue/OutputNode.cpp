@@ -15,7 +15,7 @@ OutputNode* OutputNode::addChild(const QString& text)
 
 void OutputNode::removeChild(OutputNode* child)
 {
-    // From the back, where the child that is taken away again usually stands.
+    // Searches from the end, because usually the child added last is removed.
     const auto found = std::find_if(m_children.rbegin(), m_children.rend(),
                                     [child](const auto& own) { return own.get() == child; });
     if (found != m_children.rend())

@@ -7,9 +7,10 @@
 
 namespace plib {
 
-/// An item of an output tree without a screen. It has the handful of members that the algorithms on
-/// trees use, spelt as QTreeWidgetItem and the tree's own item class spell them. Parents own their
-/// children; the root, which shows nothing, stands for the tree.
+/// An item of an output tree that needs no widgets, for the command line and for tests. It has the
+/// few members that the tree algorithms use, with the names that they have in QTreeWidgetItem and
+/// in the item class of the tree widget. Parents own their children; the invisible root represents
+/// the tree.
 class OutputNode
 {
 public:
@@ -21,14 +22,14 @@ public:
     int isLC = -1;
     int number = 0;
     int level = 0;
-    bool plain = false; ///< stands for an item of the base class, which is no output item
+    bool plain = false; ///< represents an item of the base class, which is not an output item
 
     OutputNode* addChild(const QString& text);
     void removeChild(OutputNode* child);
 
     int childCount() const { return int(m_children.size()); }
     OutputNode* child(int index) const { return m_children[size_t(index)].get(); }
-    /// Null for top level items, as with QTreeWidgetItem.
+    /// Returns null for top level items, as QTreeWidgetItem does.
     OutputNode* parent() const { return m_parent && m_parent->m_parent ? m_parent : nullptr; }
     QString text(int) const { return m_text; }
     Qt::CheckState checkState(int) const { return m_state; }
@@ -44,14 +45,14 @@ private:
     std::vector<std::unique_ptr<OutputNode>> m_children;
 };
 
-/// The output item that this node is, or null for a plain one. Trees of widgets bring a function of
-/// the same name.
+/// Returns the node as an output item, or null for a plain one. Tree widget items have a function
+/// of the same name.
 inline OutputNode* outputItem(OutputNode* node)
 {
     return node->plain ? nullptr : node;
 }
 
-/// What TreeBuilder needs of a tree of plain nodes: no icons, all else as it is.
+/// The operations of TreeBuilder for trees of plain nodes, which have no icons.
 class OutputNodeOperations
 {
 public:

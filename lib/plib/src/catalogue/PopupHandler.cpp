@@ -22,7 +22,8 @@ PopupHandler::~PopupHandler()
     delete menu;
 }
 
-/// The texts belong to the tree, which is what the user sees.
+/// The texts are translated in the context of the tree, because the menu is part of the tree for
+/// the user.
 void PopupHandler::build(GraphicalOutputTreeWidget* owner, bool hasCloseAll)
 {
     const QIcon rowIcon = plib::rowIcon(vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);

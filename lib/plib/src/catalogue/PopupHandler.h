@@ -7,8 +7,8 @@ class QPoint;
 class VKD_QT_Action;
 class VKD_QT_Menu;
 
-/// The context menu of an output tree. The tree owns the handler, the handler the menu, and the
-/// menu its actions.
+/// The context menu of an output tree. The tree owns the handler, the handler owns the menu, and
+/// the menu owns its actions.
 class PopupHandler : public QObject
 {
     Q_OBJECT
@@ -17,13 +17,13 @@ public:
     PopupHandler() = default;
     ~PopupHandler() override;
 
-    /// Makes the menu for the tree, with an entry that closes everything if `hasCloseAll` says so,
-    /// and from now on opens it where the user asks for it. To be called once at most.
+    /// Creates the menu for the tree and opens it on request at the mouse position. With
+    /// `hasCloseAll`, it has an entry that collapses everything. Must be called once at most.
     void build(GraphicalOutputTreeWidget* owner, bool hasCloseAll);
     bool isBuilt() const { return menu; }
 
 public Q_SLOTS:
-    /// Runs the menu at a place of the tree.
+    /// Opens the menu at a position of the tree.
     void ShowContextMenu(const QPoint& pos);
 
 private:
@@ -33,6 +33,6 @@ private:
     VKD_QT_Action* expandPlots = nullptr;
     VKD_QT_Action* expandLoads = nullptr;
     VKD_QT_Action* closeLoads = nullptr;
-    VKD_QT_Action* closeAll = nullptr; // stays null without its entry: the tree has none on purpose
+    VKD_QT_Action* closeAll = nullptr; // null in the output tree, which omits this entry on purpose
     GraphicalOutputTreeWidget* tree = nullptr;
 };

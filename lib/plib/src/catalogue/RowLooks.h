@@ -8,17 +8,17 @@
 
 namespace plib {
 
-/// What rows of the output tree look like, made once for each load case. Text, icon and check state
-/// are most of what a row costs, in time and in memory, and the rows of a load case have them alike
-/// under each plot: items that take one look share them. For a short life: texts are told apart by
-/// where their characters are, which rows of a load case share.
+/// The text, icon and check state of rows in the output tree, created once for each load case. They
+/// make up most of the time and memory that a row costs, and they are the same under each plot, so
+/// that items with the same look share them. Texts are compared by the address of their characters,
+/// which the rows of a load case share; so an object must not outlive the pass that fills the tree.
 class RowLooks
 {
 public:
-    /// With the row icon of this language.
+    /// Uses the row icon of this language.
     explicit RowLooks(bool english);
 
-    /// The look of a row with this text, checked or unchecked.
+    /// Returns the look of a row with this text, checked or unchecked.
     const GraphicalOutputTreeWidgetItem& of(const QString& text, bool checked);
 
 private:
@@ -26,13 +26,13 @@ private:
     {
         explicit Looks(const QString& text, const QIcon& icon);
 
-        QString text; // keeps the characters where they are
+        QString text; // keeps the characters at their address
         GraphicalOutputTreeWidgetItem unchecked;
         GraphicalOutputTreeWidgetItem checked;
     };
 
     QIcon m_icon;
-    // By the characters' place and number: texts of different lengths may begin at one place.
+    // The keys are address and length: texts of different lengths may begin at the same address.
     std::map<std::pair<const QChar*, int>, std::unique_ptr<const Looks>> m_looks;
 };
 

@@ -12,22 +12,22 @@
 
 namespace plib {
 
-/// Fills an output tree from the records of a catalogue: top captions, second captions, plots, and
-/// under a plot that binds to load cases a row for each of them.
+/// Builds an output tree from the records of a catalogue: top captions, second captions and plots.
+/// A plot that binds to load cases has a row for each of them.
 ///
-/// `Operations` is what the builder needs of a tree besides the members of a node:
-/// `Node* create(Node* parent, const QString& text)` appends an unchecked output item,
-/// `complete(Node*)` is told of a new plot once it has its rows, `remove(Node*)` takes an item
-/// away, `check(Node*)`, `plotIcon(Node*)`, `rowIcon(Node*)` and `expand(Node*)` do what they say.
-/// Captions are found by an index of the builder's own, and each parent is settled once, plots as
-/// soon as they have their rows, so that the work is linear in records and rows.
+/// `Operations` provides the operations on the tree that a node does not have: `Node* create(Node*
+/// parent, const QString& text)` appends an unchecked output item, `complete(Node*)` is called for
+/// a new plot after its rows are created, `remove(Node*)` deletes an item, `check(Node*)` checks
+/// it, `plotIcon(Node*)` and `rowIcon(Node*)` set its icon, `expand(Node*)` expands it. The builder
+/// finds captions by a hash of its own and computes the state of each parent once, that of a plot
+/// as soon as its rows are complete. So the time is linear in records and rows.
 template <typename Node, typename Operations>
 class TreeBuilder
 {
 public:
     using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-    /// `root` is empty as yet and, like `rows`, outlives the builder.
+    /// `root` must be empty. `root` and `rows` outlive the builder.
     TreeBuilder(Node* root, const Rows& rows, Operations& operations)
         : m_root(root)
         , m_rows(rows)
@@ -35,14 +35,13 @@ public:
     {
     }
 
-    /// Adds a record that the tree offers.
+    /// Adds the plot of a record, which must be offered by this page.
     void add(const GraphicalOutputRecord& record)
     {
         Node* top = caption(m_root, record.title1, record, 0);
         Node* second = caption(top, record.title2, record, 1);
-        // A plot is used again only if it bears the caption of the level above: the comparison is
-        // with title2 on purpose. So each record makes a plot of its own, be the captions the same
-        // or not, unless an earlier plot is named as its parent is.
+        // The comparison with title2 is meant: only a plot with the same caption as its parent is
+        // reused. Any other record gets a plot of its own, even if the captions are equal.
         Node* namesake = m_namesakes.value(second);
         Node* plot = namesake ? namesake : newPlot(second, record);
         addLoadcaseRows(plot, record);
@@ -53,11 +52,12 @@ public:
         removeIfEmpty(plot, second, top);
     }
 
-    /// Gives every parent the state of its children. To be called once, behind the last record.
+    /// Computes the state of every parent from its children. Must be called once, after the last
+    /// record.
     void finish()
     {
         for (Node* plot : qAsConst(m_namesakes))
-            settleBranch(plot); // it may have got more rows
+            settleBranch(plot); // later records may have added rows
         settleCaptions(1);
         settleCaptions(0);
     }
@@ -117,8 +117,7 @@ private:
             checkRows(plot);
     }
 
-    /// Classes 1 and 2 take load cases, class 3 combinations of the design, any other class
-    /// nothing.
+    /// Classes 1 and 2 have rows for load cases, class 3 for design combinations, others none.
     static bool takesRow(int rowClass, int kind)
     {
         return rowClass == 3 ? kind == 2 : (rowClass == 1 || rowClass == 2) && kind == 1;
@@ -126,14 +125,15 @@ private:
 
     void addRow(Node* plot, const QString& name, int number)
     {
-        // Under a plot that is used again too, a row holds the plot's record, and so its script.
+        // Rows always copy the record of the plot, and with it the script, even if the plot is
+        // reused.
         Node* row = create(plot, name, plot->record, 3);
         m_operations.rowIcon(row);
         row->isLC = row->record.rowMark;
         row->number = number;
     }
 
-    /// Checks all rows of the plot; those that are checked already are not visited again.
+    /// Checks all rows of the plot. Rows checked by an earlier call are not visited again.
     void checkRows(Node* plot)
     {
         int& next = m_checkedRows[plot];
@@ -141,8 +141,8 @@ private:
             m_operations.check(static_cast<Node*>(plot->child(next)));
     }
 
-    /// Takes away what a record without any script left behind. The parser lets no such record
-    /// through; records made by hand can be so.
+    /// Removes the items of a record without any script. The parser rejects such records, but
+    /// records created in code may have no script.
     void removeIfEmpty(Node* plot, Node* second, Node* top)
     {
         const auto hasNoScript = [](const Node* node) {
@@ -169,8 +169,8 @@ private:
     const Rows& m_rows;
     Operations& m_operations;
     QHash<QPair<Node*, QString>, Node*> m_captions;
-    QHash<Node*, Node*> m_namesakes; // by second level item: the plot that bears its caption
-    QHash<Node*, int> m_checkedRows; // by plot: so many of its first rows are checked
+    QHash<Node*, Node*> m_namesakes; // by second level item: the plot with the same caption
+    QHash<Node*, int> m_checkedRows; // by plot: number of its first rows that are checked
 };
 
 } // namespace plib

@@ -4,7 +4,8 @@
 
 namespace plib {
 
-/// A text of the script in both keyword languages, side by side so that none is changed alone.
+/// A text of the script in both keyword languages. They are in one place so that a change of one
+/// does not miss the other.
 struct Words
 {
     const char* german;

@@ -6,13 +6,13 @@ class VKD_H_PluginParameter;
 
 namespace plib {
 
-/// Answers from the projects that a page was given: cross sections from the second document if
-/// there is one, all else from the model's. Keeps nothing, so that a changed model shows at the
-/// next call.
+/// Answers the queries from the projects of a page: cross sections are read from the second
+/// document if there is one, everything else from the document of the model. Nothing is cached, so
+/// a changed model takes effect at the next call.
 class ZobModelQueries : public ModelQueries
 {
 public:
-    /// `parameter` is not owned and has to outlive the object.
+    /// `parameter` is not owned and outlives this object.
     explicit ZobModelQueries(const VKD_H_PluginParameter* parameter);
 
     bool has(Content content) const override;

@@ -36,12 +36,12 @@ private:
     void checkCaption(const GraphicalOutputRecord& record, int program, int level,
                       const QString& caption);
 
-    using OnPage = QPair<int, QString>; // a kind of page and an identifier in its tree
+    using OnPage = QPair<int, QString>; // the kind of page and an identifier in its tree
 
     CatalogueParser m_parser;
     int m_line = 0;
-    int m_englishLine = 0;                         // that stored an English script last
-    QHash<OnPage, std::array<int, 4>> m_plots;     // line by kind of system
+    int m_englishLine = 0;                         // the last line with an English script
+    QHash<OnPage, std::array<int, 4>> m_plots;     // lines by kind of system
     QHash<OnPage, QPair<QString, int>> m_captions; // caption and line
 };
 
@@ -123,7 +123,7 @@ void CatalogueLint::checkIdentifiers(const GraphicalOutputRecord& record)
     const std::set<int> programs{record.prog1, record.prog2, record.prog3};
     const size_t before = findings.size();
     for (int program : programs) {
-        if (program <= 0 || findings.size() != before) // say it once, not for each kind of page
+        if (program <= 0 || findings.size() != before) // report once, not for each kind of page
             continue;
         checkCaption(record, program, 0, record.title1);
         checkCaption(record, program, 1, record.title2);
@@ -131,8 +131,8 @@ void CatalogueLint::checkIdentifiers(const GraphicalOutputRecord& record)
     }
 }
 
-/// Plots for different kinds of system may share an identifier: a tree shows only one of them, and
-/// the choice then fits whichever it is.
+/// Plots for different kinds of system may share an identifier: a tree shows only one of them, so a
+/// stored choice is unambiguous.
 void CatalogueLint::checkPlotIdentifier(const GraphicalOutputRecord& record, int program)
 {
     std::array<int, 4>& lines = m_plots[{program, itemId(record, 2)}];

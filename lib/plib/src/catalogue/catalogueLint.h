@@ -10,17 +10,17 @@ class QIODevice;
 
 namespace plib {
 
-/// Something about a line of a catalogue that its writer will hardly have meant.
+/// A probable mistake in a line of a catalogue.
 struct CatalogueFinding
 {
-    int line; ///< in the file, from 1
+    int line; ///< in the file, counted from 1
     QString text;
 };
 
-/// Reads a catalogue as parseCatalogue() does, and tells what that keeps to itself: dropped lines,
-/// shifted columns, scripts carried over, words that mean nothing, plots that never show or never
-/// make a line, and identifiers that cannot carry a stored choice. `records` gets the records, if
-/// given. Captions are those of the desktop's language.
+/// Reads a catalogue as parseCatalogue() does, and reports the problems that it ignores: dropped
+/// lines, shifted columns, inherited scripts, unknown words, plots that are never shown or never
+/// produce a script line, and identifiers that cannot identify a stored choice. `records` may be
+/// null; otherwise the records are stored there. Captions are in the desktop's language.
 std::vector<CatalogueFinding> lintCatalogue(QIODevice& device,
                                             std::vector<GraphicalOutputRecord>* records);
 

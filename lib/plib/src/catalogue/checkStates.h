@@ -4,11 +4,12 @@
 
 namespace plib {
 
-/// The rule of a tree of check boxes: setting an item carries down to all below it, and each parent
-/// is Unchecked only if all its children are, Checked only if all are, else PartiallyChecked.
-/// `Node` has the members of OutputNode. Items that are no output items have no check box.
+/// The rules of a tree of check boxes. The state of an item is copied to all its descendants. A
+/// parent is Unchecked if all its children are Unchecked, Checked if all are Checked, otherwise
+/// PartiallyChecked. `Node` has the members of OutputNode. Items other than output items have no
+/// check box.
 
-/// The state that the children of the node give it; it must have some.
+/// Returns the state that results from the children of the node. The node must have children.
 template <typename Node>
 Qt::CheckState stateOfChildren(const Node* node)
 {
@@ -27,7 +28,7 @@ void carryDown(Node* node, Qt::CheckState state)
         carryDown(static_cast<Node*>(node->child(i)), state);
 }
 
-/// Brings the ancestors up to date after a change of the node; ends where nothing changes.
+/// Updates the ancestors after a change of the node; stops at the first one that does not change.
 template <typename Node>
 void settleAncestors(Node* node)
 {
@@ -39,7 +40,7 @@ void settleAncestors(Node* node)
     }
 }
 
-/// A click of the user.
+/// Applies a click of the user on an item.
 template <typename Node>
 void setBranchState(Node* node, Qt::CheckState state)
 {
@@ -47,8 +48,8 @@ void setBranchState(Node* node, Qt::CheckState state)
     settleAncestors(node);
 }
 
-/// Brings every parent below the node up to date, and the node itself, bottom up, once: the same
-/// states as single steps with settled ancestors after each.
+/// Updates the node and every parent below it, bottom up and once each. The states equal those
+/// after single changes, each followed by settleAncestors().
 template <typename Node>
 void settleBranch(Node* node)
 {
@@ -59,7 +60,7 @@ void settleBranch(Node* node)
         node->setCheckState(0, stateOfChildren(node));
 }
 
-/// settleBranch() for every top level item below the root.
+/// Calls settleBranch() for every top level item below the root.
 template <typename Node>
 void settleTree(Node* root)
 {

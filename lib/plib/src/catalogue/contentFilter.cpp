@@ -40,7 +40,7 @@ bool hasContent(const QString& tag, const ModelQueries& model)
 
 int systemBit(int kind)
 {
-    switch (kind / 10) { // rounds towards zero: -9 to 9 are one tens
+    switch (kind / 10) { // rounds towards zero, so -9 to 9 are one range
     case 0:
     case 2: return 8;
     case 1: return ((kind - 10) & ~5) == 0 ? 1 : 2;
@@ -58,7 +58,7 @@ bool isRecordOffered(const GraphicalOutputRecord& record, int progname, const Mo
     const int mask = record.systemMask & AnySystem;
     if (mask && !(mask & systemBit(model.kindOfSystem())))
         return false;
-    // Case sensitive, unlike hasContent(), on purpose: hosts spell a tag as the catalogue does.
+    // On purpose case sensitive, unlike hasContent(): hosts spell a tag as the catalogue does.
     if (!hasContent(record.contentTag, model) &&
         std::find(additional.begin(), additional.end(), record.contentTag) == additional.end())
         return false;

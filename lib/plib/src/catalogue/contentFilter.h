@@ -8,7 +8,7 @@
 
 namespace plib {
 
-/// The sorts of model content that a plot of the catalogue can need.
+/// The kinds of model content that a plot of the catalogue can require.
 enum class Content {
     Nodes,
     Quads,
@@ -29,22 +29,24 @@ enum class Content {
     CrossSections
 };
 
-/// What the filter and the script lines ask of a model.
+/// The queries of the filter and the script lines to a model. The interface keeps both independent
+/// of the store.
 class ModelQueries
 {
 public:
     virtual ~ModelQueries() = default;
     virtual bool has(Content content) const = 0;
-    /// Spatial 0 to 9, plane 10 to 19, slab 20 to 29, axisymmetric 30 to 39.
+    /// Returns 0 to 9 for spatial, 10 to 19 for plane, 20 to 29 for slab and 30 to 39 for
+    /// axisymmetric systems.
     virtual int kindOfSystem() const = 0;
 };
 
-/// Asks another model each question once: a catalogue asks the same of it for each of its plots.
-/// For the time of one pass, because a change of the model does not show.
+/// Caches the answers of another model, because each plot of a catalogue makes the same queries.
+/// Use an object for a single pass only: later changes of the model have no effect on it.
 class RememberedAnswers : public ModelQueries
 {
 public:
-    /// `model` is not owned and outlives the object.
+    /// `model` is not owned and outlives this object.
     explicit RememberedAnswers(const ModelQueries& model)
         : m_model(model)
     {
@@ -59,19 +61,21 @@ private:
     mutable std::optional<int> m_kind;
 };
 
-/// The content that a tag of the catalogue names, in any case; nothing for a tag without condition.
+/// Returns the content for a tag of the catalogue, in upper or lower case; nothing for an unknown
+/// tag, which is no condition.
 std::optional<Content> contentOf(const QString& tag);
 
-/// Whether the model holds what the tag names. A tag that names nothing is always present.
+/// Returns whether the model contains the content of the tag; always true for an unknown tag.
 bool hasContent(const QString& tag, const ModelQueries& model);
 
-/// The bit of a record's `systemMask` that stands for this kind of system; 0 if no mask fits it, 15
-/// if every one does.
+/// Returns the bit of a record's `systemMask` for this kind of system: 0 if it matches no mask, 15
+/// if it matches any.
 int systemBit(int kind);
 
-/// Whether a tree of this kind of page offers the plot: its program, the kind of system, what the
-/// model or `additional` holds, and captions that are not empty. Tags in `additional` are compared
-/// with the record's in the very case they have, unlike the tags that the model answers.
+/// Returns whether a tree of this kind of page offers the plot. This depends on the kinds of page
+/// and of system, on the content of the model and the tags in `additional`, and on the captions,
+/// none of which may be empty. Tags in `additional` are compared case sensitively, unlike those
+/// that the model answers.
 bool isRecordOffered(const GraphicalOutputRecord& record, int progname, const ModelQueries& model,
                      const std::list<QString>& additional);
 

@@ -5,9 +5,9 @@
 namespace plib {
 
 namespace {
-constexpr int Grid = 16; // squares to a side
+constexpr int Grid = 16; // pixels of a bitmap on each side
 
-// A plate in its axes, with bands of iso areas.
+// A plate with coloured iso areas and its axes.
 const char* const Plot[] = {
     "16 15 7 1",        "  c None",         ". c #ffffff",      "# c #000000",
     "x c #808080",      "g c #00c000",      "c c #00c0c0",      "y c #ffe000",
@@ -48,9 +48,10 @@ QPixmap blocks(const QImage& bitmap, int side)
     return picture;
 }
 
-/// Pictures with the squares as blocks, for the usual sizes of screens, and in their own colours in
-/// a selection. This library has no icon engine: Qt's style keeps the icon that it painted last,
-/// and would call the engine when the library is no longer loaded.
+/// Returns an icon with the bitmap in the usual sizes, each pixel enlarged to a square block, and
+/// with unchanged colours in a selection. The icon consists of pixmaps and has no engine of this
+/// library: Qt's style caches the icon that it painted last, and would call the engine after the
+/// library is unloaded.
 QIcon bitmapIcon(const char* const xpm[])
 {
     const QImage bitmap(xpm);

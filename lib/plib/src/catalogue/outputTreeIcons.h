@@ -2,12 +2,12 @@
 
 #include <QIcon>
 
-/// The pictures of the output tree. Each call builds an icon; copies share it, so items take copies
-/// of one.
+/// The icons of the output tree. Each call creates a new icon, but copies share their data. So
+/// create one icon and copy it for all items.
 namespace plib {
 
 QIcon plotIcon();
-/// The letters LC, or LF in German.
+/// Shows the letters LC, or LF in German.
 QIcon rowIcon(bool english);
 QIcon closeIcon();
 

@@ -6,13 +6,13 @@ namespace plib {
 
 constexpr int NoSecondNumber = -1;
 
-/// The second load case that a row label such as "12+14: Wind" asks for: the number behind the
-/// first "+" before the first ":", or in the first five characters where there is no ":". -1 if
-/// there is none, or none that can be read.
+/// Returns the second load case of a row label such as "12+14: Wind": the number after the first
+/// "+" that precedes the first ":", or that is in the first five characters if there is no ":".
+/// Returns -1 if there is no such number or if it cannot be read.
 int secondNumber(const QString& label);
 
-/// The label of a row made from a load case: the number in up to six significant digits, a blank,
-/// and if there is a title a colon and the title.
+/// Returns the label of a load case: the number with up to six significant digits and a blank,
+/// followed by a colon and the title if there is one.
 QString rowLabel(double number, const QString& title);
 
 } // namespace plib

@@ -59,14 +59,14 @@ void ScriptLineWriter::writeView(int viewKind)
     if (m_context.lastView == view)
         return;
     m_context.lastView = view;
-    // Behind a plot with a view, one without writes the bare word with its blank: this ends the
-    // view.
+    // A plot without a view that follows one with a view writes the bare keyword and a blank, which
+    // resets the view.
     m_lines.push_back(m_context.viewWord + view);
 }
 
 void ScriptLineWriter::writeSplit(int number, QString text)
 {
-    constexpr qint64 CaseOffset = 1000000; // 64 bits: the sum of two large numbers must not turn
+    constexpr qint64 CaseOffset = 1000000; // 64 bits: the sum must not overflow
     text.replace(QLatin1String("$(LFNR)"), QString::number(CaseOffset + number));
     m_lines.push_back(text);
 }

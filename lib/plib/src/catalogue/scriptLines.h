@@ -10,7 +10,7 @@
 
 namespace plib {
 
-/// The keywords of one language, and what the lines written so far have set.
+/// The keywords of one language, and the view and load case set by the lines written so far.
 struct ScriptContext
 {
     int lastCase = -1;
@@ -26,23 +26,23 @@ struct ScriptContext
 
 ScriptContext scriptContext(bool english);
 
-/// Writes the lines of one run. The walk over the tree is collectScriptLines(); here are the rules
-/// for one checked plot or row.
+/// Writes the script lines of one run. collectScriptLines() walks the tree; this class has the
+/// rules for a single checked plot or row.
 class ScriptLineWriter
 {
 public:
     using KindOfSystem = std::function<int()>;
 
-    /// `kindOfSystem` is asked at most once, and only if a plot's view depends on it.
+    /// `kindOfSystem` is called at most once, and only if the view of a plot depends on it.
     ScriptLineWriter(std::vector<QString>& lines, bool english, int progname,
                      KindOfSystem kindOfSystem);
 
-    /// The script text of a record in the language of the run.
+    /// Returns the script text of a record in the language of the run.
     const QString& script(const GraphicalOutputRecord& record) const;
     void writeView(int viewKind);
-    /// Everything of a load case whose number is above 0. `label` gives its text, asked for only
-    /// where it counts, and `above` the record of the second caption (or null), whose script tells
-    /// the unit.
+    /// Writes all lines of a load case, whose number must be above 0. `label` returns its label and
+    /// is called only if needed. `above` returns the record of the second caption, or null; the
+    /// script of this record determines the unit.
     template <typename Label, typename Above>
     void writeCase(int number, const QString& text, Label label, Above above)
     {
@@ -73,7 +73,7 @@ private:
     ScriptContext m_context;
 };
 
-/// Walks the children of the item, each after its own children, and writes those that are checked.
+/// Writes the checked descendants of the item. Children are written before their parents.
 template <typename Node>
 void writeChildren(Node* parent, ScriptLineWriter& writer)
 {
@@ -90,9 +90,8 @@ void writeChildren(Node* parent, ScriptLineWriter& writer)
         if (item->number == 0)
             writer.writeText(text);
         else if (item->number > 0)
-            // A row's parent is its plot, and the test for the unit looks at the item above the
-            // plot, with the record that first came through it, not at the plot's own: this is
-            // meant.
+            // The parent of a row is its plot. On purpose, the unit is determined by the item above
+            // the plot, which has the record of its first plot, and not by the plot's own record.
             writer.writeCase(
                 item->number, text, [item] { return item->text(0); },
                 [parent] {
@@ -101,9 +100,9 @@ void writeChildren(Node* parent, ScriptLineWriter& writer)
     }
 }
 
-/// Empties `lines` and fills it with the script lines of the checked plots and rows below the root,
-/// with German or English keywords; returns their number. A tree whose first item is no output item
-/// has none.
+/// Replaces `lines` with the script lines of the checked plots and rows below the root, with German
+/// or English keywords, and returns their number. The result is empty if the first item of the tree
+/// is not an output item.
 template <typename Node>
 int collectScriptLines(Node* root, std::vector<QString>& lines, bool english, int progname,
                        ScriptLineWriter::KindOfSystem kindOfSystem)

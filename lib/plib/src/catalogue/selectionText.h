@@ -15,11 +15,11 @@
 
 namespace plib {
 
-/// The identifier of an item in the selection text: the identifiers of its captions down to its own
-/// level, trimmed. A row has that of its plot.
+/// Returns the identifier of an item in the selection text: the identifiers of its captions down to
+/// its own level, joined and trimmed. A row has the identifier of its plot.
 QString itemId(const GraphicalOutputRecord& record, int level);
 
-/// The choice of one item and what is below it, as lines of the selection text.
+/// Appends the choice of one item and its descendants as lines of the selection text.
 template <typename Node>
 void appendSelection(Node* node, QString& text)
 {
@@ -43,11 +43,11 @@ void appendSelection(Node* node, QString& text)
                     text += QString::number(row->number) + QLatin1Char(',');
         text += QLatin1Char('\n');
     } else if (state == Qt::PartiallyChecked) {
-        text += QLatin1String("ERROR CASE\n"); // a leaf cannot be in between
+        text += QLatin1String("ERROR CASE\n"); // a leaf is never partially checked
     } else if (count == 0 && item->number > 0) {
-        // Plots answer for their rows, so the walk does not come here. If it did, the number goes
-        // into the identifier and not into its own place, on purpose: readers of old files know
-        // that line.
+        // Never reached by a walk from the root, because plots write the choice of their rows. For
+        // readers of old files, the number replaces "%1" in the identifier and leaves "%2" in the
+        // line unchanged; this is meant.
         text += word + QString(id).replace(QLatin1String("%1"), QString::number(item->number)) +
                 QLatin1String(":%2\n");
     } else {
@@ -55,7 +55,7 @@ void appendSelection(Node* node, QString& text)
     }
 }
 
-/// The choice of the whole tree as text; begins with an empty line.
+/// Returns the choice of the whole tree as text. The text begins with an empty line.
 template <typename Node>
 QString selectionText(Node* root)
 {
@@ -65,15 +65,15 @@ QString selectionText(Node* root)
     return text;
 }
 
-/// Finds items by their identifier. Of several items with the same one, that which stands last in
-/// its level is found, a caption before what is below it; rows are not looked at.
+/// Finds items by identifier. If several items have the same one, the last item of a level is
+/// found, and a caption takes precedence over its descendants. Rows are not indexed.
 template <typename Node>
 class ItemIndex
 {
 public:
     explicit ItemIndex(Node* root) { add(root, 0); }
 
-    /// Null if no item has the identifier.
+    /// Returns null if no item has the identifier.
     Node* findItem(const QString& id) const { return m_items.value(id); }
 
 private:
@@ -94,26 +94,27 @@ private:
     QHash<QString, Node*> m_items;
 };
 
-/// What QStringRef::toInt() reads, 0 for what is no number; short runs of ASCII digits by
-/// themselves, which is what nearly all of a selection text is made of.
+/// Returns the same as QStringRef::toInt(), 0 for a text that is not a number. Short runs of ASCII
+/// digits are converted directly, because most of a selection text consists of them.
 int selectionNumber(const QStringRef& text);
 
-/// One line of a selection text that can be applied.
+/// One valid line of a selection text.
 struct SelectionLine
 {
     enum Kind { Check, Uncheck, Partial };
     Kind kind;
     QString id;
-    QVector<int> numbers; ///< of the rows to check, Partial only
+    QVector<int> numbers; ///< of the rows to check; only for Partial
 };
 
-/// The lines that say something; others are skipped. `isEmpty` tells that the text has no line at
-/// all, which leaves a tree as it is.
+/// Returns the valid lines and skips all others. `isEmpty` is set to whether the text has no lines
+/// at all; such a text leaves a tree unchanged.
 std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty);
 
-/// Sets the check states from a selection text; what it does not name becomes unchecked. The result
-/// is that of setting item after item with an automatic update in between, but each item is
-/// touched once: the last line that reaches an item, by itself or from above, holds.
+/// Sets the check states from a selection text and unchecks all items that it does not name. The
+/// result equals setting the items line by line with an automatic update after each, but each item
+/// is set only once: the last line that affects the item or one of its ancestors wins. This keeps
+/// the time linear in the number of items.
 template <typename Node>
 class SelectionApplier
 {
@@ -124,7 +125,8 @@ public:
     {
     }
 
-    /// `setLeaf(item, state)` sets an item without children to Checked or Unchecked.
+    /// Applies the lines. `setLeaf(item, state)` sets an item without children to Checked or
+    /// Unchecked.
     template <typename SetLeaf>
     void apply(const std::vector<SelectionLine>& lines, const SetLeaf& setLeaf)
     {
@@ -136,7 +138,7 @@ public:
     }
 
 private:
-    /// What a line orders for an item and all below it; a later order wins.
+    /// The state that a line requests for an item and its descendants. The latest order wins.
     struct Order
     {
         int time = 0;
@@ -145,10 +147,10 @@ private:
         Order orLater(Order other) const { return other.time > time ? other : *this; }
     };
 
-    /// The children of an item by number, and what lines order for them by their place.
+    /// The children of an item by number, and the orders for them by index.
     struct Children
     {
-        std::vector<std::pair<int, int>> places; // number and place, in rising order
+        std::vector<std::pair<int, int>> places; // number and index, ascending
         std::vector<Order> orders;
     };
 
@@ -160,7 +162,7 @@ private:
             return;
         Children& children = childrenOf(item);
         for (int number : line.numbers) {
-            // The last of those with this number, as a search from the back would find.
+            // The last child with this number, as a search from the end would find it.
             auto found = std::upper_bound(children.places.begin(), children.places.end(),
                                           std::make_pair(number, std::numeric_limits<int>::max()));
             if (found != children.places.begin() && (--found)->first == number)
@@ -192,7 +194,7 @@ private:
         if (!item)
             return;
         const int count = item->childCount();
-        if (item->level < RowLevel) // rows are never named by themselves
+        if (item->level < RowLevel) // lines never name rows by identifier
             order = order.orLater(m_orders.value(item));
         if (count == 0)
             return setLeaf(item, order.state);
@@ -200,7 +202,7 @@ private:
         const Order* orders = own == m_children.end() ? nullptr : own->second.orders.data();
         for (int i = 0; i < count; ++i)
             setStates(item->child(i), orders ? order.orLater(orders[i]) : order, setLeaf);
-        item->setCheckState(0, stateOfChildren(item)); // while the children are at hand
+        item->setCheckState(0, stateOfChildren(item)); // while the children are still in the cache
     }
 
     static constexpr int RowLevel = 3;
@@ -208,12 +210,12 @@ private:
     Node* m_root;
     ItemIndex<Node> m_index;
     QHash<Node*, Order> m_orders;
-    std::unordered_map<Node*, Children> m_children; // of items that a line names rows of
+    std::unordered_map<Node*, Children> m_children; // only of items with rows named in a line
     int m_time = 0;
 };
 
-/// Applies a selection text to the tree; a text without any line leaves it as it is. For `setLeaf`
-/// see SelectionApplier::apply().
+/// Applies a selection text to the tree. A text without lines leaves the tree unchanged. For
+/// `setLeaf`, see SelectionApplier::apply().
 template <typename Node, typename SetLeaf>
 void applySelection(Node* root, const QString& text, const SetLeaf& setLeaf)
 {

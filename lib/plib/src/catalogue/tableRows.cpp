@@ -8,7 +8,7 @@
 namespace plib {
 
 namespace {
-/// Also false for a NaN.
+/// Returns false for a NaN as well.
 bool fitsInteger(double value)
 {
     return value > double(std::numeric_limits<int>::min()) - 1 &&

@@ -8,16 +8,16 @@
 
 namespace plib {
 
-/// A load case in a row of a host's table.
+/// A load case from a row of a host's table.
 struct TableLoadCase
 {
     double number;
     QString title;
 };
 
-/// The rows for the output tree in rising order of number. The number is cut towards zero; of two
-/// load cases with the same one the later counts. One that does not fit 32 bits is left out,
-/// because cutting it would be undefined.
+/// Returns the rows for the output tree, sorted by number. Numbers are truncated towards zero; if
+/// two load cases have the same number, the later one wins. A number that does not fit into 32 bits
+/// is left out, because truncating it would be undefined behaviour.
 std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
 rowsOfTable(const std::vector<TableLoadCase>& loadCases);
 
