@@ -264,6 +264,8 @@ private Q_SLOTS:
         QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
         QCOMPARE(put(m_first, 1, 1, "first", 1), VKD_ZOB_OK);
         vkd_lib_setvalue(201, 120);
+        int length = 0;
+        vkd_zob_get(m_second, 1, 1, nullptr, &length, 0); // never released, and no reason to fail
         QElapsedTimer waited;
         waited.start();
         QCOMPARE(m_log->once(vkd_zob_lock_ex(m_second, 1, 2)), VKD_ZOB_LOCKED);
@@ -301,6 +303,18 @@ private Q_SLOTS:
         vkd_zob_free_ex(m_first, 1, 1);
         QCOMPARE(readAll(m_second), m_old);
         QCOMPARE(vkd_zob_close(std::exchange(m_second, -1)).code, VKD_ZOB_LOCKED);
+    }
+
+    void changesAppendAfterEachOther()
+    {
+        Records expected = m_old;
+        for (int index : {m_first, m_second, m_first}) {
+            ZobTransaction change(index);
+            QCOMPARE(put(index, 1, 1, "more", 1), VKD_ZOB_OK);
+            QVERIFY(change.commit().isOk());
+            expected << "more";
+        }
+        QCOMPARE(readAll(m_first), expected);
     }
 
     void rollback()

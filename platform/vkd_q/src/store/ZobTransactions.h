@@ -20,12 +20,12 @@ public:
     /// Both outlive the object.
     ZobTransactions(ZobConnection& connection, RecordTable& table);
 
-    /// A sequence that is read record by record holds the state until it ends, is released or
-    /// something is written.
+    /// A pass reads a sequence record by record and holds the state until the sequence ends, is
+    /// released or something is written.
     VkdStatus beginPass(KeyPair pair);
     void endPass(KeyPair pair);
     void endPasses();
-    /// A snapshot holds it until endSnapshot(), which is owed only to one that began.
+    /// A snapshot holds the state until endSnapshot(), to be called only if it could begin.
     VkdStatus beginSnapshot();
     void endSnapshot();
     /// Whether other programs are kept from storing.
@@ -33,9 +33,9 @@ public:
 
     VkdStatus take(KeyPair pair);
     void release(KeyPair pair);
-    /// A transaction is a part of the change like a taken pair; end() is owed to a refused one,
-    /// too. One that is not whole drops the change. The result of both is changeStatus(), or how
-    /// the change ended if it was the last part.
+    /// A transaction is a part of the change like a taken pair. A refused one has to end, too. One
+    /// that is not whole drops the change. end() answers changeStatus(), or how the change ended if
+    /// it was the last part.
     VkdStatus begin();
     VkdStatus end(bool isWhole);
     /// Whether what is put now is stored with the end of a change. False as well if the change
@@ -45,7 +45,6 @@ public:
     const VkdStatus& changeStatus() const { return m_changeStatus; }
     /// Lets the change fail, if there is one, and passes the code of the status on.
     cd_error_t spoilChange(const VkdStatus& status);
-    void dropChange();
     /// How the last change ended.
     const VkdStatus& endOfChange() const { return m_endOfChange; }
     /// Ends all of it, and drops what is not stored; gives the first failure of a change.
@@ -57,6 +56,7 @@ private:
     bool hasChange() const { return m_parts > 0 || !m_taken.empty(); }
     VkdStatus joinChange();
     VkdStatus beginChange();
+    void dropChange();
     void storeOrDrop();
     void rememberEnd(const VkdStatus& status);
 
