@@ -7,10 +7,10 @@
 
 #include <QElapsedTimer>
 
-/// A choice among the bars of a project. A bar value is the nominal diameter in millimetres, and
-/// -99999 stands for "not set", the first entry. A diameter that the project does not have gets an
-/// entry at its place in the order, so that it can be shown and comes back bit for bit. Only the
-/// user's choice sends signals.
+/// A combo box with the bars of a project. A bar value is the nominal diameter in millimetres;
+/// -99999 stands for "not set" and is the first entry. A diameter that the project lacks gets an
+/// entry of its own in the sorted list, so that the box can show it and return it bit for bit. Only
+/// a choice by the user emits signals.
 class VKD_A_EXPORT VKD_A_BarDiameterCombo : public VKD_QT4_ComboBox
 {
     Q_OBJECT
@@ -20,15 +20,15 @@ public:
 
     explicit VKD_A_BarDiameterCombo(QWidget* parent = nullptr, const char* name = nullptr);
 
-    /// Takes the bars of the project at this database index, as VKD_A_BarDiameterData::load(), and
-    /// keeps the present choice. False if the project is not open.
+    /// Loads the bars of the project at this database index with VKD_A_BarDiameterData::load() and
+    /// keeps the current choice. Returns false if the project is not open.
     bool load(int index);
-    /// Whether "not set" can be chosen; it can at first. Without it and without another choice the
-    /// first bar is the current one.
+    /// Sets whether the user can choose "not set"; the default is true. Without this entry the
+    /// first bar is current until another one is chosen.
     void setNotSetAllowed(bool isAllowed);
 
-    /// Makes this value the current one; any value is taken. False if it is not in the table and so
-    /// is shown by an entry of its own, the only one of its kind until the next call.
+    /// Makes this value the current one; any value is accepted. Returns false if the table lacks
+    /// it. Such a value gets the only extra entry, which the next call removes.
     bool setCurrent(float diameter);
     float getCurrent() const;
 
@@ -46,6 +46,6 @@ private:
     VKD_A_BarDiameterData m_bars;
     bool m_isNotSetAllowed = true;
     bool m_hasExtra = false;
-    QString m_typed; ///< digits, to find the bar that begins with them
+    QString m_typed; ///< the digits typed so far; they find a bar
     QElapsedTimer m_lastDigit;
 };

@@ -27,7 +27,7 @@ int nearest(const List& values, double wanted)
     return found;
 }
 
-/// Lengths in metres that nobody tells apart.
+/// Compares lengths in metres with a tolerance far below a millimetre.
 bool isSame(double a, double b)
 {
     return std::fabs(a - b) < 1e-6;
@@ -79,7 +79,8 @@ void BarAreaTable::showLayout(const VkdBarLayout& layout)
         return;
     const int row = nearest(m_diameters, layout.diameter);
     const int column = nearest(Spacings, layout.spacing);
-    // The keys go on from the nearest cell, but only one of this very layout looks chosen.
+    // The nearest cell becomes the current one, so that arrow keys start there. It is selected only
+    // if it is exactly this layout.
     const bool isThere =
         isSame(m_diameters[row], layout.diameter) && isSame(Spacings[column], layout.spacing);
     setCurrentCell(row, column,

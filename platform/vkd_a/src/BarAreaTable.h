@@ -6,8 +6,8 @@
 
 struct VkdBarLayout;
 
-/// The areas of all bars of a project at the usual spacings. The current cell is the one nearest to
-/// a given layout; a click or the arrow keys choose another.
+/// A table with the areas of all bars of a project at common spacings. The current cell is the one
+/// nearest to a given layout; the user chooses another with a click or the arrow keys.
 class BarAreaTable : public VKD_QT_TableWidget
 {
     Q_OBJECT
@@ -15,8 +15,8 @@ class BarAreaTable : public VKD_QT_TableWidget
 public:
     BarAreaTable(const QVector<float>& diameters, QWidget* parent, const char* name);
 
-    /// Shows the areas for this number of bars per place, and the cell nearest to the layout; none
-    /// for a layout that has no positive spacing.
+    /// Shows the areas for this number of bars per place and makes the nearest cell current. A
+    /// layout without a positive spacing clears the selection.
     void showLayout(const VkdBarLayout& layout);
 
 Q_SIGNALS:

@@ -37,7 +37,7 @@ QString lengthText(double millimetres)
     return vkd_h_getNumberString(millimetres, -1) + VKD_H_UnitLabel::dimString(BarCode, 0);
 }
 
-/// A field that may be zero, so that the dialog itself says what is wrong with that.
+/// Creates a field that accepts zero, so that the dialog itself explains why zero is wrong.
 VKD_H_LineEdit* makeField(QWidget* parent, int code, const QString& suffix, const char* name,
                           const QString& text)
 {
@@ -70,7 +70,7 @@ ReinforcementDialog::ReinforcementDialog(QWidget* parent, int index, float value
     layout->addWidget(m_buttons);
     begin(barDiameter);
     connectAll();
-    // Qt would open it smaller than its table on small screens.
+    // Qt limits a new window to two thirds of the screen, which would cut off the table.
     resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 
@@ -79,7 +79,7 @@ VKD_QT_GroupBox* ReinforcementDialog::makeInput(int index)
     auto box = new VKD_QT_GroupBox(tr("Bars"), this, "bars");
     m_diameter = new VKD_A_BarDiameterCombo(box, "diameter");
     m_diameter->setNotSetAllowed(false);
-    m_diameter->load(index); // without the project: the common bars
+    m_diameter->load(index); // falls back to the common bars
     m_arrangement = new VKD_QT4_ComboBox(box, "arrangement");
     m_arrangement->setAccessibleName(tr("Arrangement"));
     m_arrangement->addEntry(tr("Single bars"), 1);
@@ -131,7 +131,7 @@ void ReinforcementDialog::connectAll()
     connect(m_arrangement, indexChanged, this, &ReinforcementDialog::showNumber);
     connect(m_spacing, &VKD_H_LineEdit::valueChanged, this, &ReinforcementDialog::showNumber);
     connect(m_number, &VKD_H_LineEdit::valueChanged, this, &ReinforcementDialog::takeNumber);
-    // Refused text changes no value, but it must not pass by OK.
+    // A refused text does not change the value, but it must disable OK.
     for (VKD_H_LineEdit* field : {m_spacing, m_number})
         connect(field, &QLineEdit::textChanged, this, &ReinforcementDialog::showResult);
     connect(m_table, &BarAreaTable::chosen, this, &ReinforcementDialog::takeCell);

@@ -13,19 +13,19 @@ class VKD_QT_GroupBox;
 class VKD_QT_Label;
 class VKD_QT_Ok;
 
-/// The choice of bars and their spacing for the reinforcement of an area element, with the area
-/// that results and a table of usual ones. Spacing and number per metre are two forms of one input:
-/// a change of either rewrites the other.
+/// The dialog that calculates the reinforcement of an area element from bars and spacing, with a
+/// table of common layouts. The user enters either the spacing or the number per metre; the dialog
+/// updates the other field.
 class ReinforcementDialog : public VKD_QT_Dialog
 {
     Q_OBJECT
 
 public:
-    /// As vkd_a_ReinforcementCalculation().
+    /// Takes the arguments of vkd_a_ReinforcementCalculation().
     ReinforcementDialog(QWidget* parent, int index, float value, float barDiameter);
 
-    /// The area in cm²/m of the bars as they stand; the value that the dialog was opened with, if
-    /// they are still those that stood for it.
+    /// Returns the area of the current bars in cm²/m. While they are the initial ones, returns the
+    /// present value instead, since rounding must not change a value that the user left alone.
     float area() const;
 
 private:

@@ -49,7 +49,7 @@ void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
     VKD_QT4_ComboBox::changeEvent(event);
 }
 
-/// Digits find a diameter, although the texts begin with its sign.
+/// Digits find a diameter although the texts begin with its sign.
 void VKD_A_BarDiameterCombo::keyPressEvent(QKeyEvent* event)
 {
     const QString digit = event->text();

@@ -9,7 +9,7 @@
 #include <cmath>
 
 namespace {
-constexpr int BarKey1 = 15; // the project's own bars, one little-endian float each
+constexpr int BarKey1 = 15; // the project's own bars, one little-endian float per record
 constexpr int BarKey2 = 0;
 
 QVector<float> commonBars()

@@ -7,7 +7,7 @@
 void vkd_a_ReinforcementCalculation(QWidget* parent, int index, int, float& value,
                                     float barDiameter)
 {
-    // The parent may end while the dialog is open, and takes the dialog with it.
+    // The parent may be destroyed while the dialog is open and deletes the dialog then.
     const QPointer<ReinforcementDialog> dialog(
         new ReinforcementDialog(parent, index, value, barDiameter));
     if (dialog->exec() == QDialog::Accepted && dialog)
