@@ -18,27 +18,27 @@ class ScenePainter;
 } // namespace aniview
 } // namespace vkd
 
-/// The structural model of a project drawn as AnimatorView shows it, but without a widget: on
-/// white, with the triad of axes, whole in its middle and at a scale that is asked for. The model
-/// is read once.
+/// Paints the structural model of a project like AnimatorView, but without a widget: on white,
+/// centred, with the triad of axes and at a given scale. The model is read once, in the
+/// constructor.
 class VKD_ANIVIEW_EXPORT AnimatorPicture
 {
 public:
-    /// The project at this database index; below 1 there is none.
+    /// Reads the model of the project at this database index; below 1 the picture is empty.
     explicit AnimatorPicture(int index);
     ~AnimatorPicture();
 
     bool isEmpty() const;
-    /// How wide and high the box of the model is when looked at from the camera's direction,
-    /// metres.
+    /// Returns the width and height in metres of the model's bounding box, seen from the camera's
+    /// direction.
     QSizeF sizeSeen(const vkd::dbo::Camera& camera) const;
 
-    /// The pixels to a metre at which the model fills a picture of this size (pixels) when looked
-    /// at from the camera's direction.
+    /// Returns the scale in pixels per metre at which the model fills a picture of this size
+    /// (pixels), seen from the camera's direction.
     double fittingScale(const vkd::dbo::Camera& camera, const QSizeF& size) const;
-    /// Draws into the rectangle of this size at the painter's origin; what is larger is cut off.
-    /// Of the camera, direction and roll count. `scale` is in pixels to a metre, above 0. Pixels
-    /// are those of a screen of 96 dpi: a painter that is scaled draws lines and symbols so wide.
+    /// Paints into the rectangle of this size at the painter's origin and clips to it. Only the
+    /// direction and the roll of the camera are used. `scale` is in pixels per metre and must be
+    /// positive. Line widths and symbols are made for 96 dpi; a scaled painter scales them too.
     void paint(QPainter& painter, const QSizeF& size, const vkd::dbo::Camera& camera, double scale);
 
 private:

@@ -19,9 +19,10 @@ class ScenePainter;
 } // namespace aniview
 } // namespace vkd
 
-/// A preview of the structural model of a project, to be turned, moved and zoomed with the mouse or
-/// the keyboard, and to pick primary groups in. The model is read once and again on reload(). A
-/// disabled view ignores the user, looks as before and still obeys slotViewControl().
+/// A preview of the structural model of a project. The user turns, moves and zooms it with the
+/// mouse or the keyboard and can pick primary groups. The model is read in the constructor, by
+/// setProject() and by reload(). A disabled view ignores the user's input, but looks the same and
+/// still carries out slotViewControl().
 class VKD_ANIVIEW_EXPORT AnimatorView : public QWidget
 {
     Q_OBJECT
@@ -29,44 +30,49 @@ class VKD_ANIVIEW_EXPORT AnimatorView : public QWidget
 public:
     static constexpr int NoGroup = -1;
 
-    /// Shows the model of the project at this database index; below 1 there is none, and a sentence
-    /// stands in its place.
+    /// Shows the model of the project at this database index. Below 1 there is no project, and the
+    /// view shows a sentence instead.
     explicit AnimatorView(int index, QWidget* parent = nullptr, const char* name = "AnimatorView");
     ~AnimatorView() override;
 
-    /// Changes to another project, or to none, and reads its model; the camera stays. False if
-    /// `goOn` answered false, and the view shows what it showed before.
+    /// Switches to another project or to none, reads its model and keeps the camera. Returns false
+    /// if `goOn` returned false; the view does not change then.
     bool setProject(int index, const VkdGoOn& goOn = VkdGoOn());
-    /// Reads the model again; camera and picked groups stay.
+    /// Reloads the model and keeps the camera and the picked groups.
     void reload();
 
-    /// While picking, groups light up below the mouse, a click picks a group or drops it, and those
-    /// picked are drawn in the highlight colour and the others paler.
+    /// While picking is on, the group under the mouse is highlighted, and a click picks it or
+    /// removes it from the picked ones. Picked groups have the highlight colour, the others are
+    /// paler.
     bool isPicking() const;
     void setPicking(bool picking);
 
-    /// Whether groups light up below the mouse also when nobody picks; at first they do not.
+    /// Sets whether the group under the mouse is highlighted even while picking is off; the default
+    /// is false.
     void setHovering(bool hovering);
 
-    /// Ascending, each once; also those that the model lacks. Setting them emits no signal.
+    /// Returns the picked groups in ascending order without duplicates, including numbers that the
+    /// model lacks. The setter emits no signal.
     std::vector<int> pickedGroups() const;
     void setPickedGroups(const std::vector<int>& groups);
 
-    /// Lights up a group, picking or not, as for the current row of a list; or NoGroup.
+    /// Highlights a group, for example the current row of a list, or none (NoGroup). Works with
+    /// picking on and off.
     void setHighlightedGroup(int group);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
-    /// Carries out a command before it returns. The value belongs to the suite's interface; no
-    /// command uses it.
+    /// Carries out a command synchronously. The value belongs to the suite's interface; no command
+    /// uses it.
     void slotViewControl(AnimatorViewControl control, double value);
 
 Q_SIGNALS:
-    /// While picking or hovering, the group that came below the mouse, or NoGroup.
+    /// Emitted when the group under the mouse changes while picking or hovering is on; NoGroup
+    /// stands for none.
     void groupHovered(int group);
-    /// The user picked a group or dropped one.
+    /// Emitted after the user picked a group or removed one from the picked groups.
     void pickedGroupsChanged();
 
 protected:
@@ -89,11 +95,11 @@ private:
     bool isEmpty() const;
     QString emptyText() const;
     void setTexts();
-    /// Of an active window, because a disabled view is not to look so.
+    /// Returns a colour of an active window; a disabled view must not look disabled.
     QColor activeColour(QPalette::ColorRole role) const;
     void drawScene(QPainter& painter);
     void lookFrom(double x, double y, double z);
-    /// Repaints coarsely now and finely when nothing moved for a while.
+    /// Repaints without antialiasing now, and with it once the picture has rested for a while.
     void moved();
     void showMarks();
 
@@ -109,15 +115,15 @@ private:
     bool turnOrPanByKey(int key, bool pan);
 
     int m_index;
-    bool m_hovers = false; // also when nobody picks
+    bool m_hovers = false; // highlights even while picking is off
     std::unique_ptr<vkd::aniview::SceneView> m_scene;
     std::unique_ptr<vkd::aniview::ScenePainter> m_painter;
     std::unique_ptr<vkd::aniview::GroupMarks> m_marks;
     QTimer m_rest; // active while the picture moves
 
     Hand m_hand = Hand::Free;
-    Qt::MouseButton m_button = Qt::NoButton; // the one that began the drag
+    Qt::MouseButton m_button = Qt::NoButton; // started the drag
     QPoint m_pressed;
     QPoint m_last;
-    bool m_isClick = false; // pressed and not moved since
+    bool m_isClick = false; // the mouse has not moved since the press
 };

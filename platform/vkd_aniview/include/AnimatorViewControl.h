@@ -2,15 +2,15 @@
 
 #include <QMetaType>
 
-/// What a view of the model is told to do. The numbers are part of the suite's interface.
+/// Commands for a view of the model. The numbers are part of the suite's interface.
 enum AnimatorViewControl {
     AnimatorStandardView = 0, ///< the whole model from the direction of the standard camera
-    AnimatorShowAll = 1,      ///< the whole model from where it is looked at now
+    AnimatorShowAll = 1,      ///< the whole model from the current direction
     AnimatorNoChange = 2,
     AnimatorViewXY = 3,      ///< from above, X to the right and Y upwards
     AnimatorViewXZ = 4,      ///< against Y, X to the right and Z upwards
     AnimatorViewYZ = 5,      ///< against X, Y to the right and Z upwards
-    AnimatorStoreCamera = 6, ///< the current camera becomes that of the desktop
-    AnimatorTakeCamera = 7   ///< the camera of the desktop becomes the current one
+    AnimatorStoreCamera = 6, ///< saves the current camera as the desktop's camera
+    AnimatorTakeCamera = 7   ///< loads the desktop's camera
 };
 Q_DECLARE_METATYPE(AnimatorViewControl)

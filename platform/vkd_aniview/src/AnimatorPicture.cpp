@@ -14,7 +14,7 @@
 using namespace vkd::aniview;
 
 namespace {
-/// Paper is white whatever the desktop looks like.
+/// Paper is white even if the desktop is dark.
 QPalette paperPalette()
 {
     QPalette palette(Qt::white);
@@ -29,7 +29,7 @@ double lengthAlong(const Position& axis, const Position& lengths)
            std::abs(axis[2]) * lengths[2];
 }
 
-/// Small enough to stand in the margin of most pictures.
+/// Paints the triad small enough for the margin of most pictures.
 void drawAxes(QPainter& painter, const ViewAxes& axes, double height)
 {
     constexpr double Length = 18.0;
@@ -84,7 +84,8 @@ void AnimatorPicture::paint(QPainter& painter, const QSizeF& size, const Camera&
     painter.restore();
 }
 
-/// A camera with a zoom of its own has to be aimed, or it would look at the origin.
+/// Returns a camera that is aimed at the middle of the model; with a zoom other than 1 an unaimed
+/// camera would look at the origin.
 Camera AnimatorPicture::wholeModel(const Camera& camera) const
 {
     Camera direction;

@@ -21,7 +21,7 @@ namespace {
 constexpr double DegreesToPixel = 0.4;
 constexpr double DegreesToKey = 5.0;
 constexpr double PixelsToKey = 40.0;
-constexpr double ZoomToStep = 1.2; // a notch of the wheel or a key
+constexpr double ZoomToStep = 1.2; // for one notch of the wheel or one key press
 constexpr int RestMs = 200;
 } // namespace
 
@@ -145,7 +145,7 @@ void AnimatorView::changeEvent(QEvent* event)
 
 bool AnimatorView::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowBlocked) // the modal window takes the release
+    if (event->type() == QEvent::WindowBlocked) // the modal window receives the release event
         endDrag();
     return QWidget::event(event);
 }
@@ -173,7 +173,8 @@ void AnimatorView::leaveEvent(QEvent* event)
         hover(NoGroup);
 }
 
-/// While picking, the second click on a group undoes the first one and shows nothing else.
+/// While picking is on, the second click on a group undoes the first one and must not also show the
+/// whole model.
 void AnimatorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (isPicking() && m_scene->groupAt(event->localPos()) != NoGroup) {
@@ -221,7 +222,7 @@ void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
         return;
     const bool picks = m_isClick && isPicking() && m_hand == Hand::Turning;
     endDrag();
-    const QPointer<AnimatorView> view(this); // who is told of either may delete it
+    const QPointer<AnimatorView> view(this); // a slot connected to either signal may delete it
     hoverAt(event->localPos());
     if (picks && view)
         click(event->pos());
@@ -295,7 +296,7 @@ void AnimatorView::drawScene(QPainter& painter)
                      *m_marks);
     painter.setRenderHint(QPainter::Antialiasing);
     const double length = qBound(12.0, 0.06 * qMin(width(), height()), 26.0);
-    const double inset = length + 16.0; // has room for a name and the frame
+    const double inset = length + 16.0; // leaves room for a name and the frame
     QFont names = font();
     names.setPixelSize(qMin(QFontInfo(names).pixelSize(), qRound(0.75 * length)));
     painter.setFont(names);
@@ -336,7 +337,7 @@ void AnimatorView::endDrag()
     updateCursor();
 }
 
-/// Somebody else may have taken the release of the button that began the drag.
+/// Ends a drag whose release event went to another window.
 void AnimatorView::endLostDrag(const QMouseEvent& event)
 {
     const bool isUp = !(event.buttons() & m_button);

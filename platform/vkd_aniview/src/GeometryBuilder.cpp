@@ -12,11 +12,12 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-/// Farther away than anything that is built; beyond, squares of lengths lose their meaning.
+/// Coordinates beyond this limit in metres are no building; squares of such lengths would lose
+/// their precision.
 constexpr double Nowhere = 1e9;
-constexpr int MostPieces = 32; // of a line
+constexpr int MostPieces = 32; // per line
 constexpr size_t PiecesInAll = 10000;
-constexpr size_t PiecesToFace = 4; // and more for each face
+constexpr size_t PiecesToFace = 4; // extra pieces for each face
 
 bool isSomewhere(const Position& position)
 {
@@ -112,8 +113,9 @@ void GeometryBuilder::addLines(const QVector<dbo::LineElement>& elements, LineKi
     }
 }
 
-/// A line that passes many faces is partly in front of them and partly behind. Few faces are not
-/// worth many pieces: a single small one would make a frame of thousands of bars slow to draw.
+/// Splits long lines, because parts of a line that passes many faces are in front of them and parts
+/// are hidden. A model with few faces gets few pieces: one small face must not slow down the
+/// painting of a frame with thousands of bars.
 void GeometryBuilder::splitLines()
 {
     const std::vector<Line> lines = std::exchange(m_geometry.lines, {});
@@ -146,8 +148,8 @@ void GeometryBuilder::addSplit(const Line& line, int pieces)
     }
 }
 
-/// A spring to the ground stands below its node and is half as long as a face, so that a bedding
-/// shows at the edges of its plate.
+/// A spring to the ground is drawn below its node and is half as long as a face, so that a bedding
+/// is visible at the edges of its plate.
 void GeometryBuilder::addSprings()
 {
     const double length = m_cell > 0 ? 0.5 * m_cell : 0.5;
@@ -165,7 +167,8 @@ void GeometryBuilder::addSprings()
     }
 }
 
-/// Only at nodes of elements: others would make the box larger than what is seen.
+/// Adds supports at nodes of elements only; other nodes would make the box larger than the visible
+/// model.
 void GeometryBuilder::addSupports()
 {
     for (const dbo::Boundary& support : m_model.supports) {
@@ -191,7 +194,7 @@ double GeometryBuilder::lengthOf(int from, int to) const
     return std::sqrt(dot(way, way));
 }
 
-/// Replaces the numbers of the groups by their indexes.
+/// Replaces group numbers by indexes into the sorted list of groups.
 void GeometryBuilder::numberGroups()
 {
     std::vector<int>& groups = m_geometry.groups;

@@ -7,7 +7,8 @@
 namespace vkd {
 namespace aniview {
 
-/// Collects the elements of a model, in metres, for buildGeometry().
+/// Collects the elements of a model for buildGeometry(), in metres, and scales them to the model's
+/// unit at the end.
 class GeometryBuilder
 {
 public:
@@ -16,7 +17,7 @@ public:
     ModelGeometry build();
 
 private:
-    /// The index of the point at a node, or -1.
+    /// Returns the index of the point at a node, -1 if the node does not exist.
     int pointAt(int node);
     int addPoint(const Position& position);
     bool takePoints(const int* nodes, int count, int* points);

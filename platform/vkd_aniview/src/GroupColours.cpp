@@ -7,11 +7,11 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-// Apart in lightness as well as in hue, and neighbours in the list the most.
+// The colours differ in lightness as well as in hue; neighbours in the list differ most.
 constexpr QRgb Hues[] = {0xff56b4e9, 0xffe69f00, 0xff009e73, 0xffcc79a7, 0xfff0e442,
                          0xff0072b2, 0xffd55e00, 0xffa6a6a6, 0xffbb5566, 0xffaad26e};
 constexpr int HueCount = sizeof Hues / sizeof *Hues;
-constexpr double LeastContrast = 2.4; // of thin lines with the background
+constexpr double LeastContrast = 2.4; // between thin lines and the background
 
 QColor mixed(const QColor& a, const QColor& b, double partOfB)
 {
@@ -43,7 +43,7 @@ double palenessOf(GroupMark mark)
     return mark == GroupMark::Pale ? 0.75 : mark == GroupMark::Dimmed ? 0.6 : 0.0;
 }
 
-/// More groups than hues come back lighter or darker.
+/// Returns one of the hues, mixed with white or black once all hues are used.
 QColor colourOf(int groupIndex)
 {
     const QColor hue = QColor::fromRgb(Hues[groupIndex % HueCount]);
@@ -80,7 +80,7 @@ GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double m
         set.fills[size_t(shade)] = fill;
         set.meshes[size_t(shade)] = QPen(mesh, 0);
     }
-    // Round ends take three times as long as all else, and are seen on wide lines only.
+    // Round caps triple the painting time and are visible on wide lines only.
     const Qt::PenCapStyle ends = isLit ? Qt::RoundCap : Qt::SquareCap;
     set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.6 : 1.2, Qt::SolidLine, ends);
     set.line = mark == GroupMark::Pale ? mixed(colour, outline, 0.3) : readable(colour);
@@ -93,7 +93,7 @@ QColor GroupColours::markedColour(int groupIndex, GroupMark mark) const
     const QColor colour = colourOf(groupIndex);
     switch (mark) {
     case GroupMark::None:
-    case GroupMark::Lit: return colour; // another hue would be taken for another group
+    case GroupMark::Lit: return colour; // another hue would look like another group
     case GroupMark::Dimmed:
     case GroupMark::Pale: return mixed(colour, m_background, palenessOf(mark));
     case GroupMark::Picked: return m_highlight;
@@ -102,7 +102,7 @@ QColor GroupColours::markedColour(int groupIndex, GroupMark mark) const
     return colour;
 }
 
-/// The colour, as far darker or lighter as a thin line needs.
+/// Mixes the colour with the text colour until a thin line is readable.
 QColor GroupColours::readable(QColor colour) const
 {
     for (int i = 0; i < 10 && contrast(colour, m_background) < LeastContrast; ++i)

@@ -11,25 +11,25 @@
 namespace vkd {
 namespace aniview {
 
-/// The brushes and pens of the groups of a model: a colour each, in steps of light, changed by the
-/// mark of the group. The colours keep apart for colour-blind eyes; the rest follows the palette,
-/// always that of an active window, because a locked view is not to look disabled.
+/// The brushes and pens for the groups of a model: one colour for each group in steps of light,
+/// changed by the mark of the group. Colour-blind users can tell the colours apart. The other
+/// colours come from the palette of an active window, because a locked view must not look disabled.
 class GroupColours
 {
 public:
     static constexpr int Shades = 16;
 
-    /// What a group is drawn with.
+    /// The brushes and pens of one group.
     struct Set
     {
         std::array<QBrush, Shades> fills; ///< dark to light
         std::array<QPen, Shades> meshes;  ///< the outlines of elements
         QPen edge;                        ///< edges of plates, folds
-        QColor line;                      ///< line elements, and plates seen edge-on
-        double widening;                  ///< of line elements, pixels
+        QColor line;                      ///< line elements and plates seen edge-on
+        double widening;                  ///< added to line elements, pixels
     };
 
-    /// `meshStrength` from 0 to 1 is how much the outlines of elements stand out.
+    /// `meshStrength`, from 0 to 1, is the contrast of the outlines of elements.
     GroupColours(const QPalette& palette, const std::vector<int>& groups, const GroupMarks& marks,
                  double meshStrength);
 

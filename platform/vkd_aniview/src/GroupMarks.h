@@ -5,16 +5,17 @@
 namespace vkd {
 namespace aniview {
 
-/// Dimmed are those beside a lit one, pale are those that are not picked.
+/// The highlighting of a group. Dimmed groups are neither highlighted nor picked while another
+/// group is highlighted; pale groups are not picked while others are.
 enum class GroupMark { None, Dimmed, Pale, Lit, Picked, PickedLit };
 
-/// Which groups are picked and which one is lit up, by their numbers.
+/// The numbers of the picked, the hovered and the highlighted groups of a view.
 class GroupMarks
 {
 public:
     static constexpr int NoGroup = -1;
 
-    /// Each change answers whether there was one.
+    /// Each setter returns whether the value changed.
     bool setPicking(bool picking);
     bool setPicked(const std::vector<int>& groups);
     bool setHovered(int group);
@@ -23,11 +24,11 @@ public:
 
     bool isPicking() const { return m_isPicking; }
     int hovered() const { return m_hovered; }
-    const std::vector<int>& picked() const { return m_picked; } ///< ascending, each once
+    const std::vector<int>& picked() const { return m_picked; } ///< ascending, without duplicates
 
     bool isLit(int group) const;
-    /// How a group looks when one of those in the picture is lit, or none. Picked groups show while
-    /// picking only.
+    /// Returns the mark of a group. `isAnyLit` says whether any group of the picture is
+    /// highlighted. Picked groups are marked only while picking is on.
     GroupMark markOf(int group, bool isAnyLit) const;
 
 private:

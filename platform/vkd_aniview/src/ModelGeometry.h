@@ -18,7 +18,7 @@ struct Face
     int group = 0;
     float normal[3]{};        ///< unit vector, or null for a face without area
     float thickness = 0.0F;   ///< metres, 0 for a brick
-    unsigned strongEdges = 0; ///< a bit for each edge that bounds a plate or a fold
+    unsigned strongEdges = 0; ///< one bit for each edge that bounds a plate or a fold
 };
 
 /// A line element or a piece of a long one.
@@ -27,17 +27,17 @@ struct Line
     int points[2]{};
     int group = 0;
     LineKind kind = LineKind::Beam;
-    bool meetsFace = false; ///< ends at faces, but does not lie on their edges
+    bool meetsFace = false; ///< ends at a face, but is not an edge of one
 };
 
 struct Support
 {
     int point = 0;
-    int fixed = 0; ///< as dbo::Boundary
+    int fixed = 0; ///< the bits of dbo::Boundary
 };
 
-/// By what an item is sorted: a place, and how much it is nearer to the viewer than this place
-/// because it has to cover the faces that it lies on.
+/// The sort key of an item: a point, and the distance by which the item is drawn nearer to the
+/// viewer than this point, because it must cover the faces that it lies on.
 struct SortPlace
 {
     float x = 0.0F;
@@ -46,27 +46,28 @@ struct SortPlace
     float nearer = 0.0F;
 };
 
-/// What is drawn of a model, prepared once so that a picture needs no more than to project it.
-/// Coordinates and lengths are in units of `unit` from the centre of the box, which keeps them
-/// exact enough in single precision wherever the model stands. An item is a face, a line or a
-/// support, counted through in this order.
+/// The drawable form of a model, prepared once, so that a picture only has to project it.
+/// Coordinates and lengths are relative to the centre of the box and in multiples of `unit`, so
+/// that single precision suffices at any distance from the origin. Items are numbered through:
+/// first all faces, then the lines, then the supports.
 struct ModelGeometry
 {
     Box box;
     double unit = 1.0; ///< metres
     float cell = 0.0F; ///< the mean edge of the faces; 0 without faces
 
-    std::vector<float> x, y, z; ///< of the points
+    std::vector<float> x, y, z; ///< coordinates of the points
     std::vector<Face> faces;
     std::vector<Line> lines;
     std::vector<Support> supports;
-    std::vector<int> groups;           ///< the numbers of those that have elements, ascending
-    std::vector<SortPlace> sortPlaces; ///< of the items
+    std::vector<int> groups;           ///< numbers of groups with elements, ascending
+    std::vector<SortPlace> sortPlaces; ///< one for each item
 
     bool isEmpty() const { return faces.empty() && lines.empty(); }
 };
 
-/// Elements are left out that name a node that is not there or that stands nowhere.
+/// Builds the drawable form of a model. Skips elements with a node that does not exist or whose
+/// position is unusable.
 ModelGeometry buildGeometry(const dbo::Model& model);
 
 } // namespace aniview

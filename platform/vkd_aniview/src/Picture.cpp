@@ -44,7 +44,7 @@ void Picture::findDepths(const ModelGeometry& geometry, const Position& eye)
     }
 }
 
-/// A counting sort by depth: one pass, whatever the number of items.
+/// Sorts by depth with a counting sort, whose time is linear in the number of items.
 void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible)
 {
     m_order.clear();

@@ -7,15 +7,15 @@
 namespace vkd {
 namespace aniview {
 
-/// A geometry as one projection shows it: where its points are in the picture, and its items in the
-/// order in which to draw them. Keeps its memory from one picture to the next.
+/// The result of a projection: the positions of the points in the picture, and the items in
+/// painting order. update() reuses the memory of the previous picture.
 class Picture
 {
 public:
     void update(const ModelGeometry& geometry, const Projection& projection, const QRectF& visible);
 
     const QPointF& point(int index) const { return m_points[size_t(index)]; }
-    /// Back to front, without the items outside the visible part.
+    /// Returns the items from back to front, without those outside the visible part.
     const std::vector<int>& order() const { return m_order; }
 
 private:
@@ -26,8 +26,8 @@ private:
     bool isVisible(const ModelGeometry& geometry, int item, const QRectF& visible) const;
 
     std::vector<QPointF> m_points;
-    std::vector<float> m_depths;         // of the items, towards the viewer
-    std::vector<unsigned short> m_steps; // the depths, as steps from the farthest to the nearest
+    std::vector<float> m_depths;         // one for each item, growing towards the viewer
+    std::vector<unsigned short> m_steps; // depths in steps from the farthest to the nearest
     std::vector<int> m_places;
     std::vector<int> m_order;
 };

@@ -7,10 +7,10 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-constexpr double Margin = 28.0; // pixels; has room for the symbols of supports
+constexpr double Margin = 28.0; // pixels; leaves room for the symbols of supports
 constexpr double LeastZoom = 0.05;
 constexpr double MostZoom = 500.0;
-// What stored cameras have in effect; beyond, pixels from single precision would jump.
+// Stored cameras are limited to this range; outside it, single precision would make pixels jump.
 constexpr double LeastStoredZoom = 1e-3;
 constexpr double MostStoredZoom = 1e4;
 constexpr double FarthestCentre = 1e3; // times the size of the model

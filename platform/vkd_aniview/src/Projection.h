@@ -8,25 +8,26 @@
 namespace vkd {
 namespace aniview {
 
-/// The room that a model takes, metres.
+/// The bounding box of a model, metres.
 struct Box
 {
     Position centre{};
-    Position half{}; ///< half its lengths along x, y, z
+    Position half{}; ///< half the lengths along x, y, z
 };
 
-/// The parallel projection of a model into a picture, whose size and points are in logical pixels
-/// with y downwards. Cameras that would leave the range of pixels are held within it.
+/// The parallel projection of a model into a picture. Sizes and points of the picture are in
+/// logical pixels, y points down. Cameras that would leave the valid range of pixels are limited to
+/// it.
 class Projection
 {
 public:
     Projection(const Camera& camera, const Box& box, const QSizeF& size);
 
     const ViewAxes& axes() const { return m_axes; }
-    double scale() const { return m_scale; } ///< pixels to a metre
+    double scale() const { return m_scale; } ///< pixels per metre
     QPointF toScreen(const Position& position) const;
 
-    /// The pixels to a metre at zoom 1: the box fills the picture but for a margin.
+    /// Returns the pixels per metre at zoom 1, where the box fills the picture except for a margin.
     static double fittingScale(const ViewAxes& axes, const Box& box, const QSizeF& size);
 
 private:
@@ -36,18 +37,19 @@ private:
     QPointF m_middle;
 };
 
-/// The camera with the centre that it has in effect.
+/// Returns the camera with its effective centre: that of the box if the camera shows the whole
+/// model.
 Camera aimed(const Camera& camera, const Box& box);
 
-/// The camera after the picture was moved by so many pixels.
+/// Returns the camera after the picture was moved by so many pixels.
 Camera panned(const Camera& camera, const Box& box, const QSizeF& size, const QPointF& by);
 
-/// The camera with so many times its zoom, within limits; the point at this place of the picture
-/// stays there.
+/// Returns the camera with its zoom multiplied by a factor, within limits; the model point at this
+/// position of the picture stays there.
 Camera zoomed(const Camera& camera, const Box& box, const QSizeF& size, double factor,
               const QPointF& at);
 
-/// As turned(), and an aimed camera keeps its pixels to a metre.
+/// Turns like turned(); a camera that does not show the whole model keeps its pixels per metre.
 Camera turnedInPicture(const Camera& camera, const Box& box, const QSizeF& size, double right,
                        double down);
 

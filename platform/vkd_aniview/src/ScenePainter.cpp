@@ -14,9 +14,10 @@ namespace aniview {
 namespace {
 constexpr int MeshSteps = 8;
 constexpr double MostSymbol = 9.0; // pixels
-constexpr double EdgeOn = 0.02;    // the sine of the angle below which a plate shows its edge only
+constexpr double EdgeOn = 0.02;    // sine of the angle below which only the edge is drawn
 
-/// Line elements have no width in the model: one that suits their kind, within limits in pixels.
+/// Line elements have no width in the model. Each kind has a typical width in metres, limited to a
+/// range in pixels.
 struct LineLook
 {
     double metres;
@@ -31,13 +32,13 @@ double component(const Position& direction, const float* normal)
     return direction[0] * normal[0] + direction[1] * normal[1] + direction[2] * normal[2];
 }
 
-/// The mean edge of the faces in pixels.
+/// Returns the mean edge length of the faces in pixels.
 double cellPixels(const ModelGeometry& geometry, const Projection& projection)
 {
     return geometry.cell * geometry.unit * projection.scale();
 }
 
-/// The light comes over the left shoulder of the viewer.
+/// Returns the direction of the light, which comes over the viewer's left shoulder.
 Position lightOf(const ViewAxes& axes)
 {
     const Position sum = along(along(along({}, 0.8, axes.eye), 0.5, axes.up), -0.33, axes.right);
@@ -45,7 +46,7 @@ Position lightOf(const ViewAxes& axes)
 }
 } // namespace
 
-/// What one picture needs beside the colours.
+/// The state of painting one picture, except for the colours.
 struct ScenePainter::Frame
 {
     Frame(QPainter& p, const Picture& shown, const Projection& view, double cellPixels)
@@ -67,7 +68,7 @@ struct ScenePainter::Frame
     const Position light;
     const double symbolSize;
     std::array<double, LineKindCount> widths{};
-    // What the painter is set to, as setting it again takes time.
+    // The current pen and brush of the painter; setting them again would cost time.
     int group = -1;
     int shade = -1;
 };
@@ -97,7 +98,7 @@ void ScenePainter::paint(QPainter& painter, const QPalette& palette, const Model
     }
 }
 
-/// Elements of a few pixels would be all outline; so outlines fade as elements get small.
+/// Fades the outlines of small elements; elements of a few pixels would be nothing but outline.
 void ScenePainter::prepare(const QPalette& palette, const ModelGeometry& geometry,
                            const Projection& projection, const GroupMarks& marks)
 {
@@ -143,7 +144,7 @@ void ScenePainter::drawStrongEdges(Frame& frame, const Face& face, const QPointF
     frame.group = -1;
 }
 
-/// A plate that would be a hairline shows its thickness.
+/// Draws a plate that is seen edge-on with its thickness instead of as a hairline.
 void ScenePainter::drawEdgeOn(Frame& frame, const Face& face, const QPointF* corners) const
 {
     const double width = std::max(2.0, face.thickness * frame.projection.scale());
@@ -159,7 +160,7 @@ void ScenePainter::drawLine(Frame& frame, const Line& line) const
     const QPointF& to = frame.picture.point(line.points[1]);
     const GroupColours::Set& set = (*m_colours)[line.group];
     const bool isSpring = line.kind == LineKind::Spring || line.kind == LineKind::GroundSpring;
-    // A round end would show through the plate that a column stands below.
+    // The round cap of a column would show through the plate above it.
     const bool isFlat = isSpring || line.meetsFace;
     frame.painter.setPen(QPen(set.line, frame.widths[size_t(line.kind)] + set.widening,
                               Qt::SolidLine, isFlat ? Qt::FlatCap : Qt::RoundCap));

@@ -10,11 +10,12 @@ class QPainter;
 namespace vkd {
 namespace aniview {
 
-/// Draws a picture of a geometry. Keeps pens and brushes until the looks change.
+/// Draws a picture of a geometry. Caches pens and brushes until colours or marks change.
 class ScenePainter
 {
 public:
-    /// To be called when the palette, the geometry or the marks changed.
+    /// Drops the cached pens and brushes; call this after the palette, the geometry or the marks
+    /// changed.
     void forgetColours() { m_colours.reset(); }
 
     void paint(QPainter& painter, const QPalette& palette, const ModelGeometry& geometry,

@@ -9,7 +9,7 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-constexpr double SymbolRoom = 12.0; // symbols reach out of the points that they stand at
+constexpr double SymbolRoom = 12.0; // pixels by which symbols extend beyond their points
 }
 
 void SceneView::setGeometry(std::shared_ptr<const ModelGeometry> geometry)

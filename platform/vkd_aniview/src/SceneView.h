@@ -7,8 +7,7 @@
 namespace vkd {
 namespace aniview {
 
-/// A geometry, the camera that looks at it and the picture of the two, which follows their changes
-/// when it is asked for.
+/// A geometry, a camera and the resulting picture, which is updated when it is requested.
 class SceneView
 {
 public:
@@ -27,7 +26,7 @@ public:
     Projection projection() const;
     const Picture& picture();
 
-    /// The number of the group in front at a place of the picture, or GroupMarks::NoGroup.
+    /// Returns the number of the frontmost group at a point of the picture, or GroupMarks::NoGroup.
     int groupAt(const QPointF& place);
 
 private:

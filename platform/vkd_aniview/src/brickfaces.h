@@ -13,7 +13,7 @@ struct BrickFace
     int group = 0;
 };
 
-/// The faces that no two bricks share.
+/// Returns the faces that belong to one brick only.
 std::vector<BrickFace> outerFaces(const QVector<dbo::Brick>& bricks);
 
 } // namespace aniview

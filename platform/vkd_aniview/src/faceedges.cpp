@@ -10,8 +10,9 @@ namespace aniview {
 namespace {
 constexpr float FoldCosine = 0.87F; // 30 degrees
 
-// What covers the faces around it, in mean edges of faces: a support lies on the corners of faces,
-// whose middles may be 0.71 away. A line keeps less, so that a column does not pierce its slab.
+// Distances by which supports and lines are drawn nearer than the faces around them, in mean edges
+// of faces. A support lies on corners of faces, whose middles may be 0.71 away. Lines get less, so
+// that a column does not pierce its slab.
 constexpr float SupportNearer = 0.75F;
 constexpr float LineNearer = 0.3F;
 
@@ -51,8 +52,8 @@ Position between(const ModelGeometry& geometry, int from, int to)
             double(geometry.z[b]) - geometry.z[a]};
 }
 
-/// Of a quad from its diagonals, which also suits one that is not plane; of a triangle from two of
-/// its edges.
+/// Computes the normal of a quad from its diagonals, which also works for warped quads, and that of
+/// a triangle from two of its edges.
 void setNormal(const ModelGeometry& geometry, Face& face)
 {
     const int* points = face.points;
@@ -103,7 +104,8 @@ float distance(const SortPlace& a, const SortPlace& b)
     return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z);
 }
 
-/// A line that is an edge of faces comes as much nearer as their middles may be in any view.
+/// Moves a line that is an edge of faces nearer by the distance to the middles of these faces, so
+/// that it covers them in every view.
 void placeLine(ModelGeometry& geometry, const std::vector<EdgeUse>& edges,
                const std::vector<bool>& isOnFace, Line& line)
 {

@@ -5,8 +5,7 @@
 namespace vkd {
 namespace aniview {
 
-/// Fills in what follows from the points and the faces between them: normals, strong edges and the
-/// places to sort by.
+/// Computes the normals, the strong edges and the sort keys from the points, faces and lines.
 void completeFaces(ModelGeometry& geometry);
 
 } // namespace aniview

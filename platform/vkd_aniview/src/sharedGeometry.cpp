@@ -6,7 +6,7 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-/// The geometry that was built last and the mark of its model, which is never empty.
+/// The last geometry and the mark of its model; the mark is never empty.
 struct Known
 {
     QByteArray mark;
@@ -33,7 +33,7 @@ std::shared_ptr<const ModelGeometry> sharedGeometry(int index, const VkdGoOn& go
     if (!goesOn)
         return nullptr;
     auto geometry = std::make_shared<const ModelGeometry>(buildGeometry(model));
-    if (!mark.isEmpty()) // else it is that of a part of a model, or of none
+    if (!mark.isEmpty()) // an empty mark: no model or only part of one
         last = {mark, geometry};
     return geometry;
 }

@@ -9,9 +9,8 @@
 namespace vkd {
 namespace aniview {
 
-/// What is drawn of the model of the project at this database index, nothing if it is below 1. It
-/// is read and prepared once for all views that show the model read last. Null if `goOn`
-/// answered false.
+/// Returns the drawable model of the project at this database index; it is empty below 1. All views
+/// of the model that was read last share one geometry. Returns null if `goOn` returned false.
 std::shared_ptr<const ModelGeometry> sharedGeometry(int index, const VkdGoOn& goOn = VkdGoOn());
 
 } // namespace aniview

@@ -12,7 +12,7 @@ namespace aniview {
 namespace {
 constexpr int AllDisplacements = 7;
 constexpr int AnyRotation = 56;
-constexpr double Shortest = 0.12; // the part of an axis below which it counts as a point
+constexpr double Shortest = 0.12; // projected part of an axis below which it is drawn as a point
 
 Position axisOf(int index)
 {
@@ -31,7 +31,7 @@ double lengthOf(const QPointF& way)
     return std::hypot(way.x(), way.y());
 }
 
-/// With its tip at the node, opening against the direction in which it holds.
+/// Draws a triangle with its tip at the node; it opens against the held direction.
 void drawTriangle(QPainter& painter, const QPointF& tip, const QPointF& direction, double size)
 {
     const QPointF back = tip - direction * size;

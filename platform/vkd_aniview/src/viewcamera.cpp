@@ -9,10 +9,10 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-/// Short of a right angle, so that the direction still tells where the viewer came from.
+/// Degrees; below a right angle, so that the direction still has an azimuth.
 constexpr double Steepest = 89.9;
 
-/// Degrees; the azimuth counts from x to y.
+/// A direction in degrees; the azimuth counts from x to y.
 struct Direction
 {
     double azimuth;
@@ -21,7 +21,7 @@ struct Direction
 
 Direction directionOf(const Camera& camera)
 {
-    // Divided first: the lengths of very long or short directions leave the range of double.
+    // Divide first: the squares of very large or small components leave the range of double.
     const double* eye = camera.eye;
     const double largest = std::max({std::abs(eye[0]), std::abs(eye[1]), std::abs(eye[2])});
     const double x = eye[0] / largest;
@@ -33,7 +33,8 @@ Direction directionOf(const Camera& camera)
             qRadiansToDegrees(std::atan2(eye[2] / largest, level))};
 }
 
-/// Exact for multiples of a right angle, so that the fixed views hide what lies in a line.
+/// Returns exact values for multiples of a right angle, so that elements in one line cover each
+/// other in the fixed views.
 Position unitCircle(double degrees)
 {
     const double quarter = degrees / 90.0;

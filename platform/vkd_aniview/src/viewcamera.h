@@ -21,19 +21,19 @@ struct ViewAxes
     Position eye; ///< towards the viewer
 };
 
-/// Global z points upwards in the picture, and y where it is looked at along z; then the roll turns
-/// the picture counterclockwise.
+/// Returns the axes of the picture. Global z points up, or y if the camera looks along z; then the
+/// roll turns the picture counterclockwise.
 ViewAxes axesOf(const Camera& camera);
 
-/// The camera that shows the whole model from a direction.
+/// Returns the camera that shows the whole model from a direction.
 Camera lookingFrom(const Position& eye);
 
-/// Whether nobody has aimed this camera: it shows the whole model, wherever that is.
+/// Returns whether the camera has the default zoom and centre; such a camera shows the whole model.
 bool showsAll(const Camera& camera);
 
-/// The camera after its model was turned as if a hand drew the near side of it by so many degrees
-/// to the right and down in the picture: about the vertical axis, and about the horizontal one as
-/// far as straight above or below.
+/// Returns the camera after the model was turned as if the user dragged its near side by so many
+/// degrees to the right and down: about the vertical axis, and about the horizontal axis up to the
+/// views from straight above and below.
 Camera turned(const Camera& camera, double right, double down);
 
 } // namespace aniview
