@@ -174,6 +174,10 @@ private Q_SLOTS:
         dialog.show();
         QCOMPARE(dialog.focusWidget(), edit);
         dialog.tabWidget()->setCurrentIndex(2);
+        auto combo = new QComboBox(pages[2]);
+        combo->addItem(QStringLiteral("x"));
+        combo->show();
+        combo->showPopup(); // its list is a window, and no stop of the dialog's
         dialog.okRow()->cmdCancel()->click();
         dialog.show(); // the same page as before
         QCOMPARE(changed.size(), 2);

@@ -44,12 +44,14 @@ void VKD_QT_TabDialog::showEvent(QShowEvent* event)
     tellPage();
 }
 
-/// The pages are built behind the buttons, which Tab is to reach last.
+/// The pages are built behind the buttons, which Tab is to reach last. The lists of combo boxes are
+/// in the chain, too, and in windows of their own.
 void VKD_QT_TabDialog::chainButtons()
 {
     QWidget* last = m_tabs;
     for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
-        if ((widget->focusPolicy() & Qt::TabFocus) && !m_ok->isAncestorOf(widget))
+        if ((widget->focusPolicy() & Qt::TabFocus) && widget->window() == this &&
+            !m_ok->isAncestorOf(widget))
             last = widget;
     for (QWidget* button : {m_ok->cmdOk(), m_ok->cmdCancel()}) {
         setTabOrder(last, button);
