@@ -1,5 +1,6 @@
 #include "ProjectTest.h"
 
+#include <QDockWidget>
 #include <QTableView>
 #include <QTreeWidget>
 
@@ -36,6 +37,7 @@ private Q_SLOTS:
         QFETCH(const bool, isShown);
         MainWindow window({});
         window.setVisible(isShown);
+        find<QDockWidget>(window, "RecordDock")->setFloating(isShown); // before it has its pane
         const auto groupCount = [&window] {
             return find<QTreeWidget>(window, "GroupList")->topLevelItemCount();
         };

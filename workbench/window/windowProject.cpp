@@ -125,7 +125,8 @@ void MainWindow::showRecords()
     if (!m_records) {
         m_records = new RecordsPane(m_recordDock);
         m_recordDock->setWidget(m_records);
-        setTabOrder(m_view, m_records);
+        if (m_records->window() == this) // and not in a dock of its own
+            setTabOrder(m_view, m_records);
     }
     m_records->setProject(index());
 }
