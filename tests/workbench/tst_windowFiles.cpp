@@ -149,6 +149,37 @@ private Q_SLOTS:
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
+    void openProjectIsNotReplaced_data()
+    {
+        const Columns<QByteArray> row("action");
+        for (const char* action : {"SaveScriptAction", "ExportSheetsAction", "NewFromSample"})
+            row(action, action);
+    }
+
+    /// Another name is asked for, though the user agreed to replace the file.
+    void openProjectIsNotReplaced()
+    {
+        QFETCH(const QByteArray, action);
+        const auto window = open("mine.zob");
+        QStringList messages;
+        whenModal([&](QWidget* dialog) {
+            whenModal([&](QWidget* box) {
+                whenModal([&](QWidget* complaint) {
+                    messages << qobject_cast<QMessageBox*>(complaint)->text();
+                    whenModal([](QWidget* again) { again->close(); });
+                    press(complaint, QMessageBox::Ok);
+                });
+                press(box, QMessageBox::Yes);
+            });
+            enterFile(dialog, path("mine.zob"));
+        });
+        trigger(*window, action);
+        QCOMPARE(
+            messages.join(QLatin1Char('|')),
+            QStringLiteral("The project %1 is open.\nChoose another name.").arg(path("mine.zob")));
+        QCOMPARE(readFile(path("mine.zob")), m_building);
+    }
+
     void recent()
     {
         QStringList expected;

@@ -2,6 +2,15 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>chooseFileToSave</name>
+    <message>
+        <source>The project %1 is open.
+Choose another name.</source>
+        <translation>Das Projekt %1 ist geöffnet.
+Bitte einen anderen Namen wählen.</translation>
+    </message>
+</context>
+<context>
     <name>exportSheets</name>
     <message>
         <source>Writing the sheets ...</source>
@@ -395,12 +404,6 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
     <message>
         <source>Projects (*.zob)</source>
         <translation>Projekte (*.zob)</translation>
-    </message>
-    <message>
-        <source>The project %1 is open.
-Choose another name.</source>
-        <translation>Das Projekt %1 ist geöffnet.
-Bitte einen anderen Namen wählen.</translation>
     </message>
     <message>
         <source>The project cannot be made.

@@ -248,9 +248,10 @@ void MainWindow::saveScript()
 {
     const QString proposal = QDir(folder()).filePath(
         QFileInfo(m_document->path()).completeBaseName() + QLatin1String(".dat"));
-    const QString path = chooseFileToSave(
-        this, tr("Save Script"), proposal,
-        tr("Scripts (*.dat)") + QLatin1String(";;") + tr("All files (*)"), QStringLiteral("dat"));
+    const QString path =
+        chooseFileToSave(this, tr("Save Script"), proposal,
+                         tr("Scripts (*.dat)") + QLatin1String(";;") + tr("All files (*)"),
+                         QStringLiteral("dat"), m_document->path());
     if (path.isEmpty())
         return;
     QSaveFile file(path);

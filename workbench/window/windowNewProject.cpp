@@ -45,13 +45,10 @@ void MainWindow::newProject(const QString& model)
         return;
     const QString proposal =
         QDir(folder()).filePath(QFileInfo(model).completeBaseName() + QLatin1String(".zob"));
-    const QString path = chooseFileToSave(this, tr("New Project"), proposal, tr("Projects (*.zob)"),
-                                          QStringLiteral("zob"));
-    if (path.isEmpty())
-        return;
-    if (m_document && isSameFile(path, m_document->path()))
-        return complain(tr("The project %1 is open.\nChoose another name.").arg(path));
-    if (makeProject(path, model))
+    const QString path =
+        chooseFileToSave(this, tr("New Project"), proposal, tr("Projects (*.zob)"),
+                         QStringLiteral("zob"), m_document ? m_document->path() : QString());
+    if (!path.isEmpty() && makeProject(path, model))
         openProject(path);
 }
 

@@ -143,7 +143,7 @@ void MainWindow::paintEvent(QPaintEvent* event)
 void MainWindow::saveAs()
 {
     const QString path = chooseFileToSave(this, tr("Save Project As"), m_document->path(),
-                                          tr("Projects (*.zob)"), QStringLiteral("zob"));
+                                          tr("Projects (*.zob)"), QStringLiteral("zob"), QString());
     if (path.isEmpty())
         return;
     if (isSameFile(path, m_document->path())) {

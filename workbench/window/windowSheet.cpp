@@ -48,8 +48,9 @@ void MainWindow::exportSheet()
 {
     const QString proposal = QDir(folder()).filePath(
         QFileInfo(m_document->path()).completeBaseName() + QLatin1String(".pdf"));
-    const QString path = chooseFileToSave(this, tr("Export Sheets"), proposal,
-                                          tr("PDF files (*.pdf)"), QStringLiteral("pdf"));
+    const QString path =
+        chooseFileToSave(this, tr("Export Sheets"), proposal, tr("PDF files (*.pdf)"),
+                         QStringLiteral("pdf"), m_document->path());
     if (path.isEmpty())
         return;
     QString trouble;
