@@ -66,7 +66,7 @@ MainWindow::MainWindow(WindowServices services, QWidget* parent)
     m_script->setEnglish(settings.englishKeywords());
     m_actions->setRecentFiles(settings.recentFiles());
     m_actions->enable(false, false);
-    m_actions->setHasScript(false);
+    showNoScript();
     restoreGeometry(settings.value(GeometryKey).toByteArray());
     restoreState(settings.value(StateKey).toByteArray(), StateVersion);
 }
