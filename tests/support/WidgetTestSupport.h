@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QLineEdit>
 #include <QPointer>
 #include <QTimer>
 
@@ -39,6 +40,16 @@ Widget* find(const QWidget& window, const char* name)
     if (!found)
         qFatal("no %s", name);
     return found;
+}
+
+/// Names a file in a file dialog.
+inline void enterFile(QWidget* dialog, const QString& path)
+{
+    auto name = find<QLineEdit>(*dialog, "fileNameEdit");
+    QApplication::setActiveWindow(dialog);
+    name->setFocus(); // else what is selected in the list counts, and not the text
+    name->setText(path);
+    QTest::keyClick(name, Qt::Key_Return);
 }
 
 inline void trigger(const QWidget& window, const char* action)

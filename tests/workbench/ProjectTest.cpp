@@ -4,7 +4,6 @@
 #include <vkd_zob.h>
 
 #include <QDir>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -35,10 +34,13 @@ QString makeProject(const QString& path, const QString& model)
 
 static QVector<workbench::PlotTitles> plotTitles(int language)
 {
+    static QMap<int, QVector<workbench::PlotTitles>> known;
+    QVector<workbench::PlotTitles>& titles = known[language];
+    if (!titles.isEmpty())
+        return titles;
     const QString name = language == 0 ? QStringLiteral("german") : QStringLiteral("english");
     const QByteArray lines =
         commandLine({QStringLiteral("catalogue"), QStringLiteral("--language"), name});
-    QVector<workbench::PlotTitles> titles;
     for (const QString& line : QString::fromUtf8(lines).split(QLatin1Char('\n')))
         if (const QStringList columns = line.split(QLatin1Char('\t')); columns.size() > 5)
             titles.append({columns[3], columns[4], columns[5]});
@@ -72,15 +74,6 @@ void readMessage(QStringList& texts)
         press(box, QMessageBox::Ok);
         QVERIFY(isPlain); // names of files may look like tags
     });
-}
-
-void enterFile(QWidget* dialog, const QString& path)
-{
-    auto name = find<QLineEdit>(*dialog, "fileNameEdit");
-    QApplication::setActiveWindow(dialog);
-    name->setFocus(); // else what is selected in the list counts, and not the text
-    name->setText(path);
-    QTest::keyClick(name, Qt::Key_Return);
 }
 
 void answerFileDialog(const QString& path)

@@ -13,6 +13,7 @@
 /// What tests of the workbench's window have in common.
 namespace windowtest {
 
+using testsupport::enterFile;
 using testsupport::find;
 using testsupport::readFile;
 using testsupport::trigger;
@@ -29,8 +30,6 @@ QString script(const QWidget& window);
 void press(QWidget* box, QMessageBox::StandardButton button);
 /// Presses OK in the message that comes next; its text is added to the list.
 void readMessage(QStringList& texts);
-/// Names a file in a file dialog.
-void enterFile(QWidget* dialog, const QString& path);
 /// Names a file in the file dialog that opens next.
 void answerFileDialog(const QString& path);
 /// Opens the output dialog and takes a plot back.

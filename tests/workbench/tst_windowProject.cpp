@@ -279,34 +279,6 @@ private Q_SLOTS:
         find<QPushButton>(*window, "PickDone")->click();
         QCOMPARE(picked, QStringLiteral("6"));
     }
-
-    void leaving_data()
-    {
-        const Columns<QMessageBox::StandardButton, bool, bool> row("answer", "isClosed",
-                                                                   "isStored");
-        row("save", QMessageBox::Save, true, true);
-        row("discard", QMessageBox::Discard, true, false);
-        row("cancel", QMessageBox::Cancel, false, false);
-        row("escape", QMessageBox::NoButton, false, false);
-    }
-
-    void leaving()
-    {
-        QFETCH(const QMessageBox::StandardButton, answer);
-        QFETCH(const bool, isClosed);
-        const auto window = open("leaving.zob");
-        changeChoice(*window);
-        const QString chosen = script(*window);
-        whenModal([answer](QWidget* box) {
-            answer ? press(box, answer) : QTest::keyClick(box, Qt::Key_Escape);
-        });
-        QCOMPARE(window->close(), isClosed);
-        QCOMPARE(window->isVisible(), !isClosed);
-        MainWindow other(services());
-        QVERIFY(other.openProject(path("leaving.zob")));
-        QTRY_VERIFY(!script(other).isEmpty());
-        QTEST(script(other) == chosen, "isStored");
-    }
 };
 
 PLIB_WIDGET_TEST_MAIN(tst_windowProject)

@@ -1,0 +1,219 @@
+#include "Monkey.h"
+#include "ProjectTest.h"
+
+#include <OutputDialog.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QMenu>
+#include <QSet>
+
+using namespace windowtest;
+using namespace workbench;
+using testsupport::Monkey;
+
+namespace {
+constexpr int Steps = 1500;
+
+/// How dialogs ended since begin().
+class Watch : public QObject
+{
+public:
+    Watch() { qApp->installEventFilter(this); }
+
+    void begin() { wasAsked = wasKept = wasSaved = wasSavedAs = wasStored = false; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto dialog = qobject_cast<QDialog*>(watched);
+        if (event->type() == QEvent::Show && dialog)
+            connect(dialog, &QDialog::finished, this, &Watch::note, Qt::UniqueConnection);
+        return false;
+    }
+
+    void note(int result)
+    {
+        const auto box = qobject_cast<QMessageBox*>(sender());
+        const auto files = qobject_cast<QFileDialog*>(sender());
+        const bool isQuestion = box && box->button(QMessageBox::Discard);
+        wasAsked = wasAsked || isQuestion;
+        wasSaved = wasSaved || (isQuestion && result == QMessageBox::Save);
+        wasKept = wasKept || (isQuestion && result == QMessageBox::Cancel);
+        const bool isSavedAs = files && result == QDialog::Accepted &&
+                               files->windowTitle() == MainWindow::tr("Save Project As");
+        const bool isDone = !box && !files && result == QDialog::Accepted;
+        wasSavedAs = wasSavedAs || isSavedAs;
+        wasStored = wasStored || wasSaved || isSavedAs || isDone;
+    }
+
+    bool wasAsked = false;   ///< whether to store
+    bool wasKept = false;    ///< open, by Cancel
+    bool wasSaved = false;   ///< by Save
+    bool wasSavedAs = false; ///< under a name that was given
+    bool wasStored = false;  ///< by OK or Save
+};
+
+/// The windows in which the user can work, in an order that is the same in each run.
+QWidgetList windows()
+{
+    QWidgetList found;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible())
+            found << widget;
+    const auto name = [](const QWidget* widget) {
+        return qMakePair(widget->objectName(), widget->windowTitle());
+    };
+    std::sort(found.begin(), found.end(),
+              [name](const QWidget* a, const QWidget* b) { return name(a) < name(b); });
+    return found;
+}
+
+/// Dialogs and menus that are there more than once: one was left behind.
+QStringList doubles()
+{
+    QSet<QString> known;
+    QStringList found;
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        const auto menu = qobject_cast<const QMenu*>(widget);
+        const QString name =
+            QStringLiteral("%1 %2 \"%3\" of %4")
+                .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(),
+                     menu ? menu->title() : widget->windowTitle())
+                .arg(quintptr(widget->parent()));
+        if (known.contains(name))
+            found << name;
+        known << name;
+    }
+    return found;
+}
+} // namespace
+
+/// The whole program in the hands of somebody who does anything anywhere.
+class tst_windowMonkey : public ProjectTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void work_data() { Monkey::addRounds(Steps); }
+
+    void work()
+    {
+        QFETCH(const int, seed);
+        qApp->setQuitOnLastWindowClosed(false);
+        Monkey monkey(seed, makeFiles());
+        testsupport::setLanguage(monkey.below(2));
+        while (monkey.steps() < Monkey::StepsInARound) {
+            {
+                MainWindow window(services());
+                window.show();
+                if (monkey.below(4))
+                    window.openProject(path("mine.zob"));
+                while (window.isVisible() && m_faults.isEmpty() &&
+                       monkey.steps() < Monkey::StepsInARound)
+                    workOn(window, monkey);
+                QVERIFY2(m_faults.isEmpty(), m_faults + Monkey::story());
+            }
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY2(QApplication::topLevelWidgets().isEmpty(), Monkey::story());
+        }
+    }
+
+private:
+    /// Those that are entered into file dialogs and dropped.
+    QStringList makeFiles()
+    {
+        m_faults.clear();
+        VKD_H_ZOBDoc::create(path("empty.zob"));
+        writeFile(path("noise.zob"), "noise");
+        writeFile(path("noise.json"), "{\"nodes\": 1");
+        QFile::copy(QStringLiteral(MODELS "/slab.json"), path("slab.json"));
+        QFile::setPermissions(copy("protected.zob"), QFile::ReadOwner);
+        return {copy("mine.zob"), copy("theirs.zob"), path("empty.zob"),   path("noise.zob"),
+                path("new.zob"),  path("slab.json"),  path("noise.json"),  path("protected.zob"),
+                path("new.dat"),  path("new.pdf"),    path("missing.zob"), path("no/folder.zob"),
+                m_folder->path()};
+    }
+
+    QString projectOf(const MainWindow& window) const
+    {
+        const QString title = window.windowTitle();
+        return title.contains(QLatin1String("[*]"))
+                   ? m_folder->filePath(title.section(QLatin1String("[*]"), 0, 0))
+                   : QString();
+    }
+
+    void workOn(MainWindow& window, Monkey& monkey)
+    {
+        const QString project = projectOf(window);
+        const QByteArray stored = project.isEmpty() ? QByteArray() : readFile(project);
+        const bool isModified = window.isWindowModified();
+        const bool isPicking = find<QWidget>(window, "PickBanner")->isVisible();
+        m_watch.begin();
+        const QWidgetList all = windows();
+        QWidget* place = monkey.below(3) ? &window : all[monkey.below(all.size())];
+        if (monkey.below(60) == 0)
+            monkey.close(place);
+        else
+            monkey.step(place);
+        const bool isLeft = !window.isVisible() || projectOf(window) != project;
+        if (isModified && isLeft && !m_watch.wasAsked && !m_watch.wasSavedAs)
+            m_faults += "\nleft without a question";
+        if (isLeft && m_watch.wasKept)
+            m_faults += "\nleft in spite of Cancel";
+        const bool isStored = !project.isEmpty() && readFile(project) != stored;
+        if (isStored && !m_watch.wasStored && !isPicking)
+            m_faults += "\nstored without OK";
+        if (isLeft && m_watch.wasSaved && !isStored)
+            m_faults += "\nleft by Save and not stored";
+        if (QApplication::overrideCursor())
+            m_faults += "\nthe wait cursor stays";
+        if (monkey.below(40) == 0 && window.isVisible())
+            lookAtAll(window);
+    }
+
+    void lookAtAll(MainWindow& window)
+    {
+        QTest::qWait(1);
+        if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+            return;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (const QString& name : doubles())
+            m_faults += "\nleft behind: " + name.toUtf8();
+        const auto output = window.findChild<OutputDialog*>();
+        if (!output || !find<QWidget>(window, "ScriptText")->isEnabled())
+            return;
+        const QStringList shown = script(window).split(QLatin1Char('\n'));
+        const QStringList expected =
+            scriptOf(projectOf(window), output->state(), window).split(QLatin1Char('\n'));
+        for (int line = 0; line < qMax(shown.size(), expected.size()); ++line)
+            if (shown.value(line) != expected.value(line))
+                m_faults += "\nscript: " + shown.value(line).toUtf8() +
+                            "\nby the command line: " + expected.value(line).toUtf8();
+    }
+
+    /// By the command line, from a copy of the project that keeps this state.
+    QString scriptOf(const QString& project, const OutputState& state, const QWidget& window) const
+    {
+        const QString copied = path("copied.zob");
+        writeFile(copied, readFile(project));
+        const auto document = VKD_H_ZOBDoc::open(copied);
+        if (!document || state.write(document->index()) != VKD_ZOB_OK)
+            return QStringLiteral("not stored");
+        const auto name = [](int language) {
+            return language == testsupport::English ? QStringLiteral("english")
+                                                    : QStringLiteral("german");
+        };
+        return QString::fromUtf8(commandLine(
+            {QStringLiteral("script"), copied, QStringLiteral("--keywords"),
+             name(find<QComboBox>(window, "KeywordLanguage")->currentIndex()),
+             QStringLiteral("--language"), name(vkd_lib_getvalue(VKD_SETTING_LANGUAGE))}));
+    }
+
+    Watch m_watch;
+    QByteArray m_faults;
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_windowMonkey)
+#include "tst_windowMonkey.moc"
