@@ -8,7 +8,7 @@
 namespace vkd {
 namespace dbo {
 
-/// How many elements of each sort a group holds.
+/// The number of elements of each type in a group.
 struct GroupContents
 {
     int quads = 0;
@@ -19,14 +19,14 @@ struct GroupContents
     int bricks = 0;
 };
 
-/// Whether the design of area elements finds something to work on in such a group.
+/// Returns whether the group contains area elements that can be designed.
 inline bool hasAreas(const GroupContents& contents)
 {
     return contents.quads > 0;
 }
 
-/// A primary group, or a secondary one, which has a name in place of a number and holds quads and
-/// beams only.
+/// A primary or a secondary group. A secondary group has a name instead of a number and contains
+/// only quads and beams.
 struct GroupSummary
 {
     int number = 0; ///< 0 for a secondary group
@@ -35,9 +35,9 @@ struct GroupSummary
     GroupContents contents;
 };
 
-/// The groups of the project at this database index in the order of the model. The elements are
-/// read once; those of a group that the model does not list count for nothing. Empty for a project
-/// without a model.
+/// Returns the groups of the project at this database index in the order of the model; empty if the
+/// project has no model. The elements are read once. Elements of a group that the model does not
+/// list are not counted.
 VKD_DBO_EXPORT QVector<GroupSummary> readGroups(int index);
 VKD_DBO_EXPORT QVector<GroupSummary> readSecondaryGroups(int index);
 

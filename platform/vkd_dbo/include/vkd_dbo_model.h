@@ -24,8 +24,8 @@ struct Node
     Position position{};
 };
 
-/// The directions in which a node is held: the bits 1, 2, 4 for x, y, z and 8, 16, 32 for the
-/// rotations about them.
+/// The held directions of a node: the bits 1, 2, 4 for x, y, z and 8, 16, 32 for the rotations
+/// about them.
 struct Boundary
 {
     int node = 0;
@@ -44,8 +44,8 @@ struct Group
     QString title;
 };
 
-/// A named set of elements across the primary groups; the name has one to four letters
-/// and digits of ASCII and is no number.
+/// A named set of elements from any primary groups. The name has one to four ASCII letters and
+/// digits, at least one of them a letter.
 struct SecondaryGroup
 {
     QString name;
@@ -93,7 +93,7 @@ struct Point
     Position position{};
 };
 
-/// A structural line or area by the numbers of its points.
+/// A structural line or area, given by the numbers of its points.
 struct Outline
 {
     int number = 0;
@@ -122,16 +122,16 @@ struct SystemInformation
     int kindOfSystem = 0; ///< see getKindOfSystem()
 };
 
-/// Design parameters of some groups, by the names of their fields; only a model file has them, a
-/// project keeps records.
+/// Design parameters of some groups by field name. They occur in model files only; a project stores
+/// design records instead.
 struct DesignValues
 {
-    QStringList groups; ///< numbers, and names of secondary groups
+    QStringList groups; ///< group numbers or names of secondary groups
     QMap<QString, double> values;
 };
 
-/// A structural model. Plain data: the reader of model files sees to it that every number that one
-/// thing names belongs to another one.
+/// A structural model as plain data. The reader of model files checks all references: every number
+/// that an item refers to exists.
 struct Model
 {
     SystemInformation system;
@@ -158,28 +158,27 @@ struct Model
     QVector<DesignValues> designParameters; ///< not stored with the model
 };
 
-/// Reads a model file (JSON, described in share/models/README.md). Titles are taken in the given
-/// language, 0 German or 1 English. If the file cannot be read or says something impossible, false
-/// comes back and `error` is one line that names the place, or empty if `goOn` answered false.
+/// Reads a model file (JSON, described in share/models/README.md), with titles in the given
+/// language (0 German, 1 English). If the file cannot be read or is invalid, returns false and sets
+/// `error` to one line with the position in the file. `error` is empty if `goOn` returned false.
 VKD_DBO_EXPORT bool readModelFile(const QString& path, int language, Model* model, QString* error,
                                   const VkdGoOn& goOn = VkdGoOn());
 
-/// Stores the model in the project at this database index, in place of the one it held; either all
-/// of it or nothing. The code of the result is a VkdZobStatus, VKD_ZOB_CANCELLED if `goOn` answered
-/// false.
+/// Replaces the model of the project at this database index, completely or not at all. The status
+/// code is a VkdZobStatus; it is VKD_ZOB_CANCELLED if `goOn` returned false.
 VKD_DBO_EXPORT VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
 
-/// The model of the project, from one state of it; empty where the project holds none. If `goOn`
-/// answered false or the store failed, it is that part of the model that was read until then.
-/// `mark` becomes that of the model, see modelMark(), or empty if not all of the model was read.
+/// Reads the model of the project in one snapshot; empty if the project has no model. If `goOn`
+/// returned false or the store failed, returns the part that was read until then. Sets `mark` to
+/// the mark of the model, see modelMark(), or to an empty one if the model was not read completely.
 VKD_DBO_EXPORT Model readModel(int index, const VkdGoOn& goOn = VkdGoOn(),
                                QByteArray* mark = nullptr);
 
-/// Some bytes that differ between any two models that were ever stored, and go with a copy of the
-/// project; empty where the project holds no model, or where it could not be read.
+/// Returns bytes that identify the stored model: they differ between any two stores of a model and
+/// are the same in a copy of the project. Empty if the project has no model or cannot be read.
 VKD_DBO_EXPORT QByteArray modelMark(int index);
 
-/// The load cases alone, for those who need no more.
+/// Reads only the load cases of the model.
 VKD_DBO_EXPORT QVector<LoadCase> readLoadCases(int index);
 
 } // namespace dbo

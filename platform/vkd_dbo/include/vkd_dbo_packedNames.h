@@ -7,14 +7,14 @@
 namespace vkd {
 namespace dbo {
 
-constexpr int FirstPackedName = 1000000; ///< what is below is the number of a primary group
+constexpr int FirstPackedName = 1000000; ///< smaller numbers are primary groups
 
-/// A list of group numbers holds a secondary group as its name, packed into a number: the first
-/// character in the lowest byte, blanks behind. Names have one to four characters of ASCII, and
-/// their numbers lie above FirstPackedName.
+/// Packs the name of a secondary group into a number, which represents the group in lists of group
+/// numbers. The first character is the lowest byte, and blanks pad the name to four bytes. Names
+/// have one to four ASCII characters; their numbers are above FirstPackedName.
 VKD_DBO_EXPORT int packedName(const QString& name);
 
-/// The name in a packed number, character by character, whatever they are.
+/// Returns the name in a packed number. Any characters are accepted.
 VKD_DBO_EXPORT QString unpackedName(int packed);
 
 } // namespace dbo

@@ -5,17 +5,17 @@
 namespace vkd {
 namespace dbo {
 
-/// More about the kind of system than its number; no query of this library fills it.
+/// Further details about the kind of system. No query of this library fills it.
 struct structKindSystem;
 
-/// The kind of the structural system that the project at this database index holds: 0 to 9 spatial,
-/// 10 to 19 plane frame or wall, 20 to 29 slab, 30 to 39 axisymmetric. A project without a model
-/// gives 0. The second argument is to be null.
+/// Returns the kind of the structural system of the project at this database index: 0 to 9 spatial,
+/// 10 to 19 plane frame or wall, 20 to 29 slab, 30 to 39 axisymmetric. Returns 0 for a project
+/// without a model. `details` must be null.
 VKD_DBO_EXPORT int getKindOfSystem(int index, structKindSystem* details);
 
-/// Whether the model of the project at this database index holds at least one thing of the sort.
-/// The second argument is to be null. A project without a model, or an index that is not open,
-/// gives false.
+/// Each query returns whether the model of the project at this database index contains at least one
+/// item of the type. Returns false for a project without a model or if the index is not open.
+/// `unused` must be null.
 VKD_DBO_EXPORT bool hasNodes(int index, int* unused);
 VKD_DBO_EXPORT bool hasQuads(int index, int* unused);
 VKD_DBO_EXPORT bool hasBoundaries(int index, int* unused);

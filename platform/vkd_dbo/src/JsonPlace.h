@@ -9,19 +9,19 @@
 namespace vkd {
 namespace dbo {
 
-/// What is wrong with a model file and where, or nothing if the caller wants no more; thrown inside
-/// of the reader only.
+/// An error in a model file with its position, or an empty text if the caller cancelled. Thrown
+/// within the reader only.
 struct ModelFileError
 {
-    Q_DECLARE_TR_FUNCTIONS(vkd::dbo::ModelFileError) // the German texts are those of vkd_qt
+    Q_DECLARE_TR_FUNCTIONS(vkd::dbo::ModelFileError) // the German texts are in vkd_qt's translation
 
 public:
     QString text;
 };
 
-/// A value of a model file that knows its place, such as `beams[12][3]` (counted from 0), so that
-/// whatever is wrong with it is reported with that place. Each reading operation throws a
-/// ModelFileError if the value is of another sort.
+/// A value of a model file with its path, such as `beams[12][3]` (counted from 0), so that every
+/// error message contains the path. Each read operation throws a ModelFileError if the value has
+/// another type.
 class JsonPlace
 {
 public:
@@ -37,11 +37,13 @@ public:
     int positive() const;
     double real() const;
     QString string() const;
-    /// A text, or an object with a text for each language.
+    /// Reads a text, or an object with a text for each language.
     QString title(int language) const;
-    /// The elements of a list of at least `least` and, unless `most` is 0, at most `most` of them.
+    /// Returns the elements of a list with at least `least` and, unless `most` is 0, at most `most`
+    /// elements.
     QVector<JsonPlace> list(int least = 0, int most = 0) const;
-    /// Sees to it that this is an object with all of `needed` and no other keys than those of both.
+    /// Throws unless this is an object with all keys of `needed` and no keys except those of the
+    /// two lists.
     void checkKeys(const QStringList& needed, const QStringList& optional) const;
     bool has(const QString& key) const;
     QStringList keys() const;

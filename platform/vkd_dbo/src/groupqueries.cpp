@@ -22,8 +22,8 @@ constexpr ElementList elementLists[] = {
     {keys::Springs, &GroupContents::springs}, {keys::Bricks, &GroupContents::bricks},
 };
 
-/// Looks at the group alone, the second number of every element's record: taking all of the record
-/// apart would be most of the time for a large model.
+/// Reads only the group, which is the second number of every element's record; decoding whole
+/// records would take most of the time for a large model.
 bool countElements(int index, const ElementList& list, QHash<int, GroupContents>& contents)
 {
     constexpr int GroupAt = sizeof(qint32);

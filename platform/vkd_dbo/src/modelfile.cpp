@@ -20,7 +20,7 @@ namespace dbo {
 namespace {
 constexpr int MostGroup = 999; // far below the packed names of secondary groups
 
-/// What a number may be one of. Translated when it is told that there is no such thing.
+/// Item types that a number can refer to. They are translated when the error message is built.
 namespace ThingNames {
 constexpr char Node[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "node");
 constexpr char Group[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "group");
@@ -29,8 +29,8 @@ constexpr char CrossSection[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "c
 constexpr char Point[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "point");
 } // namespace ThingNames
 
-/// Reads one model file. What others refer to by number is read first, so that a number that
-/// belongs to nothing is found where it stands.
+/// Reads one model file. Items that others refer to by number are read first, so that an unknown
+/// number is reported at the position where it is used.
 class ModelFileReader
 {
 public:
@@ -91,7 +91,8 @@ int fixedDirections(const JsonPlace& place)
     return fixed;
 }
 
-/// A name is packed into the four bytes of a group number, and users write it beside numbers.
+/// Names fit into the four bytes of a group number, and contain a letter because users type names
+/// and numbers into one field.
 bool isGroupName(const QString& name)
 {
     static const QRegularExpression form(QStringLiteral("\\A(?=.*[A-Za-z])[A-Za-z0-9]{1,4}\\z"));
@@ -316,7 +317,7 @@ QVector<int> ModelFileReader::members(const JsonPlace& group, const char* key,
     return result;
 }
 
-/// What the values of every element begin with.
+/// Reads the first two values, which all elements have in common.
 template <typename Element>
 void ModelFileReader::numberAndGroup(const QVector<JsonPlace>& values, Element& element,
                                      Numbers& used) const
@@ -359,7 +360,7 @@ void ModelFileReader::nodes(const QVector<JsonPlace>& values, int first, int (&n
     }
 }
 
-/// "line 3, column 7" of an offset in bytes.
+/// Converts an offset in bytes to "line 3, column 7".
 QString lineAndColumn(const QByteArray& bytes, int offset)
 {
     const QByteArray before = bytes.left(offset);
@@ -375,8 +376,8 @@ int thingsIn(const QJsonObject& root)
     });
 }
 
-/// In a thread of its own, since nobody can be asked while Qt parses; the text of a large model
-/// takes a second.
+/// Parses in a separate thread, because Qt's parser has no callback and a large file takes a
+/// second; meanwhile this thread calls `goOn`.
 QJsonDocument parse(const QByteArray& bytes, QJsonParseError* problem, const VkdGoOn& goOn)
 {
     if (!goOn)

@@ -22,13 +22,13 @@ QVector<QByteArray> toRecords(const QVector<T>& things)
     QVector<QByteArray> records(things.size());
     for (int i = 0; i < things.size(); ++i) {
         FieldWriter writer(&records[i]);
-        T copy = things[i]; // one list of fields serves reader and writer, so it is not const
+        T copy = things[i]; // not const: fields() also serves the reader
         fields(writer, copy);
     }
     return records;
 }
 
-/// `mark` is its record, see modelMark().
+/// Decodes the system information from the mark of a model, which is its record, see modelMark().
 SystemInformation systemOf(int index, const QByteArray& mark)
 {
     QVector<SystemInformation> systems;
@@ -92,7 +92,7 @@ VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn)
     forEachList(model, [&total](KeyPair, const auto& things) { total += things.size(); });
     VkdSteps steps(goOn, total);
     ZobTransaction change(index);
-    // After its fields the record has bytes of its own, which tell this model from any other.
+    // Random bytes after the fields identify this model, see modelMark().
     QByteArray system = toRecords(QVector<SystemInformation>{model.system}).first();
     system += QUuid::createUuid().toRfc4122();
     bool done = change.status().isOk() && putRecords(index, keys::System, {system});
@@ -117,7 +117,7 @@ Model readModel(int index, const VkdGoOn& goOn, QByteArray* mark)
     const QByteArray system = snapshot.status().isOk() ? modelMark(index) : QByteArray();
     model.system = systemOf(index, system);
     bool isWhole = !system.isEmpty();
-    // After a failure the others would only fail as well, each after the store's whole patience.
+    // After a failure, every further list would fail too, each after the lock timeout.
     forEachList(model, [&](KeyPair pair, auto& things) {
         isWhole = isWhole && readList(index, pair, things, &steps);
     });

@@ -7,8 +7,7 @@
 namespace vkd {
 namespace dbo {
 
-/// Writes the fields of a thing into its record: little-endian, texts in UTF-16 behind their
-/// length.
+/// Writes the fields of an item into its record: little-endian, texts as length and UTF-16.
 class FieldWriter
 {
 public:
@@ -38,8 +37,8 @@ private:
     QDataStream m_stream;
 };
 
-/// Reads what FieldWriter wrote. A record that is too short makes isComplete() false; a length that
-/// cannot be true is not believed.
+/// Reads records of FieldWriter. isComplete() returns false for a record that is too short or
+/// contains an impossible length.
 class FieldReader
 {
 public:
@@ -89,7 +88,7 @@ void numbers(Archive& archive, Numbers& values)
         archive(value);
 }
 
-// The fields of each sort of record in their order; `Archive` is one of the two classes above.
+// The fields of each record type in their order. `Archive` is one of the two classes above.
 
 template <typename Archive>
 void fields(Archive& archive, Node& node)

@@ -13,25 +13,25 @@
 namespace vkd {
 namespace dbo {
 
-// Each record is a step of `steps`, if they are given, and once they are stopped no other follows.
+// Functions with `steps` count each record as a step, and stop when the steps are stopped.
 
-/// Replaces the sequence under the pair; true if the store took all of it.
+/// Replaces the records under the key pair. Returns true if the store accepted all of them.
 bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records,
                 VkdSteps* steps = nullptr);
 
-/// Reads one record, whatever its length; what the store answered, and nothing in `record` if that
-/// is not VKD_ZOB_OK.
+/// Reads one record of any length. Returns the store's status; unless it is VKD_ZOB_OK, `record` is
+/// empty.
 cd_error_t getRecord(int index, KeyPair pair, int position, QByteArray* record);
 
-/// Hands over each record under the pair, in order, from one state of the project; true if it came
-/// to the end of them.
+/// Calls `visit` for each record under the key pair in order, from one state of the project.
+/// Returns true if all records were visited.
 bool forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit,
                    VkdSteps* steps = nullptr);
 
-/// The line in the log for a record that is too short for what it should hold.
+/// Logs that a record is too short for its fields.
 void reportDamagedRecord(int index, KeyPair pair);
 
-/// Appends the thing of the record if it is sound.
+/// Appends the item decoded from the record, unless the record is damaged.
 template <typename T>
 void addThing(int index, KeyPair pair, const QByteArray& record, QVector<T>& things)
 {
@@ -44,7 +44,8 @@ void addThing(int index, KeyPair pair, const QByteArray& record, QVector<T>& thi
         reportDamagedRecord(index, pair);
 }
 
-/// Appends the thing of each record under the pair that is sound; true if it came to the end.
+/// Appends the items of all undamaged records under the key pair. Returns true if all records were
+/// read.
 template <typename T>
 bool readList(int index, KeyPair pair, QVector<T>& things, VkdSteps* steps = nullptr)
 {
