@@ -6,40 +6,40 @@
 
 class QPoint;
 
-/// The modal dialog of the primary groups of a model. It can be left to pick groups in the 3D view,
-/// which hands them over by way of the project.
+/// The modal dialog that selects primary groups of a model. The user can leave it to pick groups in
+/// the 3D view, which passes them back through the project.
 class VKD_GROUPTABLE_EXPORT VKD_H_SelGRP_Dialog : public VKD_H_GroupDialog
 {
     Q_OBJECT
 
 public:
-    /// What exec() answers, besides 0 if the user cancelled.
+    /// Results of exec(), besides 0 if the user cancelled.
     enum Result {
         Confirmed = 1,
         PickOutside = 6 ///< the user wants to pick the groups in the 3D view
     };
 
-    /// The database index of the scratch store. There the dialog leaves the groups that are checked
-    /// when the user leaves it to pick, as a selection with which the view may begin.
+    /// The database index of the scratch store. When the user starts picking, the dialog stores the
+    /// checked groups there as the initial selection of the view.
     static constexpr int StartOfPicking = 0;
 
-    /// `checked` is only read; see VKD_H_GroupDialog for both lists. The dialog moves to
-    /// `position`, in coordinates of the screen, unless that is null. `entriesLoaded` and `key`,
-    /// the first key of the caller's records, are part of the suite's interface and change nothing
-    /// here: confirming no group at all is always allowed.
+    /// `checked` is only read; see VKD_H_GroupDialog for both lists. The dialog moves to `position`
+    /// in screen coordinates unless that is null. `entriesLoaded` and `key`, the first key of the
+    /// caller's records, belong to the suite's interface and are ignored; the user may always
+    /// confirm an empty selection.
     VKD_H_SelGRP_Dialog(bool entriesLoaded, int key, VKD_H_ZOBDoc* doc, std::vector<int>& checked,
                         const std::vector<int>& usedElsewhere, QPoint* position = nullptr,
                         QWidget* parent = nullptr, const char* name = "VKD_H_SelGRP_Dialog");
 
-    /// Delivers the groups that the 3D view left in the project at this database index, ascending.
-    /// Returns 0, also for a selection of no groups, or -1, and the list as it was, if there is no
-    /// selection or a damaged one.
+    /// Reads the selection that the 3D view stored in the project at this database index, in
+    /// ascending order. Returns 0, also for an empty selection. Returns -1 and leaves the list
+    /// alone if there is no selection or it is damaged.
     static int getAniSelectionFromZob(int index, std::vector<int>& groups);
 
-    /// Leaves a selection in the project in place of the one before. Numbers below 0 are no groups:
-    /// with one of them nothing is stored. False if the selection is not stored; the log says why.
+    /// Replaces the selection stored in the project. Negative numbers are not groups; if there is
+    /// one, nothing is stored. Returns false if the selection is not stored, and logs the reason.
     static bool putAniSelectionToZob(int index, const std::vector<int>& groups);
 
-    /// Takes the selection out of the project. False, with a log line, if that fails.
+    /// Removes the selection from the project. Returns false and logs a line if that fails.
     static bool removeAniSelectionFromZob(int index);
 };

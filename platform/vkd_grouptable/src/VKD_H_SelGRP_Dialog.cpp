@@ -10,7 +10,7 @@
 #include <QScreen>
 
 namespace {
-/// The position itself, or as near to it as the dialog is whole on a screen.
+/// Returns the position nearest to the given one at which the whole dialog is on the screen.
 QPoint onScreen(const QPoint& position, const QSize& size)
 {
     const QScreen* screen = QGuiApplication::screenAt(position);
@@ -35,7 +35,7 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
     addFootButton(pick);
     connect(pick, &QPushButton::clicked, this, [this, doc] {
         if (doc)
-            removePickedGroups(doc->index()); // who picks none is not to get the last ones again
+            removePickedGroups(doc->index()); // must not return if nothing is picked
         storePickedGroups(StartOfPicking, presentChoice());
         done(PickOutside);
     });

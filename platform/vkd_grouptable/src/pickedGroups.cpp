@@ -37,7 +37,7 @@ QByteArray toRecord(const std::vector<int>& groups)
     return bytes;
 }
 
-/// False for anything that toRecord() would not make of groups that may be stored.
+/// Returns false for bytes that toRecord() cannot have written.
 bool fromRecord(const QByteArray& bytes, std::vector<int>& groups)
 {
     const int words = bytes.size() / WordLength;
@@ -54,7 +54,7 @@ bool fromRecord(const QByteArray& bytes, std::vector<int>& groups)
     return true;
 }
 
-/// The record; a null one if there is none.
+/// Returns the record, a null one if there is none.
 QByteArray readRecord(int index)
 {
     QByteArray bytes(1024, Qt::Uninitialized);
@@ -68,8 +68,8 @@ QByteArray readRecord(int index)
     return status == VKD_ZOB_OK ? bytes.left(length) : QByteArray();
 }
 
-/// Puts the record, unless it is null, in place of what is there. Releasing has no result, so
-/// whether it is stored shows by looking.
+/// Replaces the stored record, or removes it if `record` is null. Releasing a key pair has no
+/// result, so the record is read back to check that it was stored.
 bool replaceRecord(int index, const QByteArray& record)
 {
     const int none = 0;

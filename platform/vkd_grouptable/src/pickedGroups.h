@@ -2,8 +2,9 @@
 
 #include <vector>
 
-/// The groups picked in the 3D view, one record of the project: their count, then the groups in
-/// ascending order, each of four bytes, little-endian. All answer whether they did it.
+/// The groups picked in the 3D view. They are stored as one record of the project: the count, then
+/// the groups in ascending order, each four bytes, little-endian. Each function returns whether it
+/// succeeded.
 bool readPickedGroups(int index, std::vector<int>& groups);
 bool storePickedGroups(int index, const std::vector<int>& groups);
 bool removePickedGroups(int index);
