@@ -9,10 +9,9 @@
 
 namespace vkd::properties::nextGen {
 
-/// A table view that can be made read-only. The user then changes nothing in its model, neither by
-/// editors and check boxes nor by dropping something into it, but still scrolls, selects and
-/// copies. Cells that could be edited are dimmed, unless the host sets a delegate of its own, and
-/// so are widgets that lie over cells. Copying takes all selected cells.
+/// A table view that can be made read-only. The user then cannot change its model by editors, check
+/// boxes or drops, but can still scroll, select and copy all selected cells. Widgets over cells are
+/// disabled, and editable cells are dimmed unless the host sets its own delegate.
 class VKD_PROPERTIES_QT_EXPORT QtTableView : public QTableView
 {
     Q_OBJECT
@@ -20,7 +19,7 @@ class VKD_PROPERTIES_QT_EXPORT QtTableView : public QTableView
 public:
     explicit QtTableView(QWidget* parent = nullptr);
 
-    /// An open editor closes, and the model gets what was typed so far.
+    /// Switching to read-only commits and closes an open editor.
     void set_read_only(bool readOnly);
     bool is_read_only() const;
 
@@ -40,7 +39,7 @@ private:
     void enableWidgets();
 
     bool m_readOnly = false;
-    std::vector<QPointer<QWidget>> m_disabled; ///< widgets over cells that are to be enabled again
+    std::vector<QPointer<QWidget>> m_disabled; ///< widgets over cells to enable again
 };
 
 } // namespace vkd::properties::nextGen

@@ -37,7 +37,7 @@ bool QtTableView::is_read_only() const
     return m_readOnly;
 }
 
-/// Check boxes of cells are changed by way of this, too.
+/// Qt also toggles the check boxes of cells through this function.
 bool QtTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
     return !m_readOnly && QTableView::edit(index, trigger, event);
@@ -52,7 +52,7 @@ void QtTableView::keyPressEvent(QKeyEvent* event)
         QTableView::keyPressEvent(event);
 }
 
-/// To move cells elsewhere would take them out of the model.
+/// Moving cells elsewhere would remove them from the model.
 void QtTableView::startDrag(Qt::DropActions actions)
 {
     const Qt::DropActions allowed = m_readOnly ? actions & Qt::CopyAction : actions;
@@ -94,7 +94,8 @@ void QtTableView::disableWidgets()
         disableWidget(widget);
 }
 
-/// Those that the host disabled itself stay out of the list.
+/// Widgets that the host disabled itself are not remembered, so enableWidgets() leaves them
+/// disabled.
 void QtTableView::disableWidget(QWidget* widget)
 {
     if (!widget || !widget->isEnabledTo(viewport()))

@@ -3,8 +3,8 @@
 #include "QtTableView.h"
 
 namespace {
-/// Between text and ground. The text of disabled widgets is too faint in some palettes for cells
-/// that are still read and copied.
+/// Mixes the text and base colours. In some palettes the text colour of disabled widgets is too
+/// faint for cells that the user still reads and copies.
 QColor dimmed(const QPalette& palette)
 {
     const QColor text = palette.color(QPalette::Active, QPalette::Text);

@@ -4,7 +4,7 @@
 
 namespace vkd::properties::nextGen {
 
-/// Draws the cells of a read-only QtTableView that could be edited otherwise as disabled ones.
+/// Draws editable cells of a read-only QtTableView as disabled ones.
 class ReadOnlyDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
