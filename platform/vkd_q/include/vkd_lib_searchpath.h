@@ -5,11 +5,11 @@
 #include <optional>
 #include <string>
 
-/// Looks for the file `name`, which may hold folders, on the suite's search path: first the folders
-/// of the environment variable VKD_SHARE, parted as in PATH, then the installed share folder, then
-/// the share folder of the build tree. Both of the latter are found from where this library lies,
-/// so that a moved installation works.
+/// Searches for the file `name`, which may contain folders, on the suite's search path: the folders
+/// in the environment variable VKD_SHARE (separated as in PATH), the installed share folder, and
+/// the share folder of the build tree. The last two are relative to this library, so that a moved
+/// installation works. Returns the path in the encoding of the file system, or nothing if no folder
+/// contains the file.
 ///
-/// `mode` is part of the suite's interface; every mode looks in the same places here.
-/// The result is the path in the file system's own encoding, or nothing if no folder has the file.
+/// `mode` belongs to the suite's interface and is ignored.
 VKD_Q_EXPORT std::optional<std::string> vkd_lib_searchpath(const char* name, int mode);

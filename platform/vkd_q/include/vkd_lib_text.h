@@ -4,14 +4,15 @@
 
 #include <string>
 
-/// Selects the program whose message texts vkd_lib_convtext() gives from now on. They come from the
-/// file `texts/<program>.txt` on the search path, which is read once for each place it is found in.
-/// A program without such a file has no texts; a log line of the category vkd.text says so.
+/// Selects the program whose message texts vkd_lib_convtext() returns from now on. They come from
+/// the file `texts/<program>.txt` on the search path; each file is read once. A program without
+/// this file has no texts, and a line is logged in the category vkd.text.
 ///
-/// The file is UTF-8 with a line `class|key|German|English` for each text; empty lines and lines
-/// beginning with "#" count for nothing. Of two lines with the same class and key the first holds.
+/// The file is UTF-8 with one line `class|key|German|English` per text. Empty lines and lines that
+/// begin with "#" are ignored. If two lines have the same class and key, the first one wins.
 VKD_Q_EXPORT void vkd_lib_opentext(const char* program);
 
-/// The text of the class (0, 1 or 4 in use) for a key of three characters in Latin-1, as UTF-8.
-/// `language` is 0 for German and 1 for English. Empty if there is no such text.
+/// Returns the text of a class (0, 1 and 4 are in use) for a key of three Latin-1 characters, as
+/// UTF-8. `language` is 0 for German and 1 for English. Returns an empty string if there is no such
+/// text.
 VKD_Q_EXPORT std::string vkd_lib_convtext(int textClass, int language, const char* key);

@@ -2,23 +2,24 @@
 
 #include <functional>
 
-/// How long work asks its caller now and then whether to go on. It says how much is done in
-/// percent, or 0 where that is not known. Work that is told not to go on ends soon and leaves what
-/// is stored as it was. Without a function nobody is asked.
+/// The callback by which a long operation reports its progress and asks whether to continue. The
+/// argument is the finished part in percent, 0 if it is unknown. If the callback returns false, the
+/// operation ends soon and stores nothing. An empty function means that the operation always
+/// continues.
 using VkdGoOn = std::function<bool(int percent)>;
 
-/// Counts the steps of long work and asks every thousandth time.
+/// Counts the steps of a long operation and calls `goOn` after every thousand steps.
 class VkdSteps
 {
 public:
-    /// `total` is how many there are, 0 if that is not known. `goOn` outlives the object.
+    /// `total` is the number of steps, 0 if it is unknown. `goOn` must outlive the object.
     explicit VkdSteps(const VkdGoOn& goOn, int total = 0)
         : m_goOn(goOn)
         , m_total(total)
     {
     }
 
-    /// Counts a step; false from the time on when the work is not to go on.
+    /// Counts a step. Returns false once `goOn` returned false.
     bool next()
     {
         if (m_goOn && ++m_done % Stride == 0 && !m_isStopped)

@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// How an operation of the platform ended.
+/// The result of an operation of the platform.
 struct VkdStatus
 {
-    int code = 0;   ///< 0 if all of it was done; the operation documents the other codes
-    QString reason; ///< of a failure: one line in the desktop's language, what failed and why
+    int code = 0;   ///< 0 for success; the operation documents its other codes
+    QString reason; ///< failed operation and its cause, one line in the desktop's language
 
     bool isOk() const { return code == 0; }
 };

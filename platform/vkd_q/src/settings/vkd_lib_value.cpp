@@ -3,7 +3,7 @@
 #include <unordered_map>
 
 namespace {
-/// Never destroyed: the store asks for settings as long as static objects of a host use it.
+/// Never destroyed, because the store reads settings as long as static objects of a host use it.
 std::unordered_map<int, int>& settings()
 {
     static std::unordered_map<int, int>& values = *new std::unordered_map<int, int>;

@@ -19,7 +19,7 @@ struct BothLanguages
     QByteArray english;
 };
 
-/// The texts of one program by class and key.
+/// The texts of one program, keyed by class and key.
 using Texts = QHash<QPair<int, QByteArray>, BothLanguages>;
 
 Texts readTexts(const QString& path)
@@ -32,7 +32,7 @@ Texts readTexts(const QString& path)
     for (int number = 1; file.isReadable() && !file.atEnd(); ++number) {
         QByteArray line = file.readLine();
         while (line.endsWith('\n') || line.endsWith('\r'))
-            line.chop(1); // blanks stay: they can be part of a text
+            line.chop(1); // blanks can be part of a text
         if (line.trimmed().isEmpty() || line.startsWith('#'))
             continue;
         const QList<QByteArray> parts = line.split('|');
@@ -56,7 +56,7 @@ const Texts* selected = nullptr;
 
 void vkd_lib_opentext(const char* program)
 {
-    static std::map<QString, Texts> read; // a map's values keep their place
+    static std::map<QString, Texts> read; // elements of a std::map are never moved
     const std::string name = std::string("texts/") + program + ".txt";
     const auto path = vkd_lib_searchpath(name.c_str(), 3);
     if (!path)
