@@ -11,7 +11,8 @@ BoxExplanation::BoxExplanation(QObject* opener, const QString& text)
     opener->installEventFilter(this);
 }
 
-/// A child is polished once it is complete, just before it is shown.
+/// ChildPolished is the right event because it comes after the box is complete and just before it
+/// is shown.
 bool BoxExplanation::eventFilter(QObject* opener, QEvent* event)
 {
     if (event->type() == QEvent::ChildPolished)

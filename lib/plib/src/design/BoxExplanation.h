@@ -5,8 +5,8 @@
 
 namespace plib {
 
-/// Gives the message box that a widget opens, while this lives, a second text below the first: for
-/// boxes that are made by a function which takes one text.
+/// Adds an informative text to the message boxes that a widget opens during the lifetime of this
+/// object. It is needed for boxes that are created by a function with a single text parameter.
 class BoxExplanation : public QObject
 {
 public:

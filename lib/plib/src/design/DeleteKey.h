@@ -8,14 +8,14 @@ class QWidget;
 
 namespace plib {
 
-/// Gives the Delete key a meaning of its own in a widget over a cell, where it otherwise is the
-/// short cut of the table that deletes the row.
+/// Handles the Delete key in an editor over a table cell. Otherwise the key would trigger the
+/// shortcut of the table, which deletes the row.
 class DeleteKey : public QObject
 {
 public:
     DeleteKey(QObject* parent, std::function<void()> act);
 
-    /// For the key in this widget, too.
+    /// Handles the key in this widget as well.
     void listenTo(QWidget* widget);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

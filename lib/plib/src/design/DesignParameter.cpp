@@ -43,11 +43,13 @@ DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWi
     barTable.load(doc->index());
 }
 
-/// The focus still changes while the table goes, when this is a page no longer.
+/// Disconnects from the application, because the focus still changes while the table is destroyed,
+/// and the slots must not run then.
 DesignParameter::~DesignParameter()
 {
     disconnect(qApp, nullptr, this, nullptr);
-    // Dialogs of the page lie on the stack below it: they end, and are not to go with it.
+    // The dialogs of the page are on the stack of running functions. They are closed here and must
+    // not be deleted as children of the page.
     const auto dialogs = findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
     for (QDialog* dialog : dialogs) {
         dialog->setParent(nullptr);
@@ -117,7 +119,8 @@ void DesignParameter::readZob()
     refreshRows(-1);
 }
 
-/// What is chosen in an open list of types counts from when the list loses the focus.
+/// Moves the focus to the table, because the choice in an open list of types takes effect only when
+/// the list loses the focus.
 void DesignParameter::finishEditing()
 {
     const QWidget* focus = QApplication::focusWidget();
@@ -167,7 +170,7 @@ void DesignParameter::addTableRow()
 {
     const int target = data->table->rowCount() + 1;
     data->table->addNewRow(false);
-    while (data->table->rowCount() > target) // the framework may add more than one
+    while (data->table->rowCount() > target) // the base class may add more than one
         data->table->removeRow(data->table->rowCount() - 1);
 }
 
@@ -175,8 +178,7 @@ void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool is
 {
     Table* table = data->table;
     const VKD_QT_SignalBlocker blocker(table);
-    // A row that was only just inserted is painted anyway; telling the view of each cell costs
-    // time.
+    // A row that was just inserted is repainted anyway, so the view needs no signal for each cell.
     const VKD_QT_SignalBlocker silent(isNew ? table->model() : nullptr);
     if (isNew)
         table->createEmptyItems(number);
@@ -191,7 +193,8 @@ void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool is
     }
 }
 
-/// Lists of groups are drawn in the order that they have at the moment. -1 is for an empty table.
+/// Updates the texts of a row; with -1, appends all rows to an empty table. Groups are listed in
+/// their current order, which is not necessarily sorted.
 void DesignParameter::refreshRows(int number)
 {
     if (number != -1) {
@@ -215,7 +218,8 @@ bool DesignParameter::isRow(int row) const
     return row >= 0 && row < int(data->rows.size()) && row < data->table->rowCount();
 }
 
-/// Nothing but the type changes: what was entered for a third layer stays with two layers.
+/// Changes the type only: values entered for a third layer are preserved when the type changes to
+/// two layers.
 void DesignParameter::slot_typComboChanged(QTableWidgetItem* item)
 {
     if (!item || !item->tableWidget() || item->column() != Table::Type)
@@ -241,7 +245,7 @@ void DesignParameter::slot_newRowClicked()
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
 
-/// A selection that includes row 0 deletes nothing, not even its other rows.
+/// If row 0 is selected, nothing is deleted, not even the other selected rows.
 void DesignParameter::slot_deleteClicked()
 {
     Table* table = data->table;
@@ -249,10 +253,10 @@ void DesignParameter::slot_deleteClicked()
         return;
     const std::set<int> rows = table->getSelectetRows();
     if (!rows.empty()) {
-        finishEditing(); // while the table still tells of it
+        finishEditing(); // while the signals of the table are still enabled
         closeCellWidget();
         editRow = editColumn = -1;
-        const VKD_QT_SignalBlocker blocker(table); // until the rows are those of the table again
+        const VKD_QT_SignalBlocker blocker(table); // until the rows match the table again
         table->deleteSelectedRows();
         plib::removeRows(*data, rows);
         showSharedGroups();

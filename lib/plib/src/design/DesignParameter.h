@@ -13,9 +13,9 @@ class VKD_H_ProjectDialogPage;
 class VKD_H_TableWidgetBox;
 class VKD_QT_Dialog;
 
-/// The design parameter page itself, behind the exported shell. Its rows are the truth: an edit
-/// goes into a row first, and the row's texts are then drawn into the table. The editor of a cell
-/// lives while its cell is the current one.
+/// The implementation of the design parameter page, used by the exported class only. The rows in
+/// `data` are the model: an edit changes a row first, and then the texts of the row are written
+/// into the table. A cell has an editor only while it is the current cell.
 class DesignParameter : public QWidget
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
                     bool flagB);
     ~DesignParameter() override;
 
-    /// The dialog that a detour to pick groups outside of it closes; null if there is none.
+    /// Sets the dialog that is closed when the user wants to pick groups in the view; may be null.
     void setDialog(VKD_QT_Dialog* dialog);
     void init();
     void readZob();

@@ -20,17 +20,18 @@ struct DesignParameterRow
     std::vector<int> groups;
 };
 
-/// Whether the list stands for all groups that no other row names. A list that holds more than -1
-/// does not.
+/// Returns whether the list represents all groups that no other row names. It must contain -1 and
+/// nothing else.
 bool isRemainingGroups(const std::vector<int>& groups);
 
-/// The state of one design parameter page.
+/// The state of one design parameter page. It has no widgets of its own, so that the rules on rows
+/// can be tested without them.
 struct DesignParameterData
 {
     int kindOfSystem = 0;
     VKD_H_ZOBDoc* doc = nullptr;       ///< group dialogs and bars; not owned
     VKD_H_ZOBDoc* designDoc = nullptr; ///< records and kind of system; not owned
-    bool flagB = false;                ///< kept, read by nothing
+    bool flagB = false;                ///< stored, never read
     bool flagA = false;
     bool entriesLoaded = false;
     VKD_QT_Dialog* dialog = nullptr;

@@ -1,4 +1,4 @@
-// The editors of cells, and the dialogs that they open.
+// The part of DesignParameter for cell editors and the dialogs that they open.
 
 #include "DesignParameter.h"
 
@@ -31,26 +31,26 @@ using Table = DesignParameterTable;
 namespace {
 constexpr int DesignKey = 200; // the first key of the records
 
-/// What a combo with ids would say about a row's groups when its cell is left. The entries of ours
-/// have none: what the user chose is in the row by then.
+/// Ids of combo entries that set the groups of a row when its cell is left. The entries of
+/// dlgSelection have no ids, because the choice of the user is already stored in the row by then.
 enum SelectionId {
     NoneId = 0,
     RemainingId = 1,
 };
 } // namespace
 
-/// Moves the editor to the current cell. A cell that is selected a second time loses its editor and
-/// gets none. A row without design closes the old editor and leaves its place remembered, so that
-/// going back there counts as a second selection.
+/// Moves the editor to the current cell. If a cell is selected again, its editor is closed and not
+/// reopened. Selecting a cell in a row without design also closes the editor, but the cell of that
+/// editor stays remembered, so that returning to it counts as selecting it again.
 void DesignParameter::slot_editCellWidget()
 {
     Table* table = data->table;
     const int row = table->currentRow();
     const int column = table->currentColumn();
     if (row == 0 && column == 0)
-        return; // no editor here, and one elsewhere stays open
+        return; // this cell has no editor; an open one elsewhere stays
     if (row == editRow && column == editColumn && hasFocusInEditor())
-        return; // the view selects the cell whose editor is pressed: that is no second selection
+        return; // a click into the editor selects its cell; this must not close it
     closeCellWidget();
     if (row == editRow && column == editColumn) {
         editRow = editColumn = -1;
@@ -77,8 +77,8 @@ bool DesignParameter::hasFocusInEditor() const
     return editor && focused && (editor == focused || editor->isAncestorOf(focused));
 }
 
-/// An editor may stay open while another cell is the current one. Who goes on to use it means its
-/// row, and the slots work on the current row.
+/// An editor may stay open while another cell is the current one. If it gets the focus, its cell
+/// must become current again, because the slots work on the current row.
 void DesignParameter::makeEditedCellCurrent()
 {
     if (!hasFocusInEditor() ||
@@ -114,7 +114,7 @@ void DesignParameter::clearCellWidget(int row, int column)
         return;
     if (hasFocusInEditor())
         data->table->setFocus();
-    widget->hide(); // it is deleted later, and a dialog may run before
+    widget->hide(); // it is deleted later, possibly after a dialog has run
     data->table->setCellWidget(row, column, nullptr);
 }
 
@@ -152,7 +152,7 @@ void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
     connect(button, &QPushButton::clicked, this, kind.slot);
 }
 
-/// Puts an editor over a cell, right behind the table in the order of tabs.
+/// Puts an editor over a cell and makes it follow the table in the tab order.
 void DesignParameter::layOver(int row, int column, QWidget* editor)
 {
     data->table->setCellWidget(row, column, editor);
@@ -166,7 +166,7 @@ void DesignParameter::layOver(int row, int column, QWidget* editor)
         }
 }
 
-/// The dialog works on the row's record, and changes it after OK alone.
+/// Opens a dialog for the record of the current row. The record is changed only after OK.
 template <class Dialog, typename... Arguments>
 void DesignParameter::editRecord(Arguments... arguments)
 {
@@ -181,7 +181,7 @@ void DesignParameter::editRecord(Arguments... arguments)
     const QPointer<DesignParameter> page(this);
     if (dialog.exec() != QDialog::Accepted || !page)
         return;
-    edited = plib::rowAt(*data, row); // the rows may have been read anew meanwhile
+    edited = plib::rowAt(*data, row); // the rows may have been reloaded meanwhile
     if (!edited)
         return;
     dialog.writeToRecord(&edited->record);
@@ -224,7 +224,8 @@ void DesignParameter::slot_openGroups()
         dialog.getChecked(confirmed);
         takeGroups(row, confirmed);
     } else if (result == VKD_H_SelGRP_Dialog::PickOutside && data->dialog) {
-        // Both, so that the slot is connected once however often the user goes this way.
+        // Disconnects first, so that the slot is connected only once even if the user picks
+        // repeatedly.
         disconnect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
                    &DesignParameter::slot_onReopenGroups);
         connect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
@@ -267,7 +268,7 @@ void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
     showSharedGroups();
 }
 
-/// After each change of the groups of a row, since that may concern any other one.
+/// Updates the marks in all rows, because a change of the groups of one row may affect any other.
 void DesignParameter::showSharedGroups()
 {
     const VKD_QT_SignalBlocker blocker(data->table);
@@ -275,7 +276,7 @@ void DesignParameter::showSharedGroups()
     showSharedGroupsInEditor(editRow);
 }
 
-/// The editor covers the mark of its cell, so it shows that itself.
+/// Shows the mark in the editor, because the editor covers its cell.
 void DesignParameter::showSharedGroupsInEditor(int row)
 {
     const int column = data->table->getColumnNumber(Table::Selection);
@@ -285,8 +286,9 @@ void DesignParameter::showSharedGroupsInEditor(int row)
         editor->setNote(item->toolTip());
 }
 
-/// The entries of the editor are translated in its own context, and compared here in this one: both
-/// have to have the same words. The cell's text follows when the cell is left.
+/// Compares the text with translations in the context of this class. dlgSelection translates its
+/// entries in its own context, so both translations must be the same. The text of the cell is
+/// updated when the cell is left.
 void DesignParameter::slot_selectionComboChanged(QString text)
 {
     const int row = data->table->currentRow();

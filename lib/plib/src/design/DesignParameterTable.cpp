@@ -5,16 +5,16 @@
 #include <QHeaderView>
 
 namespace {
-constexpr int MostLines = 4; // two lines of text, each broken once
+constexpr int MostLines = 4; // two lines of text, each wrapped once
 constexpr int RowMargin = 8;
-constexpr int MostRowsToFit = 500; // beyond that, measuring texts would cost more than filling
+constexpr int MostRowsToFit = 500; // above that, measuring texts would take longer than filling
 } // namespace
 
 DesignParameterTable::DesignParameterTable(QWidget* parent)
     : VKD_H_TableWidget(0, ColumnCount, parent, "table")
 {
-    setVerticalScrollMode(ScrollPerPixel);           // rows are tall
-    horizontalHeader()->setHighlightSections(false); // bold headers would be cut
+    setVerticalScrollMode(ScrollPerPixel);           // rows are too tall for scrolling by item
+    horizontalHeader()->setHighlightSections(false); // bold headers would be truncated
     verticalHeader()->setDefaultSectionSize(MostLines * fontMetrics().lineSpacing() + RowMargin);
     verticalHeader()->setMinimumSectionSize(2 * fontMetrics().lineSpacing() + RowMargin);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &DesignParameterTable::fitRows);
@@ -32,7 +32,7 @@ void DesignParameterTable::fitRows()
         resizeRowsToContents();
 }
 
-/// The table otherwise learns only later that a row that was just added makes it longer.
+/// Lays out the table first, because the scroll range does not include a row that was just added.
 void DesignParameterTable::bringIntoView(int row)
 {
     executeDelayedItemsLayout();

@@ -3,13 +3,13 @@
 #include <VKD_H_TableWidget.h>
 
 /// The table of the design parameter page: five columns, one row for each set of parameters. It
-/// shows texts and holds no data; DesignParameter fills it and answers its signals.
+/// shows texts and stores no data; DesignParameter fills it and handles its signals.
 class DesignParameterTable : public VKD_H_TableWidget
 {
     Q_OBJECT
 
 public:
-    /// The columns, which have the same ids.
+    /// The columns. The column ids are the same numbers.
     enum Column {
         Selection = 0,
         Type = 1,
@@ -21,11 +21,11 @@ public:
 
     explicit DesignParameterTable(QWidget* parent);
 
-    /// Gives a row, or all of them, the height that its texts need in columns as wide as they are.
-    /// In a very long table rows keep the height that the longest texts need.
+    /// Set the height of a row, or of all rows, to fit its texts at the current column widths. In a
+    /// very long table all rows keep the height for the longest texts.
     void fitRow(int row);
     void fitRows();
-    /// Scrolls so that a row is seen, one that was just added, too.
+    /// Scrolls to a row, even if it was just added.
     void bringIntoView(int row);
 
 Q_SIGNALS:

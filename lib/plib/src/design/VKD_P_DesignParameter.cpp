@@ -9,7 +9,7 @@
 #include <VKD_QT_Layouts.h>
 
 namespace {
-/// The nearest dialog of the suite above a widget, or null.
+/// Returns the nearest ancestor that is a VKD_QT_Dialog, or null.
 VKD_QT_Dialog* dialogAbove(const QWidget* widget)
 {
     QWidget* ancestor = widget->parentWidget();

@@ -4,7 +4,7 @@ class DesignParameterTable;
 
 namespace plib {
 
-/// Gives the design table its five column headers, with their widths and the choice of types.
+/// Creates the five columns of the design table with headers, widths and the choice of types.
 void buildDesignColumns(DesignParameterTable* table);
 
 } // namespace plib

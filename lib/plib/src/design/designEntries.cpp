@@ -12,7 +12,7 @@ namespace plib {
 namespace {
 using R = tagZOB_QUAD_RIM;
 
-/// Upper and lower side alternate, unlike in all other fields of an entry.
+/// In an entry, the diameters alternate between upper and lower side, unlike all other fields.
 constexpr SixFields DiametersOfEntry{&R::dio, &R::diu, &R::dioq, &R::diuq, &R::dioi, &R::diui};
 
 constexpr int FieldCount = 7;
@@ -36,7 +36,7 @@ QString reals(const R& record, const Fields& fields)
     return text;
 }
 
-/// Takes the values by position; one that is missing reads as 0.
+/// Reads the values by position; missing values become 0.
 template <typename Fields>
 void readReals(R& record, const QStringList& values, const Fields& fields, int first = 0)
 {
@@ -72,13 +72,14 @@ void parseEntry(const QString& text, DesignParameterRow& row)
     readReals(record, values[1], fields::Directions);
     readReals(record, values[2], fields::Distances);
     readReals(record, values[3], fields::Reference);
-    // The one field with a short form: a single diameter for the first bar.
+    // Only this field has a short form: a single diameter for the first bar.
     if (values[4].size() >= 6)
         readReals(record, values[4], DiametersOfEntry);
     else
         record.dio = values[4].value(0).toFloat();
     readReals(record, values[5], fields::CrackWidths);
-    // Written as reals but read as integers, on purpose: a stress with a fraction comes back as 0.
+    // On purpose, stresses are written as real numbers but read as integers: one with a fraction
+    // becomes 0.
     for (size_t i = 0; i < fields::Stresses.size(); ++i)
         record.*fields::Stresses[i] = float(values[5].value(6 + int(i)).toInt());
     record.mark = values[6].value(0).toInt();

@@ -8,20 +8,21 @@ class VKD_H_ProjectDialogPage;
 
 namespace plib {
 
-/// The parameters of a row as the text of an entry. Its record is in the stored form. The text has
-/// no place for the limits of the reinforcement, `mode` and the reserved words.
+/// Returns the parameters of a row as the text of an entry. The record must be in the stored form.
+/// The text does not contain the maximum reinforcement, `mode` and the reserved words.
 QString entryText(const tagZOB_QUAD_RIM& record);
 
-/// Reads an entry into the record of a row, in the stored form; what the text does not hold is left
-/// as it is, and a text of fewer than seven fields leaves all of it. What is no number reads as 0.
+/// Reads an entry into the record of a row, in the stored form. Fields that the text does not
+/// contain are unchanged; a text of fewer than seven fields changes nothing. A value that is not a
+/// number becomes 0.
 void parseEntry(const QString& text, DesignParameterRow& row);
 
-/// Appends the rows without groups that the page keeps in its entries `MerPara1`, `MerPara2`, and
-/// so on, to the first that is missing or empty.
+/// Appends the rows without groups that are saved in the entries `MerPara1`, `MerPara2` and so on
+/// of the page, up to the first entry that is missing or empty.
 void readRowsFromEntries(DesignParameterData& data, const VKD_H_ProjectDialogPage& page);
 
-/// Keeps the rows without groups in the page's entries and removes those of an earlier, longer
-/// list. The rows are in the stored form.
+/// Saves the rows without groups in the entries of the page and removes entries left over from a
+/// longer list. The rows must be in the stored form.
 void writeRowsToEntries(const DesignParameterData& data, VKD_H_ProjectDialogPage& page);
 
 } // namespace plib

@@ -16,8 +16,8 @@ using RealField = float tagZOB_QUAD_RIM::*;
 /// layer, then the lower side.
 using SixFields = std::array<RealField, 6>;
 
-/// The kinds of real fields, as the rules of the record, the entries, the texts and the dialogs
-/// need them.
+/// Tables of the real fields by kind. The rules of the record, the entries, the texts and the
+/// dialogs iterate over them.
 namespace fields {
 using R = tagZOB_QUAD_RIM;
 constexpr SixFields Directions{&R::rio, &R::rioq, &R::rioi, &R::riu, &R::riuq, &R::riui};
@@ -30,10 +30,10 @@ constexpr SixFields CrackWidths{&R::wko, &R::wkoq, &R::wkoi, &R::wku, &R::wkuq, 
 constexpr SixFields Stresses{&R::sigo, &R::sigoq, &R::sigoi, &R::sigu, &R::siguq, &R::sigui};
 } // namespace fields
 
-/// The dimension code of a real field; -1 for the reserved ones.
+/// Returns the dimension code of a real field, -1 for reserved fields.
 int dimensionCode(RealField field);
 
-/// A field by its name, as the command line knows it: a real one or one of the integers.
+/// A real or integer field with its name on the command line.
 struct NamedField
 {
     const char* name;
@@ -41,11 +41,11 @@ struct NamedField
     std::int32_t tagZOB_QUAD_RIM::*integer; ///< null for a real field
 };
 
-/// All fields by name in the order of the record, without `group`, `subId` and the reserved words,
-/// which are no parameters.
+/// Returns the named fields in the order of the record. `group`, `subId` and the reserved words are
+/// not included, because they are not parameters.
 const std::vector<NamedField>& namedFields();
 
-/// The field of this name, or nothing.
+/// Returns the field with this name, or nothing.
 std::optional<NamedField> fieldByName(const QString& name);
 
 } // namespace plib

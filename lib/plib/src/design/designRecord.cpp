@@ -11,7 +11,7 @@
 namespace plib {
 
 namespace {
-constexpr float AlsoNotSet = 99999.0F; // as some programs write it
+constexpr float AlsoNotSet = 99999.0F; // as written by some programs
 constexpr float HalfPi = 1.5707964F;
 constexpr int UpperBarClass = 6;
 constexpr int LowerBarClass = 5;
@@ -45,7 +45,8 @@ void tripleToStored(const float& a, float& b, float& c)
     c = b >= 0 && c >= 0 ? b + c : NotSet;
 }
 
-// For fields in which zero is a value, and for those in which it means not set.
+// clearNegative() is for fields in which zero is a value; the other function is for fields in which
+// zero means not set.
 void clearNegative(float& value)
 {
     if (value < 0 || value == AlsoNotSet)
@@ -87,7 +88,7 @@ tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups)
     setAll(r, fields::Stresses, NotSet);
     r.reservedD = NotSet;
     r.reservedS = NotSet;
-    r.reservedM = 0; // unlike its two neighbours in kind, on purpose
+    r.reservedM = 0; // unlike the other two reserved fields, on purpose
     return r;
 }
 
@@ -120,7 +121,7 @@ void cleanRecord(tagZOB_QUAD_RIM& record)
         clearNegative(record.*field);
     for (RealField field : fields::Distances)
         clearNegative(record.*field);
-    // The one field that is not compared with 99999.0: such a value in it survives, on purpose.
+    // On purpose, this field alone is not compared with 99999.0 and keeps such a value.
     if (record.dio <= 0)
         record.dio = NotSet;
     for (RealField field : fields::Diameters)

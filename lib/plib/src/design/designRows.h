@@ -6,22 +6,23 @@
 
 namespace plib {
 
-/// A row with its groups in rising order, or null if there is no such row. Who shows or edits the
-/// groups of a row comes this way, so that a list that has been seen is sorted.
+/// Sorts the groups of a row and returns the row, or null if there is no such row. All code that
+/// shows or edits the groups of a row uses this function, so that a list on the screen is always
+/// sorted.
 DesignParameterRow* rowAt(DesignParameterData& data, int row);
 
-/// Whether some row stands for the remaining groups.
+/// Returns whether there is a row for the remaining groups.
 bool hasRemainingRow(const DesignParameterData& data);
 
-/// Appends the groups of all rows but the given one and those of the remaining groups, and sorts
-/// the whole list. Groups that stand in two rows come twice.
+/// Appends the groups of all rows except the given one and rows for the remaining groups, and sorts
+/// the whole list. Groups of two rows occur twice.
 void collectUsedGroups(const DesignParameterData& data, int row, std::vector<int>& list);
 
-/// Whether a row that names no group would be lost with the project's records.
+/// Returns whether there is a row without groups, which has no place in the project's records.
 bool hasRowWithoutGroups(const DesignParameterData& data);
 
-/// Row 0 is the place of the row for the remaining groups, whatever it holds: it stays where it is
-/// and is not deleted.
+/// Row 0 is reserved for the remaining groups, whatever its groups are. It can be neither moved nor
+/// deleted.
 bool mayMoveUp(const DesignParameterData& data, int row);
 bool mayMoveDown(const DesignParameterData& data, int row);
 

@@ -16,8 +16,8 @@ constexpr int ScratchKey2 = 12979;
 constexpr int RecordLength = sizeof(tagZOB_QUAD_RIM);
 constexpr int UndefinedKind = -99999;
 
-/// The buffer of one pass over records. What a record shorter than the buffer does not fill keeps
-/// what stood there before, in the form in which the reader left it.
+/// Reads the records of a key pair one by one into the caller's record. If a stored record is
+/// short, the bytes beyond its length keep their old content, including changes by the caller.
 class RecordPass
 {
 public:
@@ -28,7 +28,8 @@ public:
     {
     }
 
-    /// False at the end, or where reading fails, which looks the same.
+    /// Reads the next record. Returns false at the end and also if reading fails; callers do not
+    /// distinguish the two.
     bool next(tagZOB_QUAD_RIM& record)
     {
         RecordBytes bytes = toBytes(record);
@@ -62,7 +63,7 @@ void append(int index, int key1, int key2, const tagZOB_QUAD_RIM& record, int le
     vkd_zob_put(index, key1, key2, bytes.data(), &length, 1);
 }
 
-/// Puts aside what other programs keep under our key pair.
+/// Moves records of other programs under our key pair to the scratch store.
 void saveForeignRecords(int index)
 {
     empty(ScratchIndex, ScratchKey1, ScratchKey2);
@@ -102,7 +103,7 @@ void checkAndCreateZobDefault(int index)
 void readRowsFromZob(DesignParameterData& data)
 {
     const int index = data.designDoc->index();
-    std::vector<DesignParameterRow> remaining; // go to the front, the last one read first
+    std::vector<DesignParameterRow> remaining; // inserted at the front, in reverse order
     tagZOB_QUAD_RIM previous{};
     bool hasPrevious = false;
     RecordPass pass(index, Key1, Key2);
@@ -139,7 +140,7 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     if (!converted)
         for (DesignParameterRow& row : data.rows)
             toStoredForm(row.record, data.kindOfSystem);
-    converted = true; // once in the life of a page: a second write finds the stored form
+    converted = true; // only once for each page: a second write finds the stored form
     const int index = data.designDoc->index();
     vkd_zob_lock_ex(index, Key1, Key2);
     saveForeignRecords(index);
@@ -150,7 +151,7 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     for (DesignParameterRow& row : data.rows)
         if (!isRemainingGroups(row.groups))
             writeRow(index, row);
-    // The first of the records put aside is looked at and not used: none of them comes back.
+    // The first of the moved records is read but not used; none of them is restored. This is meant.
     tagZOB_QUAD_RIM unused{};
     RecordPass(ScratchIndex, ScratchKey1, ScratchKey2).next(unused);
     vkd_zob_free_ex(index, Key1, Key2);

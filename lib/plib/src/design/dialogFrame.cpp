@@ -15,7 +15,7 @@ void dressDialog(VKD_QT_Dialog* dialog, const QString& title, const char* topic)
     dialog->setWindowTitle(title);
 }
 
-/// A dynamic property, since the key belongs to the host and not to each dialog.
+/// Uses a dynamic property, because the help key is handled by the host and not by each dialog.
 void setHelpTopic(QWidget* dialog, const char* topic)
 {
     dialog->setProperty("helpTopic", QLatin1String("MERDAN/") + QLatin1String(topic));
@@ -48,7 +48,7 @@ QGridLayout* gridOf(const QGroupBox* box)
     return static_cast<QGridLayout*>(box->layout());
 }
 
-/// The width that the widgets need which stand in this column alone.
+/// Returns the width required by the widgets that do not span several columns.
 int widthNeeded(const QGridLayout* grid, int column)
 {
     int width = 0;
@@ -72,7 +72,7 @@ void alignColumns(const std::vector<QGroupBox*>& boxes)
         for (const QGroupBox* box : boxes)
             width = std::max(width, widthNeeded(gridOf(box), column));
         if (width == 0)
-            continue; // an empty column keeps the width that it was given
+            continue; // an empty column keeps its minimum width
         for (const QGroupBox* box : boxes)
             gridOf(box)->setColumnMinimumWidth(column, width);
     }

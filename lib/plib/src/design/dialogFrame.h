@@ -10,31 +10,32 @@
 
 class VKD_H_LineEdit;
 
-/// What the dialogs of a row's parameters have in common.
+/// Functions shared by the three dialogs for the parameters of a row.
 namespace plib {
 
-/// The white face of these dialogs, their title and their topic of the help. All of them are white,
-/// because the figures of one of them have a white ground.
+/// Sets the title, the help topic and the white background of a dialog. All of them are white
+/// because the figures in one of them have a white background.
 void dressDialog(VKD_QT_Dialog* dialog, const QString& title, const char* topic);
 
-/// Tells the host that the help key in this dialog asks for a topic of the design's book.
+/// Sets the topic in the design help book that the host shows when the user presses the help key.
 void setHelpTopic(QWidget* dialog, const char* topic);
 
-/// The row with OK, which accepts, and Cancel, which rejects, at the end of the layout.
+/// Appends a row with OK, which accepts the dialog, and Cancel, which rejects it.
 void addOkRow(VKD_QT_Dialog* dialog, VKD_QT_VBoxLayout* layout);
 
-/// A label at a place of the grid.
+/// Adds a label to a cell of the grid.
 VKD_QT_Label* addLabel(VKD_QT_GridLayout* grid, int row, int column, const QString& text);
 
-/// Puts a field at a place of the grid. `about` says which value of the dialog it holds, for those
-/// who do not see where it stands.
+/// Adds a field to a cell of the grid. `about` is its accessible description, for users who cannot
+/// see its position.
 void addField(VKD_QT_GridLayout* grid, int row, int column, QWidget* field, const QString& about);
 
-/// Gives the columns of the grids in these boxes the same widths, so that fields stand below each
-/// other. For boxes that are complete.
+/// Sets the columns of the grids in these boxes to the same widths, so that their fields are
+/// aligned. Must be called after the boxes are filled.
 void alignColumns(const std::vector<QGroupBox*>& boxes);
 
-/// Shows a field of the record, and reads one; in base units, -99999.0 for a field without a value.
+/// Show a field of the record in an edit, and read it back, in base units. The value of an empty
+/// edit is -99999.0.
 void showValue(VKD_H_LineEdit* edit, const tagZOB_QUAD_RIM& record, RealField field);
 float readValue(const VKD_H_LineEdit* edit);
 

@@ -18,9 +18,9 @@ using R = tagZOB_QUAD_RIM;
 constexpr int CrackWidthCode = 1026;
 constexpr int StressCode = 1092;
 constexpr int LayersOfASide = 3;
-constexpr int CrackWidthFields = 6; // the stresses of the same layers follow in the table of fields
+constexpr int CrackWidthFields = 6; // the steel stresses of the same layers follow in Fields
 
-/// In millimetres and in N/mm², the units that users of these dimensions read.
+/// In millimetres and in N/mm², the units shown for these dimensions.
 const QVector<double> CrackWidths{0.2, 0.3, 0.4};
 const QVector<double> Stresses{160, 200, 240, 280, 320, 360, 400, 450};
 
@@ -30,8 +30,8 @@ VKD_H_LineEdit* editOf(const VKD_QT4_ComboBox* combo)
 }
 } // namespace
 
-/// A combo, its object name and that of its edit, the field of the record and its dimension. The
-/// lower crack widths share the plain name "crack"; this is meant.
+/// A combo, its object name and that of its edit, the field of the record and its dimension code.
+/// The lower crack widths all have the object name "crack"; this is meant.
 struct dlgCrackControl::Field
 {
     Combo combo;
@@ -76,7 +76,8 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
         this, "infoCrack"));
     plib::addOkRow(this, layout);
     setLayout(layout);
-    // After the lists are filled, which put a text of theirs into the field.
+    // Values are set after the lists are filled, because inserting the first entry sets the text of
+    // the edit.
     for (const Field& field : Fields)
         if (VKD_H_LineEdit* edit = editOf(this->*field.combo))
             plib::showValue(edit, *record, field.field);
@@ -114,14 +115,14 @@ VKD_QT4_ComboBox* dlgCrackControl::newCombo(const Field& field)
         new VKD_H_LineEdit(this, &format, field.editName,
                            isWidth ? tr("Crack width") : tr("Steel stress"), QString(), true);
     combo->setLineEdit(edit);
-    combo->setInsertPolicy(QComboBox::NoInsert); // the list holds the usual values alone
+    combo->setInsertPolicy(QComboBox::NoInsert); // typed values are not added to the list
     combo->setMinimumWidth(edit->sizeHint().width() +
                            combo->style()->pixelMetric(QStyle::PM_ComboBoxFrameWidth) +
                            combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     combo->setAccessibleName(edit->accessibleName());
     for (double value : isWidth ? CrackWidths : Stresses)
         combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', 2));
-    combo->setCurrentIndex(-1); // else Down would begin behind the first
+    combo->setCurrentIndex(-1); // otherwise the Down key would skip the first entry
     return this->*field.combo = combo;
 }
 
@@ -130,7 +131,7 @@ void dlgCrackControl::accept()
     QDialog::accept();
 }
 
-/// A field without a combo is not kept: it becomes not set.
+/// Fields without a combo become not set.
 void dlgCrackControl::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
     for (const Field& field : Fields) {

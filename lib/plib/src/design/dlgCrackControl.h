@@ -7,9 +7,9 @@
 class VKD_QT4_ComboBox;
 class VKD_QT_GroupBox;
 
-/// Edits the permissible crack widths and steel stresses of one row. The lists of usual values are
-/// a help for typing: any other value is taken as well, and nothing is checked. The third layer is
-/// there for type 3 alone; for other types its fields become not set with writeToRecord().
+/// Edits the permissible crack widths and steel stresses of one row. The lists contain usual
+/// values, but any other value may be typed, and nothing is checked. Only type 3 has a third layer;
+/// for other types writeToRecord() sets its fields to not set.
 class dlgCrackControl : public VKD_QT_Dialog
 {
     Q_OBJECT
@@ -18,7 +18,8 @@ public:
     /// Shows the values of the record.
     dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent);
 
-    /// Overwrites crack widths and steel stresses, and nothing else.
+    /// Writes the crack widths and steel stresses into the record and leaves other fields
+    /// unchanged.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
     void accept() override;

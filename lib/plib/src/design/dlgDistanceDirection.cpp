@@ -39,13 +39,13 @@ void addFigure(VKD_QT_GridLayout* grid, const QPixmap& picture)
     auto figure = new VKD_QT_Label(grid->parentWidget());
     figure->setPixmap(picture);
     grid->addWidget(figure, 0, FigureColumn, FigureRows, FigureColumns, Qt::AlignHCenter);
-    grid->setColumnStretch(FigureColumn, 1); // what is left over goes to the figure
+    grid->setColumnStretch(FigureColumn, 1); // the figure gets the remaining width
 }
 } // namespace
 
 using D = dlgDistanceDirection;
 
-/// An edit, the field of the record that it shows, its object name and its dimension.
+/// An edit, the field of the record that it shows, its object name and its dimension code.
 struct dlgDistanceDirection::Field
 {
     Edit edit;
@@ -85,7 +85,7 @@ dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* par
             plib::showValue(this->*field.edit, *record, field.field);
 }
 
-/// A field without an edit is not kept: it becomes not set.
+/// Fields without an edit become not set.
 void dlgDistanceDirection::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
     for (const Field& field : Fields)
@@ -113,7 +113,7 @@ VKD_QT_GroupBox* dlgDistanceDirection::layeredDistance(int type)
 {
     VKD_QT_GroupBox* box = nullptr;
     VKD_QT_GridLayout* grid = newGrid(tr("Distance"), "distance", &box);
-    grid->setColumnMinimumWidth(2, grid->horizontalSpacing()); // as the note makes it above
+    grid->setColumnMinimumWidth(2, grid->horizontalSpacing()); // as the note does in the box above
     addHeader(grid);
     addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"), &D::hio, &D::hiu);
     addRow(grid, 2, tr("Cross Reinforcement") + QLatin1String(" (DH)"), &D::hioq, &D::hiuq);
@@ -188,7 +188,7 @@ void dlgDistanceDirection::addNote(VKD_QT_GridLayout* grid)
 {
     auto note = new VKD_QT_InfoText(true, tr("The local x-axis of the elements is the default "
                                              "direction of the principal reinforcement."));
-    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the fields give the width
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the fields set the width
     policy.setHeightForWidth(true);
     note->setSizePolicy(policy);
     grid->addWidget(note, 4, 0, 1, 4);

@@ -8,9 +8,9 @@
 class VKD_H_LineEdit;
 class VKD_QT_GroupBox;
 
-/// Edits how the layers of reinforcement of one row lie: their directions, their distances, and for
-/// circular reinforcement the reference point. Which of the edits there are depends on the type of
-/// the record; a field without one becomes not set with writeToRecord(). Checks nothing.
+/// Edits the position of the reinforcement layers of one row: their directions, their distances
+/// and, for circular reinforcement, the reference point. The type of the record determines the
+/// edits in the dialog; writeToRecord() sets fields without an edit to not set. Nothing is checked.
 class dlgDistanceDirection : public VKD_QT_Dialog
 {
     Q_OBJECT
@@ -19,7 +19,8 @@ public:
     /// Shows the values of the record, whose distances are in the edited form.
     dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* parent);
 
-    /// Overwrites directions, distances and reference point, and nothing else.
+    /// Writes the directions, distances and reference point into the record and leaves other fields
+    /// unchanged.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
 private:

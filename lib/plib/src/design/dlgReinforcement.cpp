@@ -19,7 +19,7 @@ namespace {
 using R = tagZOB_QUAD_RIM;
 
 constexpr int ReinforcementCode = 1021;
-constexpr int CalculationMode = 1; // for minimum and maximum alike
+constexpr int CalculationMode = 1; // for both minimum and maximum
 constexpr int LayersOfASide = 3;
 
 struct PairOfLimits
@@ -28,13 +28,13 @@ struct PairOfLimits
     plib::RealField maximum;
 };
 
-/// In the order in which the user is told.
+/// In the order in which they are checked and reported.
 constexpr PairOfLimits Pairs[] = {
     {&R::aso, &R::amo},   {&R::asu, &R::amu},   {&R::asoq, &R::amoq},
     {&R::asuq, &R::amuq}, {&R::asoi, &R::amoi}, {&R::asui, &R::amui},
 };
 
-/// In single precision, as the record keeps the values. What cannot be compared is not in order.
+/// Compares in single precision, as in the record. A NaN is never in order.
 bool isInOrder(float minimum, float maximum)
 {
     return minimum == plib::NotSet || maximum == plib::NotSet || maximum >= minimum;
@@ -107,7 +107,7 @@ VKD_QT_GroupBox* dlgReinforcement::side(bool upper, int type)
     auto grid = new VKD_QT_GridLayout(box);
     plib::addLabel(grid, 0, DiameterColumn, tr("Diameter"));
     plib::addLabel(grid, 0, MinimumColumn, tr("Min. Reinforcement"));
-    // With a small letter on the lower side: the two texts are different ones.
+    // The lower side has a lower-case "max."; the two texts are different on purpose.
     plib::addLabel(grid, 0, MaximumColumn,
                    upper ? tr("Max. Reinforcement") : tr("max. Reinforcement"));
     const Layer* layers = Layers + (upper ? 0 : LayersOfASide);
@@ -164,12 +164,12 @@ void dlgReinforcement::showValues(const tagZOB_QUAD_RIM& record)
         plib::showValue(this->*layer.minimum, record, layer.minimumField);
         plib::showValue(this->*layer.maximum, record, layer.maximumField);
     }
-    // The upper third layer opens with the value of the lower one; this is meant.
+    // The edit of the upper third layer initially shows the value of the lower one; this is meant.
     if (amoi)
         plib::showValue(amoi, record, &R::amui);
 }
 
-/// A layer without widgets is not kept: its fields become not set.
+/// The fields of a layer without widgets become not set.
 void dlgReinforcement::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
     for (const Layer& layer : Layers) {
@@ -181,7 +181,7 @@ void dlgReinforcement::writeToRecord(tagZOB_QUAD_RIM* record) const
     }
 }
 
-/// Whoever meets the warning finds the fields of the pair marked, and is in the first of them.
+/// Marks both fields of the pair and sets the focus to the minimum.
 void dlgReinforcement::markPair(plib::RealField minimum)
 {
     const auto layer = std::find_if(std::begin(Layers), std::end(Layers),
@@ -208,7 +208,7 @@ bool dlgReinforcement::checkMinMax(float minimum, float maximum)
 
 void dlgReinforcement::accept()
 {
-    if (vkd_qt_leadToRefusedField(this)) // ahead of pairs, of which it may be one
+    if (vkd_qt_leadToRefusedField(this)) // first: the field may belong to a pair
         return;
     tagZOB_QUAD_RIM scratch{};
     writeToRecord(&scratch);
@@ -217,7 +217,7 @@ void dlgReinforcement::accept()
             continue;
         markPair(pair.minimum);
         checkMinMax(scratch.*pair.minimum, scratch.*pair.maximum);
-        return; // one message at a time, however many pairs are wrong
+        return; // only one message, even if several pairs are wrong
     }
     QDialog::accept();
 }

@@ -12,17 +12,19 @@ class VKD_H_LineEdit;
 class VKD_QT_GroupBox;
 
 /// Edits the bar diameters and the minimum and maximum reinforcement of one row, with a calculator
-/// beside each value. OK is refused while a minimum is above its maximum. The third layer is there
-/// for type 3 alone; for other types its fields become not set with writeToRecord().
+/// for each reinforcement. OK shows an error while a minimum is above its maximum. Only type 3 has
+/// a third layer; for other types writeToRecord() sets its fields to not set.
 class dlgReinforcement : public VKD_QT_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the values of the record; the bars are those of the project at the database index.
+    /// Shows the values of the record. The diameters on offer are those of the project at the
+    /// database index.
     dlgReinforcement(int zobIndex, tagZOB_QUAD_RIM* record, QWidget* parent);
 
-    /// Overwrites diameters, minimum and maximum reinforcement, and nothing else.
+    /// Writes the diameters and the minimum and maximum reinforcement into the record and leaves
+    /// other fields unchanged.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
 public Q_SLOTS:

@@ -38,7 +38,7 @@ dlgSelection::dlgSelection(int index, QWidget* parent)
 {
     comboGroups->setEditable(false);
     comboGroups->setAccessibleName(tr("Selection"));
-    comboGroups->setMinimumContentsLength(1); // the cell's width decides, not the longest entry
+    comboGroups->setMinimumContentsLength(1); // the cell sets the width, not the longest entry
     comboGroups->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     comboGroups->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto groups = newButton(this, "buttonGroups", GroupsIcon, tr("Select groups"));
@@ -83,7 +83,8 @@ void dlgSelection::fillCombo(const plib::DesignParameterRow& row, bool remaining
         selected = tr("Remaining Groups");
     else if (!row.groups.empty())
         comboGroups->addItem(selected = plib::rowText(row, 0));
-    // By its text: a secondary group named like the entry for none is shown as that.
+    // Finds the entry by its text, so a secondary group called like the entry "None" is shown as
+    // that entry.
     comboGroups->setCurrentIndex(comboGroups->findText(selected, Qt::MatchCaseSensitive));
 }
 

@@ -8,23 +8,24 @@ namespace plib {
 struct DesignParameterRow;
 }
 
-/// The editor of a row's groups. It lies over the first cell of the row while that is the current
-/// one, offers "None" and "Remaining Groups", and has buttons for the two group dialogs. It changes
-/// nothing by itself: the page listens to its signals.
+/// The editor for the groups of a row. It covers the first cell of the row while this is the
+/// current cell, offers "None" and "Remaining Groups", and has buttons for the two group dialogs.
+/// It only emits signals; the page changes the row.
 class dlgSelection : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// For the project at this database index, which says what groups there are. Without entries.
+    /// Creates an editor without entries. The project at this database index provides the groups.
     dlgSelection(int zobIndex, QWidget* parent);
 
-    /// Makes the entries for this row, without a signal. "Remaining Groups" is left out where
-    /// another row has them. A list of groups becomes an entry of its own. No entry has an id.
+    /// Fills the combo for this row without emitting a signal. "Remaining Groups" is left out if
+    /// another row has them. A list of groups gets an entry of its own. Entries have no ids.
     void fillCombo(const plib::DesignParameterRow& row, bool remainingInUse);
     int getCurrentId() const;
 
-    /// A sign beside the chosen entry, with a text that explains it; neither with an empty text.
+    /// Shows a warning icon at the current entry and explains it by a tool tip. An empty text
+    /// removes both.
     void setNote(const QString& text);
 
 Q_SIGNALS:

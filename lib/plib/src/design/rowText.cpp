@@ -21,8 +21,8 @@ using FieldList = QVarLengthArray<RealField, 6>;
 
 constexpr int BarCode = 1023;
 
-/// What a column shows for a type: the fields of its two lines, and whether a separator closes the
-/// text.
+/// The contents of a column for a type: the fields of its two lines, and whether the text ends with
+/// a separator.
 struct Summary
 {
     FieldList first;
@@ -30,7 +30,7 @@ struct Summary
     bool closes;
 };
 
-/// The texts belong to the page's widget, whatever file makes them.
+/// Translates in the context of the page.
 struct PageText
 {
     Q_DECLARE_TR_FUNCTIONS(DesignParameter)
@@ -41,19 +41,19 @@ Summary distances(int type)
     Summary summary{{&R::rio, &R::riu}, {&R::hio, &R::hiu, &R::hioq, &R::hiuq}, true};
     if (type == 2 || type == 3)
         summary.first << &R::rioq << &R::riuq;
-    if (type == 3) // with the third layer's distances, but without its directions: this is meant
+    if (type == 3) // the third layer has its distances here but not its directions; this is meant
         summary.second << &R::hioi << &R::hiui;
     return summary;
 }
 
-/// The principal reinforcement alone, for every type.
+/// Only the principal reinforcement, for every type.
 Summary reinforcement()
 {
     return {{&R::dio, &R::aso, &R::amo}, {&R::diu, &R::asu, &R::amu}, false};
 }
 
-/// Crack widths for type 1 only; every other type shows stresses, whatever it holds. The third
-/// layer is listed for all of them.
+/// Type 1 shows crack widths, every other type shows stresses, even if they are not set. The third
+/// layer is listed for all types.
 Summary crackControl(int type)
 {
     const SixFields& all = type == 1 ? fields::CrackWidths : fields::Stresses;
@@ -80,7 +80,7 @@ void appendLine(const DesignParameterRow& row, const FieldList& fields, QString*
 
 QString summaryText(const DesignParameterRow& row, int column)
 {
-    constexpr int LastTypeWithText = 5; // has no name, and reads like type 4
+    constexpr int LastTypeWithText = 5; // has no name and the same text as type 4
     const int type = row.record.type;
     if (type < 1 || type > LastTypeWithText)
         return QString();

@@ -7,7 +7,7 @@
 
 namespace plib {
 
-/// The names of the design types, untranslated, by number.
+/// The untranslated names of the design types; the index is the type.
 constexpr const char* DesignTypeNames[] = {
     QT_TRANSLATE_NOOP("DesignParameter", "No design"),
     QT_TRANSLATE_NOOP("DesignParameter", "Two Layers (orthogonal)"),
@@ -16,16 +16,16 @@ constexpr const char* DesignTypeNames[] = {
     QT_TRANSLATE_NOOP("DesignParameter", "Circular"),
 };
 
-/// The text that sums up one column of a row for reading: 0 groups, 1 type, 2 directions and
-/// distances, 3 reinforcement, 4 crack control; up to two lines. Empty for any other column, and in
-/// columns 2 to 4 for a type that has no design.
+/// Returns the summary of a row in a column, of up to two lines. The columns are 0 groups, 1 type,
+/// 2 directions and distances, 3 reinforcement, 4 crack control. The text is empty for other
+/// columns, and in columns 2 to 4 for a type without design.
 QString rowText(const DesignParameterRow& row, int column);
 
-/// The text of one value in base units: " - " if it is not set, a bar for code 1023, else the
-/// number in the user's unit with `unit` right behind.
+/// Returns the text of one value, which is given in base units: " - " if it is not set, the name of
+/// a bar for code 1023, otherwise the number in the displayed unit, followed by `unit`.
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit);
 
-/// A group number as text; that of a secondary group is its name.
+/// Returns a group number as text; for a secondary group, its name.
 QString groupText(int group);
 
 } // namespace plib

@@ -26,7 +26,7 @@ void mark(QTableWidgetItem* item, const QVector<int>& groups, const QString& tex
 void unmark(QTableWidgetItem* item)
 {
     if (!item->data(SharedGroupsRole).isValid())
-        return; // as nearly all rows; a change of an item costs time
+        return; // true for nearly all rows; changing items takes time
     for (int role : {SharedGroupsRole, int(Qt::DecorationRole), int(Qt::ToolTipRole),
                      int(Qt::AccessibleDescriptionRole)})
         item->setData(role, QVariant());

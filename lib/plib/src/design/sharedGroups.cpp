@@ -11,9 +11,9 @@
 namespace plib {
 
 namespace {
-constexpr int MostNamed = 5; // groups, and rows of a group
+constexpr int MostNamed = 5; // groups in a text, and rows for each group
 
-/// The texts belong to the page's widget, whatever file makes them.
+/// Translates in the context of the page.
 struct PageText
 {
     Q_DECLARE_TR_FUNCTIONS(DesignParameter)
@@ -39,7 +39,7 @@ QString sentence(int row, const SharedGroup& shared)
 
 std::vector<SharedGroup> sharedGroups(const std::vector<DesignParameterRow>& rows)
 {
-    std::vector<std::pair<int, int>> places; // group and row
+    std::vector<std::pair<int, int>> places; // pairs of group and row
     for (std::size_t row = 0; row < rows.size(); ++row)
         for (int group : rows[row].groups)
             places.emplace_back(group, int(row));

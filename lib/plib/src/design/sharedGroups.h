@@ -6,25 +6,26 @@
 
 namespace plib {
 
-/// A group that more than one row names, with these rows, ascending. A record is stored for it from
-/// each of them, and only one can be meant. -1 stands for the remaining groups.
+/// A group that more than one row names, with these rows in ascending order. Such a group is
+/// probably a mistake: each of the rows stores a record for it, and only one can be meant. -1
+/// represents the remaining groups.
 struct SharedGroup
 {
     int group = 0;
     std::vector<int> rows;
 };
 
-/// The groups that more than one row names, ascending. A row that names a group twice is no second
-/// row.
+/// Returns the groups that more than one row names, in ascending order. A row that names a group
+/// twice counts once.
 std::vector<SharedGroup> sharedGroups(const std::vector<DesignParameterRow>& rows);
 
-/// The same from the side of the rows: an entry for each of the `rowCount` rows, with the shared
-/// groups that it names, which point into `shared`.
+/// Returns for each of the `rowCount` rows the shared groups that it names, as pointers into
+/// `shared`.
 std::vector<std::vector<const SharedGroup*>>
 sharedGroupsOfRows(const std::vector<SharedGroup>& shared, std::size_t rowCount);
 
-/// A line for each of these groups, with the other rows that name it, as the user counts them, from
-/// 1. Of very many the first ones. Empty without any.
+/// Returns a text with a line for each of these groups, which lists the other rows that name it,
+/// counted from 1. Long lists are shortened. The text is empty if there are no groups.
 QString sharedGroupsText(int row, const std::vector<const SharedGroup*>& shared);
 
 } // namespace plib

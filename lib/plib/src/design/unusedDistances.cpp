@@ -14,12 +14,12 @@ void markUnusedDistances(dlgDistanceDirection& dialog)
     for (const char* name : {"hio", "hiu", "hioq", "hiuq", "hioi", "hiui"}) {
         auto edit = dialog.findChild<QLineEdit*>(QLatin1String(name));
         if (!edit)
-            continue; // not with this type
+            continue; // the type of the record has no such field
         edit->setPlaceholderText(dlgDistanceDirection::tr("not used"));
         edit->setToolTip(edit->toolTip() + QLatin1Char('\n') + reason);
     }
     if (auto box = dialog.findChild<QGroupBox*>(QStringLiteral("distance")))
-        box->setToolTip(reason); // of the labels and the figure
+        box->setToolTip(reason); // for the labels and the figure
 }
 
 } // namespace plib

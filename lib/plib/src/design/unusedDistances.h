@@ -4,8 +4,8 @@ class dlgDistanceDirection;
 
 namespace plib {
 
-/// Says at the distances of a dialog that they are not stored: as the text of the empty fields and
-/// in the tool tips. For plane systems, where the fields are there none the less.
+/// Shows at the distances of a dialog that they are not stored, by placeholder texts and tool tips.
+/// Called for plane systems, in which the dialog shows the fields all the same.
 void markUnusedDistances(dlgDistanceDirection& dialog);
 
 } // namespace plib
