@@ -4,8 +4,8 @@
 
 #include <QtTest>
 
-// QtTest's checks leave the function when they fail. That is why the language is not restored by a
-// guard: hosts find it after a failure as the failing step had set it.
+// A failing check of QtTest returns from the function. On purpose, no guard restores the language:
+// after a failure it stays as the failing step set it, and hosts can see it.
 void VKD_P_Mix_UnitTest::check_qrc_system()
 {
     const QString cover = QStringLiteral(":/betondeckung.png");

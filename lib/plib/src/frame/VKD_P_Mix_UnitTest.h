@@ -2,9 +2,9 @@
 
 #include <QObject>
 
-/// What a library that is installed and loaded can check of itself, run by vkd_unittests(). It does
-/// not replace the tests of the tree: it tells whether the pictures came along with the library and
-/// whether the platform's language rule finds them.
+/// The self-check of the installed library, run by vkd_unittests(). It does not replace the tests
+/// of the source tree: it only checks that the pictures are part of the library and that the
+/// platform finds them by language.
 class VKD_P_Mix_UnitTest : public QObject
 {
     Q_OBJECT

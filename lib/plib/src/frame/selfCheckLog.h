@@ -4,12 +4,11 @@
 
 namespace plib {
 
-/// The log file of the self-check, with native separators, from the arguments that a host passes
-/// on.
+/// Returns the path of the log file from the arguments of vkd_unittests(), with native separators.
 QString selfCheckLog(const QStringList& arguments);
 
-/// QtTest takes a comma for the end of the name, and ends the process over a file that it cannot
-/// open. The file is created.
+/// Returns whether QtTest can write to this file, and creates it. QtTest ends a file name at a
+/// comma, and exits the process if it cannot open the file.
 bool canQtTestLogTo(const QString& log);
 
 } // namespace plib

@@ -20,7 +20,7 @@ int runCheck(const QString& log)
     return QTest::qExec(&test, testArguments) == 0 ? 0 : 1;
 }
 
-/// Writes a file or says why not, and then what it would have held.
+/// Writes a file. If this fails, logs the reason and the text.
 void writeLog(const QString& path, const QByteArray& text)
 {
     QFile file(path);
@@ -29,7 +29,8 @@ void writeLog(const QString& path, const QByteArray& text)
                   qUtf8Printable(file.errorString()), text.constData());
 }
 
-/// The check with its log in a place that QtTest can write to, from where it is copied.
+/// Runs the check with a temporary log file, because QtTest cannot write to the requested one, and
+/// copies the log.
 int runCheckAside(const QString& log)
 {
     const QTemporaryDir folder;

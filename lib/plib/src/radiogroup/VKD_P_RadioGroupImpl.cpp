@@ -13,7 +13,7 @@
 using Group = VKD_P_RadioGroup;
 using Impl = VKD_P_RadioGroupImpl;
 
-/// One kind of button: where it is kept, and the signal of its own, which not all have.
+/// One kind of button: its id, its member, and its own signal, which may be null.
 struct VKD_P_RadioGroupImpl::Kind
 {
     ButtonID id;
@@ -40,7 +40,7 @@ const std::vector<Impl::Kind>& VKD_P_RadioGroupImpl::kinds()
 
 VKD_P_RadioGroupImpl::VKD_P_RadioGroupImpl() = default;
 
-/// What no host has adopted goes, too.
+/// Deletes the layout if no host has taken ownership of it.
 VKD_P_RadioGroupImpl::~VKD_P_RadioGroupImpl()
 {
     if (m_layout && !m_layout->parent())
@@ -178,7 +178,7 @@ void VKD_P_RadioGroupImpl::updateUsedWidget()
 {
     if (!m_usedWidget)
         return;
-    const QPointer<Impl> alive(this); // the widget may tell its host, who may end this group
+    const QPointer<Impl> alive(this); // a slot of the host may delete this group
     const bool isManual = m_group.checkedId() == Group::Manually;
     if (auto table = dynamic_cast<vkd::properties::nextGen::QtTableView*>(m_usedWidget))
         table->set_read_only(!isManual);
@@ -197,7 +197,7 @@ void VKD_P_RadioGroupImpl::buttonXXClicked(bool on)
                                    [&](const Kind& any) { return this->*any.button == button; });
     if (kind == kinds().end())
         return;
-    const QPointer<Impl> alive(this); // the host may end this group in any of its slots
+    const QPointer<Impl> alive(this); // any slot of the host may delete this group
     if (kind->checked)
         Q_EMIT(this->*kind->checked)();
     if (alive && kind->id != Group::NoTextOutput)

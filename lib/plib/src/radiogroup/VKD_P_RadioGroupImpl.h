@@ -8,9 +8,9 @@
 
 class QRadioButton;
 
-/// The buttons of a VKD_P_RadioGroup and what they do; that class passes its operations on to this
-/// one, and those signals that belong to the form of the row back to its host. Buttons, row and
-/// coupled widget that went with their owners are null again.
+/// The implementation of VKD_P_RadioGroup. That class forwards its operations to this one, and
+/// relays the signals that the form of the row has. Pointers to buttons, row and coupled widget are
+/// reset to null when their owners delete them.
 class VKD_P_RadioGroupImpl : public QObject
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     VKD_P_RadioGroupImpl();
     ~VKD_P_RadioGroupImpl() override;
 
-    /// False: there is a row already.
+    /// Create the row. Return false if there already is one.
     bool init(QWidget* parent);
     bool initForLF(QWidget* parent, const std::list<ButtonID>& ids);
     bool initEchoOutput(QWidget* parent);
@@ -61,7 +61,7 @@ private:
     bool buildRow(QWidget* parent, const std::vector<Entry>& entries);
     QRadioButton* makeButton(QWidget* parent, const Entry& entry);
 
-    bool m_isBuilt = false; ///< also when the row has gone with its parent
+    bool m_isBuilt = false; ///< stays true after the row is deleted by its parent
     QLayout* m_layout = nullptr;
     QRadioButton* m_Manually = nullptr;
     QRadioButton* m_All = nullptr;

@@ -7,7 +7,7 @@
 namespace {
 const QLatin1String Mark("checked");
 
-/// In the order in which they stand in a text.
+/// In the order in which names are written to the text.
 constexpr struct
 {
     int id;

@@ -7,11 +7,13 @@
 
 namespace plib {
 
-/// The text that a host keeps of a row of radio buttons: "checked:" and the name of the checked
-/// button. Ids are those of VKD_P_RadioGroup::ButtonID; of several, each has its name in the text.
+/// Returns the text that a host saves for a row of radio buttons: "checked:" and the name of the
+/// checked button. If several are checked, their names are joined. The ids are those of
+/// VKD_P_RadioGroup::ButtonID.
 QString choiceText(const std::vector<int>& checkedIds);
 
-/// The id that such a text names, -1 if it names none that is known. Nothing for any other text.
+/// Returns the id of the button in such a text, -1 if the name is unknown. Returns nothing for a
+/// text of another format.
 std::optional<int> chosenId(const QString& text);
 
 } // namespace plib
