@@ -2,8 +2,7 @@
 
 #include <QString>
 
-/// An entry of a combo box: its text, its id, and a third number that is -99999 where it has no
-/// meaning.
+/// An entry of a combo box: a text, an id and an additional number, which is -99999 if unused.
 struct ComboList
 {
     QString text;

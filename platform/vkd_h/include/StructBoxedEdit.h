@@ -2,19 +2,19 @@
 
 #include "StructLineEdit.h"
 
-/// What a labelled input field for a number is for. Without EmptyIsDefault an empty field is as
-/// `edit` says.
+/// The description of a labelled number field. `edit` decides about empty fields unless the flag
+/// EmptyIsDefault is set.
 struct StructBoxedEdit
 {
     enum LabelPlace { LabelAbove = 0, LabelBeside = 1 };
-    /// A bit of `edit.flags`: an emptied field gets `edit.emptied` when it is left.
+    /// A bit of `edit.flags`: an empty field changes to `edit.emptied` when it loses the focus.
     static constexpr int EmptyIsDefault = 0x100000;
 
     int labelPlace = LabelBeside;
-    int reserved = 0; ///< 0 is to be passed
-    QString label;    ///< names the quantity; a mnemonic in it leads to the field
+    int reserved = 0; ///< must be 0
+    QString label;    ///< name of the quantity; its mnemonic focuses the field
     QString toolTip;
-    QString whatsThis; ///< the longer explanation, at Shift+F1
+    QString whatsThis; ///< a longer explanation, shown by Shift+F1
     QString statusTip;
-    StructLineEdit edit; ///< with the limits of what may be typed, and the value to start with
+    StructLineEdit edit; ///< includes the limits and the initial value
 };

@@ -7,25 +7,25 @@
 
 class VKD_H_LineEdit;
 
-/// A label and an input field for a number in one widget. The field is a VKD_H_LineEdit and refuses
-/// text as that does; its object name is that of the box with "_edit" behind. Its text is for
-/// programs: a comma that is typed or pasted becomes a point, in every language.
+/// A label and a number field in one widget. The field is a VKD_H_LineEdit and refuses texts in the
+/// same way; its object name is that of the box plus "_edit". Its text is meant for programs: a
+/// typed or pasted comma becomes a point in every language.
 class VKD_H_EXPORT VKD_H_BoxedLineEdit : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `description` is copied; null is a number without unit and label.
+    /// `description` is copied. Null describes a number without unit and label.
     VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description, const char* name);
 
-    /// The text as it was typed or set. While a typed text is refused, or the field stands empty,
-    /// the last one that was accepted.
+    /// Returns the text as it was typed or set. If the typed text is refused or the field is empty,
+    /// returns the last accepted text.
     QString getText() const;
-    /// Sets a text that was kept, in the shown unit. It stays as it is, with a comma too. One that
-    /// is no acceptable number is shown and marked, and the value from before counts on.
+    /// Sets a saved text, in the shown unit and without any change, even with a comma. If it is not
+    /// an acceptable number, the field shows and marks it, and the previous value remains.
     void setText(const QString& text);
 
-    /// In the base unit of the dimension. While the field stands empty, the last value.
+    /// Returns the value in the base unit of the dimension, the last one while the field is empty.
     double getVal() const;
     void setVal(double value);
 
@@ -34,7 +34,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user changed the value.
+    /// Emitted when the user changed the value.
     void valueChanged();
 
 protected:
@@ -48,5 +48,5 @@ private:
 
     StructBoxedEdit m_description;
     VKD_H_LineEdit* m_edit;
-    QString m_set; ///< the text that was set last; null after a value
+    QString m_set; ///< last text from setText(), null after setVal()
 };

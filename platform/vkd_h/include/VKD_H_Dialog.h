@@ -4,7 +4,8 @@
 
 #include <VKD_QT_Dialog.h>
 
-/// A dialog as pages look for it above them. Users of this class link vkd_qt.
+/// The base class of dialogs that contain pages; a page finds its dialog by this type. Users of
+/// this class must link vkd_qt.
 class VKD_H_EXPORT VKD_H_Dialog : public VKD_QT_Dialog
 {
     Q_OBJECT

@@ -26,35 +26,34 @@ class GroupView;
 } // namespace h
 } // namespace vkd
 
-/// The base of the modal dialogs that choose groups of a model for one row of a table that belongs
-/// to the caller: a list with check boxes, a filter, and a field to type numbers or names. exec()
-/// answers 1 if the user confirmed. Users of this class link vkd_qt.
+/// The base class of modal dialogs that select groups of a model for one row of the caller's table.
+/// It has a list with check boxes, a filter and a field for numbers or names. exec() returns 1 if
+/// the user confirmed. Users of this class must link vkd_qt.
 class VKD_H_EXPORT VKD_H_GroupDialog : public VKD_QT_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Delivers the confirmed groups in ascending order in place of what the list held. Those
-    /// checked replace all that the dialog was opened with, groups of the other kind and -1 for the
-    /// remaining ones too. If nothing was changed, and before OK, that is still the whole list.
-    /// Returns 0.
+    /// Replaces `groups` by the confirmed groups in ascending order. The checked groups replace the
+    /// whole initial list, including groups of the other kind and the -1 of the remaining groups.
+    /// Before OK, and if the user changed nothing, the result is the initial list. Returns 0.
     int getChecked(std::vector<int>& groups) const;
 
     void accept() override;
 
 protected:
-    /// The document, which may be null, is read here and not kept. What `checked` holds besides
-    /// groups of this kind is not shown; of those that the model lacks each gets a row.
-    /// `usedElsewhere` are the groups of the caller's other rows, which may be taken over.
+    /// Reads the document, which may be null, and does not use it later. Entries of `checked` that
+    /// are not groups of this kind are not shown; groups that the model lacks get a row each.
+    /// `usedElsewhere` are the groups of the caller's other rows; the user may take them over.
     VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* doc,
                       const std::vector<int>& checked, const std::vector<int>& usedElsewhere,
                       QWidget* parent, const char* name);
 
     bool hasGroups() const;
-    /// The groups that stand checked, with those that are typed and not yet in the list. Typed text
-    /// that cannot be read counts for nothing.
+    /// Returns the checked groups, including typed groups that are not checked in the list yet.
+    /// Unreadable input is ignored.
     std::vector<int> presentChoice();
-    /// Puts a button at the left of the foot, ahead of OK in the order of tabs. Becomes its owner.
+    /// Adds a button at the left of the foot, before OK in the tab order. Takes ownership.
     void addFootButton(QPushButton* button);
 
     void keyPressEvent(QKeyEvent* event) override;
@@ -71,9 +70,9 @@ private:
 
     void checkShown(bool checked);
     void toggle(const QModelIndexList& rows);
-    /// Checks what the field names and leaves in it the parts that cannot be read or name nothing.
-    /// False, with a message, if there are any. The message may also say something about groups
-    /// that are checked.
+    /// Checks the groups that the input field names. Parts that cannot be read or name no group
+    /// remain in the field. Returns false and shows a message if there are any. The message may
+    /// also mention checked groups without area elements.
     bool applyInput();
     bool hasInput() const;
     void showMessage(const QString& text);
@@ -95,6 +94,6 @@ private:
     QLabel* m_notShown = nullptr;
     QHBoxLayout* m_foot = nullptr;
     VKD_QT_Ok* m_ok = nullptr;
-    const std::vector<int> m_opened; ///< as the caller has them, of both kinds
+    const std::vector<int> m_opened; ///< the caller's list, with both kinds
     std::vector<int> m_confirmed;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
 /// The two kinds of groups of a model. A primary group has a number from 0 to 999999. A secondary
-/// group has a name of up to four characters; wherever a list of numbers holds it, it is that name
-/// packed into a number from 1000000 on, the first character in the lowest byte and blanks behind.
+/// group has a name of up to four characters. In lists of numbers, the name is packed into a number
+/// of at least 1000000, with the first character in the lowest byte and blanks at the end.
 enum class VKD_H_GroupKind { Primary, Secondary };

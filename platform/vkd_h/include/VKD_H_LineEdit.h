@@ -13,50 +13,50 @@
 class FieldMark;
 class QComboBox;
 
-/// An input field for a number of a dimension, in base units for its callers and in the shown unit
-/// for its users; also as the line edit of an editable combo box with preset texts. A value that is
-/// only shown comes back bit for bit, however few digits stand there. Text that is no acceptable
-/// number stays, marked and with a message at the field, until it is mended or Escape brings the
-/// last value's text back; meanwhile that value is the one that counts, and no dialog is accepted
-/// (VKD_QT_Dialog.h). A value that can hardly be meant is marked in another colour, with a
-/// sentence, and counts. Users of this class link vkd_qt.
+/// A field for a number with a dimension. Callers use base units, users the shown unit. It can also
+/// be the line edit of an editable combo box with preset texts. A value that the user does not edit
+/// is returned bit for bit, even if the field shows fewer digits.
+///
+/// Text that is not an acceptable number remains in the field, marked and with a message, until the
+/// user corrects it or presses Escape to restore the text of the last value. Meanwhile that value
+/// is the current one, and no dialog can be accepted (VKD_QT_Dialog.h). An implausible value is
+/// marked in another colour with a message, but is accepted. Users of this class must link vkd_qt.
 class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit, public VKD_QT_InputField
 {
     Q_OBJECT
     Q_INTERFACES(VKD_QT_InputField)
 
 public:
-    /// `description` is copied; null is a number without unit. `text` names the quantity, for the
-    /// tool tip and for screen readers; the tool tip also holds `secondText`, a further
-    /// explanation. `showsUnit` shows the unit in the field.
+    /// `description` is copied; null describes a number without unit. `text` is the name of the
+    /// quantity for the tool tip and for screen readers; `secondText` is a further explanation in
+    /// the tool tip. `showsUnit` shows the unit in the field.
     VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, const char* objectName,
                    const QString& text, const QString& secondText, bool showsUnit);
     ~VKD_H_LineEdit() override;
 
-    /// Shows a value in base units, any that is. As the line edit of a combo box this is to be
-    /// called after the entries are in, because the combo box puts its current entry into the
-    /// field.
+    /// Shows any value, given in base units. In a combo box, call this after the entries are added,
+    /// because the combo box copies its current entry into the field.
     void setVal(double value);
-    /// The value of the text as it stands, while it is typed too. If the text is refused: the value
-    /// from before it was typed. -99999.0, or what the description says, for an empty field.
+    /// Returns the value of the current text, even during typing. For a refused text, returns the
+    /// last accepted value; for an empty field, the description's "not set" (-99999.0 by default).
     double getVal() const;
 
-    /// The value that counts while the text is refused, and the text that Escape brings back.
+    /// The value that remains while the text is refused, and the text that Escape restores.
     double keptVal() const { return m_value; }
     QString keptText() const { return m_shown; }
 
     QString refusal() const override;
     void showRefusal() override;
-    /// Why the value can hardly be meant; empty without a doubt, and for a refused text.
+    /// Returns why the value is implausible; empty for a plausible value and for a refused text.
     QString doubt() const;
-    /// In place of the range of the dimension.
+    /// Replaces the plausible range of the dimension.
     void setPlausibleRange(const VkdPlausibleRange& range);
 
-    /// Marks the field like a refused one, for a reason that its dialog knows, until its text
-    /// changes. The field shows the reason when it gets the focus, also from a message box.
+    /// Marks the field like a refused one for a reason that only the dialog knows, until its text
+    /// changes. The field shows the reason when it gets the focus, even after a message box.
     void setFault(const QString& reason);
 
-    /// Room for a number of nine characters and what stands around it.
+    /// Returns a size for nine characters, prefix, unit and mark.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -66,7 +66,7 @@ public Q_SLOTS:
     void clearFault();
 
 Q_SIGNALS:
-    /// getVal() gives another value than before, because the user typed or chose a preset text.
+    /// Emitted when getVal() changes because the user typed a value or chose a preset.
     void valueChanged();
 
 protected:
@@ -95,13 +95,13 @@ private:
     QString m_name;
     QString m_explanation;
     bool m_showsUnit;
-    double m_value; ///< the value kept, which the text m_shown stands for, exactly
-    double m_told;  ///< the value of the last valueChanged()
+    double m_value; ///< last accepted value; m_shown is its text
+    double m_told;  ///< value of the last valueChanged()
     QString m_shown;
     QString m_fault;
     VkdPlausibleRange m_plausible;
     std::unique_ptr<FieldMark> m_mark;
     bool m_isTyped = false;
-    bool m_wasIn = false; ///< the focus went to a list or another window, and may come back
+    bool m_wasIn = false; ///< the focus is in a popup or another window and may return
     bool m_selectsAll = false;
 };

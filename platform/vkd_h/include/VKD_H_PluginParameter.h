@@ -4,8 +4,8 @@
 
 class VKD_H_ZOBDoc;
 
-/// What a host hands to the pages that it embeds: the document of the model and, where cross
-/// sections are kept apart, the document that holds them. Owns neither.
+/// The documents that a host passes to its embedded pages: the model and, if stored separately, the
+/// cross sections. Owns neither of them.
 class VKD_H_EXPORT VKD_H_PluginParameter
 {
 public:

@@ -5,24 +5,24 @@
 #include <QMap>
 #include <QString>
 
-/// The texts that a dialog page of the desktop keeps with a project, by key. They are read when the
-/// object is made and kept in the project file by save().
+/// The key-value texts that a dialog page saves in a project. The constructor reads them; save()
+/// writes them into the project file.
 class VKD_H_EXPORT VKD_H_ProjectDialogPage
 {
 public:
-    /// The page of this number of the project at this database index. Without a project (index -1)
-    /// the texts live as long as the object.
+    /// Reads the texts of a page, given by number, from the project at this database index. Without
+    /// a project (index -1) the texts live as long as the object.
     explicit VKD_H_ProjectDialogPage(int index = -1, int page = 0);
 
-    /// The value of the key, or `defaultValue` if there is none.
+    /// Returns the value of the key, or `defaultValue` if the key does not exist.
     QString getEntry(const QString& key, const QString& defaultValue) const;
-    /// Makes an entry or replaces it.
+    /// Adds or replaces an entry.
     void setEntry(const QString& key, const QString& value);
     void deleteEntry(const QString& key);
 
-    /// Puts all entries into the project in place of those there. False, with a log line, if the
-    /// store refuses or the entries could not be read before. As with all that is put into a taken
-    /// pair, whether it is stored is known when the project is closed.
+    /// Replaces the entries in the project. Returns false and logs a line if the store refuses or
+    /// the entries could not be read before. The entries are stored with the end of the change,
+    /// whose result is that of vkd_zob_change_status() or vkd_zob_close().
     bool save() const;
 
 private:

@@ -2,14 +2,14 @@
 
 #include "VKD_H_GroupDialog.h"
 
-/// The modal dialog of the secondary groups of a model. exec() answers 1 if the user confirmed, and
-/// getChecked() then delivers packed names.
+/// The modal dialog that selects secondary groups of a model. exec() returns 1 if the user
+/// confirmed; getChecked() then returns packed names.
 class VKD_H_EXPORT VKD_H_SecondaryGroupDialog : public VKD_H_GroupDialog
 {
     Q_OBJECT
 
 public:
-    /// As VKD_H_GroupDialog's; both lists hold packed names.
+    /// See VKD_H_GroupDialog; both lists contain packed names.
     VKD_H_SecondaryGroupDialog(VKD_H_ZOBDoc* doc, const std::vector<int>& checked,
                                const std::vector<int>& usedElsewhere, QWidget* parent = nullptr);
 

@@ -4,7 +4,8 @@
 
 #include <VKD_QT_TabDialog.h>
 
-/// A dialog of pages as pages look for it above them. Users of this class link vkd_qt.
+/// The base class of tab dialogs that contain pages; a page finds its dialog by this type. Users of
+/// this class must link vkd_qt.
 class VKD_H_EXPORT VKD_H_TabDialog : public VKD_QT_TabDialog
 {
     Q_OBJECT

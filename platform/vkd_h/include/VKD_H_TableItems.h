@@ -8,18 +8,18 @@
 
 #include <list>
 
-/// The header of a column of a VKD_H_TableWidget. It knows the column's id, by which a column is
-/// found wherever it stands, and makes the empty items of its cells.
+/// A column header of a VKD_H_TableWidget. It has the id of the column, which does not depend on
+/// the column's position, and creates the empty items of its cells.
 class VKD_H_EXPORT VKD_H_TwHeaderItem : public QTableWidgetItem
 {
 public:
-    /// `longText` is the tool tip, which is left out where `withToolTip` is false. `alignment`
-    /// holds for the cells.
+    /// `longText` is the tool tip, used only if `withToolTip` is true. `alignment` applies to the
+    /// cells.
     VKD_H_TwHeaderItem(int id, const QString& text, const QString& longText, bool withToolTip,
                        Qt::Alignment alignment);
 
     int columnId() const { return m_id; }
-    /// A new cell of this column; the caller owns it.
+    /// Creates a cell of this column; the caller owns it.
     virtual QTableWidgetItem* createEmptyItem() const;
     QTableWidgetItem* clone() const override;
 
@@ -31,7 +31,7 @@ private:
     Qt::Alignment m_alignment;
 };
 
-/// The header of a column of combo boxes.
+/// The header of a column with combo boxes.
 class VKD_H_EXPORT VKD_H_TwHeaderComboBoxItem : public VKD_H_TwHeaderItem
 {
 public:
@@ -45,7 +45,7 @@ private:
     QVector<ComboList> m_entries;
 };
 
-/// The header of a column of check boxes.
+/// The header of a column with check boxes.
 class VKD_H_EXPORT VKD_H_TwHeaderCheckBoxItem : public VKD_H_TwHeaderItem
 {
 public:
@@ -55,14 +55,14 @@ public:
     QTableWidgetItem* clone() const override;
 };
 
-/// A cell with a choice. It holds the text alone: the id is that of the entry with this text.
+/// A cell with a combo box. It stores only the text; the id is that of the entry with this text.
 class VKD_H_EXPORT VKD_H_TwSimpleComboBoxItem : public QTableWidgetItem
 {
 public:
     explicit VKD_H_TwSimpleComboBoxItem(const QVector<ComboList>& entries);
 
     const QVector<ComboList>& entries() const { return m_entries; }
-    /// The id of the entry that the cell shows, -99999 for a text that is none of them.
+    /// Returns the id of the shown entry, or -99999 if the text is not an entry.
     int getCurrentId() const;
     QTableWidgetItem* clone() const override;
 

@@ -6,13 +6,13 @@
 
 class VKD_QT_Menu;
 
-/// The table of the framework: columns with ids (VKD_H_TableItems.h), cells with combo boxes, rows
-/// that are added and deleted, a context menu, and the keys that go with them.
+/// The table widget of the framework: columns with ids (VKD_H_TableItems.h), cells with combo boxes,
+/// operations that add and delete rows, a context menu and shortcuts.
 ///
 /// Arrow keys move from cell to cell, and Tab leaves the table. F2 and Enter open the editor of the
-/// current cell or step into the widget that lies over it. Pages that lay widgets over cells of
-/// their own accord do so as the selection changes; a further F2, Enter or Escape on the cell is
-/// reported to them by another itemSelectionChanged().
+/// current cell or focus the widget over it. Pages that place their own widgets over cells do so
+/// when the selection changes; a further F2, Enter or Escape on the cell emits
+/// itemSelectionChanged() again.
 class VKD_H_EXPORT VKD_H_TableWidget : public VKD_QT_TableWidget
 {
     Q_OBJECT
@@ -21,34 +21,34 @@ public:
     VKD_H_TableWidget(int rows, int columns, QWidget* parent = nullptr, const char* name = nullptr);
     ~VKD_H_TableWidget() override;
 
-    /// Whether the context menu and the keys Insert and Delete add and delete rows by themselves.
+    /// Sets whether the context menu and the keys Insert and Delete add and delete rows; the
+    /// default is true.
     void setContextmenueEnabled_new_del(bool enabled);
 
-    /// The column with this id, and the id of a column; -1 if there is none.
+    /// Return the column with this id and the id of a column; -1 if it does not exist.
     int getColumnNumber(int id) const;
     int getColumnId(int column) const;
-    /// The item of a row in the column with this id; null if there is none.
+    /// Returns the item of a row in the column with this id; null if there is none.
     QTableWidgetItem* itemOnColId(int row, int id) const;
 
-    /// Adds a row at the end, with empty items if `withItems` is set.
+    /// Adds a row at the end, with empty items if `withItems` is true.
     virtual void addNewRow(bool withItems);
-    /// Gives each cell of a row the empty item of its column.
+    /// Sets the empty item of its column in each cell of a row.
     virtual void createEmptyItems(int row);
-    /// Deletes all rows with a selected cell, in one pass. Widgets over cells from the first of
-    /// them on go, too. Nothing is selected afterwards.
+    /// Deletes all rows with a selected cell in one pass, and all widgets over cells from the first
+    /// deleted row on. Clears the selection.
     virtual void deleteSelectedRows();
 
-    /// The context menu, made anew with each call. The table owns it and deletes it with the next
-    /// one.
+    /// Returns a new context menu. The table owns it and deletes it in the next call.
     virtual VKD_QT_Menu* getContextMenu();
 
     using VKD_QT_TableWidget::edit;
 
-    /// Puts the selected cells on the clipboard, as text with tabs and as HTML.
+    /// Copies the selected cells to the clipboard as tab-separated text and as HTML.
     void copySelection() const;
 
 Q_SIGNALS:
-    /// After each change, with the number of rows before and after it.
+    /// Emitted after the number of rows changed.
     void signal_rowCountChanged(int before, int after);
 
 protected:

@@ -9,9 +9,9 @@
 class QHBoxLayout;
 class VKD_H_TableWidget;
 
-/// A frame with a title around a table and the buttons that act on it. The button New can also be
-/// pressed by the key Insert, Delete by the key Delete, while the table or a widget in it has the
-/// focus; these keys are the table's own unless setContextmenueEnabled_new_del(false) was called.
+/// A group box with a table and buttons that act on it. While the table or a widget in it has the
+/// focus, Insert presses the button New, and Delete the button Delete. The table handles these keys
+/// itself unless setContextmenueEnabled_new_del(false) was called.
 class VKD_H_EXPORT VKD_H_TableWidgetBox : public VKD_QT_GroupBox
 {
     Q_OBJECT
@@ -22,17 +22,18 @@ public:
         Delete = 1,
     };
 
-    /// `table` is not owned by the frame until createDefaultLayout() makes it a child.
+    /// createDefaultLayout() makes `table` a child; before that, the box does not own it.
     VKD_H_TableWidgetBox(VKD_H_TableWidget* table, const QString& title, QWidget* parent,
                          const char* name);
 
-    /// The table with its row of buttons above or below it; with neither, there is no row.
+    /// Arranges the table and the row of buttons above or below it; with neither, the row is left
+    /// out.
     void createDefaultLayout(bool buttonsAbove, bool buttonsBelow);
-    /// Adds a button to the row, at its right end if `toTheRight` is set.
+    /// Adds a button to the row, at the right end if `toTheRight` is true.
     void addButton(Buttons button, bool toTheRight);
-    /// Null if it was not added.
+    /// Returns the button, or null if it was not added.
     QPushButton* getButton(Buttons button) const;
-    /// Adds a widget to the row, behind what stands there at the left.
+    /// Adds a widget to the row, after the other widgets at the left.
     void addWidget(QWidget* widget);
 
 protected:

@@ -4,12 +4,12 @@
 
 #include <QString>
 
-/// The text of a unit.
+/// The unit text after a number.
 class VKD_H_EXPORT VKD_H_UnitLabel
 {
 public:
-    /// The unit of a dimension code as it stands right behind a number: with a blank in front,
-    /// unless the sign follows its number without one. Empty for a dimension without a unit. The
-    /// second argument is part of the suite's interface; 0 is to be passed.
+    /// Returns the unit of a dimension code with a leading blank, except for units that follow
+    /// their number directly. Empty for a dimension without a unit. The second argument belongs to
+    /// the suite's interface and must be 0.
     static QString dimString(int code, int unused);
 };

@@ -8,30 +8,31 @@
 
 #include <memory>
 
-/// A project that is open: it owns the database index under which the store knows the file, and
-/// closes it with its own end. Documents are handed around as pointers that nobody else owns.
+/// An open project. It owns the database index of the project's file and closes the project in its
+/// destructor. Documents are passed as non-owning pointers.
 class VKD_H_EXPORT VKD_H_ZOBDoc
 {
 public:
-    /// Opens a project file, or makes a new one that must not be there yet. Null if that fails, and
-    /// `status`, if given, says why: the result of vkd_zob_open() or vkd_zob_create().
+    /// Opens a project file, or creates one that must not exist yet. Returns null on failure;
+    /// `status`, if given, receives the result of vkd_zob_open() or vkd_zob_create().
     static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, VkdStatus* status = nullptr,
                                               const VkdGoOn& goOn = VkdGoOn());
     static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, VkdStatus* status = nullptr);
-    /// The scratch store as a document, for what is not to be in a project yet. All such documents
-    /// are one store, which keeps what is in it; index 0, without a path.
+    /// Returns the scratch store as a document, for data that does not belong to a project yet. It
+    /// has index 0 and no path. All scratch documents share one store, which lives as long as the
+    /// process.
     static std::unique_ptr<VKD_H_ZOBDoc> scratch();
     ~VKD_H_ZOBDoc();
     VKD_H_ZOBDoc(const VKD_H_ZOBDoc&) = delete;
     VKD_H_ZOBDoc& operator=(const VKD_H_ZOBDoc&) = delete;
 
-    /// The database index for the calls of the store and the model queries; 1 or more for a
-    /// project, and -1 once the document is closed.
+    /// Returns the database index for the store and the model queries: 1 or more for a project, -1
+    /// after close().
     int index() const;
     QString path() const;
 
-    /// Closes the document before its end, to learn whether all that was written is stored: the
-    /// result of vkd_zob_close(), OK if the document was closed already.
+    /// Closes the document explicitly, to check that all changes were stored. Returns the result of
+    /// vkd_zob_close(), OK if the document was closed before.
     VkdStatus close();
 
 private:

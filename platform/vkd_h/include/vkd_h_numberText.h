@@ -6,15 +6,15 @@
 
 struct StructLineEdit;
 
-/// How a text reads as a number.
+/// The result of reading a text as a number.
 enum class VkdNumberState {
     Accepted,
     Incomplete,      ///< the beginning of a number: a sign, a decimal sign, "1e"
-    TwoDecimalSigns, ///< "1.234,5": which of them is meant, nobody can tell
+    TwoDecimalSigns, ///< "1.234,5", which is ambiguous
     NoNumber,
-    TooLarge, ///< above the maximum, or more than single precision holds
+    TooLarge, ///< above the maximum or beyond single precision
     TooSmall, ///< below the minimum
-    Missing   ///< empty where a value is needed
+    Missing   ///< empty although a value is required
 };
 
 struct VkdNumberReading
@@ -23,25 +23,26 @@ struct VkdNumberReading
     double value; ///< in the base unit; the description's `notSet` unless accepted
 };
 
-/// Whether the value is the description's `notSet`, in single precision.
+/// Returns whether the value equals the description's `notSet` in single precision.
 VKD_H_EXPORT bool vkd_h_isNotSet(double value, const StructLineEdit& description);
 
-/// Reads what a user typed in the shown unit. In every language dot and comma are both the decimal
-/// sign, and there is no thousands mark. Outer blanks of any kind are left out; an empty text is
-/// "not set". Only the digits 0 to 9 are read, and an exponent as in "1e3"; the typographic minus
-/// counts as a minus.
+/// Reads a text that the user typed in the shown unit. In every language, dot and comma are decimal
+/// signs, and there is no thousands separator. Outer blanks of any kind are ignored; an empty text
+/// means "not set". Only the digits 0 to 9 are accepted, and an exponent as in "1e3"; the
+/// typographic minus counts as a minus.
 VKD_H_EXPORT VkdNumberReading vkd_h_readNumber(const QString& text,
                                                const StructLineEdit& description);
 
-/// The text as programs read numbers: with a point for each decimal sign of the description, "-"
-/// for a minus, and plain blanks. What is no number stays none.
+/// Returns the text in the form that programs read: a point for each decimal sign of the
+/// description, "-" for each minus, and plain blanks. A text that is not a number does not become
+/// one.
 VKD_H_EXPORT QString vkd_h_plainNumberText(const QString& text, const StructLineEdit& description);
 
-/// A value in the base unit as the number that stands in a field, without unit and in the format of
-/// the desktop; empty if not set. It has the decimals of the dimension, and more where these would
-/// make it another number in single precision: up to six significant digits, without closing zeros.
-/// From 1e9 on and below 1e-6 it has an exponent.
+/// Returns the text of a value in the base unit, without unit and in the desktop's number format;
+/// empty if the value is not set. The text has the decimals of the dimension. If these do not
+/// suffice in single precision, it has up to six significant digits without trailing zeros. From
+/// 1e9 on and below 1e-6 it has an exponent.
 VKD_H_EXPORT QString vkd_h_numberText(double value, const StructLineEdit& description);
 
-/// What stands behind the number, the unit as a rule; without a blank in front.
+/// Returns the text after the number, usually the unit, without a leading blank.
 VKD_H_EXPORT QString vkd_h_suffixText(const StructLineEdit& description);

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The units of the desktop. Records hold base units; users read and type the shown ones.
+/// The units of the desktop. Records store base units; users read and type shown units.
 ///
 /// | code | dimension | base unit | shown unit | decimals |
 /// |---|---|---|---|---|
@@ -16,22 +16,21 @@
 /// | 1026 | crack width | mm | mm | 2 |
 /// | 1092 | steel stress | N/mm² | N/mm² | 1 |
 ///
-/// Any other code, -1 above all, has no unit and shows a number as it is, with up to six
-/// significant digits. The decimal sign is that of the desktop's language, and there is no
-/// thousands mark.
+/// Any other code, usually -1, has no unit; its numbers are shown with up to six significant digits.
+/// The decimal sign is that of the desktop's language, and there is no thousands separator.
 struct VkdDimension
 {
     int code;
     double factor;    ///< shown value = base value * factor
     const char* unit; ///< UTF-8
-    int decimals;     ///< -1: as many as six significant digits need
+    int decimals;     ///< -1: up to six significant digits
 };
 
-/// The dimension of a code; one without unit and with the factor 1 for unknown codes.
+/// Returns the dimension of a code. Unknown codes have no unit and the factor 1.
 VKD_H_EXPORT VkdDimension vkd_h_dimension(int code);
 
-/// The values of a dimension that can be meant, in base units. A field takes others as well, but
-/// says that they are unusual.
+/// The plausible values of a dimension, in base units. A field accepts other values too, but marks
+/// them as unusual.
 struct VkdPlausibleRange
 {
     int code;
@@ -39,19 +38,19 @@ struct VkdPlausibleRange
     double maximum;
 };
 
-/// What directions are counted by, where that makes a difference.
+/// The range of a direction.
 enum class VkdDirections {
-    HalfTurn, ///< of bars in a plane, 0 to 180 degrees
+    HalfTurn, ///< bars in a plane, 0 to 180 degrees
     Signed    ///< around a point, -180 to 180 degrees
 };
 
-/// Everything that is finite for a code whose values are not limited by what can be built.
+/// Returns the plausible range of a code; every finite value if the code has no such range.
 VKD_H_EXPORT VkdPlausibleRange
 vkd_h_plausibleRange(int code, VkdDirections directions = VkdDirections::HalfTurn);
 
-/// A value in base units as the number that users of this dimension read, without its unit. The
-/// third argument is part of the suite's interface; -1 is to be passed.
+/// Returns the text of a value in the shown unit, without the unit. The third argument belongs to
+/// the suite's interface and must be -1.
 VKD_H_EXPORT QString vkd_h_getDimStringFromVal(double value, int code, int unused);
 
-/// A number in the format of the desktop; `decimals` as in VkdDimension.
+/// Returns the text of a number in the desktop's format; `decimals` as in VkdDimension.
 VKD_H_EXPORT QString vkd_h_getNumberString(double value, int decimals);

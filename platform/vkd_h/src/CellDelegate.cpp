@@ -34,8 +34,8 @@ bool isEndOfTyping(const QEvent* event)
     }
 }
 
-/// A choice from the open list is an answer: the user need not leave the cell to have it taken.
-/// Keys on the closed list only browse.
+/// A combo box for a cell. A choice from the open list is committed at once; keys on the closed
+/// list only browse.
 class CellCombo : public VKD_QT4_ComboBox
 {
 public:
@@ -81,7 +81,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     m_table->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, painter, m_table);
 }
 
-/// A click on the arrow opens the list.
+/// Opens the list after a click on the arrow.
 bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                const QStyleOptionViewItem& option, const QModelIndex& index)
 {
@@ -93,11 +93,11 @@ bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
         if (cell.isValid() && cell == m_table->currentIndex() && !m_table->indexWidget(cell))
             m_table->edit(cell);
     };
-    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection); // the view is not done with it yet
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection); // the view still uses the event
     return true;
 }
 
-/// The whole text of a cell that cannot show it.
+/// Shows the whole text of a cell that is too small for it.
 bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                              const QStyleOptionViewItem& option, const QModelIndex& index)
 {
@@ -111,14 +111,15 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     return true;
 }
 
-/// A refused number keeps its editor open, so that the user learns why; Escape leaves it.
+/// Keeps the editor open while its number is refused, so that the user sees the reason; Escape
+/// closes it.
 bool CellDelegate::eventFilter(QObject* editor, QEvent* event)
 {
     const auto field = qobject_cast<VKD_H_LineEdit*>(editor);
     if (!field || field->refusal().isEmpty())
         return QStyledItemDelegate::eventFilter(editor, event);
     if (event->type() == QEvent::FocusOut)
-        return false; // the field says why; the view would close it
+        return false; // the field shows the reason; the view would close it
     if (!isEndOfTyping(event))
         return QStyledItemDelegate::eventFilter(editor, event);
     field->showRefusal();
@@ -159,7 +160,7 @@ QWidget* CellDelegate::newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxIte
     return combo;
 }
 
-/// A widget over a cell covers a sign of the cell, too: beside it there would be little room.
+/// An editor also covers the icon of its cell, since there is little room beside it.
 void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex& index) const
 {

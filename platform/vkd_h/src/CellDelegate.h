@@ -5,8 +5,7 @@
 class VKD_H_TableWidget;
 class VKD_H_TwSimpleComboBoxItem;
 
-/// Paints and edits the cells of a VKD_H_TableWidget: cells with a choice get an arrow and a combo
-/// box.
+/// Paints and edits the cells of a VKD_H_TableWidget. Cells with a combo box have an arrow.
 class CellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

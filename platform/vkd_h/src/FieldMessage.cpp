@@ -46,7 +46,7 @@ void FieldMessage::showText(const QString& text)
 
 bool FieldMessage::eventFilter(QObject* watched, QEvent* event)
 {
-    // Input comes to the window first; what the widgets make of it may show the message again.
+    // The window receives input before its widgets do, and these may show the message again.
     const QEvent::Type type = event->type();
     if (watched->isWindowType() && (type == QEvent::KeyPress || type == QEvent::MouseButtonPress))
         hide();

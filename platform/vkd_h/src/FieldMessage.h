@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QTimer>
 
-/// A short message at an input field, in the look of a tool tip. Unlike one it outlives the change
-/// of focus that it is about. It goes with the next key or click, before that takes effect, and
-/// after a while by itself.
+/// A short message at an input field that looks like a tool tip. Unlike a tool tip, it stays when
+/// the focus changes. It is hidden by the next key or click, before the widgets receive it, and
+/// after ten seconds.
 class FieldMessage : public QLabel
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
     /// The field becomes the parent.
     explicit FieldMessage(QWidget* field);
 
-    /// Shows the text below the field, or above it at the foot of the screen.
+    /// Shows the text below the field, or above it at the bottom of the screen.
     void showText(const QString& text);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

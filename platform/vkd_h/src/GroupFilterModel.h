@@ -7,7 +7,7 @@ namespace h {
 
 class GroupTableModel;
 
-/// The sorted rows of which the number, the name or the title contains a text, in any case.
+/// A sorted proxy of the rows whose number, name or title contains a text, case-insensitively.
 class GroupFilterModel : public QSortFilterProxyModel
 {
 public:
@@ -15,7 +15,7 @@ public:
     GroupFilterModel(GroupTableModel* groups, QObject* parent);
 
     void setText(const QString& text);
-    /// The rows that are shown, as rows of the table.
+    /// Returns the shown rows as row numbers of the source model.
     QVector<int> shownRows() const;
 
 protected:

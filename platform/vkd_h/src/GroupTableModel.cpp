@@ -48,7 +48,7 @@ QVariant dimmed()
     return color;
 }
 
-/// Escaped, because a tool tip would take a title with angle brackets for markup.
+/// Escapes the text, because a tool tip would treat angle brackets as markup.
 QString toolTip(const QString& text)
 {
     return text.isEmpty()
@@ -195,7 +195,7 @@ QString GroupTableModel::text(const GroupRow& row, int column) const
     }
 }
 
-/// By what stays the same while the user checks rows: none is to move under the mouse.
+/// Uses only values that do not change when rows are checked: rows must not move under the mouse.
 QVariant GroupTableModel::sortValue(const GroupRow& row, int column) const
 {
     switch (column) {

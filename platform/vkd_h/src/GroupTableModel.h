@@ -7,8 +7,8 @@
 namespace vkd {
 namespace h {
 
-/// The rows of a group dialog with their check boxes. A group of another row of the caller is set
-/// apart until it is checked, which takes it over.
+/// The rows of a group dialog with their check boxes. A group of another row of the caller is
+/// dimmed until the user checks it, which takes it over.
 class GroupTableModel : public QAbstractTableModel
 {
 public:
@@ -21,13 +21,13 @@ public:
     std::vector<int> groups() const;
     std::vector<int> checkedGroups() const;
     void setChecked(const QVector<int>& rows, bool isChecked);
-    /// The row of a group that is in the list.
+    /// Returns the row of a group; the list must contain it.
     int rowOf(int group) const;
-    /// Whether there is anything that this column could have to say.
+    /// Returns whether the remark column can contain a text.
     bool hasRemarks() const;
-    /// The longest texts that the column may come to show, a few dozen at most.
+    /// Returns the longest texts that the column can show, a few dozen at most.
     QStringList longestTexts(int column) const;
-    /// Tells the views that the texts of the table itself are others.
+    /// Updates the views after the translated texts changed.
     void languageChanged();
 
     int rowCount(const QModelIndex& parent = {}) const override;

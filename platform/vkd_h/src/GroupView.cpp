@@ -43,7 +43,7 @@ void GroupView::fitColumns(const GroupTableModel& groups)
     }
 }
 
-/// Measures the longest texts only: to measure thousands would take most of the time to open.
+/// Measures only the longest texts; measuring thousands would take most of the opening time.
 int GroupView::columnWidthFor(const GroupTableModel& groups, int column) const
 {
     const QFontMetrics metrics = fontMetrics();

@@ -7,8 +7,8 @@ namespace h {
 
 class GroupTableModel;
 
-/// The list of a group dialog. It asks for the room that its content needs, within limits, and says
-/// so in its middle if nothing is shown.
+/// The list of a group dialog. Its size hint fits the content within limits. An empty list shows a
+/// message in its middle.
 class GroupView : public QTreeView
 {
     Q_OBJECT
@@ -16,15 +16,16 @@ class GroupView : public QTreeView
 public:
     explicit GroupView(QWidget* parent);
 
-    /// Fits the columns to the table that the view shows by way of its own model.
+    /// Fits the columns to the texts of the source model.
     void fitColumns(const GroupTableModel& groups);
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The space bar was pressed; `rows` are the first indexes of the selected rows, never none.
+    /// Emitted for the space bar; `rows` are the first indexes of the selected rows and never
+    /// empty.
     void toggleRequested(const QModelIndexList& rows);
-    /// The focus came, and the user may change the list next.
+    /// Emitted when the view got the focus, before the user can change the list.
     void reached();
 
 protected:

@@ -10,7 +10,7 @@
 #include <QValidator>
 
 namespace {
-/// The label as the name of a quantity.
+/// Returns the label without mnemonic and colon.
 QString plainName(QString label)
 {
     label = label.remove(QLatin1Char('&')).trimmed();
@@ -28,7 +28,7 @@ StructBoxedEdit completed(const StructBoxedEdit* given)
 {
     StructBoxedEdit description = given ? *given : StructBoxedEdit();
     if (fallsBack(description.edit))
-        description.edit.flags |= StructLineEdit::EmptyAllowed; // while it is typed
+        description.edit.flags |= StructLineEdit::EmptyAllowed; // during typing
     description.edit.flags |= StructLineEdit::TextForPrograms;
     return description;
 }
@@ -40,7 +40,7 @@ VKD_H_LineEdit* newEdit(QWidget* parent, StructBoxedEdit& description, const cha
                               plainName(description.label), description.toolTip, true);
 }
 
-/// Writes the points of a number while it is typed, pasted or dropped, and refuses nothing.
+/// Replaces decimal signs by points in typed, pasted and dropped text; accepts every text.
 class PointWriter : public QValidator
 {
 public:
@@ -101,7 +101,7 @@ QString VKD_H_BoxedLineEdit::getText() const
 
 void VKD_H_BoxedLineEdit::setText(const QString& text)
 {
-    const QSignalBlocker silence(this); // the field takes it for a preset that was chosen
+    const QSignalBlocker silence(this); // the field treats the text like a chosen preset
     const QValidator* points = m_edit->validator();
     m_edit->setValidator(nullptr);
     m_edit->setText(text);
@@ -129,7 +129,7 @@ VKD_H_LineEdit* VKD_H_BoxedLineEdit::edit() const
 bool VKD_H_BoxedLineEdit::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_edit && endsInput(event))
-        fillEmptyField(); // ahead of what the field makes of it
+        fillEmptyField(); // before the field handles the event
     return QWidget::eventFilter(watched, event);
 }
 
@@ -167,7 +167,7 @@ void VKD_H_BoxedLineEdit::fillEmptyField()
         setVal(m_description.edit.emptied);
 }
 
-/// An emptied field shows, dimmed, what it stands for.
+/// An empty field shows the value that it stands for as a dimmed placeholder.
 void VKD_H_BoxedLineEdit::showDefault()
 {
     if (fallsBack(m_description.edit))

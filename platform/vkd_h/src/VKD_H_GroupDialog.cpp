@@ -27,7 +27,7 @@ using vkd::h::GroupTableModel;
 using vkd::h::GroupView;
 
 namespace {
-/// In the empty field, which is wide enough for it and for the button that clears.
+/// Sets the placeholder text and makes the field wide enough for it and the clear button.
 void showHint(QLineEdit* field, const QString& hint)
 {
     field->setPlaceholderText(hint);
@@ -70,7 +70,7 @@ VKD_H_GroupDialog::VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* d
         layout->addStretch();
     }
     addFoot(layout);
-    resize(sizeHint().boundedTo(mostSize())); // Qt's own limit would cut columns off
+    resize(sizeHint().boundedTo(mostSize())); // Qt's own limit would cut off columns
 }
 
 int VKD_H_GroupDialog::getChecked(std::vector<int>& groups) const
@@ -79,8 +79,8 @@ int VKD_H_GroupDialog::getChecked(std::vector<int>& groups) const
     return 0;
 }
 
-/// Typed text is meant, even without Enter. A message about it keeps the dialog open once, so that
-/// the user reads it.
+/// Applies typed text even without Enter. If that produces a message, the dialog stays open once so
+/// that the user can read it.
 void VKD_H_GroupDialog::accept()
 {
     if (hasInput()) {
@@ -125,7 +125,7 @@ void VKD_H_GroupDialog::keyPressEvent(QKeyEvent* event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && m_input && m_input->hasFocus())
         applyInput();
-    else if (!isEnter || !m_filter || !m_filter->hasFocus()) // the filter has been applied already
+    else if (!isEnter || !m_filter || !m_filter->hasFocus()) // the filter is applied already
         VKD_QT_Dialog::keyPressEvent(event);
 }
 
@@ -143,7 +143,7 @@ void VKD_H_GroupDialog::changeEvent(QEvent* event)
         return;
     m_groups->languageChanged();
     setTexts();
-    showMessage(QString()); // Check and OK say it again if need be
+    showMessage(QString()); // Check and OK show it again if necessary
 }
 
 void VKD_H_GroupDialog::addFilterLine(QVBoxLayout* layout)
@@ -172,7 +172,7 @@ void VKD_H_GroupDialog::addList(QVBoxLayout* layout)
     m_view = new GroupView(this);
     m_view->setObjectName(QStringLiteral("groups"));
     m_view->setModel(m_shown);
-    m_view->setSortingEnabled(true); // first, because the marks of the header need room
+    m_view->setSortingEnabled(true); // first, because sort indicators need room in the header
     m_view->sortByColumn(GroupTableModel::Group, Qt::AscendingOrder);
     const std::vector<int> checked = m_groups->checkedGroups();
     const int first = checked.empty() ? 0 : m_groups->rowOf(checked.front());
@@ -181,7 +181,8 @@ void VKD_H_GroupDialog::addList(QVBoxLayout* layout)
     m_view->setFocus();
     layout->addWidget(m_view, 1);
     connect(m_view, &GroupView::toggleRequested, this, &VKD_H_GroupDialog::toggle);
-    // Before the user works in the list, typed groups are checked there and can be taken back.
+    // Typed groups are checked before the user can edit the list, so that the user can uncheck
+    // them.
     connect(m_view, &GroupView::reached, this, &VKD_H_GroupDialog::presentChoice);
     connect(m_groups, &GroupTableModel::dataChanged, this, &VKD_H_GroupDialog::updateCount);
 }
@@ -198,7 +199,7 @@ void VKD_H_GroupDialog::addInputLine(QVBoxLayout* layout)
     m_check = addButton(line, "check");
     layout->addLayout(line);
     m_message = new VKD_QT_Label(this, "message");
-    m_message->setTextFormat(Qt::PlainText); // it repeats what the user typed
+    m_message->setTextFormat(Qt::PlainText); // it contains the user's text
     m_message->setWordWrap(true);
     m_message->hide();
     layout->addWidget(m_message);
@@ -279,7 +280,7 @@ bool VKD_H_GroupDialog::applyInput()
     m_groups->setChecked(rows, true);
     const QStringList refused = input.unreadable + input.missing;
     showMessage(vkd::h::inputText(input, withoutAreas));
-    m_input->setText(refused.join(QLatin1Char(' '))); // what is in the list is not typed any more
+    m_input->setText(refused.join(QLatin1Char(' '))); // checked groups are removed from the field
     m_input->selectAll();
     return refused.isEmpty();
 }

@@ -15,7 +15,7 @@
 #include <utility>
 
 namespace {
-constexpr int Gap = 4; // between the number and what stands around it, in pixels
+constexpr int Gap = 4; // around the number, in pixels
 constexpr int LongestQuote = 24;
 
 bool isSame(double a, double b)
@@ -65,7 +65,7 @@ void VKD_H_LineEdit::setVal(double value)
     m_value = m_told = value;
     m_shown = vkd_h_numberText(value, m_description);
     setText(m_shown);
-    m_fault.clear(); // the text may have been the same, and then no signal came
+    m_fault.clear(); // setText() emits no signal if the text did not change
     updateMark();
     followPresets();
 }
@@ -115,7 +115,7 @@ void VKD_H_LineEdit::clearFault()
     setFault(QString());
 }
 
-/// Text that the user did not type is a preset and counts at once: Escape does not undo it.
+/// Text that the user did not type is a preset and takes effect at once: Escape does not undo it.
 void VKD_H_LineEdit::takeText(const QString& text)
 {
     const bool isTyped = std::exchange(m_isTyped, false);
@@ -135,7 +135,7 @@ void VKD_H_LineEdit::takeText(const QString& text)
     }
 }
 
-/// The end of typing: what stands in the field is taken and written as fields write it.
+/// Accepts the current text at the end of typing and reformats it.
 void VKD_H_LineEdit::keepText()
 {
     m_value = getVal();
@@ -155,7 +155,7 @@ bool VKD_H_LineEdit::restoreText()
     return true;
 }
 
-/// A combo box completes what is typed by its entries, so that "1" would become "10" unasked.
+/// The inline completion of a combo box would turn a typed "1" into its entry "10".
 void VKD_H_LineEdit::dropInlineCompletion()
 {
     if (completer() && completer()->completionMode() == QCompleter::InlineCompletion)
@@ -174,7 +174,7 @@ void VKD_H_LineEdit::setTips()
     setToolTip(lines.join(QLatin1Char('\n')));
 }
 
-/// A text that could become a number by typing on is not marked as yet.
+/// Updates the mark. `mayGrow` suppresses it for a text that can still become a number.
 void VKD_H_LineEdit::updateMark(bool mayGrow)
 {
     const QString reason = mayGrow ? QString() : refusal();
@@ -207,7 +207,8 @@ QComboBox* VKD_H_LineEdit::comboBox() const
     return combo && combo->lineEdit() == this ? combo : nullptr;
 }
 
-/// The current entry of a combo box is the preset that its field shows, whether chosen or not.
+/// Sets the current entry of the combo box to the preset that the field shows, even if the user
+/// typed it.
 void VKD_H_LineEdit::followPresets()
 {
     QComboBox* combo = comboBox();
@@ -218,7 +219,7 @@ void VKD_H_LineEdit::followPresets()
     markPreset(combo, isValue ? presetAt(*combo, getVal(), m_description) : -1);
 }
 
-/// From a value between presets Up and Down lead to those beside it.
+/// From a value between presets, Up and Down lead to the neighbouring ones.
 bool VKD_H_LineEdit::stepToPreset(int key)
 {
     QComboBox* combo = comboBox();
@@ -264,7 +265,7 @@ QSize VKD_H_LineEdit::minimumSizeHint() const
 
 bool VKD_H_LineEdit::event(QEvent* event)
 {
-    // A dialog's shortcut must not take the Escape that brings the text back.
+    // A dialog's shortcut must not receive the Escape that restores the text.
     if (event->type() == QEvent::ShortcutOverride && text() != m_shown &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         event->accept();
@@ -296,7 +297,7 @@ void VKD_H_LineEdit::keyPressEvent(QKeyEvent* event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape && restoreText())
         return;
-    if (isEnter && !refusal().isEmpty()) { // and not on to the dialog's OK
+    if (isEnter && !refusal().isEmpty()) { // must not reach the dialog's OK button
         updateMark();
         m_mark->showMessage();
         return;
@@ -312,7 +313,7 @@ void VKD_H_LineEdit::focusInEvent(QFocusEvent* event)
     const bool wasIn = std::exchange(m_wasIn, false);
     m_selectsAll = event->reason() == Qt::MouseFocusReason;
     QLineEdit::focusInEvent(event);
-    if (!wasIn && !m_selectsAll) // with the mouse when its button is released
+    if (!wasIn && !m_selectsAll) // with the mouse, selects when the button is released
         selectAll();
     if (!m_mark->text().isEmpty() && event->reason() != Qt::PopupFocusReason)
         m_mark->showMessage();

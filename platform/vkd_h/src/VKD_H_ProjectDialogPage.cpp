@@ -3,7 +3,7 @@
 #include <vkd_zob.h>
 
 namespace {
-constexpr int EntriesKey = 420; // with the number of the page: a record for key and value in turn
+constexpr int EntriesKey = 420; // second key: the page; records: key and value in turn
 
 QByteArray readRecord(int index, int page, int position, cd_error_t* status)
 {

@@ -27,7 +27,7 @@ VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, con
     connect(model(), &QAbstractItemModel::modelReset, this, changed);
 }
 
-/// The model outlives this part of the table and is reset while it goes.
+/// The model outlives this subobject and is reset while the base class is destroyed.
 VKD_H_TableWidget::~VKD_H_TableWidget()
 {
     model()->disconnect(this);
@@ -81,20 +81,21 @@ void VKD_H_TableWidget::createEmptyItems(int row)
             setItem(row, column, header->createEmptyItem());
 }
 
-/// The rows that stay move up, and the end is cut off once: removing row after row is quadratic.
+/// Moves the remaining rows up and removes the end at once; removing single rows takes quadratic
+/// time.
 void VKD_H_TableWidget::deleteSelectedRows()
 {
     const std::set<int> rows = getSelectetRows();
     if (rows.empty())
         return;
     if (isAncestorOf(QApplication::focusWidget()))
-        setFocus(); // an open editor takes what was typed and closes
+        setFocus(); // commits and closes an open editor
     const int above = int(std::distance(rows.begin(), rows.lower_bound(currentRow())));
     const QPoint current(currentColumn(), currentRow() - above);
     int kept = *rows.begin();
     {
         const QSignalBlocker blocker(model());
-        // With updates on, the header looks up the place of each row that changes its height.
+        // With updates enabled, the header computes the position of each row whose height changes.
         const bool updates = verticalHeader()->updatesEnabled();
         verticalHeader()->setUpdatesEnabled(false);
         for (int row = kept; row < rowCount(); ++row)
@@ -121,7 +122,7 @@ void VKD_H_TableWidget::moveRow(int row, int to)
     setVerticalHeaderItem(to, takeVerticalHeaderItem(row));
     const bool isHidden = isRowHidden(row);
     for (int shown : {row, to})
-        setRowHidden(shown, false); // or else it has no height
+        setRowHidden(shown, false); // hidden rows have no height
     setRowHeight(to, rowHeight(row));
     setRowHidden(to, isHidden);
 }
@@ -142,7 +143,7 @@ VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
     return m_menu;
 }
 
-/// A widget over a cell may show what the cell itself does not.
+/// Returns the shown text, which may be that of a widget over the cell.
 QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
 {
     const QWidget* widget = indexWidget(cell);
@@ -155,8 +156,8 @@ QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
 bool VKD_H_TableWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
     if (trigger == CurrentChanged)
-        return false; // arrow keys pass over a widget on a cell and do not end up in it
-    // A letter would choose at once among the entries that begin with it.
+        return false; // arrow keys move past widgets over cells
+    // A letter must not choose an entry that begins with it.
     const bool isChoice =
         dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(item(index.row(), index.column()));
     return !(isChoice && trigger == AnyKeyPressed) &&
@@ -193,7 +194,8 @@ void VKD_H_TableWidget::keyPressEvent(QKeyEvent* event)
         VKD_QT_TableWidget::keyPressEvent(event);
 }
 
-/// With the focus back in the table, so that this does not pass for work in the widget.
+/// Closes a widget over a cell by changing the selection. The focus returns to the table first, so
+/// that the page does not take this for input in the widget.
 void VKD_H_TableWidget::closeCell(const QWidget* widget)
 {
     setFocus();
@@ -204,7 +206,7 @@ void VKD_H_TableWidget::closeCell(const QWidget* widget)
         Q_EMIT itemSelectionChanged();
 }
 
-/// A widget over the current cell or else over another one.
+/// Returns the widget over the current cell or, if there is none, over another cell.
 const QWidget* VKD_H_TableWidget::widgetOverACell() const
 {
     if (const QWidget* here = indexWidget(currentIndex()))
@@ -217,15 +219,16 @@ const QWidget* VKD_H_TableWidget::widgetOverACell() const
     return nullptr;
 }
 
-/// Enter must not reach the dialog around the table, whose OK it would press. Who lays widgets over
-/// cells takes another itemSelectionChanged() for the wish to have one here.
+/// Opens the current cell. Enter must not reach the dialog around the table, whose OK it would
+/// press. Pages that place widgets over cells interpret another itemSelectionChanged() as a request
+/// for one.
 void VKD_H_TableWidget::openCell()
 {
     const QModelIndex cell = currentIndex();
     if (!cell.isValid() || stepInto(indexWidget(cell)))
         return;
     if (cell.flags() & Qt::ItemIsEditable)
-        edit(cell, EditKeyPressed, nullptr); // says nothing where an editor is open already
+        edit(cell, EditKeyPressed, nullptr); // does nothing if an editor is open
     else
         Q_EMIT itemSelectionChanged();
     stepInto(indexWidget(currentIndex()));

@@ -56,5 +56,5 @@ VkdStatus VKD_H_ZOBDoc::close()
     if (m_index < 0)
         return {};
     const int index = std::exchange(m_index, -1);
-    return index == ScratchIndex ? VkdStatus() : vkd_zob_close(index); // which lives on
+    return index == ScratchIndex ? VkdStatus() : vkd_zob_close(index); // the scratch store lives on
 }

@@ -9,7 +9,7 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// Ascending, each once.
+/// Returns the groups in ascending order without duplicates.
 std::vector<int> sorted(std::vector<int> groups)
 {
     std::sort(groups.begin(), groups.end());

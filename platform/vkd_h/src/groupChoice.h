@@ -7,19 +7,19 @@
 namespace vkd {
 namespace h {
 
-/// A list of groups holds both kinds, and a group dialog shows one of them.
+/// Returns whether a number of a list is a group of this kind; lists contain both kinds.
 bool isOfKind(VKD_H_GroupKind kind, int group);
 
-/// The groups of the list that the dialog does not show and that OK may replace: those of the other
-/// kind, ascending, each once. The mark for the remaining groups is none of them.
+/// Returns the groups of the other kind, which the dialog does not show and OK may replace, in
+/// ascending order without duplicates. The -1 of the remaining groups is not included.
 std::vector<int> groupsNotShown(VKD_H_GroupKind kind, const std::vector<int>& opened);
 
-/// Whether other groups are checked than those that the dialog was opened with. `checked` ascends.
+/// Returns whether the checked groups differ from the initial ones. `checked` must be ascending.
 bool isOtherChoice(VKD_H_GroupKind kind, const std::vector<int>& opened,
                    const std::vector<int>& checked);
 
-/// The groups that OK confirms, ascending: the checked ones take the place of the whole list. A
-/// dialog in which nothing is changed confirms the list that it was opened with.
+/// Returns the groups that OK confirms, in ascending order. The checked groups replace the whole
+/// list. If the user changed nothing, the initial list is confirmed.
 std::vector<int> confirmedGroups(VKD_H_GroupKind kind, const std::vector<int>& opened,
                                  const std::vector<int>& checked);
 

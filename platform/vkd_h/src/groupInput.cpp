@@ -14,7 +14,8 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// Marks in place of a growing list, because the same range may be typed thousands of times.
+/// Flags for the existing groups. A growing list would be too large, because the user may repeat a
+/// range thousands of times.
 class Marks
 {
 public:
@@ -24,7 +25,7 @@ public:
     {
     }
 
-    /// False if nothing exists from `first` to `last`.
+    /// Marks the groups from `first` to `last`. Returns false if none exists.
     bool mark(qint64 first, qint64 last)
     {
         const auto begin = std::lower_bound(m_existing.begin(), m_existing.end(), first);
@@ -54,19 +55,18 @@ QStringList parts(const QString& text)
     return text.split(separator, Qt::SkipEmptyParts);
 }
 
-/// Ranges in one piece: hyphens in place of the dashes that come with copied texts, and no blanks
-/// around them.
+/// Replaces the dashes of copied texts by hyphens and removes the blanks around them.
 QString withPlainRanges(const QString& text)
 {
     static const QRegularExpression dash(QStringLiteral("[\\x{2010}-\\x{2015}\\x{2212}]"));
-    QString plain = text.simplified(); // at most one blank: the time of what follows is linear
+    QString plain = text.simplified(); // keeps the replacements linear in time
     plain.replace(dash, QStringLiteral("-"));
     plain.replace(QStringLiteral(" -"), QStringLiteral("-"));
     plain.replace(QStringLiteral("- "), QStringLiteral("-"));
     return plain;
 }
 
-/// Digits as a number; too large a one is beyond every group anyway.
+/// Converts digits to a number. Overflow gives the maximum, which is above every group.
 qint64 number(const QString& digits)
 {
     bool isFitting = false;

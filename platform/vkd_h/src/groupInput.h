@@ -7,22 +7,22 @@
 namespace vkd {
 namespace h {
 
-/// What a text typed by the user says about groups. Its parts are separated by blanks, commas or
-/// semicolons. However long or large, it takes no more time and memory than the existing groups
-/// and its own length ask for.
+/// The groups in a text that the user typed. Its parts are separated by blanks, commas or
+/// semicolons. Time and memory are bounded by the number of existing groups and the length of the
+/// text.
 struct GroupInput
 {
-    std::vector<int> groups; ///< those that exist, ascending
-    QStringList unreadable;  ///< parts that make no sense
+    std::vector<int> groups; ///< existing groups, ascending
+    QStringList unreadable;  ///< parts that cannot be parsed
     QStringList missing;     ///< parts that name no existing group
 };
 
 /// Reads numbers and ranges such as 1-5, in either direction and with any dash. A range stands for
-/// the existing groups in it, and is missing if there is none. `existing` ascends.
+/// the existing groups in it; if there are none, it is missing. `existing` must be ascending.
 GroupInput readNumbers(const QString& text, const std::vector<int>& existing);
 
-/// Reads names of secondary groups. The case counts only where two names differ in nothing else.
-/// `existing` are packed names and ascend.
+/// Reads names of secondary groups. The case matters only if two names differ in nothing else.
+/// `existing` must contain packed names in ascending order.
 GroupInput readNames(const QString& text, const std::vector<int>& existing);
 
 } // namespace h

@@ -18,7 +18,7 @@ namespace {
 using dbo::GroupContents;
 using dbo::GroupSummary;
 
-/// The texts belong to the dialog, whatever file makes them.
+/// The translation context of the dialog, which all files of it share.
 struct DialogText
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)
@@ -84,7 +84,7 @@ GroupRow toRow(VKD_H_GroupKind kind, const GroupSummary& summary)
     return row;
 }
 
-using RowsByGroup = std::map<int, GroupRow>; // a group that was stored twice is there once
+using RowsByGroup = std::map<int, GroupRow>; // without duplicates, even if a group was stored twice
 
 RowsByGroup modelRows(VKD_H_GroupKind kind, int index)
 {

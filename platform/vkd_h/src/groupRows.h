@@ -10,22 +10,22 @@
 namespace vkd {
 namespace h {
 
-/// A group as the dialogs show it.
+/// One row of a group dialog.
 struct GroupRow
 {
-    int group = 0; ///< the number, or the packed name
-    QString name;  ///< what the user knows it by
+    int group = 0; ///< number or packed name
+    QString name;  ///< the number or name as shown
     QString title;
     QString contents;
     int elements = 0;
     bool isInModel = true;
-    bool hasAreas = true; ///< also of a group that is not in the model
+    bool hasAreas = true; ///< true for a group that the model lacks
     bool isTaken = false; ///< belongs to another row of the caller
     bool isChecked = false;
 };
 
-/// The groups of one kind in the project at this database index, -1 for none, and those that are
-/// checked without being in the model; ascending by `group`.
+/// Returns the groups of one kind in the project at this database index (-1 for none), plus checked
+/// groups that the model lacks, sorted by `group`.
 QVector<GroupRow> groupRows(VKD_H_GroupKind kind, int index, const std::vector<int>& checked,
                             const std::vector<int>& usedElsewhere);
 

@@ -11,13 +11,13 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// The texts belong to the dialog, whatever file makes them.
+/// The translation context of the dialog, which all files of it share.
 struct DialogText
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)
 };
 
-/// A few of the parts of an input: what was pasted may be long.
+/// Lists the first few parts of the input; a pasted text may be long.
 QString listed(const QStringList& parts)
 {
     constexpr int Most = 5;
@@ -30,7 +30,7 @@ QString listed(const QStringList& parts)
     return shown.join(QLatin1String(", "));
 }
 
-/// A few of the groups by name, of either kind.
+/// Lists the first few groups by number or name.
 QString listed(const std::vector<int>& groups)
 {
     QStringList names;

@@ -6,18 +6,18 @@
 namespace vkd {
 namespace h {
 
-/// The sentences of a group dialog, in the language of the desktop.
+/// Texts of a group dialog in the desktop's language.
 
-/// The message about a typed text and about those of its groups that have no area elements; empty
-/// if there is nothing to say. Plain text, because it repeats the user's.
+/// Returns the message about a typed text and its groups without area elements; empty if there is
+/// nothing to report. The message is plain text, because it contains the user's text.
 QString inputText(const GroupInput& input, const std::vector<int>& withoutAreas);
 
-/// How many groups are checked, and how many of these deserve a look. `shown` are the rows that the
-/// filter lets through.
+/// Returns the text with the number of checked groups, and of those that are taken over, have no
+/// area elements or are hidden. `shown` are the rows that pass the filter.
 QString countText(const QVector<GroupRow>& rows, const QVector<int>& shown);
 
-/// The effect of OK on the groups of the list that the dialog does not show; empty if there are
-/// none.
+/// Returns the text about the groups of the list that the dialog does not show and the effect of OK
+/// on them; empty if there are none.
 QString notShownText(VKD_H_GroupKind kind, const std::vector<int>& opened,
                      const std::vector<int>& checked);
 

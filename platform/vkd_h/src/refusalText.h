@@ -6,12 +6,14 @@ enum class VkdNumberState;
 struct StructLineEdit;
 struct VkdPlausibleRange;
 
-/// Why a field refuses a text, as one or two sentences; empty for an accepted one.
+/// Returns the reason why a field refuses a text in one or two sentences; empty for an accepted
+/// text.
 QString refusalText(VkdNumberState state, const QString& text, const StructLineEdit& description);
 
-/// Why a value can hardly be meant; empty for one within the range and for one that is not set.
-/// Compared in single precision, as records hold values.
+/// Returns the reason why a value is implausible; empty for a value within the range or not set.
+/// Values are compared in single precision, as in records.
 QString doubtText(double value, const VkdPlausibleRange& range, const StructLineEdit& description);
 
-/// What a field that refuses its text does: which value, in base units, counts meanwhile.
+/// Returns the sentence that names the value, given in base units, that remains while the text is
+/// refused.
 QString keptValueText(double value, const StructLineEdit& description);

@@ -5,7 +5,7 @@
 namespace vkd {
 namespace h {
 
-/// The name in a packed number, with "?" for what nobody can read.
+/// Returns the name in a packed number, with "?" for unprintable characters.
 QString shownName(int packed);
 
 } // namespace h

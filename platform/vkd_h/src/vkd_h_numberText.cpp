@@ -16,7 +16,7 @@ constexpr int SignificantDigits = 6;
 constexpr double ExponentFrom = 1e9;
 constexpr double ExponentBelow = 1e-6;
 
-/// \d would match the digits of every script.
+/// Uses [0-9] because \d would match the digits of every script.
 bool isNumber(const QString& plain)
 {
     static const QRegularExpression number(
@@ -44,7 +44,7 @@ VkdNumberState stateOf(const QString& plain)
     return two ? VkdNumberState::TwoDecimalSigns : VkdNumberState::NoNumber;
 }
 
-/// Records hold floats: what is typed has to be one, and not infinity.
+/// Checks the limits. Records store floats, so the value must be a finite float.
 VkdNumberState stateOf(double value, const StructLineEdit& description)
 {
     if (!(std::fabs(value) <= double(std::numeric_limits<float>::max())))
@@ -68,7 +68,7 @@ bool isNotSetText(const QString& text, const StructLineEdit& description)
     return text.isEmpty() || std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-/// Six significant digits, closing zeros cut down to this many decimals.
+/// Formats six significant digits and removes trailing zeros down to this many decimals.
 QString significantText(double shown, int decimals)
 {
     const int needed = SignificantDigits - 1 - int(std::floor(std::log10(std::fabs(shown))));
@@ -102,7 +102,7 @@ bool vkd_h_isNotSet(double value, const StructLineEdit& description)
 
 VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& description)
 {
-    const QString trimmed = text.trimmed(); // of Unicode's blanks too, as the no-break ones
+    const QString trimmed = text.trimmed(); // removes Unicode blanks too, such as no-break spaces
     if (isNotSetText(trimmed, description))
         return {emptyState(description), description.notSet};
     const QString plain = vkd_h_plainNumberText(trimmed, description);
@@ -114,7 +114,7 @@ VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& des
     }
     if (state != VkdNumberState::Accepted)
         return {state, description.notSet};
-    return {state, float(value) == 0 ? 0.0 : value}; // "-0" too, and what no float can hold
+    return {state, float(value) == 0 ? 0.0 : value}; // for "-0" and underflow, too
 }
 
 QString vkd_h_plainNumberText(const QString& text, const StructLineEdit& description)

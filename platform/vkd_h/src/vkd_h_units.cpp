@@ -20,7 +20,7 @@ constexpr double HalfTurn = 180.0 / DegreesPerRadian;
 
 constexpr VkdPlausibleRange Plausible[] = {
     {DirectionCode, 0.0, HalfTurn},
-    {1021, 0.0, 251.33}, // bars of 40 mm, the largest, at 50 mm
+    {1021, 0.0, 251.33}, // the largest bars, 40 mm, at 50 mm spacing
     {1024, 0.0, 0.3},
     {1026, 0.0, 1.0},
     {1092, 0.0, 600.0},
@@ -59,7 +59,7 @@ QString vkd_h_getDimStringFromVal(double value, int code, int)
 }
 
 namespace {
-/// The units as they stand behind a number, in the order of the table.
+/// Returns the unit texts after a number, in the order of the table.
 std::vector<QString> unitLabels()
 {
     std::vector<QString> labels;
@@ -73,7 +73,7 @@ std::vector<QString> unitLabels()
 
 QString VKD_H_UnitLabel::dimString(int code, int)
 {
-    static const std::vector<QString> labels = unitLabels(); // asked for with each value of a table
+    static const std::vector<QString> labels = unitLabels(); // tables call this for each value
     for (std::size_t i = 0; i < labels.size(); ++i)
         if (Dimensions[i].code == code)
             return labels[i];
