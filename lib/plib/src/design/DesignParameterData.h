@@ -24,8 +24,8 @@ struct DesignParameterRow
 /// nothing else.
 bool isRemainingGroups(const std::vector<int>& groups);
 
-/// The state of one design parameter page. It has no widgets of its own, so that the rules on rows
-/// can be tested without them.
+/// The state of one design parameter page. It is separate from the page, so that the rules on rows
+/// need no widget.
 struct DesignParameterData
 {
     int kindOfSystem = 0;

@@ -9,7 +9,7 @@ class VKD_H_ProjectDialogPage;
 namespace plib {
 
 /// Returns the parameters of a row as the text of an entry. The record must be in the stored form.
-/// The text does not contain the maximum reinforcement, `mode` and the reserved words.
+/// The text does not contain the minimum and maximum reinforcement, `mode` and the reserved words.
 QString entryText(const tagZOB_QUAD_RIM& record);
 
 /// Reads an entry into the record of a row, in the stored form. Fields that the text does not

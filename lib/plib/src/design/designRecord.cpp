@@ -45,8 +45,8 @@ void tripleToStored(const float& a, float& b, float& c)
     c = b >= 0 && c >= 0 ? b + c : NotSet;
 }
 
-// clearNegative() is for fields in which zero is a value; the other function is for fields in which
-// zero means not set.
+// Zero is a value in the fields for clearNegative(); in those for clearZeroOrNegative() it means
+// not set.
 void clearNegative(float& value)
 {
     if (value < 0 || value == AlsoNotSet)

@@ -63,7 +63,7 @@ void append(int index, int key1, int key2, const tagZOB_QUAD_RIM& record, int le
     vkd_zob_put(index, key1, key2, bytes.data(), &length, 1);
 }
 
-/// Moves records of other programs under our key pair to the scratch store.
+/// Copies the records of other programs under our key pair to the scratch store.
 void saveForeignRecords(int index)
 {
     empty(ScratchIndex, ScratchKey1, ScratchKey2);
@@ -151,7 +151,8 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     for (DesignParameterRow& row : data.rows)
         if (!isRemainingGroups(row.groups))
             writeRow(index, row);
-    // The first of the moved records is read but not used; none of them is restored. This is meant.
+    // The first of the copied records is read but not used; none of them is restored. This is
+    // meant.
     tagZOB_QUAD_RIM unused{};
     RecordPass(ScratchIndex, ScratchKey1, ScratchKey2).next(unused);
     vkd_zob_free_ex(index, Key1, Key2);
