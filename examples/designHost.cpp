@@ -1,4 +1,4 @@
-// A dialog with the design parameters of a project, which OK writes: designHost PROJECT
+// Shows the design parameters of a project in a dialog. OK stores them: designHost PROJECT
 
 #include <VKD_H_Dialog.h>
 #include <VKD_H_SelGRP_Dialog.h>
@@ -17,7 +17,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
     if (!project)
-        return 1; // the log has said why
+        return 1; // the reason is in the log
 
     VKD_H_Dialog dialog; // the page looks for a dialog of the framework above it
     auto page = new VKD_P_DesignParameter(project.get(), project.get(), &dialog, false, false);
@@ -35,9 +35,10 @@ int main(int argc, char* argv[])
     page->readZob();
     int result = dialog.exec();
     while (result == VKD_H_SelGRP_Dialog::PickOutside) {
-        // Here a desktop lets the user pick in its view; this one has none and picks by itself.
+        // A real desktop would let the user pick in its view. This example has none and picks by
+        // code.
         VKD_H_SelGRP_Dialog::putAniSelectionToZob(project->index(), {1, 2});
-        result = dialog.exec(); // the same dialog again, in which the page takes the groups
+        result = dialog.exec(); // shows the same dialog again; the page takes the groups
     }
     if (result == QDialog::Accepted)
         page->writeToZob();

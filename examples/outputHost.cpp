@@ -1,4 +1,4 @@
-// A dialog with the graphical output of a project; OK prints the script: outputHost PROJECT
+// Shows the graphical output of a project in a dialog. OK prints the script: outputHost PROJECT
 
 #include <AnimatorView.h>
 #include <vkd_dbo_model.h>
@@ -21,7 +21,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
     if (!project)
-        return 1; // the log has said why
+        return 1; // the reason is in the log
 
     VKD_H_PluginParameter parameter(project.get());
     VKD_H_TabDialog dialog;
@@ -39,8 +39,8 @@ int main(int argc, char* argv[])
     page->setUsedNumbersAndNames(rows);
 
     VKD_H_ProjectDialogPage kept(project->index(), 1);
-    // An empty one, too: it changes nothing, and from then on the page carries the choice of plots
-    // through a change of content.
+    // Also called with an empty string: this changes nothing now, but afterwards the choice of
+    // plots survives a change of the content tags.
     page->readXMLstring(kept.getEntry(QStringLiteral("Output"), QString()));
     if (dialog.exec() == QDialog::Accepted) {
         std::fputs(page->getTORVAL(true).toUtf8().constData(), stdout);

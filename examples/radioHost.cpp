@@ -1,5 +1,5 @@
-// A dialog with the load cases of a project, all of them or those checked by hand; OK prints the
-// numbers: radioHost PROJECT
+// Shows the load cases of a project in a dialog, for selecting all or checking some by hand. OK
+// prints their numbers: radioHost PROJECT
 
 #include <QtTableView.h>
 #include <vkd_dbo_model.h>
@@ -21,7 +21,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
     if (!project)
-        return 1; // the log has said why
+        return 1; // the reason is in the log
 
     QStandardItemModel loadCases;
     for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project->index())) {
@@ -39,7 +39,7 @@ int main(int argc, char* argv[])
     table->horizontalHeader()->setStretchLastSection(true);
     VKD_P_RadioGroup group;
     group.init(tab);
-    group.useWidget(table); // to be changed with "Manually" chosen, else only to be read
+    group.useWidget(table); // editable while "Manually" is checked, otherwise read-only
     auto layout = new QVBoxLayout(tab);
     layout->addLayout(group.layout());
     layout->addWidget(table);
