@@ -5,7 +5,8 @@
 
 #include <cstdlib>
 
-/// Ends the process behind the first painting of a main window, or of one that has this child.
+/// An application that exits after the first paint of a main window, or of a main window that has a
+/// certain child. So the time of the process is the time until the user sees the window.
 class EndedByPicture : public QApplication
 {
 public:
@@ -22,7 +23,7 @@ public:
         --m_depth;
         if (event->type() == QEvent::Paint && receiver->inherits("QMainWindow"))
             m_isPainted = m_child.isEmpty() || receiver->findChild<QWidget*>(m_child);
-        if (m_isPainted && m_depth == 0) // what was painted is handed to the screen
+        if (m_isPainted && m_depth == 0) // the picture is passed to the screen
             std::_Exit(EXIT_SUCCESS);
         return result;
     }

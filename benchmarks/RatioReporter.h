@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-/// What a benchmark may take at most, as a multiple of its baseline in the same run. With items,
-/// the times are divided by the number behind the last "/" of the names first.
+/// The maximum time of a benchmark, as a multiple of its baseline in the same run. For a bound per
+/// item, the times are first divided by the number after the last "/" of the names.
 struct Bound
 {
     std::string subject;
@@ -16,13 +16,13 @@ struct Bound
     bool perItem = false;
 };
 
-/// Keeps the shortest time of each benchmark's repetitions, which is the one with the least of
-/// other programs in it, and compares them with the bounds.
+/// Stores the shortest time of the repetitions of each benchmark, because other programs disturb it
+/// least, and compares these times with the bounds.
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
     void ReportRuns(const std::vector<Run>& runs) override;
-    /// Prints a line for each bound; true if all are kept.
+    /// Prints a line for each bound. Returns true if all bounds are met.
     bool check(const std::vector<Bound>& bounds) const;
 
 private:
@@ -31,6 +31,6 @@ private:
     std::map<std::string, double> m_seconds;
 };
 
-/// Runs all registered benchmarks. `--smoke` runs each of them once, without a verdict on times, so
-/// that a test can see that they work. The result is the exit code.
+/// Runs all registered benchmarks and returns the exit code. With `--smoke`, each runs once and the
+/// bounds are not checked, so that a test can verify that the benchmarks work.
 int runBenchmarks(int argc, char* argv[], const std::vector<Bound>& bounds);

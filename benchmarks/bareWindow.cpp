@@ -1,4 +1,4 @@
-// What any desktop program has to do before its window is painted.
+// The minimum that any desktop program does before its window is painted.
 
 #include "EndedByPicture.h"
 
@@ -13,7 +13,7 @@ int main(int argc, char* argv[])
     for (int row = 0; row < 100; ++row)
         tree->addTopLevelItem(new QTreeWidgetItem({QStringLiteral("Principal stress I")}));
     window.setCentralWidget(tree);
-    window.resize(1280, 800); // as the workbench
+    window.resize(1280, 800); // as in the workbench
     window.show();
     return QApplication::exec();
 }

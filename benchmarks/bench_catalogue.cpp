@@ -1,5 +1,5 @@
-// The road from a catalogue to a script, each step against the least that any program would have to
-// do for it, and against itself at other sizes.
+// The steps from a catalogue to a script. Each step is compared with the minimum work that any
+// program would have to do, and with itself at other sizes.
 
 #include "RatioReporter.h"
 
@@ -28,7 +28,7 @@ QByteArray catalogueOf(int lines)
     return file;
 }
 
-/// A catalogue on disk, as it is read in the program.
+/// A temporary catalogue file, because the program also reads the catalogue from a file.
 class CatalogueFile
 {
 public:
@@ -60,7 +60,7 @@ void parseCatalogue(benchmark::State& state)
     }
 }
 
-/// The same file through Qt's own splitting and trimming, with nothing made of the parts.
+/// Splits and trims the same file with Qt's functions, without using the parts.
 void splitCatalogue(benchmark::State& state)
 {
     CatalogueFile file(int(state.range(0)));
@@ -122,7 +122,7 @@ void rebuildTree(benchmark::State& state)
         tree.rebuild();
 }
 
-/// A choice that differs from plot to plot, half of the rows by their numbers.
+/// Applies a choice that differs between plots and checks half of the rows by number.
 void applySelection(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -156,7 +156,8 @@ void walk(const plib::OutputNode* parent, const std::vector<QString>& all,
         walk(node, all, lines);
         if (node->isLC < 0 || node->checkState(0) == Qt::Unchecked)
             continue;
-        // Two lines a row; each is made anew, since a line that nobody has made cannot be shared.
+        // Two lines for each row. Each is a deep copy, because the product also has to create each
+        // line.
         for (int n = 0; n < 2 && lines->size() < all.size(); ++n) {
             const QString& line = all[lines->size()];
             lines->push_back(QString(line.constData(), line.size()));
@@ -164,7 +165,7 @@ void walk(const plib::OutputNode* parent, const std::vector<QString>& all,
     }
 }
 
-/// A bare walk over the same tree that appends the same lines, which are known beforehand.
+/// Walks the same tree and appends the same lines, which are known beforehand.
 void appendLines(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -193,7 +194,8 @@ BENCHMARK(appendLines)->Arg(Medium);
 
 int main(int argc, char* argv[])
 {
-    // What grows with more than the number of items would be thirty times over the last four.
+    // The last four bounds detect work that is not linear: if it were quadratic, the ratio would be
+    // thirty.
     return runBenchmarks(argc, argv,
                          {{"parseCatalogue/100000", "splitCatalogue/100000", 0.5},
                           {"collectScript/100000", "appendLines/100000", 4.0},

@@ -1,4 +1,4 @@
-// Design records on their way between a project file and rows.
+// Reading and writing design records: from a project file to rows, and back.
 
 #include "RatioReporter.h"
 
@@ -19,7 +19,7 @@
 
 namespace {
 
-/// Parameters that change with every tenth group, so that nine records of ten fold.
+/// Returns parameters that change with every tenth group, so that ten records become one row.
 tagZOB_QUAD_RIM recordOf(int group)
 {
     tagZOB_QUAD_RIM record = plib::getDefaultMerPara(true);
@@ -28,7 +28,7 @@ tagZOB_QUAD_RIM recordOf(int group)
     return record;
 }
 
-/// A project with the records of so many groups, as rows of ten groups each.
+/// A project with the records of this number of groups, in rows of ten groups each.
 class Project
 {
 public:
@@ -68,7 +68,7 @@ void readAndFold(benchmark::State& state)
     }
 }
 
-/// The same records by the same keys from a map in memory, one copy of each.
+/// Reads the same records by the same keys from a map in memory, with one copy for each.
 void readFromMap(benchmark::State& state)
 {
     std::map<std::tuple<int, int, int>, plib::RecordBytes> records;
@@ -97,7 +97,7 @@ void writeRecords(benchmark::State& state)
         state.SkipWithError("the records were not stored");
 }
 
-/// The same bytes into a plain file that is safe on the disk afterwards.
+/// Writes the same bytes into a plain file and flushes it to the disk.
 void writeFile(benchmark::State& state)
 {
     const Project project(1);

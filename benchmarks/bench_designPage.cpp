@@ -1,4 +1,4 @@
-// The table of the design page and its dialogs, against Qt's plain widgets with the same content.
+// The table of the design page and its dialogs, compared with plain Qt widgets of the same content.
 
 #include "RatioReporter.h"
 
@@ -36,7 +36,7 @@ double secondsSince(Clock::time_point start)
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-/// A project in which each group has parameters of its own, so that it has a row of its own.
+/// A project in which each group has different parameters, and so a row of its own.
 class Project
 {
 public:
@@ -79,7 +79,7 @@ std::unique_ptr<VKD_P_DesignParameter> newPage(const Project& project)
     return page;
 }
 
-/// What the page takes to read and show, without what reading takes by itself.
+/// Measures reading and showing the rows, minus the time for reading alone.
 void fillPage(benchmark::State& state)
 {
     const Project project;
@@ -94,8 +94,8 @@ void fillPage(benchmark::State& state)
     }
 }
 
-/// The same items row by row. Their texts are made on the way, as the page makes them: what is
-/// compared is the table.
+/// Adds the same items row by row. The texts are built in the loop, as on the page, because only
+/// the tables are to be compared.
 void fillBareTable(benchmark::State& state)
 {
     const Project project;
@@ -119,7 +119,7 @@ void fillBareTable(benchmark::State& state)
     }
 }
 
-/// Every second row, which is the worst choice.
+/// Deletes every second row, which is the worst case.
 void deleteHalf(benchmark::State& state)
 {
     const Project project;
@@ -170,7 +170,7 @@ void openDialog(benchmark::State& state)
         openAndPaint(newDialog<Dialog>().get());
 }
 
-/// As many of Qt's widgets of each sort as the dialog has, in a box with a grid of four columns.
+/// Shows as many Qt widgets of each kind as the dialog has, in a box with a grid of four columns.
 template <class Dialog>
 void openPlainDialog(benchmark::State& state)
 {
@@ -178,7 +178,7 @@ void openPlainDialog(benchmark::State& state)
     const QList<QComboBox*> combos = model->template findChildren<QComboBox*>();
     int edits = model->template findChildren<QLineEdit*>().size();
     for (const QComboBox* combo : combos)
-        edits -= combo->isEditable(); // has one of its own
+        edits -= combo->isEditable(); // it has a line edit of its own
     const int buttons = model->template findChildren<QPushButton*>().size();
     const int labels = model->template findChildren<QLabel*>().size();
     for (auto _ : state) {

@@ -1,4 +1,4 @@
-// The output page from its constructor to its first picture, against a bare widget with a tree.
+// The output page from its constructor to its first paint, compared with a bare widget with a tree.
 
 #include "RatioReporter.h"
 
@@ -15,7 +15,7 @@
 namespace {
 constexpr QSize Size(900, 640);
 
-/// A project with so much of each sort that about a hundred plots are offered.
+/// A project with enough content of each kind that about a hundred plots are offered.
 class Project
 {
 public:
@@ -57,7 +57,7 @@ void showPage(benchmark::State& state)
     }
 }
 
-/// Of rows with check boxes and icons, as the page's tree has them.
+/// Shows a tree of rows with check boxes and icons, as in the tree of the page.
 void showBareTree(benchmark::State& state)
 {
     constexpr int RowCount = 100;

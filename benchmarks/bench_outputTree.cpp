@@ -1,5 +1,5 @@
-// The output tree with a thousand rows under each plot, against Qt's plain tree with the same
-// content and against itself at other sizes.
+// The output tree with a thousand rows under each plot, compared with a plain Qt tree of the same
+// content and with itself at other sizes.
 
 #include "checkStates.h"
 #include "RatioReporter.h"
@@ -22,8 +22,8 @@ constexpr int Small = 10000;
 constexpr int Medium = 100000;
 constexpr int Large = 300000;
 
-/// A plot is offered on the pages whose kind is above its number, so that the kind of the page is
-/// its number of plots. Half of the plots come up with all rows checked.
+/// Returns a catalogue in which each plot is offered on pages whose kind is above its index. So the
+/// kind of a page equals its number of plots. In half of the plots all rows are checked by default.
 QByteArray catalogue()
 {
     QByteArray file;
@@ -39,7 +39,7 @@ QByteArray catalogue()
     return file;
 }
 
-/// What the trees need around them, for the life of the process.
+/// The project and settings that the trees need, for the lifetime of the process.
 class Surroundings
 {
 public:
@@ -112,7 +112,7 @@ QTreeWidgetItem* plainCopy(const QTreeWidgetItem* model)
     return item;
 }
 
-/// The old items go as well, as they do in a tree that is filled anew.
+/// Includes deleting the old items, as in a tree that is rebuilt.
 void fillBareTree(benchmark::State& state)
 {
     const Tree model(int(state.range(0)));
@@ -127,7 +127,7 @@ void fillBareTree(benchmark::State& state)
     }
 }
 
-/// The key acts as the click does; what it changes on the screen is painted.
+/// The space key has the same effect as a click. Includes painting the changes.
 void clickOnTheCaption(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -151,7 +151,7 @@ void bareWalk(benchmark::State& state)
         setAll(tree.top(), other(tree.top()->checkState(0)));
 }
 
-/// A choice of every second row, from the given one on.
+/// Returns a choice of every second row, starting with row `first`.
 QString choice(Tree& tree, int first)
 {
     {
@@ -166,7 +166,7 @@ QString choice(Tree& tree, int first)
     return tree.selectionText();
 }
 
-/// Two choices in turn that differ in every row.
+/// Applies two choices alternately, which differ in every row.
 void applySelection(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));

@@ -1,5 +1,5 @@
-// The workbench from the start of its process until its window is painted, and until the panes show
-// the sample building, against a program that has nothing but a main window with a tree of 100
+// The time from the start of the workbench until its window is painted, and until the panes show
+// the sample building. The baseline is a program that has only a main window with a tree of 100
 // rows.
 
 #include "EndedByPicture.h"
@@ -15,7 +15,7 @@
 #include <cstring>
 
 namespace {
-/// A folder with the project and the settings, which are not the user's own.
+/// A folder for the project and for settings separate from those of the user.
 const QTemporaryDir& folder()
 {
     static const QTemporaryDir made;
@@ -32,7 +32,8 @@ const QString& building()
     return path;
 }
 
-/// The workbench, with the folder of its settings, the child to wait for and a project.
+/// Runs the workbench. The arguments are the folder of its settings, the child to wait for and a
+/// project.
 int runTimed(int argc, char* argv[])
 {
     const QString settings = QFile::decodeName(argv[2]);
@@ -69,7 +70,7 @@ void startWithBuilding(benchmark::State& state)
     startWorkbench(state, "", building());
 }
 
-/// Only the script is still to come.
+/// Measures until everything but the script is shown.
 void startUntilShown(benchmark::State& state)
 {
     startWorkbench(state, "Records", building());

@@ -1,4 +1,4 @@
-// Check states that follow each other in a tree of 100 plots with 1000 rows each.
+// Automatic updates of check states in a tree of 100 plots with 1000 rows each.
 
 #include "checkStates.h"
 #include "RatioReporter.h"
@@ -18,7 +18,7 @@ QTreeWidgetItem* add(QTreeWidgetItem* parent)
     return item;
 }
 
-/// One caption with rows in plots of this many, all of them open.
+/// A tree with one caption, whose plots have `rowsOfAPlot` rows each. All items are expanded.
 class Tree
 {
 public:
@@ -39,7 +39,7 @@ public:
     QTreeWidgetItem* top;
 };
 
-/// The key acts as the click does; what it changes on the screen is painted.
+/// The space key has the same effect as a click. Includes painting the changes.
 void clickOnTheCaption(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -62,7 +62,7 @@ void bareWalk(benchmark::State& state)
         setAll(tree.top, other(tree.top->checkState(0)));
 }
 
-/// The rows of one plot, one after the other, from its first to its last.
+/// Checks the rows of one plot one by one, from the first to the last.
 void rowByRow(benchmark::State& state, bool isAutomatic)
 {
     const int rows = int(state.range(0));

@@ -1,4 +1,4 @@
-// The view of a model while it is turned, and at rest.
+// The view of a model while it is rotated, and at rest.
 
 #include "RatioReporter.h"
 
@@ -16,11 +16,12 @@
 
 namespace {
 
-constexpr int Side = 100; // quads along each side, so 10 000 of them
+constexpr int Side = 100; // quads along each side, 10 000 in all
 constexpr int Width = 800;
 constexpr int Height = 600;
 
-/// A wavy shell, which hides parts of itself and has many shades.
+/// Returns the height of a wavy shell. It hides parts of itself and has many shades, as a real
+/// model does.
 double heightAt(int column, int row)
 {
     return 8.0 * std::sin(column * 0.13) * std::cos(row * 0.11);
@@ -74,7 +75,7 @@ void turnView(benchmark::State& state)
     }
 }
 
-/// The fine picture of a view that is not moved.
+/// Paints the high-quality picture of a view at rest.
 void restView(benchmark::State& state)
 {
     ShownShell shown;
@@ -82,7 +83,7 @@ void restView(benchmark::State& state)
         shown.view.render(&shown.image);
 }
 
-/// The points of the shell as the standard view shows it, turned by this angle.
+/// Returns the points of the shell in the standard view, rotated by this angle.
 std::vector<QPointF> projected(double angle)
 {
     std::vector<QPointF> points;
@@ -98,7 +99,7 @@ std::vector<QPointF> projected(double angle)
     return points;
 }
 
-/// The same polygons as they come, with the same pen for all.
+/// Fills the same polygons without sorting them, and with the same pen for all.
 void fillPolygons(benchmark::State& state)
 {
     QImage image(Width, Height, QImage::Format_ARGB32_Premultiplied);

@@ -2,7 +2,7 @@
 
 #include <QTreeWidgetItem>
 
-/// The baseline of trees whose states follow each other: each item is set on its own.
+/// The baseline for trees that update check states automatically: sets each item individually.
 inline void setAll(QTreeWidgetItem* item, Qt::CheckState state)
 {
     item->setCheckState(0, state);

@@ -9,9 +9,9 @@
 #include <QBuffer>
 #include <QFile>
 
-/// Throws damaged catalogues, rows and selection texts at everything that reads them. What comes
-/// out is checked for what holds whatever goes in; crashes and hangs are the sanitizers' and
-/// ctest's.
+/// Passes damaged catalogues, rows and selection texts to all functions that read them. The results
+/// are checked for properties that hold for any input. The sanitizers detect crashes, and the
+/// timeout of ctest detects hangs.
 class FuzzCatalogue : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ void FuzzCatalogue::damagedTexts()
         plib::applySelection(&root, QString::fromUtf8(mutated(stored.toUtf8(), random)));
         const QString before = testsupport::treeText(&root);
         plib::settleTree(&root);
-        QCOMPARE(testsupport::treeText(&root), before); // every parent agrees with its children
+        QCOMPARE(testsupport::treeText(&root), before); // every parent matches its children
         std::vector<QString> lines;
         for (int progname : {1, 122})
             scripts +=
@@ -74,7 +74,7 @@ void FuzzCatalogue::damagedTexts()
         device.open(QIODevice::ReadOnly);
         plib::lintCatalogue(device, nullptr);
     }
-    QVERIFY(scripts > 10000); // else the mutations left nothing to test
+    QVERIFY(scripts > 10000); // otherwise the mutations leave nothing to test
 }
 
 PLIB_TEST_MAIN(FuzzCatalogue)
