@@ -1,4 +1,4 @@
-# Settings that every target of the tree shares, and the functions that make targets.
+# Settings for all targets, and functions that create targets.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -38,11 +38,11 @@ if(PLIB_COVERAGE)
     add_link_options(--coverage)
 endif()
 
-# The share folder stands beside the build tree's lib folder as it does in an installation.
+# The share folder is beside the lib folder of the build tree, as in an installation.
 file(CREATE_LINK ${PROJECT_SOURCE_DIR}/share ${PROJECT_BINARY_DIR}/share SYMBOLIC)
 
-# Installs a library and its headers, in a folder of their own, and makes it a target of the package
-# <package>, which is a component of the installation as well.
+# Installs a library, and its headers into a separate folder. The library becomes a target of the
+# package <package>, which is also the name of its installation component.
 function(vkd_install_library name package)
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
@@ -56,7 +56,7 @@ function(vkd_install_library name package)
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name} COMPONENT ${package})
 endfunction()
 
-# Installs what find_package(<package>) reads: the targets, and cmake/<package>Config.cmake.
+# Installs the files for find_package(<package>): the targets and cmake/<package>Config.cmake.
 function(vkd_install_package package)
     include(CMakePackageConfigHelpers)
     set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
@@ -68,10 +68,10 @@ function(vkd_install_package package)
             DESTINATION ${folder} COMPONENT ${package})
 endfunction()
 
-# One library of the platform: shared, because the store, the settings and the text service have to
-# exist once in a process, with a generated <name>_export.h. It stays loaded until the process ends:
-# Qt keeps routines, icons and windows of it and offers no way to take all of them back, and settings
-# and open projects outlive the plug-in that brought them along.
+# Adds a library of the platform, with a generated <name>_export.h. It is shared, because the store,
+# the settings and the text service must exist only once in a process. It is never unloaded, for two
+# reasons: Qt holds callbacks, icons and windows of it and offers no way to remove all of them, and
+# settings and open projects outlive the plug-in that loaded the library.
 function(vkd_add_platform_library name)
     cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     include(GenerateExportHeader)
@@ -83,8 +83,9 @@ function(vkd_add_platform_library name)
 endfunction()
 
 # vkd_add_translations(<target> [<file>]): compiles <file>, translations/<target>_de.ts by default,
-# into the target and makes the translator object that installs it when the target is loaded. The
-# file is called <module>_de.ts; the module is the target, unless the suite knows it by another name.
+# into the target, and adds the translator object that installs it when the target is loaded. The
+# file name is <module>_de.ts; the module name is the target name, unless the suite uses another
+# name.
 function(vkd_add_translations target)
     set(file translations/${target}_de.ts)
     if(ARGC GREATER 1)

@@ -1,4 +1,4 @@
-# Sourced by run and test: installs the Debian packages that are missing, and nothing if none is.
+# Sourced by run and test: installs missing Debian packages.
 
 plib_packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev
                qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libbenchmark-dev
@@ -17,7 +17,7 @@ plib_install_packages() {
         command -v sudo >/dev/null || { echo "Please install: ${missing[*]}" >&2; return 1; }
         as_root=(sudo)
     fi
-    "${as_root[@]}" apt-get update -qq >&2 || true   # an old list of packages may still do
+    "${as_root[@]}" apt-get update -qq >&2 || true   # an old package list may still be sufficient
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 }

@@ -1,7 +1,7 @@
 """Generates the sample finite-element models in share/models.
 
-Units are metres and kN/m, Z points up.  Every model is checked before it is
-written: unknown keys, double numbers and dangling references raise an error.
+Units are metres and kN/m; Z points up.  Every model is checked before it is
+written: unknown keys, duplicate numbers and dangling references raise an error.
 """
 
 import json
@@ -14,7 +14,7 @@ LARGEST_FILE = 400_000                        # bytes
 KEYS = ("title kindOfSystem crossSections groups secondaryGroups nodes supports beams trusses cables springs "
         "quads bricks quadTendons beamTendons points lines areas axes sectionCuts designLines loadCases designParameters").split()
 
-# What the columns of a row mean: a list to look the number up in, or a plain value; "nodes?" may be 0.
+# The columns of a row: the name of a list that the number refers to, or a plain value; "nodes?" may be 0.
 BAR = "number groups crossSections nodes nodes"
 ROWS = {"nodes": "number x y z", "supports": "nodes directions", "beams": BAR, "trusses": BAR, "cables": BAR,
         "springs": "number groups nodes nodes? stiffness", "bricks": "number groups" + 8 * " nodes",
@@ -42,7 +42,7 @@ def steps(start, stop, size):
 
 
 def shares(values):
-    """The width that belongs to each station: half the distance between its neighbours."""
+    """Returns the tributary width of each station: half the distance between its neighbours."""
     padded = [values[0], *values, values[-1]]
     return [(right - left) / 2 for left, right in zip(padded, padded[2:])]
 
@@ -62,7 +62,7 @@ def near(places, x, y, distance):
 class Model:
     def __init__(self, title, kind_of_system):
         self.data = {"title": text(title), "kindOfSystem": kind_of_system}
-        self.known = {}         # (list, coordinates or ends) -> number, so that parts share them
+        self.known = {}         # (list, coordinates or ends) -> number, so that adjacent parts share them
         self.last = {}          # group -> last running number of an element
         self.centres = {}       # element number -> centre
 
@@ -79,7 +79,7 @@ class Model:
         return self.shared(key, tuple(tidy(place)), tidy(place))
 
     def element(self, key, group, corners, before=(), after=()):
-        """The number tells the group: 10000 * group + running number."""
+        """Adds an element. Its number shows its group: 10000 * group + running number."""
         self.last[group] = self.last.get(group, 0) + 1
         number = 10000 * group + self.last[group]
         self.centres[number] = tidy(sum(axis) / len(corners) for axis in zip(*corners))
@@ -93,7 +93,7 @@ class Model:
         self.element("quads", group, corners, after=[0] * (4 - len(corners)) + [thickness])
 
     def sheet(self, us, vs, place, pick):
-        """Meshes a grid; pick gives (group, thickness) at a cell's centre, or None in openings."""
+        """Meshes a grid; pick returns (group, thickness) for a cell's centre, or None in openings."""
         for v0, v1 in pairwise(vs):
             for u0, u1 in pairwise(us):
                 if kind := pick((u0 + u1) / 2, (v0 + v1) / 2):
@@ -109,7 +109,7 @@ class Model:
             self.rows("supports").append([self.node(place), directions])
 
     def records(self, key, first, pairs, **more):
-        """Numbered titles, "german=english" separated by semicolons."""
+        """Adds numbered records; pairs are titles "german=english", separated by semicolons."""
         for number, pair in enumerate(pairs.split(";"), first):
             self.rows(key).append({"number": number, "title": text(pair), **more})
 
@@ -124,7 +124,7 @@ class Model:
         self.records(key, len(self.rows(key)) + 1, title, points=list(map(tidy, points)))
 
     def axes(self, across, along):
-        """Grid axes, 1.5 m longer than the grid; across: label -> x, along: label -> y."""
+        """Adds axes that extend 1.5 m beyond the grid; across: label -> x, along: label -> y."""
         (x0, *_, x1), (y0, *_, y1) = across.values(), along.values()
         for label, x in across.items():
             self.path("axes", f"Achse {label}=Axis {label}", (x, y0 - 1.5, 0), (x, y1 + 1.5, 0))
@@ -139,7 +139,7 @@ class Model:
             self.shared("areas", tuple(points), points)
 
     def collect(self, name, title, inside, **groups):
-        """A secondary group: per list the elements of the given groups whose centre is inside."""
+        """Adds a secondary group: for each list, the elements of the given groups with a centre inside."""
         members = {key: [row[0] for row in self.rows(key)
                          if row[1] in numbers and inside(*self.centres[row[0]])]
                    for key, numbers in groups.items()}
@@ -149,7 +149,7 @@ class Model:
 class Building(Model):
     def __init__(self):
         super().__init__("Bürogebäude mit zwei Geschossen=Two-storey office building", 0)
-        columns = [(x, y) for x in (6, 12, 18) for y in (0, 6, 12)]       # axis A has a wall instead
+        columns = [(x, y) for x in (6, 12, 18) for y in (0, 6, 12)]       # axis A has a wall instead of columns
         corners = [(x, y) for x in (0, 18) for y in (0, 12)]
         self.records("crossSections", 1, "Innenstütze 40/40=Inner column 40/40; Randstütze 30/40=Edge column 30/40;"
                      "Eckstütze 30/30=Corner column 30/30; Unterzug 30/60=Downstand beam 30/60")
@@ -182,7 +182,7 @@ class Building(Model):
         self.sheet(xs, ys, level(3.2), lambda x, y: None if in_core(x, y) else (2, 0.26))
         self.sheet(xs, ys, level(6.4), lambda x, y: None if in_vent(x, y) else (3, 0.24))
         self.bedding(8, raft_xs, raft_ys, 0, 20000)
-        self.support("x y", (0, 0, 0))       # the bedding holds only vertically
+        self.support("x y", (0, 0, 0))       # the bedding supports vertically only
         self.support("y", (18, 0, 0))
 
     def walls(self):
@@ -330,9 +330,9 @@ class Hall(Model):
         xs, ys = steps(0.6, 29.4, 1.2), steps(1, 19, 1.2)
         self.sheet(xs, ys, level(0), lambda x, y: (9, 0.25))
         self.bedding(12, xs, ys, 0, 30000)
-        self.support("x y", (0.6, 1, 0))       # the slab may shorten freely under its prestress
+        self.support("x y", (0.6, 1, 0))       # allows the slab to shorten under its prestress
         self.support("y", (29.4, 1, 0))
-        for y in steps(2.8, 17.2, 2.4):        # the two layers cross one above the other
+        for y in steps(2.8, 17.2, 2.4):        # the two layers cross at different heights
             self.path("quadTendons", f"Längs, Y {y} m=Along, Y {y} m", (0.6, y, 0.02), (29.4, y, 0.02))
         for x in steps(1.8, 28.2, 2.4):
             self.path("quadTendons", f"Quer, X {x} m=Across, X {x} m", (x, 1, -0.02), (x, 19, -0.02))
@@ -349,7 +349,7 @@ class Hall(Model):
 
 
 def drape(x):
-    """Low in the middle of each 6 m span, high above the brackets, centric at both anchors."""
+    """Returns the height of a tendon: low at midspan of each 6 m span, high above the brackets, centric at the anchors."""
     from_end = min(x, 30 - x)
     return -0.2 * math.sin(math.pi * from_end / 6) if from_end < 3 else 0.2 * math.cos(math.pi * from_end / 3)
 
@@ -412,7 +412,7 @@ def check_secondary_groups(groups, known):
 
 
 def layout(data):
-    """One element of a list per line, so that differences between two versions read well."""
+    """Writes one element of a list per line, so that diffs are readable."""
     line = lambda value: json.dumps(value, ensure_ascii=False)
     block = lambda value: "[\n" + ",\n".join(map(line, value)) + "\n]" if isinstance(value, list) else line(value)
     return "{\n" + ",\n".join(f"{line(key)}: {block(data[key])}" for key in KEYS if key in data) + "\n}\n"

@@ -1,7 +1,8 @@
 #!/bin/sh
-# Has the program take the pictures of docs/pictures of itself, on the sample model of a building.
-# Needs the Debian package pngquant. Call it after a change that can be seen in one of them, and look
-# at the result. An argument is the workbench to be used in place of what ./run builds.
+# Runs the workbench to create the screenshots in docs/pictures, with the sample model of a
+# building. Needs the Debian package pngquant. Run it after a change that is visible in one of them,
+# and check the result. The optional argument is a workbench to use instead of the one built by
+# ./run.
 set -eu
 
 root=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
@@ -21,7 +22,8 @@ for ratio in 1 2; do
         --language english --pixel-ratio $ratio >/dev/null
 done
 
-# keep RATIO SNAPSHOT NAME: dialogs are smaller than a page and are finer for it.
+# keep RATIO SNAPSHOT NAME: saves a compressed copy of a snapshot. Dialogs have a higher ratio,
+# because they are smaller than pages.
 keep() {
     pngquant --speed 1 --strip --force --output "$pictures/$3.png" 256 "$taken/$1/$2.en.png"
     echo "$3.png: $(wc -c <"$pictures/$3.png") bytes"

@@ -1,7 +1,7 @@
 #!/bin/sh
-# Renders the drawings of lib/plib/resources to the pictures that are committed beside them, and to
-# the figures of the help.
-# Needs the Debian packages librsvg2-bin and fonts-dejavu-core. Call it after changing a drawing.
+# Renders the drawings of lib/plib/resources to the committed pictures beside them, and to the
+# figures of the help. Needs the Debian packages librsvg2-bin and fonts-dejavu-core. Run it after
+# changing a drawing.
 set -eu
 
 root=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
@@ -28,7 +28,8 @@ render() {
     echo "$2.png: $4 x $5"
 }
 
-# render_forms DRAWING WIDTH HEIGHT: without texts, _0 German and _1 English, these one row higher.
+# render_forms DRAWING WIDTH HEIGHT: without texts, and as _0 (German) and _1 (English), which are
+# one row of pixels higher.
 render_forms() {
     render "$1" "$1" zxx "$2" "$3"
     render "$1" "$1_0" de "$2" $(($3 + 1))
@@ -39,7 +40,8 @@ render_forms neq_merpara_rich 193 111
 render_forms betondeckung 240 111
 render neq_designline_zrt_bew_mod_allg neq_designline_zrt_bew_mod_allg zxx 299 104
 
-# render_help DRAWING FIGURE LANGUAGE [STYLE]: the size of the drawing enlarged for reading.
+# render_help DRAWING FIGURE LANGUAGE [STYLE]: enlarges the drawing so that its texts are easy to
+# read.
 render_help() {
     printf '%s' "${4:-}" >"$style"
     rsvg-convert --background-color=white --accept-language="$3" --zoom=1.75 --stylesheet="$style" \
