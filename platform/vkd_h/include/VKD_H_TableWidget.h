@@ -6,8 +6,8 @@
 
 class VKD_QT_Menu;
 
-/// The table widget of the framework: columns with ids (VKD_H_TableItems.h), cells with combo boxes,
-/// operations that add and delete rows, a context menu and shortcuts.
+/// The table widget of the framework: columns with ids (VKD_H_TableItems.h), cells with combo
+/// boxes, operations that add and delete rows, a context menu and shortcuts.
 ///
 /// Arrow keys move from cell to cell, and Tab leaves the table. F2 and Enter open the editor of the
 /// current cell or focus the widget over it. Pages that place their own widgets over cells do so

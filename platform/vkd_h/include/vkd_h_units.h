@@ -16,8 +16,8 @@
 /// | 1026 | crack width | mm | mm | 2 |
 /// | 1092 | steel stress | N/mm² | N/mm² | 1 |
 ///
-/// Any other code, usually -1, has no unit; its numbers are shown with up to six significant digits.
-/// The decimal sign is that of the desktop's language, and there is no thousands separator.
+/// Any other code, usually -1, has no unit; its numbers are shown with up to six significant
+/// digits. The decimal sign is that of the desktop's language, and there is no thousands separator.
 struct VkdDimension
 {
     int code;
