@@ -4,9 +4,9 @@
 
 #include <QComboBox>
 
-/// A combo box whose entries may bear an id. It leaves the wheel to the page around it, so that
-/// scrolling changes no value; its open list scrolls. In a narrow place its text is cut with dots
-/// and shown whole in a tool tip, and its list is as wide as its entries need.
+/// A combo box whose entries can have an id. It ignores the wheel, so that scrolling the page does
+/// not change its value; the open list scrolls. If the box is too narrow, its text is elided and
+/// shown in a tool tip, and its list is as wide as the entries.
 class VKD_QT_EXPORT VKD_QT4_ComboBox : public QComboBox
 {
     Q_OBJECT
@@ -17,19 +17,19 @@ public:
     explicit VKD_QT4_ComboBox(QWidget* parent = nullptr, const char* name = nullptr);
 
     using QComboBox::addItem;
-    /// Adds an entry with a picture, for which the combo box makes room in all entries.
+    /// Adds an entry with a picture and enlarges the icon size if necessary.
     void addItem(const QPixmap& picture, const QString& text, int id);
     void addEntry(const QString& text, int id);
-    /// The id of the current entry; NoId if it was added without one, or if there is none.
+    /// Returns the id of the current entry; NoId if it has no id or there is no current entry.
     int getCurrentId() const;
-    /// Makes the entry with this id current. False, and no change, if there is none.
+    /// Makes the entry with this id current. Returns false and changes nothing if there is none.
     bool setCurrentId(int id);
 
-    /// The current entry as a part (vkd_qt_xmlpart.h) whose tag is the object name: its id, or its
-    /// text if it was added without one. Empty without a current entry or without an object name.
+    /// Returns the current entry as a part (vkd_qt_xmlpart.h) whose tag is the object name: its id,
+    /// or its text if it has no id. Empty without a current entry or object name.
     virtual QString writeXMLstring() const;
-    /// Makes the entry current that the combo box's part in a string of parts names. An id goes
-    /// ahead of a text that reads the same. Without such a part or such an entry nothing changes.
+    /// Makes the entry current that is named by the combo box's part in a string of parts. Ids take
+    /// precedence over equal texts. Changes nothing if the part or the entry does not exist.
     virtual void readXMLstring(const QString& wholeString);
 
     void showPopup() override;

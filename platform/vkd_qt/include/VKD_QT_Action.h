@@ -2,7 +2,7 @@
 
 #include <QAction>
 
-/// Qt's action with an object name as the framework's constructors take it.
+/// A QAction whose constructor sets the object name, as the framework requires.
 class VKD_QT_Action : public QAction
 {
 public:

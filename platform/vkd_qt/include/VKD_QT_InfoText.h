@@ -6,8 +6,7 @@
 
 class QLabel;
 
-/// A note to the user: a text that breaks its lines to the width it gets, with the information sign
-/// in front if `withSign` is set.
+/// A word-wrapped note to the user, with the information icon if `withSign` is true.
 class VKD_QT_EXPORT VKD_QT_InfoText : public QWidget
 {
     Q_OBJECT

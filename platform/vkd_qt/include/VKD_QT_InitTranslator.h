@@ -7,21 +7,20 @@
 
 class QTranslator;
 
-/// Keeps the translations of one module installed, for as long as the object lives and in every
-/// application that runs meanwhile. Made for a global object in the module's library: it may be
-/// built before there is an application and destroyed after it. The language is that of setting 102
-/// when the application starts. English is what the source texts are written in and needs no file;
-/// German is looked for in the resource ":/translations/<module>_de.qm", then in a file of that
-/// name in Qt's folder of translations, and without either the source texts stay. For the GUI
-/// thread only.
+/// Installs the translations of one module in every application that runs during the lifetime of
+/// the object. It is meant for a global object in the module's library and may be constructed
+/// before the application and destroyed after it. The language is setting 102 at the start of the
+/// application. English is the language of the source texts and needs no file. German is loaded
+/// from the resource ":/translations/<module>_de.qm", or else from a file of that name in Qt's
+/// translations folder; without both, the source texts remain. Use it in the GUI thread only.
 class VKD_QT_EXPORT VKD_QT_InitTranslator
 {
 public:
     explicit VKD_QT_InitTranslator(const char* module);
     ~VKD_QT_InitTranslator();
 
-    /// To be called after a change of setting 102 while an application runs: every living object
-    /// changes to the new language, and widgets get QEvent::LanguageChange.
+    /// Reloads the translations; call this after a change of setting 102 while an application runs.
+    /// All objects change to the new language, and widgets receive QEvent::LanguageChange.
     static void languageChanged();
 
 private:

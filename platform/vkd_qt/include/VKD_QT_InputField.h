@@ -7,22 +7,21 @@
 
 class QWidget;
 
-/// A field of a dialog that may refuse what its user typed. Dialogs ask their fields by it,
-/// whatever library these come from: a widget of it names it in Q_INTERFACES.
+/// The interface of an input field that can refuse a typed text. Dialogs find such fields in any
+/// library, because each class lists the interface in Q_INTERFACES.
 class VKD_QT_InputField
 {
 public:
     virtual ~VKD_QT_InputField() = default;
 
-    /// Why the text that stands in the field is refused, in the language of the desktop; empty if
-    /// it is not.
+    /// Returns why the current text is refused, in the desktop's language; empty if it is accepted.
     virtual QString refusal() const = 0;
     /// Takes the focus and shows why the text is refused.
     virtual void showRefusal() = 0;
 };
 Q_DECLARE_INTERFACE(VKD_QT_InputField, "vkd.qt.InputField")
 
-/// Leads the user to the first field on `page` whose text is refused: its tab comes forward, it has
-/// the focus and shows its refusal. Null if there is none. Disabled fields do not count, nor do
-/// hidden ones, unless on another tab.
+/// Finds the first field on `page` that refuses its text, selects its tab, focuses it and shows the
+/// reason. Returns the field, or null if there is none. Disabled fields are skipped, and so are
+/// hidden ones, except on other tabs.
 VKD_QT_EXPORT QWidget* vkd_qt_leadToRefusedField(QWidget* page);

@@ -4,8 +4,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-/// The layouts of the framework, which bear an object name. One that is given a parent becomes the
-/// layout of that widget.
+/// The framework's layouts with an object name. A layout with a parent becomes the layout of that
+/// widget.
 template <class Layout>
 class VKD_QT_Layout : public Layout
 {
@@ -17,7 +17,8 @@ public:
     }
 };
 
-/// QBoxLayout's constructors without a parent exist apart from those with one; both take null.
+/// Qt's box layouts have separate constructors with and without a parent; these accept null for
+/// none.
 using VKD_QT_VBoxLayout = VKD_QT_Layout<QVBoxLayout>;
 using VKD_QT_HBoxLayout = VKD_QT_Layout<QHBoxLayout>;
 using VKD_QT_GridLayout = VKD_QT_Layout<QGridLayout>;

@@ -2,7 +2,7 @@
 
 #include <QMenu>
 
-/// Qt's menu with an object name as the framework's constructors take it.
+/// A QMenu whose constructor sets the object name, as the framework requires.
 class VKD_QT_Menu : public QMenu
 {
 public:

@@ -7,8 +7,8 @@
 class QDialogButtonBox;
 class QPushButton;
 
-/// The row of buttons at the foot of a dialog, in the language and the order of the desktop. It
-/// connects nothing.
+/// The row of buttons at the bottom of a dialog, in the desktop's language and order. The caller
+/// connects the buttons.
 class VKD_QT_EXPORT VKD_QT_Ok : public QWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     /// `buttons` is a sum of 1 for OK and 2 for Cancel.
     VKD_QT_Ok(QWidget* parent, int buttons, const char* name);
 
-    /// Null for a button that was not asked for.
+    /// Return null if the button was not requested.
     QPushButton* cmdOk() const;
     QPushButton* cmdCancel() const;
 

@@ -13,43 +13,43 @@ class QButtonGroup;
 class QGridLayout;
 class QRadioButton;
 
-/// A frame with a choice of one among several entries, numbered from 0, and none before the first
-/// choice. An entry may bear a widget beside its button; to use it, by the mouse or by keys other
-/// than those that only pass through, chooses the entry as a click on its button does. The arrow
-/// keys choose among the buttons, which are one stop of the Tab key.
+/// A group box with radio buttons, numbered from 0; initially none is checked. An entry can have a
+/// widget beside its button. Using the widget, with the mouse or with keys other than navigation
+/// keys, clicks the button. The arrow keys move between the buttons, and the Tab key stops at one
+/// of them only.
 class VKD_QT_EXPORT VKD_QT_RadioButtonGroup : public VKD_QT_GroupBox
 {
     Q_OBJECT
 
 public:
-    /// `name` is the object name of the group; that of its buttons is "<name>_<number>". `count` is
-    /// how many entries stand in one row if the group is horizontal, or in one column if it is
-    /// vertical; all of them if it is not positive.
+    /// `name` is the object name of the group; its buttons are named "<name>_<number>". `count` is
+    /// the number of entries per row of a horizontal group or per column of a vertical one; all
+    /// entries if it is not positive.
     VKD_QT_RadioButtonGroup(const QString& title, const std::vector<StructRadioButtonGrup>& items,
                             QWidget* parent, const char* name,
                             Qt::Orientation orientation = Qt::Vertical, int count = -1);
 
-    /// Sets the entries anew. Buttons of the numbers that stay are kept, with their choice and
-    /// their widgets; an entry that goes takes its widget with it.
+    /// Replaces the entries. Buttons with remaining numbers keep their state and widgets; a removed
+    /// entry deletes its widget.
     void init(const std::vector<StructRadioButtonGrup>& items);
 
-    /// Puts a widget beside the button of an entry, in place of an earlier one, which is deleted.
-    /// Becomes its owner. Nothing happens for an entry that is not WithWidget.
+    /// Places a widget beside the button of an entry and takes ownership; a previous widget is
+    /// deleted. Does nothing for an entry without the flag WithWidget.
     void setWidget(int entry, QWidget* widget);
 
-    /// The number of the chosen entry, -1 if there is none.
+    /// Returns the number of the checked entry, -1 if there is none.
     int selectedButton() const;
-    /// Chooses an entry without a signal. A number without entry changes nothing.
+    /// Checks an entry without emitting a signal. Invalid numbers are ignored.
     void setButton(int entry);
 
-    /// Null for a number without entry.
+    /// Returns the button of an entry; null for an invalid number.
     QRadioButton* getRadioButton(int entry) const;
     VKD_QT_GroupBox* box();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user clicked an entry, also the chosen one.
+    /// Emitted when the user clicked an entry, even if it was checked already.
     void buttWasClicked(int entry);
 
 private:
@@ -58,7 +58,7 @@ private:
     void removeLastButton();
     void describe(int entry);
     void arrange();
-    /// The column and the row of the entry's button in the grid; its widget has the next column.
+    /// Returns column and row of the entry's button in the grid; its widget uses the next column.
     QPoint placeOf(int entry) const;
     void put(QWidget* widget, const QPoint& place, int columns);
     void chainTabs();
@@ -69,7 +69,7 @@ private:
     const int m_count;
     std::vector<StructRadioButtonGrup> m_items;
     std::vector<QRadioButton*> m_radios;
-    std::vector<QPointer<QWidget>> m_widgets; ///< as many as buttons, most of them null
+    std::vector<QPointer<QWidget>> m_widgets; ///< one for each button, most of them null
     QButtonGroup* m_buttons;
     QGridLayout* m_grid;
 };

@@ -7,9 +7,8 @@
 class QTabWidget;
 class VKD_QT_Ok;
 
-/// A dialog of pages behind tabs, above OK and Cancel, which accept and reject it. The focus begins
-/// in the page that is shown first. The user cannot leave a page while a field of it refuses its
-/// text.
+/// A dialog with pages in tabs and the buttons OK and Cancel. The focus starts in the first page
+/// shown. The user cannot leave a page while one of its fields refuses its text.
 class VKD_QT_EXPORT VKD_QT_TabDialog : public VKD_QT_Dialog
 {
     Q_OBJECT
@@ -18,15 +17,14 @@ public:
     explicit VKD_QT_TabDialog(QWidget* parent = nullptr, const char* name = nullptr,
                               Qt::WindowFlags flags = {});
 
-    /// Adds a page behind the others and becomes its owner. Returns its number.
+    /// Appends a page and takes ownership. Returns its number.
     int addTab(QWidget* page, const QString& label);
 
     QTabWidget* tabWidget() const;
     VKD_QT_Ok* okRow() const;
 
 Q_SIGNALS:
-    /// Another page is shown. Sent for the first one when the dialog is shown first, and not
-    /// before.
+    /// Emitted when another page is shown; for the first page, when the dialog is shown first.
     void currentChanged(QWidget* page);
 
 protected:

@@ -6,8 +6,7 @@
 
 #include <set>
 
-/// QTableWidget with questions about its selection by row. A row is selected if one of its cells
-/// is.
+/// A QTableWidget that reports its selection by row. A row is selected if one of its cells is.
 class VKD_QT_EXPORT VKD_QT_TableWidget : public QTableWidget
 {
     Q_OBJECT

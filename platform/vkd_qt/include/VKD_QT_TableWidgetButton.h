@@ -9,21 +9,20 @@ class QStyleOptionButton;
 class QStylePainter;
 class QTableWidgetItem;
 
-/// A button to be laid over a cell of a table: it shows the cell's text, always the present one,
-/// with a mark that it opens something. Too long a text is cut with dots and shown whole in a tool
-/// tip.
+/// A button over a cell of a table. It always shows the current text of the cell, with a mark that
+/// it opens something. A text that is too long is elided and shown in a tool tip.
 class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
 {
     Q_OBJECT
 
 public:
     enum ButtonModus {
-        MarkBeside = 0,      ///< the mark stands to the right of the text, if there is room
-        MarkOnly = 1,        ///< no text
-        MarkInTheCorner = 2, ///< the text has the whole width, for narrow columns
+        MarkBeside = 0,      ///< mark to the right of the text, if there is room
+        MarkOnly = 1,        ///< without text
+        MarkInTheCorner = 2, ///< the text has the full width, for narrow columns
     };
 
-    /// `table` becomes the parent; `item` is one of its items and not owned.
+    /// `table` becomes the parent. `item` is one of its items and is not owned.
     VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetItem* item, ButtonModus modus);
 
     QSize sizeHint() const override;

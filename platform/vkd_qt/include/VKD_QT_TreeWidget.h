@@ -7,8 +7,8 @@
 
 class VKD_QT_Menu;
 
-/// QTreeWidget whose check boxes can follow each other. Items without a check box are passed over
-/// and get none: their children count as children of the item above. Not to be used together with
+/// A QTreeWidget whose check boxes can update each other. Items without a check box are skipped and
+/// get none: their children count as children of the item above. Do not combine it with
 /// Qt::ItemIsAutoTristate.
 class VKD_QT_EXPORT VKD_QT_TreeWidget : public QTreeWidget
 {
@@ -17,27 +17,26 @@ class VKD_QT_EXPORT VKD_QT_TreeWidget : public QTreeWidget
 public:
     explicit VKD_QT_TreeWidget(QWidget* parent = nullptr, const char* name = nullptr);
 
-    /// While this is on, a change of an item's check state, by the user or by setCheckState(), goes
-    /// down to all check boxes below, and each item above becomes Checked if all its children are,
-    /// Unchecked if none is, and PartiallyChecked otherwise. PartiallyChecked goes up, but not
-    /// down; on a parent it stays until the next change below it. At first this is off. Switching
-    /// it on changes nothing by itself, nor do items that come or go: for both there is
-    /// settleCheckStates(). Each column is on its own.
+    /// Switches the automatic update on or off; it is off at first. While it is on, a change of a
+    /// check state, by the user or by setCheckState(), is copied to all check boxes below the item.
+    /// Each item above becomes Checked if all its children are, Unchecked if none is, and
+    /// PartiallyChecked otherwise. PartiallyChecked is propagated upwards only; set on a parent, it
+    /// remains until the next change below it. Neither switching on nor adding or removing items
+    /// changes a state; call settleCheckStates() after that. Columns are independent.
     void setAutomaticCheckStateUpdate(bool on);
 
-    /// Makes the only column as wide as the texts that have come into view since the tree was
-    /// filled, or as the tree if that is wider: a narrow tree can be moved sideways. It does not
-    /// shrink with what goes out of view, because the scroll bar that the width brings would then
-    /// come and go without end.
+    /// Makes the only column as wide as all texts that were visible since the tree was filled, or
+    /// as the tree if that is wider, so that a narrow tree can be scrolled horizontally. The column
+    /// does not shrink again, because its scroll bar would then appear and disappear endlessly.
     void setColumnFitsTexts();
 
-    /// Gives every item with check boxes below it the state that follows from them, in one pass. To
-    /// be called after many changes without the automatic update; then the states are those that
-    /// single steps with it would have led to.
+    /// Sets the state of every item with check boxes below it from these, in one pass. Call it
+    /// after many changes without the automatic update; the result is the same as with it.
     void settleCheckStates();
 
-    /// Adds the action that opens or closes all branches to the menu, which owns it and must not
-    /// outlive the tree. Closing them makes the visible item above the current one current.
+    /// Adds the action that expands or collapses all branches to the menu. The menu owns the action
+    /// and must not outlive the tree. Collapsing makes the visible ancestor of the current item
+    /// current.
     QAction* addExpandAll(VKD_QT_Menu* menu);
     QAction* addCollapseAll(VKD_QT_Menu* menu);
 
@@ -46,10 +45,10 @@ public:
     void reset() override;
 
 Q_SIGNALS:
-    /// Check states have changed: sent once for each step with the automatic update, however many
-    /// states it changed, and once by settleCheckStates(). itemChanged() is sent just before, and
-    /// only for the item that the step began with; all states are settled by then. Other observers
-    /// of the model hear of that item only.
+    /// Emitted once for each step of the automatic update, however many states it changed, and once
+    /// by settleCheckStates(). itemChanged() is emitted just before, only for the item that caused
+    /// the step; all states are updated by then. Other observers of the model are notified about
+    /// that item only.
     void checkStatesChanged();
 
 protected:

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// Qt's plain widgets with an object name as the framework's constructors take it.
+/// Qt widgets whose constructors set the object name, as the framework requires.
 
 class VKD_QT_PushButton : public QPushButton
 {
@@ -33,7 +33,7 @@ public:
     }
 };
 
-/// Its frame is a thin line in the colours of the palette, in every style.
+/// A group box whose frame is a thin line in the palette's colours in every style.
 class VKD_QT_EXPORT VKD_QT_GroupBox : public QGroupBox
 {
 public:

@@ -6,8 +6,7 @@
 
 #include <functional>
 
-/// Puts cells of one table on the clipboard, as text with tabs and as HTML. What is not among the
-/// cells is empty within the rows and columns that they span. Without cells the clipboard stays as
-/// it is.
+/// Copies cells of one table to the clipboard as tab-separated text and as HTML. Missing cells
+/// within the spanned rows and columns are empty. Without cells the clipboard does not change.
 VKD_QT_EXPORT void vkd_qt_copyCells(QModelIndexList cells,
                                     const std::function<QString(const QModelIndex&)>& textOf);

@@ -4,6 +4,6 @@
 
 #include <QString>
 
-/// The form of a picture for a language, 0 German or 1 English: the name with "_0" or "_1" before
-/// its extension, if the resources hold such a file, or else the name itself.
+/// Returns the name of a picture for a language, 0 German or 1 English: with "_0" or "_1" before
+/// the extension if the resources contain such a file, or else the name itself.
 VKD_QT_EXPORT QString vkd_qt_getFileNameWithLang(const QString& name, int language);

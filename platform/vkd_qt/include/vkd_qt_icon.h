@@ -4,6 +4,6 @@
 
 #include <QIcon>
 
-/// A numbered icon of the suite: 2125 groups, 2126 secondary groups. Any other number gives a null
-/// icon. The icon scales; `size` is the side in pixels that it is going to be shown at.
+/// Returns a numbered icon of the suite: 2125 groups, 2126 secondary groups. Any other number gives
+/// a null icon. The icon is scalable; `size` is the intended side length in pixels.
 VKD_QT_EXPORT QIcon vkd_qt_icon(int number, int size);

@@ -4,7 +4,7 @@
 
 #include <QStyleOptionViewItem>
 
-/// For viewOptions() of views with check boxes or a grid: what their cells are drawn with, where
-/// both can be told from the ground. Styles take their colour from a darker shade of the window's,
-/// which is lost on a dark ground. A light palette stays as it is.
+/// Adapts the result of viewOptions() for views with check boxes or a grid, so that these stand out
+/// from the background. Styles draw them in a darker shade of the window colour, which is invisible
+/// in dark palettes. Light palettes are not changed.
 VKD_QT_EXPORT QStyleOptionViewItem vkd_qt_visibleLines(QStyleOptionViewItem option);

@@ -16,13 +16,13 @@ bool PageTabs::eventFilter(QObject* watched, QEvent* event)
     if (watched != tabBar())
         return QTabWidget::eventFilter(watched, event);
     if (event->type() == QEvent::Wheel) {
-        event->ignore(); // what is around the tabs may scroll
+        event->ignore(); // a scroll area around the tabs may scroll
         return true;
     }
     return leadsElsewhere(event) && isHeld();
 }
 
-/// Ctrl+Tab comes from the page.
+/// Handles Ctrl+Tab, which arrives from the page.
 void PageTabs::keyPressEvent(QKeyEvent* event)
 {
     const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;

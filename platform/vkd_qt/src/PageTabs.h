@@ -2,8 +2,8 @@
 
 #include <QTabWidget>
 
-/// The tabs of a dialog. The wheel turns no page, and the user cannot leave a page while one of its
-/// fields is refused; programs can.
+/// The tab widget of a dialog. The wheel does not change the page, and the user cannot leave a page
+/// while one of its fields refuses its text; setCurrentIndex() still works.
 class PageTabs : public QTabWidget
 {
 public:

@@ -9,14 +9,14 @@
 #include <QWheelEvent>
 
 namespace {
-constexpr int PictureGap = 4; // what styles leave between an entry's picture and its text
+constexpr int PictureGap = 4; // pixels that styles leave between icon and text
 } // namespace
 
 VKD_QT4_ComboBox::VKD_QT4_ComboBox(QWidget* parent, const char* name)
     : QComboBox(parent)
 {
     setObjectName(QLatin1String(name));
-    setFocusPolicy(Qt::StrongFocus); // and not Qt's own, which takes the focus by the wheel
+    setFocusPolicy(Qt::StrongFocus); // Qt's default also takes the focus on wheel events
 }
 
 void VKD_QT4_ComboBox::addItem(const QPixmap& picture, const QString& text, int id)

@@ -21,7 +21,7 @@ void VKD_QT_Dialog::callDone(int result)
     m_detour = result;
     done(result);
     if (self)
-        m_isLeaving = false; // a class above may have kept the dialog open
+        m_isLeaving = false; // a subclass may have kept the dialog open
 }
 
 void VKD_QT_Dialog::done(int result)
@@ -32,7 +32,7 @@ void VKD_QT_Dialog::done(int result)
     QDialog::done(result);
 }
 
-/// Who comes by the keyboard sees at once where the focus is, as in the window before.
+/// Shows focus frames at once if the parent window shows them, for users of the keyboard.
 void VKD_QT_Dialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);

@@ -5,7 +5,7 @@
 
 namespace {
 constexpr int FrameMargin = 3;         // pixels between the contents and their frame
-constexpr double FrameStrength = 0.25; // of the text's colour against the ground
+constexpr double FrameStrength = 0.25; // opacity of the text colour
 
 QColor frameColour(const QPalette& palette)
 {
@@ -15,11 +15,11 @@ QColor frameColour(const QPalette& palette)
 }
 } // namespace
 
-/// A style may fill the whole inside with a stretched picture of a frame. With boxes in boxes that
-/// was a third of the time in which a page of settings is painted.
+/// Paints the frame itself, because some styles stretch a picture over the whole box. With nested
+/// boxes that took a third of the painting time of a page of settings.
 ///
-/// Styles give a title the width of its ink, which is less than its letters take: long titles lose
-/// the end of the last one. A blank behind it has no ink and counts up to where it begins.
+/// Styles give a title the width of its ink, which is less than its letters need, so that the last
+/// letter of a long title is cut off. A trailing blank has no ink and widens the title.
 void VKD_QT_GroupBox::paintEvent(QPaintEvent*)
 {
     QStyleOptionGroupBox option;

@@ -26,13 +26,13 @@ VKD_QT_InfoText::VKD_QT_InfoText(bool withSign, const QString& text, QWidget* pa
     layout->addWidget(m_text, 1);
 }
 
-/// A layout that puts the note into several columns of a grid gives it too little height for the
-/// lines that it breaks into.
+/// Sets the minimum height, because a grid layout gives a note that spans several columns too
+/// little height for its lines.
 void VKD_QT_InfoText::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     setMinimumHeight(heightForWidth(event->size().width()));
-    layout()->setGeometry(rect()); // which may have grown meanwhile
+    layout()->setGeometry(rect()); // rect() may have grown meanwhile
 }
 
 QString VKD_QT_InfoText::text() const

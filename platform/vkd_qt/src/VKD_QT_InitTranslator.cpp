@@ -10,14 +10,14 @@
 namespace {
 constexpr int German = 0;
 
-/// Built within the first object's construction, so that it outlives every static object.
+/// Constructed by the first object's constructor, so that it outlives every static object.
 QVector<VKD_QT_InitTranslator*>& livingObjects()
 {
     static QVector<VKD_QT_InitTranslator*> objects;
     return objects;
 }
 
-/// Qt keeps the routine and calls it for each application that is constructed from now on.
+/// Registers a routine that Qt calls at the start of each further application.
 void callAtEachStart()
 {
     static const bool once = [] {
@@ -44,14 +44,15 @@ VKD_QT_InitTranslator::~VKD_QT_InitTranslator()
 
 void VKD_QT_InitTranslator::languageChanged()
 {
-    const QVector<VKD_QT_InitTranslator*> objects = livingObjects(); // a widget may load a module
+    const QVector<VKD_QT_InitTranslator*> objects = livingObjects(); // widgets may load modules
     for (VKD_QT_InitTranslator* object : objects)
         object->install();
 }
 
 void VKD_QT_InitTranslator::install()
 {
-    // A new one each time: an application that has ended took its list of translators with it.
+    // A new translator for each application, because an application's end drops its list of
+    // translators.
     m_translator.reset();
     if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != German)
         return;

@@ -3,7 +3,7 @@
 #include <QTabWidget>
 
 namespace {
-/// The tabs that the widget is a page of, or null.
+/// Returns the tab widget that the widget is a page of, or null.
 QTabWidget* tabsOf(const QWidget* widget)
 {
     const QWidget* stack = widget->parentWidget();
@@ -11,7 +11,8 @@ QTabWidget* tabsOf(const QWidget* widget)
     return tabs && tabs->indexOf(const_cast<QWidget*>(widget)) >= 0 ? tabs : nullptr;
 }
 
-/// What has never been shown is not hidden for that: its tab has not been opened yet.
+/// Returns whether the widget was hidden explicitly. Widgets on a tab that was never opened are
+/// hidden too, but not explicitly.
 bool isTakenAway(const QWidget* widget)
 {
     return widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);

@@ -7,7 +7,7 @@ VKD_QT_MessageBox::VKD_QT_MessageBox(Icon icon, QWidget* parent, const QString& 
                                      const QString& text)
     : QMessageBox(icon, title, text, NoButton, parent)
 {
-    setTextFormat(Qt::PlainText); // names of files may look like tags
+    setTextFormat(Qt::PlainText); // file names may look like tags
 }
 
 int VKD_QT_MessageBox::warning(QWidget* parent, const QString& title, const QString& text,
@@ -45,7 +45,7 @@ int VKD_QT_MessageBox::critical(QWidget* parent, const QString& title, const QSt
 void VKD_QT_MessageBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Cancel))
-        close(); // Qt's would press the button that it thinks fit
+        close(); // Qt would press a button of its choice
     else
         QMessageBox::keyPressEvent(event);
 }

@@ -11,7 +11,7 @@
 #include <utility>
 
 namespace {
-/// Keys that write, delete, or move within a widget.
+/// Returns whether a key writes, deletes or moves the cursor within a widget.
 bool isInput(int key)
 {
     constexpr int Passing[] = {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return,
@@ -19,7 +19,7 @@ bool isInput(int key)
     for (int passing : Passing)
         if (key == passing)
             return false;
-    return key < Qt::Key_Shift; // from there on: modifiers, function keys, special keys
+    return key < Qt::Key_Shift; // modifiers, function keys and special keys follow
 }
 
 bool isUse(const QWidget& widget, QEvent* event)
@@ -32,12 +32,12 @@ bool isUse(const QWidget& widget, QEvent* event)
     }
 }
 
-/// The widget may be in the middle of an event, out of which came what makes it go.
+/// Deletes a widget later, because its own event may have caused the deletion.
 void dismiss(QWidget* widget)
 {
     if (!widget)
         return;
-    widget->setObjectName(QString()); // nobody is to find it in place of the one that follows
+    widget->setObjectName(QString()); // its successor may have the same name
     widget->hide();
     widget->deleteLater();
 }
@@ -119,7 +119,7 @@ bool VKD_QT_RadioButtonGroup::eventFilter(QObject* watched, QEvent* event)
         if (!own || (own != widget && !own->isAncestorOf(widget)) || entry == selectedButton())
             continue;
         const QPointer<QWidget> used = widget;
-        m_radios[entry]->click(); // who is told may take the widget away, and then nobody uses it
+        m_radios[entry]->click(); // a connected slot may remove the widget
         return !used || std::find(m_widgets.begin(), m_widgets.end(), own) == m_widgets.end();
     }
     return false;
@@ -178,11 +178,11 @@ void VKD_QT_RadioButtonGroup::arrange()
     QPoint foot;
     for (int entry = 0; isEntry(entry); ++entry) {
         const QPoint place = placeOf(entry);
-        put(m_radios[entry], place, m_widgets[entry] ? 1 : 2); // a long text moves no widget away
+        put(m_radios[entry], place, m_widgets[entry] ? 1 : 2); // long texts span both columns
         put(m_widgets[entry], place + QPoint(1, 0), 1);
         foot = {qMax(foot.x(), place.x() + 2), qMax(foot.y(), place.y() + 1)};
     }
-    // What room is left stays at the right and at the foot.
+    // The remaining room is at the right and at the bottom.
     m_grid->setColumnStretch(foot.x(), 1);
     m_grid->setRowStretch(foot.y(), 1);
     chainTabs();
@@ -215,7 +215,8 @@ void VKD_QT_RadioButtonGroup::chainTabs()
     setTabStop();
 }
 
-/// Qt sees to it no earlier than a button gets the focus: the first Tab would lead to button 0.
+/// Restricts the Tab key to the checked button. Qt does this only when a button gets the focus, so
+/// that the first Tab would lead to button 0.
 void VKD_QT_RadioButtonGroup::setTabStop()
 {
     const QAbstractButton* chosen = m_buttons->checkedButton();

@@ -44,8 +44,8 @@ void VKD_QT_TabDialog::showEvent(QShowEvent* event)
     tellPage();
 }
 
-/// The pages are built behind the buttons, which Tab is to reach last. The lists of combo boxes are
-/// in the chain, too, and in windows of their own.
+/// Moves the buttons to the end of the tab order; pages are created after them. The chain also
+/// contains the lists of combo boxes, which have their own windows.
 void VKD_QT_TabDialog::chainButtons()
 {
     QWidget* last = m_tabs;
@@ -59,7 +59,7 @@ void VKD_QT_TabDialog::chainButtons()
     }
 }
 
-/// Else the focus would begin at the button that a dialog presses by default.
+/// Focuses the first field of the page; otherwise the focus would start at the default button.
 void VKD_QT_TabDialog::enterPage()
 {
     const QWidget* page = m_tabs->currentWidget();

@@ -11,7 +11,7 @@ constexpr int Margin = 3;
 constexpr int MarkWidth = 12;
 constexpr int Wrapped = Qt::AlignCenter | Qt::TextWordWrap;
 
-/// Each line cut to the width by itself: cutting the whole would drop the second line.
+/// Elides each line separately; eliding the whole text would drop the second line.
 QString elided(const QString& text, const QFontMetrics& metrics, int width)
 {
     QStringList lines = text.split(QLatin1Char('\n'));
@@ -26,7 +26,7 @@ bool isWithin(const QPersistentModelIndex& cell, const QModelIndex& first, const
            cell.column() >= first.column() && cell.column() <= last.column();
 }
 
-/// Three dots at the bottom right of the area.
+/// Paints three dots at the bottom right of the area.
 void paintMark(QPainter& painter, const QRect& area)
 {
     painter.setRenderHint(QPainter::Antialiasing);
@@ -57,7 +57,7 @@ VKD_QT_TableWidgetButton::VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetI
 void VKD_QT_TableWidgetButton::takeName()
 {
     if (!m_index.isValid())
-        return; // the cell has gone before its button
+        return; // the cell was deleted before its button
     const QVariant header = m_index.model()->headerData(m_index.column(), Qt::Horizontal);
     setAccessibleName(header.toString() + QLatin1String(": ") + itemText());
 }
@@ -83,7 +83,7 @@ void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
     const QRect inner = rect().adjusted(Margin, 0, -Margin, 0);
     const QRect beside = inner.adjusted(0, 0, -MarkWidth, 0);
-    if (m_modus != MarkOnly) // the mark yields its place to a text that needs it
+    if (m_modus != MarkOnly) // a text that needs the room may cover the mark
         paintText(&painter, option, m_modus == MarkBeside && fits(beside) ? beside : inner);
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
@@ -101,8 +101,8 @@ bool VKD_QT_TableWidgetButton::fits(const QRect& area) const
     return needed.height() <= area.height() && needed.width() <= area.width();
 }
 
-/// In as many lines as there is room for, as the cell does; if these do not do, its own lines are
-/// cut.
+/// Wraps the text like the cell does. If there is not enough room, keeps the text's own lines and
+/// elides them.
 void VKD_QT_TableWidgetButton::paintText(QStylePainter* painter, const QStyleOptionButton& option,
                                          const QRect& area) const
 {

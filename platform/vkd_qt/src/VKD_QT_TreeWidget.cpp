@@ -12,7 +12,8 @@ VKD_QT_TreeWidget::VKD_QT_TreeWidget(QWidget* parent, const char* name)
     : QTreeWidget(parent)
 {
     setObjectName(QLatin1String(name));
-    // Behind QTreeWidget's own connections: whoever hears this may delete the item.
+    // Connected after QTreeWidget's own slots, because a slot of checkStatesChanged() may delete
+    // the item.
     connect(model(), &QAbstractItemModel::dataChanged, this,
             [this](const QModelIndex&, const QModelIndex&, const QVector<int>& roles) {
                 if (m_isAutomatic && roles.contains(Qt::CheckStateRole))
@@ -58,11 +59,12 @@ void VKD_QT_TreeWidget::closeBranches()
         return;
     while (item->parent())
         item = item->parent();
-    // Else the arrow keys would begin at the first row.
+    // Otherwise the arrow keys would start at the first row.
     setCurrentItem(item, currentColumn(), QItemSelectionModel::NoUpdate);
 }
 
-/// The view hears of a change ahead of all others, so that these find the states settled.
+/// Updates the states. The view is notified before other observers, so that these find all states
+/// updated.
 void VKD_QT_TreeWidget::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                                     const QVector<int>& roles)
 {
@@ -80,7 +82,8 @@ void VKD_QT_TreeWidget::dataChanged(const QModelIndex& topLeft, const QModelInde
     viewport()->update();
 }
 
-/// Qt's Space asks the current cell only, and that may be one beside the check box.
+/// Toggles the check box of the current row. Qt's Space handling considers the current cell only,
+/// which may be beside the check box.
 void VKD_QT_TreeWidget::keyPressEvent(QKeyEvent* event)
 {
     constexpr Qt::ItemFlags Usable = Qt::ItemIsEnabled | Qt::ItemIsUserCheckable;
@@ -104,7 +107,7 @@ void VKD_QT_TreeWidget::setColumnFitsTexts()
     connect(&m_measuring, &QTimer::timeout, this, &VKD_QT_TreeWidget::measure);
 }
 
-/// When the tree stands: most trees have the room, and need not wait for measuring.
+/// Measures once the tree is shown; most trees have enough room and need not wait for it.
 void VKD_QT_TreeWidget::measureLater()
 {
     if (m_columnFits && isVisible())
@@ -148,7 +151,7 @@ void VKD_QT_TreeWidget::scrollContentsBy(int dx, int dy)
         measureLater();
 }
 
-/// What is in view may have changed.
+/// Other rows may be visible now.
 void VKD_QT_TreeWidget::updateGeometries()
 {
     QTreeWidget::updateGeometries();

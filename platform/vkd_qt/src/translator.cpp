@@ -2,8 +2,8 @@
 
 #include <QGuiApplication>
 
-/// The texts of Qt's own widgets: standard buttons, menus of text fields, file dialogs. A program
-/// without a screen that merely loads this library keeps the language it speaks.
+/// Installs the translations of Qt's own widgets: standard buttons, menus of text fields, file
+/// dialogs. A program without a GUI that only loads this library keeps its language.
 static void translateWidgets()
 {
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))

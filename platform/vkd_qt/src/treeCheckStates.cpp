@@ -6,7 +6,7 @@
 #include <optional>
 
 namespace {
-using State = std::optional<Qt::CheckState>; // none without a check box
+using State = std::optional<Qt::CheckState>; // empty without a check box
 
 State ownState(const QTreeWidgetItem* item, int column)
 {
@@ -31,14 +31,14 @@ State stateOfChildren(const QTreeWidgetItem* item, int column)
     return state;
 }
 
-/// What the item counts for in its parent.
+/// Returns the state that the item contributes to its parent.
 State stateOf(const QTreeWidgetItem* item, int column)
 {
     const State own = ownState(item, column);
     return own ? own : stateOfChildren(item, column);
 }
 
-/// The state of the parent's children, of which the one at `row` has `state`.
+/// Returns the combined state of the parent's children; the child at `row` has `state`.
 State stateAround(const QTreeWidgetItem* parent, int row, State state, int column)
 {
     const int count = parent->childCount();
@@ -51,7 +51,7 @@ State stateAround(const QTreeWidgetItem* parent, int row, State state, int colum
     return state;
 }
 
-/// Settles the item and all below. Returns what it counts for in its parent.
+/// Updates the item and all items below. Returns the state that it contributes to its parent.
 State settle(QTreeWidgetItem* item, int column)
 {
     State below;

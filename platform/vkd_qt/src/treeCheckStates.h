@@ -5,18 +5,18 @@
 class QModelIndex;
 class QTreeWidgetItem;
 
-/// The rules of check boxes that follow each other; VKD_QT_TreeWidget states them. All of these
-/// change states by setCheckState(), so the caller sees to the signals.
+/// The propagation rules of VKD_QT_TreeWidget's check boxes. All functions change states by
+/// setCheckState(); the caller blocks signals.
 
 bool hasCheckBox(const QTreeWidgetItem* item, int column);
 
-/// Gives all check boxes below the item this state.
+/// Sets this state in all check boxes below the item.
 void carryDown(QTreeWidgetItem* item, int column, Qt::CheckState state);
 
-/// Brings the items above this one up to date; `index` is its place. Ends where nothing changes.
-/// Siblings are asked from the item outwards until one differs, so that to set the children of a
-/// parent one after the other takes few questions each.
+/// Updates the items above this one; `index` is its model index. Stops where nothing changes.
+/// Siblings are read from the item outwards until one differs, so that setting the children of a
+/// parent one after the other reads few siblings each.
 void settleAncestors(const QTreeWidgetItem* item, const QModelIndex& index);
 
-/// Brings every item below this one up to date, bottom up.
+/// Updates every item below this one, bottom up.
 void settleBelow(QTreeWidgetItem* item, int column);

@@ -7,7 +7,8 @@
 #include <algorithm>
 
 namespace {
-/// A cell for a spreadsheet: one with a tab or a line end stands in quotation marks.
+/// Returns the text of a cell for a spreadsheet, quoted if it contains a tab, a line end or a
+/// quote.
 QString plainCell(QString text)
 {
     const QLatin1Char quote('"');

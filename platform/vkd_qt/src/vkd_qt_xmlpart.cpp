@@ -13,7 +13,7 @@ struct Sign
 const Sign Signs[] = {
     {'<', QLatin1String("lt")}, {'>', QLatin1String("gt")}, {'&', QLatin1String("amp")}};
 
-/// Half a pair does not survive a conversion to UTF-8.
+/// Detects single surrogates, which a conversion to UTF-8 would lose.
 bool isHalfPair(const QString& text, int at)
 {
     const QChar unit = text.at(at);
@@ -30,7 +30,7 @@ QString escaped(QChar unit, bool isNumber)
     return isNumber ? QStringLiteral("&#x%1;").arg(unit.unicode(), 0, 16) : QString(unit);
 }
 
-/// What stands between "&" and ";" as a unit; -1 if nothing is known by that name.
+/// Converts the text between "&" and ";" to a unit; -1 if it is unknown.
 int unitOf(QStringView name)
 {
     for (const Sign& sign : Signs)
@@ -43,7 +43,7 @@ int unitOf(QStringView name)
     return isNumber && unit >= 0 ? unit : -1;
 }
 
-/// An escape that nobody wrote stays as it stands.
+/// Decodes the escapes of escaped(); unknown ones remain as text.
 QString unescaped(QStringView text)
 {
     QString value = QStringLiteral("");
@@ -68,7 +68,7 @@ QString vkd_qt_writeXMLpart(const QString& value, const QString& tag)
     return part + QLatin1String("</") + tag + QLatin1Char('>');
 }
 
-/// Texts hold no angle brackets, so what looks like a tag is one.
+/// Angle brackets in texts are escaped, so every "<" begins a tag.
 QString vkd_qt_readXMLpart(const QString& xml, int from, const QString& tag, int* next)
 {
     const QString begin = QLatin1Char('<') + tag + QLatin1Char('>');

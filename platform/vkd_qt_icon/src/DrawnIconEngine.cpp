@@ -17,7 +17,7 @@ void DrawnIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mo
     QPalette palette = QGuiApplication::palette();
     if (mode == QIcon::Disabled) {
         palette.setCurrentColorGroup(QPalette::Disabled);
-        // Some styles leave the colour of a selection as it is; a dead button must not look alive.
+        // Some styles do not change the highlight colour; a disabled button must not look enabled.
         palette.setColor(QPalette::Highlight, palette.color(QPalette::Mid));
     }
     const int side = qMin(rect.width(), rect.height());

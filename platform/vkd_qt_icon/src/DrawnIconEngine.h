@@ -7,7 +7,7 @@
 namespace vkd {
 namespace qt {
 
-/// An icon that is drawn anew for each size, state and palette.
+/// An icon engine that draws its icon for each size, state and palette.
 class DrawnIconEngine : public QIconEngine
 {
 public:

@@ -26,7 +26,7 @@ QPen line(const QColor& color, qreal width = 1.2)
 void calculator(QPainter& painter, const QPalette& palette)
 {
     painter.setPen(line(ink(palette)));
-    painter.setBrush(palette.color(QPalette::Base)); // it also stands on grounds of other colours
+    painter.setBrush(palette.color(QPalette::Base)); // it also appears on other background colours
     painter.drawRoundedRect(QRectF(3, 1.5, 10, 13), 1.5, 1.5);
     painter.setPen(Qt::NoPen);
     painter.setBrush(accent(palette));
@@ -37,7 +37,7 @@ void calculator(QPainter& painter, const QPalette& palette)
             painter.drawRect(QRectF(4.9 + 2.4 * column, 7.6 + 2.2 * row, 1.4, 1.2));
 }
 
-/// A mesh of two by two elements, seen from the side, of which some are a group.
+/// A mesh of two by two elements in perspective; some of them are a group.
 void groups(QPainter& painter, const QPalette& palette)
 {
     const auto corner = [](qreal column, qreal row) {
@@ -52,7 +52,7 @@ void groups(QPainter& painter, const QPalette& palette)
         }
 }
 
-/// Two that overlap, as they may have elements in common.
+/// Two overlapping groups, since secondary groups may share elements.
 void secondaryGroups(QPainter& painter, const QPalette& palette)
 {
     painter.setPen(line(ink(palette)));
@@ -62,7 +62,7 @@ void secondaryGroups(QPainter& painter, const QPalette& palette)
     painter.drawRect(QRectF(6, 6.5, 4, 3));
 }
 
-/// The section of a beam with its bars.
+/// The cross section of a beam with its bars.
 void reinforcement(QPainter& painter, const QPalette& palette)
 {
     painter.setPen(line(ink(palette)));
@@ -126,7 +126,7 @@ void contents(QPainter& painter, const QPalette& palette)
     }
 }
 
-/// A page with lines of print.
+/// A page with lines of text.
 void text(QPainter& painter, const QPalette& palette)
 {
     painter.setPen(line(ink(palette)));
@@ -154,7 +154,7 @@ void pick(QPainter& painter, const QPalette& palette)
     painter.drawPolygon(QPolygonF({{7, 6}, {14.5, 9}, {11, 10.5}, {9.5, 14}}));
 }
 
-/// A folder that stands open.
+/// An open folder.
 void open(QPainter& painter, const QPalette& palette)
 {
     painter.setPen(line(ink(palette)));

@@ -11,7 +11,7 @@ namespace qt {
 /// Draws an icon into the square from (0, 0) to (16, 16).
 using Drawing = void (*)(QPainter& painter, const QPalette& palette);
 
-/// The drawing of this name, or null.
+/// Returns the drawing with this name, or null.
 Drawing findDrawing(const QString& name);
 
 } // namespace qt
