@@ -10,7 +10,7 @@
 namespace {
 const QString IndexFile = QStringLiteral("index.txt");
 
-/// Names become parts of paths, so that nothing else must pass.
+/// Accepts only names that are safe as parts of paths.
 bool isName(const QString& text)
 {
     static const QRegularExpression name(QStringLiteral("\\A[A-Za-z0-9_]+\\z"));
@@ -27,7 +27,7 @@ QString pageFile(const QString& topic)
     return topic.toLower() + QLatin1String(".html");
 }
 
-/// The folder of a book in a language, or nothing.
+/// Returns the folder of a book in a language, empty if there is none.
 QString folderOf(const QString& book, int language)
 {
     const QString index =

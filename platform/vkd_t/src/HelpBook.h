@@ -5,9 +5,9 @@
 #include <QUrl>
 #include <QVector>
 
-/// A book of the help in one language: the folder `help/<book>/<language>` on the search path with
-/// its index and, for each topic, a page. Pages and pictures have addresses without the language,
-/// so that a way back through pages survives a change of the language. Knows no widgets.
+/// A help book in one language: the folder `help/<book>/<language>` on the search path with an
+/// index and one page for each topic. The addresses of pages and pictures do not contain the
+/// language, so that the browser's history survives a change of the language. Uses no widgets.
 class HelpBook
 {
 public:
@@ -18,21 +18,21 @@ public:
     };
 
     HelpBook() = default;
-    /// Reads the index for a language, 0 German or 1 English, or else for the other one. Without
-    /// any there are no topics, and a topic without a page that can be read is none. The name is
-    /// compared without case.
+    /// Reads the index in a language, 0 German or 1 English, or in the other one if it is missing.
+    /// Without an index there are no topics; topics without a readable page are skipped. The name
+    /// is case-insensitive.
     HelpBook(const QString& name, int language);
 
     const QString& name() const { return m_name; }
     const QVector<Topic>& topics() const { return m_topics; }
-    /// The number of a topic by its name, without case, or by the address of its page; else -1.
+    /// Returns the number of a topic with this case-insensitive name or page address, or -1.
     int find(const QString& name) const;
     int find(const QUrl& address) const;
 
     QUrl address(int topic) const;
     QString page(int topic) const;
-    /// A file of the book: that of the language, or else one for all languages, as a picture
-    /// without texts is. Null if there is none.
+    /// Returns a file of the book: the one for the language, or else the one for all languages,
+    /// such as a picture without texts. Null if there is none.
     QByteArray file(const QUrl& address) const;
 
 private:

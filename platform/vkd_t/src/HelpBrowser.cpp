@@ -11,8 +11,8 @@ constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 20;
 constexpr int WheelStep = 120;
 
-/// Borders in the one grey that can be told from light and from dark ground are the text
-/// document's own; colours stay out of here.
+/// Colours are left out on purpose: the text document's default border is a grey that is visible on
+/// light and dark backgrounds.
 const QString PageStyle = QStringLiteral("table { border-collapse: collapse; margin-top: 6px; "
                                          "margin-bottom: 6px }"
                                          "td, th { padding: 4px }"
@@ -99,7 +99,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& address)
     const QByteArray bytes = m_book.file(address);
     if (type == QTextDocument::ImageResource)
         return bytes;
-    return QString::fromUtf8(bytes); // as text, or the codec would be guessed
+    return QString::fromUtf8(bytes); // as text, since Qt would guess the codec of bytes
 }
 
 void HelpBrowser::wheelEvent(QWheelEvent* event)
@@ -117,7 +117,7 @@ void HelpBrowser::wheelEvent(QWheelEvent* event)
 void HelpBrowser::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
-    // The colour of links is put into the document when a page is read.
+    // The document stores the link colour when a page is loaded.
     if (event->type() == QEvent::PaletteChange && topic() >= 0)
         readAgain();
 }

@@ -4,8 +4,8 @@
 
 #include <QTextBrowser>
 
-/// Shows the pages of a book, with the way back through them, finds texts in the page and scales
-/// it. Colours are those of the palette.
+/// Shows the pages of a book with a history, searches the page and scales it. The colours come from
+/// the palette.
 class HelpBrowser : public QTextBrowser
 {
     Q_OBJECT
@@ -14,21 +14,22 @@ public:
     explicit HelpBrowser(QWidget* parent);
 
     const HelpBook& book() const { return m_book; }
-    /// The number of the topic shown, -1 if there is none.
+    /// Returns the number of the current topic, -1 if there is none.
     int topic() const;
-    /// Opens a topic of a book. The same book in another language keeps the way back, another book
-    /// begins a new one.
+    /// Opens a topic of a book. The history is preserved for the same book in another language and
+    /// cleared for another book.
     void open(const HelpBook& book, int number);
     void openTopic(int number);
 
-    /// Marks the next place with the text behind the marked one, or before it, and starts over at
-    /// the end of the page. False, and no change, if the page does not have it.
+    /// Selects the next match after the selected one, or the previous one before it, and wraps
+    /// around at the end of the page. Returns false and changes nothing if there is no match.
     bool findNext(const QString& text, QTextDocument::FindFlags flags = {});
-    /// As findNext(), but a marked place counts as well if it goes on to have the text.
+    /// Searches like findNext(), but from the start of the current match, which remains selected if
+    /// it still matches the longer text.
     bool findWhileTyping(const QString& text);
     void unmark();
 
-    /// Makes the text larger by points, or smaller; both within limits.
+    /// Changes the font size by this number of points, within limits.
     void zoomBy(int points);
     void resetZoom();
 
@@ -43,7 +44,7 @@ private:
     void readAgain();
 
     HelpBook m_book;
-    QUrl m_shown; ///< source() is late: it changes after the signal sourceChanged()
+    QUrl m_shown; ///< needed because source() changes after sourceChanged()
     int m_zoom = 0;
-    int m_wheel = 0; ///< what is left of a turn of the wheel that was no whole step
+    int m_wheel = 0; ///< the remainder of the wheel's rotation below one step
 };

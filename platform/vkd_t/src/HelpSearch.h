@@ -5,15 +5,15 @@
 
 class HelpBook;
 
-/// The plain texts of a book's pages for searching. They are made by the parser that shows the
-/// pages, so that what is found here is found in the page as well. Knows no widgets.
+/// The searchable plain texts of a book's pages. They come from the parser that also displays the
+/// pages, so that every match is found in the page as well. Uses no widgets.
 class HelpSearch
 {
 public:
     HelpSearch() = default;
     explicit HelpSearch(const HelpBook& book);
 
-    /// The numbers of the topics whose pages hold the text, without case.
+    /// Returns the numbers of topics whose pages contain the text, case-insensitively.
     QVector<int> topicsWith(const QString& text) const;
 
 private:

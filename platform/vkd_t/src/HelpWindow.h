@@ -13,9 +13,8 @@ class QListWidget;
 class QListWidgetItem;
 class WindowTie;
 
-/// The window of the help: the page, at its left the topics of the book and the topics that have
-/// the text searched for, above them the tool bar. What is found, and where, is left to the book,
-/// the search and the browser; which window it belongs to is left to the tie.
+/// The help window: the page, the list of topics and search results at its left, and the tool bar.
+/// The book, the search and the browser find texts; the WindowTie sets the transient parent.
 class HelpWindow : public QMainWindow
 {
     Q_OBJECT
@@ -23,10 +22,10 @@ class HelpWindow : public QMainWindow
 public:
     HelpWindow();
 
-    /// Opens a topic of a book, which may be the present one in another language.
+    /// Opens a topic of a book, which may be the current book in another language.
     void open(const HelpBook& book, int topic);
-    /// Shows the window in front, as a child window of that of `caller` or of the modal dialog that
-    /// is active.
+    /// Shows the window in front, as a child window of the active modal dialog or of `caller`'s
+    /// window.
     void showFor(QWidget* caller);
 
 protected:

@@ -22,11 +22,11 @@ void deleteHelpWindow()
 HelpWindow& openWindow()
 {
     if (helpWindow && !helpWindow->isVisible())
-        deleteHelpWindow(); // closed, and waiting for the event loop to delete it
+        deleteHelpWindow(); // closed; the event loop will delete it
     if (!helpWindow) {
         helpWindow = new HelpWindow;
         qRemovePostRoutine(deleteHelpWindow);
-        qAddPostRoutine(deleteHelpWindow); // an application's end forgets its routines
+        qAddPostRoutine(deleteHelpWindow); // Qt drops post routines when an application ends
     }
     return *helpWindow;
 }

@@ -15,7 +15,7 @@ QWindow* nativeWindow(QWidget* window)
 {
     if (!window)
         return nullptr;
-    window->winId(); // makes it if need be
+    window->winId(); // creates the native window if necessary
     return window->windowHandle();
 }
 } // namespace
@@ -38,7 +38,7 @@ void WindowTie::tieTo(QWidget* widget)
 bool WindowTie::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_window && event->type() == QEvent::WindowBlocked)
-        QTimer::singleShot(0, this, &WindowTie::followModal); // the dialog is still being shown
+        QTimer::singleShot(0, this, &WindowTie::followModal); // the dialog is not fully shown yet
     if (event->type() == QEvent::Hide && m_hosts.size() > 1 && watched == m_hosts.first())
         drop(m_hosts.first());
     return QObject::eventFilter(watched, event);

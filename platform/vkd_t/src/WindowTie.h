@@ -4,21 +4,21 @@
 #include <QVector>
 #include <QWidget>
 
-/// Makes a window without a parent the child window of another one, its host, for the window
-/// system alone: a modal dialog does not block its child windows, and the tie can move to another
-/// host while the window is open, which a widget's parent cannot without a new native window.
+/// Sets the transient parent of a parentless window, its host. Only the window system sees this
+/// relation: a modal dialog does not block its transient children, and the host can change while
+/// the window is open. A change of the widget's parent would create a new native window.
 ///
-/// A modal dialog that would block the window becomes its host. When that goes away, the window
-/// that the dialog belongs to is the next host. With the last host the window closes.
+/// A modal dialog that would block the window becomes its host. When the dialog closes, the next
+/// host is the window that the dialog belongs to. The window closes with its last host.
 class WindowTie : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window becomes the owner.
+    /// The window becomes the owner of the tie.
     explicit WindowTie(QWidget* window);
 
-    /// Ties to the modal dialog that is active, else to the window of `widget`, which may be null.
+    /// Makes the active modal dialog the host, or else the window of `widget`, which may be null.
     void tieTo(QWidget* widget);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -31,7 +31,7 @@ private:
     void forget(QWidget* window);
 
     QWidget* m_window;
-    /// The host and, in turn, the windows that it belongs to: they may die together, and then none
-    /// of them can be asked for its parent.
+    /// The host and its chain of parent windows. They are stored because they may be destroyed
+    /// together, when none of them can be asked for its parent.
     QVector<QWidget*> m_hosts;
 };
