@@ -7,29 +7,30 @@
 
 class ZobDatabase;
 
-/// One state of a project to read from. While the object lives, no other program can store a change
-/// in the project; changes of this program are seen as they are put. The store counts its readers:
-/// snapshots may overlap in any order, also with transactions, and neither the end of a sequence
-/// nor vkd_zob_free_ex() ends one. Closing the project does.
+/// A consistent state of a project for reading. While the object exists, other programs cannot
+/// store changes in the project; changes by this program are visible when they are put. The store
+/// counts its readers: snapshots may overlap with each other and with transactions in any order,
+/// and neither the end of a sequence nor vkd_zob_free_ex() ends a snapshot. Closing the project
+/// ends it.
 ///
-/// A transaction that begins while a snapshot of this program lives does not wait: if another
-/// program is changing the project it is refused with VKD_ZOB_LOCKED at once, since the other
-/// program would wait for the end of the snapshot.
+/// If a transaction begins while a snapshot of this program exists and another program is changing
+/// the project, the transaction does not wait but is refused with VKD_ZOB_LOCKED, since the other
+/// program is waiting for the end of the snapshot.
 class VKD_Q_EXPORT ZobSnapshot
 {
 public:
-    /// Of the project at this database index. Another program that is storing is waited for, at
-    /// most as long as setting 201 says.
+    /// Begins a snapshot of the project at this database index. Waits for another program that is
+    /// storing, at most as long as setting 201 says.
     explicit ZobSnapshot(int index);
     ~ZobSnapshot();
     ZobSnapshot(const ZobSnapshot&) = delete;
     ZobSnapshot& operator=(const ZobSnapshot&) = delete;
 
-    /// OK, or why there is none: VKD_ZOB_LOCKED above all. What is read then may be of several
-    /// states.
+    /// Returns OK, or why the snapshot could not begin, usually VKD_ZOB_LOCKED. Reads may then
+    /// return data from different states.
     const VkdStatus& status() const { return m_status; }
 
 private:
     VkdStatus m_status;
-    std::weak_ptr<ZobDatabase> m_store; // is gone with the project
+    std::weak_ptr<ZobDatabase> m_store; // expires when the project is closed
 };

@@ -7,31 +7,32 @@
 
 class ZobDatabase;
 
-/// A change of a project, of which all is stored or nothing. It begins with the object; until its
-/// end no other program can change the project, and what is read in it includes what was put in it.
-/// Without commit(), nothing is stored.
+/// A change of a project that is stored completely or not at all. It begins with the construction.
+/// Until it ends, no other program can change the project, and reads include the records that were
+/// put. Without commit(), nothing is stored.
 ///
-/// Transactions and taken key pairs that overlap are parts of one change, in any order: the end of
-/// the last part stores it. It is dropped if a part ended without commit() or anything in it
-/// failed, a read too.
+/// Overlapping transactions and taken key pairs are parts of one change, in any order: the end of
+/// the last part stores it. The change is rolled back if a part ended without commit() or any
+/// operation in it failed, even a read.
 class VKD_Q_EXPORT ZobTransaction
 {
 public:
-    /// Of the project at this database index. Another program that is changing the project is
-    /// waited for, at most as long as setting 201 says, but not while a ZobSnapshot of this program
-    /// lives.
+    /// Begins a transaction of the project at this database index. Waits for another program that
+    /// is changing the project, at most as long as setting 201 says, but not while a ZobSnapshot of
+    /// this program exists.
     explicit ZobTransaction(int index);
     ~ZobTransaction();
     ZobTransaction(const ZobTransaction&) = delete;
     ZobTransaction& operator=(const ZobTransaction&) = delete;
 
-    /// OK as long as all went well, otherwise the first failure of the change; after the end its
-    /// result. A transaction that could not begin refuses all puts.
+    /// Returns OK while no operation failed, otherwise the first failure of the change; after the
+    /// end, the result. A transaction that could not begin refuses all puts.
     VkdStatus status() const;
-    /// Ends the transaction: OK if the change is stored, or, where other parts of it are open, if
-    /// it is sound so far. Otherwise why nothing is stored. Further calls repeat the result.
+    /// Ends the transaction. Returns OK if the change is stored or, while other parts are open, if
+    /// no operation has failed so far. Otherwise returns why nothing is stored. Further calls
+    /// return the same result.
     VkdStatus commit();
-    /// Ends the transaction and drops the change: the first failure of the change, or
+    /// Ends the transaction and rolls back the change. Returns the first failure of the change, or
     /// VKD_ZOB_CANCELLED if there was none.
     VkdStatus rollback();
 
@@ -39,7 +40,7 @@ private:
     VkdStatus end(bool isWhole);
 
     int m_index;
-    VkdStatus m_result;                 // once it has ended
-    std::weak_ptr<ZobDatabase> m_store; // null after the end, gone with the project
+    VkdStatus m_result;                 // valid after the end
+    std::weak_ptr<ZobDatabase> m_store; // expires when the project is closed
     bool m_isOpen = false;
 };

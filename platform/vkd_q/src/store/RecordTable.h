@@ -8,46 +8,47 @@
 
 struct sqlite3;
 
-/// The records of a store, which lie in one table by key pair and position, and the statements on
-/// it. It knows nothing of transactions. Operations that give an int answer SQLite's code.
+/// The records of a store, which are in one table by key pair and position, and the statements on
+/// it. It does not handle transactions. Operations that return an int return SQLite's code.
 class RecordTable
 {
 public:
     using KeyPair = std::pair<int, int>;
 
-    /// Of an open connection, which outlives the table.
+    /// Uses an open connection, which must outlive the table.
     explicit RecordTable(sqlite3* connection);
 
-    /// Brings the walk to the record; who asks for one position after the other steps through one
-    /// run of its statement. SQLITE_ROW if there is one.
+    /// Moves the walk to the record. Reading consecutive positions steps through a single execution
+    /// of the statement. Returns SQLITE_ROW if the record exists.
     int stepTo(KeyPair pair, int position);
-    /// Of the record at which the walk is; cut to the `*length` bytes that `record` has.
+    /// Copies the current record of the walk, cut to the `*length` bytes of `record`.
     cd_error_t deliver(void* record, int* length) const;
-    /// A walk that is not stopped keeps the file locked.
+    /// Stops the walk, which otherwise keeps the file locked.
     void stopWalk();
 
-    /// SQLITE_ROW if there is any record under the pair.
+    /// Returns SQLITE_ROW if there is any record under the pair.
     int findAny(KeyPair pair);
-    /// Moves the pair to the first one in use from there on; SQLITE_ROW if there is one.
+    /// Sets the pair to the first used one that is not less. Returns SQLITE_ROW if there is one.
     int findNext(KeyPair* pair);
 
-    // SQLITE_DONE if it was done.
+    // The following operations return SQLITE_DONE on success.
     int clear(KeyPair pair);
     int writeFirst(KeyPair pair, const void* record, int length);
     int append(KeyPair pair, const void* record, int length);
-    /// While nobody else writes, so that the end of the sequence is looked up only once.
+    /// Appends while no other program can write, so that the end of the sequence is looked up only
+    /// once.
     int appendInside(KeyPair pair, const void* record, int length);
-    /// To be called before others may write again.
+    /// Drops the cached ends of sequences. Call this before other programs can write again.
     void forgetEnds() { m_ends.clear(); }
 
 private:
-    static constexpr int NoPosition = -2; // is followed by no position
+    static constexpr int NoPosition = -2; // no position follows it
 
     int findEnd(KeyPair pair, int* position);
 
     sqlite3* m_connection;
     Statement m_get, m_any, m_next, m_first, m_append, m_appendAt, m_end, m_clear;
     KeyPair m_walkPair{};
-    int m_walkPosition = NoPosition; // of the record that m_get has delivered
-    std::map<KeyPair, int> m_ends;   // of sequences that were appended to
+    int m_walkPosition = NoPosition; // position of the record that m_get delivered
+    std::map<KeyPair, int> m_ends;   // ends of sequences with appended records
 };

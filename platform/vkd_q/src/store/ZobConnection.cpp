@@ -23,11 +23,11 @@ constexpr char Schema[] = "BEGIN;" ZOB_RECORD_TABLE ";"
                           "COMMIT;";
 static_assert(ZobApplicationId == 1447773250 && ZobSchemaVersion == 1);
 
-// With a deleted journal, FULL can lose a commit in a power cut.
+// With a deleted journal, FULL can lose a commit in a power failure.
 constexpr char Durability[] = "PRAGMA synchronous = EXTRA;";
 
-/// Called by SQLite while another program holds the file: sleeps shortly and gives up after the
-/// deadline. Short sleeps keep a queue of writers fair.
+/// Called by SQLite while another program locks the file: sleeps shortly and gives up after the
+/// deadline. Short sleeps give all waiting writers a fair chance.
 int waitForOther(void*, int calls)
 {
     using Clock = std::chrono::steady_clock;
@@ -42,7 +42,8 @@ int waitForOther(void*, int calls)
     return 1;
 }
 
-/// A file without any write permission is meant to stay as it is, even if this user could write it.
+/// Returns whether the file is read-only. A file without any write permission must not change, even
+/// if this user could write it.
 bool isWriteProtected(const QString& path)
 {
     const QFileInfo file(path);
@@ -65,7 +66,7 @@ VkdStatus ZobConnection::open(const VkdGoOn& goOn)
 {
     if (!QFileInfo(m_path).isFile())
         return fail(VKD_ZOB_NO_FILE, ZobAction::Open);
-    if (QFileInfo(m_path).size() == 0) // would pass as a sound database without tables
+    if (QFileInfo(m_path).size() == 0) // SQLite would accept it as an empty database
         return fail(VKD_ZOB_NO_PROJECT, ZobAction::Open);
     VkdStatus status =
         connect(isWriteProtected(m_path) ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
@@ -76,7 +77,7 @@ VkdStatus ZobConnection::open(const VkdGoOn& goOn)
 
 VkdStatus ZobConnection::create()
 {
-    // Made exclusively, so that two programs cannot both believe that the file is theirs.
+    // Created exclusively, so that two programs cannot create the same file.
     QFile file(m_path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return fail(VKD_ZOB_NO_FILE, ZobAction::Create, file.errorString());
@@ -101,7 +102,7 @@ VkdStatus ZobConnection::openInMemory()
 VkdStatus ZobConnection::connect(int flags)
 {
     sqlite3* connection = nullptr;
-    // Absolute, because SQLite would take "file:x" for an address.
+    // Absolute, because SQLite would treat "file:x" as a URI.
     const QByteArray path = m_path == InMemory
                                 ? m_path.toUtf8()
                                 : QFile::encodeName(QFileInfo(m_path).absoluteFilePath());

@@ -6,30 +6,30 @@
 
 struct sqlite3;
 
-/// The connection of a store to its SQLite file, or to one in memory. It opens and creates files,
-/// runs plain SQL, turns SQLite's codes into failures of the store and remembers the last one; it
-/// knows no records.
+/// The connection of a store to its SQLite file or in-memory database. It opens and creates files,
+/// executes plain SQL, converts SQLite's codes to failures of the store and remembers the last one.
+/// It does not handle records.
 class ZobConnection
 {
 public:
-    /// Not connected before one of the next three has succeeded. Whatever fails has written its log
-    /// line, unless it was cancelled.
+    /// Creates an unconnected object; one of the next three functions connects it. Each failure
+    /// writes its log line, unless the caller cancelled.
     explicit ZobConnection(const QString& path);
     VkdStatus open(const VkdGoOn& goOn);
-    /// A file that cannot be completed is removed.
+    /// Creates the file, and removes it again if it cannot be completed.
     VkdStatus create();
     VkdStatus openInMemory();
 
     sqlite3* handle() const { return m_handle.get(); }
     const QString& path() const { return m_path; }
     bool isReadOnly() const;
-    /// Whether a transaction is open that was begun by a statement of its own.
+    /// Returns whether a transaction was begun explicitly and is open.
     bool isInTransaction() const;
 
     VkdStatus execute(const char* sql, ZobAction action);
-    /// The first column of the first row, while the file is being opened.
+    /// Reads the first column of the first row; failures are failures to open the file.
     VkdStatus number(const char* sql, int* value);
-    /// The failure that SQLite's code stands for.
+    /// Converts SQLite's code to a failure, logs it and remembers it.
     VkdStatus fail(int sqliteCode, ZobAction action);
     /// Logs the failure and remembers it.
     VkdStatus fail(VkdZobStatus code, ZobAction action, const QString& detail = QString());

@@ -27,7 +27,7 @@ cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int p
         status = code == SQLITE_DONE ? statusAfterEnd(pair) : failInside(code, ZobAction::Read);
     if (status > VKD_ZOB_CUT)
         m_transactions.endPass(pair);
-    // Outside of a pass nobody ends the reading, which would keep the file locked.
+    // Without a pass or a change, no later call would end the walk, which keeps the file locked.
     if (status > VKD_ZOB_CUT || (!m_transactions.isReading() && !m_transactions.isChanging()))
         m_table.stopWalk();
     return status;
@@ -41,9 +41,9 @@ cd_error_t ZobDatabase::statusAfterEnd(RecordTable::KeyPair pair)
     return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_NO_KEY) : failInside(code, ZobAction::Read);
 }
 
-/// A failure within a change, even one of reading, may have ended the transaction: later puts would
-/// be stored on their own, and what could not be read may be missing from them. So the whole change
-/// counts as failed.
+/// Makes the whole change fail. A failure within a change, even of a read, may have ended the
+/// transaction: later puts would be stored separately, and they may lack data that could not be
+/// read.
 cd_error_t ZobDatabase::failInside(int sqliteCode, ZobAction action)
 {
     return m_transactions.spoilChange(m_connection->fail(sqliteCode, action));
@@ -60,7 +60,7 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
         return m_transactions.changeStatus().code;
     if (length < 0 || position < 0 || position > 1)
         return refuseCall(ZobAction::Write);
-    m_transactions.endPasses(); // there is none within a change
+    m_transactions.endPasses(); // within a change there are none
     m_table.stopWalk();
     const RecordTable::KeyPair pair{key1, key2};
     int code = SQLITE_OK;

@@ -7,7 +7,7 @@
 #include <utility>
 
 namespace {
-// Has a row in every store.
+// Returns a row in every store.
 constexpr char HoldSql[] = "SELECT 1 FROM sqlite_master";
 } // namespace
 
@@ -51,9 +51,9 @@ void ZobTransactions::endSnapshot()
     letGo();
 }
 
-/// A statement that runs keeps the shared lock of the file, also from the end of a change of this
-/// connection on. A transaction for reading would end with that change, and other programs could
-/// store before the next one begins.
+/// Locks the file against changes by other programs. A running statement keeps the shared lock even
+/// after a change of this connection ends. A read transaction would end with that change, and other
+/// programs could store before the next one begins.
 VkdStatus ZobTransactions::hold()
 {
     if (m_isReading)
@@ -82,7 +82,7 @@ void ZobTransactions::letGo()
 VkdStatus ZobTransactions::take(KeyPair pair)
 {
     const VkdStatus status = joinChange();
-    m_taken.insert(pair); // a refused pair, too: the change fails until the last release
+    m_taken.insert(pair); // also a refused pair: the change fails until the last release
     return status;
 }
 
@@ -104,7 +104,7 @@ VkdStatus ZobTransactions::joinChange()
 VkdStatus ZobTransactions::beginChange()
 {
     m_table.forgetEnds();
-    // SQLite would begin, and refuse only what is written.
+    // SQLite would begin the transaction and refuse only the writes.
     if (m_connection.isReadOnly())
         return m_connection.fail(VKD_ZOB_READ_ONLY, ZobAction::TakeLock);
     const VkdStatus status = m_connection.execute("BEGIN IMMEDIATE", ZobAction::TakeLock);
@@ -138,7 +138,7 @@ void ZobTransactions::storeOrDrop()
     if (status.isOk())
         status = m_connection.execute("COMMIT", ZobAction::StoreChanges);
     const bool wasChanging = std::exchange(m_isChanging, false);
-    // Some failures have rolled back already; what the old content was, it is again.
+    // SQLite rolls back after some failures itself.
     if (!status.isOk() && wasChanging && m_connection.isInTransaction())
         m_connection.execute("ROLLBACK", ZobAction::UndoChanges);
     rememberEnd(status);
@@ -147,7 +147,7 @@ void ZobTransactions::storeOrDrop()
 void ZobTransactions::rememberEnd(const VkdStatus& status)
 {
     m_endOfChange = status;
-    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // which was wanted
+    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // intended
     if (isFailure && m_firstFailure.isOk())
         m_firstFailure = status;
 }

@@ -7,16 +7,16 @@ constexpr int ScratchIndex = 0;
 
 using Stores = std::map<int, std::shared_ptr<ZobDatabase>>;
 
-/// Never destroyed: documents in static objects of a host may be closed at the very end.
+/// Never destroyed, because static objects of a host may close documents at the very end.
 Stores& stores()
 {
     static Stores& open = *new Stores;
     return open;
 }
 
-/// Drops the changes that nobody stored or dropped, so that no journal stays beside a project.
-/// Built when this library is loaded, so that it is destroyed after the static objects of all that
-/// link it.
+/// Rolls back open changes at the end, so that no journal remains beside a project. Constructed
+/// when this library is loaded, so that it is destroyed after the static objects of all libraries
+/// that link it.
 const struct ChangesAtEnd
 {
     ~ChangesAtEnd()
@@ -26,7 +26,7 @@ const struct ChangesAtEnd
     }
 } changesAtEnd;
 
-/// Made when it is first used.
+/// Creates the scratch store on first use.
 void addScratchStore()
 {
     auto connection = std::make_unique<ZobConnection>(QString());

@@ -4,10 +4,11 @@
 
 #include <memory>
 
-/// The store under this index; null, with `failure` set and a log line, if there is none.
+/// Returns the store with this index. If there is none, logs a line, sets `failure` and returns
+/// null.
 ZobDatabase* openStore(int index, VkdStatus* failure);
 
-/// Takes the store in; its index.
+/// Adds the store and returns its index.
 int addStore(std::shared_ptr<ZobDatabase> store);
 
 void removeStore(int index);

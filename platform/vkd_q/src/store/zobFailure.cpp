@@ -56,7 +56,7 @@ QString asWritten(const char* source)
     return QString::fromUtf8(source);
 }
 
-/// The German texts are those of vkd_qt.
+/// Translates to the desktop's language; the German texts are in vkd_qt's translation.
 QString inDesktopsLanguage(const char* source)
 {
     return QCoreApplication::translate("ZobTexts", source);
@@ -85,13 +85,13 @@ cd_error_t zobStatus(sqlite3* connection, int sqliteCode)
     case SQLITE_FULL: return VKD_ZOB_FULL;
     case SQLITE_READONLY:
     case SQLITE_PERM: return VKD_ZOB_READ_ONLY;
-    // The file itself is open by then, so it is the journal beside it that cannot be made.
+    // The file itself is open already, so SQLite cannot create the journal beside it.
     case SQLITE_CANTOPEN: return VKD_ZOB_READ_ONLY;
     case SQLITE_TOOBIG:
     case SQLITE_MISUSE:
     case SQLITE_RANGE: return VKD_ZOB_BAD_CALL;
     case SQLITE_IOERR:
-        // SQLite knows of a full disk by itself; a used up quota is a failed write to it.
+        // SQLite detects a full disk itself; an exceeded quota appears as a failed write.
         return sqlite3_extended_errcode(connection) == SQLITE_IOERR_WRITE ? VKD_ZOB_FULL
                                                                           : VKD_ZOB_FAILED;
     default: return VKD_ZOB_FAILED;

@@ -5,7 +5,7 @@
 
 struct sqlite3;
 
-/// What the store could not do. Each is a sentence, because German puts its words in another order.
+/// The failed operation. Each has a whole sentence, because the word order differs in German.
 enum class ZobAction {
     Open,
     Create,
@@ -19,14 +19,14 @@ enum class ZobAction {
     Use
 };
 
-/// The status that stands for what the last call on `connection` ran into.
+/// Converts the code of the last SQLite call on `connection` to a status.
 cd_error_t zobStatus(sqlite3* connection, int sqliteCode);
 
-/// The status of a failed operation on `file`, in the desktop's language. `detail` is what the
-/// system or SQLite says. Without a log line.
+/// Returns the status of a failed operation on `file` in the desktop's language, without logging.
+/// `detail` is the message of the system or of SQLite.
 VkdStatus zobFailure(cd_error_t code, ZobAction action, const QString& file,
                      const QString& detail = QString());
 
-/// The same, and writes the one log line that a failed operation owes, in English.
+/// Returns the same status and writes the English log line of the failed operation.
 VkdStatus reportZobFailure(cd_error_t code, ZobAction action, const QString& file,
                            const QString& detail = QString());

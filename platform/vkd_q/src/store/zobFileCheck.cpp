@@ -6,14 +6,14 @@
 #include <sqlite3.h>
 
 namespace {
-constexpr int StepsToQuestion = 20000; // of SQLite's machine, some ms
+constexpr int StepsToQuestion = 20000; // SQLite instructions, some ms
 
-// What a project is made of, and nothing else: a view could run for ever, and a trigger change what
-// is put.
+// A project contains the record table only. A view could run endlessly, and a trigger could change
+// the records that are put.
 constexpr char ForeignSql[] =
     "SELECT count(*) != 1 OR min(sql) IS NOT '" ZOB_RECORD_TABLE "' FROM sqlite_master";
 
-/// Called by SQLite in the middle of a statement.
+/// Called by SQLite during a statement.
 int isToStop(void* goOn)
 {
     return (*static_cast<const VkdGoOn*>(goOn))(0) ? 0 : 1;

@@ -5,6 +5,6 @@
 
 class ZobConnection;
 
-/// Whether the connected file is a sound project of this version, and nothing else. `goOn` is asked
-/// meanwhile. Whatever fails has written its log line, unless it was cancelled.
+/// Checks that the connected file is an undamaged project of this version without anything else,
+/// and calls `goOn` meanwhile. Failures are logged, unless the caller cancelled.
 VkdStatus checkZobFile(ZobConnection& connection, const VkdGoOn& goOn);
