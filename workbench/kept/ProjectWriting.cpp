@@ -5,7 +5,7 @@
 namespace workbench {
 
 namespace {
-// Holds nothing.
+// No records; only used for locking.
 constexpr int ChangeKey1 = 421;
 constexpr int ChangeKey2 = 0;
 } // namespace

@@ -9,18 +9,18 @@ class VKD_H_ProjectDialogPage;
 
 namespace workbench {
 
-/// A change of a project, of which all is stored or nothing. It begins with the object, which waits
-/// for other programs as long as the store does. What is read from then on stays as it is until
-/// finish(); without it nothing is stored.
+/// A change of a project that is stored completely or not at all. It begins with the construction,
+/// which waits for other programs as long as the store does. Reads see one state of the project
+/// until finish(); without finish() nothing is stored.
 class ProjectWriting
 {
 public:
-    /// Of the project at this database index.
+    /// Begins a change of the project at this database index.
     explicit ProjectWriting(int index);
 
-    /// Why the change could not begin, VKD_ZOB_OK if it did.
+    /// Returns why the change could not begin, VKD_ZOB_OK if it did.
     cd_error_t status() const { return m_change.status().code; }
-    /// Stores what was put, unless it is not the whole change. The result is VKD_ZOB_OK, or why
+    /// Stores the change if it is complete, and rolls it back otherwise. Returns VKD_ZOB_OK, or why
     /// nothing is stored.
     cd_error_t finish(bool isWhole = true);
 
@@ -28,12 +28,12 @@ private:
     ZobTransaction m_change;
 };
 
-/// Sets entries of a page of the project and stores them, in a change of their own. The result is a
+/// Sets entries of a page of the project and stores them in a change of their own. Returns a
 /// VkdZobStatus.
 cd_error_t storeEntries(int index, int page,
                         const std::function<void(VKD_H_ProjectDialogPage&)>& set);
 
-/// Whether the project can be read at present: VKD_ZOB_OK, or why not.
+/// Returns VKD_ZOB_OK if the project can be read now, or why not.
 cd_error_t readingStatus(int index);
 
 } // namespace workbench

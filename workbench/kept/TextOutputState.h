@@ -8,24 +8,24 @@
 
 namespace workbench {
 
-/// What the project keeps of the text output: the kept texts of the three radio groups, and what
-/// was picked by hand, which stays while another button is chosen.
+/// The saved state of the text output: the texts of the three radio groups, and the individual
+/// selections, which are preserved while another button is checked.
 struct TextOutputState
 {
-    QString extent;       ///< text of a radio group; empty until it was stored first
-    QString loadCases;    ///< likewise
-    QString combinations; ///< likewise
+    QString extent;       ///< text of a radio group; empty until it is saved first
+    QString loadCases;    ///< same format
+    QString combinations; ///< same format
 
-    int lists = 0;          ///< bits of the lists that are checked
-    bool allValues = false; ///< not the extreme values alone
+    int lists = 0;          ///< bits of the checked lists
+    bool allValues = false; ///< all values instead of the extreme ones only
     QSet<int> leftOutLoadCases;
     QSet<int> leftOutCombinations;
-    QMap<int, int> kinds; ///< of the combinations by their numbers, see CombinationTable
+    QMap<int, int> kinds; ///< by number of the combination, see CombinationTable
 
-    /// The state that lies in the project at this database index. Lists that were never stored are
-    /// those of `defaultLists`.
+    /// Reads the state from the project at this database index. If no lists were saved, they are
+    /// `defaultLists`.
     static TextOutputState read(int index, int defaultLists);
-    /// The result is a VkdZobStatus.
+    /// Returns a VkdZobStatus.
     cd_error_t write(int index) const;
 
     bool operator==(const TextOutputState& other) const;

@@ -8,10 +8,11 @@ namespace workbench {
 constexpr int DesignKey1 = 200;
 constexpr int DesignKey2 = 6;
 
-/// The texts in which the design page keeps a row without groups: this with 1, 2, and so on.
+/// The keys of the texts in which the design page saves a row without groups: this prefix with 1,
+/// 2, and so on.
 constexpr QLatin1String DesignEntry("MerPara");
 
-/// The numbers under which the window's dialogs keep their texts in a project.
+/// The numbers of the dialog pages whose texts are saved in a project.
 enum DialogPage { DesignDialogPage = 1, OutputDialogPage = 2, TextOutputDialogPage = 3 };
 
 } // namespace workbench

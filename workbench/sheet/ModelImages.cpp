@@ -8,16 +8,16 @@ namespace workbench {
 
 namespace {
 constexpr int MostKilobytes = 64 * 1024;
-constexpr int MostPixels = 4000; // to a side
+constexpr int MostPixels = 4000; // per side
 constexpr double PixelsPerMm = 96.0 / 25.4;
 
-/// The metre of the model is so many pixels on paper at 1:N.
+/// Returns the pixels on paper per metre of the model at 1:N.
 double pixelsPerMetre(double scale)
 {
     return 1000.0 / scale * PixelsPerMm;
 }
 
-/// The N of the usual scale that is just small enough.
+/// Returns the N of the largest common scale at which the model fits.
 double usualScale(double least)
 {
     for (double n : {1, 2, 5, 10, 20, 25, 50, 100, 200, 500, 1000})
@@ -35,7 +35,7 @@ vkd::dbo::Camera lookingFrom(double x, double y, double z)
     return camera;
 }
 
-/// The dots of the device that a frame covers; whole ones, so that the picture stays crisp.
+/// Returns the frame in whole device pixels, so that the picture is sharp.
 QRectF dotsOf(const QPainter& painter, const QRectF& frame)
 {
     return QRectF(painter.deviceTransform().mapRect(frame).toRect());
@@ -113,7 +113,8 @@ vkd::dbo::Camera ModelImages::camera(const PictureView& view)
     return {};
 }
 
-/// Onto the plane that the model lies in, and from above onto one that is not flat.
+/// Returns the camera perpendicular to the plane of a flat model, from above if the model is not
+/// flat.
 vkd::dbo::Camera ModelImages::flatCamera()
 {
     constexpr double Thin = 1e-6;

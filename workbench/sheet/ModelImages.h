@@ -11,23 +11,24 @@ class QPainter;
 
 namespace workbench {
 
-/// Pictures of a project's model for the frames of its sheets. All frames of a view are alike, so
-/// their picture is drawn once and kept for as long as there is room; a file of many pages holds it
-/// once, too, which no vector drawing would be.
+/// Pictures of a project's model for the frames of its sheets. All frames with the same view share
+/// one picture, which is drawn once and cached. A file of many pages also contains it only once,
+/// unlike a vector drawing.
 class ModelImages
 {
 public:
-    /// Reads the model of the project at this database index, unless a view shows it already.
+    /// Loads the model of the project at this database index, or shares it with a view that shows
+    /// it.
     explicit ModelImages(int index);
 
-    /// Whether there is a model to draw.
+    /// Returns whether the project has no model.
     bool isEmpty() const { return m_model.isEmpty(); }
-    /// The N of the scale 1:N that a view gets in a frame of this size (mm). `wanted` is that of a
-    /// plan.
+    /// Returns the N of the scale 1:N for a view in a frame of this size (mm). `wanted` is the
+    /// scale of the plan.
     double scale(const PictureView& view, const QSizeF& frame, double wanted);
-    /// Whether the model at 1:N reaches out of the frame.
+    /// Returns whether the model at 1:N exceeds the frame.
     bool isCut(const PictureView& view, const QSizeF& frame, double scale);
-    /// Draws the model at 1:N into the frame, given in the painter's units.
+    /// Draws the model at 1:N into the frame, which is given in the painter's units.
     void paint(QPainter& painter, const QRectF& frame, double unitsPerMm, const PictureView& view,
                double scale);
 
@@ -39,7 +40,7 @@ private:
                     double scale);
 
     AnimatorPicture m_model;
-    QCache<QString, QImage> m_images; // the cost is in kilobytes
+    QCache<QString, QImage> m_images; // costs are in kilobytes
 };
 
 } // namespace workbench

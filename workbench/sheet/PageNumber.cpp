@@ -9,7 +9,7 @@ PageNumber::PageNumber(QWidget* parent)
 {
     setObjectName(QStringLiteral("SheetPage"));
     setFocusPolicy(Qt::StrongFocus);
-    setKeyboardTracking(false); // "12" is not to show page 1 first
+    setKeyboardTracking(false); // typing "12" must not show page 1 first
     setMinimum(1);
 }
 

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// The number of a page to type. Without the focus it leaves the wheel to what is around it, and
-/// the keys that turn pages are the preview's.
+/// A field for a page number. Without the focus it ignores the wheel; it passes the keys that turn
+/// pages to the preview.
 class PageNumber : public QSpinBox
 {
     Q_OBJECT

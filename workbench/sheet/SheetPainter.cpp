@@ -11,17 +11,17 @@
 namespace workbench {
 
 namespace {
-// Fonts have whole sizes, so the unit of drawing is far below what they have.
+// Font sizes are integers, so drawing uses units of 0.01 mm.
 constexpr double Mm = 100.0;
-constexpr double Margin = 10.0 * Mm; // what printers need
+constexpr double Margin = 10.0 * Mm; // required by printers
 constexpr double Gap = 4.0 * Mm;     // between frames
 constexpr double Padding = 1.5 * Mm;
 constexpr double FooterHeight = 6.0 * Mm;
 constexpr double FooterText = 2.0 * Mm;
 constexpr double ThinLine = 0.18 * Mm;
 constexpr double BorderLine = 0.5 * Mm;
-constexpr double CapitalShare = 0.72; // of the size of a font is the height of its capitals
-constexpr double LineShare = 1.5;     // of a line of text, in sizes of its font
+constexpr double CapitalShare = 0.72; // height of capitals in font sizes
+constexpr double LineShare = 1.5;     // line height in font sizes
 const QColor Ink(Qt::black);
 const QColor PaleInk(90, 90, 90);
 const QColor Shadow(222, 222, 222);
@@ -31,7 +31,7 @@ QFont fontOf(const QPainter& painter, double capitals)
     QFont font = painter.font();
     font.setPixelSize(qMax(1, qRound(capitals / CapitalShare)));
     font.setBold(false);
-    font.setHintingPreference(QFont::PreferNoHinting); // so that texts have one width at each zoom
+    font.setHintingPreference(QFont::PreferNoHinting); // equal text widths at each zoom
     return font;
 }
 
@@ -40,7 +40,7 @@ double lineHeight(const QFont& font)
     return LineShare * font.pixelSize();
 }
 
-/// The text in one line, cut with dots where it is too long; returns the width that it takes.
+/// Draws the text in one line, elided if it is too long. Returns its width.
 double drawText(QPainter& painter, const QRectF& line, int alignment, const QString& text)
 {
     const QFontMetricsF metrics(painter.font());
@@ -49,7 +49,7 @@ double drawText(QPainter& painter, const QRectF& line, int alignment, const QStr
     return metrics.horizontalAdvance(shown);
 }
 
-/// An outline on whole dots of the device, for lines that are crisp, and at least one dot wide.
+/// Draws a sharp outline on whole device pixels, at least one pixel wide.
 void drawOutline(QPainter& painter, const QRectF& rect, double width)
 {
     const QTransform toDevice = painter.deviceTransform();
@@ -72,14 +72,14 @@ QRectF frameRect(const QRectF& area, const SheetPlan& plan, int place)
             area.top() + place / plan.columns * (size.height() + Gap), size.width(), size.height()};
 }
 
-/// Lists of materials or sections are pictures without a model.
+/// Returns whether the picture is a list of materials or sections, which shows no model.
 bool isLegend(const SheetPicture& picture)
 {
     return picture.command.endsWith(QLatin1String(" LEGE"));
 }
 
-/// Stands in for a list whose entries the graphics program knows: lines with a sample and two
-/// words each, in the font of the painter.
+/// Sketches a list whose entries only the graphics program knows: lines with a sample and two words
+/// in the painter's font.
 void sketchLegend(QPainter& painter, const QRectF& frame)
 {
     const double line = lineHeight(painter.font());
@@ -120,7 +120,7 @@ QString viewText(const PictureView& view)
     return SheetPainter::tr("View not set");
 }
 
-/// Three digits say enough of a scale that just fits.
+/// Returns the text of a scale. A scale that just fits is rounded to three digits.
 QString scaleText(double scale, double wanted, bool isCut)
 {
     const double step = std::pow(10.0, std::floor(std::log10(qMax(scale, 1.0))) - 2);
@@ -183,7 +183,7 @@ QString SheetPainter::loadCaseOf(const SheetPicture& picture)
 void SheetPainter::paintFrame(QPainter& painter, const QRectF& frame, const SheetPlan& plan,
                               int picture)
 {
-    // However large the texts are to be, most of a frame belongs to its picture.
+    // Limits the text size, so that the picture gets most of the frame.
     const QFont font = fontOf(painter, qMin(plan.textHeight * Mm, frame.height() / 14.0));
     const double line = lineHeight(font);
     const QRectF texts(frame.left() + Padding, frame.bottom() - 2.0 * line,
@@ -203,7 +203,7 @@ void SheetPainter::paintFrame(QPainter& painter, const QRectF& frame, const Shee
     drawText(painter, texts, Qt::AlignLeft, tr("%1  %2").arg(picture + 1).arg(captionOf(shown)));
 }
 
-/// Returns how the model is looked at.
+/// Draws the model and returns the description of its view.
 QString SheetPainter::paintModel(QPainter& painter, const QRectF& frame, const SheetPlan& plan,
                                  const SheetPicture& picture)
 {

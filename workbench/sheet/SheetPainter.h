@@ -11,20 +11,20 @@ namespace workbench {
 
 class ModelImages;
 
-/// Draws the pages of a plan: the sheet in white with its frames, in each frame the model as the
-/// picture looks at it with caption, load case, view and scale, and below them the project and the
-/// number of the page. Results are the graphics program's to draw; each page says so.
+/// Draws the pages of a plan: a white sheet with its frames, and below them the project and the
+/// page number. Each frame shows the model in the view of the picture with caption, load case, view
+/// and scale. Only the graphics program draws results; each page says so.
 class SheetPainter
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::SheetPainter)
 
 public:
-    /// `models` is not owned and outlives the painter. `project` is shown on each page.
+    /// `models` is not owned and must outlive the painter. Each page shows `project`.
     SheetPainter(ModelImages* models, const QString& project);
 
-    /// Draws a page, counted from 0, into a rectangle that has the sides of the sheet.
+    /// Draws a page, counted from 0, into a rectangle with the proportions of the sheet.
     void paint(QPainter& painter, const QRectF& sheet, const SheetPlan& plan, int page);
-    /// What a picture shows, in words.
+    /// Return the content of a picture in words.
     static QString captionOf(const SheetPicture& picture);
     static QString loadCaseOf(const SheetPicture& picture);
 

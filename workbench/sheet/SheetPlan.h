@@ -6,49 +6,49 @@
 
 namespace workbench {
 
-/// From where the pictures of a sheet look at the model.
+/// The viewing direction of pictures of a sheet.
 struct PictureView
 {
     enum Kind { Unset, Spatial, Flat, PlaneXY, PlaneXZ, PlaneYZ, Free };
 
     Kind kind = Unset;
-    double eye[3] = {1.0, -2.0, 1.0}; ///< direction to the viewer; of a free view only
-    double roll = 0.0;                ///< degrees; of a free view only
+    double eye[3] = {1.0, -2.0, 1.0}; ///< direction to the viewer; for free views only
+    double roll = 0.0;                ///< degrees; for free views only
 
     bool operator==(const PictureView& other) const;
 };
 
-/// A picture of the sheet, as the script orders it.
+/// A picture that the script draws on a sheet.
 struct SheetPicture
 {
     QString command;
-    int view = 0;           ///< index in the views of the plan
+    int view = 0;           ///< index into the views of the plan
     int loadCase = 0;       ///< 0: none
-    int secondLoadCase = 0; ///< drawn into the same picture; 0: none
-    QString caption;        ///< what the user chose; empty where nobody told
+    int secondLoadCase = 0; ///< drawn in the same picture; 0: none
+    QString caption;        ///< the plot that the user selected; empty if unknown
     QString loadCaseTitle;
 };
 
-/// What a script of the graphics program puts on paper: the sheet, its division and the pictures in
-/// their order, row by row and page by page.
+/// The paper output of a script: the sheet, its division and the pictures in order, row by row and
+/// page by page.
 struct SheetPlan
 {
     static constexpr double ScaleToFit = 0.0;
-    static constexpr double EngineeringScale = -1.0; ///< the largest usual one that fits
+    static constexpr double EngineeringScale = -1.0; ///< the largest common one that fits
 
-    QSizeF size{297.0, 210.0}; ///< mm, as the sheet lies before the reader
+    QSizeF size{297.0, 210.0}; ///< mm, in reading orientation
     bool hasBorder = true;
     int rows = 1;
     int columns = 1;
-    double scale = ScaleToFit; ///< 100 for 1:100, or one of the above
-    double textHeight = 2.0;   ///< of capital letters, mm
+    double scale = ScaleToFit; ///< 100 for 1:100, or a constant from above
+    double textHeight = 2.0;   ///< height of capital letters, mm
     QVector<PictureView> views;
     QVector<SheetPicture> pictures;
 
     bool isEmpty() const { return pictures.isEmpty(); }
     int picturesPerPage() const { return rows * columns; }
     int pageCount() const;
-    /// The pictures of a page, counted from 0: the first one, and the one behind the last.
+    /// Return the first picture of a page and the one after its last picture, counted from 0.
     int firstPicture(int page) const { return page * picturesPerPage(); }
     int endPicture(int page) const;
 };

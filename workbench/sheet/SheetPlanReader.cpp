@@ -5,9 +5,9 @@
 namespace workbench {
 
 namespace {
-constexpr int MostParts = 10; // rows or columns; frames would be smaller than their captions
+constexpr int MostParts = 10; // rows or columns; with more, frames are too small for captions
 constexpr double LeastText = 1.0;
-constexpr double MostText = 10.0; // mm; above, a caption would take the place of its picture
+constexpr double MostText = 10.0; // mm; larger captions would cover the picture
 constexpr double MostScale = 1e6;
 
 bool isOneOf(QStringView word, const char* german, const char* english)
@@ -15,7 +15,7 @@ bool isOneOf(QStringView word, const char* german, const char* english)
     return word == QLatin1String(german) || word == QLatin1String(english);
 }
 
-/// Statements that set up the program and draw nothing by themselves.
+/// Returns whether a statement sets up the program without drawing.
 bool isSteering(QStringView word)
 {
     for (const char* known :
@@ -25,7 +25,7 @@ bool isSteering(QStringView word)
     return false;
 }
 
-/// Without what stands behind a dollar sign, which with a bracket begins a reference.
+/// Removes the comment after a dollar sign; a dollar sign with a bracket begins a reference.
 QStringView withoutComment(QStringView line)
 {
     for (int i = 0; i < line.size(); ++i)
@@ -57,8 +57,8 @@ Words wordsOf(QStringView text)
     return words;
 }
 
-/// The number at the beginning of a word, so that a factor behind it does not matter; or nothing
-/// that is above 0.
+/// Returns the positive number at the beginning of a word, without a trailing factor; 0 if there is
+/// none.
 double positive(QStringView word)
 {
     int length = 0;
@@ -97,8 +97,8 @@ double readScale(QStringView word)
     return scale > 0.0 ? qBound(1.0, scale, MostScale) : SheetPlan::ScaleToFit;
 }
 
-/// "A3" is a sheet of that format and "URS" that of the reports, which is A4; both lie, and with a
-/// minus sign they stand. Any other word names no sheet.
+/// Reads the sheet format. "A3" is that format, and "URS" is the format of reports, A4. Both are
+/// landscape; a minus sign makes them portrait. Any other word is not a sheet.
 bool readSheet(QStringView word, SheetPlan* plan)
 {
     const bool stands = word.startsWith(QLatin1Char('-'));
@@ -155,7 +155,7 @@ void SheetPlanReader::readStatement(QStringView statement)
 
 void SheetPlanReader::readFont(const Words& words)
 {
-    const double height = 10.0 * positive(words.back()); // the script has centimetres
+    const double height = 10.0 * positive(words.back()); // the script uses centimetres
     if (height > 0.0)
         m_plan.textHeight = qBound(LeastText, height, MostText);
 }
@@ -210,7 +210,7 @@ void SheetPlanReader::readFreeView(const Words& words, int first)
         view.eye[i] = number(first + i);
         square += view.eye[i] * view.eye[i];
     }
-    view.roll = std::fmod(number(first + 4), 360.0); // behind the word ROTA
+    view.roll = std::fmod(number(first + 4), 360.0); // after the word ROTA
     view.kind = PictureView::Free;
     const bool isUsable = std::isfinite(square) && square > 0.0 && std::isfinite(view.roll);
     setView(isUsable ? view : PictureView());

@@ -6,9 +6,9 @@
 
 namespace workbench {
 
-/// Reads the statements of a script one by one into a plan, in the time that its length takes.
-/// Everything behind the page setup that does not steer the program is a picture: so plots that the
-/// catalogue gets later are pictures, too.
+/// Reads the statements of a script one by one into a plan, in linear time. Every statement after
+/// the page setup that does not control the program is a picture, so that plots that are added to
+/// the catalogue later are pictures as well.
 class SheetPlanReader
 {
 public:
@@ -29,7 +29,7 @@ private:
     SheetPlan m_plan;
     bool m_hasSetup = false;
     bool m_isEnded = false;
-    bool m_isJoined = false; ///< the next plot goes into the picture before
+    bool m_isJoined = false; ///< the next plot is drawn into the previous picture
     int m_loadCase = 0;
 };
 

@@ -18,8 +18,7 @@ class ModelImages;
 class SheetPainter;
 class SheetView;
 
-/// The sheets of the present choice, to be leafed through before the graphics program is run, and
-/// to be exported.
+/// A preview of the sheets of the current selection, with page navigation and export.
 class SheetPreview : public QWidget
 {
     Q_OBJECT
@@ -28,12 +27,12 @@ public:
     explicit SheetPreview(QWidget* parent = nullptr);
     ~SheetPreview() override;
 
-    /// Shows sheets of the project at this database index, below 1 none, from their first page on;
-    /// there are no plots until setPlan().
+    /// Shows sheets of the project at this database index, or none below 1, beginning with the
+    /// first page. The preview has no plots until setPlan().
     void setProject(int index, const QString& name);
     void setPlan(const SheetPlan& plan);
     const SheetPlan& plan() const;
-    /// Draws the sheets of the project; belongs to the preview.
+    /// Returns the painter of the project's sheets; the preview owns it.
     SheetPainter& painter() { return *m_painter; }
 
 Q_SIGNALS:

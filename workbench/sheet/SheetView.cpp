@@ -144,7 +144,7 @@ void SheetView::resizeEvent(QResizeEvent* event)
     fitScrollBars();
 }
 
-/// Turns the page at the ends of one that is larger than the view.
+/// Turns the page when a larger page is scrolled to its end.
 void SheetView::wheelEvent(QWheelEvent* event)
 {
     QScrollBar* bar = verticalScrollBar();
@@ -176,7 +176,8 @@ QSizeF SheetView::sheetSize() const
     switch (m_zoom) {
     case WholePage: return m_plan.size.scaled(view.expandedTo({50.0, 50.0}), Qt::KeepAspectRatio);
     case PageWidth: {
-        // A scroll bar that takes the room for the width is always there, or it would come and go.
+        // Always leaves room for the scroll bar, which would otherwise appear and disappear
+        // endlessly.
         const double width = qMax(50.0, view.width() - verticalScrollBar()->sizeHint().width());
         return m_plan.size * (width / m_plan.size.width());
     }
@@ -198,7 +199,7 @@ void SheetView::fitScrollBars()
     viewport()->update();
 }
 
-/// Backwards, a page begins at its end, as a reader expects who goes up.
+/// Turns pages. Going back shows the end of the previous page, as readers expect.
 void SheetView::turnPage(int by)
 {
     const int before = m_page;
@@ -207,7 +208,7 @@ void SheetView::turnPage(int by)
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
-/// Tells those who cannot see the sheet what is on it.
+/// Describes the sheet for users of screen readers.
 void SheetView::describe()
 {
     setAccessibleName(tr("Sheet"));

@@ -8,9 +8,9 @@ namespace workbench {
 
 class SheetPainter;
 
-/// One page of a plan on the screen, in the proportions of its paper. Page Up and Page Down move
-/// within a page that is larger than the view and then to the next one, as the wheel does; Home and
-/// End go to the first and the last page. Only the page that is shown is ever drawn.
+/// One page of a plan on the screen, in the proportions of its paper. Page Up, Page Down and the
+/// wheel scroll within a page that is larger than the view and then turn the page; Home and End
+/// show the first and the last page. Only the shown page is drawn.
 class SheetView : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -20,14 +20,15 @@ public:
 
     explicit SheetView(QWidget* parent = nullptr);
 
-    /// The painter is not owned. The page stays where the plan has it, else it is the last one.
+    /// Sets the plan; the painter is not owned. Stays on the current page, or shows the last one if
+    /// the plan is shorter.
     void setPlan(const SheetPlan& plan, SheetPainter* painter);
     const SheetPlan& plan() const { return m_plan; }
     int page() const { return m_page; } ///< counted from 0
-    /// Shows a page from its top; numbers that the plan lacks are held within it.
+    /// Shows a page from its top; the number is limited to the pages of the plan.
     void setPage(int page);
     void setZoom(Zoom zoom);
-    /// The sheet in the coordinates of the viewport, pixels; null without a page.
+    /// Returns the sheet in viewport coordinates, pixels; null without a page.
     QRectF sheetRect() const;
 
 Q_SIGNALS:
@@ -57,7 +58,7 @@ private:
     SheetPainter* m_painter = nullptr;
     int m_page = 0;
     Zoom m_zoom = WholePage;
-    int m_wheel = 0; // what is left of a notch
+    int m_wheel = 0; // the rotation below one notch
 };
 
 } // namespace workbench

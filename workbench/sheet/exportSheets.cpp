@@ -16,7 +16,7 @@ namespace workbench {
 namespace {
 constexpr int DotsPerInch = 300;
 constexpr int ShowsAfterMs = 500;
-constexpr int SliceMs = 40; // the user's clicks are answered that often
+constexpr int SliceMs = 40; // interval at which clicks are processed
 
 void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
 {
@@ -30,7 +30,7 @@ void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
     writer.setCreator(QCoreApplication::applicationName());
 }
 
-/// False if the user cancelled, or if a page could not be begun.
+/// Returns false if the user cancelled or a page could not be started.
 bool writePages(const SheetPlan& plan, SheetPainter& sheets, QPdfWriter& writer,
                 QProgressDialog& progress)
 {
@@ -43,7 +43,7 @@ bool writePages(const SheetPlan& plan, SheetPainter& sheets, QPdfWriter& writer,
     slice.start();
     for (int page = 0; page < plan.pageCount(); ++page) {
         if (slice.elapsed() >= SliceMs) {
-            progress.setValue(page); // lets the dialog show and its button be pressed
+            progress.setValue(page); // processes events of the dialog
             slice.restart();
         }
         if (progress.wasCanceled() || (page > 0 && !writer.newPage()))
@@ -66,9 +66,9 @@ SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QSt
                              QCoreApplication::translate("exportSheets", "Cancel"), 0,
                              plan.pageCount(), parent);
     progress.setObjectName(QStringLiteral("SheetProgress"));
-    progress.setWindowModality(Qt::ApplicationModal); // the plan stays while it is written
+    progress.setWindowModality(Qt::ApplicationModal); // protects the plan
     progress.setMinimumDuration(ShowsAfterMs);
-    progress.setValue(0); // from now on the time counts
+    progress.setValue(0); // starts the time measurement
     bool isWritten = false;
     {
         QPdfWriter writer(&file);

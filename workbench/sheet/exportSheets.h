@@ -10,9 +10,9 @@ class SheetPainter;
 
 enum class SheetExport { Done, Cancelled, Failed };
 
-/// Writes all pages of a plan as a PDF file, a sheet to a page. What takes longer than half a
-/// second shows its progress above the window of `parent` and can be cancelled. The file is there
-/// in the end with all pages or stays as it was before; where it failed, `trouble` says why.
+/// Writes the pages of a plan to a PDF file, one sheet per page. If this takes longer than half a
+/// second, a progress dialog over the window of `parent` shows the progress and offers Cancel. The
+/// file is written completely or not changed at all; after a failure, `trouble` is the reason.
 SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QString& path,
                          QWidget* parent, QString* trouble);
 

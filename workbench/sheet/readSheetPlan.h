@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// Reads a script with German or English keywords. A text without a page setup or without plots
-/// gives an empty plan; numbers that no sheet can have are held within what can be drawn.
+/// Reads a script with German or English keywords. A text without page setup or plots gives an
+/// empty plan. Numbers that are impossible for a sheet are limited to drawable values.
 SheetPlan readSheetPlan(const QString& script);
 
 } // namespace workbench

@@ -6,24 +6,24 @@
 
 namespace workbench {
 
-/// A plot that is checked on the output page, or the row of a load case below it.
+/// A checked plot of the output page, or a load case row below it.
 struct PlotCaption
 {
     QString plot;
-    int loadCase = 0; ///< of a row; 0 for a plot that stands alone
+    int loadCase = 0; ///< load case of a row; 0 for a plot without rows
     QString loadCaseTitle;
 };
 
-/// Gives the pictures of a plan the captions under which the user chose them.
+/// Sets the captions of a plan's pictures to the captions of the output page.
 ///
-/// The script says what to draw by keywords alone, but its pictures come in the order of the tree,
-/// one for each plot or row that is checked there. Where the two lists agree in length and in each
-/// row's load case, the captions go to the pictures, and a plot that stands alone loses the load
-/// case that the script merely set before. Otherwise no picture changes, and false comes back: the
-/// reader then sees the keywords rather than a caption that may be that of another picture.
+/// The script identifies plots by keywords only, but its pictures have the order of the tree, one
+/// for each checked plot or row. If both lists have the same length and the same load case in each
+/// row, the pictures get the captions, and plots without rows lose the load case that an earlier
+/// statement set. Otherwise returns false and changes nothing: the reader then sees keywords
+/// instead of captions that may belong to other pictures.
 bool setCaptions(SheetPlan* plan, const QVector<PlotCaption>& captions);
 
-/// Titles for load cases of pictures that have none as yet.
+/// Sets the load case titles of pictures without one.
 void setLoadCaseTitles(SheetPlan* plan, const QHash<int, QString>& titles);
 
 } // namespace workbench
