@@ -7,7 +7,7 @@
 
 namespace plib {
 
-/// What the user set up on a graphical output page, as the script needs it. A page fills a new one
+/// The settings of a graphical output page that the script depends on. A page creates a new object
 /// for each script; the initial values are those of a new page.
 struct OutputSettings
 {
@@ -24,16 +24,17 @@ struct OutputSettings
     bool fillAreas = false;                     ///< iso areas are filled
 };
 
-/// The rows of the scale list behind "Auto", which stands at index 0 and is translated.
+/// Returns the rows of the scale list without the first one, "Auto", which is translated.
 QStringList engineeringScales();
-/// All rows of the scale list.
+/// Returns all rows of the scale list.
 QStringList scaleRows();
 
-/// Chooses a row of the scale list, and with it the engineering scale, as the list of a page does.
+/// Selects a row of the scale list and the engineering scale, as a click in the list of a page
+/// does.
 void chooseScale(int row, OutputSettings* settings);
 
-/// What choosing a format does to the number of pictures: a landscape sheet carries one, and back
-/// in portrait there are two.
+/// Selecting a format changes the number of pictures: a landscape sheet has one, a portrait sheet
+/// two.
 int picturesForFormat(int formatId);
 void chooseFormat(int formatId, OutputSettings* settings);
 

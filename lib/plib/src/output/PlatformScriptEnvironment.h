@@ -6,11 +6,11 @@ class VKD_H_PluginParameter;
 
 namespace plib {
 
-/// The texts of a script as the platform gives them for the project of a page.
+/// Provides the texts of a script from the platform for the project of a page.
 class PlatformScriptEnvironment : public ScriptEnvironment
 {
 public:
-    /// `parameter` is not owned and has to outlive the object.
+    /// `parameter` is not owned and outlives this object.
     explicit PlatformScriptEnvironment(VKD_H_PluginParameter* parameter);
 
     QString programHead() const override;

@@ -76,7 +76,7 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
         connectAnimator();
     connect(data->defaultButton, &QPushButton::clicked, this,
             &VKD_P_WidgetGraphicalOutput::slotDefaultSettings);
-    if (data->formatGroup) // each click counts, also one on the chosen format
+    if (data->formatGroup) // on each click, even on the checked format
         for (int format : {PortraitFormat, LandscapeFormat})
             connect(data->formatGroup->getRadioButton(format), &QRadioButton::clicked, this,
                     &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
@@ -87,7 +87,8 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
     }
 }
 
-/// The animator is the host's. If the parent that was to delete it has gone, it goes with the page.
+/// Returns the animator to its former parent. If that parent no longer exists, nobody else would
+/// delete the animator, so it is deleted with the page.
 VKD_P_WidgetGraphicalOutput::~VKD_P_WidgetGraphicalOutput()
 {
     AnimatorView* animator = data->animator;
@@ -202,7 +203,8 @@ void VKD_P_WidgetGraphicalOutput::layOut(QWidget* box)
     chainTabs();
 }
 
-/// In reading order. A group of radio buttons is one stop, at the button that is chosen.
+/// Sets the tab order to the reading order. Within a group of radio buttons, Tab stops only at the
+/// checked button.
 void VKD_P_WidgetGraphicalOutput::chainTabs()
 {
     QList<QWidget*> stops{data->tree};
@@ -214,7 +216,7 @@ void VKD_P_WidgetGraphicalOutput::chainTabs()
     if (data->animator)
         stops << data->animator;
     addGroup(data->scaleGroup);
-    stops.insert(stops.size() - 1, data->scaleCombo); // beside the first of the two buttons
+    stops.insert(stops.size() - 1, data->scaleCombo); // after the first of the two buttons
     addGroup(data->formatGroup);
     if (data->pageSplitCombo)
         stops << data->pageSplitCombo;
@@ -237,7 +239,7 @@ void VKD_P_WidgetGraphicalOutput::placeAnimator(QBoxLayout* layout)
         data->viewGroup->setButton(StandardView);
 }
 
-/// The nearest dialog of each sort above the page, up to the first dialog of pages.
+/// Finds the nearest ancestor of each dialog type, up to the first tab dialog.
 void VKD_P_WidgetGraphicalOutput::findDialogs()
 {
     for (QWidget* ancestor = parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
@@ -258,7 +260,7 @@ bool VKD_P_WidgetGraphicalOutput::checkVals()
     return true;
 }
 
-/// A landscape sheet leaves no choice.
+/// Landscape sheets always have one picture, so the choice is disabled.
 void VKD_P_WidgetGraphicalOutput::slotQuerFormat()
 {
     if (!data->formatGroup)
@@ -310,7 +312,7 @@ plib::OutputSettings VKD_P_WidgetGraphicalOutput::settings() const
         settings.formatId = data->formatGroup->selectedButton();
     if (data->picturesGroup)
         settings.picturesId = data->picturesGroup->selectedButton();
-    // Without an animator no view is chosen at first, and the one of a new page holds.
+    // Without an animator, no view is checked initially; then the default view is used.
     if (data->viewGroup && data->viewGroup->selectedButton() >= 0)
         settings.viewId = data->viewGroup->selectedButton();
     settings.fontSizeText = data->fontEdit->getText();

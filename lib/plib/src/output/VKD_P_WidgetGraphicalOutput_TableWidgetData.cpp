@@ -11,7 +11,7 @@
 
 using TableWidgetData = VKD_P_WidgetGraphicalOutput_TableWidgetData;
 
-/// A page or a table that has gone leaves null behind.
+/// The pointers become null when the page or the table is destroyed.
 struct TableWidgetDataRecord
 {
     QPointer<VKD_H_TableWidget> table;
@@ -28,8 +28,8 @@ bool isChecked(const QTableWidgetItem* item)
     return box && box->isChecked();
 }
 
-/// The load cases that count: those whose box is checked, if there are boxes, and whose number is a
-/// cell of numbers.
+/// Returns the checked load cases, or all if the table has no check boxes. Rows without a number
+/// cell are ignored.
 std::vector<plib::TableLoadCase> readTable(const TableWidgetDataRecord& data)
 {
     std::vector<plib::TableLoadCase> found;

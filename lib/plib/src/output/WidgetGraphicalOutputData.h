@@ -18,8 +18,8 @@ class VKD_QT_CheckBox;
 class VKD_QT_GroupBox;
 class VKD_QT_RadioButtonGroup;
 
-/// The parts of a graphical output page. The widgets belong to their parents; those that a kind of
-/// page does not have are null.
+/// The private data of a graphical output page. Widgets are owned by their parents. A widget is
+/// null if this kind of page does not have it.
 struct WidgetGraphicalOutputData
 {
     VKD_H_PluginParameter* pluginParameter = nullptr;
@@ -37,11 +37,11 @@ struct WidgetGraphicalOutputData
     QPointer<AnimatorView> animator;
     QWidget* attribs = nullptr;
     bool firstShow = true;
-    bool reservedA = true; ///< read by nothing, and so the next one
+    bool reservedA = true; ///< never read, like the next one
     bool reservedB = false;
     VKD_H_TabDialog* tabDialog = nullptr;
     VKD_H_Dialog* dialog = nullptr;
     VKD_P_WidgetGraphicalOutput_Progname progname = VKD_P_GraphicalOutput_Standard;
-    QPointer<QWidget> animatorHome; ///< the animator's parent before it came onto the page
+    QPointer<QWidget> animatorHome; ///< the former parent of the animator
     bool animatorHadHome = false;
 };

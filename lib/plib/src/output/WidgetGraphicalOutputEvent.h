@@ -2,8 +2,8 @@
 
 #include <QEvent>
 
-/// Posted by a page to itself when its tab is first shown, so that the view command runs when the
-/// dialog stands.
+/// A page posts this event to itself when its tab is first shown, so that the view command runs
+/// after the dialog is laid out.
 class WidgetGraphicalOutputEvent : public QEvent
 {
 public:

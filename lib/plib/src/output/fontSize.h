@@ -4,11 +4,11 @@
 
 namespace plib {
 
-/// The field of the font size, in mm: its limits, and the size of a new page.
+/// Returns the properties of the font size field, in millimetres: its limits and its default value.
 StructLineEdit fontSizeField();
 
-/// A font size as somebody typed it, in the form that the page computes with and stores: "2,5"
-/// becomes "2.5". Null if the field refuses the text.
+/// Converts a font size typed by a user to the format that the page stores: "2,5" becomes "2.5".
+/// Returns null if the field would refuse the text.
 QString fontSizeText(const QString& typed);
 
 } // namespace plib

@@ -9,7 +9,8 @@ constexpr int FormatCount = 2;
 constexpr int PicturesCount = 2;
 constexpr int ViewCount = 5;
 
-/// Any "-" means the row "Auto". A scale that the list does not have, "0" too, is one that fits.
+/// A text with a "-" means the row "Auto". A text that is not in the list, such as "0", means scale
+/// to fit.
 void applyScale(const QString& value, OutputSettings* settings)
 {
     if (value.isNull())
@@ -22,7 +23,7 @@ void applyScale(const QString& value, OutputSettings* settings)
         chooseScale(row, settings);
 }
 
-/// Whether there was a part. A text that is no number counts as 0.
+/// Returns whether the part exists. A text that is not a number counts as 0.
 bool applyChoice(const QString& value, int count, int* choice)
 {
     const int entry = value.toInt();
@@ -36,7 +37,7 @@ void applyKeptSettings(const KeptPart& part, OutputSettings* settings)
 {
     applyScale(part(kepttag::Scale), settings);
     const QString font = part(kepttag::Font);
-    if (!font.isNull()) // an empty field stands for the font of a new page
+    if (!font.isNull()) // an empty text means the default size
         settings->fontSizeText = font.trimmed().isEmpty() ? OutputSettings().fontSizeText : font;
     const QString fill = part(kepttag::Fill);
     if (!fill.isNull())

@@ -6,7 +6,7 @@
 
 namespace plib {
 
-/// The tags of the parts in the string that an output page keeps.
+/// The tags of the parts in the saved string of an output page.
 namespace kepttag {
 constexpr char Scale[] = "Scale";
 constexpr char Font[] = "Font";
@@ -14,15 +14,15 @@ constexpr char Fill[] = "Fill";
 constexpr char Format[] = "Format";
 constexpr char Pictures[] = "Part";
 constexpr char View[] = "View";
-constexpr char Camera[] = "Camera"; ///< persistent form
+constexpr char Camera[] = "Camera"; ///< in the persistent format
 constexpr char Plots[] = "List_4";  ///< selection text
 } // namespace kepttag
 
-/// The text of the part with this tag, null if there is none.
+/// Returns the text of the part with this tag, null if there is none.
 using KeptPart = std::function<QString(const char* tag)>;
 
-/// Applies the parts that are settings; what is missing or names no entry leaves them as they are.
-/// The number of pictures comes behind the format and wins over what the format does to it.
+/// Applies the parts that are settings. A setting is unchanged if its part is missing or invalid.
+/// The number of pictures is applied after the format and overrides the number set by the format.
 void applyKeptSettings(const KeptPart& part, OutputSettings* settings);
 
 } // namespace plib

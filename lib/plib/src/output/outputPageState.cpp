@@ -1,4 +1,4 @@
-// The state of the output page as a string of tagged parts.
+// The part of the output page that writes and reads its state as a string of tagged parts.
 
 #include "GraphicalOutputTreeWidget.h"
 #include "keptSettings.h"
@@ -29,8 +29,8 @@ QString choicePart(const char* tag, const VKD_QT_RadioButtonGroup* group)
     return group ? part(tag, QString::number(group->selectedButton())) : QString();
 }
 
-/// "0" for a scale that fits, "-" for the row "Auto", else the row. So the list is stored while an
-/// engineering scale is chosen, and stays where it is when a page is read that has none.
+/// Returns "0" for scale to fit, "-" for the row "Auto", otherwise the text of the row. So the row
+/// of the list is saved only with an engineering scale; reading "0" does not change it.
 QString scaleValue(const VKD_QT_RadioButtonGroup* group, const QComboBox* list)
 {
     if (group->selectedButton() != EngineeringScale)
@@ -60,7 +60,7 @@ QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
     return xml + part(kepttag::Plots, data->tree->selectionText());
 }
 
-/// What is missing leaves its widget alone.
+/// Widgets are unchanged if their part is missing.
 void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
 {
     if (xml.isEmpty())
@@ -87,7 +87,7 @@ void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
         data->picturesGroup->setButton(present.picturesId);
     if (data->pageSplitCombo)
         data->pageSplitCombo->readXMLstring(xml);
-    if (data->viewGroup && has(kepttag::View)) // which moves the camera
+    if (data->viewGroup && has(kepttag::View)) // moves the camera
         data->viewGroup->setButton(present.viewId);
     if (data->animator) {
         vkd::dbo::setAnimatorPerspektive(DesktopCamera, kept(kepttag::Camera));

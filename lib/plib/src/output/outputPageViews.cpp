@@ -1,4 +1,4 @@
-// The output page and the animator: view commands, first show.
+// The part of the output page that controls the animator: view commands, and the first view.
 
 #include "VKD_P_WidgetGraphicalOutput.h"
 #include "WidgetGraphicalOutputData.h"
@@ -32,19 +32,19 @@ void VKD_P_WidgetGraphicalOutput::connectAnimator()
     AnimatorView* animator = data->animator;
     connect(this, &Page::signalBeobXY, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
-    // The one for X/Z is left out and this one made twice; it makes no difference, because the page
-    // sends by the first signal alone.
+    // The signal for X/Z is not connected and this one is connected twice. This is meant and has no
+    // effect, because the page emits only the first signal.
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeob3D, animator, &AnimatorView::slotViewControl);
 }
 
-/// All commands go by the first signal, whatever the plane.
+/// All commands are sent by the first signal, regardless of the plane.
 void VKD_P_WidgetGraphicalOutput::showFixedView(AnimatorViewControl control, bool on)
 {
     if (!data->animator || !on)
         return;
     Q_EMIT signalBeobXY(control, 0.0);
-    if (data->animator) // who listens may have done away with it
+    if (data->animator) // a connected slot may have deleted it
         data->animator->setEnabled(false);
 }
 
@@ -68,7 +68,8 @@ void VKD_P_WidgetGraphicalOutput::slotBeob3D(bool on)
     showFixedView(AnimatorStandardView, on);
 }
 
-/// Leaving the user's view stores its camera; the next view disables the animator or not.
+/// Stores the camera when the user-defined view is unchecked. The animator is not disabled here,
+/// because the slot of the next view does so if necessary.
 void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
 {
     if (!data->animator)
@@ -78,11 +79,11 @@ void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
         data->animator->setEnabled(true);
 }
 
-/// The view slots run on a change of the buttons alone, so the command for the view of a new page
-/// is given once when its tab comes up.
+/// Sends the first view command. The view slots run only when a button changes, so nothing sends
+/// the view of a new page before its tab is shown for the first time.
 void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* page)
 {
-    const QWidget* ancestor = this; // also across windows, where isAncestorOf() ends
+    const QWidget* ancestor = this; // crosses windows, unlike isAncestorOf()
     while (ancestor && ancestor != page)
         ancestor = ancestor->parentWidget();
     if (!data->firstShow || !ancestor)

@@ -35,7 +35,7 @@ constexpr Words ControlLines{
     "CTRL WARN (804 808 1) $ no warnings if no values found\n"
     "CTRL WARN 873         $ no warning for 2D visibility\n"};
 
-/// Two cuts in each global direction across the page.
+/// Two section lines across the page for each global direction.
 constexpr Words CutLines{
     "BEOB EGXY    $ Blick in die globale Z-Richtung\n"
     "MOVE UNIT PRWC X  0 Y 33 DTYP QSCH ; DRAW UNIT PRWC X 100 Y  33 DTYP QSCH $ Schnitt in "
@@ -68,7 +68,7 @@ constexpr int TwoPerPage = 1;
 constexpr int EngineeringScale = 0;
 constexpr int StandardView = 3;
 
-/// The font size in centimetres; a text that is no number counts as 0.
+/// Returns the font size in centimetres; a text that is not a number counts as 0.
 QString fontNumber(const OutputSettings& settings)
 {
     return QString::number(settings.fontSizeText.toDouble() / 10.0, 'g', 6);
@@ -80,12 +80,12 @@ QString scaleValue(const OutputSettings& settings)
         return QStringLiteral("0");
     if (settings.scaleIndex == 0)
         return QStringLiteral("-");
-    // The factor stays a text on purpose: the graphics program multiplies.
+    // On purpose, the factor is written as text: the graphics program multiplies.
     return settings.scaleText.mid(settings.scaleText.indexOf(QLatin1Char(':')) + 1) +
            QLatin1String("*1.e+10");
 }
 
-/// The scale of the split variant, where no factor is added.
+/// Returns the scale for the split variant, which has no factor.
 QString splitScaleValue(const OutputSettings& settings)
 {
     if (settings.scaleMode != EngineeringScale)
@@ -105,7 +105,7 @@ QString splitResult(const OutputSettings& settings, const QString& additional, b
         division = SplitDivision.in(english) + QLatin1String(split.division);
     }
     const QString scale = SplitScale.in(english) + splitScaleValue(settings);
-    // The host resolves $(XYZ); here it is text like any other.
+    // $(XYZ) is plain text here; the host resolves it.
     QString result = QLatin1String("SIZE ") + kind + scale + QLatin1Char(' ') + division +
                      QLatin1String("|SIZE ") + kind + QLatin1String("$(XYZ) ") + division;
     if (!additional.isEmpty())
@@ -113,7 +113,7 @@ QString splitResult(const OutputSettings& settings, const QString& additional, b
     return result;
 }
 
-/// The selected lines, with the page's view in the place of the standard view.
+/// Returns the lines with the standard view replaced by the view of the page.
 QString body(const std::vector<QString>& lines, int viewId, const QString& clause)
 {
     int size = 0;
@@ -123,7 +123,7 @@ QString body(const std::vector<QString>& lines, int viewId, const QString& claus
     text.reserve(size);
     for (const QString& line : lines) {
         const int view = viewId == StandardView ? -1 : line.indexOf(QLatin1String("EG3"));
-        if (view > 0) // what stands behind the view goes with it
+        if (view > 0) // the rest of the line is replaced as well
             text += line.leftRef(view) + clause;
         else
             text += line;
@@ -184,7 +184,7 @@ QString outputScript(const OutputSettings& settings, const std::vector<QString>&
     if (environment.hasQuads())
         script += CutLines.in(english);
     script += sizeStatement(settings, english) + end;
-    if (ahead) // brings its own line end
+    if (ahead) // it has a line end of its own
         script += additional;
     script += body(lines, settings.viewId, viewClause(settings, english, environment));
     if (!ahead && !additional.isEmpty())

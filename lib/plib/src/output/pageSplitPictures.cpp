@@ -11,7 +11,7 @@ constexpr QRgb Line = 0xff0000ff;
 constexpr QRgb Shadow = 0xff000080;
 constexpr QRgb Paper = 0xffffffff;
 
-/// Columns and rows of pixels from 0, both ends included.
+/// The outermost columns and rows of pixels, counted from 0.
 struct Sheet
 {
     int left, right, top, bottom;
@@ -55,7 +55,7 @@ QPixmap pageSplitPicture(int id)
     const Sheet& sheet = division.sheet;
     QImage image(Side, Side, QImage::Format_ARGB32);
     image.fill(Paper);
-    // The shadow lies one pixel up and to the right of the sheet.
+    // The shadow is offset by one pixel upwards and to the right.
     drawRow(image, sheet.top - 1, sheet.left + 1, sheet.right + 1, Shadow);
     drawColumn(image, sheet.right + 1, sheet.top - 1, sheet.bottom - 1, Shadow);
     for (int row : {sheet.top, sheet.bottom})
