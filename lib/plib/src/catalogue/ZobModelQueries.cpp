@@ -7,6 +7,8 @@
 namespace plib {
 
 namespace {
+/// The platform has no query for design lines. They are stored under key 35, so this function looks
+/// for the first key pair from (35, 0) on.
 bool hasDesignLines(int index, int*)
 {
     int key1 = 35;

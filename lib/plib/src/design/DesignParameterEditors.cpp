@@ -312,4 +312,5 @@ void DesignParameter::slot_onReopenGroups()
         takeGroups(data->table->currentRow(), picked);
 }
 
+/// Empty on purpose: secondary groups cannot be picked in the view.
 void DesignParameter::slot_onReopenGroupsSecondary() {}

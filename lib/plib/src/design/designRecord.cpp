@@ -28,12 +28,15 @@ void clearDistances(tagZOB_QUAD_RIM& record)
     setAll(record, fields::Distances, NotSet);
 }
 
+/// Converts the layers `a`, `b` and `c` of a side. `c` comes first, because it needs the stored
+/// value of `b`.
 void tripleToEdited(const float& a, float& b, float& c)
 {
     c = b >= 0 && c >= b ? c - b : NotSet;
     b = a >= 0 && b >= a ? b - a : NotSet;
 }
 
+/// Converts them back. A value that is not set makes the distances of all later layers not set.
 void tripleToStored(const float& a, float& b, float& c)
 {
     if (a < 0 || b < 0) {

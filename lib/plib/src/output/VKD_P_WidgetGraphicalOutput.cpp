@@ -49,6 +49,7 @@ StructBoxedEdit fontDescription()
     return description;
 }
 
+/// Returns whether filling iso areas has any effect: only area elements and bricks have iso areas.
 bool hasAreaResults(VKD_H_PluginParameter* parameter)
 {
     const int index = parameter->modelDoc()->index();

@@ -40,7 +40,8 @@ const std::vector<Impl::Kind>& VKD_P_RadioGroupImpl::kinds()
 
 VKD_P_RadioGroupImpl::VKD_P_RadioGroupImpl() = default;
 
-/// Deletes the layout if no host has taken ownership of it.
+/// Deletes the layout and the buttons that have no other owner. A host may never have added the row
+/// to a layout, and may have passed a null parent.
 VKD_P_RadioGroupImpl::~VKD_P_RadioGroupImpl()
 {
     if (m_layout && !m_layout->parent())
