@@ -20,7 +20,7 @@ public:
     void showLayout(const VkdBarLayout& layout);
 
 Q_SIGNALS:
-    /// The user chose a bar diameter in mm and a spacing in m.
+    /// Emitted when the user chose a bar diameter in mm and a spacing in m.
     void chosen(float diameter, double spacing);
 
 private:

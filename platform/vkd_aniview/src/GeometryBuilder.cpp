@@ -12,7 +12,7 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-/// Coordinates beyond this limit in metres are no building; squares of such lengths would lose
+/// No building has coordinates beyond this limit in metres; squares of such lengths would lose
 /// their precision.
 constexpr double Nowhere = 1e9;
 constexpr int MostPieces = 32; // per line
@@ -113,8 +113,8 @@ void GeometryBuilder::addLines(const QVector<dbo::LineElement>& elements, LineKi
     }
 }
 
-/// Splits long lines, because parts of a line that passes many faces are in front of them and parts
-/// are hidden. A model with few faces gets few pieces: one small face must not slow down the
+/// Splits long lines, because some parts of a line that passes many faces are in front of them and
+/// others are hidden. A model with few faces gets few pieces: one small face must not slow down the
 /// painting of a frame with thousands of bars.
 void GeometryBuilder::splitLines()
 {

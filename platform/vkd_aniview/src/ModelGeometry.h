@@ -48,8 +48,8 @@ struct SortPlace
 
 /// The drawable form of a model, prepared once, so that a picture only has to project it.
 /// Coordinates and lengths are relative to the centre of the box and in multiples of `unit`, so
-/// that single precision suffices at any distance from the origin. Items are numbered through:
-/// first all faces, then the lines, then the supports.
+/// that single precision suffices at any distance from the origin. Items are numbered
+/// consecutively: first all faces, then the lines, then the supports.
 struct ModelGeometry
 {
     Box box;

@@ -68,7 +68,8 @@ struct ScenePainter::Frame
     const Position light;
     const double symbolSize;
     std::array<double, LineKindCount> widths{};
-    // The current pen and brush of the painter; setting them again would cost time.
+    // The group and the shade whose pen and brush are set, or -1; setting them again would cost
+    // time.
     int group = -1;
     int shade = -1;
 };

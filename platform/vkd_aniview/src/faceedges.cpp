@@ -16,6 +16,7 @@ constexpr float FoldCosine = 0.87F; // 30 degrees
 constexpr float SupportNearer = 0.75F;
 constexpr float LineNearer = 0.3F;
 
+/// One edge of a face. Sorting by edge places the faces that share an edge next to each other.
 struct EdgeUse
 {
     uint64_t edge;

@@ -25,7 +25,7 @@ constexpr KeyPair Points{31, 0};
 constexpr KeyPair Lines{32, 0};
 constexpr KeyPair Areas{33, 0};
 constexpr KeyPair SectionCuts{34, 0};
-constexpr KeyPair DesignLines{35, 0}; // also queried by its first key alone, even by the library
+constexpr KeyPair DesignLines{35, 0}; // the library queries it by the first key alone
 constexpr KeyPair Beams{100, 0};
 constexpr KeyPair Trusses{150, 0};
 constexpr KeyPair Cables{160, 0};

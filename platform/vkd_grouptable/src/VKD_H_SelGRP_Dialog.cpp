@@ -35,7 +35,7 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
     addFootButton(pick);
     connect(pick, &QPushButton::clicked, this, [this, doc] {
         if (doc)
-            removePickedGroups(doc->index()); // must not return if nothing is picked
+            removePickedGroups(doc->index()); // no old selection if the user picks nothing
         storePickedGroups(StartOfPicking, presentChoice());
         done(PickOutside);
     });

@@ -8,8 +8,8 @@
 
 /// The description of a number field: the dimension, the limits and the format. Values and limits
 /// are in the base unit of the dimension (vkd_h_units.h). The limits apply to input by the user
-/// only; setVal() and getVal() accept and return every value. They are compared in single
-/// precision, like the values in records.
+/// only; programs can set and get every value. They are compared in single precision, like the
+/// values in records.
 struct StructLineEdit
 {
     static constexpr int RealNumber = 2;

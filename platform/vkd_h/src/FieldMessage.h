@@ -11,7 +11,7 @@ class FieldMessage : public QLabel
     Q_OBJECT
 
 public:
-    /// The field becomes the parent.
+    /// Creates a hidden message; the field becomes its parent.
     explicit FieldMessage(QWidget* field);
 
     /// Shows the text below the field, or above it at the bottom of the screen.

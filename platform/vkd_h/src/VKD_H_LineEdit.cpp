@@ -50,6 +50,7 @@ VKD_H_LineEdit::VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, con
 {
     setObjectName(QLatin1String(objectName));
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    // QLineEdit emits textEdited() before textChanged(), so takeText() knows who changed the text.
     connect(this, &QLineEdit::textEdited, this, [this] { m_isTyped = true; });
     connect(this, &QLineEdit::textChanged, this, &VKD_H_LineEdit::takeText);
     setAccessibleDescription(m_explanation);

@@ -14,8 +14,8 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// Flags for the existing groups. A growing list would be too large, because the user may repeat a
-/// range thousands of times.
+/// Flags for the existing groups. A list of groups could grow very long, because the user may
+/// repeat a range thousands of times.
 class Marks
 {
 public:

@@ -14,8 +14,8 @@ class ZobDatabase;
 /// ends it.
 ///
 /// If a transaction begins while a snapshot of this program exists and another program is changing
-/// the project, the transaction does not wait but is refused with VKD_ZOB_LOCKED, since the other
-/// program is waiting for the end of the snapshot.
+/// the project, the transaction does not wait but is refused with VKD_ZOB_LOCKED. Otherwise both
+/// programs would wait for each other.
 class VKD_Q_EXPORT ZobSnapshot
 {
 public:

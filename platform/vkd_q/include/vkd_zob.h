@@ -23,7 +23,7 @@ enum VkdZobStatus : cd_error_t {
     VKD_ZOB_CUT = 1,        ///< delivered, but cut to the size of the buffer
     VKD_ZOB_END = 2,        ///< no record at this position: end of the sequence
     VKD_ZOB_NO_KEY = 3,     ///< nothing is stored under the key pair
-    VKD_ZOB_NOT_OPEN = 4,   ///< the index belongs to no open project
+    VKD_ZOB_NOT_OPEN = 4,   ///< no project is open with this index
     VKD_ZOB_NO_FILE = 5,    ///< the file does not exist or cannot be opened or created
     VKD_ZOB_NO_PROJECT = 6, ///< the file is not a project file
     VKD_ZOB_NEWER = 7,      ///< the file was written by a newer version

@@ -14,8 +14,8 @@ class QGridLayout;
 class QRadioButton;
 
 /// A group box with radio buttons, numbered from 0; initially none is checked. An entry can have a
-/// widget beside its button. Using the widget, with the mouse or with keys other than navigation
-/// keys, clicks the button. The arrow keys move between the buttons, and the Tab key stops at one
+/// widget beside its button. Using the widget, with the mouse or with keys that edit or move the
+/// cursor, clicks the button. The arrow keys move between the buttons, and the Tab key stops at one
 /// of them only.
 class VKD_QT_EXPORT VKD_QT_RadioButtonGroup : public VKD_QT_GroupBox
 {

@@ -25,13 +25,14 @@ public:
     /// changes a state; call settleCheckStates() after that. Columns are independent.
     void setAutomaticCheckStateUpdate(bool on);
 
-    /// Makes the only column as wide as all texts that were visible since the tree was filled, or
-    /// as the tree if that is wider, so that a narrow tree can be scrolled horizontally. The column
-    /// does not shrink again, because its scroll bar would then appear and disappear endlessly.
+    /// Makes the only column as wide as the widest text that was visible since the tree was filled,
+    /// or as the tree if that is wider, so that a narrow tree can be scrolled horizontally. The
+    /// column does not shrink again, because its scroll bar would then appear and disappear
+    /// endlessly.
     void setColumnFitsTexts();
 
-    /// Sets the state of every item with check boxes below it from these, in one pass. Call it
-    /// after many changes without the automatic update; the result is the same as with it.
+    /// Derives the state of every item from the check boxes below it, in one pass. Call this after
+    /// many changes without the automatic update; the result is the same as with it.
     void settleCheckStates();
 
     /// Adds the action that expands or collapses all branches to the menu. The menu owns the action

@@ -5,6 +5,7 @@
 namespace {
 constexpr int LongestNumber = 4; // hexadecimal digits of a UTF-16 unit
 
+/// A character that is escaped by name.
 struct Sign
 {
     ushort unit;
@@ -13,7 +14,7 @@ struct Sign
 const Sign Signs[] = {
     {'<', QLatin1String("lt")}, {'>', QLatin1String("gt")}, {'&', QLatin1String("amp")}};
 
-/// Detects single surrogates, which a conversion to UTF-8 would lose.
+/// Detects unpaired surrogates, which a conversion to UTF-8 would lose.
 bool isHalfPair(const QString& text, int at)
 {
     const QChar unit = text.at(at);

@@ -27,7 +27,7 @@ public:
     bool isInTransaction() const;
 
     VkdStatus execute(const char* sql, ZobAction action);
-    /// Reads the first column of the first row; failures are failures to open the file.
+    /// Reads the first column of the first row and reports failures as failures to open the file.
     VkdStatus number(const char* sql, int* value);
     /// Converts SQLite's code to a failure, logs it and remembers it.
     VkdStatus fail(int sqliteCode, ZobAction action);

@@ -5,7 +5,8 @@
 
 struct sqlite3;
 
-/// The failed operation. Each has a whole sentence, because the word order differs in German.
+/// The operation that failed. Each one has a sentence of its own, because German has a different
+/// word order.
 enum class ZobAction {
     Open,
     Create,
