@@ -5,7 +5,7 @@
 namespace workbench {
 
 namespace {
-// No records; only used for locking.
+// A key pair without records; readingStatus() only tests whether it can be read.
 constexpr int ChangeKey1 = 421;
 constexpr int ChangeKey2 = 0;
 } // namespace
