@@ -62,8 +62,8 @@ public:
     /// Returns -1 if no button is checked.
     ButtonID getSelectedId() const;
 
-    /// Restore the choice from a text that the host saves, and return this text. readXML() ignores
-    /// a text of another format.
+    /// writeXML() returns the choice as a text for the host to save, and readXML() restores it. A
+    /// text of another format is ignored.
     void readXML(const QString& text);
     QString writeXML() const;
 

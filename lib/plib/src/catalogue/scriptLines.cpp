@@ -59,8 +59,8 @@ void ScriptLineWriter::writeView(int viewKind)
     if (m_context.lastView == view)
         return;
     m_context.lastView = view;
-    // A plot without a view that follows one with a view writes the bare keyword and a blank, which
-    // resets the view.
+    // If a plot without a view follows one with a view, the bare keyword and a blank are written.
+    // This resets the view.
     m_lines.push_back(m_context.viewWord + view);
 }
 

@@ -48,8 +48,8 @@ void tripleToStored(const float& a, float& b, float& c)
     c = b >= 0 && c >= 0 ? b + c : NotSet;
 }
 
-// Zero is a value in the fields for clearNegative(); in those for clearZeroOrNegative() it means
-// not set.
+// clearNegative() is for fields in which zero is a valid value, clearZeroOrNegative() for fields in
+// which zero means not set.
 void clearNegative(float& value)
 {
     if (value < 0 || value == AlsoNotSet)

@@ -21,8 +21,8 @@ enum DesignType {
 /// group -1 and type 1, otherwise group 0 and no design.
 tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups);
 
-/// Returns whether elements in this kind of system have distances between layers. They do not in
-/// plane systems (10 to 19), which have no layers above each other.
+/// Returns whether elements in this kind of system have distances between layers. Elements in plane
+/// systems (10 to 19) have none, because their layers are not above each other.
 bool hasDistances(int kindOfSystem);
 
 /// Converts the distances from the stored to the edited form. A spacing becomes not set if the

@@ -15,7 +15,7 @@ DesignParameterRow* rowAt(DesignParameterData& data, int row);
 bool hasRemainingRow(const DesignParameterData& data);
 
 /// Appends the groups of all rows except the given one and rows for the remaining groups, and sorts
-/// the whole list. Groups of two rows occur twice.
+/// the whole list. A group in two rows occurs twice in the list.
 void collectUsedGroups(const DesignParameterData& data, int row, std::vector<int>& list);
 
 /// Returns whether there is a row without groups, which has no place in the project's records.

@@ -113,7 +113,7 @@ VKD_QT_GroupBox* dlgDistanceDirection::layeredDistance(int type)
 {
     VKD_QT_GroupBox* box = nullptr;
     VKD_QT_GridLayout* grid = newGrid(tr("Distance"), "distance", &box);
-    grid->setColumnMinimumWidth(2, grid->horizontalSpacing()); // as the note does in the box above
+    grid->setColumnMinimumWidth(2, grid->horizontalSpacing()); // same gap as in the box above
     addHeader(grid);
     addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"), &D::hio, &D::hiu);
     addRow(grid, 2, tr("Cross Reinforcement") + QLatin1String(" (DH)"), &D::hioq, &D::hiuq);

@@ -16,7 +16,7 @@ constexpr const char* DesignTypeNames[] = {
     QT_TRANSLATE_NOOP("DesignParameter", "Circular"),
 };
 
-/// Returns the summary of a row in a column, of up to two lines. The columns are 0 groups, 1 type,
+/// Returns a summary of one or two lines for a column of the row. The columns are 0 groups, 1 type,
 /// 2 directions and distances, 3 reinforcement, 4 crack control. The text is empty for other
 /// columns, and in columns 2 to 4 for a type without design.
 QString rowText(const DesignParameterRow& row, int column);

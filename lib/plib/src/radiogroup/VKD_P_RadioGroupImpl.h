@@ -8,9 +8,9 @@
 
 class QRadioButton;
 
-/// The implementation of VKD_P_RadioGroup. That class forwards its operations to this one, and
-/// relays the signals that the form of the row has. Pointers to buttons, row and coupled widget are
-/// reset to null when their owners delete them.
+/// The implementation of VKD_P_RadioGroup, which forwards its operations to this class and emits
+/// those of its signals that the form of the row provides. Pointers to buttons, row and coupled
+/// widget are reset to null when their owners delete them.
 class VKD_P_RadioGroupImpl : public QObject
 {
     Q_OBJECT
