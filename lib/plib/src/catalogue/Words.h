@@ -4,8 +4,8 @@
 
 namespace plib {
 
-/// A text of the script in both keyword languages. They are in one place so that a change of one
-/// does not miss the other.
+/// A text of the script in both keyword languages. They are in one place so that both are changed
+/// together.
 struct Words
 {
     const char* german;

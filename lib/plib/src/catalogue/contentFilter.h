@@ -29,8 +29,8 @@ enum class Content {
     CrossSections
 };
 
-/// The queries of the filter and the script lines to a model. The interface keeps both independent
-/// of the store.
+/// The interface through which the filter and the script lines query a model. It keeps both
+/// independent of the store.
 class ModelQueries
 {
 public:
