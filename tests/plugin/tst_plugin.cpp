@@ -24,7 +24,7 @@ QString host(const QStringList& arguments)
 }
 } // namespace
 
-class tst_frame : public QObject
+class tst_plugin : public QObject
 {
     Q_OBJECT
 
@@ -138,8 +138,8 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     if (role.startsWith("selfcheck"))
         return selfCheckHost(application);
-    tst_frame test;
+    tst_plugin test;
     return testsupport::run(&test, argc, argv);
 }
 
-#include "tst_frame.moc"
+#include "tst_plugin.moc"
