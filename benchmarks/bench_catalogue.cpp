@@ -3,11 +3,11 @@
 
 #include "RatioReporter.h"
 
-#include <CatalogueParser.h>
-#include <OutputNode.h>
-#include <scriptLines.h>
-#include <selectionText.h>
-#include <TreeBuilder.h>
+#include <catalogue/CatalogueParser.h>
+#include <script/scriptLines.h>
+#include <tree/OutputNode.h>
+#include <tree/selectionText.h>
+#include <tree/TreeBuilder.h>
 
 #include <QTemporaryFile>
 

@@ -2,8 +2,8 @@
 
 #include "RatioReporter.h"
 
-#include <designRecord.h>
-#include <designStore.h>
+#include <record/designRecord.h>
+#include <record/designStore.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_zob.h>
 

@@ -2,13 +2,13 @@
 
 #include "RatioReporter.h"
 
-#include <DesignParameterData.h>
-#include <designRecord.h>
-#include <designStore.h>
-#include <dlgCrackControl.h>
-#include <dlgDistanceDirection.h>
-#include <dlgReinforcement.h>
-#include <rowText.h>
+#include <dialogs/dlgCrackControl.h>
+#include <dialogs/dlgDistanceDirection.h>
+#include <dialogs/dlgReinforcement.h>
+#include <record/DesignParameterData.h>
+#include <record/designRecord.h>
+#include <record/designStore.h>
+#include <record/rowText.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter>
 

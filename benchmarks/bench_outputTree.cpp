@@ -4,7 +4,7 @@
 #include "checkStates.h"
 #include "RatioReporter.h"
 
-#include <GraphicalOutputTreeWidget.h>
+#include <tree/GraphicalOutputTreeWidget.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>

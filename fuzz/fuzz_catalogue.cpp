@@ -1,9 +1,9 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <catalogueLint.h>
-#include <scriptLines.h>
-#include <selectionText.h>
+#include <catalogue/catalogueLint.h>
+#include <script/scriptLines.h>
+#include <tree/selectionText.h>
 #include <vkd_lib_searchpath.h>
 
 #include <QBuffer>

@@ -2,8 +2,8 @@
 
 #include "TestSupport.h"
 
-#include <CatalogueParser.h>
-#include <TreeBuilder.h>
+#include <catalogue/CatalogueParser.h>
+#include <tree/TreeBuilder.h>
 
 #include <QBuffer>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <LoadcaseInformation.h>
-#include <OutputNode.h>
+#include <tree/OutputNode.h>
 
 #include <QTemporaryDir>
 

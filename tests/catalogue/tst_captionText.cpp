@@ -1,7 +1,7 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <captionText.h>
+#include <catalogue/captionText.h>
 #include <vkd_lib_text.h>
 #include <vkd_lib_value.h>
 

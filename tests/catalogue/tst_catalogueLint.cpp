@@ -1,7 +1,7 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <catalogueLint.h>
+#include <catalogue/catalogueLint.h>
 #include <vkd_lib_searchpath.h>
 #include <vkd_lib_value.h>
 

@@ -1,7 +1,7 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <Catalogue.h>
+#include <catalogue/Catalogue.h>
 #include <vkd_lib_value.h>
 
 #include <QTextStream>

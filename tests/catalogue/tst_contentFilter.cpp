@@ -1,6 +1,6 @@
 #include "TestSupport.h"
 
-#include <contentFilter.h>
+#include <catalogue/contentFilter.h>
 
 using plib::Content;
 

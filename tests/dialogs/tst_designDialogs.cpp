@@ -1,10 +1,10 @@
 #include "WidgetTestSupport.h"
 
-#include <designFields.h>
-#include <designRecord.h>
-#include <dlgCrackControl.h>
-#include <dlgDistanceDirection.h>
-#include <dlgReinforcement.h>
+#include <dialogs/dlgCrackControl.h>
+#include <dialogs/dlgDistanceDirection.h>
+#include <dialogs/dlgReinforcement.h>
+#include <record/designFields.h>
+#include <record/designRecord.h>
 #include <VKD_A_BarDiameterCombo.h>
 #include <VKD_H_LineEdit.h>
 #include <vkd_lib_value.h>

@@ -1,4 +1,4 @@
-#include "selfCheckLog.h"
+#include "plugin/selfCheckLog.h"
 #include "TestSupport.h"
 
 class tst_selfCheckLog : public QObject

@@ -1,6 +1,6 @@
 #include "WidgetTestSupport.h"
 
-#include <VKD_P_RadioGroupImpl.h>
+#include <radiogroup/VKD_P_RadioGroupImpl.h>
 
 using Impl = VKD_P_RadioGroupImpl;
 

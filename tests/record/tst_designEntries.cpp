@@ -1,8 +1,8 @@
 #include "TemporaryProject.h"
 #include "TestSupport.h"
 
-#include <designEntries.h>
-#include <designRecord.h>
+#include <record/designEntries.h>
+#include <record/designRecord.h>
 #include <VKD_H_ProjectDialogPage.h>
 
 static const char Defaults[] =

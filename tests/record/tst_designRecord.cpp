@@ -1,7 +1,7 @@
 #include "TestSupport.h"
 
-#include <designFields.h>
-#include <designRecord.h>
+#include <record/designFields.h>
+#include <record/designRecord.h>
 #include <VKD_A_BarDiameterData.h>
 
 #include <cmath>

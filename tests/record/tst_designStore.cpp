@@ -1,8 +1,8 @@
 #include "TemporaryProject.h"
 #include "TestSupport.h"
 
-#include <designRecord.h>
-#include <designStore.h>
+#include <record/designRecord.h>
+#include <record/designStore.h>
 #include <vkd_lib_value.h>
 #include <vkd_zob.h>
 

@@ -1,9 +1,9 @@
 #include "TestSupport.h"
 
-#include <designFields.h>
-#include <designRecord.h>
-#include <rowText.h>
-#include <sharedGroups.h>
+#include <record/designFields.h>
+#include <record/designRecord.h>
+#include <record/rowText.h>
+#include <record/sharedGroups.h>
 #include <VKD_A_BarDiameterData.h>
 #include <vkd_lib_value.h>
 

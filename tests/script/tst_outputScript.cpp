@@ -1,7 +1,7 @@
 #include "TestSupport.h"
 
-#include <fontSize.h>
-#include <outputScript.h>
+#include <output/fontSize.h>
+#include <script/outputScript.h>
 
 #include <functional>
 

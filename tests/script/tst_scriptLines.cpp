@@ -1,8 +1,8 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <scriptLines.h>
-#include <selectionText.h>
+#include <script/scriptLines.h>
+#include <tree/selectionText.h>
 
 using plib::OutputNode;
 using testsupport::line;

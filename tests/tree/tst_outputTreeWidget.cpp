@@ -1,20 +1,20 @@
 #include "CatalogueTestSupport.h"
 #include "WidgetTestSupport.h"
 
-#include <Catalogue.h>
-#include <contentFilter.h>
-#include <GraphicalOutputTreeWidget.h>
-#include <GraphicalOutputTreeWidgetItem.h>
-#include <outputTreeIcons.h>
-#include <scriptLines.h>
-#include <selectionText.h>
+#include <catalogue/Catalogue.h>
+#include <catalogue/contentFilter.h>
+#include <catalogue/ZobModelQueries.h>
+#include <script/scriptLines.h>
+#include <tree/GraphicalOutputTreeWidget.h>
+#include <tree/GraphicalOutputTreeWidgetItem.h>
+#include <tree/outputTreeIcons.h>
+#include <tree/selectionText.h>
 #include <vkd_dbo_model.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_searchpath.h>
 #include <vkd_lib_value.h>
 #include <VKD_QT_InitTranslator.h>
-#include <ZobModelQueries.h>
 
 #include <QMenu>
 #include <QMessageBox>

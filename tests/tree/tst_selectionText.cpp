@@ -1,7 +1,7 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <selectionText.h>
+#include <tree/selectionText.h>
 
 using plib::OutputNode;
 using testsupport::line;

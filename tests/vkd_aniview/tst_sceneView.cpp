@@ -1,6 +1,6 @@
-#include "GroupMarks.h"
-#include "SceneView.h"
 #include "TestSupport.h"
+#include "view/GroupMarks.h"
+#include "view/SceneView.h"
 
 #include <QLineF>
 

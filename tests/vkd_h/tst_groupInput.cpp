@@ -1,7 +1,7 @@
 #include "TestSupport.h"
 
-#include <groupInput.h>
-#include <shownName.h>
+#include <groups/groupInput.h>
+#include <groups/shownName.h>
 #include <vkd_dbo_packedNames.h>
 
 #include <algorithm>

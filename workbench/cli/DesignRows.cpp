@@ -2,12 +2,12 @@
 
 #include "CommandLine.h"
 
-#include <designEntries.h>
-#include <designFields.h>
-#include <designRecord.h>
-#include <designStore.h>
 #include <projectKeys.h>
-#include <rowText.h>
+#include <record/designEntries.h>
+#include <record/designFields.h>
+#include <record/designRecord.h>
+#include <record/designStore.h>
+#include <record/rowText.h>
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_packedNames.h>
 #include <vkd_dbo_queries.h>

@@ -2,11 +2,11 @@
 
 #include "CommandLine.h"
 
-#include <Catalogue.h>
+#include <catalogue/Catalogue.h>
 #include <OutputState.h>
-#include <scriptLines.h>
-#include <selectionText.h>
-#include <TreeBuilder.h>
+#include <script/scriptLines.h>
+#include <tree/selectionText.h>
+#include <tree/TreeBuilder.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 

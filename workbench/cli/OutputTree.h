@@ -1,8 +1,8 @@
 #pragma once
 
-#include <OutputNode.h>
+#include <catalogue/ZobModelQueries.h>
+#include <tree/OutputNode.h>
 #include <VKD_H_PluginParameter.h>
-#include <ZobModelQueries.h>
 
 #include <LoadcaseInformation.h>
 

@@ -2,7 +2,7 @@
 
 #include "CommandLine.h"
 
-#include <catalogueLint.h>
+#include <catalogue/catalogueLint.h>
 #include <vkd_lib_searchpath.h>
 
 #include <QFile>

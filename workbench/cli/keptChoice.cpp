@@ -1,6 +1,6 @@
 #include "keptChoice.h"
 
-#include <keptSettings.h>
+#include <output/keptSettings.h>
 #include <vkd_dbo_camera.h>
 #include <vkd_qt_xmlpart.h>
 

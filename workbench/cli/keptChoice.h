@@ -2,7 +2,7 @@
 
 #include "CommandLine.h"
 
-#include <OutputSettings.h>
+#include <output/OutputSettings.h>
 #include <OutputState.h>
 
 namespace workbench {

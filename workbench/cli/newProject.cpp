@@ -3,7 +3,7 @@
 #include "CommandLine.h"
 #include "DesignRows.h"
 
-#include <designStore.h>
+#include <record/designStore.h>
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_searchpath.h>

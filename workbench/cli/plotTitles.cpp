@@ -1,6 +1,6 @@
 #include "plotTitles.h"
 
-#include <Catalogue.h>
+#include <catalogue/Catalogue.h>
 #include <vkd_lib_value.h>
 
 namespace workbench {

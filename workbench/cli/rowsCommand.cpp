@@ -3,8 +3,8 @@
 #include "CommandLine.h"
 #include "DesignRows.h"
 
-#include <designFields.h>
-#include <designStore.h>
+#include <record/designFields.h>
+#include <record/designStore.h>
 #include <VKD_H_ZOBDoc.h>
 #include <ZobTransaction.h>
 

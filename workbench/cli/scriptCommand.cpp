@@ -5,8 +5,8 @@
 #include "OutputTree.h"
 #include "settingsArguments.h"
 
-#include <outputScript.h>
-#include <PlatformScriptEnvironment.h>
+#include <script/outputScript.h>
+#include <script/PlatformScriptEnvironment.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 

@@ -2,7 +2,7 @@
 
 #include "CommandLine.h"
 
-#include <fontSize.h>
+#include <output/fontSize.h>
 
 namespace workbench {
 

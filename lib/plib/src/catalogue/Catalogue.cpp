@@ -1,6 +1,6 @@
-#include "Catalogue.h"
+#include "catalogue/Catalogue.h"
 
-#include "CatalogueParser.h"
+#include "catalogue/CatalogueParser.h"
 
 #include <vkd_lib_searchpath.h>
 

@@ -1,6 +1,6 @@
-#include "CatalogueParser.h"
+#include "catalogue/CatalogueParser.h"
 
-#include "captionText.h"
+#include "catalogue/captionText.h"
 
 #include <vkd_lib_text.h>
 

@@ -1,4 +1,4 @@
-#include "ZobModelQueries.h"
+#include "catalogue/ZobModelQueries.h"
 
 #include <vkd_dbo_queries.h>
 #include <VKD_H_PluginParameter.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contentFilter.h"
+#include "catalogue/contentFilter.h"
 
 class VKD_H_PluginParameter;
 

@@ -1,4 +1,4 @@
-#include "captionText.h"
+#include "catalogue/captionText.h"
 
 #include <vkd_lib_text.h>
 #include <vkd_lib_value.h>

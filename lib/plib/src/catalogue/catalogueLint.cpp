@@ -1,8 +1,8 @@
-#include "catalogueLint.h"
+#include "catalogue/catalogueLint.h"
 
-#include "CatalogueParser.h"
-#include "contentFilter.h"
-#include "selectionText.h"
+#include "catalogue/CatalogueParser.h"
+#include "catalogue/contentFilter.h"
+#include "tree/selectionText.h"
 
 #include <vkd_lib_text.h>
 

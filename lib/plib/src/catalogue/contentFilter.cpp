@@ -1,4 +1,4 @@
-#include "contentFilter.h"
+#include "catalogue/contentFilter.h"
 
 #include <algorithm>
 

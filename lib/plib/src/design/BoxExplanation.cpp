@@ -1,4 +1,4 @@
-#include "BoxExplanation.h"
+#include "design/BoxExplanation.h"
 
 #include <QChildEvent>
 #include <QMessageBox>

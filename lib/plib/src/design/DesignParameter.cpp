@@ -1,12 +1,12 @@
-#include "DesignParameter.h"
+#include "design/DesignParameter.h"
 
-#include "BoxExplanation.h"
-#include "designColumns.h"
-#include "designEntries.h"
-#include "DesignParameterTable.h"
-#include "designRows.h"
-#include "designStore.h"
-#include "rowText.h"
+#include "design/BoxExplanation.h"
+#include "design/designColumns.h"
+#include "design/DesignParameterTable.h"
+#include "record/designEntries.h"
+#include "record/designRows.h"
+#include "record/designStore.h"
+#include "record/rowText.h"
 
 #include <vkd_dbo_queries.h>
 #include <VKD_H_TableItems.h>

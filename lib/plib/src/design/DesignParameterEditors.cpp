@@ -1,17 +1,17 @@
 // The part of DesignParameter for cell editors and the dialogs that they open.
 
-#include "DesignParameter.h"
+#include "design/DesignParameter.h"
 
-#include "DesignParameterTable.h"
-#include "designRecord.h"
-#include "designRows.h"
-#include "dialogFrame.h"
-#include "dlgCrackControl.h"
-#include "dlgDistanceDirection.h"
-#include "dlgReinforcement.h"
-#include "dlgSelection.h"
-#include "sharedGroupMarks.h"
-#include "unusedDistances.h"
+#include "design/DesignParameterTable.h"
+#include "design/sharedGroupMarks.h"
+#include "dialogs/dialogFrame.h"
+#include "dialogs/dlgCrackControl.h"
+#include "dialogs/dlgDistanceDirection.h"
+#include "dialogs/dlgReinforcement.h"
+#include "dialogs/dlgSelection.h"
+#include "dialogs/unusedDistances.h"
+#include "record/designRecord.h"
+#include "record/designRows.h"
 
 #include <VKD_H_SecondaryGroupDialog.h>
 #include <VKD_H_SelGRP_Dialog.h>

@@ -1,4 +1,4 @@
-#include "DesignParameterTable.h"
+#include "design/DesignParameterTable.h"
 
 #include <VKD_QT_Menu.h>
 

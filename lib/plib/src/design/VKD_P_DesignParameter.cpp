@@ -1,8 +1,8 @@
 #include "VKD_P_DesignParameter.h"
 
-#include "DesignParameter.h"
-#include "designRecord.h"
-#include "designStore.h"
+#include "design/DesignParameter.h"
+#include "record/designRecord.h"
+#include "record/designStore.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_Dialog.h>

@@ -1,7 +1,7 @@
-#include "designColumns.h"
+#include "design/designColumns.h"
 
-#include "DesignParameterTable.h"
-#include "rowText.h"
+#include "design/DesignParameterTable.h"
+#include "record/rowText.h"
 
 #include <VKD_H_TableItems.h>
 

@@ -1,7 +1,7 @@
-#include "sharedGroupMarks.h"
+#include "design/sharedGroupMarks.h"
 
-#include "DesignParameterTable.h"
-#include "sharedGroups.h"
+#include "design/DesignParameterTable.h"
+#include "record/sharedGroups.h"
 #include "VKD_P_DesignParameter_Role.h"
 
 #include <QStyle>

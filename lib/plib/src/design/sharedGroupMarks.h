@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DesignParameterData.h"
+#include "record/DesignParameterData.h"
 
 class DesignParameterTable;
 

@@ -1,4 +1,4 @@
-#include "DeleteKey.h"
+#include "dialogs/DeleteKey.h"
 
 #include <QKeyEvent>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "dialogFrame.h"
+#include "dialogs/dialogFrame.h"
 
 #include <VKD_H_LineEdit.h>
 #include <VKD_QT_Ok.h>

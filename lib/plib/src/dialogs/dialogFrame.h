@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designFields.h"
+#include "record/designFields.h"
 
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_Layouts.h>

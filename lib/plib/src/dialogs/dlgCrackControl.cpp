@@ -1,8 +1,8 @@
-#include "dlgCrackControl.h"
+#include "dialogs/dlgCrackControl.h"
 
-#include "designFields.h"
-#include "designRecord.h"
-#include "dialogFrame.h"
+#include "dialogs/dialogFrame.h"
+#include "record/designFields.h"
+#include "record/designRecord.h"
 
 #include <StructLineEdit.h>
 #include <VKD_H_LineEdit.h>

@@ -1,9 +1,9 @@
-#include "dlgDistanceDirection.h"
+#include "dialogs/dlgDistanceDirection.h"
 
-#include "designFields.h"
-#include "designRecord.h"
-#include "dialogFrame.h"
-#include "languagePictures.h"
+#include "dialogs/dialogFrame.h"
+#include "plugin/languagePictures.h"
+#include "record/designFields.h"
+#include "record/designRecord.h"
 
 #include <StructLineEdit.h>
 #include <VKD_H_LineEdit.h>

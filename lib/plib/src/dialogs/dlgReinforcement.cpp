@@ -1,8 +1,8 @@
-#include "dlgReinforcement.h"
+#include "dialogs/dlgReinforcement.h"
 
-#include "designFields.h"
-#include "designRecord.h"
-#include "dialogFrame.h"
+#include "dialogs/dialogFrame.h"
+#include "record/designFields.h"
+#include "record/designRecord.h"
 
 #include <StructLineEdit.h>
 #include <VKD_A_BarDiameterCombo.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designFields.h"
+#include "record/designFields.h"
 
 #include <tagZOB_QUAD_RIM.h>
 

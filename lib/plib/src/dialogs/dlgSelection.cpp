@@ -1,8 +1,8 @@
-#include "dlgSelection.h"
+#include "dialogs/dlgSelection.h"
 
-#include "DeleteKey.h"
-#include "DesignParameterData.h"
-#include "rowText.h"
+#include "dialogs/DeleteKey.h"
+#include "record/DesignParameterData.h"
+#include "record/rowText.h"
 
 #include <vkd_dbo_queries.h>
 #include <VKD_QT4_ComboBox.h>

@@ -1,6 +1,6 @@
-#include "unusedDistances.h"
+#include "dialogs/unusedDistances.h"
 
-#include "dlgDistanceDirection.h"
+#include "dialogs/dlgDistanceDirection.h"
 
 #include <QGroupBox>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "OutputSettings.h"
+#include "output/OutputSettings.h"
 
 #include <QCoreApplication>
 

@@ -1,11 +1,11 @@
 #include "VKD_P_WidgetGraphicalOutput.h"
 
-#include "fontSize.h"
-#include "GraphicalOutputTreeWidget.h"
-#include "OutputSettings.h"
-#include "pageSplitPictures.h"
-#include "PlatformScriptEnvironment.h"
-#include "WidgetGraphicalOutputData.h"
+#include "output/fontSize.h"
+#include "output/OutputSettings.h"
+#include "output/pageSplitPictures.h"
+#include "output/WidgetGraphicalOutputData.h"
+#include "script/PlatformScriptEnvironment.h"
+#include "tree/GraphicalOutputTreeWidget.h"
 
 #include <AnimatorView.h>
 #include <vkd_dbo_queries.h>

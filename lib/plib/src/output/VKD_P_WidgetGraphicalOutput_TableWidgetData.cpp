@@ -1,7 +1,7 @@
 #include "VKD_P_WidgetGraphicalOutput_TableWidgetData.h"
 
-#include "GraphicalOutputTreeWidget.h"
-#include "tableRows.h"
+#include "tree/GraphicalOutputTreeWidget.h"
+#include "tree/tableRows.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
 
 #include <VKD_H_TableWidget.h>

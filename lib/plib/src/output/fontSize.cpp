@@ -1,4 +1,4 @@
-#include "fontSize.h"
+#include "output/fontSize.h"
 
 #include <StructBoxedEdit.h>
 #include <vkd_h_numberText.h>

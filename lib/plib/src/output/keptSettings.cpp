@@ -1,4 +1,4 @@
-#include "keptSettings.h"
+#include "output/keptSettings.h"
 
 namespace plib {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OutputSettings.h"
+#include "output/OutputSettings.h"
 
 #include <functional>
 

@@ -1,9 +1,9 @@
 // The part of the output page that writes and reads its state as a string of tagged parts.
 
-#include "GraphicalOutputTreeWidget.h"
-#include "keptSettings.h"
+#include "output/keptSettings.h"
+#include "output/WidgetGraphicalOutputData.h"
+#include "tree/GraphicalOutputTreeWidget.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
-#include "WidgetGraphicalOutputData.h"
 
 #include <vkd_dbo_camera.h>
 #include <VKD_H_BoxedLineEdit.h>

@@ -1,8 +1,8 @@
 // The part of the output page that controls the animator: view commands, and the first view.
 
+#include "output/WidgetGraphicalOutputData.h"
+#include "output/WidgetGraphicalOutputEvent.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
-#include "WidgetGraphicalOutputData.h"
-#include "WidgetGraphicalOutputEvent.h"
 
 #include <AnimatorView.h>
 #include <VKD_QT_RadioButtonGroup.h>

@@ -1,4 +1,4 @@
-#include "pageSplitPictures.h"
+#include "output/pageSplitPictures.h"
 
 #include <QImage>
 #include <QVector>

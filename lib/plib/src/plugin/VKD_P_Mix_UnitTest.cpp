@@ -1,6 +1,6 @@
-#include "VKD_P_Mix_UnitTest.h"
+#include "plugin/VKD_P_Mix_UnitTest.h"
 
-#include "languagePictures.h"
+#include "plugin/languagePictures.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 #include "vkd_unittests.h"
 
-#include "selfCheckLog.h"
-#include "VKD_P_Mix_UnitTest.h"
+#include "plugin/selfCheckLog.h"
+#include "plugin/VKD_P_Mix_UnitTest.h"
 
 #include <QFile>
 #include <QLoggingCategory>

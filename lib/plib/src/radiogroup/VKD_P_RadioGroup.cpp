@@ -1,6 +1,6 @@
 #include "VKD_P_RadioGroup.h"
 
-#include "VKD_P_RadioGroupImpl.h"
+#include "radiogroup/VKD_P_RadioGroupImpl.h"
 
 using Group = VKD_P_RadioGroup;
 using Impl = VKD_P_RadioGroupImpl;

@@ -1,6 +1,6 @@
-#include "VKD_P_RadioGroupImpl.h"
+#include "radiogroup/VKD_P_RadioGroupImpl.h"
 
-#include "radioChoice.h"
+#include "radiogroup/radioChoice.h"
 
 #include <QtTableView.h>
 

@@ -1,4 +1,4 @@
-#include "radioChoice.h"
+#include "radiogroup/radioChoice.h"
 
 #include <QStringList>
 

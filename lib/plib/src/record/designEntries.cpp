@@ -1,7 +1,7 @@
-#include "designEntries.h"
+#include "record/designEntries.h"
 
-#include "designFields.h"
-#include "designRecord.h"
+#include "record/designFields.h"
+#include "record/designRecord.h"
 
 #include <VKD_H_ProjectDialogPage.h>
 

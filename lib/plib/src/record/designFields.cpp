@@ -1,4 +1,4 @@
-#include "designFields.h"
+#include "record/designFields.h"
 
 #include <algorithm>
 

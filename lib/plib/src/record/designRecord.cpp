@@ -1,6 +1,6 @@
-#include "designRecord.h"
+#include "record/designRecord.h"
 
-#include "designFields.h"
+#include "record/designFields.h"
 
 #include <VKD_A_BarDiameterData.h>
 

@@ -1,4 +1,4 @@
-#include "designRows.h"
+#include "record/designRows.h"
 
 #include <algorithm>
 

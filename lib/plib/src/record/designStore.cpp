@@ -1,6 +1,6 @@
-#include "designStore.h"
+#include "record/designStore.h"
 
-#include "designRecord.h"
+#include "record/designRecord.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_zob.h>

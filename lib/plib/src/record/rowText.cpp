@@ -1,7 +1,7 @@
-#include "rowText.h"
+#include "record/rowText.h"
 
-#include "designFields.h"
-#include "designRecord.h"
+#include "record/designFields.h"
+#include "record/designRecord.h"
 
 #include <VKD_A_BarDiameterData.h>
 #include <vkd_dbo_packedNames.h>

@@ -1,6 +1,6 @@
-#include "sharedGroups.h"
+#include "record/sharedGroups.h"
 
-#include "rowText.h"
+#include "record/rowText.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "PlatformScriptEnvironment.h"
+#include "script/PlatformScriptEnvironment.h"
 
 #include <vkd_dbo_camera.h>
 #include <vkd_dbo_queries.h>

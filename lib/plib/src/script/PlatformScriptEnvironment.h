@@ -1,6 +1,6 @@
 #pragma once
 
-#include "outputScript.h"
+#include "script/outputScript.h"
 
 class VKD_H_PluginParameter;
 

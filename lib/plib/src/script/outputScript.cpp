@@ -1,6 +1,6 @@
-#include "outputScript.h"
+#include "script/outputScript.h"
 
-#include <Words.h>
+#include "script/Words.h"
 
 namespace plib {
 

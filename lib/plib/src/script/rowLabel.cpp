@@ -1,4 +1,4 @@
-#include "rowLabel.h"
+#include "script/rowLabel.h"
 
 namespace plib {
 

@@ -1,6 +1,6 @@
-#include "scriptLines.h"
+#include "script/scriptLines.h"
 
-#include "Words.h"
+#include "script/Words.h"
 
 namespace plib {
 

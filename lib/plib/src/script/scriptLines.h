@@ -1,7 +1,7 @@
 #pragma once
 
-#include "GraphicalOutputRecord.h"
-#include "rowLabel.h"
+#include "catalogue/GraphicalOutputRecord.h"
+#include "script/rowLabel.h"
 
 #include <VKD_P_WidgetGraphicalOutput_Progname.h>
 

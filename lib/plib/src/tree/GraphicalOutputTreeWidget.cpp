@@ -1,13 +1,13 @@
-#include "GraphicalOutputTreeWidget.h"
+#include "tree/GraphicalOutputTreeWidget.h"
 
-#include "Catalogue.h"
-#include "GraphicalOutputTreeWidgetItem.h"
-#include "outputTreeIcons.h"
-#include "RowLooks.h"
-#include "scriptLines.h"
-#include "selectionText.h"
-#include "TreeBuilder.h"
-#include "ZobModelQueries.h"
+#include "catalogue/Catalogue.h"
+#include "catalogue/ZobModelQueries.h"
+#include "script/scriptLines.h"
+#include "tree/GraphicalOutputTreeWidgetItem.h"
+#include "tree/outputTreeIcons.h"
+#include "tree/RowLooks.h"
+#include "tree/selectionText.h"
+#include "tree/TreeBuilder.h"
 
 #include <vkd_lib_value.h>
 #include <VKD_QT_MessageBox.h>

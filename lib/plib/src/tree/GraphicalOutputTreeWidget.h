@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PopupHandler.h"
+#include "tree/PopupHandler.h"
 
 #include <LoadcaseInformation.h>
 #include <VKD_QT_TreeWidget.h>

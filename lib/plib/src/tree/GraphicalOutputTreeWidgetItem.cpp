@@ -1,4 +1,4 @@
-#include "GraphicalOutputTreeWidgetItem.h"
+#include "tree/GraphicalOutputTreeWidgetItem.h"
 
 GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(const QString& text)
     : QTreeWidgetItem(OutputType)

@@ -1,4 +1,4 @@
-#include "OutputNode.h"
+#include "tree/OutputNode.h"
 
 #include <algorithm>
 

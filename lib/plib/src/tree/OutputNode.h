@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GraphicalOutputRecord.h"
+#include "catalogue/GraphicalOutputRecord.h"
 
 #include <memory>
 #include <vector>

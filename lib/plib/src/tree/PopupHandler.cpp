@@ -1,7 +1,7 @@
-#include "PopupHandler.h"
+#include "tree/PopupHandler.h"
 
-#include "GraphicalOutputTreeWidget.h"
-#include "outputTreeIcons.h"
+#include "tree/GraphicalOutputTreeWidget.h"
+#include "tree/outputTreeIcons.h"
 
 #include <vkd_lib_value.h>
 #include <VKD_QT_Action.h>

@@ -1,6 +1,6 @@
-#include "RowLooks.h"
+#include "tree/RowLooks.h"
 
-#include "outputTreeIcons.h"
+#include "tree/outputTreeIcons.h"
 
 namespace plib {
 

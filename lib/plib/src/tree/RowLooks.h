@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GraphicalOutputTreeWidgetItem.h"
+#include "tree/GraphicalOutputTreeWidgetItem.h"
 
 #include <map>
 #include <memory>

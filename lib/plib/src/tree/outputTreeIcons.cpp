@@ -1,4 +1,4 @@
-#include "outputTreeIcons.h"
+#include "tree/outputTreeIcons.h"
 
 #include <QPainter>
 

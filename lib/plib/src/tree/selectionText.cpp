@@ -1,4 +1,4 @@
-#include "selectionText.h"
+#include "tree/selectionText.h"
 
 namespace plib {
 

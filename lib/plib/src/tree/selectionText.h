@@ -1,7 +1,7 @@
 #pragma once
 
-#include "checkStates.h"
-#include "GraphicalOutputRecord.h"
+#include "catalogue/GraphicalOutputRecord.h"
+#include "tree/checkStates.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,6 +1,6 @@
-#include "tableRows.h"
+#include "tree/tableRows.h"
 
-#include "rowLabel.h"
+#include "script/rowLabel.h"
 
 #include <limits>
 #include <map>

@@ -1,7 +1,7 @@
-#include "GeometryBuilder.h"
+#include "geometry/GeometryBuilder.h"
 
-#include "brickfaces.h"
-#include "faceedges.h"
+#include "geometry/brickfaces.h"
+#include "geometry/faceedges.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Projection.h"
+#include "geometry/Projection.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "Projection.h"
+#include "geometry/Projection.h"
 
 #include <algorithm>
 #include <cmath>

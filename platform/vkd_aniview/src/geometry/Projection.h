@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewcamera.h"
+#include "geometry/viewcamera.h"
 
 #include <QPointF>
 #include <QSizeF>

@@ -1,4 +1,4 @@
-#include "brickfaces.h"
+#include "geometry/brickfaces.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "faceedges.h"
+#include "geometry/faceedges.h"
 
 #include <algorithm>
 #include <cmath>

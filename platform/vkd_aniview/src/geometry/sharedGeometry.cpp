@@ -1,4 +1,4 @@
-#include "sharedGeometry.h"
+#include "geometry/sharedGeometry.h"
 
 #include <vkd_dbo_model.h>
 

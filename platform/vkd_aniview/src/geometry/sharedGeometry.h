@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ModelGeometry.h"
+#include "geometry/ModelGeometry.h"
 
 #include <vkd_progress.h>
 

@@ -1,4 +1,4 @@
-#include "viewcamera.h"
+#include "geometry/viewcamera.h"
 
 #include <QtMath>
 

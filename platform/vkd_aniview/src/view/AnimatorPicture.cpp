@@ -1,9 +1,9 @@
 #include "AnimatorPicture.h"
 
-#include "ScenePainter.h"
-#include "SceneView.h"
-#include "sharedGeometry.h"
-#include "symbols.h"
+#include "geometry/sharedGeometry.h"
+#include "view/ScenePainter.h"
+#include "view/SceneView.h"
+#include "view/symbols.h"
 
 #include <QPainter>
 #include <QPalette>

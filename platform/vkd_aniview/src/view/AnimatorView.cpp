@@ -1,10 +1,10 @@
 #include "AnimatorView.h"
 
-#include "GroupMarks.h"
-#include "ScenePainter.h"
-#include "SceneView.h"
-#include "sharedGeometry.h"
-#include "symbols.h"
+#include "geometry/sharedGeometry.h"
+#include "view/GroupMarks.h"
+#include "view/ScenePainter.h"
+#include "view/SceneView.h"
+#include "view/symbols.h"
 
 #include <vkd_dbo_camera.h>
 

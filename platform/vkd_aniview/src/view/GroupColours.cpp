@@ -1,4 +1,4 @@
-#include "GroupColours.h"
+#include "view/GroupColours.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GroupMarks.h"
+#include "view/GroupMarks.h"
 
 #include <QBrush>
 #include <QPalette>

@@ -1,4 +1,4 @@
-#include "GroupMarks.h"
+#include "view/GroupMarks.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "Picture.h"
+#include "view/Picture.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "ScenePainter.h"
+#include "view/ScenePainter.h"
 
-#include "symbols.h"
+#include "view/symbols.h"
 
 #include <QPainter>
 

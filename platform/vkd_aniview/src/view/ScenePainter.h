@@ -1,7 +1,7 @@
 #pragma once
 
-#include "GroupColours.h"
-#include "Picture.h"
+#include "view/GroupColours.h"
+#include "view/Picture.h"
 
 #include <memory>
 

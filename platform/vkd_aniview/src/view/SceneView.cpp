@@ -1,7 +1,7 @@
-#include "SceneView.h"
+#include "view/SceneView.h"
 
-#include "GroupMarks.h"
-#include "hittest.h"
+#include "view/GroupMarks.h"
+#include "view/hittest.h"
 
 #include <utility>
 

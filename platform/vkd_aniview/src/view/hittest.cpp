@@ -1,4 +1,4 @@
-#include "hittest.h"
+#include "view/hittest.h"
 
 #include <QLineF>
 

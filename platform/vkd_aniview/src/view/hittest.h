@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Picture.h"
+#include "view/Picture.h"
 
 namespace vkd {
 namespace aniview {

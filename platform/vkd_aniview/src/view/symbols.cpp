@@ -1,4 +1,4 @@
-#include "symbols.h"
+#include "view/symbols.h"
 
 #include <QPainter>
 #include <QPainterPath>

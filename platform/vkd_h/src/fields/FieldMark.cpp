@@ -1,6 +1,6 @@
-#include "FieldMark.h"
+#include "fields/FieldMark.h"
 
-#include "FieldMessage.h"
+#include "fields/FieldMessage.h"
 
 #include <QPainter>
 #include <QPainterPath>

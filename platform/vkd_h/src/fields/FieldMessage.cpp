@@ -1,4 +1,4 @@
-#include "FieldMessage.h"
+#include "fields/FieldMessage.h"
 
 #include <QApplication>
 #include <QEvent>

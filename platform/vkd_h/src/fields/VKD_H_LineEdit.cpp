@@ -1,8 +1,8 @@
 #include "VKD_H_LineEdit.h"
 
-#include "FieldMark.h"
-#include "presetList.h"
-#include "refusalText.h"
+#include "fields/FieldMark.h"
+#include "fields/presetList.h"
+#include "fields/refusalText.h"
 #include "vkd_h_numberText.h"
 
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "presetList.h"
+#include "fields/presetList.h"
 
 #include "vkd_h_numberText.h"
 

@@ -1,4 +1,4 @@
-#include "refusalText.h"
+#include "fields/refusalText.h"
 
 #include "VKD_H_LineEdit.h"
 #include "vkd_h_numberText.h"

@@ -1,4 +1,4 @@
-#include "shownNumber.h"
+#include "fields/shownNumber.h"
 
 #include <vkd_lib_value.h>
 

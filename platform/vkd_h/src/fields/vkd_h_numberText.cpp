@@ -1,6 +1,6 @@
 #include "vkd_h_numberText.h"
 
-#include "shownNumber.h"
+#include "fields/shownNumber.h"
 #include "StructLineEdit.h"
 #include "vkd_h_units.h"
 

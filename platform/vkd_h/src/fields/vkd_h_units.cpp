@@ -1,6 +1,6 @@
 #include "vkd_h_units.h"
 
-#include "shownNumber.h"
+#include "fields/shownNumber.h"
 #include "VKD_H_UnitLabel.h"
 
 #include <limits>

@@ -1,6 +1,6 @@
-#include "GroupFilterModel.h"
+#include "groups/GroupFilterModel.h"
 
-#include "GroupTableModel.h"
+#include "groups/GroupTableModel.h"
 
 namespace vkd {
 namespace h {

@@ -1,4 +1,4 @@
-#include "GroupTableModel.h"
+#include "groups/GroupTableModel.h"
 
 #include <QCoreApplication>
 #include <QFont>

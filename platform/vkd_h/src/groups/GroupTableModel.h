@@ -1,6 +1,6 @@
 #pragma once
 
-#include "groupRows.h"
+#include "groups/groupRows.h"
 
 #include <QAbstractTableModel>
 

@@ -1,6 +1,6 @@
-#include "GroupView.h"
+#include "groups/GroupView.h"
 
-#include "GroupTableModel.h"
+#include "groups/GroupTableModel.h"
 
 #include <vkd_qt_visibleLines.h>
 

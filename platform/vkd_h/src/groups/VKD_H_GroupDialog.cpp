@@ -1,11 +1,11 @@
 #include "VKD_H_GroupDialog.h"
 
-#include "groupChoice.h"
-#include "GroupFilterModel.h"
-#include "groupInput.h"
-#include "GroupTableModel.h"
-#include "groupTexts.h"
-#include "GroupView.h"
+#include "groups/groupChoice.h"
+#include "groups/GroupFilterModel.h"
+#include "groups/groupInput.h"
+#include "groups/GroupTableModel.h"
+#include "groups/groupTexts.h"
+#include "groups/GroupView.h"
 #include "VKD_H_ZOBDoc.h"
 
 #include <VKD_QT_InfoText.h>

@@ -1,4 +1,4 @@
-#include "groupChoice.h"
+#include "groups/groupChoice.h"
 
 #include <vkd_dbo_packedNames.h>
 

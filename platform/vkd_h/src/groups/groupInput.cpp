@@ -1,6 +1,6 @@
-#include "groupInput.h"
+#include "groups/groupInput.h"
 
-#include "shownName.h"
+#include "groups/shownName.h"
 
 #include <vkd_dbo_packedNames.h>
 

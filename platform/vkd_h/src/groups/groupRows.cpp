@@ -1,7 +1,7 @@
-#include "groupRows.h"
+#include "groups/groupRows.h"
 
-#include "groupChoice.h"
-#include "shownName.h"
+#include "groups/groupChoice.h"
+#include "groups/shownName.h"
 
 #include <vkd_dbo_groups.h>
 #include <vkd_dbo_packedNames.h>

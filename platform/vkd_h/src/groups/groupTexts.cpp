@@ -1,7 +1,7 @@
-#include "groupTexts.h"
+#include "groups/groupTexts.h"
 
-#include "groupChoice.h"
-#include "shownName.h"
+#include "groups/groupChoice.h"
+#include "groups/shownName.h"
 
 #include <QCoreApplication>
 

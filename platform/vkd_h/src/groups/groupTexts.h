@@ -1,7 +1,7 @@
 #pragma once
 
-#include "groupInput.h"
-#include "groupRows.h"
+#include "groups/groupInput.h"
+#include "groups/groupRows.h"
 
 namespace vkd {
 namespace h {

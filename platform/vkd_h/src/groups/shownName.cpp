@@ -1,4 +1,4 @@
-#include "shownName.h"
+#include "groups/shownName.h"
 
 #include <vkd_dbo_packedNames.h>
 

@@ -1,4 +1,4 @@
-#include "CellDelegate.h"
+#include "tables/CellDelegate.h"
 
 #include "VKD_H_LineEdit.h"
 #include "VKD_H_TableWidget.h"

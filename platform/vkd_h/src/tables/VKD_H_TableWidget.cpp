@@ -1,6 +1,6 @@
 #include "VKD_H_TableWidget.h"
 
-#include "CellDelegate.h"
+#include "tables/CellDelegate.h"
 #include "VKD_H_TableItems.h"
 
 #include <vkd_qt_copyCells.h>

@@ -1,4 +1,4 @@
-#include "RecordTable.h"
+#include "store/RecordTable.h"
 
 #include <sqlite3.h>
 

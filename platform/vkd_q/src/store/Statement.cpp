@@ -1,4 +1,4 @@
-#include "Statement.h"
+#include "store/Statement.h"
 
 #include <sqlite3.h>
 

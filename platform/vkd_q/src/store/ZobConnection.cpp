@@ -1,8 +1,8 @@
-#include "ZobConnection.h"
+#include "store/ZobConnection.h"
 
+#include "store/zobFileCheck.h"
+#include "store/zobSchema.h"
 #include "vkd_lib_value.h"
-#include "zobFileCheck.h"
-#include "zobSchema.h"
 
 #include <QFile>
 #include <QFileInfo>

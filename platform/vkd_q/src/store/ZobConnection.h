@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zobFailure.h"
+#include "store/zobFailure.h"
 
 #include <memory>
 

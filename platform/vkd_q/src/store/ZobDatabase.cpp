@@ -1,4 +1,4 @@
-#include "ZobDatabase.h"
+#include "store/ZobDatabase.h"
 
 #include <sqlite3.h>
 

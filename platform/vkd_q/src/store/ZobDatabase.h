@@ -1,9 +1,9 @@
 #pragma once
 
-#include "RecordTable.h"
+#include "store/RecordTable.h"
+#include "store/ZobConnection.h"
+#include "store/ZobTransactions.h"
 #include "vkd_zob.h"
-#include "ZobConnection.h"
-#include "ZobTransactions.h"
 
 #include <memory>
 

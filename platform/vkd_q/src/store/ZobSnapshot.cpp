@@ -1,6 +1,6 @@
 #include "ZobSnapshot.h"
 
-#include "openStores.h"
+#include "store/openStores.h"
 
 ZobSnapshot::ZobSnapshot(int index)
 {

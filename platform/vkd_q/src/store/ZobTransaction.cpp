@@ -1,6 +1,6 @@
 #include "ZobTransaction.h"
 
-#include "openStores.h"
+#include "store/openStores.h"
 
 namespace {
 VkdStatus projectIsClosed(int index)

@@ -1,6 +1,6 @@
-#include "ZobTransactions.h"
+#include "store/ZobTransactions.h"
 
-#include "ZobConnection.h"
+#include "store/ZobConnection.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RecordTable.h"
-#include "Statement.h"
+#include "store/RecordTable.h"
+#include "store/Statement.h"
 #include "vkd_status.h"
 #include "vkd_zob.h"
 

@@ -1,4 +1,4 @@
-#include "openStores.h"
+#include "store/openStores.h"
 
 #include <map>
 

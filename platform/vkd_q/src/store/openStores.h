@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ZobDatabase.h"
+#include "store/ZobDatabase.h"
 
 #include <memory>
 

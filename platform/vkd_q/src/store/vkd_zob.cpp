@@ -1,6 +1,6 @@
 #include "vkd_zob.h"
 
-#include "openStores.h"
+#include "store/openStores.h"
 
 VkdStatus vkd_zob_open(const char* path, int* index, const VkdGoOn& goOn)
 {

@@ -1,4 +1,4 @@
-#include "zobFailure.h"
+#include "store/zobFailure.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>

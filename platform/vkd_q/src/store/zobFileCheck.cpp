@@ -1,7 +1,7 @@
-#include "zobFileCheck.h"
+#include "store/zobFileCheck.h"
 
-#include "ZobConnection.h"
-#include "zobSchema.h"
+#include "store/ZobConnection.h"
+#include "store/zobSchema.h"
 
 #include <sqlite3.h>
 
