@@ -111,6 +111,103 @@ private Q_SLOTS:
         }
     }
 
+    void awayFiles_data()
+    {
+        const Columns<QByteArray, bool> row("event", "isReadable");
+        row("deleted", "rm", true);
+        row("moved", "mv", true);
+        row("its folder is deleted", "rmdir", true);
+        row("replaced", "cp", true);
+        // Its journal would be played back into the file that is open.
+        row("replaced by one that is being written", "write", false);
+    }
+
+    void awayFiles()
+    {
+        QFETCH(const QByteArray, event);
+        QFETCH(const bool, isReadable);
+        const QTemporaryDir folder;
+        QDir(folder.path()).mkdir(QStringLiteral("f"));
+        const QString path = folder.filePath(QStringLiteral("f/p"));
+        testsupport::writeFile(path, m_sound);
+        const int index = openProject(path);
+        QVERIFY(QFile::rename(path, folder.filePath(QStringLiteral("q"))));
+        if (event != "mv")
+            QFile::remove(folder.filePath(QStringLiteral("q")));
+        if (event == "rmdir")
+            QDir(folder.path()).rmdir(QStringLiteral("f"));
+        if (event == "cp" || event == "write")
+            testsupport::writeFile(path, m_sound);
+        const int other = event == "write" ? openProject(path) : 0;
+        vkd_zob_lock_ex(other, 1, 1);
+        for (int i = 0; i < 4; ++i) // more than memory holds
+            QCOMPARE(put(other, 1, 1, QByteArray(1000000, 'x'), 1), VKD_ZOB_OK);
+        int changes = -1;
+        ZobLog log;
+        QCOMPARE(vkd_zob_outside_changes(index, &changes), VKD_ZOB_MOVED);
+        QCOMPARE(log.take(), 0);
+        QCOMPARE(readAll(index) == m_records, isReadable);
+        QByteArray copy;
+        const auto take = [&copy](const void* bytes, int length) {
+            copy.append(static_cast<const char*>(bytes), length);
+            return true;
+        };
+        QCOMPARE(vkd_zob_copy(index, take).code, isReadable ? VKD_ZOB_OK : VKD_ZOB_MOVED);
+        QCOMPARE(copy == m_sound, isReadable);
+        log.take();
+        QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_MOVED);
+        QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_MOVED);
+        vkd_zob_free_ex(index, 1, 1);
+        QCOMPARE(vkd_zob_close(index).code, VKD_ZOB_MOVED);
+        vkd_zob_free_ex(other, 1, 1);
+        QCOMPARE(vkd_zob_change_status(other).code, VKD_ZOB_OK);
+        vkd_zob_close(other);
+    }
+
+    /// Own changes do not count, and a project that is being written, or was left so by a crash, is
+    /// left alone.
+    void outsideChanges()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        const QString journal = path + QLatin1String("-journal");
+        testsupport::writeFile(path, m_sound);
+        const int index = openProject(path), other = openProject(path);
+        QList<int> numbers;
+        const auto ask = [&numbers, index] {
+            int number = -1;
+            const cd_error_t status = vkd_zob_outside_changes(index, &number);
+            numbers << number;
+            return status;
+        };
+        QCOMPARE(ask(), VKD_ZOB_OK);
+        QCOMPARE(put(index, 1, 1, "mine", 1), VKD_ZOB_OK);
+        QCOMPARE(ask(), VKD_ZOB_OK);
+        QCOMPARE(put(other, 1, 1, "theirs", 1), VKD_ZOB_OK);
+        QCOMPARE(ask(), VKD_ZOB_OK);
+        readAll(index); // by which the connection gets to know of the change
+        QCOMPARE(put(index, 1, 1, "mine", 1), VKD_ZOB_OK);
+        QCOMPARE(ask(), VKD_ZOB_OK);
+        vkd_zob_lock_ex(other, 1, 1);
+        for (int i = 0; i < 4; ++i) // more than memory holds
+            put(other, 1, 1, QByteArray(1000000, 'x'), 1);
+        const QByteArray halfWritten = testsupport::readFile(path);
+        const QByteArray halfJournal = testsupport::readFile(journal);
+        QCOMPARE(ask(), VKD_ZOB_OK);
+        vkd_zob_free_ex(other, 1, 1);
+        QCOMPARE(vkd_zob_close(other).code, VKD_ZOB_OK);
+        QCOMPARE(ask(), VKD_ZOB_OK);
+        const int first = numbers[2], second = numbers[5];
+        QVERIFY(first != 0 && second != first);
+        QCOMPARE(numbers, QList<int>({0, 0, first, first, first, second}));
+        testsupport::writeFile(path, halfWritten);
+        testsupport::writeFile(journal, halfJournal);
+        QCOMPARE(ask(), VKD_ZOB_LOCKED);
+        QVERIFY(testsupport::readFile(path) == halfWritten);
+        QVERIFY(testsupport::readFile(journal) == halfJournal);
+        vkd_zob_close(index);
+    }
+
     void create()
     {
         const QTemporaryDir folder;

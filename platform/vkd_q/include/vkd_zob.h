@@ -4,6 +4,8 @@
 #include "vkd_q_export.h"
 #include "vkd_status.h"
 
+#include <functional>
+
 /// The ZOB is the record store of a project: ordered sequences of opaque records under pairs of
 /// keys, in one file per project. An open project has a database index of 1 or more; index 0 is a
 /// scratch store in memory that lives as long as the process.
@@ -33,8 +35,12 @@ enum VkdZobStatus : cd_error_t {
     VKD_ZOB_LOCKED = 11,    ///< another program locked the project for too long
     VKD_ZOB_FAILED = 12,    ///< the system failed to read or write
     VKD_ZOB_BAD_CALL = 13,  ///< an argument is out of range
-    VKD_ZOB_CANCELLED = 14  ///< the caller cancelled; no log line is written
+    VKD_ZOB_CANCELLED = 14, ///< the caller cancelled; no log line is written
+    VKD_ZOB_MOVED = 15      ///< the file was deleted, moved or replaced while it was open
 };
+
+/// Receives the next bytes of a file; returns false to cancel.
+using VkdZobTake = std::function<bool(const void* bytes, int length)>;
 
 /// Opens the project file at `path` (UTF-8) and sets its database index. Opening an intact project
 /// does not change any byte of it; after a crash, the interrupted write is rolled back first. A
@@ -88,3 +94,14 @@ VKD_Q_EXPORT VkdStatus vkd_zob_change_status(int index);
 /// one, or to -1, -1 if there is none. For example, a result with the first key 35 for (35, 0)
 /// means that records exist under 35. Other modes are invalid and give -1.
 VKD_Q_EXPORT void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode);
+
+/// Sets `*number` to 0 if the project was not changed since it was opened, except by this index.
+/// The number is another one after each change by another program or another index. The call does
+/// not wait, does not make other programs wait and does not change the file. It returns
+/// VKD_ZOB_LOCKED while another program is storing, and VKD_ZOB_MOVED if the path no longer leads
+/// to the open file, which can still be read and copied. No log line is written.
+VKD_Q_EXPORT cd_error_t vkd_zob_outside_changes(int index, int* number);
+
+/// Passes the bytes of the project file to `take`, piece by piece, as of the last stored change. No
+/// other program can store meanwhile. Returns VKD_ZOB_CANCELLED if `take` returns false.
+VKD_Q_EXPORT VkdStatus vkd_zob_copy(int index, const VkdZobTake& take);

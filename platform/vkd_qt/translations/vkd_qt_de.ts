@@ -87,6 +87,10 @@
         <translation>ein anderes Programm hält das Projekt</translation>
     </message>
     <message>
+        <source>the file was deleted, moved or replaced while it was open</source>
+        <translation>die Datei wurde gelöscht, verschoben oder ersetzt, während sie geöffnet war</translation>
+    </message>
+    <message>
         <source>an argument is out of range</source>
         <translation>ein Argument liegt außerhalb des zulässigen Bereichs</translation>
     </message>

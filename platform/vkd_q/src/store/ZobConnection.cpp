@@ -111,7 +111,7 @@ VkdStatus ZobConnection::connect(int flags)
     if (code != SQLITE_OK)
         return fail(VKD_ZOB_NO_FILE, ZobAction::Open, QString::fromUtf8(sqlite3_errstr(code)));
     sqlite3_extended_result_codes(connection, 0);
-    sqlite3_busy_handler(connection, waitForOther, nullptr);
+    setWaiting(true);
     return {};
 }
 
@@ -129,6 +129,24 @@ bool ZobConnection::isReadOnly() const
 bool ZobConnection::isInTransaction() const
 {
     return sqlite3_get_autocommit(handle()) == 0;
+}
+
+bool ZobConnection::isAway() const
+{
+    int hasMoved = 0;
+    sqlite3_file_control(handle(), "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
+    return hasMoved != 0;
+}
+
+bool ZobConnection::hasJournal() const
+{
+    const char* path = sqlite3_db_filename(handle(), "main");
+    return path && *path && QFile::exists(QFile::decodeName(sqlite3_filename_journal(path)));
+}
+
+void ZobConnection::setWaiting(bool waits)
+{
+    sqlite3_busy_handler(handle(), waits ? waitForOther : nullptr, nullptr);
 }
 
 VkdStatus ZobConnection::number(const char* sql, int* value)

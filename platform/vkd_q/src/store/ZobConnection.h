@@ -26,6 +26,15 @@ public:
     /// Returns whether a transaction was begun explicitly and is open.
     bool isInTransaction() const;
 
+    /// Returns whether the path no longer leads to the open file, because it was deleted, moved or
+    /// replaced.
+    bool isAway() const;
+    /// Returns whether a journal exists beside the path.
+    bool hasJournal() const;
+    /// Sets whether statements wait while another program locks the file, at most as long as
+    /// setting 201 says. They do by default.
+    void setWaiting(bool waits);
+
     VkdStatus execute(const char* sql, ZobAction action);
     /// Reads the first column of the first row and reports failures as failures to open the file.
     VkdStatus number(const char* sql, int* value);

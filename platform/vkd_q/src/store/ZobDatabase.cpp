@@ -1,5 +1,7 @@
 #include "store/ZobDatabase.h"
 
+#include "store/openFile.h"
+
 #include <sqlite3.h>
 
 #include <utility>
@@ -8,6 +10,7 @@ ZobDatabase::ZobDatabase(std::unique_ptr<ZobConnection> connection)
     : m_connection(std::move(connection))
     , m_table(m_connection->handle())
     , m_transactions(*m_connection, m_table)
+    , m_outsideChanges(*m_connection)
 {
 }
 
@@ -60,6 +63,8 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
         return m_transactions.changeStatus().code;
     if (length < 0 || position < 0 || position > 1)
         return refuseCall(ZobAction::Write);
+    if (!m_transactions.isChanging() && m_connection->isAway())
+        return m_connection->fail(VKD_ZOB_MOVED, ZobAction::Write).code;
     m_transactions.endPasses(); // within a change there are none
     m_table.stopWalk();
     const RecordTable::KeyPair pair{key1, key2};
@@ -75,9 +80,30 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
 void ZobDatabase::firstPairFrom(int* key1, int* key2)
 {
     RecordTable::KeyPair pair{*key1, *key2};
-    const int code = m_table.findNext(&pair);
+    const VkdStatus held = m_transactions.beginSnapshot();
+    const int code = held.isOk() ? m_table.findNext(&pair) : SQLITE_DONE;
+    if (held.isOk())
+        m_transactions.endSnapshot();
+    else
+        m_transactions.spoilChange(held);
     if (code != SQLITE_ROW && code != SQLITE_DONE)
         failInside(code, ZobAction::Search);
     *key1 = code == SQLITE_ROW ? pair.first : -1;
     *key2 = code == SQLITE_ROW ? pair.second : -1;
+}
+
+VkdStatus ZobDatabase::copy(const VkdZobTake& take)
+{
+    if (m_transactions.isChanging())
+        return m_connection->fail(VKD_ZOB_BAD_CALL, ZobAction::Read);
+    VkdStatus status = m_transactions.beginSnapshot();
+    if (!status.isOk())
+        return status;
+    const VkdZobStatus code = copyFile(m_connection->handle(), take);
+    if (code == VKD_ZOB_CANCELLED)
+        status = zobFailure(code, ZobAction::Read, m_connection->path());
+    else if (code != VKD_ZOB_OK)
+        status = m_connection->fail(code, ZobAction::Read);
+    m_transactions.endSnapshot();
+    return status;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/OutsideChanges.h"
 #include "store/RecordTable.h"
 #include "store/ZobConnection.h"
 #include "store/ZobTransactions.h"
@@ -23,6 +24,8 @@ public:
     /// Fails because an argument is out of range.
     cd_error_t refuseCall(ZobAction action);
     ZobTransactions& transactions() { return m_transactions; }
+    OutsideChanges& outsideChanges() { return m_outsideChanges; }
+    VkdStatus copy(const VkdZobTake& take);
     /// Returns OK if no operation failed.
     const VkdStatus& lastFailure() const { return m_connection->lastFailure(); }
 
@@ -33,4 +36,5 @@ private:
     std::unique_ptr<ZobConnection> m_connection; // first member: outlives the statements
     RecordTable m_table;
     ZobTransactions m_transactions;
+    OutsideChanges m_outsideChanges;
 };

@@ -58,6 +58,10 @@ VkdStatus ZobTransactions::hold()
 {
     if (m_isReading)
         return {};
+    // Another file may have taken the place of the open one. SQLite would mistake its journal for
+    // an interrupted change of the open file and play it back into that.
+    if (m_connection.isAway() && m_connection.hasJournal())
+        return m_connection.fail(VKD_ZOB_MOVED, ZobAction::Read);
     int code = m_hold.prepare(m_connection.handle(), HoldSql);
     if (code == SQLITE_OK)
         code = m_hold.step();
@@ -104,7 +108,9 @@ VkdStatus ZobTransactions::joinChange()
 VkdStatus ZobTransactions::beginChange()
 {
     m_table.forgetEnds();
-    // SQLite would begin the transaction and refuse only the writes.
+    // In both cases SQLite would begin the transaction and refuse only the writes.
+    if (m_connection.isAway())
+        return m_connection.fail(VKD_ZOB_MOVED, ZobAction::TakeLock);
     if (m_connection.isReadOnly())
         return m_connection.fail(VKD_ZOB_READ_ONLY, ZobAction::TakeLock);
     const VkdStatus status = m_connection.execute("BEGIN IMMEDIATE", ZobAction::TakeLock);

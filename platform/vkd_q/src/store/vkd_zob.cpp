@@ -75,6 +75,20 @@ VkdStatus vkd_zob_change_status(int index)
     return store ? store->transactions().endOfChange() : failure;
 }
 
+cd_error_t vkd_zob_outside_changes(int index, int* number)
+{
+    VkdStatus failure;
+    ZobDatabase* store = openStore(index, &failure);
+    return store ? store->outsideChanges().number(number) : failure.code;
+}
+
+VkdStatus vkd_zob_copy(int index, const VkdZobTake& take)
+{
+    VkdStatus failure;
+    ZobDatabase* store = openStore(index, &failure);
+    return store ? store->copy(take) : failure;
+}
+
 void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)
 {
     VkdStatus failure;

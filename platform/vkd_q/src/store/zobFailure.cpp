@@ -45,6 +45,9 @@ const char* reasonOf(cd_error_t code)
         return QT_TRANSLATE_NOOP("ZobTexts",
                                  "the disk is full, or it does not take what is written");
     case VKD_ZOB_LOCKED: return QT_TRANSLATE_NOOP("ZobTexts", "another program holds the project");
+    case VKD_ZOB_MOVED:
+        return QT_TRANSLATE_NOOP("ZobTexts",
+                                 "the file was deleted, moved or replaced while it was open");
     case VKD_ZOB_BAD_CALL: return QT_TRANSLATE_NOOP("ZobTexts", "an argument is out of range");
     case VKD_ZOB_CANCELLED: return QT_TRANSLATE_NOOP("ZobTexts", "it was cancelled");
     default: return QT_TRANSLATE_NOOP("ZobTexts", "the system failed to read or write");
@@ -84,6 +87,8 @@ cd_error_t zobStatus(sqlite3* connection, int sqliteCode)
     case SQLITE_CORRUPT: return VKD_ZOB_DAMAGED;
     case SQLITE_FULL: return VKD_ZOB_FULL;
     case SQLITE_READONLY:
+        return sqlite3_extended_errcode(connection) == SQLITE_READONLY_DBMOVED ? VKD_ZOB_MOVED
+                                                                               : VKD_ZOB_READ_ONLY;
     case SQLITE_PERM: return VKD_ZOB_READ_ONLY;
     // The file itself is open already, so SQLite cannot create the journal beside it.
     case SQLITE_CANTOPEN: return VKD_ZOB_READ_ONLY;

@@ -1,0 +1,58 @@
+#include "store/OutsideChanges.h"
+
+#include "store/openFile.h"
+#include "store/ZobConnection.h"
+#include "store/zobFailure.h"
+
+#include <QtEndian>
+
+#include <sqlite3.h>
+
+namespace {
+constexpr int CounterOffset = 24; // of the change counter in an SQLite header
+constexpr char VersionSql[] = "PRAGMA data_version";
+} // namespace
+
+OutsideChanges::OutsideChanges(ZobConnection& connection)
+    : m_connection(connection)
+{
+    m_connection.number(VersionSql, &m_firstVersion);
+    m_version = m_firstVersion;
+}
+
+cd_error_t OutsideChanges::number(int* number)
+{
+    if (m_connection.isAway())
+        return VKD_ZOB_MOVED;
+    uchar bytes[4];
+    if (!readFile(m_connection.handle(), bytes, sizeof bytes, CounterOffset))
+        return VKD_ZOB_FAILED;
+    const quint32 counter = qFromBigEndian<quint32>(bytes);
+    if (counter != m_counter) {
+        if (const cd_error_t status = ask(); status != VKD_ZOB_OK)
+            return status;
+        m_counter = counter;
+    }
+    *number = m_version - m_firstVersion;
+    return VKD_ZOB_OK;
+}
+
+/// A journal means that a program is storing or that it crashed while storing. After a crash, any
+/// query would roll the change back and so write to the file.
+cd_error_t OutsideChanges::ask()
+{
+    if (m_connection.hasJournal())
+        return VKD_ZOB_LOCKED;
+    sqlite3* handle = m_connection.handle();
+    m_connection.setWaiting(false);
+    sqlite3_stmt* question = nullptr;
+    int code = sqlite3_prepare_v2(handle, VersionSql, -1, &question, nullptr);
+    if (code == SQLITE_OK)
+        code = sqlite3_step(question);
+    if (code == SQLITE_ROW)
+        m_version = sqlite3_column_int(question, 0);
+    const cd_error_t status = zobStatus(handle, code);
+    sqlite3_finalize(question);
+    m_connection.setWaiting(true);
+    return status;
+}
