@@ -2,6 +2,7 @@
 #include "WidgetWalk.h"
 
 #include <AnimatorView.h>
+#include <askAboutNewer.h>
 #include <PlatformLog.h>
 #include <SlowWork.h>
 #include <VKD_H_PluginParameter.h>
@@ -177,6 +178,13 @@ private:
         addMain("sheet", [](MainWindow& window, const Visit& visit) {
             trigger(window, "SheetPreviewAction");
             visit(window);
+        });
+        addMain("changed by another program", [this](MainWindow& window, const Visit& visit) {
+            const int length = 1;
+            vkd_zob_put(m_project->doc()->index(), 9000, 1, "x", &length, 0);
+            QTRY_VERIFY(find<QWidget>(window, "ChangeBar")->isVisible());
+            visit(window);
+            visitModal(visit, [&window] { workbench::askAboutNewer(&window); });
         });
         addMain("picking", [](MainWindow& window, const Visit& visit) {
             constexpr int PickOutside = 6;

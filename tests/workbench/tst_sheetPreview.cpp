@@ -227,12 +227,12 @@ private Q_SLOTS:
 
     void leafing()
     {
-        SheetPreview preview;
+        QAction exportSheets;
+        SheetPreview preview(&exportSheets);
         preview.resize(500, 600);
         preview.show();
         auto view = find<SheetView>(preview, "SheetView");
         auto number = find<QSpinBox>(preview, "SheetPage");
-        QVERIFY(!find<QWidget>(preview, "ExportSheets")->isEnabled());
         preview.setPlan(readSheetPlan(longScript(100000)));
         const auto press = [&](QWidget* widget, Qt::Key key) {
             QTest::keyClick(widget, key);

@@ -281,7 +281,7 @@ private Q_SLOTS:
         kept.lists = 0;
         kept.leftOutLoadCases = {1, 2, 3};
         kept.leftOutCombinations = {101, 102};
-        QCOMPARE(kept.write(desk.document->index()), VKD_ZOB_OK);
+        QVERIFY(kept.put(desk.document->index()));
         const TextOutputDialog again(desk.document->index(), nullptr);
         QVERIFY(again.state() == kept);
     }

@@ -35,9 +35,9 @@ OutputState OutputState::read(int index)
     return state;
 }
 
-cd_error_t OutputState::write(int index) const
+bool OutputState::put(int index) const
 {
-    return storeEntries(index, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
+    return putEntries(index, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
         entries.setEntry(PageKey, page);
         entries.setEntry(ContentKey, QString::number(content));
         entries.setEntry(LeftOutKey, keptNumbers(leftOutNumbers));

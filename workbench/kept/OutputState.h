@@ -1,7 +1,6 @@
 #pragma once
 
 #include <LoadcaseInformation.h>
-#include <vkd_zob.h>
 
 #include <QSet>
 #include <QString>
@@ -23,8 +22,8 @@ struct OutputState
 
     /// Reads the state from the project at this database index.
     static OutputState read(int index);
-    /// Returns a VkdZobStatus.
-    cd_error_t write(int index) const;
+    /// Puts the state into the project. Returns whether all of it was accepted.
+    bool put(int index) const;
 
     /// Returns the tag of the content that WithSolids always includes.
     static QString solidsTag();

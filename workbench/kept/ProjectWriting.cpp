@@ -21,15 +21,11 @@ cd_error_t ProjectWriting::finish(bool isWhole)
     return status == VKD_ZOB_CANCELLED ? cd_error_t(VKD_ZOB_FAILED) : status; // not by the user
 }
 
-cd_error_t storeEntries(int index, int page,
-                        const std::function<void(VKD_H_ProjectDialogPage&)>& set)
+bool putEntries(int index, int page, const std::function<void(VKD_H_ProjectDialogPage&)>& set)
 {
-    ProjectWriting writing(index);
-    if (writing.status() != VKD_ZOB_OK)
-        return writing.status();
     VKD_H_ProjectDialogPage entries(index, page);
     set(entries);
-    return writing.finish(entries.save());
+    return entries.save();
 }
 
 cd_error_t readingStatus(int index)

@@ -28,10 +28,8 @@ private:
     ZobTransaction m_change;
 };
 
-/// Sets entries of a page of the project and stores them in a change of their own. Returns a
-/// VkdZobStatus.
-cd_error_t storeEntries(int index, int page,
-                        const std::function<void(VKD_H_ProjectDialogPage&)>& set);
+/// Sets entries of a page of the project and puts them there. Returns whether all were accepted.
+bool putEntries(int index, int page, const std::function<void(VKD_H_ProjectDialogPage&)>& set);
 
 /// Returns VKD_ZOB_OK if the project can be read now, or why not.
 cd_error_t readingStatus(int index);

@@ -64,9 +64,9 @@ TextOutputState TextOutputState::read(int index, int defaultLists)
     return state;
 }
 
-cd_error_t TextOutputState::write(int index) const
+bool TextOutputState::put(int index) const
 {
-    return storeEntries(index, TextOutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
+    return putEntries(index, TextOutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
         entries.setEntry(ExtentKey, extent);
         entries.setEntry(LoadCasesKey, loadCases);
         entries.setEntry(CombinationsKey, combinations);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vkd_zob.h>
-
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -25,8 +23,8 @@ struct TextOutputState
     /// Reads the state from the project at this database index. If no lists were saved, they are
     /// `defaultLists`.
     static TextOutputState read(int index, int defaultLists);
-    /// Returns a VkdZobStatus.
-    cd_error_t write(int index) const;
+    /// Puts the state into the project. Returns whether all of it was accepted.
+    bool put(int index) const;
 
     bool operator==(const TextOutputState& other) const;
 };

@@ -1,5 +1,6 @@
 #include "SheetPreview.h"
 
+#include "actionButton.h"
 #include "ModelImages.h"
 #include "PageNumber.h"
 #include "SheetPainter.h"
@@ -11,13 +12,12 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QToolButton>
 
 namespace workbench {
 
-SheetPreview::SheetPreview(QWidget* parent)
+SheetPreview::SheetPreview(QAction* exportSheets, QWidget* parent)
     : QWidget(parent)
     , m_previous(new QToolButton(this))
     , m_pageLabel(new QLabel(this))
@@ -25,7 +25,7 @@ SheetPreview::SheetPreview(QWidget* parent)
     , m_count(new QLabel(this))
     , m_next(new QToolButton(this))
     , m_zoom(new VKD_QT4_ComboBox(this, "SheetZoom"))
-    , m_export(new QPushButton(this))
+    , m_export(actionButton(exportSheets, this))
     , m_view(new SheetView(this))
 {
     m_previous->setObjectName(QStringLiteral("PreviousSheet"));
@@ -47,7 +47,6 @@ SheetPreview::SheetPreview(QWidget* parent)
             [this](int number) { m_view->setPage(number - 1); });
     connect(m_zoom, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SheetPreview::zoom);
     connect(m_view, &SheetView::pageChanged, this, &SheetPreview::showPage);
-    connect(m_export, &QPushButton::clicked, this, &SheetPreview::exportWanted);
     setFocusProxy(m_view);
     setProject(0, QString());
     setTexts();
@@ -119,8 +118,6 @@ void SheetPreview::setTexts()
     m_zoom->setItemText(SheetView::WholePage, tr("Whole page"));
     m_zoom->setItemText(SheetView::PageWidth, tr("Page width"));
     m_zoom->setItemText(SheetView::ActualSize, tr("Actual size"));
-    m_export->setText(tr("E&xport PDF..."));
-    m_export->setToolTip(tr("Saves all pages in a file"));
     showPage();
 }
 
@@ -136,7 +133,6 @@ void SheetPreview::showPage()
     m_previous->setEnabled(page > 0);
     m_next->setEnabled(page + 1 < pages);
     m_zoom->setEnabled(pages > 0);
-    m_export->setEnabled(pages > 0);
 }
 
 void SheetPreview::zoom(int entry)

@@ -6,8 +6,8 @@
 
 #include <memory>
 
+class QAction;
 class QLabel;
-class QPushButton;
 class QSpinBox;
 class QToolButton;
 class VKD_QT4_ComboBox;
@@ -24,7 +24,8 @@ class SheetPreview : public QWidget
     Q_OBJECT
 
 public:
-    explicit SheetPreview(QWidget* parent = nullptr);
+    /// The action of the window that exports the sheets has a button.
+    explicit SheetPreview(QAction* exportSheets, QWidget* parent = nullptr);
     ~SheetPreview() override;
 
     /// Shows sheets of the project at this database index, or none below 1, beginning with the
@@ -34,9 +35,6 @@ public:
     const SheetPlan& plan() const;
     /// Returns the painter of the project's sheets; the preview owns it.
     SheetPainter& painter() { return *m_painter; }
-
-Q_SIGNALS:
-    void exportWanted();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -56,7 +54,7 @@ private:
     QLabel* m_count;
     QToolButton* m_next;
     VKD_QT4_ComboBox* m_zoom;
-    QPushButton* m_export;
+    QToolButton* m_export;
     SheetView* m_view;
 };
 

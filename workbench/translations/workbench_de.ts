@@ -11,6 +11,31 @@ Bitte einen anderen Namen wählen.</translation>
     </message>
 </context>
 <context>
+    <name>askAboutNewer</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Workbench</translation>
+    </message>
+    <message>
+        <source>Another program has changed this in the project since the dialog was opened.
+Overwrite puts your entries in its place. Reload shows what is in the project; your entries are lost.</source>
+        <translation>Ein anderes Programm hat diese Daten im Projekt geändert, seit der Dialog geöffnet wurde.
+„Überschreiben“ ersetzt sie durch Ihre Eingaben. „Neu laden“ zeigt den Stand im Projekt; Ihre Eingaben gehen verloren.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>Ü&amp;berschreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+</context>
+<context>
     <name>exportSheets</name>
     <message>
         <source>Writing the sheets ...</source>
@@ -66,6 +91,33 @@ Bitte einen anderen Namen wählen.</translation>
     <message>
         <source>The system cannot read or write it.</source>
         <translation>Das System kann sie nicht lesen oder schreiben.</translation>
+    </message>
+    <message>
+        <source>Another file has taken its place while it was open.</source>
+        <translation>Sie wurde durch eine andere Datei ersetzt, während sie geöffnet war.</translation>
+    </message>
+    <message>
+        <source>It was deleted or moved while it was open.</source>
+        <translation>Sie wurde gelöscht oder verschoben, während sie geöffnet war.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ChangeBar</name>
+    <message>
+        <source>Another program has changed the project.</source>
+        <translation>Ein anderes Programm hat das Projekt geändert.</translation>
+    </message>
+    <message>
+        <source>The project file was deleted or moved. What is open can still be saved under another name.</source>
+        <translation>Die Projektdatei wurde gelöscht oder verschoben. Das geöffnete Projekt kann noch unter einem anderen Namen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Another file has taken the place of the project file. What is open can still be saved under another name.</source>
+        <translation>Die Projektdatei wurde durch eine andere Datei ersetzt. Das geöffnete Projekt kann noch unter einem anderen Namen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -525,6 +577,24 @@ Soll sie gespeichert werden?</translation>
         <source>%1 rows without groups are kept with the page.</source>
         <translation>%1 Zeilen ohne Gruppen bleiben mit der Seite erhalten.</translation>
     </message>
+    <message>
+        <source>%1 is reloaded.</source>
+        <translation>%1 ist neu geladen.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project As...</source>
+        <translation>Projekt &amp;speichern unter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>The project file was deleted or moved.
+Is what is open to be saved under another name?</source>
+        <translation>Die Projektdatei wurde gelöscht oder verschoben.
+Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</translation>
+    </message>
 </context>
 <context>
     <name>workbench::OutputDialog</name>
@@ -642,22 +712,6 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>No plot is chosen. Choose plots in Graphical Output.</source>
         <translation>Es ist keine Grafik gewählt. Grafiken werden in der grafischen Ausgabe gewählt.</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>Puts the script on the clipboard</source>
-        <translation>Legt das Skript in die Zwischenablage</translation>
-    </message>
-    <message>
-        <source>S&amp;ave...</source>
-        <translation>Sp&amp;eichern ...</translation>
-    </message>
-    <message>
-        <source>Saves the script in a file</source>
-        <translation>Speichert das Skript in einer Datei</translation>
     </message>
 </context>
 <context>
@@ -868,14 +922,6 @@ Soll sie gespeichert werden?</translation>
         <translation>Originalgröße</translation>
     </message>
     <message>
-        <source>E&amp;xport PDF...</source>
-        <translation>PDF e&amp;xportieren ...</translation>
-    </message>
-    <message>
-        <source>Saves all pages in a file</source>
-        <translation>Speichert alle Seiten in einer Datei</translation>
-    </message>
-    <message>
         <source>of %1</source>
         <translation>von %1</translation>
     </message>
@@ -1040,6 +1086,30 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>&amp;Text Output</source>
         <translation>&amp;Textausgabe</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>Puts the script on the clipboard</source>
+        <translation>Legt das Skript in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Saves the script in a file</source>
+        <translation>Speichert das Skript in einer Datei</translation>
+    </message>
+    <message>
+        <source>Saves all pages in a file</source>
+        <translation>Speichert alle Seiten in einer Datei</translation>
+    </message>
+    <message>
+        <source>Export PDF...</source>
+        <translation>PDF exportieren ...</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 </TS>

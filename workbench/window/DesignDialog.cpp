@@ -7,7 +7,6 @@
 #include "withinScreen.h"
 
 #include <projectKeys.h>
-#include <ProjectWriting.h>
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_queries.h>
 #include <VKD_H_ZOBDoc.h>
@@ -84,7 +83,9 @@ cd_error_t DesignDialog::load()
     const ProjectHold hold(m_document->index()); // so that all of it can be read, or nothing
     if (hold.status() > VKD_ZOB_NO_KEY)          // one without any record cannot be held
         return hold.status();
-    const cd_error_t status = copyRecords(m_document->index(), m_desk->index());
+    cd_error_t status = m_seen.look(m_document->index());
+    if (status == VKD_ZOB_OK)
+        status = copyRecords(m_document->index(), m_desk->index());
     if (status != VKD_ZOB_OK)
         return status;
     m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
@@ -92,7 +93,6 @@ cd_error_t DesignDialog::load()
     // The last to be read: where its record is the first of the project, that ends the hold.
     model.system.kindOfSystem = vkd::dbo::getKindOfSystem(m_document->index(), nullptr);
     vkd::dbo::storeModel(m_desk->index(), model);
-    showPage();
     return VKD_ZOB_OK;
 }
 
@@ -112,14 +112,20 @@ void DesignDialog::showPage()
     m_page->getEntrys(m_entries);
 }
 
-cd_error_t DesignDialog::store()
+cd_error_t DesignDialog::store(SeenPart::Newer newer)
 {
-    ProjectWriting writing(m_document->index());
-    if (writing.status() != VKD_ZOB_OK)
-        return writing.status();
-    const bool isWhole =
-        m_entries.save() && copyRecords(m_desk->index(), m_document->index()) == VKD_ZOB_OK;
-    return writing.finish(isWhole);
+    const auto put = [this] {
+        return m_entries.save() && copyRecords(m_desk->index(), m_document->index()) == VKD_ZOB_OK;
+    };
+    return m_seen.store(m_document->index(), put, newer);
+}
+
+/// The entries belong to a project, so those of the page are put into the other one's.
+void DesignDialog::setDocument(VKD_H_ZOBDoc* document)
+{
+    m_document = document;
+    m_entries = VKD_H_ProjectDialogPage(document->index(), DesignDialogPage);
+    m_page->setEntrys(m_entries);
 }
 
 int DesignDialog::rowsWithoutGroups() const

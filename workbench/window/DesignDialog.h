@@ -1,8 +1,8 @@
 #pragma once
 
+#include <SeenPart.h>
 #include <VKD_H_Dialog.h>
 #include <VKD_H_ProjectDialogPage.h>
-#include <vkd_zob.h>
 
 #include <memory>
 
@@ -27,13 +27,16 @@ public:
     DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent);
     ~DesignDialog() override;
 
-    /// Reads what is edited, before the dialog is shown. The result is a VkdZobStatus.
+    /// Reads what is edited. The result is a VkdZobStatus; showPage() comes next.
     cd_error_t load();
     /// Writes what was accepted into the project, all of it or nothing. The result is a
-    /// VkdZobStatus; it can be tried again.
-    cd_error_t store();
-    /// Puts what was accepted on the page again, for the dialog to be shown once more.
+    /// VkdZobStatus, or PartChanged if a newer state in the project is to be kept; it can be tried
+    /// again.
+    cd_error_t store(SeenPart::Newer newer);
+    /// Puts what was read or accepted on a new page, before the dialog is shown.
     void showPage();
+    /// From now on store() writes what was accepted into this copy of the project.
+    void setDocument(VKD_H_ZOBDoc* document);
 
     /// How many of the rows that were accepted name no group: they have no record and are kept with
     /// the texts of the page.
@@ -46,6 +49,7 @@ private:
     VKD_H_ZOBDoc* m_document;
     std::unique_ptr<VKD_H_ZOBDoc> m_desk;
     VKD_H_ProjectDialogPage m_entries;
+    SeenPart m_seen{ProjectPart::Design};
     VKD_P_DesignParameter* m_page = nullptr;
     VKD_QT_Ok* m_buttons = nullptr;
 };

@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "askAboutNewer.h"
+#include "ChangeBar.h"
 #include "DesignDialog.h"
 #include "DockShares.h"
 #include "GroupList.h"
@@ -8,6 +10,7 @@
 #include "PickBanner.h"
 #include "PlatformLog.h"
 #include "projectTrouble.h"
+#include "ProjectWatch.h"
 #include "ProjectWriting.h"
 #include "ScriptPane.h"
 #include "TextOutputDialog.h"
@@ -31,6 +34,7 @@
 #include <QMenu>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace workbench {
@@ -46,11 +50,13 @@ MainWindow::MainWindow(WindowServices services, QWidget* parent)
     , m_services(std::move(services))
     , m_actions(new WindowActions(this))
     , m_groups(new GroupList(this))
+    , m_news(new ChangeBar(m_actions->reload, m_actions->saveAs, this))
     , m_banner(new PickBanner(this))
     , m_view(new AnimatorView(0, this))
-    , m_script(new ScriptPane(this))
-    , m_sheet(new SheetPreview(this))
+    , m_script(new ScriptPane(m_actions->copyScript, m_actions->saveScript, this))
+    , m_sheet(new SheetPreview(m_actions->exportSheets, this))
     , m_contents(new QLabel(this))
+    , m_watch(new ProjectWatch(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setAcceptDrops(true);
@@ -65,7 +71,7 @@ MainWindow::MainWindow(WindowServices services, QWidget* parent)
     const WindowSettings settings;
     m_script->setEnglish(settings.englishKeywords());
     m_actions->setRecentFiles(settings.recentFiles());
-    m_actions->enable(false, false);
+    enableActions();
     showNoScript();
     restoreGeometry(settings.value(GeometryKey).toByteArray());
     restoreState(settings.value(StateKey).toByteArray(), StateVersion);
@@ -82,8 +88,10 @@ void MainWindow::addCentre()
     auto centre = new QWidget(this);
     auto layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_news);
     layout->addWidget(m_banner);
     layout->addWidget(m_view, 1);
+    m_news->hide();
     m_banner->hide();
     setCentralWidget(centre);
 }
@@ -130,6 +138,7 @@ void MainWindow::connectActions()
         });
     on(m_actions->newFromFile, &MainWindow::chooseModel);
     on(m_actions->open, &MainWindow::chooseProject);
+    on(m_actions->reload, &MainWindow::reload);
     on(m_actions->saveAs, &MainWindow::saveAs);
     on(m_actions->copyScript, &MainWindow::copyScript);
     on(m_actions->saveScript, &MainWindow::saveScript);
@@ -162,9 +171,7 @@ void MainWindow::connectPanes()
         runDesign();
     });
     connect(m_script, &ScriptPane::languageChosen, this, &MainWindow::setKeywords);
-    connect(m_script, &ScriptPane::copyWanted, this, &MainWindow::copyScript);
-    connect(m_script, &ScriptPane::saveWanted, this, &MainWindow::saveScript);
-    connect(m_sheet, &SheetPreview::exportWanted, this, &MainWindow::exportSheet);
+    connect(m_watch, &ProjectWatch::noticed, this, &MainWindow::showNews);
     // Behind another dock it still counts as visible to Qt, and is none the less not to be seen.
     connect(m_sheetDock, &QDockWidget::visibilityChanged, this, [this](bool seen) {
         m_isSheetSeen = seen;
@@ -191,6 +198,10 @@ void MainWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         setTexts();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        m_watch->look();
+        QTimer::singleShot(0, this, &MainWindow::showNews); // what a dialog was in the way of
+    }
 }
 
 /// Docks that lie on each other get a bar of tabs whenever there is none as yet.
@@ -271,6 +282,23 @@ bool MainWindow::withProject(const std::function<cd_error_t()>& work, const QStr
     return succeeds(waitForStore(this, path, work), path, sentence);
 }
 
+MainWindow::Stored MainWindow::storePart(const std::function<cd_error_t(SeenPart::Newer)>& store,
+                                         const QString& sentence)
+{
+    const QString path = m_document->path();
+    cd_error_t status = waitForStore(this, path, [&store] { return store(SeenPart::Newer::Keep); });
+    if (status == PartChanged) {
+        switch (askAboutNewer(this)) {
+        case NewerAnswer::Reload: return Stored::Reload;
+        case NewerAnswer::GoBack: return Stored::No;
+        case NewerAnswer::Overwrite:
+            status =
+                waitForStore(this, path, [&store] { return store(SeenPart::Newer::Overwrite); });
+        }
+    }
+    return succeeds(status, path, sentence) ? Stored::Yes : Stored::No;
+}
+
 bool MainWindow::mayLeave(const QString& question, const std::function<bool()>& store)
 {
     const int answer =
@@ -285,6 +313,12 @@ bool MainWindow::canRead()
 {
     return withProject([this] { return readingStatus(index()); },
                        tr("The file %1 cannot be read."));
+}
+
+void MainWindow::enableActions()
+{
+    m_actions->enable(bool(m_document), m_view->isPicking(),
+                      m_watch->file() == ProjectWatch::File::Missing);
 }
 
 void MainWindow::saveWindowState() const

@@ -2,8 +2,9 @@
 
 #include "PlotNames.h"
 
+#include <ProjectWatch.h>
+#include <SeenPart.h>
 #include <SheetPlan.h>
-#include <vkd_zob.h>
 
 #include <QMainWindow>
 
@@ -17,6 +18,7 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
+class ChangeBar;
 class DesignDialog;
 class GroupList;
 class OutputDialog;
@@ -77,10 +79,16 @@ private:
     bool succeeds(cd_error_t status, const QString& path, const QString& sentence);
     /// Does what needs the project file, waiting for other programs, and complains if it fails.
     bool withProject(const std::function<cd_error_t()>& work, const QString& sentence);
+    /// What became of storing a part of the project; Reload: the user wants its newer state.
+    enum class Stored { Yes, No, Reload };
+    /// Stores a part by `store`. If somebody else has changed it meanwhile, asks the user.
+    Stored storePart(const std::function<cd_error_t(SeenPart::Newer)>& store,
+                     const QString& sentence);
     /// Asks whether to store what is changed, and does it. False if the user wants to stay, or if
     /// it could not be stored.
     bool mayLeave(const QString& question, const std::function<bool()>& store);
     bool canRead();
+    void enableActions();
     void saveWindowState() const;
     int index() const;
     QString folder() const;
@@ -89,18 +97,26 @@ private:
     bool makeProject(const QString& path, const QString& model);
     void chooseModel();
     void chooseProject();
-    void saveAs();
-    void takeOver(const QString& path);
+    bool saveAs();
+    bool takeOver(const QString& path);
     void setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
+    bool openDocument(const QString& path, bool keepsCamera);
+    void reload();
+    /// Shows what others have done to the project, as far as nothing of the user's is in the way.
+    void showNews();
+    void followOthers();
     bool showModel(int index);
     void showFirstProject();
     void showProject();
     void showRecords();
     bool mayLeaveProject();
+    bool mayLeaveMissingFile();
 
     void editDesign();
     void runDesign();
     bool storeDesign();
+    bool storeDesignElsewhere();
+    void sayDesignIsStored();
     void startPicking();
     void takePicked();
     void stopPicking();
@@ -115,6 +131,7 @@ private:
     void remakeOutput(const OutputPresent& before);
     void showOutput();
     bool storeOutput();
+    void reloadOutput();
     void showNoScript();
     void refreshScript();
     void setKeywords(bool english);
@@ -122,6 +139,7 @@ private:
     void saveScript();
 
     void showTextOutput();
+    void reloadTextOutput();
     void reopenTextOutput(const TextOutputState& state);
     void makeTextOutput();
     void remakeTextOutput();
@@ -143,6 +161,7 @@ private:
     WindowActions* m_actions;
     // The panes in the order of Tab, which is column by column.
     GroupList* m_groups;
+    ChangeBar* m_news;
     PickBanner* m_banner;
     AnimatorView* m_view;
     RecordsPane* m_records = nullptr; // until there is a project
@@ -153,12 +172,17 @@ private:
     QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;
     QLabel* m_contents;
+    ProjectWatch* m_watch;
+    int m_followed = 0; // changes by others that are shown
+    ProjectWatch::File m_shownFile = ProjectWatch::File::Present;
     bool m_isSheetSeen = false;
     QString m_pathToOpen;
     bool m_isProjectToShow = false;         // behind the next painting
     std::unique_ptr<DesignDialog> m_design; // while it is open or away for picking
     std::unique_ptr<OutputDialog> m_output;
     std::unique_ptr<TextOutputDialog> m_textOutput; // while it is open
+    SeenPart m_seenOutput{ProjectPart::Output};     // when the dialog's choice was read
+    SeenPart m_seenTextOutput{ProjectPart::TextOutput};
 };
 
 } // namespace workbench

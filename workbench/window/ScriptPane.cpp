@@ -3,6 +3,7 @@
 #include "changedLines.h"
 #include "ScriptHighlighter.h"
 
+#include <actionButton.h>
 #include <VKD_QT4_ComboBox.h>
 
 #include <QEvent>
@@ -11,10 +12,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTextBlock>
+#include <QToolButton>
 
 namespace workbench {
 
@@ -39,12 +40,12 @@ QFont fixedFont()
 }
 } // namespace
 
-ScriptPane::ScriptPane(QWidget* parent)
+ScriptPane::ScriptPane(QAction* copy, QAction* save, QWidget* parent)
     : QWidget(parent)
     , m_languageLabel(new QLabel(this))
     , m_language(new VKD_QT4_ComboBox(this, "KeywordLanguage"))
-    , m_copy(new QPushButton(this))
-    , m_save(new QPushButton(this))
+    , m_copy(actionButton(copy, this))
+    , m_save(actionButton(save, this))
     , m_text(new QPlainTextEdit(this))
     , m_highlighter(new ScriptHighlighter(m_text->document(), palette()))
 {
@@ -67,8 +68,6 @@ ScriptPane::ScriptPane(QWidget* parent)
     layout->addWidget(m_text);
     connect(m_language, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             [this](int language) { Q_EMIT languageChosen(language == English); });
-    connect(m_copy, &QPushButton::clicked, this, &ScriptPane::copyWanted);
-    connect(m_save, &QPushButton::clicked, this, &ScriptPane::saveWanted);
     setTexts();
 }
 
@@ -124,10 +123,6 @@ void ScriptPane::setTexts()
     m_language->setAccessibleName(tr("Language of the keywords"));
     m_text->setAccessibleName(tr("Script"));
     m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical Output."));
-    m_copy->setText(tr("&Copy"));
-    m_copy->setToolTip(tr("Puts the script on the clipboard"));
-    m_save->setText(tr("S&ave..."));
-    m_save->setToolTip(tr("Saves the script in a file"));
 }
 
 void ScriptPane::show(const QString& script)
@@ -139,8 +134,6 @@ void ScriptPane::show(const QString& script)
     m_text->setExtraSelections({}); // each of thousands would be moved with each line put in
     m_text->setPlainText(script);
     m_text->verticalScrollBar()->setValue(place);
-    m_copy->setEnabled(!script.isEmpty());
-    m_save->setEnabled(!script.isEmpty());
 }
 
 void ScriptPane::mark(const QVector<int>& lines)

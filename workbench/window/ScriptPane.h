@@ -3,10 +3,11 @@
 #include <QStringList>
 #include <QWidget>
 
+class QAction;
 class QComboBox;
 class QLabel;
 class QPlainTextEdit;
-class QPushButton;
+class QToolButton;
 
 namespace workbench {
 
@@ -18,7 +19,8 @@ class ScriptPane : public QWidget
     Q_OBJECT
 
 public:
-    explicit ScriptPane(QWidget* parent = nullptr);
+    /// The actions of the window that copy the script and save it have a button each.
+    ScriptPane(QAction* copy, QAction* save, QWidget* parent);
 
     /// The language of the keywords. To set it gives no signal.
     bool english() const;
@@ -34,8 +36,6 @@ public:
 
 Q_SIGNALS:
     void languageChosen(bool english);
-    void copyWanted();
-    void saveWanted();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -50,8 +50,8 @@ private:
     QLabel* m_languageLabel;
     // In the order of Tab.
     QComboBox* m_language;
-    QPushButton* m_copy;
-    QPushButton* m_save;
+    QToolButton* m_copy;
+    QToolButton* m_save;
     QPlainTextEdit* m_text;
     ScriptHighlighter* m_highlighter;
 };

@@ -76,6 +76,7 @@ WindowActions::WindowActions(QMainWindow* window)
     : QObject(window)
     , newFromFile(add("NewFromFile"))
     , open(add("Open"))
+    , reload(add("Reload"))
     , saveAs(add("SaveAs"))
     , copyScript(add("CopyScriptAction"))
     , saveScript(add("SaveScriptAction"))
@@ -157,7 +158,7 @@ void WindowActions::addMenus(QMainWindow* window)
     m_newMenu->addAction(newFromFile);
     m_fileMenu->addAction(open);
     recentMenu = m_fileMenu->addMenu(QString());
-    m_fileMenu->addAction(saveAs);
+    m_fileMenu->addActions({reload, saveAs});
     m_fileMenu->addSeparator();
     m_fileMenu->addActions({copyScript, saveScript, exportSheets});
     m_fileMenu->addSeparator();
@@ -194,6 +195,7 @@ void WindowActions::addToolBar(QMainWindow* window)
 void WindowActions::setShortcuts()
 {
     open->setShortcut(QKeySequence::Open);
+    reload->setShortcut(QKeySequence::Refresh);
     saveAs->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_S);
     copyScript->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_C);
     saveScript->setShortcut(QKeySequence::Save);
@@ -229,10 +231,16 @@ void WindowActions::setTexts()
         views[i]->setText(tr(Views[i].text));
     newFromFile->setText(tr("&Model File..."));
     open->setText(tr("&Open..."));
+    reload->setText(tr("Re&load"));
     saveAs->setText(tr("Save &As..."));
     copyScript->setText(tr("&Copy Script"));
+    copyScript->setIconText(tr("Copy")); // beside the script
+    copyScript->setToolTip(tr("Puts the script on the clipboard"));
     saveScript->setText(tr("&Save Script..."));
+    saveScript->setToolTip(tr("Saves the script in a file"));
     exportSheets->setText(tr("&Export Sheets..."));
+    exportSheets->setIconText(tr("Export PDF..."));
+    exportSheets->setToolTip(tr("Saves all pages in a file"));
     quit->setText(tr("&Quit"));
     design->setText(tr("&Design Parameters..."));
     output->setText(tr("&Graphical Output..."));
@@ -251,7 +259,7 @@ void WindowActions::setTexts()
     (isEnglish ? english : german)->setChecked(true);
 }
 
-void WindowActions::enable(bool hasProject, bool isPicking)
+void WindowActions::enable(bool hasProject, bool isPicking, bool isFileGone)
 {
     for (QAction* action : qAsConst(newFromSample))
         action->setEnabled(!isPicking);
@@ -260,6 +268,7 @@ void WindowActions::enable(bool hasProject, bool isPicking)
     recentMenu->setEnabled(!isPicking && !recentMenu->isEmpty());
     for (QAction* action : {saveAs, design, output, textOutput, sheet})
         action->setEnabled(hasProject && !isPicking);
+    reload->setEnabled(hasProject && !isPicking && !isFileGone);
     for (QAction* action : qAsConst(views))
         action->setEnabled(hasProject);
 }

@@ -23,8 +23,8 @@ public:
     /// Texts and short cuts in the language of the desktop.
     void setTexts();
     /// What can be done: nearly all of it needs a project, and while groups are picked the project
-    /// must stay as it is.
-    void enable(bool hasProject, bool isPicking);
+    /// must stay as it is. A project whose file is gone cannot be reloaded.
+    void enable(bool hasProject, bool isPicking, bool isFileGone = false);
     void setHasScript(bool hasScript);
     /// The files to open again. The data of each of the menu's actions is its path.
     void setRecentFiles(const QStringList& paths);
@@ -36,6 +36,7 @@ public:
     QVector<QAction*> newFromSample; ///< the data is the name of the model
     QAction* newFromFile;
     QAction* open;
+    QAction* reload;
     QAction* saveAs;
     QAction* copyScript;
     QAction* saveScript;

@@ -1,9 +1,9 @@
 #include "copyProject.h"
 
-#include "ProjectHold.h"
 #include "SlowWork.h"
 #include "waitForStore.h"
 
+#include <ProjectWriting.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <QDir>
@@ -14,7 +14,7 @@ namespace workbench {
 
 namespace {
 const QString JournalSuffix = QStringLiteral("-journal");
-constexpr qint64 PieceBytes = 1 << 20;
+constexpr int Kilobyte = 1024;
 constexpr int AnyKey1 = 0; // of the lock, which is that of the file
 constexpr int AnyKey2 = 0;
 
@@ -37,20 +37,18 @@ cd_error_t statusOf(const QFileDevice& file)
     }
 }
 
-cd_error_t copyBytes(QWidget* parent, QFile& from, QSaveFile& to)
+cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QSaveFile& to)
 {
-    const int pieces = int(from.size() / PieceBytes) + 1;
-    SlowWork work(parent, SlowWork::tr("The project is being saved."), pieces);
-    for (int piece = 0; !from.atEnd(); ++piece) {
-        const QByteArray bytes = from.read(PieceBytes);
-        if (bytes.isEmpty())
-            return VKD_ZOB_FAILED;
-        if (to.write(bytes) != bytes.size()) // a part of it is no error to Qt
-            return VKD_ZOB_FULL;
-        if (!work.goOn(piece))
-            return VKD_ZOB_CANCELLED;
-    }
-    return VKD_ZOB_OK;
+    const int size = int(QFileInfo(document.path()).size() / Kilobyte); // 0: the file is gone
+    SlowWork work(parent, SlowWork::tr("The project is being saved."), size);
+    qint64 done = 0;
+    bool isWritten = true;
+    const VkdStatus status = vkd_zob_copy(document.index(), [&](const void* bytes, int length) {
+        isWritten = to.write(static_cast<const char*>(bytes), length) == length;
+        done += length;
+        return isWritten && work.goOn(int(done / Kilobyte));
+    });
+    return isWritten ? status.code : VKD_ZOB_FULL; // a part of it is no error to Qt
 }
 } // namespace
 
@@ -94,21 +92,14 @@ cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QStr
     const ReplacedFile replaced(parent, path);
     if (replaced.status() != VKD_ZOB_OK)
         return replaced.status();
-    std::unique_ptr<ProjectHold> hold;
-    cd_error_t status = waitForStore(parent, document.path(), [&hold, &document] {
-        hold.reset();
-        hold = std::make_unique<ProjectHold>(document.index());
-        return hold->status();
-    });
+    cd_error_t status = waitForStore(parent, document.path(),
+                                     [&document] { return readingStatus(document.index()); });
     if (status != VKD_ZOB_OK)
         return status;
-    QFile from(document.path());
     QSaveFile to(path);
-    if (!from.open(QIODevice::ReadOnly))
-        return VKD_ZOB_NO_FILE;
     if (!to.open(QIODevice::WriteOnly))
         return statusOf(to);
-    status = copyBytes(parent, from, to);
+    status = copyBytes(parent, document, to);
     if (status == VKD_ZOB_OK && !to.commit())
         status = statusOf(to);
     return status;

@@ -42,6 +42,12 @@ QString projectReason(const QString& path, cd_error_t status)
         return text(QT_TRANSLATE_NOOP("projectTrouble", "There is no room left on the disk."));
     case VKD_ZOB_LOCKED:
         return text(QT_TRANSLATE_NOOP("projectTrouble", "Another program is writing to it."));
+    case VKD_ZOB_MOVED:
+        return QFileInfo::exists(path)
+                   ? text(QT_TRANSLATE_NOOP("projectTrouble",
+                                            "Another file has taken its place while it was open."))
+                   : text(QT_TRANSLATE_NOOP("projectTrouble",
+                                            "It was deleted or moved while it was open."));
     default:
         return text(QT_TRANSLATE_NOOP("projectTrouble", "The system cannot read or write it."));
     }

@@ -7,6 +7,8 @@
 #include "MainWindow.h"
 #include "OutputDialog.h"
 #include "PickBanner.h"
+#include "projectTrouble.h"
+#include "ProjectWatch.h"
 #include "ScriptPane.h"
 #include "SlowWork.h"
 #include "TextOutputDialog.h"
@@ -19,6 +21,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 #include <VKD_QT_InitTranslator.h>
+#include <VKD_QT_MessageBox.h>
 #include <VKD_T_Help.h>
 
 #include <QApplication>
@@ -40,6 +43,7 @@ void MainWindow::editDesign()
     if (!withProject([&dialog] { return dialog->load(); }, tr("The file %1 cannot be read.")))
         return;
     m_design = std::move(dialog);
+    m_design->showPage();
     runDesign();
 }
 
@@ -59,11 +63,24 @@ void MainWindow::runDesign()
         say(tr("The design parameters stay as they were."));
 }
 
+/// False: the dialog is to be shown again.
 bool MainWindow::storeDesign()
 {
-    if (!withProject([this] { return m_design->store(); },
-                     tr("The design parameters cannot be stored in the file %1.")))
-        return false;
+    m_watch->look();
+    if (m_watch->file() != ProjectWatch::File::Present)
+        return storeDesignElsewhere();
+    const Stored stored =
+        storePart([this](SeenPart::Newer newer) { return m_design->store(newer); },
+                  tr("The design parameters cannot be stored in the file %1."));
+    if (stored == Stored::Reload)
+        withProject([this] { return m_design->load(); }, tr("The file %1 cannot be read."));
+    if (stored == Stored::Yes)
+        sayDesignIsStored();
+    return stored == Stored::Yes;
+}
+
+void MainWindow::sayDesignIsStored()
+{
     const int kept = m_design->rowsWithoutGroups();
     const QString stored = tr("The design parameters are in the project file.");
     if (kept == 0)
@@ -73,7 +90,22 @@ bool MainWindow::storeDesign()
     else
         say(stored + QLatin1Char(' ') +
             tr("%1 rows without groups are kept with the page.").arg(kept));
-    return true;
+}
+
+/// The window with its Save As cannot be reached from the dialog.
+bool MainWindow::storeDesignElsewhere()
+{
+    const QString path = m_document->path();
+    const QString sentence = tr("The design parameters cannot be stored in the file %1.")
+                                 .arg(QDir::toNativeSeparators(path)) +
+                             QLatin1Char('\n') + projectReason(path, VKD_ZOB_MOVED);
+    constexpr int GoBack = 1;
+    if (VKD_QT_MessageBox::warning(this, tr("Workbench"), sentence, tr("&Save Project As..."),
+                                   tr("&Go Back"), QString(), 0, GoBack) == GoBack ||
+        !saveAs())
+        return false;
+    m_design->setDocument(m_document.get());
+    return storeDesign();
 }
 
 /// With what was checked in the dialog of the groups, so that picking adds to it and takes away.
@@ -86,7 +118,7 @@ void MainWindow::startPicking()
     m_banner->setGroupsWithoutAreas(m_groups->groupsWithoutAreas());
     showPicked();
     m_banner->show();
-    m_actions->enable(true, true);
+    enableActions();
     activateWindow(); // dialogs that go together leave some desktops without an active window
     say(tr("Pick groups in the view, or by Enter in the list of groups."));
 }
@@ -111,7 +143,7 @@ void MainWindow::stopPicking()
     m_view->setPickedGroups({});
     m_groups->setMarkedGroup(AnimatorView::NoGroup);
     m_banner->hide();
-    m_actions->enable(true, false);
+    enableActions();
     statusBar()->clearMessage();
 }
 
@@ -137,8 +169,10 @@ void MainWindow::showPicked()
 
 OutputDialog* MainWindow::output()
 {
-    if (!m_output && canRead() && !m_output) // another event may have made it meanwhile
+    if (!m_output && canRead() && !m_output) { // another event may have made it meanwhile
+        m_seenOutput.look(index());
         makeOutput(OutputState::read(index()));
+    }
     return m_output.get();
 }
 
@@ -194,13 +228,31 @@ bool MainWindow::storeOutput()
     if (!output())
         return false;
     const OutputState state = m_output->state();
-    if (!withProject([this, &state] { return state.write(index()); },
-                     tr("The choice of plots cannot be stored in the file %1.")))
+    const auto store = [this, &state](SeenPart::Newer newer) {
+        return m_seenOutput.store(
+            index(), [this, &state] { return state.put(index()); }, newer);
+    };
+    const Stored stored =
+        storePart(store, tr("The choice of plots cannot be stored in the file %1."));
+    if (stored == Stored::Reload)
+        reloadOutput();
+    if (stored != Stored::Yes)
         return false;
     m_output->setUnchanged();
     showModified();
     say(tr("The choice of plots is in the project file."));
     return true;
+}
+
+/// The dialog may be busy with closing.
+void MainWindow::reloadOutput()
+{
+    OutputPresent present = m_output->present();
+    present.isChanged = false;
+    m_output.release()->deleteLater();
+    if (output())
+        m_output->setPresent(present);
+    refreshScript();
 }
 
 void MainWindow::showNoScript()

@@ -1,5 +1,6 @@
 // The main window and its project: open, save as, closing.
 
+#include "ChangeBar.h"
 #include "chooseFileToSave.h"
 #include "copyProject.h"
 #include "GroupList.h"
@@ -7,6 +8,7 @@
 #include "OutputDialog.h"
 #include "PlatformLog.h"
 #include "projectFiles.h"
+#include "ProjectWatch.h"
 #include "RecordsPane.h"
 #include "ScriptPane.h"
 #include "SlowWork.h"
@@ -16,9 +18,11 @@
 #include "WindowSettings.h"
 
 #include <AnimatorView.h>
+#include <ProjectWriting.h>
 #include <SheetPreview.h>
 #include <VKD_H_ZOBDoc.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
@@ -43,6 +47,11 @@ void MainWindow::chooseProject()
 
 bool MainWindow::openProject(const QString& path)
 {
+    return openDocument(path, false);
+}
+
+bool MainWindow::openDocument(const QString& path, bool keepsCamera)
+{
     const QString absolute = QFileInfo(path).absoluteFilePath();
     std::unique_ptr<VKD_H_ZOBDoc> document;
     cd_error_t status = waitForStore(this, absolute, [this, &document, &absolute] {
@@ -65,9 +74,68 @@ bool MainWindow::openProject(const QString& path)
         m_isProjectToShow = true;
         update();
     } else {
+        if (!keepsCamera)
+            m_view->slotViewControl(AnimatorStandardView, 0.0);
         showProject();
     }
     return true;
+}
+
+/// What is chosen in an open dialog and not stored yet stays; its OK asks if others have changed
+/// the same.
+void MainWindow::reload()
+{
+    const auto plots = m_output ? std::make_optional(m_output->present()) : std::nullopt;
+    const bool isTextOpen = bool(m_textOutput);
+    const auto text = isTextOpen && m_textOutput->isChanged()
+                          ? std::make_optional(m_textOutput->state())
+                          : std::nullopt;
+    if (!openDocument(m_document->path(), true))
+        return;
+    if (plots && plots->isChanged)
+        remakeOutput(*plots);
+    else if (plots && output())
+        m_output->setPresent(*plots);
+    if (text)
+        reopenTextOutput(*text);
+    else if (isTextOpen)
+        showTextOutput();
+    say(tr("%1 is reloaded.").arg(QFileInfo(m_document->path()).fileName()));
+}
+
+/// A modal dialog may be in the midst of work on what would change here; the window looks again
+/// once it is active.
+void MainWindow::showNews()
+{
+    if (!m_document || QApplication::activeModalWidget())
+        return;
+    enableActions();
+    const bool isChanged = m_watch->changes() != m_followed;
+    if (isChanged)
+        followOthers();
+    const bool isFileNews = m_watch->file() != m_shownFile;
+    m_shownFile = m_watch->file();
+    if (isChanged || (isFileNews && m_shownFile != ProjectWatch::File::Present))
+        m_news->showNews(m_shownFile);
+    else if (isFileNews)
+        m_news->hide(); // it is back
+}
+
+/// Records and script follow at once, unless the choice of plots is in the user's hands. The rest
+/// waits for Reload.
+void MainWindow::followOthers()
+{
+    if (readingStatus(index()) != VKD_ZOB_OK) {
+        PlatformLog::take();
+        return;
+    }
+    m_followed = m_watch->changes();
+    showRecords();
+    if (!m_output || m_output->isVisible() || m_output->isChanged() ||
+        !m_seenOutput.isOutdated(index()))
+        return;
+    m_output.release()->deleteLater(); // it may be busy with closing
+    refreshScript();
 }
 
 /// Reads the model of the project at this index; false if the user cancelled.
@@ -83,15 +151,21 @@ void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
     m_output.reset();
     m_textOutput.reset();
     m_document = std::move(document);
-    m_actions->enable(bool(m_document), false);
+    m_watch->setProject(index(), m_document ? m_document->path() : QString());
+    m_followed = 0;
+    m_shownFile = ProjectWatch::File::Present;
+    m_news->hide();
+    enableActions();
     setWindowModified(false);
     setTitle();
 }
 
 void MainWindow::showFirstProject()
 {
-    if (showModel(index()))
+    if (showModel(index())) {
+        m_view->slotViewControl(AnimatorStandardView, 0.0);
         return showProject();
+    }
     setDocument(nullptr);
     showContents();
     say(tr("Cancelled."));
@@ -101,7 +175,6 @@ void MainWindow::showFirstProject()
 void MainWindow::showProject()
 {
     const WaitCursor cursor;
-    m_view->slotViewControl(AnimatorStandardView, 0.0);
     m_groups->setProject(index());
     showRecords();
     showNoScript();
@@ -109,7 +182,6 @@ void MainWindow::showProject()
     WindowSettings settings;
     settings.addRecentFile(m_document->path());
     m_actions->setRecentFiles(settings.recentFiles());
-    m_actions->enable(true, m_view->isPicking());
     showContents();
     QTimer::singleShot(0, this, &MainWindow::refreshScript);
     if (!PlatformLog::take().isEmpty())
@@ -140,32 +212,29 @@ void MainWindow::paintEvent(QPaintEvent* event)
         QTimer::singleShot(0, this, &MainWindow::showFirstProject);
 }
 
-void MainWindow::saveAs()
+bool MainWindow::saveAs()
 {
     const QString path = chooseFileToSave(this, tr("Save Project As"), m_document->path(),
                                           tr("Projects (*.zob)"), QStringLiteral("zob"), QString());
     if (path.isEmpty())
-        return;
-    if (isSameFile(path, m_document->path())) {
-        storeOutput();
-        if (m_textOutput)
-            storeTextOutput();
-        return;
-    }
+        return false;
+    m_watch->look();
+    if (m_watch->file() == ProjectWatch::File::Present && isSameFile(path, m_document->path()))
+        return storeOutput() && (!m_textOutput || storeTextOutput());
     if (!output() || !succeeds(copyProject(this, *m_document, path), path,
                                tr("The project cannot be saved in the file %1.")))
-        return;
-    takeOver(path);
+        return false;
+    return takeOver(path);
 }
 
 /// Goes on with the copy of the project, and leaves what is chosen as it is on the screen.
-void MainWindow::takeOver(const QString& path)
+bool MainWindow::takeOver(const QString& path)
 {
     const OutputPresent plots = m_output->present();
     const auto text = m_textOutput ? std::make_optional(m_textOutput->state()) : std::nullopt;
     const bool wasTextChanged = text && m_textOutput->isChanged();
-    if (!openProject(path))
-        return;
+    if (!openDocument(path, true))
+        return false;
     remakeOutput(plots);
     m_script->setOtherScript(m_output->script(m_script->english()));
     if (text)
@@ -173,11 +242,21 @@ void MainWindow::takeOver(const QString& path)
     const bool arePlotsStored = !plots.isChanged || storeOutput();
     if (arePlotsStored && (!wasTextChanged || storeTextOutput()))
         say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
+    return true;
+}
+
+bool MainWindow::mayLeaveMissingFile()
+{
+    m_watch->look();
+    return !m_document || m_watch->file() != ProjectWatch::File::Missing ||
+           mayLeave(tr("The project file was deleted or moved.\nIs what is open to be saved under "
+                       "another name?"),
+                    [this] { return saveAs(); });
 }
 
 bool MainWindow::mayLeaveProject()
 {
-    if (!mayLeaveTextOutput())
+    if (!mayLeaveMissingFile() || !mayLeaveTextOutput())
         return false;
     return !m_output || !m_output->isChanged() ||
            mayLeave(tr("The choice of plots is changed and not yet in the project.\nIs it to be "

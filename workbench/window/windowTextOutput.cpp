@@ -11,8 +11,10 @@ void MainWindow::showTextOutput()
 {
     if (!m_textOutput && !canRead())
         return;
-    if (!m_textOutput)
+    if (!m_textOutput) {
+        m_seenTextOutput.look(index());
         makeTextOutput();
+    }
     m_textOutput->show();
     m_textOutput->raise();
     m_textOutput->activateWindow();
@@ -46,13 +48,29 @@ void MainWindow::closeTextOutput()
 bool MainWindow::storeTextOutput()
 {
     const TextOutputState state = m_textOutput->state();
-    if (!withProject([this, &state] { return state.write(index()); },
-                     tr("The text output cannot be stored in the file %1.")))
+    const auto store = [this, &state](SeenPart::Newer newer) {
+        return m_seenTextOutput.store(
+            index(), [this, &state] { return state.put(index()); }, newer);
+    };
+    const Stored stored = storePart(store, tr("The text output cannot be stored in the file %1."));
+    if (stored == Stored::Reload)
+        reloadTextOutput();
+    if (stored != Stored::Yes)
         return false;
     m_textOutput->setUnchanged();
     showModified();
     say(tr("The text output is in the project file."));
     return true;
+}
+
+void MainWindow::reloadTextOutput()
+{
+    if (!canRead())
+        return;
+    m_seenTextOutput.look(index());
+    m_textOutput->setState(TextOutputState::read(index(), ExtentFields::DefaultLists));
+    m_textOutput->setUnchanged();
+    showModified();
 }
 
 bool MainWindow::mayLeaveTextOutput()

@@ -1,0 +1,345 @@
+#include "ProjectTest.h"
+
+#include <ExtentFields.h>
+#include <OutputState.h>
+#include <TextOutputState.h>
+#include <VKD_H_ZOBDoc.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include <functional>
+
+using namespace windowtest;
+using workbench::ExtentFields;
+using workbench::MainWindow;
+using workbench::OutputState;
+using workbench::TextOutputState;
+
+namespace {
+/// "-" while the bar is closed, else its text and the names of its actions.
+QString bar(const QWidget& window)
+{
+    const auto frame = find<QWidget>(window, "ChangeBar");
+    if (!frame->isVisible())
+        return QStringLiteral("-");
+    QString text = find<QLabel>(*frame, "ChangeText")->text();
+    for (const QToolButton* button : frame->findChildren<QToolButton*>())
+        if (const QAction* action = button->defaultAction(); action && button->isVisible())
+            text += QLatin1String(action->isEnabled() ? " +" : " -") + action->objectName();
+    return text;
+}
+
+QString records(const QWidget& window)
+{
+    const auto model = find<QTableView>(window, "Records")->model();
+    QString text;
+    for (int column = 0; column < model->columnCount(); ++column)
+        for (int row = 0; row < model->rowCount(); ++row)
+            text += model->index(row, column).data().toString() + QLatin1Char(' ');
+    return text;
+}
+
+void pressButton(QWidget* box, const QString& text)
+{
+    for (QAbstractButton* button : qobject_cast<QMessageBox*>(box)->buttons())
+        if (button->text() == text)
+            return button->click();
+    qFatal("no such button");
+}
+
+/// A part of the project in its dialog: a change by the user, one by another program, and whether
+/// the dialog, or the project, has the user's.
+struct Part
+{
+    std::function<void(QWidget& dialog)> change;
+    std::function<void(const QString& project)> changeOutside;
+    std::function<bool(const QWidget& dialog)> showsMine;
+    std::function<bool(const QString& project)> hasMine;
+};
+
+/// By another program.
+void setRow(const QString& project)
+{
+    commandLine({QStringLiteral("rows"), project, QStringLiteral("--set-row"), QStringLiteral("1"),
+                 QStringLiteral("hio=0.077")});
+}
+
+Part designPart()
+{
+    return {[](QWidget& dialog) {
+                find<QTableWidget>(dialog, "table")->selectRow(2);
+                find<QPushButton>(dialog, "btnDelete")->click();
+            },
+            setRow,
+            [](const QWidget& dialog) {
+                const auto table = find<QTableWidget>(dialog, "table");
+                bool isTheirs = false;
+                for (int row = 0; row < table->rowCount(); ++row)
+                    isTheirs |= table->item(row, 2)->text().contains(QLatin1String("77.0"));
+                return !isTheirs;
+            },
+            [](const QString& project) {
+                return !commandLine({QStringLiteral("rows"), project}).contains("77.0");
+            }};
+}
+
+Part outputPart()
+{
+    const auto plots = [](const QWidget& dialog) {
+        return dialog.findChild<QTreeWidget*>()->topLevelItem(0);
+    };
+    return {
+        [plots](QWidget& dialog) { plots(dialog)->setCheckState(0, Qt::Unchecked); },
+        [](const QString& project) {
+            const auto document = VKD_H_ZOBDoc::open(project);
+            OutputState state = OutputState::read(document->index());
+            state.leftOutNumbers = {1};
+            QVERIFY(state.put(document->index()));
+        },
+        [plots](const QWidget& dialog) { return plots(dialog)->checkState(0) == Qt::Unchecked; },
+        [](const QString& project) {
+            const auto document = VKD_H_ZOBDoc::open(project);
+            return OutputState::read(document->index()).leftOutNumbers.isEmpty();
+        }};
+}
+
+Part textOutputPart()
+{
+    return {
+        [](QWidget& dialog) { find<QCheckBox>(dialog, "ReactionList")->click(); },
+        [](const QString& project) {
+            const auto document = VKD_H_ZOBDoc::open(project);
+            auto state = TextOutputState::read(document->index(), ExtentFields::DefaultLists);
+            state.leftOutLoadCases = {1};
+            QVERIFY(state.put(document->index()));
+        },
+        [](const QWidget& dialog) { return !find<QCheckBox>(dialog, "ReactionList")->isChecked(); },
+        [](const QString& project) {
+            const auto document = VKD_H_ZOBDoc::open(project);
+            return TextOutputState::read(document->index(), 0).leftOutLoadCases.isEmpty();
+        }};
+}
+} // namespace
+
+/// What others do to a project while the window has it open.
+class tst_outsideChanges : public ProjectTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void news_data()
+    {
+        const Columns<QByteArray, QString> row("event", "bar");
+        const char* deleted = "The project file was deleted or moved. What is open can still be "
+                              "saved under another name. +SaveAs";
+        row("changed", "change", "Another program has changed the project. +Reload");
+        row("deleted", "rm", deleted);
+        row("moved", "mv", deleted);
+        row("replaced", "cp",
+            "Another file has taken the place of the project file. What is open can still be saved "
+            "under another name. +Reload +SaveAs");
+    }
+
+    void news()
+    {
+        QFETCH(const QByteArray, event);
+        QFETCH(const QString, bar);
+        const auto window = open("mine.zob");
+        const QString before = records(*window);
+        QCOMPARE(::bar(*window), QStringLiteral("-"));
+        if (event == "change") {
+            setRow(path("mine.zob"));
+        } else {
+            QVERIFY(QFile::rename(path("mine.zob"), path("moved.zob")));
+            if (event != "mv")
+                QFile::remove(path("moved.zob"));
+            if (event == "cp")
+                makeProject(path("mine.zob"), QStringLiteral("slab"));
+        }
+        QTRY_COMPARE(::bar(*window), bar);
+        QCOMPARE(records(*window) != before, event == "change");
+        const auto groups = find<QTreeWidget>(*window, "GroupList");
+        const int groupCount = groups->topLevelItemCount();
+        if (event == "mv")
+            QVERIFY(QFile::rename(path("moved.zob"), path("mine.zob"))); // it is back
+        else if (event != "rm")
+            trigger(*window, "Reload");
+        if (event != "rm")
+            QTRY_COMPARE(::bar(*window), QStringLiteral("-"));
+        QCOMPARE(groups->topLevelItemCount() != groupCount, event == "cp");
+    }
+
+    void newerIsAskedFor_data()
+    {
+        const Columns<QByteArray, QString, bool, bool> row("part", "answer", "isMine", "isOpen");
+        for (const char* part : {"Design", "Output", "TextOutput"}) {
+            const auto name = [part](const char* answer) {
+                return QByteArray(part) + ", " + answer;
+            };
+            row(name("overwrite"), part, "&Overwrite", true, false);
+            row(name("reload"), part, "&Reload", false, true);
+            row(name("go back"), part, "&Go Back", true, true);
+        }
+    }
+
+    /// The user is asked on OK. The project has the user's state after Overwrite only; the dialog
+    /// shows it again after Go Back, and the newer one after Reload.
+    void newerIsAskedFor()
+    {
+        QFETCH(const QByteArray, part);
+        QFETCH(const QString, answer);
+        QFETCH(const bool, isMine);
+        QFETCH(const bool, isOpen);
+        const bool isDesign = part == "Design";
+        const Part it = isDesign           ? designPart()
+                        : part == "Output" ? outputPart()
+                                           : textOutputPart();
+        const auto window = open("asked.zob");
+        bool isAsked = false, wasOpen = false, wasMine = true;
+        const auto look = [&](QWidget* dialog) {
+            wasOpen = dialog && dialog->isVisible();
+            wasMine = !wasOpen || it.showsMine(*dialog);
+        };
+        const auto accept = [&](QWidget* dialog) {
+            it.change(*dialog);
+            it.changeOutside(path("asked.zob"));
+            whenModal([&](QWidget* box) {
+                isAsked = true;
+                if (isDesign && isOpen)
+                    whenModal([&](QWidget* again) {
+                        look(again);
+                        qobject_cast<QDialog*>(again)->reject();
+                    });
+                pressButton(box, answer);
+            });
+            qobject_cast<QDialog*>(dialog)->accept();
+        };
+        if (isDesign)
+            whenModal(accept);
+        trigger(*window, part);
+        if (!isDesign) {
+            const QString name = QString::fromLatin1(part + "Dialog");
+            accept(find<QDialog>(*window, part + "Dialog"));
+            QTRY_VERIFY(window->findChildren<QDialog*>(name).size() < 2);
+            look(window->findChild<QDialog*>(name));
+            QCOMPARE(window->isWindowModified(), isOpen && isMine);
+        }
+        QVERIFY(isAsked);
+        QCOMPARE(wasOpen, isOpen);
+        QCOMPARE(wasMine, isMine);
+        QCOMPARE(it.hasMine(path("asked.zob")), answer == QLatin1String("&Overwrite"));
+    }
+
+    /// A choice that is not stored yet stays with Reload, and its OK asks.
+    void reloadKeepsTheChoice()
+    {
+        const auto window = open("kept.zob");
+        changeChoice(*window);
+        const QString chosen = script(*window);
+        trigger(*window, "TextOutput");
+        const Part text = textOutputPart();
+        text.change(*find<QDialog>(*window, "TextOutputDialog"));
+        outputPart().changeOutside(path("kept.zob"));
+        QTRY_VERIFY(bar(*window) != QLatin1String("-"));
+        trigger(*window, "Reload");
+        QTRY_COMPARE(script(*window), chosen);
+        QVERIFY(window->isWindowModified());
+        QVERIFY(text.showsMine(*find<QDialog>(*window, "TextOutputDialog")));
+        find<QDialog>(*window, "TextOutputDialog")->accept();
+        bool isAsked = false;
+        whenModal([&isAsked](QWidget* box) {
+            isAsked = true;
+            pressButton(box, QStringLiteral("&Overwrite"));
+        });
+        find<QDialog>(*window, "OutputDialog")->accept();
+        QVERIFY(isAsked);
+        QVERIFY(!window->isWindowModified());
+    }
+
+    void saveWhatIsOpen_data()
+    {
+        const Columns<QByteArray, QByteArray, QString> row("event", "place", "reason");
+        const char* gone = "It was deleted or moved while it was open.";
+        const char* replaced = "Another file has taken its place while it was open.";
+        row("deleted", "rm", "new.zob", gone);
+        row("deleted, in its place", "rm", "mine.zob", gone);
+        row("moved", "mv", "new.zob", gone);
+        row("replaced", "cp", "new.zob", replaced);
+        row("replaced, in its place", "cp", "mine.zob", replaced);
+    }
+
+    /// Also what is in the dialogs. OK of the design dialog offers Save As by itself.
+    void saveWhatIsOpen()
+    {
+        QFETCH(const QByteArray, event);
+        QFETCH(const QByteArray, place);
+        QFETCH(const QString, reason);
+        const auto window = open("mine.zob");
+        const QString model = records(*window);
+        changeChoice(*window);
+        const QString chosen = script(*window);
+        QStringList messages;
+        const auto saveIn = [this, &place](QWidget* dialog) {
+            if (QFileInfo::exists(path(place)))
+                whenModal([](QWidget* box) { press(box, QMessageBox::Yes); });
+            enterFile(dialog, path(place));
+        };
+        whenModal([&](QWidget* dialog) {
+            designPart().change(*dialog);
+            QVERIFY(QFile::rename(path("mine.zob"), path("moved.zob")));
+            if (event != "mv")
+                QFile::remove(path("moved.zob"));
+            if (event == "cp")
+                makeProject(path("mine.zob"), QStringLiteral("slab"));
+            whenModal([&](QWidget* box) {
+                messages << qobject_cast<QMessageBox*>(box)->text();
+                whenModal(saveIn);
+                pressButton(box, QStringLiteral("&Save Project As..."));
+            });
+            qobject_cast<QDialog*>(dialog)->accept();
+        });
+        trigger(*window, "Design");
+        QCOMPARE(messages.join(QLatin1Char('|')),
+                 QStringLiteral("The design parameters cannot be stored in the file %1.\n%2")
+                     .arg(path("mine.zob"), reason));
+        QVERIFY(window->windowTitle().startsWith(QString::fromUtf8(place)));
+        QVERIFY(!window->isWindowModified());
+        QTRY_COMPARE(script(*window), chosen);
+        MainWindow again(services());
+        QVERIFY(again.openProject(path(place)));
+        QTRY_COMPARE(script(again), chosen);
+        QCOMPARE(records(again), records(*window));
+        QVERIFY(records(again) != model);
+    }
+
+    /// What one window stores is seen in the other.
+    void twoWindows()
+    {
+        const auto mine = open("both.zob");
+        MainWindow theirs(services());
+        theirs.show();
+        QVERIFY(theirs.openProject(path("both.zob")));
+        QTRY_VERIFY(!script(theirs).isEmpty());
+        whenModal([](QWidget* dialog) {
+            find<QTableWidget>(*dialog, "table")->selectRow(2);
+            find<QPushButton>(*dialog, "btnDelete")->click();
+            qobject_cast<QDialog*>(dialog)->accept();
+        });
+        trigger(*mine, "Design");
+        QTRY_COMPARE(records(theirs), records(*mine));
+        changeChoice(*mine);
+        const QString chosen = script(*mine);
+        QVERIFY(script(theirs) != chosen);
+        find<QDialog>(*mine, "OutputDialog")->accept();
+        QTRY_COMPARE(script(theirs), chosen);
+        QCOMPARE(bar(*mine), QStringLiteral("-"));
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_outsideChanges)
+#include "tst_outsideChanges.moc"

@@ -1,0 +1,104 @@
+#include "ProjectTest.h"
+
+#include <VKD_H_ZOBDoc.h>
+#include <WindowActions.h>
+
+#include <QAbstractButton>
+#include <QPushButton>
+#include <QSet>
+#include <QTableWidget>
+
+using namespace windowtest;
+using workbench::MainWindow;
+
+namespace {
+QList<QAction*> windowActions(const MainWindow& window)
+{
+    QList<QAction*> actions;
+    for (QAction* action : window.findChildren<QAction*>())
+        if (qobject_cast<workbench::WindowActions*>(action->parent()))
+            actions << action;
+    return actions;
+}
+} // namespace
+
+/// What can be pressed in the window, with and without a project.
+class tst_windowActions : public ProjectTest
+{
+    Q_OBJECT
+
+    /// A project without a model, or one for which groups are being picked.
+    void openEmptyOrPicking(MainWindow& window) const
+    {
+        if (qstrcmp(QTest::currentDataTag(), "empty project") == 0) {
+            VKD_H_ZOBDoc::create(path("empty.zob"));
+            QVERIFY(window.openProject(path("empty.zob")));
+            QTRY_VERIFY(!script(window).isEmpty());
+            return;
+        }
+        QVERIFY(window.openProject(copy("pick.zob")));
+        QTRY_VERIFY(!script(window).isEmpty());
+        whenModal([](QWidget* dialog) {
+            auto table = find<QTableWidget>(*dialog, "table");
+            table->setCurrentCell(table->rowCount() - 1, 0);
+            whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
+            find<QPushButton>(*table, "buttonGroups")->click();
+        });
+        trigger(window, "Design");
+    }
+
+private Q_SLOTS:
+    void everyAction_data()
+    {
+        const Columns<QString> row("enabled"); // by name
+        const QString always = QStringLiteral("About DesignHelp Help OutputHelp TextOutputHelp");
+        const QString unlessPicking = QStringLiteral(" English German NewFromFile NewFromSample "
+                                                     "Open Quit");
+        const QString script =
+            QStringLiteral(" CopyScriptAction ExportSheetsAction SaveScriptAction View");
+        row("no project", always + unlessPicking);
+        row("empty project", // which has a script none the less
+            always + unlessPicking + script +
+                QLatin1String(" Design Output Reload SaveAs SheetPreviewAction TextOutput"));
+        row("picking", always + script);
+    }
+
+    /// All that can be pressed works, and leaves the window in order.
+    void everyAction()
+    {
+        MainWindow window(services());
+        window.show();
+        if (qstrcmp(QTest::currentDataTag(), "no project") != 0)
+            openEmptyOrPicking(window);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QSet<QString> names;
+        for (const QAction* action : windowActions(window))
+            if (action->isEnabled())
+                names << action->objectName();
+        QStringList sorted = names.values();
+        sorted.sort();
+        QFETCH(const QString, enabled);
+        QStringList expected = enabled.split(QLatin1Char(' '));
+        expected.sort();
+        QCOMPARE(sorted.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')));
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, this, [] {
+            if (QWidget* modal = QApplication::activeModalWidget())
+                modal->close();
+        });
+        closer.start(5);
+        for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
+            if (button->isVisible() && button->isEnabled())
+                button->click();
+        for (QAction* action : windowActions(window))
+            if (action->isEnabled() && action->objectName() != QLatin1String("Quit"))
+                action->trigger();
+        QTest::mouseClick(find<QWidget>(window, "AnimatorView"), Qt::LeftButton);
+        QVERIFY(window.close());
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            widget->close(); // the help
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_windowActions)
+#include "tst_windowActions.moc"

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <vkd_zob.h>
+
+#include <QByteArray>
+
+#include <functional>
+
+namespace workbench {
+
+/// The parts of a project that dialogs edit, each as a whole.
+enum class ProjectPart { Design, Output, TextOutput };
+
+/// Returned in place of a VkdZobStatus: another program has changed the part since look().
+constexpr cd_error_t PartChanged = -1;
+
+/// Remembers the state of a part of a project when a dialog reads it, so that the dialog does not
+/// overwrite a newer state of another program. It stores a digest of the records and holds no lock.
+class SeenPart
+{
+public:
+    enum class Newer { Keep, Overwrite };
+
+    explicit SeenPart(ProjectPart part);
+
+    /// Remembers the state in the project at this database index. Call it before reading, so that a
+    /// change in between counts as a later one. Returns a VkdZobStatus.
+    cd_error_t look(int index);
+    /// Returns whether the state in the project is another one now; false if it cannot be read.
+    bool isOutdated(int index) const;
+    /// Calls `put`, which returns whether all was accepted, in a change that is stored as a whole
+    /// or not at all. Returns a VkdZobStatus, or PartChanged if there is a newer state to keep.
+    cd_error_t store(int index, const std::function<bool()>& put, Newer newer = Newer::Keep);
+
+private:
+    ProjectPart m_part;
+    QByteArray m_digest;
+};
+
+} // namespace workbench
