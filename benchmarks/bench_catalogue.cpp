@@ -102,15 +102,18 @@ public:
         builder.finish();
     }
 
-    void checkAll()
-    {
-        for (int i = 0; i < root->childCount(); ++i)
-            plib::carryDown(root->child(i), Qt::Checked);
-    }
+    void checkAll() { check(root.get()); }
 
     std::unique_ptr<plib::OutputNode> root;
 
 private:
+    static void check(plib::OutputNode* node)
+    {
+        node->setCheckState(0, Qt::Checked);
+        for (int i = 0; i < node->childCount(); ++i)
+            check(node->child(i));
+    }
+
     std::vector<plib::GraphicalOutputRecord> m_records;
     std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> m_rows;
 };
@@ -131,7 +134,7 @@ void applySelection(benchmark::State& state)
         for (int j = 0; j < top->child(i)->childCount(); ++j)
             for (int row = 0; row < RowsPerPlot; row += 2)
                 top->child(i)->child(j)->child(row)->setCheckState(0, Qt::Checked);
-    plib::settleTree(tree.root.get());
+    plib::settleBranch(tree.root.get());
     const QString text = plib::selectionText(tree.root.get());
     for (auto _ : state)
         plib::applySelection(tree.root.get(), text);

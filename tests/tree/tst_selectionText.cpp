@@ -27,6 +27,13 @@ static QString states(const OutputNode* parent)
     return word;
 }
 
+static void setBranch(OutputNode* node, Qt::CheckState state)
+{
+    node->setCheckState(0, state);
+    for (int i = 0; i < node->childCount(); ++i)
+        setBranch(node->child(i), state);
+}
+
 class TestSelectionText : public QObject
 {
     Q_OBJECT
@@ -37,10 +44,11 @@ private Q_SLOTS:
         OutputNode root;
         makeTree(&root);
         OutputNode* plots = root.child(0)->child(0);
-        plib::setBranchState(plots->child(0)->child(0), Qt::Checked);
-        plib::setBranchState(plots->child(0)->child(2), Qt::Checked);
-        plib::setBranchState(plots->child(1), Qt::Checked);
-        plib::setBranchState(root.child(1)->child(0)->child(0), Qt::Unchecked);
+        setBranch(plots->child(0)->child(0), Qt::Checked);
+        setBranch(plots->child(0)->child(2), Qt::Checked);
+        setBranch(plots->child(1), Qt::Checked);
+        setBranch(root.child(1)->child(0)->child(0), Qt::Unchecked);
+        plib::settleBranch(&root);
         const QString text = plib::selectionText(&root);
         QCOMPARE(text, QStringLiteral(
                            "\nPartially:@A__   @B__   @C__ : 1,3,\nChecked:@A__   @B__   @D__\n"
