@@ -6,6 +6,7 @@
 #include <functional>
 
 using plib::OutputSettings;
+using plib::ScaleMode;
 
 class FixedTexts : public plib::ScriptEnvironment
 {
@@ -99,7 +100,7 @@ private Q_SLOTS:
         row("German, filled, scaled", Change([](OutputSettings& s) {
                 s.fillAreas = true;
                 s.fontSizeText = QStringLiteral("2.5");
-                s.scaleMode = 0;
+                s.scaleMode = ScaleMode::Engineering;
                 s.scaleIndex = 8;
                 s.scaleText = QStringLiteral("1:100");
             }),
@@ -151,7 +152,7 @@ private Q_SLOTS:
         QFETCH(int, viewId);
         QFETCH(bool, english);
         OutputSettings s;
-        s.viewId = viewId;
+        s.viewId = plib::OutputView(viewId);
         const std::vector<QString> lines{QString::fromLatin1(QTest::currentDataTag())};
         const QString script = plib::outputScript(s, lines, QString(), english, m_texts);
         QTEST(script.section(QLatin1Char('\n'), -3, -3), "expected");
@@ -162,22 +163,24 @@ private Q_SLOTS:
         const Columns<Change, QString> row("change", "english");
         const auto scaled = [](int index, const char* text) {
             return Change([=](OutputSettings& s) {
-                s.formatId = 1;
-                s.scaleMode = 0;
+                s.formatId = plib::PageFormat::Landscape;
+                s.scaleMode = ScaleMode::Engineering;
                 s.scaleIndex = index;
                 s.scaleText = QString::fromLatin1(text);
             });
         };
         const char* const fitted = "SIZE URS SC 0 MARG NO FORM STAN";
         row(
-            "landscape has no division", [](OutputSettings& s) { s.formatId = 1; }, fitted);
+            "landscape has no division",
+            [](OutputSettings& s) { s.formatId = plib::PageFormat::Landscape; }, fitted);
         row(
             "no format to choose", [](OutputSettings& s) { s.hasFormat = false; }, fitted);
         row(
             "a fitted scale hides the list",
-            [](OutputSettings& s) { s.scaleIndex = 5, s.formatId = 1; }, fitted);
+            [](OutputSettings& s) { s.scaleIndex = 5, s.formatId = plib::PageFormat::Landscape; },
+            fitted);
         row(
-            "one per page", [](OutputSettings& s) { s.picturesId = 0; },
+            "one per page", [](OutputSettings& s) { s.picturesId = plib::PagePictures::One; },
             "SIZE -URS SC 0 MARG NO FORM STAN");
         row("automatic scale", scaled(0, ""), "SIZE URS SC - MARG NO FORM STAN");
         row("no colon", scaled(3, "75"), "SIZE URS SC 75*1.e+10 MARG NO FORM STAN");
@@ -250,7 +253,7 @@ private Q_SLOTS:
         OutputSettings s;
         s.variant = VKD_P_GraphicalOutput_Split;
         s.pageSplitId = id;
-        s.scaleMode = scale < 0 ? 1 : 0;
+        s.scaleMode = scale < 0 ? ScaleMode::ToFit : ScaleMode::Engineering;
         s.scaleIndex = qMax(scale, 0);
         s.scaleText = scale > 0 ? plib::engineeringScales()[scale - 1] : QString();
         for (const std::vector<QString>& lines : {std::vector<QString>(), {QStringLiteral("a")}})

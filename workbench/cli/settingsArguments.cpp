@@ -4,6 +4,8 @@
 
 #include <output/fontSize.h>
 
+#include <type_traits>
+
 namespace workbench {
 
 namespace {
@@ -21,16 +23,10 @@ struct Setting
 };
 constexpr int NoNumber = -1;
 
-template <int OutputSettings::*member>
+template <auto member>
 void setNumber(const QString& value, OutputSettings* settings)
 {
-    settings->*member = value.toInt();
-}
-
-template <bool OutputSettings::*member>
-void setSwitch(const QString& value, OutputSettings* settings)
-{
-    settings->*member = value.toInt() == 1;
+    settings->*member = std::decay_t<decltype(settings->*member)>(value.toInt());
 }
 
 void setScaleIndex(const QString& value, OutputSettings* settings)
@@ -51,18 +47,17 @@ void setScaleText(const QString& value, OutputSettings* settings)
 void setFormat(const QString& value, OutputSettings* settings)
 {
     settings->hasFormat = true;
-    plib::chooseFormat(value.toInt(), settings);
+    plib::chooseFormat(plib::PageFormat(value.toInt()), settings);
 }
 
 /// A page offers no choice of pictures unless its sheets are in portrait.
 void setPictures(const QString& value, OutputSettings* settings)
 {
-    constexpr int Portrait = 0;
-    const int pictures = value.toInt();
-    const bool isFree = settings->hasFormat && settings->formatId == Portrait;
+    const auto pictures = plib::PagePictures(value.toInt());
+    const bool isFree = settings->hasFormat && settings->formatId == plib::PageFormat::Portrait;
     if (!isFree && pictures != settings->picturesId)
-        throw CommandError{
-            QStringLiteral("picturesId=%1 needs the portrait format, formatId=0").arg(pictures)};
+        throw CommandError{QStringLiteral("picturesId=%1 needs the portrait format, formatId=0")
+                               .arg(int(pictures))};
     settings->picturesId = pictures;
 }
 
@@ -82,12 +77,12 @@ constexpr Setting Settings[] = {
     {"scaleIndex", 11, Pages::All, setScaleIndex},
     {"scaleText", NoNumber, Pages::All, setScaleText},
     {"pageSplitId", 5, Pages::Split, setNumber<&OutputSettings::pageSplitId>},
-    {"hasFormat", 1, Pages::AllButSplit, setSwitch<&OutputSettings::hasFormat>},
+    {"hasFormat", 1, Pages::AllButSplit, setNumber<&OutputSettings::hasFormat>},
     {"formatId", 1, Pages::AllButSplit, setFormat},
     {"picturesId", 1, Pages::AllButSplit, setPictures},
     {"viewId", 4, Pages::AllButSplit, setNumber<&OutputSettings::viewId>},
     {"fontSizeText", NoNumber, Pages::All, setFontSize},
-    {"fillAreas", 1, Pages::AllButSplit, setSwitch<&OutputSettings::fillAreas>},
+    {"fillAreas", 1, Pages::AllButSplit, setNumber<&OutputSettings::fillAreas>},
 };
 
 QStringList names()

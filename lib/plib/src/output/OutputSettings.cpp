@@ -20,24 +20,20 @@ QStringList scaleRows()
 
 void chooseScale(int row, OutputSettings* settings)
 {
-    constexpr int EngineeringScale = 0;
-    settings->scaleMode = EngineeringScale;
+    settings->scaleMode = ScaleMode::Engineering;
     settings->scaleIndex = row;
     settings->scaleText = scaleRows().value(row);
 }
 
-int picturesForFormat(int formatId)
+PagePictures picturesForFormat(PageFormat format)
 {
-    constexpr int Landscape = 1;
-    constexpr int OnePerPage = 0;
-    constexpr int TwoPerPage = 1;
-    return formatId == Landscape ? OnePerPage : TwoPerPage;
+    return format == PageFormat::Landscape ? PagePictures::One : PagePictures::Two;
 }
 
-void chooseFormat(int formatId, OutputSettings* settings)
+void chooseFormat(PageFormat format, OutputSettings* settings)
 {
-    settings->formatId = formatId;
-    settings->picturesId = picturesForFormat(formatId);
+    settings->formatId = format;
+    settings->picturesId = picturesForFormat(format);
 }
 
 } // namespace plib

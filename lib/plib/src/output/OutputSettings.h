@@ -7,19 +7,29 @@
 
 namespace plib {
 
+// The choices of the radio groups on a page. The values are the numbers of the entries, which the
+// saved string and the arguments of the command line contain.
+enum class ScaleMode : int { Engineering, ToFit };
+enum class PageFormat : int { Portrait, Landscape };
+enum class PagePictures : int { One, Two };
+enum class OutputView : int { PlaneXY, PlaneXZ, PlaneYZ, Standard3D, UserDefined };
+
+/// The row "Auto" of the scale list.
+constexpr int AutoScaleRow = 0;
+
 /// The settings of a graphical output page that the script depends on. A page creates a new object
 /// for each script; the initial values are those of a new page.
 struct OutputSettings
 {
     VKD_P_WidgetGraphicalOutput_Progname variant = VKD_P_GraphicalOutput_Standard;
-    int scaleMode = 1;     ///< 0 engineering scale, 1 scale to fit
-    int scaleIndex = 0;    ///< row of the scale list, 0 is "Auto"
-    QString scaleText;     ///< text of that row, such as "1:100"
-    int pageSplitId = 0;   ///< division of the sheet, 0 to 5; split variant only
-    bool hasFormat = true; ///< false in the split variant, which has no format to choose
-    int formatId = 0;      ///< 0 portrait, 1 landscape
-    int picturesId = 1;    ///< 0 one per page, 1 two per page
-    int viewId = 3;        ///< 0 X/Y, 1 X/Z, 2 Y/Z, 3 3D standard, 4 user defined
+    ScaleMode scaleMode = ScaleMode::ToFit;
+    int scaleIndex = AutoScaleRow; ///< row of the scale list
+    QString scaleText;             ///< text of that row, such as "1:100"
+    int pageSplitId = 0;           ///< division of the sheet, 0 to 5; split variant only
+    bool hasFormat = true;         ///< false in the split variant, which has no format to choose
+    PageFormat formatId = PageFormat::Portrait;
+    PagePictures picturesId = PagePictures::Two; ///< pictures on a page
+    OutputView viewId = OutputView::Standard3D;
     QString fontSizeText = QStringLiteral("2"); ///< in millimetres, as typed
     bool fillAreas = false;                     ///< iso areas are filled
 };
@@ -35,7 +45,7 @@ void chooseScale(int row, OutputSettings* settings);
 
 /// Selecting a format changes the number of pictures: a landscape sheet has one, a portrait sheet
 /// two.
-int picturesForFormat(int formatId);
-void chooseFormat(int formatId, OutputSettings* settings);
+PagePictures picturesForFormat(PageFormat format);
+void chooseFormat(PageFormat format, OutputSettings* settings);
 
 } // namespace plib

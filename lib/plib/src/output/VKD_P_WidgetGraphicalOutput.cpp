@@ -23,10 +23,17 @@
 #include <QRadioButton>
 
 namespace {
-enum Scale { EngineeringScale = 0, ScaleToFit = 1 };
-enum Format { PortraitFormat = 0, LandscapeFormat = 1 };
-constexpr int TwoPerPage = 1;
-constexpr int StandardView = 3;
+using plib::OutputView;
+using plib::PageFormat;
+using plib::PagePictures;
+using plib::ScaleMode;
+
+/// Checks the button of a choice.
+template <typename Choice>
+void choose(VKD_QT_RadioButtonGroup* group, Choice choice)
+{
+    group->setButton(int(choice));
+}
 
 std::vector<StructRadioButtonGrup> entries(const QStringList& texts, int entryWithWidget = -1)
 {
@@ -78,8 +85,8 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
     connect(data->defaultButton, &QPushButton::clicked, this,
             &VKD_P_WidgetGraphicalOutput::slotDefaultSettings);
     if (data->formatGroup) // on each click, even on the checked format
-        for (int format : {PortraitFormat, LandscapeFormat})
-            connect(data->formatGroup->getRadioButton(format), &QRadioButton::clicked, this,
+        for (PageFormat format : {PageFormat::Portrait, PageFormat::Landscape})
+            connect(data->formatGroup->getRadioButton(int(format)), &QRadioButton::clicked, this,
                     &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
     findDialogs();
     if (progname == VKD_P_GraphicalOutput_Split) {
@@ -107,7 +114,8 @@ void VKD_P_WidgetGraphicalOutput::buildSettings(QWidget* box)
     data->defaultButton->setToolTip(tr("All settings on this page will be set to the default"));
     data->attribs = new QWidget(box);
     data->attribs->setObjectName(QStringLiteral("GroupBox attribs"));
-    const auto scales = entries({tr("Engineering scale"), tr("Scale to fit")}, EngineeringScale);
+    const auto scales =
+        entries({tr("Engineering scale"), tr("Scale to fit")}, int(ScaleMode::Engineering));
     data->scaleGroup = new VKD_QT_RadioButtonGroup(tr("Scale"), scales, data->attribs, "ScaleGroup",
                                                    Qt::Vertical, -1);
     if (data->progname == VKD_P_GraphicalOutput_Split)
@@ -118,14 +126,14 @@ void VKD_P_WidgetGraphicalOutput::buildSettings(QWidget* box)
         buildSheetAndViews(box);
     data->scaleCombo = new VKD_QT4_ComboBox(data->scaleGroup->box(), "box_scale");
     data->scaleCombo->setAccessibleName(tr("Engineering scale"));
-    data->scaleGroup->setWidget(EngineeringScale, data->scaleCombo);
+    data->scaleGroup->setWidget(int(ScaleMode::Engineering), data->scaleCombo);
     data->scaleGroup->init(scales);
     for (const QString& scale : plib::scaleRows())
         data->scaleCombo->insertItem(data->scaleCombo->count(), QIcon(), scale);
-    data->scaleGroup->setButton(ScaleToFit);
+    choose(data->scaleGroup, ScaleMode::ToFit);
     if (data->formatGroup) {
-        data->formatGroup->setButton(PortraitFormat);
-        data->picturesGroup->setButton(TwoPerPage);
+        choose(data->formatGroup, PageFormat::Portrait);
+        choose(data->picturesGroup, PagePictures::Two);
     }
 }
 
@@ -237,7 +245,7 @@ void VKD_P_WidgetGraphicalOutput::placeAnimator(QBoxLayout* layout)
     data->animator->setMinimumSize(160, 120);
     layout->addWidget(data->animator, 1);
     if (data->viewGroup)
-        data->viewGroup->setButton(StandardView);
+        choose(data->viewGroup, OutputView::Standard3D);
 }
 
 /// Finds the nearest ancestor of each dialog type, up to the first tab dialog.
@@ -266,25 +274,25 @@ void VKD_P_WidgetGraphicalOutput::slotQuerFormat()
 {
     if (!data->formatGroup)
         return;
-    const int format = data->formatGroup->selectedButton();
-    data->picturesGroup->setEnabled(format != LandscapeFormat);
-    if (format == PortraitFormat || format == LandscapeFormat)
-        data->picturesGroup->setButton(plib::picturesForFormat(format));
+    const auto format = PageFormat(data->formatGroup->selectedButton());
+    data->picturesGroup->setEnabled(format != PageFormat::Landscape);
+    if (format == PageFormat::Portrait || format == PageFormat::Landscape)
+        choose(data->picturesGroup, plib::picturesForFormat(format));
 }
 
 void VKD_P_WidgetGraphicalOutput::slotDefaultSettings()
 {
     data->tree->rebuild(true);
     data->fontEdit->setVal(plib::fontSizeField().value);
-    data->scaleGroup->setButton(ScaleToFit);
+    choose(data->scaleGroup, ScaleMode::ToFit);
     if (data->formatGroup)
-        data->formatGroup->setButton(PortraitFormat);
+        choose(data->formatGroup, PageFormat::Portrait);
     if (data->picturesGroup)
-        data->picturesGroup->setButton(TwoPerPage);
+        choose(data->picturesGroup, PagePictures::Two);
     if (data->fillCheck)
         data->fillCheck->setChecked(false);
     if (data->viewGroup)
-        data->viewGroup->setButton(StandardView);
+        choose(data->viewGroup, OutputView::Standard3D);
     slotQuerFormat();
 }
 
@@ -303,19 +311,19 @@ plib::OutputSettings VKD_P_WidgetGraphicalOutput::settings() const
 {
     plib::OutputSettings settings;
     settings.variant = data->progname;
-    settings.scaleMode = data->scaleGroup->selectedButton();
+    settings.scaleMode = ScaleMode(data->scaleGroup->selectedButton());
     settings.scaleIndex = data->scaleCombo->currentIndex();
     settings.scaleText = data->scaleCombo->currentText();
     settings.hasFormat = data->formatGroup;
     if (data->pageSplitCombo)
         settings.pageSplitId = data->pageSplitCombo->getCurrentId();
     if (data->formatGroup)
-        settings.formatId = data->formatGroup->selectedButton();
+        settings.formatId = PageFormat(data->formatGroup->selectedButton());
     if (data->picturesGroup)
-        settings.picturesId = data->picturesGroup->selectedButton();
+        settings.picturesId = PagePictures(data->picturesGroup->selectedButton());
     // Without an animator, no view is checked initially; then the default view is used.
     if (data->viewGroup && data->viewGroup->selectedButton() >= 0)
-        settings.viewId = data->viewGroup->selectedButton();
+        settings.viewId = OutputView(data->viewGroup->selectedButton());
     settings.fontSizeText = data->fontEdit->getText();
     settings.fillAreas = data->fillCheck && data->fillCheck->isChecked();
     return settings;

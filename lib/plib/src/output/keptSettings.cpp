@@ -3,12 +3,6 @@
 namespace plib {
 
 namespace {
-constexpr int ScaleToFit = 1;
-constexpr int AutoRow = 0;
-constexpr int FormatCount = 2;
-constexpr int PicturesCount = 2;
-constexpr int ViewCount = 5;
-
 /// A text with a "-" means the row "Auto". A text that is not in the list, such as "0", means scale
 /// to fit.
 void applyScale(const QString& value, OutputSettings* settings)
@@ -16,19 +10,20 @@ void applyScale(const QString& value, OutputSettings* settings)
     if (value.isNull())
         return;
     const QStringList rows = scaleRows();
-    const int row = value.contains(QLatin1Char('-')) ? AutoRow : rows.indexOf(value);
+    const int row = value.contains(QLatin1Char('-')) ? AutoScaleRow : rows.indexOf(value);
     if (row < 0)
-        settings->scaleMode = ScaleToFit;
+        settings->scaleMode = ScaleMode::ToFit;
     else
         chooseScale(row, settings);
 }
 
 /// Returns whether the part exists. A text that is not a number counts as 0.
-bool applyChoice(const QString& value, int count, int* choice)
+template <typename Choice>
+bool applyChoice(const QString& value, Choice last, Choice* choice)
 {
     const int entry = value.toInt();
-    if (!value.isNull() && entry >= 0 && entry < count)
-        *choice = entry;
+    if (!value.isNull() && entry >= 0 && entry <= int(last))
+        *choice = Choice(entry);
     return !value.isNull();
 }
 } // namespace
@@ -43,11 +38,11 @@ void applyKeptSettings(const KeptPart& part, OutputSettings* settings)
     if (!fill.isNull())
         settings->fillAreas = fill.contains(QLatin1Char('1'));
     if (settings->hasFormat) {
-        if (applyChoice(part(kepttag::Format), FormatCount, &settings->formatId))
+        if (applyChoice(part(kepttag::Format), PageFormat::Landscape, &settings->formatId))
             settings->picturesId = picturesForFormat(settings->formatId);
-        applyChoice(part(kepttag::Pictures), PicturesCount, &settings->picturesId);
+        applyChoice(part(kepttag::Pictures), PagePictures::Two, &settings->picturesId);
     }
-    applyChoice(part(kepttag::View), ViewCount, &settings->viewId);
+    applyChoice(part(kepttag::View), OutputView::UserDefined, &settings->viewId);
 }
 
 } // namespace plib

@@ -16,8 +16,6 @@ namespace kepttag = plib::kepttag;
 namespace {
 constexpr int DesktopCamera = 0;
 constexpr int PersistentForm = 2;
-constexpr int EngineeringScale = 0;
-constexpr int AutoRow = 0;
 
 QString part(const char* tag, const QString& value)
 {
@@ -33,9 +31,9 @@ QString choicePart(const char* tag, const VKD_QT_RadioButtonGroup* group)
 /// of the list is saved only with an engineering scale; reading "0" does not change it.
 QString scaleValue(const VKD_QT_RadioButtonGroup* group, const QComboBox* list)
 {
-    if (group->selectedButton() != EngineeringScale)
+    if (plib::ScaleMode(group->selectedButton()) != plib::ScaleMode::Engineering)
         return QStringLiteral("0");
-    return list->currentIndex() == AutoRow ? QStringLiteral("-") : list->currentText();
+    return list->currentIndex() == plib::AutoScaleRow ? QStringLiteral("-") : list->currentText();
 }
 } // namespace
 
@@ -51,7 +49,7 @@ QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
     if (data->pageSplitCombo)
         xml += data->pageSplitCombo->writeXMLstring();
     if (data->viewGroup)
-        xml += part(kepttag::View, QString::number(settings().viewId));
+        xml += part(kepttag::View, QString::number(int(settings().viewId)));
     if (data->animator) {
         Q_EMIT signalBeobXY(AnimatorStoreCamera, 0.0);
         xml +=
@@ -73,22 +71,22 @@ void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
     plib::applyKeptSettings(kept, &present);
     if (has(kepttag::Scale)) {
         data->scaleCombo->setCurrentIndex(present.scaleIndex);
-        data->scaleGroup->setButton(present.scaleMode);
+        data->scaleGroup->setButton(int(present.scaleMode));
     }
     if (has(kepttag::Font))
         data->fontEdit->setText(kept(kepttag::Font));
     if (data->fillCheck && has(kepttag::Fill))
         data->fillCheck->setChecked(present.fillAreas);
     if (data->formatGroup && has(kepttag::Format)) {
-        data->formatGroup->setButton(present.formatId);
+        data->formatGroup->setButton(int(present.formatId));
         slotQuerFormat();
     }
     if (data->picturesGroup && has(kepttag::Pictures))
-        data->picturesGroup->setButton(present.picturesId);
+        data->picturesGroup->setButton(int(present.picturesId));
     if (data->pageSplitCombo)
         data->pageSplitCombo->readXMLstring(xml);
     if (data->viewGroup && has(kepttag::View)) // moves the camera
-        data->viewGroup->setButton(present.viewId);
+        data->viewGroup->setButton(int(present.viewId));
     if (data->animator) {
         vkd::dbo::setAnimatorPerspektive(DesktopCamera, kept(kepttag::Camera));
         Q_EMIT signalBeobXY(AnimatorTakeCamera, 0.0);

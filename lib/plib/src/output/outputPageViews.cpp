@@ -1,5 +1,6 @@
 // The part of the output page that controls the animator: view commands, and the first view.
 
+#include "output/OutputSettings.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "output/WidgetGraphicalOutputEvent.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
@@ -11,11 +12,7 @@
 #include <QRadioButton>
 
 using Page = VKD_P_WidgetGraphicalOutput;
-
-namespace {
-constexpr int UserDefinedView = 4;
-
-} // namespace
+using plib::OutputView;
 
 WidgetGraphicalOutputEvent::~WidgetGraphicalOutputEvent() = default;
 
@@ -25,7 +22,7 @@ void VKD_P_WidgetGraphicalOutput::connectAnimator()
         void (Page::*const slotsOfButtons[])(bool) = {&Page::slotBeobXY, &Page::slotBeobXZ,
                                                       &Page::slotBeobYZ, &Page::slotBeob3D,
                                                       &Page::slotBeobAni};
-        for (int entry = 0; entry <= UserDefinedView; ++entry)
+        for (int entry = 0; entry <= int(OutputView::UserDefined); ++entry)
             connect(data->viewGroup->getRadioButton(entry), &QRadioButton::toggled, this,
                     slotsOfButtons[entry]);
     }
@@ -88,7 +85,7 @@ void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* page)
         ancestor = ancestor->parentWidget();
     if (!data->firstShow || !ancestor)
         return;
-    if (data->viewGroup && data->viewGroup->selectedButton() < UserDefinedView)
+    if (data->viewGroup && OutputView(data->viewGroup->selectedButton()) < OutputView::UserDefined)
         QCoreApplication::postEvent(this, new WidgetGraphicalOutputEvent);
     data->firstShow = false;
 }
@@ -99,12 +96,12 @@ void VKD_P_WidgetGraphicalOutput::customEvent(QEvent* event)
     if (!data->viewGroup || event->type() != QEvent::User || !firstShow ||
         firstShow->identifier() != WidgetGraphicalOutputEvent::FirstShow)
         return;
-    switch (data->viewGroup->selectedButton()) {
-    case 0: return slotBeobXY(true);
-    case 1: return slotBeobXZ(true);
-    case 2: return slotBeobYZ(true);
-    case 3: return slotBeob3D(true);
-    case UserDefinedView: return slotBeobAni(true);
+    switch (OutputView(data->viewGroup->selectedButton())) {
+    case OutputView::PlaneXY: return slotBeobXY(true);
+    case OutputView::PlaneXZ: return slotBeobXZ(true);
+    case OutputView::PlaneYZ: return slotBeobYZ(true);
+    case OutputView::Standard3D: return slotBeob3D(true);
+    case OutputView::UserDefined: return slotBeobAni(true);
     default: return;
     }
 }

@@ -63,11 +63,6 @@ constexpr struct
 } PageSplits[] = {{" 1X1", " \"-URS\" "}, {" 2X1", " \"-URS\" "}, {" 2X2", " \"-URS\" "},
                   {" 3X2", " \"-URS\" "}, {" 1X1", " \"URS\" "},  {" 2X2", " \"URS\" "}};
 
-constexpr int Portrait = 0;
-constexpr int TwoPerPage = 1;
-constexpr int EngineeringScale = 0;
-constexpr int StandardView = 3;
-
 /// Returns the font size in centimetres; a text that is not a number counts as 0.
 QString fontNumber(const OutputSettings& settings)
 {
@@ -76,9 +71,9 @@ QString fontNumber(const OutputSettings& settings)
 
 QString scaleValue(const OutputSettings& settings)
 {
-    if (settings.scaleMode != EngineeringScale)
+    if (settings.scaleMode != ScaleMode::Engineering)
         return QStringLiteral("0");
-    if (settings.scaleIndex == 0)
+    if (settings.scaleIndex == AutoScaleRow)
         return QStringLiteral("-");
     // On purpose, the factor is written as text: the graphics program multiplies.
     return settings.scaleText.mid(settings.scaleText.indexOf(QLatin1Char(':')) + 1) +
@@ -88,9 +83,9 @@ QString scaleValue(const OutputSettings& settings)
 /// Returns the scale for the split variant, which has no factor.
 QString splitScaleValue(const OutputSettings& settings)
 {
-    if (settings.scaleMode != EngineeringScale)
+    if (settings.scaleMode != ScaleMode::Engineering)
         return QStringLiteral(" 0");
-    if (settings.scaleIndex == 0)
+    if (settings.scaleIndex == AutoScaleRow)
         return QStringLiteral(" -");
     return QLatin1Char(' ') + QString(settings.scaleText).remove(QLatin1String("1:"));
 }
@@ -114,7 +109,7 @@ QString splitResult(const OutputSettings& settings, const QString& additional, b
 }
 
 /// Returns the lines with the standard view replaced by the view of the page.
-QString body(const std::vector<QString>& lines, int viewId, const QString& clause)
+QString body(const std::vector<QString>& lines, OutputView page, const QString& clause)
 {
     int size = 0;
     for (const QString& line : lines)
@@ -122,7 +117,7 @@ QString body(const std::vector<QString>& lines, int viewId, const QString& claus
     QString text;
     text.reserve(size);
     for (const QString& line : lines) {
-        const int view = viewId == StandardView ? -1 : line.indexOf(QLatin1String("EG3"));
+        const int view = page == OutputView::Standard3D ? -1 : line.indexOf(QLatin1String("EG3"));
         if (view > 0) // the rest of the line is replaced as well
             text += line.leftRef(view) + clause;
         else
@@ -145,19 +140,19 @@ QString viewClause(const OutputSettings& settings, bool english,
 {
     QString type = TypeWord.in(english);
     switch (settings.viewId) {
-    case 0: return type + QLatin1String("EGXY ; PERS INFI");
-    case 1: return type + QLatin1String("EGXZ ; PERS INFI");
-    case 2: return type + QLatin1String("EGYZ ; PERS INFI");
-    case 3: return type + QLatin1String("EG3");
-    case 4: return type + QLatin1String("STAN ") + environment.camera();
+    case OutputView::PlaneXY: return type + QLatin1String("EGXY ; PERS INFI");
+    case OutputView::PlaneXZ: return type + QLatin1String("EGXZ ; PERS INFI");
+    case OutputView::PlaneYZ: return type + QLatin1String("EGYZ ; PERS INFI");
+    case OutputView::Standard3D: return type + QLatin1String("EG3");
+    case OutputView::UserDefined: return type + QLatin1String("STAN ") + environment.camera();
     default: return type;
     }
 }
 
 QString sizeStatement(const OutputSettings& settings, bool english)
 {
-    const bool portrait = settings.hasFormat && settings.formatId == Portrait;
-    const bool two = portrait && settings.picturesId == TwoPerPage;
+    const bool portrait = settings.hasFormat && settings.formatId == PageFormat::Portrait;
+    const bool two = portrait && settings.picturesId == PagePictures::Two;
     return (two ? TwoPictures.in(english) : QString()) + QLatin1String("SIZE ") +
            QLatin1String(portrait ? "-URS" : "URS") + ScaleWord.in(english) + scaleValue(settings) +
            (two ? TwoByOne.in(english) : QString()) + Margin.in(english);
