@@ -1,7 +1,5 @@
 #include "ProjectTest.h"
 
-#include <ProjectWriting.h>
-#include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 
 #include <QComboBox>
@@ -229,24 +227,6 @@ private Q_SLOTS:
         other.reset();
         trigger(*window, "Output");
         QCOMPARE(script(*window), proposed);
-    }
-
-    void changeThatIsNotFinished()
-    {
-        const auto document = VKD_H_ZOBDoc::open(copy("change.zob"));
-        const auto put = [index = document->index()] {
-            const int length = 4;
-            return vkd_zob_put(index, 9000, 1, "text", &length, 0);
-        };
-        {
-            const workbench::ProjectWriting forgotten(document->index());
-            QCOMPARE(put(), VKD_ZOB_OK);
-        }
-        workbench::ProjectWriting half(document->index());
-        QCOMPARE(put(), VKD_ZOB_OK);
-        QCOMPARE(half.finish(false), VKD_ZOB_FAILED);
-        int length = 0;
-        QCOMPARE(vkd_zob_get(document->index(), 9000, 1, nullptr, &length, 0), VKD_ZOB_NO_KEY);
     }
 
     void picksAreNotLost()

@@ -2,7 +2,7 @@
 
 #include "numberTexts.h"
 #include "projectKeys.h"
-#include "ProjectWriting.h"
+#include "putEntries.h"
 
 #include <vkd_dbo_model.h>
 #include <VKD_H_ProjectDialogPage.h>

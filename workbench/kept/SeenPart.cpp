@@ -1,7 +1,8 @@
 #include "SeenPart.h"
 
 #include "projectKeys.h"
-#include "ProjectWriting.h"
+
+#include <ZobTransaction.h>
 
 #include <QCryptographicHash>
 
@@ -55,6 +56,13 @@ cd_error_t readDigest(int index, ProjectPart part, QByteArray* digest)
     *digest = hash.result();
     return VKD_ZOB_OK;
 }
+
+/// Drops the change. The user did not cancel it, so its failure is never that.
+cd_error_t failureOf(ZobTransaction& change)
+{
+    const cd_error_t status = change.rollback().code;
+    return status == VKD_ZOB_CANCELLED ? cd_error_t(VKD_ZOB_FAILED) : status;
+}
 } // namespace
 
 SeenPart::SeenPart(ProjectPart part)
@@ -75,17 +83,18 @@ bool SeenPart::isOutdated(int index) const
 
 cd_error_t SeenPart::store(int index, const std::function<bool()>& put, Newer newer)
 {
-    ProjectWriting writing(index);
-    if (writing.status() != VKD_ZOB_OK)
-        return writing.status();
+    ZobTransaction change(index);
+    if (!change.status().isOk())
+        return change.status().code;
     QByteArray present;
     cd_error_t status = readDigest(index, m_part, &present);
     if (status != VKD_ZOB_OK)
         return status;
     if (newer == Newer::Keep && present != m_digest)
         return PartChanged;
-    const bool isWhole = put() && readDigest(index, m_part, &present) == VKD_ZOB_OK;
-    status = writing.finish(isWhole);
+    if (!put() || readDigest(index, m_part, &present) != VKD_ZOB_OK)
+        return failureOf(change);
+    status = change.commit().code;
     if (status == VKD_ZOB_OK)
         m_digest = present;
     return status;

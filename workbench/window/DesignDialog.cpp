@@ -2,7 +2,6 @@
 
 #include "HelpKey.h"
 #include "KeptPlace.h"
-#include "ProjectHold.h"
 #include "sharedGroupsQuestion.h"
 #include "withinScreen.h"
 
@@ -14,6 +13,7 @@
 #include <VKD_P_DesignParameter_Role.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_Ok.h>
+#include <ZobSnapshot.h>
 
 #include <QPushButton>
 #include <QTableWidget>
@@ -80,17 +80,16 @@ DesignDialog::~DesignDialog()
 
 cd_error_t DesignDialog::load()
 {
-    const ProjectHold hold(m_document->index()); // so that all of it can be read, or nothing
-    if (hold.status() > VKD_ZOB_NO_KEY)          // one without any record cannot be held
-        return hold.status();
-    cd_error_t status = m_seen.look(m_document->index());
+    const ZobSnapshot snapshot(m_document->index());
+    cd_error_t status = snapshot.status().code;
+    if (status == VKD_ZOB_OK)
+        status = m_seen.look(m_document->index());
     if (status == VKD_ZOB_OK)
         status = copyRecords(m_document->index(), m_desk->index());
     if (status != VKD_ZOB_OK)
         return status;
     m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
     vkd::dbo::Model model; // of which the page looks at the kind of system only
-    // The last to be read: where its record is the first of the project, that ends the hold.
     model.system.kindOfSystem = vkd::dbo::getKindOfSystem(m_document->index(), nullptr);
     vkd::dbo::storeModel(m_desk->index(), model);
     return VKD_ZOB_OK;

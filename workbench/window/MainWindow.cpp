@@ -11,7 +11,6 @@
 #include "PlatformLog.h"
 #include "projectTrouble.h"
 #include "ProjectWatch.h"
-#include "ProjectWriting.h"
 #include "ScriptPane.h"
 #include "TextOutputDialog.h"
 #include "waitForStore.h"
@@ -24,6 +23,7 @@
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_MessageBox.h>
+#include <ZobSnapshot.h>
 
 #include <QAction>
 #include <QDir>
@@ -311,7 +311,7 @@ bool MainWindow::mayLeave(const QString& question, const std::function<bool()>& 
 /// would wait for another program on its own.
 bool MainWindow::canRead()
 {
-    return withProject([this] { return readingStatus(index()); },
+    return withProject([this] { return ZobSnapshot(index()).status().code; },
                        tr("The file %1 cannot be read."));
 }
 

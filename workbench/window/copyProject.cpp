@@ -3,8 +3,9 @@
 #include "SlowWork.h"
 #include "waitForStore.h"
 
-#include <ProjectWriting.h>
 #include <VKD_H_ZOBDoc.h>
+#include <ZobSnapshot.h>
+#include <ZobTransaction.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,8 +16,6 @@ namespace workbench {
 namespace {
 const QString JournalSuffix = QStringLiteral("-journal");
 constexpr int Kilobyte = 1024;
-constexpr int AnyKey1 = 0; // of the lock, which is that of the file
-constexpr int AnyKey2 = 0;
 
 bool isWriteProtected(const QFileInfo& file)
 {
@@ -57,11 +56,7 @@ ReplacedFile::ReplacedFile(QWidget* parent, const QString& path)
 {
 }
 
-ReplacedFile::~ReplacedFile()
-{
-    if (m_document)
-        vkd_zob_free_ex(m_document->index(), AnyKey1, AnyKey2);
-}
+ReplacedFile::~ReplacedFile() = default;
 
 cd_error_t ReplacedFile::take(const QString& path)
 {
@@ -76,15 +71,18 @@ cd_error_t ReplacedFile::take(const QString& path)
         QFile::remove(path + JournalSuffix); // it would be played back into the new file
         return VKD_ZOB_OK;
     }
-    VkdStatus opening;
-    m_document = VKD_H_ZOBDoc::open(path, &opening); // finishes what was interrupted
-    cd_error_t status = opening.code;
-    if (m_document)
-        status = vkd_zob_lock_ex(m_document->index(), AnyKey1, AnyKey2);
-    if (status == VKD_ZOB_LOCKED)
+    VkdStatus status;
+    m_document = VKD_H_ZOBDoc::open(path, &status); // finishes what was interrupted
+    if (m_document) {
+        m_change = std::make_unique<ZobTransaction>(m_document->index());
+        status = m_change->status();
+    }
+    if (status.code == VKD_ZOB_LOCKED) {
+        m_change.reset();
         m_document.reset();
+    }
     const bool isUnfinished = QFileInfo::exists(file.canonicalFilePath() + JournalSuffix);
-    return isUnfinished || status == VKD_ZOB_LOCKED ? VKD_ZOB_LOCKED : VKD_ZOB_OK;
+    return isUnfinished || status.code == VKD_ZOB_LOCKED ? VKD_ZOB_LOCKED : VKD_ZOB_OK;
 }
 
 cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path)
@@ -92,8 +90,9 @@ cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QStr
     const ReplacedFile replaced(parent, path);
     if (replaced.status() != VKD_ZOB_OK)
         return replaced.status();
-    cd_error_t status = waitForStore(parent, document.path(),
-                                     [&document] { return readingStatus(document.index()); });
+    cd_error_t status = waitForStore(parent, document.path(), [&document] {
+        return ZobSnapshot(document.index()).status().code;
+    });
     if (status != VKD_ZOB_OK)
         return status;
     QSaveFile to(path);

@@ -8,6 +8,7 @@
 
 class QWidget;
 class VKD_H_ZOBDoc;
+class ZobTransaction;
 
 namespace workbench {
 
@@ -30,6 +31,7 @@ private:
     cd_error_t take(const QString& path);
 
     std::unique_ptr<VKD_H_ZOBDoc> m_document;
+    std::unique_ptr<ZobTransaction> m_change; // keeps others from writing, and stores nothing
     cd_error_t m_status;
 };
 

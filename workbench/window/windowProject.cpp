@@ -18,9 +18,9 @@
 #include "WindowSettings.h"
 
 #include <AnimatorView.h>
-#include <ProjectWriting.h>
 #include <SheetPreview.h>
 #include <VKD_H_ZOBDoc.h>
+#include <ZobSnapshot.h>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -125,7 +125,7 @@ void MainWindow::showNews()
 /// waits for Reload.
 void MainWindow::followOthers()
 {
-    if (readingStatus(index()) != VKD_ZOB_OK) {
+    if (!ZobSnapshot(index()).status().isOk()) {
         PlatformLog::take();
         return;
     }
