@@ -41,15 +41,20 @@ endif()
 # The share folder is beside the lib folder of the build tree, as in an installation.
 file(CREATE_LINK ${PROJECT_SOURCE_DIR}/share ${PROJECT_BINARY_DIR}/share SYMBOLIC)
 
-# Installs a library, and its headers into a separate folder. The library becomes a target of the
-# package <package>, which is also the name of its installation component.
-function(vkd_install_library name package)
+# Installs a library as a target of the package <package>, which is also the name of its installation
+# component. Users find its headers in the folder <headers>.
+function(vkd_install_target name package headers)
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
         $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name}>)
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vkd/${headers}>)
     install(TARGETS ${name} EXPORT ${package} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
                                                       COMPONENT ${package})
+endfunction()
+
+# Installs a library, and its headers into a separate folder.
+function(vkd_install_library name package)
+    vkd_install_target(${name} ${package} ${name})
     install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name}
             COMPONENT ${package})
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h
@@ -68,12 +73,16 @@ function(vkd_install_package package)
             DESTINATION ${folder} COMPONENT ${package})
 endfunction()
 
-# Adds a library of the platform, with a generated <name>_export.h. It is shared, because the store,
-# the settings and the text service must exist only once in a process. It is never unloaded, for two
-# reasons: Qt holds callbacks, icons and windows of it and offers no way to remove all of them, and
-# settings and open projects outlive the plug-in that loaded the library.
+# vkd_add_platform_library(<name> SOURCES ... [CORE ...]) adds a library of the platform, with a
+# generated <name>_export.h. It is shared, because the store, the settings and the text service must
+# exist only once in a process. It is never unloaded, for two reasons: Qt holds callbacks, icons and
+# windows of it and offers no way to remove all of them, and settings and open projects outlive the
+# plug-in that loaded the library.
+#
+# The sources after CORE need no widgets. They become a second shared library, <name>_core, with the
+# same headers. <name> links it, and a program without widgets loads it alone.
 function(vkd_add_platform_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE;CORE;CORE_PUBLIC;CORE_PRIVATE" ${ARGN})
     include(GenerateExportHeader)
     add_library(${name} SHARED ${arg_SOURCES})
     generate_export_header(${name} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h)
@@ -81,6 +90,15 @@ function(vkd_add_platform_library name)
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
     target_link_options(${name} PRIVATE LINKER:-z,nodelete)
     vkd_install_library(${name} vkd_platform)
+    if(arg_CORE)
+        add_library(${name}_core SHARED ${arg_CORE})
+        target_compile_definitions(${name}_core PRIVATE ${name}_EXPORTS)
+        target_include_directories(${name}_core PRIVATE src)
+        target_link_libraries(${name}_core PUBLIC ${arg_CORE_PUBLIC} PRIVATE ${arg_CORE_PRIVATE})
+        target_link_options(${name}_core PRIVATE LINKER:-z,nodelete)
+        vkd_install_target(${name}_core vkd_platform ${name})
+        target_link_libraries(${name} PUBLIC ${name}_core)
+    endif()
 endfunction()
 
 # vkd_add_translations(<target> [<file>]): compiles <file>, translations/<target>_de.ts by default,
@@ -99,6 +117,7 @@ function(vkd_add_translations target)
     file(CONFIGURE OUTPUT ${list} CONTENT
         "<RCC><qresource prefix=\"/translations\"><file>${module}_de.qm</file></qresource></RCC>\n")
     qt5_add_resources(resources ${list})
-    configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in translator.cpp @ONLY)
-    target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/translator.cpp ${resources})
+    set(translator ${CMAKE_CURRENT_BINARY_DIR}/${module}_translator.cpp)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in ${translator} @ONLY)
+    target_sources(${target} PRIVATE ${translator} ${resources})
 endfunction()
