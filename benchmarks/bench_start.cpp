@@ -5,7 +5,6 @@
 #include "EndedByPicture.h"
 #include "RatioReporter.h"
 
-#include <newProject.h>
 #include <runWindow.h>
 
 #include <QProcess>
@@ -26,7 +25,9 @@ const QString& building()
 {
     static const QString path = [] {
         QString made = folder().filePath(QStringLiteral("building.zob"));
-        workbench::newProject(made, QStringLiteral("building"));
+        QProcess::execute(
+            QStringLiteral(WORKBENCH),
+            {QStringLiteral("new"), made, QStringLiteral("--model"), QStringLiteral("building")});
         return made;
     }();
     return path;

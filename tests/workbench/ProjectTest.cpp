@@ -32,29 +32,6 @@ QString makeProject(const QString& path, const QString& model)
     return QFile::exists(path) ? QString() : QStringLiteral("not made");
 }
 
-static QVector<workbench::PlotTitles> plotTitles(int language)
-{
-    static QMap<int, QVector<workbench::PlotTitles>> known;
-    QVector<workbench::PlotTitles>& titles = known[language];
-    if (!titles.isEmpty())
-        return titles;
-    const QString name = language == 0 ? QStringLiteral("german") : QStringLiteral("english");
-    const QByteArray lines =
-        commandLine({QStringLiteral("catalogue"), QStringLiteral("--language"), name});
-    for (const QString& line : QString::fromUtf8(lines).split(QLatin1Char('\n')))
-        if (const QStringList columns = line.split(QLatin1Char('\t')); columns.size() > 5)
-            titles.append({columns[3], columns[4], columns[5]});
-    return titles;
-}
-
-workbench::WindowServices services()
-{
-    const auto make = [](const QString& path, const QString& model, const VkdGoOn&) {
-        return makeProject(path, model);
-    };
-    return {make, plotTitles};
-}
-
 QString script(const QWidget& window)
 {
     return find<QPlainTextEdit>(window, "ScriptText")->toPlainText();
@@ -157,7 +134,7 @@ QString ProjectTest::copy(const char* name) const
 
 std::unique_ptr<MainWindow> ProjectTest::open(const char* name) const
 {
-    auto window = std::make_unique<MainWindow>(services());
+    auto window = std::make_unique<MainWindow>(commandLineServices());
     window->show();
     if (!window->openProject(copy(name)) ||
         !QTest::qWaitFor([&window] { return !script(*window).isEmpty(); }))

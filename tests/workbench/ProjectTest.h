@@ -3,6 +3,7 @@
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
+#include <commandLineServices.h>
 #include <MainWindow.h>
 
 #include <QMessageBox>
@@ -19,12 +20,11 @@ using testsupport::readFile;
 using testsupport::trigger;
 using testsupport::whenModal;
 using testsupport::writeFile;
+using workbench::commandLineServices;
 
 /// What the program prints with these arguments.
 QByteArray commandLine(const QStringList& arguments);
 QString makeProject(const QString& path, const QString& model);
-/// Of the window, by the command line.
-workbench::WindowServices services();
 QString script(const QWidget& window);
 
 void press(QWidget* box, QMessageBox::StandardButton button);

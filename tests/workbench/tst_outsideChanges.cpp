@@ -310,7 +310,7 @@ private Q_SLOTS:
         QVERIFY(window->windowTitle().startsWith(QString::fromUtf8(place)));
         QVERIFY(!window->isWindowModified());
         QTRY_COMPARE(script(*window), chosen);
-        MainWindow again(services());
+        MainWindow again(commandLineServices());
         QVERIFY(again.openProject(path(place)));
         QTRY_COMPARE(script(again), chosen);
         QCOMPARE(records(again), records(*window));
@@ -321,7 +321,7 @@ private Q_SLOTS:
     void twoWindows()
     {
         const auto mine = open("both.zob");
-        MainWindow theirs(services());
+        MainWindow theirs(commandLineServices());
         theirs.show();
         QVERIFY(theirs.openProject(path("both.zob")));
         QTRY_VERIFY(!script(theirs).isEmpty());

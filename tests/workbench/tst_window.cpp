@@ -55,7 +55,7 @@ private Q_SLOTS:
         QFETCH(const QString, desktop);
         QFETCH(const QString, keywords);
         const QString project = path("new.zob");
-        MainWindow window(services());
+        MainWindow window(commandLineServices());
         window.show();
         trigger(window, qPrintable(desktop));
         QTRY_COMPARE(window.findChild<QAction*>(QStringLiteral("Open"))->text(),
@@ -102,7 +102,7 @@ private Q_SLOTS:
             QVERIFY(!window->isWindowModified());
             QCOMPARE(script(*window), isKept ? chosen : proposed);
         }
-        MainWindow again(services());
+        MainWindow again(commandLineServices());
         QVERIFY(again.openProject(path("kept.zob")));
         QTRY_COMPARE(script(again), chosen);
     }
@@ -255,7 +255,7 @@ private Q_SLOTS:
             QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), QStringLiteral("0 -1 0 ROTA 0"));
         }
         find<QDialog>(*window, "OutputDialog")->accept();
-        window = std::make_unique<MainWindow>(services());
+        window = std::make_unique<MainWindow>(commandLineServices());
         QVERIFY(window->openProject(path("turned.zob")));
         trigger(*window, "Output");
         QTRY_VERIFY(script(*window).contains(QLatin1String("EGXZ")));
@@ -474,7 +474,7 @@ private Q_SLOTS:
     void writeProtectedProject()
     {
         QFile::setPermissions(copy("protected.zob"), QFile::ReadOwner);
-        MainWindow window(services());
+        MainWindow window(commandLineServices());
         window.show();
         QVERIFY(window.openProject(path("protected.zob")));
         QTRY_VERIFY(!script(window).isEmpty());

@@ -98,7 +98,7 @@ private Q_SLOTS:
             QVERIFY(find<QDialog>(*window, dialog)->isVisible());
         QVERIFY(!window->isWindowModified());
         QTRY_COMPARE(script(*window), chosen);
-        MainWindow again(services());
+        MainWindow again(commandLineServices());
         QVERIFY(again.openProject(path(opened)));
         QTRY_COMPARE(script(again), chosen);
         trigger(again, "TextOutput");
@@ -205,7 +205,7 @@ private Q_SLOTS:
         QVERIFY(!window->openProject(path("8.zob")));
         expected.removeOne(path("8.zob"));
         QCOMPARE(recentFiles(*window), expected);
-        QCOMPARE(recentFiles(MainWindow(services())), expected);
+        QCOMPARE(recentFiles(MainWindow(commandLineServices())), expected);
     }
 
     void drops_data()
@@ -259,7 +259,7 @@ private Q_SLOTS:
 
     void cancelledMaking()
     {
-        auto slow = services();
+        auto slow = commandLineServices();
         slow.makeProject = [](const QString&, const QString&, const VkdGoOn& goOn) {
             whenModal([](QWidget* box) { box->findChild<QAbstractButton*>()->click(); });
             QElapsedTimer clock;
@@ -300,7 +300,7 @@ private Q_SLOTS:
             });
             press(box, QMessageBox::Ok);
         });
-        QCOMPARE(workbench::runWindow(path("missing.zob"), services()), 0);
+        QCOMPARE(workbench::runWindow(path("missing.zob"), commandLineServices()), 0);
         QVERIFY(isTold);
         testsupport::setLanguage(testsupport::English);
         const auto look = [&] {
@@ -316,7 +316,7 @@ private Q_SLOTS:
             look();
             shownWindow()->close();
         });
-        QCOMPARE(workbench::runWindow(QString(), services()), 0);
+        QCOMPARE(workbench::runWindow(QString(), commandLineServices()), 0);
     }
 };
 

@@ -106,7 +106,7 @@ private Q_SLOTS:
         testsupport::setLanguage(monkey.below(2));
         while (monkey.steps() < Monkey::StepsInARound) {
             {
-                MainWindow window(services());
+                MainWindow window(commandLineServices());
                 window.show();
                 if (monkey.below(4))
                     window.openProject(path("mine.zob"));

@@ -1,105 +1,16 @@
 #include "CommandLine.h"
 
-#include "commands.h"
 #include "PlatformLog.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 #include <VKD_QT_InitTranslator.h>
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <cstdio>
 
 namespace workbench {
-
-namespace {
-
-struct Command
-{
-    const char* name;
-    int (*run)(const QStringList&);
-    const char* summary;
-};
-
-constexpr Command Commands[] = {
-    {"new", newCommand, "make a project file from a model"},
-    {"script", scriptCommand, "print the script of a project's plots"},
-    {"catalogue", catalogueCommand, "print and check a catalogue of plots"},
-    {"rows", rowsCommand, "print and change how a project's area elements are designed"},
-    {"tree", treeCommand, "print the plots that a project offers, with their check marks"},
-    {"snapshots", snapshotsCommand, "leave a picture of every page and dialog in a folder"},
-    {"window", windowCommand, "open the desktop window"},
-};
-
-QString usage()
-{
-    QString text = QStringLiteral("Usage: plib_workbench COMMAND ...\n\nCommands:\n");
-    for (const Command& command : Commands)
-        text += QStringLiteral("  %1 %2\n")
-                    .arg(QLatin1String(command.name), -12)
-                    .arg(QLatin1String(command.summary));
-    return text + QStringLiteral("\nplib_workbench COMMAND --help tells more about a command.\n");
-}
-
-int runOrHelp(const Command& command, const QStringList& arguments)
-{
-    try {
-        return command.run(arguments);
-    } catch (const HelpWanted& help) {
-        print(help.text);
-        return 0;
-    }
-}
-
-int runCommand(const QStringList& arguments)
-{
-    const QString name = arguments.value(1);
-    if (name.isEmpty() || name == QLatin1String("--help") || name == QLatin1String("-h")) {
-        print(usage());
-        return 0;
-    }
-    if (name == QLatin1String("--version")) {
-        print(QCoreApplication::applicationName() + QLatin1Char(' ') +
-              QCoreApplication::applicationVersion() + QLatin1Char('\n'));
-        return 0;
-    }
-    for (const Command& command : Commands)
-        if (name == QLatin1String(command.name))
-            return runOrHelp(command, arguments.mid(1));
-    throw CommandError{
-        QStringLiteral("unknown command \"%1\"; --help lists the commands").arg(name)};
-}
-
-/// A line on standard error, whatever a file name or a message may hold.
-void complain(const QString& text)
-{
-    std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(text.simplified()));
-}
-} // namespace
-
-bool isCommand(const QString& name)
-{
-    for (const Command& command : Commands)
-        if (name == QLatin1String(command.name))
-            return true;
-    return false;
-}
-
-int run(const QStringList& arguments)
-{
-    try {
-        const int exitCode = runCommand(arguments);
-        const QStringList warnings = PlatformLog::take();
-        for (const QString& warning : warnings)
-            complain(QLatin1String("warning: ") + warning);
-        return exitCode;
-    } catch (const CommandError& error) {
-        complain(error.text);
-        return 1;
-    }
-}
 
 CommandLine::CommandLine(const QString& description, const QStringList& positional,
                          const std::vector<Option>& options)

@@ -5,18 +5,34 @@
 
 namespace workbench {
 
+namespace {
+/// A line for each percent that is reached.
+VkdGoOn printed()
+{
+    return [last = -1](int percent) mutable {
+        if (percent != last)
+            print(QString::number(percent) + QLatin1Char('\n'));
+        last = percent;
+        return true;
+    };
+}
+} // namespace
+
 int newCommand(const QStringList& arguments)
 {
     CommandLine line(QStringLiteral("Makes a project file from a model. FILE must not exist yet."),
                      {QStringLiteral("FILE")},
                      {{QStringLiteral("model"), QStringLiteral("NAME|JSON"),
                        QStringLiteral("A sample (building, slab, hall) or a model file.")},
+                      {QStringLiteral("progress"), QString(),
+                       QStringLiteral("Prints how many percent are done while it works.")},
                       languageOption()});
     line.parse(arguments);
     applyLanguage(line);
     if (!line.has("model"))
         throw CommandError{QStringLiteral("--model is missing")};
-    print(newProject(line.argument(0), line.value("model")));
+    const VkdGoOn goOn = line.has("progress") ? printed() : VkdGoOn();
+    print(newProject(line.argument(0), line.value("model"), goOn));
     return 0;
 }
 

@@ -1,15 +1,17 @@
-#include "commands.h"
+#include "takeSnapshots.h"
 
-#include "CommandLine.h"
-
-#include <takeSnapshots.h>
+#include <CommandLine.h>
+#include <program.h>
 #include <VKD_H_ZOBDoc.h>
+
+#include <QApplication>
+#include <QFont>
 
 #include <stdexcept>
 
-namespace workbench {
-
 namespace {
+using namespace workbench;
+
 const QString PixelRatio = QStringLiteral("pixel-ratio");
 constexpr int LargestRatio = 4;
 
@@ -17,10 +19,10 @@ bool isPixelRatio(int ratio)
 {
     return ratio >= 1 && ratio <= LargestRatio;
 }
-} // namespace
 
-/// There is no application yet, which help and messages need: those are left to the command.
-int snapshotsPixelRatio(const QStringList& arguments)
+/// How many pixels a point of the pictures is to have, which Qt has to know before it starts. Help
+/// and messages need an application and are left to the command.
+int pixelRatio(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.addOption({PixelRatio, QString(), QStringLiteral("N")});
@@ -29,7 +31,7 @@ int snapshotsPixelRatio(const QStringList& arguments)
     return isPixelRatio(ratio) ? ratio : 1;
 }
 
-int snapshotsCommand(const QStringList& arguments)
+int snapshots(const QStringList& arguments)
 {
     CommandLine line(
         QStringLiteral("Leaves a picture of every page and dialog on this project in a folder, "
@@ -53,5 +55,20 @@ int snapshotsCommand(const QStringList& arguments)
     }
     return 0;
 }
+} // namespace
 
-} // namespace workbench
+/// The pictures are drawn off the screen, so that none is needed.
+int main(int argc, char* argv[])
+{
+    beginProgram();
+    const QStringList command =
+        QStringList(QStringLiteral("snapshots")) + programArguments(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(pixelRatio(command)));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // as desktops have it
+    return runCommand(snapshots, command);
+}

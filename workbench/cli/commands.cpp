@@ -1,0 +1,111 @@
+#include "commands.h"
+
+#include "CommandLine.h"
+#include "program.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <cerrno>
+#include <cstring>
+#include <vector>
+
+#include <unistd.h>
+
+namespace workbench {
+
+namespace {
+
+/// A command of this program, or one that another program beside it carries out.
+struct Command
+{
+    const char* name;
+    int (*run)(const QStringList&);
+    const char* program; ///< null if the command runs here
+    const char* summary;
+};
+
+constexpr Command Commands[] = {
+    {"new", newCommand, nullptr, "make a project file from a model"},
+    {"script", scriptCommand, nullptr, "print the script of a project's plots"},
+    {"catalogue", catalogueCommand, nullptr, "print and check a catalogue of plots"},
+    {"rows", rowsCommand, nullptr, "print and change how a project's area elements are designed"},
+    {"tree", treeCommand, nullptr, "print the plots that a project offers, with their check marks"},
+    {"snapshots", nullptr, "plib_workbench_snapshots",
+     "leave a picture of every page and dialog in a folder"},
+    {"window", nullptr, "plib_workbench_window", "open the desktop window"},
+};
+
+QString pathOf(const char* program)
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(program));
+}
+
+/// Not every program is installed.
+bool isThere(const Command& command)
+{
+    return !command.program || QFile::exists(pathOf(command.program));
+}
+
+const Command* commandOf(const QString& name)
+{
+    for (const Command& command : Commands)
+        if (name == QLatin1String(command.name) && isThere(command))
+            return &command;
+    return nullptr;
+}
+
+QString usage()
+{
+    QString text = QStringLiteral("Usage: plib_workbench COMMAND ...\n\nCommands:\n");
+    for (const Command& command : Commands)
+        if (isThere(command))
+            text += QStringLiteral("  %1 %2\n")
+                        .arg(QLatin1String(command.name), -12)
+                        .arg(QLatin1String(command.summary));
+    return text + QStringLiteral("\nplib_workbench COMMAND --help tells more about a command.\n");
+}
+
+/// The other program takes the place of this one in the process.
+int becomeProgram(const char* program, const QStringList& arguments)
+{
+    const QByteArray path = QFile::encodeName(pathOf(program));
+    std::vector<QByteArray> texts{path};
+    for (const QString& argument : arguments.mid(1))
+        texts.push_back(argument.toLocal8Bit());
+    std::vector<char*> pointers;
+    for (QByteArray& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    execv(path.constData(), pointers.data());
+    throw CommandError{QStringLiteral("cannot start %1: %2")
+                           .arg(QFile::decodeName(path), QString::fromLocal8Bit(strerror(errno)))};
+}
+} // namespace
+
+bool isCommand(const QString& name)
+{
+    return commandOf(name) != nullptr;
+}
+
+int runNamedCommand(const QStringList& arguments)
+{
+    const QString name = arguments.value(0);
+    if (name.isEmpty() || name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        print(usage());
+        return 0;
+    }
+    if (name == QLatin1String("--version")) {
+        print(QCoreApplication::applicationName() + QLatin1Char(' ') +
+              QCoreApplication::applicationVersion() + QLatin1Char('\n'));
+        return 0;
+    }
+    const Command* command = commandOf(name);
+    if (!command)
+        throw CommandError{
+            QStringLiteral("unknown command \"%1\"; --help lists the commands").arg(name)};
+    return command->program ? becomeProgram(command->program, arguments) : command->run(arguments);
+}
+
+} // namespace workbench

@@ -1,0 +1,25 @@
+#include "commands.h"
+#include "program.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+/// Without a command, and on a desktop, the window is what is wanted: alone or on a file.
+QStringList commandOf(const QStringList& arguments)
+{
+    const bool isFile = arguments.size() == 1 && !workbench::isCommand(arguments[0]) &&
+                        QFileInfo(arguments[0]).isFile();
+    if (workbench::hasDisplay() && (arguments.isEmpty() || isFile))
+        return QStringList(QStringLiteral("window")) + arguments;
+    return arguments;
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    workbench::beginProgram();
+    const QStringList arguments = workbench::programArguments(argc, argv);
+    const QCoreApplication application(argc, argv);
+    return workbench::runCommand(workbench::runNamedCommand, commandOf(arguments));
+}

@@ -1,0 +1,71 @@
+#include "program.h"
+
+#include "CommandLine.h"
+#include "PlatformLog.h"
+
+#include <vkd_lib_value.h>
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <cstdio>
+
+namespace workbench {
+
+namespace {
+int runOrHelp(int (*command)(const QStringList&), const QStringList& arguments)
+{
+    try {
+        return command(arguments);
+    } catch (const HelpWanted& help) {
+        print(help.text);
+        return 0;
+    }
+}
+
+/// A line on standard error, whatever a file name or a message may hold.
+void complain(const QString& text)
+{
+    std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(text.simplified()));
+}
+} // namespace
+
+void beginProgram()
+{
+    PlatformLog::install();
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
+    QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
+}
+
+QStringList programArguments(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+bool hasDisplay()
+{
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return true;
+    return false;
+}
+
+int runCommand(int (*command)(const QStringList&), const QStringList& arguments)
+{
+    try {
+        const int exitCode = runOrHelp(command, arguments);
+        const QStringList warnings = PlatformLog::take();
+        for (const QString& warning : warnings)
+            complain(QLatin1String("warning: ") + warning);
+        return exitCode;
+    } catch (const CommandError& error) {
+        complain(error.text);
+        return 1;
+    }
+}
+
+} // namespace workbench
