@@ -31,7 +31,6 @@ namespace {
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
-/// What the page writes for its rows by itself, so that lists made here and there are equal.
 /// A page that found another language than the first one would read the catalogue once more and
 /// offer each plot twice. The icons of its rows change all the same, since offering the load cases
 /// fills the tree once more.
