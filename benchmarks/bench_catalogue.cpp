@@ -146,7 +146,8 @@ void collectScript(benchmark::State& state)
     tree.checkAll();
     for (auto _ : state) {
         std::vector<QString> lines;
-        plib::collectScriptLines(tree.root.get(), lines, true, 1, [] { return 0; });
+        plib::collectScriptLines(tree.root.get(), lines, plib::Keywords::English, 1,
+                                 [] { return 0; });
         benchmark::DoNotOptimize(lines.size());
     }
 }
@@ -174,7 +175,7 @@ void appendLines(benchmark::State& state)
     Tree tree(int(state.range(0)));
     tree.checkAll();
     std::vector<QString> all;
-    plib::collectScriptLines(tree.root.get(), all, true, 1, [] { return 0; });
+    plib::collectScriptLines(tree.root.get(), all, plib::Keywords::English, 1, [] { return 0; });
     for (auto _ : state) {
         std::vector<QString> lines;
         walk(tree.root.get(), all, &lines);

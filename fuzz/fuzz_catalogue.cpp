@@ -68,8 +68,8 @@ void FuzzCatalogue::damagedTexts()
         QCOMPARE(testsupport::treeText(&root), before); // every parent matches its children
         std::vector<QString> lines;
         for (int progname : {1, 122})
-            scripts +=
-                plib::collectScriptLines(&root, lines, round % 2, progname, [] { return 0; });
+            scripts += plib::collectScriptLines(&root, lines, plib::keywordsIf(round % 2), progname,
+                                                [] { return 0; });
         QBuffer device(&catalogue);
         device.open(QIODevice::ReadOnly);
         plib::lintCatalogue(device, nullptr);

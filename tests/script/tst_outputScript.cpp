@@ -5,6 +5,7 @@
 
 #include <functional>
 
+using plib::Keywords;
 using plib::OutputSettings;
 using plib::ScaleMode;
 
@@ -12,9 +13,9 @@ class FixedTexts : public plib::ScriptEnvironment
 {
 public:
     QString programHead() const override { return QStringLiteral("HEAD\n"); }
-    QString programEnd(bool english) const override
+    QString programEnd(Keywords keywords) const override
     {
-        return QString::fromLatin1(english ? "END" : "ENDE");
+        return QString::fromLatin1(keywords == Keywords::English ? "END" : "ENDE");
     }
     bool hasQuads() const override { return quads; }
     QString camera() const override { return QStringLiteral("1 2 3"); }
@@ -116,16 +117,19 @@ private Q_SLOTS:
         QFETCH(bool, quads);
         m_texts.quads = quads;
         const std::vector<QString> lines{QStringLiteral("a")};
-        QCOMPARE(plib::outputScript(settings(change), lines, additional, english, m_texts),
+        QCOMPARE(plib::outputScript(settings(change), lines, additional, plib::keywordsIf(english),
+                                    m_texts),
                  expected);
     }
 
     void noLines()
     {
         OutputSettings s;
-        QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), true, m_texts), QString());
+        QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), Keywords::English, m_texts),
+                 QString());
         s.variant = VKD_P_GraphicalOutput_Prefix;
-        QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), true, m_texts), QString());
+        QCOMPARE(plib::outputScript(s, {}, QStringLiteral("text"), Keywords::English, m_texts),
+                 QString());
     }
 
     void views_data()
@@ -154,7 +158,8 @@ private Q_SLOTS:
         OutputSettings s;
         s.viewId = plib::OutputView(viewId);
         const std::vector<QString> lines{QString::fromLatin1(QTest::currentDataTag())};
-        const QString script = plib::outputScript(s, lines, QString(), english, m_texts);
+        const QString script =
+            plib::outputScript(s, lines, QString(), plib::keywordsIf(english), m_texts);
         QTEST(script.section(QLatin1Char('\n'), -3, -3), "expected");
     }
 
@@ -192,10 +197,10 @@ private Q_SLOTS:
     {
         QFETCH(Change, change);
         QFETCH(QString, english);
-        QCOMPARE(plib::sizeStatement(settings(change), true), english);
+        QCOMPARE(plib::sizeStatement(settings(change), Keywords::English), english);
         const QString german = english.replace(QLatin1String(" SC "), QLatin1String(" M "))
                                    .replace(QLatin1String("MARG NO"), QLatin1String("RAND NEIN"));
-        QCOMPARE(plib::sizeStatement(settings(change), false), german);
+        QCOMPARE(plib::sizeStatement(settings(change), Keywords::German), german);
     }
 
     void font()
@@ -209,10 +214,10 @@ private Q_SLOTS:
             OutputSettings s;
             s.fontSizeText = QString::fromLatin1(typed);
             const QString number = QString::fromLatin1(expected);
-            QCOMPARE(plib::fontStatement(s, true), QLatin1String("SCHH H6 ") + number);
-            QCOMPARE(plib::fontStatement(s, false), QLatin1String("SCHR H6 ") + number);
+            QCOMPARE(plib::fontStatement(s, Keywords::English), QLatin1String("SCHH H6 ") + number);
+            QCOMPARE(plib::fontStatement(s, Keywords::German), QLatin1String("SCHR H6 ") + number);
             s.variant = VKD_P_GraphicalOutput_Split;
-            QCOMPARE(plib::fontStatement(s, true), number);
+            QCOMPARE(plib::fontStatement(s, Keywords::English), number);
         }
     }
 
@@ -257,7 +262,8 @@ private Q_SLOTS:
         s.scaleIndex = qMax(scale, 0);
         s.scaleText = scale > 0 ? plib::engineeringScales()[scale - 1] : QString();
         for (const std::vector<QString>& lines : {std::vector<QString>(), {QStringLiteral("a")}})
-            QTEST(plib::outputScript(s, lines, additional, english, m_texts), "expected");
+            QTEST(plib::outputScript(s, lines, additional, plib::keywordsIf(english), m_texts),
+                  "expected");
     }
 
 private:

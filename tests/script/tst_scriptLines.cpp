@@ -12,8 +12,8 @@ Q_DECLARE_METATYPE(testsupport::Rows)
 static QString script(OutputNode* root, bool english, int progname, int kind)
 {
     std::vector<QString> lines{QStringLiteral("left over")};
-    const int count =
-        plib::collectScriptLines(root, lines, english, progname, [kind] { return kind; });
+    const int count = plib::collectScriptLines(root, lines, plib::keywordsIf(english), progname,
+                                               [kind] { return kind; });
     QString text;
     for (const QString& line : lines)
         text += line + QLatin1Char('\n');

@@ -115,8 +115,8 @@ private Q_SLOTS:
         for (bool english : {false, true}) {
             std::vector<QString> lines, expectedLines;
             tree.collectScriptLines(lines, english);
-            plib::collectScriptLines(&expected, expectedLines, english, StandardPage,
-                                     [&queries] { return queries.kindOfSystem(); });
+            plib::collectScriptLines(&expected, expectedLines, plib::keywordsIf(english),
+                                     StandardPage, [&queries] { return queries.kindOfSystem(); });
             QVERIFY(lines == expectedLines);
         }
         QCOMPARE(tree.selectionText(), plib::selectionText(&expected));

@@ -69,10 +69,10 @@ QString OutputTree::selectionText()
     return plib::selectionText(&m_root);
 }
 
-std::vector<QString> OutputTree::scriptLines(bool english)
+std::vector<QString> OutputTree::scriptLines(plib::Keywords keywords)
 {
     std::vector<QString> lines;
-    plib::collectScriptLines(&m_root, lines, english, m_progname,
+    plib::collectScriptLines(&m_root, lines, keywords, m_progname,
                              [this] { return m_queries.kindOfSystem(); });
     return lines;
 }

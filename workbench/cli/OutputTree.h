@@ -1,6 +1,7 @@
 #pragma once
 
 #include <catalogue/ZobModelQueries.h>
+#include <script/Keywords.h>
 #include <tree/OutputNode.h>
 #include <VKD_H_PluginParameter.h>
 
@@ -34,7 +35,7 @@ public:
     plib::OutputNode* root() { return &m_root; }
     void applySelection(const QString& text);
     QString selectionText();
-    std::vector<QString> scriptLines(bool english);
+    std::vector<QString> scriptLines(plib::Keywords keywords);
 
 private:
     void fill(const Rows& rows, const std::list<QString>& additional);

@@ -99,8 +99,8 @@ int scriptCommand(const QStringList& arguments)
                      {QStringLiteral("FILE")}, options());
     line.parse(arguments);
     applyLanguage(line);
-    const bool english = line.english("keywords", true);
-    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, english ? 1 : 0);
+    const plib::Keywords keywords = plib::keywordsIf(line.english("keywords", true));
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, keywords == plib::Keywords::English ? 1 : 0);
     auto document = openProject(line.argument(0));
     const OutputState kept = keptChoice(line, document->index());
     plib::OutputSettings settings = keptSettings(line, kept);
@@ -117,7 +117,7 @@ int scriptCommand(const QStringList& arguments)
         additional += QLatin1Char('\n');
     const plib::PlatformScriptEnvironment environment(tree.parameter());
     const QString script =
-        plib::outputScript(settings, tree.scriptLines(english), additional, english, environment);
+        plib::outputScript(settings, tree.scriptLines(keywords), additional, keywords, environment);
     writeResults(line, script, tree.selectionText());
     return 0;
 }

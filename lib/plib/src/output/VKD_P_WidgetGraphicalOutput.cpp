@@ -333,7 +333,7 @@ QString VKD_P_WidgetGraphicalOutput::getTORVAL(const QString& additional, bool e
 {
     std::vector<QString> lines;
     data->tree->collectScriptLines(lines, english);
-    return plib::outputScript(settings(), lines, additional, english,
+    return plib::outputScript(settings(), lines, additional, plib::keywordsIf(english),
                               plib::PlatformScriptEnvironment(data->pluginParameter));
 }
 
@@ -350,18 +350,18 @@ int VKD_P_WidgetGraphicalOutput::getTORVAL(std::vector<QString>& scripts, bool e
 
 QString VKD_P_WidgetGraphicalOutput::getTORVAL_BEOB(bool english)
 {
-    return plib::viewClause(settings(), english,
+    return plib::viewClause(settings(), plib::keywordsIf(english),
                             plib::PlatformScriptEnvironment(data->pluginParameter));
 }
 
 QString VKD_P_WidgetGraphicalOutput::getTORVAL_SIZE(bool english)
 {
-    return plib::sizeStatement(settings(), english);
+    return plib::sizeStatement(settings(), plib::keywordsIf(english));
 }
 
 QString VKD_P_WidgetGraphicalOutput::getTORVAL_SCHR(bool english)
 {
-    return plib::fontStatement(settings(), english);
+    return plib::fontStatement(settings(), plib::keywordsIf(english));
 }
 
 void VKD_P_WidgetGraphicalOutput::getTORVAL_LFs(std::vector<QString>& lines, bool english)
@@ -371,5 +371,5 @@ void VKD_P_WidgetGraphicalOutput::getTORVAL_LFs(std::vector<QString>& lines, boo
 
 QString VKD_P_WidgetGraphicalOutput::writeFillSet(bool fill, bool english)
 {
-    return plib::fillDefinitions(fill, english);
+    return plib::fillDefinitions(fill, plib::keywordsIf(english));
 }

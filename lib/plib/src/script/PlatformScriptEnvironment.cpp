@@ -29,9 +29,9 @@ QString PlatformScriptEnvironment::programHead() const
                               vkd_lib_getvalue(VKD_SETTING_HEAD_LANGUAGE), 0);
 }
 
-QString PlatformScriptEnvironment::programEnd(bool english) const
+QString PlatformScriptEnvironment::programEnd(Keywords keywords) const
 {
-    return vkd_h_generateENDE(english ? 1 : 0);
+    return vkd_h_generateENDE(keywords == Keywords::English ? 1 : 0);
 }
 
 bool PlatformScriptEnvironment::hasQuads() const

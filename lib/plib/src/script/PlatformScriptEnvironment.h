@@ -14,7 +14,7 @@ public:
     explicit PlatformScriptEnvironment(VKD_H_PluginParameter* parameter);
 
     QString programHead() const override;
-    QString programEnd(bool english) const override;
+    QString programEnd(Keywords keywords) const override;
     bool hasQuads() const override;
     QString camera() const override;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "script/Keywords.h"
+
 #include <QString>
 
 namespace plib {
@@ -11,7 +13,10 @@ struct Words
     const char* german;
     const char* english;
 
-    QString in(bool useEnglish) const { return QString::fromUtf8(useEnglish ? english : german); }
+    QString in(Keywords keywords) const
+    {
+        return QString::fromUtf8(keywords == Keywords::English ? english : german);
+    }
 };
 
 } // namespace plib

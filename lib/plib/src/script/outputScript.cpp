@@ -90,16 +90,16 @@ QString splitScaleValue(const OutputSettings& settings)
     return QLatin1Char(' ') + QString(settings.scaleText).remove(QLatin1String("1:"));
 }
 
-QString splitResult(const OutputSettings& settings, const QString& additional, bool english)
+QString splitResult(const OutputSettings& settings, const QString& additional, Keywords keywords)
 {
-    QString kind = SplitKind.in(english);
+    QString kind = SplitKind.in(keywords);
     QString division;
     if (settings.pageSplitId >= 0 && settings.pageSplitId < int(std::size(PageSplits))) {
         const auto& split = PageSplits[settings.pageSplitId];
         kind += QLatin1String(split.sheet);
-        division = SplitDivision.in(english) + QLatin1String(split.division);
+        division = SplitDivision.in(keywords) + QLatin1String(split.division);
     }
-    const QString scale = SplitScale.in(english) + splitScaleValue(settings);
+    const QString scale = SplitScale.in(keywords) + splitScaleValue(settings);
     // $(XYZ) is plain text here; the host resolves it.
     QString result = QLatin1String("SIZE ") + kind + scale + QLatin1Char(' ') + division +
                      QLatin1String("|SIZE ") + kind + QLatin1String("$(XYZ) ") + division;
@@ -128,17 +128,17 @@ QString body(const std::vector<QString>& lines, OutputView page, const QString& 
 }
 } // namespace
 
-QString fontStatement(const OutputSettings& settings, bool english)
+QString fontStatement(const OutputSettings& settings, Keywords keywords)
 {
     const QString number = fontNumber(settings);
     return settings.variant == VKD_P_GraphicalOutput_Split ? number
-                                                           : FontWords.in(english) + number;
+                                                           : FontWords.in(keywords) + number;
 }
 
-QString viewClause(const OutputSettings& settings, bool english,
+QString viewClause(const OutputSettings& settings, Keywords keywords,
                    const ScriptEnvironment& environment)
 {
-    QString type = TypeWord.in(english);
+    QString type = TypeWord.in(keywords);
     switch (settings.viewId) {
     case OutputView::PlaneXY: return type + QLatin1String("EGXY ; PERS INFI");
     case OutputView::PlaneXZ: return type + QLatin1String("EGXZ ; PERS INFI");
@@ -149,42 +149,43 @@ QString viewClause(const OutputSettings& settings, bool english,
     }
 }
 
-QString sizeStatement(const OutputSettings& settings, bool english)
+QString sizeStatement(const OutputSettings& settings, Keywords keywords)
 {
     const bool portrait = settings.hasFormat && settings.formatId == PageFormat::Portrait;
     const bool two = portrait && settings.picturesId == PagePictures::Two;
-    return (two ? TwoPictures.in(english) : QString()) + QLatin1String("SIZE ") +
-           QLatin1String(portrait ? "-URS" : "URS") + ScaleWord.in(english) + scaleValue(settings) +
-           (two ? TwoByOne.in(english) : QString()) + Margin.in(english);
+    return (two ? TwoPictures.in(keywords) : QString()) + QLatin1String("SIZE ") +
+           QLatin1String(portrait ? "-URS" : "URS") + ScaleWord.in(keywords) +
+           scaleValue(settings) + (two ? TwoByOne.in(keywords) : QString()) + Margin.in(keywords);
 }
 
-QString fillDefinitions(bool fill, bool english)
+QString fillDefinitions(bool fill, Keywords keywords)
 {
-    return (fill ? FillOn : FillOff).in(english);
+    return (fill ? FillOn : FillOff).in(keywords);
 }
 
 QString outputScript(const OutputSettings& settings, const std::vector<QString>& lines,
-                     const QString& additional, bool english, const ScriptEnvironment& environment)
+                     const QString& additional, Keywords keywords,
+                     const ScriptEnvironment& environment)
 {
     if (settings.variant == VKD_P_GraphicalOutput_Split)
-        return splitResult(settings, additional, english);
+        return splitResult(settings, additional, keywords);
     if (lines.empty())
         return QString();
     const bool ahead = settings.variant == VKD_P_GraphicalOutput_Prefix;
     const QLatin1Char end('\n');
-    QString script = environment.programHead() + ControlLines.in(english) +
+    QString script = environment.programHead() + ControlLines.in(keywords) +
                      QLatin1String("#define SCHR=") + fontNumber(settings) + end +
-                     fontStatement(settings, english) + end +
-                     fillDefinitions(settings.fillAreas, english);
+                     fontStatement(settings, keywords) + end +
+                     fillDefinitions(settings.fillAreas, keywords);
     if (environment.hasQuads())
-        script += CutLines.in(english);
-    script += sizeStatement(settings, english) + end;
+        script += CutLines.in(keywords);
+    script += sizeStatement(settings, keywords) + end;
     if (ahead) // it has a line end of its own
         script += additional;
-    script += body(lines, settings.viewId, viewClause(settings, english, environment));
+    script += body(lines, settings.viewId, viewClause(settings, keywords, environment));
     if (!ahead && !additional.isEmpty())
         script += additional + end;
-    return script + environment.programEnd(english) + end;
+    return script + environment.programEnd(keywords) + end;
 }
 
 } // namespace plib

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "output/OutputSettings.h"
+#include "script/Keywords.h"
 
 #include <vector>
 
@@ -15,7 +16,7 @@ public:
     /// Returns the head of the program block, including its line ends.
     virtual QString programHead() const = 0;
     /// Returns the end of the program block, without a line end.
-    virtual QString programEnd(bool english) const = 0;
+    virtual QString programEnd(Keywords keywords) const = 0;
     /// Returns whether the model contains area elements. Called only for a script that is not
     /// empty.
     virtual bool hasQuads() const = 0;
@@ -27,20 +28,21 @@ public:
 /// empty if there are no lines, whatever `additional` contains. The split variant returns the page
 /// setup as two alternatives instead, with or without lines.
 QString outputScript(const OutputSettings& settings, const std::vector<QString>& lines,
-                     const QString& additional, bool english, const ScriptEnvironment& environment);
+                     const QString& additional, Keywords keywords,
+                     const ScriptEnvironment& environment);
 
 /// Returns the clause that replaces the standard view in a line of the script.
-QString viewClause(const OutputSettings& settings, bool english,
+QString viewClause(const OutputSettings& settings, Keywords keywords,
                    const ScriptEnvironment& environment);
 
 /// Returns the page setup statement, without a line end after it. It consists of two lines if two
 /// pictures share a page.
-QString sizeStatement(const OutputSettings& settings, bool english);
+QString sizeStatement(const OutputSettings& settings, Keywords keywords);
 
 /// Returns the font statement; in the split variant only the font size, in centimetres.
-QString fontStatement(const OutputSettings& settings, bool english);
+QString fontStatement(const OutputSettings& settings, Keywords keywords);
 
 /// Returns five definitions that set whether areas are filled.
-QString fillDefinitions(bool fill, bool english);
+QString fillDefinitions(bool fill, Keywords keywords);
 
 } // namespace plib

@@ -14,32 +14,32 @@ constexpr Words SecondColour{"FARB STAN ; FARB F13 -1 ; ", "COLO STAN ; COLO C13
 constexpr Words ColourEnd{" ; FARB STAN", " ; COLO STAN"};
 } // namespace
 
-ScriptContext scriptContext(bool english)
+ScriptContext scriptContext(Keywords keywords)
 {
     ScriptContext context;
-    context.viewWord = ViewWord.in(english);
-    context.lcWord = LcWord.in(english);
-    context.designWord = DesignWord.in(english);
-    context.andWord = AndWord.in(english);
-    context.firstColour = FirstColour.in(english);
-    context.secondColour = SecondColour.in(english);
-    context.colourEnd = ColourEnd.in(english);
+    context.viewWord = ViewWord.in(keywords);
+    context.lcWord = LcWord.in(keywords);
+    context.designWord = DesignWord.in(keywords);
+    context.andWord = AndWord.in(keywords);
+    context.firstColour = FirstColour.in(keywords);
+    context.secondColour = SecondColour.in(keywords);
+    context.colourEnd = ColourEnd.in(keywords);
     return context;
 }
 
-ScriptLineWriter::ScriptLineWriter(std::vector<QString>& lines, bool english, int progname,
+ScriptLineWriter::ScriptLineWriter(std::vector<QString>& lines, Keywords keywords, int progname,
                                    KindOfSystem kindOfSystem)
     : m_lines(lines)
-    , m_english(english)
+    , m_keywords(keywords)
     , m_progname(progname)
     , m_askKind(std::move(kindOfSystem))
-    , m_context(scriptContext(english))
+    , m_context(scriptContext(keywords))
 {
 }
 
 const QString& ScriptLineWriter::script(const GraphicalOutputRecord& record) const
 {
-    return m_english ? record.scriptEnglish : record.scriptGerman;
+    return m_keywords == Keywords::English ? record.scriptEnglish : record.scriptGerman;
 }
 
 QLatin1String ScriptLineWriter::viewName(int viewKind)

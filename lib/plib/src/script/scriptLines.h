@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/GraphicalOutputRecord.h"
+#include "script/Keywords.h"
 #include "script/rowLabel.h"
 
 #include <VKD_P_WidgetGraphicalOutput_Progname.h>
@@ -24,7 +25,7 @@ struct ScriptContext
     QString colourEnd;
 };
 
-ScriptContext scriptContext(bool english);
+ScriptContext scriptContext(Keywords keywords);
 
 /// Writes the script lines of one run. collectScriptLines() walks the tree; this class has the
 /// rules for a single checked plot or row.
@@ -34,7 +35,7 @@ public:
     using KindOfSystem = std::function<int()>;
 
     /// `kindOfSystem` is called at most once, and only if the view of a plot depends on it.
-    ScriptLineWriter(std::vector<QString>& lines, bool english, int progname,
+    ScriptLineWriter(std::vector<QString>& lines, Keywords keywords, int progname,
                      KindOfSystem kindOfSystem);
 
     /// Returns the script text of a record in the language of the run.
@@ -65,7 +66,7 @@ private:
     QLatin1String viewName(int viewKind);
 
     std::vector<QString>& m_lines;
-    const bool m_english;
+    const Keywords m_keywords;
     const int m_progname;
     KindOfSystem m_askKind;
     bool m_kindKnown = false;
@@ -104,13 +105,13 @@ void writeChildren(Node* parent, ScriptLineWriter& writer)
 /// or English keywords, and returns their number. The result is empty if the first item of the tree
 /// is not an output item.
 template <typename Node>
-int collectScriptLines(Node* root, std::vector<QString>& lines, bool english, int progname,
+int collectScriptLines(Node* root, std::vector<QString>& lines, Keywords keywords, int progname,
                        ScriptLineWriter::KindOfSystem kindOfSystem)
 {
     lines.clear();
     if (root->childCount() == 0 || !outputItem(root->child(0)))
         return 0;
-    ScriptLineWriter writer(lines, english, progname, std::move(kindOfSystem));
+    ScriptLineWriter writer(lines, keywords, progname, std::move(kindOfSystem));
     for (int i = 0; i < root->childCount(); ++i)
         writeChildren(root->child(i), writer);
     return int(lines.size());

@@ -134,7 +134,7 @@ void GraphicalOutputTreeWidget::setUsedNumbersAndNames(const Rows& newRows)
 int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, bool english) const
 {
     const plib::ZobModelQueries model(parameter);
-    return plib::collectScriptLines(invisibleRootItem(), lines, english, progname,
+    return plib::collectScriptLines(invisibleRootItem(), lines, plib::keywordsIf(english), progname,
                                     [&model] { return model.kindOfSystem(); });
 }
 
