@@ -70,8 +70,9 @@ QStringList showAndUnload(const QString& path, const QByteArray& what)
     QStringList texts;
     call(library, "show", what, &texts);
     library.unload();
-    const QString platform = QStringLiteral("vkd_a vkd_aniview vkd_dbo vkd_grouptable vkd_h "
-                                            "vkd_properties_qt vkd_q vkd_qt vkd_qt_icon vkd_t");
+    const QString platform = QStringLiteral("vkd_a vkd_a_core vkd_aniview vkd_dbo vkd_grouptable "
+                                            "vkd_h vkd_h_core vkd_properties_qt vkd_q vkd_qt "
+                                            "vkd_qt_core vkd_qt_icon vkd_t");
     require(mapped() == platform, QLatin1String("mapped: ") + mapped());
     return texts;
 }

@@ -343,7 +343,7 @@ private Q_SLOTS:
         QVERIFY(storeModel(m_project->index(), model).isOk());
         int index = -1;
         QCOMPARE(vkd_zob_open(path, &index).code, int(VKD_ZOB_OK));
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 2; ++i)
             QTest::ignoreMessage(QtWarningMsg,
                                  QRegularExpression(QStringLiteral("no project is open")));
         m_view->setPicking(true);

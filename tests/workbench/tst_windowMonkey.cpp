@@ -199,7 +199,7 @@ private:
         const QString copied = path("copied.zob");
         writeFile(copied, readFile(project));
         const auto document = VKD_H_ZOBDoc::open(copied);
-        if (!document || state.write(document->index()) != VKD_ZOB_OK)
+        if (!document || !state.put(document->index()))
             return QStringLiteral("not stored");
         const auto name = [](int language) {
             return language == testsupport::English ? QStringLiteral("english")
