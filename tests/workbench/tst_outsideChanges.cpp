@@ -135,13 +135,14 @@ private Q_SLOTS:
     void news_data()
     {
         const Columns<QByteArray, QString> row("event", "bar");
-        const char* deleted = "The project file was deleted or moved. What is open can still be "
-                              "saved under another name. +SaveAs";
+        const QString deleted =
+            QStringLiteral("The project file was deleted or moved. The open project can still be "
+                           "saved under another name. +SaveAs");
         row("changed", "change", "Another program has changed the project. +Reload");
         row("deleted", "rm", deleted);
         row("moved", "mv", deleted);
         row("replaced", "cp",
-            "Another file has taken the place of the project file. What is open can still be saved "
+            "The project file was replaced by another file. The open project can still be saved "
             "under another name. +Reload +SaveAs");
     }
 
@@ -265,7 +266,7 @@ private Q_SLOTS:
     {
         const Columns<QByteArray, QByteArray, QString> row("event", "place", "reason");
         const char* gone = "It was deleted or moved while it was open.";
-        const char* replaced = "Another file has taken its place while it was open.";
+        const char* replaced = "It was replaced by another file while it was open.";
         row("deleted", "rm", "new.zob", gone);
         row("deleted, in its place", "rm", "mine.zob", gone);
         row("moved", "mv", "new.zob", gone);

@@ -93,7 +93,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Das System kann sie nicht lesen oder schreiben.</translation>
     </message>
     <message>
-        <source>Another file has taken its place while it was open.</source>
+        <source>It was replaced by another file while it was open.</source>
         <translation>Sie wurde durch eine andere Datei ersetzt, während sie geöffnet war.</translation>
     </message>
     <message>
@@ -108,11 +108,11 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Ein anderes Programm hat das Projekt geändert.</translation>
     </message>
     <message>
-        <source>The project file was deleted or moved. What is open can still be saved under another name.</source>
+        <source>The project file was deleted or moved. The open project can still be saved under another name.</source>
         <translation>Die Projektdatei wurde gelöscht oder verschoben. Das geöffnete Projekt kann noch unter einem anderen Namen gespeichert werden.</translation>
     </message>
     <message>
-        <source>Another file has taken the place of the project file. What is open can still be saved under another name.</source>
+        <source>The project file was replaced by another file. The open project can still be saved under another name.</source>
         <translation>Die Projektdatei wurde durch eine andere Datei ersetzt. Das geöffnete Projekt kann noch unter einem anderen Namen gespeichert werden.</translation>
     </message>
     <message>
@@ -591,7 +591,7 @@ Soll sie gespeichert werden?</translation>
     </message>
     <message>
         <source>The project file was deleted or moved.
-Is what is open to be saved under another name?</source>
+Is the open project to be saved under another name?</source>
         <translation>Die Projektdatei wurde gelöscht oder verschoben.
 Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</translation>
     </message>

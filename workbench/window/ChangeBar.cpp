@@ -58,11 +58,11 @@ void ChangeBar::setTexts()
         m_text->setText(tr("Another program has changed the project."));
         break;
     case ProjectWatch::File::Missing:
-        m_text->setText(tr("The project file was deleted or moved. What is open can still be saved "
-                           "under another name."));
+        m_text->setText(tr("The project file was deleted or moved. The open project can still be "
+                           "saved under another name."));
         break;
     case ProjectWatch::File::Replaced:
-        m_text->setText(tr("Another file has taken the place of the project file. What is open can "
+        m_text->setText(tr("The project file was replaced by another file. The open project can "
                            "still be saved under another name."));
         break;
     }

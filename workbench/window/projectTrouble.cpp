@@ -45,7 +45,7 @@ QString projectReason(const QString& path, cd_error_t status)
     case VKD_ZOB_MOVED:
         return QFileInfo::exists(path)
                    ? text(QT_TRANSLATE_NOOP("projectTrouble",
-                                            "Another file has taken its place while it was open."))
+                                            "It was replaced by another file while it was open."))
                    : text(QT_TRANSLATE_NOOP("projectTrouble",
                                             "It was deleted or moved while it was open."));
     default:

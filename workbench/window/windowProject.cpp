@@ -249,8 +249,8 @@ bool MainWindow::mayLeaveMissingFile()
 {
     m_watch->look();
     return !m_document || m_watch->file() != ProjectWatch::File::Missing ||
-           mayLeave(tr("The project file was deleted or moved.\nIs what is open to be saved under "
-                       "another name?"),
+           mayLeave(tr("The project file was deleted or moved.\nIs the open project to be saved "
+                       "under another name?"),
                     [this] { return saveAs(); });
 }
 
