@@ -4,6 +4,7 @@
 #include <WindowActions.h>
 
 #include <QAbstractButton>
+#include <QPointer>
 #include <QPushButton>
 #include <QSet>
 #include <QTableWidget>
@@ -19,6 +20,13 @@ QList<QAction*> windowActions(const MainWindow& window)
         if (qobject_cast<workbench::WindowActions*>(action->parent()))
             actions << action;
     return actions;
+}
+
+/// One object may destroy others.
+template <class Object>
+QList<QPointer<Object>> pointers(const QList<Object*>& objects)
+{
+    return {objects.begin(), objects.end()};
 }
 } // namespace
 
@@ -87,16 +95,17 @@ private Q_SLOTS:
                 modal->close();
         });
         closer.start(5);
-        for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
-            if (button->isVisible() && button->isEnabled())
+        for (const auto& button : pointers(window.findChildren<QAbstractButton*>()))
+            if (button && button->isVisible() && button->isEnabled())
                 button->click();
-        for (QAction* action : windowActions(window))
-            if (action->isEnabled() && action->objectName() != QLatin1String("Quit"))
+        for (const auto& action : pointers(windowActions(window)))
+            if (action && action->isEnabled() && action->objectName() != QLatin1String("Quit"))
                 action->trigger();
         QTest::mouseClick(find<QWidget>(window, "AnimatorView"), Qt::LeftButton);
         QVERIFY(window.close());
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            widget->close(); // the help
+        for (const auto& widget : pointers(QApplication::topLevelWidgets()))
+            if (widget)
+                widget->close(); // the help
     }
 };
 
