@@ -3,6 +3,7 @@
 #include <PlatformLog.h>
 #include <vkd_zob.h>
 
+#include <QComboBox>
 #include <QDir>
 #include <QPlainTextEdit>
 #include <QProcess>
@@ -58,14 +59,40 @@ void answerFileDialog(const QString& path)
     whenModal([path](QWidget* dialog) { enterFile(dialog, path); });
 }
 
-void changeChoice(const QWidget& window)
+QString savedScript(const QWidget& window, const QString& keywords)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("saved.dat"));
+    find<QComboBox>(window, "KeywordLanguage")
+        ->setCurrentIndex(keywords == QLatin1String("english"));
+    answerFileDialog(path);
+    trigger(window, "SaveScriptAction");
+    return QString::fromUtf8(readFile(path));
+}
+
+QDialog* openOutput(const QWidget& window)
 {
     trigger(window, "Output");
-    find<QWidget>(window, "OutputDialog")
-        ->findChild<QTreeWidget*>()
-        ->topLevelItem(0)
-        ->setCheckState(0, Qt::Unchecked);
+    return find<QDialog>(window, "OutputDialog");
+}
+
+void changeChoice(const QWidget& window)
+{
+    openOutput(window)->findChild<QTreeWidget*>()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
     QTRY_VERIFY(window.isWindowModified());
+}
+
+void pickInView(const QWidget& designDialog)
+{
+    whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
+    find<QPushButton>(designDialog, "buttonGroups")->click();
+}
+
+void pickGroup(const QWidget& window, int row)
+{
+    auto groups = find<QTreeWidget>(window, "GroupList");
+    groups->setCurrentItem(groups->topLevelItem(row));
+    QTest::keyClick(groups, Qt::Key_Return);
 }
 
 OtherProgram::OtherProgram(const QString& path, Work work)
@@ -134,9 +161,15 @@ QString ProjectTest::copy(const char* name) const
 
 std::unique_ptr<MainWindow> ProjectTest::open(const char* name) const
 {
+    copy(name);
+    return reopen(name);
+}
+
+std::unique_ptr<MainWindow> ProjectTest::reopen(const char* name) const
+{
     auto window = std::make_unique<MainWindow>(commandLineServices());
     window->show();
-    if (!window->openProject(copy(name)) ||
+    if (!window->openProject(path(name)) ||
         !QTest::qWaitFor([&window] { return !script(*window).isEmpty(); }))
         qFatal("not open");
     return window;

@@ -32,8 +32,15 @@ void press(QWidget* box, QMessageBox::StandardButton button);
 void readMessage(QStringList& texts);
 /// Names a file in the file dialog that opens next.
 void answerFileDialog(const QString& path);
+/// The script as the window saves it in a file.
+QString savedScript(const QWidget& window, const QString& keywords);
+QDialog* openOutput(const QWidget& window);
 /// Opens the output dialog and takes a plot back.
 void changeChoice(const QWidget& window);
+/// Has the groups of the current row of the design dialog picked in the view.
+void pickInView(const QWidget& designDialog);
+/// By Return in the list of groups.
+void pickGroup(const QWidget& window, int row);
 
 /// Another program at work on a project, which ends with the object and stores nothing.
 class OtherProgram
@@ -77,6 +84,8 @@ protected:
     QString copy(const char* name) const;
     /// A window on such a copy, with its script.
     std::unique_ptr<workbench::MainWindow> open(const char* name) const;
+    /// A window on a project that is there, with its script.
+    std::unique_ptr<workbench::MainWindow> reopen(const char* name) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QByteArray m_building;

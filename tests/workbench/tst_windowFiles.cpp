@@ -98,11 +98,10 @@ private Q_SLOTS:
             QVERIFY(find<QDialog>(*window, dialog)->isVisible());
         QVERIFY(!window->isWindowModified());
         QTRY_COMPARE(script(*window), chosen);
-        MainWindow again(commandLineServices());
-        QVERIFY(again.openProject(path(opened)));
-        QTRY_COMPARE(script(again), chosen);
-        trigger(again, "TextOutput");
-        QVERIFY(!find<QCheckBox>(again, "ReactionList")->isChecked());
+        const auto again = reopen(opened);
+        QCOMPARE(script(*again), chosen);
+        trigger(*again, "TextOutput");
+        QVERIFY(!find<QCheckBox>(*again, "ReactionList")->isChecked());
         other.reset();
         QCOMPARE(readFile(path("mine.zob")) == m_building, isCopied);
         int index = -1, length = 0;

@@ -7,7 +7,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTreeWidget>
 
 using namespace windowtest;
 using workbench::MainWindow;
@@ -199,6 +198,17 @@ private Q_SLOTS:
         QVERIFY(!window->isWindowModified());
     }
 
+    void writeProtected()
+    {
+        QFile::setPermissions(copy("protected.zob"), QFile::ReadOwner);
+        const auto window = reopen("protected.zob");
+        QStringList messages;
+        readMessage(messages);
+        openOutput(*window)->accept();
+        QCOMPARE(reasonOf(messages.value(0)),
+                 QStringLiteral("It or the folder it lies in is write-protected."));
+    }
+
     /// While another program stores: no script rather than that of a choice which is gone, and no
     /// dialog that would show less than the project holds.
     void unreadable()
@@ -236,13 +246,10 @@ private Q_SLOTS:
             find<QPushButton>(*dialog, "btnNew")->click();
             auto table = find<QTableWidget>(*dialog, "table");
             table->setCurrentCell(table->rowCount() - 1, 0);
-            whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
-            find<QPushButton>(*dialog, "buttonGroups")->click();
+            pickInView(*dialog);
         });
         trigger(*window, "Design");
-        auto groups = find<QTreeWidget>(*window, "GroupList");
-        groups->setCurrentItem(groups->topLevelItem(5));
-        QTest::keyClick(groups, Qt::Key_Return);
+        pickGroup(*window, 5);
         QStringList messages;
         {
             const OtherProgram other(path("picks.zob"), OtherProgram::Taking);
