@@ -108,7 +108,10 @@ void DesignParameter::connectTable()
     connect(table, &QTableWidget::itemChanged, this, &DesignParameter::slot_typComboChanged);
     connect(table, &QTableWidget::itemSelectionChanged, this,
             &DesignParameter::slot_editCellWidget);
-    connect(qApp, &QApplication::focusChanged, this, &DesignParameter::makeEditedCellCurrent);
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (hasFocusInEditor())
+            makeEditedCellCurrent();
+    });
     connect(table, &Table::signal_newClicked, this, &DesignParameter::slot_newRowClicked);
     connect(table, &Table::signal_delClicked, this, &DesignParameter::slot_deleteClicked);
 }

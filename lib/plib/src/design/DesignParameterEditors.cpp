@@ -77,12 +77,11 @@ bool DesignParameter::hasFocusInEditor() const
     return editor && focused && (editor == focused || editor->isAncestorOf(focused));
 }
 
-/// An editor may stay open while another cell is the current one. If it gets the focus, its cell
-/// must become current again, because the slots work on the current row.
+/// An editor may stay open while another cell is the current one. If it is used, its cell must
+/// become current again, because the slots work on the current row.
 void DesignParameter::makeEditedCellCurrent()
 {
-    if (!hasFocusInEditor() ||
-        (data->table->currentRow() == editRow && data->table->currentColumn() == editColumn))
+    if (data->table->currentRow() == editRow && data->table->currentColumn() == editColumn)
         return;
     const VKD_QT_SignalBlocker blocker(data->table);
     data->table->setCurrentCell(editRow, editColumn);
@@ -149,6 +148,8 @@ void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
     const auto& kind = kinds[data->table->getColumnId(column) - Table::DirectionAndDistance];
     auto button = new Button(data->table, item, kind.modus);
     layOver(row, column, button);
+    // In a window that is not active, a press does not give the button the focus.
+    connect(button, &QPushButton::pressed, this, &DesignParameter::makeEditedCellCurrent);
     connect(button, &QPushButton::clicked, this, kind.slot);
 }
 
