@@ -28,7 +28,7 @@ constexpr int DefaultSeed = 20261121;
 constexpr unsigned HangSeconds = 120;
 
 /// The seed and the last steps, as lines that a handler of signals may still print.
-constexpr int StoryLength = 20;
+constexpr int StoryLength = 12;
 constexpr int LineLength = 160;
 char lines[StoryLength][LineLength];
 int lineCount = 0;

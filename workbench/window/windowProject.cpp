@@ -70,8 +70,8 @@ bool MainWindow::openDocument(const QString& path, bool keepsCamera)
     say(tr("%1 is open.").arg(QFileInfo(path).fileName()));
     const auto before = std::move(m_document); // until nothing shows it any more
     setDocument(std::move(document));
+    m_isProjectToShow = isFirst; // not also the one before, which may still wait for the painting
     if (isFirst) {
-        m_isProjectToShow = true;
         update();
     } else {
         if (!keepsCamera)
