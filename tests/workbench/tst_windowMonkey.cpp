@@ -186,8 +186,8 @@ private:
     void lookAtAll(MainWindow& window)
     {
         QTest::qWait(1);
-        if (script(window).isEmpty()) // also the work that is left for later
-            QTest::qWait(20);
+        // The script of a new project follows after its first painting.
+        (void)QTest::qWaitFor([&window] { return !script(window).isEmpty(); }, 1000);
         if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
             return;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
