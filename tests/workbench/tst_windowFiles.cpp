@@ -150,33 +150,41 @@ private Q_SLOTS:
 
     void openProjectIsNotReplaced_data()
     {
-        const Columns<QByteArray> row("action");
-        for (const char* action : {"SaveScriptAction", "ExportSheetsAction", "NewFromSample"})
-            row(action, action);
+        const Columns<QByteArray, bool> row("action", "isThere");
+        row("script", "SaveScriptAction", true);
+        row("script in place of a lost project", "SaveScriptAction", false);
+        row("sheets", "ExportSheetsAction", true);
+        row("new project", "NewFromSample", true);
     }
 
     /// Another name is asked for, though the user agreed to replace the file.
     void openProjectIsNotReplaced()
     {
         QFETCH(const QByteArray, action);
+        QFETCH(const bool, isThere);
         const auto window = open("mine.zob");
+        if (!isThere)
+            QFile::remove(path("mine.zob"));
         QStringList messages;
+        const auto readComplaint = [&messages](QWidget* complaint) {
+            messages << qobject_cast<QMessageBox*>(complaint)->text();
+            whenModal([](QWidget* again) { again->close(); });
+            press(complaint, QMessageBox::Ok);
+        };
+        const auto agree = [&readComplaint](QWidget* box) {
+            whenModal(readComplaint);
+            press(box, QMessageBox::Yes);
+        };
         whenModal([&](QWidget* dialog) {
-            whenModal([&](QWidget* box) {
-                whenModal([&](QWidget* complaint) {
-                    messages << qobject_cast<QMessageBox*>(complaint)->text();
-                    whenModal([](QWidget* again) { again->close(); });
-                    press(complaint, QMessageBox::Ok);
-                });
-                press(box, QMessageBox::Yes);
-            });
+            isThere ? whenModal(agree) : whenModal(readComplaint);
             enterFile(dialog, path("mine.zob"));
         });
         trigger(*window, action);
         QCOMPARE(
             messages.join(QLatin1Char('|')),
             QStringLiteral("The project %1 is open.\nChoose another name.").arg(path("mine.zob")));
-        QCOMPARE(readFile(path("mine.zob")), m_building);
+        QCOMPARE(QFile::exists(path("mine.zob")), isThere);
+        QVERIFY(!isThere || readFile(path("mine.zob")) == m_building);
     }
 
     void recent()

@@ -19,7 +19,7 @@ QString chooseFileToSave(QWidget* parent, const QString& title, const QString& p
     dialog.selectFile(proposal);
     while (dialog.exec() == QDialog::Accepted) {
         const QString path = dialog.selectedFiles().value(0);
-        if (!isSameFile(path, openProject))
+        if (path != openProject && !isSameFile(path, openProject)) // which may be gone
             return path;
         VKD_QT_MessageBox::warning(
             parent, title,
