@@ -119,11 +119,14 @@ void Monkey::note(const char* act, const QObject* target, const QString& more)
     qsnprintf(lines[lineCount++ % StoryLength], LineLength, "%6d %s %s %s %s\n", m_steps, act,
               target->metaObject()->className(), qPrintable(target->objectName()),
               qPrintable(more.left(80)));
+    if (qEnvironmentVariableIsSet("PLIB_MONKEY_LOG"))
+        std::fputs(line(lineCount - 1), stderr);
 }
 
 void Monkey::step(QWidget* window)
 {
     m_window = window;
+    m_triggered = nullptr;
     switch (below(12)) {
     case 0:
     case 1:
@@ -308,9 +311,9 @@ void Monkey::trigger(const QWidget* window)
     const QList<QAction*> actions = bar ? offered(bar->actions()) : QList<QAction*>();
     if (actions.isEmpty())
         return;
-    QAction* action = actions[below(actions.size())];
-    note("action", action, action->text());
-    action->trigger();
+    m_triggered = actions[below(actions.size())];
+    note("action", m_triggered, m_triggered->text());
+    m_triggered->trigger();
 }
 
 void Monkey::drop(QWidget* widget)
@@ -331,6 +334,7 @@ void Monkey::drop(QWidget* widget)
 void Monkey::close(QWidget* window)
 {
     m_window = window;
+    m_triggered = nullptr;
     note("close", window);
     window->close();
 }

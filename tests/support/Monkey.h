@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <random>
@@ -34,6 +36,8 @@ public:
     int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
     /// How many steps it made, those in dialogs and menus included.
     int steps() const { return m_steps; }
+    /// The action of a menu that the last step triggered; null if it did something else.
+    const QAction* triggered() const { return m_triggered; }
     /// The seed and the last steps, for the message of a failure.
     static QByteArray story();
 
@@ -64,6 +68,7 @@ private:
     std::mt19937 m_random;
     QStringList m_files;
     QWidget* m_window = nullptr; // of the step
+    QPointer<QAction> m_triggered;
     int m_steps = 0;
 };
 
