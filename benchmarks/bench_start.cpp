@@ -4,8 +4,7 @@
 
 #include "EndedByPicture.h"
 #include "RatioReporter.h"
-
-#include <runWindow.h>
+#include "window/main/runWindow.h"
 
 #include <QProcess>
 #include <QSettings>

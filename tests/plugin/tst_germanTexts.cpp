@@ -80,11 +80,12 @@ private Q_SLOTS:
         const QTemporaryDir copies;
         const QString copy = copies.filePath(QStringLiteral("texts_de.ts"));
         QVERIFY(QFile::copy(file, copy));
-        QCOMPARE(
-            QProcess::execute(QStringLiteral(LUPDATE),
-                              {QStringLiteral("-silent"), folder, QStringLiteral("-I"),
-                               folder + QLatin1String("/../include"), QStringLiteral("-ts"), copy}),
-            0);
+        const QString include = QStringLiteral("-I");
+        QCOMPARE(QProcess::execute(
+                     QStringLiteral(LUPDATE),
+                     {QStringLiteral("-silent"), folder, include, folder + QLatin1String("/.."),
+                      include, folder + QLatin1String("/../include"), QStringLiteral("-ts"), copy}),
+                 0);
         QByteArrayList missing;
         for (const Message& message : messages(copy))
             if (!message.finished || message.german.isEmpty())

@@ -1,6 +1,7 @@
 #include "ProjectTest.h"
 
-#include <PlatformLog.h>
+#include "cli/PlatformLog.h"
+
 #include <vkd_zob.h>
 
 #include <QComboBox>

@@ -2,9 +2,8 @@
 
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
-
-#include <commandLineServices.h>
-#include <MainWindow.h>
+#include "window/main/commandLineServices.h"
+#include "window/main/MainWindow.h"
 
 #include <QMessageBox>
 #include <QTemporaryDir>

@@ -1,6 +1,7 @@
 #include "VisitedProject.h"
 
-#include <RecordsModel.h>
+#include "window/records/RecordsModel.h"
+
 #include <vkd_dbo_groups.h>
 #include <vkd_dbo_model.h>
 

@@ -2,9 +2,9 @@
 
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
+#include "window/main/MainWindow.h"
 
 #include <HostProject.h>
-#include <MainWindow.h>
 
 #include <QSet>
 #include <QTableWidget>

@@ -1,6 +1,6 @@
+#include "project/OutputState.h"
 #include "TestSupport.h"
 
-#include <OutputState.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <QProcess>

@@ -1,15 +1,15 @@
+#include "cli/PlatformLog.h"
 #include "VisitedProject.h"
 #include "WidgetWalk.h"
+#include "window/support/askAboutNewer.h"
+#include "window/support/SlowWork.h"
+#include "window/support/WindowSettings.h"
 
 #include <AnimatorView.h>
-#include <askAboutNewer.h>
-#include <PlatformLog.h>
-#include <SlowWork.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TableItems.h>
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_QT_TabDialog.h>
-#include <WindowSettings.h>
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,6 +1,5 @@
 #include "VisitedProject.h"
-
-#include <WindowSettings.h>
+#include "window/support/WindowSettings.h"
 
 #include <QPushButton>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
+#include "project/OutputState.h"
+#include "project/TextOutputState.h"
 #include "ProjectTest.h"
+#include "window/textoutput/ExtentFields.h"
 
-#include <ExtentFields.h>
-#include <OutputState.h>
-#include <TextOutputState.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <QCheckBox>

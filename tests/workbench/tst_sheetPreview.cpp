@@ -1,13 +1,13 @@
 #include "ProjectTest.h"
+#include "sheet/exportSheets.h"
+#include "sheet/ModelImages.h"
+#include "sheet/readSheetPlan.h"
+#include "sheet/sheetCaptions.h"
+#include "sheet/SheetPainter.h"
+#include "sheet/SheetPreview.h"
+#include "sheet/SheetView.h"
+#include "window/output/LoadCaseTable.h"
 
-#include <exportSheets.h>
-#include <LoadCaseTable.h>
-#include <ModelImages.h>
-#include <readSheetPlan.h>
-#include <sheetCaptions.h>
-#include <SheetPainter.h>
-#include <SheetPreview.h>
-#include <SheetView.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <QComboBox>

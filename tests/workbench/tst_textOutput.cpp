@@ -1,8 +1,8 @@
 #include "ProjectTest.h"
+#include "window/textoutput/CombinationTable.h"
+#include "window/textoutput/ExtentFields.h"
+#include "window/textoutput/TextOutputDialog.h"
 
-#include <CombinationTable.h>
-#include <ExtentFields.h>
-#include <TextOutputDialog.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT4_ComboBox.h>
 

@@ -1,9 +1,9 @@
 #include "ProjectTest.h"
+#include "window/design/sharedGroupsQuestion.h"
+#include "window/output/changedLines.h"
+#include "window/output/UsersCamera.h"
 
 #include <AnimatorView.h>
-#include <changedLines.h>
-#include <sharedGroupsQuestion.h>
-#include <UsersCamera.h>
 
 #include <QComboBox>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "ProjectTest.h"
+#include "window/main/WindowActions.h"
 
 #include <VKD_H_ZOBDoc.h>
-#include <WindowActions.h>
 
 #include <QAbstractButton>
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "ProjectTest.h"
+#include "window/main/runWindow.h"
 
-#include <runWindow.h>
 #include <vkd_lib_value.h>
 #include <vkd_zob.h>
 

@@ -1,8 +1,8 @@
 #include "Monkey.h"
 #include "ProjectTest.h"
+#include "window/output/OutputDialog.h"
+#include "window/textoutput/TextOutputDialog.h"
 
-#include <OutputDialog.h>
-#include <TextOutputDialog.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 

@@ -1,7 +1,7 @@
+#include "cli/CommandLine.h"
+#include "cli/program.h"
 #include "takeSnapshots.h"
 
-#include <CommandLine.h>
-#include <program.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <QApplication>

@@ -1,9 +1,8 @@
 #include "textOutputSnapshots.h"
 
 #include "SnapshotAlbum.h"
-
-#include <MainWindow.h>
-#include <TextOutputDialog.h>
+#include "window/main/MainWindow.h"
+#include "window/textoutput/TextOutputDialog.h"
 
 #include <QAction>
 

@@ -3,8 +3,8 @@
 #include "looks.h"
 #include "SnapshotAlbum.h"
 #include "textOutputSnapshots.h"
+#include "window/main/MainWindow.h"
 
-#include <MainWindow.h>
 #include <VKD_H_SelGRP_Dialog.h>
 
 #include <QAction>

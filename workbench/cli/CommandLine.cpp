@@ -1,6 +1,6 @@
-#include "CommandLine.h"
+#include "cli/CommandLine.h"
 
-#include "PlatformLog.h"
+#include "cli/PlatformLog.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>

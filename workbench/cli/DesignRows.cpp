@@ -1,8 +1,8 @@
-#include "DesignRows.h"
+#include "cli/DesignRows.h"
 
-#include "CommandLine.h"
+#include "cli/CommandLine.h"
+#include "project/projectKeys.h"
 
-#include <projectKeys.h>
 #include <record/designEntries.h>
 #include <record/designFields.h>
 #include <record/designRecord.h>

@@ -1,9 +1,9 @@
-#include "OutputTree.h"
+#include "cli/OutputTree.h"
 
-#include "CommandLine.h"
+#include "cli/CommandLine.h"
+#include "project/OutputState.h"
 
 #include <catalogue/Catalogue.h>
-#include <OutputState.h>
 #include <script/scriptLines.h>
 #include <tree/selectionText.h>
 #include <tree/TreeBuilder.h>

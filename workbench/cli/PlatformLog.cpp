@@ -1,4 +1,4 @@
-#include "PlatformLog.h"
+#include "cli/PlatformLog.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
-#include "commands.h"
+#include "cli/commands.h"
 
-#include "CommandLine.h"
+#include "cli/CommandLine.h"
 
 #include <catalogue/catalogueLint.h>
 #include <vkd_lib_searchpath.h>

@@ -1,7 +1,7 @@
-#include "commands.h"
+#include "cli/commands.h"
 
-#include "CommandLine.h"
-#include "program.h"
+#include "cli/CommandLine.h"
+#include "cli/program.h"
 
 #include <QCoreApplication>
 #include <QDir>

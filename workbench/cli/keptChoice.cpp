@@ -1,4 +1,4 @@
-#include "keptChoice.h"
+#include "cli/keptChoice.h"
 
 #include <output/keptSettings.h>
 #include <vkd_dbo_camera.h>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "CommandLine.h"
+#include "cli/CommandLine.h"
+#include "project/OutputState.h"
 
 #include <output/OutputSettings.h>
-#include <OutputState.h>
 
 namespace workbench {
 

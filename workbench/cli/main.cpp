@@ -1,5 +1,5 @@
-#include "commands.h"
-#include "program.h"
+#include "cli/commands.h"
+#include "cli/program.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

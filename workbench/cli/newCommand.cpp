@@ -1,7 +1,7 @@
-#include "commands.h"
+#include "cli/commands.h"
 
-#include "CommandLine.h"
-#include "newProject.h"
+#include "cli/CommandLine.h"
+#include "cli/newProject.h"
 
 namespace workbench {
 

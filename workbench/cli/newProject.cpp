@@ -1,7 +1,7 @@
-#include "newProject.h"
+#include "cli/newProject.h"
 
-#include "CommandLine.h"
-#include "DesignRows.h"
+#include "cli/CommandLine.h"
+#include "cli/DesignRows.h"
 
 #include <record/designStore.h>
 #include <vkd_dbo_model.h>

@@ -1,7 +1,7 @@
-#include "program.h"
+#include "cli/program.h"
 
-#include "CommandLine.h"
-#include "PlatformLog.h"
+#include "cli/CommandLine.h"
+#include "cli/PlatformLog.h"
 
 #include <vkd_lib_value.h>
 

@@ -1,7 +1,7 @@
-#include "commands.h"
+#include "cli/commands.h"
 
-#include "CommandLine.h"
-#include "DesignRows.h"
+#include "cli/CommandLine.h"
+#include "cli/DesignRows.h"
 
 #include <record/designFields.h>
 #include <record/designStore.h>

@@ -1,9 +1,9 @@
-#include "commands.h"
+#include "cli/commands.h"
 
-#include "CommandLine.h"
-#include "keptChoice.h"
-#include "OutputTree.h"
-#include "settingsArguments.h"
+#include "cli/CommandLine.h"
+#include "cli/keptChoice.h"
+#include "cli/OutputTree.h"
+#include "cli/settingsArguments.h"
 
 #include <script/outputScript.h>
 #include <script/PlatformScriptEnvironment.h>

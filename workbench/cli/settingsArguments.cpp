@@ -1,6 +1,6 @@
-#include "settingsArguments.h"
+#include "cli/settingsArguments.h"
 
-#include "CommandLine.h"
+#include "cli/CommandLine.h"
 
 #include <output/fontSize.h>
 

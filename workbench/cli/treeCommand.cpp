@@ -1,8 +1,8 @@
-#include "commands.h"
+#include "cli/commands.h"
 
-#include "CommandLine.h"
-#include "keptChoice.h"
-#include "OutputTree.h"
+#include "cli/CommandLine.h"
+#include "cli/keptChoice.h"
+#include "cli/OutputTree.h"
 
 #include <VKD_H_ZOBDoc.h>
 

@@ -1,4 +1,4 @@
-#include "ModelImages.h"
+#include "sheet/ModelImages.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SheetPlan.h"
+#include "sheet/SheetPlan.h"
 
 #include <AnimatorPicture.h>
 

@@ -1,4 +1,4 @@
-#include "PageNumber.h"
+#include "sheet/PageNumber.h"
 
 #include <QKeyEvent>
 

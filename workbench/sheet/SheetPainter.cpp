@@ -1,6 +1,6 @@
-#include "SheetPainter.h"
+#include "sheet/SheetPainter.h"
 
-#include "ModelImages.h"
+#include "sheet/ModelImages.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

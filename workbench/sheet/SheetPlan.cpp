@@ -1,4 +1,4 @@
-#include "SheetPlan.h"
+#include "sheet/SheetPlan.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "SheetPlanReader.h"
+#include "sheet/SheetPlanReader.h"
 
 #include <cmath>
 

@@ -1,10 +1,10 @@
-#include "SheetPreview.h"
+#include "sheet/SheetPreview.h"
 
-#include "actionButton.h"
-#include "ModelImages.h"
-#include "PageNumber.h"
-#include "SheetPainter.h"
-#include "SheetView.h"
+#include "sheet/actionButton.h"
+#include "sheet/ModelImages.h"
+#include "sheet/PageNumber.h"
+#include "sheet/SheetPainter.h"
+#include "sheet/SheetView.h"
 
 #include <VKD_QT4_ComboBox.h>
 

@@ -1,6 +1,6 @@
-#include "SheetView.h"
+#include "sheet/SheetView.h"
 
-#include "SheetPainter.h"
+#include "sheet/SheetPainter.h"
 
 #include <QEvent>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "actionButton.h"
+#include "sheet/actionButton.h"
 
 #include <QToolButton>
 

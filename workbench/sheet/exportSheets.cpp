@@ -1,6 +1,6 @@
-#include "exportSheets.h"
+#include "sheet/exportSheets.h"
 
-#include "SheetPainter.h"
+#include "sheet/SheetPainter.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

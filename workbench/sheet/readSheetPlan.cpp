@@ -1,6 +1,6 @@
-#include "readSheetPlan.h"
+#include "sheet/readSheetPlan.h"
 
-#include "SheetPlanReader.h"
+#include "sheet/SheetPlanReader.h"
 
 namespace workbench {
 

@@ -1,4 +1,4 @@
-#include "sheetCaptions.h"
+#include "sheet/sheetCaptions.h"
 
 namespace workbench {
 

@@ -1,0 +1,67 @@
+#include "project/ProjectWatch.h"
+
+#include <vkd_zob.h>
+
+#include <QFileInfo>
+
+namespace workbench {
+
+namespace {
+constexpr int SlowMs = 3000;
+constexpr int SoonMs = 100;
+} // namespace
+
+ProjectWatch::ProjectWatch(QObject* parent)
+    : QObject(parent)
+{
+    m_slow.setInterval(SlowMs);
+    m_soon.setInterval(SoonMs);
+    m_soon.setSingleShot(true);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_soon, QOverload<>::of(&QTimer::start));
+    for (const QTimer* timer : {&m_slow, &m_soon})
+        connect(timer, &QTimer::timeout, this, &ProjectWatch::look);
+}
+
+void ProjectWatch::setProject(int index, const QString& path)
+{
+    if (!m_path.isEmpty())
+        m_watcher.removePath(m_path);
+    m_index = index;
+    m_path = index > 0 ? path : QString();
+    m_file = File::Present;
+    m_changes = 0;
+    m_soon.stop();
+    if (index < 1)
+        return m_slow.stop();
+    watchFile();
+    m_slow.start();
+    m_soon.start(); // for changes since the project was opened
+}
+
+void ProjectWatch::look()
+{
+    if (m_index < 1)
+        return;
+    watchFile();
+    int changes = m_changes;
+    const cd_error_t status = vkd_zob_outside_changes(m_index, &changes);
+    if (status != VKD_ZOB_OK && status != VKD_ZOB_MOVED)
+        return; // another program is storing; the next check follows
+    File file = File::Present;
+    if (status == VKD_ZOB_MOVED)
+        file = QFileInfo::exists(m_path) ? File::Replaced : File::Missing;
+    if (file == m_file && changes == m_changes)
+        return;
+    m_file = file;
+    m_changes = changes;
+    Q_EMIT noticed();
+}
+
+/// The watcher drops a file that was deleted or replaced, and there may be a new one.
+void ProjectWatch::watchFile()
+{
+    if (m_watcher.files().isEmpty() && QFileInfo::exists(m_path))
+        m_watcher.addPath(m_path);
+}
+
+} // namespace workbench

@@ -1,0 +1,103 @@
+#include "project/SeenPart.h"
+
+#include "project/projectKeys.h"
+
+#include <ZobTransaction.h>
+
+#include <QCryptographicHash>
+
+#include <utility>
+#include <vector>
+
+namespace workbench {
+
+namespace {
+using KeyPair = std::pair<int, int>;
+
+std::vector<KeyPair> keysOf(ProjectPart part)
+{
+    switch (part) {
+    case ProjectPart::Design: return {{DesignKey1, DesignKey2}, {DialogPageKey, DesignDialogPage}};
+    case ProjectPart::Output: return {{DialogPageKey, OutputDialogPage}};
+    case ProjectPart::TextOutput: return {{DialogPageKey, TextOutputDialogPage}};
+    }
+    return {};
+}
+
+/// Adds the records of a sequence, each with its length, and a mark for its end.
+cd_error_t addRecords(int index, KeyPair keys, QCryptographicHash& hash)
+{
+    QByteArray record(1024, Qt::Uninitialized);
+    cd_error_t status = VKD_ZOB_OK;
+    for (int position = 0; status == VKD_ZOB_OK;) {
+        int length = record.size();
+        status = vkd_zob_get(index, keys.first, keys.second, record.data(), &length, position);
+        if (status == VKD_ZOB_CUT) {
+            record.resize(2 * record.size());
+            status = VKD_ZOB_OK;
+        } else if (status == VKD_ZOB_OK) {
+            hash.addData(QByteArray::number(length) + ' ');
+            hash.addData(record.constData(), length);
+            ++position;
+        }
+    }
+    vkd_zob_free_ex(index, keys.first, keys.second);
+    hash.addData("end");
+    const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
+    return isWhole ? cd_error_t(VKD_ZOB_OK) : status;
+}
+
+cd_error_t readDigest(int index, ProjectPart part, QByteArray* digest)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    for (const KeyPair& keys : keysOf(part))
+        if (const cd_error_t status = addRecords(index, keys, hash); status != VKD_ZOB_OK)
+            return status;
+    *digest = hash.result();
+    return VKD_ZOB_OK;
+}
+
+/// Drops the change. The user did not cancel it, so its failure is never that.
+cd_error_t failureOf(ZobTransaction& change)
+{
+    const cd_error_t status = change.rollback().code;
+    return status == VKD_ZOB_CANCELLED ? cd_error_t(VKD_ZOB_FAILED) : status;
+}
+} // namespace
+
+SeenPart::SeenPart(ProjectPart part)
+    : m_part(part)
+{
+}
+
+cd_error_t SeenPart::look(int index)
+{
+    return readDigest(index, m_part, &m_digest);
+}
+
+bool SeenPart::isOutdated(int index) const
+{
+    QByteArray present;
+    return readDigest(index, m_part, &present) == VKD_ZOB_OK && present != m_digest;
+}
+
+cd_error_t SeenPart::store(int index, const std::function<bool()>& put, Newer newer)
+{
+    ZobTransaction change(index);
+    if (!change.status().isOk())
+        return change.status().code;
+    QByteArray present;
+    cd_error_t status = readDigest(index, m_part, &present);
+    if (status != VKD_ZOB_OK)
+        return status;
+    if (newer == Newer::Keep && present != m_digest)
+        return PartChanged;
+    if (!put() || readDigest(index, m_part, &present) != VKD_ZOB_OK)
+        return failureOf(change);
+    status = change.commit().code;
+    if (status == VKD_ZOB_OK)
+        m_digest = present;
+    return status;
+}
+
+} // namespace workbench

@@ -1,0 +1,169 @@
+#include "window/design/DesignDialog.h"
+
+#include "project/projectKeys.h"
+#include "window/design/sharedGroupsQuestion.h"
+#include "window/support/HelpKey.h"
+#include "window/support/KeptPlace.h"
+#include "window/support/withinScreen.h"
+
+#include <vkd_dbo_model.h>
+#include <vkd_dbo_queries.h>
+#include <VKD_H_ZOBDoc.h>
+#include <VKD_P_DesignParameter>
+#include <VKD_P_DesignParameter_Role.h>
+#include <VKD_QT_MessageBox.h>
+#include <VKD_QT_Ok.h>
+#include <ZobSnapshot.h>
+
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+namespace {
+constexpr int OkAndCancel = 3;
+
+/// Puts the design records of a store in place of those of another one.
+cd_error_t copyRecords(int from, int to)
+{
+    int length = 0;
+    cd_error_t put = vkd_zob_put(to, DesignKey1, DesignKey2, nullptr, &length, 0);
+    QByteArray record(1024, Qt::Uninitialized);
+    cd_error_t status = VKD_ZOB_OK;
+    for (int position = 0; put == VKD_ZOB_OK && status == VKD_ZOB_OK;) {
+        length = record.size();
+        status = vkd_zob_get(from, DesignKey1, DesignKey2, record.data(), &length, position);
+        if (status == VKD_ZOB_CUT) {
+            record.resize(2 * record.size());
+            status = VKD_ZOB_OK;
+        } else if (status == VKD_ZOB_OK) {
+            put = vkd_zob_put(to, DesignKey1, DesignKey2, record.constData(), &length, 1);
+            ++position;
+        }
+    }
+    vkd_zob_free_ex(from, DesignKey1, DesignKey2);
+    const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
+    return put != VKD_ZOB_OK || isWhole ? put : status;
+}
+
+/// For each row the groups that other rows name, too.
+QVector<QVector<int>> sharedGroups(const QTableWidget& table)
+{
+    QVector<QVector<int>> groups;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const QVariant shared =
+            table.item(row, 0)->data(vkd::plib::designparameter::SharedGroupsRole);
+        groups << shared.value<QVector<int>>();
+    }
+    return groups;
+}
+} // namespace
+
+DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
+    : VKD_H_Dialog(parent, "DesignDialog")
+    , m_document(document)
+    , m_desk(VKD_H_ZOBDoc::scratch())
+{
+    setWindowTitle(tr("Design Parameters"));
+    setHelpTopic(this, "MERDAN/PARA");
+    new QVBoxLayout(this);
+    resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28});
+    new KeptPlace(this);
+}
+
+/// The page goes before its documents.
+DesignDialog::~DesignDialog()
+{
+    delete m_page;
+}
+
+cd_error_t DesignDialog::load()
+{
+    const ZobSnapshot snapshot(m_document->index());
+    cd_error_t status = snapshot.status().code;
+    if (status == VKD_ZOB_OK)
+        status = m_seen.look(m_document->index());
+    if (status == VKD_ZOB_OK)
+        status = copyRecords(m_document->index(), m_desk->index());
+    if (status != VKD_ZOB_OK)
+        return status;
+    m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
+    vkd::dbo::Model model; // of which the page looks at the kind of system only
+    model.system.kindOfSystem = vkd::dbo::getKindOfSystem(m_document->index(), nullptr);
+    vkd::dbo::storeModel(m_desk->index(), model);
+    return VKD_ZOB_OK;
+}
+
+/// The buttons are made anew, too, so that they follow the page in the order of the tab key.
+void DesignDialog::showPage()
+{
+    delete m_page;
+    delete m_buttons;
+    m_page = new VKD_P_DesignParameter(m_document, m_desk.get(), this, false, false);
+    m_page->init(); // ahead of the buttons, which Tab reaches last
+    m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
+    layout()->addWidget(m_page);
+    layout()->addWidget(m_buttons);
+    static_cast<QVBoxLayout*>(layout())->setStretchFactor(m_page, 1);
+    connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &DesignDialog::accept);
+    connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &DesignDialog::reject);
+    m_page->getEntrys(m_entries);
+}
+
+cd_error_t DesignDialog::store(SeenPart::Newer newer)
+{
+    const auto put = [this] {
+        return m_entries.save() && copyRecords(m_desk->index(), m_document->index()) == VKD_ZOB_OK;
+    };
+    return m_seen.store(m_document->index(), put, newer);
+}
+
+/// The entries belong to a project, so those of the page are put into the other one's.
+void DesignDialog::setDocument(VKD_H_ZOBDoc* document)
+{
+    m_document = document;
+    m_entries = VKD_H_ProjectDialogPage(document->index(), DesignDialogPage);
+    m_page->setEntrys(m_entries);
+}
+
+int DesignDialog::rowsWithoutGroups() const
+{
+    int count = 0;
+    while (!m_entries.getEntry(DesignEntry + QString::number(count + 1), QString()).isEmpty())
+        ++count;
+    return count;
+}
+
+/// The page stores a record for each row that names a group. On the way back the first row that
+/// shares a group is selected.
+bool DesignDialog::maySharedGroupsStay()
+{
+    const auto table = m_page->findChild<QTableWidget*>(QStringLiteral("table"));
+    const QVector<QVector<int>> groups = sharedGroups(*table);
+    const QString question = sharedGroupsQuestion(groups);
+    if (question.isEmpty())
+        return true;
+    enum Button { Store, GoBack };
+    if (VKD_QT_MessageBox::warning(this, windowTitle(), question, tr("&Store All the Same"),
+                                   tr("&Go Back"), QString(), GoBack, GoBack) == Store)
+        return true;
+    for (int row = 0; row < groups.size(); ++row)
+        if (!groups[row].isEmpty()) {
+            table->setCurrentCell(row, 0);
+            break;
+        }
+    table->setFocus();
+    return false;
+}
+
+void DesignDialog::accept()
+{
+    if (!m_page->checkVals() || !maySharedGroupsStay())
+        return;
+    VKD_H_Dialog::accept();
+    if (result() == Accepted)
+        m_page->setEntrys(m_entries);
+}
+
+} // namespace workbench

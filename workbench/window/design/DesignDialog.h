@@ -1,0 +1,58 @@
+#pragma once
+
+#include "project/SeenPart.h"
+
+#include <VKD_H_Dialog.h>
+#include <VKD_H_ProjectDialogPage.h>
+
+#include <memory>
+
+class VKD_H_ZOBDoc;
+class VKD_P_DesignParameter;
+class VKD_QT_Ok;
+
+namespace workbench {
+
+/// The design parameters of a project, with OK and Cancel. exec() may also answer
+/// VKD_H_SelGRP_Dialog::PickOutside: then the groups are to be picked in the view, and the same
+/// dialog is to be shown again.
+///
+/// The page works on the scratch store. A page turns what it shows into the stored form when it
+/// writes and cannot go back, so what the project refuses to take is kept there for a new page.
+class DesignDialog : public VKD_H_Dialog
+{
+    Q_OBJECT
+
+public:
+    /// `document` is not owned and outlives the dialog.
+    DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent);
+    ~DesignDialog() override;
+
+    /// Reads what is edited. The result is a VkdZobStatus; showPage() comes next.
+    cd_error_t load();
+    /// Writes what was accepted into the project, all of it or nothing. The result is a
+    /// VkdZobStatus, or PartChanged if a newer state in the project is to be kept; it can be tried
+    /// again.
+    cd_error_t store(SeenPart::Newer newer);
+    /// Puts what was read or accepted on a new page, before the dialog is shown.
+    void showPage();
+    /// From now on store() writes what was accepted into this copy of the project.
+    void setDocument(VKD_H_ZOBDoc* document);
+
+    /// How many of the rows that were accepted name no group: they have no record and are kept with
+    /// the texts of the page.
+    int rowsWithoutGroups() const;
+
+    void accept() override;
+
+private:
+    bool maySharedGroupsStay();
+    VKD_H_ZOBDoc* m_document;
+    std::unique_ptr<VKD_H_ZOBDoc> m_desk;
+    VKD_H_ProjectDialogPage m_entries;
+    SeenPart m_seen{ProjectPart::Design};
+    VKD_P_DesignParameter* m_page = nullptr;
+    VKD_QT_Ok* m_buttons = nullptr;
+};
+
+} // namespace workbench

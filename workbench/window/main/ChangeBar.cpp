@@ -1,0 +1,73 @@
+#include "window/main/ChangeBar.h"
+
+#include "sheet/actionButton.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+
+namespace workbench {
+
+ChangeBar::ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent)
+    : QFrame(parent)
+    , m_text(new QLabel(this))
+    , m_reload(actionButton(reload, this))
+    , m_saveAs(actionButton(saveAs, this))
+    , m_close(new QToolButton(this))
+{
+    setObjectName(QStringLiteral("ChangeBar"));
+    m_text->setObjectName(QStringLiteral("ChangeText"));
+    m_close->setObjectName(QStringLiteral("CloseChangeBar"));
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    m_text->setForegroundRole(QPalette::ToolTipText);
+    m_text->setWordWrap(true); // the bar is not to widen the view
+    m_close->setFocusPolicy(Qt::StrongFocus);
+    m_close->setAutoRaise(true);
+    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    auto layout = new QHBoxLayout(this);
+    layout->addWidget(m_text, 1);
+    for (QWidget* button : {m_reload, m_saveAs, m_close})
+        layout->addWidget(button);
+    connect(m_close, &QToolButton::clicked, this, &QWidget::hide);
+    setTexts();
+}
+
+void ChangeBar::showNews(ProjectWatch::File file)
+{
+    m_file = file;
+    m_reload->setVisible(file != ProjectWatch::File::Missing);
+    m_saveAs->setVisible(file != ProjectWatch::File::Present);
+    setTexts();
+    show();
+}
+
+void ChangeBar::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+}
+
+void ChangeBar::setTexts()
+{
+    switch (m_file) {
+    case ProjectWatch::File::Present:
+        m_text->setText(tr("Another program has changed the project."));
+        break;
+    case ProjectWatch::File::Missing:
+        m_text->setText(tr("The project file was deleted or moved. The open project can still be "
+                           "saved under another name."));
+        break;
+    case ProjectWatch::File::Replaced:
+        m_text->setText(tr("The project file was replaced by another file. The open project can "
+                           "still be saved under another name."));
+        break;
+    }
+    m_close->setAccessibleName(tr("Close"));
+    m_close->setToolTip(tr("Close"));
+}
+
+} // namespace workbench

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "project/ProjectWatch.h"
+
+#include <QFrame>
+
+class QAction;
+class QLabel;
+class QToolButton;
+
+namespace workbench {
+
+/// A bar above the view that reports changes to the open project by other programs, or that its
+/// file is gone, with the actions that help. The user can close it until the next report.
+class ChangeBar : public QFrame
+{
+    Q_OBJECT
+
+public:
+    ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent);
+
+    void showNews(ProjectWatch::File file);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setTexts();
+
+    ProjectWatch::File m_file = ProjectWatch::File::Present;
+    QLabel* m_text;
+    QToolButton* m_reload;
+    QToolButton* m_saveAs;
+    QToolButton* m_close;
+};
+
+} // namespace workbench

@@ -1,0 +1,90 @@
+#include "window/main/DockShares.h"
+
+#include <QDockWidget>
+#include <QEvent>
+#include <QLayout>
+#include <QMainWindow>
+
+#include <utility>
+
+namespace workbench {
+
+namespace {
+int along(const QSize& size, Qt::Orientation orientation)
+{
+    return orientation == Qt::Horizontal ? size.width() : size.height();
+}
+} // namespace
+
+DockShares::DockShares(QMainWindow* window)
+    : QObject(window)
+    , m_window(window)
+{
+    window->installEventFilter(this);
+}
+
+void DockShares::add(const QList<QDockWidget*>& docks, Qt::Orientation orientation)
+{
+    m_entries.append({docks, orientation});
+    for (QDockWidget* dock : docks)
+        dock->installEventFilter(this);
+}
+
+/// The window has laid out its docks when its event comes here. Docks that change while it has the
+/// size that it had are changed by the user, others by that layout.
+bool DockShares::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show && watched == m_window)
+        // The docks come back with their sizes in the large window, before the window is large.
+        m_isRestored = m_window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
+    if (event->type() != QEvent::Resize)
+        return false;
+    if (watched != m_window) {
+        if (m_window->size() == m_size)
+            for (Entry& entry : m_entries)
+                takeShare(entry, m_size);
+        return false;
+    }
+    const QSize before = std::exchange(m_size, QSize()); // nothing is the user's doing meanwhile
+    if (before.isValid() && !std::exchange(m_isRestored, false))
+        giveShares(before);
+    m_size = m_window->size();
+    return false;
+}
+
+void DockShares::takeShare(Entry& entry, const QSize& window) const
+{
+    if (const QDockWidget* dock = shownDock(entry))
+        entry.share =
+            along(dock->size(), entry.orientation) / double(along(window, entry.orientation));
+}
+
+/// A size is not computed from the one before but from the share, which outlasts windows that are
+/// too small for it and many small steps.
+void DockShares::giveShares(const QSize& before)
+{
+    for (Entry& entry : m_entries) {
+        QDockWidget* dock = shownDock(entry);
+        if (!dock)
+            continue;
+        if (entry.share == 0.0)
+            takeShare(entry, before);
+        const int wanted = qRound(entry.share * along(m_window->size(), entry.orientation));
+        m_window->resizeDocks({dock}, {wanted}, entry.orientation);
+    }
+    m_window->layout()->activate(); // now, not by an event that would look like the user's
+}
+
+QDockWidget* DockShares::shownDock(const Entry& entry) const
+{
+    const Qt::DockWidgetAreas areas = entry.orientation == Qt::Horizontal
+                                          ? Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea
+                                          : Qt::TopDockWidgetArea | Qt::BottomDockWidgetArea;
+    for (QDockWidget* dock : entry.docks)
+        if (!dock->isFloating() && !dock->visibleRegion().isEmpty() &&
+            areas & m_window->dockWidgetArea(dock))
+            return dock;
+    return nullptr;
+}
+
+} // namespace workbench

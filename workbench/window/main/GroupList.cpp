@@ -1,0 +1,168 @@
+#include "window/main/GroupList.h"
+
+#include <AnimatorView.h>
+#include <vkd_dbo_groups.h>
+
+#include <QEvent>
+#include <QHeaderView>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+enum Column { NumberColumn, TitleColumn, ContentsColumn };
+
+struct ElementSort
+{
+    int vkd::dbo::GroupContents::*count;
+    const char* one;
+    const char* many;
+};
+const ElementSort ElementSorts[] = {
+    {&vkd::dbo::GroupContents::quads, QT_TRANSLATE_NOOP("workbench::GroupList", "1 area"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 areas")},
+    {&vkd::dbo::GroupContents::beams, QT_TRANSLATE_NOOP("workbench::GroupList", "1 beam"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 beams")},
+    {&vkd::dbo::GroupContents::trusses, QT_TRANSLATE_NOOP("workbench::GroupList", "1 truss"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 trusses")},
+    {&vkd::dbo::GroupContents::cables, QT_TRANSLATE_NOOP("workbench::GroupList", "1 cable"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 cables")},
+    {&vkd::dbo::GroupContents::springs, QT_TRANSLATE_NOOP("workbench::GroupList", "1 spring"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 springs")},
+    {&vkd::dbo::GroupContents::bricks, QT_TRANSLATE_NOOP("workbench::GroupList", "1 brick"),
+     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 bricks")},
+};
+
+QString contentsText(const vkd::dbo::GroupContents& contents)
+{
+    QStringList texts;
+    for (const ElementSort& sort : ElementSorts) {
+        const int count = contents.*sort.count;
+        if (count == 1)
+            texts << GroupList::tr(sort.one);
+        else if (count > 1)
+            texts << GroupList::tr(sort.many).arg(count);
+    }
+    return texts.join(QLatin1String(", "));
+}
+
+int groupOf(const QTreeWidgetItem* item)
+{
+    return item ? item->data(NumberColumn, Qt::DisplayRole).toInt() : int(AnimatorView::NoGroup);
+}
+} // namespace
+
+GroupList::GroupList(QWidget* parent)
+    : QTreeWidget(parent)
+{
+    setObjectName(QStringLiteral("GroupList"));
+    setColumnCount(3);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    viewport()->setMouseTracking(true);
+    connect(this, &QTreeWidget::itemEntered, this, &GroupList::pointAt);
+    connect(this, &QTreeWidget::currentItemChanged, this, &GroupList::pointAtCurrent);
+    connect(this, &QTreeWidget::itemActivated, this,
+            [this](const QTreeWidgetItem* item) { Q_EMIT groupChosen(groupOf(item)); });
+    setTexts();
+}
+
+void GroupList::setProject(int index)
+{
+    m_index = index;
+    fill();
+}
+
+void GroupList::setMarkedGroup(int group)
+{
+    for (int row = 0; row < topLevelItemCount(); ++row) {
+        QTreeWidgetItem* item = topLevelItem(row);
+        const bool isMarked = groupOf(item) == group;
+        for (int column = 0; column < columnCount(); ++column) {
+            item->setBackground(column, isMarked ? palette().brush(QPalette::Highlight) : QBrush());
+            item->setForeground(column,
+                                isMarked ? palette().brush(QPalette::HighlightedText) : QBrush());
+        }
+        if (isMarked)
+            scrollToItem(item);
+    }
+}
+
+void GroupList::changeEvent(QEvent* event)
+{
+    QTreeWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        setTexts();
+        fill();
+    }
+}
+
+void GroupList::focusInEvent(QFocusEvent* event)
+{
+    QTreeWidget::focusInEvent(event);
+    pointAtCurrent();
+}
+
+void GroupList::focusOutEvent(QFocusEvent* event)
+{
+    QTreeWidget::focusOutEvent(event);
+    pointAtCurrent();
+}
+
+bool GroupList::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::Leave)
+        pointAtCurrent();
+    return QTreeWidget::viewportEvent(event);
+}
+
+void GroupList::setTexts()
+{
+    setAccessibleName(tr("Groups"));
+    setHeaderLabels({tr("No."), tr("Title"), tr("Contents")});
+    setToolTip(tr("Groups of the model. Pointing at one lights it up in the view."));
+    fitColumns();
+}
+
+void GroupList::fill()
+{
+    const int current = groupOf(currentItem());
+    clear();
+    m_withoutAreas.clear();
+    const auto groups =
+        m_index < 1 ? QVector<vkd::dbo::GroupSummary>() : vkd::dbo::readGroups(m_index);
+    for (const vkd::dbo::GroupSummary& group : groups) {
+        auto item = new QTreeWidgetItem(this);
+        item->setData(NumberColumn, Qt::DisplayRole, group.number);
+        item->setTextAlignment(NumberColumn, Qt::AlignRight | Qt::AlignVCenter);
+        item->setText(TitleColumn, group.title);
+        item->setText(ContentsColumn, contentsText(group.contents));
+        if (group.number == current)
+            setCurrentItem(item);
+        if (!vkd::dbo::hasAreas(group.contents))
+            m_withoutAreas.push_back(group.number);
+    }
+    std::sort(m_withoutAreas.begin(), m_withoutAreas.end());
+    fitColumns();
+}
+
+void GroupList::fitColumns()
+{
+    for (int column = 0; column < columnCount(); ++column)
+        resizeColumnToContents(column);
+}
+
+/// Who works elsewhere wants to see the whole model.
+void GroupList::pointAtCurrent()
+{
+    pointAt(hasFocus() ? currentItem() : nullptr);
+}
+
+void GroupList::pointAt(const QTreeWidgetItem* item)
+{
+    Q_EMIT groupPointed(groupOf(item));
+}
+
+} // namespace workbench

@@ -1,0 +1,295 @@
+#include "window/main/WindowActions.h"
+
+#include <AnimatorViewControl.h>
+#include <vkd_lib_searchpath.h>
+#include <vkd_lib_value.h>
+#include <vkd_qt_icon_named.h>
+
+#include <QActionGroup>
+#include <QDir>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace workbench {
+
+namespace {
+struct Named
+{
+    const char* name;
+    const char* text;
+};
+
+constexpr Named Samples[] = {
+    {"building", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Building")},
+    {"slab", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Slab")},
+    {"hall", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Hall")},
+};
+
+struct View
+{
+    AnimatorViewControl control;
+    const char* text;
+    const char* plane; ///< of the coordinates: says enough in the tool bar; null if there is none
+};
+
+constexpr View Views[] = {
+    {AnimatorShowAll, QT_TRANSLATE_NOOP("workbench::WindowActions", "Show &All"), nullptr},
+    {AnimatorStandardView, QT_TRANSLATE_NOOP("workbench::WindowActions", "&3D Standard"), nullptr},
+    {AnimatorViewXY, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Y"), "X/Y"},
+    {AnimatorViewXZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Z"), "X/Z"},
+    {AnimatorViewYZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "Vie&w Y/Z"), "Y/Z"},
+};
+
+struct Book
+{
+    const char* name;
+    const char* topic;
+    const char* text;
+};
+
+constexpr Book Books[] = {
+    {"DesignHelp", "MERDAN/PARA",
+     QT_TRANSLATE_NOOP("workbench::WindowActions", "&Design Parameters")},
+    {"OutputHelp", "GRAV/OUTPUT",
+     QT_TRANSLATE_NOOP("workbench::WindowActions", "&Graphical Output")},
+    {"TextOutputHelp", "TEXT/OUTPUT",
+     QT_TRANSLATE_NOOP("workbench::WindowActions", "&Text Output")},
+};
+
+QString sampleText(const QAction* action)
+{
+    for (const Named& sample : Samples)
+        if (action->data().toString() == QLatin1String(sample.name))
+            return WindowActions::tr(sample.text);
+    return QString();
+}
+
+bool isInstalled(const char* sample)
+{
+    const QByteArray file = QByteArray("models/") + sample + ".json";
+    return vkd_lib_searchpath(file.constData(), 3).has_value();
+}
+} // namespace
+
+WindowActions::WindowActions(QMainWindow* window)
+    : QObject(window)
+    , newFromFile(add("NewFromFile"))
+    , open(add("Open"))
+    , reload(add("Reload"))
+    , saveAs(add("SaveAs"))
+    , copyScript(add("CopyScriptAction"))
+    , saveScript(add("SaveScriptAction"))
+    , exportSheets(add("ExportSheetsAction"))
+    , quit(add("Quit"))
+    , design(add("Design"))
+    , output(add("Output"))
+    , textOutput(add("TextOutput"))
+    , sheet(add("SheetPreviewAction"))
+    , german(add("German"))
+    , english(add("English"))
+    , help(add("Help"))
+    , about(add("About"))
+{
+    addSamples();
+    addViews();
+    addBooks();
+    auto languages = new QActionGroup(this);
+    for (QAction* language : {german, english}) {
+        language->setCheckable(true);
+        languages->addAction(language);
+    }
+    // Drawn icons follow the palette, and no files have to be read for them at the start.
+    open->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/open")));
+    saveScript->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
+    design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/reinforcement")));
+    output->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/plot")));
+    textOutput->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/text")));
+    addMenus(window);
+    addToolBar(window);
+    setShortcuts();
+    setTexts();
+}
+
+QAction* WindowActions::add(const char* name)
+{
+    auto action = new QAction(this);
+    action->setObjectName(QLatin1String(name));
+    return action;
+}
+
+void WindowActions::addSamples()
+{
+    for (const Named& sample : Samples)
+        if (isInstalled(sample.name)) {
+            QAction* action = add("NewFromSample");
+            action->setData(QLatin1String(sample.name));
+            newFromSample << action;
+        }
+}
+
+void WindowActions::addViews()
+{
+    for (const View& view : Views) {
+        QAction* action = add("View");
+        action->setData(int(view.control));
+        if (view.plane)
+            action->setIconText(QLatin1String(view.plane));
+        views << action;
+    }
+}
+
+void WindowActions::addBooks()
+{
+    for (const Book& book : Books) {
+        QAction* action = add(book.name);
+        action->setData(QLatin1String(book.topic));
+        books << action;
+    }
+}
+
+void WindowActions::addMenus(QMainWindow* window)
+{
+    QMenuBar* bar = window->menuBar();
+    m_fileMenu = bar->addMenu(QString());
+    m_newMenu = m_fileMenu->addMenu(QString());
+    m_newMenu->addActions(newFromSample.toList());
+    m_newMenu->addSeparator();
+    m_newMenu->addAction(newFromFile);
+    m_fileMenu->addAction(open);
+    recentMenu = m_fileMenu->addMenu(QString());
+    m_fileMenu->addActions({reload, saveAs});
+    m_fileMenu->addSeparator();
+    m_fileMenu->addActions({copyScript, saveScript, exportSheets});
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(quit);
+    viewMenu = bar->addMenu(QString());
+    viewMenu->addActions(views.toList());
+    viewMenu->addSeparator();
+    m_projectMenu = bar->addMenu(QString());
+    m_projectMenu->addActions({design, output, textOutput, sheet});
+    m_languageMenu = bar->addMenu(QString());
+    m_languageMenu->addActions({german, english});
+    m_helpMenu = bar->addMenu(QString());
+    m_helpMenu->addAction(help);
+    m_helpMenu->addSeparator();
+    m_helpMenu->addActions(books.toList());
+    m_helpMenu->addSeparator();
+    m_helpMenu->addAction(about);
+}
+
+void WindowActions::addToolBar(QMainWindow* window)
+{
+    m_toolBar = window->addToolBar(QString());
+    m_toolBar->setObjectName(QStringLiteral("ToolBar"));
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_toolBar->addAction(open);
+    m_toolBar->addSeparator();
+    m_toolBar->addActions({design, output, textOutput});
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(saveScript);
+    m_toolBar->addSeparator();
+    m_toolBar->addActions(views.toList());
+}
+
+void WindowActions::setShortcuts()
+{
+    open->setShortcut(QKeySequence::Open);
+    reload->setShortcut(QKeySequence::Refresh);
+    saveAs->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_S);
+    copyScript->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_C);
+    saveScript->setShortcut(QKeySequence::Save);
+    quit->setShortcut(Qt::CTRL + Qt::Key_Q);
+    design->setShortcut(Qt::CTRL + Qt::Key_D);
+    output->setShortcut(Qt::CTRL + Qt::Key_G);
+    textOutput->setShortcut(Qt::CTRL + Qt::Key_T);
+    sheet->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_P);
+    exportSheets->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_E);
+    help->setShortcut(QKeySequence::HelpContents);
+    for (int i = 0; i < views.size(); ++i)
+        views[i]->setShortcut(Qt::CTRL + (Qt::Key_0 + i));
+}
+
+QList<QAction*> WindowActions::besideDialogs() const
+{
+    return {design, output, textOutput, sheet, copyScript, saveScript, exportSheets};
+}
+
+void WindowActions::setTexts()
+{
+    m_fileMenu->setTitle(tr("&File"));
+    m_newMenu->setTitle(tr("&New from Model"));
+    recentMenu->setTitle(tr("Open &Recent"));
+    viewMenu->setTitle(tr("&View"));
+    m_projectMenu->setTitle(tr("&Project"));
+    m_languageMenu->setTitle(tr("&Language"));
+    m_helpMenu->setTitle(tr("&Help"));
+    m_toolBar->setWindowTitle(tr("Tool Bar"));
+    for (QAction* action : qAsConst(newFromSample))
+        action->setText(sampleText(action));
+    for (int i = 0; i < views.size(); ++i)
+        views[i]->setText(tr(Views[i].text));
+    newFromFile->setText(tr("&Model File..."));
+    open->setText(tr("&Open..."));
+    reload->setText(tr("Re&load"));
+    saveAs->setText(tr("Save &As..."));
+    copyScript->setText(tr("&Copy Script"));
+    copyScript->setIconText(tr("Copy")); // beside the script
+    copyScript->setToolTip(tr("Puts the script on the clipboard"));
+    saveScript->setText(tr("&Save Script..."));
+    saveScript->setToolTip(tr("Saves the script in a file"));
+    exportSheets->setText(tr("&Export Sheets..."));
+    exportSheets->setIconText(tr("Export PDF..."));
+    exportSheets->setToolTip(tr("Saves all pages in a file"));
+    quit->setText(tr("&Quit"));
+    design->setText(tr("&Design Parameters..."));
+    output->setText(tr("&Graphical Output..."));
+    textOutput->setText(tr("&Text Output..."));
+    sheet->setText(tr("&Sheet Preview"));
+    design->setIconText(tr("Design"));
+    output->setIconText(tr("Graphics"));
+    textOutput->setIconText(tr("Text"));
+    german->setText(tr("&German"));
+    english->setText(tr("&English"));
+    help->setText(tr("&Context Help"));
+    for (int i = 0; i < books.size(); ++i)
+        books[i]->setText(tr(Books[i].text));
+    about->setText(tr("&About"));
+    const bool isEnglish = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0;
+    (isEnglish ? english : german)->setChecked(true);
+}
+
+void WindowActions::enable(bool hasProject, bool isPicking, bool isFileGone)
+{
+    for (QAction* action : qAsConst(newFromSample))
+        action->setEnabled(!isPicking);
+    for (QAction* action : {newFromFile, open, german, english, quit})
+        action->setEnabled(!isPicking);
+    recentMenu->setEnabled(!isPicking && !recentMenu->isEmpty());
+    for (QAction* action : {saveAs, design, output, textOutput, sheet})
+        action->setEnabled(hasProject && !isPicking);
+    reload->setEnabled(hasProject && !isPicking && !isFileGone);
+    for (QAction* action : qAsConst(views))
+        action->setEnabled(hasProject);
+}
+
+void WindowActions::setHasScript(bool hasScript)
+{
+    copyScript->setEnabled(hasScript);
+    saveScript->setEnabled(hasScript);
+    exportSheets->setEnabled(hasScript);
+}
+
+void WindowActions::setRecentFiles(const QStringList& paths)
+{
+    recentMenu->clear();
+    int number = 0;
+    for (const QString& path : paths) {
+        QString shown = QDir::toNativeSeparators(path);
+        shown.replace(QLatin1Char('&'), QLatin1String("&&"));
+        recentMenu->addAction(QStringLiteral("&%1 %2").arg(++number).arg(shown))->setData(path);
+    }
+    recentMenu->setEnabled(!paths.isEmpty());
+}
+
+} // namespace workbench

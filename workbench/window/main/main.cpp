@@ -1,0 +1,47 @@
+#include "cli/CommandLine.h"
+#include "cli/program.h"
+#include "window/main/commandLineServices.h"
+#include "window/main/runWindow.h"
+#include "window/support/WindowSettings.h"
+
+#include <vkd_lib_value.h>
+
+#include <QApplication>
+
+#include <memory>
+
+namespace {
+using namespace workbench;
+
+int openWindow(const QStringList& arguments)
+{
+    CommandLine line(QStringLiteral("Opens the desktop window, with FILE if one is given. Needs a "
+                                    "display."),
+                     {QStringLiteral("[FILE]")}, {languageOption()});
+    line.parse(arguments);
+    if (!hasDisplay())
+        throw CommandError{QStringLiteral("the window needs a display")};
+    applyLanguage(line);
+    if (line.has("language")) // else the window's own one of the last time
+        WindowSettings().setLanguage(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
+    return runWindow(line.argument(0), commandLineServices());
+}
+
+/// Without a display, Qt would end the process with a core file.
+std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
+{
+    if (!hasDisplay())
+        return std::make_unique<QCoreApplication>(argc, argv);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    return std::make_unique<QApplication>(argc, argv);
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    beginProgram();
+    const QStringList arguments = programArguments(argc, argv);
+    const auto application = newApplication(argc, argv);
+    return runCommand(openWindow, QStringList(QStringLiteral("window")) + arguments);
+}

@@ -1,0 +1,79 @@
+#include "window/output/LoadCaseTable.h"
+
+#include <vkd_dbo_model.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
+
+#include <QHeaderView>
+
+namespace workbench {
+
+namespace {
+constexpr int PlainLoadCase = 1;
+constexpr int NoDimension = -1;
+} // namespace
+
+LoadCaseTable::LoadCaseTable(int index, QWidget* parent)
+    : VKD_H_TableWidget(0, 3, parent, "LoadCases")
+{
+    setAccessibleName(tr("Load cases"));
+    setContextmenueEnabled_new_del(false);
+    addColumns();
+    const auto loadCases = vkd::dbo::readLoadCases(index);
+    for (const vkd::dbo::LoadCase& loadCase : loadCases)
+        if (loadCase.kind == PlainLoadCase)
+            addLoadCase(loadCase.number, loadCase.title);
+    verticalHeader()->hide();
+    resizeColumnsToContents();
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void LoadCaseTable::addColumns()
+{
+    const auto description = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(NoDimension);
+    setHorizontalHeaderItem(NumberColumn,
+                            new VKD_H_TwHeaderLineEditItem(NumberColumn, description, tr("No."),
+                                                           tr("Number of the load case"), true,
+                                                           Qt::AlignRight | Qt::AlignVCenter));
+    setHorizontalHeaderItem(
+        CheckColumn, new VKD_H_TwHeaderCheckBoxItem(CheckColumn, tr("Offer"),
+                                                    tr("Whether the plots offer the load case"),
+                                                    true, Qt::AlignCenter));
+    setHorizontalHeaderItem(TitleColumn, new VKD_H_TwHeaderItem(TitleColumn, tr("Title"),
+                                                                tr("Title of the load case"), true,
+                                                                Qt::AlignLeft | Qt::AlignVCenter));
+}
+
+void LoadCaseTable::addLoadCase(int number, const QString& title)
+{
+    const int row = rowCount();
+    addNewRow(true);
+    dynamic_cast<VKD_H_TwSimpleLineEditItem*>(item(row, NumberColumn))->setVal(number);
+    checkInRow(row)->setCheckState(Qt::Checked);
+    item(row, TitleColumn)->setText(title);
+    for (int column : {NumberColumn, TitleColumn})
+        item(row, column)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+}
+
+int LoadCaseTable::numberInRow(int row) const
+{
+    return int(dynamic_cast<VKD_H_TwSimpleLineEditItem*>(item(row, NumberColumn))->getVal(nullptr));
+}
+
+QSet<int> LoadCaseTable::leftOutNumbers() const
+{
+    QSet<int> numbers;
+    for (int row = 0; row < rowCount(); ++row)
+        if (checkInRow(row)->checkState() != Qt::Checked)
+            numbers << numberInRow(row);
+    return numbers;
+}
+
+void LoadCaseTable::setLeftOutNumbers(const QSet<int>& numbers)
+{
+    for (int row = 0; row < rowCount(); ++row)
+        checkInRow(row)->setCheckState(numbers.contains(numberInRow(row)) ? Qt::Unchecked
+                                                                          : Qt::Checked);
+}
+
+} // namespace workbench

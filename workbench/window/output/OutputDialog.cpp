@@ -1,0 +1,307 @@
+#include "window/output/OutputDialog.h"
+
+#include "window/output/LoadCaseTable.h"
+#include "window/output/UsersCamera.h"
+#include "window/support/HelpKey.h"
+#include "window/support/KeptPlace.h"
+#include "window/support/withinScreen.h"
+
+#include <AnimatorView.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <VKD_P_WidgetGraphicalOutput>
+#include <VKD_QT_RadioButtonGroup.h>
+#include <vkd_qt_xmlpart.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr int UsersView = 4;
+constexpr int PlainLoadCase = 1;
+
+/// A page that found another language than the first one would read the catalogue once more and
+/// offer each plot twice. The icons of its rows change all the same, since offering the load cases
+/// fills the tree once more.
+VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
+                                     AnimatorView* view)
+{
+    const int present = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, OutputDialog::plotLanguage());
+    auto page =
+        new VKD_P_WidgetGraphicalOutput(parent, VKD_P_GraphicalOutput_Standard, parameter, view);
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, present);
+    page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // no list of a project
+    return page;
+}
+
+/// A page writes the camera of its view, also that of a fixed view, which the user did not choose
+/// and is not to find when going back to a view of one's own.
+QString withUsersCamera(QString page)
+{
+    constexpr int PersistentForm = 2;
+    const QString tag = QStringLiteral("Camera");
+    const auto part = [&tag](const QString& camera) { return vkd_qt_writeXMLpart(camera, tag); };
+    return page.replace(
+        part(vkd_qt_readXMLpart(page, 0, tag)),
+        part(vkd::dbo::getAnimatorPerspektive(UsersCamera::Database, PersistentForm)));
+}
+
+QLabel* newHint(const QString& text)
+{
+    auto hint = new QLabel(text);
+    hint->setWordWrap(true);
+    return hint;
+}
+} // namespace
+
+int OutputDialog::plotLanguage()
+{
+    static const int first = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
+    return first;
+}
+
+OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, PlotNames names,
+                           QWidget* parent)
+    : VKD_H_TabDialog(parent, "OutputDialog")
+    , m_document(document)
+    , m_parameter(document)
+    , m_view(new AnimatorView(document->index(), this, "OutputView"))
+    , m_page(newPage(this, &m_parameter, m_view))
+    , m_plots(m_page->findChild<QTreeWidget*>())
+    , m_names(std::move(names))
+    , m_waiting(m_plots, m_names)
+    , m_choice(m_page, m_view)
+{
+    setWindowTitle(tr("Graphical Output"));
+    setHelpTopic(this, "GRAV/OUTPUT");
+    setHelpTopic(m_page, "GRAV/SETTINGS");
+    setHelpTopic(m_plots, "GRAV/PLOTS");
+    setModal(false);
+    resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40});
+    new KeptPlace(this);
+    m_changes.setSingleShot(true);
+    connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
+    addTabs();
+    restore(kept);
+    namePlots();
+    listen();
+    setUnchanged();
+}
+
+/// Widgets that go tell of changes, which nobody is to hear once the timer has gone.
+OutputDialog::~OutputDialog()
+{
+    delete m_page;
+}
+
+void OutputDialog::addTabs()
+{
+    auto plots = new QWidget(this);
+    (new QVBoxLayout(plots))->addWidget(m_page); // which has no margins of its own
+    addTab(plots, tr("Plots"));
+    addTab(newLoadCaseTab(), tr("Load cases"));
+    addTab(newContentTab(), tr("Contents"));
+}
+
+QWidget* OutputDialog::newLoadCaseTab()
+{
+    auto tab = new QWidget(this);
+    setHelpTopic(tab, "GRAV/LOADCASES");
+    m_loadCases = new LoadCaseTable(m_document->index(), tab);
+    auto layout = new QVBoxLayout(tab);
+    layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. The plots "
+                                 "that you have chosen stay chosen.")));
+    layout->addWidget(m_loadCases);
+    return tab;
+}
+
+QWidget* OutputDialog::newContentTab()
+{
+    StructRadioButtonGrup model;
+    model.text = tr("What the model holds");
+    StructRadioButtonGrup solids;
+    solids.text = tr("Also plots of bricks");
+    auto tab = new QWidget(this);
+    setHelpTopic(tab, "GRAV/CONTENTS");
+    m_contents =
+        new VKD_QT_RadioButtonGroup(tr("Plots on offer"), {model, solids}, tab, "ContentGroup");
+    m_contents->setButton(0);
+    auto layout = new QVBoxLayout(tab);
+    layout->addWidget(m_contents);
+    layout->addStretch(1);
+    return tab;
+}
+
+void OutputDialog::restore(const OutputState& kept)
+{
+    m_loadCases->setLeftOutNumbers(kept.leftOutNumbers);
+    bindOffers();
+    if (kept.content == OutputState::WithSolids) {
+        m_contents->setButton(kept.content);
+        m_contentBinding.clicked(kept.content); // a group does not tell what the program chooses
+    }
+    offerLoadCases();
+    m_choice.setProposed();
+    vkd::dbo::setCamera(UsersCamera::Database, vkd::dbo::Camera()); // not the one of before
+    if (!kept.page.isEmpty())
+        m_page->readXMLstring(kept.page);
+}
+
+/// What is on offer fills the tree anew, once, and the user's plots are chosen again. The library's
+/// own binding of a table is not for this one: it offers plain load cases alone.
+void OutputDialog::bindOffers()
+{
+    connect(m_loadCases, &QTableWidget::itemChanged, this, [this] {
+        m_choice.remember();
+        offerLoadCases();
+        m_choice.giveBack();
+    });
+    const auto clicked = &VKD_QT_RadioButtonGroup::buttWasClicked;
+    connect(m_contents, clicked, this, [this] { m_choice.remember(); });
+    m_contentBinding.setWidget(m_page, m_contents, OutputState::solidsTag(),
+                               OutputState::WithSolids);
+    connect(m_contents, clicked, this, [this] { m_choice.giveBack(); });
+    const auto defaults =
+        m_page->findChild<QAbstractButton*>(QStringLiteral("Button: Default settings"));
+    connect(defaults, &QAbstractButton::clicked, this, [this] { m_choice.setProposed(); });
+}
+
+void OutputDialog::offerLoadCases()
+{
+    OutputState present;
+    present.leftOutNumbers = m_loadCases->leftOutNumbers();
+    m_page->setUsedNumbersAndNames(present.offeredRows(m_document->index()));
+}
+
+/// The page tells nobody about its changes, so its widgets are listened to.
+void OutputDialog::listen()
+{
+    const auto start = [this] { m_changes.start(0); };
+    const QWidget* tabs = tabWidget(); // without OK and Cancel
+    for (const auto button : tabs->findChildren<QAbstractButton*>()) {
+        connect(button, &QAbstractButton::toggled, this, start);
+        connect(button, &QAbstractButton::clicked, this, start);
+    }
+    for (const auto combo : tabs->findChildren<QComboBox*>())
+        connect(combo, &QComboBox::currentTextChanged, this, start);
+    for (const auto edit : tabs->findChildren<QLineEdit*>())
+        connect(edit, &QLineEdit::textChanged, this, start);
+    const QAbstractItemModel* plots = m_plots->model();
+    connect(plots, &QAbstractItemModel::dataChanged, this, start);
+    connect(plots, &QAbstractItemModel::modelReset, this, start);
+    connect(plots, &QAbstractItemModel::rowsInserted, this, start);
+    connect(plots, &QAbstractItemModel::modelReset, this, [this] { m_arePlotsToName = true; });
+    connect(plots, &QAbstractItemModel::rowsInserted, this, &OutputDialog::namePlots,
+            Qt::QueuedConnection); // once the tree is filled, and before it is painted
+    connect(m_loadCases, &QTableWidget::itemChanged, this, start);
+    m_view->installEventFilter(this);
+}
+
+/// The user's view goes with the camera of the view, which tells nobody either.
+bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||
+                         event->type() == QEvent::KeyRelease || event->type() == QEvent::Wheel;
+    if (watched == m_view && mayTurn && showsUsersView())
+        m_changes.start(0);
+    return VKD_H_TabDialog::eventFilter(watched, event);
+}
+
+bool OutputDialog::showsUsersView() const
+{
+    const auto views =
+        m_page->findChild<VKD_QT_RadioButtonGroup*>(QStringLiteral("PerspectiveGroup"));
+    return views && views->selectedButton() == UsersView;
+}
+
+QString OutputDialog::script(bool english)
+{
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, english ? 1 : 0);
+    storeUsersCamera();
+    return m_page->getTORVAL(english);
+}
+
+/// The view does so by itself no earlier than it is left.
+void OutputDialog::storeUsersCamera()
+{
+    if (showsUsersView())
+        m_view->slotViewControl(AnimatorStoreCamera, 0.0);
+}
+
+/// The tree is filled anew whenever something else is offered.
+void OutputDialog::namePlots()
+{
+    if (!m_arePlotsToName)
+        return;
+    m_arePlotsToName = false;
+    m_names.apply(m_plots);
+}
+
+QVector<PlotCaption> OutputDialog::captions()
+{
+    namePlots();
+    return plotCaptions(*m_plots, m_waiting);
+}
+
+OutputState OutputDialog::state()
+{
+    storeUsersCamera();
+    OutputState present;
+    {
+        const UsersCamera camera;
+        present.page = m_page->writeXMLstring();
+    }
+    present.page = withUsersCamera(present.page);
+    present.content = m_contents->selectedButton();
+    present.leftOutNumbers = m_loadCases->leftOutNumbers();
+    return present;
+}
+
+QString OutputDialog::fingerprint()
+{
+    const OutputState present = state();
+    QString text = present.page;
+    QList<int> leftOut = present.leftOutNumbers.values();
+    std::sort(leftOut.begin(), leftOut.end());
+    for (int number : leftOut)
+        text += QString::number(number) + QLatin1Char(';');
+    return text + QString::number(present.content);
+}
+
+bool OutputDialog::isChanged()
+{
+    return fingerprint() != m_unchanged;
+}
+
+void OutputDialog::setUnchanged()
+{
+    m_unchanged = fingerprint();
+}
+
+OutputPresent OutputDialog::present()
+{
+    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(), TreeSight(*m_plots)};
+}
+
+void OutputDialog::setPresent(const OutputPresent& present)
+{
+    if (present.isChanged)
+        m_unchanged.clear();
+    tabWidget()->setCurrentIndex(present.tab);
+    setVisible(present.isVisible);
+    present.plots.give(m_plots); // which has its size now
+}
+
+} // namespace workbench

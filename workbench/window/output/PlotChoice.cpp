@@ -1,0 +1,55 @@
+#include "window/output/PlotChoice.h"
+
+#include "window/output/UsersCamera.h"
+
+#include <AnimatorView.h>
+#include <VKD_P_WidgetGraphicalOutput>
+#include <vkd_qt_xmlpart.h>
+
+namespace workbench {
+
+namespace {
+const QString Plots = QStringLiteral("List_4"); // the tag of the page's string
+}
+
+PlotChoice::PlotChoice(VKD_P_WidgetGraphicalOutput* page, AnimatorView* view)
+    : m_page(page)
+    , m_view(view)
+{
+}
+
+void PlotChoice::setProposed()
+{
+    m_chosen.clear();
+    m_shown = shown();
+}
+
+void PlotChoice::remember()
+{
+    const QString present = shown();
+    if (present != m_shown)
+        m_chosen = present;
+}
+
+void PlotChoice::giveBack()
+{
+    if (!m_chosen.isNull())
+        show(m_chosen);
+    m_shown = shown();
+}
+
+QString PlotChoice::shown() const
+{
+    const UsersCamera camera;
+    return vkd_qt_readXMLpart(m_page->writeXMLstring(), 0, Plots);
+}
+
+/// A page that reads a string has its view take the stored camera, so the view keeps its own.
+void PlotChoice::show(const QString& plots)
+{
+    const UsersCamera camera;
+    m_view->slotViewControl(AnimatorStoreCamera, 0.0);
+    m_page->readXMLstring(vkd_qt_writeXMLpart(plots, Plots));
+}
+
+} // namespace workbench

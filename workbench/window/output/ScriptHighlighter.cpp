@@ -1,0 +1,83 @@
+#include "window/output/ScriptHighlighter.h"
+
+#include <QPalette>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+// Hues. Links are blue in many dark palettes as well, where nobody can read them.
+constexpr int Orange = 25;
+constexpr int Blue = 222;
+constexpr int Violet = 290;
+
+/// A hue that stays readable on the background of texts.
+QColor readable(const QPalette& palette, int hue)
+{
+    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
+    return QColor::fromHsl(hue, 160, isDark ? 185 : 85);
+}
+
+QColor between(const QColor& a, const QColor& b)
+{
+    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+/// A dollar sign begins a comment, but with a bracket a reference.
+int commentStart(const QString& text)
+{
+    int at = text.indexOf(QLatin1Char('$'));
+    while (at >= 0 && text.mid(at + 1, 1) == QLatin1String("("))
+        at = text.indexOf(QLatin1Char('$'), at + 1);
+    return at < 0 ? text.size() : at;
+}
+} // namespace
+
+ScriptHighlighter::ScriptHighlighter(QTextDocument* document, const QPalette& palette)
+    : QSyntaxHighlighter(document)
+{
+    setColours(palette);
+}
+
+void ScriptHighlighter::setColours(const QPalette& palette)
+{
+    m_statement.setForeground(readable(palette, Blue));
+    m_statement.setFontWeight(QFont::Bold);
+    m_keyword.setForeground(readable(palette, Blue));
+    m_number.setForeground(readable(palette, Orange));
+    m_definition.setForeground(readable(palette, Violet));
+    m_comment.setForeground(between(palette.color(QPalette::Text), palette.color(QPalette::Base)));
+    m_comment.setFontItalic(true);
+    rehighlight();
+}
+
+void ScriptHighlighter::highlightBlock(const QString& text)
+{
+    static const QRegularExpression token(
+        QStringLiteral("(?<reference>\\$\\([^)]*\\))|(?<number>(?<![A-Za-z0-9])[-+]?\\d[\\d.]*"
+                       "(?:[eE][-+]?\\d+)?(?![A-Za-z]))|(?<word>[A-Z][A-Z0-9]{0,4}(?![a-z\\w]))|"
+                       "(?<separator>;)"));
+    const int comment = commentStart(text);
+    setFormat(comment, text.size() - comment, m_comment);
+    if (text.startsWith(QLatin1Char('#')))
+        return setFormat(0, comment, m_definition);
+    const QString statement = text.left(comment);
+    bool isFirstWord = true;
+    for (auto found = token.globalMatch(statement); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        const QTextCharFormat* format = &m_keyword;
+        if (match.capturedStart(QStringLiteral("reference")) >= 0)
+            format = &m_definition;
+        else if (match.capturedStart(QStringLiteral("number")) >= 0)
+            format = &m_number;
+        else if (isFirstWord && match.capturedStart(QStringLiteral("word")) >= 0)
+            format = &m_statement;
+        isFirstWord = match.capturedStart(QStringLiteral("separator")) >= 0;
+        if (!isFirstWord)
+            setFormat(match.capturedStart(), match.capturedLength(), *format);
+    }
+}
+
+} // namespace workbench

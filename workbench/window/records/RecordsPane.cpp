@@ -1,0 +1,73 @@
+#include "window/records/RecordsPane.h"
+
+#include "window/records/RecordsModel.h"
+
+#include <vkd_qt_copyCells.h>
+#include <vkd_qt_visibleLines.h>
+
+#include <QHeaderView>
+#include <QKeyEvent>
+
+namespace workbench {
+
+RecordsPane::RecordsPane(QWidget* parent)
+    : QTableView(parent)
+    , m_model(new RecordsModel(this))
+{
+    setObjectName(QStringLiteral("Records"));
+    setModel(m_model);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(true);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+    setTexts();
+}
+
+void RecordsPane::setProject(int index)
+{
+    m_model->read(index);
+    fitColumns();
+}
+
+void RecordsPane::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+}
+
+void RecordsPane::keyPressEvent(QKeyEvent* event)
+{
+    if (event == QKeySequence::Copy)
+        vkd_qt_copyCells(selectedIndexes(),
+                         [](const QModelIndex& cell) { return cell.data().toString(); });
+    else
+        QTableView::keyPressEvent(event);
+}
+
+QStyleOptionViewItem RecordsPane::viewOptions() const
+{
+    return vkd_qt_visibleLines(QTableView::viewOptions());
+}
+
+void RecordsPane::setTexts()
+{
+    setAccessibleName(tr("Design records"));
+    setToolTip(tr("The design records as they lie in the project file. Each row is a word of four "
+                  "bytes."));
+    fitColumns();
+}
+
+/// All columns alike: to fit each by itself takes seconds where there are thousands.
+void RecordsPane::fitColumns()
+{
+    const int columns = m_model->columnCount();
+    if (columns == 0)
+        return;
+    const int number = fontMetrics().horizontalAdvance(m_model->longestText());
+    const int heading = horizontalHeader()->sectionSizeHint(columns - 1);
+    horizontalHeader()->setDefaultSectionSize(
+        qMax(number + 2 * fontMetrics().averageCharWidth(), heading));
+}
+
+} // namespace workbench

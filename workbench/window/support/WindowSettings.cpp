@@ -1,0 +1,63 @@
+#include "window/support/WindowSettings.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace workbench {
+
+namespace {
+constexpr int MaximumCount = 8;
+const QString RecentKey = QStringLiteral("recentFiles");
+const QString LanguageKey = QStringLiteral("language");
+const QString KeywordsKey = QStringLiteral("englishKeywords");
+} // namespace
+
+WindowSettings::WindowSettings()
+    : QSettings(IniFormat, UserScope, QStringLiteral("plib"), QStringLiteral("workbench"))
+{
+}
+
+QStringList WindowSettings::recentFiles() const
+{
+    QStringList present;
+    const QStringList kept = value(RecentKey).toStringList();
+    for (const QString& path : kept)
+        if (QFileInfo(path).isFile())
+            present << path;
+    return present.mid(0, MaximumCount);
+}
+
+void WindowSettings::addRecentFile(const QString& path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    QStringList files{QDir::cleanPath(QFileInfo(path).absoluteFilePath())};
+    const QStringList before = recentFiles();
+    for (const QString& file : before)
+        if (QFileInfo(file).canonicalFilePath() != canonical)
+            files << file;
+    if (files == before)
+        return; // writing waits for the disk
+    setValue(RecentKey, QStringList(files.mid(0, MaximumCount)));
+}
+
+int WindowSettings::language(int otherwise) const
+{
+    return value(LanguageKey, otherwise).toInt() == 0 ? 0 : 1;
+}
+
+void WindowSettings::setLanguage(int language)
+{
+    setValue(LanguageKey, language);
+}
+
+bool WindowSettings::englishKeywords() const
+{
+    return value(KeywordsKey, true).toBool();
+}
+
+void WindowSettings::setEnglishKeywords(bool english)
+{
+    setValue(KeywordsKey, english);
+}
+
+} // namespace workbench

@@ -1,0 +1,45 @@
+#include "window/support/waitForStore.h"
+
+#include "cli/PlatformLog.h"
+#include "window/support/SlowWork.h"
+
+#include <vkd_lib_value.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace workbench {
+
+namespace {
+constexpr int AttemptMs = 50;         // so that Cancel is heard soon
+constexpr int DefaultDeadline = 5000; // of the store, ms
+
+/// Does it with a short deadline of the store.
+cd_error_t attemptShortly(const std::function<cd_error_t()>& attempt)
+{
+    const int setting = vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE);
+    if (setting <= 0 || setting > AttemptMs)
+        vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, AttemptMs);
+    const cd_error_t status = attempt();
+    vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, setting);
+    return status;
+}
+} // namespace
+
+cd_error_t waitForStore(QWidget* parent, const QString& path,
+                        const std::function<cd_error_t()>& attempt)
+{
+    const int setting = vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE);
+    const int deadline = setting > 0 ? setting : DefaultDeadline;
+    SlowWork work(parent,
+                  SlowWork::tr("Another program is writing to the file %1.")
+                      .arg(QDir::toNativeSeparators(QFileInfo(path).fileName())),
+                  deadline);
+    cd_error_t status = attemptShortly(attempt);
+    while (status == VKD_ZOB_LOCKED && work.elapsed() < deadline)
+        status = work.goOn(work.elapsed()) ? attemptShortly(attempt) : VKD_ZOB_CANCELLED;
+    PlatformLog::take(); // the status says it all
+    return status;
+}
+
+} // namespace workbench

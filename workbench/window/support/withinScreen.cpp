@@ -1,0 +1,34 @@
+#include "window/support/withinScreen.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+namespace workbench {
+
+namespace {
+const QSize Frame(16, 40); // which is not known before the desktop has made it
+
+/// Pictures are taken on a screen that is none, and may be as large as they need.
+bool isOffScreen()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen");
+}
+} // namespace
+
+void resizeWithinScreen(QWidget* window, const QSize& size)
+{
+    window->resize(isOffScreen() ? size
+                                 : size.boundedTo(window->screen()->availableSize() - Frame));
+}
+
+void moveWithinScreen(QWidget* window, const QPoint& place)
+{
+    const QRect screen = window->screen()->availableGeometry();
+    const QSize size = window->size() + Frame;
+    const QPoint most = screen.bottomRight() - QPoint(size.width(), size.height());
+    window->move(qMax(screen.left(), qMin(place.x(), most.x())),
+                 qMax(screen.top(), qMin(place.y(), most.y())));
+}
+
+} // namespace workbench

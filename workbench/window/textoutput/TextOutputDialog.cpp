@@ -1,0 +1,313 @@
+#include "window/textoutput/TextOutputDialog.h"
+
+#include "project/numberTexts.h"
+#include "window/support/HelpKey.h"
+#include "window/support/KeptPlace.h"
+#include "window/support/withinScreen.h"
+#include "window/textoutput/CombinationTable.h"
+
+#include <VKD_QT_Ok.h>
+#include <VKD_QT_Widgets.h>
+
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+using Group = VKD_P_RadioGroup;
+
+constexpr int OkAndCancel = 3;
+constexpr int PlainLoadCase = 1;
+
+QVector<vkd::dbo::LoadCase> loadCases(int index, bool isPlain)
+{
+    QVector<vkd::dbo::LoadCase> found;
+    const auto all = vkd::dbo::readLoadCases(index);
+    std::copy_if(all.begin(), all.end(), std::back_inserter(found),
+                 [isPlain](const auto& any) { return (any.kind == PlainLoadCase) == isPlain; });
+    std::sort(found.begin(), found.end(),
+              [](const auto& a, const auto& b) { return a.number < b.number; });
+    return found;
+}
+
+std::list<Group::ButtonID> kindsOf(const CombinationTable& table)
+{
+    std::list<Group::ButtonID> kinds;
+    for (int id = Group::All_A; id <= Group::All_NONF; ++id)
+        if (!table.numbersOf(id).isEmpty())
+            kinds.push_back(Group::ButtonID(id));
+    return kinds;
+}
+} // namespace
+
+TextOutputDialog::TextOutputDialog(int index, QWidget* parent)
+    : VKD_H_Dialog(parent, "TextOutputDialog")
+{
+    setWindowTitle(tr("Text Output"));
+    setHelpTopic(this, "TEXT/OUTPUT");
+    new QVBoxLayout(this);
+    addExtent();
+    addLoadCases(index);
+    addCombinations(index);
+    addOkRow();
+    setState(TextOutputState::read(index, ExtentFields::DefaultLists));
+    m_kept = state();
+    const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
+    resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // with all hints
+    new KeptPlace(this);
+}
+
+QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& explanation)
+{
+    auto box = new QGroupBox(title, this);
+    auto column = new QVBoxLayout(box);
+    auto hint = new QLabel(explanation, box);
+    hint->setWordWrap(true);
+    column->addWidget(hint);
+    layout()->addWidget(box);
+    return column;
+}
+
+void TextOutputDialog::addExtent()
+{
+    QVBoxLayout* column = addBox(
+        tr("Extent of the text output"),
+        tr("Decides which lists are printed. Manually controlled: those that are checked here."));
+    QWidget* box = column->parentWidget();
+    setHelpTopic(box, "TEXT/EXTENT");
+    m_extent.initEchoOutput(box);
+    column->addLayout(m_extent.layout());
+    m_fields = new ExtentFields(box);
+    column->addWidget(m_fields);
+    m_extentResult = addResult(column, "ExtentResult");
+    m_extent.useWidget(m_fields);
+    // This form of the group relays no signals.
+    const auto buttons = box->findChildren<QRadioButton*>();
+    for (const QRadioButton* button : buttons)
+        connect(button, &QRadioButton::toggled, this, &TextOutputDialog::showChoice);
+    connect(m_fields, &ExtentFields::changed, this, &TextOutputDialog::showChoice);
+}
+
+void TextOutputDialog::addLoadCases(int index)
+{
+    QVBoxLayout* column = addBox(tr("Load cases in the text output"),
+                                 tr("Decides for which load cases loads and results are printed. "
+                                    "Manually: those that are checked in the table."));
+    QWidget* box = column->parentWidget();
+    setHelpTopic(box, "TEXT/LOADCASES");
+    m_loadCases.init(box);
+    column->addLayout(m_loadCases.layout());
+    m_loadCaseTable = new PickTable(loadCases(index, true), box, "TextLoadCases");
+    m_loadCaseTable->setAccessibleName(tr("Load cases"));
+    column->addWidget(m_loadCaseTable);
+    m_loadCaseResult = addResult(column, "LoadCaseResult");
+    m_loadCases.useWidget(m_loadCaseTable);
+    connect(&m_loadCases, &Group::buttonClicked, this, &TextOutputDialog::showChoice);
+    connect(m_loadCaseTable, &PickTable::changed, this, &TextOutputDialog::showChoice);
+}
+
+void TextOutputDialog::addCombinations(int index)
+{
+    QVBoxLayout* column = addBox(
+        tr("Combinations in the text output"),
+        tr("Decides for which combinations results are printed: all of one kind, or manually those "
+           "that are checked in the table. The kinds can be changed while Manually is chosen."));
+    QWidget* box = column->parentWidget();
+    setHelpTopic(box, "TEXT/COMBINATIONS");
+    m_kindRow = new QWidget(box);
+    column->addWidget(m_kindRow);
+    m_combinationTable = new CombinationTable(loadCases(index, false), box, "TextCombinations");
+    m_combinationTable->setAccessibleName(tr("Combinations"));
+    column->addWidget(m_combinationTable);
+    m_combinationResult = addResult(column, "CombinationResult");
+    fillKindRow();
+    connect(m_combinationTable, &PickTable::changed, this, &TextOutputDialog::updateKindRow);
+}
+
+/// Only kinds that a combination has are offered.
+void TextOutputDialog::updateKindRow()
+{
+    if (kindsOf(*m_combinationTable) != m_kinds)
+        fillKindRow();
+    showChoice();
+}
+
+/// Kinds change while the choice is made by hand, so that it is by hand in the new row, too.
+void TextOutputDialog::fillKindRow()
+{
+    auto row = new QWidget(m_kindRow->parentWidget());
+    m_kinds = kindsOf(*m_combinationTable);
+    m_combinations = std::make_unique<Group>();
+    m_combinations->initForLF(row, m_kinds);
+    row->setLayout(m_combinations->layout());
+    row->layout()->setContentsMargins(0, 0, 0, 0);
+    m_combinations->setSelectedId(Group::Manually);
+    m_combinations->useWidget(m_combinationTable);
+    connect(m_combinations.get(), &Group::buttonClicked, this, &TextOutputDialog::showChoice);
+    delete m_kindRow->parentWidget()->layout()->replaceWidget(m_kindRow, row);
+    delete m_kindRow;
+    m_kindRow = row;
+    QWidget* before = m_loadCaseTable;
+    const auto buttons = row->findChildren<QRadioButton*>();
+    for (QRadioButton* button : buttons) {
+        setTabOrder(before, button);
+        before = button;
+    }
+    setTabOrder(before, m_combinationTable);
+}
+
+QLabel* TextOutputDialog::addResult(QVBoxLayout* column, const char* name)
+{
+    auto result = new VKD_QT_Label(this, name);
+    result->setWordWrap(true);
+    QFont bold = result->font();
+    bold.setBold(true);
+    result->setFont(bold);
+    column->addWidget(result);
+    return result;
+}
+
+void TextOutputDialog::addOkRow()
+{
+    auto row = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
+    layout()->addWidget(row);
+    connect(row->cmdOk(), &QPushButton::clicked, this, &TextOutputDialog::accept);
+    connect(row->cmdCancel(), &QPushButton::clicked, this, &TextOutputDialog::reject);
+}
+
+TextOutputState TextOutputDialog::state() const
+{
+    TextOutputState present;
+    present.extent = m_extent.writeXML();
+    present.loadCases = m_loadCases.writeXML();
+    present.combinations = m_combinations->writeXML();
+    present.lists = m_fields->choice().lists;
+    present.allValues = m_fields->choice().allValues;
+    present.leftOutLoadCases = m_loadCaseTable->leftOut();
+    present.leftOutCombinations = m_combinationTable->leftOut();
+    present.kinds = m_combinationTable->kinds();
+    return present;
+}
+
+void TextOutputDialog::setState(const TextOutputState& state)
+{
+    {
+        // Between two of these the dialog is half the old one, which is not to be shown.
+        const QSignalBlocker fields(m_fields);
+        const QSignalBlocker loadCaseTable(m_loadCaseTable);
+        const QSignalBlocker combinationTable(m_combinationTable);
+        m_fields->setChoice({state.lists, state.allValues});
+        m_loadCaseTable->setLeftOut(state.leftOutLoadCases);
+        m_combinationTable->setLeftOut(state.leftOutCombinations);
+        m_combinationTable->setKinds(state.kinds);
+    }
+    if (kindsOf(*m_combinationTable) != m_kinds)
+        fillKindRow();
+    // What was never stored leaves these.
+    m_extent.setSelectedId(Group::Manually);
+    m_loadCases.setSelectedId(Group::All);
+    m_combinations->setSelectedId(Group::Manually);
+    m_extent.readXML(state.extent);
+    m_loadCases.readXML(state.loadCases);
+    m_combinations->readXML(state.combinations);
+    showChoice();
+}
+
+bool TextOutputDialog::isChanged() const
+{
+    return !(state() == m_kept);
+}
+
+void TextOutputDialog::showChoice()
+{
+    showInFields();
+    m_extentResult->setText(extentText());
+    m_loadCaseResult->setText(loadCaseText());
+    m_combinationResult->setText(combinationText());
+    Q_EMIT choiceChanged();
+}
+
+/// What does not count is not to be seen.
+void TextOutputDialog::showInFields()
+{
+    if (m_extent.getSelectedId() == Group::Manually)
+        m_fields->showChosen();
+    else
+        m_fields->showRule(printedExtent());
+    if (m_loadCases.getSelectedId() == Group::Manually)
+        m_loadCaseTable->showPicked();
+    else
+        m_loadCaseTable->showRule(printedLoadCases());
+    if (m_combinations->getSelectedId() == Group::Manually)
+        m_combinationTable->showPicked();
+    else
+        m_combinationTable->showRule(printedCombinations());
+}
+
+ExtentFields::Choice TextOutputDialog::printedExtent() const
+{
+    switch (m_extent.getSelectedId()) {
+    case Group::Manually: return m_fields->choice();
+    case Group::All: return {ExtentFields::AllLists, true};
+    default: return {};
+    }
+}
+
+QVector<int> TextOutputDialog::printedLoadCases() const
+{
+    switch (m_loadCases.getSelectedId()) {
+    case Group::Manually: return m_loadCaseTable->picked();
+    case Group::All: return m_loadCaseTable->numbers();
+    default: return {};
+    }
+}
+
+QVector<int> TextOutputDialog::printedCombinations() const
+{
+    const Group::ButtonID kind = m_combinations->getSelectedId();
+    return kind == Group::Manually ? m_combinationTable->picked()
+                                   : m_combinationTable->numbersOf(kind);
+}
+
+QString TextOutputDialog::extentText() const
+{
+    const auto [lists, allValues] = printedExtent();
+    if (!lists)
+        return tr("Printed lists: none");
+    const QString printed = tr("Printed lists: %1").arg(ExtentFields::listNames(lists));
+    if (!(lists & ExtentFields::ResultLists))
+        return printed;
+    return tr("%1. Result values: %2").arg(printed, ExtentFields::valuesName(allValues));
+}
+
+QString TextOutputDialog::loadCaseText() const
+{
+    if (!(printedExtent().lists & (ExtentFields::Loads | ExtentFields::ResultLists)))
+        return tr("Printed load cases: none, as neither loads nor results are printed");
+    const QVector<int> printed = printedLoadCases();
+    if (printed.isEmpty())
+        return tr("Printed load cases: none");
+    return tr("Printed load cases (%1 of %2): %3")
+        .arg(printed.size())
+        .arg(m_loadCaseTable->numbers().size())
+        .arg(shownNumbers(printed));
+}
+
+QString TextOutputDialog::combinationText() const
+{
+    if (!(printedExtent().lists & ExtentFields::ResultLists))
+        return tr("Printed combinations: none, as no results are printed");
+    const QVector<int> printed = printedCombinations();
+    if (printed.isEmpty())
+        return tr("Printed combinations: none");
+    return tr("Printed combinations (%1 of %2): %3")
+        .arg(printed.size())
+        .arg(m_combinationTable->numbers().size())
+        .arg(shownNumbers(printed));
+}
+
+} // namespace workbench

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "project/TextOutputState.h"
+#include "window/textoutput/ExtentFields.h"
+
+#include <VKD_H_Dialog.h>
+#include <VKD_P_RadioGroup>
+
+#include <list>
+#include <memory>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace workbench {
+
+class CombinationTable;
+class PickTable;
+
+/// What the text output of a project prints: which lists, for which load cases and for which
+/// combinations. Each of the three is decided by a row of radio buttons of the library, with a
+/// widget below it for choosing by hand, and a line that names what comes out of the choice. It is
+/// not modal.
+class TextOutputDialog : public VKD_H_Dialog
+{
+    Q_OBJECT
+
+public:
+    /// Shows what is kept in the project at this database index, which outlives the dialog.
+    TextOutputDialog(int index, QWidget* parent);
+
+    /// For the project to keep.
+    TextOutputState state() const;
+    void setState(const TextOutputState& state);
+    /// Whether the choice is another than the one in the project.
+    bool isChanged() const;
+    void setUnchanged() { m_kept = state(); }
+
+Q_SIGNALS:
+    void choiceChanged();
+
+private:
+    QVBoxLayout* addBox(const QString& title, const QString& explanation);
+    void addExtent();
+    void addLoadCases(int index);
+    void addCombinations(int index);
+    void updateKindRow();
+    void fillKindRow();
+    QLabel* addResult(QVBoxLayout* column, const char* name);
+    void addOkRow();
+    void showChoice();
+    void showInFields();
+
+    ExtentFields::Choice printedExtent() const;
+    QVector<int> printedLoadCases() const;
+    QVector<int> printedCombinations() const;
+    QString extentText() const;
+    QString loadCaseText() const;
+    QString combinationText() const;
+
+    VKD_P_RadioGroup m_extent;
+    VKD_P_RadioGroup m_loadCases;
+    std::unique_ptr<VKD_P_RadioGroup> m_combinations;
+    std::list<VKD_P_RadioGroup::ButtonID> m_kinds; ///< those in the row of m_combinations
+    QWidget* m_kindRow = nullptr;
+    ExtentFields* m_fields = nullptr;
+    PickTable* m_loadCaseTable = nullptr;
+    CombinationTable* m_combinationTable = nullptr;
+    QLabel* m_extentResult = nullptr;
+    QLabel* m_loadCaseResult = nullptr;
+    QLabel* m_combinationResult = nullptr;
+    TextOutputState m_kept;
+};
+
+} // namespace workbench
