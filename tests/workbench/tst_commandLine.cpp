@@ -311,7 +311,7 @@ private Q_SLOTS:
         row("script slab.zob -o .", "cannot write .: it is no file");
         row("snapshots noproject.zob pictures",
             "cannot open noproject.zob: this is no project file (file is not a database)");
-        row("snapshots slab.zob bad.json/pictures", "cannot make the folder bad.json/pictures");
+        row("snapshots slab.zob bad.json/pictures", "cannot create the folder bad.json/pictures");
         row("snapshots slab.zob none --pixel-ratio 5",
             "--pixel-ratio is a number from 1 to 4, not \"5\"");
     }

@@ -18,21 +18,22 @@ namespace workbench {
 namespace {
 constexpr int MaxTextWidth = 500;
 
-/// Layouts of word-wrapped texts need a few rounds.
+/// Processes events until the layouts of word-wrapped texts no longer change.
 void settle()
 {
     for (int round = 0; round < 4; ++round)
         QApplication::processEvents();
 }
 
-/// Dialogs come no larger than the screen allows, and the text of a message box wraps at half of
-/// it. The screen behind these pictures is small, the more so with a high pixel ratio.
+/// Gives a dialog the size that its content needs. Qt limits dialogs to the size of the screen and
+/// wraps the text of a message box at half its width, and the offscreen platform has a small
+/// screen.
 void giveRoom(QWidget* dialog)
 {
     if (auto text = dialog->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
         const int whole = text->fontMetrics().size(0, text->text()).width();
         text->setMinimumWidth(qMin(whole, MaxTextWidth));
-        return; // the box follows by itself
+        return; // the box adjusts its own size
     }
     QSize wanted = dialog->sizeHint();
     if (dialog->layout() && dialog->layout()->hasHeightForWidth())
@@ -50,7 +51,7 @@ SnapshotAlbum::SnapshotAlbum(const QString& folder)
     : m_folder(folder)
 {
     if (!QDir().mkpath(folder))
-        throw failure(QStringLiteral("cannot make the folder %1").arg(folder));
+        throw failure(QStringLiteral("cannot create the folder %1").arg(folder));
 }
 
 void SnapshotAlbum::add(const QString& name, QWidget* widget)
@@ -73,7 +74,7 @@ void SnapshotAlbum::add(const QString& name, QWidget* widget)
 void SnapshotAlbum::addModal(const QString& name, const std::function<void()>& open,
                              const std::function<void(QWidget*)>& work)
 {
-    std::exception_ptr failed; // must not pass through the event loop
+    std::exception_ptr failed; // exceptions must not pass through the event loop
     bool wasOpened = false;
     QTimer::singleShot(0, qApp, [&] {
         QWidget* dialog = QApplication::activeModalWidget();

@@ -8,31 +8,36 @@ class QWidget;
 
 namespace workbench {
 
-/// Pictures of widgets, as files in a folder. Each name gets the language of the desktop.
+/// Saves pictures of widgets as files in a folder. The file names contain the language of the
+/// desktop. Throws std::runtime_error if a file cannot be written.
 class SnapshotAlbum
 {
 public:
-    /// Makes the folder if it is missing.
+    /// Creates the folder if it is missing.
     explicit SnapshotAlbum(const QString& folder);
 
-    /// What the names get behind them from now on.
+    /// Sets the suffix of the names that are added later.
     void setLook(const QString& look) { m_look = look; }
 
-    /// The widget as it stands, once everything that is waiting to be done is done. A list that has
-    /// dropped down from it is in the picture. A window that has no size yet gets all that it
-    /// wants, however small the screen is.
+    /// Processes the pending events, then saves a picture of the widget and of its open drop-down
+    /// list.
     void add(const QString& name, QWidget* widget);
-    /// The dialog that `open` opens, which blocks meanwhile, as large as it likes to be; then
-    /// `work` may go on with it, and the dialog is cancelled.
+    /// Saves a picture of the modal dialog that `open` opens, in the size that its content needs
+    /// even if the screen is smaller. Then calls `work` with the dialog and cancels it.
     void addModal(const QString& name, const std::function<void()>& open,
                   const std::function<void(QWidget*)>& work = {});
 
+    /// Records that the project cannot have this picture.
+    void leaveOut(const QString& name) { m_leftOut << name + m_look; }
+
     const QStringList& files() const { return m_files; }
+    const QStringList& leftOut() const { return m_leftOut; }
 
 private:
     QString m_folder;
     QString m_look;
     QStringList m_files;
+    QStringList m_leftOut;
 };
 
 } // namespace workbench

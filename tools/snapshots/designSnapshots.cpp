@@ -15,10 +15,10 @@
 namespace workbench {
 
 namespace {
-constexpr int EditedRow = 2; // below the row of the remaining groups, which has no group editor
+constexpr int EditedRow = 2; // the row of the remaining groups, above it, has no group editor
 constexpr int TypeColumn = 1;
 
-/// The page in a dialog, as a host has it.
+/// A dialog that contains the page.
 class DesignHost : public VKD_QT_Dialog
 {
 public:
@@ -35,7 +35,10 @@ public:
 
     VKD_P_DesignParameter* page() const { return m_page; }
     QTableWidget* table() const { return findChild<QTableWidget*>(QStringLiteral("table")); }
-    void click(const char* button) { findChild<QPushButton*>(QLatin1String(button))->click(); }
+    QPushButton* button(const char* name) const
+    {
+        return findChild<QPushButton*>(QLatin1String(name));
+    }
 
     void select(int column) { table()->setCurrentCell(EditedRow, column); }
     void press(int key)
@@ -67,6 +70,15 @@ void addCellEditors(SnapshotAlbum& album, DesignHost& host)
         if (QWidget* list = QApplication::activePopupWidget())
             list->close();
     }
+}
+
+/// The page disables the buttons of groups that the model does not have.
+void addGroupDialog(SnapshotAlbum& album, DesignHost& host, const char* name, const char* button)
+{
+    if (host.button(button)->isEnabled())
+        album.addModal(QLatin1String(name), [&] { host.button(button)->click(); });
+    else
+        album.leaveOut(QLatin1String(name));
 }
 
 void addParameterDialogs(SnapshotAlbum& album, DesignHost& host)
@@ -111,16 +123,16 @@ void addDesignSnapshots(SnapshotAlbum& album, VKD_H_ZOBDoc* document)
 {
     DesignHost host(document);
     while (host.table()->rowCount() <= EditedRow)
-        host.click("btnNew");
+        host.button("btnNew")->click();
     album.add(QStringLiteral("design-page"), &host);
     addCellEditors(album, host);
     host.select(0);
-    album.addModal(QStringLiteral("groups"), [&host] { host.click("buttonGroups"); });
-    album.addModal(QStringLiteral("secondary-groups"), [&host] { host.click("buttonSekGroups"); });
+    addGroupDialog(album, host, "groups", "buttonGroups");
+    addGroupDialog(album, host, "secondary-groups", "buttonSekGroups");
     addParameterDialogs(album, host);
     addCalculator(album, host);
     addHelp(album, host);
-    host.click("btnNew");
+    host.button("btnNew")->click();
     album.addModal(QStringLiteral("design-warning"), [&host] { host.page()->checkVals(); });
 }
 

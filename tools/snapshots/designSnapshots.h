@@ -6,7 +6,8 @@ namespace workbench {
 
 class SnapshotAlbum;
 
-/// The design page, its cell editors and its dialogs. Changes the project.
+/// Adds the design page, its cell editors and its dialogs. Changes the project. Group dialogs that
+/// the model has no groups for are left out.
 void addDesignSnapshots(SnapshotAlbum& album, VKD_H_ZOBDoc* document);
 
 } // namespace workbench

@@ -4,7 +4,7 @@ class QPalette;
 
 namespace workbench {
 
-/// A dark desktop, whatever the platform has.
+/// The colours of a dark desktop, independent of the platform's theme.
 QPalette darkPalette();
 
 } // namespace workbench

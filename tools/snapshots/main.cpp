@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFont>
 
+#include <cstdio>
 #include <stdexcept>
 
 namespace {
@@ -20,8 +21,8 @@ bool isPixelRatio(int ratio)
     return ratio >= 1 && ratio <= LargestRatio;
 }
 
-/// How many pixels a point of the pictures is to have, which Qt has to know before it starts. Help
-/// and messages need an application and are left to the command.
+/// The pixel ratio of the pictures, which must be set before the application is created. The
+/// command parses the arguments again for help and error messages, which need an application.
 int pixelRatio(const QStringList& arguments)
 {
     QCommandLineParser parser;
@@ -31,25 +32,33 @@ int pixelRatio(const QStringList& arguments)
     return isPixelRatio(ratio) ? ratio : 1;
 }
 
+void reportMissing(const SnapshotAlbum& album)
+{
+    if (!album.leftOut().isEmpty())
+        std::fprintf(stderr, "plib_workbench: left out, because the model has no such groups: %s\n",
+                     qUtf8Printable(album.leftOut().join(QLatin1String(", "))));
+}
+
 int snapshots(const QStringList& arguments)
 {
     CommandLine line(
-        QStringLiteral("Leaves a picture of every page and dialog on this project in a folder, "
-                       "light and dark, and prints the names of the files. The project stays as it "
-                       "is."),
+        QStringLiteral("Saves a picture of every page and dialog with this project in a folder, in "
+                       "light and dark colours, and prints the names of the files. The project is "
+                       "not changed."),
         {QStringLiteral("FILE"), QStringLiteral("DIR")},
         {languageOption(),
          {PixelRatio, QStringLiteral("N"),
-          QStringLiteral("Pixels for each point of the screen, as on fine screens: 1 to 4.")}});
+          QStringLiteral("Pixels per point, as on high-resolution screens: 1 to 4.")}});
     line.parse(arguments);
     if (!isPixelRatio(line.number("pixel-ratio", 1)))
         throw CommandError{QStringLiteral("--pixel-ratio is a number from 1 to 4, not \"%1\"")
                                .arg(line.value("pixel-ratio"))};
     applyLanguage(line);
-    openProject(line.argument(0)); // says what is wrong with a file that is none
+    openProject(line.argument(0)); // throws the reason if the file is not a project
     try {
-        const QStringList files = takeSnapshots(line.argument(0), line.argument(1));
-        print(files.join(QLatin1Char('\n')) + QLatin1Char('\n'));
+        const SnapshotAlbum album = takeSnapshots(line.argument(0), line.argument(1));
+        print(album.files().join(QLatin1Char('\n')) + QLatin1Char('\n'));
+        reportMissing(album);
     } catch (const std::runtime_error& failure) {
         throw CommandError{QString::fromUtf8(failure.what())};
     }
@@ -57,7 +66,7 @@ int snapshots(const QStringList& arguments)
 }
 } // namespace
 
-/// The pictures are drawn off the screen, so that none is needed.
+/// The pictures are drawn offscreen, so the program needs no display.
 int main(int argc, char* argv[])
 {
     beginProgram();

@@ -3,7 +3,6 @@
 #include "designSnapshots.h"
 #include "looks.h"
 #include "outputSnapshots.h"
-#include "SnapshotAlbum.h"
 #include "windowSnapshots.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -18,18 +17,18 @@
 namespace workbench {
 
 namespace {
-/// The pages of a copy of the project, which they change.
+/// Adds the pages on a copy of the project. The pages change the copy.
 void addPages(SnapshotAlbum& album, const QString& copy)
 {
     const auto document = VKD_H_ZOBDoc::open(copy);
     if (!document)
-        throw std::runtime_error(copy.toStdString() + " is no project");
+        throw std::runtime_error(copy.toStdString() + " is not a project");
     addDesignSnapshots(album, document.get());
     addOutputSnapshots(album, document.get());
 }
 } // namespace
 
-QStringList takeSnapshots(const QString& project, const QString& folder)
+SnapshotAlbum takeSnapshots(const QString& project, const QString& folder)
 {
     const QTemporaryDir copies;
     const auto copyOf = [&](const char* name) {
@@ -46,7 +45,7 @@ QStringList takeSnapshots(const QString& project, const QString& folder)
     album.setLook(QStringLiteral("-dark"));
     addPages(album, copyOf("dark.zob"));
     QApplication::setPalette(light);
-    return album.files();
+    return album;
 }
 
 } // namespace workbench

@@ -7,8 +7,8 @@ namespace workbench {
 class MainWindow;
 class SnapshotAlbum;
 
-/// The dialog of the text output over a window with a project: as proposed, and with the other
-/// buttons chosen. `look` is put behind the names.
+/// Adds the dialog of the text output of a window with a project: with the proposed choice, and
+/// with the other buttons chosen. `look` is the suffix of the names.
 void addTextOutputSnapshots(SnapshotAlbum& album, const MainWindow& window, const QString& look);
 
 } // namespace workbench

@@ -6,7 +6,8 @@ namespace workbench {
 
 class SnapshotAlbum;
 
-/// The window on a project, its dialogs and its picking of groups, light and dark.
+/// Adds the window with a project, its dialogs and the picking of groups, in light and dark
+/// colours.
 void addWindowSnapshots(SnapshotAlbum& album, const QString& project);
 
 } // namespace workbench

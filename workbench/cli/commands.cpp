@@ -33,7 +33,7 @@ constexpr Command Commands[] = {
     {"rows", rowsCommand, nullptr, "print and change how a project's area elements are designed"},
     {"tree", treeCommand, nullptr, "print the plots that a project offers, with their check marks"},
     {"snapshots", nullptr, "plib_workbench_snapshots",
-     "leave a picture of every page and dialog in a folder"},
+     "save a picture of every page and dialog in a folder"},
     {"window", nullptr, "plib_workbench_window", "open the desktop window"},
 };
 
