@@ -14,6 +14,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_searchpath.h>
 #include <vkd_lib_value.h>
+#include <VKD_P_WidgetGraphicalOutput_Role.h>
 #include <VKD_QT_InitTranslator.h>
 
 #include <QMenu>
@@ -53,6 +54,21 @@ public:
 private:
     rlimit m_before{};
 };
+
+/// The roles that hosts read, from level to load case; a role that is not set is "-".
+QString roles(const QTreeWidgetItem* item)
+{
+    using namespace vkd::plib::widgetgraphicaloutput;
+    QStringList texts;
+    for (int role = LevelRole; role <= LoadCaseRole; ++role) {
+        const QVariant value = item->data(0, role);
+        const bool isList = value.type() == QVariant::StringList;
+        texts << (!value.isValid() ? QStringLiteral("-")
+                  : isList         ? value.toStringList().join(QLatin1Char('/'))
+                                   : value.toString());
+    }
+    return texts.join(QLatin1Char('|'));
+}
 
 /// Which of the tree's pictures it is; none has no name.
 QString iconName(const QIcon& icon)
@@ -214,6 +230,41 @@ private Q_SLOTS:
         QCOMPARE(states(), QStringLiteral("xxxx"));
         tree.setUsedNumbersAndNames({});
         QCOMPARE(states(), QStringLiteral("..."));
+    }
+
+    void itemRoles_data()
+    {
+        const Columns<QByteArray, int, QStringList> row("line", "rowCount", "expected");
+        const QStringList captions{QStringLiteral("0|&ABC|-|-|-"),
+                                   QStringLiteral("1|&ABC    002|-|-|-")};
+        const QString plot = QStringLiteral("2|&ABC    0021 A^ABC|Base/B/Base one I|%1|-");
+        row("stands alone", line("&ABC|B|1 A^ABC", " "), 1,
+            captions + QStringList(plot.arg(QLatin1String("false"))));
+        row("has rows", line("&ABC|B|1 A^ABC", "last-l"), 2,
+            captions + QStringList{plot.arg(QLatin1String("false")), QStringLiteral("3|-|-|-|1"),
+                                   QStringLiteral("3|-|-|-|2")});
+        row("waits for rows", line("&ABC|B|1 A^ABC", "last-e"), 2,
+            captions + QStringList(plot.arg(QLatin1String("true"))));
+        row("a later plot adds rows", line("A|B|B", "last-e") + line("A|B|C", "last-l"), 1,
+            {QStringLiteral("0|001|-|-|-"), QStringLiteral("1|001    002|-|-|-"),
+             QStringLiteral("2|001    002    003|A/B/B|false|-"), QStringLiteral("3|-|-|-|1")});
+        row("nothing offered", QByteArray(), 1, {QStringLiteral("-|-|-|-|-")});
+    }
+
+    void itemRoles()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(int, rowCount);
+        m_texts =
+            std::make_unique<testsupport::Texts>("0|ABC|Grund|Base\n1|ABC|Grund eins|Base one\n");
+        useCatalogue(line);
+        Tree tree(nullptr, StandardPage, m_parameter.get(), "m_list");
+        tree.setUsedNumbersAndNames(testsupport::rows(rowCount));
+        tree.applySelection(QStringLiteral("Checked:x")); // replaces the looks of the rows
+        QStringList shown;
+        for (QTreeWidgetItemIterator it(&tree); *it; ++it)
+            shown << roles(*it);
+        QTEST(shown, "expected");
     }
 
     void nothingOffered()

@@ -4,6 +4,7 @@
 #include "catalogue/ZobModelQueries.h"
 #include "script/scriptLines.h"
 #include "tree/GraphicalOutputTreeWidgetItem.h"
+#include "tree/itemRoles.h"
 #include "tree/outputTreeIcons.h"
 #include "tree/RowLooks.h"
 #include "tree/selectionText.h"
@@ -40,10 +41,10 @@ public:
     {
     }
 
-    Item* create(Item* parent, const QString& text)
+    Item* create(Item* parent, const QString& text, int number)
     {
         const bool isRow = parent->level == PlotLevel;
-        Item* item = isRow ? new Item(m_looks.of(text, false)) : new Item(text);
+        Item* item = isRow ? new Item(m_looks.of(text, number, false)) : new Item(text);
         if (parent == m_root)
             m_tree->addTopLevelItem(item);
         else if (parent->level + 1 == PlotLevel)
@@ -57,7 +58,7 @@ public:
     void check(Item* item)
     {
         if (item->level > PlotLevel)
-            item->takeLook(m_looks.of(item->text(0), true));
+            item->takeLook(m_looks.of(item->text(0), item->number, true));
         else
             item->setCheckState(0, Qt::Checked);
     }
@@ -204,6 +205,7 @@ void GraphicalOutputTreeWidget::refill(bool defaults)
     const QString choice = keepsChoice ? selectionText() : QString();
     clear();
     fillTree();
+    plib::publishRoles(this);
     if (topLevelItemCount() == 0)
         addTopLevelItem(new QTreeWidgetItem({tr("No Entries in database!")}));
     else if (keepsChoice)
@@ -236,7 +238,7 @@ void GraphicalOutputTreeWidget::setChoice(const QString& text)
     plib::RowLooks looks(isEnglish());
     plib::applySelection(invisibleRootItem(), text, [&looks](Item* item, Qt::CheckState state) {
         if (item->level > PlotLevel)
-            item->takeLook(looks.of(item->text(0), state == Qt::Checked));
+            item->takeLook(looks.of(item->text(0), item->number, state == Qt::Checked));
         else
             item->setCheckState(0, state);
     });

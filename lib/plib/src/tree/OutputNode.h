@@ -61,7 +61,10 @@ public:
     {
     }
 
-    OutputNode* create(OutputNode* parent, const QString& text) { return parent->addChild(text); }
+    OutputNode* create(OutputNode* parent, const QString& text, int)
+    {
+        return parent->addChild(text);
+    }
     void remove(OutputNode* node) { (node->parent() ? node->parent() : m_root)->removeChild(node); }
     void complete(OutputNode*) {}
     void check(OutputNode* node) { node->setCheckState(0, Qt::Checked); }

@@ -1,16 +1,22 @@
 #include "tree/RowLooks.h"
 
 #include "tree/outputTreeIcons.h"
+#include "VKD_P_WidgetGraphicalOutput_Role.h"
 
 namespace plib {
 
-RowLooks::Looks::Looks(const QString& rowText, const QIcon& icon)
+RowLooks::Looks::Looks(const QString& rowText, int number, const QIcon& icon)
     : text(rowText)
     , unchecked(rowText)
     , checked(rowText)
 {
-    unchecked.setIcon(0, icon);
-    checked.setIcon(0, icon);
+    using namespace vkd::plib::widgetgraphicaloutput;
+    constexpr int RowLevel = 3;
+    for (GraphicalOutputTreeWidgetItem* look : {&unchecked, &checked}) {
+        look->setIcon(0, icon);
+        look->setData(0, LevelRole, RowLevel);
+        look->setData(0, LoadCaseRole, number);
+    }
     checked.setCheckState(0, Qt::Checked);
 }
 
@@ -19,11 +25,11 @@ RowLooks::RowLooks(bool english)
 {
 }
 
-const GraphicalOutputTreeWidgetItem& RowLooks::of(const QString& text, bool checked)
+const GraphicalOutputTreeWidgetItem& RowLooks::of(const QString& text, int number, bool checked)
 {
-    std::unique_ptr<const Looks>& looks = m_looks[{text.constData(), text.size()}];
+    std::unique_ptr<const Looks>& looks = m_looks[{text.constData(), text.size(), number}];
     if (!looks)
-        looks = std::make_unique<const Looks>(text, m_icon);
+        looks = std::make_unique<const Looks>(text, number, m_icon);
     return checked ? looks->checked : looks->unchecked;
 }
 

@@ -16,11 +16,12 @@ namespace plib {
 /// A plot that binds to load cases has a row for each of them.
 ///
 /// `Operations` provides the operations on the tree that a node does not have: `Node* create(Node*
-/// parent, const QString& text)` appends an unchecked output item, `complete(Node*)` is called for
-/// a new plot after its rows are created, `remove(Node*)` deletes an item, `check(Node*)` checks
-/// it, `plotIcon(Node*)` and `rowIcon(Node*)` set its icon, `expand(Node*)` expands it. The builder
-/// finds captions by a hash of its own and computes the state of each parent once, that of a plot
-/// as soon as its rows are complete. So the time is linear in records and rows.
+/// parent, const QString& text, int number)` appends an unchecked output item, with the load case
+/// of a row or 0, `complete(Node*)` is called for a new plot after its rows are created,
+/// `remove(Node*)` deletes an item, `check(Node*)` checks it, `plotIcon(Node*)` and
+/// `rowIcon(Node*)` set its icon, `expand(Node*)` expands it. The builder finds captions by a hash
+/// of its own and computes the state of each parent once, that of a plot as soon as its rows are
+/// complete. So the time is linear in records and rows.
 template <typename Node, typename Operations>
 class TreeBuilder
 {
@@ -63,11 +64,13 @@ public:
     }
 
 private:
-    Node* create(Node* parent, const QString& text, const GraphicalOutputRecord& record, int level)
+    Node* create(Node* parent, const QString& text, const GraphicalOutputRecord& record, int level,
+                 int number = 0)
     {
-        Node* node = m_operations.create(parent, text);
+        Node* node = m_operations.create(parent, text, number);
         node->record = record;
         node->level = level;
+        node->number = number;
         return node;
     }
 
@@ -127,10 +130,9 @@ private:
     {
         // Rows always copy the record of the plot, and with it the script, even if the plot is
         // reused.
-        Node* row = create(plot, name, plot->record, 3);
+        Node* row = create(plot, name, plot->record, 3, number);
         m_operations.rowIcon(row);
         row->isLC = row->record.rowMark;
-        row->number = number;
     }
 
     /// Checks all rows of the plot. Rows checked by an earlier call are not visited again.
