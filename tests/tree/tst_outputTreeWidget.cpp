@@ -267,6 +267,35 @@ private Q_SLOTS:
         QTEST(shown, "expected");
     }
 
+    void captionsFollowTheLanguage()
+    {
+        m_texts =
+            std::make_unique<testsupport::Texts>("0|ABC|Grund|Base\n1|ABC|Grund eins|Base one\n");
+        useCatalogue(line("&ABC and more|@XYZ Literal|1 A^ABC", "last-l", 1) +
+                     line("&ABC|Plain|^XXX Fallback", " "));
+        Tree tree(nullptr, StandardPage, m_parameter.get(), "m_list");
+        tree.setUsedNumbersAndNames(testsupport::rows(1));
+        const auto texts = [&tree] { return treeText(tree.invisibleRootItem()); };
+        const QString english = QStringLiteral("[x] Base\n  [x] Literal\n    [x] Base one I\n"
+                                               "      [x] 1 : a\n  [x] Plain\n    [x] Fallback\n");
+        const QString german = QString(english)
+                                   .replace(QLatin1String("Base one"), QLatin1String("Grund eins"))
+                                   .replace(QLatin1String("Base"), QLatin1String("Grund"));
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0);
+        tree.rebuild(true); // the catalogue keeps its captions
+        QCOMPARE(texts(), english);
+        const QString choice = tree.selectionText();
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&tree, &change);
+        QCOMPARE(texts(), german);
+        tree.rebuild(false);
+        QCOMPARE(texts(), german);
+        QCOMPARE(tree.selectionText(), choice);
+        const QTreeWidgetItem* plot = tree.topLevelItem(0)->child(0)->child(0);
+        QCOMPARE(roles(plot),
+                 QStringLiteral("2|&ABC   @XYZ1 A^ABC|Grund/Literal/Grund eins I|false|-"));
+    }
+
     void nothingOffered()
     {
         useCatalogue(line("A|B|C", " ").replace("| |0|", "|Quad|0|"));

@@ -168,9 +168,7 @@ void CatalogueParser::storeCaption(const QString& part, int place, QString* capt
     }
     const int prefixLength = hasQualifier(part) ? 7 : 4;
     *identifier = QLatin1String("   ", 7 - prefixLength) % QStringView(part).left(prefixLength);
-    const QString text = captionText(part);
-    *caption =
-        text.isEmpty() ? QStringView(part).mid(prefixLength).trimmed().toString() : text.trimmed();
+    *caption = captionOr(part, QStringView(part).mid(prefixLength).trimmed());
 }
 
 void CatalogueParser::storeCaseWord(const QString& part)

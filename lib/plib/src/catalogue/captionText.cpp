@@ -109,4 +109,10 @@ QString captionText(const QString& field)
     return out;
 }
 
+QString captionOr(const QString& field, QStringView fallback)
+{
+    const QString text = captionText(field);
+    return text.isEmpty() ? fallback.toString() : text.trimmed();
+}
+
 } // namespace plib

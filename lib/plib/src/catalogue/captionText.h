@@ -18,4 +18,8 @@ bool hasQualifier(QStringView keyText);
 /// service, empty if the service has no text. The caption is not trimmed.
 QString captionText(const QString& field);
 
+/// Returns the caption that a tree shows for a key text, in the language of the desktop: its
+/// trimmed captionText(), or `fallback` if it has no text.
+QString captionOr(const QString& field, QStringView fallback);
+
 } // namespace plib

@@ -3,6 +3,7 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/ZobModelQueries.h"
 #include "script/scriptLines.h"
+#include "tree/CaptionTranslator.h"
 #include "tree/GraphicalOutputTreeWidgetItem.h"
 #include "tree/itemRoles.h"
 #include "tree/outputTreeIcons.h"
@@ -102,6 +103,7 @@ GraphicalOutputTreeWidget::GraphicalOutputTreeWidget(QWidget* parent, int kind,
     const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
     if (!plib::loadCatalogue(plib::sharedCatalogue(), language, showError))
         return;
+    new plib::CaptionTranslator(this);
     refill(true);
     popup.build(this, false);
 }
@@ -205,6 +207,7 @@ void GraphicalOutputTreeWidget::refill(bool defaults)
     const QString choice = keepsChoice ? selectionText() : QString();
     clear();
     fillTree();
+    findChild<plib::CaptionTranslator*>()->translate();
     plib::publishRoles(this);
     if (topLevelItemCount() == 0)
         addTopLevelItem(new QTreeWidgetItem({tr("No Entries in database!")}));

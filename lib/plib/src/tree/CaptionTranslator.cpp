@@ -1,0 +1,71 @@
+#include "tree/CaptionTranslator.h"
+
+#include "catalogue/captionText.h"
+#include "tree/GraphicalOutputTreeWidgetItem.h"
+#include "tree/itemRoles.h"
+
+#include <VKD_QT_SignalBlocker.h>
+
+#include <QEvent>
+#include <QTreeWidget>
+
+namespace plib {
+
+namespace {
+constexpr int CaptionLevels = 3;
+
+/// An identifier is the key text of the caption, aligned by three blanks if it has no qualifiers.
+QString translated(const QString& identifier, const QString& title)
+{
+    const QLatin1String alignment("   ");
+    return captionOr(
+        identifier.startsWith(alignment) ? identifier.mid(alignment.size()) : identifier, title);
+}
+
+QString captionOf(const GraphicalOutputTreeWidgetItem& item)
+{
+    const GraphicalOutputRecord& record = item.record;
+    switch (item.level) {
+    case 0: return translated(record.id1, record.title1);
+    case 1: return translated(record.id2, record.title2);
+    default: return translated(record.id3, record.title3);
+    }
+}
+
+void translateBelow(QTreeWidgetItem* parent, int level)
+{
+    for (int i = 0; level < CaptionLevels && i < parent->childCount(); ++i)
+        if (GraphicalOutputTreeWidgetItem* item = outputItem(parent->child(i))) {
+            item->setText(0, captionOf(*item));
+            translateBelow(item, level + 1);
+        }
+}
+} // namespace
+
+CaptionTranslator::CaptionTranslator(QTreeWidget* tree)
+    : QObject(tree)
+    , m_tree(tree)
+{
+    tree->installEventFilter(this);
+}
+
+void CaptionTranslator::translate()
+{
+    if (!m_isActive)
+        return;
+    const VKD_QT_SignalBlocker silence(m_tree->model());
+    translateBelow(m_tree->invisibleRootItem(), 0);
+}
+
+bool CaptionTranslator::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_isActive = true;
+        translate();
+        publishRoles(m_tree);
+        m_tree->doItemsLayout(); // the texts have other widths
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace plib
