@@ -12,9 +12,13 @@
 
 #include <QCoreApplication>
 
+#include <set>
+
 namespace workbench {
 
 namespace {
+constexpr int NoPage = 0; // in a column of the catalogue
+
 std::list<QString> additionalContents(const OutputState& kept)
 {
     if (kept.content == OutputState::WithSolids)
@@ -25,6 +29,24 @@ std::list<QString> additionalContents(const OutputState& kept)
 void showError(const QString& title, const QString& text)
 {
     throw CommandError{QStringLiteral("%1: %2").arg(title, text)};
+}
+/// Every number is a kind of page to the library, but a number that neither the library nor the
+/// catalogue names can only be a mistake.
+void checkProgname(int progname, const plib::Catalogue& catalogue)
+{
+    std::set<int> known{VKD_P_GraphicalOutput_Standard, VKD_P_GraphicalOutput_Split,
+                        VKD_P_GraphicalOutput_Prefix};
+    for (const plib::GraphicalOutputRecord& record : catalogue.list)
+        known.insert({record.prog1, record.prog2, record.prog3});
+    known.erase(NoPage);
+    if (known.count(progname))
+        return;
+    QStringList numbers;
+    for (int number : known)
+        numbers << QString::number(number);
+    throw CommandError{QStringLiteral("--progname is one of %1, not %2")
+                           .arg(numbers.join(QLatin1String(", ")))
+                           .arg(progname)};
 }
 } // namespace
 
@@ -44,6 +66,7 @@ void OutputTree::fill(const Rows& rows, const std::list<QString>& additional)
 {
     plib::Catalogue& catalogue = plib::sharedCatalogue();
     plib::loadCatalogue(catalogue, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), showError);
+    checkProgname(m_progname, catalogue);
     plib::OutputNodeOperations operations(&m_root);
     plib::TreeBuilder<plib::OutputNode, plib::OutputNodeOperations> builder(&m_root, rows,
                                                                             operations);
