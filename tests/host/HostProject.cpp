@@ -19,9 +19,9 @@ HostProject::HostProject(const QString& name)
     if (name.isEmpty())
         return;
     vkd::dbo::Model model;
-    QString error;
-    require(vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name), 1, &model, &error),
-            qPrintable(error));
+    const VkdStatus read =
+        vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name), 1, &model);
+    require(read.isOk(), qPrintable(read.reason));
     require(vkd::dbo::storeModel(m_project.index(), model).isOk(), "model not stored");
 }
 

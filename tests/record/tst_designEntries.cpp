@@ -134,7 +134,7 @@ private Q_SLOTS:
         for (const char* key : {"b", "c"})
             page.setEntry(QLatin1String(key), longText);
         page.deleteEntry(QStringLiteral("c"));
-        QVERIFY(page.save());
+        QVERIFY(page.save().isOk());
         QVERIFY(project.doc->close().isOk());
         project.doc = VKD_H_ZOBDoc::open(path);
         const QString none = QStringLiteral("none");

@@ -344,9 +344,8 @@ private:
     void useModel(const QByteArray& name)
     {
         vkd::dbo::Model model;
-        QString error;
         const auto path = vkd_lib_searchpath(("models/" + name + ".json").constData(), 3);
-        QVERIFY(vkd::dbo::readModelFile(QFile::decodeName(path->c_str()), 0, &model, &error));
+        QVERIFY(vkd::dbo::readModelFile(QFile::decodeName(path->c_str()), 0, &model).isOk());
         QVERIFY(vkd::dbo::storeModel(m_doc->index(), model).isOk());
     }
 

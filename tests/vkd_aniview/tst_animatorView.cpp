@@ -313,10 +313,11 @@ private Q_SLOTS:
         model.quads.clear();
         model.nodes.resize(2000);
         QVERIFY(storeModel(m_project->index(), model).isOk());
-        QVERIFY(!m_view->setProject(m_project->index(), [](int) { return false; }));
+        QCOMPARE(m_view->setProject(m_project->index(), [](int) { return false; }).code,
+                 int(VKD_ZOB_CANCELLED));
         drag(*m_view, {Left}); // it still shows what it did
         QCOMPARE(m_view->pickedGroups(), Groups{7});
-        QVERIFY(m_view->setProject(-1));
+        QVERIFY(m_view->setProject(-1).isOk());
         m_view->setPickedGroups({7, 70});
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
@@ -327,8 +328,8 @@ private Q_SLOTS:
     {
         AnimatorView other(m_project->index());
         const testsupport::TemporaryProject none;
-        QVERIFY(m_view->setProject(none.index()));
-        QVERIFY(other.setProject(none.index()));
+        QVERIFY(m_view->setProject(none.index()).isOk());
+        QVERIFY(other.setProject(none.index()).isOk());
         other.setPicking(true);
         other.show();
         drag(other, {other.rect().center()});
@@ -348,11 +349,11 @@ private Q_SLOTS:
                                  QRegularExpression(QStringLiteral("no project is open")));
         m_view->setPicking(true);
         const auto closeIt = [index](int) { return vkd_zob_close(index).code == VKD_ZOB_OK; };
-        QVERIFY(m_view->setProject(index, closeIt));
+        QCOMPARE(m_view->setProject(index, closeIt).code, int(VKD_ZOB_NOT_OPEN));
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), Groups());
         QCOMPARE(vkd_zob_open(path, &index).code, int(VKD_ZOB_OK));
-        QVERIFY(m_view->setProject(index));
+        QVERIFY(m_view->setProject(index).isOk());
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), Groups{7});
         vkd_zob_close(index);

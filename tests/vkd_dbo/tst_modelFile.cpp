@@ -2,6 +2,7 @@
 
 #include <vkd_dbo_model.h>
 #include <vkd_lib_searchpath.h>
+#include <vkd_zob.h>
 
 #include <QTemporaryDir>
 
@@ -38,8 +39,7 @@ private Q_SLOTS:
         Model models[2];
         for (int language : {0, 1}) {
             Model& m = models[language];
-            QString error;
-            QVERIFY(readModelFile(QString::fromStdString(*path), language, &m, &error));
+            QVERIFY(readModelFile(QString::fromStdString(*path), language, &m).isOk());
             QCOMPARE(m.system.title, titles.section(QLatin1Char('|'), language, language));
             QTEST(m.system.kindOfSystem, "kind");
             const QVector<int> counts{m.nodes.size(), m.quads.size(), m.beams.size(),
@@ -59,8 +59,8 @@ private Q_SLOTS:
                      "quads": [[5, 1, 1, 2, 3, 0, 0.25]], "springs": [[6, 1, 2, 0, 1e3]],
                      "loadCases": [{"number": 7, "title": {"german": "a", "english": "b"}}])");
         Model m;
-        QString error;
-        QVERIFY2(readModelFile(m_path, 1, &m, &error), qPrintable(error));
+        const VkdStatus read = readModelFile(m_path, 1, &m);
+        QVERIFY2(read.isOk(), qPrintable(read.reason));
         QCOMPARE(m.supports[0].fixed, 4 + 8);
         QCOMPARE(m.supports[1].fixed, 0);
         QCOMPARE(m.supports[2].fixed, 63);
@@ -77,14 +77,15 @@ private Q_SLOTS:
             writeFile(text.toUtf8());
             Model m;
             m.system.title = QStringLiteral("untouched");
-            QString error;
-            const bool isRead = readModelFile(m_path, 1, &m, &error);
+            const VkdStatus read = readModelFile(m_path, 1, &m);
             const bool isUntouched = m.system.title == QLatin1String("untouched");
-            return isRead || !isUntouched ? QStringLiteral("read")
-                                          : error.section(m_path + QLatin1String(": "), 1);
+            return read.code != VKD_ZOB_DAMAGED || !isUntouched
+                       ? QStringLiteral("read")
+                       : read.reason.section(m_path + QLatin1String(": "), 1);
         };
         compareCases(errorOf, R"(
 "knots": [] => unknown key "knots"
+"line\nbreak": [] => unknown key "line break"
 "title": 7 => title: an object is needed
 "title": {"german": "t"} => title: the key "english" is missing
 "groups": [{"number": 1, "titel": "t"}] => groups[0]: unknown key "titel"
@@ -130,9 +131,9 @@ private Q_SLOTS:
         }
         QFile::remove(m_path);
         Model m;
-        QString error;
-        QVERIFY(!readModelFile(m_path, 1, &m, &error));
-        QCOMPARE(error, m_path + QLatin1String(": No such file or directory"));
+        const VkdStatus missing = readModelFile(m_path, 1, &m);
+        QCOMPARE(missing.code, int(VKD_ZOB_NO_FILE));
+        QCOMPARE(missing.reason, m_path + QLatin1String(": No such file or directory"));
     }
 
 private:

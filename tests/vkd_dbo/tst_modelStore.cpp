@@ -164,14 +164,15 @@ private Q_SLOTS:
         QVERIFY(storeModel(m_index, shipped("hall"), [](int percent) {
                     return percent <= 100;
                 }).isOk());
-        QVERIFY(!(readModel(m_index, no) == shipped("hall")));
+        VkdStatus status;
+        QVERIFY(!(readModel(m_index, no, nullptr, &status) == shipped("hall")));
+        QCOMPARE(status.code, int(VKD_ZOB_CANCELLED));
         int index = -1;
         QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index, no).code, int(VKD_ZOB_CANCELLED));
         Model model;
-        QString error;
         const auto file = vkd_lib_searchpath("models/hall.json", 3);
-        QVERIFY(!readModelFile(QString::fromStdString(*file), 0, &model, &error, no));
-        QCOMPARE(error, QString());
+        QCOMPARE(readModelFile(QString::fromStdString(*file), 0, &model, no).code,
+                 int(VKD_ZOB_CANCELLED));
     }
 
     /// The question comes between two lists, and the other one is still held off.
@@ -201,9 +202,12 @@ private Q_SLOTS:
         for (int i = 0; i < 2; ++i) // the record and the end of its list
             QTest::ignoreMessage(QtWarningMsg, notOpen);
         QByteArray mark("old");
+        VkdStatus status;
         readModel(
-            m_index, [this](int) { return vkd_zob_close(m_index).code == VKD_ZOB_OK; }, &mark);
+            m_index, [this](int) { return vkd_zob_close(m_index).code == VKD_ZOB_OK; }, &mark,
+            &status);
         QVERIFY(mark.isEmpty());
+        QCOMPARE(status.code, int(VKD_ZOB_NOT_OPEN));
         QTest::ignoreMessage(QtWarningMsg, notOpen);
         QVERIFY(readGroups(m_index).isEmpty());
         QCOMPARE(vkd_zob_open(m_path.toUtf8(), &m_index).code, int(VKD_ZOB_OK));
@@ -225,7 +229,10 @@ private Q_SLOTS:
             const int length = record.size();
             QCOMPARE(vkd_zob_put(m_index, key1, 0, record, &length, 1), int(VKD_ZOB_OK));
             QTest::ignoreMessage(QtWarningMsg, tooShort);
-            QVERIFY(readModel(m_index) == model);
+            VkdStatus status;
+            QVERIFY(readModel(m_index, VkdGoOn(), nullptr, &status) == model);
+            QCOMPARE(status.reason,
+                     QStringLiteral("a record under %1, 0 is too short and left out").arg(key1));
             if (key1 == Groups || length < 8) // of an element, nothing else is looked at
                 QTest::ignoreMessage(QtWarningMsg, tooShort);
             QCOMPARE(readGroups(m_index).size(), model.groups.size());
@@ -238,10 +245,9 @@ private:
     static Model shipped(const char* name)
     {
         Model model;
-        QString error;
         const auto path = vkd_lib_searchpath(QByteArray("models/") + name + ".json", 3);
-        if (!path || !readModelFile(QString::fromStdString(*path), 0, &model, &error))
-            qFatal("no model %s %s", name, qPrintable(error));
+        if (!path || !readModelFile(QString::fromStdString(*path), 0, &model).isOk())
+            qFatal("no model %s", name);
         return model;
     }
 

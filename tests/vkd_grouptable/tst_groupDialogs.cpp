@@ -152,7 +152,7 @@ private Q_SLOTS:
         for (bool picks : {true, false}) {
             Groups groups{3};
             QPoint position(30, 40);
-            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(index, {5}));
+            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(index, {5}).isOk());
             VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, &position,
                                        nullptr);
             const int result = execWith(dialog, [&](const Driver& driver) {

@@ -22,13 +22,14 @@ private Q_SLOTS:
         const QList<QPair<Groups, Groups>> cases{
             {{}, {}}, {{9, 2, 9, 0}, {0, 2, 9}}, {{0x534c4f43, 7}, {7, 0x534c4f43}}, {many, many}};
         for (const auto& [put, got] : cases) {
-            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {100, 200, 300}));
-            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), put));
+            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {100, 200, 300})
+                        .isOk());
+            QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), put).isOk());
             m_project->doc = VKD_H_ZOBDoc::open(m_project->doc->path());
             Groups groups{1, 2};
             QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), 0);
             QCOMPARE(groups, got);
-            QVERIFY(VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()));
+            QVERIFY(VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()).isOk());
             groups = {1, 2};
             QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), -1);
             QCOMPARE(groups, (Groups{1, 2}));
@@ -37,7 +38,7 @@ private Q_SLOTS:
 
     void bytesInTheProject()
     {
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {258}));
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {258}).isOk());
         QByteArray bytes(100, '\0');
         int length = bytes.size();
         QCOMPARE(vkd_zob_get(m_project->index(), 430, 0, bytes.data(), &length, 0),
@@ -63,18 +64,18 @@ private Q_SLOTS:
 
     void refused()
     {
-        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {5}));
+        QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {5}).isOk());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("-1 is no group")));
-        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {-1}));
+        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {-1}).isOk());
         const QString path = m_project->doc->path();
         m_project->doc.reset();
         QFile::setPermissions(path, QFile::ReadOwner);
         m_project->doc = VKD_H_ZOBDoc::open(path);
         const QRegularExpression locked(QStringLiteral("cannot take the lock"));
         QTest::ignoreMessage(QtWarningMsg, locked);
-        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {6}));
+        QVERIFY(!VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {6}).isOk());
         QTest::ignoreMessage(QtWarningMsg, locked);
-        QVERIFY(!VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()));
+        QVERIFY(!VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(m_project->index()).isOk());
         Groups groups;
         QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), 0);
         QCOMPARE(groups, Groups{5});

@@ -166,7 +166,8 @@ void DesignRows::write()
 {
     plib::writeRowsToZob(m_data, m_converted);
     plib::writeRowsToEntries(m_data, m_page);
-    m_page.save();
+    if (const VkdStatus saved = m_page.save(); !saved.isOk())
+        throw CommandError{saved.reason};
 }
 
 } // namespace workbench

@@ -116,11 +116,11 @@ QString newProject(const QString& path, const QString& model, const VkdGoOn& goO
     if (QFileInfo::exists(path))
         throw CommandError{QStringLiteral("%1 exists already").arg(path)};
     vkd::dbo::Model content;
-    QString error;
     const QString modelFile = modelPath(model);
     const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    if (!vkd::dbo::readModelFile(modelFile, language, &content, &error, half(goOn, 0)))
-        throw CommandError{error};
+    const VkdStatus read = vkd::dbo::readModelFile(modelFile, language, &content, half(goOn, 0));
+    if (!read.isOk())
+        throw CommandError{read.reason};
     writeProject(path, content, modelFile, half(goOn, 50));
     return summary(path, content);
 }

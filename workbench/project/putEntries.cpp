@@ -8,7 +8,7 @@ bool putEntries(int index, int page, const std::function<void(VKD_H_ProjectDialo
 {
     VKD_H_ProjectDialogPage entries(index, page);
     set(entries);
-    return entries.save();
+    return entries.save().isOk();
 }
 
 } // namespace workbench

@@ -4,6 +4,7 @@
 #include "vkd_aniview_export.h"
 
 #include <vkd_progress.h>
+#include <vkd_status.h>
 
 #include <QTimer>
 #include <QWidget>
@@ -35,9 +36,10 @@ public:
     explicit AnimatorView(int index, QWidget* parent = nullptr, const char* name = "AnimatorView");
     ~AnimatorView() override;
 
-    /// Switches to another project or to none, reads its model and keeps the camera. Returns false
-    /// if `goOn` returned false; the view does not change then.
-    bool setProject(int index, const VkdGoOn& goOn = VkdGoOn());
+    /// Switches to another project or to none, reads its model and keeps the camera. Returns the
+    /// status of readModel(). If it is VKD_ZOB_CANCELLED, the view does not change; after any other
+    /// failure it shows the part of the model that was read.
+    VkdStatus setProject(int index, const VkdGoOn& goOn = VkdGoOn());
     /// Reloads the model and keeps the camera and the picked groups.
     void reload();
 

@@ -159,20 +159,23 @@ struct Model
 };
 
 /// Reads a model file (JSON, described in share/models/README.md), with titles in the given
-/// language (0 German, 1 English). If the file cannot be read or is invalid, returns false and sets
-/// `error` to one line with the position in the file. `error` is empty if `goOn` returned false.
-VKD_DBO_EXPORT bool readModelFile(const QString& path, int language, Model* model, QString* error,
-                                  const VkdGoOn& goOn = VkdGoOn());
+/// language (0 German, 1 English). The status code is VKD_ZOB_NO_FILE if the file cannot be read,
+/// VKD_ZOB_DAMAGED if it is invalid, and VKD_ZOB_CANCELLED if `goOn` returned false. The reason
+/// contains the path and the position in the file. `model` is set on success only.
+VKD_DBO_EXPORT VkdStatus readModelFile(const QString& path, int language, Model* model,
+                                       const VkdGoOn& goOn = VkdGoOn());
 
 /// Replaces the model of the project at this database index, completely or not at all. The status
 /// code is a VkdZobStatus; it is VKD_ZOB_CANCELLED if `goOn` returned false.
 VKD_DBO_EXPORT VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
 
 /// Reads the model of the project in one snapshot; empty if the project has no model. If `goOn`
-/// returned false or the store failed, returns the part that was read until then. Sets `mark` to
-/// the mark of the model, see modelMark(), or to an empty one if the model was not read completely.
+/// returned false or the store failed, returns the part that was read until then. Records that are
+/// too short are left out. `status`, if given, receives OK if nothing is missing, VKD_ZOB_CANCELLED
+/// if `goOn` returned false, otherwise the first failure. Sets `mark` to the mark of the model, see
+/// modelMark(), or to an empty one if the model was not read completely.
 VKD_DBO_EXPORT Model readModel(int index, const VkdGoOn& goOn = VkdGoOn(),
-                               QByteArray* mark = nullptr);
+                               QByteArray* mark = nullptr, VkdStatus* status = nullptr);
 
 /// Returns bytes that identify the stored model: they differ between any two stores of a model and
 /// are the same in a copy of the project. Empty if the project has no model or cannot be read.

@@ -24,7 +24,7 @@ constexpr ElementList elementLists[] = {
 
 /// Reads only the group, which is the second number of every element's record; decoding whole
 /// records would take most of the time for a large model.
-bool countElements(int index, const ElementList& list, QHash<int, GroupContents>& contents)
+VkdStatus countElements(int index, const ElementList& list, QHash<int, GroupContents>& contents)
 {
     constexpr int GroupAt = sizeof(qint32);
     return forEachRecord(index, list.pair, [&](const QByteArray& bytes) {
@@ -42,11 +42,11 @@ QVector<GroupSummary> readGroups(int index)
 {
     const ZobSnapshot snapshot(index);
     QVector<Group> groups;
-    bool goesOn =
-        snapshot.status().isOk() && readList(index, keys::Groups, groups) && !groups.isEmpty();
+    bool goesOn = snapshot.status().isOk() && mayContinue(readList(index, keys::Groups, groups)) &&
+                  !groups.isEmpty();
     QHash<int, GroupContents> contents;
     for (const ElementList& list : elementLists)
-        goesOn = goesOn && countElements(index, list, contents);
+        goesOn = goesOn && mayContinue(countElements(index, list, contents));
     QVector<GroupSummary> summaries;
     summaries.reserve(groups.size());
     for (const Group& group : qAsConst(groups))

@@ -2,6 +2,8 @@
 
 #include "JsonPlace.h"
 
+#include <vkd_zob.h>
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -392,16 +394,18 @@ QJsonDocument parse(const QByteArray& bytes, QJsonParseError* problem, const Vkd
         throw ModelFileError{QString()};
     return document;
 }
+
+VkdStatus failureOf(const QString& path, int code, const QString& cause)
+{
+    return VkdStatus::failure(code, QStringLiteral("%1: %2").arg(path, cause));
+}
 } // namespace
 
-bool readModelFile(const QString& path, int language, Model* model, QString* error,
-                   const VkdGoOn& goOn)
+VkdStatus readModelFile(const QString& path, int language, Model* model, const VkdGoOn& goOn)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
-        return false;
-    }
+    if (!file.open(QIODevice::ReadOnly))
+        return failureOf(path, VKD_ZOB_NO_FILE, file.errorString());
     const QByteArray bytes = file.readAll();
     QJsonParseError problem;
     try {
@@ -414,10 +418,11 @@ bool readModelFile(const QString& path, int language, Model* model, QString* err
         VkdSteps steps(goOn, thingsIn(document.object()));
         *model = ModelFileReader(JsonPlace(root, QString()), language, steps).read();
     } catch (const ModelFileError& wrong) {
-        *error = wrong.text.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, wrong.text);
-        return false;
+        if (wrong.text.isEmpty())
+            return failureOf(path, VKD_ZOB_CANCELLED, ModelFileError::tr("it was cancelled"));
+        return failureOf(path, VKD_ZOB_DAMAGED, wrong.text);
     }
-    return true;
+    return {};
 }
 
 } // namespace dbo

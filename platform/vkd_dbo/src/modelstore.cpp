@@ -1,3 +1,4 @@
+#include "JsonPlace.h"
 #include "recordlist.h"
 #include "vkd_dbo_queries.h"
 
@@ -28,13 +29,30 @@ QVector<QByteArray> toRecords(const QVector<T>& things)
     return records;
 }
 
+/// Returns the status of reading a list whose last record was read with this result. If that is
+/// VKD_ZOB_OK, the caller stopped reading before the end.
+VkdStatus statusOfEnd(int index, cd_error_t last)
+{
+    if (last == VKD_ZOB_END || last == VKD_ZOB_NO_KEY)
+        return {};
+    if (last == VKD_ZOB_OK)
+        return VkdStatus::failure(VKD_ZOB_CANCELLED, ModelFileError::tr("it was cancelled"));
+    return VkdStatus::failure(last, vkd_zob_last_failure(index).reason);
+}
+
 /// Decodes the system information from the mark of a model, which is its record, see modelMark().
-SystemInformation systemOf(int index, const QByteArray& mark)
+SystemInformation systemOf(int index, const QByteArray& mark, VkdStatus* status)
 {
     QVector<SystemInformation> systems;
     if (!mark.isEmpty())
-        addThing(index, keys::System, mark, systems);
+        *status = addThing(index, keys::System, mark, systems);
     return systems.isEmpty() ? SystemInformation() : systems.first();
+}
+
+/// Reads the mark of the model, see modelMark().
+VkdStatus readMark(int index, QByteArray* mark)
+{
+    return forEachRecord(index, keys::System, [mark](const QByteArray& bytes) { *mark = bytes; });
 }
 } // namespace
 
@@ -65,8 +83,8 @@ cd_error_t getRecord(int index, KeyPair pair, int position, QByteArray* record)
     }
 }
 
-bool forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit,
-                   VkdSteps* steps)
+VkdStatus forEachRecord(int index, KeyPair pair,
+                        const std::function<void(const QByteArray&)>& visit, VkdSteps* steps)
 {
     QByteArray record;
     record.reserve(FirstGuess);
@@ -76,14 +94,19 @@ bool forEachRecord(int index, KeyPair pair, const std::function<void(const QByte
         if (status == VKD_ZOB_OK)
             visit(record);
     }
+    const VkdStatus end = statusOfEnd(index, status);
     vkd_zob_free_ex(index, pair.key1, pair.key2);
-    return status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
+    return end;
 }
 
-void reportDamagedRecord(int index, KeyPair pair)
+VkdStatus reportDamagedRecord(int index, KeyPair pair)
 {
     qCWarning(lcModel, "database %d: a record under %d, %d is too short and left out", index,
               pair.key1, pair.key2);
+    return VkdStatus::failure(VKD_ZOB_DAMAGED,
+                              ModelFileError::tr("a record under %1, %2 is too short and left out")
+                                  .arg(pair.key1)
+                                  .arg(pair.key2));
 }
 
 VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn)
@@ -105,24 +128,32 @@ VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn)
 QByteArray modelMark(int index)
 {
     QByteArray mark;
-    forEachRecord(index, keys::System, [&mark](const QByteArray& bytes) { mark = bytes; });
+    readMark(index, &mark);
     return mark;
 }
 
-Model readModel(int index, const VkdGoOn& goOn, QByteArray* mark)
+Model readModel(int index, const VkdGoOn& goOn, QByteArray* mark, VkdStatus* status)
 {
     VkdSteps steps(goOn);
     Model model;
     const ZobSnapshot snapshot(index);
-    const QByteArray system = snapshot.status().isOk() ? modelMark(index) : QByteArray();
-    model.system = systemOf(index, system);
-    bool isWhole = !system.isEmpty();
+    VkdStatus first = snapshot.status();
+    QByteArray system;
+    if (first.isOk())
+        first = readMark(index, &system);
+    model.system = systemOf(index, system, &first);
+    const bool hasModel = !system.isEmpty();
     // After a failure, every further list would fail too, each after the lock timeout.
     forEachList(model, [&](KeyPair pair, auto& things) {
-        isWhole = isWhole && readList(index, pair, things, &steps);
+        const VkdStatus read =
+            hasModel && mayContinue(first) ? readList(index, pair, things, &steps) : first;
+        if (first.isOk() || !mayContinue(read))
+            first = read;
     });
     if (mark)
-        *mark = isWhole ? system : QByteArray();
+        *mark = first.isOk() ? system : QByteArray();
+    if (status)
+        *status = first;
     return model;
 }
 
@@ -135,7 +166,8 @@ QVector<LoadCase> readLoadCases(int index)
 
 int getKindOfSystem(int index, structKindSystem*)
 {
-    return systemOf(index, modelMark(index)).kindOfSystem;
+    VkdStatus damage; // such a record is left out
+    return systemOf(index, modelMark(index), &damage).kindOfSystem;
 }
 
 } // namespace dbo

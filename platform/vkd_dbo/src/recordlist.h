@@ -24,33 +24,48 @@ bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records,
 cd_error_t getRecord(int index, KeyPair pair, int position, QByteArray* record);
 
 /// Calls `visit` for each record under the key pair in order, from one state of the project.
-/// Returns true if all records were visited.
-bool forEachRecord(int index, KeyPair pair, const std::function<void(const QByteArray&)>& visit,
-                   VkdSteps* steps = nullptr);
+/// Returns OK if all records were visited, or VKD_ZOB_CANCELLED if the steps were stopped.
+VkdStatus forEachRecord(int index, KeyPair pair,
+                        const std::function<void(const QByteArray&)>& visit,
+                        VkdSteps* steps = nullptr);
 
-/// Logs that a record is too short for its fields.
-void reportDamagedRecord(int index, KeyPair pair);
+/// Returns a failure with the code VKD_ZOB_DAMAGED, because a record is too short for its fields,
+/// and logs it.
+VkdStatus reportDamagedRecord(int index, KeyPair pair);
 
-/// Appends the item decoded from the record, unless the record is damaged.
+/// Appends the item decoded from the record. Returns VKD_ZOB_DAMAGED if the record is damaged.
 template <typename T>
-void addThing(int index, KeyPair pair, const QByteArray& record, QVector<T>& things)
+VkdStatus addThing(int index, KeyPair pair, const QByteArray& record, QVector<T>& things)
 {
     T thing;
     FieldReader reader(record);
     fields(reader, thing);
-    if (reader.isComplete())
-        things.append(thing);
-    else
-        reportDamagedRecord(index, pair);
+    if (!reader.isComplete())
+        return reportDamagedRecord(index, pair);
+    things.append(thing);
+    return {};
 }
 
-/// Appends the items of all undamaged records under the key pair. Returns true if all records were
-/// read.
+/// Appends the items of all undamaged records under the key pair. Returns the failure of the store,
+/// or else that of the first damaged record.
 template <typename T>
-bool readList(int index, KeyPair pair, QVector<T>& things, VkdSteps* steps = nullptr)
+VkdStatus readList(int index, KeyPair pair, QVector<T>& things, VkdSteps* steps = nullptr)
 {
-    const auto add = [&](const QByteArray& record) { addThing(index, pair, record, things); };
-    return forEachRecord(index, pair, add, steps);
+    VkdStatus damage;
+    const auto add = [&](const QByteArray& record) {
+        const VkdStatus added = addThing(index, pair, record, things);
+        if (damage.isOk())
+            damage = added;
+    };
+    const VkdStatus read = forEachRecord(index, pair, add, steps);
+    return read.isOk() ? damage : read;
+}
+
+/// Returns whether reading other lists makes sense after this status. Damage concerns only a part
+/// of a project.
+inline bool mayContinue(const VkdStatus& status)
+{
+    return status.isOk() || status.code == VKD_ZOB_DAMAGED;
 }
 
 } // namespace dbo

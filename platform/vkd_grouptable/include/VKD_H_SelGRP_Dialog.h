@@ -3,6 +3,7 @@
 #include "vkd_grouptable_export.h"
 
 #include <VKD_H_GroupDialog.h>
+#include <vkd_status.h>
 
 class QPoint;
 
@@ -37,9 +38,9 @@ public:
     static int getAniSelectionFromZob(int index, std::vector<int>& groups);
 
     /// Replaces the selection stored in the project. Negative numbers are not groups; if there is
-    /// one, nothing is stored. Returns false if the selection is not stored, and logs the reason.
-    static bool putAniSelectionToZob(int index, const std::vector<int>& groups);
+    /// one, nothing is stored, and the code is VKD_ZOB_BAD_CALL.
+    static VkdStatus putAniSelectionToZob(int index, const std::vector<int>& groups);
 
-    /// Removes the selection from the project. Returns false and logs a line if that fails.
-    static bool removeAniSelectionFromZob(int index);
+    /// Removes the selection from the project.
+    static VkdStatus removeAniSelectionFromZob(int index);
 };

@@ -48,12 +48,12 @@ int VKD_H_SelGRP_Dialog::getAniSelectionFromZob(int index, std::vector<int>& gro
     return readPickedGroups(index, groups) ? 0 : -1;
 }
 
-bool VKD_H_SelGRP_Dialog::putAniSelectionToZob(int index, const std::vector<int>& groups)
+VkdStatus VKD_H_SelGRP_Dialog::putAniSelectionToZob(int index, const std::vector<int>& groups)
 {
     return storePickedGroups(index, groups);
 }
 
-bool VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(int index)
+VkdStatus VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(int index)
 {
     return removePickedGroups(index);
 }

@@ -1,6 +1,9 @@
 #include "pickedGroups.h"
 
+#include "VKD_H_SelGRP_Dialog.h"
+
 #include <vkd_zob.h>
+#include <ZobTransaction.h>
 
 #include <QByteArray>
 #include <QLoggingCategory>
@@ -68,18 +71,17 @@ QByteArray readRecord(int index)
     return status == VKD_ZOB_OK ? bytes.left(length) : QByteArray();
 }
 
-/// Replaces the stored record, or removes it if `record` is null. Releasing a key pair has no
-/// result, so the record is read back to check that it was stored.
-bool replaceRecord(int index, const QByteArray& record)
+/// Replaces the stored record, or removes it if `record` is null.
+VkdStatus replaceRecord(int index, const QByteArray& record)
 {
     const int none = 0;
     const int length = record.size();
-    bool done = vkd_zob_lock_ex(index, Key1, Key2) == VKD_ZOB_OK &&
-                vkd_zob_put(index, Key1, Key2, nullptr, &none, 0) == VKD_ZOB_OK;
-    if (length > 0)
-        done = done && vkd_zob_put(index, Key1, Key2, record.constData(), &length, 1) == VKD_ZOB_OK;
-    vkd_zob_free_ex(index, Key1, Key2);
-    return done && readRecord(index) == record;
+    ZobTransaction change(index);
+    if (change.status().isOk())
+        vkd_zob_put(index, Key1, Key2, nullptr, &none, 0);
+    if (change.status().isOk() && length > 0)
+        vkd_zob_put(index, Key1, Key2, record.constData(), &length, 1);
+    return change.commit();
 }
 } // namespace
 
@@ -95,7 +97,7 @@ bool readPickedGroups(int index, std::vector<int>& groups)
     return isSound;
 }
 
-bool storePickedGroups(int index, const std::vector<int>& groups)
+VkdStatus storePickedGroups(int index, const std::vector<int>& groups)
 {
     std::vector<int> sorted = groups;
     std::sort(sorted.begin(), sorted.end());
@@ -103,12 +105,15 @@ bool storePickedGroups(int index, const std::vector<int>& groups)
     if (!sorted.empty() && sorted.front() < 0) {
         qCWarning(lcPicked, "database %d: picked groups not stored, %d is no group", index,
                   sorted.front());
-        return false;
+        return VkdStatus::failure(
+            VKD_ZOB_BAD_CALL,
+            VKD_H_SelGRP_Dialog::tr("the picked groups cannot be stored: %1 is not a group")
+                .arg(sorted.front()));
     }
     return replaceRecord(index, toRecord(sorted));
 }
 
-bool removePickedGroups(int index)
+VkdStatus removePickedGroups(int index)
 {
     return replaceRecord(index, QByteArray());
 }

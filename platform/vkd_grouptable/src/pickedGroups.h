@@ -1,10 +1,12 @@
 #pragma once
 
+#include <vkd_status.h>
+
 #include <vector>
 
 /// The groups picked in the 3D view. They are stored as one record of the project: the count, then
-/// the groups in ascending order, each four bytes, little-endian. Each function returns whether it
-/// succeeded.
+/// the groups in ascending order, each four bytes, little-endian. The first function returns
+/// whether there is an undamaged record; the codes of the others are those of the store.
 bool readPickedGroups(int index, std::vector<int>& groups);
-bool storePickedGroups(int index, const std::vector<int>& groups);
-bool removePickedGroups(int index);
+VkdStatus storePickedGroups(int index, const std::vector<int>& groups);
+VkdStatus removePickedGroups(int index);

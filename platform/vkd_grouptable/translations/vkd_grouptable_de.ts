@@ -15,5 +15,9 @@
         <source>Leaves this dialog to pick the groups in the 3D view, beginning with those checked here. They replace all groups of the row.</source>
         <translation>Verlässt diesen Dialog, um die Gruppen in der 3D-Ansicht zu wählen, ausgehend von den hier angekreuzten. Sie ersetzen alle Gruppen der Zeile.</translation>
     </message>
+    <message>
+        <source>the picked groups cannot be stored: %1 is not a group</source>
+        <translation>die gewählten Gruppen können nicht gespeichert werden: %1 ist keine Gruppe</translation>
+    </message>
 </context>
 </TS>

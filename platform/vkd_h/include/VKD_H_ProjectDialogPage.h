@@ -2,6 +2,8 @@
 
 #include "vkd_h_export.h"
 
+#include <vkd_status.h>
+
 #include <QMap>
 #include <QString>
 
@@ -20,14 +22,14 @@ public:
     void setEntry(const QString& key, const QString& value);
     void deleteEntry(const QString& key);
 
-    /// Replaces the entries in the project. Returns false and logs a line if the store refuses or
-    /// the entries could not be read before. The entries are stored with the end of the change,
-    /// whose result is that of vkd_zob_change_status() or vkd_zob_close().
-    bool save() const;
+    /// Replaces the entries in the project, completely or not at all. If they could not be read
+    /// before, nothing is stored and the status is that of reading. Within a change of the caller,
+    /// they are stored when the change ends, see ZobTransaction::commit().
+    VkdStatus save() const;
 
 private:
     int m_index;
     int m_page;
     QMap<QString, QString> m_entries;
-    bool m_isRead = true;
+    VkdStatus m_readStatus;
 };

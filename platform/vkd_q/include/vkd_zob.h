@@ -58,7 +58,7 @@ VKD_Q_EXPORT VkdStatus vkd_zob_create(const char* path, int* index);
 VKD_Q_EXPORT VkdStatus vkd_zob_close(int index);
 
 /// Returns the last failure of an operation on an open project, for operations that return only a
-/// code or nothing; OK if none failed.
+/// code or nothing; OK if none failed. No log line is written.
 VKD_Q_EXPORT VkdStatus vkd_zob_last_failure(int index);
 
 /// Reads the record at `position` (0 is the first). `*length` is the size of the buffer on entry

@@ -201,5 +201,13 @@
         <source>a number of %1 or less is needed</source>
         <translation>eine Zahl bis %1 wird erwartet</translation>
     </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>der Vorgang wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>a record under %1, %2 is too short and left out</source>
+        <translation>ein Datensatz unter %1, %2 ist zu kurz und wird ausgelassen</translation>
+    </message>
 </context>
 </TS>

@@ -114,7 +114,8 @@ void DesignDialog::showPage()
 cd_error_t DesignDialog::store(SeenPart::Newer newer)
 {
     const auto put = [this] {
-        return m_entries.save() && copyRecords(m_desk->index(), m_document->index()) == VKD_ZOB_OK;
+        return m_entries.save().isOk() &&
+               copyRecords(m_desk->index(), m_document->index()) == VKD_ZOB_OK;
     };
     return m_seen.store(m_document->index(), put, newer);
 }

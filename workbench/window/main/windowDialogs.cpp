@@ -127,9 +127,7 @@ void MainWindow::startPicking()
 void MainWindow::takePicked()
 {
     const auto store = [this] {
-        const bool isPut =
-            VKD_H_SelGRP_Dialog::putAniSelectionToZob(index(), m_view->pickedGroups());
-        return isPut ? cd_error_t(VKD_ZOB_OK) : vkd_zob_change_status(index()).code;
+        return VKD_H_SelGRP_Dialog::putAniSelectionToZob(index(), m_view->pickedGroups()).code;
     };
     if (!withProject(store, tr("The picked groups cannot be stored in the file %1.")))
         return;

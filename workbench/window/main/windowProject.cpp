@@ -143,7 +143,8 @@ bool MainWindow::showModel(int index)
 {
     SlowWork work(this, tr("The model is being read."), 0);
     PlatformLog::take(); // showProject() looks for what is written from now on
-    return m_view->setProject(index, [&work](int) { return work.goOn(0); });
+    const VkdStatus read = m_view->setProject(index, [&work](int) { return work.goOn(0); });
+    return read.code != VKD_ZOB_CANCELLED;
 }
 
 void MainWindow::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)

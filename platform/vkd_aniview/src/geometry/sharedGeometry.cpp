@@ -1,6 +1,7 @@
 #include "geometry/sharedGeometry.h"
 
 #include <vkd_dbo_model.h>
+#include <vkd_zob.h>
 
 namespace vkd {
 namespace aniview {
@@ -14,23 +15,20 @@ struct Known
 };
 } // namespace
 
-std::shared_ptr<const ModelGeometry> sharedGeometry(int index, const VkdGoOn& goOn)
+std::shared_ptr<const ModelGeometry> sharedGeometry(int index, const VkdGoOn& goOn,
+                                                    VkdStatus* status)
 {
     static Known last;
     if (index <= 0)
         return std::make_shared<ModelGeometry>();
     if (auto known = last.geometry.lock(); known && dbo::modelMark(index) == last.mark)
         return known;
-    bool goesOn = true;
+    VkdStatus read;
     QByteArray mark;
-    const dbo::Model model = dbo::readModel(
-        index,
-        [&goOn, &goesOn](int percent) {
-            goesOn = goesOn && (!goOn || goOn(percent));
-            return goesOn;
-        },
-        &mark);
-    if (!goesOn)
+    const dbo::Model model = dbo::readModel(index, goOn, &mark, &read);
+    if (status)
+        *status = read;
+    if (read.code == VKD_ZOB_CANCELLED)
         return nullptr;
     auto geometry = std::make_shared<const ModelGeometry>(buildGeometry(model));
     if (!mark.isEmpty()) // an empty mark: no model or only part of one

@@ -45,17 +45,18 @@ AnimatorView::AnimatorView(int index, QWidget* parent, const char* name)
 
 AnimatorView::~AnimatorView() = default;
 
-bool AnimatorView::setProject(int index, const VkdGoOn& goOn)
+VkdStatus AnimatorView::setProject(int index, const VkdGoOn& goOn)
 {
-    auto geometry = sharedGeometry(index, goOn);
+    VkdStatus status;
+    auto geometry = sharedGeometry(index, goOn, &status);
     if (!geometry)
-        return false;
+        return status;
     m_index = index;
     m_scene->setGeometry(std::move(geometry));
     updateCursor();
     showMarks();
     hover(NoGroup);
-    return true;
+    return status;
 }
 
 void AnimatorView::reload()

@@ -1,6 +1,7 @@
 #include "VKD_H_ProjectDialogPage.h"
 
 #include <vkd_zob.h>
+#include <ZobTransaction.h>
 
 namespace {
 constexpr int EntriesKey = 420; // second key: the page; records: key and value in turn
@@ -39,7 +40,8 @@ VKD_H_ProjectDialogPage::VKD_H_ProjectDialogPage(int index, int page)
         const QByteArray value = readRecord(index, page, position + 1, &status);
         m_entries.insert(QString::fromUtf8(key), QString::fromUtf8(value));
     }
-    m_isRead = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
+    if (status != VKD_ZOB_END && status != VKD_ZOB_NO_KEY)
+        m_readStatus = VkdStatus::failure(status, vkd_zob_last_failure(index).reason);
     vkd_zob_free_ex(index, EntriesKey, page);
 }
 
@@ -58,16 +60,17 @@ void VKD_H_ProjectDialogPage::deleteEntry(const QString& key)
     m_entries.remove(key);
 }
 
-bool VKD_H_ProjectDialogPage::save() const
+VkdStatus VKD_H_ProjectDialogPage::save() const
 {
-    if (!m_isRead)
-        return false;
+    if (!m_readStatus.isOk())
+        return m_readStatus;
+    ZobTransaction change(m_index);
+    if (!change.status().isOk())
+        return change.rollback();
     const int none = 0;
-    bool done = vkd_zob_lock_ex(m_index, EntriesKey, m_page) == VKD_ZOB_OK &&
-                vkd_zob_put(m_index, EntriesKey, m_page, nullptr, &none, 0) == VKD_ZOB_OK;
+    bool done = vkd_zob_put(m_index, EntriesKey, m_page, nullptr, &none, 0) == VKD_ZOB_OK;
     for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
         done =
             done && append(m_index, m_page, entry.key()) && append(m_index, m_page, entry.value());
-    vkd_zob_free_ex(m_index, EntriesKey, m_page);
-    return done;
+    return change.commit();
 }

@@ -35,15 +35,20 @@ void addScratchStore()
 }
 } // namespace
 
-ZobDatabase* openStore(int index, VkdStatus* failure)
+ZobDatabase* findStore(int index)
 {
     auto found = stores().find(index);
     if (found == stores().end() && index == ScratchIndex) {
         addScratchStore();
         found = stores().find(index);
     }
-    if (found != stores().end())
-        return found->second.get();
+    return found == stores().end() ? nullptr : found->second.get();
+}
+
+ZobDatabase* openStore(int index, VkdStatus* failure)
+{
+    if (ZobDatabase* store = findStore(index))
+        return store;
     *failure = reportZobFailure(VKD_ZOB_NOT_OPEN, ZobAction::Use, QString::number(index));
     return nullptr;
 }

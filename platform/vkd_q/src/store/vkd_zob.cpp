@@ -34,9 +34,9 @@ VkdStatus vkd_zob_close(int index)
 
 VkdStatus vkd_zob_last_failure(int index)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
-    return store ? store->lastFailure() : failure;
+    const ZobDatabase* store = findStore(index);
+    return store ? store->lastFailure()
+                 : zobFailure(VKD_ZOB_NOT_OPEN, ZobAction::Use, QString::number(index));
 }
 
 cd_error_t vkd_zob_get(int index, int key1, int key2, void* record, int* length, int position)

@@ -69,9 +69,7 @@ QString line(cd_error_t code, ZobAction action, const QString& file, const QStri
              QString (*text)(const char* source))
 {
     const QString tail = detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail);
-    return text(sentence(action))
-        .arg(file, text(reasonOf(code)) + tail)
-        .replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return vkd_oneLine(text(sentence(action)).arg(file, text(reasonOf(code)) + tail));
 }
 } // namespace
 
