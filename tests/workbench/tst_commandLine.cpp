@@ -121,7 +121,7 @@ private Q_SLOTS:
         QVERIFY(!script.contains(QLatin1String("LC 1 ")));
     }
 
-    void keptChoice_data()
+    void savedChoice_data()
     {
         const Columns<QString, QString, QString> row("page", "options", "same");
         const auto kept = QStringLiteral("<Scale>1:20</Scale><Part>0</Part><View>1</View><List_4>"
@@ -144,8 +144,8 @@ private Q_SLOTS:
             "", " --set viewId=2");
     }
 
-    /// A script that starts from a kept choice is the same as one by arguments alone.
-    void keptChoice()
+    /// A script that starts from a saved choice is the same as one by arguments alone.
+    void savedChoice()
     {
         QFETCH(const QString, page);
         QFETCH(const QString, options);

@@ -19,9 +19,9 @@ namespace workbench {
 namespace {
 constexpr int NoPage = 0; // in a column of the catalogue
 
-std::list<QString> additionalContents(const OutputState& kept)
+std::list<QString> additionalContents(const OutputState& saved)
 {
-    if (kept.content == OutputState::WithSolids)
+    if (saved.content == OutputState::WithSolids)
         return {OutputState::solidsTag()};
     return {};
 }
@@ -51,13 +51,13 @@ void checkProgname(int progname, const plib::Catalogue& catalogue)
 } // namespace
 
 OutputTree::OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname,
-                       const OutputState& kept, const Rows* rows)
+                       const OutputState& saved, const Rows* rows)
     : m_document(std::move(document))
     , m_parameter(m_document.get())
     , m_queries(&m_parameter)
     , m_progname(progname)
 {
-    fill(rows ? *rows : kept.offeredRows(m_document->index()), additionalContents(kept));
+    fill(rows ? *rows : saved.offeredRows(m_document->index()), additionalContents(saved));
 }
 
 OutputTree::~OutputTree() = default;

@@ -17,17 +17,17 @@ namespace workbench {
 
 struct OutputState;
 
-/// The output tree of a project without widgets: what the output page shows, built and asked by the
-/// same algorithms.
+/// The output tree of a project without widgets. The same algorithms build and read it as the tree
+/// of the output page.
 class OutputTree
 {
 public:
     using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-    /// Builds the tree with the plots that the catalogue proposes; throws a CommandError without a
-    /// catalogue. It offers the contents that `kept` adds, and the load cases of `rows`, or those
-    /// that `kept` leaves in where `rows` is null.
-    OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname, const OutputState& kept,
+    /// Builds the tree with the catalogue's default choice; throws a CommandError without a
+    /// catalogue. It offers the contents that `saved` adds, and the load cases of `rows`. If `rows`
+    /// is null, it offers the load cases that `saved` does not leave out.
+    OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname, const OutputState& saved,
                const Rows* rows);
     ~OutputTree();
 

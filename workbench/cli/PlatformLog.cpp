@@ -5,7 +5,7 @@
 namespace workbench {
 
 namespace {
-QStringList& kept()
+QStringList& collected()
 {
     static QStringList lines;
     return lines;
@@ -13,17 +13,17 @@ QStringList& kept()
 
 QtMessageHandler previous = nullptr;
 
-/// What Qt says about itself in a program without a screen.
+/// Whether the message is one that Qt writes in every program without a screen.
 bool isOfNoUse(const QString& message)
 {
     return message.startsWith(QLatin1String("This plugin does not support ")) ||
            message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"));
 }
 
-void keep(QtMsgType type, const QMessageLogContext& context, const QString& message)
+void collect(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (context.category && std::strncmp(context.category, "vkd.", 4) == 0)
-        kept() << message;
+        collected() << message;
     else if (!isOfNoUse(message))
         previous(type, context, message);
 }
@@ -31,13 +31,13 @@ void keep(QtMsgType type, const QMessageLogContext& context, const QString& mess
 
 void PlatformLog::install()
 {
-    previous = qInstallMessageHandler(keep);
+    previous = qInstallMessageHandler(collect);
 }
 
 QStringList PlatformLog::take()
 {
     QStringList lines;
-    lines.swap(kept());
+    lines.swap(collected());
     lines.removeDuplicates();
     return lines;
 }

@@ -1,8 +1,8 @@
 #include "cli/commands.h"
 
 #include "cli/CommandLine.h"
-#include "cli/keptChoice.h"
 #include "cli/OutputTree.h"
+#include "cli/savedChoice.h"
 #include "cli/settingsArguments.h"
 
 #include <script/outputScript.h>
@@ -102,15 +102,15 @@ int scriptCommand(const QStringList& arguments)
     const plib::Keywords keywords = plib::keywordsIf(line.english("keywords", true));
     vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, keywords == plib::Keywords::English ? 1 : 0);
     auto document = openProject(line.argument(0));
-    const OutputState kept = keptChoice(line, document->index());
-    plib::OutputSettings settings = keptSettings(line, kept);
+    const OutputState saved = savedChoice(line, document->index());
+    plib::OutputSettings settings = savedSettings(line, saved);
     applySettings(line.values("set"), &settings);
     OutputTree::Rows rows;
     if (line.has("load-cases"))
         rows = readRows(line.value("load-cases"));
-    OutputTree tree(std::move(document), settings.variant, kept,
+    OutputTree tree(std::move(document), settings.variant, saved,
                     line.has("load-cases") ? &rows : nullptr);
-    tree.applySelection(chosenPlots(line, kept));
+    tree.applySelection(chosenPlots(line, saved));
     QString additional = line.value("additional");
     // On the prefix page the line end is the caller's business.
     if (settings.variant == VKD_P_GraphicalOutput_Prefix && !additional.isEmpty())

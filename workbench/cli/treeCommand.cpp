@@ -1,8 +1,8 @@
 #include "cli/commands.h"
 
 #include "cli/CommandLine.h"
-#include "cli/keptChoice.h"
 #include "cli/OutputTree.h"
+#include "cli/savedChoice.h"
 
 #include <VKD_H_ZOBDoc.h>
 
@@ -43,9 +43,9 @@ int treeCommand(const QStringList& arguments)
     line.parse(arguments);
     applyLanguage(line);
     auto document = openProject(line.argument(0));
-    const OutputState kept = keptChoice(line, document->index());
-    OutputTree tree(std::move(document), progname(line), kept, nullptr);
-    tree.applySelection(chosenPlots(line, kept));
+    const OutputState saved = savedChoice(line, document->index());
+    OutputTree tree(std::move(document), progname(line), saved, nullptr);
+    tree.applySelection(chosenPlots(line, saved));
     QString text;
     append(tree.root(), 0, &text);
     print(text);

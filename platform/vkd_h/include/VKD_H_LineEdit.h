@@ -42,8 +42,8 @@ public:
     double getVal() const;
 
     /// The value that remains while the text is refused, and the text that Escape restores.
-    double keptVal() const { return m_value; }
-    QString keptText() const { return m_shown; }
+    double acceptedVal() const { return m_value; }
+    QString acceptedText() const { return m_shown; }
 
     QString refusal() const override;
     void showRefusal() override;

@@ -1,6 +1,6 @@
 // The part of the output page that writes and reads its state as a string of tagged parts.
 
-#include "output/keptSettings.h"
+#include "output/savedSettings.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "tree/GraphicalOutputTreeWidget.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
@@ -11,7 +11,7 @@
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_qt_xmlpart.h>
 
-namespace kepttag = plib::kepttag;
+namespace savedtag = plib::savedtag;
 
 namespace {
 constexpr int DesktopCamera = 0;
@@ -39,23 +39,23 @@ QString scaleValue(const VKD_QT_RadioButtonGroup* group, const QComboBox* list)
 
 QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
 {
-    QString xml = part(kepttag::Scale, scaleValue(data->scaleGroup, data->scaleCombo));
-    xml += part(kepttag::Font, data->fontEdit->getText());
+    QString xml = part(savedtag::Scale, scaleValue(data->scaleGroup, data->scaleCombo));
+    xml += part(savedtag::Font, data->fontEdit->getText());
     xml +=
-        part(kepttag::Fill, data->fillCheck && data->fillCheck->isChecked() ? QStringLiteral("1")
-                                                                            : QStringLiteral("0"));
-    xml += choicePart(kepttag::Format, data->formatGroup);
-    xml += choicePart(kepttag::Pictures, data->picturesGroup);
+        part(savedtag::Fill, data->fillCheck && data->fillCheck->isChecked() ? QStringLiteral("1")
+                                                                             : QStringLiteral("0"));
+    xml += choicePart(savedtag::Format, data->formatGroup);
+    xml += choicePart(savedtag::Pictures, data->picturesGroup);
     if (data->pageSplitCombo)
         xml += data->pageSplitCombo->writeXMLstring();
     if (data->viewGroup)
-        xml += part(kepttag::View, QString::number(int(settings().viewId)));
+        xml += part(savedtag::View, QString::number(int(settings().viewId)));
     if (data->animator) {
         Q_EMIT signalBeobXY(AnimatorStoreCamera, 0.0);
         xml +=
-            part(kepttag::Camera, vkd::dbo::getAnimatorPerspektive(DesktopCamera, PersistentForm));
+            part(savedtag::Camera, vkd::dbo::getAnimatorPerspektive(DesktopCamera, PersistentForm));
     }
-    return xml + part(kepttag::Plots, data->tree->selectionText());
+    return xml + part(savedtag::Plots, data->tree->selectionText());
 }
 
 /// Widgets are unchanged if their part is missing.
@@ -63,33 +63,33 @@ void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
 {
     if (xml.isEmpty())
         return data->tree->applySelection(QString());
-    const auto kept = [&xml](const char* tag) {
+    const auto saved = [&xml](const char* tag) {
         return vkd_qt_readXMLpart(xml, 0, QLatin1String(tag), nullptr);
     };
-    const auto has = [&kept](const char* tag) { return !kept(tag).isNull(); };
+    const auto has = [&saved](const char* tag) { return !saved(tag).isNull(); };
     plib::OutputSettings present = settings();
-    plib::applyKeptSettings(kept, &present);
-    if (has(kepttag::Scale)) {
+    plib::applySavedSettings(saved, &present);
+    if (has(savedtag::Scale)) {
         data->scaleCombo->setCurrentIndex(present.scaleIndex);
         data->scaleGroup->setButton(int(present.scaleMode));
     }
-    if (has(kepttag::Font))
-        data->fontEdit->setText(kept(kepttag::Font));
-    if (data->fillCheck && has(kepttag::Fill))
+    if (has(savedtag::Font))
+        data->fontEdit->setText(saved(savedtag::Font));
+    if (data->fillCheck && has(savedtag::Fill))
         data->fillCheck->setChecked(present.fillAreas);
-    if (data->formatGroup && has(kepttag::Format)) {
+    if (data->formatGroup && has(savedtag::Format)) {
         data->formatGroup->setButton(int(present.formatId));
         slotQuerFormat();
     }
-    if (data->picturesGroup && has(kepttag::Pictures))
+    if (data->picturesGroup && has(savedtag::Pictures))
         data->picturesGroup->setButton(int(present.picturesId));
     if (data->pageSplitCombo)
         data->pageSplitCombo->readXMLstring(xml);
-    if (data->viewGroup && has(kepttag::View)) // moves the camera
+    if (data->viewGroup && has(savedtag::View)) // moves the camera
         data->viewGroup->setButton(int(present.viewId));
     if (data->animator) {
-        vkd::dbo::setAnimatorPerspektive(DesktopCamera, kept(kepttag::Camera));
+        vkd::dbo::setAnimatorPerspektive(DesktopCamera, saved(savedtag::Camera));
         Q_EMIT signalBeobXY(AnimatorTakeCamera, 0.0);
     }
-    data->tree->applySelection(kept(kepttag::Plots));
+    data->tree->applySelection(saved(savedtag::Plots));
 }

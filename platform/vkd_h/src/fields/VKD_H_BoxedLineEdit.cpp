@@ -96,7 +96,8 @@ QString VKD_H_BoxedLineEdit::getText() const
 {
     if (!m_set.isNull() && m_edit->text() == m_set)
         return m_set;
-    return m_edit->refusal().isEmpty() && !standsForDefault() ? m_edit->text() : m_edit->keptText();
+    return m_edit->refusal().isEmpty() && !standsForDefault() ? m_edit->text()
+                                                              : m_edit->acceptedText();
 }
 
 void VKD_H_BoxedLineEdit::setText(const QString& text)
@@ -112,7 +113,7 @@ void VKD_H_BoxedLineEdit::setText(const QString& text)
 
 double VKD_H_BoxedLineEdit::getVal() const
 {
-    return standsForDefault() ? m_edit->keptVal() : m_edit->getVal();
+    return standsForDefault() ? m_edit->acceptedVal() : m_edit->getVal();
 }
 
 void VKD_H_BoxedLineEdit::setVal(double value)

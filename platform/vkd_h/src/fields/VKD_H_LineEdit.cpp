@@ -180,10 +180,10 @@ void VKD_H_LineEdit::updateMark(bool mayGrow)
 {
     const QString reason = mayGrow ? QString() : refusal();
     const bool isRefused = !reason.isEmpty() || !m_fault.isEmpty();
-    const QString text = !reason.isEmpty()
-                             ? reason + QLatin1Char('\n') + keptValueText(m_value, m_description)
-                         : !m_fault.isEmpty() ? m_fault
-                                              : doubt();
+    const QString text =
+        !reason.isEmpty() ? reason + QLatin1Char('\n') + acceptedValueText(m_value, m_description)
+        : !m_fault.isEmpty() ? m_fault
+                             : doubt();
     if (!m_mark->set(isRefused ? FieldMarkKind::Refused : FieldMarkKind::Doubted, text))
         return;
     setTips();

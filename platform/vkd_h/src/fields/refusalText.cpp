@@ -45,7 +45,7 @@ QString doubtText(double value, const VkdPlausibleRange& range, const StructLine
         .arg(withUnit(range.minimum, description), withUnit(range.maximum, description));
 }
 
-QString keptValueText(double value, const StructLineEdit& description)
+QString acceptedValueText(double value, const StructLineEdit& description)
 {
     if (vkd_h_isNotSet(value, description))
         return VKD_H_LineEdit::tr("The value is still not set. Esc empties the field.");

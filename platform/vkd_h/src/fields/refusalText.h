@@ -16,4 +16,4 @@ QString doubtText(double value, const VkdPlausibleRange& range, const StructLine
 
 /// Returns the sentence that names the value, given in base units, that remains while the text is
 /// refused.
-QString keptValueText(double value, const StructLineEdit& description);
+QString acceptedValueText(double value, const StructLineEdit& description);

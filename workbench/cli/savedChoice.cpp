@@ -1,6 +1,6 @@
-#include "cli/keptChoice.h"
+#include "cli/savedChoice.h"
 
-#include <output/keptSettings.h>
+#include <output/savedSettings.h>
 #include <vkd_dbo_camera.h>
 #include <vkd_qt_xmlpart.h>
 
@@ -9,9 +9,9 @@ namespace workbench {
 namespace {
 constexpr int DesktopCamera = 0;
 
-plib::KeptPart partsOf(const OutputState& kept)
+plib::SavedPart partsOf(const OutputState& saved)
 {
-    return [xml = kept.page](const char* tag) {
+    return [xml = saved.page](const char* tag) {
         return vkd_qt_readXMLpart(xml, 0, QLatin1String(tag));
     };
 }
@@ -35,27 +35,27 @@ int progname(const CommandLine& line)
     return line.number("progname", VKD_P_GraphicalOutput_Standard);
 }
 
-OutputState keptChoice(const CommandLine& line, int index)
+OutputState savedChoice(const CommandLine& line, int index)
 {
-    const bool isKept = !line.has("proposed") && progname(line) == VKD_P_GraphicalOutput_Standard;
-    return isKept ? OutputState::read(index) : OutputState();
+    const bool isSaved = !line.has("proposed") && progname(line) == VKD_P_GraphicalOutput_Standard;
+    return isSaved ? OutputState::read(index) : OutputState();
 }
 
-plib::OutputSettings keptSettings(const CommandLine& line, const OutputState& kept)
+plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved)
 {
     plib::OutputSettings settings;
     settings.variant = VKD_P_WidgetGraphicalOutput_Progname(progname(line));
     settings.hasFormat = settings.variant != VKD_P_GraphicalOutput_Split;
-    const plib::KeptPart part = partsOf(kept);
-    plib::applyKeptSettings(part, &settings);
-    vkd::dbo::setAnimatorPerspektive(DesktopCamera, part(plib::kepttag::Camera));
+    const plib::SavedPart part = partsOf(saved);
+    plib::applySavedSettings(part, &settings);
+    vkd::dbo::setAnimatorPerspektive(DesktopCamera, part(plib::savedtag::Camera));
     return settings;
 }
 
-QString chosenPlots(const CommandLine& line, const OutputState& kept)
+QString chosenPlots(const CommandLine& line, const OutputState& saved)
 {
     return line.has("selection") ? readText(line.value("selection"))
-                                 : partsOf(kept)(plib::kepttag::Plots);
+                                 : partsOf(saved)(plib::savedtag::Plots);
 }
 
 } // namespace workbench

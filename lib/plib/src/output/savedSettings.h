@@ -7,7 +7,7 @@
 namespace plib {
 
 /// The tags of the parts in the saved string of an output page.
-namespace kepttag {
+namespace savedtag {
 constexpr char Scale[] = "Scale";
 constexpr char Font[] = "Font";
 constexpr char Fill[] = "Fill";
@@ -16,13 +16,13 @@ constexpr char Pictures[] = "Part";
 constexpr char View[] = "View";
 constexpr char Camera[] = "Camera"; ///< in the persistent format
 constexpr char Plots[] = "List_4";  ///< selection text
-} // namespace kepttag
+} // namespace savedtag
 
 /// Returns the text of the part with this tag, null if there is none.
-using KeptPart = std::function<QString(const char* tag)>;
+using SavedPart = std::function<QString(const char* tag)>;
 
 /// Applies the parts that are settings. A setting is unchanged if its part is missing or invalid.
 /// The number of pictures is applied after the format and overrides the number set by the format.
-void applyKeptSettings(const KeptPart& part, OutputSettings* settings);
+void applySavedSettings(const SavedPart& part, OutputSettings* settings);
 
 } // namespace plib

@@ -1,4 +1,4 @@
-#include "output/keptSettings.h"
+#include "output/savedSettings.h"
 
 namespace plib {
 
@@ -28,21 +28,21 @@ bool applyChoice(const QString& value, Choice last, Choice* choice)
 }
 } // namespace
 
-void applyKeptSettings(const KeptPart& part, OutputSettings* settings)
+void applySavedSettings(const SavedPart& part, OutputSettings* settings)
 {
-    applyScale(part(kepttag::Scale), settings);
-    const QString font = part(kepttag::Font);
+    applyScale(part(savedtag::Scale), settings);
+    const QString font = part(savedtag::Font);
     if (!font.isNull()) // an empty text means the default size
         settings->fontSizeText = font.trimmed().isEmpty() ? OutputSettings().fontSizeText : font;
-    const QString fill = part(kepttag::Fill);
+    const QString fill = part(savedtag::Fill);
     if (!fill.isNull())
         settings->fillAreas = fill.contains(QLatin1Char('1'));
     if (settings->hasFormat) {
-        if (applyChoice(part(kepttag::Format), PageFormat::Landscape, &settings->formatId))
+        if (applyChoice(part(savedtag::Format), PageFormat::Landscape, &settings->formatId))
             settings->picturesId = picturesForFormat(settings->formatId);
-        applyChoice(part(kepttag::Pictures), PagePictures::Two, &settings->picturesId);
+        applyChoice(part(savedtag::Pictures), PagePictures::Two, &settings->picturesId);
     }
-    applyChoice(part(kepttag::View), OutputView::UserDefined, &settings->viewId);
+    applyChoice(part(savedtag::View), OutputView::UserDefined, &settings->viewId);
 }
 
 } // namespace plib
