@@ -46,10 +46,13 @@ plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& s
     plib::OutputSettings settings;
     settings.variant = VKD_P_WidgetGraphicalOutput_Progname(progname(line));
     settings.hasFormat = settings.variant != VKD_P_GraphicalOutput_Split;
-    const plib::SavedPart part = partsOf(saved);
-    plib::applySavedSettings(part, &settings);
-    vkd::dbo::setAnimatorPerspektive(DesktopCamera, part(plib::savedtag::Camera));
+    plib::applySavedSettings(partsOf(saved), &settings);
     return settings;
+}
+
+void restoreCamera(const OutputState& saved)
+{
+    vkd::dbo::setAnimatorPerspektive(DesktopCamera, partsOf(saved)(plib::savedtag::Camera));
 }
 
 QString chosenPlots(const CommandLine& line, const OutputState& saved)

@@ -16,9 +16,11 @@ int progname(const CommandLine& line);
 /// and for other kinds of page than the window's, returns the state of a project without one.
 OutputState savedChoice(const CommandLine& line, int index);
 
-/// Returns the settings of a new page, replaced by the saved ones. The saved camera becomes the
-/// desktop's camera.
+/// Returns the settings of a new page, replaced by the saved ones.
 plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved);
+
+/// Makes the saved camera the desktop's camera, from which the script takes the user-defined view.
+void restoreCamera(const OutputState& saved);
 
 /// Returns the selection text of the file that was given, otherwise the saved one; empty for the
 /// catalogue's default choice.

@@ -104,6 +104,7 @@ int scriptCommand(const QStringList& arguments)
     auto document = openProject(line.argument(0));
     const OutputState saved = savedChoice(line, document->index());
     plib::OutputSettings settings = savedSettings(line, saved);
+    restoreCamera(saved);
     applySettings(line.values("set"), &settings);
     OutputTree::Rows rows;
     if (line.has("load-cases"))
