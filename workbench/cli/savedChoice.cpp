@@ -1,19 +1,16 @@
 #include "cli/savedChoice.h"
 
-#include <output/savedSettings.h>
+#include <output/SavedPage.h>
 #include <vkd_dbo_camera.h>
-#include <vkd_qt_xmlpart.h>
 
 namespace workbench {
 
 namespace {
 constexpr int DesktopCamera = 0;
 
-plib::SavedPart partsOf(const OutputState& saved)
+QString partOf(const OutputState& saved, const char* tag)
 {
-    return [xml = saved.page](const char* tag) {
-        return vkd_qt_readXMLpart(xml, 0, QLatin1String(tag));
-    };
+    return plib::SavedPage(saved.page, plib::OutputSettings()).part(tag);
 }
 } // namespace
 
@@ -46,19 +43,18 @@ plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& s
     plib::OutputSettings settings;
     settings.variant = VKD_P_WidgetGraphicalOutput_Progname(progname(line));
     settings.hasFormat = settings.variant != VKD_P_GraphicalOutput_Split;
-    plib::applySavedSettings(partsOf(saved), &settings);
-    return settings;
+    return plib::SavedPage(saved.page, settings).settings();
 }
 
 void restoreCamera(const OutputState& saved)
 {
-    vkd::dbo::setAnimatorPerspektive(DesktopCamera, partsOf(saved)(plib::savedtag::Camera));
+    vkd::dbo::setAnimatorPerspektive(DesktopCamera, partOf(saved, plib::savedtag::Camera));
 }
 
 QString chosenPlots(const CommandLine& line, const OutputState& saved)
 {
     return line.has("selection") ? readText(line.value("selection"))
-                                 : partsOf(saved)(plib::savedtag::Plots);
+                                 : partOf(saved, plib::savedtag::Plots);
 }
 
 } // namespace workbench

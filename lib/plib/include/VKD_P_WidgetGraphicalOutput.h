@@ -16,10 +16,6 @@ class QBoxLayout;
 class VKD_H_PluginParameter;
 struct WidgetGraphicalOutputData;
 
-namespace plib {
-struct OutputSettings;
-}
-
 /// The page on which the user selects plots and load cases and sets up the sheet for a graphics
 /// run. It generates a script with German or English keywords. All operations may be called right
 /// after construction, on the GUI thread only.
@@ -98,16 +94,13 @@ protected Q_SLOTS:
 private:
     friend class VKD_P_WidgetGraphicalOutput_AdditionalData; // switches content tags for hosts
 
-    void buildSettings(QWidget* box);
-    void buildPageSplit();
-    void buildSheetAndViews(QWidget* box);
+    void buildDefaultButton();
     void layOut(QWidget* box);
     void placeAnimator(QBoxLayout* layout);
     void chainTabs();
     void connectAnimator();
     void findDialogs();
     void showFixedView(AnimatorViewControl control, bool on);
-    plib::OutputSettings settings() const;
 
     std::unique_ptr<WidgetGraphicalOutputData> data;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <VKD_P_WidgetGraphicalOutput_Progname.h>
+#include "output/OutputPanel.h"
 
 #include <AnimatorView.h>
 
@@ -19,7 +19,7 @@ class VKD_QT_GroupBox;
 class VKD_QT_RadioButtonGroup;
 
 /// The private data of a graphical output page. Widgets are owned by their parents. A widget is
-/// null if this kind of page does not have it.
+/// null if this kind of page does not have it; only the panel uses these widgets.
 struct WidgetGraphicalOutputData
 {
     VKD_H_PluginParameter* pluginParameter = nullptr;
@@ -44,4 +44,5 @@ struct WidgetGraphicalOutputData
     VKD_P_WidgetGraphicalOutput_Progname progname = VKD_P_GraphicalOutput_Standard;
     QPointer<QWidget> animatorHome; ///< the former parent of the animator
     bool animatorHadHome = false;
+    std::unique_ptr<plib::OutputPanel> panel; ///< the settings of this kind of page
 };

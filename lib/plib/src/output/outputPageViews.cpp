@@ -1,12 +1,10 @@
 // The part of the output page that controls the animator: view commands, and the first view.
 
-#include "output/OutputSettings.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "output/WidgetGraphicalOutputEvent.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
 
 #include <AnimatorView.h>
-#include <VKD_QT_RadioButtonGroup.h>
 
 #include <QCoreApplication>
 #include <QRadioButton>
@@ -18,14 +16,12 @@ WidgetGraphicalOutputEvent::~WidgetGraphicalOutputEvent() = default;
 
 void VKD_P_WidgetGraphicalOutput::connectAnimator()
 {
-    if (data->viewGroup) {
-        void (Page::*const slotsOfButtons[])(bool) = {&Page::slotBeobXY, &Page::slotBeobXZ,
-                                                      &Page::slotBeobYZ, &Page::slotBeob3D,
-                                                      &Page::slotBeobAni};
-        for (int entry = 0; entry <= int(OutputView::UserDefined); ++entry)
-            connect(data->viewGroup->getRadioButton(entry), &QRadioButton::toggled, this,
-                    slotsOfButtons[entry]);
-    }
+    void (Page::*const slotsOfButtons[])(bool) = {&Page::slotBeobXY, &Page::slotBeobXZ,
+                                                  &Page::slotBeobYZ, &Page::slotBeob3D,
+                                                  &Page::slotBeobAni};
+    const QList<QRadioButton*> buttons = data->panel->viewButtons();
+    for (int view = 0; view < buttons.size(); ++view)
+        connect(buttons[view], &QRadioButton::toggled, this, slotsOfButtons[view]);
     AnimatorView* animator = data->animator;
     connect(this, &Page::signalBeobXY, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
@@ -85,7 +81,7 @@ void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* page)
         ancestor = ancestor->parentWidget();
     if (!data->firstShow || !ancestor)
         return;
-    if (data->viewGroup && OutputView(data->viewGroup->selectedButton()) < OutputView::UserDefined)
+    if (data->panel->showsFixedView())
         QCoreApplication::postEvent(this, new WidgetGraphicalOutputEvent);
     data->firstShow = false;
 }
@@ -93,10 +89,10 @@ void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* page)
 void VKD_P_WidgetGraphicalOutput::customEvent(QEvent* event)
 {
     const auto firstShow = dynamic_cast<WidgetGraphicalOutputEvent*>(event);
-    if (!data->viewGroup || event->type() != QEvent::User || !firstShow ||
+    if (event->type() != QEvent::User || !firstShow ||
         firstShow->identifier() != WidgetGraphicalOutputEvent::FirstShow)
         return;
-    switch (OutputView(data->viewGroup->selectedButton())) {
+    switch (OutputView(data->panel->checkedView())) {
     case OutputView::PlaneXY: return slotBeobXY(true);
     case OutputView::PlaneXZ: return slotBeobXZ(true);
     case OutputView::PlaneYZ: return slotBeobYZ(true);

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "output/OutputPanel.h"
+
+namespace plib {
+
+/// The panel of all pages but the split page: format and pictures of the sheet, iso areas, and the
+/// views, which are beside the tree.
+class SheetPanel : public OutputPanel
+{
+    Q_DECLARE_TR_FUNCTIONS(VKD_P_WidgetGraphicalOutput)
+
+public:
+    explicit SheetPanel(WidgetGraphicalOutputData& data);
+
+    void build(QWidget* box) override;
+    void layOut(QBoxLayout* right) override;
+    QList<QRadioButton*> viewButtons() const override;
+    QList<QRadioButton*> formatButtons() const override;
+    QList<QWidget*> tabStops() const override;
+    void reset() override;
+    void followFormat() override;
+    OutputSettings settings() const override;
+    QString savedParts() const override;
+    void apply(const SavedPage& saved) override;
+    int checkedView() const override;
+    bool showsFixedView() const override;
+
+private:
+    void buildSheet();
+    void buildIsoAreas();
+    void buildViews(QWidget* box);
+};
+
+} // namespace plib
