@@ -20,8 +20,7 @@ namespace testsupport {
 QStringList faults(QWidget& window, const QSet<QString>& fixedColumns = {});
 
 /// Every text of a visible window that a user can read or hear: titles, labels, entries, cells,
-/// menus, tool tips, names for screen readers. What is typed or scripted is not among them, nor
-/// are the cells of tables and trees with the object names `withoutCells`.
-QSet<QString> texts(QWidget& window, const QSet<QString>& withoutCells = {});
+/// menus, tool tips, names for screen readers. What is typed or scripted is not among them.
+QSet<QString> texts(QWidget& window);
 
 } // namespace testsupport

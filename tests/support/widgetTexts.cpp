@@ -165,7 +165,7 @@ QStringList mnemonicTextsOf(const QWidget* widget)
     return found;
 }
 
-QSet<QString> texts(QWidget& window, const QSet<QString>& withoutCells)
+QSet<QString> texts(QWidget& window)
 {
     QSet<QString> found;
     forEachTab(window, [&] {
@@ -173,13 +173,10 @@ QSet<QString> texts(QWidget& window, const QSet<QString>& withoutCells)
             for (const QString& text : textsOf(widget))
                 found << text;
             found << widget->toolTip() << widget->statusTip() << widget->whatsThis()
-                  << widget->accessibleName();
-            if (!withoutCells.contains(widget->objectName()))
-                found << widget->accessibleDescription();
+                  << widget->accessibleName() << widget->accessibleDescription();
             if (const auto view = qobject_cast<const QAbstractItemView*>(widget))
                 if (view->model() && !qobject_cast<const QHeaderView*>(view)) {
-                    if (!withoutCells.contains(view->objectName()))
-                        addCells(found, *view->model(), view->rootIndex());
+                    addCells(found, *view->model(), view->rootIndex());
                     addHeaders(found, *view->model());
                 }
             addMenu(found, widget->actions());

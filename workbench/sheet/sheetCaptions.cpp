@@ -14,23 +14,21 @@ bool agree(const QVector<SheetPicture>& pictures, const QVector<PlotCaption>& ca
 }
 } // namespace
 
-bool setCaptions(SheetPlan* plan, const QVector<PlotCaption>& captions)
+void setCaptions(SheetPlan* plan, const QVector<PlotCaption>& captions)
 {
     if (!agree(plan->pictures, captions))
-        return false;
+        return;
     for (int i = 0; i < captions.size(); ++i) {
         SheetPicture& picture = plan->pictures[i];
         picture.caption = captions[i].plot;
         picture.loadCase = captions[i].loadCase;
-        picture.loadCaseTitle = captions[i].loadCaseTitle;
     }
-    return true;
 }
 
 void setLoadCaseTitles(SheetPlan* plan, const QHash<int, QString>& titles)
 {
     for (SheetPicture& picture : plan->pictures)
-        if (picture.loadCase != 0 && picture.loadCaseTitle.isEmpty())
+        if (picture.loadCase != 0)
             picture.loadCaseTitle = titles.value(picture.loadCase);
 }
 

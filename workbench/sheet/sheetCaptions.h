@@ -11,7 +11,6 @@ struct PlotCaption
 {
     QString plot;
     int loadCase = 0; ///< load case of a row; 0 for a plot without rows
-    QString loadCaseTitle;
 };
 
 /// Sets the captions of a plan's pictures to the captions of the output page.
@@ -19,11 +18,11 @@ struct PlotCaption
 /// The script identifies plots by keywords only, but its pictures have the order of the tree, one
 /// for each checked plot or row. If both lists have the same length and the same load case in each
 /// row, the pictures get the captions, and plots without rows lose the load case that an earlier
-/// statement set. Otherwise returns false and changes nothing: the reader then sees keywords
-/// instead of captions that may belong to other pictures.
-bool setCaptions(SheetPlan* plan, const QVector<PlotCaption>& captions);
+/// statement set. Otherwise changes nothing: the reader then sees keywords instead of captions that
+/// may belong to other pictures.
+void setCaptions(SheetPlan* plan, const QVector<PlotCaption>& captions);
 
-/// Sets the load case titles of pictures without one.
+/// Sets the load case titles of the pictures from the titles by number.
 void setLoadCaseTitles(SheetPlan* plan, const QHash<int, QString>& titles);
 
 } // namespace workbench

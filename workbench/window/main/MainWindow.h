@@ -3,7 +3,7 @@
 #include "project/ProjectWatch.h"
 #include "project/SeenPart.h"
 #include "sheet/SheetPlan.h"
-#include "window/output/PlotNames.h"
+#include "window/main/WindowServices.h"
 
 #include <QMainWindow>
 
@@ -125,7 +125,6 @@ private:
     /// Made when it is first asked for; null, after a word with the user, if the project cannot be
     /// read for it.
     OutputDialog* output();
-    PlotNames plotNames() const;
     void makeOutput(const OutputState& state);
     void remakeOutput(const OutputPresent& before);
     void showOutput();

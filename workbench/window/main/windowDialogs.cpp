@@ -174,20 +174,10 @@ OutputDialog* MainWindow::output()
     return m_output.get();
 }
 
-/// From the language of the catalogue into the present one.
-PlotNames MainWindow::plotNames() const
-{
-    const int catalogue = OutputDialog::plotLanguage();
-    const int present = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    if (catalogue == present || !m_services.plotTitles)
-        return PlotNames();
-    return PlotNames(m_services.plotTitles(catalogue), m_services.plotTitles(present));
-}
-
 void MainWindow::makeOutput(const OutputState& state)
 {
     const WaitCursor cursor;
-    m_output = std::make_unique<OutputDialog>(m_document.get(), state, plotNames(), this);
+    m_output = std::make_unique<OutputDialog>(m_document.get(), state, this);
     m_output->addActions(m_actions->besideDialogs());
     connect(m_output.get(), &OutputDialog::choiceChanged, this, &MainWindow::refreshScript);
     connect(m_output.get(), &QDialog::accepted, this, [this] {

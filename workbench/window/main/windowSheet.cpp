@@ -21,12 +21,12 @@ SheetPlan MainWindow::newSheetPlan()
 {
     SheetPlan plan = readSheetPlan(m_script->script());
     OutputDialog* dialog = output(); // none while the project cannot be read
-    if (!dialog || !setCaptions(&plan, dialog->captions())) {
-        QHash<int, QString> titles;
-        for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index()))
-            titles.insert(loadCase.number, loadCase.title);
-        setLoadCaseTitles(&plan, titles);
-    }
+    if (dialog)
+        setCaptions(&plan, dialog->captions());
+    QHash<int, QString> titles;
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index()))
+        titles.insert(loadCase.number, loadCase.title);
+    setLoadCaseTitles(&plan, titles);
     return plan;
 }
 

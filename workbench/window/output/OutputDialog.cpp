@@ -15,6 +15,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,17 +32,20 @@ namespace {
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
-/// A page that found another language than the first one would read the catalogue once more and
-/// offer each plot twice. The icons of its rows change all the same, since offering the load cases
-/// fills the tree once more.
+/// Creates the page in the language of the first page of the process and changes it to the present
+/// one afterwards. A page created in a second language would load the catalogue again and offer
+/// each plot twice.
 VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
                                      AnimatorView* view)
 {
+    static const int first = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
     const int present = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, OutputDialog::plotLanguage());
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, first);
     auto page =
         new VKD_P_WidgetGraphicalOutput(parent, VKD_P_GraphicalOutput_Standard, parameter, view);
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, present);
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(page, &change);
     page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // no list of a project
     return page;
 }
@@ -66,22 +70,13 @@ QLabel* newHint(const QString& text)
 }
 } // namespace
 
-int OutputDialog::plotLanguage()
-{
-    static const int first = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    return first;
-}
-
-OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, PlotNames names,
-                           QWidget* parent)
+OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, QWidget* parent)
     : VKD_H_TabDialog(parent, "OutputDialog")
     , m_document(document)
     , m_parameter(document)
     , m_view(new AnimatorView(document->index(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
     , m_plots(m_page->findChild<QTreeWidget*>())
-    , m_names(std::move(names))
-    , m_waiting(m_plots, m_names)
     , m_choice(m_page, m_view)
 {
     setWindowTitle(tr("Graphical Output"));
@@ -95,7 +90,6 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, Plot
     connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
     addTabs();
     restore(kept);
-    namePlots();
     listen();
     setUnchanged();
 }
@@ -202,9 +196,6 @@ void OutputDialog::listen()
     connect(plots, &QAbstractItemModel::dataChanged, this, start);
     connect(plots, &QAbstractItemModel::modelReset, this, start);
     connect(plots, &QAbstractItemModel::rowsInserted, this, start);
-    connect(plots, &QAbstractItemModel::modelReset, this, [this] { m_arePlotsToName = true; });
-    connect(plots, &QAbstractItemModel::rowsInserted, this, &OutputDialog::namePlots,
-            Qt::QueuedConnection); // once the tree is filled, and before it is painted
     connect(m_loadCases, &QTableWidget::itemChanged, this, start);
     m_view->installEventFilter(this);
 }
@@ -240,19 +231,9 @@ void OutputDialog::storeUsersCamera()
         m_view->slotViewControl(AnimatorStoreCamera, 0.0);
 }
 
-/// The tree is filled anew whenever something else is offered.
-void OutputDialog::namePlots()
-{
-    if (!m_arePlotsToName)
-        return;
-    m_arePlotsToName = false;
-    m_names.apply(m_plots);
-}
-
 QVector<PlotCaption> OutputDialog::captions()
 {
-    namePlots();
-    return plotCaptions(*m_plots, m_waiting);
+    return checkedPlots(m_plots);
 }
 
 OutputState OutputDialog::state()

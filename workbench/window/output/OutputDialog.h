@@ -1,11 +1,9 @@
 #pragma once
 
 #include "project/OutputState.h"
-#include "window/output/plotCaptions.h"
+#include "window/output/checkedPlots.h"
 #include "window/output/PlotChoice.h"
-#include "window/output/PlotNames.h"
 #include "window/output/TreeSight.h"
-#include "window/output/WaitingPlots.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
@@ -41,14 +39,8 @@ class OutputDialog : public VKD_H_TabDialog
     Q_OBJECT
 
 public:
-    /// The language in which every page of the process is filled with plots, as setting 102 has it:
-    /// that of the first call.
-    static int plotLanguage();
-
-    /// Shows `state`. `document` is not owned and outlives the dialog. `names` are those of the
-    /// plots from plotLanguage() into the present language.
-    OutputDialog(VKD_H_ZOBDoc* document, const OutputState& state, PlotNames names,
-                 QWidget* parent);
+    /// Shows `state`. `document` is not owned and outlives the dialog.
+    OutputDialog(VKD_H_ZOBDoc* document, const OutputState& state, QWidget* parent);
     ~OutputDialog() override;
 
     /// The script of the present choice with English or German keywords, empty without a plot.
@@ -78,7 +70,6 @@ private:
     void restore(const OutputState& state);
     void bindOffers();
     void offerLoadCases();
-    void namePlots();
     void listen();
     bool showsUsersView() const;
     void storeUsersCamera();
@@ -89,13 +80,10 @@ private:
     AnimatorView* m_view;
     VKD_P_WidgetGraphicalOutput* m_page;
     QTreeWidget* m_plots;
-    PlotNames m_names;
-    WaitingPlots m_waiting; ///< outlives the page
     PlotChoice m_choice;
     LoadCaseTable* m_loadCases = nullptr;
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
-    bool m_arePlotsToName = true; // since the tree was filled
     QTimer m_changes;
     QString m_unchanged;
 };

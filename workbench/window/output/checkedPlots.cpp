@@ -1,0 +1,26 @@
+#include "window/output/checkedPlots.h"
+
+#include <VKD_P_WidgetGraphicalOutput_Role.h>
+
+#include <QTreeWidget>
+
+namespace workbench {
+
+QVector<PlotCaption> checkedPlots(QTreeWidget* tree)
+{
+    using namespace vkd::plib::widgetgraphicaloutput;
+    constexpr auto checkedLeaves =
+        QTreeWidgetItemIterator::Checked | QTreeWidgetItemIterator::NoChildren;
+    QVector<PlotCaption> plots;
+    for (QTreeWidgetItemIterator it(tree, checkedLeaves); *it; ++it) {
+        const QVariant loadCase = (*it)->data(0, LoadCaseRole);
+        const QTreeWidgetItem* plot = loadCase.isValid() ? (*it)->parent() : *it;
+        if (plot->data(0, WaitsForLoadCasesRole).toBool())
+            continue;
+        const QStringList captions = plot->data(0, CaptionsRole).toStringList();
+        plots.append({captions.join(QStringLiteral(" \u2013 ")), loadCase.toInt()});
+    }
+    return plots;
+}
+
+} // namespace workbench

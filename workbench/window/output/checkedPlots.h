@@ -1,0 +1,14 @@
+#pragma once
+
+#include "sheet/sheetCaptions.h"
+
+class QTreeWidget;
+
+namespace workbench {
+
+/// Returns the checked plots and load case rows in the tree of an output page, in its order, which
+/// is that of the pictures in the script. Plots that wait for load cases are left out, because they
+/// produce no picture.
+QVector<PlotCaption> checkedPlots(QTreeWidget* tree);
+
+} // namespace workbench
