@@ -1,4 +1,4 @@
-#include "treeCheckStates.h"
+#include "trees/treeCheckStates.h"
 
 #include <QModelIndex>
 #include <QTreeWidget>

@@ -1,6 +1,6 @@
 #include "VKD_QT_TabDialog.h"
 
-#include "PageTabs.h"
+#include "dialogs/PageTabs.h"
 #include "VKD_QT_Layouts.h"
 #include "VKD_QT_Ok.h"
 

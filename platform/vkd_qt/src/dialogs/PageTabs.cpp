@@ -1,4 +1,4 @@
-#include "PageTabs.h"
+#include "dialogs/PageTabs.h"
 
 #include "VKD_QT_InputField.h"
 

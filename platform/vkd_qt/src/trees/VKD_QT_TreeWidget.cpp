@@ -1,6 +1,6 @@
 #include "VKD_QT_TreeWidget.h"
 
-#include "treeCheckStates.h"
+#include "trees/treeCheckStates.h"
 #include "VKD_QT_Menu.h"
 #include "VKD_QT_SignalBlocker.h"
 #include "vkd_qt_visibleLines.h"
