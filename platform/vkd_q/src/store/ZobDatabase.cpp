@@ -1,6 +1,6 @@
 #include "store/ZobDatabase.h"
 
-#include "store/openFile.h"
+#include "file/openFile.h"
 
 #include <sqlite3.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "store/OutsideChanges.h"
-#include "store/RecordTable.h"
-#include "store/ZobConnection.h"
+#include "file/OutsideChanges.h"
+#include "file/RecordTable.h"
+#include "file/ZobConnection.h"
 #include "store/ZobTransactions.h"
 #include "vkd_zob.h"
 

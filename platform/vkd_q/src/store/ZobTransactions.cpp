@@ -1,6 +1,6 @@
 #include "store/ZobTransactions.h"
 
-#include "store/ZobConnection.h"
+#include "file/ZobConnection.h"
 
 #include <sqlite3.h>
 

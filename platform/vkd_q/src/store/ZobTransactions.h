@@ -1,7 +1,7 @@
 #pragma once
 
-#include "store/RecordTable.h"
-#include "store/Statement.h"
+#include "file/RecordTable.h"
+#include "file/Statement.h"
 #include "vkd_status.h"
 #include "vkd_zob.h"
 

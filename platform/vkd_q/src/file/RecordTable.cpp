@@ -1,4 +1,4 @@
-#include "store/RecordTable.h"
+#include "file/RecordTable.h"
 
 #include <sqlite3.h>
 

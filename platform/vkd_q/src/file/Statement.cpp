@@ -1,4 +1,4 @@
-#include "store/Statement.h"
+#include "file/Statement.h"
 
 #include <sqlite3.h>
 

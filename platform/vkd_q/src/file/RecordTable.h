@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Statement.h"
+#include "file/Statement.h"
 #include "vkd_zob.h"
 
 #include <map>

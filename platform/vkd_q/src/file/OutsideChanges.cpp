@@ -1,8 +1,8 @@
-#include "store/OutsideChanges.h"
+#include "file/OutsideChanges.h"
 
-#include "store/openFile.h"
-#include "store/ZobConnection.h"
-#include "store/zobFailure.h"
+#include "file/openFile.h"
+#include "file/ZobConnection.h"
+#include "file/zobFailure.h"
 
 #include <QtEndian>
 

@@ -1,7 +1,7 @@
-#include "store/ZobConnection.h"
+#include "file/ZobConnection.h"
 
-#include "store/zobFileCheck.h"
-#include "store/zobSchema.h"
+#include "file/zobFileCheck.h"
+#include "file/zobSchema.h"
 #include "vkd_lib_value.h"
 
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "store/openFile.h"
+#include "file/openFile.h"
 
 #include <QByteArray>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/zobFailure.h"
+#include "file/zobFailure.h"
 
 #include <memory>
 

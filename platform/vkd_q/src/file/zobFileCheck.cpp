@@ -1,7 +1,7 @@
-#include "store/zobFileCheck.h"
+#include "file/zobFileCheck.h"
 
-#include "store/ZobConnection.h"
-#include "store/zobSchema.h"
+#include "file/ZobConnection.h"
+#include "file/zobSchema.h"
 
 #include <sqlite3.h>
 

@@ -1,4 +1,4 @@
-#include "store/zobFailure.h"
+#include "file/zobFailure.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
