@@ -108,136 +108,129 @@ class tst_treeWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void statesFollowEachOther();
-    void oneWordForEachStep();
-    void spaceBesideTheCheckBox();
-    void otherDataThanStates();
-    void longTextsCanBeReached();
-    void menu();
-};
-
-void tst_treeWidget::statesFollowEachOther()
-{
-    QRandomGenerator random(7);
-    for (int round = 0; round < 40; ++round) {
-        VKD_QT_TreeWidget tree;
-        const Items all = fill(&tree, random, 5 + round);
-        Expected expected(all);
-        tree.settleCheckStates();
-        for (int i = all.size(); i-- > 0;)
-            expected.derive(all[i]);
-        QCOMPARE(Expected(all).states, expected.states);
-        tree.setAutomaticCheckStateUpdate(true);
-        for (int step = 0; step < 60; ++step) {
-            QTreeWidgetItem* item = all[random.bounded(all.size())];
-            const int before = stateOf(item);
-            const bool byUser = random.bounded(2);
-            const int toggled = before == Qt::Checked ? Qt::Unchecked : Qt::Checked;
-            const int state = byUser ? toggled : random.bounded(3);
-            if (before == NoBox || state == before)
-                continue;
-            tree.setCurrentItem(item);
-            if (byUser)
-                QTest::keyClick(&tree, Qt::Key_Space);
-            else
-                item->setCheckState(0, Qt::CheckState(state));
-            expected.step(item, state);
+    void statesFollowEachOther()
+    {
+        QRandomGenerator random(7);
+        for (int round = 0; round < 40; ++round) {
+            VKD_QT_TreeWidget tree;
+            const Items all = fill(&tree, random, 5 + round);
+            Expected expected(all);
+            tree.settleCheckStates();
+            for (int i = all.size(); i-- > 0;)
+                expected.derive(all[i]);
             QCOMPARE(Expected(all).states, expected.states);
+            tree.setAutomaticCheckStateUpdate(true);
+            for (int step = 0; step < 60; ++step) {
+                QTreeWidgetItem* item = all[random.bounded(all.size())];
+                const int before = stateOf(item);
+                const bool byUser = random.bounded(2);
+                const int toggled = before == Qt::Checked ? Qt::Unchecked : Qt::Checked;
+                const int state = byUser ? toggled : random.bounded(3);
+                if (before == NoBox || state == before)
+                    continue;
+                tree.setCurrentItem(item);
+                if (byUser)
+                    QTest::keyClick(&tree, Qt::Key_Space);
+                else
+                    item->setCheckState(0, Qt::CheckState(state));
+                expected.step(item, state);
+                QCOMPARE(Expected(all).states, expected.states);
+            }
         }
     }
-}
 
-void tst_treeWidget::oneWordForEachStep()
-{
-    Catalogue catalogue;
-    QSignalSpy settled(&catalogue.tree, &VKD_QT_TreeWidget::checkStatesChanged);
-    Items changed;
-    QVector<int> seen;
-    connect(&catalogue.tree, &QTreeWidget::itemChanged, this, [&](QTreeWidgetItem* item) {
-        changed << item;
-        seen << stateOf(catalogue.top) << stateOf(item->child(2)) << settled.size();
-    });
-    QTreeWidgetItem* plot = catalogue.top->child(1);
-    plot->setCheckState(0, Qt::Checked);
-    QCOMPARE(seen, (QVector<int>{Qt::PartiallyChecked, Qt::Checked, 0}));
-    QCOMPARE(changed, Items{plot});
-    QCOMPARE(settled.size(), 1);
-    plot->setCheckState(0, Qt::Checked); // no change
-    catalogue.tree.setAutomaticCheckStateUpdate(false);
-    plot->setCheckState(0, Qt::Unchecked);
-    QCOMPARE(settled.size(), 1);
-    QCOMPARE(stateOf(plot->child(0)), int(Qt::Checked));
-    catalogue.tree.settleCheckStates();
-    QCOMPARE(settled.size(), 2);
-    QCOMPARE(changed.size(), 2);
-    QCOMPARE(stateOf(plot), int(Qt::Checked));
-}
+    void oneWordForEachStep()
+    {
+        Catalogue catalogue;
+        QSignalSpy settled(&catalogue.tree, &VKD_QT_TreeWidget::checkStatesChanged);
+        Items changed;
+        QVector<int> seen;
+        connect(&catalogue.tree, &QTreeWidget::itemChanged, this, [&](QTreeWidgetItem* item) {
+            changed << item;
+            seen << stateOf(catalogue.top) << stateOf(item->child(2)) << settled.size();
+        });
+        QTreeWidgetItem* plot = catalogue.top->child(1);
+        plot->setCheckState(0, Qt::Checked);
+        QCOMPARE(seen, (QVector<int>{Qt::PartiallyChecked, Qt::Checked, 0}));
+        QCOMPARE(changed, Items{plot});
+        QCOMPARE(settled.size(), 1);
+        plot->setCheckState(0, Qt::Checked); // no change
+        catalogue.tree.setAutomaticCheckStateUpdate(false);
+        plot->setCheckState(0, Qt::Unchecked);
+        QCOMPARE(settled.size(), 1);
+        QCOMPARE(stateOf(plot->child(0)), int(Qt::Checked));
+        catalogue.tree.settleCheckStates();
+        QCOMPARE(settled.size(), 2);
+        QCOMPARE(changed.size(), 2);
+        QCOMPARE(stateOf(plot), int(Qt::Checked));
+    }
 
-void tst_treeWidget::spaceBesideTheCheckBox()
-{
-    Catalogue catalogue;
-    catalogue.tree.setCurrentItem(catalogue.top, 1);
-    QTest::keyClick(&catalogue.tree, Qt::Key_Space);
-    QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Checked));
-    catalogue.top->setFlags(Qt::ItemIsEnabled); // a box that only shows
-    QTest::keyClick(&catalogue.tree, Qt::Key_Space);
-    QCOMPARE(stateOf(catalogue.top), int(Qt::Checked));
-}
+    void spaceBesideTheCheckBox()
+    {
+        Catalogue catalogue;
+        catalogue.tree.setCurrentItem(catalogue.top, 1);
+        QTest::keyClick(&catalogue.tree, Qt::Key_Space);
+        QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Checked));
+        catalogue.top->setFlags(Qt::ItemIsEnabled); // a box that only shows
+        QTest::keyClick(&catalogue.tree, Qt::Key_Space);
+        QCOMPARE(stateOf(catalogue.top), int(Qt::Checked));
+    }
 
-/// A text or flags that change carry no state, not even in a tree that is not settled.
-void tst_treeWidget::otherDataThanStates()
-{
-    Catalogue catalogue;
-    catalogue.tree.setAutomaticCheckStateUpdate(false);
-    catalogue.top->setCheckState(0, Qt::Checked);
-    catalogue.tree.setAutomaticCheckStateUpdate(true);
-    QSignalSpy settled(&catalogue.tree, &VKD_QT_TreeWidget::checkStatesChanged);
-    catalogue.top->setText(0, QStringLiteral("other"));
-    catalogue.top->setDisabled(true);
-    QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Unchecked));
-    QCOMPARE(settled.size(), 0);
-}
+    /// A text or flags that change carry no state, not even in a tree that is not settled.
+    void otherDataThanStates()
+    {
+        Catalogue catalogue;
+        catalogue.tree.setAutomaticCheckStateUpdate(false);
+        catalogue.top->setCheckState(0, Qt::Checked);
+        catalogue.tree.setAutomaticCheckStateUpdate(true);
+        QSignalSpy settled(&catalogue.tree, &VKD_QT_TreeWidget::checkStatesChanged);
+        catalogue.top->setText(0, QStringLiteral("other"));
+        catalogue.top->setDisabled(true);
+        QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Unchecked));
+        QCOMPARE(settled.size(), 0);
+    }
 
-/// Also those that come into view when a branch is opened or the tree is moved.
-void tst_treeWidget::longTextsCanBeReached()
-{
-    Catalogue catalogue;
-    VKD_QT_TreeWidget& tree = catalogue.tree;
-    tree.setColumnCount(1);
-    tree.setColumnFitsTexts();
-    tree.resize(200, 100);
-    tree.show();
-    QTRY_COMPARE(tree.header()->sectionSize(0), tree.viewport()->width());
-    const auto isShownWhole = [&](QTreeWidgetItem* item) {
-        const int width = tree.fontMetrics().horizontalAdvance(item->text(0));
-        return width > tree.viewport()->width() && tree.visualItemRect(item).width() > width;
-    };
-    catalogue.top->child(0)->child(0)->setText(0, QString(60, QLatin1Char('m')));
-    catalogue.top->child(1)->child(2)->setText(0, QString(90, QLatin1Char('m')));
-    tree.expandAll();
-    QTRY_VERIFY(isShownWhole(catalogue.top->child(0)->child(0)));
-    QVERIFY(!isShownWhole(catalogue.top->child(1)->child(2)));
-    tree.scrollToBottom();
-    QTRY_VERIFY(isShownWhole(catalogue.top->child(1)->child(2)));
-    tree.clear();
-    tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("a")}));
-    QTRY_COMPARE(tree.header()->sectionSize(0), tree.viewport()->width());
-}
+    /// Also those that come into view when a branch is opened or the tree is moved.
+    void longTextsCanBeReached()
+    {
+        Catalogue catalogue;
+        VKD_QT_TreeWidget& tree = catalogue.tree;
+        tree.setColumnCount(1);
+        tree.setColumnFitsTexts();
+        tree.resize(200, 100);
+        tree.show();
+        QTRY_COMPARE(tree.header()->sectionSize(0), tree.viewport()->width());
+        const auto isShownWhole = [&](QTreeWidgetItem* item) {
+            const int width = tree.fontMetrics().horizontalAdvance(item->text(0));
+            return width > tree.viewport()->width() && tree.visualItemRect(item).width() > width;
+        };
+        catalogue.top->child(0)->child(0)->setText(0, QString(60, QLatin1Char('m')));
+        catalogue.top->child(1)->child(2)->setText(0, QString(90, QLatin1Char('m')));
+        tree.expandAll();
+        QTRY_VERIFY(isShownWhole(catalogue.top->child(0)->child(0)));
+        QVERIFY(!isShownWhole(catalogue.top->child(1)->child(2)));
+        tree.scrollToBottom();
+        QTRY_VERIFY(isShownWhole(catalogue.top->child(1)->child(2)));
+        tree.clear();
+        tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("a")}));
+        QTRY_COMPARE(tree.header()->sectionSize(0), tree.viewport()->width());
+    }
 
-void tst_treeWidget::menu()
-{
-    Catalogue catalogue;
-    VKD_QT_Menu shown(&catalogue.tree, "menu");
-    QAction* open = catalogue.tree.addExpandAll(&shown);
-    QAction* close = catalogue.tree.addCollapseAll(&shown);
-    QCOMPARE(open->text() + close->text(), QStringLiteral("Alle aufklappenAlle zuklappen"));
-    open->trigger();
-    QVERIFY(catalogue.top->isExpanded() && catalogue.top->child(1)->isExpanded());
-    catalogue.tree.setCurrentItem(catalogue.top->child(1)->child(0));
-    close->trigger();
-    QVERIFY(!catalogue.top->isExpanded() && !catalogue.top->child(1)->isExpanded());
-    QCOMPARE(catalogue.tree.currentItem(), catalogue.top);
-}
+    void menu()
+    {
+        Catalogue catalogue;
+        VKD_QT_Menu shown(&catalogue.tree, "menu");
+        QAction* open = catalogue.tree.addExpandAll(&shown);
+        QAction* close = catalogue.tree.addCollapseAll(&shown);
+        QCOMPARE(open->text() + close->text(), QStringLiteral("Alle aufklappenAlle zuklappen"));
+        open->trigger();
+        QVERIFY(catalogue.top->isExpanded() && catalogue.top->child(1)->isExpanded());
+        catalogue.tree.setCurrentItem(catalogue.top->child(1)->child(0));
+        close->trigger();
+        QVERIFY(!catalogue.top->isExpanded() && !catalogue.top->child(1)->isExpanded());
+        QCOMPARE(catalogue.tree.currentItem(), catalogue.top);
+    }
+};
 
 PLIB_WIDGET_TEST_MAIN(tst_treeWidget)
 #include "tst_treeWidget.moc"
