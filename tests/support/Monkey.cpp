@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -15,52 +14,13 @@
 #include <QUrl>
 #include <QWheelEvent>
 
-#include <csignal>
-#include <cstring>
 #include <unistd.h>
-
-extern "C" void __sanitizer_set_death_callback(void (*callback)()) __attribute__((weak));
 
 namespace testsupport {
 
 namespace {
 constexpr int DefaultSeed = 20261121;
 constexpr unsigned HangSeconds = 120;
-
-/// The seed and the last steps, as lines that a handler of signals may still print.
-constexpr int StoryLength = 12;
-constexpr int LineLength = 160;
-char lines[StoryLength][LineLength];
-int lineCount = 0;
-
-const char* line(int number)
-{
-    return lines[number % StoryLength];
-}
-
-void printStory()
-{
-    for (int number = qMax(0, lineCount - StoryLength); number < lineCount; ++number)
-        if (write(STDERR_FILENO, line(number), strlen(line(number))) < 0)
-            return;
-}
-
-void printAndEnd(int signal)
-{
-    printStory();
-    std::signal(signal, SIG_DFL);
-    std::raise(signal == SIGALRM ? SIGABRT : signal);
-}
-
-void printAtTheEnd()
-{
-    for (int signal : {SIGALRM, SIGABRT})
-        std::signal(signal, printAndEnd);
-    if (__sanitizer_set_death_callback)
-        __sanitizer_set_death_callback(printStory);
-    else
-        std::signal(SIGSEGV, printAndEnd);
-}
 
 int fromEnvironment(const char* variable, int usual)
 {
@@ -93,9 +53,7 @@ Monkey::Monkey(int seed, const QStringList& files)
     : m_random(unsigned(seed))
     , m_files(files)
 {
-    lineCount = 0;
-    printAtTheEnd();
-    note("seed", this, QString::number(seed));
+    std::fprintf(stderr, "seed %d\n", seed);
     workOnDialog();
 }
 
@@ -104,23 +62,13 @@ Monkey::~Monkey()
     alarm(0);
 }
 
-QByteArray Monkey::story()
-{
-    QByteArray text("\n");
-    for (int number = qMax(0, lineCount - StoryLength); number < lineCount; ++number)
-        text += line(number);
-    return text;
-}
-
 void Monkey::note(const char* act, const QObject* target, const QString& more)
 {
     ++m_steps;
     alarm(HangSeconds);
-    qsnprintf(lines[lineCount++ % StoryLength], LineLength, "%6d %s %s %s %s\n", m_steps, act,
-              target->metaObject()->className(), qPrintable(target->objectName()),
-              qPrintable(more.left(80)));
     if (qEnvironmentVariableIsSet("PLIB_MONKEY_LOG"))
-        std::fputs(line(lineCount - 1), stderr);
+        std::fprintf(stderr, "%6d %s %s %s %s\n", m_steps, act, target->metaObject()->className(),
+                     qPrintable(target->objectName()), qPrintable(more.left(80)));
 }
 
 void Monkey::step(QWidget* window)

@@ -15,8 +15,8 @@ namespace testsupport {
 /// Works in the windows of a program at random, in the same way for the same seed: with the mouse,
 /// its wheel, keys, texts, menus, dropped files and sizes of windows. A dialog or a menu that
 /// blocks the caller is worked on until it is left; a file dialog is only given names of the
-/// monkey's files. If the program ends or hangs within a step, the seed and the last steps are
-/// printed.
+/// monkey's files. The seed is printed; if PLIB_MONKEY_LOG is set, each step is printed, too. A
+/// step that hangs ends the process.
 class Monkey : public QObject
 {
 public:
@@ -38,8 +38,6 @@ public:
     int steps() const { return m_steps; }
     /// The action of a menu that the last step triggered; null if it did something else.
     const QAction* triggered() const { return m_triggered; }
-    /// The seed and the last steps, for the message of a failure.
-    static QByteArray story();
 
 private:
     template <class Widget>
