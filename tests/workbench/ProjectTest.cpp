@@ -168,7 +168,7 @@ std::unique_ptr<MainWindow> ProjectTest::open(const char* name) const
 
 std::unique_ptr<MainWindow> ProjectTest::reopen(const char* name) const
 {
-    auto window = std::make_unique<MainWindow>(commandLineServices());
+    auto window = std::make_unique<MainWindow>();
     window->show();
     if (!window->openProject(path(name)) ||
         !QTest::qWaitFor([&window] { return !script(*window).isEmpty(); }))

@@ -2,7 +2,6 @@
 
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
-#include "window/main/commandLineServices.h"
 #include "window/main/MainWindow.h"
 
 #include <QMessageBox>
@@ -19,7 +18,6 @@ using testsupport::readFile;
 using testsupport::trigger;
 using testsupport::whenModal;
 using testsupport::writeFile;
-using workbench::commandLineServices;
 
 /// What the program prints with these arguments.
 QByteArray commandLine(const QStringList& arguments);

@@ -47,7 +47,7 @@ void visitMenu(const Visit& visit, QWidget* widget)
 Open VisitedProject::mainWindow(const WindowAct& act)
 {
     return [this, act](const Visit& visit) {
-        MainWindow window({});
+        MainWindow window;
         window.show();
         QVERIFY(window.openProject(doc()->path()));
         QTRY_VERIFY(!find<QPlainTextEdit>(window, "ScriptText")->toPlainText().isEmpty());

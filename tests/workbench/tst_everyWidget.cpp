@@ -160,7 +160,7 @@ private:
     {
         addMain("main window", [](MainWindow& window, const Visit& visit) { visit(window); });
         add("main window without a project", [](const Visit& visit) {
-            MainWindow window({});
+            MainWindow window;
             window.show();
             visit(window);
         });

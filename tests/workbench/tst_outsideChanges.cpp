@@ -311,7 +311,7 @@ private Q_SLOTS:
         QVERIFY(window->windowTitle().startsWith(QString::fromUtf8(place)));
         QVERIFY(!window->isWindowModified());
         QTRY_COMPARE(script(*window), chosen);
-        MainWindow again(commandLineServices());
+        MainWindow again;
         QVERIFY(again.openProject(path(place)));
         QTRY_COMPARE(script(again), chosen);
         QCOMPARE(records(again), records(*window));
@@ -322,7 +322,7 @@ private Q_SLOTS:
     void twoWindows()
     {
         const auto mine = open("both.zob");
-        MainWindow theirs(commandLineServices());
+        MainWindow theirs;
         theirs.show();
         QVERIFY(theirs.openProject(path("both.zob")));
         QTRY_VERIFY(!script(theirs).isEmpty());

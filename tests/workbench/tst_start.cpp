@@ -35,7 +35,7 @@ private Q_SLOTS:
     void projectIsReadBehindThePainting()
     {
         QFETCH(const bool, isShown);
-        MainWindow window({});
+        MainWindow window;
         window.setVisible(isShown);
         find<QDockWidget>(window, "RecordDock")->setFloating(isShown); // before it has its pane
         const auto groupCount = [&window] {
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void messageIsBehindThePainting()
     {
         writeFile(path("bad.zob"), "no project");
-        MainWindow window({});
+        MainWindow window;
         window.openBehindPainting(path("bad.zob"));
         PaintWatch watch;
         window.installEventFilter(&watch);
@@ -75,13 +75,13 @@ private Q_SLOTS:
     void settingsAreWrittenForNewFilesOnly()
     {
         const QString file = path("ini/plib/workbench.ini");
-        MainWindow first({});
+        MainWindow first;
         QVERIFY(!QFile::exists(file));
         QVERIFY(first.openProject(copy("project.zob")));
         QVERIFY(QFile::exists(file));
         writeFile(file, readFile(file) + "; by hand\n");
         const QByteArray before = readFile(file);
-        MainWindow second({});
+        MainWindow second;
         QVERIFY(second.openProject(path("project.zob")));
         QCOMPARE(readFile(file), before);
     }

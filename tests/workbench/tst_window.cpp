@@ -62,7 +62,7 @@ private Q_SLOTS:
         QFETCH(const QString, keywords);
         QFETCH(const QString, action);
         const QString project = path("new.zob");
-        MainWindow window(commandLineServices());
+        MainWindow window;
         window.show();
         trigger(window, qPrintable(desktop));
         QTRY_COMPARE(window.findChild<QAction*>(QStringLiteral("Open"))->text(), action);

@@ -74,7 +74,7 @@ private Q_SLOTS:
     /// All that can be pressed works, and leaves the window in order.
     void everyAction()
     {
-        MainWindow window(commandLineServices());
+        MainWindow window;
         window.show();
         if (qstrcmp(QTest::currentDataTag(), "no project") != 0)
             openEmptyOrPicking(window);

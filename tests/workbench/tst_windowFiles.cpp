@@ -212,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(!window->openProject(path("8.zob")));
         expected.removeOne(path("8.zob"));
         QCOMPARE(recentFiles(*window), expected);
-        QCOMPARE(recentFiles(MainWindow(commandLineServices())), expected);
+        QCOMPARE(recentFiles(MainWindow()), expected);
     }
 
     void drops_data()
@@ -266,8 +266,7 @@ private Q_SLOTS:
 
     void cancelledMaking()
     {
-        auto slow = commandLineServices();
-        slow.makeProject = [](const QString&, const QString&, const VkdGoOn& goOn) {
+        const auto slow = [](const QString&, const QString&, const VkdGoOn& goOn) {
             whenModal([](QWidget* box) { box->findChild<QAbstractButton*>()->click(); });
             QElapsedTimer clock;
             clock.start();
@@ -307,7 +306,7 @@ private Q_SLOTS:
             });
             press(box, QMessageBox::Ok);
         });
-        QCOMPARE(workbench::runWindow(path("missing.zob"), commandLineServices()), 0);
+        QCOMPARE(workbench::runWindow(path("missing.zob")), 0);
         QVERIFY(isTold);
         testsupport::setLanguage(testsupport::English);
         const auto look = [&] {
@@ -323,7 +322,7 @@ private Q_SLOTS:
             look();
             shownWindow()->close();
         });
-        QCOMPARE(workbench::runWindow(QString(), commandLineServices()), 0);
+        QCOMPARE(workbench::runWindow(QString()), 0);
     }
 };
 

@@ -122,7 +122,7 @@ private Q_SLOTS:
         testsupport::setLanguage(monkey.below(2));
         while (monkey.steps() < Monkey::StepsInARound) {
             {
-                MainWindow window(commandLineServices());
+                MainWindow window;
                 window.show();
                 if (monkey.below(4))
                     window.openProject(path("mine.zob"));

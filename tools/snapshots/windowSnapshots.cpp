@@ -77,7 +77,7 @@ void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
     for (const bool isDark : {false, true}) {
         QApplication::setPalette(isDark ? darkPalette() : light);
         const QString look = isDark ? QStringLiteral("-dark") : QString();
-        MainWindow window({});
+        MainWindow window;
         window.show();
         window.openProject(project);
         album.add(QStringLiteral("window") + look, &window);

@@ -45,9 +45,9 @@ const QString GeometryKey = QStringLiteral("geometry");
 const QString StateKey = QStringLiteral("state");
 } // namespace
 
-MainWindow::MainWindow(WindowServices services, QWidget* parent)
+MainWindow::MainWindow(MakeProject makeProject, QWidget* parent)
     : QMainWindow(parent)
-    , m_services(std::move(services))
+    , m_makeProject(std::move(makeProject))
     , m_actions(new WindowActions(this))
     , m_groups(new GroupList(this))
     , m_news(new ChangeBar(m_actions->reload, m_actions->saveAs, this))

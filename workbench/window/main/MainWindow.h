@@ -3,7 +3,7 @@
 #include "project/ProjectWatch.h"
 #include "project/SeenPart.h"
 #include "sheet/SheetPlan.h"
-#include "window/main/WindowServices.h"
+#include "window/main/makeProjectFile.h"
 
 #include <QMainWindow>
 
@@ -42,7 +42,8 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(WindowServices services, QWidget* parent = nullptr);
+    /// `makeProject` creates the files of new projects.
+    explicit MainWindow(MakeProject makeProject = makeProjectFile, QWidget* parent = nullptr);
     ~MainWindow() override;
 
     /// Opens a project in place of the present one. If it cannot be opened, the user is told, and
@@ -154,7 +155,7 @@ private:
     void showHelp(const QString& topic, QWidget* caller);
     void showAbout();
 
-    WindowServices m_services;
+    MakeProject m_makeProject;
     std::unique_ptr<VKD_H_ZOBDoc> m_document;
     WindowActions* m_actions;
     // The panes in the order of Tab, which is column by column.

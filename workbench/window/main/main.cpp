@@ -1,6 +1,5 @@
 #include "cli/CommandLine.h"
 #include "cli/program.h"
-#include "window/main/commandLineServices.h"
 #include "window/main/runWindow.h"
 #include "window/support/WindowSettings.h"
 
@@ -24,7 +23,7 @@ int openWindow(const QStringList& arguments)
     applyLanguage(line);
     if (line.has("language")) // else the window's own one of the last time
         WindowSettings().setLanguage(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
-    return runWindow(line.argument(0), commandLineServices());
+    return runWindow(line.argument(0));
 }
 
 /// Without a display, Qt would end the process with a core file.

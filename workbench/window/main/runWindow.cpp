@@ -9,12 +9,12 @@
 
 namespace workbench {
 
-int runWindow(const QString& path, WindowServices services)
+int runWindow(const QString& path)
 {
     const int language = WindowSettings().language(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
     VKD_QT_InitTranslator::languageChanged();
-    MainWindow window(std::move(services));
+    MainWindow window;
     window.openBehindPainting(path);
     window.show();
     return QApplication::exec();

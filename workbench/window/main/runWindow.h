@@ -6,6 +6,6 @@ namespace workbench {
 
 /// Shows the window on a project, or empty without a path, until the user closes it. Needs a
 /// QApplication. The result is the exit code.
-int runWindow(const QString& path, WindowServices services);
+int runWindow(const QString& path);
 
 } // namespace workbench

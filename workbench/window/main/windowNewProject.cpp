@@ -64,7 +64,7 @@ bool MainWindow::makeProject(const QString& path, const QString& model)
     bool goesOn = true;
     {
         SlowWork work(this, tr("The project is being made."), 100);
-        trouble = m_services.makeProject(unfinished, model,
+        trouble = m_makeProject(unfinished, model,
                                          [&](int percent) { return goesOn = work.goOn(percent); });
     }
     if (!goesOn)

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vkd_progress.h>
+
+#include <QString>
+
+#include <functional>
+
+namespace workbench {
+
+/// Creates a project file, which must not exist yet, from the name of a sample or a model file.
+/// Returns the reason if this fails, an empty text after a success, and any other text if `goOn`
+/// returned false.
+using MakeProject =
+    std::function<QString(const QString& path, const QString& model, const VkdGoOn& goOn)>;
+
+/// Creates the file by the command line, a program of its own, because the window uses the library
+/// only through its exported headers. Needs a QCoreApplication.
+QString makeProjectFile(const QString& path, const QString& model, const VkdGoOn& goOn);
+
+} // namespace workbench
