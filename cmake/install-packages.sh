@@ -1,7 +1,7 @@
 # Sourced by run and test: installs missing Debian packages.
 
-plib_packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev
-               qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libbenchmark-dev
+plib_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev
+               qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libbenchmark-dev
                fonts-dejavu-core)
 
 plib_install_packages() {

@@ -1,14 +1,18 @@
 #include "vkd_qt_icon_named.h"
 
-#include "DrawnIconEngine.h"
+#include "SvgIconEngine.h"
+
+#include <QFile>
 
 namespace vkd {
 namespace qt {
 
 QIcon icon(const QString& name)
 {
-    const Drawing drawing = findDrawing(name);
-    return drawing ? QIcon(new DrawnIconEngine(drawing)) : QIcon();
+    QFile file(name + QLatin1String(".svg"));
+    if (!name.startsWith(QLatin1String(":/icon/")) || !file.open(QIODevice::ReadOnly))
+        return QIcon();
+    return QIcon(new SvgIconEngine(file.readAll()));
 }
 
 } // namespace qt

@@ -99,7 +99,7 @@ WindowActions::WindowActions(QMainWindow* window)
         language->setCheckable(true);
         languages->addAction(language);
     }
-    // Drawn icons follow the palette, and no files have to be read for them at the start.
+    // These icons follow the palette, and no files have to be read for them at the start.
     open->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/open")));
     saveScript->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
     design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/reinforcement")));
