@@ -1,6 +1,6 @@
 #include "VisitedProject.h"
 
-#include "window/records/RecordsModel.h"
+#include "window/records/RecordTableModel.h"
 
 #include <vkd_dbo_groups.h>
 #include <vkd_dbo_model.h>
@@ -76,7 +76,7 @@ QSet<QString> VisitedProject::texts()
         found << group.title;
     for (const vkd::dbo::GroupSummary& group : vkd::dbo::readSecondaryGroups(index))
         found << group.title << group.name;
-    const workbench::RecordsModel words;
+    const workbench::RecordTableModel words;
     for (int word = 0; word < words.rowCount(); ++word)
         found << words.headerData(word, Qt::Vertical, Qt::DisplayRole).toString();
     for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index))

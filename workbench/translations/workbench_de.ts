@@ -670,7 +670,7 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
     </message>
 </context>
 <context>
-    <name>workbench::RecordsModel</name>
+    <name>workbench::RecordTableModel</name>
     <message>
         <source>Record %1</source>
         <translation>Datensatz %1</translation>

@@ -1,6 +1,6 @@
 #include "window/records/RecordsPane.h"
 
-#include "window/records/RecordsModel.h"
+#include "window/records/RecordTableModel.h"
 
 #include <vkd_qt_copyCells.h>
 #include <vkd_qt_visibleLines.h>
@@ -12,7 +12,7 @@ namespace workbench {
 
 RecordsPane::RecordsPane(QWidget* parent)
     : QTableView(parent)
-    , m_model(new RecordsModel(this))
+    , m_model(new RecordTableModel(this))
 {
     setObjectName(QStringLiteral("Records"));
     setModel(m_model);

@@ -4,7 +4,7 @@
 
 namespace workbench {
 
-class RecordsModel;
+class RecordTableModel;
 
 /// The design records as they lie in the project, word by word. Names and units of the words stay
 /// in sight beside them. Chosen cells can be copied.
@@ -27,7 +27,7 @@ private:
     void setTexts();
     void fitColumns();
 
-    RecordsModel* m_model;
+    RecordTableModel* m_model;
 };
 
 } // namespace workbench

@@ -1,4 +1,4 @@
-#include "window/records/RecordsModel.h"
+#include "window/records/RecordTableModel.h"
 
 #include "project/projectKeys.h"
 
@@ -47,7 +47,7 @@ QStringList namesAndUnits()
 }
 } // namespace
 
-void RecordsModel::read(int index)
+void RecordTableModel::read(int index)
 {
     beginResetModel();
     m_records.clear();
@@ -66,7 +66,7 @@ void RecordsModel::read(int index)
 }
 
 /// Records differ in few words, and each different one is written out once.
-QString RecordsModel::longestText() const
+QString RecordTableModel::longestText() const
 {
     std::unordered_set<quint64> seen;
     QString longest;
@@ -83,17 +83,17 @@ QString RecordsModel::longestText() const
     return longest;
 }
 
-int RecordsModel::rowCount(const QModelIndex& parent) const
+int RecordTableModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : WordCount;
 }
 
-int RecordsModel::columnCount(const QModelIndex& parent) const
+int RecordTableModel::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : int(m_records.size());
 }
 
-QVariant RecordsModel::data(const QModelIndex& index, int role) const
+QVariant RecordTableModel::data(const QModelIndex& index, int role) const
 {
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignRight | Qt::AlignVCenter);
@@ -102,7 +102,7 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
     return {};
 }
 
-QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     static const QStringList names = namesAndUnits();
     const bool isRecord = orientation == Qt::Horizontal;
@@ -114,7 +114,7 @@ QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 /// Nine digits tell every single precision number from its neighbours.
-QString RecordsModel::wordText(quint32 word, bool isInteger)
+QString RecordTableModel::wordText(quint32 word, bool isInteger)
 {
     if (isInteger)
         return QString::number(qint32(word));
@@ -124,7 +124,7 @@ QString RecordsModel::wordText(quint32 word, bool isInteger)
     return QString::number(double(number), 'g', 9);
 }
 
-quint32 RecordsModel::word(int record, int row) const
+quint32 RecordTableModel::word(int record, int row) const
 {
     quint32 bits = 0;
     std::memcpy(&bits, m_records[size_t(record)].data() + 4 * row, sizeof bits);

@@ -11,7 +11,7 @@ namespace workbench {
 
 /// The design records of a project as a table: a column for each record, and a row for each of its
 /// words of four bytes, with name and unit as the heading.
-class RecordsModel : public QAbstractTableModel
+class RecordTableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
