@@ -50,6 +50,23 @@ private Q_SLOTS:
         QVERIFY(std::memcmp(&other, &record, sizeof record) == 0);
     }
 
+    void wordsAreInTheOrderOfTheRecord()
+    {
+        R record{};
+        quint32 number = 0;
+        for (const auto& word : vkd::plib::designparameter::RecordWords) {
+            if (word.integer)
+                record.*word.integer = qint32(number);
+            else
+                std::memcpy(&(record.*word.real), &number, sizeof number);
+            ++number;
+        }
+        quint32 words[53] = {};
+        std::memcpy(words, &record, sizeof words);
+        for (quint32 i = 0; i < number; ++i)
+            QCOMPARE(words[i], i);
+    }
+
     void distances_data()
     {
         const Columns<Triple, Triple, Triple> row("stored", "edited", "storedAgain");

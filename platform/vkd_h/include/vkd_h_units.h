@@ -21,9 +21,10 @@
 struct VkdDimension
 {
     int code;
-    double factor;    ///< shown value = base value * factor
-    const char* unit; ///< UTF-8
-    int decimals;     ///< -1: up to six significant digits
+    const char* baseUnit; ///< UTF-8
+    double factor;        ///< shown value = base value * factor
+    const char* unit;     ///< shown unit, UTF-8
+    int decimals;         ///< -1: up to six significant digits
 };
 
 /// Returns the dimension of a code. Unknown codes have no unit and the factor 1.

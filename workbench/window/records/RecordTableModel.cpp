@@ -2,47 +2,35 @@
 
 #include "project/projectKeys.h"
 
+#include <tagZOB_QUAD_RIM_Words.h>
+#include <vkd_h_units.h>
 #include <vkd_zob.h>
 
 #include <cstring>
+#include <iterator>
 #include <unordered_set>
 
 namespace workbench {
 
 namespace {
-constexpr int IntegerWords = 5;
-constexpr int WordCount = sizeof(tagZOB_QUAD_RIM) / 4;
+using vkd::plib::designparameter::RecordWord;
+using vkd::plib::designparameter::RecordWords;
 
-/// Words that follow each other, with one unit.
-struct Words
+constexpr int WordCount = std::size(RecordWords);
+
+bool isInteger(int row)
 {
-    const char* unit;
-    std::vector<const char*> names;
-};
-
-const std::vector<Words> RecordWords{
-    {"", {"group", "subId", "type", "mode", "mark"}},
-    {"rad", {"rio", "rioq", "rioi", "riu", "riuq", "riui"}},
-    {"m", {"xref", "yref", "zref"}},
-    {"m", {"hio", "hioq", "hioi", "hiu", "hiuq", "hiui"}},
-    {"mm", {"dio", "dioq", "dioi", "diu", "diuq", "diui"}},
-    {"", {"reservedD"}},
-    {"cm²/m", {"aso", "asoq", "asoi", "asu", "asuq", "asui"}},
-    {"", {"reservedS"}},
-    {"cm²/m", {"amo", "amoq", "amoi", "amu", "amuq", "amui"}},
-    {"", {"reservedM"}},
-    {"mm", {"wko", "wkoq", "wkoi", "wku", "wkuq", "wkui"}},
-    {"N/mm²", {"sigo", "sigoq", "sigoi", "sigu", "siguq", "sigui"}},
-};
+    return RecordWords[row].integer;
+}
 
 QStringList namesAndUnits()
 {
     QStringList texts;
-    for (const Words& words : RecordWords)
-        for (const char* name : words.names)
-            texts << (*words.unit ? QStringLiteral("%1 [%2]").arg(QLatin1String(name),
-                                                                  QString::fromUtf8(words.unit))
-                                  : QString::fromLatin1(name));
+    for (const RecordWord& word : RecordWords) {
+        const QString unit = QString::fromUtf8(vkd_h_dimension(word.dimension).baseUnit);
+        const QString name = QString::fromLatin1(word.name);
+        texts << (unit.isEmpty() ? name : QStringLiteral("%1 [%2]").arg(name, unit));
+    }
     return texts;
 }
 } // namespace
@@ -72,11 +60,10 @@ QString RecordTableModel::longestText() const
     QString longest;
     for (int record = 0; record < columnCount(); ++record)
         for (int row = 0; row < WordCount; ++row) {
-            const bool isInteger = row < IntegerWords;
             const quint32 bits = word(record, row);
-            if (!seen.insert(bits | quint64(isInteger) << 32).second)
+            if (!seen.insert(bits | quint64(isInteger(row)) << 32).second)
                 continue;
-            const QString text = wordText(bits, isInteger);
+            const QString text = wordText(bits, row);
             if (text.size() > longest.size())
                 longest = text;
         }
@@ -98,7 +85,7 @@ QVariant RecordTableModel::data(const QModelIndex& index, int role) const
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignRight | Qt::AlignVCenter);
     if (role == Qt::DisplayRole && index.isValid())
-        return wordText(word(index.column(), index.row()), index.row() < IntegerWords);
+        return wordText(word(index.column(), index.row()), index.row());
     return {};
 }
 
@@ -114,9 +101,9 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
 }
 
 /// Nine digits tell every single precision number from its neighbours.
-QString RecordTableModel::wordText(quint32 word, bool isInteger)
+QString RecordTableModel::wordText(quint32 word, int row)
 {
-    if (isInteger)
+    if (isInteger(row))
         return QString::number(qint32(word));
     float number = 0;
     static_assert(sizeof number == sizeof word);

@@ -31,7 +31,7 @@ public:
 private:
     using Record = std::array<char, sizeof(tagZOB_QUAD_RIM)>;
 
-    static QString wordText(quint32 word, bool isInteger);
+    static QString wordText(quint32 word, int row);
     quint32 word(int record, int row) const;
 
     std::vector<Record> m_records;

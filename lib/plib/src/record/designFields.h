@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tagZOB_QUAD_RIM.h>
+#include <tagZOB_QUAD_RIM_Words.h>
 
 #include <QString>
 
@@ -33,19 +33,13 @@ constexpr SixFields Stresses{&R::sigo, &R::sigoq, &R::sigoi, &R::sigu, &R::siguq
 /// Returns the dimension code of a real field, -1 for reserved fields.
 int dimensionCode(RealField field);
 
-/// A real or integer field with its name on the command line.
-struct NamedField
-{
-    const char* name;
-    RealField real;
-    std::int32_t tagZOB_QUAD_RIM::*integer; ///< null for a real field
-};
+using NamedField = vkd::plib::designparameter::RecordWord;
 
-/// Returns the named fields in the order of the record. `group`, `subId` and the reserved words are
-/// not included, because they are not parameters.
+/// Returns the fields that are parameters, in the order of the record. `group`, `subId` and the
+/// reserved words are not included.
 const std::vector<NamedField>& namedFields();
 
-/// Returns the field with this name, or nothing.
+/// Returns the parameter with this name, or nothing.
 std::optional<NamedField> fieldByName(const QString& name);
 
 } // namespace plib

@@ -10,9 +10,10 @@ namespace {
 constexpr double DegreesPerRadian = 57.295779513082320877;
 
 constexpr VkdDimension Dimensions[] = {
-    {5, DegreesPerRadian, "°", 1}, {1001, 1.0, "m", 3},     {1021, 1.0, "cm²/m", 2},
-    {1023, 1.0, "mm", 0},          {1024, 1000.0, "mm", 1}, {1026, 1.0, "mm", 2},
-    {1092, 1.0, "N/mm²", 1},
+    {5, "rad", DegreesPerRadian, "°", 1}, {1001, "m", 1.0, "m", 3},
+    {1021, "cm²/m", 1.0, "cm²/m", 2},     {1023, "mm", 1.0, "mm", 0},
+    {1024, "m", 1000.0, "mm", 1},         {1026, "mm", 1.0, "mm", 2},
+    {1092, "N/mm²", 1.0, "N/mm²", 1},
 };
 
 constexpr int DirectionCode = 5;
@@ -33,7 +34,7 @@ VkdDimension vkd_h_dimension(int code)
     for (const VkdDimension& dimension : Dimensions)
         if (dimension.code == code)
             return dimension;
-    return {code, 1.0, "", -1};
+    return {code, "", 1.0, "", -1};
 }
 
 VkdPlausibleRange vkd_h_plausibleRange(int code, VkdDirections directions)
