@@ -57,7 +57,7 @@ private Q_SLOTS:
     {
         writeFile(path("bad.zob"), "no project");
         MainWindow window;
-        window.openBehindPainting(path("bad.zob"));
+        window.openAfterPainting(path("bad.zob"));
         PaintWatch watch;
         window.installEventFilter(&watch);
         bool isTold = false, wasPainted = false;

@@ -1,5 +1,6 @@
 #include "Monkey.h"
 #include "ProjectTest.h"
+#include "window/main/FileCommands.h"
 #include "window/output/OutputDialog.h"
 #include "window/textoutput/TextOutputDialog.h"
 
@@ -51,8 +52,9 @@ public:
         wasAsked = wasAsked || isQuestion;
         wasSaved = wasSaved || (isQuestion && result == QMessageBox::Save);
         wasKept = wasKept || (isQuestion && result == QMessageBox::Cancel);
-        const bool isSavedAs = files && result == QDialog::Accepted &&
-                               files->windowTitle() == MainWindow::tr("Save Project As");
+        const bool isSavedAs =
+            files && result == QDialog::Accepted &&
+            files->windowTitle() == workbench::FileCommands::tr("Save Project As");
         const bool isDone = !box && !files && result == QDialog::Accepted;
         wasSavedAs = wasSavedAs || isSavedAs;
         wasGivenUp = wasGivenUp || (!box && !files && result == QDialog::Rejected);

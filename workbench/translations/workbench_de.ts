@@ -342,22 +342,6 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
 <context>
     <name>workbench::MainWindow</name>
     <message>
-        <source>Model</source>
-        <translation>Modell</translation>
-    </message>
-    <message>
-        <source>Groups</source>
-        <translation>Gruppen</translation>
-    </message>
-    <message>
-        <source>Script</source>
-        <translation>Skript</translation>
-    </message>
-    <message>
-        <source>Records</source>
-        <translation>Datensätze</translation>
-    </message>
-    <message>
         <source>Workbench</source>
         <translation>Workbench</translation>
     </message>
@@ -370,230 +354,12 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Gruppen: %1, Lastfälle: %2</translation>
     </message>
     <message>
-        <source>The design parameters stay as they were.</source>
-        <translation>Die Bemessungsparameter bleiben, wie sie waren.</translation>
-    </message>
-    <message>
-        <source>The design parameters are in the project file.</source>
-        <translation>Die Bemessungsparameter stehen in der Projektdatei.</translation>
-    </message>
-    <message>
-        <source>The design parameters cannot be stored in the file %1.</source>
-        <translation>Die Bemessungsparameter können nicht in der Datei %1 gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>Pick groups in the view, or by Enter in the list of groups.</source>
-        <translation>Gruppen in der Ansicht wählen oder mit der Eingabetaste in der Liste der Gruppen.</translation>
-    </message>
-    <message>
-        <source>The choice of plots is again that of the project.</source>
-        <translation>Die Auswahl der Grafiken ist wieder die des Projekts.</translation>
-    </message>
-    <message>
-        <source>The choice of plots cannot be stored in the file %1.</source>
-        <translation>Die Auswahl der Grafiken kann nicht in der Datei %1 gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>The picked groups cannot be stored in the file %1.</source>
-        <translation>Die gewählten Gruppen können nicht in der Datei %1 gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>The choice of plots is in the project file.</source>
-        <translation>Die Auswahl der Grafiken steht in der Projektdatei.</translation>
-    </message>
-    <message>
-        <source>The script is on the clipboard.</source>
-        <translation>Das Skript liegt in der Zwischenablage.</translation>
-    </message>
-    <message>
-        <source>Save Script</source>
-        <translation>Skript speichern</translation>
-    </message>
-    <message>
-        <source>Scripts (*.dat)</source>
-        <translation>Skripte (*.dat)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>The script is saved in %1.</source>
-        <translation>Das Skript ist in %1 gespeichert.</translation>
-    </message>
-    <message>
         <source>The language is now English.</source>
         <translation>Die Sprache ist jetzt Deutsch.</translation>
     </message>
     <message>
-        <source>The help is not installed.</source>
-        <translation>Die Hilfe ist nicht installiert.</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Über</translation>
-    </message>
-    <message>
-        <source>Workbench %1
-
-Hosts the pages for design parameters and graphical output on projects of their own.</source>
-        <translation>Workbench %1
-
-Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Projekten bereit.</translation>
-    </message>
-    <message>
-        <source>Model for a New Project</source>
-        <translation>Modell für ein neues Projekt</translation>
-    </message>
-    <message>
-        <source>Models (*.json)</source>
-        <translation>Modelle (*.json)</translation>
-    </message>
-    <message>
-        <source>New Project</source>
-        <translation>Neues Projekt</translation>
-    </message>
-    <message>
-        <source>Projects (*.zob)</source>
-        <translation>Projekte (*.zob)</translation>
-    </message>
-    <message>
-        <source>The project cannot be made.
-%1</source>
-        <translation>Das Projekt kann nicht angelegt werden.
-%1</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written.</source>
-        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>Open Project</source>
-        <translation>Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>%1 is open.</source>
-        <translation>%1 ist geöffnet.</translation>
-    </message>
-    <message>
-        <source>Save Project As</source>
-        <translation>Projekt speichern unter</translation>
-    </message>
-    <message>
-        <source>The project cannot be saved in the file %1.</source>
-        <translation>Das Projekt kann nicht in der Datei %1 gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be opened.</source>
-        <translation>Die Datei %1 kann nicht geöffnet werden.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>Not all of the file %1 could be read.
-What is shown may lack something.</source>
-        <translation>Die Datei %1 konnte nicht vollständig gelesen werden.
-In der Anzeige fehlt möglicherweise etwas.</translation>
-    </message>
-    <message>
-        <source>The project is being made.</source>
-        <translation>Das Projekt wird angelegt.</translation>
-    </message>
-    <message>
-        <source>The project is being opened.</source>
-        <translation>Das Projekt wird geöffnet.</translation>
-    </message>
-    <message>
-        <source>The model is being read.</source>
-        <translation>Das Modell wird gelesen.</translation>
-    </message>
-    <message>
-        <source>Cancelled.</source>
-        <translation>Abgebrochen.</translation>
-    </message>
-    <message>
-        <source>The project is saved as %1.</source>
-        <translation>Das Projekt ist als %1 gespeichert.</translation>
-    </message>
-    <message>
-        <source>The choice of plots is changed and not yet in the project.
-Is it to be stored?</source>
-        <translation>Die Auswahl der Grafiken ist geändert und steht noch nicht im Projekt.
-Soll sie gespeichert werden?</translation>
-    </message>
-    <message>
         <source>Finish picking groups first, with Done or Cancel.</source>
         <translation>Zuerst die Wahl der Gruppen mit Fertig oder Abbrechen beenden.</translation>
-    </message>
-    <message>
-        <source>The text output stays as it was.</source>
-        <translation>Die Textausgabe bleibt, wie sie war.</translation>
-    </message>
-    <message>
-        <source>The text output cannot be stored in the file %1.</source>
-        <translation>Die Textausgabe kann nicht in der Datei %1 gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>The text output is in the project file.</source>
-        <translation>Die Textausgabe steht in der Projektdatei.</translation>
-    </message>
-    <message>
-        <source>The text output is changed and not yet in the project.
-Is it to be stored?</source>
-        <translation>Die Textausgabe ist geändert und steht noch nicht im Projekt.
-Soll sie gespeichert werden?</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Blatt</translation>
-    </message>
-    <message>
-        <source>Panels</source>
-        <translation>Bereiche</translation>
-    </message>
-    <message>
-        <source>Export Sheets</source>
-        <translation>Blätter exportieren</translation>
-    </message>
-    <message>
-        <source>PDF files (*.pdf)</source>
-        <translation>PDF-Dateien (*.pdf)</translation>
-    </message>
-    <message>
-        <source>The sheets are saved in %1.</source>
-        <translation>Die Blätter sind in %1 gespeichert.</translation>
-    </message>
-    <message>
-        <source>No sheet was saved.</source>
-        <translation>Es wurde kein Blatt gespeichert.</translation>
-    </message>
-    <message>
-        <source>1 row without groups is kept with the page.</source>
-        <translation>1 Zeile ohne Gruppen bleibt mit der Seite erhalten.</translation>
-    </message>
-    <message>
-        <source>%1 rows without groups are kept with the page.</source>
-        <translation>%1 Zeilen ohne Gruppen bleiben mit der Seite erhalten.</translation>
-    </message>
-    <message>
-        <source>%1 is reloaded.</source>
-        <translation>%1 ist neu geladen.</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project As...</source>
-        <translation>Projekt &amp;speichern unter ...</translation>
-    </message>
-    <message>
-        <source>&amp;Go Back</source>
-        <translation>&amp;Zurück</translation>
-    </message>
-    <message>
-        <source>The project file was deleted or moved.
-Is the open project to be saved under another name?</source>
-        <translation>Die Projektdatei wurde gelöscht oder verschoben.
-Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</translation>
     </message>
 </context>
 <context>
@@ -1110,6 +876,291 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
     <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::DesignEditor</name>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The design parameters stay as they were.</source>
+        <translation>Die Bemessungsparameter bleiben, wie sie waren.</translation>
+    </message>
+    <message>
+        <source>The design parameters cannot be stored in the file %1.</source>
+        <translation>Die Bemessungsparameter können nicht in der Datei %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The design parameters are in the project file.</source>
+        <translation>Die Bemessungsparameter stehen in der Projektdatei.</translation>
+    </message>
+    <message>
+        <source>1 row without groups is kept with the page.</source>
+        <translation>1 Zeile ohne Gruppen bleibt mit der Seite erhalten.</translation>
+    </message>
+    <message>
+        <source>%1 rows without groups are kept with the page.</source>
+        <translation>%1 Zeilen ohne Gruppen bleiben mit der Seite erhalten.</translation>
+    </message>
+    <message>
+        <source>Workbench</source>
+        <translation>Workbench</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project As...</source>
+        <translation>Projekt &amp;speichern unter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Pick groups in the view, or by Enter in the list of groups.</source>
+        <translation>Gruppen in der Ansicht wählen oder mit der Eingabetaste in der Liste der Gruppen.</translation>
+    </message>
+    <message>
+        <source>The picked groups cannot be stored in the file %1.</source>
+        <translation>Die gewählten Gruppen können nicht in der Datei %1 gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FileCommands</name>
+    <message>
+        <source>Model for a New Project</source>
+        <translation>Modell für ein neues Projekt</translation>
+    </message>
+    <message>
+        <source>Models (*.json)</source>
+        <translation>Modelle (*.json)</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Projects (*.zob)</source>
+        <translation>Projekte (*.zob)</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The project is being made.</source>
+        <translation>Das Projekt wird angelegt.</translation>
+    </message>
+    <message>
+        <source>The project cannot be made.
+%1</source>
+        <translation>Das Projekt kann nicht angelegt werden.
+%1</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The project is being opened.</source>
+        <translation>Das Projekt wird geöffnet.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be opened.</source>
+        <translation>Die Datei %1 kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>The model is being read.</source>
+        <translation>Das Modell wird gelesen.</translation>
+    </message>
+    <message>
+        <source>Not all of the file %1 could be read.
+What is shown may lack something.</source>
+        <translation>Die Datei %1 konnte nicht vollständig gelesen werden.
+In der Anzeige fehlt möglicherweise etwas.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 is reloaded.</source>
+        <translation>%1 ist neu geladen.</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Projekt speichern unter</translation>
+    </message>
+    <message>
+        <source>The project cannot be saved in the file %1.</source>
+        <translation>Das Projekt kann nicht in der Datei %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The project is saved as %1.</source>
+        <translation>Das Projekt ist als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The project file was deleted or moved.
+Is the open project to be saved under another name?</source>
+        <translation>Die Projektdatei wurde gelöscht oder verschoben.
+Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::OutputEditor</name>
+    <message>
+        <source>The choice of plots is again that of the project.</source>
+        <translation>Die Auswahl der Grafiken ist wieder die des Projekts.</translation>
+    </message>
+    <message>
+        <source>The choice of plots cannot be stored in the file %1.</source>
+        <translation>Die Auswahl der Grafiken kann nicht in der Datei %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The choice of plots is in the project file.</source>
+        <translation>Die Auswahl der Grafiken steht in der Projektdatei.</translation>
+    </message>
+    <message>
+        <source>The choice of plots is changed and not yet in the project.
+Is it to be stored?</source>
+        <translation>Die Auswahl der Grafiken ist geändert und steht noch nicht im Projekt.
+Soll sie gespeichert werden?</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::OutputScript</name>
+    <message>
+        <source>The script is on the clipboard.</source>
+        <translation>Das Skript liegt in der Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Skript speichern</translation>
+    </message>
+    <message>
+        <source>Scripts (*.dat)</source>
+        <translation>Skripte (*.dat)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The script is saved in %1.</source>
+        <translation>Das Skript ist in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Export Sheets</source>
+        <translation>Blätter exportieren</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The sheets are saved in %1.</source>
+        <translation>Die Blätter sind in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>No sheet was saved.</source>
+        <translation>Es wurde kein Blatt gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ProjectAccess</name>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::TextOutputEditor</name>
+    <message>
+        <source>The text output stays as it was.</source>
+        <translation>Die Textausgabe bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>The text output cannot be stored in the file %1.</source>
+        <translation>Die Textausgabe kann nicht in der Datei %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The text output is in the project file.</source>
+        <translation>Die Textausgabe steht in der Projektdatei.</translation>
+    </message>
+    <message>
+        <source>The text output is changed and not yet in the project.
+Is it to be stored?</source>
+        <translation>Die Textausgabe ist geändert und steht noch nicht im Projekt.
+Soll sie gespeichert werden?</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WindowHelp</name>
+    <message>
+        <source>The help is not installed.</source>
+        <translation>Die Hilfe ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Workbench %1
+
+Hosts the pages for design parameters and graphical output on projects of their own.</source>
+        <translation>Workbench %1
+
+Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Projekten bereit.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WindowMessages</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Workbench</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WindowPanes</name>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>Bereiche</translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include <utility>
+
 namespace workbench {
 
 ChangeBar::ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent)
@@ -35,13 +37,23 @@ ChangeBar::ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent)
     setTexts();
 }
 
-void ChangeBar::showNews(ProjectWatch::File file)
+void ChangeBar::report(bool isChanged, ProjectWatch::File file)
 {
-    m_file = file;
+    const bool isFileNews = std::exchange(m_file, file) != file;
+    const bool isPresent = file == ProjectWatch::File::Present;
     m_reload->setVisible(file != ProjectWatch::File::Missing);
-    m_saveAs->setVisible(file != ProjectWatch::File::Present);
+    m_saveAs->setVisible(!isPresent);
     setTexts();
-    show();
+    if (isChanged || (isFileNews && !isPresent))
+        show();
+    else if (isFileNews)
+        hide();
+}
+
+void ChangeBar::reset()
+{
+    m_file = ProjectWatch::File::Present;
+    hide();
 }
 
 void ChangeBar::changeEvent(QEvent* event)

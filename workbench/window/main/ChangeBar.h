@@ -19,7 +19,11 @@ class ChangeBar : public QFrame
 public:
     ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent);
 
-    void showNews(ProjectWatch::File file);
+    /// Shows the bar if `isChanged` or if the file has got lost since the last report; hides it if
+    /// the file is present again.
+    void report(bool isChanged, ProjectWatch::File file);
+    /// Hides the bar, for another project.
+    void reset();
 
 protected:
     void changeEvent(QEvent* event) override;

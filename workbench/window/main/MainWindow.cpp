@@ -1,128 +1,74 @@
 #include "window/main/MainWindow.h"
 
-#include "cli/PlatformLog.h"
-#include "project/ProjectWatch.h"
 #include "sheet/SheetPreview.h"
-#include "window/design/DesignDialog.h"
-#include "window/design/PickBanner.h"
+#include "window/design/DesignEditor.h"
 #include "window/main/ChangeBar.h"
-#include "window/main/DockShares.h"
+#include "window/main/FileCommands.h"
 #include "window/main/GroupList.h"
 #include "window/main/WindowActions.h"
+#include "window/main/WindowHelp.h"
+#include "window/main/WindowPanes.h"
 #include "window/output/OutputDialog.h"
-#include "window/output/ScriptPane.h"
-#include "window/support/askAboutNewer.h"
-#include "window/support/HelpKey.h"
-#include "window/support/projectTrouble.h"
-#include "window/support/waitForStore.h"
+#include "window/output/OutputEditor.h"
+#include "window/output/OutputScript.h"
+#include "window/records/RecordsPane.h"
+#include "window/support/FileDrop.h"
+#include "window/support/SlowWork.h"
 #include "window/support/WindowSettings.h"
 #include "window/support/withinScreen.h"
-#include "window/textoutput/TextOutputDialog.h"
+#include "window/textoutput/TextOutputEditor.h"
 
 #include <AnimatorView.h>
 #include <vkd_dbo_model.h>
-#include <VKD_H_ZOBDoc.h>
-#include <VKD_QT_MessageBox.h>
-#include <ZobSnapshot.h>
+#include <vkd_lib_value.h>
+#include <VKD_QT_InitTranslator.h>
 
 #include <QAction>
-#include <QDir>
-#include <QDockWidget>
-#include <QEvent>
+#include <QApplication>
+#include <QCloseEvent>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMenu>
 #include <QStatusBar>
-#include <QTabBar>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace workbench {
 
-namespace {
-constexpr int StateVersion = 1;
-const QString GeometryKey = QStringLiteral("geometry");
-const QString StateKey = QStringLiteral("state");
-} // namespace
-
-MainWindow::MainWindow(MakeProject makeProject, QWidget* parent)
+MainWindow::MainWindow(const MakeProject& makeProject, QWidget* parent)
     : QMainWindow(parent)
-    , m_makeProject(std::move(makeProject))
     , m_actions(new WindowActions(this))
-    , m_groups(new GroupList(this))
-    , m_news(new ChangeBar(m_actions->reload, m_actions->saveAs, this))
-    , m_banner(new PickBanner(this))
-    , m_view(new AnimatorView(0, this))
-    , m_script(new ScriptPane(m_actions->copyScript, m_actions->saveScript, this))
-    , m_sheet(new SheetPreview(m_actions->exportSheets, this))
     , m_contents(new QLabel(this))
-    , m_watch(new ProjectWatch(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
-    setAcceptDrops(true);
     resizeWithinScreen(this, {1280, 800});
-    addCentre();
-    addDocks();
+    m_panes = new WindowPanes(*m_actions, this);
     statusBar()->addPermanentWidget(m_contents);
+    createEditors(makeProject);
     connectActions();
     connectPanes();
-    connectHelp();
+    connectProject();
+    new WindowHelp(&m_messages, *m_actions);
     setTexts();
-    const WindowSettings settings;
-    m_script->setEnglish(settings.englishKeywords());
-    m_actions->setRecentFiles(settings.recentFiles());
     enableActions();
-    showNoScript();
-    restoreGeometry(settings.value(GeometryKey).toByteArray());
-    restoreState(settings.value(StateKey).toByteArray(), StateVersion);
+    m_outputScript->clear();
+    m_panes->restoreGeometry();
 }
 
-/// The docks tell of being hidden once more when the parts of the window have gone.
-MainWindow::~MainWindow()
-{
-    m_sheetDock->disconnect(this);
-}
+MainWindow::~MainWindow() = default;
 
-void MainWindow::addCentre()
+void MainWindow::createEditors(const MakeProject& makeProject)
 {
-    auto centre = new QWidget(this);
-    auto layout = new QVBoxLayout(centre);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_news);
-    layout->addWidget(m_banner);
-    layout->addWidget(m_view, 1);
-    m_news->hide();
-    m_banner->hide();
-    setCentralWidget(centre);
-}
-
-void MainWindow::addDocks()
-{
-    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    m_groupDock = addDock(Qt::LeftDockWidgetArea, m_groups, "GroupDock");
-    m_scriptDock = addDock(Qt::RightDockWidgetArea, m_script, "ScriptDock");
-    m_sheetDock = addDock(Qt::RightDockWidgetArea, m_sheet, "SheetDock");
-    tabifyDockWidget(m_scriptDock, m_sheetDock);
-    m_scriptDock->raise();
-    m_recordDock = addDock(Qt::BottomDockWidgetArea, nullptr, "RecordDock");
-    const int letter = fontMetrics().averageCharWidth();
-    resizeDocks({m_groupDock, m_scriptDock},
-                {qMin(45 * letter, width() / 4), qMin(60 * letter, width() / 3)}, Qt::Horizontal);
-    resizeDocks({m_recordDock}, {10 * fontMetrics().height()}, Qt::Vertical);
-    auto shares = new DockShares(this); // the list of groups needs no more room than it has
-    shares->add({m_scriptDock, m_sheetDock}, Qt::Horizontal);
-    shares->add({m_recordDock}, Qt::Vertical);
-}
-
-QDockWidget* MainWindow::addDock(Qt::DockWidgetArea area, QWidget* widget, const char* name)
-{
-    auto dock = new QDockWidget(this);
-    dock->setObjectName(QLatin1String(name));
-    if (widget)
-        dock->setWidget(widget);
-    addDockWidget(area, dock);
-    m_actions->viewMenu->addAction(dock->toggleViewAction());
-    return dock;
+    const QList<QAction*> actions = m_actions->besideDialogs();
+    m_designEditor = std::make_unique<DesignEditor>(&m_project, &m_access, &m_messages,
+                                                    m_panes->view, m_panes->banner);
+    m_outputEditor = std::make_unique<OutputEditor>(&m_project, &m_access, &m_messages, actions);
+    m_outputScript = std::make_unique<OutputScript>(&m_project, m_outputEditor.get(), &m_messages,
+                                                    m_panes->script, m_panes->sheets);
+    m_textOutputEditor =
+        std::make_unique<TextOutputEditor>(&m_project, &m_access, &m_messages, actions);
+    const ProjectParts parts{&m_project,           &m_messages,          m_panes->view,
+                             m_outputEditor.get(), m_outputScript.get(), m_textOutputEditor.get()};
+    m_files = std::make_unique<FileCommands>(parts, makeProject, m_actions);
+    m_designEditor->setSaveAs([this] { return m_files->saveAs(); });
 }
 
 void MainWindow::connectActions()
@@ -130,67 +76,63 @@ void MainWindow::connectActions()
     const auto on = [this](const QAction* action, auto slot) {
         connect(action, &QAction::triggered, this, slot);
     };
-    for (const QAction* sample : qAsConst(m_actions->newFromSample))
-        on(sample, [this, sample] { newProject(sample->data().toString()); });
     for (const QAction* view : qAsConst(m_actions->views))
         on(view, [this, view] {
-            m_view->slotViewControl(AnimatorViewControl(view->data().toInt()), 0.0);
+            m_panes->view->slotViewControl(AnimatorViewControl(view->data().toInt()), 0.0);
         });
-    on(m_actions->newFromFile, &MainWindow::chooseModel);
-    on(m_actions->open, &MainWindow::chooseProject);
-    on(m_actions->reload, &MainWindow::reload);
-    on(m_actions->saveAs, &MainWindow::saveAs);
-    on(m_actions->copyScript, &MainWindow::copyScript);
-    on(m_actions->saveScript, &MainWindow::saveScript);
-    on(m_actions->exportSheets, &MainWindow::exportSheet);
+    on(m_actions->copyScript, [this] { m_outputScript->copy(); });
+    on(m_actions->saveScript, [this] { m_outputScript->save(); });
+    on(m_actions->exportSheets, [this] { m_outputScript->exportSheets(); });
     on(m_actions->quit, &MainWindow::close);
-    on(m_actions->design, &MainWindow::editDesign);
+    on(m_actions->design, [this] { m_designEditor->edit(); });
     on(m_actions->output, &MainWindow::showOutput);
-    on(m_actions->textOutput, &MainWindow::showTextOutput);
-    on(m_actions->sheet, &MainWindow::showSheet);
+    on(m_actions->textOutput, [this] { m_textOutputEditor->show(); });
+    on(m_actions->sheet, [this] { m_panes->showSheets(); });
     on(m_actions->german, [this] { setLanguage(0); });
     on(m_actions->english, [this] { setLanguage(1); });
-    on(m_actions->about, &MainWindow::showAbout);
-    connect(m_actions->recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
-        const QString path = file->data().toString(); // the menu is made anew meanwhile
-        if (mayLeaveProject())
-            openProject(path);
-    });
 }
 
 void MainWindow::connectPanes()
 {
-    connect(m_groups, &GroupList::groupPointed, m_view, &AnimatorView::setHighlightedGroup);
-    connect(m_groups, &GroupList::groupChosen, this, &MainWindow::chooseGroup);
-    m_view->setHovering(true);
-    connect(m_view, &AnimatorView::groupHovered, m_groups, &GroupList::setMarkedGroup);
-    connect(m_view, &AnimatorView::pickedGroupsChanged, this, &MainWindow::showPicked);
-    connect(m_banner, &PickBanner::done, this, &MainWindow::takePicked);
-    connect(m_banner, &PickBanner::cancelled, this, [this] {
-        stopPicking();
-        runDesign();
+    connect(m_panes->groups, &GroupList::groupPointed, m_panes->view,
+            &AnimatorView::setHighlightedGroup);
+    connect(m_panes->groups, &GroupList::groupChosen, m_designEditor.get(), &DesignEditor::pick);
+    connect(m_panes->view, &AnimatorView::groupHovered, m_panes->groups,
+            &GroupList::setMarkedGroup);
+    connect(m_designEditor.get(), &DesignEditor::pickingChanged, this, [this](bool isPicking) {
+        if (!isPicking)
+            m_panes->groups->setMarkedGroup(AnimatorView::NoGroup);
+        enableActions();
     });
-    connect(m_script, &ScriptPane::languageChosen, this, &MainWindow::setKeywords);
-    connect(m_watch, &ProjectWatch::noticed, this, &MainWindow::showNews);
-    // Behind another dock it still counts as visible to Qt, and is none the less not to be seen.
-    connect(m_sheetDock, &QDockWidget::visibilityChanged, this, [this](bool seen) {
-        m_isSheetSeen = seen;
-        refreshSheet();
+    connect(m_panes, &WindowPanes::sheetsVisibleChanged, m_outputScript.get(),
+            &OutputScript::setSheetsVisible);
+    auto drop = new FileDrop(this, [this] { return !m_designEditor->isActive(); });
+    connect(drop, &FileDrop::dropped, m_files.get(), &FileCommands::openDropped);
+}
+
+void MainWindow::connectProject()
+{
+    connect(&m_project, &OpenProject::changedOutside, this, &MainWindow::showNews);
+    connect(m_files.get(), &FileCommands::replaced, this, &MainWindow::showReplaced);
+    connect(m_files.get(), &FileCommands::opened, this, &MainWindow::showProject);
+    connect(m_designEditor.get(), &DesignEditor::stored, this, &MainWindow::showRecords);
+    connect(m_outputEditor.get(), &OutputEditor::modified, this, &MainWindow::showModified);
+    connect(m_outputEditor.get(), &OutputEditor::refused, this, &MainWindow::showOutput);
+    connect(m_textOutputEditor.get(), &TextOutputEditor::modified, this, &MainWindow::showModified);
+    connect(m_outputScript.get(), &OutputScript::refreshed, this, [this](bool isEmpty) {
+        showModified();
+        m_actions->setHasScript(!isEmpty);
     });
 }
 
-void MainWindow::connectHelp()
+bool MainWindow::openProject(const QString& path)
 {
-    setHelpTopic(this, "MERDAN/PARA");
-    setHelpTopic(m_scriptDock, "GRAV/SCRIPT");
-    setHelpTopic(m_sheetDock, "GRAV/SHEET");
-    const auto help = [this](QWidget* caller) { showHelp(helpTopic(caller), caller); };
-    connect(new HelpKey(this), &HelpKey::helpWanted, this, help);
-    connect(m_actions->help, &QAction::triggered, this,
-            [this, help] { help(focusWidget() ? focusWidget() : this); });
-    for (const QAction* book : qAsConst(m_actions->books))
-        connect(book, &QAction::triggered, this,
-                [this, book] { showHelp(book->data().toString(), this); });
+    return m_files->open(path);
+}
+
+void MainWindow::openAfterPainting(const QString& path)
+{
+    m_files->openAfterPainting(path);
 }
 
 void MainWindow::changeEvent(QEvent* event)
@@ -199,143 +141,143 @@ void MainWindow::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange)
         setTexts();
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        m_watch->look();
-        QTimer::singleShot(0, this, &MainWindow::showNews); // what a dialog was in the way of
+        m_project.check();
+        QTimer::singleShot(0, this, &MainWindow::showNews); // which a modal dialog has delayed
     }
 }
 
-/// Docks that lie on each other get a bar of tabs whenever there is none as yet.
-void MainWindow::childEvent(QChildEvent* event)
+void MainWindow::closeEvent(QCloseEvent* event)
 {
-    QMainWindow::childEvent(event);
-    if (event->type() == QEvent::ChildPolished && qobject_cast<QTabBar*>(event->child()))
-        nameTabBars();
+    if (m_designEditor->isActive()) {
+        m_messages.say(tr("Finish picking groups first, with Done or Cancel."));
+        return event->ignore();
+    }
+    if (!m_files->mayLeave())
+        return event->ignore();
+    m_outputEditor->close();
+    m_textOutputEditor->close();
+    m_panes->saveGeometry();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    m_files->painted();
 }
 
 void MainWindow::setTexts()
 {
     m_actions->setTexts();
-    m_view->setAccessibleName(tr("Model"));
-    m_groupDock->setWindowTitle(tr("Groups"));
-    m_scriptDock->setWindowTitle(tr("Script"));
-    m_sheetDock->setWindowTitle(tr("Sheet"));
-    m_recordDock->setWindowTitle(tr("Records"));
-    nameTabBars();
+    m_panes->setTexts();
     setTitle();
     showContents();
-}
-
-void MainWindow::nameTabBars()
-{
-    for (auto bar : findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly))
-        bar->setAccessibleName(tr("Panels"));
 }
 
 void MainWindow::setTitle()
 {
     const QString program = tr("Workbench");
-    setWindowTitle(
-        m_document
-            ? QStringLiteral("%1[*] - %2").arg(QFileInfo(m_document->path()).fileName(), program)
-            : program);
-}
-
-void MainWindow::showContents()
-{
-    m_contents->setText(m_document ? tr("Groups: %1, load cases: %2")
-                                         .arg(m_groups->topLevelItemCount())
-                                         .arg(vkd::dbo::readLoadCases(index()).size())
-                                   : tr("No project"));
-}
-
-void MainWindow::say(const QString& text)
-{
-    statusBar()->showMessage(text);
-}
-
-void MainWindow::complain(const QString& text)
-{
-    PlatformLog::take(); // the message says it already
-    say(text.section(QLatin1Char('\n'), 0, 0));
-    VKD_QT_MessageBox::warning(this, tr("Workbench"), text);
-}
-
-void MainWindow::complainOfWriting(const QString& path, const QString& reason)
-{
-    const QString sentence = tr("The file %1 cannot be written.");
-    complain(sentence.arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') + reason);
-}
-
-bool MainWindow::succeeds(cd_error_t status, const QString& path, const QString& sentence)
-{
-    if (status == VKD_ZOB_CANCELLED)
-        say(tr("Cancelled."));
-    else if (status != VKD_ZOB_OK)
-        complain(sentence.arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') +
-                 projectReason(path, status));
-    return status == VKD_ZOB_OK;
-}
-
-bool MainWindow::withProject(const std::function<cd_error_t()>& work, const QString& sentence)
-{
-    const QString path = m_document->path();
-    return succeeds(waitForStore(this, path, work), path, sentence);
-}
-
-MainWindow::Stored MainWindow::storePart(const std::function<cd_error_t(SeenPart::Newer)>& store,
-                                         const QString& sentence)
-{
-    const QString path = m_document->path();
-    cd_error_t status = waitForStore(this, path, [&store] { return store(SeenPart::Newer::Keep); });
-    if (status == PartChanged) {
-        switch (askAboutNewer(this)) {
-        case NewerAnswer::Reload: return Stored::Reload;
-        case NewerAnswer::GoBack: return Stored::No;
-        case NewerAnswer::Overwrite:
-            status =
-                waitForStore(this, path, [&store] { return store(SeenPart::Newer::Overwrite); });
-        }
-    }
-    return succeeds(status, path, sentence) ? Stored::Yes : Stored::No;
-}
-
-bool MainWindow::mayLeave(const QString& question, const std::function<bool()>& store)
-{
-    const int answer =
-        VKD_QT_MessageBox::warning(this, tr("Workbench"), question, QMessageBox::Save,
-                                   QMessageBox::Discard, QMessageBox::Cancel);
-    return answer == QMessageBox::Save ? store() : answer == QMessageBox::Discard;
-}
-
-/// Whether all that the window reads next can be read: asked once, because each of many readings
-/// would wait for another program on its own.
-bool MainWindow::canRead()
-{
-    return withProject([this] { return ZobSnapshot(index()).status().code; },
-                       tr("The file %1 cannot be read."));
+    const QString file = QFileInfo(m_project.path()).fileName();
+    setWindowTitle(m_project.isOpen() ? QStringLiteral("%1[*] - %2").arg(file, program) : program);
 }
 
 void MainWindow::enableActions()
 {
-    m_actions->enable(bool(m_document), m_view->isPicking(),
-                      m_watch->file() == ProjectWatch::File::Missing);
+    m_actions->enable(m_project.isOpen(), m_panes->view->isPicking(),
+                      m_project.file() == ProjectWatch::File::Missing);
 }
 
-void MainWindow::saveWindowState() const
+void MainWindow::showReplaced()
 {
-    WindowSettings settings;
-    settings.setValue(GeometryKey, saveGeometry());
-    settings.setValue(StateKey, saveState(StateVersion));
+    m_panes->news->reset();
+    enableActions();
+    setWindowModified(false);
+    setTitle();
+    if (!m_project.isOpen())
+        showContents();
 }
 
-int MainWindow::index() const
+/// Shows all but the model. The script comes last, since its page takes longest.
+void MainWindow::showProject()
 {
-    return m_document ? m_document->index() : 0;
+    const WaitCursor cursor;
+    m_panes->groups->setProject(m_project.index());
+    m_designEditor->setGroupsWithoutAreas(m_panes->groups->groupsWithoutAreas());
+    showRecords();
+    m_outputScript->clear();
+    m_panes->sheets->setProject(m_project.index(), m_project.name());
+    showContents();
+    QTimer::singleShot(0, m_outputScript.get(), &OutputScript::refresh);
 }
 
-QString MainWindow::folder() const
+void MainWindow::showContents()
 {
-    return m_document ? QFileInfo(m_document->path()).absolutePath() : QDir::currentPath();
+    m_contents->setText(m_project.isOpen()
+                            ? tr("Groups: %1, load cases: %2")
+                                  .arg(m_panes->groups->topLevelItemCount())
+                                  .arg(vkd::dbo::readLoadCases(m_project.index()).size())
+                            : tr("No project"));
+}
+
+void MainWindow::showRecords()
+{
+    if (m_access.canRead()) // otherwise the previous records stay
+        m_panes->records()->setProject(m_project.index());
+}
+
+/// Does nothing while a modal dialog is open, which may be using what would change here. The window
+/// calls it again when it becomes active.
+void MainWindow::showNews()
+{
+    if (!m_project.isOpen() || QApplication::activeModalWidget())
+        return;
+    enableActions();
+    const bool isChanged = m_project.isChangedByOthers();
+    if (isChanged)
+        followOthers();
+    m_panes->news->report(isChanged, m_project.file());
+}
+
+/// Reloads records and script, but no choice that the user sees or has changed. The rest follows
+/// with the action Reload.
+void MainWindow::followOthers()
+{
+    if (m_project.readStatus() != VKD_ZOB_OK)
+        return;
+    m_project.markFollowed();
+    showRecords();
+    if (m_outputEditor->followOthers())
+        m_outputScript->refresh();
+}
+
+void MainWindow::showModified()
+{
+    setWindowModified(m_outputEditor->isChanged() || m_textOutputEditor->isChanged());
+}
+
+/// Places the dialog beside the script, which follows each click.
+void MainWindow::showOutput()
+{
+    m_outputEditor->show(m_panes->leftDocks());
+}
+
+/// Dialogs take their texts when they are created, so they are replaced.
+void MainWindow::setLanguage(int language)
+{
+    if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == language)
+        return;
+    if (m_project.isOpen() && !m_access.canRead()) // all texts of the project are reloaded
+        return m_actions->setTexts();
+    const auto before = m_outputEditor->present();
+    m_outputEditor->close();
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    VKD_QT_InitTranslator::languageChanged();
+    WindowSettings().setLanguage(language);
+    m_textOutputEditor->recreate();
+    if (before)
+        m_outputEditor->recreate(*before);
+    m_outputScript->refresh();
+    m_messages.say(tr("The language is now English."));
 }
 
 } // namespace workbench

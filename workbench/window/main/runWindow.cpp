@@ -15,7 +15,7 @@ int runWindow(const QString& path)
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
     VKD_QT_InitTranslator::languageChanged();
     MainWindow window;
-    window.openBehindPainting(path);
+    window.openAfterPainting(path);
     window.show();
     return QApplication::exec();
 }

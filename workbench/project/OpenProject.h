@@ -1,0 +1,69 @@
+#pragma once
+
+#include "project/ProjectWatch.h"
+#include "project/SeenPart.h"
+
+#include <array>
+#include <memory>
+
+class VKD_H_ZOBDoc;
+
+namespace workbench {
+
+/// The project that a window works on, or none: its document, the states of its parts that dialogs
+/// have read, and the changes by other programs. It needs no widgets. ProjectAccess adds messages
+/// and the waiting for other programs.
+class OpenProject : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit OpenProject(QObject* parent = nullptr);
+    ~OpenProject() override;
+
+    /// Replaces the document; null closes the project. Returns the previous one, which is open as
+    /// long as the caller owns it. The states that look() has remembered are preserved, because
+    /// dialogs continue their work on a reloaded project or on a copy.
+    std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
+    bool isOpen() const { return bool(m_document); }
+    /// Returns null if no project is open.
+    VKD_H_ZOBDoc* document() const { return m_document.get(); }
+    /// Returns the database index, 0 if no project is open.
+    int index() const;
+    /// Returns the path of the file, empty if no project is open.
+    QString path() const;
+    /// Returns the name of the file without its suffix.
+    QString name() const;
+    /// Returns the folder of the file, or the current folder if no project is open.
+    QString folder() const;
+
+    /// Returns a VkdZobStatus: whether the project can be read now.
+    cd_error_t readStatus() const;
+
+    /// These call the operations of SeenPart for a part of this project.
+    cd_error_t look(ProjectPart part);
+    bool isOutdated(ProjectPart part) const;
+    cd_error_t store(ProjectPart part, const std::function<bool()>& put, SeenPart::Newer newer);
+
+    /// Returns the state of the file at the last check.
+    ProjectWatch::File file() const { return m_watch.file(); }
+    /// Checks the project for changes by other programs at once.
+    ProjectWatch::File check();
+    /// Returns whether another program has changed the project since it was opened or
+    /// markFollowed() was called.
+    bool isChangedByOthers() const { return m_watch.changes() != m_followed; }
+    void markFollowed() { m_followed = m_watch.changes(); }
+
+Q_SIGNALS:
+    /// Emitted after a check, if file() has changed or another program has changed the project.
+    void changedOutside();
+
+private:
+    std::unique_ptr<VKD_H_ZOBDoc> m_document;
+    ProjectWatch m_watch;
+    int m_followed = 0;
+    std::array<SeenPart, 3> m_parts{SeenPart(ProjectPart::Design), SeenPart(ProjectPart::Output),
+                                    SeenPart(ProjectPart::TextOutput)};
+};
+
+} // namespace workbench

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class AnimatorView;
+
+namespace workbench {
+
+class DesignDialog;
+class OpenProject;
+class PickBanner;
+class ProjectAccess;
+class WindowMessages;
+
+/// Edits the design parameters of the open project: runs their dialog and stores its records. While
+/// the user picks groups in the view, the dialog is hidden and a banner is shown instead.
+class DesignEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// None of them is owned; all outlive the editor.
+    DesignEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
+                 AnimatorView* view, PickBanner* banner);
+    ~DesignEditor() override;
+    /// Sets the function that saves the project under another name and opens it. It returns whether
+    /// it did. The user cannot reach the window's action while the dialog is open.
+    void setSaveAs(const std::function<bool()>& saveAs) { m_saveAs = saveAs; }
+    /// Sets the groups for which the banner warns that they have no area elements, ascending.
+    void setGroupsWithoutAreas(const std::vector<int>& groups) { m_groupsWithoutAreas = groups; }
+
+    /// Runs the dialog. Returns after it was closed, or when picking has started.
+    void edit();
+    /// Returns whether the dialog is open, or hidden for picking.
+    bool isActive() const { return bool(m_dialog); }
+    /// Picks a group that was chosen by the keyboard, or removes it. Does nothing unless the user
+    /// picks groups.
+    void pick(int group);
+
+Q_SIGNALS:
+    /// Emitted after the records were stored and the dialog was closed.
+    void stored();
+    /// Emitted after picking has started or ended.
+    void pickingChanged(bool isPicking);
+
+private:
+    void run();
+    bool store();
+    bool storeElsewhere();
+    void sayStored();
+    void startPicking();
+    void takePicked();
+    void stopPicking();
+    void cancelPicking();
+    void showPicked();
+
+    OpenProject* m_project;
+    ProjectAccess* m_access;
+    WindowMessages* m_messages;
+    AnimatorView* m_view;
+    PickBanner* m_banner;
+    std::function<bool()> m_saveAs;
+    std::vector<int> m_groupsWithoutAreas;
+    std::unique_ptr<DesignDialog> m_dialog; // while it is open or hidden for picking
+};
+
+} // namespace workbench

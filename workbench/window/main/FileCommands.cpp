@@ -1,0 +1,303 @@
+#include "window/main/FileCommands.h"
+
+#include "cli/PlatformLog.h"
+#include "project/OpenProject.h"
+#include "window/main/WindowActions.h"
+#include "window/output/OutputDialog.h"
+#include "window/output/OutputEditor.h"
+#include "window/output/OutputScript.h"
+#include "window/support/chooseFileToSave.h"
+#include "window/support/copyProject.h"
+#include "window/support/projectFiles.h"
+#include "window/support/SlowWork.h"
+#include "window/support/waitForStore.h"
+#include "window/support/WindowMessages.h"
+#include "window/support/WindowSettings.h"
+#include "window/textoutput/TextOutputDialog.h"
+#include "window/textoutput/TextOutputEditor.h"
+
+#include <AnimatorView.h>
+#include <VKD_H_ZOBDoc.h>
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QMainWindow>
+#include <QMenu>
+#include <QTimer>
+
+#include <cstdio>
+#include <utility>
+
+namespace workbench {
+
+namespace {
+/// Renames a finished file over another one.
+bool replaceFile(const QString& file, const QString& path)
+{
+    const bool done =
+        std::rename(QFile::encodeName(file).constData(), QFile::encodeName(path).constData()) == 0;
+    if (!done)
+        QFile::remove(file);
+    return done;
+}
+} // namespace
+
+FileCommands::FileCommands(const ProjectParts& parts, const MakeProject& makeProject,
+                           WindowActions* actions)
+    : m_parts(parts)
+    , m_makeProject(makeProject)
+    , m_actions(actions)
+{
+    connectActions(*actions);
+    m_actions->setRecentFiles(WindowSettings().recentFiles());
+}
+
+void FileCommands::connectActions(const WindowActions& actions)
+{
+    const auto on = [this](const QAction* action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    for (const QAction* sample : actions.newFromSample)
+        on(sample, [this, sample] { newProject(sample->data().toString()); });
+    on(actions.newFromFile, &FileCommands::chooseModel);
+    on(actions.open, &FileCommands::chooseProject);
+    on(actions.reload, &FileCommands::reload);
+    on(actions.saveAs, &FileCommands::saveAs);
+    connect(actions.recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
+        leaveFor(file->data().toString()); // by value: the menu is rebuilt meanwhile
+    });
+}
+
+void FileCommands::chooseModel()
+{
+    const QString model =
+        QFileDialog::getOpenFileName(m_parts.messages->window(), tr("Model for a New Project"),
+                                     m_parts.project->folder(), tr("Models (*.json)"));
+    if (!model.isEmpty())
+        newProject(model);
+}
+
+void FileCommands::newProject(const QString& model)
+{
+    if (!mayLeave())
+        return;
+    const QString proposal =
+        QDir(m_parts.project->folder())
+            .filePath(QFileInfo(model).completeBaseName() + QLatin1String(".zob"));
+    const QString path =
+        chooseFileToSave(m_parts.messages->window(), tr("New Project"), proposal,
+                         tr("Projects (*.zob)"), QStringLiteral("zob"), m_parts.project->path());
+    if (!path.isEmpty() && makeProject(path, model))
+        open(path);
+}
+
+bool FileCommands::makeProject(const QString& path, const QString& model)
+{
+    QWidget* window = m_parts.messages->window();
+    const QString sentence = tr("The file %1 cannot be written.");
+    const ReplacedFile replaced(window, path);
+    if (!m_parts.messages->succeeds(replaced.status(), path, sentence))
+        return false;
+    const QString unfinished =
+        QStringLiteral("%1.%2.new").arg(path).arg(QCoreApplication::applicationPid());
+    QString trouble;
+    bool goesOn = true;
+    {
+        SlowWork work(window, tr("The project is being made."), 100);
+        trouble = m_makeProject(unfinished, model,
+                                [&](int percent) { return goesOn = work.goOn(percent); });
+    }
+    if (goesOn && !trouble.isEmpty()) {
+        m_parts.messages->complain(
+            tr("The project cannot be made.\n%1").arg(trouble.replace(unfinished, path)));
+        return false;
+    }
+    const cd_error_t status = !goesOn                         ? VKD_ZOB_CANCELLED
+                              : replaceFile(unfinished, path) ? VKD_ZOB_OK
+                                                              : VKD_ZOB_READ_ONLY;
+    return m_parts.messages->succeeds(status, path, sentence);
+}
+
+void FileCommands::chooseProject()
+{
+    if (!mayLeave())
+        return;
+    const QString path = QFileDialog::getOpenFileName(
+        m_parts.messages->window(), tr("Open Project"), m_parts.project->folder(),
+        tr("Projects (*.zob)") + QLatin1String(";;") + tr("All files (*)"));
+    if (!path.isEmpty())
+        open(path);
+}
+
+void FileCommands::leaveFor(const QString& path)
+{
+    if (mayLeave())
+        open(path);
+}
+
+void FileCommands::openDropped(const QString& path)
+{
+    if (isModelFile(path))
+        newProject(path);
+    else
+        leaveFor(path);
+}
+
+bool FileCommands::open(const QString& path)
+{
+    return openDocument(path, Camera::Standard);
+}
+
+bool FileCommands::openDocument(const QString& path, Camera camera)
+{
+    QWidget* window = m_parts.messages->window();
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    std::unique_ptr<VKD_H_ZOBDoc> document;
+    cd_error_t status = waitForStore(window, absolute, [window, &document, &absolute] {
+        SlowWork work(window, tr("The project is being opened."), 0);
+        VkdStatus result;
+        document = VKD_H_ZOBDoc::open(absolute, &result, [&work](int) { return work.goOn(0); });
+        return cd_error_t(result.code);
+    });
+    // The first project must not delay the painting of the window.
+    const bool isFirst = !m_parts.project->isOpen() && window->isVisible();
+    if (status == VKD_ZOB_OK && !isFirst && !showModel(document->index()))
+        status = VKD_ZOB_CANCELLED;
+    if (!m_parts.messages->succeeds(status, absolute, tr("The file %1 cannot be opened."))) {
+        m_actions->setRecentFiles(WindowSettings().recentFiles()); // the file may be gone
+        return false;
+    }
+    m_parts.messages->say(tr("%1 is open.").arg(QFileInfo(path).fileName()));
+    const auto previous = setDocument(std::move(document)); // open until the new one is shown
+    m_isProjectToShow = isFirst; // a previous one may still wait for the painting
+    if (isFirst) {
+        window->update();
+    } else {
+        if (camera == Camera::Standard)
+            m_parts.view->slotViewControl(AnimatorStandardView, 0.0);
+        showProject();
+    }
+    return true;
+}
+
+std::unique_ptr<VKD_H_ZOBDoc> FileCommands::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
+{
+    m_parts.output->close();
+    m_parts.textOutput->close();
+    auto previous = m_parts.project->setDocument(std::move(document));
+    Q_EMIT replaced();
+    return previous;
+}
+
+/// Loads the model of the project with this index. Returns false if the user cancelled.
+bool FileCommands::showModel(int index)
+{
+    SlowWork work(m_parts.messages->window(), tr("The model is being read."), 0);
+    PlatformLog::take(); // showProject() looks for what is written from now on
+    const VkdStatus read = m_parts.view->setProject(index, [&work](int) { return work.goOn(0); });
+    return read.code != VKD_ZOB_CANCELLED;
+}
+
+void FileCommands::showProject()
+{
+    const QString path = m_parts.project->path();
+    WindowSettings settings;
+    settings.addRecentFile(path);
+    m_actions->setRecentFiles(settings.recentFiles());
+    Q_EMIT opened();
+    if (!PlatformLog::take().isEmpty())
+        m_parts.messages->complain(
+            tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
+                .arg(QDir::toNativeSeparators(path)));
+}
+
+void FileCommands::showFirstProject()
+{
+    if (showModel(m_parts.project->index())) {
+        m_parts.view->slotViewControl(AnimatorStandardView, 0.0);
+        return showProject();
+    }
+    setDocument(nullptr);
+    m_parts.messages->say(tr("Cancelled."));
+}
+
+void FileCommands::painted()
+{
+    if (const QString path = std::exchange(m_pathToOpen, QString()); !path.isEmpty())
+        QTimer::singleShot(0, this, [this, path] { open(path); });
+    if (std::exchange(m_isProjectToShow, false))
+        QTimer::singleShot(0, this, &FileCommands::showFirstProject);
+}
+
+/// Choices in open dialogs that are not stored are preserved; OK asks if another program has
+/// changed the same part.
+void FileCommands::reload()
+{
+    const auto plots = m_parts.output->present();
+    const bool isTextOpen = m_parts.textOutput->isOpen();
+    const auto text = m_parts.textOutput->isChanged() ? m_parts.textOutput->state() : std::nullopt;
+    if (!openDocument(m_parts.project->path(), Camera::Keep))
+        return;
+    if (plots && plots->isChanged)
+        m_parts.output->recreate(*plots);
+    else if (OutputDialog* dialog = plots ? m_parts.output->dialog() : nullptr)
+        dialog->setPresent(*plots);
+    if (text)
+        m_parts.textOutput->reopen(*text);
+    else if (isTextOpen)
+        m_parts.textOutput->show();
+    m_parts.messages->say(tr("%1 is reloaded.").arg(QFileInfo(m_parts.project->path()).fileName()));
+}
+
+bool FileCommands::saveAs()
+{
+    OpenProject* project = m_parts.project;
+    QWidget* window = m_parts.messages->window();
+    const QString path = chooseFileToSave(window, tr("Save Project As"), project->path(),
+                                          tr("Projects (*.zob)"), QStringLiteral("zob"), QString());
+    if (path.isEmpty())
+        return false;
+    if (project->check() == ProjectWatch::File::Present && isSameFile(path, project->path()))
+        return m_parts.output->store() &&
+               (!m_parts.textOutput->isOpen() || m_parts.textOutput->store());
+    if (!m_parts.output->dialog() ||
+        !m_parts.messages->succeeds(copyProject(window, *project->document(), path), path,
+                                    tr("The project cannot be saved in the file %1.")))
+        return false;
+    return takeOver(path);
+}
+
+/// Continues with the copy of the project and with the choices in open dialogs.
+bool FileCommands::takeOver(const QString& path)
+{
+    const auto plots = m_parts.output->present();
+    const auto text = m_parts.textOutput->state();
+    const bool wasTextChanged = m_parts.textOutput->isChanged();
+    if (!openDocument(path, Camera::Keep))
+        return false;
+    m_parts.output->recreate(*plots);
+    m_parts.script->showOther();
+    if (text)
+        m_parts.textOutput->reopen(*text);
+    const bool arePlotsStored = !plots->isChanged || m_parts.output->store();
+    if (arePlotsStored && (!wasTextChanged || m_parts.textOutput->store()))
+        m_parts.messages->say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
+    return true;
+}
+
+bool FileCommands::mayLeaveMissingFile()
+{
+    return m_parts.project->check() != ProjectWatch::File::Missing || !m_parts.project->isOpen() ||
+           m_parts.messages->mayLeave(
+               tr("The project file was deleted or moved.\nIs the open project to be saved under "
+                  "another name?"),
+               [this] { return saveAs(); });
+}
+
+bool FileCommands::mayLeave()
+{
+    return mayLeaveMissingFile() && m_parts.textOutput->mayLeave() && m_parts.output->mayLeave();
+}
+
+} // namespace workbench

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "window/main/makeProjectFile.h"
+
+#include <QObject>
+
+#include <memory>
+
+class AnimatorView;
+class VKD_H_ZOBDoc;
+
+namespace workbench {
+
+class OpenProject;
+class OutputEditor;
+class OutputScript;
+class TextOutputEditor;
+class WindowActions;
+class WindowMessages;
+
+/// The parts of the main window that take part when the project changes.
+struct ProjectParts
+{
+    OpenProject* project;
+    WindowMessages* messages;
+    AnimatorView* view;
+    OutputEditor* output;
+    OutputScript* script;
+    TextOutputEditor* textOutput;
+};
+
+/// The commands of the File menu that concern projects: new, open, reload, save as. It asks about
+/// unsaved choices before a project is left, and loads the model of a new one into the view. The
+/// window shows the rest.
+class FileCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The parts and actions are not owned and outlive the object.
+    FileCommands(const ProjectParts& parts, const MakeProject& makeProject, WindowActions* actions);
+
+    /// Replaces the open project. If the file cannot be opened, shows a message and changes
+    /// nothing.
+    bool open(const QString& path);
+    /// Opens a file after the window was painted first: a message or a slow disk would delay that.
+    void openAfterPainting(const QString& path) { m_pathToOpen = path; }
+    /// To be called after each painting of the window.
+    void painted();
+    /// Opens a dropped project, or creates a project from a dropped model file.
+    void openDropped(const QString& path);
+    /// Saves the project under another name and opens it. Returns whether the user chose a name and
+    /// the file was written.
+    bool saveAs();
+    /// Asks about everything that is not stored. Returns false if the user wants to stay.
+    bool mayLeave();
+
+Q_SIGNALS:
+    /// Emitted after the project was replaced by another one or by none, before it is shown.
+    void replaced();
+    /// Emitted when all but the model of the project has to be shown.
+    void opened();
+
+private:
+    enum class Camera { Standard, Keep };
+
+    void connectActions(const WindowActions& actions);
+    void chooseModel();
+    void newProject(const QString& model);
+    bool makeProject(const QString& path, const QString& model);
+    void chooseProject();
+    void leaveFor(const QString& path);
+    void reload();
+    bool openDocument(const QString& path, Camera camera);
+    std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
+    bool showModel(int index);
+    void showProject();
+    void showFirstProject();
+    bool takeOver(const QString& path);
+    bool mayLeaveMissingFile();
+
+    ProjectParts m_parts;
+    MakeProject m_makeProject;
+    WindowActions* m_actions;
+    QString m_pathToOpen;           // after the next painting
+    bool m_isProjectToShow = false; // after the next painting
+};
+
+} // namespace workbench

@@ -1,0 +1,166 @@
+#include "window/main/WindowPanes.h"
+
+#include "sheet/SheetPreview.h"
+#include "window/design/PickBanner.h"
+#include "window/main/ChangeBar.h"
+#include "window/main/DockShares.h"
+#include "window/main/GroupList.h"
+#include "window/main/WindowActions.h"
+#include "window/output/ScriptPane.h"
+#include "window/records/RecordsPane.h"
+#include "window/support/HelpKey.h"
+#include "window/support/WindowSettings.h"
+
+#include <AnimatorView.h>
+
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QMenu>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+namespace {
+constexpr int StateVersion = 1;
+const QString GeometryKey = QStringLiteral("geometry");
+const QString StateKey = QStringLiteral("state");
+
+QDockWidget* addDock(QMainWindow* window, Qt::DockWidgetArea area, QWidget* widget,
+                     const char* name)
+{
+    auto dock = new QDockWidget(window);
+    dock->setObjectName(QLatin1String(name));
+    if (widget)
+        dock->setWidget(widget);
+    window->addDockWidget(area, dock);
+    return dock;
+}
+} // namespace
+
+WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
+    : QObject(window)
+    , groups(new GroupList(window))
+    , news(new ChangeBar(actions.reload, actions.saveAs, window))
+    , banner(new PickBanner(window))
+    , view(new AnimatorView(0, window))
+    , script(new ScriptPane(actions.copyScript, actions.saveScript, window))
+    , sheets(new SheetPreview(actions.exportSheets, window))
+    , m_window(window)
+{
+    addCentre();
+    addDocks(actions);
+    resizeDocks();
+    setHelpTopic(m_scriptDock, "GRAV/SCRIPT");
+    setHelpTopic(m_sheetDock, "GRAV/SHEET");
+    // isVisible() is also true for a dock that is covered by another one.
+    connect(m_sheetDock, &QDockWidget::visibilityChanged, this, &WindowPanes::sheetsVisibleChanged);
+    window->installEventFilter(this);
+}
+
+void WindowPanes::addCentre()
+{
+    auto centre = new QWidget(m_window);
+    auto layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(news);
+    layout->addWidget(banner);
+    layout->addWidget(view, 1);
+    news->hide();
+    banner->hide();
+    view->setHovering(true);
+    m_window->setCentralWidget(centre);
+}
+
+void WindowPanes::addDocks(const WindowActions& actions)
+{
+    m_window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_groupDock = addDock(m_window, Qt::LeftDockWidgetArea, groups, "GroupDock");
+    m_scriptDock = addDock(m_window, Qt::RightDockWidgetArea, script, "ScriptDock");
+    m_sheetDock = addDock(m_window, Qt::RightDockWidgetArea, sheets, "SheetDock");
+    m_recordDock = addDock(m_window, Qt::BottomDockWidgetArea, nullptr, "RecordDock");
+    for (const QDockWidget* dock : {m_groupDock, m_scriptDock, m_sheetDock, m_recordDock})
+        actions.viewMenu->addAction(dock->toggleViewAction());
+    m_window->tabifyDockWidget(m_scriptDock, m_sheetDock);
+    m_scriptDock->raise();
+}
+
+/// The list of groups needs no more room in a larger window, so its dock has no share.
+void WindowPanes::resizeDocks()
+{
+    const QFontMetrics metrics = m_window->fontMetrics();
+    const int letter = metrics.averageCharWidth();
+    const int width = m_window->width();
+    m_window->resizeDocks({m_groupDock, m_scriptDock},
+                          {qMin(45 * letter, width / 4), qMin(60 * letter, width / 3)},
+                          Qt::Horizontal);
+    m_window->resizeDocks({m_recordDock}, {10 * metrics.height()}, Qt::Vertical);
+    auto shares = new DockShares(m_window);
+    shares->add({m_scriptDock, m_sheetDock}, Qt::Horizontal);
+    shares->add({m_recordDock}, Qt::Vertical);
+}
+
+void WindowPanes::setTexts()
+{
+    view->setAccessibleName(tr("Model"));
+    m_groupDock->setWindowTitle(tr("Groups"));
+    m_scriptDock->setWindowTitle(tr("Script"));
+    m_sheetDock->setWindowTitle(tr("Sheet"));
+    m_recordDock->setWindowTitle(tr("Records"));
+    nameTabBars();
+}
+
+void WindowPanes::nameTabBars()
+{
+    for (auto bar : m_window->findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly))
+        bar->setAccessibleName(tr("Panels"));
+}
+
+/// The window creates the tab bar of tabbed docks when it needs one.
+bool WindowPanes::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ChildPolished &&
+        qobject_cast<QTabBar*>(static_cast<QChildEvent*>(event)->child()))
+        nameTabBars();
+    return QObject::eventFilter(watched, event);
+}
+
+RecordsPane* WindowPanes::records()
+{
+    if (!m_records) {
+        m_records = new RecordsPane(m_recordDock);
+        m_recordDock->setWidget(m_records);
+        if (m_records->window() == m_window) // not in a floating dock
+            QWidget::setTabOrder(view, m_records);
+    }
+    return m_records;
+}
+
+void WindowPanes::showSheets()
+{
+    m_sheetDock->show();
+    m_sheetDock->raise();
+    sheets->setFocus();
+}
+
+QPoint WindowPanes::leftDocks() const
+{
+    return m_window->mapToGlobal(m_groupDock->pos());
+}
+
+void WindowPanes::restoreGeometry()
+{
+    const WindowSettings settings;
+    m_window->restoreGeometry(settings.value(GeometryKey).toByteArray());
+    m_window->restoreState(settings.value(StateKey).toByteArray(), StateVersion);
+}
+
+void WindowPanes::saveGeometry() const
+{
+    WindowSettings settings;
+    settings.setValue(GeometryKey, m_window->saveGeometry());
+    settings.setValue(StateKey, m_window->saveState(StateVersion));
+}
+
+} // namespace workbench

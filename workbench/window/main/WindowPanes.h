@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QObject>
+
+class AnimatorView;
+class QDockWidget;
+class QMainWindow;
+class QWidget;
+
+namespace workbench {
+
+class ChangeBar;
+class GroupList;
+class PickBanner;
+class RecordsPane;
+class ScriptPane;
+class SheetPreview;
+class WindowActions;
+
+/// The panes of the main window: model, groups, script, sheets and design records. It creates them
+/// and arranges them in the centre of the window and in docks. The window connects them.
+class WindowPanes : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The window becomes the owner of the object and of the panes.
+    WindowPanes(const WindowActions& actions, QMainWindow* window);
+
+    /// Sets the texts in the language of the desktop.
+    void setTexts();
+    /// Creates the pane of the design records on the first call: a window without a project opens
+    /// faster without it.
+    RecordsPane* records();
+    /// Shows the preview of the sheets in front of other docks and gives it the focus.
+    void showSheets();
+    /// Returns the corner of the docks at the left, in coordinates of the screen.
+    QPoint leftDocks() const;
+    /// Restores and saves the geometry of window and docks in the settings of the program.
+    void restoreGeometry();
+    void saveGeometry() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    // In the order of Tab, which is column by column; the records follow the view.
+    GroupList* const groups;
+    ChangeBar* const news;
+    PickBanner* const banner;
+    AnimatorView* const view;
+    ScriptPane* const script;
+    SheetPreview* const sheets;
+
+Q_SIGNALS:
+    /// Emitted when the user sees the preview of the sheets or no longer sees it.
+    void sheetsVisibleChanged(bool isVisible);
+
+private:
+    void addCentre();
+    void addDocks(const WindowActions& actions);
+    void resizeDocks();
+    void nameTabBars();
+
+    QMainWindow* m_window;
+    QDockWidget* m_groupDock = nullptr;
+    QDockWidget* m_scriptDock = nullptr;
+    QDockWidget* m_sheetDock = nullptr;
+    QDockWidget* m_recordDock = nullptr;
+    RecordsPane* m_records = nullptr;
+};
+
+} // namespace workbench

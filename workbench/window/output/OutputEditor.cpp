@@ -1,0 +1,139 @@
+#include "window/output/OutputEditor.h"
+
+#include "window/output/OutputDialog.h"
+#include "window/support/ProjectAccess.h"
+#include "window/support/SlowWork.h"
+#include "window/support/WindowMessages.h"
+#include "window/support/withinScreen.h"
+
+#include <QMainWindow>
+
+namespace workbench {
+
+OutputEditor::OutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
+                           const QList<QAction*>& actions)
+    : m_project(project)
+    , m_access(access)
+    , m_messages(messages)
+    , m_actions(actions)
+{
+}
+
+OutputEditor::~OutputEditor() = default;
+
+OutputDialog* OutputEditor::dialog()
+{
+    if (!m_dialog && m_access->canRead() && !m_dialog) { // an event may have created it meanwhile
+        m_project->look(ProjectPart::Output);
+        create(OutputState::read(m_project->index()));
+    }
+    return m_dialog.get();
+}
+
+std::optional<OutputPresent> OutputEditor::present() const
+{
+    return m_dialog ? std::make_optional(m_dialog->present()) : std::nullopt;
+}
+
+bool OutputEditor::isChanged() const
+{
+    return m_dialog && m_dialog->isChanged();
+}
+
+void OutputEditor::create(const OutputState& state)
+{
+    const WaitCursor cursor;
+    m_dialog = std::make_unique<OutputDialog>(m_project->document(), state, m_messages->window());
+    m_dialog->addActions(m_actions);
+    connect(m_dialog.get(), &OutputDialog::choiceChanged, this, &OutputEditor::choiceChanged);
+    connect(m_dialog.get(), &QDialog::accepted, this, [this] {
+        if (!store())
+            Q_EMIT refused();
+    });
+    connect(m_dialog.get(), &QDialog::rejected, this, [this] {
+        closeLater();
+        m_messages->say(tr("The choice of plots is again that of the project."));
+        Q_EMIT choiceChanged();
+    });
+}
+
+void OutputEditor::recreate(const OutputPresent& before)
+{
+    create(before.state);
+    m_dialog->setPresent(before);
+}
+
+void OutputEditor::close()
+{
+    m_dialog.reset();
+}
+
+/// The dialog may still be closing itself.
+void OutputEditor::closeLater()
+{
+    m_dialog.release()->deleteLater();
+}
+
+void OutputEditor::show(const QPoint& place)
+{
+    const bool isFirst = !m_dialog;
+    if (!dialog())
+        return;
+    if (isFirst)
+        Q_EMIT choiceChanged();
+    if (!m_dialog->testAttribute(Qt::WA_Moved))
+        moveWithinScreen(m_dialog.get(), place);
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->activateWindow();
+}
+
+bool OutputEditor::store()
+{
+    if (!dialog())
+        return false;
+    const OutputState state = m_dialog->state();
+    const auto put = [this, &state] { return state.put(m_project->index()); };
+    const auto stored = m_access->store(
+        [this, &put](SeenPart::Newer newer) {
+            return m_project->store(ProjectPart::Output, put, newer);
+        },
+        tr("The choice of plots cannot be stored in the file %1."));
+    if (stored == ProjectAccess::Stored::Reload)
+        reload();
+    if (stored != ProjectAccess::Stored::Yes)
+        return false;
+    m_dialog->setUnchanged();
+    Q_EMIT modified();
+    m_messages->say(tr("The choice of plots is in the project file."));
+    return true;
+}
+
+void OutputEditor::reload()
+{
+    OutputPresent present = m_dialog->present();
+    present.isChanged = false;
+    closeLater();
+    if (dialog())
+        m_dialog->setPresent(present);
+    Q_EMIT choiceChanged();
+}
+
+bool OutputEditor::mayLeave()
+{
+    return !isChanged() ||
+           m_messages->mayLeave(tr("The choice of plots is changed and not yet in the project.\n"
+                                   "Is it to be stored?"),
+                                [this] { return store(); });
+}
+
+bool OutputEditor::followOthers()
+{
+    if (!m_dialog || m_dialog->isVisible() || m_dialog->isChanged() ||
+        !m_project->isOutdated(ProjectPart::Output))
+        return false;
+    closeLater();
+    return true;
+}
+
+} // namespace workbench

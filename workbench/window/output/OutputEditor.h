@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+class QAction;
+class QPoint;
+
+namespace workbench {
+
+class OpenProject;
+class OutputDialog;
+struct OutputPresent;
+struct OutputState;
+class ProjectAccess;
+class WindowMessages;
+
+/// Edits the graphical output of the open project: owns its dialog, which also exists while it is
+/// hidden because it creates the script, and reads and stores its state.
+class OutputEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// None of them is owned; all outlive the editor. The dialog has the actions of the window,
+    /// too.
+    OutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
+                 const QList<QAction*>& actions);
+    ~OutputEditor() override;
+
+    /// Returns whether the dialog exists.
+    bool exists() const { return bool(m_dialog); }
+    /// Returns the dialog; creates it with the state of the project if it does not exist. Returns
+    /// null, after an error message, if the project cannot be read.
+    OutputDialog* dialog();
+    /// Returns what recreate() needs, if the dialog exists.
+    std::optional<OutputPresent> present() const;
+    /// Returns whether the dialog contains changes that are not stored.
+    bool isChanged() const;
+    /// Stores the state of the dialog in the project. Returns whether it is stored.
+    bool store();
+    /// Asks whether to store changes. Returns false if the user cancels or storing fails.
+    bool mayLeave();
+
+    /// Shows the dialog; the first time at this place of the screen.
+    void show(const QPoint& place);
+    /// Creates a new dialog with the present of a previous one.
+    void recreate(const OutputPresent& before);
+    /// Destroys the dialog without asking.
+    void close();
+    /// Destroys the dialog if another program has stored a newer state and the user does not see or
+    /// change the present one. Returns whether it was destroyed.
+    bool followOthers();
+
+Q_SIGNALS:
+    /// Emitted when the script has to be updated.
+    void choiceChanged();
+    /// Emitted when isChanged() may have changed.
+    void modified();
+    /// Emitted after OK, if the choice could not be stored: the dialog has to be shown again.
+    void refused();
+
+private:
+    void create(const OutputState& state);
+    void closeLater();
+    void reload();
+
+    OpenProject* m_project;
+    ProjectAccess* m_access;
+    WindowMessages* m_messages;
+    QList<QAction*> m_actions;
+    std::unique_ptr<OutputDialog> m_dialog;
+};
+
+} // namespace workbench

@@ -1,0 +1,148 @@
+#include "window/output/OutputScript.h"
+
+#include "project/OpenProject.h"
+#include "sheet/exportSheets.h"
+#include "sheet/readSheetPlan.h"
+#include "sheet/sheetCaptions.h"
+#include "sheet/SheetPreview.h"
+#include "window/output/OutputDialog.h"
+#include "window/output/OutputEditor.h"
+#include "window/output/ScriptPane.h"
+#include "window/support/chooseFileToSave.h"
+#include "window/support/SlowWork.h"
+#include "window/support/WindowMessages.h"
+#include "window/support/WindowSettings.h"
+
+#include <vkd_dbo_model.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QMainWindow>
+#include <QSaveFile>
+
+namespace workbench {
+
+OutputScript::OutputScript(OpenProject* project, OutputEditor* output, WindowMessages* messages,
+                           ScriptPane* pane, SheetPreview* sheets)
+    : m_project(project)
+    , m_output(output)
+    , m_messages(messages)
+    , m_pane(pane)
+    , m_sheets(sheets)
+{
+    m_pane->setEnglish(WindowSettings().englishKeywords());
+    connect(m_pane, &ScriptPane::languageChosen, this, &OutputScript::setKeywords);
+    connect(m_output, &OutputEditor::choiceChanged, this, &OutputScript::refresh);
+}
+
+void OutputScript::clear()
+{
+    m_pane->setOtherScript(QString());
+    Q_EMIT refreshed(true);
+}
+
+void OutputScript::refresh()
+{
+    if (!m_project->isOpen())
+        return;
+    const bool isFirst = !m_output->exists();
+    OutputDialog* dialog = m_output->dialog();
+    if (!dialog)
+        return clear();
+    const WaitCursor cursor;
+    const QString script = dialog->script(m_pane->english());
+    if (isFirst && m_pane->script().isEmpty())
+        m_pane->setOtherScript(script);
+    else
+        m_pane->setScript(script);
+    Q_EMIT refreshed(script.isEmpty());
+    refreshSheets();
+}
+
+void OutputScript::showOther()
+{
+    if (OutputDialog* dialog = m_output->dialog())
+        m_pane->setOtherScript(dialog->script(m_pane->english()));
+}
+
+void OutputScript::setKeywords(bool english)
+{
+    if (m_project->isOpen() && !m_output->dialog())
+        return m_pane->setEnglish(!english);
+    WindowSettings().setEnglishKeywords(english);
+    if (m_project->isOpen())
+        showOther();
+    refreshSheets();
+}
+
+void OutputScript::copy()
+{
+    QApplication::clipboard()->setText(m_pane->script());
+    m_messages->say(tr("The script is on the clipboard."));
+}
+
+QString OutputScript::proposedFile(const char* suffix) const
+{
+    return QDir(m_project->folder()).filePath(m_project->name() + QLatin1String(suffix));
+}
+
+void OutputScript::save()
+{
+    const QString path =
+        chooseFileToSave(m_messages->window(), tr("Save Script"), proposedFile(".dat"),
+                         tr("Scripts (*.dat)") + QLatin1String(";;") + tr("All files (*)"),
+                         QStringLiteral("dat"), m_project->path());
+    if (path.isEmpty())
+        return;
+    QSaveFile file(path);
+    const QByteArray bytes = m_pane->script().toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return m_messages->complainOfWriting(path, file.errorString());
+    m_messages->say(tr("The script is saved in %1.").arg(QDir::toNativeSeparators(path)));
+}
+
+SheetPlan OutputScript::newSheetPlan()
+{
+    SheetPlan plan = readSheetPlan(m_pane->script());
+    OutputDialog* dialog = m_output->dialog(); // null while the project cannot be read
+    if (dialog)
+        setCaptions(&plan, dialog->captions());
+    QHash<int, QString> titles;
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(m_project->index()))
+        titles.insert(loadCase.number, loadCase.title);
+    setLoadCaseTitles(&plan, titles);
+    return plan;
+}
+
+void OutputScript::refreshSheets()
+{
+    if (m_project->isOpen() && m_output->exists() && m_areSheetsVisible)
+        m_sheets->setPlan(newSheetPlan());
+}
+
+void OutputScript::setSheetsVisible(bool visible)
+{
+    m_areSheetsVisible = visible;
+    refreshSheets();
+}
+
+void OutputScript::exportSheets()
+{
+    QWidget* window = m_messages->window();
+    const QString path =
+        chooseFileToSave(window, tr("Export Sheets"), proposedFile(".pdf"), tr("PDF files (*.pdf)"),
+                         QStringLiteral("pdf"), m_project->path());
+    if (path.isEmpty())
+        return;
+    QString trouble;
+    switch (workbench::exportSheets(newSheetPlan(), m_sheets->painter(), path, window, &trouble)) {
+    case SheetExport::Done:
+        return m_messages->say(
+            tr("The sheets are saved in %1.").arg(QDir::toNativeSeparators(path)));
+    case SheetExport::Cancelled: return m_messages->say(tr("No sheet was saved."));
+    case SheetExport::Failed: return m_messages->complainOfWriting(path, trouble);
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,128 @@
+#include "window/textoutput/TextOutputEditor.h"
+
+#include "window/support/ProjectAccess.h"
+#include "window/support/WindowMessages.h"
+#include "window/textoutput/TextOutputDialog.h"
+
+#include <QMainWindow>
+
+namespace workbench {
+
+TextOutputEditor::TextOutputEditor(OpenProject* project, ProjectAccess* access,
+                                   WindowMessages* messages, const QList<QAction*>& actions)
+    : m_project(project)
+    , m_access(access)
+    , m_messages(messages)
+    , m_actions(actions)
+{
+}
+
+TextOutputEditor::~TextOutputEditor() = default;
+
+bool TextOutputEditor::isChanged() const
+{
+    return m_dialog && m_dialog->isChanged();
+}
+
+std::optional<TextOutputState> TextOutputEditor::state() const
+{
+    return m_dialog ? std::make_optional(m_dialog->state()) : std::nullopt;
+}
+
+void TextOutputEditor::show()
+{
+    if (!m_dialog && !m_access->canRead())
+        return;
+    if (!m_dialog) {
+        m_project->look(ProjectPart::TextOutput);
+        create();
+    }
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->activateWindow();
+}
+
+void TextOutputEditor::create()
+{
+    m_dialog = std::make_unique<TextOutputDialog>(m_project->index(), m_messages->window());
+    m_dialog->addActions(m_actions);
+    connect(m_dialog.get(), &TextOutputDialog::choiceChanged, this, &TextOutputEditor::modified);
+    connect(m_dialog.get(), &QDialog::accepted, this, [this] {
+        if (store())
+            closeLater();
+        else
+            show(); // the user's choice is not lost
+    });
+    connect(m_dialog.get(), &QDialog::rejected, this, [this] {
+        closeLater();
+        m_messages->say(tr("The text output stays as it was."));
+    });
+}
+
+/// The dialog may still be closing itself.
+void TextOutputEditor::closeLater()
+{
+    if (m_dialog)
+        m_dialog.release()->deleteLater();
+    Q_EMIT modified();
+}
+
+void TextOutputEditor::close()
+{
+    m_dialog.reset();
+}
+
+bool TextOutputEditor::store()
+{
+    const TextOutputState state = m_dialog->state();
+    const auto put = [this, &state] { return state.put(m_project->index()); };
+    const auto stored = m_access->store(
+        [this, &put](SeenPart::Newer newer) {
+            return m_project->store(ProjectPart::TextOutput, put, newer);
+        },
+        tr("The text output cannot be stored in the file %1."));
+    if (stored == ProjectAccess::Stored::Reload)
+        reload();
+    if (stored != ProjectAccess::Stored::Yes)
+        return false;
+    m_dialog->setUnchanged();
+    Q_EMIT modified();
+    m_messages->say(tr("The text output is in the project file."));
+    return true;
+}
+
+void TextOutputEditor::reload()
+{
+    if (!m_access->canRead())
+        return;
+    m_project->look(ProjectPart::TextOutput);
+    m_dialog->setState(TextOutputState::read(m_project->index(), ExtentFields::DefaultLists));
+    m_dialog->setUnchanged();
+    Q_EMIT modified();
+}
+
+bool TextOutputEditor::mayLeave()
+{
+    return !isChanged() ||
+           m_messages->mayLeave(
+               tr("The text output is changed and not yet in the project.\nIs it to be stored?"),
+               [this] { return store(); });
+}
+
+void TextOutputEditor::reopen(const TextOutputState& state)
+{
+    create();
+    m_dialog->setState(state);
+    m_dialog->show();
+}
+
+void TextOutputEditor::recreate()
+{
+    if (!m_dialog)
+        return;
+    const TextOutputState before = m_dialog->state();
+    m_dialog.reset(); // saves its geometry, which the new dialog restores
+    reopen(before);
+}
+
+} // namespace workbench

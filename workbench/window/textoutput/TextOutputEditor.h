@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+class QAction;
+
+namespace workbench {
+
+class OpenProject;
+class ProjectAccess;
+class TextOutputDialog;
+struct TextOutputState;
+class WindowMessages;
+
+/// Edits the text output of the open project: owns its dialog while it is open, and reads and
+/// stores its state.
+class TextOutputEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// None of them is owned; all outlive the editor. The dialog has the actions of the window,
+    /// too.
+    TextOutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
+                     const QList<QAction*>& actions);
+    ~TextOutputEditor() override;
+
+    bool isOpen() const { return bool(m_dialog); }
+    /// Returns whether the dialog contains changes that are not stored.
+    bool isChanged() const;
+    /// Returns the state in the dialog, if it is open.
+    std::optional<TextOutputState> state() const;
+    /// Stores the state of the open dialog in the project. Returns whether it is stored.
+    bool store();
+    /// Asks whether to store changes. Returns false if the user cancels or storing fails.
+    bool mayLeave();
+
+    /// Opens the dialog with the state of the project, or raises it.
+    void show();
+    /// Opens a new dialog with a state that is not the one in the project.
+    void reopen(const TextOutputState& state);
+    /// Replaces the open dialog by a new one, which has the texts of the present language.
+    void recreate();
+    /// Destroys the dialog without asking.
+    void close();
+
+Q_SIGNALS:
+    /// Emitted when isChanged() may have changed.
+    void modified();
+
+private:
+    void create();
+    void reload();
+    void closeLater();
+
+    OpenProject* m_project;
+    ProjectAccess* m_access;
+    WindowMessages* m_messages;
+    QList<QAction*> m_actions;
+    std::unique_ptr<TextOutputDialog> m_dialog; // while it is open
+};
+
+} // namespace workbench
