@@ -39,7 +39,7 @@ int runTimed(int argc, char* argv[])
     const QString settings = QFile::decodeName(argv[2]);
     const EndedByPicture application(argc, argv, QString::fromUtf8(argv[3]));
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings);
-    return workbench::runWindow(QFile::decodeName(argv[4]), {});
+    return workbench::runWindow(QFile::decodeName(argv[4]));
 }
 
 void start(benchmark::State& state, const QString& program, const QStringList& arguments)
