@@ -1,8 +1,8 @@
 # Sourced by run and test: installs missing Debian packages.
 
 plib_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev
-               qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libbenchmark-dev
-               fonts-dejavu-core)
+               qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libxxhash-dev
+               libbenchmark-dev fonts-dejavu-core)
 
 plib_install_packages() {
     local missing=() package

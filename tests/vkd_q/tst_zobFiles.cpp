@@ -1,3 +1,4 @@
+#include "FailingReads.h"
 #include "ZobTestSupport.h"
 
 #include <QTemporaryDir>
@@ -14,18 +15,23 @@ class TestZobFiles : public QObject
 {
     Q_OBJECT
 
+    static void changeByOther(const QString& path, const char* change)
+    {
+        sqlite3* connection = nullptr;
+        if (sqlite3_open(path.toUtf8(), &connection) != SQLITE_OK ||
+            sqlite3_exec(connection, change, nullptr, nullptr, nullptr) != SQLITE_OK)
+            qFatal("%s", sqlite3_errmsg(connection));
+        sqlite3_close(connection);
+    }
+
     /// The project after a change by another program.
     QByteArray with(const char* change) const
     {
         const QTemporaryDir folder;
-        const QByteArray path = folder.filePath(QStringLiteral("p")).toUtf8();
-        testsupport::writeFile(QString::fromUtf8(path), m_sound);
-        sqlite3* connection = nullptr;
-        if (sqlite3_open(path, &connection) != SQLITE_OK ||
-            sqlite3_exec(connection, change, nullptr, nullptr, nullptr) != SQLITE_OK)
-            qFatal("%s", sqlite3_errmsg(connection));
-        sqlite3_close(connection);
-        return testsupport::readFile(QString::fromUtf8(path));
+        const QString path = folder.filePath(QStringLiteral("p"));
+        testsupport::writeFile(path, m_sound);
+        changeByOther(path, change);
+        return testsupport::readFile(path);
     }
 
 private Q_SLOTS:
@@ -50,7 +56,7 @@ private Q_SLOTS:
         row("empty file", QByteArray(""), foreign);
         row("text", QByteArray("Not a project.\n"), foreign);
         row("other application", patched(m_sound, 68, zero), foreign);
-        row("newer version", patched(m_sound, 63, QByteArray(1, '\2')), newer);
+        row("newer version", patched(m_sound, 63, QByteArray(1, '\3')), newer);
         row("version 0", patched(m_sound, 60, zero), damaged);
         row("no record table", QByteArray(m_sound).replace("record", "recall"), damaged);
         row("first page only", m_sound.left(4096), damaged);
@@ -80,6 +86,103 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), bytes.isNull() ? 0 : 1);
         QVERIFY(bytes.isNull() || testsupport::readFile(path) == bytes);
         QCOMPARE(log.once(vkd_zob_open(folder.path().toUtf8(), &index).code), VKD_ZOB_NO_FILE);
+    }
+
+    /// Each bit of the page with the records. SQLite itself finds only damage of its structure.
+    void flippedBits()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        const Records records{"first", "", "third record"};
+        makeProject(path, records);
+        const QByteArray sound = testsupport::readFile(path);
+        constexpr int PageBytes = 4096;
+        QCOMPARE(sound.size(), 2 * PageBytes);
+        ZobLog log;
+        for (int bit = 8 * (sound.size() - 100); bit < 8 * sound.size(); ++bit) {
+            const char byte = char(sound[bit / 8] ^ (1 << bit % 8));
+            testsupport::writeFile(path, patched(sound, bit / 8, QByteArray(1, byte)));
+            int index = -1;
+            const cd_error_t status = vkd_zob_open(path.toUtf8(), &index).code;
+            if (status == VKD_ZOB_OK)
+                QVERIFY2(readAll(index) == records, qPrintable(QString::number(bit)));
+            vkd_zob_close(index);
+            QVERIFY(status == VKD_ZOB_OK || status == VKD_ZOB_DAMAGED);
+        }
+    }
+
+    /// A read error is no damage, at whichever page it comes. A single one may pass unnoticed.
+    void failingReads()
+    {
+        FailingReads reads;
+        ZobLog log;
+        for (int times : {1, 1000000})
+            for (int offset = 0; offset < m_sound.size(); offset += 4096) {
+                reads.failAt(offset, times);
+                int index = -1;
+                const VkdStatus status = vkd_zob_open(m_path.toUtf8(), &index);
+                vkd_zob_close(index);
+                QVERIFY2((status.isOk() && times == 1) || status.code == VKD_ZOB_FAILED,
+                         qPrintable(status.reason));
+                QVERIFY2(status.isOk() ||
+                             status.reason.contains(QLatin1String("Input/output error")),
+                         qPrintable(status.reason));
+            }
+        reads.failAt(0, 0);
+        QVERIFY(readProject(m_path) == m_records);
+    }
+
+    void recordDamagedWhileOpen()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        testsupport::writeFile(path, m_sound);
+        const int index = openProject(path);
+        changeByOther(path, "UPDATE record SET data = replace(data, '5', '6') WHERE position = 5");
+        ZobLog log;
+        cd_error_t end = VKD_ZOB_OK;
+        QVERIFY(readAll(index, 1, &end) == m_records.mid(0, 5));
+        QCOMPARE(log.once(end), VKD_ZOB_DAMAGED);
+        QVERIFY(vkd_zob_last_failure(index).reason.contains(QLatin1String("checksum")));
+        vkd_zob_close(index);
+    }
+
+    /// Reading leaves a file of version 1 alone; its first change that is stored upgrades it.
+    void olderVersion_data()
+    {
+        const Columns<bool, bool> row("isInChange", "isUpgraded");
+        row("a record of its own", false, true);
+        row("stored change", true, true);
+        row("change that is rolled back", true, false);
+    }
+
+    void olderVersion()
+    {
+        QFETCH(const bool, isInChange);
+        QFETCH(const bool, isUpgraded);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        const QByteArray old = with("UPDATE record SET data = substr(data, 1, length(data) - 8);"
+                                    "PRAGMA user_version = 1");
+        testsupport::writeFile(path, old);
+        const int index = openProject(path), other = openProject(path);
+        QVERIFY(readAll(index) == m_records && readAll(other) == m_records);
+        QVERIFY(testsupport::readFile(path) == old);
+        if (isInChange)
+            vkd_zob_lock_ex(index, 1, 1);
+        QCOMPARE(put(index, 1, 1, "new", 1), VKD_ZOB_OK);
+        const Records changed = m_records + Records{"new"};
+        QVERIFY(readAll(index) == changed);
+        if (!isUpgraded) {
+            ZobLog log;
+            QCOMPARE(log.once(put(index, 1, 1, "x", 7)), VKD_ZOB_BAD_CALL);
+        }
+        vkd_zob_free_ex(index, 1, 1);
+        for (int reader : {index, other, openProject(path)}) {
+            QVERIFY(readAll(reader) == (isUpgraded ? changed : m_records));
+            vkd_zob_close(reader);
+        }
+        QCOMPARE(int(testsupport::readFile(path)[63]), isUpgraded ? 2 : 1);
     }
 
     void readingLeavesTheFileAlone()

@@ -1,5 +1,8 @@
 #include "file/RecordTable.h"
 
+#include "file/recordChecksum.h"
+#include "file/zobSchema.h"
+
 #include <sqlite3.h>
 
 #include <algorithm>
@@ -11,13 +14,20 @@ constexpr char GetSql[] = "SELECT data FROM record WHERE key1=?1 AND key2=?2 AND
 constexpr char AnySql[] = "SELECT 1 FROM record WHERE key1=?1 AND key2=?2 LIMIT 1";
 constexpr char NextSql[] = "SELECT key1, key2 FROM record WHERE (key1, key2) >= (?1, ?2)"
                            " ORDER BY key1, key2 LIMIT 1";
-constexpr char FirstSql[] = "INSERT OR REPLACE INTO record VALUES(?1, ?2, 0, ?3)";
-constexpr char AppendSql[] = "INSERT INTO record SELECT ?1, ?2, ifnull(max(position) + 1, 0), ?3"
-                             " FROM record WHERE key1=?1 AND key2=?2";
-constexpr char AppendAtSql[] = "INSERT INTO record VALUES(?1, ?2, ?4, ?3)";
+constexpr char FirstSql[] = "INSERT OR REPLACE INTO record"
+                            " VALUES(?1, ?2, 0, with_checksum(?1, ?2, 0, ?3))";
+constexpr char AppendSql[] =
+    "INSERT INTO record SELECT ?1, ?2, free, with_checksum(?1, ?2, free, ?3) FROM"
+    " (SELECT ifnull(max(position) + 1, 0) AS free FROM record WHERE key1=?1 AND key2=?2)";
+constexpr char AppendAtSql[] =
+    "INSERT INTO record VALUES(?1, ?2, ?4, with_checksum(?1, ?2, ?4, ?3))";
 constexpr char EndSql[] = "SELECT ifnull(max(position) + 1, 0) FROM record"
                           " WHERE key1=?1 AND key2=?2";
 constexpr char ClearSql[] = "DELETE FROM record WHERE key1=?1 AND key2=?2";
+constexpr char VersionSql[] = "PRAGMA user_version";
+constexpr char UpgradeSql[] = "UPDATE record SET data = with_checksum(key1, key2, position, data);"
+                              "PRAGMA user_version = 2";
+static_assert(ZobSchemaVersion == 2);
 } // namespace
 
 RecordTable::RecordTable(sqlite3* connection)
@@ -36,13 +46,48 @@ int RecordTable::stepTo(KeyPair pair, int position)
         m_walkPair = pair;
     }
     m_walkPosition = position;
-    return m_get.step();
+    const int code = m_get.step();
+    // Another program may have upgraded the file. While the statement runs, no other one can.
+    return code == SQLITE_ROW && !m_hasChecksums ? findVersion() : code;
+}
+
+int RecordTable::findVersion()
+{
+    int code = m_version.prepare(m_connection, VersionSql);
+    if (code == SQLITE_OK)
+        code = m_version.step();
+    if (code == SQLITE_ROW)
+        m_hasChecksums = m_version.column(0) >= ZobSchemaVersion;
+    m_version.done();
+    return code;
+}
+
+bool RecordTable::isUpgraded()
+{
+    if (!m_hasChecksums)
+        findVersion();
+    return m_hasChecksums;
+}
+
+int RecordTable::upgrade()
+{
+    if (isUpgraded())
+        return SQLITE_OK;
+    stopWalk();
+    const int done = sqlite3_exec(m_connection, UpgradeSql, nullptr, nullptr, nullptr);
+    m_hasChecksums = done == SQLITE_OK;
+    return done;
 }
 
 cd_error_t RecordTable::deliver(void* record, int* length) const
 {
     int stored = 0;
     const void* bytes = m_get.columnBytes(0, &stored);
+    if (m_hasChecksums) {
+        if (!hasChecksum(m_walkPair, m_walkPosition, bytes, stored))
+            return VKD_ZOB_DAMAGED;
+        stored -= ChecksumBytes;
+    }
     const cd_error_t status = stored > *length ? VKD_ZOB_CUT : VKD_ZOB_OK;
     *length = std::min(stored, *length);
     if (*length > 0)

@@ -1,5 +1,6 @@
 #include "file/ZobConnection.h"
 
+#include "file/recordChecksum.h"
 #include "file/zobFileCheck.h"
 #include "file/zobSchema.h"
 #include "vkd_lib_value.h"
@@ -19,9 +20,9 @@ const QLatin1String InMemory(":memory:");
 
 constexpr char Schema[] = "BEGIN;" ZOB_RECORD_TABLE ";"
                           "PRAGMA application_id = 1447773250;"
-                          "PRAGMA user_version = 1;"
+                          "PRAGMA user_version = 2;"
                           "COMMIT;";
-static_assert(ZobApplicationId == 1447773250 && ZobSchemaVersion == 1);
+static_assert(ZobApplicationId == 1447773250 && ZobSchemaVersion == 2);
 
 // With a deleted journal, FULL can lose a commit in a power failure.
 constexpr char Durability[] = "PRAGMA synchronous = EXTRA;";
@@ -40,6 +41,14 @@ int waitForOther(void*, int calls)
         return 0;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
     return 1;
+}
+
+/// Returns the errno of the last access to the file, 0 if it is unknown.
+int lastSystemError(sqlite3* connection)
+{
+    int error = 0;
+    const int code = sqlite3_file_control(connection, "main", SQLITE_FCNTL_LAST_ERRNO, &error);
+    return code == SQLITE_OK && error ? error : sqlite3_system_errno(connection);
 }
 
 /// Returns whether the file is read-only. A file without any write permission must not change, even
@@ -106,13 +115,18 @@ VkdStatus ZobConnection::connect(int flags)
     const QByteArray path = m_path == InMemory
                                 ? m_path.toUtf8()
                                 : QFile::encodeName(QFileInfo(m_path).absoluteFilePath());
-    const int code = sqlite3_open_v2(path.constData(), &connection, flags, nullptr);
+    // All calls come from one thread, so SQLite needs no mutex.
+    const int code =
+        sqlite3_open_v2(path.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     m_handle.reset(connection);
+    if ((code & 0xff) == SQLITE_IOERR)
+        return failToOpen(code);
     if (code != SQLITE_OK)
         return fail(VKD_ZOB_NO_FILE, ZobAction::Open, QString::fromUtf8(sqlite3_errstr(code)));
     sqlite3_extended_result_codes(connection, 0);
     setWaiting(true);
-    return {};
+    const int added = addChecksumFunctions(connection);
+    return added == SQLITE_OK ? VkdStatus() : fail(added, ZobAction::Open);
 }
 
 VkdStatus ZobConnection::makeSchema()
@@ -157,7 +171,7 @@ VkdStatus ZobConnection::number(const char* sql, int* value)
         code = sqlite3_step(statement);
     if (code == SQLITE_ROW)
         *value = sqlite3_column_int(statement, 0);
-    const VkdStatus status = code == SQLITE_ROW ? VkdStatus() : fail(code, ZobAction::Open);
+    const VkdStatus status = code == SQLITE_ROW ? VkdStatus() : failToOpen(code);
     sqlite3_finalize(statement);
     return status;
 }
@@ -171,7 +185,18 @@ VkdStatus ZobConnection::execute(const char* sql, ZobAction action)
 VkdStatus ZobConnection::fail(int sqliteCode, ZobAction action)
 {
     const auto code = VkdZobStatus(zobStatus(handle(), sqliteCode));
-    return fail(code, action, QString::fromUtf8(sqlite3_errmsg(handle())));
+    const int systemError = (sqliteCode & 0xff) == SQLITE_IOERR ? lastSystemError(handle()) : 0;
+    return fail(code, action,
+                systemError ? qt_error_string(systemError)
+                            : QString::fromUtf8(sqlite3_errmsg(handle())));
+}
+
+VkdStatus ZobConnection::failToOpen(int sqliteCode)
+{
+    if (sqliteCode == SQLITE_INTERRUPT) // by the caller
+        return zobFailure(VKD_ZOB_CANCELLED, ZobAction::Open, m_path);
+    return fail(sqliteCode,
+                (sqliteCode & 0xff) == SQLITE_IOERR ? ZobAction::Read : ZobAction::Open);
 }
 
 VkdStatus ZobConnection::fail(VkdZobStatus code, ZobAction action, const QString& detail)

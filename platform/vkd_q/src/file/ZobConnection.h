@@ -40,6 +40,9 @@ public:
     VkdStatus number(const char* sql, int* value);
     /// Converts SQLite's code to a failure, logs it and remembers it.
     VkdStatus fail(int sqliteCode, ZobAction action);
+    /// Does the same for a failure to open the file, which may be a failure to read it, or the
+    /// caller's wish to cancel.
+    VkdStatus failToOpen(int sqliteCode);
     /// Logs the failure and remembers it.
     VkdStatus fail(VkdZobStatus code, ZobAction action, const QString& detail = QString());
     const VkdStatus& lastFailure() const { return m_lastFailure; }

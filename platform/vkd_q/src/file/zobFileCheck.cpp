@@ -1,5 +1,6 @@
 #include "file/zobFileCheck.h"
 
+#include "file/openFile.h"
 #include "file/ZobConnection.h"
 #include "file/zobSchema.h"
 
@@ -12,6 +13,10 @@ constexpr int StepsToQuestion = 20000; // SQLite instructions, some ms
 // the records that are put.
 constexpr char ForeignSql[] =
     "SELECT count(*) != 1 OR min(sql) IS NOT '" ZOB_RECORD_TABLE "' FROM sqlite_master";
+
+// A record that is not in its place is found here, too: a flipped bit of a key would hide it.
+constexpr char DamagedRecordSql[] =
+    "SELECT EXISTS(SELECT 1 FROM record WHERE NOT has_checksum(key1, key2, position, data))";
 
 /// Called by SQLite during a statement.
 int isToStop(void* goOn)
@@ -26,7 +31,19 @@ VkdStatus checkTable(ZobConnection& connection)
     return status.isOk() && isForeign ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open) : status;
 }
 
-VkdStatus quickCheck(ZobConnection& connection)
+VkdStatus checkRecords(ZobConnection& connection)
+{
+    int isDamaged = 0;
+    const VkdStatus status = connection.number(DamagedRecordSql, &isDamaged);
+    return status.isOk() && isDamaged
+               ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open,
+                                 QStringLiteral("the checksum of a record is wrong"))
+               : status;
+}
+
+/// Runs the check of SQLite's structures and sets `finding` to its first one, empty if there is
+/// none.
+VkdStatus quickCheck(ZobConnection& connection, QString* finding)
 {
     sqlite3_stmt* check = nullptr;
     int code =
@@ -34,24 +51,38 @@ VkdStatus quickCheck(ZobConnection& connection)
     if (code == SQLITE_OK)
         code = sqlite3_step(check);
     const auto* text = code == SQLITE_ROW ? sqlite3_column_text(check, 0) : nullptr;
-    const QString result = QString::fromUtf8(reinterpret_cast<const char*>(text)).simplified();
-    VkdStatus status;
-    if (code == SQLITE_INTERRUPT)
-        status = zobFailure(VKD_ZOB_CANCELLED, ZobAction::Open, connection.path());
-    else if (code != SQLITE_ROW)
-        status = connection.fail(code, ZobAction::Open);
-    else if (result != QLatin1String("ok"))
-        status = connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open, result);
+    *finding = QString::fromUtf8(reinterpret_cast<const char*>(text)).simplified();
+    if (*finding == QLatin1String("ok"))
+        finding->clear();
+    const VkdStatus status = code == SQLITE_ROW ? VkdStatus() : connection.failToOpen(code);
     sqlite3_finalize(check);
-    return status.isOk() ? checkTable(connection) : status;
+    return status;
 }
 
-VkdStatus checkSoundness(ZobConnection& connection, const VkdGoOn& goOn)
+/// The check reports a page that cannot be read as a finding, too. So after a finding, all bytes
+/// are read, and the check is repeated in case a read failed only once.
+VkdStatus checkStructure(ZobConnection& connection)
+{
+    QString finding;
+    VkdStatus status = quickCheck(connection, &finding);
+    if (status.isOk() && !finding.isEmpty())
+        status = isReadable(connection.handle()) ? quickCheck(connection, &finding)
+                                                 : connection.failToOpen(SQLITE_IOERR);
+    return status.isOk() && !finding.isEmpty()
+               ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open, finding)
+               : status;
+}
+
+VkdStatus checkSoundness(ZobConnection& connection, bool hasChecksums, const VkdGoOn& goOn)
 {
     if (goOn)
         sqlite3_progress_handler(connection.handle(), StepsToQuestion, isToStop,
                                  const_cast<VkdGoOn*>(&goOn));
-    const VkdStatus status = quickCheck(connection);
+    VkdStatus status = checkStructure(connection);
+    if (status.isOk())
+        status = checkTable(connection);
+    if (status.isOk() && hasChecksums)
+        status = checkRecords(connection);
     sqlite3_progress_handler(connection.handle(), 0, nullptr, nullptr);
     return status;
 }
@@ -66,8 +97,8 @@ VkdStatus checkZobFile(ZobConnection& connection, const VkdGoOn& goOn)
         status = connection.fail(VKD_ZOB_NO_PROJECT, ZobAction::Open);
     if (status.isOk())
         status = connection.number("PRAGMA user_version", &version);
-    if (status.isOk() && version != ZobSchemaVersion)
+    if (status.isOk() && (version < OldestZobSchemaVersion || version > ZobSchemaVersion))
         status = connection.fail(version > ZobSchemaVersion ? VKD_ZOB_NEWER : VKD_ZOB_DAMAGED,
                                  ZobAction::Open, QStringLiteral("version %1").arg(version));
-    return status.isOk() ? checkSoundness(connection, goOn) : status;
+    return status.isOk() ? checkSoundness(connection, version >= ZobSchemaVersion, goOn) : status;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 constexpr int ZobApplicationId = 0x564b4442; // "VKDB"
-constexpr int ZobSchemaVersion = 1;
+// The records of version 1 have no checksums. Such a file is upgraded with its first change.
+constexpr int ZobSchemaVersion = 2;
+constexpr int OldestZobSchemaVersion = 1;
 
 #define ZOB_RECORD_TABLE                                                \
     "CREATE TABLE record(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL," \

@@ -25,7 +25,7 @@ cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int p
     const int code = m_table.stepTo(pair, position);
     cd_error_t status = VKD_ZOB_OK;
     if (code == SQLITE_ROW)
-        status = m_table.deliver(record, length);
+        status = deliver(record, length);
     else
         status = code == SQLITE_DONE ? statusAfterEnd(pair) : failInside(code, ZobAction::Read);
     if (status > VKD_ZOB_CUT)
@@ -33,6 +33,15 @@ cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int p
     // Without a pass or a change, no later call would end the walk, which keeps the file locked.
     if (status > VKD_ZOB_CUT || (!m_transactions.isReading() && !m_transactions.isChanging()))
         m_table.stopWalk();
+    return status;
+}
+
+cd_error_t ZobDatabase::deliver(void* record, int* length)
+{
+    const cd_error_t status = m_table.deliver(record, length);
+    if (status == VKD_ZOB_DAMAGED)
+        m_transactions.spoilChange(m_connection->fail(
+            VKD_ZOB_DAMAGED, ZobAction::Read, QStringLiteral("the checksum of a record is wrong")));
     return status;
 }
 
@@ -49,6 +58,7 @@ cd_error_t ZobDatabase::statusAfterEnd(RecordTable::KeyPair pair)
 /// read.
 cd_error_t ZobDatabase::failInside(int sqliteCode, ZobAction action)
 {
+    m_table.forgetVersion(); // SQLite may have rolled back an upgrade
     return m_transactions.spoilChange(m_connection->fail(sqliteCode, action));
 }
 
@@ -67,6 +77,8 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
         return m_connection->fail(VKD_ZOB_MOVED, ZobAction::Write).code;
     m_transactions.endPasses(); // within a change there are none
     m_table.stopWalk();
+    if (const int code = upgrade(); code != SQLITE_OK)
+        return failInside(code, ZobAction::Write);
     const RecordTable::KeyPair pair{key1, key2};
     int code = SQLITE_OK;
     if (position == 1)
@@ -75,6 +87,23 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
     else
         code = length == 0 ? m_table.clear(pair) : m_table.writeFirst(pair, record, length);
     return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : failInside(code, ZobAction::Write);
+}
+
+/// Upgrades a file of an older version, in a transaction of its own outside a change.
+int ZobDatabase::upgrade()
+{
+    if (m_transactions.isChanging() || m_table.isUpgraded())
+        return m_table.upgrade();
+    int code = sqlite3_exec(m_connection->handle(), "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+    if (code == SQLITE_OK)
+        code = m_table.upgrade();
+    if (code == SQLITE_OK)
+        code = sqlite3_exec(m_connection->handle(), "COMMIT", nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK && m_connection->isInTransaction()) {
+        m_connection->execute("ROLLBACK", ZobAction::UndoChanges);
+        m_table.forgetVersion();
+    }
+    return code;
 }
 
 void ZobDatabase::firstPairFrom(int* key1, int* key2)

@@ -31,6 +31,8 @@ public:
 
 private:
     cd_error_t statusAfterEnd(RecordTable::KeyPair pair);
+    cd_error_t deliver(void* record, int* length);
+    int upgrade();
     cd_error_t failInside(int sqliteCode, ZobAction action);
 
     std::unique_ptr<ZobConnection> m_connection; // first member: outlives the statements

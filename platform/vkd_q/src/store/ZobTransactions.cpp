@@ -147,6 +147,8 @@ void ZobTransactions::storeOrDrop()
     // SQLite rolls back after some failures itself.
     if (!status.isOk() && wasChanging && m_connection.isInTransaction())
         m_connection.execute("ROLLBACK", ZobAction::UndoChanges);
+    if (!status.isOk())
+        m_table.forgetVersion();
     rememberEnd(status);
 }
 
