@@ -52,7 +52,7 @@ private Q_SLOTS:
         row("empty", "", noProject, keine);
         row("noise", noise.repeated(1000), noProject, keine);
         row("of another program", patched(68, QByteArray(4, '\0')), noProject, keine);
-        row("newer", patched(63, "\2"), "It was written by a newer version of the programs.",
+        row("newer", patched(63, "\3"), "It was written by a newer version of the programs.",
             "Sie wurde von einer neueren Version der Programme geschrieben.");
         row("truncated", m_building.left(m_building.size() / 2), damaged, kaputt);
         row("a bad page", patched(5 * 4096, noise), damaged, kaputt);
