@@ -60,13 +60,6 @@ private Q_SLOTS:
             QVERIFY(fitting * seen.height() < Size.height());
         }
     }
-
-    void noModel()
-    {
-        AnimatorPicture picture(0);
-        QVERIFY(picture.isEmpty());
-        QVERIFY(picture.fittingScale(Camera(), Size) > 0.0);
-    }
 };
 
 PLIB_WIDGET_TEST_MAIN(tst_animatorPicture)

@@ -4,7 +4,6 @@
 #include <AnimatorView.h>
 #include <vkd_dbo_camera.h>
 #include <vkd_dbo_model.h>
-#include <vkd_zob.h>
 
 #include <QDialog>
 #include <QSignalSpy>
@@ -19,6 +18,8 @@ namespace {
 const QPoint Left(150, 200);
 const QPoint Right(450, 200);
 const QPoint Corner(300, 30);
+const QVector<QPoint> Across{Left, Right};
+constexpr auto Shift = Qt::ShiftModifier;
 const QLatin1String Aimed("camera1 3 -1 0.5 20 2 1.5 0.25 4");
 
 /// Two plates of the groups 7 and 8 side by side; seen from above in 600 by 400 they cover the
@@ -118,27 +119,15 @@ private Q_SLOTS:
     void gestures()
     {
         const QList<QPair<const char*, Gesture>> gestures{
-            {"left ez",
-             [](QWidget& view) {
-                 drag(view, {Left, Right});
-             }},
-            {"right c",
-             [](QWidget& view) {
-                 drag(view, {Left, Right}, Qt::RightButton);
-             }},
-            {"middle c",
-             [](QWidget& view) {
-                 drag(view, {Left, Right}, Qt::MiddleButton);
-             }},
-            {"Shift+left c",
-             [](QWidget& view) {
-                 drag(view, {Left, Right}, Qt::LeftButton, Qt::ShiftModifier);
-             }},
+            {"left ez", [](QWidget& view) { drag(view, Across); }},
+            {"right c", [](QWidget& view) { drag(view, Across, Qt::RightButton); }},
+            {"middle c", [](QWidget& view) { drag(view, Across, Qt::MiddleButton); }},
+            {"Shift+left c", [](QWidget& view) { drag(view, Across, Qt::LeftButton, Shift); }},
             {"wheel cz", [](QWidget& view) { wheel(view, -60); }},
             {"plus z", [](QWidget& view) { key(view, Qt::Key_Plus); }},
             {"minus z", [](QWidget& view) { key(view, Qt::Key_Minus, Qt::KeypadModifier); }},
             {"arrow ez", [](QWidget& view) { key(view, Qt::Key_Left); }},
-            {"Shift+arrow c", [](QWidget& view) { key(view, Qt::Key_Down, Qt::ShiftModifier); }},
+            {"Shift+arrow c", [](QWidget& view) { key(view, Qt::Key_Down, Shift); }},
             {"Home cz", [](QWidget& view) { key(view, Qt::Key_Home); }},
             {"double cz",
              [](QWidget& view) { send(view, QEvent::MouseButtonDblClick, Left, Qt::LeftButton); }},
@@ -166,16 +155,6 @@ private Q_SLOTS:
         }
     }
 
-    void lockedWhileDragging()
-    {
-        send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
-        m_view->setEnabled(false);
-        m_view->setEnabled(true);
-        const QString before = textOf(*m_view);
-        send(*m_view, QEvent::MouseMove, Right, Qt::LeftButton);
-        QCOMPARE(textOf(*m_view), before);
-    }
-
     void releaseElsewhere()
     {
         m_view->setHovering(true);
@@ -191,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(textOf(*m_view), before);
         box.hide();
         send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
-        drag(*m_view, {Left, Right}, Qt::RightButton); // moves, whatever came of the left one
+        drag(*m_view, Across, Qt::RightButton); // moves, whatever came of the left one
         const Camera after = cameraOf(*m_view);
         QVERIFY(after.eye[0] == 0.0 && after.centre[0] < 0.0);
     }
@@ -323,42 +302,6 @@ private Q_SLOTS:
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
     }
 
-    /// A view takes over what another one shows only if it is of the same model.
-    void otherProject()
-    {
-        AnimatorView other(m_project->index());
-        const testsupport::TemporaryProject none;
-        QVERIFY(m_view->setProject(none.index()).isOk());
-        QVERIFY(other.setProject(none.index()).isOk());
-        other.setPicking(true);
-        other.show();
-        drag(other, {other.rect().center()});
-        QCOMPARE(other.pickedGroups(), Groups());
-    }
-
-    void unreadRest()
-    {
-        const QByteArray path = m_project->doc->path().toUtf8();
-        Model model = plates();
-        model.nodes.resize(1500);
-        QVERIFY(storeModel(m_project->index(), model).isOk());
-        int index = -1;
-        QCOMPARE(vkd_zob_open(path, &index).code, int(VKD_ZOB_OK));
-        for (int i = 0; i < 2; ++i)
-            QTest::ignoreMessage(QtWarningMsg,
-                                 QRegularExpression(QStringLiteral("no project is open")));
-        m_view->setPicking(true);
-        const auto closeIt = [index](int) { return vkd_zob_close(index).code == VKD_ZOB_OK; };
-        QCOMPARE(m_view->setProject(index, closeIt).code, int(VKD_ZOB_NOT_OPEN));
-        drag(*m_view, {Left});
-        QCOMPARE(m_view->pickedGroups(), Groups());
-        QCOMPARE(vkd_zob_open(path, &index).code, int(VKD_ZOB_OK));
-        QVERIFY(m_view->setProject(index).isOk());
-        drag(*m_view, {Left});
-        QCOMPARE(m_view->pickedGroups(), Groups{7});
-        vkd_zob_close(index);
-    }
-
     /// Drawn from all sides, and the sound plate beside them is still there.
     void oddElements()
     {
@@ -386,17 +329,6 @@ private Q_SLOTS:
         for (int control : {0, 3, 4, 5}) {
             view->slotViewControl(AnimatorViewControl(control), 0.0);
             QVERIFY(!view->grab().isNull());
-        }
-    }
-
-    void strangeCameras()
-    {
-        for (const char* text :
-             {"camera1 0 0 1 1e300 1e300 0 0 1e300", "camera1 1e-300 0 0 0 1 1 1 1e-300"}) {
-            takeCamera(QLatin1String(text));
-            drag(*m_view, {Left, Right});
-            wheel(*m_view, -120);
-            QVERIFY(!m_view->grab().isNull());
         }
     }
 

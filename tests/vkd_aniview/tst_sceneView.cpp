@@ -191,40 +191,6 @@ private Q_SLOTS:
               "group");
     }
 
-    /// A long line is in front of a plate with the one end and behind it with the other.
-    void lineThroughPlate()
-    {
-        Model model;
-        const auto node = [](int column, int row) { return 9 * row + column + 1; };
-        for (int i = 0; i < 81; ++i)
-            model.nodes.push_back({i + 1, {double(i % 9), double(i / 9), 0.0}});
-        for (int i = 0; i < 64; ++i) {
-            const int x = i % 8, y = i / 8;
-            model.quads.push_back(
-                {i, 1, {node(x, y), node(x + 1, y), node(x + 1, y + 1), node(x, y + 1)}, 0.2});
-        }
-        model.nodes.push_back({100, {4.5, -1.5, 4.0}});
-        model.nodes.push_back({101, {4.5, 9.5, -4.0}});
-        model.beams.push_back({1, 2, 1, {100, 101}});
-        SceneView view = viewOf(model, {0, 0, 1});
-        QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 1, 0})), 2);
-        QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 7, 0})), 1);
-    }
-
-    /// A small face among many bars does not make them all many.
-    void fewFaces()
-    {
-        Model model = storey();
-        for (vkd::dbo::Node& node : model.nodes)
-            node.position = along({}, 0.001, node.position);
-        for (int i = 0; i <= 40000; ++i)
-            model.nodes.push_back({100 + i, {double(i), double(i % 7), 1.0}});
-        for (int i = 0; i < 40000; ++i)
-            model.beams.push_back({100 + i, 5, 1, {100 + i, 101 + i}});
-        const size_t lines = buildGeometry(model).lines.size();
-        QVERIFY(lines >= 40002 && lines < 60000);
-    }
-
     void triangle()
     {
         Model model = squares();
