@@ -113,50 +113,6 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 0);
     }
 
-    /// The text is for programs: in each language it has a point.
-    void editing_data()
-    {
-        const Columns<QString, QString, QString, double> columns("typed", "shown", "text", "value");
-        const auto row = [&columns](const char* typed, const char* shown, const char* text,
-                                    double value) { columns(typed, typed, shown, text, value); };
-        row("3.50", "3.50", "3.50", 3.5);
-        row("3,5", "3.5", "3.5", 3.5);
-        row(" 3,5 ", " 3.5 ", " 3.5 ", 3.5);
-        row("3,5,", "3.5.", "7.5", 7.5);
-        row("abc", "abc", "7.5", 7.5);
-        row("-3", "-3", "7.5", 7.5);
-        row("0.5", "0.5", "7.5", 7.5);
-        row("1000", "1000", "7.5", 7.5);
-        row("", "", "7.5", 7.5);
-    }
-
-    void editing()
-    {
-        QFETCH(QString, typed);
-        setLanguage(German);
-        Dialog dialog;
-        dialog.size->setVal(7.5);
-        QCOMPARE(dialog.size->getText(), QStringLiteral("7.5"));
-        const auto state = [&dialog] {
-            return dialog.size->edit()->text() + QLatin1Char('|') + dialog.size->getText() +
-                   QLatin1Char('|') + QString::number(dialog.size->getVal());
-        };
-        QFETCH(QString, shown);
-        QFETCH(QString, text);
-        QFETCH(double, value);
-        const QString expected =
-            shown + QLatin1Char('|') + text + QLatin1Char('|') + QString::number(value);
-        dialog.type(qPrintable(typed));
-        QCOMPARE(state(), expected);
-        dialog.size->edit()->selectAll();
-        QApplication::clipboard()->setText(typed);
-        dialog.size->edit()->paste();
-        QCOMPARE(state(), expected);
-        if (!typed.isEmpty()) // which gets the default
-            QTest::keyClick(dialog.size->edit(), Qt::Key_Tab);
-        QCOMPARE(state(), expected);
-    }
-
     void pageWithARefusedNumber()
     {
         VKD_H_TabDialog tabs;

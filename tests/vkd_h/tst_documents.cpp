@@ -1,4 +1,3 @@
-#include "LanguageSupport.h"
 #include "TestSupport.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -56,23 +55,6 @@ private Q_SLOTS:
         QCOMPARE(host.exitCode(), 0);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
                  QStringList({QStringLiteral("a"), QStringLiteral("b")}));
-    }
-
-    void reasonOfAFailureInTheDesktopsLanguage()
-    {
-        const QString reasons[] = {
-            QStringLiteral("no.zob kann nicht geöffnet werden: die Datei ist "
-                           "nicht vorhanden oder kann nicht geöffnet werden"),
-            QStringLiteral("cannot open no.zob: the file is not there or "
-                           "cannot be opened")};
-        for (int language : {testsupport::German, testsupport::English}) {
-            testsupport::setLanguage(language);
-            QTest::ignoreMessage(QtWarningMsg, qUtf8Printable(reasons[testsupport::English]));
-            VkdStatus status;
-            QVERIFY(!VKD_H_ZOBDoc::open(QStringLiteral("no.zob"), &status));
-            QCOMPARE(status.code, int(VKD_ZOB_NO_FILE));
-            QCOMPARE(status.reason, reasons[language]);
-        }
     }
 };
 
