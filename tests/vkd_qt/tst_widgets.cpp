@@ -1,4 +1,3 @@
-#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_QT4_ComboBox.h>
@@ -16,7 +15,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QWheelEvent>
 
 using namespace testsupport;
 
@@ -106,32 +104,6 @@ private Q_SLOTS:
                  -1);
     }
 
-    void wheelOverACombo()
-    {
-        QWidget window;
-        VKD_QT4_ComboBox combo(&window, "combo");
-        QWidget other(&window);
-        other.setFocusPolicy(Qt::StrongFocus);
-        for (int id : {3, 4, 5})
-            combo.addEntry(QString::number(id), id);
-        window.show();
-        window.activateWindow();
-        const auto idAfterTheWheel = [&] {
-            QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton,
-                              Qt::NoModifier, Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(&combo, &wheel);
-            return combo.getCurrentId();
-        };
-        other.setFocus();
-        QCOMPARE(idAfterTheWheel(), 3);
-        combo.setFocus();
-        QTRY_VERIFY(combo.hasFocus());
-        QCOMPARE(idAfterTheWheel(), 3);
-        combo.addItem(QStringLiteral("without an id"));
-        combo.setCurrentIndex(3);
-        QCOMPARE(combo.getCurrentId(), VKD_QT4_ComboBox::NoId);
-    }
-
     void comboKeepsItsState()
     {
         VKD_QT4_ComboBox combo(nullptr, "cbo");
@@ -185,23 +157,6 @@ private Q_SLOTS:
         QCOMPARE(changed[1].first().value<QWidget*>(), pages[2]);
         dialog.okRow()->cmdOk()->click();
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    }
-
-    void cellButtonShowsThePresentText()
-    {
-        QTableWidget table(2, 1);
-        table.setItem(1, 0, new QTableWidgetItem);
-        table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("x")));
-        VKD_QT_TableWidgetButton button(&table, table.item(0, 0),
-                                        VKD_QT_TableWidgetButton::MarkBeside);
-        const int narrow = button.sizeHint().width();
-        table.item(0, 0)->setText(QStringLiteral("a much longer text"));
-        QVERIFY(button.sizeHint().width() > narrow);
-        table.removeRow(0); // the cell has gone before its button
-        table.item(0, 0)->setText(QStringLiteral("a text that is longer still"));
-        button.show();
-        button.repaint();
-        QVERIFY(button.sizeHint().width() <= narrow);
     }
 
     /// With a button over each cell of a column a change would otherwise ask for all of them.
