@@ -107,20 +107,6 @@ private Q_SLOTS:
         }
     }
 
-    void faults()
-    {
-        for (double bad : {0.0, -10.0, qQNaN()}) {
-            QCOMPARE(vkd_a_barFault({bad, 0.15, 1}), VkdBarFault::NoDiameter);
-            QCOMPARE(vkd_a_barFault({10.0, bad, 1}), VkdBarFault::NoSpacing);
-        }
-        QCOMPARE(vkd_a_barFault({10.0, 0.01, 1}), VkdBarFault::Overlap);
-        QCOMPARE(vkd_a_barFault({10.0, 0.0101, 1}), VkdBarFault::None);
-        QCOMPARE(vkd_a_barFault({10.0, 1e9, 1}), VkdBarFault::OutOfRange);
-        QCOMPARE(vkd_a_barFault({1e38, 1e38, 1}), VkdBarFault::OutOfRange);
-        QCOMPARE(vkd_a_leastClearDistance({10.0, 0.15, 1}), 20.0);
-        QCOMPARE(vkd_a_leastClearDistance({32.0, 0.15, 2}), 32.0 * std::sqrt(2.0));
-    }
-
     void begins_data()
     {
         // begin: diameter, spacing, number, row, column, present value

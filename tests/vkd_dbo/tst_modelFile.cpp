@@ -1,7 +1,6 @@
 #include "TestSupport.h"
 
 #include <vkd_dbo_model.h>
-#include <vkd_lib_searchpath.h>
 #include <vkd_zob.h>
 
 #include <QTemporaryDir>
@@ -14,45 +13,6 @@ class TestModelFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shipped_data()
-    {
-        // titles: in German and in English
-        const Columns<QString, int, QString, QVector<int>> row("file", "kind", "titles", "atLeast");
-        row("building", "models/building.json", 0,
-            "Bürogebäude mit zwei Geschossen|Two-storey office building",
-            {1000, 1000, 100, 0, 100});
-        row("slab", "models/slab.json", 20,
-            "Punktgestützte Flachdecke mit Balkon|Flat slab on columns with a balcony",
-            {1000, 1000, 0, 0, 0});
-        row("hall", "models/hall.json", 0,
-            "Industriehalle mit Kranbahn|Industrial hall with crane runway",
-            {500, 300, 200, 40, 400});
-    }
-
-    void shipped()
-    {
-        QFETCH(const QString, file);
-        QFETCH(const QString, titles);
-        QFETCH(const QVector<int>, atLeast);
-        const auto path = vkd_lib_searchpath(file.toUtf8(), 3);
-        QVERIFY(path);
-        Model models[2];
-        for (int language : {0, 1}) {
-            Model& m = models[language];
-            QVERIFY(readModelFile(QString::fromStdString(*path), language, &m).isOk());
-            QCOMPARE(m.system.title, titles.section(QLatin1Char('|'), language, language));
-            QTEST(m.system.kindOfSystem, "kind");
-            const QVector<int> counts{m.nodes.size(), m.quads.size(), m.beams.size(),
-                                      m.bricks.size(), m.springs.size()};
-            for (int i = 0; i < counts.size(); ++i)
-                QVERIFY(counts[i] >= atLeast[i] && (counts[i] == 0) == (atLeast[i] == 0));
-            QVERIFY(m.loadCases.size() >= 10 && m.groups.size() >= 4 && m.axes.size() >= 7);
-            QVERIFY(m.secondaryGroups.size() >= 2 && !m.sectionCuts[0].title.isEmpty());
-        }
-        for (int i = 0; i < models[0].groups.size(); ++i)
-            QVERIFY(models[0].groups[i].title != models[1].groups[i].title);
-    }
-
     void allowed()
     {
         writeFile(R"("supports": [[1, "z rx"], [2, ""], [3, "x y z rx ry rz"]],

@@ -137,23 +137,6 @@ private Q_SLOTS:
         }
     }
 
-    void refusedModelLeavesTheOldOne()
-    {
-        const Model old = shipped("slab");
-        QVERIFY(storeModel(m_index, old).isOk());
-        for (const char* line : {"cannot store the changes in .*holds", // found out by the release
-                                 "cannot take the lock of .*write-protected"}) {
-            int index = -1, length = 0;
-            QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index).code, int(VKD_ZOB_OK));
-            vkd_zob_get(m_index, 20, 0, nullptr, &length, 0); // a pass that holds off who stores
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(line)));
-            QVERIFY(!storeModel(index, shipped("hall")).isOk());
-            QVERIFY(readModel(index) == old);
-            vkd_zob_close(index);
-            QFile::setPermissions(m_path, QFile::ReadOwner);
-        }
-    }
-
     void cancelledWorkLeavesTheOldModel()
     {
         const VkdGoOn no = [](int) { return false; };

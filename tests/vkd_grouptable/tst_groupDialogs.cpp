@@ -133,18 +133,6 @@ private Q_SLOTS:
         QVERIFY(storeModel(m_project.index(), sample()).isOk());
     }
 
-    void confirmedAsItIs()
-    {
-        const QList<QPair<Groups, Groups>> cases{{{}, {}},
-                                                 {{12, 2, 12}, {2, 12}},
-                                                 {{-1}, {-1}},
-                                                 {{77, 3, 0}, {0, 3, 77}}, // not in the model
-                                                 {{Cols, 2, Old}, {2, Old, Cols}}};
-        for (const auto& [checked, result] : cases)
-            QCOMPARE(confirmed(checked, [](const Driver& driver) { driver.enter("groups"); }),
-                     result);
-    }
-
     /// Whatever was checked before is only where picking may begin, and nothing is picked yet.
     void leftWithoutOk()
     {
@@ -258,22 +246,6 @@ private Q_SLOTS:
             driver.pressOk();
         });
         QCOMPARE(groups, (Groups{12, 77}));
-    }
-
-    void spaceTogglesSelectedRows()
-    {
-        const Groups groups = confirmed({2}, [](const Driver& driver) {
-            const QString one = QStringLiteral("1"), two = QStringLiteral("2");
-            driver.view()->model()->sort(1, Qt::DescendingOrder);
-            QCOMPARE(driver.shown(), QStringLiteral("4 3 1 2 12"));
-            driver.select({one, two, QStringLiteral("12")});
-            QTest::keyClick(driver.view(), Qt::Key_Space); // mixed: all of them
-            QVERIFY(driver.labelText("count").startsWith(QLatin1String("3 of 5 groups checked")));
-            driver.select({one, two});
-            QTest::keyClick(driver.view(), Qt::Key_Space);
-            driver.enter("groups");
-        });
-        QCOMPARE(groups, Groups{12});
     }
 
     void secondaryGroups()

@@ -64,19 +64,6 @@ sub => none
         QCOMPARE(vkd_lib_convtext(1, 1, "NUL"), std::string(" none ")); // blanks stay
     }
 
-    void badTextLine()
-    {
-        for (const char* line :
-             {"0|BAD|German", "0|BAD|German|English|more", "O|BAD|German|English"}) {
-            init(); // the texts of a file are read once
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("/p.txt:2: .")));
-            useTexts("0|ONE|eins|one\n" + QByteArray(line) + "\n0|TWO|zwei|two\n");
-            QCOMPARE(vkd_lib_convtext(0, 1, "ONE") + vkd_lib_convtext(0, 1, "TWO"),
-                     std::string("onetwo"));
-            QCOMPARE(vkd_lib_convtext(0, 1, "BAD"), std::string());
-        }
-    }
-
     void missingTexts()
     {
         useTexts("0|ONE|eins|one\n");

@@ -84,22 +84,6 @@ private Q_SLOTS:
         }
     }
 
-    void topicWithoutItsPage()
-    {
-        const QTemporaryDir share;
-        const QString folder = share.filePath(QStringLiteral("help/bk/en/"));
-        QDir().mkpath(folder);
-        writeFile(folder + QLatin1String("index.txt"), "AA|One\nBB|Two\n");
-        writeFile(folder + QLatin1String("bb.html"), "<h1>Two</h1>");
-        const QByteArray before = qgetenv("VKD_SHARE");
-        qputenv("VKD_SHARE", QFile::encodeName(share.path()));
-        QTest::ignoreMessage(QtWarningMsg, "no help: the book bk has no topic AA");
-        const bool isShown[] = {show(nullptr, "AA", "bk"), show(nullptr, "BB", "bk")};
-        qputenv("VKD_SHARE", before);
-        QVERIFY(!isShown[0] && isShown[1]);
-        QCOMPARE(inHelp<QListWidget>("contents")->count(), 1);
-    }
-
     void wayBack()
     {
         QVERIFY(!inHelp<QAction>("back")->isEnabled());
@@ -241,17 +225,6 @@ private Q_SLOTS:
         QCOMPARE(host(), dialog->windowHandle());
         dialog.reset();
         QCOMPARE(host(), main->windowHandle());
-        main.reset();
-        QVERIFY(helpWindows().isEmpty());
-    }
-
-    void goesWithItsParentsAtOnce()
-    {
-        QScopedPointer<QWidget> main(new QWidget);
-        auto dialog = new QDialog(main.data());
-        main->show();
-        dialog->show();
-        QVERIFY(show(dialog, "PARA"));
         main.reset();
         QVERIFY(helpWindows().isEmpty());
     }
