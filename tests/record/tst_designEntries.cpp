@@ -123,28 +123,6 @@ private Q_SLOTS:
         plib::writeRowsToEntries(data, page); // the empty one stops the clean-up too
         QVERIFY(!page.getEntry(QStringLiteral("MerPara3"), QString()).isNull());
     }
-
-    void pageIsKeptInTheProject()
-    {
-        testsupport::TemporaryProject project;
-        const QString path = project.doc->path();
-        const QString longText(5000, QLatin1Char('x'));
-        VKD_H_ProjectDialogPage page(project.index(), 3);
-        page.setEntry(QStringLiteral("ä"), QString());
-        for (const char* key : {"b", "c"})
-            page.setEntry(QLatin1String(key), longText);
-        page.deleteEntry(QStringLiteral("c"));
-        QVERIFY(page.save().isOk());
-        QVERIFY(project.doc->close().isOk());
-        project.doc = VKD_H_ZOBDoc::open(path);
-        const QString none = QStringLiteral("none");
-        const VKD_H_ProjectDialogPage again(project.index(), 3);
-        QCOMPARE(again.getEntry(QStringLiteral("ä"), none), QString());
-        QCOMPARE(again.getEntry(QStringLiteral("b"), none), longText);
-        QCOMPARE(again.getEntry(QStringLiteral("c"), none), none);
-        const VKD_H_ProjectDialogPage other(project.index(), 4);
-        QCOMPARE(other.getEntry(QStringLiteral("b"), none), none);
-    }
 };
 
 PLIB_TEST_MAIN(TestDesignEntries)

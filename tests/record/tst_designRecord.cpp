@@ -170,19 +170,6 @@ private Q_SLOTS:
         negativeZero.rio = -0.0F;
         QVERIFY(plib::recordsEqual(zero, negativeZero));
     }
-
-    void littleEndianBytes()
-    {
-        R record{};
-        record.group = 0x04030201;
-        record.sigui = 1.0F; // 0x3F800000
-        const auto words = plib::toBytes(record);
-        const QByteArray bytes(words.data(), int(words.size()));
-        QCOMPARE(bytes.left(4).toHex(), QByteArray("01020304"));
-        QCOMPARE(bytes.right(4).toHex(), QByteArray("0000803f"));
-        const R back = plib::fromBytes(words);
-        QVERIFY(std::memcmp(&back, &record, sizeof record) == 0);
-    }
 };
 
 PLIB_TEST_MAIN(TestDesignRecord)

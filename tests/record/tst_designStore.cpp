@@ -3,7 +3,6 @@
 
 #include <record/designRecord.h>
 #include <record/designStore.h>
-#include <vkd_lib_value.h>
 #include <vkd_zob.h>
 
 #include <limits>
@@ -163,22 +162,6 @@ private Q_SLOTS:
         QCOMPARE(read().rows[0].record.hioq, 0.045F - 0.035F);
     }
 
-    /// Whoever reads sees all of a writer's rows or none: the project is taken once for all puts.
-    void writingTakesTheProject()
-    {
-        put(record(1, 1));
-        const auto other = VKD_H_ZOBDoc::open(m_project->doc->path());
-        auto rows = data();
-        rows.rows = {{nullptr, record(0, 5), {2, 3}}, {nullptr, record(0, 6), {4}}};
-        vkd_zob_lock_ex(other->index(), 200, 6);
-        vkd_lib_setvalue(201, 30);
-        QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(QStringLiteral("cannot take the lock"))); // once
-        write(rows, true);
-        vkd_zob_free_ex(other->index(), 200, 6);
-        QCOMPARE(text(read()), QStringLiteral("1:1"));
-    }
-
     void foreignRecordsGoToTheScratchStore()
     {
         R foreign = record(8, 8);
@@ -232,8 +215,9 @@ private:
         return rows;
     }
 
-    void write(plib::DesignParameterData& rows, bool converted = false)
+    void write(plib::DesignParameterData& rows)
     {
+        bool converted = false;
         plib::writeRowsToZob(rows, converted);
     }
 
