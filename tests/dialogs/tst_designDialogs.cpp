@@ -209,24 +209,13 @@ private Q_SLOTS:
         QVERIFY(!dialog->isVisible());
     }
 
-    /// OK comes from the dialog's own button, and none of the dialogs asks its fields itself.
-    void refusedTexts()
+    /// Half a turn back is usual around a point.
+    void usualDirections()
     {
         tagZOB_QUAD_RIM record = unevenRecord(4);
-        const auto isHeld = [](QDialog* dialog, QLineEdit* field) {
-            field->setText(QStringLiteral("1.234,5"));
-            pressOk(dialog);
-            const QWidget* focused = dialog->focusWidget();
-            return dialog->isVisible() && (focused == field || focused == field->focusProxy());
-        };
-        const auto directions = open<dlgDistanceDirection>(&record);
-        QVERIFY(isHeld(directions.get(), find<QLineEdit>(*directions, "zref")));
-        const auto reinforcement = open<dlgReinforcement>(&record);
-        QVERIFY(isHeld(reinforcement.get(), find<QLineEdit>(*reinforcement, "amuq")));
-        const auto cracks = open<dlgCrackControl>(&record);
-        QVERIFY(isHeld(cracks.get(), find<QComboBox>(*cracks, "m_pSIGU")->lineEdit()));
-        auto direction = find<VKD_H_LineEdit>(*directions, "rio");
-        direction->setText(QStringLiteral("-90")); // around a point
+        const auto dialog = open<dlgDistanceDirection>(&record);
+        auto direction = find<VKD_H_LineEdit>(*dialog, "rio");
+        direction->setText(QStringLiteral("-90"));
         QCOMPARE(direction->doubt(), QString());
         direction->setText(QStringLiteral("-181"));
         QVERIFY(!direction->doubt().isEmpty());
@@ -278,33 +267,6 @@ private Q_SLOTS:
         QCOMPARE(record.sigu, 450.0F);
         QCOMPARE(record.wko, 0.25F);
         QCOMPARE(width->count(), 3);
-    }
-
-    /// What is typed first replaces the value of the first field, and Enter is OK.
-    void typedRightAfterOpening()
-    {
-        tagZOB_QUAD_RIM record = unevenRecord(2);
-        dlgDistanceDirection dialog(&record, nullptr);
-        whenModal([](QWidget* opened) {
-            QVERIFY(QTest::qWaitForWindowActive(opened));
-            QTest::keyClicks(opened->focusWidget(), QStringLiteral("45"));
-            QTest::keyClick(opened->focusWidget(), Qt::Key_Enter);
-        });
-        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-        dialog.writeToRecord(&record);
-        QCOMPARE(record.rio, 0.785398185F);
-    }
-
-    void noteIsWhole()
-    {
-        for (int type : {1, 2, 3, 4}) {
-            tagZOB_QUAD_RIM record = unevenRecord(type);
-            const auto dialog = open<dlgDistanceDirection>(&record);
-            QApplication::processEvents();
-            for (QLabel* label : dialog->findChildren<QLabel*>())
-                if (label->wordWrap())
-                    QVERIFY(label->height() >= label->heightForWidth(label->width()));
-        }
     }
 
 private:
