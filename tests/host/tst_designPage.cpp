@@ -4,7 +4,6 @@
 
 #include <vkd_dbo_model.h>
 #include <VKD_H_ProjectDialogPage.h>
-#include <VKD_H_SelGRP_Dialog.h>
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -343,32 +342,6 @@ private Q_SLOTS:
         desk.table()->setCurrentCell(0, 0);
         desk.table()->setCurrentCell(1, 1);
         QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|None|None|None"));
-    }
-
-    void detourOutOfTheDialog()
-    {
-        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 1, 1)});
-        desk.hide();
-        const std::pair<std::vector<int>, const char*> ways[] = {
-            {{4, 2}, "2;4"}, {{3}, "3"}, {{}, "1"}};
-        for (const auto& way : ways) {
-            whenModal([&](QWidget*) {
-                desk.table()->setCurrentCell(1, 0);
-                if (way.first.empty()) {
-                    confirmGroups(QStringLiteral("1"));
-                    desk.press("buttonGroups");
-                }
-                whenModal([](QWidget* groups) { find<QPushButton>(*groups, "pick")->click(); });
-                desk.press("buttonGroups");
-            });
-            QCOMPARE(desk.exec(), 6);
-            if (!way.first.empty()) // who picks nothing keeps what the row had, not the last pick
-                VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->doc()->index(), way.first);
-            whenModal([&desk](QWidget*) { desk.accept(); });
-            QCOMPARE(desk.exec(), int(QDialog::Accepted));
-            QCOMPARE(desk.groupCombo()->currentText(), QLatin1String(way.second));
-            desk.table()->setCurrentCell(1, 1);
-        }
     }
 
     /// What is chosen in the list of types is in the cell already, and counts without another key.

@@ -219,16 +219,6 @@ private Q_SLOTS:
         QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("0.2"));
     }
 
-    void thePrefixPage()
-    {
-        Desk desk(m_project, VKD_P_GraphicalOutput_Prefix);
-        std::vector<QString> lines;
-        desk.page.getTORVAL_LFs(lines, true);
-        QVERIFY(!lines.empty());
-        QVERIFY(desk.page.getTORVAL(QStringLiteral("ahead\n"), true)
-                    .contains(QLatin1String("FORM STAN\nahead\n") + lines[0]));
-    }
-
 private:
     HostProject m_project{QStringLiteral("slab")};
 };

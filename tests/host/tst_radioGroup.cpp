@@ -1,14 +1,12 @@
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
-#include <QtTableView.h>
 #include <VKD_P_RadioGroup>
 
 #include <QHBoxLayout>
 #include <QRadioButton>
 
 using Group = VKD_P_RadioGroup;
-using vkd::properties::nextGen::QtTableView;
 
 namespace {
 enum class Form { All, LoadCases, Echo };
@@ -125,18 +123,6 @@ private Q_SLOTS:
         QVERIFY(desk.plain->children().isEmpty());
     }
 
-    void loadCaseButtonsOnDemand()
-    {
-        const auto row = [](const std::list<Group::ButtonID>& ids) {
-            return Desk(Form::LoadCases, ids).row();
-        };
-        QCOMPARE(row({Group::All_NONF, Group::All_A, Group::All_NONF}),
-                 QStringLiteral("Manually|All Accidential|All Non-Frequent|-"));
-        QCOMPARE(row({Group::All, Group::NoTextOutput, Group::Manually, Group::ButtonID(-1),
-                      Group::ButtonID(10)}),
-                 QStringLiteral("Manually|-"));
-    }
-
     void clicks_data()
     {
         // Places in the row.
@@ -182,31 +168,6 @@ private Q_SLOTS:
                 QCOMPARE(shown->plain->isEnabled(), !coupled || to == 0);
             }
         }
-    }
-
-    void silentUntilCoupled()
-    {
-        Desk desk(Form::LoadCases);
-        desk.button(0)->click();
-        desk.group->setSelectedId(Group::All_A);
-        desk.group->updateUsedWidget();
-        desk.group->readXML(desk.group->writeXML());
-        QCOMPARE(desk.signalsSent(), QString());
-        desk.group->useWidget(desk.plain);
-        QCOMPARE(desk.signalsSent(), QStringLiteral("~3"));
-    }
-
-    /// A table can be read and scrolled, also while it is not the user's to change.
-    void coupledTable()
-    {
-        Desk desk(Form::Echo);
-        QtTableView table;
-        desk.group->useWidget(&table);
-        QVERIFY(desk.plain->isEnabled() && !table.is_read_only());
-        desk.button(2)->click();
-        QVERIFY(table.isEnabled() && table.is_read_only());
-        desk.button(0)->click();
-        QVERIFY(table.isEnabled() && !table.is_read_only());
     }
 
     void byId()
