@@ -81,17 +81,12 @@ private Q_SLOTS:
     void settingsChangeTheScript_data()
     {
         const Columns<QString> row("line");
-        row("--set scaleMode=0", "SIZE -URS SC - SPLI  2x1 MARG NO FORM STAN");
-        row("--set scaleText=1:50", "SIZE -URS SC 50*1.e+10 SPLI  2x1 MARG NO FORM STAN");
         row("--set scaleText=1:50 --set scaleIndex=8",
             "SIZE -URS SC 100*1.e+10 SPLI  2x1 MARG NO FORM STAN");
         row("--set scaleIndex=8 --set scaleMode=1", "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN");
         row("--set picturesId=0 --set formatId=0",
             "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // as one click after the other
-        row("--set formatId=1", "SIZE URS SC 0 MARG NO FORM STAN");
         row("--set hasFormat=0", "SIZE URS SC 0 MARG NO FORM STAN");
-        row("--set picturesId=0", "SIZE -URS SC 0 MARG NO FORM STAN");
-        row("--set viewId=1", "VIEW TYPE EGXZ ; PERS INFI");
         row("--set viewId=4", "VIEW TYPE STAN 1 -2 1 ROTA 0");
         row("--set fontSizeText=3,5", "SCHH H6 0.35");
         row("--set fillAreas=1", "#define FILLI=AREA");

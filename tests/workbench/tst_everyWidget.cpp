@@ -19,7 +19,6 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 
 using workbench::MainWindow;
 
@@ -96,49 +95,6 @@ private Q_SLOTS:
                         faults << QStringLiteral("not in German: %1").arg(text);
         });
         QVERIFY2(faults.isEmpty(), qPrintable(QLatin1Char('\n') + faults.join(QLatin1Char('\n'))));
-    }
-
-    void faultsAreFound_data()
-    {
-        const Columns<Visit> row("spoil");
-        row("has no accessible name",
-            [](QWidget& window) { find<QLineEdit>(window, "last")->setAccessibleName(QString()); });
-        row("has the accessible name \"First/\"", [](QWidget& window) {
-            find<QLineEdit>(window, "last")->setAccessibleName(QStringLiteral("First"));
-        });
-        row("is cut", [](QWidget& window) { find<QCheckBox>(window, "check")->setFixedWidth(30); });
-        row("cuts its text", [](QWidget& window) {
-            find<QLineEdit>(window, "last")->setPlaceholderText(QString(200, QLatin1Char('w')));
-        });
-        row("by Tab", [](QWidget& window) {
-            QWidget::setTabOrder(find<QLineEdit>(window, "last"), find<QLineEdit>(window, "first"));
-        });
-        row("is also that of", [](QWidget& window) {
-            find<QCheckBox>(window, "check")->setText(QStringLiteral("&Fill"));
-        });
-    }
-
-    /// The name of the row is a part of the fault.
-    void faultsAreFound()
-    {
-        QFETCH(const Visit, spoil);
-        QWidget window;
-        auto layout = new QVBoxLayout(&window);
-        const auto add = [layout](QWidget* widget, const char* name, const char* spoken) {
-            widget->setObjectName(QLatin1String(name));
-            widget->setAccessibleName(QLatin1String(spoken));
-            layout->addWidget(widget);
-        };
-        add(new QLineEdit(&window), "first", "First");
-        add(new QLineEdit(&window), "last", "Last");
-        add(new QCheckBox(QStringLiteral("Choose &all"), &window), "check", "");
-        add(new QPushButton(QStringLiteral("&Find"), &window), "button", "");
-        window.show();
-        QCOMPARE(testsupport::faults(window), QStringList());
-        spoil(window);
-        QVERIFY(testsupport::faults(window)
-                    .join(QLatin1Char('\n'))
-                    .contains(QLatin1String(QTest::currentDataTag())));
     }
 
 private:
