@@ -117,6 +117,12 @@ private Q_SLOTS:
             QVERIFY2(readModel(m_index) == model, name);
             QVERIFY(readLoadCases(m_index) == model.loadCases);
             QCOMPARE(getKindOfSystem(m_index, nullptr), model.system.kindOfSystem);
+            constexpr int Scratch = 0;
+            QVERIFY(copySystem(m_index, Scratch).isOk());
+            Model copy;
+            copy.system = model.system;
+            QVERIFY(readModel(Scratch) == copy);
+            QVERIFY(modelMark(Scratch) != modelMark(m_index)); // views share geometry by mark
         }
         QVERIFY(storeModel(m_index, Model()).isOk());
         QVERIFY(readModel(m_index) == Model());

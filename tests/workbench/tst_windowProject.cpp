@@ -1,5 +1,7 @@
 #include "ProjectTest.h"
 
+#include <vkd_dbo_model.h>
+#include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 
 #include <QComboBox>
@@ -125,6 +127,25 @@ private Q_SLOTS:
                  isOpen ? QStringLiteral("theirs") : QStringLiteral("mine"));
         QCOMPARE(vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE), deadline);
         QVERIFY(!QApplication::overrideCursor());
+    }
+
+    /// The dialog works on a copy of the records, which needs the kind of system, too.
+    void planeSystemHasNoDistances()
+    {
+        {
+            const auto document = VKD_H_ZOBDoc::open(copy("plane.zob"));
+            vkd::dbo::Model model = vkd::dbo::readModel(document->index());
+            model.system.kindOfSystem = 10;
+            QVERIFY(vkd::dbo::storeModel(document->index(), model).isOk());
+        }
+        const auto window = reopen("plane.zob");
+        QStringList cells;
+        whenModal([&](QWidget* dialog) {
+            cells = cellTexts(*dialog);
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+        trigger(*window, "Design");
+        QCOMPARE(cells.value(2), QStringLiteral("0.0\u00B0 ;0.0\u00B0\n -  ; -  ; -  ; -  ;"));
     }
 
     void designIsNotLost_data()

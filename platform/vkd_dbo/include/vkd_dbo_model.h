@@ -169,6 +169,11 @@ VKD_DBO_EXPORT VkdStatus readModelFile(const QString& path, int language, Model*
 /// code is a VkdZobStatus; it is VKD_ZOB_CANCELLED if `goOn` returned false.
 VKD_DBO_EXPORT VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
 
+/// Copies the system information of a project, and no other part of its model, to another store,
+/// for pages that work on a copy of some records. A project without a model is of kind 0,
+/// as for getKindOfSystem(), and so is one with damaged system information.
+VKD_DBO_EXPORT VkdStatus copySystem(int from, int to);
+
 /// Reads the model of the project in one snapshot; empty if the project has no model. If `goOn`
 /// returned false or the store failed, returns the part that was read until then. Records that are
 /// too short are left out. `status`, if given, receives OK if nothing is missing, VKD_ZOB_CANCELLED

@@ -40,6 +40,13 @@ VkdStatus statusOfEnd(int index, cd_error_t last)
     return VkdStatus::failure(last, vkd_zob_last_failure(index).reason);
 }
 
+/// Returns the record of the system information. Random bytes after the fields identify the model,
+/// see modelMark().
+QByteArray newSystemRecord(const SystemInformation& system)
+{
+    return toRecords(QVector<SystemInformation>{system}).first() + QUuid::createUuid().toRfc4122();
+}
+
 /// Decodes the system information from the mark of a model, which is its record, see modelMark().
 SystemInformation systemOf(int index, const QByteArray& mark, VkdStatus* status)
 {
@@ -115,13 +122,24 @@ VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn)
     forEachList(model, [&total](KeyPair, const auto& things) { total += things.size(); });
     VkdSteps steps(goOn, total);
     ZobTransaction change(index);
-    // Random bytes after the fields identify this model, see modelMark().
-    QByteArray system = toRecords(QVector<SystemInformation>{model.system}).first();
-    system += QUuid::createUuid().toRfc4122();
-    bool done = change.status().isOk() && putRecords(index, keys::System, {system});
+    bool done =
+        change.status().isOk() && putRecords(index, keys::System, {newSystemRecord(model.system)});
     forEachList(model, [&](KeyPair pair, const auto& things) {
         done = done && putRecords(index, pair, toRecords(things), &steps);
     });
+    return done ? change.commit() : change.rollback();
+}
+
+VkdStatus copySystem(int from, int to)
+{
+    QByteArray mark;
+    VkdStatus status = readMark(from, &mark);
+    const SystemInformation system = systemOf(from, mark, &status);
+    if (!mayContinue(status))
+        return status;
+    ZobTransaction change(to);
+    const bool done =
+        change.status().isOk() && putRecords(to, keys::System, {newSystemRecord(system)});
     return done ? change.commit() : change.rollback();
 }
 

@@ -7,7 +7,6 @@
 #include "window/support/withinScreen.h"
 
 #include <vkd_dbo_model.h>
-#include <vkd_dbo_queries.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter>
 #include <VKD_P_DesignParameter_Role.h>
@@ -85,14 +84,12 @@ cd_error_t DesignDialog::load()
     if (status == VKD_ZOB_OK)
         status = m_seen.look(m_document->index());
     if (status == VKD_ZOB_OK)
+        status = vkd::dbo::copySystem(m_document->index(), m_desk->index()).code;
+    if (status == VKD_ZOB_OK)
         status = copyRecords(m_document->index(), m_desk->index());
-    if (status != VKD_ZOB_OK)
-        return status;
-    m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
-    vkd::dbo::Model model; // of which the page looks at the kind of system only
-    model.system.kindOfSystem = vkd::dbo::getKindOfSystem(m_document->index(), nullptr);
-    vkd::dbo::storeModel(m_desk->index(), model);
-    return VKD_ZOB_OK;
+    if (status == VKD_ZOB_OK)
+        m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
+    return status;
 }
 
 /// The buttons are made anew, too, so that they follow the page in the order of the tab key.
