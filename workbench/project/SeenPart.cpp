@@ -2,36 +2,37 @@
 
 #include "project/projectKeys.h"
 
+#include <vkd_zob_keys.h>
 #include <ZobTransaction.h>
 
 #include <QCryptographicHash>
 
-#include <utility>
 #include <vector>
 
 namespace workbench {
 
 namespace {
-using KeyPair = std::pair<int, int>;
+using vkd::zob::KeyPair;
+namespace keys = vkd::zob::keys;
 
 std::vector<KeyPair> keysOf(ProjectPart part)
 {
     switch (part) {
-    case ProjectPart::Design: return {{DesignKey1, DesignKey2}, {DialogPageKey, DesignDialogPage}};
-    case ProjectPart::Output: return {{DialogPageKey, OutputDialogPage}};
-    case ProjectPart::TextOutput: return {{DialogPageKey, TextOutputDialogPage}};
+    case ProjectPart::Design: return {keys::Design, keys::dialogPage(DesignDialogPage)};
+    case ProjectPart::Output: return {keys::dialogPage(OutputDialogPage)};
+    case ProjectPart::TextOutput: return {keys::dialogPage(TextOutputDialogPage)};
     }
     return {};
 }
 
 /// Adds the records of a sequence, each with its length, and a mark for its end.
-cd_error_t addRecords(int index, KeyPair keys, QCryptographicHash& hash)
+cd_error_t addRecords(int index, KeyPair pair, QCryptographicHash& hash)
 {
     QByteArray record(1024, Qt::Uninitialized);
     cd_error_t status = VKD_ZOB_OK;
     for (int position = 0; status == VKD_ZOB_OK;) {
         int length = record.size();
-        status = vkd_zob_get(index, keys.first, keys.second, record.data(), &length, position);
+        status = vkd_zob_get(index, pair.key1, pair.key2, record.data(), &length, position);
         if (status == VKD_ZOB_CUT) {
             record.resize(2 * record.size());
             status = VKD_ZOB_OK;
@@ -41,7 +42,7 @@ cd_error_t addRecords(int index, KeyPair keys, QCryptographicHash& hash)
             ++position;
         }
     }
-    vkd_zob_free_ex(index, keys.first, keys.second);
+    vkd_zob_free_ex(index, pair.key1, pair.key2);
     hash.addData("end");
     const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
     return isWhole ? cd_error_t(VKD_ZOB_OK) : status;
@@ -50,8 +51,8 @@ cd_error_t addRecords(int index, KeyPair keys, QCryptographicHash& hash)
 cd_error_t readDigest(int index, ProjectPart part, QByteArray* digest)
 {
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    for (const KeyPair& keys : keysOf(part))
-        if (const cd_error_t status = addRecords(index, keys, hash); status != VKD_ZOB_OK)
+    for (const KeyPair pair : keysOf(part))
+        if (const cd_error_t status = addRecords(index, pair, hash); status != VKD_ZOB_OK)
             return status;
     *digest = hash.result();
     return VKD_ZOB_OK;

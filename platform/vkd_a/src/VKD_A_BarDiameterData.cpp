@@ -2,6 +2,7 @@
 
 #include <vkd_h_units.h>
 #include <vkd_zob.h>
+#include <vkd_zob_keys.h>
 
 #include <QtEndian>
 
@@ -9,8 +10,7 @@
 #include <cmath>
 
 namespace {
-constexpr int BarKey1 = 15; // the project's own bars, one little-endian float per record
-constexpr int BarKey2 = 0;
+using vkd::zob::keys::Bars;
 
 QVector<float> commonBars()
 {
@@ -25,13 +25,13 @@ bool VKD_A_BarDiameterData::load(int index)
     for (int position = 0; status <= VKD_ZOB_CUT; ++position) {
         quint32 bytes = 0;
         int length = sizeof bytes;
-        status = vkd_zob_get(index, BarKey1, BarKey2, &bytes, &length, position);
+        status = vkd_zob_get(index, Bars.key1, Bars.key2, &bytes, &length, position);
         const float diameter = qFromLittleEndian<float>(&bytes);
         if (status == VKD_ZOB_OK && length == int(sizeof bytes) && diameter > 0 &&
             std::isfinite(diameter))
             m_diameters.append(diameter);
     }
-    vkd_zob_free_ex(index, BarKey1, BarKey2);
+    vkd_zob_free_ex(index, Bars.key1, Bars.key2);
     std::sort(m_diameters.begin(), m_diameters.end());
     if (m_diameters.isEmpty())
         m_diameters = commonBars();

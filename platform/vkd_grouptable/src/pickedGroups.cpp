@@ -3,6 +3,7 @@
 #include "VKD_H_SelGRP_Dialog.h"
 
 #include <vkd_zob.h>
+#include <vkd_zob_keys.h>
 #include <ZobTransaction.h>
 
 #include <QByteArray>
@@ -16,8 +17,7 @@
 namespace {
 Q_LOGGING_CATEGORY(lcPicked, "vkd.grouptable")
 
-constexpr int Key1 = 430;
-constexpr int Key2 = 0;
+using vkd::zob::keys::PickedGroups;
 constexpr int WordLength = sizeof(qint32);
 
 QByteArray word(int value)
@@ -63,11 +63,12 @@ QByteArray readRecord(int index)
     QByteArray bytes(1024, Qt::Uninitialized);
     int length = bytes.size();
     cd_error_t status = VKD_ZOB_OK;
-    while ((status = vkd_zob_get(index, Key1, Key2, bytes.data(), &length, 0)) == VKD_ZOB_CUT) {
+    while ((status = vkd_zob_get(index, PickedGroups.key1, PickedGroups.key2, bytes.data(), &length,
+                                 0)) == VKD_ZOB_CUT) {
         bytes.resize(2 * bytes.size());
         length = bytes.size();
     }
-    vkd_zob_free_ex(index, Key1, Key2);
+    vkd_zob_free_ex(index, PickedGroups.key1, PickedGroups.key2);
     return status == VKD_ZOB_OK ? bytes.left(length) : QByteArray();
 }
 
@@ -78,9 +79,9 @@ VkdStatus replaceRecord(int index, const QByteArray& record)
     const int length = record.size();
     ZobTransaction change(index);
     if (change.status().isOk())
-        vkd_zob_put(index, Key1, Key2, nullptr, &none, 0);
+        vkd_zob_put(index, PickedGroups.key1, PickedGroups.key2, nullptr, &none, 0);
     if (change.status().isOk() && length > 0)
-        vkd_zob_put(index, Key1, Key2, record.constData(), &length, 1);
+        vkd_zob_put(index, PickedGroups.key1, PickedGroups.key2, record.constData(), &length, 1);
     return change.commit();
 }
 } // namespace
@@ -93,7 +94,7 @@ bool readPickedGroups(int index, std::vector<int>& groups)
     const bool isSound = fromRecord(record, groups);
     if (!isSound)
         qCWarning(lcPicked, "database %d: the record of picked groups under %d, %d is damaged",
-                  index, Key1, Key2);
+                  index, PickedGroups.key1, PickedGroups.key2);
     return isSound;
 }
 

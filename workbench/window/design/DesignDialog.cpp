@@ -12,6 +12,7 @@
 #include <VKD_P_DesignParameter_Role.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_Ok.h>
+#include <vkd_zob_keys.h>
 #include <ZobSnapshot.h>
 
 #include <QPushButton>
@@ -23,25 +24,27 @@ namespace workbench {
 namespace {
 constexpr int OkAndCancel = 3;
 
+using vkd::zob::keys::Design;
+
 /// Puts the design records of a store in place of those of another one.
 cd_error_t copyRecords(int from, int to)
 {
     int length = 0;
-    cd_error_t put = vkd_zob_put(to, DesignKey1, DesignKey2, nullptr, &length, 0);
+    cd_error_t put = vkd_zob_put(to, Design.key1, Design.key2, nullptr, &length, 0);
     QByteArray record(1024, Qt::Uninitialized);
     cd_error_t status = VKD_ZOB_OK;
     for (int position = 0; put == VKD_ZOB_OK && status == VKD_ZOB_OK;) {
         length = record.size();
-        status = vkd_zob_get(from, DesignKey1, DesignKey2, record.data(), &length, position);
+        status = vkd_zob_get(from, Design.key1, Design.key2, record.data(), &length, position);
         if (status == VKD_ZOB_CUT) {
             record.resize(2 * record.size());
             status = VKD_ZOB_OK;
         } else if (status == VKD_ZOB_OK) {
-            put = vkd_zob_put(to, DesignKey1, DesignKey2, record.constData(), &length, 1);
+            put = vkd_zob_put(to, Design.key1, Design.key2, record.constData(), &length, 1);
             ++position;
         }
     }
-    vkd_zob_free_ex(from, DesignKey1, DesignKey2);
+    vkd_zob_free_ex(from, Design.key1, Design.key2);
     const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
     return put != VKD_ZOB_OK || isWhole ? put : status;
 }

@@ -1,10 +1,9 @@
 #include "window/records/RecordTableModel.h"
 
-#include "project/projectKeys.h"
-
 #include <tagZOB_QUAD_RIM_Words.h>
 #include <vkd_h_units.h>
 #include <vkd_zob.h>
+#include <vkd_zob_keys.h>
 
 #include <cstring>
 #include <iterator>
@@ -15,6 +14,7 @@ namespace workbench {
 namespace {
 using vkd::plib::designparameter::RecordWord;
 using vkd::plib::designparameter::RecordWords;
+using vkd::zob::keys::Design;
 
 constexpr int WordCount = std::size(RecordWords);
 
@@ -41,7 +41,7 @@ void RecordTableModel::read(int index)
     m_records.clear();
     Record record{};
     int length = sizeof record;
-    for (int position = 0; index > 0 && vkd_zob_get(index, DesignKey1, DesignKey2, record.data(),
+    for (int position = 0; index > 0 && vkd_zob_get(index, Design.key1, Design.key2, record.data(),
                                                     &length, position) == VKD_ZOB_OK;
          ++position) {
         m_records.push_back(record);
@@ -49,7 +49,7 @@ void RecordTableModel::read(int index)
         length = sizeof record;
     }
     if (index > 0)
-        vkd_zob_free_ex(index, DesignKey1, DesignKey2);
+        vkd_zob_free_ex(index, Design.key1, Design.key2);
     endResetModel();
 }
 

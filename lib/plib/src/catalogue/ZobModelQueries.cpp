@@ -3,18 +3,19 @@
 #include <vkd_dbo_queries.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
+#include <vkd_zob_keys.h>
 
 namespace plib {
 
 namespace {
-/// The platform has no query for design lines. They are stored under key 35, so this function looks
-/// for the first key pair from (35, 0) on.
+using vkd::zob::keys::DesignLines;
+
+/// The platform has no query for design lines. On purpose, the second key does not matter.
 bool hasDesignLines(int index, int*)
 {
-    int key1 = 35;
-    int key2 = 0;
-    vkd_zob_kenq_ex(index, &key1, &key2, 1);
-    return key1 == 35;
+    vkd::zob::KeyPair found = DesignLines;
+    vkd_zob_kenq_ex(index, &found.key1, &found.key2, 1);
+    return found.key1 == DesignLines.key1;
 }
 
 using Query = bool (*)(int, int*);

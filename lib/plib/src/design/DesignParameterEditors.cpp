@@ -18,6 +18,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_SignalBlocker.h>
 #include <VKD_QT_TableWidgetButton.h>
+#include <vkd_zob_keys.h>
 
 #include <QApplication>
 #include <QPointer>
@@ -29,7 +30,6 @@ using plib::DesignParameterRow;
 using Table = DesignParameterTable;
 
 namespace {
-constexpr int DesignKey = 200; // the first key of the records
 
 /// Ids of combo entries that set the groups of a row when its cell is left. The entries of
 /// dlgSelection have no ids, because the choice of the user is already stored in the row by then.
@@ -213,8 +213,8 @@ void DesignParameter::slot_openGroups()
     std::vector<int> checked = shown->groups;
     std::vector<int> used;
     plib::collectUsedGroups(*data, row, used);
-    VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, DesignKey, data->doc, checked, used, nullptr,
-                               this, "Group Selection");
+    VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, vkd::zob::keys::Design.key1, data->doc, checked,
+                               used, nullptr, this, "Group Selection");
     plib::setHelpTopic(&dialog, "GROUPS");
     const QPointer<DesignParameter> page(this);
     const int result = dialog.exec();

@@ -4,15 +4,16 @@
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_zob.h>
+#include <vkd_zob_keys.h>
 
 namespace plib {
 
 namespace {
-constexpr int Key1 = 200;
-constexpr int Key2 = 6;
-constexpr int ScratchIndex = 0;
-constexpr int ScratchKey1 = 0;
-constexpr int ScratchKey2 = 12979;
+using vkd::zob::KeyPair;
+using vkd::zob::ScratchIndex;
+using vkd::zob::keys::Design;
+using vkd::zob::keys::ForeignDesign;
+
 constexpr int RecordLength = sizeof(tagZOB_QUAD_RIM);
 constexpr int UndefinedKind = -99999;
 
@@ -21,10 +22,9 @@ constexpr int UndefinedKind = -99999;
 class RecordPass
 {
 public:
-    RecordPass(int index, int key1, int key2)
+    RecordPass(int index, KeyPair keys)
         : m_index(index)
-        , m_key1(key1)
-        , m_key2(key2)
+        , m_keys(keys)
     {
     }
 
@@ -35,7 +35,7 @@ public:
         RecordBytes bytes = toBytes(record);
         length = RecordLength;
         const cd_error_t status =
-            vkd_zob_get(m_index, m_key1, m_key2, bytes.data(), &length, m_position++);
+            vkd_zob_get(m_index, m_keys.key1, m_keys.key2, bytes.data(), &length, m_position++);
         if (status > VKD_ZOB_CUT)
             return false;
         record = fromBytes(bytes);
@@ -46,39 +46,38 @@ public:
 
 private:
     int m_index;
-    int m_key1;
-    int m_key2;
+    KeyPair m_keys;
     int m_position = 0;
 };
 
-void empty(int index, int key1, int key2)
+void empty(int index, KeyPair keys)
 {
     const int none = 0;
-    vkd_zob_put(index, key1, key2, nullptr, &none, 0);
+    vkd_zob_put(index, keys.key1, keys.key2, nullptr, &none, 0);
 }
 
-void append(int index, int key1, int key2, const tagZOB_QUAD_RIM& record, int length)
+void append(int index, KeyPair keys, const tagZOB_QUAD_RIM& record, int length)
 {
     const RecordBytes bytes = toBytes(record);
-    vkd_zob_put(index, key1, key2, bytes.data(), &length, 1);
+    vkd_zob_put(index, keys.key1, keys.key2, bytes.data(), &length, 1);
 }
 
 /// Copies the records of other programs under our key pair to the scratch store.
 void saveForeignRecords(int index)
 {
-    empty(ScratchIndex, ScratchKey1, ScratchKey2);
-    RecordPass pass(index, Key1, Key2);
+    empty(ScratchIndex, ForeignDesign);
+    RecordPass pass(index, Design);
     tagZOB_QUAD_RIM record{};
     while (pass.next(record))
         if (!isDesignRecord(record))
-            append(ScratchIndex, ScratchKey1, ScratchKey2, record, pass.length);
+            append(ScratchIndex, ForeignDesign, record, pass.length);
 }
 
 void writeRow(int index, DesignParameterRow& row)
 {
     for (int group : row.groups) {
         row.record.group = group;
-        append(index, Key1, Key2, row.record, RecordLength);
+        append(index, Design, row.record, RecordLength);
     }
 }
 } // namespace
@@ -92,12 +91,12 @@ void checkAndCreateZobDefault(int index)
 {
     RecordBytes bytes{};
     int length = RecordLength;
-    if (vkd_zob_get(index, Key1, Key2, bytes.data(), &length, 0) == VKD_ZOB_NO_KEY) {
+    if (vkd_zob_get(index, Design.key1, Design.key2, bytes.data(), &length, 0) == VKD_ZOB_NO_KEY) {
         bytes = toBytes(getDefaultMerPara(true));
         length = RecordLength;
-        vkd_zob_put(index, Key1, Key2, bytes.data(), &length, 0);
+        vkd_zob_put(index, Design.key1, Design.key2, bytes.data(), &length, 0);
     }
-    vkd_zob_free_ex(index, Key1, Key2);
+    vkd_zob_free_ex(index, Design.key1, Design.key2);
 }
 
 void readRowsFromZob(DesignParameterData& data)
@@ -106,7 +105,7 @@ void readRowsFromZob(DesignParameterData& data)
     std::vector<DesignParameterRow> remaining; // inserted at the front, in reverse order
     tagZOB_QUAD_RIM previous{};
     bool hasPrevious = false;
-    RecordPass pass(index, Key1, Key2);
+    RecordPass pass(index, Design);
     tagZOB_QUAD_RIM record{};
     while (pass.next(record)) {
         if (!isDesignRecord(record))
@@ -124,7 +123,7 @@ void readRowsFromZob(DesignParameterData& data)
         }
     }
     data.rows.insert(data.rows.begin(), remaining.rbegin(), remaining.rend());
-    vkd_zob_free_ex(index, Key1, Key2);
+    vkd_zob_free_ex(index, Design.key1, Design.key2);
 }
 
 DesignParameterRow& addDefaultRow(DesignParameterData& data)
@@ -142,9 +141,9 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
             toStoredForm(row.record, data.kindOfSystem);
     converted = true; // only once for each page: a second write finds the stored form
     const int index = data.designDoc->index();
-    vkd_zob_lock_ex(index, Key1, Key2);
+    vkd_zob_lock_ex(index, Design.key1, Design.key2);
     saveForeignRecords(index);
-    empty(index, Key1, Key2);
+    empty(index, Design);
     for (DesignParameterRow& row : data.rows)
         if (isRemainingGroups(row.groups))
             writeRow(index, row);
@@ -154,8 +153,8 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     // The first of the copied records is read but not used; none of them is restored. This is
     // meant.
     tagZOB_QUAD_RIM unused{};
-    RecordPass(ScratchIndex, ScratchKey1, ScratchKey2).next(unused);
-    vkd_zob_free_ex(index, Key1, Key2);
+    RecordPass(ScratchIndex, ForeignDesign).next(unused);
+    vkd_zob_free_ex(index, Design.key1, Design.key2);
 }
 
 } // namespace plib

@@ -1,16 +1,19 @@
 #include "VKD_H_ProjectDialogPage.h"
 
 #include <vkd_zob.h>
+#include <vkd_zob_keys.h>
 #include <ZobTransaction.h>
 
 namespace {
-constexpr int EntriesKey = 420; // second key: the page; records: key and value in turn
+using vkd::zob::KeyPair;
+using vkd::zob::keys::dialogPage;
 
 QByteArray readRecord(int index, int page, int position, cd_error_t* status)
 {
     QByteArray bytes(1024, Qt::Uninitialized);
     int length = bytes.size();
-    while ((*status = vkd_zob_get(index, EntriesKey, page, bytes.data(), &length, position)) ==
+    const KeyPair keys = dialogPage(page);
+    while ((*status = vkd_zob_get(index, keys.key1, keys.key2, bytes.data(), &length, position)) ==
            VKD_ZOB_CUT) {
         bytes.resize(2 * bytes.size());
         length = bytes.size();
@@ -22,7 +25,8 @@ bool append(int index, int page, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
     const int length = bytes.size();
-    return vkd_zob_put(index, EntriesKey, page, bytes.constData(), &length, 1) == VKD_ZOB_OK;
+    const KeyPair keys = dialogPage(page);
+    return vkd_zob_put(index, keys.key1, keys.key2, bytes.constData(), &length, 1) == VKD_ZOB_OK;
 }
 } // namespace
 
@@ -42,7 +46,7 @@ VKD_H_ProjectDialogPage::VKD_H_ProjectDialogPage(int index, int page)
     }
     if (status != VKD_ZOB_END && status != VKD_ZOB_NO_KEY)
         m_readStatus = VkdStatus::failure(status, vkd_zob_last_failure(index).reason);
-    vkd_zob_free_ex(index, EntriesKey, page);
+    vkd_zob_free_ex(index, dialogPage(page).key1, dialogPage(page).key2);
 }
 
 QString VKD_H_ProjectDialogPage::getEntry(const QString& key, const QString& defaultValue) const
@@ -68,7 +72,8 @@ VkdStatus VKD_H_ProjectDialogPage::save() const
     if (!change.status().isOk())
         return change.rollback();
     const int none = 0;
-    bool done = vkd_zob_put(m_index, EntriesKey, m_page, nullptr, &none, 0) == VKD_ZOB_OK;
+    const KeyPair keys = dialogPage(m_page);
+    bool done = vkd_zob_put(m_index, keys.key1, keys.key2, nullptr, &none, 0) == VKD_ZOB_OK;
     for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
         done =
             done && append(m_index, m_page, entry.key()) && append(m_index, m_page, entry.value());

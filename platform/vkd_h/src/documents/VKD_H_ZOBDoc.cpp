@@ -1,9 +1,11 @@
 #include "VKD_H_ZOBDoc.h"
 
+#include <vkd_zob_keys.h>
+
 #include <utility>
 
 namespace {
-constexpr int ScratchIndex = 0;
+using vkd::zob::ScratchIndex;
 }
 
 VKD_H_ZOBDoc::VKD_H_ZOBDoc(int index, const QString& path)

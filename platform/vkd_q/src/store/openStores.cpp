@@ -1,9 +1,11 @@
 #include "store/openStores.h"
 
+#include "vkd_zob_keys.h"
+
 #include <map>
 
 namespace {
-constexpr int ScratchIndex = 0;
+using vkd::zob::ScratchIndex;
 
 using Stores = std::map<int, std::shared_ptr<ZobDatabase>>;
 
