@@ -6,8 +6,6 @@
 namespace workbench {
 
 namespace {
-constexpr int DesktopCamera = 0;
-
 QString partOf(const OutputState& saved, const char* tag)
 {
     return plib::SavedPage(saved.page, plib::OutputSettings()).part(tag);
@@ -48,7 +46,8 @@ plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& s
 
 void restoreCamera(const OutputState& saved)
 {
-    vkd::dbo::setAnimatorPerspektive(DesktopCamera, partOf(saved, plib::savedtag::Camera));
+    vkd::dbo::setAnimatorPerspektive(vkd::dbo::DesktopCamera,
+                                     partOf(saved, plib::savedtag::Camera));
 }
 
 QString chosenPlots(const CommandLine& line, const OutputState& saved)

@@ -16,15 +16,21 @@ struct Camera
     double zoom = 1.0;                ///< positive; 1 shows the whole model
 };
 
+/// The index of the desktop's camera, which lives as long as the process. It belongs to no project.
+constexpr int DesktopCamera = 0;
+
+/// The forms of a camera as text.
+enum CameraForm { ScriptCamera = 1, PersistentCamera = 2 };
+
 /// Returns the user's camera of the project at this database index, or the standard camera if none
-/// was stored. Index 0 is the desktop's camera, which lives as long as the process.
+/// was stored.
 VKD_DBO_EXPORT Camera camera(int index);
 VKD_DBO_EXPORT void setCamera(int index, const Camera& camera);
 
-/// Returns the stored camera as text. `form` 1 is the form of the script after the keyword "STAN ":
-/// the three components of the eye direction, "ROTA" and the roll in degrees, with six significant
-/// digits. `form` 2 is the persistent form, which setAnimatorPerspektive() reads back bit for bit.
-/// Other forms are empty.
+/// Returns the stored camera as text. ScriptCamera is the form of the script after the keyword
+/// "STAN ": the three components of the eye direction, "ROTA" and the roll in degrees, with six
+/// significant digits. PersistentCamera is the form that setAnimatorPerspektive() reads back bit
+/// for bit. Other forms are empty.
 VKD_DBO_EXPORT QString getAnimatorPerspektive(int index, int form);
 
 /// Stores a camera from its persistent form. A null text or one that is not a camera does not

@@ -78,11 +78,11 @@ void setCamera(int index, const Camera& camera)
 QString getAnimatorPerspektive(int index, int form)
 {
     const Values values = toValues(camera(index));
-    if (form == 1)
+    if (form == ScriptCamera)
         return QStringLiteral("%1 %2 %3 ROTA %4")
             .arg(QString::number(values[0]), QString::number(values[1]), QString::number(values[2]),
                  QString::number(values[3]));
-    if (form != 2)
+    if (form != PersistentCamera)
         return QString();
     QString text = persistentMark();
     for (double value : values)

@@ -54,12 +54,11 @@ VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* par
 /// and is not to find when going back to a view of one's own.
 QString withUsersCamera(QString page)
 {
-    constexpr int PersistentForm = 2;
     const QString tag = QStringLiteral("Camera");
     const auto part = [&tag](const QString& camera) { return vkd_qt_writeXMLpart(camera, tag); };
-    return page.replace(
-        part(vkd_qt_readXMLpart(page, 0, tag)),
-        part(vkd::dbo::getAnimatorPerspektive(UsersCamera::Database, PersistentForm)));
+    return page.replace(part(vkd_qt_readXMLpart(page, 0, tag)),
+                        part(vkd::dbo::getAnimatorPerspektive(vkd::dbo::DesktopCamera,
+                                                              vkd::dbo::PersistentCamera)));
 }
 
 QLabel* newHint(const QString& text)
@@ -148,7 +147,7 @@ void OutputDialog::restore(const OutputState& kept)
     }
     offerLoadCases();
     m_choice.setProposed();
-    vkd::dbo::setCamera(UsersCamera::Database, vkd::dbo::Camera()); // not the one of before
+    vkd::dbo::setCamera(vkd::dbo::DesktopCamera, vkd::dbo::Camera()); // not the one of before
     if (!kept.page.isEmpty())
         m_page->readXMLstring(kept.page);
 }

@@ -4,20 +4,18 @@
 
 namespace workbench {
 
-/// Keeps the desktop's camera, the user's own, while a page stores that of its view in its place,
-/// also that of a fixed view.
+/// Restores the desktop's camera, which the user has set, after a page stored the camera of its
+/// view in its place.
 class UsersCamera
 {
 public:
     UsersCamera() = default;
-    ~UsersCamera() { vkd::dbo::setCamera(Database, m_camera); }
+    ~UsersCamera() { vkd::dbo::setCamera(vkd::dbo::DesktopCamera, m_camera); }
     UsersCamera(const UsersCamera&) = delete;
     UsersCamera& operator=(const UsersCamera&) = delete;
 
-    static constexpr int Database = 0; ///< the index at which it lies
-
 private:
-    const vkd::dbo::Camera m_camera = vkd::dbo::camera(Database);
+    const vkd::dbo::Camera m_camera = vkd::dbo::camera(vkd::dbo::DesktopCamera);
 };
 
 } // namespace workbench

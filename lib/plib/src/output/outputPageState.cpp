@@ -9,19 +9,16 @@
 
 namespace savedtag = plib::savedtag;
 using plib::savedPart;
-
-namespace {
-constexpr int DesktopCamera = 0;
-constexpr int PersistentForm = 2;
-} // namespace
+using vkd::dbo::DesktopCamera;
 
 QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
 {
     QString xml = data->panel->savedParts();
     if (data->animator) {
         Q_EMIT signalBeobXY(AnimatorStoreCamera, 0.0);
-        xml += savedPart(savedtag::Camera,
-                         vkd::dbo::getAnimatorPerspektive(DesktopCamera, PersistentForm));
+        xml +=
+            savedPart(savedtag::Camera,
+                      vkd::dbo::getAnimatorPerspektive(DesktopCamera, vkd::dbo::PersistentCamera));
     }
     return xml + savedPart(savedtag::Plots, data->tree->selectionText());
 }

@@ -11,11 +11,6 @@
 
 namespace plib {
 
-namespace {
-constexpr int DesktopCamera = 0; // the camera belongs to the desktop, not to one project
-constexpr int ScriptForm = 1;
-} // namespace
-
 PlatformScriptEnvironment::PlatformScriptEnvironment(VKD_H_PluginParameter* parameter)
     : m_parameter(parameter)
 {
@@ -41,7 +36,7 @@ bool PlatformScriptEnvironment::hasQuads() const
 
 QString PlatformScriptEnvironment::camera() const
 {
-    return vkd::dbo::getAnimatorPerspektive(DesktopCamera, ScriptForm);
+    return vkd::dbo::getAnimatorPerspektive(vkd::dbo::DesktopCamera, vkd::dbo::ScriptCamera);
 }
 
 } // namespace plib
