@@ -118,11 +118,12 @@ private Q_SLOTS:
         testsupport::writeFile(m_texts->path("graphicaloutput.data"),
                                testsupport::line("A|B|&BAS", " "));
         plib::Catalogue catalogue;
-        QVERIFY(plib::loadCatalogue(catalogue, 1, fail));
-        QVERIFY(plib::loadCatalogue(catalogue, 1, fail));
+        QVERIFY(plib::loadCatalogue(catalogue, vkd::Language::English, fail));
+        QVERIFY(plib::loadCatalogue(catalogue, vkd::Language::English, fail));
         QCOMPARE(int(catalogue.list.size()), 1);
         vkd_lib_setvalue(102, 0);
-        QVERIFY(plib::loadCatalogue(catalogue, 0, fail)); // the first one stays, on purpose
+        // The records of the first language stay, on purpose.
+        QVERIFY(plib::loadCatalogue(catalogue, vkd::Language::German, fail));
         QCOMPARE(int(catalogue.list.size()), 2);
         QCOMPARE(catalogue.list[0].title3, QStringLiteral("Base"));
         QCOMPARE(catalogue.list[1].title3, QStringLiteral("Grund"));

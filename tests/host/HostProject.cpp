@@ -19,8 +19,8 @@ HostProject::HostProject(const QString& name)
     if (name.isEmpty())
         return;
     vkd::dbo::Model model;
-    const VkdStatus read =
-        vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name), 1, &model);
+    const VkdStatus read = vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name),
+                                                   vkd::Language::English, &model);
     require(read.isOk(), qPrintable(read.reason));
     require(vkd::dbo::storeModel(m_project.index(), model).isOk(), "model not stored");
 }

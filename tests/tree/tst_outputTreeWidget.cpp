@@ -69,8 +69,9 @@ QString roles(const QTreeWidgetItem* item)
 /// Which of the tree's pictures it is; none has no name.
 QString iconName(const QIcon& icon)
 {
-    const std::pair<const char*, QIcon> all[] = {
-        {"plot", plib::plotIcon()}, {"LF", plib::rowIcon(false)}, {"LC", plib::rowIcon(true)}};
+    const std::pair<const char*, QIcon> all[] = {{"plot", plib::plotIcon()},
+                                                 {"LF", plib::rowIcon(vkd::Language::German)},
+                                                 {"LC", plib::rowIcon(vkd::Language::English)}};
     for (const auto& [name, known] : all)
         if (!icon.isNull() && icon.pixmap(16).toImage() == known.pixmap(16).toImage())
             return QLatin1String(name);
@@ -313,7 +314,8 @@ private:
     {
         vkd::dbo::Model model;
         const auto path = vkd_lib_searchpath("models/building.json", 3);
-        QVERIFY(vkd::dbo::readModelFile(QFile::decodeName(path->c_str()), 0, &model).isOk());
+        const QString file = QFile::decodeName(path->c_str());
+        QVERIFY(vkd::dbo::readModelFile(file, vkd::Language::German, &model).isOk());
         QVERIFY(vkd::dbo::storeModel(m_doc->index(), model).isOk());
     }
 

@@ -19,7 +19,7 @@ private Q_SLOTS:
                      "quads": [[5, 1, 1, 2, 3, 0, 0.25]], "springs": [[6, 1, 2, 0, 1e3]],
                      "loadCases": [{"number": 7, "title": {"german": "a", "english": "b"}}])");
         Model m;
-        const VkdStatus read = readModelFile(m_path, 1, &m);
+        const VkdStatus read = readModelFile(m_path, vkd::Language::English, &m);
         QVERIFY2(read.isOk(), qPrintable(read.reason));
         QCOMPARE(m.supports[0].fixed, 4 + 8);
         QCOMPARE(m.supports[1].fixed, 0);
@@ -37,7 +37,7 @@ private Q_SLOTS:
             writeFile(text.toUtf8());
             Model m;
             m.system.title = QStringLiteral("untouched");
-            const VkdStatus read = readModelFile(m_path, 1, &m);
+            const VkdStatus read = readModelFile(m_path, vkd::Language::English, &m);
             const bool isUntouched = m.system.title == QLatin1String("untouched");
             return read.code != VKD_ZOB_DAMAGED || !isUntouched
                        ? QStringLiteral("read")
@@ -91,7 +91,7 @@ private Q_SLOTS:
         }
         QFile::remove(m_path);
         Model m;
-        const VkdStatus missing = readModelFile(m_path, 1, &m);
+        const VkdStatus missing = readModelFile(m_path, vkd::Language::English, &m);
         QCOMPARE(missing.code, int(VKD_ZOB_NO_FILE));
         QCOMPARE(missing.reason, m_path + QLatin1String(": No such file or directory"));
     }

@@ -160,8 +160,9 @@ private Q_SLOTS:
         QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index, no).code, int(VKD_ZOB_CANCELLED));
         Model model;
         const auto file = vkd_lib_searchpath("models/hall.json", 3);
-        QCOMPARE(readModelFile(QString::fromStdString(*file), 0, &model, no).code,
-                 int(VKD_ZOB_CANCELLED));
+        QCOMPARE(
+            readModelFile(QString::fromStdString(*file), vkd::Language::German, &model, no).code,
+            int(VKD_ZOB_CANCELLED));
     }
 
     /// The question comes between two lists, and the other one is still held off.
@@ -235,7 +236,8 @@ private:
     {
         Model model;
         const auto path = vkd_lib_searchpath(QByteArray("models/") + name + ".json", 3);
-        if (!path || !readModelFile(QString::fromStdString(*path), 0, &model).isOk())
+        if (!path ||
+            !readModelFile(QString::fromStdString(*path), vkd::Language::German, &model).isOk())
             qFatal("no model %s", name);
         return model;
     }

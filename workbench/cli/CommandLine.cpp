@@ -3,7 +3,7 @@
 #include "cli/PlatformLog.h"
 
 #include <VKD_H_ZOBDoc.h>
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 #include <VKD_QT_InitTranslator.h>
 
 #include <QFile>
@@ -81,15 +81,17 @@ int CommandLine::number(const char* option, int otherwise) const
     return number;
 }
 
-bool CommandLine::english(const char* option, bool otherwise) const
+vkd::Language CommandLine::language(const char* option, vkd::Language otherwise) const
 {
     if (!has(option))
         return otherwise;
-    const QString language = value(option);
-    if (language != QLatin1String("english") && language != QLatin1String("german"))
+    const QString name = value(option);
+    if (name == QLatin1String("english"))
+        return vkd::Language::English;
+    if (name != QLatin1String("german"))
         throw CommandError{QStringLiteral("--%1 is english or german, not \"%2\"")
-                               .arg(QLatin1String(option), language)};
-    return language == QLatin1String("english");
+                               .arg(QLatin1String(option), name)};
+    return vkd::Language::German;
 }
 
 std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path)
@@ -125,9 +127,7 @@ CommandLine::Option languageOption()
 
 void applyLanguage(const CommandLine& commandLine)
 {
-    const bool english =
-        commandLine.english("language", vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, english ? 1 : 0);
+    vkd::setDesktopLanguage(commandLine.language("language", vkd::desktopLanguage()));
     VKD_QT_InitTranslator::languageChanged();
 }
 

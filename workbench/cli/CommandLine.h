@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_language.h>
+
 #include <QCommandLineParser>
 
 #include <memory>
@@ -45,8 +47,8 @@ public:
     QString value(const char* option) const;
     QStringList values(const char* option) const;
     int number(const char* option, int otherwise) const;
-    /// True for "english", false for "german"; `otherwise` if the option is not given.
-    bool english(const char* option, bool otherwise) const;
+    /// Returns the language that an option names; `otherwise` if the option is not given.
+    vkd::Language language(const char* option, vkd::Language otherwise) const;
 
 private:
     QCommandLineParser m_parser;

@@ -8,7 +8,7 @@
 #include <tree/selectionText.h>
 #include <tree/TreeBuilder.h>
 #include <VKD_H_ZOBDoc.h>
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 
 #include <QCoreApplication>
 
@@ -65,7 +65,7 @@ OutputTree::~OutputTree() = default;
 void OutputTree::fill(const Rows& rows, const std::list<QString>& additional)
 {
     plib::Catalogue& catalogue = plib::sharedCatalogue();
-    plib::loadCatalogue(catalogue, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), showError);
+    plib::loadCatalogue(catalogue, vkd::desktopLanguage(), showError);
     checkProgname(m_progname, catalogue);
     plib::OutputNodeOperations operations(&m_root);
     plib::TreeBuilder<plib::OutputNode, plib::OutputNodeOperations> builder(&m_root, rows,

@@ -6,8 +6,8 @@
 #include <record/designStore.h>
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
+#include <vkd_language.h>
 #include <vkd_lib_searchpath.h>
-#include <vkd_lib_value.h>
 #include <ZobTransaction.h>
 
 #include <QCoreApplication>
@@ -117,8 +117,8 @@ QString newProject(const QString& path, const QString& model, const VkdGoOn& goO
         throw CommandError{QStringLiteral("%1 exists already").arg(path)};
     vkd::dbo::Model content;
     const QString modelFile = modelPath(model);
-    const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    const VkdStatus read = vkd::dbo::readModelFile(modelFile, language, &content, half(goOn, 0));
+    const VkdStatus read =
+        vkd::dbo::readModelFile(modelFile, vkd::desktopLanguage(), &content, half(goOn, 0));
     if (!read.isOk())
         throw CommandError{read.reason};
     writeProject(path, content, modelFile, half(goOn, 50));

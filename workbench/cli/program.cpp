@@ -3,7 +3,7 @@
 #include "cli/CommandLine.h"
 #include "cli/PlatformLog.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -33,7 +33,8 @@ void complain(const QString& text)
 void beginProgram()
 {
     PlatformLog::install();
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
+    const bool isGerman = QLocale().language() == QLocale::German;
+    vkd::setDesktopLanguage(isGerman ? vkd::Language::German : vkd::Language::English);
     QCoreApplication::setApplicationName(QStringLiteral("plib_workbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
 }

@@ -99,8 +99,9 @@ int scriptCommand(const QStringList& arguments)
                      {QStringLiteral("FILE")}, options());
     line.parse(arguments);
     applyLanguage(line);
-    const plib::Keywords keywords = plib::keywordsIf(line.english("keywords", true));
-    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, keywords == plib::Keywords::English ? 1 : 0);
+    const plib::Keywords keywords = plib::keywordsIf(
+        line.language("keywords", vkd::Language::English) == vkd::Language::English);
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, int(keywords));
     auto document = openProject(line.argument(0));
     const OutputState saved = savedChoice(line, document->index());
     plib::OutputSettings settings = savedSettings(line, saved);

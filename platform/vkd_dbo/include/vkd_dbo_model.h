@@ -2,6 +2,7 @@
 
 #include "vkd_dbo_export.h"
 
+#include <vkd_language.h>
 #include <vkd_progress.h>
 #include <vkd_status.h>
 
@@ -159,10 +160,10 @@ struct Model
 };
 
 /// Reads a model file (JSON, described in share/models/README.md), with titles in the given
-/// language (0 German, 1 English). The status code is VKD_ZOB_NO_FILE if the file cannot be read,
+/// language. The status code is VKD_ZOB_NO_FILE if the file cannot be read,
 /// VKD_ZOB_DAMAGED if it is invalid, and VKD_ZOB_CANCELLED if `goOn` returned false. The reason
 /// contains the path and the position in the file. `model` is set on success only.
-VKD_DBO_EXPORT VkdStatus readModelFile(const QString& path, int language, Model* model,
+VKD_DBO_EXPORT VkdStatus readModelFile(const QString& path, Language language, Model* model,
                                        const VkdGoOn& goOn = VkdGoOn());
 
 /// Replaces the model of the project at this database index, completely or not at all. The status

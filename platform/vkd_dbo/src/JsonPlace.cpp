@@ -44,14 +44,14 @@ QString JsonPlace::string() const
     return m_value.toString();
 }
 
-QString JsonPlace::title(int language) const
+QString JsonPlace::title(Language language) const
 {
     if (m_value.isString())
         return string();
     const QString german = QStringLiteral("german");
     const QString english = QStringLiteral("english");
     checkKeys({german, english}, {});
-    return at(language == 0 ? german : english).string();
+    return at(language == Language::German ? german : english).string();
 }
 
 QVector<JsonPlace> JsonPlace::list(int least, int most) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_language.h>
+
 #include <QCoreApplication>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -38,7 +40,7 @@ public:
     double real() const;
     QString string() const;
     /// Reads a text, or an object with a text for each language.
-    QString title(int language) const;
+    QString title(Language language) const;
     /// Returns the elements of a list with at least `least` and, unless `most` is 0, at most `most`
     /// elements.
     QVector<JsonPlace> list(int least = 0, int most = 0) const;

@@ -36,7 +36,7 @@ constexpr char Point[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "point");
 class ModelFileReader
 {
 public:
-    ModelFileReader(JsonPlace root, int language, VkdSteps& steps)
+    ModelFileReader(JsonPlace root, Language language, VkdSteps& steps)
         : m_root(std::move(root))
         , m_language(language)
         , m_steps(steps)
@@ -71,7 +71,7 @@ private:
     static QVector<int> members(const JsonPlace& group, const char* key, const Numbers& numbers);
 
     JsonPlace m_root;
-    int m_language;
+    Language m_language;
     VkdSteps& m_steps;
     Model m_model;
     Numbers m_nodes, m_groups, m_sections, m_points, m_beams, m_quads;
@@ -401,7 +401,7 @@ VkdStatus failureOf(const QString& path, int code, const QString& cause)
 }
 } // namespace
 
-VkdStatus readModelFile(const QString& path, int language, Model* model, const VkdGoOn& goOn)
+VkdStatus readModelFile(const QString& path, Language language, Model* model, const VkdGoOn& goOn)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

@@ -26,9 +26,9 @@ Catalogue& sharedCatalogue()
     return catalogue;
 }
 
-bool loadCatalogue(Catalogue& catalogue, int language, const ShowError& showError)
+bool loadCatalogue(Catalogue& catalogue, vkd::Language language, const ShowError& showError)
 {
-    if (language == catalogue.catalogueLanguage)
+    if (int(language) == catalogue.catalogueLanguage)
         return true;
     const auto path = vkd_lib_searchpath(FileName, SearchMode);
     if (!path) {
@@ -43,7 +43,7 @@ bool loadCatalogue(Catalogue& catalogue, int language, const ShowError& showErro
         return false;
     }
     parseCatalogue(file, catalogue.list);
-    catalogue.catalogueLanguage = language;
+    catalogue.catalogueLanguage = int(language);
     return true;
 }
 

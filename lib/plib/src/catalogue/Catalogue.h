@@ -2,6 +2,8 @@
 
 #include "catalogue/GraphicalOutputRecord.h"
 
+#include <vkd_language.h>
+
 #include <functional>
 #include <vector>
 
@@ -20,10 +22,10 @@ Catalogue& sharedCatalogue();
 /// Shows an error to the user; called once at most for each load.
 using ShowError = std::function<void(const QString& title, const QString& text)>;
 
-/// Loads the catalogue for the language, 0 German or 1 English, unless that is done already. The
-/// file is `graphicaloutput.data` on the search path. On purpose, the records of a second language
-/// are appended to those of the first. Calls `showError` and returns false if the file is missing
-/// or cannot be opened; the next call then tries again.
-bool loadCatalogue(Catalogue& catalogue, int language, const ShowError& showError);
+/// Loads the catalogue for the language, unless that is done already. The file is
+/// `graphicaloutput.data` on the search path. On purpose, the records of a second language are
+/// appended to those of the first. Calls `showError` and returns false if the file is missing or
+/// cannot be opened; the next call then tries again.
+bool loadCatalogue(Catalogue& catalogue, vkd::Language language, const ShowError& showError);
 
 } // namespace plib

@@ -26,7 +26,7 @@ QString PlatformScriptEnvironment::programHead() const
 
 QString PlatformScriptEnvironment::programEnd(Keywords keywords) const
 {
-    return vkd_h_generateENDE(keywords == Keywords::English ? 1 : 0);
+    return vkd_h_generateENDE(int(keywords));
 }
 
 bool PlatformScriptEnvironment::hasQuads() const

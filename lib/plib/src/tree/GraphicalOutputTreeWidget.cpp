@@ -11,7 +11,7 @@
 #include "tree/selectionText.h"
 #include "tree/TreeBuilder.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_SignalBlocker.h>
 
@@ -23,11 +23,6 @@ using Item = GraphicalOutputTreeWidgetItem;
 
 constexpr int PlotLevel = 2;
 
-bool isEnglish()
-{
-    return vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0;
-}
-
 /// Implements the operations of the builder for the tree widget. A plot is added to the tree only
 /// after all its rows are added to the plot, so that the tree processes a single change for all of
 /// them.
@@ -38,7 +33,7 @@ public:
         : m_tree(tree)
         , m_root(root)
         , m_plotIcon(plib::plotIcon())
-        , m_looks(isEnglish())
+        , m_looks(vkd::desktopLanguage())
     {
     }
 
@@ -100,8 +95,7 @@ GraphicalOutputTreeWidget::GraphicalOutputTreeWidget(QWidget* parent, int kind,
     const auto showError = [this](const QString& title, const QString& text) {
         VKD_QT_MessageBox::critical(this, title, text);
     };
-    const int language = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    if (!plib::loadCatalogue(plib::sharedCatalogue(), language, showError))
+    if (!plib::loadCatalogue(plib::sharedCatalogue(), vkd::desktopLanguage(), showError))
         return;
     new plib::CaptionTranslator(this);
     refill(true);
@@ -238,7 +232,7 @@ void GraphicalOutputTreeWidget::fillTree()
 void GraphicalOutputTreeWidget::setChoice(const QString& text)
 {
     const VKD_QT_SignalBlocker silence(model());
-    plib::RowLooks looks(isEnglish());
+    plib::RowLooks looks(vkd::desktopLanguage());
     plib::applySelection(invisibleRootItem(), text, [&looks](Item* item, Qt::CheckState state) {
         if (item->level > PlotLevel)
             item->takeLook(looks.of(item->text(0), item->number, state == Qt::Checked));

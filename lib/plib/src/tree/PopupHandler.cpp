@@ -3,7 +3,7 @@
 #include "tree/GraphicalOutputTreeWidget.h"
 #include "tree/outputTreeIcons.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 #include <VKD_QT_Action.h>
 #include <VKD_QT_Menu.h>
 
@@ -26,7 +26,7 @@ PopupHandler::~PopupHandler()
 /// the user.
 void PopupHandler::build(GraphicalOutputTreeWidget* owner, bool hasCloseAll)
 {
-    const QIcon rowIcon = plib::rowIcon(vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0);
+    const QIcon rowIcon = plib::rowIcon(vkd::desktopLanguage());
     tree = owner;
     menu = new VKD_QT_Menu(nullptr, nullptr);
     tree->addExpandAll(menu);

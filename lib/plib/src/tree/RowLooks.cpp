@@ -20,8 +20,8 @@ RowLooks::Looks::Looks(const QString& rowText, int number, const QIcon& icon)
     checked.setCheckState(0, Qt::Checked);
 }
 
-RowLooks::RowLooks(bool english)
-    : m_icon(rowIcon(english))
+RowLooks::RowLooks(vkd::Language language)
+    : m_icon(rowIcon(language))
 {
 }
 

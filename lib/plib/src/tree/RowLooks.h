@@ -2,6 +2,8 @@
 
 #include "tree/GraphicalOutputTreeWidgetItem.h"
 
+#include <vkd_language.h>
+
 #include <map>
 #include <memory>
 #include <tuple>
@@ -17,7 +19,7 @@ class RowLooks
 {
 public:
     /// Uses the row icon of this language.
-    explicit RowLooks(bool english);
+    explicit RowLooks(vkd::Language language);
 
     /// Returns the look of a row with this text and load case, checked or unchecked.
     const GraphicalOutputTreeWidgetItem& of(const QString& text, int number, bool checked);

@@ -68,9 +68,9 @@ QIcon plotIcon()
     return bitmapIcon(Plot);
 }
 
-QIcon rowIcon(bool english)
+QIcon rowIcon(vkd::Language language)
 {
-    return bitmapIcon(english ? RowEnglish : RowGerman);
+    return bitmapIcon(language == vkd::Language::English ? RowEnglish : RowGerman);
 }
 
 QIcon closeIcon()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_language.h>
+
 #include <QIcon>
 
 /// The icons of the output tree. Each call creates a new icon, but copies share their data. So
@@ -8,7 +10,7 @@ namespace plib {
 
 QIcon plotIcon();
 /// Shows the letters LC, or LF in German.
-QIcon rowIcon(bool english);
+QIcon rowIcon(vkd::Language language);
 QIcon closeIcon();
 
 } // namespace plib

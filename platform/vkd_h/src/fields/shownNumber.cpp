@@ -1,6 +1,6 @@
 #include "fields/shownNumber.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 
 namespace vkd {
 namespace h {
@@ -9,8 +9,8 @@ QString shownNumber(QString text)
 {
     if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0)
         text.remove(0, 1);
-    const bool german = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == 0;
-    return german ? text.replace(QLatin1Char('.'), QLatin1Char(',')) : text;
+    const bool isGerman = desktopLanguage() == Language::German;
+    return isGerman ? text.replace(QLatin1Char('.'), QLatin1Char(',')) : text;
 }
 
 } // namespace h

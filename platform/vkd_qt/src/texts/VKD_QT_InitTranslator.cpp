@@ -1,6 +1,6 @@
 #include "VKD_QT_InitTranslator.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -8,7 +8,6 @@
 #include <QVector>
 
 namespace {
-constexpr int German = 0;
 
 /// Constructed by the first object's constructor, so that it outlives every static object.
 QVector<VKD_QT_InitTranslator*>& livingObjects()
@@ -54,7 +53,7 @@ void VKD_QT_InitTranslator::install()
     // A new translator for each application, because an application's end drops its list of
     // translators.
     m_translator.reset();
-    if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != German)
+    if (vkd::desktopLanguage() != vkd::Language::German)
         return;
     m_translator.reset(new QTranslator);
     const QString file = QLatin1String(m_module) + QLatin1String("_de.qm");
