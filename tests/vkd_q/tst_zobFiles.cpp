@@ -1,6 +1,8 @@
 #include "FailingReads.h"
 #include "ZobTestSupport.h"
 
+#include <ZobFilePlace.h>
+
 #include <QTemporaryDir>
 
 #include <sqlite3.h>
@@ -309,6 +311,77 @@ private Q_SLOTS:
         QVERIFY(testsupport::readFile(path) == halfWritten);
         QVERIFY(testsupport::readFile(journal) == halfJournal);
         vkd_zob_close(index);
+    }
+
+    void placedFiles_data()
+    {
+        // before: what lies at the path, "-" for nothing
+        const Columns<QByteArray> row("before");
+        row("no file", "-");
+        row("interrupted change", "write");
+        row("text", "Not a project.\n");
+    }
+
+    /// The journal of an interrupted change lies beside, and files of killed programs.
+    void placedFiles()
+    {
+        QFETCH(const QByteArray, before);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        testsupport::writeFile(path, m_sound);
+        const int index = openProject(path);
+        vkd_zob_lock_ex(index, 1, 1);
+        for (int i = 0; i < 4; ++i) // more than memory holds
+            put(index, 1, 1, QByteArray(1000000, 'x'), 1);
+        const QByteArray halfWritten = testsupport::readFile(path);
+        const QByteArray journal = testsupport::readFile(path + QLatin1String("-journal"));
+        vkd_zob_close(index);
+        QFile::remove(path);
+        if (before != "-")
+            testsupport::writeFile(path, before == "write" ? halfWritten : before);
+        testsupport::writeFile(path + QLatin1String("-journal"), journal);
+        const QString own = ZobFilePlace(path).temporaryPath();
+        const auto ofProcess = [&own](qint64 process) {
+            return own.left(own.lastIndexOf(QLatin1Char('-')) + 1) + QString::number(process) +
+                   QLatin1String(".new");
+        };
+        testsupport::writeFile(ofProcess(1), "of a running program");
+        testsupport::writeFile(ofProcess(999999999), "of a killed program");
+        ZobFilePlace place(path);
+        QVERIFY2(place.status().isOk(), qPrintable(place.status().reason));
+        makeProject(place.temporaryPath(), {"new"});
+        QVERIFY2(place.commit().isOk(), "commit");
+        QCOMPARE(readProject(path), Records{"new"});
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
+                 QStringList({QStringLiteral("p"), QFileInfo(ofProcess(1)).fileName()}));
+    }
+
+    void placesOfOthers()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        vkd_lib_setvalue(201, 30);
+        ZobLog log;
+        {
+            ZobFilePlace place(path);
+            makeProject(place.temporaryPath(), {"new"});
+            testsupport::writeFile(path, m_sound); // another program was faster
+            QCOMPARE(log.once(place.commit().code), VKD_ZOB_READ_ONLY);
+        }
+        QVERIFY(testsupport::readFile(path) == m_sound);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("p")));
+        const int index = openProject(path);
+        vkd_zob_lock_ex(index, 1, 1);
+        QCOMPARE(log.once(ZobFilePlace(path).status().code), VKD_ZOB_LOCKED);
+        vkd_zob_free_ex(index, 1, 1);
+        {
+            const ZobFilePlace place(path);
+            QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_LOCKED);
+            vkd_zob_free_ex(index, 1, 1);
+        }
+        QVERIFY(readAll(index) == m_records);
+        vkd_zob_close(index);
+        vkd_lib_setvalue(201, 0);
     }
 
     void create()

@@ -8,9 +8,9 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_language.h>
 #include <vkd_lib_searchpath.h>
+#include <ZobFilePlace.h>
 #include <ZobTransaction.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -50,46 +50,25 @@ VkdStatus storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValu
     return change.commit();
 }
 
-/// A file that is gone with the object, unless it got another name.
-class UnfinishedFile
-{
-public:
-    explicit UnfinishedFile(const QString& path)
-        : m_path(path)
-    {
-    }
-    ~UnfinishedFile()
-    {
-        if (!m_path.isEmpty())
-            QFile::remove(m_path);
-    }
-    UnfinishedFile(const UnfinishedFile&) = delete;
-    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
-
-private:
-    QString m_path;
-};
-
-/// Stores the model in a file of another name, which gets its own name once it is whole.
+/// Creates the project under a temporary name and puts it in place when it is complete.
 void writeProject(const QString& path, const vkd::dbo::Model& model, const QString& modelFile,
                   const VkdGoOn& goOn)
 {
-    const QString name =
-        path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
-    VkdStatus status;
-    auto document = VKD_H_ZOBDoc::create(name, &status);
-    const UnfinishedFile unfinished(document ? name : QString());
+    ZobFilePlace place(path);
+    VkdStatus status = place.status();
+    std::unique_ptr<VKD_H_ZOBDoc> document;
+    if (status.isOk())
+        document = VKD_H_ZOBDoc::create(place.temporaryPath(), &status);
     if (document)
         status = vkd::dbo::storeModel(document->index(), model, goOn);
     if (status.isOk())
         status = storeDesign(document.get(), model.designParameters, modelFile);
     if (status.isOk())
         status = document->close();
+    if (status.isOk())
+        status = place.commit();
     if (!status.isOk())
-        throw CommandError{status.reason.replace(name, path)};
-    QFile file(name);
-    if (!file.rename(path))
-        throw CommandError{QStringLiteral("cannot create %1: %2").arg(path, file.errorString())};
+        throw CommandError{status.reason.replace(place.temporaryPath(), path)};
 }
 
 /// For one half of the work, which has this many percent before it.

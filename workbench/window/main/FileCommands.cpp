@@ -18,6 +18,7 @@
 
 #include <AnimatorView.h>
 #include <VKD_H_ZOBDoc.h>
+#include <ZobFilePlace.h>
 
 #include <QAction>
 #include <QDir>
@@ -26,22 +27,9 @@
 #include <QMenu>
 #include <QTimer>
 
-#include <cstdio>
 #include <utility>
 
 namespace workbench {
-
-namespace {
-/// Renames a finished file over another one.
-bool replaceFile(const QString& file, const QString& path)
-{
-    const bool done =
-        std::rename(QFile::encodeName(file).constData(), QFile::encodeName(path).constData()) == 0;
-    if (!done)
-        QFile::remove(file);
-    return done;
-}
-} // namespace
 
 FileCommands::FileCommands(const ProjectParts& parts, const MakeProject& makeProject,
                            WindowActions* actions)
@@ -96,11 +84,11 @@ bool FileCommands::makeProject(const QString& path, const QString& model)
 {
     QWidget* window = m_parts.messages->window();
     const QString sentence = tr("The file %1 cannot be written.");
-    const ReplacedFile replaced(window, path);
-    if (!m_parts.messages->succeeds(replaced.status(), path, sentence))
+    std::unique_ptr<ZobFilePlace> place;
+    const cd_error_t taken = takePlace(window, path, &place);
+    if (!m_parts.messages->succeeds(taken, path, sentence))
         return false;
-    const QString unfinished =
-        QStringLiteral("%1.%2.new").arg(path).arg(QCoreApplication::applicationPid());
+    const QString unfinished = place->temporaryPath();
     QString trouble;
     bool goesOn = true;
     {
@@ -113,9 +101,7 @@ bool FileCommands::makeProject(const QString& path, const QString& model)
             tr("The project cannot be made.\n%1").arg(trouble.replace(unfinished, path)));
         return false;
     }
-    const cd_error_t status = !goesOn                         ? VKD_ZOB_CANCELLED
-                              : replaceFile(unfinished, path) ? VKD_ZOB_OK
-                                                              : VKD_ZOB_READ_ONLY;
+    const cd_error_t status = goesOn ? place->commit().code : int(VKD_ZOB_CANCELLED);
     return m_parts.messages->succeeds(status, path, sentence);
 }
 

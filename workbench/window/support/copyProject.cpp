@@ -4,24 +4,15 @@
 #include "window/support/waitForStore.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <ZobFilePlace.h>
 #include <ZobSnapshot.h>
-#include <ZobTransaction.h>
 
-#include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace workbench {
 
 namespace {
-const QString JournalSuffix = QStringLiteral("-journal");
 constexpr int Kilobyte = 1024;
-
-bool isWriteProtected(const QFileInfo& file)
-{
-    const auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    return !file.isWritable() || !(file.permissions() & anyWrite);
-}
 
 cd_error_t statusOf(const QFileDevice& file)
 {
@@ -36,7 +27,7 @@ cd_error_t statusOf(const QFileDevice& file)
     }
 }
 
-cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QSaveFile& to)
+cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
 {
     const int size = int(QFileInfo(document.path()).size() / Kilobyte); // 0: the file is gone
     SlowWork work(parent, SlowWork::tr("The project is being saved."), size);
@@ -51,56 +42,32 @@ cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QSaveFile& t
 }
 } // namespace
 
-ReplacedFile::ReplacedFile(QWidget* parent, const QString& path)
-    : m_status(waitForStore(parent, path, [this, path] { return take(path); }))
+cd_error_t takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place)
 {
-}
-
-ReplacedFile::~ReplacedFile() = default;
-
-cd_error_t ReplacedFile::take(const QString& path)
-{
-    const QFileInfo file(path);
-    if (!QFileInfo(file.absolutePath()).isDir() || (file.exists() && !file.isFile()))
-        return VKD_ZOB_NO_FILE;
-    if (isWriteProtected(QFileInfo(file.absolutePath())))
-        return VKD_ZOB_READ_ONLY;
-    if (file.isFile() && isWriteProtected(file))
-        return VKD_ZOB_READ_ONLY;
-    if (!file.exists()) {
-        QFile::remove(path + JournalSuffix); // it would be played back into the new file
-        return VKD_ZOB_OK;
-    }
-    VkdStatus status;
-    m_document = VKD_H_ZOBDoc::open(path, &status); // finishes what was interrupted
-    if (m_document) {
-        m_change = std::make_unique<ZobTransaction>(m_document->index());
-        status = m_change->status();
-    }
-    if (status.code == VKD_ZOB_LOCKED) {
-        m_change.reset();
-        m_document.reset();
-    }
-    const bool isUnfinished = QFileInfo::exists(file.canonicalFilePath() + JournalSuffix);
-    return isUnfinished || status.code == VKD_ZOB_LOCKED ? VKD_ZOB_LOCKED : VKD_ZOB_OK;
+    return waitForStore(parent, path, [&path, place] {
+        place->reset(); // before the next attempt takes the lock
+        *place = std::make_unique<ZobFilePlace>(path);
+        return (*place)->status().code;
+    });
 }
 
 cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path)
 {
-    const ReplacedFile replaced(parent, path);
-    if (replaced.status() != VKD_ZOB_OK)
-        return replaced.status();
-    cd_error_t status = waitForStore(parent, document.path(), [&document] {
-        return ZobSnapshot(document.index()).status().code;
-    });
+    std::unique_ptr<ZobFilePlace> place;
+    cd_error_t status = takePlace(parent, path, &place);
     if (status != VKD_ZOB_OK)
         return status;
-    QSaveFile to(path);
-    if (!to.open(QIODevice::WriteOnly))
+    status = waitForStore(parent, document.path(),
+                          [&document] { return ZobSnapshot(document.index()).status().code; });
+    if (status != VKD_ZOB_OK)
+        return status;
+    QFile to(place->temporaryPath());
+    if (!to.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return statusOf(to);
     status = copyBytes(parent, document, to);
-    if (status == VKD_ZOB_OK && !to.commit())
-        status = statusOf(to);
+    to.close();
+    if (status == VKD_ZOB_OK)
+        status = to.error() == QFileDevice::NoError ? place->commit().code : statusOf(to);
     return status;
 }
 

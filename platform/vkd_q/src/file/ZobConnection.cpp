@@ -108,6 +108,11 @@ VkdStatus ZobConnection::openInMemory()
     return status.isOk() ? makeSchema() : status;
 }
 
+VkdStatus ZobConnection::openUnchecked()
+{
+    return connect(SQLITE_OPEN_READWRITE);
+}
+
 VkdStatus ZobConnection::connect(int flags)
 {
     sqlite3* connection = nullptr;

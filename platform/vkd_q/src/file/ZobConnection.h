@@ -12,13 +12,15 @@ struct sqlite3;
 class ZobConnection
 {
 public:
-    /// Creates an unconnected object; one of the next three functions connects it. Each failure
+    /// Creates an unconnected object; one of the next four functions connects it. Each failure
     /// writes its log line, unless the caller cancelled.
     explicit ZobConnection(const QString& path);
     VkdStatus open(const VkdGoOn& goOn);
     /// Creates the file, and removes it again if it cannot be completed.
     VkdStatus create();
     VkdStatus openInMemory();
+    /// Opens any file for writing, without reading it.
+    VkdStatus openUnchecked();
 
     sqlite3* handle() const { return m_handle.get(); }
     const QString& path() const { return m_path; }

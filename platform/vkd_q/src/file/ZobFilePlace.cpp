@@ -1,0 +1,148 @@
+#include "ZobFilePlace.h"
+
+#include "file/ZobConnection.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSysInfo>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace {
+/// SQLite plays these files back into the file to whose name they belong.
+const char* const LeftSuffixes[] = {"-journal", "-wal", "-shm"};
+
+bool isWriteProtected(const QFileInfo& file)
+{
+    const auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return !file.isWritable() || !(file.permissions() & anyWrite);
+}
+
+/// Of a symbolic link, the file is replaced and not the link.
+QString resolved(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
+}
+
+QString computer()
+{
+    return QString(QSysInfo::machineHostName()).remove(QLatin1Char('.'));
+}
+
+bool isRunning(int process)
+{
+    return kill(process, 0) == 0 || errno != ESRCH;
+}
+
+/// Writes the contents of a file or folder to the disk.
+bool sync(const QString& path, int flags)
+{
+    const int descriptor = open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
+    const bool isDone = descriptor >= 0 && fsync(descriptor) == 0;
+    if (descriptor >= 0)
+        close(descriptor);
+    return isDone;
+}
+
+bool removeLeftBeside(const QString& path)
+{
+    bool isDone = true;
+    for (const char* suffix : LeftSuffixes) {
+        QFile left(path + QLatin1String(suffix));
+        isDone = (!left.exists() || left.remove()) && isDone;
+    }
+    return isDone;
+}
+
+/// Without replacing, a file that has appeared meanwhile is an error.
+bool renameFile(const QString& from, const QString& to, bool replaces)
+{
+    if (!replaces)
+        return QFile::rename(from, to);
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+} // namespace
+
+ZobFilePlace::ZobFilePlace(const QString& path)
+    : m_name(path)
+    , m_path(resolved(path))
+    , m_temporary(QStringLiteral("%1.%2-%3.new").arg(m_path, computer(), QString::number(getpid())))
+    , m_status(prepare())
+{
+}
+
+ZobFilePlace::~ZobFilePlace()
+{
+    if (!m_status.isOk())
+        return;
+    QFile::remove(m_temporary);
+    removeLeftBeside(m_temporary);
+}
+
+VkdStatus ZobFilePlace::prepare()
+{
+    const QFileInfo file(m_path);
+    const QFileInfo folder(file.absolutePath());
+    if (!folder.isDir() || (file.exists() && !file.isFile()))
+        return fail(VKD_ZOB_NO_FILE, qt_error_string(folder.isDir() ? EISDIR : ENOENT));
+    if (isWriteProtected(folder) || (file.exists() && isWriteProtected(file)))
+        return fail(VKD_ZOB_READ_ONLY);
+    removeLeftFiles();
+    m_replaces = file.exists();
+    return m_replaces ? lock() : VkdStatus();
+}
+
+/// A file that is not a database has no lock, and no program has it open as a project.
+VkdStatus ZobFilePlace::lock()
+{
+    m_locked = std::make_unique<ZobConnection>(m_path);
+    const VkdStatus connected = m_locked->openUnchecked();
+    if (!connected.isOk())
+        return connected;
+    const int code =
+        sqlite3_exec(m_locked->handle(), "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) & 0xff;
+    if (code == SQLITE_OK && m_locked->isAway()) // another program has just replaced the file
+        return m_locked->fail(VKD_ZOB_LOCKED, ZobAction::TakeLock);
+    const bool isLocked = code == SQLITE_OK || code == SQLITE_NOTADB || code == SQLITE_CORRUPT;
+    return isLocked ? VkdStatus() : m_locked->fail(code, ZobAction::TakeLock);
+}
+
+void ZobFilePlace::removeLeftFiles() const
+{
+    const QFileInfo file(m_path);
+    const QDir folder = file.absoluteDir();
+    const QRegularExpression name(QStringLiteral("\\A%1\\.%2-([0-9]+)\\.new(-journal)?\\z")
+                                      .arg(QRegularExpression::escape(file.fileName()),
+                                           QRegularExpression::escape(computer())));
+    const QStringList entries = folder.entryList(QDir::Files);
+    for (const QString& entry : entries)
+        if (const auto match = name.match(entry);
+            match.hasMatch() && !isRunning(match.captured(1).toInt()))
+            QFile::remove(folder.filePath(entry));
+}
+
+VkdStatus ZobFilePlace::commit()
+{
+    const QString folder = QFileInfo(m_path).absolutePath();
+    if (m_replaces)
+        QFile::setPermissions(m_temporary, QFile::permissions(m_path));
+    if (!sync(m_temporary, O_RDWR) || !removeLeftBeside(m_path))
+        return fail(VKD_ZOB_FAILED, qt_error_string());
+    sync(folder, O_DIRECTORY); // not all file systems can
+    if (!renameFile(m_temporary, m_path, m_replaces))
+        return fail(VKD_ZOB_READ_ONLY, qt_error_string());
+    sync(folder, O_DIRECTORY);
+    return {};
+}
+
+VkdStatus ZobFilePlace::fail(int code, const QString& detail) const
+{
+    return reportZobFailure(code, ZobAction::Create, m_name, detail);
+}
