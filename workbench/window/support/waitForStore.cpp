@@ -4,6 +4,7 @@
 #include "window/support/SlowWork.h"
 
 #include <vkd_lib_value.h>
+#include <vkd_zob_deadline.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -11,15 +12,13 @@
 namespace workbench {
 
 namespace {
-constexpr int AttemptMs = 50;         // so that Cancel is heard soon
-constexpr int DefaultDeadline = 5000; // of the store, ms
+constexpr int AttemptMs = 50; // so that the user can cancel soon
 
-/// Does it with a short deadline of the store.
+/// Calls `attempt` with a short deadline of the store.
 cd_error_t attemptShortly(const std::function<cd_error_t()>& attempt)
 {
     const int setting = vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE);
-    if (setting <= 0 || setting > AttemptMs)
-        vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, AttemptMs);
+    vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, qMin(vkd_zob_deadline(), AttemptMs));
     const cd_error_t status = attempt();
     vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, setting);
     return status;
@@ -29,8 +28,7 @@ cd_error_t attemptShortly(const std::function<cd_error_t()>& attempt)
 cd_error_t waitForStore(QWidget* parent, const QString& path,
                         const std::function<cd_error_t()>& attempt)
 {
-    const int setting = vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE);
-    const int deadline = setting > 0 ? setting : DefaultDeadline;
+    const int deadline = vkd_zob_deadline();
     SlowWork work(parent,
                   SlowWork::tr("Another program is writing to the file %1.")
                       .arg(QDir::toNativeSeparators(QFileInfo(path).fileName())),

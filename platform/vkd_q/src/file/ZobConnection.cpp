@@ -3,7 +3,7 @@
 #include "file/recordChecksum.h"
 #include "file/zobFileCheck.h"
 #include "file/zobSchema.h"
-#include "vkd_lib_value.h"
+#include "vkd_zob_deadline.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,8 +14,6 @@
 #include <thread>
 
 namespace {
-constexpr int DefaultLockDeadline = 5000; // ms
-
 const QLatin1String InMemory(":memory:");
 
 constexpr char Schema[] = "BEGIN;" ZOB_RECORD_TABLE ";"
@@ -35,9 +33,7 @@ int waitForOther(void*, int calls)
     static thread_local Clock::time_point start;
     if (calls == 0)
         start = Clock::now();
-    const int setting = vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE);
-    const int deadline = setting > 0 ? setting : DefaultLockDeadline;
-    if (Clock::now() - start >= std::chrono::milliseconds(deadline))
+    if (Clock::now() - start >= std::chrono::milliseconds(vkd_zob_deadline()))
         return 0;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
     return 1;
