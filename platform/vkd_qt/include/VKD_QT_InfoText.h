@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-class QLabel;
-
 /// A word-wrapped note to the user, with the information icon if `withSign` is true.
 class VKD_QT_EXPORT VKD_QT_InfoText : public QWidget
 {
@@ -15,11 +13,6 @@ public:
     VKD_QT_InfoText(bool withSign, const QString& text, QWidget* parent = nullptr,
                     const char* name = nullptr);
 
-    QString text() const;
-
 protected:
     void resizeEvent(QResizeEvent* event) override;
-
-private:
-    QLabel* m_text;
 };

@@ -98,11 +98,6 @@ void ScriptPane::setOtherScript(const QString& script)
     mark({});
 }
 
-int ScriptPane::changedLineCount() const
-{
-    return m_changed.size();
-}
-
 void ScriptPane::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);

@@ -31,8 +31,6 @@ public:
     void setScript(const QString& script);
     /// Shows a script that has nothing to do with the one before.
     void setOtherScript(const QString& script);
-    /// The number of lines that are marked.
-    int changedLineCount() const;
 
 Q_SIGNALS:
     void languageChosen(bool english);

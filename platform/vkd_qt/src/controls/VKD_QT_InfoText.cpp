@@ -11,9 +11,10 @@
 VKD_QT_InfoText::VKD_QT_InfoText(bool withSign, const QString& text, QWidget* parent,
                                  const char* name)
     : QWidget(parent)
-    , m_text(new QLabel(text, this))
 {
     setObjectName(QLatin1String(name));
+    auto note = new QLabel(text, this);
+    note->setWordWrap(true);
     auto layout = new VKD_QT_HBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     if (withSign) {
@@ -22,8 +23,7 @@ VKD_QT_InfoText::VKD_QT_InfoText(bool withSign, const QString& text, QWidget* pa
         sign->setPixmap(vkd::qt::icon(QStringLiteral(":/icon/program/information")).pixmap(side));
         layout->addWidget(sign, 0, Qt::AlignTop);
     }
-    m_text->setWordWrap(true);
-    layout->addWidget(m_text, 1);
+    layout->addWidget(note, 1);
 }
 
 /// Sets the minimum height, because a grid layout gives a note that spans several columns too
@@ -33,9 +33,4 @@ void VKD_QT_InfoText::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     setMinimumHeight(heightForWidth(event->size().width()));
     layout()->setGeometry(rect()); // rect() may have grown meanwhile
-}
-
-QString VKD_QT_InfoText::text() const
-{
-    return m_text->text();
 }
