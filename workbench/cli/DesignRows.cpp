@@ -1,7 +1,7 @@
 #include "cli/DesignRows.h"
 
 #include "cli/CommandLine.h"
-#include "project/projectKeys.h"
+#include "project/dialogPages.h"
 
 #include <record/designEntries.h>
 #include <record/designFields.h>

@@ -1,7 +1,7 @@
 #include "project/OutputState.h"
 
+#include "project/dialogPages.h"
 #include "project/numberTexts.h"
-#include "project/projectKeys.h"
 #include "project/putEntries.h"
 
 #include <vkd_dbo_model.h>

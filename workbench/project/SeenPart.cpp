@@ -1,6 +1,6 @@
 #include "project/SeenPart.h"
 
-#include "project/projectKeys.h"
+#include "project/dialogPages.h"
 
 #include <vkd_zob_keys.h>
 #include <ZobTransaction.h>

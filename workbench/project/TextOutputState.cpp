@@ -1,7 +1,7 @@
 #include "project/TextOutputState.h"
 
+#include "project/dialogPages.h"
 #include "project/numberTexts.h"
-#include "project/projectKeys.h"
 #include "project/putEntries.h"
 
 #include <VKD_H_ProjectDialogPage.h>

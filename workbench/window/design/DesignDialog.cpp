@@ -1,6 +1,6 @@
 #include "window/design/DesignDialog.h"
 
-#include "project/projectKeys.h"
+#include "project/dialogPages.h"
 #include "window/design/sharedGroupsQuestion.h"
 #include "window/support/HelpKey.h"
 #include "window/support/KeptPlace.h"
@@ -9,6 +9,7 @@
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter>
+#include <VKD_P_DesignParameter_Entry.h>
 #include <VKD_P_DesignParameter_Role.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_Ok.h>
@@ -131,7 +132,8 @@ void DesignDialog::setDocument(VKD_H_ZOBDoc* document)
 int DesignDialog::rowsWithoutGroups() const
 {
     int count = 0;
-    while (!m_entries.getEntry(DesignEntry + QString::number(count + 1), QString()).isEmpty())
+    const QLatin1String prefix(vkd::plib::designparameter::EntryPrefix);
+    while (!m_entries.getEntry(prefix + QString::number(count + 1), QString()).isEmpty())
         ++count;
     return count;
 }

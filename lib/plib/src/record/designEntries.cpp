@@ -4,6 +4,7 @@
 #include "record/designRecord.h"
 
 #include <VKD_H_ProjectDialogPage.h>
+#include <VKD_P_DesignParameter_Entry.h>
 
 #include <QStringList>
 
@@ -19,7 +20,7 @@ constexpr int FieldCount = 7;
 
 QString key(int number)
 {
-    return QStringLiteral("MerPara%1").arg(number);
+    return QLatin1String(vkd::plib::designparameter::EntryPrefix) + QString::number(number);
 }
 
 QString integers(int value)
