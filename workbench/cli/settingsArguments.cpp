@@ -73,14 +73,15 @@ void setFontSize(const QString& value, OutputSettings* settings)
 }
 
 constexpr Setting Settings[] = {
-    {"scaleMode", 1, Pages::All, setNumber<&OutputSettings::scaleMode>},
+    {"scaleMode", int(plib::ScaleMode::ToFit), Pages::All, setNumber<&OutputSettings::scaleMode>},
     {"scaleIndex", 11, Pages::All, setScaleIndex},
     {"scaleText", NoNumber, Pages::All, setScaleText},
     {"pageSplitId", 5, Pages::Split, setNumber<&OutputSettings::pageSplitId>},
     {"hasFormat", 1, Pages::AllButSplit, setNumber<&OutputSettings::hasFormat>},
-    {"formatId", 1, Pages::AllButSplit, setFormat},
-    {"picturesId", 1, Pages::AllButSplit, setPictures},
-    {"viewId", 4, Pages::AllButSplit, setNumber<&OutputSettings::viewId>},
+    {"formatId", int(plib::PageFormat::Landscape), Pages::AllButSplit, setFormat},
+    {"picturesId", int(plib::PagePictures::Two), Pages::AllButSplit, setPictures},
+    {"viewId", int(plib::OutputView::UserDefined), Pages::AllButSplit,
+     setNumber<&OutputSettings::viewId>},
     {"fontSizeText", NoNumber, Pages::All, setFontSize},
     {"fillAreas", 1, Pages::AllButSplit, setNumber<&OutputSettings::fillAreas>},
 };
