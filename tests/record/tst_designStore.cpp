@@ -3,6 +3,7 @@
 
 #include <record/designRecord.h>
 #include <record/designStore.h>
+#include <vkd_lib_value.h>
 #include <vkd_zob.h>
 
 #include <limits>
@@ -55,16 +56,6 @@ private Q_SLOTS:
         vkd_zob_put(m_project->index(), 200, 6, nullptr, &none, 0);
         plib::checkAndCreateZobDefault(m_project->index()); // emptied answers as never written
         QCOMPARE(text(read()), QStringLiteral("-1:0"));
-    }
-
-    void otherRecordsAreLeftAlone()
-    {
-        put(record(5, 1), 3);
-        plib::checkAndCreateZobDefault(m_project->index());
-        QByteArray bytes(8, '\0');
-        int length = bytes.size();
-        QCOMPARE(vkd_zob_get(m_project->index(), 200, 6, bytes.data(), &length, 0), VKD_ZOB_OK);
-        QCOMPARE(length, 3);
     }
 
     void folding_data()
@@ -162,6 +153,22 @@ private Q_SLOTS:
         QCOMPARE(read().rows[0].record.hioq, 0.045F - 0.035F);
     }
 
+    /// Whoever reads sees all of a writer's rows or none: the project is taken once for all puts.
+    void writingTakesTheProject()
+    {
+        put(record(1, 1));
+        const auto other = VKD_H_ZOBDoc::open(m_project->doc->path());
+        auto rows = data();
+        rows.rows = {{nullptr, record(0, 5), {2, 3}}, {nullptr, record(0, 6), {4}}};
+        vkd_zob_lock_ex(other->index(), 200, 6);
+        vkd_lib_setvalue(201, 30);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("cannot take the lock"))); // once
+        write(rows, true);
+        vkd_zob_free_ex(other->index(), 200, 6);
+        QCOMPARE(text(read()), QStringLiteral("1:1"));
+    }
+
     void foreignRecordsGoToTheScratchStore()
     {
         R foreign = record(8, 8);
@@ -215,9 +222,8 @@ private:
         return rows;
     }
 
-    void write(plib::DesignParameterData& rows)
+    void write(plib::DesignParameterData& rows, bool converted = false)
     {
-        bool converted = false;
         plib::writeRowsToZob(rows, converted);
     }
 
