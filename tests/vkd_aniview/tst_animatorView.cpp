@@ -155,6 +155,16 @@ private Q_SLOTS:
         }
     }
 
+    void lockedWhileDragging()
+    {
+        send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
+        m_view->setEnabled(false);
+        m_view->setEnabled(true);
+        const QString before = textOf(*m_view);
+        send(*m_view, QEvent::MouseMove, Right, Qt::LeftButton);
+        QCOMPARE(textOf(*m_view), before);
+    }
+
     void releaseElsewhere()
     {
         m_view->setHovering(true);

@@ -191,6 +191,26 @@ private Q_SLOTS:
               "group");
     }
 
+    /// A long line is in front of a plate with the one end and behind it with the other.
+    void lineThroughPlate()
+    {
+        Model model;
+        const auto node = [](int column, int row) { return 9 * row + column + 1; };
+        for (int i = 0; i < 81; ++i)
+            model.nodes.push_back({i + 1, {double(i % 9), double(i / 9), 0.0}});
+        for (int i = 0; i < 64; ++i) {
+            const int x = i % 8, y = i / 8;
+            model.quads.push_back(
+                {i, 1, {node(x, y), node(x + 1, y), node(x + 1, y + 1), node(x, y + 1)}, 0.2});
+        }
+        model.nodes.push_back({100, {4.5, -1.5, 4.0}});
+        model.nodes.push_back({101, {4.5, 9.5, -4.0}});
+        model.beams.push_back({1, 2, 1, {100, 101}});
+        SceneView view = viewOf(model, {0, 0, 1});
+        QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 1, 0})), 2);
+        QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 7, 0})), 1);
+    }
+
     void triangle()
     {
         Model model = squares();
