@@ -17,6 +17,8 @@ private Q_SLOTS:
     {
         writeFile(R"("supports": [[1, "z rx"], [2, ""], [3, "x y z rx ry rz"]],
                      "quads": [[5, 1, 1, 2, 3, 0, 0.25]], "springs": [[6, 1, 2, 0, 1e3]],
+                     "sectionCuts": [{"number": 8, "title": {"german": "c", "english": "d"},
+                                      "points": [[0, 0, 0], [1, 0, 0]]}],
                      "loadCases": [{"number": 7, "title": {"german": "a", "english": "b"}}])");
         Model m;
         const VkdStatus read = readModelFile(m_path, vkd::Language::English, &m);
@@ -28,6 +30,7 @@ private Q_SLOTS:
         QVERIFY(m.quads[0].nodes[3] == 0 && m.quads[0].thickness == 0.25);
         QVERIFY(m.springs[0].nodes[1] == 0 && m.springs[0].stiffness == 1000);
         QVERIFY(m.loadCases[0].kind == 1 && m.loadCases[0].title == QLatin1String("b"));
+        QCOMPARE(m.sectionCuts.value(0).title, QStringLiteral("d"));
     }
 
     /// Texts for writeFile().
