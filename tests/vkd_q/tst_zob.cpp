@@ -317,16 +317,6 @@ private Q_SLOTS:
         QCOMPARE(readAll(m_first), expected);
     }
 
-    void rollback()
-    {
-        ZobTransaction change(m_first);
-        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_OK);
-        QCOMPARE(change.rollback().code, VKD_ZOB_CANCELLED);
-        QCOMPARE(change.commit().code, VKD_ZOB_CANCELLED);
-        QCOMPARE(readAll(m_second), m_old);
-        QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)).code, VKD_ZOB_OK); // nothing went wrong
-    }
-
     void failureDropsTheChange_data()
     {
         const Columns<int, int> row("length", "position");
