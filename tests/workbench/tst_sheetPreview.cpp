@@ -292,38 +292,6 @@ private Q_SLOTS:
                      QStringLiteral("System \u2013 \u00DCbersicht \u2013 Baustoffe|"));
     }
 
-    void followsTheChoice()
-    {
-        const auto window = open("choice.zob");
-        auto preview = window->findChild<SheetPreview*>();
-        QVERIFY(preview->plan().pictures.isEmpty()); // not made while it is behind the script
-        trigger(*window, "SheetPreviewAction");
-        QTRY_COMPARE(preview->plan().pageCount(), 25);
-        QStringList shown = captions(preview->plan());
-        QCOMPARE(shown.first(), QStringLiteral("System \u2013 Overview \u2013 Materials|"));
-        QVERIFY(
-            shown.contains(QStringLiteral("Displacements \u2013 Nodes \u2013 Deformed structure|"
-                                          "Load case 1: Self-weight")));
-        QCOMPARE(shown.last(),
-                 QStringLiteral("Design of beams \u2013 Longitudinal reinforcement \u2013 "
-                                "Reinforcement bottom|Load case 103: SLS, quasi-permanent"));
-        changeChoice(*window);
-        QTRY_COMPARE(preview->plan().pictures.first().loadCase, 1);
-        shown = captions(preview->plan());
-        choose(*window, QStringLiteral("Landscape"));
-        QTRY_COMPARE(preview->plan().size, QSizeF(297, 210));
-        QCOMPARE(captions(preview->plan()), shown);
-        find<QComboBox>(*window, "KeywordLanguage")->setCurrentIndex(0);
-        QCOMPARE(captions(preview->plan()), shown);
-        trigger(*window, "German");
-        QVERIFY(captions(preview->plan())
-                    .contains(QStringLiteral("Verschiebungen \u2013 Knoten \u2013 Verformtes "
-                                             "Tragwerk|Lastfall 1: Self-weight")));
-        trigger(*window, "English");
-        find<QDialog>(*window, "OutputDialog")->reject();
-        QTRY_COMPARE(preview->plan().pageCount(), 25);
-    }
-
     void exportFromTheWindow_data()
     {
         const Columns<QString, QByteArray, int> row("format", "box", "pages"); // points

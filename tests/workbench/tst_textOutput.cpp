@@ -272,20 +272,6 @@ private Q_SLOTS:
         QCOMPARE(results(again.dialog).endsWith(QLatin1String("101, 103")), isStored);
     }
 
-    /// Also where nothing is checked, which is the same as a new row of fields shows.
-    void keptByHand()
-    {
-        const Desk desk(VKD_H_ZOBDoc::open(copy("hand.zob")));
-        TextOutputState kept = desk.dialog.state();
-        kept.loadCases = QStringLiteral("checked:m_Manually");
-        kept.lists = 0;
-        kept.leftOutLoadCases = {1, 2, 3};
-        kept.leftOutCombinations = {101, 102};
-        QVERIFY(kept.put(desk.document->index()));
-        const TextOutputDialog again(desk.document->index(), nullptr);
-        QVERIFY(again.state() == kept);
-    }
-
     void languages()
     {
         const auto window = open("languages.zob");
