@@ -99,7 +99,7 @@ Part outputPart()
             const auto document = VKD_H_ZOBDoc::open(project);
             OutputState state = OutputState::read(document->index());
             state.leftOutNumbers = {1};
-            QVERIFY(state.put(document->index()));
+            QVERIFY(state.put(document->index()).isOk());
         },
         [plots](const QWidget& dialog) { return plots(dialog)->checkState(0) == Qt::Unchecked; },
         [](const QString& project) {
@@ -116,7 +116,7 @@ Part textOutputPart()
             const auto document = VKD_H_ZOBDoc::open(project);
             auto state = TextOutputState::read(document->index(), ExtentFields::DefaultLists);
             state.leftOutLoadCases = {1};
-            QVERIFY(state.put(document->index()));
+            QVERIFY(state.put(document->index()).isOk());
         },
         [](const QWidget& dialog) { return !find<QCheckBox>(dialog, "ReactionList")->isChecked(); },
         [](const QString& project) {

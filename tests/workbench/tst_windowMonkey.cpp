@@ -261,7 +261,7 @@ private:
         const QString copied = path("copied.zob");
         writeFile(copied, contentOf(project));
         const auto document = VKD_H_ZOBDoc::open(copied);
-        if (!document || !state.put(document->index()))
+        if (!document || !state.put(document->index()).isOk())
             return QStringLiteral("not stored");
         const auto name = [](int language) {
             return language == testsupport::English ? QStringLiteral("english")

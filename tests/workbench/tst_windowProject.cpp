@@ -3,6 +3,7 @@
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
+#include <vkd_zob.h>
 
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -86,6 +87,26 @@ private Q_SLOTS:
         QCOMPARE(script(*window), before);
         QVERIFY(window->windowTitle().startsWith(QLatin1String("good.zob")));
         QVERIFY(!QFileInfo::exists(bad + QLatin1String("-journal")));
+    }
+
+    /// A record that is too short is left out of the model.
+    void incompleteModel()
+    {
+        constexpr int LoadCases = 12;
+        const QString bad = copy("bad.zob");
+        int index = 0;
+        QVERIFY(vkd_zob_open(qUtf8Printable(bad), &index).isOk());
+        const int length = 1;
+        QCOMPARE(vkd_zob_put(index, LoadCases, 0, "x", &length, 1), VKD_ZOB_OK);
+        QVERIFY(vkd_zob_close(index).isOk());
+        MainWindow window;
+        QStringList messages;
+        readMessage(messages);
+        QVERIFY(window.openProject(bad));
+        QCOMPARE(messages, {QStringLiteral("Not all of the file %1 could be read.\n"
+                                           "What is shown may lack something.")
+                                .arg(bad)});
+        QVERIFY(window.windowTitle().startsWith(QLatin1String("bad.zob")));
     }
 
     void projectInUse_data()

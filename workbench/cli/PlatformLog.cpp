@@ -1,5 +1,8 @@
 #include "cli/PlatformLog.h"
 
+#include <QStringList>
+
+#include <cstdio>
 #include <cstring>
 
 namespace workbench {
@@ -22,9 +25,10 @@ bool isOfNoUse(const QString& message)
 
 void collect(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (context.category && std::strncmp(context.category, "vkd.", 4) == 0)
-        collected() << message;
-    else if (!isOfNoUse(message))
+    if (context.category && std::strncmp(context.category, "vkd.", 4) == 0) {
+        if (!collected().contains(message))
+            collected() << message;
+    } else if (!isOfNoUse(message))
         previous(type, context, message);
 }
 } // namespace
@@ -34,12 +38,11 @@ void PlatformLog::install()
     previous = qInstallMessageHandler(collect);
 }
 
-QStringList PlatformLog::take()
+void PlatformLog::print()
 {
-    QStringList lines;
-    lines.swap(collected());
-    lines.removeDuplicates();
-    return lines;
+    for (const QString& line : qAsConst(collected()))
+        std::fprintf(stderr, "plib_workbench: warning: %s\n", qUtf8Printable(line.simplified()));
+    collected().clear();
 }
 
 } // namespace workbench

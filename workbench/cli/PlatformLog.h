@@ -1,17 +1,15 @@
 #pragma once
 
-#include <QStringList>
-
 namespace workbench {
 
-/// Keeps the log lines of the platform instead of printing them, so that the one line which a
-/// failed command prints can say the reason.
+/// Holds back the log lines of the platform while a program runs. So a failed command prints only
+/// its error, which has the reason from a status. The lines are for diagnosis; no code reads them.
 class PlatformLog
 {
 public:
     static void install();
-    /// The lines since the last call, each once.
-    static QStringList take();
+    /// Prints the lines as warnings to standard error, each once.
+    static void print();
 };
 
 } // namespace workbench

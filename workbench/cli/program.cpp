@@ -59,9 +59,7 @@ int runCommand(int (*command)(const QStringList&), const QStringList& arguments)
 {
     try {
         const int exitCode = runOrHelp(command, arguments);
-        const QStringList warnings = PlatformLog::take();
-        for (const QString& warning : warnings)
-            complain(QLatin1String("warning: ") + warning);
+        PlatformLog::print();
         return exitCode;
     } catch (const CommandError& error) {
         complain(error.text);

@@ -61,7 +61,7 @@ bool OpenProject::isOutdated(ProjectPart part) const
     return m_parts[int(part)].isOutdated(index());
 }
 
-cd_error_t OpenProject::store(ProjectPart part, const std::function<bool()>& put,
+cd_error_t OpenProject::store(ProjectPart part, const std::function<cd_error_t()>& put,
                               SeenPart::Newer newer)
 {
     return m_parts[int(part)].store(index(), put, newer);

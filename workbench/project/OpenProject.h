@@ -43,7 +43,8 @@ public:
     /// These call the operations of SeenPart for a part of this project.
     cd_error_t look(ProjectPart part);
     bool isOutdated(ProjectPart part) const;
-    cd_error_t store(ProjectPart part, const std::function<bool()>& put, SeenPart::Newer newer);
+    cd_error_t store(ProjectPart part, const std::function<cd_error_t()>& put,
+                     SeenPart::Newer newer);
 
     /// Returns the state of the file at the last check.
     ProjectWatch::File file() const { return m_watch.file(); }

@@ -35,7 +35,7 @@ OutputState OutputState::read(int index)
     return state;
 }
 
-bool OutputState::put(int index) const
+VkdStatus OutputState::put(int index) const
 {
     return putEntries(index, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
         entries.setEntry(PageKey, page);

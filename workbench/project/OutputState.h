@@ -1,6 +1,7 @@
 #pragma once
 
 #include <LoadcaseInformation.h>
+#include <vkd_status.h>
 
 #include <QSet>
 #include <QString>
@@ -22,8 +23,8 @@ struct OutputState
 
     /// Reads the state from the project at this database index.
     static OutputState read(int index);
-    /// Puts the state into the project. Returns whether all of it was accepted.
-    bool put(int index) const;
+    /// Puts the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
+    VkdStatus put(int index) const;
 
     /// Returns the tag of the content that WithSolids always includes.
     static QString solidsTag();

@@ -57,13 +57,6 @@ cd_error_t readDigest(int index, ProjectPart part, QByteArray* digest)
     *digest = hash.result();
     return VKD_ZOB_OK;
 }
-
-/// Drops the change. The user did not cancel it, so its failure is never that.
-cd_error_t failureOf(ZobTransaction& change)
-{
-    const cd_error_t status = change.rollback().code;
-    return status == VKD_ZOB_CANCELLED ? cd_error_t(VKD_ZOB_FAILED) : status;
-}
 } // namespace
 
 SeenPart::SeenPart(ProjectPart part)
@@ -82,7 +75,7 @@ bool SeenPart::isOutdated(int index) const
     return readDigest(index, m_part, &present) == VKD_ZOB_OK && present != m_digest;
 }
 
-cd_error_t SeenPart::store(int index, const std::function<bool()>& put, Newer newer)
+cd_error_t SeenPart::store(int index, const std::function<cd_error_t()>& put, Newer newer)
 {
     ZobTransaction change(index);
     if (!change.status().isOk())
@@ -93,8 +86,11 @@ cd_error_t SeenPart::store(int index, const std::function<bool()>& put, Newer ne
         return status;
     if (newer == Newer::Keep && present != m_digest)
         return PartChanged;
-    if (!put() || readDigest(index, m_part, &present) != VKD_ZOB_OK)
-        return failureOf(change);
+    status = put();
+    if (status == VKD_ZOB_OK)
+        status = readDigest(index, m_part, &present);
+    if (status != VKD_ZOB_OK)
+        return status; // the transaction is rolled back
     status = change.commit().code;
     if (status == VKD_ZOB_OK)
         m_digest = present;

@@ -28,9 +28,10 @@ public:
     cd_error_t look(int index);
     /// Returns whether the state in the project is another one now; false if it cannot be read.
     bool isOutdated(int index) const;
-    /// Calls `put`, which returns whether all was accepted, in a change that is stored as a whole
-    /// or not at all. Returns a VkdZobStatus, or PartChanged if there is a newer state to keep.
-    cd_error_t store(int index, const std::function<bool()>& put, Newer newer = Newer::Keep);
+    /// Calls `put`, which returns a VkdZobStatus, in a change that is stored as a whole or not at
+    /// all. Returns a VkdZobStatus, that of `put` if it failed, or PartChanged if there is a newer
+    /// state to keep.
+    cd_error_t store(int index, const std::function<cd_error_t()>& put, Newer newer = Newer::Keep);
 
 private:
     ProjectPart m_part;

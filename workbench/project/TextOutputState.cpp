@@ -64,7 +64,7 @@ TextOutputState TextOutputState::read(int index, int defaultLists)
     return state;
 }
 
-bool TextOutputState::put(int index) const
+VkdStatus TextOutputState::put(int index) const
 {
     return putEntries(index, TextOutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
         entries.setEntry(ExtentKey, extent);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_status.h>
+
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -23,8 +25,8 @@ struct TextOutputState
     /// Reads the state from the project at this database index. If no lists were saved, they are
     /// `defaultLists`.
     static TextOutputState read(int index, int defaultLists);
-    /// Puts the state into the project. Returns whether all of it was accepted.
-    bool put(int index) const;
+    /// Puts the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
+    VkdStatus put(int index) const;
 
     bool operator==(const TextOutputState& other) const;
 };

@@ -4,11 +4,11 @@
 
 namespace workbench {
 
-bool putEntries(int index, int page, const std::function<void(VKD_H_ProjectDialogPage&)>& set)
+VkdStatus putEntries(int index, int page, const std::function<void(VKD_H_ProjectDialogPage&)>& set)
 {
     VKD_H_ProjectDialogPage entries(index, page);
     set(entries);
-    return entries.save().isOk();
+    return entries.save();
 }
 
 } // namespace workbench

@@ -115,8 +115,8 @@ void DesignDialog::showPage()
 cd_error_t DesignDialog::store(SeenPart::Newer newer)
 {
     const auto put = [this] {
-        return m_entries.save().isOk() &&
-               copyRecords(m_desk->index(), m_document->index()) == VKD_ZOB_OK;
+        const VkdStatus saved = m_entries.save();
+        return saved.isOk() ? copyRecords(m_desk->index(), m_document->index()) : saved.code;
     };
     return m_seen.store(m_document->index(), put, newer);
 }

@@ -1,6 +1,5 @@
 #include "window/main/FileCommands.h"
 
-#include "cli/PlatformLog.h"
 #include "project/OpenProject.h"
 #include "window/main/WindowActions.h"
 #include "window/output/OutputDialog.h"
@@ -19,6 +18,7 @@
 #include <AnimatorView.h>
 #include <VKD_H_ZOBDoc.h>
 #include <ZobFilePlace.h>
+#include <ZobSnapshot.h>
 
 #include <QAction>
 #include <QDir>
@@ -148,7 +148,10 @@ bool FileCommands::openDocument(const QString& path, Camera camera)
     });
     // The first project must not delay the painting of the window.
     const bool isFirst = !m_parts.project->isOpen() && window->isVisible();
-    if (status == VKD_ZOB_OK && !isFirst && !showModel(document->index()))
+    VkdStatus modelStatus;
+    if (status == VKD_ZOB_OK && !isFirst)
+        modelStatus = showModel(document->index());
+    if (modelStatus.code == VKD_ZOB_CANCELLED)
         status = VKD_ZOB_CANCELLED;
     if (!m_parts.messages->succeeds(status, absolute, tr("The file %1 cannot be opened."))) {
         m_actions->setRecentFiles(WindowSettings().recentFiles()); // the file may be gone
@@ -162,7 +165,7 @@ bool FileCommands::openDocument(const QString& path, Camera camera)
     } else {
         if (camera == Camera::Standard)
             m_parts.view->slotViewControl(AnimatorStandardView, 0.0);
-        showProject();
+        showProject(modelStatus);
     }
     return true;
 }
@@ -176,23 +179,33 @@ std::unique_ptr<VKD_H_ZOBDoc> FileCommands::setDocument(std::unique_ptr<VKD_H_ZO
     return previous;
 }
 
-/// Loads the model of the project with this index. Returns false if the user cancelled.
-bool FileCommands::showModel(int index)
+/// Loads the model of the project with this index. The status is VKD_ZOB_CANCELLED if the user
+/// cancelled.
+VkdStatus FileCommands::showModel(int index)
 {
     SlowWork work(m_parts.messages->window(), tr("The model is being read."), 0);
-    PlatformLog::take(); // showProject() looks for what is written from now on
-    const VkdStatus read = m_parts.view->setProject(index, [&work](int) { return work.goOn(0); });
-    return read.code != VKD_ZOB_CANCELLED;
+    return m_parts.view->setProject(index, [&work](int) { return work.goOn(0); });
 }
 
-void FileCommands::showProject()
+/// Shows all but the model. Returns whether everything was read. The snapshot excludes other
+/// programs, so every new failure is one of reading.
+bool FileCommands::showContents()
+{
+    const int index = m_parts.project->index();
+    const ZobSnapshot snapshot(index);
+    const QString before = vkd_zob_last_failure(index).reason;
+    Q_EMIT opened();
+    return snapshot.status().isOk() && vkd_zob_last_failure(index).reason == before;
+}
+
+void FileCommands::showProject(const VkdStatus& modelStatus)
 {
     const QString path = m_parts.project->path();
     WindowSettings settings;
     settings.addRecentFile(path);
     m_actions->setRecentFiles(settings.recentFiles());
-    Q_EMIT opened();
-    if (!PlatformLog::take().isEmpty())
+    const bool areContentsRead = showContents();
+    if (!modelStatus.isOk() || !areContentsRead)
         m_parts.messages->complain(
             tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
                 .arg(QDir::toNativeSeparators(path)));
@@ -200,9 +213,10 @@ void FileCommands::showProject()
 
 void FileCommands::showFirstProject()
 {
-    if (showModel(m_parts.project->index())) {
+    const VkdStatus status = showModel(m_parts.project->index());
+    if (status.code != VKD_ZOB_CANCELLED) {
         m_parts.view->slotViewControl(AnimatorStandardView, 0.0);
-        return showProject();
+        return showProject(status);
     }
     setDocument(nullptr);
     m_parts.messages->say(tr("Cancelled."));

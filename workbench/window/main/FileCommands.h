@@ -2,6 +2,8 @@
 
 #include "window/main/makeProjectFile.h"
 
+#include <vkd_status.h>
+
 #include <QObject>
 
 #include <memory>
@@ -73,8 +75,9 @@ private:
     void reload();
     bool openDocument(const QString& path, Camera camera);
     std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
-    bool showModel(int index);
-    void showProject();
+    VkdStatus showModel(int index);
+    bool showContents();
+    void showProject(const VkdStatus& modelStatus);
     void showFirstProject();
     bool takeOver(const QString& path);
     bool mayLeaveMissingFile();

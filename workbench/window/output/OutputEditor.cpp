@@ -93,7 +93,7 @@ bool OutputEditor::store()
     if (!dialog())
         return false;
     const OutputState state = m_dialog->state();
-    const auto put = [this, &state] { return state.put(m_project->index()); };
+    const auto put = [this, &state] { return state.put(m_project->index()).code; };
     const auto stored = m_access->store(
         [this, &put](SeenPart::Newer newer) {
             return m_project->store(ProjectPart::Output, put, newer);

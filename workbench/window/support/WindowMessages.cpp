@@ -1,6 +1,5 @@
 #include "window/support/WindowMessages.h"
 
-#include "cli/PlatformLog.h"
 #include "window/support/projectTrouble.h"
 
 #include <VKD_QT_MessageBox.h>
@@ -23,7 +22,6 @@ void WindowMessages::say(const QString& text)
 
 void WindowMessages::complain(const QString& text)
 {
-    PlatformLog::take(); // the message says it already
     say(text.section(QLatin1Char('\n'), 0, 0));
     VKD_QT_MessageBox::warning(m_window, tr("Workbench"), text);
 }

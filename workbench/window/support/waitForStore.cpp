@@ -1,6 +1,5 @@
 #include "window/support/waitForStore.h"
 
-#include "cli/PlatformLog.h"
 #include "window/support/SlowWork.h"
 
 #include <vkd_lib_value.h>
@@ -36,7 +35,6 @@ cd_error_t waitForStore(QWidget* parent, const QString& path,
     cd_error_t status = attemptShortly(attempt);
     while (status == VKD_ZOB_LOCKED && work.elapsed() < deadline)
         status = work.goOn(work.elapsed()) ? attemptShortly(attempt) : VKD_ZOB_CANCELLED;
-    PlatformLog::take(); // the status says it all
     return status;
 }
 

@@ -75,7 +75,7 @@ void TextOutputEditor::close()
 bool TextOutputEditor::store()
 {
     const TextOutputState state = m_dialog->state();
-    const auto put = [this, &state] { return state.put(m_project->index()); };
+    const auto put = [this, &state] { return state.put(m_project->index()).code; };
     const auto stored = m_access->store(
         [this, &put](SeenPart::Newer newer) {
             return m_project->store(ProjectPart::TextOutput, put, newer);
