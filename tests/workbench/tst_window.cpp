@@ -1,7 +1,7 @@
 #include "ProjectTest.h"
 #include "window/design/sharedGroupsQuestion.h"
 #include "window/output/changedLines.h"
-#include "window/output/UsersCamera.h"
+#include "window/output/CameraRollback.h"
 
 #include <AnimatorView.h>
 
@@ -231,7 +231,7 @@ private Q_SLOTS:
         for (const Qt::CheckState state : {Qt::Unchecked, Qt::Checked})
             cases->item(0, 1)->setCheckState(state);
         {
-            const workbench::UsersCamera users;
+            const workbench::CameraRollback users;
             find<AnimatorView>(*window, "OutputView")->slotViewControl(AnimatorStoreCamera, 0.0);
             QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), QStringLiteral("0 -1 0 ROTA 0"));
         }

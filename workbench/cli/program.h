@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// To be called first in main(): the platform's log lines are kept, the platform takes over the
-/// language of the desktop, and the application gets its name and version. All programs of the
+/// Must be called first in main(): holds back the platform's log lines, sets the language of the
+/// desktop, and the name and version of the application. All programs of the
 /// workbench are one application to the user and have one name.
 void beginProgram();
 

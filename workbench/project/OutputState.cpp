@@ -31,7 +31,7 @@ OutputState OutputState::read(int index)
     OutputState state;
     state.page = entries.getEntry(PageKey, QString());
     state.content = entries.getEntry(ContentKey, QString()).toInt();
-    state.leftOutNumbers = numbersOfKept(entries.getEntry(LeftOutKey, QString()));
+    state.leftOutNumbers = numbersFromSaved(entries.getEntry(LeftOutKey, QString()));
     return state;
 }
 
@@ -40,7 +40,7 @@ VkdStatus OutputState::put(int index) const
     return putEntries(index, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
         entries.setEntry(PageKey, page);
         entries.setEntry(ContentKey, QString::number(content));
-        entries.setEntry(LeftOutKey, keptNumbers(leftOutNumbers));
+        entries.setEntry(LeftOutKey, savedNumbers(leftOutNumbers));
     });
 }
 

@@ -31,7 +31,7 @@ QString kindsText(const QMap<int, int>& kinds)
     return texts.join(QLatin1Char(';'));
 }
 
-QMap<int, int> kindsOfKept(const QString& text)
+QMap<int, int> kindsFromSaved(const QString& text)
 {
     QMap<int, int> kinds;
     const QStringList entries = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
@@ -58,9 +58,9 @@ TextOutputState TextOutputState::read(int index, int defaultLists)
     state.combinations = entry(CombinationsKey);
     state.lists = entries.getEntry(ListsKey, QString::number(defaultLists)).toInt();
     state.allValues = entry(AllValuesKey).toInt() != 0;
-    state.leftOutLoadCases = numbersOfKept(entry(LeftOutLoadCasesKey));
-    state.leftOutCombinations = numbersOfKept(entry(LeftOutCombinationsKey));
-    state.kinds = kindsOfKept(entry(KindsKey));
+    state.leftOutLoadCases = numbersFromSaved(entry(LeftOutLoadCasesKey));
+    state.leftOutCombinations = numbersFromSaved(entry(LeftOutCombinationsKey));
+    state.kinds = kindsFromSaved(entry(KindsKey));
     return state;
 }
 
@@ -72,8 +72,8 @@ VkdStatus TextOutputState::put(int index) const
         entries.setEntry(CombinationsKey, combinations);
         entries.setEntry(ListsKey, QString::number(lists));
         entries.setEntry(AllValuesKey, QString::number(int(allValues)));
-        entries.setEntry(LeftOutLoadCasesKey, keptNumbers(leftOutLoadCases));
-        entries.setEntry(LeftOutCombinationsKey, keptNumbers(leftOutCombinations));
+        entries.setEntry(LeftOutLoadCasesKey, savedNumbers(leftOutLoadCases));
+        entries.setEntry(LeftOutCombinationsKey, savedNumbers(leftOutCombinations));
         entries.setEntry(KindsKey, kindsText(kinds));
     });
 }

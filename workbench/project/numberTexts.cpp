@@ -6,7 +6,7 @@
 
 namespace workbench {
 
-QString keptNumbers(const QSet<int>& numbers)
+QString savedNumbers(const QSet<int>& numbers)
 {
     QList<int> sorted = numbers.values();
     std::sort(sorted.begin(), sorted.end());
@@ -16,7 +16,7 @@ QString keptNumbers(const QSet<int>& numbers)
     return texts.join(QLatin1Char(';'));
 }
 
-QSet<int> numbersOfKept(const QString& text)
+QSet<int> numbersFromSaved(const QString& text)
 {
     QSet<int> numbers;
     const QStringList parts = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);

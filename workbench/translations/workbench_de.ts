@@ -47,7 +47,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
-    <name>projectTrouble</name>
+    <name>storeErrorText</name>
     <message>
         <source>It is a folder.</source>
         <translation>Sie ist ein Ordner.</translation>

@@ -3,7 +3,7 @@
 #include "project/dialogPages.h"
 #include "window/design/sharedGroupsQuestion.h"
 #include "window/support/HelpKey.h"
-#include "window/support/KeptPlace.h"
+#include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
 
 #include <vkd_dbo_model.h>
@@ -72,7 +72,7 @@ DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
     setHelpTopic(this, "MERDAN/PARA");
     new QVBoxLayout(this);
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28});
-    new KeptPlace(this);
+    new WindowGeometry(this);
 }
 
 /// The page goes before its documents.

@@ -18,7 +18,7 @@ namespace workbench {
 /// dialog is to be shown again.
 ///
 /// The page works on the scratch store. A page turns what it shows into the stored form when it
-/// writes and cannot go back, so what the project refuses to take is kept there for a new page.
+/// writes and cannot go back, so records that the project refuses stay there for a new page.
 class DesignDialog : public VKD_H_Dialog
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     /// Reads what is edited. The result is a VkdZobStatus; showPage() comes next.
     cd_error_t load();
     /// Writes what was accepted into the project, all of it or nothing. The result is a
-    /// VkdZobStatus, or PartChanged if a newer state in the project is to be kept; it can be tried
+    /// VkdZobStatus, or PartChanged if a newer state in the project is to be kept. It can be called
     /// again.
     cd_error_t store(SeenPart::Newer newer);
     /// Puts what was read or accepted on a new page, before the dialog is shown.
@@ -39,7 +39,7 @@ public:
     /// From now on store() writes what was accepted into this copy of the project.
     void setDocument(VKD_H_ZOBDoc* document);
 
-    /// How many of the rows that were accepted name no group: they have no record and are kept with
+    /// Returns how many of the accepted rows have no groups. They have no record and are saved with
     /// the texts of the page.
     int rowsWithoutGroups() const;
 

@@ -3,7 +3,7 @@
 #include "window/design/DesignDialog.h"
 #include "window/design/PickBanner.h"
 #include "window/support/ProjectAccess.h"
-#include "window/support/projectTrouble.h"
+#include "window/support/storeErrorText.h"
 #include "window/support/WindowMessages.h"
 
 #include <AnimatorView.h>
@@ -75,16 +75,16 @@ bool DesignEditor::store()
 
 void DesignEditor::sayStored()
 {
-    const int kept = m_dialog->rowsWithoutGroups();
+    const int rows = m_dialog->rowsWithoutGroups();
     const QString stored = tr("The design parameters are in the project file.");
-    if (kept == 0)
+    if (rows == 0)
         m_messages->say(stored);
-    else if (kept == 1)
+    else if (rows == 1)
         m_messages->say(stored + QLatin1Char(' ') +
                         tr("1 row without groups is kept with the page."));
     else
         m_messages->say(stored + QLatin1Char(' ') +
-                        tr("%1 rows without groups are kept with the page.").arg(kept));
+                        tr("%1 rows without groups are kept with the page.").arg(rows));
 }
 
 bool DesignEditor::storeElsewhere()
@@ -92,7 +92,7 @@ bool DesignEditor::storeElsewhere()
     const QString path = m_project->path();
     const QString sentence = tr("The design parameters cannot be stored in the file %1.")
                                  .arg(QDir::toNativeSeparators(path)) +
-                             QLatin1Char('\n') + projectReason(path, VKD_ZOB_MOVED);
+                             QLatin1Char('\n') + storeErrorText(path, VKD_ZOB_MOVED);
     constexpr int GoBack = 1;
     if (VKD_QT_MessageBox::warning(m_messages->window(), tr("Workbench"), sentence,
                                    tr("&Save Project As..."), tr("&Go Back"), QString(), 0,

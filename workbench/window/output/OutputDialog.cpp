@@ -1,9 +1,9 @@
 #include "window/output/OutputDialog.h"
 
+#include "window/output/CameraRollback.h"
 #include "window/output/LoadCaseTable.h"
-#include "window/output/UsersCamera.h"
 #include "window/support/HelpKey.h"
-#include "window/support/KeptPlace.h"
+#include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
 
 #include <AnimatorView.h>
@@ -69,7 +69,7 @@ QLabel* newHint(const QString& text)
 }
 } // namespace
 
-OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, QWidget* parent)
+OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWidget* parent)
     : VKD_H_TabDialog(parent, "OutputDialog")
     , m_document(document)
     , m_parameter(document)
@@ -84,11 +84,11 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& kept, QWid
     setHelpTopic(m_plots, "GRAV/PLOTS");
     setModal(false);
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40});
-    new KeptPlace(this);
+    new WindowGeometry(this);
     m_changes.setSingleShot(true);
     connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
     addTabs();
-    restore(kept);
+    restore(saved);
     listen();
     setUnchanged();
 }
@@ -137,19 +137,19 @@ QWidget* OutputDialog::newContentTab()
     return tab;
 }
 
-void OutputDialog::restore(const OutputState& kept)
+void OutputDialog::restore(const OutputState& saved)
 {
-    m_loadCases->setLeftOutNumbers(kept.leftOutNumbers);
+    m_loadCases->setLeftOutNumbers(saved.leftOutNumbers);
     bindOffers();
-    if (kept.content == OutputState::WithSolids) {
-        m_contents->setButton(kept.content);
-        m_contentBinding.clicked(kept.content); // a group does not tell what the program chooses
+    if (saved.content == OutputState::WithSolids) {
+        m_contents->setButton(saved.content);
+        m_contentBinding.clicked(saved.content); // a group does not tell what the program chooses
     }
     offerLoadCases();
     m_choice.setProposed();
     vkd::dbo::setCamera(vkd::dbo::DesktopCamera, vkd::dbo::Camera()); // not the one of before
-    if (!kept.page.isEmpty())
-        m_page->readXMLstring(kept.page);
+    if (!saved.page.isEmpty())
+        m_page->readXMLstring(saved.page);
 }
 
 /// What is on offer fills the tree anew, once, and the user's plots are chosen again. The library's
@@ -240,7 +240,7 @@ OutputState OutputDialog::state()
     storeUsersCamera();
     OutputState present;
     {
-        const UsersCamera camera;
+        const CameraRollback camera;
         present.page = m_page->writeXMLstring();
     }
     present.page = withUsersCamera(present.page);
@@ -272,7 +272,8 @@ void OutputDialog::setUnchanged()
 
 OutputPresent OutputDialog::present()
 {
-    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(), TreeSight(*m_plots)};
+    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(),
+            TreeViewState(*m_plots)};
 }
 
 void OutputDialog::setPresent(const OutputPresent& present)
@@ -281,7 +282,7 @@ void OutputDialog::setPresent(const OutputPresent& present)
         m_unchanged.clear();
     tabWidget()->setCurrentIndex(present.tab);
     setVisible(present.isVisible);
-    present.plots.give(m_plots); // which has its size now
+    present.plots.restore(m_plots); // which has its size now
 }
 
 } // namespace workbench

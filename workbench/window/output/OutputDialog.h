@@ -3,7 +3,7 @@
 #include "project/OutputState.h"
 #include "window/output/checkedPlots.h"
 #include "window/output/PlotChoice.h"
-#include "window/output/TreeSight.h"
+#include "window/output/TreeViewState.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
@@ -28,7 +28,7 @@ struct OutputPresent
     bool isChanged;
     bool isVisible;
     int tab;
-    TreeSight plots;
+    TreeViewState plots;
 };
 
 /// The graphical output of a project in tabs: the page with a view of its own, the load cases that

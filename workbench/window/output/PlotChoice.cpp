@@ -1,6 +1,6 @@
 #include "window/output/PlotChoice.h"
 
-#include "window/output/UsersCamera.h"
+#include "window/output/CameraRollback.h"
 
 #include <AnimatorView.h>
 #include <VKD_P_WidgetGraphicalOutput>
@@ -40,14 +40,14 @@ void PlotChoice::giveBack()
 
 QString PlotChoice::shown() const
 {
-    const UsersCamera camera;
+    const CameraRollback camera;
     return vkd_qt_readXMLpart(m_page->writeXMLstring(), 0, Plots);
 }
 
 /// A page that reads a string has its view take the stored camera, so the view keeps its own.
 void PlotChoice::show(const QString& plots)
 {
-    const UsersCamera camera;
+    const CameraRollback camera;
     m_view->slotViewControl(AnimatorStoreCamera, 0.0);
     m_page->readXMLstring(vkd_qt_writeXMLpart(plots, Plots));
 }

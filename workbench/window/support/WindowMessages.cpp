@@ -1,6 +1,6 @@
 #include "window/support/WindowMessages.h"
 
-#include "window/support/projectTrouble.h"
+#include "window/support/storeErrorText.h"
 
 #include <VKD_QT_MessageBox.h>
 
@@ -38,7 +38,7 @@ bool WindowMessages::succeeds(cd_error_t status, const QString& path, const QStr
         say(tr("Cancelled."));
     else if (status != VKD_ZOB_OK)
         complain(sentence.arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') +
-                 projectReason(path, status));
+                 storeErrorText(path, status));
     return status == VKD_ZOB_OK;
 }
 

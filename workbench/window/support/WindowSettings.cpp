@@ -20,8 +20,8 @@ WindowSettings::WindowSettings()
 QStringList WindowSettings::recentFiles() const
 {
     QStringList present;
-    const QStringList kept = value(RecentKey).toStringList();
-    for (const QString& path : kept)
+    const QStringList saved = value(RecentKey).toStringList();
+    for (const QString& path : saved)
         if (QFileInfo(path).isFile())
             present << path;
     return present.mid(0, MaximumCount);

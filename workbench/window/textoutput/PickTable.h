@@ -19,7 +19,7 @@ class PickTable : public vkd::properties::nextGen::QtTableView
 public:
     enum Column { NumberColumn, TitleColumn };
 
-    /// All rows are checked at first. Their order is kept.
+    /// All rows are checked at first. Their order is preserved.
     PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
     QVector<int> numbers() const;

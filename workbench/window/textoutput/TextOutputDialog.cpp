@@ -2,7 +2,7 @@
 
 #include "project/numberTexts.h"
 #include "window/support/HelpKey.h"
-#include "window/support/KeptPlace.h"
+#include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
 #include "window/textoutput/CombinationTable.h"
 
@@ -55,10 +55,10 @@ TextOutputDialog::TextOutputDialog(int index, QWidget* parent)
     addCombinations(index);
     addOkRow();
     setState(TextOutputState::read(index, ExtentFields::DefaultLists));
-    m_kept = state();
+    m_saved = state();
     const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
     resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // with all hints
-    new KeptPlace(this);
+    new WindowGeometry(this);
 }
 
 QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& explanation)
@@ -219,7 +219,7 @@ void TextOutputDialog::setState(const TextOutputState& state)
 
 bool TextOutputDialog::isChanged() const
 {
-    return !(state() == m_kept);
+    return !(state() == m_saved);
 }
 
 void TextOutputDialog::showChoice()

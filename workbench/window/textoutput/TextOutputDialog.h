@@ -26,7 +26,7 @@ class TextOutputDialog : public VKD_H_Dialog
     Q_OBJECT
 
 public:
-    /// Shows what is kept in the project at this database index, which outlives the dialog.
+    /// Shows the saved state of the project at this database index, which outlives the dialog.
     TextOutputDialog(int index, QWidget* parent);
 
     /// For the project to keep.
@@ -34,7 +34,7 @@ public:
     void setState(const TextOutputState& state);
     /// Whether the choice is another than the one in the project.
     bool isChanged() const;
-    void setUnchanged() { m_kept = state(); }
+    void setUnchanged() { m_saved = state(); }
 
 Q_SIGNALS:
     void choiceChanged();
@@ -69,7 +69,7 @@ private:
     QLabel* m_extentResult = nullptr;
     QLabel* m_loadCaseResult = nullptr;
     QLabel* m_combinationResult = nullptr;
-    TextOutputState m_kept;
+    TextOutputState m_saved;
 };
 
 } // namespace workbench

@@ -1,4 +1,4 @@
-#include "window/output/TreeSight.h"
+#include "window/output/TreeViewState.h"
 
 #include <QTreeWidget>
 
@@ -15,7 +15,7 @@ QVector<QTreeWidgetItem*> rowsOf(const QTreeWidget& tree)
 }
 } // namespace
 
-TreeSight::TreeSight(const QTreeWidget& tree)
+TreeViewState::TreeViewState(const QTreeWidget& tree)
 {
     const QVector<QTreeWidgetItem*> rows = rowsOf(tree);
     for (const QTreeWidgetItem* row : rows)
@@ -24,7 +24,7 @@ TreeSight::TreeSight(const QTreeWidget& tree)
     m_top = rows.indexOf(tree.itemAt(0, 0));
 }
 
-void TreeSight::give(QTreeWidget* tree) const
+void TreeViewState::restore(QTreeWidget* tree) const
 {
     const QVector<QTreeWidgetItem*> rows = rowsOf(*tree);
     if (rows.size() != m_areOpen.size())

@@ -1,4 +1,4 @@
-#include "window/support/KeptPlace.h"
+#include "window/support/WindowGeometry.h"
 
 #include "window/support/WindowSettings.h"
 
@@ -14,7 +14,7 @@ QString keyOf(const QWidget* window)
 }
 } // namespace
 
-KeptPlace::KeptPlace(QWidget* window)
+WindowGeometry::WindowGeometry(QWidget* window)
     : QObject(window)
     , m_window(window)
 {
@@ -22,7 +22,7 @@ KeptPlace::KeptPlace(QWidget* window)
     window->installEventFilter(this);
 }
 
-bool KeptPlace::eventFilter(QObject* watched, QEvent* event)
+bool WindowGeometry::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Hide)
         WindowSettings().setValue(keyOf(m_window), m_window->saveGeometry());

@@ -1,0 +1,56 @@
+#include "window/support/storeErrorText.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace workbench {
+
+namespace {
+QString text(const char* source)
+{
+    return QCoreApplication::translate("storeErrorText", source);
+}
+
+/// What stands in the place where a project file is expected.
+QString placeReason(const QFileInfo& file)
+{
+    if (file.isDir())
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is a folder."));
+    if (!file.absoluteDir().exists())
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "Its folder is not there."));
+    if (!file.exists())
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is not there."));
+    return text(QT_TRANSLATE_NOOP("storeErrorText", "It may not be read."));
+}
+} // namespace
+
+QString storeErrorText(const QString& path, cd_error_t status)
+{
+    switch (status) {
+    case VKD_ZOB_NO_FILE: return placeReason(QFileInfo(path));
+    case VKD_ZOB_NO_PROJECT:
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is no project file."));
+    case VKD_ZOB_NEWER:
+        return text(QT_TRANSLATE_NOOP("storeErrorText",
+                                      "It was written by a newer version of the programs."));
+    case VKD_ZOB_DAMAGED: return text(QT_TRANSLATE_NOOP("storeErrorText", "It is damaged."));
+    case VKD_ZOB_READ_ONLY:
+        return text(
+            QT_TRANSLATE_NOOP("storeErrorText", "It or the folder it lies in is write-protected."));
+    case VKD_ZOB_FULL:
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "There is no room left on the disk."));
+    case VKD_ZOB_LOCKED:
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "Another program is writing to it."));
+    case VKD_ZOB_MOVED:
+        return QFileInfo::exists(path)
+                   ? text(QT_TRANSLATE_NOOP("storeErrorText",
+                                            "It was replaced by another file while it was open."))
+                   : text(QT_TRANSLATE_NOOP("storeErrorText",
+                                            "It was deleted or moved while it was open."));
+    default:
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "The system cannot read or write it."));
+    }
+}
+
+} // namespace workbench
