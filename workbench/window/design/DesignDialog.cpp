@@ -1,6 +1,7 @@
 #include "window/design/DesignDialog.h"
 
 #include "project/dialogPages.h"
+#include "project/OpenProject.h"
 #include "window/design/sharedGroupsQuestion.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
@@ -63,9 +64,9 @@ QVector<QVector<int>> sharedGroups(const QTableWidget& table)
 }
 } // namespace
 
-DesignDialog::DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent)
+DesignDialog::DesignDialog(OpenProject* project, QWidget* parent)
     : VKD_H_Dialog(parent, "DesignDialog")
-    , m_document(document)
+    , m_project(project)
     , m_desk(VKD_H_ZOBDoc::scratch())
 {
     setWindowTitle(tr("Design Parameters"));
@@ -83,16 +84,17 @@ DesignDialog::~DesignDialog()
 
 cd_error_t DesignDialog::load()
 {
-    const ZobSnapshot snapshot(m_document->index());
+    const int index = m_project->index();
+    const ZobSnapshot snapshot(index);
     cd_error_t status = snapshot.status().code;
     if (status == VKD_ZOB_OK)
-        status = m_seen.look(m_document->index());
+        status = m_project->look(ProjectPart::Design);
     if (status == VKD_ZOB_OK)
-        status = vkd::dbo::copySystem(m_document->index(), m_desk->index()).code;
+        status = vkd::dbo::copySystem(index, m_desk->index()).code;
     if (status == VKD_ZOB_OK)
-        status = copyRecords(m_document->index(), m_desk->index());
+        status = copyRecords(index, m_desk->index());
     if (status == VKD_ZOB_OK)
-        m_entries = VKD_H_ProjectDialogPage(m_document->index(), DesignDialogPage);
+        m_entries = VKD_H_ProjectDialogPage(index, DesignDialogPage);
     return status;
 }
 
@@ -101,7 +103,7 @@ void DesignDialog::showPage()
 {
     delete m_page;
     delete m_buttons;
-    m_page = new VKD_P_DesignParameter(m_document, m_desk.get(), this, false, false);
+    m_page = new VKD_P_DesignParameter(m_project->document(), m_desk.get(), this, false, false);
     m_page->init(); // ahead of the buttons, which Tab reaches last
     m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
     layout()->addWidget(m_page);
@@ -116,16 +118,15 @@ cd_error_t DesignDialog::store(SeenPart::Newer newer)
 {
     const auto put = [this] {
         const VkdStatus saved = m_entries.save();
-        return saved.isOk() ? copyRecords(m_desk->index(), m_document->index()) : saved.code;
+        return saved.isOk() ? copyRecords(m_desk->index(), m_project->index()) : saved.code;
     };
-    return m_seen.store(m_document->index(), put, newer);
+    return m_project->store(ProjectPart::Design, put, newer);
 }
 
 /// The entries belong to a project, so those of the page are put into the other one's.
-void DesignDialog::setDocument(VKD_H_ZOBDoc* document)
+void DesignDialog::continueWithCopy()
 {
-    m_document = document;
-    m_entries = VKD_H_ProjectDialogPage(document->index(), DesignDialogPage);
+    m_entries = VKD_H_ProjectDialogPage(m_project->index(), DesignDialogPage);
     m_page->setEntrys(m_entries);
 }
 

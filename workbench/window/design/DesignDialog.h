@@ -13,6 +13,8 @@ class VKD_QT_Ok;
 
 namespace workbench {
 
+class OpenProject;
+
 /// The design parameters of a project, with OK and Cancel. exec() may also answer
 /// VKD_H_SelGRP_Dialog::PickOutside: then the groups are to be picked in the view, and the same
 /// dialog is to be shown again.
@@ -24,8 +26,8 @@ class DesignDialog : public VKD_H_Dialog
     Q_OBJECT
 
 public:
-    /// `document` is not owned and outlives the dialog.
-    DesignDialog(VKD_H_ZOBDoc* document, QWidget* parent);
+    /// `project` is open; it is not owned and outlives the dialog.
+    DesignDialog(OpenProject* project, QWidget* parent);
     ~DesignDialog() override;
 
     /// Reads what is edited. The result is a VkdZobStatus; showPage() comes next.
@@ -36,8 +38,8 @@ public:
     cd_error_t store(SeenPart::Newer newer);
     /// Puts what was read or accepted on a new page, before the dialog is shown.
     void showPage();
-    /// From now on store() writes what was accepted into this copy of the project.
-    void setDocument(VKD_H_ZOBDoc* document);
+    /// Must be called after the project was replaced by a copy: store() writes into the copy.
+    void continueWithCopy();
 
     /// Returns how many of the accepted rows have no groups. They have no record and are saved with
     /// the texts of the page.
@@ -47,10 +49,9 @@ public:
 
 private:
     bool maySharedGroupsStay();
-    VKD_H_ZOBDoc* m_document;
+    OpenProject* m_project;
     std::unique_ptr<VKD_H_ZOBDoc> m_desk;
     VKD_H_ProjectDialogPage m_entries;
-    SeenPart m_seen{ProjectPart::Design};
     VKD_P_DesignParameter* m_page = nullptr;
     VKD_QT_Ok* m_buttons = nullptr;
 };

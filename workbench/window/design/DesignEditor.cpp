@@ -34,7 +34,7 @@ DesignEditor::~DesignEditor() = default;
 
 void DesignEditor::edit()
 {
-    auto dialog = std::make_unique<DesignDialog>(m_project->document(), m_messages->window());
+    auto dialog = std::make_unique<DesignDialog>(m_project, m_messages->window());
     if (!m_access->run([&dialog] { return dialog->load(); }, tr("The file %1 cannot be read.")))
         return;
     m_dialog = std::move(dialog);
@@ -99,7 +99,7 @@ bool DesignEditor::storeElsewhere()
                                    GoBack) == GoBack ||
         !m_saveAs())
         return false;
-    m_dialog->setDocument(m_project->document());
+    m_dialog->continueWithCopy();
     return store();
 }
 
