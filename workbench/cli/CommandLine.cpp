@@ -30,7 +30,7 @@ void CommandLine::parse(const QStringList& arguments)
     if (!m_parser.parse(arguments))
         throw CommandError{m_parser.errorText()};
     if (m_parser.isSet(QStringLiteral("help"))) {
-        // The parser knows the program, but not that its first argument names the command.
+        // The parser does not know that the first argument is the command.
         const QString text = m_parser.helpText();
         throw HelpWanted{QStringLiteral("Usage: plib_workbench %1 ").arg(arguments.first()) +
                          text.mid(text.indexOf(QLatin1String("[options]")))};

@@ -12,31 +12,31 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// Why a command cannot do its work; one line for the user.
+/// Thrown if a command fails: the reason in one line for the user.
 struct CommandError
 {
     QString text;
 };
 
-/// The command was asked for its help, which is the result.
+/// Thrown if the user has asked for the help of a command.
 struct HelpWanted
 {
     QString text;
 };
 
-/// The arguments of one command. Options that nobody knows and missing arguments throw.
+/// The arguments of one command. Throws for unknown options and missing arguments.
 class CommandLine
 {
 public:
     struct Option
     {
         QString name;
-        QString value; ///< how the help calls its value; empty for a switch
+        QString value; ///< name of its value in the help; empty for a switch
         QString description;
     };
 
-    /// `positional` names the arguments that are needed, then in brackets those that are not; dots
-    /// at the end of the last one stand for any number of them.
+    /// `positional` has the names of the required arguments, then in brackets the optional ones.
+    /// Dots at the end of the last name stand for any number of arguments.
     CommandLine(const QString& description, const QStringList& positional,
                 const std::vector<Option>& options);
     void parse(const QStringList& arguments);
@@ -55,16 +55,16 @@ private:
     QStringList m_positional;
 };
 
-/// Opens a project or throws with the reason that the platform gave.
+/// Opens a project, or throws with the reason of the platform.
 std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path);
 
-/// The whole text of a file in UTF-8, or throws.
+/// Returns the text of a file in UTF-8, or throws.
 QString readText(const QString& path);
 
-/// Writes to standard output; throws if it cannot take the text.
+/// Writes to standard output; throws if this fails.
 void print(const QString& text);
 
-/// The option for the language of captions and messages, and its effect on the desktop's language.
+/// Returns the option for the language of captions and messages, and applies it to the desktop.
 CommandLine::Option languageOption();
 void applyLanguage(const CommandLine& commandLine);
 

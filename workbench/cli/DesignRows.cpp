@@ -97,7 +97,8 @@ const std::map<QString, int>& DesignRows::modelGroups() const
     return m_modelGroups;
 }
 
-/// What a user can call a group: those of the rows as the rows show them, and those of the model.
+/// Returns the groups by the names that a user can type: as the rows show them, and those of the
+/// model.
 std::map<QString, int> DesignRows::knownGroups() const
 {
     std::map<QString, int> known;
@@ -128,7 +129,7 @@ std::vector<int> DesignRows::parseGroups(const QString& text) const
 
 plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 {
-    // A list of the file can name a group twice, but not fewer groups than the set has.
+    // A list in the file can contain a group twice.
     for (plib::DesignParameterRow& row : m_data.rows)
         if (row.groups.size() >= groups.size() &&
             std::set<int>(row.groups.begin(), row.groups.end()) ==
@@ -140,7 +141,7 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
     return row;
 }
 
-/// A group can have one record only. A row that loses its last group goes.
+/// A group can have one record only. A row that loses its last group is removed.
 void DesignRows::takeFromOthers(const std::vector<int>& groups)
 {
     const std::set<int> taken(groups.begin(), groups.end());

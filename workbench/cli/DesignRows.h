@@ -13,24 +13,24 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// The design parameters of a project as the rows of the design page, without the page: read,
-/// changed and written in the same order of calls.
+/// The rows of the design page for a project, without the page. They are read, changed and written
+/// by the same functions of the logic.
 class DesignRows
 {
 public:
     /// Reads the rows. The document is not owned.
     explicit DesignRows(VKD_H_ZOBDoc* document);
 
-    /// A line for each row: groups, type and the three summaries with tabs between them.
+    /// Returns a line for each row: groups, type and the three summaries, separated by tabs.
     QString text() const;
 
-    /// Changes fields of the row with just these groups, or of a new one, which takes its groups
-    /// from the rows that had them. `groups` is "none", "remaining", or numbers and names of
-    /// secondary groups with ";" between them; `fields` are NAME=VALUE in base units, "unset" for
-    /// no value. Throws a CommandError for a name or a value that does not fit.
+    /// Changes fields of the row with exactly these groups. If there is none, adds a row and
+    /// removes the groups from other rows. `groups` is "none", "remaining", or numbers and names of
+    /// secondary groups separated by ";". `fields` are NAME=VALUE in base units, or "unset" for no
+    /// value. Throws a CommandError for an invalid name or value.
     void setRow(const QString& groups, const QStringList& fields);
 
-    /// Puts the rows into the project; to be called within the transaction in which they were read.
+    /// Puts the rows into the project, within the transaction in which they were read.
     void write();
 
 private:
@@ -44,7 +44,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    mutable std::map<QString, int> m_modelGroups; // by name; read when first asked for
+    mutable std::map<QString, int> m_modelGroups; // by name; read on first use
     bool m_converted = false;
 };
 

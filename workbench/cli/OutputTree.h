@@ -47,7 +47,8 @@ private:
     plib::OutputNode m_root;
 };
 
-/// The rows of a file with a line `KIND NUMBER NAME` for each; NAME is all behind the second blank.
+/// Returns the rows of a file with a line `KIND NUMBER NAME` for each. NAME is the text after the
+/// second blank.
 OutputTree::Rows readRows(const QString& path);
 
 } // namespace workbench

@@ -16,7 +16,7 @@ QStringList& collected()
 
 QtMessageHandler previous = nullptr;
 
-/// Whether the message is one that Qt writes in every program without a screen.
+/// Returns whether Qt writes this message in every program without a screen.
 bool isOfNoUse(const QString& message)
 {
     return message.startsWith(QLatin1String("This plugin does not support ")) ||

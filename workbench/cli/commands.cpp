@@ -17,7 +17,7 @@ namespace workbench {
 
 namespace {
 
-/// A command of this program, or one that another program beside it carries out.
+/// A command of this program, or of another program in the same folder.
 struct Command
 {
     const char* name;
@@ -67,7 +67,7 @@ QString usage()
     return text + QStringLiteral("\nplib_workbench COMMAND --help tells more about a command.\n");
 }
 
-/// The other program takes the place of this one in the process.
+/// Replaces this program by another one in the process.
 int becomeProgram(const char* program, const QStringList& arguments)
 {
     const QByteArray path = QFile::encodeName(pathOf(program));

@@ -4,15 +4,16 @@
 
 namespace workbench {
 
-/// Runs the command that the first argument names, or prints the help of the program. Throws as the
-/// commands do. A command of another program does not return: that program takes over the process.
+/// Runs the command in the first argument, or prints the help of the program. Throws as the
+/// commands do. A command of another program does not return: that program replaces this one in the
+/// process.
 int runNamedCommand(const QStringList& arguments);
 
-/// Whether there is a command of this name.
+/// Returns whether there is a command of this name.
 bool isCommand(const QString& name);
 
-// The commands of this program. Each takes the arguments from its own name on, throws a
-// CommandError if it cannot do its work, and gives the exit code.
+// The commands of this program. The first argument is the name of the command. Each throws a
+// CommandError if it fails, and returns the exit code.
 int newCommand(const QStringList& arguments);
 int scriptCommand(const QStringList& arguments);
 int catalogueCommand(const QStringList& arguments);

@@ -5,7 +5,7 @@
 #include <QFileInfo>
 
 namespace {
-/// Without a command, and on a desktop, the window is what is wanted: alone or on a file.
+/// Without a command, the program opens the window if there is a display, with a file if given.
 QStringList commandOf(const QStringList& arguments)
 {
     const bool isFile = arguments.size() == 1 && !workbench::isCommand(arguments[0]) &&

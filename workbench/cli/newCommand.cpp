@@ -6,7 +6,7 @@
 namespace workbench {
 
 namespace {
-/// A line for each percent that is reached.
+/// Prints a line for each percent of progress.
 VkdGoOn printed()
 {
     return [last = -1](int percent) mutable {

@@ -71,7 +71,7 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
         throw CommandError{status.reason.replace(place.temporaryPath(), path)};
 }
 
-/// For one half of the work, which has this many percent before it.
+/// Returns the callback for one half of the work, which begins at this percentage.
 VkdGoOn half(const VkdGoOn& goOn, int before)
 {
     if (!goOn)

@@ -6,10 +6,9 @@
 
 namespace workbench {
 
-/// Makes a project file, which must not exist yet, from a model: the name of a sample or a model
-/// file. Titles are taken in the language of the desktop. The result is a line that says what the
-/// project holds; throws a CommandError, and leaves no file, if it cannot be made or
-/// `goOn` answered false.
+/// Creates a project file, which must not exist yet, from a model: the name of a sample or a model
+/// file. Titles are in the language of the desktop. Returns a line with the contents of the
+/// project. Throws a CommandError and leaves no file, if this fails or `goOn` returned false.
 QString newProject(const QString& path, const QString& model, const VkdGoOn& goOn = VkdGoOn());
 
 } // namespace workbench

@@ -23,7 +23,7 @@ int runOrHelp(int (*command)(const QStringList&), const QStringList& arguments)
     }
 }
 
-/// A line on standard error, whatever a file name or a message may hold.
+/// Prints a single line to standard error, even if a file name or a message has line breaks.
 void complain(const QString& text)
 {
     std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(text.simplified()));

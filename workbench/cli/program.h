@@ -9,10 +9,10 @@ namespace workbench {
 /// workbench are one application to the user and have one name.
 void beginProgram();
 
-/// The arguments of main() without the name of the program.
+/// Returns the arguments of main() without the name of the program.
 QStringList programArguments(int argc, char* argv[]);
 
-/// Whether there is a display for a window.
+/// Returns whether there is a display for a window.
 bool hasDisplay();
 
 /// Runs a command and returns the exit code, 0 or 1. Its help goes to standard output, a failure

@@ -18,7 +18,8 @@ QString fieldNames()
         names << QString::fromLatin1(field.name);
     return names.join(QLatin1Char(' '));
 }
-/// Throws if there is one.
+
+/// Throws if the status is a failure.
 void failOn(const VkdStatus& failure)
 {
     if (!failure.isOk())

@@ -51,7 +51,7 @@ void write(QSaveFile* file, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
     const QFileInfo existing(file->fileName());
-    if (existing.exists() && !existing.isFile()) // a pipe or device would be replaced by a file
+    if (existing.exists() && !existing.isFile()) // saving would replace a pipe or device by a file
         throw CommandError{QStringLiteral("cannot write %1: it is no file").arg(file->fileName())};
     if (!file->open(QIODevice::WriteOnly) || file->write(bytes) != bytes.size() || !file->flush())
         throw CommandError{
@@ -65,7 +65,7 @@ void commit(QSaveFile* file)
             QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};
 }
 
-/// No file is touched before all that is to be written has been.
+/// Replaces the files only after all of them have been written.
 void writeResults(const CommandLine& line, const QString& script, const QString& selection)
 {
     const auto place = [&line](const char* option) {

@@ -13,7 +13,7 @@ using plib::OutputSettings;
 
 enum class Pages { All, Split, AllButSplit };
 
-/// A setting of the record with what its control on a page does beside setting it.
+/// A setting, with the side effects of its control on a page.
 struct Setting
 {
     const char* name;

@@ -51,7 +51,7 @@ cd_error_t copyRecords(int from, int to)
     return put != VKD_ZOB_OK || isWhole ? put : status;
 }
 
-/// For each row the groups that other rows name, too.
+/// Returns for each row its groups that are also in other rows.
 QVector<QVector<int>> sharedGroups(const QTableWidget& table)
 {
     QVector<QVector<int>> groups;
@@ -76,7 +76,7 @@ DesignDialog::DesignDialog(OpenProject* project, QWidget* parent)
     new WindowGeometry(this);
 }
 
-/// The page goes before its documents.
+/// Destroys the page before the documents that it uses.
 DesignDialog::~DesignDialog()
 {
     delete m_page;
@@ -98,7 +98,7 @@ cd_error_t DesignDialog::load()
     return status;
 }
 
-/// The buttons are made anew, too, so that they follow the page in the order of the tab key.
+/// Replaces the buttons as well, so that they follow the page in the tab order.
 void DesignDialog::showPage()
 {
     delete m_page;
@@ -139,8 +139,8 @@ int DesignDialog::rowsWithoutGroups() const
     return count;
 }
 
-/// The page stores a record for each row that names a group. On the way back the first row that
-/// shares a group is selected.
+/// Asks before the same group is stored by several rows, each with a record. If the user goes back,
+/// selects the first such row.
 bool DesignDialog::maySharedGroupsStay()
 {
     const auto table = m_page->findChild<QTableWidget*>(QStringLiteral("table"));

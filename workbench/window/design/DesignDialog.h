@@ -19,8 +19,9 @@ class OpenProject;
 /// VKD_H_SelGRP_Dialog::PickOutside: then the groups are to be picked in the view, and the same
 /// dialog is to be shown again.
 ///
-/// The page works on the scratch store. A page turns what it shows into the stored form when it
-/// writes and cannot go back, so records that the project refuses stay there for a new page.
+/// The page works on the scratch store. When a page writes, it converts its rows to the stored form
+/// and cannot undo this. So records that the project refuses stay in the scratch store, and a new
+/// page reads them.
 class DesignDialog : public VKD_H_Dialog
 {
     Q_OBJECT
@@ -30,13 +31,12 @@ public:
     DesignDialog(OpenProject* project, QWidget* parent);
     ~DesignDialog() override;
 
-    /// Reads what is edited. The result is a VkdZobStatus; showPage() comes next.
+    /// Reads the records and texts of the project. Returns a VkdZobStatus. Call showPage() next.
     cd_error_t load();
-    /// Writes what was accepted into the project, all of it or nothing. The result is a
-    /// VkdZobStatus, or PartChanged if a newer state in the project is to be kept. It can be called
-    /// again.
+    /// Writes the accepted rows into the project, completely or not at all. Returns a VkdZobStatus,
+    /// or PartChanged if a newer state in the project is to be kept. It can be called again.
     cd_error_t store(SeenPart::Newer newer);
-    /// Puts what was read or accepted on a new page, before the dialog is shown.
+    /// Creates a new page with the rows that were read or accepted, before the dialog is shown.
     void showPage();
     /// Must be called after the project was replaced by a copy: store() writes into the copy.
     void continueWithCopy();

@@ -38,7 +38,7 @@ PickBanner::PickBanner(QWidget* parent)
     auto texts = new QVBoxLayout(band);
     for (QLabel* label : {m_what, m_picked}) {
         label->setForegroundRole(QPalette::HighlightedText);
-        label->setWordWrap(true); // the banner is not to widen the view
+        label->setWordWrap(true); // so that the banner does not widen the view
         texts->addWidget(label);
     }
     QFont bold = font();
@@ -79,7 +79,7 @@ void PickBanner::showEvent(QShowEvent* event)
 {
     QFrame::showEvent(event);
     m_done->setFocus();
-    window()->setAttribute(Qt::WA_KeyboardFocusChange); // the focus is to be seen
+    window()->setAttribute(Qt::WA_KeyboardFocusChange); // so that the focus is visible
 }
 
 void PickBanner::setTexts()
@@ -88,7 +88,7 @@ void PickBanner::setTexts()
     std::set_intersection(m_groups.begin(), m_groups.end(), m_withoutAreas.begin(),
                           m_withoutAreas.end(), std::back_inserter(unfit));
     m_what->setText(tr("Pick groups in the view, then press Done."));
-    // In one line: a second one that is shown and hidden would move the view below the mouse.
+    // In one line: showing and hiding a second one would move the view below the mouse.
     if (m_groups.empty())
         m_picked->setText(tr("No group is picked yet."));
     else if (unfit.empty())

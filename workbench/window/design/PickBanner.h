@@ -9,7 +9,7 @@ class QPushButton;
 
 namespace workbench {
 
-/// What stands above the view while groups are picked in it.
+/// A banner above the view while the user picks groups in it, with the picked groups and buttons.
 class PickBanner : public QFrame
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ class PickBanner : public QFrame
 public:
     explicit PickBanner(QWidget* parent = nullptr);
 
-    /// Of the groups that are picked from now on, those that the design of area elements has no use
-    /// for, ascending.
+    /// Sets the groups without area elements, ascending. The banner shows a warning if one of them
+    /// is picked.
     void setGroupsWithoutAreas(const std::vector<int>& groups);
     void setPicked(const std::vector<int>& groups);
 

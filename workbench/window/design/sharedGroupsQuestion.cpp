@@ -12,7 +12,7 @@ namespace {
 constexpr int MostLines = 5;
 constexpr int MostRows = 10;
 
-/// The texts are those of the dialog that asks.
+/// Translates in the context of the dialog that asks.
 struct DialogText
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::DesignDialog)

@@ -5,9 +5,10 @@
 
 namespace workbench {
 
-/// The question before groups are stored that stand in several rows: a line for each of them, with
-/// its rows as the user counts them, from 1; of very many the first ones. `groupsOfRows` holds for
-/// each row those of its groups that other rows name, too. Empty if there are none.
+/// Returns the question that is asked before storing groups that are in several rows. It has a line
+/// for each such group with its rows, counted from 1; of very many groups, it lists the first ones.
+/// `groupsOfRows` has for each row its groups that are also in other rows. Empty without such
+/// groups.
 QString sharedGroupsQuestion(const QVector<QVector<int>>& groupsOfRows);
 
 } // namespace workbench

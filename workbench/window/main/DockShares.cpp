@@ -30,12 +30,12 @@ void DockShares::add(const QList<QDockWidget*>& docks, Qt::Orientation orientati
         dock->installEventFilter(this);
 }
 
-/// The window has laid out its docks when its event comes here. Docks that change while it has the
-/// size that it had are changed by the user, others by that layout.
+/// When this filter gets the event of the window, the docks are already laid out. If a dock changes
+/// while the window has its old size, the user has changed it, otherwise the layout.
 bool DockShares::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show && watched == m_window)
-        // The docks come back with their sizes in the large window, before the window is large.
+        // The sizes of the docks are restored before the window has its restored size.
         m_isRestored = m_window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
     if (event->type() != QEvent::Resize)
         return false;
@@ -45,7 +45,7 @@ bool DockShares::eventFilter(QObject* watched, QEvent* event)
                 takeShare(entry, m_size);
         return false;
     }
-    const QSize before = std::exchange(m_size, QSize()); // nothing is the user's doing meanwhile
+    const QSize before = std::exchange(m_size, QSize()); // meanwhile no change is the user's
     if (before.isValid() && !std::exchange(m_isRestored, false))
         giveShares(before);
     m_size = m_window->size();
@@ -59,8 +59,8 @@ void DockShares::takeShare(Entry& entry, const QSize& window) const
             along(dock->size(), entry.orientation) / double(along(window, entry.orientation));
 }
 
-/// A size is not computed from the one before but from the share, which outlasts windows that are
-/// too small for it and many small steps.
+/// Computes sizes from the shares and not from the previous sizes, so that neither small windows
+/// nor many small steps change the shares.
 void DockShares::giveShares(const QSize& before)
 {
     for (Entry& entry : m_entries) {
@@ -72,7 +72,7 @@ void DockShares::giveShares(const QSize& before)
         const int wanted = qRound(entry.share * along(m_window->size(), entry.orientation));
         m_window->resizeDocks({dock}, {wanted}, entry.orientation);
     }
-    m_window->layout()->activate(); // now, not by an event that would look like the user's
+    m_window->layout()->activate(); // now: a later event would look like the user's
 }
 
 QDockWidget* DockShares::shownDock(const Entry& entry) const

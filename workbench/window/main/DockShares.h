@@ -9,8 +9,8 @@ class QMainWindow;
 
 namespace workbench {
 
-/// Lets docks keep their share of a main window when it is resized, which by itself gives all new
-/// room to its centre. The user's changes of a dock are the share from then on.
+/// Preserves the share of docks when a main window is resized; by itself, the window gives all new
+/// space to its centre. If the user resizes a dock, its new size becomes its share.
 class DockShares : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class DockShares : public QObject
 public:
     explicit DockShares(QMainWindow* window);
 
-    /// Docks that may lie on each other. They follow the width of the window (Qt::Horizontal) while
+    /// Adds docks that may be tabbed. They follow the width of the window (Qt::Horizontal) while
     /// they are at its left or right, or its height while they are at its top or bottom.
     void add(const QList<QDockWidget*>& docks, Qt::Orientation orientation);
 
@@ -37,7 +37,7 @@ private:
 
     QMainWindow* m_window;
     QList<Entry> m_entries;
-    QSize m_size; ///< of the window, when its docks had their places last
+    QSize m_size; ///< of the window when its docks were laid out last
     bool m_isRestored = false;
 };
 

@@ -154,7 +154,7 @@ void GroupList::fitColumns()
         resizeColumnToContents(column);
 }
 
-/// Who works elsewhere wants to see the whole model.
+/// Without the focus no group is highlighted, so that the user sees the whole model.
 void GroupList::pointAtCurrent()
 {
     pointAt(hasFocus() ? currentItem() : nullptr);

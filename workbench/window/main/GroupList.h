@@ -6,8 +6,9 @@
 
 namespace workbench {
 
-/// The primary groups of a project with number, title and contents. It tells which group the user
-/// points at, with the mouse or the keyboard, and shows the one that is pointed at elsewhere.
+/// The primary groups of a project with number, title and contents. It emits the group that the
+/// user points at, with the mouse or the keyboard, and marks the group that is pointed at in the
+/// model.
 class GroupList : public QTreeWidget
 {
     Q_OBJECT
@@ -17,17 +18,17 @@ public:
 
     /// Lists the groups of the project at this database index; below 1 there are none.
     void setProject(int index);
-    /// Marks a group that is pointed at elsewhere, without a signal; AnimatorView::NoGroup for
-    /// none. The current row stays.
+    /// Marks a group that is pointed at in the model, or none (AnimatorView::NoGroup). The current
+    /// row does not change, and no signal is emitted.
     void setMarkedGroup(int group);
-    /// Those that the design of area elements has no use for, ascending.
+    /// Returns the groups without area elements, which cannot be designed, ascending.
     const std::vector<int>& groupsWithoutAreas() const { return m_withoutAreas; }
 
 Q_SIGNALS:
-    /// The group below the mouse or, without one, the current group while the list has the focus;
-    /// or AnimatorView::NoGroup.
+    /// Emitted when another group is pointed at: the group below the mouse, otherwise the current
+    /// group while the list has the focus, otherwise AnimatorView::NoGroup.
     void groupPointed(int group);
-    /// The user activated a group, by Enter or a double click.
+    /// Emitted when the user activates a group by Enter or a double click.
     void groupChosen(int group);
 
 protected:

@@ -30,7 +30,7 @@ struct View
 {
     AnimatorViewControl control;
     const char* text;
-    const char* plane; ///< of the coordinates: says enough in the tool bar; null if there is none
+    const char* plane; ///< of the coordinates, for the tool bar; null if there is none
 };
 
 constexpr View Views[] = {

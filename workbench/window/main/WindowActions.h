@@ -20,17 +20,17 @@ public:
     /// Adds menus and tool bar to the window, which becomes the owner.
     explicit WindowActions(QMainWindow* window);
 
-    /// Texts and short cuts in the language of the desktop.
+    /// Sets texts and shortcuts in the language of the desktop.
     void setTexts();
-    /// What can be done: nearly all of it needs a project, and while groups are picked the project
-    /// must stay as it is. A project whose file is gone cannot be reloaded.
+    /// Enables the actions that are possible: nearly all need a project, which must not change
+    /// while groups are picked. A project with a missing file cannot be reloaded.
     void enable(bool hasProject, bool isPicking, bool isFileGone = false);
     void setHasScript(bool hasScript);
-    /// The files to open again. The data of each of the menu's actions is its path.
+    /// Lists files in the menu of recent files. The data of each action is the path.
     void setRecentFiles(const QStringList& paths);
 
-    /// What a dialog that is not modal is to hear the short cuts of, too. Short cuts of the whole
-    /// program would also pass by modal dialogs, whenever one has a list open.
+    /// Returns the actions with shortcuts that modeless dialogs have, too. Shortcuts of the whole
+    /// application would also work beside a modal dialog while it has a list open.
     QList<QAction*> besideDialogs() const;
 
     QVector<QAction*> newFromSample; ///< the data is the name of the model
@@ -49,8 +49,8 @@ public:
     QAction* sheet;
     QAction* german;
     QAction* english;
-    QAction* help;           ///< on the part of the window that has the focus
-    QVector<QAction*> books; ///< of the help; the data is the topic that each begins with
+    QAction* help;           ///< for the widget with the focus
+    QVector<QAction*> books; ///< of the help; the data is the first topic of each
     QAction* about;
 
     QMenu* recentMenu = nullptr;

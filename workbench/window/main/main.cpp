@@ -21,12 +21,12 @@ int openWindow(const QStringList& arguments)
     if (!hasDisplay())
         throw CommandError{QStringLiteral("the window needs a display")};
     applyLanguage(line);
-    if (line.has("language")) // else the window's own one of the last time
+    if (line.has("language")) // otherwise the window restores its last one
         WindowSettings().setLanguage(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
     return runWindow(line.argument(0));
 }
 
-/// Without a display, Qt would end the process with a core file.
+/// Creates an application without widgets if there is no display: Qt would abort otherwise.
 std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
 {
     if (!hasDisplay())

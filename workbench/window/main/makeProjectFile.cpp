@@ -11,7 +11,7 @@
 namespace workbench {
 
 namespace {
-constexpr int Patience = 50; // ms between two looks at the progress
+constexpr int Patience = 50; // ms between two checks of the progress
 
 QString language()
 {
@@ -19,7 +19,7 @@ QString language()
                                                        : QStringLiteral("english");
 }
 
-/// The error line of a command without the name of the program; empty after a success.
+/// Returns the error line of a command without the name of the program; empty after a success.
 QString failure(QProcess& process)
 {
     if (process.error() == QProcess::FailedToStart || process.exitStatus() != QProcess::NormalExit)

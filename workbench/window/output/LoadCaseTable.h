@@ -6,7 +6,7 @@
 
 namespace workbench {
 
-/// The load cases of a project, with a check box for each that is to be offered on the output page.
+/// The load cases of a project, each with a check box. The output page offers the checked ones.
 class LoadCaseTable : public VKD_H_TableWidget
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class LoadCaseTable : public VKD_H_TableWidget
 public:
     enum Column { NumberColumn, CheckColumn, TitleColumn };
 
-    /// The load cases of the project at this database index.
+    /// Lists the load cases of the project at this database index.
     LoadCaseTable(int index, QWidget* parent);
 
     QSet<int> leftOutNumbers() const;

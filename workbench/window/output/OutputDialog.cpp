@@ -46,12 +46,12 @@ VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* par
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, present);
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(page, &change);
-    page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // no list of a project
+    page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // without load cases
     return page;
 }
 
-/// A page writes the camera of its view, also that of a fixed view, which the user did not choose
-/// and is not to find when going back to a view of one's own.
+/// Replaces the camera in the string of a page by the user's. The page writes the camera of its
+/// view even if it is a fixed view; the user's own view would then be lost.
 QString withUsersCamera(QString page)
 {
     const QString tag = QStringLiteral("Camera");
@@ -93,7 +93,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     setUnchanged();
 }
 
-/// Widgets that go tell of changes, which nobody is to hear once the timer has gone.
+/// Destroys the page before the timer, since its widgets emit signals while they are destroyed.
 OutputDialog::~OutputDialog()
 {
     delete m_page;
@@ -102,7 +102,7 @@ OutputDialog::~OutputDialog()
 void OutputDialog::addTabs()
 {
     auto plots = new QWidget(this);
-    (new QVBoxLayout(plots))->addWidget(m_page); // which has no margins of its own
+    (new QVBoxLayout(plots))->addWidget(m_page); // the page has no margins
     addTab(plots, tr("Plots"));
     addTab(newLoadCaseTab(), tr("Load cases"));
     addTab(newContentTab(), tr("Contents"));
@@ -143,7 +143,7 @@ void OutputDialog::restore(const OutputState& saved)
     bindOffers();
     if (saved.content == OutputState::WithSolids) {
         m_contents->setButton(saved.content);
-        m_contentBinding.clicked(saved.content); // a group does not tell what the program chooses
+        m_contentBinding.clicked(saved.content); // the setter emits no signal
     }
     offerLoadCases();
     m_choice.setProposed();
@@ -152,8 +152,8 @@ void OutputDialog::restore(const OutputState& saved)
         m_page->readXMLstring(saved.page);
 }
 
-/// What is on offer fills the tree anew, once, and the user's plots are chosen again. The library's
-/// own binding of a table is not for this one: it offers plain load cases alone.
+/// After each change of the offer, the tree is rebuilt once and the user's plots are checked again.
+/// The library's binding of a table is not used, because it offers plain load cases only.
 void OutputDialog::bindOffers()
 {
     connect(m_loadCases, &QTableWidget::itemChanged, this, [this] {
@@ -178,7 +178,7 @@ void OutputDialog::offerLoadCases()
     m_page->setUsedNumbersAndNames(present.offeredRows(m_document->index()));
 }
 
-/// The page tells nobody about its changes, so its widgets are listened to.
+/// The page emits no signal for changes, so this connects its widgets.
 void OutputDialog::listen()
 {
     const auto start = [this] { m_changes.start(0); };
@@ -199,7 +199,7 @@ void OutputDialog::listen()
     m_view->installEventFilter(this);
 }
 
-/// The user's view goes with the camera of the view, which tells nobody either.
+/// A view emits no signal when its camera changes, so its input events are watched.
 bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
 {
     const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||
@@ -223,7 +223,7 @@ QString OutputDialog::script(bool english)
     return m_page->getTORVAL(english);
 }
 
-/// The view does so by itself no earlier than it is left.
+/// The view itself stores its camera only when the user leaves the view.
 void OutputDialog::storeUsersCamera()
 {
     if (showsUsersView())
@@ -282,7 +282,7 @@ void OutputDialog::setPresent(const OutputPresent& present)
         m_unchanged.clear();
     tabWidget()->setCurrentIndex(present.tab);
     setVisible(present.isVisible);
-    present.plots.restore(m_plots); // which has its size now
+    present.plots.restore(m_plots); // after the tree has its size
 }
 
 } // namespace workbench

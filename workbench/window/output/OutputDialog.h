@@ -21,7 +21,7 @@ namespace workbench {
 
 class LoadCaseTable;
 
-/// All that another dialog needs to take the place of one.
+/// The state of a dialog, for another dialog that replaces it.
 struct OutputPresent
 {
     OutputState state;
@@ -31,9 +31,9 @@ struct OutputPresent
     TreeViewState plots;
 };
 
-/// The graphical output of a project in tabs: the page with a view of its own, the load cases that
-/// it offers, and what more it offers than the model holds. It is not modal and stays when it is
-/// closed by OK, for the script of the present choice to be had at any time.
+/// The graphical output of a project in tabs: the page with its own view, the offered load cases,
+/// and plots that are offered although the model lacks their contents. It is modeless. After OK it
+/// is only hidden, because it creates the script of the current choice.
 class OutputDialog : public VKD_H_TabDialog
 {
     Q_OBJECT
@@ -43,24 +43,26 @@ public:
     OutputDialog(VKD_H_ZOBDoc* document, const OutputState& state, QWidget* parent);
     ~OutputDialog() override;
 
-    /// The script of the present choice with English or German keywords, empty without a plot.
+    /// Returns the script of the current choice with English or German keywords; empty if no plot
+    /// is checked.
     QString script(bool english);
     /// What the script draws, as it is called in the tree of the page.
     QVector<PlotCaption> captions();
-    /// For the project to keep.
+    /// Returns the state that is saved in the project.
     OutputState state();
-    /// Whether the user changed anything since the dialog was made or setUnchanged() was called.
+    /// Returns whether the user has changed anything since the dialog was created or setUnchanged()
+    /// was called.
     bool isChanged();
     void setUnchanged();
 
     OutputPresent present();
-    /// For a dialog that was made with the state of the other one.
+    /// Continues another dialog; this one must have been created with its state.
     void setPresent(const OutputPresent& present);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// Something that the script depends on changed, once for all changes of an event.
+    /// Emitted after changes that affect the script, once for all changes of an event.
     void choiceChanged();
 
 private:

@@ -44,7 +44,7 @@ QString PlotChoice::shown() const
     return vkd_qt_readXMLpart(m_page->writeXMLstring(), 0, Plots);
 }
 
-/// A page that reads a string has its view take the stored camera, so the view keeps its own.
+/// Restores the camera: a page that reads a string makes its view take the stored camera.
 void PlotChoice::show(const QString& plots)
 {
     const CameraRollback camera;

@@ -8,12 +8,12 @@
 namespace workbench {
 
 namespace {
-// Hues. Links are blue in many dark palettes as well, where nobody can read them.
+// Hues. The link colour is not used: it is blue and unreadable in many dark palettes.
 constexpr int Orange = 25;
 constexpr int Blue = 222;
 constexpr int Violet = 290;
 
-/// A hue that stays readable on the background of texts.
+/// Returns a colour of this hue that is readable on the background of texts.
 QColor readable(const QPalette& palette, int hue)
 {
     const bool isDark = palette.color(QPalette::Base).lightness() < 128;
@@ -25,7 +25,7 @@ QColor between(const QColor& a, const QColor& b)
     return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }
 
-/// A dollar sign begins a comment, but with a bracket a reference.
+/// A dollar sign begins a comment, but before a bracket it begins a reference.
 int commentStart(const QString& text)
 {
     int at = text.indexOf(QLatin1Char('$'));

@@ -7,7 +7,7 @@ class QPalette;
 namespace workbench {
 
 /// Colours of a script: statements, keywords, numbers, definitions and comments. German and English
-/// keywords are told from other words by their form: they are short and in capitals.
+/// keywords are recognised by their form: they are short and in capitals.
 class ScriptHighlighter : public QSyntaxHighlighter
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class ScriptHighlighter : public QSyntaxHighlighter
 public:
     ScriptHighlighter(QTextDocument* document, const QPalette& palette);
 
-    /// Takes the colours anew, for a desktop that went from light to dark.
+    /// Updates the colours after the desktop has changed between light and dark.
     void setColours(const QPalette& palette);
 
 protected:

@@ -25,10 +25,10 @@ enum Language { German = 0, English = 1 };
 QColor markColour(const QPalette& palette)
 {
     QColor colour = palette.color(QPalette::Highlight);
-    colour.setAlpha(60); // the text keeps its own colours
+    colour.setAlpha(60); // so that the text keeps its colours
     return colour;
 }
-/// Some desktops give a proportional font for the one of fixed width.
+/// Finds a font of fixed width: some desktops return a proportional one.
 QFont fixedFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -123,10 +123,10 @@ void ScriptPane::setTexts()
 void ScriptPane::show(const QString& script)
 {
     const int place = m_text->verticalScrollBar()->value();
-    if (m_script.isEmpty() && !script.isEmpty()) // to look for the font takes its time
+    if (m_script.isEmpty() && !script.isEmpty()) // searching the font takes time
         m_text->setFont(fixedFont());
     m_script = script;
-    m_text->setExtraSelections({}); // each of thousands would be moved with each line put in
+    m_text->setExtraSelections({}); // each inserted line would move all of them
     m_text->setPlainText(script);
     m_text->verticalScrollBar()->setValue(place);
 }

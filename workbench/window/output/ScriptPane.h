@@ -13,23 +13,24 @@ namespace workbench {
 
 class ScriptHighlighter;
 
-/// The script of the present choice, with its lines that changed last marked by their background.
+/// Shows the script of the current choice; the background marks the lines that changed last.
 class ScriptPane : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The actions of the window that copy the script and save it have a button each.
+    /// Creates a button for each of the actions of the window that copy and save the script.
     ScriptPane(QAction* copy, QAction* save, QWidget* parent);
 
-    /// The language of the keywords. To set it gives no signal.
+    /// Returns whether the keywords are English. The setter emits no signal.
     bool english() const;
     void setEnglish(bool english);
 
     QString script() const { return m_script; }
-    /// Shows a script. Lines that the one before lacks are marked; an equal script changes nothing.
+    /// Shows a script and marks the lines that the previous one lacks. An equal script changes
+    /// nothing.
     void setScript(const QString& script);
-    /// Shows a script that has nothing to do with the one before.
+    /// Shows a script without marking lines.
     void setOtherScript(const QString& script);
 
 Q_SIGNALS:

@@ -5,7 +5,7 @@
 namespace workbench {
 
 namespace {
-/// All rows, each with those below it behind it.
+/// Returns all rows in depth-first order.
 QVector<QTreeWidgetItem*> rowsOf(const QTreeWidget& tree)
 {
     QVector<QTreeWidgetItem*> rows;

@@ -5,7 +5,7 @@
 namespace workbench {
 
 namespace {
-constexpr int MaximumLength = 2000; // of the longest common sequence, which takes a square of it
+constexpr int MaximumLength = 2000; // in lines: time and memory grow with its square
 
 int commonBeginning(const QStringList& before, const QStringList& after)
 {
@@ -24,7 +24,7 @@ int commonEnd(const QStringList& before, const QStringList& after, int beginning
     return count;
 }
 
-/// By the lengths of the longest common sequences of what is left of both lists.
+/// Compares by the lengths of the longest common sequences of the remaining lines.
 QVector<int> notCommon(const QStringList& before, const QStringList& after)
 {
     const int rows = before.size();

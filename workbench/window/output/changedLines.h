@@ -5,8 +5,8 @@
 
 namespace workbench {
 
-/// The numbers, from 0, of the lines of `after` that are not in `before` in this order. Very
-/// different long texts count as changed between their common beginning and their common end.
+/// Returns the numbers, from 0, of the lines of `after` that `before` lacks in this order. In long
+/// texts that differ a lot, all lines between the common beginning and the common end are changed.
 QVector<int> changedLines(const QStringList& before, const QStringList& after);
 
 } // namespace workbench

@@ -53,7 +53,7 @@ void RecordTableModel::read(int index)
     endResetModel();
 }
 
-/// Records differ in few words, and each different one is written out once.
+/// Caches the texts: records differ in few words, so most words are equal.
 QString RecordTableModel::longestText() const
 {
     std::unordered_set<quint64> seen;
@@ -100,7 +100,7 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
     return {};
 }
 
-/// Nine digits tell every single precision number from its neighbours.
+/// Nine digits distinguish all single precision numbers.
 QString RecordTableModel::wordText(quint32 word, int row)
 {
     if (isInteger(row))

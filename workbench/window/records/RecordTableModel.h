@@ -18,9 +18,9 @@ class RecordTableModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Reads the records of the project at this database index anew; below 1 there are none.
+    /// Reloads the records of the project at this database index; there are none below 1.
     void read(int index);
-    /// The text with the most characters.
+    /// Returns the text with the most characters.
     QString longestText() const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;

@@ -58,7 +58,7 @@ void RecordsPane::setTexts()
     fitColumns();
 }
 
-/// All columns alike: to fit each by itself takes seconds where there are thousands.
+/// Gives all columns the same width: fitting thousands of columns one by one takes seconds.
 void RecordsPane::fitColumns()
 {
     const int columns = m_model->columnCount();

@@ -6,8 +6,8 @@ namespace workbench {
 
 class RecordTableModel;
 
-/// The design records as they lie in the project, word by word. Names and units of the words stay
-/// in sight beside them. Chosen cells can be copied.
+/// The design records of the project, word by word. Names and units of the words stay visible while
+/// the records are scrolled. Selected cells can be copied.
 class RecordsPane : public QTableView
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class RecordsPane : public QTableView
 public:
     explicit RecordsPane(QWidget* parent = nullptr);
 
-    /// Reads the records of the project at this database index anew; below 1 there are none.
+    /// Reloads the records of the project at this database index; there are none below 1.
     void setProject(int index);
 
 protected:

@@ -6,16 +6,16 @@ class QWidget;
 
 namespace workbench {
 
-/// Gives a widget and all in it a topic of the help, `BOOK/TOPIC`: the dynamic property
-/// "helpTopic", which the dialogs of the libraries set themselves.
+/// Sets the help topic `BOOK/TOPIC` of a widget and its children. It is the dynamic property
+/// "helpTopic", which the dialogs of the libraries have, too.
 void setHelpTopic(QWidget* widget, const char* topic);
 
-/// The topic of the widget or else of its nearest ancestor that has one, in its window or above: a
-/// message box has the topic of the dialog that asks. Empty if there is none.
+/// Returns the topic of the widget, otherwise that of its nearest ancestor with a topic, across
+/// windows: a message box has the topic of its dialog. Empty if there is none.
 QString helpTopic(const QWidget* widget);
 
-/// Handles the help key in a window and in all dialogs that belong to it, modal ones too. While a
-/// list or a menu is open the key does nothing.
+/// Handles the help key in a window and in all its dialogs, even modal ones. While a list or a menu
+/// is open, the key does nothing.
 class HelpKey : public QObject
 {
     Q_OBJECT

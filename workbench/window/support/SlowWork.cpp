@@ -69,7 +69,7 @@ void SlowWork::showBox()
     m_box->setObjectName(QStringLiteral("SlowWork"));
     m_box->setWindowTitle(tr("Workbench"));
     m_box->setWindowModality(Qt::ApplicationModal);
-    m_box->setMinimumDuration(std::numeric_limits<int>::max()); // it is shown here
+    m_box->setMinimumDuration(std::numeric_limits<int>::max()); // SlowWork shows it
     m_box->setAutoReset(false);
     m_box->show();
 }

@@ -12,7 +12,8 @@ class QWidget;
 
 namespace workbench {
 
-/// The wait cursor for work in one piece. It ends with the work, or when a dialog asks something.
+/// The wait cursor during work without event processing. It ends with the object, or when a dialog
+/// opens.
 class WaitCursor : public QObject
 {
     Q_OBJECT
@@ -29,23 +30,23 @@ private:
     bool m_isOn = true;
 };
 
-/// Tells the user about work that the window waits for: the wait cursor at once, and after half a
-/// second a box with the progress and Cancel. Until the box is there no event is let in, behind it
-/// the user reaches only the box.
+/// Shows long work to the user: at once by the wait cursor, and after half a second by a progress
+/// dialog with Cancel. No events are processed until the dialog is open; from then on the user can
+/// operate only the dialog.
 class SlowWork
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::SlowWork)
 
 public:
-    /// The box belongs to `parent` and counts to `maximum`; with 0 it only shows that work goes on.
+    /// `parent` is the parent of the dialog. `maximum` is the last value, or 0 if it is unknown.
     SlowWork(QWidget* parent, const QString& text, int maximum);
     ~SlowWork();
     SlowWork(const SlowWork&) = delete;
     SlowWork& operator=(const SlowWork&) = delete;
 
-    /// To be called every now and then; false once the user has cancelled.
+    /// Updates the progress; must be called regularly. Returns false once the user has cancelled.
     bool goOn(int value);
-    /// Since the work began, in ms.
+    /// Returns the time since the work began, in ms.
     int elapsed() const;
 
 private:
@@ -56,7 +57,7 @@ private:
     QString m_text;
     int m_maximum;
     WaitCursor m_cursor;
-    std::unique_ptr<QProgressDialog> m_box; // once it took long enough
+    std::unique_ptr<QProgressDialog> m_box; // after half a second
 };
 
 } // namespace workbench

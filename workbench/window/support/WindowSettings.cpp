@@ -36,7 +36,7 @@ void WindowSettings::addRecentFile(const QString& path)
         if (QFileInfo(file).canonicalFilePath() != canonical)
             files << file;
     if (files == before)
-        return; // writing waits for the disk
+        return; // saves a write to the disk
     setValue(RecentKey, QStringList(files.mid(0, MaximumCount)));
 }
 

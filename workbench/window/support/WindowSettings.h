@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// What the window keeps between two starts, in a file of the program's own.
+/// The settings of the window that are saved between two starts, in a file of this program.
 class WindowSettings : public QSettings
 {
     Q_OBJECT
@@ -13,12 +13,12 @@ class WindowSettings : public QSettings
 public:
     WindowSettings();
 
-    /// The projects opened last, the last one first, eight at most and each file once, by whatever
-    /// path. Files that are gone are left out.
+    /// Returns the projects that were opened last, the latest first, at most eight. A file occurs
+    /// once, even if it was opened by different paths. Missing files are left out.
     QStringList recentFiles() const;
     void addRecentFile(const QString& path);
 
-    /// The language of the desktop, as setting 102 has it; `otherwise` until one was chosen.
+    /// Returns the saved value of setting 102, the language; `otherwise` if none was saved.
     int language(int otherwise) const;
     void setLanguage(int language);
     bool englishKeywords() const;

@@ -6,9 +6,9 @@ class QWidget;
 
 namespace workbench {
 
-/// Asks where to save. A name without a suffix gets `suffix` before it is asked whether a file of
-/// that name may be replaced. The project that is open may not be, and another name is asked for;
-/// with an empty path every file may. Empty if the user cancelled.
+/// Asks for the name of a file to save. A name without a suffix gets `suffix`, before the user is
+/// asked whether an existing file may be replaced. The file `openProject`, if given, must not be
+/// replaced; the user has to choose another name. Returns an empty text if the user cancels.
 QString chooseFileToSave(QWidget* parent, const QString& title, const QString& proposal,
                          const QString& filters, const QString& suffix, const QString& openProject);
 

@@ -29,7 +29,7 @@ cd_error_t statusOf(const QFileDevice& file)
 
 cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
 {
-    const int size = int(QFileInfo(document.path()).size() / Kilobyte); // 0: the file is gone
+    const int size = int(QFileInfo(document.path()).size() / Kilobyte); // 0 if the file is missing
     SlowWork work(parent, SlowWork::tr("The project is being saved."), size);
     qint64 done = 0;
     bool isWritten = true;
@@ -38,7 +38,7 @@ cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
         done += length;
         return isWritten && work.goOn(int(done / Kilobyte));
     });
-    return isWritten ? status.code : VKD_ZOB_FULL; // a part of it is no error to Qt
+    return isWritten ? status.code : VKD_ZOB_FULL; // Qt reports no error for a partial write
 }
 } // namespace
 

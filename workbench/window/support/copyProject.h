@@ -16,9 +16,8 @@ namespace workbench {
 /// to a project that is already there. Returns the status of the place, or VKD_ZOB_CANCELLED.
 cd_error_t takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place);
 
-/// Copies an open project, as the last finished change left it, in place of the file at `path` or
-/// as a new one, in one step. The result is VKD_ZOB_OK, VKD_ZOB_CANCELLED or why not; what was at
-/// `path` is then as it was.
+/// Copies an open project, as of the last stored change, to `path`. An existing file is replaced in
+/// one step. Returns a VkdZobStatus; after a failure or Cancel, the file at `path` is unchanged.
 cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path);
 
 } // namespace workbench

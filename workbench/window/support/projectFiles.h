@@ -6,13 +6,13 @@ class QMimeData;
 
 namespace workbench {
 
-/// Whether both paths lead to one file that is there.
+/// Returns whether both paths lead to the same existing file.
 bool isSameFile(const QString& a, const QString& b);
 
-/// The local file that is dragged, if it is one alone and no folder.
+/// Returns the dragged local file, if it is a single one and not a folder.
 QString draggedFile(const QMimeData* data);
 
-/// By its name; whether it holds a model is known when it is read.
+/// Returns whether the file has the suffix of a model file. Its content is checked on reading.
 bool isModelFile(const QString& path);
 
 } // namespace workbench

@@ -12,7 +12,7 @@ QString text(const char* source)
     return QCoreApplication::translate("storeErrorText", source);
 }
 
-/// What stands in the place where a project file is expected.
+/// Returns the reason why no file can be opened at this path.
 QString placeReason(const QFileInfo& file)
 {
     if (file.isDir())

@@ -10,10 +10,10 @@ class QWidget;
 
 namespace workbench {
 
-/// Does what needs the project file at `path`, and does it again while another program holds the
-/// file, for the deadline of the store at most. After half a second the user sees that, and can
-/// cancel. `attempt` answers a VkdZobStatus and leaves things as they were if it fails. The result
-/// is that of the last attempt, or VKD_ZOB_CANCELLED.
+/// Calls `attempt`, which needs the project file at `path`, and repeats this while another program
+/// locks the file, at most for the deadline of the store. After half a second the user sees the
+/// waiting and can cancel it. `attempt` returns a VkdZobStatus; if it fails, it must change
+/// nothing. Returns the status of the last attempt, or VKD_ZOB_CANCELLED.
 cd_error_t waitForStore(QWidget* parent, const QString& path,
                         const std::function<cd_error_t()>& attempt);
 

@@ -7,9 +7,9 @@
 namespace workbench {
 
 namespace {
-const QSize Frame(16, 40); // which is not known before the desktop has made it
+const QSize Frame(16, 40); // estimated: unknown until the window is shown
 
-/// Pictures are taken on a screen that is none, and may be as large as they need.
+/// An offscreen platform has no screen that limits the window; screenshots may be large.
 bool isOffScreen()
 {
     return QGuiApplication::platformName() == QLatin1String("offscreen");

@@ -6,11 +6,10 @@ class QWidget;
 
 namespace workbench {
 
-/// Gives a window that is not shown yet this size, or what the screen has room for with a frame
-/// around it.
+/// Resizes a window before it is shown, at most to the size of the screen without the window frame.
 void resizeWithinScreen(QWidget* window, const QSize& size);
 
-/// Moves it there, or as near as the screen has room for it.
+/// Moves a window to this position, or to the nearest one at which it fits on the screen.
 void moveWithinScreen(QWidget* window, const QPoint& place);
 
 } // namespace workbench

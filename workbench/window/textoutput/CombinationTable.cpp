@@ -26,8 +26,8 @@ constexpr struct
     {Group::All_NONF, QT_TRANSLATE_NOOP("workbench::CombinationTable", "Non-frequent")},
 };
 
-/// The words of titles, in either language whatever that of the desktop. The first that fits
-/// counts, so that "non-frequent" comes before "frequent".
+/// Words in titles, in both languages. The first match counts, so "non-frequent" is before
+/// "frequent".
 int proposedKind(const QString& title)
 {
     static const struct

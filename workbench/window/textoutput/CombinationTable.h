@@ -8,9 +8,9 @@ class VKD_QT4_ComboBox;
 
 namespace workbench {
 
-/// Combinations of a project, each with its kind, by which many of them can be chosen at once. The
-/// kinds are those of VKD_P_RadioGroup::ButtonID, and 0 for all others. Where nothing was said yet
-/// the title of the combination proposes its kind.
+/// The combinations of a project, each with its kind, so that a rule can select all of a kind.
+/// Kinds are values of VKD_P_RadioGroup::ButtonID, or 0 for other combinations. Until a kind is
+/// chosen, it is guessed from the title of the combination.
 class CombinationTable : public PickTable
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ public:
 
     CombinationTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
-    /// The combinations of one kind.
+    /// Returns the combinations of one kind.
     QVector<int> numbersOf(int kind) const;
-    /// Kinds by numbers.
+    /// Returns the kinds by the numbers of the combinations.
     QMap<int, int> kinds() const;
-    /// Rows that are not in `kinds`, or have no kind that there is, get their proposal.
+    /// Sets the kinds. Rows without a valid kind in `kinds` get the kind guessed from the title.
     void setKinds(const QMap<int, int>& kinds);
 
 private:

@@ -7,9 +7,8 @@ class VKD_QT4_ComboBox;
 
 namespace workbench {
 
-/// The lists that a text output can hold, to be checked one by one, and which values of the results
-/// stand in them. Like a PickTable, it can show what a rule decides instead of what was chosen by
-/// hand.
+/// Check boxes for the lists of a text output, and the choice of the values in them. Like
+/// PickTable, it can show the result of a rule instead of the user's individual choice.
 class ExtentFields : public QWidget
 {
     Q_OBJECT
@@ -18,12 +17,12 @@ public:
     enum List { System = 1, Loads = 2, Displacements = 4, Forces = 8, Reactions = 16 };
     static constexpr int ResultLists = Displacements | Forces | Reactions;
     static constexpr int AllLists = System | Loads | ResultLists;
-    /// Forces and displacements of a whole model are long, and few read them.
+    /// Not the forces and displacements: for a whole model they are long, and few users read them.
     static constexpr int DefaultLists = System | Loads | Reactions;
 
     explicit ExtentFields(QWidget* parent);
 
-    /// What is chosen by hand.
+    /// The individual choice.
     struct Choice
     {
         int lists = 0; ///< a sum of bits
@@ -32,11 +31,11 @@ public:
     Choice choice() const { return m_showsRule ? m_choice : displayed(); }
     void setChoice(const Choice& choice);
 
-    /// Neither tells of a change.
+    /// Neither emits a signal.
     void showChosen();
     void showRule(const Choice& rule);
 
-    /// The names of lists with commas between them, as the boxes have them.
+    /// Returns the names of lists as on the check boxes, separated by commas.
     static QString listNames(int lists);
     static QString valuesName(bool all);
 
@@ -50,7 +49,7 @@ private:
     QVector<QCheckBox*> m_boxes; ///< in the order of the bits
     VKD_QT4_ComboBox* m_values;
     bool m_showsRule = false;
-    Choice m_choice; ///< by hand, while a rule is shown
+    Choice m_choice; ///< the individual one, while a rule is shown
 };
 
 } // namespace workbench

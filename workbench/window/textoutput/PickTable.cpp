@@ -41,7 +41,7 @@ PickTable::PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, c
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter); // as the cells
     horizontalHeader()->setSectionResizeMode(NumberColumn, QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
-    // For the space key, without the looks of a choice.
+    // The current row is needed for the space key, but must not look selected.
     selectionModel()->setCurrentIndex(m_model->index(0, NumberColumn),
                                       QItemSelectionModel::NoUpdate);
     connect(m_model, &QStandardItemModel::itemChanged, this, &PickTable::changed);

@@ -9,9 +9,8 @@ class QStandardItemModel;
 
 namespace workbench {
 
-/// Load cases or combinations of a project, with a check box for each. While a rule makes the
-/// choice, the table is read-only and shows what comes out of it; what was checked by hand stays
-/// for later.
+/// Load cases or combinations of a project, each with a check box. While a rule selects them, the
+/// table is read-only and shows the result; the individual choice is preserved.
 class PickTable : public vkd::properties::nextGen::QtTableView
 {
     Q_OBJECT
@@ -23,17 +22,17 @@ public:
     PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
     QVector<int> numbers() const;
-    /// The numbers of the rows that are checked by hand.
+    /// Returns the numbers of the rows in the individual choice.
     QVector<int> picked() const;
-    /// Those that are not checked by hand.
+    /// Returns the numbers that are not in the individual choice.
     QSet<int> leftOut() const { return m_showsRule ? m_leftOut : shownAsLeftOut(); }
     void setLeftOut(const QSet<int>& numbers);
 
-    /// Neither tells of a change.
+    /// Neither emits a signal.
     void showPicked();
     void showRule(const QVector<int>& numbers);
 
-    /// Room for a few rows; the dialog decides on more.
+    /// Returns a height of a few rows; the dialog may give the table more.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -41,7 +40,7 @@ Q_SIGNALS:
     void changed();
 
 protected:
-    /// Adds a column of widgets behind the others.
+    /// Adds a column of widgets after the others.
     void addWidgetColumn(const QString& title, const QVector<QWidget*>& widgets);
     int rowCount() const;
     int number(int row) const;
@@ -54,7 +53,7 @@ private:
 
     QStandardItemModel* m_model;
     bool m_showsRule = false;
-    QSet<int> m_leftOut; ///< by hand, while a rule is shown
+    QSet<int> m_leftOut; ///< in the individual choice, while a rule is shown
 };
 
 } // namespace workbench

@@ -128,7 +128,7 @@ void TextOutputDialog::addCombinations(int index)
     connect(m_combinationTable, &PickTable::changed, this, &TextOutputDialog::updateKindRow);
 }
 
-/// Only kinds that a combination has are offered.
+/// Offers only kinds that a combination has.
 void TextOutputDialog::updateKindRow()
 {
     if (kindsOf(*m_combinationTable) != m_kinds)
@@ -136,7 +136,7 @@ void TextOutputDialog::updateKindRow()
     showChoice();
 }
 
-/// Kinds change while the choice is made by hand, so that it is by hand in the new row, too.
+/// Kinds can change only during an individual choice, so the new radio group has it as well.
 void TextOutputDialog::fillKindRow()
 {
     auto row = new QWidget(m_kindRow->parentWidget());
@@ -196,7 +196,7 @@ TextOutputState TextOutputDialog::state() const
 void TextOutputDialog::setState(const TextOutputState& state)
 {
     {
-        // Between two of these the dialog is half the old one, which is not to be shown.
+        // Between these steps the dialog is partly the old one and must not be painted.
         const QSignalBlocker fields(m_fields);
         const QSignalBlocker loadCaseTable(m_loadCaseTable);
         const QSignalBlocker combinationTable(m_combinationTable);
@@ -207,7 +207,7 @@ void TextOutputDialog::setState(const TextOutputState& state)
     }
     if (kindsOf(*m_combinationTable) != m_kinds)
         fillKindRow();
-    // What was never stored leaves these.
+    // The defaults, for a project without a saved state.
     m_extent.setSelectedId(Group::Manually);
     m_loadCases.setSelectedId(Group::All);
     m_combinations->setSelectedId(Group::Manually);
@@ -231,7 +231,7 @@ void TextOutputDialog::showChoice()
     Q_EMIT choiceChanged();
 }
 
-/// What does not count is not to be seen.
+/// Hides widgets that have no effect.
 void TextOutputDialog::showInFields()
 {
     if (m_extent.getSelectedId() == Group::Manually)

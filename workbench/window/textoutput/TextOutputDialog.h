@@ -17,10 +17,9 @@ namespace workbench {
 class CombinationTable;
 class PickTable;
 
-/// What the text output of a project prints: which lists, for which load cases and for which
-/// combinations. Each of the three is decided by a row of radio buttons of the library, with a
-/// widget below it for choosing by hand, and a line that names what comes out of the choice. It is
-/// not modal.
+/// Selects the lists, load cases and combinations of the text output of a project. For each of the
+/// three, it has a radio group of the library, a widget for an individual choice and a line with
+/// the result. It is modeless.
 class TextOutputDialog : public VKD_H_Dialog
 {
     Q_OBJECT
@@ -29,10 +28,10 @@ public:
     /// Shows the saved state of the project at this database index, which outlives the dialog.
     TextOutputDialog(int index, QWidget* parent);
 
-    /// For the project to keep.
+    /// Returns the state that is saved in the project.
     TextOutputState state() const;
     void setState(const TextOutputState& state);
-    /// Whether the choice is another than the one in the project.
+    /// Returns whether the state differs from the one in the project.
     bool isChanged() const;
     void setUnchanged() { m_saved = state(); }
 
@@ -61,7 +60,7 @@ private:
     VKD_P_RadioGroup m_extent;
     VKD_P_RadioGroup m_loadCases;
     std::unique_ptr<VKD_P_RadioGroup> m_combinations;
-    std::list<VKD_P_RadioGroup::ButtonID> m_kinds; ///< those in the row of m_combinations
+    std::list<VKD_P_RadioGroup::ButtonID> m_kinds; ///< the kinds that m_combinations offers
     QWidget* m_kindRow = nullptr;
     ExtentFields* m_fields = nullptr;
     PickTable* m_loadCaseTable = nullptr;
