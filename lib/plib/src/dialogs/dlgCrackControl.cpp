@@ -31,7 +31,7 @@ VKD_H_LineEdit* editOf(const VKD_QT4_ComboBox* combo)
 } // namespace
 
 /// A combo, its object name and that of its edit, the field of the record and its dimension code.
-/// The lower crack widths all have the object name "crack"; this is meant.
+/// The lower crack widths all have the object name "crack"; this is intended.
 struct dlgCrackControl::Field
 {
     Combo combo;

@@ -28,13 +28,13 @@ struct PairOfLimits
     plib::RealField maximum;
 };
 
-/// In the order in which they are checked and reported.
+/// The pairs in the order in which they are checked and reported.
 constexpr PairOfLimits Pairs[] = {
     {&R::aso, &R::amo},   {&R::asu, &R::amu},   {&R::asoq, &R::amoq},
     {&R::asuq, &R::amuq}, {&R::asoi, &R::amoi}, {&R::asui, &R::amui},
 };
 
-/// Compares in single precision, as in the record. A NaN is never in order.
+/// Compares in single precision, as in the record. A NaN and a set limit are never in order.
 bool isInOrder(float minimum, float maximum)
 {
     return minimum == plib::NotSet || maximum == plib::NotSet || maximum >= minimum;
@@ -164,7 +164,7 @@ void dlgReinforcement::showValues(const tagZOB_QUAD_RIM& record)
         plib::showValue(this->*layer.minimum, record, layer.minimumField);
         plib::showValue(this->*layer.maximum, record, layer.maximumField);
     }
-    // The edit of the upper third layer initially shows the value of the lower one; this is meant.
+    // The edit of the upper third layer initially shows the value of the lower one on purpose.
     if (amoi)
         plib::showValue(amoi, record, &R::amui);
 }

@@ -83,8 +83,8 @@ void dlgSelection::fillCombo(const plib::DesignParameterRow& row, bool remaining
         selected = tr("Remaining Groups");
     else if (!row.groups.empty())
         comboGroups->addItem(selected = plib::rowText(row, 0));
-    // Finds the entry by its text, so a secondary group called like the entry "None" is shown as
-    // that entry.
+    // Finds the entry by its text, so a secondary group with the name "None" is shown as the entry
+    // "None".
     comboGroups->setCurrentIndex(comboGroups->findText(selected, Qt::MatchCaseSensitive));
 }
 

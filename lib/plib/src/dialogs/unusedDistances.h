@@ -4,8 +4,8 @@ class dlgDistanceDirection;
 
 namespace plib {
 
-/// Shows at the distances of a dialog that they are not stored, by placeholder texts and tool tips.
-/// Called for plane systems, in which the dialog shows the fields all the same.
+/// Shows by placeholder texts and tool tips that the distances in a dialog are not stored. Called
+/// for plane systems, in which the dialog still shows these fields.
 void markUnusedDistances(dlgDistanceDirection& dialog);
 
 } // namespace plib

@@ -7,7 +7,7 @@
 namespace plib {
 
 /// The saved string of an output page, read as parts and as settings. The string may come from
-/// another kind of page, so a part is asked for before its widget is changed.
+/// another kind of page, so callers check that it has a part before they change the widget.
 class SavedPage
 {
 public:

@@ -25,8 +25,8 @@ void VKD_P_WidgetGraphicalOutput::connectAnimator()
     AnimatorView* animator = data->animator;
     connect(this, &Page::signalBeobXY, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
-    // The signal for X/Z is not connected and this one is connected twice. This is meant and has no
-    // effect, because the page emits only the first signal.
+    // The signal for X/Z is not connected and this one is connected twice. This is intended and
+    // has no effect, because the page emits only the first signal.
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeob3D, animator, &AnimatorView::slotViewControl);
 }

@@ -151,7 +151,7 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
         if (!isRemainingGroups(row.groups))
             writeRow(index, row);
     // The first of the copied records is read but not used; none of them is restored. This is
-    // meant.
+    // intended.
     tagZOB_QUAD_RIM unused{};
     RecordPass(ScratchIndex, ForeignDesign).next(unused);
     vkd_zob_free_ex(index, Design.key1, Design.key2);

@@ -18,8 +18,8 @@ DesignParameterRow& addDefaultRow(DesignParameterData& data);
 /// remaining groups. Rows without groups are not stored. The first call converts the rows to the
 /// stored form, in which they stay, and sets `converted`.
 ///
-/// Records of other programs are moved to the scratch store and not restored. This loss is meant,
-/// because the key pair belongs to the design parameters.
+/// Records of other programs are moved to the scratch store and not restored. This loss is
+/// intended, because the key pair belongs to the design parameters.
 void writeRowsToZob(DesignParameterData& data, bool& converted);
 
 } // namespace plib

@@ -41,7 +41,7 @@ Summary distances(int type)
     Summary summary{{&R::rio, &R::riu}, {&R::hio, &R::hiu, &R::hioq, &R::hiuq}, true};
     if (type == 2 || type == 3)
         summary.first << &R::rioq << &R::riuq;
-    if (type == 3) // the third layer has its distances here but not its directions; this is meant
+    if (type == 3) // on purpose, the third layer has its distances here but not its directions
         summary.second << &R::hioi << &R::hiui;
     return summary;
 }

@@ -41,8 +41,8 @@ public:
     {
         Node* top = caption(m_root, record.title1, record, 0);
         Node* second = caption(top, record.title2, record, 1);
-        // The comparison with title2 is meant: only a plot with the same caption as its parent is
-        // reused. Any other record gets a plot of its own, even if the captions are equal.
+        // The comparison with title2 is intended: only a plot with the same caption as its parent
+        // is reused. Any other record gets a plot of its own, even if the captions are equal.
         Node* namesake = m_namesakes.value(second);
         Node* plot = namesake ? namesake : newPlot(second, record);
         addLoadcaseRows(plot, record);

@@ -47,7 +47,7 @@ void appendSelection(Node* node, QString& text)
     } else if (count == 0 && item->number > 0) {
         // Never reached by a walk from the root, because plots write the choice of their rows. For
         // readers of old files, the number replaces "%1" in the identifier and leaves "%2" in the
-        // line unchanged; this is meant.
+        // line unchanged on purpose.
         text += word + QString(id).replace(QLatin1String("%1"), QString::number(item->number)) +
                 QLatin1String(":%2\n");
     } else {
