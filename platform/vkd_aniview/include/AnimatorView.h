@@ -43,9 +43,9 @@ public:
     /// Reloads the model and keeps the camera and the picked groups.
     void reload();
 
-    /// While picking is on, the group under the mouse is highlighted, and a click picks it or
-    /// removes it from the picked ones. Picked groups have the highlight colour, the others are
-    /// paler.
+    /// While picking is on, the group under the mouse is highlighted, and a click adds it to the
+    /// picked groups or removes it from them. Picked groups have the highlight colour, the others
+    /// are paler.
     bool isPicking() const;
     void setPicking(bool picking);
 

@@ -27,7 +27,7 @@ public:
     ZobFilePlace& operator=(const ZobFilePlace&) = delete;
 
     /// Returns OK, or why no file can be put there: VKD_ZOB_NO_FILE if the folder is missing or the
-    /// path is not that of a file, VKD_ZOB_READ_ONLY, VKD_ZOB_LOCKED.
+    /// path does not name a file, VKD_ZOB_READ_ONLY, VKD_ZOB_LOCKED.
     const VkdStatus& status() const { return m_status; }
     /// Returns the path at which the caller creates the file.
     QString temporaryPath() const { return m_temporary; }

@@ -96,10 +96,10 @@ VKD_Q_EXPORT VkdStatus vkd_zob_change_status(int index);
 VKD_Q_EXPORT void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode);
 
 /// Sets `*number` to 0 if the project was not changed since it was opened, except by this index.
-/// The number is another one after each change by another program or another index. The call does
-/// not wait, does not make other programs wait and does not change the file. It returns
-/// VKD_ZOB_LOCKED while another program is storing, and VKD_ZOB_MOVED if the path no longer leads
-/// to the open file, which can still be read and copied. No log line is written.
+/// The number changes with each change by another program or another index. The call does not wait,
+/// does not make other programs wait and does not change the file. It returns VKD_ZOB_LOCKED while
+/// another program is storing, and VKD_ZOB_MOVED if the path no longer leads to the open file,
+/// which can still be read and copied. No log line is written.
 VKD_Q_EXPORT cd_error_t vkd_zob_outside_changes(int index, int* number);
 
 /// Passes the bytes of the project file to `take`, piece by piece, as of the last stored change. No

@@ -28,7 +28,7 @@ public:
     /// Returns the current entry as a part (vkd_qt_xmlpart.h) whose tag is the object name: its id,
     /// or its text if it has no id. Empty without a current entry or object name.
     virtual QString writeXMLstring() const;
-    /// Makes the entry current that is named by the combo box's part in a string of parts. Ids take
+    /// Selects the entry that the combo box's part in a string of parts names. Ids take
     /// precedence over equal texts. Changes nothing if the part or the entry does not exist.
     virtual void readXMLstring(const QString& wholeString);
 

@@ -10,7 +10,7 @@ class QStylePainter;
 class QTableWidgetItem;
 
 /// A button over a cell of a table. It always shows the current text of the cell, with a mark that
-/// it opens something. A text that is too long is elided and shown in a tool tip.
+/// shows that a click opens something. A text that is too long is elided and shown in a tool tip.
 class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
 {
     Q_OBJECT

@@ -11,8 +11,8 @@ namespace {
 constexpr float FoldCosine = 0.87F; // 30 degrees
 
 // Distances by which supports and lines are drawn nearer than the faces around them, in mean edges
-// of faces. A support lies on corners of faces, whose middles may be 0.71 away. Lines get less, so
-// that a column does not pierce its slab.
+// of faces. A support lies on corners of faces, whose middles may be 0.71 away. Lines get a
+// smaller distance, so that a column does not pierce its slab.
 constexpr float SupportNearer = 0.75F;
 constexpr float LineNearer = 0.3F;
 

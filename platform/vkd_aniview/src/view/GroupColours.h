@@ -11,7 +11,7 @@
 namespace vkd {
 namespace aniview {
 
-/// The brushes and pens for the groups of a model: one colour for each group in steps of light,
+/// The brushes and pens for the groups of a model: one colour for each group, in several shades,
 /// changed by the mark of the group. Colour-blind users can tell the colours apart. The other
 /// colours come from the palette of an active window, because a locked view must not look disabled.
 class GroupColours

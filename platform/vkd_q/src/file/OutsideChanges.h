@@ -8,9 +8,9 @@
 
 class ZobConnection;
 
-/// Counts the changes that others make to the file of a connection. It compares the change counter
-/// in the file header, which needs no lock, and queries SQLite only if the counter differs: the
-/// counter also includes the changes of this connection.
+/// Detects changes that other programs or connections make to the file of a connection. It compares
+/// the change counter in the file header, which needs no lock, and queries SQLite only if the
+/// counter differs: the counter also includes the changes of this connection.
 class OutsideChanges
 {
 public:
@@ -25,6 +25,6 @@ private:
 
     ZobConnection& m_connection;
     std::optional<quint32> m_counter; ///< in the file, at the last query
-    int m_version = 0;                ///< SQLite's data version then
+    int m_version = 0;                ///< SQLite's data version at that query
     int m_firstVersion = 0;
 };

@@ -15,7 +15,7 @@
 #include <unistd.h>
 
 namespace {
-/// SQLite plays these files back into the file to whose name they belong.
+/// The suffixes of files that SQLite plays back into the database file of the same name.
 const char* const LeftSuffixes[] = {"-journal", "-wal", "-shm"};
 
 bool isWriteProtected(const QFileInfo& file)
@@ -24,7 +24,7 @@ bool isWriteProtected(const QFileInfo& file)
     return !file.isWritable() || !(file.permissions() & anyWrite);
 }
 
-/// Of a symbolic link, the file is replaced and not the link.
+/// Returns the target of a symbolic link, so that the target is replaced and not the link.
 QString resolved(const QString& path)
 {
     const QFileInfo file(path);
@@ -135,7 +135,7 @@ VkdStatus ZobFilePlace::commit()
         QFile::setPermissions(m_temporary, QFile::permissions(m_path));
     if (!sync(m_temporary, O_RDWR) || !removeLeftBeside(m_path))
         return fail(VKD_ZOB_FAILED, qt_error_string());
-    sync(folder, O_DIRECTORY); // not all file systems can
+    sync(folder, O_DIRECTORY); // not supported by all file systems
     if (!renameFile(m_temporary, m_path, m_replaces))
         return fail(VKD_ZOB_READ_ONLY, qt_error_string());
     sync(folder, O_DIRECTORY);
