@@ -16,7 +16,7 @@ class TestBarDiameterCombo : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// The bars of a project, not those in common use.
+    /// Tests that the combo box offers the bars of a project and not the common ones.
     void init()
     {
         setLanguage(English);
@@ -29,14 +29,14 @@ private Q_SLOTS:
     void barsOfTheProject()
     {
         VKD_A_BarDiameterCombo box(nullptr, "bar");
-        QCOMPARE(box.getCurrent(), NotSet); // before there is a table
+        QCOMPARE(box.getCurrent(), NotSet); // the table is not loaded yet
         box.setCurrent(10.0F);
         QVERIFY(box.load(m_project->index()));
         QString entries;
         for (int i = 0; i < box.count(); ++i)
             entries += box.itemText(i);
         QCOMPARE(entries, QStringLiteral("not setØ10Ø16Ø20"));
-        QCOMPARE(box.getCurrent(), 10.0F); // the choice outlives the loading
+        QCOMPARE(box.getCurrent(), 10.0F); // loading preserves the choice
         QVERIFY(box.setCurrent(NotSet));
         QCOMPARE(box.currentIndex(), 0);
         setLanguage(German);
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(box.setCurrent(20.0F));
         QCOMPARE(box.count(), 4);
         QCOMPARE(changed.count(), 0);
-        QTest::keyClick(&box, Qt::Key_Up); // the user's choice
+        QTest::keyClick(&box, Qt::Key_Up); // a choice by the user
         QCOMPARE(box.getCurrent(), 16.0F);
         QCOMPARE(changed.count(), 1);
     }

@@ -62,7 +62,7 @@ struct Parts
     QTableWidget* table;
 };
 
-/// The value after a dialog in which `act` was done; `act` has to close it.
+/// Returns the value after a dialog in which `act` was called; `act` must close it.
 float calculate(float value, float barDiameter, const std::function<void(const Parts&)>& act)
 {
     bool isDone = false;
@@ -167,7 +167,7 @@ private Q_SLOTS:
         const float value = calculate(5.0F, 10.0F, [](const Parts& parts) {
             for (const char* text : {"0", "", "9.9", "1.2.3", "-5", "."}) {
                 parts.type(parts.spacing, "150");
-                QTest::keyClick(parts.spacing, Qt::Key_Tab); // which refused text falls back to
+                QTest::keyClick(parts.spacing, Qt::Key_Tab); // restored by each refused text
                 QVERIFY(parts.ok()->isEnabled());
                 QCOMPARE(parts.text("note"), QString());
                 parts.type(parts.spacing, text);
@@ -188,7 +188,7 @@ private Q_SLOTS:
     {
         const float value = calculate(NotSet, 12.7F, [](const Parts& parts) {
             QCOMPARE(parts.table->item(1, 6)->text(), QStringLiteral("2.51"));
-            parts.click(3, 4); // the marked cell, near to 12.7/150
+            parts.click(3, 4); // the marked cell, the nearest to 12.7/150
             QCOMPARE(parts.diameter->getCurrent(), 12.0F);
             parts.click(1, 6);
             QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
@@ -196,7 +196,7 @@ private Q_SLOTS:
             QTest::keyClick(parts.table, Qt::Key_Right);
             QCOMPARE(parts.diameter->getCurrent(), 10.0F);
             QCOMPARE(parts.number->text(), QStringLiteral("4"));
-            parts.type(parts.spacing, "270"); // marks the nearest
+            parts.type(parts.spacing, "270"); // marks the nearest cell
             QCOMPARE(parts.table->currentColumn(), 7);
             QCOMPARE(parts.spacing->getVal(), 0.27);
             QTest::mouseClick(parts.ok(), Qt::LeftButton);
@@ -204,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(value, 2.91F);
     }
 
-    /// OK without a change keeps a value that the bars only come near to.
+    /// OK without a change preserves a value that the bars only approximate.
     void unchanged()
     {
         const auto after = [](Qt::Key key, float value) {
@@ -212,7 +212,7 @@ private Q_SLOTS:
                              [key](const Parts& parts) { QTest::keyClick(parts.window, key); });
         };
         const float value = std::nextafter(5.24F, 6.0F);
-        QVERIFY(after(Qt::Key_Return, value) == value); // no fuzzy comparison
+        QVERIFY(after(Qt::Key_Return, value) == value); // an exact comparison
         QVERIFY(after(Qt::Key_Escape, value) == value);
         QVERIFY(after(Qt::Key_Return, NotSet) == 5.24F);
     }

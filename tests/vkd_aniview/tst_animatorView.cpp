@@ -34,7 +34,7 @@ Model plates()
     return model;
 }
 
-/// Sent past QTest, which complains when nobody takes an event.
+/// Sends the event without QTest, which complains about an event that no object accepts.
 void send(QWidget& view, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
           Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
@@ -67,7 +67,7 @@ void wheel(QWidget& view, int delta)
     QCoreApplication::sendEvent(&view, &event);
 }
 
-/// The camera of the view, by way of the desktop.
+/// Returns the camera of the view, read through the desktop's camera.
 Camera cameraOf(AnimatorView& view)
 {
     view.slotViewControl(AnimatorStoreCamera, 0.0);
@@ -83,7 +83,7 @@ QString textOf(AnimatorView& view)
 using Gesture = void (*)(QWidget&);
 } // namespace
 
-/// The view as its users handle it.
+/// Tests the view through its user interface.
 class TestAnimatorView : public QObject
 {
     Q_OBJECT
@@ -97,7 +97,7 @@ private Q_SLOTS:
 
     void cleanup() { m_view.reset(); }
 
-    /// From a camera that was taken, also in a locked view.
+    /// Each command starts from a loaded camera, in a locked view too.
     void commands()
     {
         const char* const cameras[] = {
@@ -115,7 +115,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What each gesture changes (e: eye, c: centre, z: zoom); in a locked view none changes it.
+    /// The changes caused by each gesture (e: eye, c: centre, z: zoom); a locked view ignores all.
     void gestures()
     {
         const QList<QPair<const char*, Gesture>> gestures{
@@ -180,12 +180,12 @@ private Q_SLOTS:
         QCOMPARE(textOf(*m_view), before);
         box.hide();
         send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
-        drag(*m_view, Across, Qt::RightButton); // moves, whatever came of the left one
+        drag(*m_view, Across, Qt::RightButton); // moves, whether or not the left drag had an effect
         const Camera after = cameraOf(*m_view);
         QVERIFY(after.eye[0] == 0.0 && after.centre[0] < 0.0);
     }
 
-    /// Of those who are told, anyone may delete the view.
+    /// A slot connected to any signal may delete the view.
     void deletedByListener()
     {
         m_view->setPicking(true);
@@ -205,7 +205,7 @@ private Q_SLOTS:
         const QImage plain = picture();
         m_view->setHighlightedGroup(7);
         QVERIFY(picture() != plain);
-        m_view->setHighlightedGroup(99); // without elements
+        m_view->setHighlightedGroup(99); // a group without elements
         QVERIFY(picture() == plain);
     }
 
@@ -228,7 +228,7 @@ private Q_SLOTS:
     void noPick()
     {
         m_view->setPicking(true);
-        drag(*m_view, {Left, Left + QPoint(0, 20), Left}); // all on the plate
+        drag(*m_view, {Left, Left + QPoint(0, 20), Left}); // all points are on the plate
         m_view->slotViewControl(AnimatorViewXY, 0.0);
         drag(*m_view, {Left}, Qt::RightButton);
         drag(*m_view, {Corner});
@@ -304,7 +304,7 @@ private Q_SLOTS:
         QVERIFY(storeModel(m_project->index(), model).isOk());
         QCOMPARE(m_view->setProject(m_project->index(), [](int) { return false; }).code,
                  int(VKD_ZOB_CANCELLED));
-        drag(*m_view, {Left}); // it still shows what it did
+        drag(*m_view, {Left}); // the view still shows the same model
         QCOMPARE(m_view->pickedGroups(), Groups{7});
         QVERIFY(m_view->setProject(-1).isOk());
         m_view->setPickedGroups({7, 70});
@@ -312,7 +312,7 @@ private Q_SLOTS:
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
     }
 
-    /// Drawn from all sides, and the sound plate beside them is still there.
+    /// Odd elements can be drawn from all sides, and the valid plate beside them is still visible.
     void oddElements()
     {
         constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
@@ -324,7 +324,7 @@ private Q_SLOTS:
         model.quads += {{3, 9, {1, 2, 3, 2}, 0.2}, // no area
                         {3, 9, {1, 1, 1, 1}, 0.2},
                         {3, 9, {2, 9, 2, 0}, 0.2},  // coincident nodes
-                        {3, 9, {1, 2, 99, 4}, 0.2}, // 99 is not there
+                        {3, 9, {1, 2, 99, 4}, 0.2}, // node 99 does not exist
                         {3, 9, {1, 10, 11, 0}, 0.2}};
         model.beams += {{3, 9, 1, {2, 2}}, {3, 9, 1, {1, 99}}, {3, 9, 1, {1, 11}}};
         model.springs += {{4, 9, {2, 2}, 1.0}, {4, 9, {99, 0}, 1.0}};

@@ -58,7 +58,7 @@ SceneView viewOf(const Model& model, const Position& eye)
 }
 } // namespace
 
-/// What the view of a model shows where, without widgets.
+/// Tests the picture of a model and the groups at its points, without widgets.
 class TestSceneView : public QObject
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The whole model with a margin, in the middle, though it stands far from the origin.
+    /// The whole model is centred and has a margin, even if it is far from the origin.
     void fixedViews()
     {
         const QList<QPair<Position, QPointF>> farCorners{
@@ -110,7 +110,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Turning takes the near side of the model along with the hand.
+    /// Turning moves the near side of the model with the mouse.
     void hand()
     {
         const QList<QPair<double, QPointF>> ways{
@@ -128,7 +128,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Straight above, the view still knows where it came from.
+    /// Straight from above, the view still preserves its azimuth.
     void steepest()
     {
         SceneView view = viewOf(storey(), {3, -1, 1});
@@ -163,7 +163,7 @@ private Q_SLOTS:
 
     void frontmost_data()
     {
-        // at: the place where this point is seen
+        // at: the point of the picture at which this point appears
         const Columns<Position, Position, int> row("eye", "at", "group");
         const Position above{0, 0, 1};
         const Position below{0, 0, -1};
@@ -191,7 +191,7 @@ private Q_SLOTS:
               "group");
     }
 
-    /// A long line is in front of a plate with the one end and behind it with the other.
+    /// One end of a long line is in front of a plate, the other is behind it.
     void lineThroughPlate()
     {
         Model model;
@@ -220,7 +220,7 @@ private Q_SLOTS:
         QCOMPARE(view.groupAt(view.projection().toScreen({1, 2, 0})), None);
     }
 
-    /// Two bricks on each other show ten faces, and their common one is not in the way.
+    /// Two bricks on top of each other show ten faces; their common face hides nothing.
     void bricks()
     {
         Model model = squares();
@@ -234,7 +234,7 @@ private Q_SLOTS:
         QCOMPARE(int(buildGeometry(model).faces.size()), 10);
     }
 
-    /// Outlines stand out at the rim of a plate and at folds and between groups only.
+    /// Outlines are strong only at the rim of a plate, at folds and between groups.
     void strongEdges()
     {
         const auto count = [](int group, double rise) {

@@ -16,7 +16,7 @@ static bool isSame(const Camera& a, const Camera& b)
     return std::memcmp(&a, &b, sizeof(Camera)) == 0;
 }
 
-/// The camera that a project remembers.
+/// Tests the camera that a project stores.
 class TestCamera : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private Q_SLOTS:
                                   Camera{{-0.0, 1, 0}, -0.0, {0, -0.0, 0}, 1}}) {
             setCamera(m_index, odd);
             QVERIFY(
-                storeModel(m_index, Model()).isOk()); // which is no reason to look from elsewhere
+                storeModel(m_index, Model()).isOk()); // must not change the camera
             vkd_zob_close(m_index);
             QCOMPARE(vkd_zob_open(m_path, &m_index).code, int(VKD_ZOB_OK));
             QVERIFY(isSame(camera(m_index), odd));

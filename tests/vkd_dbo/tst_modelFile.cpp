@@ -7,7 +7,7 @@
 
 using namespace vkd::dbo;
 
-/// Model files: the shipped ones, and what is said about those that are wrong.
+/// Tests the shipped model files, and the error messages for invalid ones.
 class TestModelFile : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Writes a sound file with the text's key added, or in place of the one that begins like it.
+    /// Writes a valid file with the key of the text added, or replacing the line with the same key.
     void writeFile(const QByteArray& text) const
     {
         QByteArray file = '{' + text;

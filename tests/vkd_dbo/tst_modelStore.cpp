@@ -14,7 +14,7 @@
 
 namespace vkd {
 namespace dbo {
-/// What makes two things equal.
+/// The fields that determine whether two things are equal.
 struct Fields
 {
     template <size_t N>
@@ -92,7 +92,7 @@ static const Query queries[] = {
     {"secondary groups", hasSgrp, [](Model& m) { m.secondaryGroups.resize(1); }},
 };
 
-/// Models in a project, and the questions about them.
+/// Tests storing a model in a project and the queries about it.
 class TestModelStore : public QObject
 {
     Q_OBJECT
@@ -165,7 +165,7 @@ private Q_SLOTS:
             int(VKD_ZOB_CANCELLED));
     }
 
-    /// The question comes between two lists, and the other one is still held off.
+    /// `goOn` is called between two lists, while the other program still cannot write.
     void readFromOneState()
     {
         int other = -1;
@@ -206,12 +206,12 @@ private Q_SLOTS:
     void damagedRecordIsLeftOut()
     {
         const QList<QPair<int, QByteArray>> records{
-            {20, QByteArray(20, '\1')},       // a node that is cut
+            {20, QByteArray(20, '\1')},       // a truncated node
             {32, QByteArray(12, '\x7F')},     // an outline longer than its record
             {32, QByteArray(12, '\xFF')},     // or of negative length
             {Groups, QByteArray(12, '\x7E')}, // a group with such a title
-            {Quads, QByteArray(7, '\1')},     // an element cut within its group
-            {Quads, QByteArray(8, '\1')}};    // and behind it
+            {Quads, QByteArray(7, '\1')},     // an element that is truncated within its group
+            {Quads, QByteArray(8, '\1')}};    // an element that is truncated after its group
         const QRegularExpression tooShort(QStringLiteral("too short"));
         const Model model = shipped("hall");
         for (const auto& [key1, record] : records) {
@@ -223,7 +223,7 @@ private Q_SLOTS:
             QVERIFY(readModel(m_index, VkdGoOn(), nullptr, &status) == model);
             QCOMPARE(status.reason,
                      QStringLiteral("a record under %1, 0 is too short and left out").arg(key1));
-            if (key1 == Groups || length < 8) // of an element, nothing else is looked at
+            if (key1 == Groups || length < 8) // of an element, only the group is read
                 QTest::ignoreMessage(QtWarningMsg, tooShort);
             QCOMPARE(readGroups(m_index).size(), model.groups.size());
         }

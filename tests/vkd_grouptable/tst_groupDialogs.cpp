@@ -23,7 +23,8 @@ constexpr int Cols = 0x534c4f43; // the names packed
 constexpr int Low = 0x20574f4c;
 constexpr int Old = 0x20444c4f;
 
-/// Groups 1 to 4 and 12; the first with an area and two beams, the second with each other sort.
+/// Groups 1 to 4 and 12; the first has an area and two beams, the second one element of each other
+/// type.
 Model sample()
 {
     Model model;
@@ -45,7 +46,7 @@ Model sample()
     return model;
 }
 
-/// A dialog as a test deals with it.
+/// Operates the parts of a dialog for a test.
 class Driver
 {
 public:
@@ -108,11 +109,11 @@ private:
     QWidget* m_dialog;
 };
 
-/// The result of the dialog if the user does that; a dialog that is still open then answers -1.
+/// Returns the result of the dialog after `act`, or -1 if the dialog is still open then.
 int execWith(QDialog& dialog, const std::function<void(const Driver&)>& act)
 {
     whenModal([&](QWidget* modal) {
-        QApplication::setActiveWindow(modal); // visible is not yet active
+        QApplication::setActiveWindow(modal); // a visible window is not active yet
         act(Driver(modal));
         if (modal->isVisible())
             dialog.done(-1);
@@ -121,7 +122,7 @@ int execWith(QDialog& dialog, const std::function<void(const Driver&)>& act)
 }
 } // namespace
 
-/// Both dialogs from the caller's side, with what the user does in between.
+/// Tests both dialogs through their interface and with the actions of a user in between.
 class TestGroupDialogs : public QObject
 {
     Q_OBJECT
@@ -133,7 +134,7 @@ private Q_SLOTS:
         QVERIFY(storeModel(m_project.index(), sample()).isOk());
     }
 
-    /// Whatever was checked before is only where picking may begin, and nothing is picked yet.
+    /// The groups checked before are only the start of picking; no group is picked yet.
     void leftWithoutOk()
     {
         const int index = m_project.index();
@@ -230,18 +231,18 @@ private Q_SLOTS:
             QCOMPARE(driver.labelText("count"),
                      QStringLiteral("3 of 6 groups checked, 1 without area elements"));
             driver.select({QStringLiteral("2")});
-            QTest::keyClick(driver.view(), Qt::Key_Space); // the list is what counts from here
-            driver.press("check");                         // what was not understood is still there
+            QTest::keyClick(driver.view(), Qt::Key_Space); // from here on, the list determines the result
+            driver.press("check");                         // parts that cannot be read are still in the field
             QCOMPARE(driver.find<QLineEdit>("input")->text(), QStringLiteral("x<b> 8"));
             driver.enter("groups");
-            QVERIFY(driver.view()->isVisible()); // OK would lose what it cannot read
+            QVERIFY(driver.view()->isVisible()); // OK would lose the parts that it cannot read
             driver.type("input", "1");
             QVERIFY(!driver.find<QLabel>("message")->isVisible());
-            driver.select({QStringLiteral("1")}); // in the list by now, and taken back there
+            driver.select({QStringLiteral("1")}); // checked in the list by now, and unchecked there
             QTest::keyClick(driver.view(), Qt::Key_Space);
             driver.type("input", "12");
             driver.pressOk();
-            QVERIFY(driver.view()->isVisible()); // to be read first
+            QVERIFY(driver.view()->isVisible()); // so that the user can read the message
             QCOMPARE(driver.labelText("message"), QStringLiteral("Without area elements: 12"));
             driver.pressOk();
         });
@@ -281,13 +282,13 @@ private Q_SLOTS:
             dialog.accept();
             QCOMPARE(dialog.result(), 1);
         }
-        groups = {4}; // that of another model
+        groups = {4}; // a group of another model
         VKD_H_SelGRP_Dialog dialog(true, 200, m_empty.doc.get(), groups, {}, nullptr);
         QCOMPARE(Driver(&dialog).shown(), QStringLiteral("4"));
     }
 
 private:
-    /// What the dialog of the project, which the user has to confirm, gives back.
+    /// Returns the groups of the project's dialog, which the user must confirm.
     Groups confirmed(Groups groups, const std::function<void(const Driver&)>& act)
     {
         VKD_H_SelGRP_Dialog dialog(true, 200, m_project.doc.get(), groups, {}, nullptr);

@@ -7,7 +7,7 @@
 
 using Groups = std::vector<int>;
 
-/// The selection that the 3D view leaves in a project.
+/// Tests the selection that the 3D view stores in a project.
 class TestPickedGroups : public QObject
 {
     Q_OBJECT

@@ -27,12 +27,12 @@ StructBoxedEdit fontSize(int flags = StructBoxedEdit::EmptyIsDefault)
     return description;
 }
 
-/// A dialog with the field and another one behind.
+/// A dialog with the field and another field after it.
 struct Dialog
 {
     explicit Dialog(int flags = StructBoxedEdit::EmptyIsDefault)
     {
-        StructBoxedEdit description = fontSize(flags); // gone after this
+        StructBoxedEdit description = fontSize(flags); // destroyed after the construction
         auto layout = new VKD_QT_VBoxLayout(&box);
         size = new VKD_H_BoxedLineEdit(&box, &description, "size");
         other = new QLineEdit(&box);
@@ -66,7 +66,7 @@ private Q_SLOTS:
 
     void emptied()
     {
-        const auto after = [](int flags, Qt::Key key) { // value and what is shown
+        const auto after = [](int flags, Qt::Key key) { // the value and the shown text
             Dialog dialog(flags);
             dialog.size->setVal(7.0);
             dialog.type("");
@@ -76,7 +76,7 @@ private Q_SLOTS:
                 .arg(dialog.size->edit()->text());
         };
         const int isDefault = StructBoxedEdit::EmptyIsDefault;
-        QCOMPARE(after(isDefault, Qt::Key_Shift), QStringLiteral("7 ")); // while typing
+        QCOMPARE(after(isDefault, Qt::Key_Shift), QStringLiteral("7 ")); // during typing
         QCOMPARE(after(isDefault, Qt::Key_Tab), QStringLiteral("3 3"));
         QCOMPARE(after(isDefault, Qt::Key_Escape), QStringLiteral("7 7"));
         QCOMPARE(after(0, Qt::Key_Tab), QStringLiteral("7 "));
@@ -126,7 +126,7 @@ private Q_SLOTS:
         tabs.accept();
         QVERIFY(tabs.isVisible() && size->edit()->hasFocus());
         QCOMPARE(tabs.tabWidget()->currentIndex(), 1);
-        // Nor does the user leave the page by its tabs.
+        // The user cannot leave the page by its tabs either.
         QTabBar* bar = tabs.tabWidget()->tabBar();
         const auto tryAll = [&] {
             QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(0).center());

@@ -5,7 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// Open documents of a host, at the end of its process: the first is closed then, the other never.
+/// Documents that a host leaves open: the first is closed when the process ends, the other never.
 static std::unique_ptr<VKD_H_ZOBDoc> closedAtEnd;
 static VKD_H_ZOBDoc* neverClosed;
 
@@ -30,7 +30,7 @@ private Q_SLOTS:
         QVERIFY(document && again && document->path() == path);
         const int first = document->index(), second = again->index();
         QVERIFY(first > 0 && second > 0 && first != second);
-        for (int i = 0; i < 2; ++i) { // closing twice does no harm, neither here nor to others
+        for (int i = 0; i < 2; ++i) { // closing twice is harmless, also for other documents
             QVERIFY(again->close().isOk());
             QCOMPARE(again->index(), -1);
         }
@@ -42,7 +42,7 @@ private Q_SLOTS:
         QCOMPARE(put(first), int(VKD_ZOB_NOT_OPEN));
     }
 
-    /// Neither a crash nor the journal of a change that was not finished.
+    /// The process does not crash and leaves no journal of an unfinished change.
     void openAtEndOfProcess()
     {
         const QTemporaryDir folder;

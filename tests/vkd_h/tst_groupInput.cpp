@@ -21,7 +21,8 @@ static QString told(const GroupInput& input, const std::function<QString(int)>& 
         .join(QLatin1Char('/'));
 }
 
-/// What users type to choose groups, against the groups 0, 1, 2, 3, 5, 9 and 999 or against names.
+/// Tests the texts that users type to choose groups, with the groups 0, 1, 2, 3, 5, 9 and 999 or
+/// with names.
 class TestGroupInput : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@
 using namespace testsupport;
 
 namespace {
-/// All that a window says, apart from what stands in its lists.
+/// Returns all texts of a window, except those in its lists.
 QStringList texts(const QWidget& window)
 {
     QStringList found{window.windowTitle()};
@@ -31,7 +31,7 @@ QStringList texts(const QWidget& window)
 }
 } // namespace
 
-/// A window that was open while the language changed says what one says that opens afterwards.
+/// A window that was open during a change of the language shows the same texts as one opened later.
 class tst_languageChange : public QObject
 {
     Q_OBJECT

@@ -21,12 +21,12 @@ constexpr int Crack = 1026, Distance = 1024;
 
 VKD_H_LineEdit* field(QWidget* parent, int code, const char* name = "field")
 {
-    StructLineEdit description = vkd_h_defaultStructLineEdit(code); // gone after this call
+    StructLineEdit description = vkd_h_defaultStructLineEdit(code); // destroyed after this call
     return new VKD_H_LineEdit(parent, &description, name, QStringLiteral("Axial Distance"),
                               QStringLiteral("from the surface"), true);
 }
 
-/// Types in place of what is there; an empty text deletes it.
+/// Replaces the text by typing; an empty text deletes it.
 void type(QLineEdit* edit, const char* text)
 {
     edit->selectAll();
@@ -35,7 +35,7 @@ void type(QLineEdit* edit, const char* text)
     QTest::keyClicks(edit, QLatin1String(text));
 }
 
-/// A dialog with two fields whose own class asks none of them.
+/// A dialog with two fields; its own class does not check them.
 struct Dialog
 {
     Dialog()
@@ -60,7 +60,7 @@ struct Dialog
     VKD_QT_Ok* buttons;
 };
 
-/// An editable combo with preset crack widths, as its callers build one.
+/// An editable combo box with preset crack widths, as callers create it.
 struct Combo
 {
     Combo()
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.second->getVal(), NotSet);
     }
 
-    /// OK leads to a refused field if there is a way to it.
+    /// OK moves the focus to a refused field if the user can reach the field.
     void refusedOutOfSight()
     {
         VKD_H_Dialog dialog;
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QVERIFY(!dialog.isVisible());
     }
 
-    /// Neither Enter nor leaving the field lets refused text pass for a value.
+    /// Neither Enter nor a change of focus turns a refused text into a value.
     void refusedText()
     {
         Dialog dialog;
@@ -146,7 +146,7 @@ private Q_SLOTS:
         QTest::keyClick(edit, Qt::Key_Tab);
         QVERIFY(dialog.second->hasFocus());
         QVERIFY(message->isVisible());
-        QTest::keyClick(dialog.box.windowHandle(), Qt::Key_7); // as the window system sends it
+        QTest::keyClick(dialog.box.windowHandle(), Qt::Key_7); // through the window system
         QVERIFY(!message->isVisible());
         QCOMPARE(dialog.second->text(), QStringLiteral("7"));
         QCOMPARE(edit->text(), QStringLiteral("1.234,5"));
@@ -158,12 +158,12 @@ private Q_SLOTS:
         QCOMPARE(edit->toolTip(), QStringLiteral("Axial Distance in mm\nfrom the surface"));
         QCOMPARE(edit->accessibleDescription(), QStringLiteral("from the surface"));
         QCOMPARE(vkd_qt_leadToRefusedField(&dialog.box), nullptr);
-        type(edit, "-"); // could become a number by typing on
+        type(edit, "-"); // further typing can still complete the number
         QVERIFY(!edit->refusal().isEmpty());
         QVERIFY(!edit->toolTip().contains(QLatin1String("number")));
         QTest::keyClick(edit, Qt::Key_Tab);
         QVERIFY(edit->toolTip().contains(QLatin1String("number")));
-        dialog.box.done(QDialog::Accepted); // by a host
+        dialog.box.done(QDialog::Accepted); // called by a host
         QVERIFY(dialog.box.isVisible() && edit->hasFocus());
         dialog.box.callDone(QDialog::Accepted); // a detour
         QVERIFY(!dialog.box.isVisible());
@@ -186,12 +186,12 @@ private Q_SLOTS:
         QVERIFY(!dialog.box.isVisible());
         dialog.first->setVal(0.033333333);
         QTest::keyClicks(dialog.first, QStringLiteral("7"));
-        QTest::keyClick(dialog.first, Qt::Key_Backspace); // back at the text that was shown
+        QTest::keyClick(dialog.first, Qt::Key_Backspace); // the text that was shown is restored
         QCOMPARE(changed.count(), 7);
         QCOMPARE(dialog.first->getVal(), 0.033333333);
     }
 
-    /// Such values count, with a sentence.
+    /// Implausible values are accepted with a message.
     void doubts_data()
     {
         const Columns<int, QString> columns("code", "doubt");
@@ -261,7 +261,7 @@ private Q_SLOTS:
                  qPrintable(edit->toolTip()));
     }
 
-    /// The arrow keys lead to the presets beside the value that stands there.
+    /// The arrow keys select the presets next to the current value.
     void typingAfterAPreset()
     {
         Combo combo;
@@ -275,12 +275,12 @@ private Q_SLOTS:
         QCOMPARE(after("0.25", Qt::Key_Down), QStringLiteral("-1 0.30"));
         QCOMPARE(after("0,25", Qt::Key_Up), QStringLiteral("-1 0.20"));
         QCOMPARE(after("0.2", Qt::Key_Down), QStringLiteral("1 0.30"));
-        QCOMPARE(after("0.05", Qt::Key_Up), QStringLiteral("-1 0.05")); // there is none below
+        QCOMPARE(after("0.05", Qt::Key_Up), QStringLiteral("-1 0.05")); // there is no preset below
         type(combo.edit, "0.2");
         QCOMPARE(combo.edit->text(), QStringLiteral("0.2")); // not completed to 0.20
         combo.edit->setVal(double(0.2F));
         QTest::keyClick(&combo.box, Qt::Key_Up);
-        QTest::keyClick(&combo.box, Qt::Key_Escape); // a preset is not typed, and stays
+        QTest::keyClick(&combo.box, Qt::Key_Escape); // a preset counts as not typed, and remains
         QCOMPARE(combo.edit->text(), QStringLiteral("0.10"));
         combo.box.setCurrentIndex(3);
         QCOMPARE(combo.edit->getVal(), NotSet);

@@ -15,7 +15,7 @@ namespace {
 constexpr int German = 0, English = 1;
 constexpr double NotSet = -99999.0;
 
-/// The number, and why it is refused, in front of it.
+/// Returns the number, preceded by the reason if it is refused.
 QString told(const VkdNumberReading& reading)
 {
     static const char* const states[] = {
@@ -24,7 +24,7 @@ QString told(const VkdNumberReading& reading)
     return QLatin1String(states[int(reading.state)]) + QString::number(reading.value, 'g', 12);
 }
 
-/// A reader, which reads the same in both languages.
+/// Returns a function that reads a number and checks that both languages give the same result.
 auto reader(int code)
 {
     return [code](const QString& text) {
@@ -38,7 +38,7 @@ auto reader(int code)
 }
 } // namespace
 
-/// What a number field reads and shows, without the field.
+/// Tests reading and formatting numbers without the field.
 class TestNumberText : public QObject
 {
     Q_OBJECT
@@ -87,7 +87,7 @@ private Q_SLOTS:
             QVERIFY2(reader(code)(text) == wanted, qPrintable(text.left(20)));
     }
 
-    /// A description as callers fill it in place.
+    /// Returns a description like those that callers modify.
     void description()
     {
         const QString comma(QLatin1Char(',')), dash(QLatin1Char('-'));
@@ -138,7 +138,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What is shown reads as the value, to six significant digits, whatever float it is.
+    /// Each formatted float is read back as the same value, to six significant digits.
     void shownTextReads()
     {
         QRandomGenerator random(15);

@@ -56,7 +56,7 @@ private Q_SLOTS:
         table.show();
         const QRect cell = table.visualItemRect(table.item(1, 1));
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
-        QTest::keyClick(&table, Qt::Key_B); // would be the other entry
+        QTest::keyClick(&table, Qt::Key_B); // begins the text of the other entry
         QCoreApplication::processEvents();
         QVERIFY(!table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo")));
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
@@ -110,7 +110,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Tab and Enter leave the editor open, with the reason at it, until the text is mended.
+    /// After Tab and Enter the editor stays open and shows the reason, until the text is corrected.
     void refusedNumber()
     {
         Table table;
@@ -146,7 +146,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What a combo box shows that lies over a cell by itself or within another widget.
+    /// The text shown by a combo box over a cell, alone or within another widget, is copied.
     void copyOfCombos()
     {
         Table table;

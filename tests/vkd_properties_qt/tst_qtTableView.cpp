@@ -12,8 +12,8 @@
 using vkd::properties::nextGen::QtTableView;
 
 namespace {
-/// A shown table of three load cases: a title that can be edited, with a check box, and a kind that
-/// cannot.
+/// A visible table of three load cases: an editable title with a check box, and a kind that is not
+/// editable.
 class Table : public QtTableView
 {
 public:
@@ -50,7 +50,7 @@ public:
             all << m_model.item(row, 0)->text();
         return all.join(QLatin1Char('|'));
     }
-    /// Whether a click on the check box of the first row changes it.
+    /// Returns whether a click on the check box of the first row changes it.
     bool clickOnBox()
     {
         const Qt::CheckState before = m_model.item(0)->checkState();
@@ -61,7 +61,7 @@ public:
         QTest::mouseClick(viewport(), Qt::LeftButton, {}, box.center());
         return m_model.item(0)->checkState() != before;
     }
-    /// Whether the table takes what is dropped onto it.
+    /// Returns whether the table accepts dropped data.
     bool drop()
     {
         const QString before = titles();

@@ -1,7 +1,7 @@
 #pragma once
 
-/// While the object exists, the files that SQLite opens pass a layer in which reads of databases
-/// can fail with EIO, as those of a worn disk do.
+/// While the object exists, SQLite opens files through a layer in which reads of databases can fail
+/// with EIO, as on a failing disk.
 class FailingReads
 {
 public:
@@ -10,6 +10,6 @@ public:
     FailingReads(const FailingReads&) = delete;
     FailingReads& operator=(const FailingReads&) = delete;
 
-    /// Lets the next `times` reads that contain the byte at this offset fail.
+    /// Makes the next `times` reads that contain the byte at this offset fail.
     void failAt(int offset, int times);
 };

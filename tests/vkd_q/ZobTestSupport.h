@@ -9,28 +9,28 @@
 
 using Records = QList<QByteArray>;
 
-/// Counts the log lines of the category vkd.zob while it lives; any other line goes its way.
+/// Counts the log lines of the category vkd.zob during its lifetime; other lines are passed on.
 class ZobLog
 {
 public:
     ZobLog();
     ~ZobLog();
-    /// The number of lines since the last question.
+    /// Returns the number of lines since the last call.
     int take();
-    /// The status of an operation that has to have written exactly one line, otherwise -1.
+    /// Returns the status of an operation that must have written exactly one line, otherwise -1.
     cd_error_t once(cd_error_t status) { return take() == 1 ? status : -1; }
 };
 
 cd_error_t put(int index, int key1, int key2, const QByteArray& record, int position);
-/// Reads the sequence under 1 and `key2`, and the status that ended it.
+/// Reads the sequence under 1 and `key2`, and returns the status that ended it.
 Records readAll(int index, int key2 = 1, cd_error_t* end = nullptr);
 int openProject(const QString& path);
-/// Makes a project with these records under 1, 1, or reads them; it is closed before and after.
+/// Create a project with these records under 1, 1, or read them; it is closed before and after.
 void makeProject(const QString& path, const Records& records);
 Records readProject(const QString& path);
 
 namespace QTest {
-/// Lets a failing comparison show the numbers.
+/// Makes a failing comparison print the numbers.
 inline bool qCompare(cd_error_t actual, VkdZobStatus expected, const char* actualText,
                      const char* expectedText, const char* file, int line)
 {

@@ -5,7 +5,7 @@
 
 #include <QTemporaryDir>
 
-/// The search path and the texts.
+/// Tests the search path and the message texts.
 class TestLibraryServices : public QObject
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ sub => none
 0 0 XYZ =>
 0 2 ABC =>
 )");
-        QCOMPARE(vkd_lib_convtext(1, 1, "NUL"), std::string(" none ")); // blanks stay
+        QCOMPARE(vkd_lib_convtext(1, 1, "NUL"), std::string(" none ")); // blanks are preserved
     }
 
     void missingTexts()
@@ -75,7 +75,7 @@ sub => none
     }
 
 private:
-    /// Writes the file of the program "p", in a new place for each test, and selects it.
+    /// Writes the file of the program "p" in a new folder for each test, and selects the program.
     void useTexts(const QByteArray& bytes)
     {
         testsupport::writeFile(m_folder->filePath(QStringLiteral("two/texts/p.txt")), bytes);

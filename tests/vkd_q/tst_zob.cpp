@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// The records of a project and its lock, seen through two indexes of one file that holds the
+/// Tests the records of a project and its lock through two indexes of one file, which contains the
 /// records "old 0" and "old 1" under 1, 1.
 class TestZob : public QObject
 {
@@ -101,9 +101,9 @@ private Q_SLOTS:
     {
         using Pair = QPair<int, int>;
         const QList<QPair<Pair, Pair>> cases{
-            {{-5, -5}, {1, 1}}, {{35, 4}, {35, 4}}, // one in use is itself
+            {{-5, -5}, {1, 1}}, {{35, 4}, {35, 4}}, // a used pair gives itself
             {{35, 0}, {35, 4}}, {{35, 8}, {36, 0}},
-            {{36, 1}, {40, 2}}, // an emptied one is passed over
+            {{36, 1}, {40, 2}}, // an emptied pair is skipped
             {{40, 3}, {-1, -1}}};
         for (const Pair& used : {Pair(36, 0), Pair(40, 2), Pair(38, 0), Pair(35, 4)})
             put(m_first, used.first, used.second, "x", 1);
@@ -121,7 +121,7 @@ private Q_SLOTS:
     void readingPassSeesOneState()
     {
         put(m_first, 1, 2, "inner", 0);
-        for (bool innerPass : {false, true}) { // around one over other records, until released
+        for (bool innerPass : {false, true}) { // a pass over other records within the pass, until it is released
             put(m_second, 1, 1, "old 0", 0);
             QCOMPARE(readOne(0), QByteArray("old 0"));
             if (innerPass)
@@ -167,7 +167,7 @@ private Q_SLOTS:
         std::vector<std::unique_ptr<ZobTransaction>> transactions;
         QByteArray writable;
         for (char step : steps.toLatin1()) {
-            if (QByteArray("TCL").contains(step)) // which ends a part of the change
+            if (QByteArray("TCL").contains(step)) // ends a part of the change
                 put(m_first, 1, 1, "part", 1);
             switch (step) {
             case 's': snapshots.push_back(std::make_unique<ZobSnapshot>(m_first)); break;
@@ -189,7 +189,7 @@ private Q_SLOTS:
         QCOMPARE(readAll(m_second), expected);
     }
 
-    /// Between the end of the change and the next look no other program gets its turn.
+    /// No other program can write between the end of the change and the next read.
     void snapshotOutlivesAChange()
     {
         const ZobSnapshot snapshot(m_first);
@@ -215,7 +215,7 @@ private Q_SLOTS:
         auto snapshot = std::make_unique<ZobSnapshot>(m_first);
         ZobTransaction other(m_second);
         QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
-        vkd_lib_setvalue(201, 60000); // the other one would wait for the snapshot as long
+        vkd_lib_setvalue(201, 60000); // the other program would wait for the snapshot this long
         QCOMPARE(m_log->once(ZobTransaction(m_first).status().code), VKD_ZOB_LOCKED);
         QCOMPARE(m_log->once(put(m_first, 1, 1, "mine", 0)), VKD_ZOB_LOCKED);
         QCOMPARE(readAll(m_first), m_old);
@@ -223,7 +223,7 @@ private Q_SLOTS:
         snapshot.reset();
         QVERIFY(other.commit().isOk());
         const ZobSnapshot later(m_first);
-        QVERIFY(ZobTransaction(m_first).commit().isOk()); // a snapshot is never out of date
+        QVERIFY(ZobTransaction(m_first).commit().isOk()); // a snapshot never becomes outdated
         QCOMPARE(readAll(m_first), (Records{"other", "old 1"}));
     }
 
@@ -234,7 +234,7 @@ private Q_SLOTS:
         put(m_first, 1, 1, "new", 0);
         const QString path = m_folder->filePath(QStringLiteral("Träger.vkd"));
         QVERIFY(vkd_zob_close(m_first).isOk());
-        m_first = openProject(path); // under the same index
+        m_first = openProject(path); // gets the same index
         QCOMPARE(change.commit().code, VKD_ZOB_NOT_OPEN);
         QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
         QCOMPARE(m_log->once(ZobSnapshot(99).status().code), VKD_ZOB_NOT_OPEN);
@@ -265,15 +265,16 @@ private Q_SLOTS:
         QCOMPARE(put(m_first, 1, 1, "first", 1), VKD_ZOB_OK);
         vkd_lib_setvalue(201, 120);
         int length = 0;
-        vkd_zob_get(m_second, 1, 1, nullptr, &length, 0); // never released, and no reason to fail
+        vkd_zob_get(m_second, 1, 1, nullptr, &length, 0); // never released, but does not cause a failure
         QElapsedTimer waited;
         waited.start();
         QCOMPARE(m_log->once(vkd_zob_lock_ex(m_second, 1, 2)), VKD_ZOB_LOCKED);
         QVERIFY(waited.elapsed() >= 115 && waited.elapsed() < 4000);
         vkd_zob_free_ex(m_first, 1, 1);
-        // The file is free by now, but the refused program has not seen what the other one wrote.
+        // The file is free by now, but the refused program has not read the change of the other
+        // one.
         QCOMPARE(put(m_second, 1, 2, "second", 1), VKD_ZOB_LOCKED);
-        QCOMPARE(vkd_zob_lock_ex(m_second, 1, 3), VKD_ZOB_LOCKED); // is of the same change
+        QCOMPARE(vkd_zob_lock_ex(m_second, 1, 3), VKD_ZOB_LOCKED); // belongs to the same change
         for (int released : {2, 3}) {
             QCOMPARE(put(m_second, 1, 3, "half", 1), VKD_ZOB_LOCKED);
             QCOMPARE(readAll(m_second), m_old + Records{"first"});
@@ -297,7 +298,7 @@ private Q_SLOTS:
     {
         QCOMPARE(vkd_zob_lock_ex(m_second, 1, 1), VKD_ZOB_OK);
         QCOMPARE(put(m_second, 1, 1, "new", 1), VKD_ZOB_OK);
-        QCOMPARE(readOne(0), QByteArray("old 0")); // begins a pass and goes no further
+        QCOMPARE(readOne(0), QByteArray("old 0")); // begins a pass and does not end it
         vkd_zob_free_ex(m_second, 1, 1);
         QCOMPARE(m_log->take(), 1);
         vkd_zob_free_ex(m_first, 1, 1);
@@ -338,7 +339,7 @@ private Q_SLOTS:
                                       ? vkd_zob_get(m_first, 1, 1, &record, &size, position)
                                       : vkd_zob_put(m_first, 1, 1, &record, &size, position);
         QCOMPARE(m_log->once(failed), VKD_ZOB_BAD_CALL);
-        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // and says no more
+        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // writes no further log line
         vkd_zob_free_ex(m_first, 1, 1);
         QCOMPARE(readAll(m_first), m_old);
         QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)).code, VKD_ZOB_BAD_CALL);

@@ -12,7 +12,7 @@ static QByteArray patched(QByteArray bytes, int offset, const QByteArray& patch)
     return bytes.replace(offset, patch.size(), patch);
 }
 
-/// What may lie under the path of a project, and that a project that is only read stays as it is.
+/// Tests opening any file as a project, and that a project that is only read does not change.
 class TestZobFiles : public QObject
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ private Q_SLOTS:
 
     void unusable_data()
     {
-        // bytes: a null one stands for no file
+        // bytes: null means no file
         const Columns<QByteArray, int> row("bytes", "status");
         const int middle = m_sound.size() / 2;
         const int page = middle - middle % 4096;
@@ -113,7 +113,8 @@ private Q_SLOTS:
         }
     }
 
-    /// A read error is no damage, at whichever page it comes. A single one may pass unnoticed.
+    /// A read error is not reported as damage, whichever page it affects. A single one may go
+    /// unnoticed.
     void failingReads()
     {
         FailingReads reads;
@@ -149,7 +150,7 @@ private Q_SLOTS:
         vkd_zob_close(index);
     }
 
-    /// Reading leaves a file of version 1 alone; its first change that is stored upgrades it.
+    /// Reading does not change a file of version 1; its first stored change upgrades it.
     void olderVersion_data()
     {
         const Columns<bool, bool> row("isInChange", "isUpgraded");
@@ -201,7 +202,7 @@ private Q_SLOTS:
             const int index = openProject(m_path);
             if (!isWritable) {
                 QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
-                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has said why
+                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has logged the reason
                 vkd_zob_free_ex(index, 1, 1);
                 QCOMPARE(vkd_zob_change_status(index).code, VKD_ZOB_READ_ONLY);
                 QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);
@@ -223,7 +224,7 @@ private Q_SLOTS:
         row("moved", "mv", true);
         row("its folder is deleted", "rmdir", true);
         row("replaced", "cp", true);
-        // Its journal would be played back into the file that is open.
+        // The journal of the other file would be played back into the open file.
         row("replaced by one that is being written", "write", false);
     }
 
@@ -245,7 +246,7 @@ private Q_SLOTS:
             testsupport::writeFile(path, m_sound);
         const int other = event == "write" ? openProject(path) : 0;
         vkd_zob_lock_ex(other, 1, 1);
-        for (int i = 0; i < 4; ++i) // more than memory holds
+        for (int i = 0; i < 4; ++i) // more than fits into the cache
             QCOMPARE(put(other, 1, 1, QByteArray(1000000, 'x'), 1), VKD_ZOB_OK);
         int changes = -1;
         ZobLog log;
@@ -269,8 +270,8 @@ private Q_SLOTS:
         vkd_zob_close(other);
     }
 
-    /// Own changes do not count, and a project that is being written, or was left so by a crash, is
-    /// left alone.
+    /// The program's own changes do not count. A project that is being written, or that a crash
+    /// left half written, is not changed.
     void outsideChanges()
     {
         const QTemporaryDir folder;
@@ -290,11 +291,11 @@ private Q_SLOTS:
         QCOMPARE(ask(), VKD_ZOB_OK);
         QCOMPARE(put(other, 1, 1, "theirs", 1), VKD_ZOB_OK);
         QCOMPARE(ask(), VKD_ZOB_OK);
-        readAll(index); // by which the connection gets to know of the change
+        readAll(index); // the connection now detects the change
         QCOMPARE(put(index, 1, 1, "mine", 1), VKD_ZOB_OK);
         QCOMPARE(ask(), VKD_ZOB_OK);
         vkd_zob_lock_ex(other, 1, 1);
-        for (int i = 0; i < 4; ++i) // more than memory holds
+        for (int i = 0; i < 4; ++i) // more than fits into the cache
             put(other, 1, 1, QByteArray(1000000, 'x'), 1);
         const QByteArray halfWritten = testsupport::readFile(path);
         const QByteArray halfJournal = testsupport::readFile(journal);
@@ -315,14 +316,14 @@ private Q_SLOTS:
 
     void placedFiles_data()
     {
-        // before: what lies at the path, "-" for nothing
+        // before: the file at the path, "-" for none
         const Columns<QByteArray> row("before");
         row("no file", "-");
         row("interrupted change", "write");
         row("text", "Not a project.\n");
     }
 
-    /// The journal of an interrupted change lies beside, and files of killed programs.
+    /// The journal of an interrupted change and files of killed programs are beside the path.
     void placedFiles()
     {
         QFETCH(const QByteArray, before);
@@ -331,7 +332,7 @@ private Q_SLOTS:
         testsupport::writeFile(path, m_sound);
         const int index = openProject(path);
         vkd_zob_lock_ex(index, 1, 1);
-        for (int i = 0; i < 4; ++i) // more than memory holds
+        for (int i = 0; i < 4; ++i) // more than fits into the cache
             put(index, 1, 1, QByteArray(1000000, 'x'), 1);
         const QByteArray halfWritten = testsupport::readFile(path);
         const QByteArray journal = testsupport::readFile(path + QLatin1String("-journal"));

@@ -12,15 +12,15 @@ static QByteArray record(int round, int size)
     return QByteArray::number(round).leftJustified(size, '.');
 }
 
-/// What a child does.
+/// The task of a child process.
 struct Task
 {
     int rounds = 0, records = 0, size = 0;
-    int limit = 1000000000; ///< no file may be larger
+    int limit = 1000000000; ///< the maximum size of a file
     int takes = 1;          ///< 0: writes without taking the project
 };
 
-/// Replaces the whole sequence by records with the next number; gives the first failure.
+/// Replaces the whole sequence by records with the next number and returns the first failure.
 static cd_error_t writeRound(int index, const Task& task)
 {
     char number[12] = "";
@@ -36,7 +36,7 @@ static cd_error_t writeRound(int index, const Task& task)
     return result;
 }
 
-/// The child: takes the project and says so, then writes round after round.
+/// The child process: takes the project, prints a line, then writes round after round.
 static int childMain(const Task& task, const QString& path)
 {
     const int index = openProject(path);
@@ -55,13 +55,14 @@ static int childMain(const Task& task, const QString& path)
     return result == VKD_ZOB_OK && stored == closed ? closed : result;
 }
 
-/// Whether these are the records of one round.
+/// Returns whether these are the records of a single round.
 static bool isWhole(const Records& records)
 {
     return records.size() == 100 && records.count(records[0]) == 100;
 }
 
-/// Several processes at one project, and processes that die or run out of room while they write.
+/// Tests several processes that use one project, and processes that are killed or run out of space
+/// while writing.
 class TestZobProcesses : public QObject
 {
     Q_OBJECT
@@ -98,7 +99,8 @@ private Q_SLOTS:
     {
         const Columns<int, bool> row("takes", "alwaysWhole");
         row("with the project taken", 1, true);
-        // Shows that the kills meet the writing, and what taking is for.
+        // The control without taking shows that the kills occur during writing, and that taking is
+        // needed.
         row("control without", 0, false);
     }
 
@@ -121,7 +123,7 @@ private Q_SLOTS:
 
     void diskFull_data()
     {
-        // room: beyond the size of the file
+        // room: bytes beyond the size of the file
         const Columns<int, int, int> row("records", "size", "room");
         row("not even for the journal", 300, 500, -300000);
         row("found out by the release", 600, 1000, 20000);
@@ -147,7 +149,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Starts a child and waits until it has the project.
+    /// Starts a child process and waits until it has taken the project.
     bool start(QProcess& child, const Task& task) const
     {
         QStringList arguments{m_path};

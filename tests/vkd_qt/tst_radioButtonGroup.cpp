@@ -15,7 +15,7 @@ std::vector<StructRadioButtonGrup> entries(int count, int withWidget = -1)
     return items;
 }
 
-/// A window with a field before and behind a group, whose entry 1 bears a field.
+/// A window with a field before and after a group, whose entry 1 has a field.
 struct Page
 {
     explicit Page(const std::vector<StructRadioButtonGrup>& items = entries(4, 1))
@@ -62,11 +62,11 @@ private Q_SLOTS:
         QCOMPARE(page.group->selectedButton(), -1);
         QTest::mouseClick(page.radio(0), Qt::LeftButton, {}, {8, page.radio(0)->height() / 2});
         QCOMPARE(told.takeFirst().first().toInt(), 0);
-        for (int none : {2, -1, 4}) // by code
+        for (int none : {2, -1, 4}) // set by the program
             page.group->setButton(none);
         QCOMPARE(told.size(), 0);
         QCOMPARE(page.group->selectedButton(), 2);
-        page.group->getRadioButton(2)->click(); // the chosen one
+        page.group->getRadioButton(2)->click(); // already checked
         QCOMPARE(told.size(), 1);
         QCOMPARE(told.takeFirst().first().toInt(), 2);
         page.radio(2)->setFocus();
@@ -125,7 +125,7 @@ private Q_SLOTS:
         auto own = new QLineEdit(&group);
         group.setWidget(4, own);
         group.show();
-        QMap<int, QMap<int, QString>> entryAt; // by y and x
+        QMap<int, QMap<int, QString>> entryAt; // keyed by y and x
         for (int entry = 0; entry < 5; ++entry) {
             const QRect place = group.getRadioButton(entry)->geometry();
             entryAt[place.center().y()][place.x()] = QString::number(entry);
@@ -144,7 +144,7 @@ private Q_SLOTS:
         const QPointer<QWidget> own = page.own;
         page.group->setButton(1);
         QRadioButton* kept = page.group->getRadioButton(1);
-        page.group->setWidget(0, nullptr); // bears no widget
+        page.group->setWidget(0, nullptr); // the entry cannot have a widget
         page.group->init(entries(6, 1));
         QCOMPARE(page.group->getRadioButton(1), kept);
         QCOMPARE(page.group->selectedButton(), 1);
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(!own);
     }
 
-    /// Whoever is told of a choice takes away the field whose use led to it.
+    /// A slot removes the field whose use chose the entry.
     void otherEntriesWhileAFieldIsUsed()
     {
         for (bool byEntries : {true, false}) {

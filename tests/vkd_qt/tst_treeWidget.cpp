@@ -16,7 +16,7 @@ int stateOf(const QTreeWidgetItem* item)
     return state.isValid() ? state.toInt() : NoBox;
 }
 
-/// The check boxes below the item with none between.
+/// Returns the check boxes below the item that have no other check box in between.
 Items boxesRightBelow(const QTreeWidgetItem* item)
 {
     Items boxes;
@@ -26,7 +26,7 @@ Items boxesRightBelow(const QTreeWidgetItem* item)
     return boxes;
 }
 
-/// The states of a tree, which change as its rules say by plain counting.
+/// The expected states of a tree, computed by counting after each change.
 struct Expected
 {
     explicit Expected(const Items& all)
@@ -59,7 +59,7 @@ struct Expected
     QHash<QTreeWidgetItem*, int> states;
 };
 
-/// Each item behind its parent; some have no check box. The states are at random.
+/// Adds each item below an earlier one; some have no check box. The states are random.
 Items fill(QTreeWidget* tree, QRandomGenerator& random, int count)
 {
     Items all;
@@ -171,12 +171,13 @@ private Q_SLOTS:
         catalogue.tree.setCurrentItem(catalogue.top, 1);
         QTest::keyClick(&catalogue.tree, Qt::Key_Space);
         QCOMPARE(stateOf(catalogue.top->child(0)), int(Qt::Checked));
-        catalogue.top->setFlags(Qt::ItemIsEnabled); // a box that only shows
+        catalogue.top->setFlags(Qt::ItemIsEnabled); // a check box that the user cannot change
         QTest::keyClick(&catalogue.tree, Qt::Key_Space);
         QCOMPARE(stateOf(catalogue.top), int(Qt::Checked));
     }
 
-    /// A text or flags that change carry no state, not even in a tree that is not settled.
+    /// Changes of a text or of flags do not propagate states, not even in a tree that is not
+    /// settled.
     void otherDataThanStates()
     {
         Catalogue catalogue;
@@ -190,7 +191,7 @@ private Q_SLOTS:
         QCOMPARE(settled.size(), 0);
     }
 
-    /// Also those that come into view when a branch is opened or the tree is moved.
+    /// This includes texts that become visible when a branch is expanded or the tree is scrolled.
     void longTextsCanBeReached()
     {
         Catalogue catalogue;

@@ -18,7 +18,7 @@
 
 using namespace testsupport;
 
-/// The greatest difference in lightness, 0 to 255, between the ground and anything on it.
+/// Returns the greatest difference in lightness, 0 to 255, between the background and any pixel.
 static int contrast(QAbstractItemView& view)
 {
     const int ground = view.palette().color(QPalette::Base).lightness();
@@ -30,7 +30,7 @@ static int contrast(QAbstractItemView& view)
     return greatest;
 }
 
-/// The width of what stands in the first line of a widget, above the frame of a box.
+/// Returns the width of the first line's text in a widget, above the frame of a box.
 static int inkWidth(QWidget& widget)
 {
     const QImage line =
@@ -64,7 +64,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Not from one that a class above did not let it take, nor after it was given up.
+    /// There is no detour if a subclass kept the dialog open, nor after the detour was cancelled.
     void dialogComesBackFromNoDetour()
     {
         struct : VKD_QT_Dialog
@@ -96,7 +96,7 @@ private Q_SLOTS:
             return VKD_QT_MessageBox::warning(nullptr, QStringLiteral("t"), QStringLiteral("x"),
                                               QMessageBox::Yes, QMessageBox::No, 0);
         };
-        QCOMPARE(answer(Qt::Key_Escape), int(QMessageBox::No)); // what is asked is not done
+        QCOMPARE(answer(Qt::Key_Escape), int(QMessageBox::No)); // the safe answer
         QCOMPARE(answer(Qt::Key_Enter), int(QMessageBox::Yes));
         whenModal([](QWidget* box) { box->close(); });
         QCOMPARE(VKD_QT_MessageBox::warning(nullptr, QStringLiteral("t"), QStringLiteral("x"), {},
@@ -149,7 +149,7 @@ private Q_SLOTS:
         auto combo = new QComboBox(pages[2]);
         combo->addItem(QStringLiteral("x"));
         combo->show();
-        combo->showPopup(); // its list is a window, and no stop of the dialog's
+        combo->showPopup(); // the list is a window and not in the dialog's tab order
         dialog.okRow()->cmdCancel()->click();
         dialog.show(); // the same page as before
         QCOMPARE(changed.size(), 2);
@@ -159,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    /// With a button over each cell of a column a change would otherwise ask for all of them.
+    /// With a button over each cell of a column, a change would otherwise read all the cells.
     void cellButtonPassesOverOtherCells()
     {
         struct Item : QTableWidgetItem
@@ -191,13 +191,13 @@ private Q_SLOTS:
         label.setAlignment(Qt::AlignTop);
         VKD_QT_GroupBox box(title, nullptr, "box");
         for (QWidget* widget : {static_cast<QWidget*>(&label), static_cast<QWidget*>(&box)}) {
-            widget->setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // has lost a stroke of the m
+            widget->setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // cuts off a stroke of the m
             widget->resize(800, 80);
         }
         QCOMPARE(inkWidth(box), inkWidth(label));
     }
 
-    /// Fusion's own lines are all but the colour of the ground.
+    /// In a dark palette, Fusion's own lines have almost the colour of the background.
     void emptyCheckBoxAndGridCanBeSeen()
     {
         QPalette dark(QColor(53, 53, 53), QColor(45, 45, 45));

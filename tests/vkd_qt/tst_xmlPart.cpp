@@ -7,7 +7,7 @@
 namespace {
 const QStringList Tags{QStringLiteral("A"), QStringLiteral("List_4"), QStringLiteral("List_40")};
 
-/// Made of what a reader may stumble over.
+/// Returns a random text of characters that could confuse the reader.
 QString anyText(QRandomGenerator& random)
 {
     static const QStringList pieces{
@@ -70,7 +70,7 @@ private Q_SLOTS:
         };
         QVERIFY(vkd_qt_readXMLpart(QString(), 0, QString()).isNull());
         const QString empty = vkd_qt_readXMLpart(QStringLiteral("<A></A>"), 0, Tags[0]);
-        QVERIFY(empty.isEmpty() && !empty.isNull()); // there, unlike a part that is missing
+        QVERIFY(empty.isEmpty() && !empty.isNull()); // empty, unlike a missing part, which is null
         compareCases(read, R"(
 <A> =>
 <A>x</A =>
@@ -83,7 +83,7 @@ x</A><A>x</A> => x
 )");
     }
 
-    /// Minutes, if a part that is not closed were searched to the end of the string.
+    /// This would take minutes if an unclosed part were searched to the end of the string.
     void longStrings()
     {
         const QString open = QStringLiteral("<A>").repeated(500000);

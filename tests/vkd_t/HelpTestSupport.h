@@ -10,7 +10,7 @@
 
 namespace testsupport {
 
-/// The help windows that are open; there should never be two.
+/// Returns the open help windows; there should never be two.
 inline QWidgetList helpWindows()
 {
     QWidgetList found;

@@ -44,7 +44,7 @@ QImage picture(const QString& name)
                                                      : found.value<QPixmap>().toImage();
 }
 
-/// To a page of the book and a place that is on it.
+/// Returns whether a link leads to a page of the book and to an anchor that exists there.
 bool linkLeadsSomewhere(const QByteArray& book, const QUrl& link)
 {
     const QString topic = QFileInfo(link.path()).completeBaseName();

@@ -12,7 +12,7 @@ using namespace testsupport;
 namespace {
 enum RowOfContents { Types = 3, Cracks = 7 };
 
-/// What the help shows by its title; nothing if there is none.
+/// Returns the title of the topic that the help shows, empty without a help window.
 QString title()
 {
     const QString whole = helpWindows().isEmpty() ? QString() : helpWindows().at(0)->windowTitle();
@@ -29,7 +29,7 @@ void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     QTest::keyClick(helpWindows().at(0)->windowHandle(), code, modifiers);
 }
 
-/// Clicks as the window system does, so that a modal dialog can block it.
+/// Clicks through the window system, so that a modal dialog can block it.
 void clickTopic(int row)
 {
     auto list = inHelp<QListWidget>("contents");
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QVERIFY(!inHelp<QAction>("back")->isEnabled());
         key(Qt::Key_Right, Qt::AltModifier);
         QCOMPARE(title(), QStringLiteral("Types of Design"));
-        QTest::keyPress(helpWindows().at(0)->windowHandle(), Qt::Key_Escape); // and is not released
+        QTest::keyPress(helpWindows().at(0)->windowHandle(), Qt::Key_Escape); // without a release event
         QVERIFY(helpWindows().isEmpty());
     }
 
@@ -120,7 +120,7 @@ private Q_SLOTS:
         search(QStringLiteral("QUASI-permanent"));
         QCOMPARE(hits(), QStringList(QStringLiteral("Crack Control")));
         QCOMPARE(title(), QStringLiteral("Design Parameters"));
-        key(Qt::Key_Return); // not in this page, so the first hit's
+        key(Qt::Key_Return); // not in this page, so the page of the first hit is opened
         QCOMPARE(title(), QStringLiteral("Crack Control"));
         QCOMPARE(helpPage()->textCursor().selectedText(), QStringLiteral("quasi-permanent"));
 
@@ -145,7 +145,7 @@ private Q_SLOTS:
         key(Qt::Key_F3, Qt::ShiftModifier);
         QCOMPARE(place(), places[1]);
         key(Qt::Key_F3, Qt::ShiftModifier);
-        key(Qt::Key_F3, Qt::ShiftModifier); // starts over at the end
+        key(Qt::Key_F3, Qt::ShiftModifier); // wraps around at the end
         QVERIFY(place() > places[2]);
         QTest::keyClick(inHelp<QLineEdit>("searchText"), Qt::Key_Return);
         QCOMPARE(place(), places[0]);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         key(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(title(), QStringLiteral("Bemessungsparameter"));
 
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // not told, but read with the next call
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // read with the next call, without a notification
         QVERIFY(show(nullptr, "PARA"));
         QVERIFY(helpPage()->toPlainText().startsWith(QStringLiteral("Design Parameters")));
     }
@@ -206,7 +206,7 @@ private Q_SLOTS:
             clickTopic(Cracks);
             QCOMPARE(title(), QStringLiteral("Crack Control"));
         }
-        clickTopic(Types); // stays when the dialog has closed
+        clickTopic(Types); // does not close with the dialog
         QCOMPARE(title(), QStringLiteral("Types of Design"));
     }
 
