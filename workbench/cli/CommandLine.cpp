@@ -30,7 +30,8 @@ void CommandLine::parse(const QStringList& arguments)
     if (!m_parser.parse(arguments))
         throw CommandError{m_parser.errorText()};
     if (m_parser.isSet(QStringLiteral("help"))) {
-        // The parser does not know that the first argument is the command.
+        // The parser does not know that the first argument is the command, so replace its usage
+        // line.
         const QString text = m_parser.helpText();
         throw HelpWanted{QStringLiteral("Usage: plib_workbench %1 ").arg(arguments.first()) +
                          text.mid(text.indexOf(QLatin1String("[options]")))};
@@ -122,7 +123,7 @@ void print(const QString& text)
 CommandLine::Option languageOption()
 {
     return {QStringLiteral("language"), QStringLiteral("german|english"),
-            QStringLiteral("Language of captions and titles; that of the desktop by default.")};
+            QStringLiteral("Language of captions and titles; by default the desktop's language.")};
 }
 
 void applyLanguage(const CommandLine& commandLine)

@@ -12,31 +12,32 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// Thrown if a command fails: the reason in one line for the user.
+/// Thrown if a command fails; `text` is the reason for the user, in one line.
 struct CommandError
 {
     QString text;
 };
 
-/// Thrown if the user has asked for the help of a command.
+/// Thrown if the arguments request the help of a command; `text` is the help.
 struct HelpWanted
 {
     QString text;
 };
 
-/// The arguments of one command. Throws for unknown options and missing arguments.
+/// Parses the arguments of one command. Throws a CommandError for unknown options and missing
+/// arguments, so that commands contain no error handling for them.
 class CommandLine
 {
 public:
     struct Option
     {
         QString name;
-        QString value; ///< name of its value in the help; empty for a switch
+        QString value; ///< placeholder of the value in the help; empty for a switch
         QString description;
     };
 
-    /// `positional` has the names of the required arguments, then in brackets the optional ones.
-    /// Dots at the end of the last name stand for any number of arguments.
+    /// `positional` lists the required arguments, then the optional ones in brackets. An ellipsis
+    /// at the end of the last name means any number of arguments.
     CommandLine(const QString& description, const QStringList& positional,
                 const std::vector<Option>& options);
     void parse(const QStringList& arguments);
@@ -47,7 +48,7 @@ public:
     QString value(const char* option) const;
     QStringList values(const char* option) const;
     int number(const char* option, int otherwise) const;
-    /// Returns the language that an option names; `otherwise` if the option is not given.
+    /// Returns the language given by an option, or `otherwise` if the option is missing.
     vkd::Language language(const char* option, vkd::Language otherwise) const;
 
 private:
@@ -55,17 +56,18 @@ private:
     QStringList m_positional;
 };
 
-/// Opens a project, or throws with the reason of the platform.
+/// Opens a project, or throws a CommandError with the reason from the platform.
 std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path);
 
-/// Returns the text of a file in UTF-8, or throws.
+/// Returns the text of a UTF-8 file, or throws a CommandError.
 QString readText(const QString& path);
 
-/// Writes to standard output; throws if this fails.
+/// Writes to standard output. Throws a CommandError if writing fails, for example on a full disk.
 void print(const QString& text);
 
-/// Returns the option for the language of captions and messages, and applies it to the desktop.
+/// Returns the option for the language of captions and messages.
 CommandLine::Option languageOption();
+/// Sets the desktop's language to the one given by this option.
 void applyLanguage(const CommandLine& commandLine);
 
 } // namespace workbench

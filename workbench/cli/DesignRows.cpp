@@ -97,8 +97,8 @@ const std::map<QString, int>& DesignRows::modelGroups() const
     return m_modelGroups;
 }
 
-/// Returns the groups by the names that a user can type: as the rows show them, and those of the
-/// model.
+/// Returns the groups that a user can name: the groups of the rows, with their displayed names, and
+/// the groups of the model.
 std::map<QString, int> DesignRows::knownGroups() const
 {
     std::map<QString, int> known;
@@ -129,7 +129,8 @@ std::vector<int> DesignRows::parseGroups(const QString& text) const
 
 plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 {
-    // A list in the file can contain a group twice.
+    // A row from a file may contain a group twice, so compare sets. A row with fewer entries than
+    // groups cannot be equal.
     for (plib::DesignParameterRow& row : m_data.rows)
         if (row.groups.size() >= groups.size() &&
             std::set<int>(row.groups.begin(), row.groups.end()) ==
@@ -141,7 +142,8 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
     return row;
 }
 
-/// A group can have one record only. A row that loses its last group is removed.
+/// Removes groups from all rows, because a group has only one record. Deletes rows that lose their
+/// last group.
 void DesignRows::takeFromOthers(const std::vector<int>& groups)
 {
     const std::set<int> taken(groups.begin(), groups.end());

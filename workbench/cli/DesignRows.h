@@ -13,24 +13,25 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// The rows of the design page for a project, without the page. They are read, changed and written
-/// by the same functions of the logic.
+/// The design parameters of a project in rows, without widgets. The rows are read, changed and
+/// written by the same calls, in the same order, as on the design page.
 class DesignRows
 {
 public:
     /// Reads the rows. The document is not owned.
     explicit DesignRows(VKD_H_ZOBDoc* document);
 
-    /// Returns a line for each row: groups, type and the three summaries, separated by tabs.
+    /// Returns one line per row: groups, type and the three summaries, separated by tabs.
     QString text() const;
 
-    /// Changes fields of the row with exactly these groups. If there is none, adds a row and
-    /// removes the groups from other rows. `groups` is "none", "remaining", or numbers and names of
-    /// secondary groups separated by ";". `fields` are NAME=VALUE in base units, or "unset" for no
-    /// value. Throws a CommandError for an invalid name or value.
+    /// Changes fields of the row with exactly these groups. If there is no such row, adds one and
+    /// removes the groups from all other rows. `groups` is "none", "remaining", or numbers of
+    /// groups and names of secondary groups, separated by ";". `fields` are NAME=VALUE in base
+    /// units; the value "unset" clears a field. Throws a CommandError for an unknown name or an
+    /// invalid value.
     void setRow(const QString& groups, const QStringList& fields);
 
-    /// Puts the rows into the project, within the transaction in which they were read.
+    /// Writes the rows into the project. Call it in the transaction in which the rows were read.
     void write();
 
 private:
@@ -44,7 +45,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    mutable std::map<QString, int> m_modelGroups; // by name; read on first use
+    mutable std::map<QString, int> m_modelGroups; // by name; read from the model on first use
     bool m_converted = false;
 };
 

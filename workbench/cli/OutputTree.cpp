@@ -17,7 +17,7 @@
 namespace workbench {
 
 namespace {
-constexpr int NoPage = 0; // in a column of the catalogue
+constexpr int NoPage = 0; // an unused column of the catalogue
 
 std::list<QString> additionalContents(const OutputState& saved)
 {
@@ -30,8 +30,8 @@ void showError(const QString& title, const QString& text)
 {
     throw CommandError{QStringLiteral("%1: %2").arg(title, text)};
 }
-/// Every number is a kind of page to the library, but a number that neither the library nor the
-/// catalogue names can only be a mistake.
+/// Throws a CommandError for an unknown kind of page. The library accepts every number, but a
+/// number that occurs neither in the library nor in the catalogue is a mistake of the user.
 void checkProgname(int progname, const plib::Catalogue& catalogue)
 {
     std::set<int> known{VKD_P_GraphicalOutput_Standard, VKD_P_GraphicalOutput_Split,

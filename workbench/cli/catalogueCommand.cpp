@@ -46,12 +46,12 @@ QString recordLine(const plib::GraphicalOutputRecord& r)
 int catalogueCommand(const QStringList& arguments)
 {
     CommandLine line(
-        QStringLiteral("Prints the plots of a catalogue, a line each with tabs between "
-                       "the columns, and on standard error what its writer will hardly "
-                       "have meant. Without FILE it is the installed catalogue."),
+        QStringLiteral("Prints the plots of a catalogue, one per line with tabs between the "
+                       "columns, and probable mistakes on standard error. Without FILE, uses the "
+                       "installed catalogue."),
         {QStringLiteral("[FILE]")},
         {{QStringLiteral("strict"), QString(),
-          QStringLiteral("Anything found makes the exit code 1.")},
+          QStringLiteral("Exits with code 1 if there are mistakes.")},
          languageOption()});
     line.parse(arguments);
     applyLanguage(line);

@@ -17,7 +17,7 @@ namespace workbench {
 
 namespace {
 
-/// A command of this program, or of another program in the same folder.
+/// A command of this program or of another program in the same folder.
 struct Command
 {
     const char* name;
@@ -27,10 +27,10 @@ struct Command
 };
 
 constexpr Command Commands[] = {
-    {"new", newCommand, nullptr, "make a project file from a model"},
+    {"new", newCommand, nullptr, "create a project file from a model"},
     {"script", scriptCommand, nullptr, "print the script of a project's plots"},
     {"catalogue", catalogueCommand, nullptr, "print and check a catalogue of plots"},
-    {"rows", rowsCommand, nullptr, "print and change how a project's area elements are designed"},
+    {"rows", rowsCommand, nullptr, "print and change the design parameters of a project"},
     {"tree", treeCommand, nullptr, "print the plots that a project offers, with their check marks"},
     {"snapshots", nullptr, "plib_workbench_snapshots",
      "save a picture of every page and dialog in a folder"},
@@ -42,7 +42,7 @@ QString pathOf(const char* program)
     return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(program));
 }
 
-/// Not every program is installed.
+/// Returns whether the program of a command exists, because not every program is installed.
 bool isThere(const Command& command)
 {
     return !command.program || QFile::exists(pathOf(command.program));
@@ -64,10 +64,10 @@ QString usage()
             text += QStringLiteral("  %1 %2\n")
                         .arg(QLatin1String(command.name), -12)
                         .arg(QLatin1String(command.summary));
-    return text + QStringLiteral("\nplib_workbench COMMAND --help tells more about a command.\n");
+    return text + QStringLiteral("\nplib_workbench COMMAND --help describes a command.\n");
 }
 
-/// Replaces this program by another one in the process.
+/// Replaces this process with the other program. Returns only by throwing a CommandError.
 int becomeProgram(const char* program, const QStringList& arguments)
 {
     const QByteArray path = QFile::encodeName(pathOf(program));

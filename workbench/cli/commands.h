@@ -4,16 +4,16 @@
 
 namespace workbench {
 
-/// Runs the command in the first argument, or prints the help of the program. Throws as the
-/// commands do. A command of another program does not return: that program replaces this one in the
-/// process.
+/// Runs the command given by the first argument, or prints the help of the program. Throws a
+/// CommandError like the commands. For a command of another program it does not return, because
+/// that program replaces the process.
 int runNamedCommand(const QStringList& arguments);
 
 /// Returns whether there is a command of this name.
 bool isCommand(const QString& name);
 
-// The commands of this program. The first argument is the name of the command. Each throws a
-// CommandError if it fails, and returns the exit code.
+// The commands of this program. The first argument is the name of the command. Each function
+// returns the exit code, or throws a CommandError if it fails.
 int newCommand(const QStringList& arguments);
 int scriptCommand(const QStringList& arguments);
 int catalogueCommand(const QStringList& arguments);

@@ -5,7 +5,8 @@
 #include <QFileInfo>
 
 namespace {
-/// Without a command, the program opens the window if there is a display, with a file if given.
+/// Returns the arguments with the command inserted: on a desktop, no argument or a single file
+/// opens the window.
 QStringList commandOf(const QStringList& arguments)
 {
     const bool isFile = arguments.size() == 1 && !workbench::isCommand(arguments[0]) &&

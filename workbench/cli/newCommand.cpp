@@ -6,7 +6,7 @@
 namespace workbench {
 
 namespace {
-/// Prints a line for each percent of progress.
+/// Returns a callback that prints a line for each completed percent.
 VkdGoOn printed()
 {
     return [last = -1](int percent) mutable {
@@ -20,13 +20,13 @@ VkdGoOn printed()
 
 int newCommand(const QStringList& arguments)
 {
-    CommandLine line(QStringLiteral("Makes a project file from a model. FILE must not exist yet."),
-                     {QStringLiteral("FILE")},
-                     {{QStringLiteral("model"), QStringLiteral("NAME|JSON"),
-                       QStringLiteral("A sample (building, slab, hall) or a model file.")},
-                      {QStringLiteral("progress"), QString(),
-                       QStringLiteral("Prints how many percent are done while it works.")},
-                      languageOption()});
+    CommandLine line(
+        QStringLiteral("Creates a project file from a model. FILE must not exist yet."),
+        {QStringLiteral("FILE")},
+        {{QStringLiteral("model"), QStringLiteral("NAME|JSON"),
+          QStringLiteral("A sample (building, slab, hall) or a model file.")},
+         {QStringLiteral("progress"), QString(), QStringLiteral("Prints the progress in percent.")},
+         languageOption()});
     line.parse(arguments);
     applyLanguage(line);
     if (!line.has("model"))

@@ -50,7 +50,8 @@ VkdStatus storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValu
     return change.commit();
 }
 
-/// Creates the project under a temporary name and puts it in place when it is complete.
+/// Creates the project under a temporary name and renames the file when it is complete, so that a
+/// failure leaves no incomplete project.
 void writeProject(const QString& path, const vkd::dbo::Model& model, const QString& modelFile,
                   const VkdGoOn& goOn)
 {
@@ -71,7 +72,7 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
         throw CommandError{status.reason.replace(place.temporaryPath(), path)};
 }
 
-/// Returns the callback for one half of the work, which begins at this percentage.
+/// Returns the callback for one half of the work, which starts at this percentage.
 VkdGoOn half(const VkdGoOn& goOn, int before)
 {
     if (!goOn)

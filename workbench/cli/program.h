@@ -15,8 +15,9 @@ QStringList programArguments(int argc, char* argv[]);
 /// Returns whether there is a display for a window.
 bool hasDisplay();
 
-/// Runs a command and returns the exit code, 0 or 1. Its help goes to standard output, a failure
-/// to standard error as one line, and after a success the log lines of the platform as warnings.
+/// Runs a command and returns its exit code, or 1 after a failure. Prints the help to standard
+/// output, a failure as one line to standard error, and after a success the log lines of the
+/// platform as warnings to standard error.
 int runCommand(int (*command)(const QStringList&), const QStringList& arguments);
 
 } // namespace workbench

@@ -18,8 +18,7 @@ QString fieldNames()
         names << QString::fromLatin1(field.name);
     return names.join(QLatin1Char(' '));
 }
-
-/// Throws if the status is a failure.
+/// Throws a CommandError if the status is a failure.
 void failOn(const VkdStatus& failure)
 {
     if (!failure.isOk())
@@ -42,18 +41,18 @@ int rowsCommand(const QStringList& arguments)
 {
     CommandLine line(
         QStringLiteral(
-            "Prints how the area elements of a project are designed, a line for each set "
-            "of parameters: groups, type, directions and distances, reinforcement, crack "
-            "control. FIELD=VALUE changes the row that --set-row names, in base units (rad, "
-            "m, mm for bars and crack widths, cm²/m, N/mm²); the second and third "
-            "distance are spacings, \"unset\" is no value. The fields are %1.")
+            "Prints the design parameters of a project's area elements, one line per set: "
+            "groups, type, directions and distances, reinforcement, crack control. FIELD=VALUE "
+            "changes the row given by --set-row, in base units (rad, m, mm for bars and crack "
+            "widths, cm²/m, N/mm²). The second and third distance are spacings; the value "
+            "\"unset\" clears a field. The fields are %1.")
             .arg(fieldNames()),
         {QStringLiteral("FILE"), QStringLiteral("[FIELD=VALUE...]")},
         {{QStringLiteral("set-row"), QStringLiteral("GROUPS"),
           QStringLiteral(
-              "Changes the row with just these groups, or makes one, and stores the rows. "
-              "GROUPS are numbers and names of secondary groups with \";\" between them, "
-              "\"remaining\" or \"none\". A new row takes its groups from others.")},
+              "Changes the row with exactly these groups, or adds one, and stores the rows. "
+              "GROUPS is \"none\", \"remaining\", or numbers of groups and names of secondary "
+              "groups separated by \";\". The groups of a new row are removed from other rows.")},
          languageOption()});
     line.parse(arguments);
     applyLanguage(line);

@@ -16,12 +16,13 @@ std::vector<CommandLine::Option> choiceOptions()
 {
     return {
         {QStringLiteral("progname"), QStringLiteral("N"),
-         QStringLiteral("Kind of page: 1 standard (default), 122 split, 222 prefix. The project "
-                        "keeps a choice for the standard page.")},
+         QStringLiteral("Kind of page: 1 standard (default), 122 split, 222 prefix. Only the "
+                        "standard page has a saved choice.")},
         {QStringLiteral("selection"), QStringLiteral("FILE"),
-         QStringLiteral("Takes the plots from a selection text.")},
+         QStringLiteral("Reads the plots from a selection text.")},
         {QStringLiteral("proposed"), QString(),
-         QStringLiteral("Starts from what the catalogue proposes, whatever the project keeps.")},
+         QStringLiteral("Ignores the saved choice and starts with the plots that the catalogue "
+                        "proposes.")},
     };
 }
 

@@ -12,18 +12,18 @@ namespace workbench {
 std::vector<CommandLine::Option> choiceOptions();
 int progname(const CommandLine& line);
 
-/// Returns the state that the window saved in the project at this database index. With --proposed,
-/// and for other kinds of page than the window's, returns the state of a project without one.
+/// Returns the state that the window saved in the project at this database index. Returns an empty
+/// state with --proposed, and for kinds of page other than the window's.
 OutputState savedChoice(const CommandLine& line, int index);
 
-/// Returns the settings of a new page, replaced by the saved ones.
+/// Returns the saved settings. Settings that were not saved have the value of a new page.
 plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved);
 
 /// Makes the saved camera the desktop's camera, from which the script takes the user-defined view.
 void restoreCamera(const OutputState& saved);
 
-/// Returns the selection text of the file that was given, otherwise the saved one; empty for the
-/// catalogue's default choice.
+/// Returns the selection text from the file given by --selection, or else the saved one. It is
+/// empty for the catalogue's default choice.
 QString chosenPlots(const CommandLine& line, const OutputState& saved);
 
 } // namespace workbench

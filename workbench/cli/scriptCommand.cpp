@@ -29,18 +29,18 @@ std::vector<CommandLine::Option> options()
                QStringLiteral("Language of the script's keywords; "
                               "english by default.")),
         option("additional", "TEXT",
-               QStringLiteral("Text that goes behind the plots, on the prefix "
-                              "page ahead of them.")),
-        option(
-            "set", "NAME=VALUE",
-            QStringLiteral("A setting of the page, as often as needed; each does what its control "
-                           "on the page does, one after the other: %1.")
-                .arg(settingsHelp())),
-        option("selection-out", "FILE", QStringLiteral("Writes the plots as a selection text.")),
+               QStringLiteral("Text that is inserted after the plots, or before "
+                              "them on the prefix page.")),
+        option("set", "NAME=VALUE",
+               QStringLiteral("Changes a setting of the page; may be repeated. Each has the same "
+                              "effect as its control on the page, in the given order: %1.")
+                   .arg(settingsHelp())),
+        option("selection-out", "FILE", QStringLiteral("Writes the plots to a selection text.")),
         option("load-cases", "FILE",
-               QStringLiteral("Takes the load cases from lines of kind, number "
+               QStringLiteral("Reads the load cases from lines of kind, number "
                               "and name, not from the project.")),
-        option("o", "FILE", QStringLiteral("Writes the script into a file, whole or not at all.")),
+        option("o", "FILE",
+               QStringLiteral("Writes the script to a file, completely or not at all.")),
         languageOption(),
     };
     all.insert(all.end(), std::begin(own), std::end(own));
@@ -65,7 +65,8 @@ void commit(QSaveFile* file)
             QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};
 }
 
-/// Replaces the files only after all of them have been written.
+/// Writes script and selection. Replaces a file only after all output has been written, so that a
+/// failed write leaves all files unchanged.
 void writeResults(const CommandLine& line, const QString& script, const QString& selection)
 {
     const auto place = [&line](const char* option) {
@@ -92,10 +93,10 @@ void writeResults(const CommandLine& line, const QString& script, const QString&
 int scriptCommand(const QStringList& arguments)
 {
     CommandLine line(QStringLiteral("Prints the script for the plots that are chosen in a project. "
-                                    "Plots, load cases and settings are those that the window "
-                                    "keeps in it, or else the plots that the catalogue proposes "
-                                    "with all load cases and the settings of a new page. Options "
-                                    "override what is kept."),
+                                    "Uses the plots, load cases and settings that the window has "
+                                    "saved in the project. If none are saved, uses the plots that "
+                                    "the catalogue proposes, all load cases and the settings of a "
+                                    "new page. Options override saved values."),
                      {QStringLiteral("FILE")}, options());
     line.parse(arguments);
     applyLanguage(line);
@@ -114,7 +115,7 @@ int scriptCommand(const QStringList& arguments)
                     line.has("load-cases") ? &rows : nullptr);
     tree.applySelection(chosenPlots(line, saved));
     QString additional = line.value("additional");
-    // On the prefix page the line end is the caller's business.
+    // The prefix page inserts the text unchanged, without adding a line end.
     if (settings.variant == VKD_P_GraphicalOutput_Prefix && !additional.isEmpty())
         additional += QLatin1Char('\n');
     const plib::PlatformScriptEnvironment environment(tree.parameter());

@@ -13,11 +13,11 @@ using plib::OutputSettings;
 
 enum class Pages { All, Split, AllButSplit };
 
-/// A setting, with the side effects of its control on a page.
+/// A setting and the function that sets it, with the side effects of its control on a page.
 struct Setting
 {
     const char* name;
-    int highest; ///< a number from 0, or NoNumber
+    int highest; ///< largest number, counted from 0; NoNumber for a text
     Pages pages;
     void (*set)(const QString& value, OutputSettings* settings);
 };
@@ -50,7 +50,8 @@ void setFormat(const QString& value, OutputSettings* settings)
     plib::chooseFormat(plib::PageFormat(value.toInt()), settings);
 }
 
-/// A page offers no choice of pictures unless its sheets are in portrait.
+/// Throws a CommandError if the sheets are not in portrait format, because the page offers a choice
+/// of pictures only then.
 void setPictures(const QString& value, OutputSettings* settings)
 {
     const auto pictures = plib::PagePictures(value.toInt());

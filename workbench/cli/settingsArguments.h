@@ -4,13 +4,13 @@
 
 namespace workbench {
 
-/// Changes the settings by arguments such as `scaleMode=0`, one after the other, each as its
-/// control on a page does: a scale from the list selects the engineering scale, a format its
-/// pictures. An unknown name, a value out of range, and a setting that the kind of page does not
-/// have throw a CommandError.
+/// Applies arguments such as `scaleMode=0` to the settings, in the given order. Each argument has
+/// the same effect as its control on a page: a scale of the list selects the engineering scale, a
+/// format sets its number of pictures. Throws a CommandError for an unknown name, a value out of
+/// range, or a setting that the kind of page does not have.
 void applySettings(const QStringList& arguments, plib::OutputSettings* settings);
 
-/// Returns "scaleMode (0 to 1), ..." for the help.
+/// Returns the settings and their ranges for the help: "scaleMode (0 to 1), ...".
 QString settingsHelp();
 
 } // namespace workbench

@@ -36,9 +36,9 @@ int treeCommand(const QStringList& arguments)
     std::vector<CommandLine::Option> options = choiceOptions();
     options.push_back(languageOption());
     CommandLine line(
-        QStringLiteral("Prints the tree of plots that a project offers: [x] chosen, [-] chosen in "
-                       "part, [ ] not chosen. Offered and chosen is what the window keeps in the "
-                       "project, or else what the catalogue proposes."),
+        QStringLiteral("Prints the tree of plots that a project offers: [x] chosen, [-] partly "
+                       "chosen, [ ] not chosen. Uses the choice that the window has saved in the "
+                       "project. If none is saved, uses the plots that the catalogue proposes."),
         {QStringLiteral("FILE")}, options);
     line.parse(arguments);
     applyLanguage(line);
