@@ -10,9 +10,9 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// The project that a window works on, or none: its document, the states of its parts that dialogs
-/// have read, and the changes by other programs. It needs no widgets. ProjectAccess adds messages
-/// and the waiting for other programs.
+/// The open project of a window, if there is one: its document, the states of its parts that
+/// dialogs have read, and the changes by other programs. It needs no widgets. ProjectAccess adds
+/// messages and waits for other programs.
 class OpenProject : public QObject
 {
     Q_OBJECT
@@ -37,10 +37,10 @@ public:
     /// Returns the folder of the file, or the current folder if no project is open.
     QString folder() const;
 
-    /// Returns a VkdZobStatus: whether the project can be read now.
+    /// Returns a VkdZobStatus that says whether the project can be read now.
     cd_error_t readStatus() const;
 
-    /// These call the operations of SeenPart for a part of this project.
+    /// Call the operations of SeenPart for a part of this project.
     cd_error_t look(ProjectPart part);
     bool isOutdated(ProjectPart part) const;
     cd_error_t store(ProjectPart part, const std::function<cd_error_t()>& put,

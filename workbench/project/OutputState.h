@@ -11,19 +11,19 @@
 namespace workbench {
 
 /// The saved state of the graphical output: the state string of the page and the selections in the
-/// host's own tabs.
+/// other tabs of the dialog.
 struct OutputState
 {
     /// Entries of the radio group of contents.
     enum Content { OfTheModel = 0, WithSolids = 1 };
 
-    QString page;             ///< empty until it is saved first
+    QString page;             ///< empty if it was never saved
     int content = OfTheModel; ///< entry of the radio group of contents
     QSet<int> leftOutNumbers; ///< load cases that are unchecked in the table
 
     /// Reads the state from the project at this database index.
     static OutputState read(int index);
-    /// Puts the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
+    /// Writes the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
     VkdStatus put(int index) const;
 
     /// Returns the tag of the content that WithSolids always includes.

@@ -57,7 +57,7 @@ void ProjectWatch::look()
     Q_EMIT noticed();
 }
 
-/// The watcher drops a file that was deleted or replaced, and there may be a new one.
+/// Watches the file again, because the watcher drops files that are deleted or replaced.
 void ProjectWatch::watchFile()
 {
     if (m_watcher.files().isEmpty() && QFileInfo::exists(m_path))

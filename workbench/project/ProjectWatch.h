@@ -7,7 +7,8 @@
 namespace workbench {
 
 /// Watches an open project for changes by other programs and for its file being deleted, moved or
-/// replaced. The system reports changes of the file; a slow timer covers drives where it does not.
+/// replaced. The operating system reports changes of the file; a slow timer checks files on drives
+/// without such reports.
 /// A check is cheap and does not make other programs wait.
 class ProjectWatch : public QObject
 {
@@ -15,19 +16,20 @@ class ProjectWatch : public QObject
 
 public:
     enum class File {
-        Present,  ///< under its path
+        Present,  ///< exists at its path
         Missing,  ///< deleted or moved
-        Replaced, ///< another file lies there
+        Replaced, ///< another file is at its path
     };
 
     explicit ProjectWatch(QObject* parent = nullptr);
 
-    /// Watches the project at this database index, or none if it is below 1. Changes count from the
-    /// time when the project was opened.
+    /// Watches the project at this database index, or none if the index is below 1. Changes since
+    /// the project was opened are reported, too.
     void setProject(int index, const QString& path);
 
     File file() const { return m_file; }
-    /// Returns 0 if no other program has changed the project, and another number after each change.
+    /// Returns 0 if no other program has changed the project, and a different number after each
+    /// change.
     int changes() const { return m_changes; }
 
     /// Checks at once.
@@ -42,7 +44,7 @@ private:
 
     QFileSystemWatcher m_watcher;
     QTimer m_slow;
-    QTimer m_soon; // the system reports one change many times
+    QTimer m_soon; // combines the many reports of one change
     QString m_path;
     int m_index = 0;
     File m_file = File::Present;

@@ -11,7 +11,7 @@ namespace workbench {
 /// The parts of a project that dialogs edit, each as a whole.
 enum class ProjectPart { Design, Output, TextOutput };
 
-/// Returned in place of a VkdZobStatus: another program has changed the part since look().
+/// Returned instead of a VkdZobStatus if another program has changed the part since look().
 constexpr cd_error_t PartChanged = -1;
 
 /// Remembers the state of a part of a project when a dialog reads it, so that the dialog does not
@@ -26,11 +26,12 @@ public:
     /// Remembers the state in the project at this database index. Call it before reading, so that a
     /// change in between counts as a later one. Returns a VkdZobStatus.
     cd_error_t look(int index);
-    /// Returns whether the state in the project is another one now; false if it cannot be read.
+    /// Returns whether the state in the project has changed since look(); false if it cannot be
+    /// read.
     bool isOutdated(int index) const;
-    /// Calls `put`, which returns a VkdZobStatus, in a change that is stored as a whole or not at
-    /// all. Returns a VkdZobStatus, that of `put` if it failed, or PartChanged if there is a newer
-    /// state to keep.
+    /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if it fails, the transaction is
+    /// rolled back and its status is returned. Returns PartChanged if the project has a newer state
+    /// and `newer` is Keep, otherwise a VkdZobStatus.
     cd_error_t store(int index, const std::function<cd_error_t()>& put, Newer newer = Newer::Keep);
 
 private:

@@ -12,7 +12,7 @@ namespace workbench {
 /// selections, which are preserved while another button is checked.
 struct TextOutputState
 {
-    QString extent;       ///< text of a radio group; empty until it is saved first
+    QString extent;       ///< text of a radio group; empty if it was never saved
     QString loadCases;    ///< same format
     QString combinations; ///< same format
 
@@ -25,7 +25,7 @@ struct TextOutputState
     /// Reads the state from the project at this database index. If no lists were saved, they are
     /// `defaultLists`.
     static TextOutputState read(int index, int defaultLists);
-    /// Puts the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
+    /// Writes the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
     VkdStatus put(int index) const;
 
     bool operator==(const TextOutputState& other) const;
