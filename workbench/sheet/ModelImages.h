@@ -12,8 +12,8 @@ class QPainter;
 namespace workbench {
 
 /// Pictures of a project's model for the frames of its sheets. All frames with the same view share
-/// one picture, which is drawn once and cached. A file of many pages also contains it only once,
-/// unlike a vector drawing.
+/// one picture, which is drawn once and cached. A PDF file of many pages contains it only once,
+/// which a vector drawing would not achieve.
 class ModelImages
 {
 public:
@@ -26,7 +26,7 @@ public:
     /// Returns the N of the scale 1:N for a view in a frame of this size (mm). `wanted` is the
     /// scale of the plan.
     double scale(const PictureView& view, const QSizeF& frame, double wanted);
-    /// Returns whether the model at 1:N exceeds the frame.
+    /// Returns whether the model at 1:N is larger than the frame.
     bool isCut(const PictureView& view, const QSizeF& frame, double scale);
     /// Draws the model at 1:N into the frame, which is given in the painter's units.
     void paint(QPainter& painter, const QRectF& frame, double unitsPerMm, const PictureView& view,

@@ -13,7 +13,8 @@ class ModelImages;
 
 /// Draws the pages of a plan: a white sheet with its frames, and below them the project and the
 /// page number. Each frame shows the model in the view of the picture with caption, load case, view
-/// and scale. Only the graphics program draws results; each page says so.
+/// and scale. The pictures contain no results, because only the graphics program can draw them; a
+/// note on each page says so.
 class SheetPainter
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::SheetPainter)
@@ -24,7 +25,7 @@ public:
 
     /// Draws a page, counted from 0, into a rectangle with the proportions of the sheet.
     void paint(QPainter& painter, const QRectF& sheet, const SheetPlan& plan, int page);
-    /// Return the content of a picture in words.
+    /// Return the plot and the load case of a picture as text.
     static QString captionOf(const SheetPicture& picture);
     static QString loadCaseOf(const SheetPicture& picture);
 

@@ -25,7 +25,7 @@ bool isSteering(QStringView word)
     return false;
 }
 
-/// Removes the comment after a dollar sign; a dollar sign with a bracket begins a reference.
+/// Removes the comment after a dollar sign; a dollar sign followed by a bracket begins a reference.
 QStringView withoutComment(QStringView line)
 {
     for (int i = 0; i < line.size(); ++i)

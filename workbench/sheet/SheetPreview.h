@@ -24,12 +24,12 @@ class SheetPreview : public QWidget
     Q_OBJECT
 
 public:
-    /// The action of the window that exports the sheets has a button.
+    /// The preview has a button for `exportSheets`, the window's action that exports the sheets.
     explicit SheetPreview(QAction* exportSheets, QWidget* parent = nullptr);
     ~SheetPreview() override;
 
-    /// Shows sheets of the project at this database index, or none below 1, beginning with the
-    /// first page. The preview has no plots until setPlan().
+    /// Selects the project at this database index, or none if the index is below 1, and goes to the
+    /// first page. The preview is empty until setPlan() is called.
     void setProject(int index, const QString& name);
     void setPlan(const SheetPlan& plan);
     const SheetPlan& plan() const;

@@ -66,7 +66,7 @@ SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QSt
                              QCoreApplication::translate("exportSheets", "Cancel"), 0,
                              plan.pageCount(), parent);
     progress.setObjectName(QStringLiteral("SheetProgress"));
-    progress.setWindowModality(Qt::ApplicationModal); // protects the plan
+    progress.setWindowModality(Qt::ApplicationModal); // the plan must not change meanwhile
     progress.setMinimumDuration(ShowsAfterMs);
     progress.setValue(0); // starts the time measurement
     bool isWritten = false;
