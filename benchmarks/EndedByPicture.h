@@ -5,8 +5,9 @@
 
 #include <cstdlib>
 
-/// An application that exits after the first paint of a main window, or of a main window that has a
-/// certain child. So the time of the process is the time until the user sees the window.
+/// An application that exits after the first paint of a main window. If the name of a child is
+/// given, only windows with this child count. So the run time of the process is the time until the
+/// user sees the window.
 class EndedByPicture : public QApplication
 {
 public:

@@ -125,7 +125,7 @@ void rebuildTree(benchmark::State& state)
         tree.rebuild();
 }
 
-/// Applies a choice that differs between plots and checks half of the rows by number.
+/// Applies a choice that differs between plots and checks half of the rows by their numbers.
 void applySelection(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));

@@ -68,7 +68,7 @@ void readAndFold(benchmark::State& state)
     }
 }
 
-/// Reads the same records by the same keys from a map in memory, with one copy for each.
+/// Reads the same records by the same keys from a map in memory and copies each once.
 void readFromMap(benchmark::State& state)
 {
     std::map<std::tuple<int, int, int>, plib::RecordBytes> records;

@@ -70,7 +70,7 @@ void startWithBuilding(benchmark::State& state)
     startWorkbench(state, "", building());
 }
 
-/// Measures until everything but the script is shown.
+/// Measures the time until everything except the script is shown.
 void startUntilShown(benchmark::State& state)
 {
     startWorkbench(state, "Records", building());
