@@ -72,7 +72,8 @@ void addCellEditors(SnapshotAlbum& album, DesignHost& host)
     }
 }
 
-/// The page disables the buttons of groups that the model does not have.
+/// Adds a group dialog, or leaves it out if the model has no such groups; the page then disables
+/// its button.
 void addGroupDialog(SnapshotAlbum& album, DesignHost& host, const char* name, const char* button)
 {
     if (host.button(button)->isEnabled())

@@ -4,7 +4,7 @@ class QPalette;
 
 namespace workbench {
 
-/// The colours of a dark desktop, independent of the platform's theme.
+/// Returns the colours of a dark desktop, independent of the platform's theme.
 QPalette darkPalette();
 
 } // namespace workbench

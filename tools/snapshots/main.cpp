@@ -21,8 +21,8 @@ bool isPixelRatio(int ratio)
     return ratio >= 1 && ratio <= LargestRatio;
 }
 
-/// The pixel ratio of the pictures, which must be set before the application is created. The
-/// command parses the arguments again for help and error messages, which need an application.
+/// Returns the pixel ratio of the pictures, which must be set before the application is created.
+/// The command parses the arguments again for help and error messages, which need an application.
 int pixelRatio(const QStringList& arguments)
 {
     QCommandLineParser parser;
@@ -78,6 +78,6 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // as desktops have it
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // the usual size on desktops
     return runCommand(snapshots, command);
 }
