@@ -29,9 +29,9 @@ public:
     /// Returns whether the state in the project has changed since look(); false if it cannot be
     /// read.
     bool isOutdated(int index) const;
-    /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if it fails, the transaction is
-    /// rolled back and its status is returned. Returns PartChanged if the project has a newer state
-    /// and `newer` is Keep, otherwise a VkdZobStatus.
+    /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if it fails, the transaction
+    /// is rolled back and its status is returned. Returns PartChanged if the project has a newer
+    /// state and `newer` is Keep, otherwise a VkdZobStatus.
     cd_error_t store(int index, const std::function<cd_error_t()>& put, Newer newer = Newer::Keep);
 
 private:
