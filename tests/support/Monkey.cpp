@@ -277,6 +277,7 @@ void Monkey::drop(QWidget* widget)
         return;
     QDropEvent drop(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(widget, &drop);
+    QApplication::processEvents(); // the file is opened after the drop, before any other input
 }
 
 void Monkey::close(QWidget* window)
