@@ -106,7 +106,7 @@ QStringList doubles()
 } // namespace
 
 /// The whole program in the hands of somebody who does anything anywhere.
-class tst_windowMonkey : public ProjectTest
+class fuzz_windowMonkey : public ProjectTest
 {
     Q_OBJECT
 
@@ -277,5 +277,5 @@ private:
     QByteArray m_faults;
 };
 
-PLIB_WIDGET_TEST_MAIN(tst_windowMonkey)
-#include "tst_windowMonkey.moc"
+PLIB_WIDGET_TEST_MAIN(fuzz_windowMonkey)
+#include "fuzz_windowMonkey.moc"

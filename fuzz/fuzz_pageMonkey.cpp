@@ -44,7 +44,7 @@ QStringList groupByGroup(const DesignDesk& desk)
 } // namespace
 
 /// Pages on which somebody has worked at random: a fresh one has to become the same.
-class tst_monkeys : public QObject
+class fuzz_pageMonkey : public QObject
 {
     Q_OBJECT
 
@@ -119,5 +119,5 @@ private Q_SLOTS:
     }
 };
 
-PLIB_WIDGET_TEST_MAIN(tst_monkeys)
-#include "tst_monkeys.moc"
+PLIB_WIDGET_TEST_MAIN(fuzz_pageMonkey)
+#include "fuzz_pageMonkey.moc"
