@@ -29,7 +29,7 @@ int fromEnvironment(const char* variable, int usual)
     return isSet ? value : usual;
 }
 
-/// What its enabled menus offer.
+/// Returns the enabled actions of the window's menus.
 QList<QAction*> offered(const QList<QAction*>& actions)
 {
     QList<QAction*> found;
@@ -93,7 +93,7 @@ void Monkey::step(QWidget* window)
 
 void Monkey::workOnDialog()
 {
-    QTimer::singleShot(0, this, [this] { workOnDialog(); }); // first: a step may open another
+    QTimer::singleShot(0, this, [this] { workOnDialog(); }); // a step may open a dialog
     if (QWidget* popup = QApplication::activePopupWidget())
         return workOnPopup(popup);
     QWidget* dialog = QApplication::activeModalWidget();
@@ -127,7 +127,7 @@ void Monkey::workOnPopup(QWidget* popup)
         QTest::keyClick(list ? list : popup, keys[act]);
 }
 
-/// The dialog can also rename and delete, which is done to no file but those given.
+/// A file dialog can also rename and delete files, so it only receives the given names.
 void Monkey::nameFile(QFileDialog* dialog)
 {
     const QString file =
@@ -207,7 +207,8 @@ void Monkey::clickButton(QWidget* window)
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
-/// A click, a double click, a drag, the wheel or the menu at some place of some widget.
+/// Clicks, double-clicks, drags, turns the wheel or opens the menu at a random point of a random
+/// widget.
 void Monkey::act(QWidget* window)
 {
     QWidget* widget = pickPart(window);
@@ -288,7 +289,7 @@ void Monkey::close(QWidget* window)
     window->close();
 }
 
-/// Drops a file on it or gives it another size.
+/// Drops a file on the window or resizes it.
 void Monkey::changeWindow(QWidget* window)
 {
     if (below(2)) {

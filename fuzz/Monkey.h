@@ -12,31 +12,32 @@ class QFileDialog;
 
 namespace testsupport {
 
-/// Works in the windows of a program at random, in the same way for the same seed: with the mouse,
-/// its wheel, keys, texts, menus, dropped files and sizes of windows. A dialog or a menu that
-/// blocks the caller is worked on until it is left; a file dialog is only given names of the
+/// Operates the windows of a program at random, but in the same way for the same seed: with the
+/// mouse and its wheel, keys, texts, menus, dropped files and window sizes. A dialog or a menu that
+/// blocks the caller is operated until it is closed; a file dialog only gets the names of the
 /// monkey's files. The seed is printed; if PLIB_MONKEY_LOG is set, each step is printed, too. A
 /// step that hangs ends the process.
 class Monkey : public QObject
 {
 public:
-    /// One round of a test, as a row of data has it.
+    /// One round of a test, as stored in a row of data.
     static constexpr int StepsInARound = 500;
-    /// Makes the rounds of a test: a column "seed" with a row for each round of this many steps, or
-    /// of those in the environment variable PLIB_MONKEY_STEPS. PLIB_MONKEY_SEED is the first seed.
+    /// Creates the rounds of a test: a column "seed" with a row for each round of this many steps,
+    /// or of the number in the environment variable PLIB_MONKEY_STEPS. PLIB_MONKEY_SEED is the
+    /// first seed.
     static void addRounds(int steps);
 
-    /// `files` are the paths that it enters into file dialogs and drops.
+    /// `files` are the paths for file dialogs and for dropping.
     explicit Monkey(int seed, const QStringList& files = {});
     ~Monkey() override;
 
-    /// Does something in a window that is not blocked.
+    /// Takes a step in a window that is not blocked.
     void step(QWidget* window);
     void close(QWidget* window);
     int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
-    /// How many steps it made, those in dialogs and menus included.
+    /// Returns the number of steps so far, including those in dialogs and menus.
     int steps() const { return m_steps; }
-    /// The action of a menu that the last step triggered; null if it did something else.
+    /// Returns the menu action that the last step triggered; null if it did something else.
     const QAction* triggered() const { return m_triggered; }
 
 private:
@@ -65,7 +66,7 @@ private:
 
     std::mt19937 m_random;
     QStringList m_files;
-    QWidget* m_window = nullptr; // of the step
+    QWidget* m_window = nullptr; // of the current step
     QPointer<QAction> m_triggered;
     int m_steps = 0;
 };

@@ -12,20 +12,20 @@ using namespace testsupport;
 namespace {
 constexpr int Steps = 10000;
 
-/// The directions and distances of a cell as they are stored: a layer without a distance leaves
-/// none to those below it, whose distances count from it.
+/// Returns the directions and distances of a cell in their stored form: a layer without a distance
+/// removes the distances of the layers below, which are relative to it.
 QString storedDistances(const QString& cell)
 {
     QStringList distances = cell.section(QLatin1Char('/'), 1).split(QLatin1Char(';'));
-    for (int i = 2; i + 1 < distances.size(); ++i) // the upper and the lower side by turns
+    for (int i = 2; i + 1 < distances.size(); ++i) // upper and lower side in turn
         if (!distances[i - 2].contains(QRegularExpression(QStringLiteral("[0-9]"))))
             distances[i] = QStringLiteral(" - ");
     return cell.section(QLatin1Char('/'), 0, 0) + distances.join(QLatin1Char(';'));
 }
 
-/// Group by group, what the table says about it, in an order of its own: a group may stand in two
-/// rows, and rows with equal parameters are one when they are read again. The page's entries, which
-/// keep the rows without groups, have no place for the limits of the reinforcement.
+/// Returns the texts of the table for each group, sorted: a group may be in two rows, and rows with
+/// equal parameters become one when they are read. The entries of the page, which contain the rows
+/// without groups, do not contain the limits of the reinforcement.
 QStringList groupByGroup(const DesignDesk& desk)
 {
     QStringList all;
@@ -43,7 +43,7 @@ QStringList groupByGroup(const DesignDesk& desk)
 }
 } // namespace
 
-/// Pages on which somebody has worked at random: a fresh one has to become the same.
+/// Random work on pages: a new page must be able to restore their state.
 class fuzz_pageMonkey : public QObject
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ private Q_SLOTS:
 
     void design_data() { Monkey::addRounds(Steps); }
 
-    /// The rows of the page are seen by what is written.
+    /// The rows of the page are compared by the stored records.
     void design()
     {
         QFETCH(int, seed);
@@ -74,7 +74,7 @@ private Q_SLOTS:
                 QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
                 if (desk.isVisible())
                     continue;
-                QCOMPARE(desk.result(), 6); // left to pick groups, and for nothing else
+                QCOMPARE(desk.result(), 6); // a detour is only possible for picking groups
                 desk.show();
             }
             desk.table()->setCurrentCell(0, 1); // closes the last editor
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QString old;
         while (monkey.steps() < Monkey::StepsInARound) {
             monkey.step(&desk.page);
-            switch (monkey.below(60)) { // as a host
+            switch (monkey.below(60)) { // like a host
             case 0:
                 rows.resize(std::size_t(monkey.below(6)), {1, 7, QStringLiteral("7 : case")});
                 desk.page.setUsedNumbersAndNames(rows);

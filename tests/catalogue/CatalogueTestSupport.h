@@ -13,8 +13,8 @@ namespace testsupport {
 using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 using Records = std::vector<plib::GraphicalOutputRecord>;
 
-/// Message texts of the program "grav" for the life of the object, and nothing else on the search
-/// path before the tree's own share folder.
+/// While the object exists, the message texts are those of the program "grav", and only the tree's
+/// own share folder is on the search path.
 class Texts
 {
 public:
@@ -27,15 +27,15 @@ private:
 
 Records parse(const QByteArray& catalogue);
 
-/// A catalogue line from its last columns; titles, words and numbers as in a file.
+/// Returns a catalogue line with these last columns; titles, words and numbers are as in a file.
 QByteArray line(const char* titles, const char* caseWord, int preselect = 0, int viewKind = 0,
                 const char* german = "g", const char* english = "e");
 
-/// Fills an empty tree with the records, all offered.
+/// Fills an empty tree with the records, all of which are offered.
 void build(plib::OutputNode* root, const Records& records, const Rows& rows);
 
-/// The items below the node with check marks, indented, one line each, as the command `tree` prints
-/// them. Nodes or items of a widget.
+/// Returns the items below the node with check marks, indented, one line for each, as the command
+/// `tree` prints them. Works for nodes and for items of a widget.
 template <class Node>
 QString treeText(const Node* parent, int depth = 0)
 {
@@ -49,10 +49,10 @@ QString treeText(const Node* parent, int depth = 0)
     return text;
 }
 
-/// `count` rows of kind 1, "1 : a", "2 : b", ...
+/// Returns `count` rows of kind 1: "1 : a", "2 : b", ...
 Rows rows(int count);
 
-/// A number from 0 to below `end`.
+/// Returns a number from 0 up to, but not including, `end`.
 int below(std::mt19937& random, int end);
 
 } // namespace testsupport

@@ -78,7 +78,7 @@ private Q_SLOTS:
             "  0 :-1,0,1 0 0  0 <g> <e>\n");
     }
 
-    /// A byte order mark before each line changes nothing, though no line is ASCII with it.
+    /// A byte order mark before each line makes the line non-ASCII, but does not change the result.
     void records()
     {
         QFETCH(QByteArray, file);
@@ -122,7 +122,7 @@ private Q_SLOTS:
         QVERIFY(plib::loadCatalogue(catalogue, vkd::Language::English, fail));
         QCOMPARE(int(catalogue.list.size()), 1);
         vkd_lib_setvalue(102, 0);
-        // The records of the first language stay, on purpose.
+        // The records of the first language remain on purpose.
         QVERIFY(plib::loadCatalogue(catalogue, vkd::Language::German, fail));
         QCOMPARE(int(catalogue.list.size()), 2);
         QCOMPARE(catalogue.list[0].title3, QStringLiteral("Base"));

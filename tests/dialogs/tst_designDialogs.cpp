@@ -24,7 +24,8 @@ using testsupport::find;
 using testsupport::whenModal;
 
 namespace {
-/// A record in which every real field has a value of its own that no field shows with all digits.
+/// Returns a record whose real fields all have different values, with more digits than the edits
+/// show.
 tagZOB_QUAD_RIM unevenRecord(int type)
 {
     tagZOB_QUAD_RIM record{};
@@ -36,12 +37,12 @@ tagZOB_QUAD_RIM unevenRecord(int type)
     record.group = 3;
     record.type = type;
     record.reservedM = 5;
-    for (std::size_t i = 0; i < 6; ++i) // in order, so that OK is not refused
+    for (std::size_t i = 0; i < 6; ++i) // in ascending order, so that OK is not refused
         record.*plib::fields::Maximum[i] += 3;
     return record;
 }
 
-/// The fields in which two records differ, by name.
+/// Returns the names of the fields in which two records differ.
 QString changes(const tagZOB_QUAD_RIM& before, const tagZOB_QUAD_RIM& after)
 {
     tagZOB_QUAD_RIM copy = before;
@@ -75,7 +76,7 @@ void pressOk(QDialog* dialog)
     find<VKD_QT_Ok>(*dialog, "okayandcancelbutton")->cmdOk()->click();
 }
 
-/// What an OK on this record changes.
+/// Returns the fields of this record that OK changes.
 template <class Dialog>
 QString changesByOk(const tagZOB_QUAD_RIM& record)
 {
@@ -151,7 +152,7 @@ private Q_SLOTS:
             QStringLiteral("m_p"));
     }
 
-    /// The two headers of the greatest reinforcement differ in their first letter.
+    /// The two headers of the maximum reinforcement differ in their first letter.
     void labelsOfTheLayers()
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);
@@ -166,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }
 
-    /// The fields of the pair that is meant are marked, and the first has the focus.
+    /// The fields of the wrong pair are marked, and the first one gets the focus.
     void limitsAreCheckedOneByOne()
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);
@@ -194,22 +195,22 @@ private Q_SLOTS:
         edit("amo")->setVal(0.0001);
         edit("amui")->setVal(0.0001);
         edit("asoi")->setText(QStringLiteral("abc"));
-        pressOk(dialog.get()); // which comes first: the pair may be in order without it
+        pressOk(dialog.get()); // reports the refused text before the pair
         QVERIFY(dialog->isVisible() && edit("asoi")->hasFocus());
         edit("asoi")->setVal(0.0);
         QCOMPARE(refused(), QStringLiteral("aso amo in aso"));
-        edit("amo")->setVal(double(record.aso)); // equal is in order
+        edit("amo")->setVal(double(record.aso)); // equal limits are in order
         QCOMPARE(marked(), QStringLiteral(" in aso"));
         QCOMPARE(refused(), QStringLiteral("asui amui in asui"));
         edit("amui")->setVal(double(plib::NotSet));
-        edit("amoi")->setVal(NAN); // cannot be compared
+        edit("amoi")->setVal(NAN); // a NaN cannot be compared
         QCOMPARE(refused(), QStringLiteral("asoi amoi in asoi"));
         edit("asoi")->clear();
         pressOk(dialog.get());
         QVERIFY(!dialog->isVisible());
     }
 
-    /// Half a turn back is usual around a point.
+    /// Minus 180 degrees is usual around a point.
     void usualDirections()
     {
         tagZOB_QUAD_RIM record = unevenRecord(4);
@@ -259,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(width->lineEdit()->text(), QStringLiteral("0.25"));
         QCOMPARE(width->count(), 3);
         auto stress = find<QComboBox>(*dialog, "m_pSIGU");
-        QCOMPARE(stress->lineEdit()->text(), QString()); // and not the first of the list
+        QCOMPARE(stress->lineEdit()->text(), QString()); // not the first entry of the list
         stress->showPopup();
         QTest::keyClick(stress->view(), Qt::Key_End);
         QTest::keyClick(stress->view(), Qt::Key_Enter);
@@ -270,7 +271,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Each field gets a number of its own.
+    /// Sets a different number in each field.
     template <class Dialog>
     void typeIntoFields(int type, const char* names, double factor, const QString& combo = {})
     {

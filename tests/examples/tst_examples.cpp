@@ -3,12 +3,13 @@
 
 #include <QProcess>
 
-/// The examples as they are built, in a process each, with a user who presses OK (ExampleUser).
+/// Runs each example as it is built in a separate process, with a user who presses OK
+/// (ExampleUser).
 class TestExamples : public QObject
 {
     Q_OBJECT
 
-    /// The exit code and the output, parted by a blank.
+    /// Returns the exit code and the output, separated by a blank.
     static QString run(const QString& example, const QString& project)
     {
         QProcess process;
@@ -32,7 +33,7 @@ private Q_SLOTS:
         row("radioHost", "0 1\n2\n3\n4\n5\n6\n7\n", 0);
     }
 
-    /// The row is named after the example.
+    /// The name of the data row is that of the example.
     void run()
     {
         const QString example = QLatin1String(QTest::currentDataTag());

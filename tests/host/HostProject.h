@@ -6,18 +6,19 @@
 
 #include <vector>
 
-/// A project in a folder of its own, as a host has it open.
+/// A project in a folder of its own, opened as by a host.
 class HostProject
 {
 public:
-    /// With the sample model of this name; an empty name is a project without a model.
+    /// Creates a project with the sample model of this name; an empty name gives a project without
+    /// a model.
     explicit HostProject(const QString& model);
 
     VKD_H_ZOBDoc* doc() { return m_project.doc.get(); }
-    /// Closes the file and opens it again, so that what is read afterwards comes from the file.
+    /// Closes the file and opens it again, so that later reads use the file.
     void reopen();
 
-    /// The design records, in the order of the store.
+    /// Returns the design records in the order of the store.
     std::vector<tagZOB_QUAD_RIM> records();
     void setRecords(const std::vector<tagZOB_QUAD_RIM>& records);
 

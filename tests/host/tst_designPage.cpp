@@ -24,7 +24,7 @@ tagZOB_QUAD_RIM record(int group, int type, float minimum)
     return made;
 }
 
-/// Types what a user would into the group dialog that opens next, and presses OK.
+/// Types groups into the group dialog that opens next, as a user would, and presses OK.
 void confirmGroups(const QString& typed)
 {
     whenModal([typed](QWidget* dialog) {
@@ -35,7 +35,7 @@ void confirmGroups(const QString& typed)
     });
 }
 
-/// The entries, the current one with a star.
+/// Returns the entries, the current one with a star.
 QString entriesOf(const QComboBox* combo)
 {
     QStringList texts;
@@ -62,7 +62,7 @@ private Q_SLOTS:
             desk.keys({Qt::Key_Insert, Qt::Key_Insert, Qt::Key_Down, Qt::Key_Down, Qt::Key_Delete});
             QCOMPARE(counted.size(), 4);
             QCOMPARE(counted.last().first().toInt(), 2);
-            desk.table()->setCurrentCell(1, 0); // Delete left no selection
+            desk.table()->setCurrentCell(1, 0); // deleting clears the selection
             desk.keys({Qt::Key_Right, Qt::Key_F2});
             auto types = find<QComboBox>(desk, "cellCombo");
             QTRY_VERIFY(types->view()->isVisible());
@@ -125,15 +125,15 @@ private Q_SLOTS:
         QCOMPARE(desk.table()->item(1, 0)->text(), QString()); // the combo shows it
         QCOMPARE(select(1, 3), QStringLiteral("1,3"));
         QCOMPARE(desk.table()->item(1, 0)->text(), QStringLiteral("1"));
-        QCOMPARE(select(0, 0), QStringLiteral("1,3")); // stays open
+        QCOMPARE(select(0, 0), QStringLiteral("1,3")); // the editor stays open
         QCOMPARE(select(3, 4), QStringLiteral("3,4"));
         QCOMPARE(again(), QString());
         QCOMPARE(again(), QStringLiteral("3,4"));
         QTest::keyClick(desk.table(), Qt::Key_Escape);
         QCOMPARE(desk.editors(), QString());
         QCOMPARE(select(3, 2), QStringLiteral("3,2"));
-        // No design: the old editor goes, its place is remembered, and going back there counts as a
-        // second selection.
+        // The row has no design: the old editor is closed, but its cell is remembered, and
+        // returning to it counts as selecting it again.
         QCOMPARE(select(2, 2), QString());
         QCOMPARE(select(3, 2), QString());
         QCOMPARE(again(), QStringLiteral("3,2"));
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(desk.editors(), QString());
     }
 
-    /// Clicks go to the window, as the window system sends them.
+    /// Clicks go to the window, as the window system does it.
     void editorAwayFromTheCurrentCell()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
@@ -178,7 +178,7 @@ private Q_SLOTS:
         row("distances of a plane system, which it will lose", 10, 2, "hiuq", "not used");
     }
 
-    /// On OK, the rows have found another place meanwhile.
+    /// The rows were moved before OK.
     void recordDialogsWriteOnOkAlone()
     {
         QFETCH(int, kind);
@@ -231,7 +231,7 @@ private Q_SLOTS:
         QCOMPARE(groupsAfter("btnUp", 2), QStringLiteral("Remaining Groups|2|1|3|4"));
         QCOMPARE(table->currentIndex(), table->model()->index(1, 2));
         QCOMPARE(desk.editors(), QStringLiteral("1,2"));
-        desk.press("btnUp"); // nothing takes the place of the first row
+        desk.press("btnUp"); // the first row cannot be replaced
         for (int row : {1, 4, 0})
             QCOMPARE(groupsAfter("btnDown", row), QStringLiteral("Remaining Groups|1|2|3|4"));
         table->setCurrentItem(nullptr);
@@ -245,7 +245,7 @@ private Q_SLOTS:
         QCOMPARE(desk.editors(), QString());
         desk.press("btnNew");
         QCOMPARE(desk.row(3), QStringLiteral("None|No design|||"));
-        for (int row = 0; row < 4; ++row) // no text is cut
+        for (int row = 0; row < 4; ++row) // no text is cut off
             QVERIFY(table->rowHeight(row) >=
                     table->sizeHintForIndex(table->model()->index(row, 2)).height());
         desk.page->writeToZob();
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QTest::keyClick(desk.groupCombo(), Qt::Key_Up);
         QCOMPARE(entriesAt(2), QStringLiteral("None|Remaining Groups|*2"));
         QTest::keyClick(desk.groupCombo(), Qt::Key_Home);
-        QTest::keyClick(desk.groupCombo(), Qt::Key_End); // still an entry, but empty by now
+        QTest::keyClick(desk.groupCombo(), Qt::Key_End); // this entry is empty by now
         QCOMPARE(entriesAt(1), QStringLiteral("*None|Remaining Groups"));
         QCOMPARE(desk.groups(), QStringLiteral("4||None"));
     }
@@ -305,7 +305,7 @@ private Q_SLOTS:
         QApplication::activeWindow()->close();
     }
 
-    /// The mark is taken away with the last group that is shared. Delete clears the choice, in the
+    /// The mark disappears with the last shared group. Delete clears the selected groups, in the
     /// open list and on the buttons too, and deletes no row.
     void groupInTwoRows()
     {
@@ -324,7 +324,7 @@ private Q_SLOTS:
         QCOMPARE(notes(), QStringLiteral("|4, 5||2, 5|2, 4"));
         desk.table()->setCurrentCell(1, 0);
         QCOMPARE(desk.groupCombo()->toolTip(), QStringLiteral("Group 3: also in row 4, 5"));
-        QCOMPARE(desk.groupCombo()->parentWidget()->geometry(), // it has the sign, not the cell
+        QCOMPARE(desk.groupCombo()->parentWidget()->geometry(), // not in the cell itself
                  desk.table()->visualItemRect(desk.table()->item(1, 0)));
         desk.press("btnDown");
         QCOMPARE(notes(), QStringLiteral("||4, 5|3, 5|3, 4"));
@@ -344,7 +344,7 @@ private Q_SLOTS:
         QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|None|None|None"));
     }
 
-    /// What is chosen in the list of types is in the cell already, and counts without another key.
+    /// A choice in the list of types is in the cell at once and takes effect without another key.
     void openListOfTypes_data()
     {
         const Columns<bool> row("isDeleting");
@@ -373,7 +373,8 @@ private Q_SLOTS:
         QVERIFY(m_project->records().back().type != 0);
     }
 
-    /// As when a host closes the project by itself.
+    /// A page may be destroyed while its dialogs are open, for example by a host that closes the
+    /// project.
     void pageGoesBelowItsDialogs()
     {
         for (int column : {0, 1, 2}) {
@@ -382,7 +383,7 @@ private Q_SLOTS:
             desk->press("btnNew");
             desk->table()->setCurrentCell(1, column);
             whenModal([&desk](QWidget*) { desk.reset(); });
-            if (column == 1) // has no dialog; the page has its question
+            if (column == 1) // no dialog here; the page asks a question
                 QVERIFY(!desk->page->checkVals());
             else
                 desk->table()->viewport()->findChild<QPushButton*>()->click();
@@ -410,7 +411,7 @@ private Q_SLOTS:
         }
         VKD_H_ProjectDialogPage entries;
         desk.page->getEntrys(entries);
-        QVERIFY(desk.page->checkVals()); // rows without groups stay with the page
+        QVERIFY(desk.page->checkVals()); // the page saves rows without groups
     }
 
 private:

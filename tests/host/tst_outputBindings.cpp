@@ -22,7 +22,7 @@ QString commands(QSignalSpy& spy)
     return numbers.join(QLatin1Char(' '));
 }
 
-/// The rows of the first plot that binds to load cases.
+/// Returns the rows of the first plot that binds to load cases.
 QString rowsOfFirstPlot(Desk& desk)
 {
     QStringList texts;
@@ -34,7 +34,8 @@ QString rowsOfFirstPlot(Desk& desk)
 }
 } // namespace
 
-/// What a host binds to an output page: tables of load cases, switches of content, an animator.
+/// Tests the objects that a host binds to an output page: tables of load cases, switches of content
+/// tags, an animator.
 class tst_outputBindings : public QObject
 {
     Q_OBJECT
@@ -59,7 +60,7 @@ private Q_SLOTS:
         table.setHorizontalHeaderItem(2,
                                       new VKD_H_TwHeaderItem(2, text, text, true, Qt::AlignLeft));
         VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
-        binding.reset(); // not bound yet
+        binding.reset(); // no effect before binding
         binding.setWidgets(&desk.page, &table, 0, 1, 2);
         QSignalSpy rebuilt(desk.tree()->model(), &QAbstractItemModel::modelReset);
         const auto rows = [&desk] { return rowsOfFirstPlot(desk); };
@@ -88,8 +89,7 @@ private Q_SLOTS:
     {
         Desk desk(m_project);
         VKD_H_TableWidget table(0, 1);
-        // Cut towards zero the first two are the same, where the later counts; two are out of
-        // range.
+        // The first two are equal after truncation, so the later one counts; two are out of range.
         for (double number : {3.2, 3.9, 3e9, -3e9, 123456789.0, -0.5, -1.5}) {
             table.addNewRow(false);
             auto item =
@@ -120,13 +120,13 @@ private Q_SLOTS:
         QSignalSpy filled(desk.tree()->model(), &QAbstractItemModel::modelReset);
         group.getRadioButton(1)->click(); // adds the tag once more
         QVERIFY(filled.size() > 0);
-        group.getRadioButton(0)->click(); // takes all of them away
+        group.getRadioButton(0)->click(); // removes all of them
         QCOMPARE(plots(), before);
         {
             Desk gone(m_project);
             binding.setWidget(&gone.page, &group, QStringLiteral("Bric"), 1);
         }
-        binding.clicked(1); // of a page that is there no longer
+        binding.clicked(1); // of a page that no longer exists
     }
 
     void viewsAndTheAnimator()
@@ -143,10 +143,10 @@ private Q_SLOTS:
                                                          {2, "5"}, {4, "7"},   {3, "6 0"}};
             for (const auto& [view, expected] : steps) {
                 desk.choose("PerspectiveGroup", view);
-                QCOMPARE(commands(sent), QLatin1String(expected)); // the user's camera first
+                QCOMPARE(commands(sent), QLatin1String(expected)); // stores the user's camera first
                 QCOMPARE(animator->isEnabled(), view == 4);
             }
-            // The user's camera goes with the page's string.
+            // The page's string contains the user's camera.
             desk.choose("PerspectiveGroup", 4);
             QTest::keyClick(animator, Qt::Key_Left);
             const QString kept = desk.page.writeXMLstring();
@@ -157,11 +157,11 @@ private Q_SLOTS:
             desk.page.readXMLstring(kept);
             QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
             QCOMPARE(commands(sent), QStringLiteral("7"));
-            desk.page.readXMLstring(part("Scale", "0")); // without a camera
+            desk.page.readXMLstring(part("Scale", "0")); // contains no camera
             QCOMPARE(commands(sent), QStringLiteral("7"));
             QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
         }
-        QCOMPARE(animator->parentWidget(), &home); // and not gone with the page
+        QCOMPARE(animator->parentWidget(), &home); // not destroyed with the page
     }
 
     void firstShow()
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(sent.size(), 0);
         for (int times = 0; times < 2; ++times) {
             Q_EMIT dialog.currentChanged(container);
-            QCOMPARE(sent.size(), times); // posted, and once only
+            QCOMPARE(sent.size(), times); // posted, and only once
             QCoreApplication::processEvents();
             QCOMPARE(sent.size(), 1);
         }

@@ -19,7 +19,7 @@ private Q_SLOTS:
                                       .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         for (const QString& line : lines) // address, kind, name
             names << line.section(QLatin1Char(' '), 2);
-        names.removeDuplicates(); // of a constructor there are two
+        names.removeDuplicates(); // a constructor has two symbols
         names.sort();
         QCOMPARE(names.join(QLatin1Char('\n')),
                  QString::fromUtf8(testsupport::readFile(QStringLiteral(EXPORTS))).trimmed());

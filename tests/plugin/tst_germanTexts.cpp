@@ -93,8 +93,8 @@ private Q_SLOTS:
         QCOMPARE(missing.join('\n'), QByteArray());
     }
 
-    /// An entry of the group editor (dlgSelection) is recognised by its text in the context of the
-    /// page, which is also that of the text in the table.
+    /// The page recognises an entry of the group editor (dlgSelection) by its text in the context
+    /// of the page, which is also the context of the text in the table.
     void sameWordsWhereverTheyAreCompared()
     {
         for (const char* source : {"None", "Remaining Groups"}) {
@@ -123,7 +123,7 @@ private Q_SLOTS:
             QCOMPARE(translated(last), language ? QString::fromUtf8(last.source) : last.german);
         }
         QVERIFY(library.unload());
-        VKD_QT_InitTranslator::languageChanged(); // must not reach into what is gone
+        VKD_QT_InitTranslator::languageChanged(); // must not access unloaded code
         QCOMPARE(translated(all.last()), QString::fromUtf8(all.last().source));
     }
 };

@@ -13,7 +13,7 @@
 namespace {
 constexpr int LanguageKey = 102;
 
-/// What this program prints when it runs as a host of its own, see main().
+/// Returns the output of this program when it runs as a separate host, see main().
 QString host(const QStringList& arguments)
 {
     QProcess process;
@@ -43,7 +43,7 @@ private Q_SLOTS:
         }
     }
 
-    /// QtTest can write neither log.
+    /// QtTest cannot write either of these logs.
     void selfCheckWithLogsOfOtherPlaces()
     {
         const QTemporaryDir folder;
@@ -76,7 +76,7 @@ private Q_SLOTS:
                  QStringLiteral("Grafische Ausgabe\nGraphical Output\nGrafische Ausgabe"));
     }
 
-    /// Only what the resources hold counts, not what happens to lie on the disk.
+    /// Only the resources count, not files that happen to be on the disk.
     void languageForm()
     {
         const QTemporaryDir folder;
@@ -107,7 +107,7 @@ int selfCheckHost(QApplication& application)
 {
     const QStringList arguments = application.arguments();
     if (arguments[1].endsWith(QLatin1String("without-cache")))
-        QPixmapCache::setCacheLimit(0); // pixmaps of one file then differ: the check has to fail
+        QPixmapCache::setCacheLimit(0); // pixmaps of a file now differ, so the check must fail
     vkd_lib_setvalue(LanguageKey, arguments[2].toInt());
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
         if (qstrcmp(context.category, "vkd.selfcheck") == 0)

@@ -22,7 +22,7 @@ static QString summary(const tagZOB_QUAD_RIM& r)
 static plib::DesignParameterRow rowOf(int type, std::vector<int> groups)
 {
     plib::DesignParameterRow row;
-    row.record = plib::getDefaultMerPara(true); // in the stored form, as behind the store's writer
+    row.record = plib::getDefaultMerPara(true); // in the stored form, as after the store's writer
     row.record.type = type;
     row.groups = std::move(groups);
     return row;
@@ -76,7 +76,8 @@ private Q_SLOTS:
         QCOMPARE(row.record.rioq, 1.5708F);
         QCOMPARE(row.record.sigo, 0.0F);
         QCOMPARE(row.record.sigoq, 240.0F);
-        // Not -99999.0: the format has no place for them, and the reader fills nothing in.
+        // The values are not -99999.0: the format does not contain them, and the reader adds no
+        // defaults.
         for (float lost : {row.record.aso, row.record.asui, row.record.amo, row.record.reservedD,
                            row.record.reservedS, row.record.reservedM})
             QCOMPARE(lost, 0.0F);
@@ -91,7 +92,7 @@ private Q_SLOTS:
         plib::DesignParameterData data;
         data.rows = {rowOf(1, {4}), rowOf(2, {}), rowOf(3, {-1}), rowOf(4, {})};
         plib::writeRowsToEntries(data, page);
-        for (const char* old : {"MerPara3", "MerPara4"}) // of an earlier, longer list
+        for (const char* old : {"MerPara3", "MerPara4"}) // from an earlier, longer list
             QVERIFY(page.getEntry(QLatin1String(old), QString()).isNull());
 
         plib::DesignParameterData read;
@@ -120,7 +121,7 @@ private Q_SLOTS:
         plib::DesignParameterData data;
         plib::readRowsFromEntries(data, page);
         QCOMPARE(int(data.rows.size()), 1);
-        plib::writeRowsToEntries(data, page); // the empty one stops the clean-up too
+        plib::writeRowsToEntries(data, page); // the empty entry also ends the removal
         QVERIFY(!page.getEntry(QStringLiteral("MerPara3"), QString()).isNull());
     }
 };

@@ -86,7 +86,7 @@ private Q_SLOTS:
         QFETCH(Triple, stored);
         QFETCH(Triple, edited);
         QFETCH(Triple, storedAgain);
-        QVERIFY(0.045F - 0.035F != 0.01F); // the spacing of the defaults is this very number
+        QVERIFY(0.045F - 0.035F != 0.01F); // the default spacing is exactly this number
         R record{};
         const auto triples = [&record] {
             return std::make_pair(Triple{record.hio, record.hioq, record.hioi},
@@ -113,7 +113,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What becomes of these values in a field.
+    /// The results of cleaning these values in each field.
     void cleaning()
     {
         const float values[] = {0.0F, -0.0F, -1e-30F, AlsoUnset, 0.5F, NAN, INFINITY};
@@ -130,7 +130,7 @@ private Q_SLOTS:
             return states;
         };
         for (int offset = 20; offset < int(sizeof(R)); offset += 4) {
-            const char* expected = "..xx..."; // minus zero is not below zero
+            const char* expected = "..xx..."; // minus zero is not negative
             if (offset < 56)                  // directions and reference
                 expected = ".......";
             else if (offset == 80) // the first diameter
@@ -159,7 +159,7 @@ private Q_SLOTS:
             if (plib::recordsEqual(record, other))
                 ignored << offset;
         }
-        // group, subId, reservedD and reservedS; but not mark, though 0 and 11 are both ours
+        // group, subId, reservedD and reservedS, but not mark, although both 0 and 11 are valid
         QCOMPARE(ignored, QList<int>({0, 4, 104, 132}));
         R nan = record;
         nan.wko = NAN;

@@ -18,7 +18,7 @@ static R record(int group, float rio)
     return r;
 }
 
-/// Groups and the direction that tells the parameters apart, "1,2:0.5 3:7".
+/// Returns the groups and the direction that distinguishes the parameters, such as "1,2:0.5 3:7".
 static QString text(const plib::DesignParameterData& data)
 {
     QStringList rows;
@@ -34,7 +34,7 @@ static QString text(const plib::DesignParameterData& data)
 
 using Records = QVector<QPair<int, float>>;
 
-/// Records in a real project file, read as rows and written back.
+/// Tests records in a project file that are read as rows and written back.
 class TestDesignStore : public QObject
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(rows.rows[0].record.hioq, 0.045F - 0.035F);
         const int none = 0;
         vkd_zob_put(m_project->index(), 200, 6, nullptr, &none, 0);
-        plib::checkAndCreateZobDefault(m_project->index()); // emptied answers as never written
+        plib::checkAndCreateZobDefault(m_project->index()); // it was emptied
         QCOMPARE(text(read()), QStringLiteral("-1:0"));
     }
 
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(text(read()), rows);
         auto twice = read();
         const size_t count = twice.rows.size();
-        plib::readRowsFromZob(twice); // appends, removes nothing
+        plib::readRowsFromZob(twice); // appends and removes nothing
         QCOMPARE(twice.rows.size(), 2 * count);
     }
 
@@ -98,11 +98,11 @@ private Q_SLOTS:
         first.wko = 0.3F;
         put(first);
         put(record(2, 2), 60);  // ends behind hio
-        put(record(3, 3), 216); // is cut
+        put(record(3, 3), 216); // is cut off
         auto rows = read();
         QCOMPARE(text(rows), QStringLiteral("1:1 2:2 3:3"));
         QCOMPARE(rows.rows[1].record.wko, 0.3F);
-        // What stood there is the spacing of the first record, and it is turned into one once more.
+        // The bytes of the previous record remain: its spacing, which is converted once more.
         QCOMPARE(rows.rows[1].record.hioq, -99999.0F);
         QCOMPARE(rows.rows[2].record.hioq, 0.045F - 0.035F);
     }
@@ -148,12 +148,12 @@ private Q_SLOTS:
         bool converted = false;
         plib::writeRowsToZob(rows, converted);
         QVERIFY(converted);
-        QCOMPARE(rows.rows[0].record.hioq, 0.045F); // and stays in the stored form
+        QCOMPARE(rows.rows[0].record.hioq, 0.045F); // stays in the stored form
         plib::writeRowsToZob(rows, converted);
         QCOMPARE(read().rows[0].record.hioq, 0.045F - 0.035F);
     }
 
-    /// Whoever reads sees all of a writer's rows or none: the project is taken once for all puts.
+    /// A reader sees all rows of a writer or none: the project is taken once for all puts.
     void writingTakesTheProject()
     {
         put(record(1, 1));
@@ -177,7 +177,7 @@ private Q_SLOTS:
         put(foreign);
         auto rows = read();
         write(rows);
-        QCOMPARE(stored(), QStringLiteral("1:1")); // the other one is gone, on purpose
+        QCOMPARE(stored(), QStringLiteral("1:1")); // the other record is removed on purpose
         QCOMPARE(stored(0, 0, 12979), QStringLiteral("8:8"));
         write(rows);
         QCOMPARE(stored(0, 0, 12979), QString());
@@ -186,7 +186,7 @@ private Q_SLOTS:
     void newRows()
     {
         auto rows = data();
-        for (int kind : {0, 12, -99999}) { // the last one: not known yet
+        for (int kind : {0, 12, -99999}) { // the last one means that the kind is not known yet
             rows.kindOfSystem = kind;
             plib::addDefaultRow(rows);
         }
@@ -227,7 +227,7 @@ private:
         plib::writeRowsToZob(rows, converted);
     }
 
-    /// What a key pair holds, ours by default.
+    /// Returns the records of a key pair, by default the design records.
     QString stored() { return stored(m_project->index(), 200, 6); }
     QString stored(int index, int key1, int key2)
     {

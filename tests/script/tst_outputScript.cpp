@@ -150,7 +150,7 @@ private Q_SLOTS:
         row(0, true, "EG3 at the very beginning, EG3", "EG3 at the very beginning, EG3");
     }
 
-    /// The line is the name of the row.
+    /// The name of the data row is the line.
     void views()
     {
         QFETCH(int, viewId);
@@ -206,7 +206,7 @@ private Q_SLOTS:
     void font()
     {
         const std::pair<const char*, const char*> sizes[] = {{"2", "0.2"},
-                                                             {"2,5", "0"}, // a comma is no number
+                                                             {"2,5", "0"}, // not a number
                                                              {"", "0"},
                                                              {"12.3456789", "1.23457"},
                                                              {"1e8", "1e+07"}};
@@ -230,7 +230,7 @@ private Q_SLOTS:
 
     void split_data()
     {
-        // scale: -1 is to fit
+        // scale: -1 means scale to fit
         const Columns<int, int, bool, QString, QString> columns("id", "scale", "english",
                                                                 "additional", "expected");
         const auto row = [&columns](int id, int scale, bool english, const char* additional,

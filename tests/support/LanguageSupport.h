@@ -10,7 +10,7 @@ namespace testsupport {
 constexpr int German = 0;
 constexpr int English = 1;
 
-/// Changes the desktop's language while the program runs; widgets have learnt of it afterwards.
+/// Changes the desktop's language while the program runs; notifies the widgets before it returns.
 inline void setLanguage(int language)
 {
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);

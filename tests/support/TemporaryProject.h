@@ -7,7 +7,7 @@
 
 namespace testsupport {
 
-/// A project file in a folder of its own, open.
+/// An open project file in a folder of its own.
 class TemporaryProject
 {
 public:
@@ -21,7 +21,7 @@ public:
     int index() const { return doc->index(); }
 
 private:
-    QTemporaryDir m_folder; // goes after the document
+    QTemporaryDir m_folder; // destroyed after the document
 
 public:
     std::unique_ptr<VKD_H_ZOBDoc> doc;

@@ -6,8 +6,8 @@
 namespace testsupport {
 
 namespace {
-/// The warnings in a log of QtTest. Those that QTest::ignoreMessage() announced are not in it, and
-/// those of the offscreen plug-in about itself do not count.
+/// Returns the warnings in a log of QtTest. Those announced by QTest::ignoreMessage() are not in
+/// the log, and warnings of the offscreen plug-in about itself are left out.
 QList<QByteArray> unexpectedWarnings(const QByteArray& log)
 {
     QList<QByteArray> found;
@@ -27,7 +27,7 @@ int run(QObject* test, int argc, char* argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
-    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0"); // none is to be lost
+    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0"); // no warning may be dropped
     arguments << QStringLiteral("-o") << QStringLiteral("-,txt") << QStringLiteral("-o")
               << log + QLatin1String(",txt");
     const int failed = QTest::qExec(test, arguments);

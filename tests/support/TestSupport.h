@@ -5,13 +5,14 @@
 
 #include <functional>
 
-/// Makes every warning that a test did not announce by QTest::ignoreMessage() a failure of the test
-/// program. Use PLIB_TEST_MAIN in place of QTEST_GUILESS_MAIN, and WidgetTestSupport.h for widgets.
+/// Turns every warning that a test did not announce by QTest::ignoreMessage() into a failure of the
+/// test program. Use PLIB_TEST_MAIN instead of QTEST_GUILESS_MAIN, and WidgetTestSupport.h for
+/// widgets.
 namespace testsupport {
 
 int run(QObject* test, int argc, char* argv[]);
 
-/// Writes or reads a whole file or ends the process; for files that a test makes for itself.
+/// Write or read a whole file, or end the process; for files that a test creates.
 void writeFile(const QString& path, const QByteArray& bytes);
 QByteArray readFile(const QString& path);
 
@@ -29,11 +30,11 @@ struct Text : QString
     }
 };
 
-/// Fails unless the function makes the result of each text in `cases`, a line "text => result"
-/// each.
+/// Compares the results of the function for the texts in `cases`, which has lines of the form "text
+/// => result".
 void compareCases(const std::function<QString(const QString&)>& function, const char* cases);
 
-/// The columns of a data function by name; called, it adds a row with its name and its values.
+/// The columns of a data function by name; a call adds a row with its name and its values.
 template <typename... Values>
 class Columns
 {

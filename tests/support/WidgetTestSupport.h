@@ -14,7 +14,7 @@
 namespace testsupport {
 
 /// Calls `act` with the modal dialog or box that opens next. Call it before the step that opens
-/// one; nothing happens if that opens none within five seconds.
+/// one. If none opens within five seconds, nothing happens.
 inline void whenModal(const std::function<void(QWidget*)>& act)
 {
     const QPointer<QWidget> before = QApplication::activeModalWidget();
@@ -42,12 +42,12 @@ Widget* find(const QWidget& window, const char* name)
     return found;
 }
 
-/// Names a file in a file dialog.
+/// Enters a file name in a file dialog.
 inline void enterFile(QWidget* dialog, const QString& path)
 {
     auto name = find<QLineEdit>(*dialog, "fileNameEdit");
     QApplication::setActiveWindow(dialog);
-    name->setFocus(); // else what is selected in the list counts, and not the text
+    name->setFocus(); // otherwise the selection in the list counts, and not the text
     name->setText(path);
     QTest::keyClick(name, Qt::Key_Return);
 }
@@ -59,7 +59,7 @@ inline void trigger(const QWidget& window, const char* action)
 
 } // namespace testsupport
 
-/// As PLIB_TEST_MAIN, for tests of widgets. Widgets that a test leaves behind are failures.
+/// Like PLIB_TEST_MAIN, for tests of widgets. A test fails if it leaves widgets behind.
 #define PLIB_WIDGET_TEST_MAIN(TestClass)                                                       \
     int main(int argc, char* argv[])                                                           \
     {                                                                                          \

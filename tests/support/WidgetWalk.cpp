@@ -30,8 +30,8 @@
 namespace testsupport {
 
 namespace {
-/// Whether the widget is a part of a control that the user knows as one. The tabs of docks are the
-/// docks' titles, and Qt names their bar by the one in front.
+/// Returns whether the widget is an internal part of a control. The tabs of docks are the titles of
+/// the docks, and Qt names their tab bar by the current one.
 bool isInner(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();
@@ -42,7 +42,7 @@ bool isInner(const QWidget* widget)
 
 QString spokenText(const QWidget* widget, QAccessible::Text part)
 {
-    // Qt names a field of choices by what is chosen.
+    // Qt names a combo box by its current text.
     if (part == QAccessible::Name && qobject_cast<const QComboBox*>(widget) &&
         !widget->accessibleName().isEmpty())
         return widget->accessibleName();
@@ -50,7 +50,7 @@ QString spokenText(const QWidget* widget, QAccessible::Text part)
     return face ? face->text(part) : QString();
 }
 
-/// The title of the box around the widget, which is read out with its name.
+/// Returns the title of the group box around the widget, which screen readers add to its name.
 QString boxTitle(const QWidget* widget)
 {
     do
@@ -59,7 +59,8 @@ QString boxTitle(const QWidget* widget)
     return widget ? static_cast<const QGroupBox*>(widget)->title() : QString();
 }
 
-/// Whether the eye comes to `first` no later than to `second`, which is in the same parent.
+/// Returns whether `first` precedes `second`, which has the same parent, or is beside it in reading
+/// order.
 bool isInReadingOrder(const QRect& first, const QRect& second)
 {
     const int shared = qMin(first.bottom(), second.bottom()) - qMax(first.top(), second.top());
@@ -75,7 +76,8 @@ int widest(const QFontMetrics& metrics, const QStringList& texts)
     return width;
 }
 
-/// The size without which a text of the widget is cut; empty for widgets without texts.
+/// Returns the minimum size at which no text of the widget is cut off; empty for widgets without
+/// texts.
 QSize needed(const QWidget* widget)
 {
     const QFontMetrics metrics = widget->fontMetrics();
@@ -102,7 +104,7 @@ QSize needed(const QWidget* widget)
     return {};
 }
 
-/// The room that a field of choices or of text leaves to it.
+/// Returns the width that a combo box or a line edit has for its text.
 int textRoom(const QWidget* field)
 {
     const QStyle* style = field->style();
@@ -122,7 +124,7 @@ int textRoom(const QWidget* field)
     return width;
 }
 
-/// What is chosen and typed in a window.
+/// Returns the selected and typed values in a window.
 QStringList choices(QWidget& window)
 {
     QStringList all;
@@ -169,14 +171,14 @@ public:
         }
     }
 
-    /// With the focus, which some widgets take for leave to change.
+    /// Sets the focus first, because some widgets handle the wheel only with the focus.
     void lookForWheel()
     {
         const QPointer<QWidget> focused = m_window.focusWidget();
         for (QWidget* widget : visibleWidgets(m_window)) {
             if (widget->focusPolicy() & Qt::TabFocus)
                 widget->setFocus();
-            const QStringList before = choices(m_window); // leaving a field rewrites its number
+            const QStringList before = choices(m_window); // leaving a field reformats its number
             for (int angle : {120, -120}) {
                 turnWheel(widget, angle);
                 if (choices(m_window) != before)
@@ -265,7 +267,7 @@ void Walk::lookForCuts(QWidget* widget)
         note(widget, QStringLiteral("cuts its text: %1 in %2").arg(width).arg(textRoom(widget)));
 }
 
-/// Only what scrolls may stand out of the widget around it.
+/// A widget may extend beyond its parent only if it is scrolled.
 void Walk::lookForPlace(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();
@@ -287,10 +289,10 @@ void Walk::lookAtHeader(const QHeaderView* header)
             note(header->parentWidget(), QStringLiteral("cuts the header %1").arg(section));
 }
 
-/// A widget that holds others is one stop of its own parent, and Tab enters it once.
+/// A widget with children is one stop in the tab order of its parent, and Tab enters it once.
 void Walk::lookForOrder()
 {
-    QMap<const QWidget*, QVector<const QWidget*>> visited; // of each parent, in the order of Tab
+    QMap<const QWidget*, QVector<const QWidget*>> visited; // by parent, in tab order
     for (const QWidget* stop = m_window.nextInFocusChain(); stop != &m_window;
          stop = stop->nextInFocusChain())
         if (m_window.isAncestorOf(stop) && isInView(stop, m_window) &&

@@ -24,7 +24,7 @@
 namespace testsupport {
 
 namespace {
-/// Tool tips may be rich texts.
+/// Tool tips may be rich text.
 QString plain(const QString& text)
 {
     return QTextDocumentFragment::fromHtml(text).toPlainText();
@@ -58,7 +58,7 @@ void addMenu(QSet<QString>& found, const QList<QAction*>& actions)
     }
 }
 
-/// Docks behind another one in its tabs are visible to Qt, but stand beside the window.
+/// Qt reports docks in a tab that is not current as visible, but they are outside the window.
 bool isBehindTab(const QWidget* widget, const QWidget& window)
 {
     const auto dock = qobject_cast<const QDockWidget*>(widget);
@@ -84,7 +84,7 @@ QStringList entriesOf(const QComboBox* combo)
     return entries;
 }
 
-/// Layouts of texts that break need a few rounds.
+/// Layouts of word-wrapped texts need a few passes.
 void settle()
 {
     for (int round = 0; round < 4; ++round)

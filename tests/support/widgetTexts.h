@@ -7,22 +7,23 @@
 
 namespace testsupport {
 
-/// Whether it can be seen in the window, and not in another one nor behind the tab of a dock.
+/// Returns whether the widget is visible in this window, and not in another one or on a dock tab
+/// that is not current.
 bool isInView(const QWidget* widget, const QWidget& window);
 
-/// The window and all in it that is in view.
+/// Returns the window and all visible widgets in it.
 QList<QWidget*> visibleWidgets(QWidget& window);
 
-/// Runs `act` for each tab of the window in front, once without tabs.
+/// Calls `act` for each tab of the active window, or once if it has no tabs.
 void forEachTab(QWidget& window, const std::function<void()>& act);
 
-/// Whether a widget stands over a cell, whose width it has to do with.
+/// Returns whether a widget is placed over a cell, which determines its width.
 bool isInCell(const QWidget* widget);
 
-/// What the widget itself writes on the screen.
+/// Returns the texts that the widget itself paints.
 QStringList textsOf(const QWidget* widget);
 
-/// Those of the texts whose mnemonics Alt reaches in the window.
+/// Returns the texts whose mnemonics work with Alt in the window.
 QStringList mnemonicTextsOf(const QWidget* widget);
 
 } // namespace testsupport

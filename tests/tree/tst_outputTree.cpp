@@ -67,7 +67,7 @@ private Q_SLOTS:
                          .arg(item->isLC)
                          .arg(item->number)
                          .arg(item->record.scriptEnglish);
-        // The rows hold the record of the plot, not of the line behind it.
+        // The rows have the record of the plot, not that of the next line.
         QCOMPARE(items, QStringLiteral("level 0, isLC -1, number 0, e1\n"
                                        "level 2, isLC -1, number 0, e1\n"
                                        "level 3, isLC 3, number 9, e1\n"
@@ -82,7 +82,7 @@ private Q_SLOTS:
         records[0].scriptEnglish.clear();
         OutputNode root;
         testsupport::build(&root, records, testsupport::rows(1));
-        // The first plot is gone, so the second record makes one of its own.
+        // The first plot was removed, so the second record creates a new one.
         QCOMPARE(testsupport::treeText(&root), QStringLiteral("[ ] A\n  [ ] B\n    [ ] C\n"
                                                               "      [ ] 1 : a\n"));
         OutputNode other;

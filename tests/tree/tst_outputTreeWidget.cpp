@@ -26,8 +26,8 @@ using Tree = GraphicalOutputTreeWidget;
 namespace {
 constexpr int StandardPage = 1;
 
-/// From now on no file can be opened, whoever runs the test, until a text is asked for: that is
-/// when the failure gets reported, and boxes and sanitizers need files.
+/// Prevents all files from being opened, even for a privileged user, until a text is translated:
+/// then the failure is being reported, and message boxes and sanitizers need files.
 class NoMoreFiles : public QTranslator
 {
 public:
@@ -51,7 +51,8 @@ private:
     rlimit m_before{};
 };
 
-/// The roles that hosts read, from level to load case; a role that is not set is "-".
+/// Returns the roles that hosts read, from level to load case; "-" stands for a role that is not
+/// set.
 QString roles(const QTreeWidgetItem* item)
 {
     using namespace vkd::plib::widgetgraphicaloutput;
@@ -66,7 +67,7 @@ QString roles(const QTreeWidgetItem* item)
     return texts.join(QLatin1Char('|'));
 }
 
-/// Which of the tree's pictures it is; none has no name.
+/// Returns the name of an icon of the tree; a null icon has no name.
 QString iconName(const QIcon& icon)
 {
     const std::pair<const char*, QIcon> all[] = {{"plot", plib::plotIcon()},
@@ -93,11 +94,11 @@ private Q_SLOTS:
         plib::sharedCatalogue() = {};
     }
 
-    /// In both languages of the desktop, by which the rows have their icons.
+    /// In both languages of the desktop, which determine the icons of the rows.
     void shippedCatalogue()
     {
         useBuilding();
-        m_texts.reset(); // out of the way of the shipped texts
+        m_texts.reset(); // the shipped texts would take precedence
         qunsetenv("VKD_SHARE");
         for (int language : {0, 1}) {
             plib::sharedCatalogue() = {};
@@ -129,7 +130,7 @@ private Q_SLOTS:
         const QString states = treeText(tree.invisibleRootItem());
 
         QStringList texts;
-        /// Picks an entry by its place among those that are no separators.
+        /// Triggers the entry at this position, not counting separators.
         const auto choose = [&](int entry) {
             QTimer::singleShot(0, &tree, [&texts, entry] {
                 auto shown = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -163,7 +164,8 @@ private Q_SLOTS:
         QCOMPARE(treeText(tree.invisibleRootItem()), states);
     }
 
-    /// The choice of the user falls back to the default until one was applied, and with new rows.
+    /// The user's choice is replaced by the default until a choice was applied, and when the rows
+    /// change.
     void whatARebuildKeeps()
     {
         useCatalogue(line("A|B|C", "last-l", 1) + line("A|B|D", " ").replace("| |0|", "|Quad|0|"));
@@ -184,15 +186,15 @@ private Q_SLOTS:
         tree.applySelection(QString());
         QCOMPARE(states(), byDefault);
         tree.topLevelItem(0)->setCheckState(0, Qt::Checked);
-        tree.setUsedNumbersAndNames(testsupport::rows(2)); // the same: nothing to do
+        tree.setUsedNumbersAndNames(testsupport::rows(2)); // the same rows: nothing changes
         QCOMPARE(states(), QStringLiteral("xxxxx"));
         filled.clear();
         for (int i = 0; i < 2; ++i)
             tree.additionalData(QStringLiteral("Quad"), true);
-        QCOMPARE(states(), QStringLiteral("xxxxxx")); // its plot comes with its caption's state
+        QCOMPARE(states(), QStringLiteral("xxxxxx")); // its plot takes the state of the caption
         tree.additionalData(QStringLiteral("quad"), false);
         QCOMPARE(tree.topLevelItem(0)->child(0)->childCount(), 2);
-        tree.additionalData(QStringLiteral("Quad"), false); // both of them
+        tree.additionalData(QStringLiteral("Quad"), false); // removes both additions
         QCOMPARE(states(), QStringLiteral("xxxxx"));
         QCOMPARE(filled.size(), 4);
         tree.setUsedNumbersAndNames(testsupport::rows(1));
@@ -251,7 +253,7 @@ private Q_SLOTS:
                                    .replace(QLatin1String("Base one"), QLatin1String("Grund eins"))
                                    .replace(QLatin1String("Base"), QLatin1String("Grund"));
         vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0);
-        tree.rebuild(true); // the catalogue keeps its captions
+        tree.rebuild(true); // the catalogue's captions do not change
         QCOMPARE(texts(), english);
         const QString choice = tree.selectionText();
         QEvent change(QEvent::LanguageChange);

@@ -6,7 +6,8 @@
 using plib::OutputNode;
 using testsupport::line;
 
-/// Two plots with identifiers and three rows each, and two with plain captions.
+/// Returns a tree of two plots with identifiers and three rows each, and two plots with plain
+/// captions.
 static QByteArray catalogue()
 {
     return line("@A__ A|@B__ B|@C__ C", "last-l") + line("@A__ A|@B__ B|@D__ D", "last-l") +
@@ -18,7 +19,7 @@ static void makeTree(OutputNode* root)
     testsupport::build(root, testsupport::parse(catalogue()), testsupport::rows(3));
 }
 
-/// The states of all items from top to bottom as one word.
+/// Returns the states of all items from top to bottom as one word.
 static QString states(const OutputNode* parent)
 {
     QString word;
@@ -56,7 +57,7 @@ private Q_SLOTS:
         OutputNode fresh;
         makeTree(&fresh);
         plib::applySelection(&fresh, text);
-        // Plain captions share an identifier, so that the last line meets the last plot alone.
+        // Plain captions share an identifier, so the last line applies to the last plot only.
         QCOMPARE(states(&fresh), states(&root));
         QCOMPARE(plib::selectionText(&fresh), text);
     }
@@ -114,12 +115,12 @@ private Q_SLOTS:
         OutputNode root;
         root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
         root.child(0)->setCheckState(0,
-                                     Qt::PartiallyChecked); // would be touched by a careless loop
+                                     Qt::PartiallyChecked); // a careless loop would change it
         plib::applySelection(&root, QStringLiteral("Checked:001"));
         QCOMPARE(root.child(0)->checkState(0), Qt::PartiallyChecked);
         QCOMPARE(plib::selectionText(&root), QStringLiteral("\n"));
 
-        OutputNode leaves; // states and levels that no tree of ours has
+        OutputNode leaves; // states and levels that the library's trees do not have
         OutputNode* row = leaves.addChild(QString());
         row->record.id1 = QStringLiteral("   @ROW");
         row->number = 5;

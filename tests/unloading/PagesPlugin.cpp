@@ -1,4 +1,5 @@
-// A plug-in of a desktop: it shows what the library has, for unloadingHost.cpp to unload it.
+// A plug-in of a desktop: it uses all parts of the library, so that unloadingHost.cpp can unload
+// it.
 
 #include <VKD_H_Dialog.h>
 #include <VKD_H_PluginParameter.h>
@@ -18,11 +19,11 @@
 #include <memory>
 
 namespace {
-/// Documents that nobody closes before this library is destroyed, or the process ends.
+/// Documents that are not closed before this library is destroyed or the process ends.
 QTemporaryDir folder;
 std::unique_ptr<VKD_H_ZOBDoc> keptDocument;
 
-/// Shows all of a dialog, and gives the texts of the items in it.
+/// Shows a whole dialog and returns the texts of its items.
 QStringList paint(QWidget& dialog)
 {
     dialog.resize(1000, 2000);
@@ -51,7 +52,7 @@ QStringList showDesign()
     (new QVBoxLayout(&dialog))->addWidget(&page);
     page.init();
     page.readZob();
-    page.showHelp(); // in a window that closes with the dialog
+    page.showHelp(); // its window closes with the dialog
     return paint(dialog);
 }
 
@@ -78,7 +79,7 @@ QStringList showRadioGroup()
     return paint(window) << group.writeXML();
 }
 
-/// The help stays open, since no window of this library is its host.
+/// The help stays open, because its host is not a window of this library.
 QStringList showHelp()
 {
     const bool shown = VKD_T_Help::show(nullptr, "MERDAN", "PARA");
@@ -98,7 +99,7 @@ QStringList checkItself()
 }
 } // namespace
 
-/// Shows or does one thing and hands texts of it to the host; none is a failure.
+/// Shows or does one thing and passes its texts to the host; no text means a failure.
 extern "C" Q_DECL_EXPORT void show(const char* what, QStringList* texts)
 {
     const std::pair<const char*, QStringList (*)()> all[] = {
@@ -110,7 +111,7 @@ extern "C" Q_DECL_EXPORT void show(const char* what, QStringList* texts)
             *texts << act();
 }
 
-/// A document that the host keeps in an object older than the store.
+/// Opens a document that the host stores in an object older than the store.
 extern "C" Q_DECL_EXPORT void openForHost(const char*, std::shared_ptr<void>* holder)
 {
     *holder = VKD_H_ZOBDoc::create(folder.filePath(QStringLiteral("host.zob")));

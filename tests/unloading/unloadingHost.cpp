@@ -1,6 +1,6 @@
-// A desktop that knows the library by a plug-in alone, which it unloads and loads again:
-// unloadingHost PLUGIN WHAT. It links Qt and nothing else, so that what stays loaded does so by
-// itself. A crash, also in the end of the process, is a failure.
+// A desktop that uses the library only through a plug-in, which it unloads and loads again:
+// unloadingHost PLUGIN WHAT. It links only Qt, so that it does not keep other libraries loaded. A
+// crash is a failure, even at the end of the process.
 
 #include <QApplication>
 #include <QFile>
@@ -12,7 +12,7 @@
 #include <memory>
 
 namespace {
-std::shared_ptr<void> document; // older than all that the plug-in brings along
+std::shared_ptr<void> document; // older than all objects of the plug-in
 
 void require(bool condition, const QString& what)
 {
@@ -22,7 +22,7 @@ void require(bool condition, const QString& what)
     std::_Exit(1);
 }
 
-/// The suite's libraries that are mapped, by name.
+/// Returns the names of the suite's libraries that are loaded.
 QString mapped()
 {
     QFile maps(QStringLiteral("/proc/self/maps"));
@@ -36,8 +36,8 @@ QString mapped()
     return names.join(QLatin1Char(' '));
 }
 
-/// What Qt does by itself with what it was given: it paints with icons, asks for texts, sends
-/// events, and makes and destroys values of all types.
+/// Does what Qt may do with objects that it received: it paints icons, translates texts, sends
+/// events, and creates and destroys values of all types.
 void useApplication()
 {
     QTreeWidget tree;
@@ -61,7 +61,7 @@ void call(QLibrary& library, const char* function, const QByteArray& what, Resul
     reinterpret_cast<Function>(library.resolve(function))(what, result);
 }
 
-/// The texts that the plug-in has given are the host's.
+/// The texts returned by the plug-in stay valid.
 QStringList showAndUnload(const QString& path, const QByteArray& what)
 {
     QLibrary library(path);
@@ -77,8 +77,8 @@ QStringList showAndUnload(const QString& path, const QByteArray& what)
     return texts;
 }
 
-/// Documents that are open when the process ends, with the plug-in loaded: one of the host, in an
-/// object that is older than all the plug-in brings along, and one of the plug-in.
+/// Leaves documents open at the end of the process, with the plug-in loaded: one of the host, in an
+/// object older than all objects of the plug-in, and one of the plug-in.
 void keepDocuments(const QString& path)
 {
     QLibrary library(path);
@@ -98,7 +98,7 @@ int main(int argc, char* argv[])
         useApplication();
         const QStringList texts = showAndUnload(plugin, what);
         require(!texts.join(QString()).isEmpty(), QStringLiteral("nothing shown"));
-        if (turn == 0) // else the end of the application finds what was painted last
+        if (turn == 0) // clears the style's cache of the last painted item
             useApplication();
         showAndUnload(plugin, what);
     }

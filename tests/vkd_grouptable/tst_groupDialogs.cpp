@@ -231,8 +231,8 @@ private Q_SLOTS:
             QCOMPARE(driver.labelText("count"),
                      QStringLiteral("3 of 6 groups checked, 1 without area elements"));
             driver.select({QStringLiteral("2")});
-            QTest::keyClick(driver.view(), Qt::Key_Space); // from here on, the list determines the result
-            driver.press("check");                         // parts that cannot be read are still in the field
+            QTest::keyClick(driver.view(), Qt::Key_Space); // now only the list counts
+            driver.press("check");                         // keeps the unreadable parts
             QCOMPARE(driver.find<QLineEdit>("input")->text(), QStringLiteral("x<b> 8"));
             driver.enter("groups");
             QVERIFY(driver.view()->isVisible()); // OK would lose the parts that it cannot read

@@ -87,7 +87,7 @@ private Q_SLOTS:
             QVERIFY2(reader(code)(text) == wanted, qPrintable(text.left(20)));
     }
 
-    /// Returns a description like those that callers modify.
+    /// Reads texts with a description that the caller filled in.
     void description()
     {
         const QString comma(QLatin1Char(',')), dash(QLatin1Char('-'));

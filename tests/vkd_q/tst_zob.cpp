@@ -121,7 +121,7 @@ private Q_SLOTS:
     void readingPassSeesOneState()
     {
         put(m_first, 1, 2, "inner", 0);
-        for (bool innerPass : {false, true}) { // a pass over other records within the pass, until it is released
+        for (bool innerPass : {false, true}) { // a pass over other records in between
             put(m_second, 1, 1, "old 0", 0);
             QCOMPARE(readOne(0), QByteArray("old 0"));
             if (innerPass)
@@ -265,7 +265,7 @@ private Q_SLOTS:
         QCOMPARE(put(m_first, 1, 1, "first", 1), VKD_ZOB_OK);
         vkd_lib_setvalue(201, 120);
         int length = 0;
-        vkd_zob_get(m_second, 1, 1, nullptr, &length, 0); // never released, but does not cause a failure
+        vkd_zob_get(m_second, 1, 1, nullptr, &length, 0); // not released; this is harmless
         QElapsedTimer waited;
         waited.start();
         QCOMPARE(m_log->once(vkd_zob_lock_ex(m_second, 1, 2)), VKD_ZOB_LOCKED);

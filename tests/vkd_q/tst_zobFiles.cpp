@@ -202,7 +202,7 @@ private Q_SLOTS:
             const int index = openProject(m_path);
             if (!isWritable) {
                 QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
-                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has logged the reason
+                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has logged why
                 vkd_zob_free_ex(index, 1, 1);
                 QCOMPARE(vkd_zob_change_status(index).code, VKD_ZOB_READ_ONLY);
                 QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);

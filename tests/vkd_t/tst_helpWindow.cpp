@@ -99,7 +99,7 @@ private Q_SLOTS:
         QVERIFY(!inHelp<QAction>("back")->isEnabled());
         key(Qt::Key_Right, Qt::AltModifier);
         QCOMPARE(title(), QStringLiteral("Types of Design"));
-        QTest::keyPress(helpWindows().at(0)->windowHandle(), Qt::Key_Escape); // without a release event
+        QTest::keyPress(helpWindows().at(0)->windowHandle(), Qt::Key_Escape); // not released
         QVERIFY(helpWindows().isEmpty());
     }
 
@@ -164,7 +164,7 @@ private Q_SLOTS:
         key(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(title(), QStringLiteral("Bemessungsparameter"));
 
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // read with the next call, without a notification
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // read by the next call only
         QVERIFY(show(nullptr, "PARA"));
         QVERIFY(helpPage()->toPlainText().startsWith(QStringLiteral("Design Parameters")));
     }
