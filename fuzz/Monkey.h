@@ -12,32 +12,32 @@ class QFileDialog;
 
 namespace testsupport {
 
-/// Operates the windows of a program at random, but in the same way for the same seed: with the
-/// mouse and its wheel, keys, texts, menus, dropped files and window sizes. A dialog or a menu that
-/// blocks the caller is operated until it is closed; a file dialog only gets the names of the
-/// monkey's files. The seed is printed; if PLIB_MONKEY_LOG is set, each step is printed, too. A
-/// step that hangs ends the process.
+/// Uses the windows of a program at random: clicks, turns the wheel, presses keys, types, opens
+/// menus, drops files and resizes windows. The same seed gives the same steps. If a step opens a
+/// dialog or menu that blocks the caller, the monkey uses it until it is closed. In file dialogs it
+/// enters only its own files. Prints the seed, and each step if PLIB_MONKEY_LOG is set. A step that
+/// hangs ends the process.
 class Monkey : public QObject
 {
 public:
-    /// One round of a test, as stored in a row of data.
+    /// The number of steps of one round, which is one row of test data.
     static constexpr int StepsInARound = 500;
-    /// Creates the rounds of a test: a column "seed" with a row for each round of this many steps,
-    /// or of the number in the environment variable PLIB_MONKEY_STEPS. PLIB_MONKEY_SEED is the
-    /// first seed.
+    /// Adds the rounds of a test as rows with a column "seed". `steps` is the number of steps of
+    /// all rounds; the environment variable PLIB_MONKEY_STEPS overrides it, and PLIB_MONKEY_SEED
+    /// sets the first seed.
     static void addRounds(int steps);
 
-    /// `files` are the paths for file dialogs and for dropping.
+    /// `files` are the paths that the monkey enters in file dialogs and drops on windows.
     explicit Monkey(int seed, const QStringList& files = {});
     ~Monkey() override;
 
-    /// Takes a step in a window that is not blocked.
+    /// Performs one step in a window that no modal dialog blocks.
     void step(QWidget* window);
     void close(QWidget* window);
     int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
-    /// Returns the number of steps so far, including those in dialogs and menus.
+    /// Returns the number of steps so far, including steps in dialogs and menus.
     int steps() const { return m_steps; }
-    /// Returns the menu action that the last step triggered; null if it did something else.
+    /// Returns the menu action that the last step triggered, or null.
     const QAction* triggered() const { return m_triggered; }
 
 private:
@@ -66,7 +66,7 @@ private:
 
     std::mt19937 m_random;
     QStringList m_files;
-    QWidget* m_window = nullptr; // of the current step
+    QWidget* m_window = nullptr; // in which the current step takes place
     QPointer<QAction> m_triggered;
     int m_steps = 0;
 };

@@ -7,7 +7,7 @@
 
 namespace testsupport {
 
-/// An open project file in a folder of its own.
+/// An open project in a temporary folder.
 class TemporaryProject
 {
 public:
@@ -21,7 +21,7 @@ public:
     int index() const { return doc->index(); }
 
 private:
-    QTemporaryDir m_folder; // destroyed after the document
+    QTemporaryDir m_folder; // declared first, so that it is deleted after the document is closed
 
 public:
     std::unique_ptr<VKD_H_ZOBDoc> doc;

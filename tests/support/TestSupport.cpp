@@ -6,8 +6,8 @@
 namespace testsupport {
 
 namespace {
-/// Returns the warnings in a log of QtTest. Those announced by QTest::ignoreMessage() are not in
-/// the log, and warnings of the offscreen plug-in about itself are left out.
+/// Returns the warnings in a log of QtTest, except warnings of the offscreen plug-in about missing
+/// features. The log does not contain warnings that QTest::ignoreMessage() announced.
 QList<QByteArray> unexpectedWarnings(const QByteArray& log)
 {
     QList<QByteArray> found;
@@ -27,7 +27,7 @@ int run(QObject* test, int argc, char* argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
-    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0"); // no warning may be dropped
+    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0"); // no limit
     arguments << QStringLiteral("-o") << QStringLiteral("-,txt") << QStringLiteral("-o")
               << log + QLatin1String(",txt");
     const int failed = QTest::qExec(test, arguments);

@@ -5,18 +5,18 @@
 
 #include <functional>
 
-/// Turns every warning that a test did not announce by QTest::ignoreMessage() into a failure of the
-/// test program. Use PLIB_TEST_MAIN instead of QTEST_GUILESS_MAIN, and WidgetTestSupport.h for
-/// widgets.
+/// The test program fails if it logs a warning that the test did not announce by
+/// QTest::ignoreMessage(). Use PLIB_TEST_MAIN instead of QTEST_GUILESS_MAIN, and
+/// WidgetTestSupport.h for tests of widgets.
 namespace testsupport {
 
 int run(QObject* test, int argc, char* argv[]);
 
-/// Write or read a whole file, or end the process; for files that a test creates.
+/// Write or read a whole file that the test has created. End the process if this fails.
 void writeFile(const QString& path, const QByteArray& bytes);
 QByteArray readFile(const QString& path);
 
-/// A text in a row of data.
+/// A QString in a row of test data, convertible from UTF-8 literals.
 struct Text : QString
 {
     Text() = default;
@@ -30,11 +30,10 @@ struct Text : QString
     }
 };
 
-/// Compares the results of the function for the texts in `cases`, which has lines of the form "text
-/// => result".
+/// Checks the function with each line "text => result" of `cases`.
 void compareCases(const std::function<QString(const QString&)>& function, const char* cases);
 
-/// The columns of a data function by name; a call adds a row with its name and its values.
+/// Adds the named columns of a data function. Its call operator adds a row with a name and values.
 template <typename... Values>
 class Columns
 {

@@ -13,8 +13,8 @@
 
 namespace testsupport {
 
-/// Calls `act` with the modal dialog or box that opens next. Call it before the step that opens
-/// one. If none opens within five seconds, nothing happens.
+/// Calls `act` with the next modal dialog or message box. Call it before the step that opens the
+/// dialog. Does nothing if no dialog opens within five seconds.
 inline void whenModal(const std::function<void(QWidget*)>& act)
 {
     const QPointer<QWidget> before = QApplication::activeModalWidget();
@@ -42,12 +42,12 @@ Widget* find(const QWidget& window, const char* name)
     return found;
 }
 
-/// Enters a file name in a file dialog.
+/// Enters a path in a file dialog and accepts it.
 inline void enterFile(QWidget* dialog, const QString& path)
 {
     auto name = find<QLineEdit>(*dialog, "fileNameEdit");
     QApplication::setActiveWindow(dialog);
-    name->setFocus(); // otherwise the selection in the list counts, and not the text
+    name->setFocus(); // otherwise the dialog uses the file selected in its list
     name->setText(path);
     QTest::keyClick(name, Qt::Key_Return);
 }
@@ -59,7 +59,7 @@ inline void trigger(const QWidget& window, const char* action)
 
 } // namespace testsupport
 
-/// Like PLIB_TEST_MAIN, for tests of widgets. A test fails if it leaves widgets behind.
+/// Like PLIB_TEST_MAIN, for tests of widgets. Widgets that still exist after the test are failures.
 #define PLIB_WIDGET_TEST_MAIN(TestClass)                                                       \
     int main(int argc, char* argv[])                                                           \
     {                                                                                          \

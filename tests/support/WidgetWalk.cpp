@@ -30,8 +30,9 @@
 namespace testsupport {
 
 namespace {
-/// Returns whether the widget is an internal part of a control. The tabs of docks are the titles of
-/// the docks, and Qt names their tab bar by the current one.
+/// Returns whether the widget is an internal part of another control. The tab bar of docks counts
+/// as internal, because its tabs show the docks' titles and Qt gives it the title of the current
+/// dock as its name.
 bool isInner(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();
@@ -42,7 +43,7 @@ bool isInner(const QWidget* widget)
 
 QString spokenText(const QWidget* widget, QAccessible::Text part)
 {
-    // Qt names a combo box by its current text.
+    // For a combo box, Qt returns the current entry instead of its name.
     if (part == QAccessible::Name && qobject_cast<const QComboBox*>(widget) &&
         !widget->accessibleName().isEmpty())
         return widget->accessibleName();
@@ -59,8 +60,8 @@ QString boxTitle(const QWidget* widget)
     return widget ? static_cast<const QGroupBox*>(widget)->title() : QString();
 }
 
-/// Returns whether `first` precedes `second`, which has the same parent, or is beside it in reading
-/// order.
+/// Returns whether `first` does not come after `second` in reading order. Both are geometries in
+/// the same parent.
 bool isInReadingOrder(const QRect& first, const QRect& second)
 {
     const int shared = qMin(first.bottom(), second.bottom()) - qMax(first.top(), second.top());
@@ -76,7 +77,7 @@ int widest(const QFontMetrics& metrics, const QStringList& texts)
     return width;
 }
 
-/// Returns the minimum size at which no text of the widget is cut off; empty for widgets without
+/// Returns the smallest size that shows the widget's text completely; empty for widgets without
 /// texts.
 QSize needed(const QWidget* widget)
 {
@@ -104,7 +105,7 @@ QSize needed(const QWidget* widget)
     return {};
 }
 
-/// Returns the width that a combo box or a line edit has for its text.
+/// Returns the width that a combo box or line edit leaves for its text.
 int textRoom(const QWidget* field)
 {
     const QStyle* style = field->style();
@@ -124,7 +125,7 @@ int textRoom(const QWidget* field)
     return width;
 }
 
-/// Returns the selected and typed values in a window.
+/// Returns the current values of all visible input widgets of a window.
 QStringList choices(QWidget& window)
 {
     QStringList all;
@@ -171,14 +172,14 @@ public:
         }
     }
 
-    /// Sets the focus first, because some widgets handle the wheel only with the focus.
+    /// Gives each widget the focus first, because some widgets react to the wheel only then.
     void lookForWheel()
     {
         const QPointer<QWidget> focused = m_window.focusWidget();
         for (QWidget* widget : visibleWidgets(m_window)) {
             if (widget->focusPolicy() & Qt::TabFocus)
                 widget->setFocus();
-            const QStringList before = choices(m_window); // leaving a field reformats its number
+            const QStringList before = choices(m_window); // after a field has reformatted its text
             for (int angle : {120, -120}) {
                 turnWheel(widget, angle);
                 if (choices(m_window) != before)
@@ -267,7 +268,7 @@ void Walk::lookForCuts(QWidget* widget)
         note(widget, QStringLiteral("cuts its text: %1 in %2").arg(width).arg(textRoom(widget)));
 }
 
-/// A widget may extend beyond its parent only if it is scrolled.
+/// Notes a widget that extends beyond its parent. Only contents of scroll areas may do so.
 void Walk::lookForPlace(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();
@@ -289,7 +290,8 @@ void Walk::lookAtHeader(const QHeaderView* header)
             note(header->parentWidget(), QStringLiteral("cuts the header %1").arg(section));
 }
 
-/// A widget with children is one stop in the tab order of its parent, and Tab enters it once.
+/// Checks the tab order in each parent. A container counts as one stop of its parent, and Tab must
+/// enter it only once.
 void Walk::lookForOrder()
 {
     QMap<const QWidget*, QVector<const QWidget*>> visited; // by parent, in tab order

@@ -24,7 +24,7 @@
 namespace testsupport {
 
 namespace {
-/// Tool tips may be rich text.
+/// Returns a text without formatting, because tool tips may be rich text.
 QString plain(const QString& text)
 {
     return QTextDocumentFragment::fromHtml(text).toPlainText();
@@ -58,7 +58,8 @@ void addMenu(QSet<QString>& found, const QList<QAction*>& actions)
     }
 }
 
-/// Qt reports docks in a tab that is not current as visible, but they are outside the window.
+/// Returns whether the widget is in a dock behind another tab. Qt treats such docks as visible, but
+/// places them outside the window.
 bool isBehindTab(const QWidget* widget, const QWidget& window)
 {
     const auto dock = qobject_cast<const QDockWidget*>(widget);
@@ -84,7 +85,7 @@ QStringList entriesOf(const QComboBox* combo)
     return entries;
 }
 
-/// Layouts of word-wrapped texts need a few passes.
+/// Processes events until the layouts of word-wrapped texts no longer change.
 void settle()
 {
     for (int round = 0; round < 4; ++round)

@@ -7,23 +7,22 @@
 
 namespace testsupport {
 
-/// Returns whether the widget is visible in this window, and not in another one or on a dock tab
-/// that is not current.
+/// Returns whether the widget is visible in this window and not hidden behind the tab of a dock.
 bool isInView(const QWidget* widget, const QWidget& window);
 
-/// Returns the window and all visible widgets in it.
+/// Returns the window and its widgets for which isInView() is true.
 QList<QWidget*> visibleWidgets(QWidget& window);
 
-/// Calls `act` for each tab of the active window, or once if it has no tabs.
+/// Shows each tab of the window and calls `act` for it; calls `act` once if there are no tabs.
 void forEachTab(QWidget& window, const std::function<void()>& act);
 
-/// Returns whether a widget is placed over a cell, which determines its width.
+/// Returns whether a widget is in a table cell, so that the cell determines its width.
 bool isInCell(const QWidget* widget);
 
-/// Returns the texts that the widget itself paints.
+/// Returns the texts that the widget itself displays.
 QStringList textsOf(const QWidget* widget);
 
-/// Returns the texts whose mnemonics work with Alt in the window.
+/// Returns the texts with mnemonics that Alt activates in the window.
 QStringList mnemonicTextsOf(const QWidget* widget);
 
 } // namespace testsupport
