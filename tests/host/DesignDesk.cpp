@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr int TypeColumn = 1; // has editors of the framework
+constexpr int TypeColumn = 1; // uses the cell editors of the framework
 } // namespace
 
 DesignDesk::DesignDesk(HostProject& project)
@@ -31,7 +31,7 @@ QComboBox* DesignDesk::groupCombo() const
 {
     const QList<QComboBox*> found =
         table()->findChildren<QComboBox*>(QStringLiteral("comboGroups"));
-    for (QComboBox* combo : found) // a closed editor is deleted by the event loop
+    for (QComboBox* combo : found) // closed editors exist until the event loop deletes them
         if (combo->parentWidget() ==
             table()->cellWidget(table()->currentRow(), table()->currentColumn()))
             return combo;

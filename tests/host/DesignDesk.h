@@ -8,12 +8,12 @@
 #include <QComboBox>
 #include <QTableWidget>
 
-/// The design page in a dialog of a host, and operations by which a user reaches its parts.
+/// The design page in a dialog of a host, and functions that use its widgets as a user does.
 class DesignDesk : public VKD_QT_Dialog
 {
 public:
     explicit DesignDesk(HostProject& project);
-    /// Stores these records in the project and reads them.
+    /// Stores these records in the project and reads them into the page.
     DesignDesk(HostProject& project, const std::vector<tagZOB_QUAD_RIM>& records);
 
     QTableWidget* table() const { return findChild<QTableWidget*>(QStringLiteral("table")); }
@@ -23,10 +23,10 @@ public:
     QString row(int number) const;
     /// Returns the texts of the groups column, joined by "|".
     QString groups() const;
-    /// Returns the cells that are covered by widgets, as "row,column" joined by blanks.
+    /// Returns the cells that contain widgets, as "row,column" joined by blanks.
     QString editors() const;
     void press(const char* button);
-    /// Sends keys to the table, such as arrow keys.
+    /// Sends arrow keys and command keys to the table.
     void keys(const std::vector<Qt::Key>& keys);
 
     VKD_P_DesignParameter* const page;

@@ -6,16 +6,16 @@
 
 #include <vector>
 
-/// A project in a folder of its own, opened as by a host.
+/// An open project of a host, in a temporary folder.
 class HostProject
 {
 public:
-    /// Creates a project with the sample model of this name; an empty name gives a project without
-    /// a model.
+    /// Creates the project from the sample model of this name, or without a model if the name is
+    /// empty.
     explicit HostProject(const QString& model);
 
     VKD_H_ZOBDoc* doc() { return m_project.doc.get(); }
-    /// Closes the file and opens it again, so that later reads use the file.
+    /// Closes the file and opens it again, so that later reads come from the file.
     void reopen();
 
     /// Returns the design records in the order of the store.

@@ -17,7 +17,7 @@ inline const Rows LoadCases{{1, 1, QStringLiteral("1 : Dead load")},
                             {1, 2, QStringLiteral("2 : Snow")},
                             {2, 11, QStringLiteral("11 : Design")}};
 
-/// A page with some load cases, and access to its widgets.
+/// An output page with some load cases, and functions that find its widgets.
 class OutputDesk
 {
 public:
@@ -47,7 +47,7 @@ public:
         choose("ScaleGroup", 0);
         find<QComboBox>("box_scale")->setCurrentText(QLatin1String(scale));
     }
-    /// Returns the first plot that has load cases below it.
+    /// Returns the first plot with load cases below it.
     QTreeWidgetItem* plotWithRows()
     {
         for (QTreeWidgetItemIterator item(tree()); *item; ++item)

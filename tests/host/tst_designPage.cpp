@@ -24,7 +24,7 @@ tagZOB_QUAD_RIM record(int group, int type, float minimum)
     return made;
 }
 
-/// Types groups into the group dialog that opens next, as a user would, and presses OK.
+/// Types a text into the next group dialog and presses OK.
 void confirmGroups(const QString& typed)
 {
     whenModal([typed](QWidget* dialog) {
@@ -35,7 +35,7 @@ void confirmGroups(const QString& typed)
     });
 }
 
-/// Returns the entries, the current one with a star.
+/// Returns the entries; a star marks the current one.
 QString entriesOf(const QComboBox* combo)
 {
     QStringList texts;
@@ -62,7 +62,7 @@ private Q_SLOTS:
             desk.keys({Qt::Key_Insert, Qt::Key_Insert, Qt::Key_Down, Qt::Key_Down, Qt::Key_Delete});
             QCOMPARE(counted.size(), 4);
             QCOMPARE(counted.last().first().toInt(), 2);
-            desk.table()->setCurrentCell(1, 0); // deleting clears the selection
+            desk.table()->setCurrentCell(1, 0); // because Delete cleared the selection
             desk.keys({Qt::Key_Right, Qt::Key_F2});
             auto types = find<QComboBox>(desk, "cellCombo");
             QTRY_VERIFY(types->view()->isVisible());
@@ -122,7 +122,7 @@ private Q_SLOTS:
         };
         QCOMPARE(select(0, 2), QStringLiteral("0,2"));
         QCOMPARE(select(1, 0), QStringLiteral("1,0"));
-        QCOMPARE(desk.table()->item(1, 0)->text(), QString()); // the combo shows it
+        QCOMPARE(desk.table()->item(1, 0)->text(), QString()); // the combo box shows it
         QCOMPARE(select(1, 3), QStringLiteral("1,3"));
         QCOMPARE(desk.table()->item(1, 0)->text(), QStringLiteral("1"));
         QCOMPARE(select(0, 0), QStringLiteral("1,3")); // the editor stays open
@@ -132,8 +132,8 @@ private Q_SLOTS:
         QTest::keyClick(desk.table(), Qt::Key_Escape);
         QCOMPARE(desk.editors(), QString());
         QCOMPARE(select(3, 2), QStringLiteral("3,2"));
-        // The row has no design: the old editor is closed, but its cell is remembered, and
-        // returning to it counts as selecting it again.
+        // A row without design has no editor. The old editor is closed, but its cell is remembered:
+        // returning to it counts as a second selection.
         QCOMPARE(select(2, 2), QString());
         QCOMPARE(select(3, 2), QString());
         QCOMPARE(again(), QStringLiteral("3,2"));
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(desk.editors(), QString());
     }
 
-    /// Clicks go to the window, as the window system does it.
+    /// Sends clicks to the window, like the window system.
     void editorAwayFromTheCurrentCell()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
@@ -178,7 +178,8 @@ private Q_SLOTS:
         row("distances of a plane system, which it will lose", 10, 2, "hiuq", "not used");
     }
 
-    /// The rows were moved before OK.
+    /// A row is added while the dialog is open, which moves the rows in memory. OK must still
+    /// change the right one.
     void recordDialogsWriteOnOkAlone()
     {
         QFETCH(int, kind);
@@ -231,7 +232,7 @@ private Q_SLOTS:
         QCOMPARE(groupsAfter("btnUp", 2), QStringLiteral("Remaining Groups|2|1|3|4"));
         QCOMPARE(table->currentIndex(), table->model()->index(1, 2));
         QCOMPARE(desk.editors(), QStringLiteral("1,2"));
-        desk.press("btnUp"); // the first row cannot be replaced
+        desk.press("btnUp"); // the first row must stay first
         for (int row : {1, 4, 0})
             QCOMPARE(groupsAfter("btnDown", row), QStringLiteral("Remaining Groups|1|2|3|4"));
         table->setCurrentItem(nullptr);
@@ -267,7 +268,8 @@ private Q_SLOTS:
         QTest::keyClick(desk.groupCombo(), Qt::Key_Up);
         QCOMPARE(entriesAt(2), QStringLiteral("None|Remaining Groups|*2"));
         QTest::keyClick(desk.groupCombo(), Qt::Key_Home);
-        QTest::keyClick(desk.groupCombo(), Qt::Key_End); // this entry is empty by now
+        // The last entry still exists, but it is empty now.
+        QTest::keyClick(desk.groupCombo(), Qt::Key_End);
         QCOMPARE(entriesAt(1), QStringLiteral("*None|Remaining Groups"));
         QCOMPARE(desk.groups(), QStringLiteral("4||None"));
     }
@@ -305,8 +307,8 @@ private Q_SLOTS:
         QApplication::activeWindow()->close();
     }
 
-    /// The mark disappears with the last shared group. Delete clears the selected groups, in the
-    /// open list and on the buttons too, and deletes no row.
+    /// A row loses its mark with its last shared group. Delete clears the selected entry, also in
+    /// the open list and on the buttons, and does not delete the row.
     void groupInTwoRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2),
@@ -324,7 +326,8 @@ private Q_SLOTS:
         QCOMPARE(notes(), QStringLiteral("|4, 5||2, 5|2, 4"));
         desk.table()->setCurrentCell(1, 0);
         QCOMPARE(desk.groupCombo()->toolTip(), QStringLiteral("Group 3: also in row 4, 5"));
-        QCOMPARE(desk.groupCombo()->parentWidget()->geometry(), // not in the cell itself
+        // The editor covers the cell, so it shows the mark itself.
+        QCOMPARE(desk.groupCombo()->parentWidget()->geometry(),
                  desk.table()->visualItemRect(desk.table()->item(1, 0)));
         desk.press("btnDown");
         QCOMPARE(notes(), QStringLiteral("||4, 5|3, 5|3, 4"));
@@ -344,7 +347,7 @@ private Q_SLOTS:
         QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|None|None|None"));
     }
 
-    /// A choice in the list of types is in the cell at once and takes effect without another key.
+    /// An entry chosen in the list of types is in the cell at once, without another key.
     void openListOfTypes_data()
     {
         const Columns<bool> row("isDeleting");
@@ -373,8 +376,7 @@ private Q_SLOTS:
         QVERIFY(m_project->records().back().type != 0);
     }
 
-    /// A page may be destroyed while its dialogs are open, for example by a host that closes the
-    /// project.
+    /// A host may close the project, and so delete the page, while a dialog is open.
     void pageGoesBelowItsDialogs()
     {
         for (int column : {0, 1, 2}) {
@@ -383,7 +385,7 @@ private Q_SLOTS:
             desk->press("btnNew");
             desk->table()->setCurrentCell(1, column);
             whenModal([&desk](QWidget*) { desk.reset(); });
-            if (column == 1) // no dialog here; the page asks a question
+            if (column == 1) // no dialog for this column; checkVals() shows a question
                 QVERIFY(!desk->page->checkVals());
             else
                 desk->table()->viewport()->findChild<QPushButton*>()->click();
@@ -411,7 +413,7 @@ private Q_SLOTS:
         }
         VKD_H_ProjectDialogPage entries;
         desk.page->getEntrys(entries);
-        QVERIFY(desk.page->checkVals()); // the page saves rows without groups
+        QVERIFY(desk.page->checkVals()); // rows without groups are saved in the page's entries
     }
 
 private:

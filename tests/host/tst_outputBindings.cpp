@@ -118,7 +118,7 @@ private Q_SLOTS:
         group.getRadioButton(1)->click();
         QVERIFY(plots() > before); // the slab has no solid elements
         QSignalSpy filled(desk.tree()->model(), &QAbstractItemModel::modelReset);
-        group.getRadioButton(1)->click(); // adds the tag once more
+        group.getRadioButton(1)->click(); // adds the tag again
         QVERIFY(filled.size() > 0);
         group.getRadioButton(0)->click(); // removes all of them
         QCOMPARE(plots(), before);

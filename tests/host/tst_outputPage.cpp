@@ -39,7 +39,7 @@ private Q_SLOTS:
         QCOMPARE(size(), two.arg(QLatin1String("50*1.e+10")));
         desk.choose("PicturesGroup", 0);
         QCOMPARE(size(), one);
-        desk.choose("FormatGroup", 0); // checked already, but still sets two pictures
+        desk.choose("FormatGroup", 0); // already chosen, but still sets two pictures
         QCOMPARE(size(), two.arg(QLatin1String("50*1.e+10")));
         desk.choose("FormatGroup", 1);
         QCOMPARE(size(), QString(one).remove(QLatin1Char('-')));
@@ -48,7 +48,7 @@ private Q_SLOTS:
         font->selectAll();
         QTest::keyClicks(font, QStringLiteral("3,5"));
         QTest::keyClick(font, Qt::Key_Enter);
-        QTest::keyClicks(font, QStringLiteral("x")); // refused and not used in the script
+        QTest::keyClicks(font, QStringLiteral("x")); // refused, so not in the script
         QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("SCHH H6 0.35"));
         desk.find<QCheckBox>("Check: Filled Isolines")->click();
         QVERIFY(desk.page.getTORVAL(true).contains(QLatin1String("\n#define FILL=VERT\n")));
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(!empty.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
     }
 
-    /// Names that begin at the same address are still two rows.
+    /// Names that share one buffer in memory are still two rows.
     void rowsOfOneBuffer()
     {
         const QString both = QStringLiteral("1 : Snow on the roof");
@@ -202,7 +202,7 @@ private Q_SLOTS:
                   .arg(desk.group("PerspectiveGroup")->selectedButton())
                   .arg(desk.find<QCheckBox>("Check: Filled Isolines")->isChecked()),
               "state");
-        QCOMPARE(choice(), before); // a missing part changes nothing
+        QCOMPARE(choice(), before); // a string without this part does not change it
     }
 
     void theSplitPage()

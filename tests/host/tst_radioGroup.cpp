@@ -23,7 +23,7 @@ void build(Group& group, Form form, QWidget* parent, const std::list<Group::Butt
     }
 }
 
-/// A dialog of a host with a group, a widget to couple, and a log of the group's signals.
+/// A host's dialog with a group, a widget to couple with it, and a log of the group's signals.
 class Desk
 {
 public:
@@ -47,7 +47,7 @@ public:
         dialog.show();
     }
 
-    /// Returns the labels and tool tips of the row, from left to right; "-" is a spacer.
+    /// Returns the labels and tool tips of the row from left to right; "-" is a spacer.
     QString row() const
     {
         QStringList texts;
@@ -125,7 +125,7 @@ private Q_SLOTS:
 
     void clicks_data()
     {
-        // Positions in the row.
+        // "from" and "to" are positions in the row.
         const Columns<Form, int, int, QString, QString> row("form", "from", "to", "sent",
                                                             "sentWithoutWidget");
         row("m_Manually, first", Form::All, -1, 0, "~1 manual ~1", "manual");
@@ -143,7 +143,7 @@ private Q_SLOTS:
         row("m_All, echo", Form::Echo, 1, 2, "", "");
     }
 
-    /// The name of the data row begins with the name of the button in the saved text.
+    /// Each row's name begins with the name of the button in the saved text.
     void clicks()
     {
         QFETCH(const Form, form);
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(desk.signalsSent(), QString());
         desk.group->setEnabledById(Group::All_E, false);
         QVERIFY(desk.button(0)->isEnabled() && !desk.button(1)->isEnabled());
-        desk.group->setSelectedId(Group::All_E); // disabled for the user only
+        desk.group->setSelectedId(Group::All_E); // a host may select a disabled button
         QCOMPARE(desk.signalsSent(), QStringLiteral("~5 ~5 earthquake =5"));
         desk.group->setEnabledById(Group::All_E, true);
         QVERIFY(desk.button(1)->isEnabled());
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QWidget second;
         desk.group->useWidget(desk.plain);
         desk.group->useWidget(&second);
-        delete desk.plain; // must not uncouple the second one
+        delete desk.plain; // must not uncouple the second widget
         desk.signalsSent();
         desk.button(0)->click();
         QCOMPARE(desk.signalsSent(), QStringLiteral("~1 manual ~1 manual ~1 ~1"));
@@ -234,12 +234,12 @@ private Q_SLOTS:
         Group left, placed;
         {
             QWidget parent, other;
-            left.initForLF(&parent, EachId); // the row is never added to a layout
+            left.initForLF(&parent, EachId); // the row is in no layout
             left.useWidget(&parent);
             placed.init(&other);
             other.setLayout(placed.layout());
         }
-        placed.init(nullptr); // a row already existed
+        placed.init(nullptr); // the row was already created before
         QVERIFY(!placed.layout());
         left.setSelectedId(Group::Manually);
         left.setEnabledById(Group::Manually, true);
@@ -254,7 +254,7 @@ private Q_SLOTS:
         manual->click();
         QVERIFY(manual->isChecked() && !desk.plain->isEnabled());
         QCOMPARE(desk.dialog.findChildren<QRadioButton*>().size(), 2);
-        QCOMPARE(desk.dialog.layout()->count(), 2); // the row stays where the host added it
+        QCOMPARE(desk.dialog.layout()->count(), 2); // the row stays in the host's layout
     }
 
     void endedByItsOwnSignal()
@@ -264,7 +264,7 @@ private Q_SLOTS:
             desk.group->useWidget(desk.plain);
             desk.button(0)->click();
             QRadioButton* fire = desk.button(2);
-            int left = run / 2; // the number of signals before the one that destroys the group
+            int left = run / 2; // signals until the group is destroyed
             const auto end = [&] {
                 if (left-- == 0)
                     desk.group.reset();
