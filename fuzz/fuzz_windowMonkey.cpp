@@ -20,7 +20,8 @@ using testsupport::Monkey;
 namespace {
 constexpr int Steps = 1500;
 
-/// How dialogs ended since begin(), and whether anything came of a step.
+/// Records the results of the dialogs closed since begin(), and whether a step had a visible
+/// effect.
 class Watch : public QObject
 {
 public:
@@ -61,16 +62,16 @@ public:
         wasStored = wasStored || wasSaved || isSavedAs || isDone;
     }
 
-    bool wasSeen = false;    ///< to have an effect
-    bool wasAsked = false;   ///< whether to store
-    bool wasGivenUp = false; ///< by Cancel in its own dialog
-    bool wasKept = false;    ///< open, by Cancel
-    bool wasSaved = false;   ///< by Save
-    bool wasSavedAs = false; ///< under a name that was given
-    bool wasStored = false;  ///< by OK or Save
+    bool wasSeen = false;    ///< a window was shown, hidden or activated, or its title changed
+    bool wasAsked = false;   ///< a box asked whether to save
+    bool wasGivenUp = false; ///< a dialog was cancelled
+    bool wasKept = false;    ///< the box was cancelled, so the dialog stayed open
+    bool wasSaved = false;   ///< Save was pressed in the box
+    bool wasSavedAs = false; ///< the project was saved under a name
+    bool wasStored = false;  ///< OK or Save stored a change
 };
 
-/// The windows in which the user can work, in an order that is the same in each run.
+/// Returns the visible windows in an order that is the same in each run.
 QWidgetList windows()
 {
     QWidgetList found;
@@ -85,7 +86,7 @@ QWidgetList windows()
     return found;
 }
 
-/// Dialogs and menus that are there more than once: one was left behind.
+/// Returns dialogs and menus that exist more than once, because one was left behind.
 QStringList doubles()
 {
     QSet<QString> known;
@@ -105,13 +106,14 @@ QStringList doubles()
 }
 } // namespace
 
-/// The whole program in the hands of somebody who does anything anywhere.
+/// Operates the whole program at random.
 class fuzz_windowMonkey : public ProjectTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// The clear buttons of Qt's fields fade, and a program that ends meanwhile leaks that.
+    /// Waits for the fade animation of Qt's clear buttons, which would be a leak at the end of the
+    /// program.
     void cleanupTestCase() { QTest::qWait(200); }
 
     void work_data() { Monkey::addRounds(Steps); }
@@ -139,7 +141,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Those that are entered into file dialogs and dropped.
+    /// Creates the files for file dialogs and for dropping.
     QStringList makeFiles()
     {
         m_faults.clear();
@@ -167,7 +169,7 @@ private:
         return QFileInfo(project).isFile() ? readFile(project) : QByteArray();
     }
 
-    /// What others do to the open project.
+    /// Changes the open project as another program might.
     static void disturb(const QString& project, Monkey& monkey)
     {
         const int what = project.isEmpty() ? -1 : monkey.below(100);
@@ -178,7 +180,7 @@ private:
                          QStringLiteral("1"), QStringLiteral("hio=0.0%1").arg(monkey.below(9))});
     }
 
-    /// The mark in the window's title follows with the next turn of the event loop.
+    /// The mark in the window's title is updated by the event loop.
     static bool isChanged(const MainWindow& window)
     {
         const auto plots = window.findChild<OutputDialog*>();
@@ -232,7 +234,7 @@ private:
     void lookAtAll(MainWindow& window)
     {
         QTest::qWait(1);
-        // The script of a new project follows after its first painting.
+        // The script of a new project is created after the first painting.
         (void)QTest::qWaitFor([&window] { return !script(window).isEmpty(); }, 1000);
         if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
             return;
@@ -255,7 +257,7 @@ private:
                         "\nby the command line: " + expected.value(line).toUtf8();
     }
 
-    /// By the command line, from a copy of the project that keeps this state.
+    /// Returns the script of the command line for a copy of the project with this state.
     QString scriptOf(const QString& project, const OutputState& state, const QWidget& window) const
     {
         const QString copied = path("copied.zob");
