@@ -51,7 +51,7 @@ void readMessage(QStringList& texts)
         const bool isPlain = message->textFormat() == Qt::PlainText;
         texts << message->text();
         press(box, QMessageBox::Ok);
-        QVERIFY(isPlain); // names of files may look like tags
+        QVERIFY(isPlain); // file names may look like tags
     });
 }
 
@@ -100,7 +100,7 @@ OtherProgram::OtherProgram(const QString& path, Work work)
 {
     vkd_zob_open(path.toUtf8().constData(), &m_index);
     vkd_zob_lock_ex(m_index, 9000, 1);
-    const QByteArray bytes(work == Storing ? 4000000 : 5000, 'x'); // more than memory holds
+    const QByteArray bytes(work == Storing ? 4000000 : 5000, 'x'); // more than fits into the cache
     const int length = bytes.size();
     for (int i = 0; i < int(work); ++i)
         vkd_zob_put(m_index, 9000, 1, bytes.constData(), &length, 1);

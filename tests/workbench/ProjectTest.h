@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// What tests of the workbench's window have in common.
+/// Functions shared by the tests of the workbench's window.
 namespace windowtest {
 
 using testsupport::enterFile;
@@ -19,34 +19,34 @@ using testsupport::trigger;
 using testsupport::whenModal;
 using testsupport::writeFile;
 
-/// What the program prints with these arguments.
+/// Returns the output of the command line with these arguments.
 QByteArray commandLine(const QStringList& arguments);
 QString makeProject(const QString& path, const QString& model);
 QString script(const QWidget& window);
 
 void press(QWidget* box, QMessageBox::StandardButton button);
-/// Presses OK in the message that comes next; its text is added to the list.
+/// Presses OK in the next message box and adds its text to the list.
 void readMessage(QStringList& texts);
-/// Names a file in the file dialog that opens next.
+/// Enters a file name in the file dialog that opens next.
 void answerFileDialog(const QString& path);
-/// The script as the window saves it in a file.
+/// Returns the script that the window saves in a file.
 QString savedScript(const QWidget& window, const QString& keywords);
 QDialog* openOutput(const QWidget& window);
-/// Opens the output dialog and takes a plot back.
+/// Opens the output dialog and unchecks a plot.
 void changeChoice(const QWidget& window);
-/// Has the groups of the current row of the design dialog picked in the view.
+/// Starts picking groups in the view for the current row of the design dialog.
 void pickInView(const QWidget& designDialog);
-/// By Return in the list of groups.
+/// Picks a group with Return in the list of groups.
 void pickGroup(const QWidget& window, int row);
 
-/// Another program at work on a project, which ends with the object and stores nothing.
+/// Another program that is changing a project until the object is destroyed, and stores nothing.
 class OtherProgram
 {
 public:
     enum Work {
-        Taking,   ///< has the lock
-        Changing, ///< has written into its journal
-        Storing   ///< keeps readers away, too
+        Taking,   ///< holds the lock
+        Changing, ///< has written its journal
+        Storing   ///< also excludes readers
     };
 
     OtherProgram(const QString& path, Work work);
@@ -58,7 +58,7 @@ private:
     int m_index = -1;
 };
 
-/// What keeps a project from being written while it lives: "locked", "no journal", "disk full".
+/// Prevents writing to a project during its lifetime: "locked", "no journal", "disk full".
 class Obstacle
 {
 public:
@@ -70,18 +70,19 @@ private:
     std::unique_ptr<OtherProgram> m_other;
 };
 
-/// Tests of the window's projects: English texts; a folder for each test, with its settings.
+/// Base class of tests of the window's projects: English texts; a folder with settings for each
+/// test.
 class ProjectTest : public QObject
 {
     Q_OBJECT
 
 protected:
     QString path(const char* name) const { return m_folder->filePath(QString::fromUtf8(name)); }
-    /// The path of a new copy of the building.
+    /// Returns the path of a new copy of the building.
     QString copy(const char* name) const;
-    /// A window on such a copy, with its script.
+    /// Opens a window with such a copy and waits for its script.
     std::unique_ptr<workbench::MainWindow> open(const char* name) const;
-    /// A window on a project that is there, with its script.
+    /// Opens a window with an existing project and waits for its script.
     std::unique_ptr<workbench::MainWindow> reopen(const char* name) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;

@@ -11,7 +11,7 @@
 
 using workbench::MainWindow;
 
-/// Looks at the modal window that `act` opens, and closes it.
+/// Visits the modal window that `act` opens, and closes it.
 void visitModal(const Visit& visit, const std::function<void()>& act)
 {
     bool isSeen = false;
@@ -25,7 +25,7 @@ void visitModal(const Visit& visit, const std::function<void()>& act)
         qFatal("nothing opened");
 }
 
-/// Looks at the menu that a right click on the widget opens, and closes it.
+/// Visits the menu that a right click on the widget opens, and closes it.
 void visitMenu(const Visit& visit, QWidget* widget)
 {
     bool isSeen = false;

@@ -19,19 +19,19 @@ using testsupport::trigger;
 using testsupport::whenModal;
 
 using Visit = std::function<void(QWidget&)>;
-/// Opens a window, or several one behind the other, lets each be looked at, and closes it.
+/// Opens one or more windows one after the other, calls a function for each, and closes it.
 using Open = std::function<void(const Visit&)>;
 
 Q_DECLARE_METATYPE(Visit)
 Q_DECLARE_METATYPE(Open)
 
-/// Looks at the modal window that `act` opens, and closes it.
+/// Visits the modal window that `act` opens, and closes it.
 void visitModal(const Visit& visit, const std::function<void()>& act);
 
-/// Looks at the menu that a right click on the widget opens, and closes it.
+/// Visits the menu that a right click on the widget opens, and closes it.
 void visitMenu(const Visit& visit, QWidget* widget);
 
-/// The sample building, and the ways to the windows that show it.
+/// The sample building, with functions that open the windows for it.
 class VisitedProject
 {
 public:
@@ -39,14 +39,14 @@ public:
     using DesignAct = std::function<void(QWidget& dialog, QTableWidget& table, const Visit&)>;
 
     VKD_H_ZOBDoc* doc() { return m_project.doc(); }
-    /// The main window with the project and its script.
+    /// Opens the main window with the project and its script.
     Open mainWindow(const WindowAct& act);
-    /// The design dialog, with a row for remaining groups and a new one, which has no groups.
+    /// Opens the design dialog with a row for the remaining groups and a new row without groups.
     Open design(const DesignAct& act);
-    /// What belongs to the project and is in no language of the desktop.
+    /// Returns the texts that come from the project and do not depend on the language.
     QSet<QString> texts();
 
-    int language = English; ///< of the desktop while windows are opened
+    int language = English; ///< the desktop's language while windows are opened
 
 private:
     HostProject m_project{QStringLiteral("building")};

@@ -1,6 +1,6 @@
-# What the dynamic linker brings together for PROGRAM: no function or object of the library's logic
-# may be there twice, or the program and the pages that it hosts would have two catalogues. With
-# WITHOUT, a regular expression, no library whose path matches may be there.
+# Checks the libraries that the dynamic linker loads for PROGRAM: no function or object of the
+# library's logic may be defined twice, or the program and its pages would have separate catalogues.
+# With WITHOUT, a regular expression, the program must not load a library whose path matches.
 #   cmake -DPROGRAM=... -DNM=... [-DWITHOUT=...] -P checkModules.cmake
 file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${PROGRAM} RESOLVED_DEPENDENCIES_VAR libraries)
 
@@ -15,7 +15,7 @@ foreach(module IN LISTS PROGRAM libraries)
     execute_process(COMMAND ${NM} --defined-only --format=just-symbols ${module}
                     OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
     string(REGEX MATCHALL "_ZNK?4plib[^\n]*" symbols "${symbols}")
-    list(REMOVE_DUPLICATES symbols) # those of one file alone may have a namesake in another
+    list(REMOVE_DUPLICATES symbols) # local symbols of a file may have the name of another one
     list(LENGTH symbols count)
     math(EXPR total "${total} + ${count}")
     list(APPEND all ${symbols})

@@ -9,7 +9,7 @@
 using testsupport::readFile;
 using testsupport::writeFile;
 
-/// The command line as a user drives it: the real program, its output and its exit code.
+/// Tests the command line as a user runs it: the real program, its output and its exit code.
 class TestCommandLine : public QObject
 {
     Q_OBJECT
@@ -27,7 +27,8 @@ private Q_SLOTS:
 
     void samples_data()
     {
-        // What the models differ in: the view, by the kind of system, and the content.
+        // The models differ in their views, which depend on the kind of system, and in their
+        // content.
         const Columns<QString, QString> row("has", "hasNot");
         row("building", "\nVIEW EG3\n", "\nCABL");
         row("slab", "\nVIEW EGX\n", "\nBEAM");
@@ -67,8 +68,8 @@ private Q_SLOTS:
             0);
         QCOMPARE(readFile(path("again.txt")), choice);
         QCOMPARE(readFile(path("second.txt")), readFile(path("first.txt")));
-        // The choice fits the captions of either language, and a changed choice changes tree and
-        // script.
+        // The saved choice works with captions in either language, and a changed choice changes the
+        // tree and the script.
         const Result english = run("tree slab.zob --selection choice.txt --language english");
         const Result german = run("tree slab.zob --selection choice.txt --language german");
         QCOMPARE(german.out.count(QLatin1String("[x]")), english.out.count(QLatin1String("[x]")));
@@ -85,7 +86,7 @@ private Q_SLOTS:
             "SIZE -URS SC 100*1.e+10 SPLI  2x1 MARG NO FORM STAN");
         row("--set scaleIndex=8 --set scaleMode=1", "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN");
         row("--set picturesId=0 --set formatId=0",
-            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // as one click after the other
+            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // each argument like one click
         row("--set hasFormat=0", "SIZE URS SC 0 MARG NO FORM STAN");
         row("--set viewId=4", "VIEW TYPE STAN 1 -2 1 ROTA 0");
         row("--set fontSizeText=3,5", "SCHH H6 0.35");
@@ -96,7 +97,7 @@ private Q_SLOTS:
             "SIZE TYPE \"-URS\" SC 0 SPLI 2X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X1");
     }
 
-    /// Arguments are the name of the row.
+    /// The arguments are the name of the data row.
     void settingsChangeTheScript()
     {
         QFETCH(const QString, line);
@@ -144,7 +145,7 @@ private Q_SLOTS:
             "", " --set viewId=2");
     }
 
-    /// A script that starts from a saved choice is the same as one by arguments alone.
+    /// A script from a saved choice equals one from arguments alone.
     void savedChoice()
     {
         QFETCH(const QString, page);
@@ -160,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(expected.out.contains(QLatin1String("SIZE ")));
         const Result result = run(QLatin1String("script kept.zob") + options);
         QCOMPARE(result.error, QString());
-        const QString ownView = QStringLiteral("STAN 0 -1 0 ROTA 0"); // not settable by arguments
+        const QString ownView = QStringLiteral("STAN 0 -1 0 ROTA 0"); // arguments cannot set it
         QCOMPARE(result.out,
                  QString(expected.out).replace(QLatin1String("STAN 1 -2 1 ROTA 0"), ownView));
         QFile::remove(path("kept.zob"));
@@ -193,7 +194,7 @@ private Q_SLOTS:
             QLatin1String(":1: a text needs class, key, German and English\n")));
     }
 
-    /// What a crash left beside the path would be played back into the new project.
+    /// A journal that a crash left beside the path would be played back into the new project.
     void namesWithPercentSigns()
     {
         const QString left = path("a%1%2b.zob-journal");
@@ -216,15 +217,16 @@ private Q_SLOTS:
         QCOMPARE(before.count(QLatin1Char('\n')), 4);
         QVERIFY(before.startsWith(QLatin1String("Remaining Groups\tTwo Layers (orthogonal)\t") +
                                   summary));
-        // A new row takes its groups from others, and a row that loses its last one goes.
+        // A new row takes its groups from other rows, and a row that loses its last group is
+        // deleted.
         QCOMPARE(run("rows rows.zob --set-row 4;GURX type=4 wko=unset --language english").error,
                  QString());
         const QString changed = run("rows rows.zob --language english").out;
         QVERIFY2(changed.endsWith(QLatin1String("\n4;GURX\tCircular\t") + summary),
                  qPrintable(changed));
         QCOMPARE(changed.count(QLatin1Char('\n')), 4);
-        // An existing row keeps what is not named, and a row without groups is kept with the
-        // project too.
+        // Values of an existing row that are not named stay the same, and a row without groups
+        // stays in the project.
         run("rows rows.zob --set-row GURX;4 hio=0.05");
         run("rows rows.zob --set-row none type=3 dio=20");
         const QString again = run("rows rows.zob --language german").out;
@@ -264,7 +266,7 @@ private Q_SLOTS:
 
     void failures_data()
     {
-        const Columns<QString> row("message"); // behind the program's name
+        const Columns<QString> row("message"); // printed after the name of the program
         writeFile(path("noproject.zob"), "just a text that is long enough to be looked at");
         writeFile(path("bad.json"), "{\n \"title\": \"x\",\n oops }");
         writeFile(path("field.json"),
@@ -326,7 +328,7 @@ private Q_SLOTS:
             "--pixel-ratio is a number from 1 to 4, not \"5\"");
     }
 
-    /// Nothing is begun that cannot be finished.
+    /// A command that cannot be completed changes nothing.
     void failures()
     {
         const QDir folder(m_folder.path());
@@ -385,7 +387,7 @@ private:
                 QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};
     }
-    /// Arguments parted by blanks.
+    /// Runs the command line with arguments separated by blanks.
     Result run(const QString& arguments) const { return run(arguments.split(QLatin1Char(' '))); }
     Result run(const char* arguments) const { return run(QString::fromUtf8(arguments)); }
     QString path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)); }

@@ -25,10 +25,10 @@ using workbench::MainWindow;
 namespace {
 enum DesignColumn { Groups, Type, Directions, Reinforcement, Cracks };
 
-/// The widths of the design page's columns are fixed.
+/// Columns of the design page have fixed widths.
 const QSet<QString> FixedColumns{QStringLiteral("table")};
 
-/// Spelt alike in both languages.
+/// Texts with the same spelling in both languages.
 const QSet<QString> SameSpelling{QStringLiteral("&Filter:"),
                                  QStringLiteral("Name"),
                                  QStringLiteral("System"),
@@ -39,7 +39,8 @@ const QSet<QString> SameSpelling{QStringLiteral("&Filter:"),
                                  QStringLiteral("project.zob[*] - Workbench")};
 } // namespace
 
-/// Every window of the program and of the libraries, in both languages. A window is added by a row.
+/// Checks every window of the program and of the libraries in both languages. Each row adds a
+/// window.
 class tst_everyWidget : public QObject
 {
     Q_OBJECT
@@ -162,7 +163,7 @@ private:
             trigger(window, "TextOutput");
             auto dialog = find<QDialog>(window, "TextOutputDialog");
             visit(*dialog);
-            // Another kind makes the row of kinds anew.
+            // Another kind rebuilds the row of kinds.
             find<QComboBox>(*dialog, "CombinationKind")->setCurrentIndex(3);
             visit(*dialog);
         });
@@ -196,12 +197,12 @@ private:
             addDesign(button, [button](QWidget&, QTableWidget& table, const Visit& visit) {
                 table.setCurrentCell(1, Groups);
                 auto clicked = find<QPushButton>(table, button);
-                clicked->setEnabled(true); // also for a model without secondary groups
+                clicked->setEnabled(true); // even for a model without secondary groups
                 visitModal(visit, [clicked] { clicked->click(); });
             });
     }
 
-    /// Visits the dialog of a cell in the new row, which is to have this type.
+    /// Visits the dialog of a cell in the new row after setting this design type.
     static void edit(QTableWidget& table, int type, int column, const Visit& visit)
     {
         auto item = dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(table.item(1, Type));
@@ -224,7 +225,7 @@ private:
             const auto visitTwice = [&visit](QWidget& calculator) {
                 visit(calculator);
                 find<QLineEdit>(calculator, "spacing")->setText(QStringLiteral("1"));
-                visit(calculator); // with a note on bars that overlap
+                visit(calculator); // shows a note on overlapping bars
             };
             edit(table, 1, Reinforcement, [&visitTwice](QWidget& dialog) {
                 auto button = find<QPushButton>(dialog, "Calc");
@@ -269,7 +270,7 @@ private:
         });
         addMain("slow work", [](MainWindow& window, const Visit& visit) {
             workbench::SlowWork work(&window, QString(), 10);
-            while (!window.findChild<QProgressDialog*>()) // for half a second
+            while (!window.findChild<QProgressDialog*>()) // takes half a second
                 work.goOn(1);
             visit(*window.findChild<QProgressDialog*>());
         });
@@ -281,7 +282,7 @@ private:
             VKD_H_PluginParameter parameter(m_project->doc());
             VKD_QT_TabDialog dialog;
             auto view = withView ? new AnimatorView(m_project->doc()->index(), &dialog) : nullptr;
-            // The catalogue offers each plot twice once it was read in two languages.
+            // After the catalogue was read in two languages, it offers each plot twice.
             vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English);
             auto output = new VKD_P_WidgetGraphicalOutput(&dialog, kind, &parameter, view);
             vkd_lib_setvalue(VKD_SETTING_LANGUAGE, m_project->language);

@@ -10,7 +10,7 @@ using workbench::MainWindow;
 namespace {
 enum DesignColumn { Groups, Directions = 2, Reinforcement, Cracks };
 
-/// The title of the topic that the help shows, once it is closed.
+/// Closes the help and returns the title of its topic.
 QString takeTopic()
 {
     const QWidgetList all = QApplication::topLevelWidgets();
@@ -25,7 +25,7 @@ QString takeTopic()
 }
 } // namespace
 
-/// The help key at all places that have a topic of their own.
+/// Tests the help key on every widget that has its own topic.
 class tst_helpKey : public QObject
 {
     Q_OBJECT
@@ -99,7 +99,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// A widget of the window after an action.
+    /// Visits a widget of the window after an action.
     Open in(const char* action, const char* widget)
     {
         return m_project->mainWindow([=](MainWindow& window, const Visit& visit) {
@@ -116,7 +116,8 @@ private:
         });
     }
 
-    /// The table or the dialog that F2 opens in a cell of it, or the one that a button there opens.
+    /// Visits the table or the dialog that F2 opens in a cell, or the one that a button in the cell
+    /// opens.
     Open cell(DesignColumn column, const char* button)
     {
         return m_project->design([=](QWidget&, QTableWidget& table, const Visit& visit) {
@@ -124,7 +125,7 @@ private:
                 if (!button)
                     return visit(parent);
                 auto pressed = find<QPushButton>(parent, button);
-                pressed->setEnabled(true); // also for a model without secondary groups
+                pressed->setEnabled(true); // even for a model without secondary groups
                 visitModal(visit, [pressed] { pressed->click(); });
             };
             table.setCurrentCell(column == Groups ? 1 : 0, column);

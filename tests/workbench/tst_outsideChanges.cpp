@@ -21,7 +21,7 @@ using workbench::OutputState;
 using workbench::TextOutputState;
 
 namespace {
-/// "-" while the bar is closed, else its text and the names of its actions.
+/// Returns "-" if the bar is hidden, otherwise its text and the names of its actions.
 QString bar(const QWidget& window)
 {
     const auto frame = find<QWidget>(window, "ChangeBar");
@@ -52,8 +52,8 @@ void pressButton(QWidget* box, const QString& text)
     qFatal("no such button");
 }
 
-/// A part of the project in its dialog: a change by the user, one by another program, and whether
-/// the dialog, or the project, has the user's.
+/// A part of the project and its dialog: a change by the user, a change by another program, and
+/// functions that return whether the dialog or the project has the user's change.
 struct Part
 {
     std::function<void(QWidget& dialog)> change;
@@ -62,7 +62,7 @@ struct Part
     std::function<bool(const QString& project)> hasMine;
 };
 
-/// By another program.
+/// Changes a row as another program.
 void setRow(const QString& project)
 {
     commandLine({QStringLiteral("rows"), project, QStringLiteral("--set-row"), QStringLiteral("1"),
@@ -126,7 +126,7 @@ Part textOutputPart()
 }
 } // namespace
 
-/// What others do to a project while the window has it open.
+/// Tests changes by other programs to the project that is open in the window.
 class tst_outsideChanges : public ProjectTest
 {
     Q_OBJECT
@@ -167,7 +167,7 @@ private Q_SLOTS:
         const auto groups = find<QTreeWidget>(*window, "GroupList");
         const int groupCount = groups->topLevelItemCount();
         if (event == "mv")
-            QVERIFY(QFile::rename(path("moved.zob"), path("mine.zob"))); // it is back
+            QVERIFY(QFile::rename(path("moved.zob"), path("mine.zob"))); // the file is back
         else if (event != "rm")
             trigger(*window, "Reload");
         if (event != "rm")
@@ -188,8 +188,8 @@ private Q_SLOTS:
         }
     }
 
-    /// The user is asked on OK. The project has the user's state after Overwrite only; the dialog
-    /// shows it again after Go Back, and the newer one after Reload.
+    /// OK asks the user. The project has the user's state only after Overwrite; the dialog shows it
+    /// again after Go Back, and the newer state after Reload.
     void newerIsAskedFor()
     {
         QFETCH(const QByteArray, part);
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(it.hasMine(path("asked.zob")), answer == QLatin1String("&Overwrite"));
     }
 
-    /// A choice that is not stored yet stays with Reload, and its OK asks.
+    /// An unsaved choice survives Reload, and OK then asks.
     void reloadKeepsTheChoice()
     {
         const auto window = open("kept.zob");
@@ -274,7 +274,7 @@ private Q_SLOTS:
         row("replaced, in its place", "cp", "mine.zob", replaced);
     }
 
-    /// Also what is in the dialogs. OK of the design dialog offers Save As by itself.
+    /// Save As includes the input of open dialogs. OK of the design dialog also offers Save As.
     void saveWhatIsOpen()
     {
         QFETCH(const QByteArray, event);
@@ -318,7 +318,7 @@ private Q_SLOTS:
         QVERIFY(records(again) != model);
     }
 
-    /// What one window stores is seen in the other.
+    /// Changes stored by one window are shown by the other.
     void twoWindows()
     {
         const auto mine = open("both.zob");

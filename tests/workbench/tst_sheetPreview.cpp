@@ -22,7 +22,7 @@ using namespace windowtest;
 using namespace workbench;
 
 namespace {
-/// A script of so many plots, on sheets with two rows.
+/// Returns a script of this number of plots, on sheets with two rows.
 QString longScript(int plots)
 {
     return QStringLiteral("SIZE -URS SC 0 SPLI 2x1 MARG NO FORM STAN\nVIEW EG3\n") +
@@ -39,7 +39,7 @@ QStringList captions(const SheetPlan& plan)
     return texts;
 }
 
-/// Chooses the button with this label in the output dialog.
+/// Clicks the button with this label in the output dialog.
 void choose(const QWidget& window, const QString& label)
 {
     for (QRadioButton* button :
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(plan.pictures.last().command, QStringLiteral("H $(SCHR)"));
     }
 
-    /// One picture, though the plot stands in the script twice.
+    /// The plot occurs twice in the script, but has a single picture.
     void twoLoadCasesInOnePicture()
     {
         writeFile(path("cases.txt"), "1 12 12+14: Wind\n");
@@ -160,7 +160,7 @@ private Q_SLOTS:
         row("one line", QStringLiteral("SIZE ") + QStringLiteral("URS ").repeated(100000), 0, 1);
     }
 
-    /// Whatever the text is, its pages can be drawn.
+    /// The pages of any text can be drawn.
     void anyText()
     {
         QFETCH(const QString, script);
@@ -183,7 +183,7 @@ private Q_SLOTS:
 
     void captionsGoToTheirPictures_data()
     {
-        // Load cases, 0 for a plot that stands alone.
+        // Load cases, 0 for a plot without one.
         const Columns<QVector<int>, bool> row("rows", "agree");
         row("alike", {0, 3, 3, 0}, true);
         row("one more", {0, 3, 3, 0, 0}, false);
@@ -251,7 +251,7 @@ private Q_SLOTS:
         QCOMPARE(view->page(), 699);
         QVERIFY(view->accessibleDescription().contains(QLatin1String("BEAM N, Load case 7")));
 
-        // A page that is larger than the view is read to its end first.
+        // A page that is larger than the view is scrolled to its end first.
         find<QComboBox>(preview, "SheetZoom")->setCurrentIndex(SheetView::PageWidth);
         QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
         QCOMPARE(press(view, Qt::Key_PageDown), 700);
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(press(view, Qt::Key_PageUp), 700);
         QVERIFY(view->verticalScrollBar()->value() > 0);
 
-        // A sheet on paper has the sides of the sheet on the screen.
+        // A printed sheet has the same aspect ratio as the sheet on the screen.
         const QSizeF sheet = view->sheetRect().size();
         QVERIFY(qAbs(sheet.width() / sheet.height() - 210.0 / 297.0) < 0.002);
         preview.setPlan(readSheetPlan(longScript(10)));
@@ -270,7 +270,7 @@ private Q_SLOTS:
         QVERIFY(view->sheetRect().isNull());
     }
 
-    /// Plots without a load case to choose can be checked, but there is no picture of them.
+    /// Plots without load cases on offer can be checked, but have no picture.
     void withoutLoadCases()
     {
         const auto window = open("without.zob");
@@ -282,7 +282,7 @@ private Q_SLOTS:
         auto tree = dialog->findChild<QTreeWidget*>();
         for (int top = 0; top < tree->topLevelItemCount(); ++top)
             tree->topLevelItem(top)->setCheckState(0, Qt::Checked);
-        // What had to be taken from the script would be called "MATE LEGE".
+        // A caption taken from the script would be "MATE LEGE".
         QTRY_COMPARE(captions(preview->plan()).first(),
                      QStringLiteral("System \u2013 Overview \u2013 Materials|"));
         for (const SheetPicture& picture : preview->plan().pictures)
@@ -309,13 +309,13 @@ private Q_SLOTS:
         choose(*window, format);
         trigger(*window, "SheetPreviewAction");
         QTRY_COMPARE(window->findChild<SheetPreview*>()->plan().pageCount(), pages);
-        answerFileDialog(path("sheets")); // the suffix comes by itself
+        answerFileDialog(path("sheets")); // the suffix is added
         find<QAbstractButton>(*window, "ExportSheets")->click();
         const QByteArray bytes = readFile(path("sheets.pdf"));
         QVERIFY(bytes.startsWith("%PDF-"));
         QVERIFY(bytes.trimmed().endsWith("%%EOF"));
         QCOMPARE(bytes.count("/MediaBox " + box), pages);
-        QCOMPARE(bytes.count("/Subtype /Image"), 2); // one of all pictures of a view
+        QCOMPARE(bytes.count("/Subtype /Image"), 2); // one for all pictures of a view
     }
 
     void cancelledExport()
@@ -333,7 +333,7 @@ private Q_SLOTS:
                  QStringList{QStringLiteral("kept.pdf")});
     }
 
-    /// The suffix comes by itself, and makes it another file than the dialog asked about.
+    /// The suffix is added, so the file is not the one that the dialog asked about.
     void replacedFileIsAskedFor()
     {
         const auto window = open("export.zob");
@@ -365,7 +365,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// The same sheets from both languages of keywords.
+    /// Scripts with German and with English keywords give the same sheets.
     QVector<SheetPlan> plans(const QStringList& arguments) const
     {
         const QString project = copy("building.zob");

@@ -6,13 +6,13 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// The picture files that the program saves in a folder.
+/// Returns the names of the picture files that the program saves in a folder.
 class TestSnapshots : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Both languages have the same pictures, and the project is not changed.
+    /// The pictures are the same in both languages, and the project does not change.
     void initTestCase()
     {
         run("new slab.zob --model slab");
@@ -28,7 +28,7 @@ private Q_SLOTS:
                  m_names);
     }
 
-    /// All sizes double; letters may be wider by a point or two.
+    /// All sizes are doubled; the width of texts may differ by a point or two.
     void pixelRatio()
     {
         constexpr int Tolerance = 4;
@@ -58,7 +58,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The dialogs of groups cannot be opened without groups.
+    /// Without groups, the group dialogs cannot be opened.
     void modelWithoutGroups()
     {
         QFile file(m_folder.filePath(QStringLiteral("bare.json")));

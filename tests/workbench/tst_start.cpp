@@ -19,7 +19,7 @@ public:
     bool isPainted = false;
 };
 
-/// What a start does at once and what it leaves for later.
+/// Tests the steps of a start that are done at once and those that are postponed.
 class tst_start : public ProjectTest
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ private Q_SLOTS:
         QFETCH(const bool, isShown);
         MainWindow window;
         window.setVisible(isShown);
-        find<QDockWidget>(window, "RecordDock")->setFloating(isShown); // before it has its pane
+        find<QDockWidget>(window, "RecordDock")->setFloating(isShown); // before the pane is created
         const auto groupCount = [&window] {
             return find<QTreeWidget>(window, "GroupList")->topLevelItemCount();
         };
@@ -46,13 +46,13 @@ private Q_SLOTS:
         QTRY_VERIFY(groupCount() > 0);
         QTRY_VERIFY(window.findChild<QTableView*>(QStringLiteral("Records")));
         const int groups = groupCount();
-        // A second project takes the place of the first at once: its file is closed.
+        // A second project replaces the first at once, and the first file is closed.
         makeProject(path("second.zob"), QStringLiteral("slab"));
         QVERIFY(window.openProject(path("second.zob")));
         QVERIFY(groupCount() != groups);
     }
 
-    /// A damaged one is told about in front of a window that is there.
+    /// The message about a damaged project appears after the window is painted.
     void messageIsBehindThePainting()
     {
         writeFile(path("bad.zob"), "no project");
@@ -71,7 +71,8 @@ private Q_SLOTS:
         QVERIFY(wasPainted);
     }
 
-    /// Writing waits for the disk, and leaves out what was added by hand.
+    /// Settings are written only if they change, because writing waits for the disk, and comments
+    /// would be lost.
     void settingsAreWrittenForNewFilesOnly()
     {
         const QString file = path("ini/plib/workbench.ini");

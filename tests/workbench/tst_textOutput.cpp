@@ -16,7 +16,7 @@ using namespace windowtest;
 using namespace workbench;
 
 namespace {
-/// The dialog on a project.
+/// The dialog for a project.
 struct Desk
 {
     explicit Desk(std::unique_ptr<VKD_H_ZOBDoc> opened)
@@ -30,7 +30,7 @@ struct Desk
     TextOutputDialog dialog;
 };
 
-/// Chooses the button with this label in the box with this title.
+/// Clicks the button with this label in the box with this title.
 void choose(const QWidget& dialog, const QString& box, const QString& label)
 {
     const auto buttons = dialog.findChildren<QRadioButton*>();
@@ -52,7 +52,7 @@ QString results(const QWidget& dialog)
     return lines.join(QLatin1Char('\n'));
 }
 
-/// The coupled widgets in which the user can pick.
+/// Returns the names of the coupled widgets that are enabled.
 QString live(const QWidget& dialog)
 {
     QStringList names;
@@ -96,7 +96,7 @@ class tst_textOutput : public ProjectTest
 private Q_SLOTS:
     void choices_data()
     {
-        // The lines stand in place of those of the proposal.
+        // The lines replace those of the default choice.
         const Columns<QString, QString, QString, QString> row("box", "label", "live", "lines");
         row("extent by hand", ExtentBox, "Manually controlled", "extent+combinations", "");
         row("no text", ExtentBox, "No text output", "combinations",
@@ -148,9 +148,9 @@ private Q_SLOTS:
         QCOMPARE(checkedRows(*table), 0);
         choose(desk.dialog, LoadCaseBox, QStringLiteral("All"));
         QCOMPARE(result->text(), all);
-        QCOMPARE(checkedRows(*table), 7); // as the rule has it
+        QCOMPARE(checkedRows(*table), 7); // selected by the rule
         choose(desk.dialog, LoadCaseBox, QStringLiteral("Manually"));
-        QCOMPARE(checkedRows(*table), 0); // what was picked comes back
+        QCOMPARE(checkedRows(*table), 0); // the manual selection is restored
         choose(desk.dialog, LoadCaseBox, QStringLiteral("All"));
         find<QCheckBox>(desk.dialog, "ReactionList")->click();
         QVERIFY(
@@ -180,7 +180,7 @@ private Q_SLOTS:
         row("Non-frequent", 9);
     }
 
-    /// Of a combination whose title is the name of the row.
+    /// The title of the combination is the name of the data row.
     void kinds()
     {
         const QString title = QString::fromUtf8(QTest::currentDataTag());
@@ -196,8 +196,8 @@ private Q_SLOTS:
         }
     }
 
-    /// A kind is on offer as soon as a combination has it; a kept choice of a kind without any is
-    /// none.
+    /// A kind is offered if any combination has it; a saved choice of a kind that no combination
+    /// has is ignored.
     void rowFollowsKinds()
     {
         Desk desk(building());

@@ -20,7 +20,7 @@ using namespace windowtest;
 using workbench::MainWindow;
 
 namespace {
-/// What the command line prints about a project.
+/// Returns the output of the command line for a project.
 QString printed(const char* command, const QString& project, const QString& language,
                 const QStringList& options = {})
 {
@@ -29,7 +29,7 @@ QString printed(const char* command, const QString& project, const QString& lang
         options));
 }
 
-/// As the command line prints it.
+/// Returns the tree as the command line prints it.
 QString treeText(QTreeWidget* tree)
 {
     QString text;
@@ -76,8 +76,8 @@ private Q_SLOTS:
         QVERIFY(window.windowTitle().startsWith(QLatin1String("new.zob[")));
     }
 
-    /// A click shows in the script; a switch of the language keeps the choice; Cancel takes it back
-    /// and OK leaves it in the project.
+    /// A click updates the script; a change of the language preserves the choice; Cancel restores
+    /// the saved choice, and OK saves the new one.
     void scriptFollowsAndIsKept()
     {
         const auto window = open("kept.zob");
@@ -87,7 +87,7 @@ private Q_SLOTS:
             changeChoice(*window);
             QVERIFY(script(*window) != proposed);
             chosen = script(*window);
-            // The short cuts of the window are there in the dialog beside it.
+            // The shortcuts of the window also work in its dialogs.
             const QString saved = path(isKept ? "kept.dat" : "cancelled.dat");
             answerFileDialog(saved);
             QTest::keyClick(find<QDialog>(*window, "OutputDialog"), Qt::Key_S, Qt::ControlModifier);
@@ -96,7 +96,7 @@ private Q_SLOTS:
             QVERIFY(window->isWindowModified());
             trigger(*window, "English");
             QCOMPARE(script(*window), chosen);
-            auto dialog = find<QDialog>(*window, "OutputDialog"); // made anew with the language
+            auto dialog = find<QDialog>(*window, "OutputDialog"); // was recreated
             isKept ? dialog->accept() : dialog->reject();
             QTRY_COMPARE(window->findChildren<QDialog*>(QStringLiteral("OutputDialog")).size(), 1);
             QVERIFY(!window->isWindowModified());
@@ -114,7 +114,7 @@ private Q_SLOTS:
             "\nSIZE URS SC 0 MARG NO FORM STAN\nVIEW TYPE EGXZ ");
     }
 
-    /// What OK left in the project comes out as the window saved it.
+    /// The command line prints the script that the window saved.
     void commandLineTakesTheChoice()
     {
         QFETCH(const QString, buttons);
@@ -141,7 +141,7 @@ private Q_SLOTS:
             QCOMPARE(of("script", {QStringLiteral("--keywords"), keywords}), saved);
         }
         QCOMPARE(of("tree", {}), treeText(plots));
-        QFETCH(const QString, line); // what was changed is there
+        QFETCH(const QString, line); // the result contains the changes
         for (const QString& part : {line, QStringLiteral("\nSCHH H6 0.35\n"),
                                     QStringLiteral("FILLI=AREA\n"), QStringLiteral("\nBRIC SHOW ")})
             QVERIFY2(saved.contains(part), qPrintable(saved));
@@ -150,7 +150,8 @@ private Q_SLOTS:
         QCOMPARE(of("script", {QStringLiteral("--proposed")}), proposed);
     }
 
-    /// Also when the tree is filled anew, as it is by a click in the table of load cases.
+    /// The captions are also translated if the tree is rebuilt by a click in the table of load
+    /// cases.
     void plotsFollowTheLanguage()
     {
         const auto window = open("names.zob");
@@ -177,7 +178,7 @@ private Q_SLOTS:
         row("content, proposed", true, false, R"(\[x\] Bricks in)");
     }
 
-    /// In a new project: something else is on offer, and then the same as before.
+    /// In a new project, the tree offers other plots and then the same as before.
     void choiceOutlastsOffers()
     {
         QFETCH(const bool, isChosen);
@@ -208,18 +209,18 @@ private Q_SLOTS:
                      qPrintable(treeText(plots)));
         offer(false);
         QCOMPARE(filled.size(), 2);
-        QTRY_COMPARE(treeText(plots), before); // once the captions are in English
+        QTRY_COMPARE(treeText(plots), before); // as soon as the captions are in English
     }
 
-    /// A view of one's own is there again, although another one was chosen and kept.
+    /// A camera rotated by the user is restored even if another view was selected and saved.
     void turnedViewIsKept()
     {
         auto window = open("turned.zob");
         trigger(*window, "Output");
-        QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // shows its first view
+        QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // the first view is sent
         find<QAbstractButton>(*window, "PerspectiveGroup_4")->click();
         QTest::keyClick(find<QWidget>(*window, "OutputView"), Qt::Key_Left);
-        const auto camera = [&window] { // in either keyword language
+        const auto camera = [&window] { // with either keyword language
             return QRegularExpression(QStringLiteral("TYPE? STAN (.*)"))
                 .match(script(*window))
                 .captured(1);
@@ -243,7 +244,8 @@ private Q_SLOTS:
         QTRY_COMPARE(camera(), turned);
     }
 
-    /// With the language a dialog is made anew, and so it is after another start.
+    /// A dialog is recreated with the same state after a change of the language and after a
+    /// restart.
     void dialogsStayAsTheyAre()
     {
         const QRect place(20, 30, 1234, 765);
@@ -283,7 +285,7 @@ private Q_SLOTS:
         auto records = find<QTableView>(*window, "Records")->model();
         QCOMPARE(records->rowCount(), 53);
         QCOMPARE(records->headerData(52, Qt::Vertical).toString(), QStringLiteral("sigui [N/mm²]"));
-        // What is below the mouse in the view is marked in the list.
+        // The group under the mouse in the view is highlighted in the list.
         auto groups = find<QTreeWidget>(*window, "GroupList");
         const auto marked = [groups] {
             int rows = 0;
@@ -296,7 +298,7 @@ private Q_SLOTS:
         QTRY_COMPARE(marked(), 1);
         QTest::mouseMove(view, {5, 5});
         QTRY_COMPARE(marked(), 0);
-        // And the group of the row below the mouse is lit up in the view.
+        // The group of the row under the mouse is highlighted in the view.
         const QImage unlit = view->grab().toImage();
         QTest::mouseMove(groups->viewport(),
                          groups->visualItemRect(groups->topLevelItem(2)).center());
@@ -316,7 +318,7 @@ private Q_SLOTS:
         trigger(*window, "Design");
         QVERIFY(isNewRowSeen);
         auto banner = find<QWidget>(*window, "PickBanner");
-        QVERIFY(!window->close()); // the dialog is not done
+        QVERIFY(!window->close()); // the dialog is still open
         const auto pick = [&](const std::vector<int>& rows) {
             for (int row : rows)
                 pickGroup(*window, row);
@@ -324,7 +326,7 @@ private Q_SLOTS:
         };
         QCOMPARE(pick({3}), QStringLiteral("Picked: 4"));
         QCOMPARE(pick({5}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
-        // Another time picking begins with the groups of the row, adds to them and takes away.
+        // Picking again starts with the groups of the row, and adds and removes groups.
         whenModal([](QWidget* dialog) { pickInView(*dialog); });
         find<QPushButton>(*window, "PickDone")->click();
         QCOMPARE(pick({}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
@@ -341,7 +343,7 @@ private Q_SLOTS:
         QCOMPARE(records->columnCount(), before + 2);
     }
 
-    /// OK asks about a group in two rows, and says that a row without groups is kept.
+    /// OK asks about a group in two rows, and reports that a row without groups is saved.
     void rowsThatOkSaysSomethingAbout()
     {
         const auto window = open("rows.zob");
@@ -407,7 +409,7 @@ private Q_SLOTS:
         QTEST(workbench::sharedGroupsQuestion(groups), "question");
     }
 
-    /// In many small steps, as under the mouse.
+    /// Resizes in many small steps, as with the mouse.
     void docksGrowWithTheWindow()
     {
         const auto window = open("docks.zob");
@@ -423,7 +425,7 @@ private Q_SLOTS:
         drag(0, 400);
         QVERIFY2(script->width() > 1.5 * before.width(), QByteArray::number(script->width()));
         QVERIFY2(records->height() > 1.3 * before.height(), QByteArray::number(records->height()));
-        drag(400, -150); // too small for the shares
+        drag(400, -150); // too small for the saved shares
         drag(-150, 0);
         QCOMPARE(QSize(script->width(), records->height()), before);
     }

@@ -22,7 +22,7 @@ QList<QAction*> windowActions(const MainWindow& window)
     return actions;
 }
 
-/// One object may destroy others.
+/// Returns guarded pointers, because one object may destroy others.
 template <class Object>
 QList<QPointer<Object>> pointers(const QList<Object*>& objects)
 {
@@ -30,12 +30,12 @@ QList<QPointer<Object>> pointers(const QList<Object*>& objects)
 }
 } // namespace
 
-/// What can be pressed in the window, with and without a project.
+/// Tests the actions and buttons of the window, with and without a project.
 class tst_windowActions : public ProjectTest
 {
     Q_OBJECT
 
-    /// A project without a model, or one for which groups are being picked.
+    /// Opens a project without a model, or one for which groups are being picked.
     void openEmptyOrPicking(MainWindow& window) const
     {
         if (qstrcmp(QTest::currentDataTag(), "empty project") == 0) {
@@ -65,13 +65,13 @@ private Q_SLOTS:
         const QString script =
             QStringLiteral(" CopyScriptAction ExportSheetsAction SaveScriptAction View");
         row("no project", always + unlessPicking);
-        row("empty project", // which has a script none the less
+        row("empty project", // even this project has a script
             always + unlessPicking + script +
                 QLatin1String(" Design Output Reload SaveAs SheetPreviewAction TextOutput"));
         row("picking", always + script);
     }
 
-    /// All that can be pressed works, and leaves the window in order.
+    /// All actions and buttons work, and the window remains usable.
     void everyAction()
     {
         MainWindow window;
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QVERIFY(window.close());
         for (const auto& widget : pointers(QApplication::topLevelWidgets()))
             if (widget)
-                widget->close(); // the help
+                widget->close(); // the help window
     }
 };
 

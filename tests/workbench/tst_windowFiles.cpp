@@ -28,7 +28,7 @@ QStringList recentFiles(const QWidget& window)
     return paths;
 }
 
-/// The window that is shown by runWindow().
+/// Returns the window that runWindow() shows.
 MainWindow* shownWindow()
 {
     for (QWidget* widget : QApplication::topLevelWidgets())
@@ -38,7 +38,7 @@ MainWindow* shownWindow()
     return nullptr;
 }
 
-/// Saves the project in this file, over one that is there.
+/// Saves the project under this name, replacing an existing file.
 void saveAs(const MainWindow& window, const QString& path, QStringList* messages = nullptr)
 {
     whenModal([&](QWidget* dialog) {
@@ -73,8 +73,8 @@ private Q_SLOTS:
         row("beside a journal", "crashed.zob", "crashed.zob");
     }
 
-    /// The choices go along, their dialogs stay open, and what another program has not stored yet
-    /// is not in the copy.
+    /// The choices are copied and their dialogs stay open; changes that another program has not
+    /// committed are not copied.
     void savedAs()
     {
         QFETCH(const QByteArray, place);
@@ -157,7 +157,7 @@ private Q_SLOTS:
         row("new project", "NewFromSample", true);
     }
 
-    /// Another name is asked for, though the user agreed to replace the file.
+    /// The user must enter another name, even after agreeing to replace the file.
     void openProjectIsNotReplaced()
     {
         QFETCH(const QByteArray, action);
@@ -196,7 +196,7 @@ private Q_SLOTS:
             QVERIFY(window->openProject(copy(name)));
             expected.prepend(path(name));
         }
-        expected.removeLast(); // eight are kept
+        expected.removeLast(); // the list has eight entries
         QCOMPARE(recentFiles(*window), expected);
         QFile::link(path("4.zob"), path("link.zob"));
         QVERIFY(window->openProject(path("../") + QDir(m_folder->path()).dirName() +
@@ -217,7 +217,7 @@ private Q_SLOTS:
 
     void drops_data()
     {
-        const Columns<QStringList, QByteArray> row("dragged", "opened"); // nothing: not taken
+        const Columns<QStringList, QByteArray> row("dragged", "opened"); // empty: refused
         const QString other = QStringLiteral("other.zob"), model = QStringLiteral("model.JSON");
         row("project", {other}, "other.zob");
         row("model", {model}, "made.zob");
@@ -229,7 +229,8 @@ private Q_SLOTS:
         row("text", {}, "");
     }
 
-    /// On a pane that has no use for files, and moved by the file manager, which would delete it.
+    /// The drop is on a pane that does not use files, and is a move, after which the file manager
+    /// would delete the file.
     void drops()
     {
         QFETCH(const QStringList, dragged);
@@ -259,7 +260,7 @@ private Q_SLOTS:
         QApplication::sendEvent(target, &drop);
         QVERIFY(drop.isAccepted());
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
-        if (opened == "made.zob") // the model's project, whose name is asked for
+        if (opened == "made.zob") // the user enters the name of the model's project
             answerFileDialog(path(opened));
         QTRY_VERIFY(window->windowTitle().startsWith(QString::fromUtf8(opened)));
     }
@@ -283,7 +284,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path("new.zob")));
     }
 
-    /// Also what is named on the command line and cannot be opened leaves a window to work with.
+    /// If a file on the command line cannot be opened, a usable window is still shown.
     void keptBetweenStarts()
     {
         QSize size;

@@ -42,7 +42,7 @@ class tst_windowProject : public ProjectTest
 private Q_SLOTS:
     void unusableFiles_data()
     {
-        // "-" for nothing there, "/" for a folder
+        // "-" means no file, "/" a folder
         const Columns<QByteArray, QString, QString> row("content", "english", "german");
         const QByteArray noise("\x93\x07\xFE\x5A\xC1\x88\x33\xD6");
         const auto patched = [this](int offset, const QByteArray& bytes) {
@@ -61,7 +61,7 @@ private Q_SLOTS:
         row("a bad page", patched(5 * 4096, noise), damaged, kaputt);
     }
 
-    /// Told once and in a sentence, and the project before goes on.
+    /// The error is reported once, in one sentence, and the previous project stays open.
     void unusableFiles()
     {
         QFETCH(const QByteArray, content);
@@ -117,7 +117,7 @@ private Q_SLOTS:
         row("until it is free", 60000, "free");
     }
 
-    /// While another program stores, the window waits where one sees it.
+    /// While another program stores, the window shows that it is waiting.
     void projectInUse()
     {
         QFETCH(const int, deadline);
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(!QApplication::overrideCursor());
     }
 
-    /// The dialog works on a copy of the records, which needs the kind of system, too.
+    /// The dialog works on a copy of the records, which also needs the kind of system.
     void planeSystemHasNoDistances()
     {
         {
@@ -212,8 +212,8 @@ private Q_SLOTS:
         QCOMPARE(again, entered);
     }
 
-    /// OK in the output dialog while another program holds the project: the choice stays on the
-    /// screen and is asked for.
+    /// OK in the output dialog while another program locks the project: the choice stays in the
+    /// dialog and counts as unsaved.
     void choiceIsNotLost()
     {
         const auto window = open("choice.zob");
@@ -251,8 +251,8 @@ private Q_SLOTS:
                  QStringLiteral("It or the folder it lies in is write-protected."));
     }
 
-    /// While another program stores: no script rather than that of a choice which is gone, and no
-    /// dialog that would show less than the project holds.
+    /// While another program stores, there is no script instead of one for an outdated choice, and
+    /// no dialog that would show only a part of the project.
     void unreadable()
     {
         const auto window = open("unreadable.zob");
@@ -263,7 +263,7 @@ private Q_SLOTS:
         QStringList messages;
         readMessage(messages);
         QMetaObject::invokeMethod(find<QDialog>(*window, "OutputDialog"), "reject",
-                                  Qt::QueuedConnection); // within the loop of events
+                                  Qt::QueuedConnection); // called by the event loop
         QTRY_COMPARE(messages.size(), 1);
         readMessage(messages);
         trigger(*window, "TextOutput");
