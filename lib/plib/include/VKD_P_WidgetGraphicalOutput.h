@@ -31,7 +31,7 @@ public:
                                 VKD_H_PluginParameter* parameter, AnimatorView* animator);
     ~VKD_P_WidgetGraphicalOutput() override;
 
-    /// Whether the host may leave the page. Always returns true.
+    /// Returns whether the host may leave the page; always true.
     bool checkVals();
 
     /// Returns the script. It is empty if no plot is checked, whatever `additional` contains. This

@@ -32,7 +32,7 @@ public:
     static constexpr int NoGroup = -1;
 
     /// Shows the model of the project at this database index. Below 1 there is no project, and the
-    /// view shows a sentence instead.
+    /// view shows a message instead.
     explicit AnimatorView(int index, QWidget* parent = nullptr, const char* name = "AnimatorView");
     ~AnimatorView() override;
 

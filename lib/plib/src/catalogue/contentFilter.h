@@ -75,7 +75,7 @@ int systemBit(int kind);
 /// Returns whether a tree of this kind of page offers the plot. This depends on the kinds of page
 /// and of system, on the content of the model and the tags in `additional`, and on the captions,
 /// none of which may be empty. Tags in `additional` are compared case sensitively, unlike those
-/// that the model answers.
+/// for the content of the model.
 bool isRecordOffered(const GraphicalOutputRecord& record, int progname, const ModelQueries& model,
                      const std::list<QString>& additional);
 
