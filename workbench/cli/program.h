@@ -4,9 +4,9 @@
 
 namespace workbench {
 
-/// Must be called first in main(): holds back the platform's log lines, sets the language of the
-/// desktop, and the name and version of the application. All programs of the
-/// workbench are one application to the user and have one name.
+/// Must be called first in main(): holds back the platform's log lines, and sets the desktop's
+/// language and the name and version of the application. All programs of the workbench are one
+/// application to the user and have one name.
 void beginProgram();
 
 /// Returns the arguments of main() without the name of the program.

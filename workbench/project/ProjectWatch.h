@@ -8,8 +8,7 @@ namespace workbench {
 
 /// Watches an open project for changes by other programs and for its file being deleted, moved or
 /// replaced. The operating system reports changes of the file; a slow timer checks files on drives
-/// without such reports.
-/// A check is cheap and does not make other programs wait.
+/// without such reports. A check is cheap and does not make other programs wait.
 class ProjectWatch : public QObject
 {
     Q_OBJECT

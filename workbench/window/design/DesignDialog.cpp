@@ -28,7 +28,7 @@ constexpr int OkAndCancel = 3;
 
 using vkd::zob::keys::Design;
 
-/// Puts the design records of a store in place of those of another one.
+/// Replaces the design records of one store by those of another.
 cd_error_t copyRecords(int from, int to)
 {
     int length = 0;
@@ -104,7 +104,7 @@ void DesignDialog::showPage()
     delete m_page;
     delete m_buttons;
     m_page = new VKD_P_DesignParameter(m_project->document(), m_desk.get(), this, false, false);
-    m_page->init(); // ahead of the buttons, which Tab reaches last
+    m_page->init(); // before the buttons, which come last in the tab order
     m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
     layout()->addWidget(m_page);
     layout()->addWidget(m_buttons);
@@ -123,7 +123,7 @@ cd_error_t DesignDialog::store(SeenPart::Newer newer)
     return m_project->store(ProjectPart::Design, put, newer);
 }
 
-/// The entries belong to a project, so those of the page are put into the other one's.
+/// The entries belong to a project, so the page's entries are copied to the other project.
 void DesignDialog::continueWithCopy()
 {
     m_entries = VKD_H_ProjectDialogPage(m_project->index(), DesignDialogPage);

@@ -15,9 +15,9 @@ namespace workbench {
 
 class OpenProject;
 
-/// The design parameters of a project, with OK and Cancel. exec() may also answer
-/// VKD_H_SelGRP_Dialog::PickOutside: then the groups are to be picked in the view, and the same
-/// dialog is to be shown again.
+/// The design parameters of a project, with OK and Cancel. exec() may also return
+/// VKD_H_SelGRP_Dialog::PickOutside: then the caller must let the user pick groups in the view and
+/// show the same dialog again.
 ///
 /// The page works on the scratch store. When a page writes, it converts its rows to the stored form
 /// and cannot undo this. So records that the project refuses stay in the scratch store, and a new
@@ -34,14 +34,15 @@ public:
     /// Reads the records and texts of the project. Returns a VkdZobStatus. Call showPage() next.
     cd_error_t load();
     /// Writes the accepted rows into the project, completely or not at all. Returns a VkdZobStatus,
-    /// or PartChanged if a newer state in the project is to be kept. It can be called again.
+    /// or PartChanged if the project has a newer state that must not be replaced. It can be called
+    /// again.
     cd_error_t store(SeenPart::Newer newer);
     /// Creates a new page with the rows that were read or accepted, before the dialog is shown.
     void showPage();
     /// Must be called after the project was replaced by a copy: store() writes into the copy.
     void continueWithCopy();
 
-    /// Returns how many of the accepted rows have no groups. They have no record and are saved with
+    /// Returns the number of accepted rows without groups. They have no record and are saved with
     /// the texts of the page.
     int rowsWithoutGroups() const;
 

@@ -58,7 +58,7 @@ void DesignEditor::run()
         m_messages->say(tr("The design parameters stay as they were."));
 }
 
-/// Returns false if the dialog is to be shown again.
+/// Returns false if the dialog must be shown again.
 bool DesignEditor::store()
 {
     if (m_project->check() != ProjectWatch::File::Present)
@@ -120,7 +120,8 @@ void DesignEditor::startPicking()
     m_messages->say(tr("Pick groups in the view, or by Enter in the list of groups."));
 }
 
-/// The dialog takes the groups from the project. If they cannot be stored, they stay picked.
+/// The dialog takes the groups from the project. If they cannot be stored, the user can go on
+/// picking.
 void DesignEditor::takePicked()
 {
     const auto put = [this] {

@@ -27,8 +27,8 @@ public:
     DesignEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
                  AnimatorView* view, PickBanner* banner);
     ~DesignEditor() override;
-    /// Sets the function that saves the project under another name and opens it. It returns whether
-    /// it did. The user cannot reach the window's action while the dialog is open.
+    /// Sets the function that saves the project under another name, opens it and returns whether it
+    /// succeeded. The user cannot reach the window's action while the dialog is open.
     void setSaveAs(const std::function<bool()>& saveAs) { m_saveAs = saveAs; }
     /// Sets the groups for which the banner warns that they have no area elements, ascending.
     void setGroupsWithoutAreas(const std::vector<int>& groups) { m_groupsWithoutAreas = groups; }
@@ -37,8 +37,8 @@ public:
     void edit();
     /// Returns whether the dialog is open, or hidden for picking.
     bool isActive() const { return bool(m_dialog); }
-    /// Picks a group that was chosen by the keyboard, or removes it. Does nothing unless the user
-    /// picks groups.
+    /// Adds a group that was chosen with the keyboard to the picked groups, or removes it from
+    /// them. Does nothing unless the user is picking groups.
     void pick(int group);
 
 Q_SIGNALS:

@@ -88,7 +88,7 @@ void PickBanner::setTexts()
     std::set_intersection(m_groups.begin(), m_groups.end(), m_withoutAreas.begin(),
                           m_withoutAreas.end(), std::back_inserter(unfit));
     m_what->setText(tr("Pick groups in the view, then press Done."));
-    // In one line: showing and hiding a second one would move the view below the mouse.
+    // Uses a single line: showing and hiding a second one would move the view under the mouse.
     if (m_groups.empty())
         m_picked->setText(tr("No group is picked yet."));
     else if (unfit.empty())

@@ -10,8 +10,8 @@ class QToolButton;
 
 namespace workbench {
 
-/// A bar above the view that reports changes to the open project by other programs, or that its
-/// file is gone, with the actions that help. The user can close it until the next report.
+/// A bar above the view that reports changes to the open project by other programs or the loss of
+/// its file, and offers suitable actions. The user can close it until the next report.
 class ChangeBar : public QFrame
 {
     Q_OBJECT
@@ -19,8 +19,8 @@ class ChangeBar : public QFrame
 public:
     ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent);
 
-    /// Shows the bar if `isChanged` or if the file has got lost since the last report; hides it if
-    /// the file is present again.
+    /// Shows the bar if `isChanged` is set or if the file was lost since the last report; hides it
+    /// if the file is present again.
     void report(bool isChanged, ProjectWatch::File file);
     /// Hides the bar, for another project.
     void reset();

@@ -31,7 +31,7 @@ void DockShares::add(const QList<QDockWidget*>& docks, Qt::Orientation orientati
 }
 
 /// When this filter gets the event of the window, the docks are already laid out. If a dock changes
-/// while the window has its old size, the user has changed it, otherwise the layout.
+/// while the window has its old size, the user has resized the dock; otherwise the layout has.
 bool DockShares::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show && watched == m_window)
@@ -45,7 +45,7 @@ bool DockShares::eventFilter(QObject* watched, QEvent* event)
                 takeShare(entry, m_size);
         return false;
     }
-    const QSize before = std::exchange(m_size, QSize()); // meanwhile no change is the user's
+    const QSize before = std::exchange(m_size, QSize()); // no change counts until then
     if (before.isValid() && !std::exchange(m_isRestored, false))
         giveShares(before);
     m_size = m_window->size();
@@ -72,7 +72,7 @@ void DockShares::giveShares(const QSize& before)
         const int wanted = qRound(entry.share * along(m_window->size(), entry.orientation));
         m_window->resizeDocks({dock}, {wanted}, entry.orientation);
     }
-    m_window->layout()->activate(); // now: a later event would look like the user's
+    m_window->layout()->activate(); // now, because a later event would count as the user's
 }
 
 QDockWidget* DockShares::shownDock(const Entry& entry) const

@@ -53,7 +53,7 @@ void FileCommands::connectActions(const WindowActions& actions)
     on(actions.reload, &FileCommands::reload);
     on(actions.saveAs, &FileCommands::saveAs);
     connect(actions.recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
-        leaveFor(file->data().toString()); // by value: the menu is rebuilt meanwhile
+        leaveFor(file->data().toString()); // a copy, because the menu is rebuilt meanwhile
     });
 }
 
@@ -187,8 +187,8 @@ VkdStatus FileCommands::showModel(int index)
     return m_parts.view->setProject(index, [&work](int) { return work.goOn(0); });
 }
 
-/// Shows all but the model. Returns whether everything was read. The snapshot excludes other
-/// programs, so every new failure is one of reading.
+/// Shows the project except for the model. Returns whether everything was read. The snapshot
+/// excludes other programs, so every new failure is a read error.
 bool FileCommands::showContents()
 {
     const int index = m_parts.project->index();

@@ -20,7 +20,7 @@ class TextOutputEditor;
 class WindowActions;
 class WindowMessages;
 
-/// The parts of the main window that take part when the project changes.
+/// The parts of the main window that FileCommands uses.
 struct ProjectParts
 {
     OpenProject* project;
@@ -45,9 +45,9 @@ public:
     /// Replaces the open project. If the file cannot be opened, shows a message and changes
     /// nothing.
     bool open(const QString& path);
-    /// Opens a file after the window was painted first: a message or a slow disk would delay that.
+    /// Opens a file after the window is first painted: a message or a slow disk would delay that.
     void openAfterPainting(const QString& path) { m_pathToOpen = path; }
-    /// To be called after each painting of the window.
+    /// Must be called after each painting of the window.
     void painted();
     /// Opens a dropped project, or creates a project from a dropped model file.
     void openDropped(const QString& path);
@@ -58,9 +58,9 @@ public:
     bool mayLeave();
 
 Q_SIGNALS:
-    /// Emitted after the project was replaced by another one or by none, before it is shown.
+    /// Emitted after the open project was replaced or closed, before the new one is shown.
     void replaced();
-    /// Emitted when all but the model of the project has to be shown.
+    /// Emitted when the window must show the project, except for the model.
     void opened();
 
 private:

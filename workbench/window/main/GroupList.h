@@ -6,9 +6,9 @@
 
 namespace workbench {
 
-/// The primary groups of a project with number, title and contents. It emits the group that the
-/// user points at, with the mouse or the keyboard, and marks the group that is pointed at in the
-/// model.
+/// The primary groups of a project with number, title and contents. It emits a signal for the group
+/// that the user points at, with the mouse or the keyboard, and marks the group that the user
+/// points at in the model.
 class GroupList : public QTreeWidget
 {
     Q_OBJECT
@@ -25,8 +25,8 @@ public:
     const std::vector<int>& groupsWithoutAreas() const { return m_withoutAreas; }
 
 Q_SIGNALS:
-    /// Emitted when another group is pointed at: the group below the mouse, otherwise the current
-    /// group while the list has the focus, otherwise AnimatorView::NoGroup.
+    /// Emitted when the user points at another group: the group under the mouse, otherwise the
+    /// current group while the list has the focus, otherwise AnimatorView::NoGroup.
     void groupPointed(int group);
     /// Emitted when the user activates a group by Enter or a double click.
     void groupChosen(int group);

@@ -142,7 +142,7 @@ void MainWindow::changeEvent(QEvent* event)
         setTexts();
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_project.check();
-        QTimer::singleShot(0, this, &MainWindow::showNews); // which a modal dialog has delayed
+        QTimer::singleShot(0, this, &MainWindow::showNews); // delayed by a modal dialog
     }
 }
 
@@ -197,7 +197,7 @@ void MainWindow::showReplaced()
         showContents();
 }
 
-/// Shows all but the model. The script comes last, since its page takes longest.
+/// Shows the project except for the model. The script comes last, since its page takes longest.
 void MainWindow::showProject()
 {
     const WaitCursor cursor;
@@ -238,8 +238,8 @@ void MainWindow::showNews()
     m_panes->news->report(isChanged, m_project.file());
 }
 
-/// Reloads records and script, but no choice that the user sees or has changed. The rest follows
-/// with the action Reload.
+/// Reloads records and script, but no choice that the user sees or has changed. The action Reload
+/// loads the rest.
 void MainWindow::followOthers()
 {
     if (m_project.readStatus() != VKD_ZOB_OK)

@@ -22,8 +22,8 @@ class WindowPanes;
 /// The desktop around the library's pages. It connects its panes and actions with the classes that
 /// do the work: an editor for each dialog, and FileCommands for projects.
 ///
-/// OK in a dialog writes into the project file at once. Only the choice in an open dialog of an
-/// output may be unsaved, and the window asks for it before the project is left.
+/// OK in a dialog writes to the project file at once. Only the choice in an open output dialog may
+/// be unsaved, and the window asks about it before the project is closed.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -34,10 +34,10 @@ public:
                         QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Opens a project in place of the present one. If it cannot be opened, shows a message and
-    /// keeps the present one.
+    /// Replaces the open project. If the new one cannot be opened, shows a message and changes
+    /// nothing.
     bool openProject(const QString& path);
-    /// Opens a project after the window was painted first.
+    /// Opens a project after the window is first painted.
     void openAfterPainting(const QString& path);
 
 protected:

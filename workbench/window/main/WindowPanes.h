@@ -42,7 +42,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    // In the order of Tab, which is column by column; the records follow the view.
+    // In tab order: column by column; the records follow the view.
     GroupList* const groups;
     ChangeBar* const news;
     PickBanner* const banner;

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// Shows the window on a project, or empty without a path, until the user closes it. Needs a
-/// QApplication. The result is the exit code.
+/// Shows the window with a project, or without one if the path is empty, until the user closes it.
+/// Needs a QApplication. Returns the exit code.
 int runWindow(const QString& path);
 
 } // namespace workbench

@@ -32,9 +32,9 @@ namespace {
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
-/// Creates the page in the language of the first page of the process and changes it to the present
-/// one afterwards. A page created in a second language would load the catalogue again and offer
-/// each plot twice.
+/// Creates the page in the language of the first page of the process and then changes it to the
+/// current one. A page created in a second language would load the catalogue again and offer each
+/// plot twice.
 VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
                                      AnimatorView* view)
 {
@@ -147,13 +147,14 @@ void OutputDialog::restore(const OutputState& saved)
     }
     offerLoadCases();
     m_choice.setProposed();
-    vkd::dbo::setCamera(vkd::dbo::DesktopCamera, vkd::dbo::Camera()); // not the one of before
+    vkd::dbo::setCamera(vkd::dbo::DesktopCamera, vkd::dbo::Camera()); // not the previous one
     if (!saved.page.isEmpty())
         m_page->readXMLstring(saved.page);
 }
 
-/// After each change of the offer, the tree is rebuilt once and the user's plots are checked again.
-/// The library's binding of a table is not used, because it offers plain load cases only.
+/// After each change of the offered load cases or contents, the tree is rebuilt once and the user's
+/// plots are checked again. The library's binding of a table is not used, because it offers plain
+/// load cases only.
 void OutputDialog::bindOffers()
 {
     connect(m_loadCases, &QTableWidget::itemChanged, this, [this] {

@@ -46,7 +46,7 @@ public:
     /// Returns the script of the current choice with English or German keywords; empty if no plot
     /// is checked.
     QString script(bool english);
-    /// What the script draws, as it is called in the tree of the page.
+    /// Returns the captions of the plots that the script draws, as shown in the tree of the page.
     QVector<PlotCaption> captions();
     /// Returns the state that is saved in the project.
     OutputState state();

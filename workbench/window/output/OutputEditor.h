@@ -35,7 +35,7 @@ public:
     /// Returns the dialog; creates it with the state of the project if it does not exist. Returns
     /// null, after an error message, if the project cannot be read.
     OutputDialog* dialog();
-    /// Returns what recreate() needs, if the dialog exists.
+    /// Returns the state for recreate(); nothing if the dialog does not exist.
     std::optional<OutputPresent> present() const;
     /// Returns whether the dialog contains changes that are not stored.
     bool isChanged() const;
@@ -44,9 +44,9 @@ public:
     /// Asks whether to store changes. Returns false if the user cancels or storing fails.
     bool mayLeave();
 
-    /// Shows the dialog; the first time at this place of the screen.
+    /// Shows the dialog; `place` is its position on the screen when it is shown first.
     void show(const QPoint& place);
-    /// Creates a new dialog with the present of a previous one.
+    /// Creates a new dialog with the state of a previous one.
     void recreate(const OutputPresent& before);
     /// Destroys the dialog without asking.
     void close();
@@ -59,7 +59,7 @@ Q_SIGNALS:
     void choiceChanged();
     /// Emitted when isChanged() may have changed.
     void modified();
-    /// Emitted after OK, if the choice could not be stored: the dialog has to be shown again.
+    /// Emitted after OK, if the choice could not be stored: the dialog must be shown again.
     void refused();
 
 private:

@@ -19,7 +19,8 @@ public:
 
     /// Takes the plots that the page shows as the proposal of the catalogue.
     void setProposed();
-    /// Must be called before each change of the offer, and giveBack() after it.
+    /// Must be called before each change of the offered load cases or contents, and giveBack()
+    /// after it.
     void remember();
     void giveBack();
 
@@ -30,7 +31,7 @@ private:
     VKD_P_WidgetGraphicalOutput* m_page;
     AnimatorView* m_view;
     QString m_chosen; ///< the selection text of the user's plots; null for the proposal
-    QString m_shown;  ///< the part of it that the page could show after the last change
+    QString m_shown;  ///< the part of the text that the page could show after the last change
 };
 
 } // namespace workbench

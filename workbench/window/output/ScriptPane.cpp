@@ -123,7 +123,7 @@ void ScriptPane::setTexts()
 void ScriptPane::show(const QString& script)
 {
     const int place = m_text->verticalScrollBar()->value();
-    if (m_script.isEmpty() && !script.isEmpty()) // searching the font takes time
+    if (m_script.isEmpty() && !script.isEmpty()) // searching for the font takes time
         m_text->setFont(fixedFont());
     m_script = script;
     m_text->setExtraSelections({}); // each inserted line would move all of them

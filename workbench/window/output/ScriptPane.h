@@ -47,7 +47,7 @@ private:
     QString m_script;
     QVector<int> m_changed;
     QLabel* m_languageLabel;
-    // In the order of Tab.
+    // In tab order.
     QComboBox* m_language;
     QToolButton* m_copy;
     QToolButton* m_save;

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace workbench {
 
-/// Lets the user drop a file on a window. The window only reads the file, so it accepts copying
-/// alone: a source that moves a file deletes it after the drop.
+/// Lets the user drop a file on a window. The window only reads the file, so it accepts only
+/// copying: a source that moves a file deletes it after the drop.
 class FileDrop : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ class ProjectAccess
     Q_DECLARE_TR_FUNCTIONS(workbench::ProjectAccess)
 
 public:
-    /// What became of storing a part. Reload: the user wants the newer state of the project.
+    /// The result of storing a part. Reload: the user wants the newer state of the project.
     enum class Stored { Yes, No, Reload };
 
     /// Neither is owned.

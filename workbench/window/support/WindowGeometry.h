@@ -13,7 +13,7 @@ class WindowGeometry : public QObject
     Q_OBJECT
 
 public:
-    /// Restores the geometry. Before, the window must have the size for its first appearance.
+    /// Restores the geometry. The window must already have the size for its first appearance.
     explicit WindowGeometry(QWidget* window);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

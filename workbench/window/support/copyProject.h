@@ -12,8 +12,8 @@ class ZobFilePlace;
 
 namespace workbench {
 
-/// Takes the place of a project file, see ZobFilePlace, and waits while another program is writing
-/// to a project that is already there. Returns the status of the place, or VKD_ZOB_CANCELLED.
+/// Reserves the path of a project file, see ZobFilePlace, and waits while another program is
+/// writing to a project at this path. Returns the status of the place, or VKD_ZOB_CANCELLED.
 cd_error_t takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place);
 
 /// Copies an open project, as of the last stored change, to `path`. An existing file is replaced in

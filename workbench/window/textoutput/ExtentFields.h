@@ -17,7 +17,8 @@ public:
     enum List { System = 1, Loads = 2, Displacements = 4, Forces = 8, Reactions = 16 };
     static constexpr int ResultLists = Displacements | Forces | Reactions;
     static constexpr int AllLists = System | Loads | ResultLists;
-    /// Not the forces and displacements: for a whole model they are long, and few users read them.
+    /// The forces and displacements are not included: for a whole model they are long, and few
+    /// users read them.
     static constexpr int DefaultLists = System | Loads | Reactions;
 
     explicit ExtentFields(QWidget* parent);

@@ -196,7 +196,7 @@ TextOutputState TextOutputDialog::state() const
 void TextOutputDialog::setState(const TextOutputState& state)
 {
     {
-        // Between these steps the dialog is partly the old one and must not be painted.
+        // Between these steps the dialog shows parts of two states and must not be painted.
         const QSignalBlocker fields(m_fields);
         const QSignalBlocker loadCaseTable(m_loadCaseTable);
         const QSignalBlocker combinationTable(m_combinationTable);

@@ -42,7 +42,7 @@ public:
     void show();
     /// Opens a new dialog with a state that is not the one in the project.
     void reopen(const TextOutputState& state);
-    /// Replaces the open dialog by a new one, which has the texts of the present language.
+    /// Replaces the open dialog by a new one with texts in the current language.
     void recreate();
     /// Destroys the dialog without asking.
     void close();
