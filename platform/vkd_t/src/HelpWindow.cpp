@@ -1,7 +1,7 @@
 #include "HelpWindow.h"
 
 #include "HelpBrowser.h"
-#include "WindowTie.h"
+#include "TransientParent.h"
 
 #include <vkd_lib_value.h>
 #include <vkd_qt_icon_named.h>
@@ -36,7 +36,7 @@ void setTexts(QAction* action, const QString& text)
 } // namespace
 
 HelpWindow::HelpWindow()
-    : m_tie(new WindowTie(this))
+    : m_transientParent(new TransientParent(this))
 {
     setObjectName(QStringLiteral("VKD_T_Help"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -61,7 +61,7 @@ void HelpWindow::open(const HelpBook& book, int topic)
 
 void HelpWindow::showFor(QWidget* caller)
 {
-    m_tie->tieTo(caller);
+    m_transientParent->follow(caller);
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();

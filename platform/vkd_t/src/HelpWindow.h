@@ -11,10 +11,10 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
-class WindowTie;
+class TransientParent;
 
 /// The help window: the page, the list of topics and search results at its left, and the tool bar.
-/// The book, the search and the browser find texts; the WindowTie sets the transient parent.
+/// The book, the search and the browser find texts; the TransientParent sets the transient parent.
 class HelpWindow : public QMainWindow
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ private:
     void findNext(bool backward);
     void updateSidePane();
 
-    WindowTie* m_tie;
+    TransientParent* m_transientParent;
     QAction* m_back = nullptr;
     QAction* m_forward = nullptr;
     QAction* m_showContents = nullptr;

@@ -1,4 +1,4 @@
-#include "WindowTie.h"
+#include "TransientParent.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -20,14 +20,14 @@ QWindow* nativeWindow(QWidget* window)
 }
 } // namespace
 
-WindowTie::WindowTie(QWidget* window)
+TransientParent::TransientParent(QWidget* window)
     : QObject(window)
     , m_window(window)
 {
     m_window->installEventFilter(this);
 }
 
-void WindowTie::tieTo(QWidget* widget)
+void TransientParent::follow(QWidget* widget)
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         setHost(modal->window());
@@ -35,16 +35,17 @@ void WindowTie::tieTo(QWidget* widget)
         setHost(windowOf(widget));
 }
 
-bool WindowTie::eventFilter(QObject* watched, QEvent* event)
+bool TransientParent::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_window && event->type() == QEvent::WindowBlocked)
-        QTimer::singleShot(0, this, &WindowTie::followModal); // the dialog is not fully shown yet
+        QTimer::singleShot(0, this,
+                           &TransientParent::followModal); // the dialog is not fully shown yet
     if (event->type() == QEvent::Hide && m_hosts.size() > 1 && watched == m_hosts.first())
         drop(m_hosts.first());
     return QObject::eventFilter(watched, event);
 }
 
-void WindowTie::setHost(QWidget* host)
+void TransientParent::setHost(QWidget* host)
 {
     for (QWidget* before : qAsConst(m_hosts))
         forget(before);
@@ -53,10 +54,10 @@ void WindowTie::setHost(QWidget* host)
         m_hosts.append(next);
         connect(next, &QObject::destroyed, this, [this, next] { drop(next); });
     }
-    tieToHost();
+    applyHost();
 }
 
-void WindowTie::tieToHost()
+void TransientParent::applyHost()
 {
     QWidget* host = m_hosts.value(0);
     if (host)
@@ -64,13 +65,13 @@ void WindowTie::tieToHost()
     nativeWindow(m_window)->setTransientParent(nativeWindow(host));
 }
 
-void WindowTie::followModal()
+void TransientParent::followModal()
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         setHost(modal->window());
 }
 
-void WindowTie::drop(QWidget* gone)
+void TransientParent::drop(QWidget* gone)
 {
     const bool wasHost = gone == m_hosts.first();
     forget(gone);
@@ -78,10 +79,10 @@ void WindowTie::drop(QWidget* gone)
     if (m_hosts.isEmpty())
         m_window->close();
     else if (wasHost)
-        tieToHost();
+        applyHost();
 }
 
-void WindowTie::forget(QWidget* window)
+void TransientParent::forget(QWidget* window)
 {
     window->removeEventFilter(this);
     disconnect(window, nullptr, this, nullptr);

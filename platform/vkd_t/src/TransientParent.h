@@ -10,22 +10,22 @@
 ///
 /// A modal dialog that would block the window becomes its host. When the dialog closes, the next
 /// host is the window that the dialog belongs to. The window closes with its last host.
-class WindowTie : public QObject
+class TransientParent : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window becomes the owner of the tie.
-    explicit WindowTie(QWidget* window);
+    /// The window becomes the owner of this object.
+    explicit TransientParent(QWidget* window);
 
     /// Makes the active modal dialog the host, or else the window of `widget`, which may be null.
-    void tieTo(QWidget* widget);
+    void follow(QWidget* widget);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void setHost(QWidget* host);
-    void tieToHost();
+    void applyHost();
     void followModal();
     void drop(QWidget* gone);
     void forget(QWidget* window);
