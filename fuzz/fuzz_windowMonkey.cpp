@@ -112,8 +112,8 @@ class fuzz_windowMonkey : public ProjectTest
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Waits for the fade animation of Qt's clear buttons, which would be a leak at the end of the
-    /// program.
+    /// Waits for the fade animation of Qt's clear buttons, which would be reported as a leak at
+    /// the end of the program.
     void cleanupTestCase() { QTest::qWait(200); }
 
     void work_data() { Monkey::addRounds(Steps); }

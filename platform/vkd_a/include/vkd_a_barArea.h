@@ -23,7 +23,7 @@ enum class VkdBarFault {
 VKD_A_EXPORT VkdBarFault vkd_a_barFault(const VkdBarLayout& layout);
 
 /// Returns the area of the bars in cm² per metre of plate, n * pi * d² / 4 / s. The areas are
-/// nominal, as detailing to EN 1992-1-1 uses them. The layout must have no fault.
+/// nominal, as is usual in detailing to EN 1992-1-1. The layout must have no fault.
 VKD_A_EXPORT double vkd_a_barArea(const VkdBarLayout& layout);
 
 /// Returns the area as dialogs show and store it: rounded to hundredths of cm²/m, like printed

@@ -16,7 +16,7 @@ QColor frameColour(const QPalette& palette)
 } // namespace
 
 /// Paints the frame itself, because some styles stretch a picture over the whole box. With nested
-/// boxes that took a third of the painting time of a page of settings.
+/// boxes, this took a third of the painting time of a page of settings.
 ///
 /// Styles give a title the width of its ink, which is less than its letters need, so that the last
 /// letter of a long title is cut off. A trailing blank has no ink and widens the title.
