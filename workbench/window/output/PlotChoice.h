@@ -17,7 +17,7 @@ public:
     /// Neither is owned; `view` is the view of the page.
     PlotChoice(VKD_P_WidgetGraphicalOutput* page, AnimatorView* view);
 
-    /// Takes the plots that the page shows as the proposal of the catalogue.
+    /// Remembers the plots that the page shows now as the proposal of the catalogue.
     void setProposed();
     /// Must be called before each change of the offered load cases or contents, and giveBack()
     /// after it.
