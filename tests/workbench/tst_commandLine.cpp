@@ -45,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(english.error, QString());
         QVERIFY(english.out.startsWith(QLatin1String("PROG GRAV $ Graphical Output\nHEAD ")));
         QVERIFY(english.out.endsWith(QLatin1String("\nEND\n")));
-        QVERIFY(english.out.contains(QLatin1String("QSEC"))); // all of them have area elements
+        QVERIFY(english.out.contains(QLatin1String("QSEC"))); // all models have area elements
         QVERIFY2(english.out.contains(has), qPrintable(english.out));
         QVERIFY2(!english.out.contains(hasNot), qPrintable(english.out));
         const Result german = run(command + QLatin1String(" --keywords german"));
@@ -194,7 +194,7 @@ private Q_SLOTS:
             QLatin1String(":1: a text needs class, key, German and English\n")));
     }
 
-    /// A journal that a crash left beside the path would be played back into the new project.
+    /// A journal that a crash left at the path would be rolled back into the new project.
     void namesWithPercentSigns()
     {
         const QString left = path("a%1%2b.zob-journal");

@@ -239,7 +239,7 @@ private Q_SLOTS:
         };
         QCOMPARE(press(view, Qt::Key_PageDown), 2);
         QCOMPARE(press(number, Qt::Key_PageDown), 3);
-        QCOMPARE(press(find<QWidget>(preview, "SheetZoom"), Qt::Key_PageUp), 3); // the list's own
+        QCOMPARE(press(find<QWidget>(preview, "SheetZoom"), Qt::Key_PageUp), 3); // the box uses it
         QCOMPARE(press(view, Qt::Key_PageUp), 2);
         QCOMPARE(press(view, Qt::Key_End), 50000);
         QCOMPARE(press(view, Qt::Key_PageDown), 50000);
