@@ -28,7 +28,7 @@ constexpr int OkAndCancel = 3;
 
 using vkd::zob::keys::Design;
 
-/// Replaces the design records of one store by those of another.
+/// Replaces the design records of the store `to` with those of the store `from`.
 cd_error_t copyRecords(int from, int to)
 {
     int length = 0;
@@ -51,7 +51,7 @@ cd_error_t copyRecords(int from, int to)
     return put != VKD_ZOB_OK || isWhole ? put : status;
 }
 
-/// Returns for each row its groups that are also in other rows.
+/// Returns, for each row, its groups that are also in other rows.
 QVector<QVector<int>> sharedGroups(const QTableWidget& table)
 {
     QVector<QVector<int>> groups;
@@ -139,8 +139,8 @@ int DesignDialog::rowsWithoutGroups() const
     return count;
 }
 
-/// Asks before the same group is stored by several rows, each with a record. If the user goes back,
-/// selects the first such row.
+/// Asks the user if several rows have the same group, because each row would store a record for it.
+/// If the user goes back, selects the first such row.
 bool DesignDialog::maySharedGroupsStay()
 {
     const auto table = m_page->findChild<QTableWidget*>(QStringLiteral("table"));

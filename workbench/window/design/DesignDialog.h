@@ -19,9 +19,9 @@ class OpenProject;
 /// VKD_H_SelGRP_Dialog::PickOutside: then the caller must let the user pick groups in the view and
 /// show the same dialog again.
 ///
-/// The page works on the scratch store. When a page writes, it converts its rows to the stored form
-/// and cannot undo this. So records that the project refuses stay in the scratch store, and a new
-/// page reads them.
+/// The page works on a scratch store, because a page that writes converts its rows to the stored
+/// form and cannot undo this. If the project refuses the records, a new page reads them from the
+/// scratch store.
 class DesignDialog : public VKD_H_Dialog
 {
     Q_OBJECT

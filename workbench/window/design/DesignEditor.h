@@ -23,7 +23,7 @@ class DesignEditor : public QObject
     Q_OBJECT
 
 public:
-    /// None of them is owned; all outlive the editor.
+    /// The arguments are not owned and outlive the editor.
     DesignEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
                  AnimatorView* view, PickBanner* banner);
     ~DesignEditor() override;

@@ -32,7 +32,7 @@ PickBanner::PickBanner(QWidget* parent)
     setObjectName(QStringLiteral("PickBanner"));
     m_done->setObjectName(QStringLiteral("PickDone"));
     m_cancel->setObjectName(QStringLiteral("PickCancel"));
-    auto band = new QWidget(this); // without the buttons, whose focus has the same colour
+    auto band = new QWidget(this); // excludes the buttons: their focus has this colour
     band->setAutoFillBackground(true);
     band->setBackgroundRole(QPalette::Highlight);
     auto texts = new QVBoxLayout(band);
@@ -51,7 +51,7 @@ PickBanner::PickBanner(QWidget* parent)
     layout->addWidget(m_cancel);
     connect(m_done, &QPushButton::clicked, this, &PickBanner::done);
     connect(m_cancel, &QPushButton::clicked, this, &PickBanner::cancelled);
-    auto escape = new QShortcut(Qt::Key_Escape, this); // also from the view, after a click there
+    auto escape = new QShortcut(Qt::Key_Escape, this); // also works after a click in the view
     connect(escape, &QShortcut::activated, this, &PickBanner::cancelled);
     setTexts();
 }

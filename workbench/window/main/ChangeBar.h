@@ -22,7 +22,7 @@ public:
     /// Shows the bar if `isChanged` is set or if the file was lost since the last report; hides it
     /// if the file is present again.
     void report(bool isChanged, ProjectWatch::File file);
-    /// Hides the bar, for another project.
+    /// Hides the bar. Called when another project is opened.
     void reset();
 
 protected:

@@ -30,7 +30,7 @@ void DockShares::add(const QList<QDockWidget*>& docks, Qt::Orientation orientati
         dock->installEventFilter(this);
 }
 
-/// When this filter gets the event of the window, the docks are already laid out. If a dock changes
+/// The window lays out its docks before this filter gets the event of the window. If a dock changes
 /// while the window has its old size, the user has resized the dock; otherwise the layout has.
 bool DockShares::eventFilter(QObject* watched, QEvent* event)
 {
@@ -45,7 +45,8 @@ bool DockShares::eventFilter(QObject* watched, QEvent* event)
                 takeShare(entry, m_size);
         return false;
     }
-    const QSize before = std::exchange(m_size, QSize()); // no change counts until then
+    // Without a size, changes of docks do not count as the user's.
+    const QSize before = std::exchange(m_size, QSize());
     if (before.isValid() && !std::exchange(m_isRestored, false))
         giveShares(before);
     m_size = m_window->size();

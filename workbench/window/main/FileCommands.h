@@ -32,7 +32,7 @@ struct ProjectParts
 };
 
 /// The commands of the File menu that concern projects: new, open, reload, save as. It asks about
-/// unsaved choices before a project is left, and loads the model of a new one into the view. The
+/// unsaved choices before a project is closed, and loads the model of a new one into the view. The
 /// window shows the rest.
 class FileCommands : public QObject
 {
@@ -54,7 +54,8 @@ public:
     /// Saves the project under another name and opens it. Returns whether the user chose a name and
     /// the file was written.
     bool saveAs();
-    /// Asks about everything that is not stored. Returns false if the user wants to stay.
+    /// Asks whether to store unsaved changes. Returns false if the user wants to keep the project
+    /// open.
     bool mayLeave();
 
 Q_SIGNALS:

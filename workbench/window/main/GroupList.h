@@ -16,7 +16,7 @@ class GroupList : public QTreeWidget
 public:
     explicit GroupList(QWidget* parent = nullptr);
 
-    /// Lists the groups of the project at this database index; below 1 there are none.
+    /// Lists the groups of the project at this database index, or none if the index is below 1.
     void setProject(int index);
     /// Marks a group that is pointed at in the model, or none (AnimatorView::NoGroup). The current
     /// row does not change, and no signal is emitted.

@@ -255,7 +255,7 @@ void MainWindow::showModified()
     setWindowModified(m_outputEditor->isChanged() || m_textOutputEditor->isChanged());
 }
 
-/// Places the dialog beside the script, which follows each click.
+/// Places the dialog beside the script, so that the user sees the effect of each click.
 void MainWindow::showOutput()
 {
     m_outputEditor->show(m_panes->leftDocks());

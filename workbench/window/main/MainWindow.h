@@ -19,8 +19,8 @@ class TextOutputEditor;
 class WindowActions;
 class WindowPanes;
 
-/// The desktop around the library's pages. It connects its panes and actions with the classes that
-/// do the work: an editor for each dialog, and FileCommands for projects.
+/// The main window. It hosts the library's pages, and connects its panes and actions with the
+/// classes that do the work: an editor for each dialog, and FileCommands for projects.
 ///
 /// OK in a dialog writes to the project file at once. Only the choice in an open output dialog may
 /// be unsaved, and the window asks about it before the project is closed.
@@ -68,7 +68,8 @@ private:
     WindowPanes* m_panes = nullptr;
     QLabel* m_contents;
 
-    // Their dialogs are destroyed before the project, and all of them before the panes.
+    // The editors destroy their dialogs before the project, and all of these are destroyed before
+    // the panes.
     OpenProject m_project;
     WindowMessages m_messages{this};
     ProjectAccess m_access{&m_project, &m_messages};

@@ -10,8 +10,8 @@ class QToolBar;
 
 namespace workbench {
 
-/// The menus, the tool bar and their actions. They do nothing by themselves; the window connects
-/// them.
+/// The menus, the tool bar and their actions. The window connects the actions with the classes that
+/// carry them out.
 class WindowActions : public QObject
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ public:
     /// Lists files in the menu of recent files. The data of each action is the path.
     void setRecentFiles(const QStringList& paths);
 
-    /// Returns the actions with shortcuts that modeless dialogs have, too. Shortcuts of the whole
-    /// application would also work beside a modal dialog while it has a list open.
+    /// Returns the actions whose shortcuts must also work in modeless dialogs. Shortcuts of the
+    /// whole application would also work during a modal dialog while it has a list open.
     QList<QAction*> besideDialogs() const;
 
     QVector<QAction*> newFromSample; ///< the data is the name of the model

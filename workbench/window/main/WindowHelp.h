@@ -14,7 +14,7 @@ class WindowHelp : public QObject
     Q_OBJECT
 
 public:
-    /// The window of the messages becomes the owner. The messages outlive the window's actions.
+    /// The window of `messages` becomes the owner. `messages` outlives the actions of the window.
     WindowHelp(WindowMessages* messages, const WindowActions& actions);
 
 private:

@@ -34,7 +34,7 @@ public:
     RecordsPane* records();
     /// Shows the preview of the sheets in front of other docks and gives it the focus.
     void showSheets();
-    /// Returns the corner of the docks at the left, in coordinates of the screen.
+    /// Returns the top left corner of the dock with the groups, in screen coordinates.
     QPoint leftDocks() const;
     /// Restores and saves the geometry of window and docks in the settings of the program.
     void restoreGeometry();
@@ -51,7 +51,7 @@ public:
     SheetPreview* const sheets;
 
 Q_SIGNALS:
-    /// Emitted when the user sees the preview of the sheets or no longer sees it.
+    /// Emitted when the preview of the sheets becomes visible or invisible to the user.
     void sheetsVisibleChanged(bool isVisible);
 
 private:

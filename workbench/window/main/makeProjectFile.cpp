@@ -48,7 +48,7 @@ bool waitFor(QProcess& process, const VkdGoOn& goOn)
 }
 } // namespace
 
-/// A killed process leaves files, so it works in a folder that is removed with its contents.
+/// Runs the process in a temporary folder, because a killed process leaves files.
 QString makeProjectFile(const QString& path, const QString& model, const VkdGoOn& goOn)
 {
     const QTemporaryDir folder(QFileInfo(path).absolutePath() + QLatin1String("/plib-XXXXXX"));

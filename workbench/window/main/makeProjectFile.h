@@ -14,8 +14,8 @@ namespace workbench {
 using MakeProject =
     std::function<QString(const QString& path, const QString& model, const VkdGoOn& goOn)>;
 
-/// Creates the file by the command line, a program of its own, because the window uses the library
-/// only through its exported headers. Needs a QCoreApplication.
+/// Creates the file by running the command line, because the window uses the library only through
+/// its exported headers. Needs a QCoreApplication.
 QString makeProjectFile(const QString& path, const QString& model, const VkdGoOn& goOn);
 
 } // namespace workbench

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// Restores the desktop's camera, which is the view that the user has chosen, at the end of its
-/// life. Meanwhile a page may store the camera of its own view instead, even of a fixed one.
+/// Restores the desktop's camera, which is the user-defined view, when the object is destroyed.
+/// Until then, a page may overwrite it with the camera of its own view, even of a fixed one.
 class CameraRollback
 {
 public:

@@ -68,7 +68,7 @@ void OutputEditor::close()
     m_dialog.reset();
 }
 
-/// The dialog may still be closing itself.
+/// Destroys the dialog later, because it may still be closing itself.
 void OutputEditor::closeLater()
 {
     m_dialog.release()->deleteLater();

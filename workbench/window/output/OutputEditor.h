@@ -17,15 +17,15 @@ struct OutputState;
 class ProjectAccess;
 class WindowMessages;
 
-/// Edits the graphical output of the open project: owns its dialog, which also exists while it is
-/// hidden because it creates the script, and reads and stores its state.
+/// Edits the graphical output of the open project: owns its dialog, and reads and stores its state.
+/// The dialog also exists while it is hidden, because it creates the script.
 class OutputEditor : public QObject
 {
     Q_OBJECT
 
 public:
-    /// None of them is owned; all outlive the editor. The dialog has the actions of the window,
-    /// too.
+    /// The arguments are not owned and outlive the editor. The actions of the window also work in
+    /// the dialog.
     OutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
                  const QList<QAction*>& actions);
     ~OutputEditor() override;

@@ -27,7 +27,7 @@ public:
     void refresh();
     /// Shows a script without marking the lines that differ from the one before.
     void showOther();
-    /// Shows no script, until refresh().
+    /// Clears the script until refresh() is called.
     void clear();
     /// Sets whether the user sees the preview. A hidden preview is not updated.
     void setSheetsVisible(bool visible);

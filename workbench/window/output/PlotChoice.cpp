@@ -9,7 +9,7 @@
 namespace workbench {
 
 namespace {
-const QString Plots = QStringLiteral("List_4"); // the tag of the page's string
+const QString Plots = QStringLiteral("List_4"); // tag of the plots in the page's string
 }
 
 PlotChoice::PlotChoice(VKD_P_WidgetGraphicalOutput* page, AnimatorView* view)
@@ -44,7 +44,8 @@ QString PlotChoice::shown() const
     return vkd_qt_readXMLpart(m_page->writeXMLstring(), 0, Plots);
 }
 
-/// Restores the camera: a page that reads a string makes its view take the stored camera.
+/// Stores the view's camera before and restores the desktop's camera afterwards, because reading a
+/// string makes the page's view use the stored camera.
 void PlotChoice::show(const QString& plots)
 {
     const CameraRollback camera;

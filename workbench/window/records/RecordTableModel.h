@@ -18,7 +18,7 @@ class RecordTableModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Reloads the records of the project at this database index; there are none below 1.
+    /// Reloads the records of the project at this database index; none if the index is below 1.
     void read(int index);
     /// Returns the text with the most characters.
     QString longestText() const;

@@ -15,7 +15,7 @@ class RecordsPane : public QTableView
 public:
     explicit RecordsPane(QWidget* parent = nullptr);
 
-    /// Reloads the records of the project at this database index; there are none below 1.
+    /// Reloads the records of the project at this database index; none if the index is below 1.
     void setProject(int index);
 
 protected:

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace workbench {
 
-/// Sets the help topic `BOOK/TOPIC` of a widget and its children. It is the dynamic property
-/// "helpTopic", which the dialogs of the libraries have, too.
+/// Sets the help topic `BOOK/TOPIC` of a widget and its children. The topic is stored in the
+/// dynamic property "helpTopic", as in the dialogs of the libraries.
 void setHelpTopic(QWidget* widget, const char* topic);
 
 /// Returns the topic of the widget, otherwise that of its nearest ancestor with a topic, across

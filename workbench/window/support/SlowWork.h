@@ -12,8 +12,8 @@ class QWidget;
 
 namespace workbench {
 
-/// The wait cursor during work without event processing. It ends with the object, or when a dialog
-/// opens.
+/// Shows the wait cursor during work that processes no events, until the object is destroyed or a
+/// dialog opens.
 class WaitCursor : public QObject
 {
     Q_OBJECT

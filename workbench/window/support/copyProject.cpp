@@ -45,7 +45,7 @@ cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
 cd_error_t takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place)
 {
     return waitForStore(parent, path, [&path, place] {
-        place->reset(); // before the next attempt takes the lock
+        place->reset(); // releases the lock before the next attempt
         *place = std::make_unique<ZobFilePlace>(path);
         return (*place)->status().code;
     });

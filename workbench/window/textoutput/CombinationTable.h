@@ -8,9 +8,9 @@ class VKD_QT4_ComboBox;
 
 namespace workbench {
 
-/// The combinations of a project, each with its kind, so that a rule can select all of a kind.
-/// Kinds are values of VKD_P_RadioGroup::ButtonID, or 0 for other combinations. Until a kind is
-/// chosen, it is guessed from the title of the combination.
+/// The combinations of a project, each with its kind, so that a rule can select all combinations of
+/// a kind. Kinds are values of VKD_P_RadioGroup::ButtonID, or 0 for other combinations. Until a
+/// kind is chosen, it is guessed from the title of the combination.
 class CombinationTable : public PickTable
 {
     Q_OBJECT

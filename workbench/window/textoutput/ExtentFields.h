@@ -32,7 +32,7 @@ public:
     Choice choice() const { return m_showsRule ? m_choice : displayed(); }
     void setChoice(const Choice& choice);
 
-    /// Neither emits a signal.
+    /// Shows the individual choice, or the result of a rule. Neither emits a signal.
     void showChosen();
     void showRule(const Choice& rule);
 

@@ -18,7 +18,7 @@ class PickTable : public vkd::properties::nextGen::QtTableView
 public:
     enum Column { NumberColumn, TitleColumn };
 
-    /// All rows are checked at first. Their order is preserved.
+    /// All rows are checked initially. The order of `rows` is preserved.
     PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
     QVector<int> numbers() const;
@@ -28,7 +28,7 @@ public:
     QSet<int> leftOut() const { return m_showsRule ? m_leftOut : shownAsLeftOut(); }
     void setLeftOut(const QSet<int>& numbers);
 
-    /// Neither emits a signal.
+    /// Shows the individual choice, or the result of a rule. Neither emits a signal.
     void showPicked();
     void showRule(const QVector<int>& numbers);
 

@@ -85,7 +85,7 @@ void TextOutputDialog::addExtent()
     column->addWidget(m_fields);
     m_extentResult = addResult(column, "ExtentResult");
     m_extent.useWidget(m_fields);
-    // This form of the group relays no signals.
+    // Groups of this form do not relay the signals of their buttons.
     const auto buttons = box->findChildren<QRadioButton*>();
     for (const QRadioButton* button : buttons)
         connect(button, &QRadioButton::toggled, this, &TextOutputDialog::showChoice);

@@ -17,9 +17,9 @@ namespace workbench {
 class CombinationTable;
 class PickTable;
 
-/// Selects the lists, load cases and combinations of the text output of a project. For each of the
-/// three, it has a radio group of the library, a widget for an individual choice and a line with
-/// the result. It is modeless.
+/// The modeless dialog for the lists, load cases and combinations of the text output of a project.
+/// For each of the three, it has a radio group of the library, a widget for an individual choice
+/// and a line with the result.
 class TextOutputDialog : public VKD_H_Dialog
 {
     Q_OBJECT

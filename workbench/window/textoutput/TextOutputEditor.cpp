@@ -59,7 +59,7 @@ void TextOutputEditor::create()
     });
 }
 
-/// The dialog may still be closing itself.
+/// Destroys the dialog later, because it may still be closing itself.
 void TextOutputEditor::closeLater()
 {
     if (m_dialog)

@@ -22,8 +22,8 @@ class TextOutputEditor : public QObject
     Q_OBJECT
 
 public:
-    /// None of them is owned; all outlive the editor. The dialog has the actions of the window,
-    /// too.
+    /// The arguments are not owned and outlive the editor. The actions of the window also work in
+    /// the dialog.
     TextOutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
                      const QList<QAction*>& actions);
     ~TextOutputEditor() override;
