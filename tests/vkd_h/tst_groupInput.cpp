@@ -1,8 +1,8 @@
 #include "TestSupport.h"
 
-#include <groups/groupInput.h>
 #include <groups/shownName.h>
 #include <vkd_dbo_packedNames.h>
+#include <vkd_h_groupInput.h>
 
 #include <algorithm>
 

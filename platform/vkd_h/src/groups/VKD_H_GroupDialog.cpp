@@ -2,10 +2,10 @@
 
 #include "groups/groupChoice.h"
 #include "groups/GroupFilterModel.h"
-#include "groups/groupInput.h"
 #include "groups/GroupTableModel.h"
 #include "groups/groupTexts.h"
 #include "groups/GroupView.h"
+#include "vkd_h_groupInput.h"
 #include "VKD_H_ZOBDoc.h"
 
 #include <VKD_QT_InfoText.h>

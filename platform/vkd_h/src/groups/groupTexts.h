@@ -1,7 +1,7 @@
 #pragma once
 
-#include "groups/groupInput.h"
 #include "groups/groupRows.h"
+#include "vkd_h_groupInput.h"
 
 namespace vkd {
 namespace h {

@@ -1,4 +1,4 @@
-#include "groups/groupInput.h"
+#include "vkd_h_groupInput.h"
 
 #include "groups/shownName.h"
 

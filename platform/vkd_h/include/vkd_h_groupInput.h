@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vkd_h_export.h"
+
 #include <QStringList>
 
 #include <vector>
@@ -19,11 +21,11 @@ struct GroupInput
 
 /// Reads numbers and ranges such as 1-5, in either direction and with any dash. A range stands for
 /// the existing groups in it; if there are none, it is missing. `existing` must be ascending.
-GroupInput readNumbers(const QString& text, const std::vector<int>& existing);
+VKD_H_EXPORT GroupInput readNumbers(const QString& text, const std::vector<int>& existing);
 
 /// Reads names of secondary groups. The case matters only if two names differ in nothing else.
 /// `existing` must contain packed names in ascending order.
-GroupInput readNames(const QString& text, const std::vector<int>& existing);
+VKD_H_EXPORT GroupInput readNames(const QString& text, const std::vector<int>& existing);
 
 } // namespace h
 } // namespace vkd
