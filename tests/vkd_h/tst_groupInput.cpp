@@ -70,6 +70,15 @@ aBcD => ABCD abcd//
 COLS1 LO => //COLS1|LO
 A1-LOW => //A1-LOW
 )");
+        const auto readBoth = [&](const QString& text) {
+            return told(readNumbersAndNames(text, {1, 2, 3}, existing), [](int group) {
+                return group < vkd::dbo::FirstPackedName ? QString::number(group)
+                                                         : shownName(group);
+            });
+        };
+        compareCases(readBoth, "COLS 2–3;a1 => 2 3 A1 COLS//\n"
+                               "1-2000000000 => 1 2 3//\n"
+                               "4 ROOF 1- => //ROOF|1-|4\n");
         QCOMPARE(vkd::dbo::packedName(QStringLiteral("COLS")), 0x534c4f43);
         QCOMPARE(vkd::dbo::packedName(QStringLiteral("A")), 0x20202041);
         QCOMPARE(shownName(vkd::dbo::FirstPackedName), QStringLiteral("@B?")); // no letter

@@ -219,7 +219,7 @@ private Q_SLOTS:
                                   summary));
         // A new row takes its groups from other rows, and a row that loses its last group is
         // deleted.
-        QCOMPARE(run("rows rows.zob --set-row 4;GURX type=4 wko=unset --language english").error,
+        QCOMPARE(run("rows rows.zob --set-row 4-9,gurx type=4 wko=unset --language english").error,
                  QString());
         const QString changed = run("rows rows.zob --language english").out;
         QVERIFY2(changed.endsWith(QLatin1String("\n4;GURX\tCircular\t") + summary),
@@ -314,6 +314,7 @@ private Q_SLOTS:
             "opened (No such file or directory)");
         row("rows slab.zob type=1", "--set-row is missing");
         row("rows slab.zob --set-row 99 type=1", "there is no group \"99\"");
+        row("rows slab.zob --set-row ; type=1", "there is no group \"\"");
         row("rows slab.zob --set-row 1 colour=1",
             "\"colour=1\" is no FIELD=VALUE of a design record");
         row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");

@@ -11,11 +11,11 @@
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_packedNames.h>
 #include <vkd_dbo_queries.h>
+#include <vkd_h_groupInput.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <set>
 
 namespace workbench {
@@ -85,46 +85,41 @@ QString DesignRows::text() const
     return all;
 }
 
-const std::map<QString, int>& DesignRows::modelGroups() const
+const std::set<int>& DesignRows::modelGroups() const
 {
     if (!m_modelGroups.empty())
         return m_modelGroups;
     const vkd::dbo::Model model = vkd::dbo::readModel(m_document->index());
     for (const auto& group : model.groups)
-        m_modelGroups.emplace(QString::number(group.number), group.number);
+        m_modelGroups.insert(group.number);
     for (const auto& group : model.secondaryGroups)
-        m_modelGroups.emplace(group.name, vkd::dbo::packedName(group.name));
+        m_modelGroups.insert(vkd::dbo::packedName(group.name));
     return m_modelGroups;
 }
 
-/// Returns the groups that a user can name: the groups of the rows, with their displayed names, and
-/// the groups of the model.
-std::map<QString, int> DesignRows::knownGroups() const
+/// Returns the groups of the model and those that a row names although the model lacks them.
+std::set<int> DesignRows::knownGroups() const
 {
-    std::map<QString, int> known;
+    std::set<int> known = modelGroups();
     for (const plib::DesignParameterRow& row : m_data.rows)
-        for (int group : row.groups)
-            known.emplace(plib::groupText(group), group);
-    known.insert(modelGroups().begin(), modelGroups().end());
+        if (!plib::isRemainingGroups(row.groups))
+            known.insert(row.groups.begin(), row.groups.end());
     return known;
 }
 
 std::vector<int> DesignRows::parseGroups(const QString& text) const
 {
-    const auto known = knownGroups();
-    if (text == QLatin1String("none") && !known.count(text))
+    const std::set<int> known = knownGroups();
+    if (text == QLatin1String("none") && !known.count(vkd::dbo::packedName(text)))
         return {};
     if (text == QLatin1String("remaining"))
         return {-1};
-    std::set<int> groups;
-    const QStringList names = text.split(QLatin1Char(';'));
-    for (const QString& name : names) {
-        const auto found = known.find(name.trimmed());
-        if (found == known.end())
-            throw CommandError{QStringLiteral("there is no group \"%1\"").arg(name)};
-        groups.insert(found->second);
-    }
-    return {groups.begin(), groups.end()};
+    const auto firstName = known.lower_bound(vkd::dbo::FirstPackedName);
+    const vkd::h::GroupInput input =
+        vkd::h::readNumbersAndNames(text, {known.begin(), firstName}, {firstName, known.end()});
+    if (!input.missing.isEmpty() || input.groups.empty())
+        throw CommandError{QStringLiteral("there is no group \"%1\"").arg(input.missing.value(0))};
+    return input.groups;
 }
 
 plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <map>
+#include <set>
 
 class VKD_H_ZOBDoc;
 
@@ -25,18 +25,18 @@ public:
     QString text() const;
 
     /// Changes fields of the row with exactly these groups. If there is no such row, adds one and
-    /// removes the groups from all other rows. `groups` is "none", "remaining", or numbers of
-    /// groups and names of secondary groups, separated by ";". `fields` are NAME=VALUE in base
-    /// units; the value "unset" clears a field. Throws a CommandError for an unknown name or an
-    /// invalid value.
+    /// removes the groups from all other rows. `groups` is "none", "remaining", or a text with
+    /// numbers, ranges and names of secondary groups, as in the group dialogs. `fields` are
+    /// NAME=VALUE in base units; the value "unset" clears a field. Throws a CommandError for an
+    /// unknown name or an invalid value.
     void setRow(const QString& groups, const QStringList& fields);
 
     /// Writes the rows into the project. Call it in the transaction in which the rows were read.
     void write();
 
 private:
-    const std::map<QString, int>& modelGroups() const;
-    std::map<QString, int> knownGroups() const;
+    const std::set<int>& modelGroups() const;
+    std::set<int> knownGroups() const;
     std::vector<int> parseGroups(const QString& text) const;
     plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
     void takeFromOthers(const std::vector<int>& groups);
@@ -45,7 +45,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    mutable std::map<QString, int> m_modelGroups; // by name; read from the model on first use
+    mutable std::set<int> m_modelGroups; // read from the model on first use
     bool m_converted = false;
 };
 

@@ -51,8 +51,9 @@ int rowsCommand(const QStringList& arguments)
         {{QStringLiteral("set-row"), QStringLiteral("GROUPS"),
           QStringLiteral(
               "Changes the row with exactly these groups, or adds one, and stores the rows. "
-              "GROUPS is \"none\", \"remaining\", or numbers of groups and names of secondary "
-              "groups separated by \";\". The groups of a new row are removed from other rows.")},
+              "GROUPS is \"none\", \"remaining\", or numbers of groups, ranges such as 1-5 and "
+              "names of secondary groups, separated by blanks, commas or semicolons. The groups of "
+              "a new row are removed from other rows.")},
          languageOption()});
     line.parse(arguments);
     applyLanguage(line);

@@ -27,5 +27,10 @@ VKD_H_EXPORT GroupInput readNumbers(const QString& text, const std::vector<int>&
 /// `existing` must contain packed names in ascending order.
 VKD_H_EXPORT GroupInput readNames(const QString& text, const std::vector<int>& existing);
 
+/// Reads numbers, ranges and names of secondary groups in one text. A part that is none of these is
+/// missing, because any text could be a name.
+VKD_H_EXPORT GroupInput readNumbersAndNames(const QString& text, const std::vector<int>& numbers,
+                                            const std::vector<int>& names);
+
 } // namespace h
 } // namespace vkd

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "vkd_h_export.h"
+
 #include <QString>
 
 namespace vkd {
 namespace h {
 
 /// Returns the name in a packed number, with "?" for unprintable characters.
-QString shownName(int packed);
+VKD_H_EXPORT QString shownName(int packed);
 
 } // namespace h
 } // namespace vkd

@@ -118,5 +118,15 @@ GroupInput readNames(const QString& text, const std::vector<int>& existing)
     return input;
 }
 
+GroupInput readNumbersAndNames(const QString& text, const std::vector<int>& numbers,
+                               const std::vector<int>& names)
+{
+    GroupInput input = readNumbers(text, numbers);
+    const QStringList others = input.unreadable + input.missing;
+    const GroupInput named = readNames(others.join(QLatin1Char(' ')), names);
+    input.groups.insert(input.groups.end(), named.groups.begin(), named.groups.end());
+    return {input.groups, {}, named.missing};
+}
+
 } // namespace h
 } // namespace vkd
