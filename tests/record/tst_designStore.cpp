@@ -2,6 +2,7 @@
 #include "TestSupport.h"
 
 #include <record/designRecord.h>
+#include <record/designRows.h>
 #include <record/designStore.h>
 #include <vkd_lib_value.h>
 #include <vkd_zob.h>
@@ -181,6 +182,15 @@ private Q_SLOTS:
         QCOMPARE(stored(0, 0, 12979), QStringLiteral("8:8"));
         write(rows);
         QCOMPARE(stored(0, 0, 12979), QString());
+    }
+
+    void removedGroups()
+    {
+        auto rows = data();
+        for (const std::vector<int>& groups : {std::vector<int>{-1}, {1, 2, 2, 3}, {}, {4}, {3, 5}})
+            rows.rows.push_back({nullptr, record(0, float(groups.size())), groups});
+        plib::removeGroups(rows, {4, 2, 3, 9});
+        QCOMPARE(text(rows), QStringLiteral("-1:1 1:4 :0 5:2"));
     }
 
     void newRows()

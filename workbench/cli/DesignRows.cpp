@@ -6,6 +6,7 @@
 #include <record/designEntries.h>
 #include <record/designFields.h>
 #include <record/designRecord.h>
+#include <record/designRows.h>
 #include <record/designStore.h>
 #include <record/rowText.h>
 #include <vkd_dbo_model.h>
@@ -131,26 +132,10 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
             std::set<int>(row.groups.begin(), row.groups.end()) ==
                 std::set<int>(groups.begin(), groups.end()))
             return row;
-    takeFromOthers(groups);
+    plib::removeGroups(m_data, groups);
     plib::DesignParameterRow& row = plib::addDefaultRow(m_data);
     row.groups = groups;
     return row;
-}
-
-/// Removes groups from all rows, because a group has only one record. Deletes rows that lose their
-/// last group.
-void DesignRows::takeFromOthers(const std::vector<int>& groups)
-{
-    const std::set<int> taken(groups.begin(), groups.end());
-    auto& rows = m_data.rows;
-    const auto losesAll = [&](plib::DesignParameterRow& row) {
-        const bool had = !row.groups.empty();
-        row.groups.erase(std::remove_if(row.groups.begin(), row.groups.end(),
-                                        [&](int group) { return taken.count(group) > 0; }),
-                         row.groups.end());
-        return had && row.groups.empty();
-    };
-    rows.erase(std::remove_if(rows.begin(), rows.end(), losesAll), rows.end());
 }
 
 void DesignRows::setRow(const QString& groups, const QStringList& fields)

@@ -39,7 +39,6 @@ private:
     std::set<int> knownGroups() const;
     std::vector<int> parseGroups(const QString& text) const;
     plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
-    void takeFromOthers(const std::vector<int>& groups);
 
     VKD_H_ZOBDoc* m_document;
     VKD_A_BarDiameterData m_bars;

@@ -58,4 +58,17 @@ void removeRows(DesignParameterData& data, const std::set<int>& rows)
     data.rows.resize(kept);
 }
 
+void removeGroups(DesignParameterData& data, const std::vector<int>& groups)
+{
+    const std::set<int> removed(groups.begin(), groups.end());
+    const auto losesAll = [&removed](DesignParameterRow& row) {
+        const bool had = !row.groups.empty();
+        row.groups.erase(std::remove_if(row.groups.begin(), row.groups.end(),
+                                        [&](int group) { return removed.count(group) > 0; }),
+                         row.groups.end());
+        return had && row.groups.empty();
+    };
+    data.rows.erase(std::remove_if(data.rows.begin(), data.rows.end(), losesAll), data.rows.end());
+}
+
 } // namespace plib

@@ -29,4 +29,8 @@ bool mayMoveDown(const DesignParameterData& data, int row);
 /// Removes these rows, in one pass.
 void removeRows(DesignParameterData& data, const std::set<int>& rows);
 
+/// Removes groups from all rows, because a group has only one record. Deletes rows that lose their
+/// last group; rows that had none remain.
+void removeGroups(DesignParameterData& data, const std::vector<int>& groups);
+
 } // namespace plib
