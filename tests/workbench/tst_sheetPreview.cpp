@@ -275,7 +275,7 @@ private Q_SLOTS:
     {
         const auto window = open("without.zob");
         trigger(*window, "SheetPreviewAction");
-        auto preview = window->findChild<SheetPreview*>();
+        auto view = window->findChild<SheetView*>();
         changeChoice(*window);
         auto dialog = find<QDialog>(*window, "OutputDialog");
         dialog->findChild<LoadCaseTable*>()->setLeftOutNumbers({1, 2, 3, 4, 5, 6, 7});
@@ -283,12 +283,12 @@ private Q_SLOTS:
         for (int top = 0; top < tree->topLevelItemCount(); ++top)
             tree->topLevelItem(top)->setCheckState(0, Qt::Checked);
         // A caption taken from the script would be "MATE LEGE".
-        QTRY_COMPARE(captions(preview->plan()).first(),
+        QTRY_COMPARE(captions(view->plan()).first(),
                      QStringLiteral("System \u2013 Overview \u2013 Materials|"));
-        for (const SheetPicture& picture : preview->plan().pictures)
+        for (const SheetPicture& picture : view->plan().pictures)
             QVERIFY2(!picture.caption.isEmpty(), qPrintable(picture.command));
         trigger(*window, "German");
-        QTRY_COMPARE(captions(preview->plan()).first(),
+        QTRY_COMPARE(captions(view->plan()).first(),
                      QStringLiteral("System \u2013 \u00DCbersicht \u2013 Baustoffe|"));
     }
 
@@ -308,7 +308,7 @@ private Q_SLOTS:
         trigger(*window, "Output");
         choose(*window, format);
         trigger(*window, "SheetPreviewAction");
-        QTRY_COMPARE(window->findChild<SheetPreview*>()->plan().pageCount(), pages);
+        QTRY_COMPARE(window->findChild<SheetView*>()->plan().pageCount(), pages);
         answerFileDialog(path("sheets")); // the suffix is added
         find<QAbstractButton>(*window, "ExportSheets")->click();
         const QByteArray bytes = readFile(path("sheets.pdf"));

@@ -68,11 +68,6 @@ void SheetPreview::setPlan(const SheetPlan& plan)
     showPage();
 }
 
-const SheetPlan& SheetPreview::plan() const
-{
-    return m_view->plan();
-}
-
 void SheetPreview::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);

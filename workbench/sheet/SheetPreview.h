@@ -32,7 +32,6 @@ public:
     /// first page. The preview is empty until setPlan() is called.
     void setProject(int index, const QString& name);
     void setPlan(const SheetPlan& plan);
-    const SheetPlan& plan() const;
     /// Returns the painter of the project's sheets; the preview owns it.
     SheetPainter& painter() { return *m_painter; }
 

@@ -25,8 +25,7 @@ public:
     /// an acceptable number, the field shows and marks it, and the previous value remains.
     void setText(const QString& text);
 
-    /// Returns the value in the base unit of the dimension, the last one while the field is empty.
-    double getVal() const;
+    /// Sets the value in the base unit of the dimension.
     void setVal(double value);
 
     VKD_H_LineEdit* edit() const;

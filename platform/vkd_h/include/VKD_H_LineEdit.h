@@ -41,8 +41,7 @@ public:
     /// last accepted value; for an empty field, the description's "not set" (-99999.0 by default).
     double getVal() const;
 
-    /// The value that remains while the text is refused, and the text that Escape restores.
-    double acceptedVal() const { return m_value; }
+    /// Returns the last accepted text, which Escape restores.
     QString acceptedText() const { return m_shown; }
 
     QString refusal() const override;

@@ -21,7 +21,6 @@ public:
     int addTab(QWidget* page, const QString& label);
 
     QTabWidget* tabWidget() const;
-    VKD_QT_Ok* okRow() const;
 
 Q_SIGNALS:
     /// Emitted when another page is shown; for the first page, when the dialog is shown first.

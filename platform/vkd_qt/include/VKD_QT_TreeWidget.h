@@ -22,7 +22,7 @@ public:
     /// Each item above becomes Checked if all its children are, Unchecked if none is, and
     /// PartiallyChecked otherwise. PartiallyChecked is propagated upwards only; set on a parent, it
     /// remains until the next change below it. Neither switching on nor adding or removing items
-    /// changes a state; call settleCheckStates() after that. Columns are independent.
+    /// changes a state. Columns are independent.
     void setAutomaticCheckStateUpdate(bool on);
 
     /// Makes the only column as wide as the widest text that was visible since the tree was filled,
@@ -30,10 +30,6 @@ public:
     /// column does not shrink again, because its scroll bar would then appear and disappear
     /// endlessly.
     void setColumnFitsTexts();
-
-    /// Derives the state of every item from the check boxes below it, in one pass. Call this after
-    /// many changes without the automatic update; the result is the same as with it.
-    void settleCheckStates();
 
     /// Adds the action that expands or collapses all branches to the menu. The menu owns the action
     /// and must not outlive the tree. Collapsing makes the visible ancestor of the current item
@@ -46,10 +42,9 @@ public:
     void reset() override;
 
 Q_SIGNALS:
-    /// Emitted once for each step of the automatic update, however many states it changed, and once
-    /// by settleCheckStates(). itemChanged() is emitted just before, only for the item that caused
-    /// the step; all states are updated by then. Other observers of the model are notified about
-    /// that item only.
+    /// Emitted once for each step of the automatic update, however many states it changed.
+    /// itemChanged() is emitted just before, only for the item that caused the step; all states are
+    /// updated by then. Other observers of the model are notified about that item only.
     void checkStatesChanged();
 
 protected:

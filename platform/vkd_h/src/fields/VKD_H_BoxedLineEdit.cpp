@@ -111,11 +111,6 @@ void VKD_H_BoxedLineEdit::setText(const QString& text)
     fillEmptyField();
 }
 
-double VKD_H_BoxedLineEdit::getVal() const
-{
-    return standsForDefault() ? m_edit->acceptedVal() : m_edit->getVal();
-}
-
 void VKD_H_BoxedLineEdit::setVal(double value)
 {
     m_set.clear();

@@ -30,11 +30,6 @@ QTabWidget* VKD_QT_TabDialog::tabWidget() const
     return m_tabs;
 }
 
-VKD_QT_Ok* VKD_QT_TabDialog::okRow() const
-{
-    return m_ok;
-}
-
 void VKD_QT_TabDialog::showEvent(QShowEvent* event)
 {
     VKD_QT_Dialog::showEvent(event);

@@ -26,17 +26,6 @@ void VKD_QT_TreeWidget::setAutomaticCheckStateUpdate(bool on)
     m_isAutomatic = on;
 }
 
-void VKD_QT_TreeWidget::settleCheckStates()
-{
-    {
-        const VKD_QT_SignalBlocker silence(model());
-        for (int column = 0; column < columnCount(); ++column)
-            settleBelow(invisibleRootItem(), column);
-    }
-    viewport()->update();
-    Q_EMIT checkStatesChanged();
-}
-
 QAction* VKD_QT_TreeWidget::addExpandAll(VKD_QT_Menu* menu)
 {
     QAction* action = menu->addAction(tr("Expand All"), this, &QTreeView::expandAll);

@@ -51,17 +51,6 @@ State stateAround(const QTreeWidgetItem* parent, int row, State state, int colum
     return state;
 }
 
-/// Updates the item and all items below. Returns the state that it contributes to its parent.
-State settle(QTreeWidgetItem* item, int column)
-{
-    State below;
-    for (int i = 0; i < item->childCount(); ++i)
-        below = combined(below, settle(item->child(i), column));
-    const State own = ownState(item, column);
-    if (own && below && own != below)
-        item->setCheckState(column, *below);
-    return own && !below ? own : below;
-}
 } // namespace
 
 bool hasCheckBox(const QTreeWidgetItem* item, int column)
@@ -93,10 +82,4 @@ void settleAncestors(const QTreeWidgetItem* item, const QModelIndex& index)
             parent->setCheckState(column, *known);
         at = at.parent();
     }
-}
-
-void settleBelow(QTreeWidgetItem* item, int column)
-{
-    for (int i = 0; i < item->childCount(); ++i)
-        settle(item->child(i), column);
 }

@@ -17,6 +17,3 @@ void carryDown(QTreeWidgetItem* item, int column, Qt::CheckState state);
 /// Siblings are read from the item outwards until one differs, so that setting the children of a
 /// parent one after the other reads few siblings each.
 void settleAncestors(const QTreeWidgetItem* item, const QModelIndex& index);
-
-/// Updates every item below this one, bottom up.
-void settleBelow(QTreeWidgetItem* item, int column);
