@@ -64,7 +64,7 @@ private Q_SLOTS:
 "nodes": [[1, 0, 0, 0], [3e9, 0, 0, 0]] => nodes[1][0]: a whole number is needed
 "supports": [[4, "x"]] => supports[0][0]: node 4 does not exist
 "supports": [[1, "x u"]] => supports[0][1]: unknown direction "u"
-"beams": [[1, 1, 1, 1, 2], [2, 1, 1, 1, 9]] => beams[1][4]: node 9 does not exist
+"beams": [[1, 1, 1, 1, 2], [2, 1, 1, 1, 0]] => beams[1][4]: node 0 does not exist
 "cables": [[1, 2, 1, 1, 2]] => cables[0][1]: group 2 does not exist
 "trusses": [[1, 1, 5, 1, 2]] => trusses[0][2]: cross section 5 does not exist
 "quads": [[1, 1, 0, 1, 2, 3, 0.2]] => quads[0][2]: node 0 does not exist
