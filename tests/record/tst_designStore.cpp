@@ -172,9 +172,10 @@ private Q_SLOTS:
 
     void foreignRecordsGoToTheScratchStore()
     {
-        R foreign = record(8, 8);
+        R foreign = record(8, 8), own = record(1, 1);
         foreign.mark = 5;
-        put(record(1, 1));
+        own.mark = 0; // as written by older programs
+        put(own);
         put(foreign);
         auto rows = read();
         write(rows);
