@@ -104,7 +104,9 @@ private Q_SLOTS:
         QCOMPARE(after.type, 2);
         after.type = 3;
         QVERIFY(std::memcmp(&after, &before, sizeof before) == 0);
-        desk.table()->item(1, 1)->setText(QStringLiteral("No design"));
+        for (int row : {0, 1})
+            desk.table()->item(row, 1)->setText(QStringLiteral("No design"));
+        QCOMPARE(desk.row(0), QStringLiteral("Remaining Groups|No design|||"));
         QCOMPARE(desk.row(1), QStringLiteral("1|No design|||"));
     }
 
@@ -235,13 +237,14 @@ private Q_SLOTS:
         desk.press("btnUp"); // the first row must stay first
         for (int row : {1, 4, 0})
             QCOMPARE(groupsAfter("btnDown", row), QStringLiteral("Remaining Groups|1|2|3|4"));
+        QCOMPARE(groupsAfter("btnDown", 3), QStringLiteral("Remaining Groups|1|2|4|3"));
         table->setCurrentItem(nullptr);
         desk.press("btnDown");
         desk.press("btnUp");
         table->setCurrentCell(4, 0);
         table->setRangeSelected({2, 2, 2, 2}, true);
         desk.press("btnDelete");
-        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|3"));
+        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|4"));
         QCOMPARE(counted.size(), 1);
         QCOMPARE(desk.editors(), QString());
         desk.press("btnNew");
