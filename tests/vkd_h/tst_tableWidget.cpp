@@ -7,6 +7,8 @@
 #include <VKD_QT4_ComboBox.h>
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QMimeData>
 
 namespace {
@@ -144,6 +146,31 @@ private Q_SLOTS:
             auto number = dynamic_cast<VKD_H_TwSimpleLineEditItem*>(table.item(0, 0));
             QCOMPARE(number->getVal(nullptr), 0.03);
         }
+    }
+
+    /// Opens the menu, triggers an entry, and compares the menu and the rows after it.
+    void contextMenu()
+    {
+        Table table;
+        const auto choose = [&table](int entry) {
+            QStringList texts;
+            QTimer::singleShot(0, &table, [&texts, entry] {
+                auto menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                for (const QAction* action : menu->actions())
+                    texts << QLatin1String(action->isEnabled() ? "" : "no ") + action->text();
+                menu->actions().at(entry)->trigger();
+                menu->close();
+            });
+            QContextMenuEvent opening(QContextMenuEvent::Keyboard, QPoint());
+            QApplication::sendEvent(table.viewport(), &opening);
+            return texts.join(QLatin1Char('|')) + QLatin1Char(' ') + table.firstColumn();
+        };
+        QCOMPARE(choose(1), QStringLiteral("no Kopieren|Alles auswählen||Neu|Löschen t0t1t2"));
+        QCOMPARE(choose(4), QStringLiteral("Kopieren|Alles auswählen||Neu|Löschen "));
+        QCOMPARE(choose(3), QStringLiteral("no Kopieren|Alles auswählen||Neu|Löschen "));
+        QCOMPARE(table.rowCount(), 1);
+        table.setContextmenueEnabled_new_del(false);
+        QCOMPARE(choose(0), QStringLiteral("no Kopieren|Alles auswählen "));
     }
 
     /// The text shown by a combo box over a cell, alone or within another widget, is copied.
