@@ -13,8 +13,10 @@ public:
         , m_kind(kind)
     {
     }
-    bool has(Content content) const override { return content == m_content; }
-    int kindOfSystem() const override { return m_kind; }
+    bool has(Content content) const override { return ++asked, content == m_content; }
+    int kindOfSystem() const override { return ++asked, m_kind; }
+
+    mutable int asked = 0;
 
 private:
     std::optional<Content> m_content;
@@ -93,7 +95,11 @@ private Q_SLOTS:
         r.systemMask = mask;
         r.contentTag = tag;
         const OneAnswer model(Content::Nodes, kind);
-        QTEST(plib::isRecordOffered(r, 3, model, {additional}), "expected");
+        const plib::RememberedAnswers remembered(model);
+        QTEST(plib::isRecordOffered(r, 3, remembered, {additional}), "expected");
+        const int asked = model.asked;
+        QTEST(plib::isRecordOffered(r, 3, remembered, {additional}), "expected");
+        QCOMPARE(model.asked, asked);
     }
 
     void pagesAndTitles()
