@@ -6,7 +6,7 @@
 enum VkdSetting : int {
     VKD_SETTING_LANGUAGE = 102,      ///< language of the desktop: 0 German, 1 English
     VKD_SETTING_HEAD_LANGUAGE = 108, ///< keyword language of a program block's head, same values
-    VKD_SETTING_LOCK_DEADLINE = 201  ///< time to wait for another program's lock, in ms; 0: 5000
+    VKD_SETTING_LOCK_DEADLINE = 201  ///< ms to wait for a lock; 0: default of vkd_zob_deadline()
 };
 
 /// Returns one of the suite's numbered integer settings, 0 if it was never written. Settings live

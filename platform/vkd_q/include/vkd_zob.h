@@ -29,7 +29,7 @@ enum VkdZobStatus : cd_error_t {
     VKD_ZOB_NO_FILE = 5,    ///< the file does not exist or cannot be opened or created
     VKD_ZOB_NO_PROJECT = 6, ///< the file is not a project file
     VKD_ZOB_NEWER = 7,      ///< the file was written by a newer version
-    VKD_ZOB_DAMAGED = 8,    ///< the file is damaged
+    VKD_ZOB_DAMAGED = 8,    ///< the file is damaged, or the checksum of a record is wrong
     VKD_ZOB_READ_ONLY = 9,  ///< the file or its folder is not writable
     VKD_ZOB_FULL = 10,      ///< the disk is full or refuses the data
     VKD_ZOB_LOCKED = 11,    ///< another program locked the project for too long
