@@ -94,14 +94,9 @@ bool OutputEditor::store()
         return false;
     const OutputState state = m_dialog->state();
     const auto put = [this, &state] { return state.put(m_project->index()).code; };
-    const auto stored = m_access->store(
-        [this, &put](SeenPart::Newer newer) {
-            return m_project->store(ProjectPart::Output, put, newer);
-        },
-        tr("The choice of plots cannot be stored in the file %1."));
-    if (stored == ProjectAccess::Stored::Reload)
-        reload();
-    if (stored != ProjectAccess::Stored::Yes)
+    if (!m_access->storePart(ProjectPart::Output, put,
+                             tr("The choice of plots cannot be stored in the file %1."),
+                             [this] { reload(); }))
         return false;
     m_dialog->setUnchanged();
     Q_EMIT modified();

@@ -44,4 +44,14 @@ ProjectAccess::Stored ProjectAccess::store(const std::function<cd_error_t(SeenPa
     return m_messages->succeeds(status, path, sentence) ? Stored::Yes : Stored::No;
 }
 
+bool ProjectAccess::storePart(ProjectPart part, const std::function<cd_error_t()>& put,
+                              const QString& sentence, const std::function<void()>& reload)
+{
+    const Stored stored =
+        store([&](SeenPart::Newer newer) { return m_project->store(part, put, newer); }, sentence);
+    if (stored == Stored::Reload)
+        reload();
+    return stored == Stored::Yes;
+}
+
 } // namespace workbench

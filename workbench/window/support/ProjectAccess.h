@@ -30,6 +30,10 @@ public:
     /// Stores a part by `store`, which returns a VkdZobStatus or PartChanged. If another program
     /// has changed the part since it was read, the user decides.
     Stored store(const std::function<cd_error_t(SeenPart::Newer)>& store, const QString& sentence);
+    /// Stores a part by `put` in the same way. Calls `reload` if the user wants the newer state.
+    /// Returns whether the part is stored.
+    bool storePart(ProjectPart part, const std::function<cd_error_t()>& put,
+                   const QString& sentence, const std::function<void()>& reload);
 
 private:
     OpenProject* m_project;

@@ -76,14 +76,9 @@ bool TextOutputEditor::store()
 {
     const TextOutputState state = m_dialog->state();
     const auto put = [this, &state] { return state.put(m_project->index()).code; };
-    const auto stored = m_access->store(
-        [this, &put](SeenPart::Newer newer) {
-            return m_project->store(ProjectPart::TextOutput, put, newer);
-        },
-        tr("The text output cannot be stored in the file %1."));
-    if (stored == ProjectAccess::Stored::Reload)
-        reload();
-    if (stored != ProjectAccess::Stored::Yes)
+    if (!m_access->storePart(ProjectPart::TextOutput, put,
+                             tr("The text output cannot be stored in the file %1."),
+                             [this] { reload(); }))
         return false;
     m_dialog->setUnchanged();
     Q_EMIT modified();
