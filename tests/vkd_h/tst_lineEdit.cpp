@@ -137,6 +137,8 @@ private Q_SLOTS:
     {
         Dialog dialog;
         VKD_H_LineEdit* edit = dialog.first;
+        edit->setText(QStringLiteral("-")); // not typed: no more text will follow
+        QVERIFY(edit->toolTip().contains(QLatin1String("number")) && !messageOf(edit));
         type(edit, "1.234,5");
         QVERIFY(edit->toolTip().contains(QLatin1String("decimal sign")));
         QTest::keyClick(edit, Qt::Key_Return);
