@@ -4,6 +4,7 @@
 #include <ZobFilePlace.h>
 
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <sqlite3.h>
 
@@ -54,6 +55,8 @@ private Q_SLOTS:
         const int page = middle - middle % 4096;
         const int foreign = VKD_ZOB_NO_PROJECT, newer = VKD_ZOB_NEWER, damaged = VKD_ZOB_DAMAGED;
         const QByteArray zero(4, '\0'), noise("\x93\x07\xFE\x5A\xC1\x88\x33\xD6");
+        const int firstRecord = page + qFromBigEndian<quint16>(m_sound.constData() + page +
+                                                               8); // starts with its length
         row("no file", QByteArray(), VKD_ZOB_NO_FILE);
         row("empty file", QByteArray(""), foreign);
         row("text", QByteArray("Not a project.\n"), foreign);
@@ -64,7 +67,13 @@ private Q_SLOTS:
         row("first page only", m_sound.left(4096), damaged);
         row("last bytes missing", m_sound.left(m_sound.size() - 100), damaged);
         row("noise at the head of a page", patched(m_sound, page, noise), damaged);
+        row("record of 2 GB", patched(m_sound, firstRecord, "\x87\xFF\xFF\xFF\x7F"), damaged);
         row("noise in the table of contents", patched(m_sound, 100, noise), damaged);
+        row("takes memory in a constraint",
+            with("PRAGMA ignore_check_constraints = 1;"
+                 "CREATE TABLE t(a CHECK(length(randomblob(400000000)) > 0));"
+                 "INSERT INTO t VALUES(1)"),
+            damaged);
         row("deletes what is put",
             with("CREATE TRIGGER t AFTER INSERT ON record BEGIN DELETE FROM record; END"), damaged);
         row("reads for ever",
@@ -83,7 +92,9 @@ private Q_SLOTS:
             testsupport::writeFile(path, bytes);
         ZobLog log;
         int index = -1;
+        sqlite3_memory_highwater(1);
         QTEST(log.once(vkd_zob_open(path.toUtf8(), &index).code), "status");
+        QVERIFY(sqlite3_memory_highwater(0) < 50000000);
         QCOMPARE(index, -1);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), bytes.isNull() ? 0 : 1);
         QVERIFY(bytes.isNull() || testsupport::readFile(path) == bytes);

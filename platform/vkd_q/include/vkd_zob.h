@@ -70,7 +70,8 @@ VKD_Q_EXPORT cd_error_t vkd_zob_get(int index, int key1, int key2, void* record,
 
 /// Writes a record: `position` 0 writes the first record, or removes all records if `*length` is 0
 /// as well; `position` 1 appends. Outside a change the record is stored at once, within a change
-/// when the change ends. A failed change refuses the call.
+/// when the change ends. A failed change refuses the call, and so does a record of more than 256
+/// MB.
 VKD_Q_EXPORT cd_error_t vkd_zob_put(int index, int key1, int key2, const void* record,
                                     const int* length, int position);
 

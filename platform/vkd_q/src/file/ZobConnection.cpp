@@ -12,6 +12,7 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 
 namespace {
 const QLatin1String InMemory(":memory:");
@@ -24,6 +25,17 @@ static_assert(ZobApplicationId == 1447773250 && ZobSchemaVersion == 2);
 
 // With a deleted journal, FULL can lose a commit in a power failure.
 constexpr char Durability[] = "PRAGMA synchronous = EXTRA;";
+
+// A project needs none of these features.
+constexpr std::pair<int, int> Settings[] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
+                                            {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+                                            {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                                            {SQLITE_DBCONFIG_ENABLE_VIEW, 0}};
+constexpr int RowBytesBesideRecord = 100; // the checksum, the keys and SQLite's header of a row
+constexpr std::pair<int, int> Limits[] = {
+    {SQLITE_LIMIT_LENGTH, ZobMaxRecordBytes + RowBytesBesideRecord},
+    {SQLITE_LIMIT_SQL_LENGTH, 10000},
+    {SQLITE_LIMIT_ATTACHED, 0}};
 
 /// Called by SQLite while another program locks the file: sleeps shortly and gives up after the
 /// deadline. Short sleeps give all waiting writers a fair chance.
@@ -126,8 +138,21 @@ VkdStatus ZobConnection::connect(int flags)
         return fail(VKD_ZOB_NO_FILE, ZobAction::Open, QString::fromUtf8(sqlite3_errstr(code)));
     sqlite3_extended_result_codes(connection, 0);
     setWaiting(true);
-    const int added = addChecksumFunctions(connection);
-    return added == SQLITE_OK ? VkdStatus() : fail(added, ZobAction::Open);
+    int prepared = restrictConnection();
+    if (prepared == SQLITE_OK)
+        prepared = addChecksumFunctions(connection);
+    return prepared == SQLITE_OK ? VkdStatus() : fail(prepared, ZobAction::Open);
+}
+
+int ZobConnection::restrictConnection()
+{
+    for (const auto& [setting, value] : Settings)
+        if (const int code = sqlite3_db_config(handle(), setting, value, nullptr);
+            code != SQLITE_OK)
+            return code;
+    for (const auto& [limit, value] : Limits)
+        sqlite3_limit(handle(), limit, value);
+    return sqlite3_exec(handle(), "PRAGMA cell_size_check = ON", nullptr, nullptr, nullptr);
 }
 
 VkdStatus ZobConnection::makeSchema()
@@ -185,7 +210,10 @@ VkdStatus ZobConnection::execute(const char* sql, ZobAction action)
 
 VkdStatus ZobConnection::fail(int sqliteCode, ZobAction action)
 {
-    const auto code = VkdZobStatus(zobStatus(handle(), sqliteCode));
+    // The store never wrote such a record.
+    const bool isTooBigToRead = (sqliteCode & 0xff) == SQLITE_TOOBIG && action != ZobAction::Write;
+    const auto code =
+        isTooBigToRead ? VKD_ZOB_DAMAGED : VkdZobStatus(zobStatus(handle(), sqliteCode));
     const int systemError = (sqliteCode & 0xff) == SQLITE_IOERR ? lastSystemError(handle()) : 0;
     return fail(code, action,
                 systemError ? qt_error_string(systemError)

@@ -51,6 +51,8 @@ public:
 
 private:
     VkdStatus connect(int flags);
+    /// Restricts SQLite, because the file may come from a stranger. Returns SQLite's code.
+    int restrictConnection();
     VkdStatus makeSchema();
 
     struct Closer

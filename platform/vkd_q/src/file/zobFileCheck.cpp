@@ -78,9 +78,10 @@ VkdStatus checkSoundness(ZobConnection& connection, bool hasChecksums, const Vkd
     if (goOn)
         sqlite3_progress_handler(connection.handle(), StepsToQuestion, isToStop,
                                  const_cast<VkdGoOn*>(&goOn));
-    VkdStatus status = checkStructure(connection);
+    // The check of the structure would execute functions that a foreign table contains.
+    VkdStatus status = checkTable(connection);
     if (status.isOk())
-        status = checkTable(connection);
+        status = checkStructure(connection);
     if (status.isOk() && hasChecksums)
         status = checkRecords(connection);
     sqlite3_progress_handler(connection.handle(), 0, nullptr, nullptr);

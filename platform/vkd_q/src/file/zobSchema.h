@@ -5,6 +5,10 @@ constexpr int ZobApplicationId = 0x564b4442; // "VKDB"
 constexpr int ZobSchemaVersion = 2;
 constexpr int OldestZobSchemaVersion = 1;
 
+// Far more than a record of a model needs. The limit bounds the memory that a malicious file can
+// request.
+constexpr int ZobMaxRecordBytes = 256 * 1024 * 1024;
+
 #define ZOB_RECORD_TABLE                                                \
     "CREATE TABLE record(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL," \
     " position INTEGER NOT NULL, data BLOB NOT NULL,"                   \

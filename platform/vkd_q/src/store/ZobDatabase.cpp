@@ -1,6 +1,7 @@
 #include "store/ZobDatabase.h"
 
 #include "file/openFile.h"
+#include "file/zobSchema.h"
 
 #include <sqlite3.h>
 
@@ -71,7 +72,7 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
 {
     if (!m_transactions.changeStatus().isOk())
         return m_transactions.changeStatus().code;
-    if (length < 0 || position < 0 || position > 1)
+    if (length < 0 || length > ZobMaxRecordBytes || position < 0 || position > 1)
         return refuseCall(ZobAction::Write);
     if (!m_transactions.isChanging() && m_connection->isAway())
         return m_connection->fail(VKD_ZOB_MOVED, ZobAction::Write).code;
