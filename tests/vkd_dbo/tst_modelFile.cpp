@@ -99,6 +99,21 @@ private Q_SLOTS:
         QCOMPARE(missing.reason, m_path + QLatin1String(": No such file or directory"));
     }
 
+    /// The error at the end shows whether the whole file was parsed.
+    void cancelledDuringParsing()
+    {
+        Model m;
+        for (const auto& [lists, allowed] : {std::pair(1, 0), {500000, 1}}) {
+            const QByteArray start = '[' + QByteArray("[1, 2, 3],").repeated(lists);
+            testsupport::writeFile(m_path, start + "oh");
+            int calls = 0;
+            const VkdGoOn goOn = [&calls, most = allowed](int) { return ++calls <= most; };
+            QCOMPARE(readModelFile(m_path, vkd::Language::English, &m, goOn).code,
+                     int(VKD_ZOB_CANCELLED));
+            QCOMPARE(calls, allowed + 1);
+        }
+    }
+
 private:
     /// Writes a valid file with the key of the text added, or replacing the line with the same key.
     void writeFile(const QByteArray& text) const

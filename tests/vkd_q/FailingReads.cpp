@@ -3,11 +3,14 @@
 #include <sqlite3.h>
 
 #include <cerrno>
+#include <chrono>
+#include <thread>
 
 namespace {
 int badOffset = 0;
 int badReads = 0;
 bool failed = false;
+std::chrono::milliseconds duration{0};
 
 sqlite3_vfs* original = nullptr;
 sqlite3_vfs layer;
@@ -16,6 +19,7 @@ sqlite3_io_methods methods;
 
 int read(sqlite3_file* file, void* bytes, int length, sqlite3_int64 offset)
 {
+    std::this_thread::sleep_for(duration);
     const bool isBad = offset <= badOffset && badOffset < offset + length;
     if (!isBad || badReads == 0)
         return originalMethods->xRead(file, bytes, length, offset);
@@ -60,6 +64,7 @@ FailingReads::FailingReads()
 
 FailingReads::~FailingReads()
 {
+    slowDown(0);
     sqlite3_vfs_unregister(&layer);
     sqlite3_vfs_register(original, 1);
 }
@@ -69,4 +74,9 @@ void FailingReads::failAt(int offset, int times)
     badOffset = offset;
     badReads = times;
     failed = false;
+}
+
+void FailingReads::slowDown(int milliseconds)
+{
+    duration = std::chrono::milliseconds(milliseconds);
 }

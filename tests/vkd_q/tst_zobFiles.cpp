@@ -146,6 +146,21 @@ private Q_SLOTS:
         QVERIFY(readProject(m_path) == m_records);
     }
 
+    /// The check of all pages is a single instruction of SQLite.
+    void cancelledDuringTheCheck()
+    {
+        FailingReads reads;
+        reads.slowDown(10); // the pages together take much longer than the time between two calls
+        int index = -1, calls = 0;
+        const VkdGoOn onlyFirst = [&calls](int) { return ++calls == 1; };
+        QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index, onlyFirst).code, VKD_ZOB_CANCELLED);
+        QCOMPARE(index, -1);
+        QCOMPARE(calls, 2);
+        reads.slowDown(0);
+        QVERIFY(testsupport::readFile(m_path) == m_sound);
+        QVERIFY(readProject(m_path) == m_records);
+    }
+
     void recordDamagedWhileOpen()
     {
         const QTemporaryDir folder;

@@ -162,7 +162,9 @@ struct Model
 /// Reads a model file (JSON, described in share/models/README.md), with titles in the given
 /// language. The status code is VKD_ZOB_NO_FILE if the file cannot be read,
 /// VKD_ZOB_DAMAGED if it is invalid, and VKD_ZOB_CANCELLED if `goOn` returned false. The reason
-/// contains the path and the position in the file. `model` is set on success only.
+/// contains the path and the position in the file. `model` is set on success only. `goOn` is called
+/// before and while the text is parsed and while the lists are read, not while the bytes are loaded
+/// from the disk. The parser cannot be interrupted: after a Cancel, the call returns when it ends.
 VKD_DBO_EXPORT VkdStatus readModelFile(const QString& path, Language language, Model* model,
                                        const VkdGoOn& goOn = VkdGoOn());
 

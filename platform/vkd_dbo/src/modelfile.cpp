@@ -379,15 +379,17 @@ int thingsIn(const QJsonObject& root)
 }
 
 /// Parses in a separate thread, because Qt's parser has no callback and a large file takes a
-/// second; meanwhile this thread calls `goOn`.
+/// second; before and meanwhile, this thread calls `goOn`.
 QJsonDocument parse(const QByteArray& bytes, QJsonParseError* problem, const VkdGoOn& goOn)
 {
     if (!goOn)
         return QJsonDocument::fromJson(bytes, problem);
+    bool goesOn = goOn(0);
+    if (!goesOn)
+        throw ModelFileError{QString()};
     auto parsing = std::async(
         std::launch::async, [&bytes, problem] { return QJsonDocument::fromJson(bytes, problem); });
-    bool goesOn = true;
-    while (goesOn && parsing.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready)
+    while (goesOn && parsing.wait_for(std::chrono::milliseconds(20)) != std::future_status::ready)
         goesOn = goOn(0);
     const QJsonDocument document = parsing.get();
     if (!goesOn)

@@ -45,7 +45,8 @@ using VkdZobTake = std::function<bool(const void* bytes, int length)>;
 /// Opens the project file at `path` (UTF-8) and sets its database index. Opening an intact project
 /// does not change any byte of it; after a crash, the interrupted write is rolled back first. A
 /// file without any write permission is opened read-only, even for a privileged user. The whole
-/// file is checked, at some 100 MB per second, and `goOn` is called meanwhile.
+/// file is checked, at some 100 MB per second, and `goOn` is called meanwhile. The rollback cannot
+/// be cancelled.
 VKD_Q_EXPORT VkdStatus vkd_zob_open(const char* path, int* index, const VkdGoOn& goOn = VkdGoOn());
 
 /// Creates and opens an empty project file. If the file exists, it is not changed, and the call

@@ -1,6 +1,7 @@
 #include "file/ZobConnection.h"
 
 #include "file/recordChecksum.h"
+#include "file/stepAsking.h"
 #include "file/zobFileCheck.h"
 #include "file/zobSchema.h"
 #include "vkd_zob_deadline.h"
@@ -128,7 +129,7 @@ VkdStatus ZobConnection::connect(int flags)
     const QByteArray path = m_path == InMemory
                                 ? m_path.toUtf8()
                                 : QFile::encodeName(QFileInfo(m_path).absoluteFilePath());
-    // All calls come from one thread, so SQLite needs no mutex.
+    // Never two calls at a time, so SQLite needs no mutex.
     const int code =
         sqlite3_open_v2(path.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     m_handle.reset(connection);
@@ -189,12 +190,12 @@ void ZobConnection::setWaiting(bool waits)
     sqlite3_busy_handler(handle(), waits ? waitForOther : nullptr, nullptr);
 }
 
-VkdStatus ZobConnection::number(const char* sql, int* value)
+VkdStatus ZobConnection::number(const char* sql, int* value, const VkdGoOn& goOn)
 {
     sqlite3_stmt* statement = nullptr;
     int code = sqlite3_prepare_v2(handle(), sql, -1, &statement, nullptr);
     if (code == SQLITE_OK)
-        code = sqlite3_step(statement);
+        code = stepAsking(statement, goOn);
     if (code == SQLITE_ROW)
         *value = sqlite3_column_int(statement, 0);
     const VkdStatus status = code == SQLITE_ROW ? VkdStatus() : failToOpen(code);

@@ -39,7 +39,8 @@ public:
 
     VkdStatus execute(const char* sql, ZobAction action);
     /// Reads the first column of the first row and reports failures as failures to open the file.
-    VkdStatus number(const char* sql, int* value);
+    /// `goOn` is called meanwhile.
+    VkdStatus number(const char* sql, int* value, const VkdGoOn& goOn = VkdGoOn());
     /// Converts SQLite's code to a failure, logs it and remembers it.
     VkdStatus fail(int sqliteCode, ZobAction action);
     /// Does the same for a failure to open the file, which may be a failure to read it, or the

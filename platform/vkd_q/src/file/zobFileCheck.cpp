@@ -1,14 +1,13 @@
 #include "file/zobFileCheck.h"
 
 #include "file/openFile.h"
+#include "file/stepAsking.h"
 #include "file/ZobConnection.h"
 #include "file/zobSchema.h"
 
 #include <sqlite3.h>
 
 namespace {
-constexpr int StepsToQuestion = 20000; // SQLite instructions, some ms
-
 // A project contains the record table only. A view could run endlessly, and a trigger could change
 // the records that are put.
 constexpr char ForeignSql[] =
@@ -18,12 +17,6 @@ constexpr char ForeignSql[] =
 constexpr char DamagedRecordSql[] =
     "SELECT EXISTS(SELECT 1 FROM record WHERE NOT has_checksum(key1, key2, position, data))";
 
-/// Called by SQLite during a statement.
-int isToStop(void* goOn)
-{
-    return (*static_cast<const VkdGoOn*>(goOn))(0) ? 0 : 1;
-}
-
 VkdStatus checkTable(ZobConnection& connection)
 {
     int isForeign = 0;
@@ -31,10 +24,10 @@ VkdStatus checkTable(ZobConnection& connection)
     return status.isOk() && isForeign ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open) : status;
 }
 
-VkdStatus checkRecords(ZobConnection& connection)
+VkdStatus checkRecords(ZobConnection& connection, const VkdGoOn& goOn)
 {
     int isDamaged = 0;
-    const VkdStatus status = connection.number(DamagedRecordSql, &isDamaged);
+    const VkdStatus status = connection.number(DamagedRecordSql, &isDamaged, goOn);
     return status.isOk() && isDamaged
                ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open,
                                  QStringLiteral("the checksum of a record is wrong"))
@@ -43,13 +36,13 @@ VkdStatus checkRecords(ZobConnection& connection)
 
 /// Runs the check of SQLite's structures and sets `finding` to its first one, empty if there is
 /// none.
-VkdStatus quickCheck(ZobConnection& connection, QString* finding)
+VkdStatus quickCheck(ZobConnection& connection, const VkdGoOn& goOn, QString* finding)
 {
     sqlite3_stmt* check = nullptr;
     int code =
         sqlite3_prepare_v2(connection.handle(), "PRAGMA quick_check(1)", -1, &check, nullptr);
     if (code == SQLITE_OK)
-        code = sqlite3_step(check);
+        code = stepAsking(check, goOn);
     const auto* text = code == SQLITE_ROW ? sqlite3_column_text(check, 0) : nullptr;
     *finding = QString::fromUtf8(reinterpret_cast<const char*>(text)).simplified();
     if (*finding == QLatin1String("ok"))
@@ -61,12 +54,12 @@ VkdStatus quickCheck(ZobConnection& connection, QString* finding)
 
 /// The check reports a page that cannot be read as a finding, too. So after a finding, all bytes
 /// are read, and the check is repeated in case a read failed only once.
-VkdStatus checkStructure(ZobConnection& connection)
+VkdStatus checkStructure(ZobConnection& connection, const VkdGoOn& goOn)
 {
     QString finding;
-    VkdStatus status = quickCheck(connection, &finding);
+    VkdStatus status = quickCheck(connection, goOn, &finding);
     if (status.isOk() && !finding.isEmpty())
-        status = isReadable(connection.handle()) ? quickCheck(connection, &finding)
+        status = isReadable(connection.handle()) ? quickCheck(connection, goOn, &finding)
                                                  : connection.failToOpen(SQLITE_IOERR);
     return status.isOk() && !finding.isEmpty()
                ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open, finding)
@@ -75,16 +68,16 @@ VkdStatus checkStructure(ZobConnection& connection)
 
 VkdStatus checkSoundness(ZobConnection& connection, bool hasChecksums, const VkdGoOn& goOn)
 {
-    if (goOn)
-        sqlite3_progress_handler(connection.handle(), StepsToQuestion, isToStop,
-                                 const_cast<VkdGoOn*>(&goOn));
-    // The check of the structure would execute functions that a foreign table contains.
-    VkdStatus status = checkTable(connection);
+    // All checks read one state of the file, and only the first one can wait for another program.
+    VkdStatus status = connection.execute("BEGIN", ZobAction::Open);
+    // First, because the check of the structure would execute functions of a foreign table.
     if (status.isOk())
-        status = checkStructure(connection);
+        status = checkTable(connection);
+    if (status.isOk())
+        status = checkStructure(connection, goOn);
     if (status.isOk() && hasChecksums)
-        status = checkRecords(connection);
-    sqlite3_progress_handler(connection.handle(), 0, nullptr, nullptr);
+        status = checkRecords(connection, goOn);
+    sqlite3_exec(connection.handle(), "ROLLBACK", nullptr, nullptr, nullptr); // nothing was written
     return status;
 }
 } // namespace
