@@ -140,7 +140,7 @@ private Q_SLOTS:
         for (const char* option : {" --proposed", " --progname 222", " --progname 122"})
             row(option, kept, option, option);
         row("damaged",
-            "</View><Scale>1:7</Scale><View>2</View><Format>x</Format><Part>9</Part>"
+            "</View><Scale>1:7</Scale><View>2</View><Format>2</Format><Part>2</Part>"
             "<Font> </Font><List_4>Checked:",
             "", " --set viewId=2");
     }
