@@ -72,6 +72,8 @@ DesignRows::DesignRows(VKD_H_ZOBDoc* document)
     m_data.kindOfSystem = vkd::dbo::getKindOfSystem(index, nullptr);
     plib::readRowsFromZob(m_data);
     plib::readRowsFromEntries(m_data, m_page);
+    for (const plib::DesignParameterRow& row : m_data.rows)
+        m_namedGroups.insert(row.groups.begin(), row.groups.end());
 }
 
 QString DesignRows::text() const
@@ -123,7 +125,8 @@ std::vector<int> DesignRows::parseGroups(const QString& text) const
     return input.groups;
 }
 
-plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
+/// Returns the row with exactly these groups, or null.
+plib::DesignParameterRow* DesignRows::findRow(const std::vector<int>& groups)
 {
     // A row from a file may contain a group twice, so compare sets. A row with fewer entries than
     // groups cannot be equal.
@@ -131,16 +134,33 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
         if (row.groups.size() >= groups.size() &&
             std::set<int>(row.groups.begin(), row.groups.end()) ==
                 std::set<int>(groups.begin(), groups.end()))
-            return row;
-    plib::removeGroups(m_data, groups);
+            return &row;
+    return nullptr;
+}
+
+plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
+{
+    const bool isNamed = std::any_of(groups.begin(), groups.end(),
+                                     [this](int group) { return m_namedGroups.count(group) > 0; });
+    if (isNamed || groups.empty()) { // otherwise no other row matters
+        if (plib::DesignParameterRow* row = findRow(groups))
+            return *row;
+        plib::removeGroups(m_data, groups);
+    }
     plib::DesignParameterRow& row = plib::addDefaultRow(m_data);
     row.groups = groups;
+    m_namedGroups.insert(groups.begin(), groups.end());
     return row;
 }
 
 void DesignRows::setRow(const QString& groups, const QStringList& fields)
 {
-    tagZOB_QUAD_RIM& record = rowOf(parseGroups(groups)).record;
+    setRow(parseGroups(groups), fields);
+}
+
+void DesignRows::setRow(const std::vector<int>& groups, const QStringList& fields)
+{
+    tagZOB_QUAD_RIM& record = rowOf(groups).record;
     for (const QString& field : fields)
         setField(record, field);
 }

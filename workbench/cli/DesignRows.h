@@ -30,6 +30,9 @@ public:
     /// NAME=VALUE in base units; the value "unset" clears a field. Throws a CommandError for an
     /// unknown name or an invalid value.
     void setRow(const QString& groups, const QStringList& fields);
+    /// Does the same for groups that need no parsing: numbers and packed names, ascending, each
+    /// once. The other rows are searched only if one of them names such a group.
+    void setRow(const std::vector<int>& groups, const QStringList& fields);
 
     /// Writes the rows into the project. Call it in the transaction in which the rows were read.
     void write();
@@ -38,12 +41,14 @@ private:
     const std::set<int>& modelGroups() const;
     std::set<int> knownGroups() const;
     std::vector<int> parseGroups(const QString& text) const;
+    plib::DesignParameterRow* findRow(const std::vector<int>& groups);
     plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
 
     VKD_H_ZOBDoc* m_document;
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
+    std::set<int> m_namedGroups;         // by any row; groups are moved between rows, not removed
     mutable std::set<int> m_modelGroups; // read from the model on first use
     bool m_converted = false;
 };

@@ -5,6 +5,7 @@
 
 #include <record/designStore.h>
 #include <vkd_dbo_model.h>
+#include <vkd_dbo_packedNames.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_language.h>
 #include <vkd_lib_searchpath.h>
@@ -13,6 +14,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -28,6 +31,20 @@ QString modelPath(const QString& nameOrFile)
     return QFile::decodeName(found->c_str());
 }
 
+/// Converts groups of a model file, each a number or the name of a secondary group. The reader of
+/// the file has checked that they exist.
+std::vector<int> toGroups(const QStringList& texts)
+{
+    std::vector<int> groups;
+    for (const QString& text : texts) {
+        bool isNumber = false;
+        const int number = text.toInt(&isNumber);
+        groups.push_back(isNumber ? number : vkd::dbo::packedName(text));
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
 VkdStatus storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs,
                       const QString& modelFile)
 {
@@ -39,7 +56,7 @@ VkdStatus storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValu
         for (auto value = design.values.begin(); value != design.values.end(); ++value)
             fields << value.key() + QLatin1Char('=') + QString::number(value.value(), 'g', 9);
         try {
-            rows.setRow(design.groups.join(QLatin1Char(';')), fields);
+            rows.setRow(toGroups(design.groups), fields);
         } catch (const CommandError& error) {
             throw CommandError{
                 QStringLiteral("%1: designParameters of group %2: %3")
