@@ -36,16 +36,7 @@ private Q_SLOTS:
     /// Texts for writeFile().
     void wrong()
     {
-        const auto errorOf = [this](const QString& text) {
-            writeFile(text.toUtf8());
-            Model m;
-            m.system.title = QStringLiteral("untouched");
-            const VkdStatus read = readModelFile(m_path, vkd::Language::English, &m);
-            const bool isUntouched = m.system.title == QLatin1String("untouched");
-            return read.code != VKD_ZOB_DAMAGED || !isUntouched
-                       ? QStringLiteral("read")
-                       : read.reason.section(m_path + QLatin1String(": "), 1);
-        };
+        const auto errorOf = [this](const QString& text) { return this->errorOf(text); };
         compareCases(errorOf, R"(
 "knots": [] => unknown key "knots"
 "line\nbreak": [] => unknown key "line break"
@@ -85,6 +76,10 @@ private Q_SLOTS:
              "designParameters[0].groups[1]: group 1 does not exist or stands here twice"}};
         for (const auto& one : inside)
             QCOMPARE(errorOf(QLatin1String(one.first)), QLatin1String(one.second));
+    }
+
+    void wrongNames()
+    {
         for (const char* name : {"ABCDE", "", "12", "A;B", "Ä", "AB\\n"}) {
             const QString text =
                 QStringLiteral(R"("secondaryGroups": [{"name": "%1", "title": "t"}])");
@@ -92,11 +87,15 @@ private Q_SLOTS:
                          .contains(QLatin1String("[0].name: a name of one to four letters")),
                      name);
         }
-        QFile::remove(m_path);
+    }
+
+    void missing()
+    {
         Model m;
-        const VkdStatus missing = readModelFile(m_path, vkd::Language::English, &m);
-        QCOMPARE(missing.code, int(VKD_ZOB_NO_FILE));
-        QCOMPARE(missing.reason, m_path + QLatin1String(": No such file or directory"));
+        const QString path = m_path + QStringLiteral(".gone");
+        const VkdStatus read = readModelFile(path, vkd::Language::English, &m);
+        QCOMPARE(read.code, int(VKD_ZOB_NO_FILE));
+        QCOMPARE(read.reason, path + QLatin1String(": No such file or directory"));
     }
 
     /// The error at the end shows whether the whole file was parsed.
@@ -115,6 +114,19 @@ private Q_SLOTS:
     }
 
 private:
+    /// The reason why a file with the text is refused, which leaves the model as it was.
+    QString errorOf(const QString& text) const
+    {
+        writeFile(text.toUtf8());
+        Model m;
+        m.system.title = QStringLiteral("untouched");
+        const VkdStatus read = readModelFile(m_path, vkd::Language::English, &m);
+        const bool isUntouched = m.system.title == QLatin1String("untouched");
+        return read.code != VKD_ZOB_DAMAGED || !isUntouched
+                   ? QStringLiteral("read")
+                   : read.reason.section(m_path + QLatin1String(": "), 1);
+    }
+
     /// Writes a valid file with the key of the text added, or replacing the line with the same key.
     void writeFile(const QByteArray& text) const
     {
