@@ -533,4 +533,142 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Benutzerdefiniert</translation>
     </message>
 </context>
+<context>
+    <name>RowsChange</name>
+    <message>
+        <source>Groups of row %1</source>
+        <translation>Gruppen der Zeile %1</translation>
+    </message>
+    <message>
+        <source>Groups of %1 rows</source>
+        <translation>Gruppen von %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Type of row %1</source>
+        <translation>Art der Zeile %1</translation>
+    </message>
+    <message>
+        <source>Type of %1 rows</source>
+        <translation>Art von %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Direction and distance of row %1</source>
+        <translation>Richtung und Abstand der Zeile %1</translation>
+    </message>
+    <message>
+        <source>Direction and distance of %1 rows</source>
+        <translation>Richtung und Abstand von %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Reinforcement of row %1</source>
+        <translation>Bewehrung der Zeile %1</translation>
+    </message>
+    <message>
+        <source>Reinforcement of %1 rows</source>
+        <translation>Bewehrung von %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Crack control of row %1</source>
+        <translation>Rissbreite der Zeile %1</translation>
+    </message>
+    <message>
+        <source>Crack control of %1 rows</source>
+        <translation>Rissbreite von %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>New row %1</source>
+        <translation>Neue Zeile %1</translation>
+    </message>
+    <message>
+        <source>%1 new rows</source>
+        <translation>%1 neue Zeilen</translation>
+    </message>
+    <message>
+        <source>Deletion of row %1</source>
+        <translation>Löschen der Zeile %1</translation>
+    </message>
+    <message>
+        <source>Deletion of %1 rows</source>
+        <translation>Löschen von %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Moving up of row %1</source>
+        <translation>Verschieben der Zeile %1 nach oben</translation>
+    </message>
+    <message>
+        <source>Moving down of row %1</source>
+        <translation>Verschieben der Zeile %1 nach unten</translation>
+    </message>
+    <message>
+        <source>Pasting into row %1</source>
+        <translation>Einfügen in Zeile %1</translation>
+    </message>
+    <message>
+        <source>Pasting into %1 rows</source>
+        <translation>Einfügen in %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Duplicate of row %1</source>
+        <translation>Duplikat der Zeile %1</translation>
+    </message>
+    <message>
+        <source>Duplicates of %1 rows</source>
+        <translation>Duplikate von %1 Zeilen</translation>
+    </message>
+</context>
+<context>
+    <name>RowTable</name>
+    <message>
+        <source>&quot;%1&quot; is too large</source>
+        <translation>„%1“ ist zu groß</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too small</source>
+        <translation>„%1“ ist zu klein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has two decimal signs</source>
+        <translation>„%1“ hat zwei Dezimalzeichen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>There is no row below the heads.</source>
+        <translation>Unter den Spaltenköpfen steht keine Zeile.</translation>
+    </message>
+    <message>
+        <source>Row 1: &quot;%1&quot; is not the head of a column.</source>
+        <translation>Zeile 1: „%1“ ist kein Spaltenkopf.</translation>
+    </message>
+    <message>
+        <source>Row 1: there are two columns &quot;%1&quot;.</source>
+        <translation>Zeile 1: Die Spalte „%1“ ist doppelt.</translation>
+    </message>
+    <message>
+        <source>Row %1, %2: %3.</source>
+        <translation>Zeile %1, %2: %3.</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no head</source>
+        <translation>„%1“ hat keinen Spaltenkopf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a type</source>
+        <translation>„%1“ ist keine Art</translation>
+    </message>
+    <message>
+        <source>Row %1, %2: the minimum is greater than the maximum.</source>
+        <translation>Zeile %1, %2: Der Wert ist größer als die Höchstbewehrung.</translation>
+    </message>
+    <message>
+        <source>%1 rows are copied and %2 are selected. Select as many rows as are copied, or copy a single row.</source>
+        <translation>%1 Zeilen sind kopiert und %2 ausgewählt. Bitte so viele Zeilen auswählen, wie kopiert sind, oder eine einzelne Zeile kopieren.</translation>
+    </message>
+</context>
 </TS>

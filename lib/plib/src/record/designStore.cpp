@@ -126,11 +126,17 @@ void readRowsFromZob(DesignParameterData& data)
     vkd_zob_free_ex(index, Design.key1, Design.key2);
 }
 
+DesignParameterRow defaultRow(const DesignParameterData& data)
+{
+    DesignParameterRow row{data.barData, getDefaultMerPara(false), {}};
+    if (data.kindOfSystem != UndefinedKind)
+        toEditedForm(row.record, data.kindOfSystem);
+    return row;
+}
+
 DesignParameterRow& addDefaultRow(DesignParameterData& data)
 {
-    data.rows.push_back({data.barData, getDefaultMerPara(false), {}});
-    if (data.kindOfSystem != UndefinedKind)
-        toEditedForm(data.rows.back().record, data.kindOfSystem);
+    data.rows.push_back(defaultRow(data));
     return data.rows.back();
 }
 

@@ -11,7 +11,8 @@ void checkAndCreateZobDefault(int index);
 /// A record for the remaining groups becomes the first row. Records of other programs are skipped.
 void readRowsFromZob(DesignParameterData& data);
 
-/// Appends a row with default parameters and without groups.
+/// Returns a row with default parameters and without groups; addDefaultRow() appends it.
+DesignParameterRow defaultRow(const DesignParameterData& data);
 DesignParameterRow& addDefaultRow(DesignParameterData& data);
 
 /// Replaces the project's records with those of the rows: one for each group, starting with the

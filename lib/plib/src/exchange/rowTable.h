@@ -1,0 +1,43 @@
+#pragma once
+
+#include "exchange/RowPatch.h"
+#include "record/RowsChange.h"
+
+#include <QStringList>
+
+namespace plib {
+
+/// Rows as a table for spreadsheets: a line with heads and a line for each row. Each value has a
+/// column of its own, with its unit in the head, so that a cell contains one number. Texts and
+/// numbers are in the desktop's language.
+
+/// Returns the table as text. The separator is a tab for the clipboard; files have a comma or, in
+/// languages with a decimal comma, a semicolon.
+QString rowTableText(const DesignRowList& rows, QChar separator);
+QChar separatorOfFiles();
+
+/// Returns the same table as an HTML document.
+QString rowTableHtml(const DesignRowList& rows);
+
+/// The rows of a table that was read. If there are faults, the table must not be used.
+struct RowTable
+{
+    std::vector<RowPatch> rows;
+    bool hasGroups = false; ///< whether there is a column of groups
+    QStringList faults;     ///< a line for each bad cell, with its row and column
+
+    bool isUsable() const { return faults.isEmpty() && !rows.empty(); }
+};
+
+/// Reads a table with heads in any language, in any order and with any columns. Decimal signs are
+/// dots or commas; an empty cell of a value means "not set". Empty lines and columns are ignored.
+RowTable readRowTable(const QString& text);
+
+/// Returns whether the first line of a text contains the head of a column.
+bool looksLikeRowTable(const QString& text);
+
+/// Returns a fault for the row of a table if the record has a minimum reinforcement above its
+/// maximum; otherwise an empty text.
+QString limitFault(const tagZOB_QUAD_RIM& record, int line);
+
+} // namespace plib

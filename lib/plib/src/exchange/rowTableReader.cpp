@@ -1,0 +1,185 @@
+// Reading rows from a table.
+
+#include "exchange/rowColumns.h"
+#include "exchange/rowTable.h"
+#include "exchange/separatedText.h"
+#include "record/designRecord.h"
+
+#include <StructLineEdit.h>
+#include <vkd_h_numberText.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace plib {
+
+namespace {
+constexpr int LongestQuotation = 50;
+
+struct TableText
+{
+    Q_DECLARE_TR_FUNCTIONS(RowTable)
+};
+
+QString quotation(const QString& cell)
+{
+    const QString text = cell.simplified();
+    return text.size() <= LongestQuotation ? text : text.left(LongestQuotation) + QChar(0x2026);
+}
+
+bool isEmptyLine(const QStringList& cells)
+{
+    return std::all_of(cells.begin(), cells.end(),
+                       [](const QString& cell) { return cell.trimmed().isEmpty(); });
+}
+
+/// Returns the reason for refusing a number; empty if it is accepted.
+QString refusal(VkdNumberState state, const QString& cell)
+{
+    const QString text = quotation(cell);
+    switch (state) {
+    case VkdNumberState::Accepted: return QString();
+    case VkdNumberState::TooLarge: return TableText::tr("\"%1\" is too large").arg(text);
+    case VkdNumberState::TooSmall: return TableText::tr("\"%1\" is too small").arg(text);
+    case VkdNumberState::TwoDecimalSigns:
+        return TableText::tr("\"%1\" has two decimal signs").arg(text);
+    default: return TableText::tr("\"%1\" is not a number").arg(text);
+    }
+}
+
+class TableReader
+{
+public:
+    RowTable read(const QString& text)
+    {
+        const QVector<QStringList> lines = readCells(text, separatorOf(text));
+        for (int line = 0; line < lines.size(); ++line) {
+            if (isEmptyLine(lines[line]))
+                continue;
+            if (m_columns.empty())
+                readHeads(lines[line]);
+            else
+                readRow(lines[line], line + 1);
+        }
+        if (m_table.rows.empty() && m_table.faults.isEmpty())
+            m_table.faults << TableText::tr("There is no row below the heads.");
+        return m_table;
+    }
+
+private:
+    void readHeads(const QStringList& heads)
+    {
+        for (const QString& head : heads) {
+            const RowColumn* column = columnWithHead(head);
+            if (!column && !head.trimmed().isEmpty())
+                m_table.faults << TableText::tr("Row 1: \"%1\" is not the head of a column.")
+                                      .arg(quotation(head));
+            if (column && std::count(m_columns.begin(), m_columns.end(), column) > 0)
+                m_table.faults
+                    << TableText::tr("Row 1: there are two columns \"%1\".").arg(quotation(head));
+            m_table.hasGroups |= column && column->kind == RowColumn::Groups;
+            m_columns.push_back(column);
+            m_heads << head.simplified();
+        }
+    }
+
+    void readRow(const QStringList& cells, int line)
+    {
+        RowPatch row;
+        row.line = line;
+        for (int i = 0; i < qMax(m_heads.size(), cells.size()); ++i) {
+            const QString head = m_heads.value(i);
+            const RowColumn* column = columnAt(i);
+            if (!column && !head.isEmpty())
+                continue; // its head was refused
+            const QString cell = cells.value(i);
+            const QString reason =
+                column ? readCell(cell, *column, &row) : refusedWithoutHead(cell);
+            if (!reason.isEmpty())
+                m_table.faults << TableText::tr("Row %1, %2: %3.")
+                                      .arg(QString::number(line),
+                                           column ? head : TableText::tr("column %1").arg(i + 1),
+                                           reason);
+        }
+        m_table.rows.push_back(row);
+    }
+
+    const RowColumn* columnAt(int index) const
+    {
+        return index < int(m_columns.size()) ? m_columns[std::size_t(index)] : nullptr;
+    }
+
+    static QString refusedWithoutHead(const QString& cell)
+    {
+        return cell.trimmed().isEmpty() ? QString()
+                                        : TableText::tr("\"%1\" has no head").arg(quotation(cell));
+    }
+
+    /// Returns the reason if the cell is refused.
+    static QString readCell(const QString& cell, const RowColumn& column, RowPatch* row)
+    {
+        if (column.kind == RowColumn::Groups)
+            row->groups = cell.trimmed();
+        else if (column.kind == RowColumn::Type)
+            return readType(cell, row);
+        else
+            return readNumber(cell, column.field, row);
+        return QString();
+    }
+
+    static QString readType(const QString& cell, RowPatch* row)
+    {
+        const int type = typeOfText(cell);
+        if (type < 0)
+            return TableText::tr("\"%1\" is not a type").arg(quotation(cell));
+        row->setType(type);
+        return QString();
+    }
+
+    static QString readNumber(const QString& cell, RealField field, RowPatch* row)
+    {
+        const int code = dimensionCode(field);
+        const StructLineEdit description = vkd_h_defaultStructLineEdit(code);
+        const VkdNumberReading number = vkd_h_readNumber(cell, description);
+        const bool isBar = code == vkd::plib::designparameter::BarDiameter;
+        if (isBar && number.state == VkdNumberState::Accepted && float(number.value) == 0)
+            return refusal(VkdNumberState::TooSmall, cell); // zero would mean "not set"
+        row->set(field, float(number.value));
+        return refusal(number.state, cell);
+    }
+
+    RowTable m_table;
+    std::vector<const RowColumn*> m_columns; // null: an empty head
+    QStringList m_heads;
+};
+} // namespace
+
+RowTable readRowTable(const QString& text)
+{
+    return TableReader().read(text);
+}
+
+bool looksLikeRowTable(const QString& text)
+{
+    const QString first = text.trimmed().section(QLatin1Char('\n'), 0, 0);
+    const QVector<QStringList> lines = readCells(first, separatorOf(first));
+    return !lines.isEmpty() &&
+           std::any_of(lines.first().begin(), lines.first().end(), columnWithHead);
+}
+
+QString limitFault(const tagZOB_QUAD_RIM& record, int line)
+{
+    for (const RowColumn& column : rowColumns())
+        for (std::size_t i = 0; i < fields::Minimum.size(); ++i) {
+            const float minimum = record.*fields::Minimum[i];
+            const float maximum = record.*fields::Maximum[i];
+            if (column.field == fields::Minimum[i] && minimum != NotSet && maximum != NotSet &&
+                minimum > maximum)
+                return TableText::tr("Row %1, %2: the minimum is greater than the maximum.")
+                    .arg(QString::number(line), headOf(column, vkd::desktopLanguage()));
+        }
+    return QString();
+}
+
+} // namespace plib

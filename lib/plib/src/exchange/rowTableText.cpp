@@ -1,0 +1,97 @@
+// Writing rows as a table.
+
+#include "exchange/rowColumns.h"
+#include "exchange/rowTable.h"
+#include "exchange/separatedText.h"
+#include "record/designRecord.h"
+#include "record/rowText.h"
+
+#include <vkd_h_units.h>
+
+namespace plib {
+
+namespace {
+constexpr int FewestDigits = 6;
+constexpr int MostDigits = 17; // of a double
+
+/// Returns the shortest number in the shown unit that is read back as exactly this value.
+QString exactText(float value, int code)
+{
+    const VkdDimension dimension = vkd_h_dimension(code);
+    const double shown = double(value) * dimension.factor;
+    const auto isExact = [&](const QString& text) {
+        return float(text.toDouble() / dimension.factor) == value;
+    };
+    QString text = QString::number(shown, 'f', qMax(dimension.decimals, 0));
+    for (int digits = FewestDigits; !isExact(text) && digits <= MostDigits; ++digits)
+        text = QString::number(shown, 'g', digits);
+    return text;
+}
+
+QString numberCell(float value, int code)
+{
+    if (value == NotSet)
+        return QString();
+    const bool hasComma = vkd::desktopLanguage() == vkd::Language::German;
+    const QString text = exactText(value, code);
+    return hasComma ? QString(text).replace(QLatin1Char('.'), QLatin1Char(',')) : text;
+}
+
+QString cellOf(const DesignParameterRow& row, const RowColumn& column)
+{
+    switch (column.kind) {
+    case RowColumn::Groups: return rowText(row, 0);
+    case RowColumn::Type: return typeName(row.record.type, vkd::desktopLanguage());
+    case RowColumn::Value: break;
+    }
+    return numberCell(row.record.*column.field, dimensionCode(column.field));
+}
+
+QStringList heads()
+{
+    QStringList texts;
+    for (const RowColumn& column : rowColumns())
+        texts << headOf(column, vkd::desktopLanguage());
+    return texts;
+}
+
+QStringList cellsOf(const DesignParameterRow& row)
+{
+    QStringList cells;
+    for (const RowColumn& column : rowColumns())
+        cells << cellOf(row, column);
+    return cells;
+}
+
+QString htmlLine(const QStringList& cells, const QString& tag)
+{
+    QString line = QStringLiteral("<tr>");
+    for (const QString& cell : cells)
+        line += QStringLiteral("<%1>%2</%1>").arg(tag, cell.toHtmlEscaped());
+    return line + QLatin1String("</tr>\n");
+}
+} // namespace
+
+QChar separatorOfFiles()
+{
+    return QLatin1Char(vkd::desktopLanguage() == vkd::Language::German ? ';' : ',');
+}
+
+QString rowTableText(const DesignRowList& rows, QChar separator)
+{
+    QString text = lineOfCells(heads(), separator);
+    for (const DesignParameterRow& row : rows)
+        text += lineOfCells(cellsOf(row), separator);
+    return text;
+}
+
+QString rowTableHtml(const DesignRowList& rows)
+{
+    QString html = QStringLiteral("<html><head><meta charset=\"utf-8\"></head><body><table>\n");
+    html += htmlLine(heads(), QStringLiteral("th"));
+    for (const DesignParameterRow& row : rows)
+        html += htmlLine(cellsOf(row), QStringLiteral("td"));
+    return html + QLatin1String("</table></body></html>\n");
+}
+
+} // namespace plib

@@ -1,0 +1,179 @@
+#include "TestSupport.h"
+
+#include <exchange/patchRows.h>
+#include <exchange/rowRecords.h>
+#include <exchange/rowTable.h>
+#include <record/designRecord.h>
+#include <vkd_language.h>
+
+using namespace plib;
+using vkd::Language;
+
+namespace {
+/// A row in which every parameter has a value of its own, many of them without a short text.
+DesignParameterRow oddRow()
+{
+    DesignParameterRow row{nullptr, getDefaultMerPara(true), {3, 4}};
+    float value = 0.1F;
+    for (const NamedField& field : namedFields())
+        if (field.real)
+            row.record.*field.real = (value += 1.0F / 3);
+    row.record.rioi = -0.123456789F;
+    row.record.hioi = row.record.asu = NotSet;
+    row.record.type = 3;
+    return row;
+}
+} // namespace
+
+class TestRowExchange : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { vkd::setDesktopLanguage(Language::English); }
+
+    /// A table that was copied in one language is read in the other, and no bit is lost.
+    void copiedRowsAreReadBack_data()
+    {
+        const Columns<int, int, QChar> row("written", "read", "separator");
+        row("English clipboard, German reader", 1, 0, QLatin1Char('\t'));
+        row("German file", 0, 0, QLatin1Char(';'));
+        row("German file, English reader", 0, 1, QLatin1Char(';'));
+        row("English file", 1, 1, QLatin1Char(','));
+    }
+
+    void copiedRowsAreReadBack()
+    {
+        QFETCH(const int, written);
+        QFETCH(const int, read);
+        QFETCH(const QChar, separator);
+        const DesignRowList rows{oddRow(), {nullptr, getDefaultMerPara(false), {}}};
+        vkd::setDesktopLanguage(Language(written));
+        const QString text = rowTableText(rows, separator);
+        vkd::setDesktopLanguage(Language(read));
+        const RowTable table = readRowTable(text);
+        QCOMPARE(table.faults.join(QLatin1Char('\n')), QString());
+        QVERIFY(table.hasGroups && looksLikeRowTable(text));
+        for (const auto& copied : {table.rows, rowsOfBytes(bytesOfRows(rows))}) {
+            DesignRowList changed(2, {nullptr, getDefaultMerPara(true), {}});
+            QCOMPARE(patchRows(copied, 0, &changed), QStringList());
+            changed[0].record.group = rows[0].record.group; // keys of records are not copied
+            changed[1].record.group = rows[1].record.group;
+            changed[0].groups = rows[0].groups;
+            QVERIFY(changeBetween(rows, changed).isEmpty());
+        }
+    }
+
+    void reading_data()
+    {
+        const Columns<QString, QString> row("text", "expected");
+        row("any order and subset, both decimal signs, empty lines and columns",
+            "\nCOVER\t\tArt\r\n33,5\t\tCIRCULAR\r\n\t\t\r\n34.5\t\t2\r\n", "0.0335 4|0.0345 2");
+        row("an empty cell clears", "type;COVER\n1;", "-99999 1");
+        row("a missing column leaves", "type\n1", "0.035 1");
+        row("quoted", "\"Type\",\"COVER\"\n\"Two\nLayers\",\"1\"\"\"",
+            "Row 2, Distance H upper principal [mm]: \"1\"\" is not a number.");
+        row("another unit, a column twice", "Distance H upper principal [cm];type;type\n1;2;3",
+            "Row 1: \"Distance H upper principal [cm]\" is not the head of a column.|"
+            "Row 1: there are two columns \"type\".");
+        row("each bad cell", "Type;COVER;Diameter upper cross [mm]\n1;1.234,5;0\nx;-1;9;7",
+            "Row 2, Distance H upper principal [mm]: \"1.234,5\" has two decimal signs.|"
+            "Row 2, Diameter upper cross [mm]: \"0\" is too small.|"
+            "Row 3, Type: \"x\" is not a type.|"
+            "Row 3, Distance H upper principal [mm]: \"-1\" is too small.|"
+            "Row 3, column 4: \"7\" has no head.");
+        row("no rows", "type", "There is no row below the heads.");
+        row("nothing", "", "There is no row below the heads.");
+        row("minimum above the maximum",
+            "Minimum reinforcement lower cross [cm²/m]\tMaximum reinforcement lower cross [cm²/m]"
+            "\n1\t1\n2\t1",
+            "Row 3, Minimum reinforcement lower cross [cm²/m]: the minimum is greater than the "
+            "maximum.");
+    }
+
+    void reading()
+    {
+        QFETCH(QString, text);
+        const QString cover = QStringLiteral("Distance H upper principal [mm]");
+        const RowTable table = readRowTable(text.replace(QLatin1String("COVER"), cover));
+        DesignRowList rows(table.rows.size(), {nullptr, getDefaultMerPara(false), {}});
+        QStringList lines = table.faults;
+        if (table.isUsable())
+            lines = patchRows(table.rows, 0, &rows);
+        for (std::size_t i = 0; lines.size() == int(i) && i < rows.size(); ++i)
+            lines << QStringLiteral("%1 %2").arg(rows[i].record.hio).arg(rows[i].record.type);
+        QTEST(lines.join(QLatin1Char('|')), "expected");
+    }
+
+    void pasting()
+    {
+        const auto faults = [](std::size_t copied, std::size_t selected, int kind = 0) {
+            DesignRowList rows(selected, {nullptr, getDefaultMerPara(true), {7}});
+            const QStringList found =
+                patchRows(std::vector(copied, RowPatch(oddRow().record)), kind, &rows);
+            for (const DesignParameterRow& row : rows)
+                if (row.record.type != (found.isEmpty() ? 3 : 1) || row.groups.front() != 7)
+                    return -1;
+            return rows.front().record.hio == NotSet ? 100 : found.size();
+        };
+        QCOMPARE(faults(1, 3), 0);
+        QCOMPARE(faults(3, 3), 0);
+        QCOMPARE(faults(2, 3), 1);
+        QCOMPARE(faults(3, 1), 1);
+        QCOMPARE(faults(1, 1, 10), 100); // a plane system
+    }
+
+    void foreignBytesAreRefused()
+    {
+        const QByteArray bytes = bytesOfRows({oddRow()});
+        QCOMPARE(rowsOfBytes(bytes).size(), std::size_t(1));
+        for (int byte : {0, 7 + 4, 7 + 8, 7 + 16, 7 + 23}) { // head, subId, type, mark, a NaN
+            QByteArray damaged = bytes;
+            damaged.replace(byte == 7 + 23 ? byte - 1 : byte, byte == 7 + 23 ? 2 : 1,
+                            byte == 7 + 23 ? "\xC0\x7F" : "\x33");
+            QVERIFY(rowsOfBytes(damaged).empty());
+        }
+        QVERIFY(rowsOfBytes(bytes.left(bytes.size() - 1)).empty());
+    }
+
+    /// A row is a letter here.
+    void changes_data()
+    {
+        const Columns<QString, QString, QString> row("before", "after", "expected");
+        row("none", "abc", "abc", "3  ");
+        row("one", "abc", "axc", "1 b x");
+        row("moved", "abcd", "acbd", "1 bc cb");
+        row("added", "ab", "abb", "2  b");
+        row("deleted", "abcde", "ace", "1 bcd c");
+        row("all", "ab", "", "0 ab ");
+    }
+
+    void changes()
+    {
+        const auto rowsOf = [](const QString& letters) {
+            DesignRowList rows;
+            for (QChar letter : letters)
+                rows.push_back({nullptr, getDefaultMerPara(false), {letter.unicode()}});
+            return rows;
+        };
+        const auto lettersOf = [](const DesignRowList& rows) {
+            QString letters;
+            for (const DesignParameterRow& row : rows)
+                letters += QChar(row.groups.front());
+            return letters;
+        };
+        QFETCH(const QString, before);
+        QFETCH(const QString, after);
+        DesignRowList rows = rowsOf(after);
+        const RowsChange change = changeBetween(rowsOf(before), rows);
+        QTEST(QStringLiteral("%1 %2 %3")
+                  .arg(QString::number(change.first), lettersOf(change.before),
+                       lettersOf(change.after)),
+              "expected");
+        replaceRows(rows, change.first, int(change.after.size()), change.before);
+        QCOMPARE(lettersOf(rows), before);
+    }
+};
+
+PLIB_TEST_MAIN(TestRowExchange)
+#include "tst_rowExchange.moc"
