@@ -2,35 +2,29 @@
 
 #include <benchmark/benchmark.h>
 
-#include <map>
 #include <string>
 #include <vector>
 
-/// The maximum time of a benchmark, as a multiple of its baseline in the same run. For a bound per
-/// item, the times are first divided by the number after the last "/" of the names.
+/// The figure of a benchmark that is compared. Time is processor time, because other programs
+/// disturb it least; a benchmark registered with `UseRealTime` or `UseManualTime` gives that time.
+enum class Figure {
+    Time,        ///< of one iteration
+    TimePerItem, ///< divided by the argument of the benchmark, its number of items
+    Memory,      ///< the counter `bytes` of the benchmark
+};
+
+/// The maximum figure of a benchmark, as a multiple of the same figure of its peer.
 struct Bound
 {
     std::string subject;
-    std::string baseline;
+    std::string peer; ///< If it is empty, `most` is in milliseconds or megabytes.
     double most;
-    bool perItem = false;
+    std::string work; ///< what the peer does, in one line
+    Figure figure = Figure::Time;
 };
 
-/// Stores the shortest time of the repetitions of each benchmark, because other programs disturb it
-/// least, and compares these times with the bounds.
-class RatioReporter : public benchmark::ConsoleReporter
-{
-public:
-    void ReportRuns(const std::vector<Run>& runs) override;
-    /// Prints a line for each bound. Returns true if all bounds are met.
-    bool check(const std::vector<Bound>& bounds) const;
-
-private:
-    double seconds(const std::string& name, bool perItem) const;
-
-    std::map<std::string, double> m_seconds;
-};
-
-/// Runs all registered benchmarks and returns the exit code. With `--smoke`, each runs once and the
-/// bounds are not checked, so that a test can verify that the benchmarks work.
+/// Runs each subject and its peer alternately, prints the median of the ratios of the pairs with
+/// their quartiles, and returns the exit code. With `--smoke`, each benchmark runs once and the
+/// bounds are not checked, so that a test can verify that the benchmarks work. With another
+/// argument, only bounds whose subject contains it are measured.
 int runBenchmarks(int argc, char* argv[], const std::vector<Bound>& bounds);

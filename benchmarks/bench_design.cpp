@@ -114,18 +114,22 @@ void writeFile(benchmark::State& state)
     }
 }
 
-BENCHMARK(readAndFold)->Arg(1000)->Arg(10000)->Arg(100000);
+BENCHMARK(readAndFold)->Arg(10000)->Arg(20000)->Arg(100000);
 BENCHMARK(readFromMap)->Arg(10000);
-BENCHMARK(writeRecords)->Arg(1000)->Arg(10000)->Arg(100000);
-BENCHMARK(writeFile)->Arg(10000);
+BENCHMARK(writeRecords)->Arg(10000)->Arg(20000)->Arg(100000)->UseRealTime();
+BENCHMARK(writeFile)->Arg(10000)->UseRealTime();
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
     return runBenchmarks(argc, argv,
-                         {{"readAndFold/10000", "readFromMap/10000", 4.0},
-                          {"writeRecords/10000", "writeFile/10000", 10.0},
-                          {"readAndFold/100000", "readAndFold/1000", 2.0, true},
-                          {"writeRecords/100000", "writeRecords/1000", 2.0, true}});
+                         {{"readAndFold/10000", "readFromMap/10000", 3.0,
+                           "copies the same records from a map in memory into a list"},
+                          {"writeRecords/10000/real_time", "writeFile/10000/real_time", 5.0,
+                           "writes the same bytes into a plain file and waits for the disk"},
+                          {"readAndFold/100000", "readAndFold/20000", 1.4,
+                           "does the same, each item", Figure::TimePerItem},
+                          {"writeRecords/100000/real_time", "writeRecords/20000/real_time", 1.4,
+                           "does the same, each item", Figure::TimePerItem}});
 }

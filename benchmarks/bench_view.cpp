@@ -129,6 +129,8 @@ int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    return runBenchmarks(argc, argv,
-                         {{"turnView", "fillPolygons", 2.5}, {"restView", "fillPolygons", 5.0}});
+    const char fill[] = "fills the same polygons in one colour, without sorting them";
+    return runBenchmarks(
+        argc, argv,
+        {{"turnView", "fillPolygons", 1.6, fill}, {"restView", "fillPolygons", 3.6, fill}});
 }
