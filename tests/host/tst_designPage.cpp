@@ -24,6 +24,12 @@ tagZOB_QUAD_RIM record(int group, int type, float minimum)
     return made;
 }
 
+QByteArray bytesOf(const std::vector<tagZOB_QUAD_RIM>& records)
+{
+    return {reinterpret_cast<const char*>(records.data()),
+            int(records.size() * sizeof records.front())};
+}
+
 /// Types a text into the next group dialog and presses OK.
 void confirmGroups(const QString& typed)
 {
@@ -254,6 +260,89 @@ private Q_SLOTS:
                     table->sizeHintForIndex(table->model()->index(row, 2)).height());
         desk.page->writeToZob();
         QCOMPARE(m_project->records().size(), std::size_t(3));
+    }
+
+    /// Undo and redo restore the rows and the selection of each step exactly as
+    /// they were; the records show that no bit is lost.
+    void undoingEachStep()
+    {
+        const std::vector records{record(-1, 1, 0), record(1, 1, 1), record(2, 2, 2)};
+        DesignDesk(*m_project, records).page->writeToZob();
+        const QByteArray stored = bytesOf(m_project->records());
+        DesignDesk desk(*m_project, records);
+        QTableWidget* table = desk.table();
+        const auto state = [&] {
+            QStringList texts;
+            for (int row = 0; row < table->rowCount(); ++row)
+                texts << desk.row(row) + table->item(row, 0)->toolTip();
+            for (const QModelIndex& cell : table->selectionModel()->selectedIndexes())
+                texts << QStringLiteral("%1,%2").arg(cell.row()).arg(cell.column());
+            const QModelIndex current = table->currentIndex();
+            return texts.join(QLatin1Char('\n')) +
+                   QStringLiteral(" at %1,%2").arg(current.row()).arg(current.column());
+        };
+        const auto fill = [&desk](const char* edit) {
+            whenModal([edit](QWidget* dialog) {
+                find<QLineEdit>(*dialog, edit)->setText(QStringLiteral("0,3"));
+                qobject_cast<QDialog*>(dialog)->accept();
+            });
+            desk.keys({Qt::Key_F2});
+        };
+        const struct
+        {
+            const char* name;
+            int row, column;
+            std::function<void()> run;
+        } steps[] = {
+            {"New row 4", 1, 1, [&] { desk.press("btnNew"); }},
+            {"Type of row 4", 3, 1,
+             [&] { table->item(3, 1)->setText(QStringLiteral("Circular")); }},
+            {"Direction and distance of row 1", 0, 2, [&] { fill("hio"); }},
+            {"Reinforcement of row 2", 1, 3, [&] { fill("asu"); }},
+            {"Crack control of row 4", 3, 4, [&] { fill("stressSIGO"); }},
+            {"Groups of row 4", 3, 0,
+             [&] {
+                 confirmGroups(QStringLiteral("2-3"));
+                 desk.press("buttonGroups");
+             }},
+            {"Moving up of row 4", 3, 0, [&] { desk.press("btnUp"); }},
+            {"Moving down of row 2", 1, 3, [&] { desk.press("btnDown"); }},
+            {"Groups of row 2", 1, 0, [&] { QTest::keyClick(desk.groupCombo(), Qt::Key_Home); }},
+            {"Deletion of row 4", 3, 2, [&] { desk.press("btnDelete"); }},
+            {"Deletion of 2 rows", 2, 3, [&] { desk.press("btnDelete"); }},
+        };
+        QStringList before, after;
+        for (const auto& step : steps) {
+            table->setCurrentCell(step.row, step.column);
+            if (&step == std::end(steps) - 1)
+                table->setRangeSelected({1, 1, 1, 2}, true);
+            before << state();
+            step.run();
+            QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
+                     QLatin1String("Undo ") + QLatin1String(step.name));
+            table->setCurrentCell(-1, -1); // and so closes the editor
+            table->setCurrentCell(0, 0);
+            after << state();
+        }
+        QApplication::setActiveWindow(&desk); // which the dialogs left inactive
+        table->setFocus();
+        for (int round : {0, 1}) {
+            for (int i = before.size() - 1; i >= 0; --i) {
+                QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+                QCOMPARE(state(), before[i]);
+            }
+            QVERIFY(!find<QAction>(*desk.page, "undo")->isEnabled());
+            for (int i = 0; round == 0 && i < after.size(); ++i) {
+                QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+                table->setCurrentCell(-1, -1);
+                table->setCurrentCell(0, 0);
+                QCOMPARE(state(), after[i]);
+            }
+        }
+        desk.page->writeToZob();
+        QVERIFY(
+            !find<QAction>(*desk.page, "redo")->isEnabled()); // the rows are in the stored form now
+        QVERIFY(bytesOf(m_project->records()) == stored);
     }
 
     void choosingRemainingGroups()

@@ -671,4 +671,23 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>%1 Zeilen sind kopiert und %2 ausgewählt. Bitte so viele Zeilen auswählen, wie kopiert sind, oder eine einzelne Zeile kopieren.</translation>
     </message>
 </context>
+<context>
+    <name>plib::RowsHistory</name>
+    <message>
+        <source>Undo %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+</context>
 </TS>

@@ -3,6 +3,7 @@
 #include "design/BoxExplanation.h"
 #include "design/designColumns.h"
 #include "design/DesignParameterTable.h"
+#include "design/RowsHistory.h"
 #include "record/designEntries.h"
 #include "record/designRows.h"
 #include "record/designStore.h"
@@ -24,6 +25,8 @@
 #include <utility>
 
 using plib::DesignParameterRow;
+using plib::RecordedStep;
+using plib::RowsStep;
 using Table = DesignParameterTable;
 
 namespace {
@@ -76,6 +79,7 @@ void DesignParameter::init()
     layout->addWidget(buildBox());
     setLayout(layout);
     connectTable();
+    new plib::RowsHistory(this);
     setFocusProxy(data->table);
     editRow = -1;
     editColumn = -1;
@@ -135,6 +139,7 @@ void DesignParameter::writeToZob()
 {
     finishEditing();
     plib::writeRowsToZob(*data, converted);
+    restartHistory();
 }
 
 void DesignParameter::getEntrys(VKD_H_ProjectDialogPage& page)
@@ -150,6 +155,7 @@ void DesignParameter::setEntrys(VKD_H_ProjectDialogPage& page)
     finishEditing();
     plib::writeRowsToZob(*data, converted);
     plib::writeRowsToEntries(*data, page);
+    restartHistory();
 }
 
 bool DesignParameter::checkVals()
@@ -213,6 +219,7 @@ void DesignParameter::refreshRows(int number)
     }
     showSharedGroups();
     data->table->fitRows();
+    restartHistory();
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
 
@@ -233,6 +240,7 @@ void DesignParameter::slot_typComboChanged(QTableWidgetItem* item)
     DesignParameterRow* changed = plib::rowAt(*data, row);
     if (!combo || !changed)
         return;
+    const RecordedStep step(this, RowsStep::Type, {row});
     const VKD_QT_SignalBlocker blocker(data->table);
     changed->record.type = combo->getCurrentId();
     refreshRows(row);
@@ -240,6 +248,7 @@ void DesignParameter::slot_typComboChanged(QTableWidgetItem* item)
 
 void DesignParameter::slot_newRowClicked()
 {
+    const RecordedStep step(this, RowsStep::New, {data->table->rowCount()});
     addTableRow();
     const int row = data->table->rowCount() - 1;
     drawRow(plib::addDefaultRow(*data), row, true);
@@ -257,6 +266,7 @@ void DesignParameter::slot_deleteClicked()
     const std::set<int> rows = table->getSelectetRows();
     if (!rows.empty()) {
         finishEditing(); // while the signals of the table are still enabled
+        const RecordedStep step(this, RowsStep::Delete, rows);
         closeCellWidget();
         editRow = editColumn = -1;
         const VKD_QT_SignalBlocker blocker(table); // until the rows match the table again
@@ -285,6 +295,7 @@ void DesignParameter::slot_down()
 /// An open editor stays on its cell until the current cell moves to the other row.
 void DesignParameter::swapRows(int row, int other)
 {
+    const RecordedStep step(this, other < row ? RowsStep::Up : RowsStep::Down, {row});
     std::swap(data->rows[std::size_t(row)], data->rows[std::size_t(other)]);
     refreshRows(row);
     refreshRows(other);

@@ -13,6 +13,11 @@ class VKD_H_ProjectDialogPage;
 class VKD_H_TableWidgetBox;
 class VKD_QT_Dialog;
 
+namespace plib {
+class TableSelection;
+enum class RowsStep;
+} // namespace plib
+
 /// The implementation of the design parameter page, used by the exported class only. The rows in
 /// `data` are the model: an edit changes a row first, and then the texts of the row are written
 /// into the table. A cell has an editor only while it is the current cell.
@@ -33,6 +38,14 @@ public:
     void getEntrys(VKD_H_ProjectDialogPage& page);
     void setEntrys(VKD_H_ProjectDialogPage& page);
     bool checkVals();
+
+    // For the children of the page, which add undo and the clipboard.
+    plib::DesignParameterData& state() { return *data; }
+    /// Completes the input in an open list of types.
+    void finishEditing();
+    /// Replaces `count` rows from `first` on and selects these cells.
+    void replaceRows(int first, int count, const std::vector<plib::DesignParameterRow>& by,
+                     const plib::TableSelection& selection);
 
 Q_SIGNALS:
     void signal_rowCountChanged(int rowCount);
@@ -60,11 +73,12 @@ private:
     VKD_H_TableWidgetBox* buildBox();
     void connectTable();
     void addTableRow();
+    void setTableRowCount(int count, int first);
+    void restartHistory();
     void drawRow(const plib::DesignParameterRow& row, int number, bool isNew);
     void refreshRows(int number);
     void swapRows(int row, int other);
     bool isRow(int row) const;
-    void finishEditing();
     void closeCellWidget();
     bool hasFocusInEditor() const;
     void makeEditedCellCurrent();
@@ -73,7 +87,7 @@ private:
     void openSelection(int row, int column, plib::DesignParameterRow& shown);
     void openButton(int row, int column, QTableWidgetItem* item);
     template <class Dialog, typename... Arguments>
-    void editRecord(Arguments... arguments);
+    void editRecord(plib::RowsStep name, Arguments... arguments);
     void takeGroups(int row, const std::vector<int>& groups);
     void showSharedGroups();
     void showSharedGroupsInEditor(int row);

@@ -3,6 +3,7 @@
 #include "design/DesignParameter.h"
 
 #include "design/DesignParameterTable.h"
+#include "design/RowsHistory.h"
 #include "design/sharedGroupMarks.h"
 #include "dialogs/dialogFrame.h"
 #include "dialogs/dlgCrackControl.h"
@@ -27,6 +28,8 @@
 #include <type_traits>
 
 using plib::DesignParameterRow;
+using plib::RecordedStep;
+using plib::RowsStep;
 using Table = DesignParameterTable;
 
 namespace {
@@ -169,7 +172,7 @@ void DesignParameter::layOver(int row, int column, QWidget* editor)
 
 /// Opens a dialog for the record of the current row. The record is changed only after OK.
 template <class Dialog, typename... Arguments>
-void DesignParameter::editRecord(Arguments... arguments)
+void DesignParameter::editRecord(RowsStep name, Arguments... arguments)
 {
     const int row = data->table->currentRow();
     DesignParameterRow* edited = plib::rowAt(*data, row);
@@ -185,23 +188,24 @@ void DesignParameter::editRecord(Arguments... arguments)
     edited = plib::rowAt(*data, row); // the rows may have been reloaded meanwhile
     if (!edited)
         return;
+    const RecordedStep step(this, name, {row});
     dialog.writeToRecord(&edited->record);
     refreshRows(row);
 }
 
 void DesignParameter::slot_editButtonClicked()
 {
-    editRecord<dlgDistanceDirection>();
+    editRecord<dlgDistanceDirection>(RowsStep::DirectionAndDistance);
 }
 
 void DesignParameter::slot_calcReinforcementButtonClicked()
 {
-    editRecord<dlgReinforcement>(data->doc->index());
+    editRecord<dlgReinforcement>(RowsStep::Reinforcement, data->doc->index());
 }
 
 void DesignParameter::slot_calcCrackButtonClicked()
 {
-    editRecord<dlgCrackControl>();
+    editRecord<dlgCrackControl>(RowsStep::CrackControl);
 }
 
 void DesignParameter::slot_openGroups()
@@ -259,6 +263,7 @@ void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
     DesignParameterRow* changed = plib::rowAt(*data, row);
     if (!changed)
         return;
+    const RecordedStep step(this, RowsStep::Groups, {row});
     changed->groups = groups;
     std::sort(changed->groups.begin(), changed->groups.end());
     const int column = data->table->getColumnNumber(Table::Selection);
@@ -297,6 +302,7 @@ void DesignParameter::slot_selectionComboChanged(QString text)
     if (!chosen ||
         !qobject_cast<dlgSelection*>(data->table->cellWidget(row, data->table->currentColumn())))
         return;
+    const RecordedStep step(this, RowsStep::Groups, {row});
     if (text == tr("Remaining Groups"))
         chosen->groups = {-1};
     else if (text == tr("None"))

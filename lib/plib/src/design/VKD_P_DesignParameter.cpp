@@ -41,6 +41,7 @@ VKD_P_DesignParameter::~VKD_P_DesignParameter()
 bool VKD_P_DesignParameter::init()
 {
     m_page->init();
+    addActions(m_page->actions()); // for hosts
     return true;
 }
 
