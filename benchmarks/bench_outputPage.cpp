@@ -34,7 +34,7 @@ public:
         beam.number = beam.group = beam.nodes[0] = 1;
         beam.nodes[1] = 2;
         model.beams = {beam};
-        vkd::dbo::storeModel(doc->index(), model);
+        vkd::dbo::storeModel(doc->handle(), model);
     }
 
 private:

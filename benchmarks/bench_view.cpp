@@ -50,7 +50,7 @@ class ShownShell
 public:
     ShownShell()
         : m_doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.zob"))))
-        , view((vkd::dbo::storeModel(m_doc->index(), shell()), m_doc->index()))
+        , view((vkd::dbo::storeModel(m_doc->handle(), shell()), m_doc->handle()))
     {
         view.resize(Width, Height);
         view.slotViewControl(AnimatorStandardView, 0.0);

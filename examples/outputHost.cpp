@@ -27,18 +27,18 @@ int main(int argc, char* argv[])
     VKD_H_TabDialog dialog;
     auto tab = new QWidget;
     dialog.addTab(tab, project->path()); // before the page, which looks for the dialog above it
-    auto view = new AnimatorView(project->index(), &dialog);
+    auto view = new AnimatorView(project->handle(), &dialog);
     auto page =
         new VKD_P_WidgetGraphicalOutput(tab, VKD_P_GraphicalOutput_Standard, &parameter, view);
     (new QVBoxLayout(tab))->addWidget(page);
 
     std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> rows;
-    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project->index()))
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project->handle()))
         rows.push_back({loadCase.kind, loadCase.number,
                         QStringLiteral("%1 : %2").arg(loadCase.number).arg(loadCase.title)});
     page->setUsedNumbersAndNames(rows);
 
-    VKD_H_ProjectDialogPage kept(project->index(), 1);
+    VKD_H_ProjectDialogPage kept(project->handle(), 1);
     // Also called with an empty string: this changes nothing now, but afterwards the choice of
     // plots survives a change of the content tags.
     page->readXMLstring(kept.getEntry(QStringLiteral("Output"), QString()));

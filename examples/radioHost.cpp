@@ -24,7 +24,7 @@ int main(int argc, char* argv[])
         return 1; // the reason is in the log
 
     QStandardItemModel loadCases;
-    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project->index())) {
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project->handle())) {
         auto number = new QStandardItem(QString::number(loadCase.number));
         number->setCheckable(true);
         loadCases.appendRow({number, new QStandardItem(loadCase.title)});

@@ -92,7 +92,7 @@ private Q_SLOTS:
     {
         QFETCH(int, seed);
         HostProject project(QStringLiteral("hall"));
-        AnimatorView animator(project.doc()->index());
+        AnimatorView animator(project.doc()->handle());
         OutputDesk desk(project, VKD_P_GraphicalOutput_Standard, &animator);
         desk.page.resize(800, 600);
         Monkey monkey(seed);
@@ -110,7 +110,7 @@ private Q_SLOTS:
             }
         }
         const QString kept = desk.page.writeXMLstring();
-        AnimatorView otherAnimator(project.doc()->index());
+        AnimatorView otherAnimator(project.doc()->handle());
         OutputDesk fresh(project, VKD_P_GraphicalOutput_Standard, &otherAnimator);
         fresh.page.setUsedNumbersAndNames(rows);
         fresh.page.readXMLstring(kept);

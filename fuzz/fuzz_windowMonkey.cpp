@@ -263,7 +263,7 @@ private:
         const QString copied = path("copied.zob");
         writeFile(copied, contentOf(project));
         const auto document = VKD_H_ZOBDoc::open(copied);
-        if (!document || !state.put(document->index()).isOk())
+        if (!document || !state.put(document->handle()).isOk())
             return QStringLiteral("not stored");
         const auto name = [](int language) {
             return language == testsupport::English ? QStringLiteral("english")

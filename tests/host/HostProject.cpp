@@ -22,7 +22,7 @@ HostProject::HostProject(const QString& name)
     const VkdStatus read = vkd::dbo::readModelFile(QStringLiteral(MODELS "/%1.json").arg(name),
                                                    vkd::Language::English, &model);
     require(read.isOk(), qPrintable(read.reason));
-    require(vkd::dbo::storeModel(m_project.index(), model).isOk(), "model not stored");
+    require(vkd::dbo::storeModel(m_project.handle(), model).isOk(), "model not stored");
 }
 
 void HostProject::reopen()

@@ -195,7 +195,7 @@ private Q_SLOTS:
         QFETCH(QString, edit);
         vkd::dbo::Model model;
         model.system.kindOfSystem = kind;
-        QVERIFY(vkd::dbo::storeModel(m_project->doc()->index(), model).isOk());
+        QVERIFY(vkd::dbo::storeModel(m_project->doc()->handle(), model).isOk());
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1)});
         desk.table()->setCurrentCell(1, column);
         const QString before = desk.row(1);

@@ -132,7 +132,7 @@ private Q_SLOTS:
     void viewsAndTheAnimator()
     {
         QWidget home;
-        auto animator = new AnimatorView(m_project.doc()->index(), &home);
+        auto animator = new AnimatorView(m_project.doc()->handle(), &home);
         {
             Desk desk(m_project, VKD_P_GraphicalOutput_Standard, animator);
             QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
@@ -152,7 +152,7 @@ private Q_SLOTS:
             const QString kept = desk.page.writeXMLstring();
             const QString camera = vkd::dbo::getAnimatorPerspektive(0, 1);
             QVERIFY(desk.page.getTORVAL_BEOB(true) == QLatin1String("TYPE STAN ") + camera);
-            vkd::dbo::setCamera(0, vkd::dbo::Camera());
+            vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera());
             commands(sent);
             desk.page.readXMLstring(kept);
             QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
@@ -166,7 +166,7 @@ private Q_SLOTS:
 
     void firstShow()
     {
-        AnimatorView animator(m_project.doc()->index());
+        AnimatorView animator(m_project.doc()->handle());
         VKD_QT_TabDialog dialog;
         auto other = new QWidget;
         auto container = new QWidget;

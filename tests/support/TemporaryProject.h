@@ -18,6 +18,7 @@ public:
             qFatal("no project");
     }
 
+    ZobHandle handle() const { return doc->handle(); }
     int index() const { return doc->index(); }
 
 private:

@@ -318,7 +318,7 @@ private:
         const auto path = vkd_lib_searchpath("models/building.json", 3);
         const QString file = QFile::decodeName(path->c_str());
         QVERIFY(vkd::dbo::readModelFile(file, vkd::Language::German, &model).isOk());
-        QVERIFY(vkd::dbo::storeModel(m_doc->index(), model).isOk());
+        QVERIFY(vkd::dbo::storeModel(m_doc->handle(), model).isOk());
     }
 
     std::unique_ptr<testsupport::Texts> m_texts;

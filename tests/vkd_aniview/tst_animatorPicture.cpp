@@ -39,8 +39,8 @@ private Q_SLOTS:
             block.nodes.push_back({i + 1,
                                    {1000.0 + (i % 4 == 1 || i % 4 == 2 ? 8.0 : 0.0),
                                     i % 4 >= 2 ? 4.0 : 0.0, i >= 4 ? 2.0 : 0.0}});
-        QVERIFY(storeModel(project.index(), block).isOk());
-        AnimatorPicture picture(project.index());
+        QVERIFY(storeModel(project.handle(), block).isOk());
+        AnimatorPicture picture(project.handle());
         QVERIFY(!picture.isEmpty());
         for (const Camera& camera : {Camera{{0, 0, 1}}, Camera{{0, -3, 0}}, Camera{{1, 0, 0}}}) {
             const QSize seen(camera.eye[0] > 0 ? 4 : 8, camera.eye[2] > 0 ? 4 : 2); // metres

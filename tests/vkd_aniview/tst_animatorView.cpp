@@ -71,7 +71,7 @@ void wheel(QWidget& view, int delta)
 Camera cameraOf(AnimatorView& view)
 {
     view.slotViewControl(AnimatorStoreCamera, 0.0);
-    return camera(0);
+    return camera(ZobHandle::scratch());
 }
 
 QString textOf(AnimatorView& view)
@@ -107,7 +107,7 @@ private Q_SLOTS:
             m_view->setEnabled(enabled);
             for (int control = AnimatorStandardView; control <= AnimatorViewYZ; ++control) {
                 takeCamera(Aimed);
-                setCamera(0, Camera());
+                setCamera(ZobHandle::scratch(), Camera());
                 QCOMPARE(textOf(*m_view), Aimed);
                 m_view->slotViewControl(AnimatorViewControl(control), 0.0);
                 QCOMPARE(textOf(*m_view), QLatin1String(cameras[control]));
@@ -275,9 +275,9 @@ private Q_SLOTS:
 
     void noModel()
     {
-        for (int index : {-1, 0, m_project->index()}) {
-            QVERIFY(storeModel(m_project->index(), Model()).isOk());
-            AnimatorView view(index);
+        for (const ZobHandle project : {ZobHandle(), m_project->handle()}) {
+            QVERIFY(storeModel(m_project->handle(), Model()).isOk());
+            AnimatorView view(project);
             view.setPicking(true);
             view.resize(300, 200);
             drag(view, {{10, 10}, {100, 50}});
@@ -293,7 +293,7 @@ private Q_SLOTS:
         m_view->setPicking(true);
         Model model = plates();
         model.quads[0].group = 70;
-        QVERIFY(storeModel(m_project->index(), model).isOk());
+        QVERIFY(storeModel(m_project->handle(), model).isOk());
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), Groups{7});
         m_view->reload();
@@ -301,12 +301,12 @@ private Q_SLOTS:
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
         model.quads.clear();
         model.nodes.resize(2000);
-        QVERIFY(storeModel(m_project->index(), model).isOk());
-        QCOMPARE(m_view->setProject(m_project->index(), [](int) { return false; }).code,
+        QVERIFY(storeModel(m_project->handle(), model).isOk());
+        QCOMPARE(m_view->setProject(m_project->handle(), [](int) { return false; }).code,
                  int(VKD_ZOB_CANCELLED));
         drag(*m_view, {Left}); // the view still shows the same model
         QCOMPARE(m_view->pickedGroups(), Groups{7});
-        QVERIFY(m_view->setProject(-1).isOk());
+        QVERIFY(m_view->setProject(ZobHandle()).isOk());
         m_view->setPickedGroups({7, 70});
         drag(*m_view, {Left});
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
@@ -352,9 +352,9 @@ private:
     /// Seen from above.
     std::unique_ptr<AnimatorView> viewOf(const Model& model) const
     {
-        if (!storeModel(m_project->index(), model).isOk())
+        if (!storeModel(m_project->handle(), model).isOk())
             qFatal("model not stored");
-        auto view = std::make_unique<AnimatorView>(m_project->index());
+        auto view = std::make_unique<AnimatorView>(m_project->handle());
         view->resize(600, 400);
         view->show();
         view->slotViewControl(AnimatorViewXY, 0.0);

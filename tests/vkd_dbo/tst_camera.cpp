@@ -34,7 +34,7 @@ private Q_SLOTS:
     void standard()
     {
         for (int index : {0, m_index}) {
-            QVERIFY(isSame(camera(index), Camera{{1, -2, 1}, 0, {0, 0, 0}, 1}));
+            QVERIFY(isSame(camera(ZobHandle(index)), Camera{{1, -2, 1}, 0, {0, 0, 0}, 1}));
             QCOMPARE(getAnimatorPerspektive(index, 1), QStringLiteral("1 -2 1 ROTA 0"));
         }
     }
@@ -44,29 +44,28 @@ private Q_SLOTS:
         for (const Camera& odd : {Camera{{0.1, -1. / 3, 2. / 3}, M_PI, {1e-7, -7, 3}, 1.1},
                                   Camera{{4e-320, 0, 0}, 1e-300, {1e308, 0, 0}, 9e99},
                                   Camera{{-0.0, 1, 0}, -0.0, {0, -0.0, 0}, 1}}) {
-            setCamera(m_index, odd);
-            QVERIFY(
-                storeModel(m_index, Model()).isOk()); // must not change the camera
+            setCamera(project(), odd);
+            QVERIFY(storeModel(project(), Model()).isOk()); // must not change the camera
             vkd_zob_close(m_index);
             QCOMPARE(vkd_zob_open(m_path, &m_index).code, int(VKD_ZOB_OK));
-            QVERIFY(isSame(camera(m_index), odd));
+            QVERIFY(isSame(camera(project()), odd));
             setAnimatorPerspektive(0, getAnimatorPerspektive(m_index, 2));
-            QVERIFY(isSame(camera(0), odd));
-            setCamera(0, Camera());
-            QVERIFY(isSame(camera(m_index), odd));
+            QVERIFY(isSame(camera(ZobHandle::scratch()), odd));
+            setCamera(ZobHandle::scratch(), Camera());
+            QVERIFY(isSame(camera(project()), odd));
         }
     }
 
     void badTextChangesNothing()
     {
         const Camera before{{3, 4, 5}, 6, {7, 8, 9}, 10};
-        setCamera(m_index, before);
+        setCamera(project(), before);
         for (const char* text :
              {"", "camera2 1 1 1 0 0 0 0 1", "camera1 1 1 1 0 0 0 0", "camera1 1 1 1 0 0 0 0 1 1",
               "camera1 1 1 x 0 0 0 0 1", "camera1 1 1 1 nan 0 0 0 1", "camera1 1 1 1 0 inf 0 0 1",
               "camera1 0 -0 0 0 0 0 0 1", "camera1 1 1 1 0 0 0 0 0", "camera1 1 1 1 0 0 0 0 -1"}) {
             setAnimatorPerspektive(m_index, QLatin1String(text));
-            QVERIFY2(isSame(camera(m_index), before), text);
+            QVERIFY2(isSame(camera(project()), before), text);
         }
     }
 
@@ -75,13 +74,13 @@ private Q_SLOTS:
         double values[8] = {1, 1, 1, 0, 0, 0, 0, std::nan("")};
         for (int length : {int(sizeof values), 8, 3}) {
             vkd_zob_put(m_index, 410, 0, values, &length, 0);
-            QVERIFY(isSame(camera(m_index), Camera()));
+            QVERIFY(isSame(camera(project()), Camera()));
         }
     }
 
     void scriptForm()
     {
-        setCamera(m_index, {{1.0 / 3, -1234567, 1e-7}, 12.3456789, {1, 2, 3}, 4});
+        setCamera(project(), {{1.0 / 3, -1234567, 1e-7}, 12.3456789, {1, 2, 3}, 4});
         QCOMPARE(getAnimatorPerspektive(m_index, 1),
                  QStringLiteral("0.333333 -1.23457e+06 1e-07 ROTA 12.3457"));
         QCOMPARE(getAnimatorPerspektive(m_index, 3), QString());
@@ -90,6 +89,8 @@ private Q_SLOTS:
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
     QByteArray m_path;
+    ZobHandle project() const { return ZobHandle(m_index); }
+
     int m_index = -1;
 };
 

@@ -110,22 +110,22 @@ private Q_SLOTS:
 
     void eachModelReplacesTheOneBefore()
     {
-        QVERIFY(readModel(m_index) == Model());
+        QVERIFY(readModel(project()) == Model());
         for (const char* name : {"hall", "building", "slab", "hall"}) {
             const Model model = shipped(name);
-            QVERIFY(storeModel(m_index, model).isOk());
-            QVERIFY2(readModel(m_index) == model, name);
-            QVERIFY(readLoadCases(m_index) == model.loadCases);
+            QVERIFY(storeModel(project(), model).isOk());
+            QVERIFY2(readModel(project()) == model, name);
+            QVERIFY(readLoadCases(project()) == model.loadCases);
             QCOMPARE(getKindOfSystem(m_index, nullptr), model.system.kindOfSystem);
-            constexpr int Scratch = 0;
-            QVERIFY(copySystem(m_index, Scratch).isOk());
+            constexpr ZobHandle Scratch = ZobHandle::scratch();
+            QVERIFY(copySystem(project(), Scratch).isOk());
             Model copy;
             copy.system = model.system;
             QVERIFY(readModel(Scratch) == copy);
-            QVERIFY(modelMark(Scratch) != modelMark(m_index)); // views share geometry by mark
+            QVERIFY(modelMark(Scratch) != modelMark(project())); // views share geometry by mark
         }
-        QVERIFY(storeModel(m_index, Model()).isOk());
-        QVERIFY(readModel(m_index) == Model());
+        QVERIFY(storeModel(project(), Model()).isOk());
+        QVERIFY(readModel(project()) == Model());
         QCOMPARE(getKindOfSystem(m_index, nullptr), 0);
     }
 
@@ -134,7 +134,7 @@ private Q_SLOTS:
         for (const Query& asked : queries) {
             Model model;
             asked.add(model);
-            QVERIFY(storeModel(m_index, model).isOk());
+            QVERIFY(storeModel(project(), model).isOk());
             for (const Query& one : queries)
                 QVERIFY2(one.has(m_index, nullptr) == (&one == &asked), one.name);
             QTest::ignoreMessage(QtWarningMsg,
@@ -147,14 +147,14 @@ private Q_SLOTS:
     {
         const VkdGoOn no = [](int) { return false; };
         const Model old = shipped("slab");
-        QVERIFY(storeModel(m_index, old).isOk());
-        QVERIFY(!storeModel(m_index, shipped("hall"), no).isOk());
-        QVERIFY(readModel(m_index) == old);
-        QVERIFY(storeModel(m_index, shipped("hall"), [](int percent) {
+        QVERIFY(storeModel(project(), old).isOk());
+        QVERIFY(!storeModel(project(), shipped("hall"), no).isOk());
+        QVERIFY(readModel(project()) == old);
+        QVERIFY(storeModel(project(), shipped("hall"), [](int percent) {
                     return percent <= 100;
                 }).isOk());
         VkdStatus status;
-        QVERIFY(!(readModel(m_index, no, nullptr, &status) == shipped("hall")));
+        QVERIFY(!(readModel(project(), no, nullptr, &status) == shipped("hall")));
         QCOMPARE(status.code, int(VKD_ZOB_CANCELLED));
         int index = -1;
         QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index, no).code, int(VKD_ZOB_CANCELLED));
@@ -173,13 +173,15 @@ private Q_SLOTS:
         Model old;
         old.nodes.resize(994);
         old.supports.resize(1);
-        QVERIFY(storeModel(m_index, old).isOk());
+        QVERIFY(storeModel(project(), old).isOk());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot store")));
-        const VkdGoOn storeOther = [other](int) { return !storeModel(other, Model()).isOk(); };
+        const VkdGoOn storeOther = [other](int) {
+            return !storeModel(ZobHandle(other), Model()).isOk();
+        };
         QByteArray mark;
-        QVERIFY(readModel(m_index, storeOther, &mark) == old);
-        QCOMPARE(mark, modelMark(m_index));
-        QVERIFY(storeModel(other, Model()).isOk());
+        QVERIFY(readModel(project(), storeOther, &mark) == old);
+        QCOMPARE(mark, modelMark(project()));
+        QVERIFY(storeModel(ZobHandle(other), Model()).isOk());
         vkd_zob_close(other);
     }
 
@@ -187,19 +189,19 @@ private Q_SLOTS:
     {
         Model model;
         model.nodes.resize(1500);
-        QVERIFY(storeModel(m_index, model).isOk());
+        QVERIFY(storeModel(project(), model).isOk());
         const QRegularExpression notOpen(QStringLiteral("no project is open"));
         for (int i = 0; i < 2; ++i) // the record and the end of its list
             QTest::ignoreMessage(QtWarningMsg, notOpen);
         QByteArray mark("old");
         VkdStatus status;
         readModel(
-            m_index, [this](int) { return vkd_zob_close(m_index).code == VKD_ZOB_OK; }, &mark,
+            project(), [this](int) { return vkd_zob_close(m_index).code == VKD_ZOB_OK; }, &mark,
             &status);
         QVERIFY(mark.isEmpty());
         QCOMPARE(status.code, int(VKD_ZOB_NOT_OPEN));
         QTest::ignoreMessage(QtWarningMsg, notOpen);
-        QVERIFY(readGroups(m_index).isEmpty());
+        QVERIFY(readGroups(project()).isEmpty());
         QCOMPARE(vkd_zob_open(m_path.toUtf8(), &m_index).code, int(VKD_ZOB_OK));
     }
 
@@ -215,17 +217,17 @@ private Q_SLOTS:
         const QRegularExpression tooShort(QStringLiteral("too short"));
         const Model model = shipped("hall");
         for (const auto& [key1, record] : records) {
-            QVERIFY(storeModel(m_index, model).isOk());
+            QVERIFY(storeModel(project(), model).isOk());
             const int length = record.size();
             QCOMPARE(vkd_zob_put(m_index, key1, 0, record, &length, 1), int(VKD_ZOB_OK));
             QTest::ignoreMessage(QtWarningMsg, tooShort);
             VkdStatus status;
-            QVERIFY(readModel(m_index, VkdGoOn(), nullptr, &status) == model);
+            QVERIFY(readModel(project(), VkdGoOn(), nullptr, &status) == model);
             QCOMPARE(status.reason,
                      QStringLiteral("a record under %1, 0 is too short and left out").arg(key1));
             if (key1 == Groups || length < 8) // of an element, only the group is read
                 QTest::ignoreMessage(QtWarningMsg, tooShort);
-            QCOMPARE(readGroups(m_index).size(), model.groups.size());
+            QCOMPARE(readGroups(project()).size(), model.groups.size());
         }
     }
 
@@ -244,6 +246,8 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
+    ZobHandle project() const { return ZobHandle(m_index); }
+
     int m_index = -1;
 };
 

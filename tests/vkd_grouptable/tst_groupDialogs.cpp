@@ -131,7 +131,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         setLanguage(English);
-        QVERIFY(storeModel(m_project.index(), sample()).isOk());
+        QVERIFY(storeModel(m_project.handle(), sample()).isOk());
     }
 
     /// The groups checked before are only the start of picking; no group is picked yet.

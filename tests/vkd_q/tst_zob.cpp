@@ -170,9 +170,11 @@ private Q_SLOTS:
             if (QByteArray("TCL").contains(step)) // ends a part of the change
                 put(m_first, 1, 1, "part", 1);
             switch (step) {
-            case 's': snapshots.push_back(std::make_unique<ZobSnapshot>(m_first)); break;
+            case 's': snapshots.push_back(std::make_unique<ZobSnapshot>(ZobHandle(m_first))); break;
             case 'S': snapshots.pop_back(); break;
-            case 't': transactions.push_back(std::make_unique<ZobTransaction>(m_first)); break;
+            case 't':
+                transactions.push_back(std::make_unique<ZobTransaction>(ZobHandle(m_first)));
+                break;
             case 'C': transactions.back()->commit(); Q_FALLTHROUGH();
             case 'T': transactions.pop_back(); break;
             case 'l': QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK); break;
@@ -192,17 +194,17 @@ private Q_SLOTS:
     /// No other program can write between the end of the change and the next read.
     void snapshotOutlivesAChange()
     {
-        const ZobSnapshot snapshot(m_first);
+        const ZobSnapshot snapshot{ZobHandle(m_first)};
         for (bool isWhole : {true, false}) {
-            ZobTransaction change(m_first);
+            ZobTransaction change{ZobHandle(m_first)};
             QCOMPARE(put(m_first, 1, 1, isWhole ? "new" : "dropped", 0), VKD_ZOB_OK);
             QCOMPARE(readAll(m_first).first(), QByteArray(isWhole ? "new" : "dropped"));
             if (isWhole)
                 QVERIFY(change.commit().isOk());
         }
         {
-            const ZobSnapshot other(m_second);
-            ZobTransaction change(m_first);
+            const ZobSnapshot other{ZobHandle(m_second)};
+            ZobTransaction change{ZobHandle(m_first)};
             QCOMPARE(put(m_first, 1, 1, "refused", 0), VKD_ZOB_OK);
             QCOMPARE(m_log->once(change.commit().code), VKD_ZOB_LOCKED);
         }
@@ -212,33 +214,35 @@ private Q_SLOTS:
 
     void changeInASnapshotDoesNotWait()
     {
-        auto snapshot = std::make_unique<ZobSnapshot>(m_first);
-        ZobTransaction other(m_second);
+        auto snapshot = std::make_unique<ZobSnapshot>(ZobHandle(m_first));
+        ZobTransaction other{ZobHandle(m_second)};
         QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
         vkd_lib_setvalue(201, 60000); // the other program would wait for the snapshot this long
-        QCOMPARE(m_log->once(ZobTransaction(m_first).status().code), VKD_ZOB_LOCKED);
+        QCOMPARE(m_log->once(ZobTransaction(ZobHandle(m_first)).status().code), VKD_ZOB_LOCKED);
         QCOMPARE(m_log->once(put(m_first, 1, 1, "mine", 0)), VKD_ZOB_LOCKED);
         QCOMPARE(readAll(m_first), m_old);
         vkd_lib_setvalue(201, 30);
         snapshot.reset();
         QVERIFY(other.commit().isOk());
-        const ZobSnapshot later(m_first);
-        QVERIFY(ZobTransaction(m_first).commit().isOk()); // a snapshot never becomes outdated
+        const ZobSnapshot later{ZobHandle(m_first)};
+        QVERIFY(ZobTransaction(ZobHandle(m_first))
+                    .commit()
+                    .isOk()); // a snapshot never becomes outdated
         QCOMPARE(readAll(m_first), (Records{"other", "old 1"}));
     }
 
     void closingEndsSnapshotsAndTransactions()
     {
-        const ZobSnapshot snapshot(m_first);
-        ZobTransaction change(m_first);
+        const ZobSnapshot snapshot{ZobHandle(m_first)};
+        ZobTransaction change{ZobHandle(m_first)};
         put(m_first, 1, 1, "new", 0);
         const QString path = m_folder->filePath(QStringLiteral("Träger.vkd"));
         QVERIFY(vkd_zob_close(m_first).isOk());
         m_first = openProject(path); // gets the same index
         QCOMPARE(change.commit().code, VKD_ZOB_NOT_OPEN);
         QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
-        QCOMPARE(m_log->once(ZobSnapshot(99).status().code), VKD_ZOB_NOT_OPEN);
-        QCOMPARE(m_log->once(ZobTransaction(99).commit().code), VKD_ZOB_NOT_OPEN);
+        QCOMPARE(m_log->once(ZobSnapshot(ZobHandle(99)).status().code), VKD_ZOB_NOT_OPEN);
+        QCOMPARE(m_log->once(ZobTransaction(ZobHandle(99)).commit().code), VKD_ZOB_NOT_OPEN);
     }
 
     void lastReleaseStoresAndCloseDrops()
@@ -310,7 +314,7 @@ private Q_SLOTS:
     {
         Records expected = m_old;
         for (int index : {m_first, m_second, m_first}) {
-            ZobTransaction change(index);
+            ZobTransaction change{ZobHandle(index)};
             QCOMPARE(put(index, 1, 1, "more", 1), VKD_ZOB_OK);
             QVERIFY(change.commit().isOk());
             expected << "more";

@@ -70,16 +70,16 @@ Open VisitedProject::design(const DesignAct& act)
 
 QSet<QString> VisitedProject::texts()
 {
-    const int index = doc()->index();
+    const ZobHandle project = doc()->handle();
     QSet<QString> found{QStringLiteral("1 : g")};
-    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readGroups(index))
+    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readGroups(project))
         found << group.title;
-    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readSecondaryGroups(index))
+    for (const vkd::dbo::GroupSummary& group : vkd::dbo::readSecondaryGroups(project))
         found << group.title << group.name;
     const workbench::RecordTableModel words;
     for (int word = 0; word < words.rowCount(); ++word)
         found << words.headerData(word, Qt::Vertical, Qt::DisplayRole).toString();
-    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index))
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project))
         found << loadCase.title
               << QStringLiteral("%1 : %2").arg(loadCase.number).arg(loadCase.title);
     return found;

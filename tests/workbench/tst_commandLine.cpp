@@ -155,7 +155,7 @@ private Q_SLOTS:
         const auto project = VKD_H_ZOBDoc::open(path("kept.zob"));
         const bool isDamaged = page.startsWith(QLatin1String("</"));
         const workbench::OutputState state{page, isDamaged ? 77 : 0, {isDamaged ? -3 : 2}};
-        QVERIFY(state.put(project->index()).isOk());
+        QVERIFY(state.put(project->handle()).isOk());
         QVERIFY(project->close().isOk());
         const Result expected = run(QLatin1String("script building.zob") + same);
         QVERIFY(expected.out.contains(QLatin1String("SIZE ")));

@@ -29,14 +29,11 @@ enum DesignColumn { Groups, Type, Directions, Reinforcement, Cracks };
 const QSet<QString> FixedColumns{QStringLiteral("table")};
 
 /// Texts with the same spelling in both languages.
-const QSet<QString> SameSpelling{QStringLiteral("&Filter:"),
-                                 QStringLiteral("Name"),
-                                 QStringLiteral("System"),
-                                 QStringLiteral("Text"),
-                                 QStringLiteral("Workbench"),
-                                 QStringLiteral("Zoom"),
-                                 QStringLiteral("phi-Y"),
-                                 QStringLiteral("project.zob[*] - Workbench")};
+const QSet<QString> SameSpelling{
+    QStringLiteral("&Filter:"),  QStringLiteral("Name"),
+    QStringLiteral("System"),    QStringLiteral("Text"),
+    QStringLiteral("Workbench"), QStringLiteral("Zoom"),
+    QStringLiteral("phi-Y"),     QStringLiteral("project.zob[*] - Workbench")};
 } // namespace
 
 /// Checks every window of the program and of the libraries in both languages. Each row adds a
@@ -281,7 +278,7 @@ private:
         add(name, [=](const Visit& visit) {
             VKD_H_PluginParameter parameter(m_project->doc());
             VKD_QT_TabDialog dialog;
-            auto view = withView ? new AnimatorView(m_project->doc()->index(), &dialog) : nullptr;
+            auto view = withView ? new AnimatorView(m_project->doc()->handle(), &dialog) : nullptr;
             // After the catalogue was read in two languages, it offers each plot twice.
             vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English);
             auto output = new VKD_P_WidgetGraphicalOutput(&dialog, kind, &parameter, view);

@@ -97,14 +97,14 @@ Part outputPart()
         [plots](QWidget& dialog) { plots(dialog)->setCheckState(0, Qt::Unchecked); },
         [](const QString& project) {
             const auto document = VKD_H_ZOBDoc::open(project);
-            OutputState state = OutputState::read(document->index());
+            OutputState state = OutputState::read(document->handle());
             state.leftOutNumbers = {1};
-            QVERIFY(state.put(document->index()).isOk());
+            QVERIFY(state.put(document->handle()).isOk());
         },
         [plots](const QWidget& dialog) { return plots(dialog)->checkState(0) == Qt::Unchecked; },
         [](const QString& project) {
             const auto document = VKD_H_ZOBDoc::open(project);
-            return OutputState::read(document->index()).leftOutNumbers.isEmpty();
+            return OutputState::read(document->handle()).leftOutNumbers.isEmpty();
         }};
 }
 
@@ -114,14 +114,14 @@ Part textOutputPart()
         [](QWidget& dialog) { find<QCheckBox>(dialog, "ReactionList")->click(); },
         [](const QString& project) {
             const auto document = VKD_H_ZOBDoc::open(project);
-            auto state = TextOutputState::read(document->index(), ExtentFields::DefaultLists);
+            auto state = TextOutputState::read(document->handle(), ExtentFields::DefaultLists);
             state.leftOutLoadCases = {1};
-            QVERIFY(state.put(document->index()).isOk());
+            QVERIFY(state.put(document->handle()).isOk());
         },
         [](const QWidget& dialog) { return !find<QCheckBox>(dialog, "ReactionList")->isChecked(); },
         [](const QString& project) {
             const auto document = VKD_H_ZOBDoc::open(project);
-            return TextOutputState::read(document->index(), 0).leftOutLoadCases.isEmpty();
+            return TextOutputState::read(document->handle(), 0).leftOutLoadCases.isEmpty();
         }};
 }
 } // namespace

@@ -167,7 +167,7 @@ private Q_SLOTS:
         const SheetPlan plan = readSheetPlan(script);
         QTEST(plan.pictures.size(), "pictures");
         QTEST(plan.picturesPerPage(), "perPage");
-        ModelImages none(0);
+        ModelImages none{ZobHandle()};
         SheetPainter painter(&none, QStringLiteral("Project"));
         for (int page : {0, plan.pageCount() - 1}) {
             if (plan.isEmpty())
@@ -211,7 +211,7 @@ private Q_SLOTS:
     void scales()
     {
         const auto document = VKD_H_ZOBDoc::open(copy("building.zob"));
-        ModelImages models(document->index());
+        ModelImages models(document->handle());
         PictureView view;
         view.kind = PictureView::PlaneXY; // 19.5 m by 13.5 m with the raft
         const QSizeF frame(180, 110);
@@ -323,7 +323,7 @@ private Q_SLOTS:
         const QString file = path("kept.pdf");
         writeFile(file, "what was there");
         const SheetPlan plan = readSheetPlan(longScript(100000));
-        ModelImages none(0);
+        ModelImages none{ZobHandle()};
         SheetPainter painter(&none, QStringLiteral("Project"));
         whenModal([](QWidget* progress) { qobject_cast<QProgressDialog*>(progress)->cancel(); });
         QString trouble;

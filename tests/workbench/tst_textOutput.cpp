@@ -21,7 +21,7 @@ struct Desk
 {
     explicit Desk(std::unique_ptr<VKD_H_ZOBDoc> opened)
         : document(std::move(opened))
-        , dialog(document->index(), nullptr)
+        , dialog(document->handle(), nullptr)
     {
         dialog.show();
     }

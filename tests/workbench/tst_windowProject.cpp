@@ -155,9 +155,9 @@ private Q_SLOTS:
     {
         {
             const auto document = VKD_H_ZOBDoc::open(copy("plane.zob"));
-            vkd::dbo::Model model = vkd::dbo::readModel(document->index());
+            vkd::dbo::Model model = vkd::dbo::readModel(document->handle());
             model.system.kindOfSystem = 10;
-            QVERIFY(vkd::dbo::storeModel(document->index(), model).isOk());
+            QVERIFY(vkd::dbo::storeModel(document->handle(), model).isOk());
         }
         const auto window = reopen("plane.zob");
         QStringList cells;

@@ -17,10 +17,10 @@ namespace workbench {
 namespace {
 using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-Rows rowsOfProject(int index)
+Rows rowsOfProject(ZobHandle project)
 {
     Rows rows;
-    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(index))
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(project))
         rows.push_back({loadCase.kind, loadCase.number,
                         QStringLiteral("%1 : %2").arg(loadCase.number).arg(loadCase.title)});
     return rows;
@@ -31,11 +31,11 @@ void addPage(SnapshotAlbum& album, VKD_H_ZOBDoc* document, const char* name,
 {
     VKD_H_PluginParameter parameter(document);
     VKD_QT_TabDialog dialog;
-    auto animator = withView ? new AnimatorView(document->index(), &dialog) : nullptr;
+    auto animator = withView ? new AnimatorView(document->handle(), &dialog) : nullptr;
     auto tab = new QWidget;
     auto page = new VKD_P_WidgetGraphicalOutput(tab, kind, &parameter, animator);
     (new VKD_QT_VBoxLayout(tab))->addWidget(page);
-    page->setUsedNumbersAndNames(rowsOfProject(document->index()));
+    page->setUsedNumbersAndNames(rowsOfProject(document->handle()));
     if (kind != VKD_P_GraphicalOutput_Split)
         page->slotDefaultSettings();
     dialog.addTab(tab, page->findChild<QTreeWidget*>()->accessibleName());

@@ -62,7 +62,7 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
 
 DesignRows::DesignRows(VKD_H_ZOBDoc* document)
     : m_document(document)
-    , m_page(document->index(), DesignDialogPage)
+    , m_page(document->handle(), DesignDialogPage)
 {
     const int index = document->index();
     m_bars.load(index);
@@ -92,7 +92,7 @@ const std::set<int>& DesignRows::modelGroups() const
 {
     if (!m_modelGroups.empty())
         return m_modelGroups;
-    const vkd::dbo::Model model = vkd::dbo::readModel(m_document->index());
+    const vkd::dbo::Model model = vkd::dbo::readModel(m_document->handle());
     for (const auto& group : model.groups)
         m_modelGroups.insert(group.number);
     for (const auto& group : model.secondaryGroups)

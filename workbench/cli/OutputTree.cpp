@@ -57,7 +57,7 @@ OutputTree::OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname,
     , m_queries(&m_parameter)
     , m_progname(progname)
 {
-    fill(rows ? *rows : saved.offeredRows(m_document->index()), additionalContents(saved));
+    fill(rows ? *rows : saved.offeredRows(m_document->handle()), additionalContents(saved));
 }
 
 OutputTree::~OutputTree() = default;

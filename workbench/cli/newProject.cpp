@@ -48,7 +48,7 @@ std::vector<int> toGroups(const QStringList& texts)
 VkdStatus storeDesign(VKD_H_ZOBDoc* document, const QVector<vkd::dbo::DesignValues>& designs,
                       const QString& modelFile)
 {
-    ZobTransaction change(document->index());
+    ZobTransaction change(document->handle());
     plib::checkAndCreateZobDefault(document->index());
     DesignRows rows(document);
     for (const vkd::dbo::DesignValues& design : designs) {
@@ -78,7 +78,7 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
     if (status.isOk())
         document = VKD_H_ZOBDoc::create(place.temporaryPath(), &status);
     if (document)
-        status = vkd::dbo::storeModel(document->index(), model, goOn);
+        status = vkd::dbo::storeModel(document->handle(), model, goOn);
     if (status.isOk())
         status = storeDesign(document.get(), model.designParameters, modelFile);
     if (status.isOk())

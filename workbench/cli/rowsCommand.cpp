@@ -27,7 +27,7 @@ void failOn(const VkdStatus& failure)
 
 void storeRow(VKD_H_ZOBDoc* document, const QString& groups, const QStringList& fields)
 {
-    ZobTransaction change(document->index());
+    ZobTransaction change(document->handle());
     failOn(change.status());
     plib::checkAndCreateZobDefault(document->index());
     DesignRows rows(document);

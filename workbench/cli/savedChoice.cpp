@@ -31,10 +31,10 @@ int progname(const CommandLine& line)
     return line.number("progname", VKD_P_GraphicalOutput_Standard);
 }
 
-OutputState savedChoice(const CommandLine& line, int index)
+OutputState savedChoice(const CommandLine& line, ZobHandle project)
 {
     const bool isSaved = !line.has("proposed") && progname(line) == VKD_P_GraphicalOutput_Standard;
-    return isSaved ? OutputState::read(index) : OutputState();
+    return isSaved ? OutputState::read(project) : OutputState();
 }
 
 plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved)

@@ -12,9 +12,9 @@ namespace workbench {
 std::vector<CommandLine::Option> choiceOptions();
 int progname(const CommandLine& line);
 
-/// Returns the state that the window saved in the project at this database index. Returns an empty
-/// state with --proposed, and for kinds of page other than the window's.
-OutputState savedChoice(const CommandLine& line, int index);
+/// Returns the state that the window saved in the project. Returns an empty state with --proposed,
+/// and for kinds of page other than the window's.
+OutputState savedChoice(const CommandLine& line, ZobHandle project);
 
 /// Returns the saved settings. Settings that were not saved have the value of a new page.
 plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved);

@@ -104,7 +104,7 @@ int scriptCommand(const QStringList& arguments)
         line.language("keywords", vkd::Language::English) == vkd::Language::English);
     vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, int(keywords));
     auto document = openProject(line.argument(0));
-    const OutputState saved = savedChoice(line, document->index());
+    const OutputState saved = savedChoice(line, document->handle());
     plib::OutputSettings settings = savedSettings(line, saved);
     restoreCamera(saved);
     applySettings(line.values("set"), &settings);

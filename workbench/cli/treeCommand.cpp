@@ -43,7 +43,7 @@ int treeCommand(const QStringList& arguments)
     line.parse(arguments);
     applyLanguage(line);
     auto document = openProject(line.argument(0));
-    const OutputState saved = savedChoice(line, document->index());
+    const OutputState saved = savedChoice(line, document->handle());
     OutputTree tree(std::move(document), progname(line), saved, nullptr);
     tree.applySelection(chosenPlots(line, saved));
     QString text;

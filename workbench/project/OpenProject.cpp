@@ -21,14 +21,14 @@ OpenProject::~OpenProject() = default;
 std::unique_ptr<VKD_H_ZOBDoc> OpenProject::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
 {
     auto previous = std::exchange(m_document, std::move(document));
-    m_watch.setProject(index(), path());
+    m_watch.setProject(handle(), path());
     m_followed = 0;
     return previous;
 }
 
-int OpenProject::index() const
+ZobHandle OpenProject::handle() const
 {
-    return m_document ? m_document->index() : 0;
+    return m_document ? m_document->handle() : ZobHandle();
 }
 
 QString OpenProject::path() const
@@ -48,23 +48,23 @@ QString OpenProject::folder() const
 
 cd_error_t OpenProject::readStatus() const
 {
-    return ZobSnapshot(index()).status().code;
+    return ZobSnapshot(handle()).status().code;
 }
 
 cd_error_t OpenProject::look(ProjectPart part)
 {
-    return m_parts[int(part)].look(index());
+    return m_parts[int(part)].look(handle());
 }
 
 bool OpenProject::isOutdated(ProjectPart part) const
 {
-    return m_parts[int(part)].isOutdated(index());
+    return m_parts[int(part)].isOutdated(handle());
 }
 
 cd_error_t OpenProject::store(ProjectPart part, const std::function<cd_error_t()>& put,
                               SeenPart::Newer newer)
 {
-    return m_parts[int(part)].store(index(), put, newer);
+    return m_parts[int(part)].store(handle(), put, newer);
 }
 
 ProjectWatch::File OpenProject::check()

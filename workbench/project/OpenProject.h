@@ -28,8 +28,8 @@ public:
     bool isOpen() const { return bool(m_document); }
     /// Returns null if no project is open.
     VKD_H_ZOBDoc* document() const { return m_document.get(); }
-    /// Returns the database index, 0 if no project is open.
-    int index() const;
+    /// Returns a null handle if no project is open.
+    ZobHandle handle() const;
     /// Returns the path of the file, empty if no project is open.
     QString path() const;
     /// Returns the name of the file without its suffix.

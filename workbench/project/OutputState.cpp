@@ -25,9 +25,9 @@ QString rowName(const vkd::dbo::LoadCase& loadCase)
 }
 } // namespace
 
-OutputState OutputState::read(int index)
+OutputState OutputState::read(ZobHandle project)
 {
-    const VKD_H_ProjectDialogPage entries(index, OutputDialogPage);
+    const VKD_H_ProjectDialogPage entries(project, OutputDialogPage);
     OutputState state;
     state.page = entries.getEntry(PageKey, QString());
     state.content = entries.getEntry(ContentKey, QString()).toInt();
@@ -35,9 +35,9 @@ OutputState OutputState::read(int index)
     return state;
 }
 
-VkdStatus OutputState::put(int index) const
+VkdStatus OutputState::put(ZobHandle project) const
 {
-    return putEntries(index, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
+    return putEntries(project, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
         entries.setEntry(PageKey, page);
         entries.setEntry(ContentKey, QString::number(content));
         entries.setEntry(LeftOutKey, savedNumbers(leftOutNumbers));
@@ -50,10 +50,10 @@ QString OutputState::solidsTag()
 }
 
 std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
-OutputState::offeredRows(int index) const
+OutputState::offeredRows(ZobHandle project) const
 {
     std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> rows;
-    const auto loadCases = vkd::dbo::readLoadCases(index);
+    const auto loadCases = vkd::dbo::readLoadCases(project);
     for (const vkd::dbo::LoadCase& loadCase : loadCases)
         if (loadCase.kind != PlainLoadCase || !leftOutNumbers.contains(loadCase.number))
             rows.push_back({loadCase.kind, loadCase.number, rowName(loadCase)});

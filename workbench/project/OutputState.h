@@ -2,6 +2,7 @@
 
 #include <LoadcaseInformation.h>
 #include <vkd_status.h>
+#include <ZobHandle.h>
 
 #include <QSet>
 #include <QString>
@@ -21,16 +22,17 @@ struct OutputState
     int content = OfTheModel; ///< entry of the radio group of contents
     QSet<int> leftOutNumbers; ///< load cases that are unchecked in the table
 
-    /// Reads the state from the project at this database index.
-    static OutputState read(int index);
+    /// Reads the state from the project.
+    static OutputState read(ZobHandle project);
     /// Writes the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
-    VkdStatus put(int index) const;
+    VkdStatus put(ZobHandle project) const;
 
     /// Returns the tag of the content that WithSolids always includes.
     static QString solidsTag();
-    /// Returns the load cases of the project at this database index that the plots offer, sorted by
-    /// number. The table lists plain load cases only; design combinations are always offered.
-    std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> offeredRows(int index) const;
+    /// Returns the load cases of the project that the plots offer, sorted by number. The table
+    /// lists plain load cases only; design combinations are always offered.
+    std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
+    offeredRows(ZobHandle project) const;
 };
 
 } // namespace workbench

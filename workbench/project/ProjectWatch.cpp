@@ -22,16 +22,16 @@ ProjectWatch::ProjectWatch(QObject* parent)
         connect(timer, &QTimer::timeout, this, &ProjectWatch::look);
 }
 
-void ProjectWatch::setProject(int index, const QString& path)
+void ProjectWatch::setProject(ZobHandle project, const QString& path)
 {
     if (!m_path.isEmpty())
         m_watcher.removePath(m_path);
-    m_index = index;
-    m_path = index > 0 ? path : QString();
+    m_project = project;
+    m_path = project.isNull() ? QString() : path;
     m_file = File::Present;
     m_changes = 0;
     m_soon.stop();
-    if (index < 1)
+    if (project.isNull())
         return m_slow.stop();
     watchFile();
     m_slow.start();
@@ -40,11 +40,11 @@ void ProjectWatch::setProject(int index, const QString& path)
 
 void ProjectWatch::look()
 {
-    if (m_index < 1)
+    if (m_project.isNull())
         return;
     watchFile();
     int changes = m_changes;
-    const cd_error_t status = vkd_zob_outside_changes(m_index, &changes);
+    const cd_error_t status = vkd_zob_outside_changes(m_project.index(), &changes);
     if (status != VKD_ZOB_OK && status != VKD_ZOB_MOVED)
         return; // another program is storing; the next check follows
     File file = File::Present;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ZobHandle.h>
+
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QTimer>
@@ -22,9 +24,9 @@ public:
 
     explicit ProjectWatch(QObject* parent = nullptr);
 
-    /// Watches the project at this database index, or none if the index is below 1. Changes since
-    /// the project was opened are reported, too.
-    void setProject(int index, const QString& path);
+    /// Watches the project, or none if the handle is null. Changes since the project was opened are
+    /// reported, too.
+    void setProject(ZobHandle project, const QString& path);
 
     File file() const { return m_file; }
     /// Returns 0 if no other program has changed the project, and a different number after each
@@ -45,7 +47,7 @@ private:
     QTimer m_slow;
     QTimer m_soon; // combines the many reports of one change
     QString m_path;
-    int m_index = 0;
+    ZobHandle m_project;
     File m_file = File::Present;
     int m_changes = 0;
 };

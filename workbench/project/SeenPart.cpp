@@ -26,13 +26,14 @@ std::vector<KeyPair> keysOf(ProjectPart part)
 }
 
 /// Adds the records of a sequence, each with its length, and a mark for its end.
-cd_error_t addRecords(int index, KeyPair pair, QCryptographicHash& hash)
+cd_error_t addRecords(ZobHandle project, KeyPair pair, QCryptographicHash& hash)
 {
     QByteArray record(1024, Qt::Uninitialized);
     cd_error_t status = VKD_ZOB_OK;
     for (int position = 0; status == VKD_ZOB_OK;) {
         int length = record.size();
-        status = vkd_zob_get(index, pair.key1, pair.key2, record.data(), &length, position);
+        status =
+            vkd_zob_get(project.index(), pair.key1, pair.key2, record.data(), &length, position);
         if (status == VKD_ZOB_CUT) {
             record.resize(2 * record.size());
             status = VKD_ZOB_OK;
@@ -42,17 +43,17 @@ cd_error_t addRecords(int index, KeyPair pair, QCryptographicHash& hash)
             ++position;
         }
     }
-    vkd_zob_free_ex(index, pair.key1, pair.key2);
+    vkd_zob_free_ex(project.index(), pair.key1, pair.key2);
     hash.addData("end");
     const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
     return isWhole ? cd_error_t(VKD_ZOB_OK) : status;
 }
 
-cd_error_t readDigest(int index, ProjectPart part, QByteArray* digest)
+cd_error_t readDigest(ZobHandle project, ProjectPart part, QByteArray* digest)
 {
     QCryptographicHash hash(QCryptographicHash::Sha1);
     for (const KeyPair pair : keysOf(part))
-        if (const cd_error_t status = addRecords(index, pair, hash); status != VKD_ZOB_OK)
+        if (const cd_error_t status = addRecords(project, pair, hash); status != VKD_ZOB_OK)
             return status;
     *digest = hash.result();
     return VKD_ZOB_OK;
@@ -64,31 +65,31 @@ SeenPart::SeenPart(ProjectPart part)
 {
 }
 
-cd_error_t SeenPart::look(int index)
+cd_error_t SeenPart::look(ZobHandle project)
 {
-    return readDigest(index, m_part, &m_digest);
+    return readDigest(project, m_part, &m_digest);
 }
 
-bool SeenPart::isOutdated(int index) const
+bool SeenPart::isOutdated(ZobHandle project) const
 {
     QByteArray present;
-    return readDigest(index, m_part, &present) == VKD_ZOB_OK && present != m_digest;
+    return readDigest(project, m_part, &present) == VKD_ZOB_OK && present != m_digest;
 }
 
-cd_error_t SeenPart::store(int index, const std::function<cd_error_t()>& put, Newer newer)
+cd_error_t SeenPart::store(ZobHandle project, const std::function<cd_error_t()>& put, Newer newer)
 {
-    ZobTransaction change(index);
+    ZobTransaction change(project);
     if (!change.status().isOk())
         return change.status().code;
     QByteArray present;
-    cd_error_t status = readDigest(index, m_part, &present);
+    cd_error_t status = readDigest(project, m_part, &present);
     if (status != VKD_ZOB_OK)
         return status;
     if (newer == Newer::Keep && present != m_digest)
         return PartChanged;
     status = put();
     if (status == VKD_ZOB_OK)
-        status = readDigest(index, m_part, &present);
+        status = readDigest(project, m_part, &present);
     if (status != VKD_ZOB_OK)
         return status; // the transaction is rolled back
     status = change.commit().code;

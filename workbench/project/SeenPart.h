@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vkd_zob.h>
+#include <ZobHandle.h>
 
 #include <QByteArray>
 
@@ -23,16 +24,17 @@ public:
 
     explicit SeenPart(ProjectPart part);
 
-    /// Remembers the state in the project at this database index. Call it before reading, so that a
-    /// change in between counts as a later one. Returns a VkdZobStatus.
-    cd_error_t look(int index);
+    /// Remembers the state in the project. Call it before reading, so that a change in between
+    /// counts as a later one. Returns a VkdZobStatus.
+    cd_error_t look(ZobHandle project);
     /// Returns whether the state in the project has changed since look(); false if it cannot be
     /// read.
-    bool isOutdated(int index) const;
+    bool isOutdated(ZobHandle project) const;
     /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if it fails, the transaction
     /// is rolled back and its status is returned. Returns PartChanged if the project has a newer
     /// state and `newer` is Keep, otherwise a VkdZobStatus.
-    cd_error_t store(int index, const std::function<cd_error_t()>& put, Newer newer = Newer::Keep);
+    cd_error_t store(ZobHandle project, const std::function<cd_error_t()>& put,
+                     Newer newer = Newer::Keep);
 
 private:
     ProjectPart m_part;

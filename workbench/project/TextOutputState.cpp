@@ -48,9 +48,9 @@ auto fields(const TextOutputState& state)
 }
 } // namespace
 
-TextOutputState TextOutputState::read(int index, int defaultLists)
+TextOutputState TextOutputState::read(ZobHandle project, int defaultLists)
 {
-    const VKD_H_ProjectDialogPage entries(index, TextOutputDialogPage);
+    const VKD_H_ProjectDialogPage entries(project, TextOutputDialogPage);
     const auto entry = [&entries](const QString& key) { return entries.getEntry(key, QString()); };
     TextOutputState state;
     state.extent = entry(ExtentKey);
@@ -64,9 +64,9 @@ TextOutputState TextOutputState::read(int index, int defaultLists)
     return state;
 }
 
-VkdStatus TextOutputState::put(int index) const
+VkdStatus TextOutputState::put(ZobHandle project) const
 {
-    return putEntries(index, TextOutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
+    return putEntries(project, TextOutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
         entries.setEntry(ExtentKey, extent);
         entries.setEntry(LoadCasesKey, loadCases);
         entries.setEntry(CombinationsKey, combinations);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vkd_status.h>
+#include <ZobHandle.h>
 
 #include <QMap>
 #include <QSet>
@@ -22,11 +23,10 @@ struct TextOutputState
     QSet<int> leftOutCombinations;
     QMap<int, int> kinds; ///< by number of the combination, see CombinationTable
 
-    /// Reads the state from the project at this database index. If no lists were saved, they are
-    /// `defaultLists`.
-    static TextOutputState read(int index, int defaultLists);
+    /// Reads the state from the project. If no lists were saved, they are `defaultLists`.
+    static TextOutputState read(ZobHandle project, int defaultLists);
     /// Writes the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
-    VkdStatus put(int index) const;
+    VkdStatus put(ZobHandle project) const;
 
     bool operator==(const TextOutputState& other) const;
 };

@@ -4,9 +4,10 @@
 
 namespace workbench {
 
-VkdStatus putEntries(int index, int page, const std::function<void(VKD_H_ProjectDialogPage&)>& set)
+VkdStatus putEntries(ZobHandle project, int page,
+                     const std::function<void(VKD_H_ProjectDialogPage&)>& set)
 {
-    VKD_H_ProjectDialogPage entries(index, page);
+    VKD_H_ProjectDialogPage entries(project, page);
     set(entries);
     return entries.save();
 }

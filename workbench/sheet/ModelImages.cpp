@@ -58,8 +58,8 @@ QString keyOf(const QSize& pixels, const QSizeF& frame, const PictureView& view,
 }
 } // namespace
 
-ModelImages::ModelImages(int index)
-    : m_model(index)
+ModelImages::ModelImages(ZobHandle project)
+    : m_model(project)
     , m_images(MostKilobytes)
 {
 }

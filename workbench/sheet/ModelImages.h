@@ -3,6 +3,7 @@
 #include "sheet/SheetPlan.h"
 
 #include <AnimatorPicture.h>
+#include <ZobHandle.h>
 
 #include <QCache>
 #include <QImage>
@@ -17,9 +18,8 @@ namespace workbench {
 class ModelImages
 {
 public:
-    /// Loads the model of the project at this database index, or shares it with a view that shows
-    /// it.
-    explicit ModelImages(int index);
+    /// Loads the model of the project, or shares it with a view that shows it.
+    explicit ModelImages(ZobHandle project);
 
     /// Returns whether the project has no model.
     bool isEmpty() const { return m_model.isEmpty(); }

@@ -48,16 +48,16 @@ SheetPreview::SheetPreview(QAction* exportSheets, QWidget* parent)
     connect(m_zoom, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SheetPreview::zoom);
     connect(m_view, &SheetView::pageChanged, this, &SheetPreview::showPage);
     setFocusProxy(m_view);
-    setProject(0, QString());
+    setProject(ZobHandle(), QString());
     setTexts();
 }
 
 SheetPreview::~SheetPreview() = default;
 
-void SheetPreview::setProject(int index, const QString& name)
+void SheetPreview::setProject(ZobHandle project, const QString& name)
 {
     m_view->setPlan(SheetPlan(), nullptr);
-    m_models = std::make_unique<ModelImages>(index);
+    m_models = std::make_unique<ModelImages>(project);
     m_painter = std::make_unique<SheetPainter>(m_models.get(), name);
     showPage();
 }

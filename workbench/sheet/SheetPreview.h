@@ -2,6 +2,8 @@
 
 #include "sheet/SheetPlan.h"
 
+#include <ZobHandle.h>
+
 #include <QWidget>
 
 #include <memory>
@@ -28,9 +30,9 @@ public:
     explicit SheetPreview(QAction* exportSheets, QWidget* parent = nullptr);
     ~SheetPreview() override;
 
-    /// Selects the project at this database index, or none if the index is below 1, and goes to the
-    /// first page. The preview is empty until setPlan() is called.
-    void setProject(int index, const QString& name);
+    /// Selects the project, or none if the handle is null, and goes to the first page. The preview
+    /// is empty until setPlan() is called.
+    void setProject(ZobHandle project, const QString& name);
     void setPlan(const SheetPlan& plan);
     /// Returns the painter of the project's sheets; the preview owns it.
     SheetPainter& painter() { return *m_painter; }

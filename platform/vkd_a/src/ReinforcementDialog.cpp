@@ -56,14 +56,15 @@ void addRow(VKD_QT_GridLayout* grid, int row, int column, const QString& text, Q
 }
 } // namespace
 
-ReinforcementDialog::ReinforcementDialog(QWidget* parent, int index, float value, float barDiameter)
+ReinforcementDialog::ReinforcementDialog(QWidget* parent, ZobHandle project, float value,
+                                         float barDiameter)
     : VKD_QT_Dialog(parent, "reinforcementCalculation")
     , m_value(value)
 {
     setWindowTitle(tr("Reinforcement Calculation"));
     setProperty("helpTopic", QStringLiteral("MERDAN/CALCULATOR")); // for the host's help key
     auto layout = new VKD_QT_VBoxLayout(this);
-    layout->addWidget(makeInput(index));
+    layout->addWidget(makeInput(project));
     layout->addWidget(makeTable(), 1);
     layout->addWidget(makeResult());
     m_buttons = new VKD_QT_Ok(this, 3, "okayandcancelbutton");
@@ -74,12 +75,12 @@ ReinforcementDialog::ReinforcementDialog(QWidget* parent, int index, float value
     resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 
-VKD_QT_GroupBox* ReinforcementDialog::makeInput(int index)
+VKD_QT_GroupBox* ReinforcementDialog::makeInput(ZobHandle project)
 {
     auto box = new VKD_QT_GroupBox(tr("Bars"), this, "bars");
     m_diameter = new VKD_A_BarDiameterCombo(box, "diameter");
     m_diameter->setNotSetAllowed(false);
-    m_diameter->load(index); // falls back to the common bars
+    m_diameter->load(project.index()); // falls back to the common bars
     m_arrangement = new VKD_QT4_ComboBox(box, "arrangement");
     m_arrangement->setAccessibleName(tr("Arrangement"));
     m_arrangement->addEntry(tr("Single bars"), 1);

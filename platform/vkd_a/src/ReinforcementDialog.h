@@ -3,6 +3,7 @@
 #include "vkd_a_barArea.h"
 
 #include <VKD_QT_Dialog.h>
+#include <ZobHandle.h>
 
 class BarAreaTable;
 class QGridLayout;
@@ -22,14 +23,14 @@ class ReinforcementDialog : public VKD_QT_Dialog
 
 public:
     /// Takes the arguments of vkd_a_ReinforcementCalculation().
-    ReinforcementDialog(QWidget* parent, int index, float value, float barDiameter);
+    ReinforcementDialog(QWidget* parent, ZobHandle project, float value, float barDiameter);
 
     /// Returns the area of the current bars in cm²/m. While they are the initial ones, returns the
     /// present value instead, since rounding must not change a value that the user left alone.
     float area() const;
 
 private:
-    VKD_QT_GroupBox* makeInput(int index);
+    VKD_QT_GroupBox* makeInput(ZobHandle project);
     VKD_QT_GroupBox* makeTable();
     VKD_QT_GroupBox* makeResult();
     void connectAll();

@@ -9,7 +9,7 @@ void vkd_a_ReinforcementCalculation(QWidget* parent, int index, int, float& valu
 {
     // The parent may be destroyed while the dialog is open and deletes the dialog then.
     const QPointer<ReinforcementDialog> dialog(
-        new ReinforcementDialog(parent, index, value, barDiameter));
+        new ReinforcementDialog(parent, ZobHandle(index), value, barDiameter));
     if (dialog->exec() == QDialog::Accepted && dialog)
         value = dialog->area();
     delete dialog;

@@ -4,6 +4,7 @@
 
 #include <vkd_dbo_camera.h>
 #include <vkd_dbo_model.h>
+#include <ZobHandle.h>
 
 #include <QSizeF>
 
@@ -24,8 +25,8 @@ class ScenePainter;
 class VKD_ANIVIEW_EXPORT AnimatorPicture
 {
 public:
-    /// Reads the model of the project at this database index; below 1 the picture is empty.
-    explicit AnimatorPicture(int index);
+    /// Reads the model of the project; without one the picture is empty.
+    explicit AnimatorPicture(ZobHandle project);
     ~AnimatorPicture();
 
     bool isEmpty() const;

@@ -5,6 +5,7 @@
 
 #include <vkd_progress.h>
 #include <vkd_status.h>
+#include <ZobHandle.h>
 
 #include <QTimer>
 #include <QWidget>
@@ -31,15 +32,15 @@ class VKD_ANIVIEW_EXPORT AnimatorView : public QWidget
 public:
     static constexpr int NoGroup = -1;
 
-    /// Shows the model of the project at this database index. Below 1 there is no project, and the
-    /// view shows a message instead.
-    explicit AnimatorView(int index, QWidget* parent = nullptr, const char* name = "AnimatorView");
+    /// Shows the model of the project, or a message if the handle is null.
+    explicit AnimatorView(ZobHandle project, QWidget* parent = nullptr,
+                          const char* name = "AnimatorView");
     ~AnimatorView() override;
 
     /// Switches to another project or to none, reads its model and keeps the camera. Returns the
     /// status of readModel(). If it is VKD_ZOB_CANCELLED, the view does not change; after any other
     /// failure it shows the part of the model that was read.
-    VkdStatus setProject(int index, const VkdGoOn& goOn = VkdGoOn());
+    VkdStatus setProject(ZobHandle project, const VkdGoOn& goOn = VkdGoOn());
     /// Reloads the model and keeps the camera and the picked groups.
     void reload();
 
@@ -116,7 +117,7 @@ private:
     bool moveByKey(int key, bool shift);
     bool turnOrPanByKey(int key, bool pan);
 
-    int m_index;
+    ZobHandle m_project;
     bool m_hovers = false; // highlights even while picking is off
     std::unique_ptr<vkd::aniview::SceneView> m_scene;
     std::unique_ptr<vkd::aniview::ScenePainter> m_painter;

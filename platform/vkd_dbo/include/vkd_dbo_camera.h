@@ -2,6 +2,8 @@
 
 #include "vkd_dbo_export.h"
 
+#include <ZobHandle.h>
+
 #include <QString>
 
 namespace vkd {
@@ -22,10 +24,9 @@ constexpr int DesktopCamera = 0;
 /// The forms of a camera as text.
 enum CameraForm { ScriptCamera = 1, PersistentCamera = 2 };
 
-/// Returns the user's camera of the project at this database index, or the standard camera if none
-/// was stored.
-VKD_DBO_EXPORT Camera camera(int index);
-VKD_DBO_EXPORT void setCamera(int index, const Camera& camera);
+/// Returns the user's camera of the project, or the standard camera if none was stored.
+VKD_DBO_EXPORT Camera camera(ZobHandle project);
+VKD_DBO_EXPORT void setCamera(ZobHandle project, const Camera& camera);
 
 /// Returns the stored camera as text. ScriptCamera is the form of the script after the keyword
 /// "STAN ": the three components of the eye direction, "ROTA" and the roll in degrees, with six

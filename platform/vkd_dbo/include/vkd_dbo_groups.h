@@ -2,6 +2,8 @@
 
 #include "vkd_dbo_export.h"
 
+#include <ZobHandle.h>
+
 #include <QString>
 #include <QVector>
 
@@ -35,11 +37,10 @@ struct GroupSummary
     GroupContents contents;
 };
 
-/// Returns the groups of the project at this database index in the order of the model; empty if the
-/// project has no model. The elements are read once. Elements of a group that the model does not
-/// list are not counted.
-VKD_DBO_EXPORT QVector<GroupSummary> readGroups(int index);
-VKD_DBO_EXPORT QVector<GroupSummary> readSecondaryGroups(int index);
+/// Returns the groups of the project in the order of the model; empty if the project has no model.
+/// The elements are read once. Elements of a group that the model does not list are not counted.
+VKD_DBO_EXPORT QVector<GroupSummary> readGroups(ZobHandle project);
+VKD_DBO_EXPORT QVector<GroupSummary> readSecondaryGroups(ZobHandle project);
 
 } // namespace dbo
 } // namespace vkd

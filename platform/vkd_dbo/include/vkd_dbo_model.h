@@ -5,6 +5,7 @@
 #include <vkd_language.h>
 #include <vkd_progress.h>
 #include <vkd_status.h>
+#include <ZobHandle.h>
 
 #include <QByteArray>
 #include <QMap>
@@ -168,29 +169,30 @@ struct Model
 VKD_DBO_EXPORT VkdStatus readModelFile(const QString& path, Language language, Model* model,
                                        const VkdGoOn& goOn = VkdGoOn());
 
-/// Replaces the model of the project at this database index, completely or not at all. The status
-/// code is a VkdZobStatus; it is VKD_ZOB_CANCELLED if `goOn` returned false.
-VKD_DBO_EXPORT VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn = VkdGoOn());
+/// Replaces the model of the project, completely or not at all. The status code is a VkdZobStatus;
+/// it is VKD_ZOB_CANCELLED if `goOn` returned false.
+VKD_DBO_EXPORT VkdStatus storeModel(ZobHandle project, const Model& model,
+                                    const VkdGoOn& goOn = VkdGoOn());
 
 /// Copies the system information of a project, and no other part of its model, to another store,
 /// for pages that work on a copy of some records. A project without a model is of kind 0,
 /// as for getKindOfSystem(), and so is one with damaged system information.
-VKD_DBO_EXPORT VkdStatus copySystem(int from, int to);
+VKD_DBO_EXPORT VkdStatus copySystem(ZobHandle from, ZobHandle to);
 
 /// Reads the model of the project in one snapshot; empty if the project has no model. If `goOn`
 /// returned false or the store failed, returns the part that was read until then. Records that are
 /// too short are left out. `status`, if given, receives OK if nothing is missing, VKD_ZOB_CANCELLED
 /// if `goOn` returned false, otherwise the first failure. Sets `mark` to the mark of the model, see
 /// modelMark(), or to an empty one if the model was not read completely.
-VKD_DBO_EXPORT Model readModel(int index, const VkdGoOn& goOn = VkdGoOn(),
+VKD_DBO_EXPORT Model readModel(ZobHandle project, const VkdGoOn& goOn = VkdGoOn(),
                                QByteArray* mark = nullptr, VkdStatus* status = nullptr);
 
 /// Returns bytes that identify the stored model: they differ between any two stores of a model and
 /// are the same in a copy of the project. Empty if the project has no model or cannot be read.
-VKD_DBO_EXPORT QByteArray modelMark(int index);
+VKD_DBO_EXPORT QByteArray modelMark(ZobHandle project);
 
 /// Reads only the load cases of the model.
-VKD_DBO_EXPORT QVector<LoadCase> readLoadCases(int index);
+VKD_DBO_EXPORT QVector<LoadCase> readLoadCases(ZobHandle project);
 
 } // namespace dbo
 } // namespace vkd

@@ -52,32 +52,32 @@ QString persistentMark()
 }
 } // namespace
 
-Camera camera(int index)
+Camera camera(ZobHandle project)
 {
     Values stored;
     int length = sizeof stored;
-    const auto status =
-        vkd_zob_get(index, keys::Camera.key1, keys::Camera.key2, stored.data(), &length, 0);
-    vkd_zob_free_ex(index, keys::Camera.key1, keys::Camera.key2);
+    const auto status = vkd_zob_get(project.index(), keys::Camera.key1, keys::Camera.key2,
+                                    stored.data(), &length, 0);
+    vkd_zob_free_ex(project.index(), keys::Camera.key1, keys::Camera.key2);
     if (status != VKD_ZOB_OK || length != int(sizeof stored))
         return Camera();
     qFromLittleEndian<double>(stored.data(), stored.size(), stored.data());
     return isUsable(stored) ? fromValues(stored) : Camera();
 }
 
-void setCamera(int index, const Camera& camera)
+void setCamera(ZobHandle project, const Camera& camera)
 {
     Values values = toValues(camera);
     if (!isUsable(values))
         return;
     qToLittleEndian<double>(values.data(), values.size(), values.data());
     const int length = sizeof values;
-    vkd_zob_put(index, keys::Camera.key1, keys::Camera.key2, values.data(), &length, 0);
+    vkd_zob_put(project.index(), keys::Camera.key1, keys::Camera.key2, values.data(), &length, 0);
 }
 
 QString getAnimatorPerspektive(int index, int form)
 {
-    const Values values = toValues(camera(index));
+    const Values values = toValues(camera(ZobHandle(index)));
     if (form == ScriptCamera)
         return QStringLiteral("%1 %2 %3 ROTA %4")
             .arg(QString::number(values[0]), QString::number(values[1]), QString::number(values[2]),
@@ -102,7 +102,7 @@ void setAnimatorPerspektive(int index, const QString& persistent)
         if (!isNumber)
             return;
     }
-    setCamera(index, fromValues(values));
+    setCamera(ZobHandle(index), fromValues(values));
 }
 
 } // namespace dbo

@@ -24,12 +24,13 @@ constexpr ElementList elementLists[] = {
 
 /// Reads only the group, which is the second number of every element's record; decoding whole
 /// records would take most of the time for a large model.
-VkdStatus countElements(int index, const ElementList& list, QHash<int, GroupContents>& contents)
+VkdStatus countElements(ZobHandle project, const ElementList& list,
+                        QHash<int, GroupContents>& contents)
 {
     constexpr int GroupAt = sizeof(qint32);
-    return forEachRecord(index, list.pair, [&](const QByteArray& bytes) {
+    return forEachRecord(project, list.pair, [&](const QByteArray& bytes) {
         if (bytes.size() < GroupAt + int(sizeof(qint32))) {
-            reportDamagedRecord(index, list.pair);
+            reportDamagedRecord(project, list.pair);
             return;
         }
         const int group = qFromLittleEndian<qint32>(bytes.constData() + GroupAt);
@@ -38,15 +39,15 @@ VkdStatus countElements(int index, const ElementList& list, QHash<int, GroupCont
 }
 } // namespace
 
-QVector<GroupSummary> readGroups(int index)
+QVector<GroupSummary> readGroups(ZobHandle project)
 {
-    const ZobSnapshot snapshot(index);
+    const ZobSnapshot snapshot(project);
     QVector<Group> groups;
-    bool goesOn = snapshot.status().isOk() && mayContinue(readList(index, keys::Groups, groups)) &&
-                  !groups.isEmpty();
+    bool goesOn = snapshot.status().isOk() &&
+                  mayContinue(readList(project, keys::Groups, groups)) && !groups.isEmpty();
     QHash<int, GroupContents> contents;
     for (const ElementList& list : elementLists)
-        goesOn = goesOn && mayContinue(countElements(index, list, contents));
+        goesOn = goesOn && mayContinue(countElements(project, list, contents));
     QVector<GroupSummary> summaries;
     summaries.reserve(groups.size());
     for (const Group& group : qAsConst(groups))
@@ -54,10 +55,10 @@ QVector<GroupSummary> readGroups(int index)
     return summaries;
 }
 
-QVector<GroupSummary> readSecondaryGroups(int index)
+QVector<GroupSummary> readSecondaryGroups(ZobHandle project)
 {
     QVector<SecondaryGroup> groups;
-    readList(index, keys::SecondaryGroups, groups);
+    readList(project, keys::SecondaryGroups, groups);
     QVector<GroupSummary> summaries;
     summaries.reserve(groups.size());
     for (const SecondaryGroup& group : qAsConst(groups)) {

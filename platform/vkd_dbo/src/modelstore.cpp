@@ -31,13 +31,13 @@ QVector<QByteArray> toRecords(const QVector<T>& things)
 
 /// Returns the status of reading a list whose last record was read with this result. If that is
 /// VKD_ZOB_OK, the caller stopped reading before the end.
-VkdStatus statusOfEnd(int index, cd_error_t last)
+VkdStatus statusOfEnd(ZobHandle project, cd_error_t last)
 {
     if (last == VKD_ZOB_END || last == VKD_ZOB_NO_KEY)
         return {};
     if (last == VKD_ZOB_OK)
         return VkdStatus::failure(VKD_ZOB_CANCELLED, ModelFileError::tr("it was cancelled"));
-    return VkdStatus::failure(last, vkd_zob_last_failure(index).reason);
+    return VkdStatus::failure(last, vkd_zob_last_failure(project.index()).reason);
 }
 
 /// Returns the record of the system information. Random bytes after the fields identify the model,
@@ -48,41 +48,42 @@ QByteArray newSystemRecord(const SystemInformation& system)
 }
 
 /// Decodes the system information from the mark of a model, which is its record, see modelMark().
-SystemInformation systemOf(int index, const QByteArray& mark, VkdStatus* status)
+SystemInformation systemOf(ZobHandle project, const QByteArray& mark, VkdStatus* status)
 {
     QVector<SystemInformation> systems;
     if (!mark.isEmpty())
-        *status = addThing(index, keys::System, mark, systems);
+        *status = addThing(project, keys::System, mark, systems);
     return systems.isEmpty() ? SystemInformation() : systems.first();
 }
 
 /// Reads the mark of the model, see modelMark().
-VkdStatus readMark(int index, QByteArray* mark)
+VkdStatus readMark(ZobHandle project, QByteArray* mark)
 {
-    return forEachRecord(index, keys::System, [mark](const QByteArray& bytes) { *mark = bytes; });
+    return forEachRecord(project, keys::System, [mark](const QByteArray& bytes) { *mark = bytes; });
 }
 } // namespace
 
-bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records, VkdSteps* steps)
+bool putRecords(ZobHandle project, KeyPair pair, const QVector<QByteArray>& records,
+                VkdSteps* steps)
 {
     const int none = 0;
-    bool done = vkd_zob_put(index, pair.key1, pair.key2, nullptr, &none, 0) == VKD_ZOB_OK;
+    bool done = vkd_zob_put(project.index(), pair.key1, pair.key2, nullptr, &none, 0) == VKD_ZOB_OK;
     for (const QByteArray& record : records) {
         const int length = record.size();
-        done =
-            done && (!steps || steps->next()) &&
-            vkd_zob_put(index, pair.key1, pair.key2, record.constData(), &length, 1) == VKD_ZOB_OK;
+        done = done && (!steps || steps->next()) &&
+               vkd_zob_put(project.index(), pair.key1, pair.key2, record.constData(), &length, 1) ==
+                   VKD_ZOB_OK;
     }
     return done;
 }
 
-cd_error_t getRecord(int index, KeyPair pair, int position, QByteArray* record)
+cd_error_t getRecord(ZobHandle project, KeyPair pair, int position, QByteArray* record)
 {
     for (int size = FirstGuess;; size *= 2) {
         record->resize(size);
         int length = size;
         const cd_error_t status =
-            vkd_zob_get(index, pair.key1, pair.key2, record->data(), &length, position);
+            vkd_zob_get(project.index(), pair.key1, pair.key2, record->data(), &length, position);
         if (status == VKD_ZOB_CUT)
             continue;
         record->resize(status == VKD_ZOB_OK ? length : 0);
@@ -90,47 +91,47 @@ cd_error_t getRecord(int index, KeyPair pair, int position, QByteArray* record)
     }
 }
 
-VkdStatus forEachRecord(int index, KeyPair pair,
+VkdStatus forEachRecord(ZobHandle project, KeyPair pair,
                         const std::function<void(const QByteArray&)>& visit, VkdSteps* steps)
 {
     QByteArray record;
     record.reserve(FirstGuess);
     cd_error_t status = VKD_ZOB_OK;
     for (int position = 0; status == VKD_ZOB_OK && (!steps || steps->next()); ++position) {
-        status = getRecord(index, pair, position, &record);
+        status = getRecord(project, pair, position, &record);
         if (status == VKD_ZOB_OK)
             visit(record);
     }
-    const VkdStatus end = statusOfEnd(index, status);
-    vkd_zob_free_ex(index, pair.key1, pair.key2);
+    const VkdStatus end = statusOfEnd(project, status);
+    vkd_zob_free_ex(project.index(), pair.key1, pair.key2);
     return end;
 }
 
-VkdStatus reportDamagedRecord(int index, KeyPair pair)
+VkdStatus reportDamagedRecord(ZobHandle project, KeyPair pair)
 {
-    qCWarning(lcModel, "database %d: a record under %d, %d is too short and left out", index,
-              pair.key1, pair.key2);
+    qCWarning(lcModel, "database %d: a record under %d, %d is too short and left out",
+              project.index(), pair.key1, pair.key2);
     return VkdStatus::failure(VKD_ZOB_DAMAGED,
                               ModelFileError::tr("a record under %1, %2 is too short and left out")
                                   .arg(pair.key1)
                                   .arg(pair.key2));
 }
 
-VkdStatus storeModel(int index, const Model& model, const VkdGoOn& goOn)
+VkdStatus storeModel(ZobHandle project, const Model& model, const VkdGoOn& goOn)
 {
     int total = 0;
     forEachList(model, [&total](KeyPair, const auto& things) { total += things.size(); });
     VkdSteps steps(goOn, total);
-    ZobTransaction change(index);
-    bool done =
-        change.status().isOk() && putRecords(index, keys::System, {newSystemRecord(model.system)});
+    ZobTransaction change(project);
+    bool done = change.status().isOk() &&
+                putRecords(project, keys::System, {newSystemRecord(model.system)});
     forEachList(model, [&](KeyPair pair, const auto& things) {
-        done = done && putRecords(index, pair, toRecords(things), &steps);
+        done = done && putRecords(project, pair, toRecords(things), &steps);
     });
     return done ? change.commit() : change.rollback();
 }
 
-VkdStatus copySystem(int from, int to)
+VkdStatus copySystem(ZobHandle from, ZobHandle to)
 {
     QByteArray mark;
     VkdStatus status = readMark(from, &mark);
@@ -143,28 +144,28 @@ VkdStatus copySystem(int from, int to)
     return done ? change.commit() : change.rollback();
 }
 
-QByteArray modelMark(int index)
+QByteArray modelMark(ZobHandle project)
 {
     QByteArray mark;
-    readMark(index, &mark);
+    readMark(project, &mark);
     return mark;
 }
 
-Model readModel(int index, const VkdGoOn& goOn, QByteArray* mark, VkdStatus* status)
+Model readModel(ZobHandle project, const VkdGoOn& goOn, QByteArray* mark, VkdStatus* status)
 {
     VkdSteps steps(goOn);
     Model model;
-    const ZobSnapshot snapshot(index);
+    const ZobSnapshot snapshot(project);
     VkdStatus first = snapshot.status();
     QByteArray system;
     if (first.isOk())
-        first = readMark(index, &system);
-    model.system = systemOf(index, system, &first);
+        first = readMark(project, &system);
+    model.system = systemOf(project, system, &first);
     const bool hasModel = !system.isEmpty();
     // After a failure, every further list would fail too, each after the lock timeout.
     forEachList(model, [&](KeyPair pair, auto& things) {
         const VkdStatus read =
-            hasModel && mayContinue(first) ? readList(index, pair, things, &steps) : first;
+            hasModel && mayContinue(first) ? readList(project, pair, things, &steps) : first;
         if (first.isOk() || !mayContinue(read))
             first = read;
     });
@@ -175,17 +176,18 @@ Model readModel(int index, const VkdGoOn& goOn, QByteArray* mark, VkdStatus* sta
     return model;
 }
 
-QVector<LoadCase> readLoadCases(int index)
+QVector<LoadCase> readLoadCases(ZobHandle project)
 {
     QVector<LoadCase> loadCases;
-    readList(index, keys::LoadCases, loadCases);
+    readList(project, keys::LoadCases, loadCases);
     return loadCases;
 }
 
 int getKindOfSystem(int index, structKindSystem*)
 {
+    const ZobHandle project(index);
     VkdStatus damage; // such a record is left out
-    return systemOf(index, modelMark(index), &damage).kindOfSystem;
+    return systemOf(project, modelMark(project), &damage).kindOfSystem;
 }
 
 } // namespace dbo

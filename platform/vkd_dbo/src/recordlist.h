@@ -16,32 +16,32 @@ namespace dbo {
 // Functions with `steps` count each record as a step, and stop when the steps are stopped.
 
 /// Replaces the records under the key pair. Returns true if the store accepted all of them.
-bool putRecords(int index, KeyPair pair, const QVector<QByteArray>& records,
+bool putRecords(ZobHandle project, KeyPair pair, const QVector<QByteArray>& records,
                 VkdSteps* steps = nullptr);
 
 /// Reads one record of any length. Returns the store's status; unless it is VKD_ZOB_OK, `record` is
 /// empty.
-cd_error_t getRecord(int index, KeyPair pair, int position, QByteArray* record);
+cd_error_t getRecord(ZobHandle project, KeyPair pair, int position, QByteArray* record);
 
 /// Calls `visit` for each record under the key pair in order, from one state of the project.
 /// Returns OK if all records were visited, or VKD_ZOB_CANCELLED if the steps were stopped.
-VkdStatus forEachRecord(int index, KeyPair pair,
+VkdStatus forEachRecord(ZobHandle project, KeyPair pair,
                         const std::function<void(const QByteArray&)>& visit,
                         VkdSteps* steps = nullptr);
 
 /// Returns a failure with the code VKD_ZOB_DAMAGED, because a record is too short for its fields,
 /// and logs it.
-VkdStatus reportDamagedRecord(int index, KeyPair pair);
+VkdStatus reportDamagedRecord(ZobHandle project, KeyPair pair);
 
 /// Appends the item decoded from the record. Returns VKD_ZOB_DAMAGED if the record is damaged.
 template <typename T>
-VkdStatus addThing(int index, KeyPair pair, const QByteArray& record, QVector<T>& things)
+VkdStatus addThing(ZobHandle project, KeyPair pair, const QByteArray& record, QVector<T>& things)
 {
     T thing;
     FieldReader reader(record);
     fields(reader, thing);
     if (!reader.isComplete())
-        return reportDamagedRecord(index, pair);
+        return reportDamagedRecord(project, pair);
     things.append(thing);
     return {};
 }
@@ -49,15 +49,15 @@ VkdStatus addThing(int index, KeyPair pair, const QByteArray& record, QVector<T>
 /// Appends the items of all undamaged records under the key pair. Returns the failure of the store,
 /// or else that of the first damaged record.
 template <typename T>
-VkdStatus readList(int index, KeyPair pair, QVector<T>& things, VkdSteps* steps = nullptr)
+VkdStatus readList(ZobHandle project, KeyPair pair, QVector<T>& things, VkdSteps* steps = nullptr)
 {
     VkdStatus damage;
     const auto add = [&](const QByteArray& record) {
-        const VkdStatus added = addThing(index, pair, record, things);
+        const VkdStatus added = addThing(project, pair, record, things);
         if (damage.isOk())
             damage = added;
     };
-    const VkdStatus read = forEachRecord(index, pair, add, steps);
+    const VkdStatus read = forEachRecord(project, pair, add, steps);
     return read.isOk() ? damage : read;
 }
 

@@ -35,8 +35,8 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
     addFootButton(pick);
     connect(pick, &QPushButton::clicked, this, [this, doc] {
         if (doc)
-            removePickedGroups(doc->index()); // no old selection if the user picks nothing
-        storePickedGroups(StartOfPicking, presentChoice());
+            removePickedGroups(doc->handle()); // no old selection if the user picks nothing
+        storePickedGroups(ZobHandle(StartOfPicking), presentChoice());
         done(PickOutside);
     });
     if (position)
@@ -45,15 +45,15 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
 
 int VKD_H_SelGRP_Dialog::getAniSelectionFromZob(int index, std::vector<int>& groups)
 {
-    return readPickedGroups(index, groups) ? 0 : -1;
+    return readPickedGroups(ZobHandle(index), groups) ? 0 : -1;
 }
 
 VkdStatus VKD_H_SelGRP_Dialog::putAniSelectionToZob(int index, const std::vector<int>& groups)
 {
-    return storePickedGroups(index, groups);
+    return storePickedGroups(ZobHandle(index), groups);
 }
 
 VkdStatus VKD_H_SelGRP_Dialog::removeAniSelectionFromZob(int index)
 {
-    return removePickedGroups(index);
+    return removePickedGroups(ZobHandle(index));
 }

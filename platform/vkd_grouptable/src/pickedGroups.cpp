@@ -58,63 +58,64 @@ bool fromRecord(const QByteArray& bytes, std::vector<int>& groups)
 }
 
 /// Returns the record, a null one if there is none.
-QByteArray readRecord(int index)
+QByteArray readRecord(ZobHandle project)
 {
     QByteArray bytes(1024, Qt::Uninitialized);
     int length = bytes.size();
     cd_error_t status = VKD_ZOB_OK;
-    while ((status = vkd_zob_get(index, PickedGroups.key1, PickedGroups.key2, bytes.data(), &length,
-                                 0)) == VKD_ZOB_CUT) {
+    while ((status = vkd_zob_get(project.index(), PickedGroups.key1, PickedGroups.key2,
+                                 bytes.data(), &length, 0)) == VKD_ZOB_CUT) {
         bytes.resize(2 * bytes.size());
         length = bytes.size();
     }
-    vkd_zob_free_ex(index, PickedGroups.key1, PickedGroups.key2);
+    vkd_zob_free_ex(project.index(), PickedGroups.key1, PickedGroups.key2);
     return status == VKD_ZOB_OK ? bytes.left(length) : QByteArray();
 }
 
 /// Replaces the stored record, or removes it if `record` is null.
-VkdStatus replaceRecord(int index, const QByteArray& record)
+VkdStatus replaceRecord(ZobHandle project, const QByteArray& record)
 {
     const int none = 0;
     const int length = record.size();
-    ZobTransaction change(index);
+    ZobTransaction change(project);
     if (change.status().isOk())
-        vkd_zob_put(index, PickedGroups.key1, PickedGroups.key2, nullptr, &none, 0);
+        vkd_zob_put(project.index(), PickedGroups.key1, PickedGroups.key2, nullptr, &none, 0);
     if (change.status().isOk() && length > 0)
-        vkd_zob_put(index, PickedGroups.key1, PickedGroups.key2, record.constData(), &length, 1);
+        vkd_zob_put(project.index(), PickedGroups.key1, PickedGroups.key2, record.constData(),
+                    &length, 1);
     return change.commit();
 }
 } // namespace
 
-bool readPickedGroups(int index, std::vector<int>& groups)
+bool readPickedGroups(ZobHandle project, std::vector<int>& groups)
 {
-    const QByteArray record = readRecord(index);
+    const QByteArray record = readRecord(project);
     if (record.isNull())
         return false;
     const bool isSound = fromRecord(record, groups);
     if (!isSound)
         qCWarning(lcPicked, "database %d: the record of picked groups under %d, %d is damaged",
-                  index, PickedGroups.key1, PickedGroups.key2);
+                  project.index(), PickedGroups.key1, PickedGroups.key2);
     return isSound;
 }
 
-VkdStatus storePickedGroups(int index, const std::vector<int>& groups)
+VkdStatus storePickedGroups(ZobHandle project, const std::vector<int>& groups)
 {
     std::vector<int> sorted = groups;
     std::sort(sorted.begin(), sorted.end());
     sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
     if (!sorted.empty() && sorted.front() < 0) {
-        qCWarning(lcPicked, "database %d: picked groups not stored, %d is no group", index,
-                  sorted.front());
+        qCWarning(lcPicked, "database %d: picked groups not stored, %d is no group",
+                  project.index(), sorted.front());
         return VkdStatus::failure(
             VKD_ZOB_BAD_CALL,
             VKD_H_SelGRP_Dialog::tr("the picked groups cannot be stored: %1 is not a group")
                 .arg(sorted.front()));
     }
-    return replaceRecord(index, toRecord(sorted));
+    return replaceRecord(project, toRecord(sorted));
 }
 
-VkdStatus removePickedGroups(int index)
+VkdStatus removePickedGroups(ZobHandle project)
 {
-    return replaceRecord(index, QByteArray());
+    return replaceRecord(project, QByteArray());
 }

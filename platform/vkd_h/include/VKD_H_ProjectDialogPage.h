@@ -3,6 +3,7 @@
 #include "vkd_h_export.h"
 
 #include <vkd_status.h>
+#include <ZobHandle.h>
 
 #include <QMap>
 #include <QString>
@@ -12,9 +13,9 @@
 class VKD_H_EXPORT VKD_H_ProjectDialogPage
 {
 public:
-    /// Reads the texts of a page, given by number, from the project at this database index. Without
-    /// a project (index -1) the texts live as long as the object.
-    explicit VKD_H_ProjectDialogPage(int index = -1, int page = 0);
+    /// Reads the texts of a page, given by number, from the project. Without a project the texts
+    /// live as long as the object.
+    explicit VKD_H_ProjectDialogPage(ZobHandle project = ZobHandle(), int page = 0);
 
     /// Returns the value of the key, or `defaultValue` if the key does not exist.
     QString getEntry(const QString& key, const QString& defaultValue) const;
@@ -28,7 +29,7 @@ public:
     VkdStatus save() const;
 
 private:
-    int m_index;
+    ZobHandle m_project;
     int m_page;
     QMap<QString, QString> m_entries;
     VkdStatus m_readStatus;

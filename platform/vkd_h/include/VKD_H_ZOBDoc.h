@@ -3,6 +3,7 @@
 #include "vkd_h_export.h"
 
 #include <vkd_zob.h>
+#include <ZobHandle.h>
 
 #include <QString>
 
@@ -29,6 +30,8 @@ public:
     /// Returns the database index for the store and the model queries: 1 or more for a project, -1
     /// after close().
     int index() const;
+    /// Returns the same index as a handle; null after close().
+    ZobHandle handle() const { return m_project; }
     QString path() const;
 
     /// Closes the document explicitly, to check that all changes were stored. Returns the result of
@@ -36,8 +39,8 @@ public:
     VkdStatus close();
 
 private:
-    VKD_H_ZOBDoc(int index, const QString& path);
+    VKD_H_ZOBDoc(ZobHandle project, const QString& path);
 
-    int m_index;
+    ZobHandle m_project;
     QString m_path;
 };

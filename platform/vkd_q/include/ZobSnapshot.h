@@ -2,6 +2,7 @@
 
 #include "vkd_q_export.h"
 #include "vkd_status.h"
+#include "ZobHandle.h"
 
 #include <memory>
 
@@ -19,9 +20,9 @@ class ZobDatabase;
 class VKD_Q_EXPORT ZobSnapshot
 {
 public:
-    /// Begins a snapshot of the project at this database index. Waits for another program that is
-    /// storing, at most as long as setting 201 says.
-    explicit ZobSnapshot(int index);
+    /// Begins a snapshot of the project. Waits for another program that is storing, at most as long
+    /// as setting 201 says.
+    explicit ZobSnapshot(ZobHandle project);
     ~ZobSnapshot();
     ZobSnapshot(const ZobSnapshot&) = delete;
     ZobSnapshot& operator=(const ZobSnapshot&) = delete;

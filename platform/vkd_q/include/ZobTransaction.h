@@ -2,6 +2,7 @@
 
 #include "vkd_q_export.h"
 #include "vkd_status.h"
+#include "ZobHandle.h"
 
 #include <memory>
 
@@ -17,10 +18,9 @@ class ZobDatabase;
 class VKD_Q_EXPORT ZobTransaction
 {
 public:
-    /// Begins a transaction of the project at this database index. Waits for another program that
-    /// is changing the project, at most as long as setting 201 says, but not while a ZobSnapshot of
-    /// this program exists.
-    explicit ZobTransaction(int index);
+    /// Begins a transaction of the project. Waits for another program that is changing the project,
+    /// at most as long as setting 201 says, but not while a ZobSnapshot of this program exists.
+    explicit ZobTransaction(ZobHandle project);
     ~ZobTransaction();
     ZobTransaction(const ZobTransaction&) = delete;
     ZobTransaction& operator=(const ZobTransaction&) = delete;
@@ -39,7 +39,7 @@ public:
 private:
     VkdStatus end(bool isWhole);
 
-    int m_index;
+    ZobHandle m_project;
     VkdStatus m_result;                 // valid after the end
     std::weak_ptr<ZobDatabase> m_store; // expires when the project is closed
     bool m_isOpen = false;

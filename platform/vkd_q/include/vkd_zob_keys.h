@@ -3,9 +3,6 @@
 namespace vkd {
 namespace zob {
 
-/// The database index of the scratch store.
-constexpr int ScratchIndex = 0;
-
 /// The keys of a sequence of records in the store.
 struct KeyPair
 {

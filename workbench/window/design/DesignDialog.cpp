@@ -28,25 +28,26 @@ constexpr int OkAndCancel = 3;
 
 using vkd::zob::keys::Design;
 
-/// Replaces the design records of the store `to` with those of the store `from`.
-cd_error_t copyRecords(int from, int to)
+/// Replaces the design records of the project `to` with those of the project `from`.
+cd_error_t copyRecords(ZobHandle from, ZobHandle to)
 {
     int length = 0;
-    cd_error_t put = vkd_zob_put(to, Design.key1, Design.key2, nullptr, &length, 0);
+    cd_error_t put = vkd_zob_put(to.index(), Design.key1, Design.key2, nullptr, &length, 0);
     QByteArray record(1024, Qt::Uninitialized);
     cd_error_t status = VKD_ZOB_OK;
     for (int position = 0; put == VKD_ZOB_OK && status == VKD_ZOB_OK;) {
         length = record.size();
-        status = vkd_zob_get(from, Design.key1, Design.key2, record.data(), &length, position);
+        status =
+            vkd_zob_get(from.index(), Design.key1, Design.key2, record.data(), &length, position);
         if (status == VKD_ZOB_CUT) {
             record.resize(2 * record.size());
             status = VKD_ZOB_OK;
         } else if (status == VKD_ZOB_OK) {
-            put = vkd_zob_put(to, Design.key1, Design.key2, record.constData(), &length, 1);
+            put = vkd_zob_put(to.index(), Design.key1, Design.key2, record.constData(), &length, 1);
             ++position;
         }
     }
-    vkd_zob_free_ex(from, Design.key1, Design.key2);
+    vkd_zob_free_ex(from.index(), Design.key1, Design.key2);
     const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
     return put != VKD_ZOB_OK || isWhole ? put : status;
 }
@@ -84,17 +85,17 @@ DesignDialog::~DesignDialog()
 
 cd_error_t DesignDialog::load()
 {
-    const int index = m_project->index();
-    const ZobSnapshot snapshot(index);
+    const ZobHandle project = m_project->handle();
+    const ZobSnapshot snapshot(project);
     cd_error_t status = snapshot.status().code;
     if (status == VKD_ZOB_OK)
         status = m_project->look(ProjectPart::Design);
     if (status == VKD_ZOB_OK)
-        status = vkd::dbo::copySystem(index, m_desk->index()).code;
+        status = vkd::dbo::copySystem(project, m_desk->handle()).code;
     if (status == VKD_ZOB_OK)
-        status = copyRecords(index, m_desk->index());
+        status = copyRecords(project, m_desk->handle());
     if (status == VKD_ZOB_OK)
-        m_entries = VKD_H_ProjectDialogPage(index, DesignDialogPage);
+        m_entries = VKD_H_ProjectDialogPage(project, DesignDialogPage);
     return status;
 }
 
@@ -118,7 +119,7 @@ cd_error_t DesignDialog::store(SeenPart::Newer newer)
 {
     const auto put = [this] {
         const VkdStatus saved = m_entries.save();
-        return saved.isOk() ? copyRecords(m_desk->index(), m_project->index()) : saved.code;
+        return saved.isOk() ? copyRecords(m_desk->handle(), m_project->handle()) : saved.code;
     };
     return m_project->store(ProjectPart::Design, put, newer);
 }
@@ -126,7 +127,7 @@ cd_error_t DesignDialog::store(SeenPart::Newer newer)
 /// The entries belong to a project, so the page's entries are copied to the other project.
 void DesignDialog::continueWithCopy()
 {
-    m_entries = VKD_H_ProjectDialogPage(m_project->index(), DesignDialogPage);
+    m_entries = VKD_H_ProjectDialogPage(m_project->handle(), DesignDialogPage);
     m_page->setEntrys(m_entries);
 }
 

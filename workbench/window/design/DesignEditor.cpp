@@ -126,7 +126,7 @@ void DesignEditor::takePicked()
 {
     const auto put = [this] {
         const auto groups = m_view->pickedGroups();
-        return VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), groups).code;
+        return VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->handle().index(), groups).code;
     };
     if (!m_access->run(put, tr("The picked groups cannot be stored in the file %1.")))
         return;

@@ -150,7 +150,7 @@ bool FileCommands::openDocument(const QString& path, Camera camera)
     const bool isFirst = !m_parts.project->isOpen() && window->isVisible();
     VkdStatus modelStatus;
     if (status == VKD_ZOB_OK && !isFirst)
-        modelStatus = showModel(document->index());
+        modelStatus = showModel(document->handle());
     if (modelStatus.code == VKD_ZOB_CANCELLED)
         status = VKD_ZOB_CANCELLED;
     if (!m_parts.messages->succeeds(status, absolute, tr("The file %1 cannot be opened."))) {
@@ -179,23 +179,23 @@ std::unique_ptr<VKD_H_ZOBDoc> FileCommands::setDocument(std::unique_ptr<VKD_H_ZO
     return previous;
 }
 
-/// Loads the model of the project with this index. The status is VKD_ZOB_CANCELLED if the user
+/// Loads the model of the project. The status is VKD_ZOB_CANCELLED if the user
 /// cancelled.
-VkdStatus FileCommands::showModel(int index)
+VkdStatus FileCommands::showModel(ZobHandle project)
 {
     SlowWork work(m_parts.messages->window(), tr("The model is being read."), 0);
-    return m_parts.view->setProject(index, [&work](int) { return work.goOn(0); });
+    return m_parts.view->setProject(project, [&work](int) { return work.goOn(0); });
 }
 
 /// Shows the project except for the model. Returns whether everything was read. The snapshot
 /// excludes other programs, so every new failure is a read error.
 bool FileCommands::showContents()
 {
-    const int index = m_parts.project->index();
-    const ZobSnapshot snapshot(index);
-    const QString before = vkd_zob_last_failure(index).reason;
+    const ZobHandle project = m_parts.project->handle();
+    const ZobSnapshot snapshot(project);
+    const QString before = vkd_zob_last_failure(project.index()).reason;
     Q_EMIT opened();
-    return snapshot.status().isOk() && vkd_zob_last_failure(index).reason == before;
+    return snapshot.status().isOk() && vkd_zob_last_failure(project.index()).reason == before;
 }
 
 void FileCommands::showProject(const VkdStatus& modelStatus)
@@ -213,7 +213,7 @@ void FileCommands::showProject(const VkdStatus& modelStatus)
 
 void FileCommands::showFirstProject()
 {
-    const VkdStatus status = showModel(m_parts.project->index());
+    const VkdStatus status = showModel(m_parts.project->handle());
     if (status.code != VKD_ZOB_CANCELLED) {
         m_parts.view->slotViewControl(AnimatorStandardView, 0.0);
         return showProject(status);

@@ -3,6 +3,7 @@
 #include "window/main/makeProjectFile.h"
 
 #include <vkd_status.h>
+#include <ZobHandle.h>
 
 #include <QObject>
 
@@ -76,7 +77,7 @@ private:
     void reload();
     bool openDocument(const QString& path, Camera camera);
     std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
-    VkdStatus showModel(int index);
+    VkdStatus showModel(ZobHandle project);
     bool showContents();
     void showProject(const VkdStatus& modelStatus);
     void showFirstProject();

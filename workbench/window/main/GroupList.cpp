@@ -69,9 +69,9 @@ GroupList::GroupList(QWidget* parent)
     setTexts();
 }
 
-void GroupList::setProject(int index)
+void GroupList::setProject(ZobHandle project)
 {
-    m_index = index;
+    m_project = project;
     fill();
 }
 
@@ -132,7 +132,7 @@ void GroupList::fill()
     clear();
     m_withoutAreas.clear();
     const auto groups =
-        m_index < 1 ? QVector<vkd::dbo::GroupSummary>() : vkd::dbo::readGroups(m_index);
+        m_project.isNull() ? QVector<vkd::dbo::GroupSummary>() : vkd::dbo::readGroups(m_project);
     for (const vkd::dbo::GroupSummary& group : groups) {
         auto item = new QTreeWidgetItem(this);
         item->setData(NumberColumn, Qt::DisplayRole, group.number);

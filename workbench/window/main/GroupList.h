@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ZobHandle.h>
+
 #include <QTreeWidget>
 
 #include <vector>
@@ -16,8 +18,8 @@ class GroupList : public QTreeWidget
 public:
     explicit GroupList(QWidget* parent = nullptr);
 
-    /// Lists the groups of the project at this database index, or none if the index is below 1.
-    void setProject(int index);
+    /// Lists the groups of the project, or none if the handle is null.
+    void setProject(ZobHandle project);
     /// Marks a group that is pointed at in the model, or none (AnimatorView::NoGroup). The current
     /// row does not change, and no signal is emitted.
     void setMarkedGroup(int group);
@@ -44,7 +46,7 @@ private:
     void pointAtCurrent();
     void pointAt(const QTreeWidgetItem* item);
 
-    int m_index = -1;
+    ZobHandle m_project;
     std::vector<int> m_withoutAreas;
 };
 

@@ -201,11 +201,11 @@ void MainWindow::showReplaced()
 void MainWindow::showProject()
 {
     const WaitCursor cursor;
-    m_panes->groups->setProject(m_project.index());
+    m_panes->groups->setProject(m_project.handle());
     m_designEditor->setGroupsWithoutAreas(m_panes->groups->groupsWithoutAreas());
     showRecords();
     m_outputScript->clear();
-    m_panes->sheets->setProject(m_project.index(), m_project.name());
+    m_panes->sheets->setProject(m_project.handle(), m_project.name());
     showContents();
     QTimer::singleShot(0, m_outputScript.get(), &OutputScript::refresh);
 }
@@ -215,14 +215,14 @@ void MainWindow::showContents()
     m_contents->setText(m_project.isOpen()
                             ? tr("Groups: %1, load cases: %2")
                                   .arg(m_panes->groups->topLevelItemCount())
-                                  .arg(vkd::dbo::readLoadCases(m_project.index()).size())
+                                  .arg(vkd::dbo::readLoadCases(m_project.handle()).size())
                             : tr("No project"));
 }
 
 void MainWindow::showRecords()
 {
     if (m_access.canRead()) // otherwise the previous records stay
-        m_panes->records()->setProject(m_project.index());
+        m_panes->records()->setProject(m_project.handle());
 }
 
 /// Does nothing while a modal dialog is open, which may be using what would change here. The window

@@ -10,12 +10,12 @@ class CameraRollback
 {
 public:
     CameraRollback() = default;
-    ~CameraRollback() { vkd::dbo::setCamera(vkd::dbo::DesktopCamera, m_camera); }
+    ~CameraRollback() { vkd::dbo::setCamera(ZobHandle::scratch(), m_camera); }
     CameraRollback(const CameraRollback&) = delete;
     CameraRollback& operator=(const CameraRollback&) = delete;
 
 private:
-    const vkd::dbo::Camera m_camera = vkd::dbo::camera(vkd::dbo::DesktopCamera);
+    const vkd::dbo::Camera m_camera = vkd::dbo::camera(ZobHandle::scratch());
 };
 
 } // namespace workbench

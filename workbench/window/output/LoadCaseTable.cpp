@@ -12,13 +12,13 @@ constexpr int PlainLoadCase = 1;
 constexpr int NoDimension = -1;
 } // namespace
 
-LoadCaseTable::LoadCaseTable(int index, QWidget* parent)
+LoadCaseTable::LoadCaseTable(ZobHandle project, QWidget* parent)
     : VKD_H_TableWidget(0, 3, parent, "LoadCases")
 {
     setAccessibleName(tr("Load cases"));
     setContextmenueEnabled_new_del(false);
     addColumns();
-    const auto loadCases = vkd::dbo::readLoadCases(index);
+    const auto loadCases = vkd::dbo::readLoadCases(project);
     for (const vkd::dbo::LoadCase& loadCase : loadCases)
         if (loadCase.kind == PlainLoadCase)
             addLoadCase(loadCase.number, loadCase.title);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <VKD_H_TableWidget.h>
+#include <ZobHandle.h>
 
 #include <QSet>
 
@@ -14,8 +15,8 @@ class LoadCaseTable : public VKD_H_TableWidget
 public:
     enum Column { NumberColumn, CheckColumn, TitleColumn };
 
-    /// Lists the load cases of the project at this database index.
-    LoadCaseTable(int index, QWidget* parent);
+    /// Lists the load cases of the project.
+    LoadCaseTable(ZobHandle project, QWidget* parent);
 
     QSet<int> leftOutNumbers() const;
     void setLeftOutNumbers(const QSet<int>& numbers);

@@ -73,7 +73,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     : VKD_H_TabDialog(parent, "OutputDialog")
     , m_document(document)
     , m_parameter(document)
-    , m_view(new AnimatorView(document->index(), this, "OutputView"))
+    , m_view(new AnimatorView(document->handle(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
     , m_plots(m_page->findChild<QTreeWidget*>())
     , m_choice(m_page, m_view)
@@ -112,7 +112,7 @@ QWidget* OutputDialog::newLoadCaseTab()
 {
     auto tab = new QWidget(this);
     setHelpTopic(tab, "GRAV/LOADCASES");
-    m_loadCases = new LoadCaseTable(m_document->index(), tab);
+    m_loadCases = new LoadCaseTable(m_document->handle(), tab);
     auto layout = new QVBoxLayout(tab);
     layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. The plots "
                                  "that you have chosen stay chosen.")));
@@ -147,7 +147,7 @@ void OutputDialog::restore(const OutputState& saved)
     }
     offerLoadCases();
     m_choice.setProposed();
-    vkd::dbo::setCamera(vkd::dbo::DesktopCamera, vkd::dbo::Camera()); // not the previous one
+    vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera()); // not the previous one
     if (!saved.page.isEmpty())
         m_page->readXMLstring(saved.page);
 }
@@ -176,7 +176,7 @@ void OutputDialog::offerLoadCases()
 {
     OutputState present;
     present.leftOutNumbers = m_loadCases->leftOutNumbers();
-    m_page->setUsedNumbersAndNames(present.offeredRows(m_document->index()));
+    m_page->setUsedNumbersAndNames(present.offeredRows(m_document->handle()));
 }
 
 /// The page emits no signal for changes, so this connects its widgets.

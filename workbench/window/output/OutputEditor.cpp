@@ -25,7 +25,7 @@ OutputDialog* OutputEditor::dialog()
 {
     if (!m_dialog && m_access->canRead() && !m_dialog) { // an event may have created it meanwhile
         m_project->look(ProjectPart::Output);
-        create(OutputState::read(m_project->index()));
+        create(OutputState::read(m_project->handle()));
     }
     return m_dialog.get();
 }
@@ -93,7 +93,7 @@ bool OutputEditor::store()
     if (!dialog())
         return false;
     const OutputState state = m_dialog->state();
-    const auto put = [this, &state] { return state.put(m_project->index()).code; };
+    const auto put = [this, &state] { return state.put(m_project->handle()).code; };
     if (!m_access->storePart(ProjectPart::Output, put,
                              tr("The choice of plots cannot be stored in the file %1."),
                              [this] { reload(); }))

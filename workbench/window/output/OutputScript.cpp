@@ -109,7 +109,7 @@ SheetPlan OutputScript::newSheetPlan()
     if (dialog)
         setCaptions(&plan, dialog->captions());
     QHash<int, QString> titles;
-    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(m_project->index()))
+    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(m_project->handle()))
         titles.insert(loadCase.number, loadCase.title);
     setLoadCaseTitles(&plan, titles);
     return plan;

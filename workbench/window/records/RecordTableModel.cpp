@@ -35,21 +35,22 @@ QStringList namesAndUnits()
 }
 } // namespace
 
-void RecordTableModel::read(int index)
+void RecordTableModel::read(ZobHandle project)
 {
     beginResetModel();
     m_records.clear();
     Record record{};
     int length = sizeof record;
-    for (int position = 0; index > 0 && vkd_zob_get(index, Design.key1, Design.key2, record.data(),
-                                                    &length, position) == VKD_ZOB_OK;
+    for (int position = 0;
+         !project.isNull() && vkd_zob_get(project.index(), Design.key1, Design.key2, record.data(),
+                                          &length, position) == VKD_ZOB_OK;
          ++position) {
         m_records.push_back(record);
         record = {};
         length = sizeof record;
     }
-    if (index > 0)
-        vkd_zob_free_ex(index, Design.key1, Design.key2);
+    if (!project.isNull())
+        vkd_zob_free_ex(project.index(), Design.key1, Design.key2);
     endResetModel();
 }
 

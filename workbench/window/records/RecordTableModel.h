@@ -1,6 +1,7 @@
 #pragma once
 
 #include <tagZOB_QUAD_RIM.h>
+#include <ZobHandle.h>
 
 #include <QAbstractTableModel>
 
@@ -19,7 +20,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     /// Reloads the records of the project at this database index; none if the index is below 1.
-    void read(int index);
+    void read(ZobHandle project);
     /// Returns the text with the most characters.
     QString longestText() const;
 

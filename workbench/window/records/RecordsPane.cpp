@@ -23,9 +23,9 @@ RecordsPane::RecordsPane(QWidget* parent)
     setTexts();
 }
 
-void RecordsPane::setProject(int index)
+void RecordsPane::setProject(ZobHandle project)
 {
-    m_model->read(index);
+    m_model->read(project);
     fitColumns();
 }
 

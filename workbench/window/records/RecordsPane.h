@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ZobHandle.h>
+
 #include <QTableView>
 
 namespace workbench {
@@ -15,8 +17,8 @@ class RecordsPane : public QTableView
 public:
     explicit RecordsPane(QWidget* parent = nullptr);
 
-    /// Reloads the records of the project at this database index; none if the index is below 1.
-    void setProject(int index);
+    /// Reloads the records of the project; none if the handle is null.
+    void setProject(ZobHandle project);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -58,7 +58,7 @@ cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QStr
     if (status != VKD_ZOB_OK)
         return status;
     status = waitForStore(parent, document.path(),
-                          [&document] { return ZobSnapshot(document.index()).status().code; });
+                          [&document] { return ZobSnapshot(document.handle()).status().code; });
     if (status != VKD_ZOB_OK)
         return status;
     QFile to(place->temporaryPath());

@@ -23,10 +23,10 @@ using Group = VKD_P_RadioGroup;
 constexpr int OkAndCancel = 3;
 constexpr int PlainLoadCase = 1;
 
-QVector<vkd::dbo::LoadCase> loadCases(int index, bool isPlain)
+QVector<vkd::dbo::LoadCase> loadCases(ZobHandle project, bool isPlain)
 {
     QVector<vkd::dbo::LoadCase> found;
-    const auto all = vkd::dbo::readLoadCases(index);
+    const auto all = vkd::dbo::readLoadCases(project);
     std::copy_if(all.begin(), all.end(), std::back_inserter(found),
                  [isPlain](const auto& any) { return (any.kind == PlainLoadCase) == isPlain; });
     std::sort(found.begin(), found.end(),
@@ -44,17 +44,17 @@ std::list<Group::ButtonID> kindsOf(const CombinationTable& table)
 }
 } // namespace
 
-TextOutputDialog::TextOutputDialog(int index, QWidget* parent)
+TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     : VKD_H_Dialog(parent, "TextOutputDialog")
 {
     setWindowTitle(tr("Text Output"));
     setHelpTopic(this, "TEXT/OUTPUT");
     new QVBoxLayout(this);
     addExtent();
-    addLoadCases(index);
-    addCombinations(index);
+    addLoadCases(project);
+    addCombinations(project);
     addOkRow();
-    setState(TextOutputState::read(index, ExtentFields::DefaultLists));
+    setState(TextOutputState::read(project, ExtentFields::DefaultLists));
     m_saved = state();
     const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
     resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // with all hints
@@ -92,7 +92,7 @@ void TextOutputDialog::addExtent()
     connect(m_fields, &ExtentFields::changed, this, &TextOutputDialog::showChoice);
 }
 
-void TextOutputDialog::addLoadCases(int index)
+void TextOutputDialog::addLoadCases(ZobHandle project)
 {
     QVBoxLayout* column = addBox(tr("Load cases in the text output"),
                                  tr("Decides for which load cases loads and results are printed. "
@@ -101,7 +101,7 @@ void TextOutputDialog::addLoadCases(int index)
     setHelpTopic(box, "TEXT/LOADCASES");
     m_loadCases.init(box);
     column->addLayout(m_loadCases.layout());
-    m_loadCaseTable = new PickTable(loadCases(index, true), box, "TextLoadCases");
+    m_loadCaseTable = new PickTable(loadCases(project, true), box, "TextLoadCases");
     m_loadCaseTable->setAccessibleName(tr("Load cases"));
     column->addWidget(m_loadCaseTable);
     m_loadCaseResult = addResult(column, "LoadCaseResult");
@@ -110,7 +110,7 @@ void TextOutputDialog::addLoadCases(int index)
     connect(m_loadCaseTable, &PickTable::changed, this, &TextOutputDialog::showChoice);
 }
 
-void TextOutputDialog::addCombinations(int index)
+void TextOutputDialog::addCombinations(ZobHandle project)
 {
     QVBoxLayout* column = addBox(
         tr("Combinations in the text output"),
@@ -120,7 +120,7 @@ void TextOutputDialog::addCombinations(int index)
     setHelpTopic(box, "TEXT/COMBINATIONS");
     m_kindRow = new QWidget(box);
     column->addWidget(m_kindRow);
-    m_combinationTable = new CombinationTable(loadCases(index, false), box, "TextCombinations");
+    m_combinationTable = new CombinationTable(loadCases(project, false), box, "TextCombinations");
     m_combinationTable->setAccessibleName(tr("Combinations"));
     column->addWidget(m_combinationTable);
     m_combinationResult = addResult(column, "CombinationResult");

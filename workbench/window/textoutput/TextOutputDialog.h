@@ -25,8 +25,8 @@ class TextOutputDialog : public VKD_H_Dialog
     Q_OBJECT
 
 public:
-    /// Shows the saved state of the project at this database index, which outlives the dialog.
-    TextOutputDialog(int index, QWidget* parent);
+    /// Shows the saved state of the project, which outlives the dialog.
+    TextOutputDialog(ZobHandle project, QWidget* parent);
 
     /// Returns the state that is saved in the project.
     TextOutputState state() const;
@@ -41,8 +41,8 @@ Q_SIGNALS:
 private:
     QVBoxLayout* addBox(const QString& title, const QString& explanation);
     void addExtent();
-    void addLoadCases(int index);
-    void addCombinations(int index);
+    void addLoadCases(ZobHandle project);
+    void addCombinations(ZobHandle project);
     void updateKindRow();
     void fillKindRow();
     QLabel* addResult(QVBoxLayout* column, const char* name);

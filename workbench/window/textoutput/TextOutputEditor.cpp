@@ -44,7 +44,7 @@ void TextOutputEditor::show()
 
 void TextOutputEditor::create()
 {
-    m_dialog = std::make_unique<TextOutputDialog>(m_project->index(), m_messages->window());
+    m_dialog = std::make_unique<TextOutputDialog>(m_project->handle(), m_messages->window());
     m_dialog->addActions(m_actions);
     connect(m_dialog.get(), &TextOutputDialog::choiceChanged, this, &TextOutputEditor::modified);
     connect(m_dialog.get(), &QDialog::accepted, this, [this] {
@@ -75,7 +75,7 @@ void TextOutputEditor::close()
 bool TextOutputEditor::store()
 {
     const TextOutputState state = m_dialog->state();
-    const auto put = [this, &state] { return state.put(m_project->index()).code; };
+    const auto put = [this, &state] { return state.put(m_project->handle()).code; };
     if (!m_access->storePart(ProjectPart::TextOutput, put,
                              tr("The text output cannot be stored in the file %1."),
                              [this] { reload(); }))
@@ -91,7 +91,7 @@ void TextOutputEditor::reload()
     if (!m_access->canRead())
         return;
     m_project->look(ProjectPart::TextOutput);
-    m_dialog->setState(TextOutputState::read(m_project->index(), ExtentFields::DefaultLists));
+    m_dialog->setState(TextOutputState::read(m_project->handle(), ExtentFields::DefaultLists));
     m_dialog->setUnchanged();
     Q_EMIT modified();
 }

@@ -5,12 +5,12 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_zob.h>
 #include <vkd_zob_keys.h>
+#include <ZobHandle.h>
 
 namespace plib {
 
 namespace {
 using vkd::zob::KeyPair;
-using vkd::zob::ScratchIndex;
 using vkd::zob::keys::Design;
 using vkd::zob::keys::ForeignDesign;
 
@@ -22,8 +22,8 @@ constexpr int UndefinedKind = -99999;
 class RecordPass
 {
 public:
-    RecordPass(int index, KeyPair keys)
-        : m_index(index)
+    RecordPass(ZobHandle project, KeyPair keys)
+        : m_project(project)
         , m_keys(keys)
     {
     }
@@ -34,8 +34,8 @@ public:
     {
         RecordBytes bytes = toBytes(record);
         length = RecordLength;
-        const cd_error_t status =
-            vkd_zob_get(m_index, m_keys.key1, m_keys.key2, bytes.data(), &length, m_position++);
+        const cd_error_t status = vkd_zob_get(m_project.index(), m_keys.key1, m_keys.key2,
+                                              bytes.data(), &length, m_position++);
         if (status > VKD_ZOB_CUT)
             return false;
         record = fromBytes(bytes);
@@ -45,39 +45,39 @@ public:
     int length = 0; ///< of the last record
 
 private:
-    int m_index;
+    ZobHandle m_project;
     KeyPair m_keys;
     int m_position = 0;
 };
 
-void empty(int index, KeyPair keys)
+void empty(ZobHandle project, KeyPair keys)
 {
     const int none = 0;
-    vkd_zob_put(index, keys.key1, keys.key2, nullptr, &none, 0);
+    vkd_zob_put(project.index(), keys.key1, keys.key2, nullptr, &none, 0);
 }
 
-void append(int index, KeyPair keys, const tagZOB_QUAD_RIM& record, int length)
+void append(ZobHandle project, KeyPair keys, const tagZOB_QUAD_RIM& record, int length)
 {
     const RecordBytes bytes = toBytes(record);
-    vkd_zob_put(index, keys.key1, keys.key2, bytes.data(), &length, 1);
+    vkd_zob_put(project.index(), keys.key1, keys.key2, bytes.data(), &length, 1);
 }
 
 /// Copies the records of other programs under our key pair to the scratch store.
-void saveForeignRecords(int index)
+void saveForeignRecords(ZobHandle project)
 {
-    empty(ScratchIndex, ForeignDesign);
-    RecordPass pass(index, Design);
+    empty(ZobHandle::scratch(), ForeignDesign);
+    RecordPass pass(project, Design);
     tagZOB_QUAD_RIM record{};
     while (pass.next(record))
         if (!isDesignRecord(record))
-            append(ScratchIndex, ForeignDesign, record, pass.length);
+            append(ZobHandle::scratch(), ForeignDesign, record, pass.length);
 }
 
-void writeRow(int index, DesignParameterRow& row)
+void writeRow(ZobHandle project, DesignParameterRow& row)
 {
     for (int group : row.groups) {
         row.record.group = group;
-        append(index, Design, row.record, RecordLength);
+        append(project, Design, row.record, RecordLength);
     }
 }
 } // namespace
@@ -101,11 +101,11 @@ void checkAndCreateZobDefault(int index)
 
 void readRowsFromZob(DesignParameterData& data)
 {
-    const int index = data.designDoc->index();
+    const ZobHandle project(data.designDoc->index());
     std::vector<DesignParameterRow> remaining; // inserted at the front, in reverse order
     tagZOB_QUAD_RIM previous{};
     bool hasPrevious = false;
-    RecordPass pass(index, Design);
+    RecordPass pass(project, Design);
     tagZOB_QUAD_RIM record{};
     while (pass.next(record)) {
         if (!isDesignRecord(record))
@@ -123,7 +123,7 @@ void readRowsFromZob(DesignParameterData& data)
         }
     }
     data.rows.insert(data.rows.begin(), remaining.rbegin(), remaining.rend());
-    vkd_zob_free_ex(index, Design.key1, Design.key2);
+    vkd_zob_free_ex(project.index(), Design.key1, Design.key2);
 }
 
 DesignParameterRow defaultRow(const DesignParameterData& data)
@@ -146,21 +146,21 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
         for (DesignParameterRow& row : data.rows)
             toStoredForm(row.record, data.kindOfSystem);
     converted = true; // only once for each page: a second write finds the stored form
-    const int index = data.designDoc->index();
-    vkd_zob_lock_ex(index, Design.key1, Design.key2);
-    saveForeignRecords(index);
-    empty(index, Design);
+    const ZobHandle project(data.designDoc->index());
+    vkd_zob_lock_ex(project.index(), Design.key1, Design.key2);
+    saveForeignRecords(project);
+    empty(project, Design);
     for (DesignParameterRow& row : data.rows)
         if (isRemainingGroups(row.groups))
-            writeRow(index, row);
+            writeRow(project, row);
     for (DesignParameterRow& row : data.rows)
         if (!isRemainingGroups(row.groups))
-            writeRow(index, row);
+            writeRow(project, row);
     // The first of the copied records is read but not used; none of them is restored. This is
     // intended.
     tagZOB_QUAD_RIM unused{};
-    RecordPass(ScratchIndex, ForeignDesign).next(unused);
-    vkd_zob_free_ex(index, Design.key1, Design.key2);
+    RecordPass(ZobHandle::scratch(), ForeignDesign).next(unused);
+    vkd_zob_free_ex(project.index(), Design.key1, Design.key2);
 }
 
 } // namespace plib

@@ -15,17 +15,17 @@ struct Known
 };
 } // namespace
 
-std::shared_ptr<const ModelGeometry> sharedGeometry(int index, const VkdGoOn& goOn,
+std::shared_ptr<const ModelGeometry> sharedGeometry(ZobHandle project, const VkdGoOn& goOn,
                                                     VkdStatus* status)
 {
     static Known last;
-    if (index <= 0)
+    if (project.isNull())
         return std::make_shared<ModelGeometry>();
-    if (auto known = last.geometry.lock(); known && dbo::modelMark(index) == last.mark)
+    if (auto known = last.geometry.lock(); known && dbo::modelMark(project) == last.mark)
         return known;
     VkdStatus read;
     QByteArray mark;
-    const dbo::Model model = dbo::readModel(index, goOn, &mark, &read);
+    const dbo::Model model = dbo::readModel(project, goOn, &mark, &read);
     if (status)
         *status = read;
     if (read.code == VKD_ZOB_CANCELLED)

@@ -41,11 +41,11 @@ void drawAxes(QPainter& painter, const ViewAxes& axes, double height)
 }
 } // namespace
 
-AnimatorPicture::AnimatorPicture(int index)
+AnimatorPicture::AnimatorPicture(ZobHandle project)
     : m_scene(std::make_unique<SceneView>())
     , m_painter(std::make_unique<ScenePainter>())
 {
-    m_scene->setGeometry(sharedGeometry(index));
+    m_scene->setGeometry(sharedGeometry(project));
 }
 
 AnimatorPicture::~AnimatorPicture() = default;

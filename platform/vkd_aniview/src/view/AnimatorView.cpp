@@ -25,9 +25,9 @@ constexpr double ZoomToStep = 1.2; // for one notch of the wheel or one key pres
 constexpr int RestMs = 200;
 } // namespace
 
-AnimatorView::AnimatorView(int index, QWidget* parent, const char* name)
+AnimatorView::AnimatorView(ZobHandle project, QWidget* parent, const char* name)
     : QWidget(parent)
-    , m_index(index)
+    , m_project(project)
     , m_scene(std::make_unique<SceneView>())
     , m_painter(std::make_unique<ScenePainter>())
     , m_marks(std::make_unique<GroupMarks>())
@@ -45,13 +45,13 @@ AnimatorView::AnimatorView(int index, QWidget* parent, const char* name)
 
 AnimatorView::~AnimatorView() = default;
 
-VkdStatus AnimatorView::setProject(int index, const VkdGoOn& goOn)
+VkdStatus AnimatorView::setProject(ZobHandle project, const VkdGoOn& goOn)
 {
     VkdStatus status;
-    auto geometry = sharedGeometry(index, goOn, &status);
+    auto geometry = sharedGeometry(project, goOn, &status);
     if (!geometry)
         return status;
-    m_index = index;
+    m_project = project;
     m_scene->setGeometry(std::move(geometry));
     updateCursor();
     showMarks();
@@ -61,7 +61,7 @@ VkdStatus AnimatorView::setProject(int index, const VkdGoOn& goOn)
 
 void AnimatorView::reload()
 {
-    setProject(m_index);
+    setProject(m_project);
 }
 
 bool AnimatorView::isPicking() const
@@ -124,8 +124,8 @@ void AnimatorView::slotViewControl(AnimatorViewControl control, double /*value*/
     case AnimatorViewXY: lookFrom(0, 0, 1); break;
     case AnimatorViewXZ: lookFrom(0, -1, 0); break;
     case AnimatorViewYZ: lookFrom(1, 0, 0); break;
-    case AnimatorStoreCamera: vkd::dbo::setCamera(0, m_scene->camera()); return;
-    case AnimatorTakeCamera: m_scene->setCamera(vkd::dbo::camera(0)); break;
+    case AnimatorStoreCamera: vkd::dbo::setCamera(ZobHandle::scratch(), m_scene->camera()); return;
+    case AnimatorTakeCamera: m_scene->setCamera(vkd::dbo::camera(ZobHandle::scratch())); break;
     }
     update();
 }
@@ -269,7 +269,8 @@ bool AnimatorView::isEmpty() const
 
 QString AnimatorView::emptyText() const
 {
-    return m_index > 0 ? tr("The project holds no structural model.") : tr("No project is open.");
+    return m_project.isNull() ? tr("No project is open.")
+                              : tr("The project holds no structural model.");
 }
 
 void AnimatorView::setTexts()

@@ -8,45 +8,46 @@ namespace {
 using vkd::zob::KeyPair;
 using vkd::zob::keys::dialogPage;
 
-QByteArray readRecord(int index, int page, int position, cd_error_t* status)
+QByteArray readRecord(ZobHandle project, int page, int position, cd_error_t* status)
 {
     QByteArray bytes(1024, Qt::Uninitialized);
     int length = bytes.size();
     const KeyPair keys = dialogPage(page);
-    while ((*status = vkd_zob_get(index, keys.key1, keys.key2, bytes.data(), &length, position)) ==
-           VKD_ZOB_CUT) {
+    while ((*status = vkd_zob_get(project.index(), keys.key1, keys.key2, bytes.data(), &length,
+                                  position)) == VKD_ZOB_CUT) {
         bytes.resize(2 * bytes.size());
         length = bytes.size();
     }
     return *status == VKD_ZOB_OK ? bytes.left(length) : QByteArray();
 }
 
-bool append(int index, int page, const QString& text)
+bool append(ZobHandle project, int page, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
     const int length = bytes.size();
     const KeyPair keys = dialogPage(page);
-    return vkd_zob_put(index, keys.key1, keys.key2, bytes.constData(), &length, 1) == VKD_ZOB_OK;
+    return vkd_zob_put(project.index(), keys.key1, keys.key2, bytes.constData(), &length, 1) ==
+           VKD_ZOB_OK;
 }
 } // namespace
 
-VKD_H_ProjectDialogPage::VKD_H_ProjectDialogPage(int index, int page)
-    : m_index(index)
+VKD_H_ProjectDialogPage::VKD_H_ProjectDialogPage(ZobHandle project, int page)
+    : m_project(project)
     , m_page(page)
 {
-    if (index < 0)
+    if (project.isNull())
         return;
     cd_error_t status = VKD_ZOB_OK;
     for (int position = 0; status == VKD_ZOB_OK; position += 2) {
-        const QByteArray key = readRecord(index, page, position, &status);
+        const QByteArray key = readRecord(project, page, position, &status);
         if (status != VKD_ZOB_OK)
             break;
-        const QByteArray value = readRecord(index, page, position + 1, &status);
+        const QByteArray value = readRecord(project, page, position + 1, &status);
         m_entries.insert(QString::fromUtf8(key), QString::fromUtf8(value));
     }
     if (status != VKD_ZOB_END && status != VKD_ZOB_NO_KEY)
-        m_readStatus = VkdStatus::failure(status, vkd_zob_last_failure(index).reason);
-    vkd_zob_free_ex(index, dialogPage(page).key1, dialogPage(page).key2);
+        m_readStatus = VkdStatus::failure(status, vkd_zob_last_failure(project.index()).reason);
+    vkd_zob_free_ex(project.index(), dialogPage(page).key1, dialogPage(page).key2);
 }
 
 QString VKD_H_ProjectDialogPage::getEntry(const QString& key, const QString& defaultValue) const
@@ -68,14 +69,15 @@ VkdStatus VKD_H_ProjectDialogPage::save() const
 {
     if (!m_readStatus.isOk())
         return m_readStatus;
-    ZobTransaction change(m_index);
+    ZobTransaction change(m_project);
     if (!change.status().isOk())
         return change.rollback();
     const int none = 0;
     const KeyPair keys = dialogPage(m_page);
-    bool done = vkd_zob_put(m_index, keys.key1, keys.key2, nullptr, &none, 0) == VKD_ZOB_OK;
+    bool done =
+        vkd_zob_put(m_project.index(), keys.key1, keys.key2, nullptr, &none, 0) == VKD_ZOB_OK;
     for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
-        done =
-            done && append(m_index, m_page, entry.key()) && append(m_index, m_page, entry.value());
+        done = done && append(m_project, m_page, entry.key()) &&
+               append(m_project, m_page, entry.value());
     return change.commit();
 }

@@ -1,15 +1,9 @@
 #include "VKD_H_ZOBDoc.h"
 
-#include <vkd_zob_keys.h>
-
 #include <utility>
 
-namespace {
-using vkd::zob::ScratchIndex;
-}
-
-VKD_H_ZOBDoc::VKD_H_ZOBDoc(int index, const QString& path)
-    : m_index(index)
+VKD_H_ZOBDoc::VKD_H_ZOBDoc(ZobHandle project, const QString& path)
+    : m_project(project)
     , m_path(path)
 {
 }
@@ -26,7 +20,8 @@ std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::open(const QString& path, VkdStatus*
     const VkdStatus result = vkd_zob_open(path.toUtf8().constData(), &index, goOn);
     if (status)
         *status = result;
-    return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
+    return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(ZobHandle(index), path)
+                                                   : nullptr);
 }
 
 std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::create(const QString& path, VkdStatus* status)
@@ -35,17 +30,18 @@ std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::create(const QString& path, VkdStatu
     const VkdStatus result = vkd_zob_create(path.toUtf8().constData(), &index);
     if (status)
         *status = result;
-    return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(index, path) : nullptr);
+    return std::unique_ptr<VKD_H_ZOBDoc>(index > 0 ? new VKD_H_ZOBDoc(ZobHandle(index), path)
+                                                   : nullptr);
 }
 
 std::unique_ptr<VKD_H_ZOBDoc> VKD_H_ZOBDoc::scratch()
 {
-    return std::unique_ptr<VKD_H_ZOBDoc>(new VKD_H_ZOBDoc(ScratchIndex, QString()));
+    return std::unique_ptr<VKD_H_ZOBDoc>(new VKD_H_ZOBDoc(ZobHandle::scratch(), QString()));
 }
 
 int VKD_H_ZOBDoc::index() const
 {
-    return m_index;
+    return m_project.index();
 }
 
 QString VKD_H_ZOBDoc::path() const
@@ -55,8 +51,9 @@ QString VKD_H_ZOBDoc::path() const
 
 VkdStatus VKD_H_ZOBDoc::close()
 {
-    if (m_index < 0)
+    if (m_project.isNull())
         return {};
-    const int index = std::exchange(m_index, -1);
-    return index == ScratchIndex ? VkdStatus() : vkd_zob_close(index); // the scratch store lives on
+    const int index = std::exchange(m_project, ZobHandle()).index();
+    const bool isScratch = index == ZobHandle::scratch().index(); // it lives on
+    return isScratch ? VkdStatus() : vkd_zob_close(index);
 }

@@ -49,7 +49,8 @@ VKD_H_GroupDialog::VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* d
     : VKD_QT_Dialog(parent, name)
     , m_kind(kind)
     , m_groups(new GroupTableModel(
-          kind, vkd::h::groupRows(kind, doc ? doc->index() : -1, checked, usedElsewhere), this))
+          kind, vkd::h::groupRows(kind, doc ? doc->handle() : ZobHandle(), checked, usedElsewhere),
+          this))
     , m_shown(new GroupFilterModel(m_groups, this))
     , m_opened(checked)
     , m_confirmed(vkd::h::confirmedGroups(kind, checked, m_groups->checkedGroups()))

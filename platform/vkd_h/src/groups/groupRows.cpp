@@ -86,14 +86,14 @@ GroupRow toRow(VKD_H_GroupKind kind, const GroupSummary& summary)
 
 using RowsByGroup = std::map<int, GroupRow>; // without duplicates, even if a group was stored twice
 
-RowsByGroup modelRows(VKD_H_GroupKind kind, int index)
+RowsByGroup modelRows(VKD_H_GroupKind kind, ZobHandle project)
 {
-    if (index < 0)
+    if (project.isNull())
         return {};
     RowsByGroup rows;
     const QVector<GroupSummary> summaries = kind == VKD_H_GroupKind::Secondary
-                                                ? dbo::readSecondaryGroups(index)
-                                                : dbo::readGroups(index);
+                                                ? dbo::readSecondaryGroups(project)
+                                                : dbo::readGroups(project);
     for (const GroupSummary& summary : summaries) {
         const GroupRow row = toRow(kind, summary);
         if (isOfKind(kind, row.group))
@@ -112,10 +112,10 @@ GroupRow unknownRow(VKD_H_GroupKind kind, int group)
 }
 } // namespace
 
-QVector<GroupRow> groupRows(VKD_H_GroupKind kind, int index, const std::vector<int>& checked,
-                            const std::vector<int>& usedElsewhere)
+QVector<GroupRow> groupRows(VKD_H_GroupKind kind, ZobHandle project,
+                            const std::vector<int>& checked, const std::vector<int>& usedElsewhere)
 {
-    RowsByGroup rows = modelRows(kind, index);
+    RowsByGroup rows = modelRows(kind, project);
     for (int group : checked)
         if (isOfKind(kind, group))
             rows.emplace(group, unknownRow(kind, group)).first->second.isChecked = true;

@@ -2,6 +2,8 @@
 
 #include "VKD_H_GroupKind.h"
 
+#include <ZobHandle.h>
+
 #include <QString>
 #include <QVector>
 
@@ -24,10 +26,10 @@ struct GroupRow
     bool isChecked = false;
 };
 
-/// Returns the groups of one kind in the project at this database index (-1 for none), plus checked
-/// groups that the model lacks, sorted by `group`.
-QVector<GroupRow> groupRows(VKD_H_GroupKind kind, int index, const std::vector<int>& checked,
-                            const std::vector<int>& usedElsewhere);
+/// Returns the groups of one kind in the project, if the handle is not null, plus checked groups
+/// that the model lacks, sorted by `group`.
+QVector<GroupRow> groupRows(VKD_H_GroupKind kind, ZobHandle project,
+                            const std::vector<int>& checked, const std::vector<int>& usedElsewhere);
 
 } // namespace h
 } // namespace vkd

@@ -2,9 +2,9 @@
 
 #include "store/openStores.h"
 
-ZobSnapshot::ZobSnapshot(int index)
+ZobSnapshot::ZobSnapshot(ZobHandle project)
 {
-    ZobDatabase* store = openStore(index, &m_status);
+    ZobDatabase* store = openStore(project.index(), &m_status);
     if (!store)
         return;
     m_status = store->transactions().beginSnapshot();

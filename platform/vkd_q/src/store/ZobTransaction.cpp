@@ -3,16 +3,16 @@
 #include "store/openStores.h"
 
 namespace {
-VkdStatus projectIsClosed(int index)
+VkdStatus projectIsClosed(ZobHandle project)
 {
-    return zobFailure(VKD_ZOB_NOT_OPEN, ZobAction::Use, QString::number(index));
+    return zobFailure(VKD_ZOB_NOT_OPEN, ZobAction::Use, QString::number(project.index()));
 }
 } // namespace
 
-ZobTransaction::ZobTransaction(int index)
-    : m_index(index)
+ZobTransaction::ZobTransaction(ZobHandle project)
+    : m_project(project)
 {
-    if (ZobDatabase* store = openStore(index, &m_result)) {
+    if (ZobDatabase* store = openStore(project.index(), &m_result)) {
         m_store = store->weak_from_this();
         m_isOpen = true;
         store->transactions().begin();
@@ -29,7 +29,7 @@ VkdStatus ZobTransaction::status() const
     if (!m_isOpen)
         return m_result;
     const auto store = m_store.lock();
-    return store ? store->transactions().changeStatus() : projectIsClosed(m_index);
+    return store ? store->transactions().changeStatus() : projectIsClosed(m_project);
 }
 
 VkdStatus ZobTransaction::commit()
@@ -48,6 +48,6 @@ VkdStatus ZobTransaction::end(bool isWhole)
         return m_result;
     m_isOpen = false;
     const auto store = m_store.lock();
-    m_result = store ? store->transactions().end(isWhole) : projectIsClosed(m_index);
+    m_result = store ? store->transactions().end(isWhole) : projectIsClosed(m_project);
     return m_result;
 }

@@ -1,11 +1,11 @@
 #include "store/openStores.h"
 
-#include "vkd_zob_keys.h"
+#include "ZobHandle.h"
 
 #include <map>
 
 namespace {
-using vkd::zob::ScratchIndex;
+constexpr int ScratchIndex = ZobHandle::scratch().index();
 
 using Stores = std::map<int, std::shared_ptr<ZobDatabase>>;
 
