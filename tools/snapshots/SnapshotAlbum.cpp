@@ -1,6 +1,6 @@
 #include "SnapshotAlbum.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 
 #include <QApplication>
 #include <QDialog>
@@ -62,8 +62,8 @@ void SnapshotAlbum::add(const QString& name, QWidget* widget)
         QPainter painter(&picture);
         painter.drawPixmap(widget->mapFromGlobal(list->mapToGlobal(QPoint())), list->grab());
     }
-    const QString language =
-        vkd_lib_getvalue(VKD_SETTING_LANGUAGE) ? QStringLiteral("en") : QStringLiteral("de");
+    const QString language = vkd::desktopLanguage() == vkd::Language::German ? QStringLiteral("de")
+                                                                             : QStringLiteral("en");
     const QString file =
         QDir(m_folder).filePath(QStringLiteral("%1.%2.png").arg(name + m_look, language));
     if (!picture.save(file))

@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 
 namespace {
+using vkd::Language;
+
 const QString IndexFile = QStringLiteral("index.txt");
 
 /// Accepts only names that are safe as parts of paths.
@@ -17,9 +19,9 @@ bool isName(const QString& text)
     return name.match(text).hasMatch();
 }
 
-QString languageFolder(int language)
+QString languageFolder(Language language)
 {
-    return language == 0 ? QStringLiteral("de") : QStringLiteral("en");
+    return language == Language::German ? QStringLiteral("de") : QStringLiteral("en");
 }
 
 QString pageFile(const QString& topic)
@@ -28,7 +30,7 @@ QString pageFile(const QString& topic)
 }
 
 /// Returns the folder of a book in a language, empty if there is none.
-QString folderOf(const QString& book, int language)
+QString folderOf(const QString& book, Language language)
 {
     const QString index =
         QStringLiteral("help/%1/%2/%3").arg(book, languageFolder(language), IndexFile);
@@ -38,13 +40,13 @@ QString folderOf(const QString& book, int language)
 }
 } // namespace
 
-HelpBook::HelpBook(const QString& name, int language)
+HelpBook::HelpBook(const QString& name, Language language)
     : m_name(name.toLower())
 {
     if (!isName(name))
         return;
-    const int other = language == 0 ? 1 : 0;
-    for (int wanted : {language, other}) {
+    const Language other = language == Language::German ? Language::English : Language::German;
+    for (Language wanted : {language, other}) {
         m_folder = folderOf(m_name, wanted);
         if (!m_folder.isEmpty())
             readIndex();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_language.h>
+
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
@@ -18,10 +20,9 @@ public:
     };
 
     HelpBook() = default;
-    /// Reads the index in a language, 0 German or 1 English, or in the other one if it is missing.
-    /// Without an index there are no topics; topics without a readable page are skipped. The name
-    /// is case-insensitive.
-    HelpBook(const QString& name, int language);
+    /// Reads the index in a language, or in the other one if it is missing. Without an index there
+    /// are no topics; topics without a readable page are skipped. The name is case-insensitive.
+    HelpBook(const QString& name, vkd::Language language);
 
     const QString& name() const { return m_name; }
     const QVector<Topic>& topics() const { return m_topics; }

@@ -3,7 +3,7 @@
 #include "HelpBrowser.h"
 #include "TransientParent.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 #include <vkd_qt_icon_named.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_SignalBlocker.h>
@@ -202,7 +202,7 @@ void HelpWindow::changeLanguage()
     if (topic < 0)
         return;
     const QString name = m_browser->book().topics()[topic].name;
-    const HelpBook book(m_browser->book().name(), vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
+    const HelpBook book(m_browser->book().name(), vkd::desktopLanguage());
     if (book.find(name) >= 0)
         open(book, book.find(name));
 }

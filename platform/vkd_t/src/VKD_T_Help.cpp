@@ -3,7 +3,7 @@
 #include "HelpBook.h"
 #include "HelpWindow.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -36,7 +36,7 @@ bool VKD_T_Help::show(QWidget* parent, const VKD_T_String& book, const VKD_T_Str
 {
     const QString& bookName = book;
     const QString& topicName = topic;
-    const HelpBook found(bookName, vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
+    const HelpBook found(bookName, vkd::desktopLanguage());
     const int number = found.find(topicName);
     if (number < 0) {
         qCWarning(lcHelp, "no help: the book %s has no topic %s%s", qUtf8Printable(bookName),

@@ -20,7 +20,6 @@
 
 #include <AnimatorView.h>
 #include <vkd_dbo_model.h>
-#include <vkd_lib_value.h>
 #include <VKD_QT_InitTranslator.h>
 
 #include <QAction>
@@ -88,8 +87,8 @@ void MainWindow::connectActions()
     on(m_actions->output, &MainWindow::showOutput);
     on(m_actions->textOutput, [this] { m_textOutputEditor->show(); });
     on(m_actions->sheet, [this] { m_panes->showSheets(); });
-    on(m_actions->german, [this] { setLanguage(0); });
-    on(m_actions->english, [this] { setLanguage(1); });
+    on(m_actions->german, [this] { setLanguage(vkd::Language::German); });
+    on(m_actions->english, [this] { setLanguage(vkd::Language::English); });
 }
 
 void MainWindow::connectPanes()
@@ -262,15 +261,15 @@ void MainWindow::showOutput()
 }
 
 /// Dialogs take their texts when they are created, so they are replaced.
-void MainWindow::setLanguage(int language)
+void MainWindow::setLanguage(vkd::Language language)
 {
-    if (vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == language)
+    if (vkd::desktopLanguage() == language)
         return;
     if (m_project.isOpen() && !m_access.canRead()) // all texts of the project are reloaded
         return m_actions->setTexts();
     const auto before = m_outputEditor->present();
     m_outputEditor->close();
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    vkd::setDesktopLanguage(language);
     VKD_QT_InitTranslator::languageChanged();
     WindowSettings().setLanguage(language);
     m_textOutputEditor->recreate();

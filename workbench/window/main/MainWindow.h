@@ -5,6 +5,8 @@
 #include "window/support/ProjectAccess.h"
 #include "window/support/WindowMessages.h"
 
+#include <vkd_language.h>
+
 #include <QMainWindow>
 
 class QLabel;
@@ -62,7 +64,7 @@ private:
     void followOthers();
     void showModified();
     void showOutput();
-    void setLanguage(int language);
+    void setLanguage(vkd::Language language);
 
     WindowActions* m_actions;
     WindowPanes* m_panes = nullptr;

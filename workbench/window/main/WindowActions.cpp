@@ -1,8 +1,8 @@
 #include "window/main/WindowActions.h"
 
 #include <AnimatorViewControl.h>
+#include <vkd_language.h>
 #include <vkd_lib_searchpath.h>
-#include <vkd_lib_value.h>
 #include <vkd_qt_icon_named.h>
 
 #include <QActionGroup>
@@ -255,8 +255,8 @@ void WindowActions::setTexts()
     for (int i = 0; i < books.size(); ++i)
         books[i]->setText(tr(Books[i].text));
     about->setText(tr("&About"));
-    const bool isEnglish = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) != 0;
-    (isEnglish ? english : german)->setChecked(true);
+    const bool isGerman = vkd::desktopLanguage() == vkd::Language::German;
+    (isGerman ? german : english)->setChecked(true);
 }
 
 void WindowActions::enable(bool hasProject, bool isPicking, bool isFileGone)

@@ -3,8 +3,6 @@
 #include "window/main/runWindow.h"
 #include "window/support/WindowSettings.h"
 
-#include <vkd_lib_value.h>
-
 #include <QApplication>
 
 #include <memory>
@@ -22,7 +20,7 @@ int openWindow(const QStringList& arguments)
         throw CommandError{QStringLiteral("the window needs a display")};
     applyLanguage(line);
     if (line.has("language")) // otherwise the window restores its last one
-        WindowSettings().setLanguage(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
+        WindowSettings().setLanguage(vkd::desktopLanguage());
     return runWindow(line.argument(0));
 }
 

@@ -1,6 +1,6 @@
 #include "window/main/makeProjectFile.h"
 
-#include <vkd_lib_value.h>
+#include <vkd_language.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,8 +15,8 @@ constexpr int Patience = 50; // ms between two checks of the progress
 
 QString language()
 {
-    return vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == 0 ? QStringLiteral("german")
-                                                       : QStringLiteral("english");
+    return vkd::desktopLanguage() == vkd::Language::German ? QStringLiteral("german")
+                                                           : QStringLiteral("english");
 }
 
 /// Returns the error line of a command without the name of the program; empty after a success.

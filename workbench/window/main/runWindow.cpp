@@ -2,7 +2,6 @@
 
 #include "window/support/WindowSettings.h"
 
-#include <vkd_lib_value.h>
 #include <VKD_QT_InitTranslator.h>
 
 #include <QApplication>
@@ -11,8 +10,7 @@ namespace workbench {
 
 int runWindow(const QString& path)
 {
-    const int language = WindowSettings().language(vkd_lib_getvalue(VKD_SETTING_LANGUAGE));
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);
+    vkd::setDesktopLanguage(WindowSettings().language(vkd::desktopLanguage()));
     VKD_QT_InitTranslator::languageChanged();
     MainWindow window;
     window.openAfterPainting(path);

@@ -8,7 +8,6 @@
 
 #include <AnimatorView.h>
 #include <VKD_H_ZOBDoc.h>
-#include <vkd_lib_value.h>
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_qt_xmlpart.h>
@@ -38,12 +37,12 @@ constexpr int PlainLoadCase = 1;
 VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
                                      AnimatorView* view)
 {
-    static const int first = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    const int present = vkd_lib_getvalue(VKD_SETTING_LANGUAGE);
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, first);
+    static const vkd::Language first = vkd::desktopLanguage();
+    const vkd::Language present = vkd::desktopLanguage();
+    vkd::setDesktopLanguage(first);
     auto page =
         new VKD_P_WidgetGraphicalOutput(parent, VKD_P_GraphicalOutput_Standard, parameter, view);
-    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, present);
+    vkd::setDesktopLanguage(present);
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(page, &change);
     page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // without load cases
@@ -217,11 +216,11 @@ bool OutputDialog::showsUsersView() const
     return views && views->selectedButton() == UsersView;
 }
 
-QString OutputDialog::script(bool english)
+QString OutputDialog::script(vkd::Language keywords)
 {
-    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, english ? 1 : 0);
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, int(keywords));
     storeUsersCamera();
-    return m_page->getTORVAL(english);
+    return m_page->getTORVAL(keywords == vkd::Language::English);
 }
 
 /// The view itself stores its camera only when the user leaves the view.

@@ -7,6 +7,7 @@
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
+#include <vkd_language.h>
 #include <VKD_P_WidgetGraphicalOutput_AdditionalData>
 
 #include <QTimer>
@@ -45,7 +46,7 @@ public:
 
     /// Returns the script of the current choice with English or German keywords; empty if no plot
     /// is checked.
-    QString script(bool english);
+    QString script(vkd::Language keywords);
     /// Returns the captions of the plots that the script draws, as shown in the tree of the page.
     QVector<PlotCaption> captions();
     /// Returns the state that is saved in the project.

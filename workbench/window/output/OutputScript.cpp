@@ -31,8 +31,8 @@ OutputScript::OutputScript(OpenProject* project, OutputEditor* output, WindowMes
     , m_pane(pane)
     , m_sheets(sheets)
 {
-    m_pane->setEnglish(WindowSettings().englishKeywords());
-    connect(m_pane, &ScriptPane::languageChosen, this, &OutputScript::setKeywords);
+    m_pane->setKeywords(WindowSettings().keywords());
+    connect(m_pane, &ScriptPane::keywordsChosen, this, &OutputScript::setKeywords);
     connect(m_output, &OutputEditor::choiceChanged, this, &OutputScript::refresh);
 }
 
@@ -51,7 +51,7 @@ void OutputScript::refresh()
     if (!dialog)
         return clear();
     const WaitCursor cursor;
-    const QString script = dialog->script(m_pane->english());
+    const QString script = dialog->script(m_pane->keywords());
     if (isFirst && m_pane->script().isEmpty())
         m_pane->setOtherScript(script);
     else
@@ -63,14 +63,14 @@ void OutputScript::refresh()
 void OutputScript::showOther()
 {
     if (OutputDialog* dialog = m_output->dialog())
-        m_pane->setOtherScript(dialog->script(m_pane->english()));
+        m_pane->setOtherScript(dialog->script(m_pane->keywords()));
 }
 
-void OutputScript::setKeywords(bool english)
+void OutputScript::setKeywords(vkd::Language language)
 {
     if (m_project->isOpen() && !m_output->dialog())
-        return m_pane->setEnglish(!english);
-    WindowSettings().setEnglishKeywords(english);
+        return m_pane->setKeywords(WindowSettings().keywords()); // the previous ones
+    WindowSettings().setKeywords(language);
     if (m_project->isOpen())
         showOther();
     refreshSheets();

@@ -2,6 +2,8 @@
 
 #include "sheet/SheetPlan.h"
 
+#include <vkd_language.h>
+
 #include <QObject>
 
 namespace workbench {
@@ -41,7 +43,7 @@ Q_SIGNALS:
     void refreshed(bool isEmpty);
 
 private:
-    void setKeywords(bool english);
+    void setKeywords(vkd::Language language);
     QString proposedFile(const char* suffix) const;
     SheetPlan newSheetPlan();
     void refreshSheets();

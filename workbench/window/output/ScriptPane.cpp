@@ -20,7 +20,7 @@
 namespace workbench {
 
 namespace {
-enum Language { German = 0, English = 1 };
+using vkd::Language; // its values are the rows of the combo box
 
 QColor markColour(const QPalette& palette)
 {
@@ -67,19 +67,19 @@ ScriptPane::ScriptPane(QAction* copy, QAction* save, QWidget* parent)
     layout->addLayout(head);
     layout->addWidget(m_text);
     connect(m_language, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this](int language) { Q_EMIT languageChosen(language == English); });
+            [this] { Q_EMIT keywordsChosen(keywords()); });
     setTexts();
 }
 
-bool ScriptPane::english() const
+Language ScriptPane::keywords() const
 {
-    return m_language->currentIndex() == English;
+    return Language(m_language->currentIndex());
 }
 
-void ScriptPane::setEnglish(bool english)
+void ScriptPane::setKeywords(Language language)
 {
     const QSignalBlocker blocker(m_language);
-    m_language->setCurrentIndex(english ? English : German);
+    m_language->setCurrentIndex(int(language));
 }
 
 void ScriptPane::setScript(const QString& script)
@@ -113,8 +113,8 @@ void ScriptPane::setTexts()
 {
     const QSignalBlocker blocker(m_language);
     m_languageLabel->setText(tr("&Keywords:"));
-    m_language->setItemText(German, tr("German"));
-    m_language->setItemText(English, tr("English"));
+    m_language->setItemText(int(Language::German), tr("German"));
+    m_language->setItemText(int(Language::English), tr("English"));
     m_language->setAccessibleName(tr("Language of the keywords"));
     m_text->setAccessibleName(tr("Script"));
     m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical Output."));

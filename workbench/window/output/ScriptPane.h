@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_language.h>
+
 #include <QStringList>
 #include <QWidget>
 
@@ -22,9 +24,9 @@ public:
     /// Creates a button for each of the actions of the window that copy and save the script.
     ScriptPane(QAction* copy, QAction* save, QWidget* parent);
 
-    /// Returns whether the keywords are English. The setter emits no signal.
-    bool english() const;
-    void setEnglish(bool english);
+    /// Returns the language of the keywords. The setter emits no signal.
+    vkd::Language keywords() const;
+    void setKeywords(vkd::Language language);
 
     QString script() const { return m_script; }
     /// Shows a script and marks the lines that the previous one lacks. An equal script changes
@@ -34,7 +36,7 @@ public:
     void setOtherScript(const QString& script);
 
 Q_SIGNALS:
-    void languageChosen(bool english);
+    void keywordsChosen(vkd::Language language);
 
 protected:
     void changeEvent(QEvent* event) override;

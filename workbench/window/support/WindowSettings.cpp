@@ -6,6 +6,8 @@
 namespace workbench {
 
 namespace {
+using vkd::Language;
+
 constexpr int MaximumCount = 8;
 const QString RecentKey = QStringLiteral("recentFiles");
 const QString LanguageKey = QStringLiteral("language");
@@ -40,24 +42,24 @@ void WindowSettings::addRecentFile(const QString& path)
     setValue(RecentKey, QStringList(files.mid(0, MaximumCount)));
 }
 
-int WindowSettings::language(int otherwise) const
+Language WindowSettings::language(Language otherwise) const
 {
-    return value(LanguageKey, otherwise).toInt() == 0 ? 0 : 1;
+    return value(LanguageKey, int(otherwise)).toInt() == 0 ? Language::German : Language::English;
 }
 
-void WindowSettings::setLanguage(int language)
+void WindowSettings::setLanguage(Language language)
 {
-    setValue(LanguageKey, language);
+    setValue(LanguageKey, int(language));
 }
 
-bool WindowSettings::englishKeywords() const
+Language WindowSettings::keywords() const
 {
-    return value(KeywordsKey, true).toBool();
+    return value(KeywordsKey, true).toBool() ? Language::English : Language::German;
 }
 
-void WindowSettings::setEnglishKeywords(bool english)
+void WindowSettings::setKeywords(Language language)
 {
-    setValue(KeywordsKey, english);
+    setValue(KeywordsKey, language == Language::English);
 }
 
 } // namespace workbench

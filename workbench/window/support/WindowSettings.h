@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_language.h>
+
 #include <QSettings>
 #include <QStringList>
 
@@ -18,11 +20,12 @@ public:
     QStringList recentFiles() const;
     void addRecentFile(const QString& path);
 
-    /// Returns the saved value of setting 102, the language; `otherwise` if none was saved.
-    int language(int otherwise) const;
-    void setLanguage(int language);
-    bool englishKeywords() const;
-    void setEnglishKeywords(bool english);
+    /// Returns the saved language of the window; `otherwise` if none was saved.
+    vkd::Language language(vkd::Language otherwise) const;
+    void setLanguage(vkd::Language language);
+    /// Returns the saved language of a script's keywords.
+    vkd::Language keywords() const;
+    void setKeywords(vkd::Language language);
 };
 
 } // namespace workbench
