@@ -1,6 +1,7 @@
 #include "file/OutsideChanges.h"
 
 #include "file/openFile.h"
+#include "file/systemErrors.h"
 #include "file/ZobConnection.h"
 #include "file/zobFailure.h"
 
@@ -51,7 +52,7 @@ cd_error_t OutsideChanges::ask()
         code = sqlite3_step(question);
     if (code == SQLITE_ROW)
         m_version = sqlite3_column_int(question, 0);
-    const cd_error_t status = zobStatus(handle, code);
+    const cd_error_t status = zobStatus(handle, code, takeSystemError());
     sqlite3_finalize(question);
     m_connection.setWaiting(true);
     return status;

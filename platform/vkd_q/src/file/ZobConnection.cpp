@@ -2,6 +2,7 @@
 
 #include "file/recordChecksum.h"
 #include "file/stepAsking.h"
+#include "file/systemErrors.h"
 #include "file/zobFileCheck.h"
 #include "file/zobSchema.h"
 #include "vkd_zob_deadline.h"
@@ -50,14 +51,6 @@ int waitForOther(void*, int calls)
         return 0;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
     return 1;
-}
-
-/// Returns the errno of the last access to the file, 0 if it is unknown.
-int lastSystemError(sqlite3* connection)
-{
-    int error = 0;
-    const int code = sqlite3_file_control(connection, "main", SQLITE_FCNTL_LAST_ERRNO, &error);
-    return code == SQLITE_OK && error ? error : sqlite3_system_errno(connection);
 }
 
 /// Returns whether the file is read-only. A file without any write permission must not change, even
@@ -131,12 +124,12 @@ VkdStatus ZobConnection::connect(int flags)
                                 : QFile::encodeName(QFileInfo(m_path).absoluteFilePath());
     // Never two calls at a time, so SQLite needs no mutex.
     const int code =
-        sqlite3_open_v2(path.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+        sqlite3_open_v2(path.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, zobVfs());
     m_handle.reset(connection);
     if ((code & 0xff) == SQLITE_IOERR)
         return failToOpen(code);
     if (code != SQLITE_OK)
-        return fail(VKD_ZOB_NO_FILE, ZobAction::Open, QString::fromUtf8(sqlite3_errstr(code)));
+        return fail(VKD_ZOB_NO_FILE, ZobAction::Open, failureDetail(code, takeSystemError()));
     sqlite3_extended_result_codes(connection, 0);
     setWaiting(true);
     int prepared = restrictConnection();
@@ -211,14 +204,21 @@ VkdStatus ZobConnection::execute(const char* sql, ZobAction action)
 
 VkdStatus ZobConnection::fail(int sqliteCode, ZobAction action)
 {
+    const int systemError = takeSystemError();
     // The store never wrote such a record.
     const bool isTooBigToRead = (sqliteCode & 0xff) == SQLITE_TOOBIG && action != ZobAction::Write;
-    const auto code =
-        isTooBigToRead ? VKD_ZOB_DAMAGED : VkdZobStatus(zobStatus(handle(), sqliteCode));
-    const int systemError = (sqliteCode & 0xff) == SQLITE_IOERR ? lastSystemError(handle()) : 0;
-    return fail(code, action,
-                systemError ? qt_error_string(systemError)
-                            : QString::fromUtf8(sqlite3_errmsg(handle())));
+    const auto code = isTooBigToRead ? VKD_ZOB_DAMAGED
+                                     : VkdZobStatus(zobStatus(handle(), sqliteCode, systemError));
+    return fail(code, action, failureDetail(sqliteCode, systemError));
+}
+
+QString ZobConnection::failureDetail(int sqliteCode, int systemError) const
+{
+    const int code = sqliteCode & 0xff;
+    const bool isSystemError =
+        code == SQLITE_IOERR || code == SQLITE_FULL || code == SQLITE_CANTOPEN;
+    return isSystemError && systemError ? qt_error_string(systemError)
+                                        : QString::fromUtf8(sqlite3_errmsg(handle()));
 }
 
 VkdStatus ZobConnection::failToOpen(int sqliteCode)

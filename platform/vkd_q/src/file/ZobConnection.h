@@ -55,6 +55,7 @@ private:
     /// Restricts SQLite, because the file may come from a stranger. Returns SQLite's code.
     int restrictConnection();
     VkdStatus makeSchema();
+    QString failureDetail(int sqliteCode, int systemError) const;
 
     struct Closer
     {

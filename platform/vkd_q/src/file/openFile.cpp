@@ -38,8 +38,3 @@ VkdZobStatus copyFile(sqlite3* connection, const VkdZobTake& take)
     }
     return VKD_ZOB_OK;
 }
-
-bool isReadable(sqlite3* connection)
-{
-    return copyFile(connection, [](const void*, int) { return true; }) == VKD_ZOB_OK;
-}

@@ -12,8 +12,5 @@ struct sqlite3;
 /// Reads from the file without a lock.
 bool readFile(sqlite3* connection, void* bytes, int length, qint64 offset);
 
-/// Returns whether all bytes of the file can be read.
-bool isReadable(sqlite3* connection);
-
 /// Passes all bytes of the file to `take`. The caller must hold a lock.
 VkdZobStatus copyFile(sqlite3* connection, const VkdZobTake& take);

@@ -5,6 +5,8 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
+
 namespace {
 Q_LOGGING_CATEGORY(lcZob, "vkd.zob")
 
@@ -73,7 +75,20 @@ QString line(cd_error_t code, ZobAction action, const QString& file, const QStri
 }
 } // namespace
 
-cd_error_t zobStatus(sqlite3* connection, int sqliteCode)
+cd_error_t statusOfSystemError(int error)
+{
+    switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: return VKD_ZOB_FULL;
+    case EACCES:
+    case EPERM:
+    case EROFS: return VKD_ZOB_READ_ONLY;
+    default: return VKD_ZOB_FAILED;
+    }
+}
+
+cd_error_t zobStatus(sqlite3* connection, int sqliteCode, int systemError)
 {
     switch (sqliteCode & 0xff) {
     case SQLITE_OK:
@@ -88,15 +103,11 @@ cd_error_t zobStatus(sqlite3* connection, int sqliteCode)
         return sqlite3_extended_errcode(connection) == SQLITE_READONLY_DBMOVED ? VKD_ZOB_MOVED
                                                                                : VKD_ZOB_READ_ONLY;
     case SQLITE_PERM: return VKD_ZOB_READ_ONLY;
-    // The file itself is open already, so SQLite cannot create the journal beside it.
-    case SQLITE_CANTOPEN: return VKD_ZOB_READ_ONLY;
+    case SQLITE_IOERR:
+    case SQLITE_CANTOPEN: return statusOfSystemError(systemError);
     case SQLITE_TOOBIG:
     case SQLITE_MISUSE:
     case SQLITE_RANGE: return VKD_ZOB_BAD_CALL;
-    case SQLITE_IOERR:
-        // SQLite detects a full disk itself; an exceeded quota appears as a failed write.
-        return sqlite3_extended_errcode(connection) == SQLITE_IOERR_WRITE ? VKD_ZOB_FULL
-                                                                          : VKD_ZOB_FAILED;
     default: return VKD_ZOB_FAILED;
     }
 }

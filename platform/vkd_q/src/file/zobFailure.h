@@ -20,8 +20,12 @@ enum class ZobAction {
     Use
 };
 
-/// Converts the code of the last SQLite call on `connection` to a status.
-cd_error_t zobStatus(sqlite3* connection, int sqliteCode);
+/// Converts an errno to a status.
+cd_error_t statusOfSystemError(int error);
+
+/// Converts the code of the last SQLite call on `connection` to a status. `systemError` is the
+/// errno of the access to the file that failed, 0 if there was none.
+cd_error_t zobStatus(sqlite3* connection, int sqliteCode, int systemError);
 
 /// Returns the status of a failed operation on `file` in the desktop's language, without logging.
 /// `detail` is the message of the system or of SQLite.

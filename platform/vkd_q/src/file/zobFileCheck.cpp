@@ -1,7 +1,7 @@
 #include "file/zobFileCheck.h"
 
-#include "file/openFile.h"
 #include "file/stepAsking.h"
+#include "file/systemErrors.h"
 #include "file/ZobConnection.h"
 #include "file/zobSchema.h"
 
@@ -52,18 +52,18 @@ VkdStatus quickCheck(ZobConnection& connection, const VkdGoOn& goOn, QString* fi
     return status;
 }
 
-/// The check reports a page that cannot be read as a finding, too. So after a finding, all bytes
-/// are read, and the check is repeated in case a read failed only once.
+/// The check reports a page that cannot be read as a finding, too.
 VkdStatus checkStructure(ZobConnection& connection, const VkdGoOn& goOn)
 {
     QString finding;
-    VkdStatus status = quickCheck(connection, goOn, &finding);
-    if (status.isOk() && !finding.isEmpty())
-        status = isReadable(connection.handle()) ? quickCheck(connection, goOn, &finding)
-                                                 : connection.failToOpen(SQLITE_IOERR);
-    return status.isOk() && !finding.isEmpty()
-               ? connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open, finding)
-               : status;
+    takeSystemError();
+    const VkdStatus status = quickCheck(connection, goOn, &finding);
+    if (!status.isOk() || finding.isEmpty())
+        return status;
+    const int systemError = takeSystemError();
+    return systemError
+               ? connection.fail(VKD_ZOB_FAILED, ZobAction::Read, qt_error_string(systemError))
+               : connection.fail(VKD_ZOB_DAMAGED, ZobAction::Open, finding);
 }
 
 VkdStatus checkSoundness(ZobConnection& connection, bool hasChecksums, const VkdGoOn& goOn)

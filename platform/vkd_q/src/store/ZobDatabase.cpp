@@ -133,7 +133,7 @@ VkdStatus ZobDatabase::copy(const VkdZobTake& take)
     if (code == VKD_ZOB_CANCELLED)
         status = zobFailure(code, ZobAction::Read, m_connection->path());
     else if (code != VKD_ZOB_OK)
-        status = m_connection->fail(code, ZobAction::Read);
+        status = m_connection->fail(SQLITE_IOERR, ZobAction::Read);
     m_transactions.endSnapshot();
     return status;
 }

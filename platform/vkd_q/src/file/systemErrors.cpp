@@ -1,0 +1,109 @@
+#include "file/systemErrors.h"
+
+#include <sqlite3.h>
+
+#include <atomic>
+#include <cerrno>
+#include <fcntl.h>
+#include <map>
+#include <mutex>
+#include <unistd.h>
+
+namespace {
+constexpr char Name[] = "vkd";
+
+/// The functions of an open file, which call the original ones.
+struct Methods : sqlite3_io_methods
+{
+    const sqlite3_io_methods* original;
+};
+
+std::atomic<int> lastError{0}; // a file is checked in a thread of its own
+sqlite3_vfs* original = nullptr;
+sqlite3_vfs layer;
+
+int remembered(int code)
+{
+    // The first two are no errors for SQLite.
+    const bool isFailure =
+        code != SQLITE_IOERR_SHORT_READ && code != SQLITE_IOERR_DELETE_NOENT &&
+        ((code & 0xff) == SQLITE_IOERR || code == SQLITE_FULL || code == SQLITE_CANTOPEN);
+    if (isFailure)
+        lastError = errno;
+    return code == SQLITE_IOERR_CORRUPTFS ? SQLITE_IOERR_READ : code;
+}
+
+template <auto Method, typename... Arguments>
+int access(sqlite3_file* file, Arguments... arguments)
+{
+    const auto* methods = static_cast<const Methods*>(file->pMethods);
+    return remembered((methods->original->*Method)(file, arguments...));
+}
+
+/// SQLite uses other functions for a journal than for a database.
+const sqlite3_io_methods* layerOver(const sqlite3_io_methods* methods)
+{
+    static std::map<const sqlite3_io_methods*, Methods> layers;
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
+    const auto [found, isNew] = layers.try_emplace(methods, Methods{*methods, methods});
+    Methods& above = found->second;
+    if (isNew) {
+        above.xRead = access<&sqlite3_io_methods::xRead>;
+        above.xWrite = access<&sqlite3_io_methods::xWrite>;
+        above.xTruncate = access<&sqlite3_io_methods::xTruncate>;
+        above.xSync = access<&sqlite3_io_methods::xSync>;
+        above.xFileSize = access<&sqlite3_io_methods::xFileSize>;
+    }
+    return &above;
+}
+
+bool canCreate(const char* path)
+{
+    const int file = ::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    return file >= 0 && close(file) == 0 && unlink(path) == 0;
+}
+
+int open(sqlite3_vfs*, const char* path, sqlite3_file* file, int flags, int* usedFlags)
+{
+    int code = original->xOpen(original, path, file, flags, usedFlags);
+    // SQLite hides why it cannot create a file, because it tries to read it afterwards.
+    if (code == SQLITE_CANTOPEN && path && (flags & SQLITE_OPEN_CREATE) && canCreate(path))
+        code = original->xOpen(original, path, file, flags, usedFlags);
+    if (code == SQLITE_OK)
+        file->pMethods = layerOver(file->pMethods);
+    return remembered(code);
+}
+
+int remove(sqlite3_vfs*, const char* path, int syncsFolder)
+{
+    return remembered(original->xDelete(original, path, syncsFolder));
+}
+
+/// Ends before this library is unloaded.
+struct Registration
+{
+    Registration()
+    {
+        sqlite3_initialize();
+        original = sqlite3_vfs_find(nullptr);
+        layer = *original;
+        layer.zName = Name;
+        layer.xOpen = open;
+        layer.xDelete = remove;
+        sqlite3_vfs_register(&layer, 0);
+    }
+    ~Registration() { sqlite3_vfs_unregister(&layer); }
+};
+} // namespace
+
+const char* zobVfs()
+{
+    static const Registration registration;
+    return Name;
+}
+
+int takeSystemError()
+{
+    return lastError.exchange(0);
+}
