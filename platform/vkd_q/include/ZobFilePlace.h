@@ -13,7 +13,8 @@ class ZobConnection;
 /// beside its path, which commit() renames. An existing file is replaced in one step.
 ///
 /// A file left beside the path, such as the journal of a program that crashed, never changes the
-/// new file. While the object exists, other programs cannot change a project at the path.
+/// new file. While the object exists, other programs cannot change a project at the path. A process
+/// may have only one object for a path.
 class VKD_Q_EXPORT ZobFilePlace
 {
 public:
@@ -21,7 +22,7 @@ public:
     /// for another program that is changing it, at most as long as setting 201 says. Removes the
     /// temporary files that killed programs of this computer left for the path.
     explicit ZobFilePlace(const QString& path);
-    /// Removes the temporary file unless it was committed.
+    /// Removes the temporary file unless it was committed, and those that killed programs left.
     ~ZobFilePlace();
     ZobFilePlace(const ZobFilePlace&) = delete;
     ZobFilePlace& operator=(const ZobFilePlace&) = delete;
@@ -31,8 +32,8 @@ public:
     const VkdStatus& status() const { return m_status; }
     /// Returns the path at which the caller creates the file.
     QString temporaryPath() const { return m_temporary; }
-    /// Stores the closed temporary file durably and renames it. A file that has appeared at the
-    /// path since the construction is not replaced.
+    /// Stores the closed temporary file durably and renames it. Returns VKD_ZOB_LOCKED if a file
+    /// has appeared at the path since the construction; it is not replaced.
     VkdStatus commit();
 
 private:

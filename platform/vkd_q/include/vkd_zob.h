@@ -10,11 +10,11 @@
 /// keys, in one file per project. An open project has a database index of 1 or more; index 0 is a
 /// scratch store in memory that lives as long as the process.
 ///
-/// A failed operation leaves the stored records unchanged and writes one log line of the category
-/// vkd.zob in English. The same reason in the desktop's language is in the returned status or in
-/// vkd_zob_last_failure(). An operation that fails only because of an earlier failure, such as a
-/// put after a failed take, repeats the status without a log line. All functions must be called in
-/// one thread, the GUI thread.
+/// A failed operation leaves the stored records unchanged, unless only its last access to the disk
+/// failed, and writes one log line of the category vkd.zob in English. The same reason in the
+/// desktop's language is in the returned status or in vkd_zob_last_failure(). An operation that
+/// fails only because of an earlier failure, such as a put after a failed take, repeats the status
+/// without a log line. All functions must be called in one thread, the GUI thread.
 ///
 /// ZobSnapshot reads a project as a whole, and ZobTransaction changes it as a whole.
 using cd_error_t = int;

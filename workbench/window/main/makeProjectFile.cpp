@@ -4,9 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryDir>
 
 namespace workbench {
 
@@ -48,25 +46,14 @@ bool waitFor(QProcess& process, const VkdGoOn& goOn)
 }
 } // namespace
 
-/// Runs the process in a temporary folder, because a killed process leaves files.
 QString makeProjectFile(const QString& path, const QString& model, const VkdGoOn& goOn)
 {
-    const QTemporaryDir folder(QFileInfo(path).absolutePath() + QLatin1String("/plib-XXXXXX"));
-    if (!folder.isValid())
-        return folder.errorString();
-    const QString made = folder.filePath(QStringLiteral("made.zob"));
     QProcess process;
     const QDir programs(QCoreApplication::applicationDirPath());
     process.start(programs.filePath(QStringLiteral("plib_workbench")),
-                  {QStringLiteral("new"), made, QStringLiteral("--model"), model,
+                  {QStringLiteral("new"), path, QStringLiteral("--model"), model,
                    QStringLiteral("--progress"), QStringLiteral("--language"), language()});
-    if (!waitFor(process, goOn))
-        return QStringLiteral("cancelled");
-    QString reason = failure(process);
-    if (!reason.isEmpty())
-        return reason.replace(made, path);
-    QFile file(made);
-    return file.rename(path) ? QString() : file.errorString();
+    return waitFor(process, goOn) ? failure(process) : QStringLiteral("cancelled");
 }
 
 } // namespace workbench

@@ -15,7 +15,8 @@ using MakeProject =
     std::function<QString(const QString& path, const QString& model, const VkdGoOn& goOn)>;
 
 /// Creates the file by running the command line, because the window uses the library only through
-/// its exported headers. Needs a QCoreApplication.
+/// its exported headers. If it is cancelled, the process is killed, and its temporary files are
+/// those of a ZobFilePlace for `path`. Needs a QCoreApplication.
 QString makeProjectFile(const QString& path, const QString& model, const VkdGoOn& goOn);
 
 } // namespace workbench

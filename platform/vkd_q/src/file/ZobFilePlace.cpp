@@ -36,9 +36,9 @@ QString computer()
     return QString(QSysInfo::machineHostName()).remove(QLatin1Char('.'));
 }
 
-bool isRunning(int process)
+bool isOtherRunning(int process)
 {
-    return kill(process, 0) == 0 || errno != ESRCH;
+    return process != getpid() && (kill(process, 0) == 0 || errno != ESRCH);
 }
 
 /// Writes the contents of a file or folder to the disk.
@@ -61,12 +61,23 @@ bool removeLeftBeside(const QString& path)
     return isDone;
 }
 
-/// Without replacing, a file that has appeared meanwhile is an error.
-bool renameFile(const QString& from, const QString& to, bool replaces)
+/// Stores the names of files. Not all file systems support that, and the folder must be readable.
+bool syncFolder(const QString& folder)
 {
-    if (!replaces)
-        return QFile::rename(from, to);
-    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+    return sync(folder, O_DIRECTORY) || errno == EINVAL || errno == ENOTSUP || errno == EACCES;
+}
+
+/// Without replacing, a file that has appeared meanwhile is an error. QFile::rename() is not used,
+/// because it copies the file if it cannot be renamed.
+bool renameFile(const QByteArray& from, const QByteArray& to, bool replaces)
+{
+    if (replaces)
+        return std::rename(from.constData(), to.constData()) == 0;
+    if (renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    // Not all file systems support the flag.
+    return errno == EINVAL && link(from.constData(), to.constData()) == 0 &&
+           unlink(from.constData()) == 0;
 }
 } // namespace
 
@@ -80,10 +91,8 @@ ZobFilePlace::ZobFilePlace(const QString& path)
 
 ZobFilePlace::~ZobFilePlace()
 {
-    if (!m_status.isOk())
-        return;
-    QFile::remove(m_temporary);
-    removeLeftBeside(m_temporary);
+    if (m_status.isOk())
+        removeLeftFiles();
 }
 
 VkdStatus ZobFilePlace::prepare()
@@ -114,17 +123,19 @@ VkdStatus ZobFilePlace::lock()
     return isLocked ? VkdStatus() : m_locked->fail(code, ZobAction::TakeLock);
 }
 
+/// Removes temporary files of this process and of killed ones. The temporary file may itself be the
+/// path of another process, whose number comes last then.
 void ZobFilePlace::removeLeftFiles() const
 {
     const QFileInfo file(m_path);
     const QDir folder = file.absoluteDir();
-    const QRegularExpression name(QStringLiteral("\\A%1\\.%2-([0-9]+)\\.new(-journal)?\\z")
+    const QRegularExpression name(QStringLiteral("\\A%1(?:\\.%2-([0-9]+)\\.new)+(-journal)?\\z")
                                       .arg(QRegularExpression::escape(file.fileName()),
                                            QRegularExpression::escape(computer())));
     const QStringList entries = folder.entryList(QDir::Files);
     for (const QString& entry : entries)
         if (const auto match = name.match(entry);
-            match.hasMatch() && !isRunning(match.captured(1).toInt()))
+            match.hasMatch() && !isOtherRunning(match.captured(1).toInt()))
             QFile::remove(folder.filePath(entry));
 }
 
@@ -133,13 +144,15 @@ VkdStatus ZobFilePlace::commit()
     const QString folder = QFileInfo(m_path).absolutePath();
     if (m_replaces)
         QFile::setPermissions(m_temporary, QFile::permissions(m_path));
-    if (!sync(m_temporary, O_RDWR) || !removeLeftBeside(m_path))
-        return fail(VKD_ZOB_FAILED, qt_error_string());
-    sync(folder, O_DIRECTORY); // not supported by all file systems
-    if (!renameFile(m_temporary, m_path, m_replaces))
-        return fail(VKD_ZOB_READ_ONLY, qt_error_string());
-    sync(folder, O_DIRECTORY);
-    return {};
+    const bool isPlaced =
+        sync(m_temporary, O_RDWR) && removeLeftBeside(m_path) && syncFolder(folder) &&
+        renameFile(QFile::encodeName(m_temporary), QFile::encodeName(m_path), m_replaces) &&
+        syncFolder(folder);
+    if (isPlaced)
+        return {};
+    const int error = errno;
+    return fail(error == EEXIST ? int(VKD_ZOB_LOCKED) : statusOfSystemError(error),
+                qt_error_string(error));
 }
 
 VkdStatus ZobFilePlace::fail(int code, const QString& detail) const
