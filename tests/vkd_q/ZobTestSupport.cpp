@@ -1,5 +1,7 @@
 #include "ZobTestSupport.h"
 
+#include <sqlite3.h>
+
 namespace {
 QtMessageHandler before = nullptr;
 int lines = 0;
@@ -76,4 +78,13 @@ int openProject(const QString& path)
     int index = -1;
     vkd_zob_open(path.toUtf8().constData(), &index);
     return index;
+}
+
+void changeByOther(const QString& path, const char* change)
+{
+    sqlite3* connection = nullptr;
+    if (sqlite3_open(path.toUtf8(), &connection) != SQLITE_OK ||
+        sqlite3_exec(connection, change, nullptr, nullptr, nullptr) != SQLITE_OK)
+        qFatal("%s", sqlite3_errmsg(connection));
+    sqlite3_close(connection);
 }

@@ -28,6 +28,8 @@ int openProject(const QString& path);
 /// Create a project with these records under 1, 1, or read them; it is closed before and after.
 void makeProject(const QString& path, const Records& records);
 Records readProject(const QString& path);
+/// Changes the file by SQL, as another program could.
+void changeByOther(const QString& path, const char* change);
 
 namespace QTest {
 /// Makes a failing comparison print the numbers.

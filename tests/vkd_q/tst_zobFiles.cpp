@@ -1,4 +1,4 @@
-#include "FailingReads.h"
+#include "FaultyDisk.h"
 #include "ZobTestSupport.h"
 
 #include <ZobFilePlace.h>
@@ -17,15 +17,6 @@ static QByteArray patched(QByteArray bytes, int offset, const QByteArray& patch)
 class TestZobFiles : public QObject
 {
     Q_OBJECT
-
-    static void changeByOther(const QString& path, const char* change)
-    {
-        sqlite3* connection = nullptr;
-        if (sqlite3_open(path.toUtf8(), &connection) != SQLITE_OK ||
-            sqlite3_exec(connection, change, nullptr, nullptr, nullptr) != SQLITE_OK)
-            qFatal("%s", sqlite3_errmsg(connection));
-        sqlite3_close(connection);
-    }
 
     /// The project after a change by another program.
     QByteArray with(const char* change) const
@@ -124,39 +115,17 @@ private Q_SLOTS:
         }
     }
 
-    /// A read error is not reported as damage, whichever page it affects. A single one may go
-    /// unnoticed.
-    void failingReads()
-    {
-        FailingReads reads;
-        ZobLog log;
-        for (int times : {1, 1000000})
-            for (int offset = 0; offset < m_sound.size(); offset += 4096) {
-                reads.failAt(offset, times);
-                int index = -1;
-                const VkdStatus status = vkd_zob_open(m_path.toUtf8(), &index);
-                vkd_zob_close(index);
-                QVERIFY2((status.isOk() && times == 1) || status.code == VKD_ZOB_FAILED,
-                         qPrintable(status.reason));
-                QVERIFY2(status.isOk() ||
-                             status.reason.contains(QLatin1String("Input/output error")),
-                         qPrintable(status.reason));
-            }
-        reads.failAt(0, 0);
-        QVERIFY(readProject(m_path) == m_records);
-    }
-
     /// The check of all pages is a single instruction of SQLite.
     void cancelledDuringTheCheck()
     {
-        FailingReads reads;
-        reads.slowDown(10); // the pages together take much longer than the time between two calls
+        testsupport::FaultyDisk disk(m_folder.path());
+        disk.slowDown(10); // the pages together take much longer than the time between two calls
         int index = -1, calls = 0;
         const VkdGoOn onlyFirst = [&calls](int) { return ++calls == 1; };
         QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index, onlyFirst).code, VKD_ZOB_CANCELLED);
         QCOMPARE(index, -1);
         QCOMPARE(calls, 2);
-        reads.slowDown(0);
+        disk.slowDown(0);
         QVERIFY(testsupport::readFile(m_path) == m_sound);
         QVERIFY(readProject(m_path) == m_records);
     }
@@ -372,8 +341,10 @@ private Q_SLOTS:
             return own.left(own.lastIndexOf(QLatin1Char('-')) + 1) + QString::number(process) +
                    QLatin1String(".new");
         };
+        const QString killed = ofProcess(999999999);
         testsupport::writeFile(ofProcess(1), "of a running program");
-        testsupport::writeFile(ofProcess(999999999), "of a killed program");
+        for (const QString& left : {killed, killed + own.mid(path.size()), own})
+            testsupport::writeFile(left, "of a killed program");
         ZobFilePlace place(path);
         QVERIFY2(place.status().isOk(), qPrintable(place.status().reason));
         makeProject(place.temporaryPath(), {"new"});
@@ -393,7 +364,7 @@ private Q_SLOTS:
             ZobFilePlace place(path);
             makeProject(place.temporaryPath(), {"new"});
             testsupport::writeFile(path, m_sound); // another program was faster
-            QCOMPARE(log.once(place.commit().code), VKD_ZOB_READ_ONLY);
+            QCOMPARE(log.once(place.commit().code), VKD_ZOB_LOCKED);
         }
         QVERIFY(testsupport::readFile(path) == m_sound);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("p")));

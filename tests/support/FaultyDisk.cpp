@@ -1,0 +1,356 @@
+#undef _FORTIFY_SOURCE // it would define some of the replaced functions inline
+
+#include "FaultyDisk.h"
+
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QMap>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdarg>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <mutex>
+#include <random>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace testsupport {
+
+namespace {
+using Fault = FaultyDisk::Fault;
+enum class Call { Read, Write, Other }; // only Write needs room
+
+/// Writes the bytes, or truncates at the offset if they are null.
+struct Change
+{
+    qint64 offset;
+    QByteArray bytes;
+
+    void apply(QByteArray& content) const
+    {
+        const int end = int(offset) + bytes.size();
+        if (bytes.isNull())
+            content.truncate(end);
+        content.append(qMax(0, end - content.size()), '\0');
+        content.replace(int(offset), bytes.size(), bytes);
+    }
+};
+
+struct File
+{
+    QByteArray synced;
+    std::vector<Change> changes; // since then
+
+    /// Returns the content after the first changes; the last of them is torn.
+    QByteArray contentAfter(size_t count) const
+    {
+        QByteArray content = synced;
+        for (size_t i = 0; i < count; ++i) {
+            const Change& change = changes[i];
+            const bool isTorn = i + 1 == count && !change.bytes.isNull();
+            Change{change.offset,
+                   isTorn ? change.bytes.left(change.bytes.size() / 2) : change.bytes}
+                .apply(content);
+        }
+        return content;
+    }
+
+    void sync()
+    {
+        for (const Change& change : changes)
+            change.apply(synced);
+        changes.clear();
+    }
+};
+
+struct Disk
+{
+    using Names = QMap<QByteArray, size_t>; // of the files in the folder, and their numbers
+
+    QByteArray folder;
+    std::vector<File> files;
+    std::vector<Names> names{1}; // since the folder was synced, the current ones last
+    Fault fault = Fault::None;
+    int call = 0, calls = 0;
+    QByteArray failedCall;
+    std::chrono::milliseconds readTime{0};
+};
+std::unique_ptr<Disk> disk;
+std::recursive_mutex mutex; // the store checks a file in a thread of its own
+
+/// Returns the name in the folder, "." for the folder, and an empty name for any other file.
+QByteArray nameOf(const QByteArray& path)
+{
+    if (!disk || !path.startsWith(disk->folder))
+        return {};
+    return path == disk->folder ? QByteArray(".") : path.mid(disk->folder.size() + 1);
+}
+
+QByteArray nameOf(int descriptor)
+{
+    char path[4096];
+    const QByteArray link = "/proc/self/fd/" + QByteArray::number(descriptor);
+    const ssize_t length = disk ? readlink(link.constData(), path, sizeof path) : 0;
+    return length > 0 ? nameOf(QByteArray(path, int(length))) : QByteArray();
+}
+
+/// Counts the call, and sets errno if it fails.
+bool fails(Call call, const char* function, const QByteArray& name)
+{
+    ++disk->calls;
+    const bool isFirst = disk->failedCall.isEmpty();
+    if (disk->fault == Fault::None || disk->calls < disk->call ||
+        (disk->fault == Fault::Full && call != Call::Write) ||
+        (disk->fault == Fault::Once && !isFirst))
+        return false;
+    if (isFirst)
+        disk->failedCall = QByteArray(function) + ' ' + name;
+    errno = disk->fault == Fault::Full ? ENOSPC : EIO;
+    return true;
+}
+
+/// Returns null if the file was deleted while it was open.
+File* find(const QByteArray& name)
+{
+    const Disk::Names& names = disk->names.back();
+    return names.contains(name) ? &disk->files[names[name]] : nullptr;
+}
+
+void change(const QByteArray& name, const Change& change)
+{
+    if (File* file = find(name))
+        file->changes.push_back(change);
+}
+
+void sync(const QByteArray& name)
+{
+    if (name == ".")
+        disk->names = {disk->names.back()};
+    else if (File* file = find(name))
+        file->sync();
+}
+
+Disk::Names& changeNames()
+{
+    disk->names.push_back(disk->names.back());
+    return disk->names.back();
+}
+
+void create(const QByteArray& name, int flags)
+{
+    if (!find(name)) {
+        changeNames()[name] = disk->files.size();
+        disk->files.push_back({});
+    }
+    if (flags & O_TRUNC)
+        change(name, {0, QByteArray()});
+}
+
+/// Calls `next`, the function of the C library, unless the call fails; then `done` repeats its
+/// effect for the disk.
+template <typename Next, typename Done>
+auto run(Call call, const char* function, const QByteArray& name, const Next& next,
+         const Done& done)
+{
+    using Result = decltype(next());
+    if (!disk || name.isEmpty())
+        return next();
+    if (call == Call::Read)
+        std::this_thread::sleep_for(disk->readTime);
+    const std::lock_guard lock(mutex);
+    if (fails(call, function, name))
+        return Result(-1);
+    const Result result = next();
+    const int error = errno;
+    if (result >= 0)
+        done(result);
+    errno = error;
+    return result;
+}
+
+template <typename Next>
+ssize_t runRead(int file, const Next& next)
+{
+    return run(Call::Read, "read", nameOf(file), next, [](ssize_t) {});
+}
+
+template <typename Next>
+ssize_t runWrite(int file, const void* bytes, qint64 offset, const Next& next)
+{
+    const QByteArray name = nameOf(file);
+    return run(Call::Write, "write", name, next, [&](ssize_t length) {
+        change(name, {offset, QByteArray(static_cast<const char*>(bytes), int(length))});
+    });
+}
+
+template <typename Function>
+Function* original(Function*, const char* name)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+} // namespace
+
+FaultyDisk::FaultyDisk(const QString& folder, Fault fault, int call)
+{
+    auto state = std::make_unique<Disk>();
+    state->folder = QFile::encodeName(QFileInfo(folder).canonicalFilePath());
+    const QStringList names = QDir(folder).entryList(QDir::Files);
+    for (const QString& name : names) {
+        state->names[0][QFile::encodeName(name)] = state->files.size();
+        state->files.push_back({readFile(QDir(folder).filePath(name)), {}});
+    }
+    state->fault = fault;
+    state->call = call;
+    disk = std::move(state);
+}
+
+FaultyDisk::~FaultyDisk()
+{
+    disk.reset();
+}
+
+QByteArray FaultyDisk::failedCall() const
+{
+    return disk->failedCall;
+}
+
+void FaultyDisk::slowDown(int milliseconds)
+{
+    disk->readTime = std::chrono::milliseconds(milliseconds);
+}
+
+void FaultyDisk::restart()
+{
+    const auto before = std::exchange(disk, nullptr);
+    static std::mt19937 random;
+    const auto upTo = [&](size_t last) {
+        return before->fault == Fault::TornCut ? random() % (last + 1) : 0;
+    };
+    const QDir folder(QFile::decodeName(before->folder));
+    const Disk::Names& names = before->names[upTo(before->names.size() - 1)];
+    const QStringList present = folder.entryList(QDir::Files);
+    for (const QString& name : present)
+        QFile::remove(folder.filePath(name));
+    for (auto name = names.begin(); name != names.end(); ++name) {
+        const File& file = before->files[name.value()];
+        writeFile(folder.filePath(QFile::decodeName(name.key())),
+                  file.contentAfter(upTo(file.changes.size())));
+    }
+    disk = std::make_unique<Disk>(); // of no folder
+    disk->folder = "/dev/null";
+    disk->failedCall = before->failedCall;
+}
+
+} // namespace testsupport
+
+// The definitions in the program are also used by Qt and SQLite.
+using namespace testsupport;
+
+#pragma GCC visibility push(default)
+extern "C" {
+
+int open64(const char* path, int flags, ...)
+{
+    static const auto next = original(&open64, "open64");
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = flags & O_CREAT ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    const QByteArray name = flags & (O_CREAT | O_TRUNC) ? nameOf(QByteArray(path)) : QByteArray();
+    return run(
+        Call::Write, "create", name, [&] { return next(path, flags, mode); },
+        [&](int) { create(name, flags); });
+}
+
+int open(const char* path, int flags, ...)
+{
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = flags & O_CREAT ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    return open64(path, flags, mode);
+}
+
+ssize_t read(int file, void* bytes, size_t length)
+{
+    static const auto next = original(&read, "read");
+    return runRead(file, [&] { return next(file, bytes, length); });
+}
+
+ssize_t pread64(int file, void* bytes, size_t length, off64_t offset)
+{
+    static const auto next = original(&pread64, "pread64");
+    return runRead(file, [&] { return next(file, bytes, length, offset); });
+}
+
+ssize_t write(int file, const void* bytes, size_t length)
+{
+    static const auto next = original(&write, "write");
+    const off64_t offset = disk ? lseek64(file, 0, SEEK_CUR) : 0;
+    return runWrite(file, bytes, offset, [&] { return next(file, bytes, length); });
+}
+
+ssize_t pwrite64(int file, const void* bytes, size_t length, off64_t offset)
+{
+    static const auto next = original(&pwrite64, "pwrite64");
+    return runWrite(file, bytes, offset, [&] { return next(file, bytes, length, offset); });
+}
+
+int ftruncate64(int file, off64_t length) noexcept
+{
+    static const auto next = original(&ftruncate64, "ftruncate64");
+    const QByteArray name = nameOf(file);
+    return run(
+        Call::Other, "truncate", name, [&] { return next(file, length); },
+        [&](int) {
+            change(name, {length, QByteArray()});
+        });
+}
+
+int fsync(int file)
+{
+    static const auto next = original(&fsync, "fsync");
+    const QByteArray name = nameOf(file);
+    // The tests would take ten times as long if the files were synced.
+    return run(
+        Call::Other, "sync", name, [&] { return name.isEmpty() ? next(file) : 0; },
+        [&](int) { sync(name); });
+}
+
+int fdatasync(int file)
+{
+    return fsync(file);
+}
+
+int unlink(const char* path) noexcept
+{
+    static const auto next = original(&unlink, "unlink");
+    const QByteArray name = nameOf(QByteArray(path));
+    return run(
+        Call::Other, "remove", name, [&] { return next(path); },
+        [&](int) { changeNames().remove(name); });
+}
+
+int renameat2(int folder, const char* from, int newFolder, const char* to, unsigned flags) noexcept
+{
+    static const auto next = original(&renameat2, "renameat2");
+    const QByteArray name = nameOf(QByteArray(from));
+    return run(
+        Call::Other, "rename", name, [&] { return next(folder, from, newFolder, to, flags); },
+        [&](int) {
+            Disk::Names& names = changeNames();
+            names[nameOf(QByteArray(to))] = names.take(name);
+        });
+}
+
+int rename(const char* from, const char* to) noexcept
+{
+    return renameat2(AT_FDCWD, from, AT_FDCWD, to, 0);
+}
+
+} // extern "C"
+#pragma GCC visibility pop

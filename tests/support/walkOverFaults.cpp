@@ -1,0 +1,152 @@
+#include "walkOverFaults.h"
+
+#include "FaultyDisk.h"
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QMap>
+
+#include <algorithm>
+
+namespace testsupport {
+
+namespace {
+using Fault = FaultyDisk::Fault;
+using Files = QMap<QString, QByteArray>;
+
+Files filesIn(const QString& folder)
+{
+    Files files;
+    const QStringList names = QDir(folder).entryList(QDir::Files);
+    for (const QString& name : names)
+        files[name] = readFile(QDir(folder).filePath(name));
+    return files;
+}
+
+void setFiles(const QString& folder, const Files& files)
+{
+    const QStringList names = QDir(folder).entryList(QDir::Files);
+    for (const QString& name : names)
+        QFile::remove(QDir(folder).filePath(name));
+    for (auto file = files.begin(); file != files.end(); ++file)
+        writeFile(QDir(folder).filePath(file.key()), file.value());
+}
+
+class Walk
+{
+    // Defined first, because its type is deduced.
+    /// Calls the function faster, because nothing is really synced.
+    template <typename Function>
+    auto onSoundDisk(const Function& function) const
+    {
+        const FaultyDisk disk(m_folder);
+        return function();
+    }
+
+public:
+    Walk(const QString& folder, const Operation& operation)
+        : m_folder(folder)
+        , m_operation(operation)
+        , m_filesBefore(filesIn(folder))
+        , m_old(onSoundDisk(operation.state))
+        , m_reason(onSoundDisk(operation.run))
+        , m_new(onSoundDisk(operation.state))
+        , m_namesAfter(filesIn(folder).keys())
+    {
+        expect(m_reason.isEmpty(), "it fails on a sound disk");
+    }
+
+    /// Returns the number of calls at which the disk failed.
+    int walk(Fault fault)
+    {
+        int failures = 0;
+        for (int call = 1; runWith(fault, call); call += m_operation.stride) {
+            checkResult(fault);
+            checkRepetition();
+            ++failures;
+        }
+        checkResult(fault);
+        return failures;
+    }
+    const QStringList& problems() const { return m_problems; }
+
+private:
+    /// Returns false if the operation has fewer calls.
+    bool runWith(Fault fault, int call)
+    {
+        setFiles(m_folder, m_filesBefore);
+        FaultyDisk disk(m_folder, fault, call);
+        m_reason = m_operation.run();
+        m_failedCall = disk.failedCall();
+        m_place = QStringLiteral("fault %1 at call %2, ").arg(int(fault)).arg(call) +
+                  QString::fromUtf8(m_failedCall);
+        if (m_reason.isEmpty() || isCut(fault))
+            disk.restart();
+        return !m_failedCall.isEmpty();
+    }
+
+    void checkResult(Fault fault)
+    {
+        m_state = onSoundDisk(m_operation.state); // which plays back a journal
+        const QStringList left = filesIn(m_folder).keys();
+        expect(m_state == m_old || m_state == m_new, "neither the old state nor the new one");
+        if (m_reason.isEmpty())
+            return expect(m_state == m_new, "success, but the new state is not stored");
+        const QLatin1String cause(fault == Fault::Full ? "No space left" : "Input/output error");
+        expect(m_reason.contains(cause), "the system's reason is missing");
+        // It is not known then whether the change would survive a power cut.
+        const bool isInDoubt = isCut(fault) || m_failedCall == "sync .";
+        expect(isInDoubt || m_state == m_old, "failure, but the new state is stored");
+        expect(
+            fault != Fault::Once || isInDoubt || m_failedCall.startsWith("remove") ||
+                std::all_of(left.begin(), left.end(),
+                            [this](const QString& file) { return m_filesBefore.contains(file); }),
+            "a failure leaves files");
+    }
+
+    void checkRepetition()
+    {
+        if (m_state == m_new && m_new != m_old)
+            return;
+        m_reason = onSoundDisk(m_operation.run);
+        expect(m_reason.isEmpty(), "repeating it fails");
+        expect(onSoundDisk(m_operation.state) == m_new, "repeating it stores another state");
+        expect(filesIn(m_folder).keys() == m_namesAfter, "repeating it leaves files");
+    }
+
+    static bool isCut(Fault fault) { return fault == Fault::PowerCut || fault == Fault::TornCut; }
+
+    void expect(bool condition, const char* problem)
+    {
+        if (!condition)
+            m_problems << QStringLiteral("\n%1: %2; %3; files: %4")
+                              .arg(m_place, QLatin1String(problem), m_reason,
+                                   filesIn(m_folder).keys().join(QLatin1Char(' ')));
+    }
+
+    const QString m_folder;
+    const Operation m_operation;
+    const Files m_filesBefore;
+    const QByteArray m_old;
+    QString m_reason;
+    const QByteArray m_new;
+    const QStringList m_namesAfter;
+    QByteArray m_failedCall, m_state;
+    QString m_place;
+    QStringList m_problems;
+};
+} // namespace
+
+void walkOverFaults(const QString& folder, const Operation& operation)
+{
+    Walk walk(folder, operation);
+    QString failures;
+    for (const Fault fault : {Fault::Once, Fault::ForGood, Fault::Full, Fault::PowerCut,
+                              Fault::TornCut, Fault::TornCut})
+        failures += QLatin1Char(' ') + QString::number(walk.walk(fault));
+    qInfo("failures:%s", qPrintable(failures));
+    const QStringList problems = walk.problems();
+    QVERIFY2(problems.isEmpty(), qPrintable(QStringList(problems.mid(0, 20)).join(QString())));
+}
+
+} // namespace testsupport

@@ -1,0 +1,154 @@
+#include "FaultyDisk.h"
+#include "walkOverFaults.h"
+#include "ZobTestSupport.h"
+
+#include <ZobFilePlace.h>
+
+#include <QTemporaryDir>
+
+using Run = std::function<VkdStatus(const QString& path)>;
+Q_DECLARE_METATYPE(Run)
+
+namespace {
+/// Opens a project, puts records and closes it.
+VkdStatus change(const QString& path, const Records& records)
+{
+    int index = -1;
+    const VkdStatus opened = vkd_zob_open(path.toUtf8(), &index);
+    if (!opened.isOk())
+        return opened;
+    vkd_zob_lock_ex(index, 1, 1);
+    put(index, 1, 1, QByteArray(), 0);
+    for (const QByteArray& record : records)
+        put(index, 1, 1, record, 1);
+    vkd_zob_free_ex(index, 1, 1);
+    const VkdStatus status = vkd_zob_change_status(index);
+    vkd_zob_close(index);
+    return status;
+}
+
+VkdStatus putFirst(const QString& path)
+{
+    int index = -1;
+    VkdStatus status = vkd_zob_open(path.toUtf8(), &index);
+    if (status.isOk() && put(index, 1, 1, "new", 0) != VKD_ZOB_OK)
+        status = vkd_zob_last_failure(index);
+    vkd_zob_close(index);
+    return status;
+}
+
+VkdStatus read(const QString& path)
+{
+    int index = -1;
+    VkdStatus status = vkd_zob_open(path.toUtf8(), &index);
+    cd_error_t end = VKD_ZOB_END;
+    if (status.isOk())
+        readAll(index, 1, &end);
+    if (end != VKD_ZOB_END)
+        status = vkd_zob_last_failure(index);
+    vkd_zob_close(index);
+    return status;
+}
+
+VkdStatus place(const QString& path)
+{
+    ZobFilePlace place(path);
+    if (!place.status().isOk())
+        return place.status();
+    int index = -1;
+    VkdStatus status = vkd_zob_create(place.temporaryPath().toUtf8(), &index);
+    if (status.isOk() && put(index, 1, 1, "new", 0) != VKD_ZOB_OK)
+        status = vkd_zob_last_failure(index);
+    vkd_zob_close(index);
+    return status.isOk() ? place.commit() : status;
+}
+
+/// Returns the records; a text that is no record if they cannot be read.
+QByteArray state(const QString& path)
+{
+    if (!QFile::exists(path))
+        return "no file";
+    int index = -1;
+    if (!vkd_zob_open(path.toUtf8(), &index).isOk())
+        return "unreadable";
+    cd_error_t end = VKD_ZOB_OK;
+    const Records records = readAll(index, 1, &end);
+    vkd_zob_close(index);
+    return end == VKD_ZOB_END ? records.join('|') : "incomplete";
+}
+} // namespace
+
+/// Tests operations on project files while the disk fails or the power is cut.
+class TestZobFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void walk_data()
+    {
+        // before: the file at the path
+        const Columns<QByteArray, Run, int> row("before", "run", "stride");
+        const Run few = [](const QString& path) { return change(path, {"a", "b", ""}); };
+        const Run many = [](const QString& path) {
+            return change(path,
+                          Records::fromVector(QVector<QByteArray>(3, QByteArray(1000000, 'x'))));
+        };
+        row("read", "project", read, 1);
+        row("read after a crash", "crashed", read, 1);
+        row("change", "project", few, 1);
+        row("change after a crash", "crashed", few, 1);
+        row("change of more than the cache", "project", many, 67);
+        row("single record", "project", putFirst, 1);
+        row("upgrade", "version 1", putFirst, 1);
+        row("new file", "-", place, 1);
+        row("replaced file", "project", place, 1);
+        row("replaced file after a crash", "crashed", place, 1);
+    }
+
+    void walk()
+    {
+        QFETCH(const QByteArray, before);
+        QFETCH(const Run, run);
+        QFETCH(const int, stride);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        ZobLog log;
+        prepare(path, before);
+        testsupport::walkOverFaults(
+            folder.path(), {[&] { return run(path).reason; }, [&] { return state(path); }, stride});
+    }
+
+private:
+    static void prepare(const QString& path, const QByteArray& kind)
+    {
+        if (kind == "-")
+            return;
+        Records records;
+        for (int i = 0; i < 30; ++i)
+            records << QByteArray::number(i).repeated(100);
+        makeProject(path, records);
+        if (kind == "version 1")
+            changeByOther(path, "UPDATE record SET data = substr(data, 1, length(data) - 8);"
+                                "PRAGMA user_version = 1");
+        if (kind == "crashed")
+            leaveHalfWritten(path);
+    }
+
+    /// Cuts the power after the change is written and before its journal is removed.
+    static void leaveHalfWritten(const QString& path)
+    {
+        const QByteArray before = testsupport::readFile(path);
+        const QString journal = path + QLatin1String("-journal");
+        for (int call = 1; testsupport::readFile(path) == before; ++call) {
+            QFile::remove(journal); // of the last attempt
+            testsupport::FaultyDisk disk(QFileInfo(path).path(),
+                                         testsupport::FaultyDisk::Fault::PowerCut, call);
+            change(path, {"half", "written"});
+            disk.restart();
+        }
+        QVERIFY(QFile::exists(journal));
+    }
+};
+
+PLIB_TEST_MAIN(TestZobFaults)
+#include "tst_zobFaults.moc"
