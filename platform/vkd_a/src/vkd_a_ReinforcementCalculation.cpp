@@ -1,6 +1,6 @@
 #include "vkd_a_ReinforcementCalculation.h"
 
-#include "ReinforcementDialog.h"
+#include "calculator/ReinforcementDialog.h"
 
 #include <QPointer>
 

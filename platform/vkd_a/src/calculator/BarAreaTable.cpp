@@ -1,4 +1,4 @@
-#include "BarAreaTable.h"
+#include "calculator/BarAreaTable.h"
 
 #include "vkd_a_barArea.h"
 #include "VKD_A_BarDiameterData.h"

@@ -1,6 +1,6 @@
-#include "ReinforcementDialog.h"
+#include "calculator/ReinforcementDialog.h"
 
-#include "BarAreaTable.h"
+#include "calculator/BarAreaTable.h"
 #include "VKD_A_BarDiameterCombo.h"
 
 #include <VKD_H_LineEdit.h>
