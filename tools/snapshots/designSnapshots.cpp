@@ -9,8 +9,10 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTabWidget>
 
 namespace workbench {
 
@@ -99,9 +101,15 @@ void addCalculator(SnapshotAlbum& album, DesignHost& host)
 {
     host.select(3);
     const auto openCalculator = [&album](QWidget* dialog) {
-        album.addModal(QStringLiteral("calculator"), [dialog] {
-            dialog->findChild<QPushButton*>(QStringLiteral("Calc"))->click();
-        });
+        album.addModal(
+            QStringLiteral("calculator"),
+            [dialog] { dialog->findChild<QPushButton*>(QStringLiteral("Calc"))->click(); },
+            [&album](QWidget* calculator) {
+                calculator->findChild<QTabWidget*>()->setCurrentIndex(1);
+                calculator->findChild<QLineEdit*>(QStringLiteral("depth"))
+                    ->setText(QStringLiteral("200"));
+                album.add(QStringLiteral("calculator-minimum"), calculator);
+            });
     };
     album.addModal(
         QStringLiteral("design-reinforcement"), [&host] { host.press(Qt::Key_F2); },

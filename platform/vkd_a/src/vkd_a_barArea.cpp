@@ -8,6 +8,7 @@ constexpr double Pi = 3.14159265358979323846;
 constexpr double MillimetresPerMetre = 1000.0;
 constexpr double SquareMillimetresPerSquareCentimetre = 100.0;
 constexpr double LeastClearDistance = 20.0;            // mm
+constexpr double AggregateAllowance = 5.0;             // mm
 constexpr double LeastArea = 1e-3, GreatestArea = 1e6; // cm²/m
 constexpr double LeastRoundedArea = 0.1;               // cm²/m
 
@@ -23,7 +24,7 @@ VkdBarFault vkd_a_barFault(const VkdBarLayout& layout)
         return VkdBarFault::NoDiameter;
     if (!(layout.spacing > 0))
         return VkdBarFault::NoSpacing;
-    if (!(layout.spacing * MillimetresPerMetre > layout.diameter))
+    if (!(vkd_a_clearDistance(layout) > 0))
         return VkdBarFault::Overlap;
     const double area = vkd_a_barArea(layout);
     const bool isInRange = area >= LeastArea && area <= GreatestArea;
@@ -36,22 +37,31 @@ double vkd_a_barArea(const VkdBarLayout& layout)
     return layout.barsPerPlace * bar / layout.spacing / SquareMillimetresPerSquareCentimetre;
 }
 
-double vkd_a_roundedBarArea(const VkdBarLayout& layout)
+double vkd_a_roundedArea(double area)
 {
-    const double area = vkd_a_barArea(layout);
     return area < LeastRoundedArea ? area : hundredths(area) / 100.0;
 }
 
 double vkd_a_barSpacing(double area, double diameter, int barsPerPlace)
 {
-    const double spacing = vkd_a_barArea({diameter, 1.0, barsPerPlace}) / area;
-    const double whole = std::round(spacing * MillimetresPerMetre) / MillimetresPerMetre;
+    const double spacing =
+        vkd_a_barArea({diameter, 1.0, barsPerPlace}) / area * MillimetresPerMetre;
+    const double whole = std::round(spacing);
     const bool isSame =
-        whole > 0 && hundredths(vkd_a_barArea({diameter, whole, barsPerPlace})) == hundredths(area);
-    return isSame ? whole : spacing;
+        whole > 0 &&
+        hundredths(vkd_a_barArea({diameter, whole / MillimetresPerMetre, barsPerPlace})) ==
+            hundredths(area);
+    const double tenths = std::max(std::round(spacing * 10.0), 1.0) / 10.0;
+    return (isSame ? whole : tenths) / MillimetresPerMetre;
 }
 
-double vkd_a_leastClearDistance(const VkdBarLayout& layout)
+double vkd_a_clearDistance(const VkdBarLayout& layout)
 {
-    return std::max(LeastClearDistance, layout.diameter * std::sqrt(double(layout.barsPerPlace)));
+    return layout.spacing * MillimetresPerMetre - layout.barsPerPlace * layout.diameter;
+}
+
+double vkd_a_leastClearDistance(const VkdBarLayout& layout, double aggregate)
+{
+    const double bundle = layout.diameter * std::sqrt(double(layout.barsPerPlace));
+    return std::max({LeastClearDistance, aggregate + AggregateAllowance, bundle});
 }

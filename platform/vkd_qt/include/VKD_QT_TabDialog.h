@@ -22,6 +22,9 @@ public:
 
     QTabWidget* tabWidget() const;
 
+protected:
+    VKD_QT_Ok* buttons() const { return m_ok; }
+
 Q_SIGNALS:
     /// Emitted when another page is shown; for the first page, when the dialog is shown first.
     void currentChanged(QWidget* page);

@@ -1,59 +1,48 @@
 #pragma once
 
-#include "vkd_a_barArea.h"
+#include "calculator/AreaPanel.h"
 
-#include <VKD_QT_Dialog.h>
+#include <VKD_QT_TabDialog.h>
 #include <ZobHandle.h>
 
-class BarAreaTable;
-class QGridLayout;
-class VKD_A_BarDiameterCombo;
-class VKD_H_LineEdit;
-class VKD_QT4_ComboBox;
+class VKD_QT_CheckBox;
 class VKD_QT_GroupBox;
 class VKD_QT_Label;
-class VKD_QT_Ok;
 
-/// The dialog that calculates the reinforcement of an area element from bars and spacing, with a
-/// table of common layouts. The user enters either the spacing or the number per metre; the dialog
-/// updates the other field.
-class ReinforcementDialog : public VKD_QT_Dialog
+/// The dialog that calculates the reinforcement of an area element: from bars and welded fabric, or
+/// as the minimum of a slab. Each way is a page; the current page gives the result.
+class ReinforcementDialog : public VKD_QT_TabDialog
 {
     Q_OBJECT
 
 public:
-    /// Takes the arguments of vkd_a_ReinforcementCalculation().
-    ReinforcementDialog(QWidget* parent, ZobHandle project, float value, float barDiameter);
+    /// Takes the arguments of vkd_a_ReinforcementCalculation(). With `offersDiameter`, the user can
+    /// take over the bar diameter besides the area.
+    ReinforcementDialog(QWidget* parent, ZobHandle project, float value, float barDiameter,
+                        bool offersDiameter);
 
-    /// Returns the area of the current bars in cm²/m. While they are the initial ones, returns the
-    /// present value instead, since rounding must not change a value that the user left alone.
+    /// Returns the area of the current page in cm²/m. While its entries are the initial ones,
+    /// returns the present value instead, since rounding must not change a value that the user left
+    /// alone.
     float area() const;
 
+    /// Returns the diameter in mm that the user takes over, or else the one at the beginning.
+    float barDiameter() const;
+
 private:
-    VKD_QT_GroupBox* makeInput(ZobHandle project);
-    VKD_QT_GroupBox* makeTable();
     VKD_QT_GroupBox* makeResult();
     void connectAll();
-    void begin(float barDiameter);
 
-    VkdBarLayout layoutOfBars() const;
-    void showSpacing(double spacing);
-    void showNumber();
-    void takeNumber();
-    void takeCell(float diameter, double spacing);
+    AreaPanel* page() const;
+    bool canTakeDiameter(const AreaResult& result) const;
     void showResult();
-    QString faultText(const VkdBarLayout& layout) const;
-    QString presentText(const VkdBarLayout& layout) const;
+    QString presentText(const AreaResult& result) const;
 
     float m_value;
-    VkdBarLayout m_begin{};
-    VKD_A_BarDiameterCombo* m_diameter = nullptr;
-    VKD_QT4_ComboBox* m_arrangement = nullptr;
-    VKD_H_LineEdit* m_spacing = nullptr;
-    VKD_H_LineEdit* m_number = nullptr;
-    BarAreaTable* m_table = nullptr;
+    float m_barDiameter;
+    bool m_offersDiameter;
     VKD_QT_Label* m_area = nullptr;
     VKD_QT_Label* m_present = nullptr;
     VKD_QT_Label* m_note = nullptr;
-    VKD_QT_Ok* m_buttons;
+    VKD_QT_CheckBox* m_takesDiameter = nullptr;
 };

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "vkd_a_export.h"
+
+/// Returns the mean axial tensile strength fctm in N/mm² of concrete with the characteristic
+/// cylinder strength fck in N/mm², 12 to 90, EN 1992-1-1, Table 3.1.
+VKD_A_EXPORT double vkd_a_meanTensileStrength(double fck);
+
+/// The minimum longitudinal reinforcement of a slab per metre of width, EN 1992-1-1, 9.2.1.1 (1)
+/// and 9.3.1.1 (1), with the recommended values. National annexes may differ. Areas are in cm²/m.
+struct VkdMinimumReinforcement
+{
+    double ofTension; ///< 0.26 fctm / fyk * d
+    double ofSection; ///< 0.0013 d
+
+    double area() const { return ofTension > ofSection ? ofTension : ofSection; }
+};
+
+/// Returns the minimum for the effective depth in m, and for fctm and the yield strength fyk of the
+/// steel in N/mm².
+VKD_A_EXPORT VkdMinimumReinforcement vkd_a_minimumReinforcement(double depth, double fctm,
+                                                                double fyk);
