@@ -11,6 +11,7 @@
 #include <VKD_QT_Ok.h>
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
@@ -236,15 +237,19 @@ private Q_SLOTS:
         }
         dialog->writeToRecord(&after);
         QCOMPARE(changes(before, after), QStringLiteral("amoi!"));
-        whenModal([](QWidget* calculator) {
-            auto bar = calculator->findChild<VKD_A_BarDiameterCombo*>();
-            QCOMPARE(bar->getCurrent(), 20.0F);
-            bar->setCurrentIndex(bar->currentIndex() + 1);
-            Q_EMIT bar->activated(bar->currentIndex());
-            qobject_cast<QDialog*>(calculator)->accept();
-        });
-        dialog->findChild<VKD_A_BarDiameterCombo*>(QStringLiteral("m_pDIUQ"))->setCurrent(20);
-        QMetaObject::invokeMethod(dialog.get(), "calcMaxUQ");
+        auto diameter = dialog->findChild<VKD_A_BarDiameterCombo*>(QStringLiteral("m_pDIUQ"));
+        diameter->setCurrent(20);
+        for (bool isTaken : {false, true}) {
+            whenModal([isTaken](QWidget* calculator) {
+                auto bar = calculator->findChild<VKD_A_BarDiameterCombo*>();
+                QCOMPARE(bar->getCurrent(), 20.0F);
+                bar->setCurrentIndex(bar->currentIndex() + 1);
+                find<QCheckBox>(*calculator, "takesDiameter")->setChecked(isTaken);
+                qobject_cast<QDialog*>(calculator)->accept();
+            });
+            QMetaObject::invokeMethod(dialog.get(), "calcMaxUQ");
+            QCOMPARE(diameter->getCurrent(), isTaken ? 25.0F : 20.0F);
+        }
         after = before;
         dialog->writeToRecord(&after);
         QCOMPARE(changes(before, after), QStringLiteral("diuq! amoi! amuq!"));

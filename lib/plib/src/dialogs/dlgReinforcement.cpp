@@ -21,6 +21,8 @@ using R = tagZOB_QUAD_RIM;
 constexpr int ReinforcementCode = 1021;
 constexpr int CalculationMode = 1; // for both minimum and maximum
 constexpr int LayersOfASide = 3;
+/// The calculation changes this property if the user takes its bar diameter over.
+constexpr char DiameterProperty[] = "barDiameter";
 
 struct PairOfLimits
 {
@@ -227,9 +229,13 @@ void dlgReinforcement::calculate(Combo combo, Edit edit)
     if (!(this->*combo) || !(this->*edit))
         return;
     float value = plib::readValue(this->*edit);
-    vkd_a_ReinforcementCalculation(this, zobIndex, CalculationMode, value,
-                                   (this->*combo)->getCurrent());
+    const float diameter = (this->*combo)->getCurrent();
+    setProperty(DiameterProperty, diameter);
+    vkd_a_ReinforcementCalculation(this, zobIndex, CalculationMode, value, diameter);
     (this->*edit)->setVal(double(value));
+    const float chosen = property(DiameterProperty).toFloat();
+    if (chosen != diameter)
+        (this->*combo)->setCurrent(chosen);
 }
 
 void dlgReinforcement::calcO()
