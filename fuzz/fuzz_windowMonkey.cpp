@@ -199,12 +199,14 @@ private:
         const QWidgetList all = windows();
         QWidget* place = monkey.below(3) ? &window : all[monkey.below(all.size())];
         QApplication::setActiveWindow(place);
+        const bool isPopupOpen = QApplication::activePopupWidget(); // it takes a user's keys
         m_watch.begin();
         if (monkey.below(60) == 0)
             monkey.close(place);
         else
             monkey.step(place);
-        if (project.isEmpty() && monkey.triggered() && !monkey.triggered()->actionGroup()) {
+        if (project.isEmpty() && !isPopupOpen && monkey.triggered() &&
+            !monkey.triggered()->actionGroup()) {
             const QByteArray text = monkey.triggered()->text().toUtf8();
             QApplication::processEvents(); // windows are activated by the system
             if (!m_watch.wasSeen)
