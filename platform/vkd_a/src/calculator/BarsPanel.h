@@ -4,6 +4,7 @@
 #include "vkd_a_barArea.h"
 
 #include <ZobHandle.h>
+
 #include <QVector>
 
 class BarAreaTable;

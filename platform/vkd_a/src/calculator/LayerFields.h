@@ -3,6 +3,7 @@
 #include "vkd_a_barArea.h"
 
 #include <ZobHandle.h>
+
 #include <QObject>
 
 class QGridLayout;
