@@ -161,8 +161,9 @@ QString MinimumPanel::formulas() const
 QString MinimumPanel::strengthFormula() const
 {
     const int fck = m_concrete->getCurrentId();
-    const QString formula = fck <= 50 ? QStringLiteral("0.30 · f<sub>ck</sub><sup>2/3</sup>")
-                                      : QStringLiteral("2.12 · ln (1 + (f<sub>ck</sub> + 8) / 10)");
+    const QString formula =
+        fck <= 50 ? number(0.30, 2) + QStringLiteral(" · f<sub>ck</sub><sup>2/3</sup>")
+                  : number(2.12, 2) + QStringLiteral(" · ln (1 + (f<sub>ck</sub> + 8) / 10)");
     return QStringLiteral("<p>f<sub>ctm</sub> = %1 = <b>%2 N/mm²</b> (f<sub>ck</sub> = %3 N/mm²)"
                           "<br>%4</p>")
         .arg(formula, number(vkd_a_meanTensileStrength(fck), 2), QString::number(fck),
