@@ -63,9 +63,9 @@ private Q_SLOTS:
 "areas": [[1, 1, 2, 7]] => areas[0][3]: point 7 does not exist
 "loadCases": [{"number":1, "title":"", "kind":3}] => loadCases[0].kind: a kind of 1 or 2 is needed
 [] => an object is needed
-{"title": "t", "kindOfSystem": 0, "groups": []} => the key "nodes" is missing
 )");
         const QList<QPair<const char*, const char*>> inside{
+            {R"({"title": "t", "kindOfSystem": 0, "groups": []})", R"(the key "nodes" is missing)"},
             {R"("axes": [{"number": 1, "title": "t", "points": [[0, 0, 0], [1, 0]]}])",
              "axes[0].points[1]: 3 values are needed"},
             {R"("secondaryGroups": [{"name": "A", "title": "t", "quads": [8]}])",
