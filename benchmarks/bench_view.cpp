@@ -1,5 +1,6 @@
 // The view of a model while it is rotated, and at rest.
 
+#include "memory.h"
 #include "RatioReporter.h"
 
 #include <AnimatorView.h>
@@ -16,85 +17,146 @@
 
 namespace {
 
-constexpr int Side = 100; // quads along each side, 10 000 in all
-constexpr int Width = 800;
-constexpr int Height = 600;
+constexpr int Few = 10000; // quads, shown in a small view
+constexpr QSize SmallSize(800, 600);
+constexpr QSize LargeSize(1280, 800);
+constexpr double Extent = 100.0; // metres
+
+/// Returns the number of quads along each side.
+int sideOf(const benchmark::State& state)
+{
+    return int(std::sqrt(double(state.range(0))));
+}
+
+QSize sizeOf(const benchmark::State& state)
+{
+    return state.range(0) > Few ? LargeSize : SmallSize;
+}
 
 /// Returns the height of a wavy shell. It hides parts of itself and has many shades, as a real
 /// model does.
-double heightAt(int column, int row)
+double heightAt(double x, double y)
 {
-    return 8.0 * std::sin(column * 0.13) * std::cos(row * 0.11);
+    return 8.0 * std::sin(x * 0.13) * std::cos(y * 0.11);
 }
 
-vkd::dbo::Model shell()
+vkd::dbo::Model shell(int side)
 {
     vkd::dbo::Model model;
-    const auto node = [](int column, int row) { return row * (Side + 1) + column + 1; };
-    for (int row = 0; row <= Side; ++row)
-        for (int column = 0; column <= Side; ++column)
-            model.nodes.push_back(
-                {node(column, row), {double(column), double(row), heightAt(column, row)}});
-    for (int row = 0; row < Side; ++row)
-        for (int column = 0; column < Side; ++column)
-            model.quads.push_back({row * Side + column + 1,
-                                   1 + row / 25,
+    const auto node = [side](int column, int row) { return row * (side + 1) + column + 1; };
+    for (int row = 0; row <= side; ++row)
+        for (int column = 0; column <= side; ++column) {
+            const double x = column * Extent / side;
+            const double y = row * Extent / side;
+            model.nodes.push_back({node(column, row), {x, y, heightAt(x, y)}});
+        }
+    for (int row = 0; row < side; ++row)
+        for (int column = 0; column < side; ++column)
+            model.quads.push_back({row * side + column + 1,
+                                   1 + 4 * row / side,
                                    {node(column, row), node(column + 1, row),
                                     node(column + 1, row + 1), node(column, row + 1)},
                                    0.2});
     return model;
 }
 
+/// Returns a project with a shell. The last one is kept for the next run.
+ZobHandle projectOf(int side)
+{
+    static int known = 0;
+    static std::unique_ptr<QTemporaryDir> folder;
+    static std::unique_ptr<VKD_H_ZOBDoc> doc;
+    if (known != side) {
+        doc.reset();
+        folder = std::make_unique<QTemporaryDir>();
+        doc = VKD_H_ZOBDoc::create(folder->filePath(QStringLiteral("p.zob")));
+        vkd::dbo::storeModel(doc->handle(), shell(side));
+        known = side;
+    }
+    return doc->handle();
+}
+
 class ShownShell
 {
 public:
-    ShownShell()
-        : m_doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.zob"))))
-        , view((vkd::dbo::storeModel(m_doc->handle(), shell()), m_doc->handle()))
+    explicit ShownShell(const benchmark::State& state)
+        : view(projectOf(sideOf(state)))
+        , image(sizeOf(state), QImage::Format_ARGB32_Premultiplied)
     {
-        view.resize(Width, Height);
+        view.resize(image.size());
         view.slotViewControl(AnimatorStandardView, 0.0);
     }
 
-private:
-    QTemporaryDir m_folder;
-    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
+    void turn()
+    {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &key);
+        view.render(&image);
+    }
 
-public:
     AnimatorView view;
-    QImage image{Width, Height, QImage::Format_ARGB32_Premultiplied};
+    QImage image;
 };
 
 void turnView(benchmark::State& state)
 {
-    ShownShell shown;
+    ShownShell shown(state);
+    shown.turn(); // the first frame reserves memory
+    for (auto _ : state)
+        shown.turn();
+}
+
+/// Paints the high-quality picture of a view at rest, in as many steps as the view needs.
+void restView(benchmark::State& state)
+{
+    ShownShell shown(state);
     for (auto _ : state) {
-        QKeyEvent key(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
-        QCoreApplication::sendEvent(&shown.view, &key);
+        shown.view.slotViewControl(AnimatorStandardView, 0.0);
+        shown.view.render(&shown.image);
+        while (!shown.view.isPictureComplete())
+            QApplication::processEvents();
         shown.view.render(&shown.image);
     }
 }
 
-/// Paints the high-quality picture of a view at rest.
-void restView(benchmark::State& state)
+/// Compares the memory of a view, after it was turned, with that of the model itself.
+void memoryOfView(benchmark::State& state)
 {
-    ShownShell shown;
-    for (auto _ : state)
-        shown.view.render(&shown.image);
+    projectOf(sideOf(state));
+    for (auto _ : state) {
+        const double before = heapInUse();
+        ShownShell shown(state);
+        shown.turn();
+        state.counters["bytes"] = heapInUse() - before;
+    }
+}
+
+void memoryOfModel(benchmark::State& state)
+{
+    const ZobHandle project = projectOf(sideOf(state));
+    for (auto _ : state) {
+        const double before = heapInUse();
+        const vkd::dbo::Model model = vkd::dbo::readModel(project);
+        state.counters["bytes"] = heapInUse() - before;
+    }
 }
 
 /// Returns the points of the shell in the standard view, rotated by this angle.
-std::vector<QPointF> projected(double angle)
+std::vector<QPointF> projected(double angle, int side, const QSize& size)
 {
+    const double scale = size.height() / 88.0; // as in the view
     std::vector<QPointF> points;
-    for (int row = 0; row <= Side; ++row)
-        for (int column = 0; column <= Side; ++column) {
-            const double x = column - Side / 2.0;
-            const double y = row - Side / 2.0;
-            const double right = x * std::cos(angle) - y * std::sin(angle);
-            const double away = x * std::sin(angle) + y * std::cos(angle);
-            const double up = 0.41 * away + 0.91 * heightAt(column, row);
-            points.emplace_back(Width / 2.0 + 5.4 * right, Height / 2.0 - 5.4 * up);
+    for (int row = 0; row <= side; ++row)
+        for (int column = 0; column <= side; ++column) {
+            const double x = column * Extent / side;
+            const double y = row * Extent / side;
+            const double right =
+                (x - Extent / 2) * std::cos(angle) - (y - Extent / 2) * std::sin(angle);
+            const double away =
+                (x - Extent / 2) * std::sin(angle) + (y - Extent / 2) * std::cos(angle);
+            const double up = 0.41 * away + 0.91 * heightAt(x, y);
+            points.emplace_back(size.width() / 2.0 + scale * right,
+                                size.height() / 2.0 - scale * up);
         }
     return points;
 }
@@ -102,26 +164,30 @@ std::vector<QPointF> projected(double angle)
 /// Fills the same polygons without sorting them, and with the same pen for all.
 void fillPolygons(benchmark::State& state)
 {
-    QImage image(Width, Height, QImage::Format_ARGB32_Premultiplied);
+    const int side = sideOf(state);
+    QImage image(sizeOf(state), QImage::Format_ARGB32_Premultiplied);
     double angle = 0.46;
     for (auto _ : state) {
-        const std::vector<QPointF> points = projected(angle += 0.09);
+        const std::vector<QPointF> points = projected(angle += 0.09, side, image.size());
         QPainter painter(&image);
         painter.fillRect(image.rect(), Qt::white);
         painter.setBrush(Qt::lightGray);
-        for (int row = 0; row < Side; ++row)
-            for (int column = 0; column < Side; ++column) {
-                const auto first = size_t(row * (Side + 1) + column);
+        for (int row = 0; row < side; ++row)
+            for (int column = 0; column < side; ++column) {
+                const auto first = size_t(row * (side + 1) + column);
                 const QPointF corners[] = {points[first], points[first + 1],
-                                           points[first + Side + 2], points[first + Side + 1]};
+                                           points[first + size_t(side) + 2],
+                                           points[first + size_t(side) + 1]};
                 painter.drawConvexPolygon(corners, 4);
             }
     }
 }
 
-BENCHMARK(turnView);
-BENCHMARK(restView);
-BENCHMARK(fillPolygons);
+BENCHMARK(turnView)->Arg(Few)->Arg(100000)->Arg(1000000);
+BENCHMARK(restView)->Arg(Few)->Arg(100000);
+BENCHMARK(fillPolygons)->Arg(Few)->Arg(100000);
+BENCHMARK(memoryOfView)->Arg(100000);
+BENCHMARK(memoryOfModel)->Arg(100000);
 
 } // namespace
 
@@ -130,7 +196,13 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     const char fill[] = "fills the same polygons in one colour, without sorting them";
-    return runBenchmarks(
-        argc, argv,
-        {{"turnView", "fillPolygons", 1.6, fill}, {"restView", "fillPolygons", 3.6, fill}});
+    return runBenchmarks(argc, argv,
+                         {{"turnView/10000", "fillPolygons/10000", 1.6, fill},
+                          {"turnView/10000", "", 33.0, "milliseconds for a frame"},
+                          {"turnView/100000", "", 33.0, "milliseconds for a frame"},
+                          {"turnView/1000000", "", 33.0, "milliseconds for a frame"},
+                          {"restView/10000", "fillPolygons/10000", 3.6, fill},
+                          {"restView/100000", "fillPolygons/100000", 2.5, fill},
+                          {"memoryOfView/100000", "memoryOfModel/100000", 3.0,
+                           "reads the model from the project", Figure::Memory}});
 }

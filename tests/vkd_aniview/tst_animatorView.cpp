@@ -342,6 +342,32 @@ private Q_SLOTS:
         }
     }
 
+    /// The picture of a large model is painted in steps. It shows the model at once, and each
+    /// change begins it again.
+    void largeModel()
+    {
+        constexpr int Side = 200;
+        Model model;
+        for (int i = 0; i < Side * Side; ++i)
+            model.nodes.push_back({i + 1, {double(i % Side), double(i / Side), 0.0}});
+        for (int i = 1; i < Side * (Side - 1); ++i)
+            if (i % Side)
+                model.quads.push_back({i, 7, {i, i + 1, i + Side + 1, i + Side}, 0.2});
+        const auto view = viewOf(model);
+        const auto middle = [&view] { return view->grab().toImage().pixelColor(300, 200); };
+        const QColor atOnce = middle();
+        QVERIFY(atOnce != view->palette().color(QPalette::Base));
+        for (bool turns : {false, true}) {
+            if (turns)
+                view->slotViewControl(AnimatorStandardView, 0.0);
+            middle();
+            QVERIFY(!view->isPictureComplete());
+            QTRY_VERIFY(view->isPictureComplete());
+            QVERIFY(middle() != view->palette().color(QPalette::Base));
+            QVERIFY(view->isPictureComplete());
+        }
+    }
+
 private:
     void takeCamera(const QString& text)
     {

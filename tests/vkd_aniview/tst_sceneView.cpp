@@ -48,6 +48,47 @@ Model storey()
     return model;
 }
 
+/// Two plates of the groups 1 and 2 above each other with beams along one edge.
+Model largeStorey(int side)
+{
+    Model model;
+    const auto node = [side](int x, int y, int z) {
+        return (z * (side + 1) + y) * (side + 1) + x + 1;
+    };
+    for (int z = 0; z < 2; ++z)
+        for (int y = 0; y <= side; ++y)
+            for (int x = 0; x <= side; ++x)
+                model.nodes.push_back({node(x, y, z), {double(x), double(y), double(z)}});
+    for (int z = 0; z < 2; ++z)
+        for (int y = 0; y < side; ++y)
+            for (int x = 0; x < side; ++x)
+                model.quads.push_back(
+                    {model.quads.size() + 1,
+                     z + 1,
+                     {node(x, y, z), node(x + 1, y, z), node(x + 1, y + 1, z), node(x, y + 1, z)},
+                     0.2});
+    for (int x = 0; x < side; ++x)
+        model.beams.push_back({x + 1, 3, 1, {node(x, 0, 0), node(x + 1, 0, 0)}});
+    return model;
+}
+
+/// Returns the smallest rectangle around all faces in the order.
+QRectF extentOf(const SceneView::Drawn& drawn, int group)
+{
+    QPointF least(1e9, 1e9);
+    QPointF most(-1e9, -1e9);
+    for (int item : drawn.picture.order())
+        if (size_t(item) < drawn.geometry.faces.size()) {
+            const Face& face = drawn.geometry.faces[size_t(item)];
+            for (int i = 0; i < face.count && face.group == group; ++i) {
+                const QPointF& at = drawn.picture.point(face.points[i]);
+                least = {std::min(least.x(), at.x()), std::min(least.y(), at.y())};
+                most = {std::max(most.x(), at.x()), std::max(most.y(), at.y())};
+            }
+        }
+    return {least, most};
+}
+
 SceneView viewOf(const Model& model, const Position& eye)
 {
     SceneView view;
@@ -209,6 +250,29 @@ private Q_SLOTS:
         SceneView view = viewOf(model, {0, 0, 1});
         QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 1, 0})), 2);
         QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 7, 0})), 1);
+    }
+
+    /// A quick picture of a large model has fewer items, but the same outline and folds.
+    void quickPicture()
+    {
+        constexpr int Side = 150;
+        SceneView view = viewOf(largeStorey(Side), {1, -2, 1});
+        const SceneView::Drawn full = view.quickPicture(1000000);
+        QCOMPARE(&full.geometry, &view.geometry());
+        for (int most : {20000, 4000}) {
+            const SceneView::Drawn quick = view.quickPicture(most);
+            QVERIFY(int(quick.picture.order().size()) < most);
+            QVERIFY(int(quick.picture.order().size()) > most / 8);
+            for (int group : {0, 1})
+                QCOMPARE(extentOf(quick, group), extentOf(full, group));
+            const bool isStrong =
+                std::any_of(quick.geometry.faces.begin(), quick.geometry.faces.end(),
+                            [](const Face& face) { return face.strongEdges == 0xf; });
+            QVERIFY(!isStrong); // only the rim is
+            QVERIFY(!quick.geometry.lines.empty());
+        }
+        view.zoom(20.0, {428, 328}); // few items are left in sight
+        QCOMPARE(&view.quickPicture(10000).geometry, &view.geometry());
     }
 
     void triangle()

@@ -16,6 +16,8 @@
 namespace vkd {
 namespace aniview {
 class GroupMarks;
+class PaintingPace;
+class RestPicture;
 class SceneView;
 class ScenePainter;
 } // namespace aniview
@@ -63,6 +65,10 @@ public:
     /// picking on and off.
     void setHighlightedGroup(int group);
 
+    /// Returns whether the last picture was the full one. While the picture moves, and until that
+    /// of a large model is complete, it has fewer items.
+    bool isPictureComplete() const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -101,6 +107,12 @@ private:
     /// Returns a colour of an active window; a disabled view must not look disabled.
     QColor activeColour(QPalette::ColorRole role) const;
     void drawScene(QPainter& painter);
+    void drawQuickly(QPainter& painter);
+    void drawAtRest(QPainter& painter);
+    /// Continues the full picture of a large model.
+    void paintStep();
+    /// Discards the full picture and repaints.
+    void changed();
     void lookFrom(double x, double y, double z);
     /// Repaints without antialiasing now, and with it once the picture has rested for a while.
     void moved();
@@ -121,8 +133,11 @@ private:
     bool m_hovers = false; // highlights even while picking is off
     std::unique_ptr<vkd::aniview::SceneView> m_scene;
     std::unique_ptr<vkd::aniview::ScenePainter> m_painter;
+    std::unique_ptr<vkd::aniview::PaintingPace> m_pace;
+    std::unique_ptr<vkd::aniview::RestPicture> m_restPicture;
     std::unique_ptr<vkd::aniview::GroupMarks> m_marks;
     QTimer m_rest; // active while the picture moves
+    QTimer m_step; // for the next step of the full picture
 
     Hand m_hand = Hand::Free;
     Qt::MouseButton m_button = Qt::NoButton; // started the drag

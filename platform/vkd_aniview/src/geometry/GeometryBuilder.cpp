@@ -1,6 +1,7 @@
 #include "geometry/GeometryBuilder.h"
 
 #include "geometry/brickfaces.h"
+#include "geometry/coarseGeometry.h"
 #include "geometry/faceedges.h"
 
 #include <algorithm>
@@ -50,6 +51,7 @@ ModelGeometry GeometryBuilder::build()
     measure();
     scalePoints();
     completeFaces(m_geometry);
+    m_geometry.coarser = coarserGeometry(m_geometry);
     return std::move(m_geometry);
 }
 
@@ -240,7 +242,7 @@ void GeometryBuilder::scalePoints()
         m_geometry.y.push_back(float(offset[1] / m_geometry.unit));
         m_geometry.z.push_back(float(offset[2] / m_geometry.unit));
     }
-    m_geometry.cell = float(m_cell / m_geometry.unit);
+    m_geometry.cell = m_geometry.meshCell = float(m_cell / m_geometry.unit);
 }
 
 ModelGeometry buildGeometry(const dbo::Model& model)

@@ -2,6 +2,7 @@
 
 #include "geometry/Projection.h"
 
+#include <memory>
 #include <vector>
 
 namespace vkd {
@@ -53,8 +54,9 @@ struct SortPlace
 struct ModelGeometry
 {
     Box box;
-    double unit = 1.0; ///< metres
-    float cell = 0.0F; ///< the mean edge of the faces; 0 without faces
+    double unit = 1.0;     ///< metres
+    float cell = 0.0F;     ///< the mean edge of the faces; 0 without faces
+    float meshCell = 0.0F; ///< the mean edge in the model, also in a coarser geometry of it
 
     std::vector<float> x, y, z; ///< coordinates of the points
     std::vector<Face> faces;
@@ -63,6 +65,9 @@ struct ModelGeometry
     std::vector<int> groups;           ///< numbers of groups with elements, ascending
     std::vector<SortPlace> sortPlaces; ///< one for each item
 
+    std::shared_ptr<const ModelGeometry> coarser; ///< for quick pictures of a large model, or null
+
+    size_t itemCount() const { return faces.size() + lines.size() + supports.size(); }
     bool isEmpty() const { return faces.empty() && lines.empty(); }
 };
 

@@ -2,6 +2,8 @@
 
 #include "geometry/sharedGeometry.h"
 #include "view/GroupMarks.h"
+#include "view/PaintingPace.h"
+#include "view/RestPicture.h"
 #include "view/ScenePainter.h"
 #include "view/SceneView.h"
 #include "view/symbols.h"
@@ -9,6 +11,7 @@
 #include <vkd_dbo_camera.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
@@ -23,6 +26,7 @@ constexpr double DegreesToKey = 5.0;
 constexpr double PixelsToKey = 40.0;
 constexpr double ZoomToStep = 1.2; // for one notch of the wheel or one key press
 constexpr int RestMs = 200;
+constexpr size_t ItemsAtOnce = 30000; // a larger picture at rest is painted in steps
 } // namespace
 
 AnimatorView::AnimatorView(ZobHandle project, QWidget* parent, const char* name)
@@ -30,6 +34,8 @@ AnimatorView::AnimatorView(ZobHandle project, QWidget* parent, const char* name)
     , m_project(project)
     , m_scene(std::make_unique<SceneView>())
     , m_painter(std::make_unique<ScenePainter>())
+    , m_pace(std::make_unique<PaintingPace>())
+    , m_restPicture(std::make_unique<RestPicture>())
     , m_marks(std::make_unique<GroupMarks>())
 {
     setObjectName(QLatin1String(name));
@@ -39,6 +45,8 @@ AnimatorView::AnimatorView(ZobHandle project, QWidget* parent, const char* name)
     m_rest.setSingleShot(true);
     m_rest.setInterval(RestMs);
     connect(&m_rest, &QTimer::timeout, this, QOverload<>::of(&QWidget::update));
+    m_step.setSingleShot(true);
+    connect(&m_step, &QTimer::timeout, this, &AnimatorView::paintStep);
     setTexts();
     reload();
 }
@@ -105,6 +113,11 @@ void AnimatorView::setHighlightedGroup(int group)
         showMarks();
 }
 
+bool AnimatorView::isPictureComplete() const
+{
+    return !m_rest.isActive() && !m_step.isActive();
+}
+
 QSize AnimatorView::sizeHint() const
 {
     return {480, 360};
@@ -127,7 +140,7 @@ void AnimatorView::slotViewControl(AnimatorViewControl control, double /*value*/
     case AnimatorStoreCamera: vkd::dbo::setCamera(ZobHandle::scratch(), m_scene->camera()); return;
     case AnimatorTakeCamera: m_scene->setCamera(vkd::dbo::camera(ZobHandle::scratch())); break;
     }
-    update();
+    changed();
 }
 
 void AnimatorView::changeEvent(QEvent* event)
@@ -154,6 +167,7 @@ bool AnimatorView::event(QEvent* event)
 void AnimatorView::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
+    m_step.stop();
     endDrag();
     hover(NoGroup);
 }
@@ -250,6 +264,7 @@ void AnimatorView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     m_scene->setSize(size());
+    changed();
 }
 
 void AnimatorView::wheelEvent(QWheelEvent* event)
@@ -293,9 +308,10 @@ QColor AnimatorView::activeColour(QPalette::ColorRole role) const
 void AnimatorView::drawScene(QPainter& painter)
 {
     const Projection projection = m_scene->projection();
-    painter.setRenderHint(QPainter::Antialiasing, !m_rest.isActive());
-    m_painter->paint(painter, palette(), m_scene->geometry(), m_scene->picture(), projection,
-                     *m_marks);
+    if (m_rest.isActive())
+        drawQuickly(painter);
+    else
+        drawAtRest(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     const double length = qBound(12.0, 0.06 * qMin(width(), height()), 26.0);
     const double inset = length + 16.0; // leaves room for a name and the frame
@@ -306,6 +322,50 @@ void AnimatorView::drawScene(QPainter& painter)
               {activeColour(QPalette::Text), activeColour(QPalette::Base)});
 }
 
+void AnimatorView::drawQuickly(QPainter& painter)
+{
+    const SceneView::Drawn drawn = m_scene->quickPicture(m_pace->itemsInFrame());
+    QElapsedTimer clock;
+    clock.start();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    m_painter->paint(painter, palette(), drawn.geometry, drawn.picture, m_scene->projection(),
+                     *m_marks);
+    m_pace->painted(drawn.picture.order().size(), 1e-9 * double(clock.nsecsElapsed()));
+}
+
+/// Draws the full picture. That of a large model is painted in steps and shown when it is complete.
+void AnimatorView::drawAtRest(QPainter& painter)
+{
+    if (m_restPicture->isComplete()) {
+        painter.drawImage(QPointF(), m_restPicture->image());
+    } else if (m_scene->geometry().coarser && m_scene->picture().order().size() > ItemsAtOnce) {
+        drawQuickly(painter);
+        m_step.start();
+    } else {
+        painter.setRenderHint(QPainter::Antialiasing);
+        m_painter->paint(painter, palette(), m_scene->geometry(), m_scene->picture(),
+                         m_scene->projection(), *m_marks);
+    }
+}
+
+void AnimatorView::paintStep()
+{
+    const bool isComplete = m_restPicture->paintSome(
+        *m_painter, size(), devicePixelRatioF(), palette(), m_scene->geometry(), m_scene->picture(),
+        m_scene->projection(), *m_marks);
+    if (isComplete)
+        update();
+    else
+        m_step.start();
+}
+
+void AnimatorView::changed()
+{
+    m_step.stop();
+    m_restPicture->drop();
+    update();
+}
+
 void AnimatorView::lookFrom(double x, double y, double z)
 {
     m_scene->setCamera(lookingFrom({x, y, z}));
@@ -314,13 +374,13 @@ void AnimatorView::lookFrom(double x, double y, double z)
 void AnimatorView::moved()
 {
     m_rest.start();
-    update();
+    changed();
 }
 
 void AnimatorView::showMarks()
 {
     m_painter->forgetColours();
-    update();
+    changed();
 }
 
 void AnimatorView::drag(const QPoint& by)

@@ -44,10 +44,12 @@ void Picture::findDepths(const ModelGeometry& geometry, const Position& eye)
     }
 }
 
-/// Sorts by depth with a counting sort, whose time is linear in the number of items.
+/// Sorts by depth with a counting sort, whose time is linear in the number of items. Invisible
+/// items are left out before it, while the memory is read in its order.
 void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible)
 {
     m_order.clear();
+    m_seen.clear();
     m_places.assign(Steps + 1, 0);
     m_steps.resize(m_depths.size());
     if (m_depths.empty())
@@ -57,18 +59,18 @@ void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible)
     const float perDepth = float(Steps - 1) / std::max(*range.second - farthest, 1e-6F);
     const int items = int(m_depths.size());
     for (int item = 0; item < items; ++item) {
+        if (!isVisible(geometry, item, visible))
+            continue;
         const int step = int((m_depths[size_t(item)] - farthest) * perDepth);
         m_steps[size_t(item)] = static_cast<unsigned short>(qBound(0, step, Steps - 1));
         ++m_places[size_t(m_steps[size_t(item)]) + 1];
+        m_seen.push_back(item);
     }
     for (size_t step = 1; step < m_places.size(); ++step)
         m_places[step] += m_places[step - 1];
-    m_order.resize(m_depths.size());
-    for (int item = 0; item < items; ++item)
+    m_order.resize(m_seen.size());
+    for (int item : m_seen)
         m_order[size_t(m_places[m_steps[size_t(item)]]++)] = item;
-    m_order.erase(std::remove_if(m_order.begin(), m_order.end(),
-                                 [&](int item) { return !isVisible(geometry, item, visible); }),
-                  m_order.end());
 }
 
 bool Picture::isVisible(const int* points, int count, const QRectF& visible) const

@@ -29,6 +29,7 @@ private:
     std::vector<float> m_depths;         // one for each item, growing towards the viewer
     std::vector<unsigned short> m_steps; // depths in steps from the farthest to the nearest
     std::vector<int> m_places;
+    std::vector<int> m_seen; // the visible items, ascending
     std::vector<int> m_order;
 };
 

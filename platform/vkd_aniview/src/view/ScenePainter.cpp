@@ -35,7 +35,23 @@ double component(const Position& direction, const float* normal)
 /// Returns the mean edge length of the faces in pixels.
 double cellPixels(const ModelGeometry& geometry, const Projection& projection)
 {
-    return geometry.cell * geometry.unit * projection.scale();
+    return geometry.meshCell * geometry.unit * projection.scale();
+}
+
+/// Moves the corners of a face outwards, as the outline of a face does, because smooth faces
+/// without outlines would leave gaps. Drawing the outlines in the colours of the faces takes twice
+/// as long.
+void grow(const QPointF* corners, int count, QPointF* grown)
+{
+    constexpr double Way = 0.7; // pixels, to the corner of an outline of one pixel
+    QPointF middle;
+    for (int i = 0; i < count; ++i)
+        middle += corners[i] / count;
+    for (int i = 0; i < count; ++i) {
+        const QPointF out = corners[i] - middle;
+        const double length = std::hypot(out.x(), out.y());
+        grown[i] = length > 0.0 ? corners[i] + Way / length * out : corners[i];
+    }
 }
 
 /// Returns the direction of the light, which comes over the viewer's left shoulder.
@@ -67,6 +83,7 @@ struct ScenePainter::Frame
     const Projection& projection;
     const Position light;
     const double symbolSize;
+    const bool isSmooth = painter.testRenderHint(QPainter::Antialiasing);
     std::array<double, LineKindCount> widths{};
     // The group and the shade whose pen and brush are set, or -1; setting them again would cost
     // time.
@@ -76,14 +93,15 @@ struct ScenePainter::Frame
 
 void ScenePainter::paint(QPainter& painter, const QPalette& palette, const ModelGeometry& geometry,
                          const Picture& picture, const Projection& projection,
-                         const GroupMarks& marks)
+                         const GroupMarks& marks, const Part& part)
 {
     prepare(palette, geometry, projection, marks);
     Frame frame(painter, picture, projection, cellPixels(geometry, projection));
     const size_t faces = geometry.faces.size();
     const size_t lines = geometry.lines.size();
-    for (int index : picture.order()) {
-        const auto item = size_t(index);
+    const size_t end = std::min(part.end, picture.order().size());
+    for (size_t place = part.begin; place < end; ++place) {
+        const auto item = size_t(picture.order()[place]);
         if (item < faces) {
             drawFace(frame, geometry.faces[item]);
             continue;
@@ -104,7 +122,7 @@ void ScenePainter::prepare(const QPalette& palette, const ModelGeometry& geometr
                            const Projection& projection, const GroupMarks& marks)
 {
     const double pixels = cellPixels(geometry, projection);
-    const int step = int(qBound(0.0, (pixels - 2.0) / 8.0, 1.0) * MeshSteps);
+    const int step = int(qBound(0.0, (pixels - 3.5) / 6.5, 1.0) * MeshSteps);
     if (m_colours && step == m_meshStep)
         return;
     m_meshStep = step;
@@ -127,11 +145,20 @@ void ScenePainter::drawFace(Frame& frame, const Face& face) const
     if (face.group != frame.group || shade != frame.shade) {
         const GroupColours::Set& set = (*m_colours)[face.group];
         frame.painter.setBrush(set.fills[size_t(shade)]);
-        frame.painter.setPen(set.meshes[size_t(shade)]);
+        if (m_meshStep > 0)
+            frame.painter.setPen(set.meshes[size_t(shade)]);
+        else
+            frame.painter.setPen(Qt::NoPen);
         frame.group = face.group;
         frame.shade = shade;
     }
-    frame.painter.drawConvexPolygon(corners, face.count);
+    if (m_meshStep > 0 || !frame.isSmooth) {
+        frame.painter.drawConvexPolygon(corners, face.count);
+    } else {
+        QPointF grown[4];
+        grow(corners, face.count, grown);
+        frame.painter.drawConvexPolygon(grown, face.count);
+    }
     if (face.strongEdges)
         drawStrongEdges(frame, face, corners);
 }

@@ -3,6 +3,7 @@
 #include "view/GroupColours.h"
 #include "view/Picture.h"
 
+#include <limits>
 #include <memory>
 
 class QPainter;
@@ -14,12 +15,20 @@ namespace aniview {
 class ScenePainter
 {
 public:
+    /// A range of the picture's order.
+    struct Part
+    {
+        size_t begin;
+        size_t end;
+    };
+
     /// Drops the cached pens and brushes; call this after the palette, the geometry or the marks
     /// changed.
     void forgetColours() { m_colours.reset(); }
 
     void paint(QPainter& painter, const QPalette& palette, const ModelGeometry& geometry,
-               const Picture& picture, const Projection& projection, const GroupMarks& marks);
+               const Picture& picture, const Projection& projection, const GroupMarks& marks,
+               const Part& part = {0, std::numeric_limits<size_t>::max()});
 
 private:
     struct Frame;

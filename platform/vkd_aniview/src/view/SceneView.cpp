@@ -10,7 +10,8 @@ namespace aniview {
 
 namespace {
 constexpr double SymbolRoom = 12.0; // pixels by which symbols extend beyond their points
-}
+constexpr size_t ItemsToSort = 6;   // projected and sorted in the time that painting one takes
+} // namespace
 
 void SceneView::setGeometry(std::shared_ptr<const ModelGeometry> geometry)
 {
@@ -59,13 +60,31 @@ Projection SceneView::projection() const
 
 const Picture& SceneView::picture()
 {
-    if (!m_isCurrent) {
-        const QRectF visible =
-            QRectF(QPointF(), m_size).adjusted(-SymbolRoom, -SymbolRoom, SymbolRoom, SymbolRoom);
-        m_picture.update(*m_geometry, projection(), visible);
-    }
+    if (!m_isCurrent)
+        m_picture.update(*m_geometry, projection(), visiblePart());
     m_isCurrent = true;
     return m_picture;
+}
+
+SceneView::Drawn SceneView::quickPicture(int mostItems)
+{
+    const auto most = size_t(mostItems);
+    const ModelGeometry* level = m_geometry.get();
+    while (level->coarser && level->itemCount() > ItemsToSort * most)
+        level = level->coarser.get();
+    for (;; level = level->coarser.get()) {
+        const bool isFull = level == m_geometry.get();
+        if (!isFull)
+            m_quickPicture.update(*level, projection(), visiblePart());
+        const Picture& drawn = isFull ? picture() : m_quickPicture;
+        if (!level->coarser || drawn.order().size() <= most)
+            return {*level, drawn};
+    }
+}
+
+QRectF SceneView::visiblePart() const
+{
+    return QRectF(QPointF(), m_size).adjusted(-SymbolRoom, -SymbolRoom, SymbolRoom, SymbolRoom);
 }
 
 int SceneView::groupAt(const QPointF& place)

@@ -26,14 +26,26 @@ public:
     Projection projection() const;
     const Picture& picture();
 
+    /// A geometry and its picture.
+    struct Drawn
+    {
+        const ModelGeometry& geometry;
+        const Picture& picture;
+    };
+    /// Returns the finest picture with this number of visible items at most, or the coarsest one.
+    Drawn quickPicture(int mostItems);
+
     /// Returns the number of the frontmost group at a point of the picture, or GroupMarks::NoGroup.
     int groupAt(const QPointF& place);
 
 private:
+    QRectF visiblePart() const;
+
     std::shared_ptr<const ModelGeometry> m_geometry = std::make_shared<ModelGeometry>();
     Camera m_camera;
     QSizeF m_size{1.0, 1.0};
     Picture m_picture;
+    Picture m_quickPicture;
     bool m_isCurrent = false;
 };
 
