@@ -89,7 +89,8 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(bad + QLatin1String("-journal")));
     }
 
-    /// A record that is too short is left out of the model.
+    /// A record that is too short is left out of the model. A design record that is too long does
+    /// not end the list.
     void incompleteModel()
     {
         constexpr int LoadCases = 12;
@@ -98,6 +99,9 @@ private Q_SLOTS:
         QVERIFY(vkd_zob_open(qUtf8Printable(bad), &index).isOk());
         const int length = 1;
         QCOMPARE(vkd_zob_put(index, LoadCases, 0, "x", &length, 1), VKD_ZOB_OK);
+        const QByteArray longer(500, '\0');
+        const int longerLength = longer.size();
+        QCOMPARE(vkd_zob_put(index, 200, 6, longer.constData(), &longerLength, 0), VKD_ZOB_OK);
         QVERIFY(vkd_zob_close(index).isOk());
         MainWindow window;
         QStringList messages;
@@ -107,6 +111,7 @@ private Q_SLOTS:
                                            "What is shown may lack something.")
                                 .arg(bad)});
         QVERIFY(window.windowTitle().startsWith(QLatin1String("bad.zob")));
+        QVERIFY(find<QAbstractItemView>(window, "Records")->model()->columnCount() > 1);
     }
 
     void projectInUse_data()

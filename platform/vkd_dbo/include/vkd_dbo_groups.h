@@ -2,6 +2,7 @@
 
 #include "vkd_dbo_export.h"
 
+#include <vkd_status.h>
 #include <ZobHandle.h>
 
 #include <QString>
@@ -39,8 +40,10 @@ struct GroupSummary
 
 /// Returns the groups of the project in the order of the model; empty if the project has no model.
 /// The elements are read once. Elements of a group that the model does not list are not counted.
-VKD_DBO_EXPORT QVector<GroupSummary> readGroups(ZobHandle project);
-VKD_DBO_EXPORT QVector<GroupSummary> readSecondaryGroups(ZobHandle project);
+/// `status`, if given, receives OK if nothing is missing, otherwise the first failure.
+VKD_DBO_EXPORT QVector<GroupSummary> readGroups(ZobHandle project, VkdStatus* status = nullptr);
+VKD_DBO_EXPORT QVector<GroupSummary> readSecondaryGroups(ZobHandle project,
+                                                         VkdStatus* status = nullptr);
 
 } // namespace dbo
 } // namespace vkd

@@ -191,8 +191,8 @@ VKD_DBO_EXPORT Model readModel(ZobHandle project, const VkdGoOn& goOn = VkdGoOn(
 /// are the same in a copy of the project. Empty if the project has no model or cannot be read.
 VKD_DBO_EXPORT QByteArray modelMark(ZobHandle project);
 
-/// Reads only the load cases of the model.
-VKD_DBO_EXPORT QVector<LoadCase> readLoadCases(ZobHandle project);
+/// Reads only the load cases of the model. `status`, if given, receives OK if none is missing.
+VKD_DBO_EXPORT QVector<LoadCase> readLoadCases(ZobHandle project, VkdStatus* status = nullptr);
 
 } // namespace dbo
 } // namespace vkd

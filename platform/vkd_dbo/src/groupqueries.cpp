@@ -28,26 +28,36 @@ VkdStatus countElements(ZobHandle project, const ElementList& list,
                         QHash<int, GroupContents>& contents)
 {
     constexpr int GroupAt = sizeof(qint32);
-    return forEachRecord(project, list.pair, [&](const QByteArray& bytes) {
+    VkdStatus damage;
+    const VkdStatus read = forEachRecord(project, list.pair, [&](const QByteArray& bytes) {
         if (bytes.size() < GroupAt + int(sizeof(qint32))) {
-            reportDamagedRecord(project, list.pair);
+            damage = reportDamagedRecord(project, list.pair);
             return;
         }
         const int group = qFromLittleEndian<qint32>(bytes.constData() + GroupAt);
         ++(contents[group].*list.count);
     });
+    return read.isOk() ? damage : read;
 }
 } // namespace
 
-QVector<GroupSummary> readGroups(ZobHandle project)
+QVector<GroupSummary> readGroups(ZobHandle project, VkdStatus* status)
 {
     const ZobSnapshot snapshot(project);
+    VkdStatus first = snapshot.status();
     QVector<Group> groups;
-    bool goesOn = snapshot.status().isOk() &&
-                  mayContinue(readList(project, keys::Groups, groups)) && !groups.isEmpty();
+    if (first.isOk())
+        first = readList(project, keys::Groups, groups);
     QHash<int, GroupContents> contents;
-    for (const ElementList& list : elementLists)
-        goesOn = goesOn && mayContinue(countElements(project, list, contents));
+    for (const ElementList& list : elementLists) {
+        if (groups.isEmpty() || !mayContinue(first))
+            break;
+        const VkdStatus counted = countElements(project, list, contents);
+        if (first.isOk() || !mayContinue(counted))
+            first = counted;
+    }
+    if (status)
+        *status = first;
     QVector<GroupSummary> summaries;
     summaries.reserve(groups.size());
     for (const Group& group : qAsConst(groups))
@@ -55,10 +65,12 @@ QVector<GroupSummary> readGroups(ZobHandle project)
     return summaries;
 }
 
-QVector<GroupSummary> readSecondaryGroups(ZobHandle project)
+QVector<GroupSummary> readSecondaryGroups(ZobHandle project, VkdStatus* status)
 {
     QVector<SecondaryGroup> groups;
-    readList(project, keys::SecondaryGroups, groups);
+    const VkdStatus read = readList(project, keys::SecondaryGroups, groups);
+    if (status)
+        *status = read;
     QVector<GroupSummary> summaries;
     summaries.reserve(groups.size());
     for (const SecondaryGroup& group : qAsConst(groups)) {

@@ -176,10 +176,12 @@ Model readModel(ZobHandle project, const VkdGoOn& goOn, QByteArray* mark, VkdSta
     return model;
 }
 
-QVector<LoadCase> readLoadCases(ZobHandle project)
+QVector<LoadCase> readLoadCases(ZobHandle project, VkdStatus* status)
 {
     QVector<LoadCase> loadCases;
-    readList(project, keys::LoadCases, loadCases);
+    const VkdStatus read = readList(project, keys::LoadCases, loadCases);
+    if (status)
+        *status = read;
     return loadCases;
 }
 

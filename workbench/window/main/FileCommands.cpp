@@ -187,24 +187,14 @@ VkdStatus FileCommands::showModel(ZobHandle project)
     return m_parts.view->setProject(project, [&work](int) { return work.goOn(0); });
 }
 
-/// Shows the project except for the model. Returns whether everything was read. The snapshot
-/// excludes other programs, so every new failure is a read error.
-bool FileCommands::showContents()
-{
-    const ZobHandle project = m_parts.project->handle();
-    const ZobSnapshot snapshot(project);
-    const QString before = vkd_zob_last_failure(project.index()).reason;
-    Q_EMIT opened();
-    return snapshot.status().isOk() && vkd_zob_last_failure(project.index()).reason == before;
-}
-
 void FileCommands::showProject(const VkdStatus& modelStatus)
 {
     const QString path = m_parts.project->path();
     WindowSettings settings;
     settings.addRecentFile(path);
     m_actions->setRecentFiles(settings.recentFiles());
-    const bool areContentsRead = showContents();
+    const ZobSnapshot snapshot(m_parts.project->handle()); // the parts show one state
+    const bool areContentsRead = m_parts.showContents() && snapshot.status().isOk();
     if (!modelStatus.isOk() || !areContentsRead)
         m_parts.messages->complain(
             tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")

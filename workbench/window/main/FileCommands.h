@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class AnimatorView;
@@ -30,6 +31,8 @@ struct ProjectParts
     OutputEditor* output;
     OutputScript* script;
     TextOutputEditor* textOutput;
+    /// Shows the open project, except for the model. Returns whether everything was read.
+    std::function<bool()> showContents;
 };
 
 /// The commands of the File menu that concern projects: new, open, reload, save as. It asks about
@@ -62,8 +65,6 @@ public:
 Q_SIGNALS:
     /// Emitted after the open project was replaced or closed, before the new one is shown.
     void replaced();
-    /// Emitted when the window must show the project, except for the model.
-    void opened();
 
 private:
     enum class Camera { Standard, Keep };
@@ -78,7 +79,6 @@ private:
     bool openDocument(const QString& path, Camera camera);
     std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
     VkdStatus showModel(ZobHandle project);
-    bool showContents();
     void showProject(const VkdStatus& modelStatus);
     void showFirstProject();
     bool takeOver(const QString& path);

@@ -69,10 +69,10 @@ GroupList::GroupList(QWidget* parent)
     setTexts();
 }
 
-void GroupList::setProject(ZobHandle project)
+VkdStatus GroupList::setProject(ZobHandle project)
 {
     m_project = project;
-    fill();
+    return fill();
 }
 
 void GroupList::setMarkedGroup(int group)
@@ -126,13 +126,14 @@ void GroupList::setTexts()
     fitColumns();
 }
 
-void GroupList::fill()
+VkdStatus GroupList::fill()
 {
+    VkdStatus status;
     const int current = groupOf(currentItem());
     clear();
     m_withoutAreas.clear();
-    const auto groups =
-        m_project.isNull() ? QVector<vkd::dbo::GroupSummary>() : vkd::dbo::readGroups(m_project);
+    const auto groups = m_project.isNull() ? QVector<vkd::dbo::GroupSummary>()
+                                           : vkd::dbo::readGroups(m_project, &status);
     for (const vkd::dbo::GroupSummary& group : groups) {
         auto item = new QTreeWidgetItem(this);
         item->setData(NumberColumn, Qt::DisplayRole, group.number);
@@ -146,6 +147,7 @@ void GroupList::fill()
     }
     std::sort(m_withoutAreas.begin(), m_withoutAreas.end());
     fitColumns();
+    return status;
 }
 
 void GroupList::fitColumns()

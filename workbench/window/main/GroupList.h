@@ -1,5 +1,6 @@
 #pragma once
 
+#include <vkd_status.h>
 #include <ZobHandle.h>
 
 #include <QTreeWidget>
@@ -18,8 +19,9 @@ class GroupList : public QTreeWidget
 public:
     explicit GroupList(QWidget* parent = nullptr);
 
-    /// Lists the groups of the project, or none if the handle is null.
-    void setProject(ZobHandle project);
+    /// Lists the groups of the project, or none if the handle is null. Returns the status of
+    /// vkd::dbo::readGroups().
+    VkdStatus setProject(ZobHandle project);
     /// Marks a group that is pointed at in the model, or none (AnimatorView::NoGroup). The current
     /// row does not change, and no signal is emitted.
     void setMarkedGroup(int group);
@@ -41,7 +43,7 @@ protected:
 
 private:
     void setTexts();
-    void fill();
+    VkdStatus fill();
     void fitColumns();
     void pointAtCurrent();
     void pointAt(const QTreeWidgetItem* item);

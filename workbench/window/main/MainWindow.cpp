@@ -64,8 +64,13 @@ void MainWindow::createEditors(const MakeProject& makeProject)
                                                     m_panes->script, m_panes->sheets);
     m_textOutputEditor =
         std::make_unique<TextOutputEditor>(&m_project, &m_access, &m_messages, actions);
-    const ProjectParts parts{&m_project,           &m_messages,          m_panes->view,
-                             m_outputEditor.get(), m_outputScript.get(), m_textOutputEditor.get()};
+    const ProjectParts parts{&m_project,
+                             &m_messages,
+                             m_panes->view,
+                             m_outputEditor.get(),
+                             m_outputScript.get(),
+                             m_textOutputEditor.get(),
+                             [this] { return showProject(); }};
     m_files = std::make_unique<FileCommands>(parts, makeProject, m_actions);
     m_designEditor->setSaveAs([this] { return m_files->saveAs(); });
 }
@@ -113,7 +118,6 @@ void MainWindow::connectProject()
 {
     connect(&m_project, &OpenProject::changedOutside, this, &MainWindow::showNews);
     connect(m_files.get(), &FileCommands::replaced, this, &MainWindow::showReplaced);
-    connect(m_files.get(), &FileCommands::opened, this, &MainWindow::showProject);
     connect(m_designEditor.get(), &DesignEditor::stored, this, &MainWindow::showRecords);
     connect(m_outputEditor.get(), &OutputEditor::modified, this, &MainWindow::showModified);
     connect(m_outputEditor.get(), &OutputEditor::refused, this, &MainWindow::showOutput);
@@ -197,31 +201,36 @@ void MainWindow::showReplaced()
 }
 
 /// Shows the project except for the model. The script comes last, since its page takes longest.
-void MainWindow::showProject()
+/// Returns whether everything was read.
+bool MainWindow::showProject()
 {
     const WaitCursor cursor;
-    m_panes->groups->setProject(m_project.handle());
+    const VkdStatus groups = m_panes->groups->setProject(m_project.handle());
     m_designEditor->setGroupsWithoutAreas(m_panes->groups->groupsWithoutAreas());
-    showRecords();
+    const bool areRecordsRead = showRecords();
     m_outputScript->clear();
     m_panes->sheets->setProject(m_project.handle(), m_project.name());
-    showContents();
+    const bool areLoadCasesRead = showContents();
     QTimer::singleShot(0, m_outputScript.get(), &OutputScript::refresh);
+    return groups.isOk() && areRecordsRead && areLoadCasesRead;
 }
 
-void MainWindow::showContents()
+/// Returns whether the load cases were read.
+bool MainWindow::showContents()
 {
+    VkdStatus status;
     m_contents->setText(m_project.isOpen()
                             ? tr("Groups: %1, load cases: %2")
                                   .arg(m_panes->groups->topLevelItemCount())
-                                  .arg(vkd::dbo::readLoadCases(m_project.handle()).size())
+                                  .arg(vkd::dbo::readLoadCases(m_project.handle(), &status).size())
                             : tr("No project"));
+    return status.isOk();
 }
 
-void MainWindow::showRecords()
+/// If the project cannot be read now, the previous records stay.
+bool MainWindow::showRecords()
 {
-    if (m_access.canRead()) // otherwise the previous records stay
-        m_panes->records()->setProject(m_project.handle());
+    return m_access.canRead() && m_panes->records()->setProject(m_project.handle());
 }
 
 /// Does nothing while a modal dialog is open, which may be using what would change here. The window

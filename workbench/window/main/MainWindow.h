@@ -57,9 +57,9 @@ private:
     void enableActions();
 
     void showReplaced();
-    void showProject();
-    void showContents();
-    void showRecords();
+    bool showProject();
+    bool showContents();
+    bool showRecords();
     void showNews();
     void followOthers();
     void showModified();

@@ -35,23 +35,23 @@ QStringList namesAndUnits()
 }
 } // namespace
 
-void RecordTableModel::read(ZobHandle project)
+bool RecordTableModel::read(ZobHandle project)
 {
     beginResetModel();
     m_records.clear();
-    Record record{};
-    int length = sizeof record;
-    for (int position = 0;
-         !project.isNull() && vkd_zob_get(project.index(), Design.key1, Design.key2, record.data(),
-                                          &length, position) == VKD_ZOB_OK;
-         ++position) {
-        m_records.push_back(record);
-        record = {};
-        length = sizeof record;
+    cd_error_t status = project.isNull() ? VKD_ZOB_NO_KEY : VKD_ZOB_OK;
+    for (int position = 0; status <= VKD_ZOB_CUT; ++position) {
+        Record record{};
+        int length = sizeof record;
+        status = vkd_zob_get(project.index(), Design.key1, Design.key2, record.data(), &length,
+                             position);
+        if (status <= VKD_ZOB_CUT)
+            m_records.push_back(record);
     }
     if (!project.isNull())
         vkd_zob_free_ex(project.index(), Design.key1, Design.key2);
     endResetModel();
+    return status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
 }
 
 /// Caches the texts: records differ in few words, so most words are equal.

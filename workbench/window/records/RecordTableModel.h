@@ -19,8 +19,9 @@ class RecordTableModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Reloads the records of the project at this database index; none if the index is below 1.
-    void read(ZobHandle project);
+    /// Reloads the records of the project; none if the handle is null. Of a longer record, only the
+    /// known words are shown. Returns whether all records were read.
+    bool read(ZobHandle project);
     /// Returns the text with the most characters.
     QString longestText() const;
 

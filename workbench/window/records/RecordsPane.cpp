@@ -23,10 +23,11 @@ RecordsPane::RecordsPane(QWidget* parent)
     setTexts();
 }
 
-void RecordsPane::setProject(ZobHandle project)
+bool RecordsPane::setProject(ZobHandle project)
 {
-    m_model->read(project);
+    const bool isWhole = m_model->read(project);
     fitColumns();
+    return isWhole;
 }
 
 void RecordsPane::changeEvent(QEvent* event)

@@ -17,8 +17,9 @@ class RecordsPane : public QTableView
 public:
     explicit RecordsPane(QWidget* parent = nullptr);
 
-    /// Reloads the records of the project; none if the handle is null.
-    void setProject(ZobHandle project);
+    /// Reloads the records of the project; none if the handle is null. Returns whether all records
+    /// were read.
+    bool setProject(ZobHandle project);
 
 protected:
     void changeEvent(QEvent* event) override;
