@@ -235,6 +235,29 @@ private Q_SLOTS:
         QVERIFY(again.section(QLatin1Char('\n'), -2).contains(QStringLiteral("Ø20")));
     }
 
+    /// A table that was exported in German changes nothing in the same project, and makes another
+    /// project equal to it.
+    void tablesOfRows()
+    {
+        for (const char* file : {"from.zob", "to.zob"})
+            run(QStringLiteral("new %1 --model slab").arg(QLatin1String(file)));
+        run("rows from.zob --set-row 4-9,gurx type=4 wko=0.1234567 hioq=unset");
+        for (const char* groups : {"none type=3 dio=20", "none", "remaining aso=1"})
+            run(QStringLiteral("rows from.zob --set-row ") + QLatin1String(groups));
+        QCOMPARE(run("rows from.zob --export a.csv --language german").out, QString());
+        QCOMPARE(run("rows from.zob --import a.csv --dry-run").out, QStringLiteral("no changes\n"));
+        const QString changes = run("rows to.zob --import a.csv --dry-run --language english").out;
+        for (const char* line :
+             {"4: deleted", "4;GURX: new row",
+              "4;GURX: Crack width upper principal [mm]:  -> 0.1234567",
+              "Remaining Groups: Minimum reinforcement upper principal [cm²/m]:  -> 1.00"})
+            QVERIFY2(changes.contains(QString::fromUtf8(line) + QLatin1Char('\n')),
+                     qPrintable(changes));
+        QCOMPARE(run("rows to.zob --import a.csv").out, run("rows from.zob").out);
+        run("rows to.zob --export b.csv --language german");
+        QCOMPARE(readFile(path("b.csv")), readFile(path("a.csv")));
+    }
+
     void lookingChangesNothing()
     {
         const QByteArray before = readFile(path("hall.zob"));
@@ -315,6 +338,13 @@ private Q_SLOTS:
         row("rows slab.zob type=1", "--set-row is missing");
         row("rows slab.zob --set-row 99 type=1", "there is no group \"99\"");
         row("rows slab.zob --set-row ; type=1", "there is no group \"\"");
+        row("rows slab.zob --dry-run", "--import is missing");
+        row("rows slab.zob --set-row 1 --export a",
+            "--set-row, --export and --import exclude each other");
+        row("rows slab.zob --export none/a", "cannot write none/a: No such file or directory");
+        row("rows slab.zob --import none", "cannot read none: No such file or directory");
+        row("rows slab.zob --import badcases.txt",
+            "badcases.txt: Row 1: \"1 2 ok\" is not the head of a column.");
         row("rows slab.zob --set-row 1 colour=1",
             "\"colour=1\" is no FIELD=VALUE of a design record");
         row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");

@@ -104,12 +104,17 @@ std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path)
     return document;
 }
 
-QString readText(const QString& path)
+QByteArray readBytes(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw CommandError{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
-    return QString::fromUtf8(file.readAll());
+    return file.readAll();
+}
+
+QString readText(const QString& path)
+{
+    return QString::fromUtf8(readBytes(path));
 }
 
 void print(const QString& text)

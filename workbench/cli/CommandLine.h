@@ -59,7 +59,8 @@ private:
 /// Opens a project, or throws a CommandError with the reason from the platform.
 std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path);
 
-/// Returns the text of a UTF-8 file, or throws a CommandError.
+/// Return the bytes of a file and the text of a UTF-8 file, or throw a CommandError.
+QByteArray readBytes(const QString& path);
 QString readText(const QString& path);
 
 /// Writes to standard output. Throws a CommandError if writing fails, for example on a full disk.

@@ -3,6 +3,8 @@
 #include "cli/CommandLine.h"
 #include "project/dialogPages.h"
 
+#include <exchange/patchRows.h>
+#include <exchange/rowColumns.h>
 #include <record/designEntries.h>
 #include <record/designFields.h>
 #include <record/designRecord.h>
@@ -76,6 +78,11 @@ DesignRows::DesignRows(VKD_H_ZOBDoc* document)
         m_namedGroups.insert(row.groups.begin(), row.groups.end());
 }
 
+plib::DesignParameterRow DesignRows::newRow() const
+{
+    return plib::defaultRow(m_data);
+}
+
 QString DesignRows::text() const
 {
     QString all;
@@ -113,9 +120,9 @@ std::set<int> DesignRows::knownGroups() const
 std::vector<int> DesignRows::parseGroups(const QString& text) const
 {
     const std::set<int> known = knownGroups();
-    if (text == QLatin1String("none") && !known.count(vkd::dbo::packedName(text)))
+    if (plib::isNoGroupsText(text) && !known.count(vkd::dbo::packedName(text)))
         return {};
-    if (text == QLatin1String("remaining"))
+    if (text == QLatin1String("remaining") || plib::isRemainingGroupsText(text))
         return {-1};
     const auto firstName = known.lower_bound(vkd::dbo::FirstPackedName);
     const vkd::h::GroupInput input =
@@ -128,12 +135,14 @@ std::vector<int> DesignRows::parseGroups(const QString& text) const
 /// Returns the row with exactly these groups, or null.
 plib::DesignParameterRow* DesignRows::findRow(const std::vector<int>& groups)
 {
-    // A row from a file may contain a group twice, so compare sets. A row with fewer entries than
-    // groups cannot be equal.
+    const auto mayBeEqual = [&groups](const std::vector<int>& found) {
+        return groups.empty() ||
+               std::find(found.begin(), found.end(), groups.front()) != found.end();
+    };
+    // A row from a file may contain a group twice, so compare sets.
     for (plib::DesignParameterRow& row : m_data.rows)
-        if (row.groups.size() >= groups.size() &&
-            std::set<int>(row.groups.begin(), row.groups.end()) ==
-                std::set<int>(groups.begin(), groups.end()))
+        if (mayBeEqual(row.groups) && std::set<int>(row.groups.begin(), row.groups.end()) ==
+                                          std::set<int>(groups.begin(), groups.end()))
             return &row;
     return nullptr;
 }
@@ -163,6 +172,58 @@ void DesignRows::setRow(const std::vector<int>& groups, const QStringList& field
     tagZOB_QUAD_RIM& record = rowOf(groups).record;
     for (const QString& field : fields)
         setField(record, field);
+}
+
+/// Parses the groups of all rows of the table.
+std::vector<std::vector<int>> DesignRows::groupsOf(const plib::RowTable& table,
+                                                   QStringList* faults) const
+{
+    std::vector<std::vector<int>> groupsOfRows;
+    std::set<int> named;
+    for (const plib::RowPatch& row : table.rows) {
+        const auto refuse = [&row, faults](const QString& reason) {
+            *faults << QStringLiteral("row %1: %2").arg(QString::number(row.line), reason);
+        };
+        groupsOfRows.emplace_back();
+        try {
+            groupsOfRows.back() = parseGroups(row.groups);
+        } catch (const CommandError& error) {
+            refuse(error.text);
+        }
+        for (int group : groupsOfRows.back())
+            if (!named.insert(group).second)
+                refuse(QStringLiteral("the groups \"%1\" are also in another row").arg(row.groups));
+    }
+    return groupsOfRows;
+}
+
+/// Returns the row without groups that has this number among them, counted from 0.
+plib::DesignParameterRow& DesignRows::rowWithoutGroups(int number)
+{
+    for (plib::DesignParameterRow& row : m_data.rows)
+        if (row.groups.empty() && number-- == 0)
+            return row;
+    return plib::addDefaultRow(m_data);
+}
+
+void DesignRows::import(const plib::RowTable& table)
+{
+    QStringList faults = table.faults;
+    if (faults.isEmpty() && !table.hasGroups)
+        faults << QStringLiteral("there is no column of groups");
+    std::vector<std::vector<int>> groups;
+    if (faults.isEmpty())
+        groups = groupsOf(table, &faults);
+    int withoutGroups = 0;
+    for (std::size_t i = 0; faults.isEmpty() && i < groups.size(); ++i) {
+        plib::DesignParameterRow& row =
+            groups[i].empty() ? rowWithoutGroups(withoutGroups++) : rowOf(groups[i]);
+        plib::DesignRowList changed{row};
+        faults << plib::patchRows({table.rows[i]}, m_data.kindOfSystem, &changed);
+        row = changed.front();
+    }
+    if (!faults.isEmpty())
+        throw CommandError{faults.join(QLatin1Char(' '))};
 }
 
 void DesignRows::write()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <record/DesignParameterData.h>
+#include <exchange/rowTable.h>
 #include <VKD_A_BarDiameterData.h>
 #include <VKD_H_ProjectDialogPage.h>
 
@@ -34,6 +34,15 @@ public:
     /// once. The other rows are searched only if one of them names such a group.
     void setRow(const std::vector<int>& groups, const QStringList& fields);
 
+    const plib::DesignRowList& rows() const { return m_data.rows; }
+    /// Returns a row with default parameters.
+    plib::DesignParameterRow newRow() const;
+
+    /// Sets the rows of a table: each in the row with exactly these groups, or in a new row, as
+    /// setRow() does. The rows without groups correspond to each other in their order. Other rows
+    /// stay. Throws a CommandError with all faults of the table.
+    void import(const plib::RowTable& table);
+
     /// Writes the rows into the project. Call it in the transaction in which the rows were read.
     void write();
 
@@ -41,7 +50,9 @@ private:
     const std::set<int>& modelGroups() const;
     std::set<int> knownGroups() const;
     std::vector<int> parseGroups(const QString& text) const;
+    std::vector<std::vector<int>> groupsOf(const plib::RowTable& table, QStringList* faults) const;
     plib::DesignParameterRow* findRow(const std::vector<int>& groups);
+    plib::DesignParameterRow& rowWithoutGroups(int number);
     plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
 
     VKD_H_ZOBDoc* m_document;

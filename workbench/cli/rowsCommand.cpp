@@ -2,11 +2,16 @@
 
 #include "cli/CommandLine.h"
 #include "cli/DesignRows.h"
+#include "cli/rowChanges.h"
 
 #include <record/designFields.h>
 #include <record/designStore.h>
 #include <VKD_H_ZOBDoc.h>
 #include <ZobTransaction.h>
+
+#include <QSaveFile>
+
+#include <functional>
 
 namespace workbench {
 
@@ -25,15 +30,61 @@ void failOn(const VkdStatus& failure)
         throw CommandError{failure.reason};
 }
 
-void storeRow(VKD_H_ZOBDoc* document, const QString& groups, const QStringList& fields)
+void storeRows(VKD_H_ZOBDoc* document, const std::function<void(DesignRows*)>& edit)
 {
     ZobTransaction change(document->handle());
     failOn(change.status());
     plib::checkAndCreateZobDefault(document->index());
     DesignRows rows(document);
-    rows.setRow(groups, fields);
+    edit(&rows);
     rows.write();
     failOn(change.commit());
+}
+
+/// Spreadsheets recognise UTF-8 by the byte order mark.
+void exportRows(const DesignRows& rows, const QString& path)
+{
+    const QString text =
+        QChar(QChar::ByteOrderMark) + plib::rowTableText(rows.rows(), plib::separatorOfFiles());
+    const QByteArray bytes = text.toUtf8();
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw CommandError{QStringLiteral("cannot write %1: %2").arg(path, file.errorString())};
+}
+
+/// Reads a table in UTF-8 or in the encoding that spreadsheets on Windows write.
+plib::RowTable readTable(const QString& path)
+{
+    const QByteArray bytes = readBytes(path);
+    const QString text = QString::fromUtf8(bytes);
+    const bool isUtf8 = !text.contains(QChar(QChar::ReplacementCharacter));
+    return plib::readRowTable(isUtf8 ? text : QString::fromLatin1(bytes));
+}
+
+void importRows(VKD_H_ZOBDoc* document, const QString& path, bool isDryRun)
+{
+    const plib::RowTable table = readTable(path);
+    try {
+        if (!isDryRun)
+            return storeRows(document, [&table](DesignRows* rows) { rows->import(table); });
+        DesignRows rows(document);
+        const plib::DesignRowList before = rows.rows();
+        rows.import(table);
+        print(describedChanges(before, rows.rows(), rows.newRow()));
+    } catch (const CommandError& error) {
+        throw CommandError{path + QLatin1String(": ") + error.text};
+    }
+}
+
+void checkOptions(const CommandLine& line)
+{
+    const int given = int(line.has("set-row")) + int(line.has("export")) + int(line.has("import"));
+    if (given > 1)
+        throw CommandError{QStringLiteral("--set-row, --export and --import exclude each other")};
+    if (line.has("dry-run") && !line.has("import"))
+        throw CommandError{QStringLiteral("--import is missing")};
+    if (!line.argumentsFrom(1).isEmpty() && !line.has("set-row"))
+        throw CommandError{QStringLiteral("--set-row is missing")};
 }
 } // namespace
 
@@ -54,15 +105,33 @@ int rowsCommand(const QStringList& arguments)
               "GROUPS is \"none\", \"remaining\", or numbers of groups, ranges such as 1-5 and "
               "names of secondary groups, separated by blanks, commas or semicolons. The groups of "
               "a new row are removed from other rows.")},
+         {QStringLiteral("export"), QStringLiteral("TABLE"),
+          QStringLiteral("Writes all rows into a file for spreadsheets, with a line of heads and a "
+                         "column for each value. Cells are separated by commas, in German by "
+                         "semicolons.")},
+         {QStringLiteral("import"), QStringLiteral("TABLE"),
+          QStringLiteral("Reads such a file, with heads in any language and order. The column of "
+                         "groups is required; each row is set as by --set-row. Values whose "
+                         "columns are missing stay. If a cell is wrong, nothing is stored.")},
+         {QStringLiteral("dry-run"), QString(),
+          QStringLiteral("With --import, prints the changes and stores nothing.")},
          languageOption()});
     line.parse(arguments);
     applyLanguage(line);
-    const QStringList fields = line.argumentsFrom(1);
-    if (!fields.isEmpty() && !line.has("set-row"))
-        throw CommandError{QStringLiteral("--set-row is missing")};
+    checkOptions(line);
     const auto document = openProject(line.argument(0));
     if (line.has("set-row"))
-        storeRow(document.get(), line.value("set-row"), fields);
+        storeRows(document.get(), [&line](DesignRows* rows) {
+            rows->setRow(line.value("set-row"), line.argumentsFrom(1));
+        });
+    if (line.has("export")) {
+        exportRows(DesignRows(document.get()), line.value("export"));
+        return 0;
+    }
+    if (line.has("import"))
+        importRows(document.get(), line.value("import"), line.has("dry-run"));
+    if (line.has("dry-run"))
+        return 0;
     print(DesignRows(document.get()).text());
     return 0;
 }

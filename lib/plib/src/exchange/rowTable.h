@@ -19,6 +19,9 @@ QChar separatorOfFiles();
 /// Returns the same table as an HTML document.
 QString rowTableHtml(const DesignRowList& rows);
 
+/// Returns a line "head: before -> after" for each cell that differs, except the groups.
+QStringList differentCells(const DesignParameterRow& before, const DesignParameterRow& after);
+
 /// The rows of a table that was read. If there are faults, the table must not be used.
 struct RowTable
 {

@@ -94,4 +94,17 @@ QString rowTableHtml(const DesignRowList& rows)
     return html + QLatin1String("</table></body></html>\n");
 }
 
+QStringList differentCells(const DesignParameterRow& before, const DesignParameterRow& after)
+{
+    QStringList lines;
+    for (const RowColumn& column : rowColumns()) {
+        const QString old = cellOf(before, column);
+        const QString now = cellOf(after, column);
+        if (column.kind != RowColumn::Groups && old != now)
+            lines << QStringLiteral("%1: %2 -> %3")
+                         .arg(headOf(column, vkd::desktopLanguage()), old, now);
+    }
+    return lines;
+}
+
 } // namespace plib
