@@ -6,8 +6,10 @@
 #include <VKD_H_ProjectDialogPage.h>
 
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 
 #include <cstring>
@@ -319,7 +321,7 @@ private Q_SLOTS:
             before << state();
             step.run();
             QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
-                     QLatin1String("Undo ") + QLatin1String(step.name));
+                     QLatin1String("&Undo ") + QLatin1String(step.name));
             table->setCurrentCell(-1, -1); // and so closes the editor
             table->setCurrentCell(0, 0);
             after << state();
@@ -343,6 +345,57 @@ private Q_SLOTS:
         QVERIFY(
             !find<QAction>(*desk.page, "redo")->isEnabled()); // the rows are in the stored form now
         QVERIFY(bytesOf(m_project->records()) == stored);
+    }
+
+    /// Pasting sets parameters and leaves groups, completely or not at all, in a single step.
+    void copyingRows()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 4), record(2, 4, 0)});
+        QTableWidget* table = desk.table();
+        const auto press = [&](int key, Qt::KeyboardModifiers modifiers = {}) {
+            QTest::keyClick(table, Qt::Key(key), Qt::ControlModifier | modifiers);
+            return desk.groups();
+        };
+        table->setCurrentCell(1, 3);
+        press(Qt::Key_C);
+        const QString copied = QApplication::clipboard()->text();
+        QCOMPARE(copied.count(QLatin1Char('\n')), 2);
+        QVERIFY(QApplication::clipboard()->mimeData()->html().contains(QLatin1String("<td>4.00")));
+        table->setCurrentCell(0, 3, QItemSelectionModel::ClearAndSelect);
+        table->setRangeSelected({2, 3, 2, 3}, true);
+        const QString before = desk.row(0) + desk.row(2);
+        QCOMPARE(press(Qt::Key_V), QStringLiteral("Remaining Groups|1|2"));
+        QCOMPARE(desk.row(0).section(QLatin1Char('|'), 1),
+                 desk.row(1).section(QLatin1Char('|'), 1));
+        QCOMPARE(desk.row(2).section(QLatin1Char('|'), 1),
+                 desk.row(1).section(QLatin1Char('|'), 1));
+        press(Qt::Key_Z);
+        QCOMPARE(desk.row(0) + desk.row(2), before);
+        QCOMPARE(press(Qt::Key_D, Qt::ShiftModifier), QStringLiteral("Remaining Groups|1|2||None"));
+        QCOMPARE(desk.row(4).section(QLatin1Char('|'), 1),
+                 desk.row(2).section(QLatin1Char('|'), 1));
+        QCOMPARE(press(Qt::Key_V, Qt::ShiftModifier),
+                 QStringLiteral("Remaining Groups|1|2|None|None|"));
+        table->clearSelection();
+        QApplication::clipboard()->setText(
+            QString(copied).replace(QLatin1String("4.00"), QLatin1String("5,5")));
+        press(Qt::Key_V);
+        QVERIFY(desk.row(6).contains(QLatin1String("5.50 cm")));
+        const QString same = desk.row(6);
+        QStringList told;
+        for (const char* text : {"Type\n7", "x", "Type\n1\n2"}) {
+            QApplication::clipboard()->setText(QLatin1String(text));
+            whenModal([&told](QWidget* box) {
+                told << qobject_cast<QMessageBox*>(box)->text().section(QLatin1Char('\n'), 2);
+                qobject_cast<QDialog*>(box)->reject();
+            });
+            press(Qt::Key_V);
+            QApplication::setActiveWindow(&desk);
+            QCOMPARE(desk.row(6), same);
+            QCOMPARE(table->rowCount(), 7);
+        }
+        QCOMPARE(told.size(), 3);
+        QCOMPARE(told.first(), QStringLiteral("Row 2, Type: \"7\" is not a type."));
     }
 
     void choosingRemainingGroups()

@@ -197,6 +197,10 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <source>&amp;Go Back</source>
         <translation>&amp;Zurück</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ExtentFields</name>

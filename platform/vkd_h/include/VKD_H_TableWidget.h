@@ -39,7 +39,8 @@ public:
     /// deleted row on. Clears the selection.
     virtual void deleteSelectedRows();
 
-    /// Returns a new context menu. The table owns it and deletes it in the next call.
+    /// Returns a new context menu, with the actions of the table (QWidget::actions()) after the
+    /// common ones. The table owns it and deletes it in the next call.
     virtual VKD_QT_Menu* getContextMenu();
 
     using VKD_QT_TableWidget::edit;
@@ -60,6 +61,7 @@ private:
     void rowCountMayHaveChanged();
     void moveRow(int row, int to);
     QString shownText(const QModelIndex& cell) const;
+    bool hasActionFor(QKeySequence::StandardKey key) const;
     void openCell();
     const QWidget* widgetOverACell() const;
     void closeCell(const QWidget* widget);

@@ -17,6 +17,7 @@
 #include <vkd_zob_keys.h>
 #include <ZobSnapshot.h>
 
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -72,7 +73,10 @@ DesignDialog::DesignDialog(OpenProject* project, QWidget* parent)
 {
     setWindowTitle(tr("Design Parameters"));
     setHelpTopic(this, "MERDAN/PARA");
-    new QVBoxLayout(this);
+    auto menus = new QMenuBar(this);
+    menus->setNativeMenuBar(false);
+    m_edit = menus->addMenu(tr("&Edit"));
+    (new QVBoxLayout(this))->setMenuBar(menus);
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 28});
     new WindowGeometry(this);
 }
@@ -113,6 +117,7 @@ void DesignDialog::showPage()
     connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &DesignDialog::accept);
     connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &DesignDialog::reject);
     m_page->getEntrys(m_entries);
+    m_edit->addActions(m_page->actions()); // those of an earlier page are deleted with it
 }
 
 cd_error_t DesignDialog::store(SeenPart::Newer newer)

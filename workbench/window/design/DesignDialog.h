@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class QMenu;
 class VKD_H_ZOBDoc;
 class VKD_P_DesignParameter;
 class VKD_QT_Ok;
@@ -55,6 +56,7 @@ private:
     VKD_H_ProjectDialogPage m_entries;
     VKD_P_DesignParameter* m_page = nullptr;
     VKD_QT_Ok* m_buttons = nullptr;
+    QMenu* m_edit;
 };
 
 } // namespace workbench

@@ -674,20 +674,55 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
 <context>
     <name>plib::RowsHistory</name>
     <message>
-        <source>Undo %1</source>
-        <translation>Rückgängig: %1</translation>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>Redo %1</source>
-        <translation>Wiederholen: %1</translation>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
     </message>
     <message>
-        <source>Redo</source>
-        <translation>Wiederholen</translation>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>plib::RowsClipboard</name>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste as &amp;New Rows</source>
+        <translation>Als &amp;neue Zeilen einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate Rows</source>
+        <translation>Zeilen &amp;duplizieren</translation>
+    </message>
+    <message>
+        <source>The clipboard contains no rows of design parameters. A table needs the heads that copied rows have.</source>
+        <translation>Die Zwischenablage enthält keine Zeilen mit Bemessungsparametern. Eine Tabelle braucht die Spaltenköpfe, die kopierte Zeilen haben.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted.</source>
+        <translation>Es wurde nichts eingefügt.</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
     </message>
 </context>
 </TS>

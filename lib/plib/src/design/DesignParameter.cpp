@@ -3,6 +3,7 @@
 #include "design/BoxExplanation.h"
 #include "design/designColumns.h"
 #include "design/DesignParameterTable.h"
+#include "design/RowsClipboard.h"
 #include "design/RowsHistory.h"
 #include "record/designEntries.h"
 #include "record/designRows.h"
@@ -80,6 +81,7 @@ void DesignParameter::init()
     setLayout(layout);
     connectTable();
     new plib::RowsHistory(this);
+    new plib::RowsClipboard(this);
     setFocusProxy(data->table);
     editRow = -1;
     editColumn = -1;

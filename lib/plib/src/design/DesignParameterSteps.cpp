@@ -41,7 +41,8 @@ void DesignParameter::replaceRows(int first, int count, const plib::DesignRowLis
             showSharedGroups();
         selection.restore(data->table);
     }
-    slot_editCellWidget();
+    if (data->table->selectionModel()->hasSelection())
+        slot_editCellWidget();
     if (count != int(by.size()))
         Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }

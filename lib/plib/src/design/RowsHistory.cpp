@@ -71,6 +71,7 @@ RowsHistory::RowsHistory(DesignParameter* page)
             (m_stack.*step)();
         });
         m_page->addAction(action);
+        m_page->state().table->addAction(action); // for its menu
     };
     prepare(m_undo, "undo", {Qt::CTRL | Qt::Key_Z}, &QUndoStack::undo);
     prepare(m_redo, "redo", {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
@@ -96,8 +97,8 @@ void RowsHistory::showSteps()
 {
     m_undo->setEnabled(m_stack.canUndo());
     m_redo->setEnabled(m_stack.canRedo());
-    m_undo->setText(m_stack.canUndo() ? tr("Undo %1").arg(m_stack.undoText()) : tr("Undo"));
-    m_redo->setText(m_stack.canRedo() ? tr("Redo %1").arg(m_stack.redoText()) : tr("Redo"));
+    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(m_stack.undoText()) : tr("&Undo"));
+    m_redo->setText(m_stack.canRedo() ? tr("&Redo %1").arg(m_stack.redoText()) : tr("&Redo"));
 }
 
 /// Compares the rows of the step and their neighbours, with which they may have been swapped.

@@ -13,6 +13,15 @@ TableSelection::TableSelection(const QTableWidget& table)
         m_ranges << QRect(QPoint(range.left(), range.top()), QPoint(range.right(), range.bottom()));
 }
 
+TableSelection TableSelection::ofColumn(int column, int firstRow, int lastRow)
+{
+    TableSelection selection;
+    selection.m_row = firstRow;
+    selection.m_column = column;
+    selection.m_ranges << QRect(QPoint(column, firstRow), QPoint(column, lastRow));
+    return selection;
+}
+
 void TableSelection::restore(QTableWidget* table) const
 {
     const QAbstractItemModel* model = table->model();

@@ -14,6 +14,8 @@ class TableSelection
 public:
     TableSelection() = default;
     explicit TableSelection(const QTableWidget& table);
+    /// Selects cells of a column; the first becomes the current cell.
+    static TableSelection ofColumn(int column, int firstRow, int lastRow);
 
     /// Selects these cells. The table's signals tell the page; the caller may block them.
     void restore(QTableWidget* table) const;

@@ -127,14 +127,26 @@ void VKD_H_TableWidget::moveRow(int row, int to)
     setRowHidden(to, isHidden);
 }
 
+bool VKD_H_TableWidget::hasActionFor(QKeySequence::StandardKey key) const
+{
+    const QList<QAction*> added = actions();
+    return std::any_of(added.begin(), added.end(), [key](const QAction* action) {
+        return action->shortcuts().contains(QKeySequence(key));
+    });
+}
+
 VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
 {
     delete m_menu;
     m_menu = new VKD_QT_Menu(this);
-    QAction* copy =
-        m_menu->addAction(tr("Copy"), this, &VKD_H_TableWidget::copySelection, QKeySequence::Copy);
+    QAction* copy = m_menu->addAction(tr("Copy"), this, &VKD_H_TableWidget::copySelection);
     copy->setEnabled(selectionModel()->hasSelection());
+    if (!hasActionFor(QKeySequence::Copy))
+        copy->setShortcut(QKeySequence::Copy);
     m_menu->addAction(tr("Select All"), this, &QTableWidget::selectAll, QKeySequence::SelectAll);
+    if (!actions().isEmpty())
+        m_menu->addSeparator();
+    m_menu->addActions(actions());
     if (m_addsAndDeletes) {
         m_menu->addSeparator();
         m_menu->addAction(tr("New"), this, [this] { addNewRow(true); });
