@@ -38,8 +38,9 @@ MainWindow* shownWindow()
     return nullptr;
 }
 
-/// Saves the project under this name, replacing an existing file.
-void saveAs(const MainWindow& window, const QString& path, QStringList* messages = nullptr)
+/// Saves the project under this name, or creates another one, and replaces an existing file.
+void saveAs(const MainWindow& window, const QString& path, QStringList* messages = nullptr,
+            const char* action = "SaveAs")
 {
     whenModal([&](QWidget* dialog) {
         if (QFileInfo::exists(path))
@@ -52,7 +53,7 @@ void saveAs(const MainWindow& window, const QString& path, QStringList* messages
             readMessage(*messages);
         enterFile(dialog, path);
     });
-    trigger(window, "SaveAs");
+    trigger(window, action);
 }
 } // namespace
 
@@ -110,23 +111,35 @@ private Q_SLOTS:
         QCOMPARE(vkd_zob_close(index).code, VKD_ZOB_OK);
     }
 
-    void saveAsFails_data()
+    void savingFails_data()
     {
-        const Columns<QByteArray, QString> row("place", "reason");
-        const char* isProtected = "It or the folder it lies in is write-protected.";
-        const char* isWritten = "Another program is writing to it.";
-        row("no folder", "no/new.zob", "Its folder is not there.");
-        row("protected folder", "protected/new.zob", isProtected);
-        row("protected file", "protected.zob", isProtected);
-        row("in use", "used.zob", isWritten);
-        row("source in use", "new.zob", isWritten);
-        row("disk full", "full.zob", "There is no room left on the disk.");
+        const Columns<QByteArray, QByteArray, QString> row("action", "place", "message");
+        const QString notSaved = QStringLiteral("The project cannot be saved in the file %1.\n");
+        const QString notWritten = QStringLiteral("The file %1 cannot be written.\n");
+        const QLatin1String noFolder("Its folder is not there.");
+        const QLatin1String isProtected("It or the folder it lies in is write-protected.");
+        const QLatin1String isWritten("Another program is writing to it.");
+        row("no folder", "SaveAs", "no/new.zob", notSaved + noFolder);
+        row("protected folder", "SaveAs", "protected/new.zob", notSaved + isProtected);
+        row("protected file", "SaveAs", "protected.zob", notSaved + isProtected);
+        row("in use", "SaveAs", "used.zob", notSaved + isWritten);
+        row("source in use", "SaveAs", "new.zob", notSaved + isWritten);
+        row("disk full", "SaveAs", "full.zob",
+            notSaved + QLatin1String("There is no room left on the disk."));
+        row("new, no folder", "NewFromSample", "no/new.zob", notWritten + noFolder);
+        row("new, protected folder", "NewFromSample", "protected/new.zob",
+            notWritten + isProtected);
+        row("new, in use", "NewFromSample", "used.zob", notWritten + isWritten);
+        row("new, disk full", "NewFromSample", "full.zob",
+            "The project cannot be made.\ncannot create %1: the disk is full, or it does not take "
+            "what is written (File too large)");
     }
 
-    void saveAsFails()
+    void savingFails()
     {
+        QFETCH(const QByteArray, action);
         QFETCH(const QByteArray, place);
-        QFETCH(const QString, reason);
+        QFETCH(const QString, message);
         const auto window = open("mine.zob");
         QDir().mkdir(path("protected"));
         QFile::setPermissions(path("protected"), QFile::ReadOwner | QFile::ExeOwner);
@@ -137,11 +150,10 @@ private Q_SLOTS:
                                  isSourceUsed ? OtherProgram::Storing : OtherProgram::Taking);
         const QStringList before = QDir(m_folder->path()).entryList();
         QStringList messages;
-        const Obstacle obstacle(QTest::currentDataTag(), path("mine.zob"));
-        saveAs(*window, path(place), &messages);
+        const Obstacle obstacle(place == "full.zob" ? "disk full" : "", path("mine.zob"));
+        saveAs(*window, path(place), &messages, action);
         QCOMPARE(messages.join(QLatin1Char('|')),
-                 QStringLiteral("The project cannot be saved in the file %1.\n%2")
-                     .arg(path(place), reason));
+                 QString(message).replace(QLatin1String("%1"), path(place)));
         QVERIFY(window->windowTitle().startsWith(QLatin1String("mine.zob")));
         QCOMPARE(QDir(m_folder->path()).entryList(), before);
         QFile::setPermissions(path("protected"),

@@ -85,8 +85,7 @@ bool FileCommands::makeProject(const QString& path, const QString& model)
     QWidget* window = m_parts.messages->window();
     const QString sentence = tr("The file %1 cannot be written.");
     std::unique_ptr<ZobFilePlace> place;
-    const cd_error_t taken = takePlace(window, path, &place);
-    if (!m_parts.messages->succeeds(taken, path, sentence))
+    if (!m_parts.messages->succeeds(takePlace(window, path, &place), path, sentence))
         return false;
     const QString unfinished = place->temporaryPath();
     QString trouble;
@@ -101,7 +100,7 @@ bool FileCommands::makeProject(const QString& path, const QString& model)
             tr("The project cannot be made.\n%1").arg(trouble.replace(unfinished, path)));
         return false;
     }
-    const cd_error_t status = goesOn ? place->commit().code : int(VKD_ZOB_CANCELLED);
+    const VkdStatus status = goesOn ? place->commit() : VkdStatus{VKD_ZOB_CANCELLED, QString()};
     return m_parts.messages->succeeds(status, path, sentence);
 }
 

@@ -24,7 +24,9 @@ QString failure(QProcess& process)
         return process.errorString();
     if (process.exitCode() == 0)
         return QString();
-    return QString::fromUtf8(process.readAllStandardError()).section(QLatin1String(": "), 1);
+    return QString::fromUtf8(process.readAllStandardError())
+        .section(QLatin1String(": "), 1)
+        .trimmed();
 }
 
 /// Kills the process and returns false if `goOn` returns false.

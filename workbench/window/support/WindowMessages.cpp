@@ -34,12 +34,18 @@ void WindowMessages::complainOfWriting(const QString& path, const QString& reaso
 
 bool WindowMessages::succeeds(cd_error_t status, const QString& path, const QString& sentence)
 {
-    if (status == VKD_ZOB_CANCELLED)
+    return succeeds(VkdStatus{status, QString()}, path, sentence);
+}
+
+bool WindowMessages::succeeds(const VkdStatus& status, const QString& path, const QString& sentence)
+{
+    const bool hasOwnReason = status.code == VKD_ZOB_FAILED && !status.reason.isEmpty();
+    if (status.code == VKD_ZOB_CANCELLED)
         say(tr("Cancelled."));
-    else if (status != VKD_ZOB_OK)
+    else if (!status.isOk())
         complain(sentence.arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') +
-                 storeErrorText(path, status));
-    return status == VKD_ZOB_OK;
+                 (hasOwnReason ? status.reason : storeErrorText(path, status.code)));
+    return status.isOk();
 }
 
 bool WindowMessages::mayLeave(const QString& question, const std::function<bool()>& store)

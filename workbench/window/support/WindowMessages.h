@@ -29,6 +29,8 @@ public:
     /// Shows a failure with the path inserted into `sentence`, and its reason. If the user has
     /// cancelled, only the status bar shows it. Returns whether `status` is VKD_ZOB_OK.
     bool succeeds(cd_error_t status, const QString& path, const QString& sentence);
+    /// The same; if the system failed to read or write, the reason is that of the status.
+    bool succeeds(const VkdStatus& status, const QString& path, const QString& sentence);
     /// Asks whether to store changes and calls `store` if the user wants to. Returns false if the
     /// user cancels or `store` returns false.
     bool mayLeave(const QString& question, const std::function<bool()>& store);

@@ -14,61 +14,71 @@ namespace workbench {
 namespace {
 constexpr int Kilobyte = 1024;
 
-cd_error_t statusOf(const QFileDevice& file)
+/// Returns the status after a failure. Qt reports no error if only a part was written.
+VkdStatus failureOf(const QFileDevice& file)
 {
     switch (file.error()) {
-    case QFileDevice::NoError: return VKD_ZOB_OK;
     case QFileDevice::OpenError:
-    case QFileDevice::PermissionsError:
-    case QFileDevice::RenameError: return VKD_ZOB_READ_ONLY;
-    case QFileDevice::WriteError:
-    case QFileDevice::ResourceError: return VKD_ZOB_FULL;
-    default: return VKD_ZOB_FAILED;
+    case QFileDevice::PermissionsError: return {VKD_ZOB_READ_ONLY, file.errorString()};
+    case QFileDevice::NoError:
+    case QFileDevice::ResourceError: return {VKD_ZOB_FULL, file.errorString()};
+    default: return {VKD_ZOB_FAILED, file.errorString()};
     }
 }
 
-cd_error_t copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
+VkdStatus copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
 {
     const int size = int(QFileInfo(document.path()).size() / Kilobyte); // 0 if the file is missing
     SlowWork work(parent, SlowWork::tr("The project is being saved."), size);
     qint64 done = 0;
     bool isWritten = true;
-    const VkdStatus status = vkd_zob_copy(document.index(), [&](const void* bytes, int length) {
-        isWritten = to.write(static_cast<const char*>(bytes), length) == length;
-        done += length;
-        return isWritten && work.goOn(int(done / Kilobyte));
+    const VkdStatus status =
+        vkd_zob_copy(document.handle().index(), [&](const void* bytes, int length) {
+            isWritten = to.write(static_cast<const char*>(bytes), length) == length;
+            done += length;
+            return isWritten && work.goOn(int(done / Kilobyte));
+        });
+    if (!status.isOk() && isWritten)
+        return status;
+    return isWritten && to.flush() ? VkdStatus() : failureOf(to);
+}
+
+/// Calls `attempt` until the store is not locked, see waitForStore().
+VkdStatus waitFor(QWidget* parent, const QString& path, const std::function<VkdStatus()>& attempt)
+{
+    VkdStatus status;
+    const cd_error_t code = waitForStore(parent, path, [&] {
+        status = attempt();
+        return status.code;
     });
-    return isWritten ? status.code : VKD_ZOB_FULL; // Qt reports no error for a partial write
+    return code == status.code ? status : VkdStatus{code, QString()}; // cancelled
 }
 } // namespace
 
-cd_error_t takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place)
+VkdStatus takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place)
 {
-    return waitForStore(parent, path, [&path, place] {
+    return waitFor(parent, path, [&path, place] {
         place->reset(); // releases the lock before the next attempt
         *place = std::make_unique<ZobFilePlace>(path);
-        return (*place)->status().code;
+        return (*place)->status();
     });
 }
 
-cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path)
+VkdStatus copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path)
 {
     std::unique_ptr<ZobFilePlace> place;
-    cd_error_t status = takePlace(parent, path, &place);
-    if (status != VKD_ZOB_OK)
-        return status;
-    status = waitForStore(parent, document.path(),
-                          [&document] { return ZobSnapshot(document.handle()).status().code; });
-    if (status != VKD_ZOB_OK)
+    VkdStatus status = takePlace(parent, path, &place);
+    if (status.isOk())
+        status = waitFor(parent, document.path(),
+                         [&document] { return ZobSnapshot(document.handle()).status(); });
+    if (!status.isOk())
         return status;
     QFile to(place->temporaryPath());
     if (!to.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return statusOf(to);
+        return failureOf(to);
     status = copyBytes(parent, document, to);
     to.close();
-    if (status == VKD_ZOB_OK)
-        status = to.error() == QFileDevice::NoError ? place->commit().code : statusOf(to);
-    return status;
+    return status.isOk() ? place->commit() : status;
 }
 
 } // namespace workbench

@@ -14,10 +14,10 @@ namespace workbench {
 
 /// Reserves the path of a project file, see ZobFilePlace, and waits while another program is
 /// writing to a project at this path. Returns the status of the place, or VKD_ZOB_CANCELLED.
-cd_error_t takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place);
+VkdStatus takePlace(QWidget* parent, const QString& path, std::unique_ptr<ZobFilePlace>* place);
 
 /// Copies an open project, as of the last stored change, to `path`. An existing file is replaced in
 /// one step. Returns a VkdZobStatus; after a failure or Cancel, the file at `path` is unchanged.
-cd_error_t copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path);
+VkdStatus copyProject(QWidget* parent, const VKD_H_ZOBDoc& document, const QString& path);
 
 } // namespace workbench
