@@ -60,7 +60,8 @@ public:
     int walk(Fault fault)
     {
         int failures = 0;
-        for (int call = 1; runWith(fault, call); call += m_operation.stride) {
+        for (int call = 1 + int(fault) % m_operation.stride; runWith(fault, call);
+             call += m_operation.stride) {
             checkResult(fault);
             checkRepetition();
             ++failures;

@@ -10,6 +10,8 @@ using Run = std::function<VkdStatus(const QString& path)>;
 Q_DECLARE_METATYPE(Run)
 
 namespace {
+constexpr int NumberOfRecords = 30;
+
 /// Opens a project, puts records and closes it.
 VkdStatus change(const QString& path, const Records& records)
 {
@@ -42,10 +44,11 @@ VkdStatus read(const QString& path)
     int index = -1;
     VkdStatus status = vkd_zob_open(path.toUtf8(), &index);
     cd_error_t end = VKD_ZOB_END;
-    if (status.isOk())
-        readAll(index, 1, &end);
+    const Records records = status.isOk() ? readAll(index, 1, &end) : Records();
     if (end != VKD_ZOB_END)
         status = vkd_zob_last_failure(index);
+    else if (status.isOk() && records.size() != NumberOfRecords)
+        status = VkdStatus::failure(VKD_ZOB_FAILED, QStringLiteral("records are missing"));
     vkd_zob_close(index);
     return status;
 }
@@ -124,7 +127,7 @@ private:
         if (kind == "-")
             return;
         Records records;
-        for (int i = 0; i < 30; ++i)
+        for (int i = 0; i < NumberOfRecords; ++i)
             records << QByteArray::number(i).repeated(100);
         makeProject(path, records);
         if (kind == "version 1")
