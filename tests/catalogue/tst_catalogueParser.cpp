@@ -57,7 +57,7 @@ private Q_SLOTS:
         row("adjacent bars shift", QByteArray("3|0|0|A|B|C||Node|7|last-l|1|1|x|0|KNOT|NODE\n"),
             record);
         row("fourteen parts first", fourteen, {});
-        row("fourteen parts behind fifteen", fifteen + fourteen, record + carried);
+        row("fourteen parts after fifteen", fifteen + fourteen, record + carried);
         row("fourteen columns and a bar", fifteen + fourteen + "|\n", record);
         row("fourteen columns and a bar without line feed", fifteen + fourteen + "|",
             record + carried);
@@ -65,7 +65,7 @@ private Q_SLOTS:
             QByteArray(fifteen).replace("KNOT", " ") + fourteen, carried);
         row("a blank script is stored too",
             fifteen + QByteArray(fifteen).replace("NODE", " ") + fourteen, record);
-        row("the same line again behind one that is not ASCII",
+        row("the same line again after one that is not ASCII",
             fifteen + QByteArray(fifteen).replace("x", "\xC3\xA4") + fifteen,
             record + QString(record).replace(QLatin1Char('x'), QChar(0xE4)) + record);
         row("captions",

@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(desk.row(1), QStringLiteral("1|No design|||"));
     }
 
-    void editorsComeAndGo()
+    void editorsOpenAndClose()
     {
         DesignDesk desk(*m_project,
                         {record(-1, 1, 0), record(1, 2, 1), record(2, 0, 2), record(3, 4, 3)});
@@ -522,7 +522,7 @@ private Q_SLOTS:
     }
 
     /// A host may close the project, and so delete the page, while a dialog is open.
-    void pageGoesBelowItsDialogs()
+    void pageIsDestroyedDuringItsDialogs()
     {
         for (int column : {0, 1, 2}) {
             auto desk = std::make_unique<DesignDesk>(

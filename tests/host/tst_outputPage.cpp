@@ -104,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(rows, QSet<QString>({QStringLiteral("1 : Snow"), both}));
     }
 
-    void defaultsComeBack()
+    void defaultSettings()
     {
         Desk desk(m_project);
         const QString fresh = desk.page.writeXMLstring();
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QCOMPARE(desk.find<QComboBox>("box_scale")->currentText(), QStringLiteral("1:100"));
     }
 
-    void keptAndRestored_data()
+    void savedAndRestored_data()
     {
         const Columns<int, QString> row("kind", "model");
         row("standard", VKD_P_GraphicalOutput_Standard, "building");
@@ -131,7 +131,7 @@ private Q_SLOTS:
         row("prefix", VKD_P_GraphicalOutput_Prefix, "slab");
     }
 
-    void keptAndRestored()
+    void savedAndRestored()
     {
         QFETCH(int, kind);
         QFETCH(QString, model);
@@ -151,14 +151,14 @@ private Q_SLOTS:
             plot->setCheckState(0, Qt::Unchecked);
             plot->child(1)->setCheckState(0, Qt::Checked);
         }
-        const QString kept = desk.page.writeXMLstring();
+        const QString saved = desk.page.writeXMLstring();
         const QString script = desk.page.getTORVAL(QStringLiteral("more\n"), false);
         QVERIFY(script.contains(QLatin1String("more\n")));
-        QVERIFY(kept.contains(QLatin1String("2,5")));
+        QVERIFY(saved.contains(QLatin1String("2,5")));
         Desk again(project, progname);
-        QVERIFY(again.page.writeXMLstring() != kept);
-        again.page.readXMLstring(kept);
-        QCOMPARE(again.page.writeXMLstring(), kept);
+        QVERIFY(again.page.writeXMLstring() != saved);
+        again.page.readXMLstring(saved);
+        QCOMPARE(again.page.writeXMLstring(), saved);
         QCOMPARE(again.page.getTORVAL(QStringLiteral("more\n"), false), script);
     }
 

@@ -190,7 +190,7 @@ private Q_SLOTS:
         QVERIFY(desk.button(1)->isEnabled());
     }
 
-    void textsOfOthers()
+    void foreignTexts()
     {
         const auto sentFor = [](const char* text) {
             Desk desk(Form::All);
@@ -224,7 +224,7 @@ private Q_SLOTS:
         QVERIFY(second.isEnabled());
     }
 
-    void whoGoesFirst()
+    void orderOfDestruction()
     {
         Group lonely;
         lonely.init(nullptr);

@@ -7,7 +7,7 @@ class tst_exports : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void onlyWhatHostsMayUse()
+    void onlyExportedNames()
     {
         QProcess nm;
         nm.start(QStringLiteral(NM), {QStringLiteral("-DC"), QStringLiteral("--defined-only"),

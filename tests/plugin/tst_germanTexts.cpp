@@ -95,7 +95,7 @@ private Q_SLOTS:
 
     /// The page recognises an entry of the group editor (dlgSelection) by its text in the context
     /// of the page, which is also the context of the text in the table.
-    void sameWordsWhereverTheyAreCompared()
+    void wordsAreComparedInOneWay()
     {
         for (const char* source : {"None", "Remaining Groups"}) {
             QStringList words;

@@ -44,7 +44,7 @@ private Q_SLOTS:
     }
 
     /// QtTest cannot write either of these logs.
-    void selfCheckWithLogsOfOtherPlaces()
+    void selfCheckWithUnusualLogs()
     {
         const QTemporaryDir folder;
         QDir(folder.path()).mkdir(QStringLiteral("a,b"));

@@ -46,7 +46,7 @@ private Q_SLOTS:
         row("more than seven fields", "3||||||0|9|9", "3 0 0 0 0 0 0 0 0 0 0 0 0");
         row("one diameter", "1;||||8;||", "1 0 0 0 0 0 8 0 0 0 0 0 0");
         row("four diameters are one", "1;||||8;9;10;11;||", "1 0 0 0 0 0 8 0 0 0 0 0 0");
-        row("five and the element behind them are six", "1;||||8;9;10;11;12;||",
+        row("five and a next element are six", "1;||||8;9;10;11;12;||",
             "1 0 0 0 0 0 8 9 10 0 0 0 0");
         row("stresses are read as integers", "1|||||;;;;;;347.8;0;0;0;0;1.23457e+06|",
             "1 0 0 0 0 0 0 0 0 0 0 0 0");
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QTEST(summary(row.record), "expected");
     }
 
-    void whatAnEntryLoses()
+    void fieldsMissingInAnEntry()
     {
         tagZOB_QUAD_RIM record = plib::getDefaultMerPara(true);
         QCOMPARE(plib::entryText(record), QLatin1String(Defaults));
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(row.record.mode, 0);
     }
 
-    void rowsWithoutGroupsGoThereAndComeBack()
+    void rowsWithoutGroupsAreSavedAndRestored()
     {
         VKD_H_ProjectDialogPage page;
         for (int n = 1; n <= 4; ++n)

@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(twice.rows.size(), 2 * count);
     }
 
-    void shortRecordKeepsWhatStoodThere()
+    void shortRecordLeavesTheOtherBytes()
     {
         R first = record(1, 1);
         first.wko = 0.3F;

@@ -49,7 +49,7 @@ private Q_SLOTS:
         QTEST(testsupport::treeText(&root), "expected");
     }
 
-    void itemsHoldWhatTheScriptNeeds()
+    void itemsContainTheScriptData()
     {
         const auto records = testsupport::parse(line("A|B|B", "desi-e", 0, 0, "g1", "e1") +
                                                 line("A|B|C", "last-l", 0, 0, "g2", "e2"));
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(plot->childCount(), 2);
     }
 
-    void recordsWithoutScriptLeaveNothing()
+    void recordsWithoutScript()
     {
         auto records = testsupport::parse(line("A|B|B", " ") + line("A|B|C", "last-l"));
         records[0].scriptGerman.clear();

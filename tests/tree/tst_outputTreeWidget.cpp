@@ -166,7 +166,7 @@ private Q_SLOTS:
 
     /// The user's choice is replaced by the default until a choice was applied, and when the rows
     /// change.
-    void whatARebuildKeeps()
+    void choiceAfterARebuild()
     {
         useCatalogue(line("A|B|C", "last-l", 1) + line("A|B|D", " ").replace("| |0|", "|Quad|0|"));
         Tree tree(nullptr, StandardPage, m_parameter.get(), "m_list");

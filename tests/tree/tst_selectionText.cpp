@@ -84,9 +84,9 @@ private Q_SLOTS:
         row("unknown words and short lines are skipped",
             "checked:@A__\nChecked\n:\nERROR CASE\nNo:@A__\nChecked:@A__   @B__   @D__",
             "--.... xxxx ....");
-        row("nothing behind a comma is no number", "Partially:@A__   @B__ : 7,",
+        row("a comma without a number", "Partially:@A__   @B__ : 7,",
             "...... .... ....");
-        row("a row's number behind the identifier is not read", "Checked:@A__:%2",
+        row("the number after the identifier is not read", "Checked:@A__:%2",
             "xxxxxx xxxx ....");
     }
 
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(states(&root), before);
     }
 
-    void itemsThatAreNoneOfOurs()
+    void foreignItems()
     {
         OutputNode root;
         root.addChild(QStringLiteral("No Entries in database!"))->plain = true;

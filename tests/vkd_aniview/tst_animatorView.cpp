@@ -199,7 +199,7 @@ private Q_SLOTS:
         QVERIFY(!m_view);
     }
 
-    void litGroup()
+    void highlightedGroup()
     {
         const auto picture = [this] { return m_view->grab().toImage(); };
         const QImage plain = picture();

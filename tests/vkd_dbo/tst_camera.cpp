@@ -39,7 +39,7 @@ private Q_SLOTS:
         }
     }
 
-    void keptBitForBit()
+    void savedBitForBit()
     {
         for (const Camera& odd : {Camera{{0.1, -1. / 3, 2. / 3}, M_PI, {1e-7, -7, 3}, 1.1},
                                   Camera{{4e-320, 0, 0}, 1e-300, {1e308, 0, 0}, 9e99},

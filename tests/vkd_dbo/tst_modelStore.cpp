@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(getKindOfSystem(m_index, nullptr), 0);
     }
 
-    void queriesAreAboutOneThingEach()
+    void eachQueryAsksForOneList()
     {
         for (const Query& asked : queries) {
             Model model;

@@ -298,7 +298,7 @@ private Q_SLOTS:
                  VKD_ZOB_LOCKED); // "second" is lost
     }
 
-    void closeTellsThatAReleaseCouldNotStore()
+    void closeReportsAFailedRelease()
     {
         QCOMPARE(vkd_zob_lock_ex(m_second, 1, 1), VKD_ZOB_OK);
         QCOMPARE(put(m_second, 1, 1, "new", 1), VKD_ZOB_OK);

@@ -354,7 +354,7 @@ private Q_SLOTS:
                  QStringList({QStringLiteral("p"), QFileInfo(ofProcess(1)).fileName()}));
     }
 
-    void placesOfOthers()
+    void fileOfAnotherProgram()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("p"));

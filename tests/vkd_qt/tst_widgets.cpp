@@ -48,7 +48,7 @@ class tst_widgets : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void dialogComesBackFromADetour()
+    void dialogReopens()
     {
         VKD_QT_Dialog dialog;
         QSignalSpy reopened(&dialog, &VKD_QT_Dialog::isReOpen);
@@ -65,7 +65,7 @@ private Q_SLOTS:
     }
 
     /// There is no detour if a subclass kept the dialog open, nor after the detour was cancelled.
-    void dialogComesBackFromNoDetour()
+    void dialogDoesNotReopen()
     {
         struct : VKD_QT_Dialog
         {
@@ -131,7 +131,7 @@ private Q_SLOTS:
 )");
     }
 
-    void tabDialogTellsItsPages()
+    void tabDialogNotifiesItsPages()
     {
         VKD_QT_TabDialog dialog;
         QSignalSpy changed(&dialog, &VKD_QT_TabDialog::currentChanged);

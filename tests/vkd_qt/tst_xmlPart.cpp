@@ -46,7 +46,7 @@ private Q_SLOTS:
                  QStringLiteral("<A>1:100 \"%\" &lt;ä&gt;&amp;&#xa;</A>"));
     }
 
-    void everyTextComesBack()
+    void everyTextIsReadBack()
     {
         QRandomGenerator random(4);
         for (int round = 0; round < 3000; ++round) {

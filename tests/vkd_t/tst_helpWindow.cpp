@@ -210,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(title(), QStringLiteral("Types of Design"));
     }
 
-    void goesWithItsParents()
+    void destroyedWithItsParents()
     {
         QScopedPointer<QWidget> main(new QWidget);
         QScopedPointer<QDialog> dialog(new QDialog(main.data()));
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY(helpWindows().isEmpty());
     }
 
-    void closedAndAskedForAtOnce()
+    void closedAndReopenedAtOnce()
     {
         helpWindows().at(0)->close();
         QVERIFY(show(nullptr, "PARA"));

@@ -120,7 +120,7 @@ private Q_SLOTS:
     void savedChoice_data()
     {
         const Columns<QString, QString, QString> row("page", "options", "same");
-        const auto kept = QStringLiteral("<Scale>1:20</Scale><Part>0</Part><View>1</View><List_4>"
+        const auto saved = QStringLiteral("<Scale>1:20</Scale><Part>0</Part><View>1</View><List_4>"
                                          "Partially:&amp;L00   $L00   &amp;L01 : 2,6,</List_4>");
         const auto same = QStringLiteral(" --set scaleMode=0 --set scaleText=1:20 --set viewId=1 "
                                          "--set picturesId=0 --selection l2l6 --load-cases six");
@@ -128,17 +128,17 @@ private Q_SLOTS:
         writeFile(path("system"), "Checked:@SYS   $G00   ^G01");
         writeFile(path("six"), "1 6 six");
         writeFile(path("twoAndSix"), "1 2 two\n1 6 six");
-        row("taken", kept, "", same);
+        row("taken", saved, "", same);
         row("own view",
-            QString(kept).replace(
+            QString(saved).replace(
                 QLatin1String("<View>1"),
                 QLatin1String("<Camera>camera1 0 -1 0 0 0 0 0 1</Camera><View>4")),
             "", QString(same).replace(QLatin1String("viewId=1"), QLatin1String("viewId=4")));
         for (const char* option : {" --set viewId=0", " --set scaleMode=1", " --set scaleIndex=0",
                                    " --selection system", " --load-cases twoAndSix"})
-            row(option, kept, option, same + QLatin1String(option));
+            row(option, saved, option, same + QLatin1String(option));
         for (const char* option : {" --proposed", " --progname 222", " --progname 122"})
-            row(option, kept, option, option);
+            row(option, saved, option, option);
         row("damaged",
             "</View><Scale>1:7</Scale><View>2</View><Format>2</Format><Part>2</Part>"
             "<Font> </Font><List_4>Checked:",
@@ -151,20 +151,20 @@ private Q_SLOTS:
         QFETCH(const QString, page);
         QFETCH(const QString, options);
         QFETCH(const QString, same);
-        QFile::copy(path("building.zob"), path("kept.zob"));
-        const auto project = VKD_H_ZOBDoc::open(path("kept.zob"));
+        QFile::copy(path("building.zob"), path("saved.zob"));
+        const auto project = VKD_H_ZOBDoc::open(path("saved.zob"));
         const bool isDamaged = page.startsWith(QLatin1String("</"));
         const workbench::OutputState state{page, isDamaged ? 77 : 0, {isDamaged ? -3 : 2}};
         QVERIFY(state.put(project->handle()).isOk());
         QVERIFY(project->close().isOk());
         const Result expected = run(QLatin1String("script building.zob") + same);
         QVERIFY(expected.out.contains(QLatin1String("SIZE ")));
-        const Result result = run(QLatin1String("script kept.zob") + options);
+        const Result result = run(QLatin1String("script saved.zob") + options);
         QCOMPARE(result.error, QString());
         const QString ownView = QStringLiteral("STAN 0 -1 0 ROTA 0"); // arguments cannot set it
         QCOMPARE(result.out,
                  QString(expected.out).replace(QLatin1String("STAN 1 -2 1 ROTA 0"), ownView));
-        QFile::remove(path("kept.zob"));
+        QFile::remove(path("saved.zob"));
     }
 
     void otherShareFolder()
@@ -258,7 +258,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(path("b.csv")), readFile(path("a.csv")));
     }
 
-    void lookingChangesNothing()
+    void readingCommandsChangeNothing()
     {
         const QByteArray before = readFile(path("hall.zob"));
         for (const char* command : {"rows hall.zob", "script hall.zob", "tree hall.zob"})
@@ -325,7 +325,7 @@ private Q_SLOTS:
             "cannot read absent.txt: No such file or directory");
         row("script slab.zob --load-cases badcases.txt",
             "badcases.txt:2: a kind of 1 or 2, a number and a name are needed");
-        row("script slab.zob -o no/such/folder.txt --selection-out kept.txt",
+        row("script slab.zob -o no/such/folder.txt --selection-out saved.txt",
             "cannot write no/such/folder.txt: No such file or directory");
         row("new slab.zob --model slab", "slab.zob exists already");
         row("new x.zob --model none", "there is no model \"none\"");

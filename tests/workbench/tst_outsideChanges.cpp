@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(groups->topLevelItemCount() != groupCount, event == "cp");
     }
 
-    void newerIsAskedFor_data()
+    void newerDataAreAskedAbout_data()
     {
         const Columns<QByteArray, QString, bool, bool> row("part", "answer", "isMine", "isOpen");
         for (const char* part : {"Design", "Output", "TextOutput"}) {
@@ -190,7 +190,7 @@ private Q_SLOTS:
 
     /// OK asks the user. The project has the user's state only after Overwrite; the dialog shows it
     /// again after Go Back, and the newer state after Reload.
-    void newerIsAskedFor()
+    void newerDataAreAskedAbout()
     {
         QFETCH(const QByteArray, part);
         QFETCH(const QString, answer);
@@ -239,13 +239,13 @@ private Q_SLOTS:
     /// An unsaved choice survives Reload, and OK then asks.
     void reloadKeepsTheChoice()
     {
-        const auto window = open("kept.zob");
+        const auto window = open("saved.zob");
         changeChoice(*window);
         const QString chosen = script(*window);
         trigger(*window, "TextOutput");
         const Part text = textOutputPart();
         text.change(*find<QDialog>(*window, "TextOutputDialog"));
-        outputPart().changeOutside(path("kept.zob"));
+        outputPart().changeOutside(path("saved.zob"));
         QTRY_VERIFY(bar(*window) != QLatin1String("-"));
         trigger(*window, "Reload");
         QTRY_COMPARE(script(*window), chosen);
@@ -262,7 +262,7 @@ private Q_SLOTS:
         QVERIFY(!window->isWindowModified());
     }
 
-    void saveWhatIsOpen_data()
+    void saveAsWithOpenDialogs_data()
     {
         const Columns<QByteArray, QByteArray, QString> row("event", "place", "reason");
         const char* gone = "It was deleted or moved while it was open.";
@@ -275,7 +275,7 @@ private Q_SLOTS:
     }
 
     /// Save As includes the input of open dialogs. OK of the design dialog also offers Save As.
-    void saveWhatIsOpen()
+    void saveAsWithOpenDialogs()
     {
         QFETCH(const QByteArray, event);
         QFETCH(const QByteArray, place);

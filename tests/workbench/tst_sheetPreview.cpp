@@ -181,7 +181,7 @@ private Q_SLOTS:
         }
     }
 
-    void captionsGoToTheirPictures_data()
+    void captionsBelongToTheirPictures_data()
     {
         // Load cases, 0 for a plot without one.
         const Columns<QVector<int>, bool> row("rows", "agree");
@@ -191,7 +191,7 @@ private Q_SLOTS:
         row("other load case", {0, 3, 4, 0}, false);
     }
 
-    void captionsGoToTheirPictures()
+    void captionsBelongToTheirPictures()
     {
         QFETCH(const QVector<int>, rows);
         QFETCH(const bool, agree);
@@ -334,7 +334,7 @@ private Q_SLOTS:
     }
 
     /// The suffix is added, so the file is not the one that the dialog asked about.
-    void replacedFileIsAskedFor()
+    void replacedFileIsAskedAbout()
     {
         const auto window = open("export.zob");
         writeFile(path("kept.pdf"), "what was there");

@@ -41,7 +41,7 @@ private Q_SLOTS:
         }
     }
 
-    void darkOnes()
+    void darkPictures()
     {
         const QRegularExpression look(QStringLiteral("-dark\\."));
         QStringList light = m_names, dark = m_names.filter(look);

@@ -25,14 +25,14 @@ class tst_start : public ProjectTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void projectIsReadBehindThePainting_data()
+    void projectIsReadAfterThePainting_data()
     {
         const Columns<bool> row("isShown");
         row("shown: the window is not held up", true);
         row("hidden: nobody waits", false);
     }
 
-    void projectIsReadBehindThePainting()
+    void projectIsReadAfterThePainting()
     {
         QFETCH(const bool, isShown);
         MainWindow window;
@@ -53,7 +53,7 @@ private Q_SLOTS:
     }
 
     /// The message about a damaged project appears after the window is painted.
-    void messageIsBehindThePainting()
+    void messageAppearsAfterThePainting()
     {
         writeFile(path("bad.zob"), "no project");
         MainWindow window;

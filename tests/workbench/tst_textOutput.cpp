@@ -232,18 +232,18 @@ private Q_SLOTS:
                  QStringLiteral("Manually"));
     }
 
-    void kept_data()
+    void saved_data()
     {
         const Columns<int, bool> row("button", "isStored");
         row("OK", 0, true);
         row("Cancel", 1, false);
     }
 
-    void kept()
+    void saved()
     {
         QFETCH(const int, button);
         QFETCH(const bool, isStored);
-        const auto window = open("kept.zob");
+        const auto window = open("saved.zob");
         trigger(*window, "TextOutput");
         auto dialog = window->findChild<TextOutputDialog*>();
         QVERIFY(!dialog->isChanged());
@@ -262,7 +262,7 @@ private Q_SLOTS:
             ->click();
         QVERIFY(!window->isWindowModified() && window->close());
 
-        const Desk again(VKD_H_ZOBDoc::open(path("kept.zob")));
+        const Desk again(VKD_H_ZOBDoc::open(path("saved.zob")));
         QCOMPARE(results(again.dialog), isStored ? chosen : Proposed);
         QVERIFY(!again.dialog.isChanged());
         choose(again.dialog, ExtentBox, QStringLiteral("Manually controlled"));

@@ -78,17 +78,17 @@ private Q_SLOTS:
 
     /// A click updates the script; a change of the language preserves the choice; Cancel restores
     /// the saved choice, and OK saves the new one.
-    void scriptFollowsAndIsKept()
+    void scriptFollowsAndIsSaved()
     {
-        const auto window = open("kept.zob");
+        const auto window = open("saved.zob");
         const QString proposed = script(*window);
         QString chosen;
-        for (const bool isKept : {false, true}) {
+        for (const bool isSaved : {false, true}) {
             changeChoice(*window);
             QVERIFY(script(*window) != proposed);
             chosen = script(*window);
             // The shortcuts of the window also work in its dialogs.
-            const QString saved = path(isKept ? "kept.dat" : "cancelled.dat");
+            const QString saved = path(isSaved ? "saved.dat" : "cancelled.dat");
             answerFileDialog(saved);
             QTest::keyClick(find<QDialog>(*window, "OutputDialog"), Qt::Key_S, Qt::ControlModifier);
             QVERIFY(QFile::exists(saved));
@@ -97,12 +97,12 @@ private Q_SLOTS:
             trigger(*window, "English");
             QCOMPARE(script(*window), chosen);
             auto dialog = find<QDialog>(*window, "OutputDialog"); // was recreated
-            isKept ? dialog->accept() : dialog->reject();
+            isSaved ? dialog->accept() : dialog->reject();
             QTRY_COMPARE(window->findChildren<QDialog*>(QStringLiteral("OutputDialog")).size(), 1);
             QVERIFY(!window->isWindowModified());
-            QCOMPARE(script(*window), isKept ? chosen : proposed);
+            QCOMPARE(script(*window), isSaved ? chosen : proposed);
         }
-        QCOMPARE(script(*reopen("kept.zob")), chosen);
+        QCOMPARE(script(*reopen("saved.zob")), chosen);
     }
 
     void commandLineTakesTheChoice_data()
@@ -213,7 +213,7 @@ private Q_SLOTS:
     }
 
     /// A camera rotated by the user is restored even if another view was selected and saved.
-    void turnedViewIsKept()
+    void turnedViewIsSaved()
     {
         auto window = open("turned.zob");
         trigger(*window, "Output");
@@ -246,7 +246,7 @@ private Q_SLOTS:
 
     /// A dialog is recreated with the same state after a change of the language and after a
     /// restart.
-    void dialogsStayAsTheyAre()
+    void dialogStateIsRestored()
     {
         const QRect place(20, 30, 1234, 765);
         const auto dialogs = [](const MainWindow& window) {
@@ -344,7 +344,7 @@ private Q_SLOTS:
     }
 
     /// OK asks about a group in two rows, and reports that a row without groups is saved.
-    void rowsThatOkSaysSomethingAbout()
+    void messagesOfOk()
     {
         const auto window = open("rows.zob");
         const auto records = find<QTableView>(*window, "Records")->model();
@@ -430,7 +430,7 @@ private Q_SLOTS:
         QCOMPARE(QSize(script->width(), records->height()), before);
     }
 
-    void linesThatChanged_data()
+    void changedLines_data()
     {
         const Columns<QString, QString, QVector<int>> row("before", "after", "changed");
         row("other and gone", "a b c d e f", "a x c e y f", {1, 4});
@@ -438,7 +438,7 @@ private Q_SLOTS:
         row("from nothing", "", "a b", {0, 1});
     }
 
-    void linesThatChanged()
+    void changedLines()
     {
         QFETCH(const QString, before);
         QFETCH(const QString, after);

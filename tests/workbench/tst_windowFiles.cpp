@@ -303,13 +303,13 @@ private Q_SLOTS:
     }
 
     /// If a file on the command line cannot be opened, a usable window is still shown.
-    void keptBetweenStarts()
+    void windowStateIsSaved()
     {
         QSize size;
         const auto work = [&] {
             MainWindow* window = shownWindow();
-            QVERIFY(window->openProject(copy("kept.zob")));
-            QTRY_COMPARE(recentFiles(*window), QStringList(path("kept.zob")));
+            QVERIFY(window->openProject(copy("saved.zob")));
+            QTRY_COMPARE(recentFiles(*window), QStringList(path("saved.zob")));
             trigger(*window, "German");
             find<QDockWidget>(*window, "RecordDock")->hide();
             window->addDockWidget(Qt::LeftDockWidgetArea, find<QDockWidget>(*window, "ScriptDock"));
@@ -335,7 +335,7 @@ private Q_SLOTS:
             QCOMPARE(window->dockWidgetArea(find<QDockWidget>(*window, "ScriptDock")),
                      Qt::LeftDockWidgetArea);
             QCOMPARE(window->size(), size);
-            QCOMPARE(recentFiles(*window), QStringList(path("kept.zob")));
+            QCOMPARE(recentFiles(*window), QStringList(path("saved.zob")));
         };
         QTimer::singleShot(0, this, [&] {
             look();
