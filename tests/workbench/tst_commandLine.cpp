@@ -121,7 +121,7 @@ private Q_SLOTS:
     {
         const Columns<QString, QString, QString> row("page", "options", "same");
         const auto saved = QStringLiteral("<Scale>1:20</Scale><Part>0</Part><View>1</View><List_4>"
-                                         "Partially:&amp;L00   $L00   &amp;L01 : 2,6,</List_4>");
+                                          "Partially:&amp;L00   $L00   &amp;L01 : 2,6,</List_4>");
         const auto same = QStringLiteral(" --set scaleMode=0 --set scaleText=1:20 --set viewId=1 "
                                          "--set picturesId=0 --selection l2l6 --load-cases six");
         writeFile(path("l2l6"), "Partially:&L00   $L00   &L01 : 2,6,");
@@ -304,7 +304,7 @@ private Q_SLOTS:
         row("script absent.zob",
             "cannot open absent.zob: the file is not there or cannot be opened");
         row("script noproject.zob",
-            "cannot open noproject.zob: this is no project file (file is not a database)");
+            "cannot open noproject.zob: the file is not a project file (file is not a database)");
         row("script slab.zob --keywords french", "--keywords is english or german, not \"french\"");
         row("script slab.zob --progname x", "--progname needs a whole number, not \"x\"");
         row("tree slab.zob --progname 99999", "--progname is one of 1, 122, 222, not 99999");
@@ -331,7 +331,7 @@ private Q_SLOTS:
         row("new x.zob --model none", "there is no model \"none\"");
         row("new x.zob --model bad.json", "bad.json: line 3, column 3: unterminated object");
         row("new x.zob --model field.json", "field.json: designParameters of group 7: \"hiox=1\" "
-                                            "is no FIELD=VALUE of a design record");
+                                            "does not set a field of a design record");
         row("new no/x.zob --model slab",
             "cannot create no/x.zob: the file is not there or cannot be "
             "opened (No such file or directory)");
@@ -346,14 +346,14 @@ private Q_SLOTS:
         row("rows slab.zob --import badcases.txt",
             "badcases.txt: Row 1: \"1 2 ok\" is not the head of a column.");
         row("rows slab.zob --set-row 1 colour=1",
-            "\"colour=1\" is no FIELD=VALUE of a design record");
-        row("rows slab.zob --set-row 1 type=5", "\"5\" is no value for type");
-        row("rows slab.zob --set-row 1 hio=inf", "\"inf\" is no value for hio");
+            "\"colour=1\" does not set a field of a design record");
+        row("rows slab.zob --set-row 1 type=5", "type cannot be \"5\"");
+        row("rows slab.zob --set-row 1 hio=inf", "hio cannot be \"inf\"");
         row("script slab.zob -o both.txt --selection-out ./both.txt",
             "the script and the choice cannot both go into both.txt");
-        row("script slab.zob -o .", "cannot write .: it is no file");
+        row("script slab.zob -o .", "cannot write .: it is not a file");
         row("snapshots noproject.zob pictures",
-            "cannot open noproject.zob: this is no project file (file is not a database)");
+            "cannot open noproject.zob: the file is not a project file (file is not a database)");
         row("snapshots slab.zob bad.json/pictures", "cannot create the folder bad.json/pictures");
         row("snapshots slab.zob none --pixel-ratio 5",
             "--pixel-ratio is a number from 1 to 4, not \"5\"");

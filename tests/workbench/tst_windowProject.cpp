@@ -48,7 +48,7 @@ private Q_SLOTS:
         const auto patched = [this](int offset, const QByteArray& bytes) {
             return QByteArray(m_building).replace(offset, bytes.size(), bytes);
         };
-        const char *noProject = "It is no project file.", *damaged = "It is damaged.";
+        const char *noProject = "It is not a project file.", *damaged = "It is damaged.";
         const char *keine = "Sie ist keine Projektdatei.", *kaputt = "Sie ist beschädigt.";
         row("missing", "-", "It is not there.", "Sie ist nicht vorhanden.");
         row("folder", "/", "It is a folder.", "Sie ist ein Ordner.");

@@ -33,7 +33,7 @@ void setInteger(std::int32_t& field, const QString& name, const QString& value)
                       : name == QLatin1String("mark") ? number == 0 || number == 11
                                                       : true;
     if (!isNumber || !fits)
-        throw CommandError{QStringLiteral("\"%1\" is no value for %2").arg(value, name)};
+        throw CommandError{QStringLiteral("%1 cannot be \"%2\"").arg(name, value)};
     field = number;
 }
 
@@ -42,7 +42,7 @@ void setReal(float& field, const QString& name, const QString& value)
     bool isNumber = true;
     const float number = value == QLatin1String("unset") ? plib::NotSet : value.toFloat(&isNumber);
     if (!isNumber || !std::isfinite(number))
-        throw CommandError{QStringLiteral("\"%1\" is no value for %2").arg(value, name)};
+        throw CommandError{QStringLiteral("%1 cannot be \"%2\"").arg(name, value)};
     field = number;
 }
 
@@ -52,7 +52,7 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
     const auto field = plib::fieldByName(name);
     if (!field || !assignment.contains(QLatin1Char('=')))
         throw CommandError{
-            QStringLiteral("\"%1\" is no FIELD=VALUE of a design record").arg(assignment)};
+            QStringLiteral("\"%1\" does not set a field of a design record").arg(assignment)};
     const QString value = assignment.section(QLatin1Char('='), 1);
     if (field->integer)
         setInteger(record.*field->integer, name, value);

@@ -215,7 +215,7 @@ QString SheetPainter::paintModel(QPainter& painter, const QRectF& frame, const S
     if (m_models->isEmpty()) {
         painter.setPen(PaleInk);
         painter.drawText(frame, Qt::AlignCenter | Qt::TextWordWrap,
-                         tr("The project holds no structural model."));
+                         tr("The project contains no structural model."));
         return viewText(view);
     }
     const QSizeF size = frame.size() / Mm;

@@ -65,7 +65,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Sie darf nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>It is no project file.</source>
+        <source>It is not a project file.</source>
         <translation>Sie ist keine Projektdatei.</translation>
     </message>
     <message>
@@ -389,8 +389,8 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die ausgewählten Grafiken bleiben ausgewählt.</translation>
     </message>
     <message>
-        <source>What the model holds</source>
-        <translation>Was das Modell enthält</translation>
+        <source>Plots that suit the model</source>
+        <translation>Zum Modell passende Grafiken</translation>
     </message>
     <message>
         <source>Also plots of bricks</source>
@@ -645,7 +645,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Legende</translation>
     </message>
     <message>
-        <source>The project holds no structural model.</source>
+        <source>The project contains no structural model.</source>
         <translation>Das Projekt enthält kein Tragwerksmodell.</translation>
     </message>
     <message>

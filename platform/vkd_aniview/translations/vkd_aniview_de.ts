@@ -4,7 +4,7 @@
 <context>
     <name>AnimatorView</name>
     <message>
-        <source>The project holds no structural model.</source>
+        <source>The project contains no structural model.</source>
         <translation>Das Projekt enthält kein Tragwerksmodell.</translation>
     </message>
     <message>

@@ -63,8 +63,8 @@
         <translation>die Datei ist nicht vorhanden oder kann nicht geöffnet werden</translation>
     </message>
     <message>
-        <source>this is no project file</source>
-        <translation>das ist keine Projektdatei</translation>
+        <source>the file is not a project file</source>
+        <translation>die Datei ist keine Projektdatei</translation>
     </message>
     <message>
         <source>the file was written by a newer version</source>

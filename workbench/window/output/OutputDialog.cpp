@@ -122,7 +122,7 @@ QWidget* OutputDialog::newLoadCaseTab()
 QWidget* OutputDialog::newContentTab()
 {
     StructRadioButtonGrup model;
-    model.text = tr("What the model holds");
+    model.text = tr("Plots that suit the model");
     StructRadioButtonGrup solids;
     solids.text = tr("Also plots of bricks");
     auto tab = new QWidget(this);

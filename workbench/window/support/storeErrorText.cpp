@@ -30,7 +30,7 @@ QString storeErrorText(const QString& path, cd_error_t status)
     switch (status) {
     case VKD_ZOB_NO_FILE: return placeReason(QFileInfo(path));
     case VKD_ZOB_NO_PROJECT:
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is no project file."));
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is not a project file."));
     case VKD_ZOB_NEWER:
         return text(QT_TRANSLATE_NOOP("storeErrorText",
                                       "It was written by a newer version of the programs."));

@@ -285,7 +285,7 @@ bool AnimatorView::isEmpty() const
 QString AnimatorView::emptyText() const
 {
     return m_project.isNull() ? tr("No project is open.")
-                              : tr("The project holds no structural model.");
+                              : tr("The project contains no structural model.");
 }
 
 void AnimatorView::setTexts()

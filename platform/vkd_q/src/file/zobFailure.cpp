@@ -37,7 +37,7 @@ const char* reasonOf(cd_error_t code)
         return QT_TRANSLATE_NOOP("ZobTexts", "no project is open under this index");
     case VKD_ZOB_NO_FILE:
         return QT_TRANSLATE_NOOP("ZobTexts", "the file is not there or cannot be opened");
-    case VKD_ZOB_NO_PROJECT: return QT_TRANSLATE_NOOP("ZobTexts", "this is no project file");
+    case VKD_ZOB_NO_PROJECT: return QT_TRANSLATE_NOOP("ZobTexts", "the file is not a project file");
     case VKD_ZOB_NEWER:
         return QT_TRANSLATE_NOOP("ZobTexts", "the file was written by a newer version");
     case VKD_ZOB_DAMAGED: return QT_TRANSLATE_NOOP("ZobTexts", "the file is damaged");
