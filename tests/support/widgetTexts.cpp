@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -140,10 +139,8 @@ QStringList textsOf(const QWidget* widget)
         return titlesOf(bar);
     if (const auto combo = qobject_cast<const QComboBox*>(widget))
         return entriesOf(combo);
-    if (const auto edit = qobject_cast<const QLineEdit*>(widget))
-        return {edit->placeholderText()};
-    if (const auto edit = qobject_cast<const QPlainTextEdit*>(widget))
-        return {edit->placeholderText()};
+    if (const QVariant text = widget->property("placeholderText"); text.isValid())
+        return {text.toString()};
     if (const auto browser = qobject_cast<const QTextBrowser*>(widget))
         return browser->toPlainText().split(QLatin1Char('\n'));
     if (const auto bar = qobject_cast<const QStatusBar*>(widget))

@@ -1,12 +1,12 @@
 #include "ProjectTest.h"
 
 #include "cli/PlatformLog.h"
+#include "window/script/ScriptView.h"
 
 #include <vkd_zob.h>
 
 #include <QComboBox>
 #include <QDir>
-#include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
@@ -36,7 +36,7 @@ QString makeProject(const QString& path, const QString& model)
 
 QString script(const QWidget& window)
 {
-    return find<QPlainTextEdit>(window, "ScriptText")->toPlainText();
+    return find<workbench::ScriptView>(window, "ScriptText")->plainText();
 }
 
 void press(QWidget* box, QMessageBox::StandardButton button)

@@ -1,12 +1,12 @@
 #include "VisitedProject.h"
 
 #include "window/records/RecordTableModel.h"
+#include "window/script/ScriptView.h"
 
 #include <vkd_dbo_groups.h>
 #include <vkd_dbo_model.h>
 
 #include <QContextMenuEvent>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 using workbench::MainWindow;
@@ -50,7 +50,7 @@ Open VisitedProject::mainWindow(const WindowAct& act)
         MainWindow window;
         window.show();
         QVERIFY(window.openProject(doc()->path()));
-        QTRY_VERIFY(!find<QPlainTextEdit>(window, "ScriptText")->toPlainText().isEmpty());
+        QTRY_VERIFY(!find<workbench::ScriptView>(window, "ScriptText")->plainText().isEmpty());
         act(window, visit);
     };
 }

@@ -11,7 +11,7 @@
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QMimeData>
-#include <QPlainTextEdit>
+#include <QAbstractScrollArea>
 #include <QStatusBar>
 
 using namespace windowtest;
@@ -257,7 +257,7 @@ private Q_SLOTS:
                          ? QUrl(name)
                          : QUrl::fromLocalFile(m_folder->filePath(name)));
         urls.isEmpty() ? data.setText(path("other.zob")) : data.setUrls(urls);
-        QWidget* target = find<QPlainTextEdit>(*window, "ScriptText")->viewport();
+        QWidget* target = find<QAbstractScrollArea>(*window, "ScriptText")->viewport();
         const bool isOnlyMoved = qstrcmp(QTest::currentDataTag(), "only moved") == 0;
         const Qt::DropActions actions =
             isOnlyMoved ? Qt::MoveAction : Qt::CopyAction | Qt::MoveAction;

@@ -485,6 +485,17 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
+    <name>workbench::ScriptView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+</context>
+<context>
     <name>workbench::TextOutputDialog</name>
     <message>
         <source>Text Output</source>

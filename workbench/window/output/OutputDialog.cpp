@@ -270,6 +270,14 @@ void OutputDialog::setUnchanged()
     m_unchanged = fingerprint();
 }
 
+void OutputDialog::finishChanges()
+{
+    if (!m_changes.isActive())
+        return;
+    m_changes.stop();
+    Q_EMIT choiceChanged();
+}
+
 OutputPresent OutputDialog::present()
 {
     return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(),

@@ -55,6 +55,8 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
+    /// Emits choiceChanged() at once if it is due.
+    void finishChanges();
 
     OutputPresent present();
     /// Continues another dialog; this one must have been created with its state.

@@ -7,7 +7,7 @@
 #include "sheet/SheetPreview.h"
 #include "window/output/OutputDialog.h"
 #include "window/output/OutputEditor.h"
-#include "window/output/ScriptPane.h"
+#include "window/script/ScriptPane.h"
 #include "window/support/chooseFileToSave.h"
 #include "window/support/SlowWork.h"
 #include "window/support/WindowMessages.h"
@@ -76,9 +76,17 @@ void OutputScript::setKeywords(vkd::Language language)
     refreshSheets();
 }
 
+/// The pane shows a change when the events that cause changes are processed, which may be later.
+QString OutputScript::script()
+{
+    if (m_output->exists())
+        m_output->dialog()->finishChanges();
+    return m_pane->script();
+}
+
 void OutputScript::copy()
 {
-    QApplication::clipboard()->setText(m_pane->script());
+    QApplication::clipboard()->setText(script());
     m_messages->say(tr("The script is on the clipboard."));
 }
 
@@ -96,7 +104,7 @@ void OutputScript::save()
     if (path.isEmpty())
         return;
     QSaveFile file(path);
-    const QByteArray bytes = m_pane->script().toUtf8();
+    const QByteArray bytes = script().toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
         return m_messages->complainOfWriting(path, file.errorString());
     m_messages->say(tr("The script is saved in %1.").arg(QDir::toNativeSeparators(path)));
@@ -104,7 +112,7 @@ void OutputScript::save()
 
 SheetPlan OutputScript::newSheetPlan()
 {
-    SheetPlan plan = readSheetPlan(m_pane->script());
+    SheetPlan plan = readSheetPlan(script());
     OutputDialog* dialog = m_output->dialog(); // null while the project cannot be read
     if (dialog)
         setCaptions(&plan, dialog->captions());

@@ -43,6 +43,7 @@ Q_SIGNALS:
     void refreshed(bool isEmpty);
 
 private:
+    QString script();
     void setKeywords(vkd::Language language);
     QString proposedFile(const char* suffix) const;
     SheetPlan newSheetPlan();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QSyntaxHighlighter>
+#include <QTextLayout>
 
 class QPalette;
 
@@ -8,18 +8,16 @@ namespace workbench {
 
 /// Colours of a script: statements, keywords, numbers, definitions and comments. German and English
 /// keywords are recognised by their form: they are short and in capitals.
-class ScriptHighlighter : public QSyntaxHighlighter
+class ScriptColours
 {
-    Q_OBJECT
-
 public:
-    ScriptHighlighter(QTextDocument* document, const QPalette& palette);
+    /// The colours are readable on the background of texts in this palette.
+    explicit ScriptColours(const QPalette& palette);
 
-    /// Updates the colours after the desktop has changed between light and dark.
-    void setColours(const QPalette& palette);
-
-protected:
-    void highlightBlock(const QString& text) override;
+    /// Returns the formats of the parts of a line.
+    QVector<QTextLayout::FormatRange> formats(const QString& line) const;
+    /// Returns the background of lines that changed.
+    const QColor& changed() const { return m_changed; }
 
 private:
     QTextCharFormat m_statement;
@@ -27,6 +25,7 @@ private:
     QTextCharFormat m_number;
     QTextCharFormat m_definition;
     QTextCharFormat m_comment;
+    QColor m_changed;
 };
 
 } // namespace workbench

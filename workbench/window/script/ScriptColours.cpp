@@ -1,9 +1,7 @@
-#include "window/output/ScriptHighlighter.h"
+#include "window/script/ScriptColours.h"
 
 #include <QPalette>
 #include <QRegularExpression>
-
-#include <algorithm>
 
 namespace workbench {
 
@@ -35,13 +33,8 @@ int commentStart(const QString& text)
 }
 } // namespace
 
-ScriptHighlighter::ScriptHighlighter(QTextDocument* document, const QPalette& palette)
-    : QSyntaxHighlighter(document)
-{
-    setColours(palette);
-}
-
-void ScriptHighlighter::setColours(const QPalette& palette)
+ScriptColours::ScriptColours(const QPalette& palette)
+    : m_changed(palette.color(QPalette::Highlight))
 {
     m_statement.setForeground(readable(palette, Blue));
     m_statement.setFontWeight(QFont::Bold);
@@ -50,22 +43,22 @@ void ScriptHighlighter::setColours(const QPalette& palette)
     m_definition.setForeground(readable(palette, Violet));
     m_comment.setForeground(between(palette.color(QPalette::Text), palette.color(QPalette::Base)));
     m_comment.setFontItalic(true);
-    rehighlight();
+    m_changed.setAlpha(60); // so that the text keeps its colours
 }
 
-void ScriptHighlighter::highlightBlock(const QString& text)
+QVector<QTextLayout::FormatRange> ScriptColours::formats(const QString& line) const
 {
     static const QRegularExpression token(
         QStringLiteral("(?<reference>\\$\\([^)]*\\))|(?<number>(?<![A-Za-z0-9])[-+]?\\d[\\d.]*"
                        "(?:[eE][-+]?\\d+)?(?![A-Za-z]))|(?<word>[A-Z][A-Z0-9]{0,4}(?![a-z\\w]))|"
                        "(?<separator>;)"));
-    const int comment = commentStart(text);
-    setFormat(comment, text.size() - comment, m_comment);
-    if (text.startsWith(QLatin1Char('#')))
-        return setFormat(0, comment, m_definition);
-    const QString statement = text.left(comment);
+    const int comment = commentStart(line);
+    const QTextLayout::FormatRange rest{comment, line.size() - comment, m_comment};
+    if (line.startsWith(QLatin1Char('#')))
+        return {{0, comment, m_definition}, rest};
+    QVector<QTextLayout::FormatRange> ranges{rest};
     bool isFirstWord = true;
-    for (auto found = token.globalMatch(statement); found.hasNext();) {
+    for (auto found = token.globalMatch(line.left(comment)); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
         const QTextCharFormat* format = &m_keyword;
         if (match.capturedStart(QStringLiteral("reference")) >= 0)
@@ -76,8 +69,9 @@ void ScriptHighlighter::highlightBlock(const QString& text)
             format = &m_statement;
         isFirstWord = match.capturedStart(QStringLiteral("separator")) >= 0;
         if (!isFirstWord)
-            setFormat(match.capturedStart(), match.capturedLength(), *format);
+            ranges.append({match.capturedStart(), match.capturedLength(), *format});
     }
+    return ranges;
 }
 
 } // namespace workbench

@@ -2,18 +2,19 @@
 
 #include <vkd_language.h>
 
-#include <QStringList>
+#include <QVector>
 #include <QWidget>
 
 class QAction;
 class QComboBox;
 class QLabel;
-class QPlainTextEdit;
 class QToolButton;
 
 namespace workbench {
 
-class ScriptHighlighter;
+struct LineChange;
+class ScriptView;
+class TextLines;
 
 /// Shows the script of the current choice; the background marks the lines that changed last.
 class ScriptPane : public QWidget
@@ -28,7 +29,7 @@ public:
     vkd::Language keywords() const;
     void setKeywords(vkd::Language language);
 
-    QString script() const { return m_script; }
+    QString script() const;
     /// Shows a script and marks the lines that the previous one lacks. An equal script changes
     /// nothing.
     void setScript(const QString& script);
@@ -43,18 +44,14 @@ protected:
 
 private:
     void setTexts();
-    void show(const QString& script);
-    void mark(const QVector<int>& lines);
+    void show(const TextLines& lines, const QVector<LineChange>& changes);
 
-    QString m_script;
-    QVector<int> m_changed;
     QLabel* m_languageLabel;
     // In tab order.
     QComboBox* m_language;
     QToolButton* m_copy;
     QToolButton* m_save;
-    QPlainTextEdit* m_text;
-    ScriptHighlighter* m_highlighter;
+    ScriptView* m_text;
 };
 
 } // namespace workbench

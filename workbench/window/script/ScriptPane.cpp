@@ -1,8 +1,7 @@
-#include "window/output/ScriptPane.h"
+#include "window/script/ScriptPane.h"
 
 #include "sheet/actionButton.h"
-#include "window/output/changedLines.h"
-#include "window/output/ScriptHighlighter.h"
+#include "window/script/ScriptView.h"
 
 #include <VKD_QT4_ComboBox.h>
 
@@ -11,10 +10,7 @@
 #include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
-#include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTextBlock>
 #include <QToolButton>
 
 namespace workbench {
@@ -22,12 +18,6 @@ namespace workbench {
 namespace {
 using vkd::Language; // its values are the rows of the combo box
 
-QColor markColour(const QPalette& palette)
-{
-    QColor colour = palette.color(QPalette::Highlight);
-    colour.setAlpha(60); // so that the text keeps its colours
-    return colour;
-}
 /// Finds a font of fixed width: some desktops return a proportional one.
 QFont fixedFont()
 {
@@ -46,17 +36,13 @@ ScriptPane::ScriptPane(QAction* copy, QAction* save, QWidget* parent)
     , m_language(new VKD_QT4_ComboBox(this, "KeywordLanguage"))
     , m_copy(actionButton(copy, this))
     , m_save(actionButton(save, this))
-    , m_text(new QPlainTextEdit(this))
-    , m_highlighter(new ScriptHighlighter(m_text->document(), palette()))
+    , m_text(new ScriptView(this))
 {
     m_text->setObjectName(QStringLiteral("ScriptText"));
     m_copy->setObjectName(QStringLiteral("CopyScript"));
     m_save->setObjectName(QStringLiteral("SaveScript"));
     m_languageLabel->setBuddy(m_language);
     m_language->addItems({QString(), QString()});
-    m_text->setReadOnly(true);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
     auto head = new QHBoxLayout;
     head->addWidget(m_languageLabel);
     head->addWidget(m_language);
@@ -82,20 +68,22 @@ void ScriptPane::setKeywords(Language language)
     m_language->setCurrentIndex(int(language));
 }
 
+QString ScriptPane::script() const
+{
+    return m_text->plainText();
+}
+
 void ScriptPane::setScript(const QString& script)
 {
-    if (script == m_script)
+    if (script == m_text->plainText())
         return;
-    const QVector<int> changed =
-        changedLines(m_script.split(QLatin1Char('\n')), script.split(QLatin1Char('\n')));
-    show(script);
-    mark(changed);
+    const TextLines lines(script);
+    show(lines, lineChanges(m_text->lines(), lines));
 }
 
 void ScriptPane::setOtherScript(const QString& script)
 {
-    show(script);
-    mark({});
+    show(TextLines(script), {});
 }
 
 void ScriptPane::changeEvent(QEvent* event)
@@ -103,10 +91,6 @@ void ScriptPane::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         setTexts();
-    if (event->type() == QEvent::PaletteChange) {
-        m_highlighter->setColours(palette());
-        mark(m_changed);
-    }
 }
 
 void ScriptPane::setTexts()
@@ -120,33 +104,11 @@ void ScriptPane::setTexts()
     m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical Output."));
 }
 
-void ScriptPane::show(const QString& script)
+void ScriptPane::show(const TextLines& lines, const QVector<LineChange>& changes)
 {
-    const int place = m_text->verticalScrollBar()->value();
-    if (m_script.isEmpty() && !script.isEmpty()) // searching for the font takes time
+    if (m_text->plainText().isEmpty() && !lines.text().isEmpty()) // searching for it takes time
         m_text->setFont(fixedFont());
-    m_script = script;
-    m_text->setExtraSelections({}); // each inserted line would move all of them
-    m_text->setPlainText(script);
-    m_text->verticalScrollBar()->setValue(place);
-}
-
-void ScriptPane::mark(const QVector<int>& lines)
-{
-    m_changed = lines;
-    QList<QTextEdit::ExtraSelection> marks;
-    for (int line : lines) {
-        QTextEdit::ExtraSelection selection;
-        selection.cursor = QTextCursor(m_text->document()->findBlockByNumber(line));
-        selection.format.setBackground(markColour(palette()));
-        selection.format.setProperty(QTextFormat::FullWidthSelection, true);
-        marks << selection;
-    }
-    m_text->setExtraSelections(marks);
-    if (marks.isEmpty())
-        return;
-    m_text->setTextCursor(marks.first().cursor);
-    m_text->ensureCursorVisible();
+    m_text->setLines(lines, changes);
 }
 
 } // namespace workbench

@@ -1,0 +1,186 @@
+#include "WidgetTestSupport.h"
+#include "window/script/ScriptView.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QScrollBar>
+
+#include <random>
+
+using namespace workbench;
+
+namespace {
+TextLines linesOf(const QString& letters)
+{
+    return TextLines(QString(letters).replace(QLatin1Char(' '), QLatin1Char('\n')));
+}
+
+/// Returns "before+gone>after+come" for each change.
+QString inWords(const QVector<LineChange>& changes)
+{
+    QStringList words;
+    for (const LineChange& change : changes)
+        words << QStringLiteral("%1+%2>%3+%4")
+                     .arg(change.before)
+                     .arg(change.gone)
+                     .arg(change.after)
+                     .arg(change.come);
+    return words.join(QLatin1Char(' '));
+}
+
+/// Returns a text of up to 12 lines of a few kinds.
+QString randomText(std::mt19937& random)
+{
+    QString text;
+    for (unsigned length = random() % 12; length > 0; --length)
+        text += QString(int(random() % 3), QLatin1Char('a')) + QLatin1Char("\nb"[random() % 2]);
+    return text;
+}
+
+QString applied(const TextLines& before, const TextLines& after, const QVector<LineChange>& changes)
+{
+    QStringList result = before.text().split(QLatin1Char('\n'));
+    const QStringList come = after.text().split(QLatin1Char('\n'));
+    for (auto change = changes.crbegin(); change != changes.crend(); ++change) {
+        result.erase(result.begin() + change->before,
+                     result.begin() + change->before + change->gone);
+        for (int i = change->come - 1; i >= 0; --i)
+            result.insert(change->before, come[change->after + i]);
+    }
+    return result.join(QLatin1Char('\n'));
+}
+} // namespace
+
+class tst_scriptView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void changes_data()
+    {
+        const Columns<QString, QString, QString> row("before", "after", "changes");
+        row("other and gone", "a b c d e f", "a x c e y f", "1+1>1+1 3+1>3+0 5+0>4+1");
+        row("repeated", "a a", "a a a", "2+0>2+1");
+        row("from nothing", "", "a b", "0+1>0+2");
+        row("longer at the end", "a b", "a bc", "1+1>1+1");
+        row("many", QStringLiteral("x ").repeated(500), QStringLiteral("y ").repeated(500),
+            "0+500>0+500");
+    }
+
+    void changes()
+    {
+        QFETCH(const QString, before);
+        QFETCH(const QString, after);
+        QTEST(inWords(lineChanges(linesOf(before), linesOf(after))), "changes");
+    }
+
+    void changesOfAnyTexts()
+    {
+        std::mt19937 random(7);
+        for (int round = 0; round < 2000; ++round) {
+            const TextLines before(randomText(random));
+            const TextLines after(randomText(random));
+            QCOMPARE(applied(before, after, lineChanges(before, after)), after.text());
+        }
+    }
+
+    void keys_data()
+    {
+        const Columns<int, QString, QString, int> row("start", "keys", "selected", "cursor");
+        row("next line, the column stays", 5, "Down,Down", "", 16);
+        row("characters", 8, "Right,Right,Left", "", 10);
+        row("words", 0, "Ctrl+Shift+Right,Ctrl+Shift+Right", "one two", 8);
+        row("word back", 7, "Ctrl+Left", "", 4);
+        row("line", 5, "Home,Shift+End", "one two", 7);
+        row("pages", 5, "PgDown,PgDown,PgUp,PgUp,Home", "", 0);
+        row("end", 5, "Ctrl+End,Shift+Left", "d", 15);
+        row("all", 5, "Ctrl+A", "one two\n\U0001F600\nthird", 16);
+        row("surrogates", 8, "Shift+Right", "\U0001F600", 10);
+    }
+
+    void keys()
+    {
+        const std::unique_ptr<ScriptView> view = shown("one two\n\U0001F600\nthird", 400);
+        QFETCH(const int, start);
+        QFETCH(const QString, keys);
+        view->select(start, start);
+        for (const QString& key : keys.split(QLatin1Char(','))) {
+            const int code = QKeySequence(key)[0];
+            QTest::keyClick(view.get(), Qt::Key(code & ~int(Qt::KeyboardModifierMask)),
+                            Qt::KeyboardModifiers(code & int(Qt::KeyboardModifierMask)));
+        }
+        QFETCH(const QString, selected);
+        QCOMPARE(view->selectedText().trimmed(), selected);
+        QTEST(view->cursorPosition(), "cursor");
+    }
+
+    void mouse()
+    {
+        const std::unique_ptr<ScriptView> view = shown("one two\nthree four\nfive", 400);
+        const auto at = [&view](int position) { return view->cursorRect(position).center(); };
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at(15));
+        QCOMPARE(view->selectedText(), QStringLiteral("four"));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(15));
+        QCOMPARE(view->selectedText(), QStringLiteral("three four\n"));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(15)); // in the selection
+        QCOMPARE(view->selectedText(), QString());
+        QTest::mousePress(view->viewport(), Qt::LeftButton, {}, at(20));
+        QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, at(4));
+        QTest::keyClick(view.get(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("two\nthree four\nf"));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, at(13));
+        QCOMPARE(view->selectedText(), QStringLiteral(" four\nf"));
+    }
+
+    /// The first changed line is visible; without one the view stays where it is.
+    void placeAfterChanges()
+    {
+        QString text = QStringLiteral("line\n").repeated(100000);
+        const std::unique_ptr<ScriptView> view = shown(text, 200);
+        view->verticalScrollBar()->setValue(100);
+        const auto change = [&](int line, const char* by) {
+            text.replace(5 * line, 5, QLatin1String(by));
+            const TextLines lines(text);
+            view->setLines(lines, lineChanges(view->lines(), lines));
+            return view->verticalScrollBar()->value();
+        };
+        QCOMPARE(change(70000, ""), 100);
+        const QImage unmarked = view->viewport()->grab().toImage();
+        QVERIFY(change(50000, "LINE\n") > 49900);
+        QVERIFY(view->viewport()->rect().contains(view->cursorRect(250000)));
+        QVERIFY(view->viewport()->grab().toImage() != unmarked);
+        QCOMPARE(view->cursorPosition(), 250000);
+    }
+
+    void screenReader()
+    {
+        const std::unique_ptr<ScriptView> view = shown("one two\nthree", 400);
+        QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(view.get());
+        QVERIFY(reader && reader->textInterface() && reader->state().readOnly);
+        QAccessibleTextInterface& text = *reader->textInterface();
+        QCOMPARE(text.text(0, text.characterCount()), view->plainText());
+        for (int offset : {0, 6, 9})
+            QCOMPARE(text.offsetAtPoint(text.characterRect(offset).center()), offset);
+        text.setSelection(0, 4, 7);
+        QCOMPARE(view->selectedText(), QStringLiteral("two"));
+        text.removeSelection(0);
+        QCOMPARE(text.selectionCount(), 0);
+    }
+
+private:
+    static std::unique_ptr<ScriptView> shown(const testsupport::Text& text, int height)
+    {
+        auto view = std::make_unique<ScriptView>();
+        view->setFont(QFont(QStringLiteral("Monospace")));
+        view->setLines(TextLines(text), {});
+        view->resize(400, height);
+        view->show();
+        view->activateWindow();
+        view->setFocus();
+        return view;
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_scriptView)
+#include "tst_scriptView.moc"
