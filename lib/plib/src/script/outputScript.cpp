@@ -108,23 +108,23 @@ QString splitResult(const OutputSettings& settings, const QString& additional, K
     return result;
 }
 
-/// Returns the lines with the standard view replaced by the view of the page.
-QString body(const std::vector<QString>& lines, OutputView page, const QString& clause)
+/// Appends the lines, with the standard view replaced by the view of the page. Reserves room for
+/// them and for the rest of the script, because scripts may be long.
+void appendBody(QString* script, const std::vector<QString>& lines, OutputView page,
+                const QString& clause, int rest)
 {
-    int size = 0;
+    int size = script->size() + rest;
     for (const QString& line : lines)
         size += line.size() + clause.size() + 1;
-    QString text;
-    text.reserve(size);
+    script->reserve(size);
     for (const QString& line : lines) {
         const int view = page == OutputView::Standard3D ? -1 : line.indexOf(QLatin1String("EG3"));
         if (view > 0) // the rest of the line is replaced as well
-            text += line.leftRef(view) + clause;
+            *script += line.leftRef(view) + clause;
         else
-            text += line;
-        text += QLatin1Char('\n');
+            *script += line;
+        *script += QLatin1Char('\n');
     }
-    return text;
 }
 } // namespace
 
@@ -182,10 +182,12 @@ QString outputScript(const OutputSettings& settings, const std::vector<QString>&
     script += sizeStatement(settings, keywords) + end;
     if (ahead) // it has a line end of its own
         script += additional;
-    script += body(lines, settings.viewId, viewClause(settings, keywords, environment));
+    QString tail = environment.programEnd(keywords) + end;
     if (!ahead && !additional.isEmpty())
-        script += additional + end;
-    return script + environment.programEnd(keywords) + end;
+        tail.prepend(additional + end);
+    appendBody(&script, lines, settings.viewId, viewClause(settings, keywords, environment),
+               tail.size());
+    return script += tail;
 }
 
 } // namespace plib

@@ -37,10 +37,11 @@ public:
     {
     }
 
-    Item* create(Item* parent, const QString& text, int number)
+    /// Only rows are created checked.
+    Item* create(Item* parent, const QString& text, int number, bool checked)
     {
         const bool isRow = parent->level == PlotLevel;
-        Item* item = isRow ? new Item(m_looks.of(text, number, false)) : new Item(text);
+        Item* item = isRow ? new Item(m_looks.of(text, number, checked)) : new Item(text);
         if (parent == m_root)
             m_tree->addTopLevelItem(item);
         else if (parent->level + 1 == PlotLevel)
@@ -234,6 +235,8 @@ void GraphicalOutputTreeWidget::setChoice(const QString& text)
     const VKD_QT_SignalBlocker silence(model());
     plib::RowLooks looks(vkd::desktopLanguage());
     plib::applySelection(invisibleRootItem(), text, [&looks](Item* item, Qt::CheckState state) {
+        if (item->checkState(0) == state)
+            return;
         if (item->level > PlotLevel)
             item->takeLook(looks.of(item->text(0), item->number, state == Qt::Checked));
         else

@@ -7,21 +7,15 @@ GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(const QString& text
     setCheckState(0, Qt::Unchecked);
 }
 
-/// Copies by assignment, because the copy constructor of the base class would create a plain item.
-GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(
-    const GraphicalOutputTreeWidgetItem& other)
+GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(const QTreeWidgetItem& look)
     : QTreeWidgetItem(OutputType)
-    , record(other.record)
-    , isLC(other.isLC)
-    , number(other.number)
-    , level(other.level)
 {
-    takeLook(other);
+    takeLook(look);
 }
 
 GraphicalOutputTreeWidgetItem::~GraphicalOutputTreeWidgetItem() = default;
 
-void GraphicalOutputTreeWidgetItem::takeLook(const GraphicalOutputTreeWidgetItem& other)
+void GraphicalOutputTreeWidgetItem::takeLook(const QTreeWidgetItem& other)
 {
     QTreeWidgetItem::operator=(other);
 }

@@ -15,13 +15,14 @@ public:
 
     /// Creates an unchecked item with a text.
     explicit GraphicalOutputTreeWidgetItem(const QString& text = QString());
-    /// Copies the item only, not its parent, its tree or its children.
-    GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem& other);
+    /// Creates an item with the look of another one, see takeLook().
+    explicit GraphicalOutputTreeWidgetItem(const QTreeWidgetItem& look);
+    GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem&) = delete;
     GraphicalOutputTreeWidgetItem& operator=(const GraphicalOutputTreeWidgetItem&) = delete;
     ~GraphicalOutputTreeWidgetItem() override;
 
     /// Copies text, icon, check state and flags. The tree of this item, if any, is not notified.
-    void takeLook(const GraphicalOutputTreeWidgetItem& other);
+    void takeLook(const QTreeWidgetItem& other);
 
     plib::GraphicalOutputRecord record; ///< captions: of the first plot; rows: of the plot
     qint32 isLC = -1;                   ///< negative: the item has no script line of its own

@@ -61,9 +61,12 @@ public:
     {
     }
 
-    OutputNode* create(OutputNode* parent, const QString& text, int)
+    OutputNode* create(OutputNode* parent, const QString& text, int, bool checked)
     {
-        return parent->addChild(text);
+        OutputNode* node = parent->addChild(text);
+        if (checked)
+            check(node);
+        return node;
     }
     void remove(OutputNode* node) { (node->parent() ? node->parent() : m_root)->removeChild(node); }
     void complete(OutputNode*) {}

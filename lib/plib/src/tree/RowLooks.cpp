@@ -5,32 +5,44 @@
 
 namespace plib {
 
-RowLooks::Looks::Looks(const QString& rowText, int number, const QIcon& icon)
-    : text(rowText)
-    , unchecked(rowText)
-    , checked(rowText)
-{
-    using namespace vkd::plib::widgetgraphicaloutput;
-    constexpr int RowLevel = 3;
-    for (GraphicalOutputTreeWidgetItem* look : {&unchecked, &checked}) {
-        look->setIcon(0, icon);
-        look->setData(0, LevelRole, RowLevel);
-        look->setData(0, LoadCaseRole, number);
-    }
-    checked.setCheckState(0, Qt::Checked);
-}
-
 RowLooks::RowLooks(vkd::Language language)
     : m_icon(rowIcon(language))
 {
 }
 
-const GraphicalOutputTreeWidgetItem& RowLooks::of(const QString& text, int number, bool checked)
+const QTreeWidgetItem& RowLooks::of(const QString& text, int number, bool checked)
 {
-    std::unique_ptr<const Looks>& looks = m_looks[{text.constData(), text.size(), number}];
-    if (!looks)
-        looks = std::make_unique<const Looks>(text, number, m_icon);
-    return checked ? looks->checked : looks->unchecked;
+    const Looks& looks = find(text, number);
+    return checked ? *looks.checked : *looks.unchecked;
+}
+
+const RowLooks::Looks& RowLooks::find(const QString& text, int number)
+{
+    if (m_next < m_looks.size() && m_looks[m_next].belongTo(text, number))
+        return m_looks[m_next++];
+    m_next = m_places.value({text.constData(), number}, m_looks.size());
+    if (m_next == m_looks.size() || !m_looks[m_next].belongTo(text, number)) {
+        m_next = m_looks.size();
+        m_places.insert({text.constData(), number}, m_next);
+        m_looks.push_back({text, number, newLook(text, number, Qt::Unchecked),
+                           newLook(text, number, Qt::Checked)});
+    }
+    return m_looks[m_next++];
+}
+
+/// The check state comes first, because it is read most often and roles are searched in order.
+std::unique_ptr<const QTreeWidgetItem> RowLooks::newLook(const QString& text, int number,
+                                                         Qt::CheckState state) const
+{
+    using namespace vkd::plib::widgetgraphicaloutput;
+    constexpr int RowLevel = 3;
+    auto look = std::make_unique<QTreeWidgetItem>();
+    look->setCheckState(0, state);
+    look->setText(0, text);
+    look->setIcon(0, m_icon);
+    look->setData(0, LevelRole, RowLevel);
+    look->setData(0, LoadCaseRole, number);
+    return look;
 }
 
 } // namespace plib

@@ -1,20 +1,23 @@
 #pragma once
 
-#include "tree/GraphicalOutputTreeWidgetItem.h"
-
 #include <vkd_language.h>
 
-#include <map>
+#include <QHash>
+#include <QIcon>
+#include <QPair>
+#include <QTreeWidgetItem>
+
 #include <memory>
-#include <tuple>
+#include <vector>
 
 namespace plib {
 
 /// The text, icon, data roles and check state of rows in the output tree, created once for each
 /// load case. They make up most of the time and memory that a row costs, and they are the same
-/// under each plot, so that items with the same look share them. Texts are compared by the address
-/// of their characters, which the rows of a load case share; so an object must not outlive the pass
-/// that fills the tree.
+/// under each plot, so that items with the same look share them. Two texts are the same if they
+/// share their characters, as those of the rows of a load case do. Looks are searched in the order
+/// in which they were created, since all plots have the same rows; a search by a key would miss the
+/// processor's caches for each row.
 class RowLooks
 {
 public:
@@ -22,22 +25,32 @@ public:
     explicit RowLooks(vkd::Language language);
 
     /// Returns the look of a row with this text and load case, checked or unchecked.
-    const GraphicalOutputTreeWidgetItem& of(const QString& text, int number, bool checked);
+    const QTreeWidgetItem& of(const QString& text, int number, bool checked);
 
 private:
+    /// Small, because those of all load cases should fit into the processor's caches.
     struct Looks
     {
-        Looks(const QString& text, int number, const QIcon& icon);
+        bool belongTo(const QString& rowText, int rowNumber) const
+        {
+            return number == rowNumber && text.isSharedWith(rowText);
+        }
 
         QString text; // keeps the characters at their address
-        GraphicalOutputTreeWidgetItem unchecked;
-        GraphicalOutputTreeWidgetItem checked;
+        int number;
+        std::unique_ptr<const QTreeWidgetItem> unchecked;
+        std::unique_ptr<const QTreeWidgetItem> checked;
     };
 
+    std::unique_ptr<const QTreeWidgetItem> newLook(const QString& text, int number,
+                                                   Qt::CheckState state) const;
+    const Looks& find(const QString& text, int number);
+
     QIcon m_icon;
-    // The keys are address, length and load case: texts of different lengths may begin at the same
-    // address, and a host may use a text for several load cases.
-    std::map<std::tuple<const QChar*, int, int>, std::unique_ptr<const Looks>> m_looks;
+    std::vector<Looks> m_looks;
+    size_t m_next = 0; // after the look that was found last
+    // By address and load case, because a host may use a text for several load cases.
+    QHash<QPair<const QChar*, int>, size_t> m_places;
 };
 
 } // namespace plib
