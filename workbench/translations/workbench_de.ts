@@ -263,54 +263,6 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <source>Groups of the model. Pointing at one lights it up in the view.</source>
         <translation>Gruppen des Modells. Die Gruppe unter dem Mauszeiger leuchtet in der Ansicht auf.</translation>
     </message>
-    <message>
-        <source>1 area</source>
-        <translation>1 Flächenelement</translation>
-    </message>
-    <message>
-        <source>%1 areas</source>
-        <translation>%1 Flächenelemente</translation>
-    </message>
-    <message>
-        <source>1 beam</source>
-        <translation>1 Stab</translation>
-    </message>
-    <message>
-        <source>%1 beams</source>
-        <translation>%1 Stäbe</translation>
-    </message>
-    <message>
-        <source>1 truss</source>
-        <translation>1 Fachwerkstab</translation>
-    </message>
-    <message>
-        <source>%1 trusses</source>
-        <translation>%1 Fachwerkstäbe</translation>
-    </message>
-    <message>
-        <source>1 cable</source>
-        <translation>1 Seil</translation>
-    </message>
-    <message>
-        <source>%1 cables</source>
-        <translation>%1 Seile</translation>
-    </message>
-    <message>
-        <source>1 spring</source>
-        <translation>1 Feder</translation>
-    </message>
-    <message>
-        <source>%1 springs</source>
-        <translation>%1 Federn</translation>
-    </message>
-    <message>
-        <source>1 brick</source>
-        <translation>1 Volumenelement</translation>
-    </message>
-    <message>
-        <source>%1 bricks</source>
-        <translation>%1 Volumenelemente</translation>
-    </message>
 </context>
 <context>
     <name>workbench::LoadCaseTable</name>

@@ -2,6 +2,7 @@
 
 #include <AnimatorView.h>
 #include <vkd_dbo_groups.h>
+#include <vkd_h_groupContents.h>
 
 #include <QEvent>
 #include <QHeaderView>
@@ -12,40 +13,6 @@ namespace workbench {
 
 namespace {
 enum Column { NumberColumn, TitleColumn, ContentsColumn };
-
-struct ElementSort
-{
-    int vkd::dbo::GroupContents::*count;
-    const char* one;
-    const char* many;
-};
-const ElementSort ElementSorts[] = {
-    {&vkd::dbo::GroupContents::quads, QT_TRANSLATE_NOOP("workbench::GroupList", "1 area"),
-     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 areas")},
-    {&vkd::dbo::GroupContents::beams, QT_TRANSLATE_NOOP("workbench::GroupList", "1 beam"),
-     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 beams")},
-    {&vkd::dbo::GroupContents::trusses, QT_TRANSLATE_NOOP("workbench::GroupList", "1 truss"),
-     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 trusses")},
-    {&vkd::dbo::GroupContents::cables, QT_TRANSLATE_NOOP("workbench::GroupList", "1 cable"),
-     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 cables")},
-    {&vkd::dbo::GroupContents::springs, QT_TRANSLATE_NOOP("workbench::GroupList", "1 spring"),
-     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 springs")},
-    {&vkd::dbo::GroupContents::bricks, QT_TRANSLATE_NOOP("workbench::GroupList", "1 brick"),
-     QT_TRANSLATE_NOOP("workbench::GroupList", "%1 bricks")},
-};
-
-QString contentsText(const vkd::dbo::GroupContents& contents)
-{
-    QStringList texts;
-    for (const ElementSort& sort : ElementSorts) {
-        const int count = contents.*sort.count;
-        if (count == 1)
-            texts << GroupList::tr(sort.one);
-        else if (count > 1)
-            texts << GroupList::tr(sort.many).arg(count);
-    }
-    return texts.join(QLatin1String(", "));
-}
 
 int groupOf(const QTreeWidgetItem* item)
 {
@@ -139,7 +106,7 @@ VkdStatus GroupList::fill()
         item->setData(NumberColumn, Qt::DisplayRole, group.number);
         item->setTextAlignment(NumberColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setText(TitleColumn, group.title);
-        item->setText(ContentsColumn, contentsText(group.contents));
+        item->setText(ContentsColumn, vkd::h::groupContentsText(group.contents));
         if (group.number == current)
             setCurrentItem(item);
         if (!vkd::dbo::hasAreas(group.contents))
