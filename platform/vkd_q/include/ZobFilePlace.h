@@ -9,31 +9,32 @@
 
 class ZobConnection;
 
-/// The place of a project file that is written completely before it appears: as a temporary file
-/// beside its path, which commit() renames. An existing file is replaced in one step.
+/// Writes a project file completely before it appears at its path. The caller writes a temporary
+/// file in the same folder, and commit() renames it. An existing file is replaced atomically.
 ///
-/// A file left beside the path, such as the journal of a program that crashed, never changes the
-/// new file. While the object exists, other programs cannot change a project at the path. A process
-/// may have only one object for a path.
+/// A leftover file, such as the journal of a crashed program, never affects the new file. While the
+/// object exists, other programs cannot change a project at the path. A process must not have two
+/// objects for the same path at the same time.
 class VKD_Q_EXPORT ZobFilePlace
 {
 public:
-    /// Locks the file at `path`, if there is one, and rolls back an interrupted change of it. Waits
-    /// for another program that is changing it, at most as long as setting 201 says. Removes the
-    /// temporary files that killed programs of this computer left for the path.
+    /// Locks the file at `path`, if it exists, and rolls back an interrupted change to it. If
+    /// another program is changing the file, waits no longer than the deadline in setting 201.
+    /// Removes temporary files for the path that killed programs left behind on this host.
     explicit ZobFilePlace(const QString& path);
-    /// Removes the temporary file unless it was committed, and those that killed programs left.
+    /// Removes the temporary file unless it was committed. Also removes the temporary files that
+    /// killed programs left behind.
     ~ZobFilePlace();
     ZobFilePlace(const ZobFilePlace&) = delete;
     ZobFilePlace& operator=(const ZobFilePlace&) = delete;
 
-    /// Returns OK, or why no file can be put there: VKD_ZOB_NO_FILE if the folder is missing or the
-    /// path does not name a file, VKD_ZOB_READ_ONLY, VKD_ZOB_LOCKED.
+    /// Returns OK, or the reason why no file can be created at the path: VKD_ZOB_NO_FILE if the
+    /// folder is missing or the path does not denote a file, VKD_ZOB_READ_ONLY or VKD_ZOB_LOCKED.
     const VkdStatus& status() const { return m_status; }
     /// Returns the path at which the caller creates the file.
     QString temporaryPath() const { return m_temporary; }
-    /// Stores the closed temporary file durably and renames it. Returns VKD_ZOB_LOCKED if a file
-    /// has appeared at the path since the construction; it is not replaced.
+    /// Flushes the closed temporary file to the disk and renames it. Returns VKD_ZOB_LOCKED if a
+    /// file has appeared at the path since construction; that file is not replaced.
     VkdStatus commit();
 
 private:

@@ -1,8 +1,8 @@
 #pragma once
 
-/// Refers to an open project by its database index, as a type that cannot be confused with other
-/// numbers. It does not keep the project open. Handles are passed by value. vkd_zob.h and the other
-/// interfaces of the suite take the bare index().
+/// Refers to an open project by its database index, as a separate type that cannot be confused with
+/// other integers. It does not keep the project open. Handles are passed by value. vkd_zob.h and
+/// the other interfaces of the suite take the bare index().
 class ZobHandle
 {
 public:

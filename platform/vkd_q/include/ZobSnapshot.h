@@ -8,11 +8,11 @@
 
 class ZobDatabase;
 
-/// A consistent state of a project for reading. While the object exists, other programs cannot
-/// store changes in the project; changes by this program are visible when they are put. The store
-/// counts its readers: snapshots may overlap with each other and with transactions in any order,
-/// and neither the end of a sequence nor vkd_zob_free_ex() ends a snapshot. Closing the project
-/// ends it.
+/// A consistent read snapshot of a project. While the object exists, other programs cannot store
+/// changes to the project. Records written by this program are visible immediately. The store
+/// counts its readers, so snapshots may overlap with each other and with transactions in any order.
+/// Neither the end of a sequence nor vkd_zob_free_ex() ends a snapshot. Closing the project ends
+/// the snapshot.
 ///
 /// If a transaction begins while a snapshot of this program exists and another program is changing
 /// the project, the transaction does not wait but is refused with VKD_ZOB_LOCKED. Otherwise both
@@ -20,15 +20,15 @@ class ZobDatabase;
 class VKD_Q_EXPORT ZobSnapshot
 {
 public:
-    /// Begins a snapshot of the project. Waits for another program that is storing, at most as long
-    /// as setting 201 says.
+    /// Begins a snapshot of the project. If another program is storing changes, waits no longer
+    /// than the deadline in setting 201.
     explicit ZobSnapshot(ZobHandle project);
     ~ZobSnapshot();
     ZobSnapshot(const ZobSnapshot&) = delete;
     ZobSnapshot& operator=(const ZobSnapshot&) = delete;
 
-    /// Returns OK, or why the snapshot could not begin, usually VKD_ZOB_LOCKED. Reads may then
-    /// return data from different states.
+    /// Returns OK, or the reason why the snapshot could not begin, usually VKD_ZOB_LOCKED. If it
+    /// could not begin, reads may return data from different states of the project.
     const VkdStatus& status() const { return m_status; }
 
 private:

@@ -4,10 +4,10 @@
 
 namespace vkd {
 
-/// The languages of the desktop, with the values of setting 102.
+/// The desktop languages, with the values of setting 102.
 enum class Language : int { German = 0, English = 1 };
 
-/// Returns the language of the desktop.
+/// Returns the desktop language.
 inline Language desktopLanguage()
 {
     return vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == 0 ? Language::German : Language::English;

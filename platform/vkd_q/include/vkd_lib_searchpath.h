@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-/// Searches for the file `name`, which may contain folders, on the suite's search path: the folders
+/// Searches for the file `name`, which may contain folders, in the suite's search path: the folders
 /// in the environment variable VKD_SHARE (separated as in PATH), the installed share folder, and
 /// the share folder of the build tree. The last two are relative to this library, so that a moved
 /// installation works. Returns the path in the encoding of the file system, or nothing if no folder

@@ -3,23 +3,22 @@
 #include <functional>
 
 /// The callback by which a long operation reports its progress and asks whether to continue. The
-/// argument is the finished part in percent, 0 if it is unknown. If the callback returns false, the
-/// operation ends soon and stores nothing. An empty function means that the operation always
-/// continues.
+/// argument is the progress in percent, or 0 if it is unknown. If the callback returns false, the
+/// operation stops soon and stores nothing. With an empty function, the operation always continues.
 using VkdGoOn = std::function<bool(int percent)>;
 
 /// Counts the steps of a long operation and calls `goOn` after every thousand steps.
 class VkdSteps
 {
 public:
-    /// `total` is the number of steps, 0 if it is unknown. `goOn` must outlive the object.
+    /// `total` is the number of steps, or 0 if it is unknown. `goOn` must outlive the object.
     explicit VkdSteps(const VkdGoOn& goOn, int total = 0)
         : m_goOn(goOn)
         , m_total(total)
     {
     }
 
-    /// Counts a step. Returns false once `goOn` returned false.
+    /// Counts a step. Returns false once `goOn` has returned false.
     bool next()
     {
         if (m_goOn && ++m_done % Stride == 0 && !m_isStopped)

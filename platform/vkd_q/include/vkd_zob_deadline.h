@@ -2,7 +2,8 @@
 
 #include "vkd_lib_value.h"
 
-/// Returns how long the store waits for another program's lock, in ms: setting 201, or the default.
+/// Returns the maximum time in ms that the store waits for another program's lock: setting 201, or
+/// the default.
 inline int vkd_zob_deadline()
 {
     constexpr int Default = 5000;

@@ -3,7 +3,7 @@
 namespace vkd {
 namespace zob {
 
-/// The keys of a sequence of records in the store.
+/// The key pair of a sequence of records in the store.
 struct KeyPair
 {
     int key1;
@@ -25,7 +25,7 @@ constexpr KeyPair Points{31, 0};
 constexpr KeyPair Lines{32, 0};
 constexpr KeyPair Areas{33, 0};
 constexpr KeyPair SectionCuts{34, 0};
-constexpr KeyPair DesignLines{35, 0}; // the library queries it by the first key alone
+constexpr KeyPair DesignLines{35, 0}; // the library queries it by the first key only
 constexpr KeyPair Beams{100, 0};
 constexpr KeyPair Trusses{150, 0};
 constexpr KeyPair Cables{160, 0};
@@ -37,9 +37,9 @@ constexpr KeyPair Design{200, 6}; // the design records of the groups
 constexpr KeyPair Bricks{300, 0};
 constexpr KeyPair Camera{410, 0};
 constexpr KeyPair PickedGroups{430, 0};
-constexpr KeyPair ForeignDesign{0, 12979}; // in the scratch store: design records of other programs
+constexpr KeyPair ForeignDesign{0, 12979}; // in the scratch store: other programs' design records
 
-/// The entries of a dialog page: key and value in turn.
+/// The entries of a dialog page, as alternating key and value records.
 constexpr KeyPair dialogPage(int page)
 {
     return {420, page};

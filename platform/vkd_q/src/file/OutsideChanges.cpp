@@ -10,7 +10,7 @@
 #include <sqlite3.h>
 
 namespace {
-constexpr int CounterOffset = 24; // of the change counter in an SQLite header
+constexpr int CounterOffset = 24; // offset of the change counter in the SQLite header
 constexpr char VersionSql[] = "PRAGMA data_version";
 } // namespace
 
@@ -38,8 +38,8 @@ cd_error_t OutsideChanges::number(int* number)
     return VKD_ZOB_OK;
 }
 
-/// A journal means that a program is storing or that it crashed while storing. After a crash, any
-/// query would roll the change back and so write to the file.
+/// A journal means that a program is storing changes or crashed while storing them. After a crash,
+/// any query would roll back the change and thus write to the file.
 cd_error_t OutsideChanges::ask()
 {
     if (m_connection.hasJournal())

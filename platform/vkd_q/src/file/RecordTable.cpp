@@ -47,7 +47,8 @@ int RecordTable::stepTo(KeyPair pair, int position)
     }
     m_walkPosition = position;
     const int code = m_get.step();
-    // Another program may have upgraded the file. While the statement runs, no other one can.
+    // Another program may have upgraded the file. While the statement is running, no other program
+    // can upgrade it.
     return code == SQLITE_ROW && !m_hasChecksums ? findVersion() : code;
 }
 

@@ -43,7 +43,7 @@ int Statement::run()
 
 int Statement::run(const void* bytes, int length)
 {
-    // A null pointer would store NULL, but an empty record is a record.
+    // A null pointer would store NULL instead of an empty record.
     const int code = length == 0 ? sqlite3_bind_zeroblob(m_statement, 3, 0)
                                  : sqlite3_bind_blob(m_statement, 3, bytes, length, SQLITE_STATIC);
     return code == SQLITE_OK ? run() : code;

@@ -3,8 +3,8 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// A prepared statement that lives as long as its database. It is reset after each use, so that it
-/// does not hold a lock. Used by RecordTable and ZobTransactions.
+/// A prepared statement that exists as long as its database connection. It is reset after each use
+/// so that it does not hold a lock. RecordTable and ZobTransactions use it.
 class Statement
 {
 public:
@@ -13,13 +13,14 @@ public:
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
 
-    /// Prepares `sql` on the first call. All operations that return an int return SQLite's code.
+    /// Prepares `sql` on the first call. All operations that return an int return an SQLite result
+    /// code.
     int prepare(sqlite3* connection, const char* sql);
     /// Prepares `sql` and binds the integers to its first parameters.
     int start(sqlite3* connection, const char* sql, int first, int second);
     int bind(int parameter, int value);
     int step();
-    /// Executes the statement once and resets it; the bytes are the third parameter.
+    /// Executes the statement once and resets it. The bytes are bound to the third parameter.
     int run();
     int run(const void* bytes, int length);
     int column(int index) const;

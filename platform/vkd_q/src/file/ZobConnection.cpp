@@ -25,7 +25,7 @@ constexpr char Schema[] = "BEGIN;" ZOB_RECORD_TABLE ";"
                           "COMMIT;";
 static_assert(ZobApplicationId == 1447773250 && ZobSchemaVersion == 2);
 
-// With a deleted journal, FULL can lose a commit in a power failure.
+// When the journal is deleted on commit, FULL can lose the commit in a power failure.
 constexpr char Durability[] = "PRAGMA synchronous = EXTRA;";
 
 // A project needs none of these features.
@@ -33,13 +33,13 @@ constexpr std::pair<int, int> Settings[] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
                                             {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
                                             {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
                                             {SQLITE_DBCONFIG_ENABLE_VIEW, 0}};
-constexpr int RowBytesBesideRecord = 100; // the checksum, the keys and SQLite's header of a row
+constexpr int RowBytesBesideRecord = 100; // checksum, keys and SQLite's row header
 constexpr std::pair<int, int> Limits[] = {
     {SQLITE_LIMIT_LENGTH, ZobMaxRecordBytes + RowBytesBesideRecord},
     {SQLITE_LIMIT_SQL_LENGTH, 10000},
     {SQLITE_LIMIT_ATTACHED, 0}};
 
-/// Called by SQLite while another program locks the file: sleeps shortly and gives up after the
+/// Called by SQLite while another program holds the lock. Sleeps briefly and gives up after the
 /// deadline. Short sleeps give all waiting writers a fair chance.
 int waitForOther(void*, int calls)
 {
@@ -53,8 +53,8 @@ int waitForOther(void*, int calls)
     return 1;
 }
 
-/// Returns whether the file is read-only. A file without any write permission must not change, even
-/// if this user could write it.
+/// Returns whether the file is read-only. A file without any write permission must not be changed,
+/// even if this user could write to it.
 bool isWriteProtected(const QString& path)
 {
     const QFileInfo file(path);
@@ -88,7 +88,7 @@ VkdStatus ZobConnection::open(const VkdGoOn& goOn)
 
 VkdStatus ZobConnection::create()
 {
-    // Created exclusively, so that two programs cannot create the same file.
+    // The file is created exclusively so that two programs cannot create the same file.
     QFile file(m_path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return fail(VKD_ZOB_NO_FILE, ZobAction::Create, file.errorString());
@@ -118,11 +118,11 @@ VkdStatus ZobConnection::openUnchecked()
 VkdStatus ZobConnection::connect(int flags)
 {
     sqlite3* connection = nullptr;
-    // Absolute, because SQLite would treat "file:x" as a URI.
+    // The path must be absolute, because SQLite would treat "file:x" as a URI.
     const QByteArray path = m_path == InMemory
                                 ? m_path.toUtf8()
                                 : QFile::encodeName(QFileInfo(m_path).absoluteFilePath());
-    // Never two calls at a time, so SQLite needs no mutex.
+    // Calls are never concurrent, so SQLite needs no mutex.
     const int code =
         sqlite3_open_v2(path.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, zobVfs());
     m_handle.reset(connection);
@@ -205,7 +205,7 @@ VkdStatus ZobConnection::execute(const char* sql, ZobAction action)
 VkdStatus ZobConnection::fail(int sqliteCode, ZobAction action)
 {
     const int systemError = takeSystemError();
-    // The store never wrote such a record.
+    // The store never writes a record of this size.
     const bool isTooBigToRead = (sqliteCode & 0xff) == SQLITE_TOOBIG && action != ZobAction::Write;
     const auto code = isTooBigToRead ? VKD_ZOB_DAMAGED
                                      : VkdZobStatus(zobStatus(handle(), sqliteCode, systemError));
@@ -223,7 +223,7 @@ QString ZobConnection::failureDetail(int sqliteCode, int systemError) const
 
 VkdStatus ZobConnection::failToOpen(int sqliteCode)
 {
-    if (sqliteCode == SQLITE_INTERRUPT) // by the caller
+    if (sqliteCode == SQLITE_INTERRUPT) // cancelled by the caller
         return zobFailure(VKD_ZOB_CANCELLED, ZobAction::Open, m_path);
     return fail(sqliteCode,
                 (sqliteCode & 0xff) == SQLITE_IOERR ? ZobAction::Read : ZobAction::Open);

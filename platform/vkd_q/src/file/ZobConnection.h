@@ -7,19 +7,19 @@
 struct sqlite3;
 
 /// The connection of a store to its SQLite file or in-memory database. It opens and creates files,
-/// executes plain SQL, converts SQLite's codes to failures of the store and remembers the last one.
-/// It does not handle records.
+/// executes plain SQL, converts SQLite result codes to failures of the store and keeps the last
+/// failure. It does not handle records.
 class ZobConnection
 {
 public:
-    /// Creates an unconnected object; one of the next four functions connects it. Each failure
-    /// writes its log line, unless the caller cancelled.
+    /// Creates an unconnected object; one of the next four functions connects it. Each failure is
+    /// logged, unless the caller cancelled.
     explicit ZobConnection(const QString& path);
     VkdStatus open(const VkdGoOn& goOn);
-    /// Creates the file, and removes it again if it cannot be completed.
+    /// Creates the file. Removes it again if initialization fails.
     VkdStatus create();
     VkdStatus openInMemory();
-    /// Opens any file for writing, without reading it.
+    /// Opens any file for writing, without checking its contents.
     VkdStatus openUnchecked();
 
     sqlite3* handle() const { return m_handle.get(); }
@@ -33,26 +33,27 @@ public:
     bool isAway() const;
     /// Returns whether a journal exists beside the path.
     bool hasJournal() const;
-    /// Sets whether statements wait while another program locks the file, at most as long as
-    /// setting 201 says. They do by default.
+    /// Sets whether statements wait while another program holds the lock, no longer than the
+    /// deadline in setting 201. By default, they wait.
     void setWaiting(bool waits);
 
     VkdStatus execute(const char* sql, ZobAction action);
-    /// Reads the first column of the first row and reports failures as failures to open the file.
-    /// `goOn` is called meanwhile.
+    /// Reads the first column of the first row. Failures are reported as failures to open the file.
+    /// `goOn` is called while the statement is running.
     VkdStatus number(const char* sql, int* value, const VkdGoOn& goOn = VkdGoOn());
-    /// Converts SQLite's code to a failure, logs it and remembers it.
+    /// Converts an SQLite result code to a failure, logs it and stores it as the last failure.
     VkdStatus fail(int sqliteCode, ZobAction action);
-    /// Does the same for a failure to open the file, which may be a failure to read it, or the
-    /// caller's wish to cancel.
+    /// Does the same for a failure to open the file. The cause may also be a read failure or a
+    /// cancellation by the caller.
     VkdStatus failToOpen(int sqliteCode);
-    /// Logs the failure and remembers it.
+    /// Logs the failure and stores it as the last failure.
     VkdStatus fail(VkdZobStatus code, ZobAction action, const QString& detail = QString());
     const VkdStatus& lastFailure() const { return m_lastFailure; }
 
 private:
     VkdStatus connect(int flags);
-    /// Restricts SQLite, because the file may come from a stranger. Returns SQLite's code.
+    /// Disables SQLite features, because the file may come from an untrusted source. Returns the
+    /// SQLite result code.
     int restrictConnection();
     VkdStatus makeSchema();
     QString failureDetail(int sqliteCode, int systemError) const;

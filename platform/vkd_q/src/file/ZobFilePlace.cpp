@@ -15,7 +15,7 @@
 #include <unistd.h>
 
 namespace {
-/// The suffixes of files that SQLite plays back into the database file of the same name.
+/// The suffixes of files that SQLite replays into the database file with the same name.
 const char* const LeftSuffixes[] = {"-journal", "-wal", "-shm"};
 
 bool isWriteProtected(const QFileInfo& file)
@@ -41,7 +41,7 @@ bool isOtherRunning(int process)
     return process != getpid() && (kill(process, 0) == 0 || errno != ESRCH);
 }
 
-/// Writes the contents of a file or folder to the disk.
+/// Flushes the contents of a file or folder to the disk.
 bool sync(const QString& path, int flags)
 {
     const int descriptor = open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
@@ -61,13 +61,14 @@ bool removeLeftBeside(const QString& path)
     return isDone;
 }
 
-/// Stores the names of files. Not all file systems support that, and the folder must be readable.
+/// Flushes the directory entries. Not all file systems support this, and the folder must be
+/// readable.
 bool syncFolder(const QString& folder)
 {
     return sync(folder, O_DIRECTORY) || errno == EINVAL || errno == ENOTSUP || errno == EACCES;
 }
 
-/// Without replacing, a file that has appeared meanwhile is an error. QFile::rename() is not used,
+/// If `replaces` is false, an existing file at `to` is an error. QFile::rename() is not used,
 /// because it copies the file if it cannot be renamed.
 bool renameFile(const QByteArray& from, const QByteArray& to, bool replaces)
 {
@@ -108,7 +109,7 @@ VkdStatus ZobFilePlace::prepare()
     return m_replaces ? lock() : VkdStatus();
 }
 
-/// A file that is not a database has no lock, and no program has it open as a project.
+/// A file that is not a database needs no lock, because no program can have it open as a project.
 VkdStatus ZobFilePlace::lock()
 {
     m_locked = std::make_unique<ZobConnection>(m_path);
@@ -123,8 +124,9 @@ VkdStatus ZobFilePlace::lock()
     return isLocked ? VkdStatus() : m_locked->fail(code, ZobAction::TakeLock);
 }
 
-/// Removes temporary files of this process and of killed ones. The temporary file may itself be the
-/// path of another process, whose number comes last then.
+/// Removes the temporary files of this process and of killed processes. A temporary file may itself
+/// be the target path of another process; in this case the ID of that process is at the end of the
+/// name.
 void ZobFilePlace::removeLeftFiles() const
 {
     const QFileInfo file(m_path);

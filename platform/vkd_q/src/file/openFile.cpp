@@ -7,7 +7,7 @@
 namespace {
 constexpr qint64 PieceBytes = 1 << 20;
 
-/// Returns null for a store in memory.
+/// Returns null for an in-memory store.
 sqlite3_file* descriptor(sqlite3* connection)
 {
     sqlite3_file* file = nullptr;

@@ -6,8 +6,9 @@
 
 struct sqlite3;
 
-// The file of an open connection, through the descriptor of the connection. No other descriptor may
-// be opened for the same file: closing it would drop all locks of the process on the file.
+// These functions access the file of an open connection through the connection's own descriptor. No
+// other descriptor may be opened for the file, because closing it would release all locks that the
+// process holds on the file.
 
 /// Reads from the file without a lock.
 bool readFile(sqlite3* connection, void* bytes, int length, qint64 offset);

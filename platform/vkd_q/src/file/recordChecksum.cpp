@@ -4,7 +4,7 @@
 
 #include <sqlite3.h>
 
-#define XXH_INLINE_ALL // a call would take as long as the checksum of a short record
+#define XXH_INLINE_ALL // a function call takes as long as hashing a short record
 #include <xxhash.h>
 
 #include <cstring>
@@ -12,8 +12,8 @@
 namespace {
 quint64 checksum(std::pair<int, int> pair, int position, const void* bytes, size_t length)
 {
-    // Keys and position change the result without being hashed, which would take time.
-    constexpr quint64 Odd = 0x9E3779B97F4A7C15; // spreads small numbers over all bits
+    // The keys and the position are mixed in arithmetically, which is faster than hashing them.
+    constexpr quint64 Odd = 0x9E3779B97F4A7C15; // spreads small integers over all bits
     const quint64 keys = quint64(quint32(pair.first)) << 32 | quint32(pair.second);
     return XXH3_64bits_withSeed(bytes, length, keys ^ (quint32(position) * Odd));
 }

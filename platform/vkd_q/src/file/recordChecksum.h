@@ -4,14 +4,15 @@
 
 struct sqlite3;
 
-// Each record is stored with eight more bytes at its end: a checksum of its bytes, its keys and its
-// position, XXH3 with 64 bits, little-endian. So a bit that flips in the file is detected.
+// Each record is stored with eight additional bytes at its end: the 64-bit XXH3 checksum of its
+// bytes, keys and position, little-endian. The checksum detects flipped bits in the file.
 
 constexpr int ChecksumBytes = 8;
 
-/// Returns whether the stored bytes end with the checksum of the bytes before.
+/// Returns whether the stored bytes end with the correct checksum of the preceding bytes.
 bool hasChecksum(std::pair<int, int> pair, int position, const void* bytes, int length);
 
 /// Adds two functions of (key1, key2, position, data) to the SQL of the connection: with_checksum
-/// returns the bytes to store, has_checksum checks stored ones. Returns SQLite's code.
+/// returns the bytes to store, and has_checksum checks stored bytes. Returns the SQLite result
+/// code.
 int addChecksumFunctions(sqlite3* connection);

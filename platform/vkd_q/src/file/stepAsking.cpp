@@ -5,8 +5,8 @@
 #include <chrono>
 #include <future>
 
-/// The statement runs in another thread, because SQLite calls its progress handler only between the
-/// instructions of a statement, and the check of all pages is a single one.
+/// The statement runs in a separate thread, because SQLite calls its progress handler only between
+/// the instructions of a statement, and a single instruction checks all pages.
 int stepAsking(sqlite3_stmt* statement, const VkdGoOn& goOn)
 {
     constexpr std::chrono::milliseconds BetweenQuestions(20);

@@ -4,6 +4,6 @@
 
 struct sqlite3_stmt;
 
-/// Executes a long statement up to its next row, calling `goOn` before and meanwhile. Returns
-/// SQLite's code, SQLITE_INTERRUPT if `goOn` returned false.
+/// Executes a long-running statement up to its next row and calls `goOn` before and during the
+/// execution. Returns the SQLite result code, SQLITE_INTERRUPT if `goOn` returned false.
 int stepAsking(sqlite3_stmt* statement, const VkdGoOn& goOn);

@@ -12,19 +12,19 @@
 namespace {
 constexpr char Name[] = "vkd";
 
-/// The functions of an open file, which call the original ones.
+/// The I/O methods of an open file, which call the original methods.
 struct Methods : sqlite3_io_methods
 {
     const sqlite3_io_methods* original;
 };
 
-std::atomic<int> lastError{0}; // a file is checked in a thread of its own
+std::atomic<int> lastError{0}; // a file is checked in a separate thread
 sqlite3_vfs* original = nullptr;
 sqlite3_vfs layer;
 
 int remembered(int code)
 {
-    // The first two are no errors for SQLite.
+    // SQLite does not regard the first two codes as errors.
     const bool isFailure =
         code != SQLITE_IOERR_SHORT_READ && code != SQLITE_IOERR_DELETE_NOENT &&
         ((code & 0xff) == SQLITE_IOERR || code == SQLITE_FULL || code == SQLITE_CANTOPEN);
@@ -40,7 +40,7 @@ int access(sqlite3_file* file, Arguments... arguments)
     return remembered((methods->original->*Method)(file, arguments...));
 }
 
-/// SQLite uses other functions for a journal than for a database.
+/// SQLite uses different I/O methods for journals and for databases.
 const sqlite3_io_methods* layerOver(const sqlite3_io_methods* methods)
 {
     static std::map<const sqlite3_io_methods*, Methods> layers;
@@ -67,7 +67,8 @@ bool canCreate(const char* path)
 int open(sqlite3_vfs*, const char* path, sqlite3_file* file, int flags, int* usedFlags)
 {
     int code = original->xOpen(original, path, file, flags, usedFlags);
-    // SQLite hides why it cannot create a file, because it tries to read it afterwards.
+    // SQLite hides the reason why it cannot create a file, because it then tries to open the file
+    // for reading.
     if (code == SQLITE_CANTOPEN && path && (flags & SQLITE_OPEN_CREATE) && canCreate(path))
         code = original->xOpen(original, path, file, flags, usedFlags);
     if (code == SQLITE_OK)
@@ -80,7 +81,7 @@ int remove(sqlite3_vfs*, const char* path, int syncsFolder)
     return remembered(original->xDelete(original, path, syncsFolder));
 }
 
-/// Ends before this library is unloaded.
+/// Unregisters the VFS before this library is unloaded.
 struct Registration
 {
     Registration()

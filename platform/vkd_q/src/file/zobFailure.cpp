@@ -61,7 +61,8 @@ QString asWritten(const char* source)
     return QString::fromUtf8(source);
 }
 
-/// Translates to the desktop's language; the German texts are in vkd_qt's translation.
+/// Translates the message to the desktop language. The translation file of vkd_qt contains the
+/// German messages.
 QString inDesktopsLanguage(const char* source)
 {
     return QCoreApplication::translate("ZobTexts", source);

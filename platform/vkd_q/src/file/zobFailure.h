@@ -5,7 +5,7 @@
 
 struct sqlite3;
 
-/// The operation that failed. Each one has a sentence of its own, because German has a different
+/// The operation that failed. Each operation has its own sentence, because German has a different
 /// word order.
 enum class ZobAction {
     Open,
@@ -20,18 +20,18 @@ enum class ZobAction {
     Use
 };
 
-/// Converts an errno to a status.
+/// Converts an errno to a status code.
 cd_error_t statusOfSystemError(int error);
 
-/// Converts the code of the last SQLite call on `connection` to a status. `systemError` is the
-/// errno of the access to the file that failed, 0 if there was none.
+/// Converts the result code of the last SQLite call on `connection` to a status code. `systemError`
+/// is the errno of the failed file access, or 0 if no access failed.
 cd_error_t zobStatus(sqlite3* connection, int sqliteCode, int systemError);
 
-/// Returns the status of a failed operation on `file` in the desktop's language, without logging.
-/// `detail` is the message of the system or of SQLite.
+/// Returns the status of a failed operation on `file` in the desktop language, without logging it.
+/// `detail` is the message from the operating system or SQLite.
 VkdStatus zobFailure(cd_error_t code, ZobAction action, const QString& file,
                      const QString& detail = QString());
 
-/// Returns the same status and writes the English log line of the failed operation.
+/// Returns the same status and logs the failed operation in English.
 VkdStatus reportZobFailure(cd_error_t code, ZobAction action, const QString& file,
                            const QString& detail = QString());

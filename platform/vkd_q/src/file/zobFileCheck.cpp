@@ -8,12 +8,13 @@
 #include <sqlite3.h>
 
 namespace {
-// A project contains the record table only. A view could run endlessly, and a trigger could change
-// the records that are put.
+// A project contains only the record table. A view could run endlessly, and a trigger could change
+// the records that are written.
 constexpr char ForeignSql[] =
     "SELECT count(*) != 1 OR min(sql) IS NOT '" ZOB_RECORD_TABLE "' FROM sqlite_master";
 
-// A record that is not in its place is found here, too: a flipped bit of a key would hide it.
+// This query also finds a record at the wrong position, because a flipped bit in a key would hide
+// the record.
 constexpr char DamagedRecordSql[] =
     "SELECT EXISTS(SELECT 1 FROM record WHERE NOT has_checksum(key1, key2, position, data))";
 
@@ -34,8 +35,8 @@ VkdStatus checkRecords(ZobConnection& connection, const VkdGoOn& goOn)
                : status;
 }
 
-/// Runs the check of SQLite's structures and sets `finding` to its first one, empty if there is
-/// none.
+/// Checks SQLite's structures and sets `finding` to the first problem, or to an empty string if
+/// there is none.
 VkdStatus quickCheck(ZobConnection& connection, const VkdGoOn& goOn, QString* finding)
 {
     sqlite3_stmt* check = nullptr;
@@ -52,7 +53,7 @@ VkdStatus quickCheck(ZobConnection& connection, const VkdGoOn& goOn, QString* fi
     return status;
 }
 
-/// The check reports a page that cannot be read as a finding, too.
+/// The check also reports an unreadable page as a finding.
 VkdStatus checkStructure(ZobConnection& connection, const VkdGoOn& goOn)
 {
     QString finding;
@@ -68,9 +69,11 @@ VkdStatus checkStructure(ZobConnection& connection, const VkdGoOn& goOn)
 
 VkdStatus checkSoundness(ZobConnection& connection, bool hasChecksums, const VkdGoOn& goOn)
 {
-    // All checks read one state of the file, and only the first one can wait for another program.
+    // All checks read the same state of the file, and only the first check may wait for another
+    // program.
     VkdStatus status = connection.execute("BEGIN", ZobAction::Open);
-    // First, because the check of the structure would execute functions of a foreign table.
+    // This check must be first, because the structure check would execute functions used by a
+    // foreign table.
     if (status.isOk())
         status = checkTable(connection);
     if (status.isOk())

@@ -5,6 +5,6 @@
 
 class ZobConnection;
 
-/// Checks that the connected file is an undamaged project of this version without anything else,
-/// and calls `goOn` meanwhile. Failures are logged, unless the caller cancelled.
+/// Checks that the connected file is an undamaged project of a supported version and contains
+/// nothing else. Calls `goOn` during the check. Failures are logged, unless the caller cancelled.
 VkdStatus checkZobFile(ZobConnection& connection, const VkdGoOn& goOn);

@@ -1,12 +1,12 @@
 #pragma once
 
 constexpr int ZobApplicationId = 0x564b4442; // "VKDB"
-// The records of version 1 have no checksums. Such a file is upgraded with its first change.
+// The records of version 1 have no checksums. A version 1 file is upgraded on its first change.
 constexpr int ZobSchemaVersion = 2;
 constexpr int OldestZobSchemaVersion = 1;
 
-// Far more than a record of a model needs. The limit bounds the memory that a malicious file can
-// request.
+// This is far more than any model record needs. The limit bounds the memory that a malicious file
+// can make the process allocate.
 constexpr int ZobMaxRecordBytes = 256 * 1024 * 1024;
 
 #define ZOB_RECORD_TABLE                                                \

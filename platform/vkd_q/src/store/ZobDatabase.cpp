@@ -31,7 +31,8 @@ cd_error_t ZobDatabase::get(int key1, int key2, void* record, int* length, int p
         status = code == SQLITE_DONE ? statusAfterEnd(pair) : failInside(code, ZobAction::Read);
     if (status > VKD_ZOB_CUT)
         m_transactions.endPass(pair);
-    // Without a pass or a change, no later call would end the walk, which keeps the file locked.
+    // Without a read pass or a change, no later call would end the iteration, which keeps the file
+    // locked.
     if (status > VKD_ZOB_CUT || (!m_transactions.isReading() && !m_transactions.isChanging()))
         m_table.stopWalk();
     return status;
@@ -54,9 +55,8 @@ cd_error_t ZobDatabase::statusAfterEnd(RecordTable::KeyPair pair)
     return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_NO_KEY) : failInside(code, ZobAction::Read);
 }
 
-/// Makes the whole change fail. A failure within a change, even of a read, may have ended the
-/// transaction: later puts would be stored separately, and they may lack data that could not be
-/// read.
+/// Makes the whole change fail. A failure within a change, even a read failure, may have ended the
+/// transaction. Later writes would be stored separately and might lack data that could not be read.
 cd_error_t ZobDatabase::failInside(int sqliteCode, ZobAction action)
 {
     m_table.forgetVersion(); // SQLite may have rolled back an upgrade
@@ -76,7 +76,7 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
         return refuseCall(ZobAction::Write);
     if (!m_transactions.isChanging() && m_connection->isAway())
         return m_connection->fail(VKD_ZOB_MOVED, ZobAction::Write).code;
-    m_transactions.endPasses(); // within a change there are none
+    m_transactions.endPasses(); // within a change there are no read passes
     m_table.stopWalk();
     if (const int code = upgrade(); code != SQLITE_OK)
         return failInside(code, ZobAction::Write);
@@ -90,7 +90,7 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
     return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : failInside(code, ZobAction::Write);
 }
 
-/// Upgrades a file of an older version, in a transaction of its own outside a change.
+/// Upgrades a file of an older version. Outside a change, the upgrade has its own transaction.
 int ZobDatabase::upgrade()
 {
     if (m_transactions.isChanging() || m_table.isUpgraded())

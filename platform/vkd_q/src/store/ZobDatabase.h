@@ -8,25 +8,25 @@
 
 #include <memory>
 
-/// One open store: an SQLite file with a rollback journal, or a store in memory. It implements the
-/// operations of the ZOB with the connection, the records and the transactions. openStores.cpp has
-/// the list of open stores.
+/// One open store: an SQLite file with a rollback journal, or an in-memory database. It implements
+/// the operations of the ZOB on top of the connection, the record table and the transactions.
+/// openStores.cpp contains the list of open stores.
 class ZobDatabase : public std::enable_shared_from_this<ZobDatabase>
 {
 public:
-    /// Takes an open connection.
+    /// Takes ownership of an open connection.
     explicit ZobDatabase(std::unique_ptr<ZobConnection> connection);
 
     cd_error_t get(int key1, int key2, void* record, int* length, int position);
     cd_error_t put(int key1, int key2, const void* record, int length, int position);
     /// Sets the pair to the first used one that is not less, or to -1, -1.
     void firstPairFrom(int* key1, int* key2);
-    /// Fails because an argument is out of range.
+    /// Reports that an argument is out of range and returns the code of the failure.
     cd_error_t refuseCall(ZobAction action);
     ZobTransactions& transactions() { return m_transactions; }
     OutsideChanges& outsideChanges() { return m_outsideChanges; }
     VkdStatus copy(const VkdZobTake& take);
-    /// Returns OK if no operation failed.
+    /// Returns OK if no operation has failed.
     const VkdStatus& lastFailure() const { return m_connection->lastFailure(); }
 
 private:
@@ -35,7 +35,7 @@ private:
     int upgrade();
     cd_error_t failInside(int sqliteCode, ZobAction action);
 
-    std::unique_ptr<ZobConnection> m_connection; // first member: outlives the statements
+    std::unique_ptr<ZobConnection> m_connection; // declared first to outlive the statements
     RecordTable m_table;
     ZobTransactions m_transactions;
     OutsideChanges m_outsideChanges;

@@ -52,14 +52,14 @@ void ZobTransactions::endSnapshot()
 }
 
 /// Locks the file against changes by other programs. A running statement keeps the shared lock even
-/// after a change of this connection ends. A read transaction would end with that change, and other
-/// programs could store before the next one begins.
+/// after a change on this connection ends. A read transaction would end with that change, and other
+/// programs could store changes before the next one begins.
 VkdStatus ZobTransactions::hold()
 {
     if (m_isReading)
         return {};
-    // Another file may have taken the place of the open one. SQLite would mistake its journal for
-    // an interrupted change of the open file and play it back into that.
+    // Another file may have replaced the open file. SQLite would mistake the other file's journal
+    // for an interrupted change to the open file and roll it back there.
     if (m_connection.isAway() && m_connection.hasJournal())
         return m_connection.fail(VKD_ZOB_MOVED, ZobAction::Read);
     int code = m_hold.prepare(m_connection.handle(), HoldSql);
@@ -86,7 +86,7 @@ void ZobTransactions::letGo()
 VkdStatus ZobTransactions::take(KeyPair pair)
 {
     const VkdStatus status = joinChange();
-    m_taken.insert(pair); // also a refused pair: the change fails until the last release
+    m_taken.insert(pair); // even if refused: the change fails until the last release
     return status;
 }
 
@@ -108,7 +108,7 @@ VkdStatus ZobTransactions::joinChange()
 VkdStatus ZobTransactions::beginChange()
 {
     m_table.forgetEnds();
-    // In both cases SQLite would begin the transaction and refuse only the writes.
+    // In both cases SQLite would begin the transaction and only then refuse the writes.
     if (m_connection.isAway())
         return m_connection.fail(VKD_ZOB_MOVED, ZobAction::TakeLock);
     if (m_connection.isReadOnly())
@@ -144,7 +144,7 @@ void ZobTransactions::storeOrDrop()
     if (status.isOk())
         status = m_connection.execute("COMMIT", ZobAction::StoreChanges);
     const bool wasChanging = std::exchange(m_isChanging, false);
-    // SQLite rolls back after some failures itself.
+    // SQLite itself rolls back after some failures.
     if (!status.isOk() && wasChanging && m_connection.isInTransaction())
         m_connection.execute("ROLLBACK", ZobAction::UndoChanges);
     if (!status.isOk())
@@ -155,7 +155,7 @@ void ZobTransactions::storeOrDrop()
 void ZobTransactions::rememberEnd(const VkdStatus& status)
 {
     m_endOfChange = status;
-    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // intended
+    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // deliberate
     if (isFailure && m_firstFailure.isOk())
         m_firstFailure = status;
 }

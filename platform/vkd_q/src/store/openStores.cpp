@@ -9,16 +9,16 @@ constexpr int ScratchIndex = ZobHandle::scratch().index();
 
 using Stores = std::map<int, std::shared_ptr<ZobDatabase>>;
 
-/// Never destroyed, because static objects of a host may close documents at the very end.
+/// Never destroyed, because the host's static objects may close documents when the process exits.
 Stores& stores()
 {
     static Stores& open = *new Stores;
     return open;
 }
 
-/// Rolls back open changes at the end, so that no journal remains beside a project. Constructed
-/// when this library is loaded, so that it is destroyed after the static objects of all libraries
-/// that link it.
+/// Rolls back open changes when the process exits, so that no journal remains next to a project.
+/// The object is constructed when this library is loaded. It is therefore destroyed after the
+/// static objects of all libraries that link to this library.
 const struct ChangesAtEnd
 {
     ~ChangesAtEnd()

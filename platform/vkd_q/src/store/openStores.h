@@ -7,7 +7,7 @@
 /// Returns the store with this index, or null if there is none.
 ZobDatabase* findStore(int index);
 
-/// Returns the store with this index. If there is none, logs a line, sets `failure` and returns
+/// Returns the store with this index. If there is none, logs the error, sets `failure` and returns
 /// null.
 ZobDatabase* openStore(int index, VkdStatus* failure);
 

@@ -22,7 +22,7 @@ VkdStatus vkd_zob_create(const char* path, int* index)
 
 VkdStatus vkd_zob_close(int index)
 {
-    if (index == 0) // the scratch store lives as long as the process
+    if (index == 0) // the scratch store exists as long as the process
         return reportZobFailure(VKD_ZOB_BAD_CALL, ZobAction::Close, QString::number(index));
     VkdStatus status;
     if (ZobDatabase* store = openStore(index, &status)) {

@@ -19,7 +19,7 @@ struct BothLanguages
     QByteArray english;
 };
 
-/// The texts of one program, keyed by class and key.
+/// The messages of one program, keyed by class and key.
 using Texts = QHash<QPair<int, QByteArray>, BothLanguages>;
 
 Texts readTexts(const QString& path)
@@ -32,7 +32,7 @@ Texts readTexts(const QString& path)
     for (int number = 1; file.isReadable() && !file.atEnd(); ++number) {
         QByteArray line = file.readLine();
         while (line.endsWith('\n') || line.endsWith('\r'))
-            line.chop(1); // blanks can be part of a text
+            line.chop(1); // only the newline: spaces can be part of a message
         if (line.trimmed().isEmpty() || line.startsWith('#'))
             continue;
         const QList<QByteArray> parts = line.split('|');
@@ -43,7 +43,7 @@ Texts readTexts(const QString& path)
                       qUtf8Printable(path), number);
             continue;
         }
-        // Keys come from captions and are compared in Latin-1.
+        // Keys originate from captions and are compared in Latin-1.
         const auto key = qMakePair(textClass, QString::fromUtf8(parts[1]).toLatin1());
         if (!texts.contains(key))
             texts.insert(key, {parts[2], parts[3]});
@@ -56,7 +56,7 @@ const Texts* selected = nullptr;
 
 void vkd_lib_opentext(const char* program)
 {
-    static std::map<QString, Texts> read; // elements of a std::map are never moved
+    static std::map<QString, Texts> read; // elements of a std::map have stable addresses
     const std::string name = std::string("texts/") + program + ".txt";
     const auto path = vkd_lib_searchpath(name.c_str(), 3);
     if (!path)
