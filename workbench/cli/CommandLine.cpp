@@ -30,8 +30,8 @@ void CommandLine::parse(const QStringList& arguments)
     if (!m_parser.parse(arguments))
         throw CommandError{m_parser.errorText()};
     if (m_parser.isSet(QStringLiteral("help"))) {
-        // The parser does not know that the first argument is the command, so replace its usage
-        // line.
+        // The parser does not know that the first argument is the command, so its usage line is
+        // replaced.
         const QString text = m_parser.helpText();
         throw HelpWanted{QStringLiteral("Usage: plib_workbench %1 ").arg(arguments.first()) +
                          text.mid(text.indexOf(QLatin1String("[options]")))};

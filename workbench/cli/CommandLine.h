@@ -12,20 +12,20 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// Thrown if a command fails; `text` is the reason for the user, in one line.
+/// Thrown if a command fails; `text` is a one-line reason for the user.
 struct CommandError
 {
     QString text;
 };
 
-/// Thrown if the arguments request the help of a command; `text` is the help.
+/// Thrown if the arguments request the help of a command; `text` is the help text.
 struct HelpWanted
 {
     QString text;
 };
 
 /// Parses the arguments of one command. Throws a CommandError for unknown options and missing
-/// arguments, so that commands contain no error handling for them.
+/// arguments, so that commands need no error handling for these.
 class CommandLine
 {
 public:
@@ -36,8 +36,8 @@ public:
         QString description;
     };
 
-    /// `positional` lists the required arguments, then the optional ones in brackets. An ellipsis
-    /// at the end of the last name means any number of arguments.
+    /// `positional` lists the required arguments, followed by the optional arguments in brackets.
+    /// An ellipsis at the end of the last name means any number of arguments.
     CommandLine(const QString& description, const QStringList& positional,
                 const std::vector<Option>& options);
     void parse(const QStringList& arguments);
@@ -59,7 +59,7 @@ private:
 /// Opens a project, or throws a CommandError with the reason from the platform.
 std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path);
 
-/// Return the bytes of a file and the text of a UTF-8 file, or throw a CommandError.
+/// Return the bytes of a file, or the text of a UTF-8 file. Throw a CommandError if reading fails.
 QByteArray readBytes(const QString& path);
 QString readText(const QString& path);
 
@@ -68,7 +68,7 @@ void print(const QString& text);
 
 /// Returns the option for the language of captions and messages.
 CommandLine::Option languageOption();
-/// Sets the desktop's language to the one given by this option.
+/// Sets the desktop's language to the value of this option.
 void applyLanguage(const CommandLine& commandLine);
 
 } // namespace workbench

@@ -107,7 +107,7 @@ const std::set<int>& DesignRows::modelGroups() const
     return m_modelGroups;
 }
 
-/// Returns the groups of the model and those that a row names although the model lacks them.
+/// Returns the groups of the model, and groups in rows that the model does not contain.
 std::set<int> DesignRows::knownGroups() const
 {
     std::set<int> known = modelGroups();
@@ -139,7 +139,7 @@ plib::DesignParameterRow* DesignRows::findRow(const std::vector<int>& groups)
         return groups.empty() ||
                std::find(found.begin(), found.end(), groups.front()) != found.end();
     };
-    // A row from a file may contain a group twice, so compare sets.
+    // A row from a file may contain a group twice, so sets are compared.
     for (plib::DesignParameterRow& row : m_data.rows)
         if (mayBeEqual(row.groups) && std::set<int>(row.groups.begin(), row.groups.end()) ==
                                           std::set<int>(groups.begin(), groups.end()))
@@ -151,7 +151,7 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 {
     const bool isNamed = std::any_of(groups.begin(), groups.end(),
                                      [this](int group) { return m_namedGroups.count(group) > 0; });
-    if (isNamed || groups.empty()) { // otherwise no other row matters
+    if (isNamed || groups.empty()) { // otherwise no other row is affected
         if (plib::DesignParameterRow* row = findRow(groups))
             return *row;
         plib::removeGroups(m_data, groups);
@@ -197,7 +197,7 @@ std::vector<std::vector<int>> DesignRows::groupsOf(const plib::RowTable& table,
     return groupsOfRows;
 }
 
-/// Returns the row without groups that has this number among them, counted from 0.
+/// Returns the row with this index among the rows without groups, counted from 0.
 plib::DesignParameterRow& DesignRows::rowWithoutGroups(int number)
 {
     for (plib::DesignParameterRow& row : m_data.rows)

@@ -13,7 +13,7 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// The design parameters of a project in rows, without widgets. The rows are read, changed and
+/// The design parameters of a project as rows, without widgets. The rows are read, changed and
 /// written by the same calls, in the same order, as on the design page.
 class DesignRows
 {
@@ -24,26 +24,26 @@ public:
     /// Returns one line per row: groups, type and the three summaries, separated by tabs.
     QString text() const;
 
-    /// Changes fields of the row with exactly these groups. If there is no such row, adds one and
-    /// removes the groups from all other rows. `groups` is "none", "remaining", or a text with
-    /// numbers, ranges and names of secondary groups, as in the group dialogs. `fields` are
-    /// NAME=VALUE in base units; the value "unset" clears a field. Throws a CommandError for an
-    /// unknown name or an invalid value.
+    /// Changes fields of the row with exactly these groups. If there is no such row, adds a row and
+    /// removes the groups from all other rows. `groups` is "none", "remaining", or a list of
+    /// numbers, ranges and names of secondary groups, as in the group dialogs. `fields` are strings
+    /// NAME=VALUE with values in base units; the value "unset" clears a field. Throws a
+    /// CommandError for an unknown name or an invalid value.
     void setRow(const QString& groups, const QStringList& fields);
-    /// Does the same for groups that need no parsing: numbers and packed names, ascending, each
-    /// once. The other rows are searched only if one of them names such a group.
+    /// Overload for groups that need no parsing: numbers and packed names in ascending order
+    /// without duplicates. The other rows are searched only if one of them contains such a group.
     void setRow(const std::vector<int>& groups, const QStringList& fields);
 
     const plib::DesignRowList& rows() const { return m_data.rows; }
     /// Returns a row with default parameters.
     plib::DesignParameterRow newRow() const;
 
-    /// Sets the rows of a table: each in the row with exactly these groups, or in a new row, as
-    /// setRow() does. The rows without groups correspond to each other in their order. Other rows
-    /// stay. Throws a CommandError with all faults of the table.
+    /// Applies the rows of a table. Like setRow(), it changes the row with exactly the same groups
+    /// or adds a row. Rows without groups are matched by their order. Rows that are not in the
+    /// table are preserved. Throws a CommandError that lists all errors in the table.
     void import(const plib::RowTable& table);
 
-    /// Writes the rows into the project. Call it in the transaction in which the rows were read.
+    /// Writes the rows to the project. Call it within the transaction in which the rows were read.
     void write();
 
 private:
@@ -59,7 +59,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    std::set<int> m_namedGroups;         // by any row; groups are moved between rows, not removed
+    std::set<int> m_namedGroups;         // in any row; groups are moved between rows, not removed
     mutable std::set<int> m_modelGroups; // read from the model on first use
     bool m_converted = false;
 };

@@ -31,7 +31,7 @@ void showError(const QString& title, const QString& text)
     throw CommandError{QStringLiteral("%1: %2").arg(title, text)};
 }
 /// Throws a CommandError for an unknown kind of page. The library accepts every number, but a
-/// number that occurs neither in the library nor in the catalogue is a mistake of the user.
+/// number that occurs neither in the library nor in the catalogue is a user error.
 void checkProgname(int progname, const plib::Catalogue& catalogue)
 {
     std::set<int> known{VKD_P_GraphicalOutput_Standard, VKD_P_GraphicalOutput_Split,

@@ -17,16 +17,16 @@ namespace workbench {
 
 struct OutputState;
 
-/// The output tree of a project without widgets. It is built and read by the same algorithms as the
-/// tree of the output page.
+/// The output tree of a project, built without widgets. It uses the same algorithms as the tree of
+/// the output page.
 class OutputTree
 {
 public:
     using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-    /// Builds the tree with the catalogue's default choice. The tree offers the additional contents
-    /// of `saved` and the load cases of `rows`; if `rows` is null, the load cases that `saved` does
-    /// not exclude. Throws a CommandError if there is no catalogue.
+    /// Builds the tree with the catalogue's default choice. The tree offers the additional content
+    /// of `saved` and the load cases of `rows`. If `rows` is null, it offers the load cases that
+    /// `saved` does not exclude. Throws a CommandError if there is no catalogue.
     OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname, const OutputState& saved,
                const Rows* rows);
     ~OutputTree();
@@ -48,7 +48,7 @@ private:
 };
 
 /// Reads load cases from a file with lines `KIND NUMBER NAME`. NAME is the rest of the line after
-/// the second blank. Throws a CommandError for an invalid line.
+/// the second space. Throws a CommandError for an invalid line.
 OutputTree::Rows readRows(const QString& path);
 
 } // namespace workbench

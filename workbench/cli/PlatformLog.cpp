@@ -16,7 +16,7 @@ QStringList& collected()
 
 QtMessageHandler previous = nullptr;
 
-/// Returns whether Qt writes this message in every program without a screen.
+/// Returns whether this is a message that Qt logs in every program that runs without a screen.
 bool isOfNoUse(const QString& message)
 {
     return message.startsWith(QLatin1String("This plugin does not support ")) ||

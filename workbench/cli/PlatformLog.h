@@ -2,13 +2,13 @@
 
 namespace workbench {
 
-/// Holds back the log lines of the platform while a program runs. So a failed command prints only
-/// its error, which has the reason from a status. The lines are for diagnosis; no code reads them.
+/// Collects the platform's log messages while a program runs, so that a failed command prints only
+/// its error with the reason from a status. The messages are for diagnosis; no code reads them.
 class PlatformLog
 {
 public:
     static void install();
-    /// Prints the lines as warnings to standard error, each once.
+    /// Prints the messages as warnings to standard error, without duplicates.
     static void print();
 };
 

@@ -17,12 +17,12 @@ namespace workbench {
 
 namespace {
 
-/// A command of this program or of another program in the same folder.
+/// A command, implemented by this program or by another program in the same folder.
 struct Command
 {
     const char* name;
     int (*run)(const QStringList&);
-    const char* program; ///< null if the command runs here
+    const char* program; ///< null if this program implements the command
     const char* summary;
 };
 
@@ -42,7 +42,8 @@ QString pathOf(const char* program)
     return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(program));
 }
 
-/// Returns whether the program of a command exists, because not every program is installed.
+/// Returns whether the program that implements a command exists, because not every program is
+/// installed.
 bool isThere(const Command& command)
 {
     return !command.program || QFile::exists(pathOf(command.program));
@@ -67,7 +68,8 @@ QString usage()
     return text + QStringLiteral("\nplib_workbench COMMAND --help describes a command.\n");
 }
 
-/// Replaces this process with the other program. Returns only by throwing a CommandError.
+/// Replaces this process with the other program. Does not return; throws a CommandError if it
+/// fails.
 int becomeProgram(const char* program, const QStringList& arguments)
 {
     const QByteArray path = QFile::encodeName(pathOf(program));

@@ -5,8 +5,8 @@
 #include <QFileInfo>
 
 namespace {
-/// Returns the arguments with the command inserted: on a desktop, no argument or a single file
-/// opens the window.
+/// Returns the arguments with the command inserted if it is missing: on a desktop, no argument or a
+/// single file name opens the window.
 QStringList commandOf(const QStringList& arguments)
 {
     const bool isFile = arguments.size() == 1 && !workbench::isCommand(arguments[0]) &&

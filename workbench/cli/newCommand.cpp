@@ -6,7 +6,7 @@
 namespace workbench {
 
 namespace {
-/// Returns a callback that prints a line for each completed percent.
+/// Returns a callback that prints a line for each percent completed.
 VkdGoOn printed()
 {
     return [last = -1](int percent) mutable {

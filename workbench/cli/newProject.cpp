@@ -31,8 +31,8 @@ QString modelPath(const QString& nameOrFile)
     return QFile::decodeName(found->c_str());
 }
 
-/// Converts groups of a model file, each a number or the name of a secondary group. The reader of
-/// the file has checked that they exist.
+/// Converts the groups of a model file, each of which is a number or the name of a secondary group.
+/// The file reader has already checked that they exist.
 std::vector<int> toGroups(const QStringList& texts)
 {
     std::vector<int> groups;
@@ -89,7 +89,7 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
         throw CommandError{status.reason.replace(place.temporaryPath(), path)};
 }
 
-/// Returns the callback for one half of the work, which starts at this percentage.
+/// Returns the progress callback for one half of the work, which starts at this percentage.
 VkdGoOn half(const VkdGoOn& goOn, int before)
 {
     if (!goOn)

@@ -7,9 +7,9 @@
 namespace workbench {
 
 /// Creates a project file from a model. The file must not exist yet; `model` is the name of a
-/// sample or the path of a model file. Titles are in the desktop's language. Returns a line that
-/// summarizes the project. Throws a CommandError, without leaving a file, if creating it fails or
-/// `goOn` returns false.
+/// sample model or the path of a model file. Titles are in the desktop's language. Returns a line
+/// that summarizes the project. Throws a CommandError, without leaving a file, if creating it fails
+/// or `goOn` returns false.
 QString newProject(const QString& path, const QString& model, const VkdGoOn& goOn = VkdGoOn());
 
 } // namespace workbench

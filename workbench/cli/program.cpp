@@ -23,7 +23,7 @@ int runOrHelp(int (*command)(const QStringList&), const QStringList& arguments)
     }
 }
 
-/// Prints one line to standard error, even if a file name or message contains line breaks.
+/// Prints one line to standard error, even if a file name or message contains newlines.
 void complain(const QString& text)
 {
     std::fprintf(stderr, "plib_workbench: %s\n", qUtf8Printable(text.simplified()));

@@ -12,7 +12,7 @@ namespace workbench {
 namespace {
 using Key = std::vector<int>;
 
-/// Returns the rows by their groups. Rows without groups are counted.
+/// Returns the rows keyed by their groups. The keys of rows without groups contain a counter.
 std::map<Key, const plib::DesignParameterRow*> byGroups(const plib::DesignRowList& rows)
 {
     std::map<Key, const plib::DesignParameterRow*> found;

@@ -23,7 +23,7 @@ QString fieldNames()
         names << QString::fromLatin1(field.name);
     return names.join(QLatin1Char(' '));
 }
-/// Throws a CommandError if the status is a failure.
+/// Throws a CommandError if the status is an error.
 void failOn(const VkdStatus& failure)
 {
     if (!failure.isOk())
@@ -52,7 +52,7 @@ void exportRows(const DesignRows& rows, const QString& path)
         throw CommandError{QStringLiteral("cannot write %1: %2").arg(path, file.errorString())};
 }
 
-/// Reads a table in UTF-8 or in the encoding that spreadsheets on Windows write.
+/// Reads a table in UTF-8 or in the encoding that spreadsheet programs on Windows write.
 plib::RowTable readTable(const QString& path)
 {
     const QByteArray bytes = readBytes(path);

@@ -13,17 +13,17 @@ std::vector<CommandLine::Option> choiceOptions();
 int progname(const CommandLine& line);
 
 /// Returns the state that the window saved in the project. Returns an empty state with --proposed,
-/// and for kinds of page other than the window's.
+/// and for kinds of page that the window does not use.
 OutputState savedChoice(const CommandLine& line, ZobHandle project);
 
-/// Returns the saved settings. Settings that were not saved have the value of a new page.
+/// Returns the saved settings. Settings that were not saved have their values on a new page.
 plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved);
 
 /// Makes the saved camera the desktop's camera, from which the script takes the user-defined view.
 void restoreCamera(const OutputState& saved);
 
-/// Returns the selection text from the file given by --selection, or else the saved one. It is
-/// empty for the catalogue's default choice.
+/// Returns the selection text from the file given by --selection or, without this option, the saved
+/// text. An empty text stands for the catalogue's default choice.
 QString chosenPlots(const CommandLine& line, const OutputState& saved);
 
 } // namespace workbench

@@ -51,7 +51,7 @@ void write(QSaveFile* file, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
     const QFileInfo existing(file->fileName());
-    if (existing.exists() && !existing.isFile()) // saving would replace a pipe or device by a file
+    if (existing.exists() && !existing.isFile()) // saving would replace a pipe or a device
         throw CommandError{QStringLiteral("cannot write %1: it is not a file").arg(file->fileName())};
     if (!file->open(QIODevice::WriteOnly) || file->write(bytes) != bytes.size() || !file->flush())
         throw CommandError{
@@ -65,8 +65,8 @@ void commit(QSaveFile* file)
             QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};
 }
 
-/// Writes script and selection. Replaces a file only after all output has been written, so that a
-/// failed write leaves all files unchanged.
+/// Writes the script and the selection. Replaces files only after all output has been written, so
+/// that a failed write leaves all files unchanged.
 void writeResults(const CommandLine& line, const QString& script, const QString& selection)
 {
     const auto place = [&line](const char* option) {
@@ -115,7 +115,7 @@ int scriptCommand(const QStringList& arguments)
                     line.has("load-cases") ? &rows : nullptr);
     tree.applySelection(chosenPlots(line, saved));
     QString additional = line.value("additional");
-    // The prefix page inserts the text unchanged, without adding a line end.
+    // The prefix page inserts the text unchanged, without adding a newline.
     if (settings.variant == VKD_P_GraphicalOutput_Prefix && !additional.isEmpty())
         additional += QLatin1Char('\n');
     const plib::PlatformScriptEnvironment environment(tree.parameter());

@@ -13,11 +13,11 @@ using plib::OutputSettings;
 
 enum class Pages { All, Split, AllButSplit };
 
-/// A setting and the function that sets it, with the side effects of its control on a page.
+/// A setting and the function that sets it, with the same side effects as its control on a page.
 struct Setting
 {
     const char* name;
-    int highest; ///< largest number, counted from 0; NoNumber for a text
+    int highest; ///< largest number, counted from 0; NoNumber for a text setting
     Pages pages;
     void (*set)(const QString& value, OutputSettings* settings);
 };
@@ -50,8 +50,8 @@ void setFormat(const QString& value, OutputSettings* settings)
     plib::chooseFormat(plib::PageFormat(value.toInt()), settings);
 }
 
-/// Throws a CommandError if the sheets are not in portrait format, because the page offers a choice
-/// of pictures only then.
+/// Throws a CommandError if the sheets are not in portrait format, because only then does the page
+/// offer a choice of pictures.
 void setPictures(const QString& value, OutputSettings* settings)
 {
     const auto pictures = plib::PagePictures(value.toInt());

@@ -5,9 +5,9 @@
 namespace workbench {
 
 /// Applies arguments such as `scaleMode=0` to the settings, in the given order. Each argument has
-/// the same effect as its control on a page: a scale of the list selects the engineering scale, a
-/// format sets its number of pictures. Throws a CommandError for an unknown name, a value out of
-/// range, or a setting that the kind of page does not have.
+/// the same effect as its control on a page: choosing a scale from the list selects the engineering
+/// scale, and choosing a format sets its number of pictures. Throws a CommandError for an unknown
+/// name, a value out of range, or a setting that the kind of page does not have.
 void applySettings(const QStringList& arguments, plib::OutputSettings* settings);
 
 /// Returns the settings and their ranges for the help: "scaleMode (0 to 1), ...".

@@ -11,7 +11,7 @@ namespace workbench {
 namespace {
 QString mark(const plib::OutputNode* node)
 {
-    if (node->plain) // has no check box
+    if (node->plain) // the item has no check box
         return QString();
     switch (node->checkState(0)) {
     case Qt::Checked: return QStringLiteral("[x] ");

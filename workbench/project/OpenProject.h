@@ -10,9 +10,9 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
-/// The open project of a window, if there is one: its document, the states of its parts that
-/// dialogs have read, and the changes by other programs. It needs no widgets. ProjectAccess adds
-/// messages and waits for other programs.
+/// The open project of a window, if there is one: the document, the states of the project's parts
+/// that dialogs have read, and changes by other programs. The class needs no widgets. ProjectAccess
+/// adds messages and waits for other programs.
 class OpenProject : public QObject
 {
     Q_OBJECT
@@ -21,23 +21,23 @@ public:
     explicit OpenProject(QObject* parent = nullptr);
     ~OpenProject() override;
 
-    /// Replaces the document; null closes the project. Returns the previous one, which is open as
-    /// long as the caller owns it. The states that look() has remembered are preserved, because
-    /// dialogs continue their work on a reloaded project or on a copy.
+    /// Replaces the document; null closes the project. Returns the previous document, which stays
+    /// open as long as the caller owns it. The states that look() has stored are preserved, because
+    /// dialogs continue to work on a reloaded project or on a copy.
     std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
     bool isOpen() const { return bool(m_document); }
     /// Returns null if no project is open.
     VKD_H_ZOBDoc* document() const { return m_document.get(); }
     /// Returns a null handle if no project is open.
     ZobHandle handle() const;
-    /// Returns the path of the file, empty if no project is open.
+    /// Returns the path of the file, or an empty string if no project is open.
     QString path() const;
     /// Returns the name of the file without its suffix.
     QString name() const;
     /// Returns the folder of the file, or the current folder if no project is open.
     QString folder() const;
 
-    /// Returns a VkdZobStatus that says whether the project can be read now.
+    /// Returns a VkdZobStatus that tells whether the project can currently be read.
     cd_error_t readStatus() const;
 
     /// Call the operations of SeenPart for a part of this project.
@@ -48,7 +48,7 @@ public:
 
     /// Returns the state of the file at the last check.
     ProjectWatch::File file() const { return m_watch.file(); }
-    /// Checks the project for changes by other programs at once.
+    /// Immediately checks the project for changes by other programs.
     ProjectWatch::File check();
     /// Returns whether another program has changed the project since it was opened or
     /// markFollowed() was called.

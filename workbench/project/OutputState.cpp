@@ -17,7 +17,7 @@ const QString ContentKey = QStringLiteral("Content");
 const QString LeftOutKey = QStringLiteral("LeftOut");
 constexpr int PlainLoadCase = 1;
 
-/// The name contains only the digits of the number; a "+" would request a double picture.
+/// The name contains only the digits of the number; a "+" would request a combined picture.
 QString rowName(const vkd::dbo::LoadCase& loadCase)
 {
     const QString number = QString::number(loadCase.number) + QLatin1Char(' ');

@@ -15,22 +15,22 @@ namespace workbench {
 /// other tabs of the dialog.
 struct OutputState
 {
-    /// Entries of the radio group of contents.
+    /// Buttons of the content radio group.
     enum Content { OfTheModel = 0, WithSolids = 1 };
 
-    QString page;             ///< empty if it was never saved
-    int content = OfTheModel; ///< entry of the radio group of contents
+    QString page;             ///< empty if no state was ever saved
+    int content = OfTheModel; ///< checked button of the content radio group
     QSet<int> leftOutNumbers; ///< load cases that are unchecked in the table
 
     /// Reads the state from the project.
     static OutputState read(ZobHandle project);
-    /// Writes the state into the project. Returns the status of VKD_H_ProjectDialogPage::save().
+    /// Writes the state to the project. Returns the status of VKD_H_ProjectDialogPage::save().
     VkdStatus put(ZobHandle project) const;
 
     /// Returns the tag of the content that WithSolids always includes.
     static QString solidsTag();
     /// Returns the load cases of the project that the plots offer, sorted by number. The table
-    /// lists plain load cases only; design combinations are always offered.
+    /// lists only plain load cases; design combinations are always offered.
     std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
     offeredRows(ZobHandle project) const;
 };

@@ -35,7 +35,7 @@ void ProjectWatch::setProject(ZobHandle project, const QString& path)
         return m_slow.stop();
     watchFile();
     m_slow.start();
-    m_soon.start(); // for changes since the project was opened
+    m_soon.start(); // detects changes since the project was opened
 }
 
 void ProjectWatch::look()
@@ -46,7 +46,7 @@ void ProjectWatch::look()
     int changes = m_changes;
     const cd_error_t status = vkd_zob_outside_changes(m_project.index(), &changes);
     if (status != VKD_ZOB_OK && status != VKD_ZOB_MOVED)
-        return; // another program is storing; the next check follows
+        return; // another program is writing; the next check tries again
     File file = File::Present;
     if (status == VKD_ZOB_MOVED)
         file = QFileInfo::exists(m_path) ? File::Replaced : File::Missing;
@@ -57,7 +57,7 @@ void ProjectWatch::look()
     Q_EMIT noticed();
 }
 
-/// Watches the file again, because the watcher drops files that are deleted or replaced.
+/// Watches the file again, because the watcher stops watching files that are deleted or replaced.
 void ProjectWatch::watchFile()
 {
     if (m_watcher.files().isEmpty() && QFileInfo::exists(m_path))

@@ -8,9 +8,9 @@
 
 namespace workbench {
 
-/// Watches an open project for changes by other programs and for its file being deleted, moved or
-/// replaced. The operating system reports changes of the file; a slow timer checks files on drives
-/// without such reports. A check is cheap and does not make other programs wait.
+/// Watches an open project for changes by other programs, and detects that its file was deleted,
+/// moved or replaced. The operating system reports changes to the file; a slow timer checks files
+/// on drives that report no changes. A check is cheap and does not make other programs wait.
 class ProjectWatch : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
 
     explicit ProjectWatch(QObject* parent = nullptr);
 
-    /// Watches the project, or none if the handle is null. Changes since the project was opened are
-    /// reported, too.
+    /// Watches the project, or no project if the handle is null. Changes made since the project was
+    /// opened are reported, too.
     void setProject(ZobHandle project, const QString& path);
 
     File file() const { return m_file; }
@@ -33,7 +33,7 @@ public:
     /// change.
     int changes() const { return m_changes; }
 
-    /// Checks at once.
+    /// Checks the project immediately.
     void look();
 
 Q_SIGNALS:
@@ -45,7 +45,7 @@ private:
 
     QFileSystemWatcher m_watcher;
     QTimer m_slow;
-    QTimer m_soon; // combines the many reports of one change
+    QTimer m_soon; // combines multiple notifications of the same change
     QString m_path;
     ZobHandle m_project;
     File m_file = File::Present;

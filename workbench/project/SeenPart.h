@@ -15,8 +15,9 @@ enum class ProjectPart { Design, Output, TextOutput };
 /// Returned instead of a VkdZobStatus if another program has changed the part since look().
 constexpr cd_error_t PartChanged = -1;
 
-/// Remembers the state of a part of a project when a dialog reads it, so that the dialog does not
-/// overwrite a newer state of another program. It stores a digest of the records and holds no lock.
+/// Stores the state of a part of a project when a dialog reads the part, so that the dialog does
+/// not overwrite a newer state written by another program. The state is stored as a digest of the
+/// records; no lock is held.
 class SeenPart
 {
 public:
@@ -24,15 +25,15 @@ public:
 
     explicit SeenPart(ProjectPart part);
 
-    /// Remembers the state in the project. Call it before reading, so that a change in between
-    /// counts as a later one. Returns a VkdZobStatus.
+    /// Stores the current state of the part in the project. Call it before reading the part, so
+    /// that a change between the two calls is detected later. Returns a VkdZobStatus.
     cd_error_t look(ZobHandle project);
     /// Returns whether the state in the project has changed since look(); false if it cannot be
     /// read.
     bool isOutdated(ZobHandle project) const;
     /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if it fails, the transaction
-    /// is rolled back and its status is returned. Returns PartChanged if the project has a newer
-    /// state and `newer` is Keep, otherwise a VkdZobStatus.
+    /// is rolled back and its status is returned. Returns PartChanged if the project contains a
+    /// newer state and `newer` is Keep, otherwise a VkdZobStatus.
     cd_error_t store(ZobHandle project, const std::function<cd_error_t()>& put,
                      Newer newer = Newer::Keep);
 

@@ -22,7 +22,7 @@ const QString LeftOutLoadCasesKey = QStringLiteral("LeftOutLoadCases");
 const QString LeftOutCombinationsKey = QStringLiteral("LeftOutCombinations");
 const QString KindsKey = QStringLiteral("Kinds");
 
-/// Returns a text such as "103=8;104=0".
+/// Returns a string such as "103=8;104=0".
 QString kindsText(const QMap<int, int>& kinds)
 {
     QStringList texts;

@@ -2,7 +2,7 @@
 
 namespace workbench {
 
-/// The numbers of the dialog pages whose texts are saved in a project.
+/// The numbers of the dialog pages whose entries are saved in a project.
 enum DialogPage { DesignDialogPage = 1, OutputDialogPage = 2, TextOutputDialogPage = 3 };
 
 } // namespace workbench

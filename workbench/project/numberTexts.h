@@ -6,12 +6,12 @@
 
 namespace workbench {
 
-/// Returns the numbers in the form that is saved in a project, in ascending order: "3;12".
+/// Returns the numbers in the format that is saved in a project, in ascending order: "3;12".
 QString savedNumbers(const QSet<int>& numbers);
 QSet<int> numbersFromSaved(const QString& text);
 
-/// Returns the numbers for display in the given order, with runs of three or more as ranges: "1–3,
-/// 7, 8".
+/// Returns the numbers as a string for display, in the given order. Three or more consecutive
+/// numbers are shown as a range: "1–3, 7, 8".
 QString shownNumbers(const QVector<int>& numbers);
 
 } // namespace workbench

@@ -9,8 +9,8 @@ class VKD_H_ProjectDialogPage;
 
 namespace workbench {
 
-/// Sets entries of a page of the project. Call it in a transaction. Returns the status of
-/// VKD_H_ProjectDialogPage::save().
+/// Sets entries of a dialog page in the project. Call it within a transaction. Returns the status
+/// of VKD_H_ProjectDialogPage::save().
 VkdStatus putEntries(ZobHandle project, int page,
                      const std::function<void(VKD_H_ProjectDialogPage&)>& set);
 
