@@ -11,7 +11,7 @@ constexpr int MostKilobytes = 64 * 1024;
 constexpr int MostPixels = 4000; // per side
 constexpr double PixelsPerMm = 96.0 / 25.4;
 
-/// Returns the pixels on paper per metre of the model at 1:N.
+/// Returns the number of pixels on paper per metre of the model at scale 1:N.
 double pixelsPerMetre(double scale)
 {
     return 1000.0 / scale * PixelsPerMm;
@@ -35,7 +35,7 @@ vkd::dbo::Camera lookingFrom(double x, double y, double z)
     return camera;
 }
 
-/// Returns the frame in whole device pixels, so that the picture is sharp.
+/// Returns the frame in whole device pixels, so that the image is sharp.
 QRectF dotsOf(const QPainter& painter, const QRectF& frame)
 {
     return QRectF(painter.deviceTransform().mapRect(frame).toRect());
@@ -113,8 +113,8 @@ vkd::dbo::Camera ModelImages::camera(const PictureView& view)
     return {};
 }
 
-/// Returns the camera perpendicular to the plane of a flat model, from above if the model is not
-/// flat.
+/// Returns a camera perpendicular to the plane of a flat model, or a camera from above if the model
+/// is not flat.
 vkd::dbo::Camera ModelImages::flatCamera()
 {
     constexpr double Thin = 1e-6;

@@ -12,13 +12,13 @@ class QPainter;
 
 namespace workbench {
 
-/// Pictures of a project's model for the frames of its sheets. All frames with the same view share
-/// one picture, which is drawn once and cached. A PDF file of many pages contains it only once,
-/// which a vector drawing would not achieve.
+/// Images of a project's model for the frames of its sheets. All frames with the same view share
+/// one cached image. A PDF file with many pages contains each image only once; a vector drawing
+/// would be repeated on every page.
 class ModelImages
 {
 public:
-    /// Loads the model of the project, or shares it with a view that shows it.
+    /// Loads the model of the project, or shares the model with a view that already shows it.
     explicit ModelImages(ZobHandle project);
 
     /// Returns whether the project has no model.
@@ -26,9 +26,9 @@ public:
     /// Returns the N of the scale 1:N for a view in a frame of this size (mm). `wanted` is the
     /// scale of the plan.
     double scale(const PictureView& view, const QSizeF& frame, double wanted);
-    /// Returns whether the model at 1:N is larger than the frame.
+    /// Returns whether the model at scale 1:N is larger than the frame.
     bool isCut(const PictureView& view, const QSizeF& frame, double scale);
-    /// Draws the model at 1:N into the frame, which is given in the painter's units.
+    /// Draws the model at scale 1:N into the frame, whose rectangle is in the painter's units.
     void paint(QPainter& painter, const QRectF& frame, double unitsPerMm, const PictureView& view,
                double scale);
 

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// A field for a page number. It ignores the wheel while it does not have the focus, and passes the
-/// keys that turn pages on to the preview.
+/// A field for a page number. It ignores the wheel while it does not have the focus, and forwards
+/// the page navigation keys to the preview.
 class PageNumber : public QSpinBox
 {
     Q_OBJECT

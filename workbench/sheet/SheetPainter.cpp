@@ -20,8 +20,8 @@ constexpr double FooterHeight = 6.0 * Mm;
 constexpr double FooterText = 2.0 * Mm;
 constexpr double ThinLine = 0.18 * Mm;
 constexpr double BorderLine = 0.5 * Mm;
-constexpr double CapitalShare = 0.72; // height of capitals in font sizes
-constexpr double LineShare = 1.5;     // line height in font sizes
+constexpr double CapitalShare = 0.72; // height of capitals, in units of the font size
+constexpr double LineShare = 1.5;     // line height, in units of the font size
 const QColor Ink(Qt::black);
 const QColor PaleInk(90, 90, 90);
 const QColor Shadow(222, 222, 222);
@@ -31,7 +31,7 @@ QFont fontOf(const QPainter& painter, double capitals)
     QFont font = painter.font();
     font.setPixelSize(qMax(1, qRound(capitals / CapitalShare)));
     font.setBold(false);
-    font.setHintingPreference(QFont::PreferNoHinting); // equal text widths at each zoom
+    font.setHintingPreference(QFont::PreferNoHinting); // equal text widths at every zoom
     return font;
 }
 
@@ -72,7 +72,7 @@ QRectF frameRect(const QRectF& area, const SheetPlan& plan, int place)
             area.top() + place / plan.columns * (size.height() + Gap), size.width(), size.height()};
 }
 
-/// Returns whether the picture is a list of materials or sections, which shows no model.
+/// Returns whether the picture is a list of materials or sections, which does not show the model.
 bool isLegend(const SheetPicture& picture)
 {
     return picture.command.endsWith(QLatin1String(" LEGE"));
@@ -120,7 +120,7 @@ QString viewText(const PictureView& view)
     return SheetPainter::tr("View not set");
 }
 
-/// Returns the text of a scale. A scale that just fits is rounded to three digits.
+/// Returns the text of a scale. A scale to fit is rounded to three digits.
 QString scaleText(double scale, double wanted, bool isCut)
 {
     const double step = std::pow(10.0, std::floor(std::log10(qMax(scale, 1.0))) - 2);
@@ -183,7 +183,7 @@ QString SheetPainter::loadCaseOf(const SheetPicture& picture)
 void SheetPainter::paintFrame(QPainter& painter, const QRectF& frame, const SheetPlan& plan,
                               int picture)
 {
-    // Limits the text size, so that the picture gets most of the frame.
+    // Limits the text size, so that the image gets most of the frame.
     const QFont font = fontOf(painter, qMin(plan.textHeight * Mm, frame.height() / 14.0));
     const double line = lineHeight(font);
     const QRectF texts(frame.left() + Padding, frame.bottom() - 2.0 * line,

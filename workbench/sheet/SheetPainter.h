@@ -11,16 +11,17 @@ namespace workbench {
 
 class ModelImages;
 
-/// Draws the pages of a plan: a white sheet with its frames, and below them the project and the
-/// page number. Each frame shows the model in the view of the picture with caption, load case, view
-/// and scale. The pictures contain no results, because only the graphics program can draw them; a
-/// note on each page says so.
+/// Draws the pages of a plan: a white sheet with its frames, the project name and the page number
+/// below the frames. Each frame shows the model in the picture's view, with caption, load case,
+/// view and scale. A note on each page states that the pictures contain no results, because only
+/// the graphics program can draw results.
 class SheetPainter
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::SheetPainter)
 
 public:
-    /// `models` is not owned and must outlive the painter. Each page shows `project`.
+    /// `models` is not owned and must outlive the painter. Each page shows `project` below the
+    /// frames.
     SheetPainter(ModelImages* models, const QString& project);
 
     /// Draws a page, counted from 0, into a rectangle with the proportions of the sheet.

@@ -6,14 +6,14 @@
 
 namespace workbench {
 
-/// The viewing direction of pictures of a sheet.
+/// The viewing direction of pictures on a sheet.
 struct PictureView
 {
     enum Kind { Unset, Spatial, Flat, PlaneXY, PlaneXZ, PlaneYZ, Free };
 
     Kind kind = Unset;
-    double eye[3] = {1.0, -2.0, 1.0}; ///< direction to the viewer; for free views only
-    double roll = 0.0;                ///< degrees; for free views only
+    double eye[3] = {1.0, -2.0, 1.0}; ///< direction to the viewer; only for free views
+    double roll = 0.0;                ///< degrees; only for free views
 
     bool operator==(const PictureView& other) const;
 };
@@ -34,7 +34,7 @@ struct SheetPicture
 struct SheetPlan
 {
     static constexpr double ScaleToFit = 0.0;
-    static constexpr double EngineeringScale = -1.0; ///< the largest common one that fits
+    static constexpr double EngineeringScale = -1.0; ///< the largest common scale that fits
 
     QSizeF size{297.0, 210.0}; ///< mm, in reading orientation
     bool hasBorder = true;
@@ -48,7 +48,8 @@ struct SheetPlan
     bool isEmpty() const { return pictures.isEmpty(); }
     int picturesPerPage() const { return rows * columns; }
     int pageCount() const;
-    /// Return the first picture of a page and the one after its last picture, counted from 0.
+    /// Return the index of the first picture of a page, and the index after its last picture,
+    /// counted from 0.
     int firstPicture(int page) const { return page * picturesPerPage(); }
     int endPicture(int page) const;
 };

@@ -57,8 +57,8 @@ Words wordsOf(QStringView text)
     return words;
 }
 
-/// Returns the positive number at the beginning of a word, without a trailing factor; 0 if there is
-/// none.
+/// Returns the positive number at the beginning of a word, without a trailing factor, or 0 if the
+/// word does not begin with a number.
 double positive(QStringView word)
 {
     int length = 0;
@@ -97,8 +97,8 @@ double readScale(QStringView word)
     return scale > 0.0 ? qBound(1.0, scale, MostScale) : SheetPlan::ScaleToFit;
 }
 
-/// Reads the sheet format. "A3" is that format, and "URS" is the format of reports, A4. Both are
-/// landscape; a minus sign makes them portrait. Any other word is not a sheet.
+/// Reads the sheet format. "A3" is the format of this name, and "URS" is the report format, A4.
+/// Both are landscape; a minus sign selects portrait. No other word is a sheet format.
 bool readSheet(QStringView word, SheetPlan* plan)
 {
     const bool stands = word.startsWith(QLatin1Char('-'));

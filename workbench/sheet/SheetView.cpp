@@ -144,7 +144,7 @@ void SheetView::resizeEvent(QResizeEvent* event)
     fitScrollBars();
 }
 
-/// Turns the page when a larger page is scrolled to its end.
+/// Shows the next or previous page when a page that is larger than the view is scrolled to its end.
 void SheetView::wheelEvent(QWheelEvent* event)
 {
     QScrollBar* bar = verticalScrollBar();
@@ -176,7 +176,7 @@ QSizeF SheetView::sheetSize() const
     switch (m_zoom) {
     case WholePage: return m_plan.size.scaled(view.expandedTo({50.0, 50.0}), Qt::KeepAspectRatio);
     case PageWidth: {
-        // Always leaves room for the scroll bar, which would otherwise appear and disappear
+        // Always leaves space for the scroll bar, which would otherwise appear and disappear
         // endlessly.
         const double width = qMax(50.0, view.width() - verticalScrollBar()->sizeHint().width());
         return m_plan.size * (width / m_plan.size.width());
@@ -199,7 +199,7 @@ void SheetView::fitScrollBars()
     viewport()->update();
 }
 
-/// Turns pages. Going back shows the end of the previous page, as readers expect.
+/// Changes the page. Going back shows the end of the previous page, as readers expect.
 void SheetView::turnPage(int by)
 {
     const int before = m_page;

@@ -8,9 +8,9 @@ namespace workbench {
 
 class SheetPainter;
 
-/// One page of a plan on the screen, in the proportions of its paper. Page Up, Page Down and the
-/// wheel scroll within a page that is larger than the view and then turn the page; Home and End
-/// show the first and the last page. Only the shown page is drawn.
+/// Shows one page of a plan in the proportions of its paper. Page Up, Page Down and the wheel
+/// scroll within a page that is larger than the view, and change the page at its top and bottom.
+/// Home and End show the first and the last page. Only the current page is drawn.
 class SheetView : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -20,15 +20,17 @@ public:
 
     explicit SheetView(QWidget* parent = nullptr);
 
-    /// Sets the plan; the painter is not owned. Stays on the current page, or shows the last one if
-    /// the plan is shorter.
+    /// Sets the plan; the painter is not owned. Stays on the current page, or shows the last page
+    /// if the plan has fewer pages.
     void setPlan(const SheetPlan& plan, SheetPainter* painter);
     const SheetPlan& plan() const { return m_plan; }
     int page() const { return m_page; } ///< counted from 0
-    /// Shows a page from its top; the number is limited to the pages of the plan.
+    /// Shows a page from its top. A page number out of range is replaced with the nearest valid
+    /// page number.
     void setPage(int page);
     void setZoom(Zoom zoom);
-    /// Returns the sheet in viewport coordinates, pixels; null without a page.
+    /// Returns the rectangle of the sheet in viewport coordinates (pixels), or a null rectangle
+    /// without a page.
     QRectF sheetRect() const;
 
 Q_SIGNALS:
@@ -58,7 +60,7 @@ private:
     SheetPainter* m_painter = nullptr;
     int m_page = 0;
     Zoom m_zoom = WholePage;
-    int m_wheel = 0; // the rotation below one notch
+    int m_wheel = 0; // accumulated rotation of less than one notch
 };
 
 } // namespace workbench

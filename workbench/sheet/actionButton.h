@@ -6,8 +6,8 @@ class QWidget;
 
 namespace workbench {
 
-/// Creates a button for a pane that shows an action of the window: its text, its tool tip and
-/// whether it is enabled.
+/// Creates a button for a pane. The button has the text, tool tip and enabled state of an action of
+/// the window.
 QToolButton* actionButton(QAction* action, QWidget* parent);
 
 } // namespace workbench

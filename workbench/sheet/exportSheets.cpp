@@ -16,7 +16,7 @@ namespace workbench {
 namespace {
 constexpr int DotsPerInch = 300;
 constexpr int ShowsAfterMs = 500;
-constexpr int SliceMs = 40; // interval at which clicks are processed
+constexpr int SliceMs = 40; // interval for processing events
 
 void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
 {
@@ -43,7 +43,7 @@ bool writePages(const SheetPlan& plan, SheetPainter& sheets, QPdfWriter& writer,
     slice.start();
     for (int page = 0; page < plan.pageCount(); ++page) {
         if (slice.elapsed() >= SliceMs) {
-            progress.setValue(page); // processes events of the dialog
+            progress.setValue(page); // processes the dialog's events
             slice.restart();
         }
         if (progress.wasCanceled() || (page > 0 && !writer.newPage()))
@@ -66,9 +66,9 @@ SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QSt
                              QCoreApplication::translate("exportSheets", "Cancel"), 0,
                              plan.pageCount(), parent);
     progress.setObjectName(QStringLiteral("SheetProgress"));
-    progress.setWindowModality(Qt::ApplicationModal); // the plan must not change meanwhile
+    progress.setWindowModality(Qt::ApplicationModal); // the plan must not change during the export
     progress.setMinimumDuration(ShowsAfterMs);
-    progress.setValue(0); // starts the time measurement
+    progress.setValue(0); // starts measuring time
     bool isWritten = false;
     {
         QPdfWriter writer(&file);

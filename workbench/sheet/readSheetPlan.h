@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// Reads a script with German or English keywords. A text without page setup or plots gives an
-/// empty plan. Numbers that are impossible for a sheet are limited to drawable values.
+/// Reads a script with German or English keywords. A script without page setup or plots results in
+/// an empty plan. Numbers that are impossible for a sheet are limited to drawable values.
 SheetPlan readSheetPlan(const QString& script);
 
 } // namespace workbench

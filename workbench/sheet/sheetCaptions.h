@@ -15,14 +15,14 @@ struct PlotCaption
 
 /// Sets the captions of a plan's pictures to the captions of the output page.
 ///
-/// The script identifies plots by keywords only, but its pictures have the order of the tree, one
-/// for each checked plot or row. If both lists have the same length and the same load case in each
-/// row, the pictures get the captions, and plots without rows lose the load case that an earlier
-/// statement set. Otherwise changes nothing: the reader then sees keywords instead of captions that
-/// may belong to other pictures.
+/// The script identifies plots only by keywords, but its pictures are in the order of the tree, one
+/// for each checked plot or row. If both lists have the same length and the same load cases, the
+/// pictures get the captions, and the load case that an earlier statement set is removed from plots
+/// without rows. Otherwise the pictures are not changed: keywords are shown instead of captions
+/// that may belong to other pictures.
 void setCaptions(SheetPlan* plan, const QVector<PlotCaption>& captions);
 
-/// Sets the load case titles of the pictures from the titles by number.
+/// Sets the load case titles of the pictures from titles keyed by load case number.
 void setLoadCaseTitles(SheetPlan* plan, const QHash<int, QString>& titles);
 
 } // namespace workbench

@@ -29,7 +29,7 @@ constexpr int OkAndCancel = 3;
 
 using vkd::zob::keys::Design;
 
-/// Replaces the design records of the project `to` with those of the project `from`.
+/// Replaces the design records of the project `to` with the records of the project `from`.
 cd_error_t copyRecords(ZobHandle from, ZobHandle to)
 {
     int length = 0;
@@ -109,7 +109,7 @@ void DesignDialog::showPage()
     delete m_page;
     delete m_buttons;
     m_page = new VKD_P_DesignParameter(m_project->document(), m_desk.get(), this, false, false);
-    m_page->init(); // before the buttons, which come last in the tab order
+    m_page->init(); // before creating the buttons, which are last in the tab order
     m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
     layout()->addWidget(m_page);
     layout()->addWidget(m_buttons);
@@ -117,7 +117,7 @@ void DesignDialog::showPage()
     connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &DesignDialog::accept);
     connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &DesignDialog::reject);
     m_page->getEntrys(m_entries);
-    m_edit->addActions(m_page->actions()); // those of an earlier page are deleted with it
+    m_edit->addActions(m_page->actions()); // a page deletes its actions
 }
 
 cd_error_t DesignDialog::store(SeenPart::Newer newer)

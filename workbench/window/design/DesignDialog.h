@@ -16,35 +16,38 @@ namespace workbench {
 
 class OpenProject;
 
-/// The design parameters of a project, with OK and Cancel. exec() may also return
-/// VKD_H_SelGRP_Dialog::PickOutside: then the caller must let the user pick groups in the view and
-/// show the same dialog again.
+/// The design parameters of a project, with OK and Cancel. If exec() returns
+/// VKD_H_SelGRP_Dialog::PickOutside, the caller must let the user pick groups in the view and show
+/// the same dialog again.
 ///
-/// The page works on a scratch store, because a page that writes converts its rows to the stored
-/// form and cannot undo this. If the project refuses the records, a new page reads them from the
+/// The page works on a scratch store, because writing irreversibly converts the rows of a page to
+/// the stored form. If the records cannot be stored in the project, a new page reads them from the
 /// scratch store.
 class DesignDialog : public VKD_H_Dialog
 {
     Q_OBJECT
 
 public:
-    /// `project` is open; it is not owned and outlives the dialog.
+    /// `project` must be open. It is not owned and must outlive the dialog.
     DesignDialog(OpenProject* project, QWidget* parent);
     ~DesignDialog() override;
 
-    /// Reads the records and texts of the project. Returns a VkdZobStatus. Call showPage() next.
+    /// Reads the records and the dialog page entries of the project. Returns a VkdZobStatus. Call
+    /// showPage() next.
     cd_error_t load();
-    /// Writes the accepted rows into the project, completely or not at all. Returns a VkdZobStatus,
-    /// or PartChanged if the project has a newer state that must not be replaced. It can be called
-    /// again.
+    /// Writes all accepted rows to the project, or no row if this fails. Returns a VkdZobStatus, or
+    /// PartChanged if the project contains a newer state that must not be replaced. The function
+    /// can be called again.
     cd_error_t store(SeenPart::Newer newer);
-    /// Creates a new page with the rows that were read or accepted, before the dialog is shown.
+    /// Creates a new page with the rows that were read or accepted. Call it before the dialog is
+    /// shown.
     void showPage();
-    /// Must be called after the project was replaced by a copy: store() writes into the copy.
+    /// Must be called after the project has been replaced with a copy, so that store() writes to
+    /// the copy.
     void continueWithCopy();
 
-    /// Returns the number of accepted rows without groups. They have no record and are saved with
-    /// the texts of the page.
+    /// Returns the number of accepted rows without groups. These rows have no records and are saved
+    /// with the entries of the page.
     int rowsWithoutGroups() const;
 
     void accept() override;

@@ -46,7 +46,7 @@ void DesignEditor::run()
 {
     int result = m_dialog->exec();
     while (result == QDialog::Accepted && !store()) {
-        m_dialog->showPage(); // the user's entries are not lost
+        m_dialog->showPage(); // the user's input is not lost
         result = m_dialog->exec();
     }
     if (result == VKD_H_SelGRP_Dialog::PickOutside)
@@ -115,13 +115,13 @@ void DesignEditor::startPicking()
     showPicked();
     m_banner->show();
     Q_EMIT pickingChanged(true);
-    // Some desktops have no active window after several dialogs were hidden at once.
+    // On some desktops, no window is active after several dialogs have been hidden at once.
     m_messages->window()->activateWindow();
     m_messages->say(tr("Pick groups in the view, or by Enter in the list of groups."));
 }
 
-/// The dialog takes the groups from the project. If they cannot be stored, the user can go on
-/// picking.
+/// The dialog reads the groups from the project. If the groups cannot be stored, the user can
+/// continue picking.
 void DesignEditor::takePicked()
 {
     const auto put = [this] {

@@ -32,13 +32,13 @@ PickBanner::PickBanner(QWidget* parent)
     setObjectName(QStringLiteral("PickBanner"));
     m_done->setObjectName(QStringLiteral("PickDone"));
     m_cancel->setObjectName(QStringLiteral("PickCancel"));
-    auto band = new QWidget(this); // excludes the buttons: their focus has this colour
+    auto band = new QWidget(this); // without the buttons: their focus frame has its colour
     band->setAutoFillBackground(true);
     band->setBackgroundRole(QPalette::Highlight);
     auto texts = new QVBoxLayout(band);
     for (QLabel* label : {m_what, m_picked}) {
         label->setForegroundRole(QPalette::HighlightedText);
-        label->setWordWrap(true); // so that the banner does not widen the view
+        label->setWordWrap(true); // otherwise the banner would widen the view
         texts->addWidget(label);
     }
     QFont bold = font();
@@ -88,7 +88,8 @@ void PickBanner::setTexts()
     std::set_intersection(m_groups.begin(), m_groups.end(), m_withoutAreas.begin(),
                           m_withoutAreas.end(), std::back_inserter(unfit));
     m_what->setText(tr("Pick groups in the view, then press Done."));
-    // Uses a single line: showing and hiding a second one would move the view under the mouse.
+    // Uses a single line, because showing and hiding a second line would move the view under the
+    // mouse.
     if (m_groups.empty())
         m_picked->setText(tr("No group is picked yet."));
     else if (unfit.empty())

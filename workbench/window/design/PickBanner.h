@@ -17,8 +17,8 @@ class PickBanner : public QFrame
 public:
     explicit PickBanner(QWidget* parent = nullptr);
 
-    /// Sets the groups without area elements, ascending. The banner shows a warning if one of them
-    /// is picked.
+    /// Sets the groups without area elements, in ascending order. The banner shows a warning if one
+    /// of these groups is picked.
     void setGroupsWithoutAreas(const std::vector<int>& groups);
     void setPicked(const std::vector<int>& groups);
 

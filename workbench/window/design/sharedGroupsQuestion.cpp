@@ -12,7 +12,7 @@ namespace {
 constexpr int MostLines = 5;
 constexpr int MostRows = 10;
 
-/// Translates in the context of the dialog that asks.
+/// Translates a string in the context of the dialog that asks the question.
 struct DialogText
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::DesignDialog)

@@ -25,7 +25,7 @@ ChangeBar::ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent)
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
     m_text->setForegroundRole(QPalette::ToolTipText);
-    m_text->setWordWrap(true); // so that the bar does not widen the view
+    m_text->setWordWrap(true); // otherwise the bar would widen the view
     m_close->setFocusPolicy(Qt::StrongFocus);
     m_close->setAutoRaise(true);
     m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));

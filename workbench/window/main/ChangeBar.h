@@ -10,8 +10,9 @@ class QToolButton;
 
 namespace workbench {
 
-/// A bar above the view that reports changes to the open project by other programs or the loss of
-/// its file, and offers suitable actions. The user can close it until the next report.
+/// A bar above the view that reports changes to the open project by other programs, or that its
+/// file is missing, and offers suitable actions. If the user closes the bar, it stays closed until
+/// the next report.
 class ChangeBar : public QFrame
 {
     Q_OBJECT
@@ -19,8 +20,8 @@ class ChangeBar : public QFrame
 public:
     ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent);
 
-    /// Shows the bar if `isChanged` is set or if the file was lost since the last report; hides it
-    /// if the file is present again.
+    /// Shows the bar if `isChanged` is set or if the file has been lost since the last report.
+    /// Hides the bar if the file is present again.
     void report(bool isChanged, ProjectWatch::File file);
     /// Hides the bar. Called when another project is opened.
     void reset();

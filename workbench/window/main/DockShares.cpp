@@ -30,8 +30,9 @@ void DockShares::add(const QList<QDockWidget*>& docks, Qt::Orientation orientati
         dock->installEventFilter(this);
 }
 
-/// The window lays out its docks before this filter gets the event of the window. If a dock changes
-/// while the window has its old size, the user has resized the dock; otherwise the layout has.
+/// The window lays out its docks before this event filter receives the window's resize event. If a
+/// dock is resized while the window has its old size, the user has resized the dock; otherwise the
+/// layout has resized it.
 bool DockShares::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show && watched == m_window)
@@ -45,7 +46,7 @@ bool DockShares::eventFilter(QObject* watched, QEvent* event)
                 takeShare(entry, m_size);
         return false;
     }
-    // Without a size, changes of docks do not count as the user's.
+    // Without a stored size, resized docks are not attributed to the user.
     const QSize before = std::exchange(m_size, QSize());
     if (before.isValid() && !std::exchange(m_isRestored, false))
         giveShares(before);
@@ -73,7 +74,7 @@ void DockShares::giveShares(const QSize& before)
         const int wanted = qRound(entry.share * along(m_window->size(), entry.orientation));
         m_window->resizeDocks({dock}, {wanted}, entry.orientation);
     }
-    m_window->layout()->activate(); // now, because a later event would count as the user's
+    m_window->layout()->activate(); // a later event would be attributed to the user
 }
 
 QDockWidget* DockShares::shownDock(const Entry& entry) const

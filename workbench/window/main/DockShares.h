@@ -9,8 +9,9 @@ class QMainWindow;
 
 namespace workbench {
 
-/// Preserves the share of docks when a main window is resized; by itself, the window gives all new
-/// space to its centre. If the user resizes a dock, its new size becomes its share.
+/// Preserves the proportions of docks when a main window is resized; by default, the window gives
+/// all additional space to its central widget. If the user resizes a dock, its share is updated to
+/// the new size.
 class DockShares : public QObject
 {
     Q_OBJECT
@@ -19,7 +20,8 @@ public:
     explicit DockShares(QMainWindow* window);
 
     /// Adds docks that may be tabbed. They follow the width of the window (Qt::Horizontal) while
-    /// they are at its left or right, or its height while they are at its top or bottom.
+    /// they are docked at the left or right, or its height while they are docked at the top or
+    /// bottom.
     void add(const QList<QDockWidget*>& docks, Qt::Orientation orientation);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -37,7 +39,7 @@ private:
 
     QMainWindow* m_window;
     QList<Entry> m_entries;
-    QSize m_size; ///< of the window when its docks were laid out last
+    QSize m_size; ///< size of the window at the last layout of its docks
     bool m_isRestored = false;
 };
 

@@ -53,7 +53,7 @@ void FileCommands::connectActions(const WindowActions& actions)
     on(actions.reload, &FileCommands::reload);
     on(actions.saveAs, &FileCommands::saveAs);
     connect(actions.recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
-        leaveFor(file->data().toString()); // a copy, because the menu is rebuilt meanwhile
+        leaveFor(file->data().toString()); // a copy: the call rebuilds the menu
     });
 }
 
@@ -153,12 +153,12 @@ bool FileCommands::openDocument(const QString& path, Camera camera)
     if (modelStatus.code == VKD_ZOB_CANCELLED)
         status = VKD_ZOB_CANCELLED;
     if (!m_parts.messages->succeeds(status, absolute, tr("The file %1 cannot be opened."))) {
-        m_actions->setRecentFiles(WindowSettings().recentFiles()); // the file may be gone
+        m_actions->setRecentFiles(WindowSettings().recentFiles()); // the file may have been deleted
         return false;
     }
     m_parts.messages->say(tr("%1 is open.").arg(QFileInfo(path).fileName()));
-    const auto previous = setDocument(std::move(document)); // open until the new one is shown
-    m_isProjectToShow = isFirst; // a previous one may still wait for the painting
+    const auto previous = setDocument(std::move(document)); // stays open for now
+    m_isProjectToShow = isFirst; // an earlier project may still be waiting for the paint event
     if (isFirst) {
         window->update();
     } else {
@@ -192,7 +192,7 @@ void FileCommands::showProject(const VkdStatus& modelStatus)
     WindowSettings settings;
     settings.addRecentFile(path);
     m_actions->setRecentFiles(settings.recentFiles());
-    const ZobSnapshot snapshot(m_parts.project->handle()); // the parts show one state
+    const ZobSnapshot snapshot(m_parts.project->handle()); // all parts show the same state
     const bool areContentsRead = m_parts.showContents() && snapshot.status().isOk();
     if (!modelStatus.isOk() || !areContentsRead)
         m_parts.messages->complain(
@@ -219,8 +219,8 @@ void FileCommands::painted()
         QTimer::singleShot(0, this, &FileCommands::showFirstProject);
 }
 
-/// Choices in open dialogs that are not stored are preserved; OK asks if another program has
-/// changed the same part.
+/// Unsaved selections in open dialogs are preserved. If another program has changed the same part,
+/// OK asks for confirmation.
 void FileCommands::reload()
 {
     const auto plots = m_parts.output->present();
@@ -257,7 +257,7 @@ bool FileCommands::saveAs()
     return takeOver(path);
 }
 
-/// Continues with the copy of the project and with the choices in open dialogs.
+/// Continues with the copy of the project and preserves the selections in open dialogs.
 bool FileCommands::takeOver(const QString& path)
 {
     const auto plots = m_parts.output->present();

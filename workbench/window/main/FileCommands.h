@@ -31,13 +31,13 @@ struct ProjectParts
     OutputEditor* output;
     OutputScript* script;
     TextOutputEditor* textOutput;
-    /// Shows the open project, except for the model. Returns whether everything was read.
+    /// Shows the open project, except for the model. Returns whether all data was read.
     std::function<bool()> showContents;
 };
 
-/// The commands of the File menu that concern projects: new, open, reload, save as. It asks about
-/// unsaved choices before a project is closed, and loads the model of a new one into the view. The
-/// window shows the rest.
+/// The commands of the File menu that concern projects: new, open, reload, save as. The class asks
+/// about unsaved selections before a project is closed, and loads the model of a newly opened
+/// project into the view. The window shows all other data.
 class FileCommands : public QObject
 {
     Q_OBJECT
@@ -46,12 +46,13 @@ public:
     /// The parts and actions are not owned and outlive the object.
     FileCommands(const ProjectParts& parts, const MakeProject& makeProject, WindowActions* actions);
 
-    /// Replaces the open project. If the file cannot be opened, shows a message and changes
-    /// nothing.
+    /// Replaces the open project. If the file cannot be opened, shows a message and keeps the open
+    /// project.
     bool open(const QString& path);
-    /// Opens a file after the window is first painted: a message or a slow disk would delay that.
+    /// Opens a file after the window has first been painted, because a message or a slow disk would
+    /// delay painting.
     void openAfterPainting(const QString& path) { m_pathToOpen = path; }
-    /// Must be called after each painting of the window.
+    /// Must be called each time the window has been painted.
     void painted();
     /// Opens a dropped project, or creates a project from a dropped model file.
     void openDropped(const QString& path);
@@ -63,7 +64,7 @@ public:
     bool mayLeave();
 
 Q_SIGNALS:
-    /// Emitted after the open project was replaced or closed, before the new one is shown.
+    /// Emitted after the open project has been replaced or closed, before the new project is shown.
     void replaced();
 
 private:
@@ -87,8 +88,8 @@ private:
     ProjectParts m_parts;
     MakeProject m_makeProject;
     WindowActions* m_actions;
-    QString m_pathToOpen;           // after the next painting
-    bool m_isProjectToShow = false; // after the next painting
+    QString m_pathToOpen;           // opened after the next paint event
+    bool m_isProjectToShow = false; // shown after the next paint event
 };
 
 } // namespace workbench

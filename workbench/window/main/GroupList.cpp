@@ -123,7 +123,8 @@ void GroupList::fitColumns()
         resizeColumnToContents(column);
 }
 
-/// Without the focus no group is highlighted, so that the user sees the whole model.
+/// While the list does not have the focus, no group is highlighted, so that the user sees the whole
+/// model.
 void GroupList::pointAtCurrent()
 {
     pointAt(hasFocus() ? currentItem() : nullptr);

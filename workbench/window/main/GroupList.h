@@ -19,20 +19,21 @@ class GroupList : public QTreeWidget
 public:
     explicit GroupList(QWidget* parent = nullptr);
 
-    /// Lists the groups of the project, or none if the handle is null. Returns the status of
+    /// Lists the groups of the project, or no groups if the handle is null. Returns the status of
     /// vkd::dbo::readGroups().
     VkdStatus setProject(ZobHandle project);
-    /// Marks a group that is pointed at in the model, or none (AnimatorView::NoGroup). The current
-    /// row does not change, and no signal is emitted.
+    /// Marks the group that the user points at in the model, or no group (AnimatorView::NoGroup).
+    /// The current row does not change, and no signal is emitted.
     void setMarkedGroup(int group);
-    /// Returns the groups without area elements, which cannot be designed, ascending.
+    /// Returns the groups without area elements, in ascending order. These groups cannot be
+    /// designed.
     const std::vector<int>& groupsWithoutAreas() const { return m_withoutAreas; }
 
 Q_SIGNALS:
-    /// Emitted when the user points at another group: the group under the mouse, otherwise the
-    /// current group while the list has the focus, otherwise AnimatorView::NoGroup.
+    /// Emitted when the user points at another group. The parameter is the group under the mouse,
+    /// otherwise the current group if the list has the focus, otherwise AnimatorView::NoGroup.
     void groupPointed(int group);
-    /// Emitted when the user activates a group by Enter or a double click.
+    /// Emitted when the user activates a group with Enter or a double click.
     void groupChosen(int group);
 
 protected:

@@ -200,8 +200,8 @@ void MainWindow::showReplaced()
         showContents();
 }
 
-/// Shows the project except for the model. The script comes last, since its page takes longest.
-/// Returns whether everything was read.
+/// Shows the project except for the model. The script is shown last, because creating its page
+/// takes longest. Returns whether all data was read.
 bool MainWindow::showProject()
 {
     const WaitCursor cursor;
@@ -227,14 +227,14 @@ bool MainWindow::showContents()
     return status.isOk();
 }
 
-/// If the project cannot be read now, the previous records stay.
+/// If the project cannot be read at the moment, the previous records are preserved.
 bool MainWindow::showRecords()
 {
     return m_access.canRead() && m_panes->records()->setProject(m_project.handle());
 }
 
-/// Does nothing while a modal dialog is open, which may be using what would change here. The window
-/// calls it again when it becomes active.
+/// Does nothing while a modal dialog is open, because the dialog may be using data that would
+/// change. The window calls this function again when it becomes active.
 void MainWindow::showNews()
 {
     if (!m_project.isOpen() || QApplication::activeModalWidget())
@@ -246,8 +246,8 @@ void MainWindow::showNews()
     m_panes->news->report(isChanged, m_project.file());
 }
 
-/// Reloads records and script, but no choice that the user sees or has changed. The action Reload
-/// loads the rest.
+/// Reloads the records and the script, except for selections that are displayed or that the user
+/// has changed. The Reload action loads these, too.
 void MainWindow::followOthers()
 {
     if (m_project.readStatus() != VKD_ZOB_OK)
@@ -263,13 +263,13 @@ void MainWindow::showModified()
     setWindowModified(m_outputEditor->isChanged() || m_textOutputEditor->isChanged());
 }
 
-/// Places the dialog beside the script, so that the user sees the effect of each click.
+/// Places the dialog next to the script, so that the user sees the effect of each click.
 void MainWindow::showOutput()
 {
     m_outputEditor->show(m_panes->leftDocks());
 }
 
-/// Dialogs take their texts when they are created, so they are replaced.
+/// Dialogs translate their texts only when they are created, so they are replaced.
 void MainWindow::setLanguage(vkd::Language language)
 {
     if (vkd::desktopLanguage() == language)

@@ -21,11 +21,11 @@ class TextOutputEditor;
 class WindowActions;
 class WindowPanes;
 
-/// The main window. It hosts the library's pages, and connects its panes and actions with the
-/// classes that do the work: an editor for each dialog, and FileCommands for projects.
+/// The main window. It hosts the library's pages, and connects its panes and actions to the classes
+/// that implement the commands: an editor for each dialog, and FileCommands for projects.
 ///
-/// OK in a dialog writes to the project file at once. Only the choice in an open output dialog may
-/// be unsaved, and the window asks about it before the project is closed.
+/// OK in a dialog immediately writes to the project file. Only the selection in an open output
+/// dialog may be unsaved, and the window asks whether to save it before the project is closed.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -36,10 +36,10 @@ public:
                         QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Replaces the open project. If the new one cannot be opened, shows a message and changes
-    /// nothing.
+    /// Replaces the open project. If the new project cannot be opened, shows a message and keeps
+    /// the open project.
     bool openProject(const QString& path);
-    /// Opens a project after the window is first painted.
+    /// Opens a project after the window has first been painted.
     void openAfterPainting(const QString& path);
 
 protected:
@@ -70,8 +70,8 @@ private:
     WindowPanes* m_panes = nullptr;
     QLabel* m_contents;
 
-    // The editors destroy their dialogs before the project, and all of these are destroyed before
-    // the panes.
+    // The editors and their dialogs are destroyed before the project, and the project is destroyed
+    // before the panes.
     OpenProject m_project;
     WindowMessages m_messages{this};
     ProjectAccess m_access{&m_project, &m_messages};

@@ -30,7 +30,7 @@ struct View
 {
     AnimatorViewControl control;
     const char* text;
-    const char* plane; ///< coordinate plane for the tool bar; null if there is none
+    const char* plane; ///< coordinate plane for the tool bar; null if the view has none
 };
 
 constexpr View Views[] = {
@@ -99,7 +99,7 @@ WindowActions::WindowActions(QMainWindow* window)
         language->setCheckable(true);
         languages->addAction(language);
     }
-    // These icons follow the palette and need no icon files, which would slow down the start.
+    // These icons follow the palette and need no icon files, which would slow down startup.
     open->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/open")));
     saveScript->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
     design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/reinforcement")));
@@ -234,7 +234,7 @@ void WindowActions::setTexts()
     reload->setText(tr("Re&load"));
     saveAs->setText(tr("Save &As..."));
     copyScript->setText(tr("&Copy Script"));
-    copyScript->setIconText(tr("Copy")); // on the button beside the script
+    copyScript->setIconText(tr("Copy")); // on the button next to the script
     copyScript->setToolTip(tr("Puts the script on the clipboard"));
     saveScript->setText(tr("&Save Script..."));
     saveScript->setToolTip(tr("Saves the script in a file"));

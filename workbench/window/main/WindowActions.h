@@ -10,30 +10,31 @@ class QToolBar;
 
 namespace workbench {
 
-/// The menus, the tool bar and their actions. The window connects the actions with the classes that
-/// carry them out.
+/// The menus, the tool bar and their actions. The window connects the actions to the classes that
+/// implement them.
 class WindowActions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Adds menus and tool bar to the window, which becomes the owner.
+    /// Adds the menus and the tool bar to the window, which owns them.
     explicit WindowActions(QMainWindow* window);
 
     /// Sets texts and shortcuts in the language of the desktop.
     void setTexts();
-    /// Enables the actions that are possible: nearly all need a project, which must not change
-    /// while groups are picked. A project with a missing file cannot be reloaded.
+    /// Enables the actions that are currently possible. Nearly all actions need a project, and the
+    /// project must not change while groups are picked. A project whose file is missing cannot be
+    /// reloaded.
     void enable(bool hasProject, bool isPicking, bool isFileGone = false);
     void setHasScript(bool hasScript);
-    /// Lists files in the menu of recent files. The data of each action is the path.
+    /// Lists the files in the Recent Files menu. The data of each action is the path.
     void setRecentFiles(const QStringList& paths);
 
-    /// Returns the actions whose shortcuts must also work in modeless dialogs. Shortcuts of the
-    /// whole application would also work during a modal dialog while it has a list open.
+    /// Returns the actions whose shortcuts must also work in modeless dialogs. Application-wide
+    /// shortcuts would also work in a modal dialog while one of its popup lists is open.
     QList<QAction*> besideDialogs() const;
 
-    QVector<QAction*> newFromSample; ///< the data is the name of the model
+    QVector<QAction*> newFromSample; ///< the data of each action is the name of the model
     QAction* newFromFile;
     QAction* open;
     QAction* reload;
@@ -42,15 +43,15 @@ public:
     QAction* saveScript;
     QAction* exportSheets;
     QAction* quit;
-    QVector<QAction*> views; ///< the data is an AnimatorViewControl
+    QVector<QAction*> views; ///< the data of each action is an AnimatorViewControl
     QAction* design;
     QAction* output;
     QAction* textOutput;
     QAction* sheet;
     QAction* german;
     QAction* english;
-    QAction* help;           ///< for the widget with the focus
-    QVector<QAction*> books; ///< of the help; the data is the first topic of each
+    QAction* help;           ///< shows the help for the widget with the focus
+    QVector<QAction*> books; ///< help books; the data of each action is the first topic of the book
     QAction* about;
 
     QMenu* recentMenu = nullptr;

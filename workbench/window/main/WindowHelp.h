@@ -7,14 +7,15 @@ namespace workbench {
 class WindowActions;
 class WindowMessages;
 
-/// The help of the main window: the help key in all its dialogs, the actions of the Help menu and
-/// the box about the program.
+/// The help of the main window: the help key in the window and all its dialogs, the actions of the
+/// Help menu, and the About box.
 class WindowHelp : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window of `messages` becomes the owner. `messages` outlives the actions of the window.
+    /// The object is owned by the window of `messages`. `messages` must outlive the actions of the
+    /// window.
     WindowHelp(WindowMessages* messages, const WindowActions& actions);
 
 private:

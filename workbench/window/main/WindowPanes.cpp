@@ -54,7 +54,7 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     resizeDocks();
     setHelpTopic(m_scriptDock, "GRAV/SCRIPT");
     setHelpTopic(m_sheetDock, "GRAV/SHEET");
-    // isVisible() is also true for a dock that is covered by another one.
+    // isVisible() is also true for a dock that is covered by another dock.
     connect(m_sheetDock, &QDockWidget::visibilityChanged, this, &WindowPanes::sheetsVisibleChanged);
     window->installEventFilter(this);
 }
@@ -86,7 +86,7 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_scriptDock->raise();
 }
 
-/// The list of groups needs no more room in a larger window, so its dock has no share.
+/// The list of groups needs no additional space in a larger window, so its dock has no share.
 void WindowPanes::resizeDocks()
 {
     const QFontMetrics metrics = m_window->fontMetrics();

@@ -17,26 +17,27 @@ class ScriptPane;
 class SheetPreview;
 class WindowActions;
 
-/// The panes of the main window: model, groups, script, sheets and design records. It creates them
-/// and arranges them in the centre of the window and in docks. The window connects them.
+/// The panes of the main window: model, groups, script, sheets and design records. The class
+/// creates the panes and arranges them in the centre of the window and in docks. The window
+/// connects them.
 class WindowPanes : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window becomes the owner of the object and of the panes.
+    /// The window owns the object and the panes.
     WindowPanes(const WindowActions& actions, QMainWindow* window);
 
     /// Sets the texts in the language of the desktop.
     void setTexts();
-    /// Creates the pane of the design records on the first call: a window without a project opens
-    /// faster without it.
+    /// Creates the pane with the design records on the first call, because a window without a
+    /// project opens faster without this pane.
     RecordsPane* records();
-    /// Shows the preview of the sheets in front of other docks and gives it the focus.
+    /// Raises the sheet preview above other docks and gives it the focus.
     void showSheets();
     /// Returns the top left corner of the dock with the groups, in screen coordinates.
     QPoint leftDocks() const;
-    /// Restores and saves the geometry of window and docks in the settings of the program.
+    /// Restore and save the geometry of the window and its docks in the program settings.
     void restoreGeometry();
     void saveGeometry() const;
 
@@ -51,7 +52,7 @@ public:
     SheetPreview* const sheets;
 
 Q_SIGNALS:
-    /// Emitted when the preview of the sheets becomes visible or invisible to the user.
+    /// Emitted when the sheet preview becomes visible or invisible to the user.
     void sheetsVisibleChanged(bool isVisible);
 
 private:

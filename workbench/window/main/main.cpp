@@ -19,12 +19,12 @@ int openWindow(const QStringList& arguments)
     if (!hasDisplay())
         throw CommandError{QStringLiteral("the window needs a display")};
     applyLanguage(line);
-    if (line.has("language")) // otherwise the window restores its last one
+    if (line.has("language")) // otherwise the window restores its last language
         WindowSettings().setLanguage(vkd::desktopLanguage());
     return runWindow(line.argument(0));
 }
 
-/// Creates an application without widgets if there is no display: Qt would abort otherwise.
+/// Creates an application without widgets if there is no display, because Qt would abort otherwise.
 std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
 {
     if (!hasDisplay())

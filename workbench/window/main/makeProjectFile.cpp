@@ -9,7 +9,7 @@
 namespace workbench {
 
 namespace {
-constexpr int Patience = 50; // ms between two checks of the progress
+constexpr int Patience = 50; // interval between progress checks, in ms
 
 QString language()
 {
@@ -17,7 +17,8 @@ QString language()
                                                            : QStringLiteral("english");
 }
 
-/// Returns the error line of a command without the name of the program; empty after a success.
+/// Returns the error message of a command without the program name, or an empty string after a
+/// success.
 QString failure(QProcess& process)
 {
     if (process.error() == QProcess::FailedToStart || process.exitStatus() != QProcess::NormalExit)

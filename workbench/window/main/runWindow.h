@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// Shows the window with a project, or without one if the path is empty, until the user closes it.
-/// Needs a QApplication. Returns the exit code.
+/// Shows the window with the project at the path, or without a project if the path is empty, until
+/// the user closes the window. Needs a QApplication. Returns the exit code.
 int runWindow(const QString& path);
 
 } // namespace workbench
