@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// An entry of a combo box: a text, an id and an additional number, which is -99999 if unused.
+/// An entry of a combo box: its text, its id and an additional number, which is -99999 if unused.
 struct ComboList
 {
     QString text;

@@ -7,22 +7,23 @@
 
 class VKD_H_LineEdit;
 
-/// A label and a number field in one widget. The field is a VKD_H_LineEdit and refuses texts in the
-/// same way; its object name is that of the box plus "_edit". Its text is meant for programs: a
-/// typed or pasted comma becomes a point in every language.
+/// A label and a number field in one widget. The field is a VKD_H_LineEdit and rejects invalid
+/// input in the same way. Its object name is the object name of this widget plus "_edit". Its text
+/// is intended for programs: a typed or pasted comma is converted to a point in every language.
 class VKD_H_EXPORT VKD_H_BoxedLineEdit : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `description` is copied. Null describes a number without unit and label.
+    /// `description` is copied. Null describes a number without a unit or label.
     VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description, const char* name);
 
-    /// Returns the text as it was typed or set. If the typed text is refused or the field is empty,
-    /// returns the last accepted text.
+    /// Returns the text exactly as it was typed or set. If the typed text is rejected or the field
+    /// is empty, returns the last accepted text.
     QString getText() const;
-    /// Sets a saved text, in the shown unit and without any change, even with a comma. If it is not
-    /// an acceptable number, the field shows and marks it, and the previous value remains.
+    /// Sets a saved text in the displayed unit. The text is not modified, even if it contains a
+    /// comma. If the text is not an acceptable number, the field shows and marks it, and keeps the
+    /// previous value.
     void setText(const QString& text);
 
     /// Sets the value in the base unit of the dimension.
@@ -33,7 +34,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// Emitted when the user changed the value.
+    /// Emitted when the user has changed the value.
     void valueChanged();
 
 protected:

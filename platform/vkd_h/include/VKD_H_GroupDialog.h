@@ -26,34 +26,36 @@ class GroupView;
 } // namespace h
 } // namespace vkd
 
-/// The base class of modal dialogs that select groups of a model for one row of the caller's table.
-/// It has a list with check boxes, a filter and a field for numbers or names. exec() returns 1 if
-/// the user confirmed. Users of this class must link vkd_qt.
+/// The base class of modal dialogs in which the user selects groups of a model for one row of the
+/// caller's table. It contains a list with check boxes, a filter field and an input field for
+/// numbers or names. exec() returns 1 if the user clicked OK. Users of this class must link vkd_qt.
 class VKD_H_EXPORT VKD_H_GroupDialog : public VKD_QT_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Replaces `groups` by the confirmed groups in ascending order. The checked groups replace the
-    /// whole initial list, including groups of the other kind and the -1 of the remaining groups.
-    /// Before OK, and if the user changed nothing, the result is the initial list. Returns 0.
+    /// Replaces `groups` with the confirmed groups in ascending order. The checked groups replace
+    /// the whole initial list, including groups of the other kind and the value -1 for the
+    /// remaining groups. If the user has not clicked OK or has changed nothing, the result is the
+    /// initial list. Returns 0.
     int getChecked(std::vector<int>& groups) const;
 
     void accept() override;
 
 protected:
-    /// Reads the document, which may be null, and does not use it later. Entries of `checked` that
-    /// are not groups of this kind are not shown; groups that the model lacks get a row each.
-    /// `usedElsewhere` are the groups of the caller's other rows; the user may take them over.
+    /// Reads the document, which may be null, and does not keep a pointer to it. Entries of
+    /// `checked` that are not groups of this kind are not shown. Each group that does not exist in
+    /// the model gets its own row. `usedElsewhere` contains the groups of the caller's other rows,
+    /// which the user may reassign to this row.
     VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* doc,
                       const std::vector<int>& checked, const std::vector<int>& usedElsewhere,
                       QWidget* parent, const char* name);
 
     bool hasGroups() const;
-    /// Returns the checked groups, including typed groups that are not checked in the list yet.
-    /// Unreadable input is ignored.
+    /// Returns the checked groups and the typed groups that are not yet checked in the list.
+    /// Invalid input is ignored.
     std::vector<int> presentChoice();
-    /// Adds a button at the left of the foot, before OK in the tab order. Takes ownership.
+    /// Adds a button on the left of the bottom row, before OK in the tab order. Takes ownership.
     void addFootButton(QPushButton* button);
 
     void keyPressEvent(QKeyEvent* event) override;
@@ -70,9 +72,9 @@ private:
 
     void checkShown(bool checked);
     void toggle(const QModelIndexList& rows);
-    /// Checks the groups that the input field names. Parts that cannot be read or name no group
-    /// remain in the field. Returns false and shows a message if there are any. The message may
-    /// also mention checked groups without area elements.
+    /// Checks the groups listed in the input field. Parts that are invalid or do not match a group
+    /// remain in the field. In this case, the function shows a message and returns false. The
+    /// message may also list checked groups without area elements.
     bool applyInput();
     bool hasInput() const;
     void showMessage(const QString& text);

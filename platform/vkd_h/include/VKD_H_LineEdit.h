@@ -13,32 +13,34 @@
 class FieldMark;
 class QComboBox;
 
-/// A field for a number with a dimension. Callers use base units, users the shown unit. It can also
-/// be the line edit of an editable combo box with preset texts. A value that the user does not edit
-/// is returned bit for bit, even if the field shows fewer digits.
+/// A field for a number with a dimension. Callers use base units, and users the displayed unit. The
+/// field can also be the line edit of an editable combo box with preset values. A value that the
+/// user does not edit is returned unchanged, even if the field shows fewer digits.
 ///
-/// Text that is not an acceptable number remains in the field, marked and with a message, until the
-/// user corrects it or presses Escape to restore the text of the last value. Meanwhile that value
-/// is the current one, and no dialog can be accepted (VKD_QT_Dialog.h). An implausible value is
-/// marked in another colour with a message, but is accepted. Users of this class must link vkd_qt.
+/// Text that is not an acceptable number remains in the field, with a mark and a message, until the
+/// user corrects it or presses Escape to restore the last accepted text. Until then, the field
+/// keeps the last accepted value, and the dialog cannot be accepted (VKD_QT_Dialog.h). An
+/// implausible value is accepted, but is marked in another colour and explained in a message. Users
+/// of this class must link vkd_qt.
 class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit, public VKD_QT_InputField
 {
     Q_OBJECT
     Q_INTERFACES(VKD_QT_InputField)
 
 public:
-    /// `description` is copied; null describes a number without unit. `text` is the name of the
-    /// quantity for the tool tip and for screen readers; `secondText` is a further explanation in
-    /// the tool tip. `showsUnit` shows the unit in the field.
+    /// `description` is copied; null describes a number without a unit. `text` is the name of the
+    /// quantity for the tool tip and for screen readers; `secondText` is an additional explanation
+    /// in the tool tip. If `showsUnit` is true, the field shows the unit.
     VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, const char* objectName,
                    const QString& text, const QString& secondText, bool showsUnit);
     ~VKD_H_LineEdit() override;
 
-    /// Shows any value, given in base units. In a combo box, call this after the entries are added,
+    /// Sets any value, given in base units. In a combo box, call this after adding the entries,
     /// because the combo box copies its current entry into the field.
     void setVal(double value);
-    /// Returns the value of the current text, even during typing. For a refused text, returns the
-    /// last accepted value; for an empty field, the description's "not set" (-99999.0 by default).
+    /// Returns the value of the current text, even while the user is typing. If the text is
+    /// rejected, returns the last accepted value. If the field is empty, returns the description's
+    /// "not set" value (-99999.0 by default).
     double getVal() const;
 
     /// Returns the last accepted text, which Escape restores.
@@ -46,16 +48,18 @@ public:
 
     QString refusal() const override;
     void showRefusal() override;
-    /// Returns why the value is implausible; empty for a plausible value and for a refused text.
+    /// Returns the reason why the value is implausible, or an empty string if the value is
+    /// plausible or the text is rejected.
     QString doubt() const;
     /// Replaces the plausible range of the dimension.
     void setPlausibleRange(const VkdPlausibleRange& range);
 
-    /// Marks the field like a refused one for a reason that only the dialog knows, until its text
-    /// changes. The field shows the reason when it gets the focus, even after a message box.
+    /// Marks the text as rejected for a reason that only the dialog can determine. The mark remains
+    /// until the text changes. The field shows the reason when it receives focus, even after a
+    /// message box.
     void setFault(const QString& reason);
 
-    /// Returns a size for nine characters, prefix, unit and mark.
+    /// Returns a size that fits nine characters, the prefix, the unit and the mark.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -94,13 +98,13 @@ private:
     QString m_name;
     QString m_explanation;
     bool m_showsUnit;
-    double m_value; ///< last accepted value; m_shown is its text
-    double m_told;  ///< value of the last valueChanged()
+    double m_value; ///< last accepted value; m_shown contains its text
+    double m_told;  ///< value at the last valueChanged()
     QString m_shown;
     QString m_fault;
     VkdPlausibleRange m_plausible;
     std::unique_ptr<FieldMark> m_mark;
     bool m_isTyped = false;
-    bool m_wasIn = false; ///< the focus is in a popup or another window and may return
+    bool m_wasIn = false; ///< focus is in a popup or another window and may return
     bool m_selectsAll = false;
 };

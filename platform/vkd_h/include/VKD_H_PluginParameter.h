@@ -4,8 +4,8 @@
 
 class VKD_H_ZOBDoc;
 
-/// The documents that a host passes to its embedded pages: the model and, if stored separately, the
-/// cross sections. Owns neither of them.
+/// The documents that a host passes to its embedded pages: the model and, if they are stored
+/// separately, the cross sections. It does not own the documents.
 class VKD_H_EXPORT VKD_H_PluginParameter
 {
 public:

@@ -8,13 +8,13 @@
 #include <QMap>
 #include <QString>
 
-/// The key-value texts that a dialog page saves in a project. The constructor reads them; save()
-/// writes them into the project file.
+/// The key-value entries that a dialog page saves in a project. The constructor reads the entries,
+/// and save() writes them to the project file.
 class VKD_H_EXPORT VKD_H_ProjectDialogPage
 {
 public:
-    /// Reads the texts of a page, given by number, from the project. Without a project the texts
-    /// live as long as the object.
+    /// Reads the entries of the page with the given number from the project. Without a project, the
+    /// entries exist only in this object.
     explicit VKD_H_ProjectDialogPage(ZobHandle project = ZobHandle(), int page = 0);
 
     /// Returns the value of the key, or `defaultValue` if the key does not exist.
@@ -23,9 +23,9 @@ public:
     void setEntry(const QString& key, const QString& value);
     void deleteEntry(const QString& key);
 
-    /// Replaces the entries in the project, completely or not at all. If they could not be read
-    /// before, nothing is stored and the status is that of reading. Within a change of the caller,
-    /// they are stored when the change ends, see ZobTransaction::commit().
+    /// Replaces the entries in the project atomically. If the constructor could not read them,
+    /// nothing is stored, and the status of the failed read is returned. Within a change begun by
+    /// the caller, the entries are stored when the change ends, see ZobTransaction::commit().
     VkdStatus save() const;
 
 private:

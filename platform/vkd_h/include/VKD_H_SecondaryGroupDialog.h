@@ -2,8 +2,8 @@
 
 #include "VKD_H_GroupDialog.h"
 
-/// The modal dialog that selects secondary groups of a model. exec() returns 1 if the user
-/// confirmed; getChecked() then returns packed names.
+/// The modal dialog in which the user selects secondary groups of a model. exec() returns 1 if the
+/// user clicked OK. getChecked() provides packed names.
 class VKD_H_EXPORT VKD_H_SecondaryGroupDialog : public VKD_H_GroupDialog
 {
     Q_OBJECT

@@ -8,12 +8,12 @@
 
 #include <list>
 
-/// A column header of a VKD_H_TableWidget. It has the id of the column, which does not depend on
-/// the column's position, and creates the empty items of its cells.
+/// A column header of a VKD_H_TableWidget. It stores the id of the column, which does not depend on
+/// the column's position, and creates the empty items for its cells.
 class VKD_H_EXPORT VKD_H_TwHeaderItem : public QTableWidgetItem
 {
 public:
-    /// `longText` is the tool tip, used only if `withToolTip` is true. `alignment` applies to the
+    /// `longText` is shown as a tool tip if `withToolTip` is true. `alignment` applies to the
     /// cells.
     VKD_H_TwHeaderItem(int id, const QString& text, const QString& longText, bool withToolTip,
                        Qt::Alignment alignment);
@@ -55,14 +55,14 @@ public:
     QTableWidgetItem* clone() const override;
 };
 
-/// A cell with a combo box. It stores only the text; the id is that of the entry with this text.
+/// A cell with a combo box. It stores only the text of the entry and looks up the id by this text.
 class VKD_H_EXPORT VKD_H_TwSimpleComboBoxItem : public QTableWidgetItem
 {
 public:
     explicit VKD_H_TwSimpleComboBoxItem(const QVector<ComboList>& entries);
 
     const QVector<ComboList>& entries() const { return m_entries; }
-    /// Returns the id of the shown entry, or -99999 if the text is not an entry.
+    /// Returns the id of the displayed entry, or -99999 if no entry has this text.
     int getCurrentId() const;
     QTableWidgetItem* clone() const override;
 

@@ -6,13 +6,13 @@
 
 class VKD_QT_Menu;
 
-/// The table widget of the framework: columns with ids (VKD_H_TableItems.h), cells with combo
-/// boxes, operations that add and delete rows, a context menu and shortcuts.
+/// The table widget of the framework. It has columns with ids (VKD_H_TableItems.h), cells with
+/// combo boxes, functions to add and delete rows, a context menu and shortcuts.
 ///
 /// Arrow keys move from cell to cell, and Tab leaves the table. F2 and Enter open the editor of the
-/// current cell or focus the widget over it. Pages that place their own widgets over cells do so
-/// when the selection changes; a further F2, Enter or Escape on the cell emits
-/// itemSelectionChanged() again.
+/// current cell or move the focus to the widget over it. Pages that place their own widgets over
+/// cells do so when the selection changes. Pressing F2, Enter or Escape again on the same cell
+/// emits itemSelectionChanged() once more.
 class VKD_H_EXPORT VKD_H_TableWidget : public VKD_QT_TableWidget
 {
     Q_OBJECT
@@ -21,26 +21,27 @@ public:
     VKD_H_TableWidget(int rows, int columns, QWidget* parent = nullptr, const char* name = nullptr);
     ~VKD_H_TableWidget() override;
 
-    /// Sets whether the context menu and the keys Insert and Delete add and delete rows; the
-    /// default is true.
+    /// Sets whether rows can be added and deleted through the context menu and the keys Insert and
+    /// Delete. The default is true.
     void setContextmenueEnabled_new_del(bool enabled);
 
-    /// Return the column with this id and the id of a column; -1 if it does not exist.
+    /// Convert the id of a column to its index and vice versa. Return -1 if the column does not
+    /// exist.
     int getColumnNumber(int id) const;
     int getColumnId(int column) const;
-    /// Returns the item of a row in the column with this id; null if there is none.
+    /// Returns the item of a row in the column with this id, or null if there is none.
     QTableWidgetItem* itemOnColId(int row, int id) const;
 
     /// Adds a row at the end, with empty items if `withItems` is true.
     virtual void addNewRow(bool withItems);
-    /// Sets the empty item of its column in each cell of a row.
+    /// Sets an empty item, created by the column header, in each cell of a row.
     virtual void createEmptyItems(int row);
-    /// Deletes all rows with a selected cell in one pass, and all widgets over cells from the first
-    /// deleted row on. Clears the selection.
+    /// Deletes all rows that contain a selected cell in one pass. Also deletes all widgets over
+    /// cells, starting at the first deleted row. Clears the selection.
     virtual void deleteSelectedRows();
 
-    /// Returns a new context menu, with the actions of the table (QWidget::actions()) after the
-    /// common ones. The table owns it and deletes it in the next call.
+    /// Returns a new context menu that contains the standard actions, followed by the actions of
+    /// the table (QWidget::actions()). The table owns the menu and deletes it on the next call.
     virtual VKD_QT_Menu* getContextMenu();
 
     using VKD_QT_TableWidget::edit;
@@ -49,7 +50,7 @@ public:
     void copySelection() const;
 
 Q_SIGNALS:
-    /// Emitted after the number of rows changed.
+    /// Emitted after the number of rows has changed.
     void signal_rowCountChanged(int before, int after);
 
 protected:

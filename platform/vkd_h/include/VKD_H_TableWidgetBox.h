@@ -9,9 +9,9 @@
 class QHBoxLayout;
 class VKD_H_TableWidget;
 
-/// A group box with a table and buttons that act on it. While the table or a widget in it has the
-/// focus, Insert presses the button New, and Delete the button Delete. The table handles these keys
-/// itself unless setContextmenueEnabled_new_del(false) was called.
+/// A group box with a table and buttons that operate on it. While the table or a widget in it has
+/// focus, the Insert key clicks the New button, and the Delete key clicks the Delete button. The
+/// table handles these keys itself unless setContextmenueEnabled_new_del(false) was called.
 class VKD_H_EXPORT VKD_H_TableWidgetBox : public VKD_QT_GroupBox
 {
     Q_OBJECT
@@ -22,18 +22,18 @@ public:
         Delete = 1,
     };
 
-    /// createDefaultLayout() makes `table` a child; before that, the box does not own it.
+    /// The box does not own `table` until createDefaultLayout() makes it a child.
     VKD_H_TableWidgetBox(VKD_H_TableWidget* table, const QString& title, QWidget* parent,
                          const char* name);
 
-    /// Arranges the table and the row of buttons above or below it; with neither, the row is left
-    /// out.
+    /// Arranges the table and the button row above or below it. If both arguments are false, the
+    /// row is omitted.
     void createDefaultLayout(bool buttonsAbove, bool buttonsBelow);
-    /// Adds a button to the row, at the right end if `toTheRight` is true.
+    /// Adds a button to the button row, at the right end if `toTheRight` is true.
     void addButton(Buttons button, bool toTheRight);
     /// Returns the button, or null if it was not added.
     QPushButton* getButton(Buttons button) const;
-    /// Adds a widget to the row, after the other widgets at the left.
+    /// Adds a widget to the button row, after the other widgets on the left.
     void addWidget(QWidget* widget);
 
 protected:

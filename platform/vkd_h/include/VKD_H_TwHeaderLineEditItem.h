@@ -28,16 +28,16 @@ public:
     explicit VKD_H_TwSimpleLineEditItem(const StructLineEdit& description);
 
     const StructLineEdit& description() const { return m_description; }
-    /// Shows a value, given in base units.
+    /// Sets the value, given in base units.
     void setVal(double value);
-    /// Returns the value in base units. Returns the description's "not set" for an empty cell and
-    /// for a text that is not an acceptable number. `ok`, unless null, receives whether the value
-    /// is set.
+    /// Returns the value in base units. Returns the description's "not set" value if the cell is
+    /// empty or its text is not an acceptable number. If `ok` is not null, `*ok` is set to whether
+    /// the cell has a value.
     double getVal(bool* ok) const;
     QTableWidgetItem* clone() const override;
 
 private:
     StructLineEdit m_description;
-    double m_value; ///< the exact value of the text m_shown
+    double m_value; ///< exact value that m_shown displays
     QString m_shown;
 };

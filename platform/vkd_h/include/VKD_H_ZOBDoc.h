@@ -14,14 +14,14 @@
 class VKD_H_EXPORT VKD_H_ZOBDoc
 {
 public:
-    /// Opens a project file, or creates one that must not exist yet. Returns null on failure;
-    /// `status`, if given, receives the result of vkd_zob_open() or vkd_zob_create().
+    /// Opens a project file, or creates one that must not exist yet. Returns null on failure. If
+    /// `status` is not null, it receives the result of vkd_zob_open() or vkd_zob_create().
     static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, VkdStatus* status = nullptr,
                                               const VkdGoOn& goOn = VkdGoOn());
     static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, VkdStatus* status = nullptr);
-    /// Returns the scratch store as a document, for data that does not belong to a project yet. It
-    /// has index 0 and no path. All scratch documents share one store, which lives as long as the
-    /// process.
+    /// Returns the scratch store as a document, for data that does not yet belong to a project. The
+    /// document has index 0 and no path. All scratch documents share one store, which exists as
+    /// long as the process.
     static std::unique_ptr<VKD_H_ZOBDoc> scratch();
     ~VKD_H_ZOBDoc();
     VKD_H_ZOBDoc(const VKD_H_ZOBDoc&) = delete;
@@ -34,8 +34,8 @@ public:
     ZobHandle handle() const { return m_project; }
     QString path() const;
 
-    /// Closes the document explicitly, to check that all changes were stored. Returns the result of
-    /// vkd_zob_close(), OK if the document was closed before.
+    /// Closes the document explicitly, so that the caller can check whether all changes were
+    /// stored. Returns the result of vkd_zob_close(), or OK if the document was already closed.
     VkdStatus close();
 
 private:

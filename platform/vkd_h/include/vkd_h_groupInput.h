@@ -9,26 +9,27 @@
 namespace vkd {
 namespace h {
 
-/// The groups in a text that the user typed. Its parts are separated by blanks, commas or
-/// semicolons. Time and memory are bounded by the number of existing groups and the length of the
-/// text.
+/// The groups listed in user input, whose parts are separated by spaces, commas or semicolons.
+/// Processing time and memory are bounded by the number of existing groups and the length of the
+/// input.
 struct GroupInput
 {
     std::vector<int> groups; ///< existing groups, ascending
     QStringList unreadable;  ///< parts that cannot be parsed
-    QStringList missing;     ///< parts that name no existing group
+    QStringList missing;     ///< parts that do not match an existing group
 };
 
-/// Reads numbers and ranges such as 1-5, in either direction and with any dash. A range stands for
-/// the existing groups in it; if there are none, it is missing. `existing` must be ascending.
+/// Reads numbers and ranges such as 1-5, in either direction and with any dash. A range represents
+/// the existing groups within it. If there are none, the range is reported as missing. `existing`
+/// must be ascending.
 VKD_H_EXPORT GroupInput readNumbers(const QString& text, const std::vector<int>& existing);
 
-/// Reads names of secondary groups. The case matters only if two names differ in nothing else.
-/// `existing` must contain packed names in ascending order.
+/// Reads names of secondary groups. Matching is case-sensitive only for names that differ only in
+/// case. `existing` must contain packed names in ascending order.
 VKD_H_EXPORT GroupInput readNames(const QString& text, const std::vector<int>& existing);
 
-/// Reads numbers, ranges and names of secondary groups in one text. A part that is none of these is
-/// missing, because any text could be a name.
+/// Reads numbers, ranges and names of secondary groups from one string. Any other part is reported
+/// as missing, because any string could be a name.
 VKD_H_EXPORT GroupInput readNumbersAndNames(const QString& text, const std::vector<int>& numbers,
                                             const std::vector<int>& names);
 

@@ -4,9 +4,10 @@
 
 #include <QString>
 
-/// The units of the desktop. Records store base units; users read and type shown units.
+/// The units of the desktop. Records contain values in base units. Users see and type values in
+/// displayed units.
 ///
-/// | code | dimension | base unit | shown unit | decimals |
+/// | code | dimension | base unit | displayed unit | decimals |
 /// |---|---|---|---|---|
 /// | 5 | direction | rad | ° | 1 |
 /// | 1001 | coordinate | m | m | 3 |
@@ -16,21 +17,22 @@
 /// | 1026 | crack width | mm | mm | 2 |
 /// | 1092 | steel stress | N/mm² | N/mm² | 1 |
 ///
-/// Any other code, usually -1, has no unit; its numbers are shown with up to six significant
-/// digits. The decimal sign is that of the desktop's language, and there is no thousands separator.
+/// Any other code, usually -1, has no unit, and its numbers are shown with up to six significant
+/// digits. The decimal separator is that of the desktop language, and there is no thousands
+/// separator.
 struct VkdDimension
 {
     int code;
     const char* baseUnit; ///< UTF-8
-    double factor;        ///< shown value = base value * factor
-    const char* unit;     ///< shown unit, UTF-8
+    double factor;        ///< displayed value = base value * factor
+    const char* unit;     ///< displayed unit, UTF-8
     int decimals;         ///< -1: up to six significant digits
 };
 
 /// Returns the dimension of a code. Unknown codes have no unit and the factor 1.
 VKD_H_EXPORT VkdDimension vkd_h_dimension(int code);
 
-/// The plausible values of a dimension, in base units. A field accepts other values too, but marks
+/// The plausible values of a dimension, in base units. A field also accepts other values, but marks
 /// them as unusual.
 struct VkdPlausibleRange
 {
@@ -45,13 +47,14 @@ enum class VkdDirections {
     Signed    ///< around a point, -180 to 180 degrees
 };
 
-/// Returns the plausible range of a code; every finite value if the code has no such range.
+/// Returns the plausible range for a code, or the range of all finite values if no plausible range
+/// is defined for it.
 VKD_H_EXPORT VkdPlausibleRange
 vkd_h_plausibleRange(int code, VkdDirections directions = VkdDirections::HalfTurn);
 
-/// Returns the text of a value in the shown unit, without the unit. The third argument belongs to
-/// the suite's interface and must be -1.
+/// Converts a value to the displayed unit and returns its text without the unit. The third argument
+/// belongs to the suite's interface and must be -1.
 VKD_H_EXPORT QString vkd_h_getDimStringFromVal(double value, int code, int unused);
 
-/// Returns the text of a number in the desktop's format; `decimals` as in VkdDimension.
+/// Returns the text of a number in the desktop's format. For `decimals`, see VkdDimension.
 VKD_H_EXPORT QString vkd_h_getNumberString(double value, int decimals);

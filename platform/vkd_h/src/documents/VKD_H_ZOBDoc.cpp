@@ -54,6 +54,6 @@ VkdStatus VKD_H_ZOBDoc::close()
     if (m_project.isNull())
         return {};
     const int index = std::exchange(m_project, ZobHandle()).index();
-    const bool isScratch = index == ZobHandle::scratch().index(); // it lives on
+    const bool isScratch = index == ZobHandle::scratch().index(); // the scratch store stays open
     return isScratch ? VkdStatus() : vkd_zob_close(index);
 }

@@ -9,8 +9,8 @@
 namespace {
 constexpr qreal Red = 0.0, Amber = 0.1; // hues
 
-/// Returns a red or an amber that stands out on the field's background; palettes have no such
-/// roles.
+/// Returns a shade of red or amber that stands out against the field's background. Palettes have no
+/// roles for these colours.
 QColor markColour(FieldMarkKind kind, const QPalette& palette)
 {
     const bool isLight = palette.color(QPalette::Base).lightnessF() > 0.5;
@@ -18,7 +18,7 @@ QColor markColour(FieldMarkKind kind, const QPalette& palette)
                                           : QColor::fromHslF(Amber, 1.0, isLight ? 0.36 : 0.6);
 }
 
-/// Returns a triangle for a refused text and a disc for an implausible value.
+/// Returns a triangle for rejected text and a disc for an implausible value.
 QPainterPath shape(FieldMarkKind kind, const QRectF& place)
 {
     QPainterPath outline;

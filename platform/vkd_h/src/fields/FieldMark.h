@@ -14,21 +14,21 @@ enum class FieldMarkKind {
     Refused  ///< the text is not a value, or the dialog refuses the value
 };
 
-/// The mark of an input field: a coloured frame, a sign at the right end for users who cannot see
-/// the colour, and a text, which is added to the accessible description and shown as a message at
-/// the field. It follows the field's palette and font.
+/// The mark of an input field. It consists of a coloured frame, a symbol at the right end for users
+/// who cannot see the colour, and a text. The text is appended to the accessible description and
+/// shown in a message next to the field. The mark uses the field's palette and font.
 class FieldMark
 {
 public:
     explicit FieldMark(QWidget* field);
 
-    /// Sets the mark; an empty text removes it. Returns false if the text did not change.
+    /// Sets the mark; an empty string removes it. Returns false if the text has not changed.
     bool set(FieldMarkKind kind, const QString& text);
     const QString& text() const { return m_text; }
 
-    /// Returns the width of the sign in pixels, 0 without a mark.
+    /// Returns the width of the symbol in pixels, or 0 if there is no mark.
     int width() const;
-    /// Paints the frame around the field and the sign into `place`.
+    /// Paints the frame around the field, and the symbol inside `place`.
     void paint(QPainter* painter, const QRect& place) const;
 
     void showMessage();
@@ -38,6 +38,6 @@ private:
     QWidget* m_field;
     FieldMarkKind m_kind = FieldMarkKind::None;
     QString m_text;
-    QString m_about;                   ///< the accessible description without a mark
+    QString m_about;                   ///< accessible description without the mark's text
     FieldMessage* m_message = nullptr; ///< created on first use; child of the field
 };

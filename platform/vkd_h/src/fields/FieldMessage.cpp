@@ -32,7 +32,7 @@ void FieldMessage::showText(const QString& text)
 {
     setPalette(QToolTip::palette());
     setText(text);
-    resize(sizeHint()); // adjustSize() cuts long lines on a small screen
+    resize(sizeHint()); // adjustSize() truncates long lines on a small screen
     const QWidget* field = parentWidget();
     const QRect area = field->screen()->availableGeometry();
     QPoint place = field->mapToGlobal(field->rect().bottomLeft()) + QPoint(0, Distance);
@@ -46,7 +46,7 @@ void FieldMessage::showText(const QString& text)
 
 bool FieldMessage::eventFilter(QObject* watched, QEvent* event)
 {
-    // The window receives input before its widgets do, and these may show the message again.
+    // The window receives input before its widgets, which may show the message again.
     const QEvent::Type type = event->type();
     if (watched->isWindowType() && (type == QEvent::KeyPress || type == QEvent::MouseButtonPress))
         hide();

@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QTimer>
 
-/// A short message at an input field that looks like a tool tip. Unlike a tool tip, it stays when
-/// the focus changes. It is hidden by the next key or click, before the widgets receive it, and
-/// after ten seconds.
+/// A short message next to an input field that looks like a tool tip. Unlike a tool tip, it remains
+/// visible when the focus changes. The next key press or mouse click hides it, before the widgets
+/// receive that event. Otherwise it is hidden after ten seconds.
 class FieldMessage : public QLabel
 {
     Q_OBJECT

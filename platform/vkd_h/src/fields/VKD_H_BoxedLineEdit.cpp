@@ -10,7 +10,7 @@
 #include <QValidator>
 
 namespace {
-/// Returns the label without mnemonic and colon.
+/// Returns the label without its mnemonic and colon.
 QString plainName(QString label)
 {
     label = label.remove(QLatin1Char('&')).trimmed();
@@ -28,7 +28,7 @@ StructBoxedEdit completed(const StructBoxedEdit* given)
 {
     StructBoxedEdit description = given ? *given : StructBoxedEdit();
     if (fallsBack(description.edit))
-        description.edit.flags |= StructLineEdit::EmptyAllowed; // during typing
+        description.edit.flags |= StructLineEdit::EmptyAllowed; // while the user is typing
     description.edit.flags |= StructLineEdit::TextForPrograms;
     return description;
 }
@@ -40,7 +40,7 @@ VKD_H_LineEdit* newEdit(QWidget* parent, StructBoxedEdit& description, const cha
                               plainName(description.label), description.toolTip, true);
 }
 
-/// Replaces decimal signs by points in typed, pasted and dropped text; accepts every text.
+/// Replaces decimal separators with points in typed, pasted and dropped text. Accepts any text.
 class PointWriter : public QValidator
 {
 public:
@@ -102,7 +102,7 @@ QString VKD_H_BoxedLineEdit::getText() const
 
 void VKD_H_BoxedLineEdit::setText(const QString& text)
 {
-    const QSignalBlocker silence(this); // the field treats the text like a chosen preset
+    const QSignalBlocker silence(this); // the field treats the text as a selected preset
     const QValidator* points = m_edit->validator();
     m_edit->setValidator(nullptr);
     m_edit->setText(text);
@@ -125,7 +125,7 @@ VKD_H_LineEdit* VKD_H_BoxedLineEdit::edit() const
 bool VKD_H_BoxedLineEdit::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_edit && endsInput(event))
-        fillEmptyField(); // before the field handles the event
+        fillEmptyField(); // must precede the field's own handling of the event
     return QWidget::eventFilter(watched, event);
 }
 
@@ -163,7 +163,7 @@ void VKD_H_BoxedLineEdit::fillEmptyField()
         setVal(m_description.edit.emptied);
 }
 
-/// An empty field shows the value that it stands for as a dimmed placeholder.
+/// Shows the default value of an empty field as a dimmed placeholder.
 void VKD_H_BoxedLineEdit::showDefault()
 {
     if (fallsBack(m_description.edit))

@@ -50,7 +50,8 @@ VKD_H_LineEdit::VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, con
 {
     setObjectName(QLatin1String(objectName));
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    // QLineEdit emits textEdited() before textChanged(), so takeText() knows who changed the text.
+    // QLineEdit emits textEdited() before textChanged(), so takeText() knows whether the user
+    // changed the text.
     connect(this, &QLineEdit::textEdited, this, [this] { m_isTyped = true; });
     connect(this, &QLineEdit::textChanged, this, &VKD_H_LineEdit::takeText);
     setAccessibleDescription(m_explanation);
@@ -66,7 +67,7 @@ void VKD_H_LineEdit::setVal(double value)
     m_value = m_told = value;
     m_shown = vkd_h_numberText(value, m_description);
     setText(m_shown);
-    m_fault.clear(); // setText() emits no signal if the text did not change
+    m_fault.clear(); // setText() does not emit a signal if the text has not changed
     updateMark();
     followPresets();
 }
@@ -116,7 +117,8 @@ void VKD_H_LineEdit::clearFault()
     setFault(QString());
 }
 
-/// Text that the user did not type is a preset and takes effect at once: Escape does not undo it.
+/// Text that the user did not type is a preset and takes effect immediately. Escape does not undo
+/// it.
 void VKD_H_LineEdit::takeText(const QString& text)
 {
     const bool isTyped = std::exchange(m_isTyped, false);
@@ -136,7 +138,7 @@ void VKD_H_LineEdit::takeText(const QString& text)
     }
 }
 
-/// Accepts the current text at the end of typing and reformats it.
+/// Accepts and reformats the current text when the user has finished typing.
 void VKD_H_LineEdit::keepText()
 {
     m_value = getVal();
@@ -156,7 +158,7 @@ bool VKD_H_LineEdit::restoreText()
     return true;
 }
 
-/// The inline completion of a combo box would turn a typed "1" into its entry "10".
+/// The inline completion of a combo box would complete a typed "1" to the entry "10".
 void VKD_H_LineEdit::dropInlineCompletion()
 {
     if (completer() && completer()->completionMode() == QCompleter::InlineCompletion)
@@ -175,7 +177,8 @@ void VKD_H_LineEdit::setTips()
     setToolTip(lines.join(QLatin1Char('\n')));
 }
 
-/// Updates the mark. `mayGrow` suppresses it for a text that can still become a number.
+/// Updates the mark. `mayGrow` suppresses the mark for incomplete text that can still become a
+/// number.
 void VKD_H_LineEdit::updateMark(bool mayGrow)
 {
     const QString reason = mayGrow ? QString() : refusal();
@@ -208,8 +211,7 @@ QComboBox* VKD_H_LineEdit::comboBox() const
     return combo && combo->lineEdit() == this ? combo : nullptr;
 }
 
-/// Sets the current entry of the combo box to the preset that the field shows, even if the user
-/// typed it.
+/// Selects the combo box entry that matches the displayed value, even if the user typed the value.
 void VKD_H_LineEdit::followPresets()
 {
     QComboBox* combo = comboBox();
@@ -220,7 +222,7 @@ void VKD_H_LineEdit::followPresets()
     markPreset(combo, isValue ? presetAt(*combo, getVal(), m_description) : -1);
 }
 
-/// From a value between presets, Up and Down lead to the neighbouring ones.
+/// From a value between two presets, Up and Down select the adjacent presets.
 bool VKD_H_LineEdit::stepToPreset(int key)
 {
     QComboBox* combo = comboBox();
@@ -266,7 +268,7 @@ QSize VKD_H_LineEdit::minimumSizeHint() const
 
 bool VKD_H_LineEdit::event(QEvent* event)
 {
-    // A dialog's shortcut must not receive the Escape that restores the text.
+    // The Escape key that restores the text must not trigger a shortcut of the dialog.
     if (event->type() == QEvent::ShortcutOverride && text() != m_shown &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         event->accept();
@@ -298,7 +300,7 @@ void VKD_H_LineEdit::keyPressEvent(QKeyEvent* event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape && restoreText())
         return;
-    if (isEnter && !refusal().isEmpty()) { // must not reach the dialog's OK button
+    if (isEnter && !refusal().isEmpty()) { // must not trigger the dialog's OK button
         updateMark();
         m_mark->showMessage();
         return;
@@ -314,7 +316,7 @@ void VKD_H_LineEdit::focusInEvent(QFocusEvent* event)
     const bool wasIn = std::exchange(m_wasIn, false);
     m_selectsAll = event->reason() == Qt::MouseFocusReason;
     QLineEdit::focusInEvent(event);
-    if (!wasIn && !m_selectsAll) // with the mouse, selects when the button is released
+    if (!wasIn && !m_selectsAll) // after a click, select when the mouse button is released
         selectAll();
     if (!m_mark->text().isEmpty() && event->reason() != Qt::PopupFocusReason)
         m_mark->showMessage();

@@ -54,7 +54,7 @@ void markPreset(QComboBox* combo, int entry)
     const int start = field->selectionStart();
     const int length = field->selectionLength();
     {
-        // setCurrentIndex() copies the text of the entry into the field, which must not change.
+        // setCurrentIndex() copies the entry's text into the field, whose text must not change.
         const QSignalBlocker quietField(field);
         const QSignalBlocker quietCombo(combo);
         combo->setCurrentIndex(entry);

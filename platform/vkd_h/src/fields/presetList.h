@@ -3,14 +3,17 @@
 class QComboBox;
 struct StructLineEdit;
 
-/// Functions for the preset texts of an editable combo box, read as numbers of its field.
+/// Functions for the presets of an editable combo box. Their texts are parsed as numbers according
+/// to the description of its field.
 
-/// Returns the entry with this value, -1 if there is none.
+/// Returns the index of the entry with this value, or -1 if there is none.
 int presetAt(const QComboBox& combo, double value, const StructLineEdit& description);
 
-/// Returns the entry with the next greater or next smaller value; -1 if there is none.
+/// Returns the index of the entry with the next greater or next smaller value, or -1 if there is
+/// none.
 int presetBeside(const QComboBox& combo, double value, bool greater,
                  const StructLineEdit& description);
 
-/// Makes an entry current, or none for -1, without changing the text in the field.
+/// Makes an entry current without changing the text in the field. An index of -1 clears the
+/// selection.
 void markPreset(QComboBox* combo, int entry);

@@ -6,14 +6,14 @@ enum class VkdNumberState;
 struct StructLineEdit;
 struct VkdPlausibleRange;
 
-/// Returns the reason why a field refuses a text in one or two sentences; empty for an accepted
-/// text.
+/// Returns one or two sentences that explain why a field rejects a text. Returns an empty string if
+/// the text is accepted.
 QString refusalText(VkdNumberState state, const QString& text, const StructLineEdit& description);
 
-/// Returns the reason why a value is implausible; empty for a value within the range or not set.
-/// Values are compared in single precision, as in records.
+/// Returns the reason why a value is implausible. Returns an empty string if the value is not set
+/// or within the range. Values are compared in single precision, as in records.
 QString doubtText(double value, const VkdPlausibleRange& range, const StructLineEdit& description);
 
-/// Returns the sentence that names the value, given in base units, that remains while the text is
-/// refused.
+/// Returns a sentence with the value that the field keeps while its text is rejected. `value` is in
+/// base units.
 QString acceptedValueText(double value, const StructLineEdit& description);

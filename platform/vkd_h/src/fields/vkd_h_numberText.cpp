@@ -68,7 +68,8 @@ bool isNotSetText(const QString& text, const StructLineEdit& description)
     return text.isEmpty() || std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-/// Formats six significant digits and removes trailing zeros down to this many decimals.
+/// Formats the number with six significant digits, then removes trailing zeros but keeps at least
+/// this number of decimals.
 QString significantText(double shown, int decimals)
 {
     const int needed = SignificantDigits - 1 - int(std::floor(std::log10(std::fabs(shown))));
@@ -102,7 +103,7 @@ bool vkd_h_isNotSet(double value, const StructLineEdit& description)
 
 VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& description)
 {
-    const QString trimmed = text.trimmed(); // removes Unicode blanks too, such as no-break spaces
+    const QString trimmed = text.trimmed(); // also removes Unicode spaces such as no-break spaces
     if (isNotSetText(trimmed, description))
         return {emptyState(description), description.notSet};
     const QString plain = vkd_h_plainNumberText(trimmed, description);
@@ -114,7 +115,7 @@ VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& des
     }
     if (state != VkdNumberState::Accepted)
         return {state, description.notSet};
-    return {state, float(value) == 0 ? 0.0 : value}; // for "-0" and underflow, too
+    return {state, float(value) == 0 ? 0.0 : value}; // also for "-0" and underflow
 }
 
 QString vkd_h_plainNumberText(const QString& text, const StructLineEdit& description)

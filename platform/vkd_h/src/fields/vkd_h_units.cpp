@@ -60,7 +60,7 @@ QString vkd_h_getDimStringFromVal(double value, int code, int)
 }
 
 namespace {
-/// Returns the unit texts after a number, in the order of the table.
+/// Returns the unit texts that follow a number, in the order of the table.
 std::vector<QString> unitLabels()
 {
     std::vector<QString> labels;

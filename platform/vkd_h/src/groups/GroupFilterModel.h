@@ -7,7 +7,8 @@ namespace h {
 
 class GroupTableModel;
 
-/// A sorted proxy of the rows whose number, name or title contains a text, case-insensitively.
+/// A sorted proxy model of the rows whose number, name or title contains the filter text. The
+/// comparison is case-insensitive.
 class GroupFilterModel : public QSortFilterProxyModel
 {
 public:
@@ -15,7 +16,7 @@ public:
     GroupFilterModel(GroupTableModel* groups, QObject* parent);
 
     void setText(const QString& text);
-    /// Returns the shown rows as row numbers of the source model.
+    /// Returns the visible rows as row indexes of the source model.
     QVector<int> shownRows() const;
 
 protected:

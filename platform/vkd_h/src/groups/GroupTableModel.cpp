@@ -49,7 +49,7 @@ QVariant dimmed()
     return color;
 }
 
-/// Escapes the text, because a tool tip would treat angle brackets as markup.
+/// Escapes the text, because a tool tip would interpret angle brackets as markup.
 QString toolTip(const QString& text)
 {
     return text.isEmpty()
@@ -196,7 +196,8 @@ QString GroupTableModel::text(const GroupRow& row, int column) const
     }
 }
 
-/// Uses only values that do not change when rows are checked: rows must not move under the mouse.
+/// Uses only values that do not change when rows are checked, because rows must not move under the
+/// mouse pointer.
 QVariant GroupTableModel::sortValue(const GroupRow& row, int column) const
 {
     switch (column) {

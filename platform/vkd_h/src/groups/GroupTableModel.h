@@ -7,8 +7,8 @@
 namespace vkd {
 namespace h {
 
-/// The rows of a group dialog with their check boxes. A group of another row of the caller is
-/// dimmed until the user checks it, which takes it over.
+/// The rows of a group dialog with their check boxes. A group that belongs to another row of the
+/// caller is dimmed until the user checks it and thereby reassigns it.
 class GroupTableModel : public QAbstractTableModel
 {
 public:
@@ -21,13 +21,13 @@ public:
     std::vector<int> groups() const;
     std::vector<int> checkedGroups() const;
     void setChecked(const QVector<int>& rows, bool isChecked);
-    /// Returns the row of a group; the list must contain it.
+    /// Returns the row of a group, which must be in the list.
     int rowOf(int group) const;
-    /// Returns whether the remark column can contain a text.
+    /// Returns whether the remark column can contain text.
     bool hasRemarks() const;
     /// Returns the longest texts that the column can show, a few dozen at most.
     QStringList longestTexts(int column) const;
-    /// Updates the views after the translated texts changed.
+    /// Updates the views after the language has changed.
     void languageChanged();
 
     int rowCount(const QModelIndex& parent = {}) const override;

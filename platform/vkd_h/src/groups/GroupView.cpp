@@ -43,7 +43,8 @@ void GroupView::fitColumns(const GroupTableModel& groups)
     }
 }
 
-/// Measures only the longest texts; measuring thousands would take most of the opening time.
+/// Measures only the longest texts. Measuring thousands of texts would take most of the time needed
+/// to open the dialog.
 int GroupView::columnWidthFor(const GroupTableModel& groups, int column) const
 {
     const QFontMetrics metrics = fontMetrics();

@@ -7,8 +7,8 @@ namespace h {
 
 class GroupTableModel;
 
-/// The list of a group dialog. Its size hint fits the content within limits. An empty list shows a
-/// message in its middle.
+/// The list of a group dialog. Its size hint fits the contents within limits. An empty list shows a
+/// centred message.
 class GroupView : public QTreeView
 {
     Q_OBJECT
@@ -16,16 +16,16 @@ class GroupView : public QTreeView
 public:
     explicit GroupView(QWidget* parent);
 
-    /// Fits the columns to the texts of the source model.
+    /// Fits the column widths to the texts of the source model.
     void fitColumns(const GroupTableModel& groups);
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// Emitted for the space bar; `rows` are the first indexes of the selected rows and never
-    /// empty.
+    /// Emitted when the space bar is pressed. `rows` contains the first index of each selected row
+    /// and is never empty.
     void toggleRequested(const QModelIndexList& rows);
-    /// Emitted when the view got the focus, before the user can change the list.
+    /// Emitted when the view receives focus, before the user can change the list.
     void reached();
 
 protected:

@@ -80,8 +80,8 @@ int VKD_H_GroupDialog::getChecked(std::vector<int>& groups) const
     return 0;
 }
 
-/// Applies typed text even without Enter. If that produces a message, the dialog stays open once so
-/// that the user can read it.
+/// Applies typed text even if Enter was not pressed. If this produces a message, the dialog stays
+/// open until the next attempt so that the user can read it.
 void VKD_H_GroupDialog::accept()
 {
     if (hasInput()) {
@@ -126,7 +126,7 @@ void VKD_H_GroupDialog::keyPressEvent(QKeyEvent* event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && m_input && m_input->hasFocus())
         applyInput();
-    else if (!isEnter || !m_filter || !m_filter->hasFocus()) // the filter is applied already
+    else if (!isEnter || !m_filter || !m_filter->hasFocus()) // the filter is already applied
         VKD_QT_Dialog::keyPressEvent(event);
 }
 
@@ -144,7 +144,7 @@ void VKD_H_GroupDialog::changeEvent(QEvent* event)
         return;
     m_groups->languageChanged();
     setTexts();
-    showMessage(QString()); // Check and OK show it again if necessary
+    showMessage(QString()); // Check and OK show the message again if necessary
 }
 
 void VKD_H_GroupDialog::addFilterLine(QVBoxLayout* layout)
@@ -173,7 +173,7 @@ void VKD_H_GroupDialog::addList(QVBoxLayout* layout)
     m_view = new GroupView(this);
     m_view->setObjectName(QStringLiteral("groups"));
     m_view->setModel(m_shown);
-    m_view->setSortingEnabled(true); // first, because sort indicators need room in the header
+    m_view->setSortingEnabled(true); // must be first: sort indicators need room in the header
     m_view->sortByColumn(GroupTableModel::Group, Qt::AscendingOrder);
     const std::vector<int> checked = m_groups->checkedGroups();
     const int first = checked.empty() ? 0 : m_groups->rowOf(checked.front());
@@ -200,7 +200,7 @@ void VKD_H_GroupDialog::addInputLine(QVBoxLayout* layout)
     m_check = addButton(line, "check");
     layout->addLayout(line);
     m_message = new VKD_QT_Label(this, "message");
-    m_message->setTextFormat(Qt::PlainText); // it contains the user's text
+    m_message->setTextFormat(Qt::PlainText); // the message contains user input
     m_message->setWordWrap(true);
     m_message->hide();
     layout->addWidget(m_message);
@@ -230,7 +230,7 @@ void VKD_H_GroupDialog::addFoot(QVBoxLayout* layout)
 QPushButton* VKD_H_GroupDialog::addButton(QHBoxLayout* line, const char* name)
 {
     auto button = new VKD_QT_PushButton(QString(), this, name);
-    button->setAutoDefault(false); // Enter is OK
+    button->setAutoDefault(false); // Enter triggers OK
     line->addWidget(button);
     return button;
 }
@@ -281,7 +281,7 @@ bool VKD_H_GroupDialog::applyInput()
     m_groups->setChecked(rows, true);
     const QStringList refused = input.unreadable + input.missing;
     showMessage(vkd::h::inputText(input, withoutAreas));
-    m_input->setText(refused.join(QLatin1Char(' '))); // checked groups are removed from the field
+    m_input->setText(refused.join(QLatin1Char(' '))); // removes the groups that are now checked
     m_input->selectAll();
     return refused.isEmpty();
 }

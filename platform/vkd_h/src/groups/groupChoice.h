@@ -7,14 +7,14 @@
 namespace vkd {
 namespace h {
 
-/// Returns whether a number of a list is a group of this kind; lists contain both kinds.
+/// Returns whether an entry of a list is a group of this kind. Lists contain groups of both kinds.
 bool isOfKind(VKD_H_GroupKind kind, int group);
 
 /// Returns the groups of the other kind, which the dialog does not show and OK may replace, in
-/// ascending order without duplicates. The -1 of the remaining groups is not included.
+/// ascending order without duplicates. The value -1 for the remaining groups is not included.
 std::vector<int> groupsNotShown(VKD_H_GroupKind kind, const std::vector<int>& opened);
 
-/// Returns whether the checked groups differ from the initial ones. `checked` must be ascending.
+/// Returns whether the checked groups differ from the initial groups. `checked` must be ascending.
 bool isOtherChoice(VKD_H_GroupKind kind, const std::vector<int>& opened,
                    const std::vector<int>& checked);
 

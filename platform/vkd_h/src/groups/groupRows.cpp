@@ -33,7 +33,7 @@ GroupRow toRow(VKD_H_GroupKind kind, const GroupSummary& summary)
     return row;
 }
 
-using RowsByGroup = std::map<int, GroupRow>; // without duplicates, even if a group was stored twice
+using RowsByGroup = std::map<int, GroupRow>; // no duplicates, even if a group is stored twice
 
 RowsByGroup modelRows(VKD_H_GroupKind kind, ZobHandle project)
 {

@@ -16,18 +16,18 @@ namespace h {
 struct GroupRow
 {
     int group = 0; ///< number or packed name
-    QString name;  ///< the number or name as shown
+    QString name;  ///< number or name as displayed
     QString title;
     QString contents;
     int elements = 0;
     bool isInModel = true;
-    bool hasAreas = true; ///< true for a group that the model lacks
+    bool hasAreas = true; ///< also true for a group missing from the model
     bool isTaken = false; ///< belongs to another row of the caller
     bool isChecked = false;
 };
 
-/// Returns the groups of one kind in the project, if the handle is not null, plus checked groups
-/// that the model lacks, sorted by `group`.
+/// Returns the groups of one kind, sorted by `group`: all groups of the project, if the handle is
+/// not null, plus checked groups that do not exist in the model.
 QVector<GroupRow> groupRows(VKD_H_GroupKind kind, ZobHandle project,
                             const std::vector<int>& checked, const std::vector<int>& usedElsewhere);
 

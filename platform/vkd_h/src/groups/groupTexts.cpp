@@ -17,7 +17,7 @@ struct DialogText
     Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)
 };
 
-/// Lists the first few parts of the input; a pasted text may be long.
+/// Lists only the first few parts of the input, because pasted text may be long.
 QString listed(const QStringList& parts)
 {
     constexpr int Most = 5;

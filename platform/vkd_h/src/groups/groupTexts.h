@@ -6,18 +6,18 @@
 namespace vkd {
 namespace h {
 
-/// Texts of a group dialog in the desktop's language.
+/// Messages of a group dialog in the desktop language.
 
-/// Returns the message about a typed text and its groups without area elements; empty if there is
-/// nothing to report. The message is plain text, because it contains the user's text.
+/// Returns the message about the user's input and its groups without area elements, or an empty
+/// string if there is nothing to report. The message is plain text, because it contains user input.
 QString inputText(const GroupInput& input, const std::vector<int>& withoutAreas);
 
-/// Returns the text with the number of checked groups, and of those that are taken over, have no
-/// area elements or are hidden. `shown` are the rows that pass the filter.
+/// Returns a message with the number of checked groups and the number of checked groups that are
+/// reassigned, have no area elements or are hidden. `shown` contains the rows that pass the filter.
 QString countText(const QVector<GroupRow>& rows, const QVector<int>& shown);
 
-/// Returns the text about the groups of the list that the dialog does not show and the effect of OK
-/// on them; empty if there are none.
+/// Returns a message about the groups of the list that the dialog does not show and the effect of
+/// OK on them. Returns an empty string if there are no such groups.
 QString notShownText(VKD_H_GroupKind kind, const std::vector<int>& opened,
                      const std::vector<int>& checked);
 

@@ -7,7 +7,7 @@
 namespace vkd {
 namespace h {
 
-/// Returns the name in a packed number, with "?" for unprintable characters.
+/// Returns the name encoded in a packed number, with "?" for each unprintable character.
 VKD_H_EXPORT QString shownName(int packed);
 
 } // namespace h

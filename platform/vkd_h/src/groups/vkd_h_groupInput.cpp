@@ -14,8 +14,8 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// Flags for the existing groups. A list of groups could grow very long, because the user may
-/// repeat a range thousands of times.
+/// A set of flags, one for each existing group. A list of groups could become very long, because
+/// the user may repeat a range thousands of times.
 class Marks
 {
 public:
@@ -55,7 +55,7 @@ QStringList parts(const QString& text)
     return text.split(separator, Qt::SkipEmptyParts);
 }
 
-/// Replaces the dashes of copied texts by hyphens and removes the blanks around them.
+/// Replaces dashes in pasted text with hyphens and removes the spaces around them.
 QString withPlainRanges(const QString& text)
 {
     static const QRegularExpression dash(QStringLiteral("[\\x{2010}-\\x{2015}\\x{2212}]"));
@@ -66,7 +66,8 @@ QString withPlainRanges(const QString& text)
     return plain;
 }
 
-/// Converts digits to a number. Overflow gives the maximum, which is above every group.
+/// Converts digits to a number. On overflow, returns the maximum, which is greater than any group
+/// number.
 qint64 number(const QString& digits)
 {
     bool isFitting = false;

@@ -34,8 +34,8 @@ bool isEndOfTyping(const QEvent* event)
     }
 }
 
-/// A combo box for a cell. A choice from the open list is committed at once; keys on the closed
-/// list only browse.
+/// A combo box for a cell. A choice from the open list is committed immediately. Keys pressed while
+/// the list is closed only change the current entry.
 class CellCombo : public VKD_QT4_ComboBox
 {
 public:
@@ -93,11 +93,11 @@ bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
         if (cell.isValid() && cell == m_table->currentIndex() && !m_table->indexWidget(cell))
             m_table->edit(cell);
     };
-    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection); // the view still uses the event
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection); // the view still handles the event
     return true;
 }
 
-/// Shows the whole text of a cell that is too small for it.
+/// Shows the full text of a cell in a tool tip if the cell is too small for it.
 bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                              const QStyleOptionViewItem& option, const QModelIndex& index)
 {
@@ -111,15 +111,15 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     return true;
 }
 
-/// Keeps the editor open while its number is refused, so that the user sees the reason; Escape
-/// closes it.
+/// Keeps the editor open while its number is rejected, so that the user sees the reason. Escape
+/// closes the editor.
 bool CellDelegate::eventFilter(QObject* editor, QEvent* event)
 {
     const auto field = qobject_cast<VKD_H_LineEdit*>(editor);
     if (!field || field->refusal().isEmpty())
         return QStyledItemDelegate::eventFilter(editor, event);
     if (event->type() == QEvent::FocusOut)
-        return false; // the field shows the reason; the view would close it
+        return false; // the field shows the reason; the view would close the field
     if (!isEndOfTyping(event))
         return QStyledItemDelegate::eventFilter(editor, event);
     field->showRefusal();
@@ -160,7 +160,7 @@ QWidget* CellDelegate::newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxIte
     return combo;
 }
 
-/// An editor also covers the icon of its cell, since there is little room beside it.
+/// An editor also covers the icon of its cell, because there is little room next to the icon.
 void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex& index) const
 {

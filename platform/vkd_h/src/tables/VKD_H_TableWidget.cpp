@@ -27,7 +27,7 @@ VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, con
     connect(model(), &QAbstractItemModel::modelReset, this, changed);
 }
 
-/// The model outlives this subobject and is reset while the base class is destroyed.
+/// The model outlives this subobject and is reset during destruction of the base class.
 VKD_H_TableWidget::~VKD_H_TableWidget()
 {
     model()->disconnect(this);
@@ -81,8 +81,8 @@ void VKD_H_TableWidget::createEmptyItems(int row)
             setItem(row, column, header->createEmptyItem());
 }
 
-/// Moves the remaining rows up and removes the end at once; removing single rows takes quadratic
-/// time.
+/// Moves the remaining rows up and removes all rows at the end in one call. Removing rows one by
+/// one takes quadratic time.
 void VKD_H_TableWidget::deleteSelectedRows()
 {
     const std::set<int> rows = getSelectetRows();
@@ -155,7 +155,7 @@ VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
     return m_menu;
 }
 
-/// Returns the shown text, which may be that of a widget over the cell.
+/// Returns the displayed text, which may be the text of a widget over the cell.
 QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
 {
     const QWidget* widget = indexWidget(cell);
@@ -169,7 +169,7 @@ bool VKD_H_TableWidget::edit(const QModelIndex& index, EditTrigger trigger, QEve
 {
     if (trigger == CurrentChanged)
         return false; // arrow keys move past widgets over cells
-    // A letter must not choose an entry that begins with it.
+    // Typing a letter must not select an entry that begins with this letter.
     const bool isChoice =
         dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(item(index.row(), index.column()));
     return !(isChoice && trigger == AnyKeyPressed) &&
@@ -206,8 +206,8 @@ void VKD_H_TableWidget::keyPressEvent(QKeyEvent* event)
         VKD_QT_TableWidget::keyPressEvent(event);
 }
 
-/// Closes a widget over a cell by changing the selection. The focus returns to the table first, so
-/// that the page does not take this for input in the widget.
+/// Closes a widget over a cell by changing the selection. The focus returns to the table first so
+/// that the page does not interpret the change as input in the widget.
 void VKD_H_TableWidget::closeCell(const QWidget* widget)
 {
     setFocus();
@@ -231,16 +231,16 @@ const QWidget* VKD_H_TableWidget::widgetOverACell() const
     return nullptr;
 }
 
-/// Opens the current cell. Enter must not reach the dialog around the table, whose OK it would
-/// press. Pages that place widgets over cells interpret another itemSelectionChanged() as a request
-/// for one.
+/// Opens the current cell. Enter must not reach the dialog around the table, because it would
+/// trigger OK. Pages that place widgets over cells interpret another itemSelectionChanged() as a
+/// request to open such a widget.
 void VKD_H_TableWidget::openCell()
 {
     const QModelIndex cell = currentIndex();
     if (!cell.isValid() || stepInto(indexWidget(cell)))
         return;
     if (cell.flags() & Qt::ItemIsEditable)
-        edit(cell, EditKeyPressed, nullptr); // does nothing if an editor is open
+        edit(cell, EditKeyPressed, nullptr); // has no effect if an editor is open
     else
         Q_EMIT itemSelectionChanged();
     stepInto(indexWidget(currentIndex()));

@@ -50,7 +50,7 @@ QPushButton* VKD_H_TableWidgetBox::getButton(Buttons button) const
 void VKD_H_TableWidgetBox::addWidget(QWidget* widget)
 {
     if (auto button = qobject_cast<QPushButton*>(widget))
-        button->setAutoDefault(false); // Enter in the table must not press it
+        button->setAutoDefault(false); // Enter in the table must not click the button
     m_row->insertWidget(m_left++, widget);
 }
 

@@ -33,8 +33,8 @@ public:
     bool isAway() const;
     /// Returns whether a journal exists beside the path.
     bool hasJournal() const;
-    /// Sets whether statements wait while another program holds the lock, no longer than the
-    /// deadline in setting 201. By default, they wait.
+    /// Sets whether statements wait for another program's lock. The default is true. The deadline
+    /// is setting 201.
     void setWaiting(bool waits);
 
     VkdStatus execute(const char* sql, ZobAction action);
