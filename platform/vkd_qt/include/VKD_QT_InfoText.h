@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-/// A word-wrapped note to the user, with the information icon if `withSign` is true.
+/// A word-wrapped note to the user, preceded by the information icon if `withSign` is true.
 class VKD_QT_EXPORT VKD_QT_InfoText : public QWidget
 {
     Q_OBJECT

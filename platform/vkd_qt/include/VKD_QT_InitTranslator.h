@@ -8,19 +8,21 @@
 class QTranslator;
 
 /// Installs the translations of one module in every application that runs during the lifetime of
-/// the object. It is meant for a global object in the module's library and may be constructed
-/// before the application and destroyed after it. The language is setting 102 at the start of the
-/// application. English is the language of the source texts and needs no file. German is loaded
-/// from the resource ":/translations/<module>_de.qm", or else from a file of that name in Qt's
-/// translations folder; without both, the source texts remain. Use it in the GUI thread only.
+/// the object. The class is intended for a global object in the module's library. The object may be
+/// constructed before the application and destroyed after it. The language is the value of setting
+/// 102 when the application starts. English is the language of the source texts and needs no file.
+/// German is loaded from the resource ":/translations/<module>_de.qm" or from a file with the same
+/// name in Qt's translations folder. If neither exists, the source texts are used. The class may be
+/// used only in the GUI thread.
 class VKD_QT_EXPORT VKD_QT_InitTranslator
 {
 public:
     explicit VKD_QT_InitTranslator(const char* module);
     ~VKD_QT_InitTranslator();
 
-    /// Reloads the translations; call this after a change of setting 102 while an application runs.
-    /// All objects change to the new language, and widgets receive QEvent::LanguageChange.
+    /// Reloads the translations of all objects in the new language; widgets receive
+    /// QEvent::LanguageChange. Call this after setting 102 has changed while an application is
+    /// running.
     static void languageChanged();
 
 private:

@@ -7,21 +7,23 @@
 
 class QWidget;
 
-/// The interface of an input field that can refuse a typed text. Dialogs find such fields in any
-/// library, because each class lists the interface in Q_INTERFACES.
+/// The interface of an input field that can reject typed text. Dialogs can find such fields even if
+/// their classes are defined in other libraries, because each class lists the interface in
+/// Q_INTERFACES.
 class VKD_QT_InputField
 {
 public:
     virtual ~VKD_QT_InputField() = default;
 
-    /// Returns why the current text is refused, in the desktop's language; empty if it is accepted.
+    /// Returns the reason why the current text is rejected, in the desktop language, or an empty
+    /// string if the text is accepted.
     virtual QString refusal() const = 0;
-    /// Takes the focus and shows why the text is refused.
+    /// Moves the focus to the field and shows the reason why its text is rejected.
     virtual void showRefusal() = 0;
 };
 Q_DECLARE_INTERFACE(VKD_QT_InputField, "vkd.qt.InputField")
 
-/// Finds the first field on `page` that refuses its text, selects its tab, focuses it and shows the
-/// reason. Returns the field, or null if there is none. Disabled fields are skipped, and so are
-/// hidden ones, except on other tabs.
+/// Finds the first field on `page` that rejects its text, selects the field's tab, moves the focus
+/// to the field and shows the reason. Returns the field, or null if there is none. Skips fields
+/// that are disabled or hidden, except fields that are hidden only because another tab is selected.
 VKD_QT_EXPORT QWidget* vkd_qt_leadToRefusedField(QWidget* page);

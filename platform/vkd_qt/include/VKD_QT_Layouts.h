@@ -17,8 +17,8 @@ public:
     }
 };
 
-/// Qt's box layouts have separate constructors with and without a parent; these accept null for
-/// none.
+/// Qt's box layouts have separate constructors with and without a parent. The constructors of these
+/// classes accept a null parent.
 using VKD_QT_VBoxLayout = VKD_QT_Layout<QVBoxLayout>;
 using VKD_QT_HBoxLayout = VKD_QT_Layout<QHBoxLayout>;
 using VKD_QT_GridLayout = VKD_QT_Layout<QGridLayout>;

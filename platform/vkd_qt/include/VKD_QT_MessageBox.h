@@ -4,22 +4,22 @@
 
 #include <QMessageBox>
 
-/// Modal message boxes. If the user presses Escape or closes the window, no button counts as
-/// pressed; each function documents its result in this case.
+/// Modal message boxes. If the user presses Escape or closes the window, no button is considered
+/// clicked. Each function documents its result in this case.
 class VKD_QT_EXPORT VKD_QT_MessageBox : public QMessageBox
 {
     Q_OBJECT
 
 public:
-    /// Shows a warning with up to three of QMessageBox's buttons, 0 for none, and returns the
-    /// pressed one. If the user closed the box otherwise, returns Cancel, else No, and 0 if it has
-    /// neither.
+    /// Shows a warning with up to three of QMessageBox's buttons, where 0 means no button, and
+    /// returns the clicked button. If the user did not click a button, returns Cancel if the box
+    /// has this button, otherwise No if the box has that button, otherwise 0.
     static int warning(QWidget* parent, const QString& title, const QString& text, int button0,
                        int button1, int button2);
 
-    /// Shows a warning with buttons of these texts, or with an OK button if all texts are empty.
-    /// `defaultButton` is the number of the button that Enter presses. Returns the number of the
-    /// pressed button, or `escapeButton` if the user closed the box otherwise.
+    /// Shows a warning whose buttons have these texts, or a single OK button if all texts are
+    /// empty. `defaultButton` is the index of the button that Enter triggers. Returns the index of
+    /// the clicked button, or `escapeButton` if the user did not click a button.
     static int warning(QWidget* parent, const QString& title, const QString& text,
                        const QString& button0 = QString(), const QString& button1 = QString(),
                        const QString& button2 = QString(), int defaultButton = 0,

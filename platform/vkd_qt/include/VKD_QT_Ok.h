@@ -7,14 +7,14 @@
 class QDialogButtonBox;
 class QPushButton;
 
-/// The row of buttons at the bottom of a dialog, in the desktop's language and order. The caller
-/// connects the buttons.
+/// The row of buttons at the bottom of a dialog, with the language and button order of the desktop.
+/// The caller connects the buttons.
 class VKD_QT_EXPORT VKD_QT_Ok : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `buttons` is a sum of 1 for OK and 2 for Cancel.
+    /// `buttons` is the sum of 1 for OK and 2 for Cancel.
     VKD_QT_Ok(QWidget* parent, int buttons, const char* name);
 
     /// Return null if the button was not requested.

@@ -2,7 +2,7 @@
 
 #include <QSignalBlocker>
 
-/// Blocks the signals of an object, which may be null, until it is destroyed.
+/// Blocks the signals of an object, which may be null, until the blocker is destroyed.
 class VKD_QT_SignalBlocker : public QSignalBlocker
 {
 public:

@@ -6,7 +6,8 @@
 
 #include <set>
 
-/// A QTableWidget that reports its selection by row. A row is selected if one of its cells is.
+/// A QTableWidget that reports its selection by row. A row is selected if at least one of its cells
+/// is selected.
 class VKD_QT_EXPORT VKD_QT_TableWidget : public QTableWidget
 {
     Q_OBJECT

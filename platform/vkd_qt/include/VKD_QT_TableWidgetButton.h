@@ -9,8 +9,8 @@ class QStyleOptionButton;
 class QStylePainter;
 class QTableWidgetItem;
 
-/// A button over a cell of a table. It always shows the current text of the cell, with a mark that
-/// shows that a click opens something. A text that is too long is elided and shown in a tool tip.
+/// A button over a cell of a table. It always shows the current text of the cell and a mark that
+/// indicates that a click opens a dialog. Text that is too long is elided and shown in a tool tip.
 class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
 public:
     enum ButtonModus {
         MarkBeside = 0,      ///< mark to the right of the text, if there is room
-        MarkOnly = 1,        ///< without text
+        MarkOnly = 1,        ///< mark without text
         MarkInTheCorner = 2, ///< the text has the full width, for narrow columns
     };
 

@@ -7,8 +7,8 @@
 
 class VKD_QT_Menu;
 
-/// A QTreeWidget whose check boxes can update each other. Items without a check box are skipped and
-/// get none: their children count as children of the item above. Do not combine it with
+/// A QTreeWidget whose check boxes can update each other. Items without a check box are skipped:
+/// their children are treated as children of the item above. Do not combine this class with
 /// Qt::ItemIsAutoTristate.
 class VKD_QT_EXPORT VKD_QT_TreeWidget : public QTreeWidget
 {
@@ -17,23 +17,24 @@ class VKD_QT_EXPORT VKD_QT_TreeWidget : public QTreeWidget
 public:
     explicit VKD_QT_TreeWidget(QWidget* parent = nullptr, const char* name = nullptr);
 
-    /// Switches the automatic update on or off; it is off at first. While it is on, a change of a
-    /// check state, by the user or by setCheckState(), is copied to all check boxes below the item.
-    /// Each item above becomes Checked if all its children are, Unchecked if none is, and
-    /// PartiallyChecked otherwise. PartiallyChecked is propagated upwards only; set on a parent, it
-    /// remains until the next change below it. Neither switching on nor adding or removing items
-    /// changes a state. Columns are independent.
+    /// Enables or disables the automatic update, which is initially disabled. While it is enabled,
+    /// a change to a check state, by the user or by setCheckState(), is copied to all check boxes
+    /// below the item. Each item above becomes Checked if all its children are Checked, Unchecked
+    /// if all are Unchecked, and PartiallyChecked otherwise. PartiallyChecked is propagated only
+    /// upwards. If it is set on a parent, it remains until the next change below the parent.
+    /// Enabling the update, adding items and removing items do not change any state. Columns are
+    /// independent.
     void setAutomaticCheckStateUpdate(bool on);
 
-    /// Makes the only column as wide as the widest text that was visible since the tree was filled,
-    /// or as the tree if that is wider, so that a narrow tree can be scrolled horizontally. The
-    /// column does not shrink again, because its scroll bar would then appear and disappear
-    /// endlessly.
+    /// Makes the only column as wide as the widest text that has been visible since the tree was
+    /// filled, so that a narrow tree can be scrolled horizontally. If the tree is wider, the column
+    /// is as wide as the tree. The column never shrinks, because otherwise its scroll bar could
+    /// appear and disappear endlessly.
     void setColumnFitsTexts();
 
-    /// Adds the action that expands or collapses all branches to the menu. The menu owns the action
-    /// and must not outlive the tree. Collapsing makes the visible ancestor of the current item
-    /// current.
+    /// Adds an action to the menu that expands or collapses all branches. The menu owns the action
+    /// and must not outlive the tree. After collapsing, the visible ancestor of the current item
+    /// becomes the current item.
     QAction* addExpandAll(VKD_QT_Menu* menu);
     QAction* addCollapseAll(VKD_QT_Menu* menu);
 
@@ -42,9 +43,10 @@ public:
     void reset() override;
 
 Q_SIGNALS:
-    /// Emitted once for each step of the automatic update, however many states it changed.
-    /// itemChanged() is emitted just before, only for the item that caused the step; all states are
-    /// updated by then. Other observers of the model are notified about that item only.
+    /// Emitted once after each automatic update, regardless of how many states have changed.
+    /// itemChanged() is emitted before this signal, but only for the item that caused the update.
+    /// At that time all states are already updated. Other observers of the model are notified only
+    /// about that item.
     void checkStatesChanged();
 
 protected:

@@ -4,6 +4,7 @@
 
 #include <QString>
 
-/// Returns the name of a picture for a language, 0 German or 1 English: with "_0" or "_1" before
-/// the extension if the resources contain such a file, or else the name itself.
+/// Returns the file name of an image for a language, 0 for German or 1 for English. The result has
+/// "_0" or "_1" before the extension if the resources contain such a file. Otherwise the result is
+/// `name`.
 VKD_QT_EXPORT QString vkd_qt_getFileNameWithLang(const QString& name, int language);

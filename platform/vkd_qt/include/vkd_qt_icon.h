@@ -4,6 +4,7 @@
 
 #include <QIcon>
 
-/// Returns a numbered icon of the suite: 2125 groups, 2126 secondary groups. Any other number gives
-/// a null icon. The icon is scalable; `size` is the intended side length in pixels.
+/// Returns one of the suite's numbered icons: 2125 for groups, 2126 for secondary groups. Returns a
+/// null icon for any other number. The icon is scalable; `size` is the intended side length in
+/// pixels.
 VKD_QT_EXPORT QIcon vkd_qt_icon(int number, int size);

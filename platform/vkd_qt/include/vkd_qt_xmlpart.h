@@ -4,13 +4,13 @@
 
 #include <QString>
 
-/// Returns a text as one part "<tag>text</tag>"; parts are saved in one string without separators.
-/// The text may contain any UTF-16 units and is restored exactly, except that a null text becomes
-/// an empty one. The tag consists of letters, digits and underscores.
+/// Returns a tagged string "<tag>value</tag>". Several tagged strings can be concatenated without
+/// separators. The value may contain any UTF-16 code units and is restored exactly, except that a
+/// null string becomes an empty string. The tag must consist of letters, digits and underscores.
 VKD_QT_EXPORT QString vkd_qt_writeXMLpart(const QString& value, const QString& tag);
 
-/// Returns the text of the first part with this tag at or after `from`; null if there is none,
-/// otherwise never null. Unclosed parts are skipped. If a part was found, `next`, unless null, is
-/// set to the position after it.
+/// Returns the value of the first tagged string with this tag at or after `from`, or a null string
+/// if there is none. A value that was found is never null. Tags that are not closed are skipped. If
+/// a value was found and `next` is not null, `*next` is set to the position after the closing tag.
 VKD_QT_EXPORT QString vkd_qt_readXMLpart(const QString& xml, int from, const QString& tag,
                                          int* next = nullptr);

@@ -16,7 +16,7 @@ VKD_QT4_ComboBox::VKD_QT4_ComboBox(QWidget* parent, const char* name)
     : QComboBox(parent)
 {
     setObjectName(QLatin1String(name));
-    setFocusPolicy(Qt::StrongFocus); // Qt's default also takes the focus on wheel events
+    setFocusPolicy(Qt::StrongFocus); // Qt's default also accepts focus on wheel events
 }
 
 void VKD_QT4_ComboBox::addItem(const QPixmap& picture, const QString& text, int id)

@@ -4,7 +4,7 @@
 #include <QStylePainter>
 
 namespace {
-constexpr int FrameMargin = 3;         // pixels between the contents and their frame
+constexpr int FrameMargin = 3;         // pixels between the contents and the frame
 constexpr double FrameStrength = 0.25; // opacity of the text colour
 
 QColor frameColour(const QPalette& palette)
@@ -15,11 +15,11 @@ QColor frameColour(const QPalette& palette)
 }
 } // namespace
 
-/// Paints the frame itself, because some styles stretch a picture over the whole box. With nested
-/// boxes, this took a third of the painting time of a page of settings.
+/// Paints the frame directly, because some styles stretch an image over the whole box. With nested
+/// boxes, the image took a third of the time to paint a page of settings.
 ///
-/// Styles give a title the width of its ink, which is less than its letters need, so that the last
-/// letter of a long title is cut off. A trailing blank has no ink and widens the title.
+/// Styles reserve only the ink width of the title, which is less than its advance width, so that
+/// the last letter of a long title is cut off. A trailing space widens the reserved area.
 void VKD_QT_GroupBox::paintEvent(QPaintEvent*)
 {
     QStyleOptionGroupBox option;

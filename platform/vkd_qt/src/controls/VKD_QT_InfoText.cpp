@@ -26,11 +26,11 @@ VKD_QT_InfoText::VKD_QT_InfoText(bool withSign, const QString& text, QWidget* pa
     layout->addWidget(note, 1);
 }
 
-/// Sets the minimum height, because a grid layout gives a note that spans several columns too
-/// little height for its lines.
+/// Sets the minimum height, because a grid layout gives too little height to a note that spans
+/// several columns.
 void VKD_QT_InfoText::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     setMinimumHeight(heightForWidth(event->size().width()));
-    layout()->setGeometry(rect()); // rect() may have grown meanwhile
+    layout()->setGeometry(rect()); // rect() may have grown since the event
 }

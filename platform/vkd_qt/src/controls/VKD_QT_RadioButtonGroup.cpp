@@ -11,7 +11,7 @@
 #include <utility>
 
 namespace {
-/// Returns whether a key writes, deletes or moves the cursor within a widget.
+/// Returns whether a key inserts text, deletes text or moves the cursor in a widget.
 bool isInput(int key)
 {
     constexpr int Passing[] = {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return,
@@ -32,12 +32,12 @@ bool isUse(const QWidget& widget, QEvent* event)
     }
 }
 
-/// Deletes a widget later, because its own event may have caused the deletion.
+/// Schedules the deletion of a widget, because one of its own events may have caused the deletion.
 void dismiss(QWidget* widget)
 {
     if (!widget)
         return;
-    widget->setObjectName(QString()); // its successor may have the same name
+    widget->setObjectName(QString()); // its replacement may have the same name
     widget->hide();
     widget->deleteLater();
 }
@@ -182,7 +182,7 @@ void VKD_QT_RadioButtonGroup::arrange()
         put(m_widgets[entry], place + QPoint(1, 0), 1);
         foot = {qMax(foot.x(), place.x() + 2), qMax(foot.y(), place.y() + 1)};
     }
-    // The remaining room is at the right and at the bottom.
+    // The remaining space is on the right and at the bottom.
     m_grid->setColumnStretch(foot.x(), 1);
     m_grid->setRowStretch(foot.y(), 1);
     chainTabs();
@@ -215,8 +215,8 @@ void VKD_QT_RadioButtonGroup::chainTabs()
     setTabStop();
 }
 
-/// Restricts the Tab key to the checked button. Qt does this only when a button gets the focus, so
-/// that the first Tab would lead to button 0.
+/// Lets the Tab key stop only at the checked button. Qt does this only when a button receives
+/// focus, so the first Tab would move to button 0.
 void VKD_QT_RadioButtonGroup::setTabStop()
 {
     const QAbstractButton* chosen = m_buttons->checkedButton();

@@ -22,7 +22,7 @@ bool PageTabs::eventFilter(QObject* watched, QEvent* event)
     return leadsElsewhere(event) && isHeld();
 }
 
-/// Handles Ctrl+Tab, which arrives from the page.
+/// Handles Ctrl+Tab, which the page propagates to its parent.
 void PageTabs::keyPressEvent(QKeyEvent* event)
 {
     const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;

@@ -2,8 +2,8 @@
 
 #include <QTabWidget>
 
-/// The tab widget of a dialog. The wheel does not change the page, and the user cannot leave a page
-/// while one of its fields refuses its text; setCurrentIndex() still works.
+/// The tab widget of a dialog. The mouse wheel does not change the page. The user cannot leave a
+/// page while one of its fields rejects its text, but setCurrentIndex() still works.
 class PageTabs : public QTabWidget
 {
 public:

@@ -32,7 +32,7 @@ void VKD_QT_Dialog::done(int result)
     QDialog::done(result);
 }
 
-/// Shows focus frames at once if the parent window shows them, for keyboard users.
+/// Shows focus frames immediately if the parent window shows them, to help keyboard users.
 void VKD_QT_Dialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);

@@ -3,7 +3,7 @@
 #include <QTabWidget>
 
 namespace {
-/// Returns the tab widget that the widget is a page of, or null.
+/// Returns the tab widget that contains the widget as a page, or null.
 QTabWidget* tabsOf(const QWidget* widget)
 {
     const QWidget* stack = widget->parentWidget();
@@ -11,8 +11,8 @@ QTabWidget* tabsOf(const QWidget* widget)
     return tabs && tabs->indexOf(const_cast<QWidget*>(widget)) >= 0 ? tabs : nullptr;
 }
 
-/// Returns whether the widget was hidden explicitly. Widgets on a tab that was never opened are
-/// hidden too, but not explicitly.
+/// Returns whether the widget was hidden explicitly. Widgets on a tab that has never been selected
+/// are also hidden, but not explicitly.
 bool isTakenAway(const QWidget* widget)
 {
     return widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);

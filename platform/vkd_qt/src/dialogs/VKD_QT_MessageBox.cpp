@@ -45,7 +45,7 @@ int VKD_QT_MessageBox::critical(QWidget* parent, const QString& title, const QSt
 void VKD_QT_MessageBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Cancel))
-        close(); // Qt would press a button of its choice
+        close(); // Qt would choose and click a button
     else
         QMessageBox::keyPressEvent(event);
 }

@@ -39,8 +39,8 @@ void VKD_QT_TabDialog::showEvent(QShowEvent* event)
     tellPage();
 }
 
-/// Moves the buttons to the end of the tab order; pages are created after them. The chain also
-/// contains the lists of combo boxes, which have their own windows.
+/// Moves the buttons to the end of the tab order, because pages are created after the buttons. The
+/// focus chain also contains the lists of combo boxes, which have their own windows.
 void VKD_QT_TabDialog::chainButtons()
 {
     QWidget* last = m_tabs;
@@ -54,7 +54,7 @@ void VKD_QT_TabDialog::chainButtons()
     }
 }
 
-/// Focuses the first field of the page; otherwise the focus would start at the default button.
+/// Moves the focus to the first field of the page. Otherwise the default button would have focus.
 void VKD_QT_TabDialog::enterPage()
 {
     const QWidget* page = m_tabs->currentWidget();

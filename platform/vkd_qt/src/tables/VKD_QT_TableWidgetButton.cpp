@@ -57,7 +57,7 @@ VKD_QT_TableWidgetButton::VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetI
 void VKD_QT_TableWidgetButton::takeName()
 {
     if (!m_index.isValid())
-        return; // the cell was deleted before its button
+        return; // the item was deleted before its button
     const QVariant header = m_index.model()->headerData(m_index.column(), Qt::Horizontal);
     setAccessibleName(header.toString() + QLatin1String(": ") + itemText());
 }
@@ -83,7 +83,7 @@ void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
     const QRect inner = rect().adjusted(Margin, 0, -Margin, 0);
     const QRect beside = inner.adjusted(0, 0, -MarkWidth, 0);
-    if (m_modus != MarkOnly) // a text that needs the room may cover the mark
+    if (m_modus != MarkOnly) // long text may cover the mark
         paintText(&painter, option, m_modus == MarkBeside && fits(beside) ? beside : inner);
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
@@ -101,8 +101,8 @@ bool VKD_QT_TableWidgetButton::fits(const QRect& area) const
     return needed.height() <= area.height() && needed.width() <= area.width();
 }
 
-/// Wraps the text like the cell does. If there is not enough room, keeps the text's own lines and
-/// elides them.
+/// Wraps the text in the same way as the cell. If there is not enough space, keeps only the text's
+/// own line breaks and elides each line.
 void VKD_QT_TableWidgetButton::paintText(QStylePainter* painter, const QStyleOptionButton& option,
                                          const QRect& area) const
 {

@@ -7,8 +7,8 @@
 #include <algorithm>
 
 namespace {
-/// Returns the text of a cell for a spreadsheet, quoted if it contains a tab, a line end or a
-/// quote.
+/// Returns the text of a cell for a spreadsheet, quoted if it contains a tab, a newline or a
+/// quotation mark.
 QString plainCell(QString text)
 {
     const QLatin1Char quote('"');

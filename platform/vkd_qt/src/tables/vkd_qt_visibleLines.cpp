@@ -1,8 +1,8 @@
 #include "vkd_qt_visibleLines.h"
 
 namespace {
-constexpr int ShareOfText = 30;   // percent; as in light palettes
-constexpr int LessDarkened = 130; // percent; about as much as styles darken
+constexpr int ShareOfText = 30;   // percent, as in light palettes
+constexpr int LessDarkened = 130; // percent, about the amount by which styles darken
 
 int between(int base, int text)
 {

@@ -9,14 +9,15 @@
 
 namespace {
 
-/// Constructed by the first object's constructor, so that it outlives every static object.
+/// The list is created by the constructor of the first object, so that it outlives every static
+/// object.
 QVector<VKD_QT_InitTranslator*>& livingObjects()
 {
     static QVector<VKD_QT_InitTranslator*> objects;
     return objects;
 }
 
-/// Registers a routine that Qt calls at the start of each further application.
+/// Registers a routine that Qt calls whenever another application object is created.
 void callAtEachStart()
 {
     static const bool once = [] {
@@ -50,8 +51,8 @@ void VKD_QT_InitTranslator::languageChanged()
 
 void VKD_QT_InitTranslator::install()
 {
-    // A new translator for each application, because an application's end drops its list of
-    // translators.
+    // Each application needs a new translator, because an application drops its list of translators
+    // when it is destroyed.
     m_translator.reset();
     if (vkd::desktopLanguage() != vkd::Language::German)
         return;

@@ -2,8 +2,8 @@
 
 #include <QGuiApplication>
 
-/// Installs the translations of Qt's own widgets: standard buttons, menus of text fields, file
-/// dialogs. A program without a GUI that only loads this library keeps its language.
+/// Installs the translations of Qt's own widgets: standard buttons, context menus of text fields
+/// and file dialogs. A program without a GUI that only loads this library keeps its own language.
 static void translateWidgets()
 {
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))

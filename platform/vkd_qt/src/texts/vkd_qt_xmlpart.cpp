@@ -3,9 +3,9 @@
 #include <QStringView>
 
 namespace {
-constexpr int LongestNumber = 4; // hexadecimal digits of a UTF-16 unit
+constexpr int LongestNumber = 4; // hexadecimal digits of a UTF-16 code unit
 
-/// A character that is escaped by name.
+/// A character that is escaped with a named entity.
 struct Sign
 {
     ushort unit;
@@ -14,7 +14,7 @@ struct Sign
 const Sign Signs[] = {
     {'<', QLatin1String("lt")}, {'>', QLatin1String("gt")}, {'&', QLatin1String("amp")}};
 
-/// Detects unpaired surrogates, which a conversion to UTF-8 would lose.
+/// Returns whether the text has an unpaired surrogate at `at`. Conversion to UTF-8 would lose it.
 bool isHalfPair(const QString& text, int at)
 {
     const QChar unit = text.at(at);
@@ -31,7 +31,7 @@ QString escaped(QChar unit, bool isNumber)
     return isNumber ? QStringLiteral("&#x%1;").arg(unit.unicode(), 0, 16) : QString(unit);
 }
 
-/// Converts the text between "&" and ";" to a unit; -1 if it is unknown.
+/// Converts the text between "&" and ";" to a UTF-16 code unit. Returns -1 if it is unknown.
 int unitOf(QStringView name)
 {
     for (const Sign& sign : Signs)
@@ -44,7 +44,7 @@ int unitOf(QStringView name)
     return isNumber && unit >= 0 ? unit : -1;
 }
 
-/// Decodes the escapes of escaped(); unknown ones remain as text.
+/// Decodes the escape sequences written by escaped(). Unknown sequences are kept as text.
 QString unescaped(QStringView text)
 {
     QString value = QStringLiteral("");
@@ -69,7 +69,7 @@ QString vkd_qt_writeXMLpart(const QString& value, const QString& tag)
     return part + QLatin1String("</") + tag + QLatin1Char('>');
 }
 
-/// Angle brackets in texts are escaped, so every "<" begins a tag.
+/// Angle brackets in values are escaped, so every "<" begins a tag.
 QString vkd_qt_readXMLpart(const QString& xml, int from, const QString& tag, int* next)
 {
     const QString begin = QLatin1Char('<') + tag + QLatin1Char('>');

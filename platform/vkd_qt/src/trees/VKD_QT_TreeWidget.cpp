@@ -48,12 +48,12 @@ void VKD_QT_TreeWidget::closeBranches()
         return;
     while (item->parent())
         item = item->parent();
-    // Otherwise the arrow keys would start at the first row.
+    // Without a current item, the arrow keys would start at the first row.
     setCurrentItem(item, currentColumn(), QItemSelectionModel::NoUpdate);
 }
 
-/// Updates the states. The view is notified before other observers, so that these find all states
-/// updated.
+/// Updates the states. The view is notified before other observers, so that all states are already
+/// updated when the other observers are notified.
 void VKD_QT_TreeWidget::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                                     const QVector<int>& roles)
 {
@@ -71,8 +71,8 @@ void VKD_QT_TreeWidget::dataChanged(const QModelIndex& topLeft, const QModelInde
     viewport()->update();
 }
 
-/// Toggles the check box of the current row. Qt's Space handling considers the current cell only,
-/// which may be beside the check box.
+/// Toggles the check box of the current row. Qt's handling of Space considers only the current
+/// cell, which may be in a column without a check box.
 void VKD_QT_TreeWidget::keyPressEvent(QKeyEvent* event)
 {
     constexpr Qt::ItemFlags Usable = Qt::ItemIsEnabled | Qt::ItemIsUserCheckable;
@@ -96,7 +96,8 @@ void VKD_QT_TreeWidget::setColumnFitsTexts()
     connect(&m_measuring, &QTimer::timeout, this, &VKD_QT_TreeWidget::measure);
 }
 
-/// Measures once the tree is shown; most trees have enough room and need not wait for it.
+/// Schedules the measurement after the tree is shown, because most trees are wide enough and should
+/// not be delayed by it.
 void VKD_QT_TreeWidget::measureLater()
 {
     if (m_columnFits && isVisible())
@@ -140,7 +141,7 @@ void VKD_QT_TreeWidget::scrollContentsBy(int dx, int dy)
         measureLater();
 }
 
-/// Other rows may be visible now.
+/// Called when other rows may have become visible.
 void VKD_QT_TreeWidget::updateGeometries()
 {
     QTreeWidget::updateGeometries();

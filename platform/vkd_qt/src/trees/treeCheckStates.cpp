@@ -6,7 +6,7 @@
 #include <optional>
 
 namespace {
-using State = std::optional<Qt::CheckState>; // empty without a check box
+using State = std::optional<Qt::CheckState>; // empty if there is no check box
 
 State ownState(const QTreeWidgetItem* item, int column)
 {
@@ -38,7 +38,7 @@ State stateOf(const QTreeWidgetItem* item, int column)
     return own ? own : stateOfChildren(item, column);
 }
 
-/// Returns the combined state of the parent's children; the child at `row` has `state`.
+/// Returns the combined state of the parent's children, where the child at `row` has `state`.
 State stateAround(const QTreeWidgetItem* parent, int row, State state, int column)
 {
     const int count = parent->childCount();

@@ -5,15 +5,16 @@
 class QModelIndex;
 class QTreeWidgetItem;
 
-/// The propagation rules of VKD_QT_TreeWidget's check boxes. All functions change states by
-/// setCheckState(); the caller blocks signals.
+/// The propagation rules for the check boxes of VKD_QT_TreeWidget. All functions change states with
+/// setCheckState(). The caller must block signals.
 
 bool hasCheckBox(const QTreeWidgetItem* item, int column);
 
-/// Sets this state in all check boxes below the item.
+/// Sets all check boxes below the item to this state.
 void carryDown(QTreeWidgetItem* item, int column, Qt::CheckState state);
 
-/// Updates the items above this one; `index` is its model index. Stops where nothing changes.
-/// Siblings are read from the item outwards until one differs, so that setting the children of a
-/// parent one after the other reads few siblings each.
+/// Updates the ancestors of the item; `index` is its model index. Stops at the first ancestor whose
+/// state does not change. Siblings are read in both directions, starting at the item, until one
+/// differs. Therefore only a few siblings are read each time if the children of a parent are set
+/// one after the other.
 void settleAncestors(const QTreeWidgetItem* item, const QModelIndex& index);
