@@ -7,10 +7,10 @@
 
 #include <QElapsedTimer>
 
-/// A combo box with the bars of a project. A bar value is the nominal diameter in millimetres;
-/// -99999 stands for "not set" and is the first entry. A diameter that the project lacks gets an
-/// entry of its own in the sorted list, so that the box can show it and return it bit for bit. Only
-/// a choice by the user emits signals.
+/// A combo box with the bar diameters of a project. A bar value is the nominal diameter in
+/// millimetres; -99999 means "not set" and is the first entry. A diameter that is missing from the
+/// project gets its own entry in the sorted list, so that the combo box can show it and return it
+/// unchanged. Signals are emitted only when the user chooses an entry.
 class VKD_A_EXPORT VKD_A_BarDiameterCombo : public VKD_QT4_ComboBox
 {
     Q_OBJECT
@@ -20,15 +20,15 @@ public:
 
     explicit VKD_A_BarDiameterCombo(QWidget* parent = nullptr, const char* name = nullptr);
 
-    /// Loads the bars of the project at this database index with VKD_A_BarDiameterData::load() and
-    /// keeps the current choice. Returns false if the project is not open.
+    /// Loads the bars of the project with this database index through VKD_A_BarDiameterData::load()
+    /// and keeps the current value. Returns false if the project is not open.
     bool load(int index);
-    /// Sets whether the user can choose "not set"; the default is true. Without this entry the
-    /// first bar is current until another one is chosen.
+    /// Sets whether the user can choose "not set"; the default is true. If this entry is not
+    /// available, the first bar is current until another bar is chosen.
     void setNotSetAllowed(bool isAllowed);
 
-    /// Makes this value the current one; any value is accepted. Returns false if the table lacks
-    /// it. Such a value gets the only extra entry, which the next call removes.
+    /// Makes this value current. Accepts any value, but returns false if the value is not in the
+    /// table. In this case, the value gets an additional entry, which the next call removes.
     bool setCurrent(float diameter);
     float getCurrent() const;
 
@@ -46,6 +46,6 @@ private:
     VKD_A_BarDiameterData m_bars;
     bool m_isNotSetAllowed = true;
     bool m_hasExtra = false;
-    QString m_typed; ///< the digits typed so far; they find a bar
+    QString m_typed; ///< digits typed so far to find a bar
     QElapsedTimer m_lastDigit;
 };

@@ -9,11 +9,12 @@
 class VKD_A_EXPORT VKD_A_BarDiameterData
 {
 public:
-    /// Creates an empty table; getString() works for every value nevertheless.
+    /// Creates an empty table. getString() nevertheless works for every value.
     VKD_A_BarDiameterData() = default;
 
-    /// Loads the bars stored in the project at this database index. A project without bars gets the
-    /// common ones of EN 10080, 6 to 40 mm. Returns false if the project is not open.
+    /// Loads the bars stored in the project with this database index. If the project contains no
+    /// bars, the table contains the common diameters of EN 10080, 6 to 40 mm. Returns false if the
+    /// project is not open.
     bool load(int index);
 
     /// Returns the diameters in ascending order.
@@ -27,6 +28,6 @@ private:
     QVector<float> m_diameters;
 };
 
-/// Returns the bar value of a new record for a bar class: 10 mm for the lower (5) and the upper
-/// side (6) of area elements, and the smallest bar, 6 mm, for every other class.
+/// Returns the initial bar value of a new record for a bar class: 10 mm for the lower side (5) and
+/// the upper side (6) of area elements, and the smallest bar, 6 mm, for every other class.
 VKD_A_EXPORT float vkd_a_get_min_bar_type(int barClass);

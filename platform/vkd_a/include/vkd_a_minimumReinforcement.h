@@ -16,7 +16,7 @@ struct VkdMinimumReinforcement
     double area() const { return ofTension > ofSection ? ofTension : ofSection; }
 };
 
-/// Returns the minimum for the effective depth in m, and for fctm and the yield strength fyk of the
-/// steel in N/mm².
+/// Returns the minimum reinforcement for the effective depth in m, and for fctm and the yield
+/// strength fyk of the steel in N/mm².
 VKD_A_EXPORT VkdMinimumReinforcement vkd_a_minimumReinforcement(double depth, double fctm,
                                                                 double fyk);

@@ -4,8 +4,8 @@
 
 #include <array>
 
-/// A sheet of welded fabric held in stock. Its name contains its nominal longitudinal area in
-/// mm²/m. Sheets with a Q carry in both directions, sheets with an R in the longitudinal one.
+/// A stock sheet of welded fabric. Its name contains its nominal longitudinal area in mm²/m. Q
+/// sheets carry loads in both directions, R sheets in the longitudinal direction.
 struct VkdWeldedFabric
 {
     const char* name;
@@ -15,6 +15,6 @@ struct VkdWeldedFabric
 
 constexpr int VkdWeldedFabrics = 11;
 
-/// Returns the fabrics of the German stock range of steel to DIN 488-4. The double bars and thinner
-/// bars at the edges of some sheets are left out.
+/// Returns the welded fabrics of the German stock range to DIN 488-4. Double bars and the thinner
+/// bars at the edges of some sheets are not included.
 VKD_A_EXPORT const std::array<VkdWeldedFabric, VkdWeldedFabrics>& vkd_a_weldedFabrics();

@@ -49,7 +49,8 @@ void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
     VKD_QT4_ComboBox::changeEvent(event);
 }
 
-/// Digits find a diameter although the texts begin with its sign.
+/// Lets the user find a diameter by typing its digits, although the texts begin with the diameter
+/// sign.
 void VKD_A_BarDiameterCombo::keyPressEvent(QKeyEvent* event)
 {
     const QString digit = event->text();

@@ -16,6 +16,6 @@ double vkd_a_meanTensileStrength(double fck)
 
 VkdMinimumReinforcement vkd_a_minimumReinforcement(double depth, double fctm, double fyk)
 {
-    const double section = depth * SquareCentimetresPerSquareMetre; // of a strip of 1 m
+    const double section = depth * SquareCentimetresPerSquareMetre; // cm², of a strip 1 m wide
     return {0.26 * fctm / fyk * section, 0.0013 * section};
 }

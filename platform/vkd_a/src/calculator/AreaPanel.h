@@ -7,10 +7,10 @@ struct AreaResult
 {
     static constexpr float NoDiameter = -99999.0F;
 
-    double area = 0.0;           ///< cm²/m, as it is stored; valid without a fault
-    QString fault;               ///< why there is no area; empty if there is one
-    QString note;                ///< a warning about the area
-    float diameter = NoDiameter; ///< of the bars in mm
+    double area = 0.0;           ///< cm²/m, as stored; valid if `fault` is empty
+    QString fault;               ///< reason why there is no area, or empty
+    QString note;                ///< warning about the area
+    float diameter = NoDiameter; ///< bar diameter in mm
 };
 
 /// A page of the calculator: one way to determine the reinforcement of a layer.
@@ -23,7 +23,7 @@ public:
 
     virtual AreaResult result() const = 0;
 
-    /// Returns false while the entries are those from which the page began.
+    /// Returns false while the entries equal the initial entries of the page.
     virtual bool isChanged() const { return true; }
 
 Q_SIGNALS:

@@ -79,8 +79,8 @@ void BarAreaTable::showLayout(const VkdBarLayout& layout)
         return;
     const int row = nearest(m_diameters, layout.diameter);
     const int column = nearest(Spacings, layout.spacing);
-    // The nearest cell becomes the current one, so that arrow keys start there. It is selected only
-    // if it is exactly this layout.
+    // The nearest cell becomes the current cell, so that the arrow keys start there. It is selected
+    // only if it matches the layout exactly.
     const bool isThere =
         isSame(m_diameters[row], layout.diameter) && isSame(Spacings[column], layout.spacing);
     setCurrentCell(row, column,

@@ -6,8 +6,8 @@
 
 struct VkdBarLayout;
 
-/// A table with the areas of all bars of a project at common spacings. The current cell is the one
-/// nearest to a given layout; the user chooses another with a click or the arrow keys.
+/// A table with the areas of all bars of a project at common spacings. The current cell is the cell
+/// nearest to a given layout. The user chooses another cell with a click or the arrow keys.
 class BarAreaTable : public VKD_QT_TableWidget
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     void showLayout(const VkdBarLayout& layout);
 
 Q_SIGNALS:
-    /// Emitted when the user chose a bar diameter in mm and a spacing in m.
+    /// Emitted when the user has chosen a bar diameter in mm and a spacing in m.
     void chosen(float diameter, double spacing);
 
 private:

@@ -5,8 +5,8 @@
 #include <QVector>
 #include <QWidget>
 
-/// A picture of a metre of plate with the bars of its layers, all to the same scale. The bars of a
-/// layer whose clear distance is too small are marked in a colour.
+/// A widget that shows one metre of plate with the bars of its layers, all to the same scale. Bars
+/// with too small a clear distance are highlighted in a colour.
 class BarPicture : public QWidget
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
     BarPicture(QWidget* parent, const char* name);
 
-    /// Shows the layers, from the surface inwards. A layer with a fault must not be among them.
+    /// Shows the layers, listed from the surface inwards. All layers must be valid.
     void setLayers(const QVector<Layer>& layers);
 
     QSize sizeHint() const override;

@@ -151,7 +151,7 @@ QString BarsPanel::layerFault(const VkdBarLayout& layer) const
 double BarsPanel::leastClearDistance(const VkdBarLayout& layer) const
 {
     const double least = vkd_a_leastClearDistance(layer, m_aggregate->getCurrentId());
-    return std::round(least * 10.0) / 10.0; // that of a bundle is irrational
+    return std::round(least * 10.0) / 10.0; // the distance of a bundle is irrational
 }
 
 bool BarsPanel::isTooTight(const VkdBarLayout& layer) const

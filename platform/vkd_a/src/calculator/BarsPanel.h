@@ -16,14 +16,15 @@ class VKD_QT_GroupBox;
 class VKD_QT_Label;
 
 /// The page of the calculator for bars and welded fabric, in one or two layers, with a table of
-/// common layouts and a picture. A click in the table sets the bars of the layer edited last.
+/// common layouts and a picture. A click in the table sets the bars of the most recently edited
+/// layer.
 class BarsPanel : public AreaPanel
 {
     Q_OBJECT
 
 public:
-    /// Begins with bars that give `area` in cm²/m, or with usual ones if it is not set. `project`
-    /// is the project with the bars.
+    /// The initial bars provide `area` in cm²/m; if it is not set, they have a common spacing.
+    /// `project` is the project with the bars.
     BarsPanel(ZobHandle project, float area, float barDiameter, QWidget* parent);
 
     AreaResult result() const override;

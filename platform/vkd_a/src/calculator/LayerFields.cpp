@@ -17,7 +17,8 @@ namespace {
 constexpr int DistanceCode = 1024;
 constexpr double NotSet = -99999.0;
 
-/// Returns the object name of a field: the layers after the first have their number in it.
+/// Returns the object name of a field. For layers other than the first, it contains the layer
+/// number.
 QByteArray named(const char* name, int number)
 {
     return number == 1 ? QByteArray(name) : name + QByteArray::number(number);
@@ -46,7 +47,7 @@ LayerFields::LayerFields(ZobHandle project, QGridLayout* grid, int row, int colu
                             tr("Number of bars, layer %1").arg(number));
     m_diameter->setAccessibleName(tr("Bar diameter, layer %1").arg(number));
     m_diameter->setNotSetAllowed(false);
-    m_diameter->load(project.index()); // falls back to the common bars
+    m_diameter->load(project.index()); // falls back to the common diameters
     fillLists(number);
     grid->addWidget(m_arrangement, row, column);
     grid->addWidget(m_diameter, row, column + 1);
@@ -90,7 +91,7 @@ void LayerFields::connectAll()
     connect(m_diameter, indexChanged, this, &LayerFields::changed);
     connect(m_spacing, &VKD_H_LineEdit::valueChanged, this, &LayerFields::showNumber);
     connect(m_number, &VKD_H_LineEdit::valueChanged, this, &LayerFields::takeNumber);
-    // A refused text does not change the value, but it must disable OK.
+    // Rejected text does not change the value, but must disable OK.
     for (VKD_H_LineEdit* field : {m_spacing, m_number})
         connect(field, &QLineEdit::textChanged, this, &LayerFields::changed);
 }
@@ -137,7 +138,7 @@ void LayerFields::setEnabled(bool isEnabled)
     arrange();
 }
 
-/// Shows the fields of the arrangement. The spacing of a fabric cannot be edited.
+/// Shows the fields for the selected arrangement. The spacing of a fabric cannot be edited.
 void LayerFields::arrange()
 {
     m_arrangement->setEnabled(m_isEnabled);
@@ -158,7 +159,7 @@ void LayerFields::showSpacing(double spacing)
     showNumber();
 }
 
-/// Shows the number in hundredths, since nobody counts bars more exactly.
+/// Shows the number of bars rounded to hundredths, because greater precision is not useful.
 void LayerFields::showNumber()
 {
     const double spacing = m_spacing->getVal();

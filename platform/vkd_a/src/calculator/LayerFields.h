@@ -12,9 +12,9 @@ class VKD_A_BarDiameterCombo;
 class VKD_H_LineEdit;
 class VKD_QT4_ComboBox;
 
-/// The fields of one layer of reinforcement, in a row of a grid: bars by diameter and spacing, or a
-/// direction of a welded fabric. The user enters either the spacing or the number of bars per
-/// metre; the other field follows.
+/// The fields of one reinforcement layer in a row of a grid. The layer consists of bars with a
+/// diameter and a spacing, or of the bars in one direction of a welded fabric. The user enters
+/// either the spacing or the number of bars per metre, and the other field is updated.
 class LayerFields : public QObject
 {
     Q_OBJECT
@@ -22,16 +22,16 @@ class LayerFields : public QObject
 public:
     static constexpr int Columns = 4;
 
-    /// Creates the fields as children of the widget of `grid`, in `row` from `column` on. `number`
-    /// distinguishes the layers in object names and in the names for screen readers. `project` is
-    /// the project with the bars.
+    /// Creates the fields in `row`, starting at `column`, as children of the widget of `grid`.
+    /// `number` distinguishes the layers in object names and accessible names. `project` is the
+    /// project with the bars.
     LayerFields(ZobHandle project, QGridLayout* grid, int row, int column, int number);
 
-    /// Adds the titles of the columns, with mnemonics that lead to these fields.
+    /// Adds the column titles, with mnemonics that move the focus to these fields.
     void addTitles(QGridLayout* grid, int row, int column);
 
     VkdBarLayout layout() const;
-    /// Shows bars: the present arrangement of bars, or single ones in place of a fabric.
+    /// Shows bars in the current arrangement, or as single bars if a fabric is currently selected.
     void showBars(double diameter, double spacing);
 
     bool isReadable() const;

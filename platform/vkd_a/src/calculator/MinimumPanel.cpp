@@ -34,7 +34,7 @@ QString number(double value, int decimals)
     return vkd_h_getNumberString(value, decimals);
 }
 
-/// Rounds up, since a minimum must not fall short.
+/// Rounds up, because the result must not be below the minimum.
 double roundedUp(double area)
 {
     constexpr double Noise = 1e-9;
@@ -121,7 +121,7 @@ VkdMinimumReinforcement MinimumPanel::minimum() const
                                       m_steel->getCurrentId());
 }
 
-/// The principal reinforcement is never below its own minimum.
+/// Returns the principal reinforcement, which is never below its own minimum.
 double MinimumPanel::principalArea() const
 {
     return std::max(minimum().area(), m_principal->getVal());

@@ -10,7 +10,7 @@ class VKD_QT_GroupBox;
 class VKD_QT_Label;
 
 /// The page of the calculator for the minimum reinforcement of slabs. It shows each formula with
-/// its clause and its numbers, so that it can be checked and copied into a calculation.
+/// its clause and values, so that the user can check the formula and copy it into a calculation.
 class MinimumPanel : public AreaPanel
 {
     Q_OBJECT

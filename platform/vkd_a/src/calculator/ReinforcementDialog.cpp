@@ -45,7 +45,7 @@ ReinforcementDialog::ReinforcementDialog(QWidget* parent, ZobHandle project, flo
     static_cast<QBoxLayout*>(layout())->insertWidget(1, makeResult()); // above the buttons
     connectAll();
     showResult();
-    // Qt limits a new window to two thirds of the screen, which would cut off the table.
+    // Qt limits a new window to two thirds of the screen size, which would cut off the table.
     resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 

@@ -10,23 +10,25 @@ class VKD_QT_GroupBox;
 class VKD_QT_Label;
 
 /// The dialog that calculates the reinforcement of an area element: from bars and welded fabric, or
-/// as the minimum of a slab. Each way is a page; the current page gives the result.
+/// as the minimum reinforcement of a slab. Each method has its own page, and the current page
+/// provides the result.
 class ReinforcementDialog : public VKD_QT_TabDialog
 {
     Q_OBJECT
 
 public:
-    /// Takes the arguments of vkd_a_ReinforcementCalculation(). With `offersDiameter`, the user can
-    /// take over the bar diameter besides the area.
+    /// Takes the arguments of vkd_a_ReinforcementCalculation(). If `offersDiameter` is true, the
+    /// user can apply the bar diameter in addition to the area.
     ReinforcementDialog(QWidget* parent, ZobHandle project, float value, float barDiameter,
                         bool offersDiameter);
 
-    /// Returns the area of the current page in cm²/m. While its entries are the initial ones,
-    /// returns the present value instead, since rounding must not change a value that the user left
-    /// alone.
+    /// Returns the area of the current page in cm²/m. While the page still has its initial entries,
+    /// returns the caller's value instead, because rounding must not change a value that the user
+    /// has not edited.
     float area() const;
 
-    /// Returns the diameter in mm that the user takes over, or else the one at the beginning.
+    /// Returns the diameter in mm that the user applies, or the initial diameter if the user
+    /// applies none.
     float barDiameter() const;
 
 private:

@@ -5,13 +5,13 @@
 class QWidget;
 class VKD_H_LineEdit;
 
-/// Creates a number field that accepts zero, so that the calculator itself explains why zero is
-/// wrong. `suffix` replaces the unit of the dimension `code` if it is not empty.
+/// Creates a number field that accepts zero, so that the calculator itself can explain why zero is
+/// invalid. A non-empty `suffix` replaces the unit of the dimension `code`.
 VKD_H_LineEdit* newAreaField(QWidget* parent, int code, const QString& suffix, const char* name,
                              const QString& text);
 
-/// Returns an area in cm²/m with its unit.
+/// Returns the text for an area in cm²/m, including the unit.
 QString areaText(double area);
 
-/// Returns a length in mm with its unit.
+/// Returns the text for a length in mm, including the unit.
 QString lengthText(double millimetres);
