@@ -99,13 +99,13 @@ private Q_SLOTS:
         row("read", "project", read, 1);
         row("read after a crash", "crashed", read, 1);
         row("change", "project", few, 1);
-        row("change after a crash", "crashed", few, 1);
+        row("change after a crash", "crashed", few, 2);
         row("change of more than the cache", "project", many, 67);
         row("single record", "project", putFirst, 1);
-        row("upgrade", "version 1", putFirst, 1);
+        row("upgrade", "version 1", putFirst, 2);
         row("new file", "-", place, 1);
         row("replaced file", "project", place, 1);
-        row("replaced file after a crash", "crashed", place, 1);
+        row("replaced file after a crash", "crashed", place, 2);
     }
 
     void walk()
