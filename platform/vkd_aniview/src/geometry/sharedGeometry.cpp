@@ -3,6 +3,9 @@
 #include <vkd_dbo_model.h>
 #include <vkd_zob.h>
 
+#include <chrono>
+#include <future>
+
 namespace vkd {
 namespace aniview {
 
@@ -13,6 +16,23 @@ struct Known
     QByteArray mark;
     std::weak_ptr<const ModelGeometry> geometry;
 };
+
+/// Builds the geometry in a thread of its own, so that `goOn` can be called meanwhile. Returns null
+/// if it returned false; a million elements take seconds.
+std::shared_ptr<const ModelGeometry> build(const dbo::Model& model, const VkdGoOn& goOn)
+{
+    constexpr std::chrono::milliseconds BetweenQuestions(20);
+    const auto make = [&model] { return std::make_shared<ModelGeometry>(buildGeometry(model)); };
+    if (!goOn)
+        return make();
+    bool goesOn = goOn(0);
+    if (!goesOn)
+        return nullptr;
+    auto making = std::async(std::launch::async, make);
+    while (making.wait_for(BetweenQuestions) != std::future_status::ready)
+        goesOn = goesOn && goOn(0);
+    return goesOn ? making.get() : nullptr;
+}
 } // namespace
 
 std::shared_ptr<const ModelGeometry> sharedGeometry(ZobHandle project, const VkdGoOn& goOn,
@@ -30,8 +50,10 @@ std::shared_ptr<const ModelGeometry> sharedGeometry(ZobHandle project, const Vkd
         *status = read;
     if (read.code == VKD_ZOB_CANCELLED)
         return nullptr;
-    auto geometry = std::make_shared<const ModelGeometry>(buildGeometry(model));
-    if (!mark.isEmpty()) // an empty mark: no model or only part of one
+    const auto geometry = build(model, goOn);
+    if (!geometry && status)
+        *status = VkdStatus{VKD_ZOB_CANCELLED, QString()};
+    if (geometry && !mark.isEmpty()) // an empty mark: no model or only part of one
         last = {mark, geometry};
     return geometry;
 }
