@@ -109,11 +109,12 @@ VKD_QT4_ComboBox* dlgCrackControl::newCombo(const Field& field)
 {
     const bool isWidth = field.code == CrackWidthCode;
     auto combo = new VKD_QT4_ComboBox(this, field.name);
-    combo->setEditable(true);
     StructLineEdit format = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(field.code);
     auto edit =
         new VKD_H_LineEdit(this, &format, field.editName,
                            isWidth ? tr("Crack width") : tr("Steel stress"), QString(), true);
+    // It makes the combo editable. setEditable() would create another edit first, and also the list
+    // that pops up.
     combo->setLineEdit(edit);
     combo->setInsertPolicy(QComboBox::NoInsert); // typed values are not added to the list
     combo->setMinimumWidth(edit->sizeHint().width() +
