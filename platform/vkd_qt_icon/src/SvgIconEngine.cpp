@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 namespace vkd {
@@ -46,8 +47,9 @@ QByteArray inColoursOf(const QPalette& palette, const QByteArray& svg)
 }
 } // namespace
 
-SvgIconEngine::SvgIconEngine(const QByteArray& svg)
-    : m_svg(svg)
+SvgIconEngine::SvgIconEngine(const QString& name, const QByteArray& svg)
+    : m_name(name)
+    , m_svg(svg)
 {
 }
 
@@ -64,10 +66,21 @@ void SvgIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode
 
 QPixmap SvgIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state)
 {
-    QPixmap pixmap(size);
+    const QString key = QStringLiteral("%1 %2 %3 %4 %5")
+                            .arg(m_name)
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(mode)
+                            .arg(QGuiApplication::palette().cacheKey());
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+    pixmap = QPixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+    painter.end();
+    QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 

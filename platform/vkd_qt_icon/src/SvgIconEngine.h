@@ -10,17 +10,21 @@ namespace qt {
 /// the files are valid pictures for any drawing program:
 ///
 /// black: WindowText, blue (#0000ff): Highlight, white: Base, #fffffe: HighlightedText.
+///
+/// Rendered pixmaps are cached for the whole program, because dialogs show the same icon many times
+/// and are opened again.
 class SvgIconEngine : public QIconEngine
 {
 public:
-    /// Takes the text of an SVG picture.
-    explicit SvgIconEngine(const QByteArray& svg);
+    /// Takes the name and the text of an SVG picture.
+    SvgIconEngine(const QString& name, const QByteArray& svg);
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     QIconEngine* clone() const override;
 
 private:
+    QString m_name;
     QByteArray m_svg;
 };
 

@@ -12,7 +12,7 @@ QIcon icon(const QString& name)
     QFile file(name + QLatin1String(".svg"));
     if (!name.startsWith(QLatin1String(":/icon/")) || !file.open(QIODevice::ReadOnly))
         return QIcon();
-    return QIcon(new SvgIconEngine(file.readAll()));
+    return QIcon(new SvgIconEngine(name, file.readAll()));
 }
 
 } // namespace qt
