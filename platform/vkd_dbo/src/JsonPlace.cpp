@@ -1,8 +1,5 @@
 #include "JsonPlace.h"
 
-#include <QJsonArray>
-#include <QVector>
-
 #include <cmath>
 #include <limits>
 
@@ -11,7 +8,18 @@ namespace dbo {
 
 void JsonPlace::fail(const QString& what) const
 {
-    throw ModelFileError{m_place.isEmpty() ? what : m_place + QLatin1String(": ") + what};
+    const QString place = path();
+    throw ModelFileError{place.isEmpty() ? what : place + QLatin1String(": ") + what};
+}
+
+QString JsonPlace::path() const
+{
+    if (!m_parent)
+        return QString();
+    const QString parent = m_parent->path();
+    if (m_index != InObject)
+        return parent + QStringLiteral("[%1]").arg(m_index);
+    return parent.isEmpty() ? m_key : parent + QLatin1Char('.') + m_key;
 }
 
 double JsonPlace::real() const
@@ -54,7 +62,7 @@ QString JsonPlace::title(Language language) const
     return at(language == Language::German ? german : english).string();
 }
 
-QVector<JsonPlace> JsonPlace::list(int least, int most) const
+JsonList JsonPlace::list(int least, int most) const&
 {
     if (!m_value.isArray())
         fail(ModelFileError::tr("a list is needed"));
@@ -63,11 +71,7 @@ QVector<JsonPlace> JsonPlace::list(int least, int most) const
         fail(ModelFileError::tr("%1 values are needed").arg(least));
     if (most > 0 && values.size() > most)
         fail(ModelFileError::tr("no more than %1 values can stand here").arg(most));
-    QVector<JsonPlace> places;
-    places.reserve(values.size());
-    for (int i = 0; i < values.size(); ++i)
-        places.append({values[i], m_place + QStringLiteral("[%1]").arg(i)});
-    return places;
+    return {this, values};
 }
 
 QJsonObject JsonPlace::object() const
@@ -99,9 +103,9 @@ QStringList JsonPlace::keys() const
     return object().keys();
 }
 
-JsonPlace JsonPlace::at(const QString& key) const
+JsonPlace JsonPlace::at(const QString& key) const&
 {
-    return {object().value(key), m_place.isEmpty() ? key : m_place + QLatin1Char('.') + key};
+    return {object().value(key), this, InObject, key};
 }
 
 } // namespace dbo

@@ -3,10 +3,10 @@
 #include <vkd_language.h>
 
 #include <QCoreApplication>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QStringList>
-#include <QVector>
 
 namespace vkd {
 namespace dbo {
@@ -21,15 +21,18 @@ public:
     QString text;
 };
 
-/// A value of a model file with its path, such as `beams[12][3]` (counted from 0), so that every
-/// error message contains the path. Each read operation throws a ModelFileError if the value has
-/// another type.
+class JsonList;
+
+/// A value of a model file that knows its path, such as `beams[12][3]` (counted from 0), so that
+/// every error message contains the path. Only a failure needs the text, so that a place has just a
+/// link to the one that it was read from, which must outlive it. Each read operation throws a
+/// ModelFileError if the value has another type.
 class JsonPlace
 {
 public:
-    JsonPlace(QJsonValue value, QString place)
-        : m_value(std::move(value))
-        , m_place(std::move(place))
+    /// The whole file.
+    explicit JsonPlace(QJsonValue root)
+        : m_value(std::move(root))
     {
     }
 
@@ -43,19 +46,55 @@ public:
     QString title(Language language) const;
     /// Returns the elements of a list with at least `least` and, unless `most` is 0, at most `most`
     /// elements.
-    QVector<JsonPlace> list(int least = 0, int most = 0) const;
+    JsonList list(int least = 0, int most = 0) const&;
+    JsonList list(int least = 0, int most = 0) && = delete;
     /// Throws unless this is an object with all keys of `needed` and no keys except those of the
     /// two lists.
     void checkKeys(const QStringList& needed, const QStringList& optional) const;
     bool has(const QString& key) const;
     QStringList keys() const;
-    JsonPlace at(const QString& key) const;
+    JsonPlace at(const QString& key) const&;
+    JsonPlace at(const QString& key) && = delete;
 
 private:
+    friend class JsonList;
+
+    static constexpr int InObject = -1;
+
+    JsonPlace(QJsonValue value, const JsonPlace* parent, int index, QString key = QString())
+        : m_value(std::move(value))
+        , m_parent(parent)
+        , m_index(index)
+        , m_key(std::move(key))
+    {
+    }
+
     QJsonObject object() const;
+    QString path() const;
 
     QJsonValue m_value;
-    QString m_place;
+    const JsonPlace* m_parent = nullptr;
+    int m_index = 0; // in a list, or InObject
+    QString m_key;
+};
+
+/// The elements of a list. Each place is made when it is asked for, because a list can have a
+/// million elements.
+class JsonList
+{
+public:
+    JsonList(const JsonPlace* place, QJsonArray values)
+        : m_place(place)
+        , m_values(std::move(values))
+    {
+    }
+
+    int size() const { return m_values.size(); }
+    JsonPlace operator[](int index) const { return {m_values[index], m_place, index}; }
+
+private:
+    const JsonPlace* m_place;
+    QJsonArray m_values;
 };
 
 } // namespace dbo

@@ -62,12 +62,12 @@ private:
     void readDesign();
 
     template <typename Element>
-    void numberAndGroup(const QVector<JsonPlace>& values, Element& element, Numbers& used) const;
+    void numberAndGroup(const JsonList& values, Element& element, Numbers& used) const;
     static int unique(const JsonPlace& place, Numbers& used);
     static int known(const JsonPlace& place, const Numbers& numbers, const char* what);
-    static Position position(const QVector<JsonPlace>& values, int first);
+    static Position position(const JsonList& values, int first);
     template <size_t N>
-    void nodes(const QVector<JsonPlace>& values, int first, int (&numbers)[N], bool lastMayBeZero);
+    void nodes(const JsonList& values, int first, int (&numbers)[N], bool lastMayBeZero);
     static QVector<int> members(const JsonPlace& group, const char* key, const Numbers& numbers);
 
     JsonPlace m_root;
@@ -128,13 +128,14 @@ void ModelFileReader::each(const char* key, QVector<T>& things, ReadOne readOne)
     const QString name = QString::fromLatin1(key);
     if (!m_root.has(name))
         return;
-    const QVector<JsonPlace> places = m_root.at(name).list();
+    const JsonPlace list = m_root.at(name);
+    const JsonList places = list.list();
     things.reserve(places.size());
-    for (const JsonPlace& place : places) {
+    for (int i = 0; i < places.size(); ++i) {
         if (!m_steps.next())
             throw ModelFileError{QString()};
         T thing;
-        readOne(place, thing);
+        readOne(places[i], thing);
         things.append(thing);
     }
 }
@@ -254,9 +255,12 @@ void ModelFileReader::polylines(const char* key, QVector<Polyline>& lines)
             {QStringLiteral("number"), QStringLiteral("title"), QStringLiteral("points")}, {});
         line.number = unique(place.at(QStringLiteral("number")), used);
         line.title = place.at(QStringLiteral("title")).title(m_language);
-        const auto points = place.at(QStringLiteral("points")).list(2);
-        for (const JsonPlace& point : points)
+        const JsonPlace list = place.at(QStringLiteral("points"));
+        const JsonList points = list.list(2);
+        for (int i = 0; i < points.size(); ++i) {
+            const JsonPlace point = points[i];
             line.points.append(position(point.list(3, 3), 0));
+        }
     });
 }
 
@@ -292,8 +296,10 @@ void ModelFileReader::readDesign()
     each("designParameters", m_model.designParameters,
          [&](const JsonPlace& place, DesignValues& design) {
              place.checkKeys({QStringLiteral("groups"), QStringLiteral("values")}, {});
-             const auto groups = place.at(QStringLiteral("groups")).list(1);
-             for (const JsonPlace& group : groups) {
+             const JsonPlace list = place.at(QStringLiteral("groups"));
+             const JsonList groups = list.list(1);
+             for (int i = 0; i < groups.size(); ++i) {
+                 const JsonPlace group = groups[i];
                  if (!known.remove(group.string()))
                      group.fail(ModelFileError::tr("group %1 does not exist or stands here twice")
                                     .arg(group.string()));
@@ -313,16 +319,17 @@ QVector<int> ModelFileReader::members(const JsonPlace& group, const char* key,
     const QString name = QString::fromLatin1(key);
     if (!group.has(name))
         return result;
-    const auto places = group.at(name).list();
-    for (const JsonPlace& place : places)
-        result.append(known(place, numbers, ThingNames::Element));
+    const JsonPlace list = group.at(name);
+    const JsonList places = list.list();
+    result.reserve(places.size());
+    for (int i = 0; i < places.size(); ++i)
+        result.append(known(places[i], numbers, ThingNames::Element));
     return result;
 }
 
 /// Reads the first two values, which all elements have in common.
 template <typename Element>
-void ModelFileReader::numberAndGroup(const QVector<JsonPlace>& values, Element& element,
-                                     Numbers& used) const
+void ModelFileReader::numberAndGroup(const JsonList& values, Element& element, Numbers& used) const
 {
     element.number = unique(values[0], used);
     element.group = known(values[1], m_groups, ThingNames::Group);
@@ -346,17 +353,17 @@ int ModelFileReader::known(const JsonPlace& place, const Numbers& numbers, const
     return number;
 }
 
-Position ModelFileReader::position(const QVector<JsonPlace>& values, int first)
+Position ModelFileReader::position(const JsonList& values, int first)
 {
     return {values[first].real(), values[first + 1].real(), values[first + 2].real()};
 }
 
 template <size_t N>
-void ModelFileReader::nodes(const QVector<JsonPlace>& values, int first, int (&numbers)[N],
+void ModelFileReader::nodes(const JsonList& values, int first, int (&numbers)[N],
                             bool lastMayBeZero)
 {
     for (size_t i = 0; i < N; ++i) {
-        const JsonPlace& place = values[first + int(i)];
+        const JsonPlace place = values[first + int(i)];
         const bool isNone = lastMayBeZero && i + 1 == N && place.integer() == 0;
         numbers[i] = isNone ? 0 : known(place, m_nodes, ThingNames::Node);
     }
@@ -408,17 +415,18 @@ VkdStatus readModelFile(const QString& path, Language language, Model* model, co
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return failureOf(path, VKD_ZOB_NO_FILE, file.errorString());
-    const QByteArray bytes = file.readAll();
+    QByteArray bytes = file.readAll();
     QJsonParseError problem;
     try {
         const QJsonDocument document = parse(bytes, &problem, goOn);
         if (problem.error != QJsonParseError::NoError)
             throw ModelFileError{lineAndColumn(bytes, problem.offset) + QLatin1String(": ") +
                                  problem.errorString()};
+        bytes.clear(); // with the document, they would take twice the memory
         const QJsonValue root =
             document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);
         VkdSteps steps(goOn, thingsIn(document.object()));
-        *model = ModelFileReader(JsonPlace(root, QString()), language, steps).read();
+        *model = ModelFileReader(JsonPlace(root), language, steps).read();
     } catch (const ModelFileError& wrong) {
         if (wrong.text.isEmpty())
             return failureOf(path, VKD_ZOB_CANCELLED, ModelFileError::tr("it was cancelled"));
