@@ -3,26 +3,43 @@
 #include "vkd_dbo_model.h"
 
 #include <QDataStream>
+#include <QtEndian>
+
+#include <cstring>
 
 namespace vkd {
 namespace dbo {
 
-/// Writes the fields of an item into its record: little-endian, texts as length and UTF-16.
+/// Writes the fields of an item into its record: little-endian, texts as length and UTF-16, like a
+/// QDataStream. Creating a stream for each record would take longer than writing its fields.
 class FieldWriter
 {
 public:
     explicit FieldWriter(QByteArray* bytes)
-        : m_stream(bytes, QIODevice::WriteOnly)
+        : m_bytes(bytes)
     {
-        m_stream.setByteOrder(QDataStream::LittleEndian);
+        m_bytes->reserve(ShortRecord);
     }
-    void operator()(int value) { m_stream << qint32(value); }
-    void operator()(double value) { m_stream << value; }
-    void operator()(const QString& value) { m_stream << value; }
+    void operator()(int value) { append(qint32(value)); }
+    void operator()(double value)
+    {
+        quint64 bits;
+        static_assert(sizeof bits == sizeof value);
+        std::memcpy(&bits, &value, sizeof bits);
+        append(bits);
+    }
+    void operator()(const QString& value)
+    {
+        if (value.isNull())
+            return append(NullText);
+        append(quint32(sizeof(QChar)) * quint32(value.size()));
+        for (const QChar c : value)
+            append(c.unicode());
+    }
     template <typename T>
     void operator()(const QVector<T>& list)
     {
-        m_stream << qint32(list.size());
+        append(qint32(list.size()));
         for (const T& element : list)
             (*this)(element);
     }
@@ -34,7 +51,18 @@ public:
     }
 
 private:
-    QDataStream m_stream;
+    static constexpr int ShortRecord = 40;
+    static constexpr quint32 NullText = 0xffffffff;
+
+    template <typename T>
+    void append(T value)
+    {
+        char bytes[sizeof value];
+        qToLittleEndian(value, bytes);
+        m_bytes->append(bytes, sizeof bytes);
+    }
+
+    QByteArray* m_bytes;
 };
 
 /// Reads records of FieldWriter. isComplete() returns false for a record that is too short or
