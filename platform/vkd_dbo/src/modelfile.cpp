@@ -1,6 +1,7 @@
 #include "vkd_dbo_model.h"
 
 #include "JsonPlace.h"
+#include "NumberSet.h"
 
 #include <vkd_zob.h>
 
@@ -45,7 +46,7 @@ public:
     Model read();
 
 private:
-    using Numbers = QSet<int>;
+    using Numbers = NumberSet;
 
     void readSystem();
     void readElements();
@@ -289,8 +290,8 @@ void ModelFileReader::readSecondaryGroups()
 void ModelFileReader::readDesign()
 {
     QSet<QString> known;
-    for (int number : qAsConst(m_groups))
-        known.insert(QString::number(number));
+    for (const auto& group : qAsConst(m_model.groups))
+        known.insert(QString::number(group.number));
     for (const SecondaryGroup& group : qAsConst(m_model.secondaryGroups))
         known.insert(group.name);
     each("designParameters", m_model.designParameters,
@@ -338,9 +339,8 @@ void ModelFileReader::numberAndGroup(const JsonList& values, Element& element, N
 int ModelFileReader::unique(const JsonPlace& place, Numbers& used)
 {
     const int number = place.positive();
-    if (used.contains(number))
+    if (!used.insert(number))
         place.fail(ModelFileError::tr("the number %1 stands here twice").arg(number));
-    used.insert(number);
     return number;
 }
 
