@@ -81,12 +81,12 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     m_table->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, painter, m_table);
 }
 
-/// Opens the list after a click on the arrow.
+/// Opens the list after a click on the cell.
 bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     const bool isClick = event->type() == QEvent::MouseButtonRelease && comboItem(m_table, index);
-    if (!isClick || static_cast<QMouseEvent*>(event)->x() < option.rect.right() - ArrowWidth - 2)
+    if (!isClick || static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
         return QStyledItemDelegate::editorEvent(event, model, option, index);
     const QPersistentModelIndex cell = index;
     const auto open = [this, cell] {

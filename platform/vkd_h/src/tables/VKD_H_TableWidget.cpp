@@ -165,9 +165,20 @@ QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
     return combo ? combo->currentText() : cell.data().toString();
 }
 
+namespace {
+/// A click that adds cells to the selection. It must not move the focus into the widget over the
+/// cell, because the view would then select or deselect this cell.
+bool isSelecting(const QEvent* event)
+{
+    const bool isRelease = event && event->type() == QEvent::MouseButtonRelease;
+    return isRelease && static_cast<const QMouseEvent*>(event)->modifiers() &
+                            (Qt::ControlModifier | Qt::ShiftModifier);
+}
+} // namespace
+
 bool VKD_H_TableWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    if (trigger == CurrentChanged)
+    if (trigger == CurrentChanged || isSelecting(event))
         return false; // arrow keys move past widgets over cells
     // Typing a letter must not select an entry that begins with this letter.
     const bool isChoice =
