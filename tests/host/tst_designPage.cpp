@@ -398,6 +398,19 @@ private Q_SLOTS:
         QCOMPARE(told.first(), QStringLiteral("Row 2, Type: \"7\" is not a type."));
     }
 
+    /// With Ctrl, clicks add cells to the selection, also where an editor opens.
+    void selectingSeveralRows()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
+        QTableWidget* table = desk.table();
+        for (int row : {1, 2})
+            QTest::mouseClick(desk.windowHandle(), Qt::LeftButton, Qt::ControlModifier,
+                              table->viewport()->mapTo(
+                                  &desk, table->visualItemRect(table->item(row, 3)).center()));
+        desk.press("btnDelete");
+        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups"));
+    }
+
     void choosingRemainingGroups()
     {
         DesignDesk desk(*m_project, {record(4, 1, 0), record(1, 1, 1), record(2, 1, 2)});

@@ -256,6 +256,7 @@ void DesignParameter::slot_newRowClicked()
     drawRow(plib::addDefaultRow(*data), row, true);
     data->table->fitRow(row);
     data->table->bringIntoView(row);
+    data->table->setCurrentCell(row, Table::Type, QItemSelectionModel::ClearAndSelect);
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
 

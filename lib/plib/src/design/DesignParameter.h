@@ -82,6 +82,7 @@ private:
     void closeCellWidget();
     bool hasFocusInEditor() const;
     void makeEditedCellCurrent();
+    void focusTable();
     void layOver(int row, int column, QWidget* editor);
     void clearCellWidget(int row, int column);
     void openSelection(int row, int column, plib::DesignParameterRow& shown);

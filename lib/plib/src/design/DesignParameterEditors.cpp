@@ -183,7 +183,11 @@ void DesignParameter::editRecord(RowsStep name, Arguments... arguments)
         if (!plib::hasDistances(data->kindOfSystem))
             plib::markUnusedDistances(dialog);
     const QPointer<DesignParameter> page(this);
-    if (dialog.exec() != QDialog::Accepted || !page)
+    const int result = dialog.exec();
+    if (!page)
+        return;
+    focusTable();
+    if (result != QDialog::Accepted)
         return;
     edited = plib::rowAt(*data, row); // the rows may have been reloaded meanwhile
     if (!edited)
@@ -224,6 +228,7 @@ void DesignParameter::slot_openGroups()
     const int result = dialog.exec();
     if (!page)
         return;
+    focusTable();
     if (result == QDialog::Accepted) {
         std::vector<int> confirmed;
         dialog.getChecked(confirmed);
@@ -250,11 +255,24 @@ void DesignParameter::slot_openSekGroups()
     VKD_H_SecondaryGroupDialog dialog(data->doc, shown->groups, used, this);
     plib::setHelpTopic(&dialog, "GROUPS");
     const QPointer<DesignParameter> page(this);
-    if (dialog.exec() != QDialog::Accepted || !page)
+    const int result = dialog.exec();
+    if (!page)
+        return;
+    focusTable();
+    if (result != QDialog::Accepted)
         return;
     std::vector<int> confirmed;
     dialog.getChecked(confirmed);
     takeGroups(data->table->currentRow(), confirmed);
+}
+
+/// Returns the focus to the table after a dialog, so that the keyboard can continue with the next
+/// cell. The window may not be active again yet.
+void DesignParameter::focusTable()
+{
+    const QWidget* focused = window()->focusWidget();
+    if (focused && data->table->viewport()->isAncestorOf(focused))
+        data->table->setFocus();
 }
 
 /// Replaces the groups of a row and shows them in its editor.
