@@ -98,7 +98,7 @@ private Q_SLOTS:
         const RowTable table = readRowTable(text.replace(QLatin1String("COVER"), cover));
         DesignRowList rows(table.rows.size(), {nullptr, getDefaultMerPara(false), {}});
         QStringList lines = table.faults;
-        if (table.isUsable())
+        if (table.faults.isEmpty())
             lines = patchRows(table.rows, 0, &rows);
         for (std::size_t i = 0; lines.size() == int(i) && i < rows.size(); ++i)
             lines << QStringLiteral("%1 %2").arg(rows[i].record.hio).arg(rows[i].record.type);

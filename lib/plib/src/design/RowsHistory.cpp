@@ -28,10 +28,10 @@ struct RecordedChange
 
 /// Undoes and redoes a step. Pushing a command calls redo(), which does nothing then because the
 /// user has made the change already.
-class RowsCommand : public QUndoCommand
+class RowsHistory::Command : public QUndoCommand
 {
 public:
-    RowsCommand(RowsHistory* history, std::shared_ptr<const RecordedChange> change)
+    Command(RowsHistory* history, std::shared_ptr<const RecordedChange> change)
         : QUndoCommand(change->name)
         , m_history(history)
         , m_change(std::move(change))
@@ -115,7 +115,7 @@ void RowsHistory::record(RowsStep step, const std::set<int>& rows,
         return;
     replaceRows(m_known, change.first, int(change.before.size()), change.after);
     const TableSelection selectedAfter(*m_page->state().table);
-    m_stack.push(new RowsCommand(
+    m_stack.push(new Command(
         this, std::make_shared<RecordedChange>(RecordedChange{nameOf(step, rows), std::move(change),
                                                               selectedBefore, selectedAfter})));
     dropOldSteps();
@@ -126,7 +126,7 @@ void RowsHistory::record(RowsStep step, const std::set<int>& rows,
 void RowsHistory::dropOldSteps()
 {
     const auto changeAt = [this](int index) {
-        return static_cast<const RowsCommand*>(m_stack.command(index))->change();
+        return static_cast<const Command*>(m_stack.command(index))->change();
     };
     std::size_t size = 0;
     int kept = m_stack.count();
@@ -139,7 +139,7 @@ void RowsHistory::dropOldSteps()
         newest.push_back(changeAt(index));
     m_stack.clear();
     for (const auto& change : newest)
-        m_stack.push(new RowsCommand(this, change));
+        m_stack.push(new Command(this, change));
 }
 
 void RowsHistory::replace(const RecordedChange& change, bool isUndo)

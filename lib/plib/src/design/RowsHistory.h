@@ -35,7 +35,7 @@ public:
     void record(RowsStep step, const std::set<int>& rows, const TableSelection& selectedBefore);
 
 private:
-    friend class RowsCommand;
+    class Command;
     void showSteps();
     void replace(const RecordedChange& change, bool isUndo);
     void dropOldSteps();

@@ -28,8 +28,6 @@ struct RowTable
     std::vector<RowPatch> rows;
     bool hasGroups = false; ///< whether there is a column of groups
     QStringList faults;     ///< a line for each bad cell, with its row and column
-
-    bool isUsable() const { return faults.isEmpty() && !rows.empty(); }
 };
 
 /// Reads a table with heads in any language, in any order and with any columns. Decimal signs are
