@@ -7,7 +7,8 @@
 
 namespace workbench {
 
-/// The load cases of a project, each with a check box. The output page offers the checked ones.
+/// The load cases of a project, each with a check box. The output page offers the checked load
+/// cases.
 class LoadCaseTable : public VKD_H_TableWidget
 {
     Q_OBJECT

@@ -31,9 +31,9 @@ namespace {
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
-/// Creates the page in the language of the first page of the process and then changes it to the
-/// current one. A page created in a second language would load the catalogue again and offer each
-/// plot twice.
+/// Creates the page in the language of the first page of the process and then switches it to the
+/// current language. A page created in a second language would load the catalogue again and offer
+/// each plot twice.
 VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* parameter,
                                      AnimatorView* view)
 {
@@ -49,8 +49,8 @@ VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* par
     return page;
 }
 
-/// Replaces the camera in the string of a page by the user's. The page writes the camera of its
-/// view even if it is a fixed view; the user's own view would then be lost.
+/// Replaces the camera in the string of a page with the user's camera. The page writes the camera
+/// of its view even if it is a fixed view, which would discard the user-defined view.
 QString withUsersCamera(QString page)
 {
     const QString tag = QStringLiteral("Camera");
@@ -146,14 +146,14 @@ void OutputDialog::restore(const OutputState& saved)
     }
     offerLoadCases();
     m_choice.setProposed();
-    vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera()); // not the previous one
+    vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera()); // discards the previous camera
     if (!saved.page.isEmpty())
         m_page->readXMLstring(saved.page);
 }
 
-/// After each change of the offered load cases or contents, the tree is rebuilt once and the user's
-/// plots are checked again. The library's binding of a table is not used, because it offers plain
-/// load cases only.
+/// After each change to the offered load cases or content, the tree is rebuilt once and the user's
+/// plots are checked again. The library's table binding is not used, because it offers only plain
+/// load cases.
 void OutputDialog::bindOffers()
 {
     connect(m_loadCases, &QTableWidget::itemChanged, this, [this] {
@@ -178,11 +178,11 @@ void OutputDialog::offerLoadCases()
     m_page->setUsedNumbersAndNames(present.offeredRows(m_document->handle()));
 }
 
-/// The page emits no signal for changes, so this connects its widgets.
+/// Connects the widgets of the page, because the page itself emits no signal for changes.
 void OutputDialog::listen()
 {
     const auto start = [this] { m_changes.start(0); };
-    const QWidget* tabs = tabWidget(); // without OK and Cancel
+    const QWidget* tabs = tabWidget(); // excludes OK and Cancel
     for (const auto button : tabs->findChildren<QAbstractButton*>()) {
         connect(button, &QAbstractButton::toggled, this, start);
         connect(button, &QAbstractButton::clicked, this, start);
@@ -223,7 +223,7 @@ QString OutputDialog::script(vkd::Language keywords)
     return m_page->getTORVAL(keywords == vkd::Language::English);
 }
 
-/// The view itself stores its camera only when the user leaves the view.
+/// The view itself stores its camera only when the user switches to another view.
 void OutputDialog::storeUsersCamera()
 {
     if (showsUsersView())
@@ -290,7 +290,7 @@ void OutputDialog::setPresent(const OutputPresent& present)
         m_unchanged.clear();
     tabWidget()->setCurrentIndex(present.tab);
     setVisible(present.isVisible);
-    present.plots.restore(m_plots); // after the tree has its size
+    present.plots.restore(m_plots); // after the tree has been resized
 }
 
 } // namespace workbench

@@ -22,7 +22,7 @@ namespace workbench {
 
 class LoadCaseTable;
 
-/// The state of a dialog, for another dialog that replaces it.
+/// The state of a dialog, which can be passed to a dialog that replaces it.
 struct OutputPresent
 {
     OutputState state;
@@ -32,40 +32,42 @@ struct OutputPresent
     TreeViewState plots;
 };
 
-/// The graphical output of a project in tabs: the page with its own view, the offered load cases,
-/// and plots that are offered although the model lacks their contents. It is modeless. After OK it
-/// is only hidden, because it creates the script of the current choice.
+/// The modeless dialog for the graphical output of a project. Its tabs contain the page with its
+/// own view, the offered load cases, and plots that are offered although the model lacks their
+/// content. OK only hides the dialog, because it creates the script of the current selection.
 class OutputDialog : public VKD_H_TabDialog
 {
     Q_OBJECT
 
 public:
-    /// Shows `state`. `document` is not owned and outlives the dialog.
+    /// Shows `state`. `document` is not owned and must outlive the dialog.
     OutputDialog(VKD_H_ZOBDoc* document, const OutputState& state, QWidget* parent);
     ~OutputDialog() override;
 
-    /// Returns the script of the current choice with English or German keywords; empty if no plot
-    /// is checked.
+    /// Returns the script of the current selection with English or German keywords, or an empty
+    /// string if no plot is checked.
     QString script(vkd::Language keywords);
     /// Returns the captions of the plots that the script draws, as shown in the tree of the page.
     QVector<PlotCaption> captions();
     /// Returns the state that is saved in the project.
     OutputState state();
-    /// Returns whether the user has changed anything since the dialog was created or setUnchanged()
+    /// Returns whether the user has made any changes since the dialog was created or setUnchanged()
     /// was called.
     bool isChanged();
     void setUnchanged();
-    /// Emits choiceChanged() at once if it is due.
+    /// Emits a pending choiceChanged() immediately.
     void finishChanges();
 
     OutputPresent present();
-    /// Continues another dialog; this one must have been created with its state.
+    /// Continues the work of another dialog. This dialog must have been created with the state of
+    /// the other dialog.
     void setPresent(const OutputPresent& present);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// Emitted after changes that affect the script, once for all changes of an event.
+    /// Emitted after changes that affect the script. All changes made by one event emit it only
+    /// once.
     void choiceChanged();
 
 private:

@@ -23,7 +23,7 @@ OutputEditor::~OutputEditor() = default;
 
 OutputDialog* OutputEditor::dialog()
 {
-    if (!m_dialog && m_access->canRead() && !m_dialog) { // an event may have created it meanwhile
+    if (!m_dialog && m_access->canRead() && !m_dialog) { // an event may have created it
         m_project->look(ProjectPart::Output);
         create(OutputState::read(m_project->handle()));
     }
@@ -68,7 +68,7 @@ void OutputEditor::close()
     m_dialog.reset();
 }
 
-/// Destroys the dialog later, because it may still be closing itself.
+/// Destroys the dialog later, because it may be closing at the moment.
 void OutputEditor::closeLater()
 {
     m_dialog.release()->deleteLater();

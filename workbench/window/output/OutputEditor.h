@@ -24,7 +24,7 @@ class OutputEditor : public QObject
     Q_OBJECT
 
 public:
-    /// The arguments are not owned and outlive the editor. The actions of the window also work in
+    /// The arguments are not owned and must outlive the editor. The window's actions also work in
     /// the dialog.
     OutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
                  const QList<QAction*>& actions);
@@ -32,10 +32,10 @@ public:
 
     /// Returns whether the dialog exists.
     bool exists() const { return bool(m_dialog); }
-    /// Returns the dialog; creates it with the state of the project if it does not exist. Returns
-    /// null, after an error message, if the project cannot be read.
+    /// Returns the dialog, and creates it with the state of the project if it does not exist. If
+    /// the project cannot be read, shows an error message and returns null.
     OutputDialog* dialog();
-    /// Returns the state for recreate(); nothing if the dialog does not exist.
+    /// Returns the state for recreate(), or an empty optional if the dialog does not exist.
     std::optional<OutputPresent> present() const;
     /// Returns whether the dialog contains changes that are not stored.
     bool isChanged() const;
@@ -44,14 +44,14 @@ public:
     /// Asks whether to store changes. Returns false if the user cancels or storing fails.
     bool mayLeave();
 
-    /// Shows the dialog; `place` is its position on the screen when it is shown first.
+    /// Shows the dialog. `place` is its screen position when it is first shown.
     void show(const QPoint& place);
-    /// Creates a new dialog with the state of a previous one.
+    /// Creates a new dialog with the state of a previous dialog.
     void recreate(const OutputPresent& before);
     /// Destroys the dialog without asking.
     void close();
-    /// Destroys the dialog if another program has stored a newer state and the user does not see or
-    /// change the present one. Returns whether it was destroyed.
+    /// Destroys the dialog if another program has stored a newer state, and the dialog is hidden
+    /// and unchanged. Returns whether the dialog was destroyed.
     bool followOthers();
 
 Q_SIGNALS:
@@ -59,7 +59,7 @@ Q_SIGNALS:
     void choiceChanged();
     /// Emitted when isChanged() may have changed.
     void modified();
-    /// Emitted after OK, if the choice could not be stored: the dialog must be shown again.
+    /// Emitted if OK could not store the selection. The dialog must be shown again.
     void refused();
 
 private:

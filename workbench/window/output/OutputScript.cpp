@@ -69,14 +69,15 @@ void OutputScript::showOther()
 void OutputScript::setKeywords(vkd::Language language)
 {
     if (m_project->isOpen() && !m_output->dialog())
-        return m_pane->setKeywords(WindowSettings().keywords()); // the previous ones
+        return m_pane->setKeywords(WindowSettings().keywords()); // restores the previous keywords
     WindowSettings().setKeywords(language);
     if (m_project->isOpen())
         showOther();
     refreshSheets();
 }
 
-/// The pane shows a change when the events that cause changes are processed, which may be later.
+/// The pane shows the change after the events that cause it have been processed, which may be
+/// later.
 QString OutputScript::script()
 {
     if (m_output->exists())

@@ -14,24 +14,24 @@ class ScriptPane;
 class SheetPreview;
 class WindowMessages;
 
-/// The script of the choice in the output dialog: updates its pane and the preview of its sheets,
-/// copies the script and saves it and the sheets in files.
+/// The script of the selection in the output dialog. The class updates the script pane and the
+/// sheet preview, copies the script, and saves the script and the sheets as files.
 class OutputScript : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The panes are not owned and outlive the object.
+    /// The panes are not owned and must outlive the object.
     OutputScript(OpenProject* project, OutputEditor* output, WindowMessages* messages,
                  ScriptPane* pane, SheetPreview* sheets);
 
-    /// Updates script and sheets. Without an open project nothing changes.
+    /// Updates the script and the sheets. Does nothing if no project is open.
     void refresh();
-    /// Shows a script without marking the lines that differ from the one before.
+    /// Shows a script without marking the lines that differ from the previous script.
     void showOther();
     /// Clears the script until refresh() is called.
     void clear();
-    /// Sets whether the user sees the preview. A hidden preview is not updated.
+    /// Sets whether the preview is visible to the user. A hidden preview is not updated.
     void setSheetsVisible(bool visible);
 
     void copy();
@@ -39,7 +39,7 @@ public:
     void exportSheets();
 
 Q_SIGNALS:
-    /// Emitted after each update; `isEmpty` is true if there is no script.
+    /// Emitted after each update. `isEmpty` is true if there is no script.
     void refreshed(bool isEmpty);
 
 private:

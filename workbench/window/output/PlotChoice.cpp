@@ -44,8 +44,8 @@ QString PlotChoice::shown() const
     return vkd_qt_readXMLpart(m_page->writeXMLstring(), 0, Plots);
 }
 
-/// Stores the view's camera before and restores the desktop's camera afterwards, because reading a
-/// string makes the page's view use the stored camera.
+/// Stores the view's camera before reading the string and restores the desktop's camera afterwards,
+/// because reading a string makes the page's view use the stored camera.
 void PlotChoice::show(const QString& plots)
 {
     const CameraRollback camera;

@@ -7,20 +7,20 @@ class VKD_P_WidgetGraphicalOutput;
 
 namespace workbench {
 
-/// The user's choice of plots on an output page. It preserves the choice when the offered load
-/// cases or contents change; the page itself would return to the plots that the catalogue proposes.
-/// A plot or load case that is offered again gets its previous check mark. As long as the user has
-/// chosen nothing, the proposal for the current offer applies.
+/// The user's choice of plots on an output page. The class preserves the choice when the offered
+/// load cases or content change; the page itself would revert to the plots that the catalogue
+/// proposes. A plot or load case that is offered again gets its previous check state. As long as
+/// the user has not changed the choice, the catalogue's proposal for the offered plots applies.
 class PlotChoice
 {
 public:
-    /// Neither is owned; `view` is the view of the page.
+    /// `view` is the view of the page. Neither argument is owned.
     PlotChoice(VKD_P_WidgetGraphicalOutput* page, AnimatorView* view);
 
-    /// Remembers the plots that the page shows now as the proposal of the catalogue.
+    /// Stores the page's current plots as the catalogue's proposal.
     void setProposed();
-    /// Must be called before each change of the offered load cases or contents, and giveBack()
-    /// after it.
+    /// Must be called before each change to the offered load cases or content; giveBack() must be
+    /// called after the change.
     void remember();
     void giveBack();
 
@@ -30,8 +30,8 @@ private:
 
     VKD_P_WidgetGraphicalOutput* m_page;
     AnimatorView* m_view;
-    QString m_chosen; ///< the selection text of the user's plots; null for the proposal
-    QString m_shown;  ///< the part of the text that the page could show after the last change
+    QString m_chosen; ///< selection text of the user's plots; null for the proposal
+    QString m_shown;  ///< part of the text that the page could show after the last change
 };
 
 } // namespace workbench

@@ -13,11 +13,11 @@ class TreeViewState
 public:
     explicit TreeViewState(const QTreeWidget& tree);
 
-    /// Restores the state. A tree with another number of rows is not changed.
+    /// Restores the state. A tree with a different number of rows is not changed.
     void restore(QTreeWidget* tree) const;
 
 private:
-    QVector<bool> m_areOpen; ///< of all rows, from the top
+    QVector<bool> m_areOpen; ///< whether each row is expanded, from the top
     int m_current = -1;
     int m_top = -1;
 };

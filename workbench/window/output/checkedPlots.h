@@ -6,9 +6,9 @@ class QTreeWidget;
 
 namespace workbench {
 
-/// Returns the checked plots and load case rows in the tree of an output page, in the order of the
-/// tree, which is that of the pictures in the script. Plots that lack load cases are left out,
-/// because they produce no picture.
+/// Returns the checked plots and load case rows in the tree of an output page. They are in the
+/// order of the tree, which is also the order of the pictures in the script. Plots that lack load
+/// cases are omitted, because they produce no picture.
 QVector<PlotCaption> checkedPlots(QTreeWidget* tree);
 
 } // namespace workbench

@@ -11,7 +11,7 @@
 namespace workbench {
 
 /// The design records of a project as a table: a column for each record, and a row for each of its
-/// words of four bytes, with name and unit as the heading.
+/// four-byte fields, with the field's name and unit as the header.
 class RecordTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -19,10 +19,10 @@ class RecordTableModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Reloads the records of the project; none if the handle is null. Of a longer record, only the
-    /// known words are shown. Returns whether all records were read.
+    /// Reloads the records of the project, or clears the table if the handle is null. Only known
+    /// fields are shown, even if a record is longer. Returns whether all records were read.
     bool read(ZobHandle project);
-    /// Returns the text with the most characters.
+    /// Returns the cell text with the most characters.
     QString longestText() const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;

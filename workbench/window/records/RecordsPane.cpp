@@ -59,7 +59,8 @@ void RecordsPane::setTexts()
     fitColumns();
 }
 
-/// Gives all columns the same width: fitting thousands of columns one by one takes seconds.
+/// Gives all columns the same width, because resizing thousands of columns one by one takes
+/// seconds.
 void RecordsPane::fitColumns()
 {
     const int columns = m_model->columnCount();

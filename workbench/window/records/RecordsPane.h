@@ -8,8 +8,8 @@ namespace workbench {
 
 class RecordTableModel;
 
-/// The design records of the project, word by word. Names and units of the words stay visible while
-/// the records are scrolled. Selected cells can be copied.
+/// Shows the design records of the project field by field. The names and units of the fields stay
+/// visible while the records are scrolled. Selected cells can be copied.
 class RecordsPane : public QTableView
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ class RecordsPane : public QTableView
 public:
     explicit RecordsPane(QWidget* parent = nullptr);
 
-    /// Reloads the records of the project; none if the handle is null. Returns whether all records
-    /// were read.
+    /// Reloads the records of the project, or clears the pane if the handle is null. Returns
+    /// whether all records were read.
     bool setProject(ZobHandle project);
 
 protected:

@@ -11,7 +11,7 @@ constexpr int Orange = 25;
 constexpr int Blue = 222;
 constexpr int Violet = 290;
 
-/// Returns a colour of this hue that is readable on the background of texts.
+/// Returns a colour with this hue that is readable on the text background.
 QColor readable(const QPalette& palette, int hue)
 {
     const bool isDark = palette.color(QPalette::Base).lightness() < 128;
@@ -23,7 +23,7 @@ QColor between(const QColor& a, const QColor& b)
     return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }
 
-/// A dollar sign begins a comment, but before a bracket it begins a reference.
+/// A dollar sign begins a comment, except before a bracket, where it begins a reference.
 int commentStart(const QString& text)
 {
     int at = text.indexOf(QLatin1Char('$'));
@@ -43,7 +43,7 @@ ScriptColours::ScriptColours(const QPalette& palette)
     m_definition.setForeground(readable(palette, Violet));
     m_comment.setForeground(between(palette.color(QPalette::Text), palette.color(QPalette::Base)));
     m_comment.setFontItalic(true);
-    m_changed.setAlpha(60); // so that the text keeps its colours
+    m_changed.setAlpha(60); // preserves the colours of the text
 }
 
 QVector<QTextLayout::FormatRange> ScriptColours::formats(const QString& line) const

@@ -7,16 +7,16 @@ class QPalette;
 namespace workbench {
 
 /// Colours of a script: statements, keywords, numbers, definitions and comments. German and English
-/// keywords are recognised by their form: they are short and in capitals.
+/// keywords are recognised by their form: they are short and in upper case.
 class ScriptColours
 {
 public:
-    /// The colours are readable on the background of texts in this palette.
+    /// The colours are readable on the text background of this palette.
     explicit ScriptColours(const QPalette& palette);
 
-    /// Returns the formats of the parts of a line.
+    /// Returns the formats for the parts of a line.
     QVector<QTextLayout::FormatRange> formats(const QString& line) const;
-    /// Returns the background of lines that changed.
+    /// Returns the background for changed lines.
     const QColor& changed() const { return m_changed; }
 
 private:

@@ -18,7 +18,7 @@ namespace workbench {
 namespace {
 using vkd::Language; // its values are the rows of the combo box
 
-/// Finds a font of fixed width: some desktops return a proportional one.
+/// Returns a fixed-width font. Some desktops return a proportional font as their fixed font.
 QFont fixedFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -106,7 +106,7 @@ void ScriptPane::setTexts()
 
 void ScriptPane::show(const TextLines& lines, const QVector<LineChange>& changes)
 {
-    if (m_text->plainText().isEmpty() && !lines.text().isEmpty()) // searching for it takes time
+    if (m_text->plainText().isEmpty() && !lines.text().isEmpty()) // finding a font takes time
         m_text->setFont(fixedFont());
     m_text->setLines(lines, changes);
 }

@@ -16,22 +16,23 @@ struct LineChange;
 class ScriptView;
 class TextLines;
 
-/// Shows the script of the current choice; the background marks the lines that changed last.
+/// Shows the script of the current selection; the lines of the last change have a coloured
+/// background.
 class ScriptPane : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Creates a button for each of the actions of the window that copy and save the script.
+    /// Creates a button for each window action that copies or saves the script.
     ScriptPane(QAction* copy, QAction* save, QWidget* parent);
 
-    /// Returns the language of the keywords. The setter emits no signal.
+    /// Return or set the language of the keywords. The setter emits no signal.
     vkd::Language keywords() const;
     void setKeywords(vkd::Language language);
 
     QString script() const;
-    /// Shows a script and marks the lines that the previous one lacks. An equal script changes
-    /// nothing.
+    /// Shows a script and marks the lines that differ from the previous script. An equal script
+    /// changes nothing.
     void setScript(const QString& script);
     /// Shows a script without marking lines.
     void setOtherScript(const QString& script);
@@ -47,7 +48,7 @@ private:
     void show(const TextLines& lines, const QVector<LineChange>& changes);
 
     QLabel* m_languageLabel;
-    // In tab order.
+    // The widgets are in tab order.
     QComboBox* m_language;
     QToolButton* m_copy;
     QToolButton* m_save;

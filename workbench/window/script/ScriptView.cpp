@@ -1,4 +1,4 @@
-// The part of the view that shows the script; scriptViewInput.cpp has the keys and the mouse.
+// The part of the view that shows the script; scriptViewInput.cpp handles keyboard and mouse.
 
 #include "window/script/ScriptView.h"
 
@@ -108,7 +108,7 @@ void ScriptView::copy() const
         QApplication::clipboard()->setText(selectedText());
 }
 
-/// Does not scroll to the end, as in other text fields.
+/// As in other text fields, does not scroll to the end.
 void ScriptView::selectAll()
 {
     m_anchor = 0;
@@ -221,7 +221,7 @@ void ScriptView::layOut(QTextLayout& layout, int line) const
     layout.endLayout();
 }
 
-/// Measures the text; in a fixed font, the line with the most characters is the widest.
+/// Measures the text. In a fixed-width font, the line with the most characters is the widest line.
 void ScriptView::measure()
 {
     const QString longest = m_lines.line(m_lines.longest()).toString();
@@ -241,7 +241,7 @@ void ScriptView::fitScrollBars()
     across->setRange(0, qMax(0, m_textWidth + 2 * Margin - viewport()->width()));
 }
 
-/// Scrolls as little as possible.
+/// Scrolls no further than necessary.
 void ScriptView::scrollTo(int position)
 {
     QScrollBar* down = verticalScrollBar();

@@ -10,11 +10,11 @@
 
 namespace workbench {
 
-/// Shows a script of any length, of which the user can select and copy parts. The background marks
-/// the lines that changed last. Only visible lines are laid out and coloured, and apart from the
-/// text, a line takes four bytes. The document of a QPlainTextEdit would take ten times as long as
-/// making the script, and nine times the memory of its text. Lines are not wrapped, and the font
-/// must be fixed.
+/// Shows a script of any length. The user can select and copy parts of it. The lines of the last
+/// change have a coloured background. Only visible lines are laid out and coloured, and a line
+/// needs four bytes in addition to its text. Filling the document of a QPlainTextEdit would take
+/// ten times as long as generating the script, and nine times as much memory as the text. Lines are
+/// not wrapped, and the font must be a fixed-width font.
 class ScriptView : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -26,26 +26,26 @@ public:
 
     const TextLines& lines() const { return m_lines; }
     QString plainText() const { return m_lines.text(); }
-    /// Replaces the text. The new lines of the changes are marked, and the first of them becomes
-    /// visible. Otherwise the view stays where it is.
+    /// Replaces the text and marks the new lines. The view scrolls only if necessary to show the
+    /// first new line.
     void setLines(const TextLines& lines, const QVector<LineChange>& changes);
     /// Returns the last changes.
     const QVector<LineChange>& changes() const { return m_changes; }
 
     QString placeholderText() const { return m_placeholder; }
-    /// Sets the text that is shown instead of an empty script.
+    /// Sets the placeholder text, which is shown instead of an empty script.
     void setPlaceholderText(const QString& text);
 
     /// Returns the position of the cursor, which is one end of the selection.
     int cursorPosition() const { return m_cursor.position; }
-    /// Returns the selected part, which may be empty.
+    /// Returns the selected range, which may be empty.
     TextRange selection() const;
     QString selectedText() const;
-    /// Selects the part from the anchor to the cursor, and scrolls to the cursor.
+    /// Selects the range from the anchor to the cursor, and scrolls to the cursor.
     void select(int anchor, int cursor);
-    /// Returns the position of the character nearest to a point of the viewport.
+    /// Returns the position of the character nearest to a point in viewport coordinates.
     int positionAt(const QPoint& point) const;
-    /// Returns the place of the cursor before a character, in pixels of the viewport.
+    /// Returns the rectangle of the cursor before a character, in viewport coordinates (pixels).
     QRect cursorRect(int position) const;
 
 public Q_SLOTS:
@@ -71,7 +71,7 @@ private:
     using Unit = TextRange (*)(const TextLines&, int position);
 
     int lineHeight() const { return fontMetrics().height(); }
-    int visibleLines() const; ///< completely visible ones
+    int visibleLines() const; ///< number of completely visible lines
     int lineNear(int y) const;
     QPoint placeOf(int line) const;
     void layOut(QTextLayout& layout, int line) const;
@@ -100,12 +100,12 @@ private:
     bool m_isCursorLit = false;
     QBasicTimer m_blinking;
 
-    Unit m_unit = nullptr; // in which the mouse selects; null while it does not select
-    TextRange m_first;     // the unit at which the mouse began
+    Unit m_unit = nullptr; // finds what the mouse selects; null while it does not select
+    TextRange m_first;     // unit at which the mouse selection began
     bool m_mayDrag = false;
     QPoint m_pressed;
     QElapsedTimer m_sinceDoubleClick;
-    QBasicTimer m_scrolling; // while the mouse selects outside of the viewport
+    QBasicTimer m_scrolling; // runs while the mouse selects outside the viewport
 };
 
 } // namespace workbench

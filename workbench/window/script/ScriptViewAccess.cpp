@@ -131,7 +131,7 @@ int ScriptViewAccess::characterCount() const
     return view()->lines().text().size();
 }
 
-/// Returns an empty rectangle for line ends.
+/// Returns an empty rectangle for a newline.
 QRect ScriptViewAccess::characterRect(int offset) const
 {
     if (offset < 0 || offset > characterCount())

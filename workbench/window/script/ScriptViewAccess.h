@@ -8,15 +8,16 @@ struct LineChange;
 class ScriptView;
 class TextLines;
 
-/// The view of a script for screen readers: a text that can be read and selected, but not edited.
+/// Makes the view of a script accessible to screen readers, as text that can be read and selected
+/// but not edited.
 class ScriptViewAccess : public QAccessibleWidget, public QAccessibleTextInterface
 {
 public:
     explicit ScriptViewAccess(ScriptView* view);
 
-    /// Makes Qt create objects of this class for views.
+    /// Makes Qt create objects of this class for script views.
     static void install();
-    /// Report a change of the text, and of the cursor or the selection.
+    /// Report a change to the text, or to the cursor or the selection.
     static void tellText(ScriptView* view, const TextLines& before,
                          const QVector<LineChange>& changes);
     static void tellSelection(ScriptView* view);

@@ -5,8 +5,8 @@
 
 namespace workbench {
 
-/// A text and the positions of its lines. Apart from the text, a line takes four bytes. Copies
-/// share their data. Even an empty text has one line.
+/// A text and the positions of its lines. A line needs four bytes in addition to its text. The
+/// class is implicitly shared. Even an empty text has one line.
 class TextLines
 {
 public:
@@ -14,14 +14,14 @@ public:
 
     const QString& text() const { return m_text; }
     int count() const { return m_starts.size(); }
-    /// Returns a line without its line end; the text must outlive it.
+    /// Returns a line without its newline. The object must outlive the returned view.
     QStringView line(int number) const;
-    /// Return the positions of the first character of a line and of its end.
+    /// Return the position of the first character of a line, or the position of its end.
     int start(int number) const { return m_starts[number]; }
     int end(int number) const;
-    /// Returns the line of a character or a line end.
+    /// Returns the line that contains a character or a newline.
     int lineAt(int position) const;
-    /// Returns the number of the line with the most characters.
+    /// Returns the index of the line with the most characters.
     int longest() const { return m_longest; }
 
 private:

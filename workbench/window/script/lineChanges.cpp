@@ -9,15 +9,15 @@
 namespace workbench {
 
 namespace {
-constexpr int MaximumChanges = 400; // lines: time and memory grow with the square
+constexpr int MaximumChanges = 400; // lines: time and memory use are quadratic
 
 bool areEqual(QStringView a, QStringView b)
 {
     return std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0;
 }
 
-/// Returns the number of equal characters at the beginning. Compares whole blocks, because that is
-/// several times faster than comparing characters.
+/// Returns the number of equal characters at the beginning. Compares whole blocks, because this is
+/// several times faster than comparing single characters.
 int commonCharacters(QStringView a, QStringView b)
 {
     constexpr int Block = 4096;
@@ -39,7 +39,8 @@ int commonBeginning(const TextLines& before, const TextLines& after)
     return isWhole ? line + 1 : line;
 }
 
-/// Returns the number of equal lines at the end, apart from those at the beginning.
+/// Returns the number of equal lines at the end that are not among the equal lines at the
+/// beginning.
 int commonEnd(const TextLines& before, const TextLines& after, int beginning)
 {
     const int most = std::min(before.count(), after.count()) - beginning;
@@ -62,7 +63,8 @@ public:
     {
     }
 
-    /// Returns the changes in rising order; none if there are more than MaximumChanges lines.
+    /// Returns the changes in ascending order, or no changes if more than MaximumChanges lines
+    /// differ.
     QVector<LineChange> changes()
     {
         for (int edits = 0; edits <= MaximumChanges; ++edits)
@@ -72,7 +74,8 @@ public:
     }
 
 private:
-    /// For each diagonal from -edits to edits: how many old lines the longest path has passed.
+    /// For each diagonal from -edits to edits, the number of old lines that the longest path has
+    /// passed.
     using Furthest = std::vector<int>;
 
     static bool isInsertion(const Furthest& previous, int edits, int diagonal)
@@ -129,7 +132,7 @@ private:
         return found;
     }
 
-    /// Adds a change before the ones that were found, and joins it with one that it touches.
+    /// Inserts a change before the existing changes, and merges it with an adjacent change.
     static void add(QVector<LineChange>* found, const LineChange& change)
     {
         const bool touches = !found->isEmpty() &&
@@ -145,7 +148,7 @@ private:
     const TextLines& m_before;
     const TextLines& m_after;
     const LineChange m_whole;
-    std::vector<Furthest> m_furthest; // by number of edits
+    std::vector<Furthest> m_furthest; // indexed by number of edits
 };
 } // namespace
 

@@ -1,4 +1,4 @@
-// The part of the view that reacts to keys and to the mouse.
+// The part of the view that handles keyboard and mouse input.
 
 #include "window/script/ScriptView.h"
 
@@ -19,7 +19,7 @@ namespace workbench {
 namespace {
 constexpr int ScrollInterval = 100; // ms
 
-/// Keys that move the cursor, and those that also select.
+/// Standard keys that move the cursor, each with the key that also selects.
 constexpr struct
 {
     QKeySequence::StandardKey moves;
@@ -46,7 +46,7 @@ TextRange characterAt(const TextLines&, int position)
 }
 } // namespace
 
-/// Claims the keys that the view uses before shortcuts of the window.
+/// Accepts keys that the view uses, so that they do not trigger shortcuts of the window.
 bool ScriptView::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
@@ -140,7 +140,7 @@ void ScriptView::mouseReleaseEvent(QMouseEvent* event)
         clipboard->setText(selectedText(), QClipboard::Selection);
 }
 
-/// Selects the unit at this position, or nothing without a unit.
+/// Selects the unit at this position. If `unit` is null, clears the selection.
 void ScriptView::beginSelection(int position, Unit unit)
 {
     m_unit = unit;
@@ -148,7 +148,7 @@ void ScriptView::beginSelection(int position, Unit unit)
     select(m_first.start, m_first.end);
 }
 
-/// Selects from the first unit to the one at this point.
+/// Selects the range from the first unit to the unit at this point.
 void ScriptView::extendSelection(const QPoint& point)
 {
     const TextRange last = m_unit(m_lines, positionAt(point));

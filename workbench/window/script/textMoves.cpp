@@ -5,7 +5,7 @@
 namespace workbench {
 
 namespace {
-/// Returns a finder for the line at the position, which it has been moved to.
+/// Returns a boundary finder for the line that contains the position, placed at the position.
 QTextBoundaryFinder finderAt(const TextLines& lines, int position,
                              QTextBoundaryFinder::BoundaryType type)
 {
@@ -44,7 +44,7 @@ bool beginsWord(const TextLines& lines, int position)
     return position == lines.start(line) || (finder.isAtBoundary() && !isSpace(position));
 }
 
-/// Moves at least once, and on to the next beginning of a word or a line.
+/// Moves at least one boundary, up to the next beginning of a word or a line.
 int movedToWord(const TextLines& lines, int position, int (*step)(const TextLines&, int))
 {
     int at = step(lines, position);

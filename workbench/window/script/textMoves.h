@@ -4,7 +4,7 @@
 
 namespace workbench {
 
-/// The ways in which keys move the cursor of a text.
+/// The cursor movements that keys can trigger.
 enum class TextMove {
     PreviousCharacter,
     NextCharacter,
@@ -20,26 +20,26 @@ enum class TextMove {
     End
 };
 
-/// A place in a text. Moves between lines of different lengths preserve the column.
+/// A cursor position in a text. Moving between lines of different lengths preserves the column.
 struct TextPlace
 {
     int position = 0;
     int column = 0;
 };
 
-/// A part of a text.
+/// A range of a text.
 struct TextRange
 {
     int start = 0;
-    int end = 0; ///< after the last character
+    int end = 0; ///< position after the last character
 };
 
 TextPlace placeAt(const TextLines& lines, int position);
-/// `page` is the number of lines of a page.
+/// `page` is the number of lines on a page.
 TextPlace moved(const TextLines& lines, const TextPlace& from, TextMove move, int page);
-/// Returns the word or the run of other characters at this position.
+/// Returns the word, or the sequence of other characters, at this position.
 TextRange wordAt(const TextLines& lines, int position);
-/// Returns the line at this position with its line end.
+/// Returns the line at this position, including its newline.
 TextRange lineAt(const TextLines& lines, int position);
 
 } // namespace workbench

@@ -6,12 +6,13 @@ class QWidget;
 
 namespace workbench {
 
-/// Sets the help topic `BOOK/TOPIC` of a widget and its children. The topic is stored in the
-/// dynamic property "helpTopic", as in the dialogs of the libraries.
+/// Sets the help topic of a widget and its children, in the form `BOOK/TOPIC`. The topic is stored
+/// in the dynamic property "helpTopic", as in the dialogs of the libraries.
 void setHelpTopic(QWidget* widget, const char* topic);
 
-/// Returns the topic of the widget, otherwise that of its nearest ancestor with a topic, across
-/// windows: a message box has the topic of its dialog. Empty if there is none.
+/// Returns the topic of the widget, or the topic of its nearest ancestor with a topic, or an empty
+/// string without such an ancestor. The search continues across windows, so a message box has the
+/// topic of its dialog.
 QString helpTopic(const QWidget* widget);
 
 /// Handles the help key in a window and in all its dialogs, even modal ones. While a list or a menu
@@ -21,7 +22,7 @@ class HelpKey : public QObject
     Q_OBJECT
 
 public:
-    /// The window becomes the owner.
+    /// The window becomes the owner of the object.
     explicit HelpKey(QWidget* window);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

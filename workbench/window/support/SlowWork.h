@@ -30,21 +30,22 @@ private:
     bool m_isOn = true;
 };
 
-/// Shows long work to the user: at once by the wait cursor, and after half a second by a progress
-/// dialog with Cancel. No events are processed until the dialog is open; from then on the user can
-/// operate only the dialog.
+/// Shows the user that a long-running operation is in progress: immediately with the wait cursor,
+/// and after half a second with a progress dialog with a Cancel button. No events are processed
+/// until the dialog is open. While it is open, the user can use only this dialog.
 class SlowWork
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::SlowWork)
 
 public:
-    /// `parent` is the parent of the dialog. `maximum` is the last value, or 0 if it is unknown.
+    /// `parent` is the parent of the dialog. `maximum` is the last value, or 0 if the last value is
+    /// unknown.
     SlowWork(QWidget* parent, const QString& text, int maximum);
     ~SlowWork();
     SlowWork(const SlowWork&) = delete;
     SlowWork& operator=(const SlowWork&) = delete;
 
-    /// Updates the progress; must be called regularly. Returns false once the user has cancelled.
+    /// Updates the progress; must be called regularly. Returns false if the user has cancelled.
     bool goOn(int value);
     /// Returns the time since the work began, in ms.
     int elapsed() const;
@@ -57,7 +58,7 @@ private:
     QString m_text;
     int m_maximum;
     WaitCursor m_cursor;
-    std::unique_ptr<QProgressDialog> m_box; // after half a second
+    std::unique_ptr<QProgressDialog> m_box; // created after half a second
 };
 
 } // namespace workbench

@@ -6,14 +6,14 @@ class QWidget;
 
 namespace workbench {
 
-/// Saves size and position of a window in the settings of the program when it is hidden, and
-/// restores them in the next window with the same object name. The window is the owner.
+/// Saves the size and position of a window in the program settings when the window is hidden, and
+/// restores them in the next window with the same object name. The window owns the object.
 class WindowGeometry : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Restores the geometry. The window must already have the size for its first appearance.
+    /// Restores the geometry. The window must already have its default size.
     explicit WindowGeometry(QWidget* window);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -38,7 +38,7 @@ void WindowSettings::addRecentFile(const QString& path)
         if (QFileInfo(file).canonicalFilePath() != canonical)
             files << file;
     if (files == before)
-        return; // saves a write to the disk
+        return; // avoids writing to the disk
     setValue(RecentKey, QStringList(files.mid(0, MaximumCount)));
 }
 

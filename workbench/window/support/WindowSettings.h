@@ -7,7 +7,7 @@
 
 namespace workbench {
 
-/// The settings of the window that are saved between two starts, in a file of this program.
+/// The window settings that are preserved between sessions, in a settings file of this program.
 class WindowSettings : public QSettings
 {
     Q_OBJECT
@@ -15,12 +15,12 @@ class WindowSettings : public QSettings
 public:
     WindowSettings();
 
-    /// Returns the projects that were opened last, the latest first, at most eight. A file occurs
-    /// once, even if it was opened by different paths. Missing files are left out.
+    /// Returns the most recently opened projects, the latest first, at most eight. A file occurs
+    /// only once, even if it was opened by different paths. Missing files are omitted.
     QStringList recentFiles() const;
     void addRecentFile(const QString& path);
 
-    /// Returns the saved language of the window; `otherwise` if none was saved.
+    /// Returns the saved language of the window, or `otherwise` if no language was saved.
     vkd::Language language(vkd::Language otherwise) const;
     void setLanguage(vkd::Language language);
     /// Returns the saved language of a script's keywords.

@@ -6,8 +6,8 @@ namespace workbench {
 
 enum class NewerAnswer { Overwrite, Reload, GoBack };
 
-/// Asks what to do if the data of a dialog would replace newer data, which another program has
-/// stored since the dialog read them.
+/// Asks how to proceed if the data of a dialog would replace newer data that another program has
+/// stored since the dialog was opened.
 NewerAnswer askAboutNewer(QWidget* parent);
 
 } // namespace workbench

@@ -19,7 +19,7 @@ QString chooseFileToSave(QWidget* parent, const QString& title, const QString& p
     dialog.selectFile(proposal);
     while (dialog.exec() == QDialog::Accepted) {
         const QString path = dialog.selectedFiles().value(0);
-        if (path != openProject && !isSameFile(path, openProject)) // its file may be missing
+        if (path != openProject && !isSameFile(path, openProject)) // it may be missing
             return path;
         VKD_QT_MessageBox::warning(
             parent, title,

@@ -14,7 +14,7 @@ namespace workbench {
 namespace {
 constexpr int Kilobyte = 1024;
 
-/// Returns the status after a failure. Qt reports no error if only a part was written.
+/// Returns the status after a failure. Qt reports no error if only part of the data was written.
 VkdStatus failureOf(const QFileDevice& file)
 {
     switch (file.error()) {
@@ -43,7 +43,7 @@ VkdStatus copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
     return isWritten && to.flush() ? VkdStatus() : failureOf(to);
 }
 
-/// Calls `attempt` until the store is not locked, see waitForStore().
+/// Calls `attempt` until the store is no longer locked, see waitForStore().
 VkdStatus waitFor(QWidget* parent, const QString& path, const std::function<VkdStatus()>& attempt)
 {
     VkdStatus status;

@@ -6,8 +6,8 @@
 
 namespace workbench {
 
-/// Returns a sentence for the user that explains why the store refuses a project file, for a
-/// VkdZobStatus. The sentence calls the file "it", so the previous sentence must name the file.
+/// Returns a sentence for a VkdZobStatus that explains to the user why the store refuses a project
+/// file. The sentence refers to the file as "it", so the preceding sentence must mention the file.
 QString storeErrorText(const QString& path, cd_error_t status);
 
 } // namespace workbench

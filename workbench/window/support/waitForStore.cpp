@@ -11,9 +11,9 @@
 namespace workbench {
 
 namespace {
-constexpr int AttemptMs = 50; // so that the user can cancel soon
+constexpr int AttemptMs = 50; // lets the user cancel quickly
 
-/// Calls `attempt` with a short deadline of the store.
+/// Calls `attempt` with a short timeout of the store.
 cd_error_t attemptShortly(const std::function<cd_error_t()>& attempt)
 {
     const int setting = vkd_lib_getvalue(VKD_SETTING_LOCK_DEADLINE);

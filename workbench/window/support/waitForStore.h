@@ -10,10 +10,10 @@ class QWidget;
 
 namespace workbench {
 
-/// Calls `attempt`, which needs the project file at `path`, and repeats this while another program
-/// locks the file, at most for the deadline of the store. After half a second a dialog shows this
-/// and offers Cancel. `attempt` returns a VkdZobStatus; if it fails, it must change nothing.
-/// Returns the status of the last attempt, or VKD_ZOB_CANCELLED.
+/// Calls `attempt`, which needs the project file at `path`. While another program locks the file,
+/// repeats the call until the timeout of the store expires. After half a second, a dialog with a
+/// Cancel button is shown. `attempt` returns a VkdZobStatus. If it fails, it must leave everything
+/// unchanged. Returns the status of the last attempt, or VKD_ZOB_CANCELLED.
 cd_error_t waitForStore(QWidget* parent, const QString& path,
                         const std::function<cd_error_t()>& attempt);
 

@@ -7,9 +7,10 @@
 namespace workbench {
 
 namespace {
-const QSize Frame(16, 40); // estimated: unknown until the window is shown
+const QSize Frame(16, 40); // estimate; the frame size is unknown until the window is shown
 
-/// An offscreen platform has no screen that limits the window; screenshots may be large.
+/// Returns whether the platform is offscreen. Its screen does not limit windows, because
+/// screenshots may be large.
 bool isOffScreen()
 {
     return QGuiApplication::platformName() == QLatin1String("offscreen");

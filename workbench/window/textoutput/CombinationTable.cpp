@@ -26,7 +26,7 @@ constexpr struct
     {Group::All_NONF, QT_TRANSLATE_NOOP("workbench::CombinationTable", "Non-frequent")},
 };
 
-/// Words in titles, in both languages. The first match counts, so "non-frequent" is before
+/// Words in titles, in both languages. The first match is used, so "non-frequent" comes before
 /// "frequent".
 int proposedKind(const QString& title)
 {

@@ -9,8 +9,8 @@ class VKD_QT4_ComboBox;
 namespace workbench {
 
 /// The combinations of a project, each with its kind, so that a rule can select all combinations of
-/// a kind. Kinds are values of VKD_P_RadioGroup::ButtonID, or 0 for other combinations. Until a
-/// kind is chosen, it is guessed from the title of the combination.
+/// a kind. Kinds are values of VKD_P_RadioGroup::ButtonID, or 0 for other combinations. Until the
+/// user chooses a kind, it is guessed from the title of the combination.
 class CombinationTable : public PickTable
 {
     Q_OBJECT
@@ -22,9 +22,10 @@ public:
 
     /// Returns the combinations of one kind.
     QVector<int> numbersOf(int kind) const;
-    /// Returns the kinds by the numbers of the combinations.
+    /// Returns the kinds, keyed by combination number.
     QMap<int, int> kinds() const;
-    /// Sets the kinds. Rows without a valid kind in `kinds` get the kind guessed from the title.
+    /// Sets the kinds. For rows without a valid kind in `kinds`, the kind is guessed from the
+    /// title.
     void setKinds(const QMap<int, int>& kinds);
 
 private:

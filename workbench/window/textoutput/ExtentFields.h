@@ -7,8 +7,8 @@ class VKD_QT4_ComboBox;
 
 namespace workbench {
 
-/// Check boxes for the lists of a text output, and the choice of the values in them. Like
-/// PickTable, it can show the result of a rule instead of the user's individual choice.
+/// Check boxes for the lists of a text output, and the choice of the values that the lists contain.
+/// Like PickTable, it can show the result of a rule instead of the user's individual choice.
 class ExtentFields : public QWidget
 {
     Q_OBJECT
@@ -17,13 +17,13 @@ public:
     enum List { System = 1, Loads = 2, Displacements = 4, Forces = 8, Reactions = 16 };
     static constexpr int ResultLists = Displacements | Forces | Reactions;
     static constexpr int AllLists = System | Loads | ResultLists;
-    /// The forces and displacements are not included: for a whole model they are long, and few
-    /// users read them.
+    /// Forces and displacements are not included, because these lists are long for a whole model
+    /// and few users read them.
     static constexpr int DefaultLists = System | Loads | Reactions;
 
     explicit ExtentFields(QWidget* parent);
 
-    /// The individual choice.
+    /// The user's individual choice.
     struct Choice
     {
         int lists = 0; ///< a sum of bits
@@ -32,11 +32,11 @@ public:
     Choice choice() const { return m_showsRule ? m_choice : displayed(); }
     void setChoice(const Choice& choice);
 
-    /// Shows the individual choice, or the result of a rule. Neither emits a signal.
+    /// Show the individual choice or the result of a rule. Neither function emits a signal.
     void showChosen();
     void showRule(const Choice& rule);
 
-    /// Returns the names of lists as on the check boxes, separated by commas.
+    /// Returns the names of lists as shown on the check boxes, separated by commas.
     static QString listNames(int lists);
     static QString valuesName(bool all);
 
@@ -50,7 +50,7 @@ private:
     QVector<QCheckBox*> m_boxes; ///< in the order of the bits
     VKD_QT4_ComboBox* m_values;
     bool m_showsRule = false;
-    Choice m_choice; ///< the individual one, while a rule is shown
+    Choice m_choice; ///< the individual choice while a rule is shown
 };
 
 } // namespace workbench

@@ -9,7 +9,7 @@
 namespace workbench {
 
 namespace {
-constexpr int FewRows = 2; // so that the dialog fits on a small screen
+constexpr int FewRows = 2; // lets the dialog fit on a small screen
 constexpr int UsualRows = 4;
 
 QStandardItem* newItem(const QVariant& shown)
@@ -38,10 +38,10 @@ PickTable::PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, c
     setTabKeyNavigation(false);
     verticalHeader()->hide();
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter); // as the cells
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter); // like the cells
     horizontalHeader()->setSectionResizeMode(NumberColumn, QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
-    // The current row is needed for the space key, but must not look selected.
+    // The space key needs a current row, but this row must not look selected.
     selectionModel()->setCurrentIndex(m_model->index(0, NumberColumn),
                                       QItemSelectionModel::NoUpdate);
     connect(m_model, &QStandardItemModel::itemChanged, this, &PickTable::changed);

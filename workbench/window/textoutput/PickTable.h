@@ -22,17 +22,17 @@ public:
     PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
     QVector<int> numbers() const;
-    /// Returns the numbers of the rows in the individual choice.
+    /// Returns the numbers of the load cases or combinations in the individual choice.
     QVector<int> picked() const;
-    /// Returns the numbers that are not in the individual choice.
+    /// Returns the numbers of the load cases or combinations that are not in the individual choice.
     QSet<int> leftOut() const { return m_showsRule ? m_leftOut : shownAsLeftOut(); }
     void setLeftOut(const QSet<int>& numbers);
 
-    /// Shows the individual choice, or the result of a rule. Neither emits a signal.
+    /// Show the individual choice or the result of a rule. Neither function emits a signal.
     void showPicked();
     void showRule(const QVector<int>& numbers);
 
-    /// Returns a height of a few rows; the dialog may give the table more.
+    /// Returns a height of a few rows. The dialog may give the table more height.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -40,7 +40,7 @@ Q_SIGNALS:
     void changed();
 
 protected:
-    /// Adds a column of widgets after the others.
+    /// Adds a column of widgets after the other columns.
     void addWidgetColumn(const QString& title, const QVector<QWidget*>& widgets);
     int rowCount() const;
     int number(int row) const;
@@ -53,7 +53,7 @@ private:
 
     QStandardItemModel* m_model;
     bool m_showsRule = false;
-    QSet<int> m_leftOut; ///< in the individual choice, while a rule is shown
+    QSet<int> m_leftOut; ///< unchecked in the individual choice while a rule is shown
 };
 
 } // namespace workbench

@@ -57,7 +57,7 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     setState(TextOutputState::read(project, ExtentFields::DefaultLists));
     m_saved = state();
     const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
-    resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // with all hints
+    resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // includes all hints
     new WindowGeometry(this);
 }
 
@@ -85,7 +85,7 @@ void TextOutputDialog::addExtent()
     column->addWidget(m_fields);
     m_extentResult = addResult(column, "ExtentResult");
     m_extent.useWidget(m_fields);
-    // Groups of this form do not relay the signals of their buttons.
+    // Radio groups of this variant do not forward the signals of their buttons.
     const auto buttons = box->findChildren<QRadioButton*>();
     for (const QRadioButton* button : buttons)
         connect(button, &QRadioButton::toggled, this, &TextOutputDialog::showChoice);
@@ -128,7 +128,7 @@ void TextOutputDialog::addCombinations(ZobHandle project)
     connect(m_combinationTable, &PickTable::changed, this, &TextOutputDialog::updateKindRow);
 }
 
-/// Offers only kinds that a combination has.
+/// Offers only the kinds that occur in the combinations.
 void TextOutputDialog::updateKindRow()
 {
     if (kindsOf(*m_combinationTable) != m_kinds)
@@ -136,7 +136,8 @@ void TextOutputDialog::updateKindRow()
     showChoice();
 }
 
-/// Kinds can change only during an individual choice, so the new radio group has it as well.
+/// Kinds can change only while the individual choice is active, so it is also active in the new
+/// radio group.
 void TextOutputDialog::fillKindRow()
 {
     auto row = new QWidget(m_kindRow->parentWidget());
@@ -196,7 +197,7 @@ TextOutputState TextOutputDialog::state() const
 void TextOutputDialog::setState(const TextOutputState& state)
 {
     {
-        // Between these steps the dialog shows parts of two states and must not be painted.
+        // Between these steps the dialog shows a mixture of two states and must not be painted.
         const QSignalBlocker fields(m_fields);
         const QSignalBlocker loadCaseTable(m_loadCaseTable);
         const QSignalBlocker combinationTable(m_combinationTable);
@@ -207,7 +208,7 @@ void TextOutputDialog::setState(const TextOutputState& state)
     }
     if (kindsOf(*m_combinationTable) != m_kinds)
         fillKindRow();
-    // The defaults, for a project without a saved state.
+    // These are the defaults for a project without a saved state.
     m_extent.setSelectedId(Group::Manually);
     m_loadCases.setSelectedId(Group::All);
     m_combinations->setSelectedId(Group::Manually);

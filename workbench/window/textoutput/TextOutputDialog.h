@@ -19,19 +19,19 @@ class PickTable;
 
 /// The modeless dialog for the lists, load cases and combinations of the text output of a project.
 /// For each of the three, it has a radio group of the library, a widget for an individual choice
-/// and a line with the result.
+/// and a line that shows the result.
 class TextOutputDialog : public VKD_H_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the saved state of the project, which outlives the dialog.
+    /// Shows the saved state of the project. The project must outlive the dialog.
     TextOutputDialog(ZobHandle project, QWidget* parent);
 
     /// Returns the state that is saved in the project.
     TextOutputState state() const;
     void setState(const TextOutputState& state);
-    /// Returns whether the state differs from the one in the project.
+    /// Returns whether the state differs from the saved state in the project.
     bool isChanged() const;
     void setUnchanged() { m_saved = state(); }
 

@@ -59,7 +59,7 @@ void TextOutputEditor::create()
     });
 }
 
-/// Destroys the dialog later, because it may still be closing itself.
+/// Destroys the dialog later, because it may be closing at the moment.
 void TextOutputEditor::closeLater()
 {
     if (m_dialog)

@@ -22,7 +22,7 @@ class TextOutputEditor : public QObject
     Q_OBJECT
 
 public:
-    /// The arguments are not owned and outlive the editor. The actions of the window also work in
+    /// The arguments are not owned and must outlive the editor. The window's actions also work in
     /// the dialog.
     TextOutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
                      const QList<QAction*>& actions);
@@ -31,18 +31,18 @@ public:
     bool isOpen() const { return bool(m_dialog); }
     /// Returns whether the dialog contains changes that are not stored.
     bool isChanged() const;
-    /// Returns the state in the dialog, if it is open.
+    /// Returns the state in the dialog if the dialog is open.
     std::optional<TextOutputState> state() const;
     /// Stores the state of the open dialog in the project. Returns whether it is stored.
     bool store();
     /// Asks whether to store changes. Returns false if the user cancels or storing fails.
     bool mayLeave();
 
-    /// Opens the dialog with the state of the project, or raises it.
+    /// Opens the dialog with the state of the project, or raises the dialog if it is already open.
     void show();
-    /// Opens a new dialog with a state that is not the one in the project.
+    /// Opens a new dialog with a state that differs from the saved state in the project.
     void reopen(const TextOutputState& state);
-    /// Replaces the open dialog by a new one with texts in the current language.
+    /// Replaces the open dialog with a new dialog whose texts are in the current language.
     void recreate();
     /// Destroys the dialog without asking.
     void close();
@@ -60,7 +60,7 @@ private:
     ProjectAccess* m_access;
     WindowMessages* m_messages;
     QList<QAction*> m_actions;
-    std::unique_ptr<TextOutputDialog> m_dialog; // while it is open
+    std::unique_ptr<TextOutputDialog> m_dialog; // exists while it is open
 };
 
 } // namespace workbench
