@@ -18,7 +18,7 @@ class TestExamples : public QObject
         environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("exampleuser"));
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(EXAMPLES "/") + example, {project});
-        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(Patience) || process.exitStatus() != QProcess::NormalExit)
             return QStringLiteral("no end, or a crash");
         return QStringLiteral("%1 ").arg(process.exitCode()) +
                QString::fromUtf8(process.readAllStandardOutput());

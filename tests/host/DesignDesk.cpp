@@ -1,7 +1,8 @@
 #include "DesignDesk.h"
 
+#include "TestSupport.h"
+
 #include <QPushButton>
-#include <QtTest>
 #include <QVBoxLayout>
 
 namespace {
@@ -15,7 +16,7 @@ DesignDesk::DesignDesk(HostProject& project)
     page->init();
     resize(1000, 500);
     show();
-    if (!QTest::qWaitForWindowActive(this))
+    if (!QTest::qWaitForWindowActive(this, Patience))
         qFatal("the dialog was not activated");
     table()->setFocus();
 }

@@ -12,7 +12,7 @@ private Q_SLOTS:
         QProcess nm;
         nm.start(QStringLiteral(NM), {QStringLiteral("-DC"), QStringLiteral("--defined-only"),
                                       QStringLiteral(LIBRARY)});
-        QVERIFY(nm.waitForFinished());
+        QVERIFY(nm.waitForFinished(Patience));
         QCOMPARE(nm.exitCode(), 0);
         QStringList names;
         const QStringList lines = QString::fromUtf8(nm.readAllStandardOutput())

@@ -19,7 +19,7 @@ QString host(const QStringList& arguments)
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(), arguments);
-    process.waitForFinished();
+    process.waitForFinished(Patience);
     return QString::fromLocal8Bit(process.readAll().trimmed());
 }
 } // namespace

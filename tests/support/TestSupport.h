@@ -10,6 +10,10 @@
 /// WidgetTestSupport.h for tests of widgets.
 namespace testsupport {
 
+/// The longest time in milliseconds that a test waits for something that must happen. It is long
+/// enough for sanitizers on a slow and busy machine; only failures take as long.
+constexpr int Patience = 60000;
+
 int run(QObject* test, int argc, char* argv[]);
 
 /// Write or read a whole file that the test has created. End the process if this fails.
@@ -58,6 +62,16 @@ public:
 
 using testsupport::Columns;
 using testsupport::compareCases;
+using testsupport::Patience;
+
+#undef QTRY_VERIFY
+#define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, testsupport::Patience)
+#undef QTRY_VERIFY2
+#define QTRY_VERIFY2(condition, message) \
+    QTRY_VERIFY2_WITH_TIMEOUT(condition, message, testsupport::Patience)
+#undef QTRY_COMPARE
+#define QTRY_COMPARE(actual, expected) \
+    QTRY_COMPARE_WITH_TIMEOUT(actual, expected, testsupport::Patience)
 
 #define PLIB_TEST_MAIN(TestClass)                   \
     int main(int argc, char* argv[])                \

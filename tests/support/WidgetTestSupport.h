@@ -14,12 +14,12 @@
 namespace testsupport {
 
 /// Calls `act` with the next modal dialog or message box. Call it before the step that opens the
-/// dialog. Does nothing if no dialog opens within five seconds.
+/// dialog. Does nothing if no dialog opens in time.
 inline void whenModal(const std::function<void(QWidget*)>& act)
 {
     const QPointer<QWidget> before = QApplication::activeModalWidget();
     auto timer = new QTimer(qApp);
-    const QDeadlineTimer deadline(5000);
+    const QDeadlineTimer deadline(Patience);
     QObject::connect(timer, &QTimer::timeout, timer, [=] {
         QWidget* modal = QApplication::activeModalWidget();
         const bool isThere = modal && modal != before && modal->isVisible();

@@ -50,7 +50,7 @@ private Q_SLOTS:
         host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         host.start(QCoreApplication::applicationFilePath(),
                    {QStringLiteral("host"), folder.path()});
-        QVERIFY(host.waitForFinished());
+        QVERIFY(host.waitForFinished(Patience));
         QCOMPARE(host.exitStatus(), QProcess::NormalExit);
         QCOMPARE(host.exitCode(), 0);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files),

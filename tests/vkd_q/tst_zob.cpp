@@ -217,7 +217,7 @@ private Q_SLOTS:
         auto snapshot = std::make_unique<ZobSnapshot>(ZobHandle(m_first));
         ZobTransaction other{ZobHandle(m_second)};
         QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
-        vkd_lib_setvalue(201, 60000); // the other program would wait for the snapshot this long
+        vkd_lib_setvalue(201, Patience); // the other program would wait for the snapshot this long
         QCOMPARE(m_log->once(ZobTransaction(ZobHandle(m_first)).status().code), VKD_ZOB_LOCKED);
         QCOMPARE(m_log->once(put(m_first, 1, 1, "mine", 0)), VKD_ZOB_LOCKED);
         QCOMPARE(readAll(m_first), m_old);

@@ -197,7 +197,7 @@ private Q_SLOTS:
             for (QDialog* modal : {&dialog, &inner}) {
                 QVERIFY(show(&main, "PARA"));
                 modal->show();
-                QVERIFY(QTest::qWaitForWindowExposed(modal));
+                QVERIFY(QTest::qWaitForWindowExposed(modal, Patience));
                 QCoreApplication::processEvents();
                 clickTopic(Types);
                 QCOMPARE(title(), QStringLiteral("Types of Design"));

@@ -23,7 +23,7 @@ QByteArray commandLine(const QStringList& arguments)
 {
     QProcess process;
     process.start(QStringLiteral(WORKBENCH), arguments);
-    process.waitForFinished();
+    process.waitForFinished(Patience);
     return process.readAllStandardOutput();
 }
 
@@ -171,7 +171,7 @@ std::unique_ptr<MainWindow> ProjectTest::reopen(const char* name) const
     auto window = std::make_unique<MainWindow>();
     window->show();
     if (!window->openProject(path(name)) ||
-        !QTest::qWaitFor([&window] { return !script(*window).isEmpty(); }))
+        !QTest::qWaitFor([&window] { return !script(*window).isEmpty(); }, Patience))
         qFatal("not open");
     return window;
 }

@@ -392,7 +392,7 @@ private Q_SLOTS:
         QProcess full;
         full.setStandardOutputFile(QStringLiteral("/dev/full"));
         full.start(QStringLiteral(WORKBENCH), {QStringLiteral("new"), QStringLiteral("--help")});
-        QVERIFY(full.waitForFinished());
+        QVERIFY(full.waitForFinished(Patience));
         QCOMPARE(full.exitStatus(), QProcess::NormalExit);
         QCOMPARE(full.exitCode(), 1);
     }
@@ -413,7 +413,7 @@ private:
         environment.insert(QStringLiteral("VKD_SHARE"), share);
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(WORKBENCH), arguments);
-        process.waitForFinished();
+        process.waitForFinished(Patience);
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};

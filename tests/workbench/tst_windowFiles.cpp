@@ -290,7 +290,7 @@ private Q_SLOTS:
             QElapsedTimer clock;
             clock.start();
             while (goOn(50))
-                if (clock.hasExpired(20000))
+                if (clock.hasExpired(Patience))
                     qFatal("not cancelled");
             return QStringLiteral("cancelled");
         };
