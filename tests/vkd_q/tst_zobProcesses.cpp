@@ -1,5 +1,8 @@
 #include "ZobTestSupport.h"
 
+#include <ZobSnapshot.h>
+
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -15,9 +18,12 @@ struct Task
 {
     int rounds = 0, records = 0, size = 0;
     int takes = 1; ///< 0: writes without taking the project
+    int waits = 1; ///< 0: does not wait for others, and skips refused rounds
+    int milliseconds = 1000000000;
 };
 
-/// Replaces the whole sequence by records with the next number and returns the first failure.
+/// Replaces the whole sequence by records with the next number, writes one of them also under
+/// another key pair, and returns the first failure.
 static cd_error_t writeRound(int index, const Task& task)
 {
     char number[12] = "";
@@ -29,11 +35,13 @@ static cd_error_t writeRound(int index, const Task& task)
         const cd_error_t status = put(index, 1, 1, i < 0 ? QByteArray() : next, i < 0 ? 0 : 1);
         result = result == VKD_ZOB_OK ? status : result;
     }
+    const cd_error_t status = put(index, 1, 2, next, 0);
     vkd_zob_free_ex(index, 1, 1);
-    return result;
+    return result == VKD_ZOB_OK ? status : result;
 }
 
-/// The child process: takes the project, prints a line, then writes round after round.
+/// The child process: takes the project, prints a line, writes round after round and prints how
+/// many of them are stored.
 static int childMain(const Task& task, const QString& path)
 {
     const int index = openProject(path);
@@ -42,11 +50,22 @@ static int childMain(const Task& task, const QString& path)
     std::fflush(stdout);
     vkd_zob_free_ex(index, 1, 1);
     cd_error_t result = VKD_ZOB_OK;
-    for (int round = 0; round < task.rounds && result == VKD_ZOB_OK; ++round)
+    vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, task.waits ? Patience : 1);
+    QElapsedTimer clock;
+    clock.start();
+    int storedRounds = 0;
+    for (int round = 0; round < task.rounds && result == VKD_ZOB_OK; ++round) {
         result = writeRound(index, task);
+        storedRounds += result == VKD_ZOB_OK && vkd_zob_change_status(index).isOk();
+        if (result == VKD_ZOB_LOCKED && !task.waits)
+            result = VKD_ZOB_OK;
+        if (clock.hasExpired(task.milliseconds))
+            break;
+    }
+    std::printf("%d\n", storedRounds);
     const cd_error_t stored = vkd_zob_change_status(index).code; // of the last round
     const cd_error_t closed = vkd_zob_close(index).code;
-    return result == VKD_ZOB_OK && stored == closed ? closed : result;
+    return result == VKD_ZOB_OK && (stored == closed || !task.waits) ? closed : result;
 }
 
 /// Returns whether these are the records of a single round.
@@ -65,26 +84,38 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_path = m_folder->filePath(QStringLiteral("p"));
-        vkd_lib_setvalue(201, 0); // the default, long enough for every round
+        vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, Patience);
     }
 
-    void twoWritersAndAReader()
+    /// No reader sees a mixture of two rounds, and no round that is reported as stored is lost. The
+    /// third writer does not wait, so that many of its rounds are refused.
+    void threeWritersAndAReader()
     {
         makeProject(m_path, Records());
-        QProcess one, two;
-        QVERIFY(start(one, {60, 100, 300}) && start(two, {60, 100, 300}));
-        const int index = openProject(m_path);
-        int passes = 0;
-        for (; one.state() == QProcess::Running || two.state() == QProcess::Running; ++passes) {
-            const Records seen = readAll(index);
-            QVERIFY(seen.isEmpty() || isWhole(seen));
-            one.waitForFinished(1);
-            two.waitForFinished(1);
+        QProcess writers[3];
+        for (QProcess& writer : writers) {
+            const int waits = &writer != &writers[2];
+            QVERIFY(start(writer, {1000000, 100, 300, 1, waits, 2500}));
         }
-        QVERIFY(passes > 0);
-        QCOMPARE(one.exitCode(), VKD_ZOB_OK);
-        QCOMPARE(two.exitCode(), VKD_ZOB_OK);
-        QCOMPARE(readAll(index).value(99), record(120, 300)); // no round was lost
+        const int index = openProject(m_path);
+        int last = 0, rounds = 0;
+        for (QProcess& writer : writers)
+            while (!writer.waitForFinished(1) && writer.state() == QProcess::Running) {
+                const ZobSnapshot snapshot{ZobHandle(index)};
+                QVERIFY(snapshot.status().isOk());
+                const Records seen = readAll(index);
+                QVERIFY(seen.isEmpty() || isWhole(seen));
+                QCOMPARE(readAll(index, 2), seen.mid(0, 1));
+                const int round = seen.value(0).replace('.', "").toInt();
+                QVERIFY(round >= std::exchange(last, round));
+            }
+        for (QProcess& writer : writers) {
+            const int code = writer.exitCode();
+            QVERIFY(code == VKD_ZOB_OK || (code == VKD_ZOB_LOCKED && &writer == &writers[2]));
+            rounds += writer.readAll().trimmed().toInt();
+        }
+        QVERIFY(rounds > 3 && last > 0);
+        QCOMPARE(readAll(index).value(99), record(rounds, 300));
         vkd_zob_close(index);
     }
 
@@ -107,7 +138,7 @@ private Q_SLOTS:
             QVERIFY(start(child, {1000000, 100, 300, takes}));
             child.waitForFinished(1 + kill % 25);
             child.kill();
-            QVERIFY(child.waitForFinished());
+            QVERIFY(child.waitForFinished(Patience));
             const Records left = readProject(m_path);
             broken += left.isEmpty() || isWhole(left) ? 0 : 1;
         }
@@ -119,10 +150,11 @@ private:
     bool start(QProcess& child, const Task& task) const
     {
         QStringList arguments{m_path};
-        for (int number : {task.rounds, task.records, task.size, task.takes})
+        for (int number :
+             {task.rounds, task.records, task.size, task.takes, task.waits, task.milliseconds})
             arguments << QString::number(number);
         child.start(QCoreApplication::applicationFilePath(), arguments);
-        return child.waitForReadyRead();
+        return child.waitForReadyRead(Patience) && child.readLine() == "taken\n";
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -132,8 +164,9 @@ private:
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
-    if (argc == 6)
-        return childMain({atoi(argv[2]), atoi(argv[3]), atoi(argv[4]), atoi(argv[5])},
+    if (argc == 8)
+        return childMain({atoi(argv[2]), atoi(argv[3]), atoi(argv[4]), atoi(argv[5]), atoi(argv[6]),
+                          atoi(argv[7])},
                          QString::fromLocal8Bit(argv[1]));
     TestZobProcesses test;
     return testsupport::run(&test, argc, argv);
