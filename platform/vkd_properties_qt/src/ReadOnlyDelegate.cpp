@@ -7,8 +7,8 @@ namespace {
 /// faint for cells that the user still reads and copies.
 QColor dimmed(const QPalette& palette)
 {
-    const QColor text = palette.color(QPalette::Active, QPalette::Text);
-    const QColor base = palette.color(QPalette::Active, QPalette::Base);
+    const QColor& text = palette.color(QPalette::Active, QPalette::Text);
+    const QColor& base = palette.color(QPalette::Active, QPalette::Base);
     const auto mixed = [](int part, int other) { return (11 * part + 9 * other) / 20; };
     return {mixed(text.red(), base.red()), mixed(text.green(), base.green()),
             mixed(text.blue(), base.blue())};

@@ -25,6 +25,7 @@ rowsOfTable(const std::vector<TableLoadCase>& loadCases)
         if (fitsInteger(loadCase.number))
             labels[int(loadCase.number)] = rowLabel(loadCase.number, loadCase.title);
     std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> rows;
+    rows.reserve(labels.size());
     for (const auto& label : labels)
         rows.push_back({PlainLoadCase, label.first, label.second});
     return rows;

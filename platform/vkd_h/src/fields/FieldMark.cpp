@@ -78,7 +78,8 @@ void FieldMark::paint(QPainter* painter, const QRect& place) const
     painter->setFont(bold);
     painter->setPen(m_field->palette().color(QPalette::Base));
     const bool isRefused = m_kind == FieldMarkKind::Refused;
-    painter->drawText(sign, Qt::AlignHCenter | (isRefused ? Qt::AlignBottom : Qt::AlignVCenter),
+    const Qt::Alignment side = isRefused ? Qt::AlignBottom : Qt::AlignVCenter;
+    painter->drawText(sign, int(Qt::AlignHCenter | side),
                       isRefused ? QStringLiteral("!") : QStringLiteral("?"));
     painter->restore();
 }

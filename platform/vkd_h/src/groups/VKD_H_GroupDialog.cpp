@@ -22,7 +22,6 @@
 
 using vkd::h::GroupFilterModel;
 using vkd::h::GroupInput;
-using vkd::h::GroupRow;
 using vkd::h::GroupTableModel;
 using vkd::h::GroupView;
 

@@ -52,7 +52,8 @@ void VKD_QT_MessageBox::keyPressEvent(QKeyEvent* event)
 
 void VKD_QT_MessageBox::closeEvent(QCloseEvent* event)
 {
-    QDialog::closeEvent(event);
+    // QMessageBox refuses to close a box without an Escape button.
+    QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 int VKD_QT_MessageBox::ask(const QStringList& labels, int defaultButton, int escapeButton)
