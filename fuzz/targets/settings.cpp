@@ -1,0 +1,24 @@
+#include "FuzzTarget.h"
+
+#include "cli/CommandLine.h"
+#include "cli/settingsArguments.h"
+
+/// The input has an argument of --set in each line. A refused argument is explained in one line;
+/// the accepted settings are possible on a page.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
+{
+    plib::OutputSettings settings;
+    settings.variant = size % 2 ? VKD_P_GraphicalOutput_Standard : VKD_P_GraphicalOutput_Split;
+    settings.hasFormat = size % 2;
+    try {
+        workbench::applySettings(fuzz::textOf(bytes, size).split(QLatin1Char('\n')), &settings);
+    } catch (const workbench::CommandError& error) {
+        fuzz::checkReason(error.text);
+    }
+    FUZZ_CHECK(settings.scaleIndex >= 0 && settings.scaleIndex < plib::scaleRows().size());
+    FUZZ_CHECK(settings.pageSplitId >= 0 && settings.pageSplitId <= 5);
+    FUZZ_CHECK(int(settings.formatId) <= 1 && int(settings.picturesId) <= 1);
+    FUZZ_CHECK(int(settings.viewId) >= 0 && int(settings.viewId) <= 4);
+    FUZZ_CHECK(!settings.fontSizeText.isEmpty());
+    return 0;
+}
