@@ -10,7 +10,7 @@
 using namespace testsupport;
 
 namespace {
-constexpr int Steps = 10000;
+constexpr int Steps = 4000;
 
 /// Returns the directions and distances of a cell in their stored form: a layer without a distance
 /// removes the distances of the layers below, which are relative to it.

@@ -12,13 +12,14 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QSet>
+#include <QVariantAnimation>
 
 using namespace windowtest;
 using namespace workbench;
 using testsupport::Monkey;
 
 namespace {
-constexpr int Steps = 1500;
+constexpr int Steps = 1000;
 
 /// Records the results of the dialogs closed since begin(), and whether a step had a visible
 /// effect.
@@ -114,7 +115,13 @@ class fuzz_windowMonkey : public ProjectTest
 private Q_SLOTS:
     /// Waits for the fade animation of Qt's clear buttons, which would be reported as a leak at
     /// the end of the program.
-    void cleanupTestCase() { QTest::qWait(200); }
+    void cleanupTestCase()
+    {
+        QVariantAnimation later; // lasts longer, and is driven by the same timer
+        later.setEndValue(1);
+        later.start();
+        QTRY_COMPARE(later.state(), QAbstractAnimation::Stopped);
+    }
 
     void work_data() { Monkey::addRounds(Steps); }
 
@@ -235,9 +242,7 @@ private:
 
     void lookAtAll(MainWindow& window)
     {
-        QTest::qWait(1);
-        // The script of a new project is created after the first painting.
-        (void)QTest::qWaitFor([&window] { return !script(window).isEmpty(); }, 1000);
+        QApplication::processEvents();
         if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
             return;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -248,9 +253,11 @@ private:
         const auto output = window.findChild<OutputDialog*>();
         if (!output || contentOf(projectOf(window)).isEmpty())
             return;
+        const QString scriptNow = scriptOf(projectOf(window), output->state(), window);
+        // The script of a new project is created after the first painting.
+        (void)QTest::qWaitFor([&] { return script(window) == scriptNow; }, Patience);
         const QStringList shown = script(window).split(QLatin1Char('\n'));
-        const QStringList expected =
-            scriptOf(projectOf(window), output->state(), window).split(QLatin1Char('\n'));
+        const QStringList expected = scriptNow.split(QLatin1Char('\n'));
         int line = 0;
         while (line < shown.size() && shown[line] == expected.value(line))
             ++line;
