@@ -46,6 +46,7 @@ private Q_SLOTS:
 "groups": {} => groups: a list is needed
 "groups": [{"number": 1000, "title": "t"}] => groups[0].number: a number of 999 or less is needed
 "nodes": oh => line 1, column 11: illegal number
+"beams": [], "beams": [] => line 1, column 15: "beams" stands here twice
 "nodes": [[1, 0, 0, 0], [1, 0, 0, 1]] => nodes[1][0]: the number 1 stands here twice
 "nodes": [[0, 0, 0, 0]] => nodes[0][0]: a number of 1 or more is needed
 "nodes": [[1, 0, 0]] => nodes[0]: 4 values are needed

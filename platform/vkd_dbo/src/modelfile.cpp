@@ -2,6 +2,7 @@
 
 #include "JsonPlace.h"
 #include "NumberSet.h"
+#include "repeatedKey.h"
 
 #include <vkd_zob.h>
 
@@ -385,23 +386,43 @@ int thingsIn(const QJsonObject& root)
     });
 }
 
+/// Throws a ModelFileError if the text is not valid.
+QJsonDocument parsed(const QByteArray& bytes)
+{
+    const auto fail = [&bytes](int offset, const QString& cause) {
+        throw ModelFileError{lineAndColumn(bytes, offset) + QLatin1String(": ") + cause};
+    };
+    const int repeated = findRepeatedKey(bytes);
+    if (repeated >= 0) {
+        const int end = bytes.indexOf('"', repeated + 1);
+        const QByteArray key = bytes.mid(repeated + 1, end - repeated - 1);
+        fail(repeated, ModelFileError::tr("\"%1\" stands here twice")
+                           .arg(QString::fromUtf8(key).simplified()));
+    }
+    QJsonParseError problem;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &problem);
+    if (problem.error != QJsonParseError::NoError)
+        fail(problem.offset, problem.errorString());
+    return document;
+}
+
 /// Parses in a separate thread, because Qt's parser has no callback and a large file takes a
 /// second; before and meanwhile, this thread calls `goOn`.
-QJsonDocument parse(const QByteArray& bytes, QJsonParseError* problem, const VkdGoOn& goOn)
+QJsonDocument parse(const QByteArray& bytes, const VkdGoOn& goOn)
 {
     if (!goOn)
-        return QJsonDocument::fromJson(bytes, problem);
+        return parsed(bytes);
     bool goesOn = goOn(0);
     if (!goesOn)
         throw ModelFileError{QString()};
-    auto parsing = std::async(
-        std::launch::async, [&bytes, problem] { return QJsonDocument::fromJson(bytes, problem); });
+    auto parsing = std::async(std::launch::async, [&bytes] { return parsed(bytes); });
     while (goesOn && parsing.wait_for(std::chrono::milliseconds(20)) != std::future_status::ready)
         goesOn = goOn(0);
-    const QJsonDocument document = parsing.get();
-    if (!goesOn)
+    if (!goesOn) {
+        parsing.wait();
         throw ModelFileError{QString()};
-    return document;
+    }
+    return parsing.get();
 }
 
 VkdStatus failureOf(const QString& path, int code, const QString& cause)
@@ -416,12 +437,8 @@ VkdStatus readModelFile(const QString& path, Language language, Model* model, co
     if (!file.open(QIODevice::ReadOnly))
         return failureOf(path, VKD_ZOB_NO_FILE, file.errorString());
     QByteArray bytes = file.readAll();
-    QJsonParseError problem;
     try {
-        const QJsonDocument document = parse(bytes, &problem, goOn);
-        if (problem.error != QJsonParseError::NoError)
-            throw ModelFileError{lineAndColumn(bytes, problem.offset) + QLatin1String(": ") +
-                                 problem.errorString()};
+        const QJsonDocument document = parse(bytes, goOn);
         bytes.clear(); // with the document, they would take twice the memory
         const QJsonValue root =
             document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);

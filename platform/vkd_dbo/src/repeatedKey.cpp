@@ -1,0 +1,86 @@
+#include "repeatedKey.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+namespace vkd {
+namespace dbo {
+
+namespace {
+/// Collects the keys of the open objects. Sorting them at the end of an object bounds the time for
+/// objects with very many keys.
+class KeyScanner
+{
+public:
+    explicit KeyScanner(std::string_view json)
+        : m_json(json)
+    {
+    }
+
+    int find()
+    {
+        for (size_t at = 0; at < m_json.size(); ++at) {
+            const char c = m_json[at];
+            if (c == '"')
+                at = readText(at);
+            else if (c == '{' || c == '[')
+                m_open.push_back({m_keys.size(), c == '{'});
+            else if ((c == '}' || c == ']') && close())
+                return m_found;
+            if (c == '{' || c == ',')
+                m_isKey = !m_open.empty() && m_open.back().isObject;
+            else if (c == ':' || c == '[')
+                m_isKey = false;
+        }
+        return -1;
+    }
+
+private:
+    struct Open
+    {
+        size_t firstKey;
+        bool isObject;
+    };
+
+    /// Returns the position of the closing quote, or the end of the text.
+    size_t readText(size_t begin)
+    {
+        size_t end = begin + 1;
+        while (end < m_json.size() && m_json[end] != '"')
+            end += m_json[end] == '\\' ? 2 : 1;
+        if (m_isKey)
+            m_keys.push_back(m_json.substr(begin, std::min(end, m_json.size()) - begin));
+        return end;
+    }
+
+    /// Returns whether the object had a key twice.
+    bool close()
+    {
+        if (m_open.empty())
+            return false;
+        const auto first = m_keys.begin() + std::ptrdiff_t(m_open.back().firstKey);
+        std::sort(first, m_keys.end());
+        const auto repeated = std::adjacent_find(first, m_keys.end());
+        if (repeated != m_keys.end())
+            m_found = int(std::max(repeated->data(), (repeated + 1)->data()) - m_json.data());
+        m_keys.erase(first, m_keys.end());
+        m_open.pop_back();
+        return m_found >= 0;
+    }
+
+    std::string_view m_json;
+    std::vector<std::string_view> m_keys;
+    std::vector<Open> m_open;
+    bool m_isKey = false;
+    int m_found = -1;
+};
+} // namespace
+
+int findRepeatedKey(const QByteArray& json)
+{
+    return KeyScanner({json.constData(), size_t(json.size())}).find();
+}
+
+} // namespace dbo
+} // namespace vkd
