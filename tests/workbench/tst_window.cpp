@@ -105,7 +105,9 @@ private Q_SLOTS:
             trigger(*window, "English");
             QCOMPARE(script(*window), chosen);
             auto dialog = find<QDialog>(*window, "OutputDialog"); // was recreated
+            const QPointer<QTreeWidget> tree = dialog->findChild<QTreeWidget*>();
             isSaved ? dialog->accept() : dialog->reject();
+            QCOMPARE(tree && tree->topLevelItemCount() > 0, isSaved);
             QTRY_COMPARE(window->findChildren<QDialog*>(QStringLiteral("OutputDialog")).size(), 1);
             QVERIFY(!window->isWindowModified());
             QCOMPARE(script(*window), isSaved ? chosen : proposed);

@@ -270,6 +270,11 @@ void OutputDialog::setUnchanged()
     m_unchanged = fingerprint();
 }
 
+void OutputDialog::removePlots()
+{
+    m_plots->clear();
+}
+
 void OutputDialog::finishChanges()
 {
     if (!m_changes.isActive())

@@ -55,6 +55,8 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
+    /// Frees the memory of the plots. The dialog can only be destroyed afterwards.
+    void removePlots();
     /// Emits a pending choiceChanged() immediately.
     void finishChanges();
 

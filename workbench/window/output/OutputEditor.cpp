@@ -68,9 +68,13 @@ void OutputEditor::close()
     m_dialog.reset();
 }
 
-/// Destroys the dialog later, because it may be closing at the moment.
+/// Destroys the dialog later, because it may be closing at the moment. Its plots are removed first:
+/// with thousands of load cases they take hundreds of megabytes, and the next dialog may be created
+/// before.
 void OutputEditor::closeLater()
 {
+    m_dialog->disconnect(this);
+    m_dialog->removePlots();
     m_dialog.release()->deleteLater();
 }
 
