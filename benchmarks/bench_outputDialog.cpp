@@ -1,0 +1,240 @@
+// The output dialog and the script of the window with many load cases: clicks, all plots checked,
+// load cases that are left out, opening. The peers are a text document with the same script, making
+// the script, and the same work with fewer load cases.
+
+#include "RatioReporter.h"
+
+#include <vkd_dbo_model.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+#include <window/output/LoadCaseTable.h>
+#include <window/output/OutputDialog.h>
+#include <window/script/lineChanges.h>
+#include <window/script/ScriptView.h>
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+
+#include <malloc.h>
+
+namespace {
+using workbench::OutputDialog;
+using workbench::TextLines;
+
+constexpr int Clicked = 1200; // load cases; the script has some 240 000 lines
+constexpr int Few = 1000;
+constexpr int Many = 10000;
+
+/// A project with load cases and with content for about a hundred plots.
+std::unique_ptr<VKD_H_ZOBDoc> newProject(const QTemporaryDir& folder, int loadCases)
+{
+    auto document =
+        VKD_H_ZOBDoc::create(folder.filePath(QString::number(loadCases) + QLatin1String(".zob")));
+    vkd::dbo::Model model;
+    model.nodes = {{1, {0, 0, 0}}, {2, {1, 0, 0}}, {3, {1, 1, 0}}};
+    model.groups = {{1, QStringLiteral("slab")}};
+    vkd::dbo::Quad quad;
+    quad.number = quad.group = 1;
+    for (int corner = 0; corner < 3; ++corner)
+        quad.nodes[corner] = corner + 1;
+    model.quads = {quad};
+    vkd::dbo::LineElement beam;
+    beam.number = beam.group = beam.nodes[0] = 1;
+    beam.nodes[1] = 2;
+    model.beams = {beam};
+    for (int number = 1; number <= loadCases; ++number)
+        model.loadCases.append({number, QStringLiteral("Load case %1").arg(number), 1});
+    vkd::dbo::storeModel(document->handle(), model);
+    return document;
+}
+
+/// The projects of the process by number of load cases.
+VKD_H_ZOBDoc* project(int loadCases)
+{
+    static const QTemporaryDir folder;
+    static std::map<int, std::unique_ptr<VKD_H_ZOBDoc>> known;
+    std::unique_ptr<VKD_H_ZOBDoc>& document = known[loadCases];
+    if (!document)
+        document = newProject(folder, loadCases);
+    return document.get();
+}
+
+size_t usedBytes()
+{
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+/// A dialog with the script of its choice beside it, as in the window.
+class Output
+{
+public:
+    explicit Output(int loadCases)
+        : dialog(project(loadCases), {}, nullptr)
+        , tree(dialog.findChild<QTreeWidget*>())
+    {
+        QObject::connect(&dialog, &OutputDialog::choiceChanged, &dialog, [this] { follow(); });
+        dialog.show();
+        view.show();
+        QApplication::processEvents();
+    }
+
+    void setAll(Qt::CheckState state)
+    {
+        for (int i = 0; i < tree->topLevelItemCount(); ++i)
+            tree->topLevelItem(i)->setCheckState(0, state);
+        finish();
+    }
+    void finish()
+    {
+        dialog.finishChanges();
+        QApplication::processEvents();
+    }
+    QTreeWidgetItem* firstRow() const
+    {
+        for (QTreeWidgetItemIterator item(tree); *item; ++item)
+            if ((*item)->childCount() >= Few)
+                return (*item)->child(Few / 2);
+        qFatal("no plot has the load cases");
+    }
+
+    OutputDialog dialog;
+    QTreeWidget* tree;
+    workbench::ScriptView view;
+
+private:
+    void follow()
+    {
+        const TextLines lines(dialog.script(vkd::Language::English));
+        view.setLines(lines, workbench::lineChanges(view.lines(), lines));
+        benchmark::DoNotOptimize(dialog.isChanged());
+    }
+};
+
+void toggle(QTreeWidgetItem* item)
+{
+    item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+}
+
+/// Clicks a load case of a plot until the script and its view are right.
+void click(benchmark::State& state)
+{
+    Output output(Clicked);
+    output.setAll(Qt::Checked);
+    QTreeWidgetItem* row = output.firstRow();
+    for (auto _ : state) {
+        toggle(row);
+        output.finish();
+    }
+}
+
+void fillDocument(benchmark::State& state)
+{
+    Output output(Clicked);
+    output.setAll(Qt::Checked);
+    const QString script = output.view.plainText();
+    QPlainTextEdit edit;
+    edit.show();
+    for (auto _ : state) {
+        edit.setPlainText(script);
+        QApplication::processEvents();
+    }
+}
+
+/// Checks all plots until the script and its view are right.
+void checkAll(benchmark::State& state)
+{
+    Output output(Few);
+    for (auto _ : state) {
+        state.PauseTiming();
+        output.setAll(Qt::Unchecked);
+        state.ResumeTiming();
+        output.setAll(Qt::Checked);
+    }
+}
+
+void makeScript(benchmark::State& state)
+{
+    Output output(Few);
+    output.setAll(Qt::Checked);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(output.dialog.script(vkd::Language::English));
+}
+
+/// Leaves out a load case or offers it again.
+void offerLoadCase(benchmark::State& state)
+{
+    Output output(int(state.range(0)));
+    QTableWidgetItem* box = output.dialog.findChild<workbench::LoadCaseTable*>()->item(
+        0, workbench::LoadCaseTable::CheckColumn);
+    for (auto _ : state) {
+        box->setCheckState(box->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        output.finish();
+    }
+}
+
+void openDialog(benchmark::State& state)
+{
+    project(int(state.range(0)));
+    for (auto _ : state) {
+        const size_t before = usedBytes();
+        const Output output(int(state.range(0)));
+        state.counters["bytes"] = double(usedBytes() - before);
+    }
+}
+
+/// The memory of a view with a script of 240 000 lines, beside that of the text.
+void viewMemory(benchmark::State& state)
+{
+    const QString text = QStringLiteral("LC 12345 DESI 12345\nBEAM MY\n").repeated(120000);
+    for (auto _ : state) {
+        workbench::ScriptView view;
+        const size_t before = usedBytes();
+        view.setLines(TextLines(text + QLatin1Char('\n')), {});
+        state.counters["bytes"] = double(usedBytes() - before);
+    }
+}
+
+void textMemory(benchmark::State& state)
+{
+    const QString text = QStringLiteral("LC 12345 DESI 12345\nBEAM MY\n").repeated(120000);
+    for (auto _ : state) {
+        const size_t before = usedBytes();
+        const QString copy = text + QLatin1Char('\n');
+        state.counters["bytes"] = double(usedBytes() - before);
+        benchmark::DoNotOptimize(copy.size());
+    }
+}
+
+BENCHMARK(click)->Unit(benchmark::kMillisecond);
+BENCHMARK(fillDocument)->Unit(benchmark::kMillisecond);
+BENCHMARK(checkAll)->Unit(benchmark::kMillisecond);
+BENCHMARK(makeScript)->Unit(benchmark::kMillisecond);
+BENCHMARK(offerLoadCase)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
+BENCHMARK(openDialog)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
+BENCHMARK(viewMemory)->Unit(benchmark::kMillisecond);
+BENCHMARK(textMemory)->Unit(benchmark::kMillisecond);
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+    vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+    return runBenchmarks(
+        argc, argv,
+        {{"click", "fillDocument", 0.1, "fills a text document with the same script"},
+         {"checkAll", "makeScript", 3.0, "makes the script of all plots"},
+         {"offerLoadCase/10000", "offerLoadCase/1000", 1.4, "the same with 1000 load cases",
+          Figure::TimePerItem},
+         {"openDialog/10000", "openDialog/1000", 1.4, "the same with 1000 load cases",
+          Figure::TimePerItem},
+         {"openDialog/10000", "openDialog/1000", 10.5, "the same with a tenth of the load cases",
+          Figure::Memory},
+         {"viewMemory", "textMemory", 1.3, "copies the text", Figure::Memory}});
+}
