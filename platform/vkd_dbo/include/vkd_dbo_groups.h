@@ -38,9 +38,10 @@ struct GroupSummary
     GroupContents contents;
 };
 
-/// Returns the groups of the project in the order of the model; empty if the project has no model.
-/// The elements are read once. Elements of a group that the model does not list are not counted.
-/// `status`, if given, receives OK if nothing is missing, otherwise the first failure.
+/// Returns the groups of the project in the order of the model, or an empty list if the project has
+/// no model. All elements are read once. Elements whose group is not in the model's list of groups
+/// are not counted. If `status` is not null, it receives OK if everything was read, otherwise the
+/// first failure.
 VKD_DBO_EXPORT QVector<GroupSummary> readGroups(ZobHandle project, VkdStatus* status = nullptr);
 VKD_DBO_EXPORT QVector<GroupSummary> readSecondaryGroups(ZobHandle project,
                                                          VkdStatus* status = nullptr);

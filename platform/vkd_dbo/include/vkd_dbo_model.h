@@ -26,8 +26,8 @@ struct Node
     Position position{};
 };
 
-/// The held directions of a node: the bits 1, 2, 4 for x, y, z and 8, 16, 32 for the rotations
-/// about them.
+/// The restrained directions of a node: bits 1, 2 and 4 for x, y and z; bits 8, 16 and 32 for the
+/// rotations about these axes.
 struct Boundary
 {
     int node = 0;
@@ -46,8 +46,8 @@ struct Group
     QString title;
 };
 
-/// A named set of elements from any primary groups. The name has one to four ASCII letters and
-/// digits, at least one of them a letter.
+/// A named set of elements, which may belong to any primary groups. The name has one to four ASCII
+/// letters and digits, including at least one letter.
 struct SecondaryGroup
 {
     QString name;
@@ -69,7 +69,7 @@ struct Spring
 {
     int number = 0;
     int group = 0;
-    int nodes[2]{};         ///< the second is 0 for a spring to the ground
+    int nodes[2]{};         ///< the second node is 0 for a spring to the ground
     double stiffness = 0.0; ///< kN/m
 };
 
@@ -77,7 +77,7 @@ struct Quad
 {
     int number = 0;
     int group = 0;
-    int nodes[4]{};         ///< the fourth is 0 for a triangle
+    int nodes[4]{};         ///< the fourth node is 0 for a triangle
     double thickness = 0.0; ///< metres
 };
 
@@ -95,7 +95,7 @@ struct Point
     Position position{};
 };
 
-/// A structural line or area, given by the numbers of its points.
+/// A structural line or area, defined by the numbers of its points.
 struct Outline
 {
     int number = 0;
@@ -110,7 +110,7 @@ struct Polyline
     QVector<Position> points;
 };
 
-/// `kind` 1 is a load case, 2 a combination of the design.
+/// A load case (`kind` 1) or a design combination (`kind` 2).
 struct LoadCase
 {
     int number = 0;
@@ -124,7 +124,7 @@ struct SystemInformation
     int kindOfSystem = 0; ///< see getKindOfSystem()
 };
 
-/// Design parameters of some groups by field name. They occur in model files only; a project stores
+/// Design parameters of some groups by field name. They occur only in model files; a project stores
 /// design records instead.
 struct DesignValues
 {
@@ -132,8 +132,8 @@ struct DesignValues
     QMap<QString, double> values;
 };
 
-/// A structural model as plain data. The reader of model files checks all references: every number
-/// that an item refers to exists.
+/// A structural model as plain data. The model file reader checks that every referenced item
+/// exists.
 struct Model
 {
     SystemInformation system;
@@ -161,37 +161,39 @@ struct Model
 };
 
 /// Reads a model file (JSON, described in share/models/README.md), with titles in the given
-/// language. The status code is VKD_ZOB_NO_FILE if the file cannot be read,
-/// VKD_ZOB_DAMAGED if it is invalid, and VKD_ZOB_CANCELLED if `goOn` returned false. The reason
-/// contains the path and the position in the file. `model` is set on success only. `goOn` is called
-/// before and while the text is parsed and while the lists are read, not while the bytes are loaded
-/// from the disk. The parser cannot be interrupted: after a Cancel, the call returns when it ends.
+/// language. The status code is VKD_ZOB_NO_FILE if the file cannot be read, VKD_ZOB_DAMAGED if it
+/// is invalid, and VKD_ZOB_CANCELLED if `goOn` returned false. The reason contains the path and the
+/// position in the file. `model` is set only on success. `goOn` is called before and during parsing
+/// and while the lists are read, but not while the file is loaded from the disk. The parser cannot
+/// be interrupted: after cancellation, the call returns only when the parser has finished.
 VKD_DBO_EXPORT VkdStatus readModelFile(const QString& path, Language language, Model* model,
                                        const VkdGoOn& goOn = VkdGoOn());
 
-/// Replaces the model of the project, completely or not at all. The status code is a VkdZobStatus;
-/// it is VKD_ZOB_CANCELLED if `goOn` returned false.
+/// Replaces the model of the project atomically. The status code is a VkdZobStatus; it is
+/// VKD_ZOB_CANCELLED if `goOn` returned false.
 VKD_DBO_EXPORT VkdStatus storeModel(ZobHandle project, const Model& model,
                                     const VkdGoOn& goOn = VkdGoOn());
 
-/// Copies the system information of a project, and no other part of its model, to another store,
-/// for pages that work on a copy of some records. A project without a model is of kind 0,
-/// as for getKindOfSystem(), and so is one with damaged system information.
+/// Copies only the system information of a project's model to another store, for pages that work on
+/// a copy of some records. If the project has no model or its system information is damaged, the
+/// kind of system is 0, as in getKindOfSystem().
 VKD_DBO_EXPORT VkdStatus copySystem(ZobHandle from, ZobHandle to);
 
-/// Reads the model of the project in one snapshot; empty if the project has no model. If `goOn`
-/// returned false or the store failed, returns the part that was read until then. Records that are
-/// too short are left out. `status`, if given, receives OK if nothing is missing, VKD_ZOB_CANCELLED
-/// if `goOn` returned false, otherwise the first failure. Sets `mark` to the mark of the model, see
-/// modelMark(), or to an empty one if the model was not read completely.
+/// Reads the model of the project in one snapshot. Returns an empty model if the project has none.
+/// If `goOn` returned false or the store failed, returns the part read so far. Records that are too
+/// short are skipped. If `status` is not null, it receives OK if everything was read,
+/// VKD_ZOB_CANCELLED if `goOn` returned false, otherwise the first failure. Sets `mark` to the mark
+/// of the model (see modelMark()), or to an empty byte array if the model was not read completely.
 VKD_DBO_EXPORT Model readModel(ZobHandle project, const VkdGoOn& goOn = VkdGoOn(),
                                QByteArray* mark = nullptr, VkdStatus* status = nullptr);
 
-/// Returns bytes that identify the stored model: they differ between any two stores of a model and
-/// are the same in a copy of the project. Empty if the project has no model or cannot be read.
+/// Returns bytes that identify the stored model. They differ each time a model is stored and are
+/// the same in a copy of the project. Returns an empty byte array if the project has no model or
+/// cannot be read.
 VKD_DBO_EXPORT QByteArray modelMark(ZobHandle project);
 
-/// Reads only the load cases of the model. `status`, if given, receives OK if none is missing.
+/// Reads only the load cases of the model. If `status` is not null, it receives OK if all load
+/// cases were read, otherwise the first failure.
 VKD_DBO_EXPORT QVector<LoadCase> readLoadCases(ZobHandle project, VkdStatus* status = nullptr);
 
 } // namespace dbo

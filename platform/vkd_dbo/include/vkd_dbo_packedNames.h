@@ -7,14 +7,14 @@
 namespace vkd {
 namespace dbo {
 
-constexpr int FirstPackedName = 1000000; ///< smaller numbers are primary groups
+constexpr int FirstPackedName = 1000000; ///< smaller numbers denote primary groups
 
 /// Packs the name of a secondary group into a number, which represents the group in lists of group
-/// numbers. The first character is the lowest byte, and blanks pad the name to four bytes. Names
-/// have one to four ASCII characters; their numbers are above FirstPackedName.
+/// numbers. The first character is in the lowest byte, and the name is padded with spaces to four
+/// bytes. Names have one to four ASCII characters; packed names are greater than FirstPackedName.
 VKD_DBO_EXPORT int packedName(const QString& name);
 
-/// Returns the name in a packed number. Any characters are accepted.
+/// Returns the name encoded in a packed number. Any characters are accepted.
 VKD_DBO_EXPORT QString unpackedName(int packed);
 
 } // namespace dbo

@@ -5,7 +5,7 @@
 namespace vkd {
 namespace dbo {
 
-/// Further details about the kind of system. No query of this library fills it.
+/// Further details about the kind of system. No query of this library sets them.
 struct structKindSystem;
 
 /// Returns the kind of the structural system of the project at this database index: 0 to 9 spatial,

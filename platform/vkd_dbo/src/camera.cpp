@@ -37,8 +37,8 @@ bool isUsable(const Values& values)
     return std::hypot(values[0], values[1], values[2]) > 0 && values[7] > 0;
 }
 
-/// Returns the shortest text that reads back as the same value. Qt's own conversion would lose the
-/// sign of a zero.
+/// Returns the shortest text that is read back as the same value. Qt's own conversion would lose
+/// the sign of a negative zero.
 QString exactText(double value)
 {
     char text[32];

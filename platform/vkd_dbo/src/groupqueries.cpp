@@ -22,8 +22,8 @@ constexpr ElementList elementLists[] = {
     {keys::Springs, &GroupContents::springs}, {keys::Bricks, &GroupContents::bricks},
 };
 
-/// Reads only the group, which is the second number of every element's record; decoding whole
-/// records would take most of the time for a large model.
+/// Reads only the group, which is the second number in each element record. For a large model,
+/// decoding whole records would take most of the time.
 VkdStatus countElements(ZobHandle project, const ElementList& list,
                         QHash<int, GroupContents>& contents)
 {

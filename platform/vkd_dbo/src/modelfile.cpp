@@ -24,7 +24,8 @@ namespace dbo {
 namespace {
 constexpr int MostGroup = 999; // far below the packed names of secondary groups
 
-/// Item types that a number can refer to. They are translated when the error message is built.
+/// The names of item types that a number can refer to. They are translated when an error message is
+/// built.
 namespace ThingNames {
 constexpr char Node[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "node");
 constexpr char Group[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "group");
@@ -33,7 +34,7 @@ constexpr char CrossSection[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "c
 constexpr char Point[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "point");
 } // namespace ThingNames
 
-/// Reads one model file. Items that others refer to by number are read first, so that an unknown
+/// Reads one model file. Items that are referenced by number are read first, so that an unknown
 /// number is reported at the position where it is used.
 class ModelFileReader
 {
@@ -95,8 +96,8 @@ int fixedDirections(const JsonPlace& place)
     return fixed;
 }
 
-/// Names fit into the four bytes of a group number, and contain a letter because users type names
-/// and numbers into one field.
+/// Returns whether the text is a valid name: it must fit into the four bytes of a group number and
+/// contain a letter, because users type names and numbers into one field.
 bool isGroupName(const QString& name)
 {
     static const QRegularExpression form(QStringLiteral("\\A(?=.*[A-Za-z])[A-Za-z0-9]{1,4}\\z"));
@@ -329,7 +330,7 @@ QVector<int> ModelFileReader::members(const JsonPlace& group, const char* key,
     return result;
 }
 
-/// Reads the first two values, which all elements have in common.
+/// Reads the first two values, which are common to all elements.
 template <typename Element>
 void ModelFileReader::numberAndGroup(const JsonList& values, Element& element, Numbers& used) const
 {

@@ -23,14 +23,14 @@ QVector<QByteArray> toRecords(const QVector<T>& things)
     QVector<QByteArray> records(things.size());
     for (int i = 0; i < things.size(); ++i) {
         FieldWriter writer(&records[i]);
-        T copy = things[i]; // not const: fields() also serves the reader
+        T copy = things[i]; // not const, because fields() is also used for reading
         fields(writer, copy);
     }
     return records;
 }
 
-/// Returns the status of reading a list whose last record was read with this result. If that is
-/// VKD_ZOB_OK, the caller stopped reading before the end.
+/// Returns the status after reading a list; `last` is the result of the last read. VKD_ZOB_OK means
+/// that the caller stopped before the end of the list.
 VkdStatus statusOfEnd(ZobHandle project, cd_error_t last)
 {
     if (last == VKD_ZOB_END || last == VKD_ZOB_NO_KEY)
@@ -40,14 +40,15 @@ VkdStatus statusOfEnd(ZobHandle project, cd_error_t last)
     return VkdStatus::failure(last, vkd_zob_last_failure(project.index()).reason);
 }
 
-/// Returns the record of the system information. Random bytes after the fields identify the model,
-/// see modelMark().
+/// Returns the record of the system information. Random bytes after the fields identify the model
+/// (see modelMark()).
 QByteArray newSystemRecord(const SystemInformation& system)
 {
     return toRecords(QVector<SystemInformation>{system}).first() + QUuid::createUuid().toRfc4122();
 }
 
-/// Decodes the system information from the mark of a model, which is its record, see modelMark().
+/// Decodes the system information from the mark of a model, which is the record of the system
+/// information (see modelMark()).
 SystemInformation systemOf(ZobHandle project, const QByteArray& mark, VkdStatus* status)
 {
     QVector<SystemInformation> systems;
@@ -56,7 +57,7 @@ SystemInformation systemOf(ZobHandle project, const QByteArray& mark, VkdStatus*
     return systems.isEmpty() ? SystemInformation() : systems.first();
 }
 
-/// Reads the mark of the model, see modelMark().
+/// Reads the mark of the model (see modelMark()).
 VkdStatus readMark(ZobHandle project, QByteArray* mark)
 {
     return forEachRecord(project, keys::System, [mark](const QByteArray& bytes) { *mark = bytes; });
@@ -162,7 +163,7 @@ Model readModel(ZobHandle project, const VkdGoOn& goOn, QByteArray* mark, VkdSta
         first = readMark(project, &system);
     model.system = systemOf(project, system, &first);
     const bool hasModel = !system.isEmpty();
-    // After a failure, every further list would fail too, each after the lock timeout.
+    // After a failure, every further list would also fail, each after the lock timeout.
     forEachList(model, [&](KeyPair pair, auto& things) {
         const VkdStatus read =
             hasModel && mayContinue(first) ? readList(project, pair, things, &steps) : first;
@@ -188,7 +189,7 @@ QVector<LoadCase> readLoadCases(ZobHandle project, VkdStatus* status)
 int getKindOfSystem(int index, structKindSystem*)
 {
     const ZobHandle project(index);
-    VkdStatus damage; // such a record is left out
+    VkdStatus damage; // damaged records are skipped
     return systemOf(project, modelMark(project), &damage).kindOfSystem;
 }
 

@@ -13,24 +13,24 @@
 namespace vkd {
 namespace dbo {
 
-// Functions with `steps` count each record as a step, and stop when the steps are stopped.
+// Functions with a parameter `steps` count each record as a step and stop on cancellation.
 
-/// Replaces the records under the key pair. Returns true if the store accepted all of them.
+/// Replaces the records of the key pair. Returns true if the store accepted all records.
 bool putRecords(ZobHandle project, KeyPair pair, const QVector<QByteArray>& records,
                 VkdSteps* steps = nullptr);
 
-/// Reads one record of any length. Returns the store's status; unless it is VKD_ZOB_OK, `record` is
-/// empty.
+/// Reads one record of any length. Returns the store's status code. If it is not VKD_ZOB_OK,
+/// `record` is empty.
 cd_error_t getRecord(ZobHandle project, KeyPair pair, int position, QByteArray* record);
 
-/// Calls `visit` for each record under the key pair in order, from one state of the project.
-/// Returns OK if all records were visited, or VKD_ZOB_CANCELLED if the steps were stopped.
+/// Calls `visit` for each record of the key pair in order; all records are read from one state of
+/// the project. Returns OK if all records were visited, or VKD_ZOB_CANCELLED on cancellation.
 VkdStatus forEachRecord(ZobHandle project, KeyPair pair,
                         const std::function<void(const QByteArray&)>& visit,
                         VkdSteps* steps = nullptr);
 
-/// Returns a failure with the code VKD_ZOB_DAMAGED, because a record is too short for its fields,
-/// and logs it.
+/// Logs and returns a failure with the code VKD_ZOB_DAMAGED. Call this if a record is too short for
+/// its fields.
 VkdStatus reportDamagedRecord(ZobHandle project, KeyPair pair);
 
 /// Appends the item decoded from the record. Returns VKD_ZOB_DAMAGED if the record is damaged.
@@ -46,8 +46,8 @@ VkdStatus addThing(ZobHandle project, KeyPair pair, const QByteArray& record, QV
     return {};
 }
 
-/// Appends the items of all undamaged records under the key pair. Returns the failure of the store,
-/// or else that of the first damaged record.
+/// Appends the items of all undamaged records of the key pair. Returns the failure of the store if
+/// there is one, otherwise the failure for the first damaged record.
 template <typename T>
 VkdStatus readList(ZobHandle project, KeyPair pair, QVector<T>& things, VkdSteps* steps = nullptr)
 {
@@ -61,7 +61,7 @@ VkdStatus readList(ZobHandle project, KeyPair pair, QVector<T>& things, VkdSteps
     return read.isOk() ? damage : read;
 }
 
-/// Returns whether reading other lists makes sense after this status. Damage concerns only a part
+/// Returns whether it makes sense to read other lists after this status. Damage affects only a part
 /// of a project.
 inline bool mayContinue(const VkdStatus& status)
 {
