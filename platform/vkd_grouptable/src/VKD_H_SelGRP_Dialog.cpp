@@ -10,7 +10,7 @@
 #include <QScreen>
 
 namespace {
-/// Returns the position nearest to the given one at which the whole dialog is on the screen.
+/// Returns the position closest to the given position at which the whole dialog is on the screen.
 QPoint onScreen(const QPoint& position, const QSize& size)
 {
     const QScreen* screen = QGuiApplication::screenAt(position);
@@ -35,7 +35,7 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
     addFootButton(pick);
     connect(pick, &QPushButton::clicked, this, [this, doc] {
         if (doc)
-            removePickedGroups(doc->handle()); // no old selection if the user picks nothing
+            removePickedGroups(doc->handle()); // the user may pick nothing
         storePickedGroups(ZobHandle(StartOfPicking), presentChoice());
         done(PickOutside);
     });

@@ -57,7 +57,7 @@ bool fromRecord(const QByteArray& bytes, std::vector<int>& groups)
     return true;
 }
 
-/// Returns the record, a null one if there is none.
+/// Returns the record, or a null byte array if there is none.
 QByteArray readRecord(ZobHandle project)
 {
     QByteArray bytes(1024, Qt::Uninitialized);

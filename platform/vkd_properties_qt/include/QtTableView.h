@@ -9,9 +9,10 @@
 
 namespace vkd::properties::nextGen {
 
-/// A table view that can be made read-only. The user then cannot change its model by editors, check
-/// boxes or drops, but can still scroll, select and copy all selected cells. Widgets over cells are
-/// disabled, and editable cells are dimmed unless the host sets its own delegate.
+/// A table view that can be made read-only. In this state, the user cannot change the model with
+/// editors, check boxes or drag and drop, but can still scroll, select cells and copy the selected
+/// cells. Widgets over cells are disabled, and editable cells are dimmed unless the host sets its
+/// own delegate.
 class VKD_PROPERTIES_QT_EXPORT QtTableView : public QTableView
 {
     Q_OBJECT
@@ -19,7 +20,8 @@ class VKD_PROPERTIES_QT_EXPORT QtTableView : public QTableView
 public:
     explicit QtTableView(QWidget* parent = nullptr);
 
-    /// Switching to read-only commits and closes an open editor.
+    /// Sets whether the view is read-only. Switching to read-only commits and closes an open
+    /// editor.
     void set_read_only(bool readOnly);
     bool is_read_only() const;
 
@@ -39,7 +41,7 @@ private:
     void enableWidgets();
 
     bool m_readOnly = false;
-    std::vector<QPointer<QWidget>> m_disabled; ///< widgets over cells to enable again
+    std::vector<QPointer<QWidget>> m_disabled; ///< widgets over cells that must be enabled again
 };
 
 } // namespace vkd::properties::nextGen

@@ -94,7 +94,7 @@ void QtTableView::disableWidgets()
         disableWidget(widget);
 }
 
-/// Widgets that the host disabled itself are not remembered, so enableWidgets() leaves them
+/// Widgets that the host has disabled are not added to the list, so enableWidgets() leaves them
 /// disabled.
 void QtTableView::disableWidget(QWidget* widget)
 {

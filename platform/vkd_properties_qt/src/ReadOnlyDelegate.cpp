@@ -3,8 +3,8 @@
 #include "QtTableView.h"
 
 namespace {
-/// Mixes the text and base colours. In some palettes the text colour of disabled widgets is too
-/// faint for cells that the user still reads and copies.
+/// Mixes the text and base colours. In some palettes, the text colour of disabled widgets is too
+/// faint for cells that the user still needs to read and copy.
 QColor dimmed(const QPalette& palette)
 {
     const QColor& text = palette.color(QPalette::Active, QPalette::Text);

@@ -4,7 +4,7 @@
 
 namespace vkd::properties::nextGen {
 
-/// Draws editable cells of a read-only QtTableView as disabled ones.
+/// Draws the editable cells of a read-only QtTableView as disabled cells.
 class ReadOnlyDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

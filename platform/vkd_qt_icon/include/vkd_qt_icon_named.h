@@ -9,7 +9,7 @@ namespace qt {
 
 /// Returns the suite's icon with this name, such as ":/icon/program/calculator". It is drawn in the
 /// colours of the application's palette at the requested size, so that it suits light and dark
-/// desktops and any pixel ratio. An unknown name gives a null icon.
+/// desktops and any device pixel ratio. Returns a null icon if the name is unknown.
 VKD_QT_ICON_EXPORT QIcon icon(const QString& name);
 
 } // namespace qt

@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// A text for the suite's services, constructed from UTF-8; null gives an empty text.
+/// A string for the suite's services, constructed from UTF-8. Null results in an empty string.
 class VKD_T_String
 {
 public:
-    // Implicit, so that callers can pass literals.
+    // The constructor is implicit so that callers can pass literals.
     VKD_T_String(const char* utf8)
         : m_text(QString::fromUtf8(utf8))
     {

@@ -12,7 +12,7 @@ using vkd::Language;
 
 const QString IndexFile = QStringLiteral("index.txt");
 
-/// Accepts only names that are safe as parts of paths.
+/// Returns whether the text is a name that is safe as part of a path.
 bool isName(const QString& text)
 {
     static const QRegularExpression name(QStringLiteral("\\A[A-Za-z0-9_]+\\z"));
@@ -29,7 +29,7 @@ QString pageFile(const QString& topic)
     return topic.toLower() + QLatin1String(".html");
 }
 
-/// Returns the folder of a book in a language, empty if there is none.
+/// Returns the folder of a book in a language, or an empty string if there is none.
 QString folderOf(const QString& book, Language language)
 {
     const QString index =

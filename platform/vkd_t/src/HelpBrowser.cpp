@@ -11,8 +11,8 @@ constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 20;
 constexpr int WheelStep = 120;
 
-/// Colours are left out on purpose: the text document's default border is a grey that is visible on
-/// light and dark backgrounds.
+/// The style does not set colours, because the text document's default border is a grey that is
+/// visible on light and dark backgrounds.
 const QString PageStyle = QStringLiteral("table { border-collapse: collapse; margin-top: 6px; "
                                          "margin-bottom: 6px }"
                                          "td, th { padding: 4px }"
@@ -99,7 +99,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& address)
     const QByteArray bytes = m_book.file(address);
     if (type == QTextDocument::ImageResource)
         return bytes;
-    return QString::fromUtf8(bytes); // as text, since Qt would guess the codec of bytes
+    return QString::fromUtf8(bytes); // as a string, because Qt would guess the codec of bytes
 }
 
 void HelpBrowser::wheelEvent(QWheelEvent* event)

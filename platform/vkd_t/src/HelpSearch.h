@@ -5,15 +5,17 @@
 
 class HelpBook;
 
-/// The searchable plain texts of a book's pages. They come from the parser that also displays the
-/// pages, so that every match is found in the page as well. Uses no widgets.
+/// The searchable plain text of each page of a book. The text is extracted by the parser that also
+/// displays the pages, so that every match is also found in the page. The class does not use
+/// widgets.
 class HelpSearch
 {
 public:
     HelpSearch() = default;
     explicit HelpSearch(const HelpBook& book);
 
-    /// Returns the numbers of topics whose pages contain the text, case-insensitively.
+    /// Returns the indexes of the topics whose pages contain the text. The search is
+    /// case-insensitive.
     QVector<int> topicsWith(const QString& text) const;
 
 private:

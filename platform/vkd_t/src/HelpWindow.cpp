@@ -26,7 +26,7 @@ QIcon programIcon(const char* name)
     return vkd::qt::icon(QStringLiteral(":/icon/program/") + QLatin1String(name));
 }
 
-/// Sets the text, and a tool tip that contains the shortcut.
+/// Sets the text and a tool tip that contains the shortcut.
 void setTexts(QAction* action, const QString& text)
 {
     action->setText(text);
@@ -40,7 +40,7 @@ HelpWindow::HelpWindow()
 {
     setObjectName(QStringLiteral("VKD_T_Help"));
     setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_QuitOnClose, false); // the help alone must not keep a program running
+    setAttribute(Qt::WA_QuitOnClose, false); // the help alone must not keep the program running
     setContextMenuPolicy(Qt::NoContextMenu);
     makeToolBar();
     makePanes();
@@ -134,7 +134,7 @@ void HelpWindow::makeKeyActions()
     });
     key("findNext", {Qt::Key_F3}, [this] { findNext(false); });
     key("findPrevious", {Qt::SHIFT + Qt::Key_F3}, [this] { findNext(true); });
-    // On many keyboards, plus and the equals sign share a key.
+    // On many keyboards, the plus sign and the equals sign share a key.
     key("zoomIn", {Qt::CTRL + Qt::Key_Plus, Qt::CTRL + Qt::Key_Equal},
         [this] { m_browser->zoomBy(1); });
     key("zoomOut", {Qt::CTRL + Qt::Key_Minus}, [this] { m_browser->zoomBy(-1); });
@@ -265,7 +265,7 @@ void HelpWindow::findNext(bool backward)
     const QTextDocument::FindFlags flags =
         backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
     if (!m_browser->findNext(searchText(), flags))
-        openListed(m_hits->item(0)); // no match in this page, but in another one
+        openListed(m_hits->item(0)); // no match on this page, but on another page
 }
 
 void HelpWindow::updateSidePane()

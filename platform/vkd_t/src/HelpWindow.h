@@ -13,8 +13,9 @@ class QListWidget;
 class QListWidgetItem;
 class TransientParent;
 
-/// The help window: the page, the list of topics and search results at its left, and the tool bar.
-/// The book, the search and the browser find texts; the TransientParent sets the transient parent.
+/// The help window. It contains the page, the list of topics and search results on the left, and
+/// the tool bar. HelpBook, HelpSearch and HelpBrowser find pages and text; TransientParent sets the
+/// transient parent.
 class HelpWindow : public QMainWindow
 {
     Q_OBJECT
@@ -24,8 +25,8 @@ public:
 
     /// Opens a topic of a book, which may be the current book in another language.
     void open(const HelpBook& book, int topic);
-    /// Shows the window in front, as a child window of the active modal dialog or of `caller`'s
-    /// window.
+    /// Shows the window in front of its transient parent, which is the active modal dialog or
+    /// `caller`'s window.
     void showFor(QWidget* caller);
 
 protected:

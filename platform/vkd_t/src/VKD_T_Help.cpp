@@ -22,7 +22,7 @@ void deleteHelpWindow()
 HelpWindow& openWindow()
 {
     if (helpWindow && !helpWindow->isVisible())
-        deleteHelpWindow(); // closed; the event loop will delete it
+        deleteHelpWindow(); // the window was closed; the event loop will delete it
     if (!helpWindow) {
         helpWindow = new HelpWindow;
         qRemovePostRoutine(deleteHelpWindow);
