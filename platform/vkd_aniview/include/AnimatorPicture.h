@@ -19,13 +19,13 @@ class ScenePainter;
 } // namespace aniview
 } // namespace vkd
 
-/// Paints the structural model of a project like AnimatorView, but without a widget: on white,
-/// centred, with the triad of axes and at a given scale. The model is read once, in the
+/// Paints the structural model of a project like AnimatorView, but without a widget: centred on a
+/// white background, with the axis triad and at a given scale. The model is read once, in the
 /// constructor.
 class VKD_ANIVIEW_EXPORT AnimatorPicture
 {
 public:
-    /// Reads the model of the project; without one the picture is empty.
+    /// Reads the model of the project. If there is none, the image is empty.
     explicit AnimatorPicture(ZobHandle project);
     ~AnimatorPicture();
 
@@ -34,12 +34,13 @@ public:
     /// direction.
     QSizeF sizeSeen(const vkd::dbo::Camera& camera) const;
 
-    /// Returns the scale in pixels per metre at which the model fills a picture of this size
-    /// (pixels), seen from the camera's direction.
+    /// Returns the scale in pixels per metre at which the model, seen from the camera's direction,
+    /// fills an image of this size in pixels.
     double fittingScale(const vkd::dbo::Camera& camera, const QSizeF& size) const;
     /// Paints into the rectangle of this size at the painter's origin and clips to it. Only the
     /// direction and the roll of the camera are used. `scale` is in pixels per metre and must be
-    /// positive. Line widths and symbols are made for 96 dpi; a scaled painter scales them too.
+    /// positive. Line widths and symbols are designed for 96 dpi; a scaled painter also scales
+    /// them.
     void paint(QPainter& painter, const QSizeF& size, const vkd::dbo::Camera& camera, double scale);
 
 private:

@@ -23,10 +23,10 @@ class ScenePainter;
 } // namespace aniview
 } // namespace vkd
 
-/// A preview of the structural model of a project. The user turns, moves and zooms it with the
-/// mouse or the keyboard and can pick primary groups. The model is read in the constructor, by
-/// setProject() and by reload(). A disabled view ignores the user's input, but looks the same and
-/// still carries out slotViewControl().
+/// A preview of the structural model of a project. The user rotates, pans and zooms the view with
+/// the mouse or the keyboard and can pick primary groups. The model is read in the constructor, by
+/// setProject() and by reload(). A disabled view ignores user input, but looks the same, and
+/// slotViewControl() still works.
 class VKD_ANIVIEW_EXPORT AnimatorView : public QWidget
 {
     Q_OBJECT
@@ -39,49 +39,49 @@ public:
                           const char* name = "AnimatorView");
     ~AnimatorView() override;
 
-    /// Switches to another project or to none, reads its model and keeps the camera. Returns the
-    /// status of readModel(). If it is VKD_ZOB_CANCELLED, the view does not change; after any other
-    /// failure it shows the part of the model that was read.
+    /// Switches to another project or, if the handle is null, to no project. Reads the model and
+    /// keeps the camera. Returns the status of readModel(). If it is VKD_ZOB_CANCELLED, the view
+    /// does not change. After any other failure, the view shows the part of the model that was
+    /// read.
     VkdStatus setProject(ZobHandle project, const VkdGoOn& goOn = VkdGoOn());
     /// Reloads the model and keeps the camera and the picked groups.
     void reload();
 
-    /// While picking is on, the group under the mouse is highlighted, and a click adds it to the
-    /// picked groups or removes it from them. Picked groups have the highlight colour, the others
-    /// are paler.
+    /// While picking is enabled, the group under the mouse pointer is highlighted, and a click adds
+    /// it to the picked groups or removes it. Picked groups have the highlight colour, and the
+    /// other groups are paler.
     bool isPicking() const;
     void setPicking(bool picking);
 
-    /// Sets whether the group under the mouse is highlighted even while picking is off; the default
-    /// is false.
+    /// Sets whether the group under the mouse pointer is highlighted even while picking is
+    /// disabled. The default is false.
     void setHovering(bool hovering);
 
-    /// Returns the picked groups in ascending order without duplicates, including numbers that the
-    /// model lacks. The setter emits no signal.
+    /// Returns the picked groups in ascending order without duplicates, including numbers that do
+    /// not exist in the model. The setter does not emit a signal.
     std::vector<int> pickedGroups() const;
     void setPickedGroups(const std::vector<int>& groups);
 
-    /// Highlights a group, for example the current row of a list, or none (NoGroup). Works with
-    /// picking on and off.
+    /// Highlights a group, for example that of the current row in a list, or no group (NoGroup).
+    /// Works whether picking is enabled or disabled.
     void setHighlightedGroup(int group);
 
-    /// Returns whether the last picture was the full one. While the picture moves, and until that
-    /// of a large model is complete, it has fewer items.
+    /// Returns whether the last painted image contains all items. It contains fewer items while the
+    /// view is moving, and until the full image of a large model is complete.
     bool isPictureComplete() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
-    /// Carries out a command synchronously. The value belongs to the suite's interface; no command
-    /// uses it.
+    /// Executes a command synchronously. The value belongs to the suite's interface and is ignored.
     void slotViewControl(AnimatorViewControl control, double value);
 
 Q_SIGNALS:
-    /// Emitted when the group under the mouse changes while picking or hovering is on; NoGroup
-    /// stands for none.
+    /// Emitted when the group under the mouse pointer changes while picking or hovering is enabled.
+    /// NoGroup means that there is no group.
     void groupHovered(int group);
-    /// Emitted after the user picked a group or removed one from the picked groups.
+    /// Emitted after the user has picked a group or has removed a group from the picked groups.
     void pickedGroupsChanged();
 
 protected:
@@ -104,17 +104,19 @@ private:
     bool isEmpty() const;
     QString emptyText() const;
     void setTexts();
-    /// Returns a colour of an active window; a disabled view must not look disabled.
+    /// Returns a palette colour of an active window, because a disabled view must not look
+    /// disabled.
     QColor activeColour(QPalette::ColorRole role) const;
     void drawScene(QPainter& painter);
     void drawQuickly(QPainter& painter);
     void drawAtRest(QPainter& painter);
-    /// Continues the full picture of a large model.
+    /// Continues to paint the full image of a large model.
     void paintStep();
-    /// Discards the full picture and repaints.
+    /// Discards the full image and repaints.
     void changed();
     void lookFrom(double x, double y, double z);
-    /// Repaints without antialiasing now, and with it once the picture has rested for a while.
+    /// Repaints immediately without antialiasing, and with antialiasing after the view has stopped
+    /// moving.
     void moved();
     void showMarks();
 
@@ -130,17 +132,17 @@ private:
     bool turnOrPanByKey(int key, bool pan);
 
     ZobHandle m_project;
-    bool m_hovers = false; // highlights even while picking is off
+    bool m_hovers = false; // highlights even while picking is disabled
     std::unique_ptr<vkd::aniview::SceneView> m_scene;
     std::unique_ptr<vkd::aniview::ScenePainter> m_painter;
     std::unique_ptr<vkd::aniview::PaintingPace> m_pace;
     std::unique_ptr<vkd::aniview::RestPicture> m_restPicture;
     std::unique_ptr<vkd::aniview::GroupMarks> m_marks;
-    QTimer m_rest; // active while the picture moves
-    QTimer m_step; // for the next step of the full picture
+    QTimer m_rest; // active while the view is moving
+    QTimer m_step; // triggers the next step of the full image
 
     Hand m_hand = Hand::Free;
-    Qt::MouseButton m_button = Qt::NoButton; // started the drag
+    Qt::MouseButton m_button = Qt::NoButton; // button that started the drag
     QPoint m_pressed;
     QPoint m_last;
     bool m_isClick = false; // the mouse has not moved since the press

@@ -11,11 +11,11 @@
 namespace vkd {
 namespace dbo {
 
-/// An error in a model file with its position, or an empty text if the caller cancelled. Thrown
-/// within the reader only.
+/// An error in a model file with its position. The text is empty if the caller cancelled. The error
+/// is thrown only within the reader.
 struct ModelFileError
 {
-    Q_DECLARE_TR_FUNCTIONS(vkd::dbo::ModelFileError) // the German texts are in vkd_qt's translation
+    Q_DECLARE_TR_FUNCTIONS(vkd::dbo::ModelFileError) // German: in vkd_qt's translation file
 
 public:
     QString text;
@@ -23,14 +23,14 @@ public:
 
 class JsonList;
 
-/// A value of a model file that knows its path, such as `beams[12][3]` (counted from 0), so that
-/// every error message contains the path. Only a failure needs the text, so that a place has just a
-/// link to the one that it was read from, which must outlive it. Each read operation throws a
-/// ModelFileError if the value has another type.
+/// A value in a model file together with its path, such as `beams[12][3]` (zero-based), so that
+/// every error message contains the path. The text of the path is needed only for an error message.
+/// Therefore a place stores only a pointer to its parent place, which must outlive it. Each read
+/// operation throws a ModelFileError if the value has another type.
 class JsonPlace
 {
 public:
-    /// The whole file.
+    /// Creates the place for the root value of the file.
     explicit JsonPlace(QJsonValue root)
         : m_value(std::move(root))
     {
@@ -42,7 +42,7 @@ public:
     int positive() const;
     double real() const;
     QString string() const;
-    /// Reads a text, or an object with a text for each language.
+    /// Reads a string, or an object with one string per language.
     QString title(Language language) const;
     /// Returns the elements of a list with at least `least` and, unless `most` is 0, at most `most`
     /// elements.
@@ -74,11 +74,11 @@ private:
 
     QJsonValue m_value;
     const JsonPlace* m_parent = nullptr;
-    int m_index = 0; // in a list, or InObject
+    int m_index = 0; // index in a list, or InObject
     QString m_key;
 };
 
-/// The elements of a list. Each place is made when it is asked for, because a list can have a
+/// The elements of a list. A place is created only when it is accessed, because a list can have a
 /// million elements.
 class JsonList
 {

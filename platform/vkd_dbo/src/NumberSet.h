@@ -8,12 +8,13 @@
 namespace vkd {
 namespace dbo {
 
-/// A set of positive numbers. Models number their items almost without gaps, so that a bit for each
-/// number takes a fraction of the memory and time of a hash table; only large numbers are hashed.
+/// A set of positive numbers. The items of a model are numbered almost without gaps. One bit per
+/// number therefore takes only a fraction of the memory and time of a hash table. Only large
+/// numbers are hashed.
 class NumberSet
 {
 public:
-    /// Returns false if the number is already in the set.
+    /// Inserts a number. Returns false if it is already in the set.
     bool insert(int number)
     {
         if (contains(number))
@@ -36,7 +37,7 @@ public:
     }
 
 private:
-    static constexpr int MostBits = 1 << 25; // 4 MB
+    static constexpr int MostBits = 1 << 25; // number of bits that fit into 4 MB
 
     std::vector<bool> m_isSmall;
     QSet<int> m_large;

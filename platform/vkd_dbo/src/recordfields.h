@@ -10,8 +10,9 @@
 namespace vkd {
 namespace dbo {
 
-/// Writes the fields of an item into its record: little-endian, texts as length and UTF-16, like a
-/// QDataStream. Creating a stream for each record would take longer than writing its fields.
+/// Writes the fields of an item to its record in little-endian order, and strings as length and
+/// UTF-16 code units, in the format of QDataStream. Creating a stream for each record would take
+/// longer than writing the fields.
 class FieldWriter
 {
 public:
@@ -65,8 +66,8 @@ private:
     QByteArray* m_bytes;
 };
 
-/// Reads records of FieldWriter. isComplete() returns false for a record that is too short or
-/// contains an impossible length.
+/// Reads records written by FieldWriter. isComplete() returns false for a record that is too short
+/// or contains an invalid length.
 class FieldReader
 {
 public:
@@ -116,7 +117,7 @@ void numbers(Archive& archive, Numbers& values)
         archive(value);
 }
 
-// The fields of each record type in their order. `Archive` is one of the two classes above.
+// The fields of each record type in storage order. `Archive` is one of the two classes above.
 
 template <typename Archive>
 void fields(Archive& archive, Node& node)

@@ -13,8 +13,8 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-/// No building has coordinates beyond this limit in metres; squares of such lengths would lose
-/// their precision.
+/// No building has coordinates beyond this limit in metres. Squares of larger lengths would lose
+/// precision.
 constexpr double Nowhere = 1e9;
 constexpr int MostPieces = 32; // per line
 constexpr size_t PiecesInAll = 10000;
@@ -115,9 +115,10 @@ void GeometryBuilder::addLines(const QVector<dbo::LineElement>& elements, LineKi
     }
 }
 
-/// Splits long lines, because some parts of a line that passes many faces are in front of them and
-/// others are hidden. A model with few faces gets few pieces: one small face must not slow down the
-/// painting of a frame with thousands of bars.
+/// Splits long lines, because some parts of a line that passes many faces may be in front of the
+/// faces and other parts hidden by them. If the model has few faces, its lines are split into few
+/// pieces, because one small face must not slow down the painting of a frame with thousands of
+/// bars.
 void GeometryBuilder::splitLines()
 {
     const std::vector<Line> lines = std::exchange(m_geometry.lines, {});
@@ -150,8 +151,8 @@ void GeometryBuilder::addSplit(const Line& line, int pieces)
     }
 }
 
-/// A spring to the ground is drawn below its node and is half as long as a face, so that a bedding
-/// is visible at the edges of its plate.
+/// Adds the springs. A spring to the ground is drawn below its node and is half as long as the edge
+/// of a face, so that an elastic foundation is visible at the edges of its plate.
 void GeometryBuilder::addSprings()
 {
     const double length = m_cell > 0 ? 0.5 * m_cell : 0.5;
@@ -169,8 +170,8 @@ void GeometryBuilder::addSprings()
     }
 }
 
-/// Adds supports at nodes of elements only; other nodes would make the box larger than the visible
-/// model.
+/// Adds supports only at nodes that belong to elements. Other nodes would make the bounding box
+/// larger than the visible model.
 void GeometryBuilder::addSupports()
 {
     for (const dbo::Boundary& support : m_model.supports) {
@@ -196,7 +197,7 @@ double GeometryBuilder::lengthOf(int from, int to) const
     return std::sqrt(dot(way, way));
 }
 
-/// Replaces group numbers by indexes into the sorted list of groups.
+/// Replaces group numbers with indexes into the sorted list of groups.
 void GeometryBuilder::numberGroups()
 {
     std::vector<int>& groups = m_geometry.groups;

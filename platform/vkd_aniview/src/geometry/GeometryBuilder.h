@@ -17,7 +17,7 @@ public:
     ModelGeometry build();
 
 private:
-    /// Returns the index of the point at a node, -1 if the node does not exist.
+    /// Returns the index of the point at a node, or -1 if the node does not exist.
     int pointAt(int node);
     int addPoint(const Position& position);
     bool takePoints(const int* nodes, int count, int* points);

@@ -17,9 +17,9 @@ struct Face
     int points[4]{};
     int count = 4;
     int group = 0;
-    float normal[3]{};        ///< unit vector, or null for a face without area
+    float normal[3]{};        ///< unit vector, or zero for a face without area
     float thickness = 0.0F;   ///< metres, 0 for a brick
-    unsigned strongEdges = 0; ///< one bit for each edge that bounds a plate or a fold
+    unsigned strongEdges = 0; ///< one bit for each edge at the rim of a plate or at a fold
 };
 
 /// A line element or a piece of a long one.
@@ -37,8 +37,8 @@ struct Support
     int fixed = 0; ///< the bits of dbo::Boundary
 };
 
-/// The sort key of an item: a point, and the distance by which the item is drawn nearer to the
-/// viewer than this point, because it must cover the faces that it lies on.
+/// The sort key of an item: a point and a distance. The item is sorted as if it were nearer to the
+/// viewer than the point by this distance, because it must cover the faces on which it lies.
 struct SortPlace
 {
     float x = 0.0F;
@@ -47,32 +47,32 @@ struct SortPlace
     float nearer = 0.0F;
 };
 
-/// The drawable form of a model, prepared once, so that a picture only has to project it.
-/// Coordinates and lengths are relative to the centre of the box and in multiples of `unit`, so
-/// that single precision suffices at any distance from the origin. Items are numbered
-/// consecutively: first all faces, then the lines, then the supports.
+/// The drawable form of a model. It is prepared once, so that painting only requires a projection.
+/// Coordinates are relative to the centre of the bounding box. Coordinates and lengths are
+/// multiples of `unit`, so that single precision suffices at any distance from the origin. Item
+/// indexes are consecutive: first all faces, then the lines, then the supports.
 struct ModelGeometry
 {
     Box box;
     double unit = 1.0;     ///< metres
-    float cell = 0.0F;     ///< the mean edge of the faces; 0 without faces
-    float meshCell = 0.0F; ///< the mean edge in the model, also in a coarser geometry of it
+    float cell = 0.0F;     ///< mean edge length of the faces; 0 without faces
+    float meshCell = 0.0F; ///< mean edge length in the original model
 
-    std::vector<float> x, y, z; ///< coordinates of the points
+    std::vector<float> x, y, z; ///< coordinates of all points
     std::vector<Face> faces;
     std::vector<Line> lines;
     std::vector<Support> supports;
     std::vector<int> groups;           ///< numbers of groups with elements, ascending
     std::vector<SortPlace> sortPlaces; ///< one for each item
 
-    std::shared_ptr<const ModelGeometry> coarser; ///< for quick pictures of a large model, or null
+    std::shared_ptr<const ModelGeometry> coarser; ///< for quick painting of a large model, or null
 
     size_t itemCount() const { return faces.size() + lines.size() + supports.size(); }
     bool isEmpty() const { return faces.empty() && lines.empty(); }
 };
 
-/// Builds the drawable form of a model. Skips elements with a node that does not exist or whose
-/// position is unusable.
+/// Builds the drawable form of a model. Skips elements that refer to a missing node or to a node
+/// with an invalid position.
 ModelGeometry buildGeometry(const dbo::Model& model);
 
 } // namespace aniview

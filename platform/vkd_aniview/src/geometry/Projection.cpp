@@ -7,17 +7,18 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-constexpr double Margin = 28.0; // pixels; leaves room for the symbols of supports
+constexpr double Margin = 28.0; // pixels; leaves space for the support symbols
 constexpr double LeastZoom = 0.05;
 constexpr double MostZoom = 500.0;
-// Stored cameras are limited to this range; outside it, single precision would make pixels jump.
+// Stored cameras are limited to this range. Outside the range, single precision would make pixels
+// jump.
 constexpr double LeastStoredZoom = 1e-3;
 constexpr double MostStoredZoom = 1e4;
 constexpr double FarthestCentre = 1e3; // times the size of the model
 
 double radiusOf(const Box& box)
 {
-    return std::max(std::sqrt(dot(box.half, box.half)), 1e-3); // a model may be one point
+    return std::max(std::sqrt(dot(box.half, box.half)), 1e-3); // the model may be a single point
 }
 
 double halfWidth(const Box& box, const Position& axis)

@@ -8,15 +8,15 @@
 namespace vkd {
 namespace aniview {
 
-/// The bounding box of a model, metres.
+/// The bounding box of a model, in metres.
 struct Box
 {
     Position centre{};
-    Position half{}; ///< half the lengths along x, y, z
+    Position half{}; ///< half of the extents along x, y, z
 };
 
-/// The parallel projection of a model into a picture. Sizes and points of the picture are in
-/// logical pixels, y points down. Cameras that would leave the valid range of pixels are limited to
+/// The parallel projection of a model onto an image. Sizes and points of the image are in logical
+/// pixels, and y points downwards. Cameras that would exceed the valid pixel range are limited to
 /// it.
 class Projection
 {
@@ -27,7 +27,8 @@ public:
     double scale() const { return m_scale; } ///< pixels per metre
     QPointF toScreen(const Position& position) const;
 
-    /// Returns the pixels per metre at zoom 1, where the box fills the picture except for a margin.
+    /// Returns the scale in pixels per metre at zoom 1, at which the bounding box fills the image
+    /// except for a margin.
     static double fittingScale(const ViewAxes& axes, const Box& box, const QSizeF& size);
 
 private:
@@ -37,19 +38,20 @@ private:
     QPointF m_middle;
 };
 
-/// Returns the camera with its effective centre: that of the box if the camera shows the whole
-/// model.
+/// Returns the camera with its effective centre, which is the centre of the box if the camera shows
+/// the whole model.
 Camera aimed(const Camera& camera, const Box& box);
 
-/// Returns the camera after the picture was moved by so many pixels.
+/// Returns the camera after the image was moved by the given number of pixels.
 Camera panned(const Camera& camera, const Box& box, const QSizeF& size, const QPointF& by);
 
-/// Returns the camera with its zoom multiplied by a factor, within limits; the model point at this
-/// position of the picture stays there.
+/// Returns the camera with its zoom multiplied by a factor, within limits. The model point at the
+/// given position of the image remains there.
 Camera zoomed(const Camera& camera, const Box& box, const QSizeF& size, double factor,
               const QPointF& at);
 
-/// Turns like turned(); a camera that does not show the whole model keeps its pixels per metre.
+/// Rotates the camera like turned(). If the camera does not show the whole model, the scale in
+/// pixels per metre is preserved.
 Camera turnedInPicture(const Camera& camera, const Box& box, const QSizeF& size, double right,
                        double down);
 

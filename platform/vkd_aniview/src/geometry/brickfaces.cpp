@@ -11,7 +11,7 @@ constexpr int Corners[6][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 1, 5, 4},
 
 struct Candidate
 {
-    std::array<int, 4> sorted; // equal for both bricks that share the face
+    std::array<int, 4> sorted; // identical for two bricks that share the face
     BrickFace face;
 };
 

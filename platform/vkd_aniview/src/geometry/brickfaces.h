@@ -13,7 +13,7 @@ struct BrickFace
     int group = 0;
 };
 
-/// Returns the faces that belong to one brick only.
+/// Returns the faces that belong to only one brick.
 std::vector<BrickFace> outerFaces(const QVector<dbo::Brick>& bricks);
 
 } // namespace aniview

@@ -14,7 +14,7 @@ namespace aniview {
 namespace {
 constexpr size_t FewItems = 8000;
 constexpr float LargestCell = 0.5F;
-constexpr float CellOfBars = 0.01F; // where no face gives a size
+constexpr float CellOfBars = 0.01F; // used if there are no faces
 constexpr int NoGroup = -1;
 // Without it, QHash puts the cells of a regular grid into few buckets, and opening a model of a
 // million elements takes several times as long.
@@ -25,7 +25,7 @@ class CellMerger
 public:
     CellMerger(const ModelGeometry& fine, float cell)
         : m_fine(fine)
-        , m_cell(std::max(cell, 1e-4F)) // the numbers of cells fit into 16 bits
+        , m_cell(std::max(cell, 1e-4F)) // limits cell indexes to 16 bits
         , m_latest(fine.x.size(), {NoGroup - 1, 0})
         , m_isOnStrongEdge(fine.x.size())
     {
@@ -50,9 +50,9 @@ private:
 
     const ModelGeometry& m_fine;
     const float m_cell;
-    std::vector<std::pair<int, int>> m_latest; // group and merged point of each point
+    std::vector<std::pair<int, int>> m_latest; // latest group and merged point of each point
     std::vector<bool> m_isOnStrongEdge;
-    std::vector<int> m_origins; // the point that represents each merged point
+    std::vector<int> m_origins; // original point that represents each merged point
     QHash<quint64, int> m_points;
     ModelGeometry m_coarse;
 };
@@ -84,7 +84,7 @@ quint64 CellMerger::keyOf(size_t point, int group) const
 
 int CellMerger::pointOf(int point, int group)
 {
-    auto& latest = m_latest[size_t(point)]; // most points have one group
+    auto& latest = m_latest[size_t(point)]; // most points belong to one group
     if (latest.first == group)
         return latest.second;
     const quint64 key = keyOf(size_t(point), group);
@@ -101,8 +101,9 @@ int CellMerger::pointOf(int point, int group)
     return *known;
 }
 
-/// The farthest point from the middle represents its cell, so that the outline keeps its size.
-/// Points on strong edges have priority, because groups that meet share them and must still meet.
+/// Represents each cell by the point farthest from the centre, so that the outline keeps its size.
+/// Points on strong edges have priority, because adjacent groups share them and must remain
+/// adjacent.
 void CellMerger::take(int merged, size_t point)
 {
     const auto i = size_t(merged);
@@ -155,7 +156,7 @@ void CellMerger::addLines()
                 lines.end());
 }
 
-/// Adds one support for each cell.
+/// Adds one support per cell.
 void CellMerger::addSupports()
 {
     for (const Support& support : m_fine.supports) {
@@ -175,8 +176,8 @@ void CellMerger::eachStrongEdge(const ModelGeometry& geometry, const Use& use)
                 use(face, face.points[side], face.points[(side + 1) % face.count]);
 }
 
-/// Marks the edges that come from strong ones. Merged faces overlap, so that others would look like
-/// the rim of a plate.
+/// Marks the edges that originate from strong edges. Merged faces overlap, so other edges would
+/// look like the rim of a plate.
 void CellMerger::takeStrongEdges()
 {
     const auto key = [](int a, int b) {

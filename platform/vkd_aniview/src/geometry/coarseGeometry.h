@@ -5,13 +5,13 @@
 namespace vkd {
 namespace aniview {
 
-/// Returns a geometry with at most half the items of a large one, for pictures that must be painted
-/// quickly, and null if the geometry is small. The result has a coarser one in turn.
+/// Returns a coarser geometry with at most half as many items, for images that must be painted
+/// quickly, or null if `geometry` is small. The result may itself have a coarser geometry.
 std::shared_ptr<const ModelGeometry> coarserGeometry(const ModelGeometry& geometry);
 
-/// Returns the geometry with the points of each group merged in the cells of a grid, without the
-/// items that have no extent left. Groups are not merged with each other, so that storeys stay
-/// apart. `cell` is the length of a cell.
+/// Returns the geometry in which the points of each group are merged in the cells of a grid. Items
+/// that no longer have any extent are omitted. Groups are not merged with each other, so that
+/// storeys remain separate. `cell` is the edge length of a cell.
 ModelGeometry mergedInCells(const ModelGeometry& geometry, float cell);
 
 } // namespace aniview

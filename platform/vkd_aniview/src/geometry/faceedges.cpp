@@ -10,9 +10,10 @@ namespace aniview {
 namespace {
 constexpr float FoldCosine = 0.87F; // 30 degrees
 
-// Distances by which supports and lines are drawn nearer than the faces around them, in mean edges
-// of faces. A support lies on corners of faces, whose middles may be 0.71 away. Lines get a
-// smaller distance, so that a column does not pierce its slab.
+// Distances by which supports and lines are drawn nearer to the viewer than the surrounding faces,
+// in mean edge lengths of the faces. A support lies on face corners, and the centre of a face may
+// be 0.71 away from its corner. Lines have a smaller distance, so that a column does not show
+// through its slab.
 constexpr float SupportNearer = 0.75F;
 constexpr float LineNearer = 0.3F;
 
@@ -53,8 +54,8 @@ Position between(const ModelGeometry& geometry, int from, int to)
             double(geometry.z[b]) - geometry.z[a]};
 }
 
-/// Computes the normal of a quad from its diagonals, which also works for warped quads, and that of
-/// a triangle from two of its edges.
+/// Computes the normal of a quad from its diagonals, which also works for warped quads, and the
+/// normal of a triangle from two of its edges.
 void setNormal(const ModelGeometry& geometry, Face& face)
 {
     const int* points = face.points;
@@ -105,8 +106,8 @@ float distance(const SortPlace& a, const SortPlace& b)
     return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z);
 }
 
-/// Moves a line that is an edge of faces nearer by the distance to the middles of these faces, so
-/// that it covers them in every view.
+/// Moves a line that is an edge of faces nearer to the viewer by its distance from the centres of
+/// these faces, so that the line covers the faces in every view.
 void placeLine(ModelGeometry& geometry, const std::vector<EdgeUse>& edges,
                const std::vector<bool>& isOnFace, Line& line)
 {

@@ -10,7 +10,7 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-/// The last geometry and the mark of its model; the mark is never empty.
+/// The most recent geometry and the mark of its model. The mark is never empty.
 struct Known
 {
     QByteArray mark;
@@ -53,7 +53,7 @@ std::shared_ptr<const ModelGeometry> sharedGeometry(ZobHandle project, const Vkd
     const auto geometry = build(model, goOn);
     if (!geometry && status)
         *status = VkdStatus{VKD_ZOB_CANCELLED, QString()};
-    if (geometry && !mark.isEmpty()) // an empty mark: no model or only part of one
+    if (geometry && !mark.isEmpty()) // empty if there is no model or only part of it was read
         last = {mark, geometry};
     return geometry;
 }

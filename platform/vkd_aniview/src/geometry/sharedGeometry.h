@@ -11,9 +11,9 @@
 namespace vkd {
 namespace aniview {
 
-/// Returns the drawable model of the project; it is empty for a null handle. All views of the model
-/// that was read last share one geometry. Returns null if `goOn` returned false. Sets `status`, if
-/// given, to the status of readModel(), or to VKD_ZOB_CANCELLED.
+/// Returns the geometry of the project's model. The geometry is empty for a null handle. All views
+/// of the most recently read model share one geometry. Returns null if `goOn` returned false. If
+/// `status` is not null, it receives the status of readModel(), or VKD_ZOB_CANCELLED.
 std::shared_ptr<const ModelGeometry>
 sharedGeometry(ZobHandle project, const VkdGoOn& goOn = VkdGoOn(), VkdStatus* status = nullptr);
 

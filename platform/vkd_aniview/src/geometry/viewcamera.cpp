@@ -9,10 +9,10 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-/// Degrees; below a right angle, so that the direction still has an azimuth.
+/// In degrees, less than a right angle, so that the direction still has an azimuth.
 constexpr double Steepest = 89.9;
 
-/// A direction in degrees; the azimuth counts from x to y.
+/// A direction in degrees. The azimuth is measured from x towards y.
 struct Direction
 {
     double azimuth;
@@ -21,7 +21,8 @@ struct Direction
 
 Direction directionOf(const Camera& camera)
 {
-    // Divide first: the squares of very large or small components leave the range of double.
+    // Divides first, because the squares of very large or small components exceed the range of
+    // double.
     const double* eye = camera.eye;
     const double largest = std::max({std::abs(eye[0]), std::abs(eye[1]), std::abs(eye[2])});
     const double x = eye[0] / largest;
@@ -33,8 +34,8 @@ Direction directionOf(const Camera& camera)
             qRadiansToDegrees(std::atan2(eye[2] / largest, level))};
 }
 
-/// Returns exact values for multiples of a right angle, so that elements in one line cover each
-/// other in the fixed views.
+/// Returns exact values for multiples of a right angle, so that collinear elements cover each other
+/// exactly in the standard views.
 Position unitCircle(double degrees)
 {
     const double quarter = degrees / 90.0;

@@ -13,7 +13,7 @@ double dot(const Position& a, const Position& b);
 Position cross(const Position& a, const Position& b);
 Position along(const Position& from, double distance, const Position& direction);
 
-/// Unit vectors in the coordinates of the model.
+/// The axes of the image as unit vectors in model coordinates.
 struct ViewAxes
 {
     Position right;
@@ -21,19 +21,20 @@ struct ViewAxes
     Position eye; ///< towards the viewer
 };
 
-/// Returns the axes of the picture. Global z points up, or y if the camera looks along z; then the
-/// roll turns the picture counterclockwise.
+/// Returns the axes of the image. Global z points up; if the camera looks along z, global y points
+/// up. Finally, the roll rotates the image counterclockwise.
 ViewAxes axesOf(const Camera& camera);
 
 /// Returns the camera that shows the whole model from a direction.
 Camera lookingFrom(const Position& eye);
 
-/// Returns whether the camera has the default zoom and centre; such a camera shows the whole model.
+/// Returns whether the camera has the default zoom and centre and therefore shows the whole model.
 bool showsAll(const Camera& camera);
 
-/// Returns the camera after the model was turned as if the user dragged its near side by so many
-/// degrees to the right and down: about the vertical axis, and about the horizontal axis up to the
-/// views from straight above and below.
+/// Returns the camera after the model was rotated as if the user had dragged its near side to the
+/// right and down by the given angles in degrees. The model rotates about the vertical axis and
+/// about the horizontal axis. The second rotation is limited to the views from directly above and
+/// below.
 Camera turned(const Camera& camera, double right, double down);
 
 } // namespace aniview

@@ -14,7 +14,7 @@
 using namespace vkd::aniview;
 
 namespace {
-/// Paper is white even if the desktop is dark.
+/// Returns a palette for printing, with a white background even if the desktop is dark.
 QPalette paperPalette()
 {
     QPalette palette(Qt::white);
@@ -29,7 +29,7 @@ double lengthAlong(const Position& axis, const Position& lengths)
            std::abs(axis[2]) * lengths[2];
 }
 
-/// Paints the triad small enough for the margin of most pictures.
+/// Paints the axis triad, which is small enough to fit into the margin of most images.
 void drawAxes(QPainter& painter, const ViewAxes& axes, double height)
 {
     constexpr double Length = 18.0;
@@ -84,8 +84,8 @@ void AnimatorPicture::paint(QPainter& painter, const QSizeF& size, const Camera&
     painter.restore();
 }
 
-/// Returns a camera that is aimed at the middle of the model; with a zoom other than 1 an unaimed
-/// camera would look at the origin.
+/// Returns the camera aimed at the centre of the model. Otherwise, a camera with a zoom other than
+/// 1 would look at the origin.
 Camera AnimatorPicture::wholeModel(const Camera& camera) const
 {
     Camera direction;

@@ -24,9 +24,9 @@ namespace {
 constexpr double DegreesToPixel = 0.4;
 constexpr double DegreesToKey = 5.0;
 constexpr double PixelsToKey = 40.0;
-constexpr double ZoomToStep = 1.2; // for one notch of the wheel or one key press
+constexpr double ZoomToStep = 1.2; // per wheel notch or key press
 constexpr int RestMs = 200;
-constexpr size_t ItemsAtOnce = 30000; // a larger picture at rest is painted in steps
+constexpr size_t ItemsAtOnce = 30000; // a larger full image is painted in steps
 } // namespace
 
 AnimatorView::AnimatorView(ZobHandle project, QWidget* parent, const char* name)
@@ -159,7 +159,7 @@ void AnimatorView::changeEvent(QEvent* event)
 
 bool AnimatorView::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowBlocked) // the modal window receives the release event
+    if (event->type() == QEvent::WindowBlocked) // the modal window will receive the release event
         endDrag();
     return QWidget::event(event);
 }
@@ -188,8 +188,8 @@ void AnimatorView::leaveEvent(QEvent* event)
         hover(NoGroup);
 }
 
-/// While picking is on, the second click on a group undoes the first one and must not also show the
-/// whole model.
+/// While picking is enabled, the second click on a group undoes the first click and must not also
+/// show the whole model.
 void AnimatorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (isPicking() && m_scene->groupAt(event->localPos()) != NoGroup) {
@@ -237,7 +237,7 @@ void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
         return;
     const bool picks = m_isClick && isPicking() && m_hand == Hand::Turning;
     endDrag();
-    const QPointer<AnimatorView> view(this); // a slot connected to either signal may delete it
+    const QPointer<AnimatorView> view(this); // slots of either signal may delete the view
     hoverAt(event->localPos());
     if (picks && view)
         click(event->pos());
@@ -314,7 +314,7 @@ void AnimatorView::drawScene(QPainter& painter)
         drawAtRest(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     const double length = qBound(12.0, 0.06 * qMin(width(), height()), 26.0);
-    const double inset = length + 16.0; // leaves room for a name and the frame
+    const double inset = length + 16.0; // leaves space for an axis name and the frame
     QFont names = font();
     names.setPixelSize(qMin(QFontInfo(names).pixelSize(), qRound(0.75 * length)));
     painter.setFont(names);
@@ -333,7 +333,8 @@ void AnimatorView::drawQuickly(QPainter& painter)
     m_pace->painted(drawn.picture.order().size(), 1e-9 * double(clock.nsecsElapsed()));
 }
 
-/// Draws the full picture. That of a large model is painted in steps and shown when it is complete.
+/// Draws the full image. For a large model, the image is painted in steps and shown when it is
+/// complete.
 void AnimatorView::drawAtRest(QPainter& painter)
 {
     if (m_restPicture->isComplete()) {
@@ -399,7 +400,7 @@ void AnimatorView::endDrag()
     updateCursor();
 }
 
-/// Ends a drag whose release event went to another window.
+/// Ends a drag whose release event was sent to another window.
 void AnimatorView::endLostDrag(const QMouseEvent& event)
 {
     const bool isUp = !(event.buttons() & m_button);

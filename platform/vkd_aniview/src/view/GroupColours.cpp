@@ -7,7 +7,7 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-// The colours differ in lightness as well as in hue; neighbours in the list differ most.
+// The colours differ in both lightness and hue. Adjacent colours in the list differ most.
 constexpr QRgb Hues[] = {0xff56b4e9, 0xffe69f00, 0xff009e73, 0xffcc79a7, 0xfff0e442,
                          0xff0072b2, 0xffd55e00, 0xffa6a6a6, 0xffbb5566, 0xffaad26e};
 constexpr int HueCount = sizeof Hues / sizeof *Hues;
@@ -43,7 +43,7 @@ double palenessOf(GroupMark mark)
     return mark == GroupMark::Pale ? 0.75 : mark == GroupMark::Dimmed ? 0.6 : 0.0;
 }
 
-/// Returns one of the hues, mixed with white or black once all hues are used.
+/// Returns one of the hues. After all hues have been used, they are mixed with white or black.
 QColor colourOf(int groupIndex)
 {
     const QColor hue = QColor::fromRgb(Hues[groupIndex % HueCount]);
@@ -80,7 +80,7 @@ GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double m
         set.fills[size_t(shade)] = fill;
         set.meshes[size_t(shade)] = QPen(mesh, 0);
     }
-    // Round caps triple the painting time and are visible on wide lines only.
+    // Round caps triple the painting time and are visible only on wide lines.
     const Qt::PenCapStyle ends = isLit ? Qt::RoundCap : Qt::SquareCap;
     set.edge = QPen(mixed(outline, colour, 0.2), isLit ? 2.6 : 1.2, Qt::SolidLine, ends);
     set.line = mark == GroupMark::Pale ? mixed(colour, outline, 0.3) : readable(colour);
@@ -93,7 +93,7 @@ QColor GroupColours::markedColour(int groupIndex, GroupMark mark) const
     const QColor colour = colourOf(groupIndex);
     switch (mark) {
     case GroupMark::None:
-    case GroupMark::Lit: return colour; // another hue would look like another group
+    case GroupMark::Lit: return colour; // a different hue would look like another group
     case GroupMark::Dimmed:
     case GroupMark::Pale: return mixed(colour, m_background, palenessOf(mark));
     case GroupMark::Picked: return m_highlight;

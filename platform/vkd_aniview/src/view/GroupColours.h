@@ -11,9 +11,10 @@
 namespace vkd {
 namespace aniview {
 
-/// The brushes and pens for the groups of a model: one colour for each group, in several shades,
-/// changed by the mark of the group. Colour-blind users can tell the colours apart. The other
-/// colours come from the palette of an active window, because a locked view must not look disabled.
+/// The brushes and pens for the groups of a model. Each group has one colour in several shades,
+/// which are modified according to the mark of the group. Colour-blind users can distinguish the
+/// colours. All other colours come from the palette of an active window, because a disabled view
+/// must not look disabled.
 class GroupColours
 {
 public:
@@ -23,10 +24,10 @@ public:
     struct Set
     {
         std::array<QBrush, Shades> fills; ///< dark to light
-        std::array<QPen, Shades> meshes;  ///< the outlines of elements
-        QPen edge;                        ///< edges of plates, folds
+        std::array<QPen, Shades> meshes;  ///< outlines of elements
+        QPen edge;                        ///< plate edges and folds
         QColor line;                      ///< line elements and plates seen edge-on
-        double widening;                  ///< added to line elements, pixels
+        double widening;                  ///< additional width of line elements, pixels
     };
 
     /// `meshStrength`, from 0 to 1, is the contrast of the outlines of elements.

@@ -6,7 +6,7 @@ namespace vkd {
 namespace aniview {
 
 /// The highlighting of a group. Dimmed groups are neither highlighted nor picked while another
-/// group is highlighted; pale groups are not picked while others are.
+/// group is highlighted. Pale groups are not picked while other groups are picked.
 enum class GroupMark { None, Dimmed, Pale, Lit, Picked, PickedLit };
 
 /// The numbers of the picked, the hovered and the highlighted groups of a view.
@@ -15,7 +15,7 @@ class GroupMarks
 public:
     static constexpr int NoGroup = -1;
 
-    /// Each setter returns whether the value changed.
+    /// Each setter returns whether the value has changed.
     bool setPicking(bool picking);
     bool setPicked(const std::vector<int>& groups);
     bool setHovered(int group);
@@ -27,8 +27,8 @@ public:
     const std::vector<int>& picked() const { return m_picked; } ///< ascending, without duplicates
 
     bool isLit(int group) const;
-    /// Returns the mark of a group. `isAnyLit` says whether any group of the picture is
-    /// highlighted. Picked groups are marked only while picking is on.
+    /// Returns the mark of a group. `isAnyLit` specifies whether any visible group is highlighted.
+    /// Picked groups are marked only while picking is enabled.
     GroupMark markOf(int group, bool isAnyLit) const;
 
 private:

@@ -5,8 +5,8 @@
 namespace vkd {
 namespace aniview {
 
-/// Learns from the frames painted so far how many items a frame can have, so that the view follows
-/// the mouse.
+/// Estimates from the previously painted frames how many items a frame can contain so that the view
+/// keeps up with the mouse.
 class PaintingPace
 {
 public:
@@ -23,10 +23,10 @@ public:
     }
 
 private:
-    static constexpr double FrameSeconds = 0.020; // leaves room for projection and the screen
+    static constexpr double FrameSeconds = 0.020; // leaves time for projection and display
     static constexpr double LeastItems = 2000;
     static constexpr double MostItems = 100000;
-    static constexpr size_t EnoughToLearn = 500; // the fixed cost rules a smaller frame
+    static constexpr size_t EnoughToLearn = 500; // the fixed cost dominates in smaller frames
 
     double m_secondsPerItem = 1.6e-6;
 };

@@ -44,8 +44,8 @@ void Picture::findDepths(const ModelGeometry& geometry, const Position& eye)
     }
 }
 
-/// Sorts by depth with a counting sort, whose time is linear in the number of items. Invisible
-/// items are left out before it, while the memory is read in its order.
+/// Sorts by depth with a counting sort, which takes linear time. Invisible items are removed before
+/// the sort, while the memory is read sequentially.
 void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible)
 {
     m_order.clear();

@@ -7,8 +7,8 @@
 namespace vkd {
 namespace aniview {
 
-/// The result of a projection: the positions of the points in the picture, and the items in
-/// painting order. update() reuses the memory of the previous picture.
+/// The result of a projection: the positions of the points in the image, and the items in painting
+/// order. update() reuses the memory of the previous result.
 class Picture
 {
 public:
@@ -26,8 +26,8 @@ private:
     bool isVisible(const ModelGeometry& geometry, int item, const QRectF& visible) const;
 
     std::vector<QPointF> m_points;
-    std::vector<float> m_depths;         // one for each item, growing towards the viewer
-    std::vector<unsigned short> m_steps; // depths in steps from the farthest to the nearest
+    std::vector<float> m_depths;         // one for each item, increasing towards the viewer
+    std::vector<unsigned short> m_steps; // depths, quantized from the farthest to the nearest item
     std::vector<int> m_places;
     std::vector<int> m_seen; // the visible items, ascending
     std::vector<int> m_order;

@@ -7,14 +7,15 @@
 namespace vkd {
 namespace aniview {
 
-/// The full picture of a large model, painted in steps, so that the window stays responsive.
+/// The full image of a large model, which is painted in steps so that the window remains
+/// responsive.
 class RestPicture
 {
 public:
-    /// Drops the picture after any change of the scene.
+    /// Discards the image. Call this after any change to the scene.
     void drop() { m_image = QImage(); }
 
-    /// Paints items for a short time. Returns true if the picture is complete.
+    /// Paints items for a short time. Returns true if the image is complete.
     bool paintSome(ScenePainter& painter, const QSize& size, qreal pixelRatio,
                    const QPalette& palette, const ModelGeometry& geometry, const Picture& picture,
                    const Projection& projection, const GroupMarks& marks);

@@ -14,10 +14,10 @@ namespace aniview {
 namespace {
 constexpr int MeshSteps = 8;
 constexpr double MostSymbol = 9.0; // pixels
-constexpr double EdgeOn = 0.02;    // sine of the angle below which only the edge is drawn
+constexpr double EdgeOn = 0.02;    // sine of the angle below which a face is drawn edge-on
 
-/// Line elements have no width in the model. Each kind has a typical width in metres, limited to a
-/// range in pixels.
+/// Line elements have no width in the model. Each kind of line element has a typical width in
+/// metres, limited to a range in pixels.
 struct LineLook
 {
     double metres;
@@ -38,12 +38,12 @@ double cellPixels(const ModelGeometry& geometry, const Projection& projection)
     return geometry.meshCell * geometry.unit * projection.scale();
 }
 
-/// Moves the corners of a face outwards, as the outline of a face does, because smooth faces
-/// without outlines would leave gaps. Drawing the outlines in the colours of the faces takes twice
+/// Moves the corners of a face outwards by about the width of an outline, because antialiased faces
+/// without outlines would leave gaps. Drawing outlines in the colours of the faces would take twice
 /// as long.
 void grow(const QPointF* corners, int count, QPointF* grown)
 {
-    constexpr double Way = 0.7; // pixels, to the corner of an outline of one pixel
+    constexpr double Way = 0.7; // pixels, distance to the corner of a one-pixel outline
     QPointF middle;
     for (int i = 0; i < count; ++i)
         middle += corners[i] / count;
@@ -54,7 +54,7 @@ void grow(const QPointF* corners, int count, QPointF* grown)
     }
 }
 
-/// Returns the direction of the light, which comes over the viewer's left shoulder.
+/// Returns the direction of the light, which comes from behind the viewer's left shoulder.
 Position lightOf(const ViewAxes& axes)
 {
     const Position sum = along(along(along({}, 0.8, axes.eye), 0.5, axes.up), -0.33, axes.right);
@@ -62,7 +62,7 @@ Position lightOf(const ViewAxes& axes)
 }
 } // namespace
 
-/// The state of painting one picture, except for the colours.
+/// The state while one image is painted, except for the colours.
 struct ScenePainter::Frame
 {
     Frame(QPainter& p, const Picture& shown, const Projection& view, double cellPixels)
@@ -85,8 +85,8 @@ struct ScenePainter::Frame
     const double symbolSize;
     const bool isSmooth = painter.testRenderHint(QPainter::Antialiasing);
     std::array<double, LineKindCount> widths{};
-    // The group and the shade whose pen and brush are set, or -1; setting them again would cost
-    // time.
+    // The group and the shade whose pen and brush are currently set, or -1. Setting them again
+    // would take time.
     int group = -1;
     int shade = -1;
 };
@@ -117,7 +117,8 @@ void ScenePainter::paint(QPainter& painter, const QPalette& palette, const Model
     }
 }
 
-/// Fades the outlines of small elements; elements of a few pixels would be nothing but outline.
+/// Fades the outlines of small elements, because elements of a few pixels would consist only of
+/// their outlines.
 void ScenePainter::prepare(const QPalette& palette, const ModelGeometry& geometry,
                            const Projection& projection, const GroupMarks& marks)
 {
@@ -172,7 +173,8 @@ void ScenePainter::drawStrongEdges(Frame& frame, const Face& face, const QPointF
     frame.group = -1;
 }
 
-/// Draws a plate that is seen edge-on with its thickness instead of as a hairline.
+/// Draws a plate that is seen edge-on. The plate is drawn with its thickness instead of as a
+/// hairline.
 void ScenePainter::drawEdgeOn(Frame& frame, const Face& face, const QPointF* corners) const
 {
     const double width = std::max(2.0, face.thickness * frame.projection.scale());

@@ -11,19 +11,19 @@ class QPainter;
 namespace vkd {
 namespace aniview {
 
-/// Draws a picture of a geometry. Caches pens and brushes until colours or marks change.
+/// Draws an image of a geometry. Caches pens and brushes until colours or marks change.
 class ScenePainter
 {
 public:
-    /// A range of the picture's order.
+    /// A range of the items in painting order.
     struct Part
     {
         size_t begin;
         size_t end;
     };
 
-    /// Drops the cached pens and brushes; call this after the palette, the geometry or the marks
-    /// changed.
+    /// Discards the cached pens and brushes. Call this after the palette, the geometry or the marks
+    /// have changed.
     void forgetColours() { m_colours.reset(); }
 
     void paint(QPainter& painter, const QPalette& palette, const ModelGeometry& geometry,

@@ -10,7 +10,7 @@ namespace aniview {
 
 namespace {
 constexpr double SymbolRoom = 12.0; // pixels by which symbols extend beyond their points
-constexpr size_t ItemsToSort = 6;   // projected and sorted in the time that painting one takes
+constexpr size_t ItemsToSort = 6;   // items that can be sorted in the time to paint one
 } // namespace
 
 void SceneView::setGeometry(std::shared_ptr<const ModelGeometry> geometry)

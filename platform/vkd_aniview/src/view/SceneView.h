@@ -7,7 +7,7 @@
 namespace vkd {
 namespace aniview {
 
-/// A geometry, a camera and the resulting picture, which is updated when it is requested.
+/// A geometry, a camera and the resulting image, which is updated on demand.
 class SceneView
 {
 public:
@@ -26,16 +26,17 @@ public:
     Projection projection() const;
     const Picture& picture();
 
-    /// A geometry and its picture.
+    /// A geometry and its projection.
     struct Drawn
     {
         const ModelGeometry& geometry;
         const Picture& picture;
     };
-    /// Returns the finest picture with this number of visible items at most, or the coarsest one.
+    /// Returns the finest picture with at most this number of visible items, or the coarsest
+    /// picture if all have more items.
     Drawn quickPicture(int mostItems);
 
-    /// Returns the number of the frontmost group at a point of the picture, or GroupMarks::NoGroup.
+    /// Returns the number of the frontmost group at a point of the image, or GroupMarks::NoGroup.
     int groupAt(const QPointF& place);
 
 private:

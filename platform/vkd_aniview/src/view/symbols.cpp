@@ -12,7 +12,7 @@ namespace aniview {
 namespace {
 constexpr int AllDisplacements = 7;
 constexpr int AnyRotation = 56;
-constexpr double Shortest = 0.12; // projected part of an axis below which it is drawn as a point
+constexpr double Shortest = 0.12; // shorter projected axes are drawn as points
 
 Position axisOf(int index)
 {
@@ -31,7 +31,8 @@ double lengthOf(const QPointF& way)
     return std::hypot(way.x(), way.y());
 }
 
-/// Draws a triangle with its tip at the node; it opens against the held direction.
+/// Draws a triangle with its tip at the node. The base of the triangle lies in the direction
+/// opposite to the restrained direction.
 void drawTriangle(QPainter& painter, const QPointF& tip, const QPointF& direction, double size)
 {
     const QPointF back = tip - direction * size;

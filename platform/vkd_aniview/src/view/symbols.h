@@ -15,15 +15,16 @@ struct SymbolColours
     QColor background;
 };
 
-/// Draws a symbol of `size` pixels for the held directions of a node: a block if rotations are
-/// held, a filled triangle if all displacements are held, else an open triangle for each direction.
+/// Draws a symbol of `size` pixels for the restrained directions of a node: a block if rotations
+/// are restrained, a filled triangle if all displacements are restrained, otherwise an open
+/// triangle for each restrained direction.
 void drawSupport(QPainter& painter, const ViewAxes& axes, const QPointF& node, int fixed,
                  double size, const SymbolColours& colours);
 
-/// Draws a zigzag; a spring to the ground has a stroke across its second end.
+/// Draws a spring as a zigzag line. A spring to the ground has a stroke across its second end.
 void drawSpring(QPainter& painter, const QPointF& from, const QPointF& to, bool hasGround);
 
-/// Draws the global axes with a length in pixels; their names have the painter's font.
+/// Draws the global axes with a length in pixels, and the axis names in the painter's font.
 void drawTriad(QPainter& painter, const ViewAxes& axes, const QPointF& origin, double length,
                const SymbolColours& colours);
 
