@@ -186,14 +186,20 @@ VkdStatus FileCommands::showModel(ZobHandle project)
     return m_parts.view->setProject(project, [&work](int) { return work.goOn(0); });
 }
 
+/// Shows one state of the project, except for the model. Returns whether everything was read.
+bool FileCommands::showContents()
+{
+    const ZobSnapshot snapshot(m_parts.project->handle()); // must end before a message is shown
+    return m_parts.showContents() && snapshot.status().isOk();
+}
+
 void FileCommands::showProject(const VkdStatus& modelStatus)
 {
     const QString path = m_parts.project->path();
     WindowSettings settings;
     settings.addRecentFile(path);
     m_actions->setRecentFiles(settings.recentFiles());
-    const ZobSnapshot snapshot(m_parts.project->handle()); // all parts show the same state
-    const bool areContentsRead = m_parts.showContents() && snapshot.status().isOk();
+    const bool areContentsRead = showContents();
     if (!modelStatus.isOk() || !areContentsRead)
         m_parts.messages->complain(
             tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")

@@ -80,6 +80,7 @@ private:
     bool openDocument(const QString& path, Camera camera);
     std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
     VkdStatus showModel(ZobHandle project);
+    bool showContents();
     void showProject(const VkdStatus& modelStatus);
     void showFirstProject();
     bool takeOver(const QString& path);
