@@ -5,9 +5,9 @@
 
 #include <cstdlib>
 
-/// An application that exits after the first paint of a main window. If the name of a child is
-/// given, only windows with this child count. So the run time of the process is the time until the
-/// user sees the window.
+/// An application that exits after a main window has first been painted. If the name of a child is
+/// given, windows without such a child are ignored. So the run time of the process is the time
+/// until the user sees the window.
 class EndedByPicture : public QApplication
 {
 public:
@@ -24,7 +24,7 @@ public:
         --m_depth;
         if (event->type() == QEvent::Paint && receiver->inherits("QMainWindow"))
             m_isPainted = m_child.isEmpty() || receiver->findChild<QWidget*>(m_child);
-        if (m_isPainted && m_depth == 0) // the picture is passed to the screen
+        if (m_isPainted && m_depth == 0) // the window contents have been passed to the screen
             std::_Exit(EXIT_SUCCESS);
         return result;
     }

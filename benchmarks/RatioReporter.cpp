@@ -10,7 +10,7 @@
 namespace {
 constexpr int Pairs = 9;
 
-/// Keeps the last run instead of printing it.
+/// Stores the last run instead of printing it.
 class LastRun : public benchmark::BenchmarkReporter
 {
 public:
@@ -41,7 +41,7 @@ double seconds(const benchmark::BenchmarkReporter::Run& run)
     return all / double(run.iterations);
 }
 
-/// Runs the benchmark and returns its figure in milliseconds or megabytes.
+/// Runs the benchmark and returns the measured value in milliseconds or megabytes.
 double measured(const std::string& name, Figure figure)
 {
     LastRun last;
@@ -73,7 +73,7 @@ Results pairsOf(const Bound& bound)
     Results results;
     for (int i = 0; i < Pairs; ++i) {
         double peer = 1;
-        const bool isPeerFirst = i % 2; // neither always finds a warm cache
+        const bool isPeerFirst = i % 2; // so that neither always has a warm cache
         if (isPeerFirst && !bound.peer.empty())
             peer = measured(bound.peer, bound.figure);
         results.values.push_back(measured(bound.subject, bound.figure));
@@ -85,7 +85,7 @@ Results pairsOf(const Bound& bound)
     return results;
 }
 
-/// Prints a line for the bound. Returns true if it is met.
+/// Prints a line for the bound. Returns true if the bound is met.
 bool check(const Bound& bound)
 {
     const Results results = pairsOf(bound);
@@ -112,8 +112,8 @@ void initialize(const char* minTime)
 
 int runBenchmarks(int argc, char* argv[], const std::vector<Bound>& bounds)
 {
-    // Freed memory stays in the program. Whether a later iteration has to get it from the system
-    // again would otherwise depend on the sizes allocated before.
+    // Freed memory is not returned to the system. Otherwise earlier allocation sizes would
+    // determine whether a later iteration has to request memory from the system again.
     mallopt(M_MMAP_MAX, 0);
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
     const std::string argument = argc > 1 ? argv[1] : "";

@@ -1,4 +1,4 @@
-// The minimum that any desktop program does before its window is painted.
+// The minimum work of any desktop program before its window is painted.
 
 #include "EndedByPicture.h"
 

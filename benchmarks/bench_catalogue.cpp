@@ -57,7 +57,7 @@ void parseCatalogue(benchmark::State& state)
     }
 }
 
-/// Splits and trims the same file with Qt's functions, without using the parts.
+/// Splits the same file and trims the columns with Qt's functions, without using the results.
 void splitCatalogue(benchmark::State& state)
 {
     CatalogueFile file(int(state.range(0)));
@@ -122,7 +122,7 @@ void rebuildTree(benchmark::State& state)
         tree.rebuild();
 }
 
-/// Applies a choice that differs between plots and checks half of the rows by their numbers.
+/// Applies a selection that differs between plots and checks half of the rows by number.
 void applySelection(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -157,8 +157,8 @@ void walk(const plib::OutputNode* parent, const std::vector<QString>& all,
         walk(node, all, lines);
         if (node->isLC < 0 || node->checkState(0) == Qt::Unchecked)
             continue;
-        // Two lines for each row. Each is a deep copy, because the product also has to create each
-        // line.
+        // Two lines for each row. Each line is a deep copy, because the product also has to create
+        // each line.
         for (int n = 0; n < 2 && lines->size() < all.size(); ++n) {
             const QString& line = all[lines->size()];
             lines->push_back(QString(line.constData(), line.size()));
@@ -166,7 +166,7 @@ void walk(const plib::OutputNode* parent, const std::vector<QString>& all,
     }
 }
 
-/// Walks the same tree and appends the same lines, which are known beforehand.
+/// Walks the same tree and appends the same lines, which are known in advance.
 void appendLines(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));

@@ -28,7 +28,7 @@ tagZOB_QUAD_RIM recordOf(int group)
     return record;
 }
 
-/// A project with the records of this number of groups, in rows of ten groups each.
+/// A project with records for this number of groups, which form rows of ten groups each.
 class Project
 {
 public:
@@ -68,7 +68,7 @@ void readAndFold(benchmark::State& state)
     }
 }
 
-/// Reads the same records by the same keys from a map in memory and copies each once.
+/// Reads the same records by the same keys from an in-memory map and copies each record once.
 void readFromMap(benchmark::State& state)
 {
     std::map<std::tuple<int, int, int>, plib::RecordBytes> records;
@@ -97,7 +97,7 @@ void writeRecords(benchmark::State& state)
         state.SkipWithError("the records were not stored");
 }
 
-/// Writes the same bytes into a plain file and flushes it to the disk.
+/// Writes the same bytes to a plain file and flushes it to disk.
 void writeFile(benchmark::State& state)
 {
     const Project project(1);

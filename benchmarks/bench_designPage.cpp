@@ -1,4 +1,5 @@
-// The table of the design page and its dialogs, compared with plain Qt widgets of the same content.
+// The table of the design page and its dialogs, compared with plain Qt widgets with the same
+// content.
 
 #include "processorTime.h"
 #include "RatioReporter.h"
@@ -28,7 +29,7 @@ namespace {
 constexpr int Rows = 10000;
 constexpr int Columns = 5;
 
-/// A project in which each group has different parameters, and so a row of its own.
+/// A project in which each group has different parameters and therefore its own row.
 class Project
 {
 public:
@@ -87,8 +88,8 @@ void fillPage(benchmark::State& state)
     }
 }
 
-/// Adds the same items row by row. The texts are built in the loop, as on the page, because only
-/// the tables are to be compared.
+/// Adds the same items row by row. As on the page, the texts are built in the loop, because only
+/// the tables are compared.
 void fillBareTable(benchmark::State& state)
 {
     const Project project;
@@ -164,7 +165,8 @@ void openDialog(benchmark::State& state)
         openAndPaint(newDialog<Dialog>().get());
 }
 
-/// Shows as many Qt widgets of each kind as the dialog has, in a box with a grid of four columns.
+/// Shows the same number of Qt widgets of each kind as the dialog has, in a window with a grid of
+/// four columns.
 template <class Dialog>
 void openPlainDialog(benchmark::State& state)
 {
@@ -172,7 +174,7 @@ void openPlainDialog(benchmark::State& state)
     const QList<QComboBox*> combos = model->template findChildren<QComboBox*>();
     int edits = model->template findChildren<QLineEdit*>().size();
     for (const QComboBox* combo : combos)
-        edits -= combo->isEditable(); // it has a line edit of its own
+        edits -= combo->isEditable(); // it has its own line edit
     const int buttons = model->template findChildren<QPushButton*>().size();
     const int labels = model->template findChildren<QLabel*>().size();
     for (auto _ : state) {

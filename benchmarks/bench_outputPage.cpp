@@ -15,7 +15,7 @@
 namespace {
 constexpr QSize Size(900, 640);
 
-/// A project with enough content of each kind that about a hundred plots are offered.
+/// A project with enough content of each kind to offer about a hundred plots.
 class Project
 {
 public:

@@ -1,4 +1,4 @@
-// The output tree with a thousand rows under each plot, compared with a plain Qt tree of the same
+// The output tree with a thousand rows under each plot, compared with a plain Qt tree with the same
 // content and with itself at other sizes.
 
 #include "checkStates.h"
@@ -23,7 +23,8 @@ constexpr int Medium = 100000;
 constexpr int Large = 300000;
 
 /// Returns a catalogue in which each plot is offered on pages whose kind is above its index. So the
-/// kind of a page equals its number of plots. In half of the plots all rows are checked by default.
+/// kind of a page equals its number of plots. By default, all rows are checked in half of the
+/// plots.
 QByteArray catalogue()
 {
     QByteArray file;
@@ -99,7 +100,7 @@ void rebuild(benchmark::State& state)
     }
 }
 
-/// The content of an item and its children.
+/// The content of an item and its child items.
 struct Content
 {
     explicit Content(const QTreeWidgetItem* item)
@@ -129,7 +130,7 @@ QTreeWidgetItem* newItem(const Content& content)
     return item;
 }
 
-/// Includes deleting the old items, as in a tree that is rebuilt.
+/// Includes deleting the old items, as when a tree is rebuilt.
 void fillBareTree(benchmark::State& state)
 {
     const Content content(Tree(int(state.range(0))).top());
@@ -179,7 +180,7 @@ QString choice(Tree& tree, int first)
     return tree.selectionText();
 }
 
-/// Applies two choices alternately, which differ in every row.
+/// Alternately applies two choices that differ in every row.
 void applySelection(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));

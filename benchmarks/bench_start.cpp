@@ -1,6 +1,6 @@
-// The time from the start of the workbench until its window is painted, and until the panes show
-// the sample building. The baseline is a program that has only a main window with a tree of 100
-// rows.
+// The time from the start of the workbench until its window has been painted, and until the panes
+// show the sample building. The baseline is a program that has only a main window with a tree of
+// 100 rows.
 
 #include "EndedByPicture.h"
 #include "RatioReporter.h"
@@ -13,7 +13,7 @@
 #include <cstring>
 
 namespace {
-/// A folder for the project and for settings separate from those of the user.
+/// A folder for the project and for settings that are separate from the user's settings.
 const QTemporaryDir& folder()
 {
     static const QTemporaryDir made;
@@ -32,7 +32,7 @@ const QString& building()
     return path;
 }
 
-/// Runs the workbench. The arguments are the folder of its settings, the child to wait for and a
+/// Runs the workbench. The arguments are its settings folder, the child widget to wait for, and a
 /// project.
 int runTimed(int argc, char* argv[])
 {

@@ -62,8 +62,8 @@ void bareWalk(benchmark::State& state)
         setAll(tree.top, other(tree.top->checkState(0)));
 }
 
-/// Checks the rows of one plot one by one, from the first to the last. Qt itself searches for each
-/// changed item among its siblings, so that only the ratio can be the same at all sizes.
+/// Checks the rows of one plot one by one, from the first to the last. Qt itself searches the
+/// siblings for each changed item, so only the ratio can be the same at all sizes.
 void rowByRow(benchmark::State& state, bool isAutomatic)
 {
     const int rows = int(state.range(0));

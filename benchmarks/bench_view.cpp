@@ -33,8 +33,8 @@ QSize sizeOf(const benchmark::State& state)
     return state.range(0) > Few ? LargeSize : SmallSize;
 }
 
-/// Returns the height of a wavy shell. It hides parts of itself and has many shades, as a real
-/// model does.
+/// Returns the height of a wavy shell. Like a real model, the shell hides parts of itself and has
+/// many shades.
 double heightAt(double x, double y)
 {
     return 8.0 * std::sin(x * 0.13) * std::cos(y * 0.11);
@@ -60,7 +60,7 @@ vkd::dbo::Model shell(int side)
     return model;
 }
 
-/// Returns a project with a shell. The last one is kept for the next run.
+/// Returns a project with a shell. The last project is cached for the next run.
 ZobHandle projectOf(int side)
 {
     static int known = 0;
@@ -106,7 +106,7 @@ void turnView(benchmark::State& state)
         shown.turn();
 }
 
-/// Paints the high-quality picture of a view at rest, in as many steps as the view needs.
+/// Paints the high-quality image of a view at rest, in as many steps as the view needs.
 void restView(benchmark::State& state)
 {
     ShownShell shown(state);
@@ -119,7 +119,7 @@ void restView(benchmark::State& state)
     }
 }
 
-/// Compares the memory of a view, after it was turned, with that of the model itself.
+/// Compares the memory of a view after a rotation with the memory of the model itself.
 void memoryOfView(benchmark::State& state)
 {
     projectOf(sideOf(state));
@@ -161,7 +161,7 @@ std::vector<QPointF> projected(double angle, int side, const QSize& size)
     return points;
 }
 
-/// Fills the same polygons without sorting them, and with the same pen for all.
+/// Fills the same polygons without sorting them, using a single pen for all polygons.
 void fillPolygons(benchmark::State& state)
 {
     const int side = sideOf(state);

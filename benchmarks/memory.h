@@ -2,8 +2,8 @@
 
 #include <malloc.h>
 
-/// Returns the bytes that the program has allocated and not freed. The difference of two calls is
-/// the value for the counter `bytes` of a benchmark.
+/// Returns the number of bytes that the program has allocated and not freed. The difference between
+/// two calls is the value for a benchmark's counter `bytes`.
 inline double heapInUse()
 {
     const struct mallinfo2 info = mallinfo2();

@@ -2,7 +2,7 @@
 
 #include <ctime>
 
-/// Returns the processor time of this thread in seconds, for benchmarks that measure only a part of
+/// Returns the processor time of this thread in seconds, for benchmarks that measure only part of
 /// an iteration.
 inline double processorSeconds()
 {

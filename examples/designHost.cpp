@@ -35,10 +35,10 @@ int main(int argc, char* argv[])
     page->readZob();
     int result = dialog.exec();
     while (result == VKD_H_SelGRP_Dialog::PickOutside) {
-        // A real desktop would let the user pick in its view. This example has none and picks by
-        // code.
+        // A real desktop would let the user pick groups in its view. This example has no view and
+        // selects the groups in code.
         VKD_H_SelGRP_Dialog::putAniSelectionToZob(project->index(), {1, 2});
-        result = dialog.exec(); // shows the same dialog again; the page takes the groups
+        result = dialog.exec(); // shows the same dialog again; the page reads the groups
     }
     if (result == QDialog::Accepted)
         page->writeToZob();

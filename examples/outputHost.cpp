@@ -17,7 +17,7 @@
 int main(int argc, char* argv[])
 {
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
-    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1); // the keyword language of the script's head
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1); // the keyword language of the script's header
     QApplication application(argc, argv);
     const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
     if (!project)
@@ -39,8 +39,8 @@ int main(int argc, char* argv[])
     page->setUsedNumbersAndNames(rows);
 
     VKD_H_ProjectDialogPage kept(project->handle(), 1);
-    // Also called with an empty string: this changes nothing now, but afterwards the choice of
-    // plots survives a change of the content tags.
+    // Called even with an empty string: this changes nothing now, but from now on the choice of
+    // plots survives a change to the content tags.
     page->readXMLstring(kept.getEntry(QStringLiteral("Output"), QString()));
     if (dialog.exec() == QDialog::Accepted) {
         std::fputs(page->getTORVAL(true).toUtf8().constData(), stdout);

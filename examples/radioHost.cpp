@@ -1,5 +1,5 @@
-// Shows the load cases of a project in a dialog, for selecting all or checking some by hand. OK
-// prints their numbers: radioHost PROJECT
+// Shows the load cases of a project in a dialog, in which the user selects all load cases or checks
+// some of them. OK prints their numbers: radioHost PROJECT
 
 #include <QtTableView.h>
 #include <vkd_dbo_model.h>

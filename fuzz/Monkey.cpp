@@ -207,8 +207,8 @@ void Monkey::clickButton(QWidget* window)
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
-/// Clicks, double-clicks, drags, turns the wheel or opens the menu at a random point of a random
-/// widget.
+/// Clicks, double-clicks, drags, turns the wheel or opens the context menu at a random point of a
+/// random widget.
 void Monkey::act(QWidget* window)
 {
     QWidget* widget = pickPart(window);
@@ -289,7 +289,7 @@ void Monkey::close(QWidget* window)
     window->close();
 }
 
-/// Drops a file on the window or resizes it.
+/// Drops a file onto the window or resizes the window.
 void Monkey::changeWindow(QWidget* window)
 {
     if (below(2)) {

@@ -13,25 +13,25 @@ class QFileDialog;
 namespace testsupport {
 
 /// Uses the windows of a program at random: clicks, turns the wheel, presses keys, types, opens
-/// menus, drops files and resizes windows. The same seed gives the same steps. If a step opens a
-/// dialog or menu that blocks the caller, the monkey uses it until it is closed. In file dialogs it
-/// enters only its own files. Prints the seed, and each step if PLIB_MONKEY_LOG is set. A step that
-/// hangs ends the process.
+/// menus, drops files and resizes windows. The same seed results in the same steps. If a step opens
+/// a dialog or menu that blocks the caller, the monkey uses it until it is closed. In file dialogs,
+/// only the given files are entered. The seed is printed, and each step as well if PLIB_MONKEY_LOG
+/// is set. A step that hangs terminates the process.
 class Monkey : public QObject
 {
 public:
-    /// The number of steps of one round, which is one row of test data.
+    /// The number of steps in one round, which is one row of test data.
     static constexpr int StepsInARound = 500;
-    /// Adds the rounds of a test as rows with a column "seed". `steps` is the number of steps of
-    /// all rounds; the environment variable PLIB_MONKEY_STEPS overrides it, and PLIB_MONKEY_SEED
-    /// sets the first seed.
+    /// Adds the rounds of a test as rows with a column "seed". `steps` is the total number of
+    /// steps; the environment variable PLIB_MONKEY_STEPS overrides it, and PLIB_MONKEY_SEED sets
+    /// the first seed.
     static void addRounds(int steps);
 
-    /// `files` are the paths that the monkey enters in file dialogs and drops on windows.
+    /// `files` are the paths that the monkey enters in file dialogs and drops onto windows.
     explicit Monkey(int seed, const QStringList& files = {});
     ~Monkey() override;
 
-    /// Performs one step in a window that no modal dialog blocks.
+    /// Performs one step in a window that is not blocked by a modal dialog.
     void step(QWidget* window);
     void close(QWidget* window);
     int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
@@ -66,7 +66,7 @@ private:
 
     std::mt19937 m_random;
     QStringList m_files;
-    QWidget* m_window = nullptr; // in which the current step takes place
+    QWidget* m_window = nullptr; // window of the current step
     QPointer<QAction> m_triggered;
     int m_steps = 0;
 };

@@ -23,9 +23,9 @@ QString storedDistances(const QString& cell)
     return cell.section(QLatin1Char('/'), 0, 0) + distances.join(QLatin1Char(';'));
 }
 
-/// Returns the texts of the table for each group, sorted: a group may be in two rows, and rows with
-/// equal parameters become one when they are read. The entries of the page, which contain the rows
-/// without groups, do not contain the limits of the reinforcement.
+/// Returns the table texts for each group, sorted, because a group may be in two rows, and rows
+/// with equal parameters are merged when they are read. The entries of the page contain the rows
+/// without groups, but not the limits of the reinforcement.
 QStringList groupByGroup(const DesignDesk& desk)
 {
     QStringList all;
@@ -43,7 +43,7 @@ QStringList groupByGroup(const DesignDesk& desk)
 }
 } // namespace
 
-/// Random work on pages: a new page must be able to restore their state.
+/// Uses pages at random. A new page must be able to restore their state.
 class fuzz_pageMonkey : public QObject
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ private Q_SLOTS:
 
     void design_data() { Monkey::addRounds(Steps); }
 
-    /// The rows of the page are compared by the stored records.
+    /// The rows of the page are compared using the stored records.
     void design()
     {
         QFETCH(int, seed);
@@ -74,7 +74,7 @@ private Q_SLOTS:
                 QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
                 if (desk.isVisible())
                     continue;
-                QCOMPARE(desk.result(), 6); // a detour is only possible for picking groups
+                QCOMPARE(desk.result(), 6); // only picking groups may hide it
                 desk.show();
             }
             desk.table()->setCurrentCell(0, 1); // closes the last editor

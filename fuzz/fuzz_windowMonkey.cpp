@@ -64,11 +64,11 @@ public:
     }
 
     bool wasSeen = false;    ///< a window was shown, hidden or activated, or its title changed
-    bool wasAsked = false;   ///< a box asked whether to save
+    bool wasAsked = false;   ///< a message box asked whether to save
     bool wasGivenUp = false; ///< a dialog was cancelled
-    bool wasKept = false;    ///< the box was cancelled, so the dialog stayed open
-    bool wasSaved = false;   ///< Save was pressed in the box
-    bool wasSavedAs = false; ///< the project was saved under a name
+    bool wasKept = false;    ///< the message box was cancelled, so the dialog stayed open
+    bool wasSaved = false;   ///< Save was pressed in the message box
+    bool wasSavedAs = false; ///< the project was saved under another name
     bool wasStored = false;  ///< OK or Save stored a change
 };
 
@@ -87,7 +87,8 @@ QWidgetList windows()
     return found;
 }
 
-/// Returns dialogs and menus that exist more than once, because one was left behind.
+/// Returns dialogs and menus that exist more than once because a previous instance was not
+/// destroyed.
 QStringList doubles()
 {
     QSet<QString> known;
@@ -107,14 +108,14 @@ QStringList doubles()
 }
 } // namespace
 
-/// Operates the whole program at random.
+/// Uses the whole program at random.
 class fuzz_windowMonkey : public ProjectTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Waits for the fade animation of Qt's clear buttons, which would be reported as a leak at
-    /// the end of the program.
+    /// Waits for the fade animation of Qt's clear buttons, which would be reported as a leak when
+    /// the program exits.
     void cleanupTestCase()
     {
         QVariantAnimation later; // lasts longer, and is driven by the same timer
@@ -148,7 +149,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Creates the files for file dialogs and for dropping.
+    /// Creates the files that are entered in file dialogs or dropped.
     QStringList makeFiles()
     {
         m_faults.clear();
@@ -176,7 +177,7 @@ private:
         return QFileInfo(project).isFile() ? readFile(project) : QByteArray();
     }
 
-    /// Changes the open project as another program might.
+    /// Changes the open project as another program would.
     static void disturb(const QString& project, Monkey& monkey)
     {
         const int what = project.isEmpty() ? -1 : monkey.below(100);
@@ -187,7 +188,7 @@ private:
                          QStringLiteral("1"), QStringLiteral("hio=0.0%1").arg(monkey.below(9))});
     }
 
-    /// The mark in the window's title is updated by the event loop.
+    /// The modification marker in the window title is updated by the event loop.
     static bool isChanged(const MainWindow& window)
     {
         const auto plots = window.findChild<OutputDialog*>();
@@ -206,7 +207,7 @@ private:
         const QWidgetList all = windows();
         QWidget* place = monkey.below(3) ? &window : all[monkey.below(all.size())];
         QApplication::setActiveWindow(place);
-        const bool isPopupOpen = QApplication::activePopupWidget(); // it takes a user's keys
+        const bool isPopupOpen = QApplication::activePopupWidget(); // it receives all keys
         m_watch.begin();
         if (monkey.below(60) == 0)
             monkey.close(place);
@@ -215,7 +216,7 @@ private:
         if (project.isEmpty() && !isPopupOpen && monkey.triggered() &&
             !monkey.triggered()->actionGroup()) {
             const QByteArray text = monkey.triggered()->text().toUtf8();
-            QApplication::processEvents(); // windows are activated by the system
+            QApplication::processEvents(); // the system activates windows
             if (!m_watch.wasSeen)
                 m_faults += "\nnothing comes of " + text;
         }
@@ -254,7 +255,7 @@ private:
         if (!output || contentOf(projectOf(window)).isEmpty())
             return;
         const QString scriptNow = scriptOf(projectOf(window), output->state(), window);
-        // The script of a new project is created after the first painting.
+        // The script of a new project is created after the first paint event.
         (void)QTest::qWaitFor([&] { return script(window) == scriptNow; }, Patience);
         const QStringList shown = script(window).split(QLatin1Char('\n'));
         const QStringList expected = scriptNow.split(QLatin1Char('\n'));
@@ -266,7 +267,7 @@ private:
                         "\nby the command line: " + expected.value(line).toUtf8();
     }
 
-    /// Returns the script of the command line for a copy of the project with this state.
+    /// Returns the script that the command line prints for a copy of the project with this state.
     QString scriptOf(const QString& project, const OutputState& state, const QWidget& window) const
     {
         const QString copied = path("copied.zob");

@@ -25,9 +25,8 @@ void settle()
         QApplication::processEvents();
 }
 
-/// Gives a dialog the size that its content needs. Qt limits dialogs to the size of the screen and
-/// wraps the text of a message box at half its width, and the offscreen platform has a small
-/// screen.
+/// Resizes a dialog to the size that its content needs. Qt limits dialogs to the screen size and
+/// wraps message box texts at half the screen width, and the offscreen platform has a small screen.
 void giveRoom(QWidget* dialog)
 {
     if (auto text = dialog->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {

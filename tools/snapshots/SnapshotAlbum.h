@@ -8,7 +8,7 @@ class QWidget;
 
 namespace workbench {
 
-/// Saves pictures of widgets as files in a folder. The file names contain the language of the
+/// Saves screenshots of widgets as files in a folder. The file names contain the language of the
 /// desktop. Throws std::runtime_error if a file cannot be written.
 class SnapshotAlbum
 {
@@ -16,18 +16,19 @@ public:
     /// Creates the folder if it is missing.
     explicit SnapshotAlbum(const QString& folder);
 
-    /// Sets the suffix of the names that are added later.
+    /// Sets the suffix for the names of files that are added later.
     void setLook(const QString& look) { m_look = look; }
 
-    /// Processes the pending events, then saves a picture of the widget and of its open drop-down
+    /// Processes pending events, and saves a screenshot of the widget and of its open drop-down
     /// list.
     void add(const QString& name, QWidget* widget);
-    /// Saves a picture of the modal dialog that `open` opens, in the size that its content needs
-    /// even if the screen is smaller. Then calls `work` with the dialog and cancels it.
+    /// Saves a screenshot of the modal dialog that `open` opens, in the size that its content
+    /// needs, even if the screen is smaller. Afterwards calls `work` with the dialog and cancels
+    /// it.
     void addModal(const QString& name, const std::function<void()>& open,
                   const std::function<void(QWidget*)>& work = {});
 
-    /// Records that the project cannot have this picture.
+    /// Records that this screenshot is not possible for the project.
     void leaveOut(const QString& name) { m_leftOut << name + m_look; }
 
     const QStringList& files() const { return m_files; }

@@ -17,7 +17,7 @@
 namespace workbench {
 
 namespace {
-constexpr int EditedRow = 2; // the row of the remaining groups, above it, has no group editor
+constexpr int EditedRow = 2; // the row above is for the remaining groups and has no group editor
 constexpr int TypeColumn = 1;
 
 /// A dialog that contains the page.
@@ -74,8 +74,8 @@ void addCellEditors(SnapshotAlbum& album, DesignHost& host)
     }
 }
 
-/// Adds a group dialog, or leaves it out if the model has no such groups; the page then disables
-/// its button.
+/// Adds a group dialog, or omits it if the model has no such groups, in which case the page
+/// disables its button.
 void addGroupDialog(SnapshotAlbum& album, DesignHost& host, const char* name, const char* button)
 {
     if (host.button(button)->isEnabled())

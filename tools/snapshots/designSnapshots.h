@@ -6,8 +6,8 @@ namespace workbench {
 
 class SnapshotAlbum;
 
-/// Adds the design page, its cell editors and its dialogs. Changes the project. Leaves
-/// out group dialogs for which the model has no groups.
+/// Adds screenshots of the design page, its cell editors and its dialogs. Changes the project.
+/// Group dialogs for which the model has no groups are omitted.
 void addDesignSnapshots(SnapshotAlbum& album, VKD_H_ZOBDoc* document);
 
 } // namespace workbench

@@ -21,7 +21,7 @@ bool isPixelRatio(int ratio)
     return ratio >= 1 && ratio <= LargestRatio;
 }
 
-/// Returns the pixel ratio of the pictures, which must be set before the application is created.
+/// Returns the pixel ratio of the screenshots, which must be set before the application is created.
 /// The command parses the arguments again for help and error messages, which need an application.
 int pixelRatio(const QStringList& arguments)
 {
@@ -66,7 +66,7 @@ int snapshots(const QStringList& arguments)
 }
 } // namespace
 
-/// The pictures are drawn offscreen, so the program needs no display.
+/// The screenshots are drawn offscreen, so the program needs no display.
 int main(int argc, char* argv[])
 {
     beginProgram();

@@ -17,7 +17,7 @@
 namespace workbench {
 
 namespace {
-/// Adds the pages on a copy of the project. The pages change the copy.
+/// Adds screenshots of the pages, which edit a copy of the project.
 void addPages(SnapshotAlbum& album, const QString& copy)
 {
     const auto document = VKD_H_ZOBDoc::open(copy);

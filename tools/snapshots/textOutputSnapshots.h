@@ -7,8 +7,8 @@ namespace workbench {
 class MainWindow;
 class SnapshotAlbum;
 
-/// Adds the dialog of the text output of a window with a project: with the proposed choice, and
-/// with the other buttons chosen. `look` is the suffix of the names.
+/// Adds screenshots of the text output dialog of a window with a project: one with the proposed
+/// choice, and one with the other buttons checked. `look` is the suffix of the file names.
 void addTextOutputSnapshots(SnapshotAlbum& album, const MainWindow& window, const QString& look);
 
 } // namespace workbench

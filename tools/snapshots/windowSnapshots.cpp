@@ -52,7 +52,7 @@ void addOutput(SnapshotAlbum& album, const MainWindow& window, const QString& lo
     }
     dialog->reject();
 }
-/// Adds the preview in the window, and the preview alone.
+/// Adds screenshots of the preview in the window, and of the preview alone.
 void addSheet(SnapshotAlbum& album, MainWindow& window, const QString& look)
 {
     auto dock = window.findChild<QDockWidget*>(QStringLiteral("SheetDock"));
@@ -71,7 +71,7 @@ void addSheet(SnapshotAlbum& album, MainWindow& window, const QString& look)
 
 void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
 {
-    const QTemporaryDir settings; // so that the user's settings do not change
+    const QTemporaryDir settings; // keeps the user's settings unchanged
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     const QPalette light = QApplication::palette();
     for (const bool isDark : {false, true}) {

@@ -6,8 +6,8 @@ namespace workbench {
 
 class SnapshotAlbum;
 
-/// Adds the window with a project, its dialogs and the picking of groups, in light and dark
-/// colours.
+/// Adds screenshots of the window with a project, of its dialogs and of picking groups, in light
+/// and dark colours.
 void addWindowSnapshots(SnapshotAlbum& album, const QString& project);
 
 } // namespace workbench
