@@ -22,7 +22,7 @@ namespace testsupport {
 
 namespace {
 using Fault = FaultyDisk::Fault;
-enum class Call { Read, Write, Other }; // only Write needs room
+enum class Call { Read, Write, Other }; // only Write needs disk space
 
 /// Writes the bytes, or truncates at the offset if they are null.
 struct Change
@@ -43,9 +43,9 @@ struct Change
 struct File
 {
     QByteArray synced;
-    std::vector<Change> changes; // since then
+    std::vector<Change> changes; // changes since the last sync
 
-    /// Returns the content after the first changes; the last of them is torn.
+    /// Returns the content after the first changes, the last of which is torn.
     QByteArray contentAfter(size_t count) const
     {
         QByteArray content = synced;
@@ -69,20 +69,21 @@ struct File
 
 struct Disk
 {
-    using Names = QMap<QByteArray, size_t>; // of the files in the folder, and their numbers
+    using Names = QMap<QByteArray, size_t>; // maps file names in the folder to file indexes
 
     QByteArray folder;
     std::vector<File> files;
-    std::vector<Names> names{1}; // since the folder was synced, the current ones last
+    std::vector<Names> names{1}; // states since the folder was synced, the current state last
     Fault fault = Fault::None;
     int call = 0, calls = 0;
     QByteArray failedCall;
     std::chrono::milliseconds readTime{0};
 };
 std::unique_ptr<Disk> disk;
-std::recursive_mutex mutex; // the store checks a file in a thread of its own
+std::recursive_mutex mutex; // the store checks a file in its own thread
 
-/// Returns the name in the folder, "." for the folder, and an empty name for any other file.
+/// Returns the name of a file in the folder, "." for the folder itself, or an empty name for any
+/// other file.
 QByteArray nameOf(const QByteArray& path)
 {
     if (!disk || !path.startsWith(disk->folder))
@@ -98,7 +99,7 @@ QByteArray nameOf(int descriptor)
     return length > 0 ? nameOf(QByteArray(path, int(length))) : QByteArray();
 }
 
-/// Counts the call, and sets errno if it fails.
+/// Counts the call, and sets errno if the call has to fail.
 bool fails(Call call, const char* function, const QByteArray& name)
 {
     ++disk->calls;
@@ -150,8 +151,8 @@ void create(const QByteArray& name, int flags)
         change(name, {0, QByteArray()});
 }
 
-/// Calls `next`, the function of the C library, unless the call fails; then `done` repeats its
-/// effect for the disk.
+/// Calls `next`, the C library function, unless the call has to fail. Afterwards `done` applies the
+/// effect of the call to the simulated disk.
 template <typename Next, typename Done>
 auto run(Call call, const char* function, const QByteArray& name, const Next& next,
          const Done& done)
@@ -240,14 +241,14 @@ void FaultyDisk::restart()
         writeFile(folder.filePath(QFile::decodeName(name.key())),
                   file.contentAfter(upTo(file.changes.size())));
     }
-    disk = std::make_unique<Disk>(); // of no folder
+    disk = std::make_unique<Disk>(); // simulates no folder
     disk->folder = "/dev/null";
     disk->failedCall = before->failedCall;
 }
 
 } // namespace testsupport
 
-// The definitions in the program are also used by Qt and SQLite.
+// Qt and SQLite also use the definitions in the program.
 using namespace testsupport;
 
 #pragma GCC visibility push(default)
@@ -315,7 +316,7 @@ int fsync(int file)
 {
     static const auto next = original(&fsync, "fsync");
     const QByteArray name = nameOf(file);
-    // The tests would take ten times as long if the files were synced.
+    // The tests would take ten times as long if the files were really synced.
     return run(
         Call::Other, "sync", name, [&] { return name.isEmpty() ? next(file) : 0; },
         [&](int) { sync(name); });

@@ -7,7 +7,7 @@ namespace testsupport {
 
 namespace {
 /// Returns the warnings in a log of QtTest, except warnings of the offscreen plug-in about missing
-/// features. The log does not contain warnings that QTest::ignoreMessage() announced.
+/// features. The log does not contain warnings that were declared with QTest::ignoreMessage().
 QList<QByteArray> unexpectedWarnings(const QByteArray& log)
 {
     QList<QByteArray> found;

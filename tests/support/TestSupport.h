@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// The test program fails if it logs a warning that the test did not announce by
+/// The test program fails if it logs a warning that the test has not declared with
 /// QTest::ignoreMessage(). Use PLIB_TEST_MAIN instead of QTEST_GUILESS_MAIN, and
 /// WidgetTestSupport.h for tests of widgets.
 namespace testsupport {
@@ -16,7 +16,7 @@ constexpr int Patience = 60000;
 
 int run(QObject* test, int argc, char* argv[]);
 
-/// Write or read a whole file that the test has created. End the process if this fails.
+/// Write or read a whole file that belongs to the test. Terminate the process if this fails.
 void writeFile(const QString& path, const QByteArray& bytes);
 QByteArray readFile(const QString& path);
 
@@ -34,7 +34,7 @@ struct Text : QString
     }
 };
 
-/// Checks the function with each line "text => result" of `cases`.
+/// Checks the function for each line "text => result" in `cases`.
 void compareCases(const std::function<QString(const QString&)>& function, const char* cases);
 
 /// Adds the named columns of a data function. Its call operator adds a row with a name and values.

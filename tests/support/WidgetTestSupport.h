@@ -13,8 +13,8 @@
 
 namespace testsupport {
 
-/// Calls `act` with the next modal dialog or message box. Call it before the step that opens the
-/// dialog. Does nothing if no dialog opens in time.
+/// Calls `act` with the next modal dialog or message box. Must be called before the step that opens
+/// the dialog. Does nothing if no dialog opens in time.
 inline void whenModal(const std::function<void(QWidget*)>& act)
 {
     const QPointer<QWidget> before = QApplication::activeModalWidget();
@@ -59,7 +59,8 @@ inline void trigger(const QWidget& window, const char* action)
 
 } // namespace testsupport
 
-/// Like PLIB_TEST_MAIN, for tests of widgets. Widgets that still exist after the test are failures.
+/// Like PLIB_TEST_MAIN, for tests of widgets. Widgets that still exist after the test count as
+/// failures.
 #define PLIB_WIDGET_TEST_MAIN(TestClass)                                                       \
     int main(int argc, char* argv[])                                                           \
     {                                                                                          \

@@ -31,8 +31,8 @@ namespace testsupport {
 
 namespace {
 /// Returns whether the widget is an internal part of another control. The tab bar of docks counts
-/// as internal, because its tabs show the docks' titles and Qt gives it the title of the current
-/// dock as its name.
+/// as internal, because its tabs show the titles of the docks, and Qt uses the title of the current
+/// dock as the name of the tab bar.
 bool isInner(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();
@@ -60,8 +60,8 @@ QString boxTitle(const QWidget* widget)
     return widget ? static_cast<const QGroupBox*>(widget)->title() : QString();
 }
 
-/// Returns whether `first` does not come after `second` in reading order. Both are geometries in
-/// the same parent.
+/// Returns whether `first` does not follow `second` in reading order. Both are geometries in the
+/// same parent.
 bool isInReadingOrder(const QRect& first, const QRect& second)
 {
     const int shared = qMin(first.bottom(), second.bottom()) - qMax(first.top(), second.top());
@@ -77,8 +77,8 @@ int widest(const QFontMetrics& metrics, const QStringList& texts)
     return width;
 }
 
-/// Returns the smallest size that shows the widget's text completely; empty for widgets without
-/// texts.
+/// Returns the smallest size that shows the widget's text completely, or an empty size for widgets
+/// without text.
 QSize needed(const QWidget* widget)
 {
     const QFontMetrics metrics = widget->fontMetrics();
@@ -172,7 +172,8 @@ public:
         }
     }
 
-    /// Gives each widget the focus first, because some widgets react to the wheel only then.
+    /// Gives each widget the focus first, because some widgets react to the wheel only while they
+    /// have the focus.
     void lookForWheel()
     {
         const QPointer<QWidget> focused = m_window.focusWidget();
@@ -268,7 +269,7 @@ void Walk::lookForCuts(QWidget* widget)
         note(widget, QStringLiteral("cuts its text: %1 in %2").arg(width).arg(textRoom(widget)));
 }
 
-/// Notes a widget that extends beyond its parent. Only contents of scroll areas may do so.
+/// Reports a widget that extends beyond its parent. Only the contents of scroll areas may do so.
 void Walk::lookForPlace(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();
@@ -290,11 +291,11 @@ void Walk::lookAtHeader(const QHeaderView* header)
             note(header->parentWidget(), QStringLiteral("cuts the header %1").arg(section));
 }
 
-/// Checks the tab order in each parent. A container counts as one stop of its parent, and Tab must
-/// enter it only once.
+/// Checks the tab order in each parent. A container counts as one tab stop of its parent, and Tab
+/// must enter the container only once.
 void Walk::lookForOrder()
 {
-    QMap<const QWidget*, QVector<const QWidget*>> visited; // by parent, in tab order
+    QMap<const QWidget*, QVector<const QWidget*>> visited; // keyed by parent, in tab order
     for (const QWidget* stop = m_window.nextInFocusChain(); stop != &m_window;
          stop = stop->nextInFocusChain())
         if (m_window.isAncestorOf(stop) && isInView(stop, m_window) &&

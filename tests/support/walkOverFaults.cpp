@@ -35,7 +35,7 @@ void setFiles(const QString& folder, const Files& files)
 class Walk
 {
     // Defined first, because its type is deduced.
-    /// Calls the function faster, because nothing is really synced.
+    /// Makes calling the function faster, because no data is really synced.
     template <typename Function>
     auto onSoundDisk(const Function& function) const
     {
@@ -56,7 +56,7 @@ public:
         expect(m_reason.isEmpty(), "it fails on a sound disk");
     }
 
-    /// Returns the number of calls at which the disk failed.
+    /// Returns the number of calls for which the disk has failed.
     int walk(Fault fault)
     {
         int failures = 0;
@@ -72,7 +72,7 @@ public:
     const QStringList& problems() const { return m_problems; }
 
 private:
-    /// Returns false if the operation has fewer calls.
+    /// Returns false if the operation makes fewer calls.
     bool runWith(Fault fault, int call)
     {
         setFiles(m_folder, m_filesBefore);
@@ -88,14 +88,14 @@ private:
 
     void checkResult(Fault fault)
     {
-        m_state = onSoundDisk(m_operation.state); // which plays back a journal
+        m_state = onSoundDisk(m_operation.state); // also rolls back a journal
         const QStringList left = filesIn(m_folder).keys();
         expect(m_state == m_old || m_state == m_new, "neither the old state nor the new one");
         if (m_reason.isEmpty())
             return expect(m_state == m_new, "success, but the new state is not stored");
         const QLatin1String cause(fault == Fault::Full ? "No space left" : "Input/output error");
         expect(m_reason.contains(cause), "the system's reason is missing");
-        // It is not known then whether the change would survive a power cut.
+        // In this case it is unknown whether the change would survive a power cut.
         const bool isInDoubt = isCut(fault) || m_failedCall == "sync .";
         expect(isInDoubt || m_state == m_old, "failure, but the new state is stored");
         expect(

@@ -10,17 +10,18 @@ namespace testsupport {
 /// An operation that changes the files of a folder.
 struct Operation
 {
-    /// Returns why it failed, or an empty text. No file is open before or afterwards.
+    /// Returns the reason if the operation failed, otherwise an empty string. No file is open
+    /// before or after the call.
     std::function<QString()> run;
-    /// Returns what is stored.
+    /// Returns the stored state.
     std::function<QByteArray()> state;
-    int stride = 1; ///< distance of the calls that fail in turn
+    int stride = 1; ///< distance between the calls that are made to fail
 };
 
-/// Runs the operation with each fault of FaultyDisk at each of its calls. Either the old state or
-/// the new one must be stored afterwards, after a success the new one even if the power is cut. A
-/// failure must be reported with the system's reason and must leave the old state. Repeating the
-/// operation must succeed and leave no other files.
+/// Runs the operation with each fault of FaultyDisk at each of its calls. Afterwards either the old
+/// or the new state must be stored; after a success, the new state must be stored even if the power
+/// is cut. A failure must be reported with the system's reason and must leave the old state.
+/// Repeating the operation must succeed and leave no other files.
 void walkOverFaults(const QString& folder, const Operation& operation);
 
 } // namespace testsupport

@@ -23,7 +23,7 @@
 namespace testsupport {
 
 namespace {
-/// Returns a text without formatting, because tool tips may be rich text.
+/// Returns the text without formatting, because tool tips may be rich text.
 QString plain(const QString& text)
 {
     return QTextDocumentFragment::fromHtml(text).toPlainText();

@@ -7,13 +7,14 @@
 
 namespace testsupport {
 
-/// Returns whether the widget is visible in this window and not hidden behind the tab of a dock.
+/// Returns whether the widget is visible in this window and not hidden behind another dock tab.
 bool isInView(const QWidget* widget, const QWidget& window);
 
 /// Returns the window and its widgets for which isInView() is true.
 QList<QWidget*> visibleWidgets(QWidget& window);
 
-/// Shows each tab of the window and calls `act` for it; calls `act` once if there are no tabs.
+/// Shows each tab of the window and calls `act` for each of them. Calls `act` once if there are no
+/// tabs.
 void forEachTab(QWidget& window, const std::function<void()>& act);
 
 /// Returns whether a widget is in a table cell, so that the cell determines its width.
@@ -22,7 +23,7 @@ bool isInCell(const QWidget* widget);
 /// Returns the texts that the widget itself displays.
 QStringList textsOf(const QWidget* widget);
 
-/// Returns the texts with mnemonics that Alt activates in the window.
+/// Returns the texts whose mnemonics can be activated with Alt in the window.
 QStringList mnemonicTextsOf(const QWidget* widget);
 
 } // namespace testsupport

@@ -51,7 +51,7 @@ void readMessage(QStringList& texts)
         const bool isPlain = message->textFormat() == Qt::PlainText;
         texts << message->text();
         press(box, QMessageBox::Ok);
-        QVERIFY(isPlain); // file names may look like tags
+        QVERIFY(isPlain); // because file names may look like tags
     });
 }
 
@@ -100,7 +100,7 @@ OtherProgram::OtherProgram(const QString& path, Work work)
 {
     vkd_zob_open(path.toUtf8().constData(), &m_index);
     vkd_zob_lock_ex(m_index, 9000, 1);
-    const QByteArray bytes(work == Storing ? 4000000 : 5000, 'x'); // more than fits into the cache
+    const QByteArray bytes(work == Storing ? 4000000 : 5000, 'x'); // exceeds the cache
     const int length = bytes.size();
     for (int i = 0; i < int(work); ++i)
         vkd_zob_put(m_index, 9000, 1, bytes.constData(), &length, 1);
@@ -113,7 +113,7 @@ OtherProgram::~OtherProgram()
 
 static void setRoom(rlim_t bytes)
 {
-    std::signal(SIGXFSZ, SIG_IGN); // so that a write fails, as on a full disk
+    std::signal(SIGXFSZ, SIG_IGN); // makes a write fail, as on a full disk
     rlimit room{};
     getrlimit(RLIMIT_FSIZE, &room);
     room.rlim_cur = bytes;

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// Functions shared by the tests of the workbench's window.
+/// Functions shared by the tests for the workbench's window.
 namespace windowtest {
 
 using testsupport::enterFile;
@@ -27,9 +27,9 @@ QString script(const QWidget& window);
 void press(QWidget* box, QMessageBox::StandardButton button);
 /// Presses OK in the next message box and adds its text to the list.
 void readMessage(QStringList& texts);
-/// Enters a file name in the file dialog that opens next.
+/// Enters a file name in the next file dialog that opens.
 void answerFileDialog(const QString& path);
-/// Returns the script that the window saves in a file.
+/// Returns the script that the window saves to a file.
 QString savedScript(const QWidget& window, const QString& keywords);
 QDialog* openOutput(const QWidget& window);
 /// Opens the output dialog and unchecks a plot.
@@ -39,7 +39,8 @@ void pickInView(const QWidget& designDialog);
 /// Picks a group with Return in the list of groups.
 void pickGroup(const QWidget& window, int row);
 
-/// Another program that is changing a project until the object is destroyed, and stores nothing.
+/// Simulates another program that is changing a project until the object is destroyed, and that
+/// stores no changes.
 class OtherProgram
 {
 public:
@@ -58,7 +59,8 @@ private:
     int m_index = -1;
 };
 
-/// Prevents writing to a project during its lifetime: "locked", "no journal", "disk full".
+/// Prevents writing to a project during the lifetime of the object. The reason is "locked", "no
+/// journal" or "disk full".
 class Obstacle
 {
 public:
@@ -70,17 +72,17 @@ private:
     std::unique_ptr<OtherProgram> m_other;
 };
 
-/// Base class of tests of the window's projects: English texts; a folder with settings for each
-/// test.
+/// Base class for tests of the window's projects. The texts are in English, and each test has its
+/// own settings folder.
 class ProjectTest : public QObject
 {
     Q_OBJECT
 
 protected:
     QString path(const char* name) const { return m_folder->filePath(QString::fromUtf8(name)); }
-    /// Returns the path of a new copy of the building.
+    /// Returns the path of a new copy of the sample building.
     QString copy(const char* name) const;
-    /// Opens a window with such a copy and waits for its script.
+    /// Opens a window with a new copy of the sample building and waits for its script.
     std::unique_ptr<workbench::MainWindow> open(const char* name) const;
     /// Opens a window with an existing project and waits for its script.
     std::unique_ptr<workbench::MainWindow> reopen(const char* name) const;

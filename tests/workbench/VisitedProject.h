@@ -19,7 +19,7 @@ using testsupport::trigger;
 using testsupport::whenModal;
 
 using Visit = std::function<void(QWidget&)>;
-/// Opens one or more windows one after the other, calls a function for each, and closes it.
+/// Opens one or more windows one after the other, calls a function for each window, and closes it.
 using Open = std::function<void(const Visit&)>;
 
 Q_DECLARE_METATYPE(Visit)
@@ -31,7 +31,7 @@ void visitModal(const Visit& visit, const std::function<void()>& act);
 /// Visits the menu that a right click on the widget opens, and closes it.
 void visitMenu(const Visit& visit, QWidget* widget);
 
-/// The sample building, with functions that open the windows for it.
+/// The sample building, with functions that open its windows.
 class VisitedProject
 {
 public:

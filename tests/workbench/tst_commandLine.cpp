@@ -68,8 +68,8 @@ private Q_SLOTS:
             0);
         QCOMPARE(readFile(path("again.txt")), choice);
         QCOMPARE(readFile(path("second.txt")), readFile(path("first.txt")));
-        // The saved choice works with captions in either language, and a changed choice changes the
-        // tree and the script.
+        // The saved choice works with captions in both languages, and changing the choice changes
+        // the tree and the script.
         const Result english = run("tree slab.zob --selection choice.txt --language english");
         const Result german = run("tree slab.zob --selection choice.txt --language german");
         QCOMPARE(german.out.count(QLatin1String("[x]")), english.out.count(QLatin1String("[x]")));
@@ -86,7 +86,7 @@ private Q_SLOTS:
             "SIZE -URS SC 100*1.e+10 SPLI  2x1 MARG NO FORM STAN");
         row("--set scaleIndex=8 --set scaleMode=1", "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN");
         row("--set picturesId=0 --set formatId=0",
-            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // each argument like one click
+            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // like one click per argument
         row("--set hasFormat=0", "SIZE URS SC 0 MARG NO FORM STAN");
         row("--set viewId=4", "VIEW TYPE STAN 1 -2 1 ROTA 0");
         row("--set fontSizeText=3,5", "SCHH H6 0.35");
@@ -145,7 +145,7 @@ private Q_SLOTS:
             "", " --set viewId=2");
     }
 
-    /// A script from a saved choice equals one from arguments alone.
+    /// A script from a saved choice equals the script from arguments alone.
     void savedChoice()
     {
         QFETCH(const QString, page);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(expected.out.contains(QLatin1String("SIZE ")));
         const Result result = run(QLatin1String("script saved.zob") + options);
         QCOMPARE(result.error, QString());
-        const QString ownView = QStringLiteral("STAN 0 -1 0 ROTA 0"); // arguments cannot set it
+        const QString ownView = QStringLiteral("STAN 0 -1 0 ROTA 0"); // not an argument
         QCOMPARE(result.out,
                  QString(expected.out).replace(QLatin1String("STAN 1 -2 1 ROTA 0"), ownView));
         QFile::remove(path("saved.zob"));
@@ -217,16 +217,16 @@ private Q_SLOTS:
         QCOMPARE(before.count(QLatin1Char('\n')), 4);
         QVERIFY(before.startsWith(QLatin1String("Remaining Groups\tTwo Layers (orthogonal)\t") +
                                   summary));
-        // A new row takes its groups from other rows, and a row that loses its last group is
-        // deleted.
+        // The groups of a new row are removed from other rows, and a row that loses its last group
+        // is deleted.
         QCOMPARE(run("rows rows.zob --set-row 4-9,gurx type=4 wko=unset --language english").error,
                  QString());
         const QString changed = run("rows rows.zob --language english").out;
         QVERIFY2(changed.endsWith(QLatin1String("\n4;GURX\tCircular\t") + summary),
                  qPrintable(changed));
         QCOMPARE(changed.count(QLatin1Char('\n')), 4);
-        // Values of an existing row that are not named stay the same, and a row without groups
-        // stays in the project.
+        // In an existing row, values that the arguments do not mention are preserved, and a row
+        // without groups is preserved in the project.
         run("rows rows.zob --set-row GURX;4 hio=0.05");
         run("rows rows.zob --set-row none type=3 dio=20");
         const QString again = run("rows rows.zob --language german").out;
@@ -235,8 +235,8 @@ private Q_SLOTS:
         QVERIFY(again.section(QLatin1Char('\n'), -2).contains(QStringLiteral("Ø20")));
     }
 
-    /// A table that was exported in German changes nothing in the same project, and makes another
-    /// project equal to it.
+    /// Importing a table that was exported in German changes nothing in the same project, and makes
+    /// another project equal to it.
     void tablesOfRows()
     {
         for (const char* file : {"from.zob", "to.zob"})
@@ -289,7 +289,7 @@ private Q_SLOTS:
 
     void failures_data()
     {
-        const Columns<QString> row("message"); // printed after the name of the program
+        const Columns<QString> row("message"); // printed after the program name
         writeFile(path("noproject.zob"), "just a text that is long enough to be looked at");
         writeFile(path("bad.json"), "{\n \"title\": \"x\",\n oops }");
         writeFile(path("field.json"),
@@ -418,7 +418,7 @@ private:
                 QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};
     }
-    /// Runs the command line with arguments separated by blanks.
+    /// Runs the command line with arguments separated by spaces.
     Result run(const QString& arguments) const { return run(arguments.split(QLatin1Char(' '))); }
     Result run(const char* arguments) const { return run(QString::fromUtf8(arguments)); }
     QString path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)); }

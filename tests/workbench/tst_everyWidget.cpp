@@ -25,7 +25,7 @@ using workbench::MainWindow;
 namespace {
 enum DesignColumn { Groups, Type, Directions, Reinforcement, Cracks };
 
-/// Columns of the design page have fixed widths.
+/// The columns of the design page have fixed widths.
 const QSet<QString> FixedColumns{QStringLiteral("table")};
 
 /// Texts with the same spelling in both languages.
@@ -160,7 +160,7 @@ private:
             trigger(window, "TextOutput");
             auto dialog = find<QDialog>(window, "TextOutputDialog");
             visit(*dialog);
-            // Another kind rebuilds the row of kinds.
+            // Selecting another kind rebuilds the row of kinds.
             find<QComboBox>(*dialog, "CombinationKind")->setCurrentIndex(3);
             visit(*dialog);
         });
@@ -199,7 +199,7 @@ private:
             });
     }
 
-    /// Visits the dialog of a cell in the new row after setting this design type.
+    /// Visits the dialog of a cell in the new row after selecting this design type.
     static void edit(QTableWidget& table, int type, int column, const Visit& visit)
     {
         auto item = dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(table.item(1, Type));
@@ -279,7 +279,7 @@ private:
             VKD_H_PluginParameter parameter(m_project->doc());
             VKD_QT_TabDialog dialog;
             auto view = withView ? new AnimatorView(m_project->doc()->handle(), &dialog) : nullptr;
-            // After the catalogue was read in two languages, it offers each plot twice.
+            // After the catalogue has been read in two languages, it offers each plot twice.
             vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English);
             auto output = new VKD_P_WidgetGraphicalOutput(&dialog, kind, &parameter, view);
             vkd_lib_setvalue(VKD_SETTING_LANGUAGE, m_project->language);

@@ -116,8 +116,7 @@ private:
         });
     }
 
-    /// Visits the table or the dialog that F2 opens in a cell, or the one that a button in the cell
-    /// opens.
+    /// Visits the table or dialog that F2 or a button in the cell opens.
     Open cell(DesignColumn column, const char* button)
     {
         return m_project->design([=](QWidget&, QTableWidget& table, const Visit& visit) {

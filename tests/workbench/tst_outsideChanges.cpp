@@ -21,7 +21,7 @@ using workbench::OutputState;
 using workbench::TextOutputState;
 
 namespace {
-/// Returns "-" if the bar is hidden, otherwise its text and the names of its actions.
+/// Returns "-" if the change bar is hidden, otherwise its text and the names of its actions.
 QString bar(const QWidget& window)
 {
     const auto frame = find<QWidget>(window, "ChangeBar");
@@ -52,8 +52,8 @@ void pressButton(QWidget* box, const QString& text)
     qFatal("no such button");
 }
 
-/// A part of the project and its dialog: a change by the user, a change by another program, and
-/// functions that return whether the dialog or the project has the user's change.
+/// A part of the project and its dialog, with a change by the user, a change by another program,
+/// and functions that return whether the dialog or the project contains the user's change.
 struct Part
 {
     std::function<void(QWidget& dialog)> change;
@@ -62,7 +62,7 @@ struct Part
     std::function<bool(const QString& project)> hasMine;
 };
 
-/// Changes a row as another program.
+/// Changes a row as another program would.
 void setRow(const QString& project)
 {
     commandLine({QStringLiteral("rows"), project, QStringLiteral("--set-row"), QStringLiteral("1"),
@@ -188,8 +188,8 @@ private Q_SLOTS:
         }
     }
 
-    /// OK asks the user. The project has the user's state only after Overwrite; the dialog shows it
-    /// again after Go Back, and the newer state after Reload.
+    /// OK asks the user. The project contains the user's state only after Overwrite. The dialog
+    /// shows the user's state again after Go Back, and the newer state after Reload.
     void newerDataAreAskedAbout()
     {
         QFETCH(const QByteArray, part);
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(it.hasMine(path("asked.zob")), answer == QLatin1String("&Overwrite"));
     }
 
-    /// An unsaved choice survives Reload, and OK then asks.
+    /// An unsaved choice survives Reload, and OK asks afterwards.
     void reloadKeepsTheChoice()
     {
         const auto window = open("saved.zob");
@@ -274,7 +274,7 @@ private Q_SLOTS:
         row("replaced, in its place", "cp", "mine.zob", replaced);
     }
 
-    /// Save As includes the input of open dialogs. OK of the design dialog also offers Save As.
+    /// Save As includes the input of open dialogs. OK in the design dialog also offers Save As.
     void saveAsWithOpenDialogs()
     {
         QFETCH(const QByteArray, event);
@@ -318,7 +318,7 @@ private Q_SLOTS:
         QVERIFY(records(again) != model);
     }
 
-    /// Changes stored by one window are shown by the other.
+    /// Changes stored by one window are shown in the other window.
     void twoWindows()
     {
         const auto mine = open("both.zob");

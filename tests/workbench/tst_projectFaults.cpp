@@ -15,7 +15,7 @@
 using namespace windowtest;
 
 namespace {
-/// Opens the project, deletes a row in the design dialog, and stores the others.
+/// Opens the project, deletes a row in the design dialog, and stores the remaining rows.
 QString storeDesign(const QString& path)
 {
     VkdStatus status;
@@ -55,7 +55,7 @@ QString make(const QString& path)
     }
 }
 
-/// Returns all records of a project; a text that is no record if they cannot be read.
+/// Returns all records of a project, or a string that is not a record if they cannot be read.
 QByteArray state(const QString& path)
 {
     int index = -1;
@@ -64,7 +64,7 @@ QByteArray state(const QString& path)
     if (!vkd_zob_open(path.toUtf8(), &index).isOk())
         return "unreadable";
     QByteArray records, record(100000, '\0');
-    int key1 = 11, key2 = 0; // the title under 10, 0 has a random number
+    int key1 = 11, key2 = 0; // the title, keyed by 10, 0, contains a random number
     for (vkd_zob_kenq_ex(index, &key1, &key2, 1); key1 >= 0;
          vkd_zob_kenq_ex(index, &key1, &key2, 1)) {
         int length = record.size();

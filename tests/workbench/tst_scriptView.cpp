@@ -29,7 +29,7 @@ QString inWords(const QVector<LineChange>& changes)
     return words.join(QLatin1Char(' '));
 }
 
-/// Returns a text of up to 12 lines of a few kinds.
+/// Returns a text with up to 12 lines, of which many are equal.
 QString randomText(std::mt19937& random)
 {
     QString text;
@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(view->selectedText(), QStringLiteral(" four\nf"));
     }
 
-    /// The first changed line is visible; without one the view stays where it is.
+    /// The first changed line is visible. Without changed lines, the view does not scroll.
     void placeAfterChanges()
     {
         QString text = QStringLiteral("line\n").repeated(100000);

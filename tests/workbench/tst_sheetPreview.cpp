@@ -22,7 +22,7 @@ using namespace windowtest;
 using namespace workbench;
 
 namespace {
-/// Returns a script of this number of plots, on sheets with two rows.
+/// Returns a script with this number of plots on sheets with two rows.
 QString longScript(int plots)
 {
     return QStringLiteral("SIZE -URS SC 0 SPLI 2x1 MARG NO FORM STAN\nVIEW EG3\n") +
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(plan.pictures.last().command, QStringLiteral("H $(SCHR)"));
     }
 
-    /// The plot occurs twice in the script, but has a single picture.
+    /// The plot occurs twice in the script but has a single picture.
     void twoLoadCasesInOnePicture()
     {
         writeFile(path("cases.txt"), "1 12 12+14: Wind\n");
@@ -160,7 +160,7 @@ private Q_SLOTS:
         row("one line", QStringLiteral("SIZE ") + QStringLiteral("URS ").repeated(100000), 0, 1);
     }
 
-    /// The pages of any text can be drawn.
+    /// The pages of any script can be drawn.
     void anyText()
     {
         QFETCH(const QString, script);
@@ -183,7 +183,7 @@ private Q_SLOTS:
 
     void captionsBelongToTheirPictures_data()
     {
-        // Load cases, 0 for a plot without one.
+        // Load cases, or 0 for a plot without a load case.
         const Columns<QVector<int>, bool> row("rows", "agree");
         row("alike", {0, 3, 3, 0}, true);
         row("one more", {0, 3, 3, 0, 0}, false);
@@ -239,7 +239,7 @@ private Q_SLOTS:
         };
         QCOMPARE(press(view, Qt::Key_PageDown), 2);
         QCOMPARE(press(number, Qt::Key_PageDown), 3);
-        QCOMPARE(press(find<QWidget>(preview, "SheetZoom"), Qt::Key_PageUp), 3); // the box uses it
+        QCOMPARE(press(find<QWidget>(preview, "SheetZoom"), Qt::Key_PageUp), 3); // handled by it
         QCOMPARE(press(view, Qt::Key_PageUp), 2);
         QCOMPARE(press(view, Qt::Key_End), 50000);
         QCOMPARE(press(view, Qt::Key_PageDown), 50000);
@@ -251,7 +251,7 @@ private Q_SLOTS:
         QCOMPARE(view->page(), 699);
         QVERIFY(view->accessibleDescription().contains(QLatin1String("BEAM N, Load case 7")));
 
-        // A page that is larger than the view is scrolled to its end first.
+        // A page that is larger than the view is first scrolled to its end.
         find<QComboBox>(preview, "SheetZoom")->setCurrentIndex(SheetView::PageWidth);
         QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
         QCOMPARE(press(view, Qt::Key_PageDown), 700);
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(press(view, Qt::Key_PageUp), 700);
         QVERIFY(view->verticalScrollBar()->value() > 0);
 
-        // A printed sheet has the same aspect ratio as the sheet on the screen.
+        // A printed sheet has the same aspect ratio as the sheet on screen.
         const QSizeF sheet = view->sheetRect().size();
         QVERIFY(qAbs(sheet.width() / sheet.height() - 210.0 / 297.0) < 0.002);
         preview.setPlan(readSheetPlan(longScript(10)));
@@ -270,7 +270,7 @@ private Q_SLOTS:
         QVERIFY(view->sheetRect().isNull());
     }
 
-    /// Plots without load cases on offer can be checked, but have no picture.
+    /// Plots can be checked while no load cases are offered, but they have no picture.
     void withoutLoadCases()
     {
         const auto window = open("without.zob");
@@ -315,7 +315,7 @@ private Q_SLOTS:
         QVERIFY(bytes.startsWith("%PDF-"));
         QVERIFY(bytes.trimmed().endsWith("%%EOF"));
         QCOMPARE(bytes.count("/MediaBox " + box), pages);
-        QCOMPARE(bytes.count("/Subtype /Image"), 2); // one for all pictures of a view
+        QCOMPARE(bytes.count("/Subtype /Image"), 2); // one image for all pictures of a view
     }
 
     void cancelledExport()
@@ -333,7 +333,7 @@ private Q_SLOTS:
                  QStringList{QStringLiteral("kept.pdf")});
     }
 
-    /// The suffix is added, so the file is not the one that the dialog asked about.
+    /// A suffix is appended, so the dialog has asked about a different file.
     void replacedFileIsAskedAbout()
     {
         const auto window = open("export.zob");
@@ -365,7 +365,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Scripts with German and with English keywords give the same sheets.
+    /// Scripts with German and English keywords result in the same sheets.
     QVector<SheetPlan> plans(const QStringList& arguments) const
     {
         const QString project = copy("building.zob");

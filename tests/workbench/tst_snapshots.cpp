@@ -6,13 +6,13 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// Returns the names of the picture files that the program saves in a folder.
+/// Returns the names of the image files that the program saves in a folder.
 class TestSnapshots : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// The pictures are the same in both languages, and the project does not change.
+    /// The set of screenshots is the same in both languages, and the project does not change.
     void initTestCase()
     {
         run("new slab.zob --model slab");
@@ -28,7 +28,7 @@ private Q_SLOTS:
                  m_names);
     }
 
-    /// All sizes are doubled; the width of texts may differ by a point or two.
+    /// All sizes are doubled, but the width of texts may differ by a few points.
     void pixelRatio()
     {
         constexpr int Tolerance = 4;

@@ -19,7 +19,7 @@ public:
     bool isPainted = false;
 };
 
-/// Tests the steps of a start that are done at once and those that are postponed.
+/// Tests which steps of the program start are done immediately and which are postponed.
 class tst_start : public ProjectTest
 {
     Q_OBJECT
@@ -46,13 +46,13 @@ private Q_SLOTS:
         QTRY_VERIFY(groupCount() > 0);
         QTRY_VERIFY(window.findChild<QTableView*>(QStringLiteral("Records")));
         const int groups = groupCount();
-        // A second project replaces the first at once, and the first file is closed.
+        // A second project immediately replaces the first project, whose file is closed.
         makeProject(path("second.zob"), QStringLiteral("slab"));
         QVERIFY(window.openProject(path("second.zob")));
         QVERIFY(groupCount() != groups);
     }
 
-    /// The message about a damaged project appears after the window is painted.
+    /// The message about a damaged project appears after the window has been painted.
     void messageAppearsAfterThePainting()
     {
         writeFile(path("bad.zob"), "no project");
@@ -71,8 +71,8 @@ private Q_SLOTS:
         QVERIFY(wasPainted);
     }
 
-    /// Settings are written only if they change, because writing waits for the disk, and comments
-    /// would be lost.
+    /// Settings are written only if they have changed, because writing waits for the disk and loses
+    /// comments in the file.
     void settingsAreWrittenForNewFilesOnly()
     {
         const QString file = path("ini/plib/workbench.ini");

@@ -16,7 +16,7 @@ using namespace windowtest;
 using namespace workbench;
 
 namespace {
-/// The dialog for a project.
+/// The text output dialog for a project.
 struct Desk
 {
     explicit Desk(std::unique_ptr<VKD_H_ZOBDoc> opened)
@@ -96,7 +96,7 @@ class tst_textOutput : public ProjectTest
 private Q_SLOTS:
     void choices_data()
     {
-        // The lines replace those of the default choice.
+        // These lines replace the lines of the default choice.
         const Columns<QString, QString, QString, QString> row("box", "label", "live", "lines");
         row("extent by hand", ExtentBox, "Manually controlled", "extent+combinations", "");
         row("no text", ExtentBox, "No text output", "combinations",
@@ -180,7 +180,7 @@ private Q_SLOTS:
         row("Non-frequent", 9);
     }
 
-    /// The title of the combination is the name of the data row.
+    /// The name of the data row is the title of the combination.
     void kinds()
     {
         const QString title = QString::fromUtf8(QTest::currentDataTag());
@@ -196,8 +196,8 @@ private Q_SLOTS:
         }
     }
 
-    /// A kind is offered if any combination has it; a saved choice of a kind that no combination
-    /// has is ignored.
+    /// A kind is offered if any combination has this kind. A saved choice of a kind without
+    /// combinations is ignored.
     void rowFollowsKinds()
     {
         Desk desk(building());

@@ -29,7 +29,7 @@ QString printed(const char* command, const QString& project, const QString& lang
         options));
 }
 
-/// Returns the tree as the command line prints it.
+/// Returns the tree in the format that the command line prints.
 QString treeText(QTreeWidget* tree)
 {
     QString text;
@@ -76,8 +76,8 @@ private Q_SLOTS:
         QVERIFY(window.windowTitle().startsWith(QLatin1String("new.zob[")));
     }
 
-    /// A click updates the script; a change of the language preserves the choice; Cancel restores
-    /// the saved choice, and OK saves the new one.
+    /// A click updates the script, a change to the language preserves the choice, Cancel restores
+    /// the saved choice, and OK saves the new choice.
     void scriptFollowsAndIsSaved()
     {
         const auto window = open("saved.zob");
@@ -86,7 +86,8 @@ private Q_SLOTS:
         for (const bool isSaved : {false, true}) {
             changeChoice(*window);
             QVERIFY(script(*window) != proposed);
-            // The clipboard has the script of the last click, which the pane may not show yet.
+            // The clipboard contains the script after the last click, which the pane may not show
+            // yet.
             find<QDialog>(*window, "OutputDialog")
                 ->findChild<QTreeWidget*>()
                 ->topLevelItem(1)
@@ -104,7 +105,7 @@ private Q_SLOTS:
             QVERIFY(window->isWindowModified());
             trigger(*window, "English");
             QCOMPARE(script(*window), chosen);
-            auto dialog = find<QDialog>(*window, "OutputDialog"); // was recreated
+            auto dialog = find<QDialog>(*window, "OutputDialog"); // the dialog has been recreated
             const QPointer<QTreeWidget> tree = dialog->findChild<QTreeWidget*>();
             isSaved ? dialog->accept() : dialog->reject();
             QCOMPARE(tree && tree->topLevelItemCount() > 0, isSaved);
@@ -160,8 +161,7 @@ private Q_SLOTS:
         QCOMPARE(of("script", {QStringLiteral("--proposed")}), proposed);
     }
 
-    /// The captions are also translated if the tree is rebuilt by a click in the table of load
-    /// cases.
+    /// The captions are also translated if a click in the load case table rebuilds the tree.
     void plotsFollowTheLanguage()
     {
         const auto window = open("names.zob");
@@ -188,7 +188,7 @@ private Q_SLOTS:
         row("content, proposed", true, false, R"(\[x\] Bricks in)");
     }
 
-    /// In a new project, the tree offers other plots and then the same as before.
+    /// In a new project, the tree first offers other plots and afterwards the same plots as before.
     void choiceOutlastsOffers()
     {
         QFETCH(const bool, isChosen);
@@ -219,7 +219,7 @@ private Q_SLOTS:
                      qPrintable(treeText(plots)));
         offer(false);
         QCOMPARE(filled.size(), 2);
-        QTRY_COMPARE(treeText(plots), before); // as soon as the captions are in English
+        QTRY_COMPARE(treeText(plots), before); // when the captions are in English
     }
 
     /// A camera rotated by the user is restored even if another view was selected and saved.
@@ -227,10 +227,10 @@ private Q_SLOTS:
     {
         auto window = open("turned.zob");
         trigger(*window, "Output");
-        QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // the first view is sent
+        QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // first view sent
         find<QAbstractButton>(*window, "PerspectiveGroup_4")->click();
         QTest::keyClick(find<QWidget>(*window, "OutputView"), Qt::Key_Left);
-        const auto camera = [&window] { // with either keyword language
+        const auto camera = [&window] { // for both keyword languages
             return QRegularExpression(QStringLiteral("TYPE? STAN (.*)"))
                 .match(script(*window))
                 .captured(1);
@@ -254,7 +254,7 @@ private Q_SLOTS:
         QTRY_COMPARE(camera(), turned);
     }
 
-    /// A dialog is recreated with the same state after a change of the language and after a
+    /// A dialog is recreated with the same state after a change to the language and after a
     /// restart.
     void dialogStateIsRestored()
     {
@@ -336,7 +336,7 @@ private Q_SLOTS:
         };
         QCOMPARE(pick({3}), QStringLiteral("Picked: 4"));
         QCOMPARE(pick({5}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
-        // Picking again starts with the groups of the row, and adds and removes groups.
+        // Picking again starts with the groups of the row, and can add and remove groups.
         whenModal([](QWidget* dialog) { pickInView(*dialog); });
         find<QPushButton>(*window, "PickDone")->click();
         QCOMPARE(pick({}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
@@ -353,7 +353,7 @@ private Q_SLOTS:
         QCOMPARE(records->columnCount(), before + 2);
     }
 
-    /// OK asks about a group in two rows, and reports that a row without groups is saved.
+    /// OK asks about a group that is in two rows, and reports that a row without groups is saved.
     void messagesOfOk()
     {
         const auto window = open("rows.zob");

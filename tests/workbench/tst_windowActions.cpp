@@ -22,7 +22,7 @@ QList<QAction*> windowActions(const MainWindow& window)
     return actions;
 }
 
-/// Returns guarded pointers, because one object may destroy others.
+/// Returns guarded pointers, because one object may destroy other objects.
 template <class Object>
 QList<QPointer<Object>> pointers(const QList<Object*>& objects)
 {
@@ -35,7 +35,7 @@ class tst_windowActions : public ProjectTest
 {
     Q_OBJECT
 
-    /// Opens a project without a model, or one for which groups are being picked.
+    /// Opens a project without a model, or a project for which groups are being picked.
     void openEmptyOrPicking(MainWindow& window) const
     {
         if (qstrcmp(QTest::currentDataTag(), "empty project") == 0) {
@@ -58,7 +58,7 @@ class tst_windowActions : public ProjectTest
 private Q_SLOTS:
     void everyAction_data()
     {
-        const Columns<QString> row("enabled"); // by name
+        const Columns<QString> row("enabled"); // names of the enabled actions
         const QString always = QStringLiteral("About DesignHelp Help OutputHelp TextOutputHelp");
         const QString unlessPicking = QStringLiteral(" English German NewFromFile NewFromSample "
                                                      "Open Quit");

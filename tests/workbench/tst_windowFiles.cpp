@@ -38,7 +38,7 @@ MainWindow* shownWindow()
     return nullptr;
 }
 
-/// Saves the project under this name, or creates another one, and replaces an existing file.
+/// Saves the project under this name, or creates another project, and replaces an existing file.
 void saveAs(const MainWindow& window, const QString& path, QStringList* messages = nullptr,
             const char* action = "SaveAs")
 {
@@ -74,7 +74,7 @@ private Q_SLOTS:
         row("beside a journal", "crashed.zob", "crashed.zob");
     }
 
-    /// The choices are copied and their dialogs stay open; changes that another program has not
+    /// The choices are copied, and their dialogs stay open. Changes that another program has not
     /// committed are not copied.
     void savedAs()
     {
@@ -229,7 +229,7 @@ private Q_SLOTS:
 
     void drops_data()
     {
-        const Columns<QStringList, QByteArray> row("dragged", "opened"); // empty: refused
+        const Columns<QStringList, QByteArray> row("dragged", "opened"); // empty: drop refused
         const QString other = QStringLiteral("other.zob"), model = QStringLiteral("model.JSON");
         row("project", {other}, "other.zob");
         row("model", {model}, "made.zob");
@@ -241,8 +241,8 @@ private Q_SLOTS:
         row("text", {}, "");
     }
 
-    /// The drop is on a pane that does not use files, and is a move, after which the file manager
-    /// would delete the file.
+    /// The file is dropped onto a pane that does not use files. The drop is a move, after which the
+    /// file manager would delete the file.
     void drops()
     {
         QFETCH(const QStringList, dragged);
@@ -272,7 +272,7 @@ private Q_SLOTS:
         QApplication::sendEvent(target, &drop);
         QVERIFY(drop.isAccepted());
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
-        if (opened == "made.zob") // the user enters the name of the model's project
+        if (opened == "made.zob") // the user enters the name of the project for the model
             answerFileDialog(path(opened));
         QTRY_VERIFY(window->windowTitle().startsWith(QString::fromUtf8(opened)));
     }

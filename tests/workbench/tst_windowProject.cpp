@@ -89,7 +89,7 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(bad + QLatin1String("-journal")));
     }
 
-    /// A record that is too short is left out of the model. A design record that is too long does
+    /// A record that is too short is omitted from the model. A design record that is too long does
     /// not end the list. Other programs can write while the message is shown.
     void incompleteModel()
     {
@@ -128,7 +128,7 @@ private Q_SLOTS:
         row("until it is free", 2 * Patience, "free");
     }
 
-    /// While another program stores, the window shows that it is waiting.
+    /// While another program is writing, the window shows that it is waiting.
     void projectInUse()
     {
         QFETCH(const int, deadline);
@@ -223,8 +223,8 @@ private Q_SLOTS:
         QCOMPARE(again, entered);
     }
 
-    /// OK in the output dialog while another program locks the project: the choice stays in the
-    /// dialog and counts as unsaved.
+    /// If another program locks the project when OK is pressed in the output dialog, the choice
+    /// stays in the dialog and counts as unsaved.
     void choiceIsNotLost()
     {
         const auto window = open("choice.zob");
@@ -262,8 +262,8 @@ private Q_SLOTS:
                  QStringLiteral("It or the folder it lies in is write-protected."));
     }
 
-    /// While another program stores, there is no script instead of one for an outdated choice, and
-    /// no dialog that would show only a part of the project.
+    /// While another program is writing, the window shows neither a script for an outdated choice
+    /// nor a dialog that contains only part of the project.
     void unreadable()
     {
         const auto window = open("unreadable.zob");
