@@ -7,11 +7,11 @@ namespace plib {
 namespace designparameter {
 
 /// Data roles of the items in the page's table, a QTableWidget with the object name "table". They
-/// provide data to hosts beyond the visible texts.
+/// provide data to hosts in addition to the visible text.
 enum Role {
-    /// Set on items of the first column: a QVector<int> of the row's groups that other rows name as
-    /// well. The numbers are those of a group list, -1 for the remaining groups. Invalid if there
-    /// are none.
+    /// Set on items of the first column: a QVector<int> with the row's groups that are also listed
+    /// in other rows. The numbers are the same as in a group list, with -1 for the remaining
+    /// groups. The data is invalid if there are no such groups.
     SharedGroupsRole = Qt::UserRole + 1
 };
 

@@ -7,21 +7,21 @@ namespace plib {
 namespace widgetgraphicaloutput {
 
 /// Data roles of the items in the page's tree, a QTreeWidget with the object name "m_list". They
-/// provide data to hosts beyond the visible texts. The tree sets them whenever it is filled; items
-/// that are not from the catalogue have none.
+/// provide data to hosts in addition to the visible text. The tree sets them whenever it is filled.
+/// Items that do not come from the catalogue have no such data.
 enum Role {
-    /// An int: 0 and 1 are captions, 2 is a plot, 3 is the row of a load case.
+    /// An int: 0 and 1 for captions, 2 for a plot, 3 for the row of a load case.
     LevelRole = Qt::UserRole + 1,
-    /// Set on captions and plots: a QString that identifies the item in the stored choice. It is
-    /// the same in every language. Captions without a key of their own share an identifier.
+    /// Set on captions and plots: a QString that identifies the item in the stored selection. It is
+    /// the same in every language. Captions without their own keys share an identifier.
     IdentifierRole,
     /// Set on plots: a QStringList of the captions from the top level to the plot, in the language
-    /// that the tree shows.
+    /// of the tree.
     CaptionsRole,
-    /// Set on plots: true if the plot binds to load cases and has no row. Such a plot produces no
-    /// script lines, even if it is checked.
+    /// Set on plots: true if the plot is bound to load cases and has no row. Such a plot does not
+    /// produce script lines, even if it is checked.
     WaitsForLoadCasesRole,
-    /// Set on rows: the number of the load case as an int, as the host offered it.
+    /// Set on rows: the number of the load case as an int, as specified by the host.
     LoadCaseRole
 };
 

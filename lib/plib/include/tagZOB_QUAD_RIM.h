@@ -4,24 +4,25 @@
 #include <cstdint>
 
 /// The design parameters of the area elements of one group. The project stores them in this layout
-/// for the design program: 53 words of four bytes, little-endian in the store. In every real field,
-/// -99999.0 means not set.
+/// for the design program: 53 words of four bytes, stored in little-endian order. In every real
+/// field, -99999.0 means "not set".
 ///
-/// In the names, `o` is the upper and `u` the lower side. A suffix gives the layer: none for the
-/// principal reinforcement, `q` for the cross reinforcement, `i` for the third layer.
+/// In the field names, `o` denotes the upper side and `u` the lower side. A suffix denotes the
+/// layer: none for the principal reinforcement, `q` for the cross reinforcement, `i` for the third
+/// layer.
 struct tagZOB_QUAD_RIM
 {
-    std::int32_t group; ///< -1: all groups without a record of their own; from 1000000: secondary
-    std::int32_t subId; ///< 0, else the record belongs to another program
+    std::int32_t group; ///< -1: all groups without their own record; 1000000 or more: secondary
+    std::int32_t subId; ///< if not 0, belongs to another program
     std::int32_t
         type; ///< 0 none, 1 two layers orthogonal, 2 two layers, 3 three layers, 4 circular
     std::int32_t mode;                      ///< preserved, not used
-    std::int32_t mark;                      ///< 0 or 11, else the record belongs to another program
+    std::int32_t mark;                      ///< if not 0 or 11, belongs to another program
     float rio, rioq, rioi, riu, riuq, riui; ///< directions, radians
     float xref, yref, zref;                 ///< reference point of circular reinforcement, metres
-    /// Distances in metres. The stored form has the distance of each layer from the surface. The
-    /// edited form has the distance of the first layer from the surface, then the spacings from the
-    /// first to the second layer and from the second to the third.
+    /// Distances in metres. The stored form contains the distance of each layer from the surface.
+    /// The edited form contains the distance of the first layer from the surface, the spacing
+    /// between the first and second layers, and the spacing between the second and third layers.
     float hio, hioq, hioi, hiu, hiuq, hiui;
     float dio, dioq, dioi, diu, diuq, diui; ///< bar diameters, mm
     float reservedD;

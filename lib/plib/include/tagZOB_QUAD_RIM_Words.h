@@ -8,7 +8,8 @@ namespace designparameter {
 
 using Record = tagZOB_QUAD_RIM;
 
-/// The dimension codes of the real fields, as in vkd_h_units.h. Records store base units.
+/// The dimension codes of the real fields, as defined in vkd_h_units.h. Records contain values in
+/// base units.
 enum Dimension {
     NoDimension = -1,
     Direction = 5,
@@ -47,7 +48,7 @@ struct RecordWord
     }
 };
 
-/// All words in the order of the record, for hosts that show or edit records by field names.
+/// All words in the order of the record, for hosts that show or edit records by field name.
 constexpr RecordWord RecordWords[] = {
     {"group", &Record::group, false},
     {"subId", &Record::subId, false},

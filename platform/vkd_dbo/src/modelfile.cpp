@@ -387,7 +387,7 @@ int thingsIn(const QJsonObject& root)
     });
 }
 
-/// Throws a ModelFileError if the text is not valid.
+/// Parses the text. Throws a ModelFileError if it is invalid.
 QJsonDocument parsed(const QByteArray& bytes)
 {
     const auto fail = [&bytes](int offset, const QString& cause) {
@@ -407,8 +407,8 @@ QJsonDocument parsed(const QByteArray& bytes)
     return document;
 }
 
-/// Parses in a separate thread, because Qt's parser has no callback and a large file takes a
-/// second; before and meanwhile, this thread calls `goOn`.
+/// Parses the file in a separate thread, because Qt's parser has no callback and a large file takes
+/// a second. Before and during parsing, the calling thread calls `goOn`.
 QJsonDocument parse(const QByteArray& bytes, const VkdGoOn& goOn)
 {
     if (!goOn)
@@ -440,7 +440,7 @@ VkdStatus readModelFile(const QString& path, Language language, Model* model, co
     QByteArray bytes = file.readAll();
     try {
         const QJsonDocument document = parse(bytes, goOn);
-        bytes.clear(); // with the document, they would take twice the memory
+        bytes.clear(); // bytes and document together take twice the memory
         const QJsonValue root =
             document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);
         VkdSteps steps(goOn, thingsIn(document.object()));

@@ -12,20 +12,20 @@ namespace plib {
 /// The catalogue of plots, shared by all output trees of the process.
 struct Catalogue
 {
-    std::vector<GraphicalOutputRecord> list; ///< in file order; only ever grows
-    int catalogueLanguage = -1;              ///< language of the last load that succeeded
+    std::vector<GraphicalOutputRecord> list; ///< in file order; never shrinks
+    int catalogueLanguage = -1;              ///< language of the last successful load
 };
 
 /// Returns the catalogue of the process.
 Catalogue& sharedCatalogue();
 
-/// Shows an error to the user; called once at most for each load.
+/// Shows an error to the user. Called at most once per load.
 using ShowError = std::function<void(const QString& title, const QString& text)>;
 
-/// Loads the catalogue for the language, unless that is done already. The file is
-/// `graphicaloutput.data` on the search path. On purpose, the records of a second language are
-/// appended to those of the first. Calls `showError` and returns false if the file is missing or
-/// cannot be opened; the next call then tries again.
+/// Loads the catalogue for the language, unless it is already loaded. The file is
+/// `graphicaloutput.data` in the search path. The records of a second language are intentionally
+/// appended to the records of the first language. If the file is missing or cannot be opened, calls
+/// `showError` and returns false; the next call tries again.
 bool loadCatalogue(Catalogue& catalogue, vkd::Language language, const ShowError& showError);
 
 } // namespace plib

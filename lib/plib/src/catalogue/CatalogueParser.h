@@ -14,8 +14,8 @@ namespace plib {
 
 /// Parses the lines of a catalogue one by one into a single working record. Its fields are not
 /// reset between lines: a line without an English script inherits the script of the last line that
-/// had one. A column with the same bytes as in the line before is neither decoded nor looked up
-/// again, because neighbouring lines differ in few columns.
+/// had one. A column with the same bytes as in the previous line is neither decoded nor looked up
+/// again, because consecutive lines differ in few columns.
 class CatalogueParser
 {
 public:
@@ -23,14 +23,14 @@ public:
 
     static constexpr int MinimumParts = 14;
     static constexpr int UsedParts = 15;
-    static constexpr int LineBuffer = 1024; ///< including one byte for the terminating zero
+    static constexpr int LineBuffer = 1024; ///< including the terminating null byte
 
-    /// Parses one line as QIODevice::readLine() returns it, with its line feed if it has one.
+    /// Parses one line as returned by QIODevice::readLine(), including the newline if there is one.
     Outcome parseLine(const char* bytes, int length);
 
     /// Returns the working record. It is a valid catalogue record if the outcome was Accepted.
     const GraphicalOutputRecord& record() const { return m_record; }
-    /// Returns the number of parts in the line, 0 for comments and blank lines.
+    /// Returns the number of parts in the line, or 0 for comments and blank lines.
     int partCount() const { return m_partCount; }
 
 private:
@@ -42,8 +42,8 @@ private:
     void storeCaseWord(const QString& part);
 
     GraphicalOutputRecord m_record;
-    // The bytes of each stored column, including blanks; empty if they were not pure ASCII. Parts
-    // are never empty, so an empty string matches none.
+    // The bytes of each stored column, including spaces; empty if they were not pure ASCII. Parts
+    // are never empty, so an empty string does not match any part.
     std::array<std::string, UsedParts> m_bytes;
     int m_partCount = 0;
 };

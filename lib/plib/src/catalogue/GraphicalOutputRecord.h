@@ -8,19 +8,19 @@ namespace plib {
 /// item of an output tree stores its own copy.
 struct GraphicalOutputRecord
 {
-    int prog1 = 0; ///< the kinds of page for which the plot is offered
+    int prog1 = 0; ///< kinds of pages that offer the plot
     int prog2 = 0;
     int prog3 = 0;
     QString title1; ///< captions of the top level, the second level and the plot
     QString title2;
     QString title3;
-    QString contentTag; ///< required content of the model, see hasContent()
+    QString contentTag; ///< required model content, see hasContent()
     QString id1;        ///< identifiers of the captions, the same in every language
     QString id2;
     QString id3;
     int number7 = 0; ///< unused
     QString caseWord;
-    int ctrl = -1; ///< -1: plot without load cases, -10: bound to load cases, but to no known kind
+    int ctrl = -1; ///< -1: not bound to load cases, -10: bound to load cases of unknown kind
     int rowClass = 0;
     int rowMark = 1; ///< `isLC` of the plot's rows
     int preselect = 0;
@@ -31,7 +31,7 @@ struct GraphicalOutputRecord
     QString scriptEnglish;
 };
 
-/// Values of GraphicalOutputRecord::ctrl that rules depend on.
+/// Values of GraphicalOutputRecord::ctrl on which rules depend.
 constexpr int CtrlStandsAlone = -1;
 constexpr int CtrlDesign = 8;
 

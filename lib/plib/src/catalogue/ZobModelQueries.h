@@ -6,13 +6,13 @@ class VKD_H_PluginParameter;
 
 namespace plib {
 
-/// Answers the queries from the projects of a page: cross sections are read from the second
-/// document if there is one, everything else from the document of the model. Nothing is cached, so
-/// a changed model takes effect at the next call.
+/// Implements the queries with the projects of a page. Cross sections are read from the second
+/// document if there is one, everything else from the model document. Results are not cached, so a
+/// changed model takes effect on the next call.
 class ZobModelQueries : public ModelQueries
 {
 public:
-    /// `parameter` is not owned and outlives this object.
+    /// `parameter` is not owned and must outlive this object.
     explicit ZobModelQueries(const VKD_H_PluginParameter* parameter);
 
     bool has(Content content) const override;

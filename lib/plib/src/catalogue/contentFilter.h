@@ -29,24 +29,25 @@ enum class Content {
     CrossSections
 };
 
-/// The interface through which the filter and the script lines query a model. It keeps both
-/// independent of the store.
+/// The interface through which the content filter and the script lines query a model, so that they
+/// do not depend on the store.
 class ModelQueries
 {
 public:
     virtual ~ModelQueries() = default;
     virtual bool has(Content content) const = 0;
-    /// Returns 0 to 9 for spatial, 10 to 19 for plane, 20 to 29 for slab and 30 to 39 for
-    /// axisymmetric systems.
+    /// Returns 0 to 9 for a spatial system, 10 to 19 for a plane system, 20 to 29 for a slab and 30
+    /// to 39 for an axisymmetric system.
     virtual int kindOfSystem() const = 0;
 };
 
-/// Caches the answers of another model, because each plot of a catalogue makes the same queries.
-/// Use an object for a single pass only: later changes of the model have no effect on it.
+/// Caches the query results of another model, because each plot of a catalogue makes the same
+/// queries. Use an object for only one pass, because later changes to the model have no effect on
+/// it.
 class RememberedAnswers : public ModelQueries
 {
 public:
-    /// `model` is not owned and outlives this object.
+    /// `model` is not owned and must outlive this object.
     explicit RememberedAnswers(const ModelQueries& model)
         : m_model(model)
     {
@@ -61,21 +62,22 @@ private:
     mutable std::optional<int> m_kind;
 };
 
-/// Returns the content for a tag of the catalogue, in upper or lower case; nothing for an unknown
-/// tag, which is no condition.
+/// Returns the content for a tag of the catalogue (case-insensitive), or nothing for an unknown
+/// tag, which does not impose a condition.
 std::optional<Content> contentOf(const QString& tag);
 
-/// Returns whether the model contains the content of the tag; always true for an unknown tag.
+/// Returns whether the model contains the content of the tag. Always returns true for an unknown
+/// tag.
 bool hasContent(const QString& tag, const ModelQueries& model);
 
-/// Returns the bit of a record's `systemMask` for this kind of system: 0 if it matches no mask, 15
-/// if it matches any.
+/// Returns the bits of a record's `systemMask` for this kind of system: 0 if it matches no mask, 15
+/// if it matches every mask.
 int systemBit(int kind);
 
-/// Returns whether a tree of this kind of page offers the plot. This depends on the kinds of page
-/// and of system, on the content of the model and the tags in `additional`, and on the captions,
-/// none of which may be empty. Tags in `additional` are compared case sensitively, unlike those
-/// for the content of the model.
+/// Returns whether a tree on this kind of page offers the plot. The result depends on the kind of
+/// page, the kind of system, the model content, the tags in `additional` and the captions, which
+/// must not be empty. The tags in `additional` are case-sensitive, unlike the tags for the model
+/// content.
 bool isRecordOffered(const GraphicalOutputRecord& record, int progname, const ModelQueries& model,
                      const std::list<QString>& additional);
 

@@ -6,7 +6,7 @@
 namespace plib {
 
 /// Adds an informative text to the message boxes that a widget opens during the lifetime of this
-/// object. It is needed for boxes that are created by a function with a single text parameter.
+/// object. It is required for message boxes created by a function that has only one text parameter.
 class BoxExplanation : public QObject
 {
 public:

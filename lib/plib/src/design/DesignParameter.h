@@ -18,9 +18,9 @@ class TableSelection;
 enum class RowsStep;
 } // namespace plib
 
-/// The implementation of the design parameter page, used by the exported class only. The rows in
-/// `data` are the model: an edit changes a row first, and then the texts of the row are written
-/// into the table. A cell has an editor only while it is the current cell.
+/// The implementation of the design parameter page, which is used only by the exported class. The
+/// rows in `data` are the model: an edit first changes a row, after which the texts of the row are
+/// written to the table. A cell has an editor only while it is the current cell.
 class DesignParameter : public QWidget
 {
     Q_OBJECT
@@ -30,7 +30,8 @@ public:
                     bool flagB);
     ~DesignParameter() override;
 
-    /// Sets the dialog that is closed when the user wants to pick groups in the view; may be null.
+    /// Sets the dialog that is closed when the user wants to pick groups in the 3D view. It may be
+    /// null.
     void setDialog(VKD_QT_Dialog* dialog);
     void init();
     void readZob();
@@ -39,11 +40,11 @@ public:
     void setEntrys(VKD_H_ProjectDialogPage& page);
     bool checkVals();
 
-    // For the children of the page, which add undo and the clipboard.
+    // For the child objects that implement undo and the clipboard.
     plib::DesignParameterData& state() { return *data; }
-    /// Completes the input in an open list of types.
+    /// Commits the selection in an open list of types.
     void finishEditing();
-    /// Replaces `count` rows from `first` on and selects these cells.
+    /// Replaces `count` rows starting at `first` and selects these cells.
     void replaceRows(int first, int count, const std::vector<plib::DesignParameterRow>& by,
                      const plib::TableSelection& selection);
 

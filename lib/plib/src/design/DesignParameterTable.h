@@ -3,7 +3,7 @@
 #include <VKD_H_TableWidget.h>
 
 /// The table of the design parameter page: five columns, one row for each set of parameters. It
-/// shows texts and stores no data; DesignParameter fills it and handles its signals.
+/// only displays text and does not store data. DesignParameter fills it and handles its signals.
 class DesignParameterTable : public VKD_H_TableWidget
 {
     Q_OBJECT
@@ -21,11 +21,11 @@ public:
 
     explicit DesignParameterTable(QWidget* parent);
 
-    /// Set the height of a row, or of all rows, to fit its texts at the current column widths. In a
-    /// very long table all rows keep the height for the longest texts.
+    /// Set the height of one row or of all rows to fit the texts at the current column widths. In a
+    /// very long table, all rows have the height required for the longest texts.
     void fitRow(int row);
     void fitRows();
-    /// Scrolls to a row, even if it was just added.
+    /// Scrolls to a row, even if it has just been added.
     void bringIntoView(int row);
 
 Q_SIGNALS:

@@ -11,9 +11,9 @@ namespace plib {
 
 enum class RowsStep;
 
-/// Copies rows of the design page to the clipboard and pastes them, a child of the page. Rows are
-/// copied as a table for spreadsheets and as records, which lose nothing. A paste is a single step,
-/// and either all of it is possible or nothing is changed.
+/// Copies rows of the design page to the clipboard and pastes them. The object is a child of the
+/// page. Rows are copied as a table for spreadsheets and as records, which preserve all data.
+/// Pasting is a single undo step and either succeeds completely or changes nothing.
 class RowsClipboard : public QObject
 {
     Q_OBJECT

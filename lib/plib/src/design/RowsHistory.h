@@ -16,9 +16,9 @@ namespace plib {
 
 struct RecordedChange;
 
-/// Undo and redo of the design page, a child of it. It has a copy of the rows and finds the change
-/// of a step by comparing them, so that the operations contain no code for undoing them. Recording
-/// takes time for the changed rows only.
+/// Provides undo and redo for the design page, whose child it is. It keeps a copy of the rows and
+/// compares it with the rows to find the change of a step, so that the operations need no code for
+/// undo. Recording takes time only for the changed rows.
 ///
 /// Reading and writing the project start a new history, because writing converts the rows to the
 /// stored form.
@@ -30,7 +30,7 @@ public:
     explicit RowsHistory(DesignParameter* page);
     ~RowsHistory() override;
 
-    /// Forgets all steps.
+    /// Clears the history.
     void restart();
     void record(RowsStep step, const std::set<int>& rows, const TableSelection& selectedBefore);
 
@@ -41,14 +41,15 @@ private:
     void dropOldSteps();
 
     DesignParameter* m_page;
-    DesignRowList m_known; ///< the rows after the last step
+    DesignRowList m_known; ///< rows after the last step
     QUndoStack m_stack;
     QAction* m_undo;
     QAction* m_redo;
 };
 
-/// Records the changes of a step that the user makes, from its construction to its destruction.
-/// `rows` are the numbers of the rows that the step may change, except those that it moves.
+/// Records the changes that the user makes in one step, from construction to destruction of this
+/// object. `rows` contains the indexes of the rows that the step may change, except rows that it
+/// only moves.
 class RecordedStep
 {
 public:

@@ -9,13 +9,13 @@ class QWidget;
 namespace plib {
 
 /// Handles the Delete key in an editor over a table cell. Otherwise the key would trigger the
-/// shortcut of the table, which deletes the row.
+/// table's shortcut, which deletes the row.
 class DeleteKey : public QObject
 {
 public:
     DeleteKey(QObject* parent, std::function<void()> act);
 
-    /// Handles the key in this widget as well.
+    /// Also handles the key in this widget.
     void listenTo(QWidget* widget);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

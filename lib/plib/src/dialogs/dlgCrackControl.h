@@ -7,9 +7,9 @@
 class VKD_QT4_ComboBox;
 class VKD_QT_GroupBox;
 
-/// Edits the permissible crack widths and steel stresses of one row. The lists contain usual
-/// values, but any other value may be typed, and nothing is checked. Only type 3 has a third layer;
-/// for other types writeToRecord() sets its fields to not set.
+/// Edits the permissible crack widths and steel stresses of one row. The lists contain common
+/// values. The user can type any other value; values are not checked. Only type 3 has a third
+/// layer. For other types, writeToRecord() sets the fields of this layer to "not set".
 class dlgCrackControl : public VKD_QT_Dialog
 {
     Q_OBJECT
@@ -18,8 +18,7 @@ public:
     /// Shows the values of the record.
     dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent);
 
-    /// Writes the crack widths and steel stresses into the record and leaves other fields
-    /// unchanged.
+    /// Writes the crack widths and steel stresses to the record and does not change other fields.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
     void accept() override;

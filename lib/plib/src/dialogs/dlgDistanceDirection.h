@@ -9,18 +9,19 @@ class VKD_H_LineEdit;
 class VKD_QT_GroupBox;
 
 /// Edits the position of the reinforcement layers of one row: their directions, their distances
-/// and, for circular reinforcement, the reference point. The type of the record determines the
-/// edits in the dialog; writeToRecord() sets fields without an edit to not set. Nothing is checked.
+/// and, for circular reinforcement, the reference point. The type of the record determines the line
+/// edits in the dialog. writeToRecord() sets fields without a line edit to "not set". Values are
+/// not checked.
 class dlgDistanceDirection : public VKD_QT_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the values of the record, whose distances are in the edited form.
+    /// Shows the values of the record, whose distances must be in the edited form.
     dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* parent);
 
-    /// Writes the directions, distances and reference point into the record and leaves other fields
-    /// unchanged.
+    /// Writes the directions, distances and reference point to the record and does not change other
+    /// fields.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
 private:

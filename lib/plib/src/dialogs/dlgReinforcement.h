@@ -12,19 +12,19 @@ class VKD_H_LineEdit;
 class VKD_QT_GroupBox;
 
 /// Edits the bar diameters and the minimum and maximum reinforcement of one row, with a calculator
-/// for each reinforcement. OK shows an error while a minimum is above its maximum. Only type 3 has
-/// a third layer; for other types writeToRecord() sets its fields to not set.
+/// for each reinforcement field. OK shows an error if a minimum is above its maximum. Only type 3
+/// has a third layer. For other types, writeToRecord() sets the fields of this layer to "not set".
 class dlgReinforcement : public VKD_QT_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the values of the record. The diameters on offer are those of the project at the
+    /// Shows the values of the record. The dialog offers the bar diameters of the project with this
     /// database index.
     dlgReinforcement(int zobIndex, tagZOB_QUAD_RIM* record, QWidget* parent);
 
-    /// Writes the diameters and the minimum and maximum reinforcement into the record and leaves
-    /// other fields unchanged.
+    /// Writes the diameters and the minimum and maximum reinforcement to the record and does not
+    /// change other fields.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
 public Q_SLOTS:
