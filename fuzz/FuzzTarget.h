@@ -7,23 +7,23 @@
 #include <cstdint>
 
 /// Each file in targets/ defines this function, which reads one input and checks properties that
-/// hold for any input. With clang, libFuzzer calls it; otherwise mutationRunner.cpp does.
+/// hold for any input. It is called by libFuzzer with clang, otherwise by mutationRunner.cpp.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size);
 
 namespace fuzz {
 
-/// Ends the process if the condition is false.
+/// Terminates the process if the condition is false.
 void check(bool condition, const char* text);
 #define FUZZ_CHECK(condition) fuzz::check(condition, #condition)
 
-/// Checks the message of a refused input: it is not empty and has one line.
+/// Checks that the message for a refused input is not empty and has one line.
 void checkReason(const QString& reason);
 
 /// Returns the bytes without copying them.
 QByteArray bytesOf(const uint8_t* bytes, size_t size);
 QString textOf(const uint8_t* bytes, size_t size);
 
-/// Writes a file of this name into the temporary folder of the process and returns its path.
+/// Writes a file with this name to the temporary folder of the process and returns its path.
 QString file(const char* name, const QByteArray& bytes);
 
 } // namespace fuzz

@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 namespace {
 constexpr unsigned HangSeconds = 60;
 
-/// Changes a random input of the corpus. The same seed gives the same inputs.
+/// Mutates a random input of the corpus. The same seed results in the same inputs.
 class Mutator
 {
 public:
@@ -61,7 +61,7 @@ private:
     std::mt19937 m_random{1};
 };
 
-/// Passes the input to the target. The file contains the last input when a check fails.
+/// Passes the input to the target. If a check fails, the file contains the input that failed.
 void run(const QByteArray& input, std::FILE* last)
 {
     std::rewind(last);
@@ -70,7 +70,7 @@ void run(const QByteArray& input, std::FILE* last)
     if (ftruncate(fileno(last), input.size()) != 0)
         std::perror("ftruncate");
     alarm(HangSeconds);
-    // A copy on the heap, so that the sanitizers notice a read after its end.
+    // A copy on the heap, so that the sanitizers detect a read beyond its end.
     const std::vector<uint8_t> bytes(input.begin(), input.end());
     LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
 }
@@ -88,8 +88,8 @@ std::vector<QByteArray> readCorpus(const QString& folder)
 }
 } // namespace
 
-/// Arguments: the folder of the corpus and the number of mutations. Without clang's libFuzzer, this
-/// runs a target with the corpus and with inputs that are the same each time.
+/// Runs a target without clang's libFuzzer, using the corpus and reproducible mutations. The
+/// arguments are the corpus folder and the number of mutations.
 int main(int argc, char* argv[])
 {
     LLVMFuzzerInitialize(&argc, &argv);

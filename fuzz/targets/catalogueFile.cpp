@@ -7,7 +7,7 @@
 
 #include <QBuffer>
 
-/// The tree of any catalogue has consistent check marks, and its selection can be restored.
+/// The tree of any catalogue has consistent check states, and its selection can be restored.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     QByteArray catalogue = fuzz::bytesOf(bytes, size);
@@ -17,9 +17,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
     testsupport::build(&root, testsupport::parse(catalogue), rows);
     const QString proposed = testsupport::treeText(&root);
     plib::settleBranch(&root);
-    FUZZ_CHECK(testsupport::treeText(&root) == proposed); // every parent matches its children
+    FUZZ_CHECK(testsupport::treeText(&root) == proposed); // each parent has a matching state
 
-    // Items of the same identifier share a line, so only the second time must be the same.
+    // Items with the same identifier share a line, so the text is stable only from the second time.
     plib::applySelection(&root, plib::selectionText(&root));
     const QString restored = plib::selectionText(&root);
     plib::applySelection(&root, restored);

@@ -5,8 +5,7 @@
 #include <record/designEntries.h>
 #include <record/designRecord.h>
 
-/// A row or a list of numbers that was read from an entry is written and read again without a
-/// change.
+/// A row or a list of numbers that was read from an entry can be written and read back unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QString text = fuzz::textOf(bytes, size);

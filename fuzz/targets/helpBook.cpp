@@ -6,7 +6,8 @@
 #include <QUrl>
 
 namespace {
-/// Creates pages for the topics "one" and "two" of a book and puts it on the search path.
+/// Creates pages for the topics "one" and "two" of a help book and adds the book to the search
+/// path.
 bool makeBook()
 {
     const QDir share = QFileInfo(fuzz::file("share", "")).dir();
@@ -17,8 +18,7 @@ bool makeBook()
 }
 } // namespace
 
-/// The input is the index of a help book. Each topic has a page, which is found by name and by
-/// address.
+/// The input is the index of a help book. Each topic has a page, which is found by name and by URL.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     static const bool isMade = makeBook();

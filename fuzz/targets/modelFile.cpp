@@ -6,7 +6,7 @@
 using namespace vkd::dbo;
 
 namespace {
-/// Returns whether the models have the same number of items in each list that is stored.
+/// Returns whether the models have the same number of items in each stored list.
 bool areAlike(const Model& a, const Model& b)
 {
     const auto sizes = [](const Model& m) {
@@ -23,7 +23,7 @@ bool areAlike(const Model& a, const Model& b)
 }
 } // namespace
 
-/// A model that was read can be stored, and is the same when it is read back.
+/// A model that was read can be stored, and is unchanged when it is read back.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QString path = fuzz::file("model.json", fuzz::bytesOf(bytes, size));

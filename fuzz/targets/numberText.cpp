@@ -21,7 +21,7 @@ void checkNumber(const QString& text, const StructLineEdit& field)
     const QString shown = vkd_h_numberText(read.value, field);
     const VkdNumberReading again = vkd_h_readNumber(shown, field);
     FUZZ_CHECK(again.state == VkdNumberState::Accepted || again.state == VkdNumberState::TooLarge ||
-               again.state == VkdNumberState::TooSmall); // by rounding at a limit
+               again.state == VkdNumberState::TooSmall); // caused by rounding at a limit
     FUZZ_CHECK(!shown.isEmpty() && !shown.contains(QLatin1Char('\n')));
     FUZZ_CHECK(again.state != VkdNumberState::Accepted ||
                vkd_h_numberText(again.value, field) == shown);

@@ -25,7 +25,8 @@ bool isPossible(const OutputSettings& settings)
 }
 } // namespace
 
-/// Any saved string gives settings that a page can show, and each of its parts can be saved again.
+/// Any saved string results in settings that a page can show, and each of its parts can be saved
+/// again.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     using namespace plib::savedtag;

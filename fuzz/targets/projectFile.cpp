@@ -25,7 +25,7 @@ void readAll(int index)
     }
 }
 
-/// A stored record can be read after the project is opened again.
+/// A stored record can be read after the project has been reopened.
 void checkStoring(int* index, const QByteArray& path)
 {
     const int length = 3;

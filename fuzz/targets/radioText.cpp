@@ -2,7 +2,7 @@
 
 #include <radiogroup/radioChoice.h>
 
-/// A button that a text names is the one in its own text.
+/// If a text selects a button, the text that is written for this button selects it again.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const std::optional<int> id = plib::chosenId(fuzz::textOf(bytes, size));

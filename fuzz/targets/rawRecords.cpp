@@ -20,7 +20,7 @@ constexpr KeyPair Pairs[] = {
     keys::Quads,         keys::Design, keys::Bricks,      keys::Camera,      keys::PickedGroups,
     keys::dialogPage(1)};
 
-/// Reads all that programs read from a project, and writes back the design records.
+/// Reads all data that programs read from a project, and writes back the design records.
 void readAll()
 {
     vkd::dbo::readModel(Scratch);
@@ -38,7 +38,8 @@ void readAll()
 }
 } // namespace
 
-/// The input consists of records: the number of the key pair, the length, the bytes.
+/// The input is a sequence of records, each of which consists of a key pair index, a length and the
+/// bytes.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const int none = 0;

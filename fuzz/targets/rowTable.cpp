@@ -4,8 +4,8 @@
 #include <exchange/rowTable.h>
 #include <exchange/separatedText.h>
 
-/// Each fault of a table has one line. Cells that were read are written and read again without a
-/// change.
+/// Each error in a table is described in one line. Cells that were read can be written and read
+/// back unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QString text = fuzz::textOf(bytes, size);

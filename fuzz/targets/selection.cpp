@@ -14,7 +14,8 @@ QByteArray catalogue()
 }
 } // namespace
 
-/// After any text, each parent matches its children, and the tree's own text restores its state.
+/// After any text has been applied, the state of each parent matches its children, and the tree's
+/// own text restores its state.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     static const testsupport::Records records = testsupport::parse(catalogue());

@@ -3,8 +3,8 @@
 #include "cli/CommandLine.h"
 #include "cli/settingsArguments.h"
 
-/// The input has an argument of --set in each line. A refused argument is explained in one line;
-/// the accepted settings are possible on a page.
+/// Each line of the input is an argument for --set. The message for a refused argument has one
+/// line, and accepted settings are possible on a page.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     plib::OutputSettings settings;

@@ -13,8 +13,8 @@ namespace testsupport {
 using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 using Records = std::vector<plib::GraphicalOutputRecord>;
 
-/// While the object exists, the message texts are those of the program "grav", and only the tree's
-/// own share folder is on the search path.
+/// While the object exists, the message texts of the program "grav" are selected, and only the
+/// source tree's own share folder is on the search path.
 class Texts
 {
 public:
@@ -27,15 +27,15 @@ private:
 
 Records parse(const QByteArray& catalogue);
 
-/// Returns a catalogue line with these last columns; titles, words and numbers are as in a file.
+/// Returns a catalogue line with these last columns and with typical values in all other columns.
 QByteArray line(const char* titles, const char* caseWord, int preselect = 0, int viewKind = 0,
                 const char* german = "g", const char* english = "e");
 
 /// Fills an empty tree with the records, all of which are offered.
 void build(plib::OutputNode* root, const Records& records, const Rows& rows);
 
-/// Returns the items below the node with check marks, indented, one line for each, as the command
-/// `tree` prints them. Works for nodes and for items of a widget.
+/// Returns the items below the node as indented lines with check marks, in the format of the
+/// command `tree`. Works for nodes and for tree widget items.
 template <class Node>
 QString treeText(const Node* parent, int depth = 0)
 {

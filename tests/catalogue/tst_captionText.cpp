@@ -5,7 +5,7 @@
 #include <vkd_lib_text.h>
 #include <vkd_lib_value.h>
 
-/// Each text contains its own token, so that a caption shows the tokens that it consists of.
+/// Each text contains its own token, so that a caption shows of which tokens it consists.
 static QByteArray allTokens()
 {
     QByteArray file =
@@ -42,10 +42,10 @@ private Q_SLOTS:
             " Umlaut"); // keys are Latin-1
         row("&GTX", " long>more");
         row("^GTX", " a>b");            // has no short form
-        row("&GT0", " >front");         // a mark at the beginning does not separate
-        row("&BLK", "   ");             // blanks are a valid text
+        row("&GT0", " >front");         // ">" at the beginning is not a separator
+        row("&BLK", "   ");             // spaces are a valid text
         row("&XXX", "");                // a token without a text: empty, not null
-        row("1 A&ABC", "25Ce  Base I"); // two blanks after a text that is put in front
+        row("1 A&ABC", "25Ce  Base I"); // two spaces after a prepended text
         row(" - &ABC", " Base");
         row("1 -&XXX", " I"); // the suffix is added even without a base text
         row("Oh1&ABC", " Base 19Oe 7ZHe");
@@ -69,7 +69,7 @@ private Q_SLOTS:
             QVERIFY(plib::captionText(field).contains(QLatin1String("Grund")));
     }
 
-    /// The text that each qualifier adds at each of the three positions.
+    /// The texts that each qualifier adds at the three positions.
     void qualifiers()
     {
         const testsupport::Texts texts(allTokens());
@@ -96,7 +96,7 @@ private Q_SLOTS:
     {
         for (const char* text : {"&ABC", "@ND1", "1 A&ABC"})
             QVERIFY2(plib::isKeyText(QString::fromLatin1(text)), text);
-        // An "@" only counts at the beginning.
+        // An "@" has a meaning only at the beginning.
         for (const char* text : {"", "&AB", "abc", "1 A&AB", "1 A@ABCD", "plain text"})
             QVERIFY2(!plib::isKeyText(QString::fromLatin1(text)), text);
     }

@@ -83,7 +83,7 @@ private Q_SLOTS:
             for (const auto& finding : plib::lintCatalogue(file, &records))
                 QFAIL(qPrintable(QStringLiteral("%1: %2").arg(finding.line).arg(finding.text)));
             QVERIFY(records.size() >= 90);
-            // The shipped catalogue uses the whole format, so that the program shows the effect of
+            // The shipped catalogue uses the whole format, so that the output shows the effect of
             // every rule.
             QSet<QString> tags;
             QSet<QString> words;

@@ -122,7 +122,7 @@ private Q_SLOTS:
         QVERIFY(plib::loadCatalogue(catalogue, vkd::Language::English, fail));
         QCOMPARE(int(catalogue.list.size()), 1);
         vkd_lib_setvalue(102, 0);
-        // The records of the first language remain on purpose.
+        // The records of the first language are deliberately preserved.
         QVERIFY(plib::loadCatalogue(catalogue, vkd::Language::German, fail));
         QCOMPARE(int(catalogue.list.size()), 2);
         QCOMPARE(catalogue.list[0].title3, QStringLiteral("Base"));

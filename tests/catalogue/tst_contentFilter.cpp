@@ -4,7 +4,7 @@
 
 using plib::Content;
 
-/// A model that has one kind of content only.
+/// A model that has only one kind of content.
 class OneAnswer : public plib::ModelQueries
 {
 public:
@@ -38,7 +38,7 @@ class TestContentFilter : public QObject
 private Q_SLOTS:
     void tags()
     {
-        // In the order of Content.
+        // The bits are in the order of Content.
         const QString tags = QStringLiteral("Node Quad Boun Beam DSLN Trus Sir Gpt Gln Gar Axis "
                                             "Cabl Spri Bric Qten Bten Sect");
         int content = 0;

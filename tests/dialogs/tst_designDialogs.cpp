@@ -25,8 +25,8 @@ using testsupport::find;
 using testsupport::whenModal;
 
 namespace {
-/// Returns a record whose real fields all have different values, with more digits than the edits
-/// show.
+/// Returns a record whose floating-point fields all have different values, with more digits than
+/// the line edits show.
 tagZOB_QUAD_RIM unevenRecord(int type)
 {
     tagZOB_QUAD_RIM record{};
@@ -153,7 +153,7 @@ private Q_SLOTS:
             QStringLiteral("m_p"));
     }
 
-    /// The two headers of the maximum reinforcement differ in their first letter.
+    /// The two labels of the maximum reinforcement differ in their first letter.
     void labelsOfTheLayers()
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }
 
-    /// The fields of the wrong pair are marked, and the first one gets the focus.
+    /// The fields of the wrong pair are marked, and the first field of the pair gets the focus.
     void limitsAreCheckedOneByOne()
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);
@@ -196,11 +196,11 @@ private Q_SLOTS:
         edit("amo")->setVal(0.0001);
         edit("amui")->setVal(0.0001);
         edit("asoi")->setText(QStringLiteral("abc"));
-        pressOk(dialog.get()); // reports the refused text before the pair
+        pressOk(dialog.get()); // the refused text is reported before the pair
         QVERIFY(dialog->isVisible() && edit("asoi")->hasFocus());
         edit("asoi")->setVal(0.0);
         QCOMPARE(refused(), QStringLiteral("aso amo in aso"));
-        edit("amo")->setVal(double(record.aso)); // equal limits are in order
+        edit("amo")->setVal(double(record.aso)); // equal limits are valid
         QCOMPARE(marked(), QStringLiteral(" in aso"));
         QCOMPARE(refused(), QStringLiteral("asui amui in asui"));
         edit("amui")->setVal(double(plib::NotSet));
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QVERIFY(!dialog->isVisible());
     }
 
-    /// Minus 180 degrees is usual around a point.
+    /// Minus 180 degrees is a common value for reinforcement around a point.
     void usualDirections()
     {
         tagZOB_QUAD_RIM record = unevenRecord(4);
@@ -265,7 +265,7 @@ private Q_SLOTS:
         QCOMPARE(width->lineEdit()->text(), QStringLiteral("0.25"));
         QCOMPARE(width->count(), 3);
         auto stress = find<QComboBox>(*dialog, "m_pSIGU");
-        QCOMPARE(stress->lineEdit()->text(), QString()); // not the first entry of the list
+        QCOMPARE(stress->lineEdit()->text(), QString()); // no entry selected
         stress->showPopup();
         QTest::keyClick(stress->view(), Qt::Key_End);
         QTest::keyClick(stress->view(), Qt::Key_Enter);

@@ -4,7 +4,7 @@
 #include <QTimer>
 
 /// Presses OK in each dialog of a program that is started with QT_QPA_GENERIC_PLUGINS=exampleuser,
-/// so that the examples can be tested as they are built.
+/// so that the examples can be tested without changing them.
 class ExampleUserPlugin : public QGenericPlugin
 {
     Q_OBJECT

@@ -3,13 +3,13 @@
 
 #include <QProcess>
 
-/// Runs each example as it is built in a separate process, with a user who presses OK
+/// Runs each unchanged example in a separate process, with a simulated user who presses OK
 /// (ExampleUser).
 class TestExamples : public QObject
 {
     Q_OBJECT
 
-    /// Returns the exit code and the output, separated by a blank.
+    /// Returns the exit code and the output, separated by a space.
     static QString run(const QString& example, const QString& project)
     {
         QProcess process;
@@ -28,12 +28,12 @@ private Q_SLOTS:
     void run_data()
     {
         const Columns<QString, int> row("printed", "designRecords");
-        row("designHost", "0 ", 1); // the page adds a row if there is none
+        row("designHost", "0 ", 1); // the page adds a row to an empty table
         row("outputHost", "\nLC 1 DESI 1\n", 0);
         row("radioHost", "0 1\n2\n3\n4\n5\n6\n7\n", 0);
     }
 
-    /// The name of the data row is that of the example.
+    /// The name of the data row is the name of the example.
     void run()
     {
         const QString example = QLatin1String(QTest::currentDataTag());

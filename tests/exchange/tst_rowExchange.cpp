@@ -10,7 +10,8 @@ using namespace plib;
 using vkd::Language;
 
 namespace {
-/// A row in which every parameter has a value of its own, many of them without a short text.
+/// A row in which every parameter has a different value. Many of the values have no short text
+/// form.
 DesignParameterRow oddRow()
 {
     DesignParameterRow row{nullptr, getDefaultMerPara(true), {3, 4}};
@@ -32,7 +33,8 @@ class TestRowExchange : public QObject
 private Q_SLOTS:
     void init() { vkd::setDesktopLanguage(Language::English); }
 
-    /// A table that was copied in one language is read in the other, and no bit is lost.
+    /// A table that was copied in one language can be read in the other language without losing a
+    /// bit.
     void copiedRowsAreReadBack_data()
     {
         const Columns<int, int, QChar> row("written", "read", "separator");
@@ -57,7 +59,7 @@ private Q_SLOTS:
         for (const auto& copied : {table.rows, rowsOfBytes(bytesOfRows(rows))}) {
             DesignRowList changed(2, {nullptr, getDefaultMerPara(true), {}});
             QCOMPARE(patchRows(copied, 0, &changed), QStringList());
-            changed[0].record.group = rows[0].record.group; // keys of records are not copied
+            changed[0].record.group = rows[0].record.group; // record keys are not copied
             changed[1].record.group = rows[1].record.group;
             changed[0].groups = rows[0].groups;
             QVERIFY(changeBetween(rows, changed).isEmpty());
@@ -127,7 +129,7 @@ private Q_SLOTS:
     {
         const QByteArray bytes = bytesOfRows({oddRow()});
         QCOMPARE(rowsOfBytes(bytes).size(), std::size_t(1));
-        for (int byte : {0, 7 + 4, 7 + 8, 7 + 16, 7 + 23}) { // head, subId, type, mark, a NaN
+        for (int byte : {0, 7 + 4, 7 + 8, 7 + 16, 7 + 23}) { // header, subId, type, mark, a NaN
             QByteArray damaged = bytes;
             damaged.replace(byte == 7 + 23 ? byte - 1 : byte, byte == 7 + 23 ? 2 : 1,
                             byte == 7 + 23 ? "\xC0\x7F" : "\x33");
@@ -136,7 +138,7 @@ private Q_SLOTS:
         QVERIFY(rowsOfBytes(bytes.left(bytes.size() - 1)).empty());
     }
 
-    /// A row is a letter here.
+    /// In this test, each letter represents a row.
     void changes_data()
     {
         const Columns<QString, QString, QString> row("before", "after", "expected");

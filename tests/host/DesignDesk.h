@@ -8,22 +8,22 @@
 #include <QComboBox>
 #include <QTableWidget>
 
-/// The design page in a dialog of a host, and functions that use its widgets as a user does.
+/// The design page in a host's dialog, with functions that use its widgets like a user.
 class DesignDesk : public VKD_QT_Dialog
 {
 public:
     explicit DesignDesk(HostProject& project);
-    /// Stores these records in the project and reads them into the page.
+    /// Stores these records in the project and loads them into the page.
     DesignDesk(HostProject& project, const std::vector<tagZOB_QUAD_RIM>& records);
 
     QTableWidget* table() const { return findChild<QTableWidget*>(QStringLiteral("table")); }
-    /// Returns the combo box of the group editor; null if none is open.
+    /// Returns the combo box of the group editor, or null if no editor is open.
     QComboBox* groupCombo() const;
-    /// Returns the texts of a row, joined by "|", with "/" for a line break.
+    /// Returns the texts of a row, joined by "|", with "/" for a newline.
     QString row(int number) const;
     /// Returns the texts of the groups column, joined by "|".
     QString groups() const;
-    /// Returns the cells that contain widgets, as "row,column" joined by blanks.
+    /// Returns the cells that contain widgets, as "row,column" joined by spaces.
     QString editors() const;
     void press(const char* button);
     /// Sends arrow keys and command keys to the table.

@@ -6,11 +6,11 @@
 
 #include <vector>
 
-/// An open project of a host, in a temporary folder.
+/// A host's open project in a temporary folder.
 class HostProject
 {
 public:
-    /// Creates the project from the sample model of this name, or without a model if the name is
+    /// Creates the project from the sample model with this name, or without a model if the name is
     /// empty.
     explicit HostProject(const QString& model);
 

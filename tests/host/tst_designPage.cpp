@@ -32,7 +32,7 @@ QByteArray bytesOf(const std::vector<tagZOB_QUAD_RIM>& records)
             int(records.size() * sizeof records.front())};
 }
 
-/// Types a text into the next group dialog and presses OK.
+/// Enters a text in the next group dialog and presses OK.
 void confirmGroups(const QString& typed)
 {
     whenModal([typed](QWidget* dialog) {
@@ -43,7 +43,7 @@ void confirmGroups(const QString& typed)
     });
 }
 
-/// Returns the entries; a star marks the current one.
+/// Returns the entries, with a star before the current entry.
 QString entriesOf(const QComboBox* combo)
 {
     QStringList texts;
@@ -142,8 +142,8 @@ private Q_SLOTS:
         QTest::keyClick(desk.table(), Qt::Key_Escape);
         QCOMPARE(desk.editors(), QString());
         QCOMPARE(select(3, 2), QStringLiteral("3,2"));
-        // A row without design has no editor. The old editor is closed, but its cell is remembered:
-        // returning to it counts as a second selection.
+        // A row without design has no editor. The old editor is closed, but its cell is stored:
+        // returning to this cell counts as a second selection.
         QCOMPARE(select(2, 2), QString());
         QCOMPARE(select(3, 2), QString());
         QCOMPARE(again(), QStringLiteral("3,2"));
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(desk.editors(), QString());
     }
 
-    /// Sends clicks to the window, like the window system.
+    /// Sends clicks to the window, as the window system does.
     void editorAwayFromTheCurrentCell()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
@@ -188,8 +188,8 @@ private Q_SLOTS:
         row("distances of a plane system, which it will lose", 10, 2, "hiuq", "not used");
     }
 
-    /// A row is added while the dialog is open, which moves the rows in memory. OK must still
-    /// change the right one.
+    /// While the dialog is open, a row is added, which moves the rows in memory. OK must still
+    /// change the correct row.
     void recordDialogsWriteOnOkAlone()
     {
         QFETCH(int, kind);
@@ -257,15 +257,15 @@ private Q_SLOTS:
         QCOMPARE(desk.editors(), QString());
         desk.press("btnNew");
         QCOMPARE(desk.row(3), QStringLiteral("None|No design|||"));
-        for (int row = 0; row < 4; ++row) // no text is cut off
+        for (int row = 0; row < 4; ++row) // no text is truncated
             QVERIFY(table->rowHeight(row) >=
                     table->sizeHintForIndex(table->model()->index(row, 2)).height());
         desk.page->writeToZob();
         QCOMPARE(m_project->records().size(), std::size_t(3));
     }
 
-    /// Undo and redo restore the rows and the selection of each step exactly as
-    /// they were; the records show that no bit is lost.
+    /// Undo and redo exactly restore the rows and the selection of each step. The test compares
+    /// records, to check that no bit is lost.
     void undoingEachStep()
     {
         const std::vector records{record(-1, 1, 0), record(1, 1, 1), record(2, 2, 2)};
@@ -326,7 +326,7 @@ private Q_SLOTS:
             table->setCurrentCell(0, 0);
             after << state();
         }
-        QApplication::setActiveWindow(&desk); // which the dialogs left inactive
+        QApplication::setActiveWindow(&desk); // because the dialogs have deactivated it
         table->setFocus();
         for (int round : {0, 1}) {
             for (int i = before.size() - 1; i >= 0; --i) {
@@ -347,7 +347,8 @@ private Q_SLOTS:
         QVERIFY(bytesOf(m_project->records()) == stored);
     }
 
-    /// Pasting sets parameters and leaves groups, completely or not at all, in a single step.
+    /// Pasting sets parameters and preserves groups. It is a single step, which is performed
+    /// completely or not at all.
     void copyingRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 4), record(2, 4, 0)});
@@ -398,7 +399,7 @@ private Q_SLOTS:
         QCOMPARE(told.first(), QStringLiteral("Row 2, Type: \"7\" is not a type."));
     }
 
-    /// With Ctrl, clicks add cells to the selection, also where an editor opens.
+    /// Clicks with Ctrl add cells to the selection, even cells in which a click opens an editor.
     void selectingSeveralRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
@@ -465,8 +466,8 @@ private Q_SLOTS:
         QApplication::activeWindow()->close();
     }
 
-    /// A row loses its mark with its last shared group. Delete clears the selected entry, also in
-    /// the open list and on the buttons, and does not delete the row.
+    /// A row loses its mark when it loses its last shared group. Delete clears the selected entry,
+    /// also in the open list and on the buttons, but does not delete the row.
     void groupInTwoRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2),
@@ -484,7 +485,7 @@ private Q_SLOTS:
         QCOMPARE(notes(), QStringLiteral("|4, 5||2, 5|2, 4"));
         desk.table()->setCurrentCell(1, 0);
         QCOMPARE(desk.groupCombo()->toolTip(), QStringLiteral("Group 3: also in row 4, 5"));
-        // The editor covers the cell, so it shows the mark itself.
+        // The editor covers the cell, so the editor itself shows the mark.
         QCOMPARE(desk.groupCombo()->parentWidget()->geometry(),
                  desk.table()->visualItemRect(desk.table()->item(1, 0)));
         desk.press("btnDown");
@@ -505,7 +506,8 @@ private Q_SLOTS:
         QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups|1|None|None|None"));
     }
 
-    /// An entry chosen in the list of types is in the cell at once, without another key.
+    /// An entry chosen in the list of types appears in the cell immediately, without another key
+    /// press.
     void openListOfTypes_data()
     {
         const Columns<bool> row("isDeleting");
@@ -534,7 +536,7 @@ private Q_SLOTS:
         QVERIFY(m_project->records().back().type != 0);
     }
 
-    /// A host may close the project, and so delete the page, while a dialog is open.
+    /// While a dialog is open, a host may close the project and thus delete the page.
     void pageIsDestroyedDuringItsDialogs()
     {
         for (int column : {0, 1, 2}) {

@@ -22,7 +22,7 @@ QString commands(QSignalSpy& spy)
     return numbers.join(QLatin1Char(' '));
 }
 
-/// Returns the rows of the first plot that binds to load cases.
+/// Returns the rows of the first plot that is bound to load cases.
 QString rowsOfFirstPlot(Desk& desk)
 {
     QStringList texts;
@@ -34,8 +34,8 @@ QString rowsOfFirstPlot(Desk& desk)
 }
 } // namespace
 
-/// Tests the objects that a host binds to an output page: tables of load cases, switches of content
-/// tags, an animator.
+/// Tests the objects that a host binds to an output page: load case tables, radio groups for
+/// content tags, and an animator.
 class tst_outputBindings : public QObject
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ private Q_SLOTS:
         table.setHorizontalHeaderItem(2,
                                       new VKD_H_TwHeaderItem(2, text, text, true, Qt::AlignLeft));
         VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
-        binding.reset(); // no effect before binding
+        binding.reset(); // has no effect before binding
         binding.setWidgets(&desk.page, &table, 0, 1, 2);
         QSignalSpy rebuilt(desk.tree()->model(), &QAbstractItemModel::modelReset);
         const auto rows = [&desk] { return rowsOfFirstPlot(desk); };
@@ -89,7 +89,8 @@ private Q_SLOTS:
     {
         Desk desk(m_project);
         VKD_H_TableWidget table(0, 1);
-        // The first two are equal after truncation, so the later one counts; two are out of range.
+        // The first two numbers are equal after truncation, so the second is used. Two numbers are
+        // out of range.
         for (double number : {3.2, 3.9, 3e9, -3e9, 123456789.0, -0.5, -1.5}) {
             table.addNewRow(false);
             auto item =
@@ -120,13 +121,13 @@ private Q_SLOTS:
         QSignalSpy filled(desk.tree()->model(), &QAbstractItemModel::modelReset);
         group.getRadioButton(1)->click(); // adds the tag again
         QVERIFY(filled.size() > 0);
-        group.getRadioButton(0)->click(); // removes all of them
+        group.getRadioButton(0)->click(); // removes all tags
         QCOMPARE(plots(), before);
         {
             Desk gone(m_project);
             binding.setWidget(&gone.page, &group, QStringLiteral("Bric"), 1);
         }
-        binding.clicked(1); // of a page that no longer exists
+        binding.clicked(1); // the page no longer exists
     }
 
     void viewsAndTheAnimator()
@@ -179,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(sent.size(), 0);
         for (int times = 0; times < 2; ++times) {
             Q_EMIT dialog.currentChanged(container);
-            QCOMPARE(sent.size(), times); // posted, and only once
+            QCOMPARE(sent.size(), times); // posted only once
             QCoreApplication::processEvents();
             QCOMPARE(sent.size(), 1);
         }

@@ -39,7 +39,7 @@ private Q_SLOTS:
         QCOMPARE(size(), two.arg(QLatin1String("50*1.e+10")));
         desk.choose("PicturesGroup", 0);
         QCOMPARE(size(), one);
-        desk.choose("FormatGroup", 0); // already chosen, but still sets two pictures
+        desk.choose("FormatGroup", 0); // already checked, but still sets two pictures
         QCOMPARE(size(), two.arg(QLatin1String("50*1.e+10")));
         desk.choose("FormatGroup", 1);
         QCOMPARE(size(), QString(one).remove(QLatin1Char('-')));
@@ -48,7 +48,7 @@ private Q_SLOTS:
         font->selectAll();
         QTest::keyClicks(font, QStringLiteral("3,5"));
         QTest::keyClick(font, Qt::Key_Enter);
-        QTest::keyClicks(font, QStringLiteral("x")); // refused, so not in the script
+        QTest::keyClicks(font, QStringLiteral("x")); // refused, so the script does not contain it
         QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("SCHH H6 0.35"));
         desk.find<QCheckBox>("Check: Filled Isolines")->click();
         QVERIFY(desk.page.getTORVAL(true).contains(QLatin1String("\n#define FILL=VERT\n")));
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(!empty.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
     }
 
-    /// Names that share one buffer in memory are still two rows.
+    /// Names that share one memory buffer still form two rows.
     void rowsOfOneBuffer()
     {
         const QString both = QStringLiteral("1 : Snow on the roof");

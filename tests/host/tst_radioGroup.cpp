@@ -23,7 +23,8 @@ void build(Group& group, Form form, QWidget* parent, const std::list<Group::Butt
     }
 }
 
-/// A host's dialog with a group, a widget to couple with it, and a log of the group's signals.
+/// A host's dialog with a radio group, a widget to couple with the group, and a log of the group's
+/// signals.
 class Desk
 {
 public:
@@ -64,7 +65,7 @@ public:
     {
         return qobject_cast<QRadioButton*>(group->layout()->itemAt(at)->widget());
     }
-    /// Returns the signals since the last call.
+    /// Returns the signals emitted since the last call.
     QString signalsSent()
     {
         const QString sent = log.join(QLatin1Char(' '));
@@ -143,7 +144,7 @@ private Q_SLOTS:
         row("m_All, echo", Form::Echo, 1, 2, "", "");
     }
 
-    /// Each row's name begins with the name of the button in the saved text.
+    /// The name of each data row begins with the name of the button in the saved text.
     void clicks()
     {
         QFETCH(const Form, form);
@@ -234,7 +235,7 @@ private Q_SLOTS:
         Group left, placed;
         {
             QWidget parent, other;
-            left.initForLF(&parent, EachId); // the row is in no layout
+            left.initForLF(&parent, EachId); // the row is not in a layout
             left.useWidget(&parent);
             placed.init(&other);
             other.setLayout(placed.layout());
@@ -264,7 +265,7 @@ private Q_SLOTS:
             desk.group->useWidget(desk.plain);
             desk.button(0)->click();
             QRadioButton* fire = desk.button(2);
-            int left = run / 2; // signals until the group is destroyed
+            int left = run / 2; // number of signals until the group is destroyed
             const auto end = [&] {
                 if (left-- == 0)
                     desk.group.reset();

@@ -93,8 +93,8 @@ private Q_SLOTS:
         QCOMPARE(missing.join('\n'), QByteArray());
     }
 
-    /// The page recognises an entry of the group editor (dlgSelection) by its text in the context
-    /// of the page, which is also the context of the text in the table.
+    /// The page identifies an entry of the group editor (dlgSelection) by its text, translated in
+    /// the context of the page. The text in the table is translated in the same context.
     void wordsAreComparedInOneWay()
     {
         for (const char* source : {"None", "Remaining Groups"}) {

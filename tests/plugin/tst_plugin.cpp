@@ -76,7 +76,7 @@ private Q_SLOTS:
                  QStringLiteral("Grafische Ausgabe\nGraphical Output\nGrafische Ausgabe"));
     }
 
-    /// Only the resources count, not files that happen to be on the disk.
+    /// Only resources count, not files that happen to exist on disk.
     void languageForm()
     {
         const QTemporaryDir folder;
@@ -107,7 +107,7 @@ int selfCheckHost(QApplication& application)
 {
     const QStringList arguments = application.arguments();
     if (arguments[1].endsWith(QLatin1String("without-cache")))
-        QPixmapCache::setCacheLimit(0); // pixmaps of a file now differ, so the check must fail
+        QPixmapCache::setCacheLimit(0); // makes pixmaps of a file differ: the check must fail
     vkd_lib_setvalue(LanguageKey, arguments[2].toInt());
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
         if (qstrcmp(context.category, "vkd.selfcheck") == 0)

@@ -22,7 +22,7 @@ static QString summary(const tagZOB_QUAD_RIM& r)
 static plib::DesignParameterRow rowOf(int type, std::vector<int> groups)
 {
     plib::DesignParameterRow row;
-    row.record = plib::getDefaultMerPara(true); // in the stored form, as after the store's writer
+    row.record = plib::getDefaultMerPara(true); // in the stored form, as after writing to the store
     row.record.type = type;
     row.groups = std::move(groups);
     return row;
@@ -76,8 +76,8 @@ private Q_SLOTS:
         QCOMPARE(row.record.rioq, 1.5708F);
         QCOMPARE(row.record.sigo, 0.0F);
         QCOMPARE(row.record.sigoq, 240.0F);
-        // The values are not -99999.0: the format does not contain them, and the reader adds no
-        // defaults.
+        // The values are not -99999.0, because the format does not contain them and the reader adds
+        // no default values.
         for (float lost : {row.record.aso, row.record.asui, row.record.amo, row.record.reservedD,
                            row.record.reservedS, row.record.reservedM})
             QCOMPARE(lost, 0.0F);

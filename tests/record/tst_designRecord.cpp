@@ -86,7 +86,7 @@ private Q_SLOTS:
         QFETCH(Triple, stored);
         QFETCH(Triple, edited);
         QFETCH(Triple, storedAgain);
-        QVERIFY(0.045F - 0.035F != 0.01F); // the default spacing is exactly this number
+        QVERIFY(0.045F - 0.035F != 0.01F); // the default spacing must be exactly this number
         R record{};
         const auto triples = [&record] {
             return std::make_pair(Triple{record.hio, record.hioq, record.hioi},
@@ -113,7 +113,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The results of cleaning these values in each field.
+    /// The results of cleaning these values in every field.
     void cleaning()
     {
         const float values[] = {0.0F, -0.0F, -1e-30F, AlsoUnset, 0.5F, NAN, INFINITY};

@@ -35,7 +35,7 @@ static QString text(const plib::DesignParameterData& data)
 
 using Records = QVector<QPair<int, float>>;
 
-/// Tests records in a project file that are read as rows and written back.
+/// Tests reading the records of a project file as rows and writing them back.
 class TestDesignStore : public QObject
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(rows.rows[0].record.hioq, 0.045F - 0.035F);
         const int none = 0;
         vkd_zob_put(m_project->index(), 200, 6, nullptr, &none, 0);
-        plib::checkAndCreateZobDefault(m_project->index()); // it was emptied
+        plib::checkAndCreateZobDefault(m_project->index()); // creates a record in the empty project
         QCOMPARE(text(read()), QStringLiteral("-1:0"));
     }
 
@@ -89,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(text(read()), rows);
         auto twice = read();
         const size_t count = twice.rows.size();
-        plib::readRowsFromZob(twice); // appends and removes nothing
+        plib::readRowsFromZob(twice); // appends the rows without removing rows
         QCOMPARE(twice.rows.size(), 2 * count);
     }
 
@@ -98,12 +98,12 @@ private Q_SLOTS:
         R first = record(1, 1);
         first.wko = 0.3F;
         put(first);
-        put(record(2, 2), 60);  // ends behind hio
-        put(record(3, 3), 216); // is cut off
+        put(record(2, 2), 60);  // ends after hio
+        put(record(3, 3), 216); // is truncated
         auto rows = read();
         QCOMPARE(text(rows), QStringLiteral("1:1 2:2 3:3"));
         QCOMPARE(rows.rows[1].record.wko, 0.3F);
-        // The bytes of the previous record remain: its spacing, which is converted once more.
+        // The spacing bytes of the previous record are preserved and converted once more.
         QCOMPARE(rows.rows[1].record.hioq, -99999.0F);
         QCOMPARE(rows.rows[2].record.hioq, 0.045F - 0.035F);
     }
@@ -154,7 +154,8 @@ private Q_SLOTS:
         QCOMPARE(read().rows[0].record.hioq, 0.045F - 0.035F);
     }
 
-    /// A reader sees all rows of a writer or none: the project is taken once for all puts.
+    /// A reader sees either all rows of a writer or no row, because the project is locked once for
+    /// all writes.
     void writingTakesTheProject()
     {
         put(record(1, 1));
@@ -179,7 +180,7 @@ private Q_SLOTS:
         put(foreign);
         auto rows = read();
         write(rows);
-        QCOMPARE(stored(), QStringLiteral("1:1")); // the other record is removed on purpose
+        QCOMPARE(stored(), QStringLiteral("1:1")); // the other record is deliberately removed
         QCOMPARE(stored(0, 0, 12979), QStringLiteral("8:8"));
         write(rows);
         QCOMPARE(stored(0, 0, 12979), QString());
@@ -197,7 +198,7 @@ private Q_SLOTS:
     void newRows()
     {
         auto rows = data();
-        for (int kind : {0, 12, -99999}) { // the last one means that the kind is not known yet
+        for (int kind : {0, 12, -99999}) { // the last value means that the kind is not known yet
             rows.kindOfSystem = kind;
             plib::addDefaultRow(rows);
         }
@@ -238,7 +239,7 @@ private:
         plib::writeRowsToZob(rows, converted);
     }
 
-    /// Returns the records of a key pair, by default the design records.
+    /// Returns the records stored under a key pair, by default the design records.
     QString stored() { return stored(m_project->index(), 200, 6); }
     QString stored(int index, int key1, int key2)
     {

@@ -40,7 +40,7 @@ private Q_SLOTS:
         QTEST(plib::rowText(row, 0), "expected");
     }
 
-    /// Tests the texts of rows with groups, with ", " instead of line feeds.
+    /// Tests the texts of rows with groups, with ", " instead of newlines.
     void sharedGroups()
     {
         const auto told = [](const QString& text) {
@@ -113,7 +113,7 @@ private Q_SLOTS:
         plib::DesignParameterRow row;
         row.barData = &bars;
         row.record.type = type;
-        // Each field has a different value, so that a wrong field is noticed.
+        // Each field has a different value, so that a wrong field is detected.
         float value = 0;
         for (const plib::NamedField& field : plib::namedFields()) {
             if (!field.real)
@@ -139,7 +139,7 @@ private Q_SLOTS:
         plib::DesignParameterRow row{&bars, plib::getDefaultMerPara(true), {}};
         row.record.rio = -99999.0F;
         row.record.riu = -0.0001F;
-        row.record.dio = 11.5F; // not in the table of bars
+        row.record.dio = 11.5F; // is not in the bar table
         row.record.diu = -99999.0F;
         QCOMPARE(plib::rowText(row, 2),
                  QStringLiteral(" -  ;0,0°\n35,0 mm ;35,0 mm ;45,0 mm ;45,0 mm ;"));

@@ -129,7 +129,7 @@ private Q_SLOTS:
             {"1+:", -1},
             {"1+x:", -1},
             {"1+-5:", -5},
-            {"1e+06 : x", 6}, // the label of a million
+            {"1e+06 : x", 6}, // the label of row 1000000
             {"+7", 7},
         };
         for (const auto& [label, number] : labels)

@@ -67,7 +67,7 @@ private Q_SLOTS:
                          .arg(item->isLC)
                          .arg(item->number)
                          .arg(item->record.scriptEnglish);
-        // The rows have the record of the plot, not that of the next line.
+        // The rows have the record of the plot, not the record of the next line.
         QCOMPARE(items, QStringLiteral("level 0, isLC -1, number 0, e1\n"
                                        "level 2, isLC -1, number 0, e1\n"
                                        "level 3, isLC 3, number 9, e1\n"

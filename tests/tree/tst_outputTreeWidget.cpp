@@ -26,8 +26,8 @@ using Tree = GraphicalOutputTreeWidget;
 namespace {
 constexpr int StandardPage = 1;
 
-/// Prevents all files from being opened, even for a privileged user, until a text is translated:
-/// then the failure is being reported, and message boxes and sanitizers need files.
+/// Prevents all files from being opened, even by a privileged user, until a text is translated. At
+/// this point the failure is being reported, and message boxes and sanitizers need files.
 class NoMoreFiles : public QTranslator
 {
 public:
@@ -94,7 +94,8 @@ private Q_SLOTS:
         plib::sharedCatalogue() = {};
     }
 
-    /// In both languages of the desktop, which determine the icons of the rows.
+    /// The test runs in both desktop languages, because the language determines the icons of the
+    /// rows.
     void shippedCatalogue()
     {
         useBuilding();
@@ -164,8 +165,8 @@ private Q_SLOTS:
         QCOMPARE(treeText(tree.invisibleRootItem()), states);
     }
 
-    /// The user's choice is replaced by the default until a choice was applied, and when the rows
-    /// change.
+    /// The user's choice is replaced with the default choice until a choice has been applied, and
+    /// whenever the rows change.
     void choiceAfterARebuild()
     {
         useCatalogue(line("A|B|C", "last-l", 1) + line("A|B|D", " ").replace("| |0|", "|Quad|0|"));
@@ -191,7 +192,7 @@ private Q_SLOTS:
         filled.clear();
         for (int i = 0; i < 2; ++i)
             tree.additionalData(QStringLiteral("Quad"), true);
-        QCOMPARE(states(), QStringLiteral("xxxxxx")); // its plot takes the state of the caption
+        QCOMPARE(states(), QStringLiteral("xxxxxx")); // its plot is set to the state of the caption
         tree.additionalData(QStringLiteral("quad"), false);
         QCOMPARE(tree.topLevelItem(0)->child(0)->childCount(), 2);
         tree.additionalData(QStringLiteral("Quad"), false); // removes both additions
@@ -231,7 +232,7 @@ private Q_SLOTS:
         useCatalogue(line);
         Tree tree(nullptr, StandardPage, m_parameter.get(), "m_list");
         tree.setUsedNumbersAndNames(testsupport::rows(rowCount));
-        tree.applySelection(QStringLiteral("Checked:x")); // replaces the looks of the rows
+        tree.applySelection(QStringLiteral("Checked:x")); // replaces the appearance of the rows
         QStringList shown;
         for (QTreeWidgetItemIterator it(&tree); *it; ++it)
             shown << roles(*it);

@@ -6,8 +6,8 @@
 using plib::OutputNode;
 using testsupport::line;
 
-/// Returns a tree of two plots with identifiers and three rows each, and two plots with plain
-/// captions.
+/// Returns a tree with two plots that have identifiers and three rows each, and two plots with
+/// plain captions.
 static QByteArray catalogue()
 {
     return line("@A__ A|@B__ B|@C__ C", "last-l") + line("@A__ A|@B__ B|@D__ D", "last-l") +
@@ -19,7 +19,7 @@ static void makeTree(OutputNode* root)
     testsupport::build(root, testsupport::parse(catalogue()), testsupport::rows(3));
 }
 
-/// Returns the states of all items from top to bottom as one word.
+/// Returns the states of all items as one word, from top to bottom.
 static QString states(const OutputNode* parent)
 {
     QString word;
@@ -57,7 +57,7 @@ private Q_SLOTS:
         OutputNode fresh;
         makeTree(&fresh);
         plib::applySelection(&fresh, text);
-        // Plain captions share an identifier, so the last line applies to the last plot only.
+        // Plain captions share an identifier, so the last line applies only to the last plot.
         QCOMPARE(states(&fresh), states(&root));
         QCOMPARE(plib::selectionText(&fresh), text);
     }

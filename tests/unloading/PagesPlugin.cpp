@@ -1,5 +1,5 @@
-// A plug-in of a desktop: it uses all parts of the library, so that unloadingHost.cpp can unload
-// it.
+// A desktop's plug-in that uses all parts of the library, so that unloadingHost.cpp can unload the
+// library.
 
 #include <VKD_H_Dialog.h>
 #include <VKD_H_PluginParameter.h>
@@ -19,7 +19,7 @@
 #include <memory>
 
 namespace {
-/// Documents that are not closed before this library is destroyed or the process ends.
+/// Documents that are not closed before this plug-in is unloaded or the process ends.
 QTemporaryDir folder;
 std::unique_ptr<VKD_H_ZOBDoc> keptDocument;
 
@@ -79,7 +79,7 @@ QStringList showRadioGroup()
     return paint(window) << group.writeXML();
 }
 
-/// The help stays open, because its host is not a window of this library.
+/// The help stays open, because its host window does not belong to this plug-in.
 QStringList showHelp()
 {
     const bool shown = VKD_T_Help::show(nullptr, "MERDAN", "PARA");
@@ -99,7 +99,7 @@ QStringList checkItself()
 }
 } // namespace
 
-/// Shows or does one thing and passes its texts to the host; no text means a failure.
+/// Performs one action and passes its texts to the host. An empty list indicates a failure.
 extern "C" Q_DECL_EXPORT void show(const char* what, QStringList* texts)
 {
     const std::pair<const char*, QStringList (*)()> all[] = {

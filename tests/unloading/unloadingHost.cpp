@@ -1,6 +1,6 @@
 // A desktop that uses the library only through a plug-in, which it unloads and loads again:
 // unloadingHost PLUGIN WHAT. It links only Qt, so that it does not keep other libraries loaded. A
-// crash is a failure, even at the end of the process.
+// crash counts as a failure, even when the process ends.
 
 #include <QApplication>
 #include <QFile>
@@ -36,8 +36,8 @@ QString mapped()
     return names.join(QLatin1Char(' '));
 }
 
-/// Does what Qt may do with objects that it received: it paints icons, translates texts, sends
-/// events, and creates and destroys values of all types.
+/// Uses the received objects in the ways in which Qt may use them: paints icons, translates texts,
+/// sends events, and creates and destroys values of all types.
 void useApplication()
 {
     QTreeWidget tree;
@@ -65,7 +65,7 @@ void call(QLibrary& library, const char* function, const QByteArray& what, Resul
 QStringList showAndUnload(const QString& path, const QByteArray& what)
 {
     QLibrary library(path);
-    library.setLoadHints({}); // in particular not QLibrary::PreventUnloadHint
+    library.setLoadHints({}); // clears QLibrary::PreventUnloadHint
     require(library.load(), library.errorString());
     QStringList texts;
     call(library, "show", what, &texts);
@@ -77,8 +77,8 @@ QStringList showAndUnload(const QString& path, const QByteArray& what)
     return texts;
 }
 
-/// Leaves documents open at the end of the process, with the plug-in loaded: one of the host, in an
-/// object older than all objects of the plug-in, and one of the plug-in.
+/// Leaves two documents open when the process ends with the plug-in loaded: a document of the host,
+/// held by an object that is older than all objects of the plug-in, and a document of the plug-in.
 void keepDocuments(const QString& path)
 {
     QLibrary library(path);

@@ -16,7 +16,7 @@ class TestBarDiameterCombo : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Tests that the combo box offers the bars of a project and not the common ones.
+    /// Tests that the combo box offers the bars of a project and not the standard bars.
     void init()
     {
         setLanguage(English);
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(box.setCurrent(20.0F));
         QCOMPARE(box.count(), 4);
         QCOMPARE(changed.count(), 0);
-        QTest::keyClick(&box, Qt::Key_Up); // a choice by the user
+        QTest::keyClick(&box, Qt::Key_Up); // the user selects an entry
         QCOMPARE(box.getCurrent(), 16.0F);
         QCOMPARE(changed.count(), 1);
     }

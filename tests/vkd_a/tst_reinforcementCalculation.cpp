@@ -21,7 +21,7 @@ using namespace testsupport;
 
 namespace {
 constexpr float NotSet = -99999.0F;
-constexpr int CommonBars = 0; // the scratch store, which has no bars of its own
+constexpr int CommonBars = 0; // the scratch store, which does not contain bars
 
 /// The parts of the dialog.
 struct Parts
@@ -111,7 +111,7 @@ private Q_SLOTS:
 
     void begins_data()
     {
-        // begin: diameter, spacing, number, row, column, present value
+        // begin: diameter, spacing, number, row, column, current value
         const Columns<float, float, QString> row("value", "barDiameter", "begin");
         const float nan = float(qQNaN());
         const QString usual = QStringLiteral("Ø10 150.0 6.67 2 4 not set");
@@ -151,7 +151,7 @@ private Q_SLOTS:
             QCOMPARE(parts.text("area"), QStringLiteral("9.05 cm²/m"));
             parts.type(parts.number, "5");
             QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
-            QTest::keyClick(parts.arrangement, Qt::Key_Down); // pairs: the spacing stays
+            QTest::keyClick(parts.arrangement, Qt::Key_Down); // pairs preserve the spacing
             QCOMPARE(parts.number->text(), QStringLiteral("10"));
             QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
             parts.type(parts.number, "8");
@@ -169,7 +169,7 @@ private Q_SLOTS:
         const float value = calculate(5.0F, 10.0F, [](const Parts& parts) {
             for (const char* text : {"0", "", "9.9", "1.2.3", "-5", "."}) {
                 parts.type(parts.spacing, "150");
-                QTest::keyClick(parts.spacing, Qt::Key_Tab); // restored by each refused text
+                QTest::keyClick(parts.spacing, Qt::Key_Tab); // each refused text restores the value
                 QVERIFY(parts.ok()->isEnabled());
                 QCOMPARE(parts.text("note"), QString());
                 parts.type(parts.spacing, text);
@@ -178,7 +178,7 @@ private Q_SLOTS:
                 QTest::keyClick(parts.spacing, Qt::Key_Return);
                 QVERIFY2(parts.window->isVisible(), text);
             }
-            parts.type(parts.number, "40"); // possible, but tight
+            parts.type(parts.number, "40"); // possible, but the bars are close together
             QVERIFY(parts.ok()->isEnabled());
             QVERIFY(parts.text("note").contains(QLatin1String("15 mm is below 21 mm")));
             QTest::mouseClick(parts.ok(), Qt::LeftButton);
@@ -223,7 +223,7 @@ private Q_SLOTS:
         QTEST(result, "result");
     }
 
-    /// Compared with calculations by hand from Table 3.1 and the equations of EN 1992-1-1.
+    /// The expected values were calculated by hand from Table 3.1 and the equations of EN 1992-1-1.
     void minimumOfASlab_data()
     {
         const Columns<QByteArray, QByteArray, bool, QByteArray, float> row(
@@ -258,7 +258,7 @@ private Q_SLOTS:
     {
         const float value = calculate(NotSet, 12.7F, [](const Parts& parts) {
             QCOMPARE(parts.table->item(1, 6)->text(), QStringLiteral("2.51"));
-            parts.click(3, 4); // the marked cell, the nearest to 12.7/150
+            parts.click(3, 4); // the marked cell, which is nearest to 12.7/150
             QCOMPARE(parts.diameter->getCurrent(), 12.0F);
             parts.click(1, 6);
             QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));

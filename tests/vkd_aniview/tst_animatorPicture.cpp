@@ -11,7 +11,7 @@ using namespace vkd::dbo;
 namespace {
 constexpr QSize Size(400, 300);
 
-/// Returns the length of the drawing in the middle row or column, in dots.
+/// Returns the length of the drawing in the middle row or column, in device pixels.
 int drawn(const QImage& image, bool isRow)
 {
     QVector<int> dots;
@@ -29,7 +29,7 @@ class tst_animatorPicture : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// The model is in the middle, wherever its origin is, and has the size given by the scale.
+    /// The model is centred, regardless of its origin, and has the size given by the scale.
     void scale()
     {
         const testsupport::TemporaryProject project;
@@ -47,7 +47,7 @@ private Q_SLOTS:
             QCOMPARE(picture.sizeSeen(camera).toSize(), seen);
             const double fitting = picture.fittingScale(camera, Size);
             for (double pixels : {fitting, 10.0, 25.0}) {
-                QImage image(2 * Size, QImage::Format_RGB32); // two dots for each pixel
+                QImage image(2 * Size, QImage::Format_RGB32); // two device pixels for each pixel
                 image.fill(Qt::white);
                 QPainter painter(&image);
                 painter.scale(2.0, 2.0);

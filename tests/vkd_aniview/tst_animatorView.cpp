@@ -22,8 +22,8 @@ const QVector<QPoint> Across{Left, Right};
 constexpr auto Shift = Qt::ShiftModifier;
 const QLatin1String Aimed("camera1 3 -1 0.5 20 2 1.5 0.25 4");
 
-/// Two plates of the groups 7 and 8 side by side; seen from above in 600 by 400 they cover the
-/// left and the right half of the middle.
+/// Two plates of the groups 7 and 8 side by side. Seen from above in a view of 600 by 400 pixels,
+/// they cover the left and the right half of its middle.
 Model plates()
 {
     Model model;
@@ -34,7 +34,7 @@ Model plates()
     return model;
 }
 
-/// Sends the event without QTest, which complains about an event that no object accepts.
+/// Sends the event without QTest, which logs a warning about an event that no object accepts.
 void send(QWidget& view, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
           Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
@@ -97,7 +97,7 @@ private Q_SLOTS:
 
     void cleanup() { m_view.reset(); }
 
-    /// Each command starts from a loaded camera, in a locked view too.
+    /// Each command starts from a loaded camera, even in a locked view.
     void commands()
     {
         const char* const cameras[] = {
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(textOf(*m_view), before);
         box.hide();
         send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton);
-        drag(*m_view, Across, Qt::RightButton); // moves, whether or not the left drag had an effect
+        drag(*m_view, Across, Qt::RightButton); // moves the view in any case
         const Camera after = cameraOf(*m_view);
         QVERIFY(after.eye[0] == 0.0 && after.centre[0] < 0.0);
     }
@@ -302,7 +302,7 @@ private Q_SLOTS:
         model.quads.clear();
         model.nodes.resize(2000);
         QVERIFY(storeModel(m_project->handle(), model).isOk());
-        for (int questions : {0, 2}) { // while the model is read, and after that
+        for (int questions : {0, 2}) { // while the model is being read, and afterwards
             const auto goOn = [&questions](int) { return questions-- > 0; };
             QCOMPARE(m_view->setProject(m_project->handle(), goOn).code, int(VKD_ZOB_CANCELLED));
         }
@@ -314,7 +314,8 @@ private Q_SLOTS:
         QCOMPARE(m_view->pickedGroups(), (Groups{7, 70}));
     }
 
-    /// Odd elements can be drawn from all sides, and the valid plate beside them is still visible.
+    /// Malformed elements can be drawn from all sides, and the valid plate next to them is still
+    /// visible.
     void oddElements()
     {
         constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
@@ -330,7 +331,7 @@ private Q_SLOTS:
                         {3, 9, {1, 10, 11, 0}, 0.2}};
         model.beams += {{3, 9, 1, {2, 2}}, {3, 9, 1, {1, 99}}, {3, 9, 1, {1, 11}}};
         model.springs += {{4, 9, {2, 2}, 1.0}, {4, 9, {99, 0}, 1.0}};
-        model.bricks += {{5, 9, {}}, {5, 9, {1, 2, 5, 4, 1, 2, 5, 4}}}; // the second one is flat
+        model.bricks += {{5, 9, {}}, {5, 9, {1, 2, 5, 4, 1, 2, 5, 4}}}; // the second brick is flat
         model.supports.push_back({99, 7});
         for (int fixed = 0; fixed < 64; ++fixed)
             model.supports.push_back({1 + fixed % 6, fixed});
@@ -344,8 +345,8 @@ private Q_SLOTS:
         }
     }
 
-    /// The picture of a large model is painted in steps. It shows the model at once, and each
-    /// change begins it again.
+    /// A large model is painted in steps. The first step already shows the model, and each change
+    /// restarts painting.
     void largeModel()
     {
         constexpr int Side = 200;
@@ -377,7 +378,7 @@ private:
         m_view->slotViewControl(AnimatorTakeCamera, 0.0);
     }
 
-    /// Seen from above.
+    /// Shows the model from above.
     std::unique_ptr<AnimatorView> viewOf(const Model& model) const
     {
         if (!storeModel(m_project->handle(), model).isOk())

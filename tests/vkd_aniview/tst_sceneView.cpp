@@ -25,7 +25,8 @@ bool isClose(const QPointF& a, const QPointF& b)
     return QLineF(a, b).length() < Tolerance;
 }
 
-/// Nodes 1 to 4 are the square from (0, 0) to (4, 4) at z = 0, and 5 to 8 that at z = 3.
+/// Nodes 1 to 4 are the square from (0, 0) to (4, 4) at z = 0, and nodes 5 to 8 are the same square
+/// at z = 3.
 Model squares()
 {
     Model model;
@@ -37,8 +38,8 @@ Model squares()
     return model;
 }
 
-/// The squares as plates of the groups 1 and 2, a column 3 off their middle between them, and an
-/// edge beam 4 from node 5 to 6.
+/// The squares as plates of groups 1 and 2, an off-centre column of group 3 between them, and an
+/// edge beam of group 4 from node 5 to node 6.
 Model storey()
 {
     Model model = squares();
@@ -48,7 +49,7 @@ Model storey()
     return model;
 }
 
-/// Two plates of the groups 1 and 2 above each other with beams along one edge.
+/// Two plates of groups 1 and 2, one above the other, with beams along one edge.
 Model largeStorey(int side)
 {
     Model model;
@@ -72,7 +73,7 @@ Model largeStorey(int side)
     return model;
 }
 
-/// Returns the smallest rectangle around all faces in the order.
+/// Returns the bounding rectangle of all faces in the drawing order.
 QRectF extentOf(const SceneView::Drawn& drawn, int group)
 {
     QPointF least(1e9, 1e9);
@@ -93,13 +94,13 @@ SceneView viewOf(const Model& model, const Position& eye)
 {
     SceneView view;
     view.setGeometry(std::make_shared<ModelGeometry>(buildGeometry(model)));
-    view.setSize({856, 656}); // less a margin of 28, 800 by 600
+    view.setSize({856, 656}); // 800 by 600 without the margin of 28
     view.setCamera(lookingFrom(eye));
     return view;
 }
 } // namespace
 
-/// Tests the picture of a model and the groups at its points, without widgets.
+/// Tests the drawing of a model and the groups at its points, without widgets.
 class TestSceneView : public QObject
 {
     Q_OBJECT
@@ -151,7 +152,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Turning moves the near side of the model with the mouse.
+    /// Rotating moves the near side of the model with the mouse.
     void hand()
     {
         const QList<QPair<double, QPointF>> ways{
@@ -252,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(view.groupAt(view.projection().toScreen({4.5, 7, 0})), 1);
     }
 
-    /// A quick picture of a large model has fewer items, but the same outline and folds.
+    /// The coarse drawing of a large model has fewer items, but the same outline and folds.
     void quickPicture()
     {
         constexpr int Side = 150;
@@ -268,10 +269,10 @@ private Q_SLOTS:
             const bool isStrong =
                 std::any_of(quick.geometry.faces.begin(), quick.geometry.faces.end(),
                             [](const Face& face) { return face.strongEdges == 0xf; });
-            QVERIFY(!isStrong); // only the rim is
+            QVERIFY(!isStrong); // only the rim has strong outlines
             QVERIFY(!quick.geometry.lines.empty());
         }
-        view.zoom(20.0, {428, 328}); // few items are left in sight
+        view.zoom(20.0, {428, 328}); // few items are still visible
         QCOMPARE(&view.quickPicture(10000).geometry, &view.geometry());
     }
 

@@ -16,7 +16,7 @@ static bool isSame(const Camera& a, const Camera& b)
     return std::memcmp(&a, &b, sizeof(Camera)) == 0;
 }
 
-/// Tests the camera that a project stores.
+/// Tests the camera that is stored in a project.
 class TestCamera : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 using namespace vkd::dbo;
 
-/// Tests the shipped model files, and the error messages for invalid ones.
+/// Tests the shipped model files, and the error messages for invalid model files.
 class TestModelFile : public QObject
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ private Q_SLOTS:
         QCOMPARE(m.sectionCuts.value(0).title, QStringLiteral("d"));
     }
 
-    /// Texts for writeFile().
+    /// File contents for writeFile().
     void wrong()
     {
         const auto errorOf = [this](const QString& text) { return this->errorOf(text); };
@@ -115,7 +115,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// The reason why a file with the text is refused, which leaves the model as it was.
+    /// Returns the reason why a file with this text is refused. The model must remain unchanged.
     QString errorOf(const QString& text) const
     {
         writeFile(text.toUtf8());
@@ -128,7 +128,8 @@ private:
                    : read.reason.section(m_path + QLatin1String(": "), 1);
     }
 
-    /// Writes a valid file with the key of the text added, or replacing the line with the same key.
+    /// Writes a valid file to which the line in `text` is added. It replaces an existing line with
+    /// the same key.
     void writeFile(const QByteArray& text) const
     {
         QByteArray file = '{' + text;

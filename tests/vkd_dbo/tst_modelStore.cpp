@@ -122,7 +122,7 @@ private Q_SLOTS:
             Model copy;
             copy.system = model.system;
             QVERIFY(readModel(Scratch) == copy);
-            QVERIFY(modelMark(Scratch) != modelMark(project())); // views share geometry by mark
+            QVERIFY(modelMark(Scratch) != modelMark(project())); // views compare marks
         }
         QVERIFY(storeModel(project(), Model()).isOk());
         QVERIFY(readModel(project()) == Model());
@@ -210,8 +210,8 @@ private Q_SLOTS:
     {
         const QList<QPair<int, QByteArray>> records{
             {20, QByteArray(20, '\1')},       // a truncated node
-            {32, QByteArray(12, '\x7F')},     // an outline longer than its record
-            {32, QByteArray(12, '\xFF')},     // or of negative length
+            {32, QByteArray(12, '\x7F')},     // an outline that is longer than its record
+            {32, QByteArray(12, '\xFF')},     // an outline with negative length
             {Groups, QByteArray(12, '\x7E')}, // a group with such a title
             {LoadCases, QByteArray(1, '\1')},
             {Quads, QByteArray(7, '\1')},  // an element that is truncated within its group

@@ -19,12 +19,12 @@ using Groups = std::vector<int>;
 using namespace vkd::dbo;
 
 namespace {
-constexpr int Cols = 0x534c4f43; // the names packed
+constexpr int Cols = 0x534c4f43; // packed names
 constexpr int Low = 0x20574f4c;
 constexpr int Old = 0x20444c4f;
 
-/// Groups 1 to 4 and 12; the first has an area and two beams, the second one element of each other
-/// type.
+/// Groups 1 to 4 and 12. Group 1 has an area element and two beams, group 2 has one element of each
+/// other type.
 Model sample()
 {
     Model model;
@@ -46,7 +46,7 @@ Model sample()
     return model;
 }
 
-/// Operates the parts of a dialog for a test.
+/// Operates the widgets of a dialog for a test.
 class Driver
 {
 public:
@@ -122,7 +122,7 @@ int execWith(QDialog& dialog, const std::function<void(const Driver&)>& act)
 }
 } // namespace
 
-/// Tests both dialogs through their interface and with the actions of a user in between.
+/// Tests both dialogs through their interface, with user actions in between.
 class TestGroupDialogs : public QObject
 {
     Q_OBJECT
@@ -134,7 +134,8 @@ private Q_SLOTS:
         QVERIFY(storeModel(m_project.handle(), sample()).isOk());
     }
 
-    /// The groups checked before are only the start of picking; no group is picked yet.
+    /// Groups that were checked before are only the initial state for picking. No group has been
+    /// picked yet.
     void leftWithoutOk()
     {
         const int index = m_project.index();
@@ -231,14 +232,14 @@ private Q_SLOTS:
             QCOMPARE(driver.labelText("count"),
                      QStringLiteral("3 of 6 groups checked, 1 without area elements"));
             driver.select({QStringLiteral("2")});
-            QTest::keyClick(driver.view(), Qt::Key_Space); // now only the list counts
+            QTest::keyClick(driver.view(), Qt::Key_Space); // from now on only the list is used
             driver.press("check");                         // keeps the unreadable parts
             QCOMPARE(driver.find<QLineEdit>("input")->text(), QStringLiteral("x<b> 8"));
             driver.enter("groups");
             QVERIFY(driver.view()->isVisible()); // OK would lose the parts that it cannot read
             driver.type("input", "1");
             QVERIFY(!driver.find<QLabel>("message")->isVisible());
-            driver.select({QStringLiteral("1")}); // checked in the list by now, and unchecked there
+            driver.select({QStringLiteral("1")}); // unchecks the group
             QTest::keyClick(driver.view(), Qt::Key_Space);
             driver.type("input", "12");
             driver.pressOk();

@@ -32,7 +32,7 @@ struct Dialog
 {
     explicit Dialog(int flags = StructBoxedEdit::EmptyIsDefault)
     {
-        StructBoxedEdit description = fontSize(flags); // destroyed after the construction
+        StructBoxedEdit description = fontSize(flags); // destroyed after construction
         auto layout = new VKD_QT_VBoxLayout(&box);
         size = new VKD_H_BoxedLineEdit(&box, &description, "size");
         other = new QLineEdit(&box);
@@ -94,7 +94,7 @@ private Q_SLOTS:
             QCOMPARE(dialog.size->edit()->text(), QLatin1String(text));
             dialog.size->setFocus();
             QTest::keyClicks(dialog.size->edit(), QStringLiteral("x"));
-            QCOMPARE(dialog.size->getText(), QLatin1String(text)); // still the last accepted one
+            QCOMPARE(dialog.size->getText(), QLatin1String(text)); // still the last accepted text
             QTest::keyClick(dialog.size->edit(), Qt::Key_Escape);
         }
         for (const char* text : {"abc", "0,5", "1000"}) {
@@ -122,7 +122,7 @@ private Q_SLOTS:
         tabs.accept();
         QVERIFY(tabs.isVisible() && size->edit()->hasFocus());
         QCOMPARE(tabs.tabWidget()->currentIndex(), 1);
-        // The user cannot leave the page by its tabs either.
+        // The user cannot switch to another tab either.
         QTabBar* bar = tabs.tabWidget()->tabBar();
         const auto tryAll = [&] {
             QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(0).center());

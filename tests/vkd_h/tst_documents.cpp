@@ -5,7 +5,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// Documents that a host leaves open: the first is closed when the process ends, the other never.
+/// Documents that a host leaves open: the first is closed when the process ends, the second is
+/// never closed.
 static std::unique_ptr<VKD_H_ZOBDoc> closedAtEnd;
 static VKD_H_ZOBDoc* neverClosed;
 
@@ -30,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(document && again && document->path() == path);
         const int first = document->index(), second = again->index();
         QVERIFY(first > 0 && second > 0 && first != second);
-        for (int i = 0; i < 2; ++i) { // closing twice is harmless, also for other documents
+        for (int i = 0; i < 2; ++i) { // closing a document twice affects no document
             QVERIFY(again->close().isOk());
             QCOMPARE(again->index(), -1);
         }

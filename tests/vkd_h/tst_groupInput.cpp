@@ -21,8 +21,8 @@ static QString told(const GroupInput& input, const std::function<QString(int)>& 
         .join(QLatin1Char('/'));
 }
 
-/// Tests the texts that users type to choose groups, with the groups 0, 1, 2, 3, 5, 9 and 999 or
-/// with names.
+/// Tests the texts that users enter to choose groups. The existing groups are 0, 1, 2, 3, 5, 9 and
+/// 999, or have names.
 class TestGroupInput : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ A1-LOW => //A1-LOW
                                "4 ROOF 1- => //ROOF|1-|4\n");
         QCOMPARE(vkd::dbo::packedName(QStringLiteral("COLS")), 0x534c4f43);
         QCOMPARE(vkd::dbo::packedName(QStringLiteral("A")), 0x20202041);
-        QCOMPARE(shownName(vkd::dbo::FirstPackedName), QStringLiteral("@B?")); // no letter
+        QCOMPARE(shownName(vkd::dbo::FirstPackedName), QStringLiteral("@B?")); // not a letter
     }
 };
 

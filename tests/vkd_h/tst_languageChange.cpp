@@ -31,7 +31,8 @@ QStringList texts(const QWidget& window)
 }
 } // namespace
 
-/// A window that was open during a change of the language shows the same texts as one opened later.
+/// A window that was open during a change to the language shows the same texts as a window opened
+/// later.
 class tst_languageChange : public QObject
 {
     Q_OBJECT

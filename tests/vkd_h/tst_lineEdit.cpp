@@ -26,7 +26,7 @@ VKD_H_LineEdit* field(QWidget* parent, int code, const char* name = "field")
                               QStringLiteral("from the surface"), true);
 }
 
-/// Replaces the text by typing; an empty text deletes it.
+/// Replaces the text by typing. An empty string deletes the text.
 void type(QLineEdit* edit, const char* text)
 {
     edit->selectAll();
@@ -35,7 +35,7 @@ void type(QLineEdit* edit, const char* text)
     QTest::keyClicks(edit, QLatin1String(text));
 }
 
-/// A dialog with two fields; its own class does not check them.
+/// A dialog with two fields. Its own class does not check the fields.
 struct Dialog
 {
     Dialog()
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         Dialog dialog;
         VKD_H_LineEdit* edit = dialog.first;
-        edit->setText(QStringLiteral("-")); // not typed: no more text will follow
+        edit->setText(QStringLiteral("-")); // not typed, so no further input will follow
         QVERIFY(edit->toolTip().contains(QLatin1String("number")) && !messageOf(edit));
         type(edit, "1.234,5");
         QVERIFY(edit->toolTip().contains(QLatin1String("decimal sign")));
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QTest::keyClick(edit, Qt::Key_Tab);
         QVERIFY(dialog.second->hasFocus());
         QVERIFY(message->isVisible());
-        QTest::keyClick(dialog.box.windowHandle(), Qt::Key_7); // through the window system
+        QTest::keyClick(dialog.box.windowHandle(), Qt::Key_7); // simulates a window system event
         QVERIFY(!message->isVisible());
         QCOMPARE(dialog.second->text(), QStringLiteral("7"));
         QCOMPARE(edit->text(), QStringLiteral("1.234,5"));
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QVERIFY(edit->toolTip().contains(QLatin1String("number")));
         dialog.box.done(QDialog::Accepted); // called by a host
         QVERIFY(dialog.box.isVisible() && edit->hasFocus());
-        dialog.box.callDone(QDialog::Accepted); // a detour
+        dialog.box.callDone(QDialog::Accepted); // another result that closes the dialog
         QVERIFY(!dialog.box.isVisible());
     }
 
@@ -183,12 +183,12 @@ private Q_SLOTS:
             QCOMPARE(dialog.first->getVal(), 0.03);
             QVERIFY(dialog.first->refusal().isEmpty());
         }
-        QCOMPARE(changed.count(), 5); // 7, 77, back; nothing by abc; empty, back
+        QCOMPARE(changed.count(), 5); // 7, 77, back; abc: no signal; empty, back
         QTest::keyClick(dialog.first, Qt::Key_Escape);
         QVERIFY(!dialog.box.isVisible());
         dialog.first->setVal(0.033333333);
         QTest::keyClicks(dialog.first, QStringLiteral("7"));
-        QTest::keyClick(dialog.first, Qt::Key_Backspace); // the text that was shown is restored
+        QTest::keyClick(dialog.first, Qt::Key_Backspace); // restores the displayed text
         QCOMPARE(changed.count(), 7);
         QCOMPARE(dialog.first->getVal(), 0.033333333);
     }
@@ -277,12 +277,12 @@ private Q_SLOTS:
         QCOMPARE(after("0.25", Qt::Key_Down), QStringLiteral("-1 0.30"));
         QCOMPARE(after("0,25", Qt::Key_Up), QStringLiteral("-1 0.20"));
         QCOMPARE(after("0.2", Qt::Key_Down), QStringLiteral("1 0.30"));
-        QCOMPARE(after("0.05", Qt::Key_Up), QStringLiteral("-1 0.05")); // there is no preset below
+        QCOMPARE(after("0.05", Qt::Key_Up), QStringLiteral("-1 0.05")); // there is no lower preset
         type(combo.edit, "0.2");
         QCOMPARE(combo.edit->text(), QStringLiteral("0.2")); // not completed to 0.20
         combo.edit->setVal(double(0.2F));
         QTest::keyClick(&combo.box, Qt::Key_Up);
-        QTest::keyClick(&combo.box, Qt::Key_Escape); // a preset counts as not typed, and remains
+        QTest::keyClick(&combo.box, Qt::Key_Escape); // a preset is not typed text
         QCOMPARE(combo.edit->text(), QStringLiteral("0.10"));
         combo.box.setCurrentIndex(3);
         QCOMPARE(combo.edit->getVal(), NotSet);

@@ -24,7 +24,7 @@ QString told(const VkdNumberReading& reading)
     return QLatin1String(states[int(reading.state)]) + QString::number(reading.value, 'g', 12);
 }
 
-/// Returns a function that reads a number and checks that both languages give the same result.
+/// Returns a function that reads a number and checks that the result is the same in both languages.
 auto reader(int code)
 {
     return [code](const QString& text) {
@@ -38,7 +38,7 @@ auto reader(int code)
 }
 } // namespace
 
-/// Tests reading and formatting numbers without the field.
+/// Tests reading and formatting numbers without a number field.
 class TestNumberText : public QObject
 {
     Q_OBJECT
@@ -87,7 +87,7 @@ private Q_SLOTS:
             QVERIFY2(reader(code)(text) == wanted, qPrintable(text.left(20)));
     }
 
-    /// Reads texts with a description that the caller filled in.
+    /// Reads texts with a description that the caller has filled in.
     void description()
     {
         const QString comma(QLatin1Char(',')), dash(QLatin1Char('-'));

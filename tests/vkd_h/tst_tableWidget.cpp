@@ -14,7 +14,7 @@
 namespace {
 const std::list<ComboList> Choices{{QStringLiteral("red"), 7}, {QStringLiteral("blue"), 9}};
 
-/// Columns with the ids 5 and 8: a text and a choice.
+/// Columns with the IDs 5 and 8: a text and a combo box.
 class Table : public VKD_H_TableWidget
 {
 public:
@@ -58,7 +58,7 @@ private Q_SLOTS:
         table.show();
         const QRect cell = table.visualItemRect(table.item(1, 1));
         table.setCurrentCell(1, 1);
-        QTest::keyClick(&table, Qt::Key_B); // begins the text of the other entry
+        QTest::keyClick(&table, Qt::Key_B); // first character of the other entry
         QCoreApplication::processEvents();
         QVERIFY(!table.findChild<VKD_QT4_ComboBox*>(QStringLiteral("cellCombo")));
         QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ControlModifier, cell.center());

@@ -9,30 +9,32 @@
 
 using Records = QList<QByteArray>;
 
-/// Counts the log lines of the category vkd.zob during its lifetime; other lines are passed on.
+/// Counts the log messages of the category vkd.zob during its lifetime. Other messages are
+/// forwarded.
 class ZobLog
 {
 public:
     ZobLog();
     ~ZobLog();
-    /// Returns the number of lines since the last call.
+    /// Returns the number of messages since the last call.
     int take();
-    /// Returns the status of an operation that must have written exactly one line, otherwise -1.
+    /// Returns the status of an operation that has logged exactly one message, otherwise -1.
     cd_error_t once(cd_error_t status) { return take() == 1 ? status : -1; }
 };
 
 cd_error_t put(int index, int key1, int key2, const QByteArray& record, int position);
-/// Reads the sequence under 1 and `key2`, and returns the status that ended it.
+/// Reads the sequence keyed by 1 and `key2`, and returns the status that ended it.
 Records readAll(int index, int key2 = 1, cd_error_t* end = nullptr);
 int openProject(const QString& path);
-/// Create a project with these records under 1, 1, or read them; it is closed before and after.
+/// Create a project with these records, keyed by 1, 1, or read the records. The project is closed
+/// before and after the call.
 void makeProject(const QString& path, const Records& records);
 Records readProject(const QString& path);
-/// Changes the file by SQL, as another program could.
+/// Changes the file using SQL, as another program could.
 void changeByOther(const QString& path, const char* change);
 
 namespace QTest {
-/// Makes a failing comparison print the numbers.
+/// Makes QtTest print the numbers if a comparison fails.
 inline bool qCompare(cd_error_t actual, VkdZobStatus expected, const char* actualText,
                      const char* expectedText, const char* file, int line)
 {

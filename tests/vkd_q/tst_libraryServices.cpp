@@ -61,7 +61,7 @@ sub => none
 0 0 XYZ =>
 0 2 ABC =>
 )");
-        QCOMPARE(vkd_lib_convtext(1, 1, "NUL"), std::string(" none ")); // blanks are preserved
+        QCOMPARE(vkd_lib_convtext(1, 1, "NUL"), std::string(" none ")); // spaces are preserved
     }
 
     void missingTexts()

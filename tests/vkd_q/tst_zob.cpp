@@ -8,8 +8,8 @@
 
 #include <optional>
 
-/// Tests the records of a project and its lock through two indexes of one file, which contains the
-/// records "old 0" and "old 1" under 1, 1.
+/// Tests the records of a project and its lock using two indexes of the same file, which contains
+/// the records "old 0" and "old 1", keyed by 1, 1.
 class TestZob : public QObject
 {
     Q_OBJECT
@@ -101,7 +101,7 @@ private Q_SLOTS:
     {
         using Pair = QPair<int, int>;
         const QList<QPair<Pair, Pair>> cases{
-            {{-5, -5}, {1, 1}}, {{35, 4}, {35, 4}}, // a used pair gives itself
+            {{-5, -5}, {1, 1}}, {{35, 4}, {35, 4}}, // a used pair is returned itself
             {{35, 0}, {35, 4}}, {{35, 8}, {36, 0}},
             {{36, 1}, {40, 2}}, // an emptied pair is skipped
             {{40, 3}, {-1, -1}}};
@@ -121,7 +121,7 @@ private Q_SLOTS:
     void readingPassSeesOneState()
     {
         put(m_first, 1, 2, "inner", 0);
-        for (bool innerPass : {false, true}) { // a pass over other records in between
+        for (bool innerPass : {false, true}) { // iterates over other records in between
             put(m_second, 1, 1, "old 0", 0);
             QCOMPARE(readOne(0), QByteArray("old 0"));
             if (innerPass)
@@ -139,9 +139,10 @@ private Q_SLOTS:
 
     void snapshotsAndTransactionsNest_data()
     {
-        // steps: s, t and l begin a snapshot or a transaction or take a pair, S, T and L end the
-        // last one, C by commit; r reads other records, f releases a pair that is read. After each
-        // step "-" if another program cannot write.
+        // steps: s, t and l begin a snapshot, begin a transaction or lock a pair. S, T and L end
+        // the last of these; C ends a transaction by committing it. r reads other records, f
+        // releases a pair that is being read. A step is followed by "-" if another program cannot
+        // write.
         const Columns<QString, QByteArray, int> row("steps", "writable", "stored");
         row("snapshots that overlap", "ssSS", "---+", 0);
         row("reading in a snapshot", "srrS", "---+", 0);
@@ -217,7 +218,7 @@ private Q_SLOTS:
         auto snapshot = std::make_unique<ZobSnapshot>(ZobHandle(m_first));
         ZobTransaction other{ZobHandle(m_second)};
         QCOMPARE(put(m_second, 1, 1, "other", 0), VKD_ZOB_OK);
-        vkd_lib_setvalue(201, Patience); // the other program would wait for the snapshot this long
+        vkd_lib_setvalue(201, Patience); // how long the other program would wait for the snapshot
         QCOMPARE(m_log->once(ZobTransaction(ZobHandle(m_first)).status().code), VKD_ZOB_LOCKED);
         QCOMPARE(m_log->once(put(m_first, 1, 1, "mine", 0)), VKD_ZOB_LOCKED);
         QCOMPARE(readAll(m_first), m_old);
@@ -252,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(put(m_first, 1, 1, "new", 0), VKD_ZOB_OK);
         QCOMPARE(readAll(m_first), (Records{"new", "old 1"}));
         vkd_zob_free_ex(m_first, 1, 1);
-        vkd_zob_free_ex(m_first, 3, 3); // never taken
+        vkd_zob_free_ex(m_first, 3, 3); // never locked
         QCOMPARE(readAll(m_second), m_old);
         vkd_zob_free_ex(m_first, 1, 2);
         QCOMPARE(readAll(m_second), (Records{"new", "old 1"}));
@@ -275,8 +276,8 @@ private Q_SLOTS:
         QCOMPARE(m_log->once(vkd_zob_lock_ex(m_second, 1, 2)), VKD_ZOB_LOCKED);
         QVERIFY(waited.elapsed() >= 115 && waited.elapsed() < 4000);
         vkd_zob_free_ex(m_first, 1, 1);
-        // The file is free by now, but the refused program has not read the change of the other
-        // one.
+        // The file is no longer locked, but the refused program has not read the other program's
+        // change.
         QCOMPARE(put(m_second, 1, 2, "second", 1), VKD_ZOB_LOCKED);
         QCOMPARE(vkd_zob_lock_ex(m_second, 1, 3), VKD_ZOB_LOCKED); // belongs to the same change
         for (int released : {2, 3}) {
@@ -302,7 +303,7 @@ private Q_SLOTS:
     {
         QCOMPARE(vkd_zob_lock_ex(m_second, 1, 1), VKD_ZOB_OK);
         QCOMPARE(put(m_second, 1, 1, "new", 1), VKD_ZOB_OK);
-        QCOMPARE(readOne(0), QByteArray("old 0")); // begins a pass and does not end it
+        QCOMPARE(readOne(0), QByteArray("old 0")); // begins an iteration without ending it
         vkd_zob_free_ex(m_second, 1, 1);
         QCOMPARE(m_log->take(), 1);
         vkd_zob_free_ex(m_first, 1, 1);
@@ -343,7 +344,7 @@ private Q_SLOTS:
                                       ? vkd_zob_get(m_first, 1, 1, &record, &size, position)
                                       : vkd_zob_put(m_first, 1, 1, &record, &size, position);
         QCOMPARE(m_log->once(failed), VKD_ZOB_BAD_CALL);
-        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // writes no further log line
+        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // logs no further message
         vkd_zob_free_ex(m_first, 1, 1);
         QCOMPARE(readAll(m_first), m_old);
         QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)).code, VKD_ZOB_BAD_CALL);

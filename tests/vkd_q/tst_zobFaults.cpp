@@ -66,7 +66,7 @@ VkdStatus place(const QString& path)
     return status.isOk() ? place.commit() : status;
 }
 
-/// Returns the records; a text that is no record if they cannot be read.
+/// Returns the records, or a string that is not a record if they cannot be read.
 QByteArray state(const QString& path)
 {
     if (!QFile::exists(path))
@@ -137,13 +137,13 @@ private:
             leaveHalfWritten(path);
     }
 
-    /// Cuts the power after the change is written and before its journal is removed.
+    /// Cuts the power after the change has been written and before its journal is removed.
     static void leaveHalfWritten(const QString& path)
     {
         const QByteArray before = testsupport::readFile(path);
         const QString journal = path + QLatin1String("-journal");
         for (int call = 1; testsupport::readFile(path) == before; ++call) {
-            QFile::remove(journal); // of the last attempt
+            QFile::remove(journal); // from the last attempt
             testsupport::FaultyDisk disk(QFileInfo(path).path(),
                                          testsupport::FaultyDisk::Fault::PowerCut, call);
             change(path, {"half", "written"});

@@ -92,7 +92,8 @@ private Q_SLOTS:
         QCOMPARE(log.once(vkd_zob_open(folder.path().toUtf8(), &index).code), VKD_ZOB_NO_FILE);
     }
 
-    /// Each bit of the page with the records. SQLite itself finds only damage of its structure.
+    /// Flips each bit of the page with the records. SQLite itself detects only damage to its
+    /// structure.
     void flippedBits()
     {
         const QTemporaryDir folder;
@@ -119,7 +120,7 @@ private Q_SLOTS:
     void cancelledDuringTheCheck()
     {
         testsupport::FaultyDisk disk(m_folder.path());
-        disk.slowDown(10); // the pages together take much longer than the time between two calls
+        disk.slowDown(10); // reading all pages takes much longer than the time between two calls
         int index = -1, calls = 0;
         const VkdGoOn onlyFirst = [&calls](int) { return ++calls == 1; };
         QCOMPARE(vkd_zob_open(m_path.toUtf8(), &index, onlyFirst).code, VKD_ZOB_CANCELLED);
@@ -145,7 +146,7 @@ private Q_SLOTS:
         vkd_zob_close(index);
     }
 
-    /// Reading does not change a file of version 1; its first stored change upgrades it.
+    /// Reading does not change a version 1 file. The first stored change upgrades it.
     void olderVersion_data()
     {
         const Columns<bool, bool> row("isInChange", "isUpgraded");
@@ -197,7 +198,7 @@ private Q_SLOTS:
             const int index = openProject(m_path);
             if (!isWritable) {
                 QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
-                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the take has logged why
+                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // locking logged why
                 vkd_zob_free_ex(index, 1, 1);
                 QCOMPARE(vkd_zob_change_status(index).code, VKD_ZOB_READ_ONLY);
                 QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);
@@ -219,7 +220,7 @@ private Q_SLOTS:
         row("moved", "mv", true);
         row("its folder is deleted", "rmdir", true);
         row("replaced", "cp", true);
-        // The journal of the other file would be played back into the open file.
+        // The journal of the other file would be rolled back into the open file.
         row("replaced by one that is being written", "write", false);
     }
 
@@ -318,7 +319,7 @@ private Q_SLOTS:
         row("text", "Not a project.\n");
     }
 
-    /// The journal of an interrupted change and files of killed programs are beside the path.
+    /// The journal of an interrupted change and files of killed programs exist next to the path.
     void placedFiles()
     {
         QFETCH(const QByteArray, before);

@@ -17,13 +17,13 @@ static QByteArray record(int round, int size)
 struct Task
 {
     int rounds = 0, records = 0, size = 0;
-    int takes = 1; ///< 0: writes without taking the project
-    int waits = 1; ///< 0: does not wait for others, and skips refused rounds
+    int takes = 1; ///< 0: writes without locking the project
+    int waits = 1; ///< 0: does not wait for other processes, and skips refused rounds
     int milliseconds = 1000000000;
 };
 
-/// Replaces the whole sequence by records with the next number, writes one of them also under
-/// another key pair, and returns the first failure.
+/// Replaces the whole sequence with records that contain the next number, also writes one of the
+/// records under another key pair, and returns the first failure.
 static cd_error_t writeRound(int index, const Task& task)
 {
     char number[12] = "";
@@ -40,8 +40,8 @@ static cd_error_t writeRound(int index, const Task& task)
     return result == VKD_ZOB_OK ? status : result;
 }
 
-/// The child process: takes the project, prints a line, writes round after round and prints how
-/// many of them are stored.
+/// Runs in the child process. Locks the project, prints a line, writes round after round, and
+/// prints the number of stored rounds.
 static int childMain(const Task& task, const QString& path)
 {
     const int index = openProject(path);
@@ -63,7 +63,7 @@ static int childMain(const Task& task, const QString& path)
             break;
     }
     std::printf("%d\n", storedRounds);
-    const cd_error_t stored = vkd_zob_change_status(index).code; // of the last round
+    const cd_error_t stored = vkd_zob_change_status(index).code; // status of the last round
     const cd_error_t closed = vkd_zob_close(index).code;
     return result == VKD_ZOB_OK && (stored == closed || !task.waits) ? closed : result;
 }
@@ -87,8 +87,8 @@ private Q_SLOTS:
         vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, Patience);
     }
 
-    /// No reader sees a mixture of two rounds, and no round that is reported as stored is lost. The
-    /// third writer does not wait, so that many of its rounds are refused.
+    /// No reader sees a mixture of two rounds, and no round that was reported as stored is lost.
+    /// The third writer does not wait, so many of its rounds are refused.
     void threeWritersAndAReader()
     {
         makeProject(m_path, Records());
@@ -123,8 +123,8 @@ private Q_SLOTS:
     {
         const Columns<int, bool> row("takes", "alwaysWhole");
         row("with the project taken", 1, true);
-        // The control without taking shows that the kills occur during writing, and that taking is
-        // needed.
+        // The control run without locking shows that the processes are killed while they write, and
+        // that locking is necessary.
         row("control without", 0, false);
     }
 
@@ -146,7 +146,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Starts a child process and waits until it has taken the project.
+    /// Starts a child process and waits until it has locked the project.
     bool start(QProcess& child, const Task& task) const
     {
         QStringList arguments{m_path};

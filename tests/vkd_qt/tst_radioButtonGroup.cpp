@@ -15,7 +15,8 @@ std::vector<StructRadioButtonGrup> entries(int count, int withWidget = -1)
     return items;
 }
 
-/// A window with a field before and after a group, whose entry 1 has a field.
+/// A window with a radio group, whose entry 1 has a field, and with fields before and after the
+/// group.
 struct Page
 {
     explicit Page(const std::vector<StructRadioButtonGrup>& items = entries(4, 1))
@@ -62,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(page.group->selectedButton(), -1);
         QTest::mouseClick(page.radio(0), Qt::LeftButton, {}, {8, page.radio(0)->height() / 2});
         QCOMPARE(told.takeFirst().first().toInt(), 0);
-        for (int none : {2, -1, 4}) // set by the program
+        for (int none : {2, -1, 4}) // set programmatically
             page.group->setButton(none);
         QCOMPARE(told.size(), 0);
         QCOMPARE(page.group->selectedButton(), 2);
@@ -157,7 +158,7 @@ private Q_SLOTS:
         QVERIFY(!own);
     }
 
-    /// A slot removes the field whose use chose the entry.
+    /// A slot removes the field whose use has selected the entry.
     void otherEntriesWhileAFieldIsUsed()
     {
         for (bool byEntries : {true, false}) {

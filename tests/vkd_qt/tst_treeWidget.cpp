@@ -16,7 +16,7 @@ int stateOf(const QTreeWidgetItem* item)
     return state.isValid() ? state.toInt() : NoBox;
 }
 
-/// Returns the check boxes below the item that have no other check box in between.
+/// Returns the nearest items with check boxes below the item.
 Items boxesRightBelow(const QTreeWidgetItem* item)
 {
     Items boxes;
@@ -59,7 +59,7 @@ struct Expected
     QHash<QTreeWidgetItem*, int> states;
 };
 
-/// Adds each item below an earlier one; some have no check box.
+/// Adds each item below an earlier item. Some items have no check box.
 Items fill(QTreeWidget* tree, QRandomGenerator& random, int count)
 {
     Items all;
@@ -75,7 +75,8 @@ Items fill(QTreeWidget* tree, QRandomGenerator& random, int count)
     return all;
 }
 
-/// A caption with two plots of three rows each, all unchecked, and the automatic update on.
+/// A caption with two plots with three rows each. All items are unchecked, and the automatic update
+/// is enabled.
 struct Catalogue
 {
     Catalogue()
@@ -169,8 +170,8 @@ private Q_SLOTS:
         QCOMPARE(stateOf(catalogue.top), int(Qt::Checked));
     }
 
-    /// Changes of a text or of flags do not propagate states, not even in a tree that is not
-    /// settled.
+    /// Changes to text or flags do not propagate states, not even in a tree with inconsistent
+    /// states.
     void otherDataThanStates()
     {
         Catalogue catalogue;
@@ -184,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(settled.size(), 0);
     }
 
-    /// This includes texts that become visible when a branch is expanded or the tree is scrolled.
+    /// Includes texts that become visible when a branch is expanded or the tree is scrolled.
     void longTextsCanBeReached()
     {
         Catalogue catalogue;

@@ -18,7 +18,7 @@
 
 using namespace testsupport;
 
-/// Returns the greatest difference in lightness, 0 to 255, between the background and any pixel.
+/// Returns the maximum difference in lightness between the background and any pixel, from 0 to 255.
 static int contrast(QAbstractItemView& view)
 {
     const int ground = view.palette().color(QPalette::Base).lightness();
@@ -64,7 +64,8 @@ private Q_SLOTS:
         }
     }
 
-    /// There is no detour if a subclass kept the dialog open, nor after the detour was cancelled.
+    /// The dialog does not close for picking if a subclass has kept it open or picking has been
+    /// cancelled.
     void dialogDoesNotReopen()
     {
         struct : VKD_QT_Dialog
@@ -149,7 +150,7 @@ private Q_SLOTS:
         auto combo = new QComboBox(pages[2]);
         combo->addItem(QStringLiteral("x"));
         combo->show();
-        combo->showPopup(); // the list is a window and not in the dialog's tab order
+        combo->showPopup(); // the list is a window and therefore not in the dialog's tab order
         dialog.findChild<VKD_QT_Ok*>()->cmdCancel()->click();
         dialog.show(); // the same page as before
         QCOMPARE(changed.size(), 2);
@@ -159,7 +160,8 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    /// With a button over each cell of a column, a change would otherwise read all the cells.
+    /// Without this rule, a change would read all cells of a column that has a button over each
+    /// cell.
     void cellButtonPassesOverOtherCells()
     {
         struct Item : QTableWidgetItem
@@ -191,7 +193,7 @@ private Q_SLOTS:
         label.setAlignment(Qt::AlignTop);
         VKD_QT_GroupBox box(title, nullptr, "box");
         for (QWidget* widget : {static_cast<QWidget*>(&label), static_cast<QWidget*>(&box)}) {
-            widget->setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // cuts off a stroke of the m
+            widget->setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // could truncate the m
             widget->resize(800, 80);
         }
         QCOMPARE(inkWidth(box), inkWidth(label));

@@ -7,7 +7,7 @@
 namespace {
 const QStringList Tags{QStringLiteral("A"), QStringLiteral("List_4"), QStringLiteral("List_40")};
 
-/// Returns a random text of characters that could confuse the reader.
+/// Returns a random string of characters that could confuse the parser.
 QString anyText(QRandomGenerator& random)
 {
     static const QStringList pieces{
@@ -70,7 +70,7 @@ private Q_SLOTS:
         };
         QVERIFY(vkd_qt_readXMLpart(QString(), 0, QString()).isNull());
         const QString empty = vkd_qt_readXMLpart(QStringLiteral("<A></A>"), 0, Tags[0]);
-        QVERIFY(empty.isEmpty() && !empty.isNull()); // empty, unlike a missing part, which is null
+        QVERIFY(empty.isEmpty() && !empty.isNull()); // a missing part, however, is null
         compareCases(read, R"(
 <A> =>
 <A>x</A =>

@@ -44,7 +44,7 @@ QImage picture(const QString& name)
                                                      : found.value<QPixmap>().toImage();
 }
 
-/// Returns whether a link leads to a page of the book and to an anchor that exists there.
+/// Returns whether a link refers to an existing anchor on a page of the help book.
 bool linkLeadsSomewhere(const QByteArray& book, const QUrl& link)
 {
     const QString topic = QFileInfo(link.path()).completeBaseName();

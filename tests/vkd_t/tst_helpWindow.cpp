@@ -12,7 +12,7 @@ using namespace testsupport;
 namespace {
 enum RowOfContents { Types = 3, Cracks = 7 };
 
-/// Returns the title of the topic that the help shows, empty without a help window.
+/// Returns the title of the topic that the help shows, or an empty string without a help window.
 QString title()
 {
     const QString whole = helpWindows().isEmpty() ? QString() : helpWindows().at(0)->windowTitle();
@@ -29,7 +29,7 @@ void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     QTest::keyClick(helpWindows().at(0)->windowHandle(), code, modifiers);
 }
 
-/// Clicks through the window system, so that a modal dialog can block it.
+/// Simulates a click from the window system, so that a modal dialog can block the click.
 void clickTopic(int row)
 {
     auto list = inHelp<QListWidget>("contents");
@@ -120,7 +120,7 @@ private Q_SLOTS:
         search(QStringLiteral("QUASI-permanent"));
         QCOMPARE(hits(), QStringList(QStringLiteral("Crack Control")));
         QCOMPARE(title(), QStringLiteral("Design Parameters"));
-        key(Qt::Key_Return); // not in this page, so the page of the first hit is opened
+        key(Qt::Key_Return); // not found on this page, so the page with the first hit is opened
         QCOMPARE(title(), QStringLiteral("Crack Control"));
         QCOMPARE(helpPage()->textCursor().selectedText(), QStringLiteral("quasi-permanent"));
 
@@ -164,7 +164,7 @@ private Q_SLOTS:
         key(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(title(), QStringLiteral("Bemessungsparameter"));
 
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // read by the next call only
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // read only by the next call
         QVERIFY(show(nullptr, "PARA"));
         QVERIFY(helpPage()->toPlainText().startsWith(QStringLiteral("Design Parameters")));
     }
@@ -206,7 +206,7 @@ private Q_SLOTS:
             clickTopic(Cracks);
             QCOMPARE(title(), QStringLiteral("Crack Control"));
         }
-        clickTopic(Types); // does not close with the dialog
+        clickTopic(Types); // the window must not close with the dialog
         QCOMPARE(title(), QStringLiteral("Types of Design"));
     }
 
