@@ -1,4 +1,4 @@
-// Making a project from a large model file: reading the file and storing its records.
+// Creating a project from a large model file: reading the file and storing its records.
 
 #include "RatioReporter.h"
 
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// A model file with this number of quads in a square, and the project that is made of it.
+/// A model file with this number of quads in a square, and the project that is created from it.
 class ModelFile
 {
 public:
@@ -54,7 +54,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Returns the file of this size; the last one is kept for the next run.
+/// Returns the file with this size. The last file is cached for the next run.
 const ModelFile& fileOf(const benchmark::State& state)
 {
     static std::unique_ptr<ModelFile> file;
@@ -83,7 +83,7 @@ void newProject(benchmark::State& state)
         makeProject(file);
 }
 
-/// A database, which is closed at the end.
+/// A database that is closed on destruction.
 class Database
 {
 public:

@@ -1,6 +1,6 @@
-// The output dialog and the script of the window with many load cases: clicks, all plots checked,
-// load cases that are left out, opening. The peers are a text document with the same script, making
-// the script, and the same work with fewer load cases.
+// The output dialog and the script of the window with many load cases: clicking, checking all
+// plots, excluding load cases, and opening the dialog. The peers are a text document with the same
+// script, generating the script, and the same work with fewer load cases.
 
 #include "RatioReporter.h"
 
@@ -24,7 +24,7 @@ namespace {
 using workbench::OutputDialog;
 using workbench::TextLines;
 
-constexpr int Clicked = 1200; // load cases; the script has some 240 000 lines
+constexpr int Clicked = 1200; // number of load cases; the script has about 240 000 lines
 constexpr int Few = 1000;
 constexpr int Many = 10000;
 
@@ -51,7 +51,7 @@ std::unique_ptr<VKD_H_ZOBDoc> newProject(const QTemporaryDir& folder, int loadCa
     return document;
 }
 
-/// The projects of the process by number of load cases.
+/// The projects of the process, keyed by number of load cases.
 VKD_H_ZOBDoc* project(int loadCases)
 {
     static const QTemporaryDir folder;
@@ -68,7 +68,7 @@ size_t usedBytes()
     return info.uordblks + info.hblkhd;
 }
 
-/// A dialog with the script of its choice beside it, as in the window.
+/// A dialog with the script of its selection next to it, as in the window.
 class Output
 {
 public:
@@ -119,7 +119,8 @@ void toggle(QTreeWidgetItem* item)
     item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
-/// Clicks a load case of a plot until the script and its view are right.
+/// Measures the time from a click on a load case of a plot until the script and its view are
+/// updated.
 void click(benchmark::State& state)
 {
     Output output(Clicked);
@@ -144,7 +145,7 @@ void fillDocument(benchmark::State& state)
     }
 }
 
-/// Checks all plots until the script and its view are right.
+/// Measures the time from checking all plots until the script and its view are updated.
 void checkAll(benchmark::State& state)
 {
     Output output(Few);
@@ -164,7 +165,7 @@ void makeScript(benchmark::State& state)
         benchmark::DoNotOptimize(output.dialog.script(vkd::Language::English));
 }
 
-/// Leaves out a load case or offers it again.
+/// Excludes a load case, or offers the load case again.
 void offerLoadCase(benchmark::State& state)
 {
     Output output(int(state.range(0)));
@@ -186,7 +187,7 @@ void openDialog(benchmark::State& state)
     }
 }
 
-/// The memory of a view with a script of 240 000 lines, beside that of the text.
+/// Compares the memory of a view of a script with 240 000 lines with the memory of the text.
 void viewMemory(benchmark::State& state)
 {
     const QString text = QStringLiteral("LC 12345 DESI 12345\nBEAM MY\n").repeated(120000);

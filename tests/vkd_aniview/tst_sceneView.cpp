@@ -285,7 +285,7 @@ private Q_SLOTS:
         QCOMPARE(view.groupAt(view.projection().toScreen({1, 2, 0})), None);
     }
 
-    /// Two bricks on top of each other show ten faces; their common face hides nothing.
+    /// Two bricks on top of each other show ten faces; the common face does not hide other faces.
     void bricks()
     {
         Model model = squares();

@@ -109,7 +109,7 @@ private:
     QWidget* m_dialog;
 };
 
-/// Returns the result of the dialog after `act`, or -1 if the dialog is still open then.
+/// Returns the result of the dialog after `act`, or -1 if the dialog is still open.
 int execWith(QDialog& dialog, const std::function<void(const Driver&)>& act)
 {
     whenModal([&](QWidget* modal) {

@@ -39,7 +39,7 @@ private Q_SLOTS:
 
     void sequence()
     {
-        // puts: "=" writes the first record, "+" appends
+        // `puts`: "=" writes the first record, "+" appends a record
         const auto sequenceOf = [](int index, bool isTaken, const QString& puts) {
             if (isTaken)
                 vkd_zob_lock_ex(index, 1, 7);

@@ -12,7 +12,7 @@ Q_DECLARE_METATYPE(Run)
 namespace {
 constexpr int NumberOfRecords = 30;
 
-/// Opens a project, puts records and closes it.
+/// Opens a project, writes records to it and closes it.
 VkdStatus change(const QString& path, const Records& records)
 {
     int index = -1;

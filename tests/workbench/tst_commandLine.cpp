@@ -359,7 +359,7 @@ private Q_SLOTS:
             "--pixel-ratio is a number from 1 to 4, not \"5\"");
     }
 
-    /// A command that cannot be completed changes nothing.
+    /// A command that cannot be completed makes no changes.
     void failures()
     {
         const QDir folder(m_folder.path());

@@ -25,7 +25,7 @@ struct HelpWanted
 };
 
 /// Parses the arguments of one command. Throws a CommandError for unknown options and missing
-/// arguments, so that commands need no error handling for these.
+/// arguments, so that the commands do not have to handle these errors.
 class CommandLine
 {
 public:

@@ -9,7 +9,8 @@ class QPushButton;
 
 namespace workbench {
 
-/// A banner above the view while the user picks groups in it, with the picked groups and buttons.
+/// A banner that is shown above the view while the user picks groups. It contains the picked groups
+/// and buttons.
 class PickBanner : public QFrame
 {
     Q_OBJECT

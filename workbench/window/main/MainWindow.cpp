@@ -247,7 +247,7 @@ void MainWindow::showNews()
 }
 
 /// Reloads the records and the script, except for selections that are displayed or that the user
-/// has changed. The Reload action loads these, too.
+/// has changed. The Reload action also loads these selections.
 void MainWindow::followOthers()
 {
     if (m_project.readStatus() != VKD_ZOB_OK)

@@ -31,8 +31,8 @@ public:
     void setKeywords(vkd::Language language);
 
     QString script() const;
-    /// Shows a script and marks the lines that differ from the previous script. An equal script
-    /// changes nothing.
+    /// Shows a script and marks the lines that differ from the previous script. Does nothing if the
+    /// script is unchanged.
     void setScript(const QString& script);
     /// Shows a script without marking lines.
     void setOtherScript(const QString& script);
