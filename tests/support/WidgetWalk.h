@@ -5,9 +5,8 @@
 
 class QWidget;
 
-/// Checks for all visible widgets of a window in its current state, which tests apply to every
-/// window. Each reported problem contains the window's title and the widget's object name, class
-/// and text.
+/// Checks for the visible widgets of a window. Tests run them on every window. Each reported
+/// problem contains the window's title and the widget's object name, class and text.
 namespace testsupport {
 
 /// Returns the problems of a visible window on all of its tabs:

@@ -95,7 +95,7 @@ private:
             return expect(m_state == m_new, "success, but the new state is not stored");
         const QLatin1String cause(fault == Fault::Full ? "No space left" : "Input/output error");
         expect(m_reason.contains(cause), "the system's reason is missing");
-        // In this case it is unknown whether the change would survive a power cut.
+        // It is unknown whether this change would survive a power cut.
         const bool isInDoubt = isCut(fault) || m_failedCall == "sync .";
         expect(isInDoubt || m_state == m_old, "failure, but the new state is stored");
         expect(

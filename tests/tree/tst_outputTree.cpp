@@ -82,7 +82,7 @@ private Q_SLOTS:
         records[0].scriptEnglish.clear();
         OutputNode root;
         testsupport::build(&root, records, testsupport::rows(1));
-        // The first plot was removed, so the second record creates a new one.
+        // The first plot has been removed, so the second record creates a new plot.
         QCOMPARE(testsupport::treeText(&root), QStringLiteral("[ ] A\n  [ ] B\n    [ ] C\n"
                                                               "      [ ] 1 : a\n"));
         OutputNode other;

@@ -115,7 +115,8 @@ private Q_SLOTS:
         }
     }
 
-    /// The changes caused by each gesture (e: eye, c: centre, z: zoom); a locked view ignores all.
+    /// The changes caused by each gesture (e: eye, c: centre, z: zoom). A locked view ignores all
+    /// gestures.
     void gestures()
     {
         const QList<QPair<const char*, Gesture>> gestures{

@@ -14,7 +14,7 @@
 using namespace testsupport;
 
 namespace {
-/// Returns all texts of a window, except those in its lists.
+/// Returns all texts of a window, except list entries.
 QStringList texts(const QWidget& window)
 {
     QStringList found{window.windowTitle()};

@@ -140,9 +140,9 @@ private Q_SLOTS:
     void snapshotsAndTransactionsNest_data()
     {
         // steps: s, t and l begin a snapshot, begin a transaction or lock a pair. S, T and L end
-        // the last of these; C ends a transaction by committing it. r reads other records, f
-        // releases a pair that is being read. A step is followed by "-" if another program cannot
-        // write.
+        // the most recent snapshot, transaction or lock; C commits a transaction. r reads other
+        // records, f releases a pair that is being read. A step is followed by "-" if another
+        // program cannot write.
         const Columns<QString, QByteArray, int> row("steps", "writable", "stored");
         row("snapshots that overlap", "ssSS", "---+", 0);
         row("reading in a snapshot", "srrS", "---+", 0);

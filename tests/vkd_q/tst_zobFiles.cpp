@@ -116,7 +116,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The check of all pages is a single instruction of SQLite.
+    /// SQLite checks all pages in a single instruction.
     void cancelledDuringTheCheck()
     {
         testsupport::FaultyDisk disk(m_folder.path());

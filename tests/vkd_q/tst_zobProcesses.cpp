@@ -74,7 +74,7 @@ static bool isWhole(const Records& records)
     return records.size() == 100 && records.count(records[0]) == 100;
 }
 
-/// Tests several processes that use one project, and processes that are killed while writing.
+/// Tests several processes that use the same project, and processes that are killed while writing.
 class TestZobProcesses : public QObject
 {
     Q_OBJECT
