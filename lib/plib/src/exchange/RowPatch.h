@@ -8,8 +8,8 @@
 
 namespace plib {
 
-/// Parameters that were copied, to be set in a row: some words of a record. Words that are not
-/// included stay as they are in the row.
+/// Copied parameters that can be applied to a row: some of the words of a record. Words that are
+/// not included do not change in the row.
 class RowPatch
 {
 public:
@@ -17,7 +17,7 @@ public:
     /// Includes all parameters of a record.
     explicit RowPatch(const tagZOB_QUAD_RIM& record);
 
-    int line = 0;   ///< of the table, counted from 1; for messages
+    int line = 0;   ///< line of the table, starting at 1; for messages
     QString groups; ///< as written in the table
 
     void setType(int type);

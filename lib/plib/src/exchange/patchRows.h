@@ -7,9 +7,9 @@
 
 namespace plib {
 
-/// Sets copied parameters in rows and leaves their groups. A single copied row is set in all of
-/// them, otherwise each copied row in its own. Returns the faults; if there are any, no row is
-/// changed.
+/// Applies copied parameters to rows without changing the groups of the rows. A single copied row
+/// is applied to all rows; otherwise each copied row is applied to the corresponding row. Returns
+/// the errors. If there are any, no row is changed.
 QStringList patchRows(const std::vector<RowPatch>& copied, int kindOfSystem, DesignRowList* rows);
 
 } // namespace plib

@@ -7,7 +7,7 @@
 
 namespace plib {
 
-/// The type of clipboard data that contains all parameters of rows exactly.
+/// The MIME type of clipboard data that contains all parameters of rows exactly.
 constexpr char RowRecordsType[] = "application/x-vkd-design-parameter-rows";
 
 /// Returns the parameters of rows as clipboard data.

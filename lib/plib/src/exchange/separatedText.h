@@ -6,18 +6,18 @@
 
 namespace plib {
 
-/// A table as text, with a line for each row: cells separated by tabs, semicolons or commas, and
-/// quoted if necessary. Spreadsheets copy and save tables in this form.
+/// Functions for a table as text with one line per row. Cells are separated by tabs, semicolons or
+/// commas and are quoted if necessary. Spreadsheets copy and save tables in this format.
 
 /// Returns the character that separates the cells of the first line: a tab, a semicolon or a comma.
-/// Without any of them it is a tab.
+/// If the line contains none of these characters, returns a tab.
 QChar separatorOf(const QString& text);
 
-/// Returns the cells of all lines. A cell that begins with a quote ends with the closing quote and
-/// may contain separators, line ends and doubled quotes.
+/// Returns the cells of all lines. A cell that begins with a quotation mark ends with the closing
+/// quotation mark and may contain separators, newlines and doubled quotation marks.
 QVector<QStringList> readCells(const QString& text, QChar separator);
 
-/// Returns a line of cells, with the line end.
+/// Returns a line of cells, including the newline.
 QString lineOfCells(const QStringList& cells, QChar separator);
 
 } // namespace plib

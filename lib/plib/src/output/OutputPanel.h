@@ -21,10 +21,10 @@ namespace plib {
 
 class SavedPage;
 
-/// The settings of an output page. This class has the scale and the font, which all pages have; a
-/// subclass adds the widgets of one kind of page, so that nothing else has to test whether they
-/// exist. The widgets are stored in the data of the page and owned by their parents. Panels emit no
-/// signals; the page connects the buttons.
+/// The settings of an output page. This class contains the scale and the font, which are common to
+/// all pages. A subclass adds the widgets of one kind of page, so that no other code has to check
+/// whether they exist. Pointers to the widgets are stored in the data of the page; their parents
+/// own them. Panels do not emit signals; the page connects the buttons.
 class OutputPanel
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_P_WidgetGraphicalOutput)
@@ -34,32 +34,33 @@ public:
 
     /// Creates the widgets as descendants of `box`, with the settings of a new page.
     virtual void build(QWidget* box) = 0;
-    /// Lays out the strip of settings, and the view buttons at the top of `right`. The tree of the
-    /// page must exist.
+    /// Lays out the settings strip, and places the view buttons at the top of `right`. The tree of
+    /// the page must already exist.
     virtual void layOut(QBoxLayout* right) = 0;
 
-    /// Returns the buttons of the views in the order of OutputView; a page may have none.
+    /// Returns the view buttons in the order of OutputView. A page may have none.
     virtual QList<QRadioButton*> viewButtons() const { return {}; }
-    /// Returns the buttons of the formats in the order of PageFormat; a page may have none.
+    /// Returns the format buttons in the order of PageFormat. A page may have none.
     virtual QList<QRadioButton*> formatButtons() const { return {}; }
-    /// Returns the widgets of the strip in the order of reading.
+    /// Returns the widgets of the settings strip in reading order.
     virtual QList<QWidget*> tabStops() const = 0;
 
-    /// Restores the settings of a new page, except the current rows of lists.
+    /// Restores the settings of a new page, except for the current rows of lists.
     virtual void reset();
-    /// Adapts the pictures to the format that the user selected.
+    /// Sets the number of pictures to match the format that the user has selected.
     virtual void followFormat() {}
 
-    /// Returns the settings, those that the page does not have with their default values.
+    /// Returns the settings. Settings that are not on the page have their default values.
     virtual OutputSettings settings() const;
-    /// Returns the settings as parts of the saved string.
+    /// Returns the settings as tagged strings for the saved string.
     virtual QString savedParts() const;
-    /// Shows the saved settings. Widgets whose part is missing are unchanged.
+    /// Shows the saved settings. Widgets whose tags are missing do not change.
     virtual void apply(const SavedPage& saved);
 
-    /// Returns the number of the checked view, -1 if none is checked.
+    /// Returns the index of the checked view, or -1 if none is checked.
     virtual int checkedView() const { return -1; }
-    /// Returns whether the view has to be sent to the animator when the page is first shown.
+    /// Returns whether the view must be sent to the animator when the page is shown for the first
+    /// time.
     virtual bool showsFixedView() const { return false; }
 
 protected:

@@ -7,18 +7,18 @@
 
 namespace plib {
 
-// The choices of the radio groups on a page. The values are the numbers of the entries, which the
-// saved string and the arguments of the command line contain.
+// The choices in the radio groups of a page. The values are the indexes of the entries, which are
+// used in the saved string and in command line arguments.
 enum class ScaleMode : int { Engineering, ToFit };
 enum class PageFormat : int { Portrait, Landscape };
 enum class PagePictures : int { One, Two };
 enum class OutputView : int { PlaneXY, PlaneXZ, PlaneYZ, Standard3D, UserDefined };
 
-/// The row "Auto" of the scale list.
+/// The index of the row "Auto" in the scale list.
 constexpr int AutoScaleRow = 0;
 
 /// The settings of a graphical output page that the script depends on. A page creates a new object
-/// for each script; the initial values are those of a new page.
+/// for each script. The default values are the settings of a new page.
 struct OutputSettings
 {
     VKD_P_WidgetGraphicalOutput_Progname variant = VKD_P_GraphicalOutput_Standard;
@@ -26,7 +26,7 @@ struct OutputSettings
     int scaleIndex = AutoScaleRow; ///< row of the scale list
     QString scaleText;             ///< text of that row, such as "1:100"
     int pageSplitId = 0;           ///< division of the sheet, 0 to 5; split variant only
-    bool hasFormat = true;         ///< false in the split variant, which has no format to choose
+    bool hasFormat = true;         ///< false in the split variant, which has no choice of format
     PageFormat formatId = PageFormat::Portrait;
     PagePictures picturesId = PagePictures::Two; ///< pictures on a page
     OutputView viewId = OutputView::Standard3D;
@@ -34,17 +34,16 @@ struct OutputSettings
     bool fillAreas = false;                     ///< iso areas are filled
 };
 
-/// Returns the rows of the scale list without the first one, "Auto", which is translated.
+/// Returns the rows of the scale list except for the first row, "Auto", which is translated.
 QStringList engineeringScales();
 /// Returns all rows of the scale list.
 QStringList scaleRows();
 
-/// Selects a row of the scale list and the engineering scale, as a click in the list of a page
-/// does.
+/// Selects a row of the scale list and the engineering scale, like a click in the list on a page.
 void chooseScale(int row, OutputSettings* settings);
 
-/// Selecting a format changes the number of pictures: a landscape sheet has one, a portrait sheet
-/// two.
+/// Returns the number of pictures that a format selects: one for a landscape sheet, two for a
+/// portrait sheet.
 PagePictures picturesForFormat(PageFormat format);
 void chooseFormat(PageFormat format, OutputSettings* settings);
 

@@ -6,12 +6,14 @@
 
 namespace plib {
 
-/// The saved string of an output page, read as parts and as settings. The string may come from
-/// another kind of page, so callers check that it has a part before they change the widget.
+/// Reads the saved string of an output page, by tag or as settings. The string may come from
+/// another kind of page. Therefore callers check whether it contains a tag before they change the
+/// widget.
 class SavedPage
 {
 public:
-    /// `present` are the settings that remain where the string has no valid part.
+    /// `present` contains the settings that remain in effect if their tags are missing or their
+    /// values are invalid.
     SavedPage(const QString& xml, const OutputSettings& present)
         : m_xml(xml)
         , m_settings(present)
@@ -21,7 +23,7 @@ public:
 
     const QString& xml() const { return m_xml; }
     const OutputSettings& settings() const { return m_settings; }
-    /// Returns the text of the part with this tag, null if there is none.
+    /// Returns the value of the tagged string with this tag, or a null string if there is none.
     QString part(const char* tag) const { return vkd_qt_readXMLpart(m_xml, 0, QLatin1String(tag)); }
     bool has(const char* tag) const { return !part(tag).isNull(); }
 
@@ -30,7 +32,7 @@ private:
     OutputSettings m_settings;
 };
 
-/// Returns a part of the saved string.
+/// Returns a tagged string for the saved string.
 inline QString savedPart(const char* tag, const QString& value)
 {
     return vkd_qt_writeXMLpart(value, QLatin1String(tag));

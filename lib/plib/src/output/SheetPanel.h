@@ -4,8 +4,8 @@
 
 namespace plib {
 
-/// The panel of all pages but the split page: format and pictures of the sheet, iso areas, and the
-/// views, which are beside the tree.
+/// The panel of all pages except the split page. It contains the format and the number of pictures
+/// of the sheet, the iso areas and, next to the tree, the views.
 class SheetPanel : public OutputPanel
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_P_WidgetGraphicalOutput)

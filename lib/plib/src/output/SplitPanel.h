@@ -4,8 +4,8 @@
 
 namespace plib {
 
-/// The panel of the split page: a list of divisions of the sheet. It has no choice of format,
-/// pictures, views and iso areas.
+/// The panel of the split page. It contains a list of sheet divisions, but no choice of format,
+/// pictures, views or iso areas.
 class SplitPanel : public OutputPanel
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_P_WidgetGraphicalOutput)

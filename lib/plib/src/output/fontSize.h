@@ -4,11 +4,12 @@
 
 namespace plib {
 
-/// Returns the properties of the font size field, in millimetres: its limits and its default value.
+/// Returns the description of the font size field, with its limits and its default value in
+/// millimetres.
 StructLineEdit fontSizeField();
 
-/// Converts a font size typed by a user to the format that the page stores: "2,5" becomes "2.5".
-/// Returns null if the field would refuse the text.
+/// Converts a font size typed by the user to the format that the page stores: "2,5" becomes "2.5".
+/// Returns a null string if the field would reject the text.
 QString fontSizeText(const QString& typed);
 
 } // namespace plib

@@ -6,7 +6,7 @@
 
 namespace plib {
 
-/// The tags of the parts in the saved string of an output page.
+/// The tags in the saved string of an output page.
 namespace savedtag {
 constexpr char Scale[] = "Scale";
 constexpr char Font[] = "Font";
@@ -18,11 +18,12 @@ constexpr char Camera[] = "Camera"; ///< in the persistent format
 constexpr char Plots[] = "List_4";  ///< selection text
 } // namespace savedtag
 
-/// Returns the text of the part with this tag, null if there is none.
+/// Returns the value of the tagged string with this tag, or a null string if there is none.
 using SavedPart = std::function<QString(const char* tag)>;
 
-/// Applies the parts that are settings. A setting is unchanged if its part is missing or invalid.
-/// The number of pictures is applied after the format and overrides the number set by the format.
+/// Applies the saved settings. A setting does not change if its tag is missing or its value is
+/// invalid. The number of pictures is applied after the format and overrides the number set by the
+/// format.
 void applySavedSettings(const SavedPart& part, OutputSettings* settings);
 
 } // namespace plib

@@ -5,8 +5,8 @@
 
 #include <QPixmap>
 
-/// Return the variant of a picture for the language of the desktop. The names are those used by the
-/// suite's developers.
+/// Return the variant of an image for the desktop language. The function names are those used by
+/// the suite's developers.
 inline QString GET_FILENAME_WITH_LANG(const QString& name)
 {
     return vkd_qt_getFileNameWithLang(name, vkd_lib_getvalue(VKD_SETTING_LANGUAGE));

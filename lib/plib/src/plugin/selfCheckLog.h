@@ -4,10 +4,11 @@
 
 namespace plib {
 
-/// Returns the path of the log file from the arguments of vkd_unittests(), with native separators.
+/// Determines the path of the log file from the arguments of vkd_unittests() and returns it with
+/// native separators.
 QString selfCheckLog(const QStringList& arguments);
 
-/// Returns whether QtTest can write to this file, and creates it. QtTest ends a file name at a
+/// Creates the file and returns whether QtTest can write to it. QtTest truncates a file name at a
 /// comma, and exits the process if it cannot open the file.
 bool canQtTestLogTo(const QString& log);
 

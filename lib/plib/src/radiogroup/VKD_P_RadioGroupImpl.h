@@ -8,9 +8,9 @@
 
 class QRadioButton;
 
-/// The implementation of VKD_P_RadioGroup, which forwards its operations to this class and emits
-/// those of its signals that the form of the row provides. Pointers to buttons, row and coupled
-/// widget are reset to null when their owners delete them.
+/// The implementation of VKD_P_RadioGroup, which forwards its functions to this class and emits
+/// only those signals that the kind of row provides. The pointers to the buttons, the row and the
+/// coupled widget are reset to null when their owners delete these objects.
 class VKD_P_RadioGroupImpl : public QObject
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     VKD_P_RadioGroupImpl();
     ~VKD_P_RadioGroupImpl() override;
 
-    /// Create the row. Return false if there already is one.
+    /// Create the row. Return false if there already is a row.
     bool init(QWidget* parent);
     bool initForLF(QWidget* parent, const std::list<ButtonID>& ids);
     bool initEchoOutput(QWidget* parent);
@@ -61,7 +61,7 @@ private:
     bool buildRow(QWidget* parent, const std::vector<Entry>& entries);
     QRadioButton* makeButton(QWidget* parent, const Entry& entry);
 
-    bool m_isBuilt = false; ///< stays true after the row is deleted by its parent
+    bool m_isBuilt = false; ///< remains true after the parent has deleted the row
     QLayout* m_layout = nullptr;
     QRadioButton* m_Manually = nullptr;
     QRadioButton* m_All = nullptr;

@@ -11,21 +11,22 @@ class VKD_QT_Dialog;
 
 namespace plib {
 
-/// A row of the design table: one set of parameters and the groups that it applies to.
+/// A row of the design table: one set of parameters and the groups to which it applies.
 struct DesignParameterRow
 {
     const VKD_A_BarDiameterData* barData = nullptr; ///< not owned; for texts
     tagZOB_QUAD_RIM record{};                       ///< distances in the edited form
-    /// Empty: no group named yet. Exactly -1: the remaining groups.
+    /// If empty, the row has no groups yet. If -1 is the only entry, the row is for the remaining
+    /// groups.
     std::vector<int> groups;
 };
 
-/// Returns whether the list represents all groups that no other row names. It must contain -1 and
-/// nothing else.
+/// Returns whether the list represents all groups that are not listed in any other row. Such a list
+/// contains only -1.
 bool isRemainingGroups(const std::vector<int>& groups);
 
-/// The state of one design parameter page. It is separate from the page, so that the rules on rows
-/// need no widget.
+/// The state of one design parameter page. It is separate from the page so that the functions that
+/// operate on rows do not need a widget.
 struct DesignParameterData
 {
     int kindOfSystem = 0;

@@ -10,8 +10,8 @@ namespace plib {
 
 using DesignRowList = std::vector<DesignParameterRow>;
 
-/// A change of the rows as a value: the rows that differ, before and after it. All rows above and
-/// below them are the same. Undo puts `before` in the place of `after`.
+/// A change to the rows as a value: the rows that differ, before and after the change. All rows
+/// above and below them are identical. Undo replaces `after` with `before`.
 struct RowsChange
 {
     int first = 0;
@@ -21,19 +21,19 @@ struct RowsChange
     bool isEmpty() const { return before.empty() && after.empty(); }
 };
 
-/// Returns whether two rows have the same groups, in the same order, and the same parameters, bit
-/// by bit.
+/// Returns whether two rows have the same groups in the same order and bitwise identical
+/// parameters.
 bool haveSameContent(const DesignParameterRow& a, const DesignParameterRow& b);
 
-/// Returns the difference between two states of the rows. The caller may know that the first `head`
-/// and the last `tail` rows are the same; they are not compared then.
+/// Returns the difference between two states of the rows. If the caller knows that the first `head`
+/// and the last `tail` rows are identical, these rows are not compared.
 RowsChange changeBetween(const DesignRowList& before, const DesignRowList& after,
                          std::size_t head = 0, std::size_t tail = 0);
 
-/// Replaces `count` rows from `first` on.
+/// Replaces `count` rows starting at `first`.
 void replaceRows(DesignRowList& rows, int first, int count, const DesignRowList& by);
 
-/// A user's step that changes rows.
+/// A user action that changes rows.
 enum class RowsStep {
     Groups,
     Type,
@@ -48,8 +48,8 @@ enum class RowsStep {
     Duplicate,
 };
 
-/// Returns the name of a step for the user, such as "Reinforcement of row 3". Rows are counted from
-/// 1 in texts.
+/// Returns the name of a step that is shown to the user, such as "Reinforcement of row 3". Row
+/// numbers in the name start at 1.
 QString nameOf(RowsStep step, const std::set<int>& rows);
 
 } // namespace plib

@@ -12,9 +12,9 @@ namespace plib {
 /// The text does not contain the minimum and maximum reinforcement, `mode` and the reserved words.
 QString entryText(const tagZOB_QUAD_RIM& record);
 
-/// Reads an entry into the record of a row, in the stored form. Fields that the text does not
-/// contain are unchanged; a text of fewer than seven fields changes nothing. A value that is not a
-/// number becomes 0.
+/// Reads an entry into the record of a row, in the stored form. Fields that are missing from the
+/// text do not change. A text with fewer than seven fields has no effect. A value that is not a
+/// number is read as 0.
 void parseEntry(const QString& text, DesignParameterRow& row);
 
 /// Appends the rows without groups that are saved in the entries `MerPara1`, `MerPara2` and so on

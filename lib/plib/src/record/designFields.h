@@ -12,12 +12,12 @@ namespace plib {
 
 using RealField = float tagZOB_QUAD_RIM::*;
 
-/// The six fields of one kind, in the order of the record: upper side principal, cross, third
-/// layer, then the lower side.
+/// The six fields of one kind, in the order of the record: principal, cross and third layer of the
+/// upper side, followed by those of the lower side.
 using SixFields = std::array<RealField, 6>;
 
-/// Tables of the real fields by kind. The rules of the record, the entries, the texts and the
-/// dialogs iterate over them.
+/// Tables of the real fields by kind. The code for records, entries, texts and dialogs iterates
+/// over them.
 namespace fields {
 using R = tagZOB_QUAD_RIM;
 constexpr SixFields Directions{&R::rio, &R::rioq, &R::rioi, &R::riu, &R::riuq, &R::riui};
@@ -30,7 +30,7 @@ constexpr SixFields CrackWidths{&R::wko, &R::wkoq, &R::wkoi, &R::wku, &R::wkuq, 
 constexpr SixFields Stresses{&R::sigo, &R::sigoq, &R::sigoi, &R::sigu, &R::siguq, &R::sigui};
 } // namespace fields
 
-/// Returns the dimension code of a real field, -1 for reserved fields.
+/// Returns the dimension code of a real field, or -1 for a reserved field.
 int dimensionCode(RealField field);
 
 using NamedField = vkd::plib::designparameter::RecordWord;

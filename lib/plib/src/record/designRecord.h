@@ -17,17 +17,17 @@ enum DesignType {
     Circular = 4,
 };
 
-/// Returns the default record of a new row, in the stored form. For the remaining groups it has
-/// group -1 and type 1, otherwise group 0 and no design.
+/// Returns the default record of a new row, in the stored form. The record for the remaining groups
+/// has group -1 and type 1; any other record has group 0 and no design.
 tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups);
 
 /// Returns whether elements in this kind of system have distances between layers. Elements in plane
-/// systems (10 to 19) have none, because their layers are not above each other.
+/// systems (10 to 19) do not, because their layers are not above each other.
 bool hasDistances(int kindOfSystem);
 
-/// Converts the distances from the stored to the edited form. A spacing becomes not set if the
-/// layers are not in ascending order. All six become not set if the kind of system has no
-/// distances.
+/// Converts the distances from the stored to the edited form. A spacing is reset to "not set" if
+/// the layers are not in ascending order. All six fields are reset to "not set" if the kind of
+/// system has no distances.
 void toEditedForm(tagZOB_QUAD_RIM& record, int kindOfSystem);
 
 /// Converts the distances back to the stored form.
@@ -37,8 +37,8 @@ void toStoredForm(tagZOB_QUAD_RIM& record, int kindOfSystem);
 /// must come from the store and be in the edited form.
 void cleanRecord(tagZOB_QUAD_RIM& record);
 
-/// Returns whether two records have the same parameters: all fields from `type` on, except
-/// `reservedD` and `reservedS`. A NaN is unequal to everything, including itself.
+/// Returns whether two records have the same parameters: all fields starting at `type`, except
+/// `reservedD` and `reservedS`. A NaN is not equal to any value, including itself.
 bool recordsEqual(const tagZOB_QUAD_RIM& a, const tagZOB_QUAD_RIM& b);
 
 /// Returns whether the record belongs to the design parameters and not to another program.

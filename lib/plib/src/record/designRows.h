@@ -7,30 +7,30 @@
 namespace plib {
 
 /// Sorts the groups of a row and returns the row, or null if there is no such row. All code that
-/// shows or edits the groups of a row uses this function, so that a list on the screen is always
+/// shows or edits the groups of a row uses this function, so that displayed lists are always
 /// sorted.
 DesignParameterRow* rowAt(DesignParameterData& data, int row);
 
 /// Returns whether there is a row for the remaining groups.
 bool hasRemainingRow(const DesignParameterData& data);
 
-/// Appends the groups of all rows except the given one and rows for the remaining groups, and sorts
-/// the whole list. A group in two rows occurs twice in the list.
+/// Appends the groups of all rows, except the given row and rows for the remaining groups, and
+/// sorts the whole list. A group in two rows occurs twice in the list.
 void collectUsedGroups(const DesignParameterData& data, int row, std::vector<int>& list);
 
-/// Returns whether there is a row without groups, which has no place in the project's records.
+/// Returns whether there is a row without groups, which cannot be stored in the project's records.
 bool hasRowWithoutGroups(const DesignParameterData& data);
 
-/// Row 0 is reserved for the remaining groups, whatever its groups are. It can be neither moved nor
-/// deleted.
+/// Row 0 is reserved for the remaining groups, regardless of its actual groups. It can be neither
+/// moved nor deleted.
 bool mayMoveUp(const DesignParameterData& data, int row);
 bool mayMoveDown(const DesignParameterData& data, int row);
 
-/// Removes these rows, in one pass.
+/// Removes these rows in one pass.
 void removeRows(DesignParameterData& data, const std::set<int>& rows);
 
 /// Removes groups from all rows, because a group has only one record. Deletes rows that lose their
-/// last group; rows that had none remain.
+/// last group; rows that already had no groups remain.
 void removeGroups(DesignParameterData& data, const std::vector<int>& groups);
 
 } // namespace plib

@@ -4,7 +4,7 @@
 
 namespace plib {
 
-/// Stores a default record for the remaining groups if the project has no design records at all.
+/// Stores a default record for the remaining groups if the project has no design records.
 void checkAndCreateZobDefault(int index);
 
 /// Appends the project's records as rows. Consecutive records with equal parameters become one row.
@@ -15,9 +15,9 @@ void readRowsFromZob(DesignParameterData& data);
 DesignParameterRow defaultRow(const DesignParameterData& data);
 DesignParameterRow& addDefaultRow(DesignParameterData& data);
 
-/// Replaces the project's records with those of the rows: one for each group, starting with the
-/// remaining groups. Rows without groups are not stored. The first call converts the rows to the
-/// stored form, in which they stay, and sets `converted`.
+/// Replaces the project's records with the records of the rows: one record per group, starting with
+/// the remaining groups. Rows without groups are not stored. The first call converts the rows to
+/// the stored form, in which they remain, and sets `converted`.
 ///
 /// Records of other programs are moved to the scratch store and not restored. This loss is
 /// intended, because the key pair belongs to the design parameters.

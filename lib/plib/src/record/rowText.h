@@ -7,7 +7,7 @@
 
 namespace plib {
 
-/// The untranslated names of the design types; the index is the type.
+/// The untranslated names of the design types, indexed by type.
 constexpr const char* DesignTypeNames[] = {
     QT_TRANSLATE_NOOP("DesignParameter", "No design"),
     QT_TRANSLATE_NOOP("DesignParameter", "Two Layers (orthogonal)"),
@@ -16,9 +16,9 @@ constexpr const char* DesignTypeNames[] = {
     QT_TRANSLATE_NOOP("DesignParameter", "Circular"),
 };
 
-/// Returns a summary of one or two lines for a column of the row. The columns are 0 groups, 1 type,
-/// 2 directions and distances, 3 reinforcement, 4 crack control. The text is empty for other
-/// columns, and in columns 2 to 4 for a type without design.
+/// Returns a summary of one or two lines for a column of the row. The columns are 0 for groups, 1
+/// for the type, 2 for directions and distances, 3 for reinforcement and 4 for crack control.
+/// Returns an empty string for other columns, and in columns 2 to 4 for a type without design.
 QString rowText(const DesignParameterRow& row, int column);
 
 /// Returns the text of one value, which is given in base units: " - " if it is not set, the name of

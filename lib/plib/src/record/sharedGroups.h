@@ -6,26 +6,25 @@
 
 namespace plib {
 
-/// A group that more than one row names, with these rows in ascending order. Such a group is
-/// probably a mistake: each of the rows stores a record for it, and only one can be meant. -1
-/// represents the remaining groups.
+/// A group that is listed in more than one row, with these rows in ascending order. Such a group is
+/// probably an error: each of the rows stores a record for it, but only one record can be intended.
+/// -1 represents the remaining groups.
 struct SharedGroup
 {
     int group = 0;
     std::vector<int> rows;
 };
 
-/// Returns the groups that more than one row names, in ascending order. A row that names a group
-/// twice counts once.
+/// Returns the groups that are listed in more than one row, in ascending order. A row that lists a
+/// group twice counts once.
 std::vector<SharedGroup> sharedGroups(const std::vector<DesignParameterRow>& rows);
 
-/// Returns for each of the `rowCount` rows the shared groups that it names, as pointers into
-/// `shared`.
+/// Returns the shared groups of each of the `rowCount` rows, as pointers into `shared`.
 std::vector<std::vector<const SharedGroup*>>
 sharedGroupsOfRows(const std::vector<SharedGroup>& shared, std::size_t rowCount);
 
-/// Returns a text with a line for each of these groups, which lists the other rows that name it,
-/// counted from 1. Long lists are shortened. The text is empty if there are no groups.
+/// Returns a message with one line per group that lists the other rows with this group. Row numbers
+/// start at 1. Long lists are shortened. Returns an empty string if there are no groups.
 QString sharedGroupsText(int row, const std::vector<const SharedGroup*>& shared);
 
 } // namespace plib

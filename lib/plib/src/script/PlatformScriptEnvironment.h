@@ -6,11 +6,11 @@ class VKD_H_PluginParameter;
 
 namespace plib {
 
-/// Provides the texts of a script from the platform for the project of a page.
+/// Obtains the texts of a script from the platform for the project of a page.
 class PlatformScriptEnvironment : public ScriptEnvironment
 {
 public:
-    /// `parameter` is not owned and outlives this object.
+    /// `parameter` is not owned and must outlive this object.
     explicit PlatformScriptEnvironment(VKD_H_PluginParameter* parameter);
 
     QString programHead() const override;

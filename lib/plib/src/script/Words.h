@@ -6,7 +6,7 @@
 
 namespace plib {
 
-/// A text of the script in both keyword languages. They are in one place so that both are changed
+/// A script text in both keyword languages. Both versions are in one place so that they are changed
 /// together.
 struct Words
 {

@@ -13,20 +13,19 @@ class ScriptEnvironment
 {
 public:
     virtual ~ScriptEnvironment() = default;
-    /// Returns the head of the program block, including its line ends.
+    /// Returns the head of the program block, including its newlines.
     virtual QString programHead() const = 0;
-    /// Returns the end of the program block, without a line end.
+    /// Returns the end of the program block, without a newline.
     virtual QString programEnd(Keywords keywords) const = 0;
-    /// Returns whether the model contains area elements. Called only for a script that is not
-    /// empty.
+    /// Returns whether the model contains area elements. Called only if the script is not empty.
     virtual bool hasQuads() const = 0;
-    /// Returns the user's camera in the format that follows the keyword for a stored view.
+    /// Returns the user's camera in the format used after the keyword for a stored view.
     virtual QString camera() const = 0;
 };
 
 /// Returns the script for the lines of the checked plots, with English or German keywords. It is
-/// empty if there are no lines, whatever `additional` contains. The split variant returns the page
-/// setup as two alternatives instead, with or without lines.
+/// empty if there are no lines, regardless of `additional`. In the split variant, returns two
+/// alternative page setups instead, even if there are no lines.
 QString outputScript(const OutputSettings& settings, const std::vector<QString>& lines,
                      const QString& additional, Keywords keywords,
                      const ScriptEnvironment& environment);
@@ -35,14 +34,14 @@ QString outputScript(const OutputSettings& settings, const std::vector<QString>&
 QString viewClause(const OutputSettings& settings, Keywords keywords,
                    const ScriptEnvironment& environment);
 
-/// Returns the page setup statement, without a line end after it. It consists of two lines if two
-/// pictures share a page.
+/// Returns the page setup statement, without a trailing newline. The statement consists of two
+/// lines if two pictures share a page.
 QString sizeStatement(const OutputSettings& settings, Keywords keywords);
 
-/// Returns the font statement; in the split variant only the font size, in centimetres.
+/// Returns the font statement. In the split variant, returns only the font size in centimetres.
 QString fontStatement(const OutputSettings& settings, Keywords keywords);
 
-/// Returns five definitions that set whether areas are filled.
+/// Returns five definitions that specify whether areas are filled.
 QString fillDefinitions(bool fill, Keywords keywords);
 
 } // namespace plib

@@ -11,7 +11,8 @@
 
 namespace plib {
 
-/// The keywords of one language, and the view and load case set by the lines written so far.
+/// The keywords of one language, and the current view and load case according to the lines written
+/// so far.
 struct ScriptContext
 {
     int lastCase = -1;
@@ -27,8 +28,8 @@ struct ScriptContext
 
 ScriptContext scriptContext(Keywords keywords);
 
-/// Writes the script lines of one run. collectScriptLines() walks the tree; this class has the
-/// rules for a single checked plot or row.
+/// Writes the script lines of one run. collectScriptLines() traverses the tree; this class
+/// implements the rules for a single checked plot or row.
 class ScriptLineWriter
 {
 public:
@@ -41,9 +42,9 @@ public:
     /// Returns the script text of a record in the language of the run.
     const QString& script(const GraphicalOutputRecord& record) const;
     void writeView(int viewKind);
-    /// Writes all lines of a load case, whose number must be above 0. `label` returns its label and
-    /// is called only if needed. `above` returns the record of the second caption, or null; the
-    /// script of this record determines the unit.
+    /// Writes all lines of a load case, whose number must be greater than 0. `label` returns the
+    /// label of the load case and is called only if needed. `above` returns the record of the
+    /// second caption, or null. The script of this record determines the unit.
     template <typename Label, typename Above>
     void writeCase(int number, const QString& text, Label label, Above above)
     {
@@ -91,8 +92,9 @@ void writeChildren(Node* parent, ScriptLineWriter& writer)
         if (item->number == 0)
             writer.writeText(text);
         else if (item->number > 0)
-            // The parent of a row is its plot. On purpose, the unit is determined by the item above
-            // the plot, which has the record of its first plot, and not by the plot's own record.
+            // The parent of a row is its plot. The unit is intentionally determined by the item
+            // above the plot, which has the record of its first plot, and not by the plot's own
+            // record.
             writer.writeCase(
                 item->number, text, [item] { return item->text(0); },
                 [parent] {
