@@ -13,7 +13,8 @@ namespace {
 constexpr char FileName[] = "graphicaloutput.data";
 constexpr int SearchMode = 3;
 
-/// Translates in the context of the tree: the messages concern the tree, which stays empty.
+/// Translates messages in the context of the tree, because they concern the tree, which remains
+/// empty.
 struct TreeText
 {
     Q_DECLARE_TR_FUNCTIONS(GraphicalOutputTreeWidget)

@@ -27,7 +27,7 @@ bool isAscii(const char* bytes, int length)
     return !(all & Q_UINT64_C(0x8080808080808080));
 }
 
-/// Equals QChar::isSpace() for ASCII characters.
+/// Equivalent to QChar::isSpace() for ASCII characters.
 bool isSpace(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
@@ -75,8 +75,8 @@ CatalogueParser::Outcome CatalogueParser::parseLine(const char* bytes, int lengt
                                   : parseText(QString::fromUtf8(bytes, length));
 }
 
-/// Does the same as parseText() for a line of pure ASCII, in which each byte is a character. Most
-/// lines are of this kind, and splitting bytes is much faster.
+/// Does the same as parseText(), but for a line of pure ASCII, in which each byte is a character.
+/// Most lines are pure ASCII, and splitting bytes is much faster.
 CatalogueParser::Outcome CatalogueParser::parseAscii(const char* bytes, int length)
 {
     const char* const end = bytes + length;
@@ -185,7 +185,7 @@ void CatalogueParser::storeCaseWord(const QString& part)
 void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list)
 {
     vkd_lib_opentext("grav");
-    constexpr int ShortLine = 128; // bytes; longer lines leave some room unused
+    constexpr int ShortLine = 128; // bytes; longer lines leave some capacity unused
     list.reserve(list.size() + size_t(device.bytesAvailable() / ShortLine));
     CatalogueParser parser;
     char line[CatalogueParser::LineBuffer];

@@ -10,7 +10,7 @@ namespace plib {
 namespace {
 using vkd::zob::keys::DesignLines;
 
-/// The platform has no query for design lines. The second key is ignored on purpose.
+/// The platform has no query for design lines. The second key is intentionally ignored.
 bool hasDesignLines(int index, int*)
 {
     vkd::zob::KeyPair found = DesignLines;

@@ -12,9 +12,9 @@ constexpr int TokenLength = 4;
 /// The text that a qualifier adds to a caption.
 struct Addition
 {
-    const char* characters; ///< the qualifiers that add it
+    const char* characters; ///< qualifiers that add it
     const char* token;
-    const char* suffix; ///< "%" is replaced by the qualifier
+    const char* suffix; ///< "%" is replaced with the qualifier
 };
 
 constexpr Addition FirstAdditions[] = {
@@ -39,7 +39,7 @@ bool isTokenSign(QChar sign)
     return sign == QLatin1Char('&') || sign == QLatin1Char('^') || sign == QLatin1Char('$');
 }
 
-/// Returns the text of class 0, 1 or 4 for a token.
+/// Returns the message of class 0, 1 or 4 for a token.
 QString tokenText(QStringView token)
 {
     const QChar sign = token.at(0);
@@ -47,15 +47,14 @@ QString tokenText(QStringView token)
     const QByteArray key = token.mid(1, 3).toLatin1();
     const QString text = QString::fromStdString(
         vkd_lib_convtext(textClass, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), key.constData()));
-    // Removes a short form before the first ">". A ">" at the very beginning is part of the text.
+    // Removes an abbreviation before the first ">". A ">" at the beginning is part of the text.
     const int mark = textClass == 0 ? text.indexOf(QLatin1Char('>')) : -1;
     return mark > 0 ? text.mid(mark + 1) : text;
 }
 
 enum class Place { Behind, Before };
 
-/// Adds the text of the token, which may be empty, and the suffix. The suffix is added even if the
-/// token has no text.
+/// Adds the text of the token and the suffix. The suffix is added even if the token has no text.
 void expand(QStringView token, const QString& suffix, Place place, QString* out)
 {
     const QLatin1Char blank(' ');
@@ -99,7 +98,7 @@ QString captionText(const QString& field)
     const QStringView base = QStringView(field).mid(qualified ? QualifierLength : 0, TokenLength);
     if (!base.isEmpty() && !isTokenSign(base.at(0)))
         return QString();
-    QString out(QLatin1String("")); // not null, even if the token has no text
+    QString out(QLatin1String("")); // not a null string, even if the token has no text
     expand(base, QString(), Place::Behind, &out);
     if (!qualified)
         return out;

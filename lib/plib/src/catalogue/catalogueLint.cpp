@@ -36,11 +36,11 @@ private:
     void checkCaption(const GraphicalOutputRecord& record, int program, int level,
                       const QString& caption);
 
-    using OnPage = QPair<int, QString>; // the kind of page and an identifier in its tree
+    using OnPage = QPair<int, QString>; // kind of page and identifier in its tree
 
     CatalogueParser m_parser;
     int m_line = 0;
-    int m_englishLine = 0;                         // the last line with an English script
+    int m_englishLine = 0;                         // last line with an English script
     QHash<OnPage, std::array<int, 4>> m_plots;     // lines by kind of system
     QHash<OnPage, QPair<QString, int>> m_captions; // caption and line
 };
@@ -132,7 +132,7 @@ void CatalogueLint::checkIdentifiers(const GraphicalOutputRecord& record)
 }
 
 /// Plots for different kinds of system may share an identifier: a tree shows only one of them, so a
-/// stored choice is unambiguous.
+/// stored selection is unambiguous.
 void CatalogueLint::checkPlotIdentifier(const GraphicalOutputRecord& record, int program)
 {
     std::array<int, 4>& lines = m_plots[{program, itemId(record, 2)}];

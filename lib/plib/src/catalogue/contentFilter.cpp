@@ -43,7 +43,7 @@ int systemBit(int kind)
     switch (kind / 10) { // rounds towards zero, so -9 to 9 are one range
     case 0:
     case 2: return 8;
-    // Kinds 10, 11, 14 and 15 have the bit 1.
+    // Kinds 10, 11, 14 and 15 have bit 1.
     case 1: return ((kind - 10) & ~5) == 0 ? 1 : 2;
     case 3: return 4;
     case 4: return 0;
@@ -59,7 +59,8 @@ bool isRecordOffered(const GraphicalOutputRecord& record, int progname, const Mo
     const int mask = record.systemMask & AnySystem;
     if (mask && !(mask & systemBit(model.kindOfSystem())))
         return false;
-    // On purpose case sensitive, unlike hasContent(): hosts spell a tag as the catalogue does.
+    // The comparison is intentionally case-sensitive, unlike in hasContent(), because hosts use the
+    // same spelling as the catalogue.
     if (!hasContent(record.contentTag, model) &&
         std::find(additional.begin(), additional.end(), record.contentTag) == additional.end())
         return false;

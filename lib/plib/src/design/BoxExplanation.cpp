@@ -11,7 +11,7 @@ BoxExplanation::BoxExplanation(QObject* opener, const QString& text)
     opener->installEventFilter(this);
 }
 
-/// ChildPolished is the right event because it comes after the box is complete and just before it
+/// Handles ChildPolished, because this event is sent after the box is complete and just before it
 /// is shown.
 bool BoxExplanation::eventFilter(QObject* opener, QEvent* event)
 {

@@ -47,8 +47,8 @@ DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWi
     barTable.load(doc->index());
 }
 
-/// Disconnects from the application, because the focus still changes while the table is destroyed,
-/// and the slots must not run then.
+/// Disconnects from the application, because the focus still changes while the table is being
+/// destroyed, when the slots must no longer run.
 DesignParameter::~DesignParameter()
 {
     disconnect(qApp, nullptr, this, nullptr);
@@ -128,8 +128,8 @@ void DesignParameter::readZob()
     refreshRows(-1);
 }
 
-/// Moves the focus to the table, because the choice in an open list of types takes effect only when
-/// the list loses the focus.
+/// Moves the focus to the table, because the selection in an open list of types takes effect only
+/// when the list loses focus.
 void DesignParameter::finishEditing()
 {
     const QWidget* focus = QApplication::focusWidget();
@@ -181,7 +181,7 @@ void DesignParameter::addTableRow()
 {
     const int target = data->table->rowCount() + 1;
     data->table->addNewRow(false);
-    while (data->table->rowCount() > target) // the base class may add more than one
+    while (data->table->rowCount() > target) // the base class may add more than one row
         data->table->removeRow(data->table->rowCount() - 1);
 }
 
@@ -189,7 +189,8 @@ void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool is
 {
     Table* table = data->table;
     const VKD_QT_SignalBlocker blocker(table);
-    // A row that was just inserted is repainted anyway, so the view needs no signal for each cell.
+    // A row that has just been inserted is repainted anyway, so the view does not need a signal for
+    // each cell.
     const VKD_QT_SignalBlocker silent(isNew ? table->model() : nullptr);
     if (isNew)
         table->createEmptyItems(number);
@@ -204,8 +205,8 @@ void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool is
     }
 }
 
-/// Updates the texts of a row; with -1, appends all rows to an empty table. Groups are listed in
-/// their current order, which is not necessarily sorted.
+/// Updates the texts of a row. If `number` is -1, appends all rows to an empty table. Groups are
+/// listed in their current order, which is not necessarily sorted.
 void DesignParameter::refreshRows(int number)
 {
     if (number != -1) {
@@ -230,7 +231,7 @@ bool DesignParameter::isRow(int row) const
     return row >= 0 && row < int(data->rows.size()) && row < data->table->rowCount();
 }
 
-/// Changes the type only: values entered for a third layer are preserved when the type changes to
+/// Changes only the type. Values entered for a third layer are preserved when the type changes to
 /// two layers.
 void DesignParameter::slot_typComboChanged(QTableWidgetItem* item)
 {
@@ -295,7 +296,7 @@ void DesignParameter::slot_down()
         swapRows(row, row + 1);
 }
 
-/// An open editor stays on its cell until the current cell moves to the other row.
+/// An open editor remains at its cell until the current cell moves to the other row.
 void DesignParameter::swapRows(int row, int other)
 {
     const RecordedStep step(this, other < row ? RowsStep::Up : RowsStep::Down, {row});

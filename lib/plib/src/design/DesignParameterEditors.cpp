@@ -34,8 +34,9 @@ using Table = DesignParameterTable;
 
 namespace {
 
-/// Ids of combo entries that set the groups of a row when its cell is left. The entries of
-/// dlgSelection have no ids, because the choice of the user is already stored in the row by then.
+/// Ids of combo box entries that set the groups of a row when the user leaves the cell. The entries
+/// of dlgSelection have no ids, because at that time the user's selection is already stored in the
+/// row.
 enum SelectionId {
     NoneId = 0,
     RemainingId = 1,
@@ -43,15 +44,15 @@ enum SelectionId {
 } // namespace
 
 /// Moves the editor to the current cell. If a cell is selected again, its editor is closed and not
-/// reopened. Selecting a cell in a row without design also closes the editor, but the cell of that
-/// editor stays remembered, so that returning to it counts as selecting it again.
+/// reopened. Selecting a cell in a row without design also closes the editor. However, the cell of
+/// the closed editor is still stored, so that returning to this cell counts as selecting it again.
 void DesignParameter::slot_editCellWidget()
 {
     Table* table = data->table;
     const int row = table->currentRow();
     const int column = table->currentColumn();
     if (row == 0 && column == 0)
-        return; // this cell has no editor; an open one elsewhere stays
+        return; // no editor for this cell; an open editor elsewhere remains
     if (row == editRow && column == editColumn && hasFocusInEditor())
         return; // a click into the editor selects its cell; this must not close it
     closeCellWidget();
@@ -80,8 +81,8 @@ bool DesignParameter::hasFocusInEditor() const
     return editor && focused && (editor == focused || editor->isAncestorOf(focused));
 }
 
-/// An editor may stay open while another cell is the current one. If it is used, its cell must
-/// become current again, because the slots work on the current row.
+/// An editor may remain open while another cell is current. If the editor is used, its cell must
+/// become current again, because the slots operate on the current row.
 void DesignParameter::makeEditedCellCurrent()
 {
     if (data->table->currentRow() == editRow && data->table->currentColumn() == editColumn)
@@ -116,7 +117,7 @@ void DesignParameter::clearCellWidget(int row, int column)
         return;
     if (hasFocusInEditor())
         data->table->setFocus();
-    widget->hide(); // it is deleted later, possibly after a dialog has run
+    widget->hide(); // deleted later, possibly after a dialog has been closed
     data->table->setCellWidget(row, column, nullptr);
 }
 
@@ -151,12 +152,12 @@ void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
     const auto& kind = kinds[data->table->getColumnId(column) - Table::DirectionAndDistance];
     auto button = new Button(data->table, item, kind.modus);
     layOver(row, column, button);
-    // In a window that is not active, a press does not give the button the focus.
+    // In an inactive window, pressing the button does not move the focus to it.
     connect(button, &QPushButton::pressed, this, &DesignParameter::makeEditedCellCurrent);
     connect(button, &QPushButton::clicked, this, kind.slot);
 }
 
-/// Puts an editor over a cell and makes it follow the table in the tab order.
+/// Places an editor over a cell, directly after the table in the tab order.
 void DesignParameter::layOver(int row, int column, QWidget* editor)
 {
     data->table->setCellWidget(row, column, editor);
@@ -189,7 +190,7 @@ void DesignParameter::editRecord(RowsStep name, Arguments... arguments)
     focusTable();
     if (result != QDialog::Accepted)
         return;
-    edited = plib::rowAt(*data, row); // the rows may have been reloaded meanwhile
+    edited = plib::rowAt(*data, row); // the rows may have been reloaded during the dialog
     if (!edited)
         return;
     const RecordedStep step(this, name, {row});
@@ -266,8 +267,8 @@ void DesignParameter::slot_openSekGroups()
     takeGroups(data->table->currentRow(), confirmed);
 }
 
-/// Returns the focus to the table after a dialog, so that the keyboard can continue with the next
-/// cell. The window may not be active again yet.
+/// Returns the focus to the table after a dialog, so that the user can continue with the next cell
+/// by keyboard. The window may not be active yet.
 void DesignParameter::focusTable()
 {
     const QWidget* focused = window()->focusWidget();
@@ -292,7 +293,8 @@ void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
     showSharedGroups();
 }
 
-/// Updates the marks in all rows, because a change of the groups of one row may affect any other.
+/// Updates the marks in all rows, because a change to the groups of one row may affect any other
+/// row.
 void DesignParameter::showSharedGroups()
 {
     const VKD_QT_SignalBlocker blocker(data->table);
@@ -312,7 +314,7 @@ void DesignParameter::showSharedGroupsInEditor(int row)
 
 /// Compares the text with translations in the context of this class. dlgSelection translates its
 /// entries in its own context, so both translations must be the same. The text of the cell is
-/// updated when the cell is left.
+/// updated when the user leaves the cell.
 void DesignParameter::slot_selectionComboChanged(QString text)
 {
     const int row = data->table->currentRow();
@@ -337,5 +339,5 @@ void DesignParameter::slot_onReopenGroups()
         takeGroups(data->table->currentRow(), picked);
 }
 
-/// Empty on purpose: secondary groups cannot be picked in the view.
+/// Intentionally empty: secondary groups cannot be picked in the 3D view.
 void DesignParameter::slot_onReopenGroupsSecondary() {}

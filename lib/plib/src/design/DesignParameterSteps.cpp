@@ -1,4 +1,4 @@
-// The part of DesignParameter that replaces rows as a whole, for undo and the clipboard.
+// The part of DesignParameter that replaces whole rows, for undo and the clipboard.
 
 #include "design/DesignParameter.h"
 
@@ -21,7 +21,8 @@ bool haveSameGroups(const plib::DesignRowList& rows, int first, int count,
 }
 } // namespace
 
-/// Closes the editor first, because it belongs to a row. It is opened again by the selection.
+/// Closes the editor first, because it belongs to a row. Restoring the selection reopens the
+/// editor.
 void DesignParameter::replaceRows(int first, int count, const plib::DesignRowList& by,
                                   const plib::TableSelection& selection)
 {

@@ -5,15 +5,15 @@
 #include <QHeaderView>
 
 namespace {
-constexpr int MostLines = 4; // two lines of text, each wrapped once
+constexpr int MostLines = 4; // two lines of text, each wrapped at most once
 constexpr int RowMargin = 8;
-constexpr int MostRowsToFit = 500; // above that, measuring texts would take longer than filling
+constexpr int MostRowsToFit = 500; // for more rows, measuring would take longer than filling
 } // namespace
 
 DesignParameterTable::DesignParameterTable(QWidget* parent)
     : VKD_H_TableWidget(0, ColumnCount, parent, "table")
 {
-    setVerticalScrollMode(ScrollPerPixel);           // rows are too tall for scrolling by item
+    setVerticalScrollMode(ScrollPerPixel);           // rows are too tall to scroll by item
     horizontalHeader()->setHighlightSections(false); // bold headers would be truncated
     verticalHeader()->setDefaultSectionSize(MostLines * fontMetrics().lineSpacing() + RowMargin);
     verticalHeader()->setMinimumSectionSize(2 * fontMetrics().lineSpacing() + RowMargin);
@@ -32,7 +32,8 @@ void DesignParameterTable::fitRows()
         resizeRowsToContents();
 }
 
-/// Lays out the table first, because the scroll range does not include a row that was just added.
+/// Lays out the table first, because the scroll range does not yet include a row that has just been
+/// added.
 void DesignParameterTable::bringIntoView(int row)
 {
     executeDelayedItemsLayout();

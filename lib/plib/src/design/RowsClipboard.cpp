@@ -57,7 +57,7 @@ QAction* RowsClipboard::addAction(const char* name, const QString& text, const Q
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(action, &QAction::triggered, this, [this, run] {
-        m_page->finishEditing(); // which may be a step of its own
+        m_page->finishEditing(); // may be a separate undo step
         (this->*run)();
     });
     m_page->addAction(action);
@@ -73,7 +73,7 @@ DesignRowList RowsClipboard::selectedRows() const
     return rows;
 }
 
-/// The clipboard outlives this library, so none of its texts may be a constant of the library.
+/// The clipboard outlives this library, so it must not contain string literals from the library.
 void RowsClipboard::copy()
 {
     const DesignRowList rows = selectedRows();
@@ -161,7 +161,7 @@ void RowsClipboard::duplicate()
     append(RowsStep::Duplicate, m_page->state().table->getSelectetRows(), added);
 }
 
-/// Appends rows and selects them, with the current cell where their groups are assigned.
+/// Appends rows and selects them. The current cell is the cell in which their groups are assigned.
 void RowsClipboard::append(RowsStep name, const std::set<int>& rows, const DesignRowList& added)
 {
     if (added.empty())

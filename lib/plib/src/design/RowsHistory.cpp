@@ -12,7 +12,7 @@ namespace plib {
 
 namespace {
 constexpr int MostSteps = 500;
-constexpr std::size_t MostRows = 100000; // in all steps; some 30 MB
+constexpr std::size_t MostRows = 100000; // in all steps; roughly 30 MB
 } // namespace
 
 /// A step, shared by the commands that restore it.
@@ -26,8 +26,8 @@ struct RecordedChange
     std::size_t size() const { return rows.before.size() + rows.after.size(); }
 };
 
-/// Undoes and redoes a step. Pushing a command calls redo(), which does nothing then because the
-/// user has made the change already.
+/// Undoes and redoes a step. Pushing a command calls redo(), which at that time has no effect,
+/// because the user has already made the change.
 class RowsHistory::Command : public QUndoCommand
 {
 public:
@@ -67,7 +67,7 @@ RowsHistory::RowsHistory(DesignParameter* page)
         action->setShortcuts(keys);
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         connect(action, &QAction::triggered, this, [this, step] {
-            m_page->finishEditing(); // which may be a step of its own
+            m_page->finishEditing(); // may be a separate undo step
             (m_stack.*step)();
         });
         m_page->addAction(action);

@@ -12,7 +12,7 @@ namespace plib {
 namespace {
 using Table = DesignParameterTable;
 
-/// Translates the headers in the context of the page.
+/// Translates the headers in the translation context of the page.
 struct PageText
 {
     Q_DECLARE_TR_FUNCTIONS(DesignParameter)

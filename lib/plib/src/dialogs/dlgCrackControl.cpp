@@ -20,7 +20,7 @@ constexpr int StressCode = 1092;
 constexpr int LayersOfASide = 3;
 constexpr int CrackWidthFields = 6; // the steel stresses of the same layers follow in Fields
 
-/// In millimetres and in N/mm², the units shown for these dimensions.
+/// In millimetres and N/mm², the displayed units of these dimensions.
 const QVector<double> CrackWidths{0.2, 0.3, 0.4};
 const QVector<double> Stresses{160, 200, 240, 280, 320, 360, 400, 450};
 
@@ -30,8 +30,9 @@ VKD_H_LineEdit* editOf(const VKD_QT4_ComboBox* combo)
 }
 } // namespace
 
-/// A combo, its object name and that of its edit, the field of the record and its dimension code.
-/// The lower crack widths all have the object name "crack"; this is intended.
+/// A combo box, its object name, the object name of its line edit, the field of the record and its
+/// dimension code. All combo boxes for lower crack widths intentionally have the object name
+/// "crack".
 struct dlgCrackControl::Field
 {
     Combo combo;
@@ -77,7 +78,7 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
     plib::addOkRow(this, layout);
     setLayout(layout);
     // Values are set after the lists are filled, because inserting the first entry sets the text of
-    // the edit.
+    // the line edit.
     for (const Field& field : Fields)
         if (VKD_H_LineEdit* edit = editOf(this->*field.combo))
             plib::showValue(edit, *record, field.field);
@@ -113,8 +114,8 @@ VKD_QT4_ComboBox* dlgCrackControl::newCombo(const Field& field)
     auto edit =
         new VKD_H_LineEdit(this, &format, field.editName,
                            isWidth ? tr("Crack width") : tr("Steel stress"), QString(), true);
-    // It makes the combo editable. setEditable() would create another edit first, and also the list
-    // that pops up.
+    // setLineEdit() makes the combo box editable. setEditable() would first create another line
+    // edit and the popup list.
     combo->setLineEdit(edit);
     combo->setInsertPolicy(QComboBox::NoInsert); // typed values are not added to the list
     combo->setMinimumWidth(edit->sizeHint().width() +
@@ -132,7 +133,7 @@ void dlgCrackControl::accept()
     QDialog::accept();
 }
 
-/// Fields without a combo become not set.
+/// Sets fields without a combo box to "not set".
 void dlgCrackControl::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
     for (const Field& field : Fields) {

@@ -39,13 +39,13 @@ void addFigure(VKD_QT_GridLayout* grid, const QPixmap& picture)
     auto figure = new VKD_QT_Label(grid->parentWidget());
     figure->setPixmap(picture);
     grid->addWidget(figure, 0, FigureColumn, FigureRows, FigureColumns, Qt::AlignHCenter);
-    grid->setColumnStretch(FigureColumn, 1); // the figure gets the remaining width
+    grid->setColumnStretch(FigureColumn, 1); // the figure uses the remaining width
 }
 } // namespace
 
 using D = dlgDistanceDirection;
 
-/// An edit, the field of the record that it shows, its object name and its dimension code.
+/// A line edit, the field of the record that it shows, its object name and its dimension code.
 struct dlgDistanceDirection::Field
 {
     Edit edit;
@@ -85,7 +85,7 @@ dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* par
             plib::showValue(this->*field.edit, *record, field.field);
 }
 
-/// Fields without an edit become not set.
+/// Sets fields without a line edit to "not set".
 void dlgDistanceDirection::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
     for (const Field& field : Fields)
@@ -188,7 +188,7 @@ void dlgDistanceDirection::addNote(VKD_QT_GridLayout* grid)
 {
     auto note = new VKD_QT_InfoText(true, tr("The local x-axis of the elements is the default "
                                              "direction of the principal reinforcement."));
-    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the fields set the width
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred); // fields determine the width
     policy.setHeightForWidth(true);
     note->setSizePolicy(policy);
     grid->addWidget(note, 4, 0, 1, 4);

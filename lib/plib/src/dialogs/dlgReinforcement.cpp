@@ -21,7 +21,7 @@ using R = tagZOB_QUAD_RIM;
 constexpr int ReinforcementCode = 1021;
 constexpr int CalculationMode = 1; // for both minimum and maximum
 constexpr int LayersOfASide = 3;
-/// The calculation changes this property if the user takes its bar diameter over.
+/// The calculator changes this property if the user applies its bar diameter.
 constexpr char DiameterProperty[] = "barDiameter";
 
 struct PairOfLimits
@@ -36,7 +36,8 @@ constexpr PairOfLimits Pairs[] = {
     {&R::asuq, &R::amuq}, {&R::asoi, &R::amoi}, {&R::asui, &R::amui},
 };
 
-/// Compares in single precision, as in the record. A NaN and a set limit are never in order.
+/// Compares in single precision, as in the record. A NaN is never in order with a limit that is
+/// set.
 bool isInOrder(float minimum, float maximum)
 {
     return minimum == plib::NotSet || maximum == plib::NotSet || maximum >= minimum;
@@ -70,7 +71,7 @@ struct dlgReinforcement::Layer
 
 using D = dlgReinforcement;
 
-/// Principal, cross and third layer of the upper side, then of the lower side.
+/// Principal, cross and third layer of the upper side, followed by those of the lower side.
 const dlgReinforcement::Layer dlgReinforcement::Layers[] = {
     {&D::m_pDIO, "m_pDIO", &R::dio, &D::aso, "aso", &R::aso, &D::calcO, &D::amo, "amo", &R::amo,
      &D::calcMaxO},
@@ -109,7 +110,7 @@ VKD_QT_GroupBox* dlgReinforcement::side(bool upper, int type)
     auto grid = new VKD_QT_GridLayout(box);
     plib::addLabel(grid, 0, DiameterColumn, tr("Diameter"));
     plib::addLabel(grid, 0, MinimumColumn, tr("Min. Reinforcement"));
-    // The lower side has a lower-case "max."; the two texts are different on purpose.
+    // The lower side has a lower-case "max."; the difference is intentional.
     plib::addLabel(grid, 0, MaximumColumn,
                    upper ? tr("Max. Reinforcement") : tr("max. Reinforcement"));
     const Layer* layers = Layers + (upper ? 0 : LayersOfASide);
@@ -166,12 +167,13 @@ void dlgReinforcement::showValues(const tagZOB_QUAD_RIM& record)
         plib::showValue(this->*layer.minimum, record, layer.minimumField);
         plib::showValue(this->*layer.maximum, record, layer.maximumField);
     }
-    // The edit of the upper third layer initially shows the value of the lower one on purpose.
+    // The line edit of the upper third layer intentionally shows the value of the lower third layer
+    // at first.
     if (amoi)
         plib::showValue(amoi, record, &R::amui);
 }
 
-/// The fields of a layer without widgets become not set.
+/// Sets the fields of a layer without widgets to "not set".
 void dlgReinforcement::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
     for (const Layer& layer : Layers) {
@@ -183,7 +185,7 @@ void dlgReinforcement::writeToRecord(tagZOB_QUAD_RIM* record) const
     }
 }
 
-/// Marks both fields of the pair and sets the focus to the minimum.
+/// Marks both fields of the pair and moves the focus to the minimum.
 void dlgReinforcement::markPair(plib::RealField minimum)
 {
     const auto layer = std::find_if(std::begin(Layers), std::end(Layers),
@@ -210,7 +212,7 @@ bool dlgReinforcement::checkMinMax(float minimum, float maximum)
 
 void dlgReinforcement::accept()
 {
-    if (vkd_qt_leadToRefusedField(this)) // first: the field may belong to a pair
+    if (vkd_qt_leadToRefusedField(this)) // must be first: the field may belong to a pair
         return;
     tagZOB_QUAD_RIM scratch{};
     writeToRecord(&scratch);
@@ -219,7 +221,7 @@ void dlgReinforcement::accept()
             continue;
         markPair(pair.minimum);
         checkMinMax(scratch.*pair.minimum, scratch.*pair.maximum);
-        return; // only one message, even if several pairs are wrong
+        return; // only one message, even if several pairs are invalid
     }
     QDialog::accept();
 }

@@ -38,7 +38,7 @@ dlgSelection::dlgSelection(int index, QWidget* parent)
 {
     comboGroups->setEditable(false);
     comboGroups->setAccessibleName(tr("Selection"));
-    comboGroups->setMinimumContentsLength(1); // the cell sets the width, not the longest entry
+    comboGroups->setMinimumContentsLength(1); // the cell determines the width
     comboGroups->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     comboGroups->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto groups = newButton(this, "buttonGroups", GroupsIcon, tr("Select groups"));

@@ -13,8 +13,8 @@
 namespace plib {
 
 namespace {
-/// A text in both languages, in UTF-8. They are in one place because a table that was copied in one
-/// language can be pasted in the other.
+/// A text in both languages, in UTF-8. Both versions are in one place because a table that was
+/// copied in one language can be pasted in the other.
 struct Words
 {
     const char* german;
@@ -44,7 +44,8 @@ constexpr Words Places[] = {
     {"unten Querbewehrung", "lower cross"},     {"unten dritte Lage", "lower third layer"},
 };
 
-/// The symbols are those of the dialog: distances of later layers are from the layer before.
+/// The symbols are the same as in the dialog: the distance of each further layer is measured from
+/// the previous layer.
 constexpr Words DistanceNames[] = {
     {"Abstand H", "Distance H"},
     {"Abstand DH", "Distance DH"},

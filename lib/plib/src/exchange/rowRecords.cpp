@@ -9,7 +9,7 @@ namespace plib {
 
 namespace {
 constexpr int RecordSize = int(sizeof(RecordBytes));
-constexpr char Head[] = "rows 1\n"; // the version
+constexpr char Head[] = "rows 1\n"; // format version
 constexpr int HeadSize = int(sizeof Head) - 1;
 
 bool isValid(const tagZOB_QUAD_RIM& record)

@@ -34,7 +34,7 @@ bool isEmptyLine(const QStringList& cells)
                        [](const QString& cell) { return cell.trimmed().isEmpty(); });
 }
 
-/// Returns the reason for refusing a number; empty if it is accepted.
+/// Returns the reason why a number is rejected, or an empty string if it is accepted.
 QString refusal(VkdNumberState state, const QString& cell)
 {
     const QString text = quotation(cell);
@@ -92,7 +92,7 @@ private:
             const QString head = m_heads.value(i);
             const RowColumn* column = columnAt(i);
             if (!column && !head.isEmpty())
-                continue; // its head was refused
+                continue; // its header was rejected
             const QString cell = cells.value(i);
             const QString reason =
                 column ? readCell(cell, *column, &row) : refusedWithoutHead(cell);
@@ -116,7 +116,7 @@ private:
                                         : TableText::tr("\"%1\" has no head").arg(quotation(cell));
     }
 
-    /// Returns the reason if the cell is refused.
+    /// Returns the reason if the cell is rejected, otherwise an empty string.
     static QString readCell(const QString& cell, const RowColumn& column, RowPatch* row)
     {
         if (column.kind == RowColumn::Groups)
@@ -150,7 +150,7 @@ private:
     }
 
     RowTable m_table;
-    std::vector<const RowColumn*> m_columns; // null: an empty head
+    std::vector<const RowColumn*> m_columns; // null for an empty header
     QStringList m_heads;
 };
 } // namespace

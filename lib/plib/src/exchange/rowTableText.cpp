@@ -12,9 +12,9 @@ namespace plib {
 
 namespace {
 constexpr int FewestDigits = 6;
-constexpr int MostDigits = 17; // of a double
+constexpr int MostDigits = 17; // significant digits of a double
 
-/// Returns the shortest number in the shown unit that is read back as exactly this value.
+/// Returns the shortest number in the displayed unit that is read back as exactly this value.
 QString exactText(float value, int code)
 {
     const VkdDimension dimension = vkd_h_dimension(code);

@@ -16,8 +16,8 @@
 namespace plib {
 
 namespace {
-/// Returns "0" for scale to fit, "-" for the row "Auto", otherwise the text of the row. So the row
-/// of the list is saved only with an engineering scale; reading "0" does not change it.
+/// Returns "0" for scale to fit, "-" for the row "Auto", otherwise the text of the row. Therefore
+/// the list row is saved only with an engineering scale; reading "0" does not change it.
 QString scaleValue(const OutputSettings& settings)
 {
     if (settings.scaleMode != ScaleMode::Engineering)
@@ -78,7 +78,7 @@ QGridLayout* OutputPanel::layOutStrip()
     return strip;
 }
 
-/// The list of scales is reached from the button of its entry.
+/// Returns only the buttons, because the list of scales is reached from the button of its entry.
 QList<QWidget*> OutputPanel::scaleStops() const
 {
     const VKD_QT_RadioButtonGroup* group = m_data.scaleGroup;

@@ -16,7 +16,7 @@
 namespace plib {
 
 namespace {
-/// Returns whether filling iso areas has any effect: only area elements and bricks have iso areas.
+/// Returns whether filling iso areas has any effect. Only area elements and bricks have iso areas.
 bool hasAreaResults(VKD_H_PluginParameter* parameter)
 {
     const int index = parameter->modelDoc()->index();
@@ -66,7 +66,7 @@ void SheetPanel::buildIsoAreas()
     m_data.fillCheck->setEnabled(hasAreaResults(m_data.pluginParameter));
 }
 
-/// Without an animator, no view is checked at first.
+/// Creates the view buttons. Without an animator, no view is initially checked.
 void SheetPanel::buildViews(QWidget* box)
 {
     m_data.viewGroup =

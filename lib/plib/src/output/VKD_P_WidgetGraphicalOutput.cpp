@@ -38,8 +38,8 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
     findDialogs();
 }
 
-/// Returns the animator to its former parent. If that parent no longer exists, nobody else would
-/// delete the animator, so it is deleted with the page.
+/// Returns the animator to its former parent. If that parent no longer exists, the animator is
+/// deleted with the page, because it has no other owner.
 VKD_P_WidgetGraphicalOutput::~VKD_P_WidgetGraphicalOutput()
 {
     AnimatorView* animator = data->animator;

@@ -11,7 +11,7 @@
 
 using TableWidgetData = VKD_P_WidgetGraphicalOutput_TableWidgetData;
 
-/// The pointers become null when the page or the table is destroyed.
+/// The pointers are reset to null when the page or the table is destroyed.
 struct TableWidgetDataRecord
 {
     QPointer<VKD_H_TableWidget> table;
@@ -28,8 +28,8 @@ bool isChecked(const QTableWidgetItem* item)
     return box && box->isChecked();
 }
 
-/// Returns the checked load cases, or all if the table has no check boxes. Rows without a number
-/// cell are ignored.
+/// Returns the checked load cases, or all load cases if the table has no check boxes. Rows without
+/// a number cell are ignored.
 std::vector<plib::TableLoadCase> readTable(const TableWidgetDataRecord& data)
 {
     std::vector<plib::TableLoadCase> found;

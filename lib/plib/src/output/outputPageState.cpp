@@ -1,4 +1,4 @@
-// The part of the output page that writes and reads its state as a string of tagged parts.
+// The part of the output page that writes and reads its state as concatenated tagged strings.
 
 #include "output/SavedPage.h"
 #include "output/WidgetGraphicalOutputData.h"
@@ -23,7 +23,7 @@ QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
     return xml + savedPart(savedtag::Plots, data->tree->selectionText());
 }
 
-/// Widgets are unchanged if their part is missing.
+/// Widgets whose tags are missing do not change.
 void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
 {
     if (xml.isEmpty())

@@ -1,4 +1,4 @@
-// The part of the output page that controls the animator: view commands, and the first view.
+// The part of the output page that controls the animator: view commands and the initial view.
 
 #include "output/WidgetGraphicalOutputData.h"
 #include "output/WidgetGraphicalOutputEvent.h"
@@ -25,19 +25,19 @@ void VKD_P_WidgetGraphicalOutput::connectAnimator()
     AnimatorView* animator = data->animator;
     connect(this, &Page::signalBeobXY, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
-    // The signal for X/Z is not connected and this one is connected twice. This is intended and
-    // has no effect, because the page emits only the first signal.
+    // The signal for X/Z is not connected, and this signal is connected twice. This is intentional
+    // and has no effect, because the page emits only the first signal.
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeob3D, animator, &AnimatorView::slotViewControl);
 }
 
-/// All commands are sent by the first signal, regardless of the plane.
+/// All commands are sent with the first signal, regardless of the plane.
 void VKD_P_WidgetGraphicalOutput::showFixedView(AnimatorViewControl control, bool on)
 {
     if (!data->animator || !on)
         return;
     Q_EMIT signalBeobXY(control, 0.0);
-    if (data->animator) // a connected slot may have deleted it
+    if (data->animator) // a connected slot may have deleted the animator
         data->animator->setEnabled(false);
 }
 
@@ -72,8 +72,8 @@ void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
         data->animator->setEnabled(true);
 }
 
-/// Sends the first view command. The view slots run only when a button changes, so nothing sends
-/// the view of a new page before its tab is shown for the first time.
+/// Sends the first view command. The view slots run only when a button changes, so the view of a
+/// new page must be sent when its tab is shown for the first time.
 void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* page)
 {
     const QWidget* ancestor = this; // crosses windows, unlike isAncestorOf()

@@ -3,8 +3,8 @@
 namespace plib {
 
 namespace {
-/// A text with a "-" means the row "Auto". A text that is not in the list, such as "0", means scale
-/// to fit.
+/// A value with "-" denotes the row "Auto". A value that is not in the list, such as "0", denotes
+/// "scale to fit".
 void applyScale(const QString& value, OutputSettings* settings)
 {
     if (value.isNull())
@@ -17,7 +17,7 @@ void applyScale(const QString& value, OutputSettings* settings)
         chooseScale(row, settings);
 }
 
-/// Returns whether the part exists. A text that is not a number counts as 0.
+/// Returns whether the tag exists. A value that is not a number is read as 0.
 template <typename Choice>
 bool applyChoice(const QString& value, Choice last, Choice* choice)
 {
@@ -32,7 +32,7 @@ void applySavedSettings(const SavedPart& part, OutputSettings* settings)
 {
     applyScale(part(savedtag::Scale), settings);
     const QString font = part(savedtag::Font);
-    if (!font.isNull()) // an empty text means the default size
+    if (!font.isNull()) // an empty value means the default size
         settings->fontSizeText = font.trimmed().isEmpty() ? OutputSettings().fontSizeText : font;
     const QString fill = part(savedtag::Fill);
     if (!fill.isNull())

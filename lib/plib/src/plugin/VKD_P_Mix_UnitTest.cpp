@@ -4,8 +4,9 @@
 
 #include <QtTest>
 
-// A failing check of QtTest returns from the function. On purpose, no guard restores the language:
-// after a failure it stays as the failing step set it, and hosts can see it.
+// A failing check of QtTest returns from the function. There is intentionally no guard that
+// restores the language: after a failure, the language remains as set by the failing step, and
+// hosts can see it.
 void VKD_P_Mix_UnitTest::check_qrc_system()
 {
     const QString cover = QStringLiteral(":/betondeckung.png");

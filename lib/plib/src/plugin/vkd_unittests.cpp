@@ -20,7 +20,7 @@ int runCheck(const QString& log)
     return QTest::qExec(&test, testArguments) == 0 ? 0 : 1;
 }
 
-/// Writes a file. If this fails, logs the reason and the text.
+/// Writes a file. On failure, logs the reason and the text.
 void writeLog(const QString& path, const QByteArray& text)
 {
     QFile file(path);
@@ -29,7 +29,7 @@ void writeLog(const QString& path, const QByteArray& text)
                   qUtf8Printable(file.errorString()), text.constData());
 }
 
-/// Runs the check with a temporary log file, because QtTest cannot write to the requested one, and
+/// Runs the check with a temporary log file, because QtTest cannot write to the requested file, and
 /// copies the log.
 int runCheckAside(const QString& log)
 {

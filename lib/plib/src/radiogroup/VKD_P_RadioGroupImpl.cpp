@@ -13,7 +13,7 @@
 using Group = VKD_P_RadioGroup;
 using Impl = VKD_P_RadioGroupImpl;
 
-/// One kind of button: its id, its member, and its own signal, which may be null.
+/// One kind of button: its id, its member variable and its own signal, which may be null.
 struct VKD_P_RadioGroupImpl::Kind
 {
     ButtonID id;

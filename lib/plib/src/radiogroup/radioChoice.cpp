@@ -7,7 +7,7 @@
 namespace {
 const QLatin1String Mark("checked");
 
-/// In the order in which names are written to the text.
+/// In the order in which the names are written.
 constexpr struct
 {
     int id;

@@ -13,7 +13,8 @@ namespace plib {
 namespace {
 using R = tagZOB_QUAD_RIM;
 
-/// In an entry, the diameters alternate between upper and lower side, unlike all other fields.
+/// In an entry, the diameters alternate between the upper and the lower side, unlike all other
+/// fields.
 constexpr SixFields DiametersOfEntry{&R::dio, &R::diu, &R::dioq, &R::diuq, &R::dioi, &R::diui};
 
 constexpr int FieldCount = 7;
@@ -37,7 +38,7 @@ QString reals(const R& record, const Fields& fields)
     return text;
 }
 
-/// Reads the values by position; missing values become 0.
+/// Reads the values by position. Missing values are read as 0.
 template <typename Fields>
 void readReals(R& record, const QStringList& values, const Fields& fields, int first = 0)
 {
@@ -79,8 +80,8 @@ void parseEntry(const QString& text, DesignParameterRow& row)
     else
         record.dio = values[4].value(0).toFloat();
     readReals(record, values[5], fields::CrackWidths);
-    // On purpose, stresses are written as real numbers but read as integers: one with a fraction
-    // becomes 0.
+    // Stresses are intentionally written as real numbers, but read as integers. A stress with a
+    // fractional part is read as 0.
     for (size_t i = 0; i < fields::Stresses.size(); ++i)
         record.*fields::Stresses[i] = float(values[5].value(6 + int(i)).toInt());
     record.mark = values[6].value(0).toInt();

@@ -28,15 +28,16 @@ void clearDistances(tagZOB_QUAD_RIM& record)
     setAll(record, fields::Distances, NotSet);
 }
 
-/// Converts the layers `a`, `b` and `c` of a side. `c` comes first, because it needs the stored
-/// value of `b`.
+/// Converts the layers `a`, `b` and `c` of a side. `c` is converted first, because it depends on
+/// the stored value of `b`.
 void tripleToEdited(const float& a, float& b, float& c)
 {
     c = b >= 0 && c >= b ? c - b : NotSet;
     b = a >= 0 && b >= a ? b - a : NotSet;
 }
 
-/// Converts them back. A value that is not set makes the distances of all later layers not set.
+/// Converts the layers back. If a value is not set, the distances of all subsequent layers are
+/// reset to "not set".
 void tripleToStored(const float& a, float& b, float& c)
 {
     if (a < 0 || b < 0) {
@@ -49,7 +50,7 @@ void tripleToStored(const float& a, float& b, float& c)
 }
 
 // clearNegative() is for fields in which zero is a valid value, clearZeroOrNegative() for fields in
-// which zero means not set.
+// which zero means "not set".
 void clearNegative(float& value)
 {
     if (value < 0 || value == AlsoNotSet)
@@ -91,7 +92,7 @@ tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups)
     setAll(r, fields::Stresses, NotSet);
     r.reservedD = NotSet;
     r.reservedS = NotSet;
-    r.reservedM = 0; // unlike the other two reserved fields, on purpose
+    r.reservedM = 0; // intentionally, unlike the other two reserved fields
     return r;
 }
 
@@ -124,7 +125,8 @@ void cleanRecord(tagZOB_QUAD_RIM& record)
         clearNegative(record.*field);
     for (RealField field : fields::Distances)
         clearNegative(record.*field);
-    // On purpose, this field alone is not compared with 99999.0 and keeps such a value.
+    // This is the only field that is intentionally not compared with 99999.0 and keeps such a
+    // value.
     if (record.dio <= 0)
         record.dio = NotSet;
     for (RealField field : fields::Diameters)

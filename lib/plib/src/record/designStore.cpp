@@ -42,7 +42,7 @@ public:
         return true;
     }
 
-    int length = 0; ///< of the last record
+    int length = 0; ///< length of the last record
 
 private:
     ZobHandle m_project;
@@ -62,7 +62,7 @@ void append(ZobHandle project, KeyPair keys, const tagZOB_QUAD_RIM& record, int 
     vkd_zob_put(project.index(), keys.key1, keys.key2, bytes.data(), &length, 1);
 }
 
-/// Copies the records of other programs under our key pair to the scratch store.
+/// Copies other programs' records with our key pair to the scratch store.
 void saveForeignRecords(ZobHandle project)
 {
     empty(ZobHandle::scratch(), ForeignDesign);
@@ -145,7 +145,7 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     if (!converted)
         for (DesignParameterRow& row : data.rows)
             toStoredForm(row.record, data.kindOfSystem);
-    converted = true; // only once for each page: a second write finds the stored form
+    converted = true; // only once per page: after that, rows have the stored form
     const ZobHandle project(data.designDoc->index());
     vkd_zob_lock_ex(project.index(), Design.key1, Design.key2);
     saveForeignRecords(project);
@@ -156,8 +156,8 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     for (DesignParameterRow& row : data.rows)
         if (!isRemainingGroups(row.groups))
             writeRow(project, row);
-    // The first of the copied records is read but not used; none of them is restored. This is
-    // intended.
+    // The first of the copied records is read, but not used, and no record is restored. This is
+    // intentional.
     tagZOB_QUAD_RIM unused{};
     RecordPass(ZobHandle::scratch(), ForeignDesign).next(unused);
     vkd_zob_free_ex(project.index(), Design.key1, Design.key2);

@@ -41,12 +41,12 @@ Summary distances(int type)
     Summary summary{{&R::rio, &R::riu}, {&R::hio, &R::hiu, &R::hioq, &R::hiuq}, true};
     if (type == 2 || type == 3)
         summary.first << &R::rioq << &R::riuq;
-    if (type == 3) // on purpose, the third layer has its distances here but not its directions
+    if (type == 3) // intentional: the third layer has distances, but no directions
         summary.second << &R::hioi << &R::hiui;
     return summary;
 }
 
-/// Only the principal reinforcement, for every type.
+/// Contains only the principal reinforcement, for every type.
 Summary reinforcement()
 {
     return {{&R::dio, &R::aso, &R::amo}, {&R::diu, &R::asu, &R::amu}, false};
@@ -80,7 +80,7 @@ void appendLine(const DesignParameterRow& row, const FieldList& fields, QString*
 
 QString summaryText(const DesignParameterRow& row, int column)
 {
-    constexpr int LastTypeWithText = 5; // has no name and the same text as type 4
+    constexpr int LastTypeWithText = 5; // has no name, but the same text as type 4
     const int type = row.record.type;
     if (type < 1 || type > LastTypeWithText)
         return QString();

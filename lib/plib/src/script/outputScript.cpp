@@ -63,7 +63,7 @@ constexpr struct
 } PageSplits[] = {{" 1X1", " \"-URS\" "}, {" 2X1", " \"-URS\" "}, {" 2X2", " \"-URS\" "},
                   {" 3X2", " \"-URS\" "}, {" 1X1", " \"URS\" "},  {" 2X2", " \"URS\" "}};
 
-/// Returns the font size in centimetres; a text that is not a number counts as 0.
+/// Returns the font size in centimetres. Text that is not a number is read as 0.
 QString fontNumber(const OutputSettings& settings)
 {
     return QString::number(settings.fontSizeText.toDouble() / 10.0, 'g', 6);
@@ -75,7 +75,8 @@ QString scaleValue(const OutputSettings& settings)
         return QStringLiteral("0");
     if (settings.scaleIndex == AutoScaleRow)
         return QStringLiteral("-");
-    // On purpose, the factor is written as text: the graphics program multiplies.
+    // The factor is intentionally written as text, because the graphics program performs the
+    // multiplication.
     return settings.scaleText.mid(settings.scaleText.indexOf(QLatin1Char(':')) + 1) +
            QLatin1String("*1.e+10");
 }
@@ -108,8 +109,8 @@ QString splitResult(const OutputSettings& settings, const QString& additional, K
     return result;
 }
 
-/// Appends the lines, with the standard view replaced by the view of the page. Reserves room for
-/// them and for the rest of the script, because scripts may be long.
+/// Appends the lines and replaces the standard view with the view of the page. Reserves memory for
+/// the lines and the rest of the script, because scripts may be long.
 void appendBody(QString* script, const std::vector<QString>& lines, OutputView page,
                 const QString& clause, int rest)
 {
@@ -119,7 +120,7 @@ void appendBody(QString* script, const std::vector<QString>& lines, OutputView p
     script->reserve(size);
     for (const QString& line : lines) {
         const int view = page == OutputView::Standard3D ? -1 : line.indexOf(QLatin1String("EG3"));
-        if (view > 0) // the rest of the line is replaced as well
+        if (view > 0) // the rest of the line is also replaced
             *script += line.leftRef(view) + clause;
         else
             *script += line;
@@ -180,7 +181,7 @@ QString outputScript(const OutputSettings& settings, const std::vector<QString>&
     if (environment.hasQuads())
         script += CutLines.in(keywords);
     script += sizeStatement(settings, keywords) + end;
-    if (ahead) // it has a line end of its own
+    if (ahead) // has its own newline
         script += additional;
     QString tail = environment.programEnd(keywords) + end;
     if (!ahead && !additional.isEmpty())

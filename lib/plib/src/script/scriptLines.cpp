@@ -59,8 +59,8 @@ void ScriptLineWriter::writeView(int viewKind)
     if (m_context.lastView == view)
         return;
     m_context.lastView = view;
-    // If a plot without a view follows one with a view, the bare keyword and a blank are written.
-    // This resets the view.
+    // If a plot without a view follows a plot with a view, only the keyword and a space are
+    // written. This resets the view.
     m_lines.push_back(m_context.viewWord + view);
 }
 
@@ -91,8 +91,8 @@ void ScriptLineWriter::writeCaseLine(int number)
     m_lines.push_back(caseLine(number));
 }
 
-/// Writes the plot for two load cases of one picture, each in its own colour. Afterwards the second
-/// one is the current load case.
+/// Writes the plot for two load cases in one picture, each in its own colour. Afterwards the second
+/// load case is current.
 void ScriptLineWriter::writeDouble(int second, const QString& text,
                                    const GraphicalOutputRecord* above)
 {

@@ -14,7 +14,8 @@ namespace plib {
 namespace {
 constexpr int CaptionLevels = 3;
 
-/// An identifier is the key text of the caption, aligned by three blanks if it has no qualifiers.
+/// Translates a caption. Its identifier is the key text, padded with three spaces if it has no
+/// qualifiers.
 QString translated(const QString& identifier, const QString& title)
 {
     const QLatin1String alignment("   ");
@@ -63,7 +64,7 @@ bool CaptionTranslator::eventFilter(QObject* watched, QEvent* event)
         m_isActive = true;
         translate();
         publishRoles(m_tree);
-        m_tree->doItemsLayout(); // the texts have other widths
+        m_tree->doItemsLayout(); // the widths of the texts have changed
     }
     return QObject::eventFilter(watched, event);
 }

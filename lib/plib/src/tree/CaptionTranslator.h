@@ -6,26 +6,26 @@ class QTreeWidget;
 
 namespace plib {
 
-/// Shows the captions of an output tree in the language of the desktop after the tree received a
-/// QEvent::LanguageChange. The catalogue itself cannot be reloaded for this, because it keeps the
-/// records of each language in which it was loaded, and a tree offers them all. Before the first
-/// such event, a tree shows the captions of the catalogue.
+/// Shows the captions of an output tree in the desktop language after the tree has received a
+/// QEvent::LanguageChange. The catalogue itself cannot be reloaded for this purpose, because it
+/// keeps the records of each language in which it was loaded, and a tree offers all of them. Before
+/// the first such event, the tree shows the captions of the catalogue.
 class CaptionTranslator : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Becomes a child of the tree.
+    /// The tree becomes the parent of this object.
     explicit CaptionTranslator(QTreeWidget* tree);
 
-    /// Translates the items of a tree that was filled again.
+    /// Translates the items after the tree has been refilled.
     void translate();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QTreeWidget* m_tree;
-    bool m_isActive = false; // since the first change of the language
+    bool m_isActive = false; // true after the first change to the language
 };
 
 } // namespace plib

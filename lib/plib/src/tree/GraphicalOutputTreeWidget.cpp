@@ -24,8 +24,7 @@ using Item = GraphicalOutputTreeWidgetItem;
 constexpr int PlotLevel = 2;
 
 /// Implements the operations of the builder for the tree widget. A plot is added to the tree only
-/// after all its rows are added to the plot, so that the tree processes a single change for all of
-/// them.
+/// after all rows have been added to the plot, so that the tree processes only one change.
 class ItemOperations
 {
 public:
@@ -68,7 +67,7 @@ private:
     Item* m_root;
     const QIcon m_plotIcon;
     plib::RowLooks m_looks;
-    Item* m_parentOfPlot = nullptr; // of the plot that is still incomplete
+    Item* m_parentOfPlot = nullptr; // parent of the plot that is still incomplete
 };
 
 QString dumpLine(Item* item, int indent)
@@ -117,7 +116,7 @@ void GraphicalOutputTreeWidget::additionalData(const QString& tag, bool add)
     if (add)
         additional.push_back(tag);
     else
-        additional.remove(QString(tag)); // a copy: the argument may refer to an element of the list
+        additional.remove(QString(tag)); // copy: the argument may refer to an element of the list
     rebuild(false);
 }
 
@@ -151,7 +150,7 @@ void GraphicalOutputTreeWidget::applySelection(const QString& text)
 
 void GraphicalOutputTreeWidget::expandPlots()
 {
-    scheduleDelayedItemsLayout(); // first, otherwise each step would lay out the tree
+    scheduleDelayedItemsLayout(); // must be first, otherwise each step would lay out the tree
     for (int i = 0; i < topLevelItemCount(); ++i) {
         const QModelIndex top = model()->index(i, 0);
         expand(top);
@@ -164,7 +163,7 @@ void GraphicalOutputTreeWidget::closeLoads()
 {
     QTreeWidgetItem* current = currentItem();
     if (current && outputItem(current) && outputItem(current)->level > PlotLevel)
-        // Otherwise the arrow keys would start at the first row.
+        // Without a current item, the arrow keys would start at the first row.
         setCurrentItem(current->parent(), currentColumn(), QItemSelectionModel::NoUpdate);
     scheduleDelayedItemsLayout();
     for (int i = 0; i < topLevelItemCount(); ++i) {
@@ -189,7 +188,8 @@ void GraphicalOutputTreeWidget::dump(QTreeWidgetItem* item, int indent) const
     if (!output)
         return;
     dumpLine(output, indent);
-    // On purpose, only the first row of a plot is dumped: the others differ only in the load case.
+    // Only the first row of a plot is intentionally dumped, because the other rows differ only in
+    // the load case.
     const int count = output->level == PlotLevel ? qMin(1, item->childCount()) : item->childCount();
     for (int i = 0; i < count; ++i)
         dump(item->child(i), indent + 1);
@@ -228,8 +228,8 @@ void GraphicalOutputTreeWidget::fillTree()
     expandPlots();
 }
 
-/// Signals are blocked because the automatic update would recompute the parents after each item.
-/// Here each parent is computed once.
+/// Blocks signals, because the automatic update would recompute the parents after each item. Here
+/// each parent is computed only once.
 void GraphicalOutputTreeWidget::setChoice(const QString& text)
 {
     const VKD_QT_SignalBlocker silence(model());

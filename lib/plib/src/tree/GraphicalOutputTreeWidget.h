@@ -11,10 +11,11 @@
 class VKD_H_PluginParameter;
 
 /// The tree in which the user checks plots and load cases. It shows the plots of the catalogue that
-/// fit the page and the model, with the host's load cases under the plots that bind to them. It
-/// returns the choice as script lines and as a text for storage. checkStatesChanged() is also
-/// emitted once after the tree is rebuilt or a choice is applied. If the catalogue cannot be
-/// loaded, the tree shows an error once and then stays empty, without a context menu.
+/// match the page and the model, with the host's load cases under the plots that are bound to load
+/// cases. It returns the selection as script lines and as a string that can be stored.
+/// checkStatesChanged() is also emitted once after the tree has been rebuilt or a selection has
+/// been applied. If the catalogue cannot be loaded, the tree shows an error once and remains empty,
+/// without a context menu.
 class GraphicalOutputTreeWidget : public VKD_QT_TreeWidget
 {
     Q_OBJECT
@@ -22,40 +23,40 @@ class GraphicalOutputTreeWidget : public VKD_QT_TreeWidget
 public:
     using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-    /// Loads the catalogue and builds the tree with the default choice. `kind` is the kind of page;
-    /// `pluginParameter` is not owned and outlives the tree.
+    /// Loads the catalogue and builds the tree with the default selection. `kind` is the kind of
+    /// page; `pluginParameter` is not owned and must outlive the tree.
     GraphicalOutputTreeWidget(QWidget* parent, int kind, VKD_H_PluginParameter* pluginParameter,
                               const char* name);
     ~GraphicalOutputTreeWidget() override;
 
-    /// Rebuilds the tree. It gets the default choice if `defaults` is set or if no choice was ever
-    /// applied; otherwise it keeps the current choice.
+    /// Rebuilds the tree. Restores the default selection if `defaults` is true or if no selection
+    /// has been applied yet, otherwise keeps the current selection.
     void rebuild(bool defaults);
-    /// Adds or removes a content tag that counts as present whatever the model contains, and
+    /// Adds or removes a content tag that is treated as present regardless of the model, and
     /// rebuilds the tree. One call removes a tag even if it was added twice.
     void additionalData(const QString& tag, bool add);
-    /// Sets the load cases that become rows. A different list restores the default choice; an equal
-    /// one changes nothing.
+    /// Sets the load cases that are shown as rows. A different list restores the default selection;
+    /// an identical list has no effect.
     void setUsedNumbersAndNames(const Rows& newRows);
 
     /// Replaces `lines` with the script lines of the checked items, with German or English
     /// keywords, and returns their number.
     int collectScriptLines(std::vector<QString>& lines, bool english) const;
-    /// Returns the choice as a text for applySelection(). The text names items by identifiers that
-    /// are the same in every language. Items that no longer exist when the text is applied are
+    /// Returns the selection as a string for applySelection(). The string contains identifiers that
+    /// are the same in every language. Items that no longer exist when the string is applied are
     /// skipped.
     QString selectionText() const;
-    /// Applies a stored choice and unchecks all items that it does not name. An empty text changes
-    /// no check box, but still counts as an applied choice.
+    /// Applies a stored selection and unchecks all items that it does not contain. An empty string
+    /// does not change any check box, but still counts as an applied selection.
     void applySelection(const QString& text);
 
 public Q_SLOTS:
-    /// Expands the captions, so that all plots are visible; plots are neither expanded nor
+    /// Expands the captions so that all plots are visible. Plots are neither expanded nor
     /// collapsed.
     void expandPlots();
-    /// Collapses the plots, so that no load case is visible.
+    /// Collapses the plots so that no load case is visible.
     void closeLoads();
-    /// Build lines for diagnosis. They are not written anywhere yet.
+    /// Build lines for diagnosis, which are not yet written anywhere.
     void dump() const;
     void dump(QTreeWidgetItem* item, int indent) const;
 

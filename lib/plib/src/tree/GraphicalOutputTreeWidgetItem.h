@@ -5,32 +5,33 @@
 #include <QTreeWidgetItem>
 
 /// An item of the output tree: a caption, a plot, or the row of a load case under a plot. It stores
-/// the data for the script and for the stored choice; the base class stores text, icon and check
-/// state.
+/// the data for the script and for the stored selection. The base class stores the text, the icon
+/// and the check state.
 class GraphicalOutputTreeWidgetItem : public QTreeWidgetItem
 {
 public:
-    /// The item type that distinguishes output items from plain ones.
+    /// The item type that distinguishes output items from plain items.
     static constexpr int OutputType = UserType + 1;
 
     /// Creates an unchecked item with a text.
     explicit GraphicalOutputTreeWidgetItem(const QString& text = QString());
-    /// Creates an item with the look of another one, see takeLook().
+    /// Creates an item with the appearance of another item, see takeLook().
     explicit GraphicalOutputTreeWidgetItem(const QTreeWidgetItem& look);
     GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem&) = delete;
     GraphicalOutputTreeWidgetItem& operator=(const GraphicalOutputTreeWidgetItem&) = delete;
     ~GraphicalOutputTreeWidgetItem() override;
 
-    /// Copies text, icon, check state and flags. The tree of this item, if any, is not notified.
+    /// Copies the text, icon, check state and flags. If this item is in a tree, the tree is not
+    /// notified.
     void takeLook(const QTreeWidgetItem& other);
 
-    plib::GraphicalOutputRecord record; ///< captions: of the first plot; rows: of the plot
-    qint32 isLC = -1;                   ///< negative: the item has no script line of its own
-    qint32 number = 0;                  ///< the load case of a row
+    plib::GraphicalOutputRecord record; ///< of the plot; for captions, of the first plot
+    qint32 isLC = -1;                   ///< negative: the item does not have its own script line
+    qint32 number = 0;                  ///< load case of a row
     qint32 level = 0;                   ///< 0 and 1 captions, 2 plots, 3 rows
 };
 
-/// Returns the item as an output item, or null for a plain one. The tree algorithms find this
+/// Returns the item as an output item, or null for a plain item. The tree algorithms find this
 /// function by argument-dependent lookup, so it is not in a namespace.
 inline GraphicalOutputTreeWidgetItem* outputItem(QTreeWidgetItem* item)
 {

@@ -7,10 +7,10 @@
 
 namespace plib {
 
-/// An item of an output tree that needs no widgets, for the command line and for tests. It has the
-/// few members that the tree algorithms use, with the names that they have in QTreeWidgetItem and
-/// in the item class of the tree widget. Parents own their children; the invisible root represents
-/// the tree.
+/// An item of an output tree that does not need widgets, for the command line and for tests. It has
+/// only the members that the tree algorithms use. They have the same names as in QTreeWidgetItem
+/// and in the item class of the tree widget. Parents own their children; the invisible root
+/// represents the tree.
 class OutputNode
 {
 public:
@@ -29,7 +29,7 @@ public:
 
     int childCount() const { return int(m_children.size()); }
     OutputNode* child(int index) const { return m_children[size_t(index)].get(); }
-    /// Returns null for top level items, as QTreeWidgetItem does.
+    /// Returns null for top-level items, like QTreeWidgetItem.
     OutputNode* parent() const { return m_parent && m_parent->m_parent ? m_parent : nullptr; }
     QString text(int) const { return m_text; }
     Qt::CheckState checkState(int) const { return m_state; }
@@ -45,8 +45,8 @@ private:
     std::vector<std::unique_ptr<OutputNode>> m_children;
 };
 
-/// Returns the node as an output item, or null for a plain one. Tree widget items have a function
-/// of the same name.
+/// Returns the node as an output item, or null for a plain item. There is a function with the same
+/// name for tree widget items.
 inline OutputNode* outputItem(OutputNode* node)
 {
     return node->plain ? nullptr : node;

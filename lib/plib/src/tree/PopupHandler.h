@@ -17,8 +17,9 @@ public:
     PopupHandler() = default;
     ~PopupHandler() override;
 
-    /// Creates the menu for the tree and opens it on request at the mouse position. With
-    /// `hasCloseAll`, it has an entry that collapses everything. Must be called once at most.
+    /// Creates the menu for the tree and opens it on request at the mouse position. If
+    /// `hasCloseAll` is true, the menu has an entry that collapses everything. Must be called at
+    /// most once.
     void build(GraphicalOutputTreeWidget* owner, bool hasCloseAll);
     bool isBuilt() const { return menu; }
 
@@ -33,6 +34,6 @@ private:
     VKD_QT_Action* expandPlots = nullptr;
     VKD_QT_Action* expandLoads = nullptr;
     VKD_QT_Action* closeLoads = nullptr;
-    VKD_QT_Action* closeAll = nullptr; // null in the output tree, which omits this entry on purpose
+    VKD_QT_Action* closeAll = nullptr; // null in the output tree, which intentionally omits it
     GraphicalOutputTreeWidget* tree = nullptr;
 };

@@ -30,7 +30,7 @@ const RowLooks::Looks& RowLooks::find(const QString& text, int number)
     return m_looks[m_next++];
 }
 
-/// The check state comes first, because it is read most often and roles are searched in order.
+/// Stores the check state first, because it is read most often and roles are searched in order.
 std::unique_ptr<const QTreeWidgetItem> RowLooks::newLook(const QString& text, int number,
                                                          Qt::CheckState state) const
 {

@@ -13,22 +13,23 @@
 namespace plib {
 
 /// The text, icon, data roles and check state of rows in the output tree, created once for each
-/// load case. They make up most of the time and memory that a row costs, and they are the same
-/// under each plot, so that items with the same look share them. Two texts are the same if they
-/// share their characters, as those of the rows of a load case do. Looks are searched in the order
-/// in which they were created, since all plots have the same rows; a search by a key would miss the
-/// processor's caches for each row.
+/// load case. They account for most of the time and memory required for a row. Because they are
+/// identical under each plot, items with the same appearance share them. Two strings are considered
+/// identical if they share their data, as the strings for the rows of one load case do. Looks are
+/// searched in the order of their creation, because all plots have the same rows. A lookup by key
+/// would cause a cache miss for each row.
 class RowLooks
 {
 public:
-    /// Uses the row icon of this language.
+    /// Uses the row icon for this language.
     explicit RowLooks(vkd::Language language);
 
     /// Returns the look of a row with this text and load case, checked or unchecked.
     const QTreeWidgetItem& of(const QString& text, int number, bool checked);
 
 private:
-    /// Small, because those of all load cases should fit into the processor's caches.
+    /// The struct is small, because the looks of all load cases should fit into the processor's
+    /// caches.
     struct Looks
     {
         bool belongTo(const QString& rowText, int rowNumber) const
@@ -36,7 +37,7 @@ private:
             return number == rowNumber && text.isSharedWith(rowText);
         }
 
-        QString text; // keeps the characters at their address
+        QString text; // keeps the string data at its address
         int number;
         std::unique_ptr<const QTreeWidgetItem> unchecked;
         std::unique_ptr<const QTreeWidgetItem> checked;
@@ -48,8 +49,9 @@ private:
 
     QIcon m_icon;
     std::vector<Looks> m_looks;
-    size_t m_next = 0; // after the look that was found last
-    // By address and load case, because a host may use a text for several load cases.
+    size_t m_next = 0; // index after the most recently found look
+    // Keyed by address and load case, because a host may use the same string for several load
+    // cases.
     QHash<QPair<const QChar*, int>, size_t> m_places;
 };
 

@@ -13,22 +13,22 @@
 namespace plib {
 
 /// Builds an output tree from the records of a catalogue: top captions, second captions and plots.
-/// A plot that binds to load cases has a row for each of them.
+/// A plot that is bound to load cases has one row per load case.
 ///
-/// `Operations` provides the operations on the tree that a node does not have: `Node* create(Node*
-/// parent, const QString& text, int number, bool checked)` appends an output item, with the load
-/// case of a row or 0, `complete(Node*)` is called for a new plot after its rows are created,
-/// `remove(Node*)` deletes an item, `check(Node*)` checks it, `plotIcon(Node*)` and
-/// `rowIcon(Node*)` set its icon, `expand(Node*)` expands it. The builder finds captions by a hash
-/// of its own and computes the state of each parent once, that of a plot as soon as its rows are
-/// complete. So the time is linear in records and rows.
+/// `Operations` provides the tree operations that a node does not have: `Node* create(Node* parent,
+/// const QString& text, int number, bool checked)` appends an output item, where `number` is the
+/// load case of a row or 0; `complete(Node*)` is called for a new plot after its rows have been
+/// created; `remove(Node*)` deletes an item; `check(Node*)` checks it; `plotIcon(Node*)` and
+/// `rowIcon(Node*)` set its icon; `expand(Node*)` expands it. The builder finds captions in its own
+/// hash table. It computes the state of each parent once, and the state of a plot as soon as its
+/// rows are complete. Therefore the time is linear in the number of records and rows.
 template <typename Node, typename Operations>
 class TreeBuilder
 {
 public:
     using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 
-    /// `root` must be empty. `root` and `rows` outlive the builder.
+    /// `root` must be empty. `root` and `rows` must outlive the builder.
     TreeBuilder(Node* root, const Rows& rows, Operations& operations)
         : m_root(root)
         , m_rows(rows)
@@ -42,7 +42,7 @@ public:
         Node* top = caption(m_root, record.title1, record, 0);
         Node* second = caption(top, record.title2, record, 1);
         // The comparison with title2 is intended: only a plot with the same caption as its parent
-        // is reused. Any other record gets a plot of its own, even if the captions are equal.
+        // is reused. Any other record gets its own plot, even if the captions are identical.
         Node* namesake = m_namesakes.value(second);
         Node* plot = namesake ? namesake : newPlot(second, record);
         addLoadcaseRows(plot, record);
@@ -53,7 +53,7 @@ public:
         removeIfEmpty(plot, second, top);
     }
 
-    /// Computes the state of every parent from its children. Must be called once, after the last
+    /// Computes the state of each parent from its children. Must be called once, after the last
     /// record.
     void finish()
     {
@@ -110,7 +110,7 @@ private:
             return;
         }
         if (checksAll(record))
-            checkRows(plot); // those of earlier records
+            checkRows(plot); // also checks the rows of earlier records
         for (const auto& row : m_rows)
             if (takesRow(record.rowClass, row.kind))
                 addRow(plot, row.name, row.number, checksAll(record));
@@ -120,8 +120,8 @@ private:
             m_operations.check(static_cast<Node*>(plot->child(0)));
     }
 
-    /// Computes the state of a plot from the rule that checked its rows; reading their states would
-    /// take a third of the time of a rebuild.
+    /// Computes the state of a plot from the rule that determined which rows are checked. Reading
+    /// the states of the rows would take a third of the time of a rebuild.
     static void settleNew(Node* plot, const GraphicalOutputRecord& record)
     {
         const int count = plot->childCount();
@@ -139,7 +139,8 @@ private:
         return record.preselect == 2 || record.preselect == 3;
     }
 
-    /// Classes 1 and 2 have rows for load cases, class 3 for design combinations, others none.
+    /// Classes 1 and 2 have rows for load cases, class 3 has rows for design combinations, and
+    /// other classes have no rows.
     static bool takesRow(int rowClass, int kind)
     {
         return rowClass == 3 ? kind == 2 : (rowClass == 1 || rowClass == 2) && kind == 1;
@@ -147,7 +148,7 @@ private:
 
     void addRow(Node* plot, const QString& name, int number, bool checked)
     {
-        // Rows always copy the record of the plot, and with it the script, even if the plot is
+        // Rows always copy the record of the plot, including the script, even if the plot is
         // reused.
         Node* row = create(plot, name, plot->record, 3, number, checked);
         m_operations.rowIcon(row);
@@ -162,7 +163,7 @@ private:
             m_operations.check(static_cast<Node*>(plot->child(next)));
     }
 
-    /// Removes the items of a record without any script. The parser rejects such records, but
+    /// Removes the items of a record that has no script. The parser rejects such records, but
     /// records created in code may have no script.
     void removeIfEmpty(Node* plot, Node* second, Node* top)
     {
@@ -190,8 +191,8 @@ private:
     const Rows& m_rows;
     Operations& m_operations;
     QHash<QPair<Node*, QString>, Node*> m_captions;
-    QHash<Node*, Node*> m_namesakes; // by second level item: the plot with the same caption
-    QHash<Node*, int> m_checkedRows; // by plot: number of its first rows that are checked
+    QHash<Node*, Node*> m_namesakes; // plot with the same caption, by second-level item
+    QHash<Node*, int> m_checkedRows; // number of leading rows that are checked, by plot
 };
 
 } // namespace plib

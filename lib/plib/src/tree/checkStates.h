@@ -4,9 +4,9 @@
 
 namespace plib {
 
-/// The rules for the parents in a tree of check boxes. A parent is Unchecked if all its children
-/// are Unchecked, Checked if all are Checked, otherwise PartiallyChecked. `Node` has the members of
-/// OutputNode. Items other than output items have no check box.
+/// The rules for parents in a tree of check boxes. A parent is Unchecked if all its children are
+/// Unchecked, Checked if all its children are Checked, otherwise PartiallyChecked. `Node` must have
+/// the members of OutputNode. Items other than output items have no check box.
 
 /// Returns the state that results from the children of the node. The node must have children.
 template <typename Node>
@@ -19,8 +19,8 @@ Qt::CheckState stateOfChildren(const Node* node)
     return first;
 }
 
-/// Updates the node and every parent below it, bottom up and once each. The states equal those
-/// after single changes, each of which updated its ancestors.
+/// Updates the node and each parent below it once, from bottom to top. The resulting states are the
+/// same as if each item had been changed individually and had updated its ancestors.
 template <typename Node>
 void settleBranch(Node* node)
 {

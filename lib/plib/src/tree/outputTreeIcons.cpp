@@ -5,7 +5,7 @@
 namespace plib {
 
 namespace {
-constexpr int Grid = 16; // pixels of a bitmap on each side
+constexpr int Grid = 16; // width and height of a bitmap in pixels
 
 // A plate with coloured iso areas and its axes.
 const char* const Plot[] = {
@@ -48,10 +48,10 @@ QPixmap blocks(const QImage& bitmap, int side)
     return picture;
 }
 
-/// Returns an icon with the bitmap in the usual sizes, each pixel enlarged to a square block, and
-/// with unchanged colours in a selection. The icon consists of pixmaps and has no engine of this
-/// library: Qt's style caches the icon that it painted last, and would call the engine after the
-/// library is unloaded.
+/// Returns an icon with the bitmap in the common sizes. Each pixel is enlarged to a square block,
+/// and selected items do not change the colours. The icon consists of pixmaps and does not use an
+/// icon engine of this library, because Qt's style caches the last painted icon and would call the
+/// engine after the library has been unloaded.
 QIcon bitmapIcon(const char* const xpm[])
 {
     const QImage bitmap(xpm);

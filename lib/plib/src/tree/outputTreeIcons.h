@@ -4,12 +4,12 @@
 
 #include <QIcon>
 
-/// The icons of the output tree. Each call creates a new icon, but copies share their data. So
-/// create one icon and copy it for all items.
+/// The icons of the output tree. Each call creates a new icon, but copies share their data.
+/// Therefore, create one icon and copy it for all items.
 namespace plib {
 
 QIcon plotIcon();
-/// Shows the letters LC, or LF in German.
+/// Returns an icon with the letters LC, or LF in German.
 QIcon rowIcon(vkd::Language language);
 QIcon closeIcon();
 

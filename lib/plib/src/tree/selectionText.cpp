@@ -16,7 +16,7 @@ QVector<int> numbersOf(const QStringRef& text)
 
 int selectionNumber(const QStringRef& text)
 {
-    constexpr int AlwaysFits = 9; // digits
+    constexpr int AlwaysFits = 9; // number of digits
     if (text.size() > AlwaysFits)
         return text.toInt();
     int number = 0;

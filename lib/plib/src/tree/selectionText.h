@@ -16,10 +16,10 @@
 namespace plib {
 
 /// Returns the identifier of an item in the selection text: the identifiers of its captions down to
-/// its own level, joined and trimmed. A row has the identifier of its plot.
+/// its own level, concatenated and trimmed. A row has the identifier of its plot.
 QString itemId(const GraphicalOutputRecord& record, int level);
 
-/// Appends the choice of one item and its descendants as lines of the selection text.
+/// Appends the check states of one item and its descendants as lines of the selection text.
 template <typename Node>
 void appendSelection(Node* node, QString& text)
 {
@@ -45,9 +45,9 @@ void appendSelection(Node* node, QString& text)
     } else if (state == Qt::PartiallyChecked) {
         text += QLatin1String("ERROR CASE\n"); // a leaf is never partially checked
     } else if (count == 0 && item->number > 0) {
-        // Never reached by a walk from the root, because plots write the choice of their rows. For
-        // readers of old files, the number replaces "%1" in the identifier and leaves "%2" in the
-        // line unchanged on purpose.
+        // Never reached when the tree is traversed from the root, because plots write the states of
+        // their rows. For compatibility with old files, the number replaces "%1" in the identifier,
+        // and "%2" in the line is intentionally left unchanged.
         text += word + QString(id).replace(QLatin1String("%1"), QString::number(item->number)) +
                 QLatin1String(":%2\n");
     } else {
@@ -55,7 +55,7 @@ void appendSelection(Node* node, QString& text)
     }
 }
 
-/// Returns the choice of the whole tree as text. The text begins with an empty line.
+/// Returns the check states of the whole tree as a selection text, which begins with an empty line.
 template <typename Node>
 QString selectionText(Node* root)
 {
@@ -65,15 +65,15 @@ QString selectionText(Node* root)
     return text;
 }
 
-/// Finds items by identifier. If several items have the same one, the last item of a level is
-/// found, and a caption takes precedence over its descendants. Rows are not indexed.
+/// Finds items by identifier. If several items on a level have the same identifier, the last item
+/// is found. A caption takes precedence over its descendants. Rows are not indexed.
 template <typename Node>
 class ItemIndex
 {
 public:
     explicit ItemIndex(Node* root) { add(root, 0); }
 
-    /// Returns null if no item has the identifier.
+    /// Returns the item, or null if no item has the identifier.
     Node* findItem(const QString& id) const { return m_items.value(id); }
 
 private:
@@ -94,8 +94,9 @@ private:
     QHash<QString, Node*> m_items;
 };
 
-/// Returns the same as QStringRef::toInt(), 0 for a text that is not a number. Short runs of ASCII
-/// digits are converted directly, because most of a selection text consists of them.
+/// Returns the same result as QStringRef::toInt(), which is 0 if the text is not a number. Short
+/// sequences of ASCII digits are converted directly, because a selection text consists mostly of
+/// them.
 int selectionNumber(const QStringRef& text);
 
 /// One valid line of a selection text.
@@ -104,17 +105,17 @@ struct SelectionLine
     enum Kind { Check, Uncheck, Partial };
     Kind kind;
     QString id;
-    QVector<int> numbers; ///< of the rows to check; only for Partial
+    QVector<int> numbers; ///< numbers of the rows to check; only for Partial
 };
 
-/// Returns the valid lines and skips all others. `isEmpty` is set to whether the text has no lines
-/// at all; such a text leaves a tree unchanged.
+/// Returns the valid lines and skips all other lines. Sets `isEmpty` to true if the text has no
+/// lines at all; such a text does not change a tree.
 std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty);
 
-/// Sets the check states from a selection text and unchecks all items that it does not name. The
-/// result equals setting the items line by line with an automatic update after each, but each item
-/// is set only once: the last line that affects the item or one of its ancestors wins. This keeps
-/// the time linear in the number of items.
+/// Sets the check states from a selection text and unchecks all items that it does not contain. The
+/// result is the same as if the items were set line by line with an automatic update after each
+/// line. However, each item is set only once: the last line that affects the item or one of its
+/// ancestors wins. Therefore the time is linear in the number of items.
 template <typename Node>
 class SelectionApplier
 {
@@ -138,7 +139,8 @@ public:
     }
 
 private:
-    /// The state that a line requests for an item and its descendants. The latest order wins.
+    /// The state that a line requests for an item and its descendants. The most recent order takes
+    /// precedence.
     struct Order
     {
         int time = 0;
@@ -150,7 +152,7 @@ private:
     /// The children of an item by number, and the orders for them by index.
     struct Children
     {
-        std::vector<std::pair<int, int>> places; // number and index, ascending
+        std::vector<std::pair<int, int>> places; // pairs of number and index, ascending
         std::vector<Order> orders;
     };
 
@@ -162,7 +164,7 @@ private:
             return;
         Children& children = childrenOf(item);
         for (int number : line.numbers) {
-            // The last child with this number, as a search from the end would find it.
+            // Finds the last child with this number, like a search from the end.
             auto found = std::upper_bound(children.places.begin(), children.places.end(),
                                           std::make_pair(number, std::numeric_limits<int>::max()));
             if (found != children.places.begin() && (--found)->first == number)
@@ -194,7 +196,7 @@ private:
         if (!item)
             return;
         const int count = item->childCount();
-        if (item->level < RowLevel) // lines never name rows by identifier
+        if (item->level < RowLevel) // lines never refer to rows by identifier
             order = order.orLater(m_orders.value(item));
         if (count == 0)
             return setLeaf(item, order.state);
@@ -210,11 +212,11 @@ private:
     Node* m_root;
     ItemIndex<Node> m_index;
     QHash<Node*, Order> m_orders;
-    std::unordered_map<Node*, Children> m_children; // only of items with rows named in a line
+    std::unordered_map<Node*, Children> m_children; // items whose rows are listed in a line
     int m_time = 0;
 };
 
-/// Applies a selection text to the tree. A text without lines leaves the tree unchanged. For
+/// Applies a selection text to the tree. A text without lines does not change the tree. For
 /// `setLeaf`, see SelectionApplier::apply().
 template <typename Node, typename SetLeaf>
 void applySelection(Node* root, const QString& text, const SetLeaf& setLeaf)

@@ -8,7 +8,7 @@
 namespace plib {
 
 namespace {
-/// Returns false for a NaN as well.
+/// Also returns false for a NaN.
 bool fitsInteger(double value)
 {
     return value > double(std::numeric_limits<int>::min()) - 1 &&

@@ -17,7 +17,7 @@ struct TableLoadCase
 
 /// Returns the rows for the output tree, sorted by number. Numbers are truncated towards zero; if
 /// two load cases have the same number, the later one wins. A number that does not fit into 32 bits
-/// is left out, because truncating it would be undefined behaviour.
+/// is omitted, because truncating it would be undefined behaviour.
 std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
 rowsOfTable(const std::vector<TableLoadCase>& loadCases);
 
