@@ -16,6 +16,7 @@
 #include <vkd_dbo_queries.h>
 #include <vkd_h_groupInput.h>
 #include <VKD_H_ZOBDoc.h>
+#include <vkd_zob.h>
 
 #include <algorithm>
 #include <cmath>
@@ -74,6 +75,10 @@ DesignRows::DesignRows(VKD_H_ZOBDoc* document)
     m_data.kindOfSystem = vkd::dbo::getKindOfSystem(index, nullptr);
     plib::readRowsFromZob(m_data);
     plib::readRowsFromEntries(m_data, m_page);
+    // The functions that read rows report no failure; the project was opened for this command.
+    const VkdStatus failure = vkd_zob_last_failure(index);
+    if (!failure.isOk())
+        throw CommandError{failure.reason};
     for (const plib::DesignParameterRow& row : m_data.rows)
         m_namedGroups.insert(row.groups.begin(), row.groups.end());
 }
