@@ -195,7 +195,7 @@ BENCHMARK(appendLines)->Arg(Medium);
 
 int main(int argc, char* argv[])
 {
-    // The last four bounds detect work that is not linear: if it were quadratic, the ratio would be
+    // The last four bounds detect non-linear work: if the work were quadratic, the ratio would be
     // six.
     const auto growth = [](const std::string& name) {
         return Bound{name + "/300000", name + "/50000", 1.4, "does the same, each item",

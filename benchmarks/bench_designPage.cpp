@@ -72,7 +72,8 @@ std::unique_ptr<VKD_P_DesignParameter> newPage(const Project& project)
     return page;
 }
 
-/// Measures reading, showing and freeing the rows, minus the time for reading alone.
+/// Measures the time for reading, showing and freeing the rows, minus the time for only reading
+/// them.
 void fillPage(benchmark::State& state)
 {
     const Project project;

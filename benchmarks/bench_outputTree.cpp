@@ -40,7 +40,7 @@ QByteArray catalogue()
     return file;
 }
 
-/// The project and settings that the trees need, for the lifetime of the process.
+/// The project and the settings that the trees need. They exist until the process ends.
 class Surroundings
 {
 public:
@@ -145,7 +145,7 @@ void fillBareTree(benchmark::State& state)
     }
 }
 
-/// The space key has the same effect as a click. Includes painting the changes.
+/// Presses the space key, which has the same effect as a click. Includes painting the changes.
 void clickOnTheCaption(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));

@@ -39,7 +39,7 @@ public:
     QTreeWidgetItem* top;
 };
 
-/// The space key has the same effect as a click. Includes painting the changes.
+/// Presses the space key, which has the same effect as a click. Includes painting the changes.
 void clickOnTheCaption(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));

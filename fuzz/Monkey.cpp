@@ -127,7 +127,7 @@ void Monkey::workOnPopup(QWidget* popup)
         QTest::keyClick(list ? list : popup, keys[act]);
 }
 
-/// A file dialog can also rename and delete files, so it only receives the given names.
+/// A file dialog can also rename and delete files, so only the given names are entered.
 void Monkey::nameFile(QFileDialog* dialog)
 {
     const QString file =

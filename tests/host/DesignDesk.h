@@ -26,7 +26,7 @@ public:
     /// Returns the cells that contain widgets, as "row,column" joined by spaces.
     QString editors() const;
     void press(const char* button);
-    /// Sends arrow keys and command keys to the table.
+    /// Sends arrow keys and shortcut keys to the table.
     void keys(const std::vector<Qt::Key>& keys);
 
     VKD_P_DesignParameter* const page;

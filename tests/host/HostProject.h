@@ -18,7 +18,7 @@ public:
     /// Closes the file and opens it again, so that later reads come from the file.
     void reopen();
 
-    /// Returns the design records in the order of the store.
+    /// Returns the design records in the order in which they are stored.
     std::vector<tagZOB_QUAD_RIM> records();
     void setRecords(const std::vector<tagZOB_QUAD_RIM>& records);
 

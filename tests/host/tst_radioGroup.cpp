@@ -60,7 +60,7 @@ public:
         }
         return texts.join(QLatin1Char('|'));
     }
-    /// Returns the button at this position of the row.
+    /// Returns the button at this position in the row.
     QRadioButton* button(int at) const
     {
         return qobject_cast<QRadioButton*>(group->layout()->itemAt(at)->widget());

@@ -150,7 +150,7 @@ private Q_SLOTS:
         row(0, true, "EG3 at the very beginning, EG3", "EG3 at the very beginning, EG3");
     }
 
-    /// The name of the data row is the line.
+    /// The name of the data row is the expected line.
     void views()
     {
         QFETCH(int, viewId);

@@ -24,7 +24,7 @@ namespace {
 using Fault = FaultyDisk::Fault;
 enum class Call { Read, Write, Other }; // only Write needs disk space
 
-/// Writes the bytes, or truncates at the offset if they are null.
+/// Writes the bytes, or truncates the file at the offset if the bytes are null.
 struct Change
 {
     qint64 offset;

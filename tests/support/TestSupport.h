@@ -20,7 +20,7 @@ int run(QObject* test, int argc, char* argv[]);
 void writeFile(const QString& path, const QByteArray& bytes);
 QByteArray readFile(const QString& path);
 
-/// A QString in a row of test data, convertible from UTF-8 literals.
+/// A QString for test data rows that is convertible from UTF-8 literals.
 struct Text : QString
 {
     Text() = default;

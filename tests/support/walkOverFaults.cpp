@@ -34,7 +34,7 @@ void setFiles(const QString& folder, const Files& files)
 
 class Walk
 {
-    // Defined first, because its type is deduced.
+    // Defined before it is used, because its return type is deduced.
     /// Makes calling the function faster, because no data is really synced.
     template <typename Function>
     auto onSoundDisk(const Function& function) const

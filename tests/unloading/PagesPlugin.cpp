@@ -111,7 +111,7 @@ extern "C" Q_DECL_EXPORT void show(const char* what, QStringList* texts)
             *texts << act();
 }
 
-/// Opens a document that the host stores in an object older than the store.
+/// Opens a document that the host stores in an object that is older than the store.
 extern "C" Q_DECL_EXPORT void openForHost(const char*, std::shared_ptr<void>* holder)
 {
     *holder = VKD_H_ZOBDoc::create(folder.filePath(QStringLiteral("host.zob")));

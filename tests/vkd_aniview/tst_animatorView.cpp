@@ -22,7 +22,7 @@ const QVector<QPoint> Across{Left, Right};
 constexpr auto Shift = Qt::ShiftModifier;
 const QLatin1String Aimed("camera1 3 -1 0.5 20 2 1.5 0.25 4");
 
-/// Two plates of the groups 7 and 8 side by side. Seen from above in a view of 600 by 400 pixels,
+/// Two plates of groups 7 and 8, side by side. Seen from above in a view of 600 by 400 pixels,
 /// they cover the left and the right half of its middle.
 Model plates()
 {
@@ -307,7 +307,7 @@ private Q_SLOTS:
             const auto goOn = [&questions](int) { return questions-- > 0; };
             QCOMPARE(m_view->setProject(m_project->handle(), goOn).code, int(VKD_ZOB_CANCELLED));
         }
-        drag(*m_view, {Left}); // the view still shows the same model
+        drag(*m_view, {Left}); // the view still shows the old model
         QCOMPARE(m_view->pickedGroups(), Groups{7});
         QVERIFY(m_view->setProject(ZobHandle()).isOk());
         m_view->setPickedGroups({7, 70});

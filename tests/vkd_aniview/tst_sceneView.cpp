@@ -170,7 +170,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Straight from above, the view still preserves its azimuth.
+    /// The view preserves its azimuth even when seen straight from above.
     void steepest()
     {
         SceneView view = viewOf(storey(), {3, -1, 1});

@@ -92,7 +92,7 @@ static const Query queries[] = {
     {"secondary groups", hasSgrp, [](Model& m) { m.secondaryGroups.resize(1); }},
 };
 
-/// Tests storing a model in a project and the queries about it.
+/// Tests storing a model in a project and querying the stored model.
 class TestModelStore : public QObject
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ StructBoxedEdit fontSize(int flags = StructBoxedEdit::EmptyIsDefault)
     return description;
 }
 
-/// A dialog with the field and another field after it.
+/// A dialog with the tested field, followed by another field.
 struct Dialog
 {
     explicit Dialog(int flags = StructBoxedEdit::EmptyIsDefault)

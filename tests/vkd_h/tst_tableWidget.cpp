@@ -150,7 +150,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Opens the menu, triggers an entry, and compares the menu and the rows after it.
+    /// Opens the menu, triggers an entry, and compares the menu and the resulting rows.
     void contextMenu()
     {
         Table table;

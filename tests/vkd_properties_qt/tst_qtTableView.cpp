@@ -12,8 +12,8 @@
 using vkd::properties::nextGen::QtTableView;
 
 namespace {
-/// A visible table of three load cases: an editable title with a check box, and a kind that is not
-/// editable.
+/// A visible table of three load cases. Each has an editable title with a check box, and a kind
+/// that is not editable.
 class Table : public QtTableView
 {
 public:
@@ -50,7 +50,7 @@ public:
             all << m_model.item(row, 0)->text();
         return all.join(QLatin1Char('|'));
     }
-    /// Returns whether a click on the check box of the first row changes it.
+    /// Returns whether a click on the check box in the first row changes the check state.
     bool clickOnBox()
     {
         const Qt::CheckState before = m_model.item(0)->checkState();

@@ -75,7 +75,8 @@ sub => none
     }
 
 private:
-    /// Writes the file of the program "p" in a new folder for each test, and selects the program.
+    /// For each test, writes the text file of the program "p" to a new folder and selects this
+    /// program.
     void useTexts(const QByteArray& bytes)
     {
         testsupport::writeFile(m_folder->filePath(QStringLiteral("two/texts/p.txt")), bytes);

@@ -13,7 +13,7 @@ static QByteArray patched(QByteArray bytes, int offset, const QByteArray& patch)
     return bytes.replace(offset, patch.size(), patch);
 }
 
-/// Tests opening any file as a project, and that a project that is only read does not change.
+/// Tests opening arbitrary files as projects, and that reading a project does not change its file.
 class TestZobFiles : public QObject
 {
     Q_OBJECT

@@ -30,7 +30,7 @@ static int contrast(QAbstractItemView& view)
     return greatest;
 }
 
-/// Returns the width of the first line's text in a widget, above the frame of a box.
+/// Returns the width of a widget's first line of text, which in a group box is above the frame.
 static int inkWidth(QWidget& widget)
 {
     const QImage line =

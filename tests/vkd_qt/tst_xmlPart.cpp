@@ -83,7 +83,7 @@ x</A><A>x</A> => x
 )");
     }
 
-    /// This would take minutes if an unclosed part were searched to the end of the string.
+    /// The test would take minutes if the string were searched to its end for each unclosed part.
     void longStrings()
     {
         const QString open = QStringLiteral("<A>").repeated(500000);

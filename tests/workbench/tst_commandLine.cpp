@@ -97,7 +97,7 @@ private Q_SLOTS:
             "SIZE TYPE \"-URS\" SC 0 SPLI 2X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X1");
     }
 
-    /// The arguments are the name of the data row.
+    /// The name of the data row contains the arguments.
     void settingsChangeTheScript()
     {
         QFETCH(const QString, line);

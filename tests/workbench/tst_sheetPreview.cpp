@@ -213,7 +213,7 @@ private Q_SLOTS:
         const auto document = VKD_H_ZOBDoc::open(copy("building.zob"));
         ModelImages models(document->handle());
         PictureView view;
-        view.kind = PictureView::PlaneXY; // 19.5 m by 13.5 m with the raft
+        view.kind = PictureView::PlaneXY; // the model measures 19.5 m by 13.5 m with the raft
         const QSizeF frame(180, 110);
         const double fitting = models.scale(view, frame, SheetPlan::ScaleToFit);
         QVERIFY(fitting > 13.5 / 0.110 && fitting < 1.3 * 13.5 / 0.110);

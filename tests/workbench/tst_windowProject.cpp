@@ -42,7 +42,7 @@ class tst_windowProject : public ProjectTest
 private Q_SLOTS:
     void unusableFiles_data()
     {
-        // "-" means no file, "/" a folder
+        // "-" means no file, "/" means a folder
         const Columns<QByteArray, QString, QString> row("content", "english", "german");
         const QByteArray noise("\x93\x07\xFE\x5A\xC1\x88\x33\xD6");
         const auto patched = [this](int offset, const QByteArray& bytes) {
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(!QApplication::overrideCursor());
     }
 
-    /// The dialog works on a copy of the records, which also needs the kind of system.
+    /// The dialog works on a copy of the records. The copy also needs the kind of system.
     void planeSystemHasNoDistances()
     {
         {

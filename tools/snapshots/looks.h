@@ -4,7 +4,7 @@ class QPalette;
 
 namespace workbench {
 
-/// Returns the colours of a dark desktop, independent of the platform's theme.
+/// Returns the palette of a dark desktop, independent of the platform theme.
 QPalette darkPalette();
 
 } // namespace workbench

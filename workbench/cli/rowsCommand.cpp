@@ -41,7 +41,7 @@ void storeRows(VKD_H_ZOBDoc* document, const std::function<void(DesignRows*)>& e
     failOn(change.commit());
 }
 
-/// Spreadsheets recognise UTF-8 by the byte order mark.
+/// Spreadsheet programs recognise UTF-8 by the byte order mark.
 void exportRows(const DesignRows& rows, const QString& path)
 {
     const QString text =

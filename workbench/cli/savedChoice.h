@@ -12,14 +12,15 @@ namespace workbench {
 std::vector<CommandLine::Option> choiceOptions();
 int progname(const CommandLine& line);
 
-/// Returns the state that the window saved in the project. Returns an empty state with --proposed,
-/// and for kinds of page that the window does not use.
+/// Returns the state that the window has saved in the project. Returns an empty state with
+/// --proposed, and for kinds of page that the window does not use.
 OutputState savedChoice(const CommandLine& line, ZobHandle project);
 
 /// Returns the saved settings. Settings that were not saved have their values on a new page.
 plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved);
 
-/// Makes the saved camera the desktop's camera, from which the script takes the user-defined view.
+/// Sets the desktop's camera to the saved camera. The script uses the desktop's camera for the
+/// user-defined view.
 void restoreCamera(const OutputState& saved);
 
 /// Returns the selection text from the file given by --selection or, without this option, the saved

@@ -9,7 +9,7 @@
 
 namespace workbench {
 
-/// The parts of a project that dialogs edit, each as a whole.
+/// The parts of a project, each of which is edited as a whole by a dialog.
 enum class ProjectPart { Design, Output, TextOutput };
 
 /// Returned instead of a VkdZobStatus if another program has changed the part since look().
@@ -28,8 +28,8 @@ public:
     /// Stores the current state of the part in the project. Call it before reading the part, so
     /// that a change between the two calls is detected later. Returns a VkdZobStatus.
     cd_error_t look(ZobHandle project);
-    /// Returns whether the state in the project has changed since look(); false if it cannot be
-    /// read.
+    /// Returns whether the state in the project has changed since look(), or false if the state
+    /// cannot be read.
     bool isOutdated(ZobHandle project) const;
     /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if it fails, the transaction
     /// is rolled back and its status is returned. Returns PartChanged if the project contains a

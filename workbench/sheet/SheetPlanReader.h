@@ -7,8 +7,8 @@
 namespace workbench {
 
 /// Reads the statements of a script one by one into a plan, in linear time. Every statement after
-/// the page setup that does not control the program is a picture, so that plots that are added to
-/// the catalogue later are pictures as well.
+/// the page setup that does not control the program counts as a picture, so that plots that are
+/// added to the catalogue later count as pictures, too.
 class SheetPlanReader
 {
 public:

@@ -30,7 +30,7 @@ void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
     writer.setCreator(QCoreApplication::applicationName());
 }
 
-/// Returns false if the user cancelled or a page could not be started.
+/// Returns false if the user has cancelled or a page could not be started.
 bool writePages(const SheetPlan& plan, SheetPainter& sheets, QPdfWriter& writer,
                 QProgressDialog& progress)
 {

@@ -145,7 +145,7 @@ bool FileCommands::openDocument(const QString& path, Camera camera)
         document = VKD_H_ZOBDoc::open(absolute, &result, [&work](int) { return work.goOn(0); });
         return cd_error_t(result.code);
     });
-    // The first project must not delay the painting of the window.
+    // Opening the first project must not delay painting the window.
     const bool isFirst = !m_parts.project->isOpen() && window->isVisible();
     VkdStatus modelStatus;
     if (status == VKD_ZOB_OK && !isFirst)
@@ -178,8 +178,7 @@ std::unique_ptr<VKD_H_ZOBDoc> FileCommands::setDocument(std::unique_ptr<VKD_H_ZO
     return previous;
 }
 
-/// Loads the model of the project. The status is VKD_ZOB_CANCELLED if the user
-/// cancelled.
+/// Loads the model of the project. The status is VKD_ZOB_CANCELLED if the user has cancelled.
 VkdStatus FileCommands::showModel(ZobHandle project)
 {
     SlowWork work(m_parts.messages->window(), tr("The model is being read."), 0);

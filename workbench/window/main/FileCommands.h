@@ -43,7 +43,7 @@ class FileCommands : public QObject
     Q_OBJECT
 
 public:
-    /// The parts and actions are not owned and outlive the object.
+    /// The parts and actions are not owned and must outlive the object.
     FileCommands(const ProjectParts& parts, const MakeProject& makeProject, WindowActions* actions);
 
     /// Replaces the open project. If the file cannot be opened, shows a message and keeps the open

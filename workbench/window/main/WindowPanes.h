@@ -43,7 +43,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    // In tab order: column by column; the records follow the view.
+    // The panes are in tab order, column by column. The records follow the view.
     GroupList* const groups;
     ChangeBar* const news;
     PickBanner* const banner;

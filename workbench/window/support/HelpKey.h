@@ -15,8 +15,8 @@ void setHelpTopic(QWidget* widget, const char* topic);
 /// topic of its dialog.
 QString helpTopic(const QWidget* widget);
 
-/// Handles the help key in a window and in all its dialogs, even modal ones. While a list or a menu
-/// is open, the key does nothing.
+/// Handles the help key in a window and in all its dialogs, even in modal dialogs. While a list or
+/// a menu is open, the key does nothing.
 class HelpKey : public QObject
 {
     Q_OBJECT

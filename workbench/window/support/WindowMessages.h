@@ -30,8 +30,8 @@ public:
     /// status. If the user has cancelled, only the status bar shows the message. Returns whether
     /// `status` is VKD_ZOB_OK.
     bool succeeds(cd_error_t status, const QString& path, const QString& sentence);
-    /// Overload for a complete status; if a system error occurred while reading or writing, the
-    /// reason is the reason of the status.
+    /// Overload for a complete status. If a system error occurred while reading or writing, shows
+    /// the reason from the status.
     bool succeeds(const VkdStatus& status, const QString& path, const QString& sentence);
     /// Asks whether to store changes, and calls `store` if the user confirms. Returns false if the
     /// user cancels or `store` returns false.

@@ -6,8 +6,9 @@
 
 namespace workbench {
 
-/// Returns a sentence for a VkdZobStatus that explains to the user why the store refuses a project
-/// file. The sentence refers to the file as "it", so the preceding sentence must mention the file.
+/// Returns a sentence that explains to the user why the store refuses a project file with this
+/// VkdZobStatus. The sentence refers to the file as "it", so the preceding sentence must mention
+/// the file.
 QString storeErrorText(const QString& path, cd_error_t status);
 
 } // namespace workbench
