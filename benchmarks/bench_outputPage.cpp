@@ -1,4 +1,5 @@
-// The output page from its constructor to its first paint, compared with a bare widget with a tree.
+// The time from the constructor of the output page to its first paint event, compared with a bare
+// widget that contains a tree.
 
 #include "RatioReporter.h"
 

@@ -169,7 +169,7 @@ void bareWalk(benchmark::State& state)
         setAll(tree.top(), other(tree.top()->checkState(0)));
 }
 
-/// Returns a choice of every second row, starting with row `first`.
+/// Returns a choice that contains every second row, starting with row `first`.
 QString choice(Tree& tree, int first)
 {
     tree.top()->setCheckState(0, Qt::Unchecked);

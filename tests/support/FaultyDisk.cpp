@@ -241,7 +241,7 @@ void FaultyDisk::restart()
         writeFile(folder.filePath(QFile::decodeName(name.key())),
                   file.contentAfter(upTo(file.changes.size())));
     }
-    disk = std::make_unique<Disk>(); // simulates no folder
+    disk = std::make_unique<Disk>(); // without a folder
     disk->folder = "/dev/null";
     disk->failedCall = before->failedCall;
 }

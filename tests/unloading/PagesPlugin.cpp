@@ -52,7 +52,7 @@ QStringList showDesign()
     (new QVBoxLayout(&dialog))->addWidget(&page);
     page.init();
     page.readZob();
-    page.showHelp(); // its window closes with the dialog
+    page.showHelp(); // the help window closes with the dialog
     return paint(dialog);
 }
 

@@ -102,7 +102,7 @@ private Q_SLOTS:
     void walk_data()
     {
         const Columns<QByteArray, int> row("operation", "stride");
-        row("design", "design", 4); // slow because of the page
+        row("design", "design", 4); // slow, because it creates a page
         row("read rows", "rows", 1);
         row("save as", "save as", 2);
         row("new", "new", 2);

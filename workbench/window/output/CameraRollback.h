@@ -5,7 +5,8 @@
 namespace workbench {
 
 /// Restores the desktop's camera, which is the user-defined view, when the object is destroyed.
-/// Until then, a page may overwrite it with the camera of its own view, even of a fixed view.
+/// Until then, a page may overwrite the desktop's camera with the camera of its own view, even if
+/// that is a fixed view.
 class CameraRollback
 {
 public:
