@@ -8,8 +8,8 @@ class VKD_QT4_ComboBox;
 namespace workbench {
 
 /// Check boxes for the lists of a text output, and a control that selects which values the lists
-/// contain. Like PickTable, this widget can show the result of a rule instead of the user's individual
-/// choice.
+/// contain. Like PickTable, this widget can show the result of a rule instead of the user's
+/// individual choice.
 class ExtentFields : public QWidget
 {
     Q_OBJECT
