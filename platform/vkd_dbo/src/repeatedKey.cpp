@@ -8,8 +8,8 @@ namespace vkd {
 namespace dbo {
 
 namespace {
-/// Collects the keys of the open objects. Sorting them at the end of an object bounds the time for
-/// objects with very many keys.
+/// Collects the keys of the objects that are not yet closed. The keys are sorted at the end of each
+/// object, which bounds the time for objects with very many keys.
 class KeyScanner
 {
 public:
@@ -54,7 +54,7 @@ private:
         return end;
     }
 
-    /// Returns whether the object had a key twice.
+    /// Closes the current object. Returns whether it contained the same key twice.
     bool close()
     {
         if (m_open.empty())

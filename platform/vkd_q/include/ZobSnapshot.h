@@ -15,7 +15,7 @@ class ZobDatabase;
 /// the snapshot.
 ///
 /// If a transaction begins while a snapshot of this program exists and another program is changing
-/// the project, the transaction does not wait but is refused with VKD_ZOB_LOCKED. Otherwise both
+/// the project, the transaction does not wait, but fails with VKD_ZOB_LOCKED. Otherwise both
 /// programs would wait for each other.
 class VKD_Q_EXPORT ZobSnapshot
 {

@@ -31,7 +31,7 @@ enum VkdZobStatus : cd_error_t {
     VKD_ZOB_NEWER = 7,      ///< the file was written by a newer version of the program
     VKD_ZOB_DAMAGED = 8,    ///< the file is damaged, or the checksum of a record is wrong
     VKD_ZOB_READ_ONLY = 9,  ///< the file or its folder is not writable
-    VKD_ZOB_FULL = 10,      ///< the disk is full or refuses the data
+    VKD_ZOB_FULL = 10,      ///< disk full, quota exceeded or file too large
     VKD_ZOB_LOCKED = 11,    ///< another program kept the project locked for too long
     VKD_ZOB_FAILED = 12,    ///< the system failed to read or write
     VKD_ZOB_BAD_CALL = 13,  ///< an argument is out of range
@@ -95,7 +95,7 @@ VKD_Q_EXPORT VkdStatus vkd_zob_change_status(int index);
 
 /// With `mode` 1, sets `*key1`, `*key2` to the first used key pair that is not less than the given
 /// one, or to -1, -1 if there is none. For example, if (35, 0) yields a pair with the first key 35,
-/// records with this first key exist. Other modes are invalid and give -1.
+/// records with this first key exist. Any other mode is an error and sets both keys to -1.
 VKD_Q_EXPORT void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode);
 
 /// Sets `*number` to 0 if the project has not been changed since it was opened, except through this

@@ -48,7 +48,7 @@ DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWi
 }
 
 /// Disconnects from the application, because the focus still changes while the table is being
-/// destroyed, when the slots must no longer run.
+/// destroyed. At that time the slots must no longer run.
 DesignParameter::~DesignParameter()
 {
     disconnect(qApp, nullptr, this, nullptr);

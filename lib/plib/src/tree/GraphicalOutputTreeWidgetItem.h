@@ -13,7 +13,7 @@ public:
     /// The item type that distinguishes output items from plain items.
     static constexpr int OutputType = UserType + 1;
 
-    /// Creates an unchecked item with a text.
+    /// Creates an unchecked item with the given text.
     explicit GraphicalOutputTreeWidgetItem(const QString& text = QString());
     /// Creates an item with the appearance of another item, see takeLook().
     explicit GraphicalOutputTreeWidgetItem(const QTreeWidgetItem& look);

@@ -15,8 +15,7 @@ OutputNode* OutputNode::addChild(const QString& text)
 
 void OutputNode::removeChild(OutputNode* child)
 {
-    // Searches from the end, because the most recently added child is usually the one that is
-    // removed.
+    // Searches from the end, because usually the most recently added child is removed.
     const auto found = std::find_if(m_children.rbegin(), m_children.rend(),
                                     [child](const auto& own) { return own.get() == child; });
     if (found != m_children.rend())

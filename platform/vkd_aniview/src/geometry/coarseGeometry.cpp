@@ -16,8 +16,8 @@ constexpr size_t FewItems = 8000;
 constexpr float LargestCell = 0.5F;
 constexpr float CellOfBars = 0.01F; // used if there are no faces
 constexpr int NoGroup = -1;
-// Without it, QHash puts the cells of a regular grid into few buckets, and opening a model of a
-// million elements takes several times as long.
+// Without this factor, QHash distributes the cells of a regular grid over only a few buckets, and
+// opening a model with a million elements takes several times as long.
 constexpr quint64 OddFactor = 0x9E3779B97F4A7C15U;
 
 class CellMerger

@@ -11,7 +11,7 @@ class QWidget;
 enum class FieldMarkKind {
     None,
     Doubted, ///< the value is accepted, but implausible
-    Refused  ///< the text is not a value, or the dialog refuses the value
+    Refused  ///< the text is invalid, or the dialog rejects the value
 };
 
 /// The mark of an input field. It consists of a coloured frame, a symbol at the right end for users

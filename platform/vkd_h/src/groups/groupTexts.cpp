@@ -11,7 +11,7 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// The translation context of the dialog, which all files of it share.
+/// The translation context of the dialog, which all its files share.
 struct DialogText
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)

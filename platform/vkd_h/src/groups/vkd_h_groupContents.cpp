@@ -9,7 +9,7 @@ namespace h {
 namespace {
 using dbo::GroupContents;
 
-/// The translation context of the group dialogs, which all files of them share.
+/// The translation context of the group dialogs, which all their files share.
 struct DialogText
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)

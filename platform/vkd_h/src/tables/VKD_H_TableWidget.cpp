@@ -166,8 +166,8 @@ QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
 }
 
 namespace {
-/// A click that adds cells to the selection. It must not move the focus into the widget over the
-/// cell, because the view would then select or deselect this cell.
+/// Returns whether the event is a click that extends the selection. Such a click must not move the
+/// focus to the widget over the cell, because the view would then select or deselect this cell.
 bool isSelecting(const QEvent* event)
 {
     const bool isRelease = event && event->type() == QEvent::MouseButtonRelease;

@@ -28,10 +28,10 @@ public:
     /// Returns whether a transaction was begun explicitly and is open.
     bool isInTransaction() const;
 
-    /// Returns whether the path no longer leads to the open file, because it was deleted, moved or
+    /// Returns whether the path no longer refers to the open file, because it was deleted, moved or
     /// replaced.
     bool isAway() const;
-    /// Returns whether a journal exists beside the path.
+    /// Returns whether a journal exists next to the file.
     bool hasJournal() const;
     /// Sets whether statements wait for another program's lock. The default is true. The deadline
     /// is setting 201.
