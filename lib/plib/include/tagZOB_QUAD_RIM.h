@@ -15,7 +15,7 @@ struct tagZOB_QUAD_RIM
     std::int32_t group; ///< -1: all groups without their own record; 1000000 or more: secondary
     std::int32_t subId; ///< if not 0, belongs to another program
     std::int32_t
-        type; ///< 0 none, 1 two layers orthogonal, 2 two layers, 3 three layers, 4 circular
+        type; ///< 0 none, 1 two orthogonal layers, 2 two layers, 3 three layers, 4 circular
     std::int32_t mode;                      ///< preserved, not used
     std::int32_t mark;                      ///< if not 0 or 11, belongs to another program
     float rio, rioq, rioi, riu, riuq, riui; ///< directions, radians

@@ -49,7 +49,7 @@ void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
     VKD_QT4_ComboBox::changeEvent(event);
 }
 
-/// Lets the user find a diameter by typing its digits, although the texts begin with the diameter
+/// Lets the user find a diameter by typing its digits, although the entries begin with the diameter
 /// sign.
 void VKD_A_BarDiameterCombo::keyPressEvent(QKeyEvent* event)
 {

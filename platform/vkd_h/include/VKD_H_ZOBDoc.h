@@ -14,8 +14,9 @@
 class VKD_H_EXPORT VKD_H_ZOBDoc
 {
 public:
-    /// Opens a project file, or creates one that must not exist yet. Returns null on failure. If
-    /// `status` is not null, it receives the result of vkd_zob_open() or vkd_zob_create().
+    /// Open an existing project file, or create a new file, which must not exist yet. Return null
+    /// on failure. If `status` is not null, it receives the result of vkd_zob_open() or
+    /// vkd_zob_create().
     static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, VkdStatus* status = nullptr,
                                               const VkdGoOn& goOn = VkdGoOn());
     static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, VkdStatus* status = nullptr);

@@ -93,9 +93,10 @@ VKD_Q_EXPORT void vkd_zob_free_ex(int index, int key1, int key2);
 /// locking or storing failed.
 VKD_Q_EXPORT VkdStatus vkd_zob_change_status(int index);
 
-/// With `mode` 1, sets `*key1`, `*key2` to the first used key pair that is not less than the given
-/// one, or to -1, -1 if there is none. For example, if (35, 0) yields a pair with the first key 35,
-/// records with this first key exist. Any other mode is an error and sets both keys to -1.
+/// With `mode` 1, finds the first used key pair that is not less than the pair passed in `*key1`,
+/// `*key2`, and stores it there. If there is none, sets both keys to -1. For example, if (35, 0)
+/// yields a pair with the first key 35, records with this first key exist. Any other mode is an
+/// error and sets both keys to -1.
 VKD_Q_EXPORT void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode);
 
 /// Sets `*number` to 0 if the project has not been changed since it was opened, except through this

@@ -17,7 +17,7 @@ namespace plib {
 /// because the figures in one dialog have a white background.
 void dressDialog(VKD_QT_Dialog* dialog, const QString& title, const char* topic);
 
-/// Sets the topic in the design help book that the host shows when the user presses the help key.
+/// Sets the topic of the design help book that the host shows when the user presses the help key.
 void setHelpTopic(QWidget* dialog, const char* topic);
 
 /// Appends a button row with OK, which accepts the dialog, and Cancel, which rejects it.

@@ -156,7 +156,7 @@ void SheetPanel::apply(const SavedPage& saved)
     }
     if (saved.has(savedtag::Pictures))
         m_data.picturesGroup->setButton(int(settings.picturesId));
-    if (saved.has(savedtag::View)) // moves the camera
+    if (saved.has(savedtag::View)) // showing the view moves the camera
         m_data.viewGroup->setButton(int(settings.viewId));
 }
 

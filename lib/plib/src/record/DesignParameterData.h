@@ -14,7 +14,7 @@ namespace plib {
 /// A row of the design table: one set of parameters and the groups to which it applies.
 struct DesignParameterRow
 {
-    const VKD_A_BarDiameterData* barData = nullptr; ///< not owned; for texts
+    const VKD_A_BarDiameterData* barData = nullptr; ///< not owned; provides the names of bars
     tagZOB_QUAD_RIM record{};                       ///< distances in the edited form
     /// If empty, the row has no groups yet. If -1 is the only entry, the row is for the remaining
     /// groups.

@@ -6,7 +6,8 @@ class VKD_H_PluginParameter;
 
 namespace plib {
 
-/// Obtains the texts of a script from the platform for the project of a page.
+/// Obtains the environment-dependent parts of a script from the platform, for the project of a
+/// page.
 class PlatformScriptEnvironment : public ScriptEnvironment
 {
 public:

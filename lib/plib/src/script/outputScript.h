@@ -7,7 +7,7 @@
 
 namespace plib {
 
-/// Provides the texts of a script that depend neither on the settings nor on the selected lines.
+/// Provides those parts of a script that depend neither on the settings nor on the selected lines.
 /// Tests replace it, so that the script needs no project.
 class ScriptEnvironment
 {

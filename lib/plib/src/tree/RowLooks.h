@@ -24,7 +24,7 @@ public:
     /// Uses the row icon for this language.
     explicit RowLooks(vkd::Language language);
 
-    /// Returns the look of a row with this text and load case, checked or unchecked.
+    /// Returns an item with the look of a checked or unchecked row with this text and load case.
     const QTreeWidgetItem& of(const QString& text, int number, bool checked);
 
 private:

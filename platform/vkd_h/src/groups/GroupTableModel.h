@@ -25,7 +25,7 @@ public:
     int rowOf(int group) const;
     /// Returns whether the remark column can contain text.
     bool hasRemarks() const;
-    /// Returns the longest texts that the column can show, a few dozen at most.
+    /// Returns the longest strings that the column can show, at most a few dozen.
     QStringList longestTexts(int column) const;
     /// Updates the views after the language has changed.
     void languageChanged();

@@ -43,8 +43,8 @@ void GroupView::fitColumns(const GroupTableModel& groups)
     }
 }
 
-/// Measures only the longest texts. Measuring thousands of texts would take most of the time needed
-/// to open the dialog.
+/// Measures only the longest strings. Measuring thousands of strings would take most of the time
+/// needed to open the dialog.
 int GroupView::columnWidthFor(const GroupTableModel& groups, int column) const
 {
     const QFontMetrics metrics = fontMetrics();

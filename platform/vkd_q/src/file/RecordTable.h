@@ -30,7 +30,8 @@ public:
 
     /// Returns SQLITE_ROW if any record exists for the pair.
     int findAny(KeyPair pair);
-    /// Sets the pair to the first used one that is not less. Returns SQLITE_ROW if there is one.
+    /// Replaces the pair with the first used pair that is not less than it. Returns SQLITE_ROW if
+    /// there is such a pair.
     int findNext(KeyPair* pair);
 
     /// Adds checksums to the records of a version 1 file. Call this function in a transaction

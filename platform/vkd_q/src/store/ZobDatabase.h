@@ -19,7 +19,8 @@ public:
 
     cd_error_t get(int key1, int key2, void* record, int* length, int position);
     cd_error_t put(int key1, int key2, const void* record, int length, int position);
-    /// Sets the pair to the first used one that is not less, or to -1, -1.
+    /// Replaces the pair with the first used pair that is not less than it, or with -1, -1 if there
+    /// is none.
     void firstPairFrom(int* key1, int* key2);
     /// Reports that an argument is out of range and returns the code of the failure.
     cd_error_t refuseCall(ZobAction action);

@@ -155,7 +155,7 @@ void ZobTransactions::storeOrDrop()
 void ZobTransactions::rememberEnd(const VkdStatus& status)
 {
     m_endOfChange = status;
-    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // deliberate
+    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // on request
     if (isFailure && m_firstFailure.isOk())
         m_firstFailure = status;
 }

@@ -178,7 +178,7 @@ void VKD_QT_RadioButtonGroup::arrange()
     QPoint foot;
     for (int entry = 0; isEntry(entry); ++entry) {
         const QPoint place = placeOf(entry);
-        put(m_radios[entry], place, m_widgets[entry] ? 1 : 2); // long texts span both columns
+        put(m_radios[entry], place, m_widgets[entry] ? 1 : 2); // a long label spans both columns
         put(m_widgets[entry], place + QPoint(1, 0), 1);
         foot = {qMax(foot.x(), place.x() + 2), qMax(foot.y(), place.y() + 1)};
     }
