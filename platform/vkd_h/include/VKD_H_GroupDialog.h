@@ -28,7 +28,8 @@ class GroupView;
 
 /// The base class of modal dialogs in which the user selects groups of a model for one row of the
 /// caller's table. It contains a list with check boxes, a filter field and an input field for
-/// numbers or names. exec() returns 1 if the user clicked OK. Users of this class must link vkd_qt.
+/// numbers or names. exec() returns 1 if the user clicked OK. Users of this class must link against
+/// vkd_qt.
 class VKD_H_EXPORT VKD_H_GroupDialog : public VKD_QT_Dialog
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ class QComboBox;
 /// user corrects it or presses Escape to restore the last accepted text. Until then, the field
 /// keeps the last accepted value, and the dialog cannot be accepted (VKD_QT_Dialog.h). An
 /// implausible value is accepted, but is marked in another colour and explained in a message. Users
-/// of this class must link vkd_qt.
+/// of this class must link against vkd_qt.
 class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit, public VKD_QT_InputField
 {
     Q_OBJECT

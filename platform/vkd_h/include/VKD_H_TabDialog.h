@@ -5,7 +5,7 @@
 #include <VKD_QT_TabDialog.h>
 
 /// The base class of tab dialogs that contain pages; a page finds its dialog by this type. Users of
-/// this class must link vkd_qt.
+/// this class must link against vkd_qt.
 class VKD_H_EXPORT VKD_H_TabDialog : public VKD_QT_TabDialog
 {
     Q_OBJECT

@@ -41,7 +41,7 @@ private:
     VkdStatus end(bool isWhole);
 
     ZobHandle m_project;
-    VkdStatus m_result;                 // valid after the end
+    VkdStatus m_result;                 // valid after the transaction has ended
     std::weak_ptr<ZobDatabase> m_store; // expires when the project is closed
     bool m_isOpen = false;
 };

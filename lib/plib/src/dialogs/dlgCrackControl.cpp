@@ -18,7 +18,7 @@ using R = tagZOB_QUAD_RIM;
 constexpr int CrackWidthCode = 1026;
 constexpr int StressCode = 1092;
 constexpr int LayersOfASide = 3;
-constexpr int CrackWidthFields = 6; // the steel stresses of the same layers follow in Fields
+constexpr int CrackWidthFields = 6; // in Fields, the steel stresses follow
 
 /// In millimetres and N/mm², the displayed units of these dimensions.
 const QVector<double> CrackWidths{0.2, 0.3, 0.4};

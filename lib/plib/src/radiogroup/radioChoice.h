@@ -12,8 +12,8 @@ namespace plib {
 /// defined in VKD_P_RadioGroup::ButtonID.
 QString choiceText(const std::vector<int>& checkedIds);
 
-/// Returns the id of the button in a string returned by choiceText(), or -1 if the name is unknown.
-/// Returns nothing if the string has a different format.
+/// Parses a string returned by choiceText() and returns the id of the button, or -1 if its name is
+/// unknown. Returns nothing if the string has a different format.
 std::optional<int> chosenId(const QString& text);
 
 } // namespace plib

@@ -69,7 +69,7 @@ private:
     VKD_H_PluginParameter* parameter;
     Rows rows;
     bool selectionLoaded = false;
-    bool rebuilding = false; // visible in a debugger; not a lock, and never read
+    bool rebuilding = false; // for debugging only; never read
     PopupHandler popup;
     std::list<QString> additional;
 };
