@@ -84,10 +84,8 @@ private Q_SLOTS:
         row("unknown words and short lines are skipped",
             "checked:@A__\nChecked\n:\nERROR CASE\nNo:@A__\nChecked:@A__   @B__   @D__",
             "--.... xxxx ....");
-        row("a comma without a number", "Partially:@A__   @B__ : 7,",
-            "...... .... ....");
-        row("the number after the identifier is not read", "Checked:@A__:%2",
-            "xxxxxx xxxx ....");
+        row("a comma without a number", "Partially:@A__   @B__ : 7,", "...... .... ....");
+        row("the number after the identifier is not read", "Checked:@A__:%2", "xxxxxx xxxx ....");
     }
 
     void apply()

@@ -117,18 +117,24 @@ private Q_SLOTS:
         const QString made = folder.filePath(QStringLiteral("new.zob"));
         if (operation != "new")
             writeFile(old, m_building);
-        const QString rows =
-            operation == "rows" ? workbench::DesignRows(VKD_H_ZOBDoc::open(old).get()).text()
-                                : QString();
+        const QString rows = operation == "rows"
+                                 ? workbench::DesignRows(VKD_H_ZOBDoc::open(old).get()).text()
+                                 : QString();
         const std::function<QString()> run = [&] {
             return operation == "design"    ? storeDesign(old)
                    : operation == "rows"    ? readRows(old, rows)
                    : operation == "save as" ? saveAs(old, made)
                                             : make(made);
         };
-        testsupport::walkOverFaults(
-            folder.path(),
-            {run, [&] { return state(QFile::exists(made) || operation == "new" || operation == "save as" ? made : old); }, stride});
+        testsupport::walkOverFaults(folder.path(), {run,
+                                                    [&] {
+                                                        return state(QFile::exists(made) ||
+                                                                             operation == "new" ||
+                                                                             operation == "save as"
+                                                                         ? made
+                                                                         : old);
+                                                    },
+                                                    stride});
     }
 };
 

@@ -5,13 +5,13 @@
 #include <vkd_zob.h>
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QMimeData>
-#include <QAbstractScrollArea>
 #include <QStatusBar>
 
 using namespace windowtest;

@@ -52,7 +52,8 @@ void write(QSaveFile* file, const QString& text)
     const QByteArray bytes = text.toUtf8();
     const QFileInfo existing(file->fileName());
     if (existing.exists() && !existing.isFile()) // saving would replace a pipe or a device
-        throw CommandError{QStringLiteral("cannot write %1: it is not a file").arg(file->fileName())};
+        throw CommandError{
+            QStringLiteral("cannot write %1: it is not a file").arg(file->fileName())};
     if (!file->open(QIODevice::WriteOnly) || file->write(bytes) != bytes.size() || !file->flush())
         throw CommandError{
             QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};

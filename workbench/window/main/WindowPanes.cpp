@@ -6,8 +6,8 @@
 #include "window/main/DockShares.h"
 #include "window/main/GroupList.h"
 #include "window/main/WindowActions.h"
-#include "window/script/ScriptPane.h"
 #include "window/records/RecordsPane.h"
+#include "window/script/ScriptPane.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowSettings.h"
 
