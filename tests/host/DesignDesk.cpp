@@ -1,7 +1,8 @@
 #include "DesignDesk.h"
 
-#include "TestSupport.h"
+#include "WidgetTestSupport.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -74,4 +75,23 @@ void DesignDesk::keys(const std::vector<Qt::Key>& keys)
 {
     for (Qt::Key key : keys)
         QTest::keyClick(table(), key);
+}
+
+tagZOB_QUAD_RIM record(int group, int type, float minimum)
+{
+    tagZOB_QUAD_RIM made = VKD_P_DesignParameter::getDefaultMerPara(false);
+    made.group = group;
+    made.type = type;
+    made.aso = minimum;
+    return made;
+}
+
+void confirmGroups(const QString& typed)
+{
+    testsupport::whenModal([typed](QWidget* dialog) {
+        QTest::keyClicks(testsupport::find<QLineEdit>(*dialog, "input"), typed);
+        QTest::mouseClick(testsupport::find<QPushButton>(*dialog, "none"), Qt::LeftButton);
+        QTest::keyClick(testsupport::find<QLineEdit>(*dialog, "input"), Qt::Key_Enter);
+        qobject_cast<QDialog*>(dialog)->accept();
+    });
 }

@@ -31,3 +31,10 @@ public:
 
     VKD_P_DesignParameter* const page;
 };
+
+/// Returns a record with the default parameters but for the type and the minimum reinforcement of
+/// the upper side, in cm²/m.
+tagZOB_QUAD_RIM record(int group, int type, float minimum);
+
+/// Enters groups in the next group dialog and presses OK.
+void confirmGroups(const QString& typed);
