@@ -188,7 +188,7 @@ private Q_SLOTS:
 
     void layers_data()
     {
-        // entries of the lists; -1: no second layer
+        // indexes into the lists; -1 means no second layer
         const Columns<int, int, int, QByteArray, QString> row("arrangement", "second", "aggregate",
                                                               "spacing", "result");
         row("two layers", 0, 0, 1, "100", "13.09 cm²/m");

@@ -18,7 +18,7 @@ struct CommandError
     QString text;
 };
 
-/// Thrown if the arguments request the help of a command; `text` is the help text.
+/// Thrown if the arguments request help for a command; `text` is the help text.
 struct HelpWanted
 {
     QString text;

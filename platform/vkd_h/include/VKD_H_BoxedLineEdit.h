@@ -21,9 +21,9 @@ public:
     /// Returns the text exactly as it was typed or set. If the typed text is rejected or the field
     /// is empty, returns the last accepted text.
     QString getText() const;
-    /// Sets a saved text in the displayed unit. The text is not modified, even if it contains a
-    /// comma. If the text is not an acceptable number, the field shows and marks it, and keeps the
-    /// previous value.
+    /// Shows a saved text, which is in the displayed unit. It is not modified, even if it contains
+    /// a comma. If the text is not an acceptable number, the field shows and marks it, and keeps
+    /// the previous value.
     void setText(const QString& text);
 
     /// Sets the value in the base unit of the dimension.

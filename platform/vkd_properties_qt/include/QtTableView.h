@@ -20,8 +20,8 @@ class VKD_PROPERTIES_QT_EXPORT QtTableView : public QTableView
 public:
     explicit QtTableView(QWidget* parent = nullptr);
 
-    /// Sets whether the view is read-only. Switching to read-only commits and closes an open
-    /// editor.
+    /// Sets whether the view is read-only. Switching to read-only mode commits and closes an
+    /// open editor.
     void set_read_only(bool readOnly);
     bool is_read_only() const;
 

@@ -15,7 +15,7 @@ public:
     ///
     /// The window is not modal, and modal dialogs do not block it. It closes when the window of
     /// `parent`, which may be null, closes. However, if that window is a dialog with a parent, the
-    /// help stays open when the dialog closes. The help window is deleted when the user closes it,
-    /// at the latest when the application is destroyed. Call this only in the GUI thread.
+    /// help stays open when the dialog closes. The help window is deleted when the user closes it
+    /// or, at the latest, when the application is destroyed. Call this only in the GUI thread.
     static bool show(QWidget* parent, const VKD_T_String& book, const VKD_T_String& topic);
 };

@@ -7,7 +7,7 @@ namespace workbench {
 class WindowActions;
 class WindowMessages;
 
-/// The help of the main window: the help key in the window and all its dialogs, the actions of the
+/// Help for the main window: the help key in the window and all its dialogs, the actions of the
 /// Help menu, and the About box.
 class WindowHelp : public QObject
 {

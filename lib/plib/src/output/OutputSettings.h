@@ -39,7 +39,7 @@ QStringList engineeringScales();
 /// Returns all rows of the scale list.
 QStringList scaleRows();
 
-/// Selects a row of the scale list and the engineering scale, like a click in the list on a page.
+/// Selects a row of the scale list and the engineering scale, as a click on this row does.
 void chooseScale(int row, OutputSettings* settings);
 
 /// Returns the number of pictures that a format selects: one for a landscape sheet, two for a

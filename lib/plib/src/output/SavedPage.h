@@ -6,9 +6,9 @@
 
 namespace plib {
 
-/// Reads the saved string of an output page, by tag or as settings. The string may come from
-/// another kind of page. Therefore callers check whether it contains a tag before they change the
-/// widget.
+/// Reads the saved string of an output page: single values by their tags, or all settings. The
+/// string may come from another kind of page. Therefore callers check whether it contains a tag
+/// before they change the widget.
 class SavedPage
 {
 public:

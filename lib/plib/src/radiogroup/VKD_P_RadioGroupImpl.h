@@ -21,7 +21,7 @@ public:
     VKD_P_RadioGroupImpl();
     ~VKD_P_RadioGroupImpl() override;
 
-    /// Create the row. Return false if there already is a row.
+    /// These functions create the row. They return false if a row already exists.
     bool init(QWidget* parent);
     bool initForLF(QWidget* parent, const std::list<ButtonID>& ids);
     bool initEchoOutput(QWidget* parent);

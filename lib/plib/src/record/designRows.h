@@ -21,8 +21,8 @@ void collectUsedGroups(const DesignParameterData& data, int row, std::vector<int
 /// Returns whether there is a row without groups, which cannot be stored in the project's records.
 bool hasRowWithoutGroups(const DesignParameterData& data);
 
-/// Row 0 is reserved for the remaining groups, regardless of its actual groups. It can be neither
-/// moved nor deleted.
+/// Row 0 is reserved for the remaining groups and can be neither moved nor deleted, even if a
+/// project contains a first row with other groups.
 bool mayMoveUp(const DesignParameterData& data, int row);
 bool mayMoveDown(const DesignParameterData& data, int row);
 

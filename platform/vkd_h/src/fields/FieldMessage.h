@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QTimer>
 
-/// A short message next to an input field that looks like a tool tip. Unlike a tool tip, it remains
+/// A short message in the style of a tooltip next to an input field. Unlike a tooltip, it remains
 /// visible when the focus changes. The next key press or mouse click hides it, before the widgets
 /// receive that event. Otherwise it is hidden after ten seconds.
 class FieldMessage : public QLabel
