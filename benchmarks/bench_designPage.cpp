@@ -14,6 +14,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter>
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -28,6 +29,7 @@
 namespace {
 constexpr int Rows = 10000;
 constexpr int Columns = 5;
+constexpr int Steps = 100; // an even number
 
 /// A project in which each group has different parameters and therefore its own row.
 class Project
@@ -136,6 +138,63 @@ void deleteHalf(benchmark::State& state)
     }
 }
 
+void trigger(const VKD_P_DesignParameter& page, const char* action)
+{
+    page.findChild<QAction*>(QLatin1String(action))->trigger();
+}
+
+/// Undoes and redoes the change of a type.
+void undoOneRow(benchmark::State& state)
+{
+    const Project project;
+    const auto page = newPage(project);
+    page->readZob();
+    auto table = page->findChild<QTableWidget*>(QStringLiteral("table"));
+    table->setCurrentCell(Rows / 2, 1);
+    table->item(Rows / 2, 1)->setText(QStringLiteral("Circular"));
+    for (auto _ : state)
+        for (int i = 0; i < Steps; ++i)
+            trigger(*page, i % 2 == 0 ? "undo" : "redo");
+}
+
+/// Writes the texts of one row into a bare table and fits its height.
+void redrawOneRow(benchmark::State& state)
+{
+    const Project project;
+    const plib::DesignParameterData data = project.read();
+    QTableWidget table(Rows, Columns);
+    for (int column = 0; column < Columns; ++column)
+        table.setItem(Rows / 2, column, new QTableWidgetItem);
+    table.show();
+    QApplication::processEvents();
+    for (auto _ : state)
+        for (int i = 0; i < Steps; ++i) {
+            for (int column = 0; column < Columns; ++column)
+                table.item(Rows / 2, column)
+                    ->setText(plib::rowText(data.rows[std::size_t(i)], column));
+            table.resizeRowToContents(Rows / 2);
+        }
+}
+
+/// Pastes all rows onto themselves. The clipboard contains them already.
+void pasteAll(benchmark::State& state)
+{
+    const Project project;
+    for (auto _ : state) {
+        const auto page = newPage(project);
+        page->readZob();
+        auto table = page->findChild<QTableWidget*>(QStringLiteral("table"));
+        table->selectAll();
+        trigger(*page, "copyRows");
+        table->item(0, 1)->setText(QStringLiteral("Circular"));
+        const double start = processorSeconds();
+        trigger(*page, "pasteRows");
+        state.SetIterationTime(processorSeconds() - start);
+        if (table->item(0, 1)->text() == QLatin1String("Circular"))
+            state.SkipWithError("the rows were not pasted");
+    }
+}
+
 void openAndPaint(QWidget* dialog)
 {
     dialog->show();
@@ -208,6 +267,9 @@ void openPlainDialog(benchmark::State& state)
 BENCHMARK(fillPage)->UseManualTime();
 BENCHMARK(fillBareTable)->UseManualTime();
 BENCHMARK(deleteHalf)->UseManualTime();
+BENCHMARK(pasteAll)->UseManualTime();
+BENCHMARK(undoOneRow);
+BENCHMARK(redrawOneRow);
 BENCHMARK_TEMPLATE(openDialog, dlgDistanceDirection);
 BENCHMARK_TEMPLATE(openPlainDialog, dlgDistanceDirection);
 BENCHMARK_TEMPLATE(openDialog, dlgReinforcement);
@@ -232,6 +294,9 @@ int main(int argc, char* argv[])
         {{"fillPage/manual_time", "fillBareTable/manual_time", 1.3,
           "builds the same texts and adds them to a bare table row by row"},
          {"deleteHalf/manual_time", "fillPage/manual_time", 0.7, "fills and frees all rows"},
+         {"pasteAll/manual_time", "fillPage/manual_time", 2.0, "fills and frees all rows"},
+         {"undoOneRow", "redrawOneRow", 2.0,
+          "writes the texts of a row into a bare table and fits its height"},
          opening("dlgDistanceDirection"),
          opening("dlgReinforcement"),
          opening("dlgCrackControl")});
