@@ -40,10 +40,12 @@ int access(sqlite3_file* file, Arguments... arguments)
     return remembered((methods->original->*Method)(file, arguments...));
 }
 
-/// SQLite uses different I/O methods for journals and for databases.
+/// SQLite uses different I/O methods for journals and for databases. The layers are never
+/// destroyed, because the host's static objects may close documents when the process exits.
 const sqlite3_io_methods* layerOver(const sqlite3_io_methods* methods)
 {
-    static std::map<const sqlite3_io_methods*, Methods> layers;
+    using Layers = std::map<const sqlite3_io_methods*, Methods>;
+    static Layers& layers = *new Layers;
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
     const auto [found, isNew] = layers.try_emplace(methods, Methods{*methods, methods});
@@ -81,27 +83,23 @@ int remove(sqlite3_vfs*, const char* path, int syncsFolder)
     return remembered(original->xDelete(original, path, syncsFolder));
 }
 
-/// Unregisters the VFS before this library is unloaded.
-struct Registration
+/// Never unregistered, because this library stays loaded until the process ends.
+bool registerLayer()
 {
-    Registration()
-    {
-        sqlite3_initialize();
-        original = sqlite3_vfs_find(nullptr);
-        layer = *original;
-        layer.zName = Name;
-        layer.xOpen = open;
-        layer.xDelete = remove;
-        sqlite3_vfs_register(&layer, 0);
-    }
-    ~Registration() { sqlite3_vfs_unregister(&layer); }
-};
+    sqlite3_initialize();
+    original = sqlite3_vfs_find(nullptr);
+    layer = *original;
+    layer.zName = Name;
+    layer.xOpen = open;
+    layer.xDelete = remove;
+    return sqlite3_vfs_register(&layer, 0) == SQLITE_OK;
+}
 } // namespace
 
 const char* zobVfs()
 {
-    static const Registration registration;
-    return Name;
+    static const bool isRegistered = registerLayer();
+    return isRegistered ? Name : nullptr; // null selects the default VFS
 }
 
 int takeSystemError()
