@@ -61,6 +61,21 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
         setReal(record.*field->real, name, value);
 }
 
+/// Returns the groups that a text lists, all of which must be known.
+std::vector<int> parseGroups(const QString& text, const std::set<int>& known)
+{
+    if (plib::isNoGroupsText(text) && !known.count(vkd::dbo::packedName(text)))
+        return {};
+    if (text == QLatin1String("remaining") || plib::isRemainingGroupsText(text))
+        return {-1};
+    const auto firstName = known.lower_bound(vkd::dbo::FirstPackedName);
+    const vkd::h::GroupInput input =
+        vkd::h::readNumbersAndNames(text, {known.begin(), firstName}, {firstName, known.end()});
+    if (!input.missing.isEmpty() || input.groups.empty())
+        throw CommandError{QStringLiteral("there is no group \"%1\"").arg(input.missing.value(0))};
+    return input.groups;
+}
+
 } // namespace
 
 DesignRows::DesignRows(VKD_H_ZOBDoc* document)
@@ -122,21 +137,6 @@ std::set<int> DesignRows::knownGroups() const
     return known;
 }
 
-std::vector<int> DesignRows::parseGroups(const QString& text) const
-{
-    const std::set<int> known = knownGroups();
-    if (plib::isNoGroupsText(text) && !known.count(vkd::dbo::packedName(text)))
-        return {};
-    if (text == QLatin1String("remaining") || plib::isRemainingGroupsText(text))
-        return {-1};
-    const auto firstName = known.lower_bound(vkd::dbo::FirstPackedName);
-    const vkd::h::GroupInput input =
-        vkd::h::readNumbersAndNames(text, {known.begin(), firstName}, {firstName, known.end()});
-    if (!input.missing.isEmpty() || input.groups.empty())
-        throw CommandError{QStringLiteral("there is no group \"%1\"").arg(input.missing.value(0))};
-    return input.groups;
-}
-
 /// Returns the row with exactly these groups, or null.
 plib::DesignParameterRow* DesignRows::findRow(const std::vector<int>& groups)
 {
@@ -169,7 +169,7 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 
 void DesignRows::setRow(const QString& groups, const QStringList& fields)
 {
-    setRow(parseGroups(groups), fields);
+    setRow(parseGroups(groups, knownGroups()), fields);
 }
 
 void DesignRows::setRow(const std::vector<int>& groups, const QStringList& fields)
@@ -183,6 +183,7 @@ void DesignRows::setRow(const std::vector<int>& groups, const QStringList& field
 std::vector<std::vector<int>> DesignRows::groupsOf(const plib::RowTable& table,
                                                    QStringList* faults) const
 {
+    const std::set<int> known = knownGroups();
     std::vector<std::vector<int>> groupsOfRows;
     std::set<int> named;
     for (const plib::RowPatch& row : table.rows) {
@@ -191,7 +192,7 @@ std::vector<std::vector<int>> DesignRows::groupsOf(const plib::RowTable& table,
         };
         groupsOfRows.emplace_back();
         try {
-            groupsOfRows.back() = parseGroups(row.groups);
+            groupsOfRows.back() = parseGroups(row.groups, known);
         } catch (const CommandError& error) {
             refuse(error.text);
         }

@@ -49,7 +49,6 @@ public:
 private:
     const std::set<int>& modelGroups() const;
     std::set<int> knownGroups() const;
-    std::vector<int> parseGroups(const QString& text) const;
     std::vector<std::vector<int>> groupsOf(const plib::RowTable& table, QStringList* faults) const;
     plib::DesignParameterRow* findRow(const std::vector<int>& groups);
     plib::DesignParameterRow& rowWithoutGroups(int number);

@@ -23,6 +23,7 @@ QString fieldNames()
         names << QString::fromLatin1(field.name);
     return names.join(QLatin1Char(' '));
 }
+
 /// Throws a CommandError if the status is an error.
 void failOn(const VkdStatus& failure)
 {
