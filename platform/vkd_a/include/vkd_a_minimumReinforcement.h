@@ -2,6 +2,13 @@
 
 #include "vkd_a_export.h"
 
+/// The recommended factors of EN 1992-1-1, 9.2.1.1 (1), Equation (9.1N).
+constexpr double VkdTensionFactor = 0.26;
+constexpr double VkdSectionFactor = 0.0013;
+
+/// The formula of Table 3.1 for the tensile strength changes above this fck, in N/mm².
+constexpr double VkdGreatestNormalStrength = 50.0;
+
 /// Returns the mean axial tensile strength fctm in N/mm² of concrete with the characteristic
 /// cylinder strength fck in N/mm², 12 to 90, EN 1992-1-1, Table 3.1.
 VKD_A_EXPORT double vkd_a_meanTensileStrength(double fck);
@@ -10,8 +17,8 @@ VKD_A_EXPORT double vkd_a_meanTensileStrength(double fck);
 /// and 9.3.1.1 (1), with the recommended values. National annexes may differ. Areas are in cm²/m.
 struct VkdMinimumReinforcement
 {
-    double ofTension; ///< 0.26 fctm / fyk * d
-    double ofSection; ///< 0.0013 d
+    double ofTension; ///< VkdTensionFactor * fctm / fyk * d
+    double ofSection; ///< VkdSectionFactor * d
 
     double area() const { return ofTension > ofSection ? ofTension : ofSection; }
 };

@@ -3,19 +3,18 @@
 #include <cmath>
 
 namespace {
-constexpr double GreatestNormalStrength = 50.0; // fck in N/mm²
 constexpr double SquareCentimetresPerSquareMetre = 1e4;
 } // namespace
 
 double vkd_a_meanTensileStrength(double fck)
 {
     const double fcm = fck + 8.0;
-    return fck <= GreatestNormalStrength ? 0.30 * std::pow(fck, 2.0 / 3.0)
-                                         : 2.12 * std::log(1.0 + fcm / 10.0);
+    return fck <= VkdGreatestNormalStrength ? 0.30 * std::pow(fck, 2.0 / 3.0)
+                                            : 2.12 * std::log(1.0 + fcm / 10.0);
 }
 
 VkdMinimumReinforcement vkd_a_minimumReinforcement(double depth, double fctm, double fyk)
 {
     const double section = depth * SquareCentimetresPerSquareMetre; // cm², of a strip 1 m wide
-    return {0.26 * fctm / fyk * section, 0.0013 * section};
+    return {VkdTensionFactor * fctm / fyk * section, VkdSectionFactor * section};
 }

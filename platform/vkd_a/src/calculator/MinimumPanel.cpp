@@ -148,12 +148,12 @@ QString MinimumPanel::formulas() const
     QString text = strengthFormula();
     text += QStringLiteral("<p>a<sub>s,min</sub> = %1 · f<sub>ctm</sub> / f<sub>yk</sub> · d = "
                            "%1 · %2 / %3 · %4 cm · 100 cm/m = <b>%5</b><br>%6</p>")
-                .arg(number(0.26, 2), number(fctm, 2), QString::number(m_steel->getCurrentId()),
-                     depth, areaText(least.ofTension),
+                .arg(number(VkdTensionFactor, 2), number(fctm, 2),
+                     QString::number(m_steel->getCurrentId()), depth, areaText(least.ofTension),
                      tr("EN 1992-1-1, 9.3.1.1 (1) and 9.2.1.1 (1), Equation (9.1N)"));
     text += QStringLiteral("<p>a<sub>s,min</sub> ≥ %1 · d = %1 · %2 cm · 100 cm/m = "
                            "<b>%3</b><br>%4</p>")
-                .arg(number(0.0013, 4), depth, areaText(least.ofSection),
+                .arg(number(VkdSectionFactor, 4), depth, areaText(least.ofSection),
                      tr("EN 1992-1-1, 9.2.1.1 (1), lower limit"));
     return isSecondary() ? text + secondaryFormula() : text;
 }
@@ -162,8 +162,9 @@ QString MinimumPanel::strengthFormula() const
 {
     const int fck = m_concrete->getCurrentId();
     const QString formula =
-        fck <= 50 ? number(0.30, 2) + QStringLiteral(" · f<sub>ck</sub><sup>2/3</sup>")
-                  : number(2.12, 2) + QStringLiteral(" · ln (1 + (f<sub>ck</sub> + 8) / 10)");
+        fck <= VkdGreatestNormalStrength
+            ? number(0.30, 2) + QStringLiteral(" · f<sub>ck</sub><sup>2/3</sup>")
+            : number(2.12, 2) + QStringLiteral(" · ln (1 + (f<sub>ck</sub> + 8) / 10)");
     return QStringLiteral("<p>f<sub>ctm</sub> = %1 = <b>%2 N/mm²</b> (f<sub>ck</sub> = %3 N/mm²)"
                           "<br>%4</p>")
         .arg(formula, number(vkd_a_meanTensileStrength(fck), 2), QString::number(fck),
