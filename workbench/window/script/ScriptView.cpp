@@ -180,12 +180,12 @@ void ScriptView::paintLine(QPainter& painter, int line) const
 
 bool ScriptView::isChanged(int line) const
 {
-    const auto behind = std::upper_bound(
+    const auto next = std::upper_bound(
         m_changes.begin(), m_changes.end(), line,
         [](int number, const LineChange& change) { return number < change.after; });
-    if (behind == m_changes.begin())
+    if (next == m_changes.begin())
         return false;
-    const LineChange& last = *std::prev(behind);
+    const LineChange& last = *std::prev(next);
     return line < last.after + last.come;
 }
 
