@@ -2,6 +2,7 @@
 // plots, excluding load cases, and opening the dialog. The peers are a text document with the same
 // script, generating the script, and the same work with fewer load cases.
 
+#include "plotModel.h"
 #include "RatioReporter.h"
 
 #include <vkd_dbo_model.h>
@@ -33,18 +34,7 @@ std::unique_ptr<VKD_H_ZOBDoc> newProject(const QTemporaryDir& folder, int loadCa
 {
     auto document =
         VKD_H_ZOBDoc::create(folder.filePath(QString::number(loadCases) + QLatin1String(".zob")));
-    vkd::dbo::Model model;
-    model.nodes = {{1, {0, 0, 0}}, {2, {1, 0, 0}}, {3, {1, 1, 0}}};
-    model.groups = {{1, QStringLiteral("slab")}};
-    vkd::dbo::Quad quad;
-    quad.number = quad.group = 1;
-    for (int corner = 0; corner < 3; ++corner)
-        quad.nodes[corner] = corner + 1;
-    model.quads = {quad};
-    vkd::dbo::LineElement beam;
-    beam.number = beam.group = beam.nodes[0] = 1;
-    beam.nodes[1] = 2;
-    model.beams = {beam};
+    vkd::dbo::Model model = plotModel();
     for (int number = 1; number <= loadCases; ++number)
         model.loadCases.append({number, QStringLiteral("Load case %1").arg(number), 1});
     vkd::dbo::storeModel(document->handle(), model);

@@ -1,9 +1,9 @@
 // The time from the constructor of the output page to its first paint event, compared with a bare
 // widget that contains a tree.
 
+#include "plotModel.h"
 #include "RatioReporter.h"
 
-#include <vkd_dbo_model.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_WidgetGraphicalOutput>
@@ -23,19 +23,7 @@ public:
     Project()
         : doc(VKD_H_ZOBDoc::create(m_folder.filePath(QStringLiteral("p.zob"))))
     {
-        vkd::dbo::Model model;
-        model.nodes = {{1, {0, 0, 0}}, {2, {1, 0, 0}}, {3, {1, 1, 0}}};
-        model.groups = {{1, QStringLiteral("slab")}};
-        vkd::dbo::Quad quad;
-        quad.number = quad.group = 1;
-        for (int corner = 0; corner < 3; ++corner)
-            quad.nodes[corner] = corner + 1;
-        model.quads = {quad};
-        vkd::dbo::LineElement beam;
-        beam.number = beam.group = beam.nodes[0] = 1;
-        beam.nodes[1] = 2;
-        model.beams = {beam};
-        vkd::dbo::storeModel(doc->handle(), model);
+        vkd::dbo::storeModel(doc->handle(), plotModel());
     }
 
 private:
