@@ -5,9 +5,9 @@
 
 #include <cstdlib>
 
-/// An application that exits after a main window has first been painted. If the name of a child is
-/// given, windows without such a child are ignored. So the run time of the process is the time
-/// until the user sees the window.
+/// An application that exits once a main window has been painted, so that the run time of the
+/// process is the time until the user sees the window. If the name of a child widget is given,
+/// windows without that child are ignored.
 class EndedByPicture : public QApplication
 {
 public:

@@ -112,7 +112,7 @@ void initialize(const char* minTime)
 
 int runBenchmarks(int argc, char* argv[], const std::vector<Bound>& bounds)
 {
-    // Freed memory is not returned to the system. Otherwise earlier allocation sizes would
+    // Freed memory is not returned to the system. Otherwise the sizes of earlier allocations would
     // determine whether a later iteration has to request memory from the system again.
     mallopt(M_MMAP_MAX, 0);
     mallopt(M_TRIM_THRESHOLD, INT_MAX);

@@ -5,16 +5,16 @@
 #include <string>
 #include <vector>
 
-/// The measured value of a benchmark that is compared. Times are processor times, because other
+/// The value of a benchmark that is measured and compared. Times are processor times, because other
 /// programs affect them least; for a benchmark registered with `UseRealTime` or `UseManualTime`,
-/// they are real or manual times.
+/// they are wall-clock or manual times.
 enum class Figure {
     Time,        ///< time of one iteration
     TimePerItem, ///< time divided by the benchmark's argument, the number of items
     Memory,      ///< the counter `bytes` of the benchmark
 };
 
-/// The maximum measured value of a benchmark, as a multiple of the value of its peer.
+/// The limit on the measured value of a benchmark, as a multiple of its peer's value.
 struct Bound
 {
     std::string subject;
@@ -24,8 +24,8 @@ struct Bound
     Figure figure = Figure::Time;
 };
 
-/// Runs each subject and its peer alternately, prints the median and the quartiles of their ratios,
+/// Runs each subject alternately with its peer, prints the median and the quartiles of the ratios,
 /// and returns the exit code. With `--smoke`, each benchmark runs once and the bounds are not
-/// checked, so that a test can verify that the benchmarks work. With any other argument, only
-/// bounds whose subject contains the argument are measured.
+/// checked, so that a test can verify that the benchmarks work. Any other argument selects the
+/// bounds whose subject contains it.
 int runBenchmarks(int argc, char* argv[], const std::vector<Bound>& bounds);

@@ -13,7 +13,7 @@ int main(int argc, char* argv[])
     for (int row = 0; row < 100; ++row)
         tree->addTopLevelItem(new QTreeWidgetItem({QStringLiteral("Principal stress I")}));
     window.setCentralWidget(tree);
-    window.resize(1280, 800); // as in the workbench
+    window.resize(1280, 800); // the size of the workbench's window
     window.show();
     return QApplication::exec();
 }

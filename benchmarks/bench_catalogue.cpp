@@ -28,7 +28,7 @@ QByteArray catalogueOf(int lines)
     return file;
 }
 
-/// A temporary catalogue file, because the program also reads the catalogue from a file.
+/// A temporary catalogue file; the product reads the catalogue from a file, too.
 class CatalogueFile
 {
 public:
@@ -122,7 +122,7 @@ void rebuildTree(benchmark::State& state)
         tree.rebuild();
 }
 
-/// Applies a selection that differs between plots and checks half of the rows by number.
+/// Applies a selection that differs from plot to plot and lists half of the rows by number.
 void applySelection(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -157,8 +157,8 @@ void walk(const plib::OutputNode* parent, const std::vector<QString>& all,
         walk(node, all, lines);
         if (node->isLC < 0 || node->checkState(0) == Qt::Unchecked)
             continue;
-        // Two lines for each row. Each line is a deep copy, because the product also has to create
-        // each line.
+        // Two lines for each row. Each line is a deep copy, because the product has to create each
+        // line, too.
         for (int n = 0; n < 2 && lines->size() < all.size(); ++n) {
             const QString& line = all[lines->size()];
             lines->push_back(QString(line.constData(), line.size()));
@@ -166,7 +166,7 @@ void walk(const plib::OutputNode* parent, const std::vector<QString>& all,
     }
 }
 
-/// Walks the same tree and appends the same lines, which are known in advance.
+/// Walks the same tree and appends the same lines, which have been prepared in advance.
 void appendLines(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -195,8 +195,7 @@ BENCHMARK(appendLines)->Arg(Medium);
 
 int main(int argc, char* argv[])
 {
-    // The last four bounds detect non-linear work: if the work were quadratic, the ratio would be
-    // six.
+    // The last four bounds detect non-linear work: quadratic work would have a ratio of six.
     const auto growth = [](const std::string& name) {
         return Bound{name + "/300000", name + "/50000", 1.4, "does the same, each item",
                      Figure::TimePerItem};

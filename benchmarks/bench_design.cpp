@@ -28,7 +28,7 @@ tagZOB_QUAD_RIM recordOf(int group)
     return record;
 }
 
-/// A project with records for this number of groups, which form rows of ten groups each.
+/// A project with records for the given number of groups. They form rows of ten groups each.
 class Project
 {
 public:
@@ -53,7 +53,7 @@ private:
 public:
     std::unique_ptr<VKD_H_ZOBDoc> doc;
     plib::DesignParameterData data;
-    bool converted = true; // the records above are in the stored form
+    bool converted = true; // the records are already in the stored form
 };
 
 void readAndFold(benchmark::State& state)

@@ -1,4 +1,4 @@
-// The table of the design page and its dialogs, compared with plain Qt widgets with the same
+// The table and the dialogs of the design page, compared with plain Qt widgets with the same
 // content.
 
 #include "processorTime.h"
@@ -45,7 +45,7 @@ public:
             record.rio = float(group) / Rows;
             written.rows.push_back({nullptr, record, {group}});
         }
-        bool converted = true; // the records above are in the stored form
+        bool converted = true; // the records are already in the stored form
         plib::writeRowsToZob(written, converted);
     }
 
@@ -74,8 +74,7 @@ std::unique_ptr<VKD_P_DesignParameter> newPage(const Project& project)
     return page;
 }
 
-/// Measures the time for reading, showing and freeing the rows, minus the time for only reading
-/// them.
+/// Measures the time for reading, showing and freeing the rows, minus the time for reading them.
 void fillPage(benchmark::State& state)
 {
     const Project project;
@@ -91,8 +90,8 @@ void fillPage(benchmark::State& state)
     }
 }
 
-/// Adds the same items row by row. As on the page, the texts are built in the loop, because only
-/// the tables are compared.
+/// Adds the same items row by row. The cell texts are built in the loop, as on the page, because
+/// only the tables are compared.
 void fillBareTable(benchmark::State& state)
 {
     const Project project;
@@ -143,7 +142,7 @@ void trigger(const VKD_P_DesignParameter& page, const char* action)
     page.findChild<QAction*>(QLatin1String(action))->trigger();
 }
 
-/// Undoes and redoes the change of a type.
+/// Alternately undoes and redoes a change to the type of a row.
 void undoOneRow(benchmark::State& state)
 {
     const Project project;
@@ -157,7 +156,7 @@ void undoOneRow(benchmark::State& state)
             trigger(*page, i % 2 == 0 ? "undo" : "redo");
 }
 
-/// Writes the texts of one row into a bare table and fits its height.
+/// Writes the texts of one row into a bare table and adjusts the height of the row.
 void redrawOneRow(benchmark::State& state)
 {
     const Project project;
@@ -176,7 +175,7 @@ void redrawOneRow(benchmark::State& state)
         }
 }
 
-/// Pastes all rows onto themselves. The clipboard contains them already.
+/// Copies all rows and pastes them onto themselves. Only the paste is timed.
 void pasteAll(benchmark::State& state)
 {
     const Project project;
@@ -234,7 +233,7 @@ void openPlainDialog(benchmark::State& state)
     const QList<QComboBox*> combos = model->template findChildren<QComboBox*>();
     int edits = model->template findChildren<QLineEdit*>().size();
     for (const QComboBox* combo : combos)
-        edits -= combo->isEditable(); // it has its own line edit
+        edits -= combo->isEditable(); // creates a line edit of its own
     const int buttons = model->template findChildren<QPushButton*>().size();
     const int labels = model->template findChildren<QLabel*>().size();
     for (auto _ : state) {

@@ -16,7 +16,8 @@
 
 namespace {
 
-/// A model file with this number of quads in a square, and the project that is created from it.
+/// A model file with the given number of quads in a square, and the project that is created from
+/// it.
 class ModelFile
 {
 public:
@@ -54,7 +55,8 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Returns the file with this size. The last file is cached for the next run.
+/// Returns the model file with the number of quads of this run. The last file is cached for the
+/// next run.
 const ModelFile& fileOf(const benchmark::State& state)
 {
     static std::unique_ptr<ModelFile> file;

@@ -1,6 +1,6 @@
 // The output dialog and the script of the window with many load cases: clicking, checking all
-// plots, excluding load cases, and opening the dialog. The peers are a text document with the same
-// script, generating the script, and the same work with fewer load cases.
+// plots, excluding load cases, and opening the dialog. The peers are filling a text document with
+// the same script, generating the script, and the same work with fewer load cases.
 
 #include "plotModel.h"
 #include "RatioReporter.h"
@@ -41,7 +41,7 @@ std::unique_ptr<VKD_H_ZOBDoc> newProject(const QTemporaryDir& folder, int loadCa
     return document;
 }
 
-/// The projects of the process, keyed by number of load cases.
+/// Returns the project with this number of load cases. Projects are cached until the process ends.
 VKD_H_ZOBDoc* project(int loadCases)
 {
     static const QTemporaryDir folder;
@@ -109,7 +109,7 @@ void toggle(QTreeWidgetItem* item)
     item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
-/// Measures the time from a click on a load case of a plot until the script and its view are
+/// Measures the time from a click on a load case of a plot until the script and its view have been
 /// updated.
 void click(benchmark::State& state)
 {
@@ -135,7 +135,7 @@ void fillDocument(benchmark::State& state)
     }
 }
 
-/// Measures the time from checking all plots until the script and its view are updated.
+/// Measures the time from checking all plots until the script and its view have been updated.
 void checkAll(benchmark::State& state)
 {
     Output output(Few);
@@ -155,7 +155,7 @@ void makeScript(benchmark::State& state)
         benchmark::DoNotOptimize(output.dialog.script(vkd::Language::English));
 }
 
-/// Excludes a load case, or offers the load case again.
+/// Alternately excludes a load case and offers it again.
 void offerLoadCase(benchmark::State& state)
 {
     Output output(int(state.range(0)));

@@ -46,7 +46,7 @@ void showPage(benchmark::State& state)
     }
 }
 
-/// Shows a tree of rows with check boxes and icons, as in the tree of the page.
+/// Shows a tree whose rows have check boxes and icons, like the rows in the page's tree.
 void showBareTree(benchmark::State& state)
 {
     constexpr int RowCount = 100;

@@ -22,9 +22,9 @@ constexpr int Small = 50000;
 constexpr int Medium = 100000;
 constexpr int Large = 300000;
 
-/// Returns a catalogue in which each plot is offered on pages whose kind is above its index. So the
-/// kind of a page equals its number of plots. By default, all rows are checked in half of the
-/// plots.
+/// Returns a catalogue in which each plot is offered on pages whose kind is greater than the plot's
+/// index, so that the kind of a page equals its number of plots. By default, all rows are checked
+/// in half of the plots.
 QByteArray catalogue()
 {
     QByteArray file;
@@ -130,7 +130,7 @@ QTreeWidgetItem* newItem(const Content& content)
     return item;
 }
 
-/// Includes deleting the old items, as when a tree is rebuilt.
+/// The measured time includes deleting the old items, as when a tree is rebuilt.
 void fillBareTree(benchmark::State& state)
 {
     const Content content(Tree(int(state.range(0))).top());
@@ -145,7 +145,8 @@ void fillBareTree(benchmark::State& state)
     }
 }
 
-/// Presses the space key, which has the same effect as a click. Includes painting the changes.
+/// Presses the space key, which has the same effect as a click. The measured time includes painting
+/// the changes.
 void clickOnTheCaption(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));

@@ -13,7 +13,7 @@
 #include <cstring>
 
 namespace {
-/// A folder for the project and for settings that are separate from the user's settings.
+/// Returns a folder for the project and for settings that are separate from the user's settings.
 const QTemporaryDir& folder()
 {
     static const QTemporaryDir made;
@@ -32,7 +32,7 @@ const QString& building()
     return path;
 }
 
-/// Runs the workbench. The arguments are its settings folder, the child widget to wait for, and a
+/// Runs the workbench. The arguments are the settings folder, the child widget to wait for, and a
 /// project.
 int runTimed(int argc, char* argv[])
 {
@@ -70,7 +70,7 @@ void startWithBuilding(benchmark::State& state)
     startWorkbench(state, "", building());
 }
 
-/// Measures the time until everything except the script is shown.
+/// Measures the time until everything except the script has been painted.
 void startUntilShown(benchmark::State& state)
 {
     startWorkbench(state, "Records", building());

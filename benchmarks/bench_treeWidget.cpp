@@ -39,7 +39,8 @@ public:
     QTreeWidgetItem* top;
 };
 
-/// Presses the space key, which has the same effect as a click. Includes painting the changes.
+/// Presses the space key, which has the same effect as a click. The measured time includes painting
+/// the changes.
 void clickOnTheCaption(benchmark::State& state)
 {
     Tree tree(int(state.range(0)));
@@ -62,8 +63,8 @@ void bareWalk(benchmark::State& state)
         setAll(tree.top, other(tree.top->checkState(0)));
 }
 
-/// Checks the rows of one plot one by one, from the first to the last. Qt itself searches the
-/// siblings for each changed item, so only the ratio can be the same at all sizes.
+/// Checks the rows of one plot one by one, from the first to the last. For each changed item, Qt
+/// itself searches the siblings, so only the ratio to the peer can be independent of the size.
 void rowByRow(benchmark::State& state, bool isAutomatic)
 {
     const int rows = int(state.range(0));

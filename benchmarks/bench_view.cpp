@@ -33,8 +33,8 @@ QSize sizeOf(const benchmark::State& state)
     return state.range(0) > Few ? LargeSize : SmallSize;
 }
 
-/// Returns the height of a wavy shell. Like a real model, the shell hides parts of itself and has
-/// many shades.
+/// Returns the height of a wavy shell. Like the surface of a real model, parts of the shell hide
+/// other parts, and it has many shades.
 double heightAt(double x, double y)
 {
     return 8.0 * std::sin(x * 0.13) * std::cos(y * 0.11);
@@ -60,7 +60,8 @@ vkd::dbo::Model shell(int side)
     return model;
 }
 
-/// Returns a project with a shell. The last project is cached for the next run.
+/// Returns a project with a shell that has this number of quads along each side. The last project
+/// is cached for the next run.
 ZobHandle projectOf(int side)
 {
     static int known = 0;
@@ -144,7 +145,7 @@ void memoryOfModel(benchmark::State& state)
 /// Returns the points of the shell in the standard view, rotated by this angle.
 std::vector<QPointF> projected(double angle, int side, const QSize& size)
 {
-    const double scale = size.height() / 88.0; // as in the view
+    const double scale = size.height() / 88.0; // the scale of the view
     std::vector<QPointF> points;
     for (int row = 0; row <= side; ++row)
         for (int column = 0; column <= side; ++column) {
