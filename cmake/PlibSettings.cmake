@@ -57,7 +57,7 @@ function(vkd_install_target name package headers)
                                                       COMPONENT ${package})
 endfunction()
 
-# Installs a library, and its headers into a separate folder.
+# Installs a library, and installs its headers into a separate folder.
 function(vkd_install_library name package)
     vkd_install_target(${name} ${package} ${name})
     install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name}
@@ -80,12 +80,12 @@ endfunction()
 
 # vkd_add_platform_library(<name> SOURCES ... [CORE ...]) adds a library of the platform, with a
 # generated <name>_export.h. It is shared, because the store, the settings and the text service must
-# exist only once in a process. It is never unloaded, for two reasons: Qt holds callbacks, icons and
-# windows of it and offers no way to remove all of them, and settings and open projects outlive the
-# plug-in that loaded the library.
+# exist only once in a process. It is never unloaded, for two reasons: Qt keeps references to its
+# callbacks, icons and windows and offers no way to remove all of them, and settings and open
+# projects outlive the plug-in that loaded the library.
 #
 # The sources after CORE need no widgets. They become a second shared library, <name>_core, with the
-# same headers. <name> links it, and a program without widgets loads it alone.
+# same headers. <name> links it; a program without widgets loads only <name>_core.
 function(vkd_add_platform_library name)
     cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE;CORE;CORE_PUBLIC;CORE_PRIVATE" ${ARGN})
     include(GenerateExportHeader)
@@ -107,9 +107,9 @@ function(vkd_add_platform_library name)
 endfunction()
 
 # vkd_add_translations(<target> [<file>]): compiles <file>, translations/<target>_de.ts by default,
-# into the target, and adds the translator object that installs it when the target is loaded. The
-# file name is <module>_de.ts; the module name is the target name, unless the suite uses another
-# name.
+# into the target, and adds the translator object that installs the translation when the target is
+# loaded. The file is named <module>_de.ts; the module name is the target name, unless the suite
+# uses another name.
 function(vkd_add_translations target)
     set(file translations/${target}_de.ts)
     if(ARGC GREATER 1)

@@ -1,4 +1,4 @@
-# Sourced by run and test: installs missing Debian packages.
+# Installs missing Debian packages. The scripts run and test source this file.
 
 plib_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev
                qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libxxhash-dev

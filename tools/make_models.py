@@ -14,7 +14,8 @@ LARGEST_FILE = 400_000                        # bytes
 KEYS = ("title kindOfSystem crossSections groups secondaryGroups nodes supports beams trusses cables springs "
         "quads bricks quadTendons beamTendons points lines areas axes sectionCuts designLines loadCases designParameters").split()
 
-# The columns of a row: the name of a list that the number refers to, or a plain value; "nodes?" may be 0.
+# The columns of a row: the name of the list that the number refers to, or of a plain value. A
+# number in "nodes?" may be 0.
 BAR = "number groups crossSections nodes nodes"
 ROWS = {"nodes": "number x y z", "supports": "nodes directions", "beams": BAR, "trusses": BAR, "cables": BAR,
         "springs": "number groups nodes nodes? stiffness", "bricks": "number groups" + 8 * " nodes",

@@ -20,7 +20,7 @@ case $(fc-match --format='%{family}' 'DejaVu Sans') in
     *) need 'the font DejaVu Sans' fonts-dejavu-core ;;
 esac
 
-# render DRAWING PICTURE LANGUAGE WIDTH HEIGHT; zxx, "no language", leaves the texts out.
+# render DRAWING PICTURE LANGUAGE WIDTH HEIGHT; zxx, "no language", omits the text.
 render() {
     rsvg-convert --background-color=white --accept-language="$3" \
         --page-width="$4" --page-height="$5" \
@@ -28,8 +28,8 @@ render() {
     echo "$2.png: $4 x $5"
 }
 
-# render_forms DRAWING WIDTH HEIGHT: without texts, and as _0 (German) and _1 (English), which are
-# one row of pixels higher.
+# render_forms DRAWING WIDTH HEIGHT: renders a picture without text, and the pictures _0 (German)
+# and _1 (English), which are one row of pixels higher.
 render_forms() {
     render "$1" "$1" zxx "$2" "$3"
     render "$1" "$1_0" de "$2" $(($3 + 1))
@@ -40,7 +40,7 @@ render_forms neq_merpara_rich 193 111
 render_forms betondeckung 240 111
 render neq_designline_zrt_bew_mod_allg neq_designline_zrt_bew_mod_allg zxx 299 104
 
-# render_help DRAWING FIGURE LANGUAGE [STYLE]: enlarges the drawing so that its texts are easy to
+# render_help DRAWING FIGURE LANGUAGE [STYLE]: enlarges the drawing so that its text is easy to
 # read.
 render_help() {
     printf '%s' "${4:-}" >"$style"
