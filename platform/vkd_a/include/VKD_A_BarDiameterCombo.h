@@ -28,7 +28,7 @@ public:
     void setNotSetAllowed(bool isAllowed);
 
     /// Makes this value current. Accepts any value, but returns false if the value is not in the
-    /// table. In this case, the value gets an additional entry, which the next call removes.
+    /// table. In that case, adds an entry for the value, which the next call removes.
     bool setCurrent(float diameter);
     float getCurrent() const;
 

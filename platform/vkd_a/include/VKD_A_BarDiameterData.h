@@ -9,7 +9,7 @@
 class VKD_A_EXPORT VKD_A_BarDiameterData
 {
 public:
-    /// Creates an empty table. getString() nevertheless works for every value.
+    /// Creates an empty table. getString() still works for every value.
     VKD_A_BarDiameterData() = default;
 
     /// Loads the bars stored in the project with this database index. If the project contains no

@@ -13,8 +13,8 @@ class QWidget;
 /// positive or above 1000, the dialog starts with 10 mm. `index` is the database index of the
 /// project whose bars are offered. `mode` belongs to the suite's interface and must be 1.
 ///
-/// A parent that can use the bar diameter has the dynamic property "barDiameter" (float, mm). In
-/// this case, the dialog contains an option to apply the diameter. If the option is selected, OK
-/// changes the property.
+/// A parent that can use the bar diameter has the dynamic property "barDiameter" (float, mm). For
+/// such a parent, the dialog contains an option to apply the diameter. If the option is selected,
+/// OK changes the property.
 VKD_A_EXPORT void vkd_a_ReinforcementCalculation(QWidget* parent, int index, int mode, float& value,
                                                  float barDiameter);

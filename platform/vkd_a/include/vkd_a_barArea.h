@@ -7,11 +7,11 @@
 struct VkdBarLayout
 {
     double diameter;  ///< nominal diameter, mm
-    double spacing;   ///< centre to centre of adjacent places, m
+    double spacing;   ///< centre-to-centre distance of adjacent places, m
     int barsPerPlace; ///< 1, or 2 for pairs of bars in contact, side by side
 };
 
-/// The reason why a layout cannot be built.
+/// The reason why a bar layout is invalid.
 enum class VkdBarFault {
     None,
     NoDiameter, ///< not positive
@@ -26,8 +26,8 @@ VKD_A_EXPORT VkdBarFault vkd_a_barFault(const VkdBarLayout& layout);
 /// nominal, as is usual in detailing to EN 1992-1-1. The layout must be valid.
 VKD_A_EXPORT double vkd_a_barArea(const VkdBarLayout& layout);
 
-/// Returns an area in cm²/m in the precision in which dialogs show and store it: rounded to
-/// hundredths, as in printed tables. An area below 0.1 cm²/m is not rounded.
+/// Returns an area in cm²/m as dialogs show and store it: rounded to hundredths, as in printed
+/// tables. An area below 0.1 cm²/m is not rounded.
 VKD_A_EXPORT double vkd_a_roundedArea(double area);
 
 /// Returns the spacing in m at which bars of this diameter in mm provide this area in cm²/m. Both

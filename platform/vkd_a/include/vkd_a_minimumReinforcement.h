@@ -6,7 +6,7 @@
 constexpr double VkdTensionFactor = 0.26;
 constexpr double VkdSectionFactor = 0.0013;
 
-/// The formula of Table 3.1 for the tensile strength changes above this fck, in N/mm².
+/// Above this fck, in N/mm², Table 3.1 has a different formula for the tensile strength.
 constexpr double VkdGreatestNormalStrength = 50.0;
 
 /// Returns the mean axial tensile strength fctm in N/mm² of concrete with the characteristic

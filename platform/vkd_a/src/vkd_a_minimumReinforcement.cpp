@@ -15,6 +15,6 @@ double vkd_a_meanTensileStrength(double fck)
 
 VkdMinimumReinforcement vkd_a_minimumReinforcement(double depth, double fctm, double fyk)
 {
-    const double section = depth * SquareCentimetresPerSquareMetre; // cm², of a strip 1 m wide
+    const double section = depth * SquareCentimetresPerSquareMetre; // cm², for a strip 1 m wide
     return {VkdTensionFactor * fctm / fyk * section, VkdSectionFactor * section};
 }

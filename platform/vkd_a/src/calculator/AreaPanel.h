@@ -23,7 +23,7 @@ public:
 
     virtual AreaResult result() const = 0;
 
-    /// Returns false while the entries equal the initial entries of the page.
+    /// Returns false while all entries on the page still have their initial values.
     virtual bool isChanged() const { return true; }
 
 Q_SIGNALS:

@@ -7,7 +7,7 @@
 struct VkdBarLayout;
 
 /// A table with the areas of all bars of a project at common spacings. The current cell is the cell
-/// nearest to a given layout. The user chooses another cell with a click or the arrow keys.
+/// nearest to a given layout. The user chooses another cell by clicking it or with the arrow keys.
 class BarAreaTable : public VKD_QT_TableWidget
 {
     Q_OBJECT

@@ -13,10 +13,10 @@ constexpr double BetweenLayers = 20.0;   // mm, clear, for the picture only
 constexpr double HeightOfPlate = 130.0;  // mm
 constexpr double SmallestRadius = 1.0;   // px
 constexpr int Margin = 8;                // px
-constexpr int MostPlaces = 500;          // more places would look like a black bar
-const QColor TooTight(0xd0, 0x3a, 0x2a); // readable on light and dark plates
+constexpr int MostPlaces = 500;          // more places would merge into a black strip
+const QColor TooTight(0xd0, 0x3a, 0x2a); // visible on light and dark plates
 
-/// Paints the bars of a layer whose axes are at this distance in mm from the upper edge.
+/// Paints the bars of a layer. `depth` is the distance in mm of their axes from the upper edge.
 void paintBars(QPainter* painter, const QRectF& plate, const VkdBarLayout& bars, double depth)
 {
     const double scale = plate.width() / MillimetresPerMetre;

@@ -6,7 +6,7 @@
 #include <QWidget>
 
 /// A widget that shows one metre of plate with the bars of its layers, all to the same scale. Bars
-/// with too small a clear distance are highlighted in a colour.
+/// that are too close together are highlighted in colour.
 class BarPicture : public QWidget
 {
     Q_OBJECT

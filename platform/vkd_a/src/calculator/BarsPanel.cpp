@@ -89,7 +89,7 @@ void BarsPanel::begin(float area, float barDiameter)
 {
     const bool isDiameter = barDiameter > 0 && barDiameter <= GreatestDiameter;
     const double diameter = double(isDiameter ? barDiameter : UsualDiameter);
-    const bool isArea = area > 0 && std::isfinite(area); // "not set" is negative
+    const bool isArea = area > 0 && std::isfinite(area); // the value for "not set" is negative
     m_first->showBars(diameter,
                       isArea ? vkd_a_barSpacing(double(area), diameter, 1) : UsualSpacing);
     m_second->showBars(diameter, UsualSpacing);
@@ -151,7 +151,7 @@ QString BarsPanel::layerFault(const VkdBarLayout& layer) const
 double BarsPanel::leastClearDistance(const VkdBarLayout& layer) const
 {
     const double least = vkd_a_leastClearDistance(layer, m_aggregate->getCurrentId());
-    return std::round(least * 10.0) / 10.0; // the distance of a bundle is irrational
+    return std::round(least * 10.0) / 10.0; // it is irrational for a bundle
 }
 
 bool BarsPanel::isTooTight(const VkdBarLayout& layer) const

@@ -47,7 +47,7 @@ LayerFields::LayerFields(ZobHandle project, QGridLayout* grid, int row, int colu
                             tr("Number of bars, layer %1").arg(number));
     m_diameter->setAccessibleName(tr("Bar diameter, layer %1").arg(number));
     m_diameter->setNotSetAllowed(false);
-    m_diameter->load(project.index()); // falls back to the common diameters
+    m_diameter->load(project.index()); // loads the common diameters on failure
     fillLists(number);
     grid->addWidget(m_arrangement, row, column);
     grid->addWidget(m_diameter, row, column + 1);

@@ -19,7 +19,7 @@
 namespace {
 bool isValue(float value)
 {
-    return value > 0 && std::isfinite(value); // "not set" is negative
+    return value > 0 && std::isfinite(value); // the value for "not set" is negative
 }
 
 void addRow(VKD_QT_GridLayout* grid, int row, const QString& text, QWidget* field)
@@ -39,7 +39,7 @@ ReinforcementDialog::ReinforcementDialog(QWidget* parent, ZobHandle project, flo
     , m_offersDiameter(offersDiameter)
 {
     setWindowTitle(tr("Reinforcement Calculation"));
-    setProperty("helpTopic", QStringLiteral("MERDAN/CALCULATOR")); // for the host's help key
+    setProperty("helpTopic", QStringLiteral("MERDAN/CALCULATOR")); // opened by the host's help key
     addTab(new BarsPanel(project, value, barDiameter, this), tr("&Bars and Fabric"));
     addTab(new MinimumPanel(this), tr("&Minimum Reinforcement"));
     static_cast<QBoxLayout*>(layout())->insertWidget(1, makeResult()); // above the buttons

@@ -22,13 +22,13 @@ public:
     ReinforcementDialog(QWidget* parent, ZobHandle project, float value, float barDiameter,
                         bool offersDiameter);
 
-    /// Returns the area of the current page in cm²/m. While the page still has its initial entries,
-    /// returns the caller's value instead, because rounding must not change a value that the user
+    /// Returns the area of the current page in cm²/m. Returns the caller's value instead while the
+    /// page still has its initial entries, because rounding must not change a value that the user
     /// has not edited.
     float area() const;
 
-    /// Returns the diameter in mm that the user applies, or the initial diameter if the user
-    /// applies none.
+    /// Returns the diameter in mm that the user has chosen to apply, or the initial diameter if
+    /// there is none.
     float barDiameter() const;
 
 private:
