@@ -30,7 +30,7 @@ public:
     ~AnimatorPicture();
 
     bool isEmpty() const;
-    /// Returns the width and height in metres of the model's bounding box, seen from the camera's
+    /// Returns the width and height in metres of the model's bounding box as seen from the camera's
     /// direction.
     QSizeF sizeSeen(const vkd::dbo::Camera& camera) const;
 

@@ -66,8 +66,8 @@ public:
     /// Works whether picking is enabled or disabled.
     void setHighlightedGroup(int group);
 
-    /// Returns whether the last painted image contains all items. It contains fewer items while the
-    /// view is moving, and until the full image of a large model is complete.
+    /// Returns whether the last painted image contains all items. The image contains fewer items
+    /// while the view is moving and until the full image of a large model is complete.
     bool isPictureComplete() const;
 
     QSize sizeHint() const override;
@@ -132,7 +132,7 @@ private:
     bool turnOrPanByKey(int key, bool pan);
 
     ZobHandle m_project;
-    bool m_hovers = false; // highlights even while picking is disabled
+    bool m_hovers = false; // highlights the hovered group even while picking is disabled
     std::unique_ptr<vkd::aniview::SceneView> m_scene;
     std::unique_ptr<vkd::aniview::ScenePainter> m_painter;
     std::unique_ptr<vkd::aniview::PaintingPace> m_pace;
@@ -145,5 +145,5 @@ private:
     Qt::MouseButton m_button = Qt::NoButton; // button that started the drag
     QPoint m_pressed;
     QPoint m_last;
-    bool m_isClick = false; // the mouse has not moved since the press
+    bool m_isClick = false; // the mouse has not moved since the button was pressed
 };

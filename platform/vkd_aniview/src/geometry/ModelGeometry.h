@@ -11,7 +11,7 @@ namespace aniview {
 enum class LineKind { Beam, Truss, Cable, Spring, GroundSpring };
 constexpr int LineKindCount = 5;
 
-/// A quad, a triangle or an outer face of a brick; points and groups are indexes.
+/// A quad, a triangle or an outer face of a brick; points and groups are given as indexes.
 struct Face
 {
     int points[4]{};
@@ -48,7 +48,7 @@ struct SortPlace
 };
 
 /// The drawable form of a model. It is prepared once, so that painting only requires a projection.
-/// Coordinates are relative to the centre of the bounding box. Coordinates and lengths are
+/// Coordinates are relative to the centre of the bounding box. Coordinates and lengths are given in
 /// multiples of `unit`, so that single precision suffices at any distance from the origin. Item
 /// indexes are consecutive: first all faces, then the lines, then the supports.
 struct ModelGeometry
@@ -62,7 +62,7 @@ struct ModelGeometry
     std::vector<Face> faces;
     std::vector<Line> lines;
     std::vector<Support> supports;
-    std::vector<int> groups;           ///< numbers of groups with elements, ascending
+    std::vector<int> groups;           ///< numbers of the groups that contain elements, ascending
     std::vector<SortPlace> sortPlaces; ///< one for each item
 
     std::shared_ptr<const ModelGeometry> coarser; ///< for quick painting of a large model, or null

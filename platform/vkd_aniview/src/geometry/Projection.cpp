@@ -10,8 +10,8 @@ namespace {
 constexpr double Margin = 28.0; // pixels; leaves space for the support symbols
 constexpr double LeastZoom = 0.05;
 constexpr double MostZoom = 500.0;
-// Stored cameras are limited to this range. Outside the range, single precision would make pixels
-// jump.
+// Stored cameras are limited to this range. Outside this range, points would jump by pixels because
+// of single precision.
 constexpr double LeastStoredZoom = 1e-3;
 constexpr double MostStoredZoom = 1e4;
 constexpr double FarthestCentre = 1e3; // times the size of the model

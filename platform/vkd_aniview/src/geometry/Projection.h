@@ -16,8 +16,8 @@ struct Box
 };
 
 /// The parallel projection of a model onto an image. Sizes and points of the image are in logical
-/// pixels, and y points downwards. Cameras that would exceed the valid pixel range are limited to
-/// it.
+/// pixels, and y points downwards. A camera is limited if its pixel coordinates would exceed the
+/// valid range.
 class Projection
 {
 public:
@@ -42,7 +42,7 @@ private:
 /// the whole model.
 Camera aimed(const Camera& camera, const Box& box);
 
-/// Returns the camera after the image was moved by the given number of pixels.
+/// Returns the camera after the image has been moved by the given number of pixels.
 Camera panned(const Camera& camera, const Box& box, const QSizeF& size, const QPointF& by);
 
 /// Returns the camera with its zoom multiplied by a factor, within limits. The model point at the

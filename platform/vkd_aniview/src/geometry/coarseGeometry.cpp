@@ -84,7 +84,7 @@ quint64 CellMerger::keyOf(size_t point, int group) const
 
 int CellMerger::pointOf(int point, int group)
 {
-    auto& latest = m_latest[size_t(point)]; // most points belong to one group
+    auto& latest = m_latest[size_t(point)]; // most points belong to only one group
     if (latest.first == group)
         return latest.second;
     const quint64 key = keyOf(size_t(point), group);

@@ -17,8 +17,8 @@ struct Known
     std::weak_ptr<const ModelGeometry> geometry;
 };
 
-/// Builds the geometry in a separate thread, because a million elements take seconds, and calls
-/// `goOn` in the meantime. Returns null if `goOn` returned false.
+/// Builds the geometry in a separate thread, because a million elements take seconds, and meanwhile
+/// calls `goOn`. Returns null if `goOn` returned false.
 std::shared_ptr<const ModelGeometry> build(const dbo::Model& model, const VkdGoOn& goOn)
 {
     constexpr std::chrono::milliseconds BetweenQuestions(20);

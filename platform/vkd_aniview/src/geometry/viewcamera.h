@@ -31,10 +31,9 @@ Camera lookingFrom(const Position& eye);
 /// Returns whether the camera has the default zoom and centre and therefore shows the whole model.
 bool showsAll(const Camera& camera);
 
-/// Returns the camera after the model was rotated as if the user had dragged its near side to the
-/// right and down by the given angles in degrees. The model rotates about the vertical axis and
-/// about the horizontal axis. The second rotation is limited to the views from directly above and
-/// below.
+/// Returns the camera after the model has been rotated as if the user had dragged its near side to
+/// the right and down by the given angles in degrees. The model rotates about the vertical axis and
+/// about the horizontal axis. The second rotation stops at the views from directly above and below.
 Camera turned(const Camera& camera, double right, double down);
 
 } // namespace aniview

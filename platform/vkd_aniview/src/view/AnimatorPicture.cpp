@@ -84,8 +84,8 @@ void AnimatorPicture::paint(QPainter& painter, const QSizeF& size, const Camera&
     painter.restore();
 }
 
-/// Returns the camera aimed at the centre of the model. Otherwise, a camera with a zoom other than
-/// 1 would look at the origin.
+/// Returns the camera aimed at the centre of the model, because a camera with a zoom other than 1
+/// would otherwise look at the origin.
 Camera AnimatorPicture::wholeModel(const Camera& camera) const
 {
     Camera direction;

@@ -26,7 +26,7 @@ constexpr double DegreesToKey = 5.0;
 constexpr double PixelsToKey = 40.0;
 constexpr double ZoomToStep = 1.2; // per wheel notch or key press
 constexpr int RestMs = 200;
-constexpr size_t ItemsAtOnce = 30000; // a larger full image is painted in steps
+constexpr size_t ItemsAtOnce = 30000; // a full image with more items is painted in steps
 } // namespace
 
 AnimatorView::AnimatorView(ZobHandle project, QWidget* parent, const char* name)
@@ -237,7 +237,7 @@ void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
         return;
     const bool picks = m_isClick && isPicking() && m_hand == Hand::Turning;
     endDrag();
-    const QPointer<AnimatorView> view(this); // slots of either signal may delete the view
+    const QPointer<AnimatorView> view(this); // slots connected to either signal may delete the view
     hoverAt(event->localPos());
     if (picks && view)
         click(event->pos());

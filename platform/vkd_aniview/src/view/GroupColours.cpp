@@ -102,7 +102,7 @@ QColor GroupColours::markedColour(int groupIndex, GroupMark mark) const
     return colour;
 }
 
-/// Mixes the colour with the text colour until a thin line is readable.
+/// Mixes the colour with the text colour until a thin line has enough contrast.
 QColor GroupColours::readable(QColor colour) const
 {
     for (int i = 0; i < 10 && contrast(colour, m_background) < LeastContrast; ++i)

@@ -5,8 +5,8 @@
 namespace vkd {
 namespace aniview {
 
-/// The highlighting of a group. Dimmed groups are neither highlighted nor picked while another
-/// group is highlighted. Pale groups are not picked while other groups are picked.
+/// The highlighting of a group. A group is dimmed if it is neither highlighted nor picked while
+/// another group is highlighted. It is pale if it is not picked while other groups are.
 enum class GroupMark { None, Dimmed, Pale, Lit, Picked, PickedLit };
 
 /// The numbers of the picked, the hovered and the highlighted groups of a view.

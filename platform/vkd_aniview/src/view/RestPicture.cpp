@@ -10,7 +10,8 @@ namespace aniview {
 
 namespace {
 constexpr int StepMs = 25;
-constexpr size_t ItemsBetweenLooks = 1000; // number of items painted between checks of the time
+constexpr size_t ItemsBetweenLooks = 1000; // number of items painted between two checks of the
+                                           // elapsed time
 } // namespace
 
 bool RestPicture::paintSome(ScenePainter& painter, const QSize& size, qreal pixelRatio,

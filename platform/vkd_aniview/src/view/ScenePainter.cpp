@@ -62,7 +62,7 @@ Position lightOf(const ViewAxes& axes)
 }
 } // namespace
 
-/// The state while one image is painted, except for the colours.
+/// The state during the painting of one image, except for the colours.
 struct ScenePainter::Frame
 {
     Frame(QPainter& p, const Picture& shown, const Projection& view, double cellPixels)

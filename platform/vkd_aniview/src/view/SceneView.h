@@ -33,7 +33,7 @@ public:
         const Picture& picture;
     };
     /// Returns the finest picture with at most this number of visible items, or the coarsest
-    /// picture if all have more items.
+    /// picture if every picture has more.
     Drawn quickPicture(int mostItems);
 
     /// Returns the number of the frontmost group at a point of the image, or GroupMarks::NoGroup.
