@@ -18,14 +18,14 @@ struct Camera
     double zoom = 1.0;                ///< positive; 1 shows the whole model
 };
 
-/// The index of the desktop's camera, which is stored until the process ends and does not belong to
-/// a project.
+/// The index of the desktop's camera, which does not belong to a project and is stored only until
+/// the process ends.
 constexpr int DesktopCamera = 0;
 
 /// The text formats of a camera.
 enum CameraForm { ScriptCamera = 1, PersistentCamera = 2 };
 
-/// Returns the user's camera for the project, or the standard camera if none was stored.
+/// Returns the user's camera for the project, or the standard camera if none has been stored.
 VKD_DBO_EXPORT Camera camera(ZobHandle project);
 VKD_DBO_EXPORT void setCamera(ZobHandle project, const Camera& camera);
 

@@ -124,8 +124,8 @@ struct SystemInformation
     int kindOfSystem = 0; ///< see getKindOfSystem()
 };
 
-/// Design parameters of some groups by field name. They occur only in model files; a project stores
-/// design records instead.
+/// Design parameters of some groups, keyed by field name. They occur only in model files; a project
+/// stores design records instead.
 struct DesignValues
 {
     QStringList groups; ///< group numbers or names of secondary groups
@@ -187,9 +187,9 @@ VKD_DBO_EXPORT VkdStatus copySystem(ZobHandle from, ZobHandle to);
 VKD_DBO_EXPORT Model readModel(ZobHandle project, const VkdGoOn& goOn = VkdGoOn(),
                                QByteArray* mark = nullptr, VkdStatus* status = nullptr);
 
-/// Returns bytes that identify the stored model. They differ each time a model is stored and are
-/// the same in a copy of the project. Returns an empty byte array if the project has no model or
-/// cannot be read.
+/// Returns bytes that identify the stored model. The bytes change each time a model is stored, but
+/// are the same in a copy of the project. Returns an empty byte array if the project has no model
+/// or cannot be read.
 VKD_DBO_EXPORT QByteArray modelMark(ZobHandle project);
 
 /// Reads only the load cases of the model. If `status` is not null, it receives OK if all load

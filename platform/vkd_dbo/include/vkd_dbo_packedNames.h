@@ -14,7 +14,7 @@ constexpr int FirstPackedName = 1000000; ///< smaller numbers denote primary gro
 /// bytes. Names have one to four ASCII characters; packed names are greater than FirstPackedName.
 VKD_DBO_EXPORT int packedName(const QString& name);
 
-/// Returns the name encoded in a packed number. Any characters are accepted.
+/// Returns the name encoded in a packed number. Accepts any characters.
 VKD_DBO_EXPORT QString unpackedName(int packed);
 
 } // namespace dbo

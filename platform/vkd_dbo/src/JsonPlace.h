@@ -78,8 +78,8 @@ private:
     QString m_key;
 };
 
-/// The elements of a list. A place is created only when it is accessed, because a list can have a
-/// million elements.
+/// The elements of a list. The place of an element is created only on access, because a list can
+/// have a million elements.
 class JsonList
 {
 public:

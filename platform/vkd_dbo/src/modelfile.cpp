@@ -371,7 +371,7 @@ void ModelFileReader::nodes(const JsonList& values, int first, int (&numbers)[N]
     }
 }
 
-/// Converts an offset in bytes to "line 3, column 7".
+/// Converts an offset in bytes to text such as "line 3, column 7".
 QString lineAndColumn(const QByteArray& bytes, int offset)
 {
     const QByteArray before = bytes.left(offset);
@@ -440,7 +440,7 @@ VkdStatus readModelFile(const QString& path, Language language, Model* model, co
     QByteArray bytes = file.readAll();
     try {
         const QJsonDocument document = parse(bytes, goOn);
-        bytes.clear(); // bytes and document together take twice the memory
+        bytes.clear(); // the bytes and the document together would take twice the memory
         const QJsonValue root =
             document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);
         VkdSteps steps(goOn, thingsIn(document.object()));

@@ -163,7 +163,8 @@ Model readModel(ZobHandle project, const VkdGoOn& goOn, QByteArray* mark, VkdSta
         first = readMark(project, &system);
     model.system = systemOf(project, system, &first);
     const bool hasModel = !system.isEmpty();
-    // After a failure, every further list would also fail, each after the lock timeout.
+    // After a failure of the store, every further list would also fail, each only after the lock
+    // timeout.
     forEachList(model, [&](KeyPair pair, auto& things) {
         const VkdStatus read =
             hasModel && mayContinue(first) ? readList(project, pair, things, &steps) : first;

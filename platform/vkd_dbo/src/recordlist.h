@@ -61,7 +61,7 @@ VkdStatus readList(ZobHandle project, KeyPair pair, QVector<T>& things, VkdSteps
     return read.isOk() ? damage : read;
 }
 
-/// Returns whether it makes sense to read other lists after this status. Damage affects only a part
+/// Returns whether it makes sense to read other lists after this status. Damage affects only part
 /// of a project.
 inline bool mayContinue(const VkdStatus& status)
 {
