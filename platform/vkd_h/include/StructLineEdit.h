@@ -8,13 +8,14 @@
 
 /// The description of a number field: dimension, limits and format. Values and limits are in the
 /// base unit of the dimension (vkd_h_units.h). The limits apply only to user input; code can set
-/// and get any value. Limits are compared in single precision, like the values in records.
+/// and get any value. Limits are compared in single precision, because records store values in
+/// single precision.
 struct StructLineEdit
 {
     static constexpr int RealNumber = 2;
     static constexpr int EmptyAllowed = 2048;
-    static constexpr int TextForPrograms = 0x200000; ///< numbers use a point in every language,
-                                                     ///< and text is kept as typed
+    static constexpr int TextForPrograms = 0x200000; ///< numbers have a decimal point in every
+                                                     ///< language, and text is kept as typed
 
     int kind = RealNumber;          ///< must be RealNumber
     int dimension = -1;             ///< dimension code, or -1 for a number without a unit
@@ -24,7 +25,7 @@ struct StructLineEdit
     double minimum = -99998.0;      ///< smallest value that the user can enter
     int flags = EmptyAllowed;       ///< without EmptyAllowed the user cannot empty the field
     QString prefix;                 ///< shown before the number, for example "Ø"
-    QString decimalSigns;           ///< accepted decimal separators besides point and comma
+    QString decimalSigns;           ///< decimal separators accepted in addition to point and comma
     QString suffix;                 ///< shown after the number; if empty, the unit of the dimension
     std::list<QString> notSetTexts; ///< strings that also mean "not set", trimmed
     double emptied = -99999.0;      ///< value of a field that was cleared, see StructBoxedEdit

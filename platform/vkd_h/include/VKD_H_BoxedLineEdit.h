@@ -15,15 +15,15 @@ class VKD_H_EXPORT VKD_H_BoxedLineEdit : public QWidget
     Q_OBJECT
 
 public:
-    /// `description` is copied. Null describes a number without a unit or label.
+    /// `description` is copied. A null pointer describes a number without a unit or label.
     VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description, const char* name);
 
     /// Returns the text exactly as it was typed or set. If the typed text is rejected or the field
     /// is empty, returns the last accepted text.
     QString getText() const;
-    /// Shows a saved text, which is in the displayed unit. It is not modified, even if it contains
-    /// a comma. If the text is not an acceptable number, the field shows and marks it, and keeps
-    /// the previous value.
+    /// Shows saved text, which is in the displayed unit. The text is not modified, even if it
+    /// contains a comma. If the text is not an acceptable number, the field shows and marks it, and
+    /// keeps the previous value.
     void setText(const QString& text);
 
     /// Sets the value in the base unit of the dimension.

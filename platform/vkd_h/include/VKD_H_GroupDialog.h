@@ -36,7 +36,7 @@ class VKD_H_EXPORT VKD_H_GroupDialog : public VKD_QT_Dialog
 
 public:
     /// Replaces `groups` with the confirmed groups in ascending order. The checked groups replace
-    /// the whole initial list, including groups of the other kind and the value -1 for the
+    /// the whole initial list, including groups of the other kind and the value -1, which means the
     /// remaining groups. If the user has not clicked OK or has changed nothing, the result is the
     /// initial list. Returns 0.
     int getChecked(std::vector<int>& groups) const;
@@ -45,9 +45,9 @@ public:
 
 protected:
     /// Reads the document, which may be null, and does not keep a pointer to it. Entries of
-    /// `checked` that are not groups of this kind are not shown. Each group that does not exist in
-    /// the model gets its own row. `usedElsewhere` contains the groups of the caller's other rows,
-    /// which the user may reassign to this row.
+    /// `checked` that are not groups of this kind are not shown. A checked group that does not
+    /// exist in the model also gets a row. `usedElsewhere` contains the groups of the caller's
+    /// other rows, which the user may reassign to this row.
     VKD_H_GroupDialog(VKD_H_GroupKind kind, const VKD_H_ZOBDoc* doc,
                       const std::vector<int>& checked, const std::vector<int>& usedElsewhere,
                       QWidget* parent, const char* name);
@@ -74,8 +74,8 @@ private:
     void checkShown(bool checked);
     void toggle(const QModelIndexList& rows);
     /// Checks the groups listed in the input field. Parts that are invalid or do not match a group
-    /// remain in the field. In this case, the function shows a message and returns false. The
-    /// message may also list checked groups without area elements.
+    /// remain in the field. If any part remains, shows a message and returns false. The message may
+    /// also list checked groups without area elements.
     bool applyInput();
     bool hasInput() const;
     void showMessage(const QString& text);
@@ -97,6 +97,6 @@ private:
     QLabel* m_notShown = nullptr;
     QHBoxLayout* m_foot = nullptr;
     VKD_QT_Ok* m_ok = nullptr;
-    const std::vector<int> m_opened; ///< the caller's list, with both kinds
+    const std::vector<int> m_opened; ///< the caller's list, with groups of both kinds
     std::vector<int> m_confirmed;
 };

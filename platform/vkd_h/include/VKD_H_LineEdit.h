@@ -13,9 +13,10 @@
 class FieldMark;
 class QComboBox;
 
-/// A field for a number with a dimension. Callers use base units, and users the displayed unit. The
-/// field can also be the line edit of an editable combo box with preset values. A value that the
-/// user does not edit is returned unchanged, even if the field shows fewer digits.
+/// A field for a number with a dimension. Callers set and get values in base units; users see and
+/// type them in the displayed unit. The field can also be the line edit of an editable combo box
+/// with preset values. A value that the user does not edit is returned unchanged, even if the field
+/// shows fewer digits.
 ///
 /// Text that is not an acceptable number remains in the field, with a mark and a message, until the
 /// user corrects it or presses Escape to restore the last accepted text. Until then, the field
@@ -28,9 +29,9 @@ class VKD_H_EXPORT VKD_H_LineEdit : public QLineEdit, public VKD_QT_InputField
     Q_INTERFACES(VKD_QT_InputField)
 
 public:
-    /// `description` is copied; null describes a number without a unit. `text` is the name of the
-    /// quantity for the tool tip and for screen readers; `secondText` is an additional explanation
-    /// in the tool tip. If `showsUnit` is true, the field shows the unit.
+    /// `description` is copied; a null pointer describes a number without a unit. `text` is the
+    /// name of the quantity for the tool tip and for screen readers; `secondText` is an additional
+    /// explanation in the tool tip. If `showsUnit` is true, the field shows the unit.
     VKD_H_LineEdit(QWidget* parent, StructLineEdit* description, const char* objectName,
                    const QString& text, const QString& secondText, bool showsUnit);
     ~VKD_H_LineEdit() override;
@@ -99,7 +100,7 @@ private:
     QString m_explanation;
     bool m_showsUnit;
     double m_value; ///< last accepted value; m_shown contains its text
-    double m_told;  ///< value at the last valueChanged()
+    double m_told;  ///< value when valueChanged() was last emitted
     QString m_shown;
     QString m_fault;
     VkdPlausibleRange m_plausible;

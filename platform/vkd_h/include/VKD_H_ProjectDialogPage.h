@@ -25,7 +25,7 @@ public:
 
     /// Replaces the entries in the project atomically. If the constructor could not read them,
     /// nothing is stored, and the status of the failed read is returned. Within a change begun by
-    /// the caller, the entries are stored when the change ends, see ZobTransaction::commit().
+    /// the caller, the entries are stored when the change ends; see ZobTransaction::commit().
     VkdStatus save() const;
 
 private:

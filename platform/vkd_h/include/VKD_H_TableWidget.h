@@ -9,9 +9,9 @@ class VKD_QT_Menu;
 /// The table widget of the framework. It has columns with ids (VKD_H_TableItems.h), cells with
 /// combo boxes, functions to add and delete rows, a context menu and shortcuts.
 ///
-/// Arrow keys move from cell to cell, and Tab leaves the table. F2 and Enter open the editor of the
-/// current cell or move the focus to the widget over it. Pages that place their own widgets over
-/// cells do so when the selection changes. Pressing F2, Enter or Escape again on the same cell
+/// The arrow keys move from cell to cell, and Tab leaves the table. F2 and Enter open the editor of
+/// the current cell or move the focus to the widget over it. Pages that place their own widgets
+/// over cells do so when the selection changes. Pressing F2, Enter or Escape again on the same cell
 /// emits itemSelectionChanged() once more.
 class VKD_H_EXPORT VKD_H_TableWidget : public VKD_QT_TableWidget
 {
@@ -25,8 +25,8 @@ public:
     /// Delete. The default is true.
     void setContextmenueEnabled_new_del(bool enabled);
 
-    /// Convert the id of a column to its index and vice versa. Return -1 if the column does not
-    /// exist.
+    /// These functions convert the id of a column to its index and vice versa. They return -1 if
+    /// the column does not exist.
     int getColumnNumber(int id) const;
     int getColumnId(int column) const;
     /// Returns the item of a row in the column with this id, or null if there is none.
@@ -34,10 +34,10 @@ public:
 
     /// Adds a row at the end, with empty items if `withItems` is true.
     virtual void addNewRow(bool withItems);
-    /// Sets an empty item, created by the column header, in each cell of a row.
+    /// Fills each cell of a row with an empty item created by the column header.
     virtual void createEmptyItems(int row);
-    /// Deletes all rows that contain a selected cell in one pass. Also deletes all widgets over
-    /// cells, starting at the first deleted row. Clears the selection.
+    /// Deletes, in one pass, all rows that contain a selected cell. Also deletes all widgets over
+    /// cells, starting at the first deleted row, and clears the selection.
     virtual void deleteSelectedRows();
 
     /// Returns a new context menu that contains the standard actions, followed by the actions of

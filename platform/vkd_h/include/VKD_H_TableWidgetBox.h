@@ -26,7 +26,7 @@ public:
     VKD_H_TableWidgetBox(VKD_H_TableWidget* table, const QString& title, QWidget* parent,
                          const char* name);
 
-    /// Arranges the table and the button row above or below it. If both arguments are false, the
+    /// Lays out the table, with the button row above or below it. If both arguments are false, the
     /// row is omitted.
     void createDefaultLayout(bool buttonsAbove, bool buttonsBelow);
     /// Adds a button to the button row, at the right end if `toTheRight` is true.

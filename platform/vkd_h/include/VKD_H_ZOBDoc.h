@@ -14,15 +14,15 @@
 class VKD_H_EXPORT VKD_H_ZOBDoc
 {
 public:
-    /// Open an existing project file, or create a new file, which must not exist yet. Return null
-    /// on failure. If `status` is not null, it receives the result of vkd_zob_open() or
-    /// vkd_zob_create().
+    /// These functions open an existing project file or create a new file, which must not exist
+    /// yet. They return null on failure. If `status` is not null, it receives the result of
+    /// vkd_zob_open() or vkd_zob_create().
     static std::unique_ptr<VKD_H_ZOBDoc> open(const QString& path, VkdStatus* status = nullptr,
                                               const VkdGoOn& goOn = VkdGoOn());
     static std::unique_ptr<VKD_H_ZOBDoc> create(const QString& path, VkdStatus* status = nullptr);
     /// Returns the scratch store as a document, for data that does not yet belong to a project. The
-    /// document has index 0 and no path. All scratch documents share one store, which exists as
-    /// long as the process.
+    /// document has index 0 and no path. All scratch documents share one store, which exists until
+    /// the process ends.
     static std::unique_ptr<VKD_H_ZOBDoc> scratch();
     ~VKD_H_ZOBDoc();
     VKD_H_ZOBDoc(const VKD_H_ZOBDoc&) = delete;

@@ -19,13 +19,13 @@ struct GroupInput
     QStringList missing;     ///< parts that do not match an existing group
 };
 
-/// Reads numbers and ranges such as 1-5, in either direction and with any dash. A range represents
-/// the existing groups within it. If there are none, the range is reported as missing. `existing`
-/// must be ascending.
+/// Reads numbers and ranges such as 1-5. The bounds of a range may be in either order, with any
+/// kind of dash between them. A range represents the existing groups within it. If there are none,
+/// the range is reported as missing. `existing` must be ascending.
 VKD_H_EXPORT GroupInput readNumbers(const QString& text, const std::vector<int>& existing);
 
-/// Reads names of secondary groups. Matching is case-sensitive only for names that differ only in
-/// case. `existing` must contain packed names in ascending order.
+/// Reads names of secondary groups. Matching is case-insensitive, except for names that differ only
+/// in case. `existing` must contain packed names in ascending order.
 VKD_H_EXPORT GroupInput readNames(const QString& text, const std::vector<int>& existing);
 
 /// Reads numbers, ranges and names of secondary groups from one string. Any other part is reported

@@ -26,22 +26,22 @@ struct VkdNumberReading
 /// Returns whether the value equals the description's `notSet` in single precision.
 VKD_H_EXPORT bool vkd_h_isNotSet(double value, const StructLineEdit& description);
 
-/// Parses text that the user typed, in the displayed unit. In every language, point and comma are
-/// decimal separators, and there is no thousands separator. Leading and trailing whitespace is
+/// Parses text that the user typed, in the displayed unit. In every language, both point and comma
+/// are decimal separators, and there is no thousands separator. Leading and trailing whitespace is
 /// ignored, and empty text means "not set". Only the digits 0 to 9 and an exponent as in "1e3" are
 /// accepted. The typographic minus sign is treated as a hyphen-minus.
 VKD_H_EXPORT VkdNumberReading vkd_h_readNumber(const QString& text,
                                                const StructLineEdit& description);
 
 /// Returns the text in the form that programs read: a point for each decimal separator of the
-/// description, "-" for each minus sign, and ASCII spaces. Text that is not a number is not
-/// converted to one.
+/// description, "-" for each minus sign, and ASCII spaces. The conversion never turns other text
+/// into a number.
 VKD_H_EXPORT QString vkd_h_plainNumberText(const QString& text, const StructLineEdit& description);
 
 /// Returns the text for a value given in the base unit, in the desktop's number format and without
 /// the unit. Returns an empty string if the value is not set. The text has the dimension's number
-/// of decimals. If these cannot represent the value in single precision, it has up to six
-/// significant digits without trailing zeros. Absolute values of 1e9 or more and below 1e-6 are
+/// of decimals. If these cannot represent the value in single precision, the text has up to six
+/// significant digits without trailing zeros. Absolute values of at least 1e9 or below 1e-6 are
 /// written with an exponent.
 VKD_H_EXPORT QString vkd_h_numberText(double value, const StructLineEdit& description);
 

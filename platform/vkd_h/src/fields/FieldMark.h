@@ -15,8 +15,9 @@ enum class FieldMarkKind {
 };
 
 /// The mark of an input field. It consists of a coloured frame, a symbol at the right end for users
-/// who cannot see the colour, and a text. The text is appended to the accessible description and
-/// shown in a message next to the field. The mark uses the field's palette and font.
+/// who cannot see the colour, and an explanation. The explanation is appended to the accessible
+/// description and shown in a message next to the field. The mark uses the field's palette and
+/// font.
 class FieldMark
 {
 public:

@@ -158,7 +158,8 @@ bool VKD_H_LineEdit::restoreText()
     return true;
 }
 
-/// The inline completion of a combo box would complete a typed "1" to the entry "10".
+/// Removes the inline completion of a combo box, which would complete a typed "1" to the entry
+/// "10".
 void VKD_H_LineEdit::dropInlineCompletion()
 {
     if (completer() && completer()->completionMode() == QCompleter::InlineCompletion)

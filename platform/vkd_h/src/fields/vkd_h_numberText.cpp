@@ -69,7 +69,7 @@ bool isNotSetText(const QString& text, const StructLineEdit& description)
 }
 
 /// Formats the number with six significant digits, then removes trailing zeros but keeps at least
-/// this number of decimals.
+/// the given number of decimals.
 QString significantText(double shown, int decimals)
 {
     const int needed = SignificantDigits - 1 - int(std::floor(std::log10(std::fabs(shown))));
@@ -115,7 +115,7 @@ VkdNumberReading vkd_h_readNumber(const QString& text, const StructLineEdit& des
     }
     if (state != VkdNumberState::Accepted)
         return {state, description.notSet};
-    return {state, float(value) == 0 ? 0.0 : value}; // also for "-0" and underflow
+    return {state, float(value) == 0 ? 0.0 : value}; // returns 0 also for "-0" and on underflow
 }
 
 QString vkd_h_plainNumberText(const QString& text, const StructLineEdit& description)

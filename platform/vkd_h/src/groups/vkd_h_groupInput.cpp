@@ -14,8 +14,8 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// A set of flags, one for each existing group. A list of groups could become very long, because
-/// the user may repeat a range thousands of times.
+/// A set of flags, one for each existing group. A list of the matching groups could become very
+/// long, because the user may repeat a range thousands of times.
 class Marks
 {
 public:

@@ -27,7 +27,8 @@ VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, con
     connect(model(), &QAbstractItemModel::modelReset, this, changed);
 }
 
-/// The model outlives this subobject and is reset during destruction of the base class.
+/// Disconnects the model, which outlives this subobject and is reset while the base class is
+/// destroyed.
 VKD_H_TableWidget::~VKD_H_TableWidget()
 {
     model()->disconnect(this);
@@ -81,8 +82,8 @@ void VKD_H_TableWidget::createEmptyItems(int row)
             setItem(row, column, header->createEmptyItem());
 }
 
-/// Moves the remaining rows up and removes all rows at the end in one call. Removing rows one by
-/// one takes quadratic time.
+/// Moves the remaining rows up and then removes the surplus rows at the end in one call, because
+/// removing rows one by one takes quadratic time.
 void VKD_H_TableWidget::deleteSelectedRows()
 {
     const std::set<int> rows = getSelectetRows();
