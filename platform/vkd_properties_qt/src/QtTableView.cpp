@@ -52,7 +52,8 @@ void QtTableView::keyPressEvent(QKeyEvent* event)
         QTableView::keyPressEvent(event);
 }
 
-/// Moving cells elsewhere would remove them from the model.
+/// Allows only copying in read-only mode, because moving cells elsewhere would remove them from the
+/// model.
 void QtTableView::startDrag(Qt::DropActions actions)
 {
     const Qt::DropActions allowed = m_readOnly ? actions & Qt::CopyAction : actions;
@@ -68,8 +69,7 @@ bool QtTableView::viewportEvent(QEvent* event)
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop: event->ignore(); return true;
-    case QEvent::ChildPolished: // laid over a cell, or shown again, after the table became
-                                // read-only
+    case QEvent::ChildPolished: // placed over a cell or shown again while the table is read-only
         disableWidget(qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()));
         break;
     default: break;
