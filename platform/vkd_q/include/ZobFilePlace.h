@@ -43,7 +43,7 @@ private:
     void removeLeftFiles() const;
     VkdStatus fail(int code, const QString& detail = QString()) const;
 
-    QString m_name; // as given, for messages
+    QString m_name; // the path as given, for messages
     QString m_path;
     QString m_temporary;
     bool m_replaces = false;

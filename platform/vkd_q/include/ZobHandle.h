@@ -16,7 +16,7 @@ public:
     static constexpr ZobHandle scratch() { return ZobHandle(0); }
 
     constexpr bool isNull() const { return m_index < 0; }
-    /// Returns the database index, see vkd_zob.h; -1 for a null handle.
+    /// Returns the database index (see vkd_zob.h), or -1 for a null handle.
     constexpr int index() const { return m_index; }
 
 private:

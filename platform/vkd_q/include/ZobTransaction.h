@@ -12,9 +12,9 @@ class ZobDatabase;
 /// change the project, and reads include the records written so far. Without commit(), nothing is
 /// stored.
 ///
-/// Overlapping transactions and locked key pairs are parts of one change, in any order. The change
-/// is stored when its last part ends. It is rolled back if any transaction ended without commit()
-/// or if any operation during the change failed, even a read.
+/// Overlapping transactions and locked key pairs are parts of one change and may end in any order.
+/// The change is stored when its last part ends. It is rolled back if any transaction ended without
+/// commit() or if any operation during the change failed, even a read.
 class VKD_Q_EXPORT ZobTransaction
 {
 public:

@@ -4,7 +4,8 @@
 
 /// The callback by which a long operation reports its progress and asks whether to continue. The
 /// argument is the progress in percent, or 0 if it is unknown. If the callback returns false, the
-/// operation stops soon and stores nothing. With an empty function, the operation always continues.
+/// operation stops soon and stores nothing. If the callback is empty, the operation always
+/// continues.
 using VkdGoOn = std::function<bool(int percent)>;
 
 /// Counts the steps of a long operation and calls `goOn` after every thousand steps.

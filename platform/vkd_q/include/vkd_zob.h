@@ -6,9 +6,9 @@
 
 #include <functional>
 
-/// The ZOB is the record store of a project: ordered sequences of opaque records, keyed by pairs of
-/// integers, in one file per project. An open project has a database index of 1 or more; index 0 is
-/// a scratch store in memory that lives as long as the process.
+/// The ZOB is the record store of a project. It contains ordered sequences of opaque records, keyed
+/// by pairs of integers, in one file per project. An open project has a database index of 1 or
+/// more; index 0 is a scratch store in memory that lives as long as the process.
 ///
 /// A failed operation leaves the stored records unchanged, unless only its final disk access
 /// failed. It writes one English log line in the category vkd.zob. The returned status or
@@ -16,7 +16,7 @@
 /// only because of an earlier failure, such as a write after a failed lock, returns the same status
 /// without a log line. All functions must be called in the GUI thread.
 ///
-/// ZobSnapshot reads a project as a whole, and ZobTransaction changes it as a whole.
+/// To read or change a project as a whole, use ZobSnapshot or ZobTransaction.
 using cd_error_t = int;
 
 /// Result codes of the operations. Codes above VKD_ZOB_CUT mean that the operation had no effect.
@@ -70,9 +70,9 @@ VKD_Q_EXPORT cd_error_t vkd_zob_get(int index, int key1, int key2, void* record,
                                     int position);
 
 /// Writes a record: `position` 0 writes the first record, or removes all records if `*length` is 0
-/// as well; `position` 1 appends. Outside a change the record is stored immediately, within a
-/// change when the change ends. The call fails if the change has failed or if the record is larger
-/// than 256 MB.
+/// as well; `position` 1 appends. Outside a change, the record is stored immediately; within a
+/// change, it is stored when the change ends. The call fails if the change has failed or if the
+/// record is larger than 256 MB.
 VKD_Q_EXPORT cd_error_t vkd_zob_put(int index, int key1, int key2, const void* record,
                                     const int* length, int position);
 
@@ -88,9 +88,9 @@ VKD_Q_EXPORT cd_error_t vkd_zob_lock_ex(int index, int key1, int key2);
 /// read, nothing is stored.
 VKD_Q_EXPORT void vkd_zob_free_ex(int index, int key1, int key2);
 
-/// Returns the result of the last change to the project, because the release does not return a
-/// result: OK if the records were stored or no pair has been locked yet, otherwise the reason why
-/// locking or storing failed.
+/// Returns the result of the last change to the project: OK if the records were stored or no pair
+/// has been locked yet, otherwise the reason why locking or storing failed. Call it after releasing
+/// the pairs, because the release does not return a result.
 VKD_Q_EXPORT VkdStatus vkd_zob_change_status(int index);
 
 /// With `mode` 1, finds the first used key pair that is not less than the pair passed in `*key1`,

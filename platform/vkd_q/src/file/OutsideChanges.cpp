@@ -38,8 +38,8 @@ cd_error_t OutsideChanges::number(int* number)
     return VKD_ZOB_OK;
 }
 
-/// A journal means that a program is storing changes or crashed while storing them. After a crash,
-/// any query would roll back the change and thus write to the file.
+/// A journal exists while a program is storing changes and after a program has crashed while
+/// storing them. After a crash, any query would roll back the change and thus write to the file.
 cd_error_t OutsideChanges::ask()
 {
     if (m_connection.hasJournal())

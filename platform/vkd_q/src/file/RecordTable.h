@@ -25,7 +25,7 @@ public:
     /// Copies the current record of the iteration to `record`, truncated to `*length` bytes.
     /// Returns VKD_ZOB_DAMAGED if its checksum is wrong.
     cd_error_t deliver(void* record, int* length) const;
-    /// Stops the iteration, which otherwise keeps the file locked.
+    /// Stops the iteration, which would otherwise keep the file locked.
     void stopWalk();
 
     /// Returns SQLITE_ROW if any record exists for the pair.

@@ -25,7 +25,7 @@ constexpr char Schema[] = "BEGIN;" ZOB_RECORD_TABLE ";"
                           "COMMIT;";
 static_assert(ZobApplicationId == 1447773250 && ZobSchemaVersion == 2);
 
-// When the journal is deleted on commit, FULL can lose the commit in a power failure.
+// If the journal is deleted on commit, the mode FULL can lose the commit in a power failure.
 constexpr char Durability[] = "PRAGMA synchronous = EXTRA;";
 
 // A project needs none of these features.

@@ -7,7 +7,7 @@
 struct sqlite3;
 
 /// The connection of a store to its SQLite file or in-memory database. It opens and creates files,
-/// executes plain SQL, converts SQLite result codes to failures of the store and keeps the last
+/// executes plain SQL, converts SQLite result codes to failures of the store and stores the last
 /// failure. It does not handle records.
 class ZobConnection
 {
@@ -43,8 +43,8 @@ public:
     VkdStatus number(const char* sql, int* value, const VkdGoOn& goOn = VkdGoOn());
     /// Converts an SQLite result code to a failure, logs it and stores it as the last failure.
     VkdStatus fail(int sqliteCode, ZobAction action);
-    /// Does the same for a failure to open the file. The cause may also be a read failure or a
-    /// cancellation by the caller.
+    /// Does the same as fail() for a failure to open the file. The cause may also be a read failure
+    /// or a cancellation by the caller.
     VkdStatus failToOpen(int sqliteCode);
     /// Logs the failure and stores it as the last failure.
     VkdStatus fail(VkdZobStatus code, ZobAction action, const QString& detail = QString());
@@ -52,7 +52,7 @@ public:
 
 private:
     VkdStatus connect(int flags);
-    /// Disables SQLite features, because the file may come from an untrusted source. Returns the
+    /// Disables SQLite features that a file from an untrusted source could misuse. Returns the
     /// SQLite result code.
     int restrictConnection();
     VkdStatus makeSchema();

@@ -68,15 +68,15 @@ bool syncFolder(const QString& folder)
     return sync(folder, O_DIRECTORY) || errno == EINVAL || errno == ENOTSUP || errno == EACCES;
 }
 
-/// If `replaces` is false, an existing file at `to` is an error. QFile::rename() is not used,
-/// because it copies the file if it cannot be renamed.
+/// Renames a file. If `replaces` is false, an existing file at `to` is an error. QFile::rename() is
+/// not used, because it copies the file if it cannot be renamed.
 bool renameFile(const QByteArray& from, const QByteArray& to, bool replaces)
 {
     if (replaces)
         return std::rename(from.constData(), to.constData()) == 0;
     if (renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
         return true;
-    // Not all file systems support the flag.
+    // Not all file systems support this flag.
     return errno == EINVAL && link(from.constData(), to.constData()) == 0 &&
            unlink(from.constData()) == 0;
 }

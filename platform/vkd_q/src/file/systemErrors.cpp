@@ -18,7 +18,7 @@ struct Methods : sqlite3_io_methods
     const sqlite3_io_methods* original;
 };
 
-std::atomic<int> lastError{0}; // a file is checked in a separate thread
+std::atomic<int> lastError{0}; // atomic, because a file is checked in a separate thread
 sqlite3_vfs* original = nullptr;
 sqlite3_vfs layer;
 

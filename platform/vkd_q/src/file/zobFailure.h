@@ -32,6 +32,6 @@ cd_error_t zobStatus(sqlite3* connection, int sqliteCode, int systemError);
 VkdStatus zobFailure(cd_error_t code, ZobAction action, const QString& file,
                      const QString& detail = QString());
 
-/// Returns the same status and logs the failed operation in English.
+/// Returns the same status as zobFailure() and logs the failed operation in English.
 VkdStatus reportZobFailure(cd_error_t code, ZobAction action, const QString& file,
                            const QString& detail = QString());

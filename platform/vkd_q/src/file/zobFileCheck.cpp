@@ -53,7 +53,7 @@ VkdStatus quickCheck(ZobConnection& connection, const VkdGoOn& goOn, QString* fi
     return status;
 }
 
-/// The check also reports an unreadable page as a finding.
+/// SQLite's check also reports an unreadable page as a finding.
 VkdStatus checkStructure(ZobConnection& connection, const VkdGoOn& goOn)
 {
     QString finding;

@@ -3,8 +3,8 @@
 #include <unordered_map>
 
 namespace {
-/// Never destroyed, because the store reads settings until the host's static objects have been
-/// destroyed.
+/// The map is never destroyed, because the store reads settings until the host's static objects
+/// have been destroyed.
 std::unordered_map<int, int>& settings()
 {
     static std::unordered_map<int, int>& values = *new std::unordered_map<int, int>;

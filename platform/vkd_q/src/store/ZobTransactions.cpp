@@ -7,7 +7,7 @@
 #include <utility>
 
 namespace {
-// Returns a row in every store.
+// This query returns a row in every store.
 constexpr char HoldSql[] = "SELECT 1 FROM sqlite_master";
 } // namespace
 
@@ -86,7 +86,7 @@ void ZobTransactions::letGo()
 VkdStatus ZobTransactions::take(KeyPair pair)
 {
     const VkdStatus status = joinChange();
-    m_taken.insert(pair); // even if refused: the change fails until the last release
+    m_taken.insert(pair); // even if refused, because the change stays failed until the last release
     return status;
 }
 
@@ -155,7 +155,8 @@ void ZobTransactions::storeOrDrop()
 void ZobTransactions::rememberEnd(const VkdStatus& status)
 {
     m_endOfChange = status;
-    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED; // on request
+    // A cancellation is not a failure.
+    const bool isFailure = !status.isOk() && status.code != VKD_ZOB_CANCELLED;
     if (isFailure && m_firstFailure.isOk())
         m_firstFailure = status;
 }

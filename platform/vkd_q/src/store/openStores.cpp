@@ -9,7 +9,8 @@ constexpr int ScratchIndex = ZobHandle::scratch().index();
 
 using Stores = std::map<int, std::shared_ptr<ZobDatabase>>;
 
-/// Never destroyed, because the host's static objects may close documents when the process exits.
+/// The list is never destroyed, because the host's static objects may close documents when the
+/// process exits.
 Stores& stores()
 {
     static Stores& open = *new Stores;

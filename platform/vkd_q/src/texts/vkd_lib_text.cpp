@@ -43,7 +43,7 @@ Texts readTexts(const QString& path)
                       qUtf8Printable(path), number);
             continue;
         }
-        // Keys originate from captions and are compared in Latin-1.
+        // Keys come from captions and are compared as Latin-1.
         const auto key = qMakePair(textClass, QString::fromUtf8(parts[1]).toLatin1());
         if (!texts.contains(key))
             texts.insert(key, {parts[2], parts[3]});
