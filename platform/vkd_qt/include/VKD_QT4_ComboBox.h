@@ -31,9 +31,9 @@ public:
     /// (vkd_qt_xmlpart.h) whose tag is the object name. Returns an empty string if there is no
     /// current entry or no object name.
     virtual QString writeXMLstring() const;
-    /// Reads the tagged string with the object name as its tag and selects the entry with this id
-    /// or text. Ids take precedence over identical texts. Has no effect if the tag or the entry
-    /// does not exist.
+    /// Reads the tagged string with the object name as its tag and selects the entry with the
+    /// stored id or text. Ids take precedence over identical texts. Has no effect if the tag or the
+    /// entry does not exist.
     virtual void readXMLstring(const QString& wholeString);
 
     void showPopup() override;

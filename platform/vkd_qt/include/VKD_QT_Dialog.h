@@ -28,8 +28,8 @@ public:
     void done(int result) override;
 
 Q_SIGNALS:
-    /// Emitted when the dialog is shown again after callDone() with this result, unless it was
-    /// closed in any other way in the meantime.
+    /// Emitted when the dialog is shown again after callDone() with this result, unless it has been
+    /// closed in another way in the meantime.
     void isReOpen(int result);
 
 protected:

@@ -4,8 +4,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-/// The framework's layouts with an object name. A layout with a parent becomes the layout of that
-/// widget.
+/// A Qt layout whose constructor sets the object name, as the framework requires. A layout with a
+/// parent becomes the layout of that widget.
 template <class Layout>
 class VKD_QT_Layout : public Layout
 {

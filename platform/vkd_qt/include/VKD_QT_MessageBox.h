@@ -17,7 +17,7 @@ public:
     static int warning(QWidget* parent, const QString& title, const QString& text, int button0,
                        int button1, int button2);
 
-    /// Shows a warning whose buttons have these texts, or a single OK button if all texts are
+    /// Shows a warning whose buttons have these labels, or a single OK button if all labels are
     /// empty. `defaultButton` is the index of the button that Enter triggers. Returns the index of
     /// the clicked button, or `escapeButton` if the user did not click a button.
     static int warning(QWidget* parent, const QString& title, const QString& text,

@@ -17,7 +17,8 @@ public:
     /// `buttons` is the sum of 1 for OK and 2 for Cancel.
     VKD_QT_Ok(QWidget* parent, int buttons, const char* name);
 
-    /// Return the OK and the Cancel button, or null if the button was not requested.
+    /// These functions return the OK button and the Cancel button, or null if the button was not
+    /// requested.
     QPushButton* cmdOk() const;
     QPushButton* cmdCancel() const;
 

@@ -27,9 +27,9 @@ public:
     void setAutomaticCheckStateUpdate(bool on);
 
     /// Makes the only column as wide as the widest text that has been visible since the tree was
-    /// filled, so that a narrow tree can be scrolled horizontally. If the tree is wider, the column
-    /// is as wide as the tree. The column never shrinks, because otherwise its scroll bar could
-    /// appear and disappear endlessly.
+    /// filled, so that a narrow tree can be scrolled horizontally. In a wider tree, the column is
+    /// as wide as the tree. The column never shrinks, because otherwise its scroll bar could appear
+    /// and disappear endlessly.
     void setColumnFitsTexts();
 
     /// Adds an action to the menu that expands or collapses all branches. The menu owns the action
@@ -45,8 +45,8 @@ public:
 Q_SIGNALS:
     /// Emitted once after each automatic update, regardless of how many states have changed.
     /// itemChanged() is emitted before this signal, but only for the item that caused the update.
-    /// At that time all states are already updated. Other observers of the model are notified only
-    /// about that item.
+    /// By then, all states have been updated. Other observers of the model are notified only about
+    /// that item.
     void checkStatesChanged();
 
 protected:

@@ -16,7 +16,7 @@ QColor frameColour(const QPalette& palette)
 } // namespace
 
 /// Paints the frame directly, because some styles stretch an image over the whole box. With nested
-/// boxes, the image took a third of the time to paint a page of settings.
+/// boxes, this took a third of the time needed to paint a page of settings.
 ///
 /// Styles reserve only the ink width of the title, which is less than its advance width, so that
 /// the last letter of a long title is cut off. A trailing space widens the reserved area.

@@ -19,7 +19,7 @@ bool isInput(int key)
     for (int passing : Passing)
         if (key == passing)
             return false;
-    return key < Qt::Key_Shift; // modifiers, function keys and special keys follow
+    return key < Qt::Key_Shift; // modifier, function and special keys have greater codes
 }
 
 bool isUse(const QWidget& widget, QEvent* event)

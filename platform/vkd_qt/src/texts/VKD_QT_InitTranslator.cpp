@@ -44,7 +44,9 @@ VKD_QT_InitTranslator::~VKD_QT_InitTranslator()
 
 void VKD_QT_InitTranslator::languageChanged()
 {
-    const QVector<VKD_QT_InitTranslator*> objects = livingObjects(); // widgets may load modules
+    const QVector<VKD_QT_InitTranslator*> objects = livingObjects(); // a copy, because notified
+                                                                     // widgets may load further
+                                                                     // modules
     for (VKD_QT_InitTranslator* object : objects)
         object->install();
 }

@@ -12,8 +12,8 @@ VKD_QT_TreeWidget::VKD_QT_TreeWidget(QWidget* parent, const char* name)
     : QTreeWidget(parent)
 {
     setObjectName(QLatin1String(name));
-    // Connected after QTreeWidget's own slots, because a slot of checkStatesChanged() may delete
-    // the item.
+    // Connected after QTreeWidget's own slots, because a slot connected to checkStatesChanged() may
+    // delete the item.
     connect(model(), &QAbstractItemModel::dataChanged, this,
             [this](const QModelIndex&, const QModelIndex&, const QVector<int>& roles) {
                 if (m_isAutomatic && roles.contains(Qt::CheckStateRole))
@@ -96,8 +96,8 @@ void VKD_QT_TreeWidget::setColumnFitsTexts()
     connect(&m_measuring, &QTimer::timeout, this, &VKD_QT_TreeWidget::measure);
 }
 
-/// Schedules the measurement after the tree is shown, because most trees are wide enough and should
-/// not be delayed by it.
+/// Schedules the measurement for after the tree is shown, because most trees are wide enough and
+/// should not be delayed.
 void VKD_QT_TreeWidget::measureLater()
 {
     if (m_columnFits && isVisible())

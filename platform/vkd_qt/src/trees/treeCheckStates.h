@@ -15,6 +15,6 @@ void carryDown(QTreeWidgetItem* item, int column, Qt::CheckState state);
 
 /// Updates the ancestors of the item; `index` is its model index. Stops at the first ancestor whose
 /// state does not change. Siblings are read in both directions, starting at the item, until one
-/// differs. Therefore only a few siblings are read each time if the children of a parent are set
-/// one after the other.
+/// differs. If the children of a parent are set one after the other, only a few siblings are
+/// therefore read each time.
 void settleAncestors(const QTreeWidgetItem* item, const QModelIndex& index);
