@@ -2,7 +2,8 @@
 
 #include <QString>
 
-/// A string for the suite's services, constructed from UTF-8. Null results in an empty string.
+/// A string for the suite's services, constructed from UTF-8. A null pointer results in an empty
+/// string.
 class VKD_T_String
 {
 public:

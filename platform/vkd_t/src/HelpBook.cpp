@@ -29,7 +29,7 @@ QString pageFile(const QString& topic)
     return topic.toLower() + QLatin1String(".html");
 }
 
-/// Returns the folder of a book in a language, or an empty string if there is none.
+/// Returns the folder of a book for a language, or an empty string if there is none.
 QString folderOf(const QString& book, Language language)
 {
     const QString index =

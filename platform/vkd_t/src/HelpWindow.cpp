@@ -265,7 +265,7 @@ void HelpWindow::findNext(bool backward)
     const QTextDocument::FindFlags flags =
         backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
     if (!m_browser->findNext(searchText(), flags))
-        openListed(m_hits->item(0)); // no match on this page, but on another page
+        openListed(m_hits->item(0)); // the only matches are on other pages
 }
 
 void HelpWindow::updateSidePane()

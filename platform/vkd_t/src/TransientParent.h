@@ -9,7 +9,7 @@
 /// host can change while the window is open. A change to the parent widget would create a new
 /// native window.
 ///
-/// If a modal dialog would block the window, it becomes the host of the window. When it closes, the
+/// A modal dialog that would block the window becomes its host. When the dialog closes, the
 /// dialog's own parent window becomes the host. The window closes when its last host closes.
 class TransientParent : public QObject
 {

@@ -22,7 +22,7 @@ void deleteHelpWindow()
 HelpWindow& openWindow()
 {
     if (helpWindow && !helpWindow->isVisible())
-        deleteHelpWindow(); // the window was closed; the event loop will delete it
+        deleteHelpWindow(); // closed, but not yet deleted by the event loop
     if (!helpWindow) {
         helpWindow = new HelpWindow;
         qRemovePostRoutine(deleteHelpWindow);
