@@ -3,6 +3,7 @@
 #include <record/designFields.h>
 #include <record/designRecord.h>
 #include <record/rowText.h>
+#include <record/rowTitle.h>
 #include <record/sharedGroups.h>
 #include <VKD_A_BarDiameterData.h>
 #include <vkd_lib_value.h>
@@ -38,6 +39,22 @@ private Q_SLOTS:
         plib::DesignParameterRow row;
         row.groups = {groups.begin(), groups.end()};
         QTEST(plib::rowText(row, 0), "expected");
+    }
+
+    void titlesOfRows()
+    {
+        plib::DesignRowList rows(4);
+        rows[0].groups = {-1};
+        rows[1].groups = {45, 3, 2, 1, 7, 8, 1, 0x204e504f}; // the name OPN
+        rows[2].groups = {4};
+        const auto title = [&](const std::set<int>& numbers) {
+            return plib::rowTitle(rows, numbers);
+        };
+        QCOMPARE(title({0}), QStringLiteral("Row 1: remaining groups"));
+        QCOMPARE(title({1}), QStringLiteral("Row 2: groups 1-3, 7, 8, 45, OPN"));
+        QCOMPARE(title({3}), QStringLiteral("Row 4: no groups"));
+        QCOMPARE(title({0, 1, 2, 3}),
+                 QStringLiteral("Rows 1-4: groups 1-4, 7, 8, 45, OPN and remaining groups"));
     }
 
     /// Tests the texts of rows with groups, with ", " instead of newlines.

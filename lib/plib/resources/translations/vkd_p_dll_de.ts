@@ -725,4 +725,31 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>%1 weitere</translation>
     </message>
 </context>
+<context>
+    <name>RowTitle</name>
+    <message>
+        <source>remaining groups</source>
+        <translation>übrige Gruppen</translation>
+    </message>
+    <message>
+        <source>no groups</source>
+        <translation>keine Gruppen</translation>
+    </message>
+    <message>
+        <source>groups %1</source>
+        <translation>Gruppen %1</translation>
+    </message>
+    <message>
+        <source>%1 and remaining groups</source>
+        <translation>%1 und übrige Gruppen</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Rows %1: %2</source>
+        <translation>Zeilen %1: %2</translation>
+    </message>
+</context>
 </TS>

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "record/RowsChange.h"
+
+namespace plib {
+
+/// Returns a title for a dialog that edits these rows: "Row 3: groups 1-40, 45". Row numbers in the
+/// title start at 1. The groups of several rows are listed together.
+QString rowTitle(const DesignRowList& rows, const std::set<int>& numbers);
+
+} // namespace plib
