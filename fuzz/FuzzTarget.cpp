@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Called once before the first input. Discards log messages, because most inputs cause some.
+/// Called once before the first input. Discards log messages, because most inputs cause warnings.
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     static QCoreApplication application(*argc, *argv);

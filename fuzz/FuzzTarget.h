@@ -7,7 +7,8 @@
 #include <cstdint>
 
 /// Each file in targets/ defines this function, which reads one input and checks properties that
-/// hold for any input. It is called by libFuzzer with clang, otherwise by mutationRunner.cpp.
+/// hold for any input. It is called by clang's libFuzzer or, without libFuzzer, by
+/// mutationRunner.cpp.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size);
 
 namespace fuzz {
@@ -16,7 +17,7 @@ namespace fuzz {
 void check(bool condition, const char* text);
 #define FUZZ_CHECK(condition) fuzz::check(condition, #condition)
 
-/// Checks that the message for a refused input is not empty and has one line.
+/// Checks that the message for a refused input consists of exactly one line and is not empty.
 void checkReason(const QString& reason);
 
 /// Returns the bytes without copying them.

@@ -93,7 +93,7 @@ void Monkey::step(QWidget* window)
 
 void Monkey::workOnDialog()
 {
-    QTimer::singleShot(0, this, [this] { workOnDialog(); }); // a step may open a dialog
+    QTimer::singleShot(0, this, [this] { workOnDialog(); }); // this step may open a dialog
     if (QWidget* popup = QApplication::activePopupWidget())
         return workOnPopup(popup);
     QWidget* dialog = QApplication::activeModalWidget();
@@ -278,7 +278,7 @@ void Monkey::drop(QWidget* widget)
         return;
     QDropEvent drop(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(widget, &drop);
-    QApplication::processEvents(); // the file is opened after the drop, before any other input
+    QApplication::processEvents(); // opens the file before any other input
 }
 
 void Monkey::close(QWidget* window)

@@ -12,15 +12,15 @@ class QFileDialog;
 
 namespace testsupport {
 
-/// Uses the windows of a program at random: clicks, turns the wheel, presses keys, types, opens
-/// menus, drops files and resizes windows. The same seed results in the same steps. If a step opens
-/// a dialog or menu that blocks the caller, the monkey uses it until it is closed. In file dialogs,
-/// only the given files are entered. The seed is printed, and each step as well if PLIB_MONKEY_LOG
-/// is set. A step that hangs terminates the process.
+/// Uses the windows of a program at random: clicks, turns the mouse wheel, presses keys, types,
+/// opens menus, drops files and resizes windows. The same seed always results in the same steps. If
+/// a step opens a dialog or menu that blocks the caller, the monkey uses this dialog or menu until
+/// it is closed. In file dialogs, only the given files are entered. The seed is printed. If
+/// PLIB_MONKEY_LOG is set, each step is printed, too. A step that hangs terminates the process.
 class Monkey : public QObject
 {
 public:
-    /// The number of steps in one round, which is one row of test data.
+    /// The number of steps in a round. Each round is one row of test data.
     static constexpr int StepsInARound = 500;
     /// Adds the rounds of a test as rows with a column "seed". `steps` is the total number of
     /// steps; the environment variable PLIB_MONKEY_STEPS overrides it, and PLIB_MONKEY_SEED sets

@@ -12,8 +12,8 @@ using namespace testsupport;
 namespace {
 constexpr int Steps = 4000;
 
-/// Returns the directions and distances of a cell in their stored form: a layer without a distance
-/// removes the distances of the layers below, which are relative to it.
+/// Returns the directions and distances of a cell in the stored form: if a layer has no distance,
+/// the distances of the layers below it are removed, because they are relative to that layer.
 QString storedDistances(const QString& cell)
 {
     QStringList distances = cell.section(QLatin1Char('/'), 1).split(QLatin1Char(';'));
@@ -23,9 +23,9 @@ QString storedDistances(const QString& cell)
     return cell.section(QLatin1Char('/'), 0, 0) + distances.join(QLatin1Char(';'));
 }
 
-/// Returns the table texts for each group, sorted, because a group may be in two rows, and rows
-/// with equal parameters are merged when they are read. The entries of the page contain the rows
-/// without groups, but not the limits of the reinforcement.
+/// Returns the table texts for each group. The result is sorted, because a group may be in two
+/// rows, and rows with equal parameters are merged when they are read. The entries of the page
+/// contain the rows without groups, but not the limits of the reinforcement.
 QStringList groupByGroup(const DesignDesk& desk)
 {
     QStringList all;
@@ -53,7 +53,7 @@ private Q_SLOTS:
 
     void design_data() { Monkey::addRounds(Steps); }
 
-    /// The rows of the page are compared using the stored records.
+    /// Compares the rows before saving with the rows that a new page reads from the stored records.
     void design()
     {
         QFETCH(int, seed);
@@ -74,7 +74,7 @@ private Q_SLOTS:
                 QVERIFY2(!editors.contains(QLatin1Char(' ')), qPrintable(editors));
                 if (desk.isVisible())
                     continue;
-                QCOMPARE(desk.result(), 6); // only picking groups may hide it
+                QCOMPARE(desk.result(), 6); // only picking groups may hide the dialog
                 desk.show();
             }
             desk.table()->setCurrentCell(0, 1); // closes the last editor

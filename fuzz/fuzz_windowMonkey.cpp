@@ -21,8 +21,8 @@ using testsupport::Monkey;
 namespace {
 constexpr int Steps = 1000;
 
-/// Records the results of the dialogs closed since begin(), and whether a step had a visible
-/// effect.
+/// Records the results of the dialogs that were closed since begin() was called, and whether a step
+/// had a visible effect.
 class Watch : public QObject
 {
 public:
@@ -118,7 +118,7 @@ private Q_SLOTS:
     /// the program exits.
     void cleanupTestCase()
     {
-        QVariantAnimation later; // lasts longer, and is driven by the same timer
+        QVariantAnimation later; // runs on the same timer, for a longer time
         later.setEndValue(1);
         later.start();
         QTRY_COMPARE(later.state(), QAbstractAnimation::Stopped);
@@ -188,7 +188,8 @@ private:
                          QStringLiteral("1"), QStringLiteral("hio=0.0%1").arg(monkey.below(9))});
     }
 
-    /// The modification marker in the window title is updated by the event loop.
+    /// Does not use the modification marker in the window title, because it is updated only by the
+    /// event loop.
     static bool isChanged(const MainWindow& window)
     {
         const auto plots = window.findChild<OutputDialog*>();
@@ -207,7 +208,7 @@ private:
         const QWidgetList all = windows();
         QWidget* place = monkey.below(3) ? &window : all[monkey.below(all.size())];
         QApplication::setActiveWindow(place);
-        const bool isPopupOpen = QApplication::activePopupWidget(); // it receives all keys
+        const bool isPopupOpen = QApplication::activePopupWidget(); // a popup receives all keys
         m_watch.begin();
         if (monkey.below(60) == 0)
             monkey.close(place);
@@ -216,7 +217,7 @@ private:
         if (project.isEmpty() && !isPopupOpen && monkey.triggered() &&
             !monkey.triggered()->actionGroup()) {
             const QByteArray text = monkey.triggered()->text().toUtf8();
-            QApplication::processEvents(); // the system activates windows
+            QApplication::processEvents(); // delivers window activation events
             if (!m_watch.wasSeen)
                 m_faults += "\nnothing comes of " + text;
         }
@@ -255,7 +256,7 @@ private:
         if (!output || contentOf(projectOf(window)).isEmpty())
             return;
         const QString scriptNow = scriptOf(projectOf(window), output->state(), window);
-        // The script of a new project is created after the first paint event.
+        // The script of a new project is generated after the first paint event.
         (void)QTest::qWaitFor([&] { return script(window) == scriptNow; }, Patience);
         const QStringList shown = script(window).split(QLatin1Char('\n'));
         const QStringList expected = scriptNow.split(QLatin1Char('\n'));
@@ -267,7 +268,8 @@ private:
                         "\nby the command line: " + expected.value(line).toUtf8();
     }
 
-    /// Returns the script that the command line prints for a copy of the project with this state.
+    /// Returns the script that the command line prints for a copy of the project in which this
+    /// state is saved.
     QString scriptOf(const QString& project, const OutputState& state, const QWidget& window) const
     {
         const QString copied = path("copied.zob");

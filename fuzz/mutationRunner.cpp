@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 namespace {
 constexpr unsigned HangSeconds = 60;
 
-/// Mutates a random input of the corpus. The same seed results in the same inputs.
+/// Mutates random inputs of the corpus. The same seed always results in the same inputs.
 class Mutator
 {
 public:
@@ -61,7 +61,8 @@ private:
     std::mt19937 m_random{1};
 };
 
-/// Passes the input to the target. If a check fails, the file contains the input that failed.
+/// Passes the input to the target, after writing it to the file `last`, so that the file contains
+/// the input if a check fails.
 void run(const QByteArray& input, std::FILE* last)
 {
     std::rewind(last);

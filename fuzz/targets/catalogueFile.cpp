@@ -7,7 +7,8 @@
 
 #include <QBuffer>
 
-/// The tree of any catalogue has consistent check states, and its selection can be restored.
+/// The tree of any catalogue must have consistent check states and a selection that can be
+/// restored.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     QByteArray catalogue = fuzz::bytesOf(bytes, size);
@@ -17,9 +18,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
     testsupport::build(&root, testsupport::parse(catalogue), rows);
     const QString proposed = testsupport::treeText(&root);
     plib::settleBranch(&root);
-    FUZZ_CHECK(testsupport::treeText(&root) == proposed); // each parent has a matching state
+    FUZZ_CHECK(testsupport::treeText(&root) == proposed); // parents already match their children
 
-    // Items with the same identifier share a line, so the text is stable only from the second time.
+    // Items with the same identifier share a line, so the text becomes stable only after it has
+    // been applied once.
     plib::applySelection(&root, plib::selectionText(&root));
     const QString restored = plib::selectionText(&root);
     plib::applySelection(&root, restored);

@@ -21,8 +21,8 @@ bool areEqual(const plib::GraphicalOutputRecord& a, const plib::GraphicalOutputR
 }
 } // namespace
 
-/// The result depends neither on columns that are reused from the preceding line, nor on whether
-/// the line is split as bytes or as text.
+/// The result must not depend on columns that are reused from the preceding line, or on whether the
+/// line is split as bytes or as text.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QByteArray input = fuzz::bytesOf(bytes, size);

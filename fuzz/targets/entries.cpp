@@ -5,7 +5,8 @@
 #include <record/designEntries.h>
 #include <record/designRecord.h>
 
-/// A row or a list of numbers that was read from an entry can be written and read back unchanged.
+/// It must be possible to write a row or a list of numbers that was read from an entry, and to read
+/// it back unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QString text = fuzz::textOf(bytes, size);

@@ -18,7 +18,8 @@ bool makeBook()
 }
 } // namespace
 
-/// The input is the index of a help book. Each topic has a page, which is found by name and by URL.
+/// The input is the index of a help book. Each topic must have a page that is found by name and by
+/// URL.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     static const bool isMade = makeBook();

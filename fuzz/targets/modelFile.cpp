@@ -23,7 +23,7 @@ bool areAlike(const Model& a, const Model& b)
 }
 } // namespace
 
-/// A model that was read can be stored, and is unchanged when it is read back.
+/// It must be possible to store any model that was read from a file, and to read it back unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QString path = fuzz::file("model.json", fuzz::bytesOf(bytes, size));

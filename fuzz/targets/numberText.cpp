@@ -9,7 +9,8 @@
 #include <cmath>
 
 namespace {
-/// An accepted number is finite and within the limits, and its text is accepted as well.
+/// Checks that an accepted number is finite and within the limits, and that its text is accepted,
+/// too.
 void checkNumber(const QString& text, const StructLineEdit& field)
 {
     const VkdNumberReading read = vkd_h_readNumber(text, field);
@@ -21,7 +22,7 @@ void checkNumber(const QString& text, const StructLineEdit& field)
     const QString shown = vkd_h_numberText(read.value, field);
     const VkdNumberReading again = vkd_h_readNumber(shown, field);
     FUZZ_CHECK(again.state == VkdNumberState::Accepted || again.state == VkdNumberState::TooLarge ||
-               again.state == VkdNumberState::TooSmall); // caused by rounding at a limit
+               again.state == VkdNumberState::TooSmall); // a limit was rounded
     FUZZ_CHECK(!shown.isEmpty() && !shown.contains(QLatin1Char('\n')));
     FUZZ_CHECK(again.state != VkdNumberState::Accepted ||
                vkd_h_numberText(again.value, field) == shown);

@@ -25,8 +25,8 @@ bool isPossible(const OutputSettings& settings)
 }
 } // namespace
 
-/// Any saved string results in settings that a page can show, and each of its parts can be saved
-/// again.
+/// Any saved string must result in settings that a page can show, and it must be possible to save
+/// each of its parts again.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     using namespace plib::savedtag;

@@ -25,7 +25,7 @@ void readAll(int index)
     }
 }
 
-/// A stored record can be read after the project has been reopened.
+/// Checks that a stored record can be read after the project has been reopened.
 void checkStoring(int* index, const QByteArray& path)
 {
     const int length = 3;
@@ -41,7 +41,7 @@ void checkStoring(int* index, const QByteArray& path)
 }
 } // namespace
 
-/// Opening and reading any file leaves its bytes unchanged.
+/// Opening and reading a file must not change its bytes.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QByteArray input = fuzz::bytesOf(bytes, size);

@@ -2,7 +2,7 @@
 
 #include <radiogroup/radioChoice.h>
 
-/// If a text selects a button, the text that is written for this button selects it again.
+/// If a string selects a button, the string that is written for this button must select it again.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const std::optional<int> id = plib::chosenId(fuzz::textOf(bytes, size));

@@ -4,8 +4,8 @@
 #include <exchange/rowTable.h>
 #include <exchange/separatedText.h>
 
-/// Each error in a table is described in one line. Cells that were read can be written and read
-/// back unchanged.
+/// Each error message for a table must have one line. It must be possible to write the cells that
+/// were read, and to read them back unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QString text = fuzz::textOf(bytes, size);

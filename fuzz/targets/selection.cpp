@@ -4,7 +4,8 @@
 #include <tree/selectionText.h>
 
 namespace {
-/// Two captions, plots with and without load cases.
+/// Returns a catalogue with two captions, and with plots that have load cases and plots that have
+/// none.
 QByteArray catalogue()
 {
     return testsupport::line("@SYS System|$G00 Overview|^G01 Materials", "-", 1) +
@@ -14,8 +15,8 @@ QByteArray catalogue()
 }
 } // namespace
 
-/// After any text has been applied, the state of each parent matches its children, and the tree's
-/// own text restores its state.
+/// After any text has been applied, the state of each parent must match its children, and the text
+/// that the tree returns must restore its state.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     static const testsupport::Records records = testsupport::parse(catalogue());

@@ -3,8 +3,8 @@
 #include "cli/CommandLine.h"
 #include "cli/settingsArguments.h"
 
-/// Each line of the input is an argument for --set. The message for a refused argument has one
-/// line, and accepted settings are possible on a page.
+/// Each line of the input is an argument for --set. The message for a refused argument must have
+/// one line, and a page must be able to show accepted settings.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     plib::OutputSettings settings;

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-/// The sheets of any script can be drawn.
+/// It must be possible to draw the sheets of any script.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const workbench::SheetPlan plan = workbench::readSheetPlan(fuzz::textOf(bytes, size));
