@@ -18,21 +18,22 @@ namespace workbench {
 namespace {
 constexpr int MaxTextWidth = 500;
 
-/// Processes events until the layouts of word-wrapped texts no longer change.
+/// Processes events until the layouts of word-wrapped labels no longer change.
 void settle()
 {
     for (int round = 0; round < 4; ++round)
         QApplication::processEvents();
 }
 
-/// Resizes a dialog to the size that its content needs. Qt limits dialogs to the screen size and
-/// wraps message box texts at half the screen width, and the offscreen platform has a small screen.
+/// Resizes a dialog to the size that its contents need. Qt limits dialogs to the screen size and
+/// wraps the text of message boxes at half the screen width, and the screen of the offscreen
+/// platform is small.
 void giveRoom(QWidget* dialog)
 {
     if (auto text = dialog->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
         const int whole = text->fontMetrics().size(0, text->text()).width();
         text->setMinimumWidth(qMin(whole, MaxTextWidth));
-        return; // the box adjusts its own size
+        return; // a message box adjusts its own size
     }
     QSize wanted = dialog->sizeHint();
     if (dialog->layout() && dialog->layout()->hasHeightForWidth())

@@ -16,15 +16,15 @@ public:
     /// Creates the folder if it is missing.
     explicit SnapshotAlbum(const QString& folder);
 
-    /// Sets the suffix for the names of files that are added later.
+    /// Sets the suffix for the names of screenshots that are added after this call.
     void setLook(const QString& look) { m_look = look; }
 
     /// Processes pending events, and saves a screenshot of the widget and of its open drop-down
     /// list.
     void add(const QString& name, QWidget* widget);
-    /// Saves a screenshot of the modal dialog that `open` opens, in the size that its content
-    /// needs, even if the screen is smaller. Afterwards calls `work` with the dialog and cancels
-    /// it.
+    /// Saves a screenshot of the modal dialog that `open` opens, in the size that the contents of
+    /// the dialog need, even if the screen is smaller. Afterwards, calls `work` with the dialog and
+    /// cancels the dialog.
     void addModal(const QString& name, const std::function<void()>& open,
                   const std::function<void(QWidget*)>& work = {});
 

@@ -74,8 +74,8 @@ void addCellEditors(SnapshotAlbum& album, DesignHost& host)
     }
 }
 
-/// Adds a group dialog, or omits it if the model has no such groups, in which case the page
-/// disables its button.
+/// Adds a screenshot of a group dialog, or omits it if the button of the dialog is disabled because
+/// the model has no such groups.
 void addGroupDialog(SnapshotAlbum& album, DesignHost& host, const char* name, const char* button)
 {
     if (host.button(button)->isEnabled())

@@ -21,8 +21,9 @@ bool isPixelRatio(int ratio)
     return ratio >= 1 && ratio <= LargestRatio;
 }
 
-/// Returns the pixel ratio of the screenshots, which must be set before the application is created.
-/// The command parses the arguments again for help and error messages, which need an application.
+/// Returns the pixel ratio of the screenshots, which must be set before the application object is
+/// created. The command parses the arguments again, because help and error messages need the
+/// application object.
 int pixelRatio(const QStringList& arguments)
 {
     QCommandLineParser parser;
@@ -66,7 +67,7 @@ int snapshots(const QStringList& arguments)
 }
 } // namespace
 
-/// The screenshots are drawn offscreen, so the program needs no display.
+/// The program draws the screenshots offscreen and needs no display.
 int main(int argc, char* argv[])
 {
     beginProgram();
@@ -78,6 +79,6 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // the usual size on desktops
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // the usual font on desktops
     return runCommand(snapshots, command);
 }

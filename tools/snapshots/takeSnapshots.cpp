@@ -17,7 +17,7 @@
 namespace workbench {
 
 namespace {
-/// Adds screenshots of the pages, which edit a copy of the project.
+/// Adds screenshots of the pages. The pages edit a copy of the project.
 void addPages(SnapshotAlbum& album, const QString& copy)
 {
     const auto document = VKD_H_ZOBDoc::open(copy);

@@ -71,7 +71,7 @@ void addSheet(SnapshotAlbum& album, MainWindow& window, const QString& look)
 
 void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
 {
-    const QTemporaryDir settings; // keeps the user's settings unchanged
+    const QTemporaryDir settings; // protects the user's settings
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     const QPalette light = QApplication::palette();
     for (const bool isDark : {false, true}) {
