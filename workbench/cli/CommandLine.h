@@ -59,7 +59,8 @@ private:
 /// Opens a project, or throws a CommandError with the reason from the platform.
 std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path);
 
-/// Return the bytes of a file, or the text of a UTF-8 file. Throw a CommandError if reading fails.
+/// These functions return the bytes of a file, or the text of a UTF-8 file. They throw a
+/// CommandError if reading fails.
 QByteArray readBytes(const QString& path);
 QString readText(const QString& path);
 
@@ -68,7 +69,7 @@ void print(const QString& text);
 
 /// Returns the option for the language of captions and messages.
 CommandLine::Option languageOption();
-/// Sets the desktop's language to the value of this option.
+/// Sets the desktop's language to the value of languageOption().
 void applyLanguage(const CommandLine& commandLine);
 
 } // namespace workbench

@@ -61,7 +61,7 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
         setReal(record.*field->real, name, value);
 }
 
-/// Returns the groups that a text lists, all of which must be known.
+/// Returns the groups listed in the text, all of which must be known.
 std::vector<int> parseGroups(const QString& text, const std::set<int>& known)
 {
     if (plib::isNoGroupsText(text) && !known.count(vkd::dbo::packedName(text)))
@@ -90,7 +90,8 @@ DesignRows::DesignRows(VKD_H_ZOBDoc* document)
     m_data.kindOfSystem = vkd::dbo::getKindOfSystem(index, nullptr);
     plib::readRowsFromZob(m_data);
     plib::readRowsFromEntries(m_data, m_page);
-    // The functions that read rows report no failure; the project was opened for this command.
+    // The functions that read rows do not return failures. The project was opened for this command,
+    // so its last failure occurred while the rows were read.
     const VkdStatus failure = vkd_zob_last_failure(index);
     if (!failure.isOk())
         throw CommandError{failure.reason};
@@ -127,7 +128,7 @@ const std::set<int>& DesignRows::modelGroups() const
     return m_modelGroups;
 }
 
-/// Returns the groups of the model, and groups in rows that the model does not contain.
+/// Returns the groups of the model, and the groups that occur only in rows.
 std::set<int> DesignRows::knownGroups() const
 {
     std::set<int> known = modelGroups();

@@ -27,7 +27,7 @@ public:
     /// Changes fields of the row with exactly these groups. If there is no such row, adds a row and
     /// removes the groups from all other rows. `groups` is "none", "remaining", or a list of
     /// numbers, ranges and names of secondary groups, as in the group dialogs. `fields` are strings
-    /// NAME=VALUE with values in base units; the value "unset" clears a field. Throws a
+    /// of the form NAME=VALUE with values in base units; the value "unset" clears a field. Throws a
     /// CommandError for an unknown name or an invalid value.
     void setRow(const QString& groups, const QStringList& fields);
     /// Overload for groups that need no parsing: numbers and packed names in ascending order
@@ -58,7 +58,8 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    std::set<int> m_namedGroups;         // in any row; groups are moved between rows, not removed
+    std::set<int> m_namedGroups;         // groups in any row; groups are moved between rows, not
+                                         // removed
     mutable std::set<int> m_modelGroups; // read from the model on first use
     bool m_converted = false;
 };

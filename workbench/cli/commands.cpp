@@ -42,8 +42,7 @@ QString pathOf(const char* program)
     return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(program));
 }
 
-/// Returns whether the program that implements a command exists, because not every program is
-/// installed.
+/// Returns whether the program that implements a command is installed.
 bool isThere(const Command& command)
 {
     return !command.program || QFile::exists(pathOf(command.program));

@@ -89,7 +89,7 @@ void writeProject(const QString& path, const vkd::dbo::Model& model, const QStri
         throw CommandError{status.reason.replace(place.temporaryPath(), path)};
 }
 
-/// Returns the progress callback for one half of the work, which starts at this percentage.
+/// Returns a progress callback for the half of the work that starts at the percentage `before`.
 VkdGoOn half(const VkdGoOn& goOn, int before)
 {
     if (!goOn)

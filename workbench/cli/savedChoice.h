@@ -16,7 +16,7 @@ int progname(const CommandLine& line);
 /// --proposed, and for kinds of page that the window does not use.
 OutputState savedChoice(const CommandLine& line, ZobHandle project);
 
-/// Returns the saved settings. Settings that were not saved have their values on a new page.
+/// Returns the saved settings. Settings that were not saved have the initial values of a new page.
 plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& saved);
 
 /// Sets the desktop's camera to the saved camera. The script uses the desktop's camera for the
@@ -24,7 +24,7 @@ plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& s
 void restoreCamera(const OutputState& saved);
 
 /// Returns the selection text from the file given by --selection or, without this option, the saved
-/// text. An empty text stands for the catalogue's default choice.
+/// text. An empty string stands for the catalogue's default choice.
 QString chosenPlots(const CommandLine& line, const OutputState& saved);
 
 } // namespace workbench

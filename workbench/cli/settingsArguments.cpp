@@ -50,8 +50,8 @@ void setFormat(const QString& value, OutputSettings* settings)
     plib::chooseFormat(plib::PageFormat(value.toInt()), settings);
 }
 
-/// Throws a CommandError if the sheets are not in portrait format, because only then does the page
-/// offer a choice of pictures.
+/// Throws a CommandError if the sheets are not in portrait format, because the page offers a choice
+/// of pictures only for this format.
 void setPictures(const QString& value, OutputSettings* settings)
 {
     const auto pictures = plib::PagePictures(value.toInt());

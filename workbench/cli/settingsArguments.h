@@ -10,7 +10,7 @@ namespace workbench {
 /// name, a value out of range, or a setting that the kind of page does not have.
 void applySettings(const QStringList& arguments, plib::OutputSettings* settings);
 
-/// Returns the settings and their ranges for the help: "scaleMode (0 to 1), ...".
+/// Returns the settings and their ranges as text for the help: "scaleMode (0 to 1), ...".
 QString settingsHelp();
 
 } // namespace workbench
