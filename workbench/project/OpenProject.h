@@ -11,8 +11,8 @@ class VKD_H_ZOBDoc;
 namespace workbench {
 
 /// The open project of a window, if there is one: the document, the states of the project's parts
-/// that dialogs have read, and changes by other programs. The class needs no widgets. ProjectAccess
-/// adds messages and waits for other programs.
+/// that dialogs have read, and changes by other programs. The class does not use widgets.
+/// ProjectAccess adds messages and waits for other programs.
 class OpenProject : public QObject
 {
     Q_OBJECT
@@ -21,9 +21,9 @@ public:
     explicit OpenProject(QObject* parent = nullptr);
     ~OpenProject() override;
 
-    /// Replaces the document; null closes the project. Returns the previous document, which stays
-    /// open as long as the caller owns it. The states that look() has stored are preserved, because
-    /// dialogs continue to work on a reloaded project or on a copy.
+    /// Replaces the document; a null pointer closes the project. Returns the previous document,
+    /// which stays open as long as the caller owns it. The states that look() has stored are
+    /// preserved, because dialogs continue to work on a reloaded project or on a copy.
     std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);
     bool isOpen() const { return bool(m_document); }
     /// Returns null if no project is open.
@@ -37,10 +37,10 @@ public:
     /// Returns the folder of the file, or the current folder if no project is open.
     QString folder() const;
 
-    /// Returns a VkdZobStatus that tells whether the project can currently be read.
+    /// Returns a VkdZobStatus that indicates whether the project can currently be read.
     cd_error_t readStatus() const;
 
-    /// Call the operations of SeenPart for a part of this project.
+    /// These functions call the operations of SeenPart for a part of this project.
     cd_error_t look(ProjectPart part);
     bool isOutdated(ProjectPart part) const;
     cd_error_t store(ProjectPart part, const std::function<cd_error_t()>& put,

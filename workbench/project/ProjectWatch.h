@@ -8,7 +8,7 @@
 
 namespace workbench {
 
-/// Watches an open project for changes by other programs, and detects that its file was deleted,
+/// Watches an open project for changes by other programs, and detects when its file is deleted,
 /// moved or replaced. The operating system reports changes to the file; a slow timer checks files
 /// on drives that report no changes. A check is cheap and does not make other programs wait.
 class ProjectWatch : public QObject

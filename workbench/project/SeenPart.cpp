@@ -25,7 +25,7 @@ std::vector<KeyPair> keysOf(ProjectPart part)
     return {};
 }
 
-/// Adds the records of a sequence to the hash, each with its length, and an end marker.
+/// Adds the records of a sequence to the hash, each with its length, followed by an end marker.
 cd_error_t addRecords(ZobHandle project, KeyPair pair, QCryptographicHash& hash)
 {
     QByteArray record(1024, Qt::Uninitialized);

@@ -31,9 +31,9 @@ public:
     /// Returns whether the state in the project has changed since look(), or false if the state
     /// cannot be read.
     bool isOutdated(ZobHandle project) const;
-    /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if it fails, the transaction
-    /// is rolled back and its status is returned. Returns PartChanged if the project contains a
-    /// newer state and `newer` is Keep, otherwise a VkdZobStatus.
+    /// Calls `put` in one transaction. `put` returns a VkdZobStatus; if the call fails, the
+    /// transaction is rolled back and the status of `put` is returned. Returns PartChanged if the
+    /// project contains a newer state and `newer` is Keep, otherwise a VkdZobStatus.
     cd_error_t store(ZobHandle project, const std::function<cd_error_t()>& put,
                      Newer newer = Newer::Keep);
 
