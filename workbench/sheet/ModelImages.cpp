@@ -17,7 +17,7 @@ double pixelsPerMetre(double scale)
     return 1000.0 / scale * PixelsPerMm;
 }
 
-/// Returns the N of the largest common scale at which the model fits.
+/// Returns N for the largest common scale 1:N at which the model fits.
 double usualScale(double least)
 {
     for (double n : {1, 2, 5, 10, 20, 25, 50, 100, 200, 500, 1000})
@@ -35,7 +35,7 @@ vkd::dbo::Camera lookingFrom(double x, double y, double z)
     return camera;
 }
 
-/// Returns the frame in whole device pixels, so that the image is sharp.
+/// Returns the frame aligned to whole device pixels, so that the image is sharp.
 QRectF dotsOf(const QPainter& painter, const QRectF& frame)
 {
     return QRectF(painter.deviceTransform().mapRect(frame).toRect());

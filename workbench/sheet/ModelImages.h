@@ -23,8 +23,8 @@ public:
 
     /// Returns whether the project has no model.
     bool isEmpty() const { return m_model.isEmpty(); }
-    /// Returns the N of the scale 1:N for a view in a frame of this size (mm). `wanted` is the
-    /// scale of the plan.
+    /// Returns N for the scale 1:N of a view in a frame of this size (mm). `wanted` is the scale of
+    /// the plan.
     double scale(const PictureView& view, const QSizeF& frame, double wanted);
     /// Returns whether the model at scale 1:N is larger than the frame.
     bool isCut(const PictureView& view, const QSizeF& frame, double scale);

@@ -31,7 +31,7 @@ QFont fontOf(const QPainter& painter, double capitals)
     QFont font = painter.font();
     font.setPixelSize(qMax(1, qRound(capitals / CapitalShare)));
     font.setBold(false);
-    font.setHintingPreference(QFont::PreferNoHinting); // equal text widths at every zoom
+    font.setHintingPreference(QFont::PreferNoHinting); // keeps text widths equal at every zoom
     return font;
 }
 
@@ -120,7 +120,7 @@ QString viewText(const PictureView& view)
     return SheetPainter::tr("View not set");
 }
 
-/// Returns the text of a scale. A scale to fit is rounded to three digits.
+/// Returns a scale as text. A scale to fit is rounded to three digits.
 QString scaleText(double scale, double wanted, bool isCut)
 {
     const double step = std::pow(10.0, std::floor(std::log10(qMax(scale, 1.0))) - 2);

@@ -26,7 +26,7 @@ public:
 
     /// Draws a page, counted from 0, into a rectangle with the proportions of the sheet.
     void paint(QPainter& painter, const QRectF& sheet, const SheetPlan& plan, int page);
-    /// Return the plot and the load case of a picture as text.
+    /// These functions return the plot and the load case of a picture as text.
     static QString captionOf(const SheetPicture& picture);
     static QString loadCaseOf(const SheetPicture& picture);
 

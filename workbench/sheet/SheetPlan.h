@@ -29,8 +29,8 @@ struct SheetPicture
     QString loadCaseTitle;
 };
 
-/// The paper output of a script: the sheet, its division and the pictures in order, row by row and
-/// page by page.
+/// The paper output of a script: the sheet, its division into frames, and the pictures in order,
+/// row by row and page by page.
 struct SheetPlan
 {
     static constexpr double ScaleToFit = 0.0;
@@ -40,7 +40,7 @@ struct SheetPlan
     bool hasBorder = true;
     int rows = 1;
     int columns = 1;
-    double scale = ScaleToFit; ///< 100 for 1:100, or a constant from above
+    double scale = ScaleToFit; ///< 100 for 1:100, or one of the constants above
     double textHeight = 2.0;   ///< height of capital letters, mm
     QVector<PictureView> views;
     QVector<SheetPicture> pictures;
@@ -48,8 +48,8 @@ struct SheetPlan
     bool isEmpty() const { return pictures.isEmpty(); }
     int picturesPerPage() const { return rows * columns; }
     int pageCount() const;
-    /// Return the index of the first picture of a page, and the index after its last picture,
-    /// counted from 0.
+    /// These functions return the index of the first picture of a page, and the index after its
+    /// last picture, counted from 0.
     int firstPicture(int page) const { return page * picturesPerPage(); }
     int endPicture(int page) const;
 };

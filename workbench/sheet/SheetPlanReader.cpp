@@ -97,8 +97,8 @@ double readScale(QStringView word)
     return scale > 0.0 ? qBound(1.0, scale, MostScale) : SheetPlan::ScaleToFit;
 }
 
-/// Reads the sheet format. "A3" is the format of this name, and "URS" is the report format, A4.
-/// Both are landscape; a minus sign selects portrait. No other word is a sheet format.
+/// Reads the sheet format. "A3" is the format with this name, and "URS" is the report format, A4.
+/// Both are landscape; a minus sign selects portrait. Returns false for any other word.
 bool readSheet(QStringView word, SheetPlan* plan)
 {
     const bool stands = word.startsWith(QLatin1Char('-'));

@@ -30,8 +30,8 @@ public:
     explicit SheetPreview(QAction* exportSheets, QWidget* parent = nullptr);
     ~SheetPreview() override;
 
-    /// Sets the project, or no project if the handle is null, and goes to the first page. The
-    /// preview is empty until setPlan() is called.
+    /// Sets the project, or no project if the handle is null, and shows the first page. The preview
+    /// is empty until setPlan() is called.
     void setProject(ZobHandle project, const QString& name);
     void setPlan(const SheetPlan& plan);
     /// Returns the painter of the project's sheets; the preview owns it.

@@ -144,7 +144,7 @@ void SheetView::resizeEvent(QResizeEvent* event)
     fitScrollBars();
 }
 
-/// Shows the next or previous page when a page that is larger than the view is scrolled to its end.
+/// Shows the next or previous page if the current page is already scrolled to its end.
 void SheetView::wheelEvent(QWheelEvent* event)
 {
     QScrollBar* bar = verticalScrollBar();

@@ -29,8 +29,8 @@ public:
     /// page number.
     void setPage(int page);
     void setZoom(Zoom zoom);
-    /// Returns the rectangle of the sheet in viewport coordinates (pixels), or a null rectangle
-    /// without a page.
+    /// Returns the rectangle of the sheet in viewport coordinates (pixels), or a null rectangle if
+    /// there is no page.
     QRectF sheetRect() const;
 
 Q_SIGNALS:
