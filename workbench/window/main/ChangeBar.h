@@ -10,9 +10,9 @@ class QToolButton;
 
 namespace workbench {
 
-/// A bar above the view that reports changes to the open project by other programs, or that its
-/// file is missing, and offers suitable actions. If the user closes the bar, it stays closed until
-/// the next report.
+/// A bar above the view that reports changes to the open project by other programs or the loss of
+/// its file, and offers suitable actions. If the user closes the bar, it stays closed until the
+/// next report.
 class ChangeBar : public QFrame
 {
     Q_OBJECT

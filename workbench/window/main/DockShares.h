@@ -39,7 +39,7 @@ private:
 
     QMainWindow* m_window;
     QList<Entry> m_entries;
-    QSize m_size; ///< size of the window at the last layout of its docks
+    QSize m_size; ///< size of the window when its docks were last laid out
     bool m_isRestored = false;
 };
 

@@ -53,7 +53,7 @@ void FileCommands::connectActions(const WindowActions& actions)
     on(actions.reload, &FileCommands::reload);
     on(actions.saveAs, &FileCommands::saveAs);
     connect(actions.recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
-        leaveFor(file->data().toString()); // a copy: the call rebuilds the menu
+        leaveFor(file->data().toString()); // a copy, because the call rebuilds the menu
     });
 }
 
@@ -157,7 +157,7 @@ bool FileCommands::openDocument(const QString& path, Camera camera)
         return false;
     }
     m_parts.messages->say(tr("%1 is open.").arg(QFileInfo(path).fileName()));
-    const auto previous = setDocument(std::move(document)); // stays open for now
+    const auto previous = setDocument(std::move(document)); // stays open until this function ends
     m_isProjectToShow = isFirst; // an earlier project may still be waiting for the paint event
     if (isFirst) {
         window->update();
@@ -185,7 +185,8 @@ VkdStatus FileCommands::showModel(ZobHandle project)
     return m_parts.view->setProject(project, [&work](int) { return work.goOn(0); });
 }
 
-/// Shows one state of the project, except for the model. Returns whether everything was read.
+/// Shows the project except for the model, all from the same snapshot. Returns whether everything
+/// was read.
 bool FileCommands::showContents()
 {
     const ZobSnapshot snapshot(m_parts.project->handle()); // must end before a message is shown

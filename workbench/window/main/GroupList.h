@@ -30,8 +30,9 @@ public:
     const std::vector<int>& groupsWithoutAreas() const { return m_withoutAreas; }
 
 Q_SIGNALS:
-    /// Emitted when the user points at another group. The parameter is the group under the mouse,
-    /// otherwise the current group if the list has the focus, otherwise AnimatorView::NoGroup.
+    /// Emitted when the user points at another group. The parameter is the group under the mouse.
+    /// If there is none, it is the current group if the list has the focus, otherwise
+    /// AnimatorView::NoGroup.
     void groupPointed(int group);
     /// Emitted when the user activates a group with Enter or a double click.
     void groupChosen(int group);

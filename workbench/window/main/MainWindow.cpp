@@ -145,7 +145,8 @@ void MainWindow::changeEvent(QEvent* event)
         setTexts();
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_project.check();
-        QTimer::singleShot(0, this, &MainWindow::showNews); // delayed by a modal dialog
+        QTimer::singleShot(0, this, &MainWindow::showNews); // a modal dialog may have delayed the
+                                                            // update
     }
 }
 
@@ -269,12 +270,13 @@ void MainWindow::showOutput()
     m_outputEditor->show(m_panes->leftDocks());
 }
 
-/// Dialogs translate their texts only when they are created, so they are replaced.
+/// Dialogs translate their texts only when they are created, so open dialogs are replaced.
 void MainWindow::setLanguage(vkd::Language language)
 {
     if (vkd::desktopLanguage() == language)
         return;
-    if (m_project.isOpen() && !m_access.canRead()) // all texts of the project are reloaded
+    if (m_project.isOpen() && !m_access.canRead()) // because all texts of the project would be
+                                                   // reloaded
         return m_actions->setTexts();
     const auto before = m_outputEditor->present();
     m_outputEditor->close();

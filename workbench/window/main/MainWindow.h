@@ -24,8 +24,9 @@ class WindowPanes;
 /// The main window. It hosts the library's pages, and connects its panes and actions to the classes
 /// that implement the commands: an editor for each dialog, and FileCommands for projects.
 ///
-/// OK in a dialog immediately writes to the project file. Only the selection in an open output
-/// dialog may be unsaved, and the window asks whether to save it before the project is closed.
+/// Clicking OK in a dialog immediately writes to the project file. Only the selection in an open
+/// output dialog may be unsaved, and the window asks whether to save it before the project is
+/// closed.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT

@@ -37,7 +37,8 @@ public:
     void showSheets();
     /// Returns the top left corner of the dock with the groups, in screen coordinates.
     QPoint leftDocks() const;
-    /// Restore and save the geometry of the window and its docks in the program settings.
+    /// These functions restore and save the geometry of the window and its docks in the program
+    /// settings.
     void restoreGeometry();
     void saveGeometry() const;
 

@@ -9,8 +9,8 @@
 namespace workbench {
 
 /// Creates a project file, which must not exist yet, from the name of a sample model or from a
-/// model file. Returns an empty string after a success, otherwise the reason for the failure. If
-/// `goOn` has returned false, the string is not empty, but its contents are undefined.
+/// model file. Returns an empty string on success, otherwise the reason for the failure. If `goOn`
+/// has returned false, the string is not empty, but its contents are undefined.
 using MakeProject =
     std::function<QString(const QString& path, const QString& model, const VkdGoOn& goOn)>;
 

@@ -45,7 +45,7 @@ VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* par
     vkd::setDesktopLanguage(present);
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(page, &change);
-    page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // without load cases
+    page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // offers no load cases yet
     return page;
 }
 
@@ -92,7 +92,8 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     setUnchanged();
 }
 
-/// Destroys the page before the timer, since its widgets emit signals while they are destroyed.
+/// Destroys the page before the timer, because the page's widgets emit signals while they are
+/// destroyed.
 OutputDialog::~OutputDialog()
 {
     delete m_page;
@@ -101,7 +102,7 @@ OutputDialog::~OutputDialog()
 void OutputDialog::addTabs()
 {
     auto plots = new QWidget(this);
-    (new QVBoxLayout(plots))->addWidget(m_page); // the page has no margins
+    (new QVBoxLayout(plots))->addWidget(m_page); // the page has no margins of its own
     addTab(plots, tr("Plots"));
     addTab(newLoadCaseTab(), tr("Load cases"));
     addTab(newContentTab(), tr("Contents"));
@@ -142,7 +143,7 @@ void OutputDialog::restore(const OutputState& saved)
     bindOffers();
     if (saved.content == OutputState::WithSolids) {
         m_contents->setButton(saved.content);
-        m_contentBinding.clicked(saved.content); // the setter emits no signal
+        m_contentBinding.clicked(saved.content); // the setter does not emit a signal
     }
     offerLoadCases();
     m_choice.setProposed();
@@ -178,7 +179,7 @@ void OutputDialog::offerLoadCases()
     m_page->setUsedNumbersAndNames(present.offeredRows(m_document->handle()));
 }
 
-/// Connects the widgets of the page, because the page itself emits no signal for changes.
+/// Connects the widgets of the page, because the page itself does not emit signals for changes.
 void OutputDialog::listen()
 {
     const auto start = [this] { m_changes.start(0); };
@@ -199,7 +200,7 @@ void OutputDialog::listen()
     m_view->installEventFilter(this);
 }
 
-/// A view emits no signal when its camera changes, so its input events are watched.
+/// A view does not emit a signal when its camera changes, so its input events are watched.
 bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
 {
     const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||

@@ -55,7 +55,7 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
-    /// Frees the memory of the plots. The dialog can only be destroyed afterwards.
+    /// Frees the memory of the plots. After this call, the dialog can only be destroyed.
     void removePlots();
     /// Emits a pending choiceChanged() immediately.
     void finishChanges();
@@ -68,8 +68,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// Emitted after changes that affect the script. All changes made by one event emit it only
-    /// once.
+    /// Emitted after changes that affect the script, only once for all changes made by one event.
     void choiceChanged();
 
 private:

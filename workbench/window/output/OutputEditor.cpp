@@ -23,7 +23,8 @@ OutputEditor::~OutputEditor() = default;
 
 OutputDialog* OutputEditor::dialog()
 {
-    if (!m_dialog && m_access->canRead() && !m_dialog) { // an event may have created it
+    if (!m_dialog && m_access->canRead() && !m_dialog) { // an event during canRead() may have
+                                                         // created it
         m_project->look(ProjectPart::Output);
         create(OutputState::read(m_project->handle()));
     }
@@ -70,7 +71,7 @@ void OutputEditor::close()
 
 /// Destroys the dialog later, because it may be closing at the moment. Its plots are removed first:
 /// with thousands of load cases they take hundreds of megabytes, and the next dialog may be created
-/// before.
+/// before this one is destroyed.
 void OutputEditor::closeLater()
 {
     m_dialog->disconnect(this);

@@ -76,8 +76,8 @@ void OutputScript::setKeywords(vkd::Language language)
     refreshSheets();
 }
 
-/// The pane shows the change after the events that cause it have been processed, which may be
-/// later.
+/// Updates the pane first, because it normally shows a change only after the events that cause the
+/// change have been processed.
 QString OutputScript::script()
 {
     if (m_output->exists())

@@ -54,7 +54,7 @@ bool RecordTableModel::read(ZobHandle project)
     return status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
 }
 
-/// Caches the texts, because records differ in few fields and most texts are equal.
+/// Caches the strings, because records differ in few fields and most strings are equal.
 QString RecordTableModel::longestText() const
 {
     std::unordered_set<quint64> seen;
@@ -101,7 +101,7 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
     return {};
 }
 
-/// Nine digits distinguish all single-precision numbers.
+/// Nine significant digits distinguish all single-precision numbers.
 QString RecordTableModel::wordText(quint32 word, int row)
 {
     if (isInteger(row))

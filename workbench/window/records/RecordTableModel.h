@@ -10,8 +10,8 @@
 
 namespace workbench {
 
-/// The design records of a project as a table: a column for each record, and a row for each of its
-/// four-byte fields, with the field's name and unit as the header.
+/// The design records of a project as a table: a column for each record, and a row for each
+/// four-byte field, with the field's name and unit as the row header.
 class RecordTableModel : public QAbstractTableModel
 {
     Q_OBJECT

@@ -26,7 +26,8 @@ public:
     /// Creates a button for each window action that copies or saves the script.
     ScriptPane(QAction* copy, QAction* save, QWidget* parent);
 
-    /// Return or set the language of the keywords. The setter emits no signal.
+    /// These functions return or set the language of the keywords. The setter does not emit a
+    /// signal.
     vkd::Language keywords() const;
     void setKeywords(vkd::Language language);
 

@@ -108,7 +108,7 @@ void ScriptView::copy() const
         QApplication::clipboard()->setText(selectedText());
 }
 
-/// As in other text fields, does not scroll to the end.
+/// Does not scroll to the end, as in other text fields.
 void ScriptView::selectAll()
 {
     m_anchor = 0;

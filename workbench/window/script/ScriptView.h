@@ -100,7 +100,8 @@ private:
     bool m_isCursorLit = false;
     QBasicTimer m_blinking;
 
-    Unit m_unit = nullptr; // finds what the mouse selects; null while it does not select
+    Unit m_unit = nullptr; // finds the unit that the mouse selects; null while the mouse does not
+                           // select
     TextRange m_first;     // unit at which the mouse selection began
     bool m_mayDrag = false;
     QPoint m_pressed;

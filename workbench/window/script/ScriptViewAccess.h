@@ -17,7 +17,7 @@ public:
 
     /// Makes Qt create objects of this class for script views.
     static void install();
-    /// Report a change to the text, or to the cursor or the selection.
+    /// These functions report a change to the text, or to the cursor or the selection.
     static void tellText(ScriptView* view, const TextLines& before,
                          const QVector<LineChange>& changes);
     static void tellSelection(ScriptView* view);

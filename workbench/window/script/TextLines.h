@@ -16,7 +16,8 @@ public:
     int count() const { return m_starts.size(); }
     /// Returns a line without its newline. The object must outlive the returned view.
     QStringView line(int number) const;
-    /// Return the position of the first character of a line, or the position of its end.
+    /// These functions return the position of the first character of a line, or the position of its
+    /// end.
     int start(int number) const { return m_starts[number]; }
     int end(int number) const;
     /// Returns the line that contains a character or a newline.

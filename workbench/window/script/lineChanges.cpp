@@ -9,7 +9,7 @@
 namespace workbench {
 
 namespace {
-constexpr int MaximumChanges = 400; // lines: time and memory use are quadratic
+constexpr int MaximumChanges = 400; // lines; time and memory grow quadratically
 
 bool areEqual(QStringView a, QStringView b)
 {
@@ -52,7 +52,7 @@ int commonEnd(const TextLines& before, const TextLines& after, int beginning)
 }
 
 /// Finds the shortest sequence of removed and inserted lines that turns the lines of a change into
-/// its new lines, by the greedy algorithm of Myers (1986).
+/// its new lines, using the greedy algorithm of Myers (1986).
 class ShortestEdit
 {
 public:

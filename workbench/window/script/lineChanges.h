@@ -17,8 +17,8 @@ struct LineChange
 
 /// Returns the smallest set of changes that turns `before` into `after`, in ascending order. The
 /// time is proportional to the length of the texts and to the square of the number of changed
-/// lines. So if the texts differ in many lines, all lines between the first and the last difference
-/// are returned as one change.
+/// lines. Therefore, if the texts differ in many lines, all lines between the first and the last
+/// difference are returned as one change.
 QVector<LineChange> lineChanges(const TextLines& before, const TextLines& after);
 
 } // namespace workbench

@@ -44,7 +44,7 @@ bool beginsWord(const TextLines& lines, int position)
     return position == lines.start(line) || (finder.isAtBoundary() && !isSpace(position));
 }
 
-/// Moves at least one boundary, up to the next beginning of a word or a line.
+/// Moves by at least one step, up to the next beginning of a word or a line.
 int movedToWord(const TextLines& lines, int position, int (*step)(const TextLines&, int))
 {
     int at = step(lines, position);

@@ -35,7 +35,7 @@ struct TextRange
 };
 
 TextPlace placeAt(const TextLines& lines, int position);
-/// `page` is the number of lines on a page.
+/// Returns the cursor position after a movement. `page` is the number of lines on a page.
 TextPlace moved(const TextLines& lines, const TextPlace& from, TextMove move, int page);
 /// Returns the word, or the sequence of other characters, at this position.
 TextRange wordAt(const TextLines& lines, int position);

@@ -23,7 +23,7 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event)
     auto drop = static_cast<QDropEvent*>(event);
     const QString path = draggedFile(drop->mimeData());
     drop->setDropAction(Qt::CopyAction);
-    const bool isCopy = drop->dropAction() != Qt::MoveAction; // a source may offer only moving
+    const bool isCopy = drop->dropAction() != Qt::MoveAction; // a source may offer only a move
     drop->setAccepted(event->type() == QEvent::Drop ||
                       (m_isAllowed() && isCopy && !path.isEmpty()));
     if (event->type() == QEvent::Drop)

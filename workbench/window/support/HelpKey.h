@@ -11,8 +11,8 @@ namespace workbench {
 void setHelpTopic(QWidget* widget, const char* topic);
 
 /// Returns the topic of the widget, or the topic of its nearest ancestor with a topic, or an empty
-/// string without such an ancestor. The search continues across windows, so a message box has the
-/// topic of its dialog.
+/// string if there is no such ancestor. The search continues across windows, so a message box has
+/// the topic of its dialog.
 QString helpTopic(const QWidget* widget);
 
 /// Handles the help key in a window and in all its dialogs, even in modal dialogs. While a list or

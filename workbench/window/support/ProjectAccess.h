@@ -22,10 +22,10 @@ public:
     /// Neither argument is owned.
     ProjectAccess(OpenProject* project, WindowMessages* messages);
 
-    /// Returns whether the project can currently be read. Callers that read several parts check
-    /// this first, because each read would wait for another program.
+    /// Returns whether the project can currently be read. Callers that read several parts should
+    /// check this first, because each read would wait for another program.
     bool canRead();
-    /// Calls `work`, which returns a VkdZobStatus, see waitForStore(). An error is shown with the
+    /// Calls `work`, which returns a VkdZobStatus (see waitForStore()). An error is shown with the
     /// path inserted into `sentence`. Returns whether `work` succeeded.
     bool run(const std::function<cd_error_t()>& work, const QString& sentence);
     /// Stores a part with `store`, which returns a VkdZobStatus or PartChanged. If another program

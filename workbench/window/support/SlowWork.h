@@ -12,8 +12,8 @@ class QWidget;
 
 namespace workbench {
 
-/// Shows the wait cursor during work that processes no events, until the object is destroyed or a
-/// dialog opens.
+/// Shows the wait cursor during work that does not process events, until the object is destroyed or
+/// a dialog opens.
 class WaitCursor : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ class SlowWork
     Q_DECLARE_TR_FUNCTIONS(workbench::SlowWork)
 
 public:
-    /// `parent` is the parent of the dialog. `maximum` is the last value, or 0 if the last value is
+    /// `parent` is the parent of the dialog. `maximum` is the final progress value, or 0 if it is
     /// unknown.
     SlowWork(QWidget* parent, const QString& text, int maximum);
     ~SlowWork();

@@ -26,8 +26,8 @@ public:
     /// Shows an error message; the status bar shows its first line.
     void complain(const QString& text);
     void complainOfWriting(const QString& path, const QString& reason);
-    /// If `status` is an error, shows `sentence` with the path inserted, and the reason of the
-    /// status. If the user has cancelled, only the status bar shows the message. Returns whether
+    /// If `status` is an error, shows `sentence` with the path inserted and the reason for the
+    /// error. If the user has cancelled, only the status bar shows the message. Returns whether
     /// `status` is VKD_ZOB_OK.
     bool succeeds(cd_error_t status, const QString& path, const QString& sentence);
     /// Overload for a complete status. If a system error occurred while reading or writing, shows

@@ -15,8 +15,8 @@ class WindowSettings : public QSettings
 public:
     WindowSettings();
 
-    /// Returns the most recently opened projects, the latest first, at most eight. A file occurs
-    /// only once, even if it was opened by different paths. Missing files are omitted.
+    /// Returns up to eight of the most recently opened projects, the latest first. A file occurs
+    /// only once, even if it was opened through different paths. Missing files are omitted.
     QStringList recentFiles() const;
     void addRecentFile(const QString& path);
 

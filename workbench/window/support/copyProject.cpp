@@ -43,7 +43,7 @@ VkdStatus copyBytes(QWidget* parent, const VKD_H_ZOBDoc& document, QFile& to)
     return isWritten && to.flush() ? VkdStatus() : failureOf(to);
 }
 
-/// Calls `attempt` until the store is no longer locked, see waitForStore().
+/// Calls `attempt` until the store is no longer locked (see waitForStore()).
 VkdStatus waitFor(QWidget* parent, const QString& path, const std::function<VkdStatus()>& attempt)
 {
     VkdStatus status;

@@ -26,8 +26,8 @@ constexpr struct
     {Group::All_NONF, QT_TRANSLATE_NOOP("workbench::CombinationTable", "Non-frequent")},
 };
 
-/// Words that occur in titles, in both languages. The first match is used, so "non-frequent" comes
-/// before "frequent".
+/// Guesses the kind from words in the title, in either language. The first match is used, so
+/// "non-frequent" comes before "frequent".
 int proposedKind(const QString& title)
 {
     static const struct

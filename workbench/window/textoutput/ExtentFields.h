@@ -33,7 +33,8 @@ public:
     Choice choice() const { return m_showsRule ? m_choice : displayed(); }
     void setChoice(const Choice& choice);
 
-    /// Show the individual choice or the result of a rule. Neither function emits a signal.
+    /// These functions show the individual choice or the result of a rule. They do not emit a
+    /// signal.
     void showChosen();
     void showRule(const Choice& rule);
 

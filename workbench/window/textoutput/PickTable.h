@@ -28,11 +28,12 @@ public:
     QSet<int> leftOut() const { return m_showsRule ? m_leftOut : shownAsLeftOut(); }
     void setLeftOut(const QSet<int>& numbers);
 
-    /// Show the individual choice or the result of a rule. Neither function emits a signal.
+    /// These functions show the individual choice or the result of a rule. They do not emit a
+    /// signal.
     void showPicked();
     void showRule(const QVector<int>& numbers);
 
-    /// Returns a height of a few rows. The dialog may give the table more height.
+    /// Returns a size with the height of a few rows. The dialog may make the table taller.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
