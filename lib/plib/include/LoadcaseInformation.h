@@ -6,14 +6,14 @@ namespace vkd {
 namespace plib {
 namespace widgetgraphicaloutput {
 
-/// A load case offered by the host. The output tree shows it as a row under each plot that is bound
-/// to load cases.
+/// A load case that the host offers. The output tree shows it as a row under each plot that is
+/// bound to load cases.
 struct LoadcaseInformation
 {
     int kind = 1;   ///< 1 for plots of load cases, 2 for plots of design combinations
-    int number = 0; ///< number of the load case; negative: never produces a script line
-    /// The text of the row. A "+" followed by a number before the first ":" requests a double
-    /// picture.
+    int number = 0; ///< if negative, the row never produces a script line
+    /// The text of the row. A "+" followed by a number before the first ":" requests a picture that
+    /// combines two load cases.
     QString name;
 
     friend bool operator==(const LoadcaseInformation& a, const LoadcaseInformation& b)

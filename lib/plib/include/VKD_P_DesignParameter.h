@@ -20,9 +20,10 @@ class VKD_P_FEA_EXPORT VKD_P_DesignParameter : public QWidget
     Q_OBJECT
 
 public:
-    /// `doc` provides the groups and bars, `designDoc` the design records. They may be the same
-    /// document. The documents are not owned and must outlive the page. The constructor stores
-    /// default design records if the project has none. The flags are stored, but have no effect.
+    /// `doc` provides the groups and bars, and `designDoc` provides the design records. Both may be
+    /// the same document. The documents are not owned and must outlive the page. The constructor
+    /// stores default design records if the project has none. The flags are stored but have no
+    /// effect.
     VKD_P_DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWidget* parent, bool flagA,
                           bool flagB);
     ~VKD_P_DesignParameter() override;
@@ -36,13 +37,13 @@ public:
     void getEntrys(VKD_H_ProjectDialogPage& page);
 
     /// Writes one record per group to the project. If `page` is given, also saves the rows without
-    /// groups there. The status codes of the store are not checked.
+    /// groups there. Does not check the status codes of the store.
     void writeToZob();
     void setEntrys(VKD_H_ProjectDialogPage& page);
 
     /// Asks the user for confirmation if rows would be lost because they have no groups. Returns
-    /// false if the user wants to stay on the page. After getEntrys(), always returns true, because
-    /// setEntrys() saves such rows.
+    /// false if the user wants to stay on the page. After a call to getEntrys(), always returns
+    /// true, because setEntrys() saves such rows.
     bool checkVals();
 
     /// Returns the default record of a new row, with distances from the surface in metres, bars in
@@ -54,7 +55,7 @@ public:
     static void checkAndCreateZobDefault(int index);
 
 Q_SIGNALS:
-    /// Emitted with the new number of rows whenever the number changes, and after the table has
+    /// Emitted with the number of rows whenever this number has changed, and after the table has
     /// been filled.
     void signal_rowCountChanged(int rowCount);
 

@@ -10,8 +10,8 @@ namespace designparameter {
 /// provide data to hosts in addition to the visible text.
 enum Role {
     /// Set on items of the first column: a QVector<int> with the row's groups that are also listed
-    /// in other rows. The numbers are the same as in a group list, with -1 for the remaining
-    /// groups. The data is invalid if there are no such groups.
+    /// in other rows. The remaining groups are represented by -1, as in any list of groups. The
+    /// data is invalid if there are no such groups.
     SharedGroupsRole = Qt::UserRole + 1
 };
 

@@ -11,11 +11,11 @@ class QLayout;
 class QWidget;
 class VKD_P_RadioGroupImpl;
 
-/// A row of radio buttons for the dialogs of hosts. The user selects load cases or the amount of
-/// text output. A coupled widget for manual selection is enabled only while the manual button is
-/// checked. Call one of the init functions first, followed by layout() and useWidget(). No signals
-/// are emitted before useWidget(). The group may be destroyed at any time, even in a slot connected
-/// to one of its signals. The buttons remain children of their parent.
+/// A row of radio buttons for the dialogs of hosts, with which the user selects load cases or the
+/// amount of text output. A coupled widget for manual selection is enabled only while the manual
+/// button is checked. Call one of the init functions first, followed by layout() and useWidget().
+/// No signals are emitted before useWidget(). The group may be destroyed at any time, even in a
+/// slot connected to one of its signals. The buttons remain children of their parent.
 class VKD_P_FEA_EXPORT VKD_P_RadioGroup : public QObject
 {
     Q_OBJECT
@@ -38,14 +38,15 @@ public:
     ~VKD_P_RadioGroup() override;
 
     /// Each init function creates a row of buttons owned by `parent`, or does nothing if the group
-    /// already has a row. This function creates "Manually" and "All"; neither button is checked.
+    /// already has a row. This function creates the buttons "Manually" and "All"; neither of them
+    /// is checked.
     void init(QWidget* parent);
-    /// Creates "Manually" and those buttons from All_A to All_NONF whose ids are in `ids`. No
-    /// button is checked. The row is sorted by id. It also emits buttonChecked(), but never
-    /// buttonNoOutputChecked().
+    /// Creates the button "Manually" and those buttons from All_A to All_NONF whose IDs are in
+    /// `ids`. No button is checked. The row is sorted by ID. It also emits buttonChecked(), but
+    /// never buttonNoOutputChecked().
     void initForLF(QWidget* parent, const std::list<ButtonID>& ids);
-    /// Creates "Manually controlled", which is checked, "No text output" and "Full text output".
-    /// This row does not emit signals.
+    /// Creates the buttons "Manually controlled", which is checked, "No text output" and "Full text
+    /// output". This row does not emit signals.
     void initEchoOutput(QWidget* parent);
 
     /// Returns the layout with the row, or null before an init function is called. Add it to a
@@ -56,20 +57,20 @@ public:
     /// signals. Call it only once: after a second call, each signal is emitted twice.
     void useWidget(QWidget* widget);
 
-    /// Enables or disables a button. Ids of buttons that are not in the row are ignored.
+    /// Enables or disables a button. Ignores IDs of buttons that are not in the row.
     void setEnabledById(ButtonID id, bool enabled);
     void setSelectedId(ButtonID id);
-    /// Returns the id of the checked button, or -1 if no button is checked.
+    /// Returns the ID of the checked button, or -1 if no button is checked.
     ButtonID getSelectedId() const;
 
-    /// writeXML() returns the choice as a string that the host saves, and readXML() restores it. A
-    /// string in any other format is ignored.
+    /// writeXML() returns the choice as a string that the host saves, and readXML() restores the
+    /// choice from this string. readXML() ignores a string in any other format.
     void readXML(const QString& text);
     QString writeXML() const;
 
 Q_SIGNALS:
     /// Emitted when the choice may have changed, but only if a widget is coupled. May be emitted
-    /// more than once per click. The id is -1 if no button is checked.
+    /// more than once per click. The ID is -1 if no button is checked.
     void buttonClicked(int buttonID);
     void buttonNoOutputChecked();
     void buttonManuallyChecked();

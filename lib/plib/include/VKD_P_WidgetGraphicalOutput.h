@@ -24,9 +24,9 @@ class VKD_P_FEA_EXPORT VKD_P_WidgetGraphicalOutput : public QWidget
     Q_OBJECT
 
 public:
-    /// `parameter` provides the project; it is not owned and must outlive the page. `animator` may
-    /// be null. It is placed on the page and is returned to its former parent when the page is
-    /// destroyed. It must be null for the split page, on which the user cannot choose a view.
+    /// `parameter` provides the project; it is not owned and must outlive the page. `animator` is
+    /// placed on the page and is returned to its former parent when the page is destroyed. It may
+    /// be null, and it must be null for the split page, on which the user cannot choose a view.
     VKD_P_WidgetGraphicalOutput(QWidget* parent, VKD_P_WidgetGraphicalOutput_Progname progname,
                                 VKD_H_PluginParameter* parameter, AnimatorView* animator);
     ~VKD_P_WidgetGraphicalOutput() override;
@@ -35,9 +35,9 @@ public:
     bool checkVals();
 
     /// Returns the script. It is empty if no plot is checked, regardless of `additional`. The text
-    /// in `additional` is appended after the plots, followed by a newline. On the prefix page it is
-    /// inserted before the plots without any change. The split page returns two alternative page
-    /// setups instead of a script.
+    /// in `additional` is appended after the plots, followed by a newline. On the prefix page, the
+    /// text is inserted before the plots without any change. The split page returns two alternative
+    /// page setups instead of a script.
     QString getTORVAL(const QString& additional, bool english);
     QString getTORVAL(bool english);
     /// Appends the script to `scripts`, even if it is empty. Always returns 1.
@@ -49,14 +49,14 @@ public:
     QString getTORVAL_SIZE(bool english);
     /// Returns the font statement. On the split page, returns only the font size in centimetres.
     QString getTORVAL_SCHR(bool english);
-    /// Replaces `lines` with the lines of the checked plots. The lines contain the views of the
-    /// catalogue.
+    /// Replaces `lines` with the lines of the checked plots. The lines contain the views that the
+    /// catalogue specifies.
     void getTORVAL_LFs(std::vector<QString>& lines, bool english);
-    /// Returns five definitions that specify whether areas are filled.
+    /// Returns five variable definitions that specify whether areas are filled.
     QString writeFillSet(bool fill, bool english);
 
-    /// Returns the state of the page as concatenated tagged strings, which the host saves. Before
-    /// that, the animator stores its camera.
+    /// Lets the animator store its camera, and returns the state of the page as concatenated tagged
+    /// strings, which the host saves.
     QString writeXMLstring();
     /// Applies a string returned by writeXMLstring(), which may come from another kind of page.
     /// Widgets whose tags are missing do not change, and unknown tags are ignored. After any call,
@@ -64,8 +64,7 @@ public:
     void readXMLstring(QString xml);
 
 Q_SIGNALS:
-    /// Commands for the animator. The page emits only the first of these signals and uses it for
-    /// all views.
+    /// Commands for the animator. The page emits only the first of these signals, for all views.
     void signalBeobXY(AnimatorViewControl control, double value);
     void signalBeobXZ(AnimatorViewControl control, double value);
     void signalBeobYZ(AnimatorViewControl control, double value);
@@ -95,7 +94,7 @@ protected Q_SLOTS:
     void slotQuerFormat();
 
 private:
-    friend class VKD_P_WidgetGraphicalOutput_AdditionalData; // switches content tags for hosts
+    friend class VKD_P_WidgetGraphicalOutput_AdditionalData; // calls additionalData() for hosts
 
     void buildDefaultButton();
     void layOut(QWidget* box);

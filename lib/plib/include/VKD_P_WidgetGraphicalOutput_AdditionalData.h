@@ -9,7 +9,7 @@ class VKD_P_WidgetGraphicalOutput;
 class VKD_QT_RadioButtonGroup;
 
 /// Connects a host's group of radio buttons to a content tag of an output page. Plots that require
-/// the tag are offered while a certain button is checked. The host owns the object.
+/// the tag are offered as long as a certain button is checked. The host owns the object.
 class VKD_P_FEA_EXPORT VKD_P_WidgetGraphicalOutput_AdditionalData : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ public:
     VKD_P_WidgetGraphicalOutput_AdditionalData();
     ~VKD_P_WidgetGraphicalOutput_AdditionalData() override;
 
-    /// `id` is the id of the button that adds the tag. The current choice in the group has no
+    /// `id` is the ID of the button that adds the tag. The button that is already checked has no
     /// effect until the next click. Neither `page` nor `group` is owned.
     void setWidget(VKD_P_WidgetGraphicalOutput* page, VKD_QT_RadioButtonGroup* group,
                    const QString& tag, int id);
 
 public Q_SLOTS:
-    /// Handles a click on the button with this id. Each click on the button of the tag adds the tag
-    /// once more. A click on any other button removes all additions at once.
+    /// Handles a click on the button with this ID. Each click on the button that adds the tag adds
+    /// it once more. A click on any other button removes the tag completely.
     void clicked(int no);
 
 private:

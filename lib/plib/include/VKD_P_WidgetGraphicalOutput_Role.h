@@ -7,13 +7,13 @@ namespace plib {
 namespace widgetgraphicaloutput {
 
 /// Data roles of the items in the page's tree, a QTreeWidget with the object name "m_list". They
-/// provide data to hosts in addition to the visible text. The tree sets them whenever it is filled.
-/// Items that do not come from the catalogue have no such data.
+/// provide data to hosts in addition to the visible text. The tree sets the data whenever it is
+/// filled. Items that do not come from the catalogue have no such data.
 enum Role {
     /// An int: 0 and 1 for captions, 2 for a plot, 3 for the row of a load case.
     LevelRole = Qt::UserRole + 1,
     /// Set on captions and plots: a QString that identifies the item in the stored selection. It is
-    /// the same in every language. Captions without their own keys share an identifier.
+    /// the same in every language. Captions without keys of their own share an identifier.
     IdentifierRole,
     /// Set on plots: a QStringList of the captions from the top level to the plot, in the language
     /// of the tree.

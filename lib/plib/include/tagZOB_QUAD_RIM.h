@@ -7,17 +7,17 @@
 /// for the design program: 53 words of four bytes, stored in little-endian order. In every real
 /// field, -99999.0 means "not set".
 ///
-/// In the field names, `o` denotes the upper side and `u` the lower side. A suffix denotes the
-/// layer: none for the principal reinforcement, `q` for the cross reinforcement, `i` for the third
-/// layer.
+/// In the field names, `o` denotes the upper side and `u` the lower side. The suffix denotes the
+/// layer: no suffix for the principal reinforcement, `q` for the cross reinforcement, `i` for the
+/// third layer.
 struct tagZOB_QUAD_RIM
 {
-    std::int32_t group; ///< -1: all groups without their own record; 1000000 or more: secondary
-    std::int32_t subId; ///< if not 0, belongs to another program
+    std::int32_t group; ///< -1: all groups without a record; 1000000 or more: secondary group
+    std::int32_t subId; ///< not 0: record of another program
     std::int32_t
         type; ///< 0 none, 1 two orthogonal layers, 2 two layers, 3 three layers, 4 circular
     std::int32_t mode;                      ///< preserved, not used
-    std::int32_t mark;                      ///< if not 0 or 11, belongs to another program
+    std::int32_t mark;                      ///< not 0 or 11: record of another program
     float rio, rioq, rioi, riu, riuq, riui; ///< directions, radians
     float xref, yref, zref;                 ///< reference point of circular reinforcement, metres
     /// Distances in metres. The stored form contains the distance of each layer from the surface.
