@@ -13,8 +13,7 @@ namespace {
 constexpr char FileName[] = "graphicaloutput.data";
 constexpr int SearchMode = 3;
 
-/// Translates messages in the context of the tree, because they concern the tree, which remains
-/// empty.
+/// Translates messages in the context of the tree, because they report why the tree remains empty.
 struct TreeText
 {
     Q_DECLARE_TR_FUNCTIONS(GraphicalOutputTreeWidget)

@@ -9,7 +9,7 @@
 
 namespace plib {
 
-/// The catalogue of plots, shared by all output trees of the process.
+/// The catalogue of plots, which all output trees of the process share.
 struct Catalogue
 {
     std::vector<GraphicalOutputRecord> list; ///< in file order; never shrinks
@@ -23,8 +23,8 @@ Catalogue& sharedCatalogue();
 using ShowError = std::function<void(const QString& title, const QString& text)>;
 
 /// Loads the catalogue for the language, unless it is already loaded. The file is
-/// `graphicaloutput.data` in the search path. The records of a second language are intentionally
-/// appended to the records of the first language. If the file is missing or cannot be opened, calls
+/// `graphicaloutput.data` on the search path. The records of a second language are intentionally
+/// appended to those of the first language. If the file is missing or cannot be opened, calls
 /// `showError` and returns false; the next call tries again.
 bool loadCatalogue(Catalogue& catalogue, vkd::Language language, const ShowError& showError);
 

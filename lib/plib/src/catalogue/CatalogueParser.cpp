@@ -75,8 +75,8 @@ CatalogueParser::Outcome CatalogueParser::parseLine(const char* bytes, int lengt
                                   : parseText(QString::fromUtf8(bytes, length));
 }
 
-/// Does the same as parseText(), but for a line of pure ASCII, in which each byte is a character.
-/// Most lines are pure ASCII, and splitting bytes is much faster.
+/// Does the same as parseText() for a pure ASCII line, in which each byte is a character. Most
+/// lines are pure ASCII, and splitting bytes is much faster.
 CatalogueParser::Outcome CatalogueParser::parseAscii(const char* bytes, int length)
 {
     const char* const end = bytes + length;
@@ -185,7 +185,7 @@ void CatalogueParser::storeCaseWord(const QString& part)
 void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list)
 {
     vkd_lib_opentext("grav");
-    constexpr int ShortLine = 128; // bytes; longer lines leave some capacity unused
+    constexpr int ShortLine = 128; // in bytes; longer lines leave some capacity unused
     list.reserve(list.size() + size_t(device.bytesAvailable() / ShortLine));
     CatalogueParser parser;
     char line[CatalogueParser::LineBuffer];

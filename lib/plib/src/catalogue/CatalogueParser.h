@@ -12,10 +12,10 @@ class QIODevice;
 
 namespace plib {
 
-/// Parses the lines of a catalogue one by one into a single working record. Its fields are not
-/// reset between lines: a line without an English script inherits the script of the last line that
-/// had one. A column with the same bytes as in the previous line is neither decoded nor looked up
-/// again, because consecutive lines differ in few columns.
+/// Parses the lines of a catalogue one by one into a single working record. The fields of the
+/// record are not reset between lines: a line without an English script inherits the script of the
+/// last line that had one. A column with the same bytes as in the previous line is neither decoded
+/// nor looked up again, because consecutive lines differ in only a few columns.
 class CatalogueParser
 {
 public:
@@ -28,7 +28,8 @@ public:
     /// Parses one line as returned by QIODevice::readLine(), including the newline if there is one.
     Outcome parseLine(const char* bytes, int length);
 
-    /// Returns the working record. It is a valid catalogue record if the outcome was Accepted.
+    /// Returns the working record. The record is valid if the outcome of the last line was
+    /// Accepted.
     const GraphicalOutputRecord& record() const { return m_record; }
     /// Returns the number of parts in the line, or 0 for comments and blank lines.
     int partCount() const { return m_partCount; }
@@ -42,15 +43,15 @@ private:
     void storeCaseWord(const QString& part);
 
     GraphicalOutputRecord m_record;
-    // The bytes of each stored column, including spaces; empty if they were not pure ASCII. Parts
-    // are never empty, so an empty string does not match any part.
+    // The bytes of each stored column, including spaces; empty if the column was not pure ASCII.
+    // Parts are never empty, so an empty string does not match any part.
     std::array<std::string, UsedParts> m_bytes;
     int m_partCount = 0;
 };
 
 /// Reads lines of at most 1023 bytes until the end of the device and appends the accepted records.
-/// The rest of a longer line is read as a separate line. Invalid lines are skipped without a
-/// message; lintCatalogue() reports them.
+/// The rest of a longer line is read as a separate line. Invalid lines are silently skipped;
+/// lintCatalogue() reports them.
 void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list);
 
 } // namespace plib

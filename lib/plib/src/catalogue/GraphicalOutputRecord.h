@@ -4,8 +4,8 @@
 
 namespace plib {
 
-/// One line of the catalogue: a plot that the output page can offer. It is a plain value, and each
-/// item of an output tree stores its own copy.
+/// One line of the catalogue, which describes a plot that the output page can offer. The record is
+/// a plain value; each item of an output tree stores its own copy.
 struct GraphicalOutputRecord
 {
     int prog1 = 0; ///< kinds of pages that offer the plot
@@ -20,7 +20,7 @@ struct GraphicalOutputRecord
     QString id3;
     int number7 = 0; ///< unused
     QString caseWord;
-    int ctrl = -1; ///< -1: not bound to load cases, -10: bound to load cases of unknown kind
+    int ctrl = -1; ///< -1: not bound to load cases, -10: case word `beam` or `dsln`
     int rowClass = 0;
     int rowMark = 1; ///< `isLC` of the plot's rows
     int preselect = 0;

@@ -10,7 +10,8 @@ namespace plib {
 namespace {
 using vkd::zob::keys::DesignLines;
 
-/// The platform has no query for design lines. The second key is intentionally ignored.
+/// The platform has no function for this query. The second key of the pair is intentionally
+/// ignored.
 bool hasDesignLines(int index, int*)
 {
     vkd::zob::KeyPair found = DesignLines;

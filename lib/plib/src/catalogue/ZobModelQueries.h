@@ -7,8 +7,8 @@ class VKD_H_PluginParameter;
 namespace plib {
 
 /// Implements the queries with the projects of a page. Cross sections are read from the second
-/// document if there is one, everything else from the model document. Results are not cached, so a
-/// changed model takes effect on the next call.
+/// document if there is one, and everything else is read from the model document. Results are not
+/// cached, so changes to the model take effect on the next call.
 class ZobModelQueries : public ModelQueries
 {
 public:

@@ -9,10 +9,10 @@ namespace {
 constexpr int QualifierLength = 3;
 constexpr int TokenLength = 4;
 
-/// The text that a qualifier adds to a caption.
+/// The words that a qualifier adds to a caption.
 struct Addition
 {
-    const char* characters; ///< qualifiers that add it
+    const char* characters; ///< qualifiers that add these words
     const char* token;
     const char* suffix; ///< "%" is replaced with the qualifier
 };
@@ -47,7 +47,7 @@ QString tokenText(QStringView token)
     const QByteArray key = token.mid(1, 3).toLatin1();
     const QString text = QString::fromStdString(
         vkd_lib_convtext(textClass, vkd_lib_getvalue(VKD_SETTING_LANGUAGE), key.constData()));
-    // Removes an abbreviation before the first ">". A ">" at the beginning is part of the text.
+    // An abbreviation before the first ">" is removed. A ">" at the beginning is part of the text.
     const int mark = textClass == 0 ? text.indexOf(QLatin1Char('>')) : -1;
     return mark > 0 ? text.mid(mark + 1) : text;
 }
@@ -98,7 +98,7 @@ QString captionText(const QString& field)
     const QStringView base = QStringView(field).mid(qualified ? QualifierLength : 0, TokenLength);
     if (!base.isEmpty() && !isTokenSign(base.at(0)))
         return QString();
-    QString out(QLatin1String("")); // not a null string, even if the token has no text
+    QString out(QLatin1String("")); // empty but not null, even if the token has no text
     expand(base, QString(), Place::Behind, &out);
     if (!qualified)
         return out;

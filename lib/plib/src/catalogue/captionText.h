@@ -15,8 +15,8 @@ bool hasQualifier(QStringView keyText);
 
 /// Returns the caption for a key text in the desktop language, from the messages of the program
 /// selected by vkd_lib_opentext(). Returns a null string if the field does not begin with a token
-/// of the text service, or an empty string if the service has no text for it. The caption is not
-/// trimmed.
+/// of the text service, or an empty string if the service has no text for the token. Does not trim
+/// the caption.
 QString captionText(const QString& field);
 
 /// Returns the caption that a tree shows for a key text in the desktop language: its trimmed

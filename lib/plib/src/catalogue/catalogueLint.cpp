@@ -36,7 +36,7 @@ private:
     void checkCaption(const GraphicalOutputRecord& record, int program, int level,
                       const QString& caption);
 
-    using OnPage = QPair<int, QString>; // kind of page and identifier in its tree
+    using OnPage = QPair<int, QString>; // kind of page, and identifier in the tree of such pages
 
     CatalogueParser m_parser;
     int m_line = 0;
@@ -131,8 +131,8 @@ void CatalogueLint::checkIdentifiers(const GraphicalOutputRecord& record)
     }
 }
 
-/// Plots for different kinds of system may share an identifier: a tree shows only one of them, so a
-/// stored selection is unambiguous.
+/// Plots for different kinds of system may share an identifier: a tree shows only one of these
+/// plots, so a stored selection is unambiguous.
 void CatalogueLint::checkPlotIdentifier(const GraphicalOutputRecord& record, int program)
 {
     std::array<int, 4>& lines = m_plots[{program, itemId(record, 2)}];

@@ -19,8 +19,9 @@ struct CatalogueFinding
 
 /// Reads a catalogue like parseCatalogue() and reports the problems that parseCatalogue() ignores:
 /// skipped lines, shifted columns, inherited scripts, unknown words, plots that are never shown or
-/// never produce a script line, and identifiers that cannot identify a stored selection. If
-/// `records` is not null, the records are stored there. Captions are in the desktop language.
+/// never produce a script line, and identifiers that are ambiguous or unusable in a stored
+/// selection. If `records` is not null, stores the accepted records there. Captions are in the
+/// desktop language.
 std::vector<CatalogueFinding> lintCatalogue(QIODevice& device,
                                             std::vector<GraphicalOutputRecord>* records);
 

@@ -43,7 +43,7 @@ int systemBit(int kind)
     switch (kind / 10) { // rounds towards zero, so -9 to 9 are one range
     case 0:
     case 2: return 8;
-    // Kinds 10, 11, 14 and 15 have bit 1.
+    // The result is 1 for the kinds 10, 11, 14 and 15.
     case 1: return ((kind - 10) & ~5) == 0 ? 1 : 2;
     case 3: return 4;
     case 4: return 0;

@@ -41,9 +41,9 @@ public:
     virtual int kindOfSystem() const = 0;
 };
 
-/// Caches the query results of another model, because each plot of a catalogue makes the same
-/// queries. Use an object for only one pass, because later changes to the model have no effect on
-/// it.
+/// Caches the query results of another model, because the same queries are made for each plot of a
+/// catalogue. Use an object for only one pass, because it does not notice later changes to the
+/// model.
 class RememberedAnswers : public ModelQueries
 {
 public:
@@ -63,15 +63,15 @@ private:
 };
 
 /// Returns the content for a tag of the catalogue (case-insensitive), or nothing for an unknown
-/// tag, which does not impose a condition.
+/// tag. An unknown tag does not impose a condition.
 std::optional<Content> contentOf(const QString& tag);
 
 /// Returns whether the model contains the content of the tag. Always returns true for an unknown
 /// tag.
 bool hasContent(const QString& tag, const ModelQueries& model);
 
-/// Returns the bits of a record's `systemMask` for this kind of system: 0 if it matches no mask, 15
-/// if it matches every mask.
+/// Returns the bits of a record's `systemMask` for this kind of system. Returns 0 if the kind
+/// matches no mask, and 15 if it matches every mask.
 int systemBit(int kind);
 
 /// Returns whether a tree on this kind of page offers the plot. The result depends on the kind of
