@@ -8,13 +8,13 @@
 
 namespace plib {
 
-/// Copied parameters that can be applied to a row: some of the words of a record. Words that are
-/// not included do not change in the row.
+/// Copied parameters that can be applied to a row. A patch contains some or all words of a record;
+/// the other words of the row do not change.
 class RowPatch
 {
 public:
     RowPatch() = default;
-    /// Includes all parameters of a record.
+    /// Creates a patch with all parameters of a record.
     explicit RowPatch(const tagZOB_QUAD_RIM& record);
 
     int line = 0;   ///< line of the table, starting at 1; for messages

@@ -13,8 +13,8 @@ struct TableText
     Q_DECLARE_TR_FUNCTIONS(RowTable)
 };
 
-/// Returns the record with the copied parameters. Distances that do not exist in this kind of
-/// system are not applied, because they would not be stored.
+/// Returns the record with the copied parameters. Distances are not applied if this kind of system
+/// has none, because they would not be stored.
 tagZOB_QUAD_RIM patched(tagZOB_QUAD_RIM record, const RowPatch& copied, int kindOfSystem)
 {
     copied.applyTo(record);

@@ -13,7 +13,7 @@
 namespace plib {
 
 namespace {
-/// A text in both languages, in UTF-8. Both versions are in one place because a table that was
+/// A string in both languages, in UTF-8. Both versions are in one place, because a table that was
 /// copied in one language can be pasted in the other.
 struct Words
 {
@@ -37,15 +37,15 @@ constexpr Words Types[] = {
 constexpr Words NoGroups{"Keine", "None"};
 constexpr Words RemainingGroups{"Übrige Gruppen", "Remaining Groups"};
 
-/// In the order of SixFields.
+/// The names of the six places, in the order of SixFields.
 constexpr Words Places[] = {
     {"oben Hauptbewehrung", "upper principal"}, {"oben Querbewehrung", "upper cross"},
     {"oben dritte Lage", "upper third layer"},  {"unten Hauptbewehrung", "lower principal"},
     {"unten Querbewehrung", "lower cross"},     {"unten dritte Lage", "lower third layer"},
 };
 
-/// The symbols are the same as in the dialog: the distance of each further layer is measured from
-/// the previous layer.
+/// The symbols are the same as in the dialog: DH and DDH are the distances of a layer from the
+/// previous layer.
 constexpr Words DistanceNames[] = {
     {"Abstand H", "Distance H"},
     {"Abstand DH", "Distance DH"},

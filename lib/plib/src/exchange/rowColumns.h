@@ -8,14 +8,14 @@
 
 namespace plib {
 
-/// A column of the table that is used to copy rows to spreadsheets and files. It contains the
-/// groups, the type or a single value.
+/// A column of the table in which rows are copied to spreadsheets and files. The column contains
+/// the groups, the type or a single value.
 struct RowColumn
 {
     enum Kind { Groups, Type, Value };
     Kind kind;
     RealField field;  ///< null unless the column contains a value
-    QString heads[2]; ///< header in German and English, with the unit of a value
+    QString heads[2]; ///< header in German and English; includes the unit of a value
 };
 
 /// Returns all columns in the order in which they are written.
@@ -27,12 +27,12 @@ const RowColumn* columnWithHead(const QString& head);
 
 QString headOf(const RowColumn& column, vkd::Language language);
 
-/// Convert a design type to its name, and a name in any language or a number to the type. The
-/// second function returns -1 if there is no such type.
+/// typeName() converts a design type to its name. typeOfText() converts a name in any language or a
+/// number to the type, and returns -1 if there is no such type.
 QString typeName(int type, vkd::Language language);
 int typeOfText(const QString& text);
 
-/// Return whether a text, in any language, stands for "no groups" or for the remaining groups.
+/// Return whether a string, in any language, denotes "no groups" or the remaining groups.
 bool isNoGroupsText(const QString& text);
 bool isRemainingGroupsText(const QString& text);
 

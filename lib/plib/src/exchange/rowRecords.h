@@ -7,13 +7,13 @@
 
 namespace plib {
 
-/// The MIME type of clipboard data that contains all parameters of rows exactly.
+/// The MIME type of clipboard data that contains all parameters of rows without rounding.
 constexpr char RowRecordsType[] = "application/x-vkd-design-parameter-rows";
 
 /// Returns the parameters of rows as clipboard data.
 QByteArray bytesOfRows(const DesignRowList& rows);
 
-/// Reads clipboard data, which may come from any program. Returns no rows if it is malformed.
+/// Reads clipboard data, which may come from any program. Returns no rows if the data is malformed.
 std::vector<RowPatch> rowsOfBytes(const QByteArray& bytes);
 
 } // namespace plib

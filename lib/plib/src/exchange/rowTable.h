@@ -7,11 +7,11 @@
 
 namespace plib {
 
-/// Functions for rows as a table for spreadsheets: one line with column headers and one line per
-/// row. Each value has its own column, whose header contains the unit, so that each cell contains
-/// only a number. Text and numbers are in the desktop language.
+/// Functions that convert rows to a table for spreadsheets and back. The table has one line with
+/// column headers and one line per row. Each value has its own column, whose header contains the
+/// unit, so that each cell contains only a number. Text and numbers are in the desktop language.
 
-/// Returns the table as text. The separator is a tab for the clipboard. In files, it is a comma or,
+/// Returns the table as text. The separator is a tab on the clipboard. In files, it is a comma or,
 /// in languages with a decimal comma, a semicolon.
 QString rowTableText(const DesignRowList& rows, QChar separator);
 QChar separatorOfFiles();
@@ -19,7 +19,8 @@ QChar separatorOfFiles();
 /// Returns the same table as an HTML document.
 QString rowTableHtml(const DesignRowList& rows);
 
-/// Returns a line "header: before -> after" for each cell that differs, except for the groups.
+/// Returns a line "header: before -> after" for each cell that differs. Does not compare the
+/// groups.
 QStringList differentCells(const DesignParameterRow& before, const DesignParameterRow& after);
 
 /// The rows of a table that was read. If there are any faults, the table must not be used.
@@ -30,16 +31,16 @@ struct RowTable
     QStringList faults;     ///< one line per invalid cell, with its row and column
 };
 
-/// Reads a table whose headers may be in any language and order. Columns may be missing. Decimal
-/// separators are points or commas, and an empty cell means "not set" for a value. Empty lines and
-/// columns are ignored.
+/// Reads a table whose headers may be in any language and order. Columns may be missing. The
+/// decimal separator may be a point or a comma. An empty cell in a value column means "not set".
+/// Empty lines and columns are ignored.
 RowTable readRowTable(const QString& text);
 
-/// Returns whether the first line of a text contains a column header.
+/// Returns whether the first line of the text contains a column header.
 bool looksLikeRowTable(const QString& text);
 
-/// Returns an error message for the row of a table if a minimum reinforcement in the record is
-/// above its maximum, otherwise an empty string.
+/// Returns an error message for a row of the table if a minimum reinforcement in the record is
+/// greater than its maximum, otherwise an empty string.
 QString limitFault(const tagZOB_QUAD_RIM& record, int line);
 
 } // namespace plib

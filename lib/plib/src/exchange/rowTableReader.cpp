@@ -1,4 +1,4 @@
-// Reading rows from a table.
+// Reads rows from a table.
 
 #include "exchange/rowColumns.h"
 #include "exchange/rowTable.h"
@@ -92,7 +92,7 @@ private:
             const QString head = m_heads.value(i);
             const RowColumn* column = columnAt(i);
             if (!column && !head.isEmpty())
-                continue; // its header was rejected
+                continue; // the header was rejected
             const QString cell = cells.value(i);
             const QString reason =
                 column ? readCell(cell, *column, &row) : refusedWithoutHead(cell);

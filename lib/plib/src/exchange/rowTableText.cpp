@@ -1,4 +1,4 @@
-// Writing rows as a table.
+// Writes rows as a table.
 
 #include "exchange/rowColumns.h"
 #include "exchange/rowTable.h"

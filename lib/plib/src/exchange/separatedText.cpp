@@ -12,7 +12,7 @@ bool isLineEnd(QChar character)
     return character == QLatin1Char('\n') || character == QLatin1Char('\r');
 }
 
-/// Reads the cells of a text from beginning to end.
+/// Reads the cells of a table one by one.
 class CellReader
 {
 public:

@@ -6,8 +6,9 @@
 
 namespace plib {
 
-/// Functions for a table as text with one line per row. Cells are separated by tabs, semicolons or
-/// commas and are quoted if necessary. Spreadsheets copy and save tables in this format.
+/// Functions for tables in text form with one line per row. Cells are separated by tabs, semicolons
+/// or commas, and are quoted if necessary. Spreadsheet programs use this format for the clipboard
+/// and for files.
 
 /// Returns the character that separates the cells of the first line: a tab, a semicolon or a comma.
 /// If the line contains none of these characters, returns a tab.
