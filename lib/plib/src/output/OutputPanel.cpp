@@ -16,8 +16,8 @@
 namespace plib {
 
 namespace {
-/// Returns "0" for scale to fit, "-" for the row "Auto", otherwise the text of the row. Therefore
-/// the list row is saved only with an engineering scale; reading "0" does not change it.
+/// Returns "0" for scale to fit, "-" for the row "Auto", otherwise the text of the row. The row of
+/// the list is therefore saved only for an engineering scale; reading "0" does not change the row.
 QString scaleValue(const OutputSettings& settings)
 {
     if (settings.scaleMode != ScaleMode::Engineering)
@@ -78,7 +78,7 @@ QGridLayout* OutputPanel::layOutStrip()
     return strip;
 }
 
-/// Returns only the buttons, because the list of scales is reached from the button of its entry.
+/// Returns the tab stops of the scale. The list of scales follows the button to which it belongs.
 QList<QWidget*> OutputPanel::scaleStops() const
 {
     const VKD_QT_RadioButtonGroup* group = m_data.scaleGroup;

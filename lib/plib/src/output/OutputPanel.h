@@ -21,10 +21,10 @@ namespace plib {
 
 class SavedPage;
 
-/// The settings of an output page. This class contains the scale and the font, which are common to
-/// all pages. A subclass adds the widgets of one kind of page, so that no other code has to check
-/// whether they exist. Pointers to the widgets are stored in the data of the page; their parents
-/// own them. Panels do not emit signals; the page connects the buttons.
+/// The settings of an output page. This class contains the scale and the font, which all pages
+/// have. Subclasses add the widgets of one kind of page, so that no other code has to check whether
+/// these widgets exist. Pointers to the widgets are stored in the data of the page; the widgets are
+/// owned by their parents. Panels do not emit signals; the page connects the buttons.
 class OutputPanel
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_P_WidgetGraphicalOutput)
@@ -34,8 +34,8 @@ public:
 
     /// Creates the widgets as descendants of `box`, with the settings of a new page.
     virtual void build(QWidget* box) = 0;
-    /// Lays out the settings strip, and places the view buttons at the top of `right`. The tree of
-    /// the page must already exist.
+    /// Creates the layout of the settings strip, and places the view buttons at the top of `right`.
+    /// The tree of the page must already exist.
     virtual void layOut(QBoxLayout* right) = 0;
 
     /// Returns the view buttons in the order of OutputView. A page may have none.
@@ -47,10 +47,10 @@ public:
 
     /// Restores the settings of a new page, except for the current rows of lists.
     virtual void reset();
-    /// Sets the number of pictures to match the format that the user has selected.
+    /// Sets the number of pictures to the default for the format that the user has selected.
     virtual void followFormat() {}
 
-    /// Returns the settings. Settings that are not on the page have their default values.
+    /// Returns the settings. Settings for which the page has no widgets have their default values.
     virtual OutputSettings settings() const;
     /// Returns the settings as tagged strings for the saved string.
     virtual QString savedParts() const;

@@ -7,8 +7,8 @@
 
 namespace plib {
 
-// The choices in the radio groups of a page. The values are the indexes of the entries, which are
-// used in the saved string and in command line arguments.
+// The choices in the radio groups of a page. The values are the indexes of the entries; the saved
+// string and command line arguments contain these indexes.
 enum class ScaleMode : int { Engineering, ToFit };
 enum class PageFormat : int { Portrait, Landscape };
 enum class PagePictures : int { One, Two };
@@ -17,7 +17,7 @@ enum class OutputView : int { PlaneXY, PlaneXZ, PlaneYZ, Standard3D, UserDefined
 /// The index of the row "Auto" in the scale list.
 constexpr int AutoScaleRow = 0;
 
-/// The settings of a graphical output page that the script depends on. A page creates a new object
+/// The settings of a graphical output page on which the script depends. A page creates a new object
 /// for each script. The default values are the settings of a new page.
 struct OutputSettings
 {
@@ -25,13 +25,13 @@ struct OutputSettings
     ScaleMode scaleMode = ScaleMode::ToFit;
     int scaleIndex = AutoScaleRow; ///< row of the scale list
     QString scaleText;             ///< text of that row, such as "1:100"
-    int pageSplitId = 0;           ///< division of the sheet, 0 to 5; split variant only
+    int pageSplitId = 0;           ///< division of the sheet, 0 to 5; only in the split variant
     bool hasFormat = true;         ///< false in the split variant, which has no choice of format
     PageFormat formatId = PageFormat::Portrait;
-    PagePictures picturesId = PagePictures::Two; ///< pictures on a page
+    PagePictures picturesId = PagePictures::Two; ///< number of pictures on a page
     OutputView viewId = OutputView::Standard3D;
     QString fontSizeText = QStringLiteral("2"); ///< in millimetres, as typed
-    bool fillAreas = false;                     ///< iso areas are filled
+    bool fillAreas = false;                     ///< whether iso areas are filled
 };
 
 /// Returns the rows of the scale list except for the first row, "Auto", which is translated.
@@ -39,10 +39,10 @@ QStringList engineeringScales();
 /// Returns all rows of the scale list.
 QStringList scaleRows();
 
-/// Selects a row of the scale list and the engineering scale, as a click on this row does.
+/// Selects a row of the scale list and the engineering scale, like a click on this row.
 void chooseScale(int row, OutputSettings* settings);
 
-/// Returns the number of pictures that a format selects: one for a landscape sheet, two for a
+/// Returns the default number of pictures for a format: one for a landscape sheet, two for a
 /// portrait sheet.
 PagePictures picturesForFormat(PageFormat format);
 void chooseFormat(PageFormat format, OutputSettings* settings);

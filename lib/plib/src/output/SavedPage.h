@@ -7,13 +7,13 @@
 namespace plib {
 
 /// Reads the saved string of an output page: single values by their tags, or all settings. The
-/// string may come from another kind of page. Therefore callers check whether it contains a tag
-/// before they change the widget.
+/// string may come from another kind of page, so callers check whether it contains a tag before
+/// they change the widget for that tag.
 class SavedPage
 {
 public:
-    /// `present` contains the settings that remain in effect if their tags are missing or their
-    /// values are invalid.
+    /// `present` contains the current settings. They remain in effect if their tags are missing or
+    /// the saved values are invalid.
     SavedPage(const QString& xml, const OutputSettings& present)
         : m_xml(xml)
         , m_settings(present)
@@ -32,7 +32,7 @@ private:
     OutputSettings m_settings;
 };
 
-/// Returns a tagged string for the saved string.
+/// Returns a value as a tagged string, which is a part of the saved string.
 inline QString savedPart(const char* tag, const QString& value)
 {
     return vkd_qt_writeXMLpart(value, QLatin1String(tag));

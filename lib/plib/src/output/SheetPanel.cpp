@@ -117,7 +117,7 @@ void SheetPanel::reset()
     followFormat();
 }
 
-/// Landscape sheets always have one picture, so the choice is disabled.
+/// Landscape sheets always have one picture, so the choice of the number is disabled for them.
 void SheetPanel::followFormat()
 {
     const auto format = PageFormat(m_data.formatGroup->selectedButton());

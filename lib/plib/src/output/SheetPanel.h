@@ -4,8 +4,8 @@
 
 namespace plib {
 
-/// The panel of all pages except the split page. It contains the format and the number of pictures
-/// of the sheet, the iso areas and, next to the tree, the views.
+/// The panel of all pages except the split page. It contains widgets for the format of the sheet,
+/// the number of pictures, the filling of iso areas and, next to the tree, the views.
 class SheetPanel : public OutputPanel
 {
     Q_DECLARE_TR_FUNCTIONS(VKD_P_WidgetGraphicalOutput)

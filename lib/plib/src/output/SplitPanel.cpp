@@ -40,7 +40,7 @@ void SplitPanel::buildPageSplit()
     layout->addStretch(1);
 }
 
-/// There are no views to the right of the tree, so the tree is wider.
+/// Makes the tree wider, because there are no view buttons to its right.
 void SplitPanel::layOut(QBoxLayout*)
 {
     layOutStrip()->addWidget(m_data.pageSplitBox, 0, 2, 2, 1);

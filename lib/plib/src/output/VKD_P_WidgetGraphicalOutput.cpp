@@ -33,7 +33,7 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
         connectAnimator();
     connect(data->defaultButton, &QPushButton::clicked, this,
             &VKD_P_WidgetGraphicalOutput::slotDefaultSettings);
-    for (QRadioButton* format : data->panel->formatButtons()) // on each click, even if checked
+    for (QRadioButton* format : data->panel->formatButtons()) // even a click on the checked button
         connect(format, &QRadioButton::clicked, this, &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
     findDialogs();
 }
@@ -105,7 +105,7 @@ void VKD_P_WidgetGraphicalOutput::placeAnimator(QBoxLayout* layout)
     layout->addWidget(data->animator, 1);
 }
 
-/// Finds the nearest ancestor of each dialog type, up to the first tab dialog.
+/// Finds the nearest ancestor of each type of dialog. The search ends at the first tab dialog.
 void VKD_P_WidgetGraphicalOutput::findDialogs()
 {
     for (QWidget* ancestor = parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {

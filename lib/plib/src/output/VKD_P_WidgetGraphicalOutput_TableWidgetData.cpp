@@ -11,7 +11,7 @@
 
 using TableWidgetData = VKD_P_WidgetGraphicalOutput_TableWidgetData;
 
-/// The pointers are reset to null when the page or the table is destroyed.
+/// The pointers become null when the page or the table is destroyed.
 struct TableWidgetDataRecord
 {
     QPointer<VKD_H_TableWidget> table;

@@ -18,8 +18,8 @@ class VKD_QT_CheckBox;
 class VKD_QT_GroupBox;
 class VKD_QT_RadioButtonGroup;
 
-/// The private data of a graphical output page. Widgets are owned by their parents. A widget that
-/// this kind of page does not have is null; only the panel uses such widgets.
+/// The private data of a graphical output page. Widgets are owned by their parents. Pointers to
+/// widgets that this kind of page does not have are null; only the panel uses these pointers.
 struct WidgetGraphicalOutputData
 {
     VKD_H_PluginParameter* pluginParameter = nullptr;
@@ -37,12 +37,12 @@ struct WidgetGraphicalOutputData
     QPointer<AnimatorView> animator;
     QWidget* attribs = nullptr;
     bool firstShow = true;
-    bool reservedA = true; ///< never read, like reservedB
+    bool reservedA = true; ///< neither this field nor reservedB is ever read
     bool reservedB = false;
     VKD_H_TabDialog* tabDialog = nullptr;
     VKD_H_Dialog* dialog = nullptr;
     VKD_P_WidgetGraphicalOutput_Progname progname = VKD_P_GraphicalOutput_Standard;
     QPointer<QWidget> animatorHome; ///< former parent of the animator
     bool animatorHadHome = false;
-    std::unique_ptr<plib::OutputPanel> panel; ///< settings of this kind of page
+    std::unique_ptr<plib::OutputPanel> panel; ///< widgets for the settings of this kind of page
 };

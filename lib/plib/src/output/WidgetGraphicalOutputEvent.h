@@ -3,7 +3,7 @@
 #include <QEvent>
 
 /// A page posts this event to itself when its tab is first shown, so that the view command runs
-/// after the dialog is laid out.
+/// after the dialog has been laid out.
 class WidgetGraphicalOutputEvent : public QEvent
 {
 public:

@@ -9,7 +9,7 @@ namespace plib {
 StructLineEdit fontSizeField();
 
 /// Converts a font size typed by the user to the format that the page stores: "2,5" becomes "2.5".
-/// Returns a null string if the field would reject the text.
+/// Returns a null string if the field would refuse the input.
 QString fontSizeText(const QString& typed);
 
 } // namespace plib

@@ -23,7 +23,7 @@ QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
     return xml + savedPart(savedtag::Plots, data->tree->selectionText());
 }
 
-/// Widgets whose tags are missing do not change.
+/// Does not change widgets whose tags are missing.
 void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
 {
     if (xml.isEmpty())

@@ -25,13 +25,13 @@ void VKD_P_WidgetGraphicalOutput::connectAnimator()
     AnimatorView* animator = data->animator;
     connect(this, &Page::signalBeobXY, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
-    // The signal for X/Z is not connected, and this signal is connected twice. This is intentional
-    // and has no effect, because the page emits only the first signal.
+    // This signal is intentionally connected twice, and the signal for X/Z is not connected. This
+    // has no effect, because the page emits only the signal for X/Y.
     connect(this, &Page::signalBeobYZ, animator, &AnimatorView::slotViewControl);
     connect(this, &Page::signalBeob3D, animator, &AnimatorView::slotViewControl);
 }
 
-/// All commands are sent with the first signal, regardless of the plane.
+/// Sends all commands through the signal for X/Y, regardless of the plane.
 void VKD_P_WidgetGraphicalOutput::showFixedView(AnimatorViewControl control, bool on)
 {
     if (!data->animator || !on)
@@ -61,8 +61,8 @@ void VKD_P_WidgetGraphicalOutput::slotBeob3D(bool on)
     showFixedView(AnimatorStandardView, on);
 }
 
-/// Stores the camera when the user-defined view is unchecked. The animator is not disabled here,
-/// because the slot of the next view does so if necessary.
+/// Stores the camera when the user-defined view is unchecked. Does not disable the animator,
+/// because the slot of the next view does this if necessary.
 void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
 {
     if (!data->animator)
@@ -76,7 +76,7 @@ void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
 /// new page must be sent when its tab is shown for the first time.
 void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* page)
 {
-    const QWidget* ancestor = this; // crosses windows, unlike isAncestorOf()
+    const QWidget* ancestor = this; // unlike isAncestorOf(), this loop crosses windows
     while (ancestor && ancestor != page)
         ancestor = ancestor->parentWidget();
     if (!data->firstShow || !ancestor)

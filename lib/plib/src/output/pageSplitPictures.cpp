@@ -11,7 +11,7 @@ constexpr QRgb Line = 0xff0000ff;
 constexpr QRgb Shadow = 0xff000080;
 constexpr QRgb Paper = 0xffffffff;
 
-/// The outermost pixel columns and rows, starting at 0.
+/// The outermost pixel columns and rows of a sheet, starting at 0.
 struct Sheet
 {
     int left, right, top, bottom;

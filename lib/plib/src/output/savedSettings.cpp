@@ -17,7 +17,8 @@ void applyScale(const QString& value, OutputSettings* settings)
         chooseScale(row, settings);
 }
 
-/// Returns whether the tag exists. A value that is not a number is read as 0.
+/// Applies a saved choice if it is valid, and returns whether the tag exists. A value that is not a
+/// number is read as 0.
 template <typename Choice>
 bool applyChoice(const QString& value, Choice last, Choice* choice)
 {
