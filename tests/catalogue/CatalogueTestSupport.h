@@ -27,7 +27,8 @@ private:
 
 Records parse(const QByteArray& catalogue);
 
-/// Returns a catalogue line with these last columns and with typical values in all other columns.
+/// Returns a catalogue line with the given last columns and with typical values in all other
+/// columns.
 QByteArray line(const char* titles, const char* caseWord, int preselect = 0, int viewKind = 0,
                 const char* german = "g", const char* english = "e");
 

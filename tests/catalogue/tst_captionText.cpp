@@ -5,7 +5,7 @@
 #include <vkd_lib_text.h>
 #include <vkd_lib_value.h>
 
-/// Each text contains its own token, so that a caption shows of which tokens it consists.
+/// Each message contains its own token, so that a caption shows the tokens of which it consists.
 static QByteArray allTokens()
 {
     QByteArray file =
@@ -43,11 +43,11 @@ private Q_SLOTS:
         row("&GTX", " long>more");
         row("^GTX", " a>b");            // has no short form
         row("&GT0", " >front");         // ">" at the beginning is not a separator
-        row("&BLK", "   ");             // spaces are a valid text
-        row("&XXX", "");                // a token without a text: empty, not null
-        row("1 A&ABC", "25Ce  Base I"); // two spaces after a prepended text
+        row("&BLK", "   ");             // a message may consist of spaces
+        row("&XXX", "");                // a token without a message is empty, not null
+        row("1 A&ABC", "25Ce  Base I"); // two spaces after a prepended message
         row(" - &ABC", " Base");
-        row("1 -&XXX", " I"); // the suffix is added even without a base text
+        row("1 -&XXX", " I"); // the suffix is added even without a base message
         row("Oh1&ABC", " Base 19Oe 7ZHe");
         row("X2R^ABC", "27Qe  Base one 0ZGe X 143e 2"); // third, base, first, second
         QTest::newRow("identifier") << QStringLiteral("@ND1 Nodes") << QString();
@@ -69,7 +69,7 @@ private Q_SLOTS:
             QVERIFY(plib::captionText(field).contains(QLatin1String("Grund")));
     }
 
-    /// The texts that each qualifier adds at the three positions.
+    /// The messages that each qualifier adds at the three positions.
     void qualifiers()
     {
         const testsupport::Texts texts(allTokens());

@@ -48,7 +48,7 @@ private Q_SLOTS:
             QVERIFY2(plib::hasContent(tag, yes), qPrintable(tag));
             for (const QString& same : {tag, tag.toUpper(), tag.toLower()})
                 QVERIFY(!plib::hasContent(same, no));
-            QVERIFY(plib::hasContent(tag + QLatin1Char('s'), no)); // an unknown tag is no condition
+            QVERIFY(plib::hasContent(tag + QLatin1Char('s'), no)); // unknown tags are ignored
         }
     }
 
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(bits(-9, 9), QString(19, QLatin1Char('8')));
         QCOMPARE(bits(10, 19), QStringLiteral("1122112222"));
         QCOMPARE(bits(20, 39), QStringLiteral("88888888884444444444"));
-        QCOMPARE(bits(40, 49), QString(10, QLatin1Char('0'))); // match no mask
+        QCOMPARE(bits(40, 49), QString(10, QLatin1Char('0'))); // do not match any mask
         QCOMPARE(bits(50, 60), QString(11, QLatin1Char('f'))); // match any mask
         QCOMPARE(bits(-20, -10), QString(11, QLatin1Char('f')));
     }

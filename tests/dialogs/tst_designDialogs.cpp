@@ -168,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }
 
-    /// The fields of the wrong pair are marked, and the first field of the pair gets the focus.
+    /// The fields of the invalid pair are marked, and the first field of the pair gets the focus.
     void limitsAreCheckedOneByOne()
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);

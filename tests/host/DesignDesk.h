@@ -8,7 +8,7 @@
 #include <QComboBox>
 #include <QTableWidget>
 
-/// The design page in a host's dialog, with functions that use its widgets like a user.
+/// The design page in a host's dialog, with functions that operate its widgets as a user would.
 class DesignDesk : public VKD_QT_Dialog
 {
 public:
@@ -32,8 +32,8 @@ public:
     VKD_P_DesignParameter* const page;
 };
 
-/// Returns a record with the default parameters but for the type and the minimum reinforcement of
-/// the upper side, in cm²/m.
+/// Returns a record with the default parameters except for the type and the minimum reinforcement
+/// of the upper side, in cm²/m.
 tagZOB_QUAD_RIM record(int group, int type, float minimum);
 
 /// Enters groups in the next group dialog and presses OK.

@@ -104,7 +104,7 @@ private Q_SLOTS:
         };
         QCOMPARE(select(0, 2), QStringLiteral("0,2"));
         QCOMPARE(select(1, 0), QStringLiteral("1,0"));
-        QCOMPARE(desk.table()->item(1, 0)->text(), QString()); // the combo box shows it
+        QCOMPARE(desk.table()->item(1, 0)->text(), QString()); // the combo box shows the text
         QCOMPARE(select(1, 3), QStringLiteral("1,3"));
         QCOMPARE(desk.table()->item(1, 0)->text(), QStringLiteral("1"));
         QCOMPARE(select(0, 0), QStringLiteral("1,3")); // the editor stays open

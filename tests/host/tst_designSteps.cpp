@@ -17,7 +17,7 @@ QByteArray bytesOf(const std::vector<tagZOB_QUAD_RIM>& records)
             int(records.size() * sizeof records.front())};
 }
 
-/// Returns the rows with their tool tips, and the selected cells and the current one.
+/// Returns the rows with their tool tips, and the selected and current cells.
 QString stateOf(const DesignDesk& desk)
 {
     const QTableWidget* table = desk.table();
@@ -90,7 +90,7 @@ private Q_SLOTS:
             step.run();
             QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
                      QLatin1String("&Undo ") + QLatin1String(step.name));
-            table->setCurrentCell(-1, -1); // and so closes the editor
+            table->setCurrentCell(-1, -1); // closes the editor
             table->setCurrentCell(0, 0);
             after << state();
         }

@@ -68,7 +68,7 @@ private Q_SLOTS:
         Desk desk(m_project);
         QCOMPARE(desk.page.objectName(), QStringLiteral("Widget_GraphOut"));
         QVERIFY(desk.page.checkVals());
-        QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), -1); // no animator
+        QCOMPARE(desk.group("PerspectiveGroup")->selectedButton(), -1); // there is no animator
         QCOMPARE(desk.page.getTORVAL_BEOB(true), QStringLiteral("TYPE EG3"));
         QVERIFY(desk.find<QCheckBox>("Check: Filled Isolines")->isEnabled());
         QCOMPARE(desk.page.getTORVAL_SCHR(false), QStringLiteral("SCHR H6 0.2"));

@@ -13,7 +13,7 @@
 namespace {
 constexpr int LanguageKey = 102;
 
-/// Returns the output of this program when it runs as a separate host, see main().
+/// Returns the output of this program when it runs as a separate host (see main()).
 QString host(const QStringList& arguments)
 {
     QProcess process;

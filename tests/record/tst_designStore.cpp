@@ -154,7 +154,7 @@ private Q_SLOTS:
         QCOMPARE(read().rows[0].record.hioq, 0.045F - 0.035F);
     }
 
-    /// A reader sees either all rows of a writer or no row, because the project is locked once for
+    /// A reader sees either all rows of a writer or none, because the project is locked once for
     /// all writes.
     void writingTakesTheProject()
     {
@@ -239,7 +239,7 @@ private:
         plib::writeRowsToZob(rows, converted);
     }
 
-    /// Returns the records stored under a key pair, by default the design records.
+    /// Returns the records with this key pair, by default the design records.
     QString stored() { return stored(m_project->index(), 200, 6); }
     QString stored(int index, int key1, int key2)
     {

@@ -156,7 +156,7 @@ private Q_SLOTS:
         plib::DesignParameterRow row{&bars, plib::getDefaultMerPara(true), {}};
         row.record.rio = -99999.0F;
         row.record.riu = -0.0001F;
-        row.record.dio = 11.5F; // is not in the bar table
+        row.record.dio = 11.5F; // not in the bar table
         row.record.diu = -99999.0F;
         QCOMPARE(plib::rowText(row, 2),
                  QStringLiteral(" -  ;0,0°\n35,0 mm ;35,0 mm ;45,0 mm ;45,0 mm ;"));

@@ -1,4 +1,4 @@
-#undef _FORTIFY_SOURCE // it would define some of the replaced functions inline
+#undef _FORTIFY_SOURCE // because it would define some of the replaced functions inline
 
 #include "FaultyDisk.h"
 
@@ -45,7 +45,7 @@ struct File
     QByteArray synced;
     std::vector<Change> changes; // changes since the last sync
 
-    /// Returns the content after the first changes, the last of which is torn.
+    /// Returns the content after the first `count` changes, the last of which is torn.
     QByteArray contentAfter(size_t count) const
     {
         QByteArray content = synced;
@@ -80,7 +80,7 @@ struct Disk
     std::chrono::milliseconds readTime{0};
 };
 std::unique_ptr<Disk> disk;
-std::recursive_mutex mutex; // the store checks a file in its own thread
+std::recursive_mutex mutex; // the store checks a file in a separate thread
 
 /// Returns the name of a file in the folder, "." for the folder itself, or an empty name for any
 /// other file.
@@ -248,7 +248,7 @@ void FaultyDisk::restart()
 
 } // namespace testsupport
 
-// Qt and SQLite also use the definitions in the program.
+// Qt and SQLite also use the following definitions, because the program exports them.
 using namespace testsupport;
 
 #pragma GCC visibility push(default)

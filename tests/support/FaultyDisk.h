@@ -17,7 +17,7 @@ public:
     enum class Fault {
         Once,     ///< the call fails with EIO
         ForGood,  ///< the call and all later calls fail with EIO
-        Full,     ///< from this call on, creating and writing fail with ENOSPC
+        Full,     ///< starting with this call, creating and writing fail with ENOSPC
         PowerCut, ///< the power is cut before the call
         TornCut,  ///< like PowerCut, but random parts of the unsynced changes are stored
         None

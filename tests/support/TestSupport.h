@@ -11,12 +11,13 @@
 namespace testsupport {
 
 /// The longest time in milliseconds that a test waits for something that must happen. It is long
-/// enough for sanitizers on a slow and busy machine; only failures take as long.
+/// enough for sanitizers on a slow and busy machine; only failures take that long.
 constexpr int Patience = 60000;
 
 int run(QObject* test, int argc, char* argv[]);
 
-/// Write or read a whole file that belongs to the test. Terminate the process if this fails.
+/// These functions write or read a whole file that belongs to the test. They terminate the process
+/// on failure.
 void writeFile(const QString& path, const QByteArray& bytes);
 QByteArray readFile(const QString& path);
 

@@ -35,7 +35,8 @@ void setFiles(const QString& folder, const Files& files)
 class Walk
 {
     // Defined before it is used, because its return type is deduced.
-    /// Makes calling the function faster, because no data is really synced.
+    /// Calls the function on a simulated disk without faults, which is faster because no data is
+    /// really synced.
     template <typename Function>
     auto onSoundDisk(const Function& function) const
     {

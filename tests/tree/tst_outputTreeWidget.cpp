@@ -26,8 +26,8 @@ using Tree = GraphicalOutputTreeWidget;
 namespace {
 constexpr int StandardPage = 1;
 
-/// Prevents all files from being opened, even by a privileged user, until a text is translated. At
-/// this point the failure is being reported, and message boxes and sanitizers need files.
+/// Prevents all files from being opened, even by a privileged user, until a message is translated.
+/// At that point, the failure is being reported, and message boxes and sanitizers need files.
 class NoMoreFiles : public QTranslator
 {
 public:

@@ -1,6 +1,6 @@
-// A desktop that uses the library only through a plug-in, which it unloads and loads again:
-// unloadingHost PLUGIN WHAT. It links only Qt, so that it does not keep other libraries loaded. A
-// crash counts as a failure, even when the process ends.
+// A desktop that uses the library only through a plug-in, which it unloads and loads again. Usage:
+// unloadingHost PLUGIN WHAT. The program is linked only to Qt, so that it does not keep other
+// libraries loaded. A crash counts as a failure, even at the end of the process.
 
 #include <QApplication>
 #include <QFile>
@@ -61,7 +61,7 @@ void call(QLibrary& library, const char* function, const QByteArray& what, Resul
     reinterpret_cast<Function>(library.resolve(function))(what, result);
 }
 
-/// The texts returned by the plug-in stay valid.
+/// Returns the texts of the plug-in, which remain valid after unloading.
 QStringList showAndUnload(const QString& path, const QByteArray& what)
 {
     QLibrary library(path);

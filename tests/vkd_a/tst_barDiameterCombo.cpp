@@ -16,7 +16,8 @@ class TestBarDiameterCombo : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Tests that the combo box offers the bars of a project and not the standard bars.
+    /// Stores bars that differ from the common bars, so that a test fails if the combo box offers
+    /// the wrong bars.
     void init()
     {
         setLanguage(English);

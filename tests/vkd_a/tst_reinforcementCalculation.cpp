@@ -169,7 +169,7 @@ private Q_SLOTS:
         const float value = calculate(5.0F, 10.0F, [](const Parts& parts) {
             for (const char* text : {"0", "", "9.9", "1.2.3", "-5", "."}) {
                 parts.type(parts.spacing, "150");
-                QTest::keyClick(parts.spacing, Qt::Key_Tab); // each refused text restores the value
+                QTest::keyClick(parts.spacing, Qt::Key_Tab); // restores the value
                 QVERIFY(parts.ok()->isEnabled());
                 QCOMPARE(parts.text("note"), QString());
                 parts.type(parts.spacing, text);

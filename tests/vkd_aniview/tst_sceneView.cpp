@@ -12,7 +12,7 @@ using vkd::dbo::Model;
 Q_DECLARE_METATYPE(Position)
 
 namespace {
-constexpr double Tolerance = 1e-3; // pixels, from single precision
+constexpr double Tolerance = 1e-3; // pixels, due to single precision
 constexpr int None = GroupMarks::NoGroup;
 
 bool isClose(const Position& a, const Position& b)
@@ -25,8 +25,8 @@ bool isClose(const QPointF& a, const QPointF& b)
     return QLineF(a, b).length() < Tolerance;
 }
 
-/// Nodes 1 to 4 are the square from (0, 0) to (4, 4) at z = 0, and nodes 5 to 8 are the same square
-/// at z = 3.
+/// Nodes 1 to 4 form the square from (0, 0) to (4, 4) at z = 0, and nodes 5 to 8 form the same
+/// square at z = 3.
 Model squares()
 {
     Model model;
@@ -205,7 +205,7 @@ private Q_SLOTS:
 
     void frontmost_data()
     {
-        // at: the point of the picture at which this point appears
+        // at: a point of the model; the test picks the group at its projection
         const Columns<Position, Position, int> row("eye", "at", "group");
         const Position above{0, 0, 1};
         const Position below{0, 0, -1};
@@ -272,7 +272,7 @@ private Q_SLOTS:
             QVERIFY(!isStrong); // only the rim has strong outlines
             QVERIFY(!quick.geometry.lines.empty());
         }
-        view.zoom(20.0, {428, 328}); // few items are still visible
+        view.zoom(20.0, {428, 328}); // only a few items are still visible
         QCOMPARE(&view.quickPicture(10000).geometry, &view.geometry());
     }
 

@@ -33,7 +33,7 @@ private Q_SLOTS:
         QCOMPARE(m.sectionCuts.value(0).title, QStringLiteral("d"));
     }
 
-    /// File contents for writeFile().
+    /// Each case is a line for writeFile() and the expected error.
     void wrong()
     {
         const auto errorOf = [this](const QString& text) { return this->errorOf(text); };

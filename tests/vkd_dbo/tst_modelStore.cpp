@@ -14,7 +14,7 @@
 
 namespace vkd {
 namespace dbo {
-/// The fields that determine whether two things are equal.
+/// The fields that determine whether two items are equal.
 struct Fields
 {
     template <size_t N>

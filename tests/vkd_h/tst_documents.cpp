@@ -31,19 +31,19 @@ private Q_SLOTS:
         QVERIFY(document && again && document->path() == path);
         const int first = document->index(), second = again->index();
         QVERIFY(first > 0 && second > 0 && first != second);
-        for (int i = 0; i < 2; ++i) { // closing a document twice affects no document
+        for (int i = 0; i < 2; ++i) { // closing a document twice does not affect other documents
             QVERIFY(again->close().isOk());
             QCOMPARE(again->index(), -1);
         }
         QTest::ignoreMessage(QtWarningMsg, notOpen);
         QCOMPARE(put(second), int(VKD_ZOB_NOT_OPEN));
         QCOMPARE(put(first), int(VKD_ZOB_OK));
-        document.reset(); // closes
+        document.reset(); // closes the document
         QTest::ignoreMessage(QtWarningMsg, notOpen);
         QCOMPARE(put(first), int(VKD_ZOB_NOT_OPEN));
     }
 
-    /// The process does not crash and leaves no journal of an unfinished change.
+    /// The process does not crash or leave a journal of an unfinished change.
     void openAtEndOfProcess()
     {
         const QTemporaryDir folder;

@@ -9,7 +9,7 @@
 using namespace vkd::h;
 using Groups = std::vector<int>;
 
-/// "groups/unreadable/missing".
+/// Returns the result in the form "groups/unreadable/missing".
 static QString told(const GroupInput& input, const std::function<QString(int)>& name)
 {
     QStringList groups;

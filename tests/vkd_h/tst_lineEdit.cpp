@@ -35,7 +35,7 @@ void type(QLineEdit* edit, const char* text)
     QTest::keyClicks(edit, QLatin1String(text));
 }
 
-/// A dialog with two fields. Its own class does not check the fields.
+/// A dialog with two fields. The class of the dialog does not itself check the fields.
 struct Dialog
 {
     Dialog()
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QVERIFY(!dialog.isVisible());
     }
 
-    /// Neither Enter nor a change of focus turns a refused text into a value.
+    /// Neither Enter nor a focus change turns refused text into a value.
     void refusedText()
     {
         Dialog dialog;
@@ -183,7 +183,7 @@ private Q_SLOTS:
             QCOMPARE(dialog.first->getVal(), 0.03);
             QVERIFY(dialog.first->refusal().isEmpty());
         }
-        QCOMPARE(changed.count(), 5); // 7, 77, back; abc: no signal; empty, back
+        QCOMPARE(changed.count(), 5); // 7, 77, restored, empty, restored; none for abc
         QTest::keyClick(dialog.first, Qt::Key_Escape);
         QVERIFY(!dialog.box.isVisible());
         dialog.first->setVal(0.033333333);

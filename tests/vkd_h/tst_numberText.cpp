@@ -87,7 +87,7 @@ private Q_SLOTS:
             QVERIFY2(reader(code)(text) == wanted, qPrintable(text.left(20)));
     }
 
-    /// Reads texts with a description that the caller has filled in.
+    /// Parses strings with a description that the caller has filled in.
     void description()
     {
         const QString comma(QLatin1Char(',')), dash(QLatin1Char('-'));

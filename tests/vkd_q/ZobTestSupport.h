@@ -26,8 +26,8 @@ cd_error_t put(int index, int key1, int key2, const QByteArray& record, int posi
 /// Reads the sequence keyed by 1 and `key2`, and returns the status that ended it.
 Records readAll(int index, int key2 = 1, cd_error_t* end = nullptr);
 int openProject(const QString& path);
-/// Create a project with these records, keyed by 1, 1, or read the records. The project is closed
-/// before and after the call.
+/// These functions create a project with these records, keyed by 1, 1, or read the records. The
+/// project is closed before and after the call.
 void makeProject(const QString& path, const Records& records);
 Records readProject(const QString& path);
 /// Changes the file using SQL, as another program could.

@@ -101,7 +101,7 @@ private Q_SLOTS:
     {
         using Pair = QPair<int, int>;
         const QList<QPair<Pair, Pair>> cases{
-            {{-5, -5}, {1, 1}}, {{35, 4}, {35, 4}}, // a used pair is returned itself
+            {{-5, -5}, {1, 1}}, {{35, 4}, {35, 4}}, // a used pair is returned unchanged
             {{35, 0}, {35, 4}}, {{35, 8}, {36, 0}},
             {{36, 1}, {40, 2}}, // an emptied pair is skipped
             {{40, 3}, {-1, -1}}};
@@ -344,7 +344,7 @@ private Q_SLOTS:
                                       ? vkd_zob_get(m_first, 1, 1, &record, &size, position)
                                       : vkd_zob_put(m_first, 1, 1, &record, &size, position);
         QCOMPARE(m_log->once(failed), VKD_ZOB_BAD_CALL);
-        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // logs no further message
+        QCOMPARE(put(m_first, 1, 1, "new", 1), VKD_ZOB_BAD_CALL); // does not log another message
         vkd_zob_free_ex(m_first, 1, 1);
         QCOMPARE(readAll(m_first), m_old);
         QCOMPARE(vkd_zob_close(std::exchange(m_first, -1)).code, VKD_ZOB_BAD_CALL);

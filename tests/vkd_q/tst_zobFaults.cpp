@@ -143,7 +143,7 @@ private:
         const QByteArray before = testsupport::readFile(path);
         const QString journal = path + QLatin1String("-journal");
         for (int call = 1; testsupport::readFile(path) == before; ++call) {
-            QFile::remove(journal); // from the last attempt
+            QFile::remove(journal); // left by the previous attempt
             testsupport::FaultyDisk disk(QFileInfo(path).path(),
                                          testsupport::FaultyDisk::Fault::PowerCut, call);
             change(path, {"half", "written"});

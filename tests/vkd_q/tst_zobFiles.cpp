@@ -18,7 +18,7 @@ class TestZobFiles : public QObject
 {
     Q_OBJECT
 
-    /// The project after a change by another program.
+    /// Returns the bytes of the project after a change by another program.
     QByteArray with(const char* change) const
     {
         const QTemporaryDir folder;
@@ -46,8 +46,8 @@ private Q_SLOTS:
         const int page = middle - middle % 4096;
         const int foreign = VKD_ZOB_NO_PROJECT, newer = VKD_ZOB_NEWER, damaged = VKD_ZOB_DAMAGED;
         const QByteArray zero(4, '\0'), noise("\x93\x07\xFE\x5A\xC1\x88\x33\xD6");
-        const int firstRecord = page + qFromBigEndian<quint16>(m_sound.constData() + page +
-                                                               8); // starts with its length
+        // A record starts with its length.
+        const int firstRecord = page + qFromBigEndian<quint16>(m_sound.constData() + page + 8);
         row("no file", QByteArray(), VKD_ZOB_NO_FILE);
         row("empty file", QByteArray(""), foreign);
         row("text", QByteArray("Not a project.\n"), foreign);
@@ -198,7 +198,7 @@ private Q_SLOTS:
             const int index = openProject(m_path);
             if (!isWritable) {
                 QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_READ_ONLY);
-                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // locking logged why
+                QCOMPARE(put(index, 1, 1, "x", 1), VKD_ZOB_READ_ONLY); // the lock has logged it
                 vkd_zob_free_ex(index, 1, 1);
                 QCOMPARE(vkd_zob_change_status(index).code, VKD_ZOB_READ_ONLY);
                 QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_READ_ONLY);

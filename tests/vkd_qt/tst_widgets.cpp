@@ -160,8 +160,8 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    /// Without this rule, a change would read all cells of a column that has a button over each
-    /// cell.
+    /// A button ignores changes to other cells. Otherwise a change would read all cells of a column
+    /// that has a button over each cell.
     void cellButtonPassesOverOtherCells()
     {
         struct Item : QTableWidgetItem

@@ -12,7 +12,8 @@ using namespace testsupport;
 namespace {
 enum RowOfContents { Types = 3, Cracks = 7 };
 
-/// Returns the title of the topic that the help shows, or an empty string without a help window.
+/// Returns the title of the topic that the help shows, or an empty string if there is no help
+/// window.
 QString title()
 {
     const QString whole = helpWindows().isEmpty() ? QString() : helpWindows().at(0)->windowTitle();
@@ -164,7 +165,7 @@ private Q_SLOTS:
         key(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(title(), QStringLiteral("Bemessungsparameter"));
 
-        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // read only by the next call
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // takes effect only on the next call
         QVERIFY(show(nullptr, "PARA"));
         QVERIFY(helpPage()->toPlainText().startsWith(QStringLiteral("Design Parameters")));
     }

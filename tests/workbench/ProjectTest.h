@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// Functions shared by the tests for the workbench's window.
+/// Functions shared by the tests of the workbench window.
 namespace windowtest {
 
 using testsupport::enterFile;
@@ -39,8 +39,8 @@ void pickInView(const QWidget& designDialog);
 /// Picks a group with Return in the list of groups.
 void pickGroup(const QWidget& window, int row);
 
-/// Simulates another program that is changing a project until the object is destroyed, and that
-/// stores no changes.
+/// Simulates another program that is changing a project until the object is destroyed, without
+/// storing any changes.
 class OtherProgram
 {
 public:

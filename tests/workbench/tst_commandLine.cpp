@@ -86,7 +86,7 @@ private Q_SLOTS:
             "SIZE -URS SC 100*1.e+10 SPLI  2x1 MARG NO FORM STAN");
         row("--set scaleIndex=8 --set scaleMode=1", "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN");
         row("--set picturesId=0 --set formatId=0",
-            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // like one click per argument
+            "SIZE -URS SC 0 SPLI  2x1 MARG NO FORM STAN"); // as if each argument were a click
         row("--set hasFormat=0", "SIZE URS SC 0 MARG NO FORM STAN");
         row("--set viewId=4", "VIEW TYPE STAN 1 -2 1 ROTA 0");
         row("--set fontSizeText=3,5", "SCHH H6 0.35");
@@ -145,7 +145,7 @@ private Q_SLOTS:
             "", " --set viewId=2");
     }
 
-    /// A script from a saved choice equals the script from arguments alone.
+    /// A script generated from a saved choice equals the script generated from arguments alone.
     void savedChoice()
     {
         QFETCH(const QString, page);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(expected.out.contains(QLatin1String("SIZE ")));
         const Result result = run(QLatin1String("script saved.zob") + options);
         QCOMPARE(result.error, QString());
-        const QString ownView = QStringLiteral("STAN 0 -1 0 ROTA 0"); // not an argument
+        const QString ownView = QStringLiteral("STAN 0 -1 0 ROTA 0"); // not given as an argument
         QCOMPARE(result.out,
                  QString(expected.out).replace(QLatin1String("STAN 1 -2 1 ROTA 0"), ownView));
         QFile::remove(path("saved.zob"));
@@ -235,8 +235,8 @@ private Q_SLOTS:
         QVERIFY(again.section(QLatin1Char('\n'), -2).contains(QStringLiteral("Ø20")));
     }
 
-    /// Importing a table that was exported in German changes nothing in the same project, and makes
-    /// another project equal to it.
+    /// Importing a table that was exported in German does not change the same project, and makes
+    /// the rows of another project equal to it.
     void tablesOfRows()
     {
         for (const char* file : {"from.zob", "to.zob"})

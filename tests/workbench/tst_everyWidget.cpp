@@ -267,7 +267,7 @@ private:
         });
         addMain("slow work", [](MainWindow& window, const Visit& visit) {
             workbench::SlowWork work(&window, QString(), 10);
-            while (!window.findChild<QProgressDialog*>()) // takes half a second
+            while (!window.findChild<QProgressDialog*>()) // the dialog appears after half a second
                 work.goOn(1);
             visit(*window.findChild<QProgressDialog*>());
         });

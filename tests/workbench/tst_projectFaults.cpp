@@ -56,7 +56,7 @@ QString make(const QString& path)
     }
 }
 
-/// Reads the rows like the command line. A failure must not make them fewer.
+/// Reads the rows like the command line. A failure must not reduce their number.
 QString readRows(const QString& path, const QString& expected)
 {
     VkdStatus status;

@@ -29,7 +29,7 @@ QString inWords(const QVector<LineChange>& changes)
     return words.join(QLatin1Char(' '));
 }
 
-/// Returns a text with up to 12 lines, of which many are equal.
+/// Returns a text of up to 12 lines, many of which are equal.
 QString randomText(std::mt19937& random)
 {
     QString text;

@@ -239,7 +239,7 @@ private Q_SLOTS:
         };
         QCOMPARE(press(view, Qt::Key_PageDown), 2);
         QCOMPARE(press(number, Qt::Key_PageDown), 3);
-        QCOMPARE(press(find<QWidget>(preview, "SheetZoom"), Qt::Key_PageUp), 3); // handled by it
+        QCOMPARE(press(find<QWidget>(preview, "SheetZoom"), Qt::Key_PageUp), 3); // used by the list
         QCOMPARE(press(view, Qt::Key_PageUp), 2);
         QCOMPARE(press(view, Qt::Key_End), 50000);
         QCOMPARE(press(view, Qt::Key_PageDown), 50000);
@@ -270,7 +270,7 @@ private Q_SLOTS:
         QVERIFY(view->sheetRect().isNull());
     }
 
-    /// Plots can be checked while no load cases are offered, but they have no picture.
+    /// Plots can be checked while no load cases are offered, but they do not produce a picture.
     void withoutLoadCases()
     {
         const auto window = open("without.zob");

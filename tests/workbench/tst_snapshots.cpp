@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// Returns the names of the image files that the program saves in a folder.
+/// Tests the image files that the program saves in a folder.
 class TestSnapshots : public QObject
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ public:
     bool isPainted = false;
 };
 
-/// Tests which steps of the program start are done immediately and which are postponed.
+/// Tests which steps of program startup are performed immediately and which are postponed.
 class tst_start : public ProjectTest
 {
     Q_OBJECT

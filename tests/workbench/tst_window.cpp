@@ -219,7 +219,7 @@ private Q_SLOTS:
                      qPrintable(treeText(plots)));
         offer(false);
         QCOMPARE(filled.size(), 2);
-        QTRY_COMPARE(treeText(plots), before); // when the captions are in English
+        QTRY_COMPARE(treeText(plots), before); // once the captions are in English
     }
 
     /// A camera rotated by the user is restored even if another view was selected and saved.
@@ -227,7 +227,7 @@ private Q_SLOTS:
     {
         auto window = open("turned.zob");
         trigger(*window, "Output");
-        QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // first view sent
+        QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // the first view is sent
         find<QAbstractButton>(*window, "PerspectiveGroup_4")->click();
         QTest::keyClick(find<QWidget>(*window, "OutputView"), Qt::Key_Left);
         const auto camera = [&window] { // for both keyword languages
