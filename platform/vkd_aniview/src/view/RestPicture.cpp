@@ -10,8 +10,7 @@ namespace aniview {
 
 namespace {
 constexpr int StepMs = 25;
-constexpr size_t ItemsBetweenLooks = 1000; // number of items painted between two checks of the
-                                           // elapsed time
+constexpr size_t ItemsBetweenLooks = 1000; // items painted between two time checks
 } // namespace
 
 bool RestPicture::paintSome(ScenePainter& painter, const QSize& size, qreal pixelRatio,

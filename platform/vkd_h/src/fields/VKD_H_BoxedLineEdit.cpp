@@ -28,8 +28,7 @@ StructBoxedEdit completed(const StructBoxedEdit* given)
 {
     StructBoxedEdit description = given ? *given : StructBoxedEdit();
     if (fallsBack(description.edit))
-        description.edit.flags |= StructLineEdit::EmptyAllowed; // the text may be empty while the
-                                                                // user is typing
+        description.edit.flags |= StructLineEdit::EmptyAllowed; // may be empty during typing
     description.edit.flags |= StructLineEdit::TextForPrograms;
     return description;
 }

@@ -74,8 +74,7 @@ std::vector<QString> unitLabels()
 
 QString VKD_H_UnitLabel::dimString(int code, int)
 {
-    static const std::vector<QString> labels = unitLabels(); // tables call this function for each
-                                                             // value
+    static const std::vector<QString> labels = unitLabels(); // tables call this for each value
     for (std::size_t i = 0; i < labels.size(); ++i)
         if (Dimensions[i].code == code)
             return labels[i];

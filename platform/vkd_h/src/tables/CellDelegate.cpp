@@ -93,8 +93,7 @@ bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
         if (cell.isValid() && cell == m_table->currentIndex() && !m_table->indexWidget(cell))
             m_table->edit(cell);
     };
-    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection); // the view is still handling the
-                                                                 // event
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection); // the view is handling the event
     return true;
 }
 

@@ -44,9 +44,8 @@ VKD_QT_InitTranslator::~VKD_QT_InitTranslator()
 
 void VKD_QT_InitTranslator::languageChanged()
 {
-    const QVector<VKD_QT_InitTranslator*> objects = livingObjects(); // a copy, because notified
-                                                                     // widgets may load further
-                                                                     // modules
+    // A copy, because notified widgets may load further modules.
+    const QVector<VKD_QT_InitTranslator*> objects = livingObjects();
     for (VKD_QT_InitTranslator* object : objects)
         object->install();
 }
