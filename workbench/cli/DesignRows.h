@@ -58,8 +58,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    std::set<int> m_namedGroups;         // groups in any row; groups are moved between rows, not
-                                         // removed
+    std::set<int> m_namedGroups;         // groups in any row; they are moved, not removed
     mutable std::set<int> m_modelGroups; // read from the model on first use
     bool m_converted = false;
 };

@@ -145,8 +145,7 @@ void MainWindow::changeEvent(QEvent* event)
         setTexts();
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_project.check();
-        QTimer::singleShot(0, this, &MainWindow::showNews); // a modal dialog may have delayed the
-                                                            // update
+        QTimer::singleShot(0, this, &MainWindow::showNews); // possibly delayed by a modal dialog
     }
 }
 
@@ -275,8 +274,7 @@ void MainWindow::setLanguage(vkd::Language language)
 {
     if (vkd::desktopLanguage() == language)
         return;
-    if (m_project.isOpen() && !m_access.canRead()) // because all texts of the project would be
-                                                   // reloaded
+    if (m_project.isOpen() && !m_access.canRead()) // its texts would be reloaded
         return m_actions->setTexts();
     const auto before = m_outputEditor->present();
     m_outputEditor->close();

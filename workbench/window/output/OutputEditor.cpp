@@ -23,8 +23,7 @@ OutputEditor::~OutputEditor() = default;
 
 OutputDialog* OutputEditor::dialog()
 {
-    if (!m_dialog && m_access->canRead() && !m_dialog) { // an event during canRead() may have
-                                                         // created it
+    if (!m_dialog && m_access->canRead() && !m_dialog) { // canRead() may have created it
         m_project->look(ProjectPart::Output);
         create(OutputState::read(m_project->handle()));
     }

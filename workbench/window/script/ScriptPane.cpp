@@ -106,8 +106,7 @@ void ScriptPane::setTexts()
 
 void ScriptPane::show(const TextLines& lines, const QVector<LineChange>& changes)
 {
-    if (m_text->plainText().isEmpty() && !lines.text().isEmpty()) // not earlier: finding a font
-                                                                  // takes time
+    if (m_text->plainText().isEmpty() && !lines.text().isEmpty()) // finding the font is slow
         m_text->setFont(fixedFont());
     m_text->setLines(lines, changes);
 }

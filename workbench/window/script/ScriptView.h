@@ -100,8 +100,7 @@ private:
     bool m_isCursorLit = false;
     QBasicTimer m_blinking;
 
-    Unit m_unit = nullptr; // finds the unit that the mouse selects; null while the mouse does not
-                           // select
+    Unit m_unit = nullptr; // finds the unit to select; null unless the mouse is selecting
     TextRange m_first;     // unit at which the mouse selection began
     bool m_mayDrag = false;
     QPoint m_pressed;
