@@ -25,14 +25,14 @@ struct DesignParameterRow
 /// contains only -1.
 bool isRemainingGroups(const std::vector<int>& groups);
 
-/// The state of one design parameter page. It is separate from the page so that the functions that
-/// operate on rows do not need a widget.
+/// The state of one design parameter page. The state is separate from the page, so that functions
+/// that operate on rows do not need a widget.
 struct DesignParameterData
 {
     int kindOfSystem = 0;
-    VKD_H_ZOBDoc* doc = nullptr;       ///< group dialogs and bars; not owned
-    VKD_H_ZOBDoc* designDoc = nullptr; ///< records and kind of system; not owned
-    bool flagB = false;                ///< stored, never read
+    VKD_H_ZOBDoc* doc = nullptr;       ///< for group dialogs and bars; not owned
+    VKD_H_ZOBDoc* designDoc = nullptr; ///< for records and the kind of system; not owned
+    bool flagB = false;                ///< stored but never read
     bool flagA = false;
     bool entriesLoaded = false;
     VKD_QT_Dialog* dialog = nullptr;

@@ -13,7 +13,7 @@ struct StepText
     Q_DECLARE_TR_FUNCTIONS(RowsChange)
 };
 
-/// The names of a step for one row and for several rows, in the order of RowsStep.
+/// The names of a step for one row and for several rows. The table is in the order of RowsStep.
 struct StepNames
 {
     const char* one;

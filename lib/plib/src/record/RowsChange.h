@@ -10,8 +10,8 @@ namespace plib {
 
 using DesignRowList = std::vector<DesignParameterRow>;
 
-/// A change to the rows as a value: the rows that differ, before and after the change. All rows
-/// above and below them are identical. Undo replaces `after` with `before`.
+/// A change to the rows as a value, which contains the rows that differ, before and after the
+/// change. The rows above and below them are identical. Undo replaces `after` with `before`.
 struct RowsChange
 {
     int first = 0;
@@ -30,7 +30,7 @@ bool haveSameContent(const DesignParameterRow& a, const DesignParameterRow& b);
 RowsChange changeBetween(const DesignRowList& before, const DesignRowList& after,
                          std::size_t head = 0, std::size_t tail = 0);
 
-/// Replaces `count` rows starting at `first`.
+/// Replaces `count` rows, starting at `first`, with the rows in `by`.
 void replaceRows(DesignRowList& rows, int first, int count, const DesignRowList& by);
 
 /// A user action that changes rows.
@@ -48,8 +48,8 @@ enum class RowsStep {
     Duplicate,
 };
 
-/// Returns the name of a step that is shown to the user, such as "Reinforcement of row 3". Row
-/// numbers in the name start at 1.
+/// Returns the name of a step for display, such as "Reinforcement of row 3". Row numbers in the
+/// name start at 1.
 QString nameOf(RowsStep step, const std::set<int>& rows);
 
 } // namespace plib

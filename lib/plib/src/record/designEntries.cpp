@@ -13,8 +13,8 @@ namespace plib {
 namespace {
 using R = tagZOB_QUAD_RIM;
 
-/// In an entry, the diameters alternate between the upper and the lower side, unlike all other
-/// fields.
+/// The order of the diameters in an entry. Unlike the other fields, they alternate between the
+/// upper and the lower side.
 constexpr SixFields DiametersOfEntry{&R::dio, &R::diu, &R::dioq, &R::diuq, &R::dioi, &R::diui};
 
 constexpr int FieldCount = 7;
@@ -38,7 +38,7 @@ QString reals(const R& record, const Fields& fields)
     return text;
 }
 
-/// Reads the values by position. Missing values are read as 0.
+/// Assigns the values to the fields by position. Missing values are read as 0.
 template <typename Fields>
 void readReals(R& record, const QStringList& values, const Fields& fields, int first = 0)
 {

@@ -13,11 +13,11 @@ namespace plib {
 using RealField = float tagZOB_QUAD_RIM::*;
 
 /// The six fields of one kind, in the order of the record: principal, cross and third layer of the
-/// upper side, followed by those of the lower side.
+/// upper side, followed by the same layers of the lower side.
 using SixFields = std::array<RealField, 6>;
 
-/// Tables of the real fields by kind. The code for records, entries, texts and dialogs iterates
-/// over them.
+/// Tables of the real fields by kind. The code for records, entries, row texts and dialogs iterates
+/// over these tables.
 namespace fields {
 using R = tagZOB_QUAD_RIM;
 constexpr SixFields Directions{&R::rio, &R::rioq, &R::rioi, &R::riu, &R::riuq, &R::riui};
@@ -35,11 +35,11 @@ int dimensionCode(RealField field);
 
 using NamedField = vkd::plib::designparameter::RecordWord;
 
-/// Returns the fields that are parameters, in the order of the record. `group`, `subId` and the
-/// reserved words are not included.
+/// Returns the fields that are parameters, in the order of the record. Does not include `group`,
+/// `subId` and the reserved words.
 const std::vector<NamedField>& namedFields();
 
-/// Returns the parameter with this name, or nothing.
+/// Returns the parameter with this name, or nothing if there is none.
 std::optional<NamedField> fieldByName(const QString& name);
 
 } // namespace plib

@@ -11,7 +11,7 @@
 namespace plib {
 
 namespace {
-constexpr float AlsoNotSet = 99999.0F; // as written by some programs
+constexpr float AlsoNotSet = 99999.0F; // written by some programs
 constexpr float HalfPi = 1.5707964F;
 constexpr int UpperBarClass = 6;
 constexpr int LowerBarClass = 5;
@@ -28,16 +28,16 @@ void clearDistances(tagZOB_QUAD_RIM& record)
     setAll(record, fields::Distances, NotSet);
 }
 
-/// Converts the layers `a`, `b` and `c` of a side. `c` is converted first, because it depends on
-/// the stored value of `b`.
+/// Converts the distances of the layers `a`, `b` and `c` of a side to the edited form. `c` is
+/// converted first, because the result depends on the stored value of `b`.
 void tripleToEdited(const float& a, float& b, float& c)
 {
     c = b >= 0 && c >= b ? c - b : NotSet;
     b = a >= 0 && b >= a ? b - a : NotSet;
 }
 
-/// Converts the layers back. If a value is not set, the distances of all subsequent layers are
-/// reset to "not set".
+/// Converts the distances back to the stored form. If a value is not set, the distances of all
+/// subsequent layers are reset to "not set".
 void tripleToStored(const float& a, float& b, float& c)
 {
     if (a < 0 || b < 0) {
@@ -49,8 +49,8 @@ void tripleToStored(const float& a, float& b, float& c)
     c = b >= 0 && c >= 0 ? b + c : NotSet;
 }
 
-// clearNegative() is for fields in which zero is a valid value, clearZeroOrNegative() for fields in
-// which zero means "not set".
+// clearNegative() is for fields in which zero is a valid value, and clearZeroOrNegative() is for
+// fields in which zero means "not set".
 void clearNegative(float& value)
 {
     if (value < 0 || value == AlsoNotSet)
@@ -92,7 +92,7 @@ tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups)
     setAll(r, fields::Stresses, NotSet);
     r.reservedD = NotSet;
     r.reservedS = NotSet;
-    r.reservedM = 0; // intentionally, unlike the other two reserved fields
+    r.reservedM = 0; // intentionally not NotSet, unlike reservedD and reservedS
     return r;
 }
 
@@ -125,8 +125,7 @@ void cleanRecord(tagZOB_QUAD_RIM& record)
         clearNegative(record.*field);
     for (RealField field : fields::Distances)
         clearNegative(record.*field);
-    // This is the only field that is intentionally not compared with 99999.0 and keeps such a
-    // value.
+    // Intentionally, only this field is not compared with 99999.0 and keeps such a value.
     if (record.dio <= 0)
         record.dio = NotSet;
     for (RealField field : fields::Diameters)

@@ -8,7 +8,7 @@ namespace plib {
 
 constexpr float NotSet = -99999.0F;
 
-/// The layout of the reinforcement layers; values of tagZOB_QUAD_RIM::type.
+/// The arrangement of the reinforcement layers; the values of tagZOB_QUAD_RIM::type.
 enum DesignType {
     NoDesign = 0,
     TwoLayersOrthogonal = 1,
@@ -22,19 +22,19 @@ enum DesignType {
 tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups);
 
 /// Returns whether elements in this kind of system have distances between layers. Elements in plane
-/// systems (10 to 19) do not, because their layers are not above each other.
+/// systems (10 to 19) do not, because their layers are not on top of each other.
 bool hasDistances(int kindOfSystem);
 
-/// Converts the distances from the stored to the edited form. A spacing is reset to "not set" if
-/// the layers are not in ascending order. All six fields are reset to "not set" if the kind of
+/// Converts the distances from the stored form to the edited form. A spacing is reset to "not set"
+/// if the layers are not in ascending order. All six fields are reset to "not set" if the kind of
 /// system has no distances.
 void toEditedForm(tagZOB_QUAD_RIM& record, int kindOfSystem);
 
 /// Converts the distances back to the stored form.
 void toStoredForm(tagZOB_QUAD_RIM& record, int kindOfSystem);
 
-/// Replaces the different values that other programs write for "not set" with -99999.0. The record
-/// must come from the store and be in the edited form.
+/// Replaces the values that other programs write for "not set" with -99999.0. The record must have
+/// been read from the store and converted to the edited form.
 void cleanRecord(tagZOB_QUAD_RIM& record);
 
 /// Returns whether two records have the same parameters: all fields starting at `type`, except

@@ -14,8 +14,8 @@ DesignParameterRow* rowAt(DesignParameterData& data, int row);
 /// Returns whether there is a row for the remaining groups.
 bool hasRemainingRow(const DesignParameterData& data);
 
-/// Appends the groups of all rows, except the given row and rows for the remaining groups, and
-/// sorts the whole list. A group in two rows occurs twice in the list.
+/// Appends the groups of all rows to the list, except those of the given row and of rows for the
+/// remaining groups, and sorts the whole list. A group in two rows occurs twice in the list.
 void collectUsedGroups(const DesignParameterData& data, int row, std::vector<int>& list);
 
 /// Returns whether there is a row without groups, which cannot be stored in the project's records.
@@ -29,8 +29,8 @@ bool mayMoveDown(const DesignParameterData& data, int row);
 /// Removes these rows in one pass.
 void removeRows(DesignParameterData& data, const std::set<int>& rows);
 
-/// Removes groups from all rows, because a group has only one record. Deletes rows that lose their
-/// last group; rows that already had no groups remain.
+/// Removes the groups from all rows, because a group can have only one record. Deletes rows that
+/// lose their last group. Rows that already had no groups remain.
 void removeGroups(DesignParameterData& data, const std::vector<int>& groups);
 
 } // namespace plib

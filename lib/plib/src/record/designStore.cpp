@@ -17,8 +17,9 @@ using vkd::zob::keys::ForeignDesign;
 constexpr int RecordLength = sizeof(tagZOB_QUAD_RIM);
 constexpr int UndefinedKind = -99999;
 
-/// Reads the records of a key pair one by one into the caller's record. If a stored record is
-/// short, the bytes beyond its length keep their old content, including changes by the caller.
+/// Reads the records of a key pair one by one into the caller's record. If a stored record is too
+/// short, the remaining bytes of the caller's record do not change, so they may contain changes by
+/// the caller.
 class RecordPass
 {
 public:
@@ -62,7 +63,7 @@ void append(ZobHandle project, KeyPair keys, const tagZOB_QUAD_RIM& record, int 
     vkd_zob_put(project.index(), keys.key1, keys.key2, bytes.data(), &length, 1);
 }
 
-/// Copies other programs' records with our key pair to the scratch store.
+/// Copies records of other programs that are stored under our key pair to the scratch store.
 void saveForeignRecords(ZobHandle project)
 {
     empty(ZobHandle::scratch(), ForeignDesign);
@@ -102,7 +103,7 @@ void checkAndCreateZobDefault(int index)
 void readRowsFromZob(DesignParameterData& data)
 {
     const ZobHandle project(data.designDoc->index());
-    std::vector<DesignParameterRow> remaining; // inserted at the front, in reverse order
+    std::vector<DesignParameterRow> remaining; // inserted before the other rows, in reverse order
     tagZOB_QUAD_RIM previous{};
     bool hasPrevious = false;
     RecordPass pass(project, Design);
@@ -145,7 +146,7 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     if (!converted)
         for (DesignParameterRow& row : data.rows)
             toStoredForm(row.record, data.kindOfSystem);
-    converted = true; // only once per page: after that, rows have the stored form
+    converted = true; // once per page: afterwards, the rows are in the stored form
     const ZobHandle project(data.designDoc->index());
     vkd_zob_lock_ex(project.index(), Design.key1, Design.key2);
     saveForeignRecords(project);
@@ -156,8 +157,7 @@ void writeRowsToZob(DesignParameterData& data, bool& converted)
     for (DesignParameterRow& row : data.rows)
         if (!isRemainingGroups(row.groups))
             writeRow(project, row);
-    // The first of the copied records is read, but not used, and no record is restored. This is
-    // intentional.
+    // Intentionally reads the first of the copied records without using it, and restores no record.
     tagZOB_QUAD_RIM unused{};
     RecordPass(ZobHandle::scratch(), ForeignDesign).next(unused);
     vkd_zob_free_ex(project.index(), Design.key1, Design.key2);

@@ -16,11 +16,11 @@ DesignParameterRow defaultRow(const DesignParameterData& data);
 DesignParameterRow& addDefaultRow(DesignParameterData& data);
 
 /// Replaces the project's records with the records of the rows: one record per group, starting with
-/// the remaining groups. Rows without groups are not stored. The first call converts the rows to
-/// the stored form, in which they remain, and sets `converted`.
+/// the remaining groups. Rows without groups are not stored. If `converted` is false, converts the
+/// rows to the stored form, in which they remain, and sets `converted`.
 ///
 /// Records of other programs are moved to the scratch store and not restored. This loss is
-/// intended, because the key pair belongs to the design parameters.
+/// intentional, because the key pair belongs to the design parameters.
 void writeRowsToZob(DesignParameterData& data, bool& converted);
 
 } // namespace plib

@@ -21,8 +21,8 @@ using FieldList = QVarLengthArray<RealField, 6>;
 
 constexpr int BarCode = 1023;
 
-/// The contents of a column for a type: the fields of its two lines, and whether the text ends with
-/// a separator.
+/// The contents of a column for a design type: the fields of both lines, and whether the text ends
+/// with a separator.
 struct Summary
 {
     FieldList first;
@@ -52,8 +52,8 @@ Summary reinforcement()
     return {{&R::dio, &R::aso, &R::amo}, {&R::diu, &R::asu, &R::amu}, false};
 }
 
-/// Type 1 shows crack widths, every other type shows stresses, even if they are not set. The third
-/// layer is listed for all types.
+/// Type 1 shows crack widths; every other type shows stresses, even if they are not set. All types
+/// show the third layer.
 Summary crackControl(int type)
 {
     const SixFields& all = type == 1 ? fields::CrackWidths : fields::Stresses;
@@ -80,7 +80,7 @@ void appendLine(const DesignParameterRow& row, const FieldList& fields, QString*
 
 QString summaryText(const DesignParameterRow& row, int column)
 {
-    constexpr int LastTypeWithText = 5; // has no name, but the same text as type 4
+    constexpr int LastTypeWithText = 5; // no name, but the same text as type 4
     const int type = row.record.type;
     if (type < 1 || type > LastTypeWithText)
         return QString();

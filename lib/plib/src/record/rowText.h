@@ -21,11 +21,11 @@ constexpr const char* DesignTypeNames[] = {
 /// Returns an empty string for other columns, and in columns 2 to 4 for a type without design.
 QString rowText(const DesignParameterRow& row, int column);
 
-/// Returns the text of one value, which is given in base units: " - " if it is not set, the name of
-/// a bar for code 1023, otherwise the number in the displayed unit, followed by `unit`.
+/// Returns the text of a value in base units: " - " if the value is not set, the name of a bar for
+/// dimension code 1023, otherwise the number in the displayed unit, followed by `unit`.
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit);
 
-/// Returns a group number as text; for a secondary group, its name.
+/// Returns the number of a primary group or the name of a secondary group.
 QString groupText(int group);
 
 } // namespace plib

@@ -11,7 +11,7 @@
 namespace plib {
 
 namespace {
-constexpr int MostNamed = 5; // groups in a message, and rows per group
+constexpr int MostNamed = 5; // maximum number of groups in a message, and of rows per group
 
 /// Translates in the context of the page.
 struct PageText

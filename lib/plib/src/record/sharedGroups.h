@@ -6,9 +6,9 @@
 
 namespace plib {
 
-/// A group that is listed in more than one row, with these rows in ascending order. Such a group is
-/// probably an error: each of the rows stores a record for it, but only one record can be intended.
-/// -1 represents the remaining groups.
+/// A group that is listed in more than one row, and the indexes of these rows in ascending order.
+/// Such a group is probably an error: each of the rows stores a record for it, but only one record
+/// can be intended. -1 represents the remaining groups.
 struct SharedGroup
 {
     int group = 0;
@@ -19,12 +19,13 @@ struct SharedGroup
 /// group twice counts once.
 std::vector<SharedGroup> sharedGroups(const std::vector<DesignParameterRow>& rows);
 
-/// Returns the shared groups of each of the `rowCount` rows, as pointers into `shared`.
+/// Returns the shared groups for each of the `rowCount` rows, as pointers into `shared`.
 std::vector<std::vector<const SharedGroup*>>
 sharedGroupsOfRows(const std::vector<SharedGroup>& shared, std::size_t rowCount);
 
-/// Returns a message with one line per group that lists the other rows with this group. Row numbers
-/// start at 1. Long lists are shortened. Returns an empty string if there are no groups.
+/// Returns a message for the row, with one line per shared group that lists the other rows with
+/// this group. Row numbers start at 1. Long lists are shortened. Returns an empty string if there
+/// are no shared groups.
 QString sharedGroupsText(int row, const std::vector<const SharedGroup*>& shared);
 
 } // namespace plib
