@@ -2,8 +2,8 @@
 
 namespace plib {
 
-/// The keyword language of a script, with the values of setting 108. It does not depend on the
-/// desktop language. Exported functions have a parameter `bool english` instead.
+/// The keyword language of a script, which does not depend on the desktop language. The values are
+/// those of setting 108. Exported functions have a parameter `bool english` instead.
 enum class Keywords : int { German = 0, English = 1 };
 
 constexpr Keywords keywordsIf(bool english)

@@ -6,8 +6,7 @@ class VKD_H_PluginParameter;
 
 namespace plib {
 
-/// Obtains the environment-dependent parts of a script from the platform, for the project of a
-/// page.
+/// Obtains the environment-dependent parts of a script from the platform and the project of a page.
 class PlatformScriptEnvironment : public ScriptEnvironment
 {
 public:

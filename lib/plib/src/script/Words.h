@@ -6,8 +6,8 @@
 
 namespace plib {
 
-/// A script text in both keyword languages. Both versions are in one place so that they are changed
-/// together.
+/// Part of a script in both keyword languages. Both versions are in one place, so that they are
+/// changed together.
 struct Words
 {
     const char* german;

@@ -75,13 +75,13 @@ QString scaleValue(const OutputSettings& settings)
         return QStringLiteral("0");
     if (settings.scaleIndex == AutoScaleRow)
         return QStringLiteral("-");
-    // The factor is intentionally written as text, because the graphics program performs the
+    // The factor is intentionally appended as text, because the graphics program performs the
     // multiplication.
     return settings.scaleText.mid(settings.scaleText.indexOf(QLatin1Char(':')) + 1) +
            QLatin1String("*1.e+10");
 }
 
-/// Returns the scale for the split variant, which has no factor.
+/// Returns the scale for the split variant, in which no factor is appended.
 QString splitScaleValue(const OutputSettings& settings)
 {
     if (settings.scaleMode != ScaleMode::Engineering)
@@ -109,8 +109,8 @@ QString splitResult(const OutputSettings& settings, const QString& additional, K
     return result;
 }
 
-/// Appends the lines and replaces the standard view with the view of the page. Reserves memory for
-/// the lines and the rest of the script, because scripts may be long.
+/// Appends the lines, in which it replaces the standard view with the view of the page. Reserves
+/// memory for the lines and the rest of the script, because scripts may be long.
 void appendBody(QString* script, const std::vector<QString>& lines, OutputView page,
                 const QString& clause, int rest)
 {
@@ -181,7 +181,7 @@ QString outputScript(const OutputSettings& settings, const std::vector<QString>&
     if (environment.hasQuads())
         script += CutLines.in(keywords);
     script += sizeStatement(settings, keywords) + end;
-    if (ahead) // has its own newline
+    if (ahead) // includes a newline
         script += additional;
     QString tail = environment.programEnd(keywords) + end;
     if (!ahead && !additional.isEmpty())

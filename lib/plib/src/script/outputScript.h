@@ -8,29 +8,29 @@
 namespace plib {
 
 /// Provides those parts of a script that depend neither on the settings nor on the selected lines.
-/// Tests replace it, so that the script needs no project.
+/// Tests use their own implementation, so that they need no project.
 class ScriptEnvironment
 {
 public:
     virtual ~ScriptEnvironment() = default;
-    /// Returns the head of the program block, including its newlines.
+    /// Returns the header of the program block, including its newlines.
     virtual QString programHead() const = 0;
     /// Returns the end of the program block, without a newline.
     virtual QString programEnd(Keywords keywords) const = 0;
     /// Returns whether the model contains area elements. Called only if the script is not empty.
     virtual bool hasQuads() const = 0;
-    /// Returns the user's camera in the format used after the keyword for a stored view.
+    /// Returns the user's camera in the format that follows the keyword for a stored view.
     virtual QString camera() const = 0;
 };
 
-/// Returns the script for the lines of the checked plots, with English or German keywords. It is
-/// empty if there are no lines, regardless of `additional`. In the split variant, returns two
-/// alternative page setups instead, even if there are no lines.
+/// Returns the script for the lines of the checked plots, with English or German keywords. The
+/// script is empty if there are no lines, regardless of `additional`. In the split variant, returns
+/// two alternative page setups instead, even if there are no lines.
 QString outputScript(const OutputSettings& settings, const std::vector<QString>& lines,
                      const QString& additional, Keywords keywords,
                      const ScriptEnvironment& environment);
 
-/// Returns the clause that replaces the standard view in a line of the script.
+/// Returns the clause that replaces the standard view in the lines of the script.
 QString viewClause(const OutputSettings& settings, Keywords keywords,
                    const ScriptEnvironment& environment);
 
@@ -41,7 +41,7 @@ QString sizeStatement(const OutputSettings& settings, Keywords keywords);
 /// Returns the font statement. In the split variant, returns only the font size in centimetres.
 QString fontStatement(const OutputSettings& settings, Keywords keywords);
 
-/// Returns five definitions that specify whether areas are filled.
+/// Returns five variable definitions that specify whether areas are filled.
 QString fillDefinitions(bool fill, Keywords keywords);
 
 } // namespace plib

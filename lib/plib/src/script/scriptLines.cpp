@@ -91,8 +91,8 @@ void ScriptLineWriter::writeCaseLine(int number)
     m_lines.push_back(caseLine(number));
 }
 
-/// Writes the plot for two load cases in one picture, each in its own colour. Afterwards the second
-/// load case is current.
+/// Writes the plot for two load cases in one picture, each in its own colour. Afterwards, the
+/// second load case is the current load case.
 void ScriptLineWriter::writeDouble(int second, const QString& text,
                                    const GraphicalOutputRecord* above)
 {

@@ -11,8 +11,8 @@
 
 namespace plib {
 
-/// The keywords of one language, and the current view and load case according to the lines written
-/// so far.
+/// The keywords of one language, and the view and load case that the lines written so far have
+/// selected.
 struct ScriptContext
 {
     int lastCase = -1;
@@ -39,12 +39,12 @@ public:
     ScriptLineWriter(std::vector<QString>& lines, Keywords keywords, int progname,
                      KindOfSystem kindOfSystem);
 
-    /// Returns the script text of a record in the language of the run.
+    /// Returns the script of a record in the keyword language of the run.
     const QString& script(const GraphicalOutputRecord& record) const;
     void writeView(int viewKind);
     /// Writes all lines of a load case, whose number must be greater than 0. `label` returns the
     /// label of the load case and is called only if needed. `above` returns the record of the
-    /// second caption, or null. The script of this record determines the unit.
+    /// second caption, or null; the script of this record determines the unit.
     template <typename Label, typename Above>
     void writeCase(int number, const QString& text, Label label, Above above)
     {
