@@ -4,9 +4,8 @@
 
 #include <QtTest>
 
-// A failing check of QtTest returns from the function. There is intentionally no guard that
-// restores the language: after a failure, the language remains as set by the failing step, and
-// hosts can see it.
+// If a QtTest check fails, it returns from the function. The language is intentionally not restored
+// in this case, so that hosts can see in which language the check failed.
 void VKD_P_Mix_UnitTest::check_qrc_system()
 {
     const QString cover = QStringLiteral(":/betondeckung.png");

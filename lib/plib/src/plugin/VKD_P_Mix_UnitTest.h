@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// The self-check of the installed library, run by vkd_unittests(). It does not replace the tests
-/// in the source tree. It only checks that the images are included in the library and that the
+/// The self-check of the installed library, which vkd_unittests() runs. It does not replace the
+/// tests in the source tree: it checks only that the library contains the images and that the
 /// platform finds them by language.
 class VKD_P_Mix_UnitTest : public QObject
 {

@@ -5,8 +5,8 @@
 
 #include <QPixmap>
 
-/// Return the variant of an image for the desktop language. The function names are those used by
-/// the suite's developers.
+/// Return the variant of an image for the desktop language. The functions have the names that the
+/// suite's developers use.
 inline QString GET_FILENAME_WITH_LANG(const QString& name)
 {
     return vkd_qt_getFileNameWithLang(name, vkd_lib_getvalue(VKD_SETTING_LANGUAGE));

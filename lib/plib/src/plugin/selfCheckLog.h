@@ -4,8 +4,7 @@
 
 namespace plib {
 
-/// Determines the path of the log file from the arguments of vkd_unittests() and returns it with
-/// native separators.
+/// Returns the path of the log file, with native separators, for the arguments of vkd_unittests().
 QString selfCheckLog(const QStringList& arguments);
 
 /// Creates the file and returns whether QtTest can write to it. QtTest truncates a file name at a

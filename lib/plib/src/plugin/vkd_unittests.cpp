@@ -20,7 +20,7 @@ int runCheck(const QString& log)
     return QTest::qExec(&test, testArguments) == 0 ? 0 : 1;
 }
 
-/// Writes a file. On failure, logs the reason and the text.
+/// Writes a log file. On failure, writes the reason and the text to the log category of the check.
 void writeLog(const QString& path, const QByteArray& text)
 {
     QFile file(path);
@@ -29,8 +29,8 @@ void writeLog(const QString& path, const QByteArray& text)
                   qUtf8Printable(file.errorString()), text.constData());
 }
 
-/// Runs the check with a temporary log file, because QtTest cannot write to the requested file, and
-/// copies the log.
+/// Runs the check with a temporary log file and copies the log to the requested file. Used if
+/// QtTest cannot write to the requested file itself.
 int runCheckAside(const QString& log)
 {
     const QTemporaryDir folder;

@@ -6,7 +6,7 @@ using Group = VKD_P_RadioGroup;
 using Impl = VKD_P_RadioGroupImpl;
 
 namespace {
-/// Relays the signals that are common to both kinds of rows for load cases.
+/// Forwards the signals that both kinds of rows for load cases emit.
 void relayCommon(const Impl* impl, const Group* group)
 {
     QObject::connect(impl, &Impl::buttonClicked, group, &Group::buttonClicked);

@@ -13,7 +13,7 @@
 using Group = VKD_P_RadioGroup;
 using Impl = VKD_P_RadioGroupImpl;
 
-/// One kind of button: its id, its member variable and its own signal, which may be null.
+/// A kind of button: its ID, its member variable and its own signal, which may be null.
 struct VKD_P_RadioGroupImpl::Kind
 {
     ButtonID id;
@@ -40,8 +40,8 @@ const std::vector<Impl::Kind>& VKD_P_RadioGroupImpl::kinds()
 
 VKD_P_RadioGroupImpl::VKD_P_RadioGroupImpl() = default;
 
-/// Deletes the layout and the buttons that have no other owner. A host may never have added the row
-/// to a layout, and may have passed a null parent.
+/// Deletes the layout and the buttons if they have no other owner: the host may not have added the
+/// row to a layout, or may have passed a null parent.
 VKD_P_RadioGroupImpl::~VKD_P_RadioGroupImpl()
 {
     if (m_layout && !m_layout->parent())

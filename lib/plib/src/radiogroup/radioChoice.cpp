@@ -7,7 +7,7 @@
 namespace {
 const QLatin1String Mark("checked");
 
-/// In the order in which the names are written.
+/// The names of the buttons, in the order in which they are written.
 constexpr struct
 {
     int id;
