@@ -14,8 +14,8 @@ namespace plib {
 namespace {
 constexpr int CaptionLevels = 3;
 
-/// Translates a caption. Its identifier is the key text, padded with three spaces if it has no
-/// qualifiers.
+/// Translates a caption. The identifier of a caption is the key text, padded with three spaces if
+/// the key text has no qualifiers.
 QString translated(const QString& identifier, const QString& title)
 {
     const QLatin1String alignment("   ");
@@ -64,7 +64,7 @@ bool CaptionTranslator::eventFilter(QObject* watched, QEvent* event)
         m_isActive = true;
         translate();
         publishRoles(m_tree);
-        m_tree->doItemsLayout(); // the widths of the texts have changed
+        m_tree->doItemsLayout(); // the widths of the captions have changed
     }
     return QObject::eventFilter(watched, event);
 }

@@ -24,7 +24,7 @@ using Item = GraphicalOutputTreeWidgetItem;
 constexpr int PlotLevel = 2;
 
 /// Implements the operations of the builder for the tree widget. A plot is added to the tree only
-/// after all rows have been added to the plot, so that the tree processes only one change.
+/// after the plot has all of its rows, so that the tree processes only one change.
 class ItemOperations
 {
 public:
@@ -36,7 +36,7 @@ public:
     {
     }
 
-    /// Only rows are created checked.
+    /// Creates a row, which may be checked, or an unchecked item of another level.
     Item* create(Item* parent, const QString& text, int number, bool checked)
     {
         const bool isRow = parent->level == PlotLevel;
@@ -59,7 +59,7 @@ public:
             item->setCheckState(0, Qt::Checked);
     }
     void plotIcon(Item* item) { item->setIcon(0, m_plotIcon); }
-    void rowIcon(Item*) {} // the look contains the icon
+    void rowIcon(Item*) {} // the look already contains the icon
     void expand(Item*) {}  // done later by expandPlots()
 
 private:
@@ -116,7 +116,7 @@ void GraphicalOutputTreeWidget::additionalData(const QString& tag, bool add)
     if (add)
         additional.push_back(tag);
     else
-        additional.remove(QString(tag)); // copy: the argument may refer to an element of the list
+        additional.remove(QString(tag)); // copy: `tag` may refer to an element of the list
     rebuild(false);
 }
 
@@ -150,7 +150,7 @@ void GraphicalOutputTreeWidget::applySelection(const QString& text)
 
 void GraphicalOutputTreeWidget::expandPlots()
 {
-    scheduleDelayedItemsLayout(); // must be first, otherwise each step would lay out the tree
+    scheduleDelayedItemsLayout(); // first, or each expand() would lay out the tree
     for (int i = 0; i < topLevelItemCount(); ++i) {
         const QModelIndex top = model()->index(i, 0);
         expand(top);
@@ -188,8 +188,8 @@ void GraphicalOutputTreeWidget::dump(QTreeWidgetItem* item, int indent) const
     if (!output)
         return;
     dumpLine(output, indent);
-    // Only the first row of a plot is intentionally dumped, because the other rows differ only in
-    // the load case.
+    // Intentionally dumps only the first row of a plot, because the other rows differ only in the
+    // load case.
     const int count = output->level == PlotLevel ? qMin(1, item->childCount()) : item->childCount();
     for (int i = 0; i < count; ++i)
         dump(item->child(i), indent + 1);
@@ -228,8 +228,8 @@ void GraphicalOutputTreeWidget::fillTree()
     expandPlots();
 }
 
-/// Blocks signals, because the automatic update would recompute the parents after each item. Here
-/// each parent is computed only once.
+/// Blocks signals, because the automatic update would recompute the parents after each item.
+/// plib::applySelection() computes each parent only once.
 void GraphicalOutputTreeWidget::setChoice(const QString& text)
 {
     const VKD_QT_SignalBlocker silence(model());

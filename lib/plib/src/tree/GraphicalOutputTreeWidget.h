@@ -11,9 +11,9 @@
 class VKD_H_PluginParameter;
 
 /// The tree in which the user checks plots and load cases. It shows the plots of the catalogue that
-/// match the page and the model, with the host's load cases under the plots that are bound to load
+/// match the page and the model, and the host's load cases under the plots that are bound to load
 /// cases. It returns the selection as script lines and as a string that can be stored.
-/// checkStatesChanged() is also emitted once after the tree has been rebuilt or a selection has
+/// checkStatesChanged() is also emitted, once, after the tree has been rebuilt or a selection has
 /// been applied. If the catalogue cannot be loaded, the tree shows an error once and remains empty,
 /// without a context menu.
 class GraphicalOutputTreeWidget : public VKD_QT_TreeWidget
@@ -56,7 +56,7 @@ public Q_SLOTS:
     void expandPlots();
     /// Collapses the plots so that no load case is visible.
     void closeLoads();
-    /// Build lines for diagnosis, which are not yet written anywhere.
+    /// Generate lines for debugging, which are currently not written anywhere.
     void dump() const;
     void dump(QTreeWidgetItem* item, int indent) const;
 

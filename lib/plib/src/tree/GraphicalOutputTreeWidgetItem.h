@@ -15,7 +15,7 @@ public:
 
     /// Creates an unchecked item with the given text.
     explicit GraphicalOutputTreeWidgetItem(const QString& text = QString());
-    /// Creates an item with the appearance of another item, see takeLook().
+    /// Creates an item with the appearance of another item (see takeLook()).
     explicit GraphicalOutputTreeWidgetItem(const QTreeWidgetItem& look);
     GraphicalOutputTreeWidgetItem(const GraphicalOutputTreeWidgetItem&) = delete;
     GraphicalOutputTreeWidgetItem& operator=(const GraphicalOutputTreeWidgetItem&) = delete;
@@ -25,14 +25,14 @@ public:
     /// notified.
     void takeLook(const QTreeWidgetItem& other);
 
-    plib::GraphicalOutputRecord record; ///< of the plot; for captions, of the first plot
-    qint32 isLC = -1;                   ///< negative: the item does not have its own script line
+    plib::GraphicalOutputRecord record; ///< record of the plot; for captions, of the first plot
+    qint32 isLC = -1;                   ///< negative: the item has no script line of its own
     qint32 number = 0;                  ///< load case of a row
-    qint32 level = 0;                   ///< 0 and 1 captions, 2 plots, 3 rows
+    qint32 level = 0;                   ///< 0 and 1: captions, 2: plots, 3: rows
 };
 
-/// Returns the item as an output item, or null for a plain item. The tree algorithms find this
-/// function by argument-dependent lookup, so it is not in a namespace.
+/// Returns the item as an output item, or null for a plain item. This function must be in the
+/// global namespace, so that the tree algorithms find it by argument-dependent lookup.
 inline GraphicalOutputTreeWidgetItem* outputItem(QTreeWidgetItem* item)
 {
     return item->type() == GraphicalOutputTreeWidgetItem::OutputType

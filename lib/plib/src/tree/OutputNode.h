@@ -7,10 +7,10 @@
 
 namespace plib {
 
-/// An item of an output tree that does not need widgets, for the command line and for tests. It has
-/// only the members that the tree algorithms use. They have the same names as in QTreeWidgetItem
-/// and in the item class of the tree widget. Parents own their children; the invisible root
-/// represents the tree.
+/// An item of an output tree that does not need widgets, for the command line and for tests. The
+/// class has only the members that the tree algorithms use, with the same names as in
+/// QTreeWidgetItem and in the item class of the tree widget. Parents own their children; the
+/// invisible root represents the tree.
 class OutputNode
 {
 public:
@@ -22,7 +22,7 @@ public:
     int isLC = -1;
     int number = 0;
     int level = 0;
-    bool plain = false; ///< represents an item of the base class, which is not an output item
+    bool plain = false; ///< true for a plain item, which is not an output item
 
     OutputNode* addChild(const QString& text);
     void removeChild(OutputNode* child);

@@ -22,8 +22,8 @@ PopupHandler::~PopupHandler()
     delete menu;
 }
 
-/// The menu entries are translated in the context of the tree, because users regard the menu as
-/// part of the tree.
+/// Translates the menu entries in the context of the tree, because users regard the menu as part of
+/// the tree.
 void PopupHandler::build(GraphicalOutputTreeWidget* owner, bool hasCloseAll)
 {
     const QIcon rowIcon = plib::rowIcon(vkd::desktopLanguage());

@@ -34,6 +34,6 @@ private:
     VKD_QT_Action* expandPlots = nullptr;
     VKD_QT_Action* expandLoads = nullptr;
     VKD_QT_Action* closeLoads = nullptr;
-    VKD_QT_Action* closeAll = nullptr; // null in the output tree, which intentionally omits it
+    VKD_QT_Action* closeAll = nullptr; // intentionally null in the output tree
     GraphicalOutputTreeWidget* tree = nullptr;
 };

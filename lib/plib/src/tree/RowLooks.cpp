@@ -30,7 +30,8 @@ const RowLooks::Looks& RowLooks::find(const QString& text, int number)
     return m_looks[m_next++];
 }
 
-/// Stores the check state first, because it is read most often and roles are searched in order.
+/// Sets the check state first, because it is read most often and an item searches its roles in
+/// order.
 std::unique_ptr<const QTreeWidgetItem> RowLooks::newLook(const QString& text, int number,
                                                          Qt::CheckState state) const
 {

@@ -12,16 +12,17 @@
 
 namespace plib {
 
-/// Builds an output tree from the records of a catalogue: top captions, second captions and plots.
-/// A plot that is bound to load cases has one row per load case.
+/// Builds an output tree from the records of a catalogue: captions of the top level, captions of
+/// the second level, and plots. A plot that is bound to load cases has one row per load case.
 ///
-/// `Operations` provides the tree operations that a node does not have: `Node* create(Node* parent,
-/// const QString& text, int number, bool checked)` appends an output item, where `number` is the
-/// load case of a row or 0; `complete(Node*)` is called for a new plot after its rows have been
-/// created; `remove(Node*)` deletes an item; `check(Node*)` checks it; `plotIcon(Node*)` and
-/// `rowIcon(Node*)` set its icon; `expand(Node*)` expands it. The builder finds captions in its own
-/// hash table. It computes the state of each parent once, and the state of a plot as soon as its
-/// rows are complete. Therefore the time is linear in the number of records and rows.
+/// `Operations` provides the tree operations that nodes do not provide:
+/// `Node* create(Node* parent, const QString& text, int number, bool checked)` appends an output
+/// item, where `number` is the load case of a row or 0; `complete(Node*)` is called for a new plot
+/// after its rows have been created; `remove(Node*)` deletes an item; `check(Node*)` checks it;
+/// `plotIcon(Node*)` and `rowIcon(Node*)` set its icon; `expand(Node*)` expands it. The builder
+/// looks up captions in its own hash table. It computes the state of each parent once, and the
+/// state of a plot as soon as its rows are complete. Therefore, the time is linear in the number of
+/// records and rows.
 template <typename Node, typename Operations>
 class TreeBuilder
 {
@@ -41,8 +42,8 @@ public:
     {
         Node* top = caption(m_root, record.title1, record, 0);
         Node* second = caption(top, record.title2, record, 1);
-        // The comparison with title2 is intended: only a plot with the same caption as its parent
-        // is reused. Any other record gets its own plot, even if the captions are identical.
+        // Intentionally, only a plot with the same caption as its parent is reused. Any other
+        // record gets its own plot, even if another plot has the same caption.
         Node* namesake = m_namesakes.value(second);
         Node* plot = namesake ? namesake : newPlot(second, record);
         addLoadcaseRows(plot, record);
@@ -121,7 +122,7 @@ private:
     }
 
     /// Computes the state of a plot from the rule that determined which rows are checked. Reading
-    /// the states of the rows would take a third of the time of a rebuild.
+    /// the states of the rows instead would take a third of the time of a rebuild.
     static void settleNew(Node* plot, const GraphicalOutputRecord& record)
     {
         const int count = plot->childCount();
@@ -163,8 +164,8 @@ private:
             m_operations.check(static_cast<Node*>(plot->child(next)));
     }
 
-    /// Removes the items of a record that has no script. The parser rejects such records, but
-    /// records created in code may have no script.
+    /// Removes the items of a plot if its record has no script. The parser rejects such records,
+    /// but records created in code may have no script.
     void removeIfEmpty(Node* plot, Node* second, Node* top)
     {
         const auto hasNoScript = [](const Node* node) {
@@ -191,8 +192,8 @@ private:
     const Rows& m_rows;
     Operations& m_operations;
     QHash<QPair<Node*, QString>, Node*> m_captions;
-    QHash<Node*, Node*> m_namesakes; // plot with the same caption, by second-level item
-    QHash<Node*, int> m_checkedRows; // number of leading rows that are checked, by plot
+    QHash<Node*, Node*> m_namesakes; // by second-level item: the plot with the same caption
+    QHash<Node*, int> m_checkedRows; // by plot: number of leading rows that are checked
 };
 
 } // namespace plib

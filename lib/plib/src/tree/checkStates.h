@@ -5,8 +5,8 @@
 namespace plib {
 
 /// The rules for parents in a tree of check boxes. A parent is Unchecked if all its children are
-/// Unchecked, Checked if all its children are Checked, otherwise PartiallyChecked. `Node` must have
-/// the members of OutputNode. Items other than output items have no check box.
+/// Unchecked, Checked if all its children are Checked, and otherwise PartiallyChecked. `Node` must
+/// have the members of OutputNode. Items other than output items have no check box.
 
 /// Returns the state that results from the children of the node. The node must have children.
 template <typename Node>
@@ -19,8 +19,8 @@ Qt::CheckState stateOfChildren(const Node* node)
     return first;
 }
 
-/// Updates the node and each parent below it once, from bottom to top. The resulting states are the
-/// same as if each item had been changed individually and had updated its ancestors.
+/// Updates the node and all parents below it once, bottom up. The resulting states are the same as
+/// if each item had been changed individually and had updated its ancestors.
 template <typename Node>
 void settleBranch(Node* node)
 {

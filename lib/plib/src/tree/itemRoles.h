@@ -4,8 +4,8 @@ class QTreeWidget;
 
 namespace plib {
 
-/// Sets the data roles of the captions and plots of an output tree, see
-/// VKD_P_WidgetGraphicalOutput_Role.h. Does not emit signals. Rows already have their roles, which
+/// Sets the data roles of the captions and plots of an output tree (see
+/// VKD_P_WidgetGraphicalOutput_Role.h). Does not emit signals. Rows already have data roles, which
 /// they share (see RowLooks).
 void publishRoles(QTreeWidget* tree);
 

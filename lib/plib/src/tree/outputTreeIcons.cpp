@@ -7,7 +7,7 @@ namespace plib {
 namespace {
 constexpr int Grid = 16; // width and height of a bitmap in pixels
 
-// A plate with coloured iso areas and its axes.
+// A plate with coloured iso areas and axes.
 const char* const Plot[] = {
     "16 15 7 1",        "  c None",         ". c #ffffff",      "# c #000000",
     "x c #808080",      "g c #00c000",      "c c #00c0c0",      "y c #ffe000",
@@ -48,8 +48,8 @@ QPixmap blocks(const QImage& bitmap, int side)
     return picture;
 }
 
-/// Returns an icon with the bitmap in the common sizes. Each pixel is enlarged to a square block,
-/// and selected items do not change the colours. The icon consists of pixmaps and does not use an
+/// Returns an icon with the bitmap in the common sizes. Each pixel is enlarged to a square block.
+/// The colours are the same in selected items. The icon consists of pixmaps and does not use an
 /// icon engine of this library, because Qt's style caches the last painted icon and would call the
 /// engine after the library has been unloaded.
 QIcon bitmapIcon(const char* const xpm[])

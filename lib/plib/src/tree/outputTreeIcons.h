@@ -4,8 +4,8 @@
 
 #include <QIcon>
 
-/// The icons of the output tree. Each call creates a new icon, but copies share their data.
-/// Therefore, create one icon and copy it for all items.
+/// The icons of the output tree. Each call creates a new icon, whereas copies of an icon share
+/// their data. Therefore, create one icon and copy it for all items.
 namespace plib {
 
 QIcon plotIcon();

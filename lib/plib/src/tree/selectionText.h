@@ -15,8 +15,9 @@
 
 namespace plib {
 
-/// Returns the identifier of an item in the selection text: the identifiers of its captions down to
-/// its own level, concatenated and trimmed. A row has the identifier of its plot.
+/// Returns the identifier of an item in the selection text: the identifiers of its captions from
+/// the top level down to its own level, concatenated and trimmed. A row has the identifier of its
+/// plot.
 QString itemId(const GraphicalOutputRecord& record, int level);
 
 /// Appends the check states of one item and its descendants as lines of the selection text.
@@ -45,9 +46,9 @@ void appendSelection(Node* node, QString& text)
     } else if (state == Qt::PartiallyChecked) {
         text += QLatin1String("ERROR CASE\n"); // a leaf is never partially checked
     } else if (count == 0 && item->number > 0) {
-        // Never reached when the tree is traversed from the root, because plots write the states of
-        // their rows. For compatibility with old files, the number replaces "%1" in the identifier,
-        // and "%2" in the line is intentionally left unchanged.
+        // Not reached if the traversal starts at the root, because plots write the states of their
+        // rows. For compatibility with old files, the number replaces "%1" in the identifier, and
+        // "%2" is intentionally written to the line unchanged.
         text += word + QString(id).replace(QLatin1String("%1"), QString::number(item->number)) +
                 QLatin1String(":%2\n");
     } else {
@@ -96,7 +97,7 @@ private:
 
 /// Returns the same result as QStringRef::toInt(), which is 0 if the text is not a number. Short
 /// sequences of ASCII digits are converted directly, because a selection text consists mostly of
-/// them.
+/// such numbers.
 int selectionNumber(const QStringRef& text);
 
 /// One valid line of a selection text.
@@ -108,14 +109,14 @@ struct SelectionLine
     QVector<int> numbers; ///< numbers of the rows to check; only for Partial
 };
 
-/// Returns the valid lines and skips all other lines. Sets `isEmpty` to true if the text has no
+/// Returns the valid lines and skips all other lines. Sets `isEmpty` to whether the text has no
 /// lines at all; such a text does not change a tree.
 std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty);
 
-/// Sets the check states from a selection text and unchecks all items that it does not contain. The
-/// result is the same as if the items were set line by line with an automatic update after each
-/// line. However, each item is set only once: the last line that affects the item or one of its
-/// ancestors wins. Therefore the time is linear in the number of items.
+/// Sets the check states from a selection text and unchecks all items that the text does not
+/// contain. The result is the same as if the items were set line by line with an automatic update
+/// after each line. However, each item is set only once: the last line that affects the item or one
+/// of its ancestors wins. Therefore, the time is linear in the number of items.
 template <typename Node>
 class SelectionApplier
 {
@@ -139,8 +140,8 @@ public:
     }
 
 private:
-    /// The state that a line requests for an item and its descendants. The most recent order takes
-    /// precedence.
+    /// The state that a line requests for an item and its descendants. The most recent request
+    /// takes precedence.
     struct Order
     {
         int time = 0;
@@ -149,7 +150,7 @@ private:
         Order orLater(Order other) const { return other.time > time ? other : *this; }
     };
 
-    /// The children of an item by number, and the orders for them by index.
+    /// The children of an item by number, and the requests for them by index.
     struct Children
     {
         std::vector<std::pair<int, int>> places; // pairs of number and index, ascending
@@ -164,7 +165,7 @@ private:
             return;
         Children& children = childrenOf(item);
         for (int number : line.numbers) {
-            // Finds the last child with this number, like a search from the end.
+            // If several children have this number, finds the last one.
             auto found = std::upper_bound(children.places.begin(), children.places.end(),
                                           std::make_pair(number, std::numeric_limits<int>::max()));
             if (found != children.places.begin() && (--found)->first == number)

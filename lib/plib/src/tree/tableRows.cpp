@@ -8,7 +8,7 @@
 namespace plib {
 
 namespace {
-/// Also returns false for a NaN.
+/// Returns false for a NaN, too.
 bool fitsInteger(double value)
 {
     return value > double(std::numeric_limits<int>::min()) - 1 &&

@@ -8,7 +8,7 @@
 
 namespace plib {
 
-/// A load case from a row of a host's table.
+/// A load case in a row of a host's table.
 struct TableLoadCase
 {
     double number;
@@ -16,8 +16,8 @@ struct TableLoadCase
 };
 
 /// Returns the rows for the output tree, sorted by number. Numbers are truncated towards zero; if
-/// two load cases have the same number, the later one wins. A number that does not fit into 32 bits
-/// is omitted, because truncating it would be undefined behaviour.
+/// several load cases have the same number, the last one is used. Load cases whose numbers do not
+/// fit into 32 bits are omitted, because converting such a number would be undefined behaviour.
 std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>
 rowsOfTable(const std::vector<TableLoadCase>& loadCases);
 
