@@ -9,7 +9,7 @@
 
 /// A combo box with the bar diameters of a project. A bar value is the nominal diameter in
 /// millimetres; -99999 means "not set" and is the first entry. A diameter that is missing from the
-/// project gets its own entry in the sorted list, so that the combo box can show it and return it
+/// project has its own entry in the sorted list, so that the combo box can show it and return it
 /// unchanged. Signals are emitted only when the user chooses an entry.
 class VKD_A_EXPORT VKD_A_BarDiameterCombo : public VKD_QT4_ComboBox
 {

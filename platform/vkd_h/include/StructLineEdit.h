@@ -28,7 +28,7 @@ struct StructLineEdit
     QString decimalSigns;           ///< decimal separators accepted in addition to point and comma
     QString suffix;                 ///< shown after the number; if empty, the unit of the dimension
     std::list<QString> notSetTexts; ///< strings that also mean "not set", trimmed
-    double emptied = -99999.0;      ///< value of a field that was cleared, see StructBoxedEdit
+    double emptied = -99999.0;      ///< value of a cleared field; see StructBoxedEdit
     int reservedA = 0;              ///< must be 0
     int reservedB = -1;             ///< must be -1
 };

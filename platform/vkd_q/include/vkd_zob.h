@@ -8,7 +8,7 @@
 
 /// The ZOB is the record store of a project. It contains ordered sequences of opaque records, keyed
 /// by pairs of integers, in one file per project. An open project has a database index of 1 or
-/// more; index 0 is a scratch store in memory that lives as long as the process.
+/// more; index 0 is a scratch store in memory, which exists until the process ends.
 ///
 /// A failed operation leaves the stored records unchanged, unless only its final disk access
 /// failed. It writes one English log line in the category vkd.zob. The returned status or

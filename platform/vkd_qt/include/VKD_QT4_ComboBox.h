@@ -32,8 +32,8 @@ public:
     /// current entry or no object name.
     virtual QString writeXMLstring() const;
     /// Reads the tagged string with the object name as its tag and selects the entry with the
-    /// stored id or text. Ids take precedence over identical texts. Has no effect if the tag or the
-    /// entry does not exist.
+    /// stored id or text. An id takes precedence over an identical text. Has no effect if the tag
+    /// or the entry does not exist.
     virtual void readXMLstring(const QString& wholeString);
 
     void showPopup() override;

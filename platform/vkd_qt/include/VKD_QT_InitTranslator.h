@@ -10,10 +10,10 @@ class QTranslator;
 /// Installs the translations of one module in every application that runs during the lifetime of
 /// the object. The class is intended for a global object in the module's library. The object may be
 /// constructed before the application and destroyed after it. The language is the value of setting
-/// 102 when the application starts. English is the language of the source texts and needs no file.
-/// German is loaded from the resource ":/translations/<module>_de.qm" or from a file with the same
-/// name in Qt's translations folder. If neither exists, the source texts are used. The class may be
-/// used only in the GUI thread.
+/// 102 when the application starts. English is the language of the source strings and does not need
+/// a file. German is loaded from the resource ":/translations/<module>_de.qm" or from a file with
+/// the same name in Qt's translations folder. If neither exists, the source strings are used. The
+/// class may be used only in the GUI thread.
 class VKD_QT_EXPORT VKD_QT_InitTranslator
 {
 public:

@@ -24,7 +24,7 @@ public:
                        const QString& button0 = QString(), const QString& button1 = QString(),
                        const QString& button2 = QString(), int defaultButton = 0,
                        int escapeButton = -1);
-    /// Shows an error message in the same way.
+    /// Shows an error message; otherwise works like the function above.
     static int critical(QWidget* parent, const QString& title, const QString& text,
                         const QString& button0 = QString(), const QString& button1 = QString(),
                         const QString& button2 = QString(), int defaultButton = 0,

@@ -32,7 +32,7 @@ public:
     /// and disappear endlessly.
     void setColumnFitsTexts();
 
-    /// Adds an action to the menu that expands or collapses all branches. The menu owns the action
+    /// Adds to the menu an action that expands or collapses all branches. The menu owns the action
     /// and must not outlive the tree. After collapsing, the visible ancestor of the current item
     /// becomes the current item.
     QAction* addExpandAll(VKD_QT_Menu* menu);

@@ -15,8 +15,8 @@ class BarAreaTable : public VKD_QT_TableWidget
 public:
     BarAreaTable(const QVector<float>& diameters, QWidget* parent, const char* name);
 
-    /// Shows the areas for this number of bars per place and makes the nearest cell current. A
-    /// layout without a positive spacing clears the selection.
+    /// Shows the areas for the layout's number of bars per place and makes the nearest cell
+    /// current. A layout without a positive spacing clears the selection.
     void showLayout(const VkdBarLayout& layout);
 
 Q_SIGNALS:

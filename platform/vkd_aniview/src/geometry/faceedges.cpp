@@ -12,8 +12,8 @@ constexpr float FoldCosine = 0.87F; // 30 degrees
 
 // Distances by which supports and lines are drawn nearer to the viewer than the surrounding faces,
 // in mean edge lengths of the faces. A support lies on face corners, and the centre of a face may
-// be 0.71 away from its corner. Lines have a smaller distance, so that a column does not show
-// through its slab.
+// be 0.71 edge lengths away from its corner. Lines have a smaller distance, so that a column does
+// not show through its slab.
 constexpr float SupportNearer = 0.75F;
 constexpr float LineNearer = 0.3F;
 

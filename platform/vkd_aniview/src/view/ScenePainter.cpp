@@ -54,7 +54,7 @@ void grow(const QPointF* corners, int count, QPointF* grown)
     }
 }
 
-/// Returns the direction of the light, which comes from behind the viewer's left shoulder.
+/// Returns the direction of the light, which comes from over the viewer's left shoulder.
 Position lightOf(const ViewAxes& axes)
 {
     const Position sum = along(along(along({}, 0.8, axes.eye), 0.5, axes.up), -0.33, axes.right);

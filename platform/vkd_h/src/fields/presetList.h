@@ -3,8 +3,8 @@
 class QComboBox;
 struct StructLineEdit;
 
-/// Functions for the presets of an editable combo box. Their texts are parsed as numbers according
-/// to the description of its field.
+/// Functions for the presets of an editable combo box. The entries are parsed as numbers according
+/// to the description of the combo box's field.
 
 /// Returns the index of the entry with this value, or -1 if there is none.
 int presetAt(const QComboBox& combo, double value, const StructLineEdit& description);

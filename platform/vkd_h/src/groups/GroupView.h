@@ -16,7 +16,7 @@ class GroupView : public QTreeView
 public:
     explicit GroupView(QWidget* parent);
 
-    /// Fits the column widths to the texts of the source model.
+    /// Fits the column widths to the contents of the source model.
     void fitColumns(const GroupTableModel& groups);
 
     QSize sizeHint() const override;

@@ -125,8 +125,8 @@ VkdStatus ZobFilePlace::lock()
 }
 
 /// Removes the temporary files of this process and of killed processes. A temporary file may itself
-/// be the target path of another process; in this case the ID of that process is at the end of the
-/// name.
+/// be the target path of another process; in that case, the ID of the other process is at the end
+/// of the name.
 void ZobFilePlace::removeLeftFiles() const
 {
     const QFileInfo file(m_path);

@@ -101,8 +101,8 @@ bool VKD_QT_TableWidgetButton::fits(const QRect& area) const
     return needed.height() <= area.height() && needed.width() <= area.width();
 }
 
-/// Wraps the text in the same way as the cell. If there is not enough space, keeps only the text's
-/// own line breaks and elides each line.
+/// Wraps the text as the cell does. If there is not enough space, keeps only the text's own line
+/// breaks and elides each line.
 void VKD_QT_TableWidgetButton::paintText(QStylePainter* painter, const QStyleOptionButton& option,
                                          const QRect& area) const
 {
