@@ -53,7 +53,7 @@ void exportRows(const DesignRows& rows, const QString& path)
         throw CommandError{QStringLiteral("cannot write %1: %2").arg(path, file.errorString())};
 }
 
-/// Reads a table in UTF-8 or in the encoding that spreadsheet programs on Windows write.
+/// Reads a table in UTF-8 or in the encoding that spreadsheet programs on Windows use.
 plib::RowTable readTable(const QString& path)
 {
     const QByteArray bytes = readBytes(path);

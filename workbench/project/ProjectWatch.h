@@ -9,8 +9,9 @@
 namespace workbench {
 
 /// Watches an open project for changes by other programs, and detects when its file is deleted,
-/// moved or replaced. The operating system reports changes to the file; a slow timer checks files
-/// on drives that report no changes. A check is cheap and does not make other programs wait.
+/// moved or replaced. The operating system reports changes to the file. On drives that do not
+/// report changes, a slow timer checks the file. A check is cheap and does not make other programs
+/// wait.
 class ProjectWatch : public QObject
 {
     Q_OBJECT

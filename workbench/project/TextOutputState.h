@@ -21,7 +21,7 @@ struct TextOutputState
     bool allValues = false; ///< all values, not only the extreme values
     QSet<int> leftOutLoadCases;
     QSet<int> leftOutCombinations;
-    QMap<int, int> kinds; ///< keyed by combination number, see CombinationTable
+    QMap<int, int> kinds; ///< keyed by combination number; see CombinationTable
 
     /// Reads the state from the project. If no lists were saved, `lists` is set to `defaultLists`.
     static TextOutputState read(ZobHandle project, int defaultLists);

@@ -78,8 +78,8 @@ bool isLegend(const SheetPicture& picture)
     return picture.command.endsWith(QLatin1String(" LEGE"));
 }
 
-/// Sketches a list whose entries only the graphics program knows: lines with a sample and two words
-/// in the painter's font.
+/// Sketches a list whose entries are known only to the graphics program: each line has a sample and
+/// two words in the painter's font.
 void sketchLegend(QPainter& painter, const QRectF& frame)
 {
     const double line = lineHeight(painter.font());
@@ -183,7 +183,7 @@ QString SheetPainter::loadCaseOf(const SheetPicture& picture)
 void SheetPainter::paintFrame(QPainter& painter, const QRectF& frame, const SheetPlan& plan,
                               int picture)
 {
-    // Limits the text size, so that the image gets most of the frame.
+    // Limits the text size, so that the image takes up most of the frame.
     const QFont font = fontOf(painter, qMin(plan.textHeight * Mm, frame.height() / 14.0));
     const double line = lineHeight(font);
     const QRectF texts(frame.left() + Padding, frame.bottom() - 2.0 * line,

@@ -17,9 +17,9 @@ struct PlotCaption
 ///
 /// The script identifies plots only by keywords, but its pictures are in the order of the tree, one
 /// for each checked plot or row. If both lists have the same length and the same load cases, the
-/// pictures get the captions, and the load case that an earlier statement set is removed from plots
-/// without rows. Otherwise the pictures are not changed: keywords are shown instead of captions
-/// that may belong to other pictures.
+/// captions are assigned to the pictures, and the load case that an earlier statement set is
+/// removed from plots without rows. Otherwise the pictures are not changed: keywords are shown
+/// instead of captions that may belong to other pictures.
 void setCaptions(SheetPlan* plan, const QVector<PlotCaption>& captions);
 
 /// Sets the load case titles of the pictures from titles keyed by load case number.

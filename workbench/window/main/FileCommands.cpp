@@ -263,7 +263,7 @@ bool FileCommands::saveAs()
     return takeOver(path);
 }
 
-/// Continues with the copy of the project and preserves the selections in open dialogs.
+/// Switches to the copy of the project and preserves the selections in open dialogs.
 bool FileCommands::takeOver(const QString& path)
 {
     const auto plots = m_parts.output->present();

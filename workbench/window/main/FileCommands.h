@@ -35,9 +35,9 @@ struct ProjectParts
     std::function<bool()> showContents;
 };
 
-/// The commands of the File menu that concern projects: new, open, reload, save as. The class asks
-/// about unsaved selections before a project is closed, and loads the model of a newly opened
-/// project into the view. The window shows all other data.
+/// The project commands of the File menu: new, open, reload, save as. The class asks about unsaved
+/// selections before a project is closed, and loads the model of a newly opened project into the
+/// view. The window shows all other data.
 class FileCommands : public QObject
 {
     Q_OBJECT

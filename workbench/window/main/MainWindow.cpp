@@ -269,12 +269,12 @@ void MainWindow::showOutput()
     m_outputEditor->show(m_panes->leftDocks());
 }
 
-/// Dialogs translate their texts only when they are created, so open dialogs are replaced.
+/// Dialogs translate their strings only when they are created, so open dialogs are replaced.
 void MainWindow::setLanguage(vkd::Language language)
 {
     if (vkd::desktopLanguage() == language)
         return;
-    if (m_project.isOpen() && !m_access.canRead()) // its texts would be reloaded
+    if (m_project.isOpen() && !m_access.canRead()) // its data would be reloaded
         return m_actions->setTexts();
     const auto before = m_outputEditor->present();
     m_outputEditor->close();

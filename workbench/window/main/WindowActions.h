@@ -20,7 +20,7 @@ public:
     /// Adds the menus and the tool bar to the window, which owns them.
     explicit WindowActions(QMainWindow* window);
 
-    /// Sets texts and shortcuts in the language of the desktop.
+    /// Sets labels and shortcuts in the language of the desktop.
     void setTexts();
     /// Enables the actions that are currently possible. Nearly all actions need a project, and the
     /// project must not change while groups are picked. A project whose file is missing cannot be

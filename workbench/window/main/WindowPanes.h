@@ -28,7 +28,7 @@ public:
     /// The window owns the object and the panes.
     WindowPanes(const WindowActions& actions, QMainWindow* window);
 
-    /// Sets the texts in the language of the desktop.
+    /// Sets titles and labels in the language of the desktop.
     void setTexts();
     /// Creates the pane with the design records on the first call, because a window without a
     /// project opens faster without this pane.

@@ -9,8 +9,9 @@ namespace workbench {
 
 /// The user's choice of plots on an output page. The class preserves the choice when the offered
 /// load cases or content change; the page itself would revert to the plots that the catalogue
-/// proposes. A plot or load case that is offered again gets its previous check state. As long as
-/// the user has not changed the choice, the catalogue's proposal for the offered plots applies.
+/// proposes. When a plot or load case is offered again, its previous check state is restored. As
+/// long as the user has not changed the choice, the catalogue's proposal for the offered plots
+/// applies.
 class PlotChoice
 {
 public:

@@ -31,7 +31,7 @@ public:
     /// Stores a part with `store`, which returns a VkdZobStatus or PartChanged. If another program
     /// has changed the part since it was read, the user decides whether to replace it.
     Stored store(const std::function<cd_error_t(SeenPart::Newer)>& store, const QString& sentence);
-    /// Stores a part with `put` in the same way. Calls `reload` if the user wants the newer state.
+    /// Stores a part with `put`, like store(). Calls `reload` if the user wants the newer state.
     /// Returns whether the part is stored.
     bool storePart(ProjectPart part, const std::function<cd_error_t()>& put,
                    const QString& sentence, const std::function<void()>& reload);

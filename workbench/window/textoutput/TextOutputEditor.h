@@ -42,7 +42,7 @@ public:
     void show();
     /// Opens a new dialog with a state that differs from the saved state in the project.
     void reopen(const TextOutputState& state);
-    /// Replaces the open dialog with a new dialog whose texts are in the current language.
+    /// Replaces the open dialog with a new dialog in the current language.
     void recreate();
     /// Destroys the dialog without asking.
     void close();
