@@ -13,8 +13,8 @@ namespace testsupport {
 using Rows = std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>;
 using Records = std::vector<plib::GraphicalOutputRecord>;
 
-/// While the object exists, the message texts of the program "grav" are selected, and only the
-/// source tree's own share folder is on the search path.
+/// While the object exists, the messages of the program "grav" are selected, and only the source
+/// tree's own share folder is on the search path.
 class Texts
 {
 public:

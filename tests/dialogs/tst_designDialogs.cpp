@@ -168,7 +168,8 @@ private Q_SLOTS:
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }
 
-    /// The fields of the invalid pair are marked, and the first field of the pair gets the focus.
+    /// The fields of the invalid pair are marked, and the first field of the pair receives the
+    /// focus.
     void limitsAreCheckedOneByOne()
     {
         tagZOB_QUAD_RIM record = unevenRecord(3);

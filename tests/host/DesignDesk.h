@@ -19,9 +19,9 @@ public:
     QTableWidget* table() const { return findChild<QTableWidget*>(QStringLiteral("table")); }
     /// Returns the combo box of the group editor, or null if no editor is open.
     QComboBox* groupCombo() const;
-    /// Returns the texts of a row, joined by "|", with "/" for a newline.
+    /// Returns the cell contents of a row, joined by "|", with "/" for a newline.
     QString row(int number) const;
-    /// Returns the texts of the groups column, joined by "|".
+    /// Returns the contents of the groups column, joined by "|".
     QString groups() const;
     /// Returns the cells that contain widgets, as "row,column" joined by spaces.
     QString editors() const;

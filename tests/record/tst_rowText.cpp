@@ -57,7 +57,7 @@ private Q_SLOTS:
                  QStringLiteral("Rows 1-4: groups 1-4, 7, 8, 45, OPN and remaining groups"));
     }
 
-    /// Tests the texts of rows with groups, with ", " instead of newlines.
+    /// Tests the text of rows with groups, with ", " instead of newlines.
     void sharedGroups()
     {
         const auto told = [](const QString& text) {

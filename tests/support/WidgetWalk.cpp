@@ -172,8 +172,8 @@ public:
         }
     }
 
-    /// Gives each widget the focus first, because some widgets react to the wheel only while they
-    /// have the focus.
+    /// Moves the focus to each widget first, because some widgets react to the wheel only while
+    /// they have the focus.
     void lookForWheel()
     {
         const QPointer<QWidget> focused = m_window.focusWidget();

@@ -84,7 +84,7 @@ QStringList entriesOf(const QComboBox* combo)
     return entries;
 }
 
-/// Processes events until the layouts of word-wrapped texts no longer change.
+/// Processes events until the layout of word-wrapped text no longer changes.
 void settle()
 {
     for (int round = 0; round < 4; ++round)

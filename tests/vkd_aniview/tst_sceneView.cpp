@@ -170,7 +170,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The view preserves its azimuth even when seen straight from above.
+    /// The view preserves its azimuth even when it looks straight down.
     void steepest()
     {
         SceneView view = viewOf(storey(), {3, -1, 1});

@@ -212,7 +212,7 @@ private Q_SLOTS:
             {20, QByteArray(20, '\1')},       // a truncated node
             {32, QByteArray(12, '\x7F')},     // an outline that is longer than its record
             {32, QByteArray(12, '\xFF')},     // an outline with negative length
-            {Groups, QByteArray(12, '\x7E')}, // a group with such a title
+            {Groups, QByteArray(12, '\x7E')}, // a title that is longer than its record
             {LoadCases, QByteArray(1, '\1')},
             {Quads, QByteArray(7, '\1')},  // an element that is truncated within its group
             {Quads, QByteArray(8, '\1')}}; // an element that is truncated after its group

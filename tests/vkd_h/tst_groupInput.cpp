@@ -21,8 +21,8 @@ static QString told(const GroupInput& input, const std::function<QString(int)>& 
         .join(QLatin1Char('/'));
 }
 
-/// Tests the texts that users enter to choose groups. The existing groups are 0, 1, 2, 3, 5, 9 and
-/// 999, or have names.
+/// Tests the input with which users choose groups. The existing groups are either 0, 1, 2, 3, 5, 9
+/// and 999, or have names.
 class TestGroupInput : public QObject
 {
     Q_OBJECT

@@ -31,8 +31,7 @@ QStringList texts(const QWidget& window)
 }
 } // namespace
 
-/// A window that was open during a change to the language shows the same texts as a window opened
-/// later.
+/// A window that was open during a language change shows the same text as a window opened later.
 class tst_languageChange : public QObject
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 #include <QTemporaryDir>
 
-/// Tests the search path and the message texts.
+/// Tests the search path and the messages.
 class TestLibraryServices : public QObject
 {
     Q_OBJECT

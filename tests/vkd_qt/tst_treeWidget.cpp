@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(settled.size(), 0);
     }
 
-    /// Includes texts that become visible when a branch is expanded or the tree is scrolled.
+    /// Includes labels that become visible when a branch is expanded or the tree is scrolled.
     void longTextsCanBeReached()
     {
         Catalogue catalogue;

@@ -72,8 +72,8 @@ private:
     std::unique_ptr<OtherProgram> m_other;
 };
 
-/// Base class for tests of the window's projects. The texts are in English, and each test has its
-/// own settings folder.
+/// Base class for tests of the window's projects. The user interface is in English, and each test
+/// has its own settings folder.
 class ProjectTest : public QObject
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ private Q_SLOTS:
                  m_names);
     }
 
-    /// All sizes are doubled, but the width of texts may differ by a few points.
+    /// All sizes are doubled, but the width of text may differ by a few points.
     void pixelRatio()
     {
         constexpr int Tolerance = 4;

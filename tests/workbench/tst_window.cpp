@@ -76,8 +76,8 @@ private Q_SLOTS:
         QVERIFY(window.windowTitle().startsWith(QLatin1String("new.zob[")));
     }
 
-    /// A click updates the script, a change to the language preserves the choice, Cancel restores
-    /// the saved choice, and OK saves the new choice.
+    /// A click updates the script, a language change preserves the choice, Cancel restores the
+    /// saved choice, and OK saves the new choice.
     void scriptFollowsAndIsSaved()
     {
         const auto window = open("saved.zob");
@@ -254,8 +254,7 @@ private Q_SLOTS:
         QTRY_COMPARE(camera(), turned);
     }
 
-    /// A dialog is recreated with the same state after a change to the language and after a
-    /// restart.
+    /// A dialog is recreated with the same state after a language change and after a restart.
     void dialogStateIsRestored()
     {
         const QRect place(20, 30, 1234, 765);
