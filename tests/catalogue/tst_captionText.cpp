@@ -96,7 +96,7 @@ private Q_SLOTS:
     {
         for (const char* text : {"&ABC", "@ND1", "1 A&ABC"})
             QVERIFY2(plib::isKeyText(QString::fromLatin1(text)), text);
-        // An "@" has a meaning only at the beginning.
+        // An "@" is special only at the beginning.
         for (const char* text : {"", "&AB", "abc", "1 A&AB", "1 A@ABCD", "plain text"})
             QVERIFY2(!plib::isKeyText(QString::fromLatin1(text)), text);
     }

@@ -10,8 +10,8 @@ namespace testsupport {
 constexpr int German = 0;
 constexpr int English = 1;
 
-/// Changes the desktop's language while the program runs. When the function returns, the widgets
-/// have processed the change.
+/// Changes the desktop's language while the program is running. The widgets have processed the
+/// change when the function returns.
 inline void setLanguage(int language)
 {
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, language);

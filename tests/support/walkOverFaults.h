@@ -19,9 +19,9 @@ struct Operation
 };
 
 /// Runs the operation with each fault of FaultyDisk at each of its calls. Afterwards either the old
-/// or the new state must be stored; after a success, the new state must be stored even if the power
-/// is cut. A failure must be reported with the system's reason and must leave the old state.
-/// Repeating the operation must succeed and leave no other files.
+/// or the new state must be stored; on success, the new state must be stored even if the power is
+/// cut. A failure must be reported with the system's reason and must leave the old state. Repeating
+/// the operation must succeed and leave no other files.
 void walkOverFaults(const QString& folder, const Operation& operation);
 
 } // namespace testsupport

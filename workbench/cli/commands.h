@@ -5,8 +5,8 @@
 namespace workbench {
 
 /// Runs the command given by the first argument, or prints the help of the program. Throws a
-/// CommandError like the commands. If another program implements the command, the function does not
-/// return, because that program replaces the process.
+/// CommandError, as the commands do. If another program implements the command, the function does
+/// not return, because that program replaces the process.
 int runNamedCommand(const QStringList& arguments);
 
 /// Returns whether there is a command with this name.

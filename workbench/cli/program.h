@@ -16,7 +16,7 @@ QStringList programArguments(int argc, char* argv[]);
 bool hasDisplay();
 
 /// Runs a command and returns its exit code, or 1 after a failure. Prints the help to standard
-/// output and a failure as one line to standard error. After a success, prints the platform's log
+/// output and a failure as one line to standard error. On success, prints the platform's log
 /// messages as warnings to standard error.
 int runCommand(int (*command)(const QStringList&), const QStringList& arguments);
 

@@ -5,7 +5,7 @@
 /// The numbers of the settings that this platform uses.
 enum VkdSetting : int {
     VKD_SETTING_LANGUAGE = 102,      ///< language of the desktop: 0 German, 1 English
-    VKD_SETTING_HEAD_LANGUAGE = 108, ///< keyword language of a program block's head, same values
+    VKD_SETTING_HEAD_LANGUAGE = 108, ///< keyword language of a program block's head; same values
     VKD_SETTING_LOCK_DEADLINE = 201  ///< ms to wait for a lock; 0: default of vkd_zob_deadline()
 };
 

@@ -17,8 +17,7 @@ QString language()
                                                            : QStringLiteral("english");
 }
 
-/// Returns the error message of a command without the program name, or an empty string after a
-/// success.
+/// Returns the error message of a command without the program name, or an empty string on success.
 QString failure(QProcess& process)
 {
     if (process.error() == QProcess::FailedToStart || process.exitStatus() != QProcess::NormalExit)

@@ -51,8 +51,8 @@ int commonEnd(const TextLines& before, const TextLines& after, int beginning)
     return count;
 }
 
-/// Finds the shortest sequence of removed and inserted lines that turns the lines of a change into
-/// its new lines, using the greedy algorithm of Myers (1986).
+/// Finds the shortest sequence of removed and inserted lines that turns the old lines of a change
+/// into its new lines, using the greedy algorithm of Myers (1986).
 class ShortestEdit
 {
 public:

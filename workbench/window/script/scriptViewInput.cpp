@@ -19,7 +19,7 @@ namespace workbench {
 namespace {
 constexpr int ScrollInterval = 100; // ms
 
-/// Standard keys that move the cursor, each with the key that also selects.
+/// Standard keys that move the cursor, each with the key that also extends the selection.
 constexpr struct
 {
     QKeySequence::StandardKey moves;

@@ -13,7 +13,8 @@ bool isSameFile(const QString& a, const QString& b);
 /// dragged. Folders do not count as files.
 QString draggedFile(const QMimeData* data);
 
-/// Returns whether the file has the suffix of a model file. Its content is checked on reading.
+/// Returns whether the file has the suffix of a model file. The content is checked when the file is
+/// read.
 bool isModelFile(const QString& path);
 
 } // namespace workbench

@@ -31,7 +31,7 @@ public:
     bool isOpen() const { return bool(m_dialog); }
     /// Returns whether the dialog contains changes that are not stored.
     bool isChanged() const;
-    /// Returns the state in the dialog if the dialog is open.
+    /// Returns the state of the open dialog, or an empty optional if the dialog is not open.
     std::optional<TextOutputState> state() const;
     /// Stores the state of the open dialog in the project. Returns whether it is stored.
     bool store();

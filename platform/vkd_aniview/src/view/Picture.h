@@ -15,7 +15,7 @@ public:
     void update(const ModelGeometry& geometry, const Projection& projection, const QRectF& visible);
 
     const QPointF& point(int index) const { return m_points[size_t(index)]; }
-    /// Returns the items from back to front, without those outside the visible part.
+    /// Returns the items from back to front, except items outside the visible part.
     const std::vector<int>& order() const { return m_order; }
 
 private:
