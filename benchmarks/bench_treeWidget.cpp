@@ -18,7 +18,7 @@ QTreeWidgetItem* add(QTreeWidgetItem* parent)
     return item;
 }
 
-/// A tree with one caption, whose plots have `rowsOfAPlot` rows each. All items are expanded.
+/// A tree with one caption and plots with `rowsOfAPlot` rows each. All items are expanded.
 class Tree
 {
 public:

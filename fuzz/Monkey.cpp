@@ -207,8 +207,8 @@ void Monkey::clickButton(QWidget* window)
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
-/// Clicks, double-clicks, drags, turns the wheel or opens the context menu at a random point of a
-/// random widget.
+/// Clicks, double-clicks, drags, turns the mouse wheel or opens the context menu at a random point
+/// of a random widget.
 void Monkey::act(QWidget* window)
 {
     QWidget* widget = pickPart(window);

@@ -19,8 +19,8 @@ public:
     /// Sets the suffix for the names of screenshots that are added after this call.
     void setLook(const QString& look) { m_look = look; }
 
-    /// Processes pending events, and saves a screenshot of the widget and of its open drop-down
-    /// list.
+    /// Processes pending events, and saves a screenshot of the widget and of its drop-down list if
+    /// this list is open.
     void add(const QString& name, QWidget* widget);
     /// Saves a screenshot of the modal dialog that `open` opens, in the size that the contents of
     /// the dialog need, even if the screen is smaller. Afterwards, calls `work` with the dialog and
@@ -28,7 +28,7 @@ public:
     void addModal(const QString& name, const std::function<void()>& open,
                   const std::function<void(QWidget*)>& work = {});
 
-    /// Records that this screenshot is not possible for the project.
+    /// Records that this screenshot cannot be taken with the project.
     void leaveOut(const QString& name) { m_leftOut << name + m_look; }
 
     const QStringList& files() const { return m_files; }

@@ -55,7 +55,7 @@ int snapshots(const QStringList& arguments)
         throw CommandError{QStringLiteral("--pixel-ratio is a number from 1 to 4, not \"%1\"")
                                .arg(line.value("pixel-ratio"))};
     applyLanguage(line);
-    openProject(line.argument(0)); // throws the reason if the file is not a project
+    openProject(line.argument(0)); // throws an error if the file is not a project
     try {
         const SnapshotAlbum album = takeSnapshots(line.argument(0), line.argument(1));
         print(album.files().join(QLatin1Char('\n')) + QLatin1Char('\n'));
@@ -79,6 +79,6 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // the usual font on desktops
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // the usual desktop font
     return runCommand(snapshots, command);
 }

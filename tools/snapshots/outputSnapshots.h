@@ -6,7 +6,7 @@ namespace workbench {
 
 class SnapshotAlbum;
 
-/// Adds screenshots of all kinds of the output page, with and without a preview of the model.
+/// Adds screenshots of all kinds of output pages, with and without a preview of the model.
 void addOutputSnapshots(SnapshotAlbum& album, VKD_H_ZOBDoc* document);
 
 } // namespace workbench

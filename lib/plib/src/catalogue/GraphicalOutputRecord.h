@@ -14,7 +14,7 @@ struct GraphicalOutputRecord
     QString title1; ///< captions of the top level, the second level and the plot
     QString title2;
     QString title3;
-    QString contentTag; ///< required model content, see hasContent()
+    QString contentTag; ///< required model content (see hasContent())
     QString id1;        ///< identifiers of the captions, the same in every language
     QString id2;
     QString id3;

@@ -13,14 +13,14 @@ bool isKeyText(QStringView text);
 /// three qualifiers precede the token.
 bool hasQualifier(QStringView keyText);
 
-/// Returns the caption for a key text in the desktop language, from the messages of the program
+/// Translates a key text to a caption in the desktop language, using the messages of the program
 /// selected by vkd_lib_opentext(). Returns a null string if the field does not begin with a token
 /// of the text service, or an empty string if the service has no text for the token. Does not trim
 /// the caption.
 QString captionText(const QString& field);
 
-/// Returns the caption that a tree shows for a key text in the desktop language: its trimmed
-/// captionText(), or `fallback` if there is none.
+/// Returns the caption that a tree shows for a key text: the trimmed captionText(), or `fallback`
+/// if there is none.
 QString captionOr(const QString& field, QStringView fallback);
 
 } // namespace plib

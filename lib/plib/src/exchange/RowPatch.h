@@ -17,7 +17,7 @@ public:
     /// Creates a patch with all parameters of a record.
     explicit RowPatch(const tagZOB_QUAD_RIM& record);
 
-    int line = 0;   ///< line of the table, starting at 1; for messages
+    int line = 0;   ///< line number in the table, starting at 1; used in messages
     QString groups; ///< as written in the table
 
     void setType(int type);

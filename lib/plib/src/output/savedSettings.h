@@ -14,7 +14,7 @@ constexpr char Fill[] = "Fill";
 constexpr char Format[] = "Format";
 constexpr char Pictures[] = "Part";
 constexpr char View[] = "View";
-constexpr char Camera[] = "Camera"; ///< in the persistent format
+constexpr char Camera[] = "Camera"; ///< in the format PersistentCamera
 constexpr char Plots[] = "List_4";  ///< selection text
 } // namespace savedtag
 

@@ -8,9 +8,9 @@
 
 class QRadioButton;
 
-/// The implementation of VKD_P_RadioGroup. VKD_P_RadioGroup calls the functions of this class and
-/// emits only those of its signals that the kind of row provides. The pointers to the buttons, the
-/// row and the coupled widget are reset to null when the owners delete these objects.
+/// The implementation of VKD_P_RadioGroup. VKD_P_RadioGroup forwards its calls to this class, and
+/// forwards only those signals that the kind of row provides. The pointers to the buttons, the row
+/// and the coupled widget are reset to null when the owners delete these objects.
 class VKD_P_RadioGroupImpl : public QObject
 {
     Q_OBJECT

@@ -37,8 +37,8 @@ void toStoredForm(tagZOB_QUAD_RIM& record, int kindOfSystem);
 /// been read from the store and converted to the edited form.
 void cleanRecord(tagZOB_QUAD_RIM& record);
 
-/// Returns whether two records have the same parameters: all fields starting at `type`, except
-/// `reservedD` and `reservedS`. A NaN is not equal to any value, including itself.
+/// Returns whether two records have the same parameters. Compares all fields starting at `type`,
+/// except `reservedD` and `reservedS`. A NaN is not equal to any value, including itself.
 bool recordsEqual(const tagZOB_QUAD_RIM& a, const tagZOB_QUAD_RIM& b);
 
 /// Returns whether the record belongs to the design parameters and not to another program.

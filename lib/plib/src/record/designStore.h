@@ -11,7 +11,7 @@ void checkAndCreateZobDefault(int index);
 /// A record for the remaining groups becomes the first row. Records of other programs are skipped.
 void readRowsFromZob(DesignParameterData& data);
 
-/// Returns a row with default parameters and without groups; addDefaultRow() appends it.
+/// Returns a row with default parameters and without groups; addDefaultRow() appends such a row.
 DesignParameterRow defaultRow(const DesignParameterData& data);
 DesignParameterRow& addDefaultRow(DesignParameterData& data);
 

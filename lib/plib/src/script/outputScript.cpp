@@ -101,7 +101,7 @@ QString splitResult(const OutputSettings& settings, const QString& additional, K
         division = SplitDivision.in(keywords) + QLatin1String(split.division);
     }
     const QString scale = SplitScale.in(keywords) + splitScaleValue(settings);
-    // $(XYZ) is plain text here; the host resolves it.
+    // $(XYZ) is plain text here; the host expands it.
     QString result = QLatin1String("SIZE ") + kind + scale + QLatin1Char(' ') + division +
                      QLatin1String("|SIZE ") + kind + QLatin1String("$(XYZ) ") + division;
     if (!additional.isEmpty())
