@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-/// The value of a benchmark that is measured and compared. Times are processor times, because other
-/// programs affect them least; for a benchmark registered with `UseRealTime` or `UseManualTime`,
-/// they are wall-clock or manual times.
+/// Specifies which value of a benchmark is measured and compared. Times are processor times,
+/// because other programs affect them least; for a benchmark registered with `UseRealTime` or
+/// `UseManualTime`, they are wall-clock or manual times.
 enum class Figure {
     Time,        ///< time of one iteration
     TimePerItem, ///< time divided by the benchmark's argument, the number of items

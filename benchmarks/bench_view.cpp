@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int Few = 10000; // quads, shown in a small view
+constexpr int Few = 10000; // number of quads that are shown in a small view
 constexpr QSize SmallSize(800, 600);
 constexpr QSize LargeSize(1280, 800);
 constexpr double Extent = 100.0; // metres

@@ -17,7 +17,7 @@ constexpr int Steps = 4000;
 QString storedDistances(const QString& cell)
 {
     QStringList distances = cell.section(QLatin1Char('/'), 1).split(QLatin1Char(';'));
-    for (int i = 2; i + 1 < distances.size(); ++i) // upper and lower side in turn
+    for (int i = 2; i + 1 < distances.size(); ++i) // upper and lower side alternate
         if (!distances[i - 2].contains(QRegularExpression(QStringLiteral("[0-9]"))))
             distances[i] = QStringLiteral(" - ");
     return cell.section(QLatin1Char('/'), 0, 0) + distances.join(QLatin1Char(';'));
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QString old;
         while (monkey.steps() < Monkey::StepsInARound) {
             monkey.step(&desk.page);
-            switch (monkey.below(60)) { // like a host
+            switch (monkey.below(60)) { // as a host might do
             case 0:
                 rows.resize(std::size_t(monkey.below(6)), {1, 7, QStringLiteral("7 : case")});
                 desk.page.setUsedNumbersAndNames(rows);

@@ -40,7 +40,7 @@ public:
     /// page setups instead of a script.
     QString getTORVAL(const QString& additional, bool english);
     QString getTORVAL(bool english);
-    /// Appends the script to `scripts`, even if it is empty. Always returns 1.
+    /// Appends the script, even an empty one, to `scripts`. Always returns 1.
     int getTORVAL(std::vector<QString>& scripts, bool english);
     /// Returns the clause for the selected view. The result is meaningless for the split page,
     /// which has no views.

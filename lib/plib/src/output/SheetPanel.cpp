@@ -117,7 +117,7 @@ void SheetPanel::reset()
     followFormat();
 }
 
-/// Landscape sheets always have one picture, so the choice of the number is disabled for them.
+/// Landscape sheets always have one picture, so the radio group for the number is disabled.
 void SheetPanel::followFormat()
 {
     const auto format = PageFormat(m_data.formatGroup->selectedButton());
