@@ -59,7 +59,7 @@ struct Expected
     QHash<QTreeWidgetItem*, int> states;
 };
 
-/// Adds each item below an earlier item. Some items have no check box.
+/// Adds each item as a child of an earlier item. Some items have no check box.
 Items fill(QTreeWidget* tree, QRandomGenerator& random, int count)
 {
     Items all;

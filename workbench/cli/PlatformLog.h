@@ -3,8 +3,8 @@
 namespace workbench {
 
 /// Collects the platform's log messages while a program runs, so that a failed command prints only
-/// its error message with the reason from a status. The messages are for diagnosis; no code reads
-/// them.
+/// its own error message, which contains the reason. The log messages are for diagnosis; no code
+/// reads them.
 class PlatformLog
 {
 public:

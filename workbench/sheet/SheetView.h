@@ -8,8 +8,9 @@ namespace workbench {
 
 class SheetPainter;
 
-/// Shows one page of a plan in the proportions of its paper. Page Up, Page Down and the wheel
-/// scroll within a page that is larger than the view, and change the page at its top and bottom.
+/// Shows one page of a plan in the proportions of its paper. The keys Page Up and Page Down and
+/// the mouse wheel scroll within a page that is larger than the view, and show the next or the
+/// previous page at its edges.
 /// Home and End show the first and the last page. Only the current page is drawn.
 class SheetView : public QAbstractScrollArea
 {

@@ -6,8 +6,8 @@ class QPalette;
 
 namespace workbench {
 
-/// Colours of a script: statements, keywords, numbers, definitions and comments. German and English
-/// keywords are recognised by their form: they are short and in upper case.
+/// Highlights statements, keywords, numbers, definitions and comments of a script. German and
+/// English keywords are recognised by their form: they are short and in upper case.
 class ScriptColours
 {
 public:

@@ -44,8 +44,9 @@ enum SelectionId {
 } // namespace
 
 /// Moves the editor to the current cell. If a cell is selected again, its editor is closed and not
-/// reopened. Selecting a cell in a row without design also closes the editor. However, the cell of
-/// the closed editor is still stored, so that returning to this cell counts as selecting it again.
+/// reopened. Selecting a cell in a row that is not designed also closes the editor. However, the
+/// cell of the closed editor is still stored, so that returning to this cell counts as selecting it
+/// again.
 void DesignParameter::slot_editCellWidget()
 {
     Table* table = data->table;
@@ -190,7 +191,7 @@ void DesignParameter::editRecord(RowsStep name, Arguments... arguments)
     focusTable();
     if (result != QDialog::Accepted)
         return;
-    edited = plib::rowAt(*data, row); // the rows may have been reloaded during the dialog
+    edited = plib::rowAt(*data, row); // the rows may have been reloaded while the dialog was open
     if (!edited)
         return;
     const RecordedStep step(this, name, {row});

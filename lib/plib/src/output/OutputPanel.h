@@ -52,7 +52,7 @@ public:
 
     /// Returns the settings. Settings for which the page has no widgets have their default values.
     virtual OutputSettings settings() const;
-    /// Returns the settings as tagged strings for the saved string.
+    /// Returns the settings as tagged strings, which become part of the saved string.
     virtual QString savedParts() const;
     /// Shows the saved settings. Widgets whose tags are missing do not change.
     virtual void apply(const SavedPage& saved);

@@ -46,8 +46,8 @@ public:
     int clear(KeyPair pair);
     int writeFirst(KeyPair pair, const void* record, int length);
     int append(KeyPair pair, const void* record, int length);
-    /// Appends a record while no other program can write. The end of the sequence is looked up only
-    /// once and then cached.
+    /// Appends a record. The file must be locked, so that no other program can write. The end of
+    /// the sequence is looked up only once and then cached.
     int appendInside(KeyPair pair, const void* record, int length);
     /// Drops the cached ends of sequences. Call this before other programs can write again.
     void forgetEnds() { m_ends.clear(); }

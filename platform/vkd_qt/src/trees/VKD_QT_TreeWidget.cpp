@@ -96,8 +96,8 @@ void VKD_QT_TreeWidget::setColumnFitsTexts()
     connect(&m_measuring, &QTimer::timeout, this, &VKD_QT_TreeWidget::measure);
 }
 
-/// Schedules the measurement for after the tree is shown, because most trees are wide enough and
-/// should not be delayed.
+/// Postpones the measurement until the tree is shown. Most trees are already wide enough, and
+/// measuring first would delay them.
 void VKD_QT_TreeWidget::measureLater()
 {
     if (m_columnFits && isVisible())
