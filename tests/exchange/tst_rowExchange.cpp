@@ -1,6 +1,8 @@
+#include "LanguageSupport.h"
 #include "TestSupport.h"
 
 #include <exchange/patchRows.h>
+#include <exchange/rowDescription.h>
 #include <exchange/rowRecords.h>
 #include <exchange/rowTable.h>
 #include <record/designRecord.h>
@@ -31,7 +33,7 @@ class TestRowExchange : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { vkd::setDesktopLanguage(Language::English); }
+    void init() { testsupport::setLanguage(testsupport::English); }
 
     /// A table that was copied in one language can be read in the other language without losing a
     /// bit.
@@ -71,6 +73,7 @@ private Q_SLOTS:
         const Columns<QString, QString> row("text", "expected");
         row("any order and subset, both decimal signs, empty lines and columns",
             "\nCOVER\t\tArt\r\n33,5\t\tCIRCULAR\r\n\t\t\r\n34.5\t\t2\r\n", "0.0335 4|0.0345 2");
+        row("German types", "Art\nRINGFÖRMIG\nKeine  Bemessung", "0.035 4|0.035 0");
         row("an empty cell clears", "type;COVER\n1;", "-99999 1");
         row("a missing column leaves", "type\n1", "0.035 1");
         row("quoted", "\"Type\",\"COVER\"\n\"Two\nLayers\",\"1\"\"\"",
@@ -136,6 +139,47 @@ private Q_SLOTS:
             QVERIFY(rowsOfBytes(damaged).empty());
         }
         QVERIFY(rowsOfBytes(bytes.left(bytes.size() - 1)).empty());
+    }
+
+    /// The description of a row contains the values of its dialogs, even those that its cells do
+    /// not show, and no others.
+    void describing_data()
+    {
+        const Columns<int, QString> row("type", "expected");
+        row("no design", 0, "");
+        row("one direction", 1, "Direction principal 0.0 – °|CRACK");
+        row("two directions", 2, "Direction principal 0.0 – °|Direction cross – 30.0 °|CRACK");
+        row("third layer", 3,
+            "Direction principal 0.0 – °|Direction cross – 30.0 °|CRACK|"
+            "Steel stress third layer – 240.5 N/mm²");
+        row("midpoint", 4, "Direction principal 0.0 – °|Midpoint Y 2.000 m|CRACK");
+    }
+
+    void describing()
+    {
+        QFETCH(const int, type);
+        DesignParameterRow row{nullptr, {}, {3, 1, 2, 7}};
+        for (const NamedField& field : namedFields())
+            if (field.real)
+                row.record.*field.real = NotSet;
+        row.record.type = type;
+        row.record.rio = 0;
+        row.record.riuq = 0.5235988F;
+        row.record.yref = 2;
+        row.record.wkoq = 0.3F;
+        row.record.sigui = 240.5F;
+        const auto lines = describeRow(row, {{2, QStringLiteral("Slab <1>")}, {9, {}}});
+        QStringList texts;
+        for (const DescriptionLine& line : lines)
+            texts << (QStringList(line.name) + line.values + QStringList(line.unit))
+                         .join(QLatin1Char(' '))
+                         .trimmed();
+        QCOMPARE(texts.takeFirst(), QStringLiteral("Groups 1-3, 7\n2: Slab <1>"));
+        texts.removeFirst();
+        texts.replaceInStrings(QStringLiteral("Crack width cross 0.30 – mm"),
+                               QStringLiteral("CRACK"));
+        QTEST(texts.join(QLatin1Char('|')), "expected");
+        QVERIFY(descriptionHtml(lines, {}).contains(QLatin1String("2: Slab &lt;1&gt;")));
     }
 
     /// In this test, each letter represents a row.

@@ -6,9 +6,12 @@
 #include <VKD_H_ProjectDialogPage.h>
 
 #include <QAbstractItemView>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QToolTip>
 
 #include <cstring>
 
@@ -288,6 +291,59 @@ private Q_SLOTS:
         desk.page->showHelp();
         QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != &desk);
         QApplication::activeWindow()->close();
+    }
+
+    /// A wide page gives its room to the columns, but a column that the user has dragged keeps its
+    /// width.
+    void columnWidths()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0)});
+        const auto widths = [&desk](int width) {
+            desk.resize(width, 500);
+            QTest::qWait(0);
+            QStringList texts;
+            for (int column = 0; column < desk.table()->columnCount(); ++column)
+                texts << QString::number(desk.table()->columnWidth(column));
+            const int room = desk.table()->viewport()->width();
+            return texts.join(QLatin1Char(' ')) +
+                   (desk.table()->horizontalHeader()->length() == room ? QStringLiteral(" full")
+                                                                       : QString());
+        };
+        widths(1000);
+        const int margin = 1000 - desk.table()->viewport()->width();
+        QCOMPARE(widths(2 * 740 + margin), QStringLiteral("300 300 400 240 240 full"));
+        QCOMPARE(widths(1000 + margin), QStringLiteral("202 202 270 163 163 full"));
+        desk.table()->horizontalHeader()->resizeSection(2, 50);
+        QCOMPARE(widths(2 * 540 + 50 + margin), QStringLiteral("300 300 50 240 240 full"));
+        desk.table()->horizontalHeader()->resizeSection(0, 1000);
+        QCOMPARE(widths(1000 + margin), QStringLiteral("1000 150 50 120 120"));
+        VKD_P_DesignParameter page(m_project->doc(), m_project->doc(), nullptr, false, false);
+        page.init();
+        page.readZob(); // before the first show
+        page.resize(1000, 500);
+        page.show();
+        const auto table = find<QTableWidget>(page, "table");
+        QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
+    }
+
+    /// The tool tip of each cell shows the whole row, also over an editor, and fits on the screen.
+    void rowToolTips()
+    {
+        const std::vector<tagZOB_QUAD_RIM> records{record(-1, 1, 0), record(3, 2, 1)};
+        DesignDesk desk(*m_project, records);
+        const auto shown = [&desk](QWidget* widget, const QPoint& point) {
+            QHelpEvent help(QEvent::ToolTip, point, widget->mapToGlobal(point));
+            QApplication::sendEvent(widget, &help);
+            return QToolTip::text();
+        };
+        desk.table()->setCurrentCell(1, 3);
+        QWidget* viewport = desk.table()->viewport();
+        const QRect cell = desk.table()->visualItemRect(desk.table()->item(1, 2));
+        const QString text = shown(viewport, cell.center());
+        QVERIFY2(text.contains(QLatin1String(">Direction cross<")), qPrintable(text));
+        QCOMPARE(shown(desk.table()->cellWidget(1, 3), {5, 5}), text);
+        QVERIFY(shown(viewport, {5, 5}) != text);
+        QToolTip::hideText();
     }
 
     /// A row loses its mark when it loses its last shared group. Delete clears the selected entry,

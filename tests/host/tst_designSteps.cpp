@@ -180,6 +180,27 @@ private Q_SLOTS:
         QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups"));
     }
 
+    /// Steps that change very many rows are dropped, oldest first. The others still work.
+    void oldStepsAreDropped()
+    {
+        std::vector<tagZOB_QUAD_RIM> records;
+        for (int group = 1; group <= 10000; ++group)
+            records.push_back(record(group, group % 2, 0));
+        DesignDesk desk(*m_project, records);
+        desk.table()->selectAll();
+        for (int type : {4, 3, 2, 4, 3, 2}) {
+            QApplication::clipboard()->setText(QStringLiteral("Type\n%1").arg(type));
+            QTest::keyClick(desk.table(), Qt::Key_V, Qt::ControlModifier);
+        }
+        const auto undo = find<QAction>(*desk.page, "undo");
+        int count = 0;
+        for (; undo->isEnabled(); ++count)
+            undo->trigger();
+        QCOMPARE(count, 5);
+        QCOMPARE(desk.table()->item(9999, 1)->text(), QStringLiteral("Circular"));
+        QCOMPARE(desk.table()->selectionModel()->selectedRows(1).size(), 10000);
+    }
+
 private:
     std::unique_ptr<HostProject> m_project;
 };

@@ -8,6 +8,24 @@
 #include <VKD_A_BarDiameterData.h>
 #include <vkd_lib_value.h>
 
+#include <QTextBoundaryFinder>
+
+namespace {
+/// Returns the painted form of a summary with "|" at each place where a line can break.
+QString brokenText(const QString& summary)
+{
+    const QString painted = plib::withBreaksBetweenValues(summary);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, painted);
+    QStringList lines;
+    for (int begin = 0, end = finder.toNextBoundary(); end > 0;
+         begin = end, end = finder.toNextBoundary())
+        lines << painted.mid(begin, end - begin)
+                     .replace(QChar(QChar::Nbsp), QLatin1Char(' '))
+                     .remove(QRegularExpression(QStringLiteral("[\\x{200B}\\x{2060}\\n]")));
+    return lines.join(QLatin1Char('|'));
+}
+} // namespace
+
 class TestRowText : public QObject
 {
     Q_OBJECT
@@ -145,6 +163,12 @@ private Q_SLOTS:
         for (int column = 1; column < 5; ++column)
             texts << plib::rowText(row, column);
         QTEST(texts, "expected");
+        for (int column = 1; column < 4; ++column)
+            QCOMPARE(brokenText(texts[column]),
+                     QString(texts[column])
+                         .replace(QLatin1Char('\n'), QLatin1String("|"))
+                         .replace(QLatin1String(" ;"), QLatin1String(" ;|"))
+                         .remove(QRegularExpression(QStringLiteral("\\|$"))));
         QCOMPARE(plib::rowText(row, 5), QString());
         QCOMPARE(plib::rowText(row, -1), QString());
     }

@@ -5,6 +5,7 @@
 #include <vkd_status.h>
 #include <ZobHandle.h>
 
+#include <QHash>
 #include <QString>
 #include <QVector>
 
@@ -45,6 +46,10 @@ struct GroupSummary
 VKD_DBO_EXPORT QVector<GroupSummary> readGroups(ZobHandle project, VkdStatus* status = nullptr);
 VKD_DBO_EXPORT QVector<GroupSummary> readSecondaryGroups(ZobHandle project,
                                                          VkdStatus* status = nullptr);
+
+/// Returns the titles of all primary and secondary groups without reading the
+/// elements. The keys are numbers as in lists of groups, with packed names of secondary groups.
+VKD_DBO_EXPORT QHash<int, QString> readGroupTitles(ZobHandle project);
 
 } // namespace dbo
 } // namespace vkd

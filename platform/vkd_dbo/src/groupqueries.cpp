@@ -1,5 +1,6 @@
 #include "recordlist.h"
 #include "vkd_dbo_groups.h"
+#include "vkd_dbo_packedNames.h"
 
 #include <ZobSnapshot.h>
 
@@ -80,6 +81,21 @@ QVector<GroupSummary> readSecondaryGroups(ZobHandle project, VkdStatus* status)
         summaries.append({0, group.name, group.title, contents});
     }
     return summaries;
+}
+
+QHash<int, QString> readGroupTitles(ZobHandle project)
+{
+    const ZobSnapshot snapshot(project);
+    QVector<Group> groups;
+    QVector<SecondaryGroup> secondary;
+    readList(project, keys::Groups, groups);
+    readList(project, keys::SecondaryGroups, secondary);
+    QHash<int, QString> titles;
+    for (const Group& group : qAsConst(groups))
+        titles.insert(group.number, group.title);
+    for (const SecondaryGroup& group : qAsConst(secondary))
+        titles.insert(packedName(group.name), group.title);
+    return titles;
 }
 
 } // namespace dbo

@@ -11,6 +11,7 @@ class QTableWidgetItem;
 
 /// A button over a cell of a table. It always shows the current text of the cell and a mark that
 /// indicates that a click opens a dialog. Text that is too long is elided and shown in a tool tip.
+/// The text is painted in the same form as by the delegate of the cell.
 class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
 {
     Q_OBJECT
@@ -33,6 +34,7 @@ protected:
 
 private:
     QString itemText() const;
+    QString shownText() const;
     void takeName();
     bool fits(const QRect& area) const;
     void paintText(QStylePainter* painter, const QStyleOptionButton& option,

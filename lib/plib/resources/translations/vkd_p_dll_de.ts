@@ -617,6 +617,17 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
 </context>
 <context>
+    <name>RowDescription</name>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+</context>
+<context>
     <name>RowTable</name>
     <message>
         <source>&quot;%1&quot; is too large</source>

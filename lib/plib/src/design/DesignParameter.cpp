@@ -5,6 +5,7 @@
 #include "design/DesignParameterTable.h"
 #include "design/RowsClipboard.h"
 #include "design/RowsHistory.h"
+#include "design/RowToolTip.h"
 #include "record/designEntries.h"
 #include "record/designRows.h"
 #include "record/designStore.h"
@@ -82,6 +83,7 @@ void DesignParameter::init()
     connectTable();
     new plib::RowsHistory(this);
     new plib::RowsClipboard(this);
+    new plib::RowToolTip(this);
     setFocusProxy(data->table);
     editRow = -1;
     editColumn = -1;

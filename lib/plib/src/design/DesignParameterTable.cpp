@@ -17,7 +17,6 @@ DesignParameterTable::DesignParameterTable(QWidget* parent)
     horizontalHeader()->setHighlightSections(false); // bold headers would be truncated
     verticalHeader()->setDefaultSectionSize(MostLines * fontMetrics().lineSpacing() + RowMargin);
     verticalHeader()->setMinimumSectionSize(2 * fontMetrics().lineSpacing() + RowMargin);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &DesignParameterTable::fitRows);
 }
 
 void DesignParameterTable::fitRow(int row)

@@ -1,6 +1,8 @@
 #include "design/designColumns.h"
 
+#include "design/ColumnRoom.h"
 #include "design/DesignParameterTable.h"
+#include "design/SummaryDelegate.h"
 #include "record/rowText.h"
 
 #include <VKD_H_TableItems.h>
@@ -53,6 +55,9 @@ void buildDesignColumns(DesignParameterTable* table)
     table->resizeColumnsToContents();
     for (const Column& column : Columns)
         table->setColumnWidth(table->getColumnNumber(column.id), column.width);
+    for (int column = Table::DirectionAndDistance; column < Table::ColumnCount; ++column)
+        table->setItemDelegateForColumn(column, new SummaryDelegate(table));
+    new ColumnRoom(table);
 }
 
 } // namespace plib

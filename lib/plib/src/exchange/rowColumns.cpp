@@ -6,6 +6,7 @@
 #include <VKD_H_UnitLabel.h>
 
 #include <QHash>
+#include <QTranslator>
 
 #include <algorithm>
 #include <iterator>
@@ -28,21 +29,9 @@ struct Words
 
 constexpr vkd::Language Languages[] = {vkd::Language::German, vkd::Language::English};
 
-constexpr Words Types[] = {
-    {"Keine Bemessung", DesignTypeNames[0]}, {"Zwei Lagen (orthogonal)", DesignTypeNames[1]},
-    {"Zwei Lagen", DesignTypeNames[2]},      {"Drei Lagen", DesignTypeNames[3]},
-    {"Ringförmig", DesignTypeNames[4]},
-};
-
-constexpr Words NoGroups{"Keine", "None"};
-constexpr Words RemainingGroups{"Übrige Gruppen", "Remaining Groups"};
-
-/// The names of the six places, in the order of SixFields.
-constexpr Words Places[] = {
-    {"oben Hauptbewehrung", "upper principal"}, {"oben Querbewehrung", "upper cross"},
-    {"oben dritte Lage", "upper third layer"},  {"unten Hauptbewehrung", "lower principal"},
-    {"unten Querbewehrung", "lower cross"},     {"unten dritte Lage", "lower third layer"},
-};
+constexpr Words Sides[] = {{"oben", "upper"}, {"unten", "lower"}};
+constexpr Words Layers[] = {
+    {"Hauptbewehrung", "principal"}, {"Querbewehrung", "cross"}, {"dritte Lage", "third layer"}};
 
 /// The symbols are the same as in the dialog: DH and DDH are the distances of a layer from the
 /// previous layer.
@@ -63,32 +52,52 @@ QString withUnit(const QString& name, RealField field)
     return QStringLiteral("%1 [%2]").arg(name, unit);
 }
 
-RowColumn valueColumn(RealField field, const Words& name, const Words& place)
+RowColumn valueColumn(RealField field, const Words& name, std::size_t side, const Words& layer)
 {
-    RowColumn column{RowColumn::Value, field, {}};
-    for (vkd::Language language : Languages)
-        column.heads[int(language)] =
-            withUnit((name.in(language) + QLatin1Char(' ') + place.in(language)).trimmed(), field);
+    RowColumn column{RowColumn::Value, field, {}, {}, int(side)};
+    for (vkd::Language language : Languages) {
+        const QString place = Sides[side].in(language) + QLatin1Char(' ') + layer.in(language);
+        const QString start = name.in(language) + QLatin1Char(' ');
+        column.heads[int(language)] = withUnit(start + place, field);
+        column.names[int(language)] = start + layer.in(language);
+    }
     return column;
+}
+
+RowColumn midpointColumn(RealField field, const Words& name)
+{
+    RowColumn column{RowColumn::Value, field, {}, {}, 0};
+    for (vkd::Language language : Languages) {
+        column.heads[int(language)] = withUnit(name.in(language), field);
+        column.names[int(language)] = name.in(language);
+    }
+    return column;
+}
+
+/// Adds the columns of one kind. The fields of the upper side precede those of the lower side.
+template <typename NameOfLayer>
+void addSix(std::vector<RowColumn>* columns, const SixFields& fields, const NameOfLayer& name)
+{
+    constexpr std::size_t LayerCount = std::size(Layers);
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        columns->push_back(
+            valueColumn(fields[i], name(i % LayerCount), i / LayerCount, Layers[i % LayerCount]));
 }
 
 void addSix(std::vector<RowColumn>* columns, const SixFields& fields, const Words& name)
 {
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        columns->push_back(valueColumn(fields[i], name, Places[i]));
+    addSix(columns, fields, [&name](std::size_t) { return name; });
 }
 
 std::vector<RowColumn> makeColumns()
 {
     std::vector<RowColumn> columns{
-        {RowColumn::Groups, nullptr, {QStringLiteral("Gruppen"), QStringLiteral("Groups")}},
-        {RowColumn::Type, nullptr, {QStringLiteral("Art"), QStringLiteral("Type")}}};
+        {RowColumn::Groups, nullptr, {QStringLiteral("Gruppen"), QStringLiteral("Groups")}, {}, 0},
+        {RowColumn::Type, nullptr, {QStringLiteral("Art"), QStringLiteral("Type")}, {}, 0}};
     addSix(&columns, fields::Directions, {"Richtung", "Direction"});
-    for (std::size_t i = 0; i < fields::Distances.size(); ++i)
-        columns.push_back(valueColumn(fields::Distances[i],
-                                      DistanceNames[i % std::size(DistanceNames)], Places[i]));
+    addSix(&columns, fields::Distances, [](std::size_t layer) { return DistanceNames[layer]; });
     for (std::size_t i = 0; i < fields::Reference.size(); ++i)
-        columns.push_back(valueColumn(fields::Reference[i], MidpointNames[i], {"", ""}));
+        columns.push_back(midpointColumn(fields::Reference[i], MidpointNames[i]));
     addSix(&columns, fields::Diameters, {"Durchmesser", "Diameter"});
     addSix(&columns, fields::Minimum, {"Mindestbewehrung", "Minimum reinforcement"});
     addSix(&columns, fields::Maximum, {"Höchstbewehrung", "Maximum reinforcement"});
@@ -102,10 +111,47 @@ QString folded(const QString& text)
     return text.simplified().toCaseFolded();
 }
 
-bool isOneOf(const QString& text, const Words& words)
+/// The texts of the page that tables contain, in German. The German texts are in the translations
+/// of the page and are needed even if the desktop language is English.
+class GermanTexts
+{
+public:
+    static QString of(const char* english)
+    {
+        static const GermanTexts texts;
+        return texts.m_texts.value(QLatin1String(english), QLatin1String(english));
+    }
+
+private:
+    GermanTexts()
+    {
+        QTranslator translator; // not installed
+        if (!translator.load(QStringLiteral(":/translations/vkd_p_dll_de.qm")))
+            return;
+        for (const char* name : DesignTypeNames)
+            add(translator, name);
+        add(translator, NoGroupsText);
+        add(translator, RemainingGroupsText);
+    }
+
+    void add(const QTranslator& translator, const char* english)
+    {
+        m_texts.insert(QLatin1String(english), translator.translate("DesignParameter", english));
+    }
+
+    QHash<QString, QString> m_texts;
+};
+
+QString pageText(const char* english, vkd::Language language)
+{
+    return language == vkd::Language::German ? GermanTexts::of(english)
+                                             : QString::fromLatin1(english);
+}
+
+bool isPageText(const QString& text, const char* english)
 {
     return std::any_of(std::begin(Languages), std::end(Languages), [&](vkd::Language language) {
-        return folded(text) == folded(words.in(language));
+        return folded(text) == folded(pageText(english, language));
     });
 }
 } // namespace
@@ -133,27 +179,34 @@ QString headOf(const RowColumn& column, vkd::Language language)
     return column.heads[int(language)];
 }
 
+QString nameOf(const RowColumn& column, vkd::Language language)
+{
+    return column.names[int(language)];
+}
+
 QString typeName(int type, vkd::Language language)
 {
-    return type < 0 || type >= int(std::size(Types)) ? QString() : Types[type].in(language);
+    return type < 0 || type >= int(std::size(DesignTypeNames))
+               ? QString()
+               : pageText(DesignTypeNames[type], language);
 }
 
 int typeOfText(const QString& text)
 {
-    for (int type = 0; type < int(std::size(Types)); ++type)
-        if (isOneOf(text, Types[type]) || text.trimmed() == QString::number(type))
+    for (int type = 0; type < int(std::size(DesignTypeNames)); ++type)
+        if (isPageText(text, DesignTypeNames[type]) || text.trimmed() == QString::number(type))
             return type;
     return -1;
 }
 
 bool isNoGroupsText(const QString& text)
 {
-    return isOneOf(text, NoGroups);
+    return isPageText(text, NoGroupsText);
 }
 
 bool isRemainingGroupsText(const QString& text)
 {
-    return isOneOf(text, RemainingGroups);
+    return isPageText(text, RemainingGroupsText);
 }
 
 } // namespace plib

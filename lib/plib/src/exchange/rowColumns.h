@@ -16,6 +16,8 @@ struct RowColumn
     Kind kind;
     RealField field;  ///< null unless the column contains a value
     QString heads[2]; ///< header in German and English; includes the unit of a value
+    QString names[2]; ///< name of a value without its side and unit: the same for both sides
+    int side;         ///< 1 for a value of the lower side, otherwise 0
 };
 
 /// Returns all columns in the order in which they are written.
@@ -26,6 +28,7 @@ const std::vector<RowColumn>& rowColumns();
 const RowColumn* columnWithHead(const QString& head);
 
 QString headOf(const RowColumn& column, vkd::Language language);
+QString nameOf(const RowColumn& column, vkd::Language language);
 
 /// typeName() converts a design type to its name. typeOfText() converts a name in any language or a
 /// number to the type, and returns -1 if there is no such type.

@@ -99,9 +99,9 @@ QString summaryText(const DesignParameterRow& row, int column)
 QString groupsText(const std::vector<int>& groups)
 {
     if (groups.empty())
-        return PageText::tr("None");
+        return PageText::tr(NoGroupsText);
     if (isRemainingGroups(groups))
-        return PageText::tr("Remaining Groups");
+        return PageText::tr(RemainingGroupsText);
     QStringList texts;
     for (int group : groups)
         texts << groupText(group);
@@ -121,6 +121,25 @@ QString groupText(int group)
 {
     return group < vkd::dbo::FirstPackedName ? QString::number(group)
                                              : vkd::dbo::unpackedName(group);
+}
+
+QString withBreaksBetweenValues(const QString& summary)
+{
+    constexpr ushort WordJoiner = 0x2060;
+    constexpr ushort ZeroWidthSpace = 0x200B;
+    QString text;
+    text.reserve(2 * summary.size());
+    for (int i = 0; i < summary.size(); ++i) {
+        const QChar character = summary[i];
+        const bool isEndOfValue = character == QLatin1Char(';');
+        const bool isInValue = character.isPunct() || character == QLatin1Char(' ');
+        text += character == QLatin1Char(' ') ? QChar(QChar::Nbsp) : character;
+        if (isEndOfValue)
+            text += QChar(ZeroWidthSpace);
+        else if (isInValue)
+            text += QChar(WordJoiner);
+    }
+    return text;
 }
 
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit)

@@ -16,6 +16,12 @@ constexpr const char* DesignTypeNames[] = {
     QT_TRANSLATE_NOOP("DesignParameter", "Circular"),
 };
 
+/// The untranslated texts of the groups column for rows without groups and for the remaining
+/// groups.
+constexpr const char* NoGroupsText = QT_TRANSLATE_NOOP("DesignParameter", "None");
+constexpr const char* RemainingGroupsText =
+    QT_TRANSLATE_NOOP("DesignParameter", "Remaining Groups");
+
 /// Returns a summary of one or two lines for a column of the row. The columns are 0 for groups, 1
 /// for the type, 2 for directions and distances, 3 for reinforcement and 4 for crack control.
 /// Returns an empty string for other columns, and in columns 2 to 4 for a type without design.
@@ -27,5 +33,9 @@ QString valueText(const DesignParameterRow& row, float value, int code, const QS
 
 /// Returns the number of a primary group or the name of a secondary group.
 QString groupText(int group);
+
+/// Returns a summary with invisible characters that allow line breaks only after " ;", so that no
+/// value is separated from its unit. For painting; the text of the cell stays as it is.
+QString withBreaksBetweenValues(const QString& summary);
 
 } // namespace plib

@@ -1,6 +1,7 @@
 #include "VKD_QT_TableWidgetButton.h"
 
 #include <QHelpEvent>
+#include <QStyledItemDelegate>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QTableWidget>
@@ -67,6 +68,16 @@ QString VKD_QT_TableWidgetButton::itemText() const
     return m_index.data().toString();
 }
 
+QString VKD_QT_TableWidgetButton::shownText() const
+{
+    const auto view = qobject_cast<const QTableWidget*>(
+        m_index.isValid() ? static_cast<const QObject*>(m_index.model())->parent() : nullptr);
+    const auto delegate =
+        qobject_cast<const QStyledItemDelegate*>(view ? view->itemDelegate(m_index) : nullptr);
+    const QString text = delegate ? delegate->displayText(m_index.data(), locale()) : itemText();
+    return QString(text).replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
+}
+
 QSize VKD_QT_TableWidgetButton::sizeHint() const
 {
     QSize size = fontMetrics().size(0, itemText()) + QSize(2 * Margin, 2 * Margin);
@@ -97,7 +108,7 @@ void VKD_QT_TableWidgetButton::paintEvent(QPaintEvent*)
 
 bool VKD_QT_TableWidgetButton::fits(const QRect& area) const
 {
-    const QRect needed = fontMetrics().boundingRect(area, Wrapped, itemText());
+    const QRect needed = fontMetrics().boundingRect(area, Wrapped, shownText());
     return needed.height() <= area.height() && needed.width() <= area.width();
 }
 
@@ -109,7 +120,7 @@ void VKD_QT_TableWidgetButton::paintText(QStylePainter* painter, const QStyleOpt
     const bool isWhole = fits(area);
     painter->drawItemText(area, isWhole ? Wrapped : int(Qt::AlignCenter), option.palette,
                           isEnabled(),
-                          isWhole ? itemText() : elided(itemText(), fontMetrics(), area.width()),
+                          isWhole ? shownText() : elided(shownText(), fontMetrics(), area.width()),
                           QPalette::ButtonText);
 }
 
