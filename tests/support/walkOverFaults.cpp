@@ -3,6 +3,8 @@
 #include "FaultyDisk.h"
 #include "TestSupport.h"
 
+#include <vkd_zob.h>
+
 #include <QDir>
 #include <QMap>
 
@@ -32,6 +34,29 @@ void setFiles(const QString& folder, const Files& files)
         writeFile(QDir(folder).filePath(file.key()), file.value());
 }
 
+/// Returns all records, or a string that is not a record if they cannot be read.
+QByteArray stateOf(const QString& project)
+{
+    constexpr int Title = 10; // key of a single record, which contains a random number
+    if (!QFile::exists(project))
+        return "no file";
+    int index = -1;
+    if (!vkd_zob_open(project.toUtf8(), &index).isOk())
+        return "unreadable";
+    QByteArray records, record(1100000, Qt::Uninitialized);
+    int key1 = 0, key2 = 0;
+    for (vkd_zob_kenq_ex(index, &key1, &key2, 1); key1 >= 0;
+         vkd_zob_kenq_ex(index, &key1, &key2, 1)) {
+        int length = record.size();
+        for (int i = key1 == Title; vkd_zob_get(index, key1, key2, record.data(), &length, i) == 0;
+             ++i, length = record.size())
+            records += record.left(length) + '|';
+        ++key2;
+    }
+    vkd_zob_close(index);
+    return records;
+}
+
 class Walk
 {
     // Defined before it is used, because its return type is deduced.
@@ -49,9 +74,9 @@ public:
         : m_folder(folder)
         , m_operation(operation)
         , m_filesBefore(filesIn(folder))
-        , m_old(onSoundDisk(operation.state))
+        , m_old(state())
         , m_reason(onSoundDisk(operation.run))
-        , m_new(onSoundDisk(operation.state))
+        , m_new(state())
         , m_namesAfter(filesIn(folder).keys())
     {
         expect(m_reason.isEmpty(), "it fails on a sound disk");
@@ -89,7 +114,7 @@ private:
 
     void checkResult(Fault fault)
     {
-        m_state = onSoundDisk(m_operation.state); // also rolls back a journal
+        m_state = state();
         const QStringList left = filesIn(m_folder).keys();
         expect(m_state == m_old || m_state == m_new, "neither the old state nor the new one");
         if (m_reason.isEmpty())
@@ -112,8 +137,14 @@ private:
             return;
         m_reason = onSoundDisk(m_operation.run);
         expect(m_reason.isEmpty(), "repeating it fails");
-        expect(onSoundDisk(m_operation.state) == m_new, "repeating it stores another state");
+        expect(state() == m_new, "repeating it stores another state");
         expect(filesIn(m_folder).keys() == m_namesAfter, "repeating it leaves files");
+    }
+
+    /// Also rolls back a journal.
+    QByteArray state() const
+    {
+        return onSoundDisk([this] { return stateOf(m_operation.project); });
     }
 
     static bool isCut(Fault fault) { return fault == Fault::PowerCut || fault == Fault::TornCut; }

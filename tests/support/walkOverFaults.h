@@ -13,9 +13,8 @@ struct Operation
     /// Returns the reason if the operation failed, otherwise an empty string. No file is open
     /// before or after the call.
     std::function<QString()> run;
-    /// Returns the stored state.
-    std::function<QByteArray()> state;
-    int stride = 1; ///< distance between the calls that are made to fail
+    QString project; ///< the file that the operation reads or writes
+    int stride = 1;  ///< distance between the calls that are made to fail
 };
 
 /// Runs the operation with each fault of FaultyDisk at each of its calls. Afterwards either the old

@@ -12,45 +12,51 @@ Q_DECLARE_METATYPE(Run)
 namespace {
 constexpr int NumberOfRecords = 30;
 
-/// Opens a project, writes records to it and closes it.
-VkdStatus change(const QString& path, const Records& records)
+/// Opens a project, calls the function with its index, and closes it.
+template <typename Function>
+VkdStatus inProject(const QString& path, const Function& function)
 {
     int index = -1;
-    const VkdStatus opened = vkd_zob_open(path.toUtf8(), &index);
-    if (!opened.isOk())
-        return opened;
-    vkd_zob_lock_ex(index, 1, 1);
-    put(index, 1, 1, QByteArray(), 0);
-    for (const QByteArray& record : records)
-        put(index, 1, 1, record, 1);
-    vkd_zob_free_ex(index, 1, 1);
-    const VkdStatus status = vkd_zob_change_status(index);
+    VkdStatus status = vkd_zob_open(path.toUtf8(), &index);
+    if (status.isOk())
+        status = function(index);
     vkd_zob_close(index);
     return status;
+}
+
+VkdStatus change(const QString& path, const Records& records)
+{
+    return inProject(path, [&records](int index) {
+        vkd_zob_lock_ex(index, 1, 1);
+        put(index, 1, 1, QByteArray(), 0);
+        for (const QByteArray& record : records)
+            put(index, 1, 1, record, 1);
+        vkd_zob_free_ex(index, 1, 1);
+        return vkd_zob_change_status(index);
+    });
+}
+
+VkdStatus putNew(int index)
+{
+    return put(index, 1, 1, "new", 0) == VKD_ZOB_OK ? VkdStatus() : vkd_zob_last_failure(index);
 }
 
 VkdStatus putFirst(const QString& path)
 {
-    int index = -1;
-    VkdStatus status = vkd_zob_open(path.toUtf8(), &index);
-    if (status.isOk() && put(index, 1, 1, "new", 0) != VKD_ZOB_OK)
-        status = vkd_zob_last_failure(index);
-    vkd_zob_close(index);
-    return status;
+    return inProject(path, putNew);
 }
 
 VkdStatus read(const QString& path)
 {
-    int index = -1;
-    VkdStatus status = vkd_zob_open(path.toUtf8(), &index);
-    cd_error_t end = VKD_ZOB_END;
-    const Records records = status.isOk() ? readAll(index, 1, &end) : Records();
-    if (end != VKD_ZOB_END)
-        status = vkd_zob_last_failure(index);
-    else if (status.isOk() && records.size() != NumberOfRecords)
-        status = VkdStatus::failure(VKD_ZOB_FAILED, QStringLiteral("records are missing"));
-    vkd_zob_close(index);
-    return status;
+    return inProject(path, [](int index) {
+        cd_error_t end = VKD_ZOB_END;
+        const int count = readAll(index, 1, &end).size();
+        if (end != VKD_ZOB_END)
+            return vkd_zob_last_failure(index);
+        return count == NumberOfRecords
+                   ? VkdStatus()
+                   : VkdStatus::failure(VKD_ZOB_FAILED, QStringLiteral("records are missing"));
+    });
 }
 
 VkdStatus place(const QString& path)
@@ -60,24 +66,10 @@ VkdStatus place(const QString& path)
         return place.status();
     int index = -1;
     VkdStatus status = vkd_zob_create(place.temporaryPath().toUtf8(), &index);
-    if (status.isOk() && put(index, 1, 1, "new", 0) != VKD_ZOB_OK)
-        status = vkd_zob_last_failure(index);
+    if (status.isOk())
+        status = putNew(index);
     vkd_zob_close(index);
     return status.isOk() ? place.commit() : status;
-}
-
-/// Returns the records, or a string that is not a record if they cannot be read.
-QByteArray state(const QString& path)
-{
-    if (!QFile::exists(path))
-        return "no file";
-    int index = -1;
-    if (!vkd_zob_open(path.toUtf8(), &index).isOk())
-        return "unreadable";
-    cd_error_t end = VKD_ZOB_OK;
-    const Records records = readAll(index, 1, &end);
-    vkd_zob_close(index);
-    return end == VKD_ZOB_END ? records.join('|') : "incomplete";
 }
 } // namespace
 
@@ -117,8 +109,8 @@ private Q_SLOTS:
         const QString path = folder.filePath(QStringLiteral("p"));
         ZobLog log;
         prepare(path, before);
-        testsupport::walkOverFaults(
-            folder.path(), {[&] { return run(path).reason; }, [&] { return state(path); }, stride});
+        testsupport::walkOverFaults(folder.path(),
+                                    {[&] { return run(path).reason; }, path, stride});
     }
 
 private:
