@@ -73,8 +73,8 @@ RowsHistory::RowsHistory(DesignParameter* page)
         m_page->addAction(action);
         m_page->state().table->addAction(action); // for its menu
     };
-    prepare(m_undo, "undo", {Qt::CTRL | Qt::Key_Z}, &QUndoStack::undo);
-    prepare(m_redo, "redo", {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
+    prepare(m_undo, "undo", {Qt::CTRL + Qt::Key_Z}, &QUndoStack::undo);
+    prepare(m_redo, "redo", {Qt::CTRL + Qt::SHIFT + Qt::Key_Z, Qt::CTRL + Qt::Key_Y},
             &QUndoStack::redo);
     connect(&m_stack, &QUndoStack::indexChanged, this, &RowsHistory::showSteps);
     showSteps();
