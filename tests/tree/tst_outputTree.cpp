@@ -1,9 +1,41 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
+#include <tree/selectionText.h>
+
 using plib::OutputNode;
 using testsupport::line;
 
+/// Returns a tree with two plots that have identifiers and three rows each, and two plots with
+/// plain captions.
+static QByteArray catalogue()
+{
+    return line("@A__ A|@B__ B|@C__ C", "last-l") + line("@A__ A|@B__ B|@D__ D", "last-l") +
+           line("E|F|G", " ") + line("E|F|H", " ");
+}
+
+static void makeTree(OutputNode* root)
+{
+    testsupport::build(root, testsupport::parse(catalogue()), testsupport::rows(3));
+}
+
+/// Returns the states of all items as one word, from top to bottom.
+static QString states(const OutputNode* parent)
+{
+    QString word;
+    for (int i = 0; i < parent->childCount(); ++i)
+        word += QLatin1Char(".-x"[parent->child(i)->checkState(0)]) + states(parent->child(i));
+    return word;
+}
+
+static void setBranch(OutputNode* node, Qt::CheckState state)
+{
+    node->setCheckState(0, state);
+    for (int i = 0; i < node->childCount(); ++i)
+        setBranch(node->child(i), state);
+}
+
+/// Tests building a tree, and storing and restoring the user's selection in it.
 class TestOutputTree : public QObject
 {
     Q_OBJECT
@@ -91,6 +123,102 @@ private Q_SLOTS:
         records[0].title3.clear();
         testsupport::build(&other, records, {});
         QCOMPARE(other.childCount(), 0);
+    }
+
+    void storesAndRestores()
+    {
+        OutputNode root;
+        makeTree(&root);
+        OutputNode* plots = root.child(0)->child(0);
+        setBranch(plots->child(0)->child(0), Qt::Checked);
+        setBranch(plots->child(0)->child(2), Qt::Checked);
+        setBranch(plots->child(1), Qt::Checked);
+        setBranch(root.child(1)->child(0)->child(0), Qt::Unchecked);
+        plib::settleBranch(&root);
+        const QString text = plib::selectionText(&root);
+        QCOMPARE(text, QStringLiteral(
+                           "\nPartially:@A__   @B__   @C__ : 1,3,\nChecked:@A__   @B__   @D__\n"
+                           "Unchecked:001    002    003\nChecked:001    002    003\n"));
+        OutputNode fresh;
+        makeTree(&fresh);
+        plib::applySelection(&fresh, text);
+        // Plain captions share an identifier, so the last line applies only to the last plot.
+        QCOMPARE(states(&fresh), states(&root));
+        QCOMPARE(plib::selectionText(&fresh), text);
+    }
+
+    void apply_data()
+    {
+        const Columns<QString, QString> row("text", "expected");
+        // A, B, C and its rows, D and its rows, E, F, G, H
+        row("everything else is unchecked", "Checked:nothing like it", "...... .... ....");
+        row("top level", "Checked:@A__", "xxxxxx xxxx ....");
+        row("later lines win", "Checked:@A__\nUnchecked:@A__   @B__   @D__", "--xxxx .... ....");
+        row("a caption over its plots", "Checked:@A__   @B__   @C__\nUnchecked:@A__   @B__",
+            "...... .... ....");
+        row("blanks around the identifier", "Checked:  @A__   @B__ ", "xxxxxx xxxx ....");
+        row("empty parts are dropped", ":Checked::@A__\n\n", "xxxxxx xxxx ....");
+        row("the last of equal identifiers", "Checked:001    002    003", "...... .... --.x");
+        row("rows by number", "Partially:@A__   @B__   @C__ : 2, 3 ,", "---.xx .... ....");
+        row("all rows by number", "Partially:@A__   @B__   @C__ : 3,2,1", "--xxxx .... ....");
+        row("a row that is not there", "Partially:@A__   @B__   @C__ : 7,", "...... .... ....");
+        row("no number is 0 and meets a plot", "Partially:@A__   @B__ : x", "--.... xxxx ....");
+        row("no third part", "Checked:@A__\nPartially:@A__   @B__", "xxxxxx xxxx ....");
+        row("partially unchecks what it does not name",
+            "Checked:@A__\nPartially:@A__   @B__   @C__ : 1,", "---x.. xxxx ....");
+        row("unknown words and short lines are skipped",
+            "checked:@A__\nChecked\n:\nERROR CASE\nNo:@A__\nChecked:@A__   @B__   @D__",
+            "--.... xxxx ....");
+        row("a comma without a number", "Partially:@A__   @B__ : 7,", "...... .... ....");
+        row("the number after the identifier is not read", "Checked:@A__:%2", "xxxxxx xxxx ....");
+    }
+
+    void apply()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        OutputNode root;
+        makeTree(&root);
+        plib::applySelection(&root, text);
+        QCOMPARE(states(&root), expected.remove(QLatin1Char(' ')));
+    }
+
+    void emptyTextLeavesTheTree()
+    {
+        OutputNode root;
+        makeTree(&root);
+        const QString before = states(&root);
+        plib::applySelection(&root, QString());
+        plib::applySelection(&root, QStringLiteral("\n\n"));
+        QCOMPARE(states(&root), before);
+    }
+
+    void foreignItems()
+    {
+        OutputNode root;
+        root.addChild(QStringLiteral("No Entries in database!"))->plain = true;
+        root.child(0)->setCheckState(0,
+                                     Qt::PartiallyChecked); // a careless loop would change it
+        plib::applySelection(&root, QStringLiteral("Checked:001"));
+        QCOMPARE(root.child(0)->checkState(0), Qt::PartiallyChecked);
+        QCOMPARE(plib::selectionText(&root), QStringLiteral("\n"));
+
+        OutputNode leaves; // states and levels that the library's trees do not have
+        OutputNode* row = leaves.addChild(QString());
+        row->record.id1 = QStringLiteral("   @ROW");
+        row->number = 5;
+        leaves.addChild(QString())->setCheckState(0, Qt::PartiallyChecked);
+        QCOMPARE(plib::selectionText(&leaves), QStringLiteral("\nUnchecked:@ROW:%2\nERROR CASE\n"));
+    }
+
+    void numbersAreReadAsQtDoes()
+    {
+        for (const char* number :
+             {"", "0", "007", "123456789", "1234567890", "2147483647", "2147483648", "99999999999",
+              " 5\t", "+5", "-5", "5x", "1.0", "1e3", "\u0663", "\u00a05", "\u22125"}) {
+            const QString text = QString::fromUtf8(number);
+            QVERIFY2(plib::selectionNumber(QStringRef(&text)) == text.toInt(), number);
+        }
     }
 };
 

@@ -1,6 +1,7 @@
 #include "LanguageSupport.h"
 #include "TemporaryProject.h"
 #include "WidgetTestSupport.h"
+#include "WidgetWalk.h"
 
 #include <vkd_dbo_model.h>
 #include <VKD_H_SecondaryGroupDialog.h>
@@ -270,6 +271,27 @@ private Q_SLOTS:
         QCOMPARE(result, 1);
         QCOMPARE(dialog.getChecked(groups), 0);
         QCOMPARE(groups, (Groups{Old, Low, Cols}));
+    }
+
+    /// A dialog that is open during a language change shows the same text as a new one.
+    void languageChange()
+    {
+        VKD_H_SecondaryGroupDialog open(nullptr, {Low}, {});
+        open.show();
+        const Driver driver(&open);
+        const int width = driver.find<QLineEdit>("input")->minimumWidth();
+        int headersChanged = 0;
+        connect(driver.view()->model(), &QAbstractItemModel::headerDataChanged, &open,
+                [&headersChanged] { ++headersChanged; });
+        const QSet<QString> before = texts(open);
+        setLanguage(German);
+        VKD_H_SecondaryGroupDialog opened(nullptr, {Low}, {});
+        opened.show();
+        QCOMPARE(texts(open), texts(opened));
+        QVERIFY(texts(open) != before);
+        QVERIFY(driver.find<QLineEdit>("input")->minimumWidth() != width);
+        QCOMPARE(headersChanged, 1);
+        setLanguage(English);
     }
 
     void emptyModel()

@@ -1,8 +1,10 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_H_LineEdit.h>
 #include <VKD_H_TableItems.h>
 #include <VKD_H_TableWidget.h>
+#include <VKD_H_TableWidgetBox.h>
 #include <VKD_H_TwHeaderLineEditItem.h>
 #include <VKD_QT4_ComboBox.h>
 
@@ -10,6 +12,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPushButton>
 
 namespace {
 const std::list<ComboList> Choices{{QStringLiteral("red"), 7}, {QStringLiteral("blue"), 9}};
@@ -173,6 +176,16 @@ private Q_SLOTS:
         QCOMPARE(table.rowCount(), 1);
         table.setContextmenueEnabled_new_del(false);
         QCOMPARE(choose(0), QStringLiteral("no Kopieren|Alles auswählen "));
+    }
+
+    void buttonFollowsTheLanguage()
+    {
+        testsupport::setLanguage(testsupport::English);
+        VKD_H_TableWidgetBox box(new VKD_H_TableWidget(1, 1), QString(), nullptr, "box");
+        box.createDefaultLayout(true, false);
+        box.addButton(VKD_H_TableWidgetBox::Delete, true);
+        testsupport::setLanguage(testsupport::German);
+        QCOMPARE(box.getButton(VKD_H_TableWidgetBox::Delete)->text(), QStringLiteral("Löschen"));
     }
 
     /// The text shown by a combo box over a cell, alone or within another widget, is copied.

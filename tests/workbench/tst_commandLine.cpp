@@ -68,15 +68,6 @@ private Q_SLOTS:
             0);
         QCOMPARE(readFile(path("again.txt")), choice);
         QCOMPARE(readFile(path("second.txt")), readFile(path("first.txt")));
-        // The saved choice works with captions in both languages, and changing the choice changes
-        // the tree and the script.
-        const Result english = run("tree slab.zob --selection choice.txt --language english");
-        const Result german = run("tree slab.zob --selection choice.txt --language german");
-        QCOMPARE(german.out.count(QLatin1String("[x]")), english.out.count(QLatin1String("[x]")));
-        QVERIFY(german.out != english.out);
-        writeFile(path("none.txt"), "Checked:nothing\n");
-        QVERIFY(!run("tree slab.zob --selection none.txt").out.contains(QLatin1String("[x]")));
-        QCOMPARE(run("script slab.zob --selection none.txt --additional more").out, QString());
     }
 
     void settingsChangeTheScript_data()

