@@ -76,6 +76,7 @@ int becomeProgram(const char* program, const QStringList& arguments)
     for (const QString& argument : arguments.mid(1))
         texts.push_back(argument.toLocal8Bit());
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (QByteArray& text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);

@@ -68,8 +68,10 @@ QRectF frameRect(const QRectF& area, const SheetPlan& plan, int place)
 {
     const QSizeF size((area.width() - (plan.columns - 1) * Gap) / plan.columns,
                       (area.height() - (plan.rows - 1) * Gap) / plan.rows);
-    return {area.left() + place % plan.columns * (size.width() + Gap),
-            area.top() + place / plan.columns * (size.height() + Gap), size.width(), size.height()};
+    const int row = place / plan.columns;
+    const int column = place % plan.columns;
+    return {area.left() + column * (size.width() + Gap), area.top() + row * (size.height() + Gap),
+            size.width(), size.height()};
 }
 
 /// Returns whether the picture is a list of materials or sections, which does not show the model.

@@ -207,7 +207,7 @@ void WindowActions::setShortcuts()
     exportSheets->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_E);
     help->setShortcut(QKeySequence::HelpContents);
     for (int i = 0; i < views.size(); ++i)
-        views[i]->setShortcut(Qt::CTRL + (Qt::Key_0 + i));
+        views[i]->setShortcut(QStringLiteral("Ctrl+%1").arg(i));
 }
 
 QList<QAction*> WindowActions::besideDialogs() const
