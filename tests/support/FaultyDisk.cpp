@@ -24,62 +24,20 @@ namespace {
 using Fault = FaultyDisk::Fault;
 enum class Call { Read, Write, Other }; // only Write needs disk space
 
-/// Writes the bytes, or truncates the file at the offset if the bytes are null.
-struct Change
-{
-    qint64 offset;
-    QByteArray bytes;
-
-    void apply(QByteArray& content) const
-    {
-        const int end = int(offset) + bytes.size();
-        if (bytes.isNull())
-            content.truncate(end);
-        content.append(qMax(0, end - content.size()), '\0');
-        content.replace(int(offset), bytes.size(), bytes);
-    }
-};
-
-struct File
-{
-    QByteArray synced;
-    std::vector<Change> changes; // changes since the last sync
-
-    /// Returns the content after the first `count` changes, the last of which is torn.
-    QByteArray contentAfter(size_t count) const
-    {
-        QByteArray content = synced;
-        for (size_t i = 0; i < count; ++i) {
-            const Change& change = changes[i];
-            const bool isTorn = i + 1 == count && !change.bytes.isNull();
-            Change{change.offset,
-                   isTorn ? change.bytes.left(change.bytes.size() / 2) : change.bytes}
-                .apply(content);
-        }
-        return content;
-    }
-
-    void sync()
-    {
-        for (const Change& change : changes)
-            change.apply(synced);
-        changes.clear();
-    }
-};
-
 struct Disk
 {
     using Names = QMap<QByteArray, size_t>; // maps file names in the folder to file indexes
 
     QByteArray folder;
-    std::vector<File> files;
-    std::vector<Names> names{1}; // states since the folder was synced, the current state last
+    std::vector<QByteArray> synced; // contents when the files were last synced
+    std::vector<Names> names{1};    // states since the folder was synced, the current state last
     Fault fault = Fault::None;
     int call = 0, calls = 0;
     QByteArray failedCall;
     std::chrono::milliseconds readTime{0};
 };
 std::unique_ptr<Disk> disk;
+thread_local bool isOwnCall = false;
 std::recursive_mutex mutex; // the store checks a file in a separate thread
 
 /// Returns the name of a file in the folder, "." for the folder itself, or an empty name for any
@@ -114,25 +72,22 @@ bool fails(Call call, const char* function, const QByteArray& name)
     return true;
 }
 
-/// Returns null if the file was deleted while it was open.
-File* find(const QByteArray& name)
+/// Returns the content without counting the calls.
+QByteArray contentOf(const QByteArray& name)
 {
-    const Disk::Names& names = disk->names.back();
-    return names.contains(name) ? &disk->files[names[name]] : nullptr;
-}
-
-void change(const QByteArray& name, const Change& change)
-{
-    if (File* file = find(name))
-        file->changes.push_back(change);
+    isOwnCall = true;
+    const QByteArray content = readFile(QFile::decodeName(disk->folder + '/' + name));
+    isOwnCall = false;
+    return content;
 }
 
 void sync(const QByteArray& name)
 {
+    const Disk::Names& names = disk->names.back();
     if (name == ".")
-        disk->names = {disk->names.back()};
-    else if (File* file = find(name))
-        file->sync();
+        disk->names = {names};
+    else if (names.contains(name)) // else the file was deleted while it was open
+        disk->synced[names[name]] = contentOf(name);
 }
 
 Disk::Names& changeNames()
@@ -141,14 +96,12 @@ Disk::Names& changeNames()
     return disk->names.back();
 }
 
-void create(const QByteArray& name, int flags)
+void create(const QByteArray& name)
 {
-    if (!find(name)) {
-        changeNames()[name] = disk->files.size();
-        disk->files.push_back({});
-    }
-    if (flags & O_TRUNC)
-        change(name, {0, QByteArray()});
+    if (disk->names.back().contains(name))
+        return;
+    changeNames()[name] = disk->synced.size();
+    disk->synced.push_back({});
 }
 
 /// Calls `next`, the C library function, unless the call has to fail. Afterwards `done` applies the
@@ -158,7 +111,7 @@ auto run(Call call, const char* function, const QByteArray& name, const Next& ne
          const Done& done)
 {
     using Result = decltype(next());
-    if (!disk || name.isEmpty())
+    if (!disk || isOwnCall || name.isEmpty())
         return next();
     if (call == Call::Read)
         std::this_thread::sleep_for(disk->readTime);
@@ -174,18 +127,20 @@ auto run(Call call, const char* function, const QByteArray& name, const Next& ne
 }
 
 template <typename Next>
-ssize_t runRead(int file, const Next& next)
+auto run(Call call, const char* function, const QByteArray& name, const Next& next)
 {
-    return run(Call::Read, "read", nameOf(file), next, [](ssize_t) {});
+    return run(call, function, name, next, [](auto) {});
 }
 
-template <typename Next>
-ssize_t runWrite(int file, const void* bytes, qint64 offset, const Next& next)
+/// Returns the first content with random sectors of the second.
+QByteArray mixed(QByteArray content, const QByteArray& other, std::mt19937& random)
 {
-    const QByteArray name = nameOf(file);
-    return run(Call::Write, "write", name, next, [&](ssize_t length) {
-        change(name, {offset, QByteArray(static_cast<const char*>(bytes), int(length))});
-    });
+    constexpr int Sector = 512;
+    const int common = qMin(content.size(), other.size());
+    for (int at = 0; at < common; at += Sector)
+        if (const int length = qMin(Sector, common - at); random() % 2)
+            content.replace(at, length, other.mid(at, length));
+    return content;
 }
 
 template <typename Function>
@@ -201,8 +156,8 @@ FaultyDisk::FaultyDisk(const QString& folder, Fault fault, int call)
     state->folder = QFile::encodeName(QFileInfo(folder).canonicalFilePath());
     const QStringList names = QDir(folder).entryList(QDir::Files);
     for (const QString& name : names) {
-        state->names[0][QFile::encodeName(name)] = state->files.size();
-        state->files.push_back({readFile(QDir(folder).filePath(name)), {}});
+        state->names[0][QFile::encodeName(name)] = state->synced.size();
+        state->synced.push_back(readFile(QDir(folder).filePath(name)));
     }
     state->fault = fault;
     state->call = call;
@@ -228,19 +183,20 @@ void FaultyDisk::restart()
 {
     const auto before = std::exchange(disk, nullptr);
     static std::mt19937 random;
-    const auto upTo = [&](size_t last) {
-        return before->fault == Fault::TornCut ? random() % (last + 1) : 0;
-    };
+    const bool isTorn = before->fault == Fault::TornCut;
     const QDir folder(QFile::decodeName(before->folder));
-    const Disk::Names& names = before->names[upTo(before->names.size() - 1)];
-    const QStringList present = folder.entryList(QDir::Files);
-    for (const QString& name : present)
-        QFile::remove(folder.filePath(name));
-    for (auto name = names.begin(); name != names.end(); ++name) {
-        const File& file = before->files[name.value()];
-        writeFile(folder.filePath(QFile::decodeName(name.key())),
-                  file.contentAfter(upTo(file.changes.size())));
+    const Disk::Names& current = before->names.back();
+    for (auto name = current.begin(); name != current.end(); ++name) {
+        const QString path = folder.filePath(QFile::decodeName(name.key()));
+        QByteArray& synced = before->synced[name.value()];
+        if (isTorn)
+            synced = random() % 2 ? mixed(synced, readFile(path), random)
+                                  : mixed(readFile(path), synced, random);
+        QFile::remove(path);
     }
+    const Disk::Names& names = before->names[isTorn ? random() % before->names.size() : 0];
+    for (auto name = names.begin(); name != names.end(); ++name)
+        writeFile(folder.filePath(QFile::decodeName(name.key())), before->synced[name.value()]);
     disk = std::make_unique<Disk>(); // without a folder
     disk->folder = "/dev/null";
     disk->failedCall = before->failedCall;
@@ -264,7 +220,7 @@ int open64(const char* path, int flags, ...)
     const QByteArray name = flags & (O_CREAT | O_TRUNC) ? nameOf(QByteArray(path)) : QByteArray();
     return run(
         Call::Write, "create", name, [&] { return next(path, flags, mode); },
-        [&](int) { create(name, flags); });
+        [&](int) { create(name); });
 }
 
 int open(const char* path, int flags, ...)
@@ -279,37 +235,32 @@ int open(const char* path, int flags, ...)
 ssize_t read(int file, void* bytes, size_t length)
 {
     static const auto next = original(&read, "read");
-    return runRead(file, [&] { return next(file, bytes, length); });
+    return run(Call::Read, "read", nameOf(file), [&] { return next(file, bytes, length); });
 }
 
 ssize_t pread64(int file, void* bytes, size_t length, off64_t offset)
 {
     static const auto next = original(&pread64, "pread64");
-    return runRead(file, [&] { return next(file, bytes, length, offset); });
+    return run(Call::Read, "read", nameOf(file), [&] { return next(file, bytes, length, offset); });
 }
 
 ssize_t write(int file, const void* bytes, size_t length)
 {
     static const auto next = original(&write, "write");
-    const off64_t offset = disk ? lseek64(file, 0, SEEK_CUR) : 0;
-    return runWrite(file, bytes, offset, [&] { return next(file, bytes, length); });
+    return run(Call::Write, "write", nameOf(file), [&] { return next(file, bytes, length); });
 }
 
 ssize_t pwrite64(int file, const void* bytes, size_t length, off64_t offset)
 {
     static const auto next = original(&pwrite64, "pwrite64");
-    return runWrite(file, bytes, offset, [&] { return next(file, bytes, length, offset); });
+    return run(Call::Write, "write", nameOf(file),
+               [&] { return next(file, bytes, length, offset); });
 }
 
 int ftruncate64(int file, off64_t length) noexcept
 {
     static const auto next = original(&ftruncate64, "ftruncate64");
-    const QByteArray name = nameOf(file);
-    return run(
-        Call::Other, "truncate", name, [&] { return next(file, length); },
-        [&](int) {
-            change(name, {length, QByteArray()});
-        });
+    return run(Call::Other, "truncate", nameOf(file), [&] { return next(file, length); });
 }
 
 int fsync(int file)
