@@ -24,7 +24,8 @@ tagZOB_QUAD_RIM recordOf(int group)
 {
     tagZOB_QUAD_RIM record = plib::getDefaultMerPara(true);
     record.group = group;
-    record.rio = float(group / 10);
+    const int row = group / 10;
+    record.rio = float(row);
     return record;
 }
 

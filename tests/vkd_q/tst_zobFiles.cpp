@@ -256,6 +256,8 @@ private Q_SLOTS:
         };
         QCOMPARE(vkd_zob_copy(index, take).code, isReadable ? VKD_ZOB_OK : VKD_ZOB_MOVED);
         QCOMPARE(copy == m_sound, isReadable);
+        const auto cancel = [](const void*, int) { return false; };
+        QCOMPARE(vkd_zob_copy(index, cancel).code, isReadable ? VKD_ZOB_CANCELLED : VKD_ZOB_MOVED);
         log.take();
         QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_MOVED);
         QCOMPARE(log.once(vkd_zob_lock_ex(index, 1, 1)), VKD_ZOB_MOVED);

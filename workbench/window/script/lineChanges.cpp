@@ -104,7 +104,8 @@ private:
                    m_before.line(m_whole.before + old) ==
                        m_after.line(m_whole.after + old - diagonal))
                 ++old;
-            reached[size_t(diagonal + edits)] = old;
+            const int place = diagonal + edits;
+            reached[size_t(place)] = old;
             if (old >= m_whole.gone && old - diagonal >= m_whole.come)
                 return true;
         }

@@ -1,9 +1,10 @@
 #include "record/RowsChange.h"
 
+#include "record/designRecord.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cstring>
 
 namespace plib {
 
@@ -45,7 +46,7 @@ constexpr StepNames Names[] = {
 
 bool haveSameContent(const DesignParameterRow& a, const DesignParameterRow& b)
 {
-    return a.groups == b.groups && std::memcmp(&a.record, &b.record, sizeof a.record) == 0;
+    return a.groups == b.groups && toBytes(a.record) == toBytes(b.record);
 }
 
 RowsChange changeBetween(const DesignRowList& before, const DesignRowList& after, std::size_t head,
