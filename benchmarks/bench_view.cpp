@@ -175,7 +175,7 @@ void fillPolygons(benchmark::State& state)
         painter.setBrush(Qt::lightGray);
         for (int row = 0; row < side; ++row)
             for (int column = 0; column < side; ++column) {
-                const auto first = size_t(row * (side + 1) + column);
+                const auto first = size_t(row) * size_t(side + 1) + size_t(column);
                 const QPointF corners[] = {points[first], points[first + 1],
                                            points[first + size_t(side) + 2],
                                            points[first + size_t(side) + 1]};

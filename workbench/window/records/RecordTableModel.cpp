@@ -115,7 +115,7 @@ QString RecordTableModel::wordText(quint32 word, int row)
 quint32 RecordTableModel::word(int record, int row) const
 {
     quint32 bits = 0;
-    std::memcpy(&bits, m_records[size_t(record)].data() + 4 * row, sizeof bits);
+    std::memcpy(&bits, m_records[size_t(record)].data() + sizeof bits * size_t(row), sizeof bits);
     return bits;
 }
 
