@@ -365,6 +365,72 @@ Daten können verloren gehen!</translation>
     </message>
 </context>
 <context>
+    <name>plib::PlotKeys</name>
+    <message>
+        <source>Find Plots</source>
+        <translation>Grafiken suchen</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Voriger Treffer</translation>
+    </message>
+    <message>
+        <source>Uncheck</source>
+        <translation>Häkchen entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>plib::SearchBar</name>
+    <message>
+        <source>Checked only</source>
+        <translation>Nur angekreuzte</translation>
+    </message>
+    <message>
+        <source>Previous hit (Shift+F3)</source>
+        <translation>Voriger Treffer (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next hit (F3)</source>
+        <translation>Nächster Treffer (F3)</translation>
+    </message>
+    <message>
+        <source>End the search (Esc)</source>
+        <translation>Suche beenden (Esc)</translation>
+    </message>
+    <message>
+        <source>Words to find in the captions</source>
+        <translation>Suchwörter für die Überschriften</translation>
+    </message>
+    <message>
+        <source>Words from the captions</source>
+        <translation>Wörter aus den Überschriften</translation>
+    </message>
+    <message>
+        <source>Only plots and load cases that are checked are found</source>
+        <translation>Nur angekreuzte Grafiken und Lastfälle werden gefunden</translation>
+    </message>
+    <message>
+        <source>Boxes change only what is shown.</source>
+        <translation>Kästchen ändern nur, was angezeigt ist.</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>Hits: %1</source>
+        <translation>Treffer: %1</translation>
+    </message>
+    <message>
+        <source>Hit %1 of %2</source>
+        <translation>Treffer %1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>VKD_P_RadioGroupImpl</name>
     <message>
         <source>Manually</source>

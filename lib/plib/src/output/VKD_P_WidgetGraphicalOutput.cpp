@@ -3,6 +3,7 @@
 #include "output/WidgetGraphicalOutputData.h"
 #include "script/PlatformScriptEnvironment.h"
 #include "tree/GraphicalOutputTreeWidget.h"
+#include "tree/PlotKeys.h"
 
 #include <AnimatorView.h>
 #include <VKD_H_Dialog.h>
@@ -64,6 +65,7 @@ void VKD_P_WidgetGraphicalOutput::layOut(QWidget* box)
     inner->setColumnStretch(1, 3);
     auto left = new VKD_QT_VBoxLayout;
     left->addWidget(data->tree);
+    new plib::PlotKeys(this, data->tree, left);
     inner->addLayout(left, 0, 0);
     auto right = new VKD_QT_VBoxLayout;
     data->panel->layOut(right);

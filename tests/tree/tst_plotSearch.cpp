@@ -1,0 +1,211 @@
+#include "CatalogueTestSupport.h"
+#include "WidgetTestSupport.h"
+
+#include <catalogue/Catalogue.h>
+#include <tree/checkStates.h>
+#include <tree/GraphicalOutputTreeWidget.h>
+#include <tree/PlotKeys.h>
+#include <tree/searchHits.h>
+#include <VKD_H_PluginParameter.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_lib_value.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+using plib::OutputNode;
+using testsupport::line;
+
+namespace {
+const QByteArray Catalogue =
+    line("Results|Slabs|Moment in y", "last-l") + line("Results|Slabs|Moment in x", "last-l") +
+    line("Results|Beams|Shear", "last-l") + line("System|Kräfte|Straße", " ");
+
+/// Returns the visible items as indented lines with check marks.
+QString shown(const QTreeWidgetItem* parent, int depth = 0)
+{
+    QString text;
+    for (int i = 0; i < parent->childCount(); ++i) {
+        const QTreeWidgetItem* item = parent->child(i);
+        if (!item->isHidden())
+            text += QString(depth, QLatin1Char(' ')) + QLatin1Char(" -x"[item->checkState(0)]) +
+                    item->text(0) + QLatin1Char('\n') +
+                    (item->isExpanded() ? shown(item, depth + 1) : QString());
+    }
+    return text;
+}
+} // namespace
+
+/// The page without its other fields.
+class Desk : public QWidget
+{
+public:
+    explicit Desk(VKD_H_PluginParameter* parameter)
+        : tree(new GraphicalOutputTreeWidget(this, 1, parameter, "m_list"))
+    {
+        auto column = new QVBoxLayout(this);
+        column->addWidget(tree);
+        new plib::PlotKeys(this, tree, column);
+        tree->setUsedNumbersAndNames(testsupport::rows(12));
+        resize(300, 200);
+        show();
+        tree->setFocus();
+        QApplication::setActiveWindow(this);
+    }
+
+    QLineEdit* words() const { return testsupport::find<QLineEdit>(*this, "searchWords"); }
+    QString count() const { return testsupport::find<QLabel>(*this, "searchCount")->text(); }
+    QString items() const { return shown(tree->invisibleRootItem()); }
+
+    GraphicalOutputTreeWidget* tree;
+};
+
+class TestPlotSearch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 1);
+        m_texts = std::make_unique<testsupport::Texts>("");
+        m_doc = VKD_H_ZOBDoc::create(m_texts->path("p.zob"));
+        m_parameter = std::make_unique<VKD_H_PluginParameter>(m_doc.get());
+        plib::sharedCatalogue() = {};
+        testsupport::writeFile(m_texts->path("graphicaloutput.data"), Catalogue);
+    }
+
+    void hits_data()
+    {
+        const Columns<QString, bool, QString> row("words", "checkedOnly", "expected");
+        row("parts of words of all captions", "mome y RES", false, "Moment in y");
+        row("not in any text", "slab 2:", false, "");
+        row("rows of a plot", "2 : results sh", false, "Shear:1,11");
+        row("a row and its plot", "in x 12", false, "Moment in x:11");
+        row("umlaut", "Ä", false, "Straße");
+        row("word with an umlaut", "kräfte", false, "Straße");
+        row("umlaut without dots", "kraft STRASSE", false, "Straße");
+        row("umlaut as two letters", "kraeft", false, "Straße");
+        row("umlaut typed, other vowel", "strä", false, "");
+        row("checked", "", true, "Moment in y:2,5|Straße");
+        row("checked rows with a word", "6", true, "Moment in y:5");
+    }
+
+    void hits()
+    {
+        QFETCH(QString, words);
+        QFETCH(bool, checkedOnly);
+        OutputNode root;
+        testsupport::build(&root, testsupport::parse(Catalogue), testsupport::rows(12));
+        OutputNode* plot = root.child(0)->child(0)->child(0);
+        for (int checked : {2, 5})
+            plot->child(checked)->setCheckState(0, Qt::Checked);
+        plib::settleBranch(root.child(0));
+        QStringList found;
+        plib::SearchIndex<OutputNode> index(&root);
+        index.find(QStringList(QStringLiteral("1")), false); // an earlier search
+        for (const auto& hits : index.find(plib::searchWords(words), checkedOnly)) {
+            QStringList rows;
+            for (int row : hits.rows)
+                rows << QString::number(row);
+            found << hits.plot->text(0) + (hits.isWhole ? QString() : QStringLiteral(":")) +
+                         rows.join(QLatin1Char(','));
+        }
+        QTEST(found.join(QLatin1Char('|')), "expected");
+    }
+
+    /// Only what is shown is changed, and afterwards the tree looks as before.
+    void typedWords()
+    {
+        Desk desk(m_parameter.get());
+        QTreeWidgetItem* slabs = desk.tree->topLevelItem(0)->child(0);
+        slabs->child(1)->setExpanded(true);
+        desk.tree->topLevelItem(1)->setExpanded(false);
+        desk.tree->setCurrentItem(slabs->child(1)->child(7));
+        desk.tree->verticalScrollBar()->setValue(4);
+        const QString before = desk.items();
+        QTest::keyClicks(desk.tree, QStringLiteral("y")); // the focus moves to the search line
+        QTest::keyClicks(desk.focusWidget(), QStringLiteral(" 12"));
+        QCOMPARE(desk.items(), QStringLiteral(" Results\n  Slabs\n   Moment in y\n    12 : l\n"));
+        QCOMPARE(desk.count(), QStringLiteral("Hit 1 of 1"));
+        QSignalSpy changes(desk.tree, &GraphicalOutputTreeWidget::checkStatesChanged);
+        desk.tree->setFocus();
+        desk.tree->setCurrentItem(desk.tree->topLevelItem(0));
+        QTest::keyClick(desk.tree, Qt::Key_Space);
+        QCOMPARE(desk.items(), QStringLiteral("-Results\n -Slabs\n  -Moment in y\n   x12 : l\n"));
+        QCOMPARE(changes.size(), 1);
+        QTest::keyClick(desk.tree, Qt::Key_Delete);
+        QCOMPARE(slabs->child(0)->checkState(0), Qt::Unchecked);
+        const QPoint box(8, desk.tree->visualItemRect(slabs).height() / 2);
+        QTest::mouseClick(desk.tree->viewport(), Qt::LeftButton, {},
+                          desk.tree->visualItemRect(slabs).topLeft() + box);
+        QCOMPARE(slabs->checkState(0), Qt::PartiallyChecked);
+        slabs->setCheckState(0, Qt::Checked); // by the program: everything
+        QCOMPARE(slabs->child(1)->child(0)->checkState(0), Qt::Checked);
+        slabs->setCheckState(0, Qt::Unchecked);
+        QTest::keyClick(desk.tree, Qt::Key_Escape);
+        QCOMPARE(desk.items(), before);
+        QCOMPARE(desk.tree->currentItem(), slabs->child(1)->child(7));
+        QCOMPARE(desk.tree->verticalScrollBar()->value(), 4);
+        QVERIFY(!desk.words()->isVisible() && desk.tree->hasFocus());
+    }
+
+    void steps()
+    {
+        Desk desk(m_parameter.get());
+        testsupport::trigger(desk, "findPlots");
+        desk.words()->setText(QStringLiteral("2 : slab"));
+        QStringList rows;
+        for (const auto& [key, modifier] : {std::pair(Qt::Key_Return, Qt::NoModifier),
+                                            {Qt::Key_Return, Qt::NoModifier},
+                                            {Qt::Key_Return, Qt::ShiftModifier},
+                                            {Qt::Key_F3, Qt::ShiftModifier},
+                                            {Qt::Key_F3, Qt::ShiftModifier},
+                                            {Qt::Key_F3, Qt::NoModifier}}) {
+            QTest::keyClick(desk.words(), key, modifier);
+            rows << desk.count();
+        }
+        QCOMPARE(rows.join(QLatin1Char(' ')).remove(QLatin1String("Hit ")),
+                 QStringLiteral("2 of 4 3 of 4 2 of 4 1 of 4 4 of 4 1 of 4"));
+        // The tree is rebuilt with fewer rows and searched again.
+        desk.tree->setUsedNumbersAndNames(testsupport::rows(3));
+        QCOMPARE(desk.count(), QStringLiteral("Hit 1 of 2"));
+        desk.words()->setText(QStringLiteral("nothing"));
+        QCOMPARE(desk.items() + desk.count(), QStringLiteral("No hits"));
+        QVERIFY(!desk.tree->currentItem()); // Space would check a hidden item
+    }
+
+    void keysOfTheTree()
+    {
+        Desk desk(m_parameter.get());
+        desk.tree->setContextMenuPolicy(Qt::CustomContextMenu);
+        disconnect(desk.tree, &QWidget::customContextMenuRequested, nullptr, nullptr);
+        QSignalSpy menus(desk.tree, &QWidget::customContextMenuRequested);
+        QTreeWidgetItem* plot = desk.tree->topLevelItem(0)->child(0)->child(0);
+        desk.tree->setCurrentItem(plot);
+        QTest::keyClick(desk.tree, Qt::Key_Return);
+        QVERIFY(plot->isExpanded());
+        plot->child(3)->setCheckState(0, Qt::Checked);
+        QTest::keyClick(desk.tree, Qt::Key_Delete);
+        QCOMPARE(plot->checkState(0), Qt::Unchecked);
+        QTest::keyClick(desk.tree, Qt::Key_F10, Qt::ShiftModifier);
+        QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint());
+        QCoreApplication::sendEvent(desk.tree, &menuKey);
+        QCOMPARE(menus.size(), 2);
+        const QPoint place =
+            desk.tree->viewport()->mapTo(desk.tree, desk.tree->visualItemRect(plot).bottomLeft());
+        QCOMPARE(menus[0][0].toPoint(), place);
+        QTest::keyClicks(desk.tree, QStringLiteral("-+* "));
+        QVERIFY(!desk.findChild<QWidget*>(QStringLiteral("plotSearch")));
+    }
+
+private:
+    std::unique_ptr<testsupport::Texts> m_texts;
+    std::unique_ptr<VKD_H_ZOBDoc> m_doc;
+    std::unique_ptr<VKD_H_PluginParameter> m_parameter;
+};
+
+PLIB_WIDGET_TEST_MAIN(TestPlotSearch)
+#include "tst_plotSearch.moc"
