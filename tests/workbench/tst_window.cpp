@@ -192,6 +192,12 @@ private Q_SLOTS:
             plots->topLevelItem(0)->child(0)->setCheckState(0, Qt::Unchecked);
             loads->child(2)->setCheckState(0, Qt::Checked);
         }
+        plots->topLevelItem(1)->setExpanded(false);
+        loads->setExpanded(true);
+        const auto areBranchesKept = [plots] {
+            const QTreeWidgetItem* caption = plots->topLevelItem(1);
+            return !caption->isExpanded() && caption->child(0)->child(0)->isExpanded();
+        };
         const QString before = treeText(plots);
         QSignalSpy filled(plots->model(), &QAbstractItemModel::modelReset);
         offer(true);
@@ -199,9 +205,11 @@ private Q_SLOTS:
         QFETCH(const QString, pattern);
         QTRY_VERIFY2(treeText(plots).contains(QRegularExpression(pattern)),
                      qPrintable(treeText(plots)));
+        QVERIFY(areBranchesKept());
         offer(false);
         QCOMPARE(filled.size(), 2);
         QTRY_COMPARE(treeText(plots), before); // once the captions are in English
+        QVERIFY(areBranchesKept());
     }
 
     /// A camera rotated by the user is restored even if another view was selected and saved.
@@ -255,9 +263,12 @@ private Q_SLOTS:
         QVERIFY(top > 0);
         trigger(*window, "German");
         tree = find<QDialog>(*window, "OutputDialog")->findChild<QTreeWidget*>();
-        QVERIFY(!tree->topLevelItem(1)->isExpanded());
-        QCOMPARE(tree->currentItem(), tree->topLevelItem(2)->child(1));
-        QCOMPARE(tree->verticalScrollBar()->value(), top);
+        const auto compareTree = [&] {
+            QVERIFY(!tree->topLevelItem(1)->isExpanded());
+            QCOMPARE(tree->currentItem(), tree->topLevelItem(2)->child(1));
+            QCOMPARE(tree->verticalScrollBar()->value(), top);
+        };
+        compareTree();
         auto tabs = find<QDialog>(*window, "OutputDialog")->findChild<QTabWidget*>();
         tabs->setCurrentIndex(1);
         trigger(*window, "English");
@@ -265,9 +276,20 @@ private Q_SLOTS:
         QCOMPARE(tabs->currentIndex(), 1);
         for (const QDialog* dialog : dialogs(*window))
             QCOMPARE(dialog->geometry(), place);
+        tabs->setCurrentIndex(0);
+        trigger(*find<QDialog>(*window, "OutputDialog"), "findPlots");
+        find<QLineEdit>(*window, "searchWords")->setText(QStringLiteral("displ"));
+        find<QDialog>(*window, "OutputDialog")->accept();
+        window = reopen("places.zob");
+        const QDialog* dialog = openOutput(*window);
+        tree = dialog->findChild<QTreeWidget*>();
+        QCOMPARE(dialog->focusWidget(), tree);
+        QVERIFY(tree->topLevelItem(0)->isHidden());
+        QTest::keyClick(tree, Qt::Key_Escape);
+        compareTree();
         window = open("again.zob");
-        for (const QDialog* dialog : dialogs(*window))
-            QCOMPARE(dialog->geometry(), place);
+        for (const QDialog* other : dialogs(*window))
+            QCOMPARE(other->geometry(), place);
     }
 
     void pickingInTheView()

@@ -2,6 +2,7 @@
 
 #include "window/output/CameraRollback.h"
 #include "window/output/LoadCaseTable.h"
+#include "window/output/TreeViewMemory.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
@@ -18,6 +19,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShowEvent>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -90,13 +92,23 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     restore(saved);
     listen();
     setUnchanged();
+    new TreeViewMemory(document->path(), m_plots, this);
 }
 
 /// Destroys the page before the timer, because the page's widgets emit signals while they are
-/// destroyed.
+/// destroyed. Before that, hides the dialog, which saves the view of the tree.
 OutputDialog::~OutputDialog()
 {
+    hide();
     delete m_page;
+}
+
+/// Gives the focus to the tree each time the dialog opens, even if OK had it before.
+void OutputDialog::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous() && tabWidget()->currentWidget()->isAncestorOf(m_plots))
+        m_plots->setFocus();
+    VKD_H_TabDialog::showEvent(event);
 }
 
 void OutputDialog::addTabs()
@@ -273,6 +285,7 @@ void OutputDialog::setUnchanged()
 
 void OutputDialog::removePlots()
 {
+    hide(); // saves the view of the tree
     m_plots->clear();
 }
 
@@ -286,8 +299,7 @@ void OutputDialog::finishChanges()
 
 OutputPresent OutputDialog::present()
 {
-    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(),
-            TreeViewState(*m_plots)};
+    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(), TreeViewState(m_plots)};
 }
 
 void OutputDialog::setPresent(const OutputPresent& present)

@@ -71,6 +71,9 @@ Q_SIGNALS:
     /// Emitted after changes that affect the script, only once for all changes made by one event.
     void choiceChanged();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void addTabs();
     QWidget* newLoadCaseTab();

@@ -6,6 +6,8 @@
 #include <VKD_P_WidgetGraphicalOutput>
 #include <vkd_qt_xmlpart.h>
 
+#include <QTreeWidget>
+
 namespace workbench {
 
 namespace {
@@ -15,6 +17,7 @@ const QString Plots = QStringLiteral("List_4"); // tag of the plots in the page'
 PlotChoice::PlotChoice(VKD_P_WidgetGraphicalOutput* page, AnimatorView* view)
     : m_page(page)
     , m_view(view)
+    , m_tree(page->findChild<QTreeWidget*>())
 {
 }
 
@@ -29,6 +32,7 @@ void PlotChoice::remember()
     const QString present = shown();
     if (present != m_shown)
         m_chosen = present;
+    m_look = TreeViewState(m_tree);
 }
 
 void PlotChoice::giveBack()
@@ -36,6 +40,7 @@ void PlotChoice::giveBack()
     if (!m_chosen.isNull())
         show(m_chosen);
     m_shown = shown();
+    m_look.restore(m_tree);
 }
 
 QString PlotChoice::shown() const

@@ -1,17 +1,18 @@
 #pragma once
 
-#include <QString>
+#include "window/output/TreeViewState.h"
 
 class AnimatorView;
+class QTreeWidget;
 class VKD_P_WidgetGraphicalOutput;
 
 namespace workbench {
 
-/// The user's choice of plots on an output page. The class preserves the choice when the offered
-/// load cases or content change; the page itself would revert to the plots that the catalogue
-/// proposes. When a plot or load case is offered again, its previous check state is restored. As
-/// long as the user has not changed the choice, the catalogue's proposal for the offered plots
-/// applies.
+/// The user's choice of plots on an output page. The class preserves the choice and the view of the
+/// tree when the offered load cases or content change; the page itself would revert to the plots
+/// that the catalogue proposes. When a plot or load case is offered again, its previous check state
+/// is restored. As long as the user has not changed the choice, the catalogue's proposal for the
+/// offered plots applies.
 class PlotChoice
 {
 public:
@@ -31,8 +32,10 @@ private:
 
     VKD_P_WidgetGraphicalOutput* m_page;
     AnimatorView* m_view;
-    QString m_chosen; ///< selection text of the user's plots; null for the proposal
-    QString m_shown;  ///< part of the text that the page could show after the last change
+    QTreeWidget* m_tree;
+    TreeViewState m_look; ///< the view of the tree before the change
+    QString m_chosen;     ///< selection text of the user's plots; null for the proposal
+    QString m_shown;      ///< part of the text that the page could show after the last change
 };
 
 } // namespace workbench
