@@ -5,6 +5,7 @@
 #include "RatioReporter.h"
 
 #include <tree/GraphicalOutputTreeWidget.h>
+#include <tree/PlotSearch.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
@@ -196,11 +197,28 @@ void applySelection(benchmark::State& state)
         state.SkipWithError("the choice was not applied");
 }
 
+/// Types words that are found in captions and in rows, letter by letter and again from the start.
+void typeALetter(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    plib::PlotSearch search(&tree);
+    const QString words = QStringLiteral("12 group 3 case 7");
+    int length = 0;
+    for (auto _ : state) {
+        length = length % words.size() + 1;
+        search.find(words.left(length), false);
+        QApplication::processEvents();
+        if (search.count() == 0)
+            state.SkipWithError("nothing was found");
+    }
+}
+
 BENCHMARK(rebuild)->Arg(Small)->Arg(Medium)->Arg(Large);
 BENCHMARK(fillBareTree)->Arg(Medium);
 BENCHMARK(clickOnTheCaption)->Arg(Medium);
 BENCHMARK(bareWalk)->Arg(Medium);
 BENCHMARK(applySelection)->Arg(Medium);
+BENCHMARK(typeALetter)->Arg(Large);
 
 } // namespace
 
@@ -216,5 +234,6 @@ int main(int argc, char* argv[])
          {"clickOnTheCaption/100000", "bareWalk/100000", 1.5,
           "sets each item's state without signals"},
          {"applySelection/100000", "rebuild/100000", 0.45,
-          "rebuilds the tree that the selection is applied to"}});
+          "rebuilds the tree that the selection is applied to"},
+         {"typeALetter/300000", "rebuild/300000", 0.2, "rebuilds the tree that is searched"}});
 }
