@@ -80,6 +80,11 @@ int openProject(const QString& path)
     return index;
 }
 
+Records moreThanCache()
+{
+    return Records::fromVector(QVector<QByteArray>(10, QByteArray(1000000, 'x')));
+}
+
 void changeByOther(const QString& path, const char* change)
 {
     sqlite3* connection = nullptr;

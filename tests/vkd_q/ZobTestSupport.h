@@ -30,6 +30,9 @@ int openProject(const QString& path);
 /// project is closed before and after the call.
 void makeProject(const QString& path, const Records& records);
 Records readProject(const QString& path);
+/// Returns records that do not fit into the store's cache together, so that some are written to the
+/// file before the change is stored.
+Records moreThanCache();
 /// Changes the file using SQL, as another program could.
 void changeByOther(const QString& path, const char* change);
 

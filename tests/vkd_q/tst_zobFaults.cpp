@@ -84,15 +84,12 @@ private Q_SLOTS:
         // before: the file at the path
         const Columns<QByteArray, Run, int> row("before", "run", "stride");
         const Run few = [](const QString& path) { return change(path, {"a", "b", ""}); };
-        const Run many = [](const QString& path) {
-            return change(path,
-                          Records::fromVector(QVector<QByteArray>(3, QByteArray(1000000, 'x'))));
-        };
+        const Run many = [](const QString& path) { return change(path, moreThanCache()); };
         row("read", "project", read, 1);
         row("read after a crash", "crashed", read, 1);
         row("change", "project", few, 1);
         row("change after a crash", "crashed", few, 2);
-        row("change of more than the cache", "project", many, 67);
+        row("change of more than the cache", "project", many, 199);
         row("single record", "project", putFirst, 1);
         row("upgrade", "version 1", putFirst, 2);
         row("new file", "-", place, 1);

@@ -13,6 +13,11 @@ static QByteArray patched(QByteArray bytes, int offset, const QByteArray& patch)
     return bytes.replace(offset, patch.size(), patch);
 }
 
+static int pageBytes(const QByteArray& project)
+{
+    return qFromBigEndian<quint16>(project.constData() + 16);
+}
+
 /// Tests opening arbitrary files as projects, and that reading a project does not change its file.
 class TestZobFiles : public QObject
 {
@@ -43,7 +48,7 @@ private Q_SLOTS:
         // bytes: null means no file
         const Columns<QByteArray, int> row("bytes", "status");
         const int middle = m_sound.size() / 2;
-        const int page = middle - middle % 4096;
+        const int page = middle - middle % pageBytes(m_sound);
         const int foreign = VKD_ZOB_NO_PROJECT, newer = VKD_ZOB_NEWER, damaged = VKD_ZOB_DAMAGED;
         const QByteArray zero(4, '\0'), noise("\x93\x07\xFE\x5A\xC1\x88\x33\xD6");
         // A record starts with its length.
@@ -55,7 +60,7 @@ private Q_SLOTS:
         row("newer version", patched(m_sound, 63, QByteArray(1, '\3')), newer);
         row("version 0", patched(m_sound, 60, zero), damaged);
         row("no record table", QByteArray(m_sound).replace("record", "recall"), damaged);
-        row("first page only", m_sound.left(4096), damaged);
+        row("first page only", m_sound.left(pageBytes(m_sound)), damaged);
         row("last bytes missing", m_sound.left(m_sound.size() - 100), damaged);
         row("noise at the head of a page", patched(m_sound, page, noise), damaged);
         row("record of 2 GB", patched(m_sound, firstRecord, "\x87\xFF\xFF\xFF\x7F"), damaged);
@@ -101,8 +106,7 @@ private Q_SLOTS:
         const Records records{"first", "", "third record"};
         makeProject(path, records);
         const QByteArray sound = testsupport::readFile(path);
-        constexpr int PageBytes = 4096;
-        QCOMPARE(sound.size(), 2 * PageBytes);
+        QCOMPARE(sound.size(), 2 * pageBytes(sound));
         ZobLog log;
         for (int bit = 8 * (sound.size() - 100); bit < 8 * sound.size(); ++bit) {
             const char byte = char(sound[bit / 8] ^ (1 << bit % 8));
@@ -242,8 +246,8 @@ private Q_SLOTS:
             testsupport::writeFile(path, m_sound);
         const int other = event == "write" ? openProject(path) : 0;
         vkd_zob_lock_ex(other, 1, 1);
-        for (int i = 0; i < 4; ++i) // more than fits into the cache
-            QCOMPARE(put(other, 1, 1, QByteArray(1000000, 'x'), 1), VKD_ZOB_OK);
+        for (const QByteArray& record : moreThanCache())
+            QCOMPARE(put(other, 1, 1, record, 1), VKD_ZOB_OK);
         int changes = -1;
         ZobLog log;
         QCOMPARE(vkd_zob_outside_changes(index, &changes), VKD_ZOB_MOVED);
@@ -293,8 +297,8 @@ private Q_SLOTS:
         QCOMPARE(put(index, 1, 1, "mine", 1), VKD_ZOB_OK);
         QCOMPARE(ask(), VKD_ZOB_OK);
         vkd_zob_lock_ex(other, 1, 1);
-        for (int i = 0; i < 4; ++i) // more than fits into the cache
-            put(other, 1, 1, QByteArray(1000000, 'x'), 1);
+        for (const QByteArray& record : moreThanCache())
+            put(other, 1, 1, record, 1);
         const QByteArray halfWritten = testsupport::readFile(path);
         const QByteArray halfJournal = testsupport::readFile(journal);
         QCOMPARE(ask(), VKD_ZOB_OK);
@@ -330,8 +334,8 @@ private Q_SLOTS:
         testsupport::writeFile(path, m_sound);
         const int index = openProject(path);
         vkd_zob_lock_ex(index, 1, 1);
-        for (int i = 0; i < 4; ++i) // more than fits into the cache
-            put(index, 1, 1, QByteArray(1000000, 'x'), 1);
+        for (const QByteArray& record : moreThanCache())
+            put(index, 1, 1, record, 1);
         const QByteArray halfWritten = testsupport::readFile(path);
         const QByteArray journal = testsupport::readFile(path + QLatin1String("-journal"));
         vkd_zob_close(index);

@@ -58,7 +58,7 @@ private Q_SLOTS:
         row("newer", patched(63, "\3"), "It was written by a newer version of the programs.",
             "Sie wurde von einer neueren Version der Programme geschrieben.");
         row("truncated", m_building.left(m_building.size() / 2), damaged, kaputt);
-        row("a bad page", patched(5 * 4096, noise), damaged, kaputt);
+        row("a bad page", patched(5 * 16384, noise), damaged, kaputt);
     }
 
     /// The error is reported once, in one sentence, and the previous project stays open.
