@@ -4,10 +4,8 @@
 
 ZobSnapshot::ZobSnapshot(ZobHandle project)
 {
-    ZobDatabase* store = openStore(project.index(), &m_status);
-    if (!store)
-        return;
-    m_status = store->transactions().beginSnapshot();
+    ZobDatabase* store = findStore(project.index());
+    m_status = store ? store->transactions().beginSnapshot() : reportNotOpen(project.index());
     if (m_status.isOk())
         m_store = store->weak_from_this();
 }

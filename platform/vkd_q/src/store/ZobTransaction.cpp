@@ -12,10 +12,12 @@ VkdStatus projectIsClosed(ZobHandle project)
 ZobTransaction::ZobTransaction(ZobHandle project)
     : m_project(project)
 {
-    if (ZobDatabase* store = openStore(project.index(), &m_result)) {
+    if (ZobDatabase* store = findStore(project.index())) {
         m_store = store->weak_from_this();
         m_isOpen = true;
         store->transactions().begin();
+    } else {
+        m_result = reportNotOpen(project.index());
     }
 }
 

@@ -2,18 +2,20 @@
 
 #include "ZobHandle.h"
 
-#include <map>
+#include <algorithm>
+#include <vector>
 
 namespace {
 constexpr int ScratchIndex = ZobHandle::scratch().index();
 
-using Stores = std::map<int, std::shared_ptr<ZobDatabase>>;
+/// The open stores by index. The pointer is null if there is no store with this index.
+using Stores = std::vector<std::shared_ptr<ZobDatabase>>;
 
 /// The list is never destroyed, because the host's static objects may close documents when the
 /// process exits.
 Stores& stores()
 {
-    static Stores& open = *new Stores;
+    static Stores& open = *new Stores(ScratchIndex + 1);
     return open;
 }
 
@@ -24,8 +26,9 @@ const struct ChangesAtEnd
 {
     ~ChangesAtEnd()
     {
-        for (const auto& [index, store] : stores())
-            store->transactions().finish();
+        for (const auto& store : stores())
+            if (store)
+                store->transactions().finish();
     }
 } changesAtEnd;
 
@@ -40,32 +43,30 @@ void addScratchStore()
 
 ZobDatabase* findStore(int index)
 {
-    auto found = stores().find(index);
-    if (found == stores().end() && index == ScratchIndex) {
+    const Stores& open = stores();
+    if (index == ScratchIndex && !open[ScratchIndex])
         addScratchStore();
-        found = stores().find(index);
-    }
-    return found == stores().end() ? nullptr : found->second.get();
+    return index >= 0 && size_t(index) < open.size() ? open[size_t(index)].get() : nullptr;
 }
 
-ZobDatabase* openStore(int index, VkdStatus* failure)
+VkdStatus reportNotOpen(int index)
 {
-    if (ZobDatabase* store = findStore(index))
-        return store;
-    *failure = reportZobFailure(VKD_ZOB_NOT_OPEN, ZobAction::Use, QString::number(index));
-    return nullptr;
+    return reportZobFailure(VKD_ZOB_NOT_OPEN, ZobAction::Use, QString::number(index));
 }
 
 int addStore(std::shared_ptr<ZobDatabase> store)
 {
-    int index = ScratchIndex + 1;
-    while (stores().count(index))
-        ++index;
-    stores()[index] = std::move(store);
+    Stores& open = stores();
+    const auto unused = std::find(open.begin() + ScratchIndex + 1, open.end(), nullptr);
+    const auto index = int(unused - open.begin());
+    if (unused == open.end())
+        open.push_back(std::move(store));
+    else
+        *unused = std::move(store);
     return index;
 }
 
 void removeStore(int index)
 {
-    stores().erase(index);
+    stores()[size_t(index)].reset();
 }

@@ -7,9 +7,8 @@
 /// Returns the store with this index, or null if there is none.
 ZobDatabase* findStore(int index);
 
-/// Returns the store with this index. If there is none, logs the error, sets `failure` and returns
-/// null.
-ZobDatabase* openStore(int index, VkdStatus* failure);
+/// Logs that no store has this index and returns the failure.
+VkdStatus reportNotOpen(int index);
 
 /// Adds the store and returns its index.
 int addStore(std::shared_ptr<ZobDatabase> store);

@@ -24,11 +24,11 @@ VkdStatus vkd_zob_close(int index)
 {
     if (index == 0) // the scratch store exists as long as the process
         return reportZobFailure(VKD_ZOB_BAD_CALL, ZobAction::Close, QString::number(index));
-    VkdStatus status;
-    if (ZobDatabase* store = openStore(index, &status)) {
-        status = store->transactions().finish();
-        removeStore(index);
-    }
+    ZobDatabase* store = findStore(index);
+    if (!store)
+        return reportNotOpen(index);
+    const VkdStatus status = store->transactions().finish();
+    removeStore(index);
     return status;
 }
 
@@ -41,62 +41,58 @@ VkdStatus vkd_zob_last_failure(int index)
 
 cd_error_t vkd_zob_get(int index, int key1, int key2, void* record, int* length, int position)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
-    return store ? store->get(key1, key2, record, length, position) : failure.code;
+    ZobDatabase* store = findStore(index);
+    return store ? store->get(key1, key2, record, length, position) : reportNotOpen(index).code;
 }
 
 cd_error_t vkd_zob_put(int index, int key1, int key2, const void* record, const int* length,
                        int position)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
-    return store ? store->put(key1, key2, record, *length, position) : failure.code;
+    ZobDatabase* store = findStore(index);
+    return store ? store->put(key1, key2, record, *length, position) : reportNotOpen(index).code;
 }
 
 cd_error_t vkd_zob_lock_ex(int index, int key1, int key2)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
-    return store ? store->transactions().take({key1, key2}).code : failure.code;
+    ZobDatabase* store = findStore(index);
+    return store ? store->transactions().take({key1, key2}).code : reportNotOpen(index).code;
 }
 
 void vkd_zob_free_ex(int index, int key1, int key2)
 {
-    VkdStatus failure;
-    if (ZobDatabase* store = openStore(index, &failure))
+    if (ZobDatabase* store = findStore(index))
         store->transactions().release({key1, key2});
+    else
+        reportNotOpen(index);
 }
 
 VkdStatus vkd_zob_change_status(int index)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
-    return store ? store->transactions().endOfChange() : failure;
+    ZobDatabase* store = findStore(index);
+    return store ? store->transactions().endOfChange() : reportNotOpen(index);
 }
 
 cd_error_t vkd_zob_outside_changes(int index, int* number)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
-    return store ? store->outsideChanges().number(number) : failure.code;
+    ZobDatabase* store = findStore(index);
+    return store ? store->outsideChanges().number(number) : reportNotOpen(index).code;
 }
 
 VkdStatus vkd_zob_copy(int index, const VkdZobTake& take)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
-    return store ? store->copy(take) : failure;
+    ZobDatabase* store = findStore(index);
+    return store ? store->copy(take) : reportNotOpen(index);
 }
 
 void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)
 {
-    VkdStatus failure;
-    ZobDatabase* store = openStore(index, &failure);
+    ZobDatabase* store = findStore(index);
     if (store && mode == 1)
         return store->firstPairFrom(key1, key2);
     if (store)
         store->refuseCall(ZobAction::Search);
+    else
+        reportNotOpen(index);
     *key1 = -1;
     *key2 = -1;
 }
