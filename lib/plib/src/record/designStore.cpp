@@ -7,6 +7,10 @@
 #include <vkd_zob_keys.h>
 #include <ZobHandle.h>
 
+#include <QtEndian>
+
+#include <algorithm>
+
 namespace plib {
 
 namespace {
@@ -33,22 +37,47 @@ public:
     /// distinguish the two.
     bool next(tagZOB_QUAD_RIM& record)
     {
-        RecordBytes bytes = toBytes(record);
+        RecordBytes bytes;
         length = RecordLength;
         const cd_error_t status = vkd_zob_get(m_project.index(), m_keys.key1, m_keys.key2,
                                               bytes.data(), &length, m_position++);
         if (status > VKD_ZOB_CUT)
             return false;
-        record = fromBytes(bytes);
+        if (length < RecordLength)
+            keepRest(record, bytes);
+        convert(bytes, record);
         return true;
     }
 
-    int length = 0; ///< length of the last record
+    int length = 0;          ///< length of the last record
+    bool isRepeated = false; ///< except for its group, the last record has the bytes of the one
+                             ///< before it, so only the group was set in the caller's record
 
 private:
+    void keepRest(const tagZOB_QUAD_RIM& record, RecordBytes& bytes) const
+    {
+        const RecordBytes old = toBytes(record);
+        std::copy(old.begin() + length, old.end(), bytes.begin() + length);
+    }
+
+    void convert(const RecordBytes& bytes, tagZOB_QUAD_RIM& record)
+    {
+        constexpr size_t First = offsetof(tagZOB_QUAD_RIM, subId);
+        static_assert(First == sizeof record.group);
+        isRepeated = length == RecordLength && m_position > 1 &&
+                     std::equal(bytes.begin() + First, bytes.end(), m_last.begin() + First);
+        if (isRepeated) {
+            record.group = qFromLittleEndian<qint32>(bytes.data());
+        } else {
+            record = fromBytes(bytes);
+            m_last = bytes;
+        }
+    }
+
     ZobHandle m_project;
     KeyPair m_keys;
     int m_position = 0;
+    RecordBytes m_last{};
 };
 
 void empty(ZobHandle project, KeyPair keys)
@@ -104,24 +133,30 @@ void readRowsFromZob(DesignParameterData& data)
 {
     const ZobHandle project(data.designDoc->index());
     std::vector<DesignParameterRow> remaining; // inserted before the other rows, in reverse order
-    tagZOB_QUAD_RIM previous{};
-    bool hasPrevious = false;
+    bool hasRow = false;
+    bool isInLastRow = false;
     RecordPass pass(project, Design);
     tagZOB_QUAD_RIM record{};
     while (pass.next(record)) {
         if (!isDesignRecord(record))
             continue;
-        toEditedForm(record, data.kindOfSystem);
-        cleanRecord(record);
+        if (!pass.isRepeated) {
+            toEditedForm(record, data.kindOfSystem);
+            cleanRecord(record);
+        }
         if (record.group < 0) {
             remaining.push_back({data.barData, record, {-1}});
-        } else if (hasPrevious && recordsEqual(previous, record)) {
-            data.rows.back().groups.push_back(record.group);
-        } else {
-            data.rows.push_back({data.barData, record, {record.group}});
-            previous = record;
-            hasPrevious = true;
+            isInLastRow = false;
+            continue;
         }
+        // A repeated record may differ from the last row, because NaN is not equal to itself.
+        isInLastRow = (pass.isRepeated && isInLastRow) ||
+                      (hasRow && recordsEqual(data.rows.back().record, record));
+        if (isInLastRow)
+            data.rows.back().groups.push_back(record.group);
+        else
+            data.rows.push_back({data.barData, record, {record.group}});
+        hasRow = true;
     }
     data.rows.insert(data.rows.begin(), remaining.rbegin(), remaining.rend());
     vkd_zob_free_ex(project.index(), Design.key1, Design.key2);
