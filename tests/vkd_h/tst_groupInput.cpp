@@ -59,8 +59,9 @@ private Q_SLOTS:
         for (const char* name : {"COLS", "LOW", "A1", "ABCD", "abcd"})
             existing.push_back(vkd::dbo::packedName(QLatin1String(name)));
         std::sort(existing.begin(), existing.end());
+        const GroupNames names(existing);
         const auto read = [&](const QString& text) {
-            return told(readNames(text, existing), shownName);
+            return told(readNames(text, names), shownName);
         };
         compareCases(read, R"(
 COLS LOW;A1,LOW => A1 LOW COLS//
@@ -71,7 +72,7 @@ COLS1 LO => //COLS1|LO
 A1-LOW => //A1-LOW
 )");
         const auto readBoth = [&](const QString& text) {
-            return told(readNumbersAndNames(text, {1, 2, 3}, existing), [](int group) {
+            return told(readNumbersAndNames(text, {1, 2, 3}, names), [](int group) {
                 return group < vkd::dbo::FirstPackedName ? QString::number(group)
                                                          : shownName(group);
             });

@@ -61,16 +61,27 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
         setReal(record.*field->real, name, value);
 }
 
-/// Returns the groups listed in the text, all of which must be known.
-std::vector<int> parseGroups(const QString& text, const std::set<int>& known)
+/// The groups that a text may list.
+struct KnownGroups
 {
-    if (plib::isNoGroupsText(text) && !known.count(vkd::dbo::packedName(text)))
+    explicit KnownGroups(const std::set<int>& groups)
+        : numbers(groups.begin(), groups.lower_bound(vkd::dbo::FirstPackedName))
+        , names({groups.lower_bound(vkd::dbo::FirstPackedName), groups.end()})
+    {
+    }
+
+    std::vector<int> numbers;
+    vkd::h::GroupNames names;
+};
+
+/// Returns the groups listed in the text, all of which must be known.
+std::vector<int> parseGroups(const QString& text, const KnownGroups& known)
+{
+    if (plib::isNoGroupsText(text) && !known.names.contains(vkd::dbo::packedName(text)))
         return {};
     if (text == QLatin1String("remaining") || plib::isRemainingGroupsText(text))
         return {-1};
-    const auto firstName = known.lower_bound(vkd::dbo::FirstPackedName);
-    const vkd::h::GroupInput input =
-        vkd::h::readNumbersAndNames(text, {known.begin(), firstName}, {firstName, known.end()});
+    const vkd::h::GroupInput input = vkd::h::readNumbersAndNames(text, known.numbers, known.names);
     if (!input.missing.isEmpty() || input.groups.empty())
         throw CommandError{QStringLiteral("there is no group \"%1\"").arg(input.missing.value(0))};
     return input.groups;
@@ -170,7 +181,7 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 
 void DesignRows::setRow(const QString& groups, const QStringList& fields)
 {
-    setRow(parseGroups(groups, knownGroups()), fields);
+    setRow(parseGroups(groups, KnownGroups(knownGroups())), fields);
 }
 
 void DesignRows::setRow(const std::vector<int>& groups, const QStringList& fields)
@@ -184,7 +195,7 @@ void DesignRows::setRow(const std::vector<int>& groups, const QStringList& field
 std::vector<std::vector<int>> DesignRows::groupsOf(const plib::RowTable& table,
                                                    QStringList* faults) const
 {
-    const std::set<int> known = knownGroups();
+    const KnownGroups known(knownGroups());
     std::vector<std::vector<int>> groupsOfRows;
     std::set<int> named;
     for (const plib::RowPatch& row : table.rows) {

@@ -267,9 +267,11 @@ void VKD_H_GroupDialog::toggle(const QModelIndexList& rows)
 
 bool VKD_H_GroupDialog::applyInput()
 {
-    const auto read =
-        m_kind == VKD_H_GroupKind::Secondary ? vkd::h::readNames : vkd::h::readNumbers;
-    const GroupInput input = read(m_input->text(), m_groups->groups());
+    const QString text = m_input->text();
+    const std::vector<int> existing = m_groups->groups();
+    const GroupInput input = m_kind == VKD_H_GroupKind::Secondary
+                                 ? vkd::h::readNames(text, vkd::h::GroupNames(existing))
+                                 : vkd::h::readNumbers(text, existing);
     QVector<int> rows;
     std::vector<int> withoutAreas;
     for (int group : input.groups) {

@@ -4,49 +4,54 @@
 
 #include <vkd_dbo_packedNames.h>
 
-#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace vkd {
 namespace h {
 
 namespace {
-/// A set of flags, one for each existing group. A list of the matching groups could become very
-/// long, because the user may repeat a range thousands of times.
-class Marks
+/// Ranges of existing groups. Their groups are listed only at the end, because the user may repeat
+/// a long range thousands of times.
+class Ranges
 {
 public:
-    explicit Marks(const std::vector<int>& existing)
+    explicit Ranges(const std::vector<int>& existing)
         : m_existing(existing)
-        , m_isMarked(existing.size())
     {
     }
 
-    /// Marks the groups from `first` to `last`. Returns false if none exists.
-    bool mark(qint64 first, qint64 last)
+    /// Adds the groups from `first` to `last`. Returns false if none exists.
+    bool add(qint64 first, qint64 last)
     {
         const auto begin = std::lower_bound(m_existing.begin(), m_existing.end(), first);
         const auto end = std::upper_bound(begin, m_existing.end(), last);
-        std::fill(m_isMarked.begin() + (begin - m_existing.begin()),
-                  m_isMarked.begin() + (end - m_existing.begin()), true);
+        m_ranges.emplace_back(begin, end);
         return begin != end;
     }
 
-    std::vector<int> groups() const
+    /// Returns each group once, ascending.
+    std::vector<int> groups()
     {
-        std::vector<int> marked;
-        for (size_t i = 0; i < m_existing.size(); ++i)
-            if (m_isMarked[i])
-                marked.push_back(m_existing[i]);
-        return marked;
+        std::sort(m_ranges.begin(), m_ranges.end());
+        std::vector<int> all;
+        auto next = m_existing.begin();
+        for (const auto& [begin, end] : m_ranges) {
+            next = std::max(next, begin);
+            if (next < end)
+                all.insert(all.end(), next, end);
+            next = std::max(next, end);
+        }
+        return all;
     }
 
 private:
+    using Place = std::vector<int>::const_iterator;
     const std::vector<int>& m_existing;
-    std::vector<bool> m_isMarked;
+    std::vector<std::pair<Place, Place>> m_ranges;
 };
 
 QStringList parts(const QString& text)
@@ -80,7 +85,7 @@ GroupInput readNumbers(const QString& text, const std::vector<int>& existing)
 {
     static const QRegularExpression pattern(QStringLiteral("\\A([0-9]+)(?:-([0-9]+))?\\z"));
     GroupInput input;
-    Marks marks(existing);
+    Ranges ranges(existing);
     const QStringList all = parts(withPlainRanges(text));
     for (const QString& part : all) {
         const QRegularExpressionMatch match = pattern.match(part);
@@ -90,37 +95,50 @@ GroupInput readNumbers(const QString& text, const std::vector<int>& existing)
         }
         const qint64 first = number(match.captured(1));
         const qint64 last = match.capturedLength(2) > 0 ? number(match.captured(2)) : first;
-        if (!marks.mark(std::min(first, last), std::max(first, last)))
+        if (!ranges.add(std::min(first, last), std::max(first, last)))
             input.missing << part;
     }
-    input.groups = marks.groups();
+    input.groups = ranges.groups();
     return input;
 }
 
-GroupInput readNames(const QString& text, const std::vector<int>& existing)
+GroupNames::GroupNames(const std::vector<int>& packed)
+    : m_packed(packed)
 {
-    QMultiHash<QString, int> byFoldedName;
-    for (int packed : existing)
-        byFoldedName.insert(shownName(packed).toCaseFolded(), packed);
+    for (int name : packed)
+        m_byFoldedName.insert(shownName(name).toCaseFolded(), name);
+}
+
+bool GroupNames::contains(int packed) const
+{
+    return std::binary_search(m_packed.begin(), m_packed.end(), packed);
+}
+
+QList<int> GroupNames::alike(const QString& name) const
+{
+    const QList<int> all = m_byFoldedName.values(name.toCaseFolded());
+    const int packed = dbo::packedName(name);
+    return all.size() > 1 && all.contains(packed) ? QList<int>{packed} : all;
+}
+
+GroupInput readNames(const QString& text, const GroupNames& existing)
+{
     GroupInput input;
-    Marks marks(existing);
+    Ranges ranges(existing.packed());
     const QStringList all = parts(text.simplified());
     for (const QString& part : all) {
-        const QList<int> alike = byFoldedName.values(part.toCaseFolded());
+        const QList<int> alike = existing.alike(part);
         if (alike.isEmpty())
             input.missing << part;
-        else if (alike.size() > 1 && alike.contains(dbo::packedName(part)))
-            marks.mark(dbo::packedName(part), dbo::packedName(part));
-        else
-            for (int packed : alike)
-                marks.mark(packed, packed);
+        for (int packed : alike)
+            ranges.add(packed, packed);
     }
-    input.groups = marks.groups();
+    input.groups = ranges.groups();
     return input;
 }
 
 GroupInput readNumbersAndNames(const QString& text, const std::vector<int>& numbers,
-                               const std::vector<int>& names)
+                               const GroupNames& names)
 {
     GroupInput input = readNumbers(text, numbers);
     const QStringList others = input.unreadable + input.missing;
