@@ -167,13 +167,22 @@ QString VKD_H_TableWidget::shownText(const QModelIndex& cell) const
 }
 
 namespace {
-/// Returns whether the event is a click that extends the selection. Such a click must not move the
-/// focus to the widget over the cell, because the view would then select or deselect this cell.
+/// Returns whether the event is a click that extends the selection or opens the context menu, or a
+/// movement of the mouse while cells are being selected. Such an event must not move the focus to
+/// the widget over the cell, because the view would then select only this cell.
 bool isSelecting(const QEvent* event)
 {
-    const bool isRelease = event && event->type() == QEvent::MouseButtonRelease;
-    return isRelease && static_cast<const QMouseEvent*>(event)->modifiers() &
-                            (Qt::ControlModifier | Qt::ShiftModifier);
+    switch (event ? event->type() : QEvent::None) {
+    case QEvent::MouseMove: return static_cast<const QMouseEvent*>(event)->buttons() != 0;
+    case QEvent::MouseButtonPress:
+        return static_cast<const QMouseEvent*>(event)->button() != Qt::LeftButton;
+    case QEvent::MouseButtonRelease: {
+        const auto mouse = static_cast<const QMouseEvent*>(event);
+        return mouse->button() != Qt::LeftButton ||
+               (mouse->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
+    }
+    default: return false;
+    }
 }
 } // namespace
 

@@ -81,13 +81,14 @@ QString VKD_QT4_ComboBox::cutText() const
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     const int picture = itemIcon(currentIndex()).isNull() ? 0 : iconSize().width() + PictureGap;
-    return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width() - 2 - picture);
+    const QString text = currentIndex() < 0 ? placeholderText() : currentText();
+    return fontMetrics().elidedText(text, Qt::ElideRight, field.width() - 2 - picture);
 }
 
 bool VKD_QT4_ComboBox::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip || isEditable() || !toolTip().isEmpty() ||
-        cutText() == currentText())
+        currentIndex() < 0 || cutText() == currentText())
         return QComboBox::event(event);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), currentText(), this);
     return true;
