@@ -25,6 +25,11 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QToolButton>
+
+#include <functional>
+#include <type_traits>
 
 namespace {
 constexpr int Rows = 10000;
@@ -224,6 +229,53 @@ void openDialog(benchmark::State& state)
         openAndPaint(newDialog<Dialog>().get());
 }
 
+/// Opens the dialog from the page, and passes it to a function that runs in its event loop.
+template <class Dialog>
+void runFromPage(VKD_P_DesignParameter& page, const std::function<void(QDialog*)>& use)
+{
+    QTimer::singleShot(0, [&use] {
+        auto dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        use(dialog);
+        dialog->reject();
+    });
+    trigger(page, std::is_same_v<Dialog, dlgReinforcement>       ? "editReinforcement"
+                  : std::is_same_v<Dialog, dlgDistanceDirection> ? "editDirections"
+                                                                 : "editCrackControl");
+}
+
+/// Continues with the next row and paints the dialog.
+template <class Dialog>
+void stepToNextRow(benchmark::State& state)
+{
+    const Project project;
+    const auto page = newPage(project);
+    page->readZob();
+    auto table = page->findChild<QTableWidget*>(QStringLiteral("table"));
+    table->setCurrentCell(1, 2);
+    runFromPage<Dialog>(*page, [&state](QDialog* dialog) {
+        auto next = dialog->findChild<QToolButton*>(QStringLiteral("nextRow"));
+        dialog->grab();
+        for (auto _ : state) {
+            next->click();
+            dialog->grab();
+        }
+    });
+    if (table->currentRow() == 1)
+        state.SkipWithError("the row is still the same");
+}
+
+/// Opens the dialog from the page and paints it.
+template <class Dialog>
+void openFromPage(benchmark::State& state)
+{
+    const Project project;
+    const auto page = newPage(project);
+    page->readZob();
+    page->findChild<QTableWidget*>(QStringLiteral("table"))->setCurrentCell(1, 2);
+    for (auto _ : state)
+        runFromPage<Dialog>(*page, [](QDialog* dialog) { dialog->grab(); });
+}
+
 /// Shows the same number of Qt widgets of each kind as the dialog has, in a window with a grid of
 /// four columns.
 template <class Dialog>
@@ -269,6 +321,12 @@ BENCHMARK(deleteHalf)->UseManualTime();
 BENCHMARK(pasteAll)->UseManualTime();
 BENCHMARK(undoOneRow);
 BENCHMARK(redrawOneRow);
+BENCHMARK_TEMPLATE(stepToNextRow, dlgDistanceDirection);
+BENCHMARK_TEMPLATE(openFromPage, dlgDistanceDirection);
+BENCHMARK_TEMPLATE(stepToNextRow, dlgReinforcement);
+BENCHMARK_TEMPLATE(openFromPage, dlgReinforcement);
+BENCHMARK_TEMPLATE(stepToNextRow, dlgCrackControl);
+BENCHMARK_TEMPLATE(openFromPage, dlgCrackControl);
 BENCHMARK_TEMPLATE(openDialog, dlgDistanceDirection);
 BENCHMARK_TEMPLATE(openPlainDialog, dlgDistanceDirection);
 BENCHMARK_TEMPLATE(openDialog, dlgReinforcement);
@@ -281,6 +339,12 @@ Bound opening(const char* dialog)
     return {std::string("openDialog<") + dialog + ">",
             std::string("openPlainDialog<") + dialog + ">", 1.3,
             "shows as many Qt widgets of each kind in one grid"};
+}
+
+Bound stepping(const char* dialog)
+{
+    return {std::string("stepToNextRow<") + dialog + ">",
+            std::string("openFromPage<") + dialog + ">", 1.2, "opens the dialog from the page"};
 }
 } // namespace
 
@@ -296,6 +360,9 @@ int main(int argc, char* argv[])
          {"pasteAll/manual_time", "fillPage/manual_time", 2.0, "fills and frees all rows"},
          {"undoOneRow", "redrawOneRow", 2.0,
           "writes the texts of a row into a bare table and fits its height"},
+         stepping("dlgDistanceDirection"),
+         stepping("dlgReinforcement"),
+         stepping("dlgCrackControl"),
          opening("dlgDistanceDirection"),
          opening("dlgReinforcement"),
          opening("dlgCrackControl")});
