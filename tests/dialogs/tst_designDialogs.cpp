@@ -168,6 +168,25 @@ private Q_SLOTS:
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }
 
+    /// Tab moves down the columns of both sides, also after the fields have been rebuilt.
+    void keysBetweenTheBars()
+    {
+        tagZOB_QUAD_RIM record = unevenRecord(2);
+        const auto dialog = open<dlgReinforcement>(&record);
+        QCOMPARE(dialog->focusWidget()->objectName(), QStringLiteral("m_pDIO"));
+        for (const char* bars : {"m_pDIO m_pDIOQ m_pDIU m_pDIUQ aso",
+                                 "m_pDIO m_pDIOQ m_pDIOI m_pDIU m_pDIUQ m_pDIUI aso"}) {
+            QStringList names;
+            find<QWidget>(*dialog, "m_pDIO")->setFocus();
+            while (names.size() < 20 && names.value(names.size() - 1) != QLatin1String("aso")) {
+                names << dialog->focusWidget()->objectName();
+                QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+            }
+            QCOMPARE(names.join(QLatin1Char(' ')), QLatin1String(bars));
+            dialog->showRecord(unevenRecord(3));
+        }
+    }
+
     /// The fields of the invalid pair are marked, and the first field of the pair receives the
     /// focus.
     void limitsAreCheckedOneByOne()

@@ -2,11 +2,16 @@
 #include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QWindow>
 
 using namespace testsupport;
 
@@ -167,15 +172,181 @@ private Q_SLOTS:
         QCOMPARE(told.first(), QStringLiteral("Row 2, Type: \"7\" is not a type."));
     }
 
+    /// Fields in which the rows differ are empty. Only changed fields are written, to all selected
+    /// rows with a design and in one step. The limits are checked in each row.
+    void editingSeveralRows()
+    {
+        tagZOB_QUAD_RIM thin = record(1, 2, 4);
+        thin.hio = 0.025F;
+        thin.dio = 12;
+        tagZOB_QUAD_RIM limited = record(2, 3, 4);
+        limited.amo = 9;
+        DesignDesk desk(*m_project, {record(-1, 1, 4), thin, limited, record(3, 0, 0)});
+        const QString before = stateOf(desk);
+        const auto edit = [&desk](int column, const std::function<void(QWidget&)>& fill) {
+            desk.table()->setCurrentCell(2, column, QItemSelectionModel::ClearAndSelect);
+            desk.table()->setRangeSelected({0, column, 3, column}, true);
+            QString shown;
+            whenModal([&](QWidget* dialog) {
+                QStringList texts{find<QLabel>(*dialog, "rowTitle")->accessibleName()};
+                for (const auto* field : dialog->findChildren<QLineEdit*>())
+                    texts << field->objectName() + QLatin1Char(' ') + field->text() +
+                                 field->placeholderText();
+                shown = texts.join(QLatin1Char('|'));
+                fill(*dialog);
+                qobject_cast<QDialog*>(dialog)->accept();
+                dialog->close(); // if it was not accepted
+            });
+            desk.keys({Qt::Key_F2});
+            return shown;
+        };
+        const QString shown = edit(2, [](QWidget& dialog) {
+            find<QLineEdit>(dialog, "hiuq")->setText(QStringLiteral("12"));
+            QTest::keyClick(find<QLineEdit>(dialog, "hio"), Qt::Key_Delete); // not set in any row
+        });
+        QCOMPARE(shown, QStringLiteral("Rows 1-3: groups 1, 2 and remaining groups|rio 0.0|riu 0.0|"
+                                       "hio several|hiu 35.0|hioq several|hiuq 10.0"));
+        for (int row : {0, 1, 2})
+            QVERIFY(desk.row(row).contains(QLatin1String("/ -  ;35.0 mm ;")) &&
+                    desk.row(row).contains(QLatin1String(" ;12.0 mm")));
+        QVERIFY(desk.row(1).contains(QLatin1String("20.0 mm"))); // the spacing of the thin row
+        QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
+                 QStringLiteral("&Undo Direction and distance of 3 rows"));
+        find<QAction>(*desk.page, "undo")->trigger();
+        desk.table()->setCurrentCell(-1, -1);
+        QCOMPARE(stateOf(desk).section(QLatin1Char('\n'), 0, 6),
+                 before.section(QLatin1Char('\n'), 0, 6));
+        QString told;
+        edit(3, [&told](QWidget& dialog) {
+            const auto bar = find<QComboBox>(dialog, "m_pDIO");
+            QCOMPARE(bar->currentText(), QStringLiteral("several"));
+            bar->setCurrentIndex(bar->findText(QStringLiteral("Ø20")));
+            find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9,5"));
+            whenModal([&told](QWidget* box) {
+                told = qobject_cast<QMessageBox*>(box)->informativeText();
+                box->close();
+            });
+        });
+        QCOMPARE(told, QStringLiteral("Row 3: the minimum would be 9.50 cm²/m and the maximum 9.00 "
+                                      "cm²/m."));
+        edit(3,
+             [](QWidget& dialog) { find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9")); });
+        QVERIFY(desk.row(1).contains(QStringLiteral("Ø12 ;9.00 cm²/m ; - ")));
+        QVERIFY(desk.row(2).contains(QStringLiteral("Ø10 ;9.00 cm²/m ;9.00")));
+    }
+
+    /// The list of types is empty if the types differ. It may then also choose the type of its own
+    /// row for the others.
+    void typeOfSeveralRows()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 3, 1), record(2, 2, 2)});
+        const auto types = [&desk] {
+            QStringList texts;
+            for (int row : {0, 1, 2})
+                texts << desk.table()->item(row, 1)->text();
+            return texts.join(QLatin1Char('|'));
+        };
+        const QString before = types();
+        desk.table()->setCurrentCell(1, 1);
+        desk.table()->setRangeSelected({1, 1, 2, 1}, true);
+        desk.keys({Qt::Key_F2});
+        const auto list = find<QComboBox>(desk, "cellCombo");
+        QTRY_VERIFY(list->view()->isVisible());
+        QCOMPARE(list->currentIndex(), -1);
+        list->view()->setCurrentIndex(list->model()->index(3, 0));
+        QTest::keyClick(list->view(), Qt::Key_Enter);
+        QTRY_COMPARE(types(), QStringLiteral("Two Layers (orthogonal)|Three Layers|Three Layers"));
+        for (QAction* entry : find<QAction>(*desk.page, "rowType")->menu()->actions())
+            if (entry->text() == QLatin1String("Circular"))
+                entry->trigger();
+        QCOMPARE(types(), QStringLiteral("Two Layers (orthogonal)|Circular|Circular"));
+        for (int step = 0; step < 2; ++step) {
+            QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
+                     QStringLiteral("&Undo Type of 2 rows"));
+            find<QAction>(*desk.page, "undo")->trigger();
+        }
+        QCOMPARE(types(), before);
+    }
+
+    /// The dialog stays open from row to row. A row that is only shown keeps its record, even if OK
+    /// would clear some of its fields.
+    void steppingThroughRows()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 1), record(1, 0, 0), record(2, 3, 2),
+                                     record(3, 2, 3), record(4, 2, 4)});
+        desk.table()->setCurrentCell(0, 3);
+        QStringList shown;
+        whenModal([&](QWidget* dialog) {
+            QApplication::setActiveWindow(dialog); // shortcuts need it
+            const auto step = [&](Qt::Key key) {
+                QTest::keyClick(dialog, key, Qt::AltModifier);
+                shown << QStringLiteral("%1 at %2 with %3 fields, aso %4%5")
+                             .arg(find<QLabel>(*dialog, "rowTitle")->accessibleName())
+                             .arg(desk.table()->currentRow())
+                             .arg(dialog->findChildren<QLineEdit*>().size())
+                             .arg(find<QLineEdit>(*dialog, "aso")->text(),
+                                  find<QLineEdit>(*dialog, "aso")->hasFocus()
+                                      ? QString()
+                                      : QStringLiteral(" without focus"));
+            };
+            find<QLineEdit>(*dialog, "aso")->setFocus();
+            find<QLineEdit>(*dialog, "asu")->setText(QStringLiteral("7"));
+            step(Qt::Key_Down);
+            step(Qt::Key_Down);
+            find<QLineEdit>(*dialog, "aso")->setText(QStringLiteral("8,5"));
+            find<QLineEdit>(*dialog, "amo")->setText(QStringLiteral("x"));
+            step(Qt::Key_Down); // refused
+            find<QLineEdit>(*dialog, "amo")->clear();
+            find<QLineEdit>(*dialog, "aso")->setFocus();
+            step(Qt::Key_Down);
+            step(Qt::Key_Down); // the last row
+            step(Qt::Key_Up);
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+        desk.keys({Qt::Key_F2});
+        QCOMPARE(shown.join(QLatin1Char('\n')),
+                 QStringLiteral("Row 3: groups 2 at 2 with 12 fields, aso 2.00\n"
+                                "Row 4: groups 3 at 3 with 8 fields, aso 3.00\n"
+                                "Row 4: groups 3 at 3 with 8 fields, aso 8.50 without focus\n"
+                                "Row 5: groups 4 at 4 with 8 fields, aso 4.00\n"
+                                "Row 5: groups 4 at 4 with 8 fields, aso 4.00\n"
+                                "Row 4: groups 3 at 3 with 8 fields, aso 8.50"));
+        QAction* undo = find<QAction>(*desk.page, "undo");
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Reinforcement of row 4"));
+        undo->trigger();
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Reinforcement of row 1"));
+        undo->trigger();
+        QVERIFY(!undo->isEnabled());
+        QCOMPARE(desk.focusWidget(), desk.table());
+    }
+
     /// Clicks with Ctrl add cells to the selection, even cells in which a click opens an editor.
+    /// The button in the last of several selected cells edits all their rows.
     void selectingSeveralRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
         QTableWidget* table = desk.table();
+        QWindow* window = desk.windowHandle();
+        const auto at = [&](int row) {
+            return table->viewport()->mapTo(&desk,
+                                            table->visualItemRect(table->item(row, 3)).center());
+        };
+        QTest::mousePress(window, Qt::LeftButton, {}, at(0));
         for (int row : {1, 2})
-            QTest::mouseClick(desk.windowHandle(), Qt::LeftButton, Qt::ControlModifier,
-                              table->viewport()->mapTo(
-                                  &desk, table->visualItemRect(table->item(row, 3)).center()));
+            for (int pixel : {0, 3})
+                QTest::mouseMove(window, at(row) + QPoint(pixel, pixel));
+        QTest::mouseRelease(window, Qt::LeftButton, {}, at(2));
+        QTRY_COMPARE(desk.editors(), QStringLiteral("2,3"));
+        QString title;
+        whenModal([&title](QWidget* dialog) {
+            title = find<QLabel>(*dialog, "rowTitle")->accessibleName();
+            dialog->close();
+        });
+        QTest::mouseClick(window, Qt::LeftButton, {}, at(2));
+        QCOMPARE(title, QStringLiteral("Rows 1-3: groups 1, 2 and remaining groups"));
+        table->clearSelection();
+        for (int row : {1, 2})
+            QTest::mouseClick(window, Qt::LeftButton, Qt::ControlModifier, at(row));
         desk.press("btnDelete");
         QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups"));
     }

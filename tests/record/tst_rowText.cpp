@@ -2,6 +2,7 @@
 
 #include <record/designFields.h>
 #include <record/designRecord.h>
+#include <record/groupsNotice.h>
 #include <record/rowText.h>
 #include <record/rowTitle.h>
 #include <record/sharedGroups.h>
@@ -73,6 +74,22 @@ private Q_SLOTS:
         QCOMPARE(title({3}), QStringLiteral("Row 4: no groups"));
         QCOMPARE(title({0, 1, 2, 3}),
                  QStringLiteral("Rows 1-4: groups 1-4, 7, 8, 45, OPN and remaining groups"));
+    }
+
+    void noticesOfGroups()
+    {
+        constexpr int Open = 0x204e504f;
+        plib::DesignRowList rows(3);
+        rows[0].groups = {1, 2, 3, 4};
+        rows[1].groups = {3, Open};
+        rows[2].groups = {4};
+        QCOMPARE(plib::groupsNotice(rows, 0, {Open}),
+                 QStringLiteral("Row 1 has lost its secondary groups: OPN. Undo restores them. "
+                                "Row 1 has groups that are also in row 2, 3: 3, 4."));
+        QCOMPARE(plib::groupsNotice(rows, 1, {1, 2, Open}),
+                 QStringLiteral("Row 2 has groups that are also in row 1: 3."));
+        rows[0].groups = {-1};
+        QCOMPARE(plib::groupsNotice(rows, 2, {-1}), QString());
     }
 
     /// Tests the text of rows with groups, with ", " instead of newlines.

@@ -135,6 +135,14 @@ Daten können verloren gehen!</translation>
         <source>Permissible crack width for crack width control with or without direct calculation. Crack width control acc. to EN 1992-1-1, table 7.3N requires input for permissible steel stress.</source>
         <translation>Zulässige Rissbreite für die Begrenzung der Rissbreite mit oder ohne direkte Berechnung. Die Begrenzung nach EN 1992-1-1, Tabelle 7.3N erfordert die Eingabe der zulässigen Stahlspannung.</translation>
     </message>
+    <message>
+        <source>The table shows the crack widths of this type of row, but not its steel stresses.</source>
+        <translation>Die Tabelle zeigt für diese Art die Rissbreiten, aber nicht die Stahlspannungen.</translation>
+    </message>
+    <message>
+        <source>The table shows the steel stresses of this type of row, but not its crack widths.</source>
+        <translation>Die Tabelle zeigt für diese Art die Stahlspannungen, aber nicht die Rissbreiten.</translation>
+    </message>
 </context>
 <context>
     <name>dlgDistanceDirection</name>
@@ -827,6 +835,99 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     <message>
         <source>Rows %1: %2</source>
         <translation>Zeilen %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CommonRecord</name>
+    <message>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>plib::CommonFields</name>
+    <message>
+        <source>several</source>
+        <translation>mehrere</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>Different values: %1</source>
+        <translation>Verschiedene Werte: %1</translation>
+    </message>
+    <message>
+        <source>An empty field leaves them unchanged. The Delete key in the empty field removes the value from all rows.</source>
+        <translation>Ein leeres Feld lässt sie unverändert. Die Entf-Taste im leeren Feld entfernt den Wert aus allen Zeilen.</translation>
+    </message>
+    <message>
+        <source>Row %1: the minimum would be %2 and the maximum %3.</source>
+        <translation>Zeile %1: Die Mindestbewehrung wäre %2, die Höchstbewehrung %3.</translation>
+    </message>
+</context>
+<context>
+    <name>plib::RowStrip</name>
+    <message>
+        <source>OK and continue with the previous row (%1)</source>
+        <translation>OK und weiter mit der vorigen Zeile (%1)</translation>
+    </message>
+    <message>
+        <source>OK and continue with the next row (%1)</source>
+        <translation>OK und weiter mit der nächsten Zeile (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>GroupsNotice</name>
+    <message>
+        <source>Row %1 has groups that are also in row %2: %3.</source>
+        <translation>Zeile %1 hat Gruppen, die auch in Zeile %2 stehen: %3.</translation>
+    </message>
+    <message>
+        <source>Row %1 has lost its secondary groups: %2.</source>
+        <translation>Zeile %1 hat ihre Sekundärgruppen verloren: %2.</translation>
+    </message>
+    <message>
+        <source>Row %1 has lost its numbered groups: %2.</source>
+        <translation>Zeile %1 hat ihre nummerierten Gruppen verloren: %2.</translation>
+    </message>
+    <message>
+        <source>Undo restores them.</source>
+        <translation>Rückgängig stellt sie wieder her.</translation>
+    </message>
+</context>
+<context>
+    <name>plib::TypeEditor</name>
+    <message>
+        <source>several</source>
+        <translation>mehrere</translation>
+    </message>
+</context>
+<context>
+    <name>plib::RowEditing</name>
+    <message>
+        <source>A row without design has no parameters.</source>
+        <translation>Eine Zeile ohne Bemessung hat keine Parameter.</translation>
+    </message>
+</context>
+<context>
+    <name>plib::RowActions</name>
+    <message>
+        <source>&amp;Type</source>
+        <translation>&amp;Art</translation>
+    </message>
+    <message>
+        <source>Direction and Di&amp;stance...</source>
+        <translation>Richtung und Ab&amp;stand ...</translation>
+    </message>
+    <message>
+        <source>&amp;Reinforcement...</source>
+        <translation>&amp;Bewehrung ...</translation>
+    </message>
+    <message>
+        <source>Crack C&amp;ontrol...</source>
+        <translation>&amp;Begrenzung der Rissbreite ...</translation>
     </message>
 </context>
 </TS>

@@ -1,11 +1,14 @@
 #include "design/DesignParameter.h"
 
-#include "design/BoxExplanation.h"
 #include "design/designColumns.h"
 #include "design/DesignParameterTable.h"
+#include "design/RowActions.h"
 #include "design/RowsClipboard.h"
 #include "design/RowsHistory.h"
+#include "design/RowsNotice.h"
 #include "design/RowToolTip.h"
+#include "design/TypeEditor.h"
+#include "dialogs/BoxExplanation.h"
 #include "record/designEntries.h"
 #include "record/designRows.h"
 #include "record/designStore.h"
@@ -82,8 +85,10 @@ void DesignParameter::init()
     setLayout(layout);
     connectTable();
     new plib::RowsHistory(this);
+    new plib::RowActions(this);
     new plib::RowsClipboard(this);
     new plib::RowToolTip(this);
+    new plib::TypeEditor(this);
     setFocusProxy(data->table);
     editRow = -1;
     editColumn = -1;
@@ -103,6 +108,7 @@ VKD_H_TableWidgetBox* DesignParameter::buildBox()
     auto down = new VKD_QT_PushButton(tr("Down"), table, "btnDown");
     connect(down, &QPushButton::clicked, this, &DesignParameter::slot_down);
     box->addWidget(down);
+    box->addWidget(new plib::RowsNotice(this));
     connect(box->getButton(VKD_H_TableWidgetBox::New), &QPushButton::clicked, this,
             &DesignParameter::slot_newRowClicked);
     connect(box->getButton(VKD_H_TableWidgetBox::Delete), &QPushButton::clicked, this,
@@ -116,6 +122,8 @@ void DesignParameter::connectTable()
     connect(table, &QTableWidget::itemChanged, this, &DesignParameter::slot_typComboChanged);
     connect(table, &QTableWidget::itemSelectionChanged, this,
             &DesignParameter::slot_editCellWidget);
+    connect(table->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &DesignParameter::followCurrentCell, Qt::QueuedConnection);
     connect(qApp, &QApplication::focusChanged, this, [this] {
         if (hasFocusInEditor())
             makeEditedCellCurrent();
@@ -242,13 +250,19 @@ void DesignParameter::slot_typComboChanged(QTableWidgetItem* item)
     const int row = item->row();
     const auto combo =
         dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(data->table->itemOnColId(row, Table::Type));
-    DesignParameterRow* changed = plib::rowAt(*data, row);
-    if (!combo || !changed)
+    if (!combo)
         return;
-    const RecordedStep step(this, RowsStep::Type, {row});
+    setType(findChild<plib::TypeEditor*>()->rowsOf(row), combo->getCurrentId());
+}
+
+void DesignParameter::setType(const std::set<int>& rows, int type)
+{
+    const RecordedStep step(this, RowsStep::Type, rows);
     const VKD_QT_SignalBlocker blocker(data->table);
-    changed->record.type = combo->getCurrentId();
-    refreshRows(row);
+    for (int row : rows)
+        if (DesignParameterRow* changed = plib::rowAt(*data, row))
+            changed->record.type = type;
+    refresh(rows);
 }
 
 void DesignParameter::slot_newRowClicked()

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <set>
 
 class QTableWidgetItem;
 class VKD_H_ProjectDialogPage;
@@ -40,10 +41,23 @@ public:
     void setEntrys(VKD_H_ProjectDialogPage& page);
     bool checkVals();
 
-    // For the child objects that implement undo and the clipboard.
+    // For the objects that implement undo, the clipboard and the editing of rows.
     plib::DesignParameterData& state() { return *data; }
     /// Commits the selection in an open list of types.
     void finishEditing();
+    /// Updates the texts of rows whose parameters have changed.
+    void refresh(const std::set<int>& rows);
+    /// Sets the type of rows in one step.
+    void setType(const std::set<int>& rows, int type);
+    /// Open the dialogs of the current row or of the selected rows.
+    void editDirections() { slot_editButtonClicked(); }
+    void editReinforcement() { slot_calcReinforcementButtonClicked(); }
+    void editCrackControl() { slot_calcCrackButtonClicked(); }
+    /// Shows a message beside the buttons until the next step.
+    void showNotice(const QString& text);
+    /// Returns the focus to the table after a dialog, so that the user can continue with the next
+    /// cell by keyboard.
+    void focusTable();
     /// Replaces `count` rows starting at `first` and selects these cells.
     void replaceRows(int first, int count, const std::vector<plib::DesignParameterRow>& by,
                      const plib::TableSelection& selection);
@@ -83,7 +97,7 @@ private:
     void closeCellWidget();
     bool hasFocusInEditor() const;
     void makeEditedCellCurrent();
-    void focusTable();
+    void followCurrentCell();
     void layOver(int row, int column, QWidget* editor);
     void clearCellWidget(int row, int column);
     void openSelection(int row, int column, plib::DesignParameterRow& shown);

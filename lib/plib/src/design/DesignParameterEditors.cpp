@@ -3,6 +3,7 @@
 #include "design/DesignParameter.h"
 
 #include "design/DesignParameterTable.h"
+#include "design/RowEditing.h"
 #include "design/RowsHistory.h"
 #include "design/sharedGroupMarks.h"
 #include "dialogs/dialogFrame.h"
@@ -13,6 +14,7 @@
 #include "dialogs/unusedDistances.h"
 #include "record/designRecord.h"
 #include "record/designRows.h"
+#include "record/groupsNotice.h"
 
 #include <VKD_H_SecondaryGroupDialog.h>
 #include <VKD_H_SelGRP_Dialog.h>
@@ -83,13 +85,27 @@ bool DesignParameter::hasFocusInEditor() const
 }
 
 /// An editor may remain open while another cell is current. If the editor is used, its cell must
-/// become current again, because the slots operate on the current row.
+/// become current again, because the slots operate on the current row. Several selected rows stay
+/// selected if the cell is one of theirs.
 void DesignParameter::makeEditedCellCurrent()
 {
     if (data->table->currentRow() == editRow && data->table->currentColumn() == editColumn)
         return;
     const VKD_QT_SignalBlocker blocker(data->table);
-    data->table->setCurrentCell(editRow, editColumn);
+    const bool isSelected = data->table->getSelectetRows().count(editRow) > 0;
+    data->table->setCurrentCell(editRow, editColumn,
+                                isSelected ? QItemSelectionModel::NoUpdate
+                                           : QItemSelectionModel::ClearAndSelect);
+}
+
+/// While the user selects several rows with the mouse, the current cell changes after the
+/// selection. The editor then opens in the last cell, under the mouse.
+void DesignParameter::followCurrentCell()
+{
+    const Table* table = data->table;
+    const bool isThere = table->currentRow() == editRow && table->currentColumn() == editColumn;
+    if (!isThere && table->getSelectetRows().size() > 1)
+        slot_editCellWidget();
 }
 
 void DesignParameter::closeCellWidget()
@@ -152,9 +168,13 @@ void DesignParameter::openButton(int row, int column, QTableWidgetItem* item)
     };
     const auto& kind = kinds[data->table->getColumnId(column) - Table::DirectionAndDistance];
     auto button = new Button(data->table, item, kind.modus);
+    button->setFocusPolicy(Qt::TabFocus); // on focus, the view would select only this cell
     layOver(row, column, button);
-    // In an inactive window, pressing the button does not move the focus to it.
-    connect(button, &QPushButton::pressed, this, &DesignParameter::makeEditedCellCurrent);
+    connect(button, &QPushButton::pressed, this, [this] {
+        makeEditedCellCurrent();
+        if (!hasFocusInEditor()) // a button that loses the focus is released
+            data->table->setFocus();
+    });
     connect(button, &QPushButton::clicked, this, kind.slot);
 }
 
@@ -172,31 +192,21 @@ void DesignParameter::layOver(int row, int column, QWidget* editor)
         }
 }
 
-/// Opens a dialog for the record of the current row. The record is changed only after OK.
+/// Opens a dialog for the record of the current row or the records of the selected rows. They are
+/// changed only after OK.
 template <class Dialog, typename... Arguments>
 void DesignParameter::editRecord(RowsStep name, Arguments... arguments)
 {
-    const int row = data->table->currentRow();
-    DesignParameterRow* edited = plib::rowAt(*data, row);
-    if (!edited)
+    plib::RowEditing editing(this, name);
+    tagZOB_QUAD_RIM* record = editing.record();
+    if (!record)
         return;
-    Dialog dialog(arguments..., &edited->record, this);
+    Dialog dialog(arguments..., record, this);
+    plib::RecordDialog functions = plib::recordDialog(&dialog);
     if constexpr (std::is_same_v<Dialog, dlgDistanceDirection>)
         if (!plib::hasDistances(data->kindOfSystem))
-            plib::markUnusedDistances(dialog);
-    const QPointer<DesignParameter> page(this);
-    const int result = dialog.exec();
-    if (!page)
-        return;
-    focusTable();
-    if (result != QDialog::Accepted)
-        return;
-    edited = plib::rowAt(*data, row); // the rows may have been reloaded while the dialog was open
-    if (!edited)
-        return;
-    const RecordedStep step(this, name, {row});
-    dialog.writeToRecord(&edited->record);
-    refreshRows(row);
+            functions.recordShown = [&dialog] { plib::markUnusedDistances(dialog); };
+    editing.run(functions);
 }
 
 void DesignParameter::slot_editButtonClicked()
@@ -268,8 +278,7 @@ void DesignParameter::slot_openSekGroups()
     takeGroups(data->table->currentRow(), confirmed);
 }
 
-/// Returns the focus to the table after a dialog, so that the user can continue with the next cell
-/// by keyboard. The window may not be active yet.
+/// The window may not be active yet.
 void DesignParameter::focusTable()
 {
     const QWidget* focused = window()->focusWidget();
@@ -283,15 +292,19 @@ void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
     DesignParameterRow* changed = plib::rowAt(*data, row);
     if (!changed)
         return;
-    const RecordedStep step(this, RowsStep::Groups, {row});
-    changed->groups = groups;
-    std::sort(changed->groups.begin(), changed->groups.end());
-    const int column = data->table->getColumnNumber(Table::Selection);
-    if (auto editor = qobject_cast<dlgSelection*>(data->table->cellWidget(row, column)))
-        editor->fillCombo(*changed, plib::hasRemainingRow(*data));
-    else
-        refreshRows(row);
-    showSharedGroups();
+    const std::vector<int> before = changed->groups;
+    {
+        const RecordedStep step(this, RowsStep::Groups, {row});
+        changed->groups = groups;
+        std::sort(changed->groups.begin(), changed->groups.end());
+        const int column = data->table->getColumnNumber(Table::Selection);
+        if (auto editor = qobject_cast<dlgSelection*>(data->table->cellWidget(row, column)))
+            editor->fillCombo(*changed, plib::hasRemainingRow(*data));
+        else
+            refreshRows(row);
+        showSharedGroups();
+    }
+    showNotice(plib::groupsNotice(data->rows, row, before));
 }
 
 /// Updates the marks in all rows, because a change to the groups of one row may affect any other

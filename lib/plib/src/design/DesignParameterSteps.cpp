@@ -4,6 +4,7 @@
 
 #include "design/DesignParameterTable.h"
 #include "design/RowsHistory.h"
+#include "design/RowsNotice.h"
 
 #include <VKD_QT_SignalBlocker.h>
 
@@ -20,6 +21,17 @@ bool haveSameGroups(const plib::DesignRowList& rows, int first, int count,
                       });
 }
 } // namespace
+
+void DesignParameter::refresh(const std::set<int>& rows)
+{
+    for (int row : rows)
+        refreshRows(row);
+}
+
+void DesignParameter::showNotice(const QString& text)
+{
+    findChild<plib::RowsNotice*>()->show(text);
+}
 
 /// Closes the editor first, because it belongs to a row. Restoring the selection reopens the
 /// editor.

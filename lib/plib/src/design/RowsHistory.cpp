@@ -76,7 +76,10 @@ RowsHistory::RowsHistory(DesignParameter* page)
     prepare(m_undo, "undo", {Qt::CTRL + Qt::Key_Z}, &QUndoStack::undo);
     prepare(m_redo, "redo", {Qt::CTRL + Qt::SHIFT + Qt::Key_Z, Qt::CTRL + Qt::Key_Y},
             &QUndoStack::redo);
-    connect(&m_stack, &QUndoStack::indexChanged, this, &RowsHistory::showSteps);
+    connect(&m_stack, &QUndoStack::indexChanged, this, [this] {
+        showSteps();
+        m_page->showNotice(QString()); // was about an earlier step
+    });
     showSteps();
 }
 

@@ -1,7 +1,8 @@
 #include "dialogs/dialogFrame.h"
 
-#include <VKD_H_LineEdit.h>
 #include <VKD_QT_Ok.h>
+
+#include <QVariant>
 
 #include <algorithm>
 
@@ -60,7 +61,6 @@ int widthNeeded(const QGridLayout* grid, int column)
     }
     return width;
 }
-} // namespace
 
 void alignColumns(const std::vector<QGroupBox*>& boxes)
 {
@@ -78,14 +78,53 @@ void alignColumns(const std::vector<QGroupBox*>& boxes)
     }
 }
 
-void showValue(VKD_H_LineEdit* edit, const tagZOB_QUAD_RIM& record, RealField field)
+/// Returns the widgets that Tab reaches. A widget that spans several columns belongs to the first.
+std::vector<QWidget*> tabStops(const std::vector<QGroupBox*>& boxes, TabOrder order)
 {
-    edit->setVal(double(record.*field));
+    struct Stop
+    {
+        int column;
+        QWidget* widget;
+    };
+    std::vector<Stop> stops; // by rows
+    for (const QGroupBox* box : boxes)
+        for (int row = 0; row < gridOf(box)->rowCount(); ++row)
+            for (int column = 0; column < gridOf(box)->columnCount(); ++column) {
+                QLayoutItem* item = gridOf(box)->itemAtPosition(row, column);
+                QWidget* widget = item ? item->widget() : nullptr;
+                if (widget && (widget->focusPolicy() & Qt::TabFocus) &&
+                    (stops.empty() || stops.back().widget != widget))
+                    stops.push_back({column, widget});
+            }
+    if (order == TabOrder::ByColumns)
+        std::stable_sort(stops.begin(), stops.end(),
+                         [](const Stop& a, const Stop& b) { return a.column < b.column; });
+    std::vector<QWidget*> widgets;
+    for (const Stop& stop : stops)
+        widgets.push_back(stop.widget);
+    return widgets;
+}
+} // namespace
+
+void removeBoxes(VKD_QT_Dialog* dialog)
+{
+    qDeleteAll(dialog->findChildren<QGroupBox*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-float readValue(const VKD_H_LineEdit* edit)
+/// The tab order is circular: the buttons, which were created first, follow the fields.
+void insertBoxes(VKD_QT_Dialog* dialog, const std::vector<QGroupBox*>& boxes, TabOrder order)
 {
-    return float(edit->getVal());
+    auto layout = static_cast<QBoxLayout*>(dialog->layout());
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        layout->insertWidget(int(i), boxes[i]);
+    if (dialog->isVisible()) // the layout would show the boxes later, without the focus
+        for (QGroupBox* box : boxes)
+            box->show();
+    alignColumns(boxes);
+    const std::vector<QWidget*> stops = tabStops(boxes, order);
+    for (std::size_t i = 1; i < stops.size(); ++i)
+        QWidget::setTabOrder(stops[i - 1], stops[i]);
+    stops.front()->setFocus(); // the buttons were created before the fields
 }
 
 } // namespace plib

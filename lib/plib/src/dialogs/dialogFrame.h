@@ -1,14 +1,10 @@
 #pragma once
 
-#include "record/designFields.h"
-
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_Widgets.h>
 
 #include <vector>
-
-class VKD_H_LineEdit;
 
 /// Functions for the three dialogs in which the parameters of a row are edited.
 namespace plib {
@@ -30,13 +26,15 @@ VKD_QT_Label* addLabel(VKD_QT_GridLayout* grid, int row, int column, const QStri
 /// see its position.
 void addField(VKD_QT_GridLayout* grid, int row, int column, QWidget* field, const QString& about);
 
-/// Sets the columns of the grids in these boxes to the same widths, so that their fields are
-/// aligned. Must be called after the boxes have been filled.
-void alignColumns(const std::vector<QGroupBox*>& boxes);
+/// The order in which Tab moves through the fields of the boxes. The columns of both boxes are
+/// aligned and usually filled one after the other, so the second order takes the fewest keys.
+enum class TabOrder { ByRows, ByColumns };
 
-/// Copy a value in base units from a field of the record to a line edit and back. The value of an
-/// empty line edit is -99999.0.
-void showValue(VKD_H_LineEdit* edit, const tagZOB_QUAD_RIM& record, RealField field);
-float readValue(const VKD_H_LineEdit* edit);
+/// Deletes the boxes with fields. Their pointers in the dialog become invalid.
+void removeBoxes(VKD_QT_Dialog* dialog);
+
+/// Inserts filled boxes at the top of the dialog. The columns of their grids have the same widths,
+/// so that their fields are aligned.
+void insertBoxes(VKD_QT_Dialog* dialog, const std::vector<QGroupBox*>& boxes, TabOrder order);
 
 } // namespace plib

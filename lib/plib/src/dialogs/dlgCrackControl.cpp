@@ -64,11 +64,6 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
 {
     plib::dressDialog(this, tr("Crack Control"), "CRACKCONTROL");
     auto layout = new VKD_QT_VBoxLayout;
-    VKD_QT_GroupBox* upper = side(true);
-    VKD_QT_GroupBox* lower = side(false);
-    layout->addWidget(upper);
-    layout->addWidget(lower);
-    plib::alignColumns({upper, lower});
     layout->addWidget(new VKD_QT_InfoText(
         true,
         tr("Permissible crack width for crack width control with or without direct calculation. "
@@ -77,11 +72,35 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
         this, "infoCrack"));
     plib::addOkRow(this, layout);
     setLayout(layout);
-    // Values are set after the lists are filled, because inserting the first entry sets the text of
-    // the line edit.
+    build();
+    plib::showValues(fields(), *record);
+}
+
+void dlgCrackControl::build()
+{
+    plib::insertBoxes(this, {side(true), side(false)}, plib::TabOrder::ByColumns);
+}
+
+void dlgCrackControl::showRecord(const tagZOB_QUAD_RIM& record)
+{
+    const bool hasThirdLayer = m_pWKOI;
+    type = record.type;
+    if (hasThirdLayer != (type == plib::ThreeLayers)) {
+        plib::removeBoxes(this);
+        for (const Field& field : Fields)
+            this->*field.combo = nullptr;
+        build();
+    }
+    plib::showValues(fields(), record);
+}
+
+plib::DialogFields dlgCrackControl::fields() const
+{
+    plib::DialogFields existing;
     for (const Field& field : Fields)
         if (VKD_H_LineEdit* edit = editOf(this->*field.combo))
-            plib::showValue(edit, *record, field.field);
+            existing.push_back({field.field, edit, nullptr});
+    return existing;
 }
 
 VKD_QT_GroupBox* dlgCrackControl::side(bool upper)
@@ -128,6 +147,15 @@ VKD_QT4_ComboBox* dlgCrackControl::newCombo(const Field& field)
     return this->*field.combo = combo;
 }
 
+QString dlgCrackControl::note(int type)
+{
+    return type == plib::TwoLayersOrthogonal
+               ? tr("The table shows the crack widths of this type of row, but not its steel "
+                    "stresses.")
+               : tr("The table shows the steel stresses of this type of row, but not its crack "
+                    "widths.");
+}
+
 void dlgCrackControl::accept()
 {
     QDialog::accept();
@@ -136,8 +164,7 @@ void dlgCrackControl::accept()
 /// Sets fields without a combo box to "not set".
 void dlgCrackControl::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
-    for (const Field& field : Fields) {
-        const VKD_H_LineEdit* edit = editOf(this->*field.combo);
-        record->*field.field = edit ? plib::readValue(edit) : plib::NotSet;
-    }
+    for (const Field& field : Fields)
+        record->*field.field = plib::NotSet;
+    plib::writeValues(fields(), record);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialogs/dialogFields.h"
+
 #include <tagZOB_QUAD_RIM.h>
 
 #include <VKD_QT_Dialog.h>
@@ -21,6 +23,15 @@ public:
     /// Writes the crack widths and steel stresses to the record and does not change other fields.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
+    /// Shows the values of another record, with the fields of its type.
+    void showRecord(const tagZOB_QUAD_RIM& record);
+
+    /// Returns the fields that exist for the type of the record.
+    plib::DialogFields fields() const;
+
+    /// Returns which of the values the table does not show for rows of this type.
+    static QString note(int type);
+
     void accept() override;
 
 private:
@@ -28,6 +39,7 @@ private:
     struct Field;
     static const Field Fields[];
 
+    void build();
     VKD_QT_GroupBox* side(bool upper);
     VKD_QT4_ComboBox* newCombo(const Field& field);
 

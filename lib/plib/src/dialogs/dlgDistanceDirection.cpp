@@ -70,27 +70,57 @@ dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* par
 {
     plib::dressDialog(this, tr("Direction and Distance"), "DIRECTIONS");
     auto layout = new VKD_QT_VBoxLayout;
-    const int type = record->type;
-    if (type >= plib::TwoLayersOrthogonal && type <= plib::Circular) {
-        VKD_QT_GroupBox* first = type == plib::Circular ? circular() : layeredDirection(type);
-        VKD_QT_GroupBox* second = type == plib::Circular ? midpoint() : layeredDistance(type);
-        layout->addWidget(first);
-        layout->addWidget(second);
-        plib::alignColumns({first, second});
-    }
     plib::addOkRow(this, layout);
     setLayout(layout);
+    build(record->type);
+    plib::showValues(fields(), *record);
+}
+
+void dlgDistanceDirection::build(int type)
+{
+    if (type < plib::TwoLayersOrthogonal || type > plib::Circular)
+        return;
+    VKD_QT_GroupBox* first = type == plib::Circular ? circular() : layeredDirection(type);
+    VKD_QT_GroupBox* second = type == plib::Circular ? midpoint() : layeredDistance(type);
+    plib::insertBoxes(this, {first, second}, plib::TabOrder::ByRows);
+}
+
+/// Returns the type whose fields exist.
+int dlgDistanceDirection::builtType() const
+{
+    if (xref)
+        return plib::Circular;
+    if (rioq)
+        return rioi ? plib::ThreeLayers : plib::TwoLayers;
+    return rio ? plib::TwoLayersOrthogonal : plib::NoDesign;
+}
+
+void dlgDistanceDirection::showRecord(const tagZOB_QUAD_RIM& record)
+{
+    if (record.type != builtType()) {
+        plib::removeBoxes(this);
+        for (const Field& field : Fields)
+            this->*field.edit = nullptr;
+        build(record.type);
+    }
+    plib::showValues(fields(), record);
+}
+
+plib::DialogFields dlgDistanceDirection::fields() const
+{
+    plib::DialogFields existing;
     for (const Field& field : Fields)
         if (this->*field.edit)
-            plib::showValue(this->*field.edit, *record, field.field);
+            existing.push_back({field.field, this->*field.edit, nullptr});
+    return existing;
 }
 
 /// Sets fields without a line edit to "not set".
 void dlgDistanceDirection::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
     for (const Field& field : Fields)
-        record->*field.field =
-            this->*field.edit ? plib::readValue(this->*field.edit) : plib::NotSet;
+        record->*field.field = plib::NotSet;
+    plib::writeValues(fields(), record);
 }
 
 VKD_QT_GroupBox* dlgDistanceDirection::layeredDirection(int type)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialogs/dialogFields.h"
+
 #include <tagZOB_QUAD_RIM.h>
 
 #include <VKD_QT_Dialog.h>
@@ -24,11 +26,19 @@ public:
     /// fields.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
+    /// Shows the values of another record, with the fields of its type.
+    void showRecord(const tagZOB_QUAD_RIM& record);
+
+    /// Returns the fields that exist for the type of the record.
+    plib::DialogFields fields() const;
+
 private:
     using Edit = VKD_H_LineEdit* dlgDistanceDirection::*;
     struct Field;
     static const Field Fields[];
 
+    void build(int type);
+    int builtType() const;
     VKD_QT_GroupBox* layeredDirection(int type);
     VKD_QT_GroupBox* layeredDistance(int type);
     VKD_QT_GroupBox* circular();

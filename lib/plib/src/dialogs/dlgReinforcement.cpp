@@ -1,5 +1,7 @@
 #include "dialogs/dlgReinforcement.h"
 
+#include "dialogs/BoxExplanation.h"
+#include "dialogs/CommonFields.h"
 #include "dialogs/dialogFrame.h"
 #include "record/designFields.h"
 #include "record/designRecord.h"
@@ -23,25 +25,6 @@ constexpr int CalculationMode = 1; // for both minimum and maximum
 constexpr int LayersOfASide = 3;
 /// The calculator changes this property if the user applies its bar diameter.
 constexpr char DiameterProperty[] = "barDiameter";
-
-struct PairOfLimits
-{
-    plib::RealField minimum;
-    plib::RealField maximum;
-};
-
-/// The pairs in the order in which they are checked and reported.
-constexpr PairOfLimits Pairs[] = {
-    {&R::aso, &R::amo},   {&R::asu, &R::amu},   {&R::asoq, &R::amoq},
-    {&R::asuq, &R::amuq}, {&R::asoi, &R::amoi}, {&R::asui, &R::amui},
-};
-
-/// Compares in single precision, as in the record. A NaN is never in order with a limit that is
-/// set.
-bool isInOrder(float minimum, float maximum)
-{
-    return minimum == plib::NotSet || maximum == plib::NotSet || maximum >= minimum;
-}
 
 enum Column {
     TextColumn = 0,
@@ -93,14 +76,42 @@ dlgReinforcement::dlgReinforcement(int index, tagZOB_QUAD_RIM* record, QWidget* 
 {
     plib::dressDialog(this, tr("Reinforcement"), "REINFORCEMENT");
     auto layout = new VKD_QT_VBoxLayout;
-    VKD_QT_GroupBox* upper = side(true, record->type);
-    VKD_QT_GroupBox* lower = side(false, record->type);
-    layout->addWidget(upper);
-    layout->addWidget(lower);
-    plib::alignColumns({upper, lower});
     plib::addOkRow(this, layout);
     setLayout(layout);
+    build(record->type);
     showValues(*record);
+}
+
+void dlgReinforcement::build(int type)
+{
+    plib::insertBoxes(this, {side(true, type), side(false, type)}, plib::TabOrder::ByColumns);
+}
+
+void dlgReinforcement::showRecord(const tagZOB_QUAD_RIM& record)
+{
+    const bool hasThirdLayer = m_pDIOI;
+    if (hasThirdLayer != (record.type == plib::ThreeLayers)) {
+        plib::removeBoxes(this);
+        for (const Layer& layer : Layers) {
+            this->*layer.diameter = nullptr;
+            this->*layer.minimum = this->*layer.maximum = nullptr;
+        }
+        build(record.type);
+    }
+    showValues(record);
+}
+
+plib::DialogFields dlgReinforcement::fields() const
+{
+    plib::DialogFields existing;
+    for (const Layer& layer : Layers) {
+        if (!(this->*layer.diameter))
+            continue;
+        existing.push_back({layer.diameterField, nullptr, this->*layer.diameter});
+        existing.push_back({layer.minimumField, this->*layer.minimum, nullptr});
+        existing.push_back({layer.maximumField, this->*layer.maximum, nullptr});
+    }
+    return existing;
 }
 
 VKD_QT_GroupBox* dlgReinforcement::side(bool upper, int type)
@@ -160,29 +171,20 @@ void dlgReinforcement::addCalculator(VKD_QT_GridLayout* grid, int row, int colum
 
 void dlgReinforcement::showValues(const tagZOB_QUAD_RIM& record)
 {
-    for (const Layer& layer : Layers) {
-        if (!(this->*layer.diameter))
-            continue;
-        (this->*layer.diameter)->setCurrent(record.*layer.diameterField);
-        plib::showValue(this->*layer.minimum, record, layer.minimumField);
-        plib::showValue(this->*layer.maximum, record, layer.maximumField);
-    }
+    plib::showValues(fields(), record);
     // The line edit of the upper third layer intentionally shows the value of the lower third layer
     // at first.
     if (amoi)
-        plib::showValue(amoi, record, &R::amui);
+        plib::showValue({&R::amoi, amoi, nullptr}, record.amui);
 }
 
 /// Sets the fields of a layer without widgets to "not set".
 void dlgReinforcement::writeToRecord(tagZOB_QUAD_RIM* record) const
 {
-    for (const Layer& layer : Layers) {
-        const bool exists = this->*layer.diameter;
-        record->*layer.diameterField =
-            exists ? (this->*layer.diameter)->getCurrent() : plib::NotSet;
-        record->*layer.minimumField = exists ? plib::readValue(this->*layer.minimum) : plib::NotSet;
-        record->*layer.maximumField = exists ? plib::readValue(this->*layer.maximum) : plib::NotSet;
-    }
+    for (const Layer& layer : Layers)
+        for (plib::RealField field : {layer.diameterField, layer.minimumField, layer.maximumField})
+            record->*field = plib::NotSet;
+    plib::writeValues(fields(), record);
 }
 
 /// Marks both fields of the pair and moves the focus to the minimum.
@@ -203,34 +205,53 @@ void dlgReinforcement::markPair(plib::RealField minimum)
 
 bool dlgReinforcement::checkMinMax(float minimum, float maximum)
 {
-    if (isInOrder(minimum, maximum))
+    if (plib::isInOrder(minimum, maximum))
         return true;
     VKD_QT_MessageBox::warning(this, tr("Warning"), tr("Min greater than Max is not allowed!"),
                                QString(), QString(), QString(), 0, -1);
     return false;
 }
 
-void dlgReinforcement::accept()
+bool dlgReinforcement::showsFault(const plib::LimitPair& pair, float minimum, float maximum)
+{
+    if (plib::isInOrder(minimum, maximum))
+        return false;
+    markPair(pair.minimum);
+    return !checkMinMax(minimum, maximum);
+}
+
+/// Shows only one message, even if several pairs are invalid. The rows of a dialog for several rows
+/// are checked one by one, because the dialog shows only their common values.
+bool dlgReinforcement::mayAccept()
 {
     if (vkd_qt_leadToRefusedField(this)) // must be first: the field may belong to a pair
-        return;
+        return false;
+    if (const auto common = findChild<plib::CommonFields*>()) {
+        const std::optional<plib::LimitFault> fault = common->limitFault();
+        if (!fault)
+            return true;
+        const plib::BoxExplanation explanation(this, common->explain(*fault));
+        return !showsFault(fault->pair, fault->minimum, fault->maximum);
+    }
     tagZOB_QUAD_RIM scratch{};
     writeToRecord(&scratch);
-    for (const PairOfLimits& pair : Pairs) {
-        if (isInOrder(scratch.*pair.minimum, scratch.*pair.maximum))
-            continue;
-        markPair(pair.minimum);
-        checkMinMax(scratch.*pair.minimum, scratch.*pair.maximum);
-        return; // only one message, even if several pairs are invalid
-    }
-    QDialog::accept();
+    return std::none_of(plib::LimitPairs.begin(), plib::LimitPairs.end(),
+                        [&](const plib::LimitPair& pair) {
+                            return showsFault(pair, scratch.*pair.minimum, scratch.*pair.maximum);
+                        });
+}
+
+void dlgReinforcement::accept()
+{
+    if (mayAccept())
+        QDialog::accept();
 }
 
 void dlgReinforcement::calculate(Combo combo, Edit edit)
 {
     if (!(this->*combo) || !(this->*edit))
         return;
-    float value = plib::readValue(this->*edit);
+    auto value = float((this->*edit)->getVal());
     const float diameter = (this->*combo)->getCurrent();
     setProperty(DiameterProperty, diameter);
     vkd_a_ReinforcementCalculation(this, zobIndex, CalculationMode, value, diameter);

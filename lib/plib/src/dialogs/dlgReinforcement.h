@@ -1,6 +1,7 @@
 #pragma once
 
-#include "record/designFields.h"
+#include "dialogs/dialogFields.h"
+#include "record/limitPairs.h"
 
 #include <tagZOB_QUAD_RIM.h>
 
@@ -27,6 +28,15 @@ public:
     /// change other fields.
     void writeToRecord(tagZOB_QUAD_RIM* record) const;
 
+    /// Shows the values of another record, with the fields of its type.
+    void showRecord(const tagZOB_QUAD_RIM& record);
+
+    /// Returns the fields that exist for the type of the record.
+    plib::DialogFields fields() const;
+
+    /// Returns whether OK would accept the input. If not, shows the reason.
+    bool mayAccept();
+
 public Q_SLOTS:
     void calcO();
     void calcU();
@@ -49,12 +59,14 @@ private:
     struct Layer;
     static const Layer Layers[];
 
+    void build(int type);
     VKD_QT_GroupBox* side(bool upper, int type);
     void addLayer(VKD_QT_GroupBox* box, int row, const Layer& layer, const QString& text);
     VKD_H_LineEdit* newEdit(const char* name, const QString& text);
     void addCalculator(VKD_QT_GridLayout* grid, int row, int column, Slot slot,
                        const QString& about);
     void showValues(const tagZOB_QUAD_RIM& record);
+    bool showsFault(const plib::LimitPair& pair, float minimum, float maximum);
     void markPair(plib::RealField minimum);
     bool checkMinMax(float minimum, float maximum);
     void calculate(Combo combo, Edit edit);

@@ -1,6 +1,7 @@
 #include "dialogs/unusedDistances.h"
 
 #include "dialogs/dlgDistanceDirection.h"
+#include "dialogs/FieldHint.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -13,10 +14,10 @@ void markUnusedDistances(dlgDistanceDirection& dialog)
         "In a plane system the layers have no distances. What is entered here is not stored.");
     for (const char* name : {"hio", "hiu", "hioq", "hiuq", "hioi", "hiui"}) {
         auto edit = dialog.findChild<QLineEdit*>(QLatin1String(name));
-        if (!edit)
-            continue; // the type of the record has no such field
+        if (!edit || !edit->placeholderText().isEmpty())
+            continue; // the type of the record has no such field, or it is marked already
         edit->setPlaceholderText(dlgDistanceDirection::tr("not used"));
-        edit->setToolTip(edit->toolTip() + QLatin1Char('\n') + reason);
+        new FieldHint(edit, reason);
     }
     if (auto box = dialog.findChild<QGroupBox*>(QStringLiteral("distance")))
         box->setToolTip(reason); // for the labels and the figure

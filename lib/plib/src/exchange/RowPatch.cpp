@@ -41,6 +41,11 @@ void RowPatch::set(RealField field, float value)
     m_words.set(wordOf(field, &NamedField::real));
 }
 
+bool RowPatch::has(RealField field) const
+{
+    return m_words[wordOf(field, &NamedField::real)];
+}
+
 void RowPatch::applyTo(tagZOB_QUAD_RIM& record) const
 {
     for (std::size_t word = 0; word < WordCount; ++word) {

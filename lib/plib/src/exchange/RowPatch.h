@@ -22,6 +22,8 @@ public:
 
     void setType(int type);
     void set(RealField field, float value);
+    bool has(RealField field) const;
+    bool isEmpty() const { return m_words.none(); }
     void applyTo(tagZOB_QUAD_RIM& record) const;
 
 private:

@@ -45,4 +45,18 @@ QStringList patchRows(const std::vector<RowPatch>& copied, int kindOfSystem, Des
     return faults;
 }
 
+std::optional<LimitFault> limitFault(const DesignRowList& rows, const std::set<int>& numbers,
+                                     const RowPatch& patch)
+{
+    for (const LimitPair& pair : LimitPairs)
+        for (int number : numbers) {
+            tagZOB_QUAD_RIM record = rows[std::size_t(number)].record;
+            patch.applyTo(record);
+            const bool isChanged = patch.has(pair.minimum) || patch.has(pair.maximum);
+            if (isChanged && !isInOrder(record.*pair.minimum, record.*pair.maximum))
+                return LimitFault{number, pair, record.*pair.minimum, record.*pair.maximum};
+        }
+    return std::nullopt;
+}
+
 } // namespace plib

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "exchange/RowPatch.h"
+#include "record/limitPairs.h"
 #include "record/RowsChange.h"
 
 #include <QStringList>
+
+#include <optional>
 
 namespace plib {
 
@@ -11,5 +14,20 @@ namespace plib {
 /// is applied to all rows; otherwise each copied row is applied to the corresponding row. Returns
 /// the errors. If there are any errors, no row is changed.
 QStringList patchRows(const std::vector<RowPatch>& copied, int kindOfSystem, DesignRowList* rows);
+
+/// A row in which a minimum reinforcement would be above its maximum.
+struct LimitFault
+{
+    int row;
+    LimitPair pair;
+    float minimum;
+    float maximum;
+};
+
+/// Returns the first such row if the patch is applied to the rows with these numbers, or nothing.
+/// Checks only pairs of which the patch contains a limit: the user must be able to change other
+/// fields of rows that were invalid before.
+std::optional<LimitFault> limitFault(const DesignRowList& rows, const std::set<int>& numbers,
+                                     const RowPatch& patch);
 
 } // namespace plib

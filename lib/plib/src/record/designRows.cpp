@@ -1,5 +1,7 @@
 #include "record/designRows.h"
 
+#include "record/designRecord.h"
+
 #include <algorithm>
 
 namespace plib {
@@ -43,6 +45,34 @@ bool mayMoveUp(const DesignParameterData& data, int row)
 bool mayMoveDown(const DesignParameterData& data, int row)
 {
     return row > 0 && row < int(data.rows.size()) - 1;
+}
+
+int designRowBeside(const DesignParameterData& data, int row, int direction)
+{
+    const int count = int(data.rows.size());
+    for (int other = row + direction; other >= 0 && other < count; other += direction)
+        if (data.rows[std::size_t(other)].record.type != NoDesign)
+            return other;
+    return -1;
+}
+
+std::set<int> rowsWith(int current, const std::set<int>& selected)
+{
+    return selected.count(current) > 0 ? selected : std::set<int>{current};
+}
+
+std::optional<int> commonType(const DesignParameterData& data, const std::set<int>& rows)
+{
+    std::optional<int> common;
+    for (int row : rows) {
+        if (row < 0 || row >= int(data.rows.size()))
+            continue;
+        const int type = data.rows[std::size_t(row)].record.type;
+        if (common && *common != type)
+            return std::nullopt;
+        common = type;
+    }
+    return common;
 }
 
 void removeRows(DesignParameterData& data, const std::set<int>& rows)

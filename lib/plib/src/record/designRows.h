@@ -2,6 +2,7 @@
 
 #include "record/DesignParameterData.h"
 
+#include <optional>
 #include <set>
 
 namespace plib {
@@ -25,6 +26,17 @@ bool hasRowWithoutGroups(const DesignParameterData& data);
 /// project contains a first row with other groups.
 bool mayMoveUp(const DesignParameterData& data, int row);
 bool mayMoveDown(const DesignParameterData& data, int row);
+
+/// Returns the next row with a design in the direction, which is 1 or -1, or -1 if there is none. A
+/// row without design has no dialogs.
+int designRowBeside(const DesignParameterData& data, int row, int direction);
+
+/// Returns the rows to which an operation on the current row applies: all selected rows if the
+/// current row is one of them, otherwise only the current row.
+std::set<int> rowsWith(int current, const std::set<int>& selected);
+
+/// Returns the type of these rows, or nothing if their types differ.
+std::optional<int> commonType(const DesignParameterData& data, const std::set<int>& rows);
 
 /// Removes these rows in one pass.
 void removeRows(DesignParameterData& data, const std::set<int>& rows);

@@ -1,4 +1,4 @@
-#include "design/BoxExplanation.h"
+#include "dialogs/BoxExplanation.h"
 
 #include <QChildEvent>
 #include <QMessageBox>

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+namespace plib {
+
+/// A line beside the buttons of the table that explains an effect of the last step. It takes the
+/// room that is left. Text that is too long is elided and shown in a tool tip.
+class RowsNotice : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RowsNotice(QWidget* parent);
+
+    /// Shows a text, or hides the line if the text is empty.
+    void show(const QString& text);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void elide();
+
+    QString m_text;
+    QLabel* m_sign;
+    QLabel* m_label;
+};
+
+} // namespace plib

@@ -1,0 +1,114 @@
+#include "dialogs/RowStrip.h"
+
+#include <VKD_QT_Dialog.h>
+#include <VKD_QT_Layouts.h>
+#include <VKD_QT_Ok.h>
+
+#include <QHelpEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolButton>
+#include <QToolTip>
+
+namespace plib {
+
+RowStrip::RowStrip(VKD_QT_Dialog* dialog)
+    : QWidget(dialog)
+    , m_titleLabel(new QLabel(this))
+    , m_noteLabel(new QLabel(this))
+    , m_row(new VKD_QT_HBoxLayout)
+{
+    setObjectName(QStringLiteral("rowStrip"));
+    m_titleLabel->setObjectName(QStringLiteral("rowTitle"));
+    m_titleLabel->setTextFormat(Qt::PlainText);
+    m_titleLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QFont bold = font();
+    bold.setBold(true);
+    m_titleLabel->setFont(bold);
+    m_noteLabel->setObjectName(QStringLiteral("rowNote"));
+    m_noteLabel->setWordWrap(true);
+    m_noteLabel->hide();
+    m_row->addWidget(m_titleLabel, 1);
+    auto layout = new VKD_QT_VBoxLayout(this);
+    QMargins margins = layout->contentsMargins();
+    margins.setBottom(0); // the layout of the dialog has its own margin
+    layout->setContentsMargins(margins);
+    layout->addLayout(m_row);
+    layout->addWidget(m_noteLabel);
+    dialog->layout()->setMenuBar(this);
+}
+
+void RowStrip::setTitle(const QString& title)
+{
+    m_title = title;
+    m_titleLabel->setAccessibleName(title);
+    window()->setAccessibleDescription(title); // screen readers read it when the dialog opens
+    elideTitle();
+}
+
+void RowStrip::setNote(const QString& note)
+{
+    m_noteLabel->setText(note);
+    m_noteLabel->setVisible(!note.isEmpty());
+}
+
+void RowStrip::setSteps(bool hasPrevious, bool hasNext)
+{
+    if (!m_previous) {
+        m_previous = newButton("previousRow", Qt::UpArrow, Qt::ALT + Qt::Key_Up,
+                               tr("OK and continue with the previous row (%1)"), -1);
+        m_next = newButton("nextRow", Qt::DownArrow, Qt::ALT + Qt::Key_Down,
+                           tr("OK and continue with the next row (%1)"), 1);
+        const auto ok = window()->findChild<VKD_QT_Ok*>();
+        setTabOrder(ok->cmdCancel(), m_previous);
+        setTabOrder(m_previous, m_next);
+    }
+    m_previous->setEnabled(hasPrevious);
+    m_next->setEnabled(hasNext);
+}
+
+/// The keys belong to shortcuts of the dialog and not to the buttons, whose animation would delay a
+/// repeated key.
+QToolButton* RowStrip::newButton(const char* name, Qt::ArrowType arrow, int key,
+                                 const QString& purpose, int direction)
+{
+    auto button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setArrowType(arrow);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the field
+    const QKeySequence keys(key);
+    button->setToolTip(purpose.arg(keys.toString(QKeySequence::NativeText)));
+    button->setAccessibleName(button->toolTip());
+    m_row->addWidget(button);
+    const auto request = [this, button, direction] {
+        if (button->isEnabled())
+            Q_EMIT stepRequested(direction);
+    };
+    connect(button, &QToolButton::clicked, this, request);
+    connect(new QShortcut(keys, window()), &QShortcut::activated, this, request);
+    return button;
+}
+
+void RowStrip::elideTitle()
+{
+    m_titleLabel->setText(
+        m_titleLabel->fontMetrics().elidedText(m_title, Qt::ElideRight, m_titleLabel->width()));
+}
+
+void RowStrip::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate(); // sets the width of the label
+    elideTitle();
+}
+
+bool RowStrip::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || m_titleLabel->text() == m_title)
+        return QWidget::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), m_title, this);
+    return true;
+}
+
+} // namespace plib

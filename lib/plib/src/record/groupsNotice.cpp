@@ -1,0 +1,76 @@
+#include "record/groupsNotice.h"
+
+#include "record/groupRanges.h"
+#include "record/sharedGroups.h"
+
+#include <vkd_dbo_packedNames.h>
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+
+namespace plib {
+
+namespace {
+struct NoticeText
+{
+    Q_DECLARE_TR_FUNCTIONS(GroupsNotice)
+};
+
+bool isSecondary(int group)
+{
+    return group >= vkd::dbo::FirstPackedName;
+}
+
+std::vector<int> ofKind(const std::vector<int>& groups, bool secondary)
+{
+    std::vector<int> found;
+    std::copy_if(groups.begin(), groups.end(), std::back_inserter(found),
+                 [secondary](int group) { return group >= 0 && isSecondary(group) == secondary; });
+    return found;
+}
+
+QString sharedNotice(const DesignRowList& rows, int row)
+{
+    std::vector<int> groups;
+    std::vector<int> others;
+    for (const SharedGroup& shared : sharedGroups(rows)) {
+        if (std::find(shared.rows.begin(), shared.rows.end(), row) == shared.rows.end())
+            continue;
+        groups.push_back(shared.group);
+        for (int other : shared.rows)
+            if (other != row)
+                others.push_back(other + 1);
+    }
+    if (groups.empty())
+        return QString();
+    return NoticeText::tr("Row %1 has groups that are also in row %2: %3.")
+        .arg(QString::number(row + 1), groupRanges(others), groupRanges(groups));
+}
+
+QString lossNotice(const std::vector<int>& before, const std::vector<int>& after, int row)
+{
+    for (bool secondary : {false, true}) {
+        const std::vector<int> lost = ofKind(before, secondary);
+        if (lost.empty() || !ofKind(after, secondary).empty())
+            continue;
+        const QString text = secondary ? NoticeText::tr("Row %1 has lost its secondary groups: %2.")
+                                       : NoticeText::tr("Row %1 has lost its numbered groups: %2.");
+        return text.arg(QString::number(row + 1), groupRanges(lost)) + QLatin1Char(' ') +
+               NoticeText::tr("Undo restores them.");
+    }
+    return QString();
+}
+} // namespace
+
+QString groupsNotice(const DesignRowList& rows, int row, const std::vector<int>& before)
+{
+    QStringList sentences{lossNotice(before, rows[std::size_t(row)].groups, row),
+                          sharedNotice(rows, row)};
+    sentences.removeAll(QString());
+    return sentences.join(QLatin1Char(' '));
+}
+
+} // namespace plib
