@@ -279,12 +279,18 @@ private Q_SLOTS:
         tabs->setCurrentIndex(0);
         trigger(*find<QDialog>(*window, "OutputDialog"), "findPlots");
         find<QLineEdit>(*window, "searchWords")->setText(QStringLiteral("displ"));
+        trigger(*find<QDialog>(*window, "OutputDialog"), "findNextPlot");
+        const QString hit = find<QLabel>(*window, "searchCount")->text();
+        QVERIFY(hit.startsWith(QLatin1String("Hit 2 of ")));
+        for (const char* language : {"German", "English"})
+            trigger(*window, language);
         find<QDialog>(*window, "OutputDialog")->accept();
         window = reopen("places.zob");
         const QDialog* dialog = openOutput(*window);
         tree = dialog->findChild<QTreeWidget*>();
         QCOMPARE(dialog->focusWidget(), tree);
         QVERIFY(tree->topLevelItem(0)->isHidden());
+        QCOMPARE(find<QLabel>(*dialog, "searchCount")->text(), hit);
         QTest::keyClick(tree, Qt::Key_Escape);
         compareTree();
         window = open("again.zob");

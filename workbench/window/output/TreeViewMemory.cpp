@@ -3,6 +3,7 @@
 #include "window/output/TreeViewState.h"
 #include "window/support/WindowSettings.h"
 
+#include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QTreeWidget>
@@ -16,7 +17,7 @@ const QString Key = QStringLiteral("plotTrees");
 
 TreeViewMemory::TreeViewMemory(const QString& path, QTreeWidget* tree, QWidget* dialog)
     : QObject(dialog)
-    , m_path(QFileInfo(path).absoluteFilePath())
+    , m_path(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))
     , m_tree(tree)
 {
     dialog->installEventFilter(this);

@@ -15,7 +15,8 @@ namespace {
 using namespace vkd::plib::widgetgraphicaloutput;
 
 constexpr int PlotLevel = 2;
-constexpr int FixedStrings = 5; ///< strings before the list of branches
+constexpr QChar RowMark = u'\t'; ///< precedes the load case in the key of a row
+constexpr int FixedStrings = 5;  ///< strings before the list of branches
 } // namespace
 
 /// The keys of the captions and plots of a tree. Items with the same identifier are numbered.
@@ -61,7 +62,6 @@ private:
         }
     }
 
-    const QChar RowMark = QLatin1Char('\t');
     QVector<QTreeWidgetItem*> m_branches;
     QHash<const QTreeWidgetItem*, QString> m_keys;
     QHash<QString, QTreeWidgetItem*> m_items;
@@ -110,10 +110,11 @@ TreeViewState::TreeViewState(QTreeWidget* tree)
 {
     const ItemKeys keys(*tree);
     Search search(tree);
+    QTreeWidgetItem* found = tree->currentItem();
     if (search.words) {
         m_words = search.words->text();
         m_checkedOnly = search.checkedOnly->isChecked();
-        m_found = keys.keyOf(tree->currentItem());
+        m_found = keys.keyOf(found);
         search.set(QString(), false);
     }
     for (const QTreeWidgetItem* branch : keys.branches())
@@ -122,6 +123,8 @@ TreeViewState::TreeViewState(QTreeWidget* tree)
     m_current = keys.keyOf(tree->currentItem());
     m_top = keys.keyOf(tree->itemAt(0, 0));
     search.set(m_words, m_checkedOnly);
+    if (tree->currentItem() != found)
+        tree->setCurrentItem(found);
 }
 
 void TreeViewState::restore(QTreeWidget* tree) const

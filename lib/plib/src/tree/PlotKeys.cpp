@@ -98,7 +98,7 @@ bool PlotKeys::type(const QKeyEvent& event)
     const QString text = event.text();
     const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     const bool isUsedByTree = QStringLiteral(" +-*").contains(text);
-    if (isCommand || isUsedByTree || !text[0].isPrint())
+    if (text.isEmpty() || !text[0].isPrint() || isCommand || isUsedByTree)
         return false;
     bar()->type(text);
     return true;

@@ -183,6 +183,7 @@ void PlotSearch::restore()
     before->restore(m_tree);
 }
 
+/// Returns null if no part of the plot was found.
 const PlotSearch::Hits* PlotSearch::hitsOf(const QTreeWidgetItem* plot) const
 {
     const auto found = m_hitsOfPlots.constFind(plot);

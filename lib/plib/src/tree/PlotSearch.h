@@ -46,8 +46,6 @@ public:
 
     /// Returns the parts found of all plots, in the order of the tree.
     const std::vector<Hits>& hits() const { return m_hits; }
-    /// Returns the part found of this plot, or null.
-    const Hits* hitsOf(const QTreeWidgetItem* plot) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -67,6 +65,7 @@ private:
     void hideRows(QTreeWidgetItem* plot);
     void showHiddenRows();
     void restore();
+    const Hits* hitsOf(const QTreeWidgetItem* plot) const;
     Place placeOf(const QTreeWidgetItem* item) const;
     void setCurrent(const Place& place);
 

@@ -14,8 +14,8 @@ class PlotSearch;
 
 /// The search line above an output tree: the words, a box that limits the search to checked items,
 /// the number of hits, buttons, and a reminder that check boxes affect only the items shown. Return
-/// and the cursor keys lead on to the tree. PlotKeys opens the search line; closing it ends the
-/// search.
+/// steps through the hits; the cursor keys move the focus to the tree. PlotKeys opens the search
+/// line; closing it ends the search.
 class SearchBar : public QWidget
 {
     Q_OBJECT

@@ -1,6 +1,6 @@
 #include "tree/searchHits.h"
 
-#include <QRegularExpression>
+#include <algorithm>
 
 namespace plib {
 

@@ -38,9 +38,9 @@ struct PlotHits
 };
 
 /// Searches the plots of an output tree and their rows. An item is found if each word occurs in its
-/// text or in one of the captions above it. The texts of the tree are read only once, because
-/// plots share the texts of their rows; the index must be recreated after the tree has changed.
-/// Check states are always read from the tree. `Node` must have the members of OutputNode.
+/// text or in one of the captions above it. Texts are read once and prepared once, even if they are
+/// shared by the rows of several plots. Therefore, the index must be recreated after items or texts
+/// have changed. Check states are read by each search. `Node` must have the members of OutputNode.
 template <typename Node>
 class SearchIndex
 {
