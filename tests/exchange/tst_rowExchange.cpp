@@ -5,6 +5,7 @@
 #include <exchange/rowDescription.h>
 #include <exchange/rowRecords.h>
 #include <exchange/rowTable.h>
+#include <record/commonRecord.h>
 #include <record/designRecord.h>
 #include <vkd_language.h>
 
@@ -218,6 +219,35 @@ private Q_SLOTS:
               "expected");
         replaceRows(rows, change.first, int(change.after.size()), change.before);
         QCOMPARE(lettersOf(rows), before);
+    }
+
+    /// Rows share the fields that all their types have. Rounding errors are no difference. Only
+    /// pairs of limits that a change touches are checked.
+    void commonValues()
+    {
+        DesignRowList rows(3, oddRow());
+        const std::set<int> all{0, 1, 2};
+        const auto typeOf = [&](int a, int b) {
+            rows[0].record.type = a;
+            rows[1].record.type = rows[2].record.type = b;
+            return commonRecord(rows, all).record.type;
+        };
+        QCOMPARE(typeOf(3, 2), 2);
+        QCOMPARE(typeOf(4, 3), 1);
+        QCOMPARE(typeOf(4, 4), 4);
+        rows[1].record.hioq = 0.045F - 0.035F;
+        rows[0].record.hioq = rows[2].record.hioq = 0.035F - 0.025F;
+        rows[2].record.dio = NotSet;
+        const CommonRecord common = commonRecord(rows, all);
+        QVERIFY(common.mixed == std::vector<RealField>{&tagZOB_QUAD_RIM::dio});
+        QVERIFY(common.record.dio == NotSet && common.record.riu == rows[0].record.riu);
+        RowPatch patch;
+        patch.set(&tagZOB_QUAD_RIM::asu, 9);
+        rows[1].record.amo = 0; // below its minimum
+        rows[0].record.amu = rows[1].record.amu = rows[2].record.amu = 9;
+        QVERIFY(!limitFault(rows, all, patch));
+        rows[2].record.amu = 8;
+        QCOMPARE(limitFault(rows, all, patch)->row, 2);
     }
 };
 

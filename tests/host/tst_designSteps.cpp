@@ -305,12 +305,12 @@ private Q_SLOTS:
         });
         desk.keys({Qt::Key_F2});
         QCOMPARE(shown.join(QLatin1Char('\n')),
-                 QStringLiteral("Row 3: groups 2 at 2 with 12 fields, aso 2.00\n"
-                                "Row 4: groups 3 at 3 with 8 fields, aso 3.00\n"
-                                "Row 4: groups 3 at 3 with 8 fields, aso 8.50 without focus\n"
-                                "Row 5: groups 4 at 4 with 8 fields, aso 4.00\n"
-                                "Row 5: groups 4 at 4 with 8 fields, aso 4.00\n"
-                                "Row 4: groups 3 at 3 with 8 fields, aso 8.50"));
+                 QStringLiteral("Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
+                                "Row 4: group 3 at 3 with 8 fields, aso 3.00\n"
+                                "Row 4: group 3 at 3 with 8 fields, aso 8.50 without focus\n"
+                                "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
+                                "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
+                                "Row 4: group 3 at 3 with 8 fields, aso 8.50"));
         QAction* undo = find<QAction>(*desk.page, "undo");
         QCOMPARE(undo->text(), QStringLiteral("&Undo Reinforcement of row 4"));
         undo->trigger();

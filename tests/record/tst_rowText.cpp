@@ -84,10 +84,9 @@ private Q_SLOTS:
         rows[1].groups = {3, Open};
         rows[2].groups = {4};
         QCOMPARE(plib::groupsNotice(rows, 0, {Open}),
-                 QStringLiteral("Row 1 has lost its secondary groups: OPN. Undo restores them. "
-                                "Row 1 has groups that are also in row 2, 3: 3, 4."));
+                 QStringLiteral("Row 1 has lost OPN (see Undo). Groups also in row 2, 3: 3, 4."));
         QCOMPARE(plib::groupsNotice(rows, 1, {1, 2, Open}),
-                 QStringLiteral("Row 2 has groups that are also in row 1: 3."));
+                 QStringLiteral("Groups also in row 1: 3."));
         rows[0].groups = {-1};
         QCOMPARE(plib::groupsNotice(rows, 2, {-1}), QString());
     }

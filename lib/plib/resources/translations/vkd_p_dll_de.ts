@@ -836,6 +836,10 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <source>Rows %1: %2</source>
         <translation>Zeilen %1: %2</translation>
     </message>
+    <message>
+        <source>group %1</source>
+        <translation>Gruppe %1</translation>
+    </message>
 </context>
 <context>
     <name>CommonRecord</name>
@@ -879,25 +883,6 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
 </context>
 <context>
-    <name>GroupsNotice</name>
-    <message>
-        <source>Row %1 has groups that are also in row %2: %3.</source>
-        <translation>Zeile %1 hat Gruppen, die auch in Zeile %2 stehen: %3.</translation>
-    </message>
-    <message>
-        <source>Row %1 has lost its secondary groups: %2.</source>
-        <translation>Zeile %1 hat ihre Sekundärgruppen verloren: %2.</translation>
-    </message>
-    <message>
-        <source>Row %1 has lost its numbered groups: %2.</source>
-        <translation>Zeile %1 hat ihre nummerierten Gruppen verloren: %2.</translation>
-    </message>
-    <message>
-        <source>Undo restores them.</source>
-        <translation>Rückgängig stellt sie wieder her.</translation>
-    </message>
-</context>
-<context>
     <name>plib::TypeEditor</name>
     <message>
         <source>several</source>
@@ -928,6 +913,17 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     <message>
         <source>Crack C&amp;ontrol...</source>
         <translation>&amp;Begrenzung der Rissbreite ...</translation>
+    </message>
+</context>
+<context>
+    <name>GroupsNotice</name>
+    <message>
+        <source>Groups also in row %1: %2.</source>
+        <translation>Gruppen auch in Zeile %1: %2.</translation>
+    </message>
+    <message>
+        <source>Row %1 has lost %2 (see Undo).</source>
+        <translation>Zeile %1 hat %2 verloren (siehe Rückgängig).</translation>
     </message>
 </context>
 </TS>

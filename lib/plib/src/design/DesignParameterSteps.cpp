@@ -30,7 +30,7 @@ void DesignParameter::refresh(const std::set<int>& rows)
 
 void DesignParameter::showNotice(const QString& text)
 {
-    findChild<plib::RowsNotice*>()->show(text);
+    findChild<plib::RowsNotice*>()->setText(text);
 }
 
 /// Closes the editor first, because it belongs to a row. Restoring the selection reopens the

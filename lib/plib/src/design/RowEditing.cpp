@@ -77,8 +77,9 @@ void RowEditing::showRow()
     const DesignParameterData& data = m_page->state();
     const int row = *m_rows.begin();
     m_strip->setTitle(rowTitle(data.rows, m_rows));
-    if (m_dialog.note)
-        m_strip->setNote(m_dialog.note(record()->type));
+    const std::optional<int> type = commonType(data, m_rows);
+    if (m_dialog.note && type)
+        m_strip->setNote(m_dialog.note(*type));
     if (m_rows.size() == 1)
         m_strip->setSteps(designRowBeside(data, row, -1) >= 0, designRowBeside(data, row, 1) >= 0);
     if (m_dialog.recordShown)
@@ -100,7 +101,7 @@ void RowEditing::step(int direction)
         write();
     m_rows = {next};
     data.table->setCurrentCell(next, data.table->currentColumn());
-    data.table->setFocus(); // later; the cell with the focus has no button any more
+    data.table->setFocus(); // when the dialog closes; the button that had the focus is deleted
     const QWidget* focused = m_dialog.window->focusWidget();
     const QString name = focused ? focused->objectName() : QString();
     m_dialog.showRecord(*record());

@@ -24,10 +24,10 @@ RowsNotice::RowsNotice(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_sign);
     layout->addWidget(m_label, 1);
-    show(QString());
+    setText(QString());
 }
 
-void RowsNotice::show(const QString& text)
+void RowsNotice::setText(const QString& text)
 {
     m_text = text;
     m_sign->setVisible(!text.isEmpty());

@@ -15,8 +15,8 @@ class RowsNotice : public QWidget
 public:
     explicit RowsNotice(QWidget* parent);
 
-    /// Shows a text, or hides the line if the text is empty.
-    void show(const QString& text);
+    /// Shows a text, or nothing if the text is empty.
+    void setText(const QString& text);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -46,8 +46,8 @@ QString sharedNotice(const DesignRowList& rows, int row)
     }
     if (groups.empty())
         return QString();
-    return NoticeText::tr("Row %1 has groups that are also in row %2: %3.")
-        .arg(QString::number(row + 1), groupRanges(others), groupRanges(groups));
+    return NoticeText::tr("Groups also in row %1: %2.")
+        .arg(groupRanges(others), groupRanges(groups));
 }
 
 QString lossNotice(const std::vector<int>& before, const std::vector<int>& after, int row)
@@ -56,10 +56,8 @@ QString lossNotice(const std::vector<int>& before, const std::vector<int>& after
         const std::vector<int> lost = ofKind(before, secondary);
         if (lost.empty() || !ofKind(after, secondary).empty())
             continue;
-        const QString text = secondary ? NoticeText::tr("Row %1 has lost its secondary groups: %2.")
-                                       : NoticeText::tr("Row %1 has lost its numbered groups: %2.");
-        return text.arg(QString::number(row + 1), groupRanges(lost)) + QLatin1Char(' ') +
-               NoticeText::tr("Undo restores them.");
+        return NoticeText::tr("Row %1 has lost %2 (see Undo).")
+            .arg(QString::number(row + 1), groupRanges(lost));
     }
     return QString();
 }

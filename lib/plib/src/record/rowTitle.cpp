@@ -21,7 +21,9 @@ QString groupsTitle(std::vector<int> groups)
         groups.erase(remaining);
     if (groups.empty())
         return hasRemaining ? TitleText::tr("remaining groups") : TitleText::tr("no groups");
-    const QString listed = TitleText::tr("groups %1").arg(groupRanges(groups));
+    const QString text =
+        groups.size() == 1 ? TitleText::tr("group %1") : TitleText::tr("groups %1");
+    const QString listed = text.arg(groupRanges(groups));
     return hasRemaining ? TitleText::tr("%1 and remaining groups").arg(listed) : listed;
 }
 } // namespace
