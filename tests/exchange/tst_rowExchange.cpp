@@ -2,7 +2,7 @@
 #include "TestSupport.h"
 
 #include <exchange/patchRows.h>
-#include <exchange/rowDescription.h>
+#include <exchange/rowParameters.h>
 #include <exchange/rowRecords.h>
 #include <exchange/rowTable.h>
 #include <record/commonRecord.h>
@@ -181,6 +181,50 @@ private Q_SLOTS:
                                QStringLiteral("CRACK"));
         QTEST(texts.join(QLatin1Char('|')), "expected");
         QVERIFY(descriptionHtml(lines, {}).contains(QLatin1String("2: Slab &lt;1&gt;")));
+    }
+
+    /// The parameters of a row, as hosts exchange them, preserve every bit.
+    void parametersAreReadBack()
+    {
+        const tagZOB_QUAD_RIM record = oddRow().record;
+        tagZOB_QUAD_RIM read = getDefaultMerPara(false);
+        RowPatch patch;
+        QCOMPARE(readParameters(parametersOf(record), &patch), QStringList());
+        patch.applyTo(read);
+        QVERIFY(recordsEqual(read, record));
+    }
+
+    void parameters_data()
+    {
+        const Columns<QString, QVariant, QString> row("name", "value", "expected");
+        row("real", "hio", 0.04, "Distance H principal 40.0 mm");
+        row("lower side", "hiu", 0.04, "Distance H principal  40.0 mm");
+        row("not set", "wko", QVariant(), "Crack width principal – mm");
+        row("type", "type", 2.0, "Type Two Layers");
+        row("no type", "type", 1.5, "\"1.5\" is not a type.");
+        row("type out of range", "type", 1e20, "\"1e+20\" is not a type.");
+        row("unknown", "group", 1, "There is no parameter \"group\".");
+        row("reserved", "reservedD", 1, "There is no parameter \"reservedD\".");
+        row("too small", "hio", -0.001, "Distance H upper principal [mm]: \"-1\" is too small.");
+        row("too large", "sigo", 1e6,
+            "Steel stress upper principal [N/mm²]: \"1000000\" is too large.");
+        row("zero bar", "dio", 0, "Diameter upper principal [mm]: \"0\" is too small.");
+        row("NaN", "hio", std::numeric_limits<double>::quiet_NaN(),
+            "Distance H upper principal [mm]: \"nan\" is not a number.");
+    }
+
+    void parameters()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QVariant, value);
+        RowPatch patch;
+        QStringList texts = readParameters({{name, value}}, &patch);
+        if (texts.isEmpty())
+            for (const DescriptionLine& line : describeParameters({{name, value}}))
+                texts << (QStringList(line.name) + line.values + QStringList(line.unit))
+                             .join(QLatin1Char(' '))
+                             .trimmed();
+        QTEST(texts.join(QLatin1Char('|')), "expected");
     }
 
     /// In this test, each letter represents a row.

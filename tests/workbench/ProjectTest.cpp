@@ -150,6 +150,7 @@ void ProjectTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path("ini"));
+    qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
     vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, 300);
     testsupport::setLanguage(testsupport::English);
 }

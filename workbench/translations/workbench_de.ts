@@ -392,6 +392,233 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
+    <name>presetJson</name>
+    <message>
+        <source>The JSON is invalid at byte %1: %2.</source>
+        <translation>Das JSON ist ab Byte %1 ungültig: %2.</translation>
+    </message>
+    <message>
+        <source>It does not contain design presets.</source>
+        <translation>Sie enthält keine Vorlagen für die Bemessung.</translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of this program: version %1 of the format, and this program reads up to version %2.</source>
+        <translation>Sie stammt aus einer neueren Version dieses Programms: Formatversion %1; dieses Programm liest bis Version %2.</translation>
+    </message>
+    <message>
+        <source>The field "%1" is unknown.</source>
+        <translation>Das Feld „%1“ ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>The field "%1" is missing.</source>
+        <translation>Das Feld „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>Preset %1 needs a name of at most %2 characters.</source>
+        <translation>Vorlage %1 braucht einen Namen mit höchstens %2 Zeichen.</translation>
+    </message>
+    <message>
+        <source>There are two presets "%1".</source>
+        <translation>Die Vorlage „%1“ ist doppelt.</translation>
+    </message>
+    <message>
+        <source>"%1": the value of "%2" is not a number.</source>
+        <translation>„%1“: Der Wert von „%2“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>"%1" has no parameters.</source>
+        <translation>„%1“ enthält keine Parameter.</translation>
+    </message>
+</context>
+<context>
+    <name>presetPlaces</name>
+    <message>
+        <source>The supplied presets are missing.</source>
+        <translation>Die mitgelieferten Vorlagen fehlen.</translation>
+    </message>
+    <message>
+        <source>Supplied presets cannot be changed.</source>
+        <translation>Mitgelieferte Vorlagen können nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PresetForm</name>
+    <message>
+        <source>Preset from Row</source>
+        <translation>Vorlage aus Zeile</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Vorlage umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Beschreibung:</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>Meine Vorlagen</translation>
+    </message>
+    <message>
+        <source>Presets of this project</source>
+        <translation>Vorlagen dieses Projekts</translation>
+    </message>
+    <message>
+        <source>&amp;Store in:</source>
+        <translation>&amp;Speichern in:</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Another preset has this name.</source>
+        <translation>Eine andere Vorlage hat diesen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PresetPartBoxes</name>
+    <message>
+        <source>&amp;Type</source>
+        <translation>Ar&amp;t</translation>
+    </message>
+    <message>
+        <source>Di&amp;rections</source>
+        <translation>&amp;Richtungen</translation>
+    </message>
+    <message>
+        <source>Co&amp;ver</source>
+        <translation>Beton&amp;deckung</translation>
+    </message>
+    <message>
+        <source>&amp;Bars</source>
+        <translation>Stäb&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Limits</source>
+        <translation>&amp;Grenzen</translation>
+    </message>
+    <message>
+        <source>Crac&amp;ks</source>
+        <translation>R&amp;isse</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PresetsDialog</name>
+    <message>
+        <source>&amp;Presets...</source>
+        <translation>&amp;Vorlagen ...</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Parts to apply</source>
+        <translation>Anzuwendende Teile</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;From Row...</source>
+        <translation>Aus &amp;Zeile ...</translation>
+    </message>
+    <message>
+        <source>Re&amp;name...</source>
+        <translation>&amp;Umbenennen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>I&amp;mportieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xportieren ...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Supplied</source>
+        <translation>Mitgeliefert</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>Meine Vorlagen</translation>
+    </message>
+    <message>
+        <source>Presets of this project</source>
+        <translation>Vorlagen dieses Projekts</translation>
+    </message>
+    <message>
+        <source>Sets the checked parts in the selected row.</source>
+        <translation>Setzt die angekreuzten Teile in der ausgewählten Zeile.</translation>
+    </message>
+    <message>
+        <source>Sets the checked parts in %1 selected rows.</source>
+        <translation>Setzt die angekreuzten Teile in %1 ausgewählten Zeilen.</translation>
+    </message>
+    <message>
+        <source>The presets cannot be stored.</source>
+        <translation>Die Vorlagen können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Preset "%1"</source>
+        <translation>Vorlage „%1“</translation>
+    </message>
+    <message>
+        <source>The preset was not applied.</source>
+        <translation>Die Vorlage wurde nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Delete the preset "%1"?</source>
+        <translation>Die Vorlage „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>"%1": %2</source>
+        <translation>„%1“: %2</translation>
+    </message>
+    <message>
+        <source>Import Presets</source>
+        <translation>Vorlagen importieren</translation>
+    </message>
+    <message>
+        <source>Presets (*.json)</source>
+        <translation>Vorlagen (*.json)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Es wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>Export Presets</source>
+        <translation>Vorlagen exportieren</translation>
+    </message>
+</context>
+<context>
     <name>workbench::RecordTableModel</name>
     <message>
         <source>Record %1</source>

@@ -3,6 +3,7 @@
 #include "project/dialogPages.h"
 #include "project/OpenProject.h"
 #include "window/design/sharedGroupsQuestion.h"
+#include "window/presets/presetsAction.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
@@ -117,6 +118,7 @@ void DesignDialog::showPage()
     connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &DesignDialog::accept);
     connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &DesignDialog::reject);
     m_page->getEntrys(m_entries);
+    addPresetsAction(m_page, m_project);
     m_edit->addActions(m_page->actions()); // a page deletes its actions
 }
 

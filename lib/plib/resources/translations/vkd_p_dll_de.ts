@@ -702,6 +702,21 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
 </context>
 <context>
+    <name>RowParameters</name>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a type.</source>
+        <translation>„%1“ ist keine Art.</translation>
+    </message>
+    <message>
+        <source>There is no parameter "%1".</source>
+        <translation>Es gibt keinen Parameter „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>RowTable</name>
     <message>
         <source>&quot;%1&quot; is too large</source>

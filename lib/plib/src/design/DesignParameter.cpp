@@ -3,6 +3,7 @@
 #include "design/designColumns.h"
 #include "design/DesignParameterTable.h"
 #include "design/RowActions.h"
+#include "design/RowParameters.h"
 #include "design/RowsClipboard.h"
 #include "design/RowsHistory.h"
 #include "design/RowsNotice.h"
@@ -87,6 +88,7 @@ void DesignParameter::init()
     new plib::RowsHistory(this);
     new plib::RowActions(this);
     new plib::RowsClipboard(this);
+    new plib::RowParameters(this);
     new plib::RowToolTip(this);
     new plib::TypeEditor(this);
     setFocusProxy(data->table);

@@ -2,6 +2,7 @@
 
 #include "design/DesignParameter.h"
 #include "design/DesignParameterTable.h"
+#include "design/patchSelectedRows.h"
 #include "design/RowsHistory.h"
 #include "exchange/patchRows.h"
 #include "exchange/rowRecords.h"
@@ -118,24 +119,7 @@ void RowsClipboard::paste()
         return pasteAsNewRows();
     const RowTable copied = copiedRows();
     if (mayUse(copied.faults))
-        pasteInto(selected, copied);
-}
-
-/// Replaces the rows from the first to the last selected one.
-void RowsClipboard::pasteInto(const std::set<int>& selected, const RowTable& copied)
-{
-    DesignRowList changed = selectedRows();
-    if (!mayUse(patchRows(copied.rows, m_page->state().kindOfSystem, &changed)))
-        return;
-    const RecordedStep step(m_page, RowsStep::Paste, selected);
-    const DesignRowList& rows = m_page->state().rows;
-    const int first = *selected.begin();
-    const int last = *selected.rbegin();
-    DesignRowList range(rows.begin() + first, rows.begin() + last + 1);
-    auto next = changed.begin();
-    for (int row : selected)
-        range[std::size_t(row - first)] = *next++;
-    m_page->replaceRows(first, int(range.size()), range, TableSelection(*m_page->state().table));
+        mayUse(patchSelectedRows(m_page, copied.rows, nameOf(RowsStep::Paste, selected)));
 }
 
 void RowsClipboard::pasteAsNewRows()

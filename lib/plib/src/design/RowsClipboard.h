@@ -28,7 +28,6 @@ private:
     void paste();
     void pasteAsNewRows();
     void duplicate();
-    void pasteInto(const std::set<int>& selected, const RowTable& copied);
     void append(RowsStep name, const std::set<int>& rows, const DesignRowList& added);
     bool mayUse(const QStringList& faults);
     RowTable copiedRows() const;

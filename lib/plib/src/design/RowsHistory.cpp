@@ -100,12 +100,17 @@ void RowsHistory::showSteps()
 {
     m_undo->setEnabled(m_stack.canUndo());
     m_redo->setEnabled(m_stack.canRedo());
-    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(m_stack.undoText()) : tr("&Undo"));
-    m_redo->setText(m_stack.canRedo() ? tr("&Redo %1").arg(m_stack.redoText()) : tr("&Redo"));
+    const auto shown = [](QString name) {
+        return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+    };
+    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(shown(m_stack.undoText()))
+                                      : tr("&Undo"));
+    m_redo->setText(m_stack.canRedo() ? tr("&Redo %1").arg(shown(m_stack.redoText()))
+                                      : tr("&Redo"));
 }
 
 /// Compares the rows of the step and their neighbours, with which they may have been swapped.
-void RowsHistory::record(RowsStep step, const std::set<int>& rows,
+void RowsHistory::record(const QString& name, const std::set<int>& rows,
                          const TableSelection& selectedBefore)
 {
     const DesignRowList& now = m_page->state().rows;
@@ -118,9 +123,8 @@ void RowsHistory::record(RowsStep step, const std::set<int>& rows,
         return;
     replaceRows(m_known, change.first, int(change.before.size()), change.after);
     const TableSelection selectedAfter(*m_page->state().table);
-    m_stack.push(new Command(
-        this, std::make_shared<RecordedChange>(RecordedChange{nameOf(step, rows), std::move(change),
-                                                              selectedBefore, selectedAfter})));
+    m_stack.push(new Command(this, std::make_shared<RecordedChange>(RecordedChange{
+                                       name, std::move(change), selectedBefore, selectedAfter})));
     dropOldSteps();
 }
 
@@ -155,8 +159,13 @@ void RowsHistory::replace(const RecordedChange& change, bool isUndo)
 }
 
 RecordedStep::RecordedStep(DesignParameter* page, RowsStep step, std::set<int> rows)
+    : RecordedStep(page, nameOf(step, rows), rows)
+{
+}
+
+RecordedStep::RecordedStep(DesignParameter* page, const QString& name, std::set<int> rows)
     : m_history(page->findChild<RowsHistory*>(QString(), Qt::FindDirectChildrenOnly))
-    , m_step(step)
+    , m_name(name)
     , m_rows(std::move(rows))
     , m_selection(*page->state().table)
 {
@@ -165,7 +174,7 @@ RecordedStep::RecordedStep(DesignParameter* page, RowsStep step, std::set<int> r
 RecordedStep::~RecordedStep()
 {
     if (m_history)
-        m_history->record(m_step, m_rows, m_selection);
+        m_history->record(m_name, m_rows, m_selection);
 }
 
 } // namespace plib

@@ -32,7 +32,8 @@ public:
 
     /// Clears the history.
     void restart();
-    void record(RowsStep step, const std::set<int>& rows, const TableSelection& selectedBefore);
+    void record(const QString& name, const std::set<int>& rows,
+                const TableSelection& selectedBefore);
 
 private:
     class Command;
@@ -54,13 +55,15 @@ class RecordedStep
 {
 public:
     RecordedStep(DesignParameter* page, RowsStep step, std::set<int> rows);
+    /// Records a step with a name of its own.
+    RecordedStep(DesignParameter* page, const QString& name, std::set<int> rows);
     ~RecordedStep();
     RecordedStep(const RecordedStep&) = delete;
     RecordedStep& operator=(const RecordedStep&) = delete;
 
 private:
     QPointer<RowsHistory> m_history;
-    RowsStep m_step;
+    QString m_name;
     std::set<int> m_rows;
     TableSelection m_selection;
 };

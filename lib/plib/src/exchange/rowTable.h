@@ -36,6 +36,10 @@ struct RowTable
 /// Empty lines and columns are ignored.
 RowTable readRowTable(const QString& text);
 
+/// Reads a cell with a number in the displayed unit and sets the field in the row. Returns the
+/// reason if the cell is rejected, otherwise an empty string.
+QString readNumberCell(const QString& cell, RealField field, RowPatch* row);
+
 /// Returns whether the first line of the text contains a column header.
 bool looksLikeRowTable(const QString& text);
 

@@ -124,7 +124,7 @@ private:
         else if (column.kind == RowColumn::Type)
             return readType(cell, row);
         else
-            return readNumber(cell, column.field, row);
+            return readNumberCell(cell, column.field, row);
         return QString();
     }
 
@@ -137,23 +137,23 @@ private:
         return QString();
     }
 
-    static QString readNumber(const QString& cell, RealField field, RowPatch* row)
-    {
-        const int code = dimensionCode(field);
-        const StructLineEdit description = vkd_h_defaultStructLineEdit(code);
-        const VkdNumberReading number = vkd_h_readNumber(cell, description);
-        const bool isBar = code == vkd::plib::designparameter::BarDiameter;
-        if (isBar && number.state == VkdNumberState::Accepted && float(number.value) == 0)
-            return refusal(VkdNumberState::TooSmall, cell); // zero would mean "not set"
-        row->set(field, float(number.value));
-        return refusal(number.state, cell);
-    }
-
     RowTable m_table;
     std::vector<const RowColumn*> m_columns; // null for an empty header
     QStringList m_heads;
 };
 } // namespace
+
+QString readNumberCell(const QString& cell, RealField field, RowPatch* row)
+{
+    const int code = dimensionCode(field);
+    const StructLineEdit description = vkd_h_defaultStructLineEdit(code);
+    const VkdNumberReading number = vkd_h_readNumber(cell, description);
+    const bool isBar = code == vkd::plib::designparameter::BarDiameter;
+    if (isBar && number.state == VkdNumberState::Accepted && float(number.value) == 0)
+        return refusal(VkdNumberState::TooSmall, cell); // zero would mean "not set"
+    row->set(field, float(number.value));
+    return refusal(number.state, cell);
+}
 
 RowTable readRowTable(const QString& text)
 {

@@ -1,0 +1,214 @@
+#include "DesignDesk.h"
+#include "LanguageSupport.h"
+#include "project/OpenProject.h"
+#include "project/presetPlaces.h"
+#include "WidgetTestSupport.h"
+#include "window/presets/PageParameters.h"
+#include "window/presets/presetsAction.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+using namespace testsupport;
+using namespace workbench;
+
+/// Tests presets: their files, their places and their dialog.
+class tst_presets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        qputenv("XDG_DATA_HOME", m_folder->path().toLocal8Bit());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder->path());
+        setLanguage(English);
+    }
+
+    void reading_data()
+    {
+        const Columns<QString, QString> row("json", "expected");
+        row("whole",
+            R"({"name": " A  b ", "description": "x", "parameters": {"hio": 1, "wko": null}})",
+            "A b: x: hio=1 wko=");
+        row("two",
+            R"({"name": "A", "parameters": {"hio": 1}}, {"name": "B", "parameters": {"a": 2}})",
+            "A: : hio=1|B: : a=2");
+        row("the same name", R"({"name": "A", "parameters": {"a": 1}},
+            {"name": "A ", "parameters": {"a": 2}})",
+            "There are two presets \"A\".");
+        row("no name", R"({"name": " ", "parameters": {"a": 1}})",
+            "Preset 1 needs a name of at most 80 characters.");
+        row("no parameters", R"({"name": "A", "parameters": {}})", "\"A\" has no parameters.");
+        row("no object", "7", "Preset 1 needs a name of at most 80 characters.");
+        row("a text as a value", R"({"name": "A", "parameters": {"hio": "1"}})",
+            "\"A\": the value of \"hio\" is not a number.");
+        row("unknown field", R"({"name": "A", "colour": 1, "parameters": {"a": 1}})",
+            "The field \"colour\" is unknown.");
+        row("bad JSON", "{", "The JSON is invalid at byte 61: unterminated object.");
+        row("newer", R"(], "version": 2, "later": [)",
+            "It was written by a newer version of this program: version 2 of the format, and this "
+            "program reads up to version 1.");
+        row("other", R"(], "format": "x", "y": [)", "It does not contain design presets.");
+    }
+
+    void reading()
+    {
+        QFETCH(const QString, json);
+        const QString start =
+            QStringLiteral(R"({"format": "vkd-design-presets", "version": 1, "presets": [)");
+        PresetReading read =
+            readPresets((start + json + QLatin1String("]}")).toUtf8(), vkd::Language::English);
+        for (int round = 0; round < 2; ++round) {
+            QStringList texts(read.fault);
+            for (const Preset& preset : qAsConst(read.presets)) {
+                QStringList values;
+                for (auto it = preset.parameters.begin(); it != preset.parameters.end(); ++it)
+                    values << it.key() + QLatin1Char('=') + it.value().toString();
+                texts << QStringList{preset.name, preset.description, values.join(QLatin1Char(' '))}
+                             .join(QLatin1String(": "));
+            }
+            texts.removeAll(QString());
+            QTEST(texts.join(QLatin1Char('|')), "expected");
+            if (read.fault.isEmpty()) // the second round reads what was written
+                read = readPresets(presetsJson(read.presets), vkd::Language::German);
+        }
+    }
+
+    /// The page accepts all supplied presets, which give their source in both languages.
+    void suppliedPresets()
+    {
+        HostProject project(QStringLiteral("slab"));
+        DesignDesk desk(project, {record(-1, 1, 0)});
+        const PresetList english = presetsOf(PresetPlace::Supplied, {}).presets;
+        setLanguage(German);
+        const PresetReading german = presetsOf(PresetPlace::Supplied, {});
+        QCOMPARE(german.fault, QString());
+        QVERIFY(english.size() > 5 && german.presets.size() == english.size());
+        for (int i = 0; i < english.size(); ++i) {
+            QVERIFY(german.presets[i].name != english[i].name);
+            for (const QString& text : {english[i].description, german.presets[i].description})
+                QVERIFY(text.startsWith(QLatin1String("EN 1992-1-1")));
+            QCOMPARE(PageParameters(desk.page).faults(english[i].parameters), QStringList());
+        }
+    }
+
+    /// Presets that this version cannot read are not overwritten.
+    void storing_data()
+    {
+        const Columns<int> row("place");
+        row("user", int(PresetPlace::User));
+        row("project", int(PresetPlace::Project));
+    }
+
+    void storing()
+    {
+        QFETCH(const int, place);
+        HostProject project(QStringLiteral("slab"));
+        const ZobHandle handle = project.doc()->handle();
+        const auto store = [&](const PresetChange& change) {
+            return changePresets(PresetPlace(place), handle, change);
+        };
+        const auto names = [&] {
+            const PresetReading reading = presetsOf(PresetPlace(place), handle);
+            QStringList texts(reading.fault);
+            for (const Preset& preset : reading.presets)
+                texts << preset.name;
+            return texts.join(QLatin1Char(' ')).trimmed();
+        };
+        QCOMPARE(names(), QString());
+        for (const char* name : {"A", "B"})
+            QCOMPARE(store([name](PresetList& presets) {
+                         presets << Preset{unusedName(presets, QLatin1String(name)),
+                                           {},
+                                           {{QStringLiteral("hio"), 1}}};
+                     }),
+                     QString());
+        QCOMPARE(names(), QStringLiteral("A B"));
+        if (PresetPlace(place) == PresetPlace::Project)
+            return;
+        const QByteArray newer = R"({"format": "vkd-design-presets", "version": 3, "presets": []})";
+        writeFile(userPresetsPath(), newer);
+        QVERIFY(
+            store([](PresetList&) {}).startsWith(QLatin1String("presets.json: It was written")));
+        QCOMPARE(readFile(userPresetsPath()), newer);
+    }
+
+    /// The dialog applies parts of a preset to all selected rows in one step, and manages presets.
+    void dialog()
+    {
+        HostProject project(QStringLiteral("slab"));
+        DesignDesk desk(project, {record(-1, 1, 0), record(1, 2, 4), record(2, 1, 0)});
+        OpenProject none;
+        QAction* action = addPresetsAction(desk.page, &none);
+        desk.table()->setCurrentCell(1, 3);
+        desk.table()->setRangeSelected({2, 3, 2, 3}, true);
+        const auto open = [&](const std::function<void(QWidget&)>& use) {
+            whenModal([&use](QWidget* dialog) {
+                use(*dialog);
+                qobject_cast<QDialog*>(dialog)->reject();
+            });
+            action->trigger();
+        };
+        const auto press = [](QWidget& dialog, const char* button) {
+            find<QPushButton>(dialog, button)->click();
+        };
+        const auto choose = [](QWidget& dialog, const char* name) {
+            const auto list = find<QTreeWidget>(dialog, "presetList");
+            list->setCurrentItem(
+                list->findItems(QLatin1String(name), Qt::MatchStartsWith | Qt::MatchRecursive)
+                    .value(0));
+        };
+        open([&](QWidget& dialog) {
+            choose(dialog, "XC4");
+            QVERIFY(find<QTextBrowser>(dialog, "presetDetails")
+                        ->toPlainText()
+                        .contains(QLatin1String("Table 4.4N")));
+            find<QAbstractButton>(dialog, "partCracks")->click();
+            press(dialog, "presetApply");
+        });
+        const QString applied = QStringLiteral("45.0 mm ;45.0 mm ;10.0 mm ;10.0 mm");
+        for (int row = 0; row < 3; ++row)
+            QCOMPARE(desk.row(row).contains(applied), row > 0);
+        QVERIFY(!desk.row(2).contains(QLatin1String("0.30 mm")));
+        const QString file = m_folder->filePath(QStringLiteral("out.json"));
+        open([&](QWidget& dialog) {
+            whenModal([](QWidget* form) {
+                find<QLineEdit>(*form, "presetName")->setText(QStringLiteral("A & B"));
+                find<QAbstractButton>(*form, "partCover")->click();
+                qobject_cast<QDialog*>(form)->accept();
+            });
+            press(dialog, "presetFromRow");
+            whenModal([&file](QWidget* files) { enterFile(files, file); });
+            press(dialog, "presetExport");
+            whenModal([&file](QWidget* files) { enterFile(files, file); });
+            press(dialog, "presetImport");
+            whenModal([](QWidget* box) { box->findChildren<QPushButton*>().value(0)->click(); });
+            choose(dialog, "A & B");
+            press(dialog, "presetDelete");
+            choose(dialog, "A & B (2)");
+            press(dialog, "presetApply");
+        });
+        const PresetList stored = presetsOf(PresetPlace::User, {}).presets;
+        QCOMPARE(stored.size(), 1);
+        QCOMPARE(stored.first().name, QStringLiteral("A & B (2)"));
+        QVERIFY(!partsIn(stored.first().parameters).contains(PresetPart::Cover));
+        QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
+                 QStringLiteral("&Undo Preset \"A && B (2)\""));
+        desk.keys({Qt::Key_Escape});
+        for (int step = 0; step < 2; ++step)
+            find<QAction>(*desk.page, "undo")->trigger();
+        QVERIFY(!desk.row(1).contains(applied) && !desk.row(2).contains(applied));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_presets)
+#include "tst_presets.moc"

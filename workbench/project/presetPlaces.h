@@ -1,0 +1,35 @@
+#pragma once
+
+#include "project/presetJson.h"
+
+#include <ZobHandle.h>
+
+#include <functional>
+
+namespace workbench {
+
+/// The places in which presets are stored. Presets of the user are in a file in the folder for data
+/// of the application, presets of a project are among the entries in its file.
+enum class PresetPlace { Supplied, User, Project };
+
+using PresetChange = std::function<void(PresetList&)>;
+
+/// Reads the presets of a place, in the desktop language where they are translated. A place in
+/// which nothing has been stored has no presets. `project` is used only for its own presets; it may
+/// be null.
+PresetReading presetsOf(PresetPlace place, ZobHandle project);
+
+/// Reads the presets of a place again, changes and stores them. Supplied presets cannot be changed.
+/// Returns an empty string, or the reason why nothing was stored. Presets that cannot be read, for
+/// instance because they have a newer version, are never overwritten.
+QString changePresets(PresetPlace place, ZobHandle project, const PresetChange& change);
+
+/// Returns the path of the file of the user.
+QString userPresetsPath();
+
+/// Read and write a file that the user exchanges with others. On failure, the fault mentions the
+/// file by its name.
+PresetReading importPresets(const QString& path);
+QString exportPresets(const QString& path, const PresetList& presets);
+
+} // namespace workbench
