@@ -168,6 +168,21 @@ private:
             addMain(action, [action](MainWindow& window, const Visit& visit) {
                 visitModal(visit, [&] { trigger(window, action); });
             });
+        addMain("presets and their form", [](MainWindow& window, const Visit& visit) {
+            whenModal([&visit](QWidget* design) {
+                find<QTableWidget>(*design, "table")->setCurrentCell(0, Cracks);
+                const auto open = find<QAction>(*design, "presets");
+                visitModal(visit, [open] { open->trigger(); });
+                whenModal([&visit](QWidget* presets) {
+                    const auto form = find<QPushButton>(*presets, "presetFromRow");
+                    visitModal(visit, [form] { form->click(); });
+                    presets->close();
+                });
+                open->trigger();
+                design->close();
+            });
+            trigger(window, "Design");
+        });
         addMain("help", [](MainWindow& window, const Visit& visit) {
             trigger(window, "DesignHelp");
             for (QWidget* help : QApplication::topLevelWidgets())

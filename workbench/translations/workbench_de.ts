@@ -457,7 +457,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Name:</translation>
+        <translation>Na&amp;me:</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
@@ -514,7 +514,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
 <context>
     <name>workbench::PresetsDialog</name>
     <message>
-        <source>&amp;Presets...</source>
+        <source>Pre&amp;sets...</source>
         <translation>&amp;Vorlagen ...</translation>
     </message>
     <message>

@@ -4,9 +4,9 @@
 #include "window/presets/PresetPartBoxes.h"
 #include "window/support/HelpKey.h"
 
+#include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Ok.h>
 
-#include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -51,8 +51,7 @@ PresetForm::PresetForm(const QString& title, const Preset& preset, bool isNew, b
     layout->addRow(tr("&Name:"), m_name);
     layout->addRow(tr("&Description:"), m_description);
     if (isNew) {
-        m_place = new QComboBox(this);
-        m_place->setObjectName(QStringLiteral("presetPlace"));
+        m_place = new VKD_QT4_ComboBox(this, "presetPlace");
         m_place->addItem(tr("My presets"), int(PresetPlace::User));
         if (hasProject)
             m_place->addItem(tr("Presets of this project"), int(PresetPlace::Project));

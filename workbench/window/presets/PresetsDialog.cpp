@@ -31,10 +31,10 @@ PresetsDialog::PresetsDialog(const VKD_P_DesignParameter* page, const OpenProjec
     layout->addWidget(newList(), 0, 0);
     layout->addWidget(newDetails(), 0, 1);
     layout->addWidget(newButtons(), 0, 2);
-    layout->setColumnStretch(0, 2);
-    layout->setColumnStretch(1, 3);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
     fill();
-    resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 28});
+    resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 140, fontMetrics().height() * 28});
     new WindowGeometry(this);
 }
 

@@ -19,7 +19,7 @@ struct ActionText
 
 QAction* addPresetsAction(VKD_P_DesignParameter* page, const OpenProject* project)
 {
-    auto action = new QAction(ActionText::tr("&Presets..."), page);
+    auto action = new QAction(ActionText::tr("Pre&sets..."), page);
     action->setObjectName(QStringLiteral("presets"));
     action->setShortcut(Qt::CTRL | Qt::Key_R);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
