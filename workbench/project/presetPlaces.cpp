@@ -17,6 +17,7 @@ namespace workbench {
 
 namespace {
 const QString EntryKey = QStringLiteral("Presets");
+constexpr qint64 MostBytes = 10'000'000; // thousands of presets
 
 struct PlaceText
 {
@@ -28,6 +29,8 @@ PresetReading readFile(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {{}, file.errorString()};
+    if (file.size() > MostBytes)
+        return {{}, PlaceText::tr("It is too large.")};
     return readPresets(file.readAll(), vkd::desktopLanguage());
 }
 

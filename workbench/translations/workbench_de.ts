@@ -437,6 +437,10 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Die mitgelieferten Vorlagen fehlen.</translation>
     </message>
     <message>
+        <source>It is too large.</source>
+        <translation>Sie ist zu groß.</translation>
+    </message>
+    <message>
         <source>Supplied presets cannot be changed.</source>
         <translation>Mitgelieferte Vorlagen können nicht geändert werden.</translation>
     </message>

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QPointer>
 #include <QTableWidget>
 
 namespace workbench {

@@ -12,7 +12,8 @@ class QHelpEvent;
 namespace plib {
 
 /// Shows all values of a row in a tool tip of the table of the design page, whose child it is. The
-/// text is created only when it is shown.
+/// text is created only when it is shown. The titles of the groups are read once, because a page
+/// shows the state of the project that it has read.
 class RowToolTip : public QObject
 {
     Q_OBJECT
@@ -27,7 +28,7 @@ private:
     void show(const QHelpEvent& event);
 
     DesignParameter* m_page;
-    std::optional<GroupTitles> m_titles; ///< read when the first tool tip is shown
+    std::optional<GroupTitles> m_titles; ///< not set before the first tool tip
 };
 
 } // namespace plib

@@ -136,7 +136,9 @@ private:
 
     void add(const QTranslator& translator, const char* english)
     {
-        m_texts.insert(QLatin1String(english), translator.translate("DesignParameter", english));
+        const QString german = translator.translate("DesignParameter", english);
+        if (!german.isEmpty())
+            m_texts.insert(QLatin1String(english), german);
     }
 
     QHash<QString, QString> m_texts;
