@@ -518,7 +518,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
 <context>
     <name>workbench::PresetsDialog</name>
     <message>
-        <source>Pre&amp;sets...</source>
+        <source>Pr&amp;esets...</source>
         <translation>&amp;Vorlagen ...</translation>
     </message>
     <message>

@@ -20,7 +20,7 @@ struct ActionText
 
 QAction* addPresetsAction(VKD_P_DesignParameter* page, const OpenProject* project)
 {
-    auto action = new QAction(ActionText::tr("Pre&sets..."), page);
+    auto action = new QAction(ActionText::tr("Pr&esets..."), page);
     action->setObjectName(QStringLiteral("presets"));
     action->setShortcut(Qt::CTRL | Qt::Key_R);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
