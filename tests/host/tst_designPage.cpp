@@ -334,7 +334,7 @@ private Q_SLOTS:
         for (int group = 100001; group < 101000; group += 2)
             records.push_back(record(group, 2, 1)); // a single row with very many groups
         DesignDesk desk(*m_project, records);
-        const auto shown = [&desk](QWidget* widget, const QPoint& point) {
+        const auto shown = [](QWidget* widget, const QPoint& point) {
             QHelpEvent help(QEvent::ToolTip, point, widget->mapToGlobal(point));
             QApplication::sendEvent(widget, &help);
             return QToolTip::text();

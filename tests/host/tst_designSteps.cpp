@@ -35,6 +35,43 @@ QString stateOf(const DesignDesk& desk)
     return texts.join(QLatin1Char('\n')) +
            QStringLiteral(" at %1,%2").arg(current.row()).arg(current.column());
 }
+
+struct Step
+{
+    const char* name;
+    int row, column;
+    std::function<void()> run;
+};
+
+/// Returns steps of each kind, which must be performed in this order.
+std::vector<Step> stepsOn(DesignDesk& desk)
+{
+    const auto fill = [&desk](const char* edit) {
+        whenModal([edit](QWidget* dialog) {
+            find<QLineEdit>(*dialog, edit)->setText(QStringLiteral("0,3"));
+            qobject_cast<QDialog*>(dialog)->accept();
+        });
+        desk.keys({Qt::Key_F2});
+    };
+    return {
+        {"New row 4", 1, 1, [&desk] { desk.press("btnNew"); }},
+        {"Type of row 4", 3, 1,
+         [&desk] { desk.table()->item(3, 1)->setText(QStringLiteral("Circular")); }},
+        {"Direction and distance of row 1", 0, 2, [=] { fill("hio"); }},
+        {"Reinforcement of row 2", 1, 3, [=] { fill("asu"); }},
+        {"Crack control of row 4", 3, 4, [=] { fill("stressSIGO"); }},
+        {"Groups of row 4", 3, 0,
+         [&desk] {
+             confirmGroups(QStringLiteral("2-3"));
+             desk.press("buttonGroups");
+         }},
+        {"Moving up of row 4", 3, 0, [&desk] { desk.press("btnUp"); }},
+        {"Moving down of row 2", 1, 3, [&desk] { desk.press("btnDown"); }},
+        {"Groups of row 2", 1, 0, [&desk] { QTest::keyClick(desk.groupCombo(), Qt::Key_Home); }},
+        {"Deletion of row 4", 3, 2, [&desk] { desk.press("btnDelete"); }},
+        {"Deletion of 2 rows", 2, 3, [&desk] { desk.press("btnDelete"); }},
+    };
+}
 } // namespace
 
 /// Tests steps that can be undone, the clipboard, and selections of several rows.
@@ -56,40 +93,11 @@ private Q_SLOTS:
         DesignDesk desk(*m_project, records);
         QTableWidget* table = desk.table();
         const auto state = [&desk] { return stateOf(desk); };
-        const auto fill = [&desk](const char* edit) {
-            whenModal([edit](QWidget* dialog) {
-                find<QLineEdit>(*dialog, edit)->setText(QStringLiteral("0,3"));
-                qobject_cast<QDialog*>(dialog)->accept();
-            });
-            desk.keys({Qt::Key_F2});
-        };
-        const struct
-        {
-            const char* name;
-            int row, column;
-            std::function<void()> run;
-        } steps[] = {
-            {"New row 4", 1, 1, [&] { desk.press("btnNew"); }},
-            {"Type of row 4", 3, 1,
-             [&] { table->item(3, 1)->setText(QStringLiteral("Circular")); }},
-            {"Direction and distance of row 1", 0, 2, [&] { fill("hio"); }},
-            {"Reinforcement of row 2", 1, 3, [&] { fill("asu"); }},
-            {"Crack control of row 4", 3, 4, [&] { fill("stressSIGO"); }},
-            {"Groups of row 4", 3, 0,
-             [&] {
-                 confirmGroups(QStringLiteral("2-3"));
-                 desk.press("buttonGroups");
-             }},
-            {"Moving up of row 4", 3, 0, [&] { desk.press("btnUp"); }},
-            {"Moving down of row 2", 1, 3, [&] { desk.press("btnDown"); }},
-            {"Groups of row 2", 1, 0, [&] { QTest::keyClick(desk.groupCombo(), Qt::Key_Home); }},
-            {"Deletion of row 4", 3, 2, [&] { desk.press("btnDelete"); }},
-            {"Deletion of 2 rows", 2, 3, [&] { desk.press("btnDelete"); }},
-        };
+        const std::vector<Step> steps = stepsOn(desk);
         QStringList before, after;
-        for (const auto& step : steps) {
+        for (const Step& step : steps) {
             table->setCurrentCell(step.row, step.column);
-            if (&step == std::end(steps) - 1)
+            if (&step == &steps.back())
                 table->setRangeSelected({1, 1, 1, 2}, true);
             before << state();
             step.run();
