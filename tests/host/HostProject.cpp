@@ -25,14 +25,6 @@ HostProject::HostProject(const QString& name)
     require(vkd::dbo::storeModel(m_project.handle(), model).isOk(), "model not stored");
 }
 
-void HostProject::reopen()
-{
-    const QString path = doc()->path();
-    require(doc()->close().isOk(), "not all was stored");
-    m_project.doc = VKD_H_ZOBDoc::open(path);
-    require(bool(m_project.doc), "project cannot be opened again");
-}
-
 std::vector<tagZOB_QUAD_RIM> HostProject::records()
 {
     std::vector<tagZOB_QUAD_RIM> found;

@@ -15,8 +15,7 @@ public:
     explicit HostProject(const QString& model);
 
     VKD_H_ZOBDoc* doc() { return m_project.doc.get(); }
-    /// Closes the file and opens it again, so that later reads come from the file.
-    void reopen();
+    void reopen() { m_project.reopen(); }
 
     /// Returns the design records in the order in which they are stored.
     std::vector<tagZOB_QUAD_RIM> records();

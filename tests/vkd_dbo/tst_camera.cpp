@@ -1,10 +1,8 @@
+#include "TemporaryProject.h"
 #include "TestSupport.h"
 
 #include <vkd_dbo_camera.h>
 #include <vkd_dbo_model.h>
-#include <vkd_zob.h>
-
-#include <QTemporaryDir>
 
 #include <cmath>
 #include <cstring>
@@ -22,18 +20,11 @@ class TestCamera : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath(QStringLiteral("p")).toUtf8();
-        QCOMPARE(vkd_zob_create(m_path, &m_index).code, int(VKD_ZOB_OK));
-    }
-
-    void cleanup() { QCOMPARE(vkd_zob_close(m_index).code, int(VKD_ZOB_OK)); }
+    void init() { m_project = std::make_unique<testsupport::TemporaryProject>(); }
 
     void standard()
     {
-        for (int index : {0, m_index}) {
+        for (int index : {0, m_project->index()}) {
             QVERIFY(isSame(camera(ZobHandle(index)), Camera{{1, -2, 1}, 0, {0, 0, 0}, 1}));
             QCOMPARE(getAnimatorPerspektive(index, 1), QStringLiteral("1 -2 1 ROTA 0"));
         }
@@ -46,10 +37,9 @@ private Q_SLOTS:
                                   Camera{{-0.0, 1, 0}, -0.0, {0, -0.0, 0}, 1}}) {
             setCamera(project(), odd);
             QVERIFY(storeModel(project(), Model()).isOk()); // must not change the camera
-            vkd_zob_close(m_index);
-            QCOMPARE(vkd_zob_open(m_path, &m_index).code, int(VKD_ZOB_OK));
+            m_project->reopen();
             QVERIFY(isSame(camera(project()), odd));
-            setAnimatorPerspektive(0, getAnimatorPerspektive(m_index, 2));
+            setAnimatorPerspektive(0, getAnimatorPerspektive(m_project->index(), 2));
             QVERIFY(isSame(camera(ZobHandle::scratch()), odd));
             setCamera(ZobHandle::scratch(), Camera());
             QVERIFY(isSame(camera(project()), odd));
@@ -64,7 +54,7 @@ private Q_SLOTS:
              {"", "camera2 1 1 1 0 0 0 0 1", "camera1 1 1 1 0 0 0 0", "camera1 1 1 1 0 0 0 0 1 1",
               "camera1 1 1 x 0 0 0 0 1", "camera1 1 1 1 nan 0 0 0 1", "camera1 1 1 1 0 inf 0 0 1",
               "camera1 0 -0 0 0 0 0 0 1", "camera1 1 1 1 0 0 0 0 0", "camera1 1 1 1 0 0 0 0 -1"}) {
-            setAnimatorPerspektive(m_index, QLatin1String(text));
+            setAnimatorPerspektive(m_project->index(), QLatin1String(text));
             QVERIFY2(isSame(camera(project()), before), text);
         }
     }
@@ -73,7 +63,7 @@ private Q_SLOTS:
     {
         double values[8] = {1, 1, 1, 0, 0, 0, 0, std::nan("")};
         for (int length : {int(sizeof values), 8, 3}) {
-            vkd_zob_put(m_index, 410, 0, values, &length, 0);
+            vkd_zob_put(m_project->index(), 410, 0, values, &length, 0);
             QVERIFY(isSame(camera(project()), Camera()));
         }
     }
@@ -81,17 +71,15 @@ private Q_SLOTS:
     void scriptForm()
     {
         setCamera(project(), {{1.0 / 3, -1234567, 1e-7}, 12.3456789, {1, 2, 3}, 4});
-        QCOMPARE(getAnimatorPerspektive(m_index, 1),
+        QCOMPARE(getAnimatorPerspektive(m_project->index(), 1),
                  QStringLiteral("0.333333 -1.23457e+06 1e-07 ROTA 12.3457"));
-        QCOMPARE(getAnimatorPerspektive(m_index, 3), QString());
+        QCOMPARE(getAnimatorPerspektive(m_project->index(), 3), QString());
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QByteArray m_path;
-    ZobHandle project() const { return ZobHandle(m_index); }
+    ZobHandle project() const { return m_project->handle(); }
 
-    int m_index = -1;
+    std::unique_ptr<testsupport::TemporaryProject> m_project;
 };
 
 PLIB_TEST_MAIN(TestCamera)

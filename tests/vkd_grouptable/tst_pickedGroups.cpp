@@ -25,7 +25,7 @@ private Q_SLOTS:
             QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), {100, 200, 300})
                         .isOk());
             QVERIFY(VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->index(), put).isOk());
-            m_project->doc = VKD_H_ZOBDoc::open(m_project->doc->path());
+            m_project->reopen();
             Groups groups{1, 2};
             QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(m_project->index(), groups), 0);
             QCOMPARE(groups, got);

@@ -4,13 +4,6 @@
 #include <vkd_h_numberText.h>
 #include <vkd_lib_value.h>
 
-#include <QRandomGenerator>
-
-#include <cmath>
-#include <cstring>
-
-using State = VkdNumberState;
-
 namespace {
 constexpr int German = 0, English = 1;
 constexpr double NotSet = -99999.0;
@@ -135,28 +128,6 @@ private Q_SLOTS:
             vkd_lib_setvalue(VKD_SETTING_LANGUAGE, German);
             QCOMPARE(vkd_h_numberText(double(row.value), description),
                      text.replace(QLatin1Char('.'), QLatin1Char(',')));
-        }
-    }
-
-    /// Each formatted float is read back as the same value, to six significant digits.
-    void shownTextReads()
-    {
-        QRandomGenerator random(15);
-        constexpr int Codes[] = {5, 1001, 1021, 1023, 1024, 1026, 1092, -1};
-        for (int i = 0; i < 40000; ++i) {
-            const quint32 bits = random.generate();
-            float value = 0;
-            std::memcpy(&value, &bits, sizeof value);
-            StructLineEdit description = vkd_h_defaultStructLineEdit(Codes[i % 8]);
-            description.maximum = 1e30;
-            description.minimum = -1e30;
-            if (!(std::fabs(value) < 1e30F) || vkd_h_isNotSet(double(value), description))
-                continue;
-            const QString text = vkd_h_numberText(double(value), description);
-            const VkdNumberReading reading = vkd_h_readNumber(text, description);
-            const double error = std::fabs(reading.value - double(value));
-            const double allowed = 5.01e-6 * std::fabs(double(value)) + 1e-44;
-            QVERIFY2(reading.state == State::Accepted && error <= allowed, qPrintable(text));
         }
     }
 };

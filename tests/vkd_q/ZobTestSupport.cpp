@@ -37,6 +37,13 @@ cd_error_t put(int index, int key1, int key2, const QByteArray& record, int posi
     return vkd_zob_put(index, key1, key2, record.constData(), &length, position);
 }
 
+void beginLargeChange(int index)
+{
+    vkd_zob_lock_ex(index, 1, 1);
+    for (const QByteArray& record : moreThanCache())
+        put(index, 1, 1, record, 1);
+}
+
 Records readAll(int index, int key2, cd_error_t* end)
 {
     Records records;

@@ -23,6 +23,8 @@ public:
 };
 
 cd_error_t put(int index, int key1, int key2, const QByteArray& record, int position);
+/// Locks the project and appends more records than fit into the cache.
+void beginLargeChange(int index);
 /// Reads the sequence keyed by 1 and `key2`, and returns the status that ended it.
 Records readAll(int index, int key2 = 1, cd_error_t* end = nullptr);
 int openProject(const QString& path);

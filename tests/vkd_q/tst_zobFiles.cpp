@@ -245,9 +245,7 @@ private Q_SLOTS:
         if (event == "cp" || event == "write")
             testsupport::writeFile(path, m_sound);
         const int other = event == "write" ? openProject(path) : 0;
-        vkd_zob_lock_ex(other, 1, 1);
-        for (const QByteArray& record : moreThanCache())
-            QCOMPARE(put(other, 1, 1, record, 1), VKD_ZOB_OK);
+        beginLargeChange(other);
         int changes = -1;
         ZobLog log;
         QCOMPARE(vkd_zob_outside_changes(index, &changes), VKD_ZOB_MOVED);
@@ -296,9 +294,7 @@ private Q_SLOTS:
         readAll(index); // the connection now detects the change
         QCOMPARE(put(index, 1, 1, "mine", 1), VKD_ZOB_OK);
         QCOMPARE(ask(), VKD_ZOB_OK);
-        vkd_zob_lock_ex(other, 1, 1);
-        for (const QByteArray& record : moreThanCache())
-            put(other, 1, 1, record, 1);
+        beginLargeChange(other);
         const QByteArray halfWritten = testsupport::readFile(path);
         const QByteArray halfJournal = testsupport::readFile(journal);
         QCOMPARE(ask(), VKD_ZOB_OK);
@@ -333,9 +329,7 @@ private Q_SLOTS:
         const QString path = folder.filePath(QStringLiteral("p"));
         testsupport::writeFile(path, m_sound);
         const int index = openProject(path);
-        vkd_zob_lock_ex(index, 1, 1);
-        for (const QByteArray& record : moreThanCache())
-            put(index, 1, 1, record, 1);
+        beginLargeChange(index);
         const QByteArray halfWritten = testsupport::readFile(path);
         const QByteArray journal = testsupport::readFile(path + QLatin1String("-journal"));
         vkd_zob_close(index);

@@ -2,27 +2,8 @@
 
 #include <vkd_qt_xmlpart.h>
 
-#include <QRandomGenerator>
-
 namespace {
 const QStringList Tags{QStringLiteral("A"), QStringLiteral("List_4"), QStringLiteral("List_40")};
-
-/// Returns a random string of characters that could confuse the parser.
-QString anyText(QRandomGenerator& random)
-{
-    static const QStringList pieces{
-        QStringLiteral("<A>"),  QStringLiteral("</A>"), QStringLiteral("<List_4>x</List_4>"),
-        QStringLiteral("&lt;"), QStringLiteral("&#x"),  QStringLiteral("&amp;#xa;"),
-        QStringLiteral("<"),    QStringLiteral(">"),    QStringLiteral("&"),
-        QStringLiteral("%1"),   QStringLiteral("\r\n"), QStringLiteral(" \t\"':;"),
-        QString(QChar(0)),      QString(QChar(0xD83D)), QString(QChar(0xDE00)),
-        QString(QChar(0xFFFE)), QString(QChar(0x85))};
-    QString text = QStringLiteral("");
-    for (int length = random.bounded(12); length > 0; --length)
-        text += random.bounded(3) ? pieces[random.bounded(pieces.size())]
-                                  : QString(QChar(ushort(random.bounded(0x10000))));
-    return text;
-}
 
 QStringList allTexts(const QString& whole, const QString& tag)
 {
@@ -46,21 +27,20 @@ private Q_SLOTS:
                  QStringLiteral("<A>1:100 \"%\" &lt;ä&gt;&amp;&#xa;</A>"));
     }
 
+    /// Includes tags, escapes, control characters and halves of surrogate pairs.
     void everyTextIsReadBack()
     {
-        QRandomGenerator random(4);
-        for (int round = 0; round < 3000; ++round) {
-            QMap<QString, QStringList> texts;
-            QString whole;
-            for (int count = random.bounded(8); count > 0; --count) {
-                const QString tag = Tags[random.bounded(Tags.size())];
-                texts[tag] << anyText(random);
-                whole += vkd_qt_writeXMLpart(texts[tag].last(), tag);
-            }
-            QCOMPARE(QString::fromUtf8(whole.toUtf8()), whole);
+        QString all = QStringLiteral("<A></A><List_4>x</List_4>&lt;&#x&amp;#xa;<>&%1\r\n");
+        for (int code = 0; code < 0x10000; ++code)
+            all += QChar(code);
+        const QStringList texts{all, QStringLiteral(""), QStringLiteral("x")};
+        QString whole;
+        for (const QString& text : texts)
             for (const QString& tag : Tags)
-                QCOMPARE(allTexts(whole, tag), texts[tag]);
-        }
+                whole += vkd_qt_writeXMLpart(text, tag);
+        QCOMPARE(QString::fromUtf8(whole.toUtf8()), whole);
+        for (const QString& tag : Tags)
+            QCOMPARE(allTexts(whole, tag), texts);
     }
 
     void malformed()

@@ -6,7 +6,6 @@
 #include <QAbstractButton>
 #include <QDockWidget>
 #include <QPointer>
-#include <QPushButton>
 #include <QSet>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -63,8 +62,7 @@ class tst_windowActions : public ProjectTest
         whenModal([](QWidget* dialog) {
             auto table = find<QTableWidget>(*dialog, "table");
             table->setCurrentCell(table->rowCount() - 1, 0);
-            whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
-            find<QPushButton>(*table, "buttonGroups")->click();
+            pickInView(*dialog);
         });
         trigger(window, "Design");
     }
