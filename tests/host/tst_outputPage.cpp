@@ -52,15 +52,6 @@ private Q_SLOTS:
         QCOMPARE(desk.page.getTORVAL_SCHR(true), QStringLiteral("SCHH H6 0.35"));
         desk.find<QCheckBox>("Check: Filled Isolines")->click();
         QVERIFY(desk.page.getTORVAL(true).contains(QLatin1String("\n#define FILL=VERT\n")));
-        QString views;
-        for (int view : {0, 1, 2}) {
-            desk.choose("PerspectiveGroup", view);
-            views += desk.page.getTORVAL_BEOB(true) + QLatin1Char('|');
-        }
-        QCOMPARE(views, QStringLiteral("TYPE EGXY ; PERS INFI|TYPE EGXZ ; PERS INFI|"
-                                       "TYPE EGYZ ; PERS INFI|"));
-        QVERIFY(
-            desk.page.getTORVAL(true).contains(QLatin1String("\nVIEW TYPE EGYZ ; PERS INFI\n")));
     }
 
     void aNewPage()

@@ -2,7 +2,7 @@
 
 #include "widgetTexts.h"
 
-#include <QAbstractSpinBox>
+#include <QAbstractSlider>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
@@ -17,6 +17,7 @@
 #include <QMainWindow>
 #include <QMap>
 #include <QMenu>
+#include <QMetaProperty>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -129,18 +130,10 @@ int textRoom(const QWidget* field)
 QStringList choices(QWidget& window)
 {
     QStringList all;
-    for (QWidget* widget : visibleWidgets(window)) {
-        if (const auto combo = qobject_cast<const QComboBox*>(widget))
-            all << combo->currentText();
-        else if (const auto number = qobject_cast<const QAbstractSpinBox*>(widget))
-            all << number->text();
-        else if (const auto edit = qobject_cast<const QLineEdit*>(widget))
-            all << edit->text();
-        else if (const auto button = qobject_cast<const QAbstractButton*>(widget))
-            all << QString::number(button->isChecked());
-        else if (const auto tabs = qobject_cast<const QTabBar*>(widget))
-            all << QString::number(tabs->currentIndex());
-    }
+    for (const QWidget* widget : visibleWidgets(window))
+        if (!qobject_cast<const QAbstractSlider*>(widget)) // scroll bars may move
+            all << widget->metaObject()->userProperty().read(widget).toString() +
+                       widget->property("currentIndex").toString(); // of a tab bar
     return all;
 }
 

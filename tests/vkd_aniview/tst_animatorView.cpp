@@ -27,8 +27,9 @@ const QLatin1String Aimed("camera1 3 -1 0.5 20 2 1.5 0.25 4");
 Model plates()
 {
     Model model;
-    for (int i = 0; i < 6; ++i)
-        model.nodes.push_back({i + 1, {double(i % 3) * 4.0, double(i / 3) * 4.0, 0.0}});
+    for (double y : {0.0, 4.0})
+        for (double x : {0.0, 4.0, 8.0})
+            model.nodes.push_back({model.nodes.size() + 1, {x, y, 0.0}});
     model.quads.push_back({1, 7, {1, 2, 5, 4}, 0.2});
     model.quads.push_back({2, 8, {2, 3, 6, 5}, 0.2});
     return model;
@@ -352,8 +353,9 @@ private Q_SLOTS:
     {
         constexpr int Side = 200;
         Model model;
-        for (int i = 0; i < Side * Side; ++i)
-            model.nodes.push_back({i + 1, {double(i % Side), double(i / Side), 0.0}});
+        for (int y = 0; y < Side; ++y)
+            for (int x = 0; x < Side; ++x)
+                model.nodes.push_back({model.nodes.size() + 1, {double(x), double(y), 0.0}});
         for (int i = 1; i < Side * (Side - 1); ++i)
             if (i % Side)
                 model.quads.push_back({i, 7, {i, i + 1, i + Side + 1, i + Side}, 0.2});

@@ -238,8 +238,9 @@ private Q_SLOTS:
     {
         Model model;
         const auto node = [](int column, int row) { return 9 * row + column + 1; };
-        for (int i = 0; i < 81; ++i)
-            model.nodes.push_back({i + 1, {double(i % 9), double(i / 9), 0.0}});
+        for (int y = 0; y < 9; ++y)
+            for (int x = 0; x < 9; ++x)
+                model.nodes.push_back({model.nodes.size() + 1, {double(x), double(y), 0.0}});
         for (int i = 0; i < 64; ++i) {
             const int x = i % 8, y = i / 8;
             model.quads.push_back(
@@ -309,7 +310,7 @@ private Q_SLOTS:
             int strong = 0;
             for (const Face& face : buildGeometry(model).faces)
                 for (unsigned bit = 0; bit < 4; ++bit)
-                    strong += face.strongEdges >> bit & 1U;
+                    strong += int(face.strongEdges >> bit & 1U);
             return strong;
         };
         QCOMPARE(count(1, 0.5), 6); // one plate

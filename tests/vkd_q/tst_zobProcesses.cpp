@@ -135,10 +135,10 @@ private Q_SLOTS:
         QFETCH(const int, takes);
         makeProject(m_path, Records());
         int broken = 0;
-        for (int kill = 0; kill < 50 && broken == 0; ++kill) {
+        for (int records = 0; records < 350 && broken == 0; records += 7) { // up to several rounds
             QProcess child;
             QVERIFY(start(child, {1000000, 100, 300, takes}));
-            while (child.bytesAvailable() <= 7 * kill) // up to several rounds
+            while (child.bytesAvailable() <= records)
                 QVERIFY(child.waitForReadyRead(Patience));
             child.kill();
             QVERIFY(child.waitForFinished(Patience));

@@ -10,6 +10,7 @@ namespace {
 std::vector<StructRadioButtonGrup> entries(int count, int withWidget = -1)
 {
     std::vector<StructRadioButtonGrup> items;
+    items.reserve(size_t(count));
     for (int i = 0; i < count; ++i)
         items.push_back({-1, QStringLiteral("Entry %1").arg(i), {}, {}, int(i == withWidget)});
     return items;
