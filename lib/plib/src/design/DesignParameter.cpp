@@ -57,6 +57,7 @@ DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWi
 DesignParameter::~DesignParameter()
 {
     disconnect(qApp, nullptr, this, nullptr);
+    delete findChild<plib::TypeEditor*>(); // an open list commits its entry when it loses the focus
     // The dialogs of the page are on the stack of running functions. They are closed here and must
     // not be deleted as children of the page.
     const auto dialogs = findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
