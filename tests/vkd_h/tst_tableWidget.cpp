@@ -89,6 +89,7 @@ private Q_SLOTS:
         QSignalSpy counted(&table, &VKD_H_TableWidget::signal_rowCountChanged);
         for (int row : {8, 0, 4, 5, 2})
             table.setRangeSelected({row, 0, row, 1}, true);
+        QVERIFY(table.isRowSelected(4) && !table.isRowSelected(3));
         table.deleteSelectedRows();
         QCOMPARE(table.firstColumn(), QStringLiteral("t1367"));
         QCOMPARE(table.currentIndex(), table.model()->index(2, 1)); // moved up with its row

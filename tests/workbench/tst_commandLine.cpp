@@ -278,7 +278,7 @@ private Q_SLOTS:
         QCOMPARE(run("catalogue bad.data --strict").exitCode, 1);
     }
 
-    void failures_data()
+    void failures_data() // NOLINT(readability-function-size): a table
     {
         const Columns<QString> row("message"); // printed after the program name
         writeFile(path("noproject.zob"), "just a text that is long enough to be looked at");

@@ -298,12 +298,9 @@ private Q_SLOTS:
             QCOMPARE(other->geometry(), place);
     }
 
-    void pickingInTheView()
+    void pointingAtGroups()
     {
         const auto window = open("pick.zob");
-        auto records = find<QTableView>(*window, "Records")->model();
-        QCOMPARE(records->rowCount(), 53);
-        QCOMPARE(records->headerData(52, Qt::Vertical).toString(), QStringLiteral("sigui [N/mm²]"));
         // The group under the mouse in the view is highlighted in the list.
         auto groups = find<QTreeWidget>(*window, "GroupList");
         const auto marked = [groups] {
@@ -325,6 +322,14 @@ private Q_SLOTS:
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(groups->viewport(), &leave);
         QVERIFY(view->grab().toImage() == unlit);
+    }
+
+    void pickingInTheView()
+    {
+        const auto window = open("pick.zob");
+        auto records = find<QTableView>(*window, "Records")->model();
+        QCOMPARE(records->rowCount(), 53);
+        QCOMPARE(records->headerData(52, Qt::Vertical).toString(), QStringLiteral("sigui [N/mm²]"));
         bool isNewRowSeen = false;
         whenModal([&isNewRowSeen](QWidget* dialog) {
             find<QPushButton>(*dialog, "btnNew")->click();
