@@ -13,7 +13,7 @@ namespace plib {
 namespace {
 constexpr int FewestDigits = 6;
 constexpr int MostDigits = 17; // significant digits of a double
-constexpr QLatin1String TypeKey("type");
+const QLatin1String TypeKey("type");
 
 struct ParameterText
 {
