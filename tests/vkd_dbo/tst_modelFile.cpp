@@ -99,6 +99,24 @@ private Q_SLOTS:
         QCOMPARE(read.reason, path + QLatin1String(": No such file or directory"));
     }
 
+    /// Long lists are read in several pieces. Qt reports the position after the wrong character.
+    void longLists()
+    {
+        const QByteArray many = "\"supports\": [" + QByteArray("[1, \"z\"],").repeated(8192);
+        writeFile(many + "[2, \"x\"]]");
+        Model m;
+        const VkdStatus read = readModelFile(m_path, vkd::Language::English, &m);
+        QVERIFY2(read.isOk(), qPrintable(read.reason));
+        QVERIFY(m.supports.size() == 8193 && m.supports.last().node == 2);
+        const auto errorAfter = [&](const char* rest) {
+            return errorOf(QString::fromLatin1(many + rest));
+        };
+        QCOMPARE(errorAfter("[4, \"x\"]]"),
+                 QStringLiteral("supports[8192][0]: node 4 does not exist"));
+        QCOMPARE(errorAfter("]").section(QLatin1Char(':'), 0, 0),
+                 QStringLiteral("line 1, column %1").arg(many.size() + 3));
+    }
+
     /// The error at the end shows whether the whole file was parsed.
     void cancelledDuringParsing()
     {

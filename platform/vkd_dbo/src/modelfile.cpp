@@ -1,6 +1,7 @@
 #include "vkd_dbo_model.h"
 
 #include "JsonPlace.h"
+#include "ModelText.h"
 #include "NumberSet.h"
 #include "repeatedKey.h"
 
@@ -17,6 +18,8 @@
 #include <climits>
 #include <future>
 #include <numeric>
+#include <optional>
+#include <utility>
 
 namespace vkd {
 namespace dbo {
@@ -35,12 +38,14 @@ constexpr char Point[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "point");
 } // namespace ThingNames
 
 /// Reads one model file. Items that are referenced by number are read first, so that an unknown
-/// number is reported at the position where it is used.
+/// number is reported at the position where it is used. If `text` is not null, the lists of the
+/// root are read from it in pieces, and the errors have wrong positions.
 class ModelFileReader
 {
 public:
-    ModelFileReader(JsonPlace root, Language language, VkdSteps& steps)
+    ModelFileReader(JsonPlace root, const ModelText* text, Language language, VkdSteps& steps)
         : m_root(std::move(root))
+        , m_text(text)
         , m_language(language)
         , m_steps(steps)
     {
@@ -56,6 +61,8 @@ private:
 
     template <typename T, typename ReadOne>
     void each(const char* key, QVector<T>& things, ReadOne readOne);
+    template <typename T, typename ReadOne>
+    void readAll(const JsonList& places, QVector<T>& things, ReadOne& readOne);
     template <typename T>
     void titled(const char* key, QVector<T>& things, Numbers* numbers, int most = INT_MAX);
     void lineElements(const char* key, QVector<LineElement>& elements, Numbers* numbers);
@@ -74,6 +81,7 @@ private:
     static QVector<int> members(const JsonPlace& group, const char* key, const Numbers& numbers);
 
     JsonPlace m_root;
+    const ModelText* m_text;
     Language m_language;
     VkdSteps& m_steps;
     Model m_model;
@@ -133,7 +141,17 @@ void ModelFileReader::each(const char* key, QVector<T>& things, ReadOne readOne)
         return;
     const JsonPlace list = m_root.at(name);
     const JsonList places = list.list();
-    things.reserve(places.size());
+    things.reserve(m_text ? m_text->size(name) : places.size());
+    readAll(places, things, readOne);
+    for (int i = 0; m_text && i < m_text->pieceCount(name); ++i) {
+        const JsonPlace piece(m_text->piece(name, i));
+        readAll(piece.list(), things, readOne);
+    }
+}
+
+template <typename T, typename ReadOne>
+void ModelFileReader::readAll(const JsonList& places, QVector<T>& things, ReadOne& readOne)
+{
     for (int i = 0; i < places.size(); ++i) {
         if (!m_steps.next())
             throw ModelFileError{QString()};
@@ -407,23 +425,48 @@ QJsonDocument parsed(const QByteArray& bytes)
     return document;
 }
 
-/// Parses the file in a separate thread, because Qt's parser has no callback and a large file takes
-/// a second. Before and during parsing, the calling thread calls `goOn`.
-QJsonDocument parse(const QByteArray& bytes, const VkdGoOn& goOn)
+/// Does the work on a large file in a separate thread, because it takes a second and cannot be
+/// interrupted. Before and during the work, the calling thread calls `goOn`.
+template <typename Work>
+auto inOtherThread(const VkdGoOn& goOn, const Work& work)
 {
     if (!goOn)
-        return parsed(bytes);
+        return work();
     bool goesOn = goOn(0);
     if (!goesOn)
         throw ModelFileError{QString()};
-    auto parsing = std::async(std::launch::async, [&bytes] { return parsed(bytes); });
-    while (goesOn && parsing.wait_for(std::chrono::milliseconds(20)) != std::future_status::ready)
+    auto result = std::async(std::launch::async, work);
+    while (goesOn && result.wait_for(std::chrono::milliseconds(20)) != std::future_status::ready)
         goesOn = goOn(0);
     if (!goesOn) {
-        parsing.wait();
+        result.wait();
         throw ModelFileError{QString()};
     }
-    return parsing.get();
+    return result.get();
+}
+
+/// Reads the lists in pieces. Returns nothing if the file contains an error, whose position is then
+/// unknown.
+std::optional<Model> readInPieces(const QByteArray& bytes, Language language, const VkdGoOn& goOn)
+{
+    try {
+        const ModelText text = inOtherThread(goOn, [&bytes] { return ModelText(bytes); });
+        VkdSteps steps(goOn, text.size());
+        return ModelFileReader(JsonPlace(text.root()), &text, language, steps).read();
+    } catch (const ModelFileError& wrong) {
+        if (wrong.text.isEmpty())
+            throw;
+        return {};
+    }
+}
+
+Model readAsWhole(const QByteArray& bytes, Language language, const VkdGoOn& goOn)
+{
+    const QJsonDocument document = inOtherThread(goOn, [&bytes] { return parsed(bytes); });
+    const QJsonValue root =
+        document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);
+    VkdSteps steps(goOn, thingsIn(document.object()));
+    return ModelFileReader(JsonPlace(root), nullptr, language, steps).read();
 }
 
 VkdStatus failureOf(const QString& path, int code, const QString& cause)
@@ -437,14 +480,10 @@ VkdStatus readModelFile(const QString& path, Language language, Model* model, co
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return failureOf(path, VKD_ZOB_NO_FILE, file.errorString());
-    QByteArray bytes = file.readAll();
+    const QByteArray bytes = file.readAll();
     try {
-        const QJsonDocument document = parse(bytes, goOn);
-        bytes.clear(); // the bytes and the document together would take twice the memory
-        const QJsonValue root =
-            document.isObject() ? QJsonValue(document.object()) : QJsonValue(QJsonValue::Null);
-        VkdSteps steps(goOn, thingsIn(document.object()));
-        *model = ModelFileReader(JsonPlace(root), language, steps).read();
+        std::optional<Model> read = readInPieces(bytes, language, goOn);
+        *model = read ? std::move(*read) : readAsWhole(bytes, language, goOn);
     } catch (const ModelFileError& wrong) {
         if (wrong.text.isEmpty())
             return failureOf(path, VKD_ZOB_CANCELLED, ModelFileError::tr("it was cancelled"));
