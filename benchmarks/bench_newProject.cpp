@@ -1,5 +1,6 @@
 // Creating a project from a large model file: reading the file and storing its records.
 
+#include "memory.h"
 #include "RatioReporter.h"
 
 #include <vkd_dbo_model.h>
@@ -8,11 +9,14 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cmath>
 
 #include <sqlite3.h>
+#include <sys/resource.h>
 
 namespace {
 
@@ -83,6 +87,82 @@ void newProject(benchmark::State& state)
     const ModelFile& file = fileOf(state);
     for (auto _ : state)
         makeProject(file);
+}
+
+/// The memory that is in use at most while the file is read.
+void readModel(benchmark::State& state)
+{
+    const ModelFile& file = fileOf(state);
+    double most = 0;
+    for (auto _ : state) {
+        const double before = heapInUse();
+        const VkdGoOn measure = [&](int) {
+            most = std::max(most, heapInUse() - before);
+            return true;
+        };
+        vkd::dbo::Model model;
+        if (!vkd::dbo::readModelFile(file.path(), vkd::Language::English, &model, measure).isOk())
+            qFatal("the model is not readable");
+        measure(0);
+    }
+    state.counters["bytes"] = most;
+}
+
+void fileSize(benchmark::State& state)
+{
+    const ModelFile& file = fileOf(state);
+    for (auto _ : state)
+        state.counters["bytes"] = double(QFile(file.path()).size());
+}
+
+/// Writes a model file with this number of secondary groups, each with its own design record.
+void writeDesignModel(const QString& path, int records)
+{
+    QByteArray groups, design;
+    for (int i = 0; i < records; ++i) {
+        const QByteArray name = 'G' + QByteArray::number(i, 36).rightJustified(3, '0');
+        groups += R"({"title": "S", "name": ")" + name + R"("},)";
+        design += R"({"values": {"hio": 0.04}, "groups": [")" + name + R"("]},)";
+    }
+    groups.chop(1);
+    design.chop(1);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(R"({"title": "T", "kindOfSystem": 20, "nodes": [], "groups": [],
+                       "secondaryGroups": [)" +
+                   groups + R"(], "designParameters": [)" + design + "]}") < 0)
+        qFatal("cannot write a model file");
+}
+
+/// The processor time of all child processes.
+double childSeconds()
+{
+    rusage usage;
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto seconds = [](const timeval& time) {
+        return double(time.tv_sec) + 1e-6 * double(time.tv_usec);
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+/// Runs the command `new` on a model with design records.
+void newDesignRecords(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const QString model = folder.filePath(QStringLiteral("model.json"));
+    const QString project = folder.filePath(QStringLiteral("p.zob"));
+    writeDesignModel(model, int(state.range(0)));
+    for (auto _ : state) {
+        QFile::remove(project);
+        const double before = childSeconds();
+        QProcess command;
+        command.setStandardOutputFile(QProcess::nullDevice());
+        command.start(QStringLiteral(WORKBENCH),
+                      {QStringLiteral("new"), project, QStringLiteral("--model"), model});
+        if (!command.waitForFinished(-1) || command.exitCode() != EXIT_SUCCESS)
+            qFatal("the project was not created");
+        state.SetIterationTime(childSeconds() - before);
+    }
 }
 
 /// A database that is closed on destruction.
@@ -179,14 +259,21 @@ void parseAndWrite(benchmark::State& state)
 constexpr int Quads = 250000;
 BENCHMARK(newProject)->Arg(Quads)->Arg(1000000);
 BENCHMARK(parseAndWrite)->Arg(Quads);
+BENCHMARK(readModel)->Arg(Quads);
+BENCHMARK(fileSize)->Arg(Quads);
+BENCHMARK(newDesignRecords)->Arg(1000)->Arg(4000)->UseManualTime();
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    return runBenchmarks(argc, argv,
-                         {{"newProject/250000", "parseAndWrite/250000", 1.3,
-                           "parses the file with QJsonDocument and inserts the same records"},
-                          {"newProject/1000000", "newProject/250000", 1.4,
-                           "does the same, each item", Figure::TimePerItem}});
+    return runBenchmarks(
+        argc, argv,
+        {{"newProject/250000", "parseAndWrite/250000", 1.3,
+          "parses the file with QJsonDocument and inserts the same records"},
+         {"newProject/1000000", "newProject/250000", 1.4, "does the same, each item",
+          Figure::TimePerItem},
+         {"readModel/250000", "fileSize/250000", 4.0, "is the size of the file", Figure::Memory},
+         {"newDesignRecords/4000/manual_time", "newDesignRecords/1000/manual_time", 2.0,
+          "does the same, each item", Figure::TimePerItem}});
 }
