@@ -13,6 +13,17 @@ QColor frameColour(const QPalette& palette)
     colour.setAlphaF(FrameStrength);
     return colour;
 }
+
+/// Fills the four sides, because QPainter draws a translucent outline pixel by pixel, which takes
+/// ten times as long.
+void drawFrame(QPainter& painter, const QRect& frame, const QColor& colour)
+{
+    const QRect sides = frame.adjusted(0, 1, 0, -1);
+    painter.fillRect(frame.left(), frame.top(), frame.width(), 1, colour);
+    painter.fillRect(frame.left(), frame.bottom(), frame.width(), 1, colour);
+    painter.fillRect(sides.left(), sides.top(), 1, sides.height(), colour);
+    painter.fillRect(sides.right(), sides.top(), 1, sides.height(), colour);
+}
 } // namespace
 
 /// Paints the frame directly, because some styles stretch an image over the whole box. With nested
@@ -31,6 +42,6 @@ void VKD_QT_GroupBox::paintEvent(QPaintEvent*)
     option.subControls &= ~QStyle::SC_GroupBoxFrame;
     QStylePainter painter(this);
     painter.drawComplexControl(QStyle::CC_GroupBox, option);
-    painter.setPen(frameColour(palette()));
-    painter.drawRect(rect().adjusted(0, contents.top() - FrameMargin, -1, -1));
+    drawFrame(painter, rect().adjusted(0, contents.top() - FrameMargin, 0, 0),
+              frameColour(palette()));
 }
