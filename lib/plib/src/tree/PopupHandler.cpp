@@ -8,10 +8,9 @@
 #include <VKD_QT_Menu.h>
 
 namespace {
-VKD_QT_Action* addAction(VKD_QT_Menu* menu, const QIcon& icon, const QString& text,
-                         const char* name)
+VKD_QT_Action* addAction(VKD_QT_Menu* menu, const QString& text, const char* name)
 {
-    auto action = new VKD_QT_Action(icon, text, QKeySequence(), menu, name);
+    auto action = new VKD_QT_Action(QIcon(), text, QKeySequence(), menu, name);
     menu->addAction(action);
     return action;
 }
@@ -26,31 +25,43 @@ PopupHandler::~PopupHandler()
 /// the tree.
 void PopupHandler::build(GraphicalOutputTreeWidget* owner, bool hasCloseAll)
 {
-    const QIcon rowIcon = plib::rowIcon(vkd::desktopLanguage());
     tree = owner;
     menu = new VKD_QT_Menu(nullptr, nullptr);
     tree->addExpandAll(menu);
     tree->addCollapseAll(menu);
-    expandPlots = addAction(menu, plib::plotIcon(), GraphicalOutputTreeWidget::tr("Expand plots"),
-                            "actExpandPlots");
+    expandPlots = addAction(menu, GraphicalOutputTreeWidget::tr("Expand plots"), "actExpandPlots");
     menu->addSeparator();
-    expandLoads = addAction(menu, rowIcon, GraphicalOutputTreeWidget::tr("Expand loadcases"),
-                            "actExpandLoads");
+    expandLoads =
+        addAction(menu, GraphicalOutputTreeWidget::tr("Expand loadcases"), "actExpandLoads");
     menu->addSeparator();
-    closeLoads =
-        addAction(menu, rowIcon, GraphicalOutputTreeWidget::tr("Close loadcases"), "actCloseLoads");
+    closeLoads = addAction(menu, GraphicalOutputTreeWidget::tr("Close loadcases"), "actCloseLoads");
     if (hasCloseAll) {
         menu->addSeparator();
-        closeAll = addAction(menu, plib::closeIcon(),
-                             GraphicalOutputTreeWidget::tr("Close all entries"), "actCloseAll");
+        closeAll =
+            addAction(menu, GraphicalOutputTreeWidget::tr("Close all entries"), "actCloseAll");
     }
     connectTree();
+}
+
+void PopupHandler::setIcons(vkd::Language language)
+{
+    if (!expandPlots->icon().isNull())
+        return;
+    const QIcon rowIcon = plib::rowIcon(language);
+    expandPlots->setIcon(plib::plotIcon());
+    expandLoads->setIcon(rowIcon);
+    closeLoads->setIcon(rowIcon);
+    if (closeAll)
+        closeAll->setIcon(plib::closeIcon());
 }
 
 void PopupHandler::connectTree()
 {
     tree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(tree, &QWidget::customContextMenuRequested, this, &PopupHandler::ShowContextMenu);
+    // Creating the icons takes as long as creating the menu, which users rarely open.
+    const vkd::Language language = vkd::desktopLanguage();
+    connect(menu, &QMenu::aboutToShow, this, [this, language] { setIcons(language); });
     connect(expandPlots, &QAction::triggered, tree, &GraphicalOutputTreeWidget::expandPlots);
     connect(expandLoads, &QAction::triggered, tree, &QTreeView::expandAll);
     connect(closeLoads, &QAction::triggered, tree, &GraphicalOutputTreeWidget::closeLoads);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_language.h>
+
 #include <QObject>
 
 class GraphicalOutputTreeWidget;
@@ -29,6 +31,7 @@ public Q_SLOTS:
 
 private:
     void connectTree();
+    void setIcons(vkd::Language language);
 
     VKD_QT_Menu* menu = nullptr;
     VKD_QT_Action* expandPlots = nullptr;

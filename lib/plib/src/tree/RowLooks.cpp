@@ -6,7 +6,7 @@
 namespace plib {
 
 RowLooks::RowLooks(vkd::Language language)
-    : m_icon(rowIcon(language))
+    : m_language(language)
 {
 }
 
@@ -33,10 +33,12 @@ const RowLooks::Looks& RowLooks::find(const QString& text, int number)
 /// Sets the check state first, because it is read most often and an item searches its roles in
 /// order.
 std::unique_ptr<const QTreeWidgetItem> RowLooks::newLook(const QString& text, int number,
-                                                         Qt::CheckState state) const
+                                                         Qt::CheckState state)
 {
     using namespace vkd::plib::widgetgraphicaloutput;
     constexpr int RowLevel = 3;
+    if (m_icon.isNull())
+        m_icon = rowIcon(m_language);
     auto look = std::make_unique<QTreeWidgetItem>();
     look->setCheckState(0, state);
     look->setText(0, text);

@@ -21,7 +21,8 @@ namespace plib {
 class RowLooks
 {
 public:
-    /// Creates looks with the row icon for this language.
+    /// Creates looks with the row icon for this language. The icon is created only when it is
+    /// needed, because many trees have no rows.
     explicit RowLooks(vkd::Language language);
 
     /// Returns an item with the look of a row with this text, load case and check state.
@@ -43,9 +44,10 @@ private:
     };
 
     std::unique_ptr<const QTreeWidgetItem> newLook(const QString& text, int number,
-                                                   Qt::CheckState state) const;
+                                                   Qt::CheckState state);
     const Looks& find(const QString& text, int number);
 
+    const vkd::Language m_language;
     QIcon m_icon;
     std::vector<Looks> m_looks;
     size_t m_next = 0; // index after the most recently found look

@@ -1,6 +1,7 @@
 #include "tree/outputTreeIcons.h"
 
-#include <QPainter>
+#include <QImage>
+#include <QPixmap>
 
 namespace plib {
 
@@ -38,27 +39,21 @@ const char* const Close[] = {"16 16 4 1",        "  c None",         ". c #fffff
                              " x............x ", " x............x ", " x............x ",
                              " x............x ", " xxxxxxxxxxxxxx ", "                "};
 
-QPixmap blocks(const QImage& bitmap, int side)
-{
-    QPixmap picture(side, side);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.scale(qreal(side) / Grid, qreal(side) / Grid);
-    painter.drawImage(0, 0, bitmap);
-    return picture;
-}
-
 /// Returns an icon with the bitmap in the common sizes. Each pixel is enlarged to a square block.
 /// The colours are the same in selected items. The icon consists of pixmaps and does not use an
 /// icon engine of this library, because Qt's style caches the last painted icon and would call the
 /// engine after the library has been unloaded.
 QIcon bitmapIcon(const char* const xpm[])
 {
-    const QImage bitmap(xpm);
+    const QImage bitmap = QImage(xpm)
+                              .convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                              .copy(0, 0, Grid, Grid); // fills a missing row with transparency
     QIcon icon;
-    for (int side : {16, 20, 24, 28, 32, 40, 48, 64})
-        for (QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
-            icon.addPixmap(blocks(bitmap, side), mode);
+    for (int side : {16, 20, 24, 28, 32, 40, 48, 64}) {
+        const QPixmap blocks = QPixmap::fromImage(bitmap.scaled(side, side), Qt::NoOpaqueDetection);
+        icon.addPixmap(blocks, QIcon::Normal);
+        icon.addPixmap(blocks, QIcon::Selected);
+    }
     return icon;
 }
 } // namespace
