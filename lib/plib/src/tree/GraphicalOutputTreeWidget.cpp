@@ -11,9 +11,12 @@
 #include "tree/selectionText.h"
 #include "tree/TreeBuilder.h"
 
+#include <VKD_H_PluginParameter.h>
+#include <VKD_H_ZOBDoc.h>
 #include <vkd_language.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_SignalBlocker.h>
+#include <ZobSnapshot.h>
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -69,6 +72,22 @@ private:
     plib::RowLooks m_looks;
     Item* m_parentOfPlot = nullptr; // parent of the plot that is still incomplete
 };
+
+/// Returns the plots of the catalogue that the page offers. Without the snapshot, each query would
+/// lock the project file.
+std::vector<const plib::GraphicalOutputRecord*> offeredPlots(const VKD_H_PluginParameter* parameter,
+                                                             int progname,
+                                                             const std::list<QString>& additional)
+{
+    const ZobSnapshot snapshot(ZobHandle(parameter->modelDoc()->index()));
+    const plib::ZobModelQueries project(parameter);
+    const plib::RememberedAnswers model(project);
+    std::vector<const plib::GraphicalOutputRecord*> offered;
+    for (const plib::GraphicalOutputRecord& record : plib::sharedCatalogue().list)
+        if (plib::isRecordOffered(record, progname, model, additional))
+            offered.push_back(&record);
+    return offered;
+}
 
 QString dumpLine(Item* item, int indent)
 {
@@ -213,16 +232,13 @@ void GraphicalOutputTreeWidget::refill(bool defaults)
 
 void GraphicalOutputTreeWidget::fillTree()
 {
-    const plib::ZobModelQueries project(parameter);
-    const plib::RememberedAnswers model(project);
     Item root; // replaces the tree's invisible root, which is not an output item
     root.level = -1;
     ItemOperations operations(this, &root);
     plib::TreeBuilder<Item, ItemOperations> builder(&root, rows, operations);
     setAutomaticCheckStateUpdate(false);
-    for (const plib::GraphicalOutputRecord& record : plib::sharedCatalogue().list)
-        if (plib::isRecordOffered(record, progname, model, additional))
-            builder.add(record);
+    for (const plib::GraphicalOutputRecord* record : offeredPlots(parameter, progname, additional))
+        builder.add(*record);
     builder.finish();
     setAutomaticCheckStateUpdate(true);
     expandPlots();
