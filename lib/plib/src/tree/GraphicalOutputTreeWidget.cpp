@@ -31,9 +31,10 @@ constexpr int PlotLevel = 2;
 class ItemOperations
 {
 public:
-    ItemOperations(QTreeWidget* tree, Item* root)
-        : m_tree(tree)
-        , m_root(root)
+    /// Top-level items are added to `parentOfTops` in place of `root`.
+    ItemOperations(const Item* root, QTreeWidgetItem* parentOfTops)
+        : m_root(root)
+        , m_parentOfTops(parentOfTops)
         , m_plotIcon(plib::plotIcon())
         , m_looks(vkd::desktopLanguage())
     {
@@ -45,7 +46,7 @@ public:
         const bool isRow = parent->level == PlotLevel;
         Item* item = isRow ? new Item(m_looks.of(text, number, checked)) : new Item(text);
         if (parent == m_root)
-            m_tree->addTopLevelItem(item);
+            m_parentOfTops->addChild(item);
         else if (parent->level + 1 == PlotLevel)
             m_parentOfPlot = parent;
         else
@@ -66,8 +67,8 @@ public:
     void expand(Item*) {}  // done later by expandPlots()
 
 private:
-    QTreeWidget* m_tree;
-    Item* m_root;
+    const Item* m_root;
+    QTreeWidgetItem* m_parentOfTops;
     const QIcon m_plotIcon;
     plib::RowLooks m_looks;
     Item* m_parentOfPlot = nullptr; // parent of the plot that is still incomplete
@@ -234,12 +235,14 @@ void GraphicalOutputTreeWidget::fillTree()
 {
     Item root; // replaces the tree's invisible root, which is not an output item
     root.level = -1;
-    ItemOperations operations(this, &root);
+    // With rows, each plot is added to the tree while its rows are still in the processor's caches.
+    ItemOperations operations(&root, rows.empty() ? &root : invisibleRootItem());
     plib::TreeBuilder<Item, ItemOperations> builder(&root, rows, operations);
     setAutomaticCheckStateUpdate(false);
     for (const plib::GraphicalOutputRecord* record : offeredPlots(parameter, progname, additional))
         builder.add(*record);
     builder.finish();
+    addTopLevelItems(root.takeChildren());
     setAutomaticCheckStateUpdate(true);
     expandPlots();
 }
