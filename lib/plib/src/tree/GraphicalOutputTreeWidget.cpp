@@ -257,7 +257,7 @@ void GraphicalOutputTreeWidget::setChoice(const QString& text)
         if (item->checkState(0) == state)
             return;
         if (item->level > PlotLevel)
-            item->takeLook(looks.of(item->text(0), item->number, state == Qt::Checked));
+            item->takeLook(looks.like(*item, item->number, state == Qt::Checked));
         else
             item->setCheckState(0, state);
     });

@@ -12,11 +12,27 @@ RowLooks::RowLooks(vkd::Language language)
 
 const QTreeWidgetItem& RowLooks::of(const QString& text, int number, bool checked)
 {
-    const Looks& looks = find(text, number);
-    return checked ? *looks.checked : *looks.unchecked;
+    Looks& looks = find(text, number);
+    auto& look = checked ? looks.checked : looks.unchecked;
+    if (!look)
+        look = newLook(text, number, checked ? Qt::Checked : Qt::Unchecked);
+    return *look;
 }
 
-const RowLooks::Looks& RowLooks::find(const QString& text, int number)
+const QTreeWidgetItem& RowLooks::like(const QTreeWidgetItem& row, int number, bool checked)
+{
+    const QVariant text = row.data(0, Qt::DisplayRole);
+    Looks& looks = find(*static_cast<const QString*>(text.constData()), number);
+    auto& look = checked ? looks.checked : looks.unchecked;
+    if (!look) {
+        auto copy = std::make_unique<QTreeWidgetItem>(row);
+        copy->setCheckState(0, checked ? Qt::Checked : Qt::Unchecked);
+        look = std::move(copy);
+    }
+    return *look;
+}
+
+RowLooks::Looks& RowLooks::find(const QString& text, int number)
 {
     if (m_next < m_looks.size() && m_looks[m_next].belongTo(text, number))
         return m_looks[m_next++];
@@ -24,8 +40,7 @@ const RowLooks::Looks& RowLooks::find(const QString& text, int number)
     if (m_next == m_looks.size() || !m_looks[m_next].belongTo(text, number)) {
         m_next = m_looks.size();
         m_places.insert({text.constData(), number}, m_next);
-        m_looks.push_back({text, number, newLook(text, number, Qt::Unchecked),
-                           newLook(text, number, Qt::Checked)});
+        m_looks.push_back({text, number, nullptr, nullptr});
     }
     return m_looks[m_next++];
 }

@@ -27,6 +27,8 @@ public:
 
     /// Returns an item with the look of a row with this text, load case and check state.
     const QTreeWidgetItem& of(const QString& text, int number, bool checked);
+    /// Returns an item with the look of this row, but checked or unchecked.
+    const QTreeWidgetItem& like(const QTreeWidgetItem& row, int number, bool checked);
 
 private:
     /// The struct is small, so that the looks of all load cases fit into the processor's caches.
@@ -39,13 +41,14 @@ private:
 
         QString text; // keeps the string data alive
         int number;
+        // Created only when they are needed.
         std::unique_ptr<const QTreeWidgetItem> unchecked;
         std::unique_ptr<const QTreeWidgetItem> checked;
     };
 
     std::unique_ptr<const QTreeWidgetItem> newLook(const QString& text, int number,
                                                    Qt::CheckState state);
-    const Looks& find(const QString& text, int number);
+    Looks& find(const QString& text, int number);
 
     const vkd::Language m_language;
     QIcon m_icon;
