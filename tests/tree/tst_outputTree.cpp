@@ -1,6 +1,7 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
+#include <tree/checkStates.h>
 #include <tree/selectionText.h>
 
 using plib::OutputNode;

@@ -10,7 +10,8 @@ namespace plib {
 /// An item of an output tree that does not need widgets, for the command line and for tests. The
 /// class has only the members that the tree algorithms use, with the same names as in
 /// QTreeWidgetItem and in the item class of the tree widget. Parents own their children; the
-/// invisible root represents the tree.
+/// invisible root represents the tree. The fields that are read in every pass are first, so that a
+/// pass over many nodes reads one cache line of each.
 class OutputNode
 {
 public:
@@ -18,11 +19,18 @@ public:
     OutputNode(const OutputNode&) = delete;
     OutputNode& operator=(const OutputNode&) = delete;
 
-    GraphicalOutputRecord record;
     int isLC = -1;
     int number = 0;
     int level = 0;
     bool plain = false; ///< true for a plain item, which is not an output item
+
+private:
+    bool m_expanded = false;
+    Qt::CheckState m_state = Qt::Unchecked;
+    std::vector<std::unique_ptr<OutputNode>> m_children;
+
+public:
+    GraphicalOutputRecord record;
 
     OutputNode* addChild(const QString& text);
     void removeChild(OutputNode* child);
@@ -40,9 +48,6 @@ public:
 private:
     OutputNode* m_parent = nullptr;
     QString m_text;
-    Qt::CheckState m_state = Qt::Unchecked;
-    bool m_expanded = false;
-    std::vector<std::unique_ptr<OutputNode>> m_children;
 };
 
 /// Returns the node as an output item, or null for a plain item. There is a function with the same

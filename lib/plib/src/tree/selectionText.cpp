@@ -1,15 +1,20 @@
 #include "tree/selectionText.h"
 
+#include <algorithm>
+
 namespace plib {
 
 namespace {
 QVector<int> numbersOf(const QStringRef& text)
 {
-    const auto parts = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
     QVector<int> numbers;
-    numbers.reserve(parts.size());
-    for (const QStringRef& part : parts)
-        numbers.append(selectionNumber(part));
+    for (int begin = 0; begin < text.size();) {
+        const auto comma = std::find(text.begin() + begin, text.end(), QLatin1Char(','));
+        const int end = int(comma - text.begin());
+        if (end > begin)
+            numbers.append(selectionNumber(text.mid(begin, end - begin)));
+        begin = end + 1;
+    }
     return numbers;
 }
 } // namespace

@@ -1,16 +1,13 @@
 #pragma once
 
 #include "catalogue/GraphicalOutputRecord.h"
-#include "tree/checkStates.h"
+#include "tree/RowOrders.h"
 
 #include <QHash>
 #include <QStringList>
 #include <QVector>
 
-#include <algorithm>
-#include <limits>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 namespace plib {
@@ -150,11 +147,10 @@ private:
         Order orLater(Order other) const { return other.time > time ? other : *this; }
     };
 
-    /// The children of an item by number, and the requests for them by index.
-    struct Children
+    struct Child
     {
-        std::vector<std::pair<int, int>> places; // pairs of number and index, ascending
-        std::vector<Order> orders;
+        Node* node;
+        Order order;
     };
 
     void add(Node* item, const SelectionLine& line)
@@ -163,49 +159,74 @@ private:
         m_orders[item] = {++m_time, checks ? Qt::Checked : Qt::Unchecked};
         if (line.numbers.isEmpty())
             return;
-        Children& children = childrenOf(item);
-        for (int number : line.numbers) {
-            // If several children have this number, finds the last one.
-            auto found = std::upper_bound(children.places.begin(), children.places.end(),
-                                          std::make_pair(number, std::numeric_limits<int>::max()));
-            if (found != children.places.begin() && (--found)->first == number)
-                children.orders[size_t(found->second)] = {++m_time, Qt::Checked};
-        }
+        RowOrders& rows = m_rowOrders[item];
+        for (int number : line.numbers)
+            rows.add(number, ++m_time);
     }
 
-    Children& childrenOf(Node* item)
-    {
-        auto found = m_children.find(item);
-        if (found != m_children.end())
-            return found->second;
-        Children& children = m_children[item];
-        const int count = item->childCount();
-        children.orders.resize(size_t(count));
-        children.places.reserve(size_t(count));
-        for (int i = 0; i < count; ++i)
-            if (auto* child = outputItem(item->child(i)))
-                children.places.emplace_back(child->number, i);
-        if (!std::is_sorted(children.places.begin(), children.places.end()))
-            std::sort(children.places.begin(), children.places.end());
-        return children;
-    }
-
+    /// Sets the item and its descendants, and returns the state of the item.
     template <typename Any, typename SetLeaf>
-    void setStates(Any* node, Order order, const SetLeaf& setLeaf)
+    Qt::CheckState setStates(Any* node, Order order, const SetLeaf& setLeaf)
     {
         auto* item = outputItem(node);
         if (!item)
-            return;
-        const int count = item->childCount();
+            return node->checkState(0);
         if (item->level < RowLevel) // lines never refer to rows by identifier
             order = order.orLater(m_orders.value(item));
-        if (count == 0)
-            return setLeaf(item, order.state);
-        const auto own = m_children.find(item);
-        const Order* orders = own == m_children.end() ? nullptr : own->second.orders.data();
-        for (int i = 0; i < count; ++i)
-            setStates(item->child(i), orders ? order.orLater(orders[i]) : order, setLeaf);
-        item->setCheckState(0, stateOfChildren(item)); // while the children are still in the cache
+        if (item->childCount() == 0) {
+            setLeaf(item, order.state);
+            return order.state;
+        }
+        const std::vector<Child> children = childrenOf(item);
+        Qt::CheckState state = Qt::Unchecked;
+        for (const Child& child : children) {
+            const Qt::CheckState reached =
+                setStates(child.node, order.orLater(child.order), setLeaf);
+            const bool isFirst = &child == &children.front();
+            state = isFirst || reached == state ? reached : Qt::PartiallyChecked;
+        }
+        item->setCheckState(0, state);
+        return state;
+    }
+
+    /// Returns the children with the orders of the lines that list them by number. If several
+    /// children have the same number, the last one is listed. The numbers are read only now, so
+    /// that the children are still in the processor's caches when they are set.
+    std::vector<Child> childrenOf(Node* item)
+    {
+        std::vector<Child> children(size_t(item->childCount()));
+        for (size_t i = 0; i < children.size(); ++i) {
+            children[i].node = item->child(int(i));
+            prefetch(children[i].node);
+        }
+        const auto found = m_rowOrders.find(item);
+        if (found != m_rowOrders.end())
+            placeOrders(found->second, children);
+        return children;
+    }
+
+    /// Loads the node into the processor's caches in advance. Waiting for each node in turn would
+    /// take most of the time.
+    static void prefetch(const Node* node)
+    {
+        constexpr int CacheLine = 64;
+        __builtin_prefetch(node);
+        __builtin_prefetch(reinterpret_cast<const char*>(node) + CacheLine);
+    }
+
+    static void placeOrders(RowOrders& rows, std::vector<Child>& children)
+    {
+        rows.sort();
+        for (size_t i = 0; i < children.size(); ++i) {
+            auto* child = outputItem(children[i].node);
+            RowOrders::Row* row = child ? rows.find(child->number) : nullptr;
+            if (!row)
+                continue;
+            if (row->index >= 0)
+                children[size_t(row->index)].order = Order();
+            row->index = int(i);
+            children[i].order = {row->time, Qt::Checked};
+        }
     }
 
     static constexpr int RowLevel = 3;
@@ -213,7 +234,7 @@ private:
     Node* m_root;
     ItemIndex<Node> m_index;
     QHash<Node*, Order> m_orders;
-    std::unordered_map<Node*, Children> m_children; // items whose rows are listed in a line
+    std::unordered_map<Node*, RowOrders> m_rowOrders; // of items whose rows are listed in a line
     int m_time = 0;
 };
 

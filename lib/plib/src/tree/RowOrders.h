@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace plib {
+
+/// The rows of a plot that the lines of a selection text list by number. Used by SelectionApplier.
+/// Numbers are expected in ascending order, both in the lines and in the plot. Any other order
+/// takes longer, but has the same result.
+class RowOrders
+{
+public:
+    struct Row
+    {
+        int number;
+        int time;       ///< of the last line that lists the row
+        int index = -1; ///< of the row in the plot; -1 until the user of the class sets it
+    };
+
+    /// Adds the row. The times must ascend.
+    void add(int number, int time) { m_rows.push_back({number, time}); }
+    /// Must be called after the last row has been added, before find().
+    void sort();
+
+    /// Returns the row, or null if no line lists it.
+    Row* find(int number)
+    {
+        const bool isBelowNext = m_next == m_rows.size() || number < m_rows[m_next].number;
+        const bool isAbovePrevious = m_next == 0 || number > m_rows[m_next - 1].number;
+        if (isBelowNext && isAbovePrevious)
+            return nullptr;
+        if (isBelowNext || number != m_rows[m_next].number)
+            m_next = search(number);
+        const bool isFound = m_next < m_rows.size() && m_rows[m_next].number == number;
+        return isFound ? &m_rows[m_next++] : nullptr;
+    }
+
+private:
+    size_t search(int number) const;
+
+    std::vector<Row> m_rows;
+    size_t m_next = 0; // index after the most recently found row
+};
+
+} // namespace plib
