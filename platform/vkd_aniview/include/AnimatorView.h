@@ -110,6 +110,8 @@ private:
     void drawScene(QPainter& painter);
     void drawQuickly(QPainter& painter);
     void drawAtRest(QPainter& painter);
+    /// Paints a part of the full image. Returns true if the image is complete.
+    bool paintSomeAtRest();
     /// Continues to paint the full image of a large model.
     void paintStep();
     /// Discards the full image and repaints.

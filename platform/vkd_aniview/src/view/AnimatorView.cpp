@@ -333,28 +333,33 @@ void AnimatorView::drawQuickly(QPainter& painter)
     m_pace->painted(drawn.picture.order().size(), 1e-9 * double(clock.nsecsElapsed()));
 }
 
-/// Draws the full image. For a large model, the image is painted in steps and shown when it is
-/// complete.
+/// Draws the full image, which is cached until the scene changes. For a large model, the image is
+/// painted in steps and shown when it is complete.
 void AnimatorView::drawAtRest(QPainter& painter)
 {
-    if (m_restPicture->isComplete()) {
+    bool isComplete = m_restPicture->isComplete(devicePixelRatioF());
+    const bool isLarge =
+        m_scene->geometry().coarser && m_scene->picture().order().size() > ItemsAtOnce;
+    while (!isComplete && !isLarge)
+        isComplete = paintSomeAtRest();
+    if (isComplete) {
         painter.drawImage(QPointF(), m_restPicture->image());
-    } else if (m_scene->geometry().coarser && m_scene->picture().order().size() > ItemsAtOnce) {
-        drawQuickly(painter);
-        m_step.start();
-    } else {
-        painter.setRenderHint(QPainter::Antialiasing);
-        m_painter->paint(painter, palette(), m_scene->geometry(), m_scene->picture(),
-                         m_scene->projection(), *m_marks);
+        return;
     }
+    drawQuickly(painter);
+    m_step.start();
+}
+
+bool AnimatorView::paintSomeAtRest()
+{
+    return m_restPicture->paintSome(*m_painter, size(), devicePixelRatioF(), palette(),
+                                    m_scene->geometry(), m_scene->picture(), m_scene->projection(),
+                                    *m_marks);
 }
 
 void AnimatorView::paintStep()
 {
-    const bool isComplete = m_restPicture->paintSome(
-        *m_painter, size(), devicePixelRatioF(), palette(), m_scene->geometry(), m_scene->picture(),
-        m_scene->projection(), *m_marks);
-    if (isComplete)
+    if (paintSomeAtRest())
         update();
     else
         m_step.start();

@@ -18,7 +18,7 @@ bool RestPicture::paintSome(ScenePainter& painter, const QSize& size, qreal pixe
                             const Picture& picture, const Projection& projection,
                             const GroupMarks& marks)
 {
-    if (m_image.isNull()) {
+    if (!isFor(pixelRatio)) {
         m_image = QImage(size * pixelRatio, QImage::Format_ARGB32_Premultiplied);
         m_image.setDevicePixelRatio(pixelRatio);
         m_image.fill(palette.color(QPalette::Active, QPalette::Base));

@@ -7,8 +7,8 @@
 namespace vkd {
 namespace aniview {
 
-/// The full image of a large model, which is painted in steps so that the window remains
-/// responsive.
+/// The full image of a model. It is painted in steps, so that the window remains responsive, and
+/// cached, so that the model is not painted again each time a part of the view is exposed.
 class RestPicture
 {
 public:
@@ -19,10 +19,16 @@ public:
     bool paintSome(ScenePainter& painter, const QSize& size, qreal pixelRatio,
                    const QPalette& palette, const ModelGeometry& geometry, const Picture& picture,
                    const Projection& projection, const GroupMarks& marks);
-    bool isComplete() const { return !m_image.isNull() && m_isComplete; }
+    /// Returns true if the image is complete and was painted for this pixel ratio.
+    bool isComplete(qreal pixelRatio) const { return m_isComplete && isFor(pixelRatio); }
     const QImage& image() const { return m_image; }
 
 private:
+    bool isFor(qreal pixelRatio) const
+    {
+        return !m_image.isNull() && m_image.devicePixelRatio() == pixelRatio;
+    }
+
     QImage m_image;
     size_t m_painted = 0; // items
     bool m_isComplete = false;
