@@ -1,5 +1,6 @@
 #include "SnapshotAlbum.h"
 
+#include <AnimatorView.h>
 #include <vkd_language.h>
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include <algorithm>
 #include <exception>
 #include <stdexcept>
 
@@ -23,6 +25,26 @@ void settle()
 {
     for (int round = 0; round < 4; ++round)
         QApplication::processEvents();
+}
+
+bool areViewsComplete(const QWidget* widget)
+{
+    const auto views = widget->findChildren<AnimatorView*>();
+    return std::all_of(views.begin(), views.end(),
+                       [](const AnimatorView* view) { return view->isPictureComplete(); });
+}
+
+/// Returns a picture of the widget. A view of a large model starts to paint its full image only
+/// when it is painted, and completes the image later.
+QPixmap completePicture(QWidget* widget)
+{
+    for (;;) {
+        const QPixmap picture = widget->grab();
+        if (areViewsComplete(widget))
+            return picture;
+        while (!areViewsComplete(widget))
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
 }
 
 /// Resizes a dialog to the size that its contents need. Qt limits dialogs to the screen size and
@@ -57,7 +79,7 @@ SnapshotAlbum::SnapshotAlbum(const QString& folder)
 void SnapshotAlbum::add(const QString& name, QWidget* widget)
 {
     settle();
-    QPixmap picture = widget->grab();
+    QPixmap picture = completePicture(widget);
     if (QWidget* list = QApplication::activePopupWidget()) {
         QPainter painter(&picture);
         painter.drawPixmap(widget->mapFromGlobal(list->mapToGlobal(QPoint())), list->grab());
