@@ -1,5 +1,6 @@
 #include "Monkey.h"
 #include "ProjectTest.h"
+#include "window/design/DesignPage.h"
 #include "window/main/FileCommands.h"
 #include "window/output/OutputDialog.h"
 #include "window/textoutput/TextOutputDialog.h"
@@ -194,7 +195,14 @@ private:
     {
         const auto plots = window.findChild<OutputDialog*>();
         const auto text = window.findChild<TextOutputDialog*>();
-        return (plots && plots->isChanged()) || (text && text->isChanged());
+        return (plots && plots->isChanged()) || (text && text->isChanged()) || hasNewRows(window);
+    }
+
+    /// Returns whether the design dock contains rows that are not stored.
+    static bool hasNewRows(const MainWindow& window)
+    {
+        const auto page = window.findChild<DesignPage*>();
+        return page && page->isModified();
     }
 
     void workOn(MainWindow& window, Monkey& monkey)
@@ -204,7 +212,7 @@ private:
         disturb(project, monkey);
         const QByteArray stored = contentOf(project);
         const bool isModified = isChanged(window);
-        const bool isPicking = find<QWidget>(window, "PickBanner")->isVisible();
+        const bool hadNewRows = hasNewRows(window);
         const QWidgetList all = windows();
         QWidget* place = monkey.below(3) ? &window : all[monkey.below(all.size())];
         QApplication::setActiveWindow(place);
@@ -222,9 +230,12 @@ private:
                 m_faults += "\nnothing comes of " + text;
         }
         const bool isStored = contentOf(project) != stored;
-        if (isStored && !m_watch.wasStored && !isPicking)
+        const bool isApplied = hadNewRows && !hasNewRows(window);
+        if (isStored && !m_watch.wasStored && !isApplied)
             m_faults += "\nstored without OK";
         const bool isLeft = !window.isVisible() || projectOf(window) != project;
+        if (!isLeft && hadNewRows && !window.findChild<DesignPage*>() && !m_watch.wasAsked)
+            m_faults += "\nrows closed without a question";
         if (isLeft && !m_watch.wasSavedAs)
             m_faults += faultOfLeaving(isModified, isStored);
         if (QApplication::overrideCursor())

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
+#include <QTableWidget>
 #include <QTreeWidget>
 
 #include <csignal>
@@ -83,10 +84,32 @@ void changeChoice(const QWidget& window)
     QTRY_VERIFY(window.isWindowModified());
 }
 
-void pickInView(const QWidget& designDialog)
+QWidget* openDesign(const QWidget& window)
 {
-    whenModal([](QWidget* list) { find<QPushButton>(*list, "pick")->click(); });
-    find<QPushButton>(designDialog, "buttonGroups")->click();
+    trigger(window, "Design");
+    return find<QWidget>(window, "DesignDock");
+}
+
+QStringList designCells(const QWidget& window)
+{
+    auto table = find<QTableWidget>(*find<QWidget>(window, "DesignDock"), "table");
+    table->setCurrentCell(0, 1); // an editor hides the text of its cell
+    QStringList texts;
+    for (int row = 0; row < table->rowCount(); ++row)
+        for (int column = 0; column < table->columnCount(); ++column)
+            texts << (table->item(row, column) ? table->item(row, column)->text() : QString());
+    return texts;
+}
+
+void deleteDesignRow(const QWidget& dock)
+{
+    find<QTableWidget>(dock, "table")->selectRow(2);
+    find<QPushButton>(dock, "btnDelete")->click();
+}
+
+void applyDesign(const QWidget& window)
+{
+    find<QPushButton>(window, "DesignApply")->click();
 }
 
 void pickGroup(const QWidget& window, int row)

@@ -34,8 +34,14 @@ QString savedScript(const QWidget& window, const QString& keywords);
 QDialog* openOutput(const QWidget& window);
 /// Opens the output dialog and unchecks a plot.
 void changeChoice(const QWidget& window);
-/// Starts picking groups in the view for the current row of the design dialog.
-void pickInView(const QWidget& designDialog);
+/// Opens the design dock and returns it.
+QWidget* openDesign(const QWidget& window);
+/// Returns the texts of the cells of the design page.
+QStringList designCells(const QWidget& window);
+/// Deletes a row on the design page.
+void deleteDesignRow(const QWidget& dock);
+/// Presses Apply in the design dock.
+void applyDesign(const QWidget& window);
 /// Picks a group with Return in the list of groups.
 void pickGroup(const QWidget& window, int row);
 

@@ -58,13 +58,9 @@ Open VisitedProject::mainWindow(const WindowAct& act)
 Open VisitedProject::design(const DesignAct& act)
 {
     return mainWindow([act](MainWindow& window, const Visit& visit) {
-        whenModal([&](QWidget* dialog) {
-            find<QPushButton>(*dialog, "btnNew")->click();
-            auto table = find<QTableWidget>(*dialog, "table");
-            act(*dialog, *table, visit);
-            dialog->close();
-        });
         trigger(window, "Design");
+        find<QPushButton>(window, "btnNew")->click();
+        act(window, *find<QTableWidget>(*find<QWidget>(window, "DesignDock"), "table"), visit);
     });
 }
 

@@ -36,12 +36,12 @@ class VisitedProject
 {
 public:
     using WindowAct = std::function<void(workbench::MainWindow& window, const Visit&)>;
-    using DesignAct = std::function<void(QWidget& dialog, QTableWidget& table, const Visit&)>;
+    using DesignAct = std::function<void(QWidget& window, QTableWidget& table, const Visit&)>;
 
     VKD_H_ZOBDoc* doc() { return m_project.doc(); }
     /// Opens the main window with the project and its script.
     Open mainWindow(const WindowAct& act);
-    /// Opens the design dialog with a row for the remaining groups and a new row without groups.
+    /// Opens the design dock with a row for the remaining groups and a new row without groups.
     Open design(const DesignAct& act);
     /// Returns the texts that come from the project and do not depend on the language.
     QSet<QString> texts();

@@ -138,12 +138,13 @@ private:
             visitModal(visit, [&window] { workbench::askAboutNewer(&window); });
         });
         addMain("picking", [](MainWindow& window, const Visit& visit) {
-            constexpr int PickOutside = 6;
-            whenModal([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->done(PickOutside); });
             trigger(window, "Design");
-            visit(window);
-            whenModal([](QWidget* dialog) { dialog->close(); });
-            find<QPushButton>(window, "PickCancel")->click();
+            find<QPushButton>(window, "PickGroups")->click();
+            for (int row : {0, 1}) {
+                find<QTableWidget>(*find<QWidget>(window, "DesignDock"), "table")
+                    ->setCurrentCell(row, Groups);
+                visit(window);
+            }
         });
     }
 
@@ -164,24 +165,20 @@ private:
             find<QComboBox>(*dialog, "CombinationKind")->setCurrentIndex(3);
             visit(*dialog);
         });
-        for (const char* action : {"Design", "About"})
-            addMain(action, [action](MainWindow& window, const Visit& visit) {
-                visitModal(visit, [&] { trigger(window, action); });
+        addDesign("presets and their form", [](QWidget& window, QTableWidget& table,
+                                               const Visit& visit) {
+            table.setCurrentCell(0, Cracks);
+            const auto open = find<QAction>(window, "presets");
+            visitModal(visit, [open] { open->trigger(); });
+            whenModal([&visit](QWidget* presets) {
+                const auto form = find<QPushButton>(*presets, "presetFromRow");
+                visitModal(visit, [form] { form->click(); });
+                presets->close();
             });
-        addMain("presets and their form", [](MainWindow& window, const Visit& visit) {
-            whenModal([&visit](QWidget* design) {
-                find<QTableWidget>(*design, "table")->setCurrentCell(0, Cracks);
-                const auto open = find<QAction>(*design, "presets");
-                visitModal(visit, [open] { open->trigger(); });
-                whenModal([&visit](QWidget* presets) {
-                    const auto form = find<QPushButton>(*presets, "presetFromRow");
-                    visitModal(visit, [form] { form->click(); });
-                    presets->close();
-                });
-                open->trigger();
-                design->close();
-            });
-            trigger(window, "Design");
+            open->trigger();
+        });
+        addMain("about", [](MainWindow& window, const Visit& visit) {
+            visitModal(visit, [&] { trigger(window, "About"); });
         });
         addMain("help", [](MainWindow& window, const Visit& visit) {
             trigger(window, "DesignHelp");
@@ -278,6 +275,9 @@ private:
         addMain("text output not stored", [](MainWindow& window, const Visit& visit) {
             trigger(window, "TextOutput");
             find<QCheckBox>(*find<QDialog>(window, "TextOutputDialog"), "ForceList")->toggle();
+            visitModal(visit, [&window] { window.close(); });
+        });
+        addDesign("rows not stored", [](QWidget& window, QTableWidget&, const Visit& visit) {
             visitModal(visit, [&window] { window.close(); });
         });
         addMain("slow work", [](MainWindow& window, const Visit& visit) {

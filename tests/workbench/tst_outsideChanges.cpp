@@ -71,11 +71,7 @@ void setRow(const QString& project)
 
 Part designPart()
 {
-    return {[](QWidget& dialog) {
-                find<QTableWidget>(dialog, "table")->selectRow(2);
-                find<QPushButton>(dialog, "btnDelete")->click();
-            },
-            setRow,
+    return {[](QWidget& dock) { deleteDesignRow(dock); }, setRow,
             [](const QWidget& dialog) {
                 const auto table = find<QTableWidget>(dialog, "table");
                 bool isTheirs = false;
@@ -182,14 +178,15 @@ private Q_SLOTS:
             const auto name = [part](const char* answer) {
                 return QByteArray(part) + ", " + answer;
             };
-            row(name("overwrite"), part, "&Overwrite", true, false);
+            const bool isDock = qstrcmp(part, "Design") == 0; // Apply does not close it
+            row(name("overwrite"), part, "&Overwrite", true, isDock);
             row(name("reload"), part, "&Reload", false, true);
             row(name("go back"), part, "&Go Back", true, true);
         }
     }
 
-    /// OK asks the user. The project contains the user's state only after Overwrite. The dialog
-    /// shows the user's state again after Go Back, and the newer state after Reload.
+    /// OK or Apply asks the user. The project contains the user's state only after Overwrite. The
+    /// dialog shows the user's state again after Go Back, and the newer state after Reload.
     void newerDataAreAskedAbout()
     {
         QFETCH(const QByteArray, part);
@@ -211,25 +208,17 @@ private Q_SLOTS:
             it.changeOutside(path("asked.zob"));
             whenModal([&](QWidget* box) {
                 isAsked = true;
-                if (isDesign && isOpen)
-                    whenModal([&](QWidget* again) {
-                        look(again);
-                        qobject_cast<QDialog*>(again)->reject();
-                    });
                 pressButton(box, answer);
             });
-            qobject_cast<QDialog*>(dialog)->accept();
+            isDesign ? applyDesign(*window) : qobject_cast<QDialog*>(dialog)->accept();
         };
-        if (isDesign)
-            whenModal(accept);
         trigger(*window, part);
-        if (!isDesign) {
-            const QString name = QString::fromLatin1(part + "Dialog");
-            accept(find<QDialog>(*window, part + "Dialog"));
-            QTRY_VERIFY(window->findChildren<QDialog*>(name).size() < 2);
-            look(window->findChild<QDialog*>(name));
-            QCOMPARE(window->isWindowModified(), isOpen && isMine);
-        }
+        const QString name = QString::fromLatin1(part + (isDesign ? "Dock" : "Dialog"));
+        accept(window->findChild<QWidget*>(name));
+        QTRY_VERIFY(window->findChildren<QDialog*>(name).size() < 2);
+        look(window->findChild<QWidget*>(name));
+        QCOMPARE(window->isWindowModified(),
+                 isOpen && isMine && answer != QLatin1String("&Overwrite"));
         QVERIFY(isAsked);
         QCOMPARE(wasOpen, isOpen);
         QCOMPARE(wasMine, isMine);
@@ -274,7 +263,7 @@ private Q_SLOTS:
         row("replaced, in its place", "cp", "mine.zob", replaced);
     }
 
-    /// Save As includes the input of open dialogs. OK in the design dialog also offers Save As.
+    /// Save As includes the input of open dialogs. Apply in the design dock also offers Save As.
     void saveAsWithOpenDialogs()
     {
         QFETCH(const QByteArray, event);
@@ -290,21 +279,18 @@ private Q_SLOTS:
                 whenModal([](QWidget* box) { press(box, QMessageBox::Yes); });
             enterFile(dialog, path(place));
         };
-        whenModal([&](QWidget* dialog) {
-            designPart().change(*dialog);
-            QVERIFY(QFile::rename(path("mine.zob"), path("moved.zob")));
-            if (event != "mv")
-                QFile::remove(path("moved.zob"));
-            if (event == "cp")
-                makeProject(path("mine.zob"), QStringLiteral("slab"));
-            whenModal([&](QWidget* box) {
-                messages << qobject_cast<QMessageBox*>(box)->text();
-                whenModal(saveIn);
-                pressButton(box, QStringLiteral("&Save Project As..."));
-            });
-            qobject_cast<QDialog*>(dialog)->accept();
+        deleteDesignRow(*openDesign(*window));
+        QVERIFY(QFile::rename(path("mine.zob"), path("moved.zob")));
+        if (event != "mv")
+            QFile::remove(path("moved.zob"));
+        if (event == "cp")
+            makeProject(path("mine.zob"), QStringLiteral("slab"));
+        whenModal([&](QWidget* box) {
+            messages << qobject_cast<QMessageBox*>(box)->text();
+            whenModal(saveIn);
+            pressButton(box, QStringLiteral("&Save Project As..."));
         });
-        trigger(*window, "Design");
+        applyDesign(*window);
         QCOMPARE(messages.join(QLatin1Char('|')),
                  QStringLiteral("The design parameters cannot be stored in the file %1.\n%2")
                      .arg(path("mine.zob"), reason));
@@ -326,12 +312,27 @@ private Q_SLOTS:
         theirs.show();
         QVERIFY(theirs.openProject(path("both.zob")));
         QTRY_VERIFY(!script(theirs).isEmpty());
+        openDesign(theirs);
+        deleteDesignRow(*openDesign(*mine));
+        applyDesign(*mine);
+        QTRY_COMPARE(records(theirs), records(*mine));
+        QCOMPARE(designCells(theirs), designCells(*mine));
         changeChoice(*mine);
         const QString chosen = script(*mine);
         QVERIFY(script(theirs) != chosen);
         find<QDialog>(*mine, "OutputDialog")->accept();
         QTRY_COMPARE(script(theirs), chosen);
         QCOMPARE(bar(*mine), QStringLiteral("-"));
+        // Unsaved rows are not replaced, and the bar reports the newer rows.
+        deleteDesignRow(*find<QWidget>(theirs, "DesignDock"));
+        const QStringList entered = designCells(theirs);
+        setRow(path("both.zob"));
+        QTRY_VERIFY(bar(theirs).startsWith(
+            QLatin1String("Another program has changed the design parameters. Your unsaved rows")));
+        QCOMPARE(designCells(theirs), entered);
+        QVERIFY(theirs.isWindowModified());
+        whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
+        QVERIFY(theirs.close());
     }
 };
 

@@ -4,7 +4,7 @@
 #include "project/OpenProject.h"
 #include "ProjectTest.h"
 #include "walkOverFaults.h"
-#include "window/design/DesignDialog.h"
+#include "window/design/DesignPage.h"
 #include "window/support/copyProject.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -20,7 +20,7 @@ using Run = std::function<QString(const QString& old, const QString& made)>;
 Q_DECLARE_METATYPE(Run)
 
 namespace {
-/// Opens the project, deletes a row in the design dialog, and stores the remaining rows.
+/// Opens the project, deletes a row on the design page, and stores the remaining rows.
 QString storeDesign(const QString& path, const QString&)
 {
     VkdStatus status;
@@ -28,14 +28,12 @@ QString storeDesign(const QString& path, const QString&)
     project.setDocument(VKD_H_ZOBDoc::open(path, &status));
     if (!project.isOpen())
         return status.reason;
-    workbench::DesignDialog dialog(&project, nullptr);
-    cd_error_t code = dialog.load();
+    workbench::DesignPage page(&project, nullptr);
+    cd_error_t code = page.load();
     if (code == VKD_ZOB_OK) {
-        dialog.showPage();
-        find<QTableWidget>(dialog, "table")->selectRow(1);
-        find<QPushButton>(dialog, "btnDelete")->click();
-        dialog.accept();
-        code = dialog.store(workbench::SeenPart::Newer::Keep);
+        page.table()->selectRow(1);
+        find<QPushButton>(page, "btnDelete")->click();
+        code = page.store(workbench::SeenPart::Newer::Keep);
     }
     return code == VKD_ZOB_OK ? QString() : vkd_zob_last_failure(project.handle().index()).reason;
 }

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -298,9 +299,13 @@ private Q_SLOTS:
             QCOMPARE(other->geometry(), place);
     }
 
-    void pointingAtGroups()
+    /// The rows, the groups in the view and the list of groups follow each other.
+    void rowsInTheView()
     {
         const auto window = open("pick.zob");
+        auto records = find<QTableView>(*window, "Records")->model();
+        QCOMPARE(records->rowCount(), 53);
+        QCOMPARE(records->headerData(52, Qt::Vertical).toString(), QStringLiteral("sigui [N/mm²]"));
         // The group under the mouse in the view is highlighted in the list.
         auto groups = find<QTreeWidget>(*window, "GroupList");
         const auto marked = [groups] {
@@ -322,87 +327,90 @@ private Q_SLOTS:
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(groups->viewport(), &leave);
         QVERIFY(view->grab().toImage() == unlit);
-    }
-
-    void pickingInTheView()
-    {
-        const auto window = open("pick.zob");
-        auto records = find<QTableView>(*window, "Records")->model();
-        QCOMPARE(records->rowCount(), 53);
-        QCOMPARE(records->headerData(52, Qt::Vertical).toString(), QStringLiteral("sigui [N/mm²]"));
-        bool isNewRowSeen = false;
-        whenModal([&isNewRowSeen](QWidget* dialog) {
-            find<QPushButton>(*dialog, "btnNew")->click();
-            auto table = find<QTableWidget>(*dialog, "table");
-            const QRect row = table->visualItemRect(table->item(table->rowCount() - 1, 0));
-            isNewRowSeen = table->viewport()->rect().contains(row);
-            table->setCurrentCell(table->rowCount() - 1, 0);
-            pickInView(*dialog);
-        });
-        trigger(*window, "Design");
-        QVERIFY(isNewRowSeen);
-        auto banner = find<QWidget>(*window, "PickBanner");
-        QVERIFY(!window->close()); // the dialog is still open
-        const auto pick = [&](const std::vector<int>& rows) {
-            for (int row : rows)
-                pickGroup(*window, row);
+        QWidget* dock = openDesign(*window);
+        auto table = find<QTableWidget>(*dock, "table");
+        find<QPushButton>(*dock, "btnNew")->click();
+        const int newRow = table->rowCount() - 1;
+        const QRect place = table->visualItemRect(table->item(newRow, 0));
+        QVERIFY(table->viewport()->rect().contains(place.center()));
+        // A group that is selected in the list selects its row, which marks all its groups.
+        groups->setCurrentItem(groups->topLevelItem(2));
+        QCOMPARE(table->currentRow(), 2);
+        QCOMPARE(marked(), 2);
+        QVERIFY(view->grab().toImage() != unlit);
+        table->setCurrentCell(newRow, 1);
+        QTest::mouseClick(view, Qt::LeftButton, {}, view->rect().center());
+        QVERIFY(table->currentRow() != newRow);
+        // Picking changes the current row at once, as a step of its own.
+        table->setCurrentCell(newRow, 1);
+        find<QPushButton>(*window, "PickGroups")->click();
+        const auto banner = find<QWidget>(*window, "PickBanner");
+        const auto pick = [&](int row) {
+            pickGroup(*window, row);
             return banner->findChildren<QLabel*>().last()->text();
         };
-        QCOMPARE(pick({3}), QStringLiteral("Picked: 4"));
-        QCOMPARE(pick({5}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
-        // Picking again starts with the groups of the row, and can add and remove groups.
-        whenModal([](QWidget* dialog) { pickInView(*dialog); });
-        find<QPushButton>(*window, "PickDone")->click();
-        QCOMPARE(pick({}), QStringLiteral("Picked: 4, 6. Without area elements: 6"));
-        QCOMPARE(pick({6, 3}), QStringLiteral("Picked: 6, 7. Without area elements: 6, 7"));
-        QString text;
-        whenModal([&text](QWidget* dialog) {
-            text = find<QComboBox>(*dialog, "comboGroups")->currentText();
-            qobject_cast<QDialog*>(dialog)->accept();
-        });
-        const int before = records->columnCount();
+        QCOMPARE(pick(5), QStringLiteral("Groups: 6. Without area elements: 6"));
+        QCOMPARE(pick(0), QStringLiteral("Groups: 1, 6. Without area elements: 6"));
+        QCOMPARE(window->statusBar()->currentMessage(),
+                 QStringLiteral("Group 1 is now in row 6, no longer in row 2."));
+        QCOMPARE(table->item(1, 0)->text(), QStringLiteral("None"));
+        QCOMPARE(pick(5), QStringLiteral("Groups: 1"));
+        QVERIFY(window->isWindowModified());
+        auto edit = window->findChild<QMenu*>(QStringLiteral("EditMenu"));
+        table->setFocus();
+        QVERIFY(edit->isEnabled());
+        for (int step = 0; step < 3; ++step)
+            edit->actions().first()->trigger();
+        QCOMPARE(table->item(1, 0)->text(), QStringLiteral("1"));
+        // The button in the group dialog starts picking with the groups that are checked there.
         find<QPushButton>(*window, "PickDone")->click();
         QVERIFY(!banner->isVisible());
-        QCOMPARE(text, QStringLiteral("6;7"));
-        QCOMPARE(records->columnCount(), before + 2);
+        table->setCurrentCell(newRow, 0);
+        whenModal([](QWidget* list) {
+            find<QLineEdit>(*list, "input")->setText(QStringLiteral("4"));
+            find<QPushButton>(*list, "pick")->click();
+        });
+        find<QPushButton>(*table, "buttonGroups")->click();
+        QVERIFY(banner->isVisible());
+        QCOMPARE(pick(6), QStringLiteral("Groups: 4, 7. Without area elements: 7"));
+        table->setCurrentCell(0, 0);
+        QCOMPARE(pick(6), QStringLiteral("The groups of row 1 are fixed."));
+        whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
+        QVERIFY(window->close());
     }
 
-    /// OK asks about a group that is in two rows, and reports that a row without groups is saved.
-    void messagesOfOk()
+    /// Apply asks about a group that is in two rows, and reports that a row without groups is
+    /// saved.
+    void messagesOfApply()
     {
         const auto window = open("rows.zob");
         const auto records = find<QTableView>(*window, "Records")->model();
         const int before = records->columnCount();
         QStringList questions;
-        const auto answer = [&questions](QWidget* dialog, int button) {
+        QWidget* dock = openDesign(*window);
+        auto table = find<QTableWidget>(*dock, "table");
+        find<QPushButton>(*dock, "btnNew")->click();
+        find<QPushButton>(*dock, "btnNew")->click();
+        table->setCurrentCell(table->rowCount() - 1, 0);
+        whenModal([](QWidget* list) {
+            find<QLineEdit>(*list, "input")->setText(QStringLiteral("1"));
+            qobject_cast<QDialog*>(list)->accept();
+        });
+        find<QPushButton>(*table, "buttonGroups")->click();
+        for (int button : {1, 0}) {
+            table->setCurrentCell(0, 1);
             whenModal([&questions, button](QWidget* box) {
                 const auto question = qobject_cast<QMessageBox*>(box);
                 questions << question->text();
                 question->buttons().at(button)->click();
             });
-            qobject_cast<QDialog*>(dialog)->accept();
-        };
-        int rowToMend = -1;
-        whenModal([&](QWidget* dialog) {
-            auto table = find<QTableWidget>(*dialog, "table");
-            find<QPushButton>(*dialog, "btnNew")->click();
-            find<QPushButton>(*dialog, "btnNew")->click();
-            table->setCurrentCell(table->rowCount() - 1, 0);
-            whenModal([](QWidget* list) {
-                find<QLineEdit>(*list, "input")->setText(QStringLiteral("1"));
-                qobject_cast<QDialog*>(list)->accept();
-            });
-            find<QPushButton>(*table, "buttonGroups")->click();
-            table->setCurrentCell(0, 1);
-            answer(dialog, 1);
-            rowToMend = dialog->isVisible() ? table->currentRow() : -1;
-            answer(dialog, 0);
-        });
-        trigger(*window, "Design");
+            applyDesign(*window);
+            QCOMPARE(table->currentRow(), button);
+            QCOMPARE(window->isWindowModified(), button == 1);
+        }
         const auto shared =
             QStringLiteral("Group 1 is in rows 2 and 7; two records would be stored.");
         QCOMPARE(questions, QStringList({shared, shared}));
-        QCOMPARE(rowToMend, 1);
         QCOMPARE(records->columnCount(), before + 1);
         QCOMPARE(window->statusBar()->currentMessage(),
                  QStringLiteral("The design parameters are in the project file. "

@@ -6,6 +6,7 @@
 #include <vkd_zob.h>
 
 #include <QComboBox>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -16,16 +17,6 @@ using workbench::MainWindow;
 
 namespace {
 const QString InUse = QStringLiteral("Another program is writing to it.");
-
-QStringList cellTexts(const QWidget& dialog)
-{
-    const auto table = find<QTableWidget>(dialog, "table");
-    QStringList texts;
-    for (int row = 0; row < table->rowCount(); ++row)
-        for (int column = 0; column < table->columnCount(); ++column)
-            texts << (table->item(row, column) ? table->item(row, column)->text() : QString());
-    return texts;
-}
 
 QString reasonOf(const QString& message)
 {
@@ -161,7 +152,7 @@ private Q_SLOTS:
         QVERIFY(!QApplication::overrideCursor());
     }
 
-    /// The dialog works on a copy of the records. The copy also needs the kind of system.
+    /// The page works on a copy of the records. The copy also needs the kind of system.
     void planeSystemHasNoDistances()
     {
         {
@@ -171,13 +162,9 @@ private Q_SLOTS:
             QVERIFY(vkd::dbo::storeModel(document->handle(), model).isOk());
         }
         const auto window = reopen("plane.zob");
-        QStringList cells;
-        whenModal([&](QWidget* dialog) {
-            cells = cellTexts(*dialog);
-            qobject_cast<QDialog*>(dialog)->reject();
-        });
-        trigger(*window, "Design");
-        QCOMPARE(cells.value(2), QStringLiteral("0.0\u00B0 ;0.0\u00B0\n -  ; -  ; -  ; -  ;"));
+        openDesign(*window);
+        QCOMPARE(designCells(*window).value(2),
+                 QStringLiteral("0.0\u00B0 ;0.0\u00B0\n -  ; -  ; -  ; -  ;"));
     }
 
     void designIsNotLost_data()
@@ -192,35 +179,73 @@ private Q_SLOTS:
     {
         QFETCH(const QString, reason);
         const auto window = open("design.zob");
-        std::unique_ptr<Obstacle> obstacle;
-        QString message;
-        QStringList entered, back, again;
-        whenModal([&](QWidget* dialog) {
-            find<QPushButton>(*dialog, "btnNew")->click();
-            find<QTableWidget>(*dialog, "table")->selectRow(3);
-            find<QPushButton>(*dialog, "btnDelete")->click();
-            entered = cellTexts(*dialog);
-            obstacle = std::make_unique<Obstacle>(QTest::currentDataTag(), path("design.zob"));
+        QWidget* dock = openDesign(*window);
+        find<QPushButton>(*dock, "btnNew")->click();
+        find<QTableWidget>(*dock, "table")->setCurrentCell(0, 1);
+        deleteDesignRow(*dock);
+        const QStringList entered = designCells(*window);
+        QStringList messages;
+        {
+            const Obstacle obstacle(QTest::currentDataTag(), path("design.zob"));
+            readMessage(messages);
+            applyDesign(*window);
+        }
+        QCOMPARE(reasonOf(messages.join(QString())), reason);
+        QCOMPARE(designCells(*window), entered);
+        QVERIFY(window->isWindowModified());
+        QTest::keyClick(find<QTableWidget>(*dock, "table"), Qt::Key_S, Qt::ControlModifier);
+        QTest::keyRelease(dock, Qt::Key_Control); // otherwise, Qt adds to the next selection
+        QVERIFY(!window->isWindowModified());
+        QVERIFY(dock->close());
+        openDesign(*window);
+        QCOMPARE(designCells(*window), entered);
+    }
+
+    void leavingDesign_data()
+    {
+        const Columns<QByteArray, QMessageBox::StandardButton> row("way", "answer");
+        for (const char* way : {"dock", "Reload", "window", "menu"}) {
+            row(way + QByteArray(", Save"), way, QMessageBox::Save);
+            row(way + QByteArray(", Discard"), way, QMessageBox::Discard);
+            row(way + QByteArray(", Cancel"), way, QMessageBox::Cancel);
+        }
+    }
+
+    /// Closing the dock or the window asks; Reload preserves the rows without asking.
+    void leavingDesign()
+    {
+        QFETCH(const QByteArray, way);
+        QFETCH(const QMessageBox::StandardButton, answer);
+        const auto window = open("left.zob");
+        auto dock = find<QDockWidget>(*window, "DesignDock");
+        openDesign(*window);
+        const QStringList stored = designCells(*window);
+        deleteDesignRow(*dock);
+        const QStringList entered = designCells(*window);
+        bool isAsked = false;
+        if (way != "Reload")
             whenModal([&](QWidget* box) {
-                message = qobject_cast<QMessageBox*>(box)->text();
-                obstacle.reset();
-                whenModal([&](QWidget* shown) {
-                    back = cellTexts(*shown);
-                    qobject_cast<QDialog*>(shown)->accept();
-                });
-                press(box, QMessageBox::Ok);
+                isAsked = true;
+                press(box, answer);
             });
-            qobject_cast<QDialog*>(dialog)->accept();
-        });
-        trigger(*window, "Design");
-        QCOMPARE(reasonOf(message), reason);
-        QCOMPARE(back, entered);
-        whenModal([&](QWidget* dialog) {
-            again = cellTexts(*dialog);
-            qobject_cast<QDialog*>(dialog)->reject();
-        });
-        trigger(*window, "Design");
-        QCOMPARE(again, entered);
+        if (way == "dock")
+            dock->close();
+        else if (way == "menu")
+            dock->toggleViewAction()->trigger();
+        else if (way == "window")
+            window->close();
+        else
+            trigger(*window, "Reload");
+        QCOMPARE(isAsked, way != "Reload");
+        const bool isOpen = answer == QMessageBox::Cancel || way == "Reload";
+        QCOMPARE(dock->isVisible() && window->isVisible(), isOpen);
+        QCOMPARE(dock->toggleViewAction()->isChecked(), dock->isVisible());
+        QCOMPARE(window->isWindowModified() && window->isVisible(), isOpen);
+        if (isOpen)
+            QCOMPARE(designCells(*window), entered);
+        const auto again = reopen("left.zob");
+        openDesign(*again);
+        QCOMPARE(designCells(*again), answer == QMessageBox::Save && !isOpen ? entered : stored);
     }
 
     /// If another program locks the project when OK is pressed in the output dialog, the choice
@@ -279,34 +304,6 @@ private Q_SLOTS:
         other.reset();
         trigger(*window, "Output");
         QCOMPARE(script(*window), proposed);
-    }
-
-    void picksAreNotLost()
-    {
-        const auto window = open("picks.zob");
-        whenModal([](QWidget* dialog) {
-            find<QPushButton>(*dialog, "btnNew")->click();
-            auto table = find<QTableWidget>(*dialog, "table");
-            table->setCurrentCell(table->rowCount() - 1, 0);
-            pickInView(*dialog);
-        });
-        trigger(*window, "Design");
-        pickGroup(*window, 5);
-        QStringList messages;
-        {
-            const OtherProgram other(path("picks.zob"), OtherProgram::Taking);
-            readMessage(messages);
-            find<QPushButton>(*window, "PickDone")->click();
-        }
-        QCOMPARE(reasonOf(messages.value(0)), InUse);
-        QVERIFY(find<QWidget>(*window, "PickBanner")->isVisible());
-        QString picked;
-        whenModal([&picked](QWidget* dialog) {
-            picked = find<QComboBox>(*dialog, "comboGroups")->currentText();
-            qobject_cast<QDialog*>(dialog)->reject();
-        });
-        find<QPushButton>(*window, "PickDone")->click();
-        QCOMPARE(picked, QStringLiteral("6"));
     }
 };
 

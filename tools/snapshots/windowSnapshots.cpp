@@ -5,8 +5,6 @@
 #include "textOutputSnapshots.h"
 #include "window/main/MainWindow.h"
 
-#include <VKD_H_SelGRP_Dialog.h>
-
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -15,9 +13,9 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
-#include <QTimer>
 
 namespace workbench {
 
@@ -27,17 +25,19 @@ void trigger(const MainWindow& window, const char* action)
     window.findChild<QAction*>(QLatin1String(action))->trigger();
 }
 
-void addPicking(SnapshotAlbum& album, MainWindow& window, const QString& look)
+/// Adds screenshots of the design dock, with the groups of a row and while they are picked.
+void addDesign(SnapshotAlbum& album, MainWindow& window, const QString& look)
 {
-    QTimer::singleShot(0, qApp, [] {
-        auto dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        dialog->done(VKD_H_SelGRP_Dialog::PickOutside);
-    });
     trigger(window, "Design");
+    auto dock = window.findChild<QWidget*>(QStringLiteral("DesignDock"));
+    auto table = dock->findChild<QTableWidget*>(QStringLiteral("table"));
+    table->setCurrentCell(2, 0);
+    album.add(QStringLiteral("window-design") + look, &window);
+    auto pick = window.findChild<QPushButton*>(QStringLiteral("PickGroups"));
+    pick->click();
     album.add(QStringLiteral("window-picking") + look, &window);
-    album.addModal(QStringLiteral("window-design") + look, [&window] {
-        window.findChild<QPushButton*>(QStringLiteral("PickCancel"))->click();
-    });
+    pick->click();
+    dock->close();
 }
 
 void addOutput(SnapshotAlbum& album, const MainWindow& window, const QString& look)
@@ -84,7 +84,7 @@ void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
         addSheet(album, window, look);
         addOutput(album, window, look);
         addTextOutputSnapshots(album, window, look);
-        addPicking(album, window, look);
+        addDesign(album, window, look);
     }
     QApplication::setPalette(light);
 }

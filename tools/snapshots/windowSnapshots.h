@@ -6,7 +6,7 @@ namespace workbench {
 
 class SnapshotAlbum;
 
-/// Adds screenshots of the window with a project, of its dialogs and of picking groups, in light
+/// Adds screenshots of the window with a project, of its dialogs and of the design dock, in light
 /// and dark colours.
 void addWindowSnapshots(SnapshotAlbum& album, const QString& project);
 

@@ -119,6 +119,10 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Another program has changed the design parameters. Your unsaved rows are still here; Apply asks before it replaces the others.</source>
+        <translation>Ein anderes Programm hat die Bemessungsparameter geändert. Ihre ungespeicherten Zeilen sind noch da; Übernehmen fragt, bevor es die anderen ersetzt.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::CombinationTable</name>
@@ -164,7 +168,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
-    <name>workbench::DesignDialog</name>
+    <name>workbench::DesignPage</name>
     <message>
         <source>Design Parameters</source>
         <translation>Bemessungsparameter</translation>
@@ -196,10 +200,6 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     <message>
         <source>&amp;Go Back</source>
         <translation>&amp;Zurück</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
     </message>
 </context>
 <context>
@@ -263,6 +263,10 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <source>Groups of the model. Pointing at one lights it up in the view.</source>
         <translation>Gruppen des Modells. Die Gruppe unter dem Mauszeiger leuchtet in der Ansicht auf.</translation>
     </message>
+    <message>
+        <source>Row</source>
+        <translation>Zeile</translation>
+    </message>
 </context>
 <context>
     <name>workbench::LoadCaseTable</name>
@@ -313,10 +317,6 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <source>The language is now English.</source>
         <translation>Die Sprache ist jetzt Deutsch.</translation>
     </message>
-    <message>
-        <source>Finish picking groups first, with Done or Cancel.</source>
-        <translation>Zuerst die Wahl der Gruppen mit Fertig oder Abbrechen beenden.</translation>
-    </message>
 </context>
 <context>
     <name>workbench::OutputDialog</name>
@@ -356,28 +356,36 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
 <context>
     <name>workbench::PickBanner</name>
     <message>
-        <source>Pick groups in the view, then press Done.</source>
-        <translation>Gruppen in der Ansicht wählen, dann Fertig drücken.</translation>
-    </message>
-    <message>
-        <source>No group is picked yet.</source>
-        <translation>Noch keine Gruppe gewählt.</translation>
-    </message>
-    <message>
-        <source>Picked: %1</source>
-        <translation>Gewählt: %1</translation>
-    </message>
-    <message>
         <source>&amp;Done</source>
         <translation>Ferti&amp;g</translation>
     </message>
     <message>
-        <source>Ca&amp;ncel</source>
-        <translation>Abb&amp;rechen</translation>
+        <source>Row %1: click groups to add or remove them.</source>
+        <translation>Zeile %1: Gruppen durch Anklicken hinzufügen oder entfernen.</translation>
     </message>
     <message>
-        <source>Picked: %1. Without area elements: %2</source>
-        <translation>Gewählt: %1. Ohne Flächenelemente: %2</translation>
+        <source>Select the row whose groups are to be picked.</source>
+        <translation>Zuerst die Zeile wählen, deren Gruppen gewählt werden sollen.</translation>
+    </message>
+    <message>
+        <source>The groups of row 1 are fixed.</source>
+        <translation>Die Gruppen der Zeile 1 stehen fest.</translation>
+    </message>
+    <message>
+        <source>No row is selected.</source>
+        <translation>Keine Zeile ist gewählt.</translation>
+    </message>
+    <message>
+        <source>The row has no groups yet.</source>
+        <translation>Die Zeile hat noch keine Gruppen.</translation>
+    </message>
+    <message>
+        <source>Groups: %1</source>
+        <translation>Gruppen: %1</translation>
+    </message>
+    <message>
+        <source>Groups: %1. Without area elements: %2</source>
+        <translation>Gruppen: %1. Ohne Flächenelemente: %2</translation>
     </message>
 </context>
 <context>
@@ -1004,10 +1012,6 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>&amp;Design Parameters...</source>
-        <translation>&amp;Bemessungsparameter ...</translation>
-    </message>
-    <message>
         <source>&amp;Graphical Output...</source>
         <translation>&amp;Grafische Ausgabe ...</translation>
     </message>
@@ -1075,16 +1079,16 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <source>Copy</source>
         <translation>Kopieren</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
 </context>
 <context>
     <name>workbench::DesignEditor</name>
     <message>
         <source>The file %1 cannot be read.</source>
         <translation>Die Datei %1 kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>The design parameters stay as they were.</source>
-        <translation>Die Bemessungsparameter bleiben, wie sie waren.</translation>
     </message>
     <message>
         <source>The design parameters cannot be stored in the file %1.</source>
@@ -1115,12 +1119,10 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>&amp;Zurück</translation>
     </message>
     <message>
-        <source>Pick groups in the view, or by Enter in the list of groups.</source>
-        <translation>Gruppen in der Ansicht wählen oder mit der Eingabetaste in der Liste der Gruppen.</translation>
-    </message>
-    <message>
-        <source>The picked groups cannot be stored in the file %1.</source>
-        <translation>Die gewählten Gruppen können nicht in der Datei %1 gespeichert werden.</translation>
+        <source>The design parameters are changed and not yet in the project.
+Are they to be stored?</source>
+        <translation>Die Bemessungsparameter sind geändert und noch nicht im Projekt.
+Sollen sie gespeichert werden?</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1361,36 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
     <message>
         <source>Panels</source>
         <translation>Bereiche</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::DesignDock</name>
+    <message>
+        <source>Design Parameters</source>
+        <translation>Bemessungsparameter</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Überneh&amp;men</translation>
+    </message>
+    <message>
+        <source>Stores the rows in the project file (Ctrl+S in this panel)</source>
+        <translation>Speichert die Zeilen in der Projektdatei (Strg+S in diesem Bereich)</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::RowsInView</name>
+    <message>
+        <source>Pick &amp;Groups</source>
+        <translation>Gruppen wäh&amp;len</translation>
+    </message>
+    <message>
+        <source>While pressed, a click on a group in the view, or Enter in the list of groups, adds it to the current row or removes it.</source>
+        <translation>Solange gedrückt, fügt ein Klick auf eine Gruppe in der Ansicht oder die Eingabetaste in der Liste der Gruppen sie der aktuellen Zeile hinzu oder entfernt sie.</translation>
+    </message>
+    <message>
+        <source>Group %1 is now in row %2, no longer in row %3.</source>
+        <translation>Gruppe %1 steht jetzt in Zeile %2, nicht mehr in Zeile %3.</translation>
     </message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -66,6 +67,20 @@ public:
     /// Works whether picking is enabled or disabled.
     void setHighlightedGroup(int group);
 
+    /// Highlights groups in addition, for example those of the current row in a table.
+    void setSelectedGroups(const std::vector<int>& groups);
+
+    /// Sets the colours of groups; all other groups are pale. Without colours, each group has its
+    /// own colour. Highlighted groups do not dim the others while colours are set.
+    void setGroupColours(const std::map<int, QColor>& colours);
+    /// Returns a colour for setGroupColours(). The colours differ in hue and lightness, so that
+    /// colour-blind users can distinguish them; adjacent indexes differ most. The index must not be
+    /// negative.
+    static QColor distinctColour(int index);
+
+    /// Sets the groups that are neither drawn nor picked. The default is none.
+    void setHiddenGroups(const std::vector<int>& groups);
+
     /// Returns whether the last painted image contains all items. The image contains fewer items
     /// while the view is moving and until the full image of a large model is complete.
     bool isPictureComplete() const;
@@ -83,9 +98,14 @@ Q_SIGNALS:
     void groupHovered(int group);
     /// Emitted after the user has picked a group or has removed a group from the picked groups.
     void pickedGroupsChanged();
+    /// Emitted after a click on a group while picking is disabled.
+    void groupClicked(int group);
+    /// Emitted when the user requests a context menu, with the group at this place or NoGroup.
+    void menuRequested(int group, const QPoint& globalPlace);
 
 protected:
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

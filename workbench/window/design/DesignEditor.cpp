@@ -1,81 +1,105 @@
 #include "window/design/DesignEditor.h"
 
-#include "window/design/DesignDialog.h"
-#include "window/design/PickBanner.h"
+#include "window/design/DesignDock.h"
 #include "window/support/ProjectAccess.h"
 #include "window/support/storeErrorText.h"
 #include "window/support/WindowMessages.h"
 
-#include <AnimatorView.h>
-#include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_QT_MessageBox.h>
 
+#include <QAction>
 #include <QDir>
 #include <QMainWindow>
-
-#include <algorithm>
+#include <QTableWidget>
 
 namespace workbench {
 
 DesignEditor::DesignEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
-                           AnimatorView* view, PickBanner* banner)
+                           DesignDock* dock)
     : m_project(project)
     , m_access(access)
     , m_messages(messages)
-    , m_view(view)
-    , m_banner(banner)
+    , m_dock(dock)
 {
-    connect(m_view, &AnimatorView::pickedGroupsChanged, this, &DesignEditor::showPicked);
-    connect(m_banner, &PickBanner::done, this, &DesignEditor::takePicked);
-    connect(m_banner, &PickBanner::cancelled, this, &DesignEditor::cancelPicking);
+    m_dock->setMayClose([this] { return mayLeave(); });
+    connect(m_dock, &DesignDock::applyRequested, this, &DesignEditor::store);
+    connect(m_dock, &DesignDock::closed, this, &DesignEditor::close);
+    connect(m_dock->toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
+        if (isShown)
+            edit();
+    });
 }
 
-DesignEditor::~DesignEditor() = default;
+/// Destroys the page before the project that it uses.
+DesignEditor::~DesignEditor()
+{
+    m_dock->setPage(nullptr);
+}
 
 void DesignEditor::edit()
 {
-    auto dialog = std::make_unique<DesignDialog>(m_project, m_messages->window());
-    if (!m_access->run([&dialog] { return dialog->load(); }, tr("The file %1 cannot be read.")))
-        return;
-    m_dialog = std::move(dialog);
-    m_dialog->showPage();
-    run();
+    if (!m_dock->page() && !load())
+        return m_dock->hide();
+    m_dock->show();
+    m_dock->raise();
+    m_dock->activateWindow();
+    m_dock->page()->table()->setFocus();
 }
 
-void DesignEditor::run()
+/// Replaces the page only if the project can be read.
+bool DesignEditor::load()
 {
-    int result = m_dialog->exec();
-    while (result == QDialog::Accepted && !store()) {
-        m_dialog->showPage(); // the user's input is not lost
-        result = m_dialog->exec();
-    }
-    if (result == VKD_H_SelGRP_Dialog::PickOutside)
-        return startPicking();
-    m_dialog.reset();
-    if (result == QDialog::Accepted)
-        Q_EMIT stored();
-    else
-        m_messages->say(tr("The design parameters stay as they were."));
+    auto page = std::make_unique<DesignPage>(m_project, m_dock);
+    page->hide(); // until it is in the dock
+    if (!m_access->run([&page] { return page->load(); }, tr("The file %1 cannot be read.")))
+        return false;
+    setPage(std::move(page));
+    return true;
 }
 
-/// Returns false if the dialog must be shown again.
+void DesignEditor::setPage(std::unique_ptr<DesignPage> page)
+{
+    const bool isModified = page && page->isModified();
+    if (page)
+        connect(page.get(), &DesignPage::modifiedChanged, this, [this](bool isChanged) {
+            m_dock->setModified(isChanged);
+            Q_EMIT modified();
+        });
+    m_dock->setPage(std::move(page));
+    m_dock->setModified(isModified);
+    Q_EMIT pageChanged();
+    Q_EMIT modified();
+}
+
+bool DesignEditor::isChanged() const
+{
+    return m_dock->page() && m_dock->page()->isModified();
+}
+
 bool DesignEditor::store()
 {
+    finishEditing();
+    if (!isChanged())
+        return true;
+    if (!m_dock->page()->maySharedGroupsStay())
+        return false;
     if (m_project->check() != ProjectWatch::File::Present)
         return storeElsewhere();
     const auto stored =
-        m_access->store([this](SeenPart::Newer newer) { return m_dialog->store(newer); },
+        m_access->store([this](SeenPart::Newer newer) { return m_dock->page()->store(newer); },
                         tr("The design parameters cannot be stored in the file %1."));
     if (stored == ProjectAccess::Stored::Reload)
-        m_access->run([this] { return m_dialog->load(); }, tr("The file %1 cannot be read."));
-    if (stored == ProjectAccess::Stored::Yes)
-        sayStored();
-    return stored == ProjectAccess::Stored::Yes;
+        load();
+    if (stored != ProjectAccess::Stored::Yes)
+        return false;
+    sayStored();
+    Q_EMIT DesignEditor::stored();
+    return true;
 }
 
 void DesignEditor::sayStored()
 {
-    const int rows = m_dialog->rowsWithoutGroups();
+    const int rows = m_dock->page()->rowsWithoutGroups();
     const QString stored = tr("The design parameters are in the project file.");
     if (rows == 0)
         m_messages->say(stored);
@@ -87,6 +111,7 @@ void DesignEditor::sayStored()
                         tr("%1 rows without groups are kept with the page.").arg(rows));
 }
 
+/// Saving under another name stores the rows in the copy.
 bool DesignEditor::storeElsewhere()
 {
     const QString path = m_project->path();
@@ -94,78 +119,62 @@ bool DesignEditor::storeElsewhere()
                                  .arg(QDir::toNativeSeparators(path)) +
                              QLatin1Char('\n') + storeErrorText(path, VKD_ZOB_MOVED);
     constexpr int GoBack = 1;
-    if (VKD_QT_MessageBox::warning(m_messages->window(), tr("Workbench"), sentence,
-                                   tr("&Save Project As..."), tr("&Go Back"), QString(), 0,
-                                   GoBack) == GoBack ||
-        !m_saveAs())
+    return VKD_QT_MessageBox::warning(m_messages->window(), tr("Workbench"), sentence,
+                                      tr("&Save Project As..."), tr("&Go Back"), QString(), 0,
+                                      GoBack) != GoBack &&
+           m_saveAs() && !isChanged();
+}
+
+void DesignEditor::finishEditing()
+{
+    if (m_dock->page())
+        m_dock->page()->finishEditing();
+}
+
+bool DesignEditor::mayLeave()
+{
+    finishEditing();
+    return !isChanged() ||
+           m_messages->mayLeave(tr("The design parameters are changed and not yet in the project.\n"
+                                   "Are they to be stored?"),
+                                [this] { return store(); });
+}
+
+std::optional<DesignPage::State> DesignEditor::state() const
+{
+    return m_dock->page() ? std::make_optional(m_dock->page()->state()) : std::nullopt;
+}
+
+void DesignEditor::restore(const DesignPage::State& state)
+{
+    auto page = std::make_unique<DesignPage>(m_project, m_dock);
+    page->hide();
+    page->restore(state);
+    setPage(std::move(page));
+}
+
+void DesignEditor::close()
+{
+    setPage(nullptr);
+}
+
+void DesignEditor::showProject()
+{
+    if (m_dock->isVisible() && !m_dock->page() && !load())
+        m_dock->hide();
+}
+
+bool DesignEditor::followOthers()
+{
+    if (!m_dock->page() || !m_project->isOutdated(ProjectPart::Design))
+        return true;
+    finishEditing();
+    if (isChanged())
         return false;
-    m_dialog->continueWithCopy();
-    return store();
-}
-
-/// Begins with the groups that are checked in the group dialog; picking adds groups or removes
-/// them.
-void DesignEditor::startPicking()
-{
-    std::vector<int> groups;
-    VKD_H_SelGRP_Dialog::getAniSelectionFromZob(VKD_H_SelGRP_Dialog::StartOfPicking, groups);
-    m_view->setPickedGroups(groups);
-    m_view->setPicking(true);
-    m_banner->setGroupsWithoutAreas(m_groupsWithoutAreas);
-    showPicked();
-    m_banner->show();
-    Q_EMIT pickingChanged(true);
-    // On some desktops, no window is active after several dialogs have been hidden at once.
-    m_messages->window()->activateWindow();
-    m_messages->say(tr("Pick groups in the view, or by Enter in the list of groups."));
-}
-
-/// The dialog reads the groups from the project. If the groups cannot be stored, the user can
-/// continue picking.
-void DesignEditor::takePicked()
-{
-    const auto put = [this] {
-        const auto groups = m_view->pickedGroups();
-        return VKD_H_SelGRP_Dialog::putAniSelectionToZob(m_project->handle().index(), groups).code;
-    };
-    if (!m_access->run(put, tr("The picked groups cannot be stored in the file %1.")))
-        return;
-    stopPicking();
-    run();
-}
-
-void DesignEditor::cancelPicking()
-{
-    stopPicking();
-    run();
-}
-
-void DesignEditor::stopPicking()
-{
-    m_view->setPicking(false);
-    m_view->setPickedGroups({});
-    m_banner->hide();
-    Q_EMIT pickingChanged(false);
-    m_messages->say(QString());
-}
-
-void DesignEditor::pick(int group)
-{
-    if (!m_view->isPicking())
-        return;
-    std::vector<int> groups = m_view->pickedGroups();
-    const auto place = std::find(groups.begin(), groups.end(), group);
-    if (place == groups.end())
-        groups.push_back(group);
-    else
-        groups.erase(place);
-    m_view->setPickedGroups(groups);
-    showPicked();
-}
-
-void DesignEditor::showPicked()
-{
-    m_banner->setPicked(m_view->pickedGroups());
+    const DesignPage::State before = m_dock->page()->state();
+    if (load())
+        m_dock->page()->table()->setCurrentCell(before.currentRow, before.currentColumn);
+    return true;
 }
 
 } // namespace workbench

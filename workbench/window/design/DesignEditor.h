@@ -1,23 +1,20 @@
 #pragma once
 
+#include "window/design/DesignPage.h"
+
 #include <QObject>
 
 #include <functional>
-#include <memory>
-#include <vector>
-
-class AnimatorView;
+#include <optional>
 
 namespace workbench {
 
-class DesignDialog;
-class OpenProject;
-class PickBanner;
+class DesignDock;
 class ProjectAccess;
 class WindowMessages;
 
-/// Edits the design parameters of the open project: runs their dialog and stores the records. While
-/// the user picks groups in the view, the dialog is hidden and a banner is shown instead.
+/// Edits the design parameters of the open project: reads the rows into the page in the dock, and
+/// stores them.
 class DesignEditor : public QObject
 {
     Q_OBJECT
@@ -25,49 +22,53 @@ class DesignEditor : public QObject
 public:
     /// The arguments are not owned and must outlive the editor.
     DesignEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
-                 AnimatorView* view, PickBanner* banner);
+                 DesignDock* dock);
     ~DesignEditor() override;
     /// Sets the function that saves the project under another name, opens it and returns whether it
-    /// succeeded. The function is needed because the user cannot trigger the window's action while
-    /// the dialog is open.
+    /// succeeded.
     void setSaveAs(const std::function<bool()>& saveAs) { m_saveAs = saveAs; }
-    /// Sets the groups without area elements, in ascending order. The banner shows a warning for
-    /// these groups.
-    void setGroupsWithoutAreas(const std::vector<int>& groups) { m_groupsWithoutAreas = groups; }
 
-    /// Runs the dialog. Returns when the dialog has been closed or picking has started.
+    /// Opens the dock, if the project can be read, and gives it the focus.
     void edit();
-    /// Returns whether the dialog is open, or hidden for picking.
-    bool isActive() const { return bool(m_dialog); }
-    /// Adds a group that was selected with the keyboard to the picked groups, or removes it from
-    /// the picked groups. Does nothing unless the user is picking groups.
-    void pick(int group);
+    /// Returns whether there are rows that are not stored.
+    bool isChanged() const;
+    /// Stores the rows in the project. Returns whether they are stored.
+    bool store();
+    /// Asks whether to store changes. Returns false if the user cancels or storing fails.
+    bool mayLeave();
+
+    /// Returns the rows for restore(), or an empty optional if the dock is closed.
+    std::optional<DesignPage::State> state() const;
+    /// Creates a new page with these rows, for the project that is open now.
+    void restore(const DesignPage::State& state);
+    /// Destroys the page without asking. The dock stays open.
+    void close();
+    /// Reads the rows of the project that is open now if the dock is open without a page.
+    void showProject();
+    /// Reads the rows again if another program has stored newer rows and there are no changes.
+    /// Returns false if the user's rows are older than those in the project.
+    bool followOthers();
 
 Q_SIGNALS:
-    /// Emitted after the records have been stored and the dialog has been closed.
+    /// Emitted after the rows have been stored.
     void stored();
-    /// Emitted after picking has started or ended.
-    void pickingChanged(bool isPicking);
+    /// Emitted when isChanged() may have changed.
+    void modified();
+    /// Emitted after the page has been created or destroyed.
+    void pageChanged();
 
 private:
-    void run();
-    bool store();
+    bool load();
+    void setPage(std::unique_ptr<DesignPage> page);
+    void finishEditing();
     bool storeElsewhere();
     void sayStored();
-    void startPicking();
-    void takePicked();
-    void stopPicking();
-    void cancelPicking();
-    void showPicked();
 
     OpenProject* m_project;
     ProjectAccess* m_access;
     WindowMessages* m_messages;
-    AnimatorView* m_view;
-    PickBanner* m_banner;
+    DesignDock* m_dock;
     std::function<bool()> m_saveAs;
-    std::vector<int> m_groupsWithoutAreas;
-    std::unique_ptr<DesignDialog> m_dialog; // exists while it is open or hidden for picking
 };
 
 } // namespace workbench

@@ -27,11 +27,9 @@ PickBanner::PickBanner(QWidget* parent)
     , m_what(new QLabel(this))
     , m_picked(new QLabel(this))
     , m_done(new QPushButton(this))
-    , m_cancel(new QPushButton(this))
 {
     setObjectName(QStringLiteral("PickBanner"));
     m_done->setObjectName(QStringLiteral("PickDone"));
-    m_cancel->setObjectName(QStringLiteral("PickCancel"));
     auto band = new QWidget(this); // without the buttons: their focus frame has its colour
     band->setAutoFillBackground(true);
     band->setBackgroundRole(QPalette::Highlight);
@@ -48,11 +46,9 @@ PickBanner::PickBanner(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(band, 1);
     layout->addWidget(m_done);
-    layout->addWidget(m_cancel);
     connect(m_done, &QPushButton::clicked, this, &PickBanner::done);
-    connect(m_cancel, &QPushButton::clicked, this, &PickBanner::cancelled);
     auto escape = new QShortcut(Qt::Key_Escape, this); // also works after a click in the view
-    connect(escape, &QShortcut::activated, this, &PickBanner::cancelled);
+    connect(escape, &QShortcut::activated, this, &PickBanner::done);
     setTexts();
 }
 
@@ -62,8 +58,9 @@ void PickBanner::setGroupsWithoutAreas(const std::vector<int>& groups)
     setTexts();
 }
 
-void PickBanner::setPicked(const std::vector<int>& groups)
+void PickBanner::setPicked(int row, const std::vector<int>& groups)
 {
+    m_row = row;
     m_groups = groups;
     setTexts();
 }
@@ -75,30 +72,27 @@ void PickBanner::changeEvent(QEvent* event)
         setTexts();
 }
 
-void PickBanner::showEvent(QShowEvent* event)
-{
-    QFrame::showEvent(event);
-    m_done->setFocus();
-    window()->setAttribute(Qt::WA_KeyboardFocusChange); // so that the focus is visible
-}
-
 void PickBanner::setTexts()
 {
     std::vector<int> unfit;
     std::set_intersection(m_groups.begin(), m_groups.end(), m_withoutAreas.begin(),
                           m_withoutAreas.end(), std::back_inserter(unfit));
-    m_what->setText(tr("Pick groups in the view, then press Done."));
+    const bool isFixed = m_row < 1;
+    m_what->setText(isFixed ? tr("Select the row whose groups are to be picked.")
+                            : tr("Row %1: click groups to add or remove them.").arg(m_row + 1));
     // Uses a single line, because showing and hiding a second line would move the view under the
     // mouse.
-    if (m_groups.empty())
-        m_picked->setText(tr("No group is picked yet."));
+    if (isFixed)
+        m_picked->setText(m_row == 0 ? tr("The groups of row 1 are fixed.")
+                                     : tr("No row is selected."));
+    else if (m_groups.empty())
+        m_picked->setText(tr("The row has no groups yet."));
     else if (unfit.empty())
-        m_picked->setText(tr("Picked: %1").arg(listed(m_groups)));
+        m_picked->setText(tr("Groups: %1").arg(listed(m_groups)));
     else
         m_picked->setText(
-            tr("Picked: %1. Without area elements: %2").arg(listed(m_groups), listed(unfit)));
+            tr("Groups: %1. Without area elements: %2").arg(listed(m_groups), listed(unfit)));
     m_done->setText(tr("&Done"));
-    m_cancel->setText(tr("Ca&ncel"));
 }
 
 } // namespace workbench

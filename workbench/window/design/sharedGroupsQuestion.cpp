@@ -12,10 +12,10 @@ namespace {
 constexpr int MostLines = 5;
 constexpr int MostRows = 10;
 
-/// Translates a string in the context of the dialog that asks the question.
+/// Translates a string in the context of the page that asks the question.
 struct DialogText
 {
-    Q_DECLARE_TR_FUNCTIONS(workbench::DesignDialog)
+    Q_DECLARE_TR_FUNCTIONS(workbench::DesignPage)
 };
 
 QString groupName(int group)

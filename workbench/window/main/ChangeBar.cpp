@@ -37,8 +37,9 @@ ChangeBar::ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent)
     setTexts();
 }
 
-void ChangeBar::report(bool isChanged, ProjectWatch::File file)
+void ChangeBar::report(bool isChanged, ProjectWatch::File file, bool areRowsOlder)
 {
+    m_areRowsOlder = isChanged ? areRowsOlder : m_areRowsOlder;
     const bool isFileNews = std::exchange(m_file, file) != file;
     const bool isPresent = file == ProjectWatch::File::Present;
     m_reload->setVisible(file != ProjectWatch::File::Missing);
@@ -67,7 +68,10 @@ void ChangeBar::setTexts()
 {
     switch (m_file) {
     case ProjectWatch::File::Present:
-        m_text->setText(tr("Another program has changed the project."));
+        m_text->setText(m_areRowsOlder
+                            ? tr("Another program has changed the design parameters. Your unsaved "
+                                 "rows are still here; Apply asks before it replaces the others.")
+                            : tr("Another program has changed the project."));
         break;
     case ProjectWatch::File::Missing:
         m_text->setText(tr("The project file was deleted or moved. The open project can still be "

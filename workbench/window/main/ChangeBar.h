@@ -21,8 +21,9 @@ public:
     ChangeBar(QAction* reload, QAction* saveAs, QWidget* parent);
 
     /// Shows the bar if `isChanged` is set or if the file has been lost since the last report.
-    /// Hides the bar if the file is present again.
-    void report(bool isChanged, ProjectWatch::File file);
+    /// Hides the bar if the file is present again. `areRowsOlder` specifies whether unsaved design
+    /// rows are based on an older state of the project.
+    void report(bool isChanged, ProjectWatch::File file, bool areRowsOlder);
     /// Hides the bar. Called when another project is opened.
     void reset();
 
@@ -32,6 +33,7 @@ protected:
 private:
     void setTexts();
 
+    bool m_areRowsOlder = false;
     ProjectWatch::File m_file = ProjectWatch::File::Present;
     QLabel* m_text;
     QToolButton* m_reload;

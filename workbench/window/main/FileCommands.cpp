@@ -1,6 +1,7 @@
 #include "window/main/FileCommands.h"
 
 #include "project/OpenProject.h"
+#include "window/design/DesignEditor.h"
 #include "window/main/WindowActions.h"
 #include "window/output/OutputDialog.h"
 #include "window/output/OutputEditor.h"
@@ -171,6 +172,7 @@ bool FileCommands::openDocument(const QString& path, Camera camera)
 
 std::unique_ptr<VKD_H_ZOBDoc> FileCommands::setDocument(std::unique_ptr<VKD_H_ZOBDoc> document)
 {
+    m_parts.design->close();
     m_parts.output->close();
     m_parts.textOutput->close();
     auto previous = m_parts.project->setDocument(std::move(document));
@@ -200,6 +202,7 @@ void FileCommands::showProject(const VkdStatus& modelStatus)
     settings.addRecentFile(path);
     m_actions->setRecentFiles(settings.recentFiles());
     const bool areContentsRead = showContents();
+    m_parts.design->showProject();
     if (!modelStatus.isOk() || !areContentsRead)
         m_parts.messages->complain(
             tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
@@ -225,15 +228,18 @@ void FileCommands::painted()
         QTimer::singleShot(0, this, &FileCommands::showFirstProject);
 }
 
-/// Unsaved selections in open dialogs are preserved. If another program has changed the same part,
-/// OK asks for confirmation.
+/// Unsaved rows and unsaved selections in open dialogs are preserved. If another program has
+/// changed the same part, Apply and OK ask for confirmation.
 void FileCommands::reload()
 {
+    const auto rows = m_parts.design->state();
     const auto plots = m_parts.output->present();
     const bool isTextOpen = m_parts.textOutput->isOpen();
     const auto text = m_parts.textOutput->isChanged() ? m_parts.textOutput->state() : std::nullopt;
     if (!openDocument(m_parts.project->path(), Camera::Keep))
         return;
+    if (rows && rows->isModified)
+        m_parts.design->restore(*rows);
     if (plots && plots->isChanged)
         m_parts.output->recreate(*plots);
     else if (OutputDialog* dialog = plots ? m_parts.output->dialog() : nullptr)
@@ -254,8 +260,7 @@ bool FileCommands::saveAs()
     if (path.isEmpty())
         return false;
     if (project->check() == ProjectWatch::File::Present && isSameFile(path, project->path()))
-        return m_parts.output->store() &&
-               (!m_parts.textOutput->isOpen() || m_parts.textOutput->store());
+        return storeAll();
     if (!m_parts.output->dialog() ||
         !m_parts.messages->succeeds(copyProject(window, *project->document(), path), path,
                                     tr("The project cannot be saved in the file %1.")))
@@ -263,20 +268,31 @@ bool FileCommands::saveAs()
     return takeOver(path);
 }
 
-/// Switches to the copy of the project and preserves the selections in open dialogs.
+/// Stores the input in all open dialogs.
+bool FileCommands::storeAll()
+{
+    return m_parts.design->store() && m_parts.output->store() &&
+           (!m_parts.textOutput->isOpen() || m_parts.textOutput->store());
+}
+
+/// Continues with the copy of the project and preserves the rows and the selections in open
+/// dialogs.
 bool FileCommands::takeOver(const QString& path)
 {
+    const auto rows = m_parts.design->state();
     const auto plots = m_parts.output->present();
     const auto text = m_parts.textOutput->state();
     const bool wasTextChanged = m_parts.textOutput->isChanged();
     if (!openDocument(path, Camera::Keep))
         return false;
+    if (rows && rows->isModified)
+        m_parts.design->restore(*rows);
     m_parts.output->recreate(*plots);
     m_parts.script->showOther();
     if (text)
         m_parts.textOutput->reopen(*text);
-    const bool arePlotsStored = !plots->isChanged || m_parts.output->store();
-    if (arePlotsStored && (!wasTextChanged || m_parts.textOutput->store()))
+    if (m_parts.design->store() && (!plots->isChanged || m_parts.output->store()) &&
+        (!wasTextChanged || m_parts.textOutput->store()))
         m_parts.messages->say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
     return true;
 }
@@ -292,7 +308,8 @@ bool FileCommands::mayLeaveMissingFile()
 
 bool FileCommands::mayLeave()
 {
-    return mayLeaveMissingFile() && m_parts.textOutput->mayLeave() && m_parts.output->mayLeave();
+    return mayLeaveMissingFile() && m_parts.design->mayLeave() && m_parts.textOutput->mayLeave() &&
+           m_parts.output->mayLeave();
 }
 
 } // namespace workbench

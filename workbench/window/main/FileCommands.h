@@ -15,6 +15,7 @@ class VKD_H_ZOBDoc;
 
 namespace workbench {
 
+class DesignEditor;
 class OpenProject;
 class OutputEditor;
 class OutputScript;
@@ -28,6 +29,7 @@ struct ProjectParts
     OpenProject* project;
     WindowMessages* messages;
     AnimatorView* view;
+    DesignEditor* design;
     OutputEditor* output;
     OutputScript* script;
     TextOutputEditor* textOutput;
@@ -84,6 +86,7 @@ private:
     void showProject(const VkdStatus& modelStatus);
     void showFirstProject();
     bool takeOver(const QString& path);
+    bool storeAll();
     bool mayLeaveMissingFile();
 
     ProjectParts m_parts;

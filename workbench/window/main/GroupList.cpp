@@ -8,11 +8,22 @@
 #include <QHeaderView>
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
 namespace {
-enum Column { NumberColumn, TitleColumn, ContentsColumn };
+enum Column { NumberColumn, RowColumn, TitleColumn, ContentsColumn, ColumnCount };
+constexpr double Tint = 0.25; // part of the highlight colour in the colour of the current rows
+
+QColor tinted(const QPalette& palette)
+{
+    const QColor base = palette.color(QPalette::Base);
+    const QColor light = palette.color(QPalette::Highlight);
+    const auto mixed = [](int a, int b) { return int(a + Tint * (b - a)); };
+    return {mixed(base.red(), light.red()), mixed(base.green(), light.green()),
+            mixed(base.blue(), light.blue())};
+}
 
 int groupOf(const QTreeWidgetItem* item)
 {
@@ -22,15 +33,21 @@ int groupOf(const QTreeWidgetItem* item)
 
 GroupList::GroupList(QWidget* parent)
     : QTreeWidget(parent)
+    , m_marked(AnimatorView::NoGroup)
 {
     setObjectName(QStringLiteral("GroupList"));
-    setColumnCount(3);
+    setColumnCount(ColumnCount);
+    setColumnHidden(RowColumn, true);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     viewport()->setMouseTracking(true);
     connect(this, &QTreeWidget::itemEntered, this, &GroupList::pointAt);
-    connect(this, &QTreeWidget::currentItemChanged, this, &GroupList::pointAtCurrent);
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* current) {
+        pointAtCurrent();
+        if (current && !m_isFilling)
+            Q_EMIT groupSelected(groupOf(current));
+    });
     connect(this, &QTreeWidget::itemActivated, this,
             [this](const QTreeWidgetItem* item) { Q_EMIT groupChosen(groupOf(item)); });
     setTexts();
@@ -44,16 +61,57 @@ VkdStatus GroupList::setProject(ZobHandle project)
 
 void GroupList::setMarkedGroup(int group)
 {
-    for (int row = 0; row < topLevelItemCount(); ++row) {
-        QTreeWidgetItem* item = topLevelItem(row);
-        const bool isMarked = groupOf(item) == group;
-        for (int column = 0; column < columnCount(); ++column) {
-            item->setBackground(column, isMarked ? palette().brush(QPalette::Highlight) : QBrush());
-            item->setForeground(column,
-                                isMarked ? palette().brush(QPalette::HighlightedText) : QBrush());
-        }
-        if (isMarked)
-            scrollToItem(item);
+    const int before = std::exchange(m_marked, group);
+    show(m_items.value(before));
+    show(m_items.value(group));
+    if (QTreeWidgetItem* item = m_items.value(group))
+        scrollToItem(item);
+}
+
+void GroupList::setRowGroups(const QSet<int>& groups)
+{
+    const QSet<int> before = std::exchange(m_rowGroups, groups);
+    for (int group : before + groups)
+        if (before.contains(group) != groups.contains(group))
+            show(m_items.value(group));
+}
+
+void GroupList::setRows(const QHash<int, QString>* rows)
+{
+    m_rows = rows ? *rows : QHash<int, QString>();
+    setColumnHidden(RowColumn, !rows);
+    for (auto it = m_items.cbegin(); it != m_items.cend(); ++it)
+        it.value()->setText(RowColumn, m_rows.value(it.key()));
+    resizeColumnToContents(RowColumn);
+}
+
+std::vector<int> GroupList::groups() const
+{
+    std::vector<int> groups;
+    for (int row = 0; row < topLevelItemCount(); ++row)
+        groups.push_back(groupOf(topLevelItem(row)));
+    return groups;
+}
+
+/// Updates the colours and the font of an item, which may be null.
+void GroupList::show(QTreeWidgetItem* item)
+{
+    if (!item)
+        return;
+    const int group = groupOf(item);
+    const bool isMarked = group == m_marked;
+    const bool isOfRow = m_rowGroups.contains(group);
+    QFont bold = font();
+    bold.setBold(true);
+    const QBrush back = isMarked  ? palette().brush(QPalette::Highlight)
+                        : isOfRow ? QBrush(tinted(palette()))
+                                  : QBrush();
+    for (int column = 0; column < columnCount(); ++column) {
+        item->setBackground(column, back);
+        item->setForeground(column,
+                            isMarked ? palette().brush(QPalette::HighlightedText) : QBrush());
+        if (column <= RowColumn) // bold titles would not fit into their column
+            item->setData(column, Qt::FontRole, isOfRow ? QVariant(bold) : QVariant());
     }
 }
 
@@ -64,6 +122,9 @@ void GroupList::changeEvent(QEvent* event)
         setTexts();
         fill();
     }
+    if (event->type() == QEvent::PaletteChange)
+        for (QTreeWidgetItem* item : qAsConst(m_items))
+            show(item);
 }
 
 void GroupList::focusInEvent(QFocusEvent* event)
@@ -88,7 +149,7 @@ bool GroupList::viewportEvent(QEvent* event)
 void GroupList::setTexts()
 {
     setAccessibleName(tr("Groups"));
-    setHeaderLabels({tr("No."), tr("Title"), tr("Contents")});
+    setHeaderLabels({tr("No."), tr("Row"), tr("Title"), tr("Contents")});
     setToolTip(tr("Groups of the model. Pointing at one lights it up in the view."));
     fitColumns();
 }
@@ -97,6 +158,8 @@ VkdStatus GroupList::fill()
 {
     VkdStatus status;
     const int current = groupOf(currentItem());
+    m_isFilling = true;
+    m_items.clear();
     clear();
     m_withoutAreas.clear();
     const auto groups = m_project.isNull() ? QVector<vkd::dbo::GroupSummary>()
@@ -107,6 +170,11 @@ VkdStatus GroupList::fill()
         item->setTextAlignment(NumberColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setText(TitleColumn, group.title);
         item->setText(ContentsColumn, vkd::h::groupContentsText(group.contents));
+        item->setText(RowColumn, m_rows.value(group.number));
+        item->setTextAlignment(RowColumn, Qt::AlignRight | Qt::AlignVCenter);
+        m_items[group.number] = item;
+        if (m_rowGroups.contains(group.number))
+            show(item);
         if (group.number == current)
             setCurrentItem(item);
         if (!vkd::dbo::hasAreas(group.contents))
@@ -114,6 +182,7 @@ VkdStatus GroupList::fill()
     }
     std::sort(m_withoutAreas.begin(), m_withoutAreas.end());
     fitColumns();
+    m_isFilling = false;
     return status;
 }
 

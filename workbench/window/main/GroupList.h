@@ -3,15 +3,17 @@
 #include <vkd_status.h>
 #include <ZobHandle.h>
 
+#include <QHash>
+#include <QSet>
 #include <QTreeWidget>
 
 #include <vector>
 
 namespace workbench {
 
-/// The primary groups of a project with number, title and contents. It emits a signal for the group
-/// that the user points at, with the mouse or the keyboard, and marks the group that the user
-/// points at in the model.
+/// The primary groups of a project with number, title and contents, and with their design rows
+/// while these are edited. It emits a signal for the group that the user points at, with the mouse
+/// or the keyboard, and marks the group that the user points at in the model.
 class GroupList : public QTreeWidget
 {
     Q_OBJECT
@@ -25,6 +27,13 @@ public:
     /// Marks the group that the user points at in the model, or no group (AnimatorView::NoGroup).
     /// The current row does not change, and no signal is emitted.
     void setMarkedGroup(int group);
+    /// Marks the groups of the current design rows.
+    void setRowGroups(const QSet<int>& groups);
+    /// Shows the numbers of the design rows of groups, or hides their column if the pointer is
+    /// null.
+    void setRows(const QHash<int, QString>* rows);
+    /// Returns all groups in the order of the list.
+    std::vector<int> groups() const;
     /// Returns the groups without area elements, in ascending order. These groups cannot be
     /// designed.
     const std::vector<int>& groupsWithoutAreas() const { return m_withoutAreas; }
@@ -36,6 +45,8 @@ Q_SIGNALS:
     void groupPointed(int group);
     /// Emitted when the user activates a group with Enter or a double click.
     void groupChosen(int group);
+    /// Emitted when the user makes another group the current group.
+    void groupSelected(int group);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -46,11 +57,17 @@ protected:
 private:
     void setTexts();
     VkdStatus fill();
+    void show(QTreeWidgetItem* item);
     void fitColumns();
     void pointAtCurrent();
     void pointAt(const QTreeWidgetItem* item);
 
     ZobHandle m_project;
+    QHash<int, QTreeWidgetItem*> m_items;
+    int m_marked;
+    QSet<int> m_rowGroups;
+    QHash<int, QString> m_rows;
+    bool m_isFilling = false;
     std::vector<int> m_withoutAreas;
 };
 

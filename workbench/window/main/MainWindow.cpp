@@ -1,7 +1,9 @@
 #include "window/main/MainWindow.h"
 
 #include "sheet/SheetPreview.h"
+#include "window/design/DesignDock.h"
 #include "window/design/DesignEditor.h"
+#include "window/design/RowsInView.h"
 #include "window/main/ChangeBar.h"
 #include "window/main/FileCommands.h"
 #include "window/main/GroupList.h"
@@ -57,8 +59,11 @@ MainWindow::~MainWindow() = default;
 void MainWindow::createEditors(const MakeProject& makeProject)
 {
     const QList<QAction*> actions = m_actions->besideDialogs();
-    m_designEditor = std::make_unique<DesignEditor>(&m_project, &m_access, &m_messages,
-                                                    m_panes->view, m_panes->banner);
+    const RowsInView::Widgets rows{m_panes->view, m_panes->groups, m_panes->banner,
+                                   m_panes->design};
+    m_rowsInView = std::make_unique<RowsInView>(rows, &m_messages);
+    m_designEditor =
+        std::make_unique<DesignEditor>(&m_project, &m_access, &m_messages, m_panes->design);
     m_outputEditor = std::make_unique<OutputEditor>(&m_project, &m_access, &m_messages, actions);
     m_outputScript = std::make_unique<OutputScript>(&m_project, m_outputEditor.get(), &m_messages,
                                                     m_panes->script, m_panes->sheets);
@@ -67,6 +72,7 @@ void MainWindow::createEditors(const MakeProject& makeProject)
     const ProjectParts parts{&m_project,
                              &m_messages,
                              m_panes->view,
+                             m_designEditor.get(),
                              m_outputEditor.get(),
                              m_outputScript.get(),
                              m_textOutputEditor.get(),
@@ -100,17 +106,11 @@ void MainWindow::connectPanes()
 {
     connect(m_panes->groups, &GroupList::groupPointed, m_panes->view,
             &AnimatorView::setHighlightedGroup);
-    connect(m_panes->groups, &GroupList::groupChosen, m_designEditor.get(), &DesignEditor::pick);
     connect(m_panes->view, &AnimatorView::groupHovered, m_panes->groups,
             &GroupList::setMarkedGroup);
-    connect(m_designEditor.get(), &DesignEditor::pickingChanged, this, [this](bool isPicking) {
-        if (!isPicking)
-            m_panes->groups->setMarkedGroup(AnimatorView::NoGroup);
-        enableActions();
-    });
     connect(m_panes, &WindowPanes::sheetsVisibleChanged, m_outputScript.get(),
             &OutputScript::setSheetsVisible);
-    auto drop = new FileDrop(this, [this] { return !m_designEditor->isActive(); });
+    auto drop = new FileDrop(this, [] { return !QApplication::activeModalWidget(); });
     connect(drop, &FileDrop::dropped, m_files.get(), &FileCommands::openDropped);
 }
 
@@ -119,6 +119,9 @@ void MainWindow::connectProject()
     connect(&m_project, &OpenProject::changedOutside, this, &MainWindow::showNews);
     connect(m_files.get(), &FileCommands::replaced, this, &MainWindow::showReplaced);
     connect(m_designEditor.get(), &DesignEditor::stored, this, &MainWindow::showRecords);
+    connect(m_designEditor.get(), &DesignEditor::modified, this, &MainWindow::showModified);
+    connect(m_designEditor.get(), &DesignEditor::pageChanged, m_rowsInView.get(),
+            &RowsInView::pageChanged);
     connect(m_outputEditor.get(), &OutputEditor::modified, this, &MainWindow::showModified);
     connect(m_outputEditor.get(), &OutputEditor::refused, this, &MainWindow::showOutput);
     connect(m_textOutputEditor.get(), &TextOutputEditor::modified, this, &MainWindow::showModified);
@@ -151,10 +154,6 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (m_designEditor->isActive()) {
-        m_messages.say(tr("Finish picking groups first, with Done or Cancel."));
-        return event->ignore();
-    }
     if (!m_files->mayLeave())
         return event->ignore();
     m_outputEditor->close();
@@ -173,6 +172,7 @@ void MainWindow::setTexts()
 {
     m_actions->setTexts();
     m_panes->setTexts();
+    m_rowsInView->setTexts();
     setTitle();
     showContents();
 }
@@ -186,8 +186,8 @@ void MainWindow::setTitle()
 
 void MainWindow::enableActions()
 {
-    m_actions->enable(m_project.isOpen(), m_panes->view->isPicking(),
-                      m_project.file() == ProjectWatch::File::Missing);
+    m_actions->enable(m_project.isOpen(), m_project.file() == ProjectWatch::File::Missing);
+    m_panes->design->toggleViewAction()->setEnabled(m_project.isOpen());
 }
 
 void MainWindow::showReplaced()
@@ -206,7 +206,7 @@ bool MainWindow::showProject()
 {
     const WaitCursor cursor;
     const VkdStatus groups = m_panes->groups->setProject(m_project.handle());
-    m_designEditor->setGroupsWithoutAreas(m_panes->groups->groupsWithoutAreas());
+    m_rowsInView->groupsChanged();
     const bool areRecordsRead = showRecords();
     m_outputScript->clear();
     m_panes->sheets->setProject(m_project.handle(), m_project.name());
@@ -241,26 +241,28 @@ void MainWindow::showNews()
         return;
     enableActions();
     const bool isChanged = m_project.isChangedByOthers();
-    if (isChanged)
-        followOthers();
-    m_panes->news->report(isChanged, m_project.file());
+    const bool areRowsOlder = isChanged && !followOthers();
+    m_panes->news->report(isChanged, m_project.file(), areRowsOlder);
 }
 
-/// Reloads the records and the script, except for selections that are displayed or that the user
-/// has changed. The Reload action also loads these selections.
-void MainWindow::followOthers()
+/// Reloads the records, the rows and the script, except for rows that the user has changed and
+/// selections that are displayed or that the user has changed. The Reload action also loads these
+/// selections. Returns false if the user's rows are older than those in the project.
+bool MainWindow::followOthers()
 {
     if (m_project.readStatus() != VKD_ZOB_OK)
-        return;
+        return true;
     m_project.markFollowed();
     showRecords();
     if (m_outputEditor->followOthers())
         m_outputScript->refresh();
+    return m_designEditor->followOthers();
 }
 
 void MainWindow::showModified()
 {
-    setWindowModified(m_outputEditor->isChanged() || m_textOutputEditor->isChanged());
+    setWindowModified(m_designEditor->isChanged() || m_outputEditor->isChanged() ||
+                      m_textOutputEditor->isChanged());
 }
 
 /// Places the dialog next to the script, so that the user sees the effect of each click.
@@ -276,12 +278,15 @@ void MainWindow::setLanguage(vkd::Language language)
         return;
     if (m_project.isOpen() && !m_access.canRead()) // its data would be reloaded
         return m_actions->setTexts();
+    const auto rows = m_designEditor->state();
     const auto before = m_outputEditor->present();
     m_outputEditor->close();
     vkd::setDesktopLanguage(language);
     VKD_QT_InitTranslator::languageChanged();
     WindowSettings().setLanguage(language);
     m_textOutputEditor->recreate();
+    if (rows)
+        m_designEditor->restore(*rows);
     if (before)
         m_outputEditor->recreate(*before);
     m_outputScript->refresh();

@@ -17,6 +17,7 @@ class DesignEditor;
 class FileCommands;
 class OutputEditor;
 class OutputScript;
+class RowsInView;
 class TextOutputEditor;
 class WindowActions;
 class WindowPanes;
@@ -24,9 +25,9 @@ class WindowPanes;
 /// The main window. It hosts the library's pages, and connects its panes and actions to the classes
 /// that implement the commands: an editor for each dialog, and FileCommands for projects.
 ///
-/// Clicking OK in a dialog immediately writes to the project file. Only the selection in an open
-/// output dialog may be unsaved, and the window asks whether to save it before the project is
-/// closed.
+/// OK in a dialog and Apply in the design dock immediately write to the project file. Only the rows
+/// in the design dock and the selection in an open output dialog may be unsaved, and the window
+/// asks whether to save them before the project is closed.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -62,7 +63,7 @@ private:
     bool showContents();
     bool showRecords();
     void showNews();
-    void followOthers();
+    bool followOthers();
     void showModified();
     void showOutput();
     void setLanguage(vkd::Language language);
@@ -76,6 +77,7 @@ private:
     OpenProject m_project;
     WindowMessages m_messages{this};
     ProjectAccess m_access{&m_project, &m_messages};
+    std::unique_ptr<RowsInView> m_rowsInView;
     std::unique_ptr<DesignEditor> m_designEditor;
     std::unique_ptr<OutputEditor> m_outputEditor;
     std::unique_ptr<OutputScript> m_outputScript;

@@ -163,6 +163,8 @@ void WindowActions::addMenus(QMainWindow* window)
     m_fileMenu->addActions({copyScript, saveScript, exportSheets});
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(quit);
+    editMenu = bar->addMenu(QString());
+    editMenu->setObjectName(QStringLiteral("EditMenu"));
     viewMenu = bar->addMenu(QString());
     viewMenu->addActions(views.toList());
     viewMenu->addSeparator();
@@ -220,6 +222,7 @@ void WindowActions::setTexts()
     m_fileMenu->setTitle(tr("&File"));
     m_newMenu->setTitle(tr("&New from Model"));
     recentMenu->setTitle(tr("Open &Recent"));
+    editMenu->setTitle(tr("&Edit"));
     viewMenu->setTitle(tr("&View"));
     m_projectMenu->setTitle(tr("&Project"));
     m_languageMenu->setTitle(tr("&Language"));
@@ -242,7 +245,7 @@ void WindowActions::setTexts()
     exportSheets->setIconText(tr("Export PDF..."));
     exportSheets->setToolTip(tr("Saves all pages in a file"));
     quit->setText(tr("&Quit"));
-    design->setText(tr("&Design Parameters..."));
+    design->setText(tr("&Design Parameters"));
     output->setText(tr("&Graphical Output..."));
     textOutput->setText(tr("&Text Output..."));
     sheet->setText(tr("&Sheet Preview"));
@@ -259,16 +262,11 @@ void WindowActions::setTexts()
     (isGerman ? german : english)->setChecked(true);
 }
 
-void WindowActions::enable(bool hasProject, bool isPicking, bool isFileGone)
+void WindowActions::enable(bool hasProject, bool isFileGone)
 {
-    for (QAction* action : qAsConst(newFromSample))
-        action->setEnabled(!isPicking);
-    for (QAction* action : {newFromFile, open, german, english, quit})
-        action->setEnabled(!isPicking);
-    recentMenu->setEnabled(!isPicking && !recentMenu->isEmpty());
     for (QAction* action : {saveAs, design, output, textOutput, sheet})
-        action->setEnabled(hasProject && !isPicking);
-    reload->setEnabled(hasProject && !isPicking && !isFileGone);
+        action->setEnabled(hasProject);
+    reload->setEnabled(hasProject && !isFileGone);
     for (QAction* action : qAsConst(views))
         action->setEnabled(hasProject);
 }

@@ -22,10 +22,9 @@ public:
 
     /// Sets labels and shortcuts in the language of the desktop.
     void setTexts();
-    /// Enables the actions that are currently possible. Nearly all actions need a project, and the
-    /// project must not change while groups are picked. A project whose file is missing cannot be
-    /// reloaded.
-    void enable(bool hasProject, bool isPicking, bool isFileGone = false);
+    /// Enables the actions that are currently possible. Nearly all actions need a project. A
+    /// project whose file is missing cannot be reloaded.
+    void enable(bool hasProject, bool isFileGone = false);
     void setHasScript(bool hasScript);
     /// Lists the files in the Recent Files menu. The data of each action is the path.
     void setRecentFiles(const QStringList& paths);
@@ -55,6 +54,7 @@ public:
     QAction* about;
 
     QMenu* recentMenu = nullptr;
+    QMenu* editMenu = nullptr; ///< the dock with the focus provides its actions
     QMenu* viewMenu = nullptr;
 
 private:

@@ -1,6 +1,7 @@
 #include "window/main/WindowPanes.h"
 
 #include "sheet/SheetPreview.h"
+#include "window/design/DesignDock.h"
 #include "window/design/PickBanner.h"
 #include "window/main/ChangeBar.h"
 #include "window/main/DockShares.h"
@@ -19,6 +20,8 @@
 #include <QMenu>
 #include <QTabBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace workbench {
 
@@ -47,6 +50,7 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     , view(new AnimatorView(ZobHandle(), window))
     , script(new ScriptPane(actions.copyScript, actions.saveScript, window))
     , sheets(new SheetPreview(actions.exportSheets, window))
+    , design(new DesignDock(actions.editMenu, window))
     , m_window(window)
 {
     addCentre();
@@ -80,8 +84,12 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_scriptDock = addDock(m_window, Qt::RightDockWidgetArea, script, "ScriptDock");
     m_sheetDock = addDock(m_window, Qt::RightDockWidgetArea, sheets, "SheetDock");
     m_recordDock = addDock(m_window, Qt::BottomDockWidgetArea, nullptr, "RecordDock");
-    for (const QDockWidget* dock : {m_groupDock, m_scriptDock, m_sheetDock, m_recordDock})
+    m_window->addDockWidget(Qt::BottomDockWidgetArea, design);
+    design->hide();
+    for (const QDockWidget* dock : std::initializer_list<const QDockWidget*>{
+             m_groupDock, design, m_scriptDock, m_sheetDock, m_recordDock})
         actions.viewMenu->addAction(dock->toggleViewAction());
+    connect(design, &QDockWidget::visibilityChanged, this, &WindowPanes::makeRoomForDesign);
     m_window->tabifyDockWidget(m_scriptDock, m_sheetDock);
     m_scriptDock->raise();
 }
@@ -98,7 +106,23 @@ void WindowPanes::resizeDocks()
     m_window->resizeDocks({m_recordDock}, {10 * metrics.height()}, Qt::Vertical);
     auto shares = new DockShares(m_window);
     shares->add({m_scriptDock, m_sheetDock}, Qt::Horizontal);
-    shares->add({m_recordDock}, Qt::Vertical);
+    shares->add({m_recordDock, design}, Qt::Vertical);
+}
+
+/// The page is wide, and it needs a few rows. While its dock is closed, the script has the whole
+/// height.
+void WindowPanes::makeRoomForDesign()
+{
+    const bool isBelow = !design->isHidden() && !design->isFloating();
+    m_window->setCorner(Qt::BottomRightCorner,
+                        isBelow ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea);
+    if (!isBelow || std::exchange(m_isDesignPlaced, true))
+        return; // later, the user decides about the place and the height
+    if (!m_isStateRestored)
+        m_window->tabifyDockWidget(m_recordDock, design);
+    const int wanted = qMin(18 * m_window->fontMetrics().height(), m_window->height() * 2 / 5);
+    if (design->height() < wanted)
+        m_window->resizeDocks({design}, {wanted}, Qt::Vertical);
 }
 
 void WindowPanes::setTexts()
@@ -108,6 +132,7 @@ void WindowPanes::setTexts()
     m_scriptDock->setWindowTitle(tr("Script"));
     m_sheetDock->setWindowTitle(tr("Sheet"));
     m_recordDock->setWindowTitle(tr("Records"));
+    design->setTexts();
     nameTabBars();
 }
 
@@ -153,7 +178,9 @@ void WindowPanes::restoreGeometry()
 {
     const WindowSettings settings;
     m_window->restoreGeometry(settings.value(GeometryKey).toByteArray());
-    m_window->restoreState(settings.value(StateKey).toByteArray(), StateVersion);
+    m_isStateRestored =
+        m_window->restoreState(settings.value(StateKey).toByteArray(), StateVersion);
+    design->hide(); // until a project is open and the user opens the dock
 }
 
 void WindowPanes::saveGeometry() const

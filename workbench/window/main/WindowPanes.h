@@ -10,6 +10,7 @@ class QWidget;
 namespace workbench {
 
 class ChangeBar;
+class DesignDock;
 class GroupList;
 class PickBanner;
 class RecordsPane;
@@ -51,6 +52,7 @@ public:
     AnimatorView* const view;
     ScriptPane* const script;
     SheetPreview* const sheets;
+    DesignDock* const design;
 
 Q_SIGNALS:
     /// Emitted when the sheet preview becomes visible or invisible to the user.
@@ -60,6 +62,7 @@ private:
     void addCentre();
     void addDocks(const WindowActions& actions);
     void resizeDocks();
+    void makeRoomForDesign();
     void nameTabBars();
 
     QMainWindow* m_window;
@@ -68,6 +71,8 @@ private:
     QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;
     RecordsPane* m_records = nullptr;
+    bool m_isStateRestored = false;
+    bool m_isDesignPlaced = false;
 };
 
 } // namespace workbench

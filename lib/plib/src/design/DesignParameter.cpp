@@ -2,6 +2,7 @@
 
 #include "design/designColumns.h"
 #include "design/DesignParameterTable.h"
+#include "design/HostRows.h"
 #include "design/RowActions.h"
 #include "design/RowParameters.h"
 #include "design/RowsClipboard.h"
@@ -87,6 +88,7 @@ void DesignParameter::init()
     setLayout(layout);
     connectTable();
     new plib::RowsHistory(this);
+    new plib::HostRows(this);
     new plib::RowActions(this);
     new plib::RowsClipboard(this);
     new plib::RowParameters(this);

@@ -43,6 +43,7 @@ public:
 
     // For the objects that implement undo, the clipboard and the editing of rows.
     plib::DesignParameterData& state() { return *data; }
+    bool isConverted() const { return converted; }
     /// Commits the selection in an open list of types.
     void finishEditing();
     /// Updates the texts of rows whose parameters have changed.
@@ -98,6 +99,7 @@ private:
     bool hasFocusInEditor() const;
     void makeEditedCellCurrent();
     void followCurrentCell();
+    void pickBesidePage(int row);
     void layOver(int row, int column, QWidget* editor);
     void clearCellWidget(int row, int column);
     void openSelection(int row, int column, plib::DesignParameterRow& shown);

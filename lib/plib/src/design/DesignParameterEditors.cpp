@@ -3,6 +3,7 @@
 #include "design/DesignParameter.h"
 
 #include "design/DesignParameterTable.h"
+#include "design/HostRows.h"
 #include "design/RowEditing.h"
 #include "design/RowsHistory.h"
 #include "design/sharedGroupMarks.h"
@@ -16,6 +17,7 @@
 #include "record/designRows.h"
 #include "record/groupsNotice.h"
 
+#include <vkd_dbo_packedNames.h>
 #include <VKD_H_SecondaryGroupDialog.h>
 #include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_ZOBDoc.h>
@@ -27,6 +29,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <iterator>
 #include <type_traits>
 
 using plib::DesignParameterRow;
@@ -253,7 +256,27 @@ void DesignParameter::slot_openGroups()
         connect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
                 &DesignParameter::slot_onReopenGroups);
         data->dialog->callDone(VKD_H_SelGRP_Dialog::PickOutside);
+    } else if (result == VKD_H_SelGRP_Dialog::PickOutside) {
+        pickBesidePage(row);
     }
+}
+
+/// If the host lets the user pick groups while the page stays open, assigns the groups that are
+/// checked in the dialog. Groups that the dialog does not show are preserved if nothing else has
+/// changed.
+void DesignParameter::pickBesidePage(int row)
+{
+    const auto host = findChild<plib::HostRows*>(QString(), Qt::FindDirectChildrenOnly);
+    const DesignParameterRow* shown = plib::rowAt(*data, row);
+    if (!shown || !host->isPickingPossible())
+        return;
+    std::vector<int> checked, present;
+    VKD_H_SelGRP_Dialog::getAniSelectionFromZob(VKD_H_SelGRP_Dialog::StartOfPicking, checked);
+    std::copy_if(shown->groups.begin(), shown->groups.end(), std::back_inserter(present),
+                 [](int group) { return group >= 0 && group < vkd::dbo::FirstPackedName; });
+    if (checked != present)
+        takeGroups(row, checked);
+    Q_EMIT host->pickingRequested();
 }
 
 void DesignParameter::slot_openSekGroups()

@@ -80,6 +80,8 @@ RowsHistory::RowsHistory(DesignParameter* page)
         showSteps();
         m_page->showNotice(QString()); // was about an earlier step
     });
+    connect(&m_stack, &QUndoStack::cleanChanged, this,
+            [this](bool isClean) { Q_EMIT modifiedChanged(!isClean); });
     showSteps();
 }
 
@@ -93,7 +95,14 @@ void RowsHistory::restart()
 {
     m_known = m_page->state().rows;
     m_stack.clear();
+    m_stack.setClean();
     showSteps();
+    Q_EMIT rowsChanged();
+}
+
+void RowsHistory::setModified(bool isModified)
+{
+    isModified ? m_stack.resetClean() : m_stack.setClean();
 }
 
 void RowsHistory::showSteps()
@@ -126,6 +135,7 @@ void RowsHistory::record(const QString& name, const std::set<int>& rows,
     m_stack.push(new Command(this, std::make_shared<RecordedChange>(RecordedChange{
                                        name, std::move(change), selectedBefore, selectedAfter})));
     dropOldSteps();
+    Q_EMIT rowsChanged();
 }
 
 /// Limits the memory. The stack can only be cleared as a whole, so the newest steps are pushed
@@ -144,9 +154,18 @@ void RowsHistory::dropOldSteps()
     std::vector<std::shared_ptr<const RecordedChange>> newest;
     for (int index = qMin(kept, m_stack.count() - 1); index < m_stack.count(); ++index)
         newest.push_back(changeAt(index));
-    m_stack.clear();
-    for (const auto& change : newest)
-        m_stack.push(new Command(this, change));
+    const int clean = m_stack.cleanIndex() - (m_stack.count() - int(newest.size()));
+    {
+        const QSignalBlocker silent(&m_stack); // whether the rows are modified does not change
+        m_stack.clear();
+        m_stack.resetClean();
+        for (const auto& change : newest) {
+            m_stack.push(new Command(this, change));
+            if (m_stack.count() == clean)
+                m_stack.setClean();
+        }
+    }
+    showSteps();
 }
 
 void RowsHistory::replace(const RecordedChange& change, bool isUndo)
@@ -156,6 +175,7 @@ void RowsHistory::replace(const RecordedChange& change, bool isUndo)
     replaceRows(m_known, change.rows.first, int(from.size()), to);
     m_page->replaceRows(change.rows.first, int(from.size()), to,
                         isUndo ? change.selectedBefore : change.selectedAfter);
+    Q_EMIT rowsChanged();
 }
 
 RecordedStep::RecordedStep(DesignParameter* page, RowsStep step, std::set<int> rows)

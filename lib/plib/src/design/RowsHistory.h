@@ -30,10 +30,18 @@ public:
     explicit RowsHistory(DesignParameter* page);
     ~RowsHistory() override;
 
-    /// Clears the history.
+    /// Clears the history. The rows count as unmodified.
     void restart();
+    /// Returns whether the rows differ from those that were read or written last.
+    bool isModified() const { return !m_stack.isClean(); }
+    void setModified(bool isModified);
     void record(const QString& name, const std::set<int>& rows,
                 const TableSelection& selectedBefore);
+
+Q_SIGNALS:
+    void modifiedChanged(bool isModified);
+    /// Emitted after each step, after undo and redo, and after restart().
+    void rowsChanged();
 
 private:
     class Command;

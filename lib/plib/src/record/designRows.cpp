@@ -75,6 +75,29 @@ std::optional<int> commonType(const DesignParameterData& data, const std::set<in
     return common;
 }
 
+GroupLists listsAfterAssigning(const DesignParameterData& data, int row,
+                               const std::vector<int>& groups)
+{
+    GroupLists lists;
+    if (row < 1 || row >= int(data.rows.size()))
+        return lists;
+    const std::vector<int>& before = data.rows[std::size_t(row)].groups;
+    const std::set<int> old(before.begin(), before.end());
+    std::set<int> wanted(groups.begin(), groups.end());
+    wanted.erase(wanted.begin(), wanted.lower_bound(0));
+    if (wanted == old)
+        return lists;
+    lists[row].assign(wanted.begin(), wanted.end());
+    const auto isNew = [&](int group) { return wanted.count(group) > 0 && old.count(group) == 0; };
+    for (int other = 1; other < int(data.rows.size()); ++other) {
+        std::vector<int> list = data.rows[std::size_t(other)].groups;
+        list.erase(std::remove_if(list.begin(), list.end(), isNew), list.end());
+        if (other != row && list.size() != data.rows[std::size_t(other)].groups.size())
+            lists[other] = std::move(list);
+    }
+    return lists;
+}
+
 void removeRows(DesignParameterData& data, const std::set<int>& rows)
 {
     std::size_t kept = 0;

@@ -2,6 +2,7 @@
 
 #include "record/DesignParameterData.h"
 
+#include <map>
 #include <optional>
 #include <set>
 
@@ -37,6 +38,15 @@ std::set<int> rowsWith(int current, const std::set<int>& selected);
 
 /// Returns the type of these rows, or nothing if their types differ.
 std::optional<int> commonType(const DesignParameterData& data, const std::set<int>& rows);
+
+/// Group lists by the number of their row.
+using GroupLists = std::map<int, std::vector<int>>;
+
+/// Returns the lists that change if `groups` become the groups of a row. Groups that are new in the
+/// row are removed from the other rows, because a group has only one record. Row 0 is reserved for
+/// the remaining groups, so its list never changes. Negative numbers in `groups` are ignored.
+GroupLists listsAfterAssigning(const DesignParameterData& data, int row,
+                               const std::vector<int>& groups);
 
 /// Removes these rows in one pass.
 void removeRows(DesignParameterData& data, const std::set<int>& rows);

@@ -42,15 +42,15 @@ double palenessOf(GroupMark mark)
 {
     return mark == GroupMark::Pale ? 0.75 : mark == GroupMark::Dimmed ? 0.6 : 0.0;
 }
+} // namespace
 
-/// Returns one of the hues. After all hues have been used, they are mixed with white or black.
-QColor colourOf(int groupIndex)
+/// After all hues have been used, they are mixed with white or black.
+QColor GroupColours::distinctColour(int index)
 {
-    const QColor hue = QColor::fromRgb(Hues[groupIndex % HueCount]);
-    const int round = groupIndex / HueCount % 3;
+    const QColor hue = QColor::fromRgb(Hues[index % HueCount]);
+    const int round = index / HueCount % 3;
     return round == 0 ? hue : mixed(hue, round == 1 ? Qt::white : Qt::black, 0.4);
 }
-} // namespace
 
 GroupColours::GroupColours(const QPalette& palette, const std::vector<int>& groups,
                            const GroupMarks& marks, double meshStrength)
@@ -61,15 +61,21 @@ GroupColours::GroupColours(const QPalette& palette, const std::vector<int>& grou
     const bool isAnyLit = std::any_of(groups.begin(), groups.end(),
                                       [&marks](int group) { return marks.isLit(group); });
     m_sets.reserve(groups.size());
-    for (size_t i = 0; i < groups.size(); ++i)
-        m_sets.push_back(makeSet(int(i), marks.markOf(groups[i], isAnyLit), meshStrength));
+    const QColor pale = mixed(mixed(m_text, m_background, 0.5), m_background, 0.75);
+    for (size_t i = 0; i < groups.size(); ++i) {
+        const QColor assigned = marks.colourOf(groups[i]);
+        const QColor own = marks.hasColours() ? pale : distinctColour(int(i));
+        m_sets.push_back(makeSet(assigned.isValid() ? assigned : own,
+                                 marks.markOf(groups[i], isAnyLit), meshStrength));
+    }
 }
 
-GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double meshStrength) const
+GroupColours::Set GroupColours::makeSet(const QColor& ownColour, GroupMark mark,
+                                        double meshStrength) const
 {
     const bool isLit = mark == GroupMark::Lit || mark == GroupMark::PickedLit;
     const bool isPicked = mark == GroupMark::Picked || mark == GroupMark::PickedLit;
-    const QColor colour = markedColour(groupIndex, mark);
+    const QColor colour = markedColour(ownColour, mark);
     const QColor outline = mixed(m_text, m_background, 0.8 * palenessOf(mark));
     const QColor meshLine = isPicked ? m_background : outline;
     Set set;
@@ -88,9 +94,8 @@ GroupColours::Set GroupColours::makeSet(int groupIndex, GroupMark mark, double m
     return set;
 }
 
-QColor GroupColours::markedColour(int groupIndex, GroupMark mark) const
+QColor GroupColours::markedColour(const QColor& colour, GroupMark mark) const
 {
-    const QColor colour = colourOf(groupIndex);
     switch (mark) {
     case GroupMark::None:
     case GroupMark::Lit: return colour; // a different hue would look like another group

@@ -34,13 +34,17 @@ public:
     GroupColours(const QPalette& palette, const std::vector<int>& groups, const GroupMarks& marks,
                  double meshStrength);
 
+    /// Returns one of the colours that groups have if none is assigned to them. Colours with
+    /// adjacent indexes differ most.
+    static QColor distinctColour(int index);
+
     const Set& operator[](int groupIndex) const { return m_sets[size_t(groupIndex)]; }
     QColor symbol() const { return m_text; }
     QColor background() const { return m_background; }
 
 private:
-    Set makeSet(int groupIndex, GroupMark mark, double meshStrength) const;
-    QColor markedColour(int groupIndex, GroupMark mark) const;
+    Set makeSet(const QColor& ownColour, GroupMark mark, double meshStrength) const;
+    QColor markedColour(const QColor& colour, GroupMark mark) const;
     QColor readable(QColor colour) const;
 
     QColor m_text;

@@ -6,6 +6,19 @@
 namespace vkd {
 namespace aniview {
 
+namespace {
+/// Returns whether the list has changed. Sorts it and removes duplicates.
+bool replace(std::vector<int>& list, const std::vector<int>& by)
+{
+    std::vector<int> sorted = by;
+    std::sort(sorted.begin(), sorted.end());
+    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
+    const bool changes = sorted != list;
+    list = std::move(sorted);
+    return changes;
+}
+} // namespace
+
 bool GroupMarks::setPicking(bool picking)
 {
     return std::exchange(m_isPicking, picking) != picking;
@@ -13,12 +26,7 @@ bool GroupMarks::setPicking(bool picking)
 
 bool GroupMarks::setPicked(const std::vector<int>& groups)
 {
-    std::vector<int> sorted = groups;
-    std::sort(sorted.begin(), sorted.end());
-    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
-    const bool changes = sorted != m_picked;
-    m_picked = std::move(sorted);
-    return changes;
+    return replace(m_picked, groups);
 }
 
 bool GroupMarks::setHovered(int group)
@@ -29,6 +37,24 @@ bool GroupMarks::setHovered(int group)
 bool GroupMarks::setHighlighted(int group)
 {
     return std::exchange(m_highlighted, group) != group;
+}
+
+bool GroupMarks::setSelected(const std::vector<int>& groups)
+{
+    return replace(m_selected, groups);
+}
+
+bool GroupMarks::setColours(const std::map<int, QColor>& colours)
+{
+    const bool changes = m_colours != colours;
+    m_colours = colours;
+    return changes;
+}
+
+QColor GroupMarks::colourOf(int group) const
+{
+    const auto found = m_colours.find(group);
+    return found == m_colours.end() ? QColor() : found->second;
 }
 
 void GroupMarks::toggle(int group)
@@ -42,11 +68,14 @@ void GroupMarks::toggle(int group)
 
 bool GroupMarks::isLit(int group) const
 {
-    return group == m_highlighted || group == m_hovered;
+    return group == m_highlighted || group == m_hovered ||
+           std::binary_search(m_selected.begin(), m_selected.end(), group);
 }
 
 GroupMark GroupMarks::markOf(int group, bool isAnyLit) const
 {
+    if (hasColours())
+        return isLit(group) || (m_isPicking && isPicked(group)) ? GroupMark::Lit : GroupMark::None;
     if (m_isPicking && isPicked(group))
         return isLit(group) ? GroupMark::PickedLit : GroupMark::Picked;
     if (isLit(group))

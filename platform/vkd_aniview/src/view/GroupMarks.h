@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QColor>
+
+#include <map>
 #include <vector>
 
 namespace vkd {
@@ -9,7 +12,8 @@ namespace aniview {
 /// another group is highlighted. It is pale if it is not picked while other groups are.
 enum class GroupMark { None, Dimmed, Pale, Lit, Picked, PickedLit };
 
-/// The numbers of the picked, the hovered and the highlighted groups of a view.
+/// The numbers of the picked, the hovered, the highlighted and the selected groups of a view, and
+/// the colours that its user has assigned to groups.
 class GroupMarks
 {
 public:
@@ -20,21 +24,31 @@ public:
     bool setPicked(const std::vector<int>& groups);
     bool setHovered(int group);
     bool setHighlighted(int group);
+    bool setSelected(const std::vector<int>& groups);
+    bool setColours(const std::map<int, QColor>& colours);
     void toggle(int group);
 
     bool isPicking() const { return m_isPicking; }
     int hovered() const { return m_hovered; }
     const std::vector<int>& picked() const { return m_picked; } ///< ascending, without duplicates
 
+    /// Returns whether colours are assigned. Groups without a colour are pale in this case.
+    bool hasColours() const { return !m_colours.empty(); }
+    /// Returns an invalid colour if none is assigned to the group.
+    QColor colourOf(int group) const;
+
     bool isLit(int group) const;
     /// Returns the mark of a group. `isAnyLit` specifies whether any visible group is highlighted.
-    /// Picked groups are marked only while picking is enabled.
+    /// Picked groups are marked only while picking is enabled. Assigned colours are neither dimmed
+    /// nor replaced.
     GroupMark markOf(int group, bool isAnyLit) const;
 
 private:
     bool isPicked(int group) const;
 
     std::vector<int> m_picked;
+    std::vector<int> m_selected;
+    std::map<int, QColor> m_colours;
     bool m_isPicking = false;
     int m_hovered = NoGroup;
     int m_highlighted = NoGroup;

@@ -7,14 +7,24 @@ namespace aniview {
 
 namespace {
 constexpr int Steps = 1 << 16;
+
+/// Returns false for supports, which belong to no group.
+bool isInHiddenGroup(const ModelGeometry& geometry, size_t item, const std::vector<char>& isHidden)
+{
+    const size_t faces = geometry.faces.size();
+    if (item < faces)
+        return isHidden[size_t(geometry.faces[item].group)];
+    return item < faces + geometry.lines.size() &&
+           isHidden[size_t(geometry.lines[item - faces].group)];
+}
 } // namespace
 
 void Picture::update(const ModelGeometry& geometry, const Projection& projection,
-                     const QRectF& visible)
+                     const QRectF& visible, const std::vector<char>& isHidden)
 {
     projectPoints(geometry, projection);
     findDepths(geometry, projection.axes().eye);
-    sortVisible(geometry, visible);
+    sortVisible(geometry, visible, isHidden);
 }
 
 void Picture::projectPoints(const ModelGeometry& geometry, const Projection& projection)
@@ -46,7 +56,8 @@ void Picture::findDepths(const ModelGeometry& geometry, const Position& eye)
 
 /// Sorts by depth with a counting sort, which takes linear time. Invisible items are removed before
 /// the sort, while the memory is read sequentially.
-void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible)
+void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible,
+                          const std::vector<char>& isHidden)
 {
     m_order.clear();
     m_seen.clear();
@@ -59,7 +70,8 @@ void Picture::sortVisible(const ModelGeometry& geometry, const QRectF& visible)
     const float perDepth = float(Steps - 1) / std::max(*range.second - farthest, 1e-6F);
     const int items = int(m_depths.size());
     for (int item = 0; item < items; ++item) {
-        if (!isVisible(geometry, item, visible))
+        if ((!isHidden.empty() && isInHiddenGroup(geometry, size_t(item), isHidden)) ||
+            !isVisible(geometry, item, visible))
             continue;
         const int step = int((m_depths[size_t(item)] - farthest) * perDepth);
         m_steps[size_t(item)] = static_cast<unsigned short>(qBound(0, step, Steps - 1));

@@ -12,7 +12,10 @@ namespace aniview {
 class Picture
 {
 public:
-    void update(const ModelGeometry& geometry, const Projection& projection, const QRectF& visible);
+    /// `isHidden` contains a flag for each group of the geometry, or is empty if no group is
+    /// hidden.
+    void update(const ModelGeometry& geometry, const Projection& projection, const QRectF& visible,
+                const std::vector<char>& isHidden = {});
 
     const QPointF& point(int index) const { return m_points[size_t(index)]; }
     /// Returns the items from back to front, except items outside the visible part.
@@ -21,7 +24,8 @@ public:
 private:
     void projectPoints(const ModelGeometry& geometry, const Projection& projection);
     void findDepths(const ModelGeometry& geometry, const Position& eye);
-    void sortVisible(const ModelGeometry& geometry, const QRectF& visible);
+    void sortVisible(const ModelGeometry& geometry, const QRectF& visible,
+                     const std::vector<char>& isHidden);
     bool isVisible(const int* points, int count, const QRectF& visible) const;
     bool isVisible(const ModelGeometry& geometry, int item, const QRectF& visible) const;
 

@@ -3,6 +3,7 @@
 #include "view/GroupMarks.h"
 #include "view/hittest.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vkd {
@@ -16,7 +17,24 @@ constexpr size_t ItemsToSort = 6;   // items that can be sorted in the time to p
 void SceneView::setGeometry(std::shared_ptr<const ModelGeometry> geometry)
 {
     m_geometry = std::move(geometry);
+    findHidden();
+}
+
+void SceneView::setHiddenGroups(const std::vector<int>& groups)
+{
+    m_hiddenGroups = groups;
+    findHidden();
+}
+
+void SceneView::findHidden()
+{
     m_isCurrent = false;
+    m_isHidden.clear();
+    if (m_hiddenGroups.empty())
+        return;
+    for (int group : m_geometry->groups)
+        m_isHidden.push_back(std::find(m_hiddenGroups.begin(), m_hiddenGroups.end(), group) !=
+                             m_hiddenGroups.end());
 }
 
 void SceneView::setCamera(const Camera& camera)
@@ -61,7 +79,7 @@ Projection SceneView::projection() const
 const Picture& SceneView::picture()
 {
     if (!m_isCurrent)
-        m_picture.update(*m_geometry, projection(), visiblePart());
+        m_picture.update(*m_geometry, projection(), visiblePart(), m_isHidden);
     m_isCurrent = true;
     return m_picture;
 }
@@ -75,7 +93,7 @@ SceneView::Drawn SceneView::quickPicture(int mostItems)
     for (;; level = level->coarser.get()) {
         const bool isFull = level == m_geometry.get();
         if (!isFull)
-            m_quickPicture.update(*level, projection(), visiblePart());
+            m_quickPicture.update(*level, projection(), visiblePart(), m_isHidden);
         const Picture& drawn = isFull ? picture() : m_quickPicture;
         if (!level->coarser || drawn.order().size() <= most)
             return {*level, drawn};

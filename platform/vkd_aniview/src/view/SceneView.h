@@ -14,6 +14,9 @@ public:
     void setGeometry(std::shared_ptr<const ModelGeometry> geometry);
     const ModelGeometry& geometry() const { return *m_geometry; }
 
+    /// Sets the numbers of the groups that are neither drawn nor found at a point.
+    void setHiddenGroups(const std::vector<int>& groups);
+
     const Camera& camera() const { return m_camera; }
     void setCamera(const Camera& camera);
     void setSize(const QSizeF& size);
@@ -40,6 +43,7 @@ public:
     int groupAt(const QPointF& place);
 
 private:
+    void findHidden();
     QRectF visiblePart() const;
 
     std::shared_ptr<const ModelGeometry> m_geometry = std::make_shared<ModelGeometry>();
@@ -48,6 +52,8 @@ private:
     Picture m_picture;
     Picture m_quickPicture;
     bool m_isCurrent = false;
+    std::vector<int> m_hiddenGroups;
+    std::vector<char> m_isHidden; // one flag for each group of the geometry, or empty
 };
 
 } // namespace aniview

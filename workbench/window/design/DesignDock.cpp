@@ -1,0 +1,141 @@
+#include "window/design/DesignDock.h"
+
+#include "window/design/DesignPage.h"
+#include "window/support/HelpKey.h"
+
+#include <vkd_qt_icon_named.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollArea>
+
+namespace workbench {
+
+DesignDock::DesignDock(QMenu* editMenu, QWidget* parent)
+    : QDockWidget(parent)
+    , m_editMenu(editMenu)
+    , m_place(new QScrollArea(this))
+    , m_tools(new QVBoxLayout)
+    , m_apply(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("DesignDock"));
+    setHelpTopic(this, "MERDAN/PARA");
+    m_place->setWidgetResizable(true); // the page may be wider than the window
+    m_place->setFrameShape(QFrame::NoFrame);
+    m_place->setFocusPolicy(Qt::NoFocus);
+    m_apply->setObjectName(QStringLiteral("DesignApply"));
+    m_apply->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
+    auto content = new QWidget(this);
+    auto layout = new QHBoxLayout(content); // the page has room at its side
+    layout->setContentsMargins(6, 0, 6, 6);
+    layout->addWidget(m_place, 1);
+    layout->addLayout(m_tools);
+    m_tools->addStretch();
+    m_tools->addWidget(m_apply);
+    setWidget(content);
+    setModified(false);
+    m_editMenu->menuAction()->setEnabled(false);
+    connect(m_apply, &QPushButton::clicked, this, &DesignDock::applyRequested);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* now) { followFocus(now); });
+}
+
+/// Disconnects from the application, because the focus still changes while the page is destroyed.
+DesignDock::~DesignDock()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+void DesignDock::setPage(std::unique_ptr<DesignPage> page)
+{
+    m_editMenu->clear();
+    m_page = nullptr;
+    delete m_place->takeWidget();
+    if (page) {
+        m_page = page.release();
+        m_place->setWidget(m_page);
+        m_editMenu->addActions(m_page->actions());
+        m_place->setMinimumHeight(m_page->minimumSizeHint().height());
+        m_page->show();
+        setFocusProxy(m_page);
+        orderTabs();
+    }
+    followFocus(QApplication::focusWidget());
+}
+
+/// Moves the buttons after the last widget of the page in the tab order.
+void DesignDock::orderTabs()
+{
+    QWidget* last = m_page;
+    while (m_page->isAncestorOf(last->nextInFocusChain()))
+        last = last->nextInFocusChain();
+    for (int i = 0; i < m_tools->count(); ++i)
+        if (QWidget* button = m_tools->itemAt(i)->widget()) {
+            setTabOrder(last, button);
+            last = button;
+        }
+}
+
+void DesignDock::setModified(bool isModified)
+{
+    setWindowModified(isModified);
+    m_apply->setEnabled(isModified);
+}
+
+void DesignDock::addTool(QWidget* button)
+{
+    m_tools->insertWidget(m_tools->indexOf(m_apply) - 1, button);
+}
+
+void DesignDock::setTexts()
+{
+    setWindowTitle(tr("Design Parameters") + QLatin1String("[*]"));
+    m_apply->setText(tr("&Apply"));
+    m_apply->setToolTip(tr("Stores the rows in the project file (Ctrl+S in this panel)"));
+}
+
+/// Accepts the override of Ctrl+S, so that the key does not save the script while the dock has the
+/// focus.
+bool DesignDock::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_page &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Save)) {
+        event->accept();
+        return true;
+    }
+    return QDockWidget::event(event);
+}
+
+/// If the dock stays open, the action that closes it must stay checked.
+void DesignDock::closeEvent(QCloseEvent* event)
+{
+    if (m_mayClose && !m_mayClose()) {
+        event->ignore();
+        return toggleViewAction()->setChecked(true);
+    }
+    QDockWidget::closeEvent(event);
+    Q_EMIT closed();
+}
+
+void DesignDock::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Save) && m_page)
+        Q_EMIT applyRequested();
+    else
+        QDockWidget::keyPressEvent(event);
+}
+
+/// While a menu is used, the focus is still that of the dock.
+void DesignDock::followFocus(const QWidget* now)
+{
+    if (!now || qobject_cast<const QMenuBar*>(now) || qobject_cast<const QMenu*>(now))
+        return;
+    m_editMenu->menuAction()->setEnabled(m_page && isAncestorOf(now));
+}
+
+} // namespace workbench

@@ -1,0 +1,245 @@
+#include "window/design/RowsInView.h"
+
+#include "window/design/DesignDock.h"
+#include "window/design/DesignPage.h"
+#include "window/design/PickBanner.h"
+#include "window/main/GroupList.h"
+#include "window/support/WindowMessages.h"
+
+#include <AnimatorView.h>
+#include <vkd_dbo_packedNames.h>
+#include <vkd_qt_icon_named.h>
+
+#include <QPushButton>
+#include <QSet>
+#include <QTableWidget>
+
+#include <algorithm>
+#include <set>
+
+namespace workbench {
+
+namespace {
+constexpr int TypeColumn = 1; // has no editor that covers the cell
+
+bool isPrimary(int group)
+{
+    return group >= 0 && group < vkd::dbo::FirstPackedName;
+}
+} // namespace
+
+RowsInView::RowsInView(const Widgets& widgets, WindowMessages* messages)
+    : m_widgets(widgets)
+    , m_messages(messages)
+    , m_pick(new QPushButton)
+{
+    m_pick->setObjectName(QStringLiteral("PickGroups"));
+    m_pick->setCheckable(true);
+    m_pick->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/pick")));
+    m_widgets.dock->addTool(m_pick);
+    connect(m_pick, &QPushButton::toggled, this, &RowsInView::setPicking);
+    connect(m_widgets.banner, &PickBanner::done, this, [this] { m_pick->setChecked(false); });
+    connect(m_widgets.view, &AnimatorView::groupClicked, this, &RowsInView::selectRowOf);
+    connect(m_widgets.view, &AnimatorView::pickedGroupsChanged, this, &RowsInView::takePicked);
+    connect(m_widgets.groups, &GroupList::groupChosen, this, &RowsInView::togglePicked);
+    connect(m_widgets.groups, &GroupList::groupSelected, this, [this](int group) {
+        if (!isPicking()) // the current row keeps getting groups
+            selectRowOf(group);
+    });
+    pageChanged();
+}
+
+RowsInView::~RowsInView() = default;
+
+DesignPage* RowsInView::page() const
+{
+    return m_widgets.dock->page();
+}
+
+int RowsInView::currentRow() const
+{
+    return page() ? page()->table()->currentRow() : -1;
+}
+
+int RowsInView::changeableRow() const
+{
+    return currentRow() < 1 ? -1 : currentRow();
+}
+
+bool RowsInView::isPicking() const
+{
+    return m_widgets.view->isPicking();
+}
+
+void RowsInView::pageChanged()
+{
+    m_pick->setEnabled(page());
+    if (!page())
+        m_pick->setChecked(false);
+    if (page()) {
+        const QTableWidget* table = page()->table();
+        connect(page(), &DesignPage::rowsChanged, this, &RowsInView::readRows);
+        connect(page(), &DesignPage::pickingRequested, this, [this] { m_pick->setChecked(true); });
+        connect(table, &QTableWidget::itemSelectionChanged, this, &RowsInView::showSelected);
+        connect(table, &QTableWidget::currentCellChanged, this, &RowsInView::showSelected);
+    }
+    readRows();
+}
+
+void RowsInView::groupsChanged()
+{
+    m_widgets.banner->setGroupsWithoutAreas(m_widgets.groups->groupsWithoutAreas());
+    readRows();
+}
+
+void RowsInView::setTexts()
+{
+    m_pick->setText(tr("Pick &Groups"));
+    m_pick->setToolTip(tr("While pressed, a click on a group in the view, or Enter in the list of "
+                          "groups, adds it to the current row or removes it."));
+}
+
+void RowsInView::setPicking(bool isPicking)
+{
+    m_widgets.view->setPicking(isPicking);
+    m_widgets.banner->setVisible(isPicking);
+    if (!isPicking)
+        m_widgets.groups->setMarkedGroup(AnimatorView::NoGroup);
+    showSelected();
+}
+
+/// Finds the row of each group.
+void RowsInView::readRows()
+{
+    m_rowOf.clear();
+    m_remainingRow = -1;
+    const int rows = page() ? page()->table()->rowCount() : 0;
+    for (int row = 0; row < rows; ++row) {
+        const QVector<int> groups = page()->groups(row);
+        if (groups == QVector<int>{-1} && m_remainingRow < 0)
+            m_remainingRow = row;
+        for (int group : groups)
+            if (!m_rowOf.contains(group))
+                m_rowOf[group] = row;
+    }
+    showRows();
+    showSelected();
+}
+
+void RowsInView::showRows()
+{
+    QHash<int, QString> numbers;
+    for (auto it = m_rowOf.cbegin(); it != m_rowOf.cend(); ++it)
+        numbers[it.key()] = QString::number(it.value() + 1);
+    m_widgets.groups->setRows(page() ? &numbers : nullptr);
+}
+
+int RowsInView::rowOf(int group) const
+{
+    return m_rowOf.value(group, m_remainingRow);
+}
+
+QVector<int> RowsInView::selectedRows() const
+{
+    QVector<int> rows;
+    const QItemSelection selection =
+        page() ? page()->table()->selectionModel()->selection() : QItemSelection();
+    for (const QItemSelectionRange& range : selection)
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows << row;
+    if (rows.isEmpty() && currentRow() >= 0)
+        rows << currentRow();
+    return rows;
+}
+
+/// Highlights the groups of the selected rows. The row for the remaining groups stands for all
+/// groups that are in no other row.
+void RowsInView::showSelected()
+{
+    std::set<int> groups;
+    for (int row : selectedRows()) {
+        for (int group : page()->groups(row))
+            groups.insert(group);
+        if (row == m_remainingRow)
+            for (int group : m_widgets.groups->groups())
+                if (!m_rowOf.contains(group))
+                    groups.insert(group);
+    }
+    QSet<int> marked;
+    for (int group : groups)
+        marked.insert(group);
+    m_widgets.groups->setRowGroups(marked);
+    m_widgets.view->setSelectedGroups({groups.begin(), groups.end()});
+    std::vector<int> picked;
+    if (changeableRow() > 0) {
+        const QVector<int> all = page()->groups(currentRow());
+        std::copy_if(all.begin(), all.end(), std::back_inserter(picked), isPrimary);
+    }
+    m_widgets.view->setPickedGroups(picked);
+    m_widgets.banner->setPicked(currentRow(), picked);
+}
+
+void RowsInView::selectRowOf(int group)
+{
+    const int row = rowOf(group);
+    if (!page() || row < 0 || row == currentRow())
+        return;
+    QTableWidget* table = page()->table();
+    const int column = table->currentColumn() < 0 ? TypeColumn : table->currentColumn();
+    table->setCurrentCell(row, column);
+}
+
+void RowsInView::togglePicked(int group)
+{
+    if (!isPicking() || changeableRow() < 0)
+        return;
+    const bool isInRow = page()->groups(currentRow()).contains(group);
+    isInRow ? remove({group}) : add({group});
+}
+
+/// Assigns the picked groups of the view. Groups that the view does not contain stay in the row.
+void RowsInView::takePicked()
+{
+    if (changeableRow() < 0)
+        return showSelected();
+    QVector<int> groups;
+    for (int group : page()->groups(currentRow()))
+        if (!isPrimary(group))
+            groups << group;
+    for (int group : m_widgets.view->pickedGroups())
+        groups << group;
+    setGroups(groups);
+}
+
+void RowsInView::add(const QVector<int>& groups)
+{
+    if (changeableRow() > 0)
+        setGroups(page()->groups(currentRow()) + groups);
+}
+
+void RowsInView::remove(const QVector<int>& groups)
+{
+    if (changeableRow() < 0)
+        return;
+    QVector<int> left = page()->groups(currentRow());
+    for (int group : groups)
+        left.removeAll(group);
+    setGroups(left);
+}
+
+/// Reports groups that are removed from another row.
+void RowsInView::setGroups(const QVector<int>& groups)
+{
+    const int row = currentRow();
+    QStringList moved;
+    for (int group : groups)
+        if (const int from = m_rowOf.value(group, row); from != row && from > 0 && group >= 0)
+            moved << tr("Group %1 is now in row %2, no longer in row %3.")
+                         .arg(group)
+                         .arg(row + 1)
+                         .arg(from + 1);
+    page()->setGroups(row, groups);
+    m_messages->say(moved.join(QLatin1Char(' ')));
+}
+
+} // namespace workbench

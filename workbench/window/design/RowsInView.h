@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+#include <vector>
+
+class AnimatorView;
+class QPushButton;
+
+namespace workbench {
+
+class DesignDock;
+class DesignPage;
+class GroupList;
+class PickBanner;
+class WindowMessages;
+
+/// Links the rows of the design page with the view and the list of groups. The groups of the
+/// selected rows are highlighted, a click on a group selects its row, and while picking is enabled,
+/// a click adds the group to the current row or removes it.
+class RowsInView : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The widgets that the object uses.
+    struct Widgets
+    {
+        AnimatorView* view;
+        GroupList* groups;
+        PickBanner* banner;
+        DesignDock* dock;
+    };
+
+    /// The widgets and the messages are not owned and must outlive the object.
+    RowsInView(const Widgets& widgets, WindowMessages* messages);
+    ~RowsInView() override;
+
+    /// Must be called when the dock has another page or no page.
+    void pageChanged();
+    /// Must be called when the list contains other groups.
+    void groupsChanged();
+    void setTexts();
+
+    /// Returns the current row, or -1 if there is none or if its groups cannot be changed.
+    int changeableRow() const;
+    /// Adds groups to the current row and removes them from other rows, or removes them from the
+    /// current row.
+    void add(const QVector<int>& groups);
+    void remove(const QVector<int>& groups);
+    /// Returns the row of a group, which may be the row for the remaining groups, or -1.
+    int rowOf(int group) const;
+    /// Makes the row of a group the current row.
+    void selectRowOf(int group);
+
+private:
+    DesignPage* page() const;
+    int currentRow() const;
+    bool isPicking() const;
+    void setPicking(bool isPicking);
+    void togglePicked(int group);
+    void takePicked();
+    void readRows();
+    void showRows();
+    void showSelected();
+    void setGroups(const QVector<int>& groups);
+    QVector<int> selectedRows() const;
+
+    Widgets m_widgets;
+    WindowMessages* m_messages;
+    QPushButton* m_pick;
+    QHash<int, int> m_rowOf; // the first row of each group
+    int m_remainingRow = -1;
+};
+
+} // namespace workbench
