@@ -120,6 +120,19 @@ void restView(benchmark::State& state)
     }
 }
 
+/// Highlights the groups of another design row in each frame.
+void lightRow(benchmark::State& state)
+{
+    ShownShell shown(state);
+    shown.view.render(&shown.image);
+    int group = 1;
+    for (auto _ : state) {
+        shown.view.setSelectedGroups({group, 1 + group % 4});
+        group = 1 + group % 4;
+        shown.view.render(&shown.image);
+    }
+}
+
 /// Compares the memory of a view after a rotation with the memory of the model itself.
 void memoryOfView(benchmark::State& state)
 {
@@ -185,6 +198,7 @@ void fillPolygons(benchmark::State& state)
 }
 
 BENCHMARK(turnView)->Arg(Few)->Arg(100000)->Arg(1000000);
+BENCHMARK(lightRow)->Arg(100000);
 BENCHMARK(restView)->Arg(Few)->Arg(100000);
 BENCHMARK(fillPolygons)->Arg(Few)->Arg(100000);
 BENCHMARK(memoryOfView)->Arg(100000);
@@ -202,6 +216,7 @@ int main(int argc, char* argv[])
                           {"turnView/10000", "", 33.0, "milliseconds for a frame"},
                           {"turnView/100000", "", 33.0, "milliseconds for a frame"},
                           {"turnView/1000000", "", 33.0, "milliseconds for a frame"},
+                          {"lightRow/100000", "", 33.0, "milliseconds for a frame"},
                           {"restView/10000", "fillPolygons/10000", 3.6, fill},
                           {"restView/100000", "fillPolygons/100000", 2.5, fill},
                           {"memoryOfView/100000", "memoryOfModel/100000", 3.0,

@@ -1,5 +1,6 @@
 #include "ProjectTest.h"
 #include "window/design/sharedGroupsQuestion.h"
+#include "window/main/groupFilter.h"
 #include "window/output/CameraRollback.h"
 
 #include <AnimatorView.h>
@@ -377,6 +378,82 @@ private Q_SLOTS:
         QCOMPARE(pick(6), QStringLiteral("The groups of row 1 are fixed."));
         whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
         QVERIFY(window->close());
+    }
+
+    void groupFilter_data()
+    {
+        const Columns<QString, bool> row("filter", "isMatch"); // of group 12, "Roof slab 7"
+        row("number", "12", true);
+        row("another number", "1", false);
+        row("range", "3-12", true);
+        row("one of several", "4; 10-12", true);
+        row("none of several", "4, 13-20", false);
+        row("word", "SLAB", true);
+        row("both words", "slab roof", true);
+        row("only one word", "slab floor", false);
+        row("word and other number", "slab 3", false);
+        row("number in the title", "7", true);
+        row("empty", " ", true);
+    }
+
+    void groupFilter()
+    {
+        QFETCH(const QString, filter);
+        QTEST(workbench::matchesGroupFilter(filter, 12, QStringLiteral("Roof slab 7")), "isMatch");
+    }
+
+    /// The menu of groups hides and isolates them in the view, and the list follows the filter.
+    void hiddenGroups()
+    {
+        const auto window = open("hidden.zob");
+        auto groups = find<QTreeWidget>(*window, "GroupList");
+        auto view = find<AnimatorView>(*window, "AnimatorView");
+        const auto choose = [](int action) {
+            QTimer::singleShot(0, [action] {
+                auto menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                menu->actions().at(action)->trigger();
+                menu->close();
+            });
+        };
+        enum Action { Hide = 1, Isolate, ShowAll }; // after the separator
+        const QImage whole = view->grab().toImage();
+        groups->setCurrentItem(groups->topLevelItem(2));
+        choose(Hide);
+        Q_EMIT groups->customContextMenuRequested({});
+        const QImage withoutRoof = view->grab().toImage();
+        QVERIFY(withoutRoof != whole);
+        choose(ShowAll);
+        Q_EMIT view->menuRequested(AnimatorView::NoGroup, {});
+        QVERIFY(view->grab().toImage() == whole);
+        choose(Isolate);
+        Q_EMIT view->menuRequested(8, {});
+        QVERIFY(view->grab().toImage() != withoutRoof);
+        find<QLineEdit>(*window, "GroupFilter")->setText(QStringLiteral("slab"));
+        QVERIFY(groups->topLevelItem(0)->isHidden() && !groups->topLevelItem(1)->isHidden());
+        trigger(*window, "Reload");
+        QVERIFY(view->grab().toImage() == whole);
+    }
+
+    /// The legend contains each row with groups, and a click on it selects the row.
+    void colouredRows()
+    {
+        const auto window = open("coloured.zob");
+        auto view = find<AnimatorView>(*window, "AnimatorView");
+        auto table = find<QTableWidget>(*openDesign(*window), "table");
+        table->setCurrentCell(0, 0);
+        QApplication::processEvents(); // lays out the docks
+        const QImage own = view->grab().toImage();
+        auto colour = find<QPushButton>(*window, "ColourRows");
+        colour->click();
+        QVERIFY(view->grab().toImage() != own);
+        auto legend = find<QWidget>(*window, "RowLegend");
+        QCOMPARE(legend->accessibleDescription(),
+                 QStringLiteral("1: Remaining\n2: 1\n3: 2, 3\n4: COLS\n5: 4, 5"));
+        QTest::mouseClick(legend, Qt::LeftButton, {}, legend->rect().center());
+        QCOMPARE(table->currentRow(), 2);
+        table->setCurrentCell(0, 0);
+        colour->click();
+        QVERIFY(!legend->isVisible());
     }
 
     /// Apply asks about a group that is in two rows, and reports that a row without groups is

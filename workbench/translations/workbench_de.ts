@@ -1393,4 +1393,72 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Gruppe %1 steht jetzt in Zeile %2, nicht mehr in Zeile %3.</translation>
     </message>
 </context>
+<context>
+    <name>workbench::RowLegend</name>
+    <message>
+        <source>Colours of the rows</source>
+        <translation>Farben der Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 more rows</source>
+        <translation>%1 weitere Zeilen</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::RowColours</name>
+    <message>
+        <source>&amp;Colour Rows</source>
+        <translation>Zeilen &amp;färben</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Übrige</translation>
+    </message>
+    <message>
+        <source>Colours the groups in the view by their row. Groups without a row of their own are pale.</source>
+        <translation>Färbt die Gruppen in der Ansicht nach ihrer Zeile. Gruppen ohne eigene Zeile sind blass.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::GroupPane</name>
+    <message>
+        <source>Filter of the groups</source>
+        <translation>Filter der Gruppen</translation>
+    </message>
+    <message>
+        <source>Shows the groups with these numbers, in these ranges or with these words in the title.</source>
+        <translation>Zeigt die Gruppen mit diesen Nummern, in diesen Bereichen oder mit diesen Wörtern in der Bezeichnung.</translation>
+    </message>
+    <message>
+        <source>Filter: 12, 3-7, title</source>
+        <translation>Filter: 12, 3-7, Titel</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::GroupMenu</name>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>Aus&amp;blenden</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only These</source>
+        <translation>&amp;Nur diese zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;All</source>
+        <translation>&amp;Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Select &amp;Row %1</source>
+        <translation>Zeile %1 &amp;wählen</translation>
+    </message>
+    <message>
+        <source>A&amp;dd to Row %1</source>
+        <translation>Zu Zeile %1 &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Re&amp;move from Row %1</source>
+        <translation>Aus Zeile %1 &amp;entfernen</translation>
+    </message>
+</context>
 </TS>

@@ -72,8 +72,10 @@ void DesignDock::setPage(std::unique_ptr<DesignPage> page)
 void DesignDock::orderTabs()
 {
     QWidget* last = m_page;
-    while (m_page->isAncestorOf(last->nextInFocusChain()))
-        last = last->nextInFocusChain();
+    for (QWidget* next = m_page->nextInFocusChain(); next != m_page;
+         next = next->nextInFocusChain())
+        if (m_page->isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus)
+            last = next;
     for (int i = 0; i < m_tools->count(); ++i)
         if (QWidget* button = m_tools->itemAt(i)->widget()) {
             setTabOrder(last, button);

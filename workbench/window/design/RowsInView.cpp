@@ -3,6 +3,7 @@
 #include "window/design/DesignDock.h"
 #include "window/design/DesignPage.h"
 #include "window/design/PickBanner.h"
+#include "window/design/RowColours.h"
 #include "window/main/GroupList.h"
 #include "window/support/WindowMessages.h"
 
@@ -37,6 +38,10 @@ RowsInView::RowsInView(const Widgets& widgets, WindowMessages* messages)
     m_pick->setCheckable(true);
     m_pick->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/pick")));
     m_widgets.dock->addTool(m_pick);
+    m_colours = new RowColours(m_widgets.view, m_widgets.dock);
+    m_colours->setParent(this);
+    connect(m_colours, &RowColours::toggled, this, &RowsInView::showRows);
+    connect(m_colours, &RowColours::rowClicked, this, &RowsInView::selectRow);
     connect(m_pick, &QPushButton::toggled, this, &RowsInView::setPicking);
     connect(m_widgets.banner, &PickBanner::done, this, [this] { m_pick->setChecked(false); });
     connect(m_widgets.view, &AnimatorView::groupClicked, this, &RowsInView::selectRowOf);
@@ -94,6 +99,7 @@ void RowsInView::groupsChanged()
 
 void RowsInView::setTexts()
 {
+    m_colours->setTexts();
     m_pick->setText(tr("Pick &Groups"));
     m_pick->setToolTip(tr("While pressed, a click on a group in the view, or Enter in the list of "
                           "groups, adds it to the current row or removes it."));
@@ -132,6 +138,7 @@ void RowsInView::showRows()
     for (auto it = m_rowOf.cbegin(); it != m_rowOf.cend(); ++it)
         numbers[it.key()] = QString::number(it.value() + 1);
     m_widgets.groups->setRows(page() ? &numbers : nullptr);
+    m_colours->show(page(), m_rowOf, m_remainingRow);
 }
 
 int RowsInView::rowOf(int group) const
@@ -181,7 +188,11 @@ void RowsInView::showSelected()
 
 void RowsInView::selectRowOf(int group)
 {
-    const int row = rowOf(group);
+    selectRow(rowOf(group));
+}
+
+void RowsInView::selectRow(int row)
+{
     if (!page() || row < 0 || row == currentRow())
         return;
     QTableWidget* table = page()->table();

@@ -16,6 +16,7 @@ class DesignDock;
 class DesignPage;
 class GroupList;
 class PickBanner;
+class RowColours;
 class WindowMessages;
 
 /// Links the rows of the design page with the view and the list of groups. The groups of the
@@ -55,6 +56,7 @@ public:
     int rowOf(int group) const;
     /// Makes the row of a group the current row.
     void selectRowOf(int group);
+    void selectRow(int row);
 
 private:
     DesignPage* page() const;
@@ -72,6 +74,7 @@ private:
     Widgets m_widgets;
     WindowMessages* m_messages;
     QPushButton* m_pick;
+    RowColours* m_colours;
     QHash<int, int> m_rowOf; // the first row of each group
     int m_remainingRow = -1;
 };

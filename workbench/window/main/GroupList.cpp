@@ -1,5 +1,7 @@
 #include "window/main/GroupList.h"
 
+#include "window/main/groupFilter.h"
+
 #include <AnimatorView.h>
 #include <vkd_dbo_groups.h>
 #include <vkd_h_groupContents.h>
@@ -41,6 +43,7 @@ GroupList::GroupList(QWidget* parent)
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
+    setSelectionMode(ExtendedSelection);
     viewport()->setMouseTracking(true);
     connect(this, &QTreeWidget::itemEntered, this, &GroupList::pointAt);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* current) {
@@ -85,6 +88,30 @@ void GroupList::setRows(const QHash<int, QString>* rows)
     resizeColumnToContents(RowColumn);
 }
 
+void GroupList::setHiddenGroups(const QSet<int>& groups)
+{
+    const QSet<int> before = std::exchange(m_hidden, groups);
+    for (int group : before + groups)
+        if (before.contains(group) != groups.contains(group))
+            show(m_items.value(group));
+}
+
+void GroupList::setFilter(const QString& filter)
+{
+    m_filter = filter;
+    for (QTreeWidgetItem* item : qAsConst(m_items))
+        item->setHidden(!matchesGroupFilter(filter, groupOf(item), item->text(TitleColumn)));
+}
+
+QVector<int> GroupList::selectedGroups() const
+{
+    QVector<int> groups;
+    for (int row = 0; row < topLevelItemCount(); ++row)
+        if (topLevelItem(row)->isSelected() && !topLevelItem(row)->isHidden())
+            groups << groupOf(topLevelItem(row));
+    return groups;
+}
+
 std::vector<int> GroupList::groups() const
 {
     std::vector<int> groups;
@@ -106,10 +133,13 @@ void GroupList::show(QTreeWidgetItem* item)
     const QBrush back = isMarked  ? palette().brush(QPalette::Highlight)
                         : isOfRow ? QBrush(tinted(palette()))
                                   : QBrush();
+    const QBrush front = isMarked ? palette().brush(QPalette::HighlightedText)
+                         : m_hidden.contains(group)
+                             ? palette().brush(QPalette::Disabled, QPalette::Text)
+                             : QBrush();
     for (int column = 0; column < columnCount(); ++column) {
         item->setBackground(column, back);
-        item->setForeground(column,
-                            isMarked ? palette().brush(QPalette::HighlightedText) : QBrush());
+        item->setForeground(column, front);
         if (column <= RowColumn) // bold titles would not fit into their column
             item->setData(column, Qt::FontRole, isOfRow ? QVariant(bold) : QVariant());
     }
@@ -173,7 +203,8 @@ VkdStatus GroupList::fill()
         item->setText(RowColumn, m_rows.value(group.number));
         item->setTextAlignment(RowColumn, Qt::AlignRight | Qt::AlignVCenter);
         m_items[group.number] = item;
-        if (m_rowGroups.contains(group.number))
+        item->setHidden(!matchesGroupFilter(m_filter, group.number, group.title));
+        if (m_rowGroups.contains(group.number) || m_hidden.contains(group.number))
             show(item);
         if (group.number == current)
             setCurrentItem(item);

@@ -32,6 +32,12 @@ public:
     /// Shows the numbers of the design rows of groups, or hides their column if the pointer is
     /// null.
     void setRows(const QHash<int, QString>* rows);
+    /// Shows that these groups are hidden in the view.
+    void setHiddenGroups(const QSet<int>& groups);
+    /// Lists only the groups that match the filter, see matchesGroupFilter().
+    void setFilter(const QString& filter);
+    /// Returns the selected groups in the order of the list.
+    QVector<int> selectedGroups() const;
     /// Returns all groups in the order of the list.
     std::vector<int> groups() const;
     /// Returns the groups without area elements, in ascending order. These groups cannot be
@@ -66,7 +72,9 @@ private:
     QHash<int, QTreeWidgetItem*> m_items;
     int m_marked;
     QSet<int> m_rowGroups;
+    QSet<int> m_hidden;
     QHash<int, QString> m_rows;
+    QString m_filter;
     bool m_isFilling = false;
     std::vector<int> m_withoutAreas;
 };

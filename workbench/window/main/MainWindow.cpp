@@ -7,6 +7,7 @@
 #include "window/main/ChangeBar.h"
 #include "window/main/FileCommands.h"
 #include "window/main/GroupList.h"
+#include "window/main/GroupMenu.h"
 #include "window/main/WindowActions.h"
 #include "window/main/WindowHelp.h"
 #include "window/main/WindowPanes.h"
@@ -62,6 +63,7 @@ void MainWindow::createEditors(const MakeProject& makeProject)
     const RowsInView::Widgets rows{m_panes->view, m_panes->groups, m_panes->banner,
                                    m_panes->design};
     m_rowsInView = std::make_unique<RowsInView>(rows, &m_messages);
+    m_groupMenu = new GroupMenu(m_panes->view, m_panes->groups, m_rowsInView.get());
     m_designEditor =
         std::make_unique<DesignEditor>(&m_project, &m_access, &m_messages, m_panes->design);
     m_outputEditor = std::make_unique<OutputEditor>(&m_project, &m_access, &m_messages, actions);
@@ -206,6 +208,7 @@ bool MainWindow::showProject()
 {
     const WaitCursor cursor;
     const VkdStatus groups = m_panes->groups->setProject(m_project.handle());
+    m_groupMenu->showAll();
     m_rowsInView->groupsChanged();
     const bool areRecordsRead = showRecords();
     m_outputScript->clear();

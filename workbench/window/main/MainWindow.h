@@ -15,6 +15,7 @@ namespace workbench {
 
 class DesignEditor;
 class FileCommands;
+class GroupMenu;
 class OutputEditor;
 class OutputScript;
 class RowsInView;
@@ -71,6 +72,7 @@ private:
     WindowActions* m_actions;
     WindowPanes* m_panes = nullptr;
     QLabel* m_contents;
+    GroupMenu* m_groupMenu = nullptr;
 
     // The editors and their dialogs are destroyed before the project, and the project is destroyed
     // before the panes.

@@ -6,6 +6,7 @@
 #include "window/main/ChangeBar.h"
 #include "window/main/DockShares.h"
 #include "window/main/GroupList.h"
+#include "window/main/GroupPane.h"
 #include "window/main/WindowActions.h"
 #include "window/records/RecordsPane.h"
 #include "window/script/ScriptPane.h"
@@ -44,7 +45,8 @@ QDockWidget* addDock(QMainWindow* window, Qt::DockWidgetArea area, QWidget* widg
 
 WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     : QObject(window)
-    , groups(new GroupList(window))
+    , groupPane(new GroupPane(window))
+    , groups(groupPane->groups)
     , news(new ChangeBar(actions.reload, actions.saveAs, window))
     , banner(new PickBanner(window))
     , view(new AnimatorView(ZobHandle(), window))
@@ -80,7 +82,7 @@ void WindowPanes::addCentre()
 void WindowPanes::addDocks(const WindowActions& actions)
 {
     m_window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    m_groupDock = addDock(m_window, Qt::LeftDockWidgetArea, groups, "GroupDock");
+    m_groupDock = addDock(m_window, Qt::LeftDockWidgetArea, groupPane, "GroupDock");
     m_scriptDock = addDock(m_window, Qt::RightDockWidgetArea, script, "ScriptDock");
     m_sheetDock = addDock(m_window, Qt::RightDockWidgetArea, sheets, "SheetDock");
     m_recordDock = addDock(m_window, Qt::BottomDockWidgetArea, nullptr, "RecordDock");
@@ -129,6 +131,7 @@ void WindowPanes::setTexts()
 {
     view->setAccessibleName(tr("Model"));
     m_groupDock->setWindowTitle(tr("Groups"));
+    groupPane->setTexts();
     m_scriptDock->setWindowTitle(tr("Script"));
     m_sheetDock->setWindowTitle(tr("Sheet"));
     m_recordDock->setWindowTitle(tr("Records"));

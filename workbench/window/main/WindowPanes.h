@@ -12,6 +12,7 @@ namespace workbench {
 class ChangeBar;
 class DesignDock;
 class GroupList;
+class GroupPane;
 class PickBanner;
 class RecordsPane;
 class ScriptPane;
@@ -46,6 +47,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     // The panes are in tab order, column by column. The records follow the view.
+    GroupPane* const groupPane;
     GroupList* const groups;
     ChangeBar* const news;
     PickBanner* const banner;

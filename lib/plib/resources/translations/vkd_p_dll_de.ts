@@ -922,12 +922,12 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Richtung und Ab&amp;stand ...</translation>
     </message>
     <message>
-        <source>&amp;Reinforcement...</source>
+        <source>Rein&amp;forcement...</source>
         <translation>&amp;Bewehrung ...</translation>
     </message>
     <message>
         <source>Crack C&amp;ontrol...</source>
-        <translation>&amp;Begrenzung der Rissbreite ...</translation>
+        <translation>Be&amp;grenzung der Rissbreite ...</translation>
     </message>
 </context>
 <context>

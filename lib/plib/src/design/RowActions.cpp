@@ -24,7 +24,7 @@ RowActions::RowActions(DesignParameter* page)
         void (DesignParameter::*edit)();
     } dialogs[] = {
         {"editDirections", tr("Direction and Di&stance..."), &DesignParameter::editDirections},
-        {"editReinforcement", tr("&Reinforcement..."), &DesignParameter::editReinforcement},
+        {"editReinforcement", tr("Rein&forcement..."), &DesignParameter::editReinforcement},
         {"editCrackControl", tr("Crack C&ontrol..."), &DesignParameter::editCrackControl},
     };
     for (const auto& dialog : dialogs)

@@ -114,7 +114,10 @@ void AnimatorView::setSelectedGroups(const std::vector<int>& groups)
 
 void AnimatorView::setGroupColours(const std::map<int, QColor>& colours)
 {
-    if (m_marks->setColours(colours))
+    std::map<int, unsigned> rgb;
+    for (const auto& [group, colour] : colours)
+        rgb[group] = colour.rgb();
+    if (m_marks->setColours(rgb))
         showMarks();
 }
 

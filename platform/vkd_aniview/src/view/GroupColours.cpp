@@ -63,9 +63,9 @@ GroupColours::GroupColours(const QPalette& palette, const std::vector<int>& grou
     m_sets.reserve(groups.size());
     const QColor pale = mixed(mixed(m_text, m_background, 0.5), m_background, 0.75);
     for (size_t i = 0; i < groups.size(); ++i) {
-        const QColor assigned = marks.colourOf(groups[i]);
+        const unsigned assigned = marks.colourOf(groups[i]);
         const QColor own = marks.hasColours() ? pale : distinctColour(int(i));
-        m_sets.push_back(makeSet(assigned.isValid() ? assigned : own,
+        m_sets.push_back(makeSet(assigned ? QColor::fromRgb(assigned) : own,
                                  marks.markOf(groups[i], isAnyLit), meshStrength));
     }
 }

@@ -44,17 +44,17 @@ bool GroupMarks::setSelected(const std::vector<int>& groups)
     return replace(m_selected, groups);
 }
 
-bool GroupMarks::setColours(const std::map<int, QColor>& colours)
+bool GroupMarks::setColours(const std::map<int, unsigned>& colours)
 {
     const bool changes = m_colours != colours;
     m_colours = colours;
     return changes;
 }
 
-QColor GroupMarks::colourOf(int group) const
+unsigned GroupMarks::colourOf(int group) const
 {
     const auto found = m_colours.find(group);
-    return found == m_colours.end() ? QColor() : found->second;
+    return found == m_colours.end() ? 0U : found->second;
 }
 
 void GroupMarks::toggle(int group)

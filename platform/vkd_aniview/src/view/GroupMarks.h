@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QColor>
-
 #include <map>
 #include <vector>
 
@@ -25,7 +23,8 @@ public:
     bool setHovered(int group);
     bool setHighlighted(int group);
     bool setSelected(const std::vector<int>& groups);
-    bool setColours(const std::map<int, QColor>& colours);
+    /// The colours have the format of QRgb.
+    bool setColours(const std::map<int, unsigned>& colours);
     void toggle(int group);
 
     bool isPicking() const { return m_isPicking; }
@@ -34,8 +33,8 @@ public:
 
     /// Returns whether colours are assigned. Groups without a colour are pale in this case.
     bool hasColours() const { return !m_colours.empty(); }
-    /// Returns an invalid colour if none is assigned to the group.
-    QColor colourOf(int group) const;
+    /// Returns 0 if no colour is assigned to the group.
+    unsigned colourOf(int group) const;
 
     bool isLit(int group) const;
     /// Returns the mark of a group. `isAnyLit` specifies whether any visible group is highlighted.
@@ -48,7 +47,7 @@ private:
 
     std::vector<int> m_picked;
     std::vector<int> m_selected;
-    std::map<int, QColor> m_colours;
+    std::map<int, unsigned> m_colours;
     bool m_isPicking = false;
     int m_hovered = NoGroup;
     int m_highlighted = NoGroup;

@@ -1,0 +1,60 @@
+#include "window/design/RowColours.h"
+
+#include "window/design/DesignDock.h"
+#include "window/design/DesignPage.h"
+#include "window/design/groupRanges.h"
+#include "window/design/RowLegend.h"
+
+#include <AnimatorView.h>
+#include <vkd_dbo_packedNames.h>
+
+#include <QPushButton>
+#include <QTableWidget>
+
+namespace workbench {
+
+RowColours::RowColours(AnimatorView* view, DesignDock* dock)
+    : m_view(view)
+    , m_button(new QPushButton)
+    , m_legend(new RowLegend(view))
+{
+    m_button->setObjectName(QStringLiteral("ColourRows"));
+    m_button->setCheckable(true);
+    dock->addTool(m_button);
+    connect(m_button, &QPushButton::toggled, this, &RowColours::toggled);
+    connect(m_legend, &RowLegend::rowClicked, this, &RowColours::rowClicked);
+}
+
+void RowColours::setTexts()
+{
+    m_button->setText(tr("&Colour Rows"));
+    m_button->setToolTip(tr("Colours the groups in the view by their row. Groups without a row of "
+                            "their own are pale."));
+}
+
+/// The view dims nothing while it has colours, so an entry without a group keeps all groups pale if
+/// no row has groups.
+void RowColours::show(const DesignPage* page, const QHash<int, int>& rowOf, int remainingRow)
+{
+    m_button->setEnabled(page);
+    std::map<int, QColor> colours;
+    QVector<RowLegend::Entry> entries;
+    const QColor none = m_view->palette().color(QPalette::Base); // also of secondary groups
+    if (page && m_button->isChecked()) {
+        colours[AnimatorView::NoGroup] = Qt::gray;
+        for (auto it = rowOf.cbegin(); it != rowOf.cend(); ++it)
+            if (it.value() != remainingRow && it.key() < vkd::dbo::FirstPackedName)
+                colours[it.key()] = AnimatorView::distinctColour(it.value());
+        for (int row = 0; row < page->table()->rowCount(); ++row)
+            if (const QVector<int> groups = page->groups(row); row == remainingRow)
+                entries.append({row, none, tr("Remaining")});
+            else if (!groups.isEmpty())
+                entries.append({row,
+                                colours.count(groups.first()) ? colours.at(groups.first()) : none,
+                                groupRanges(groups)});
+    }
+    m_view->setGroupColours(colours);
+    m_legend->setEntries(entries);
+}
+
+} // namespace workbench
