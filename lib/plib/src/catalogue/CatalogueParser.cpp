@@ -13,6 +13,9 @@
 namespace plib {
 
 namespace {
+constexpr int FirstCaption = 3; // columns of the captions
+constexpr int LastCaption = 5;
+
 bool isAscii(const char* bytes, int length)
 {
     quint64 all = 0;
@@ -104,7 +107,7 @@ CatalogueParser::Outcome CatalogueParser::parseAscii(const char* bytes, int leng
             std::memcmp(stored.data(), part.data(), stored.size()) == 0)
             continue;
         stored.assign(part.data(), size_t(part.size()));
-        storePart(i, trimmed(part));
+        storeAscii(i, trimmed(part));
     }
     return outcome();
 }
@@ -133,6 +136,24 @@ CatalogueParser::Outcome CatalogueParser::outcome() const
     return m_record.scriptEnglish.isEmpty() ? Outcome::NoEnglishScript : Outcome::Accepted;
 }
 
+void CatalogueParser::storeAscii(int column, QLatin1String part)
+{
+    if (column < FirstCaption || column > LastCaption)
+        return storePart(column, part);
+    m_caption.assign(part.begin(), part.end());
+    storeCaptionPart(column, m_caption);
+}
+
+void CatalogueParser::storeCaptionPart(int column, QStringView part)
+{
+    GraphicalOutputRecord& r = m_record;
+    switch (column) {
+    case 3: storeCaption(part, 1, &r.title1, &r.id1); break;
+    case 4: storeCaption(part, 2, &r.title2, &r.id2); break;
+    default: storeCaption(part, 3, &r.title3, &r.id3); break;
+    }
+}
+
 void CatalogueParser::storePart(int column, const QString& part)
 {
     GraphicalOutputRecord& r = m_record;
@@ -140,9 +161,9 @@ void CatalogueParser::storePart(int column, const QString& part)
     case 0: r.prog1 = part.toInt(); break;
     case 1: r.prog2 = part.toInt(); break;
     case 2: r.prog3 = part.toInt(); break;
-    case 3: storeCaption(part, 1, &r.title1, &r.id1); break;
-    case 4: storeCaption(part, 2, &r.title2, &r.id2); break;
-    case 5: storeCaption(part, 3, &r.title3, &r.id3); break;
+    case FirstCaption:
+    case 4:
+    case LastCaption: storeCaptionPart(column, part); break;
     case 6: r.contentTag = part; break;
     case 7: r.number7 = part.toInt(); break;
     case 8: storeCaseWord(part); break;
@@ -156,19 +177,19 @@ void CatalogueParser::storePart(int column, const QString& part)
     }
 }
 
-void CatalogueParser::storeCaption(const QString& part, int place, QString* caption,
+void CatalogueParser::storeCaption(QStringView part, int place, QString* caption,
                                    QString* identifier)
 {
     const QLatin1String plainIdentifiers[] = {QLatin1String("    001"), QLatin1String("    002"),
                                               QLatin1String("    003")};
     if (!isKeyText(part)) {
         *identifier = plainIdentifiers[place - 1];
-        *caption = part;
+        *caption = part.toString();
         return;
     }
     const int prefixLength = hasQualifier(part) ? 7 : 4;
-    *identifier = QLatin1String("   ", 7 - prefixLength) % QStringView(part).left(prefixLength);
-    *caption = captionOr(part, QStringView(part).mid(prefixLength).trimmed());
+    *identifier = QLatin1String("   ", 7 - prefixLength) % part.left(prefixLength);
+    *caption = captionOr(part, part.mid(prefixLength).trimmed());
 }
 
 void CatalogueParser::storeCaseWord(const QString& part)

@@ -38,14 +38,17 @@ private:
     Outcome parseAscii(const char* bytes, int length);
     Outcome parseText(const QString& line);
     Outcome outcome() const;
+    void storeAscii(int column, QLatin1String part);
     void storePart(int column, const QString& part);
-    void storeCaption(const QString& part, int place, QString* caption, QString* identifier);
+    void storeCaptionPart(int column, QStringView part);
+    static void storeCaption(QStringView part, int place, QString* caption, QString* identifier);
     void storeCaseWord(const QString& part);
 
     GraphicalOutputRecord m_record;
     // The bytes of each stored column, including spaces; empty if the column was not pure ASCII.
     // Parts are never empty, so an empty string does not match any part.
     std::array<std::string, UsedParts> m_bytes;
+    std::u16string m_caption; // decoded; reused, because most lines have a new caption
     int m_partCount = 0;
 };
 

@@ -92,10 +92,10 @@ bool hasQualifier(QStringView keyText)
     return isKeyText(keyText.mid(QualifierLength, TokenLength));
 }
 
-QString captionText(const QString& field)
+QString captionText(QStringView field)
 {
     const bool qualified = hasQualifier(field);
-    const QStringView base = QStringView(field).mid(qualified ? QualifierLength : 0, TokenLength);
+    const QStringView base = field.mid(qualified ? QualifierLength : 0, TokenLength);
     if (!base.isEmpty() && !isTokenSign(base.at(0)))
         return QString();
     QString out(QLatin1String("")); // empty but not null, even if the token has no text
@@ -108,7 +108,7 @@ QString captionText(const QString& field)
     return out;
 }
 
-QString captionOr(const QString& field, QStringView fallback)
+QString captionOr(QStringView field, QStringView fallback)
 {
     const QString text = captionText(field);
     return text.isEmpty() ? fallback.toString() : text.trimmed();

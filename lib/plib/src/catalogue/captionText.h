@@ -17,10 +17,10 @@ bool hasQualifier(QStringView keyText);
 /// selected by vkd_lib_opentext(). Returns a null string if the field does not begin with a token
 /// of the text service, or an empty string if the service has no text for the token. Does not trim
 /// the caption.
-QString captionText(const QString& field);
+QString captionText(QStringView field);
 
 /// Returns the caption that a tree shows for a key text: the trimmed captionText(), or `fallback`
 /// if there is none.
-QString captionOr(const QString& field, QStringView fallback);
+QString captionOr(QStringView field, QStringView fallback);
 
 } // namespace plib
