@@ -78,11 +78,13 @@ private:
     {
         if (++m_depth != ListDepth || m_json[at] != '[')
             return;
-        if (m_key.contains('\\')) // the list would not be found by the decoded key
+        const QString key = QString::fromUtf8(m_key);
+        // A list would not be found by a decoded key, and lists in a list all have the same key.
+        if (m_key.contains('\\') || m_text.m_lists.contains(key))
             refuse();
         m_rest += textBetween(m_begin, at + 1);
         m_begin = at + 1;
-        m_list = &m_text.m_lists[QString::fromUtf8(m_key)];
+        m_list = &m_text.m_lists[key];
         m_cut = 0;
     }
 
