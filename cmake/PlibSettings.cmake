@@ -1,6 +1,8 @@
 # Settings for all targets, and functions that create targets.
 
-set(CMAKE_CXX_STANDARD 17)
+if(NOT CMAKE_CXX_STANDARD)
+    set(CMAKE_CXX_STANDARD 17)
+endif()
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
@@ -9,7 +11,13 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
-set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
+
+# The installed programs find the libraries even if the installation is moved. Packages for system
+# folders set CMAKE_SKIP_INSTALL_RPATH or an RPATH of their own.
+if(NOT DEFINED CMAKE_INSTALL_RPATH)
+    file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+    set(CMAKE_INSTALL_RPATH "$ORIGIN/${libraries}" "$ORIGIN")
+endif()
 
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core LinguistTools Widgets)
 
@@ -46,36 +54,50 @@ endif()
 # The share folder is beside the lib folder of the build tree, as in an installation.
 file(CREATE_LINK ${PROJECT_SOURCE_DIR}/share ${PROJECT_BINARY_DIR}/share SYMBOLIC)
 
-# Installs a library as a target of the package <package>, which is also the name of its installation
-# component. Users find its headers in the folder <headers>.
+# Sets the version of a library and installs it as the target vkd::<name> of the package <package>.
+# The major version is the version of its binary interface. Users find its headers in the folder
+# <headers>.
 function(vkd_install_target name package headers)
+    set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION}
+                                             SOVERSION ${PROJECT_VERSION_MAJOR})
+    add_library(vkd::${name} ALIAS ${name})
+    set_property(GLOBAL APPEND PROPERTY ${package}_targets ${name})
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
         $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vkd/${headers}>)
     install(TARGETS ${name} EXPORT ${package} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-                                                      COMPONENT ${package})
+                                                      COMPONENT runtime
+                                                      NAMELINK_COMPONENT development)
 endfunction()
 
-# Installs a library, and installs its headers into a separate folder.
+# Installs a library, and installs its headers into a separate folder. The version is in the header
+# <name>_version.h.
 function(vkd_install_library name package)
     vkd_install_target(${name} ${package} ${name})
+    string(TOUPPER ${name} prefix)
+    set(version ${CMAKE_CURRENT_BINARY_DIR}/${name}_version.h)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/version.h.in ${version} @ONLY)
     install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name}
-            COMPONENT ${package})
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name} COMPONENT ${package})
+            COMPONENT development)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h ${version}
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name} COMPONENT development)
 endfunction()
 
-# Installs the files for find_package(<package>): the targets and cmake/<package>Config.cmake.
+# Installs the files for find_package(<package>): the targets and the package file, which is made
+# from cmake/<package>Config.cmake.in. The targets also have aliases without the namespace vkd::.
 function(vkd_install_package package)
     include(CMakePackageConfigHelpers)
     set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
     set(version ${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake)
+    set(config ${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake)
+    get_property(targets GLOBAL PROPERTY ${package}_targets)
+    string(REPLACE ";" " " targets "${targets}")
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in ${config} @ONLY)
     write_basic_package_version_file(${version} COMPATIBILITY SameMinorVersion)
-    install(EXPORT ${package} FILE ${package}Targets.cmake DESTINATION ${folder}
-            COMPONENT ${package})
-    install(FILES ${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake ${version}
-            DESTINATION ${folder} COMPONENT ${package})
+    install(EXPORT ${package} FILE ${package}Targets.cmake NAMESPACE vkd:: DESTINATION ${folder}
+            COMPONENT development)
+    install(FILES ${config} ${version} DESTINATION ${folder} COMPONENT development)
 endfunction()
 
 # vkd_add_platform_library(<name> SOURCES ... [CORE ...]) adds a library of the platform, with a

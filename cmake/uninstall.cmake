@@ -1,0 +1,16 @@
+# Removes the installed files that are listed in the manifests of the build folder. The target
+# `uninstall` runs this script there. Folders remain, because others may use them.
+file(GLOB manifests ${CMAKE_CURRENT_BINARY_DIR}/install_manifest*.txt)
+if(NOT manifests)
+    message(FATAL_ERROR "Nothing was installed from ${CMAKE_CURRENT_BINARY_DIR}")
+endif()
+foreach(manifest IN LISTS manifests)
+    file(STRINGS ${manifest} files)
+    foreach(file IN LISTS files)
+        if(EXISTS $ENV{DESTDIR}${file} OR IS_SYMLINK $ENV{DESTDIR}${file})
+            message(STATUS "Removing: $ENV{DESTDIR}${file}")
+            file(REMOVE $ENV{DESTDIR}${file})
+        endif()
+    endforeach()
+    file(REMOVE ${manifest})
+endforeach()
