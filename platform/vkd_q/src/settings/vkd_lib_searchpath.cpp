@@ -7,21 +7,24 @@
 #include <dlfcn.h>
 
 namespace {
-QString libraryFolder()
+/// Returns the folder of this library, and the folder of the file if the library was found through
+/// a symbolic link.
+QStringList libraryFolders()
 {
     Dl_info info;
     if (!dladdr(reinterpret_cast<void*>(&vkd_lib_searchpath), &info) || !info.dli_fname)
-        return QString();
-    return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath();
+        return {};
+    const QFileInfo library(QFile::decodeName(info.dli_fname));
+    return {library.absolutePath(), library.canonicalPath()};
 }
 
 QStringList shareFolders()
 {
     QStringList folders =
         qEnvironmentVariable("VKD_SHARE").split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    const QDir library(libraryFolder());
-    folders << QDir::cleanPath(library.filePath(QStringLiteral(VKD_INSTALLED_SHARE)))
-            << QDir::cleanPath(library.filePath(QStringLiteral("../share")));
+    for (const QDir library : libraryFolders())
+        folders << QDir::cleanPath(library.filePath(QStringLiteral(VKD_INSTALLED_SHARE)))
+                << QDir::cleanPath(library.filePath(QStringLiteral("../share")));
     return folders;
 }
 } // namespace
