@@ -6,6 +6,7 @@
 #include <catalogue/CatalogueParser.h>
 #include <script/scriptLines.h>
 #include <tree/OutputNode.h>
+#include <tree/checkStates.h>
 #include <tree/selectionText.h>
 #include <tree/TreeBuilder.h>
 

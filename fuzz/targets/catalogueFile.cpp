@@ -3,6 +3,7 @@
 
 #include <catalogue/catalogueLint.h>
 #include <script/scriptLines.h>
+#include <tree/checkStates.h>
 #include <tree/selectionText.h>
 
 #include <QBuffer>

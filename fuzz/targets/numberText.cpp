@@ -34,7 +34,8 @@ void checkGroups(const QString& text)
     const vkd::h::GroupInput input = vkd::h::readNumbers(text, groups);
     FUZZ_CHECK(
         std::includes(groups.begin(), groups.end(), input.groups.begin(), input.groups.end()));
-    vkd::h::readNumbersAndNames(text, groups, {0x20202041, 0x20424142});
+    static const vkd::h::GroupNames names({0x20202041, 0x20424142});
+    vkd::h::readNumbersAndNames(text, groups, names);
 }
 } // namespace
 

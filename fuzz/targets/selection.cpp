@@ -1,6 +1,7 @@
 #include "CatalogueTestSupport.h"
 #include "FuzzTarget.h"
 
+#include <tree/checkStates.h>
 #include <tree/selectionText.h>
 
 namespace {

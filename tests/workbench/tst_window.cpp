@@ -44,6 +44,14 @@ QString treeText(QTreeWidget* tree)
     }
     return text;
 }
+
+int markedRows(const QTreeWidget* list)
+{
+    int rows = 0;
+    for (int row = 0; row < list->topLevelItemCount(); ++row)
+        rows += list->topLevelItem(row)->background(0).style() != Qt::NoBrush;
+    return rows;
+}
 } // namespace
 
 class tst_window : public ProjectTest
@@ -300,8 +308,7 @@ private Q_SLOTS:
             QCOMPARE(other->geometry(), place);
     }
 
-    /// The rows, the groups in the view and the list of groups follow each other.
-    void rowsInTheView()
+    void groupsUnderTheMouse()
     {
         const auto window = open("pick.zob");
         auto records = find<QTableView>(*window, "Records")->model();
@@ -309,17 +316,11 @@ private Q_SLOTS:
         QCOMPARE(records->headerData(52, Qt::Vertical).toString(), QStringLiteral("sigui [N/mm²]"));
         // The group under the mouse in the view is highlighted in the list.
         auto groups = find<QTreeWidget>(*window, "GroupList");
-        const auto marked = [groups] {
-            int rows = 0;
-            for (int row = 0; row < groups->topLevelItemCount(); ++row)
-                rows += groups->topLevelItem(row)->background(0).style() != Qt::NoBrush;
-            return rows;
-        };
         auto view = find<QWidget>(*window, "AnimatorView");
         QTest::mouseMove(view, view->rect().center());
-        QTRY_COMPARE(marked(), 1);
+        QTRY_COMPARE(markedRows(groups), 1);
         QTest::mouseMove(view, {5, 5});
-        QTRY_COMPARE(marked(), 0);
+        QTRY_COMPARE(markedRows(groups), 0);
         // The group of the row under the mouse is highlighted in the view.
         const QImage unlit = view->grab().toImage();
         QTest::mouseMove(groups->viewport(),
@@ -328,6 +329,15 @@ private Q_SLOTS:
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(groups->viewport(), &leave);
         QVERIFY(view->grab().toImage() == unlit);
+    }
+
+    /// The rows, the groups in the view and the list of groups follow each other.
+    void rowsInTheView()
+    {
+        const auto window = open("pick.zob");
+        auto groups = find<QTreeWidget>(*window, "GroupList");
+        auto view = find<QWidget>(*window, "AnimatorView");
+        const QImage unlit = view->grab().toImage();
         QWidget* dock = openDesign(*window);
         auto table = find<QTableWidget>(*dock, "table");
         find<QPushButton>(*dock, "btnNew")->click();
@@ -337,12 +347,23 @@ private Q_SLOTS:
         // A group that is selected in the list selects its row, which marks all its groups.
         groups->setCurrentItem(groups->topLevelItem(2));
         QCOMPARE(table->currentRow(), 2);
-        QCOMPARE(marked(), 2);
+        QCOMPARE(markedRows(groups), 2);
         QVERIFY(view->grab().toImage() != unlit);
         table->setCurrentCell(newRow, 1);
         QTest::mouseClick(view, Qt::LeftButton, {}, view->rect().center());
         QVERIFY(table->currentRow() != newRow);
-        // Picking changes the current row at once, as a step of its own.
+        whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
+        QVERIFY(window->close());
+    }
+
+    /// Picking changes the current row at once, as a step of its own.
+    void pickingInTheView()
+    {
+        const auto window = open("pick.zob");
+        QWidget* dock = openDesign(*window);
+        auto table = find<QTableWidget>(*dock, "table");
+        find<QPushButton>(*dock, "btnNew")->click();
+        const int newRow = table->rowCount() - 1;
         table->setCurrentCell(newRow, 1);
         find<QPushButton>(*window, "PickGroups")->click();
         const auto banner = find<QWidget>(*window, "PickBanner");
