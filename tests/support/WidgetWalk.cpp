@@ -28,6 +28,8 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace testsupport {
 
 namespace {
@@ -68,6 +70,13 @@ bool isInReadingOrder(const QRect& first, const QRect& second)
     const int shared = qMin(first.bottom(), second.bottom()) - qMax(first.top(), second.top());
     const bool isOneLine = 2 * shared > qMin(first.height(), second.height());
     return isOneLine ? first.left() <= second.left() : first.top() <= second.top();
+}
+
+/// Returns whether `first` does not follow `second` if columns are read from left to right. Fields
+/// of the same column begin at the same place.
+bool isInColumnOrder(const QPoint& first, const QPoint& second)
+{
+    return first.x() == second.x() ? first.y() <= second.y() : first.x() < second.x();
 }
 
 int widest(const QFontMetrics& metrics, const QStringList& texts)
@@ -148,9 +157,10 @@ void turnWheel(QWidget* widget, int angle)
 class Walk
 {
 public:
-    Walk(QWidget& window, const QSet<QString>& fixedColumns)
+    Walk(QWidget& window, const QSet<QString>& fixedColumns, const QSet<QString>& tabByColumns)
         : m_window(window)
         , m_fixedColumns(fixedColumns)
+        , m_isByColumns(tabByColumns.contains(QLatin1String(window.metaObject()->className())))
     {
     }
 
@@ -195,12 +205,15 @@ private:
     void lookForCuts(QWidget* widget);
     void lookForPlace(const QWidget* widget);
     void lookAtHeader(const QHeaderView* header);
+    QVector<const QWidget*> tabStops() const;
     void lookForOrder();
+    bool isInOrder(const QWidget* first, const QWidget* second) const;
     void lookAtStop(const QWidget* stop, QVector<const QWidget*>& before);
     void lookForKeys();
 
     QWidget& m_window;
     const QSet<QString>& m_fixedColumns;
+    const bool m_isByColumns;
     QSet<QString> m_found;
 };
 
@@ -284,17 +297,46 @@ void Walk::lookAtHeader(const QHeaderView* header)
             note(header->parentWidget(), QStringLiteral("cuts the header %1").arg(section));
 }
 
-/// Checks the tab order in each parent. A container counts as one tab stop of its parent, and Tab
-/// must enter the container only once.
-void Walk::lookForOrder()
+/// Returns the widgets that Tab reaches. The order is circular; in a dialog, it begins at the top.
+QVector<const QWidget*> Walk::tabStops() const
 {
-    QMap<const QWidget*, QVector<const QWidget*>> visited; // keyed by parent, in tab order
+    QVector<const QWidget*> stops;
     for (const QWidget* stop = m_window.nextInFocusChain(); stop != &m_window;
          stop = stop->nextInFocusChain())
         if (m_window.isAncestorOf(stop) && isInView(stop, m_window) &&
             (stop->focusPolicy() & Qt::TabFocus) && !isInner(stop))
+            stops << stop;
+    if (!qobject_cast<const QDialog*>(&m_window))
+        return stops;
+    const auto place = [this](const QWidget* stop) {
+        const QPoint corner = stop->mapTo(&m_window, QPoint());
+        return std::make_pair(corner.y(), corner.x());
+    };
+    const auto top =
+        std::min_element(stops.begin(), stops.end(),
+                         [&](const QWidget* a, const QWidget* b) { return place(a) < place(b); });
+    std::rotate(stops.begin(), top, stops.end());
+    return stops;
+}
+
+/// Checks the tab order in each parent. A container counts as one tab stop of its parent, and Tab
+/// must enter the container only once. If Tab follows columns, it ignores group boxes.
+void Walk::lookForOrder()
+{
+    QMap<const QWidget*, QVector<const QWidget*>> visited; // keyed by parent, in tab order
+    for (const QWidget* stop : tabStops())
+        if (m_isByColumns && qobject_cast<const QGroupBox*>(stop->parentWidget()))
+            lookAtStop(stop, visited[nullptr]);
+        else
             for (const QWidget* at = stop; at != &m_window; at = at->parentWidget())
                 lookAtStop(at, visited[at->parentWidget()]);
+}
+
+bool Walk::isInOrder(const QWidget* first, const QWidget* second) const
+{
+    return !m_isByColumns ? isInReadingOrder(first->geometry(), second->geometry())
+                          : isInColumnOrder(first->mapTo(&m_window, QPoint()),
+                                            second->mapTo(&m_window, QPoint()));
 }
 
 void Walk::lookAtStop(const QWidget* stop, QVector<const QWidget*>& before)
@@ -304,7 +346,7 @@ void Walk::lookAtStop(const QWidget* stop, QVector<const QWidget*>& before)
     if (before.contains(stop))
         note(stop, QStringLiteral("is left and entered again by Tab"));
     for (const QWidget* other : qAsConst(before))
-        if (other != stop && !isInReadingOrder(other->geometry(), stop->geometry()))
+        if (other != stop && !isInOrder(other, stop))
             note(stop, QStringLiteral("comes behind %1 \"%2\" by Tab")
                            .arg(other->objectName(), textsOf(other).value(0).left(30)));
     before << stop;
@@ -336,9 +378,10 @@ void Walk::lookForKeys()
 }
 } // namespace
 
-QStringList faults(QWidget& window, const QSet<QString>& fixedColumns)
+QStringList faults(QWidget& window, const QSet<QString>& fixedColumns,
+                   const QSet<QString>& tabByColumns)
 {
-    Walk walk(window, fixedColumns);
+    Walk walk(window, fixedColumns, tabByColumns);
     forEachTab(window, [&walk] { walk.look(); });
     if (qobject_cast<QDialog*>(&window))
         forEachTab(window, [&walk] { walk.lookForWheel(); });

@@ -16,8 +16,10 @@ namespace testsupport {
 /// - dialog choices or numbers that the mouse wheel changes;
 /// - mnemonics and shortcuts that are used twice.
 /// Cells are not checked, because tables may truncate them. `fixedColumns` are the object names of
-/// tables whose headers may also be truncated.
-QStringList faults(QWidget& window, const QSet<QString>& fixedColumns = {});
+/// tables whose headers may also be truncated. In windows of the classes `tabByColumns`, Tab
+/// follows the columns of all group boxes.
+QStringList faults(QWidget& window, const QSet<QString>& fixedColumns = {},
+                   const QSet<QString>& tabByColumns = {});
 
 /// Returns all texts of a visible window that a user can read or hear: titles, labels, list
 /// entries, cells, menus, tool tips, accessible names. User input and scripts are not included.
