@@ -225,7 +225,7 @@ private Q_SLOTS:
         QCOMPARE(it.hasMine(path("asked.zob")), answer == QLatin1String("&Overwrite"));
     }
 
-    /// An unsaved choice survives Reload, and OK asks afterwards.
+    /// An unsaved choice and unsaved rows survive Reload. OK and Apply ask afterwards.
     void reloadKeepsTheChoice()
     {
         const auto window = open("saved.zob");
@@ -234,20 +234,28 @@ private Q_SLOTS:
         trigger(*window, "TextOutput");
         const Part text = textOutputPart();
         text.change(*find<QDialog>(*window, "TextOutputDialog"));
+        deleteDesignRow(*openDesign(*window));
+        const QStringList entered = designCells(*window);
         outputPart().changeOutside(path("saved.zob"));
+        setRow(path("saved.zob"));
         QTRY_VERIFY(bar(*window) != QLatin1String("-"));
         trigger(*window, "Reload");
         QTRY_COMPARE(script(*window), chosen);
+        QCOMPARE(designCells(*window), entered);
         QVERIFY(window->isWindowModified());
         QVERIFY(text.showsMine(*find<QDialog>(*window, "TextOutputDialog")));
         find<QDialog>(*window, "TextOutputDialog")->accept();
-        bool isAsked = false;
-        whenModal([&isAsked](QWidget* box) {
-            isAsked = true;
+        int questions = 0;
+        const auto overwrite = [&questions](QWidget* box) {
+            ++questions;
             pressButton(box, QStringLiteral("&Overwrite"));
-        });
+        };
+        whenModal(overwrite);
         find<QDialog>(*window, "OutputDialog")->accept();
-        QVERIFY(isAsked);
+        QCOMPARE(questions, 1);
+        whenModal(overwrite);
+        applyDesign(*window);
+        QCOMPARE(questions, 2);
         QVERIFY(!window->isWindowModified());
     }
 

@@ -153,6 +153,16 @@ void DesignEditor::restore(const DesignPage::State& state)
     setPage(std::move(page));
 }
 
+/// Does not read the project if there are changed rows, because its present rows would then count
+/// as those that the user has seen.
+void DesignEditor::showAgain(const std::optional<DesignPage::State>& before)
+{
+    if (before && before->isModified)
+        restore(*before);
+    else
+        showProject();
+}
+
 void DesignEditor::close()
 {
     setPage(nullptr);

@@ -41,6 +41,9 @@ public:
     std::optional<DesignPage::State> state() const;
     /// Creates a new page with these rows, for the project that is open now.
     void restore(const DesignPage::State& state);
+    /// Creates a new page after the document of the project has been replaced. Preserves changed
+    /// rows; store() then still detects newer rows in the project.
+    void showAgain(const std::optional<DesignPage::State>& before);
     /// Destroys the page without asking. The dock stays open.
     void close();
     /// Reads the rows of the project that is open now if the dock is open without a page.

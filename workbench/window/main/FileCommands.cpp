@@ -132,7 +132,11 @@ void FileCommands::openDropped(const QString& path)
 
 bool FileCommands::open(const QString& path)
 {
-    return openDocument(path, Camera::Standard);
+    if (!openDocument(path, Camera::Standard))
+        return false;
+    if (!m_isProjectToShow)
+        m_parts.design->showProject();
+    return true;
 }
 
 bool FileCommands::openDocument(const QString& path, Camera camera)
@@ -202,7 +206,6 @@ void FileCommands::showProject(const VkdStatus& modelStatus)
     settings.addRecentFile(path);
     m_actions->setRecentFiles(settings.recentFiles());
     const bool areContentsRead = showContents();
-    m_parts.design->showProject();
     if (!modelStatus.isOk() || !areContentsRead)
         m_parts.messages->complain(
             tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
@@ -214,7 +217,8 @@ void FileCommands::showFirstProject()
     const VkdStatus status = showModel(m_parts.project->handle());
     if (status.code != VKD_ZOB_CANCELLED) {
         m_parts.view->slotViewControl(AnimatorStandardView, 0.0);
-        return showProject(status);
+        showProject(status);
+        return m_parts.design->showProject();
     }
     setDocument(nullptr);
     m_parts.messages->say(tr("Cancelled."));
@@ -238,8 +242,7 @@ void FileCommands::reload()
     const auto text = m_parts.textOutput->isChanged() ? m_parts.textOutput->state() : std::nullopt;
     if (!openDocument(m_parts.project->path(), Camera::Keep))
         return;
-    if (rows && rows->isModified)
-        m_parts.design->restore(*rows);
+    m_parts.design->showAgain(rows);
     if (plots && plots->isChanged)
         m_parts.output->recreate(*plots);
     else if (OutputDialog* dialog = plots ? m_parts.output->dialog() : nullptr)
@@ -285,8 +288,7 @@ bool FileCommands::takeOver(const QString& path)
     const bool wasTextChanged = m_parts.textOutput->isChanged();
     if (!openDocument(path, Camera::Keep))
         return false;
-    if (rows && rows->isModified)
-        m_parts.design->restore(*rows);
+    m_parts.design->showAgain(rows);
     m_parts.output->recreate(*plots);
     m_parts.script->showOther();
     if (text)
