@@ -7,6 +7,8 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QToolButton>
@@ -320,11 +322,23 @@ private Q_SLOTS:
         theirs.show();
         QVERIFY(theirs.openProject(path("both.zob")));
         QTRY_VERIFY(!script(theirs).isEmpty());
-        openDesign(theirs);
+        theirs.activateWindow();
+        // A menu of the table is not destroyed while it is open.
+        const QPointer<QMenu> menu = new QMenu(find<QTableWidget>(*openDesign(theirs), "table"));
+        menu->addAction(QStringLiteral("action"));
+        menu->popup({});
         deleteDesignRow(*openDesign(*mine));
         applyDesign(*mine);
+        theirs.activateWindow();
+        QTRY_VERIFY(theirs.isActiveWindow());
+        QEvent activation(QEvent::ActivationChange);
+        QApplication::sendEvent(&theirs, &activation);
+        QApplication::processEvents();
+        QVERIFY(menu);
+        menu->close();
         QTRY_COMPARE(records(theirs), records(*mine));
         QCOMPARE(designCells(theirs), designCells(*mine));
+        QCOMPARE(theirs.focusWidget(), find<QTableWidget>(theirs, "table"));
         changeChoice(*mine);
         const QString chosen = script(*mine);
         QVERIFY(script(theirs) != chosen);

@@ -53,6 +53,7 @@ DesignDock::~DesignDock()
 
 void DesignDock::setPage(std::unique_ptr<DesignPage> page)
 {
+    const bool hadFocus = m_page && m_page->isAncestorOf(window()->focusWidget());
     m_editMenu->clear();
     m_page = nullptr;
     delete m_place->takeWidget();
@@ -64,6 +65,8 @@ void DesignDock::setPage(std::unique_ptr<DesignPage> page)
         m_page->show();
         setFocusProxy(m_page);
         orderTabs();
+        if (hadFocus)
+            m_page->setFocus();
     }
     followFocus(QApplication::focusWidget());
 }
@@ -135,7 +138,7 @@ void DesignDock::keyPressEvent(QKeyEvent* event)
 /// While a menu is used, the focus is still that of the dock.
 void DesignDock::followFocus(const QWidget* now)
 {
-    if (!now || qobject_cast<const QMenuBar*>(now) || qobject_cast<const QMenu*>(now))
+    if (m_page && (!now || qobject_cast<const QMenuBar*>(now) || qobject_cast<const QMenu*>(now)))
         return;
     m_editMenu->menuAction()->setEnabled(m_page && isAncestorOf(now));
 }

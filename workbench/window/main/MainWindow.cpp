@@ -35,6 +35,10 @@
 
 namespace workbench {
 
+namespace {
+constexpr int PopupMs = 200; // until an open menu is checked again
+} // namespace
+
 MainWindow::MainWindow(const MakeProject& makeProject, QWidget* parent)
     : QMainWindow(parent)
     , m_actions(new WindowActions(this))
@@ -237,11 +241,14 @@ bool MainWindow::showRecords()
 }
 
 /// Does nothing while a modal dialog is open, because the dialog may be using data that would
-/// change. The window calls this function again when it becomes active.
+/// change. The window calls this function again when it becomes active. An open menu delays the
+/// function, because its widget may be destroyed.
 void MainWindow::showNews()
 {
     if (!m_project.isOpen() || QApplication::activeModalWidget())
         return;
+    if (QApplication::activePopupWidget())
+        return QTimer::singleShot(PopupMs, this, &MainWindow::showNews);
     enableActions();
     const bool isChanged = m_project.isChangedByOthers();
     const bool areRowsOlder = isChanged && !followOthers();
