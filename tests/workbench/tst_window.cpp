@@ -344,6 +344,10 @@ private Q_SLOTS:
         const int newRow = table->rowCount() - 1;
         const QRect place = table->visualItemRect(table->item(newRow, 0));
         QVERIFY(table->viewport()->rect().contains(place.center()));
+        // A right click, which opens the menu, does not change the row to which it adds groups.
+        QTest::mouseClick(groups->viewport(), Qt::RightButton, {},
+                          groups->visualItemRect(groups->topLevelItem(1)).center());
+        QCOMPARE(table->currentRow(), newRow);
         // A group that is selected in the list selects its row, which marks all its groups.
         groups->setCurrentItem(groups->topLevelItem(2));
         QCOMPARE(table->currentRow(), 2);

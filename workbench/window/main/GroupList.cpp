@@ -8,6 +8,8 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <utility>
@@ -48,7 +50,7 @@ GroupList::GroupList(QWidget* parent)
     connect(this, &QTreeWidget::itemEntered, this, &GroupList::pointAt);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* current) {
         pointAtCurrent();
-        if (current && !m_isFilling)
+        if (current && !m_isQuiet)
             Q_EMIT groupSelected(groupOf(current));
     });
     connect(this, &QTreeWidget::itemActivated, this,
@@ -169,6 +171,20 @@ void GroupList::focusOutEvent(QFocusEvent* event)
     pointAtCurrent();
 }
 
+void GroupList::keyPressEvent(QKeyEvent* event)
+{
+    const bool isPlain = !(event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
+    const QScopedValueRollback<bool> quiet(m_isQuiet, !isPlain);
+    QTreeWidget::keyPressEvent(event);
+}
+
+void GroupList::mousePressEvent(QMouseEvent* event)
+{
+    const bool isPlain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
+    const QScopedValueRollback<bool> quiet(m_isQuiet, !isPlain);
+    QTreeWidget::mousePressEvent(event);
+}
+
 bool GroupList::viewportEvent(QEvent* event)
 {
     if (event->type() == QEvent::Leave)
@@ -188,7 +204,7 @@ VkdStatus GroupList::fill()
 {
     VkdStatus status;
     const int current = groupOf(currentItem());
-    m_isFilling = true;
+    m_isQuiet = true;
     m_items.clear();
     clear();
     m_withoutAreas.clear();
@@ -213,7 +229,7 @@ VkdStatus GroupList::fill()
     }
     std::sort(m_withoutAreas.begin(), m_withoutAreas.end());
     fitColumns();
-    m_isFilling = false;
+    m_isQuiet = false;
     return status;
 }
 

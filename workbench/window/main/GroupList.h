@@ -51,13 +51,16 @@ Q_SIGNALS:
     void groupPointed(int group);
     /// Emitted when the user activates a group with Enter or a double click.
     void groupChosen(int group);
-    /// Emitted when the user makes another group the current group.
+    /// Emitted when the user makes another group the current group by a plain click or key, neither
+    /// to open the menu nor to extend the selection.
     void groupSelected(int group);
 
 protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
 private:
@@ -75,7 +78,7 @@ private:
     QSet<int> m_hidden;
     QHash<int, QString> m_rows;
     QString m_filter;
-    bool m_isFilling = false;
+    bool m_isQuiet = false; ///< whether groupSelected() is not emitted
     std::vector<int> m_withoutAreas;
 };
 
