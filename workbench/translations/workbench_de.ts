@@ -1392,6 +1392,10 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <source>Group %1 is now in row %2, no longer in row %3.</source>
         <translation>Gruppe %1 steht jetzt in Zeile %2, nicht mehr in Zeile %3.</translation>
     </message>
+    <message>
+        <source>%1 groups are now in row %2, no longer in other rows.</source>
+        <translation>%1 Gruppen stehen jetzt in Zeile %2, nicht mehr in anderen Zeilen.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::RowLegend</name>

@@ -16,6 +16,7 @@
 #include <QTableWidget>
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace workbench {
@@ -242,15 +243,25 @@ void RowsInView::remove(const QVector<int>& groups)
 void RowsInView::setGroups(const QVector<int>& groups)
 {
     const int row = currentRow();
-    QStringList moved;
-    for (int group : groups)
-        if (const int from = m_rowOf.value(group, row); from != row && from > 0 && group >= 0)
-            moved << tr("Group %1 is now in row %2, no longer in row %3.")
-                         .arg(group)
-                         .arg(row + 1)
-                         .arg(from + 1);
+    const QVector<int> before = page()->groups(row);
+    QVector<int> moved;
+    std::copy_if(groups.begin(), groups.end(), std::back_inserter(moved), [&](int group) {
+        return m_rowOf.value(group) > 0 && group >= 0 &&
+               !std::binary_search(before.begin(), before.end(), group);
+    });
+    const int from = moved.isEmpty() ? -1 : m_rowOf.value(moved.first());
     page()->setGroups(row, groups);
-    m_messages->say(moved.join(QLatin1Char(' ')));
+    if (moved.size() == 1)
+        m_messages->say(tr("Group %1 is now in row %2, no longer in row %3.")
+                            .arg(moved.first())
+                            .arg(row + 1)
+                            .arg(from + 1));
+    else
+        m_messages->say(moved.isEmpty()
+                            ? QString()
+                            : tr("%1 groups are now in row %2, no longer in other rows.")
+                                  .arg(moved.size())
+                                  .arg(row + 1));
 }
 
 } // namespace workbench
