@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QTableWidget>
 
+#include <algorithm>
+
 namespace workbench {
 
 RowColours::RowColours(AnimatorView* view, DesignDock* dock)
@@ -45,13 +47,17 @@ void RowColours::show(const DesignPage* page, const QHash<int, int>& rowOf, int 
         for (auto it = rowOf.cbegin(); it != rowOf.cend(); ++it)
             if (it.value() != remainingRow && it.key() < vkd::dbo::FirstPackedName)
                 colours[it.key()] = AnimatorView::distinctColour(it.value());
-        for (int row = 0; row < page->table()->rowCount(); ++row)
-            if (const QVector<int> groups = page->groups(row); row == remainingRow)
+        for (int row = 0; row < page->table()->rowCount(); ++row) {
+            const QVector<int> groups = page->groups(row);
+            const bool isColoured = std::any_of(groups.begin(), groups.end(), [&](int group) {
+                return rowOf.value(group) == row && colours.count(group) > 0;
+            });
+            if (row == remainingRow)
                 entries.append({row, none, tr("Remaining")});
             else if (!groups.isEmpty())
-                entries.append({row,
-                                colours.count(groups.first()) ? colours.at(groups.first()) : none,
+                entries.append({row, isColoured ? AnimatorView::distinctColour(row) : none,
                                 groupRanges(groups)});
+        }
     }
     m_view->setGroupColours(colours);
     m_legend->setEntries(entries);

@@ -17,6 +17,7 @@ RowLegend::RowLegend(QWidget* view)
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
     setCursor(Qt::PointingHandCursor);
+    setContextMenuPolicy(Qt::PreventContextMenu); // the view would open the menu of a group
     view->installEventFilter(this);
     hide();
 }
@@ -57,7 +58,8 @@ void RowLegend::mousePressEvent(QMouseEvent* event)
 void RowLegend::mouseReleaseEvent(QMouseEvent* event)
 {
     const int line = (event->pos().y() - Margin) / lineHeight();
-    if (rect().contains(event->pos()) && line >= 0 && line < shownEntries())
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && line >= 0 &&
+        line < shownEntries())
         Q_EMIT rowClicked(m_entries[line].row);
 }
 
