@@ -47,7 +47,7 @@ QWidget* PresetsDialog::newList()
     m_list->setRootIsDecorated(false);
     m_list->setItemsExpandable(false);
     connect(m_list, &QTreeWidget::currentItemChanged, this, &PresetsDialog::currentChanged);
-    connect(m_list, &QTreeWidget::itemActivated, this, &PresetsDialog::apply);
+    connect(m_list, &QTreeWidget::itemDoubleClicked, this, &PresetsDialog::apply);
     return m_list;
 }
 

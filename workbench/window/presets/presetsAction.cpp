@@ -6,7 +6,6 @@
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QPointer>
 #include <QTableWidget>
 
 namespace workbench {
