@@ -6,11 +6,16 @@
 namespace workbench {
 
 namespace {
+/// Is called for each group after each key, so it does not compile a regular expression.
 bool hasWord(const QString& title, const QString& word)
 {
-    const QRegularExpression whole(QStringLiteral("\\b%1\\b").arg(QRegularExpression::escape(word)),
-                                   QRegularExpression::UseUnicodePropertiesOption);
-    return title.contains(whole);
+    const auto isInWord = [&title](int at) {
+        return at >= 0 && at < title.size() && title[at].isLetterOrNumber();
+    };
+    for (int at = title.indexOf(word); at >= 0; at = title.indexOf(word, at + 1))
+        if (!isInWord(at - 1) && !isInWord(at + word.size()))
+            return true;
+    return false;
 }
 } // namespace
 
