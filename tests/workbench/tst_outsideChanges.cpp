@@ -353,8 +353,9 @@ private Q_SLOTS:
             QLatin1String("Another program has changed the design parameters. Your unsaved rows")));
         QCOMPARE(designCells(theirs), entered);
         QVERIFY(theirs.isWindowModified());
-        whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
-        QVERIFY(theirs.close());
+        whenModal([](QWidget* box) { pressButton(box, QStringLiteral("&Overwrite")); });
+        applyDesign(theirs);
+        QCOMPARE(bar(theirs), QStringLiteral("Another program has changed the project. +Reload"));
     }
 };
 

@@ -51,6 +51,12 @@ void ChangeBar::report(bool isChanged, ProjectWatch::File file, bool areRowsOlde
         hide();
 }
 
+void ChangeBar::setRowsCurrent()
+{
+    if (std::exchange(m_areRowsOlder, false))
+        setTexts();
+}
+
 void ChangeBar::reset()
 {
     m_file = ProjectWatch::File::Present;
@@ -70,7 +76,8 @@ void ChangeBar::setTexts()
     case ProjectWatch::File::Present:
         m_text->setText(m_areRowsOlder
                             ? tr("Another program has changed the design parameters. Your unsaved "
-                                 "rows are still here; Apply asks before it replaces the others.")
+                                 "rows are still here; Apply asks before it overwrites the "
+                                 "newer ones.")
                             : tr("Another program has changed the project."));
         break;
     case ProjectWatch::File::Missing:

@@ -24,6 +24,8 @@ public:
     /// Hides the bar if the file is present again. `areRowsOlder` specifies whether unsaved design
     /// rows are based on an older state of the project.
     void report(bool isChanged, ProjectWatch::File file, bool areRowsOlder);
+    /// Removes the note on unsaved rows from the message.
+    void setRowsCurrent();
     /// Hides the bar. Called when another project is opened.
     void reset();
 

@@ -273,6 +273,8 @@ void MainWindow::showModified()
 {
     setWindowModified(m_designEditor->isChanged() || m_outputEditor->isChanged() ||
                       m_textOutputEditor->isChanged());
+    if (!m_designEditor->isChanged())
+        m_panes->news->setRowsCurrent();
 }
 
 /// Places the dialog next to the script, so that the user sees the effect of each click.
