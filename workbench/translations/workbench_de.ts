@@ -120,8 +120,8 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>Another program has changed the design parameters. Your unsaved rows are still here; Apply asks before it replaces the others.</source>
-        <translation>Ein anderes Programm hat die Bemessungsparameter geändert. Ihre ungespeicherten Zeilen sind noch da; Übernehmen fragt, bevor es die anderen ersetzt.</translation>
+        <source>Another program has changed the design parameters. Your unsaved rows are still here; Apply asks before it overwrites the newer ones.</source>
+        <translation>Ein anderes Programm hat die Bemessungsparameter geändert. Ihre ungespeicherten Zeilen bleiben erhalten; Übernehmen fragt nach, bevor es die neueren überschreibt.</translation>
     </message>
 </context>
 <context>
@@ -365,15 +365,15 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
     <message>
         <source>Select the row whose groups are to be picked.</source>
-        <translation>Zuerst die Zeile wählen, deren Gruppen gewählt werden sollen.</translation>
+        <translation>Zuerst die Zeile auswählen, deren Gruppen gewählt werden sollen.</translation>
     </message>
     <message>
         <source>The groups of row 1 are fixed.</source>
-        <translation>Die Gruppen der Zeile 1 stehen fest.</translation>
+        <translation>Die Gruppen der Zeile 1 sind nicht änderbar.</translation>
     </message>
     <message>
         <source>No row is selected.</source>
-        <translation>Keine Zeile ist gewählt.</translation>
+        <translation>Keine Zeile ist ausgewählt.</translation>
     </message>
     <message>
         <source>The row has no groups yet.</source>
@@ -1385,8 +1385,8 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Gruppen wäh&amp;len</translation>
     </message>
     <message>
-        <source>While pressed, a click on a group in the view, or Enter in the list of groups, adds it to the current row or removes it.</source>
-        <translation>Solange gedrückt, fügt ein Klick auf eine Gruppe in der Ansicht oder die Eingabetaste in der Liste der Gruppen sie der aktuellen Zeile hinzu oder entfernt sie.</translation>
+        <source>While this button is pressed, a click on a group in the view, or Enter in the list of groups, adds the group to the current row or removes it.</source>
+        <translation>Solange die Schaltfläche gedrückt ist, fügt ein Klick auf eine Gruppe in der Ansicht oder die Eingabetaste in der Liste die Gruppe der aktuellen Zeile hinzu oder entfernt sie.</translation>
     </message>
     <message>
         <source>Group %1 is now in row %2, no longer in row %3.</source>
@@ -1426,8 +1426,8 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
 <context>
     <name>workbench::GroupPane</name>
     <message>
-        <source>Filter of the groups</source>
-        <translation>Filter der Gruppen</translation>
+        <source>Group filter</source>
+        <translation>Gruppenfilter</translation>
     </message>
     <message>
         <source>Shows the groups with these numbers, in these ranges or with these words in the title.</source>
@@ -1435,7 +1435,7 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
     </message>
     <message>
         <source>Filter: 12, 3-7, title</source>
-        <translation>Filter: 12, 3-7, Titel</translation>
+        <translation>Filter: 12, 3-7, Bezeichnung</translation>
     </message>
 </context>
 <context>
@@ -1454,7 +1454,7 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
     </message>
     <message>
         <source>Select &amp;Row %1</source>
-        <translation>Zeile %1 &amp;wählen</translation>
+        <translation>Zeile %1 aus&amp;wählen</translation>
     </message>
     <message>
         <source>A&amp;dd to Row %1</source>

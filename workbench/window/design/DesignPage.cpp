@@ -135,7 +135,7 @@ DesignPage::State DesignPage::state()
     return state;
 }
 
-/// If the project cannot be read at the moment, the data that was copied before are used.
+/// If the project cannot be read at the moment, the data that was copied before is used.
 void DesignPage::restore(const State& state)
 {
     copyProject();

@@ -102,8 +102,9 @@ void RowsInView::setTexts()
 {
     m_colours->setTexts();
     m_pick->setText(tr("Pick &Groups"));
-    m_pick->setToolTip(tr("While pressed, a click on a group in the view, or Enter in the list of "
-                          "groups, adds it to the current row or removes it."));
+    m_pick->setToolTip(
+        tr("While this button is pressed, a click on a group in the view, or Enter in "
+           "the list of groups, adds the group to the current row or removes it."));
 }
 
 void RowsInView::setPicking(bool isPicking)

@@ -25,7 +25,7 @@ GroupPane::GroupPane(QWidget* parent)
 void GroupPane::setTexts()
 {
     m_filter->setPlaceholderText(tr("Filter: 12, 3-7, title"));
-    m_filter->setAccessibleName(tr("Filter of the groups"));
+    m_filter->setAccessibleName(tr("Group filter"));
     m_filter->setToolTip(tr("Shows the groups with these numbers, in these ranges or with these "
                             "words in the title."));
 }
