@@ -4,8 +4,8 @@
 #include "checkStates.h"
 #include "RatioReporter.h"
 
+#include <search/PlotSearch.h>
 #include <tree/GraphicalOutputTreeWidget.h>
-#include <tree/PlotSearch.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>

@@ -2,10 +2,10 @@
 #include "WidgetTestSupport.h"
 
 #include <catalogue/Catalogue.h>
+#include <search/PlotKeys.h>
+#include <search/searchHits.h>
 #include <tree/checkStates.h>
 #include <tree/GraphicalOutputTreeWidget.h>
-#include <tree/PlotKeys.h>
-#include <tree/searchHits.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>

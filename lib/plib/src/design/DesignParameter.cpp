@@ -1,20 +1,20 @@
 #include "design/DesignParameter.h"
 
-#include "design/designColumns.h"
-#include "design/DesignParameterTable.h"
 #include "design/HostRows.h"
 #include "design/RowActions.h"
 #include "design/RowParameters.h"
 #include "design/RowsClipboard.h"
 #include "design/RowsHistory.h"
 #include "design/RowsNotice.h"
-#include "design/RowToolTip.h"
-#include "design/TypeEditor.h"
 #include "dialogs/BoxExplanation.h"
 #include "record/designEntries.h"
 #include "record/designRows.h"
 #include "record/designStore.h"
 #include "record/rowText.h"
+#include "table/designColumns.h"
+#include "table/DesignParameterTable.h"
+#include "table/RowToolTip.h"
+#include "table/TypeEditor.h"
 
 #include <vkd_dbo_queries.h>
 #include <VKD_H_TableItems.h>

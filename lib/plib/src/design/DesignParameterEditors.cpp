@@ -2,11 +2,9 @@
 
 #include "design/DesignParameter.h"
 
-#include "design/DesignParameterTable.h"
 #include "design/HostRows.h"
 #include "design/RowEditing.h"
 #include "design/RowsHistory.h"
-#include "design/sharedGroupMarks.h"
 #include "dialogs/dialogFrame.h"
 #include "dialogs/dlgCrackControl.h"
 #include "dialogs/dlgDistanceDirection.h"
@@ -16,6 +14,8 @@
 #include "record/designRecord.h"
 #include "record/designRows.h"
 #include "record/groupsNotice.h"
+#include "table/DesignParameterTable.h"
+#include "table/sharedGroupMarks.h"
 
 #include <vkd_dbo_packedNames.h>
 #include <VKD_H_SecondaryGroupDialog.h>

@@ -2,9 +2,9 @@
 
 #include "design/DesignParameter.h"
 
-#include "design/DesignParameterTable.h"
 #include "design/RowsHistory.h"
 #include "design/RowsNotice.h"
+#include "table/DesignParameterTable.h"
 
 #include <VKD_QT_SignalBlocker.h>
 

@@ -1,12 +1,12 @@
 #include "design/HostRows.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
 #include "design/RowsHistory.h"
 #include "exchange/wholeRows.h"
 #include "record/designEntries.h"
 #include "record/designRows.h"
 #include "record/designStore.h"
+#include "table/DesignParameterTable.h"
 #include "VKD_P_DesignParameter_Rows.h"
 
 #include <QMetaMethod>

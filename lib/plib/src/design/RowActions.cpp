@@ -1,9 +1,9 @@
 #include "design/RowActions.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
 #include "record/designRows.h"
 #include "record/rowText.h"
+#include "table/DesignParameterTable.h"
 
 #include <QMenu>
 

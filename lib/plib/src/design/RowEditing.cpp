@@ -1,7 +1,6 @@
 #include "design/RowEditing.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
 #include "design/RowsHistory.h"
 #include "dialogs/CommonFields.h"
 #include "dialogs/RowStrip.h"
@@ -9,6 +8,7 @@
 #include "record/designRecord.h"
 #include "record/designRows.h"
 #include "record/rowTitle.h"
+#include "table/DesignParameterTable.h"
 
 #include <QComboBox>
 #include <QLineEdit>

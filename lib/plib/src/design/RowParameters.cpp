@@ -1,9 +1,9 @@
 #include "design/RowParameters.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
 #include "design/patchSelectedRows.h"
 #include "exchange/rowParameters.h"
+#include "table/DesignParameterTable.h"
 
 namespace plib {
 

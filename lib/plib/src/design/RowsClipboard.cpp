@@ -1,12 +1,12 @@
 #include "design/RowsClipboard.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
 #include "design/patchSelectedRows.h"
 #include "design/RowsHistory.h"
 #include "exchange/patchRows.h"
 #include "exchange/rowRecords.h"
 #include "record/designStore.h"
+#include "table/DesignParameterTable.h"
 
 #include <VKD_QT_MessageBox.h>
 

@@ -1,7 +1,7 @@
 #include "design/RowsHistory.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
+#include "table/DesignParameterTable.h"
 
 #include <QAction>
 #include <QUndoCommand>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "design/TableSelection.h"
 #include "record/RowsChange.h"
+#include "table/TableSelection.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,9 +1,9 @@
 #include "design/patchSelectedRows.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
 #include "design/RowsHistory.h"
 #include "exchange/patchRows.h"
+#include "table/DesignParameterTable.h"
 
 namespace plib {
 

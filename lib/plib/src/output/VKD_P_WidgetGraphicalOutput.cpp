@@ -2,8 +2,8 @@
 
 #include "output/WidgetGraphicalOutputData.h"
 #include "script/PlatformScriptEnvironment.h"
+#include "search/PlotKeys.h"
 #include "tree/GraphicalOutputTreeWidget.h"
-#include "tree/PlotKeys.h"
 
 #include <AnimatorView.h>
 #include <VKD_H_Dialog.h>

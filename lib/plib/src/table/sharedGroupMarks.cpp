@@ -1,7 +1,7 @@
-#include "design/sharedGroupMarks.h"
+#include "table/sharedGroupMarks.h"
 
-#include "design/DesignParameterTable.h"
 #include "record/sharedGroups.h"
+#include "table/DesignParameterTable.h"
 #include "VKD_P_DesignParameter_Role.h"
 
 #include <QStyle>

@@ -1,8 +1,8 @@
-#include "tree/ShownBoxes.h"
+#include "search/ShownBoxes.h"
 
+#include "search/PlotSearch.h"
+#include "search/treeItems.h"
 #include "tree/checkStates.h"
-#include "tree/PlotSearch.h"
-#include "tree/treeItems.h"
 
 #include <VKD_QT_SignalBlocker.h>
 

@@ -1,7 +1,7 @@
-#include "design/RowToolTip.h"
+#include "table/RowToolTip.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
+#include "table/DesignParameterTable.h"
 
 #include <vkd_dbo_groups.h>
 #include <VKD_H_ZOBDoc.h>

@@ -1,4 +1,4 @@
-#include "tree/treeItems.h"
+#include "search/treeItems.h"
 
 #include <QTreeWidget>
 

@@ -1,6 +1,6 @@
-#include "tree/BranchState.h"
+#include "search/BranchState.h"
 
-#include "tree/treeItems.h"
+#include "search/treeItems.h"
 
 #include <QScrollBar>
 #include <QTreeWidget>

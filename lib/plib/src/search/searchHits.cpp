@@ -1,4 +1,4 @@
-#include "tree/searchHits.h"
+#include "search/searchHits.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "tree/SearchBar.h"
+#include "search/SearchBar.h"
 
-#include "tree/PlotSearch.h"
+#include "search/PlotSearch.h"
 
 #include <QCheckBox>
 #include <QKeyEvent>

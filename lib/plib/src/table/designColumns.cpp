@@ -1,9 +1,9 @@
-#include "design/designColumns.h"
+#include "table/designColumns.h"
 
-#include "design/ColumnRoom.h"
-#include "design/DesignParameterTable.h"
-#include "design/SummaryDelegate.h"
 #include "record/rowText.h"
+#include "table/ColumnRoom.h"
+#include "table/DesignParameterTable.h"
+#include "table/SummaryDelegate.h"
 
 #include <VKD_H_TableItems.h>
 

@@ -1,8 +1,8 @@
-#include "tree/PlotKeys.h"
+#include "search/PlotKeys.h"
 
-#include "tree/PlotSearch.h"
-#include "tree/SearchBar.h"
-#include "tree/ShownBoxes.h"
+#include "search/PlotSearch.h"
+#include "search/SearchBar.h"
+#include "search/ShownBoxes.h"
 
 #include <VKD_QT_TreeWidget.h>
 

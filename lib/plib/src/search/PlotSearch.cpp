@@ -1,7 +1,7 @@
-#include "tree/PlotSearch.h"
+#include "search/PlotSearch.h"
 
-#include "tree/BranchState.h"
-#include "tree/treeItems.h"
+#include "search/BranchState.h"
+#include "search/treeItems.h"
 
 #include <VKD_QT_TreeWidget.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "design/columnWidths.h"
+#include "table/columnWidths.h"
 
 #include <QObject>
 

@@ -1,4 +1,4 @@
-#include "design/TableSelection.h"
+#include "table/TableSelection.h"
 
 #include <QTableWidget>
 

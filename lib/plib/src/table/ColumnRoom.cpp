@@ -1,6 +1,6 @@
-#include "design/ColumnRoom.h"
+#include "table/ColumnRoom.h"
 
-#include "design/DesignParameterTable.h"
+#include "table/DesignParameterTable.h"
 
 #include <QEvent>
 #include <QHeaderView>

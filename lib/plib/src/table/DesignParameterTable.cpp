@@ -1,4 +1,4 @@
-#include "design/DesignParameterTable.h"
+#include "table/DesignParameterTable.h"
 
 #include <VKD_QT_Menu.h>
 

@@ -1,4 +1,4 @@
-#include "design/SummaryDelegate.h"
+#include "table/SummaryDelegate.h"
 
 #include "record/rowText.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tree/searchHits.h"
+#include "search/searchHits.h"
 
 #include <QObject>
 #include <QSet>

@@ -1,4 +1,4 @@
-#include "design/columnWidths.h"
+#include "table/columnWidths.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "design/TypeEditor.h"
+#include "table/TypeEditor.h"
 
 #include "design/DesignParameter.h"
-#include "design/DesignParameterTable.h"
 #include "record/designRows.h"
+#include "table/DesignParameterTable.h"
 
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_SignalBlocker.h>
