@@ -138,9 +138,9 @@ void DesignDock::keyPressEvent(QKeyEvent* event)
 /// While a menu is used, the focus is still that of the dock.
 void DesignDock::followFocus(const QWidget* now)
 {
-    if (m_page && (!now || qobject_cast<const QMenuBar*>(now) || qobject_cast<const QMenu*>(now)))
-        return;
-    m_editMenu->menuAction()->setEnabled(m_page && isAncestorOf(now));
+    const bool isInMenu = qobject_cast<const QMenuBar*>(now) || qobject_cast<const QMenu*>(now);
+    if (m_editMenu && !(m_page && (!now || isInMenu)))
+        m_editMenu->menuAction()->setEnabled(m_page && isAncestorOf(now));
 }
 
 } // namespace workbench

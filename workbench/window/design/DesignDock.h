@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDockWidget>
+#include <QPointer>
 
 #include <functional>
 #include <memory>
@@ -53,7 +54,7 @@ private:
     void followFocus(const QWidget* now);
 
     std::function<bool()> m_mayClose;
-    QMenu* m_editMenu;
+    QPointer<QMenu> m_editMenu; ///< the window destroys it before the dock
     DesignPage* m_page = nullptr;
     QScrollArea* m_place;
     QVBoxLayout* m_tools;
