@@ -59,7 +59,11 @@ MainWindow::MainWindow(const MakeProject& makeProject, QWidget* parent)
     m_panes->restoreGeometry();
 }
 
-MainWindow::~MainWindow() = default;
+/// The docks still emit signals while QWidget destroys them; the window is no QMainWindow then.
+MainWindow::~MainWindow()
+{
+    m_panes->design->disconnect(m_panes);
+}
 
 void MainWindow::createEditors(const MakeProject& makeProject)
 {
