@@ -46,7 +46,7 @@ MainWindow::MainWindow(const MakeProject& makeProject, QWidget* parent)
 {
     setObjectName(QStringLiteral("MainWindow"));
     resizeWithinScreen(this, {1280, 800});
-    m_panes = new WindowPanes(*m_actions, this);
+    m_panes = std::make_unique<WindowPanes>(*m_actions, this);
     statusBar()->addPermanentWidget(m_contents);
     createEditors(makeProject);
     connectActions();
@@ -118,7 +118,7 @@ void MainWindow::connectPanes()
             &AnimatorView::setHighlightedGroup);
     connect(m_panes->view, &AnimatorView::groupHovered, m_panes->groups,
             &GroupList::setMarkedGroup);
-    connect(m_panes, &WindowPanes::sheetsVisibleChanged, m_outputScript.get(),
+    connect(m_panes.get(), &WindowPanes::sheetsVisibleChanged, m_outputScript.get(),
             &OutputScript::setSheetsVisible);
     auto drop = new FileDrop(this, [] { return !QApplication::activeModalWidget(); });
     connect(drop, &FileDrop::dropped, m_files.get(), &FileCommands::openDropped);

@@ -70,12 +70,13 @@ private:
     void setLanguage(vkd::Language language);
 
     WindowActions* m_actions;
-    WindowPanes* m_panes = nullptr;
     QLabel* m_contents;
     GroupMenu* m_groupMenu = nullptr;
 
     // The editors and their dialogs are destroyed before the project, and the project is destroyed
-    // before the panes.
+    // before the panes. The panes are destroyed before the window, whose docks then still emit
+    // visibilityChanged().
+    std::unique_ptr<WindowPanes> m_panes;
     OpenProject m_project;
     WindowMessages m_messages{this};
     ProjectAccess m_access{&m_project, &m_messages};
