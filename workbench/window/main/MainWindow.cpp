@@ -59,11 +59,7 @@ MainWindow::MainWindow(const MakeProject& makeProject, QWidget* parent)
     m_panes->restoreGeometry();
 }
 
-/// The docks still emit signals while QWidget destroys them; the window is no QMainWindow then.
-MainWindow::~MainWindow()
-{
-    m_panes->design->disconnect(m_panes);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::createEditors(const MakeProject& makeProject)
 {
