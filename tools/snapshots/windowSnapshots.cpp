@@ -25,7 +25,8 @@ void trigger(const MainWindow& window, const char* action)
     window.findChild<QAction*>(QLatin1String(action))->trigger();
 }
 
-/// Adds screenshots of the design dock, with the groups of a row and while they are picked.
+/// Adds two screenshots of the design dock: with the groups of a row highlighted, and while groups
+/// are picked.
 void addDesign(SnapshotAlbum& album, MainWindow& window, const QString& look)
 {
     trigger(window, "Design");

@@ -14,9 +14,9 @@ enum class PresetPlace { Supplied, User, Project };
 
 using PresetChange = std::function<void(PresetList&)>;
 
-/// Reads the presets of a place, in the desktop language where they are translated. A place in
-/// which nothing has been stored has no presets. `project` is used only for its own presets; it may
-/// be null.
+/// Reads the presets from a location, with their translations into the desktop language if there
+/// are any. If nothing has been stored there, no presets are returned. `project` is used only for
+/// its own presets; it may be null.
 PresetReading presetsOf(PresetPlace place, ZobHandle project);
 
 /// Reads the presets of a place again, changes and stores them. Supplied presets cannot be changed.
@@ -24,7 +24,7 @@ PresetReading presetsOf(PresetPlace place, ZobHandle project);
 /// instance because they have a newer version, are never overwritten.
 QString changePresets(PresetPlace place, ZobHandle project, const PresetChange& change);
 
-/// Returns the path of the file of the user.
+/// Returns the path of the user's file.
 QString userPresetsPath();
 
 /// Read and write a file that the user exchanges with others. On failure, the fault mentions the

@@ -16,8 +16,8 @@ namespace workbench {
 class OpenProject;
 
 /// The design parameters of a project on the library's page, and functions for the rows that the
-/// page publishes. The page reads the records from a copy in the scratch store, because it would
-/// store default records in a project without records.
+/// page publishes. The page reads a copy of the records in the scratch store; otherwise, it would
+/// store default records in a project that has none.
 class DesignPage : public QWidget
 {
     Q_OBJECT

@@ -108,7 +108,7 @@ void PresetsDialog::fill()
     currentChanged();
 }
 
-/// A place that cannot be read shows the reason.
+/// If the presets cannot be read, the list shows the reason.
 void PresetsDialog::addPlace(PresetPlace place, const QString& title)
 {
     PresetReading& reading = m_places[int(place)];

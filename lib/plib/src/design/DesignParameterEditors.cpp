@@ -60,7 +60,7 @@ void DesignParameter::slot_editCellWidget()
     if (row == 0 && column == 0)
         return; // no editor for this cell; an open editor elsewhere remains
     if (row == editRow && column == editColumn && hasFocusInEditor())
-        return; // a click into the editor selects its cell; this must not close it
+        return; // the user has clicked in the editor, which selects its cell
     closeCellWidget();
     if (row == editRow && column == editColumn) {
         editRow = editColumn = -1;

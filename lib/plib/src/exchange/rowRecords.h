@@ -7,7 +7,7 @@
 
 namespace plib {
 
-/// The MIME type of clipboard data that contains all parameters of rows without rounding.
+/// The MIME type of clipboard data that contains all row parameters, unrounded.
 constexpr char RowRecordsType[] = "application/x-vkd-design-parameter-rows";
 
 /// Returns the parameters of rows as clipboard data.

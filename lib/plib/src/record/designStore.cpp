@@ -22,8 +22,7 @@ constexpr int RecordLength = sizeof(tagZOB_QUAD_RIM);
 constexpr int UndefinedKind = -99999;
 
 /// Reads the records of a key pair one by one into the caller's record. If a stored record is too
-/// short, the remaining bytes of the caller's record do not change, so they may contain changes by
-/// the caller.
+/// short, the remaining bytes of the caller's record keep the values that the caller wrote there.
 class RecordPass
 {
 public:

@@ -46,7 +46,7 @@ Camera aimed(const Camera& camera, const Box& box);
 Camera panned(const Camera& camera, const Box& box, const QSizeF& size, const QPointF& by);
 
 /// Returns the camera with its zoom multiplied by a factor, within limits. The model point at the
-/// given position of the image remains there.
+/// given position in the image stays there.
 Camera zoomed(const Camera& camera, const Box& box, const QSizeF& size, double factor,
               const QPointF& at);
 
