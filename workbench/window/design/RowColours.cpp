@@ -2,10 +2,10 @@
 
 #include "window/design/DesignDock.h"
 #include "window/design/DesignPage.h"
-#include "window/design/groupRanges.h"
 #include "window/design/RowLegend.h"
 
 #include <AnimatorView.h>
+#include <vkd_dbo_groupTexts.h>
 #include <vkd_dbo_packedNames.h>
 
 #include <QPushButton>
@@ -45,7 +45,7 @@ void RowColours::show(const DesignPage* page, const QHash<int, int>& rowOf, int 
     if (page && m_button->isChecked()) {
         colours[AnimatorView::NoGroup] = Qt::gray;
         for (auto it = rowOf.cbegin(); it != rowOf.cend(); ++it)
-            if (it.value() != remainingRow && it.key() < vkd::dbo::FirstPackedName)
+            if (it.value() != remainingRow && !vkd::dbo::isSecondaryGroup(it.key()))
                 colours[it.key()] = AnimatorView::distinctColour(it.value());
         for (int row = 0; row < page->table()->rowCount(); ++row) {
             const QVector<int> groups = page->groups(row);
@@ -56,7 +56,7 @@ void RowColours::show(const DesignPage* page, const QHash<int, int>& rowOf, int 
                 entries.append({row, none, tr("Remaining")});
             else if (!groups.isEmpty())
                 entries.append({row, isColoured ? AnimatorView::distinctColour(row) : none,
-                                groupRanges(groups)});
+                                vkd::dbo::groupRanges({groups.begin(), groups.end()})});
         }
     }
     m_view->setGroupColours(colours);

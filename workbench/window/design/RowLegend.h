@@ -20,7 +20,7 @@ public:
         QString groups;
     };
 
-    /// `view` is the parent, in whose corner the legend is placed.
+    /// The legend is in a corner of `view`, which becomes its parent.
     explicit RowLegend(QWidget* view);
     /// Shows these rows, or nothing if there are none.
     void setEntries(const QVector<Entry>& entries);

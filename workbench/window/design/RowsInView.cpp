@@ -23,11 +23,6 @@ namespace workbench {
 
 namespace {
 constexpr int TypeColumn = 1; // has no editor that covers the cell
-
-bool isPrimary(int group)
-{
-    return group >= 0 && group < vkd::dbo::FirstPackedName;
-}
 } // namespace
 
 RowsInView::RowsInView(const Widgets& widgets, WindowMessages* messages)
@@ -182,7 +177,7 @@ void RowsInView::showSelected()
     std::vector<int> picked;
     if (changeableRow() > 0) {
         const QVector<int> all = page()->groups(currentRow());
-        std::copy_if(all.begin(), all.end(), std::back_inserter(picked), isPrimary);
+        std::copy_if(all.begin(), all.end(), std::back_inserter(picked), vkd::dbo::isPrimaryGroup);
     }
     m_widgets.view->setPickedGroups(picked);
     m_widgets.banner->setPicked(currentRow(), picked);
@@ -217,7 +212,7 @@ void RowsInView::takePicked()
         return showSelected();
     QVector<int> groups;
     for (int group : page()->groups(currentRow()))
-        if (!isPrimary(group))
+        if (!vkd::dbo::isPrimaryGroup(group))
             groups << group;
     for (int group : m_widgets.view->pickedGroups())
         groups << group;

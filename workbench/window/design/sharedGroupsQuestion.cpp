@@ -1,6 +1,6 @@
 #include "window/design/sharedGroupsQuestion.h"
 
-#include <vkd_dbo_packedNames.h>
+#include <vkd_dbo_groupTexts.h>
 
 #include <QCoreApplication>
 #include <QMap>
@@ -22,9 +22,7 @@ QString groupName(int group)
 {
     if (group == -1)
         return DialogText::tr("\u201CRemaining Groups\u201D");
-    return DialogText::tr("Group %1")
-        .arg(group < vkd::dbo::FirstPackedName ? QString::number(group)
-                                               : vkd::dbo::unpackedName(group));
+    return DialogText::tr("Group %1").arg(vkd::dbo::groupText(group));
 }
 
 QString line(int group, const QVector<int>& rows)

@@ -273,7 +273,7 @@ void DesignParameter::pickBesidePage(int row)
     std::vector<int> checked, present;
     VKD_H_SelGRP_Dialog::getAniSelectionFromZob(VKD_H_SelGRP_Dialog::StartOfPicking, checked);
     std::copy_if(shown->groups.begin(), shown->groups.end(), std::back_inserter(present),
-                 [](int group) { return group >= 0 && group < vkd::dbo::FirstPackedName; });
+                 vkd::dbo::isPrimaryGroup);
     if (checked != present)
         takeGroups(row, checked);
     Q_EMIT host->pickingRequested();

@@ -2,10 +2,10 @@
 
 #include "exchange/rowColumns.h"
 #include "record/designRecord.h"
-#include "record/groupRanges.h"
 #include "record/rowText.h"
 
 #include <StructLineEdit.h>
+#include <vkd_dbo_groupTexts.h>
 #include <vkd_h_numberText.h>
 
 #include <QCoreApplication>
@@ -62,7 +62,7 @@ QString shortened(const QString& title)
 QString shownGroups(const std::vector<int>& groups)
 {
     const QString separator = QStringLiteral(", ");
-    const QStringList ranges = groupRanges(groups).split(separator);
+    const QStringList ranges = vkd::dbo::groupRanges(groups).split(separator);
     return ranges.size() <= MostRanges
                ? ranges.join(separator)
                : ranges.mid(0, MostRanges).join(separator) + separator + QChar(0x2026);
@@ -82,7 +82,7 @@ QString groupsWithTitles(const DesignParameterRow& row, const GroupTitles& title
             lines << QString(QChar(0x2026));
             break;
         }
-        lines << groupText(group) + QLatin1String(": ") + title;
+        lines << vkd::dbo::groupText(group) + QLatin1String(": ") + title;
     }
     return lines.join(QLatin1Char('\n'));
 }

@@ -1,8 +1,8 @@
 #include "record/groupsNotice.h"
 
-#include "record/groupRanges.h"
 #include "record/sharedGroups.h"
 
+#include <vkd_dbo_groupTexts.h>
 #include <vkd_dbo_packedNames.h>
 
 #include <QCoreApplication>
@@ -19,16 +19,12 @@ struct NoticeText
     Q_DECLARE_TR_FUNCTIONS(GroupsNotice)
 };
 
-bool isSecondary(int group)
-{
-    return group >= vkd::dbo::FirstPackedName;
-}
-
 std::vector<int> ofKind(const std::vector<int>& groups, bool secondary)
 {
     std::vector<int> found;
-    std::copy_if(groups.begin(), groups.end(), std::back_inserter(found),
-                 [secondary](int group) { return group >= 0 && isSecondary(group) == secondary; });
+    std::copy_if(groups.begin(), groups.end(), std::back_inserter(found), [secondary](int group) {
+        return secondary ? vkd::dbo::isSecondaryGroup(group) : vkd::dbo::isPrimaryGroup(group);
+    });
     return found;
 }
 
@@ -47,7 +43,7 @@ QString sharedNotice(const DesignRowList& rows, int row)
     if (groups.empty())
         return QString();
     return NoticeText::tr("Groups also in row %1: %2.")
-        .arg(groupRanges(others), groupRanges(groups));
+        .arg(vkd::dbo::groupRanges(others), vkd::dbo::groupRanges(groups));
 }
 
 QString lossNotice(const std::vector<int>& before, const std::vector<int>& after, int row)
@@ -57,7 +53,7 @@ QString lossNotice(const std::vector<int>& before, const std::vector<int>& after
         if (lost.empty() || !ofKind(after, secondary).empty())
             continue;
         return NoticeText::tr("Row %1 has lost %2 (see Undo).")
-            .arg(QString::number(row + 1), groupRanges(lost));
+            .arg(QString::number(row + 1), vkd::dbo::groupRanges(lost));
     }
     return QString();
 }

@@ -4,7 +4,7 @@
 #include "record/designRecord.h"
 
 #include <VKD_A_BarDiameterData.h>
-#include <vkd_dbo_packedNames.h>
+#include <vkd_dbo_groupTexts.h>
 #include <VKD_H_UnitLabel.h>
 #include <vkd_h_units.h>
 
@@ -104,7 +104,7 @@ QString groupsText(const std::vector<int>& groups)
         return PageText::tr(RemainingGroupsText);
     QStringList texts;
     for (int group : groups)
-        texts << groupText(group);
+        texts << vkd::dbo::groupText(group);
     return texts.join(QLatin1Char(';'));
 }
 
@@ -116,12 +116,6 @@ QString typeText(int type)
     return PageText::tr(DesignTypeNames[index]);
 }
 } // namespace
-
-QString groupText(int group)
-{
-    return group < vkd::dbo::FirstPackedName ? QString::number(group)
-                                             : vkd::dbo::unpackedName(group);
-}
 
 QString withBreaksBetweenValues(const QString& summary)
 {

@@ -31,9 +31,6 @@ QString rowText(const DesignParameterRow& row, int column);
 /// dimension code 1023, otherwise the number in the displayed unit, followed by `unit`.
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit);
 
-/// Returns the number of a primary group or the name of a secondary group.
-QString groupText(int group);
-
 /// Returns a summary with invisible characters that allow line breaks only after " ;", so that no
 /// value is separated from its unit. For painting; the text of the cell stays as it is.
 QString withBreaksBetweenValues(const QString& summary);

@@ -1,9 +1,10 @@
 #include "record/rowTitle.h"
 
-#include "record/groupRanges.h"
+#include <vkd_dbo_groupTexts.h>
+
+#include <QCoreApplication>
 
 #include <algorithm>
-#include <QCoreApplication>
 
 namespace plib {
 
@@ -13,17 +14,14 @@ struct TitleText
     Q_DECLARE_TR_FUNCTIONS(RowTitle)
 };
 
-QString groupsTitle(std::vector<int> groups)
+QString groupsTitle(const std::vector<int>& groups)
 {
-    const auto remaining = std::find(groups.begin(), groups.end(), -1);
-    const bool hasRemaining = remaining != groups.end();
-    if (hasRemaining)
-        groups.erase(remaining);
-    if (groups.empty())
+    const bool hasRemaining = std::find(groups.begin(), groups.end(), -1) != groups.end();
+    const std::size_t others = groups.size() - (hasRemaining ? 1 : 0);
+    if (others == 0)
         return hasRemaining ? TitleText::tr("remaining groups") : TitleText::tr("no groups");
-    const QString text =
-        groups.size() == 1 ? TitleText::tr("group %1") : TitleText::tr("groups %1");
-    const QString listed = text.arg(groupRanges(groups));
+    const QString text = others == 1 ? TitleText::tr("group %1") : TitleText::tr("groups %1");
+    const QString listed = text.arg(vkd::dbo::groupRanges(groups));
     return hasRemaining ? TitleText::tr("%1 and remaining groups").arg(listed) : listed;
 }
 } // namespace
@@ -39,7 +37,7 @@ QString rowTitle(const DesignRowList& rows, const std::set<int>& numbers)
     }
     const QString title =
         numbers.size() == 1 ? TitleText::tr("Row %1: %2") : TitleText::tr("Rows %1: %2");
-    return title.arg(groupRanges(shown), groupsTitle(groups));
+    return title.arg(vkd::dbo::groupRanges(shown), groupsTitle(groups));
 }
 
 } // namespace plib

@@ -1,6 +1,6 @@
 #include "record/sharedGroups.h"
 
-#include "record/rowText.h"
+#include <vkd_dbo_groupTexts.h>
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -33,7 +33,7 @@ QString sentence(int row, const SharedGroup& shared)
     const QString numbers = others.join(QLatin1String(", "));
     if (shared.group == -1)
         return PageText::tr("Remaining Groups: also in row %1").arg(numbers);
-    return PageText::tr("Group %1: also in row %2").arg(groupText(shared.group), numbers);
+    return PageText::tr("Group %1: also in row %2").arg(vkd::dbo::groupText(shared.group), numbers);
 }
 } // namespace
 

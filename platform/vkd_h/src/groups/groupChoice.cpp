@@ -33,8 +33,8 @@ std::vector<int> groupsOfKind(VKD_H_GroupKind kind, const std::vector<int>& list
 
 bool isOfKind(VKD_H_GroupKind kind, int group)
 {
-    return kind == VKD_H_GroupKind::Secondary ? group >= dbo::FirstPackedName
-                                              : group >= 0 && group < dbo::FirstPackedName;
+    return kind == VKD_H_GroupKind::Secondary ? dbo::isSecondaryGroup(group)
+                                              : dbo::isPrimaryGroup(group);
 }
 
 std::vector<int> groupsNotShown(VKD_H_GroupKind kind, const std::vector<int>& opened)
