@@ -1,5 +1,7 @@
 #include "design/RowsNotice.h"
 
+#include "dialogs/ElidedLabel.h"
+
 #include <VKD_QT_Layouts.h>
 
 #include <QLabel>
@@ -10,7 +12,7 @@ namespace plib {
 RowsNotice::RowsNotice(QWidget* parent)
     : QWidget(parent)
     , m_sign(new QLabel(this))
-    , m_label(new QLabel(this))
+    , m_label(new ElidedLabel(this))
 {
     setObjectName(QStringLiteral("rowsNotice"));
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -18,8 +20,6 @@ RowsNotice::RowsNotice(QWidget* parent)
     setSizePolicy(policy);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     m_sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(side));
-    m_label->setTextFormat(Qt::PlainText);
-    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto layout = new VKD_QT_HBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_sign);
@@ -29,23 +29,8 @@ RowsNotice::RowsNotice(QWidget* parent)
 
 void RowsNotice::setText(const QString& text)
 {
-    m_text = text;
     m_sign->setVisible(!text.isEmpty());
-    setToolTip(text);
-    m_label->setAccessibleName(text);
-    elide();
-}
-
-void RowsNotice::elide()
-{
-    layout()->activate(); // sets the width of the label
-    m_label->setText(m_label->fontMetrics().elidedText(m_text, Qt::ElideRight, m_label->width()));
-}
-
-void RowsNotice::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    elide();
+    m_label->setFullText(text);
 }
 
 } // namespace plib

@@ -6,6 +6,8 @@ class QLabel;
 
 namespace plib {
 
+class ElidedLabel;
+
 /// A line beside the buttons of the table that explains an effect of the last step. It takes the
 /// room that is left. Text that is too long is elided and shown in a tool tip.
 class RowsNotice : public QWidget
@@ -18,15 +20,9 @@ public:
     /// Shows a text, or nothing if the text is empty.
     void setText(const QString& text);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
-    void elide();
-
-    QString m_text;
     QLabel* m_sign;
-    QLabel* m_label;
+    ElidedLabel* m_label;
 };
 
 } // namespace plib

@@ -1,28 +1,26 @@
 #include "dialogs/RowStrip.h"
 
+#include "dialogs/ElidedLabel.h"
+
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_Ok.h>
 
-#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
-#include <QToolTip>
 
 namespace plib {
 
 RowStrip::RowStrip(VKD_QT_Dialog* dialog)
     : QWidget(dialog)
-    , m_titleLabel(new QLabel(this))
+    , m_titleLabel(new ElidedLabel(this))
     , m_noteLabel(new QLabel(this))
     , m_row(new VKD_QT_HBoxLayout)
 {
     setObjectName(QStringLiteral("rowStrip"));
     m_titleLabel->setObjectName(QStringLiteral("rowTitle"));
-    m_titleLabel->setTextFormat(Qt::PlainText);
-    m_titleLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QFont bold = font();
     bold.setBold(true);
     m_titleLabel->setFont(bold);
@@ -41,10 +39,8 @@ RowStrip::RowStrip(VKD_QT_Dialog* dialog)
 
 void RowStrip::setTitle(const QString& title)
 {
-    m_title = title;
-    m_titleLabel->setAccessibleName(title);
+    m_titleLabel->setFullText(title);
     window()->setAccessibleDescription(title); // screen readers read it when the dialog opens
-    elideTitle();
 }
 
 void RowStrip::setNote(const QString& note)
@@ -88,27 +84,6 @@ QToolButton* RowStrip::newButton(const char* name, Qt::ArrowType arrow, int key,
     connect(button, &QToolButton::clicked, this, request);
     connect(new QShortcut(keys, window()), &QShortcut::activated, this, request);
     return button;
-}
-
-void RowStrip::elideTitle()
-{
-    m_titleLabel->setText(
-        m_titleLabel->fontMetrics().elidedText(m_title, Qt::ElideRight, m_titleLabel->width()));
-}
-
-void RowStrip::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    layout()->activate(); // sets the width of the label
-    elideTitle();
-}
-
-bool RowStrip::event(QEvent* event)
-{
-    if (event->type() != QEvent::ToolTip || m_titleLabel->text() == m_title)
-        return QWidget::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), m_title, this);
-    return true;
 }
 
 } // namespace plib

@@ -9,6 +9,8 @@ class VKD_QT_Dialog;
 
 namespace plib {
 
+class ElidedLabel;
+
 /// A strip at the top of a dialog with the title of the edited rows. For a single row, it has
 /// buttons to continue with the previous or next row, which also work with Alt+Up and Alt+Down. It
 /// is outside the layout of the dialog, whose window title names only the parameters.
@@ -25,22 +27,15 @@ public:
     /// Adds the buttons on the first call.
     void setSteps(bool hasPrevious, bool hasNext);
 
-    bool event(QEvent* event) override;
-
 Q_SIGNALS:
     /// Emitted with -1 for the previous row and 1 for the next row.
     void stepRequested(int direction);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     QToolButton* newButton(const char* name, Qt::ArrowType arrow, int key, const QString& purpose,
                            int direction);
-    void elideTitle();
 
-    QString m_title;
-    QLabel* m_titleLabel;
+    ElidedLabel* m_titleLabel;
     QLabel* m_noteLabel;
     QHBoxLayout* m_row;
     QToolButton* m_previous = nullptr;
