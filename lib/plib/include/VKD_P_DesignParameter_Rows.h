@@ -34,6 +34,22 @@ namespace designparameter {
 ///   history. Returns false and changes nothing if the data is malformed.
 constexpr char RowsObject[] = "rows";
 
+/// The object name of a child object of VKD_P_DesignParameter that provides the parameters of rows
+/// as maps. It exists after init(). The keys of the maps are "type" and the names of real fields in
+/// tagZOB_QUAD_RIM_Words.h. The values are numbers in base units, with distances from layer to
+/// layer; an invalid value represents "not set".
+///
+/// Methods:
+/// - `QVariantMap current()` returns all parameters of the current row, or an empty map if there is
+///   none.
+/// - `QStringList faults(QVariantMap)` returns a message for each parameter that is unknown or that
+///   the page would not accept.
+/// - `QString description(QVariantMap)` returns the parameters as a table in rich text.
+/// - `QStringList setInSelectedRows(QVariantMap, QString stepName)` sets the parameters in all
+///   selected rows as one undo step with this name. Other parameters and the groups do not change.
+///   If there are faults, it returns them and changes nothing.
+constexpr char ParametersObject[] = "rowParameters";
+
 } // namespace designparameter
 } // namespace plib
 } // namespace vkd

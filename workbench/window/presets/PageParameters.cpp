@@ -1,6 +1,7 @@
 #include "window/presets/PageParameters.h"
 
 #include <VKD_P_DesignParameter>
+#include <VKD_P_DesignParameter_Rows.h>
 
 #include <QSet>
 #include <QTableWidget>
@@ -8,7 +9,8 @@
 namespace workbench {
 
 PageParameters::PageParameters(const VKD_P_DesignParameter* page)
-    : m_object(page->findChild<QObject*>(QStringLiteral("rowParameters")))
+    : m_object(
+          page->findChild<QObject*>(QLatin1String(vkd::plib::designparameter::ParametersObject)))
     , m_table(page->findChild<QTableWidget*>(QStringLiteral("table")))
 {
 }

@@ -4,6 +4,7 @@
 #include "design/patchSelectedRows.h"
 #include "exchange/rowParameters.h"
 #include "table/DesignParameterTable.h"
+#include "VKD_P_DesignParameter_Rows.h"
 
 namespace plib {
 
@@ -11,7 +12,7 @@ RowParameters::RowParameters(DesignParameter* page)
     : QObject(page)
     , m_page(page)
 {
-    setObjectName(QString::fromLatin1("rowParameters"));
+    setObjectName(QLatin1String(vkd::plib::designparameter::ParametersObject));
 }
 
 QVariantMap RowParameters::current() const
