@@ -1,4 +1,4 @@
-#include "project/OutputState.h"
+#include "project/OutputList.h"
 #include "TestSupport.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -158,6 +158,36 @@ private Q_SLOTS:
         QFile::remove(path("saved.zob"));
     }
 
+    /// A project with named outputs prints the same scripts as projects with a single output, and
+    /// the first output without any option.
+    void namedOutputs()
+    {
+        QFile::copy(path("building.zob"), path("outputs.zob"));
+        const auto project = VKD_H_ZOBDoc::open(path("outputs.zob"));
+        auto outputs = workbench::OutputList::read(project->handle());
+        outputs.setState({QStringLiteral("<Scale>1:20</Scale><View>2</View>"), 0, {2}}, true);
+        outputs.add(QStringLiteral("Slab: 1/2"), {QStringLiteral("<View>1</View>"), 0, {}});
+        outputs.add(QStringLiteral("slab_ 1:2"), {});
+        QVERIFY(outputs.put(project->handle()).isOk());
+        QVERIFY(project->close().isOk());
+        QCOMPARE(run("outputs building.zob --language german").out, QStringLiteral("Ausgabe 1\n"));
+        QCOMPARE(run("outputs outputs.zob --language german").out,
+                 QStringLiteral("Output 1\nSlab: 1/2\nslab_ 1:2\n"));
+        const QString second = run("script building.zob --set viewId=1").out;
+        QCOMPARE(run({QStringLiteral("script"), QStringLiteral("outputs.zob"),
+                      QStringLiteral("--output"), QStringLiteral("slab: 1/2")})
+                     .out,
+                 second);
+        QCOMPARE(run("script outputs.zob --all --into made/all --language german").out,
+                 QStringLiteral("made/all/Output 1.dat\nmade/all/Slab_ 1_2.dat\n"
+                                "made/all/slab_ 1_2 (2).dat\n"));
+        const QString first = run("script outputs.zob --language german").out;
+        QVERIFY(first.contains(QLatin1String("SIZE -URS SC 20*")));
+        QCOMPARE(readFile(path("made/all/Output 1.dat")), first.toUtf8());
+        QCOMPARE(readFile(path("made/all/slab_ 1_2 (2).dat")),
+                 run("script building.zob --language german").out.toUtf8());
+    }
+
     void otherShareFolder()
     {
         writeFile(path("graphicaloutput.data"), "1|0|0|A|B|C| |0| |0|3| |0|NUR HIER|ONLY HERE\n");
@@ -314,6 +344,13 @@ private Q_SLOTS:
                     .arg(QLatin1String(refused)));
         row("script slab.zob --selection absent.txt",
             "cannot read absent.txt: No such file or directory");
+        row("script slab.zob --output x", "there is no output \"x\", only \"Output 1\"");
+        row("script slab.zob --output x --proposed",
+            "--output needs the saved choice of --progname 1");
+        row("script slab.zob --all", "--into is missing");
+        row("script slab.zob --into .", "--all is missing");
+        row("script slab.zob --all --into . -o x", "--all and -o exclude each other");
+        row("script slab.zob --all --into bad.json/a", "cannot create the folder bad.json/a");
         row("script slab.zob --load-cases badcases.txt",
             "badcases.txt:2: a kind of 1 or 2, a number and a name are needed");
         row("script slab.zob -o no/such/folder.txt --selection-out saved.txt",
@@ -366,7 +403,7 @@ private Q_SLOTS:
     void help()
     {
         for (const char* command :
-             {"", "new", "rows", "script", "catalogue", "tree", "snapshots", "window"}) {
+             {"", "new", "rows", "script", "outputs", "catalogue", "tree", "snapshots", "window"}) {
             const QString name = QLatin1String(command);
             const Result result = run((name + QLatin1String(" --help")).trimmed());
             QCOMPARE(result.exitCode, 0);

@@ -2,6 +2,7 @@
 #include "cli/DesignRows.h"
 #include "cli/newProject.h"
 #include "project/OpenProject.h"
+#include "project/OutputList.h"
 #include "ProjectTest.h"
 #include "walkOverFaults.h"
 #include "window/design/DesignPage.h"
@@ -35,6 +36,27 @@ QString storeDesign(const QString& path, const QString&)
         find<QPushButton>(page, "btnDelete")->click();
         code = page.store(workbench::SeenPart::Newer::Keep);
     }
+    return code == VKD_ZOB_OK ? QString() : vkd_zob_last_failure(project.handle().index()).reason;
+}
+
+/// Adds an output and renames the first one.
+QString storeOutputs(const QString& path, const QString&)
+{
+    VkdStatus status;
+    workbench::OpenProject project;
+    project.setDocument(VKD_H_ZOBDoc::open(path, &status));
+    if (!project.isOpen())
+        return status.reason;
+    workbench::OutputList outputs = workbench::OutputList::read(project.handle(), &status);
+    outputs.rename(QStringLiteral("Slab"));
+    if (outputs.size() == 1)
+        outputs.add(QStringLiteral("Walls"), {QString(3000, QLatin1Char('x')), 1, {2, 3}});
+    const auto put = [&] { return (status = outputs.put(project.handle())).code; };
+    const bool isSeen = project.look(workbench::ProjectPart::Output) == VKD_ZOB_OK;
+    const cd_error_t code =
+        isSeen && status.isOk()
+            ? project.store(workbench::ProjectPart::Output, put, workbench::SeenPart::Newer::Keep)
+            : cd_error_t(VKD_ZOB_FAILED);
     return code == VKD_ZOB_OK ? QString() : vkd_zob_last_failure(project.handle().index()).reason;
 }
 
@@ -85,6 +107,7 @@ private Q_SLOTS:
     {
         const Columns<Run, QString, int> row("run", "project", "stride");
         row("design", storeDesign, "old.zob", 4); // slow, because it creates a page
+        row("outputs", storeOutputs, "old.zob", 1);
         row("read rows", readRows, "old.zob", 1);
         row("save as", saveAs, "new.zob", 2);
         row("new", make, "new.zob", 2);

@@ -50,17 +50,14 @@ void checkProgname(int progname, const plib::Catalogue& catalogue)
 }
 } // namespace
 
-OutputTree::OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname,
-                       const OutputState& saved, const Rows* rows)
-    : m_document(std::move(document))
-    , m_parameter(m_document.get())
+OutputTree::OutputTree(VKD_H_ZOBDoc* document, int progname, const OutputState& saved,
+                       const Rows* rows)
+    : m_parameter(document)
     , m_queries(&m_parameter)
     , m_progname(progname)
 {
-    fill(rows ? *rows : saved.offeredRows(m_document->handle()), additionalContents(saved));
+    fill(rows ? *rows : saved.offeredRows(document->handle()), additionalContents(saved));
 }
-
-OutputTree::~OutputTree() = default;
 
 void OutputTree::fill(const Rows& rows, const std::list<QString>& additional)
 {

@@ -8,7 +8,6 @@
 #include <LoadcaseInformation.h>
 
 #include <list>
-#include <memory>
 #include <vector>
 
 class VKD_H_ZOBDoc;
@@ -26,10 +25,9 @@ public:
 
     /// Builds the tree with the catalogue's default choice. The tree offers the additional content
     /// of `saved` and the load cases of `rows`. If `rows` is null, it offers the load cases that
-    /// `saved` does not exclude. Throws a CommandError if there is no catalogue.
-    OutputTree(std::unique_ptr<VKD_H_ZOBDoc> document, int progname, const OutputState& saved,
-               const Rows* rows);
-    ~OutputTree();
+    /// `saved` does not exclude. Throws a CommandError if there is no catalogue. The document is
+    /// not owned and must outlive the tree.
+    OutputTree(VKD_H_ZOBDoc* document, int progname, const OutputState& saved, const Rows* rows);
 
     VKD_H_PluginParameter* parameter() { return &m_parameter; }
     plib::OutputNode* root() { return &m_root; }
@@ -40,7 +38,6 @@ public:
 private:
     void fill(const Rows& rows, const std::list<QString>& additional);
 
-    std::unique_ptr<VKD_H_ZOBDoc> m_document;
     VKD_H_PluginParameter m_parameter;
     plib::ZobModelQueries m_queries;
     int m_progname;

@@ -19,5 +19,6 @@ int scriptCommand(const QStringList& arguments);
 int catalogueCommand(const QStringList& arguments);
 int rowsCommand(const QStringList& arguments);
 int treeCommand(const QStringList& arguments);
+int outputsCommand(const QStringList& arguments);
 
 } // namespace workbench

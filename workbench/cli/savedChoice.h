@@ -1,19 +1,22 @@
 #pragma once
 
 #include "cli/CommandLine.h"
-#include "project/OutputState.h"
+#include "project/OutputList.h"
 
 #include <output/OutputSettings.h>
 
 namespace workbench {
 
-/// Returns the options that select the initial choice of plots: kind of page, --selection and
-/// --proposed.
+/// Returns the options that select the initial choice of plots: kind of page, --output, --selection
+/// and --proposed.
 std::vector<CommandLine::Option> choiceOptions();
 int progname(const CommandLine& line);
 
-/// Returns the state that the window has saved in the project. Returns an empty state with
-/// --proposed, and for kinds of page that the window does not use.
+/// Returns the outputs of a project. Throws a CommandError if they cannot be read.
+OutputList savedOutputs(ZobHandle project);
+
+/// Returns the state of the output given by --output or, without this option, of the first output.
+/// Returns an empty state with --proposed, and for kinds of page that the window does not use.
 OutputState savedChoice(const CommandLine& line, ZobHandle project);
 
 /// Returns the saved settings. Settings that were not saved have the initial values of a new page.

@@ -4,15 +4,17 @@
 #include "cli/OutputTree.h"
 #include "cli/savedChoice.h"
 #include "cli/settingsArguments.h"
+#include "cli/WholeFiles.h"
+#include "project/outputFileNames.h"
 
 #include <script/outputScript.h>
 #include <script/PlatformScriptEnvironment.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
+#include <ZobSnapshot.h>
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace workbench {
 
@@ -41,34 +43,49 @@ std::vector<CommandLine::Option> options()
                               "and name, not from the project.")),
         option("o", "FILE",
                QStringLiteral("Writes the script to a file, completely or not at all.")),
+        option("all", "",
+               QStringLiteral("Writes the scripts of all outputs to the folder given by --into. "
+                              "Prints the paths of the files.")),
+        option("into", "FOLDER", QStringLiteral("The folder for the scripts of --all.")),
         languageOption(),
     };
     all.insert(all.end(), std::begin(own), std::end(own));
     return all;
 }
 
-void write(QSaveFile* file, const QString& text)
+/// A script, and its plots as a selection text.
+struct Script
 {
-    const QByteArray bytes = text.toUtf8();
-    const QFileInfo existing(file->fileName());
-    if (existing.exists() && !existing.isFile()) // saving would replace a pipe or a device
-        throw CommandError{
-            QStringLiteral("cannot write %1: it is not a file").arg(file->fileName())};
-    if (!file->open(QIODevice::WriteOnly) || file->write(bytes) != bytes.size() || !file->flush())
-        throw CommandError{
-            QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};
+    QString text;
+    QString selection;
+};
+
+/// Creates the script of one output, with the settings that the arguments change.
+Script makeScript(const CommandLine& line, VKD_H_ZOBDoc* document, const OutputState& saved)
+{
+    const plib::Keywords keywords = plib::keywordsIf(
+        line.language("keywords", vkd::Language::English) == vkd::Language::English);
+    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, int(keywords));
+    plib::OutputSettings settings = savedSettings(line, saved);
+    restoreCamera(saved);
+    applySettings(line.values("set"), &settings);
+    OutputTree::Rows rows;
+    if (line.has("load-cases"))
+        rows = readRows(line.value("load-cases"));
+    OutputTree tree(document, settings.variant, saved, line.has("load-cases") ? &rows : nullptr);
+    tree.applySelection(chosenPlots(line, saved));
+    QString additional = line.value("additional");
+    // The prefix page inserts the text unchanged, without adding a newline.
+    if (settings.variant == VKD_P_GraphicalOutput_Prefix && !additional.isEmpty())
+        additional += QLatin1Char('\n');
+    const plib::PlatformScriptEnvironment environment(tree.parameter());
+    const QString text =
+        plib::outputScript(settings, tree.scriptLines(keywords), additional, keywords, environment);
+    return {text, tree.selectionText()};
 }
 
-void commit(QSaveFile* file)
-{
-    if (!file->commit())
-        throw CommandError{
-            QStringLiteral("cannot write %1: %2").arg(file->fileName(), file->errorString())};
-}
-
-/// Writes the script and the selection. Replaces files only after all output has been written, so
-/// that a failed write leaves all files unchanged.
-void writeResults(const CommandLine& line, const QString& script, const QString& selection)
+/// Writes the script and the selection.
+void writeResults(const CommandLine& line, const Script& script)
 {
     const auto place = [&line](const char* option) {
         return QDir::cleanPath(QFileInfo(line.value(option)).absoluteFilePath());
@@ -76,18 +93,47 @@ void writeResults(const CommandLine& line, const QString& script, const QString&
     if (line.has("o") && line.has("selection-out") && place("o") == place("selection-out"))
         throw CommandError{QStringLiteral("the script and the choice cannot both go into %1")
                                .arg(line.value("o"))};
-    QSaveFile scriptFile(line.value("o"));
-    QSaveFile selectionFile(line.value("selection-out"));
+    WholeFiles files;
     if (line.has("o"))
-        write(&scriptFile, script);
+        files.add(line.value("o"), script.text);
     if (line.has("selection-out"))
-        write(&selectionFile, selection);
+        files.add(line.value("selection-out"), script.selection);
     if (!line.has("o"))
-        print(script);
-    else
-        commit(&scriptFile);
-    if (line.has("selection-out"))
-        commit(&selectionFile);
+        print(script.text);
+    files.commit();
+}
+
+void checkOptionsOfAll(const CommandLine& line)
+{
+    for (const char* option : {"output", "proposed", "progname", "selection", "selection-out", "o"})
+        if (line.has(option))
+            throw CommandError{
+                QStringLiteral("--all and %1%2 exclude each other")
+                    .arg(QLatin1String(qstrlen(option) > 1 ? "--" : "-"), QLatin1String(option))};
+    if (!line.has("into"))
+        throw CommandError{QStringLiteral("--into is missing")};
+}
+
+/// Writes the scripts of all outputs, which are read from the same state of the project. Prints the
+/// paths of the files.
+void writeAll(const CommandLine& line, VKD_H_ZOBDoc* document)
+{
+    const ZobSnapshot snapshot(document->handle());
+    if (!snapshot.status().isOk())
+        throw CommandError{snapshot.status().reason};
+    const OutputList outputs = savedOutputs(document->handle());
+    const QStringList names = outputFileNames(outputs.names(), QStringLiteral(".dat"));
+    const QDir folder(line.value("into"));
+    if (!folder.mkpath(QStringLiteral(".")))
+        throw CommandError{QStringLiteral("cannot create the folder %1").arg(line.value("into"))};
+    WholeFiles files;
+    QString paths;
+    for (int i = 0; i < names.size(); ++i) {
+        files.add(folder.filePath(names[i]), makeScript(line, document, outputs.at(i).state).text);
+        paths += folder.filePath(names[i]) + QLatin1Char('\n');
+    }
+    files.commit();
+    print(paths);
 }
 } // namespace
 
@@ -101,28 +147,15 @@ int scriptCommand(const QStringList& arguments)
                      {QStringLiteral("FILE")}, options());
     line.parse(arguments);
     applyLanguage(line);
-    const plib::Keywords keywords = plib::keywordsIf(
-        line.language("keywords", vkd::Language::English) == vkd::Language::English);
-    vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, int(keywords));
-    auto document = openProject(line.argument(0));
-    const OutputState saved = savedChoice(line, document->handle());
-    plib::OutputSettings settings = savedSettings(line, saved);
-    restoreCamera(saved);
-    applySettings(line.values("set"), &settings);
-    OutputTree::Rows rows;
-    if (line.has("load-cases"))
-        rows = readRows(line.value("load-cases"));
-    OutputTree tree(std::move(document), settings.variant, saved,
-                    line.has("load-cases") ? &rows : nullptr);
-    tree.applySelection(chosenPlots(line, saved));
-    QString additional = line.value("additional");
-    // The prefix page inserts the text unchanged, without adding a newline.
-    if (settings.variant == VKD_P_GraphicalOutput_Prefix && !additional.isEmpty())
-        additional += QLatin1Char('\n');
-    const plib::PlatformScriptEnvironment environment(tree.parameter());
-    const QString script =
-        plib::outputScript(settings, tree.scriptLines(keywords), additional, keywords, environment);
-    writeResults(line, script, tree.selectionText());
+    if (line.has("all"))
+        checkOptionsOfAll(line);
+    else if (line.has("into"))
+        throw CommandError{QStringLiteral("--all is missing")};
+    const auto document = openProject(line.argument(0));
+    if (line.has("all"))
+        writeAll(line, document.get());
+    else
+        writeResults(line, makeScript(line, document.get(), savedChoice(line, document->handle())));
     return 0;
 }
 

@@ -42,9 +42,9 @@ int treeCommand(const QStringList& arguments)
         {QStringLiteral("FILE")}, options);
     line.parse(arguments);
     applyLanguage(line);
-    auto document = openProject(line.argument(0));
+    const auto document = openProject(line.argument(0));
     const OutputState saved = savedChoice(line, document->handle());
-    OutputTree tree(std::move(document), progname(line), saved, nullptr);
+    OutputTree tree(document.get(), progname(line), saved, nullptr);
     tree.applySelection(chosenPlots(line, saved));
     QString text;
     append(tree.root(), 0, &text);

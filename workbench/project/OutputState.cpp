@@ -12,9 +12,9 @@
 namespace workbench {
 
 namespace {
-const QString PageKey = QStringLiteral("Page");
-const QString ContentKey = QStringLiteral("Content");
-const QString LeftOutKey = QStringLiteral("LeftOut");
+constexpr char PageKey[] = "Page";
+constexpr char ContentKey[] = "Content";
+constexpr char LeftOutKey[] = "LeftOut";
 constexpr int PlainLoadCase = 1;
 
 /// The name contains only the digits of the number; a "+" would request a combined picture.
@@ -27,21 +27,44 @@ QString rowName(const vkd::dbo::LoadCase& loadCase)
 
 OutputState OutputState::read(ZobHandle project)
 {
-    const VKD_H_ProjectDialogPage entries(project, OutputDialogPage);
+    return fromEntries(VKD_H_ProjectDialogPage(project, OutputDialogPage));
+}
+
+QString OutputState::entryKey(const char* name, int number)
+{
+    const QString key = QLatin1String(name);
+    return number == 1 ? key : key + QLatin1Char(' ') + QString::number(number);
+}
+
+OutputState OutputState::fromEntries(const VKD_H_ProjectDialogPage& entries, int number)
+{
+    const auto entry = [&](const char* name) {
+        return entries.getEntry(entryKey(name, number), QString());
+    };
     OutputState state;
-    state.page = entries.getEntry(PageKey, QString());
-    state.content = entries.getEntry(ContentKey, QString()).toInt();
-    state.leftOutNumbers = numbersFromSaved(entries.getEntry(LeftOutKey, QString()));
+    state.page = entry(PageKey);
+    state.content = entry(ContentKey).toInt();
+    state.leftOutNumbers = numbersFromSaved(entry(LeftOutKey));
     return state;
+}
+
+void OutputState::setEntries(VKD_H_ProjectDialogPage* entries, int number) const
+{
+    entries->setEntry(entryKey(PageKey, number), page);
+    entries->setEntry(entryKey(ContentKey, number), QString::number(content));
+    entries->setEntry(entryKey(LeftOutKey, number), savedNumbers(leftOutNumbers));
+}
+
+void OutputState::deleteEntries(VKD_H_ProjectDialogPage* entries, int number)
+{
+    for (const char* name : {PageKey, ContentKey, LeftOutKey})
+        entries->deleteEntry(entryKey(name, number));
 }
 
 VkdStatus OutputState::put(ZobHandle project) const
 {
-    return putEntries(project, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
-        entries.setEntry(PageKey, page);
-        entries.setEntry(ContentKey, QString::number(content));
-        entries.setEntry(LeftOutKey, savedNumbers(leftOutNumbers));
-    });
+    return putEntries(project, OutputDialogPage,
+                      [this](VKD_H_ProjectDialogPage& entries) { setEntries(&entries); });
 }
 
 QString OutputState::solidsTag()

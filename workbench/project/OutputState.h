@@ -9,9 +9,11 @@
 
 #include <vector>
 
+class VKD_H_ProjectDialogPage;
+
 namespace workbench {
 
-/// The saved state of the graphical output: the state string of the page and the selections in the
+/// The saved state of one graphical output: the state string of the page and the selections in the
 /// other tabs of the dialog.
 struct OutputState
 {
@@ -22,9 +24,18 @@ struct OutputState
     int content = OfTheModel; ///< checked button of the content radio group
     QSet<int> leftOutNumbers; ///< load cases that are unchecked in the table
 
-    /// Reads the state from the project.
+    /// Reads the state of the first output of a project.
     static OutputState read(ZobHandle project);
-    /// Writes the state to the project. Returns the status of VKD_H_ProjectDialogPage::save().
+    /// These functions read and set the entries of the output with this number. The entries of
+    /// output 1 have no number, because a project that was saved before outputs had names contains
+    /// only this output.
+    static OutputState fromEntries(const VKD_H_ProjectDialogPage& entries, int number = 1);
+    void setEntries(VKD_H_ProjectDialogPage* entries, int number = 1) const;
+    static void deleteEntries(VKD_H_ProjectDialogPage* entries, int number);
+    /// Returns the key of an entry of the output with this number.
+    static QString entryKey(const char* name, int number);
+    /// Writes the state of the first output to the project. Returns the status of
+    /// VKD_H_ProjectDialogPage::save().
     VkdStatus put(ZobHandle project) const;
 
     /// Returns the tag of the content that WithSolids always includes.

@@ -1,5 +1,7 @@
 #include "project/Preset.h"
 
+#include "project/unusedName.h"
+
 #include <tagZOB_QUAD_RIM_Words.h>
 
 #include <algorithm>
@@ -68,10 +70,7 @@ Preset* findPreset(PresetList& presets, const QString& name)
 
 QString unusedName(const PresetList& presets, const QString& name)
 {
-    QString unused = name;
-    for (int number = 2; findPreset(presets, unused); ++number)
-        unused = QStringLiteral("%1 (%2)").arg(name).arg(number);
-    return unused;
+    return unusedName(name, [&](const QString& tried) { return findPreset(presets, tried); });
 }
 
 } // namespace workbench

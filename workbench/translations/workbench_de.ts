@@ -1465,4 +1465,23 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Aus Zeile %1 &amp;entfernen</translation>
     </message>
 </context>
+<context>
+    <name>workbench::OutputList</name>
+    <message>
+        <source>Output %1</source>
+        <translation>Ausgabe %1</translation>
+    </message>
+    <message>
+        <source>An output needs a name.</source>
+        <translation>Eine Ausgabe braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>A name has at most %1 characters.</source>
+        <translation>Ein Name hat höchstens %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Another output has this name.</source>
+        <translation>Eine andere Ausgabe heißt bereits so.</translation>
+    </message>
+</context>
 </TS>

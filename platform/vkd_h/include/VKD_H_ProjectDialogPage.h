@@ -16,6 +16,8 @@ public:
     /// Reads the entries of the page with the given number from the project. Without a project, the
     /// entries exist only in this object.
     explicit VKD_H_ProjectDialogPage(ZobHandle project = ZobHandle(), int page = 0);
+    /// Returns whether the constructor could read the entries.
+    const VkdStatus& readStatus() const { return m_readStatus; }
 
     /// Returns the value of the key, or `defaultValue` if the key does not exist.
     QString getEntry(const QString& key, const QString& defaultValue) const;

@@ -1,0 +1,130 @@
+#include "project/KeptPlots.h"
+#include "project/OutputList.h"
+#include "ProjectTest.h"
+#include "TemporaryProject.h"
+
+using namespace windowtest;
+using namespace workbench;
+
+namespace {
+/// Returns the names with a mark at the current output and at changed outputs.
+QString shown(const OutputList& outputs)
+{
+    QStringList texts;
+    for (int i = 0; i < outputs.size(); ++i)
+        texts << (i == outputs.currentIndex() ? QStringLiteral(">") : QString()) + outputs.name(i) +
+                     (outputs.isChanged(i) ? QStringLiteral("*") : QString());
+    return texts.join(QLatin1Char('|')) +
+           (outputs.isChanged() ? QStringLiteral(" changed") : QString());
+}
+
+/// Carries out steps: + new output, - remove, ! changed state, ? discard changes, =NAME rename,
+/// @N make current, ^N move, s store. An underscore stands for a blank.
+void perform(const QString& steps, OutputList* outputs)
+{
+    for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const QString rest = step.mid(1).replace(QLatin1Char('_'), QLatin1Char(' '));
+        switch (step[0].unicode()) {
+        case '+': outputs->add(outputs->newName(), {}); break;
+        case '-': outputs->remove(); break;
+        case '!': outputs->setState({QStringLiteral("x"), 0, {}}, true); break;
+        case '?': outputs->revert(); break;
+        case '=': outputs->rename(rest); break;
+        case '@': outputs->setCurrent(rest.toInt()); break;
+        case '^': outputs->move(rest.toInt()); break;
+        case 's': outputs->setStored(); break;
+        }
+    }
+}
+} // namespace
+
+/// Tests the outputs of a project.
+class tst_outputs : public ProjectTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void list_data()
+    {
+        const Columns<QString, QString> row("steps", "expected");
+        row("of a project from before", "", ">Output 1");
+        row("the only one stays", "-", ">Output 1");
+        row("new", "+", "Output 1|>Output 2* changed");
+        row("new and removed", "+ -", ">Output 1");
+        row("new after the current one", "+ @0 +", "Output 1|>Output 3*|Output 2* changed");
+        row("used name", "+ @0 =Output_3 +", "Output 3*|>Output 4*|Output 2* changed");
+        row("first one removed", "+ s @0 -", ">Output 2 changed");
+        row("moved", "+ s ^0", ">Output 2|Output 1 changed");
+        row("moved back", "+ s ^0 ^1", "Output 1|>Output 2");
+        row("names exchanged", "+ s =a @0 =Output_2 ^1 @0 =Output_1",
+            ">Output 1*|Output 2* changed");
+        row("changes discarded", "! + s ! @0 ! ?", ">Output 1|Output 2* changed");
+    }
+
+    /// The list that was stored and read again equals the list.
+    void list()
+    {
+        QFETCH(const QString, steps);
+        OutputList outputs;
+        perform(steps, &outputs);
+        QTEST(shown(outputs), "expected");
+        const testsupport::TemporaryProject project;
+        OutputList longer;
+        perform(QStringLiteral("+ + + + +"), &longer);
+        QVERIFY(longer.put(project.handle()).isOk());
+        QVERIFY(outputs.put(project.handle()).isOk());
+        const OutputList read = OutputList::read(project.handle());
+        QCOMPARE(read.names(), outputs.names());
+        for (int i = 0; i < read.size(); ++i)
+            QCOMPARE(read.at(i).state.page, outputs.at(i).state.page);
+    }
+
+    void names_data()
+    {
+        const Columns<QString, QString> row("name", "fault");
+        row("its own", "OUTPUT 2", "");
+        row("blanks", " ", "An output needs a name.");
+        row("used", " output  1 ", "Another output has this name.");
+        row("long", QString(81, QLatin1Char('x')), "A name has at most 80 characters.");
+    }
+
+    void names()
+    {
+        OutputList outputs;
+        outputs.add(outputs.newName(), {});
+        QFETCH(const QString, name);
+        QTEST(outputs.faultOfName(name), "fault");
+    }
+
+    void keptPlots_data()
+    {
+        const Columns<QString, QString, QString> row("saved", "shown", "expected");
+        row("all offered", "\nChecked:A\nPartially:B : 1,2,\n", "\nUnchecked:A\n", "");
+        row("absent plots", "\nChecked:X\nPartially:Y : 1,\nUnchecked:Z\n", "\nUnchecked:A\n",
+            "Checked:X\nPartially:Y : 1,\n");
+        row("absent load cases", "\nPartially:B : 1,8,9,\n", "\nUnchecked:B\n",
+            "Partially:B : 8,9,\n");
+        row("with others", "\nPartially:B : 8,\n", "\nPartially:B : 1,\n", "");
+        row("of a checked plot", "\nPartially:C : 8,\n", "\nChecked:C\n", "");
+    }
+
+    /// A tree offers A, the plot B with load cases 1 and 2, and the checked plot C.
+    void keptPlots()
+    {
+        const auto offered = [](const QString& id) -> std::optional<OfferedPlot> {
+            const bool isOffered = QStringLiteral("ABC").contains(id);
+            return isOffered ? std::make_optional(OfferedPlot{id == QLatin1String("C"), {1, 2}})
+                             : std::nullopt;
+        };
+        QFETCH(const QString, saved);
+        QFETCH(QString, shown);
+        QFETCH(const QString, expected);
+        const QString text = KeptPlots(saved, offered).addedTo(shown, offered);
+        if (shown.contains(QLatin1String("Partially")))
+            shown.insert(shown.size() - 3, QStringLiteral("8,"));
+        QCOMPARE(text, shown + expected);
+    }
+};
+
+PLIB_WIDGET_TEST_MAIN(tst_outputs)
+#include "tst_outputs.moc"

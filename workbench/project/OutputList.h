@@ -1,0 +1,81 @@
+#pragma once
+
+#include "project/OutputState.h"
+
+#include <QStringList>
+#include <QVector>
+
+namespace workbench {
+
+constexpr int LongestOutputName = 80;
+
+/// An output of a project with the changes that have not been saved.
+struct NamedOutput
+{
+    QString name; ///< empty for the only output of a project in which outputs have no names
+    OutputState state;
+    bool isStateChanged = false;
+    QString savedName;
+    OutputState savedState; ///< for a new output, its first state
+    int savedIndex = -1;    ///< -1 for a new output
+};
+
+/// The outputs of a project, of which there is always at least one, and the current output. The
+/// operations change only this list; put() saves it. The first output is stored as the only output
+/// of earlier versions, which ignore and preserve the others. Names are unique, ignoring case.
+class OutputList
+{
+public:
+    /// Creates a list with one output without a name.
+    OutputList();
+
+    /// Reads the list. If this fails, returns a list with one output and the reason in `status`.
+    static OutputList read(ZobHandle project, VkdStatus* status = nullptr);
+    /// Writes all outputs to the project in one transaction.
+    VkdStatus put(ZobHandle project) const;
+    /// Must be called after the outputs have been stored.
+    void setStored();
+    /// Return whether there are changes that have not been stored: to the list, or to one output.
+    bool isChanged() const;
+    bool isChanged(int index) const;
+
+    int size() const { return m_outputs.size(); }
+    /// Returns the name. An output without a name has a default name in the desktop's language.
+    QString name(int index) const;
+    QStringList names() const;
+    /// Returns the index of the output with this name, or -1.
+    int indexOf(const QString& name) const;
+    const NamedOutput& at(int index) const { return m_outputs[index]; }
+
+    int currentIndex() const { return m_current; }
+    void setCurrent(int index);
+    const NamedOutput& current() const { return m_outputs[m_current]; }
+    /// Replaces the state of the current output.
+    void setState(const OutputState& state, bool isChanged);
+    /// Discards the changes to the state of the current output.
+    void revert();
+
+    /// These functions change the current output or its place. A new output is inserted after the
+    /// current output and becomes the current output.
+    void add(const QString& name, const OutputState& state);
+    void rename(const QString& name);
+    void move(int index);
+    /// Removes the current output, unless it is the only one.
+    void remove();
+
+    /// Returns a name for a new output.
+    QString newName() const;
+    /// Returns the name, with a number appended if an output already has this name.
+    QString unusedName(const QString& name) const;
+    /// Returns why the current output cannot have this name, or an empty string.
+    QString faultOfName(const QString& name) const;
+
+private:
+    void nameAll();
+
+    QVector<NamedOutput> m_outputs;
+    int m_current = 0;
+    int m_storedSize = 1;
+};
+
+} // namespace workbench
