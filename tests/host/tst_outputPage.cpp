@@ -4,6 +4,8 @@
 
 #include <vkd_lib_value.h>
 
+#include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -12,6 +14,21 @@
 using namespace testsupport;
 
 using Desk = OutputDesk;
+
+/// Receives a signal that is known only to the meta-object of its sender.
+class HostStates : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HostStates(QObject* steps)
+    {
+        connect(steps, SIGNAL(hostStateRestored(QString)), this, SIGNAL(restored(QString)));
+    }
+
+Q_SIGNALS:
+    void restored(const QString& state);
+};
 
 class tst_outputPage : public QObject
 {
@@ -112,6 +129,74 @@ private Q_SLOTS:
         QCOMPARE(desk.page.writeXMLstring(), fresh);
         QVERIFY(desk.group("PicturesGroup")->isEnabled());
         QCOMPARE(desk.find<QComboBox>("box_scale")->currentText(), QStringLiteral("1:100"));
+    }
+
+    /// Undo and redo exactly restore the page and the host's load cases. The page has no animator,
+    /// and therefore no view at first.
+    void undoingEachStep()
+    {
+        Desk desk(m_project);
+        const auto steps = desk.find<QObject>("steps");
+        const auto isOffered = [](const QString& host) { return host.contains(QLatin1Char('2')); };
+        const auto offer = [&](const QString& host) {
+            desk.page.setUsedNumbersAndNames(isOffered(host) ? LoadCases : Rows(1, LoadCases[0]));
+        };
+        QMetaObject::invokeMethod(steps, "restart", Q_ARG(QString, QStringLiteral("1 2")));
+        HostStates restored(steps);
+        connect(&restored, &HostStates::restored, &desk.page, offer);
+        const auto font = desk.find<QLineEdit>("m_boxedEdit_edit");
+        const struct
+        {
+            QString name;
+            std::function<void()> run;
+        } list[] = {
+            {QStringLiteral("Scale \"Engineering scale\""), [&] { desk.choose("ScaleGroup", 0); }},
+            {QStringLiteral("Scale \"1:50\""), [&] { desk.chooseScale("1:50"); }},
+            {QStringLiteral("Uncheck \"System\""),
+             [&] { desk.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked); }},
+            {QStringLiteral("Page Format \"Landscape\""), [&] { desk.choose("FormatGroup", 1); }},
+            {QStringLiteral("View \"X/Z -Plane\""), [&] { desk.choose("PerspectiveGroup", 1); }},
+            {QStringLiteral("Iso Areas"),
+             [&] { desk.find<QCheckBox>("Check: Filled Isolines")->click(); }},
+            {QStringLiteral("Font Size"),
+             [&] {
+                 font->setText(QStringLiteral("3,5"));
+                 QTest::keyClick(font, Qt::Key_Enter);
+             }},
+            {QStringLiteral("Check \"%1, 2 : Snow\"").arg(desk.plotWithRows()->text(0)),
+             [&] { desk.plotWithRows()->child(1)->setCheckState(0, Qt::Checked); }},
+            {QStringLiteral("Load cases"),
+             [&] {
+                 QMetaObject::invokeMethod(steps, "begin");
+                 offer(QStringLiteral("1"));
+                 desk.page.readXMLstring(part("List_4", "\nChecked:@SYS   $G00   ^G01\n"));
+                 QMetaObject::invokeMethod(steps, "end",
+                                           Q_ARG(QString, QStringLiteral("Load cases")),
+                                           Q_ARG(QString, QStringLiteral("1")));
+             }},
+            {QStringLiteral("Default Settings"),
+             [&] { desk.find<QPushButton>("Button: Default settings")->click(); }},
+        };
+        const auto undo = desk.find<QAction>("undo");
+        QStringList states{desk.page.writeXMLstring()};
+        for (const auto& step : list) {
+            step.run();
+            QCOMPARE(undo->text(), QStringLiteral("&Undo ") + step.name);
+            states << desk.page.writeXMLstring();
+        }
+        QApplication::setActiveWindow(&desk.page);
+        desk.tree()->setFocus();
+        for (int i = states.size() - 2; i >= 0; --i) {
+            QTest::keyClick(desk.tree(), Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(desk.page.writeXMLstring(), states[i]);
+        }
+        QVERIFY(!undo->isEnabled() && desk.plotWithRows());
+        for (int i = 1; i < states.size(); ++i) {
+            desk.find<QAction>("redo")->trigger();
+            QCOMPARE(desk.page.writeXMLstring(), states[i]);
+        }
+        desk.page.readXMLstring(states[0]); // another state is no step
+        QVERIFY(!undo->isEnabled());
     }
 
     void savedAndRestored_data()

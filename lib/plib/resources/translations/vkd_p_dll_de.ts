@@ -772,7 +772,26 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
 </context>
 <context>
-    <name>plib::RowsHistory</name>
+    <name>plib::PageHistory</name>
+    <message>
+        <source>Font Size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <translation>%1 „%2“</translation>
+    </message>
+    <message>
+        <source>Uncheck &quot;%1&quot;</source>
+        <translation>„%1“ abwählen</translation>
+    </message>
+    <message>
+        <source>Check &quot;%1&quot;</source>
+        <translation>„%1“ auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>plib::StepStack</name>
     <message>
         <source>&amp;Undo %1</source>
         <translation>&amp;Rückgängig: %1</translation>

@@ -4,118 +4,61 @@
 #include "table/DesignParameterTable.h"
 
 #include <QAction>
-#include <QUndoCommand>
 
 #include <utility>
 
 namespace plib {
 
 namespace {
-constexpr int MostSteps = 500;
 constexpr std::size_t MostRows = 100000; // in all steps; roughly 30 MB
-} // namespace
+}
 
-/// A step, shared by the commands that restore it.
-struct RecordedChange
-{
-    QString name;
-    RowsChange rows;
-    TableSelection selectedBefore;
-    TableSelection selectedAfter;
-
-    std::size_t size() const { return rows.before.size() + rows.after.size(); }
-};
-
-/// Undoes and redoes a step. Pushing a command calls redo(), which at that time has no effect,
-/// because the user has already made the change.
-class RowsHistory::Command : public QUndoCommand
+/// A change to the rows, and the selection before and after it.
+class RowsHistory::Step : public HistoryStep
 {
 public:
-    Command(RowsHistory* history, std::shared_ptr<const RecordedChange> change)
-        : QUndoCommand(change->name)
+    Step(RowsHistory* history, QString name, RowsChange change, const TableSelection& before,
+         const TableSelection& after)
+        : rows(std::move(change))
+        , selectedBefore(before)
+        , selectedAfter(after)
         , m_history(history)
-        , m_change(std::move(change))
+        , m_name(std::move(name))
     {
     }
 
-    const std::shared_ptr<const RecordedChange>& change() const { return m_change; }
+    QString name() const override { return m_name; }
+    void undo() override { m_history->replace(*this, true); }
+    void redo() override { m_history->replace(*this, false); }
+    std::size_t size() const override { return rows.before.size() + rows.after.size(); }
 
-    void undo() override { m_history->replace(*m_change, true); }
-    void redo() override
-    {
-        if (std::exchange(m_isDone, false))
-            return;
-        m_history->replace(*m_change, false);
-    }
+    const RowsChange rows;
+    const TableSelection selectedBefore;
+    const TableSelection selectedAfter;
 
 private:
     RowsHistory* m_history;
-    std::shared_ptr<const RecordedChange> m_change;
-    bool m_isDone = true;
+    QString m_name;
 };
 
 RowsHistory::RowsHistory(DesignParameter* page)
     : QObject(page)
     , m_page(page)
-    , m_undo(new QAction(this))
-    , m_redo(new QAction(this))
+    , m_stack(page, MostRows, this)
 {
-    m_stack.setUndoLimit(MostSteps);
-    const auto prepare = [this](QAction* action, const char* name, const QList<QKeySequence>& keys,
-                                void (QUndoStack::*step)()) {
-        action->setObjectName(QLatin1String(name));
-        action->setShortcuts(keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, [this, step] {
-            m_page->finishEditing(); // may be a separate undo step
-            (m_stack.*step)();
-        });
-        m_page->addAction(action);
-        m_page->state().table->addAction(action); // for its menu
-    };
-    prepare(m_undo, "undo", {Qt::CTRL + Qt::Key_Z}, &QUndoStack::undo);
-    prepare(m_redo, "redo", {Qt::CTRL + Qt::SHIFT + Qt::Key_Z, Qt::CTRL + Qt::Key_Y},
-            &QUndoStack::redo);
-    connect(&m_stack, &QUndoStack::indexChanged, this, [this] {
-        showSteps();
+    m_page->state().table->addActions(m_stack.actions()); // for its menu
+    connect(&m_stack, &StepStack::aboutToStep, this, [this] { m_page->finishEditing(); });
+    connect(&m_stack, &StepStack::stepped, this, [this] {
         m_page->showNotice(QString()); // was about an earlier step
     });
-    connect(&m_stack, &QUndoStack::cleanChanged, this,
-            [this](bool isClean) { Q_EMIT modifiedChanged(!isClean); });
-    showSteps();
-}
-
-/// The commands are destroyed while the history still exists.
-RowsHistory::~RowsHistory()
-{
-    m_stack.disconnect(this);
+    connect(&m_stack, &StepStack::modifiedChanged, this, &RowsHistory::modifiedChanged);
 }
 
 void RowsHistory::restart()
 {
     m_known = m_page->state().rows;
     m_stack.clear();
-    m_stack.setClean();
-    showSteps();
     Q_EMIT rowsChanged();
-}
-
-void RowsHistory::setModified(bool isModified)
-{
-    isModified ? m_stack.resetClean() : m_stack.setClean();
-}
-
-void RowsHistory::showSteps()
-{
-    m_undo->setEnabled(m_stack.canUndo());
-    m_redo->setEnabled(m_stack.canRedo());
-    const auto shown = [](QString name) {
-        return name.replace(QLatin1Char('&'), QLatin1String("&&"));
-    };
-    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(shown(m_stack.undoText()))
-                                      : tr("&Undo"));
-    m_redo->setText(m_stack.canRedo() ? tr("&Redo %1").arg(shown(m_stack.redoText()))
-                                      : tr("&Redo"));
 }
 
 /// Compares the rows of the step and their neighbours, with which they may have been swapped.
@@ -132,49 +75,18 @@ void RowsHistory::record(const QString& name, const std::set<int>& rows,
         return;
     replaceRows(m_known, change.first, int(change.before.size()), change.after);
     const TableSelection selectedAfter(*m_page->state().table);
-    m_stack.push(new Command(this, std::make_shared<RecordedChange>(RecordedChange{
-                                       name, std::move(change), selectedBefore, selectedAfter})));
-    dropOldSteps();
+    m_stack.push(
+        std::make_shared<Step>(this, name, std::move(change), selectedBefore, selectedAfter));
     Q_EMIT rowsChanged();
 }
 
-/// Limits the memory. The stack can only be cleared as a whole, so the newest steps are pushed
-/// again.
-void RowsHistory::dropOldSteps()
+void RowsHistory::replace(const Step& step, bool isUndo)
 {
-    const auto changeAt = [this](int index) {
-        return static_cast<const Command*>(m_stack.command(index))->change();
-    };
-    std::size_t size = 0;
-    int kept = m_stack.count();
-    while (kept > 0 && (size += changeAt(kept - 1)->size()) <= MostRows)
-        --kept;
-    if (kept == 0)
-        return;
-    std::vector<std::shared_ptr<const RecordedChange>> newest;
-    for (int index = qMin(kept, m_stack.count() - 1); index < m_stack.count(); ++index)
-        newest.push_back(changeAt(index));
-    const int clean = m_stack.cleanIndex() - (m_stack.count() - int(newest.size()));
-    {
-        const QSignalBlocker silent(&m_stack); // whether the rows are modified does not change
-        m_stack.clear();
-        m_stack.resetClean();
-        for (const auto& change : newest) {
-            m_stack.push(new Command(this, change));
-            if (m_stack.count() == clean)
-                m_stack.setClean();
-        }
-    }
-    showSteps();
-}
-
-void RowsHistory::replace(const RecordedChange& change, bool isUndo)
-{
-    const DesignRowList& from = isUndo ? change.rows.after : change.rows.before;
-    const DesignRowList& to = isUndo ? change.rows.before : change.rows.after;
-    replaceRows(m_known, change.rows.first, int(from.size()), to);
-    m_page->replaceRows(change.rows.first, int(from.size()), to,
-                        isUndo ? change.selectedBefore : change.selectedAfter);
+    const DesignRowList& from = isUndo ? step.rows.after : step.rows.before;
+    const DesignRowList& to = isUndo ? step.rows.before : step.rows.after;
+    replaceRows(m_known, step.rows.first, int(from.size()), to);
+    m_page->replaceRows(step.rows.first, int(from.size()), to,
+                        isUndo ? step.selectedBefore : step.selectedAfter);
     Q_EMIT rowsChanged();
 }
 

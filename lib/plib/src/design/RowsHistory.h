@@ -1,20 +1,14 @@
 #pragma once
 
+#include "history/StepStack.h"
 #include "record/RowsChange.h"
 #include "table/TableSelection.h"
 
-#include <QObject>
 #include <QPointer>
-#include <QUndoStack>
-
-#include <memory>
 
 class DesignParameter;
-class QAction;
 
 namespace plib {
-
-struct RecordedChange;
 
 /// Provides undo and redo for the design page, whose child it is. It keeps a copy of the rows and
 /// compares it with the rows to find the change of a step, so that the operations need no code for
@@ -28,13 +22,12 @@ class RowsHistory : public QObject
 
 public:
     explicit RowsHistory(DesignParameter* page);
-    ~RowsHistory() override;
 
     /// Clears the history. The rows count as unmodified.
     void restart();
     /// Returns whether the rows differ from those that were read or written last.
-    bool isModified() const { return !m_stack.isClean(); }
-    void setModified(bool isModified);
+    bool isModified() const { return m_stack.isModified(); }
+    void setModified(bool isModified) { m_stack.setModified(isModified); }
     void record(const QString& name, const std::set<int>& rows,
                 const TableSelection& selectedBefore);
 
@@ -44,16 +37,12 @@ Q_SIGNALS:
     void rowsChanged();
 
 private:
-    class Command;
-    void showSteps();
-    void replace(const RecordedChange& change, bool isUndo);
-    void dropOldSteps();
+    class Step;
+    void replace(const Step& step, bool isUndo);
 
     DesignParameter* m_page;
     DesignRowList m_known; ///< rows after the last step
-    QUndoStack m_stack;
-    QAction* m_undo;
-    QAction* m_redo;
+    StepStack m_stack;
 };
 
 /// Records the changes that the user makes in one step, from construction to destruction of this

@@ -1,5 +1,6 @@
 #include "VKD_P_WidgetGraphicalOutput.h"
 
+#include "output/PageHistory.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "script/PlatformScriptEnvironment.h"
 #include "search/PlotKeys.h"
@@ -37,6 +38,7 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
     for (QRadioButton* format : data->panel->formatButtons()) // even a click on the checked button
         connect(format, &QRadioButton::clicked, this, &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
     findDialogs();
+    data->history = std::make_unique<plib::PageHistory>(this, data.get());
 }
 
 /// Returns the animator to its former parent. If that parent no longer exists, the animator is
@@ -135,6 +137,7 @@ void VKD_P_WidgetGraphicalOutput::slotQuerFormat()
 
 void VKD_P_WidgetGraphicalOutput::slotDefaultSettings()
 {
+    const plib::PageChange change(data->history.get(), tr("Default Settings"));
     data->tree->rebuild(true);
     data->panel->reset();
 }

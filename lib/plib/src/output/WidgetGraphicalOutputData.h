@@ -18,6 +18,10 @@ class VKD_QT_CheckBox;
 class VKD_QT_GroupBox;
 class VKD_QT_RadioButtonGroup;
 
+namespace plib {
+class PageHistory;
+}
+
 /// The private data of a graphical output page. Widgets are owned by their parents. Pointers to
 /// widgets that this kind of page does not have are null; only the panel uses these pointers.
 struct WidgetGraphicalOutputData
@@ -45,4 +49,5 @@ struct WidgetGraphicalOutputData
     QPointer<QWidget> animatorHome; ///< former parent of the animator
     bool animatorHadHome = false;
     std::unique_ptr<plib::OutputPanel> panel; ///< widgets for the settings of this kind of page
+    std::unique_ptr<plib::PageHistory> history; ///< destroyed first, as it watches the widgets
 };

@@ -1,5 +1,6 @@
 // The part of the output page that writes and reads its state as concatenated tagged strings.
 
+#include "output/PageHistory.h"
 #include "output/SavedPage.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "tree/GraphicalOutputTreeWidget.h"
@@ -26,6 +27,7 @@ QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
 /// Does not change widgets whose tags are missing.
 void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
 {
+    const plib::PageChange change(data->history.get());
     if (xml.isEmpty())
         return data->tree->applySelection(QString());
     const plib::SavedPage saved(xml, data->panel->settings());

@@ -1,0 +1,31 @@
+#pragma once
+
+namespace vkd {
+namespace plib {
+namespace widgetgraphicaloutput {
+
+/// The object name of a child object of VKD_P_WidgetGraphicalOutput that records undo steps. The
+/// actions "undo" and "redo" are in the page's actions(); a host may add them to its own widgets
+/// and menus. Hosts find the object with findChild<QObject*>() and use it through its meta-object.
+///
+/// A step restores the settings, the view and the checked plots, but not a camera that the user has
+/// rotated. Calls of the page's functions that change the load cases, the content or the plots clear
+/// the history, unless they belong to a step of the host. A step of the host can contain a state of
+/// the host, for example the load cases that the host offers.
+///
+/// Methods:
+/// - `void begin()` begins a step of the host. Steps can be nested.
+/// - `void end(QString name, QString state)` ends the step; `state` is the state of the host after
+///   it. If anything has changed, adds a step with this name.
+/// - `void restart(QString state)` clears the history. `state` is the present state of the host.
+///
+/// Signals:
+/// - `hostStateRestored(QString)` is emitted during undo and redo if the state of the host differs.
+///   The slot changes the load cases and the content of the page; afterwards, the page restores its
+///   settings and plots.
+/// - `stepped()` is emitted after each step, after undo and redo, and after the history is cleared.
+constexpr char StepsObject[] = "steps";
+
+} // namespace widgetgraphicaloutput
+} // namespace plib
+} // namespace vkd

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QObject>
+#include <QUndoStack>
+
+#include <memory>
+
+class QAction;
+class QWidget;
+
+namespace plib {
+
+/// A change that the user has made and that can be undone. A step contains its effects as values.
+class HistoryStep
+{
+public:
+    virtual ~HistoryStep() = default;
+
+    virtual QString name() const = 0;
+    virtual void undo() = 0;
+    virtual void redo() = 0;
+    /// Returns the memory that the step needs, in the unit of the stack's limit.
+    virtual std::size_t size() const = 0;
+};
+
+/// The undo and redo steps of a page, and the actions "undo" and "redo" with their shortcuts. The
+/// number of steps and their total size are limited. The histories of the pages use this class;
+/// they record the steps.
+class StepStack : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Adds the actions to the page. `mostSize` limits the total size of all steps. The stack is a
+    /// member of `history`, and also its child, so that hosts find the actions below the page.
+    StepStack(QWidget* page, std::size_t mostSize, QObject* history);
+    ~StepStack() override;
+
+    /// Adds a step that the user has already made.
+    void push(const std::shared_ptr<HistoryStep>& step);
+    /// Removes all steps. The page counts as unmodified.
+    void clear();
+    bool isModified() const { return !m_stack.isClean(); }
+    void setModified(bool isModified);
+
+    QList<QAction*> actions() const { return {m_undo, m_redo}; }
+
+Q_SIGNALS:
+    /// Emitted before the user undoes or redoes a step.
+    void aboutToStep();
+    /// Emitted when a step has been added, undone or redone.
+    void stepped();
+    void modifiedChanged(bool isModified);
+
+private:
+    class Command;
+    QAction* newAction(QWidget* page, const char* name, const QList<QKeySequence>& keys,
+                       void (QUndoStack::*step)());
+    void showSteps();
+    void dropOldSteps();
+
+    std::size_t m_mostSize;
+    QUndoStack m_stack;
+    QAction* m_undo;
+    QAction* m_redo;
+};
+
+} // namespace plib

@@ -1,0 +1,217 @@
+#include "output/PageHistory.h"
+
+#include "history/TextChange.h"
+#include "output/SavedPage.h"
+#include "output/WidgetGraphicalOutputData.h"
+#include "tree/GraphicalOutputTreeWidget.h"
+#include "VKD_P_WidgetGraphicalOutput.h"
+#include "VKD_P_WidgetGraphicalOutput_Role.h"
+#include "VKD_P_WidgetGraphicalOutput_Steps.h"
+
+#include <VKD_H_BoxedLineEdit.h>
+#include <VKD_H_LineEdit.h>
+#include <VKD_QT4_ComboBox.h>
+#include <VKD_QT_RadioButtonGroup.h>
+
+#include <QRadioButton>
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace plib {
+
+namespace {
+constexpr std::size_t MostCharacters = 16000000; // in all steps; 32 MB
+
+std::size_t sizeOf(const TextChange& change)
+{
+    return std::size_t(change.before.size() + change.after.size());
+}
+
+/// Returns the caption of an item; for a row, preceded by the caption of its plot.
+QString captionOf(const QTreeWidgetItem& item)
+{
+    const bool isRow =
+        item.data(0, vkd::plib::widgetgraphicaloutput::LoadCaseRole).isValid() && item.parent();
+    return isRow ? item.parent()->text(0) + QLatin1String(", ") + item.text(0) : item.text(0);
+}
+} // namespace
+
+class PageHistory::Step : public HistoryStep
+{
+public:
+    Step(PageHistory* history, QString name, const PageState& before, const PageState& after)
+        : m_history(history)
+        , m_name(std::move(name))
+        , m_settings(textChange(before.settings, after.settings))
+        , m_plots(textChange(before.plots, after.plots))
+        , m_host(textChange(before.host, after.host))
+    {
+    }
+
+    bool isEmpty() const { return m_settings.isEmpty() && m_plots.isEmpty() && m_host.isEmpty(); }
+
+    QString name() const override { return m_name; }
+    std::size_t size() const override
+    {
+        return sizeOf(m_settings) + sizeOf(m_plots) + sizeOf(m_host);
+    }
+    void undo() override
+    {
+        const PageState& now = m_history->m_known;
+        m_history->restore({undone(now.settings, m_settings), undone(now.plots, m_plots),
+                            undone(now.host, m_host)});
+    }
+    void redo() override
+    {
+        const PageState& now = m_history->m_known;
+        m_history->restore({redone(now.settings, m_settings), redone(now.plots, m_plots),
+                            redone(now.host, m_host)});
+    }
+
+private:
+    PageHistory* m_history;
+    QString m_name;
+    TextChange m_settings;
+    TextChange m_plots;
+    TextChange m_host;
+};
+
+PageHistory::PageHistory(VKD_P_WidgetGraphicalOutput* page, WidgetGraphicalOutputData* data)
+    : QObject(page)
+    , m_data(*data)
+    , m_stack(page, MostCharacters, this)
+{
+    setObjectName(QLatin1String(vkd::plib::widgetgraphicaloutput::StepsObject));
+    watchSettings();
+    watchPlots();
+    connect(&m_stack, &StepStack::stepped, this, &PageHistory::stepped);
+    m_known = present();
+}
+
+/// The page is connected to its buttons before the history, so that a click on a format and the
+/// number of pictures that follows it are one step.
+void PageHistory::watchSettings()
+{
+    for (const VKD_QT_RadioButtonGroup* group :
+         {m_data.scaleGroup, m_data.formatGroup, m_data.picturesGroup, m_data.viewGroup})
+        if (group)
+            watchGroup(group);
+    watchList(m_data.scaleCombo, m_data.scaleGroup->box()->title());
+    if (m_data.pageSplitCombo)
+        watchList(m_data.pageSplitCombo, m_data.pageSplitBox->title());
+    if (m_data.fillCheck)
+        connect(m_data.fillCheck, &QCheckBox::clicked, this,
+                [this] { record(m_data.fillCheck->text()); });
+    connect(m_data.fontEdit->edit(), &QLineEdit::editingFinished, this,
+            [this] { record(tr("Font Size")); });
+    connect(&m_stack, &StepStack::aboutToStep, this, // the user may still be typing
+            [this] { record(tr("Font Size")); });
+}
+
+void PageHistory::watchGroup(const VKD_QT_RadioButtonGroup* group)
+{
+    connect(group, &VKD_QT_RadioButtonGroup::buttWasClicked, this, [this, group](int entry) {
+        record(tr("%1 \"%2\"").arg(group->title(), group->getRadioButton(entry)->text()));
+    });
+}
+
+void PageHistory::watchList(const VKD_QT4_ComboBox* list, const QString& title)
+{
+    connect(list, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, list, title] {
+        const QString text = list->currentText();
+        record(text.isEmpty() ? title : tr("%1 \"%2\"").arg(title, text));
+    });
+}
+
+/// The tree emits itemChanged() only for changes by the user, but checkStatesChanged() for any
+/// change, after it.
+void PageHistory::watchPlots()
+{
+    GraphicalOutputTreeWidget* tree = m_data.tree;
+    connect(tree, &QTreeWidget::itemChanged, this, [this](const QTreeWidgetItem* item) {
+        const QString text =
+            item->checkState(0) == Qt::Unchecked ? tr("Uncheck \"%1\"") : tr("Check \"%1\"");
+        m_clicked = text.arg(captionOf(*item));
+    });
+    connect(tree->model(), &QAbstractItemModel::modelAboutToBeReset, this,
+            [this] { m_clicked.clear(); });
+    connect(tree, &GraphicalOutputTreeWidget::checkStatesChanged, this, [this] {
+        const QString clicked = std::exchange(m_clicked, QString());
+        if (!clicked.isNull())
+            record(clicked);
+        else if (m_depth == 0)
+            restart(m_known.host);
+    });
+}
+
+PageState PageHistory::present() const
+{
+    return {m_data.panel->savedParts(), m_data.tree->selectionText(), m_known.host};
+}
+
+void PageHistory::begin()
+{
+    ++m_depth;
+}
+
+void PageHistory::end(const QString& name, const QString& state)
+{
+    --m_depth;
+    record(name, state);
+}
+
+void PageHistory::end(const QString& name)
+{
+    --m_depth;
+    if (!name.isNull())
+        record(name);
+    else if (m_depth == 0)
+        restart(m_known.host);
+}
+
+void PageHistory::restart(const QString& state)
+{
+    m_known = present();
+    m_known.host = state;
+    m_stack.clear();
+    Q_EMIT stepped();
+}
+
+void PageHistory::record(const QString& name)
+{
+    record(name, m_known.host);
+}
+
+void PageHistory::record(const QString& name, const QString& hostState)
+{
+    if (m_depth > 0)
+        return;
+    PageState now = present();
+    now.host = hostState;
+    const auto step = std::make_shared<Step>(this, name, m_known, now);
+    if (step->isEmpty())
+        return;
+    m_known = now;
+    m_stack.push(step);
+}
+
+/// Shows the view only if it differs, because a page may have no checked view.
+void PageHistory::restore(const PageState& state)
+{
+    const QScopedValueRollback<int> change(m_depth, m_depth + 1);
+    if (state.host != m_known.host)
+        Q_EMIT hostStateRestored(state.host);
+    const PageState before = std::exchange(m_known, state);
+    if (state.settings != before.settings) {
+        const OutputSettings settings = m_data.panel->settings();
+        const QString view = SavedPage(state.settings, settings).part(savedtag::View);
+        QString wanted = state.settings;
+        if (view == SavedPage(before.settings, settings).part(savedtag::View))
+            wanted.remove(savedPart(savedtag::View, view));
+        m_data.panel->apply(SavedPage(wanted, settings));
+    }
+    m_data.tree->applySelection(state.plots);
+}
+
+} // namespace plib

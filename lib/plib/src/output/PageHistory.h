@@ -1,0 +1,82 @@
+#pragma once
+
+#include "history/StepStack.h"
+
+class QTreeWidgetItem;
+class VKD_P_WidgetGraphicalOutput;
+class VKD_QT_RadioButtonGroup;
+class VKD_QT4_ComboBox;
+struct WidgetGraphicalOutputData;
+
+namespace plib {
+
+/// The state of an output page that undo restores, in the format in which the page saves it.
+struct PageState
+{
+    QString settings;
+    QString plots; ///< selection text
+    QString host;  ///< a text of the host, whose meaning only the host knows
+};
+
+/// Provides undo and redo for the output page, whose child it is. It compares the state of the page
+/// with the state after the last step, so that the operations need no code for undo. A step
+/// contains only the parts of the texts that differ. Hosts use the meta-object of this class, which
+/// VKD_P_WidgetGraphicalOutput_Steps.h documents.
+class PageHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `data` must outlive the history.
+    PageHistory(VKD_P_WidgetGraphicalOutput* page, WidgetGraphicalOutputData* data);
+
+    Q_INVOKABLE void begin();
+    Q_INVOKABLE void end(const QString& name, const QString& state);
+    Q_INVOKABLE void restart(const QString& state);
+
+    /// Ends a change by the page itself. A change without a name is not a step; it clears the
+    /// history, unless it is part of a step.
+    void end(const QString& name);
+
+Q_SIGNALS:
+    void hostStateRestored(const QString& state);
+    void stepped();
+
+private:
+    class Step;
+    void watchSettings();
+    void watchGroup(const VKD_QT_RadioButtonGroup* group);
+    void watchList(const VKD_QT4_ComboBox* list, const QString& title);
+    void watchPlots();
+    PageState present() const;
+    void record(const QString& name);
+    void record(const QString& name, const QString& hostState);
+    void restore(const PageState& state);
+
+    WidgetGraphicalOutputData& m_data;
+    PageState m_known; ///< after the last step
+    int m_depth = 0;   ///< nested changes; while there is one, nothing is recorded
+    QString m_clicked; ///< name of the step for the item that has just been checked or unchecked
+    StepStack m_stack;
+};
+
+/// A change that a function of the page makes, from construction to destruction of this object.
+class PageChange
+{
+public:
+    explicit PageChange(PageHistory* history, const QString& name = QString())
+        : m_history(history)
+        , m_name(name)
+    {
+        m_history->begin();
+    }
+    ~PageChange() { m_history->end(m_name); }
+    PageChange(const PageChange&) = delete;
+    PageChange& operator=(const PageChange&) = delete;
+
+private:
+    PageHistory* m_history;
+    QString m_name;
+};
+
+} // namespace plib
