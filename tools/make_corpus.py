@@ -107,6 +107,9 @@ def main():
         rows = workbench("rows", project)
     write("sheets", [script[:400] + script[-900:] for script in scripts]
           + ["SIZE -URS SC 1:100 SPLI 2x1\nVIEW TYPE STAN 1 -2 1 ROTA 30\nLC 7 DESI 8\nBEAM MY ; AND\nEND"])
+    write("scriptCheck", [script[:1400] + script[-300:] for script in scripts]
+          + ["PROG GRAV\nHEAD\n#define FILLI=AREA\nSIZE URS SC -\nLC 1 DESI 2 $ text\n"
+             "COLO C14 -1 ; QUAD DISP DIRE LOCZ FILL $(FILLI) VALU $(X ; AND \nEND"])
     write("rawRecords", [record(21, b"\x01\0\0\0" * 56) + record(23, b"\0\0\x80\x3f" * 8),
                          record(1, rows[:60]) + record(25, b"MerPara1") + record(25, b"1; | 2") +
                          record(6, b"\x01\0\0\0" + b"\0" * 24) + record(20, b"\x01\0\0\0" * 15),

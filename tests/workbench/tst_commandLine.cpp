@@ -52,6 +52,19 @@ private Q_SLOTS:
         QVERIFY(german.out.contains(QLatin1String("\nKOPF ")));
         QVERIFY(german.out.endsWith(QLatin1String("\nENDE\n")));
         QCOMPARE(german.out.count(QLatin1Char('\n')), english.out.count(QLatin1Char('\n')));
+        const QString check = QStringLiteral("check script --project %1.zob")
+                                  .arg(QLatin1String(QTest::currentDataTag()));
+        writeFile(path("script"), german.out.toUtf8());
+        QCOMPARE(run(check).out, QStringLiteral("script: no findings\n"));
+        QByteArray mutant = german.out.toUtf8();
+        mutant.replace("\nLF 1 ", "\nLF 77 ");
+        writeFile(path("script"), mutant);
+        const Result checked = run(check);
+        QCOMPARE(checked.exitCode, 1);
+        const int line = mutant.left(mutant.indexOf("\nLF ")).count('\n') + 2;
+        QVERIFY2(checked.out.startsWith(
+                     QStringLiteral("script:%1:4: the model has no load case 77\n").arg(line)),
+                 qPrintable(checked.out));
     }
 
     void choiceIsStoredAndRestored()
@@ -380,6 +393,9 @@ private Q_SLOTS:
         row("script slab.zob -o both.txt --selection-out ./both.txt",
             "the script and the choice cannot both go into both.txt");
         row("script slab.zob -o .", "cannot write .: it is not a file");
+        row("check absent.txt", "cannot read absent.txt: No such file or directory");
+        row("check slab.zob --project absent.zob",
+            "cannot open absent.zob: the file is not there or cannot be opened");
         row("snapshots noproject.zob pictures",
             "cannot open noproject.zob: the file is not a project file (file is not a database)");
         row("snapshots slab.zob bad.json/pictures", "cannot create the folder bad.json/pictures");
@@ -402,8 +418,8 @@ private Q_SLOTS:
 
     void help()
     {
-        for (const char* command :
-             {"", "new", "rows", "script", "outputs", "catalogue", "tree", "snapshots", "window"}) {
+        for (const char* command : {"", "new", "rows", "script", "outputs", "check", "catalogue",
+                                    "tree", "snapshots", "window"}) {
             const QString name = QLatin1String(command);
             const Result result = run((name + QLatin1String(" --help")).trimmed());
             QCOMPARE(result.exitCode, 0);

@@ -30,6 +30,7 @@ constexpr Command Commands[] = {
     {"new", newCommand, nullptr, "create a project file from a model"},
     {"script", scriptCommand, nullptr, "print the script of a project's plots"},
     {"outputs", outputsCommand, nullptr, "print the names of a project's outputs"},
+    {"check", checkCommand, nullptr, "check a script: statements, keywords, definitions, load cases"},
     {"catalogue", catalogueCommand, nullptr, "print and check a catalogue of plots"},
     {"rows", rowsCommand, nullptr, "print and change the design parameters of a project"},
     {"tree", treeCommand, nullptr, "print the plots that a project offers, with their check marks"},

@@ -16,6 +16,7 @@ bool isCommand(const QString& name);
 // exit code, or throws a CommandError if it fails.
 int newCommand(const QStringList& arguments);
 int scriptCommand(const QStringList& arguments);
+int checkCommand(const QStringList& arguments);
 int catalogueCommand(const QStringList& arguments);
 int rowsCommand(const QStringList& arguments);
 int treeCommand(const QStringList& arguments);

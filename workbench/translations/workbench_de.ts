@@ -1484,4 +1484,83 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Eine andere Ausgabe heißt bereits so.</translation>
     </message>
 </context>
+<context>
+    <name>workbench::ScriptFinding</name>
+    <message>
+        <source>no plot makes a statement &quot;%1&quot;</source>
+        <translation>keine Grafik erzeugt eine Anweisung „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a keyword of this statement</source>
+        <translation>„%1“ ist kein Schlüsselwort dieser Anweisung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a keyword of the other language</source>
+        <translation>„%1“ ist ein Schlüsselwort der anderen Sprache</translation>
+    </message>
+    <message>
+        <source>no plot has &quot;%1&quot; after &quot;%2&quot;</source>
+        <translation>keine Grafik hat „%1“ nach „%2“</translation>
+    </message>
+    <message>
+        <source>a keyword is missing after &quot;%2&quot;</source>
+        <translation>nach „%2“ fehlt ein Schlüsselwort</translation>
+    </message>
+    <message>
+        <source>a value is missing after &quot;%2&quot;</source>
+        <translation>nach „%2“ fehlt ein Wert</translation>
+    </message>
+    <message>
+        <source>no plot has the value &quot;%1&quot; after &quot;%2&quot;</source>
+        <translation>keine Grafik hat den Wert „%1“ nach „%2“</translation>
+    </message>
+    <message>
+        <source>the bracket of &quot;%1&quot; is not closed</source>
+        <translation>die Klammer von „%1“ ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not defined</source>
+        <translation>„%1“ ist nicht definiert</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is defined twice</source>
+        <translation>„%1“ ist zweimal definiert</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is defined but not used</source>
+        <translation>„%1“ ist definiert, wird aber nicht verwendet</translation>
+    </message>
+    <message>
+        <source>a definition has the form #define NAME=VALUE</source>
+        <translation>eine Definition hat die Form #define NAME=WERT</translation>
+    </message>
+    <message>
+        <source>the model has no load case %1</source>
+        <translation>das Modell hat keinen Lastfall %1</translation>
+    </message>
+    <message>
+        <source>the design case %1 differs from the load case %2</source>
+        <translation>der Bemessungsfall %1 weicht vom Lastfall %2 ab</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is outside a program block</source>
+        <translation>„%1“ steht außerhalb eines Programmblocks</translation>
+    </message>
+    <message>
+        <source>there is no program block</source>
+        <translation>es gibt keinen Programmblock</translation>
+    </message>
+    <message>
+        <source>the program block has no title line</source>
+        <translation>der Programmblock hat keine Titelzeile</translation>
+    </message>
+    <message>
+        <source>the program block has no page setup</source>
+        <translation>der Programmblock richtet keine Seite ein</translation>
+    </message>
+    <message>
+        <source>the program block has no end</source>
+        <translation>der Programmblock hat kein Ende</translation>
+    </message>
+</context>
 </TS>
