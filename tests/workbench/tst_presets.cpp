@@ -78,6 +78,47 @@ QString textOf(const QVariantMap& parameters)
         texts << it.key() + QLatin1Char('=') + QString::number(it.value().toDouble(), 'g', 5);
     return texts.join(QLatin1Char(' '));
 }
+
+/// A design page with three rows, of which the last two are selected, and the dialog of presets.
+class PresetDesk
+{
+public:
+    PresetDesk()
+    {
+        m_desk.table()->setCurrentCell(1, 3);
+        m_desk.table()->setRangeSelected({2, 3, 2, 3}, true);
+    }
+
+    /// Opens the dialog, calls the function with it, and closes it.
+    void open(const std::function<void(const QWidget&)>& use) const
+    {
+        whenModal([&use](QWidget* dialog) {
+            use(*dialog);
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+        m_action->trigger();
+    }
+
+    const DesignDesk* operator->() const { return &m_desk; }
+
+private:
+    HostProject m_project{QStringLiteral("slab")};
+    DesignDesk m_desk{m_project, {record(-1, 1, 0), record(1, 2, 4), record(2, 1, 0)}};
+    OpenProject m_none;
+    QAction* m_action = addPresetsAction(m_desk.page, &m_none);
+};
+
+void press(const QWidget& dialog, const char* button)
+{
+    find<QPushButton>(dialog, button)->click();
+}
+
+void choose(const QWidget& dialog, const char* preset)
+{
+    const auto list = find<QTreeWidget>(dialog, "presetList");
+    list->setCurrentItem(
+        list->findItems(QLatin1String(preset), Qt::MatchStartsWith | Qt::MatchRecursive).value(0));
+}
 } // namespace
 
 Q_DECLARE_METATYPE(workbench::Preset)
@@ -219,32 +260,10 @@ private Q_SLOTS:
         QCOMPARE(readFile(userPresetsPath()), newer);
     }
 
-    /// The dialog applies parts of a preset to all selected rows in one step, and manages presets.
-    void dialog()
+    void applyingParts()
     {
-        HostProject project(QStringLiteral("slab"));
-        DesignDesk desk(project, {record(-1, 1, 0), record(1, 2, 4), record(2, 1, 0)});
-        OpenProject none;
-        QAction* action = addPresetsAction(desk.page, &none);
-        desk.table()->setCurrentCell(1, 3);
-        desk.table()->setRangeSelected({2, 3, 2, 3}, true);
-        const auto open = [&](const std::function<void(QWidget&)>& use) {
-            whenModal([&use](QWidget* dialog) {
-                use(*dialog);
-                qobject_cast<QDialog*>(dialog)->reject();
-            });
-            action->trigger();
-        };
-        const auto press = [](QWidget& dialog, const char* button) {
-            find<QPushButton>(dialog, button)->click();
-        };
-        const auto choose = [](QWidget& dialog, const char* name) {
-            const auto list = find<QTreeWidget>(dialog, "presetList");
-            list->setCurrentItem(
-                list->findItems(QLatin1String(name), Qt::MatchStartsWith | Qt::MatchRecursive)
-                    .value(0));
-        };
-        open([&](QWidget& dialog) {
+        const PresetDesk desk;
+        desk.open([](const QWidget& dialog) {
             choose(dialog, "XC4");
             QVERIFY(find<QTextBrowser>(dialog, "presetDetails")
                         ->toPlainText()
@@ -254,20 +273,27 @@ private Q_SLOTS:
         });
         const QString applied = QStringLiteral("45.0 mm ;45.0 mm ;10.0 mm ;10.0 mm");
         for (int row = 0; row < 3; ++row)
-            QCOMPARE(desk.row(row).contains(applied), row > 0);
-        QVERIFY(!desk.row(2).contains(QLatin1String("0.30 mm")));
+            QCOMPARE(desk->row(row).contains(applied), row > 0);
+        QVERIFY(!desk->row(2).contains(QLatin1String("0.30 mm")));
+        trigger(*desk->page, "undo");
+        QVERIFY(!desk->row(1).contains(applied) && !desk->row(2).contains(applied));
+    }
+
+    void managing()
+    {
+        const PresetDesk desk;
         const QString file = m_folder->filePath(QStringLiteral("out.json"));
-        open([&](QWidget& dialog) {
+        desk.open([&](const QWidget& dialog) {
             whenModal([](QWidget* form) {
                 find<QLineEdit>(*form, "presetName")->setText(QStringLiteral("A & B"));
                 find<QAbstractButton>(*form, "partCover")->click();
                 qobject_cast<QDialog*>(form)->accept();
             });
             press(dialog, "presetFromRow");
-            whenModal([&file](QWidget* files) { enterFile(files, file); });
-            press(dialog, "presetExport");
-            whenModal([&file](QWidget* files) { enterFile(files, file); });
-            press(dialog, "presetImport");
+            for (const char* button : {"presetExport", "presetImport"}) {
+                whenModal([&file](QWidget* files) { enterFile(files, file); });
+                press(dialog, button);
+            }
             whenModal([](QWidget* box) { box->findChildren<QPushButton*>().value(0)->click(); });
             choose(dialog, "A & B");
             press(dialog, "presetDelete");
@@ -278,12 +304,8 @@ private Q_SLOTS:
         QCOMPARE(stored.size(), 1);
         QCOMPARE(stored.first().name, QStringLiteral("A & B (2)"));
         QVERIFY(!partsIn(stored.first().parameters).contains(PresetPart::Cover));
-        QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
+        QCOMPARE(find<QAction>(*desk->page, "undo")->text(),
                  QStringLiteral("&Undo Preset \"A && B (2)\""));
-        desk.keys({Qt::Key_Escape});
-        for (int step = 0; step < 2; ++step)
-            find<QAction>(*desk.page, "undo")->trigger();
-        QVERIFY(!desk.row(1).contains(applied) && !desk.row(2).contains(applied));
     }
 
 private:
