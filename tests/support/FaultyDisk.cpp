@@ -24,13 +24,28 @@ namespace {
 using Fault = FaultyDisk::Fault;
 enum class Call { Read, Write, Other }; // only Write needs disk space
 
+using Names = QMap<QByteArray, size_t>; // maps file names in the folder to file indexes
+
+/// A file was created, removed or renamed.
+struct NameChange
+{
+    QByteArray removed, added; // names, or an empty string
+    size_t file;
+
+    void apply(Names& names) const
+    {
+        names.remove(removed);
+        if (!added.isEmpty())
+            names[added] = file;
+    }
+};
+
 struct Disk
 {
-    using Names = QMap<QByteArray, size_t>; // maps file names in the folder to file indexes
-
     QByteArray folder;
-    std::vector<QByteArray> synced; // contents when the files were last synced
-    std::vector<Names> names{1};    // states since the folder was synced, the current state last
+    std::vector<QByteArray> synced;  // contents when the files were last synced
+    Names names, syncedNames;        // now, and when the folder was last synced
+    std::vector<NameChange> changes; // since the folder was synced
     Fault fault = Fault::None;
     int call = 0, calls = 0;
     QByteArray failedCall;
@@ -83,24 +98,25 @@ QByteArray contentOf(const QByteArray& name)
 
 void sync(const QByteArray& name)
 {
-    const Disk::Names& names = disk->names.back();
-    if (name == ".")
-        disk->names = {names};
-    else if (names.contains(name)) // else the file was deleted while it was open
-        disk->synced[names[name]] = contentOf(name);
+    if (name == ".") {
+        disk->syncedNames = disk->names;
+        disk->changes.clear();
+    } else if (disk->names.contains(name)) { // else the file was deleted while it was open
+        disk->synced[disk->names[name]] = contentOf(name);
+    }
 }
 
-Disk::Names& changeNames()
+void changeNames(const NameChange& change)
 {
-    disk->names.push_back(disk->names.back());
-    return disk->names.back();
+    change.apply(disk->names);
+    disk->changes.push_back(change);
 }
 
 void create(const QByteArray& name)
 {
-    if (disk->names.back().contains(name))
+    if (disk->names.contains(name))
         return;
-    changeNames()[name] = disk->synced.size();
+    changeNames({{}, name, disk->synced.size()});
     disk->synced.push_back({});
 }
 
@@ -156,9 +172,10 @@ FaultyDisk::FaultyDisk(const QString& folder, Fault fault, int call)
     state->folder = QFile::encodeName(QFileInfo(folder).canonicalFilePath());
     const QStringList names = QDir(folder).entryList(QDir::Files);
     for (const QString& name : names) {
-        state->names[0][QFile::encodeName(name)] = state->synced.size();
+        state->names[QFile::encodeName(name)] = state->synced.size();
         state->synced.push_back(readFile(QDir(folder).filePath(name)));
     }
+    state->syncedNames = state->names;
     state->fault = fault;
     state->call = call;
     disk = std::move(state);
@@ -184,9 +201,9 @@ void FaultyDisk::restart()
     const auto before = std::exchange(disk, nullptr);
     static std::mt19937 random;
     const bool isTorn = before->fault == Fault::TornCut;
+    const bool isLastNameStored = before->fault == Fault::NameCut;
     const QDir folder(QFile::decodeName(before->folder));
-    const Disk::Names& current = before->names.back();
-    for (auto name = current.begin(); name != current.end(); ++name) {
+    for (auto name = before->names.begin(); name != before->names.end(); ++name) {
         const QString path = folder.filePath(QFile::decodeName(name.key()));
         QByteArray& synced = before->synced[name.value()];
         if (isTorn)
@@ -194,7 +211,10 @@ void FaultyDisk::restart()
                                   : mixed(readFile(path), synced, random);
         QFile::remove(path);
     }
-    const Disk::Names& names = before->names[isTorn ? random() % before->names.size() : 0];
+    Names names = before->syncedNames;
+    for (const NameChange& change : before->changes)
+        if (isTorn ? random() % 2 == 0 : isLastNameStored && &change == &before->changes.back())
+            change.apply(names);
     for (auto name = names.begin(); name != names.end(); ++name)
         writeFile(folder.filePath(QFile::decodeName(name.key())), before->synced[name.value()]);
     disk = std::make_unique<Disk>(); // without a folder
@@ -284,7 +304,9 @@ int unlink(const char* path) noexcept
     const QByteArray name = nameOf(QByteArray(path));
     return run(
         Call::Other, "remove", name, [&] { return next(path); },
-        [&](int) { changeNames().remove(name); });
+        [&](int) {
+            changeNames({name, {}, 0});
+        });
 }
 
 int renameat2(int folder, const char* from, int newFolder, const char* to, unsigned flags) noexcept
@@ -294,8 +316,7 @@ int renameat2(int folder, const char* from, int newFolder, const char* to, unsig
     return run(
         Call::Other, "rename", name, [&] { return next(folder, from, newFolder, to, flags); },
         [&](int) {
-            Disk::Names& names = changeNames();
-            names[nameOf(QByteArray(to))] = names.take(name);
+            changeNames({name, nameOf(QByteArray(to)), disk->names[name]});
         });
 }
 

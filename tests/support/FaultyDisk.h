@@ -19,7 +19,8 @@ public:
         ForGood,  ///< the call and all later calls fail with EIO
         Full,     ///< starting with this call, creating and writing fail with ENOSPC
         PowerCut, ///< the power is cut before the call
-        TornCut,  ///< like PowerCut, but random sectors of the unsynced changes are stored
+        TornCut,  ///< like PowerCut, but random parts of the unsynced changes are stored
+        NameCut,  ///< like PowerCut, but the last unsynced change of a file name is stored
         None
     };
 

@@ -147,7 +147,7 @@ private:
         return onSoundDisk([this] { return stateOf(m_operation.project); });
     }
 
-    static bool isCut(Fault fault) { return fault == Fault::PowerCut || fault == Fault::TornCut; }
+    static bool isCut(Fault fault) { return fault >= Fault::PowerCut && fault < Fault::None; }
 
     void expect(bool condition, const char* problem)
     {
@@ -175,7 +175,7 @@ void walkOverFaults(const QString& folder, const Operation& operation)
     Walk walk(folder, operation);
     QString failures;
     for (const Fault fault : {Fault::Once, Fault::ForGood, Fault::Full, Fault::PowerCut,
-                              Fault::TornCut, Fault::TornCut})
+                              Fault::TornCut, Fault::TornCut, Fault::NameCut})
         failures += QLatin1Char(' ') + QString::number(walk.walk(fault));
     qInfo("failures:%s", qPrintable(failures));
     const QStringList problems = walk.problems();

@@ -93,6 +93,7 @@ private Q_SLOTS:
         row("single record", "project", putFirst, 1);
         row("upgrade", "version 1", putFirst, 2);
         row("new file", "-", place, 1);
+        row("new file beside an old journal", "journal", place, 1);
         row("replaced file", "project", place, 1);
         row("replaced file after a crash", "crashed", place, 2);
     }
@@ -122,8 +123,10 @@ private:
         if (kind == "version 1")
             changeByOther(path, "UPDATE record SET data = substr(data, 1, length(data) - 8);"
                                 "PRAGMA user_version = 1");
-        if (kind == "crashed")
+        if (kind == "crashed" || kind == "journal")
             leaveHalfWritten(path);
+        if (kind == "journal")
+            QVERIFY(QFile::remove(path));
     }
 
     /// Cuts the power after the change has been written and before its journal is removed.

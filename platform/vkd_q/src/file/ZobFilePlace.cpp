@@ -51,14 +51,13 @@ bool sync(const QString& path, int flags)
     return isDone;
 }
 
+/// Stops at the first failure, so that errno contains its reason.
 bool removeLeftBeside(const QString& path)
 {
-    bool isDone = true;
-    for (const char* suffix : LeftSuffixes) {
-        QFile left(path + QLatin1String(suffix));
-        isDone = (!left.exists() || left.remove()) && isDone;
-    }
-    return isDone;
+    for (const char* suffix : LeftSuffixes)
+        if (unlink((QFile::encodeName(path) + suffix).constData()) != 0 && errno != ENOENT)
+            return false;
+    return true;
 }
 
 /// Flushes the directory entries. Not all file systems support this, and the folder must be
