@@ -71,6 +71,29 @@ private Q_SLOTS:
         QVERIFY(desk.page.getTORVAL(true).contains(QLatin1String("\n#define FILL=VERT\n")));
     }
 
+    void linesOfTheScript()
+    {
+        Desk desk(m_project);
+        QTreeWidgetItem* row = desk.plotWithRows()->child(1);
+        row->setCheckState(0, Qt::Checked);
+        const QStringList lines = desk.page.getTORVAL(true).split(QLatin1Char('\n'));
+        const auto script = desk.find<QObject>("script");
+        const auto itemOf = [script](int line) {
+            QTreeWidgetItem* item = nullptr;
+            QMetaObject::invokeMethod(script, "itemOfLine", Q_RETURN_ARG(QTreeWidgetItem*, item),
+                                      Q_ARG(int, line));
+            return item;
+        };
+        QVector<int> range;
+        QMetaObject::invokeMethod(script, "linesOfItem", Q_RETURN_ARG(QVector<int>, range),
+                                  Q_ARG(QTreeWidgetItem*, row));
+        QCOMPARE(lines.value(range.value(0)), QStringLiteral("LC 2 DESI 2"));
+        QCOMPARE(itemOf(range.value(0) + range.value(1) - 1), row);
+        QCOMPARE(itemOf(0), nullptr);
+        desk.page.slotDefaultSettings();
+        QCOMPARE(itemOf(range.value(0)), nullptr); // the tree is new
+    }
+
     void aNewPage()
     {
         Desk desk(m_project);

@@ -1,7 +1,7 @@
 #include "CatalogueTestSupport.h"
 #include "TestSupport.h"
 
-#include <script/scriptLines.h>
+#include <script/lineOrigins.h>
 #include <tree/selectionText.h>
 
 using plib::OutputNode;
@@ -104,6 +104,37 @@ private Q_SLOTS:
             {{1, 12, QStringLiteral("12+14: x")}, {1, 2147483647, QStringLiteral("y")}});
         QCOMPARE(script(&root, true, 122, 0),
                  QStringLiteral("a 1000012 1000012 $(lfnr)\na 2148483647 2148483647 $(lfnr)\n"));
+    }
+
+    /// The lines of a caption or a plot are adjacent, and each line belongs to one plot or row.
+    void origins()
+    {
+        OutputNode root;
+        testsupport::build(
+            &root,
+            testsupport::parse(line("A|B|B", "last-l", 2, 2, "g", "e") +
+                               line("A|B|C", " ", 0, 3, "g", "f") + line("A|D|E", " ", 0, 0)),
+            {{1, 7, QStringLiteral("7+9: a")}, {1, -4, QStringLiteral("-4")}, {1, 9, QStringLiteral("9")}});
+        std::vector<QString> lines;
+        plib::LineOrigins origins;
+        origins.count = plib::collectScriptLines(
+            &root, lines, plib::Keywords::English, 1, [] { return 0; }, &origins.starts);
+        QStringList found;
+        for (int i = -1; i <= origins.count; ++i) {
+            const OutputNode* item = plib::itemOfLine(&root, origins, i);
+            found << (item ? item->text(0) : QStringLiteral("none"));
+        }
+        const OutputNode* a = root.child(0);
+        const OutputNode* b = a->child(0);
+        const OutputNode* plot = b->child(0);
+        const OutputNode* const items[] = {a, b, plot, plot->child(0), plot->child(1), a->child(1)};
+        for (const OutputNode* item : items) {
+            const plib::LineRange range = plib::linesOfItem(&root, origins, item);
+            found << QStringLiteral("%1+%2").arg(range.first).arg(range.count);
+        }
+        QCOMPARE(found.join(QLatin1Char(' ')),
+                 QStringLiteral("none 7+9: a 7+9: a 7+9: a 7+9: a 7+9: a 9 B E E none "
+                                "0+9 0+7 0+7 0+5 5+0 7+2"));
     }
 
     void treesWithoutItems()

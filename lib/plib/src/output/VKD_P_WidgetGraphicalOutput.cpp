@@ -1,5 +1,6 @@
 #include "VKD_P_WidgetGraphicalOutput.h"
 
+#include "tree/HostScript.h"
 #include "output/PageHistory.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "script/PlatformScriptEnvironment.h"
@@ -157,8 +158,12 @@ QString VKD_P_WidgetGraphicalOutput::getTORVAL(const QString& additional, bool e
 {
     std::vector<QString> lines;
     data->tree->collectScriptLines(lines, english);
-    return plib::outputScript(data->panel->settings(), lines, additional, plib::keywordsIf(english),
-                              plib::PlatformScriptEnvironment(data->pluginParameter));
+    int linesBefore = -1;
+    const QString script =
+        plib::outputScript(data->panel->settings(), lines, additional, plib::keywordsIf(english),
+                           plib::PlatformScriptEnvironment(data->pluginParameter), &linesBefore);
+    data->tree->findChild<plib::HostScript*>()->setLinesBefore(linesBefore);
+    return script;
 }
 
 QString VKD_P_WidgetGraphicalOutput::getTORVAL(bool english)

@@ -166,7 +166,7 @@ QString fillDefinitions(bool fill, Keywords keywords)
 
 QString outputScript(const OutputSettings& settings, const std::vector<QString>& lines,
                      const QString& additional, Keywords keywords,
-                     const ScriptEnvironment& environment)
+                     const ScriptEnvironment& environment, int* linesBefore)
 {
     if (settings.variant == VKD_P_GraphicalOutput_Split)
         return splitResult(settings, additional, keywords);
@@ -183,6 +183,8 @@ QString outputScript(const OutputSettings& settings, const std::vector<QString>&
     script += sizeStatement(settings, keywords) + end;
     if (ahead) // includes a newline
         script += additional;
+    if (linesBefore)
+        *linesBefore = script.count(end);
     QString tail = environment.programEnd(keywords) + end;
     if (!ahead && !additional.isEmpty())
         tail.prepend(additional + end);

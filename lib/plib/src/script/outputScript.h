@@ -25,10 +25,11 @@ public:
 
 /// Returns the script for the lines of the checked plots, with English or German keywords. The
 /// script is empty if there are no lines, regardless of `additional`. In the split variant, returns
-/// two alternative page setups instead, even if there are no lines.
+/// two alternative page setups instead, even if there are no lines. If there is a script and
+/// `linesBefore` is not null, it receives the number of lines before the given lines.
 QString outputScript(const OutputSettings& settings, const std::vector<QString>& lines,
                      const QString& additional, Keywords keywords,
-                     const ScriptEnvironment& environment);
+                     const ScriptEnvironment& environment, int* linesBefore = nullptr);
 
 /// Returns the clause that replaces the standard view in the lines of the script.
 QString viewClause(const OutputSettings& settings, Keywords keywords,

@@ -75,47 +75,64 @@ private:
     ScriptContext m_context;
 };
 
-/// Writes the checked descendants of the item. Children are written before their parents.
-template <typename Node>
-void writeChildren(Node* parent, ScriptLineWriter& writer)
+/// Calls `visit(item, parent)` for each descendant that writes lines, in the order of the script:
+/// children before their parents. Stops and returns false if `visit` returns false.
+template <typename Node, typename Visit>
+bool visitWriters(Node* parent, Visit&& visit)
 {
     const int count = parent->childCount();
     for (int i = 0; i < count; ++i) {
         auto* item = outputItem(parent->child(i));
         if (!item)
             continue;
-        writeChildren(item, writer);
-        if (item->isLC < 0 || item->checkState(0) == Qt::Unchecked)
-            continue;
-        writer.writeView(item->record.viewKind);
-        const QString& text = writer.script(item->record);
-        if (item->number == 0)
-            writer.writeText(text);
-        else if (item->number > 0)
-            // The parent of a row is its plot. The unit is intentionally determined by the item
-            // above the plot, which has the record of its first plot, and not by the plot's own
-            // record.
-            writer.writeCase(
-                item->number, text, [item] { return item->text(0); },
-                [parent] {
-                    return parent->parent() ? &outputItem(parent->parent())->record : nullptr;
-                });
+        if (!visitWriters<Node>(item, visit))
+            return false;
+        if (item->isLC >= 0 && item->checkState(0) != Qt::Unchecked && !visit(item, parent))
+            return false;
     }
+    return true;
+}
+
+/// Writes the lines of a checked plot or row.
+template <typename Item, typename Node>
+void writeItem(Item* item, Node* parent, ScriptLineWriter& writer)
+{
+    writer.writeView(item->record.viewKind);
+    const QString& text = writer.script(item->record);
+    if (item->number == 0)
+        writer.writeText(text);
+    else if (item->number > 0)
+        // The parent of a row is its plot. The unit is intentionally determined by the item above
+        // the plot, which has the record of its first plot, and not by the plot's own record.
+        writer.writeCase(
+            item->number, text, [item] { return item->text(0); },
+            [parent] {
+                return parent->parent() ? &outputItem(parent->parent())->record : nullptr;
+            });
 }
 
 /// Replaces `lines` with the script lines of the checked plots and rows below the root, with German
 /// or English keywords, and returns their number. The result is empty if the first item of the tree
-/// is not an output item.
+/// is not an output item. If `starts` is not null, it receives the index of the first line of each
+/// item that visitWriters() visits.
 template <typename Node>
 int collectScriptLines(Node* root, std::vector<QString>& lines, Keywords keywords, int progname,
-                       ScriptLineWriter::KindOfSystem kindOfSystem)
+                       ScriptLineWriter::KindOfSystem kindOfSystem,
+                       std::vector<int>* starts = nullptr)
 {
     lines.clear();
+    if (starts)
+        starts->clear();
     if (root->childCount() == 0 || !outputItem(root->child(0)))
         return 0;
     ScriptLineWriter writer(lines, keywords, progname, std::move(kindOfSystem));
     for (int i = 0; i < root->childCount(); ++i)
-        writeChildren(root->child(i), writer);
+        visitWriters(root->child(i), [&](auto* item, Node* parent) {
+            if (starts)
+                starts->push_back(int(lines.size()));
+            writeItem(item, parent, writer);
+            return true;
+        });
     return int(lines.size());
 }
 

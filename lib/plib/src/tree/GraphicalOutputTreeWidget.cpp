@@ -2,7 +2,7 @@
 
 #include "catalogue/Catalogue.h"
 #include "catalogue/ZobModelQueries.h"
-#include "script/scriptLines.h"
+#include "tree/HostScript.h"
 #include "tree/CaptionTranslator.h"
 #include "tree/GraphicalOutputTreeWidgetItem.h"
 #include "tree/itemRoles.h"
@@ -112,6 +112,7 @@ GraphicalOutputTreeWidget::GraphicalOutputTreeWidget(QWidget* parent, int kind,
     setUniformRowHeights(true);
     setColumnFitsTexts();
     setAccessibleName(tr("Plots and loadcases"));
+    new plib::HostScript(this);
     const auto showError = [this](const QString& title, const QString& text) {
         VKD_QT_MessageBox::critical(this, title, text);
     };
@@ -151,8 +152,11 @@ void GraphicalOutputTreeWidget::setUsedNumbersAndNames(const Rows& newRows)
 int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, bool english) const
 {
     const plib::ZobModelQueries model(parameter);
-    return plib::collectScriptLines(invisibleRootItem(), lines, plib::keywordsIf(english), progname,
-                                    [&model] { return model.kindOfSystem(); });
+    plib::LineOrigins& origins = findChild<plib::HostScript*>()->origins();
+    origins.count = plib::collectScriptLines(
+        invisibleRootItem(), lines, plib::keywordsIf(english), progname,
+        [&model] { return model.kindOfSystem(); }, &origins.starts);
+    return origins.count;
 }
 
 QString GraphicalOutputTreeWidget::selectionText() const
