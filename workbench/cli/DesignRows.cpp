@@ -3,6 +3,7 @@
 #include "cli/CommandLine.h"
 #include "project/dialogPages.h"
 
+#include <exchange/groupsText.h>
 #include <exchange/patchRows.h>
 #include <exchange/rowColumns.h>
 #include <record/designEntries.h>
@@ -11,10 +12,7 @@
 #include <record/designRows.h>
 #include <record/designStore.h>
 #include <record/rowText.h>
-#include <vkd_dbo_model.h>
-#include <vkd_dbo_packedNames.h>
 #include <vkd_dbo_queries.h>
-#include <vkd_h_groupInput.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_zob.h>
 
@@ -61,37 +59,19 @@ void setField(tagZOB_QUAD_RIM& record, const QString& assignment)
         setReal(record.*field->real, name, value);
 }
 
-/// The groups that a text may list.
-struct KnownGroups
-{
-    explicit KnownGroups(const std::set<int>& groups)
-        : numbers(groups.begin(), groups.lower_bound(vkd::dbo::FirstPackedName))
-        , names({groups.lower_bound(vkd::dbo::FirstPackedName), groups.end()})
-    {
-    }
-
-    std::vector<int> numbers;
-    vkd::h::GroupNames names;
-};
-
 /// Returns the groups listed in the text, all of which must be known.
-std::vector<int> parseGroups(const QString& text, const KnownGroups& known)
+std::vector<int> parseGroups(const QString& text, const plib::KnownGroups& known)
 {
-    if (plib::isNoGroupsText(text) && !known.names.contains(vkd::dbo::packedName(text)))
-        return {};
-    if (text == QLatin1String("remaining") || plib::isRemainingGroupsText(text))
-        return {-1};
-    const vkd::h::GroupInput input = vkd::h::readNumbersAndNames(text, known.numbers, known.names);
-    if (!input.missing.isEmpty() || input.groups.empty())
-        throw CommandError{QStringLiteral("there is no group \"%1\"").arg(input.missing.value(0))};
-    return input.groups;
+    const plib::GroupsReading read = plib::readGroupsText(text, known);
+    if (!read.isAccepted)
+        throw CommandError{QStringLiteral("there is no group \"%1\"").arg(read.missing.value(0))};
+    return read.groups;
 }
 
 } // namespace
 
 DesignRows::DesignRows(VKD_H_ZOBDoc* document)
-    : m_document(document)
-    , m_page(document->handle(), DesignDialogPage)
+    : m_page(document->handle(), DesignDialogPage)
 {
     const int index = document->index();
     m_bars.load(index);
@@ -127,28 +107,6 @@ QString DesignRows::text() const
     return all;
 }
 
-const std::set<int>& DesignRows::modelGroups() const
-{
-    if (!m_modelGroups.empty())
-        return m_modelGroups;
-    const vkd::dbo::Model model = vkd::dbo::readModel(m_document->handle());
-    for (const auto& group : model.groups)
-        m_modelGroups.insert(group.number);
-    for (const auto& group : model.secondaryGroups)
-        m_modelGroups.insert(vkd::dbo::packedName(group.name));
-    return m_modelGroups;
-}
-
-/// Returns the groups of the model, and the groups that occur only in rows.
-std::set<int> DesignRows::knownGroups() const
-{
-    std::set<int> known = modelGroups();
-    for (const plib::DesignParameterRow& row : m_data.rows)
-        if (!plib::isRemainingGroups(row.groups))
-            known.insert(row.groups.begin(), row.groups.end());
-    return known;
-}
-
 /// Returns the row with exactly these groups, or null.
 plib::DesignParameterRow* DesignRows::findRow(const std::vector<int>& groups)
 {
@@ -181,7 +139,7 @@ plib::DesignParameterRow& DesignRows::rowOf(const std::vector<int>& groups)
 
 void DesignRows::setRow(const QString& groups, const QStringList& fields)
 {
-    setRow(parseGroups(groups, KnownGroups(knownGroups())), fields);
+    setRow(parseGroups(groups, plib::KnownGroups(m_data)), fields);
 }
 
 void DesignRows::setRow(const std::vector<int>& groups, const QStringList& fields)
@@ -195,7 +153,7 @@ void DesignRows::setRow(const std::vector<int>& groups, const QStringList& field
 std::vector<std::vector<int>> DesignRows::groupsOf(const plib::RowTable& table,
                                                    QStringList* faults) const
 {
-    const KnownGroups known(knownGroups());
+    const plib::KnownGroups known(m_data);
     std::vector<std::vector<int>> groupsOfRows;
     std::set<int> named;
     for (const plib::RowPatch& row : table.rows) {

@@ -47,19 +47,15 @@ public:
     void write();
 
 private:
-    const std::set<int>& modelGroups() const;
-    std::set<int> knownGroups() const;
     std::vector<std::vector<int>> groupsOf(const plib::RowTable& table, QStringList* faults) const;
     plib::DesignParameterRow* findRow(const std::vector<int>& groups);
     plib::DesignParameterRow& rowWithoutGroups(int number);
     plib::DesignParameterRow& rowOf(const std::vector<int>& groups);
 
-    VKD_H_ZOBDoc* m_document;
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    std::set<int> m_namedGroups;         // groups in any row; they are moved, not removed
-    mutable std::set<int> m_modelGroups; // read from the model on first use
+    std::set<int> m_namedGroups; // groups in any row; they are moved, not removed
     bool m_converted = false;
 };
 

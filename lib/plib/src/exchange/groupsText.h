@@ -1,0 +1,40 @@
+#pragma once
+
+#include "record/DesignParameterData.h"
+
+#include <vkd_h_groupInput.h>
+
+#include <set>
+
+namespace plib {
+
+/// The groups that users may list for a row.
+struct KnownGroups
+{
+    /// The groups may include packed names.
+    explicit KnownGroups(const std::set<int>& groups);
+    /// Uses the groups of the model and the groups that occur only in rows.
+    explicit KnownGroups(const DesignParameterData& data);
+
+    std::vector<int> numbers;
+    vkd::h::GroupNames names;
+};
+
+/// The groups that a text lists.
+struct GroupsReading
+{
+    bool isAccepted = false;
+    std::vector<int> groups; ///< as in a row
+    QStringList missing;     ///< parts of a text that is not accepted
+};
+
+/// Reads numbers, ranges and names of secondary groups, for example "1-4, 7". A text in which a
+/// part matches no known group is not accepted. "None" and "Remaining Groups" are read in both
+/// languages; "remaining" is also accepted.
+GroupsReading readGroupsText(const QString& text, const KnownGroups& known);
+
+/// Returns the groups of a row as text that readGroupsText() accepts, with ranges. The text of a
+/// row without groups is empty.
+QString editableGroupsText(const DesignParameterRow& row);
+
+} // namespace plib
