@@ -58,7 +58,7 @@ private Q_SLOTS:
         row("printed combinations", in("TextOutput", "TextCombinations"),
             "Combinations in the Text Output");
         row("box of the window", box(), "Design Parameters");
-        row("design", cell(Groups, nullptr), "Design Parameters");
+        row("cell of the groups", cell(Groups, nullptr), "Selection of Groups");
         row("groups", cell(Groups, "buttonGroups"), "Choosing Groups");
         row("secondary groups", cell(Groups, "buttonSekGroups"), "Choosing Groups");
         row("directions", cell(Directions, nullptr), "Directions and Distances");

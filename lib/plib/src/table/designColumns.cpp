@@ -1,5 +1,6 @@
 #include "table/designColumns.h"
 
+#include "dialogs/dialogFrame.h"
 #include "record/rowText.h"
 #include "table/ColumnRoom.h"
 #include "table/DesignParameterTable.h"
@@ -24,16 +25,19 @@ struct Column
 {
     Table::Column id;
     const char* header;
-    int width; ///< pixels
+    int width;         ///< pixels
+    const char* topic; ///< of the help book
 };
 
 constexpr Column Columns[] = {
-    {Table::Selection, QT_TRANSLATE_NOOP("DesignParameter", "Selection"), 150},
-    {Table::Type, QT_TRANSLATE_NOOP("DesignParameter", "Type"), 150},
+    {Table::Selection, QT_TRANSLATE_NOOP("DesignParameter", "Selection"), 150, "SELECTION"},
+    {Table::Type, QT_TRANSLATE_NOOP("DesignParameter", "Type"), 150, "TYPES"},
     {Table::DirectionAndDistance, QT_TRANSLATE_NOOP("DesignParameter", "Direction and Distance"),
-     200},
-    {Table::Reinforcement, QT_TRANSLATE_NOOP("DesignParameter", "Reinforcement"), 120},
-    {Table::CrackControl, QT_TRANSLATE_NOOP("DesignParameter", "Crack Control"), 120},
+     200, "DIRECTIONS"},
+    {Table::Reinforcement, QT_TRANSLATE_NOOP("DesignParameter", "Reinforcement"), 120,
+     "REINFORCEMENT"},
+    {Table::CrackControl, QT_TRANSLATE_NOOP("DesignParameter", "Crack Control"), 120,
+     "CRACKCONTROL"},
 };
 
 VKD_H_TwHeaderItem* newHeader(const Column& column)
@@ -58,6 +62,11 @@ void buildDesignColumns(DesignParameterTable* table)
     for (int column = Table::DirectionAndDistance; column < Table::ColumnCount; ++column)
         table->setItemDelegateForColumn(column, new SummaryDelegate(table));
     new ColumnRoom(table);
+    QObject::connect(table->selectionModel(), &QItemSelectionModel::currentChanged, table,
+                     [table](const QModelIndex& cell) {
+                         setHelpTopic(table,
+                                      cell.isValid() ? Columns[cell.column()].topic : "PARA");
+                     });
 }
 
 } // namespace plib
