@@ -6,8 +6,10 @@
 #include <VKD_H_ProjectDialogPage.h>
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -54,8 +56,7 @@ private Q_SLOTS:
             QTest::keyClick(types->view(), Qt::Key_Down);
             QTest::keyClick(types->view(), Qt::Key_Enter);
             desk.keys({Qt::Key_Left, Qt::Key_F2});
-            QVERIFY(desk.groupCombo()->hasFocus());
-            QTest::keyClick(desk.groupCombo(), Qt::Key_Tab);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             confirmGroups(QStringLiteral("2-3"));
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
             QCOMPARE(entriesOf(desk.groupCombo()), QStringLiteral("None|*2;3"));
@@ -261,6 +262,46 @@ private Q_SLOTS:
         QCOMPARE(desk.groups(), QStringLiteral("4||None"));
     }
 
+    void typedGroups_data()
+    {
+        const Columns<QString, QString, QString> row("typed", "groups", "notice");
+        row("range", "2-1, 3", "1;2;3", "Groups also in row 3: 2.");
+        row("name", "open 3", "3;OPEN", "");
+        row("no groups", "none", "None", "Row 2 has lost 1 (see Undo).");
+        row("unknown groups", "3 x 99", "1", "Unknown groups: x, 99. Row 2 keeps its groups.");
+        row("second row for the rest", "Remaining Groups", "1",
+            "Another row is for the remaining groups. Row 2 keeps its groups.");
+    }
+
+    /// Text that is not accepted stays in the line until the user leaves it.
+    void typedGroups()
+    {
+        QFETCH(const QString, typed);
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 1, 1), record(2, 1, 2)});
+        QTableWidget* table = desk.table();
+        table->setCurrentCell(0, 0);
+        desk.keys({Qt::Key_3}); // the first row is fixed
+        table->setCurrentCell(1, 0);
+        desk.keys({Qt::Key_Escape, Qt::Key_3});
+        QCOMPARE(find<QLineEdit>(desk, "groupsLine")->text(), QStringLiteral("3"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        desk.keys({Qt::Key_F2});
+        QTest::keyClicks(QApplication::focusWidget(), typed); // replaces the groups
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        const bool isAccepted = table->currentRow() == 2;
+        QCOMPARE(find<QAction>(*desk.page, "undo")->isEnabled(), isAccepted);
+        table->setFocus();
+        QTEST(find<QWidget>(desk, "rowsNotice")->findChildren<QLabel*>().last()->accessibleName(),
+              "notice");
+        table->setCurrentCell(0, 1);
+        QTEST(table->item(1, 0)->text(), "groups");
+        desk.press("btnNew");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_3);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
+        QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
+        QVERIFY(table->hasFocus());
+    }
+
     void dialogsKnowTheGroupsOfOtherRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(3, 1, 1), record(1, 1, 2)});
@@ -430,6 +471,8 @@ private Q_SLOTS:
                 *m_project, std::vector{record(-1, 1, 0), record(1, 4, 1)});
             desk->press("btnNew");
             desk->table()->setCurrentCell(1, column);
+            if (column == 0)
+                desk->keys({Qt::Key_3}); // the line is applied when the button gets the focus
             whenModal([&desk](QWidget*) { desk.reset(); });
             if (column == 1) // no dialog for this column; checkVals() shows a question
                 QVERIFY(!desk->page->checkVals());

@@ -85,6 +85,10 @@ Daten können verloren gehen!</translation>
         <source>Group %1: also in row %2</source>
         <translation>Gruppe %1: auch in Zeile %2</translation>
     </message>
+    <message>
+        <source>The row shows values once it has a type. Its groups can be typed, for example 1-4, 7.</source>
+        <translation>Die Zeile zeigt Werte, sobald sie eine Art hat. Ihre Gruppen lassen sich eintippen, etwa 1-4, 7.</translation>
+    </message>
 </context>
 <context>
     <name>DesignParameterTable</name>
@@ -958,6 +962,43 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     <message>
         <source>Row %1 has lost %2 (see Undo).</source>
         <translation>Zeile %1 hat %2 verloren (siehe Rückgängig).</translation>
+    </message>
+</context>
+<context>
+    <name>plib::GroupsEntry</name>
+    <message>
+        <source>Unknown groups: %1.</source>
+        <translation>Unbekannte Gruppen: %1.</translation>
+    </message>
+    <message>
+        <source>Another row is for the remaining groups.</source>
+        <translation>Die übrigen Gruppen gehören zu einer anderen Zeile.</translation>
+    </message>
+    <message>
+        <source>The groups of the first row cannot be changed.</source>
+        <translation>Die Gruppen der ersten Zeile sind unveränderlich.</translation>
+    </message>
+    <message>
+        <source>%1 Row %2 keeps its groups.</source>
+        <translation>%1 Zeile %2 behält ihre Gruppen.</translation>
+    </message>
+</context>
+<context>
+    <name>plib::GroupsLine</name>
+    <message>
+        <source>Groups of the row</source>
+        <translation>Gruppen der Zeile</translation>
+    </message>
+    <message>
+        <source>e.g. 1-4, 7</source>
+        <translation>z. B. 1-4, 7</translation>
+    </message>
+</context>
+<context>
+    <name>plib::RowToolTip</name>
+    <message>
+        <source>A row without design shows its values once it has another type.</source>
+        <translation>Eine Zeile ohne Bemessung zeigt ihre Werte erst mit einer anderen Art.</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "design/DesignParameter.h"
 
+#include "design/GroupsEntry.h"
 #include "design/HostRows.h"
 #include "design/RowActions.h"
 #include "design/RowParameters.h"
@@ -94,6 +95,7 @@ void DesignParameter::init()
     new plib::RowParameters(this);
     new plib::RowToolTip(this);
     new plib::TypeEditor(this);
+    new plib::GroupsEntry(this);
     setFocusProxy(data->table);
     editRow = -1;
     editColumn = -1;
@@ -272,14 +274,19 @@ void DesignParameter::setType(const std::set<int>& rows, int type)
 
 void DesignParameter::slot_newRowClicked()
 {
-    const RecordedStep step(this, RowsStep::New, {data->table->rowCount()});
-    addTableRow();
-    const int row = data->table->rowCount() - 1;
-    drawRow(plib::addDefaultRow(*data), row, true);
-    data->table->fitRow(row);
-    data->table->bringIntoView(row);
-    data->table->setCurrentCell(row, Table::Type, QItemSelectionModel::ClearAndSelect);
-    Q_EMIT signal_rowCountChanged(data->table->rowCount());
+    {
+        const RecordedStep step(this, RowsStep::New, {data->table->rowCount()});
+        addTableRow();
+        const int row = data->table->rowCount() - 1;
+        drawRow(plib::addDefaultRow(*data), row, true);
+        data->table->fitRow(row);
+        data->table->bringIntoView(row);
+        data->table->setCurrentCell(row, Table::Type, QItemSelectionModel::ClearAndSelect);
+        Q_EMIT signal_rowCountChanged(data->table->rowCount());
+    }
+    data->table->setFocus();
+    showNotice(tr("The row shows values once it has a type. Its groups can be typed, for example "
+                  "1-4, 7."));
 }
 
 /// If row 0 is selected, nothing is deleted, not even the other selected rows.

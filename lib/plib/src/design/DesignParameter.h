@@ -50,6 +50,8 @@ public:
     void refresh(const std::set<int>& rows);
     /// Sets the type of rows in one step.
     void setType(const std::set<int>& rows, int type);
+    /// Sets the groups of a row in one step, and reports groups that are also in other rows.
+    void takeGroups(int row, const std::vector<int>& groups);
     /// Open the dialogs of the current row or of the selected rows.
     void editDirections() { slot_editButtonClicked(); }
     void editReinforcement() { slot_calcReinforcementButtonClicked(); }
@@ -106,7 +108,6 @@ private:
     void openButton(int row, int column, QTableWidgetItem* item);
     template <class Dialog, typename... Arguments>
     void editRecord(plib::RowsStep name, Arguments... arguments);
-    void takeGroups(int row, const std::vector<int>& groups);
     void showSharedGroups();
     void showSharedGroupsInEditor(int row);
 

@@ -2,6 +2,7 @@
 
 #include "design/DesignParameter.h"
 
+#include "design/GroupsEntry.h"
 #include "design/RowEditing.h"
 #include "dialogs/dlgCrackControl.h"
 #include "dialogs/dlgDistanceDirection.h"
@@ -97,8 +98,11 @@ void DesignParameter::followCurrentCell()
         slot_editCellWidget();
 }
 
+/// Text that is being typed in the editor is applied first.
 void DesignParameter::closeCellWidget()
 {
+    if (hasFocusInEditor())
+        data->table->setFocus();
     const int id = editColumn < 0 ? -1 : data->table->getColumnId(editColumn);
     if (id >= Table::DirectionAndDistance)
         return clearCellWidget(editRow, editColumn);
@@ -121,8 +125,6 @@ void DesignParameter::clearCellWidget(int row, int column)
     QWidget* widget = data->table->cellWidget(row, column);
     if (!widget)
         return;
-    if (hasFocusInEditor())
-        data->table->setFocus();
     widget->hide(); // deleted later, possibly after a dialog has been closed
     data->table->setCellWidget(row, column, nullptr);
 }
@@ -132,6 +134,7 @@ void DesignParameter::openSelection(int row, int column, DesignParameterRow& sho
     auto selection = new dlgSelection(data->doc->index(), data->table);
     selection->fillCombo(shown, plib::hasRemainingRow(*data));
     layOver(row, column, selection);
+    findChild<plib::GroupsEntry*>()->listenTo(selection);
     connect(selection, &dlgSelection::signal_groupButtonClicked, this,
             &DesignParameter::slot_openGroups);
     connect(selection, &dlgSelection::signal_selectionComboChanged, this,

@@ -145,7 +145,7 @@ void RowsClipboard::duplicate()
     append(RowsStep::Duplicate, m_page->state().table->getSelectetRows(), added);
 }
 
-/// Appends rows and selects them. The current cell is the cell in which their groups are assigned.
+/// Appends rows and selects them. The current cell is in the same column as after New.
 void RowsClipboard::append(RowsStep name, const std::set<int>& rows, const DesignRowList& added)
 {
     if (added.empty())
@@ -153,7 +153,8 @@ void RowsClipboard::append(RowsStep name, const std::set<int>& rows, const Desig
     const RecordedStep step(m_page, name, rows);
     const int first = int(m_page->state().rows.size());
     const int last = first + int(added.size()) - 1;
-    m_page->replaceRows(first, 0, added, TableSelection::ofColumn(0, first, last));
+    const int column = m_page->state().table->getColumnNumber(DesignParameterTable::Type);
+    m_page->replaceRows(first, 0, added, TableSelection::ofColumn(column, first, last));
     m_page->state().table->bringIntoView(first);
 }
 

@@ -1,6 +1,7 @@
 #include "table/RowToolTip.h"
 
 #include "design/DesignParameter.h"
+#include "record/designRecord.h"
 #include "table/DesignParameterTable.h"
 
 #include <vkd_dbo_groups.h>
@@ -45,9 +46,13 @@ void RowToolTip::show(const QHelpEvent& event)
     if (!m_titles)
         m_titles = vkd::dbo::readGroupTitles(m_page->state().doc->handle());
     const DesignParameterRow& row = m_page->state().rows[std::size_t(item->row())];
-    const QString note = table->item(item->row(), DesignParameterTable::Selection)->toolTip();
-    QToolTip::showText(event.globalPos(), descriptionHtml(describeRow(row, *m_titles), note), table,
-                       table->visualItemRect(item).translated(table->viewport()->pos()));
+    QStringList notes{table->item(item->row(), DesignParameterTable::Selection)->toolTip()};
+    if (row.record.type == NoDesign)
+        notes << tr("A row without design shows its values once it has another type.");
+    notes.removeAll(QString());
+    QToolTip::showText(event.globalPos(),
+                       descriptionHtml(describeRow(row, *m_titles), notes.join(QLatin1Char('\n'))),
+                       table, table->visualItemRect(item).translated(table->viewport()->pos()));
 }
 
 } // namespace plib

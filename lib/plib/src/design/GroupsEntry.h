@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class DesignParameter;
+class QKeyEvent;
+class dlgSelection;
+
+namespace plib {
+
+class GroupsLine;
+
+/// Lets the user type the groups of the current row: a digit or F2 in its first cell opens a line
+/// over the combo box of the group editor. Groups that do not exist are refused. The object is a
+/// child of the design page.
+class GroupsEntry : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit GroupsEntry(DesignParameter* page);
+
+    /// Also opens the line for keys in this editor.
+    void listenTo(const dlgSelection* editor);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool isForGroups(const QKeyEvent& key) const;
+    dlgSelection* openEditor();
+    void open(const QString& typed);
+    void enter(int direction);
+    void leave();
+    void close();
+    QString apply();
+
+    DesignParameter* m_page;
+    QPointer<GroupsLine> m_line;
+    int m_row = -1;   ///< of the line
+    QString m_before; ///< the groups of the row when the line was opened
+};
+
+} // namespace plib

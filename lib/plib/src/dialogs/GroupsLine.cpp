@@ -1,0 +1,54 @@
+#include "dialogs/GroupsLine.h"
+
+#include <QKeyEvent>
+#include <QToolTip>
+
+namespace plib {
+
+GroupsLine::GroupsLine(QWidget* covered)
+    : QLineEdit(covered->parentWidget())
+{
+    setObjectName(QStringLiteral("groupsLine"));
+    setAccessibleName(tr("Groups of the row"));
+    setPlaceholderText(tr("e.g. 1-4, 7"));
+    setGeometry(covered->geometry());
+    covered->installEventFilter(this);
+    setTabOrder(covered, this);
+}
+
+void GroupsLine::refuse(const QString& reason)
+{
+    setAccessibleDescription(reason);
+    selectAll();
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), reason, this);
+}
+
+bool GroupsLine::eventFilter(QObject* covered, QEvent* event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
+        setGeometry(static_cast<QWidget*>(covered)->geometry());
+    return QLineEdit::eventFilter(covered, event);
+}
+
+/// These keys must not reach the table or the dialog around it.
+void GroupsLine::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: Q_EMIT entered(0); break;
+    case Qt::Key_Up: Q_EMIT entered(-1); break;
+    case Qt::Key_Down: Q_EMIT entered(1); break;
+    case Qt::Key_Escape: Q_EMIT cancelled(); break;
+    default: QLineEdit::keyPressEvent(event);
+    }
+}
+
+/// A context menu or another window takes the focus only for a while.
+void GroupsLine::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        Q_EMIT left();
+}
+
+} // namespace plib
