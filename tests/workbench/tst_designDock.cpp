@@ -1,6 +1,6 @@
 #include "ProjectTest.h"
+#include "window/choice/RowFilter.h"
 #include "window/design/sharedGroupsQuestion.h"
-#include "window/main/groupFilter.h"
 
 #include <AnimatorView.h>
 
@@ -128,12 +128,13 @@ private Q_SLOTS:
         QVERIFY(window->close());
     }
 
-    void groupFilter_data()
+    void rowFilter_data()
     {
         const Columns<QString, bool> row("filter", "isMatch"); // of group 12, "Roof slab 7"
         row("number", "12", true);
         row("another number", "1", false);
         row("range", "3-12", true);
+        row("reverse range with a dash and spaces", "20 \u2013 12", true);
         row("one of several", "4; 10-12", true);
         row("none of several", "4, 13-20", false);
         row("word", "SLAB", true);
@@ -144,10 +145,13 @@ private Q_SLOTS:
         row("empty", " ", true);
     }
 
-    void groupFilter()
+    void rowFilter()
     {
         QFETCH(const QString, filter);
-        QTEST(workbench::matchesGroupFilter(filter, 12, QStringLiteral("Roof slab 7")), "isMatch");
+        const QString title = QStringLiteral("Roof slab 7");
+        using workbench::RowFilter;
+        QTEST(RowFilter(filter, RowFilter::Numbers::AlsoInTitles).matches(12, title), "isMatch");
+        QVERIFY(!RowFilter(QStringLiteral("7")).matches(12, title));
     }
 
     /// The menu of groups hides and isolates them in the view, and the list follows the filter.

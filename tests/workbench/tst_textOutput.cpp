@@ -9,6 +9,8 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -272,13 +274,58 @@ private Q_SLOTS:
         QCOMPARE(results(again.dialog).endsWith(QLatin1String("101, 103")), isStored);
     }
 
+    void choosingLoadCases_data()
+    {
+        // load cases 1 to 7, of which 3 and 5 are checked
+        const Columns<QString, QString, QString> row("filter", "button", "checked");
+        row("all", "", "ChooseAll", "1 2 3 4 5 6 7");
+        row("none", "", "ChooseNone", "");
+        row("invert", "", "ChooseOthers", "1 2 4 6 7");
+        row("exactly a range", "1-2, 7", "ChooseOnly", "1 2 7");
+        row("all in the filter", "6-20", "ChooseAll", "3 5 6 7");
+        row("none in the filter", "live", "ChooseNone", "5");
+        row("invert in the filter", "4-5", "ChooseOthers", "3 4");
+        row("no row in the filter", "8", "ChooseAll", "3 5");
+        row("kind", "", "Wind", "6 7");
+        row("kind, despite the filter", "1", "Live loads", "3 4");
+    }
+
+    /// Each button makes one change.
+    void choosingLoadCases()
+    {
+        const Desk desk(building());
+        choose(desk.dialog, LoadCaseBox, QStringLiteral("Manually"));
+        const auto table = find<PickTable>(desk.dialog, "TextLoadCases");
+        table->setLeftOut({1, 2, 4, 6, 7});
+        const auto bar = find<QWidget>(desk.dialog, "TextLoadCaseChoice");
+        QVERIFY(bar->isEnabled());
+        QSignalSpy changes(table, &PickTable::changed);
+        QFETCH(const QString, filter);
+        QFETCH(const QString, button);
+        bar->findChild<QLineEdit*>()->setText(filter);
+        const auto kinds = bar->findChild<QMenu*>();
+        Q_EMIT kinds->aboutToShow();
+        for (QAction* kind : kinds->actions())
+            if (kind->text() == button)
+                kind->trigger();
+        if (button.startsWith(QLatin1String("Choose")))
+            find<QAbstractButton>(*bar, qPrintable(button))->click();
+        QStringList checked;
+        for (int number : table->picked())
+            checked << QString::number(number);
+        QTEST(checked.join(QLatin1Char(' ')), "checked");
+        QCOMPARE(changes.size(), filter == QLatin1String("8") ? 0 : 1);
+        choose(desk.dialog, LoadCaseBox, QStringLiteral("All"));
+        QVERIFY(!bar->isEnabled());
+    }
+
     void languages()
     {
         const auto window = open("languages.zob");
         trigger(*window, "TextOutput");
         auto dialog = window->findChild<TextOutputDialog*>();
         choose(*dialog, LoadCaseBox, QStringLiteral("Manually"));
-        find<PickTable>(*dialog, "TextLoadCases")->setLeftOut({3});
+        find<PickTable>(*dialog, "TextLoadCases")->chooseAllBut({3});
         const QString english = results(*dialog);
         trigger(*window, "German");
         dialog = window->findChild<TextOutputDialog*>();

@@ -204,10 +204,20 @@ private Q_SLOTS:
         QTRY_VERIFY2(treeText(plots).contains(QRegularExpression(pattern)),
                      qPrintable(treeText(plots)));
         QVERIFY(areBranchesKept());
+        const QString offered = treeText(plots);
         offer(false);
         QCOMPARE(filled.size(), 2);
         QTRY_COMPARE(treeText(plots), before); // once the captions are in English
         QVERIFY(areBranchesKept());
+        for (const QString& text : {offered, before}) {
+            find<QAction>(*dialog, "undo")->trigger();
+            QCOMPARE(treeText(plots), text);
+        }
+        QVERIFY(loadCase->checkState() == Qt::Checked &&
+                find<QAbstractButton>(*dialog, "ContentGroup_0")->isChecked());
+        QCOMPARE(find<QAction>(*dialog, "redo")->text(),
+                 isContent ? QStringLiteral("&Redo Contents")
+                           : QStringLiteral("&Redo Leave Out Load Case 1"));
     }
 
     /// A camera rotated by the user is restored even if another view was selected and saved.

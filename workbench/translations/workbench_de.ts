@@ -319,6 +319,131 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
+    <name>LoadCaseKinds</name>
+    <message>
+        <source>Permanent loads</source>
+        <translation>Ständige Lasten</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>Schnee</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <translation>Wind</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Cranes</source>
+        <translation>Kranlasten</translation>
+    </message>
+    <message>
+        <source>Live loads</source>
+        <translation>Nutzlasten</translation>
+    </message>
+    <message>
+        <source>Other loads</source>
+        <translation>Sonstige Lasten</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ChoiceBar</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Checks all rows that are shown</source>
+        <translation>Kreuzt alle angezeigten Zeilen an</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Unchecks all rows that are shown</source>
+        <translation>Entfernt das Häkchen aller angezeigten Zeilen</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Umkehren</translation>
+    </message>
+    <message>
+        <source>Checks the unchecked rows that are shown, and unchecks the others</source>
+        <translation>Kreuzt die angezeigten Zeilen ohne Häkchen an und entfernt das Häkchen der anderen</translation>
+    </message>
+    <message>
+        <source>Only These</source>
+        <translation>Nur diese</translation>
+    </message>
+    <message>
+        <source>Checks the rows that are shown, and unchecks all others (Return)</source>
+        <translation>Kreuzt die angezeigten Zeilen an und entfernt das Häkchen aller anderen (Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Checks only the rows of one kind</source>
+        <translation>Kreuzt nur die Zeilen einer Art an</translation>
+    </message>
+    <message>
+        <source>1-20, 101 or words</source>
+        <translation>1-20, 101 oder Wörter</translation>
+    </message>
+    <message>
+        <source>Filter for numbers and titles</source>
+        <translation>Filter für Nummern und Bezeichnungen</translation>
+    </message>
+    <message>
+        <source>Shows the rows with these numbers, in these ranges or with these words in the title. Return checks exactly these rows.</source>
+        <translation>Zeigt die Zeilen mit diesen Nummern, in diesen Bereichen oder mit diesen Wörtern in der Bezeichnung. Die Eingabetaste kreuzt genau diese Zeilen an.</translation>
+    </message>
+    <message>
+        <source>Shown: %1 of %2</source>
+        <translation>Angezeigt: %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::OutputOffers</name>
+    <message>
+        <source>The plots offer the load cases that are checked here. The plots that you have chosen stay chosen.</source>
+        <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die ausgewählten Grafiken bleiben ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Plots that suit the model</source>
+        <translation>Zum Modell passende Grafiken</translation>
+    </message>
+    <message>
+        <source>Also plots of bricks</source>
+        <translation>Auch Grafiken von Volumenelementen</translation>
+    </message>
+    <message>
+        <source>Plots on offer</source>
+        <translation>Angebotene Grafiken</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Offered Load Cases</source>
+        <translation>Angebotene Lastfälle</translation>
+    </message>
+    <message>
+        <source>Offer Load Case %1</source>
+        <translation>Lastfall %1 anbieten</translation>
+    </message>
+    <message>
+        <source>Leave Out Load Case %1</source>
+        <translation>Lastfall %1 weglassen</translation>
+    </message>
+</context>
+<context>
     <name>workbench::OutputDialog</name>
     <message>
         <source>Graphical Output</source>
@@ -335,22 +460,6 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     <message>
         <source>Contents</source>
         <translation>Inhalt</translation>
-    </message>
-    <message>
-        <source>The plots offer the load cases that are checked here. The plots that you have chosen stay chosen.</source>
-        <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die ausgewählten Grafiken bleiben ausgewählt.</translation>
-    </message>
-    <message>
-        <source>Plots that suit the model</source>
-        <translation>Zum Modell passende Grafiken</translation>
-    </message>
-    <message>
-        <source>Also plots of bricks</source>
-        <translation>Auch Grafiken von Volumenelementen</translation>
-    </message>
-    <message>
-        <source>Plots on offer</source>
-        <translation>Angebotene Grafiken</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 #include "window/main/GroupList.h"
 
-#include "window/main/groupFilter.h"
+#include "window/choice/RowFilter.h"
 
 #include <AnimatorView.h>
 #include <vkd_dbo_groups.h>
@@ -101,8 +101,9 @@ void GroupList::setHiddenGroups(const QSet<int>& groups)
 void GroupList::setFilter(const QString& filter)
 {
     m_filter = filter;
+    const RowFilter shown(filter, RowFilter::Numbers::AlsoInTitles);
     for (QTreeWidgetItem* item : qAsConst(m_items))
-        item->setHidden(!matchesGroupFilter(filter, groupOf(item), item->text(TitleColumn)));
+        item->setHidden(!shown.matches(groupOf(item), item->text(TitleColumn)));
 }
 
 QVector<int> GroupList::selectedGroups() const
@@ -210,6 +211,7 @@ VkdStatus GroupList::fill()
     m_withoutAreas.clear();
     const auto groups = m_project.isNull() ? QVector<vkd::dbo::GroupSummary>()
                                            : vkd::dbo::readGroups(m_project, &status);
+    const RowFilter shown(m_filter, RowFilter::Numbers::AlsoInTitles);
     for (const vkd::dbo::GroupSummary& group : groups) {
         auto item = new QTreeWidgetItem(this);
         item->setData(NumberColumn, Qt::DisplayRole, group.number);
@@ -219,7 +221,7 @@ VkdStatus GroupList::fill()
         item->setText(RowColumn, m_rows.value(group.number));
         item->setTextAlignment(RowColumn, Qt::AlignRight | Qt::AlignVCenter);
         m_items[group.number] = item;
-        item->setHidden(!matchesGroupFilter(m_filter, group.number, group.title));
+        item->setHidden(!shown.matches(group.number, group.title));
         if (m_rowGroups.contains(group.number) || m_hidden.contains(group.number))
             show(item);
         if (group.number == current)

@@ -1,9 +1,13 @@
 #include "window/output/LoadCaseTable.h"
 
+#include "window/choice/loadCaseKinds.h"
+#include "window/support/rowHeight.h"
+
 #include <vkd_dbo_model.h>
 #include <VKD_H_TwHeaderLineEditItem.h>
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 namespace workbench {
 
@@ -18,6 +22,7 @@ LoadCaseTable::LoadCaseTable(ZobHandle project, QWidget* parent)
     setAccessibleName(tr("Load cases"));
     setContextmenueEnabled_new_del(false);
     addColumns();
+    setRowsOneLineHigh(this);
     const auto loadCases = vkd::dbo::readLoadCases(project);
     for (const vkd::dbo::LoadCase& loadCase : loadCases)
         if (loadCase.kind == PlainLoadCase)
@@ -26,6 +31,7 @@ LoadCaseTable::LoadCaseTable(ZobHandle project, QWidget* parent)
     resizeColumnsToContents();
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(this, &QTableWidget::itemChanged, this, &LoadCaseTable::changed);
 }
 
 void LoadCaseTable::addColumns()
@@ -60,6 +66,16 @@ int LoadCaseTable::numberInRow(int row) const
     return int(dynamic_cast<VKD_H_TwSimpleLineEditItem*>(item(row, NumberColumn))->getVal(nullptr));
 }
 
+QString LoadCaseTable::titleInRow(int row) const
+{
+    return item(row, TitleColumn)->text();
+}
+
+QString LoadCaseTable::kindInRow(int row) const
+{
+    return loadCaseKind(titleInRow(row));
+}
+
 QSet<int> LoadCaseTable::leftOutNumbers() const
 {
     QSet<int> numbers;
@@ -69,8 +85,15 @@ QSet<int> LoadCaseTable::leftOutNumbers() const
     return numbers;
 }
 
+void LoadCaseTable::chooseAllBut(const QSet<int>& numbers)
+{
+    setLeftOutNumbers(numbers);
+    Q_EMIT changed();
+}
+
 void LoadCaseTable::setLeftOutNumbers(const QSet<int>& numbers)
 {
+    const QSignalBlocker quiet(this);
     for (int row = 0; row < rowCount(); ++row)
         checkInRow(row)->setCheckState(numbers.contains(numberInRow(row)) ? Qt::Unchecked
                                                                           : Qt::Checked);

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "window/choice/ChoiceTable.h"
+
 #include <VKD_H_TableWidget.h>
 #include <ZobHandle.h>
-
-#include <QSet>
 
 namespace workbench {
 
 /// The load cases of a project, each with a check box. The output page offers the checked load
 /// cases.
-class LoadCaseTable : public VKD_H_TableWidget
+class LoadCaseTable : public VKD_H_TableWidget, public ChoiceTable
 {
     Q_OBJECT
 
@@ -19,13 +19,22 @@ public:
     /// Lists the load cases of the project.
     LoadCaseTable(ZobHandle project, QWidget* parent);
 
-    QSet<int> leftOutNumbers() const;
+    QTableView* view() override { return this; }
+    int numberInRow(int row) const override;
+    QString titleInRow(int row) const override;
+    QString kindInRow(int row) const override;
+    QSet<int> leftOutNumbers() const override;
+    void chooseAllBut(const QSet<int>& numbers) override;
+    /// Does the same as chooseAllBut(), but does not emit a signal.
     void setLeftOutNumbers(const QSet<int>& numbers);
+
+Q_SIGNALS:
+    /// Emitted once for each change by the user.
+    void changed();
 
 private:
     void addColumns();
     void addLoadCase(int number, const QString& title);
-    int numberInRow(int row) const;
     QTableWidgetItem* checkInRow(int row) const { return item(row, CheckColumn); }
 };
 

@@ -1,7 +1,7 @@
 #include "window/output/OutputDialog.h"
 
 #include "window/output/CameraRollback.h"
-#include "window/output/LoadCaseTable.h"
+#include "window/output/OutputOffers.h"
 #include "window/output/TreeViewMemory.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
@@ -14,10 +14,10 @@
 #include <vkd_qt_xmlpart.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QShowEvent>
 #include <QTabWidget>
@@ -29,7 +29,6 @@
 namespace workbench {
 
 namespace {
-
 constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
@@ -61,13 +60,6 @@ QString withUsersCamera(QString page)
                         part(vkd::dbo::getAnimatorPerspektive(vkd::dbo::DesktopCamera,
                                                               vkd::dbo::PersistentCamera)));
 }
-
-QLabel* newHint(const QString& text)
-{
-    auto hint = new QLabel(text);
-    hint->setWordWrap(true);
-    return hint;
-}
 } // namespace
 
 OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWidget* parent)
@@ -77,7 +69,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     , m_view(new AnimatorView(document->handle(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
     , m_plots(m_page->findChild<QTreeWidget*>())
-    , m_choice(m_page, m_view)
+    , m_offers(new OutputOffers(document->handle(), m_page, m_view, this))
 {
     setWindowTitle(tr("Graphical Output"));
     setHelpTopic(this, "GRAV/OUTPUT");
@@ -116,99 +108,35 @@ void OutputDialog::addTabs()
     auto plots = new QWidget(this);
     (new QVBoxLayout(plots))->addWidget(m_page); // the page has no margins of its own
     addTab(plots, tr("Plots"));
-    addTab(newLoadCaseTab(), tr("Load cases"));
-    addTab(newContentTab(), tr("Contents"));
-}
-
-QWidget* OutputDialog::newLoadCaseTab()
-{
-    auto tab = new QWidget(this);
-    setHelpTopic(tab, "GRAV/LOADCASES");
-    m_loadCases = new LoadCaseTable(m_document->handle(), tab);
-    auto layout = new QVBoxLayout(tab);
-    layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. The plots "
-                                 "that you have chosen stay chosen.")));
-    layout->addWidget(m_loadCases);
-    return tab;
-}
-
-QWidget* OutputDialog::newContentTab()
-{
-    StructRadioButtonGrup model;
-    model.text = tr("Plots that suit the model");
-    StructRadioButtonGrup solids;
-    solids.text = tr("Also plots of bricks");
-    auto tab = new QWidget(this);
-    setHelpTopic(tab, "GRAV/CONTENTS");
-    m_contents =
-        new VKD_QT_RadioButtonGroup(tr("Plots on offer"), {model, solids}, tab, "ContentGroup");
-    m_contents->setButton(0);
-    auto layout = new QVBoxLayout(tab);
-    layout->addWidget(m_contents);
-    layout->addStretch(1);
-    return tab;
+    addTab(m_offers->loadCaseTab(), tr("Load cases"));
+    addTab(m_offers->contentTab(), tr("Contents"));
+    for (const char* name : {"undo", "redo"}) // for the other tabs
+        addAction(m_page->findChild<QAction*>(QLatin1String(name)));
 }
 
 void OutputDialog::restore(const OutputState& saved)
 {
-    m_loadCases->setLeftOutNumbers(saved.leftOutNumbers);
-    bindOffers();
-    if (saved.content == OutputState::WithSolids) {
-        m_contents->setButton(saved.content);
-        m_contentBinding.clicked(saved.content); // the setter does not emit a signal
-    }
-    offerLoadCases();
-    m_choice.setProposed();
     vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera()); // discards the previous camera
-    if (!saved.page.isEmpty())
-        m_page->readXMLstring(saved.page);
-}
-
-/// After each change to the offered load cases or content, the tree is rebuilt once and the user's
-/// plots are checked again. The library's table binding is not used, because it offers only plain
-/// load cases.
-void OutputDialog::bindOffers()
-{
-    connect(m_loadCases, &QTableWidget::itemChanged, this, [this] {
-        m_choice.remember();
-        offerLoadCases();
-        m_choice.giveBack();
-    });
-    const auto clicked = &VKD_QT_RadioButtonGroup::buttWasClicked;
-    connect(m_contents, clicked, this, [this] { m_choice.remember(); });
-    m_contentBinding.setWidget(m_page, m_contents, OutputState::solidsTag(),
-                               OutputState::WithSolids);
-    connect(m_contents, clicked, this, [this] { m_choice.giveBack(); });
-    const auto defaults =
-        m_page->findChild<QAbstractButton*>(QStringLiteral("Button: Default settings"));
-    connect(defaults, &QAbstractButton::clicked, this, [this] { m_choice.setProposed(); });
-}
-
-void OutputDialog::offerLoadCases()
-{
-    OutputState present;
-    present.leftOutNumbers = m_loadCases->leftOutNumbers();
-    m_page->setUsedNumbersAndNames(present.offeredRows(m_document->handle()));
+    m_offers->restore(saved);
 }
 
 /// Connects the widgets of the page, because the page itself does not emit signals for changes.
 void OutputDialog::listen()
 {
     const auto start = [this] { m_changes.start(0); };
-    const QWidget* tabs = tabWidget(); // excludes OK and Cancel
-    for (const auto button : tabs->findChildren<QAbstractButton*>()) {
+    for (const auto button : m_page->findChildren<QAbstractButton*>()) {
         connect(button, &QAbstractButton::toggled, this, start);
         connect(button, &QAbstractButton::clicked, this, start);
     }
-    for (const auto combo : tabs->findChildren<QComboBox*>())
+    for (const auto combo : m_page->findChildren<QComboBox*>())
         connect(combo, &QComboBox::currentTextChanged, this, start);
-    for (const auto edit : tabs->findChildren<QLineEdit*>())
+    for (const auto edit : m_page->findChildren<QLineEdit*>())
         connect(edit, &QLineEdit::textChanged, this, start);
     const QAbstractItemModel* plots = m_plots->model();
     connect(plots, &QAbstractItemModel::dataChanged, this, start);
     connect(plots, &QAbstractItemModel::modelReset, this, start);
     connect(plots, &QAbstractItemModel::rowsInserted, this, start);
-    connect(m_loadCases, &QTableWidget::itemChanged, this, start);
+    connect(m_offers, &OutputOffers::changed, this, start);
     m_view->installEventFilter(this);
 }
 
@@ -257,8 +185,7 @@ OutputState OutputDialog::state()
         present.page = m_page->writeXMLstring();
     }
     present.page = withUsersCamera(present.page);
-    present.content = m_contents->selectedButton();
-    present.leftOutNumbers = m_loadCases->leftOutNumbers();
+    m_offers->readTo(&present);
     return present;
 }
 

@@ -2,13 +2,11 @@
 
 #include "project/OutputState.h"
 #include "window/output/checkedPlots.h"
-#include "window/output/PlotChoice.h"
 #include "window/output/TreeViewState.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_TabDialog.h>
 #include <vkd_language.h>
-#include <VKD_P_WidgetGraphicalOutput_AdditionalData>
 
 #include <QTimer>
 
@@ -16,11 +14,10 @@ class AnimatorView;
 class QTreeWidget;
 class VKD_H_ZOBDoc;
 class VKD_P_WidgetGraphicalOutput;
-class VKD_QT_RadioButtonGroup;
 
 namespace workbench {
 
-class LoadCaseTable;
+class OutputOffers;
 
 /// The state of a dialog, which can be passed to a dialog that replaces it.
 struct OutputPresent
@@ -76,11 +73,7 @@ protected:
 
 private:
     void addTabs();
-    QWidget* newLoadCaseTab();
-    QWidget* newContentTab();
     void restore(const OutputState& state);
-    void bindOffers();
-    void offerLoadCases();
     void listen();
     bool showsUsersView() const;
     void storeUsersCamera();
@@ -91,10 +84,7 @@ private:
     AnimatorView* m_view;
     VKD_P_WidgetGraphicalOutput* m_page;
     QTreeWidget* m_plots;
-    PlotChoice m_choice;
-    LoadCaseTable* m_loadCases = nullptr;
-    VKD_QT_RadioButtonGroup* m_contents = nullptr;
-    VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
+    OutputOffers* m_offers;
     QTimer m_changes;
     QString m_unchanged;
 };

@@ -68,13 +68,18 @@ CombinationTable::CombinationTable(const QVector<vkd::dbo::LoadCase>& rows, QWid
 VKD_QT4_ComboBox* CombinationTable::newKindBox(int row)
 {
     auto box = new VKD_QT4_ComboBox(viewport(), "CombinationKind");
-    box->setAccessibleName(tr("Kind of combination %1").arg(number(row)));
+    box->setAccessibleName(tr("Kind of combination %1").arg(numberInRow(row)));
     for (const auto& kind : Kinds)
         box->addEntry(tr(kind.text), kind.kind);
-    box->setCurrentId(proposedKind(title(row)));
+    box->setCurrentId(proposedKind(titleInRow(row)));
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &CombinationTable::changed);
     return box;
+}
+
+QString CombinationTable::kindInRow(int row) const
+{
+    return m_kinds[row]->currentText();
 }
 
 QVector<int> CombinationTable::numbersOf(int kind) const
@@ -82,7 +87,7 @@ QVector<int> CombinationTable::numbersOf(int kind) const
     QVector<int> found;
     for (int row = 0; row < rowCount(); ++row)
         if (m_kinds[row]->getCurrentId() == kind)
-            found << number(row);
+            found << numberInRow(row);
     return found;
 }
 
@@ -90,16 +95,16 @@ QMap<int, int> CombinationTable::kinds() const
 {
     QMap<int, int> all;
     for (int row = 0; row < rowCount(); ++row)
-        all.insert(number(row), m_kinds[row]->getCurrentId());
+        all.insert(numberInRow(row), m_kinds[row]->getCurrentId());
     return all;
 }
 
 void CombinationTable::setKinds(const QMap<int, int>& kinds)
 {
     for (int row = 0; row < rowCount(); ++row) {
-        const auto kind = kinds.find(number(row));
+        const auto kind = kinds.find(numberInRow(row));
         if (kind == kinds.end() || !m_kinds[row]->setCurrentId(*kind))
-            m_kinds[row]->setCurrentId(proposedKind(title(row)));
+            m_kinds[row]->setCurrentId(proposedKind(titleInRow(row)));
     }
 }
 

@@ -20,6 +20,7 @@ public:
 
     CombinationTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
+    QString kindInRow(int row) const override;
     /// Returns the combinations of one kind.
     QVector<int> numbersOf(int kind) const;
     /// Returns the kinds, keyed by combination number.

@@ -1,5 +1,8 @@
 #include "window/textoutput/PickTable.h"
 
+#include "window/choice/loadCaseKinds.h"
+#include "window/support/rowHeight.h"
+
 #include <QHeaderView>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
@@ -37,6 +40,7 @@ PickTable::PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, c
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
+    setRowsOneLineHigh(this);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter); // like the cells
     horizontalHeader()->setSectionResizeMode(NumberColumn, QHeaderView::ResizeToContents);
@@ -52,21 +56,32 @@ int PickTable::rowCount() const
     return m_model->rowCount();
 }
 
-int PickTable::number(int row) const
+int PickTable::numberInRow(int row) const
 {
     return m_model->item(row, NumberColumn)->data(Qt::DisplayRole).toInt();
 }
 
-QString PickTable::title(int row) const
+QString PickTable::titleInRow(int row) const
 {
     return m_model->item(row, TitleColumn)->text();
+}
+
+QString PickTable::kindInRow(int row) const
+{
+    return loadCaseKind(titleInRow(row));
+}
+
+void PickTable::chooseAllBut(const QSet<int>& numbers)
+{
+    setLeftOut(numbers);
+    Q_EMIT changed();
 }
 
 QVector<int> PickTable::numbers() const
 {
     QVector<int> all;
     for (int row = 0; row < rowCount(); ++row)
-        all << number(row);
+        all << numberInRow(row);
     return all;
 }
 
@@ -75,13 +90,14 @@ QVector<int> PickTable::picked() const
     const QSet<int> left = leftOut();
     QVector<int> checked;
     for (int row = 0; row < rowCount(); ++row)
-        if (!left.contains(number(row)))
-            checked << number(row);
+        if (!left.contains(numberInRow(row)))
+            checked << numberInRow(row);
     return checked;
 }
 
 void PickTable::setLeftOut(const QSet<int>& numbers)
 {
+    const QSignalBlocker quiet(this);
     if (m_showsRule)
         m_leftOut = numbers;
     else
@@ -109,7 +125,7 @@ QSet<int> PickTable::shownAsLeftOut() const
     QSet<int> left;
     for (int row = 0; row < rowCount(); ++row)
         if (m_model->item(row, NumberColumn)->checkState() != Qt::Checked)
-            left << number(row);
+            left << numberInRow(row);
     return left;
 }
 
@@ -117,7 +133,7 @@ void PickTable::showAsLeftOut(const QSet<int>& numbers)
 {
     for (int row = 0; row < rowCount(); ++row)
         m_model->item(row, NumberColumn)
-            ->setCheckState(numbers.contains(number(row)) ? Qt::Unchecked : Qt::Checked);
+            ->setCheckState(numbers.contains(numberInRow(row)) ? Qt::Unchecked : Qt::Checked);
 }
 
 QSize PickTable::sizeHint() const

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "window/choice/ChoiceTable.h"
+
 #include <QtTableView.h>
 #include <vkd_dbo_model.h>
-
-#include <QSet>
 
 class QStandardItemModel;
 
@@ -11,7 +11,7 @@ namespace workbench {
 
 /// Load cases or combinations of a project, each with a check box. While a rule selects them, the
 /// table is read-only and shows the result; the individual choice is preserved.
-class PickTable : public vkd::properties::nextGen::QtTableView
+class PickTable : public vkd::properties::nextGen::QtTableView, public ChoiceTable
 {
     Q_OBJECT
 
@@ -26,6 +26,7 @@ public:
     QVector<int> picked() const;
     /// Returns the numbers of the load cases or combinations that are not in the individual choice.
     QSet<int> leftOut() const { return m_showsRule ? m_leftOut : shownAsLeftOut(); }
+    /// Sets the individual choice without a signal.
     void setLeftOut(const QSet<int>& numbers);
 
     /// These functions show the individual choice or the result of a rule. They do not emit a
@@ -37,15 +38,21 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    QTableView* view() override { return this; }
+    int numberInRow(int row) const override;
+    QString titleInRow(int row) const override;
+    QString kindInRow(int row) const override;
+    QSet<int> leftOutNumbers() const override { return leftOut(); }
+    void chooseAllBut(const QSet<int>& numbers) override;
+
 Q_SIGNALS:
+    /// Emitted once for each change by the user.
     void changed();
 
 protected:
     /// Adds a column of widgets after the other columns.
     void addWidgetColumn(const QString& title, const QVector<QWidget*>& widgets);
     int rowCount() const;
-    int number(int row) const;
-    QString title(int row) const;
 
 private:
     QSet<int> shownAsLeftOut() const;

@@ -1,6 +1,7 @@
 #include "window/textoutput/TextOutputDialog.h"
 
 #include "project/numberTexts.h"
+#include "window/choice/ChoiceBar.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
@@ -103,6 +104,8 @@ void TextOutputDialog::addLoadCases(ZobHandle project)
     column->addLayout(m_loadCases.layout());
     m_loadCaseTable = new PickTable(loadCases(project, true), box, "TextLoadCases");
     m_loadCaseTable->setAccessibleName(tr("Load cases"));
+    m_loadCaseBar = new ChoiceBar(m_loadCaseTable, box, "TextLoadCaseChoice");
+    column->addWidget(m_loadCaseBar);
     column->addWidget(m_loadCaseTable);
     m_loadCaseResult = addResult(column, "LoadCaseResult");
     m_loadCases.useWidget(m_loadCaseTable);
@@ -122,6 +125,8 @@ void TextOutputDialog::addCombinations(ZobHandle project)
     column->addWidget(m_kindRow);
     m_combinationTable = new CombinationTable(loadCases(project, false), box, "TextCombinations");
     m_combinationTable->setAccessibleName(tr("Combinations"));
+    m_combinationBar = new ChoiceBar(m_combinationTable, box, "TextCombinationChoice");
+    column->addWidget(m_combinationBar);
     column->addWidget(m_combinationTable);
     m_combinationResult = addResult(column, "CombinationResult");
     fillKindRow();
@@ -235,6 +240,8 @@ void TextOutputDialog::showChoice()
 /// Hides widgets that have no effect.
 void TextOutputDialog::showInFields()
 {
+    m_loadCaseBar->setEnabled(m_loadCases.getSelectedId() == Group::Manually);
+    m_combinationBar->setEnabled(m_combinations->getSelectedId() == Group::Manually);
     if (m_extent.getSelectedId() == Group::Manually)
         m_fields->showChosen();
     else

@@ -14,6 +14,7 @@ class QVBoxLayout;
 
 namespace workbench {
 
+class ChoiceBar;
 class CombinationTable;
 class PickTable;
 
@@ -63,7 +64,9 @@ private:
     std::list<VKD_P_RadioGroup::ButtonID> m_kinds; ///< the kinds that m_combinations offers
     QWidget* m_kindRow = nullptr;
     ExtentFields* m_fields = nullptr;
+    ChoiceBar* m_loadCaseBar = nullptr;
     PickTable* m_loadCaseTable = nullptr;
+    ChoiceBar* m_combinationBar = nullptr;
     CombinationTable* m_combinationTable = nullptr;
     QLabel* m_extentResult = nullptr;
     QLabel* m_loadCaseResult = nullptr;

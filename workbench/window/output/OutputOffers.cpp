@@ -1,0 +1,170 @@
+#include "window/output/OutputOffers.h"
+
+#include "project/numberTexts.h"
+#include "window/choice/ChoiceBar.h"
+#include "window/output/LoadCaseTable.h"
+#include "window/support/HelpKey.h"
+
+#include <VKD_P_WidgetGraphicalOutput>
+#include <VKD_P_WidgetGraphicalOutput_Steps.h>
+#include <VKD_QT_RadioButtonGroup.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+namespace {
+constexpr QChar Separator = u' '; // in the text of a state
+
+QLabel* newHint(const QString& text)
+{
+    auto hint = new QLabel(text);
+    hint->setWordWrap(true);
+    return hint;
+}
+
+/// Returns the name of the undo step between two states.
+QString stepName(const OutputState& before, const OutputState& after)
+{
+    if (before.content != after.content)
+        return OutputOffers::tr("Contents");
+    const QSet<int> left = after.leftOutNumbers - before.leftOutNumbers;
+    const QSet<int> added = before.leftOutNumbers - after.leftOutNumbers;
+    if (left.size() + added.size() != 1)
+        return OutputOffers::tr("Offered Load Cases");
+    return left.isEmpty() ? OutputOffers::tr("Offer Load Case %1").arg(*added.begin())
+                          : OutputOffers::tr("Leave Out Load Case %1").arg(*left.begin());
+}
+} // namespace
+
+OutputOffers::OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view,
+                           QWidget* parent)
+    : QObject(parent)
+    , m_project(project)
+    , m_page(page)
+    , m_choice(page, view)
+    , m_steps(
+          page->findChild<QObject*>(QLatin1String(vkd::plib::widgetgraphicaloutput::StepsObject)))
+    , m_loadCaseTab(newLoadCaseTab(parent))
+    , m_contentTab(newContentTab(parent))
+{
+    connectTabs();
+}
+
+QWidget* OutputOffers::newLoadCaseTab(QWidget* parent)
+{
+    auto tab = new QWidget(parent);
+    setHelpTopic(tab, "GRAV/LOADCASES");
+    m_loadCases = new LoadCaseTable(m_project, tab);
+    auto layout = new QVBoxLayout(tab);
+    layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. The plots "
+                                 "that you have chosen stay chosen.")));
+    layout->addWidget(new ChoiceBar(m_loadCases, tab, "LoadCaseChoice"));
+    layout->addWidget(m_loadCases);
+    return tab;
+}
+
+QWidget* OutputOffers::newContentTab(QWidget* parent)
+{
+    StructRadioButtonGrup model;
+    model.text = tr("Plots that suit the model");
+    StructRadioButtonGrup solids;
+    solids.text = tr("Also plots of bricks");
+    auto tab = new QWidget(parent);
+    setHelpTopic(tab, "GRAV/CONTENTS");
+    m_contents =
+        new VKD_QT_RadioButtonGroup(tr("Plots on offer"), {model, solids}, tab, "ContentGroup");
+    m_contents->setButton(0);
+    auto layout = new QVBoxLayout(tab);
+    layout->addWidget(m_contents);
+    layout->addStretch(1);
+    return tab;
+}
+
+/// The library's table binding is not used, because it offers only plain load cases.
+void OutputOffers::connectTabs()
+{
+    connect(m_loadCases, &LoadCaseTable::changed, this, [this] {
+        begin();
+        offerLoadCases();
+        finish();
+    });
+    const auto clicked = &VKD_QT_RadioButtonGroup::buttWasClicked;
+    connect(m_contents, clicked, this, &OutputOffers::begin);
+    m_contentBinding.setWidget(m_page, m_contents, OutputState::solidsTag(),
+                               OutputState::WithSolids);
+    connect(m_contents, clicked, this, &OutputOffers::finish);
+    const auto defaults =
+        m_page->findChild<QAbstractButton*>(QStringLiteral("Button: Default settings"));
+    connect(defaults, &QAbstractButton::clicked, this, [this] { m_choice.setProposed(); });
+    connect(m_steps, SIGNAL(hostStateRestored(QString)), this, SLOT(restoreState(QString)));
+}
+
+void OutputOffers::restore(const OutputState& saved)
+{
+    m_loadCases->setLeftOutNumbers(saved.leftOutNumbers);
+    if (saved.content == OutputState::WithSolids) {
+        m_contents->setButton(saved.content);
+        m_contentBinding.clicked(saved.content); // the setter does not emit a signal
+    }
+    offerLoadCases();
+    m_choice.setProposed();
+    if (!saved.page.isEmpty())
+        m_page->readXMLstring(saved.page);
+    readTo(&m_known);
+    QMetaObject::invokeMethod(m_steps, "restart", Q_ARG(QString, stateText()));
+}
+
+void OutputOffers::readTo(OutputState* state) const
+{
+    state->content = m_contents->selectedButton();
+    state->leftOutNumbers = m_loadCases->leftOutNumbers();
+}
+
+/// The tree is rebuilt between begin() and finish(), which checks the user's plots again. Together,
+/// this is one undo step.
+void OutputOffers::begin()
+{
+    QMetaObject::invokeMethod(m_steps, "begin");
+    m_choice.remember();
+}
+
+void OutputOffers::finish()
+{
+    m_choice.giveBack();
+    const OutputState before = m_known;
+    readTo(&m_known);
+    QMetaObject::invokeMethod(m_steps, "end", Q_ARG(QString, stepName(before, m_known)),
+                              Q_ARG(QString, stateText()));
+    Q_EMIT changed();
+}
+
+void OutputOffers::offerLoadCases()
+{
+    OutputState present;
+    present.leftOutNumbers = m_loadCases->leftOutNumbers();
+    m_page->setUsedNumbersAndNames(present.offeredRows(m_project));
+}
+
+QString OutputOffers::stateText() const
+{
+    return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers);
+}
+
+/// Is called by undo and redo. The page itself restores the plots afterwards.
+void OutputOffers::restoreState(const QString& text)
+{
+    const int content = text.section(Separator, 0, 0).toInt();
+    const bool isOtherContent = content != m_known.content;
+    m_loadCases->setLeftOutNumbers(numbersFromSaved(text.section(Separator, 1)));
+    m_contents->setButton(content);
+    begin();
+    if (isOtherContent)
+        m_contentBinding.clicked(content);
+    offerLoadCases();
+    finish();
+}
+
+} // namespace workbench

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "project/OutputState.h"
+#include "window/output/PlotChoice.h"
+
+#include <VKD_P_WidgetGraphicalOutput_AdditionalData>
+
+#include <QObject>
+
+class VKD_P_WidgetGraphicalOutput;
+class VKD_QT_RadioButtonGroup;
+
+namespace workbench {
+
+class LoadCaseTable;
+
+/// The load cases and the content that an output page offers, in two tabs. The user's choice of
+/// plots is preserved when they change. Each change is an undo step of the page.
+class OutputOffers : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `page` and its view are not owned. `parent` becomes the parent of the tabs.
+    OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view,
+                 QWidget* parent);
+
+    QWidget* loadCaseTab() const { return m_loadCaseTab; }
+    QWidget* contentTab() const { return m_contentTab; }
+
+    /// Shows the saved state, without a signal, and clears the undo steps of the page.
+    void restore(const OutputState& saved);
+    /// Sets the content and the load cases in `state`.
+    void readTo(OutputState* state) const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    QWidget* newLoadCaseTab(QWidget* parent);
+    QWidget* newContentTab(QWidget* parent);
+    void connectTabs();
+    void begin();
+    void finish();
+    void offerLoadCases();
+    QString stateText() const;
+    Q_SLOT void restoreState(const QString& text);
+
+    ZobHandle m_project;
+    VKD_P_WidgetGraphicalOutput* m_page;
+    PlotChoice m_choice;
+    QObject* m_steps; ///< see VKD_P_WidgetGraphicalOutput_Steps.h
+    LoadCaseTable* m_loadCases = nullptr;
+    VKD_QT_RadioButtonGroup* m_contents = nullptr;
+    QWidget* m_loadCaseTab;
+    QWidget* m_contentTab;
+    VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
+    OutputState m_known; ///< content and load cases after the last change
+};
+
+} // namespace workbench
