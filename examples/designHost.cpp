@@ -6,6 +6,7 @@
 #include <vkd_lib_value.h>
 #include <VKD_P_DesignParameter>
 #include <VKD_QT_Ok.h>
+#include <vkd_qt_translateQt.h>
 
 #include <QApplication>
 #include <QPushButton>
@@ -15,6 +16,7 @@ int main(int argc, char* argv[])
 {
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     QApplication application(argc, argv);
+    vkd_qt_translateQt(); // the dialogs also contain texts of Qt
     const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
     if (!project)
         return 1; // the reason is in the log

@@ -7,6 +7,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
 #include <VKD_P_RadioGroup>
+#include <vkd_qt_translateQt.h>
 
 #include <QApplication>
 #include <QHeaderView>
@@ -19,6 +20,7 @@ int main(int argc, char* argv[])
 {
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     QApplication application(argc, argv);
+    vkd_qt_translateQt(); // the dialogs also contain texts of Qt
     const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
     if (!project)
         return 1; // the reason is in the log

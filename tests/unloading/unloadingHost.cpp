@@ -37,9 +37,12 @@ QString mapped()
 }
 
 /// Uses the received objects in the ways in which Qt may use them: paints icons, translates texts,
-/// sends events, and creates and destroys values of all types.
+/// sends events, and creates and destroys values of all types. Checks that Qt's own texts are still
+/// in English although the language of the plug-in is German.
 void useApplication()
 {
+    const QString cancel = QCoreApplication::translate("QPlatformTheme", "Cancel");
+    require(cancel == QLatin1String("Cancel"), cancel);
     QTreeWidget tree;
     new QTreeWidgetItem(&tree, {QStringLiteral("own item")});
     tree.show();

@@ -1,3 +1,4 @@
+#include "LanguageSupport.h"
 #include "WidgetTestSupport.h"
 
 #include <VKD_QT4_ComboBox.h>
@@ -7,6 +8,7 @@
 #include <VKD_QT_TabDialog.h>
 #include <VKD_QT_TableWidget.h>
 #include <VKD_QT_TableWidgetButton.h>
+#include <vkd_qt_translateQt.h>
 #include <VKD_QT_TreeWidget.h>
 #include <VKD_QT_Widgets.h>
 #include <vkd_qt_xmlpart.h>
@@ -15,6 +17,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTranslator>
 
 using namespace testsupport;
 
@@ -88,6 +91,40 @@ private Q_SLOTS:
             dialog.show();
             QCOMPARE(reopened.size(), 0);
         }
+    }
+
+    /// The platform's buttons are German although Qt's texts are not. Qt's texts change only for a
+    /// host that has no translation of its own.
+    void textsOfQtBelongToTheHost()
+    {
+        struct HostTexts : QTranslator
+        {
+            bool isEmpty() const override { return false; }
+            QString translate(const char*, const char*, const char*, int) const override
+            {
+                return QStringLiteral("host");
+            }
+        } hostTexts;
+        const auto texts = [] {
+            QString no;
+            whenModal([&no](QWidget* box) {
+                no = qobject_cast<QMessageBox*>(box)->button(QMessageBox::No)->text();
+                box->close();
+            });
+            VKD_QT_MessageBox::warning(nullptr, {}, {}, QMessageBox::No, 0, 0);
+            return no + QLatin1Char(' ') + QCoreApplication::translate("QPlatformTheme", "Save");
+        };
+        setLanguage(German);
+        QCOMPARE(texts(), QStringLiteral("&Nein Save"));
+        QCoreApplication::installTranslator(&hostTexts);
+        vkd_qt_translateQt();
+        QCOMPARE(texts(), QStringLiteral("host host"));
+        QCoreApplication::removeTranslator(&hostTexts);
+        QCOMPARE(texts(), QStringLiteral("&Nein Save"));
+        vkd_qt_translateQt();
+        QCOMPARE(texts(), QStringLiteral("&Nein Speichern"));
+        setLanguage(English);
+        QCOMPARE(texts(), QStringLiteral("&No Save"));
     }
 
     void boxLeftByEscape()

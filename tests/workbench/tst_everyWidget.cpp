@@ -10,6 +10,7 @@
 #include <VKD_H_TableItems.h>
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_QT_TabDialog.h>
+#include <vkd_qt_translateQt.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         workbench::PlatformLog::install();
+        vkd_qt_translateQt();
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
         m_project = std::make_unique<VisitedProject>();
     }

@@ -3,6 +3,7 @@
 #include "takeSnapshots.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <vkd_qt_translateQt.h>
 
 #include <QApplication>
 #include <QFont>
@@ -55,6 +56,7 @@ int snapshots(const QStringList& arguments)
         throw CommandError{QStringLiteral("--pixel-ratio is a number from 1 to 4, not \"%1\"")
                                .arg(line.value("pixel-ratio"))};
     applyLanguage(line);
+    vkd_qt_translateQt();
     openProject(line.argument(0)); // throws an error if the file is not a project
     try {
         const SnapshotAlbum album = takeSnapshots(line.argument(0), line.argument(1));

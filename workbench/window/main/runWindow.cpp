@@ -3,6 +3,7 @@
 #include "window/support/WindowSettings.h"
 
 #include <VKD_QT_InitTranslator.h>
+#include <vkd_qt_translateQt.h>
 
 #include <QApplication>
 
@@ -12,6 +13,7 @@ int runWindow(const QString& path)
 {
     vkd::setDesktopLanguage(WindowSettings().language(vkd::desktopLanguage()));
     VKD_QT_InitTranslator::languageChanged();
+    vkd_qt_translateQt();
     MainWindow window;
     window.openAfterPainting(path);
     window.show();

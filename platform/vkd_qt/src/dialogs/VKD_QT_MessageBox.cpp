@@ -1,5 +1,7 @@
 #include "VKD_QT_MessageBox.h"
 
+#include "standardButtons.h"
+
 #include <QCloseEvent>
 #include <QPushButton>
 
@@ -16,7 +18,7 @@ int VKD_QT_MessageBox::warning(QWidget* parent, const QString& title, const QStr
     VKD_QT_MessageBox box(Warning, parent, title, text);
     for (int button : {button0, button1, button2})
         if (button)
-            box.addButton(StandardButton(button));
+            vkd::qt::translateStandardButton(box.addButton(StandardButton(button)));
     box.exec();
     if (box.clickedButton())
         return box.standardButton(box.clickedButton());

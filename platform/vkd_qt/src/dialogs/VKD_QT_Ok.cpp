@@ -1,5 +1,6 @@
 #include "VKD_QT_Ok.h"
 
+#include "standardButtons.h"
 #include "VKD_QT_Layouts.h"
 
 #include <QDialogButtonBox>
@@ -18,7 +19,7 @@ VKD_QT_Ok::VKD_QT_Ok(QWidget* parent, int buttons, const char* name)
     if (buttons & OkBit)
         m_buttons->addButton(QDialogButtonBox::Ok)->setDefault(true);
     if (buttons & CancelBit)
-        m_buttons->addButton(QDialogButtonBox::Cancel);
+        vkd::qt::translateStandardButton(m_buttons->addButton(QDialogButtonBox::Cancel));
     auto layout = new VKD_QT_HBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_buttons);

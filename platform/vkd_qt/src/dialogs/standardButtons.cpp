@@ -1,0 +1,19 @@
+#include "standardButtons.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+
+namespace {
+/// Qt's English texts, which a button shows if the host has installed no translation for Qt.
+const char* const UntranslatedTexts[] = {
+    QT_TRANSLATE_NOOP("standardButtons", "Cancel"), QT_TRANSLATE_NOOP("standardButtons", "Discard"),
+    QT_TRANSLATE_NOOP("standardButtons", "Save"), QT_TRANSLATE_NOOP("standardButtons", "&No"),
+    QT_TRANSLATE_NOOP("standardButtons", "&Yes")};
+} // namespace
+
+void vkd::qt::translateStandardButton(QAbstractButton* button)
+{
+    for (const char* text : UntranslatedTexts)
+        if (button->text() == QLatin1String(text))
+            return button->setText(QCoreApplication::translate("standardButtons", text));
+}
