@@ -71,6 +71,23 @@ function(vkd_install_target name package headers)
                                                       NAMELINK_COMPONENT development)
 endfunction()
 
+# Compiles each public header of a library alone, with the settings that its users have. The target
+# `headers` does this for all libraries.
+add_custom_target(headers)
+function(vkd_check_headers name)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/headers)
+    set(sources)
+    file(GLOB headers RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}/include CONFIGURE_DEPENDS include/*)
+    foreach(header IN LISTS headers)
+        file(CONFIGURE OUTPUT ${folder}/${header}.cpp CONTENT "#include <@header@>\n" @ONLY)
+        list(APPEND sources ${folder}/${header}.cpp)
+    endforeach()
+    add_library(headers_${name} OBJECT EXCLUDE_FROM_ALL ${sources})
+    set_target_properties(headers_${name} PROPERTIES AUTOMOC OFF)
+    target_link_libraries(headers_${name} PRIVATE ${name})
+    add_dependencies(headers headers_${name})
+endfunction()
+
 # Installs a library, and installs its headers into a separate folder. The version is in the header
 # <name>_version.h.
 function(vkd_install_library name package)
@@ -82,6 +99,7 @@ function(vkd_install_library name package)
             COMPONENT development)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h ${version}
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name} COMPONENT development)
+    vkd_check_headers(${name})
 endfunction()
 
 # Installs the files for find_package(<package>): the targets and the package file, which is made
@@ -94,7 +112,7 @@ function(vkd_install_package package)
     get_property(targets GLOBAL PROPERTY ${package}_targets)
     string(REPLACE ";" " " targets "${targets}")
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in ${config} @ONLY)
-    write_basic_package_version_file(${version} COMPATIBILITY SameMinorVersion)
+    write_basic_package_version_file(${version} COMPATIBILITY SameMajorVersion)
     install(EXPORT ${package} FILE ${package}Targets.cmake NAMESPACE vkd:: DESTINATION ${folder}
             COMPONENT development)
     install(FILES ${config} ${version} DESTINATION ${folder} COMPONENT development)
