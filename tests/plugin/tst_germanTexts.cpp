@@ -4,6 +4,7 @@
 #include <VKD_QT_InitTranslator.h>
 
 #include <QLibrary>
+#include <QPluginLoader>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
@@ -112,8 +113,13 @@ private Q_SLOTS:
     {
         const QVector<Message> all = messages(TextFile);
         QVERIFY(!all.isEmpty());
-        QLibrary library(QStringLiteral(LIBRARY));
+        QLibrary library;
+        library.setFileNameAndVersion(QStringLiteral(LIBRARY), LIBRARY_VERSION);
         QVERIFY2(library.load(), qPrintable(library.errorString()));
+        using Factory = void* (*)(const QString&);
+        const auto factory =
+            reinterpret_cast<Factory>(library.resolve("_Z19VKD_H_PluginFactoryRK7QString"));
+        QVERIFY(factory && !factory(QStringLiteral("any")));
         for (const Message& message : all)
             QCOMPARE(translated(message), message.german);
         for (int language : {1, 0}) {
@@ -125,6 +131,7 @@ private Q_SLOTS:
         QVERIFY(library.unload());
         VKD_QT_InitTranslator::languageChanged(); // must not access unloaded code
         QCOMPARE(translated(all.last()), QString::fromUtf8(all.last().source));
+        QVERIFY(!QPluginLoader(library.fileName()).load()); // not a Qt plug-in
     }
 };
 
