@@ -352,12 +352,28 @@ void Walk::lookAtStop(const QWidget* stop, QVector<const QWidget*>& before)
     before << stop;
 }
 
+/// Returns whether two actions with the same shortcut can be meant at the same time. The shortcuts
+/// of two pages are apart if they only work while their page has the focus.
+static bool clashes(const QAction* first, const QAction* second)
+{
+    if (first == second)
+        return false;
+    for (const QAction* action : {first, second})
+        if (action->shortcutContext() != Qt::WidgetWithChildrenShortcut)
+            return true;
+    for (const QWidget* one : first->associatedWidgets())
+        for (const QWidget* other : second->associatedWidgets())
+            if (one == other || one->isAncestorOf(other) || other->isAncestorOf(one))
+                return true;
+    return false;
+}
+
 void Walk::lookForKeys()
 {
     const auto mnemonic = [](const QString& text) {
         return QKeySequence::mnemonic(text).toString();
     };
-    Keys inWindow, shortcuts;
+    Keys inWindow;
     for (const QWidget* widget : visibleWidgets(m_window))
         for (const QString& text : mnemonicTextsOf(widget))
             noteTwice(inWindow, mnemonic(text), text, widget);
@@ -371,10 +387,16 @@ void Walk::lookForKeys()
         for (const QAction* action : menu->actions())
             noteTwice(inMenu, mnemonic(action->text()), action->text(), menu);
     }
+    QMap<QString, QList<QAction*>> shortcuts;
     for (const auto action : m_window.findChildren<QAction*>())
         for (const QKeySequence& key : action->shortcuts())
-            if (action->shortcutContext() != Qt::WidgetShortcut)
-                noteTwice(shortcuts, key.toString(), action->text(), &m_window);
+            if (action->shortcutContext() != Qt::WidgetShortcut && !key.isEmpty())
+                shortcuts[key.toString()] << action;
+    for (auto it = shortcuts.cbegin(); it != shortcuts.cend(); ++it)
+        for (const QAction* action : it.value())
+            if (clashes(it.value().first(), action))
+                note(&m_window, QStringLiteral("%1 of \"%2\" is also that of \"%3\"")
+                                    .arg(it.key(), action->text(), it.value().first()->text()));
 }
 } // namespace
 
