@@ -94,11 +94,6 @@ private Q_SLOTS:
             trigger(*window, "CopyScriptAction");
             chosen = QApplication::clipboard()->text();
             QVERIFY(chosen != before);
-            // The shortcuts of the window also work in its dialogs.
-            const QString saved = path(isSaved ? "saved.dat" : "cancelled.dat");
-            answerFileDialog(saved);
-            QTest::keyClick(find<QDialog>(*window, "OutputDialog"), Qt::Key_S, Qt::ControlModifier);
-            QVERIFY(QFile::exists(saved));
             trigger(*window, "German");
             QVERIFY(window->isWindowModified());
             trigger(*window, "English");
@@ -256,13 +251,13 @@ private Q_SLOTS:
     void dialogStateIsRestored()
     {
         const QRect place(20, 30, 1234, 765);
-        const auto dialogs = [](const MainWindow& window) {
+        const auto textDialog = [](const MainWindow& window) {
             trigger(window, "TextOutput");
-            return QVector<QDialog*>{openOutput(window), find<QDialog>(window, "TextOutputDialog")};
+            return find<QDialog>(window, "TextOutputDialog");
         };
         auto window = open("places.zob");
-        for (QDialog* dialog : dialogs(*window))
-            dialog->setGeometry(place);
+        textDialog(*window)->setGeometry(place);
+        openOutput(*window);
         auto tree = find<QDialog>(*window, "OutputDialog")->findChild<QTreeWidget*>();
         tree->collapseItem(tree->topLevelItem(1));
         tree->setCurrentItem(tree->topLevelItem(2)->child(1));
@@ -282,8 +277,7 @@ private Q_SLOTS:
         trigger(*window, "English");
         tabs = find<QDialog>(*window, "OutputDialog")->findChild<QTabWidget*>();
         QCOMPARE(tabs->currentIndex(), 1);
-        for (const QDialog* dialog : dialogs(*window))
-            QCOMPARE(dialog->geometry(), place);
+        QCOMPARE(textDialog(*window)->geometry(), place);
         tabs->setCurrentIndex(0);
         trigger(*find<QDialog>(*window, "OutputDialog"), "findPlots");
         find<QLineEdit>(*window, "searchWords")->setText(QStringLiteral("displ"));
@@ -302,8 +296,7 @@ private Q_SLOTS:
         QTest::keyClick(tree, Qt::Key_Escape);
         compareTree();
         window = open("again.zob");
-        for (const QDialog* other : dialogs(*window))
-            QCOMPARE(other->geometry(), place);
+        QCOMPARE(textDialog(*window)->geometry(), place);
     }
 
     /// Resizes in many small steps, as with the mouse.
@@ -312,8 +305,9 @@ private Q_SLOTS:
         const auto window = open("docks.zob");
         window->resize(1200, 800);
         const auto script = find<QWidget>(*window, "ScriptDock");
-        const auto records = find<QWidget>(*window, "RecordDock");
-        const QSize before(script->width(), records->height());
+        const QWidget* rows = openDesign(*window);
+        QApplication::processEvents(); // lays out the docks
+        const QSize before(script->width(), rows->height());
         const auto drag = [&](int from, int to) {
             for (int step = from; step != to; step += from < to ? 1 : -1)
                 window->resize(1200 + 2 * step, 800 + step);
@@ -321,10 +315,29 @@ private Q_SLOTS:
         };
         drag(0, 400);
         QVERIFY2(script->width() > 1.5 * before.width(), QByteArray::number(script->width()));
-        QVERIFY2(records->height() > 1.3 * before.height(), QByteArray::number(records->height()));
+        QVERIFY2(rows->height() > 1.3 * before.height(), QByteArray::number(rows->height()));
         drag(400, -150); // too small for the saved shares
         drag(-150, 0);
-        QCOMPARE(QSize(script->width(), records->height()), before);
+        QCOMPARE(QSize(script->width(), rows->height()), before);
+    }
+
+    /// In a narrow window, the output page takes the place of the model.
+    void pageBesideTheScript()
+    {
+        const auto window = open("narrow.zob");
+        window->resize(1440, 768); // with the wide font of the tests
+        const QWidget* page = openOutput(*window);
+        const QWidget* script = find<QWidget>(*window, "ScriptText");
+        const auto view = find<QWidget>(*window, "AnimatorView");
+        QTRY_VERIFY(!view->isVisible());
+        for (const QWidget* shown : {page, script})
+            QCOMPARE(shown->visibleRegion().boundingRect().width(), shown->width());
+        openDesign(*window); // highlights groups in the model
+        QTRY_VERIFY(view->isVisible());
+        openOutput(*window);
+        QTRY_VERIFY(!view->isVisible());
+        window->resize(2400, 768);
+        QTRY_VERIFY(view->isVisible() && !page->visibleRegion().isEmpty());
     }
 };
 

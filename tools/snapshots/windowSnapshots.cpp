@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QDockWidget>
 #include <QPushButton>
 #include <QSettings>
@@ -41,18 +40,24 @@ void addDesign(SnapshotAlbum& album, MainWindow& window, const QString& look)
     dock->close();
 }
 
-void addOutput(SnapshotAlbum& album, const MainWindow& window, const QString& look)
+/// Adds screenshots of the output page in the window, and of each of its tabs.
+void addOutput(SnapshotAlbum& album, MainWindow& window, const QString& look)
 {
     trigger(window, "Output");
-    auto dialog = window.findChild<QDialog*>(QStringLiteral("OutputDialog"));
-    auto tabs = dialog->findChild<QTabWidget*>();
+    auto dock = window.findChild<QDockWidget*>(QStringLiteral("OutputDock"));
+    auto tabs = dock->findChild<QTabWidget*>();
+    album.add(QStringLiteral("window-output") + look, &window);
+    dock->setFloating(true);
+    dock->resize(910, 680);
     const char* names[] = {"plots", "loadcases", "contents"};
     for (int tab = 0; tab < tabs->count(); ++tab) {
         tabs->setCurrentIndex(tab);
-        album.add(QStringLiteral("window-output-") + QLatin1String(names[tab]) + look, dialog);
+        album.add(QStringLiteral("window-output-") + QLatin1String(names[tab]) + look, dock);
     }
-    dialog->reject();
+    dock->setFloating(false);
+    dock->close();
 }
+
 /// Adds screenshots of the preview in the window, and of the preview alone.
 void addSheet(SnapshotAlbum& album, MainWindow& window, const QString& look)
 {

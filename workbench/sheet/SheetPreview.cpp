@@ -87,6 +87,7 @@ void SheetPreview::keyPressEvent(QKeyEvent* event)
 void SheetPreview::layOut()
 {
     auto head = new QHBoxLayout;
+    head->setSpacing(4); // the pane fits beside the output page in a window of 1280 pixels
     head->addWidget(m_previous);
     head->addWidget(m_pageLabel);
     head->addWidget(m_page);
@@ -96,6 +97,7 @@ void SheetPreview::layOut()
     head->addStretch();
     head->addWidget(m_export);
     auto layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
     layout->addLayout(head);
     layout->addWidget(m_view, 1);
 }

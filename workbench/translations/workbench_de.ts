@@ -444,10 +444,29 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
-    <name>workbench::OutputDialog</name>
+    <name>workbench::OutputDock</name>
     <message>
         <source>Graphical Output</source>
         <translation>Grafische Ausgabe</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::OutputDialog</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Stores the choice of plots in the project file</source>
+        <translation>Speichert die Grafikauswahl in der Projektdatei</translation>
+    </message>
+    <message>
+        <source>Dis&amp;card</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>Returns to the choice of plots in the project file</source>
+        <translation>Stellt die Grafikauswahl der Projektdatei wieder her</translation>
     </message>
     <message>
         <source>Plots</source>

@@ -7,8 +7,8 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -17,13 +17,12 @@
 namespace workbench {
 
 DesignDock::DesignDock(QMenu* editMenu, QWidget* parent)
-    : QDockWidget(parent)
+    : AskingDock(QStringLiteral("DesignDock"), parent)
     , m_editMenu(editMenu)
     , m_place(new QScrollArea(this))
     , m_tools(new QVBoxLayout)
     , m_apply(new QPushButton(this))
 {
-    setObjectName(QStringLiteral("DesignDock"));
     setHelpTopic(this, "MERDAN/PARA");
     m_place->setWidgetResizable(true); // the page may be wider than the window
     m_place->setFrameShape(QFrame::NoFrame);
@@ -99,7 +98,7 @@ void DesignDock::addTool(QWidget* button)
 
 void DesignDock::setTexts()
 {
-    setWindowTitle(tr("Design Parameters") + QLatin1String("[*]"));
+    setTitle(tr("Design Parameters"));
     m_apply->setText(tr("&Apply"));
     m_apply->setToolTip(tr("Stores the rows in the project file (Ctrl+S in this panel)"));
 }
@@ -113,18 +112,7 @@ bool DesignDock::event(QEvent* event)
         event->accept();
         return true;
     }
-    return QDockWidget::event(event);
-}
-
-/// If the dock stays open, the action that closes it must stay checked.
-void DesignDock::closeEvent(QCloseEvent* event)
-{
-    if (m_mayClose && !m_mayClose()) {
-        event->ignore();
-        return toggleViewAction()->setChecked(true);
-    }
-    QDockWidget::closeEvent(event);
-    Q_EMIT closed();
+    return AskingDock::event(event);
 }
 
 void DesignDock::keyPressEvent(QKeyEvent* event)
@@ -132,7 +120,7 @@ void DesignDock::keyPressEvent(QKeyEvent* event)
     if (event->matches(QKeySequence::Save) && m_page)
         Q_EMIT applyRequested();
     else
-        QDockWidget::keyPressEvent(event);
+        AskingDock::keyPressEvent(event);
 }
 
 /// While a menu is used, the focus is still that of the dock.

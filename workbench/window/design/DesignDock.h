@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDockWidget>
+#include "window/support/AskingDock.h"
+
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 
 class QMenu;
@@ -18,7 +18,7 @@ class DesignPage;
 /// The dock with the design page of the open project and its buttons. It asks before it is closed,
 /// applies on Ctrl+S, and shows the actions of the page in the window's Edit menu while it has the
 /// focus. DesignEditor reads and stores the rows.
-class DesignDock : public QDockWidget
+class DesignDock : public AskingDock
 {
     Q_OBJECT
 
@@ -27,8 +27,6 @@ public:
     DesignDock(QMenu* editMenu, QWidget* parent);
     ~DesignDock() override;
 
-    /// Sets the function that returns whether the dock may be closed. It may ask the user.
-    void setMayClose(const std::function<bool()>& mayClose) { m_mayClose = mayClose; }
     /// Replaces the page, or removes it if the pointer is null.
     void setPage(std::unique_ptr<DesignPage> page);
     /// Returns null while no project is edited.
@@ -41,19 +39,15 @@ public:
 
 Q_SIGNALS:
     void applyRequested();
-    /// Emitted after the dock has been closed.
-    void closed();
 
 protected:
     bool event(QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void orderTabs();
     void followFocus(const QWidget* now);
 
-    std::function<bool()> m_mayClose;
     QPointer<QMenu> m_editMenu; ///< the window destroys it before the dock
     DesignPage* m_page = nullptr;
     QScrollArea* m_place;

@@ -15,6 +15,7 @@
 #include "window/output/OutputEditor.h"
 #include "window/output/OutputScript.h"
 #include "window/records/RecordsPane.h"
+#include "window/support/AskingDock.h"
 #include "window/support/FileDrop.h"
 #include "window/support/SlowWork.h"
 #include "window/support/WindowSettings.h"
@@ -70,7 +71,8 @@ void MainWindow::createEditors(const MakeProject& makeProject)
     m_groupMenu = new GroupMenu(m_panes->view, m_panes->groups, m_rowsInView.get());
     m_designEditor =
         std::make_unique<DesignEditor>(&m_project, &m_access, &m_messages, m_panes->design);
-    m_outputEditor = std::make_unique<OutputEditor>(&m_project, &m_access, &m_messages, actions);
+    m_outputEditor =
+        std::make_unique<OutputEditor>(&m_project, &m_access, &m_messages, m_panes->output);
     m_outputScript = std::make_unique<OutputScript>(&m_project, m_outputEditor.get(), &m_messages,
                                                     m_panes->script, m_panes->sheets);
     m_textOutputEditor =
@@ -101,7 +103,7 @@ void MainWindow::connectActions()
     on(m_actions->exportSheets, [this] { m_outputScript->exportSheets(); });
     on(m_actions->quit, &MainWindow::close);
     on(m_actions->design, [this] { m_designEditor->edit(); });
-    on(m_actions->output, &MainWindow::showOutput);
+    on(m_actions->output, [this] { m_outputEditor->edit(); });
     on(m_actions->textOutput, [this] { m_textOutputEditor->show(); });
     on(m_actions->sheet, [this] { m_panes->showSheets(); });
     on(m_actions->german, [this] { setLanguage(vkd::Language::German); });
@@ -129,7 +131,6 @@ void MainWindow::connectProject()
     connect(m_designEditor.get(), &DesignEditor::pageChanged, m_rowsInView.get(),
             &RowsInView::pageChanged);
     connect(m_outputEditor.get(), &OutputEditor::modified, this, &MainWindow::showModified);
-    connect(m_outputEditor.get(), &OutputEditor::refused, this, &MainWindow::showOutput);
     connect(m_textOutputEditor.get(), &TextOutputEditor::modified, this, &MainWindow::showModified);
     connect(m_outputScript.get(), &OutputScript::refreshed, this, [this](bool isEmpty) {
         showModified();
@@ -193,7 +194,8 @@ void MainWindow::setTitle()
 void MainWindow::enableActions()
 {
     m_actions->enable(m_project.isOpen(), m_project.file() == ProjectWatch::File::Missing);
-    m_panes->design->toggleViewAction()->setEnabled(m_project.isOpen());
+    for (const AskingDock* dock : m_panes->projectDocks())
+        dock->toggleViewAction()->setEnabled(m_project.isOpen());
 }
 
 void MainWindow::showReplaced()
@@ -264,23 +266,17 @@ bool MainWindow::followOthers()
         return true;
     m_project.markFollowed();
     showRecords();
-    if (m_outputEditor->followOthers())
-        m_outputScript->refresh();
+    m_outputEditor->followOthers();
     return m_designEditor->followOthers();
 }
 
 void MainWindow::showModified()
 {
-    setWindowModified(m_designEditor->isChanged() || m_outputEditor->isChanged() ||
+    const bool isOutputChanged = m_outputEditor->markChanges();
+    setWindowModified(isOutputChanged || m_designEditor->isChanged() ||
                       m_textOutputEditor->isChanged());
     if (!m_designEditor->isChanged())
         m_panes->news->setRowsCurrent();
-}
-
-/// Places the dialog next to the script, so that the user sees the effect of each click.
-void MainWindow::showOutput()
-{
-    m_outputEditor->show(m_panes->leftDocks());
 }
 
 /// Dialogs translate their strings only when they are created, so open dialogs are replaced.

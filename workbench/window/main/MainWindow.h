@@ -66,7 +66,6 @@ private:
     void showNews();
     bool followOthers();
     void showModified();
-    void showOutput();
     void setLanguage(vkd::Language language);
 
     WindowActions* m_actions;

@@ -7,7 +7,9 @@
 #include "window/main/DockShares.h"
 #include "window/main/GroupList.h"
 #include "window/main/GroupPane.h"
+#include "window/main/OutputRoom.h"
 #include "window/main/WindowActions.h"
+#include "window/output/OutputDock.h"
 #include "window/records/RecordsPane.h"
 #include "window/script/ScriptPane.h"
 #include "window/support/HelpKey.h"
@@ -27,7 +29,7 @@
 namespace workbench {
 
 namespace {
-constexpr int StateVersion = 1;
+constexpr int StateVersion = 2;
 const QString GeometryKey = QStringLiteral("geometry");
 const QString StateKey = QStringLiteral("state");
 
@@ -53,6 +55,7 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     , script(new ScriptPane(actions.copyScript, actions.saveScript, window))
     , sheets(new SheetPreview(actions.exportSheets, window))
     , design(new DesignDock(actions.editMenu, window))
+    , output(new OutputDock(window))
     , m_window(window)
 {
     addCentre();
@@ -85,15 +88,20 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_groupDock = addDock(m_window, Qt::LeftDockWidgetArea, groupPane, "GroupDock");
     m_scriptDock = addDock(m_window, Qt::RightDockWidgetArea, script, "ScriptDock");
     m_sheetDock = addDock(m_window, Qt::RightDockWidgetArea, sheets, "SheetDock");
-    m_recordDock = addDock(m_window, Qt::BottomDockWidgetArea, nullptr, "RecordDock");
+    m_recordDock = addDock(m_window, Qt::RightDockWidgetArea, nullptr, "RecordDock");
     m_window->addDockWidget(Qt::BottomDockWidgetArea, design);
-    design->hide();
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, output);
+    for (AskingDock* dock : projectDocks())
+        dock->hide();
     for (const QDockWidget* dock : std::initializer_list<const QDockWidget*>{
-             m_groupDock, design, m_scriptDock, m_sheetDock, m_recordDock})
+             m_groupDock, output, design, m_scriptDock, m_sheetDock, m_recordDock})
         actions.viewMenu->addAction(dock->toggleViewAction());
     connect(design, &QDockWidget::visibilityChanged, this, &WindowPanes::makeRoomForDesign);
     m_window->tabifyDockWidget(m_scriptDock, m_sheetDock);
+    m_window->tabifyDockWidget(m_sheetDock, m_recordDock);
     m_scriptDock->raise();
+    connect(output, &QDockWidget::visibilityChanged, this, &WindowPanes::placeOutput);
+    new OutputRoom({m_window, output, m_groupDock, m_scriptDock, {news, banner}}, this);
 }
 
 /// The list of groups needs no additional space in a larger window, so its dock has no share.
@@ -105,26 +113,36 @@ void WindowPanes::resizeDocks()
     m_window->resizeDocks({m_groupDock, m_scriptDock},
                           {qMin(45 * letter, width / 4), qMin(60 * letter, width / 3)},
                           Qt::Horizontal);
-    m_window->resizeDocks({m_recordDock}, {10 * metrics.height()}, Qt::Vertical);
     auto shares = new DockShares(m_window);
-    shares->add({m_scriptDock, m_sheetDock}, Qt::Horizontal);
-    shares->add({m_recordDock, design}, Qt::Vertical);
+    shares->add({m_scriptDock, m_sheetDock, m_recordDock}, Qt::Horizontal);
+    shares->add({design}, Qt::Vertical);
 }
 
 /// The page is wide, and it needs a few rows. While its dock is closed, the script has the whole
-/// height.
+/// height. When it opens, the model, whose groups the page highlights, becomes visible.
 void WindowPanes::makeRoomForDesign()
 {
     const bool isBelow = !design->isHidden() && !design->isFloating();
     m_window->setCorner(Qt::BottomRightCorner,
                         isBelow ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea);
+    if (std::exchange(m_isDesignBelow, isBelow) != isBelow && isBelow)
+        m_groupDock->raise();
     if (!isBelow || std::exchange(m_isDesignPlaced, true))
         return; // later, the user decides about the place and the height
-    if (!m_isStateRestored)
-        m_window->tabifyDockWidget(m_recordDock, design);
     const int wanted = qMin(18 * m_window->fontMetrics().height(), m_window->height() * 2 / 5);
     if (design->height() < wanted)
         m_window->resizeDocks({design}, {wanted}, Qt::Vertical);
+}
+
+/// Tabs the page with the groups when it is first shown, because there is no room for both. Doing
+/// this earlier would show a tab bar with a single tab.
+void WindowPanes::placeOutput()
+{
+    if (output->isHidden() || std::exchange(m_isOutputPlaced, true))
+        return;
+    if (m_window->dockWidgetArea(output) == m_window->dockWidgetArea(m_groupDock) &&
+        m_window->tabifiedDockWidgets(output).isEmpty() && !output->isFloating())
+        m_window->tabifyDockWidget(m_groupDock, output);
 }
 
 void WindowPanes::setTexts()
@@ -136,6 +154,7 @@ void WindowPanes::setTexts()
     m_sheetDock->setWindowTitle(tr("Sheet"));
     m_recordDock->setWindowTitle(tr("Records"));
     design->setTexts();
+    output->setTexts();
     nameTabBars();
 }
 
@@ -172,18 +191,18 @@ void WindowPanes::showSheets()
     sheets->setFocus();
 }
 
-QPoint WindowPanes::leftDocks() const
+QList<AskingDock*> WindowPanes::projectDocks() const
 {
-    return m_window->mapToGlobal(m_groupDock->pos());
+    return {design, output};
 }
 
 void WindowPanes::restoreGeometry()
 {
     const WindowSettings settings;
     m_window->restoreGeometry(settings.value(GeometryKey).toByteArray());
-    m_isStateRestored =
-        m_window->restoreState(settings.value(StateKey).toByteArray(), StateVersion);
-    design->hide(); // until a project is open and the user opens the dock
+    m_window->restoreState(settings.value(StateKey).toByteArray(), StateVersion);
+    for (AskingDock* dock : projectDocks())
+        dock->hide(); // until a project is open and the user opens the dock
 }
 
 void WindowPanes::saveGeometry() const

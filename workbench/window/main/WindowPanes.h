@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 
 class AnimatorView;
@@ -9,10 +10,12 @@ class QWidget;
 
 namespace workbench {
 
+class AskingDock;
 class ChangeBar;
 class DesignDock;
 class GroupList;
 class GroupPane;
+class OutputDock;
 class PickBanner;
 class RecordsPane;
 class ScriptPane;
@@ -37,8 +40,8 @@ public:
     RecordsPane* records();
     /// Raises the sheet preview above other docks and gives it the focus.
     void showSheets();
-    /// Returns the top left corner of the dock with the groups, in screen coordinates.
-    QPoint leftDocks() const;
+    /// Returns the docks that show parts of the project and need a project.
+    QList<AskingDock*> projectDocks() const;
     /// These functions restore and save the geometry of the window and its docks in the program
     /// settings.
     void restoreGeometry();
@@ -55,6 +58,7 @@ public:
     ScriptPane* const script;
     SheetPreview* const sheets;
     DesignDock* const design;
+    OutputDock* const output;
 
 Q_SIGNALS:
     /// Emitted when the sheet preview becomes visible or invisible to the user.
@@ -65,6 +69,7 @@ private:
     void addDocks(const WindowActions& actions);
     void resizeDocks();
     void makeRoomForDesign();
+    void placeOutput();
     void nameTabBars();
 
     QMainWindow* m_window;
@@ -73,8 +78,9 @@ private:
     QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;
     RecordsPane* m_records = nullptr;
-    bool m_isStateRestored = false;
+    bool m_isDesignBelow = false;
     bool m_isDesignPlaced = false;
+    bool m_isOutputPlaced = false;
 };
 
 } // namespace workbench

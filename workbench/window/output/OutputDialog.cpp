@@ -4,12 +4,12 @@
 #include "window/output/OutputOffers.h"
 #include "window/output/TreeViewMemory.h"
 #include "window/support/HelpKey.h"
-#include "window/support/WindowGeometry.h"
-#include "window/support/withinScreen.h"
 
 #include <AnimatorView.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_WidgetGraphicalOutput>
+#include <VKD_QT_InputField.h>
+#include <VKD_QT_Ok.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_qt_xmlpart.h>
 
@@ -17,9 +17,9 @@
 #include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
-#include <QShowEvent>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -71,15 +71,14 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     , m_plots(m_page->findChild<QTreeWidget*>())
     , m_offers(new OutputOffers(document->handle(), m_page, m_view, this))
 {
-    setWindowTitle(tr("Graphical Output"));
+    setWindowFlags(Qt::Widget);
+    setAttribute(Qt::WA_Moved); // otherwise a dialog moves to the centre of its parent
     setHelpTopic(this, "GRAV/OUTPUT");
     setHelpTopic(m_page, "GRAV/SETTINGS");
     setHelpTopic(m_plots, "GRAV/PLOTS");
-    setModal(false);
-    resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 40});
-    new WindowGeometry(this);
     m_changes.setSingleShot(true);
     connect(&m_changes, &QTimer::timeout, this, &OutputDialog::choiceChanged);
+    setButtons();
     addTabs();
     restore(saved);
     listen();
@@ -88,25 +87,63 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
 }
 
 /// Destroys the page before the timer, because the page's widgets emit signals while they are
-/// destroyed. Before that, hides the dialog, which saves the view of the tree.
+/// destroyed. Before that, hides the tabs, which saves the view of the tree.
 OutputDialog::~OutputDialog()
 {
     hide();
     delete m_page;
 }
 
-/// Gives the focus to the tree each time the dialog opens, even if OK had it before.
-void OutputDialog::showEvent(QShowEvent* event)
+void OutputDialog::setButtons()
 {
-    if (!event->spontaneous() && tabWidget()->currentWidget()->isAncestorOf(m_plots))
+    layout()->setContentsMargins(0, 0, 0, 0); // those of the dock
+    QPushButton* apply = buttons()->cmdOk();
+    apply->setText(tr("&Apply"));
+    apply->setToolTip(tr("Stores the choice of plots in the project file"));
+    buttons()->cmdCancel()->setText(tr("Dis&card"));
+    buttons()->cmdCancel()->setToolTip(tr("Returns to the choice of plots in the project file"));
+    for (QPushButton* button : {apply, buttons()->cmdCancel()}) {
+        button->setDefault(false);
+        button->setAutoDefault(false);
+    }
+    enableButtons(false);
+}
+
+void OutputDialog::enableButtons(bool isChanged)
+{
+    buttons()->cmdOk()->setEnabled(isChanged);
+    buttons()->cmdCancel()->setEnabled(isChanged);
+}
+
+void OutputDialog::enter()
+{
+    if (tabWidget()->currentWidget()->isAncestorOf(m_plots))
         m_plots->setFocus();
-    VKD_H_TabDialog::showEvent(event);
+    else
+        tabWidget()->setFocus();
+}
+
+/// Keeps the tabs visible. A field that rejects its text gets the focus.
+void OutputDialog::done(int result)
+{
+    if (result == Rejected)
+        Q_EMIT rejected();
+    else if (!vkd_qt_leadToRefusedField(this))
+        Q_EMIT accepted();
+}
+
+/// Escape and Return do not discard or apply the choice, as they would in a dialog.
+void OutputDialog::keyPressEvent(QKeyEvent* event)
+{
+    event->ignore();
 }
 
 void OutputDialog::addTabs()
 {
     auto plots = new QWidget(this);
-    (new QVBoxLayout(plots))->addWidget(m_page); // the page has no margins of its own
+    auto layout = new QVBoxLayout(plots);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addWidget(m_page);
     addTab(plots, tr("Plots"));
     addTab(m_offers->loadCaseTab(), tr("Load cases"));
     addTab(m_offers->contentTab(), tr("Contents"));
@@ -226,7 +263,7 @@ void OutputDialog::finishChanges()
 
 OutputPresent OutputDialog::present()
 {
-    return {state(), isChanged(), isVisible(), tabWidget()->currentIndex(), TreeViewState(m_plots)};
+    return {state(), isChanged(), tabWidget()->currentIndex(), TreeViewState(m_plots)};
 }
 
 void OutputDialog::setPresent(const OutputPresent& present)
@@ -234,7 +271,6 @@ void OutputDialog::setPresent(const OutputPresent& present)
     if (present.isChanged)
         m_unchanged.clear();
     tabWidget()->setCurrentIndex(present.tab);
-    setVisible(present.isVisible);
     present.plots.restore(m_plots); // after the tree has been resized
 }
 

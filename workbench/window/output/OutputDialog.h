@@ -24,14 +24,14 @@ struct OutputPresent
 {
     OutputState state;
     bool isChanged;
-    bool isVisible;
     int tab;
     TreeViewState plots;
 };
 
-/// The modeless dialog for the graphical output of a project. Its tabs contain the page with its
-/// own view, the offered load cases, and plots that are offered although the model lacks their
-/// content. OK only hides the dialog, because it creates the script of the current selection.
+/// The tabs for the graphical output of a project, which OutputDock shows. They contain the page
+/// with its own view, the offered load cases, and plots that are offered although the model lacks
+/// their content. The class is a dialog because the page looks for a tab dialog among its
+/// ancestors. Apply emits accepted() and Discard emits rejected(); neither hides the tabs.
 class OutputDialog : public VKD_H_TabDialog
 {
     Q_OBJECT
@@ -52,6 +52,10 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
+    /// Enables Apply and Discard.
+    void enableButtons(bool isChanged);
+    /// Gives the focus to the tree of plots, or to the first field if another tab is shown.
+    void enter();
     /// Frees the memory of the plots. After this call, the dialog can only be destroyed.
     void removePlots();
     /// Emits a pending choiceChanged() immediately.
@@ -63,15 +67,17 @@ public:
     void setPresent(const OutputPresent& present);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void done(int result) override;
 
 Q_SIGNALS:
     /// Emitted after changes that affect the script, only once for all changes made by one event.
     void choiceChanged();
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void setButtons();
     void addTabs();
     void restore(const OutputState& state);
     void listen();

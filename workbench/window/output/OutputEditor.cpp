@@ -1,25 +1,35 @@
 #include "window/output/OutputEditor.h"
 
 #include "window/output/OutputDialog.h"
+#include "window/output/OutputDock.h"
 #include "window/support/ProjectAccess.h"
 #include "window/support/SlowWork.h"
 #include "window/support/WindowMessages.h"
-#include "window/support/withinScreen.h"
 
-#include <QMainWindow>
+#include <QAction>
 
 namespace workbench {
 
 OutputEditor::OutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
-                           const QList<QAction*>& actions)
+                           OutputDock* dock)
     : m_project(project)
     , m_access(access)
     , m_messages(messages)
-    , m_actions(actions)
+    , m_dock(dock)
 {
+    m_dock->setMayClose([this] { return mayLeave(); });
+    connect(m_dock, &OutputDock::closed, this, &OutputEditor::leave);
+    connect(m_dock->toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
+        if (isShown)
+            edit();
+    });
 }
 
-OutputEditor::~OutputEditor() = default;
+/// Destroys the dialog before the project that it uses.
+OutputEditor::~OutputEditor()
+{
+    close();
+}
 
 OutputDialog* OutputEditor::dialog()
 {
@@ -43,18 +53,11 @@ bool OutputEditor::isChanged() const
 void OutputEditor::create(const OutputState& state)
 {
     const WaitCursor cursor;
-    m_dialog = std::make_unique<OutputDialog>(m_project->document(), state, m_messages->window());
-    m_dialog->addActions(m_actions);
+    m_dialog = std::make_unique<OutputDialog>(m_project->document(), state, m_dock);
+    m_dock->setDialog(m_dialog.get());
     connect(m_dialog.get(), &OutputDialog::choiceChanged, this, &OutputEditor::choiceChanged);
-    connect(m_dialog.get(), &QDialog::accepted, this, [this] {
-        if (!store())
-            Q_EMIT refused();
-    });
-    connect(m_dialog.get(), &QDialog::rejected, this, [this] {
-        closeLater();
-        m_messages->say(tr("The choice of plots is again that of the project."));
-        Q_EMIT choiceChanged();
-    });
+    connect(m_dialog.get(), &QDialog::accepted, this, &OutputEditor::store);
+    connect(m_dialog.get(), &QDialog::rejected, this, &OutputEditor::discard);
 }
 
 void OutputEditor::recreate(const OutputPresent& before)
@@ -65,31 +68,41 @@ void OutputEditor::recreate(const OutputPresent& before)
 
 void OutputEditor::close()
 {
+    m_dock->setDialog(nullptr);
     m_dialog.reset();
 }
 
-/// Destroys the dialog later, because it may be closing at the moment. Its plots are removed first:
-/// with thousands of load cases they take hundreds of megabytes, and the next dialog may be created
-/// before this one is destroyed.
+/// Destroys the dialog later, because one of its buttons may have called this function. Its plots
+/// are removed first: with thousands of load cases they take hundreds of megabytes, and the next
+/// dialog may be created before this one is destroyed.
 void OutputEditor::closeLater()
 {
     m_dialog->disconnect(this);
+    m_dock->setDialog(nullptr);
     m_dialog->removePlots();
     m_dialog.release()->deleteLater();
 }
 
-void OutputEditor::show(const QPoint& place)
+void OutputEditor::edit()
 {
     const bool isFirst = !m_dialog;
     if (!dialog())
-        return;
+        return m_dock->hide();
     if (isFirst)
         Q_EMIT choiceChanged();
-    if (!m_dialog->testAttribute(Qt::WA_Moved))
-        moveWithinScreen(m_dialog.get(), place);
-    m_dialog->show();
-    m_dialog->raise();
-    m_dialog->activateWindow();
+    m_dock->show();
+    m_dock->raise();
+    m_dock->activateWindow();
+    m_dialog->enter();
+}
+
+bool OutputEditor::markChanges()
+{
+    const bool areChanges = isChanged();
+    m_dock->setWindowModified(areChanges);
+    if (m_dialog)
+        m_dialog->enableButtons(areChanges);
+    return areChanges;
 }
 
 bool OutputEditor::store()
@@ -108,14 +121,30 @@ bool OutputEditor::store()
     return true;
 }
 
+/// Replaces the dialog with one that has the state of the project. The new dialog is created when
+/// the script is updated.
 void OutputEditor::reload()
 {
     OutputPresent present = m_dialog->present();
     present.isChanged = false;
     closeLater();
-    if (dialog())
-        m_dialog->setPresent(present);
     Q_EMIT choiceChanged();
+    if (m_dialog)
+        m_dialog->setPresent(present);
+}
+
+void OutputEditor::discard()
+{
+    reload();
+    if (m_dialog)
+        m_messages->say(tr("The choice of plots is again that of the project."));
+}
+
+/// Discards the changes that the user did not want to store when the dock was closed.
+void OutputEditor::leave()
+{
+    if (isChanged())
+        discard();
 }
 
 bool OutputEditor::mayLeave()
@@ -126,13 +155,10 @@ bool OutputEditor::mayLeave()
                                 [this] { return store(); });
 }
 
-bool OutputEditor::followOthers()
+void OutputEditor::followOthers()
 {
-    if (!m_dialog || m_dialog->isVisible() || m_dialog->isChanged() ||
-        !m_project->isOutdated(ProjectPart::Output))
-        return false;
-    closeLater();
-    return true;
+    if (m_dialog && !m_dialog->isChanged() && m_project->isOutdated(ProjectPart::Output))
+        reload();
 }
 
 } // namespace workbench

@@ -5,29 +5,27 @@
 #include <memory>
 #include <optional>
 
-class QAction;
-class QPoint;
-
 namespace workbench {
 
 class OpenProject;
 class OutputDialog;
+class OutputDock;
 struct OutputPresent;
 struct OutputState;
 class ProjectAccess;
 class WindowMessages;
 
-/// Edits the graphical output of the open project: owns its dialog, and reads and stores its state.
-/// The dialog also exists while it is hidden, because it creates the script.
+/// Edits the graphical output of the open project: owns the dialog in the dock, and reads and
+/// stores its state. The dialog also exists while the dock is closed, because it creates the
+/// script.
 class OutputEditor : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The arguments are not owned and must outlive the editor. The window's actions also work in
-    /// the dialog.
+    /// The arguments are not owned and must outlive the editor.
     OutputEditor(OpenProject* project, ProjectAccess* access, WindowMessages* messages,
-                 const QList<QAction*>& actions);
+                 OutputDock* dock);
     ~OutputEditor() override;
 
     /// Returns whether the dialog exists.
@@ -44,33 +42,35 @@ public:
     /// Asks whether to store changes. Returns false if the user cancels or storing fails.
     bool mayLeave();
 
-    /// Shows the dialog. `place` is its screen position when it is first shown.
-    void show(const QPoint& place);
+    /// Opens the dock, if the project can be read, and gives it the focus.
+    void edit();
+    /// Marks unsaved changes in the title of the dock. Returns whether there are any.
+    bool markChanges();
     /// Creates a new dialog with the state of a previous dialog.
     void recreate(const OutputPresent& before);
     /// Destroys the dialog without asking.
     void close();
-    /// Destroys the dialog if another program has stored a newer state, and the dialog is hidden
-    /// and unchanged. Returns whether the dialog was destroyed.
-    bool followOthers();
+    /// Reads the project again if another program has stored a newer state and the dialog is
+    /// unchanged.
+    void followOthers();
 
 Q_SIGNALS:
     /// Emitted when the script has to be updated.
     void choiceChanged();
     /// Emitted when isChanged() may have changed.
     void modified();
-    /// Emitted if OK could not store the selection. The dialog must be shown again.
-    void refused();
 
 private:
     void create(const OutputState& state);
     void closeLater();
     void reload();
+    void discard();
+    void leave();
 
     OpenProject* m_project;
     ProjectAccess* m_access;
     WindowMessages* m_messages;
-    QList<QAction*> m_actions;
+    OutputDock* m_dock;
     std::unique_ptr<OutputDialog> m_dialog;
 };
 

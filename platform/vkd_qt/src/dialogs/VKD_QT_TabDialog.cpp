@@ -45,8 +45,8 @@ void VKD_QT_TabDialog::chainButtons()
 {
     QWidget* last = m_tabs;
     for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
-        if ((widget->focusPolicy() & Qt::TabFocus) && widget->window() == this &&
-            !m_ok->isAncestorOf(widget))
+        if ((widget->focusPolicy() & Qt::TabFocus) && widget->window() == window() &&
+            isAncestorOf(widget) && !m_ok->isAncestorOf(widget))
             last = widget;
     for (QWidget* button : {m_ok->cmdOk(), m_ok->cmdCancel()}) {
         setTabOrder(last, button);
@@ -54,11 +54,12 @@ void VKD_QT_TabDialog::chainButtons()
     }
 }
 
-/// Moves the focus to the first field of the page. Otherwise the default button would have focus.
+/// Moves the focus to the first field of the page. Otherwise the default button would have focus. A
+/// dialog that is embedded in a window does not take the focus from other parts of the window.
 void VKD_QT_TabDialog::enterPage()
 {
     const QWidget* page = m_tabs->currentWidget();
-    if (!page || focusWidget())
+    if (!page || focusWidget() || !isWindow())
         return;
     for (QWidget* widget = m_tabs->nextInFocusChain(); widget != m_tabs;
          widget = widget->nextInFocusChain())

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+#include <QWidgetList>
+
+class QDockWidget;
+class QMainWindow;
+
+namespace workbench {
+
+class OutputDock;
+
+/// Gives the docked output page the room that it needs beside the script. In a window that is too
+/// narrow for the page, the model and the script, the page takes the place of the model, because it
+/// has a view of its own. The model is shown again while another dock covers the page.
+class OutputRoom : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The widgets that the object uses.
+    struct Widgets
+    {
+        QMainWindow* window;
+        OutputDock* output;
+        QDockWidget* groups; ///< is tabbed with the page
+        QDockWidget* script;
+        QWidgetList messages; ///< in the centre of the window, which stays visible for them
+    };
+
+    /// The owner must destroy the object before the window destroys the widgets.
+    OutputRoom(const Widgets& widgets, QObject* owner);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setShown(bool isShown);
+    void arrange();
+    void restore();
+    bool isDocked() const;
+    bool showsModel() const;
+
+    Widgets m_widgets;
+    bool m_isShown = false; ///< whether the user sees the page
+    // The widths of the other docks before the page was shown; 0 if they need not be restored.
+    int m_groupWidth = 0;
+    int m_scriptWidth = 0;
+};
+
+} // namespace workbench

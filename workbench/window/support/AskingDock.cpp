@@ -1,0 +1,30 @@
+#include "window/support/AskingDock.h"
+
+#include <QAction>
+#include <QCloseEvent>
+
+namespace workbench {
+
+AskingDock::AskingDock(const QString& name, QWidget* parent)
+    : QDockWidget(parent)
+{
+    setObjectName(name);
+}
+
+void AskingDock::setTitle(const QString& title)
+{
+    setWindowTitle(title + QLatin1String("[*]"));
+}
+
+/// If the dock stays open, the action that closes it must stay checked.
+void AskingDock::closeEvent(QCloseEvent* event)
+{
+    if (m_mayClose && !m_mayClose()) {
+        event->ignore();
+        return toggleViewAction()->setChecked(true);
+    }
+    QDockWidget::closeEvent(event);
+    Q_EMIT closed();
+}
+
+} // namespace workbench
