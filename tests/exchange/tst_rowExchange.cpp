@@ -200,7 +200,10 @@ private Q_SLOTS:
         row("real", "hio", 0.04, "Distance H principal 40.0 mm");
         row("lower side", "hiu", 0.04, "Distance H principal  40.0 mm");
         row("not set", "wko", QVariant(), "Crack width principal – mm");
-        row("type", "type", 2.0, "Type Two Layers");
+        row("first type", "type", 0.0, "Type No design");
+        row("last type", "type", 4.0, "Type Circular");
+        row("above the last type", "type", 5.0, "\"5\" is not a type.");
+        row("below the first type", "type", -1.0, "\"-1\" is not a type.");
         row("no type", "type", 1.5, "\"1.5\" is not a type.");
         row("type out of range", "type", 1e20, "\"1e+20\" is not a type.");
         row("unknown", "group", 1, "There is no parameter \"group\".");

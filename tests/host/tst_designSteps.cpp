@@ -265,10 +265,21 @@ private Q_SLOTS:
         list->view()->setCurrentIndex(list->model()->index(3, 0));
         QTest::keyClick(list->view(), Qt::Key_Enter);
         QTRY_COMPARE(types(), QStringLiteral("Two Layers (orthogonal)|Three Layers|Three Layers"));
-        for (QAction* entry : find<QAction>(*desk.page, "rowType")->menu()->actions())
+        QMenu* menu = find<QAction>(*desk.page, "rowType")->menu();
+        const auto checked = [menu] {
+            QStringList texts;
+            Q_EMIT menu->aboutToShow();
+            for (const QAction* entry : menu->actions())
+                texts << (entry->isChecked() ? entry->text() : QString());
+            return texts.join(QString());
+        };
+        QCOMPARE(checked(), QStringLiteral("Three Layers"));
+        for (QAction* entry : menu->actions())
             if (entry->text() == QLatin1String("Circular"))
                 entry->trigger();
         QCOMPARE(types(), QStringLiteral("Two Layers (orthogonal)|Circular|Circular"));
+        desk.table()->setRangeSelected({0, 1, 2, 1}, true);
+        QCOMPARE(checked(), QString());
         for (int step = 0; step < 2; ++step) {
             QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
                      QStringLiteral("&Undo Type of 2 rows"));

@@ -161,6 +161,17 @@ private Q_SLOTS:
             desk.page.readXMLstring(part("Scale", "0")); // contains no camera
             QCOMPARE(commands(sent), QStringLiteral("7"));
             QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1), camera);
+            using Page = VKD_P_WidgetGraphicalOutput;
+            const std::pair<void (Page::*)(AnimatorViewControl, double), bool> signalsToView[] = {
+                {&Page::signalBeobXY, true},
+                {&Page::signalBeobXZ, false},
+                {&Page::signalBeobYZ, true},
+                {&Page::signalBeob3D, true}};
+            for (const auto& [signal, isConnected] : signalsToView) {
+                vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera());
+                (desk.page.*signal)(AnimatorStoreCamera, 0.0);
+                QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, 1) == camera, isConnected);
+            }
         }
         QCOMPARE(animator->parentWidget(), &home); // not destroyed with the page
     }

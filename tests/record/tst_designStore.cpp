@@ -197,6 +197,28 @@ private Q_SLOTS:
         QCOMPARE(text(rows), QStringLiteral("-1:1 1:4 :0 5:2"));
     }
 
+    /// Row 0 is reserved, and the number of a row may be outdated.
+    void operationsOfARow()
+    {
+        plib::DesignParameterData rows = data();
+        for (int group : {-1, 1, 2, 3})
+            rows.rows.push_back({nullptr, record(group, 0), {group}});
+        rows.rows[2].record.type = plib::NoDesign;
+        QString texts;
+        for (int row = -1; row <= 4; ++row)
+            texts +=
+                QStringLiteral("%1%2%3%4%5<%6>%7 ")
+                    .arg(row)
+                    .arg(plib::mayMoveUp(rows, row) ? QStringLiteral("u") : QString(),
+                         plib::mayMoveDown(rows, row) ? QStringLiteral("d") : QString(),
+                         plib::listsAfterAssigning(rows, row, {5}).empty() ? QString()
+                                                                           : QStringLiteral("a"),
+                         plib::commonType(rows, {row}) ? QStringLiteral("t") : QString())
+                    .arg(plib::designRowBeside(rows, row, -1))
+                    .arg(plib::designRowBeside(rows, row, 1));
+        QCOMPARE(texts, QStringLiteral("-1<-1>0 0t<-1>1 1dat<0>3 2udat<1>3 3uat<1>-1 4<3>-1 "));
+    }
+
     void newRows()
     {
         auto rows = data();

@@ -142,6 +142,15 @@ private Q_SLOTS:
         QTest::mouseClick(desk.tree->viewport(), Qt::LeftButton, {},
                           desk.tree->visualItemRect(slabs).topLeft() + box);
         QCOMPARE(slabs->checkState(0), Qt::PartiallyChecked);
+        desk.words()->setText(QStringLiteral("mom")); // whole plots
+        desk.tree->setCurrentItem(desk.tree->topLevelItem(0));
+        for (const auto& [key, state] :
+             {std::pair(Qt::Key_Space, Qt::Checked), {Qt::Key_Space, Qt::Unchecked}}) {
+            QTest::keyClick(desk.tree, key);
+            QCOMPARE(slabs->checkState(0), state);
+            QCOMPARE(slabs->child(1)->child(11)->checkState(0), state);
+            QVERIFY(!desk.tree->topLevelItem(0)->child(1)->checkState(0));
+        }
         slabs->setCheckState(0, Qt::Checked); // by the program: everything
         QCOMPARE(slabs->child(1)->child(0)->checkState(0), Qt::Checked);
         slabs->setCheckState(0, Qt::Unchecked);

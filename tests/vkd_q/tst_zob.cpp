@@ -232,6 +232,14 @@ private Q_SLOTS:
         QCOMPARE(readAll(m_first), (Records{"other", "old 1"}));
     }
 
+    void snapshotDuringAWrite()
+    {
+        beginLargeChange(m_second);
+        QCOMPARE(m_log->once(ZobSnapshot(ZobHandle(m_first)).status().code), VKD_ZOB_LOCKED);
+        vkd_zob_free_ex(m_second, 1, 1);
+        QVERIFY(ZobSnapshot(ZobHandle(m_first)).status().isOk());
+    }
+
     void closingEndsSnapshotsAndTransactions()
     {
         const ZobSnapshot snapshot{ZobHandle(m_first)};
