@@ -4,16 +4,34 @@
 #include "VKD_QT_Layouts.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QPushButton>
 
 namespace {
 constexpr int OkBit = 1;
 constexpr int CancelBit = 2;
+
+/// The base class restores Qt's own texts when the language changes.
+class TranslatedButtonBox : public QDialogButtonBox
+{
+public:
+    using QDialogButtonBox::QDialogButtonBox;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        const bool isHandled = QDialogButtonBox::event(event);
+        if (event->type() == QEvent::LanguageChange)
+            for (QAbstractButton* button : buttons())
+                vkd::qt::translateStandardButton(button);
+        return isHandled;
+    }
+};
 } // namespace
 
 VKD_QT_Ok::VKD_QT_Ok(QWidget* parent, int buttons, const char* name)
     : QWidget(parent)
-    , m_buttons(new QDialogButtonBox(this))
+    , m_buttons(new TranslatedButtonBox(this))
 {
     setObjectName(QLatin1String(name));
     if (buttons & OkBit)
