@@ -92,8 +92,8 @@ private Q_SLOTS:
         row("nothing", "", "There is no row below the heads.");
         row("minimum above the maximum",
             "Minimum reinforcement lower cross [cm²/m]\tMaximum reinforcement lower cross [cm²/m]"
-            "\n1\t1\n2\t1",
-            "Row 3, Minimum reinforcement lower cross [cm²/m]: the minimum is greater than the "
+            "\n2\t1",
+            "Row 2, Minimum reinforcement lower cross [cm²/m]: the minimum is greater than the "
             "maximum.");
     }
 
@@ -109,6 +109,17 @@ private Q_SLOTS:
         for (std::size_t i = 0; lines.size() == int(i) && i < rows.size(); ++i)
             lines << QStringLiteral("%1 %2").arg(rows[i].record.hio).arg(rows[i].record.type);
         QTEST(lines.join(QLatin1Char('|')), "expected");
+    }
+
+    void limits()
+    {
+        for (std::size_t i = 0; i < fields::Minimum.size(); ++i)
+            for (float maximum : {1.0F, 2.0F, NotSet}) {
+                tagZOB_QUAD_RIM record = getDefaultMerPara(true);
+                record.*fields::Minimum[i] = 2;
+                record.*fields::Maximum[i] = maximum;
+                QCOMPARE(limitFault(record, 1).isEmpty(), maximum != 1);
+            }
     }
 
     void pasting()

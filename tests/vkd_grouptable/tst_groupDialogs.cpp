@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QTreeView>
 
 using namespace testsupport;
 
@@ -51,7 +52,7 @@ Model sample()
 class Driver
 {
 public:
-    explicit Driver(QWidget* dialog)
+    explicit Driver(const QWidget* dialog)
         : m_dialog(dialog)
     {
     }
@@ -107,7 +108,7 @@ public:
     }
 
 private:
-    QWidget* m_dialog;
+    const QWidget* m_dialog;
 };
 
 /// Returns the result of the dialog after `act`, or -1 if the dialog is still open.
@@ -192,6 +193,10 @@ private Q_SLOTS:
                 cells += driver.cell(group, column).data().toString() +
                          QLatin1Char(column < 3 ? '|' : '\n');
         QCOMPARE(cells, wanted);
+        QVERIFY(!driver.find<QTreeView>("groups")->isColumnHidden(3));
+        Groups low{Low};
+        const VKD_H_SecondaryGroupDialog withoutRemarks(m_project.doc.get(), low, {}, nullptr);
+        QVERIFY(Driver(&withoutRemarks).find<QTreeView>("groups")->isColumnHidden(3));
         const QModelIndex title = driver.cell(QStringLiteral("3"), 1);
         QVERIFY(!title.data(Qt::ToolTipRole).toString().contains(QLatin1String("<b>")));
         QVERIFY(driver.cell(QStringLiteral("4"), 1).data(Qt::FontRole).value<QFont>().italic());
