@@ -8,7 +8,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 
 using namespace testsupport;
@@ -220,6 +222,47 @@ private Q_SLOTS:
         }
         desk.page.readXMLstring(states[0]); // another state is no step
         QVERIFY(!undo->isEnabled());
+    }
+
+    /// The line below the page is updated with the host's script, and otherwise by itself.
+    void countsAndWarning()
+    {
+        Desk desk(m_project);
+        Rows rows;
+        for (int number = 1; number <= 600; ++number)
+            rows.push_back({1, number, QString::number(number)});
+        desk.page.setUsedNumbersAndNames(rows);
+        desk.page.readXMLstring(part("List_4", "\nChecked:@SYS   $G00   ^G01\n"));
+        const QString script = desk.page.getTORVAL(true);
+        const auto line = desk.find<QLabel>("scriptCounts");
+        const auto counts = [line] { return line->accessibleName(); };
+        const QString text =
+            QStringLiteral("Plots: %1, pictures: %2, sheets: %3, script lines: %4");
+        QCOMPARE(counts(), text.arg(1).arg(1).arg(1).arg(script.count(QLatin1Char('\n'))));
+
+        QTreeWidgetItem* plot = desk.tree()->topLevelItem(1)->child(0)->child(0);
+        QCOMPARE(plot->childCount(), 600);
+        const auto click = [&](QMessageBox::StandardButton answer) {
+            desk.tree()->setCurrentItem(plot);
+            whenModal([answer](QWidget* box) {
+                qobject_cast<QMessageBox*>(box)->button(answer)->click();
+            });
+            QTest::keyClick(desk.tree(), Qt::Key_Space);
+            QCoreApplication::processEvents();
+            return plot->checkState(0);
+        };
+        QCOMPARE(click(QMessageBox::No), Qt::Unchecked);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(click(QMessageBox::Yes), Qt::Checked);
+        QTRY_VERIFY(counts().startsWith(QLatin1String("Plots: 2, pictures: 601, sheets: 301, ")));
+        for (const Qt::CheckState state : {Qt::Unchecked, Qt::Checked}) { // asks only once
+            QTest::keyClick(desk.tree(), Qt::Key_Space);
+            QCOMPARE(plot->checkState(0), state);
+        }
+        desk.choose("FormatGroup", 1);
+        QTRY_VERIFY(counts().contains(QLatin1String("sheets: 601, ")));
+        desk.page.readXMLstring(part("List_4", "\nUnchecked:@SYS\n"));
+        QTRY_COMPARE(counts(), QStringLiteral("No plot is checked, so there is no script."));
     }
 
     void savedAndRestored_data()

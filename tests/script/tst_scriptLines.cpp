@@ -12,8 +12,10 @@ Q_DECLARE_METATYPE(testsupport::Rows)
 static QString script(OutputNode* root, bool english, int progname, int kind)
 {
     std::vector<QString> lines{QStringLiteral("left over")};
-    const int count = plib::collectScriptLines(root, lines, plib::keywordsIf(english), progname,
-                                               [kind] { return kind; });
+    const int count =
+        plib::collectScriptLines(root, lines, plib::keywordsIf(english), progname, [kind] {
+            return kind;
+        }).count;
     QString text;
     for (const QString& line : lines)
         text += line + QLatin1Char('\n');
@@ -110,15 +112,18 @@ private Q_SLOTS:
     void origins()
     {
         OutputNode root;
-        testsupport::build(
-            &root,
-            testsupport::parse(line("A|B|B", "last-l", 2, 2, "g", "e") +
-                               line("A|B|C", " ", 0, 3, "g", "f") + line("A|D|E", " ", 0, 0)),
-            {{1, 7, QStringLiteral("7+9: a")}, {1, -4, QStringLiteral("-4")}, {1, 9, QStringLiteral("9")}});
+        testsupport::build(&root,
+                           testsupport::parse(line("A|B|B", "last-l", 2, 2, "g", "e") +
+                                              line("A|B|C", " ", 0, 3, "g", "f") +
+                                              line("A|D|E", " ", 0, 0)),
+                           {{1, 7, QStringLiteral("7+9: a")},
+                            {1, -4, QStringLiteral("-4")},
+                            {1, 9, QStringLiteral("9")}});
         std::vector<QString> lines;
-        plib::LineOrigins origins;
-        origins.count = plib::collectScriptLines(
-            &root, lines, plib::Keywords::English, 1, [] { return 0; }, &origins.starts);
+        const plib::LineOrigins origins =
+            plib::collectScriptLines(&root, lines, plib::Keywords::English, 1, [] { return 0; });
+        QCOMPARE(origins.plots, 2); // the second record reuses the first plot
+        QCOMPARE(origins.pictures, 4); // none for the row with a negative number
         QStringList found;
         for (int i = -1; i <= origins.count; ++i) {
             const OutputNode* item = plib::itemOfLine(&root, origins, i);

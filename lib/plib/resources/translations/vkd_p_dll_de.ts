@@ -776,6 +776,28 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
 </context>
 <context>
+    <name>plib::PictureWarning</name>
+    <message>
+        <source>Many Pictures</source>
+        <translation>Viele Bilder</translation>
+    </message>
+    <message>
+        <source>This click adds %1 pictures to the script. Is it intended?</source>
+        <translation>Dieser Klick fügt dem Skript %1 Bilder hinzu. Ist das gewollt?</translation>
+    </message>
+</context>
+<context>
+    <name>plib::CountsLine</name>
+    <message>
+        <source>No plot is checked, so there is no script.</source>
+        <translation>Es ist keine Grafik angekreuzt, daher gibt es kein Skript.</translation>
+    </message>
+    <message>
+        <source>Plots: %1, pictures: %2, sheets: %3, script lines: %4</source>
+        <translation>Grafiken: %1, Bilder: %2, Blätter: %3, Skriptzeilen: %4</translation>
+    </message>
+</context>
+<context>
     <name>plib::PageHistory</name>
     <message>
         <source>Font Size</source>

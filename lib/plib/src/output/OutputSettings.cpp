@@ -36,4 +36,16 @@ void chooseFormat(PageFormat format, OutputSettings* settings)
     settings->picturesId = picturesForFormat(format);
 }
 
+/// The setting for the number of pictures has no effect on landscape sheets.
+bool hasTwoPictures(const OutputSettings& settings)
+{
+    return settings.hasFormat && settings.formatId == PageFormat::Portrait &&
+           settings.picturesId == PagePictures::Two;
+}
+
+int sheetCount(int pictures, const OutputSettings& settings)
+{
+    return hasTwoPictures(settings) ? (pictures + 1) / 2 : pictures;
+}
+
 } // namespace plib

@@ -47,4 +47,9 @@ void chooseScale(int row, OutputSettings* settings);
 PagePictures picturesForFormat(PageFormat format);
 void chooseFormat(PageFormat format, OutputSettings* settings);
 
+/// Returns whether a sheet has two pictures.
+bool hasTwoPictures(const OutputSettings& settings);
+/// Returns the number of sheets that the pictures need.
+int sheetCount(int pictures, const OutputSettings& settings);
+
 } // namespace plib

@@ -1,11 +1,12 @@
 #include "VKD_P_WidgetGraphicalOutput.h"
 
-#include "tree/HostScript.h"
+#include "output/CountsLine.h"
 #include "output/PageHistory.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "script/PlatformScriptEnvironment.h"
 #include "search/PlotKeys.h"
 #include "tree/GraphicalOutputTreeWidget.h"
+#include "tree/HostScript.h"
 
 #include <AnimatorView.h>
 #include <VKD_H_Dialog.h>
@@ -40,6 +41,8 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
         connect(format, &QRadioButton::clicked, this, &VKD_P_WidgetGraphicalOutput::slotQuerFormat);
     findDialogs();
     data->history = std::make_unique<plib::PageHistory>(this, data.get());
+    connect(data->history.get(), &plib::PageHistory::stepped, data->counts,
+            &plib::CountsLine::change);
 }
 
 /// Returns the animator to its former parent. If that parent no longer exists, the animator is
@@ -85,6 +88,8 @@ void VKD_P_WidgetGraphicalOutput::layOut(QWidget* box)
     outer->setColumnStretch(1, 0);
     outer->addWidget(box, 0, 0, 1, 2);
     outer->addWidget(data->defaultButton, 1, 1);
+    data->counts = new plib::CountsLine(data.get(), this);
+    outer->addWidget(data->counts, 1, 0);
     chainTabs();
 }
 
@@ -162,7 +167,9 @@ QString VKD_P_WidgetGraphicalOutput::getTORVAL(const QString& additional, bool e
     const QString script =
         plib::outputScript(data->panel->settings(), lines, additional, plib::keywordsIf(english),
                            plib::PlatformScriptEnvironment(data->pluginParameter), &linesBefore);
-    data->tree->findChild<plib::HostScript*>()->setLinesBefore(linesBefore);
+    const auto host = data->tree->findChild<plib::HostScript*>();
+    host->setLinesBefore(linesBefore);
+    data->counts->count(host->origins(), script);
     return script;
 }
 

@@ -19,8 +19,9 @@ class VKD_QT_GroupBox;
 class VKD_QT_RadioButtonGroup;
 
 namespace plib {
+class CountsLine;
 class PageHistory;
-}
+} // namespace plib
 
 /// The private data of a graphical output page. Widgets are owned by their parents. Pointers to
 /// widgets that this kind of page does not have are null; only the panel uses these pointers.
@@ -49,5 +50,6 @@ struct WidgetGraphicalOutputData
     QPointer<QWidget> animatorHome; ///< former parent of the animator
     bool animatorHadHome = false;
     std::unique_ptr<plib::OutputPanel> panel; ///< widgets for the settings of this kind of page
+    plib::CountsLine* counts = nullptr;
     std::unique_ptr<plib::PageHistory> history; ///< destroyed first, as it watches the widgets
 };

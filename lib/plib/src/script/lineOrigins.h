@@ -6,14 +6,6 @@
 
 namespace plib {
 
-/// The items that wrote the lines of a script: the index of the first line of each item, in the
-/// order of the script, and the number of all lines that the items have written.
-struct LineOrigins
-{
-    std::vector<int> starts;
-    int count = 0;
-};
-
 struct LineRange
 {
     int first = 0;

@@ -153,7 +153,7 @@ QString viewClause(const OutputSettings& settings, Keywords keywords,
 QString sizeStatement(const OutputSettings& settings, Keywords keywords)
 {
     const bool portrait = settings.hasFormat && settings.formatId == PageFormat::Portrait;
-    const bool two = portrait && settings.picturesId == PagePictures::Two;
+    const bool two = hasTwoPictures(settings);
     return (two ? TwoPictures.in(keywords) : QString()) + QLatin1String("SIZE ") +
            QLatin1String(portrait ? "-URS" : "URS") + ScaleWord.in(keywords) +
            scaleValue(settings) + (two ? TwoByOne.in(keywords) : QString()) + Margin.in(keywords);

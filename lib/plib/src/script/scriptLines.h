@@ -7,6 +7,7 @@
 #include <VKD_P_WidgetGraphicalOutput_Progname.h>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace plib {
@@ -111,29 +112,51 @@ void writeItem(Item* item, Node* parent, ScriptLineWriter& writer)
             });
 }
 
+/// The items that wrote the lines of a script, in the order of the script, and the number of plots
+/// and pictures.
+struct LineOrigins
+{
+    std::vector<int> starts; ///< the index of the first line of each item
+    int count = 0;           ///< the number of all lines that the items have written
+    int plots = 0;
+    int pictures = 0; ///< two load cases in one picture are counted once
+};
+
+/// Returns whether an item draws a picture if it is checked. A row with a negative number writes at
+/// most its view.
+template <typename Item>
+bool drawsPicture(const Item* item)
+{
+    return item->isLC >= 0 && item->number >= 0;
+}
+
 /// Replaces `lines` with the script lines of the checked plots and rows below the root, with German
-/// or English keywords, and returns their number. The result is empty if the first item of the tree
-/// is not an output item. If `starts` is not null, it receives the index of the first line of each
-/// item that visitWriters() visits.
+/// or English keywords. The result is empty if the first item of the tree is not an output item.
+/// Returns which item wrote which lines.
 template <typename Node>
-int collectScriptLines(Node* root, std::vector<QString>& lines, Keywords keywords, int progname,
-                       ScriptLineWriter::KindOfSystem kindOfSystem,
-                       std::vector<int>* starts = nullptr)
+LineOrigins collectScriptLines(Node* root, std::vector<QString>& lines, Keywords keywords,
+                               int progname, ScriptLineWriter::KindOfSystem kindOfSystem)
 {
     lines.clear();
-    if (starts)
-        starts->clear();
+    LineOrigins origins;
     if (root->childCount() == 0 || !outputItem(root->child(0)))
-        return 0;
+        return origins;
     ScriptLineWriter writer(lines, keywords, progname, std::move(kindOfSystem));
+    constexpr int PlotLevel = 2;
+    const Node* lastPlot = nullptr;
     for (int i = 0; i < root->childCount(); ++i)
         visitWriters(root->child(i), [&](auto* item, Node* parent) {
-            if (starts)
-                starts->push_back(int(lines.size()));
+            origins.starts.push_back(int(lines.size()));
             writeItem(item, parent, writer);
+            if (!drawsPicture(item))
+                return true;
+            const Node* plot = item->level > PlotLevel ? parent : item;
+            origins.plots += plot != std::exchange(lastPlot, plot);
+            ++origins.pictures;
             return true;
         });
-    return int(lines.size());
+    origins.count = int(lines.size());
+    return origins;
 }
 
 } // namespace plib

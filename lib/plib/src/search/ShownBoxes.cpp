@@ -1,5 +1,6 @@
 #include "search/ShownBoxes.h"
 
+#include "search/PictureWarning.h"
 #include "search/PlotSearch.h"
 #include "search/treeItems.h"
 #include "tree/checkStates.h"
@@ -61,6 +62,7 @@ ShownBoxes::ShownBoxes(PlotSearch* search, QTreeWidget* tree)
     : QStyledItemDelegate(tree)
     , m_search(search)
     , m_tree(tree)
+    , m_warning(new PictureWarning(tree, [this](QTreeWidgetItem* item) { set(item, Qt::Checked); }))
 {
     tree->setItemDelegate(this);
 }
@@ -91,6 +93,23 @@ bool ShownBoxes::isAllChecked(const QTreeWidgetItem* item) const
     return std::all_of(m_search->hits().begin(), m_search->hits().end(), isChecked);
 }
 
+/// Returns the number of pictures that a click on the box of the item would add.
+int ShownBoxes::picturesOf(QTreeWidgetItem* item) const
+{
+    if (!isPartlyShown(item))
+        return newPictures(item);
+    int count = 0;
+    for (const PlotSearch::Hits& hits : m_search->hits()) {
+        if (!isBelow(hits.plot, item))
+            continue;
+        if (hits.isWhole)
+            count += newPictures(hits.plot);
+        for (int row : hits.rows)
+            count += newPictures(hits.plot->child(row));
+    }
+    return count;
+}
+
 void ShownBoxes::set(QTreeWidgetItem* item, Qt::CheckState state)
 {
     if (!isPartlyShown(item))
@@ -116,10 +135,14 @@ bool ShownBoxes::editorEvent(QEvent* event, QAbstractItemModel* model,
                              const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     QTreeWidgetItem* item = itemOf(*m_tree, index);
+    const bool isClick = isOnBox(event, option, index);
+    const bool isToggle =
+        isSpace(event) || (isClick && event->type() == QEvent::MouseButtonRelease);
+    if (isToggle && m_warning->holdsBack(item, picturesOf(item)))
+        return true;
     if (!isPartlyShown(item))
         return QStyledItemDelegate::editorEvent(event, model, option, index);
-    const bool isClick = isOnBox(event, option, index);
-    if (isSpace(event) || (isClick && event->type() == QEvent::MouseButtonRelease))
+    if (isToggle)
         set(item, isAllChecked(item) ? Qt::Unchecked : Qt::Checked);
     else if (!isClick)
         return false;

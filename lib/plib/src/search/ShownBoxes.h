@@ -7,6 +7,7 @@ class QTreeWidgetItem;
 
 namespace plib {
 
+class PictureWarning;
 class PlotSearch;
 
 /// Restricts the user's changes to check boxes to the plots and rows that a search shows, so that a
@@ -33,9 +34,11 @@ private:
                  const QModelIndex& index) const;
     bool isPartlyShown(const QTreeWidgetItem* item) const;
     bool isAllChecked(const QTreeWidgetItem* item) const;
+    int picturesOf(QTreeWidgetItem* item) const;
 
     PlotSearch* m_search;
     QTreeWidget* m_tree;
+    PictureWarning* m_warning;
 };
 
 } // namespace plib

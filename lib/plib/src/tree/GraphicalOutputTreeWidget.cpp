@@ -153,9 +153,9 @@ int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, b
 {
     const plib::ZobModelQueries model(parameter);
     plib::LineOrigins& origins = findChild<plib::HostScript*>()->origins();
-    origins.count = plib::collectScriptLines(
-        invisibleRootItem(), lines, plib::keywordsIf(english), progname,
-        [&model] { return model.kindOfSystem(); }, &origins.starts);
+    origins =
+        plib::collectScriptLines(invisibleRootItem(), lines, plib::keywordsIf(english), progname,
+                                 [&model] { return model.kindOfSystem(); });
     return origins.count;
 }
 

@@ -1,0 +1,60 @@
+#include "search/PictureWarning.h"
+
+#include "script/scriptLines.h"
+#include "search/treeItems.h"
+#include "tree/GraphicalOutputTreeWidgetItem.h"
+
+#include <VKD_QT_MessageBox.h>
+
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <utility>
+
+namespace plib {
+
+namespace {
+constexpr int ManyPictures = 500;
+}
+
+PictureWarning::PictureWarning(QTreeWidget* tree, Check check)
+    : QObject(tree)
+    , m_tree(tree)
+    , m_check(std::move(check))
+{
+}
+
+/// The question must not be asked while the view processes the click.
+bool PictureWarning::holdsBack(QTreeWidgetItem* item, int pictures)
+{
+    if (m_isConfirmed || pictures <= ManyPictures)
+        return false;
+    const QPersistentModelIndex index = indexOf(*m_tree, item);
+    QTimer::singleShot(0, this, [this, index, pictures] { ask(index, pictures); });
+    return true;
+}
+
+void PictureWarning::ask(const QPersistentModelIndex& index, int pictures)
+{
+    const int answer = VKD_QT_MessageBox::warning(
+        m_tree, tr("Many Pictures"),
+        tr("This click adds %1 pictures to the script. Is it intended?").arg(pictures),
+        QMessageBox::Yes, QMessageBox::No, 0);
+    if (answer != QMessageBox::Yes || !index.isValid()) // the tree may have been rebuilt
+        return;
+    m_isConfirmed = true;
+    m_check(itemOf(*m_tree, index));
+}
+
+int newPictures(QTreeWidgetItem* item)
+{
+    const GraphicalOutputTreeWidgetItem* output = outputItem(item);
+    if (!output || item->checkState(0) == Qt::Checked)
+        return 0;
+    int count = drawsPicture(output) ? 1 : 0;
+    for (int i = 0; i < item->childCount(); ++i)
+        count += newPictures(item->child(i));
+    return count;
+}
+
+} // namespace plib
