@@ -411,6 +411,10 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
 <context>
     <name>workbench::OutputOffers</name>
     <message>
+        <source>Load cases</source>
+        <translation>Lastfälle</translation>
+    </message>
+    <message>
         <source>The plots offer the load cases that are checked here. The plots that you have chosen stay chosen.</source>
         <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die ausgewählten Grafiken bleiben ausgewählt.</translation>
     </message>
@@ -471,14 +475,6 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     <message>
         <source>Plots</source>
         <translation>Grafiken</translation>
-    </message>
-    <message>
-        <source>Load cases</source>
-        <translation>Lastfälle</translation>
-    </message>
-    <message>
-        <source>Contents</source>
-        <translation>Inhalt</translation>
     </message>
 </context>
 <context>

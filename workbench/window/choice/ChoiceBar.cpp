@@ -13,17 +13,16 @@
 
 namespace workbench {
 
-ChoiceBar::ChoiceBar(ChoiceTable* table, QWidget* parent, const char* name)
+ChoiceBar::ChoiceBar(QWidget* parent, const char* name)
     : QWidget(parent)
-    , m_table(table)
     , m_filter(new QLineEdit(this))
     , m_count(new QLabel(this))
+    , m_only(newButton("ChooseOnly", tr("Only These"),
+                       tr("Checks the rows that are shown, and unchecks all others (Return)")))
     , m_all(newButton("ChooseAll", tr("All"), tr("Checks all rows that are shown")))
     , m_none(newButton("ChooseNone", tr("None"), tr("Unchecks all rows that are shown")))
     , m_invert(newButton("ChooseOthers", tr("Invert"),
                          tr("Checks the unchecked rows that are shown, and unchecks the others")))
-    , m_only(newButton("ChooseOnly", tr("Only These"),
-                       tr("Checks the rows that are shown, and unchecks all others (Return)")))
     , m_kind(newButton("ChooseKind", tr("Kind"), tr("Checks only the rows of one kind")))
     , m_kinds(new QMenu(this))
 {
@@ -50,6 +49,11 @@ ChoiceBar::ChoiceBar(ChoiceTable* table, QWidget* parent, const char* name)
             [this] { this->choose([this](int row, bool) { return isShown(row); }); });
     connect(m_filter, &QLineEdit::textChanged, this, &ChoiceBar::filter);
     connect(m_kinds, &QMenu::aboutToShow, this, &ChoiceBar::listKinds);
+}
+
+void ChoiceBar::setTable(ChoiceTable* table)
+{
+    m_table = table;
     filter();
 }
 

@@ -21,8 +21,11 @@ class ChoiceBar : public QWidget
     Q_OBJECT
 
 public:
-    /// The table must outlive the line. `name` is the object name.
-    ChoiceBar(ChoiceTable* table, QWidget* parent, const char* name);
+    /// `name` is the object name.
+    ChoiceBar(QWidget* parent, const char* name);
+    /// Sets the table, which must outlive the line. It is created after the line, so that it
+    /// follows in the tab order.
+    void setTable(ChoiceTable* table);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -35,13 +38,13 @@ private:
     void choose(const std::function<bool(int row, bool wasChosen)>& isChosen);
     bool isShown(int row) const;
 
-    ChoiceTable* m_table;
+    ChoiceTable* m_table = nullptr;
     QLineEdit* m_filter;
     QLabel* m_count;
+    QToolButton* m_only; // the buttons are created in tab order
     QToolButton* m_all;
     QToolButton* m_none;
     QToolButton* m_invert;
-    QToolButton* m_only;
     QToolButton* m_kind;
     QMenu* m_kinds;
 };

@@ -69,7 +69,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     , m_view(new AnimatorView(document->handle(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
     , m_plots(m_page->findChild<QTreeWidget*>())
-    , m_offers(new OutputOffers(document->handle(), m_page, m_view, this))
+    , m_offers(new OutputOffers(document->handle(), m_page, m_view))
 {
     setWindowFlags(Qt::Widget);
     setAttribute(Qt::WA_Moved); // otherwise a dialog moves to the centre of its parent
@@ -145,8 +145,7 @@ void OutputDialog::addTabs()
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addWidget(m_page);
     addTab(plots, tr("Plots"));
-    addTab(m_offers->loadCaseTab(), tr("Load cases"));
-    addTab(m_offers->contentTab(), tr("Contents"));
+    m_offers->addTabs(this);
     for (const char* name : {"undo", "redo"}) // for the other tabs
         addAction(m_page->findChild<QAction*>(QLatin1String(name)));
 }

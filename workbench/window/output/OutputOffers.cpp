@@ -5,6 +5,7 @@
 #include "window/output/LoadCaseTable.h"
 #include "window/support/HelpKey.h"
 
+#include <VKD_H_TabDialog.h>
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_P_WidgetGraphicalOutput_Steps.h>
 #include <VKD_QT_RadioButtonGroup.h>
@@ -39,17 +40,20 @@ QString stepName(const OutputState& before, const OutputState& after)
 }
 } // namespace
 
-OutputOffers::OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view,
-                           QWidget* parent)
-    : QObject(parent)
+OutputOffers::OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view)
+    : QObject(page)
     , m_project(project)
     , m_page(page)
     , m_choice(page, view)
     , m_steps(
           page->findChild<QObject*>(QLatin1String(vkd::plib::widgetgraphicaloutput::StepsObject)))
-    , m_loadCaseTab(newLoadCaseTab(parent))
-    , m_contentTab(newContentTab(parent))
 {
+}
+
+void OutputOffers::addTabs(VKD_H_TabDialog* dialog)
+{
+    dialog->addTab(newLoadCaseTab(dialog), tr("Load cases"));
+    dialog->addTab(newContentTab(dialog), tr("Contents"));
     connectTabs();
 }
 
@@ -57,11 +61,13 @@ QWidget* OutputOffers::newLoadCaseTab(QWidget* parent)
 {
     auto tab = new QWidget(parent);
     setHelpTopic(tab, "GRAV/LOADCASES");
+    auto bar = new ChoiceBar(tab, "LoadCaseChoice");
     m_loadCases = new LoadCaseTable(m_project, tab);
+    bar->setTable(m_loadCases);
     auto layout = new QVBoxLayout(tab);
     layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. The plots "
                                  "that you have chosen stay chosen.")));
-    layout->addWidget(new ChoiceBar(m_loadCases, tab, "LoadCaseChoice"));
+    layout->addWidget(bar);
     layout->addWidget(m_loadCases);
     return tab;
 }

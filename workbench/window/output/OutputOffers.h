@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+class VKD_H_TabDialog;
 class VKD_P_WidgetGraphicalOutput;
 class VKD_QT_RadioButtonGroup;
 
@@ -21,12 +22,10 @@ class OutputOffers : public QObject
     Q_OBJECT
 
 public:
-    /// `page` and its view are not owned. `parent` becomes the parent of the tabs.
-    OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view,
-                 QWidget* parent);
+    /// The page owns the object. `view` is the view of the page.
+    OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view);
 
-    QWidget* loadCaseTab() const { return m_loadCaseTab; }
-    QWidget* contentTab() const { return m_contentTab; }
+    void addTabs(VKD_H_TabDialog* dialog);
 
     /// Shows the saved state, without a signal, and clears the undo steps of the page.
     void restore(const OutputState& saved);
@@ -52,8 +51,6 @@ private:
     QObject* m_steps; ///< see VKD_P_WidgetGraphicalOutput_Steps.h
     LoadCaseTable* m_loadCases = nullptr;
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
-    QWidget* m_loadCaseTab;
-    QWidget* m_contentTab;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
     OutputState m_known; ///< content and load cases after the last change
 };

@@ -102,10 +102,11 @@ void TextOutputDialog::addLoadCases(ZobHandle project)
     setHelpTopic(box, "TEXT/LOADCASES");
     m_loadCases.init(box);
     column->addLayout(m_loadCases.layout());
+    m_loadCaseBar = new ChoiceBar(box, "TextLoadCaseChoice");
+    column->addWidget(m_loadCaseBar);
     m_loadCaseTable = new PickTable(loadCases(project, true), box, "TextLoadCases");
     m_loadCaseTable->setAccessibleName(tr("Load cases"));
-    m_loadCaseBar = new ChoiceBar(m_loadCaseTable, box, "TextLoadCaseChoice");
-    column->addWidget(m_loadCaseBar);
+    m_loadCaseBar->setTable(m_loadCaseTable);
     column->addWidget(m_loadCaseTable);
     m_loadCaseResult = addResult(column, "LoadCaseResult");
     m_loadCases.useWidget(m_loadCaseTable);
@@ -123,10 +124,11 @@ void TextOutputDialog::addCombinations(ZobHandle project)
     setHelpTopic(box, "TEXT/COMBINATIONS");
     m_kindRow = new QWidget(box);
     column->addWidget(m_kindRow);
+    m_combinationBar = new ChoiceBar(box, "TextCombinationChoice");
+    column->addWidget(m_combinationBar);
     m_combinationTable = new CombinationTable(loadCases(project, false), box, "TextCombinations");
     m_combinationTable->setAccessibleName(tr("Combinations"));
-    m_combinationBar = new ChoiceBar(m_combinationTable, box, "TextCombinationChoice");
-    column->addWidget(m_combinationBar);
+    m_combinationBar->setTable(m_combinationTable);
     column->addWidget(m_combinationTable);
     m_combinationResult = addResult(column, "CombinationResult");
     fillKindRow();
@@ -163,7 +165,6 @@ void TextOutputDialog::fillKindRow()
         setTabOrder(before, button);
         before = button;
     }
-    setTabOrder(before, m_combinationTable);
 }
 
 QLabel* TextOutputDialog::addResult(QVBoxLayout* column, const char* name)
