@@ -67,6 +67,29 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
     }
 
+    void typing_data()
+    {
+        const Columns<QString, float> row("typed", "chosen");
+        row("a bar", "20", 20.0F);
+        row("with decimals", "16.0", 16.0F);
+        row("decimals of an own entry", "12,7", 12.7F);
+        row("only the first digit", "2", 12.7F);
+        row("a bar and more", "16.5", 12.7F);
+        row("ends with a bar", "3.20", 12.7F);
+        row("no number", "1.,6", 12.7F);
+    }
+
+    /// Only a diameter that the list contains is chosen.
+    void typing()
+    {
+        QFETCH(const QString, typed);
+        VKD_A_BarDiameterCombo box;
+        box.load(m_project->index());
+        box.setCurrent(12.7F);
+        QTest::keyClicks(&box, typed);
+        QTEST(box.getCurrent(), "chosen");
+    }
+
     void withoutNotSet()
     {
         VKD_A_BarDiameterCombo box;

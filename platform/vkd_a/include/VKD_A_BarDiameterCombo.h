@@ -10,7 +10,8 @@
 /// A combo box with the bar diameters of a project. A bar value is the nominal diameter in
 /// millimetres; -99999 means "not set" and is the first entry. A diameter that is missing from the
 /// project has its own entry in the sorted list, so that the combo box can show it and return it
-/// unchanged. Signals are emitted only when the user chooses an entry.
+/// unchanged. Signals are emitted only when the user chooses an entry. The user can also type a
+/// diameter; one that is not in the list is refused.
 class VKD_A_EXPORT VKD_A_BarDiameterCombo : public VKD_QT4_ComboBox
 {
     Q_OBJECT
@@ -37,15 +38,20 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void fill(float current);
     void selectSilently(int entry);
     bool isOffered(float diameter) const;
+    void type(const QString& character);
+    int typedEntry() const;
+    bool isBeginning() const;
 
     VKD_A_BarDiameterData m_bars;
     bool m_isNotSetAllowed = true;
     bool m_hasExtra = false;
-    QString m_typed; ///< digits typed so far to find a bar
-    QElapsedTimer m_lastDigit;
+    QString m_typed; ///< characters of a diameter
+    QElapsedTimer m_lastKey;
+    int m_entryBefore = -1; ///< current entry before the first typed character
 };

@@ -2,10 +2,25 @@
 
 #include <VKD_QT_SignalBlocker.h>
 
-#include <QApplication>
 #include <QKeyEvent>
+#include <QToolTip>
 
 #include <algorithm>
+
+namespace {
+constexpr int LongestPause = 1000; // ms between two keys of a diameter
+
+bool isPartOfNumber(const QString& typed)
+{
+    return typed.size() == 1 &&
+           (typed.at(0).isDigit() || typed == QLatin1String(".") || typed == QLatin1String(","));
+}
+
+QString plainNumber(QString typed)
+{
+    return typed.replace(QLatin1Char(','), QLatin1Char('.'));
+}
+} // namespace
 
 VKD_A_BarDiameterCombo::VKD_A_BarDiameterCombo(QWidget* parent, const char* name)
     : VKD_QT4_ComboBox(parent, name)
@@ -49,25 +64,65 @@ void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
     VKD_QT4_ComboBox::changeEvent(event);
 }
 
-/// Lets the user find a diameter by typing its digits, although the entries begin with the diameter
-/// sign.
+/// Lets the user type a diameter, although the entries begin with the diameter sign.
 void VKD_A_BarDiameterCombo::keyPressEvent(QKeyEvent* event)
 {
-    const QString digit = event->text();
-    if (digit.size() != 1 || !digit.at(0).isDigit())
-        return VKD_QT4_ComboBox::keyPressEvent(event);
-    if (!m_lastDigit.isValid() || m_lastDigit.hasExpired(QApplication::keyboardInputInterval()))
+    if (isPartOfNumber(event->text()))
+        return type(event->text());
+    m_typed.clear();
+    VKD_QT4_ComboBox::keyPressEvent(event);
+}
+
+void VKD_A_BarDiameterCombo::focusOutEvent(QFocusEvent* event)
+{
+    m_typed.clear();
+    VKD_QT4_ComboBox::focusOutEvent(event);
+}
+
+/// Chooses only the bar with exactly the typed diameter. Other input restores the bar from before,
+/// because its first digits may have been another bar, and a tool tip says so. A pause begins a new
+/// diameter, unless a bar begins with the digits.
+void VKD_A_BarDiameterCombo::type(const QString& character)
+{
+    const bool isComplete = typedEntry() >= 0 || !isBeginning();
+    if (m_typed.isEmpty() || (isComplete && m_lastKey.hasExpired(LongestPause))) {
         m_typed.clear();
-    m_lastDigit.start();
-    m_typed += digit;
-    const int entry = findText(m_bars.getString(m_typed.toFloat()), Qt::MatchStartsWith);
+        m_entryBefore = currentIndex();
+    }
+    m_lastKey.start();
+    m_typed += character;
+    const int entry = typedEntry();
+    setCurrentIndex(entry >= 0 ? entry : m_entryBefore);
+    const QString shown = QStringLiteral("Ø") + m_typed;
     if (entry >= 0)
-        setCurrentIndex(entry);
+        QToolTip::hideText();
+    else
+        QToolTip::showText(
+            mapToGlobal(rect().bottomLeft()),
+            isBeginning() ? shown + QChar(0x2026) : tr("There is no bar %1.").arg(shown), this);
+}
+
+/// Returns the entry of the typed diameter, or -1.
+int VKD_A_BarDiameterCombo::typedEntry() const
+{
+    bool isNumber = false;
+    const float diameter = plainNumber(m_typed).toFloat(&isNumber);
+    return isNumber ? findData(diameter) : -1;
+}
+
+/// Returns whether the diameter of an entry begins with the typed characters.
+bool VKD_A_BarDiameterCombo::isBeginning() const
+{
+    for (int entry = 0; entry < count(); ++entry)
+        if (QString::number(itemData(entry).toDouble()).startsWith(plainNumber(m_typed)))
+            return true;
+    return false;
 }
 
 void VKD_A_BarDiameterCombo::fill(float current)
 {
     const VKD_QT_SignalBlocker blocker(this);
+    m_typed.clear(); // m_entryBefore becomes invalid
     QVector<float> diameters = m_bars.diameters();
     const bool isExtra = !isOffered(current) && current != NotSet;
     const auto place = std::upper_bound(diameters.begin(), diameters.end(), current);

@@ -253,5 +253,9 @@
         <source>not set</source>
         <translation>nicht gesetzt</translation>
     </message>
+    <message>
+        <source>There is no bar %1.</source>
+        <translation>Den Stab %1 gibt es nicht.</translation>
+    </message>
 </context>
 </TS>
