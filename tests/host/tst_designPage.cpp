@@ -335,11 +335,11 @@ private Q_SLOTS:
         QApplication::activeWindow()->close();
     }
 
-    /// A wide page gives its room to the columns, but a column that the user has dragged keeps its
-    /// width.
+    /// A wide page gives its room to the columns, first to those whose texts are wrapped. A column
+    /// that the user has dragged keeps its width.
     void columnWidths()
     {
-        DesignDesk desk(*m_project, {record(-1, 1, 0)});
+        DesignDesk desk(*m_project, {record(1, 0, 0)}); // short texts
         const auto widths = [&desk](int width) {
             desk.resize(width, 500);
             QTest::qWait(0);
@@ -366,6 +366,13 @@ private Q_SLOTS:
         page.show();
         const auto table = find<QTableWidget>(page, "table");
         QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
+        const auto lines = [table] {
+            return (table->rowHeight(0) - 2) / table->fontMetrics().lineSpacing();
+        };
+        table->item(0, 1)->setText(QStringLiteral("Three Layers"));
+        QVERIFY(lines() > 2);
+        page.resize(1400, 500);
+        QTRY_COMPARE(lines(), 2);
     }
 
     /// The tool tip of each cell shows the whole row, also over an editor, and fits on the screen.

@@ -230,7 +230,7 @@ void DesignParameter::refreshRows(int number)
         if (!isRow(number))
             return;
         drawRow(data->rows[std::size_t(number)], number, false);
-        data->table->fitRow(number);
+        data->table->fitRows(number, number);
         return;
     }
     for (const DesignParameterRow& row : data->rows) {
@@ -238,7 +238,7 @@ void DesignParameter::refreshRows(int number)
         drawRow(row, data->table->rowCount() - 1, true);
     }
     showSharedGroups();
-    data->table->fitRows();
+    data->table->fitAllRows();
     restartHistory();
     Q_EMIT signal_rowCountChanged(data->table->rowCount());
 }
@@ -279,7 +279,7 @@ void DesignParameter::slot_newRowClicked()
         addTableRow();
         const int row = data->table->rowCount() - 1;
         drawRow(plib::addDefaultRow(*data), row, true);
-        data->table->fitRow(row);
+        data->table->fitRows(row, row);
         data->table->bringIntoView(row);
         data->table->setCurrentCell(row, Table::Type, QItemSelectionModel::ClearAndSelect);
         Q_EMIT signal_rowCountChanged(data->table->rowCount());
@@ -305,7 +305,7 @@ void DesignParameter::slot_deleteClicked()
         table->deleteSelectedRows();
         plib::removeRows(*data, rows);
         showSharedGroups();
-        table->fitRows();
+        table->fitAllRows();
     }
     Q_EMIT signal_rowCountChanged(table->rowCount());
 }

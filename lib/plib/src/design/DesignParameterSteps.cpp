@@ -46,10 +46,9 @@ void DesignParameter::replaceRows(int first, int count, const plib::DesignRowLis
         const VKD_QT_SignalBlocker blocker(data->table); // until the rows match the table again
         plib::replaceRows(data->rows, first, count, by);
         setTableRowCount(int(data->rows.size()), first + replaced);
-        for (int row = first; row < first + int(by.size()); ++row) {
+        for (int row = first; row < first + int(by.size()); ++row)
             drawRow(data->rows[std::size_t(row)], row, row >= first + replaced);
-            data->table->fitRow(row);
-        }
+        data->table->fitRows(first, first + int(by.size()) - 1);
         if (!isSameGroups)
             showSharedGroups();
         selection.restore(data->table);

@@ -7,12 +7,16 @@
 
 namespace plib {
 
+namespace {
+constexpr int GridLine = 1;
+} // namespace
+
 ColumnRoom::ColumnRoom(DesignParameterTable* table)
     : QObject(table)
     , m_table(table)
 {
     for (int column = 0; column < table->columnCount(); ++column)
-        m_columns.push_back({table->columnWidth(column)});
+        m_columns.push_back({table->columnWidth(column), false, 0});
     table->viewport()->installEventFilter(this);
     connect(table->horizontalHeader(), &QHeaderView::sectionResized, this,
             &ColumnRoom::columnResized);
@@ -22,18 +26,18 @@ ColumnRoom::ColumnRoom(DesignParameterTable* table)
 /// receives no further resize event.
 bool ColumnRoom::eventFilter(QObject*, QEvent* event)
 {
-    if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
-        share();
+    if ((event->type() == QEvent::Resize || event->type() == QEvent::Show) && share())
+        m_table->fitHeights(0, m_table->rowCount() - 1);
     return false;
 }
 
-/// Fits the rows once, after all columns have their widths. Setting the width of a column may show
-/// or hide a scroll bar and so change the available width.
-void ColumnRoom::share()
+/// Returns whether widths have changed. Setting the width of a column may show or hide a scroll bar
+/// and so change the available width.
+bool ColumnRoom::share()
 {
     constexpr int MostRounds = 3;
     if (m_isSharing)
-        return;
+        return false;
     m_isSharing = true;
     bool isChanged = false;
     int available = -1;
@@ -46,16 +50,39 @@ void ColumnRoom::share()
         }
     }
     m_isSharing = false;
-    if (isChanged)
-        m_table->fitRows();
+    return isChanged;
+}
+
+/// Long lists of groups do not take the room of the other columns.
+bool ColumnRoom::measure(int firstRow, int lastRow)
+{
+    bool isChanged = false;
+    for (int column = 0; column < int(m_columns.size()); ++column) {
+        ColumnShare& share = m_columns[std::size_t(column)];
+        const int before = share.needed;
+        for (int row = firstRow; row <= lastRow; ++row) {
+            const QModelIndex cell = m_table->model()->index(row, column);
+            share.needed = qMax(share.needed, m_table->sizeHintForIndex(cell).width() + GridLine);
+        }
+        if (m_table->getColumnId(column) == DesignParameterTable::Selection)
+            share.needed = qMin(share.needed, 2 * share.width);
+        isChanged |= share.needed != before;
+    }
+    return isChanged && share();
+}
+
+void ColumnRoom::reset()
+{
+    for (ColumnShare& column : m_columns)
+        column.needed = 0;
 }
 
 void ColumnRoom::columnResized(int column, int, int width)
 {
     if (m_isSharing)
         return;
-    m_columns[std::size_t(column)] = {width, true};
-    m_table->fitRows();
+    m_columns[std::size_t(column)] = {width, true, 0};
+    m_table->fitHeights(0, m_table->rowCount() - 1);
 }
 
 } // namespace plib

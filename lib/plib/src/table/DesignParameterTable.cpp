@@ -1,5 +1,7 @@
 #include "table/DesignParameterTable.h"
 
+#include "table/ColumnRoom.h"
+
 #include <VKD_QT_Menu.h>
 
 #include <QHeaderView>
@@ -7,7 +9,8 @@
 namespace {
 constexpr int MostLines = 4; // two lines of text, each wrapped at most once
 constexpr int RowMargin = 8;
-constexpr int MostRowsToFit = 500; // for more rows, measuring would take longer than filling
+constexpr int MostRowsToFit = 500;    // for more rows, measuring would take longer than filling
+constexpr int MostRowsToMeasure = 50; // of such a table
 } // namespace
 
 DesignParameterTable::DesignParameterTable(QWidget* parent)
@@ -19,16 +22,30 @@ DesignParameterTable::DesignParameterTable(QWidget* parent)
     verticalHeader()->setMinimumSectionSize(2 * fontMetrics().lineSpacing() + RowMargin);
 }
 
-void DesignParameterTable::fitRow(int row)
+void DesignParameterTable::fitRows(int first, int last)
 {
-    if (rowCount() <= MostRowsToFit)
-        resizeRowToContents(row);
+    if (rowCount() > MostRowsToFit)
+        return;
+    const bool areAllChanged = findChild<plib::ColumnRoom*>()->measure(first, last);
+    fitHeights(areAllChanged ? 0 : first, areAllChanged ? rowCount() - 1 : last);
 }
 
-void DesignParameterTable::fitRows()
+void DesignParameterTable::fitAllRows()
 {
-    if (rowCount() <= MostRowsToFit)
-        resizeRowsToContents();
+    auto room = findChild<plib::ColumnRoom*>();
+    room->reset();
+    room->measure(0, (rowCount() > MostRowsToFit ? MostRowsToMeasure : rowCount()) - 1);
+    fitHeights(0, rowCount() - 1);
+}
+
+void DesignParameterTable::fitHeights(int first, int last)
+{
+    if (rowCount() > MostRowsToFit)
+        return;
+    if (last - first + 1 == rowCount())
+        return resizeRowsToContents();
+    for (int row = first; row <= last; ++row)
+        resizeRowToContents(row);
 }
 
 /// Lays out the table first, because the scroll range does not yet include a row that has just been

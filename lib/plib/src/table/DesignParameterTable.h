@@ -21,10 +21,13 @@ public:
 
     explicit DesignParameterTable(QWidget* parent);
 
-    /// Set the height of one row or of all rows to fit the texts at the current column widths. In a
-    /// very long table, all rows have the height required for the longest texts.
-    void fitRow(int row);
-    void fitRows();
+    /// Fit the widths of the columns and the heights of the rows to the texts of rows that have
+    /// changed, or to all texts. In a very long table, all rows have the height required for the
+    /// longest texts, and only the first rows determine the widths.
+    void fitRows(int first, int last);
+    void fitAllRows();
+    /// Fits only the heights of rows.
+    void fitHeights(int first, int last);
     /// Scrolls to a row, even if it has just been added.
     void bringIntoView(int row);
 

@@ -9,10 +9,12 @@ struct ColumnShare
 {
     int width = 0;               ///< the initial width, which is also the smallest one
     bool isChosenByUser = false; ///< the user has set this width, which does not change
+    int needed = 0;              ///< the width in which no text of the column is wrapped
 };
 
-/// Returns the widths of columns for an available width. The columns share the width in proportion
-/// to their initial widths and are never narrower than these.
+/// Returns the widths of columns for an available width. They are never narrower than their initial
+/// widths. Columns whose texts need more width are served first. All columns share the rest in
+/// proportion to their initial widths.
 std::vector<int> columnWidths(const std::vector<ColumnShare>& columns, int available);
 
 } // namespace plib
