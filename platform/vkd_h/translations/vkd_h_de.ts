@@ -254,6 +254,10 @@ Komma und Punkt sind beide eines; ein Tausendertrennzeichen gibt es nicht.</tran
         <source>Delete</source>
         <translation>Löschen</translation>
     </message>
+    <message>
+        <source>Copy Cell Texts</source>
+        <translation>Zelltexte kopieren</translation>
+    </message>
 </context>
 <context>
     <name>VKD_H_TableWidgetBox</name>

@@ -14,6 +14,10 @@
 
 #include <algorithm>
 
+namespace {
+constexpr int CopyTextsKey = Qt::CTRL + Qt::ALT + Qt::Key_C;
+} // namespace
+
 VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, const char* name)
     : VKD_QT_TableWidget(rows, columns, parent, name)
     , m_rowCount(rows)
@@ -140,10 +144,12 @@ VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
 {
     delete m_menu;
     m_menu = new VKD_QT_Menu(this);
-    QAction* copy = m_menu->addAction(tr("Copy"), this, &VKD_H_TableWidget::copySelection);
+    // An action of the page that has the usual key copies something else.
+    const bool isKeyTaken = hasActionFor(QKeySequence::Copy);
+    QAction* copy = m_menu->addAction(isKeyTaken ? tr("Copy Cell Texts") : tr("Copy"), this,
+                                      &VKD_H_TableWidget::copySelection);
     copy->setEnabled(selectionModel()->hasSelection());
-    if (!hasActionFor(QKeySequence::Copy))
-        copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcut(isKeyTaken ? QKeySequence(CopyTextsKey) : QKeySequence(QKeySequence::Copy));
     m_menu->addAction(tr("Select All"), this, &QTableWidget::selectAll, QKeySequence::SelectAll);
     if (!actions().isEmpty())
         m_menu->addSeparator();
@@ -212,7 +218,8 @@ void VKD_H_TableWidget::contextMenuEvent(QContextMenuEvent* event)
 void VKD_H_TableWidget::keyPressEvent(QKeyEvent* event)
 {
     const QWidget* open = event->key() == Qt::Key_Escape ? widgetOverACell() : nullptr;
-    if (event->matches(QKeySequence::Copy))
+    const int pressed = event->key() + int(event->modifiers());
+    if (event->matches(QKeySequence::Copy) || pressed == CopyTextsKey)
         copySelection();
     else if (open)
         closeCell(open);
