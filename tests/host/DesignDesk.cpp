@@ -2,6 +2,7 @@
 
 #include "WidgetTestSupport.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -64,6 +65,14 @@ QString DesignDesk::editors() const
             if (column != TypeColumn && table()->cellWidget(number, column))
                 places << QStringLiteral("%1,%2").arg(number).arg(column);
     return places.join(QLatin1Char(' '));
+}
+
+QString DesignDesk::notice() const
+{
+    return findChild<QWidget*>(QStringLiteral("rowsNotice"))
+        ->findChildren<QLabel*>()
+        .last()
+        ->accessibleName();
 }
 
 void DesignDesk::press(const char* button)

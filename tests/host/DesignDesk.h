@@ -25,6 +25,8 @@ public:
     QString groups() const;
     /// Returns the cells that contain widgets, as "row,column" joined by spaces.
     QString editors() const;
+    /// Returns the message beside the buttons.
+    QString notice() const;
     void press(const char* button);
     /// Sends arrow keys and shortcut keys to the table.
     void keys(const std::vector<Qt::Key>& keys);

@@ -300,14 +300,16 @@ private Q_SLOTS:
             QApplication::setActiveWindow(dialog); // shortcuts need it
             const auto step = [&](Qt::Key key) {
                 QTest::keyClick(dialog, key, Qt::AltModifier);
-                shown << QStringLiteral("%1 at %2 with %3 fields, aso %4%5")
+                shown << QStringLiteral("%1 at %2 with %3 fields, aso %4%5 %6")
                              .arg(find<QLabel>(*dialog, "rowTitle")->accessibleName())
                              .arg(desk.table()->currentRow())
                              .arg(dialog->findChildren<QLineEdit*>().size())
                              .arg(find<QLineEdit>(*dialog, "aso")->text(),
                                   find<QLineEdit>(*dialog, "aso")->hasFocus()
                                       ? QString()
-                                      : QStringLiteral(" without focus"));
+                                      : QStringLiteral(" without focus"),
+                                  find<QLabel>(*dialog, "rowMessage")->text())
+                             .trimmed();
             };
             find<QLineEdit>(*dialog, "aso")->setFocus();
             find<QLineEdit>(*dialog, "asu")->setText(QStringLiteral("7"));
@@ -324,13 +326,14 @@ private Q_SLOTS:
             qobject_cast<QDialog*>(dialog)->reject();
         });
         desk.keys({Qt::Key_F2});
-        QCOMPARE(shown.join(QLatin1Char('\n')),
-                 QStringLiteral("Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
-                                "Row 4: group 3 at 3 with 8 fields, aso 3.00\n"
-                                "Row 4: group 3 at 3 with 8 fields, aso 8.50 without focus\n"
-                                "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
-                                "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
-                                "Row 4: group 3 at 3 with 8 fields, aso 8.50"));
+        QCOMPARE(
+            shown.join(QLatin1Char('\n')),
+            QStringLiteral("Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
+                           "Row 4: group 3 at 3 with 8 fields, aso 3.00\n"
+                           "Row 4: group 3 at 3 with 8 fields, aso 8.50 without focus\n"
+                           "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
+                           "Row 5: group 4 at 4 with 8 fields, aso 4.00 This is the last row.\n"
+                           "Row 4: group 3 at 3 with 8 fields, aso 8.50"));
         QAction* undo = find<QAction>(*desk.page, "undo");
         QCOMPARE(undo->text(), QStringLiteral("&Undo Reinforcement of row 4"));
         undo->trigger();
@@ -338,6 +341,38 @@ private Q_SLOTS:
         undo->trigger();
         QVERIFY(!undo->isEnabled());
         QCOMPARE(desk.focusWidget(), desk.table());
+    }
+
+    /// Ctrl+Enter copies the value of a field to the fields of the same kind.
+    void sameValueEverywhere()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1)});
+        const auto enter = [&desk](int column, const char* field, const QString& text) {
+            desk.table()->setCurrentCell(1, column);
+            whenModal([&](QWidget* dialog) {
+                QApplication::setActiveWindow(dialog); // shortcuts need it
+                auto edit = dialog->findChild<QLineEdit*>(QLatin1String(field));
+                QWidget* focused = edit ? edit : find<QWidget>(*dialog, field);
+                focused->setFocus();
+                QTest::keyClicks(QApplication::focusWidget(), text);
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+                qobject_cast<QDialog*>(dialog)->accept();
+            });
+            desk.keys({Qt::Key_F2});
+        };
+        enter(2, "hiu", QStringLiteral("40"));
+        enter(3, "m_pDIUQ", QStringLiteral("14"));
+        enter(3, "amoq", QStringLiteral("70"));
+        enter(4, "crackWKOQ", QStringLiteral("0,2"));
+        desk.page->writeToZob();
+        const tagZOB_QUAD_RIM r = m_project->records().at(1);
+        QStringList values;
+        for (float value : {r.hio, r.hioq, r.hiu, r.dio, r.dioq, r.diu, r.diuq, r.aso, r.asu, r.amo,
+                            r.amoq, r.amu, r.amuq, r.wko, r.wkoq, r.wku, r.wkuq, r.sigo})
+            values << QString::number(double(value), 'g', 3);
+        QCOMPARE(values.join(QLatin1Char(' ')),
+                 QStringLiteral("0.04 0.05 0.04 14 14 14 14 1 -1e+05 70 70 70 70 0.2 0.2 0.2 0.2 "
+                                "-1e+05"));
     }
 
     /// Clicks with Ctrl add cells to the selection, even cells in which a click opens an editor.

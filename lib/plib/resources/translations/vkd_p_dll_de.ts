@@ -1023,4 +1023,62 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Eine Zeile ohne Bemessung zeigt ihre Werte erst mit einer anderen Art.</translation>
     </message>
 </context>
+<context>
+    <name>RowRefusals</name>
+    <message>
+        <source>The first row can be neither moved nor deleted.</source>
+        <translation>Die erste Zeile lässt sich weder verschieben noch löschen.</translation>
+    </message>
+    <message>
+        <source>This is the last row.</source>
+        <translation>Dies ist die letzte Zeile.</translation>
+    </message>
+    <message>
+        <source>No row is selected.</source>
+        <translation>Keine Zeile ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>The first row stays first.</source>
+        <translation>Die erste Zeile bleibt die erste.</translation>
+    </message>
+    <message>
+        <source>The rows above have no design.</source>
+        <translation>Die Zeilen darüber haben keine Bemessung.</translation>
+    </message>
+    <message>
+        <source>The rows below have no design.</source>
+        <translation>Die Zeilen darunter haben keine Bemessung.</translation>
+    </message>
+    <message>
+        <source>This is the first row.</source>
+        <translation>Dies ist die erste Zeile.</translation>
+    </message>
+</context>
+<context>
+    <name>plib::SameValue</name>
+    <message>
+        <source>Same Everywhere</source>
+        <translation>Überall gleich</translation>
+    </message>
+    <message>
+        <source>Uses the value of the current field on both sides, and for bars, limits and crack control in all layers (%1)</source>
+        <translation>Verwendet den Wert des aktuellen Felds auf beiden Seiten, bei Stäben, Grenzwerten und Rissbreite auch in allen Lagen (%1)</translation>
+    </message>
+    <message>
+        <source>Choose a field first.</source>
+        <translation>Zuerst ein Feld wählen.</translation>
+    </message>
+    <message>
+        <source>The field has no value.</source>
+        <translation>Das Feld hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>There is no other field of this kind.</source>
+        <translation>Es gibt kein weiteres Feld dieser Art.</translation>
+    </message>
+    <message>
+        <source>Set in %1 other fields.</source>
+        <translation>In %1 weiteren Feldern gesetzt.</translation>
+    </message>
+</context>
 </TS>

@@ -3,6 +3,7 @@
 #include "design/GroupsEntry.h"
 #include "design/HostRows.h"
 #include "design/RowActions.h"
+#include "design/RowButtonHints.h"
 #include "design/RowParameters.h"
 #include "design/RowsClipboard.h"
 #include "design/RowsHistory.h"
@@ -96,6 +97,7 @@ void DesignParameter::init()
     new plib::RowToolTip(this);
     new plib::TypeEditor(this);
     new plib::GroupsEntry(this);
+    new plib::RowButtonHints(this);
     setFocusProxy(data->table);
     editRow = -1;
     editColumn = -1;

@@ -4,9 +4,11 @@
 #include "design/RowsHistory.h"
 #include "dialogs/CommonFields.h"
 #include "dialogs/RowStrip.h"
+#include "dialogs/SameValue.h"
 #include "record/commonRecord.h"
 #include "record/designRecord.h"
 #include "record/designRows.h"
+#include "record/rowRefusals.h"
 #include "record/rowTitle.h"
 #include "table/DesignParameterTable.h"
 
@@ -57,6 +59,7 @@ void RowEditing::run(const RecordDialog& dialog)
 {
     m_dialog = dialog;
     m_strip = new RowStrip(dialog.window);
+    new SameValue(dialog, m_strip, m_rows.size() > 1);
     connect(m_strip, &RowStrip::stepRequested, this, &RowEditing::step);
     showRow();
     if (m_rows.size() > 1)
@@ -81,7 +84,7 @@ void RowEditing::showRow()
     if (m_dialog.note && type)
         m_strip->setNote(m_dialog.note(*type));
     if (m_rows.size() == 1)
-        m_strip->setSteps(designRowBeside(data, row, -1) >= 0, designRowBeside(data, row, 1) >= 0);
+        m_strip->setSteps(stepRefusal(data, row, -1), stepRefusal(data, row, 1));
     if (m_dialog.recordShown)
         m_dialog.recordShown();
     m_shown = valuesOf(m_dialog.fields());

@@ -18,6 +18,7 @@ RowStrip::RowStrip(VKD_QT_Dialog* dialog)
     , m_titleLabel(new ElidedLabel(this))
     , m_noteLabel(new QLabel(this))
     , m_row(new VKD_QT_HBoxLayout)
+    , m_messageLabel(new QLabel(this))
 {
     setObjectName(QStringLiteral("rowStrip"));
     m_titleLabel->setObjectName(QStringLiteral("rowTitle"));
@@ -27,7 +28,9 @@ RowStrip::RowStrip(VKD_QT_Dialog* dialog)
     m_noteLabel->setObjectName(QStringLiteral("rowNote"));
     m_noteLabel->setWordWrap(true);
     m_noteLabel->hide();
+    m_messageLabel->setObjectName(QStringLiteral("rowMessage"));
     m_row->addWidget(m_titleLabel, 1);
+    m_row->addWidget(m_messageLabel);
     auto layout = new VKD_QT_VBoxLayout(this);
     QMargins margins = layout->contentsMargins();
     margins.setBottom(0); // the layout of the dialog has its own margin
@@ -40,6 +43,7 @@ RowStrip::RowStrip(VKD_QT_Dialog* dialog)
 void RowStrip::setTitle(const QString& title)
 {
     m_titleLabel->setFullText(title);
+    m_messageLabel->clear();
     window()->setAccessibleDescription(title); // screen readers read it when the dialog opens
 }
 
@@ -49,41 +53,59 @@ void RowStrip::setNote(const QString& note)
     m_noteLabel->setVisible(!note.isEmpty());
 }
 
-void RowStrip::setSteps(bool hasPrevious, bool hasNext)
+void RowStrip::addButton(QToolButton* button)
 {
-    if (!m_previous) {
-        m_previous = newButton("previousRow", Qt::UpArrow, Qt::ALT + Qt::Key_Up,
-                               tr("OK and continue with the previous row (%1)"), -1);
-        m_next = newButton("nextRow", Qt::DownArrow, Qt::ALT + Qt::Key_Down,
-                           tr("OK and continue with the next row (%1)"), 1);
+    m_row->addWidget(button);
+}
+
+void RowStrip::showMessage(const QString& text)
+{
+    m_messageLabel->setText(text);
+}
+
+void RowStrip::setSteps(const QString& previousRefusal, const QString& nextRefusal)
+{
+    if (!m_previous.button) {
+        addStep(&m_previous, "previousRow", Qt::UpArrow, Qt::ALT + Qt::Key_Up,
+                tr("OK and continue with the previous row (%1)"), -1);
+        addStep(&m_next, "nextRow", Qt::DownArrow, Qt::ALT + Qt::Key_Down,
+                tr("OK and continue with the next row (%1)"), 1);
         const auto ok = window()->findChild<VKD_QT_Ok*>();
-        setTabOrder(ok->cmdCancel(), m_previous);
-        setTabOrder(m_previous, m_next);
+        setTabOrder(ok->cmdCancel(), m_previous.button);
+        setTabOrder(m_previous.button, m_next.button);
     }
-    m_previous->setEnabled(hasPrevious);
-    m_next->setEnabled(hasNext);
+    setRefusal(&m_previous, previousRefusal);
+    setRefusal(&m_next, nextRefusal);
+}
+
+void RowStrip::setRefusal(Step* step, const QString& refusal)
+{
+    step->refusal = refusal;
+    step->button->setEnabled(refusal.isEmpty());
+    step->button->setToolTip(refusal.isEmpty() ? step->purpose : refusal);
 }
 
 /// The keys belong to shortcuts of the dialog and not to the buttons, whose animation would delay a
-/// repeated key.
-QToolButton* RowStrip::newButton(const char* name, Qt::ArrowType arrow, int key,
-                                 const QString& purpose, int direction)
+/// repeated key. They also work where there is no row, to say why.
+void RowStrip::addStep(Step* step, const char* name, Qt::ArrowType arrow, int key,
+                       const QString& purpose, int direction)
 {
     auto button = new QToolButton(this);
     button->setObjectName(QLatin1String(name));
     button->setArrowType(arrow);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the field
     const QKeySequence keys(key);
-    button->setToolTip(purpose.arg(keys.toString(QKeySequence::NativeText)));
-    button->setAccessibleName(button->toolTip());
-    m_row->addWidget(button);
-    const auto request = [this, button, direction] {
-        if (button->isEnabled())
+    *step = {button, purpose.arg(keys.toString(QKeySequence::NativeText)), QString()};
+    button->setAccessibleName(step->purpose);
+    addButton(button);
+    const auto request = [this, step, direction] {
+        if (step->refusal.isEmpty())
             Q_EMIT stepRequested(direction);
+        else
+            showMessage(step->refusal);
     };
     connect(button, &QToolButton::clicked, this, request);
     connect(new QShortcut(keys, window()), &QShortcut::activated, this, request);
-    return button;
 }
 
 } // namespace plib

@@ -24,22 +24,37 @@ public:
     void setTitle(const QString& title);
     /// Shows a second line, unless the note is empty.
     void setNote(const QString& note);
-    /// Adds the buttons on the first call.
-    void setSteps(bool hasPrevious, bool hasNext);
+    /// Sets the reasons why there is no previous or next row, which are empty if there is one. Adds
+    /// the buttons on the first call.
+    void setSteps(const QString& previousRefusal, const QString& nextRefusal);
+    /// Adds a button on the right of the title.
+    void addButton(QToolButton* button);
+    /// Shows a message beside the title until the title is set again.
+    void showMessage(const QString& text);
 
 Q_SIGNALS:
     /// Emitted with -1 for the previous row and 1 for the next row.
     void stepRequested(int direction);
 
 private:
-    QToolButton* newButton(const char* name, Qt::ArrowType arrow, int key, const QString& purpose,
-                           int direction);
+    /// A button for a step and its purpose.
+    struct Step
+    {
+        QToolButton* button = nullptr;
+        QString purpose;
+        QString refusal;
+    };
+
+    void addStep(Step* step, const char* name, Qt::ArrowType arrow, int key, const QString& purpose,
+                 int direction);
+    static void setRefusal(Step* step, const QString& refusal);
 
     ElidedLabel* m_titleLabel;
     QLabel* m_noteLabel;
     QHBoxLayout* m_row;
-    QToolButton* m_previous = nullptr;
-    QToolButton* m_next = nullptr;
+    QLabel* m_messageLabel;
+    Step m_previous;
+    Step m_next;
 };
 
 } // namespace plib

@@ -15,6 +15,25 @@ int dimensionCode(RealField field)
     return NoDimension;
 }
 
+bool isSameKind(RealField a, RealField b)
+{
+    constexpr std::size_t Layers = 3;
+    const auto placeIn = [](const SixFields& six, RealField field) {
+        return std::size_t(std::find(six.begin(), six.end(), field) - six.begin());
+    };
+    for (const SixFields& six :
+         {fields::Directions, fields::Distances, fields::Diameters, fields::Minimum,
+          fields::Maximum, fields::CrackWidths, fields::Stresses}) {
+        const std::size_t first = placeIn(six, a);
+        const std::size_t second = placeIn(six, b);
+        if (first == six.size() || second == six.size())
+            continue;
+        const bool isByLayer = six == fields::Directions || six == fields::Distances;
+        return !isByLayer || first % Layers == second % Layers;
+    }
+    return false;
+}
+
 const std::vector<NamedField>& namedFields()
 {
     static const std::vector<NamedField> all = [] {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "record/DesignParameterData.h"
+
+#include <QString>
+
+#include <set>
+
+namespace plib {
+
+/// These functions return the reason why something cannot be done with rows, or an empty string if
+/// it can be done. A direction is -1 for up and 1 for down.
+
+/// Moving a row.
+QString moveRefusal(const DesignParameterData& data, int row, int direction);
+
+/// Deleting rows.
+QString deletionRefusal(const std::set<int>& rows);
+
+/// Continuing with another row in a dialog.
+QString stepRefusal(const DesignParameterData& data, int row, int direction);
+
+} // namespace plib
