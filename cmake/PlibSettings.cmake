@@ -62,6 +62,7 @@ function(vkd_install_target name package headers)
                                              SOVERSION ${PROJECT_VERSION_MAJOR})
     add_library(vkd::${name} ALIAS ${name})
     set_property(GLOBAL APPEND PROPERTY ${package}_targets ${name})
+    set_property(TARGET ${name} PROPERTY vkd_headers ${headers})
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
         $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
@@ -102,6 +103,24 @@ function(vkd_install_library name package)
     vkd_check_headers(${name})
 endfunction()
 
+# Installs the file <name>.pc for pkg-config. Its paths are relative, so that an installation can be
+# moved. It requires the libraries that the target links publicly.
+function(vkd_install_pkgconfig name)
+    get_target_property(headers ${name} vkd_headers)
+    get_target_property(linked ${name} INTERFACE_LINK_LIBRARIES)
+    list(FILTER linked INCLUDE REGEX "^(Qt5::|vkd_)")
+    list(TRANSFORM linked REPLACE "::" "")
+    list(REMOVE_DUPLICATES linked)
+    list(JOIN linked " " requires)
+    set(folder ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
+    file(RELATIVE_PATH libraries ${folder} ${CMAKE_INSTALL_FULL_LIBDIR})
+    file(RELATIVE_PATH includes ${folder} ${CMAKE_INSTALL_FULL_INCLUDEDIR}/vkd/${headers})
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in
+                   ${PROJECT_BINARY_DIR}/pkgconfig/${name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${name}.pc
+            DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endfunction()
+
 # Installs the files for find_package(<package>): the targets and the package file, which is made
 # from cmake/<package>Config.cmake.in. The targets also have aliases without the namespace vkd::.
 function(vkd_install_package package)
@@ -110,6 +129,9 @@ function(vkd_install_package package)
     set(version ${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake)
     set(config ${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake)
     get_property(targets GLOBAL PROPERTY ${package}_targets)
+    foreach(name IN LISTS targets)
+        vkd_install_pkgconfig(${name})
+    endforeach()
     string(REPLACE ";" " " targets "${targets}")
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in ${config} @ONLY)
     write_basic_package_version_file(${version} COMPATIBILITY SameMajorVersion)

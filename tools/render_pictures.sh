@@ -58,3 +58,8 @@ render_help help_layers two_layers zxx '.third { display: none }'
 render_help help_layers three_layers zxx
 render_help help_cover cover zxx
 render_help help_circular circular zxx
+
+icons=$root/packaging/icons
+for size in 16 22 24 32 48 64 128 256; do
+    rsvg-convert -w $size -h $size "$icons/plib_workbench.svg" -o "$icons/plib_workbench_$size.png"
+done

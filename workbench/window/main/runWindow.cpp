@@ -6,6 +6,7 @@
 #include <vkd_qt_translateQt.h>
 
 #include <QApplication>
+#include <QIcon>
 
 namespace workbench {
 
@@ -14,6 +15,8 @@ int runWindow(const QString& path)
     vkd::setDesktopLanguage(WindowSettings().language(vkd::desktopLanguage()));
     VKD_QT_InitTranslator::languageChanged();
     vkd_qt_translateQt();
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.plib.workbench"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("plib_workbench")));
     MainWindow window;
     window.openAfterPainting(path);
     window.show();
