@@ -1,0 +1,80 @@
+# Debian packages, made by packaging/makePackages with the preset `package`. The licence is the
+# decision of the owner of this project, so its text is read from the file LICENSE.
+set(license ${PROJECT_SOURCE_DIR}/LICENSE)
+set(PLIB_MAINTAINER "plib developers <plib@users.noreply.plib.org>" CACHE STRING
+    "Maintainer in the Debian packages")
+
+set(library libplib${PROJECT_VERSION_MAJOR})
+set(CPACK_GENERATOR DEB)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL runtime development workbench documentation)
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${PLIB_MAINTAINER})
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
+set(version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
+set(sentence "plib provides Qt widget pages for a finite-element desktop: the plots of a graphical
+ output, and the design parameters of area elements.")
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qttranslations5-l10n)
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "widget pages for a finite-element desktop
+${sentence}
+ .
+ This package contains the shared libraries and their data.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libplib-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "${library} (= ${version}), qtbase5-dev (>= 5.15)")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "widget pages for a finite-element desktop - headers
+${sentence}
+ .
+ This package contains the headers, and files for CMake and pkg-config.")
+
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_NAME plib-workbench)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS "${library} (= ${version})")
+set(CPACK_DEBIAN_WORKBENCH_DESCRIPTION "desktop and command line for finite-element plots
+${sentence}
+ .
+ This package contains a desktop program and a command line that use the pages.")
+
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_NAME plib-doc)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SECTION doc)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_DOCUMENTATION_DESCRIPTION "widget pages for a finite-element desktop - documentation
+${sentence}
+ .
+ This package contains the guides, examples and the reference of the headers.")
+
+# Each package has its copyright file and its changelog.
+execute_process(COMMAND date -R -u -d ${PLIB_RELEASE_DATE} OUTPUT_VARIABLE date
+                OUTPUT_STRIP_TRAILING_WHITESPACE)
+set(changelog ${CMAKE_CURRENT_BINARY_DIR}/changelog)
+file(WRITE ${changelog} "plib (${version}) unstable; urgency=medium\n\n"
+     "  * Version ${PROJECT_VERSION}; see CHANGELOG.md in the package plib-doc.\n\n"
+     " -- ${PLIB_MAINTAINER}  ${date}\n")
+execute_process(COMMAND gzip -9nfk ${changelog})
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} upper)
+    set(folder ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
+    install(CODE "if(NOT EXISTS ${license})
+    message(FATAL_ERROR \"The packages need the text of the licence in the file LICENSE\")
+endif()" COMPONENT ${component})
+    install(FILES ${license} DESTINATION ${folder} RENAME copyright COMPONENT ${component})
+    install(FILES ${changelog}.gz DESTINATION ${folder} RENAME changelog.Debian.gz
+            COMPONENT ${component})
+endforeach()
+include(CPack)
