@@ -16,7 +16,8 @@ FieldMessage::FieldMessage(QWidget* field)
 {
     setObjectName(QStringLiteral("fieldMessage"));
     setTextFormat(Qt::PlainText);
-    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFrameShape(QFrame::Box);
+    setFrameShadow(QFrame::Plain);
     setMargin(Padding);
     setFont(QToolTip::font());
     setForegroundRole(QPalette::ToolTipText);
