@@ -189,13 +189,13 @@ private:
                          QStringLiteral("1"), QStringLiteral("hio=0.0%1").arg(monkey.below(9))});
     }
 
-    /// Does not use the modification marker in the window title, because it is updated only by the
-    /// event loop.
-    static bool isChanged(const MainWindow& window)
+    /// Returns the number of parts of the project with changes that are not stored. Does not use the
+    /// modification marker in the window title, because it is updated only by the event loop.
+    static int changes(const MainWindow& window)
     {
         const auto plots = window.findChild<OutputDialog*>();
         const auto text = window.findChild<TextOutputDialog*>();
-        return (plots && plots->isChanged()) || (text && text->isChanged()) || hasNewRows(window);
+        return (plots && plots->isChanged()) + (text && text->isChanged()) + hasNewRows(window);
     }
 
     /// Returns whether the design dock contains rows that are not stored.
@@ -211,7 +211,7 @@ private:
         const QString project = projectOf(window);
         disturb(project, monkey);
         const QByteArray stored = contentOf(project);
-        const bool isModified = isChanged(window);
+        const int changesBefore = changes(window);
         const bool hadNewRows = hasNewRows(window);
         const QWidgetList all = windows();
         QWidget* place = monkey.below(3) ? &window : all[monkey.below(all.size())];
@@ -230,14 +230,14 @@ private:
                 m_faults += "\nnothing comes of " + text;
         }
         const bool isStored = contentOf(project) != stored;
-        const bool isApplied = hadNewRows && !hasNewRows(window);
+        const bool isApplied = changes(window) < changesBefore;
         if (isStored && !m_watch.wasStored && !isApplied)
             m_faults += "\nstored without OK";
         const bool isLeft = !window.isVisible() || projectOf(window) != project;
         if (!isLeft && hadNewRows && !window.findChild<DesignPage*>() && !m_watch.wasAsked)
             m_faults += "\nrows closed without a question";
         if (isLeft && !m_watch.wasSavedAs)
-            m_faults += faultOfLeaving(isModified, isStored);
+            m_faults += faultOfLeaving(changesBefore > 0, isStored);
         if (QApplication::overrideCursor())
             m_faults += "\nthe wait cursor stays";
         if (monkey.below(40) == 0 && window.isVisible())
@@ -261,7 +261,7 @@ private:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         for (const QString& name : doubles())
             m_faults += "\nleft behind: " + name.toUtf8();
-        if (window.isWindowModified() != isChanged(window))
+        if (window.isWindowModified() != (changes(window) > 0))
             m_faults += "\nthe mark in the title is not right";
         const auto output = window.findChild<OutputDialog*>();
         if (!output || contentOf(projectOf(window)).isEmpty())

@@ -74,8 +74,8 @@ private Q_SLOTS:
         QVERIFY(window.windowTitle().startsWith(QLatin1String("new.zob[")));
     }
 
-    /// A click updates the script, a language change preserves the choice, Cancel restores the
-    /// saved choice, and OK saves the new choice.
+    /// A click updates the script, a language change preserves the choice, Discard restores the
+    /// saved choice, and Ctrl+S saves the new choice.
     void scriptFollowsAndIsSaved()
     {
         const auto window = open("saved.zob");
@@ -100,7 +100,11 @@ private Q_SLOTS:
             QCOMPARE(script(*window), chosen);
             auto dialog = find<QDialog>(*window, "OutputDialog"); // the dialog has been recreated
             const QPointer<QTreeWidget> tree = dialog->findChild<QTreeWidget*>();
-            isSaved ? dialog->accept() : dialog->reject();
+            if (isSaved)
+                QTest::keyClick(find<QWidget>(*window, "GroupList"), Qt::Key_S,
+                                Qt::ControlModifier);
+            else
+                dialog->reject();
             QCOMPARE(tree && tree->topLevelItemCount() > 0, isSaved);
             QTRY_COMPARE(window->findChildren<QDialog*>(QStringLiteral("OutputDialog")).size(), 1);
             QVERIFY(!window->isWindowModified());

@@ -66,7 +66,7 @@ private Q_SLOTS:
         row("no project", always);
         row("empty project", // even this project has a script
             always + script +
-                QLatin1String(" Design Output Reload SaveAs SheetPreviewAction TextOutput"));
+                QLatin1String(" Design Output Reload Save SaveAs SheetPreviewAction TextOutput"));
     }
 
     /// All actions and buttons work, and the window remains usable.

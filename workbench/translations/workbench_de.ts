@@ -461,8 +461,8 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Ü&amp;bernehmen</translation>
     </message>
     <message>
-        <source>Stores the choice of plots in the project file</source>
-        <translation>Speichert die Grafikauswahl in der Projektdatei</translation>
+        <source>Stores the choice of plots in the project file (Ctrl+S)</source>
+        <translation>Speichert die Auswahl der Grafiken in der Projektdatei (Strg+S)</translation>
     </message>
     <message>
         <source>Dis&amp;card</source>
@@ -470,7 +470,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
     <message>
         <source>Returns to the choice of plots in the project file</source>
-        <translation>Stellt die Grafikauswahl der Projektdatei wieder her</translation>
+        <translation>Stellt die Auswahl der Grafiken aus der Projektdatei wieder her</translation>
     </message>
     <message>
         <source>Plots</source>
@@ -1128,8 +1128,16 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Skript &amp;kopieren</translation>
     </message>
     <message>
-        <source>&amp;Save Script...</source>
-        <translation>Skript &amp;speichern ...</translation>
+        <source>Save Scr&amp;ipt...</source>
+        <translation>Skript sp&amp;eichern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Stores all unsaved changes in the project file</source>
+        <translation>Speichert alle Änderungen in der Projektdatei</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1250,7 +1258,7 @@ Sollen sie gespeichert werden?</translation>
     </message>
 </context>
 <context>
-    <name>workbench::FileCommands</name>
+    <name>workbench::NewProject</name>
     <message>
         <source>Model for a New Project</source>
         <translation>Modell für ein neues Projekt</translation>
@@ -1280,6 +1288,13 @@ Sollen sie gespeichert werden?</translation>
 %1</source>
         <translation>Das Projekt kann nicht angelegt werden.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FileCommands</name>
+    <message>
+        <source>Projects (*.zob)</source>
+        <translation>Projekte (*.zob)</translation>
     </message>
     <message>
         <source>Open Project</source>
@@ -1336,6 +1351,10 @@ In der Anzeige fehlt möglicherweise etwas.</translation>
 Is the open project to be saved under another name?</source>
         <translation>Die Projektdatei wurde gelöscht oder verschoben.
 Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>There are no unsaved changes.</source>
+        <translation>Es gibt keine ungespeicherten Änderungen.</translation>
     </message>
 </context>
 <context>
@@ -1498,8 +1517,8 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Überneh&amp;men</translation>
     </message>
     <message>
-        <source>Stores the rows in the project file (Ctrl+S in this panel)</source>
-        <translation>Speichert die Zeilen in der Projektdatei (Strg+S in diesem Bereich)</translation>
+        <source>Stores the rows in the project file (Ctrl+S)</source>
+        <translation>Speichert die Zeilen in der Projektdatei (Strg+S)</translation>
     </message>
 </context>
 <context>

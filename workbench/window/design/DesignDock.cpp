@@ -5,20 +5,14 @@
 
 #include <vkd_qt_icon_named.h>
 
-#include <QAction>
-#include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QScrollArea>
 
 namespace workbench {
 
-DesignDock::DesignDock(QMenu* editMenu, QWidget* parent)
-    : AskingDock(QStringLiteral("DesignDock"), parent)
-    , m_editMenu(editMenu)
+DesignDock::DesignDock(QWidget* parent)
+    : PageDock(QStringLiteral("DesignDock"), parent)
     , m_place(new QScrollArea(this))
     , m_tools(new QVBoxLayout)
     , m_apply(new QPushButton(this))
@@ -38,28 +32,17 @@ DesignDock::DesignDock(QMenu* editMenu, QWidget* parent)
     m_tools->addWidget(m_apply);
     setWidget(content);
     setModified(false);
-    m_editMenu->menuAction()->setEnabled(false);
     connect(m_apply, &QPushButton::clicked, this, &DesignDock::applyRequested);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget*, const QWidget* now) { followFocus(now); });
-}
-
-/// Disconnects from the application, because the focus still changes while the page is destroyed.
-DesignDock::~DesignDock()
-{
-    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void DesignDock::setPage(std::unique_ptr<DesignPage> page)
 {
     const bool hadFocus = m_page && m_page->isAncestorOf(window()->focusWidget());
-    m_editMenu->clear();
     m_page = nullptr;
     delete m_place->takeWidget();
     if (page) {
         m_page = page.release();
         m_place->setWidget(m_page);
-        m_editMenu->addActions(m_page->actions());
         m_place->setMinimumHeight(m_page->minimumSizeHint().height());
         m_page->show();
         setFocusProxy(m_page);
@@ -67,7 +50,7 @@ void DesignDock::setPage(std::unique_ptr<DesignPage> page)
         if (hadFocus)
             m_page->setFocus();
     }
-    followFocus(QApplication::focusWidget());
+    Q_EMIT pageChanged();
 }
 
 /// Moves the buttons after the last widget of the page in the tab order.
@@ -100,35 +83,12 @@ void DesignDock::setTexts()
 {
     setTitle(tr("Design Parameters"));
     m_apply->setText(tr("&Apply"));
-    m_apply->setToolTip(tr("Stores the rows in the project file (Ctrl+S in this panel)"));
+    m_apply->setToolTip(tr("Stores the rows in the project file (Ctrl+S)"));
 }
 
-/// Accepts the override of Ctrl+S, so that the key does not save the script while the dock has the
-/// focus.
-bool DesignDock::event(QEvent* event)
+QList<QAction*> DesignDock::pageActions() const
 {
-    if (event->type() == QEvent::ShortcutOverride && m_page &&
-        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Save)) {
-        event->accept();
-        return true;
-    }
-    return AskingDock::event(event);
-}
-
-void DesignDock::keyPressEvent(QKeyEvent* event)
-{
-    if (event->matches(QKeySequence::Save) && m_page)
-        Q_EMIT applyRequested();
-    else
-        AskingDock::keyPressEvent(event);
-}
-
-/// While a menu is used, the focus is still that of the dock.
-void DesignDock::followFocus(const QWidget* now)
-{
-    const bool isInMenu = qobject_cast<const QMenuBar*>(now) || qobject_cast<const QMenu*>(now);
-    if (m_editMenu && !(m_page && (!now || isInMenu)))
-        m_editMenu->menuAction()->setEnabled(m_page && isAncestorOf(now));
+    return m_page ? m_page->actions() : QList<QAction*>();
 }
 
 } // namespace workbench

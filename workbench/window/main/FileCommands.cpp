@@ -18,7 +18,6 @@
 
 #include <AnimatorView.h>
 #include <VKD_H_ZOBDoc.h>
-#include <ZobFilePlace.h>
 #include <ZobSnapshot.h>
 
 #include <QAction>
@@ -35,7 +34,8 @@ namespace workbench {
 FileCommands::FileCommands(const ProjectParts& parts, const MakeProject& makeProject,
                            WindowActions* actions)
     : m_parts(parts)
-    , m_makeProject(makeProject)
+    , m_newProject(parts.project, parts.messages, makeProject)
+    , m_changes(parts.design, parts.output, parts.textOutput)
     , m_actions(actions)
 {
     connectActions(*actions);
@@ -49,20 +49,19 @@ void FileCommands::connectActions(const WindowActions& actions)
     };
     for (const QAction* sample : actions.newFromSample)
         on(sample, [this, sample] { newProject(sample->data().toString()); });
-    on(actions.newFromFile, &FileCommands::chooseModel);
+    on(actions.newFromFile, &FileCommands::newFromFile);
     on(actions.open, &FileCommands::chooseProject);
     on(actions.reload, &FileCommands::reload);
+    on(actions.save, &FileCommands::save);
     on(actions.saveAs, &FileCommands::saveAs);
     connect(actions.recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
         leaveFor(file->data().toString()); // a copy, because the call rebuilds the menu
     });
 }
 
-void FileCommands::chooseModel()
+void FileCommands::newFromFile()
 {
-    const QString model =
-        QFileDialog::getOpenFileName(m_parts.messages->window(), tr("Model for a New Project"),
-                                     m_parts.project->folder(), tr("Models (*.json)"));
+    const QString model = m_newProject.chooseModel();
     if (!model.isEmpty())
         newProject(model);
 }
@@ -71,38 +70,9 @@ void FileCommands::newProject(const QString& model)
 {
     if (!mayLeave())
         return;
-    const QString proposal =
-        QDir(m_parts.project->folder())
-            .filePath(QFileInfo(model).completeBaseName() + QLatin1String(".zob"));
-    const QString path =
-        chooseFileToSave(m_parts.messages->window(), tr("New Project"), proposal,
-                         tr("Projects (*.zob)"), QStringLiteral("zob"), m_parts.project->path());
-    if (!path.isEmpty() && makeProject(path, model))
+    const QString path = m_newProject.create(model);
+    if (!path.isEmpty())
         open(path);
-}
-
-bool FileCommands::makeProject(const QString& path, const QString& model)
-{
-    QWidget* window = m_parts.messages->window();
-    const QString sentence = tr("The file %1 cannot be written.");
-    std::unique_ptr<ZobFilePlace> place;
-    if (!m_parts.messages->succeeds(takePlace(window, path, &place), path, sentence))
-        return false;
-    const QString unfinished = place->temporaryPath();
-    QString trouble;
-    bool goesOn = true;
-    {
-        SlowWork work(window, tr("The project is being made."), 100);
-        trouble = m_makeProject(unfinished, model,
-                                [&](int percent) { return goesOn = work.goOn(percent); });
-    }
-    if (goesOn && !trouble.isEmpty()) {
-        m_parts.messages->complain(
-            tr("The project cannot be made.\n%1").arg(trouble.replace(unfinished, path)));
-        return false;
-    }
-    const VkdStatus status = goesOn ? place->commit() : VkdStatus{VKD_ZOB_CANCELLED, QString()};
-    return m_parts.messages->succeeds(status, path, sentence);
 }
 
 void FileCommands::chooseProject()
@@ -254,6 +224,13 @@ void FileCommands::reload()
     m_parts.messages->say(tr("%1 is reloaded.").arg(QFileInfo(m_parts.project->path()).fileName()));
 }
 
+void FileCommands::save()
+{
+    if (!m_changes.exist())
+        m_parts.messages->say(tr("There are no unsaved changes."));
+    m_changes.store();
+}
+
 bool FileCommands::saveAs()
 {
     OpenProject* project = m_parts.project;
@@ -263,19 +240,12 @@ bool FileCommands::saveAs()
     if (path.isEmpty())
         return false;
     if (project->check() == ProjectWatch::File::Present && isSameFile(path, project->path()))
-        return storeAll();
+        return m_changes.store();
     if (!m_parts.output->dialog() ||
         !m_parts.messages->succeeds(copyProject(window, *project->document(), path), path,
                                     tr("The project cannot be saved in the file %1.")))
         return false;
     return takeOver(path);
-}
-
-/// Stores the input in all open dialogs.
-bool FileCommands::storeAll()
-{
-    return m_parts.design->store() && m_parts.output->store() &&
-           (!m_parts.textOutput->isOpen() || m_parts.textOutput->store());
 }
 
 /// Continues with the copy of the project and preserves the rows and the selections in open
@@ -310,8 +280,7 @@ bool FileCommands::mayLeaveMissingFile()
 
 bool FileCommands::mayLeave()
 {
-    return mayLeaveMissingFile() && m_parts.design->mayLeave() && m_parts.textOutput->mayLeave() &&
-           m_parts.output->mayLeave();
+    return mayLeaveMissingFile() && m_changes.mayLeave();
 }
 
 } // namespace workbench

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "window/main/makeProjectFile.h"
+#include "window/main/NewProject.h"
+#include "window/main/UnsavedChanges.h"
 
 #include <vkd_status.h>
 #include <ZobHandle.h>
@@ -37,9 +38,9 @@ struct ProjectParts
     std::function<bool()> showContents;
 };
 
-/// The project commands of the File menu: new, open, reload, save as. The class asks about unsaved
-/// selections before a project is closed, and loads the model of a newly opened project into the
-/// view. The window shows all other data.
+/// The project commands of the File menu: new, open, reload, save and save as. The class asks about
+/// unsaved selections before a project is closed, and loads the model of a newly opened project
+/// into the view. The window shows all other data.
 class FileCommands : public QObject
 {
     Q_OBJECT
@@ -58,6 +59,8 @@ public:
     void painted();
     /// Opens a dropped project, or creates a project from a dropped model file.
     void openDropped(const QString& path);
+    /// Stores the unsaved changes in the project.
+    void save();
     /// Saves the project under another name and opens it. Returns whether the user chose a name and
     /// the file was written.
     bool saveAs();
@@ -73,9 +76,8 @@ private:
     enum class Camera { Standard, Keep };
 
     void connectActions(const WindowActions& actions);
-    void chooseModel();
+    void newFromFile();
     void newProject(const QString& model);
-    bool makeProject(const QString& path, const QString& model);
     void chooseProject();
     void leaveFor(const QString& path);
     void reload();
@@ -86,11 +88,11 @@ private:
     void showProject(const VkdStatus& modelStatus);
     void showFirstProject();
     bool takeOver(const QString& path);
-    bool storeAll();
     bool mayLeaveMissingFile();
 
     ProjectParts m_parts;
-    MakeProject m_makeProject;
+    NewProject m_newProject;
+    UnsavedChanges m_changes;
     WindowActions* m_actions;
     QString m_pathToOpen;           // opened after the next paint event
     bool m_isProjectToShow = false; // shown after the next paint event

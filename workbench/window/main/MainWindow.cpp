@@ -15,8 +15,8 @@
 #include "window/output/OutputEditor.h"
 #include "window/output/OutputScript.h"
 #include "window/records/RecordsPane.h"
-#include "window/support/AskingDock.h"
 #include "window/support/FileDrop.h"
+#include "window/support/PageDock.h"
 #include "window/support/SlowWork.h"
 #include "window/support/WindowSettings.h"
 #include "window/support/withinScreen.h"
@@ -194,7 +194,7 @@ void MainWindow::setTitle()
 void MainWindow::enableActions()
 {
     m_actions->enable(m_project.isOpen(), m_project.file() == ProjectWatch::File::Missing);
-    for (const AskingDock* dock : m_panes->projectDocks())
+    for (const PageDock* dock : m_panes->pageDocks())
         dock->toggleViewAction()->setEnabled(m_project.isOpen());
 }
 

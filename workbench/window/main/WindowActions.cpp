@@ -77,6 +77,7 @@ WindowActions::WindowActions(QMainWindow* window)
     , newFromFile(add("NewFromFile"))
     , open(add("Open"))
     , reload(add("Reload"))
+    , save(add("Save"))
     , saveAs(add("SaveAs"))
     , copyScript(add("CopyScriptAction"))
     , saveScript(add("SaveScriptAction"))
@@ -101,7 +102,7 @@ WindowActions::WindowActions(QMainWindow* window)
     }
     // These icons follow the palette and need no icon files, which would slow down startup.
     open->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/open")));
-    saveScript->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
+    save->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
     design->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/reinforcement")));
     output->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/plot")));
     textOutput->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/text")));
@@ -158,7 +159,7 @@ void WindowActions::addMenus(QMainWindow* window)
     m_newMenu->addAction(newFromFile);
     m_fileMenu->addAction(open);
     recentMenu = m_fileMenu->addMenu(QString());
-    m_fileMenu->addActions({reload, saveAs});
+    m_fileMenu->addActions({reload, save, saveAs});
     m_fileMenu->addSeparator();
     m_fileMenu->addActions({copyScript, saveScript, exportSheets});
     m_fileMenu->addSeparator();
@@ -185,11 +186,9 @@ void WindowActions::addToolBar(QMainWindow* window)
     m_toolBar = window->addToolBar(QString());
     m_toolBar->setObjectName(QStringLiteral("ToolBar"));
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_toolBar->addAction(open);
+    m_toolBar->addActions({open, save});
     m_toolBar->addSeparator();
     m_toolBar->addActions({design, output, textOutput});
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(saveScript);
     m_toolBar->addSeparator();
     m_toolBar->addActions(views.toList());
 }
@@ -198,9 +197,10 @@ void WindowActions::setShortcuts()
 {
     open->setShortcut(QKeySequence::Open);
     reload->setShortcut(QKeySequence::Refresh);
+    save->setShortcut(QKeySequence::Save);
     saveAs->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_S);
     copyScript->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_C);
-    saveScript->setShortcut(QKeySequence::Save);
+    saveScript->setShortcut(Qt::CTRL + Qt::Key_E);
     quit->setShortcut(Qt::CTRL + Qt::Key_Q);
     design->setShortcut(Qt::CTRL + Qt::Key_D);
     output->setShortcut(Qt::CTRL + Qt::Key_G);
@@ -214,7 +214,7 @@ void WindowActions::setShortcuts()
 
 QList<QAction*> WindowActions::besideDialogs() const
 {
-    return {design, output, textOutput, sheet, copyScript, saveScript, exportSheets};
+    return {save, design, output, textOutput, sheet, copyScript, saveScript, exportSheets};
 }
 
 void WindowActions::setTexts()
@@ -235,11 +235,13 @@ void WindowActions::setTexts()
     newFromFile->setText(tr("&Model File..."));
     open->setText(tr("&Open..."));
     reload->setText(tr("Re&load"));
+    save->setText(tr("&Save"));
+    save->setToolTip(tr("Stores all unsaved changes in the project file"));
     saveAs->setText(tr("Save &As..."));
     copyScript->setText(tr("&Copy Script"));
     copyScript->setIconText(tr("Copy")); // on the button next to the script
     copyScript->setToolTip(tr("Puts the script on the clipboard"));
-    saveScript->setText(tr("&Save Script..."));
+    saveScript->setText(tr("Save Scr&ipt..."));
     saveScript->setToolTip(tr("Saves the script in a file"));
     exportSheets->setText(tr("&Export Sheets..."));
     exportSheets->setIconText(tr("Export PDF..."));
@@ -264,7 +266,7 @@ void WindowActions::setTexts()
 
 void WindowActions::enable(bool hasProject, bool isFileGone)
 {
-    for (QAction* action : {saveAs, design, output, textOutput, sheet})
+    for (QAction* action : {save, saveAs, design, output, textOutput, sheet})
         action->setEnabled(hasProject);
     reload->setEnabled(hasProject && !isFileGone);
     for (QAction* action : qAsConst(views))

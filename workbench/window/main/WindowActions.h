@@ -37,6 +37,7 @@ public:
     QAction* newFromFile;
     QAction* open;
     QAction* reload;
+    QAction* save;
     QAction* saveAs;
     QAction* copyScript;
     QAction* saveScript;

@@ -5,6 +5,7 @@
 #include "window/design/PickBanner.h"
 #include "window/main/ChangeBar.h"
 #include "window/main/DockShares.h"
+#include "window/main/EditMenu.h"
 #include "window/main/GroupList.h"
 #include "window/main/GroupPane.h"
 #include "window/main/OutputRoom.h"
@@ -54,7 +55,7 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     , view(new AnimatorView(ZobHandle(), window))
     , script(new ScriptPane(actions.copyScript, actions.saveScript, window))
     , sheets(new SheetPreview(actions.exportSheets, window))
-    , design(new DesignDock(actions.editMenu, window))
+    , design(new DesignDock(window))
     , output(new OutputDock(window))
     , m_window(window)
 {
@@ -91,7 +92,7 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_recordDock = addDock(m_window, Qt::RightDockWidgetArea, nullptr, "RecordDock");
     m_window->addDockWidget(Qt::BottomDockWidgetArea, design);
     m_window->addDockWidget(Qt::LeftDockWidgetArea, output);
-    for (AskingDock* dock : projectDocks())
+    for (PageDock* dock : pageDocks())
         dock->hide();
     for (const QDockWidget* dock : std::initializer_list<const QDockWidget*>{
              m_groupDock, output, design, m_scriptDock, m_sheetDock, m_recordDock})
@@ -101,6 +102,9 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_window->tabifyDockWidget(m_sheetDock, m_recordDock);
     m_scriptDock->raise();
     connect(output, &QDockWidget::visibilityChanged, this, &WindowPanes::placeOutput);
+    const QWidgetList places{m_window->centralWidget(), m_groupDock, m_scriptDock, m_sheetDock,
+                             m_recordDock};
+    new EditMenu(actions.editMenu, pageDocks(), places, this);
     new OutputRoom({m_window, output, m_groupDock, m_scriptDock, {news, banner}}, this);
 }
 
@@ -191,7 +195,7 @@ void WindowPanes::showSheets()
     sheets->setFocus();
 }
 
-QList<AskingDock*> WindowPanes::projectDocks() const
+QList<PageDock*> WindowPanes::pageDocks() const
 {
     return {design, output};
 }
@@ -201,7 +205,7 @@ void WindowPanes::restoreGeometry()
     const WindowSettings settings;
     m_window->restoreGeometry(settings.value(GeometryKey).toByteArray());
     m_window->restoreState(settings.value(StateKey).toByteArray(), StateVersion);
-    for (AskingDock* dock : projectDocks())
+    for (PageDock* dock : pageDocks())
         dock->hide(); // until a project is open and the user opens the dock
 }
 

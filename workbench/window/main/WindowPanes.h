@@ -10,7 +10,7 @@ class QWidget;
 
 namespace workbench {
 
-class AskingDock;
+class PageDock;
 class ChangeBar;
 class DesignDock;
 class GroupList;
@@ -41,7 +41,7 @@ public:
     /// Raises the sheet preview above other docks and gives it the focus.
     void showSheets();
     /// Returns the docks that show parts of the project and need a project.
-    QList<AskingDock*> projectDocks() const;
+    QList<PageDock*> pageDocks() const;
     /// These functions restore and save the geometry of the window and its docks in the program
     /// settings.
     void restoreGeometry();

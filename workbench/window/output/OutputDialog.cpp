@@ -99,7 +99,7 @@ void OutputDialog::setButtons()
     layout()->setContentsMargins(0, 0, 0, 0); // those of the dock
     QPushButton* apply = buttons()->cmdOk();
     apply->setText(tr("&Apply"));
-    apply->setToolTip(tr("Stores the choice of plots in the project file"));
+    apply->setToolTip(tr("Stores the choice of plots in the project file (Ctrl+S)"));
     buttons()->cmdCancel()->setText(tr("Dis&card"));
     buttons()->cmdCancel()->setToolTip(tr("Returns to the choice of plots in the project file"));
     for (QPushButton* button : {apply, buttons()->cmdCancel()}) {

@@ -9,7 +9,7 @@
 namespace workbench {
 
 OutputDock::OutputDock(QWidget* parent)
-    : AskingDock(QStringLiteral("OutputDock"), parent)
+    : PageDock(QStringLiteral("OutputDock"), parent)
     , m_place(new QScrollArea(this))
 {
     setHelpTopic(this, "GRAV/OUTPUT");
@@ -27,10 +27,16 @@ void OutputDock::setDialog(OutputDialog* dialog)
     }
     m_dialog = dialog;
     setFocusProxy(dialog);
-    if (!dialog)
-        return;
-    m_place->setWidget(dialog);
-    dialog->show();
+    if (dialog) {
+        m_place->setWidget(dialog);
+        dialog->show();
+    }
+    Q_EMIT pageChanged();
+}
+
+QList<QAction*> OutputDock::pageActions() const
+{
+    return m_dialog ? m_dialog->actions() : QList<QAction*>();
 }
 
 int OutputDock::widthOfPage() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/support/AskingDock.h"
+#include "window/support/PageDock.h"
 
 #include <QPointer>
 
@@ -12,7 +12,7 @@ class OutputDialog;
 
 /// The dock with the graphical output of the open project. OutputEditor owns the dialog that the
 /// dock shows; it also exists while the dock is closed, because it creates the script.
-class OutputDock : public AskingDock
+class OutputDock : public PageDock
 {
     Q_OBJECT
 
@@ -25,6 +25,7 @@ public:
     /// Returns the width of the page without scroll bars, including the frame of the dock.
     int widthOfPage() const;
     void setTexts();
+    QList<QAction*> pageActions() const override;
 
 private:
     QScrollArea* m_place;

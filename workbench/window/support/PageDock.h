@@ -6,22 +6,27 @@
 
 namespace workbench {
 
-/// A dock that asks before it is closed, and whose title marks unsaved changes.
-class AskingDock : public QDockWidget
+/// A dock with a page of the open project. It asks before it is closed, its title marks unsaved
+/// changes, and it provides actions of the page for the Edit menu.
+class PageDock : public QDockWidget
 {
     Q_OBJECT
 
 public:
-    AskingDock(const QString& name, QWidget* parent);
+    PageDock(const QString& name, QWidget* parent);
 
     /// Sets the function that returns whether the dock may be closed. It may ask the user.
     void setMayClose(const std::function<bool()>& mayClose) { m_mayClose = mayClose; }
     /// Sets the title of the dock, without the mark for unsaved changes.
     void setTitle(const QString& title);
+    /// Returns the actions of the page, or none if there is no page.
+    virtual QList<QAction*> pageActions() const = 0;
 
 Q_SIGNALS:
     /// Emitted after the dock has been closed.
     void closed();
+    /// Emitted after the dock has received another page or no page.
+    void pageChanged();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,23 +1,23 @@
-#include "window/support/AskingDock.h"
+#include "window/support/PageDock.h"
 
 #include <QAction>
 #include <QCloseEvent>
 
 namespace workbench {
 
-AskingDock::AskingDock(const QString& name, QWidget* parent)
+PageDock::PageDock(const QString& name, QWidget* parent)
     : QDockWidget(parent)
 {
     setObjectName(name);
 }
 
-void AskingDock::setTitle(const QString& title)
+void PageDock::setTitle(const QString& title)
 {
     setWindowTitle(title + QLatin1String("[*]"));
 }
 
 /// If the dock stays open, the action that closes it must stay checked.
-void AskingDock::closeEvent(QCloseEvent* event)
+void PageDock::closeEvent(QCloseEvent* event)
 {
     if (m_mayClose && !m_mayClose()) {
         event->ignore();
