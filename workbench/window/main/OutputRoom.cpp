@@ -77,9 +77,10 @@ void OutputRoom::arrange()
     if (!isDocked())
         return;
     const int needed = m_widgets.output->widthOfPage();
-    const int script = qMin(m_scriptWidth, window->width() - needed);
+    const int script = qMax(1, qMin(m_scriptWidth, window->width() - needed));
     window->resizeDocks({m_widgets.output, m_widgets.script},
-                        {isModel ? needed : window->width() - script, script}, Qt::Horizontal);
+                        {isModel ? needed : qMax(1, window->width() - script), script},
+                        Qt::Horizontal);
     window->layout()->activate();
 }
 
@@ -87,7 +88,7 @@ void OutputRoom::restore()
 {
     if (m_groupWidth > 0)
         m_widgets.window->resizeDocks({m_widgets.groups, m_widgets.script},
-                                      {m_groupWidth, m_scriptWidth}, Qt::Horizontal);
+                                      {m_groupWidth, qMax(1, m_scriptWidth)}, Qt::Horizontal);
 }
 
 } // namespace workbench
