@@ -5,8 +5,8 @@
 
 #include <catalogue/CatalogueParser.h>
 #include <script/scriptLines.h>
-#include <tree/OutputNode.h>
 #include <tree/checkStates.h>
+#include <tree/OutputNode.h>
 #include <tree/selectionText.h>
 #include <tree/TreeBuilder.h>
 
@@ -21,8 +21,9 @@ QByteArray catalogueOf(int lines)
     QByteArray file;
     for (int i = 0; i < lines; ++i) {
         const QByteArray number = QByteArray::number(i);
+        const QByteArray identifier = QByteArray::number(i, 36).rightJustified(3, '0').right(3);
         file += "1   |222 |0  |&27Q Reaction forces  |@S" + QByteArray::number(i / 50 % 90 + 10) +
-                " Supports |@P" + number + " Plot " + number +
+                " Supports |@" + identifier + " Plot " + number +
                 "  |Quad|0|last-l|1|1| |0|AUFL REAK RICH Z SCHH $(SCHR) NUMM " + number +
                 "|SUPP REAC DIRE Z SCHH $(SCHR) NUMB " + number + "\n";
     }
