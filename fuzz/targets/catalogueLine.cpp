@@ -1,5 +1,6 @@
 #include "FuzzTarget.h"
 
+#include <catalogue/CatalogueLines.h>
 #include <catalogue/CatalogueParser.h>
 
 #include <algorithm>
@@ -26,7 +27,8 @@ bool areEqual(const plib::GraphicalOutputRecord& a, const plib::GraphicalOutputR
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const QByteArray input = fuzz::bytesOf(bytes, size);
-    const QByteArray line = input.left(input.indexOf('\n')).left(CatalogueParser::LineBuffer - 1);
+    const QByteArray line =
+        input.left(input.indexOf('\n')).left(plib::CatalogueLines::MaximumLength);
     CatalogueParser parser;
     const CatalogueParser::Outcome outcome = parser.parseLine(line.constData(), line.size());
     const plib::GraphicalOutputRecord record = parser.record();

@@ -2,6 +2,7 @@
 #include "TestSupport.h"
 
 #include <catalogue/Catalogue.h>
+#include <catalogue/CatalogueLines.h>
 #include <catalogue/catalogueLint.h>
 #include <vkd_lib_searchpath.h>
 #include <vkd_lib_value.h>
@@ -99,15 +100,23 @@ private Q_SLOTS:
         QTEST(text(testsupport::parse(mark + file.replace("\n", "\n" + mark))), "expected");
     }
 
-    void longLineIsCutAt1023Bytes()
+    void linesAreThoseOfQt()
     {
-        const QByteArray line = "3|0|0|A|B|C|Node|7|last-l|1|1|x|0|KNOT|";
-        const QByteArray second = "5|0|0|A|B|C|Node|7|last-l|1|1|x|0|KNOT|NODE";
-        const QByteArray first = line + QByteArray(1023 - line.size(), 'E');
-        const auto records = testsupport::parse(first + second + '\n');
-        QCOMPARE(int(records.size()), 2);
-        QCOMPARE(records[0].scriptEnglish.size(), 1023 - line.size());
-        QCOMPARE(records[1].prog1, 5);
+        QByteArray file;
+        for (int length = 0; length<2100; length += length> 1015 && length < 1030 ? 1 : 37)
+            file += QByteArray(length, 'a') + QByteArray(length % 5, '\0') + "\r\n";
+        file = file.repeated(5) + "last";
+        QBuffer blocks(&file), device(&file);
+        blocks.open(QIODevice::ReadOnly);
+        device.open(QIODevice::ReadOnly);
+        plib::CatalogueLines lines(blocks);
+        char line[1024];
+        for (qint64 length; (length = device.readLine(line, sizeof line)) > 0;) {
+            QVERIFY(lines.next());
+            QCOMPARE(QByteArray(lines.bytes(), lines.length()), QByteArray(line, int(length)));
+            QCOMPARE(lines.isWhole(), line[length - 1] == '\n' || device.atEnd());
+        }
+        QVERIFY(!lines.next());
     }
 
     /// Word, ctrl, rowClass and rowMark.

@@ -1,6 +1,7 @@
 #include "catalogue/CatalogueParser.h"
 
 #include "catalogue/captionText.h"
+#include "catalogue/CatalogueLines.h"
 
 #include <vkd_lib_text.h>
 
@@ -15,6 +16,7 @@ namespace plib {
 namespace {
 constexpr int FirstCaption = 3; // columns of the captions
 constexpr int LastCaption = 5;
+constexpr int GermanScript = 13;
 
 bool isAscii(const char* bytes, int length)
 {
@@ -28,6 +30,21 @@ bool isAscii(const char* bytes, int length)
     for (; i < length; ++i)
         all |= quint64(static_cast<unsigned char>(bytes[i]));
     return !(all & Q_UINT64_C(0x8080808080808080));
+}
+
+/// Returns whether the first part is the known one. This takes less time than finding its end.
+bool beginsWithPart(const char* begin, const char* end, const std::string& known)
+{
+    const auto length = size_t(end - begin);
+    return !known.empty() && known.size() <= length &&
+           (known.size() == length || begin[known.size()] == '|') &&
+           std::memcmp(begin, known.data(), known.size()) == 0;
+}
+
+const char* barAfter(const char* begin, const char* end)
+{
+    const void* found = std::memchr(begin, '|', size_t(end - begin));
+    return found ? static_cast<const char*>(found) : end;
 }
 
 /// Equivalent to QChar::isSpace() for ASCII characters.
@@ -71,6 +88,21 @@ int rowClassOf(const QString& suffix)
 }
 } // namespace
 
+/// The English script remains in the working record, because the next line may lack one.
+GraphicalOutputRecord CatalogueParser::takeRecord()
+{
+    QString title = std::move(m_record.title3);
+    QString identifier = std::move(m_record.id3);
+    QString german = std::move(m_record.scriptGerman);
+    m_bytes[LastCaption].clear(); // so that the next line sets the columns again
+    m_bytes[GermanScript].clear();
+    GraphicalOutputRecord record = m_record;
+    record.title3 = std::move(title);
+    record.id3 = std::move(identifier);
+    record.scriptGerman = std::move(german);
+    return record;
+}
+
 CatalogueParser::Outcome CatalogueParser::parseLine(const char* bytes, int length)
 {
     m_partCount = 0;
@@ -87,26 +119,26 @@ CatalogueParser::Outcome CatalogueParser::parseAscii(const char* bytes, int leng
         return Outcome::Comment;
     if (std::all_of(bytes, end, isSpace))
         return Outcome::Blank;
-    std::array<QLatin1String, UsedParts> parts;
+    std::array<QLatin1String, UsedParts> changed; // null for columns that are unchanged
     for (const char* begin = bytes; begin < end;) {
-        const void* found = std::memchr(begin, '|', size_t(end - begin));
-        const char* bar = found ? static_cast<const char*>(found) : end;
+        const bool isUsed = m_partCount < UsedParts;
+        const std::string& known = m_bytes[size_t(isUsed ? m_partCount : 0)];
+        const bool isKnown = isUsed && beginsWithPart(begin, end, known);
+        const char* bar = isKnown ? begin + known.size() : barAfter(begin, end);
         if (bar > begin) {
-            if (m_partCount < UsedParts)
-                parts[size_t(m_partCount)] = QLatin1String(begin, int(bar - begin));
+            if (isUsed && !isKnown)
+                changed[size_t(m_partCount)] = QLatin1String(begin, int(bar - begin));
             ++m_partCount;
         }
         begin = bar + 1;
     }
     if (m_partCount < MinimumParts)
         return Outcome::TooFewParts;
-    for (int i = 0; i < std::min(m_partCount, UsedParts); ++i) {
-        const QLatin1String part = parts[size_t(i)];
-        std::string& stored = m_bytes[size_t(i)];
-        if (stored.size() == size_t(part.size()) &&
-            std::memcmp(stored.data(), part.data(), stored.size()) == 0)
+    for (int i = 0; i < UsedParts; ++i) {
+        const QLatin1String part = changed[size_t(i)];
+        if (part.isNull())
             continue;
-        stored.assign(part.data(), size_t(part.size()));
+        m_bytes[size_t(i)].assign(part.data(), size_t(part.size()));
         storeAscii(i, trimmed(part));
     }
     return outcome();
@@ -171,7 +203,7 @@ void CatalogueParser::storePart(int column, const QString& part)
     case 10: r.viewKind = part.toInt(); break;
     case 11: r.text11 = part; break;
     case 12: r.systemMask = part.toInt(); break;
-    case 13: r.scriptGerman = part; break;
+    case GermanScript: r.scriptGerman = part; break;
     case 14: r.scriptEnglish = part; break;
     default: break;
     }
@@ -209,10 +241,10 @@ void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list)
     constexpr int ShortLine = 128; // in bytes; longer lines leave some capacity unused
     list.reserve(list.size() + size_t(device.bytesAvailable() / ShortLine));
     CatalogueParser parser;
-    char line[CatalogueParser::LineBuffer];
-    for (qint64 length; (length = device.readLine(line, sizeof line)) > 0;)
-        if (parser.parseLine(line, int(length)) == CatalogueParser::Outcome::Accepted)
-            list.push_back(parser.record());
+    CatalogueLines lines(device);
+    while (lines.next())
+        if (parser.parseLine(lines.bytes(), lines.length()) == CatalogueParser::Outcome::Accepted)
+            list.push_back(parser.takeRecord());
 }
 
 } // namespace plib

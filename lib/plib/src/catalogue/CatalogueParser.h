@@ -23,14 +23,16 @@ public:
 
     static constexpr int MinimumParts = 14;
     static constexpr int UsedParts = 15;
-    static constexpr int LineBuffer = 1024; ///< including the terminating null byte
 
-    /// Parses one line as returned by QIODevice::readLine(), including the newline if there is one.
+    /// Parses one line, including its newline if there is one.
     Outcome parseLine(const char* bytes, int length);
 
     /// Returns the working record. The record is valid if the outcome of the last line was
     /// Accepted.
     const GraphicalOutputRecord& record() const { return m_record; }
+    /// Moves the working record out. The strings that differ in almost every line are not copied;
+    /// the next line sets them again. record() is invalid until then.
+    GraphicalOutputRecord takeRecord();
     /// Returns the number of parts in the line, or 0 for comments and blank lines.
     int partCount() const { return m_partCount; }
 
@@ -52,9 +54,8 @@ private:
     int m_partCount = 0;
 };
 
-/// Reads lines of at most 1023 bytes until the end of the device and appends the accepted records.
-/// The rest of a longer line is read as a separate line. Invalid lines are silently skipped;
-/// lintCatalogue() reports them.
+/// Reads all lines of the device and appends the accepted records (see CatalogueLines). Invalid
+/// lines are silently skipped; lintCatalogue() reports them.
 void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& list);
 
 } // namespace plib

@@ -1,5 +1,6 @@
 #include "catalogue/catalogueLint.h"
 
+#include "catalogue/CatalogueLines.h"
 #include "catalogue/CatalogueParser.h"
 #include "catalogue/contentFilter.h"
 #include "tree/selectionText.h"
@@ -169,13 +170,9 @@ std::vector<CatalogueFinding> lintCatalogue(QIODevice& device,
 {
     vkd_lib_opentext("grav");
     CatalogueLint lint;
-    char bytes[CatalogueParser::LineBuffer];
-    int number = 1;
-    for (qint64 length; (length = device.readLine(bytes, sizeof bytes)) > 0;) {
-        const bool isWhole = bytes[length - 1] == '\n' || device.atEnd();
-        lint.line(number, QByteArray::fromRawData(bytes, int(length)), !isWhole);
-        number += isWhole;
-    }
+    CatalogueLines lines(device);
+    for (int number = 1; lines.next(); number += lines.isWhole())
+        lint.line(number, QByteArray::fromRawData(lines.bytes(), lines.length()), !lines.isWhole());
     if (records)
         *records = std::move(lint.records);
     return std::move(lint.findings);
