@@ -98,8 +98,8 @@ bool visitWriters(Node* parent, Visit&& visit)
 template <typename Item, typename Node>
 void writeItem(Item* item, Node* parent, ScriptLineWriter& writer)
 {
-    writer.writeView(item->record.viewKind);
-    const QString& text = writer.script(item->record);
+    writer.writeView(recordOf(item).viewKind);
+    const QString& text = writer.script(recordOf(item));
     if (item->number == 0)
         writer.writeText(text);
     else if (item->number > 0)
@@ -108,7 +108,7 @@ void writeItem(Item* item, Node* parent, ScriptLineWriter& writer)
         writer.writeCase(
             item->number, text, [item] { return item->text(0); },
             [parent] {
-                return parent->parent() ? &outputItem(parent->parent())->record : nullptr;
+                return parent->parent() ? &recordOf(outputItem(parent->parent())) : nullptr;
             });
 }
 

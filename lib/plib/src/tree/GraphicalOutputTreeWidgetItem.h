@@ -39,3 +39,15 @@ inline GraphicalOutputTreeWidgetItem* outputItem(QTreeWidgetItem* item)
                ? static_cast<GraphicalOutputTreeWidgetItem*>(item)
                : nullptr;
 }
+
+/// These functions exist for OutputNode, too, so that the tree algorithms work with both classes.
+inline const plib::GraphicalOutputRecord& recordOf(const GraphicalOutputTreeWidgetItem* item)
+{
+    return item->record;
+}
+
+inline void setRecord(GraphicalOutputTreeWidgetItem* item,
+                      const plib::GraphicalOutputRecord& record)
+{
+    item->record = record;
+}

@@ -10,12 +10,13 @@ namespace plib {
 /// An item of an output tree that does not need widgets, for the command line and for tests. The
 /// class has only the members that the tree algorithms use, with the same names as in
 /// QTreeWidgetItem and in the item class of the tree widget. Parents own their children; the
-/// invisible root represents the tree. The fields that are read in every pass are first, so that a
-/// pass over many nodes reads one cache line of each.
+/// invisible root represents the tree. A pass over many nodes spends most of its time on loading them
+/// from memory. Therefore, rows are small: they share the record of their plot.
 class OutputNode
 {
 public:
-    OutputNode() = default;
+    OutputNode();
+    ~OutputNode();
     OutputNode(const OutputNode&) = delete;
     OutputNode& operator=(const OutputNode&) = delete;
 
@@ -24,28 +25,37 @@ public:
     int level = 0;
     bool plain = false; ///< true for a plain item, which is not an output item
 
-private:
-    bool m_expanded = false;
-    Qt::CheckState m_state = Qt::Unchecked;
-    std::vector<std::unique_ptr<OutputNode>> m_children;
-
-public:
-    GraphicalOutputRecord record;
-
     OutputNode* addChild(const QString& text);
     void removeChild(OutputNode* child);
 
-    int childCount() const { return int(m_children.size()); }
-    OutputNode* child(int index) const { return m_children[size_t(index)].get(); }
+    /// Returns the record of the node or, if it has none, the record of its parent.
+    const GraphicalOutputRecord& record() const;
+    /// Copies the record, unless it is the record of the parent.
+    void setRecord(const GraphicalOutputRecord& record);
+
+    int childCount() const { return m_branch ? int(m_branch->children.size()) : 0; }
+    OutputNode* child(int index) const { return m_branch->children[size_t(index)].get(); }
     /// Returns null for top-level items, like QTreeWidgetItem.
     OutputNode* parent() const { return m_parent && m_parent->m_parent ? m_parent : nullptr; }
     QString text(int) const { return m_text; }
-    Qt::CheckState checkState(int) const { return m_state; }
-    void setCheckState(int, Qt::CheckState state) { m_state = state; }
-    bool isExpanded() const { return m_expanded; }
-    void setExpanded(bool expanded) { m_expanded = expanded; }
+    Qt::CheckState checkState(int) const { return Qt::CheckState(m_state); }
+    void setCheckState(int, Qt::CheckState state) { m_state = quint8(state); }
+    bool isExpanded() const { return m_branch && m_branch->isExpanded; }
+    void setExpanded(bool expanded) { branch().isExpanded = expanded; }
 
 private:
+    /// The members that rows do not need.
+    struct Branch
+    {
+        std::vector<std::unique_ptr<OutputNode>> children;
+        std::unique_ptr<const GraphicalOutputRecord> record; // null: the record of the parent
+        bool isExpanded = false;
+    };
+
+    Branch& branch();
+
+    quint8 m_state = Qt::Unchecked;
+    std::unique_ptr<Branch> m_branch; // null for a row
     OutputNode* m_parent = nullptr;
     QString m_text;
 };
@@ -55,6 +65,17 @@ private:
 inline OutputNode* outputItem(OutputNode* node)
 {
     return node->plain ? nullptr : node;
+}
+
+/// Returns the record of a node. There are functions with the same names for tree widget items.
+inline const GraphicalOutputRecord& recordOf(const OutputNode* node)
+{
+    return node->record();
+}
+
+inline void setRecord(OutputNode* node, const GraphicalOutputRecord& record)
+{
+    node->setRecord(record);
 }
 
 /// The operations of TreeBuilder for trees of plain nodes, which have no icons.

@@ -21,6 +21,13 @@ bool isSame(const RowOrders::Row& left, const RowOrders::Row& right)
 }
 } // namespace
 
+void RowOrders::add(const QVector<int>& numbers, int time)
+{
+    m_rows.reserve(m_rows.size() + size_t(numbers.size()));
+    for (int number : numbers)
+        m_rows.push_back({number, time++});
+}
+
 void RowOrders::sort()
 {
     m_next = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QVector>
+
 #include <cstddef>
 #include <vector>
 
@@ -18,8 +20,9 @@ public:
         int index = -1; ///< of the row in the plot; -1 until the user of the class sets it
     };
 
-    /// Adds the row. The times must ascend.
-    void add(int number, int time) { m_rows.push_back({number, time}); }
+    /// Adds the rows of a line. The first row has the given time, and each row has a later time
+    /// than all previously added rows.
+    void add(const QVector<int>& numbers, int time);
     /// Must be called after the last row has been added, before find().
     void sort();
 

@@ -69,7 +69,7 @@ private:
                  int number = 0, bool checked = false)
     {
         Node* node = m_operations.create(parent, text, number, checked);
-        node->record = record;
+        setRecord(node, record);
         node->level = level;
         node->number = number;
         return node;
@@ -149,11 +149,11 @@ private:
 
     void addRow(Node* plot, const QString& name, int number, bool checked)
     {
-        // Rows always copy the record of the plot, including the script, even if the plot is
+        // Rows always have the record of the plot, including the script, even if the plot is
         // reused.
-        Node* row = create(plot, name, plot->record, 3, number, checked);
+        Node* row = create(plot, name, recordOf(plot), 3, number, checked);
         m_operations.rowIcon(row);
-        row->isLC = row->record.rowMark;
+        row->isLC = recordOf(row).rowMark;
     }
 
     /// Checks all rows of the plot. Rows checked by an earlier call are not visited again.
@@ -169,20 +169,20 @@ private:
     void removeIfEmpty(Node* plot, Node* second, Node* top)
     {
         const auto hasNoScript = [](const Node* node) {
-            return node->record.scriptGerman.isEmpty() && node->record.scriptEnglish.isEmpty();
+            return recordOf(node).scriptGerman.isEmpty() && recordOf(node).scriptEnglish.isEmpty();
         };
-        if (plot->childCount() == 0 && plot->isLC > -99999 && plot->record.ctrl < 0 &&
+        if (plot->childCount() == 0 && plot->isLC > -99999 && recordOf(plot).ctrl < 0 &&
             hasNoScript(plot)) {
             m_checkedRows.remove(plot);
             if (m_namesakes.value(second) == plot)
                 m_namesakes.remove(second);
             m_operations.remove(plot);
         }
-        if (second->childCount() == 0 && second->record.title3.isEmpty() && hasNoScript(second)) {
+        if (second->childCount() == 0 && recordOf(second).title3.isEmpty() && hasNoScript(second)) {
             m_captions.remove(qMakePair(top, second->text(0)));
             m_operations.remove(second);
         }
-        if (top->childCount() == 0 && top->record.title2.isEmpty() && hasNoScript(top)) {
+        if (top->childCount() == 0 && recordOf(top).title2.isEmpty() && hasNoScript(top)) {
             m_captions.remove(qMakePair(m_root, top->text(0)));
             m_operations.remove(top);
         }

@@ -5,32 +5,35 @@
 namespace plib {
 
 namespace {
-QVector<int> numbersOf(const QStringRef& text)
+/// Reads the text up to the next comma as a number, like QString::toInt(), and moves `begin` to the
+/// comma or to `end`.
+int nextNumber(const QChar*& begin, const QChar* end)
 {
-    QVector<int> numbers;
-    for (int begin = 0; begin < text.size();) {
-        const auto comma = std::find(text.begin() + begin, text.end(), QLatin1Char(','));
-        const int end = int(comma - text.begin());
-        if (end > begin)
-            numbers.append(selectionNumber(text.mid(begin, end - begin)));
-        begin = end + 1;
-    }
-    return numbers;
+    constexpr int AlwaysFits = 9; // number of digits
+    const QChar* const first = begin;
+    unsigned number = 0;
+    for (; begin < end && *begin >= QLatin1Char('0') && *begin <= QLatin1Char('9'); ++begin)
+        number = 10 * number + (begin->unicode() - '0');
+    const bool isWhole = begin == end || *begin == QLatin1Char(',');
+    if (isWhole && begin - first <= AlwaysFits)
+        return int(number);
+    begin = std::find(begin, end, QLatin1Char(','));
+    return QString::fromRawData(first, int(begin - first)).toInt();
 }
 } // namespace
 
-int selectionNumber(const QStringRef& text)
+QVector<int> selectionNumbers(const QStringRef& text)
 {
-    constexpr int AlwaysFits = 9; // number of digits
-    if (text.size() > AlwaysFits)
-        return text.toInt();
-    int number = 0;
-    for (const QChar c : text) {
-        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
-            return text.toInt();
-        number = 10 * number + (c.unicode() - '0');
-    }
-    return number;
+    QVector<int> numbers;
+    constexpr int Length = 4; // of a number and its comma; with shorter numbers, the list grows
+    numbers.reserve(text.size() / Length + 1);
+    const QChar* begin = text.begin();
+    while (begin < text.end())
+        if (*begin == QLatin1Char(','))
+            ++begin;
+        else
+            numbers.append(nextNumber(begin, text.end()));
+    return numbers;
 }
 
 QString itemId(const GraphicalOutputRecord& record, int level)
@@ -58,7 +61,7 @@ std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty)
         else if (parts[0] == QLatin1String("Unchecked"))
             result.push_back({SelectionLine::Uncheck, id, {}});
         else if (parts[0] == QLatin1String("Partially") && parts.size() >= 3)
-            result.push_back({SelectionLine::Partial, id, numbersOf(parts[2])});
+            result.push_back({SelectionLine::Partial, id, selectionNumbers(parts[2])});
     }
     return result;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/GraphicalOutputRecord.h"
+#include "tree/checkStates.h"
 #include "tree/RowOrders.h"
 
 #include <QHash>
@@ -24,7 +25,7 @@ void appendSelection(Node* node, QString& text)
     auto* item = outputItem(node);
     if (!item)
         return;
-    const QString id = itemId(item->record, item->level);
+    const QString id = itemId(recordOf(item), item->level);
     const Qt::CheckState state = item->checkState(0);
     const QLatin1String word(state == Qt::Checked ? "Checked:" : "Unchecked:");
     const int count = item->childCount();
@@ -81,7 +82,7 @@ private:
             auto* item = outputItem(parent->child(i));
             if (!item)
                 continue;
-            Node*& known = m_items[itemId(item->record, item->level)];
+            Node*& known = m_items[itemId(recordOf(item), item->level)];
             if (!known)
                 known = item;
             if (level < 2)
@@ -92,10 +93,10 @@ private:
     QHash<QString, Node*> m_items;
 };
 
-/// Returns the same result as QStringRef::toInt(), which is 0 if the text is not a number. Short
-/// sequences of ASCII digits are converted directly, because a selection text consists mostly of
-/// such numbers.
-int selectionNumber(const QStringRef& text);
+/// Returns the numbers between the commas. Each is read like QStringRef::toInt(), which returns 0
+/// for any other text. Short sequences of ASCII digits are converted directly, because a selection
+/// text consists mostly of such numbers.
+QVector<int> selectionNumbers(const QStringRef& text);
 
 /// One valid line of a selection text.
 struct SelectionLine
@@ -112,8 +113,8 @@ std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty);
 
 /// Sets the check states from a selection text and unchecks all items that the text does not
 /// contain. The result is the same as if the items were set line by line with an automatic update
-/// after each line. However, each item is set only once: the last line that affects the item or one
-/// of its ancestors wins. Therefore, the time is linear in the number of items.
+/// after each line. However, the tree is traversed only once: the last line that affects an item or
+/// one of its ancestors wins. Therefore, the time is linear in the number of items.
 template <typename Node>
 class SelectionApplier
 {
@@ -147,21 +148,44 @@ private:
         Order orLater(Order other) const { return other.time > time ? other : *this; }
     };
 
-    struct Child
+    /// A line that lists rows, and the time of the line.
+    struct RowList
     {
-        Node* node;
-        Order order;
+        const SelectionLine* line;
+        int time;
+    };
+
+    /// The state of a parent: the state of its children if all are equal.
+    struct JointState
+    {
+        void add(Qt::CheckState state)
+        {
+            value = isEmpty || value == state ? state : Qt::PartiallyChecked;
+            isEmpty = false;
+        }
+
+        Qt::CheckState value = Qt::Unchecked;
+        bool isEmpty = true;
     };
 
     void add(Node* item, const SelectionLine& line)
     {
         const bool checks = line.kind == SelectionLine::Check;
         m_orders[item] = {++m_time, checks ? Qt::Checked : Qt::Unchecked};
-        if (line.numbers.isEmpty())
-            return;
-        RowOrders& rows = m_rowOrders[item];
-        for (int number : line.numbers)
-            rows.add(number, ++m_time);
+        if (!line.numbers.isEmpty())
+            m_rowLists[item].push_back({&line, m_time});
+        m_time += line.numbers.size();
+    }
+
+    /// Returns the orders for the rows of an item. They are created only when the rows are set, so
+    /// that they are still in the processor's caches.
+    static RowOrders rowOrders(const std::vector<RowList>& lists)
+    {
+        RowOrders rows;
+        for (const RowList& list : lists)
+            rows.add(list.line->numbers, list.time + 1);
+        rows.sort();
+        return rows;
     }
 
     /// Sets the item and its descendants, and returns the state of the item.
@@ -177,56 +201,60 @@ private:
             setLeaf(item, order.state);
             return order.state;
         }
-        const std::vector<Child> children = childrenOf(item);
-        Qt::CheckState state = Qt::Unchecked;
-        for (const Child& child : children) {
-            const Qt::CheckState reached =
-                setStates(child.node, order.orLater(child.order), setLeaf);
-            const bool isFirst = &child == &children.front();
-            state = isFirst || reached == state ? reached : Qt::PartiallyChecked;
-        }
+        const auto lists = m_rowLists.find(item);
+        const Qt::CheckState state = lists == m_rowLists.end()
+                                         ? setChildren(item, order, setLeaf)
+                                         : setRows(item, order, rowOrders(lists->second), setLeaf);
         item->setCheckState(0, state);
         return state;
     }
 
-    /// Returns the children with the orders of the lines that list them by number. If several
-    /// children have the same number, the last one is listed. The numbers are read only now, so
-    /// that the children are still in the processor's caches when they are set.
-    std::vector<Child> childrenOf(Node* item)
+    /// Returns the state that results from the states of the children.
+    template <typename SetLeaf>
+    Qt::CheckState setChildren(Node* item, Order order, const SetLeaf& setLeaf)
     {
-        std::vector<Child> children(size_t(item->childCount()));
-        for (size_t i = 0; i < children.size(); ++i) {
-            children[i].node = item->child(int(i));
-            prefetch(children[i].node);
+        JointState state;
+        for (int i = 0; i < item->childCount(); ++i) {
+            prefetchAfter(item, i);
+            state.add(setStates(item->child(i), order, setLeaf));
         }
-        const auto found = m_rowOrders.find(item);
-        if (found != m_rowOrders.end())
-            placeOrders(found->second, children);
-        return children;
+        return state.value;
     }
 
-    /// Loads the node into the processor's caches in advance. Waiting for each node in turn would
-    /// take most of the time.
-    static void prefetch(const Node* node)
+    /// Does the same for the children of an item whose rows are listed by number. If several rows
+    /// have the same number, the last one is listed; the others get the state of the item.
+    template <typename SetLeaf>
+    Qt::CheckState setRows(Node* item, Order order, RowOrders rows, const SetLeaf& setLeaf)
     {
-        constexpr int CacheLine = 64;
-        __builtin_prefetch(node);
-        __builtin_prefetch(reinterpret_cast<const char*>(node) + CacheLine);
-    }
-
-    static void placeOrders(RowOrders& rows, std::vector<Child>& children)
-    {
-        rows.sort();
-        for (size_t i = 0; i < children.size(); ++i) {
-            auto* child = outputItem(children[i].node);
+        JointState state;
+        bool hasNamesakes = false;
+        for (int i = 0; i < item->childCount(); ++i) {
+            prefetchAfter(item, i);
+            auto* child = outputItem(item->child(i));
             RowOrders::Row* row = child ? rows.find(child->number) : nullptr;
-            if (!row)
-                continue;
-            if (row->index >= 0)
-                children[size_t(row->index)].order = Order();
-            row->index = int(i);
-            children[i].order = {row->time, Qt::Checked};
+            if (row && row->index >= 0) {
+                setStates(item->child(row->index), order, setLeaf);
+                hasNamesakes = true;
+            }
+            if (row)
+                row->index = i;
+            const Order own = row ? order.orLater({row->time, Qt::Checked}) : order;
+            state.add(setStates(item->child(i), own, setLeaf));
         }
+        return hasNamesakes ? stateOfChildren(item) : state.value;
+    }
+
+    /// Loads a later child into the processor's caches in advance. Waiting for each child in turn
+    /// would take most of the time.
+    static void prefetchAfter(const Node* item, int index)
+    {
+        constexpr int Ahead = 16;
+        constexpr int CacheLine = 64;
+        if (index + Ahead >= item->childCount())
+            return;
+        const auto child = reinterpret_cast<const char*>(item->child(index + Ahead));
+        __builtin_prefetch(child);
+        __builtin_prefetch(child + CacheLine);
     }
 
     static constexpr int RowLevel = 3;
@@ -234,7 +262,7 @@ private:
     Node* m_root;
     ItemIndex<Node> m_index;
     QHash<Node*, Order> m_orders;
-    std::unordered_map<Node*, RowOrders> m_rowOrders; // of items whose rows are listed in a line
+    std::unordered_map<Node*, std::vector<RowList>> m_rowLists;
     int m_time = 0;
 };
 
