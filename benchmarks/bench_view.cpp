@@ -1,6 +1,7 @@
 // The view of a model while it is rotated, and at rest.
 
 #include "memory.h"
+#include "processorTime.h"
 #include "RatioReporter.h"
 
 #include <AnimatorView.h>
@@ -120,6 +121,22 @@ void restView(benchmark::State& state)
     }
 }
 
+/// Moves the mouse over the model while the full image of a rotated view is not yet painted.
+void hoverAfterTurn(benchmark::State& state)
+{
+    ShownShell shown(state);
+    shown.view.setHovering(true);
+    int step = 0;
+    for (auto _ : state) {
+        shown.turn();
+        const QPointF place(shown.image.width() * (++step % 9) / 9.0, shown.image.height() / 2.0);
+        QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        const double start = processorSeconds();
+        QCoreApplication::sendEvent(&shown.view, &move);
+        state.SetIterationTime(processorSeconds() - start);
+    }
+}
+
 /// Highlights the groups of another design row in each frame.
 void lightRow(benchmark::State& state)
 {
@@ -198,6 +215,7 @@ void fillPolygons(benchmark::State& state)
 }
 
 BENCHMARK(turnView)->Arg(Few)->Arg(100000)->Arg(1000000);
+BENCHMARK(hoverAfterTurn)->Arg(1000000)->UseManualTime();
 BENCHMARK(lightRow)->Arg(100000);
 BENCHMARK(restView)->Arg(Few)->Arg(100000);
 BENCHMARK(fillPolygons)->Arg(Few)->Arg(100000);
@@ -216,6 +234,8 @@ int main(int argc, char* argv[])
                           {"turnView/10000", "", 33.0, "milliseconds for a frame"},
                           {"turnView/100000", "", 33.0, "milliseconds for a frame"},
                           {"turnView/1000000", "", 33.0, "milliseconds for a frame"},
+                          {"hoverAfterTurn/1000000/manual_time", "", 10.0,
+                           "milliseconds, so that the frame has time for painting"},
                           {"lightRow/100000", "", 33.0, "milliseconds for a frame"},
                           {"restView/10000", "fillPolygons/10000", 3.6, fill},
                           {"restView/100000", "fillPolygons/100000", 2.5, fill},

@@ -1,5 +1,7 @@
 #include "view/Picture.h"
 
+#include "geometry/PointProjection.h"
+
 #include <algorithm>
 
 namespace vkd {
@@ -29,17 +31,10 @@ void Picture::update(const ModelGeometry& geometry, const Projection& projection
 
 void Picture::projectPoints(const ModelGeometry& geometry, const Projection& projection)
 {
-    const double scale = projection.scale() * geometry.unit;
-    const QPointF middle = projection.toScreen(geometry.box.centre);
-    const Position& right = projection.axes().right;
-    const Position& up = projection.axes().up;
-    const Position h{scale * right[0], scale * right[1], scale * right[2]};
-    const Position v{-scale * up[0], -scale * up[1], -scale * up[2]};
+    const PointProjection points(geometry, projection);
     m_points.resize(geometry.x.size());
-    for (size_t i = 0; i < m_points.size(); ++i) {
-        const Position p{double(geometry.x[i]), double(geometry.y[i]), double(geometry.z[i])};
-        m_points[i] = {middle.x() + dot(h, p), middle.y() + dot(v, p)};
-    }
+    for (size_t i = 0; i < m_points.size(); ++i)
+        m_points[i] = points.pointToScreen(i);
 }
 
 void Picture::findDepths(const ModelGeometry& geometry, const Position& eye)

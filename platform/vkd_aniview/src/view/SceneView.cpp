@@ -1,7 +1,7 @@
 #include "view/SceneView.h"
 
 #include "view/GroupMarks.h"
-#include "view/hittest.h"
+#include "view/HitTest.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,6 +17,7 @@ constexpr size_t ItemsToSort = 6;   // items that can be sorted in the time to p
 void SceneView::setGeometry(std::shared_ptr<const ModelGeometry> geometry)
 {
     m_geometry = std::move(geometry);
+    m_hitTest.reset();
     findHidden();
 }
 
@@ -107,7 +108,9 @@ QRectF SceneView::visiblePart() const
 
 int SceneView::groupAt(const QPointF& place)
 {
-    const int index = aniview::groupAt(*m_geometry, picture(), place);
+    if (!m_hitTest)
+        m_hitTest = std::make_shared<const HitTest>(*m_geometry);
+    const int index = m_hitTest->groupAt(projection(), place, m_isHidden);
     return index < 0 ? GroupMarks::NoGroup : m_geometry->groups[size_t(index)];
 }
 

@@ -7,6 +7,8 @@
 namespace vkd {
 namespace aniview {
 
+class HitTest;
+
 /// A geometry, a camera and the resulting image, which is updated on demand.
 class SceneView
 {
@@ -47,6 +49,7 @@ private:
     QRectF visiblePart() const;
 
     std::shared_ptr<const ModelGeometry> m_geometry = std::make_shared<ModelGeometry>();
+    std::shared_ptr<const HitTest> m_hitTest; // null until a point is searched
     Camera m_camera;
     QSizeF m_size{1.0, 1.0};
     Picture m_picture;
