@@ -4,6 +4,7 @@
 #include "sheet/readSheetPlan.h"
 #include "sheet/sheetCaptions.h"
 #include "sheet/SheetPainter.h"
+#include "sheet/SheetPlanCache.h"
 #include "sheet/SheetPreview.h"
 #include "sheet/SheetView.h"
 #include "window/output/LoadCaseTable.h"
@@ -11,9 +12,11 @@
 #include <VKD_H_ZOBDoc.h>
 
 #include <QComboBox>
+#include <QDebug>
 #include <QPainter>
 #include <QProgressDialog>
 #include <QRadioButton>
+#include <QRandomGenerator>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTreeWidget>
@@ -37,6 +40,17 @@ QStringList captions(const SheetPlan& plan)
         texts << SheetPainter::captionOf(picture) + QLatin1Char('|') +
                      SheetPainter::loadCaseOf(picture);
     return texts;
+}
+
+QString described(const SheetPlan& plan)
+{
+    QString text;
+    QDebug out(&text);
+    out << plan.size << plan.rows << plan.columns << plan.textHeight << plan.views.size();
+    for (const SheetPicture& picture : plan.pictures)
+        out << picture.command << plan.views[picture.view].kind << picture.view << picture.loadCase
+            << picture.secondLoadCase;
+    return text;
 }
 
 /// Clicks the button with this label in the output dialog.
@@ -178,6 +192,26 @@ private Q_SLOTS:
             painter.paint(paper, QRectF(10, 10, 100, 140), plan, page);
             QCOMPARE(image.pixelColor(13, 13), QColor(Qt::white));
             QCOMPARE(image.pixelColor(5, 5), QColor(Qt::red));
+        }
+    }
+
+    /// After any change, the plan is the same as if the script had been read from the start.
+    void changedScripts()
+    {
+        const char* const lines[] = {
+            "SIZE A3 SPLI 2x1", "VIEW EG3", "VIEW EGX",    "LC 1 DESI 1", "LC 2", "A", "B ; AND",
+            "A ; AND ; C",      "AND",      "SCHH H6 0.4", "$ END",       "END",  ""};
+        QRandomGenerator random(1);
+        QStringList script;
+        SheetPlanCache plans(3);
+        for (int step = 0; step < 3000; ++step) {
+            const int place = random.bounded(script.size() + 1);
+            for (int gone = random.bounded(4); gone > 0 && place < script.size(); --gone)
+                script.removeAt(place);
+            for (int come = random.bounded(script.size() < 60 ? 5 : 3); come > 0; --come)
+                script.insert(place, QLatin1String(lines[random.bounded(int(std::size(lines)))]));
+            const QString text = script.join(QLatin1Char('\n'));
+            QCOMPARE(described(plans.planOf(text)), described(readSheetPlan(text)));
         }
     }
 

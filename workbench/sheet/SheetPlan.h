@@ -46,6 +46,8 @@ struct SheetPlan
     QVector<SheetPicture> pictures;
 
     bool isEmpty() const { return pictures.isEmpty(); }
+    /// Returns whether everything except the views and pictures is equal.
+    bool hasSameSheet(const SheetPlan& other) const;
     int picturesPerPage() const { return rows * columns; }
     int pageCount() const;
     /// These functions return the index of the first picture of a page, and the index after its
@@ -55,3 +57,5 @@ struct SheetPlan
 };
 
 } // namespace workbench
+
+Q_DECLARE_TYPEINFO(workbench::SheetPicture, Q_MOVABLE_TYPE);

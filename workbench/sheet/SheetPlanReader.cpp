@@ -117,10 +117,16 @@ bool readSheet(QStringView word, SheetPlan* plan)
 }
 } // namespace
 
+bool SheetPlanReader::State::operator==(const State& other) const
+{
+    return hasSetup == other.hasSetup && isEnded == other.isEnded && isJoined == other.isJoined &&
+           loadCase == other.loadCase;
+}
+
 void SheetPlanReader::readLine(QStringView line)
 {
     const QStringView text = withoutComment(line).trimmed();
-    if (m_isEnded || text.startsWith(QLatin1Char('#')))
+    if (m_state.isEnded || text.startsWith(QLatin1Char('#')))
         return;
     int start = 0;
     for (int i = 0; i <= text.size(); ++i) {
@@ -134,22 +140,22 @@ void SheetPlanReader::readLine(QStringView line)
 void SheetPlanReader::readStatement(QStringView statement)
 {
     const Words words = wordsOf<Words>(statement);
-    if (words.isEmpty() || m_isEnded)
+    if (words.isEmpty() || m_state.isEnded)
         return;
     const QStringView key = words[0];
     if (isOneOf(key, "ENDE", "END"))
-        m_isEnded = true;
+        m_state.isEnded = true;
     else if (isOneOf(key, "UND", "AND"))
-        m_isJoined = m_hasSetup && !m_plan.isEmpty();
+        m_state.isJoined = m_state.hasSetup && !m_plan.isEmpty();
     else if (isOneOf(key, "SCHR", "SCHH"))
         readFont(words);
     else if (isOneOf(key, "BEOB", "VIEW"))
         readView(words);
     else if (isOneOf(key, "LF", "LC"))
-        m_loadCase = words.size() > 1 ? qMax(0, words[1].toString().toInt()) : 0;
+        m_state.loadCase = words.size() > 1 ? qMax(0, words[1].toString().toInt()) : 0;
     else if (key == QLatin1String("SIZE"))
         readSetup(words);
-    else if (m_hasSetup && !isSteering(key))
+    else if (m_state.hasSetup && !isSteering(key))
         addPicture(statement);
 }
 
@@ -162,7 +168,7 @@ void SheetPlanReader::readFont(const Words& words)
 
 void SheetPlanReader::readSetup(const Words& words)
 {
-    m_hasSetup = true;
+    m_state.hasSetup = true;
     for (int i = 1; i < words.size(); ++i) {
         const bool hasValue = i + 1 < words.size();
         if (readSheet(words[i], &m_plan) || !hasValue)
@@ -224,9 +230,9 @@ void SheetPlanReader::setView(const PictureView& view)
 
 void SheetPlanReader::addPicture(QStringView command)
 {
-    if (m_isJoined) {
-        m_plan.pictures.last().secondLoadCase = m_loadCase;
-        m_isJoined = false;
+    if (m_state.isJoined) {
+        m_plan.pictures.last().secondLoadCase = m_state.loadCase;
+        m_state.isJoined = false;
         return;
     }
     if (m_plan.views.isEmpty())
@@ -235,8 +241,60 @@ void SheetPlanReader::addPicture(QStringView command)
     const bool isRepeated = !m_plan.isEmpty() && m_plan.pictures.last().command == command;
     picture.command = isRepeated ? m_plan.pictures.last().command : command.toString();
     picture.view = m_plan.views.size() - 1;
-    picture.loadCase = m_loadCase;
+    picture.loadCase = m_state.loadCase;
     m_plan.pictures.append(picture);
+}
+
+SheetPlanReader::Progress SheetPlanReader::progress() const
+{
+    Progress progress;
+    progress.state = m_state;
+    progress.sheet = m_plan;
+    progress.sheet.views = {}; // clear() would copy them first
+    progress.sheet.pictures = {};
+    progress.views = m_plan.views.size();
+    progress.pictures = m_plan.pictures.size();
+    if (progress.views > 0)
+        progress.lastView = m_plan.views.last();
+    if (progress.pictures > 0)
+        progress.secondLoadCase = m_plan.pictures.last().secondLoadCase;
+    return progress;
+}
+
+void SheetPlanReader::resume(const Progress& progress)
+{
+    SheetPlan plan = progress.sheet;
+    plan.views = m_plan.views.mid(0, progress.views);
+    plan.pictures = m_plan.pictures.mid(0, progress.pictures);
+    if (!plan.isEmpty())
+        plan.pictures.last().secondLoadCase = progress.secondLoadCase;
+    m_plan = plan;
+    m_state = progress.state;
+}
+
+bool SheetPlanReader::continuesLike(const Progress& progress) const
+{
+    const Progress own = this->progress();
+    return own.state == progress.state && own.sheet.hasSameSheet(progress.sheet) &&
+           (own.views == 0) == (progress.views == 0) && own.lastView == progress.lastView &&
+           (own.pictures == 0) == (progress.pictures == 0) &&
+           own.secondLoadCase == progress.secondLoadCase;
+}
+
+void SheetPlanReader::append(const SheetPlan& plan, const Progress& progress)
+{
+    const int addedViews = m_plan.views.size() - progress.views;
+    SheetPlan whole = plan;
+    whole.views = m_plan.views + plan.views.mid(progress.views);
+    whole.pictures = m_plan.pictures;
+    whole.pictures.reserve(m_plan.pictures.size() + plan.pictures.size() - progress.pictures);
+    if (progress.pictures > 0) // a later line may have joined a plot to it
+        whole.pictures.last().secondLoadCase = plan.pictures[progress.pictures - 1].secondLoadCase;
+    for (int i = progress.pictures; i < plan.pictures.size(); ++i) {
+        whole.pictures.append(plan.pictures[i]);
+        whole.pictures.last().view += addedViews;
+    }
+    m_plan = whole;
 }
 
 } // namespace workbench

@@ -12,8 +12,39 @@ namespace workbench {
 class SheetPlanReader
 {
 public:
+    /// The statements that apply to the next lines.
+    struct State
+    {
+        bool hasSetup = false;
+        bool isEnded = false;
+        bool isJoined = false; ///< the next plot is drawn into the previous picture
+        int loadCase = 0;
+
+        bool operator==(const State& other) const;
+    };
+
+    /// What has been read up to a line. Views and pictures are only counted.
+    struct Progress
+    {
+        State state;
+        SheetPlan sheet; ///< without views and pictures
+        int views = 0;
+        int pictures = 0;
+        PictureView lastView;
+        int secondLoadCase = 0; ///< of the last picture
+    };
+
     void readLine(QStringView line);
     const SheetPlan& plan() const { return m_plan; }
+
+    Progress progress() const;
+    /// Returns to an earlier line, if no line before it has changed.
+    void resume(const Progress& progress);
+    /// Returns whether the lines after `progress` would result in the same views and pictures here.
+    bool continuesLike(const Progress& progress) const;
+    /// Appends the views and pictures that `plan` has after `progress`, instead of reading the
+    /// lines again. continuesLike() must be true.
+    void append(const SheetPlan& plan, const Progress& progress);
 
 private:
     using Words = QVarLengthArray<QStringView, 16>;
@@ -27,10 +58,7 @@ private:
     void addPicture(QStringView command);
 
     SheetPlan m_plan;
-    bool m_hasSetup = false;
-    bool m_isEnded = false;
-    bool m_isJoined = false; ///< the next plot is drawn into the previous picture
-    int m_loadCase = 0;
+    State m_state;
 };
 
 } // namespace workbench

@@ -2,7 +2,6 @@
 
 #include "project/OpenProject.h"
 #include "sheet/exportSheets.h"
-#include "sheet/readSheetPlan.h"
 #include "sheet/sheetCaptions.h"
 #include "sheet/SheetPreview.h"
 #include "window/output/OutputDialog.h"
@@ -113,7 +112,7 @@ void OutputScript::save()
 
 SheetPlan OutputScript::newSheetPlan()
 {
-    SheetPlan plan = readSheetPlan(script());
+    SheetPlan plan = m_plans.planOf(script());
     OutputDialog* dialog = m_output->dialog(); // null while the project cannot be read
     if (dialog)
         setCaptions(&plan, dialog->captions());

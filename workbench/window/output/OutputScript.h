@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sheet/SheetPlan.h"
+#include "sheet/SheetPlanCache.h"
 
 #include <vkd_language.h>
 
@@ -54,6 +54,7 @@ private:
     WindowMessages* m_messages;
     ScriptPane* m_pane;
     SheetPreview* m_sheets;
+    SheetPlanCache m_plans;
     bool m_areSheetsVisible = false;
 };
 

@@ -12,13 +12,17 @@ QVector<PlotCaption> checkedPlots(QTreeWidget* tree)
     constexpr auto checkedLeaves =
         QTreeWidgetItemIterator::Checked | QTreeWidgetItemIterator::NoChildren;
     QVector<PlotCaption> plots;
+    const QTreeWidgetItem* last = nullptr;
+    QString caption; // of the last plot, which usually has many rows
     for (QTreeWidgetItemIterator it(tree, checkedLeaves); *it; ++it) {
         const QVariant loadCase = (*it)->data(0, LoadCaseRole);
         const QTreeWidgetItem* plot = loadCase.isValid() ? (*it)->parent() : *it;
         if (plot->data(0, WaitsForLoadCasesRole).toBool())
             continue;
-        const QStringList captions = plot->data(0, CaptionsRole).toStringList();
-        plots.append({captions.join(QStringLiteral(" \u2013 ")), loadCase.toInt()});
+        if (plot != last)
+            caption = plot->data(0, CaptionsRole).toStringList().join(QStringLiteral(" \u2013 "));
+        last = plot;
+        plots.append({caption, loadCase.toInt()});
     }
     return plots;
 }

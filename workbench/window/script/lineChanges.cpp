@@ -1,9 +1,9 @@
 #include "window/script/lineChanges.h"
 
+#include "sheet/commonText.h"
 #include "window/script/TextLines.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 namespace workbench {
@@ -11,29 +11,10 @@ namespace workbench {
 namespace {
 constexpr int MaximumChanges = 400; // lines; time and memory grow quadratically
 
-bool areEqual(QStringView a, QStringView b)
-{
-    return std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0;
-}
-
-/// Returns the number of equal characters at the beginning. Compares whole blocks, because this is
-/// several times faster than comparing single characters.
-int commonCharacters(QStringView a, QStringView b)
-{
-    constexpr int Block = 4096;
-    const int most = int(std::min(a.size(), b.size()));
-    int count = 0;
-    while (count + Block <= most && areEqual(a.mid(count, Block), b.mid(count, Block)))
-        count += Block;
-    while (count < most && a[count] == b[count])
-        ++count;
-    return count;
-}
-
 /// Returns the number of equal lines at the beginning.
-int commonBeginning(const TextLines& before, const TextLines& after)
+int commonLines(const TextLines& before, const TextLines& after)
 {
-    const int same = commonCharacters(before.text(), after.text());
+    const int same = commonBeginning(before.text(), after.text());
     const int line = after.lineAt(same);
     const bool isWhole = after.end(line) == same && before.end(line) == same;
     return isWhole ? line + 1 : line;
@@ -155,7 +136,7 @@ private:
 
 QVector<LineChange> lineChanges(const TextLines& before, const TextLines& after)
 {
-    const int beginning = commonBeginning(before, after);
+    const int beginning = commonLines(before, after);
     const int end = commonEnd(before, after, beginning);
     const LineChange whole{beginning, before.count() - beginning - end, beginning,
                            after.count() - beginning - end};
