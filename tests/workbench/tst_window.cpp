@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -191,9 +192,19 @@ private Q_SLOTS:
         }
         plots->topLevelItem(1)->setExpanded(false);
         loads->setExpanded(true);
-        const auto areBranchesKept = [plots] {
+        plots->setCurrentItem(plots->topLevelItem(2)->child(1));
+        plots->scrollToItem(plots->topLevelItem(2), QTreeWidget::PositionAtTop);
+        const auto tabs = dialog->findChild<QTabWidget*>();
+        tabs->setCurrentIndex(isContent ? 2 : 1); // hides the tree
+        const auto areBranchesKept = [=] {
+            tabs->setCurrentIndex(0);
             const QTreeWidgetItem* caption = plots->topLevelItem(1);
-            return !caption->isExpanded() && caption->child(0)->child(0)->isExpanded();
+            const bool isKept = !caption->isExpanded() &&
+                                caption->child(0)->child(0)->isExpanded() &&
+                                plots->itemAt(0, 0) == plots->topLevelItem(2) &&
+                                plots->currentItem() == plots->topLevelItem(2)->child(1);
+            tabs->setCurrentIndex(isContent ? 2 : 1);
+            return isKept;
         };
         const QString before = treeText(plots);
         QSignalSpy filled(plots->model(), &QAbstractItemModel::modelReset);
@@ -214,6 +225,21 @@ private Q_SLOTS:
         }
         QVERIFY(loadCase->checkState() == Qt::Checked &&
                 find<QAbstractButton>(*dialog, "ContentGroup_0")->isChecked());
+        QVERIFY(areBranchesKept());
+        find<QAction>(*dialog, "findPlots")->trigger(); // from another tab
+        QCOMPARE(tabs->currentIndex(), 0);
+        const auto edit = find<QMenu>(*window, "EditMenu");
+        QVERIFY(edit->menuAction()->isEnabled() && edit->actions().contains(find<QAction>(*dialog, "undo")));
+        find<QLineEdit>(*dialog, "searchWords")->setText(QStringLiteral("displ"));
+        find<QAction>(*dialog, "findNextPlot")->trigger();
+        const QString hit = find<QLabel>(*dialog, "searchCount")->text();
+        offer(true);
+        QVERIFY(plots->topLevelItem(0)->isHidden());
+        offer(false);
+        QCOMPARE(find<QLabel>(*dialog, "searchCount")->text(), hit);
+        find<QAction>(*dialog, "undo")->trigger();
+        find<QAction>(*dialog, "undo")->trigger();
+        QCOMPARE(find<QLabel>(*dialog, "searchCount")->text(), hit);
         QCOMPARE(find<QAction>(*dialog, "redo")->text(),
                  isContent ? QStringLiteral("&Redo Contents")
                            : QStringLiteral("&Redo Leave Out Load Case 1"));

@@ -99,6 +99,7 @@ private:
     void buildDefaultButton();
     void layOut(QWidget* box);
     void placeAnimator(QBoxLayout* layout);
+    QWidget* newFindButton();
     void chainTabs();
     void connectAnimator();
     void findDialogs();

@@ -146,8 +146,16 @@ void OutputDialog::addTabs()
     layout->addWidget(m_page);
     addTab(plots, tr("Plots"));
     m_offers->addTabs(this);
-    for (const char* name : {"undo", "redo"}) // for the other tabs
+    for (const char* name :
+         {"undo", "redo", "findPlots", "findNextPlot", "findPreviousPlot", "uncheckPlots"})
         addAction(m_page->findChild<QAction*>(QLatin1String(name)));
+    const auto find = m_page->findChild<QAction*>(QStringLiteral("findPlots"));
+    connect(find, &QAction::triggered, this, [this, find] { // from another tab
+        if (tabWidget()->currentIndex() == 0)
+            return;
+        tabWidget()->setCurrentIndex(0);
+        find->trigger();
+    });
 }
 
 void OutputDialog::restore(const OutputState& saved)

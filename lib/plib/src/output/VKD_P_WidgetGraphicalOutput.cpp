@@ -15,7 +15,10 @@
 #include <VKD_QT_TabDialog.h>
 #include <VKD_QT_Widgets.h>
 
+#include <QAction>
+#include <QBoxLayout>
 #include <QRadioButton>
+#include <QToolButton>
 
 VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
     QWidget* parent, VKD_P_WidgetGraphicalOutput_Progname progname,
@@ -88,9 +91,21 @@ void VKD_P_WidgetGraphicalOutput::layOut(QWidget* box)
     outer->setColumnStretch(1, 0);
     outer->addWidget(box, 0, 0, 1, 2);
     outer->addWidget(data->defaultButton, 1, 1);
-    data->counts = new plib::CountsLine(data.get(), this);
-    outer->addWidget(data->counts, 1, 0);
+    auto below = new QHBoxLayout;
+    below->addWidget(newFindButton());
+    below->addWidget(data->counts = new plib::CountsLine(data.get(), this));
+    outer->addLayout(below, 1, 0);
     chainTabs();
+}
+
+/// Creates a button for users who do not know the keys of the search.
+QWidget* VKD_P_WidgetGraphicalOutput::newFindButton()
+{
+    auto button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("findPlotsButton"));
+    button->setDefaultAction(findChild<QAction*>(QStringLiteral("findPlots")));
+    button->setFocusPolicy(Qt::NoFocus); // there are keys
+    return button;
 }
 
 /// Sets the tab order to the reading order. Within a group of radio buttons, Tab stops only at the
