@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QToolButton>
 #include <QWindow>
 
 using namespace testsupport;
@@ -373,6 +374,29 @@ private Q_SLOTS:
         QCOMPARE(values.join(QLatin1Char(' ')),
                  QStringLiteral("0.04 0.05 0.04 14 14 14 14 1 -1e+05 70 70 70 70 0.2 0.2 0.2 0.2 "
                                 "-1e+05"));
+    }
+
+    /// The dialog says which of its values the table shows. It stays at its row if the host has
+    /// removed the others.
+    void crackControlOfARow()
+    {
+        QStringList notes;
+        for (int row : {0, 1}) {
+            DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 0)});
+            desk.table()->setCurrentCell(row, 4);
+            whenModal([&](QWidget* dialog) {
+                const auto note = find<QLabel>(*dialog, "rowNote");
+                notes << (note->isVisible() ? note->text().section(QLatin1Char(' '), 3, 4)
+                                            : QString());
+                m_project->setRecords({record(-1, 1, 0)});
+                desk.page->readZob();
+                find<QToolButton>(*dialog, row == 0 ? "nextRow" : "previousRow")->click();
+                QVERIFY(dialog->isVisible());
+                qobject_cast<QDialog*>(dialog)->reject();
+            });
+            desk.keys({Qt::Key_F2});
+        }
+        QCOMPARE(notes.join(QLatin1Char('|')), QStringLiteral("the crack|the steel"));
     }
 
     /// Clicks with Ctrl add cells to the selection, even cells in which a click opens an editor.

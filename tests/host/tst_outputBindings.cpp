@@ -178,25 +178,29 @@ private Q_SLOTS:
 
     void firstShow()
     {
-        AnimatorView animator(m_project.doc()->handle());
-        VKD_QT_TabDialog dialog;
-        auto other = new QWidget;
-        auto container = new QWidget;
-        dialog.addTab(other, QStringLiteral("other"));
-        dialog.addTab(container, QStringLiteral("plots"));
-        Desk desk(m_project, VKD_P_GraphicalOutput_Standard, &animator, container);
-        QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
-        Q_EMIT dialog.currentChanged(other);
-        QCoreApplication::processEvents();
-        QCOMPARE(sent.size(), 0);
-        for (int times = 0; times < 2; ++times) {
-            Q_EMIT dialog.currentChanged(container);
-            QCOMPARE(sent.size(), times); // posted only once
+        const char* const expected[] = {"3", "4", "5", "0"};
+        for (int view = 0; view < 4; ++view) {
+            AnimatorView animator(m_project.doc()->handle());
+            VKD_QT_TabDialog dialog;
+            auto other = new QWidget;
+            auto container = new QWidget;
+            dialog.addTab(other, QStringLiteral("other"));
+            dialog.addTab(container, QStringLiteral("plots"));
+            Desk desk(m_project, VKD_P_GraphicalOutput_Standard, &animator, container);
+            desk.choose("PerspectiveGroup", view);
+            QSignalSpy sent(&desk.page, &VKD_P_WidgetGraphicalOutput::signalBeobXY);
+            Q_EMIT dialog.currentChanged(other);
             QCoreApplication::processEvents();
-            QCOMPARE(sent.size(), 1);
+            QCOMPARE(sent.size(), 0);
+            for (int times = 0; times < 2; ++times) {
+                Q_EMIT dialog.currentChanged(container);
+                QCOMPARE(sent.size(), times); // posted only once
+                QCoreApplication::processEvents();
+                QCOMPARE(sent.size(), 1);
+            }
+            QCOMPARE(commands(sent), QLatin1String(expected[view]));
+            QVERIFY(!animator.isEnabled());
         }
-        QCOMPARE(commands(sent), QStringLiteral("0"));
-        QVERIFY(!animator.isEnabled());
     }
 
 private:

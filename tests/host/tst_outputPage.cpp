@@ -265,6 +265,44 @@ private Q_SLOTS:
         QTRY_COMPARE(counts(), QStringLiteral("No plot is checked, so there is no script."));
     }
 
+    /// A sheet with its shadow and the lines between the pictures: the visible colours along a row
+    /// and a column, and the number of pixels of each colour.
+    void picturesOfTheSplit()
+    {
+        HostProject project(QStringLiteral("hall"));
+        Desk desk(project, VKD_P_GraphicalOutput_Split);
+        const auto combo = desk.find<QComboBox>("COMBO_PAGESPLITTING");
+        QStringList texts;
+        for (int id = 0; id < combo->count(); ++id) {
+            const QImage image = combo->itemIcon(id).pixmap(32).toImage();
+            QString row, column;
+            int lines = 0, shadows = 0;
+            for (int i = 0; i < image.width(); ++i) {
+                const QRgb paper = qRgb(255, 255, 255), line = qRgb(0, 0, 255);
+                const auto mark = [&](QRgb pixel) {
+                    return pixel == paper  ? QString()
+                           : pixel == line ? QStringLiteral(" %1").arg(i)
+                                           : QStringLiteral(" (%1)").arg(i);
+                };
+                row += mark(image.pixel(i, 9));
+                column += mark(image.pixel(8, i));
+                for (int j = 0; j < image.height(); ++j) {
+                    lines += image.pixel(i, j) == line;
+                    shadows += image.pixel(i, j) == qRgb(0, 0, 128);
+                }
+            }
+            texts << row + QLatin1Char(':') + column +
+                         QStringLiteral(": %1 %2").arg(lines).arg(shadows);
+        }
+        QCOMPARE(texts.join(QLatin1Char('\n')),
+                 QStringLiteral(" 5 25 (26): (2) 3 29: 92 47\n"
+                                " 5 25 (26): (2) 3 16 29: 111 47\n"
+                                " 5 15 25 (26): (2) 3 16 29: 135 47\n"
+                                " 5 15 25 (26): (2) 3 12 20 29: 153 47\n"
+                                " 2 28 (29): (5) 6 26: 92 47\n"
+                                " 2 15 28 (29): (5) 6 16 26: 135 47"));
+    }
+
     void savedAndRestored_data()
     {
         const Columns<int, QString, QString> row("kind", "model", "size");

@@ -297,7 +297,25 @@ private Q_SLOTS:
         }
         model.bricks.push_back({1, 1, {1, 2, 3, 4, 5, 6, 7, 8}});
         model.bricks.push_back({2, 2, {5, 6, 7, 8, 9, 10, 11, 12}});
-        QCOMPARE(int(buildGeometry(model).faces.size()), 10);
+        const ModelGeometry geometry = buildGeometry(model);
+        QCOMPARE(int(geometry.faces.size()), 10);
+        for (size_t i = 0; i < geometry.faces.size(); ++i) {
+            const int* points = geometry.faces[i].points;
+            const SortPlace& middle = geometry.sortPlaces[i];
+            const std::pair<const std::vector<float>&, float> axes[] = {
+                {geometry.x, middle.x}, {geometry.y, middle.y}, {geometry.z, middle.z}};
+            int changes = 0;
+            for (const auto& [values, mean] : axes) {
+                float sum = 0;
+                for (int corner = 0; corner < 4; ++corner) {
+                    const float value = values[size_t(points[corner])];
+                    changes += value != values[size_t(points[(corner + 1) % 4])];
+                    sum += value;
+                }
+                QVERIFY(std::abs(sum / 4 - mean) < 1e-5F);
+            }
+            QCOMPARE(changes, 4); // the edges are parallel to the axes, so none is a diagonal
+        }
     }
 
     /// Outlines are strong only at the rim of a plate, at folds and between groups.
