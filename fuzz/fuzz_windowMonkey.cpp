@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QListWidget>
 #include <QMenu>
 #include <QSet>
 #include <QVariantAnimation>
@@ -189,13 +190,38 @@ private:
                          QStringLiteral("1"), QStringLiteral("hio=0.0%1").arg(monkey.below(9))});
     }
 
-    /// Returns the number of parts of the project with changes that are not stored. Does not use the
-    /// modification marker in the window title, because it is updated only by the event loop.
+    /// Returns the number of parts of the project with changes that are not stored. Does not use
+    /// the modification marker in the window title, because it is updated only by the event loop.
     static int changes(const MainWindow& window)
     {
         const auto plots = window.findChild<OutputDialog*>();
         const auto text = window.findChild<TextOutputDialog*>();
-        return (plots && plots->isChanged()) + (text && text->isChanged()) + hasNewRows(window);
+        return ((plots && plots->isChanged()) || hasNewOutputs(window)) +
+               (text && text->isChanged()) + hasNewRows(window);
+    }
+
+    /// Returns whether the list shows outputs as changed.
+    static bool hasNewOutputs(const MainWindow& window)
+    {
+        const auto list = find<QListWidget>(window, "OutputList");
+        bool areNew = false;
+        for (int i = 0; i < list->count(); ++i)
+            areNew = areNew || list->item(i)->font().italic();
+        return areNew;
+    }
+
+    /// Returns whether outputs were deleted or moved since the project was stored.
+    static bool isOtherList(const MainWindow& window, const QString& project)
+    {
+        const auto list = find<QListWidget>(window, "OutputList");
+        QByteArray names;
+        for (int i = 0; i < list->count(); ++i)
+            names += list->item(i)->text().toUtf8() + '\n';
+        const bool isGerman = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == testsupport::German;
+        return list->count() > 0 &&
+               names !=
+                   commandLine({QStringLiteral("outputs"), project, QStringLiteral("--language"),
+                                isGerman ? QStringLiteral("german") : QStringLiteral("english")});
     }
 
     /// Returns whether the design dock contains rows that are not stored.
@@ -261,7 +287,8 @@ private:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         for (const QString& name : doubles())
             m_faults += "\nleft behind: " + name.toUtf8();
-        if (window.isWindowModified() != (changes(window) > 0))
+        if (window.isWindowModified() != (changes(window) > 0) &&
+            !isOtherList(window, projectOf(window)))
             m_faults += "\nthe mark in the title is not right";
         const auto output = window.findChild<OutputDialog*>();
         if (!output || contentOf(projectOf(window)).isEmpty())

@@ -2,6 +2,11 @@
 #include "project/OutputList.h"
 #include "ProjectTest.h"
 #include "TemporaryProject.h"
+#include "window/output/OutputDialog.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QTreeWidget>
 
 using namespace windowtest;
 using namespace workbench;
@@ -35,6 +40,33 @@ void perform(const QString& steps, OutputList* outputs)
         case 's': outputs->setStored(); break;
         }
     }
+}
+
+/// Returns the names in the list of the window. The current one is marked, and those in italics.
+QString listed(const QWidget& window)
+{
+    auto list = find<QListWidget>(window, "OutputList");
+    QStringList texts;
+    for (int i = 0; i < list->count(); ++i) {
+        const QString mark(list->item(i)->font().italic() ? QStringLiteral("/") : QString());
+        texts << (i == list->currentRow() ? QStringLiteral(">") : QString()) + mark +
+                     list->item(i)->text() + mark;
+    }
+    return texts.join(QLatin1Char('|'));
+}
+
+void enterName(const QWidget& window, const char* name)
+{
+    auto editor = find<QListWidget>(window, "OutputList")->findChild<QLineEdit*>();
+    QVERIFY(editor);
+    editor->setText(QLatin1String(name));
+    QTest::keyClick(editor, Qt::Key_Return);
+}
+
+QTreeWidget* plots(const QWidget& window)
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the previous dialog
+    return window.findChild<OutputDialog*>()->findChild<QTreeWidget*>();
 }
 } // namespace
 
@@ -123,6 +155,68 @@ private Q_SLOTS:
         if (shown.contains(QLatin1String("Partially")))
             shown.insert(shown.size() - 3, QStringLiteral("8,"));
         QCOMPARE(text, shown + expected);
+    }
+
+    /// Unsaved choices are preserved when another output is shown, and storing stores all outputs.
+    void switching()
+    {
+        const auto window = open("a.zob");
+        const QString proposed = script(*window);
+        changeChoice(*window);
+        const QString changed = script(*window);
+        trigger(*window, "NewOutput");
+        QCOMPARE(listed(*window), QStringLiteral("/Output 1/|>/Output 2/"));
+        QCOMPARE(script(*window), QString());
+        QStringList refusals;
+        readMessage(refusals);
+        enterName(*window, "output  1");
+        QTRY_COMPARE(refusals, QStringList(QStringLiteral("Another output has this name.")));
+        trigger(*window, "RenameOutput");
+        enterName(*window, " Walls ");
+        plots(*window)->topLevelItem(1)->setCheckState(0, Qt::Checked);
+        QTRY_VERIFY(!script(*window).isEmpty());
+        const QString walls = script(*window);
+        trigger(*window, "PreviousOutput");
+        QTRY_COMPARE(script(*window), changed);
+        trigger(*window, "MoveOutputDown");
+        trigger(*window, "NextOutput");
+        QTRY_COMPARE(script(*window), walls);
+        QCOMPARE(listed(*window), QStringLiteral(">/Walls/|/Output 1/"));
+        window->findChild<OutputDialog*>()->accept();
+        QCOMPARE(listed(*window), QStringLiteral(">Walls|Output 1"));
+        QVERIFY(!window->isWindowModified());
+        commandLine({QStringLiteral("script"), path("a.zob"), QStringLiteral("--all"),
+                     QStringLiteral("--into"), path("all")});
+        answerFileDialog(m_folder->path());
+        trigger(*window, "SaveAllScripts");
+        for (const char* name : {"Walls.dat", "Output 1.dat"})
+            QCOMPARE(readFile(path(name)), readFile(path("all/") + QLatin1String(name)));
+        QCOMPARE(readFile(path("Walls.dat")), walls.toUtf8());
+        QCOMPARE(readFile(path("Output 1.dat")), changed.toUtf8());
+        answerFileDialog(m_folder->path());
+        trigger(*window, "ExportAllSheets");
+        QVERIFY(readFile(path("Walls.pdf")).startsWith("%PDF"));
+    }
+
+    /// Plots that the model does not have are kept after another plot was chosen and stored.
+    void copying()
+    {
+        const auto theirs = VKD_H_ZOBDoc::create(path("theirs.zob"));
+        OutputList outputs;
+        const auto foreign = QStringLiteral("<View>1</View><List_4>Checked:@X   $Y   ^Z</List_4>");
+        outputs.setState({foreign, 0, {}}, true);
+        QVERIFY(outputs.put(theirs->handle()).isOk() && theirs->close().isOk());
+        const auto window = open("a.zob");
+        answerFileDialog(path("theirs.zob"));
+        trigger(*window, "CopyOutputs");
+        QTRY_COMPARE(listed(*window), QStringLiteral("Output 1|>/theirs/"));
+        QCOMPARE(find<QLabel>(*window, "AbsentPlots")->text(),
+                 QStringLiteral("Chosen plots that this model cannot have: 1. They are kept."));
+        plots(*window)->topLevelItem(1)->setCheckState(0, Qt::Checked);
+        window->findChild<OutputDialog*>()->accept();
+        const auto document = VKD_H_ZOBDoc::open(path("a.zob"));
+        const QString page = OutputList::read(document->handle()).at(1).state.page;
+        QVERIFY(page.contains(QLatin1String("Checked:@X   $Y   ^Z")));
     }
 };
 

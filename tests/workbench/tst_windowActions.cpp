@@ -1,5 +1,6 @@
 #include "ProjectTest.h"
 #include "window/main/WindowActions.h"
+#include "window/output/OutputDialog.h"
 
 #include <VKD_H_ZOBDoc.h>
 
@@ -89,8 +90,10 @@ private Q_SLOTS:
         QCOMPARE(sorted.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')));
         QTimer closer;
         connect(&closer, &QTimer::timeout, this, [] {
-            if (QWidget* modal = QApplication::activeModalWidget())
-                modal->close();
+            for (QWidget* open :
+                 {QApplication::activePopupWidget(), QApplication::activeModalWidget()})
+                if (open)
+                    open->close();
         });
         closer.start(5);
         for (const auto& button : pointers(window.findChildren<QAbstractButton*>()))
@@ -100,6 +103,9 @@ private Q_SLOTS:
             if (action && action->isEnabled() && action->objectName() != QLatin1String("Quit"))
                 action->trigger();
         QTest::mouseClick(find<QWidget>(window, "AnimatorView"), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (auto output = window.findChild<workbench::OutputDialog*>())
+            output->accept(); // stores the outputs that the buttons have added
         QVERIFY(window.close());
         for (const auto& widget : pointers(QApplication::topLevelWidgets()))
             if (widget)

@@ -28,6 +28,7 @@ public:
     KeptPlots() = default;
     KeptPlots(const QString& selection, const FindOffered& offered);
 
+    bool isEmpty() const { return m_plots.isEmpty(); }
     /// Returns the selection text of a tree with the plots and load cases that it does not offer.
     QString addedTo(const QString& selection, const FindOffered& offered) const;
     /// Returns the number of plots that the tree does not offer at all.

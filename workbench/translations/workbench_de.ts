@@ -524,6 +524,174 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
+    <name>workbench::OutputsPane</name>
+    <message>
+        <source>Not yet saved in the project</source>
+        <translation>Noch nicht im Projekt gespeichert</translation>
+    </message>
+    <message>
+        <source>Chosen plots that this model cannot have: %1. They are kept.</source>
+        <translation>Gewählte Grafiken, die in diesem Modell nicht möglich sind: %1. Sie bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgaben</translation>
+    </message>
+    <message>
+        <source>&amp;Outputs</source>
+        <translation>&amp;Ausgaben</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>&amp;New Output</source>
+        <translation>&amp;Neue Ausgabe</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Adds an output without plots, with the settings of the current one</source>
+        <translation>Fügt eine Ausgabe ohne Grafiken mit den Einstellungen der aktuellen hinzu</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Adds a copy of the current output</source>
+        <translation>Fügt eine Kopie der aktuellen Ausgabe hinzu</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach un&amp;ten</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Vorherige</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt</source>
+        <translation>Nä&amp;chste</translation>
+    </message>
+    <message>
+        <source>Copy &amp;from Project...</source>
+        <translation>Aus &amp;Projekt kopieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save All Scripts...</source>
+        <translation>Alle &amp;Skripte speichern ...</translation>
+    </message>
+    <message>
+        <source>Expor&amp;t All Sheets...</source>
+        <translation>Alle &amp;Blätter exportieren ...</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CopyOutputsDialog</name>
+    <message>
+        <source>Copy from Project</source>
+        <translation>Aus Projekt kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Outputs to copy:</source>
+        <translation>&amp;Zu kopierende Ausgaben:</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::OutputFiles</name>
+    <message>
+        <source>These files exist already:</source>
+        <translation>Diese Dateien gibt es schon:</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The scripts are being generated.</source>
+        <translation>Die Skripte werden erzeugt.</translation>
+    </message>
+    <message>
+        <source>Save All Scripts</source>
+        <translation>Alle Skripte speichern</translation>
+    </message>
+    <message>
+        <source>Scripts saved in %1: %2</source>
+        <translation>In %1 gespeicherte Skripte: %2</translation>
+    </message>
+    <message>
+        <source>Export All Sheets</source>
+        <translation>Alle Blätter exportieren</translation>
+    </message>
+    <message>
+        <source>PDF files saved in %1: %2</source>
+        <translation>In %1 gespeicherte PDF-Dateien: %2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::OutputCommands</name>
+    <message>
+        <source>Delete the output &quot;%1&quot;?</source>
+        <translation>Ausgabe „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Workbench</source>
+        <translation>Workbench</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>Copy from Project</source>
+        <translation>Aus Projekt kopieren</translation>
+    </message>
+    <message>
+        <source>Projects (*.zob)</source>
+        <translation>Projekte (*.zob)</translation>
+    </message>
+    <message>
+        <source>This project is open. Duplicate copies one of its outputs.</source>
+        <translation>Dieses Projekt ist geöffnet. „Duplizieren“ kopiert eine seiner Ausgaben.</translation>
+    </message>
+    <message>
+        <source>The project is being opened.</source>
+        <translation>Das Projekt wird geöffnet.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be opened.</source>
+        <translation>Die Datei %1 kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Outputs copied: %1</source>
+        <translation>Kopierte Ausgaben: %1</translation>
+    </message>
+</context>
+<context>
     <name>presetJson</name>
     <message>
         <source>The JSON is invalid at byte %1: %2.</source>
@@ -1481,6 +1649,10 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
 </context>
 <context>
     <name>workbench::WindowPanes</name>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgaben</translation>
+    </message>
     <message>
         <source>Model</source>
         <translation>Modell</translation>

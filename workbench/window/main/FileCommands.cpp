@@ -3,7 +3,7 @@
 #include "project/OpenProject.h"
 #include "window/design/DesignEditor.h"
 #include "window/main/WindowActions.h"
-#include "window/output/OutputDialog.h"
+#include "window/output/EditedOutputs.h"
 #include "window/output/OutputEditor.h"
 #include "window/output/OutputScript.h"
 #include "window/support/chooseFileToSave.h"
@@ -213,10 +213,8 @@ void FileCommands::reload()
     if (!openDocument(m_parts.project->path(), Camera::Keep))
         return;
     m_parts.design->showAgain(rows);
-    if (plots && plots->isChanged)
-        m_parts.output->recreate(*plots);
-    else if (OutputDialog* dialog = plots ? m_parts.output->dialog() : nullptr)
-        dialog->setPresent(*plots);
+    if (plots)
+        m_parts.output->continueAfterReload(*plots);
     if (text)
         m_parts.textOutput->reopen(*text);
     else if (isTextOpen)

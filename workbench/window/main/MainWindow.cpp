@@ -11,9 +11,10 @@
 #include "window/main/WindowActions.h"
 #include "window/main/WindowHelp.h"
 #include "window/main/WindowPanes.h"
-#include "window/output/OutputDialog.h"
+#include "window/output/EditedOutputs.h"
 #include "window/output/OutputEditor.h"
 #include "window/output/OutputScript.h"
+#include "window/outputs/OutputCommands.h"
 #include "window/records/RecordsPane.h"
 #include "window/support/FileDrop.h"
 #include "window/support/PageDock.h"
@@ -54,6 +55,9 @@ MainWindow::MainWindow(const MakeProject& makeProject, QWidget* parent)
     connectPanes();
     connectProject();
     new WindowHelp(&m_messages, *m_actions);
+    m_outputCommands = std::make_unique<OutputCommands>(
+        OutputParts{&m_project, m_outputEditor.get(), m_outputScript.get(), m_panes->outputs,
+                    m_panes->sheets, &m_messages});
     setTexts();
     enableActions();
     m_outputScript->clear();

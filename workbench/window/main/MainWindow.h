@@ -16,6 +16,7 @@ namespace workbench {
 class DesignEditor;
 class FileCommands;
 class GroupMenu;
+class OutputCommands;
 class OutputEditor;
 class OutputScript;
 class RowsInView;
@@ -83,6 +84,7 @@ private:
     std::unique_ptr<DesignEditor> m_designEditor;
     std::unique_ptr<OutputEditor> m_outputEditor;
     std::unique_ptr<OutputScript> m_outputScript;
+    std::unique_ptr<OutputCommands> m_outputCommands;
     std::unique_ptr<TextOutputEditor> m_textOutputEditor;
     std::unique_ptr<FileCommands> m_files;
 };

@@ -169,8 +169,8 @@ void WindowActions::addMenus(QMainWindow* window)
     viewMenu = bar->addMenu(QString());
     viewMenu->addActions(views.toList());
     viewMenu->addSeparator();
-    m_projectMenu = bar->addMenu(QString());
-    m_projectMenu->addActions({design, output, textOutput, sheet});
+    projectMenu = bar->addMenu(QString());
+    projectMenu->addActions({design, output, textOutput, sheet});
     m_languageMenu = bar->addMenu(QString());
     m_languageMenu->addActions({german, english});
     m_helpMenu = bar->addMenu(QString());
@@ -224,7 +224,7 @@ void WindowActions::setTexts()
     recentMenu->setTitle(tr("Open &Recent"));
     editMenu->setTitle(tr("&Edit"));
     viewMenu->setTitle(tr("&View"));
-    m_projectMenu->setTitle(tr("&Project"));
+    projectMenu->setTitle(tr("&Project"));
     m_languageMenu->setTitle(tr("&Language"));
     m_helpMenu->setTitle(tr("&Help"));
     m_toolBar->setWindowTitle(tr("Tool Bar"));

@@ -57,6 +57,7 @@ public:
     QMenu* recentMenu = nullptr;
     QMenu* editMenu = nullptr; ///< the dock with the focus provides its actions
     QMenu* viewMenu = nullptr;
+    QMenu* projectMenu = nullptr;
 
 private:
     QAction* add(const char* name);
@@ -69,7 +70,6 @@ private:
 
     QMenu* m_fileMenu = nullptr;
     QMenu* m_newMenu = nullptr;
-    QMenu* m_projectMenu = nullptr;
     QMenu* m_languageMenu = nullptr;
     QMenu* m_helpMenu = nullptr;
     QToolBar* m_toolBar = nullptr;

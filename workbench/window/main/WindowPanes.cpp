@@ -11,6 +11,7 @@
 #include "window/main/OutputRoom.h"
 #include "window/main/WindowActions.h"
 #include "window/output/OutputDock.h"
+#include "window/outputs/OutputsPane.h"
 #include "window/records/RecordsPane.h"
 #include "window/script/ScriptPane.h"
 #include "window/support/HelpKey.h"
@@ -53,6 +54,7 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     , news(new ChangeBar(actions.reload, actions.saveAs, window))
     , banner(new PickBanner(window))
     , view(new AnimatorView(ZobHandle(), window))
+    , outputs(new OutputsPane(window))
     , script(new ScriptPane(actions.copyScript, actions.saveScript, window))
     , sheets(new SheetPreview(actions.exportSheets, window))
     , design(new DesignDock(window))
@@ -62,6 +64,7 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     addCentre();
     addDocks(actions);
     resizeDocks();
+    setHelpTopic(m_outputsDock, "GRAV/OUTPUTS");
     setHelpTopic(m_scriptDock, "GRAV/SCRIPT");
     setHelpTopic(m_sheetDock, "GRAV/SHEET");
     // isVisible() is also true for a dock that is covered by another dock.
@@ -87,6 +90,7 @@ void WindowPanes::addDocks(const WindowActions& actions)
 {
     m_window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_groupDock = addDock(m_window, Qt::LeftDockWidgetArea, groupPane, "GroupDock");
+    m_outputsDock = addDock(m_window, Qt::RightDockWidgetArea, outputs, "OutputsDock");
     m_scriptDock = addDock(m_window, Qt::RightDockWidgetArea, script, "ScriptDock");
     m_sheetDock = addDock(m_window, Qt::RightDockWidgetArea, sheets, "SheetDock");
     m_recordDock = addDock(m_window, Qt::RightDockWidgetArea, nullptr, "RecordDock");
@@ -95,9 +99,11 @@ void WindowPanes::addDocks(const WindowActions& actions)
     for (PageDock* dock : pageDocks())
         dock->hide();
     for (const QDockWidget* dock : std::initializer_list<const QDockWidget*>{
-             m_groupDock, output, design, m_scriptDock, m_sheetDock, m_recordDock})
+             m_groupDock, output, design, m_outputsDock, m_scriptDock, m_sheetDock, m_recordDock})
         actions.viewMenu->addAction(dock->toggleViewAction());
     connect(design, &QDockWidget::visibilityChanged, this, &WindowPanes::makeRoomForDesign);
+    actions.projectMenu->addMenu(outputs->menu);
+    m_window->splitDockWidget(m_outputsDock, m_scriptDock, Qt::Vertical);
     m_window->tabifyDockWidget(m_scriptDock, m_sheetDock);
     m_window->tabifyDockWidget(m_sheetDock, m_recordDock);
     m_scriptDock->raise();
@@ -154,6 +160,8 @@ void WindowPanes::setTexts()
     view->setAccessibleName(tr("Model"));
     m_groupDock->setWindowTitle(tr("Groups"));
     groupPane->setTexts();
+    m_outputsDock->setWindowTitle(tr("Outputs"));
+    outputs->setTexts();
     m_scriptDock->setWindowTitle(tr("Script"));
     m_sheetDock->setWindowTitle(tr("Sheet"));
     m_recordDock->setWindowTitle(tr("Records"));

@@ -16,6 +16,7 @@ class DesignDock;
 class GroupList;
 class GroupPane;
 class OutputDock;
+class OutputsPane;
 class PickBanner;
 class RecordsPane;
 class ScriptPane;
@@ -55,6 +56,7 @@ public:
     ChangeBar* const news;
     PickBanner* const banner;
     AnimatorView* const view;
+    OutputsPane* const outputs;
     ScriptPane* const script;
     SheetPreview* const sheets;
     DesignDock* const design;
@@ -74,6 +76,7 @@ private:
 
     QMainWindow* m_window;
     QDockWidget* m_groupDock = nullptr;
+    QDockWidget* m_outputsDock = nullptr;
     QDockWidget* m_scriptDock = nullptr;
     QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;

@@ -1,11 +1,11 @@
 #include "window/output/OutputDialog.h"
 
-#include "window/output/CameraRollback.h"
 #include "window/output/OutputOffers.h"
 #include "window/output/TreeViewMemory.h"
 #include "window/support/HelpKey.h"
 
 #include <AnimatorView.h>
+#include <vkd_dbo_camera.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_QT_InputField.h>
@@ -106,13 +106,13 @@ void OutputDialog::setButtons()
         button->setDefault(false);
         button->setAutoDefault(false);
     }
-    enableButtons(false);
+    enableButtons(false, false);
 }
 
-void OutputDialog::enableButtons(bool isChanged)
+void OutputDialog::enableButtons(bool canApply, bool canDiscard)
 {
-    buttons()->cmdOk()->setEnabled(isChanged);
-    buttons()->cmdCancel()->setEnabled(isChanged);
+    buttons()->cmdOk()->setEnabled(canApply);
+    buttons()->cmdCancel()->setEnabled(canDiscard);
 }
 
 void OutputDialog::enter()
@@ -224,13 +224,14 @@ OutputState OutputDialog::state()
 {
     storeUsersCamera();
     OutputState present;
-    {
-        const CameraRollback camera;
-        present.page = m_page->writeXMLstring();
-    }
-    present.page = withUsersCamera(present.page);
+    present.page = withUsersCamera(m_offers->page());
     m_offers->readTo(&present);
     return present;
+}
+
+int OutputDialog::absentPlots() const
+{
+    return m_offers->absentPlots();
 }
 
 QString OutputDialog::fingerprint()

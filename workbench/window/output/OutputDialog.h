@@ -48,12 +48,14 @@ public:
     QVector<PlotCaption> captions();
     /// Returns the state that is saved in the project.
     OutputState state();
+    /// Returns the number of chosen plots that the page does not offer. They are saved, too.
+    int absentPlots() const;
     /// Returns whether the user has made any changes since the dialog was created or setUnchanged()
     /// was called.
     bool isChanged();
     void setUnchanged();
     /// Enables Apply and Discard.
-    void enableButtons(bool isChanged);
+    void enableButtons(bool canApply, bool canDiscard);
     /// Gives the focus to the tree of plots, or to the first field if another tab is shown.
     void enter();
     /// Frees the memory of the plots. After this call, the dialog can only be destroyed.

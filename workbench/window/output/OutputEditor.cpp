@@ -1,6 +1,6 @@
 #include "window/output/OutputEditor.h"
 
-#include "window/output/OutputDialog.h"
+#include "window/output/EditedOutputs.h"
 #include "window/output/OutputDock.h"
 #include "window/support/ProjectAccess.h"
 #include "window/support/SlowWork.h"
@@ -34,20 +34,23 @@ OutputEditor::~OutputEditor()
 OutputDialog* OutputEditor::dialog()
 {
     if (!m_dialog && m_access->canRead() && !m_dialog) { // canRead() may have created it
-        m_project->look(ProjectPart::Output);
-        create(OutputState::read(m_project->handle()));
+        load();
+        create(m_outputs.current().state);
     }
     return m_dialog.get();
 }
 
-std::optional<OutputPresent> OutputEditor::present() const
+std::optional<EditedOutputs> OutputEditor::present() const
 {
-    return m_dialog ? std::make_optional(m_dialog->present()) : std::nullopt;
+    if (!m_dialog)
+        return std::nullopt;
+    return EditedOutputs{m_dialog->present(), m_outputs, isChanged()};
 }
 
 bool OutputEditor::isChanged() const
 {
-    return m_dialog && m_dialog->isChanged();
+    m_isDialogChanged = m_dialog && m_dialog->isChanged();
+    return m_isDialogChanged || m_outputs.isChanged();
 }
 
 void OutputEditor::create(const OutputState& state)
@@ -60,16 +63,20 @@ void OutputEditor::create(const OutputState& state)
     connect(m_dialog.get(), &QDialog::rejected, this, &OutputEditor::discard);
 }
 
-void OutputEditor::recreate(const OutputPresent& before)
+void OutputEditor::recreate(const EditedOutputs& before)
 {
-    create(before.state);
-    m_dialog->setPresent(before);
+    m_outputs = before.outputs;
+    m_areOutputsRead = true;
+    create(before.dialog.state);
+    m_dialog->setPresent(before.dialog);
 }
 
 void OutputEditor::close()
 {
     m_dock->setDialog(nullptr);
     m_dialog.reset();
+    m_outputs = OutputList();
+    m_areOutputsRead = false;
 }
 
 /// Destroys the dialog later, because one of its buttons may have called this function. Its plots
@@ -101,7 +108,7 @@ bool OutputEditor::markChanges()
     const bool areChanges = isChanged();
     m_dock->setWindowModified(areChanges);
     if (m_dialog)
-        m_dialog->enableButtons(areChanges);
+        m_dialog->enableButtons(areChanges, m_isDialogChanged);
     return areChanges;
 }
 
@@ -109,12 +116,15 @@ bool OutputEditor::store()
 {
     if (!dialog())
         return false;
-    const OutputState state = m_dialog->state();
-    const auto put = [this, &state] { return state.put(m_project->handle()).code; };
+    OutputList stored = m_outputs;
+    stored.setState(m_dialog->state(), true);
+    const auto put = [this, &stored] { return stored.put(m_project->handle()).code; };
     if (!m_access->storePart(ProjectPart::Output, put,
                              tr("The choice of plots cannot be stored in the file %1."),
                              [this] { reload(); }))
         return false;
+    m_outputs = stored;
+    m_outputs.setStored();
     m_dialog->setUnchanged();
     Q_EMIT modified();
     m_messages->say(tr("The choice of plots is in the project file."));
@@ -125,6 +135,22 @@ bool OutputEditor::store()
 /// the script is updated.
 void OutputEditor::reload()
 {
+    m_areOutputsRead = false;
+    renew();
+}
+
+/// Discards the changes to the current output. Other outputs keep their changes.
+void OutputEditor::discard()
+{
+    m_outputs.revert();
+    m_areOutputsRead = m_outputs.isChanged();
+    renew();
+    if (m_dialog)
+        m_messages->say(tr("The choice of plots is again that of the project."));
+}
+
+void OutputEditor::renew()
+{
     OutputPresent present = m_dialog->present();
     present.isChanged = false;
     closeLater();
@@ -133,18 +159,11 @@ void OutputEditor::reload()
         m_dialog->setPresent(present);
 }
 
-void OutputEditor::discard()
-{
-    reload();
-    if (m_dialog)
-        m_messages->say(tr("The choice of plots is again that of the project."));
-}
-
 /// Discards the changes that the user did not want to store when the dock was closed.
 void OutputEditor::leave()
 {
     if (isChanged())
-        discard();
+        reload();
 }
 
 bool OutputEditor::mayLeave()
@@ -157,7 +176,7 @@ bool OutputEditor::mayLeave()
 
 void OutputEditor::followOthers()
 {
-    if (m_dialog && !m_dialog->isChanged() && m_project->isOutdated(ProjectPart::Output))
+    if (m_dialog && !isChanged() && m_project->isOutdated(ProjectPart::Output))
         reload();
 }
 

@@ -1,23 +1,25 @@
 #pragma once
 
+#include "project/OutputList.h"
+
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
 namespace workbench {
 
+struct EditedOutputs;
 class OpenProject;
 class OutputDialog;
 class OutputDock;
-struct OutputPresent;
-struct OutputState;
 class ProjectAccess;
 class WindowMessages;
 
-/// Edits the graphical output of the open project: owns the dialog in the dock, and reads and
-/// stores its state. The dialog also exists while the dock is closed, because it creates the
-/// script.
+/// Edits the graphical outputs of the open project: owns the dialog of the current output in the
+/// dock, and reads and stores all outputs. The dialog also exists while the dock is closed, because
+/// it creates the script.
 class OutputEditor : public QObject
 {
     Q_OBJECT
@@ -34,10 +36,10 @@ public:
     /// the project cannot be read, shows an error message and returns null.
     OutputDialog* dialog();
     /// Returns the state for recreate(), or an empty optional if the dialog does not exist.
-    std::optional<OutputPresent> present() const;
-    /// Returns whether the dialog contains changes that are not stored.
+    std::optional<EditedOutputs> present() const;
+    /// Returns whether there are changes to the outputs that are not stored.
     bool isChanged() const;
-    /// Stores the state of the dialog in the project. Returns whether it is stored.
+    /// Stores all outputs in the project. Returns whether they are stored.
     bool store();
     /// Asks whether to store changes. Returns false if the user cancels or storing fails.
     bool mayLeave();
@@ -46,24 +48,44 @@ public:
     void edit();
     /// Marks unsaved changes in the title of the dock. Returns whether there are any.
     bool markChanges();
-    /// Creates a new dialog with the state of a previous dialog.
-    void recreate(const OutputPresent& before);
+    /// Creates a new dialog with the state of a previous dialog, and continues with its outputs.
+    void recreate(const EditedOutputs& before);
+    /// Continues with a project that has been reloaded. Changed outputs are preserved.
+    void continueAfterReload(const EditedOutputs& before);
     /// Destroys the dialog without asking.
     void close();
     /// Reads the project again if another program has stored a newer state and the dialog is
     /// unchanged.
     void followOthers();
 
+    /// Returns the outputs without the changes in the dialog.
+    const OutputList& outputs() const { return m_outputs; }
+    /// Returns whether an output is changed. For the current output, this is the last result of
+    /// isChanged(), because comparing the plots takes time.
+    bool isChanged(int output) const;
+    /// Changes names or the order of the outputs. The current output must not change.
+    void editList(const std::function<void(OutputList*)>& change);
+    /// Changes the current output, and shows it in a new dialog. The changes in the previous dialog
+    /// are preserved in the list.
+    void changeCurrent(const std::function<void(OutputList*)>& change);
+    /// Calls `work` with a dialog for each output, until it returns false. Only the dialog of the
+    /// current output is shown. Returns whether all calls have returned true.
+    bool forEachOutput(const std::function<bool(int output, OutputDialog*)>& work);
+
 Q_SIGNALS:
     /// Emitted when the script has to be updated.
     void choiceChanged();
+    /// Emitted when another output has become the current output.
+    void outputChosen();
     /// Emitted when isChanged() may have changed.
     void modified();
 
 private:
+    void load();
     void create(const OutputState& state);
     void closeLater();
     void reload();
+    void renew();
     void discard();
     void leave();
 
@@ -71,6 +93,9 @@ private:
     ProjectAccess* m_access;
     WindowMessages* m_messages;
     OutputDock* m_dock;
+    OutputList m_outputs;
+    bool m_areOutputsRead = false;
+    mutable bool m_isDialogChanged = false; ///< when isChanged() was last called
     std::unique_ptr<OutputDialog> m_dialog;
 };
 

@@ -118,7 +118,7 @@ void OutputOffers::restore(const OutputState& saved)
     offerLoadCases();
     m_choice.setProposed();
     if (!saved.page.isEmpty())
-        m_page->readXMLstring(saved.page);
+        m_choice.setSaved(saved.page);
     readTo(&m_known);
     QMetaObject::invokeMethod(m_steps, "restart", Q_ARG(QString, stateText()));
 }

@@ -29,6 +29,10 @@ public:
 
     /// Shows the saved state, without a signal, and clears the undo steps of the page.
     void restore(const OutputState& saved);
+    /// Returns the string of the page. It also contains the chosen plots that the page does not offer.
+    QString page() const { return m_choice.page(); }
+    /// Returns the number of chosen plots that the page does not offer.
+    int absentPlots() const { return m_choice.absentPlots(); }
     /// Sets the content and the load cases in `state`.
     void readTo(OutputState* state) const;
 

@@ -1,9 +1,10 @@
 #include "window/output/OutputScript.h"
 
 #include "project/OpenProject.h"
+#include "project/outputFileNames.h"
 #include "sheet/exportSheets.h"
-#include "sheet/sheetCaptions.h"
 #include "sheet/SheetPreview.h"
+#include "window/output/addCaptions.h"
 #include "window/output/OutputDialog.h"
 #include "window/output/OutputEditor.h"
 #include "window/script/ScriptPane.h"
@@ -11,8 +12,6 @@
 #include "window/support/SlowWork.h"
 #include "window/support/WindowMessages.h"
 #include "window/support/WindowSettings.h"
-
-#include <vkd_dbo_model.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -33,6 +32,7 @@ OutputScript::OutputScript(OpenProject* project, OutputEditor* output, WindowMes
     m_pane->setKeywords(WindowSettings().keywords());
     connect(m_pane, &ScriptPane::keywordsChosen, this, &OutputScript::setKeywords);
     connect(m_output, &OutputEditor::choiceChanged, this, &OutputScript::refresh);
+    connect(m_output, &OutputEditor::outputChosen, this, &OutputScript::showOther);
 }
 
 void OutputScript::clear()
@@ -61,8 +61,13 @@ void OutputScript::refresh()
 
 void OutputScript::showOther()
 {
-    if (OutputDialog* dialog = m_output->dialog())
-        m_pane->setOtherScript(dialog->script(m_pane->keywords()));
+    OutputDialog* dialog = m_output->dialog();
+    if (!dialog)
+        return;
+    const QString script = dialog->script(m_pane->keywords());
+    m_pane->setOtherScript(script);
+    Q_EMIT refreshed(script.isEmpty());
+    refreshSheets();
 }
 
 void OutputScript::setKeywords(vkd::Language language)
@@ -72,7 +77,6 @@ void OutputScript::setKeywords(vkd::Language language)
     WindowSettings().setKeywords(language);
     if (m_project->isOpen())
         showOther();
-    refreshSheets();
 }
 
 /// Updates the pane first, because it normally shows a change only after the events that cause the
@@ -92,7 +96,12 @@ void OutputScript::copy()
 
 QString OutputScript::proposedFile(const char* suffix) const
 {
-    return QDir(m_project->folder()).filePath(m_project->name() + QLatin1String(suffix));
+    const OutputList& outputs = m_output->outputs();
+    QString name = m_project->name();
+    if (outputs.size() > 1)
+        name += QLatin1String(" - ") +
+                outputFileNames(outputs.names(), QString()).at(outputs.currentIndex());
+    return QDir(m_project->folder()).filePath(name + QLatin1String(suffix));
 }
 
 void OutputScript::save()
@@ -113,13 +122,7 @@ void OutputScript::save()
 SheetPlan OutputScript::newSheetPlan()
 {
     SheetPlan plan = m_plans.planOf(script());
-    OutputDialog* dialog = m_output->dialog(); // null while the project cannot be read
-    if (dialog)
-        setCaptions(&plan, dialog->captions());
-    QHash<int, QString> titles;
-    for (const vkd::dbo::LoadCase& loadCase : vkd::dbo::readLoadCases(m_project->handle()))
-        titles.insert(loadCase.number, loadCase.title);
-    setLoadCaseTitles(&plan, titles);
+    addCaptions(&plan, m_output->dialog(), m_project->handle());
     return plan;
 }
 

@@ -1,6 +1,7 @@
 #include "window/output/PlotChoice.h"
 
 #include "window/output/CameraRollback.h"
+#include "window/output/OfferedPlots.h"
 
 #include <AnimatorView.h>
 #include <VKD_P_WidgetGraphicalOutput>
@@ -14,6 +15,14 @@ namespace {
 const QString Plots = QStringLiteral("List_4"); // tag of the plots in the page's string
 }
 
+/// A selection text without lines would not change the plots that the catalogue proposes.
+QString withoutPlots(QString page)
+{
+    const QString none = vkd_qt_writeXMLpart(QStringLiteral("\nUnchecked:-\n"), Plots);
+    const QString plots = vkd_qt_readXMLpart(page, 0, Plots);
+    return plots.isNull() ? page + none : page.replace(vkd_qt_writeXMLpart(plots, Plots), none);
+}
+
 PlotChoice::PlotChoice(VKD_P_WidgetGraphicalOutput* page, AnimatorView* view)
     : m_page(page)
     , m_view(view)
@@ -23,30 +32,63 @@ PlotChoice::PlotChoice(VKD_P_WidgetGraphicalOutput* page, AnimatorView* view)
 
 void PlotChoice::setProposed()
 {
+    m_kept = KeptPlots();
     m_chosen.clear();
     m_shown = shown();
+}
+
+void PlotChoice::setSaved(const QString& page)
+{
+    m_page->readXMLstring(page);
+    m_kept = KeptPlots(vkd_qt_readXMLpart(page, 0, Plots), OfferedPlots(*m_tree));
+}
+
+QString PlotChoice::page() const
+{
+    QString page = pageString();
+    const QString plots = vkd_qt_readXMLpart(page, 0, Plots);
+    if (const QString all = withKept(plots); all != plots)
+        page.replace(vkd_qt_writeXMLpart(plots, Plots), vkd_qt_writeXMLpart(all, Plots));
+    return page;
+}
+
+int PlotChoice::absentPlots() const
+{
+    return m_kept.isEmpty() ? 0 : m_kept.absentPlots(OfferedPlots(*m_tree));
 }
 
 void PlotChoice::remember()
 {
     const QString present = shown();
     if (present != m_shown)
-        m_chosen = present;
+        m_chosen = withKept(present);
     m_look = TreeViewState(m_tree);
 }
 
 void PlotChoice::giveBack()
 {
-    if (!m_chosen.isNull())
+    if (!m_chosen.isNull()) {
         show(m_chosen);
+        m_kept = KeptPlots(m_chosen, OfferedPlots(*m_tree));
+    }
     m_shown = shown();
     m_look.restore(m_tree);
 }
 
-QString PlotChoice::shown() const
+QString PlotChoice::pageString() const
 {
     const CameraRollback camera;
-    return vkd_qt_readXMLpart(m_page->writeXMLstring(), 0, Plots);
+    return m_page->writeXMLstring();
+}
+
+QString PlotChoice::shown() const
+{
+    return vkd_qt_readXMLpart(pageString(), 0, Plots);
+}
+
+QString PlotChoice::withKept(const QString& plots) const
+{
+    return m_kept.isEmpty() ? plots : m_kept.addedTo(plots, OfferedPlots(*m_tree));
 }
 
 /// Stores the view's camera before reading the string and restores the desktop's camera afterwards,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/KeptPlots.h"
 #include "window/output/TreeViewState.h"
 
 class AnimatorView;
@@ -7,6 +8,9 @@ class QTreeWidget;
 class VKD_P_WidgetGraphicalOutput;
 
 namespace workbench {
+
+/// Returns the string of a page without plots, with the settings of a saved string.
+QString withoutPlots(QString page);
 
 /// The user's choice of plots on an output page. The class preserves the choice and the view of the
 /// tree when the offered load cases or content change; the page itself would revert to the plots
@@ -21,21 +25,30 @@ public:
 
     /// Stores the page's current plots as the catalogue's proposal.
     void setProposed();
+    /// Shows a saved string of a page. Plots and load cases that the page does not offer are kept.
+    void setSaved(const QString& page);
+    /// Returns the string of the page, with the plots that the page does not offer.
+    QString page() const;
+    /// Returns the number of chosen plots that the page does not offer.
+    int absentPlots() const;
     /// Must be called before each change to the offered load cases or content; giveBack() must be
     /// called after the change.
     void remember();
     void giveBack();
 
 private:
+    QString pageString() const;
     QString shown() const;
+    QString withKept(const QString& plots) const;
     void show(const QString& plots);
 
     VKD_P_WidgetGraphicalOutput* m_page;
     AnimatorView* m_view;
     QTreeWidget* m_tree;
     TreeViewState m_look; ///< the view of the tree before the change
-    QString m_chosen;     ///< selection text of the user's plots; null for the proposal
-    QString m_shown;      ///< part of the text that the page could show after the last change
+    KeptPlots m_kept;
+    QString m_chosen; ///< selection text of the user's plots; null for the proposal
+    QString m_shown;  ///< part of the text that the page could show after the last change
 };
 
 } // namespace workbench

@@ -1,0 +1,85 @@
+// The part of OutputEditor that handles the list of outputs.
+
+#include "project/OpenProject.h"
+#include "window/output/CameraRollback.h"
+#include "window/output/EditedOutputs.h"
+#include "window/output/OutputEditor.h"
+#include "window/support/WindowMessages.h"
+
+#include <QApplication>
+#include <QMainWindow>
+
+namespace workbench {
+
+/// Reads the outputs of the project, unless they have been read or the list has unsaved changes.
+/// The current output is preserved if the project still contains it.
+void OutputEditor::load()
+{
+    if (m_areOutputsRead)
+        return;
+    const QString current = m_outputs.name(m_outputs.currentIndex());
+    m_project->look(ProjectPart::Output);
+    m_outputs = OutputList::read(m_project->handle());
+    m_outputs.setCurrent(m_outputs.indexOf(current));
+    m_areOutputsRead = true;
+}
+
+void OutputEditor::continueAfterReload(const EditedOutputs& before)
+{
+    if (before.isChanged)
+        return recreate(before);
+    m_outputs = before.outputs;
+    if (dialog())
+        m_dialog->setPresent(before.dialog);
+}
+
+bool OutputEditor::isChanged(int output) const
+{
+    return m_outputs.isChanged(output) || (m_isDialogChanged && output == m_outputs.currentIndex());
+}
+
+void OutputEditor::editList(const std::function<void(OutputList*)>& change)
+{
+    if (!dialog())
+        return;
+    change(&m_outputs);
+    Q_EMIT modified();
+}
+
+/// The state of the list stays that of the project until the user changes it, so that an output
+/// that was only shown is not marked as changed.
+void OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
+{
+    if (!dialog())
+        return;
+    OutputPresent present = m_dialog->present();
+    if (present.isChanged)
+        m_outputs.setState(present.state, true);
+    const bool hasFocus = m_dialog->isAncestorOf(QApplication::focusWidget());
+    change(&m_outputs);
+    present.state = m_outputs.current().state;
+    present.isChanged = m_outputs.current().isStateChanged;
+    closeLater();
+    create(present.state);
+    m_dialog->setPresent(present);
+    if (hasFocus)
+        m_dialog->enter();
+    Q_EMIT outputChosen();
+}
+
+bool OutputEditor::forEachOutput(const std::function<bool(int, OutputDialog*)>& work)
+{
+    bool goesOn = bool(dialog());
+    for (int i = 0; goesOn && i < m_outputs.size(); ++i) {
+        if (i == m_outputs.currentIndex()) {
+            goesOn = work(i, m_dialog.get());
+            continue;
+        }
+        const CameraRollback camera;
+        OutputDialog hidden(m_project->document(), m_outputs.at(i).state, m_messages->window());
+        goesOn = work(i, &hidden);
+    }
+    return goesOn;
+}
+
+} // namespace workbench

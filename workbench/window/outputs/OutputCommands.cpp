@@ -1,0 +1,156 @@
+#include "window/outputs/OutputCommands.h"
+
+#include "project/OpenProject.h"
+#include "window/output/OutputDialog.h"
+#include "window/output/OutputEditor.h"
+#include "window/output/OutputScript.h"
+#include "window/output/PlotChoice.h"
+#include "window/outputs/CopyOutputsDialog.h"
+#include "window/outputs/OutputFiles.h"
+#include "window/outputs/OutputsPane.h"
+#include "window/support/projectFiles.h"
+#include "window/support/SlowWork.h"
+#include "window/support/waitForStore.h"
+#include "window/support/WindowMessages.h"
+
+#include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_MessageBox.h>
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMainWindow>
+
+namespace workbench {
+
+OutputCommands::OutputCommands(const OutputParts& parts)
+    : m_parts(parts)
+{
+    const OutputsPane* pane = m_parts.pane;
+    const auto on = [this](const QAction* action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    on(pane->newOutput, &OutputCommands::add);
+    on(pane->duplicate, &OutputCommands::duplicate);
+    on(pane->remove, &OutputCommands::remove);
+    on(pane->moveUp, [this] { move(-1); });
+    on(pane->moveDown, [this] { move(1); });
+    on(pane->copyFrom, &OutputCommands::copyFromProject);
+    const auto files = [this] {
+        return OutputFiles(m_parts.project, m_parts.editor, m_parts.messages, m_parts.sheets);
+    };
+    on(pane->saveAll, [files] { files().saveScripts(); });
+    on(pane->exportAll, [files] { files().exportSheets(); });
+    connect(pane, &OutputsPane::chosen, this, &OutputCommands::choose);
+    connect(pane, &OutputsPane::renamed, this, &OutputCommands::rename);
+    connect(m_parts.editor, &OutputEditor::modified, this, &OutputCommands::showList);
+    connect(m_parts.script, &OutputScript::refreshed, this, &OutputCommands::showList);
+    showList();
+}
+
+void OutputCommands::showList()
+{
+    QVector<OutputsPane::Row> rows;
+    const OutputList& outputs = m_parts.editor->outputs();
+    const bool isRead = m_parts.editor->exists();
+    for (int i = 0; isRead && i < outputs.size(); ++i)
+        rows.append({outputs.name(i), m_parts.editor->isChanged(i)});
+    m_parts.pane->setOutputs(rows, isRead ? outputs.currentIndex() : -1);
+    m_parts.pane->setAbsentPlots(isRead ? m_parts.editor->dialog()->absentPlots() : 0);
+}
+
+void OutputCommands::choose(int output)
+{
+    if (output >= 0 && output != m_parts.editor->outputs().currentIndex())
+        m_parts.editor->changeCurrent([output](OutputList* list) { list->setCurrent(output); });
+    showList();
+}
+
+/// A new output has the settings of the current output, so that the sheets of a project look alike.
+void OutputCommands::add()
+{
+    m_parts.editor->changeCurrent([](OutputList* list) {
+        OutputState state = list->current().state;
+        state.page = withoutPlots(state.page);
+        list->add(list->newName(), state);
+    });
+    m_parts.pane->editName();
+}
+
+void OutputCommands::duplicate()
+{
+    m_parts.editor->changeCurrent([](OutputList* list) {
+        list->add(list->unusedName(list->name(list->currentIndex())), list->current().state);
+    });
+    m_parts.pane->editName();
+}
+
+void OutputCommands::rename(const QString& name)
+{
+    const QString fault = m_parts.editor->outputs().faultOfName(name);
+    if (fault.isEmpty())
+        return m_parts.editor->editList([&name](OutputList* list) { list->rename(name); });
+    showList();
+    m_parts.messages->complain(fault);
+}
+
+void OutputCommands::remove()
+{
+    enum Button { Delete, Keep };
+    const OutputList& outputs = m_parts.editor->outputs();
+    const QString question =
+        tr("Delete the output \"%1\"?").arg(outputs.name(outputs.currentIndex()));
+    if (VKD_QT_MessageBox::warning(m_parts.messages->window(), tr("Workbench"), question,
+                                   tr("&Delete"), tr("&Keep"), QString(), Keep, Keep) == Delete)
+        m_parts.editor->changeCurrent([](OutputList* list) { list->remove(); });
+}
+
+void OutputCommands::move(int distance)
+{
+    m_parts.editor->editList(
+        [distance](OutputList* list) { list->move(list->currentIndex() + distance); });
+}
+
+void OutputCommands::copyFromProject()
+{
+    QWidget* window = m_parts.messages->window();
+    const QString path = QFileDialog::getOpenFileName(
+        window, tr("Copy from Project"), m_parts.project->folder(), tr("Projects (*.zob)"));
+    if (path.isEmpty())
+        return;
+    if (isSameFile(path, m_parts.project->path()))
+        return m_parts.messages->complain(
+            tr("This project is open. Duplicate copies one of its outputs."));
+    copyFrom(path);
+}
+
+/// Outputs without a name get the name of their project.
+void OutputCommands::copyFrom(const QString& path)
+{
+    QWidget* window = m_parts.messages->window();
+    VkdStatus status;
+    OutputList theirs;
+    {
+        SlowWork work(window, tr("The project is being opened."), 0);
+        const auto document =
+            VKD_H_ZOBDoc::open(path, &status, [&work](int) { return work.goOn(0); });
+        if (document)
+            theirs = OutputList::read(document->handle(), &status);
+    }
+    if (!m_parts.messages->succeeds(status, path, tr("The file %1 cannot be opened.")))
+        return;
+    CopyOutputsDialog dialog(theirs.names(), window);
+    if (theirs.size() > 1 && dialog.exec() != QDialog::Accepted)
+        return;
+    const QVector<int> chosen = dialog.checkedOutputs();
+    const QString project = QFileInfo(path).completeBaseName();
+    m_parts.editor->changeCurrent([&](OutputList* list) {
+        for (int output : chosen) {
+            const QString name = theirs.at(output).name;
+            list->add(list->unusedName(name.isEmpty() ? project : name), theirs.at(output).state);
+        }
+    });
+    m_parts.messages->say(tr("Outputs copied: %1").arg(chosen.size()));
+}
+
+} // namespace workbench

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QObject>
+
+namespace workbench {
+
+class OpenProject;
+class OutputEditor;
+struct OutputState;
+class OutputScript;
+class OutputsPane;
+class SheetPreview;
+class WindowMessages;
+
+/// The parts of the main window that OutputCommands uses.
+struct OutputParts
+{
+    const OpenProject* project;
+    OutputEditor* editor;
+    OutputScript* script;
+    OutputsPane* pane;
+    SheetPreview* sheets;
+    WindowMessages* messages;
+};
+
+/// The commands of the list of outputs: new, duplicate, rename, delete, move, copy from another
+/// project, and files of all outputs. The list in the pane follows the editor. No command changes
+/// the project file.
+class OutputCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The parts are not owned and must outlive the object.
+    explicit OutputCommands(const OutputParts& parts);
+
+    /// Shows the outputs of the editor in the pane.
+    void showList();
+
+private:
+    void choose(int output);
+    void add();
+    void duplicate();
+    void rename(const QString& name);
+    void remove();
+    void move(int distance);
+    void copyFromProject();
+    void copyFrom(const QString& path);
+
+    OutputParts m_parts;
+};
+
+} // namespace workbench

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace workbench {
+
+class OpenProject;
+class OutputEditor;
+class SheetPreview;
+class WindowMessages;
+
+/// Saves the scripts or the sheets of all outputs, each in a file with the name of the output. An
+/// output without plots has no file.
+class OutputFiles
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::OutputFiles)
+
+public:
+    /// The arguments are not owned.
+    OutputFiles(const OpenProject* project, OutputEditor* editor, WindowMessages* messages,
+                SheetPreview* sheets);
+
+    /// Saves the scripts, either all of them or none.
+    void saveScripts();
+    /// Saves the sheets as PDF files.
+    void exportSheets();
+
+private:
+    QStringList choosePaths(const QString& title, const QString& suffix);
+    QStringList scripts();
+    bool exportFile(int output, const QString& path);
+    void say(const QStringList& paths);
+
+    const OpenProject* m_project;
+    OutputEditor* m_editor;
+    WindowMessages* m_messages;
+    SheetPreview* m_sheets;
+};
+
+} // namespace workbench

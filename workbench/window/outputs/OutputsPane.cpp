@@ -1,0 +1,199 @@
+#include "window/outputs/OutputsPane.h"
+
+#include "sheet/actionButton.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+namespace {
+constexpr int FewestRows = 2;
+constexpr int MostRows = 6;
+
+/// A list that is as high as its rows.
+class ShortList : public QListWidget
+{
+public:
+    using QListWidget::QListWidget;
+
+    QSize sizeHint() const override
+    {
+        const int row = qMax(fontMetrics().height(), sizeHintForRow(0));
+        return {QListWidget::sizeHint().width(),
+                qBound(FewestRows, count(), MostRows) * row + 2 * frameWidth()};
+    }
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+};
+
+QToolButton* newButton(QAction* action, const char* name, QWidget* parent)
+{
+    QToolButton* button = actionButton(action, parent);
+    button->setObjectName(QLatin1String(name));
+    return button;
+}
+} // namespace
+
+OutputsPane::OutputsPane(QWidget* parent)
+    : QWidget(parent)
+    , menu(new QMenu(this))
+    , newOutput(add("NewOutput", Qt::CTRL + Qt::SHIFT + Qt::Key_N))
+    , duplicate(add("DuplicateOutput"))
+    , rename(add("RenameOutput"))
+    , remove(add("DeleteOutput"))
+    , moveUp(add("MoveOutputUp"))
+    , moveDown(add("MoveOutputDown"))
+    , previous(add("PreviousOutput", Qt::CTRL + Qt::Key_PageUp))
+    , next(add("NextOutput", Qt::CTRL + Qt::Key_PageDown))
+    , copyFrom(add("CopyOutputs"))
+    , saveAll(add("SaveAllScripts"))
+    , exportAll(add("ExportAllSheets"))
+    , m_list(new ShortList(this))
+    , m_more(new QToolButton(this))
+    , m_note(new QLabel(this))
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // leaves the room to the script
+    m_list->setObjectName(QStringLiteral("OutputList"));
+    m_list->setEditTriggers(QAbstractItemView::DoubleClicked);
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_more->setObjectName(QStringLiteral("MoreOutputActions"));
+    m_more->setMenu(menu);
+    m_more->setPopupMode(QToolButton::InstantPopup);
+    m_more->setFocusPolicy(Qt::StrongFocus);
+    m_note->setObjectName(QStringLiteral("AbsentPlots"));
+    m_note->setWordWrap(true);
+    m_note->hide();
+    addToList(rename, Qt::Key_F2);
+    addToList(remove, QKeySequence::Delete);
+    addToList(moveUp, Qt::ALT + Qt::Key_Up);
+    addToList(moveDown, Qt::ALT + Qt::Key_Down);
+    menu->insertSeparator(previous);
+    menu->insertSeparator(copyFrom);
+    menu->insertSeparator(saveAll);
+    layOut();
+    listen();
+    setTexts();
+}
+
+QAction* OutputsPane::add(const char* name, const QKeySequence& shortcut)
+{
+    QAction* action = menu->addAction(QString());
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(shortcut);
+    return action;
+}
+
+/// Adds a shortcut that works only in the list.
+void OutputsPane::addToList(QAction* action, const QKeySequence& shortcut)
+{
+    action->setShortcut(shortcut);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    m_list->addAction(action);
+}
+
+void OutputsPane::layOut()
+{
+    QToolButton* first = newButton(newOutput, "NewOutputButton", this);
+    QToolButton* second = newButton(duplicate, "DuplicateOutputButton", this);
+    auto head = new QHBoxLayout;
+    head->addWidget(first);
+    head->addWidget(second);
+    head->addStretch();
+    head->addWidget(m_more);
+    auto layout = new QVBoxLayout(this);
+    layout->addLayout(head);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(m_note);
+    setTabOrder(first, second);
+    setTabOrder(second, m_more);
+    setTabOrder(m_more, m_list);
+}
+
+void OutputsPane::listen()
+{
+    connect(rename, &QAction::triggered, this, &OutputsPane::editName);
+    // Another output is shown after the list has handled its events.
+    connect(m_list, &QListWidget::currentRowChanged, this, &OutputsPane::chosen,
+            Qt::QueuedConnection);
+    connect(m_list, &QListWidget::itemChanged, this,
+            [this](const QListWidgetItem* item) { Q_EMIT renamed(item->text()); });
+    connect(m_list, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& place) { menu->popup(m_list->viewport()->mapToGlobal(place)); });
+    const auto step = [this](int distance) {
+        const int count = m_list->count();
+        if (count > 1)
+            m_list->setCurrentRow((m_list->currentRow() + distance + count) % count);
+    };
+    connect(previous, &QAction::triggered, this, [step] { step(-1); });
+    connect(next, &QAction::triggered, this, [step] { step(1); });
+}
+
+void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
+{
+    const QSignalBlocker blocker(m_list);
+    while (m_list->count() > outputs.size())
+        delete m_list->takeItem(m_list->count() - 1);
+    for (int i = 0; i < outputs.size(); ++i) {
+        if (i == m_list->count())
+            m_list->addItem(QString());
+        QListWidgetItem* item = m_list->item(i);
+        QFont font = m_list->font();
+        font.setItalic(outputs[i].isChanged);
+        item->setText(outputs[i].name);
+        item->setFont(font);
+        item->setToolTip(outputs[i].isChanged ? tr("Not yet saved in the project") : QString());
+        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable);
+    }
+    m_list->setCurrentRow(current);
+    m_list->updateGeometry();
+    for (QAction* action : menu->actions())
+        action->setEnabled(!outputs.isEmpty());
+    const int last = outputs.size() - 1;
+    for (QAction* action : {remove, previous, next})
+        action->setEnabled(last > 0);
+    moveUp->setEnabled(current > 0);
+    moveDown->setEnabled(current < last);
+}
+
+void OutputsPane::setAbsentPlots(int count)
+{
+    m_note->setText(tr("Chosen plots that this model cannot have: %1. They are kept.").arg(count));
+    m_note->setVisible(count > 0);
+}
+
+void OutputsPane::editName()
+{
+    if (m_list->currentItem() && m_list->isVisible()) {
+        m_list->setFocus();
+        m_list->editItem(m_list->currentItem());
+    }
+}
+
+void OutputsPane::setTexts()
+{
+    m_list->setAccessibleName(tr("Outputs"));
+    menu->setTitle(tr("&Outputs"));
+    m_more->setText(tr("More"));
+    newOutput->setText(tr("&New Output"));
+    newOutput->setIconText(tr("New"));
+    newOutput->setToolTip(tr("Adds an output without plots, with the settings of the current one"));
+    duplicate->setText(tr("&Duplicate"));
+    duplicate->setToolTip(tr("Adds a copy of the current output"));
+    rename->setText(tr("&Rename"));
+    remove->setText(tr("D&elete"));
+    moveUp->setText(tr("Move &Up"));
+    moveDown->setText(tr("Move Do&wn"));
+    previous->setText(tr("&Previous"));
+    next->setText(tr("Ne&xt"));
+    copyFrom->setText(tr("Copy &from Project..."));
+    saveAll->setText(tr("&Save All Scripts..."));
+    exportAll->setText(tr("Expor&t All Sheets..."));
+}
+
+} // namespace workbench

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QListWidget;
+class QMenu;
+class QToolButton;
+
+namespace workbench {
+
+/// The list of a project's outputs, with actions to edit it. The pane only shows the list; it does
+/// not change it. OutputCommands carries out the actions.
+class OutputsPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// An output in the list.
+    struct Row
+    {
+        QString name;
+        bool isChanged;
+    };
+
+    explicit OutputsPane(QWidget* parent);
+
+    void setTexts();
+    /// Shows the outputs. Without outputs, all actions are disabled.
+    void setOutputs(const QVector<Row>& outputs, int current);
+    /// Shows how many chosen plots of the current output are not offered.
+    void setAbsentPlots(int count);
+    /// Opens the editor for the name of the current output, if the list is visible.
+    void editName();
+
+    /// The menu with all actions.
+    QMenu* const menu;
+    // These actions are in the order of the menu.
+    QAction* const newOutput;
+    QAction* const duplicate;
+    QAction* const rename;
+    QAction* const remove;
+    QAction* const moveUp;
+    QAction* const moveDown;
+    QAction* const previous;
+    QAction* const next;
+    QAction* const copyFrom;
+    QAction* const saveAll;
+    QAction* const exportAll;
+
+Q_SIGNALS:
+    /// Emitted when the user chooses another output.
+    void chosen(int index);
+    /// Emitted when the user has entered a name for the current output.
+    void renamed(const QString& name);
+
+private:
+    QAction* add(const char* name, const QKeySequence& shortcut = {});
+    void addToList(QAction* action, const QKeySequence& shortcut);
+    void layOut();
+    void listen();
+
+    QListWidget* m_list;
+    QToolButton* m_more;
+    QLabel* m_note;
+};
+
+} // namespace workbench
