@@ -16,8 +16,10 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTranslator>
+#include <QVBoxLayout>
 
 using namespace testsupport;
 
@@ -51,6 +53,19 @@ class tst_widgets : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// A dialog may grow while it is open, for example when it shows a row with more fields.
+    void growingDialogStaysOnScreen()
+    {
+        VKD_QT_Dialog dialog;
+        auto layout = new QVBoxLayout(&dialog);
+        dialog.show();
+        const QRect area = dialog.screen()->availableGeometry();
+        dialog.move(area.bottomRight() - QPoint(dialog.width(), dialog.height()));
+        for (int row = 0; row < 10; ++row)
+            layout->addWidget(new QLineEdit);
+        QTRY_VERIFY(dialog.height() > 200 && area.contains(dialog.frameGeometry()));
+    }
+
     void dialogReopens()
     {
         VKD_QT_Dialog dialog;

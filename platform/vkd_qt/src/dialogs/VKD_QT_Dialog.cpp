@@ -1,5 +1,6 @@
 #include "VKD_QT_Dialog.h"
 
+#include "dialogs/KeepOnScreen.h"
 #include "VKD_QT_InputField.h"
 
 #include <QPointer>
@@ -12,6 +13,7 @@ VKD_QT_Dialog::VKD_QT_Dialog(QWidget* parent, const char* name, Qt::WindowFlags 
 {
     setObjectName(QLatin1String(name));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    new KeepOnScreen(this);
 }
 
 void VKD_QT_Dialog::callDone(int result)
