@@ -212,7 +212,11 @@ private Q_SLOTS:
         };
         const QString shown = edit(2, [](QWidget& dialog) {
             find<QLineEdit>(dialog, "hiuq")->setText(QStringLiteral("12"));
-            QTest::keyClick(find<QLineEdit>(dialog, "hio"), Qt::Key_Delete); // not set in any row
+            const auto hio = find<QLineEdit>(dialog, "hio");
+            QTest::keyClicks(hio, QStringLiteral("7"));
+            QCOMPARE(hio->text(), QStringLiteral("7"));
+            QTest::keyClick(hio, Qt::Key_Backspace);
+            QTest::keyClick(hio, Qt::Key_Delete); // not set in any row
         });
         QCOMPARE(shown, QStringLiteral("Rows 1-3: groups 1, 2 and remaining groups|rio 0.0|riu 0.0|"
                                        "hio several|hiu 35.0|hioq several|hiuq 10.0"));

@@ -374,6 +374,18 @@ private Q_SLOTS:
         }
     }
 
+    /// After the ten hues, there are ten light and ten dark colours.
+    void distinctColours()
+    {
+        for (int i = 0; i < 10; ++i) {
+            const auto lightness = [i](int round) {
+                return AnimatorView::distinctColour(i + 10 * round).lightness();
+            };
+            QVERIFY(lightness(1) > lightness(0) && lightness(2) < lightness(0));
+            QCOMPARE(lightness(3), lightness(0));
+        }
+    }
+
 private:
     void takeCamera(const QString& text)
     {

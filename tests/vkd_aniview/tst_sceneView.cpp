@@ -318,6 +318,27 @@ private Q_SLOTS:
         }
     }
 
+    /// A spring to the ground is drawn below its node.
+    void springs()
+    {
+        for (bool hasPlate : {false, true}) {
+            Model model = squares();
+            model.springs += {{1, 1, {1, 0}, 1.0}, {2, 1, {1, 5}, 1.0}};
+            if (hasPlate)
+                model.quads.push_back({1, 1, {1, 2, 3, 4}, 0.2});
+            const ModelGeometry geometry = buildGeometry(model);
+            QCOMPARE(int(geometry.lines.size()), 2);
+            const double rises[] = {hasPlate ? -2.0 : -0.5, 3.0};
+            for (size_t i = 0; i < 2; ++i) {
+                const Line& line = geometry.lines[i];
+                QCOMPARE(line.kind, i == 0 ? LineKind::GroundSpring : LineKind::Spring);
+                const float rise =
+                    geometry.z[size_t(line.points[1])] - geometry.z[size_t(line.points[0])];
+                QVERIFY(std::abs(geometry.unit * double(rise) - rises[i]) < 1e-5);
+            }
+        }
+    }
+
     /// Outlines are strong only at the rim of a plate, at folds and between groups.
     void strongEdges()
     {

@@ -307,6 +307,7 @@ private Q_SLOTS:
             const Driver driver(&dialog);
             QVERIFY(driver.find<QWidget>("empty") && !driver.view());
             QVERIFY(!driver.find<QPushButton>("pick")->isEnabled());
+            dialog.show();
             dialog.accept();
             QCOMPARE(dialog.result(), 1);
         }
