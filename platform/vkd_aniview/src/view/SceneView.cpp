@@ -33,9 +33,10 @@ void SceneView::findHidden()
     m_isHidden.clear();
     if (m_hiddenGroups.empty())
         return;
-    for (int group : m_geometry->groups)
-        m_isHidden.push_back(std::find(m_hiddenGroups.begin(), m_hiddenGroups.end(), group) !=
-                             m_hiddenGroups.end());
+    for (int group : m_geometry->groups) {
+        const auto found = std::find(m_hiddenGroups.begin(), m_hiddenGroups.end(), group);
+        m_isHidden.push_back(found != m_hiddenGroups.end() ? 1 : 0);
+    }
 }
 
 void SceneView::setCamera(const Camera& camera)
