@@ -14,10 +14,10 @@
 namespace workbench {
 
 namespace {
-constexpr int FewestRows = 2;
-constexpr int MostRows = 6;
+constexpr int ShownRows = 4;
 
-/// A list that is as high as its rows.
+/// A list that shows a few rows. Its height is fixed, so that the panes below it do not move when
+/// outputs are added.
 class ShortList : public QListWidget
 {
 public:
@@ -26,8 +26,7 @@ public:
     QSize sizeHint() const override
     {
         const int row = qMax(fontMetrics().height(), sizeHintForRow(0));
-        return {QListWidget::sizeHint().width(),
-                qBound(FewestRows, count(), MostRows) * row + 2 * frameWidth()};
+        return {QListWidget::sizeHint().width(), ShownRows * row + 2 * frameWidth()};
     }
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 };
@@ -151,7 +150,6 @@ void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
         item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable);
     }
     m_list->setCurrentRow(current);
-    m_list->updateGeometry();
     for (QAction* action : menu->actions())
         action->setEnabled(!outputs.isEmpty());
     const int last = outputs.size() - 1;
