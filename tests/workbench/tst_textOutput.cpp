@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -317,6 +318,38 @@ private Q_SLOTS:
         QCOMPARE(changes.size(), filter == QLatin1String("8") ? 0 : 1);
         choose(desk.dialog, LoadCaseBox, QStringLiteral("All"));
         QVERIFY(!bar->isEnabled());
+    }
+
+    /// Lists without load cases are left out. The exported file contains the same text.
+    void tableOfContents()
+    {
+        const auto window = open("contents.zob");
+        trigger(*window, "TextOutput");
+        const auto dialog = window->findChild<TextOutputDialog*>();
+        choose(*dialog, LoadCaseBox, QStringLiteral("Manually"));
+        find<PickTable>(*dialog, "TextLoadCases")->chooseAllBut({1, 2, 3, 4, 5});
+        find<PickTable>(*dialog, "TextCombinations")->chooseAllBut({101, 102});
+        const QString file = path("contents.txt");
+        const auto exported = [&] {
+            answerFileDialog(file);
+            find<QPushButton>(*dialog, "ExportContents")->click();
+            QFile text(file);
+            return text.open(QIODevice::ReadOnly) ? QString::fromUtf8(text.readAll()) : QString();
+        };
+        QCOMPARE(exported(), QStringLiteral("1  System\n"
+                                            "2  Loads\n"
+                                            "    2.1  6: Wind in X\n"
+                                            "    2.2  7: Wind in Y\n"
+                                            "3  Support reactions (Extreme values)\n"
+                                            "    3.1  6: Wind in X\n"
+                                            "    3.2  7: Wind in Y\n"
+                                            "    3.3  103: SLS, quasi-permanent\n"));
+        find<PickTable>(*dialog, "TextLoadCases")->chooseAllBut({1, 2, 3, 4, 5, 6, 7});
+        QVERIFY(!find<QPlainTextEdit>(*dialog, "TextContents")
+                     ->toPlainText()
+                     .contains(QLatin1String("Loads")));
+        choose(*dialog, ExtentBox, QStringLiteral("No text output"));
+        QVERIFY(!find<QPushButton>(*dialog, "CopyContents")->isEnabled());
     }
 
     void languages()

@@ -979,7 +979,42 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
     </message>
 </context>
 <context>
+    <name>workbench::ContentsPreview</name>
+    <message>
+        <source>Table of contents</source>
+        <translation>Inhaltsverzeichnis</translation>
+    </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Ko&amp;pieren</translation>
+    </message>
+    <message>
+        <source>Copies the table of contents as text</source>
+        <translation>Kopiert das Inhaltsverzeichnis als Text</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xportieren ...</translation>
+    </message>
+    <message>
+        <source>Saves the table of contents as a text file</source>
+        <translation>Speichert das Inhaltsverzeichnis als Textdatei</translation>
+    </message>
+    <message>
+        <source>Each list, and below it the load cases and combinations for which it is printed.</source>
+        <translation>Jede Liste und darunter die Lastfälle und Kombinationen, für die sie ausgegeben wird.</translation>
+    </message>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>Es wird nichts ausgegeben.</translation>
+    </message>
+</context>
+<context>
     <name>workbench::TextOutputDialog</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
     <message>
         <source>Text Output</source>
         <translation>Textausgabe</translation>
@@ -1594,6 +1629,22 @@ Soll sie gespeichert werden?</translation>
 </context>
 <context>
     <name>workbench::TextOutputEditor</name>
+    <message>
+        <source>Export Table of Contents</source>
+        <translation>Inhaltsverzeichnis exportieren</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt)</source>
+        <translation>Textdateien (*.txt)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The table of contents is saved in %1.</source>
+        <translation>Das Inhaltsverzeichnis ist in %1 gespeichert.</translation>
+    </message>
     <message>
         <source>The text output stays as it was.</source>
         <translation>Die Textausgabe bleibt, wie sie war.</translation>

@@ -9,6 +9,7 @@
 #include "window/output/OutputEditor.h"
 #include "window/script/ScriptPane.h"
 #include "window/support/chooseFileToSave.h"
+#include "window/support/saveTextFile.h"
 #include "window/support/SlowWork.h"
 #include "window/support/WindowMessages.h"
 #include "window/support/WindowSettings.h"
@@ -17,7 +18,6 @@
 #include <QClipboard>
 #include <QDir>
 #include <QMainWindow>
-#include <QSaveFile>
 
 namespace workbench {
 
@@ -112,11 +112,8 @@ void OutputScript::save()
                          QStringLiteral("dat"), m_project->path());
     if (path.isEmpty())
         return;
-    QSaveFile file(path);
-    const QByteArray bytes = script().toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return m_messages->complainOfWriting(path, file.errorString());
-    m_messages->say(tr("The script is saved in %1.").arg(QDir::toNativeSeparators(path)));
+    if (saveTextFile(path, script(), m_messages))
+        m_messages->say(tr("The script is saved in %1.").arg(QDir::toNativeSeparators(path)));
 }
 
 SheetPlan OutputScript::newSheetPlan()

@@ -85,6 +85,16 @@ QVector<int> PickTable::numbers() const
     return all;
 }
 
+QVector<vkd::dbo::LoadCase> PickTable::rowsOf(const QVector<int>& chosen) const
+{
+    const QSet<int> wanted(chosen.begin(), chosen.end());
+    QVector<vkd::dbo::LoadCase> rows;
+    for (int row = 0; row < rowCount(); ++row)
+        if (wanted.contains(numberInRow(row)))
+            rows.append({numberInRow(row), titleInRow(row)});
+    return rows;
+}
+
 QVector<int> PickTable::picked() const
 {
     const QSet<int> left = leftOut();

@@ -22,6 +22,8 @@ public:
     PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, const char* name);
 
     QVector<int> numbers() const;
+    /// Returns the rows with these numbers, in the order of the table.
+    QVector<vkd::dbo::LoadCase> rowsOf(const QVector<int>& numbers) const;
     /// Returns the numbers of the load cases or combinations in the individual choice.
     QVector<int> picked() const;
     /// Returns the numbers of the load cases or combinations that are not in the individual choice.

@@ -1,11 +1,13 @@
 #include "window/textoutput/TextOutputDialog.h"
 
 #include "project/numberTexts.h"
+#include "project/textContents.h"
 #include "window/choice/ChoiceBar.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
 #include "window/textoutput/CombinationTable.h"
+#include "window/textoutput/ContentsPreview.h"
 
 #include <VKD_QT_Ok.h>
 #include <VKD_QT_Widgets.h>
@@ -50,10 +52,17 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
 {
     setWindowTitle(tr("Text Output"));
     setHelpTopic(this, "TEXT/OUTPUT");
-    new QVBoxLayout(this);
+    auto columns = new QHBoxLayout;
+    (new QVBoxLayout(this))->addLayout(columns);
+    columns->addLayout(m_boxes = new QVBoxLayout);
     addExtent();
     addLoadCases(project);
     addCombinations(project);
+    m_contents = new ContentsPreview(this);
+    setHelpTopic(m_contents, "TEXT/CONTENTS");
+    columns->addWidget(m_contents);
+    connect(m_contents, &ContentsPreview::exportRequested, this,
+            &TextOutputDialog::exportRequested);
     addOkRow();
     setState(TextOutputState::read(project, ExtentFields::DefaultLists));
     m_saved = state();
@@ -69,7 +78,7 @@ QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& expla
     auto hint = new QLabel(explanation, box);
     hint->setWordWrap(true);
     column->addWidget(hint);
-    layout()->addWidget(box);
+    m_boxes->addWidget(box);
     return column;
 }
 
@@ -235,6 +244,7 @@ void TextOutputDialog::showChoice()
     m_extentResult->setText(extentText());
     m_loadCaseResult->setText(loadCaseText());
     m_combinationResult->setText(combinationText());
+    m_contents->setContents(textContents(printedLists()));
     Q_EMIT choiceChanged();
 }
 
@@ -280,6 +290,31 @@ QVector<int> TextOutputDialog::printedCombinations() const
     const Group::ButtonID kind = m_combinations->getSelectedId();
     return kind == Group::Manually ? m_combinationTable->picked()
                                    : m_combinationTable->numbersOf(kind);
+}
+
+/// Loads have load cases, and results also have combinations.
+QVector<PrintedList> TextOutputDialog::printedLists() const
+{
+    const auto [chosen, allValues] = printedExtent();
+    const QVector<vkd::dbo::LoadCase> loads = m_loadCaseTable->rowsOf(printedLoadCases());
+    const QVector<vkd::dbo::LoadCase> results =
+        loads + m_combinationTable->rowsOf(printedCombinations());
+    QVector<PrintedList> lists;
+    for (int list = 1; list <= chosen; list *= 2) {
+        const bool isResult = list & ExtentFields::ResultLists;
+        const QVector<vkd::dbo::LoadCase> cases = isResult ? results
+                                                  : list == ExtentFields::Loads
+                                                      ? loads
+                                                      : QVector<vkd::dbo::LoadCase>();
+        const bool isPrinted =
+            (chosen & list) && (list == ExtentFields::System || !cases.isEmpty());
+        const QString name = ExtentFields::listNames(list);
+        if (isPrinted)
+            lists.append(
+                {isResult ? tr("%1 (%2)").arg(name, ExtentFields::valuesName(allValues)) : name,
+                 cases});
+    }
+    return lists;
 }
 
 QString TextOutputDialog::extentText() const

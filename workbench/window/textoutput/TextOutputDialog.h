@@ -16,7 +16,9 @@ namespace workbench {
 
 class ChoiceBar;
 class CombinationTable;
+class ContentsPreview;
 class PickTable;
+struct PrintedList;
 
 /// The modeless dialog for the lists, load cases and combinations of the text output of a project.
 /// For each of the three, it has a radio group of the library, a widget for an individual choice
@@ -38,6 +40,8 @@ public:
 
 Q_SIGNALS:
     void choiceChanged();
+    /// Emitted when the user wants to save the table of contents.
+    void exportRequested(const QString& contents);
 
 private:
     QVBoxLayout* addBox(const QString& title, const QString& explanation);
@@ -54,6 +58,7 @@ private:
     ExtentFields::Choice printedExtent() const;
     QVector<int> printedLoadCases() const;
     QVector<int> printedCombinations() const;
+    QVector<PrintedList> printedLists() const;
     QString extentText() const;
     QString loadCaseText() const;
     QString combinationText() const;
@@ -62,6 +67,8 @@ private:
     VKD_P_RadioGroup m_loadCases;
     std::unique_ptr<VKD_P_RadioGroup> m_combinations;
     std::list<VKD_P_RadioGroup::ButtonID> m_kinds; ///< the kinds that m_combinations offers
+    QVBoxLayout* m_boxes = nullptr;
+    ContentsPreview* m_contents = nullptr;
     QWidget* m_kindRow = nullptr;
     ExtentFields* m_fields = nullptr;
     ChoiceBar* m_loadCaseBar = nullptr;

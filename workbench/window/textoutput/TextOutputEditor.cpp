@@ -1,9 +1,13 @@
 #include "window/textoutput/TextOutputEditor.h"
 
+#include "project/OpenProject.h"
+#include "window/support/chooseFileToSave.h"
 #include "window/support/ProjectAccess.h"
+#include "window/support/saveTextFile.h"
 #include "window/support/WindowMessages.h"
 #include "window/textoutput/TextOutputDialog.h"
 
+#include <QDir>
 #include <QMainWindow>
 
 namespace workbench {
@@ -47,6 +51,8 @@ void TextOutputEditor::create()
     m_dialog = std::make_unique<TextOutputDialog>(m_project->handle(), m_messages->window());
     m_dialog->addActions(m_actions);
     connect(m_dialog.get(), &TextOutputDialog::choiceChanged, this, &TextOutputEditor::modified);
+    connect(m_dialog.get(), &TextOutputDialog::exportRequested, this,
+            &TextOutputEditor::exportContents);
     connect(m_dialog.get(), &QDialog::accepted, this, [this] {
         if (store())
             closeLater();
@@ -57,6 +63,18 @@ void TextOutputEditor::create()
         closeLater();
         m_messages->say(tr("The text output stays as it was."));
     });
+}
+
+void TextOutputEditor::exportContents(const QString& contents)
+{
+    const QString path = chooseFileToSave(
+        m_dialog.get(), tr("Export Table of Contents"),
+        QDir(m_project->folder()).filePath(m_project->name() + QLatin1String(".txt")),
+        tr("Text files (*.txt)") + QLatin1String(";;") + tr("All files (*)"), QStringLiteral("txt"),
+        m_project->path());
+    if (!path.isEmpty() && saveTextFile(path, contents, m_messages))
+        m_messages->say(
+            tr("The table of contents is saved in %1.").arg(QDir::toNativeSeparators(path)));
 }
 
 /// Destroys the dialog later, because it may be closing at the moment.

@@ -55,6 +55,7 @@ private:
     void create();
     void reload();
     void closeLater();
+    void exportContents(const QString& contents);
 
     OpenProject* m_project;
     ProjectAccess* m_access;

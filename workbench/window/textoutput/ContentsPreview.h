@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QGroupBox>
+
+class QPlainTextEdit;
+class QPushButton;
+
+namespace workbench {
+
+/// The table of contents of the text output, with buttons that copy and export it.
+class ContentsPreview : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit ContentsPreview(QWidget* parent);
+
+    /// Shows a text. An empty text disables the buttons.
+    void setContents(const QString& text);
+
+    /// Returns a size that is smaller than the text, so that the dialog fits on a small screen.
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void exportRequested(const QString& text);
+
+private:
+    QPushButton* newButton(const char* name, const QString& text, const QString& toolTip);
+
+    QString m_contents;
+    QPlainTextEdit* m_text;
+    QPushButton* m_copy;
+    QPushButton* m_export;
+};
+
+} // namespace workbench
