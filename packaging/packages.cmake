@@ -1,8 +1,7 @@
 # Debian packages, made by packaging/makePackages with the preset `package`. The licence is the
 # decision of the owner of this project, so its text is read from the file LICENSE.
 set(license ${PROJECT_SOURCE_DIR}/LICENSE)
-set(PLIB_MAINTAINER "plib developers <plib@users.noreply.plib.org>" CACHE STRING
-    "Maintainer in the Debian packages")
+set(PLIB_MAINTAINER "" CACHE STRING "Maintainer of the Debian packages, with a mail address")
 
 set(library libplib${PROJECT_VERSION_MAJOR})
 set(CPACK_GENERATOR DEB)
