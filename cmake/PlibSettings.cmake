@@ -9,6 +9,7 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON) # the programs do not contain the path of the build folder
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
@@ -140,6 +141,12 @@ function(vkd_install_package package)
     install(FILES ${config} ${version} DESTINATION ${folder} COMPONENT development)
 endfunction()
 
+function(vkd_set_platform_link_options name)
+    set(map ${PROJECT_SOURCE_DIR}/cmake/platform.map)
+    target_link_options(${name} PRIVATE LINKER:-z,nodelete LINKER:--version-script=${map})
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map})
+endfunction()
+
 # vkd_add_platform_library(<name> SOURCES ... [CORE ...]) adds a library of the platform, with a
 # generated <name>_export.h. It is shared, because the store, the settings and the text service must
 # exist only once in a process. It is never unloaded, for two reasons: Qt keeps references to its
@@ -155,14 +162,14 @@ function(vkd_add_platform_library name)
     generate_export_header(${name} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h)
     target_include_directories(${name} PRIVATE src)
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
-    target_link_options(${name} PRIVATE LINKER:-z,nodelete)
+    vkd_set_platform_link_options(${name})
     vkd_install_library(${name} vkd_platform)
     if(arg_CORE)
         add_library(${name}_core SHARED ${arg_CORE})
         target_compile_definitions(${name}_core PRIVATE ${name}_EXPORTS)
         target_include_directories(${name}_core PRIVATE src)
         target_link_libraries(${name}_core PUBLIC ${arg_CORE_PUBLIC} PRIVATE ${arg_CORE_PRIVATE})
-        target_link_options(${name}_core PRIVATE LINKER:-z,nodelete)
+        vkd_set_platform_link_options(${name}_core)
         vkd_install_target(${name}_core vkd_platform ${name})
         target_link_libraries(${name} PUBLIC ${name}_core)
     endif()
@@ -183,7 +190,7 @@ function(vkd_add_translations target)
     set(list ${CMAKE_CURRENT_BINARY_DIR}/${module}_translations.qrc)
     file(CONFIGURE OUTPUT ${list} CONTENT
         "<RCC><qresource prefix=\"/translations\"><file>${module}_de.qm</file></qresource></RCC>\n")
-    qt5_add_resources(resources ${list})
+    qt5_add_resources(resources ${list} OPTIONS --format-version 1) # without times of files
     set(translator ${CMAKE_CURRENT_BINARY_DIR}/${module}_translator.cpp)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in ${translator} @ONLY)
     target_sources(${target} PRIVATE ${translator} ${resources})
