@@ -1,7 +1,9 @@
 // The output dialog and the script of the window with many load cases: clicking, checking all
 // plots, excluding load cases, and opening the dialog. The peers are filling a text document with
-// the same script, generating the script, and the same work with fewer load cases.
+// the same script, generating the script, and the same work with fewer load cases. The memory of a
+// click is the memory that is still in use afterwards.
 
+#include "memory.h"
 #include "plotModel.h"
 #include "RatioReporter.h"
 
@@ -18,8 +20,6 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTreeWidget>
-
-#include <malloc.h>
 
 namespace {
 using workbench::OutputDialog;
@@ -50,12 +50,6 @@ VKD_H_ZOBDoc* project(int loadCases)
     if (!document)
         document = newProject(folder, loadCases);
     return document.get();
-}
-
-size_t usedBytes()
-{
-    const auto info = mallinfo2();
-    return info.uordblks + info.hblkhd;
 }
 
 /// A dialog with the script of its selection next to it, as in the window.
@@ -109,17 +103,32 @@ void toggle(QTreeWidgetItem* item)
     item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
+void clickOn(QTreeWidgetItem* row, Output& output, benchmark::State& state)
+{
+    toggle(row);
+    output.finish(); // the first click reserves memory
+    const double before = heapInUse();
+    for (auto _ : state) {
+        toggle(row);
+        output.finish();
+    }
+    state.counters["bytes"] = heapInUse() - before;
+}
+
 /// Measures the time from a click on a load case of a plot until the script and its view have been
 /// updated.
 void click(benchmark::State& state)
 {
     Output output(Clicked);
     output.setAll(Qt::Checked);
-    QTreeWidgetItem* row = output.firstRow();
-    for (auto _ : state) {
-        toggle(row);
-        output.finish();
-    }
+    clickOn(output.firstRow(), output, state);
+}
+
+/// Does the same with more load cases and the proposed plots.
+void clickProposed(benchmark::State& state)
+{
+    Output output(Many);
+    clickOn(output.firstRow(), output, state);
 }
 
 void fillDocument(benchmark::State& state)
@@ -142,8 +151,10 @@ void checkAll(benchmark::State& state)
     for (auto _ : state) {
         state.PauseTiming();
         output.setAll(Qt::Unchecked);
+        const double before = heapInUse();
         state.ResumeTiming();
         output.setAll(Qt::Checked);
+        state.counters["bytes"] = heapInUse() - before;
     }
 }
 
@@ -151,6 +162,17 @@ void makeScript(benchmark::State& state)
 {
     Output output(Few);
     output.setAll(Qt::Checked);
+    for (auto _ : state) {
+        const double before = heapInUse();
+        const QString script = output.dialog.script(vkd::Language::English);
+        state.counters["bytes"] = heapInUse() - before;
+        benchmark::DoNotOptimize(script.size());
+    }
+}
+
+void makeProposedScript(benchmark::State& state)
+{
+    Output output(Many);
     for (auto _ : state)
         benchmark::DoNotOptimize(output.dialog.script(vkd::Language::English));
 }
@@ -161,19 +183,21 @@ void offerLoadCase(benchmark::State& state)
     Output output(int(state.range(0)));
     QTableWidgetItem* box = output.dialog.findChild<workbench::LoadCaseTable*>()->item(
         0, workbench::LoadCaseTable::CheckColumn);
+    const double before = heapInUse();
     for (auto _ : state) {
         box->setCheckState(box->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
         output.finish();
     }
+    state.counters["bytes"] = heapInUse() - before;
 }
 
 void openDialog(benchmark::State& state)
 {
     project(int(state.range(0)));
     for (auto _ : state) {
-        const size_t before = usedBytes();
+        const double before = heapInUse();
         const Output output(int(state.range(0)));
-        state.counters["bytes"] = double(usedBytes() - before);
+        state.counters["bytes"] = heapInUse() - before;
     }
 }
 
@@ -183,9 +207,9 @@ void viewMemory(benchmark::State& state)
     const QString text = QStringLiteral("LC 12345 DESI 12345\nBEAM MY\n").repeated(120000);
     for (auto _ : state) {
         workbench::ScriptView view;
-        const size_t before = usedBytes();
+        const double before = heapInUse();
         view.setLines(TextLines(text + QLatin1Char('\n')), {});
-        state.counters["bytes"] = double(usedBytes() - before);
+        state.counters["bytes"] = heapInUse() - before;
     }
 }
 
@@ -193,14 +217,16 @@ void textMemory(benchmark::State& state)
 {
     const QString text = QStringLiteral("LC 12345 DESI 12345\nBEAM MY\n").repeated(120000);
     for (auto _ : state) {
-        const size_t before = usedBytes();
+        const double before = heapInUse();
         const QString copy = text + QLatin1Char('\n');
-        state.counters["bytes"] = double(usedBytes() - before);
+        state.counters["bytes"] = heapInUse() - before;
         benchmark::DoNotOptimize(copy.size());
     }
 }
 
 BENCHMARK(click)->Unit(benchmark::kMillisecond);
+BENCHMARK(clickProposed)->Unit(benchmark::kMillisecond);
+BENCHMARK(makeProposedScript)->Unit(benchmark::kMillisecond);
 BENCHMARK(fillDocument)->Unit(benchmark::kMillisecond);
 BENCHMARK(checkAll)->Unit(benchmark::kMillisecond);
 BENCHMARK(makeScript)->Unit(benchmark::kMillisecond);
@@ -220,9 +246,13 @@ int main(int argc, char* argv[])
     return runBenchmarks(
         argc, argv,
         {{"click", "fillDocument", 0.1, "fills a text document with the same script"},
+         {"click", "", 1.0, "megabytes that remain in use", Figure::Memory},
+         {"clickProposed", "makeProposedScript", 4.0, "makes the script of the proposed plots"},
          {"checkAll", "makeScript", 3.0, "makes the script of all plots"},
+         {"checkAll", "makeScript", 1.5, "is the memory of this script", Figure::Memory},
          {"offerLoadCase/10000", "offerLoadCase/1000", 1.4, "the same with 1000 load cases",
           Figure::TimePerItem},
+         {"offerLoadCase/10000", "", 1.0, "megabytes that remain in use", Figure::Memory},
          {"openDialog/10000", "openDialog/1000", 1.4, "the same with 1000 load cases",
           Figure::TimePerItem},
          {"openDialog/10000", "openDialog/1000", 10.5, "the same with a tenth of the load cases",
