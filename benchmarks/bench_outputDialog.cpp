@@ -10,6 +10,7 @@
 #include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
+#include <VKD_P_WidgetGraphicalOutput_Script.h>
 #include <window/output/LoadCaseTable.h>
 #include <window/output/OutputDialog.h>
 #include <window/script/lineChanges.h>
@@ -90,10 +91,22 @@ public:
     workbench::ScriptView view;
 
 private:
+    /// Marks the lines of the last caption, which take longest to find.
+    void markPlot()
+    {
+        QTreeWidgetItem* item = tree->topLevelItem(tree->topLevelItemCount() - 1);
+        QVector<int> found;
+        QMetaObject::invokeMethod(dialog.findChild<QObject*>(QLatin1String(
+                                      vkd::plib::widgetgraphicaloutput::ScriptObject)),
+                                  "linesOfItem", Q_RETURN_ARG(QVector<int>, found),
+                                  Q_ARG(QTreeWidgetItem*, item));
+        view.setPlot(found.value(0), found.value(1));
+    }
     void follow()
     {
         const TextLines lines(dialog.script(vkd::Language::English));
         view.setLines(lines, workbench::lineChanges(view.lines(), lines));
+        markPlot();
         benchmark::DoNotOptimize(dialog.isChanged());
     }
 };

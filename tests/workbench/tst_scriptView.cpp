@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(view->selectedText(), QStringLiteral(" four\nf"));
     }
 
-    /// The first changed line is visible. Without changed lines, the view does not scroll.
+    /// The first change is visible, even if lines were only removed.
     void placeAfterChanges()
     {
         QString text = QStringLiteral("line\n").repeated(100000);
@@ -145,12 +145,68 @@ private Q_SLOTS:
             view->setLines(lines, lineChanges(view->lines(), lines));
             return view->verticalScrollBar()->value();
         };
-        QCOMPARE(change(70000, ""), 100);
-        const QImage unmarked = view->viewport()->grab().toImage();
-        QVERIFY(change(50000, "LINE\n") > 49900);
+        QVERIFY(change(70000, "LINE\n") > 69900);
+        const QImage added = view->viewport()->grab().toImage();
+        const int top = change(70000, "");
+        QVERIFY(top > 69900 && top <= 70000);
+        QCOMPARE(view->marks().removedBefore(70000), 1);
+        QVERIFY(!view->marks().isChanged(70000));
+        const QImage removed = view->viewport()->grab().toImage();
+        view->setLines(view->lines(), {});
+        view->verticalScrollBar()->setValue(top);
+        QVERIFY(view->viewport()->grab().toImage() != removed && added != removed);
+        QCOMPARE(change(50000, "LINE\n"), 50000);
         QVERIFY(view->viewport()->rect().contains(view->cursorRect(250000)));
-        QVERIFY(view->viewport()->grab().toImage() != unmarked);
         QCOMPARE(view->cursorPosition(), 250000);
+    }
+
+    /// Each line is visible once, at its place, and its characters are found there.
+    void wrapping()
+    {
+        const QString text = (QStringLiteral("short\n%1\n\n%2 ")
+                                  .arg(QString(300, QLatin1Char('x')),
+                                       QStringLiteral("words and words ").repeated(20)))
+                                 .repeated(8);
+        const std::unique_ptr<ScriptView> view = shown(text, 300);
+        QVERIFY(view->horizontalScrollBar()->maximum() > 0);
+        view->setWrapped(true);
+        QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
+        for (int position : {0, 150, text.size() / 2, 310, text.size()}) {
+            view->select(position, position);
+            const QRect cursor = view->cursorRect(position);
+            QVERIFY(view->viewport()->rect().contains(cursor));
+            QCOMPARE(view->positionAt(cursor.center()), position);
+            QCOMPARE(view->lineNear(cursor.center().y()), view->lines().lineAt(position));
+        }
+        int next = 0;
+        for (const auto& place : view->visiblePlaces()) {
+            QVERIFY(next == 0 || place.top == next);
+            next = place.top + place.height;
+        }
+        QCOMPARE(view->visiblePlaces().last().line, view->lines().count() - 1);
+        QVERIFY(next <= view->viewport()->height());
+        view->selectAll();
+        QCOMPARE(view->selectedText(), text);
+    }
+
+    void clicks()
+    {
+        const std::unique_ptr<ScriptView> view = shown("one two\nthree four\nfive", 400);
+        const QSignalSpy chosen(view.get(), &ScriptView::lineChosen);
+        const QPoint second = view->cursorRect(10).center();
+        QTest::mousePress(view->viewport(), Qt::LeftButton, {}, view->cursorRect(2).center());
+        QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, second);
+        QCOMPARE(chosen.size(), 0); // text was selected
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->cursorRect(15).center());
+        QTest::keyClick(view.get(), Qt::Key_Down);
+        QTest::keyClick(view.get(), Qt::Key_Return);
+        QTest::mouseClick(view->findChild<QWidget*>(QStringLiteral("ScriptGutter")), Qt::LeftButton,
+                          {}, QPoint(3, second.y()));
+        QStringList lines;
+        for (const QVariantList& arguments : chosen)
+            lines << arguments.first().toString();
+        QCOMPARE(lines.join(QLatin1Char(' ')), QStringLiteral("1 2 1"));
+        QCOMPARE(view->selectedText(), QStringLiteral("three four"));
     }
 
     void screenReader()

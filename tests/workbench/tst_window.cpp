@@ -1,5 +1,8 @@
 #include "ProjectTest.h"
+#include "sheet/SheetView.h"
 #include "window/output/CameraRollback.h"
+#include "window/script/ScriptPane.h"
+#include "window/script/ScriptView.h"
 
 #include <AnimatorView.h>
 
@@ -13,10 +16,12 @@
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QTreeWidget>
 
 using namespace windowtest;
 using workbench::MainWindow;
+using workbench::ScriptView;
 
 namespace {
 /// Returns the output of the command line for a project.
@@ -112,6 +117,68 @@ private Q_SLOTS:
             QCOMPARE(script(*window), isSaved ? chosen : proposed);
         }
         QCOMPARE(script(*reopen("saved.zob")), chosen);
+    }
+
+    /// A click on a line of the script shows its plot, and the lines of the current plot are
+    /// marked.
+    void linesAndPlots()
+    {
+        const auto window = open("building.zob");
+        const auto view = find<ScriptView>(*window, "ScriptText");
+        const auto tree = openOutput(*window)->findChild<QTreeWidget*>();
+        QTreeWidgetItem* loads = tree->topLevelItem(1);
+        loads->setCheckState(0, Qt::Checked);
+        QTRY_VERIFY(script(*window).contains(QLatin1String("\nLC 2 DESI 2\n")));
+        const int line =
+            view->lines().lineAt(script(*window).indexOf(QLatin1String("LC 2 DESI 2")));
+        trigger(*window, "SheetPreviewAction");
+        view->chooseLine(line);
+        QCOMPARE(tree->currentItem()->text(0).left(3), QStringLiteral("2 :"));
+        QVERIFY(view->marks().isOfPlot(line) && view->marks().isOfPlot(line + 1));
+        QVERIFY(!view->marks().isOfPlot(line - 1) && !view->marks().isOfPlot(line + 2));
+        const auto sheets = window->findChild<workbench::SheetView*>();
+        const workbench::SheetPlan& plan = sheets->plan();
+        QVERIFY(sheets->page() > 0);
+        QCOMPARE(plan.pictures[plan.firstPicture(sheets->page())].loadCase, 2);
+        tree->setCurrentItem(tree->topLevelItem(0));
+        QVERIFY(!view->marks().isOfPlot(line));
+        loads->setCheckState(0, Qt::Unchecked);
+        QTRY_VERIFY(!script(*window).contains(QLatin1String("\nLC 2 DESI 2\n")));
+        QVERIFY(view->marks().isOfPlot(view->marks().firstOfPlot));
+    }
+
+    /// The search follows a new script, and the check knows the load cases and both languages.
+    void findAndCheck()
+    {
+        const auto window = open("building.zob");
+        const auto view = find<ScriptView>(*window, "ScriptText");
+        const auto check = find<QToolButton>(*window, "CheckMark");
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_F, Qt::ControlModifier);
+        const auto words = find<QLineEdit>(*window, "FindWords");
+        QTest::keyClicks(words, QStringLiteral("node"));
+        const int hits = view->marks().hits.size();
+        QCOMPARE(view->selectedText(), QStringLiteral("NODE"));
+        QCOMPARE(find<QLabel>(*window, "FindCount")->text(),
+                 QStringLiteral("Hit 1 of %1").arg(hits));
+        QTest::keyClick(words, Qt::Key_Return, Qt::ShiftModifier);
+        QCOMPARE(find<QLabel>(*window, "FindCount")->text(),
+                 QStringLiteral("Hit %1 of %1").arg(hits));
+        QTRY_COMPARE(check->text(), QStringLiteral("Check: no findings"));
+        changeChoice(*window);
+        QTRY_VERIFY(view->marks().hits.size() < hits);
+        find<QComboBox>(*window, "KeywordLanguage")->setCurrentIndex(0);
+        QVERIFY(check->text().isEmpty());
+        QTRY_COMPARE(check->text(), QStringLiteral("Check: no findings"));
+        window->findChild<workbench::ScriptPane*>()->setScript(
+            script(*window).replace(QLatin1String("LAST"), QLatin1String("LOAD")));
+        QTRY_VERIFY(check->text().startsWith(QLatin1String("Check: findings: ")));
+        check->click();
+        QCOMPARE(view->selectedText(), QStringLiteral("LOAD"));
+        QVERIFY(
+            check->text().endsWith(QLatin1String("\"LOAD\" is a keyword of the other language")));
+        QTest::keyClick(words, Qt::Key_Escape);
+        QVERIFY(view->marks().hits.isEmpty() && window->focusWidget() == view);
     }
 
     void commandLineTakesTheChoice_data()
@@ -229,7 +296,8 @@ private Q_SLOTS:
         find<QAction>(*dialog, "findPlots")->trigger(); // from another tab
         QCOMPARE(tabs->currentIndex(), 0);
         const auto edit = find<QMenu>(*window, "EditMenu");
-        QVERIFY(edit->menuAction()->isEnabled() && edit->actions().contains(find<QAction>(*dialog, "undo")));
+        QVERIFY(edit->menuAction()->isEnabled() &&
+                edit->actions().contains(find<QAction>(*dialog, "undo")));
         find<QLineEdit>(*dialog, "searchWords")->setText(QStringLiteral("displ"));
         find<QAction>(*dialog, "findNextPlot")->trigger();
         const QString hit = find<QLabel>(*dialog, "searchCount")->text();

@@ -85,8 +85,7 @@ bool ScriptCheck::checkFrame(const ScriptToken& first)
 {
     const bool isProgram = text(first) == QLatin1String("PROG");
     // The language of the title line is a setting of its own.
-    const bool isTitle =
-        text(first) == QLatin1String("KOPF") || text(first) == QLatin1String("HEAD");
+    const bool isTitle = isTitleStatement(text(first));
     const bool isEnd = is(first, "ENDE", "END");
     const bool isSetup = text(first) == QLatin1String("SIZE");
     m_isFrame = isProgram || isTitle || isEnd || isSetup;

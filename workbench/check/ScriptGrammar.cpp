@@ -66,6 +66,17 @@ const QSet<QString>* ScriptGrammar::definition(QStringView name) const
     return found == m_definitions.end() ? nullptr : &*found;
 }
 
+bool isTitleStatement(QStringView keyword)
+{
+    return keyword == QLatin1String("KOPF") || keyword == QLatin1String("HEAD");
+}
+
+bool isFrameStatement(QStringView keyword)
+{
+    return isTitleStatement(keyword) || keyword == QLatin1String("PROG") ||
+           keyword == QLatin1String("ENDE") || keyword == QLatin1String("END");
+}
+
 ScriptDefinition scriptDefinition(QStringView line)
 {
     const QLatin1String begin("#define ");

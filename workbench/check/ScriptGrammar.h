@@ -43,6 +43,12 @@ private:
     QHash<QString, QSet<QString>> m_definitions;
 };
 
+/// Returns whether a statement begins the title line of a program block, which contains any text.
+bool isTitleStatement(QStringView keyword);
+/// Returns whether a statement belongs to the beginning or the end of a program block, which is not
+/// part of a grammar.
+bool isFrameStatement(QStringView keyword);
+
 /// A line "#define NAME=VALUE".
 struct ScriptDefinition
 {

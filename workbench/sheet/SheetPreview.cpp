@@ -57,6 +57,7 @@ SheetPreview::~SheetPreview() = default;
 void SheetPreview::setProject(ZobHandle project, const QString& name)
 {
     m_view->setPlan(SheetPlan(), nullptr);
+    m_picture = -1;
     m_models = std::make_unique<ModelImages>(project);
     m_painter = std::make_unique<SheetPainter>(m_models.get(), name);
     showPage();
@@ -65,7 +66,23 @@ void SheetPreview::setProject(ZobHandle project, const QString& name)
 void SheetPreview::setPlan(const SheetPlan& plan)
 {
     m_view->setPlan(plan, m_painter.get());
+    turnToPicture();
     showPage();
+}
+
+void SheetPreview::showPicture(int picture)
+{
+    m_picture = picture;
+    if (isVisible())
+        turnToPicture();
+}
+
+void SheetPreview::turnToPicture()
+{
+    const SheetPlan& plan = m_view->plan();
+    if (m_picture >= 0 && m_picture < plan.pictures.size())
+        m_view->setPage(m_picture / plan.picturesPerPage());
+    m_picture = -1;
 }
 
 void SheetPreview::changeEvent(QEvent* event)

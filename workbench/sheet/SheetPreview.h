@@ -34,6 +34,9 @@ public:
     /// is empty until setPlan() is called.
     void setProject(ZobHandle project, const QString& name);
     void setPlan(const SheetPlan& plan);
+    /// Turns to the page of a picture, counted from 0. If the preview is hidden, it turns to the
+    /// page when it receives the next plan.
+    void showPicture(int picture);
     /// Returns the painter of the project's sheets; the preview owns it.
     SheetPainter& painter() { return *m_painter; }
 
@@ -45,6 +48,7 @@ private:
     void layOut();
     void setTexts();
     void showPage();
+    void turnToPicture();
     void zoom(int entry);
 
     std::unique_ptr<ModelImages> m_models;
@@ -57,6 +61,7 @@ private:
     VKD_QT4_ComboBox* m_zoom;
     QToolButton* m_export;
     SheetView* m_view;
+    int m_picture = -1; // the picture that showPicture() has still to show
 };
 
 } // namespace workbench

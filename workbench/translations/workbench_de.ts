@@ -966,6 +966,38 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <source>No plot is chosen. Choose plots in Graphical Output.</source>
         <translation>Es ist keine Grafik gewählt. Grafiken werden in der grafischen Ausgabe gewählt.</translation>
     </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Suchen ...</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Finds words in the script (Ctrl+F)</source>
+        <translation>Sucht Wörter im Skript (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Wrap Lines</source>
+        <translation>&amp;Zeilen umbrechen</translation>
+    </message>
+    <message>
+        <source>Wrap</source>
+        <translation>Umbruch</translation>
+    </message>
+    <message>
+        <source>Wraps long lines at the width of the panel</source>
+        <translation>Bricht lange Zeilen an der Breite des Bereichs um</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ScriptView</name>
@@ -1927,6 +1959,71 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
     <message>
         <source>the program block has no end</source>
         <translation>der Programmblock hat kein Ende</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ScriptGutter</name>
+    <message>
+        <source>Lines removed here: %1</source>
+        <translation>Hier entfernte Zeilen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FindBar</name>
+    <message>
+        <source>Words to find in the script</source>
+        <translation>Im Skript gesuchte Wörter</translation>
+    </message>
+    <message>
+        <source>Find in the script</source>
+        <translation>Im Skript suchen</translation>
+    </message>
+    <message>
+        <source>Previous hit (Shift+F3)</source>
+        <translation>Voriger Treffer (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next hit (F3)</source>
+        <translation>Nächster Treffer (F3)</translation>
+    </message>
+    <message>
+        <source>End the search (Esc)</source>
+        <translation>Suche beenden (Esc)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>Hit %1 of %2</source>
+        <translation>Treffer %1 von %2</translation>
+    </message>
+    <message>
+        <source>Hits: %1</source>
+        <translation>Treffer: %1</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CheckMark</name>
+    <message>
+        <source>Check of the script</source>
+        <translation>Prüfung des Skripts</translation>
+    </message>
+    <message>
+        <source>Check: no findings</source>
+        <translation>Prüfung: keine Befunde</translation>
+    </message>
+    <message>
+        <source>Check: %1 of %2, %3</source>
+        <translation>Prüfung: %1 von %2, %3</translation>
+    </message>
+    <message>
+        <source>Check: findings: %1</source>
+        <translation>Prüfung: Befunde: %1</translation>
+    </message>
+    <message>
+        <source>Every line is one that the plots can make.</source>
+        <translation>Jede Zeile kann von den Grafiken stammen.</translation>
     </message>
 </context>
 </TS>

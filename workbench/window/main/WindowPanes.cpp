@@ -64,6 +64,7 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     addCentre();
     addDocks(actions);
     resizeDocks();
+    script->addToMenu({actions.output, actions.sheet});
     setHelpTopic(m_outputsDock, "GRAV/OUTPUTS");
     setHelpTopic(m_scriptDock, "GRAV/SCRIPT");
     setHelpTopic(m_sheetDock, "GRAV/SHEET");

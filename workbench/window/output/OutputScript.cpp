@@ -28,6 +28,7 @@ OutputScript::OutputScript(OpenProject* project, OutputEditor* output, WindowMes
     , m_messages(messages)
     , m_pane(pane)
     , m_sheets(sheets)
+    , m_plots(project, messages, pane, sheets)
 {
     m_pane->setKeywords(WindowSettings().keywords());
     connect(m_pane, &ScriptPane::keywordsChosen, this, &OutputScript::setKeywords);
@@ -55,6 +56,7 @@ void OutputScript::refresh()
         m_pane->setOtherScript(script);
     else
         m_pane->setScript(script);
+    m_plots.follow(dialog);
     Q_EMIT refreshed(script.isEmpty());
     refreshSheets();
 }
@@ -66,6 +68,7 @@ void OutputScript::showOther()
         return;
     const QString script = dialog->script(m_pane->keywords());
     m_pane->setOtherScript(script);
+    m_plots.follow(dialog);
     Q_EMIT refreshed(script.isEmpty());
     refreshSheets();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sheet/SheetPlanCache.h"
+#include "window/output/PlotLines.h"
 
 #include <vkd_language.h>
 
@@ -55,6 +56,7 @@ private:
     ScriptPane* m_pane;
     SheetPreview* m_sheets;
     SheetPlanCache m_plans;
+    PlotLines m_plots;
     bool m_areSheetsVisible = false;
 };
 

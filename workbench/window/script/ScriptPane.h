@@ -12,12 +12,15 @@ class QToolButton;
 
 namespace workbench {
 
+class CheckMark;
+struct CheckSource;
+class FindBar;
 struct LineChange;
 class ScriptView;
 class TextLines;
 
-/// Shows the script of the current selection; the lines of the last change have a coloured
-/// background.
+/// Shows the script of the current selection, with the lines of the last change, a search and the
+/// result of its check.
 class ScriptPane : public QWidget
 {
     Q_OBJECT
@@ -31,7 +34,16 @@ public:
     vkd::Language keywords() const;
     void setKeywords(vkd::Language language);
 
+    /// Sets the data against which the script is checked.
+    void setCheckSource(const CheckSource& source);
+    /// Adds actions of the window to the context menu of the script.
+    void addToMenu(const QList<QAction*>& actions);
+    /// Marks the lines of the current plot. If `reveals` is true, scrolls to them.
+    void setPlot(int firstLine, int lineCount, bool reveals);
+
     QString script() const;
+    /// Returns the lines of the script before this line.
+    QString textBefore(int line) const;
     /// Shows a script and marks the lines that differ from the previous script. Does nothing if the
     /// script is unchanged.
     void setScript(const QString& script);
@@ -40,11 +52,16 @@ public:
 
 Q_SIGNALS:
     void keywordsChosen(vkd::Language language);
+    /// Emitted if the user clicks a line, or presses Return in it.
+    void lineChosen(int line);
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QAction* newAction(const char* name, const QKeySequence& shortcut);
+    void connectFind();
+    void layOut();
     void setTexts();
     void show(const TextLines& lines, const QVector<LineChange>& changes);
 
@@ -54,6 +71,13 @@ private:
     QToolButton* m_copy;
     QToolButton* m_save;
     ScriptView* m_text;
+    FindBar* m_findBar;
+    CheckMark* m_check;
+
+    QAction* m_find;
+    QAction* m_next;
+    QAction* m_previous;
+    QAction* m_wrap;
 };
 
 } // namespace workbench

@@ -1,31 +1,33 @@
-// The part of the view that shows the script; scriptViewInput.cpp handles keyboard and mouse.
+// The part of the view that shows the script. scriptViewGeometry.cpp contains the places of the
+// lines, and scriptViewInput.cpp handles keyboard and mouse.
 
 #include "window/script/ScriptView.h"
 
+#include "window/script/ScriptGutter.h"
 #include "window/script/ScriptViewAccess.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QScrollBar>
-#include <QtMath>
-
-#include <algorithm>
 
 namespace workbench {
 
 namespace {
 constexpr int Margin = 4; // pixels
 constexpr int CursorWidth = 1;
+constexpr int RemovedHeight = 2;
 } // namespace
 
 ScriptView::ScriptView(QWidget* parent)
     : QAbstractScrollArea(parent)
+    , m_gutter(new ScriptGutter(this))
     , m_colours(palette())
 {
     setFocusPolicy(Qt::WheelFocus);
     viewport()->setCursor(Qt::IBeamCursor);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, m_gutter,
+            QOverload<>::of(&QWidget::update));
     ScriptViewAccess::install();
     measure();
 }
@@ -35,25 +37,56 @@ void ScriptView::setLines(const TextLines& lines, const QVector<LineChange>& cha
     const TextLines before = m_lines;
     const int place = verticalScrollBar()->value();
     m_lines = lines;
-    m_changes = changes;
+    m_marks = ScriptMarks();
+    m_marks.changes = changes;
     m_unit = nullptr;
     measure();
     verticalScrollBar()->setValue(place);
-    const auto come = std::find_if(changes.begin(), changes.end(),
-                                   [](const LineChange& change) { return change.come > 0; });
-    const int first = come != changes.end() ? lines.start(come->after) : 0;
-    m_cursor = placeAt(lines, first);
-    m_anchor = first;
-    if (come != changes.end())
-        scrollTo(first);
-    viewport()->update();
+    const int line = changes.isEmpty() ? 0 : qMin(changes.first().after, lines.count() - 1);
+    m_cursor = placeAt(lines, lines.start(line));
+    m_anchor = m_cursor.position;
+    if (!changes.isEmpty())
+        scrollTo(m_anchor);
+    updateAll();
     ScriptViewAccess::tellText(this, before, changes);
+}
+
+void ScriptView::setHits(const QVector<int>& hits, int length)
+{
+    m_marks.hits = hits;
+    m_marks.hitLength = length;
+    viewport()->update();
+}
+
+void ScriptView::setPlot(int firstLine, int lineCount)
+{
+    m_marks.firstOfPlot = firstLine;
+    m_marks.linesOfPlot = lineCount;
+    m_gutter->update();
+}
+
+void ScriptView::setFindings(const QVector<ScriptFinding>& findings)
+{
+    m_marks.findings = findings;
+    viewport()->update();
+}
+
+void ScriptView::setGrammar(const ScriptGrammar* grammar)
+{
+    m_grammar = grammar;
+    viewport()->update();
 }
 
 void ScriptView::setPlaceholderText(const QString& text)
 {
     m_placeholder = text;
     viewport()->update();
+}
+
+void ScriptView::updateAll()
+{
+    viewport()->update();
+    m_gutter->update();
 }
 
 TextRange ScriptView::selection() const
@@ -74,6 +107,12 @@ void ScriptView::select(int anchor, int cursor)
     setCursor(placeAt(m_lines, qBound(0, cursor, size)), true);
 }
 
+void ScriptView::chooseLine(int line)
+{
+    select(m_lines.end(line), m_lines.start(line));
+    Q_EMIT lineChosen(line);
+}
+
 void ScriptView::setCursor(const TextPlace& place, bool selects)
 {
     m_cursor = place;
@@ -83,23 +122,6 @@ void ScriptView::setCursor(const TextPlace& place, bool selects)
     showCursor();
     viewport()->update();
     ScriptViewAccess::tellSelection(this);
-}
-
-int ScriptView::positionAt(const QPoint& point) const
-{
-    const int line = lineNear(point.y());
-    QTextLayout layout;
-    layOut(layout, line);
-    return m_lines.start(line) + layout.lineAt(0).xToCursor(point.x() - placeOf(line).x());
-}
-
-QRect ScriptView::cursorRect(int position) const
-{
-    const int line = m_lines.lineAt(position);
-    QTextLayout layout;
-    layOut(layout, line);
-    const double x = layout.lineAt(0).cursorToX(position - m_lines.start(line));
-    return {placeOf(line) + QPoint(int(x), 0), QSize(CursorWidth, lineHeight())};
 }
 
 void ScriptView::copy() const
@@ -124,14 +146,8 @@ void ScriptView::changeEvent(QEvent* event)
         measure();
     if (event->type() == QEvent::PaletteChange) {
         m_colours = ScriptColours(palette());
-        viewport()->update();
+        updateAll();
     }
-}
-
-void ScriptView::resizeEvent(QResizeEvent* event)
-{
-    QAbstractScrollArea::resizeEvent(event);
-    fitScrollBars();
 }
 
 void ScriptView::paintEvent(QPaintEvent* event)
@@ -141,9 +157,9 @@ void ScriptView::paintEvent(QPaintEvent* event)
     painter.setPen(palette().color(QPalette::Text));
     if (m_lines.text().isEmpty())
         paintPlaceholder(painter);
-    const int last = lineNear(event->rect().bottom());
-    for (int line = lineNear(event->rect().top()); line <= last; ++line)
-        paintLine(painter, line);
+    for (const LinePlace& place : visiblePlaces())
+        if (place.top <= event->rect().bottom() && place.top + place.height > event->rect().top())
+            paintLine(painter, place);
 }
 
 void ScriptView::paintPlaceholder(QPainter& painter) const
@@ -155,105 +171,49 @@ void ScriptView::paintPlaceholder(QPainter& painter) const
     painter.restore();
 }
 
-void ScriptView::paintLine(QPainter& painter, int line) const
+void ScriptView::paintLine(QPainter& painter, const LinePlace& place) const
 {
-    const QPoint place = placeOf(line);
-    if (isChanged(line))
-        painter.fillRect(0, place.y(), viewport()->width(), lineHeight(), m_colours.changed());
+    const int width = viewport()->width();
+    if (m_marks.isChanged(place.line))
+        painter.fillRect(0, place.top, width, place.height, m_colours.changed());
+    if (m_marks.removedBefore(place.line) > 0)
+        painter.fillRect(0, place.top - RemovedHeight / 2, width, RemovedHeight,
+                         m_colours.removed());
     QTextLayout layout;
-    layOut(layout, line);
-    QVector<QTextLayout::FormatRange> selected;
+    layOut(layout, place.line, formatsOf(place.line));
+    const QPoint origin = placeOf(place.line);
+    layout.draw(&painter, origin, selectedIn(place.line));
+    if (m_isCursorLit && m_lines.lineAt(m_cursor.position) == place.line)
+        layout.drawCursor(&painter, origin, m_cursor.position - m_lines.start(place.line),
+                          CursorWidth);
+}
+
+/// Returns the formats of the words, the hits and the findings of a line.
+ScriptView::Formats ScriptView::formatsOf(int line) const
+{
+    Formats formats = m_colours.formats(m_lines.line(line).toString(), m_grammar);
+    const int start = m_lines.start(line);
+    const QVector<int>& hits = m_marks.hits;
+    for (int i = m_marks.hitAt(start); i < hits.size() && hits[i] < m_lines.end(line); ++i)
+        formats.append({hits[i] - start, m_marks.hitLength, m_colours.hit()});
+    const QVector<ScriptFinding>& findings = m_marks.findings;
+    for (int i = m_marks.findingAt(line); i < findings.size() && findings[i].line == line; ++i)
+        formats.append({findings[i].start, findings[i].length, m_colours.finding()});
+    return formats;
+}
+
+ScriptView::Formats ScriptView::selectedIn(int line) const
+{
     const TextRange range = selection();
     const int start = qMax(range.start, m_lines.start(line)) - m_lines.start(line);
     const int end = qMin(range.end, m_lines.end(line) + 1) - m_lines.start(line);
-    if (start < end) {
-        const auto group = hasFocus() ? QPalette::Active : QPalette::Inactive;
-        QTextCharFormat format;
-        format.setBackground(palette().brush(group, QPalette::Highlight));
-        format.setForeground(palette().brush(group, QPalette::HighlightedText));
-        selected.append({start, end - start, format});
-    }
-    layout.draw(&painter, place, selected);
-    if (m_isCursorLit && m_lines.lineAt(m_cursor.position) == line)
-        layout.drawCursor(&painter, place, m_cursor.position - m_lines.start(line), CursorWidth);
-}
-
-bool ScriptView::isChanged(int line) const
-{
-    const auto next = std::upper_bound(
-        m_changes.begin(), m_changes.end(), line,
-        [](int number, const LineChange& change) { return number < change.after; });
-    if (next == m_changes.begin())
-        return false;
-    const LineChange& last = *std::prev(next);
-    return line < last.after + last.come;
-}
-
-int ScriptView::visibleLines() const
-{
-    return qMax(1, (viewport()->height() - 2 * Margin) / lineHeight());
-}
-
-int ScriptView::lineNear(int y) const
-{
-    const int line = verticalScrollBar()->value() + (y - Margin) / lineHeight();
-    return qBound(0, line, m_lines.count() - 1);
-}
-
-QPoint ScriptView::placeOf(int line) const
-{
-    return {Margin - horizontalScrollBar()->value(),
-            Margin + (line - verticalScrollBar()->value()) * lineHeight()};
-}
-
-void ScriptView::layOut(QTextLayout& layout, int line) const
-{
-    const QString text = m_lines.line(line).toString();
-    layout.setText(text);
-    layout.setFont(font());
-    layout.setFormats(m_colours.formats(text));
-    layout.setCacheEnabled(true);
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    layout.createLine();
-    layout.endLayout();
-}
-
-/// Measures the text. In a fixed-width font, the line with the most characters is the widest line.
-void ScriptView::measure()
-{
-    const QString longest = m_lines.line(m_lines.longest()).toString();
-    m_textWidth = qCeil(QFontMetricsF(font()).horizontalAdvance(longest)) + CursorWidth;
-    fitScrollBars();
-    viewport()->update();
-}
-
-void ScriptView::fitScrollBars()
-{
-    QScrollBar* down = verticalScrollBar();
-    down->setPageStep(visibleLines());
-    down->setRange(0, qMax(0, m_lines.count() - visibleLines()));
-    QScrollBar* across = horizontalScrollBar();
-    across->setSingleStep(fontMetrics().averageCharWidth());
-    across->setPageStep(viewport()->width());
-    across->setRange(0, qMax(0, m_textWidth + 2 * Margin - viewport()->width()));
-}
-
-/// Scrolls no further than necessary.
-void ScriptView::scrollTo(int position)
-{
-    QScrollBar* down = verticalScrollBar();
-    const int line = m_lines.lineAt(position);
-    down->setValue(qBound(line - visibleLines() + 1, down->value(), line));
-    QScrollBar* across = horizontalScrollBar();
-    const int x = cursorRect(position).x();
-    const int right = viewport()->width() - Margin - CursorWidth;
-    if (x < Margin)
-        across->setValue(across->value() + x - Margin);
-    else if (x > right)
-        across->setValue(across->value() + x - right);
+    if (start >= end)
+        return {};
+    const auto group = hasFocus() ? QPalette::Active : QPalette::Inactive;
+    QTextCharFormat format;
+    format.setBackground(palette().brush(group, QPalette::Highlight));
+    format.setForeground(palette().brush(group, QPalette::HighlightedText));
+    return {{start, end - start, format}};
 }
 
 } // namespace workbench

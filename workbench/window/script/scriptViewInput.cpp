@@ -68,6 +68,8 @@ void ScriptView::keyPressEvent(QKeyEvent* event)
         copy();
     else if (event->matches(QKeySequence::SelectAll))
         selectAll();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT lineChosen(m_lines.lineAt(m_cursor.position));
     else if (event->key() == Qt::Key_Space)
         verticalScrollBar()->triggerAction(event->modifiers() & Qt::ShiftModifier
                                                ? QAbstractSlider::SliderPageStepSub
@@ -128,12 +130,15 @@ void ScriptView::mouseMoveEvent(QMouseEvent* event)
 void ScriptView::mouseReleaseEvent(QMouseEvent* event)
 {
     m_scrolling.stop();
+    const bool isClick = m_mayDrag || m_unit == characterAt;
     if (m_unit)
         extendSelection(event->pos());
     m_unit = nullptr;
     if (m_mayDrag)
         beginSelection(positionAt(event->pos()), nullptr);
     m_mayDrag = false;
+    if (isClick && m_anchor == m_cursor.position)
+        Q_EMIT lineChosen(m_lines.lineAt(m_anchor));
     QClipboard* clipboard = QApplication::clipboard();
     if (event->button() == Qt::LeftButton && clipboard->supportsSelection() &&
         m_anchor != m_cursor.position)
@@ -168,14 +173,21 @@ void ScriptView::dragSelection()
     drag->exec(Qt::CopyAction);
 }
 
+/// The menu of a line without a selection applies to this line.
 void ScriptView::contextMenuEvent(QContextMenuEvent* event)
 {
+    if (event->reason() == QContextMenuEvent::Mouse && m_anchor == m_cursor.position) {
+        setCursor(placeAt(m_lines, positionAt(event->pos())), false);
+        Q_EMIT lineChosen(m_lines.lineAt(m_anchor));
+    }
     QMenu menu(this);
     QAction* copying = menu.addAction(tr("&Copy"), this, &ScriptView::copy, QKeySequence::Copy);
     copying->setEnabled(m_anchor != m_cursor.position);
     QAction* selecting =
         menu.addAction(tr("Select &All"), this, &ScriptView::selectAll, QKeySequence::SelectAll);
     selecting->setEnabled(!m_lines.text().isEmpty());
+    menu.addSeparator();
+    menu.addActions(actions());
     menu.exec(event->globalPos());
 }
 

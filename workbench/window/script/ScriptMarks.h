@@ -1,0 +1,32 @@
+#pragma once
+
+#include "check/ScriptFinding.h"
+#include "window/script/lineChanges.h"
+
+namespace workbench {
+
+/// What a script view marks in addition to the selection.
+struct ScriptMarks
+{
+    QVector<LineChange> changes; ///< since the previous script, in ascending order
+    QVector<int> hits;           ///< positions of the words to find, in ascending order
+    int hitLength = 0;
+    int firstOfPlot = 0; ///< first line of the current plot
+    int linesOfPlot = 0;
+    QVector<ScriptFinding> findings; ///< in the order of the script
+
+    /// Returns whether a line is new.
+    bool isChanged(int line) const;
+    /// Returns the number of lines that were removed before a line and not replaced.
+    int removedBefore(int line) const;
+    bool isOfPlot(int line) const
+    {
+        return line >= firstOfPlot && line < firstOfPlot + linesOfPlot;
+    }
+    /// Returns the first hit that begins at this position or after it.
+    int hitAt(int position) const;
+    /// Returns the index of the first finding of this line or a later one.
+    int findingAt(int line) const;
+};
+
+} // namespace workbench
