@@ -126,6 +126,11 @@ private Q_SLOTS:
         find<QPushButton>(*table, "buttonGroups")->click();
         QVERIFY(banner->isVisible());
         QCOMPARE(pick(6), QStringLiteral("Groups: 4, 7. Without area elements: 7"));
+        const auto groups = find<QTreeWidget>(*window, "GroupList");
+        QTest::mouseClick(groups->viewport(), Qt::LeftButton, {},
+                          groups->visualItemRect(groups->topLevelItem(4)).center());
+        QCOMPARE(banner->findChildren<QLabel*>().last()->text(),
+                 QStringLiteral("Groups: 4, 5, 7. Without area elements: 7"));
         table->setCurrentCell(0, 0);
         QCOMPARE(pick(6), QStringLiteral("The groups of row 1 are fixed."));
         whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
@@ -184,6 +189,14 @@ private Q_SLOTS:
         choose(Isolate);
         Q_EMIT view->menuRequested(8, {});
         QVERIFY(view->grab().toImage() != withoutRoof);
+        groups->selectAll();
+        choose(Hide);
+        Q_EMIT groups->customContextMenuRequested({});
+        QImage nothing = view->grab().toImage(); // not even a support
+        nothing = nothing.copy(nothing.width() / 3, 9, nothing.width() / 2, nothing.height() - 18);
+        QImage blank = nothing;
+        blank.fill(nothing.pixel(9, 9));
+        QVERIFY(nothing == blank);
         find<QLineEdit>(*window, "GroupFilter")->setText(QStringLiteral("slab"));
         QVERIFY(groups->topLevelItem(0)->isHidden() && !groups->topLevelItem(1)->isHidden());
         trigger(*window, "Reload");

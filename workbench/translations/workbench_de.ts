@@ -473,6 +473,14 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Stellt die Auswahl der Grafiken aus der Projektdatei wieder her</translation>
     </message>
     <message>
+        <source>Choose “User defined” to turn the model.</source>
+        <translation>Zum Drehen des Modells „Benutzerdefiniert“ wählen.</translation>
+    </message>
+    <message>
+        <source>A landscape page has one picture.</source>
+        <translation>Eine Seite im Querformat hat ein Bild.</translation>
+    </message>
+    <message>
         <source>Plots</source>
         <translation>Grafiken</translation>
     </message>
@@ -1536,6 +1544,10 @@ Sollen sie gespeichert werden?</translation>
         <translation>Projekt öffnen</translation>
     </message>
     <message>
+        <source>Projects and models (*.zob *.json)</source>
+        <translation>Projekte und Modelle (*.zob *.json)</translation>
+    </message>
+    <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
@@ -1783,8 +1795,8 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Gruppen wäh&amp;len</translation>
     </message>
     <message>
-        <source>While this button is pressed, a click on a group in the view, or Enter in the list of groups, adds the group to the current row or removes it.</source>
-        <translation>Solange die Schaltfläche gedrückt ist, fügt ein Klick auf eine Gruppe in der Ansicht oder die Eingabetaste in der Liste die Gruppe der aktuellen Zeile hinzu oder entfernt sie.</translation>
+        <source>While this button is pressed, a click on a group in the view or in the list of groups, or Enter in the list, adds the group to the current row or removes it.</source>
+        <translation>Solange die Schaltfläche gedrückt ist, fügt ein Klick auf eine Gruppe in der Ansicht oder in der Liste oder die Eingabetaste in der Liste die Gruppe der aktuellen Zeile hinzu oder entfernt sie.</translation>
     </message>
     <message>
         <source>Group %1 is now in row %2, no longer in row %3.</source>

@@ -17,7 +17,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
+#include <utility>
 
 namespace workbench {
 
@@ -89,6 +89,7 @@ void RowsInView::pageChanged()
 
 void RowsInView::groupsChanged()
 {
+    m_marked.clear(); // the view may show another model
     m_widgets.banner->setGroupsWithoutAreas(m_widgets.groups->groupsWithoutAreas());
     readRows();
 }
@@ -98,8 +99,8 @@ void RowsInView::setTexts()
     m_colours->setTexts();
     m_pick->setText(tr("Pick &Groups"));
     m_pick->setToolTip(
-        tr("While this button is pressed, a click on a group in the view, or Enter in "
-           "the list of groups, adds the group to the current row or removes it."));
+        tr("While this button is pressed, a click on a group in the view or in the list "
+           "of groups, or Enter in the list, adds the group to the current row or removes it."));
 }
 
 void RowsInView::setPicking(bool isPicking)
@@ -169,11 +170,7 @@ void RowsInView::showSelected()
                 if (!m_rowOf.contains(group))
                     groups.insert(group);
     }
-    QSet<int> marked;
-    for (int group : groups)
-        marked.insert(group);
-    m_widgets.groups->setRowGroups(marked);
-    m_widgets.view->setSelectedGroups({groups.begin(), groups.end()});
+    mark(groups);
     std::vector<int> picked;
     if (changeableRow() > 0) {
         const QVector<int> all = page()->groups(currentRow());
@@ -181,6 +178,15 @@ void RowsInView::showSelected()
     }
     m_widgets.view->setPickedGroups(picked);
     m_widgets.banner->setPicked(currentRow(), picked);
+}
+
+/// Does nothing if these groups are already marked: a click on a row emits several signals.
+void RowsInView::mark(const std::set<int>& groups)
+{
+    if (std::exchange(m_marked, groups) == groups)
+        return;
+    m_widgets.groups->setRowGroups(QSet<int>(groups.begin(), groups.end()));
+    m_widgets.view->setSelectedGroups({groups.begin(), groups.end()});
 }
 
 void RowsInView::selectRowOf(int group)
@@ -202,7 +208,7 @@ void RowsInView::togglePicked(int group)
     if (!isPicking() || changeableRow() < 0)
         return;
     const bool isInRow = page()->groups(currentRow()).contains(group);
-    isInRow ? remove({group}) : add({group});
+    isInRow ? remove(currentRow(), {group}) : add(currentRow(), {group});
 }
 
 /// Assigns the picked groups of the view. Groups that the view does not contain stay in the row.
@@ -216,29 +222,25 @@ void RowsInView::takePicked()
             groups << group;
     for (int group : m_widgets.view->pickedGroups())
         groups << group;
-    setGroups(groups);
+    setGroups(currentRow(), groups);
 }
 
-void RowsInView::add(const QVector<int>& groups)
+void RowsInView::add(int row, const QVector<int>& groups)
 {
-    if (changeableRow() > 0)
-        setGroups(page()->groups(currentRow()) + groups);
+    setGroups(row, page()->groups(row) + groups);
 }
 
-void RowsInView::remove(const QVector<int>& groups)
+void RowsInView::remove(int row, const QVector<int>& groups)
 {
-    if (changeableRow() < 0)
-        return;
-    QVector<int> left = page()->groups(currentRow());
+    QVector<int> left = page()->groups(row);
     for (int group : groups)
         left.removeAll(group);
-    setGroups(left);
+    setGroups(row, left);
 }
 
 /// Reports groups that are removed from another row.
-void RowsInView::setGroups(const QVector<int>& groups)
+void RowsInView::setGroups(int row, const QVector<int>& groups)
 {
-    const int row = currentRow();
     const QVector<int> before = page()->groups(row);
     QVector<int> moved;
     std::copy_if(groups.begin(), groups.end(), std::back_inserter(moved), [&](int group) {

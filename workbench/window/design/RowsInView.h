@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QVector>
 
+#include <set>
 #include <vector>
 
 class AnimatorView;
@@ -47,10 +48,10 @@ public:
 
     /// Returns the current row, or -1 if there is none or if its groups cannot be changed.
     int changeableRow() const;
-    /// Adds groups to the current row and removes them from other rows, or removes them from the
-    /// current row.
-    void add(const QVector<int>& groups);
-    void remove(const QVector<int>& groups);
+    /// Adds groups to a row and removes them from other rows, or removes them from the row. The row
+    /// must be one whose groups can be changed.
+    void add(int row, const QVector<int>& groups);
+    void remove(int row, const QVector<int>& groups);
     /// Returns the row of a group, which may be the row for the remaining groups, or -1.
     int rowOf(int group) const;
     /// Makes the row of a group the current row.
@@ -67,7 +68,8 @@ private:
     void readRows();
     void showRows();
     void showSelected();
-    void setGroups(const QVector<int>& groups);
+    void mark(const std::set<int>& groups);
+    void setGroups(int row, const QVector<int>& groups);
     QVector<int> selectedRows() const;
 
     Widgets m_widgets;
@@ -76,6 +78,7 @@ private:
     RowColours* m_colours;
     QHash<int, int> m_rowOf; // the first row of each group
     int m_remainingRow = -1;
+    std::set<int> m_marked; // in the view and in the list
 };
 
 } // namespace workbench

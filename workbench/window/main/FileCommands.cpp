@@ -77,13 +77,11 @@ void FileCommands::newProject(const QString& model)
 
 void FileCommands::chooseProject()
 {
-    if (!mayLeave())
-        return;
     const QString path = QFileDialog::getOpenFileName(
         m_parts.messages->window(), tr("Open Project"), m_parts.project->folder(),
-        tr("Projects (*.zob)") + QLatin1String(";;") + tr("All files (*)"));
+        tr("Projects and models (*.zob *.json)") + QLatin1String(";;") + tr("All files (*)"));
     if (!path.isEmpty())
-        open(path);
+        openFile(path);
 }
 
 void FileCommands::leaveFor(const QString& path)
@@ -92,7 +90,7 @@ void FileCommands::leaveFor(const QString& path)
         open(path);
 }
 
-void FileCommands::openDropped(const QString& path)
+void FileCommands::openFile(const QString& path)
 {
     if (isModelFile(path))
         newProject(path);

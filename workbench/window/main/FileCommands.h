@@ -57,8 +57,8 @@ public:
     void openAfterPainting(const QString& path) { m_pathToOpen = path; }
     /// Must be called each time the window has been painted.
     void painted();
-    /// Opens a dropped project, or creates a project from a dropped model file.
-    void openDropped(const QString& path);
+    /// Opens a project file, or creates a project from a model file. Asks about unsaved changes.
+    void openFile(const QString& path);
     /// Stores the unsaved changes in the project.
     void save();
     /// Saves the project under another name and opens it. Returns whether the user chose a name and

@@ -6,6 +6,7 @@
 #include <vkd_dbo_groups.h>
 #include <vkd_h_groupContents.h>
 
+#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -53,8 +54,12 @@ GroupList::GroupList(QWidget* parent)
         if (current && !m_isQuiet)
             Q_EMIT groupSelected(groupOf(current));
     });
-    connect(this, &QTreeWidget::itemActivated, this,
-            [this](const QTreeWidgetItem* item) { Q_EMIT groupChosen(groupOf(item)); });
+    connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
+        if (QApplication::keyboardModifiers() == Qt::NoModifier) // does not extend the selection
+            Q_EMIT groupChosen(groupOf(item));
+    });
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch); // long titles are elided
     setTexts();
 }
 
@@ -177,6 +182,9 @@ void GroupList::keyPressEvent(QKeyEvent* event)
     const bool isPlain = !(event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
     const QScopedValueRollback<bool> quiet(m_isQuiet, !isPlain);
     QTreeWidget::keyPressEvent(event);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && isPlain && currentItem())
+        Q_EMIT groupChosen(groupOf(currentItem()));
 }
 
 void GroupList::mousePressEvent(QMouseEvent* event)
@@ -217,6 +225,7 @@ VkdStatus GroupList::fill()
         item->setData(NumberColumn, Qt::DisplayRole, group.number);
         item->setTextAlignment(NumberColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setText(TitleColumn, group.title);
+        item->setToolTip(TitleColumn, group.title);
         item->setText(ContentsColumn, vkd::h::groupContentsText(group.contents));
         item->setText(RowColumn, m_rows.value(group.number));
         item->setTextAlignment(RowColumn, Qt::AlignRight | Qt::AlignVCenter);

@@ -49,7 +49,7 @@ Q_SIGNALS:
     /// If there is none, it is the current group if the list has the focus, otherwise
     /// AnimatorView::NoGroup.
     void groupPointed(int group);
-    /// Emitted when the user activates a group with Enter or a double click.
+    /// Emitted after a plain click on a group, and on Enter for the current group.
     void groupChosen(int group);
     /// Emitted when the user makes another group the current group by a plain click or key, neither
     /// to open the menu nor to extend the selection.

@@ -59,9 +59,9 @@ void GroupMenu::addRowActions(QMenu* menu, const QVector<int>& groups)
                 &QAction::triggered, this, [this, groups] { m_rows->selectRowOf(groups.first()); });
     if (row > 0 && !groups.isEmpty()) {
         connect(menu->addAction(tr("A&dd to Row %1").arg(row + 1)), &QAction::triggered, this,
-                [this, groups] { m_rows->add(groups); });
+                [this, row, groups] { m_rows->add(row, groups); });
         connect(menu->addAction(tr("Re&move from Row %1").arg(row + 1)), &QAction::triggered, this,
-                [this, groups] { m_rows->remove(groups); });
+                [this, row, groups] { m_rows->remove(row, groups); });
     }
     menu->addSeparator();
 }

@@ -123,7 +123,7 @@ void MainWindow::connectPanes()
     connect(m_panes.get(), &WindowPanes::sheetsVisibleChanged, m_outputScript.get(),
             &OutputScript::setSheetsVisible);
     auto drop = new FileDrop(this, [] { return !QApplication::activeModalWidget(); });
-    connect(drop, &FileDrop::dropped, m_files.get(), &FileCommands::openDropped);
+    connect(drop, &FileDrop::dropped, m_files.get(), &FileCommands::openFile);
 }
 
 void MainWindow::connectProject()

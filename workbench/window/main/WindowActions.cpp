@@ -195,6 +195,7 @@ void WindowActions::addToolBar(QMainWindow* window)
 
 void WindowActions::setShortcuts()
 {
+    newFromFile->setShortcut(QKeySequence::New);
     open->setShortcut(QKeySequence::Open);
     reload->setShortcut(QKeySequence::Refresh);
     save->setShortcut(QKeySequence::Save);

@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QToolTip>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -182,15 +183,21 @@ void OutputDialog::listen()
     connect(plots, &QAbstractItemModel::rowsInserted, this, start);
     connect(m_offers, &OutputOffers::changed, this, start);
     m_view->installEventFilter(this);
+    const auto format = m_page->findChild<QWidget*>(QStringLiteral("PicturesGroup"));
+    if (format)
+        format->setToolTip(tr("A landscape page has one picture."));
 }
 
-/// A view does not emit a signal when its camera changes, so its input events are watched.
+/// A view does not emit a signal when its camera changes, so its input events are watched. A fixed
+/// view is disabled and ignores the mouse, so a hint shows how to turn it.
 bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
 {
     const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||
                          event->type() == QEvent::KeyRelease || event->type() == QEvent::Wheel;
     if (watched == m_view && mayTurn && showsUsersView())
         m_changes.start(0);
+    if (watched == m_view && event->type() == QEvent::MouseButtonPress && !showsUsersView())
+        QToolTip::showText(QCursor::pos(), tr("Choose “User defined” to turn the model."), m_view);
     return VKD_H_TabDialog::eventFilter(watched, event);
 }
 

@@ -1,6 +1,7 @@
 #include "window/records/RecordTableModel.h"
 
 #include <tagZOB_QUAD_RIM_Words.h>
+#include <vkd_dbo_packedNames.h>
 #include <vkd_h_units.h>
 #include <vkd_zob.h>
 #include <vkd_zob_keys.h>
@@ -16,6 +17,7 @@ using vkd::plib::designparameter::RecordWord;
 using vkd::plib::designparameter::RecordWords;
 using vkd::zob::keys::Design;
 
+constexpr int NotSet = -99999;
 constexpr int WordCount = std::size(RecordWords);
 
 bool isInteger(int row)
@@ -101,15 +103,21 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
     return {};
 }
 
-/// Nine significant digits distinguish all single-precision numbers.
+/// Nine significant digits distinguish all single-precision numbers. A value that is not set has no
+/// text. A secondary group is shown by its name.
 QString RecordTableModel::wordText(quint32 word, int row)
 {
-    if (isInteger(row))
-        return QString::number(qint32(word));
+    if (isInteger(row)) {
+        const auto number = qint32(word);
+        if (number == NotSet)
+            return QString();
+        return vkd::dbo::isSecondaryGroup(number) ? vkd::dbo::unpackedName(number).trimmed()
+                                                  : QString::number(number);
+    }
     float number = 0;
     static_assert(sizeof number == sizeof word);
     std::memcpy(&number, &word, sizeof number);
-    return QString::number(double(number), 'g', 9);
+    return number == float(NotSet) ? QString() : QString::number(double(number), 'g', 9);
 }
 
 quint32 RecordTableModel::word(int record, int row) const

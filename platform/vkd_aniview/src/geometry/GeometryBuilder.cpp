@@ -4,6 +4,8 @@
 #include "geometry/coarseGeometry.h"
 #include "geometry/faceedges.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -48,6 +50,7 @@ ModelGeometry GeometryBuilder::build()
     addSprings();
     addSupports();
     numberGroups();
+    findGroupsOfSupports();
     measure();
     scalePoints();
     completeFaces(m_geometry);
@@ -177,7 +180,29 @@ void GeometryBuilder::addSupports()
     for (const dbo::Boundary& support : m_model.supports) {
         const auto point = m_pointOfNode.constFind(support.node);
         if (point != m_pointOfNode.constEnd())
-            m_geometry.supports.push_back({*point, support.fixed});
+            m_geometry.supports.push_back({*point, support.fixed, {}});
+    }
+}
+
+void GeometryBuilder::findGroupsOfSupports()
+{
+    QHash<int, QSet<int>> groupsAt;
+    for (const Support& support : m_geometry.supports)
+        groupsAt[support.point];
+    const auto add = [&groupsAt](int point, int group) {
+        const auto groups = groupsAt.find(point);
+        if (groups != groupsAt.end())
+            groups->insert(group);
+    };
+    for (const Face& face : m_geometry.faces)
+        for (int i = 0; i < face.count; ++i)
+            add(face.points[i], face.group);
+    for (const Line& line : m_geometry.lines)
+        for (int point : line.points)
+            add(point, line.group);
+    for (Support& support : m_geometry.supports) {
+        const QSet<int>& groups = groupsAt[support.point];
+        support.groups.assign(groups.begin(), groups.end());
     }
 }
 

@@ -31,6 +31,7 @@ private:
     int wantedPieces(const Line& line) const;
     void addSprings();
     void addSupports();
+    void findGroupsOfSupports();
 
     double meanEdge() const;
     double lengthOf(int from, int to) const;

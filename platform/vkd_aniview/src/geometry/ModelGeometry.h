@@ -34,7 +34,8 @@ struct Line
 struct Support
 {
     int point = 0;
-    int fixed = 0; ///< the bits of dbo::Boundary
+    int fixed = 0;           ///< the bits of dbo::Boundary
+    std::vector<int> groups; ///< the groups of the elements at the point
 };
 
 /// The sort key of an item: a point and a distance. The item is sorted as if it were nearer to the

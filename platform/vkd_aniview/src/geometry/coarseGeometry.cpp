@@ -156,14 +156,14 @@ void CellMerger::addLines()
                 lines.end());
 }
 
-/// Adds one support per cell.
+/// Adds one support per cell, with the groups of the first.
 void CellMerger::addSupports()
 {
     for (const Support& support : m_fine.supports) {
         const auto known = int(m_coarse.x.size());
         const int point = pointOf(support.point, NoGroup);
         if (point == known)
-            m_coarse.supports.push_back({point, support.fixed});
+            m_coarse.supports.push_back({point, support.fixed, support.groups});
     }
 }
 

@@ -10,14 +10,18 @@ namespace aniview {
 namespace {
 constexpr int Steps = 1 << 16;
 
-/// Returns false for supports, which belong to no group.
+/// A support is hidden with the last visible group at its point.
 bool isInHiddenGroup(const ModelGeometry& geometry, size_t item, const std::vector<char>& isHidden)
 {
     const size_t faces = geometry.faces.size();
+    const size_t lines = geometry.lines.size();
     if (item < faces)
         return isHidden[size_t(geometry.faces[item].group)];
-    return item < faces + geometry.lines.size() &&
-           isHidden[size_t(geometry.lines[item - faces].group)];
+    if (item < faces + lines)
+        return isHidden[size_t(geometry.lines[item - faces].group)];
+    const std::vector<int>& groups = geometry.supports[item - faces - lines].groups;
+    return std::all_of(groups.begin(), groups.end(),
+                       [&isHidden](int group) { return isHidden[size_t(group)]; });
 }
 } // namespace
 
