@@ -58,8 +58,6 @@ GroupList::GroupList(QWidget* parent)
         if (QApplication::keyboardModifiers() == Qt::NoModifier) // does not extend the selection
             Q_EMIT groupChosen(groupOf(item));
     });
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch); // long titles are elided
     setTexts();
 }
 
@@ -93,6 +91,7 @@ void GroupList::setRows(const QHash<int, QString>* rows)
     for (auto it = m_items.cbegin(); it != m_items.cend(); ++it)
         it.value()->setText(RowColumn, m_rows.value(it.key()));
     resizeColumnToContents(RowColumn);
+    fitTitles();
 }
 
 void GroupList::setHiddenGroups(const QSet<int>& groups)
@@ -248,6 +247,25 @@ void GroupList::fitColumns()
 {
     for (int column = 0; column < columnCount(); ++column)
         resizeColumnToContents(column);
+    fitTitles();
+}
+
+/// Elides long titles rather than the contents, but not the header of their column.
+void GroupList::fitTitles()
+{
+    int others = qMax(sizeHintForColumn(ContentsColumn),
+                      header()->sectionSizeHint(ContentsColumn)); // the last column is stretched
+    for (int column : {NumberColumn, RowColumn})
+        others += columnWidth(column); // 0 if the column is hidden
+    const int least = header()->sectionSizeHint(TitleColumn);
+    const int wanted = qMax(least, sizeHintForColumn(TitleColumn));
+    setColumnWidth(TitleColumn, qBound(least, viewport()->width() - others, wanted));
+}
+
+void GroupList::resizeEvent(QResizeEvent* event)
+{
+    QTreeWidget::resizeEvent(event);
+    fitTitles();
 }
 
 /// While the list does not have the focus, no group is highlighted, so that the user sees the whole

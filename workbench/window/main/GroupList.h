@@ -61,6 +61,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
 private:
@@ -68,6 +69,7 @@ private:
     VkdStatus fill();
     void show(QTreeWidgetItem* item);
     void fitColumns();
+    void fitTitles();
     void pointAtCurrent();
     void pointAt(const QTreeWidgetItem* item);
 

@@ -8,10 +8,10 @@
 #include "window/main/FileCommands.h"
 #include "window/main/GroupList.h"
 #include "window/main/GroupMenu.h"
+#include "window/main/switchLanguage.h"
 #include "window/main/WindowActions.h"
 #include "window/main/WindowHelp.h"
 #include "window/main/WindowPanes.h"
-#include "window/output/EditedOutputs.h"
 #include "window/output/OutputEditor.h"
 #include "window/output/OutputScript.h"
 #include "window/outputs/OutputCommands.h"
@@ -19,13 +19,11 @@
 #include "window/support/FileDrop.h"
 #include "window/support/PageDock.h"
 #include "window/support/SlowWork.h"
-#include "window/support/WindowSettings.h"
 #include "window/support/withinScreen.h"
 #include "window/textoutput/TextOutputEditor.h"
 
 #include <AnimatorView.h>
 #include <vkd_dbo_model.h>
-#include <VKD_QT_InitTranslator.h>
 
 #include <QAction>
 #include <QApplication>
@@ -283,24 +281,14 @@ void MainWindow::showModified()
         m_panes->news->setRowsCurrent();
 }
 
-/// Dialogs translate their strings only when they are created, so open dialogs are replaced.
 void MainWindow::setLanguage(vkd::Language language)
 {
     if (vkd::desktopLanguage() == language)
         return;
     if (m_project.isOpen() && !m_access.canRead()) // its data would be reloaded
         return m_actions->setTexts();
-    const auto rows = m_designEditor->state();
-    const auto before = m_outputEditor->present();
-    m_outputEditor->close();
-    vkd::setDesktopLanguage(language);
-    VKD_QT_InitTranslator::languageChanged();
-    WindowSettings().setLanguage(language);
-    m_textOutputEditor->recreate();
-    if (rows)
-        m_designEditor->restore(*rows);
-    if (before)
-        m_outputEditor->recreate(*before);
+    switchLanguage(language,
+                   {m_designEditor.get(), m_outputEditor.get(), m_textOutputEditor.get()});
     m_outputScript->refresh();
     m_messages.say(tr("The language is now English."));
 }

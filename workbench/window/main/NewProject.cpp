@@ -52,8 +52,8 @@ bool NewProject::make(const QString& path, const QString& model) const
     bool goesOn = true;
     {
         SlowWork work(window, tr("The project is being made."), 100);
-        trouble = m_make(unfinished, model,
-                         [&](int percent) { return goesOn = work.goOn(percent); });
+        trouble =
+            m_make(unfinished, model, [&](int percent) { return goesOn = work.goOn(percent); });
     }
     if (goesOn && !trouble.isEmpty()) {
         m_messages->complain(

@@ -17,8 +17,8 @@ public:
     bool exist() const;
     /// Stores the changes in the project. Returns false if one of them could not be stored.
     bool store() const;
-    /// Asks separately for each part whether its changes are to be stored. Returns false if the user
-    /// cancels or storing fails.
+    /// Asks separately for each part whether its changes are to be stored. Returns false if the
+    /// user cancels or storing fails.
     bool mayLeave() const;
 
 private:

@@ -21,7 +21,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QToolTip>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -70,6 +69,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     , m_view(new AnimatorView(document->handle(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
     , m_plots(m_page->findChild<QTreeWidget*>())
+    , m_viewHint(m_view->toolTip())
     , m_offers(new OutputOffers(document->handle(), m_page, m_view))
 {
     setWindowFlags(Qt::Widget);
@@ -189,15 +189,16 @@ void OutputDialog::listen()
 }
 
 /// A view does not emit a signal when its camera changes, so its input events are watched. A fixed
-/// view is disabled and ignores the mouse, so a hint shows how to turn it.
+/// view is disabled and ignores the mouse, so its tooltip explains how to turn it.
 bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
 {
     const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||
                          event->type() == QEvent::KeyRelease || event->type() == QEvent::Wheel;
     if (watched == m_view && mayTurn && showsUsersView())
         m_changes.start(0);
-    if (watched == m_view && event->type() == QEvent::MouseButtonPress && !showsUsersView())
-        QToolTip::showText(QCursor::pos(), tr("Choose “User defined” to turn the model."), m_view);
+    if (watched == m_view && event->type() == QEvent::EnabledChange)
+        m_view->setToolTip(m_view->isEnabled() ? m_viewHint
+                                               : tr("Choose “User defined” to turn the model."));
     return VKD_H_TabDialog::eventFilter(watched, event);
 }
 
