@@ -50,7 +50,7 @@ void DesignParameter::slot_openGroups()
         dialog.getChecked(confirmed);
         takeGroups(row, confirmed);
     } else if (result == VKD_H_SelGRP_Dialog::PickOutside && data->dialog) {
-        // Disconnects first, so that the slot is connected only once even if the user picks
+        // Disconnect first, so that the slot is connected only once even if the user picks
         // repeatedly.
         disconnect(data->dialog, &VKD_QT_Dialog::isReOpen, this,
                    &DesignParameter::slot_onReopenGroups);
@@ -123,8 +123,7 @@ void DesignParameter::takeGroups(int row, const std::vector<int>& groups)
     showNotice(plib::groupsNotice(data->rows, row, before));
 }
 
-/// Updates the marks in all rows, because a change to the groups of one row may affect any other
-/// row.
+/// Updates the marks in all rows, because a change to the groups of one row may affect any other.
 void DesignParameter::showSharedGroups()
 {
     const VKD_QT_SignalBlocker blocker(data->table);
@@ -142,8 +141,8 @@ void DesignParameter::showSharedGroupsInEditor(int row)
         editor->setNote(item->toolTip());
 }
 
-/// Compares the text with translations in the context of this class. dlgSelection translates its
-/// entries in its own context, so both translations must be the same. The text of the cell is
+/// Compares the text with translations from the context of this class. dlgSelection translates its
+/// entries in its own context, so both translations must be identical. The text of the cell is
 /// updated when the user leaves the cell.
 void DesignParameter::slot_selectionComboChanged(QString text)
 {

@@ -14,7 +14,7 @@
 namespace plib {
 
 namespace {
-/// Returns the editor over the first cell of a row, or null.
+/// Returns the open editor of a row's groups, or null.
 dlgSelection* editorOf(const DesignParameterTable* table, int row)
 {
     const int column = table->getColumnNumber(DesignParameterTable::Selection);
@@ -47,7 +47,7 @@ bool GroupsEntry::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-/// In a new row, the current cell is the type. There, digits have no other meaning.
+/// In a new row, the current cell is the type, where digits have no other meaning.
 bool GroupsEntry::isForGroups(const QKeyEvent& key) const
 {
     const DesignParameterData& data = m_page->state();
@@ -99,7 +99,7 @@ void GroupsEntry::open(const QString& typed)
     connect(m_line, &GroupsLine::cancelled, this, &GroupsEntry::close);
 }
 
-/// Assigns the groups in the line to its row. Returns the reason if they are not accepted.
+/// Assigns the typed groups to the row. Returns the reason if they are not accepted.
 QString GroupsEntry::apply()
 {
     const DesignParameterRow* row = rowAt(m_page->state(), m_row);
@@ -131,7 +131,7 @@ void GroupsEntry::enter(int direction)
         table->setCurrentCell(row, table->currentColumn());
 }
 
-/// The text is lost if it is not accepted, so the message says so.
+/// A text that is not accepted is lost, so the message says that the row keeps its groups.
 void GroupsEntry::leave()
 {
     const QString refusal = apply();
@@ -140,7 +140,7 @@ void GroupsEntry::leave()
         m_page->showNotice(tr("%1 Row %2 keeps its groups.").arg(refusal).arg(m_row + 1));
 }
 
-/// The line must not apply its text when it loses the focus here.
+/// Disconnects first, so that losing the focus does not apply the text.
 void GroupsEntry::close()
 {
     m_line->disconnect(this);

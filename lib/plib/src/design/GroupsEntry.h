@@ -12,8 +12,8 @@ namespace plib {
 class GroupsLine;
 
 /// Lets the user type the groups of the current row: a digit or F2 in its first cell opens a line
-/// over the combo box of the group editor. Groups that do not exist are refused. The object is a
-/// child of the design page.
+/// edit over the combo box of the group editor. Groups that do not exist are refused. The object is
+/// a child of the design page.
 class GroupsEntry : public QObject
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ class GroupsEntry : public QObject
 public:
     explicit GroupsEntry(DesignParameter* page);
 
-    /// Also opens the line for keys in this editor.
+    /// Also opens the line edit if such a key is pressed in this editor.
     void listenTo(const dlgSelection* editor);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -37,8 +37,8 @@ private:
 
     DesignParameter* m_page;
     QPointer<GroupsLine> m_line;
-    int m_row = -1;   ///< of the line
-    QString m_before; ///< the groups of the row when the line was opened
+    int m_row = -1;   ///< the row that is being edited
+    QString m_before; ///< the initial text
 };
 
 } // namespace plib

@@ -10,9 +10,9 @@ class QPushButton;
 
 namespace plib {
 
-/// Explains why Up, Down or Delete has no effect on the selected rows: in the tool tips of these
-/// buttons, and in the line beside them when the user tries. The object is a child of the design
-/// page.
+/// Explains why Up, Down or Delete has no effect on the selected rows. The tool tips of these
+/// buttons show the reason, and so does the line beside the buttons after a click without effect.
+/// The object is a child of the design page.
 class RowButtonHints : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ private:
     void explain(const char* name, const std::function<QString()>& refusal);
 
     DesignParameter* m_page;
-    QString m_refusal; ///< when a button was pressed; a click may change the rows
+    QString m_refusal; ///< reason on mouse press; the click may change the rows
 };
 
 } // namespace plib

@@ -145,7 +145,7 @@ void RowsClipboard::duplicate()
     append(RowsStep::Duplicate, m_page->state().table->getSelectetRows(), added);
 }
 
-/// Appends rows and selects them. The current cell is in the same column as after New.
+/// Appends rows and selects them. Afterwards, the current cell is in the same column as after New.
 void RowsClipboard::append(RowsStep name, const std::set<int>& rows, const DesignRowList& added)
 {
     if (added.empty())

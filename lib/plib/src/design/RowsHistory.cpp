@@ -46,10 +46,10 @@ RowsHistory::RowsHistory(DesignParameter* page)
     , m_page(page)
     , m_stack(page, MostRows, this)
 {
-    m_page->state().table->addActions(m_stack.actions()); // for its menu
+    m_page->state().table->addActions(m_stack.actions()); // for the table's context menu
     connect(&m_stack, &StepStack::aboutToStep, this, [this] { m_page->finishEditing(); });
     connect(&m_stack, &StepStack::stepped, this, [this] {
-        m_page->showNotice(QString()); // was about an earlier step
+        m_page->showNotice(QString()); // an old notice no longer applies
     });
     connect(&m_stack, &StepStack::modifiedChanged, this, &RowsHistory::modifiedChanged);
 }

@@ -8,8 +8,8 @@ namespace plib {
 
 class ElidedLabel;
 
-/// A line beside the buttons of the table that explains an effect of the last step. It takes the
-/// room that is left. Text that is too long is elided and shown in a tool tip.
+/// A line beside the buttons of the table that explains an effect of the last step. It fills the
+/// remaining width. Text that is too long is elided, and the tool tip shows it in full.
 class RowsNotice : public QWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class RowsNotice : public QWidget
 public:
     explicit RowsNotice(QWidget* parent);
 
-    /// Shows a text, or nothing if the text is empty.
+    /// Shows the text. An empty text clears the line.
     void setText(const QString& text);
 
 private:

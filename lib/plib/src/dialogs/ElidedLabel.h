@@ -4,8 +4,8 @@
 
 namespace plib {
 
-/// A line of plain text that takes the width that is left in its layout. If the text is too long,
-/// it is elided and shown in a tool tip.
+/// A single line of plain text that fills the remaining width of its layout. Text that is too long
+/// is elided, and the tool tip shows it in full.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class ElidedLabel : public QLabel
 public:
     explicit ElidedLabel(QWidget* parent);
 
-    /// Shows a text, which is also the accessible name.
+    /// Shows the text and also uses it as the accessible name.
     void setFullText(const QString& text);
 
     bool event(QEvent* event) override;

@@ -43,7 +43,7 @@ void GroupsLine::keyPressEvent(QKeyEvent* event)
     }
 }
 
-/// A context menu or another window takes the focus only for a while.
+/// A context menu or another window takes the focus only temporarily.
 void GroupsLine::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);

@@ -4,25 +4,25 @@
 
 namespace plib {
 
-/// A line over the combo box of the group editor, in which the user types the groups of a row. It
-/// only emits signals; its owner reads the text.
+/// A line edit over the combo box of the group editor, in which the user types the groups of a row.
+/// It only emits signals; its owner reads the text.
 class GroupsLine : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    /// Covers this sibling, whose parent becomes the parent of the line.
+    /// The line edit becomes a sibling of the given widget and covers it.
     explicit GroupsLine(QWidget* covered);
 
-    /// Explains why the text is not accepted, and selects it.
+    /// Shows the reason why the text is not accepted, and selects the text.
     void refuse(const QString& reason);
 
     bool eventFilter(QObject* covered, QEvent* event) override;
 
 Q_SIGNALS:
-    /// Emitted for Enter with 0, and for the arrow keys with -1 for up and 1 for down.
+    /// Emitted when a key is pressed: with 0 for Enter, -1 for Up and 1 for Down.
     void entered(int direction);
-    /// Emitted when the user leaves the line in another way.
+    /// Emitted when the line edit loses the focus in another way.
     void left();
     /// Emitted for Escape.
     void cancelled();

@@ -13,8 +13,9 @@ class dlgReinforcement;
 
 namespace plib {
 
-/// A dialog for the parameters of a row, with the functions that all three dialogs have. Their base
-/// class is the one of all dialogs of the suite and does not declare these functions.
+/// A dialog for the parameters of a row, with the functions that all three such dialogs provide.
+/// Their common base class is shared by all dialogs of the suite and does not declare these
+/// functions.
 struct RecordDialog
 {
     VKD_QT_Dialog* window = nullptr;

@@ -85,8 +85,8 @@ void RowStrip::setRefusal(Step* step, const QString& refusal)
     step->button->setToolTip(refusal.isEmpty() ? step->purpose : refusal);
 }
 
-/// The keys belong to shortcuts of the dialog and not to the buttons, whose animation would delay a
-/// repeated key. They also work where there is no row, to say why.
+/// The keys belong to shortcuts of the dialog and not to the buttons, whose animation would delay
+/// key repeats. If there is no row in this direction, the shortcut shows the reason.
 void RowStrip::addStep(Step* step, const char* name, Qt::ArrowType arrow, int key,
                        const QString& purpose, int direction)
 {

@@ -24,10 +24,10 @@ public:
     void setTitle(const QString& title);
     /// Shows a second line, unless the note is empty.
     void setNote(const QString& note);
-    /// Sets the reasons why there is no previous or next row, which are empty if there is one. Adds
-    /// the buttons on the first call.
+    /// Sets the reasons why the user cannot go to the previous or next row. A reason is empty if
+    /// there is such a row. Adds the buttons on the first call.
     void setSteps(const QString& previousRefusal, const QString& nextRefusal);
-    /// Adds a button on the right of the title.
+    /// Adds a button to the right of the title.
     void addButton(QToolButton* button);
     /// Shows a message beside the title until the title is set again.
     void showMessage(const QString& text);
@@ -37,7 +37,7 @@ Q_SIGNALS:
     void stepRequested(int direction);
 
 private:
-    /// A button for a step and its purpose.
+    /// A button that goes to another row, and the texts for its tool tip.
     struct Step
     {
         QToolButton* button = nullptr;

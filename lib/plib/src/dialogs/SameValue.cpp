@@ -13,7 +13,8 @@
 namespace plib {
 
 namespace {
-/// Returns whether this widget edits the field. In a combo box, the line edit is not focused.
+/// Returns whether this widget edits the field. If the line edit is part of a combo box, the combo
+/// box has the focus.
 bool isEditedBy(const DialogField& field, const QWidget* widget)
 {
     if (field.bar)
@@ -36,7 +37,7 @@ SameValue::SameValue(const RecordDialog& dialog, RowStrip* strip, bool areSevera
     const QKeySequence key(Qt::CTRL + Qt::Key_Return);
     auto button = new QToolButton(strip);
     button->setObjectName(QStringLiteral("sameValue"));
-    button->setFocusPolicy(Qt::NoFocus); // the focus chooses the field
+    button->setFocusPolicy(Qt::NoFocus); // a click must leave the focus in the field to copy
     button->setText(tr("Same Everywhere"));
     button->setToolTip(tr("Uses the value of the current field on both sides, and for bars, limits "
                           "and crack control in all layers (%1)")
@@ -64,7 +65,7 @@ void SameValue::copy()
         m_strip->showMessage(copied(*from));
 }
 
-/// Copies the value and returns a message.
+/// Copies the value and returns a message about the result.
 QString SameValue::copied(const DialogField& from) const
 {
     int count = 0;

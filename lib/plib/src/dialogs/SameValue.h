@@ -8,15 +8,16 @@ namespace plib {
 
 class RowStrip;
 
-/// Copies the value of the current field of a dialog to the other fields of its kind, with a button
-/// in the strip of the dialog or with Ctrl+Enter. Only OK changes the rows. The object is a child
-/// of the dialog.
+/// Copies the value of a dialog's current field to the other fields of the same kind, when the user
+/// clicks a button in the strip of the dialog or presses Ctrl+Enter. The rows change only on OK.
+/// The object is a child of the dialog.
 class SameValue : public QObject
 {
     Q_OBJECT
 
 public:
-    /// In a dialog of several rows, an empty field has no value that could be copied.
+    /// If the dialog edits several rows, an empty field may stand for different values and cannot
+    /// be copied.
     SameValue(const RecordDialog& dialog, RowStrip* strip, bool areSeveralRows);
 
 private:

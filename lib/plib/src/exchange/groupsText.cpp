@@ -35,7 +35,7 @@ KnownGroups::KnownGroups(const DesignParameterData& data)
 {
 }
 
-/// A secondary group may have the name "None".
+/// A secondary group may be named "None".
 GroupsReading readGroupsText(const QString& text, const KnownGroups& known)
 {
     if (isNoGroupsText(text) && !known.names.contains(vkd::dbo::packedName(text)))

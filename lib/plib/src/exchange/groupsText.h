@@ -20,17 +20,17 @@ struct KnownGroups
     vkd::h::GroupNames names;
 };
 
-/// The groups that a text lists.
+/// The result of reading a list of groups.
 struct GroupsReading
 {
     bool isAccepted = false;
-    std::vector<int> groups; ///< as in a row
-    QStringList missing;     ///< parts of a text that is not accepted
+    std::vector<int> groups; ///< in the form in which a row stores them
+    QStringList missing;     ///< parts that match no known group
 };
 
-/// Reads numbers, ranges and names of secondary groups, for example "1-4, 7". A text in which a
-/// part matches no known group is not accepted. "None" and "Remaining Groups" are read in both
-/// languages; "remaining" is also accepted.
+/// Reads numbers, ranges and names of secondary groups, for example "1-4, 7". Rejects a text if any
+/// part of it matches no known group. "None" and "Remaining Groups" are read in both languages;
+/// "remaining" is also accepted.
 GroupsReading readGroupsText(const QString& text, const KnownGroups& known);
 
 /// Returns the groups of a row as text that readGroupsText() accepts, with ranges. The text of a

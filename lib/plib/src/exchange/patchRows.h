@@ -25,8 +25,8 @@ struct LimitFault
 };
 
 /// Returns the first such row if the patch is applied to the rows with these numbers, or nothing.
-/// Checks only pairs of which the patch contains a limit: the user must be able to change other
-/// fields of rows that were invalid before.
+/// Checks a pair of limits only if the patch sets one of them: the user must be able to change
+/// other fields of rows that were already invalid.
 std::optional<LimitFault> limitFault(const DesignRowList& rows, const std::set<int>& numbers,
                                      const RowPatch& patch);
 

@@ -31,8 +31,8 @@ bool ColumnRoom::eventFilter(QObject*, QEvent* event)
     return false;
 }
 
-/// Returns whether widths have changed. Setting the width of a column may show or hide a scroll bar
-/// and so change the available width.
+/// Returns whether any width has changed. Setting the width of a column may show or hide a scroll
+/// bar and thus change the available width.
 bool ColumnRoom::share()
 {
     constexpr int MostRounds = 3;
@@ -53,7 +53,8 @@ bool ColumnRoom::share()
     return isChanged;
 }
 
-/// Long lists of groups do not take the room of the other columns.
+/// Limits the width of the groups column, so that long lists of groups leave enough width for the
+/// other columns.
 bool ColumnRoom::measure(int firstRow, int lastRow)
 {
     bool isChanged = false;

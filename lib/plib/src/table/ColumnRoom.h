@@ -8,8 +8,9 @@ class DesignParameterTable;
 
 namespace plib {
 
-/// Gives the room of a wide page to the columns of its table, whose child it is, first to those
-/// whose texts would be wrapped. A column that the user has dragged keeps its width.
+/// Distributes the extra width of a wide page among the columns of the table, starting with the
+/// columns whose texts would otherwise be wrapped. A column that the user has resized keeps its
+/// width. The object is a child of the table.
 class ColumnRoom : public QObject
 {
     Q_OBJECT
@@ -18,10 +19,10 @@ public:
     /// The current widths of the columns are their initial widths.
     explicit ColumnRoom(DesignParameterTable* table);
 
-    /// Measures the texts of these rows and shares the room again if a column needs more. The
-    /// heights of the rows must be updated afterwards if this returns true.
+    /// Measures the texts of these rows and redistributes the width if a column needs more. If this
+    /// returns true, the row heights must be updated afterwards.
     bool measure(int firstRow, int lastRow);
-    /// Forgets what was measured.
+    /// Discards the measured widths.
     void reset();
 
     bool eventFilter(QObject* viewport, QEvent* event) override;

@@ -10,7 +10,7 @@ namespace {
 constexpr int MostLines = 4; // two lines of text, each wrapped at most once
 constexpr int RowMargin = 8;
 constexpr int MostRowsToFit = 500;    // for more rows, measuring would take longer than filling
-constexpr int MostRowsToMeasure = 50; // of such a table
+constexpr int MostRowsToMeasure = 50; // if there are more than MostRowsToFit rows
 } // namespace
 
 DesignParameterTable::DesignParameterTable(QWidget* parent)

@@ -26,7 +26,7 @@ struct Column
     Table::Column id;
     const char* header;
     int width;         ///< pixels
-    const char* topic; ///< of the help book
+    const char* topic; ///< topic in the help book
 };
 
 constexpr Column Columns[] = {
