@@ -1,7 +1,7 @@
-// The output dialog and the script of the window with many load cases: clicking, checking all
-// plots, excluding load cases, and opening the dialog. The peers are filling a text document with
-// the same script, generating the script, and the same work with fewer load cases. The memory of a
-// click is the memory that is still in use afterwards.
+// Measures the output dialog and the window's script with many load cases: clicking, checking all
+// plots, excluding load cases, and opening the dialog. For comparison, it also measures filling a
+// text document with the same script, generating the script, and the same operations with fewer
+// load cases. The counter "bytes" is the memory that the clicks leave allocated.
 
 #include "memory.h"
 #include "plotModel.h"
@@ -91,7 +91,7 @@ public:
     workbench::ScriptView view;
 
 private:
-    /// Marks the lines of the last caption, which take longest to find.
+    /// Marks the lines of the last caption, because these take longest to find.
     void markPlot()
     {
         QTreeWidgetItem* item = tree->topLevelItem(tree->topLevelItemCount() - 1);
@@ -119,7 +119,7 @@ void toggle(QTreeWidgetItem* item)
 void clickOn(QTreeWidgetItem* row, Output& output, benchmark::State& state)
 {
     toggle(row);
-    output.finish(); // the first click reserves memory
+    output.finish(); // the first click allocates memory that is then reused
     const double before = heapInUse();
     for (auto _ : state) {
         toggle(row);

@@ -121,7 +121,7 @@ void restView(benchmark::State& state)
     }
 }
 
-/// Moves the mouse over the model while the full image of a rotated view is not yet painted.
+/// Moves the mouse over a rotated model before the full image has been painted.
 void hoverAfterTurn(benchmark::State& state)
 {
     ShownShell shown(state);

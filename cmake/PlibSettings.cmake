@@ -9,7 +9,7 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
-set(CMAKE_BUILD_RPATH_USE_ORIGIN ON) # the programs do not contain the path of the build folder
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON) # keeps the path of the build folder out of the programs
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
@@ -73,8 +73,8 @@ function(vkd_install_target name package headers)
                                                       NAMELINK_COMPONENT development)
 endfunction()
 
-# Compiles each public header of a library alone, with the settings that its users have. The target
-# `headers` does this for all libraries.
+# Compiles each public header of a library on its own, with the compiler settings that users of the
+# library get. The target `headers` does this for all libraries.
 add_custom_target(headers)
 function(vkd_check_headers name)
     set(folder ${CMAKE_CURRENT_BINARY_DIR}/headers)
@@ -104,8 +104,8 @@ function(vkd_install_library name package)
     vkd_check_headers(${name})
 endfunction()
 
-# Installs the file <name>.pc for pkg-config. Its paths are relative, so that an installation can be
-# moved. It requires the libraries that the target links publicly.
+# Installs the file <name>.pc for pkg-config. Its paths are relative, so that the installation can
+# be moved. The file requires the libraries that the target links publicly.
 function(vkd_install_pkgconfig name)
     get_target_property(headers ${name} vkd_headers)
     get_target_property(linked ${name} INTERFACE_LINK_LIBRARIES)
@@ -190,7 +190,7 @@ function(vkd_add_translations target)
     set(list ${CMAKE_CURRENT_BINARY_DIR}/${module}_translations.qrc)
     file(CONFIGURE OUTPUT ${list} CONTENT
         "<RCC><qresource prefix=\"/translations\"><file>${module}_de.qm</file></qresource></RCC>\n")
-    qt5_add_resources(resources ${list} OPTIONS --format-version 1) # without times of files
+    qt5_add_resources(resources ${list} OPTIONS --format-version 1) # contains no file times
     set(translator ${CMAKE_CURRENT_BINARY_DIR}/${module}_translator.cpp)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in ${translator} @ONLY)
     target_sources(${target} PRIVATE ${translator} ${resources})

@@ -1,5 +1,5 @@
-# Debian packages, made by packaging/makePackages with the preset `package`. The licence is the
-# decision of the owner of this project, so its text is read from the file LICENSE.
+# Settings of the Debian packages, which packaging/makePackages builds with the preset `package`.
+# The owner of this project chooses the licence, so its text is read from the file LICENSE.
 set(license ${PROJECT_SOURCE_DIR}/LICENSE)
 set(PLIB_MAINTAINER "" CACHE STRING "Maintainer of the Debian packages, with a mail address")
 
