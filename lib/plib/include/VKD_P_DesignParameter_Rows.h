@@ -36,8 +36,8 @@ constexpr char RowsObject[] = "rows";
 
 /// The object name of a child object of VKD_P_DesignParameter that provides the parameters of rows
 /// as maps. It exists after init(). The keys of the maps are "type" and the names of real fields in
-/// tagZOB_QUAD_RIM_Words.h. The values are numbers in base units, with distances from layer to
-/// layer; an invalid value represents "not set".
+/// tagZOB_QUAD_RIM_Words.h. The values are numbers in base units. The first distance is measured
+/// from the surface, and the others from the previous layer. An invalid value represents "not set".
 ///
 /// Methods:
 /// - `QVariantMap current()` returns all parameters of the current row, or an empty map if there is
@@ -47,7 +47,7 @@ constexpr char RowsObject[] = "rows";
 /// - `QString description(QVariantMap)` returns the parameters as a table in rich text.
 /// - `QStringList setInSelectedRows(QVariantMap, QString stepName)` sets the parameters in all
 ///   selected rows as one undo step with this name. Other parameters and the groups do not change.
-///   If there are faults, it returns them and changes nothing.
+///   If there are faults, the method returns them and changes nothing.
 constexpr char ParametersObject[] = "rowParameters";
 
 } // namespace designparameter

@@ -9,15 +9,15 @@ namespace widgetgraphicaloutput {
 /// and menus. Hosts find the object with findChild<QObject*>() and use it through its meta-object.
 ///
 /// A step restores the settings, the view and the checked plots, but not a camera that the user has
-/// rotated. Calls of the page's functions that change the load cases, the content or the plots clear
-/// the history, unless they belong to a step of the host. A step of the host can contain a state of
+/// rotated. Calls to the page's functions that change the load cases, the content or the plots
+/// clear the history, unless they belong to a step of the host. Such a step can contain a state of
 /// the host, for example the load cases that the host offers.
 ///
 /// Methods:
 /// - `void begin()` begins a step of the host. Steps can be nested.
-/// - `void end(QString name, QString state)` ends the step; `state` is the state of the host after
-///   it. If anything has changed, adds a step with this name.
-/// - `void restart(QString state)` clears the history. `state` is the present state of the host.
+/// - `void end(QString name, QString state)` ends the step and adds it to the history with this
+///   name if anything has changed. `state` is the state of the host after the step.
+/// - `void restart(QString state)` clears the history. `state` is the current state of the host.
 ///
 /// Signals:
 /// - `hostStateRestored(QString)` is emitted during undo and redo if the state of the host differs.

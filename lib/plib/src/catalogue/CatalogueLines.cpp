@@ -35,14 +35,16 @@ bool CatalogueLines::isWhole() const
     return m_line[m_length - 1] == '\n' || (m_begin == m_end && m_device.atEnd());
 }
 
-/// Returns the newline of the next line, or null if the line has none or has not been read yet.
+/// Returns a pointer to the newline of the next line, or null if the line has none or has not been
+/// read completely.
 const char* CatalogueLines::newline() const
 {
     const auto length = std::min<std::ptrdiff_t>(m_end - m_begin, MaximumLength);
     return static_cast<const char*>(std::memchr(m_begin, '\n', size_t(length)));
 }
 
-/// Moves the beginning of a line to the beginning of the block and reads more bytes after it.
+/// Moves the incomplete line to the beginning of the block and reads more bytes after it. Returns
+/// whether any bytes were read.
 bool CatalogueLines::readBlock()
 {
     const auto kept = size_t(m_end - m_begin);

@@ -8,7 +8,7 @@ namespace plib {
 
 /// Reads the lines of a catalogue. A line is what QIODevice::readLine() returns for a buffer of
 /// 1024 bytes: at most 1023 bytes, including the newline if there is one. The rest of a longer line
-/// is a separate line. The device is read in blocks, because a call of readLine() takes longer than
+/// is a separate line. The device is read in blocks, because calling readLine() takes longer than
 /// finding the newline.
 class CatalogueLines
 {
@@ -23,7 +23,7 @@ public:
     /// These functions return the line, which is valid until next() is called.
     const char* bytes() const { return m_line; }
     int length() const { return m_length; }
-    /// Returns whether the line is not continued by the next line.
+    /// Returns whether the line is complete, so that the next line is not the rest of it.
     bool isWhole() const;
 
 private:
@@ -32,7 +32,7 @@ private:
 
     QIODevice& m_device;
     std::vector<char> m_block;
-    const char* m_begin; // of the bytes that follow the line
+    const char* m_begin; // beginning of the unread bytes
     const char* m_end;
     const char* m_line = nullptr;
     int m_length = 0;

@@ -32,7 +32,7 @@ bool isAscii(const char* bytes, int length)
     return !(all & Q_UINT64_C(0x8080808080808080));
 }
 
-/// Returns whether the first part is the known one. This takes less time than finding its end.
+/// Returns whether the first part equals `known`. This takes less time than finding its end.
 bool beginsWithPart(const char* begin, const char* end, const std::string& known)
 {
     const auto length = size_t(end - begin);
@@ -88,7 +88,7 @@ int rowClassOf(const QString& suffix)
 }
 } // namespace
 
-/// The English script remains in the working record, because the next line may lack one.
+/// The English script remains in the working record, because the next line may have none.
 GraphicalOutputRecord CatalogueParser::takeRecord()
 {
     QString title = std::move(m_record.title3);

@@ -30,8 +30,8 @@ public:
     /// Returns the working record. The record is valid if the outcome of the last line was
     /// Accepted.
     const GraphicalOutputRecord& record() const { return m_record; }
-    /// Moves the working record out. The strings that differ in almost every line are not copied;
-    /// the next line sets them again. record() is invalid until then.
+    /// Returns the working record. Strings that differ in almost every line are moved instead of
+    /// copied. Therefore, record() is invalid until the next line has been parsed.
     GraphicalOutputRecord takeRecord();
     /// Returns the number of parts in the line, or 0 for comments and blank lines.
     int partCount() const { return m_partCount; }

@@ -125,7 +125,7 @@ void StepStack::dropOldSteps()
         newest.push_back(stepAt(index));
     const int clean = m_stack.cleanIndex() - (m_stack.count() - int(newest.size()));
     {
-        const QSignalBlocker silent(&m_stack); // whether the page is modified does not change
+        const QSignalBlocker silent(&m_stack); // the page's modified state does not change
         m_stack.clear();
         m_stack.resetClean();
         for (const auto& step : newest) {

@@ -10,7 +10,8 @@ class QWidget;
 
 namespace plib {
 
-/// A change that the user has made and that can be undone. A step contains its effects as values.
+/// A change that the user has made and that can be undone. A step stores the values before and
+/// after the change.
 class HistoryStep
 {
 public:
@@ -19,13 +20,13 @@ public:
     virtual QString name() const = 0;
     virtual void undo() = 0;
     virtual void redo() = 0;
-    /// Returns the memory that the step needs, in the unit of the stack's limit.
+    /// Returns the size of the step, in the unit of the stack's size limit.
     virtual std::size_t size() const = 0;
 };
 
 /// The undo and redo steps of a page, and the actions "undo" and "redo" with their shortcuts. The
-/// number of steps and their total size are limited. The histories of the pages use this class;
-/// they record the steps.
+/// number of steps and their total size are limited. The history of each page records the steps and
+/// adds them to a stack.
 class StepStack : public QObject
 {
     Q_OBJECT

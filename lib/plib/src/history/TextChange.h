@@ -4,9 +4,9 @@
 
 namespace plib {
 
-/// The difference between two texts as a value: the part that differs, before and after the change.
-/// The texts before and after this part are equal, so that a small change to a long text needs
-/// little memory.
+/// The difference between two strings: the part that differs, before and after the change. The
+/// parts of both strings around it are equal and not stored, so that a small change to a long
+/// string needs little memory.
 struct TextChange
 {
     int first = 0;
@@ -18,7 +18,8 @@ struct TextChange
 
 TextChange textChange(const QString& before, const QString& after);
 
-/// Return the text after the change, or the text before it.
+/// redone() converts the string before the change into the string after it; undone() does the
+/// opposite.
 QString redone(QString text, const TextChange& change);
 QString undone(QString text, const TextChange& change);
 

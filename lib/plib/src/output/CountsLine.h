@@ -10,9 +10,10 @@ namespace plib {
 
 struct LineOrigins;
 
-/// The line below an output page with the numbers of plots, pictures, sheets and script lines. They
-/// are those of the script that the host has requested last. If a change is not followed by a
-/// request, the line counts the script itself. The split page has no script, and hides the line.
+/// The line below an output page that shows the numbers of plots, pictures, sheets and script
+/// lines. The numbers refer to the script that the host requested last. If the host does not
+/// request the script after a change, this class generates and counts it. A split page has no
+/// script, so the line is hidden.
 class CountsLine : public ElidedLabel
 {
     Q_OBJECT
@@ -21,7 +22,7 @@ public:
     /// `pageData` must outlive the line.
     CountsLine(WidgetGraphicalOutputData* pageData, QWidget* page);
 
-    /// Counts a script. Call this function when the host has requested it.
+    /// Shows the numbers for a script. Must be called when the host has requested the script.
     void count(const LineOrigins& origins, const QString& script);
     /// Marks the counts as outdated.
     void change();
@@ -33,7 +34,7 @@ private:
     void countAgain();
 
     WidgetGraphicalOutputData& m_data;
-    QTimer m_waiting; ///< for a request of the host
+    QTimer m_waiting; ///< time that the host has for requesting the script
     bool m_isOutdated = true;
 };
 

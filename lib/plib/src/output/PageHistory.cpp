@@ -21,14 +21,14 @@
 namespace plib {
 
 namespace {
-constexpr std::size_t MostCharacters = 16000000; // in all steps; 32 MB
+constexpr std::size_t MostCharacters = 16000000; // in all steps together; 32 MB
 
 std::size_t sizeOf(const TextChange& change)
 {
     return std::size_t(change.before.size() + change.after.size());
 }
 
-/// Returns the caption of an item; for a row, preceded by the caption of its plot.
+/// Returns the caption of an item. The caption of a row is preceded by the caption of its plot.
 QString captionOf(const QTreeWidgetItem& item)
 {
     const bool isRow =
@@ -89,8 +89,8 @@ PageHistory::PageHistory(VKD_P_WidgetGraphicalOutput* page, WidgetGraphicalOutpu
     m_known = present();
 }
 
-/// The page is connected to its buttons before the history, so that a click on a format and the
-/// number of pictures that follows it are one step.
+/// The page must be connected to its buttons before the history, so that a click on a format and
+/// the resulting change to the number of pictures are recorded as one step.
 void PageHistory::watchSettings()
 {
     for (const VKD_QT_RadioButtonGroup* group :
@@ -124,8 +124,8 @@ void PageHistory::watchList(const VKD_QT4_ComboBox* list, const QString& title)
     });
 }
 
-/// The tree emits itemChanged() only for changes by the user, but checkStatesChanged() for any
-/// change, after it.
+/// The tree emits itemChanged() only for changes by the user, but checkStatesChanged() after any
+/// change.
 void PageHistory::watchPlots()
 {
     GraphicalOutputTreeWidget* tree = m_data.tree;
@@ -196,7 +196,7 @@ void PageHistory::record(const QString& name, const QString& hostState)
     m_stack.push(step);
 }
 
-/// Shows the view only if it differs, because a page may have no checked view.
+/// Sets the view only if it differs, because a page may have no checked view.
 void PageHistory::restore(const PageState& state)
 {
     const QScopedValueRollback<int> change(m_depth, m_depth + 1);

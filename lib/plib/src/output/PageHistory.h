@@ -15,13 +15,13 @@ struct PageState
 {
     QString settings;
     QString plots; ///< selection text
-    QString host;  ///< a text of the host, whose meaning only the host knows
+    QString host;  ///< state of the host, which only the host interprets
 };
 
-/// Provides undo and redo for the output page, whose child it is. It compares the state of the page
-/// with the state after the last step, so that the operations need no code for undo. A step
-/// contains only the parts of the texts that differ. Hosts use the meta-object of this class, which
-/// VKD_P_WidgetGraphicalOutput_Steps.h documents.
+/// Provides undo and redo for the output page. It compares the state of the page with the state
+/// after the last step, so that the operations need no code for undo. A step contains only the
+/// parts of the strings that differ. Hosts use the meta-object of this class, which
+/// VKD_P_WidgetGraphicalOutput_Steps.h documents. The object is a child of the page.
 class PageHistory : public QObject
 {
     Q_OBJECT
@@ -34,8 +34,8 @@ public:
     Q_INVOKABLE void end(const QString& name, const QString& state);
     Q_INVOKABLE void restart(const QString& state);
 
-    /// Ends a change by the page itself. A change without a name is not a step; it clears the
-    /// history, unless it is part of a step.
+    /// Ends a change that the page itself makes. A change without a name is not a step; it clears
+    /// the history, unless it is part of another step.
     void end(const QString& name);
 
 Q_SIGNALS:
@@ -55,12 +55,12 @@ private:
 
     WidgetGraphicalOutputData& m_data;
     PageState m_known; ///< after the last step
-    int m_depth = 0;   ///< nested changes; while there is one, nothing is recorded
+    int m_depth = 0;   ///< number of nested changes; nothing is recorded unless it is 0
     QString m_clicked; ///< name of the step for the item that has just been checked or unchecked
     StepStack m_stack;
 };
 
-/// A change that a function of the page makes, from construction to destruction of this object.
+/// Marks the lifetime of this object as a single change by a function of the page.
 class PageChange
 {
 public:

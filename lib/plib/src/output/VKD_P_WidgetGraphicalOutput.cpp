@@ -98,13 +98,13 @@ void VKD_P_WidgetGraphicalOutput::layOut(QWidget* box)
     chainTabs();
 }
 
-/// Creates a button for users who do not know the keys of the search.
+/// Creates a button for users who do not know the keyboard shortcuts of the search.
 QWidget* VKD_P_WidgetGraphicalOutput::newFindButton()
 {
     auto button = new QToolButton(this);
     button->setObjectName(QStringLiteral("findPlotsButton"));
     button->setDefaultAction(findChild<QAction*>(QStringLiteral("findPlots")));
-    button->setFocusPolicy(Qt::NoFocus); // there are keys
+    button->setFocusPolicy(Qt::NoFocus); // keyboard users have shortcuts
     return button;
 }
 

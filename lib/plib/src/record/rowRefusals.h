@@ -8,8 +8,8 @@
 
 namespace plib {
 
-/// These functions return the reason why something cannot be done with rows, or an empty string if
-/// it can be done. A direction is -1 for up and 1 for down.
+/// These functions return the reason why an operation on rows is impossible, or an empty string if
+/// it is possible. A direction is -1 for up and 1 for down.
 
 /// Moving a row.
 QString moveRefusal(const DesignParameterData& data, int row, int direction);

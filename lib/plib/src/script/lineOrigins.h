@@ -12,7 +12,8 @@ struct LineRange
     int count = 0;
 };
 
-/// Returns the item that wrote a line, or null. The check states must be those of the script.
+/// Returns the item that wrote a line, or null. The check states must be the same as when the
+/// script was written.
 template <typename Node>
 Node* itemOfLine(Node* root, const LineOrigins& origins, int line)
 {
@@ -29,8 +30,8 @@ Node* itemOfLine(Node* root, const LineOrigins& origins, int line)
     return found;
 }
 
-/// Returns the lines that an item and its descendants wrote. They are adjacent. The check states
-/// must be those of the script.
+/// Returns the lines that an item and its descendants wrote, which are adjacent. The check states
+/// must be the same as when the script was written.
 template <typename Node>
 LineRange linesOfItem(Node* root, const LineOrigins& origins, const Node* item)
 {
@@ -50,7 +51,7 @@ LineRange linesOfItem(Node* root, const LineOrigins& origins, const Node* item)
                 end = place + 1;
             }
             ++place;
-            return end == none || end == place; // stops after the last own line
+            return end == none || end == place; // stops after the item's last line
         });
     const int writers = int(origins.starts.size());
     if (end == none || end > writers)

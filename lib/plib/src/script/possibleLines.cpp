@@ -10,7 +10,7 @@
 namespace plib {
 
 namespace {
-/// A model with area elements and no program block around the plots.
+/// Stands for a model with area elements. The scripts have no program block around the plots.
 class AnyModel : public ScriptEnvironment
 {
 public:
@@ -62,7 +62,7 @@ std::vector<QString> plotLines(const std::vector<GraphicalOutputRecord>& catalog
         const QString& text = writer.script(record);
         writer.writeText(text);
         if (record.ctrl != CtrlStandsAlone)
-            for (const GraphicalOutputRecord* above : {noCaption, &record}) // with either unit
+            for (const GraphicalOutputRecord* above : {noCaption, &record}) // writes both units
                 writer.writeCase(
                     1, text, [] { return QStringLiteral("1+2:"); }, [above] { return above; });
     }

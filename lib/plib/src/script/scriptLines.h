@@ -112,7 +112,7 @@ void writeItem(Item* item, Node* parent, ScriptLineWriter& writer)
             });
 }
 
-/// The items that wrote the lines of a script, in the order of the script, and the number of plots
+/// The items that wrote the lines of a script, in the order of the script, and the numbers of plots
 /// and pictures.
 struct LineOrigins
 {
@@ -122,8 +122,8 @@ struct LineOrigins
     int pictures = 0; ///< two load cases in one picture are counted once
 };
 
-/// Returns whether an item draws a picture if it is checked. A row with a negative number writes at
-/// most its view.
+/// Returns whether an item draws a picture if it is checked. A row with a negative number can only
+/// set the view.
 template <typename Item>
 bool drawsPicture(const Item* item)
 {

@@ -24,7 +24,7 @@ PictureWarning::PictureWarning(QTreeWidget* tree, Check check)
 {
 }
 
-/// The question must not be asked while the view processes the click.
+/// Asks later, because a dialog must not open while the view processes the click.
 bool PictureWarning::holdsBack(QTreeWidgetItem* item, int pictures)
 {
     if (m_isConfirmed || pictures <= ManyPictures)

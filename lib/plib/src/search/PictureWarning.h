@@ -9,8 +9,8 @@ class QTreeWidgetItem;
 
 namespace plib {
 
-/// Warns the user once before a click that adds many pictures to the script. The click is held back
-/// until the user confirms it.
+/// Warns the user once before a click that would add many pictures to the script. The click takes
+/// effect only if the user confirms it.
 class PictureWarning : public QObject
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ public:
     /// The tree owns the object. `check` checks an item if the user confirms the click.
     PictureWarning(QTreeWidget* tree, Check check);
 
-    /// Returns whether a click on an item that adds this number of pictures must not be performed
-    /// now. In this case, the user is asked after the event has been processed.
+    /// Returns whether a click on an item that adds this number of pictures must wait for
+    /// confirmation. In this case, the user is asked after the event has been processed.
     bool holdsBack(QTreeWidgetItem* item, int pictures);
 
 private:
@@ -33,7 +33,7 @@ private:
     bool m_isConfirmed = false;
 };
 
-/// Returns the number of pictures that are added if the item and everything below it are checked.
+/// Returns the number of pictures that are added if the item and all its descendants are checked.
 int newPictures(QTreeWidgetItem* item);
 
 } // namespace plib

@@ -93,7 +93,7 @@ bool ShownBoxes::isAllChecked(const QTreeWidgetItem* item) const
     return std::all_of(m_search->hits().begin(), m_search->hits().end(), isChecked);
 }
 
-/// Returns the number of pictures that a click on the box of the item would add.
+/// Returns the number of pictures that a click on the item's check box would add.
 int ShownBoxes::picturesOf(QTreeWidgetItem* item) const
 {
     if (!isPartlyShown(item))

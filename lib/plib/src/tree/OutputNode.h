@@ -10,7 +10,7 @@ namespace plib {
 /// An item of an output tree that does not need widgets, for the command line and for tests. The
 /// class has only the members that the tree algorithms use, with the same names as in
 /// QTreeWidgetItem and in the item class of the tree widget. Parents own their children; the
-/// invisible root represents the tree. A pass over many nodes spends most of its time on loading them
+/// invisible root represents the tree. A pass over many nodes spends most of its time loading them
 /// from memory. Therefore, rows are small: they share the record of their plot.
 class OutputNode
 {
@@ -48,7 +48,7 @@ private:
     struct Branch
     {
         std::vector<std::unique_ptr<OutputNode>> children;
-        std::unique_ptr<const GraphicalOutputRecord> record; // null: the record of the parent
+        std::unique_ptr<const GraphicalOutputRecord> record; // null: uses the parent's record
         bool isExpanded = false;
     };
 

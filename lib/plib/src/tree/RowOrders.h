@@ -20,8 +20,8 @@ public:
         int index = -1; ///< of the row in the plot; -1 until the user of the class sets it
     };
 
-    /// Adds the rows of a line. The first row has the given time, and each row has a later time
-    /// than all previously added rows.
+    /// Adds the rows that a line lists. The first row gets the given time, and each row gets a
+    /// later time than all previously added rows.
     void add(const QVector<int>& numbers, int time);
     /// Must be called after the last row has been added, before find().
     void sort();

@@ -25,7 +25,7 @@ int nextNumber(const QChar*& begin, const QChar* end)
 QVector<int> selectionNumbers(const QStringRef& text)
 {
     QVector<int> numbers;
-    constexpr int Length = 4; // of a number and its comma; with shorter numbers, the list grows
+    constexpr int Length = 4; // estimate for a number and its comma
     numbers.reserve(text.size() / Length + 1);
     const QChar* begin = text.begin();
     while (begin < text.end())

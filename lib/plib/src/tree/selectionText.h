@@ -148,14 +148,15 @@ private:
         Order orLater(Order other) const { return other.time > time ? other : *this; }
     };
 
-    /// A line that lists rows, and the time of the line.
+    /// A line that lists rows, and its time.
     struct RowList
     {
         const SelectionLine* line;
         int time;
     };
 
-    /// The state of a parent: the state of its children if all are equal.
+    /// The state of a parent: the common state of its children, or partially checked if they
+    /// differ.
     struct JointState
     {
         void add(Qt::CheckState state)
@@ -244,8 +245,8 @@ private:
         return hasNamesakes ? stateOfChildren(item) : state.value;
     }
 
-    /// Loads a later child into the processor's caches in advance. Waiting for each child in turn
-    /// would take most of the time.
+    /// Loads a later child into the processor's caches in advance. Otherwise, most of the time
+    /// would be spent waiting for each child in turn.
     static void prefetchAfter(const Node* item, int index)
     {
         constexpr int Ahead = 16;
