@@ -8,6 +8,7 @@
 #include <vkd_dbo_camera.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_WidgetGraphicalOutput>
+#include <VKD_P_WidgetGraphicalOutput_Steps.h>
 #include <VKD_QT_InputField.h>
 #include <VKD_QT_Ok.h>
 #include <VKD_QT_RadioButtonGroup.h>
@@ -182,6 +183,10 @@ void OutputDialog::listen()
     connect(plots, &QAbstractItemModel::modelReset, this, start);
     connect(plots, &QAbstractItemModel::rowsInserted, this, start);
     connect(m_offers, &OutputOffers::changed, this, start);
+    // Undo restores the plots without signals of the tree's model.
+    connect(
+        m_page->findChild<QObject*>(QLatin1String(vkd::plib::widgetgraphicaloutput::StepsObject)),
+        SIGNAL(stepped()), &m_changes, SLOT(start()));
     m_view->installEventFilter(this);
     const auto format = m_page->findChild<QWidget*>(QStringLiteral("PicturesGroup"));
     if (format)
