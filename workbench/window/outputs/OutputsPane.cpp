@@ -61,6 +61,8 @@ OutputsPane::OutputsPane(QWidget* parent)
     m_list->setObjectName(QStringLiteral("OutputList"));
     m_list->setEditTriggers(QAbstractItemView::DoubleClicked);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    // Scrolling by item crashes in Qt if the list is too low for an item.
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_more->setObjectName(QStringLiteral("MoreOutputActions"));
     m_more->setMenu(menu);
     m_more->setPopupMode(QToolButton::InstantPopup);
