@@ -55,12 +55,16 @@ QString listed(const QWidget& window)
     return texts.join(QLatin1Char('|'));
 }
 
-void enterName(const QWidget& window, const char* name)
+QLineEdit* typeName(const QWidget& window, const char* name)
 {
     auto editor = find<QListWidget>(window, "OutputList")->findChild<QLineEdit*>();
-    QVERIFY(editor);
     editor->setText(QLatin1String(name));
-    QTest::keyClick(editor, Qt::Key_Return);
+    return editor;
+}
+
+void enterName(const QWidget& window, const char* name)
+{
+    QTest::keyClick(typeName(window, name), Qt::Key_Return);
 }
 
 QTreeWidget* plots(const QWidget& window)
@@ -172,7 +176,12 @@ private Q_SLOTS:
         enterName(*window, "output  1");
         QTRY_COMPARE(refusals, QStringList(QStringLiteral("Another output has this name.")));
         trigger(*window, "RenameOutput");
-        enterName(*window, " Walls ");
+        typeName(*window, " Walls ");
+        trigger(*window, "NextOutput"); // while the name is being edited
+        QTRY_COMPARE(listed(*window), QStringLiteral(">/Output 1/|/Walls/"));
+        QTRY_COMPARE(script(*window), changed);
+        trigger(*window, "PreviousOutput");
+        QTRY_COMPARE(script(*window), QString());
         plots(*window)->topLevelItem(1)->setCheckState(0, Qt::Checked);
         QTRY_VERIFY(!script(*window).isEmpty());
         const QString walls = script(*window);

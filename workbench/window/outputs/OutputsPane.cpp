@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QSignalBlocker>
@@ -13,14 +14,13 @@
 
 namespace workbench {
 
-namespace {
-constexpr int ShownRows = 4;
-
 /// A list that shows a few rows. Its height is fixed, so that the panes below it do not move when
 /// outputs are added.
 class ShortList : public QListWidget
 {
 public:
+    static constexpr int ShownRows = 4;
+
     using QListWidget::QListWidget;
 
     QSize sizeHint() const override
@@ -29,8 +29,18 @@ public:
         return {QListWidget::sizeHint().width(), ShownRows * row + 2 * frameWidth()};
     }
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+
+    /// Applies the name in an open editor.
+    void finishEditing()
+    {
+        if (auto editor = viewport()->findChild<QLineEdit*>()) {
+            commitData(editor);
+            closeEditor(editor, QAbstractItemDelegate::NoHint);
+        }
+    }
 };
 
+namespace {
 QToolButton* newButton(QAction* action, const char* name, QWidget* parent)
 {
     QToolButton* button = actionButton(action, parent);
@@ -61,8 +71,6 @@ OutputsPane::OutputsPane(QWidget* parent)
     m_list->setObjectName(QStringLiteral("OutputList"));
     m_list->setEditTriggers(QAbstractItemView::DoubleClicked);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
-    // Scrolling by item crashes in Qt if the list is too low for an item.
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_more->setObjectName(QStringLiteral("MoreOutputActions"));
     m_more->setMenu(menu);
     m_more->setPopupMode(QToolButton::InstantPopup);
@@ -87,6 +95,8 @@ QAction* OutputsPane::add(const char* name, const QKeySequence& shortcut)
     QAction* action = menu->addAction(QString());
     action->setObjectName(QLatin1String(name));
     action->setShortcut(shortcut);
+    // An editor that is open while the list changes its current row would rename another output.
+    connect(action, &QAction::triggered, this, [this] { m_list->finishEditing(); });
     return action;
 }
 

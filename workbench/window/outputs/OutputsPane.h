@@ -5,11 +5,12 @@
 
 class QAction;
 class QLabel;
-class QListWidget;
 class QMenu;
 class QToolButton;
 
 namespace workbench {
+
+class ShortList;
 
 /// The list of a project's outputs, with actions to edit it. The pane only shows the list; it does
 /// not change it. OutputCommands carries out the actions.
@@ -62,7 +63,7 @@ private:
     void layOut();
     void listen();
 
-    QListWidget* m_list;
+    ShortList* m_list;
     QToolButton* m_more;
     QLabel* m_note;
 };
