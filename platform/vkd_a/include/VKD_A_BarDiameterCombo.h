@@ -11,7 +11,7 @@
 /// millimetres; -99999 means "not set" and is the first entry. A diameter that is missing from the
 /// project has its own entry in the sorted list, so that the combo box can show it and return it
 /// unchanged. Signals are emitted only when the user chooses an entry. The user can also type a
-/// diameter; one that is not in the list is refused.
+/// diameter; a diameter that is not in the list is refused.
 class VKD_A_EXPORT VKD_A_BarDiameterCombo : public VKD_QT4_ComboBox
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     bool m_isNotSetAllowed = true;
     bool m_hasExtra = false;
-    QString m_typed; ///< characters of a diameter
+    QString m_typed; ///< characters typed so far
     QElapsedTimer m_lastKey;
-    int m_entryBefore = -1; ///< current entry before the first typed character
+    int m_entryBefore = -1; ///< current entry before the user began to type
 };

@@ -8,7 +8,7 @@
 #include <algorithm>
 
 namespace {
-constexpr int LongestPause = 1000; // ms between two keys of a diameter
+constexpr int LongestPause = 1000; // ms between two typed characters of a diameter
 
 bool isPartOfNumber(const QString& typed)
 {
@@ -64,7 +64,7 @@ void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
     VKD_QT4_ComboBox::changeEvent(event);
 }
 
-/// Lets the user type a diameter, although the entries begin with the diameter sign.
+/// Lets the user type a diameter without the diameter sign with which the entries begin.
 void VKD_A_BarDiameterCombo::keyPressEvent(QKeyEvent* event)
 {
     if (isPartOfNumber(event->text()))
@@ -79,9 +79,10 @@ void VKD_A_BarDiameterCombo::focusOutEvent(QFocusEvent* event)
     VKD_QT4_ComboBox::focusOutEvent(event);
 }
 
-/// Chooses only the bar with exactly the typed diameter. Other input restores the bar from before,
-/// because its first digits may have been another bar, and a tool tip says so. A pause begins a new
-/// diameter, unless a bar begins with the digits.
+/// Chooses a bar only if its diameter is exactly the typed one. Any other input restores the
+/// previous bar, because its first digits may have chosen another bar, and shows a tool tip. The
+/// first character after a pause starts a new diameter, unless the typed characters are only the
+/// beginning of a bar's diameter.
 void VKD_A_BarDiameterCombo::type(const QString& character)
 {
     const bool isComplete = typedEntry() >= 0 || !isBeginning();
@@ -102,7 +103,7 @@ void VKD_A_BarDiameterCombo::type(const QString& character)
             isBeginning() ? shown + QChar(0x2026) : tr("There is no bar %1.").arg(shown), this);
 }
 
-/// Returns the entry of the typed diameter, or -1.
+/// Returns the index of the entry with the typed diameter, or -1.
 int VKD_A_BarDiameterCombo::typedEntry() const
 {
     bool isNumber = false;
@@ -122,7 +123,7 @@ bool VKD_A_BarDiameterCombo::isBeginning() const
 void VKD_A_BarDiameterCombo::fill(float current)
 {
     const VKD_QT_SignalBlocker blocker(this);
-    m_typed.clear(); // m_entryBefore becomes invalid
+    m_typed.clear(); // because m_entryBefore becomes invalid
     QVector<float> diameters = m_bars.diameters();
     const bool isExtra = !isOffered(current) && current != NotSet;
     const auto place = std::upper_bound(diameters.begin(), diameters.end(), current);

@@ -5,7 +5,7 @@
 namespace vkd {
 namespace aniview {
 
-/// The projection for positions in the unit of a geometry.
+/// Projects positions in the unit of a geometry to the image.
 class PointProjection
 {
 public:
@@ -24,13 +24,13 @@ public:
     {
         return {m_middle.x() + dot(m_right, position), m_middle.y() + dot(m_down, position)};
     }
-    /// Returns the place of a point of the geometry in the image.
+    /// Returns the position of a geometry point in the image.
     QPointF pointToScreen(size_t index) const
     {
         return toScreen({double(m_geometry.x[index]), double(m_geometry.y[index]),
                          double(m_geometry.z[index])});
     }
-    /// These functions return the axes of the image in pixels per unit.
+    /// These functions return the axes of the image, in pixels per unit of the geometry.
     const Position& right() const { return m_right; }
     const Position& down() const { return m_down; }
 

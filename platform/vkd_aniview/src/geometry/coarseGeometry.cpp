@@ -156,7 +156,7 @@ void CellMerger::addLines()
                 lines.end());
 }
 
-/// Adds one support per cell, with the groups of the first.
+/// Adds one support per cell, with the groups of the first support in the cell.
 void CellMerger::addSupports()
 {
     for (const Support& support : m_fine.supports) {

@@ -14,7 +14,7 @@ namespace aniview {
 namespace {
 constexpr double Reach = 4.0; // pixels
 constexpr size_t BlockSize = 64;
-// Elements whose depths differ by less than a step are painted in the order of their indexes.
+// Depths are rounded to steps. Elements at the same step are painted in the order of their indexes.
 constexpr double StepsInUnit = 1 << 15;
 
 /// The points of an element.
@@ -65,7 +65,7 @@ bool isNearEdge(const QPointF* corners, int count, const QPointF& place)
     return false;
 }
 
-/// The frontmost of the elements that have been added in ascending order.
+/// The frontmost of the added elements. They must be added in ascending order of their indexes.
 struct Frontmost
 {
     void add(int newGroup, long newStep)
@@ -81,7 +81,7 @@ struct Frontmost
 };
 } // namespace
 
-/// The search for the element at one point.
+/// A search for the frontmost element at one point.
 struct HitTest::Search
 {
     bool meets(const Block& block) const
@@ -121,7 +121,7 @@ struct HitTest::Search
     const QPointF place;
     const std::vector<char>& isHidden;
     Frontmost exact{};
-    Frontmost close{}; // of the faces with an edge close to the point
+    Frontmost close{}; // among the faces with an edge close to the point
 };
 
 HitTest::HitTest(const ModelGeometry& geometry)

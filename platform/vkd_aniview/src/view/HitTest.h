@@ -6,9 +6,9 @@ namespace vkd {
 namespace aniview {
 
 /// Finds the element at a point of the image. Consecutive elements are usually close to each other,
-/// so they are combined into blocks, and the elements of a block are only considered if its
-/// bounding box is at the point. Therefore, finding an element takes much less time than a
-/// projection of the whole geometry.
+/// so they are combined into blocks, and the elements of a block are considered only if its
+/// bounding box is at the point. Therefore, finding an element takes much less time than projecting
+/// the whole geometry.
 class HitTest
 {
 public:
@@ -17,8 +17,8 @@ public:
 
     /// Returns the index of the group of the frontmost element at a point of the image, or -1. If
     /// there is no element at the point, a face with an edge close to the point is also considered,
-    /// so that the user can click a plate that is seen edge-on. `isHidden` contains a flag for each
-    /// group, or is empty if no group is hidden.
+    /// so that the user can click a plate seen edge-on. `isHidden` contains a flag for each group,
+    /// or is empty if no group is hidden.
     int groupAt(const Projection& projection, const QPointF& place,
                 const std::vector<char>& isHidden) const;
 

@@ -10,7 +10,7 @@ namespace aniview {
 namespace {
 constexpr int Steps = 1 << 16;
 
-/// A support is hidden with the last visible group at its point.
+/// A support is hidden only if all groups at its point are hidden.
 bool isInHiddenGroup(const ModelGeometry& geometry, size_t item, const std::vector<char>& isHidden)
 {
     const size_t faces = geometry.faces.size();

@@ -49,7 +49,7 @@ private:
     QRectF visiblePart() const;
 
     std::shared_ptr<const ModelGeometry> m_geometry = std::make_shared<ModelGeometry>();
-    std::shared_ptr<const HitTest> m_hitTest; // null until a point is searched
+    std::shared_ptr<const HitTest> m_hitTest; // null until the first search
     Camera m_camera;
     QSizeF m_size{1.0, 1.0};
     Picture m_picture;

@@ -6,8 +6,8 @@
 #include <QScreen>
 
 namespace {
-/// Returns the place for a window of this size that is nearest to `wanted`. If the window is larger
-/// than the area, its upper left corner is visible.
+/// Returns the position nearest to `wanted` at which a window of this size is within the area. If
+/// the window is larger than the area, its upper left corner is visible.
 QPoint placeWithin(const QRect& area, const QSize& size, QPoint wanted)
 {
     const QPoint last = area.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
@@ -23,7 +23,8 @@ KeepOnScreen::KeepOnScreen(QDialog* dialog)
     dialog->installEventFilter(this);
 }
 
-/// The layout handles the request before the event filters and may already have resized the dialog.
+/// The layout handles the request before the event filters do and may already have resized the
+/// dialog.
 bool KeepOnScreen::eventFilter(QObject* dialog, QEvent* event)
 {
     if (event->type() != QEvent::LayoutRequest || !m_dialog->layout())

@@ -54,8 +54,9 @@ void VKD_QT_TabDialog::chainButtons()
     }
 }
 
-/// Moves the focus to the first field of the page. Otherwise the default button would have focus. A
-/// dialog that is embedded in a window does not take the focus from other parts of the window.
+/// Moves the focus to the first field of the page. Otherwise, the default button would have the
+/// focus. A dialog that is embedded in a window does not take the focus from other parts of the
+/// window.
 void VKD_QT_TabDialog::enterPage()
 {
     const QWidget* page = m_tabs->currentWidget();
