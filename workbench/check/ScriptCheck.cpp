@@ -5,7 +5,7 @@
 namespace workbench {
 
 namespace {
-constexpr int MostClean = 20000; // lines; limits the memory for scripts without repeated lines
+constexpr int MostClean = 20000; // lines; limits memory use if few lines are repeated
 
 template <class Visit>
 void visitLines(const QString& script, Visit visit)
@@ -80,11 +80,12 @@ void ScriptCheck::checkLine()
     checkReferences(tokens);
 }
 
-/// Checks the statements around the plots. Returns whether the line needs no further check.
+/// Checks statements that begin, set up or end a program block. Returns whether the line needs no
+/// further checks.
 bool ScriptCheck::checkFrame(const ScriptToken& first)
 {
     const bool isProgram = text(first) == QLatin1String("PROG");
-    // The language of the title line is a setting of its own.
+    // The language of the title line is a separate setting.
     const bool isTitle = isTitleStatement(text(first));
     const bool isEnd = is(first, "ENDE", "END");
     const bool isSetup = text(first) == QLatin1String("SIZE");
@@ -124,7 +125,7 @@ void ScriptCheck::endProgram(const ScriptToken& token)
 
 void ScriptCheck::checkDefinition(const ScriptToken& token)
 {
-    m_isFrame = true; // depends on the other definitions
+    m_isFrame = true; // the result depends on the other definitions
     const ScriptDefinition found = scriptDefinition(text(token));
     if (found.name.isEmpty())
         return add(ScriptFinding::NoDefinition, token);
@@ -234,7 +235,7 @@ QVector<ScriptFinding> ScriptCheck::finish()
                      [](const ScriptFinding& a, const ScriptFinding& b) {
                          return a.line != b.line ? a.line < b.line : a.start < b.start;
                      });
-    m_clean.clear(); // the keys refer to the lines
+    m_clean.clear(); // the strings refer to the lines, which may now be destroyed
     return m_findings;
 }
 

@@ -22,9 +22,9 @@ struct ScriptGrammars
 };
 
 /// Checks a script line by line: the beginning, the end and the page setup of its program blocks,
-/// statements and keywords, values, definitions and load cases. It accepts exactly what the
-/// graphical output can make; a script that was edited by hand may be valid in spite of findings.
-/// Equal lines are checked once, because a plot has the same line for each load case.
+/// statements and keywords, values, definitions and load cases. It accepts only what the graphical
+/// output can generate, so it may report findings in a valid script that was edited by hand.
+/// Identical lines are checked only once, because scripts contain many of them.
 class ScriptCheck
 {
 public:
@@ -66,22 +66,22 @@ private:
     const LoadCases m_loadCases;
 
     QVector<ScriptFinding> m_findings;
-    QSet<QString> m_clean; // lines without findings, which depend on nothing but definitions
+    QSet<QString> m_clean; // lines without findings that need not be checked again
     QHash<QString, Name> m_names;
-    QStringView m_text; // of the current line
+    QStringView m_text; // the current line
     int m_line = -1;
     bool m_isInProgram = false;
     bool m_isTitleNext = false;
     bool m_hasProgram = false;
     bool m_hasSetup = false;
-    bool m_isFrame = false; // the current line begins or ends a block, or sets it up
+    bool m_isFrame = false; // the current line must be checked each time it occurs
 };
 
 /// Checks a whole script.
 QVector<ScriptFinding> checkScript(const QString& script, const ScriptGrammars& grammars,
                                    vkd::Language keywords, const ScriptCheck::LoadCases& loadCases);
 
-/// Returns the language in which more statements of a script are known.
+/// Returns the keyword language whose grammar contains more of the script's statements.
 vkd::Language likelyKeywords(const QString& script, const ScriptGrammars& grammars);
 
 } // namespace workbench

@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// Something in a script that the graphical output of this project cannot have made.
+/// A problem in a script: something that the project's graphical output cannot have generated.
 struct ScriptFinding
 {
     enum Problem {

@@ -9,14 +9,14 @@
 namespace workbench {
 
 /// The statements of a script in one keyword language: the keywords of each statement, the keywords
-/// that may follow each other, and the number of values after each keyword. The grammar is learnt
+/// that may follow each other, and the number of values after each keyword. The grammar is derived
 /// from examples of all lines that a script can contain, so it needs no list of keywords.
 class ScriptGrammar
 {
 public:
     struct Word
     {
-        int leastValues = -1; ///< -1: no example yet
+        int leastValues = -1; ///< -1 until an example has been read
         int mostValues = 0;
         QSet<QString> next; ///< keywords that may follow; an empty string is the statement's end
     };
@@ -43,22 +43,22 @@ private:
     QHash<QString, QSet<QString>> m_definitions;
 };
 
-/// Returns whether a statement begins the title line of a program block, which contains any text.
+/// Returns whether a keyword begins the title line of a program block. This line may contain any
+/// text.
 bool isTitleStatement(QStringView keyword);
-/// Returns whether a statement belongs to the beginning or the end of a program block, which is not
-/// part of a grammar.
+/// Returns whether a keyword begins a statement at the beginning or the end of a program block.
+/// These statements are not part of a grammar.
 bool isFrameStatement(QStringView keyword);
 
 /// A line "#define NAME=VALUE".
 struct ScriptDefinition
 {
-    QStringView name; ///< empty if the line has another form
+    QStringView name; ///< empty if the line does not have this form
     QStringView value;
 };
 ScriptDefinition scriptDefinition(QStringView line);
 
-/// Returns a string for a lookup, which shares the characters of the view. The string must not
-/// outlive the text.
+/// Returns a lookup key that shares the characters of `text` and must not outlive them.
 inline QString lookupKey(QStringView text)
 {
     return QString::fromRawData(text.data(), int(text.size()));

@@ -31,7 +31,7 @@ bool isSign(QStringView text, int at)
     return at < text.size() && (text[at] == QLatin1Char('-') || text[at] == QLatin1Char('+'));
 }
 
-/// Returns the position after the number at a position, or -1 if there is no number.
+/// Returns the position after the number that begins at `at`, or -1 if no number begins there.
 int numberEnd(QStringView text, int at)
 {
     if (isSign(text, at))
@@ -53,7 +53,7 @@ int numberEnd(QStringView text, int at)
     return at;
 }
 
-/// Returns the token at a position that is not blank.
+/// Returns the token that begins at `start`, where the line must not be blank.
 ScriptToken tokenAt(QStringView line, int start)
 {
     const auto from = [start](ScriptToken::Kind kind, int end) {

@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// A part of a line of a script. Spaces, quotes and brackets between the parts are left out.
+/// A token in a line of a script. Spaces, quotes and brackets between tokens are skipped.
 struct ScriptToken
 {
     enum Kind {
@@ -33,7 +33,7 @@ inline QStringView textOf(QStringView line, const ScriptToken& token)
     return line.mid(token.start, token.length);
 }
 
-/// Returns whether a text is a number, a product of numbers, or "-".
+/// Returns whether a string is a number, a product of numbers, or "-".
 bool isScriptValue(QStringView text);
 
 } // namespace workbench

@@ -9,7 +9,7 @@ class QSaveFile;
 
 namespace workbench {
 
-/// Text files that a command writes, either all of them or none. Existing files are replaced only
+/// Writes the text files of a command, either all of them or none. Existing files are replaced only
 /// after all files have been written.
 class WholeFiles
 {

@@ -53,14 +53,14 @@ std::vector<CommandLine::Option> options()
     return all;
 }
 
-/// A script, and its plots as a selection text.
+/// A script, and the selection text for its plots.
 struct Script
 {
     QString text;
     QString selection;
 };
 
-/// Creates the script of one output, with the settings that the arguments change.
+/// Creates the script of one output. The arguments may override its settings.
 Script makeScript(const CommandLine& line, VKD_H_ZOBDoc* document, const OutputState& saved)
 {
     const plib::Keywords keywords = plib::keywordsIf(
@@ -114,8 +114,8 @@ void checkOptionsOfAll(const CommandLine& line)
         throw CommandError{QStringLiteral("--into is missing")};
 }
 
-/// Writes the scripts of all outputs, which are read from the same state of the project. Prints the
-/// paths of the files.
+/// Reads all outputs from the same state of the project and writes their scripts. Prints the paths
+/// of the files.
 void writeAll(const CommandLine& line, VKD_H_ZOBDoc* document)
 {
     const ZobSnapshot snapshot(document->handle());

@@ -24,7 +24,7 @@ QString joined(const QVector<int>& numbers)
 }
 } // namespace
 
-/// Returns the plot that a line of a selection text checks, if there is one.
+/// Returns the plot that a line of a selection text checks, if any.
 std::optional<KeptPlots::Plot> KeptPlots::plotOf(const QString& line)
 {
     const QStringList parts = line.split(QLatin1Char(':'), Qt::SkipEmptyParts);
@@ -38,8 +38,8 @@ std::optional<KeptPlots::Plot> KeptPlots::plotOf(const QString& line)
     return isPartial && plot.numbers.isEmpty() ? std::nullopt : std::make_optional(plot);
 }
 
-/// Returns the plot with the load cases that the tree does not offer. A checked plot of the tree
-/// has all its load cases, even if they are added later.
+/// Returns the plot with only those load cases that the tree does not offer. A plot that is checked
+/// in the tree includes all its load cases, even if they are added later.
 std::optional<KeptPlots::Plot> KeptPlots::absentPart(const Plot& plot, const FindOffered& offered)
 {
     const auto found = offered(plot.identifier);

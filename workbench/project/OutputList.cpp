@@ -49,7 +49,7 @@ OutputList::OutputList()
     setStored();
 }
 
-/// A name that occurs twice, which only another program can have stored, gets a number.
+/// Appends a number to a duplicate name, which only another program can have stored.
 OutputList OutputList::read(ZobHandle project, VkdStatus* status)
 {
     const VKD_H_ProjectDialogPage entries(project, OutputDialogPage);
@@ -202,8 +202,8 @@ QString OutputList::faultOfName(const QString& name) const
                                          : ListText::tr("Another output has this name.");
 }
 
-/// The default name depends on the place and the language, so an output has it only while it is
-/// the only output.
+/// The default name depends on the position and the language, so an output has this name only while
+/// it is the only output.
 void OutputList::nameAll()
 {
     for (int i = 0; i < size(); ++i)

@@ -9,20 +9,21 @@ namespace workbench {
 
 constexpr int LongestOutputName = 80;
 
-/// An output of a project with the changes that have not been saved.
+/// An output of a project, including its unsaved changes.
 struct NamedOutput
 {
-    QString name; ///< empty for the only output of a project in which outputs have no names
+    QString name; ///< empty if the project has only one output, and it has no name
     OutputState state;
     bool isStateChanged = false;
     QString savedName;
-    OutputState savedState; ///< for a new output, its first state
+    OutputState savedState; ///< for a new output, its initial state
     int savedIndex = -1;    ///< -1 for a new output
 };
 
 /// The outputs of a project, of which there is always at least one, and the current output. The
-/// operations change only this list; put() saves it. The first output is stored as the only output
-/// of earlier versions, which ignore and preserve the others. Names are unique, ignoring case.
+/// operations change only this list; put() saves it. Earlier versions of the program support only
+/// one output: they read the first one, and ignore and preserve the others. Names are unique,
+/// ignoring case.
 class OutputList
 {
 public:
@@ -35,7 +36,8 @@ public:
     VkdStatus put(ZobHandle project) const;
     /// Must be called after the outputs have been stored.
     void setStored();
-    /// Return whether there are changes that have not been stored: to the list, or to one output.
+    /// These functions return whether there are any unsaved changes, or unsaved changes to one
+    /// output.
     bool isChanged() const;
     bool isChanged(int index) const;
 
@@ -55,8 +57,8 @@ public:
     /// Discards the changes to the state of the current output.
     void revert();
 
-    /// These functions change the current output or its place. A new output is inserted after the
-    /// current output and becomes the current output.
+    /// These functions change the current output or its position. A new output is inserted after
+    /// the current output and becomes the current output.
     void add(const QString& name, const OutputState& state);
     void rename(const QString& name);
     void move(int index);
@@ -67,7 +69,7 @@ public:
     QString newName() const;
     /// Returns the name, with a number appended if an output already has this name.
     QString unusedName(const QString& name) const;
-    /// Returns why the current output cannot have this name, or an empty string.
+    /// Returns the reason why the current output cannot have this name, or an empty string.
     QString faultOfName(const QString& name) const;
 
 private:

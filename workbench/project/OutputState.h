@@ -26,13 +26,13 @@ struct OutputState
 
     /// Reads the state of the first output of a project.
     static OutputState read(ZobHandle project);
-    /// These functions read and set the entries of the output with this number. The entries of
-    /// output 1 have no number, because a project that was saved before outputs had names contains
-    /// only this output.
+    /// These functions read and set the entries of the output with this number. The keys of output
+    /// 1 do not contain its number, because a project that was saved before outputs had names
+    /// contains only this output.
     static OutputState fromEntries(const VKD_H_ProjectDialogPage& entries, int number = 1);
     void setEntries(VKD_H_ProjectDialogPage* entries, int number = 1) const;
     static void deleteEntries(VKD_H_ProjectDialogPage* entries, int number);
-    /// Returns the key of an entry of the output with this number.
+    /// Returns the key of an entry for the output with this number.
     static QString entryKey(const char* name, int number);
     /// Writes the state of the first output to the project. Returns the status of
     /// VKD_H_ProjectDialogPage::save().

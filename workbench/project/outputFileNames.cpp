@@ -7,7 +7,7 @@
 namespace workbench {
 
 namespace {
-/// Windows also rejects names that end with a dot and the names of devices.
+/// Windows also rejects device names and names that end with a dot.
 QString allowedName(QString name)
 {
     static const QRegularExpression special(QStringLiteral("[\\x00-\\x1f\\x7f\"*/:<>?\\\\|]|\\.$"));

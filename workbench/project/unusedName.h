@@ -4,7 +4,7 @@
 
 namespace workbench {
 
-/// Returns the name, with a number appended if `isUsed` returns true for it.
+/// Returns the name, with a number appended if `isUsed` returns true for the name itself.
 template <typename IsUsed>
 QString unusedName(const QString& name, const IsUsed& isUsed)
 {

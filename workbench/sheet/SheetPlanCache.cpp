@@ -43,8 +43,8 @@ SheetPlanCache::Marks SheetPlanCache::takeMarksAfter(int position)
     return taken;
 }
 
-/// Reads the lines after the last mark. `moved` is the distance from the old marks to the same
-/// lines in the new script.
+/// Reads the lines after the last mark. `moved` is the number of characters by which the lines
+/// after the changes have moved.
 void SheetPlanCache::read(const Marks& oldMarks, const SheetPlan& oldPlan, int moved)
 {
     auto old = oldMarks.begin();
@@ -67,7 +67,7 @@ void SheetPlanCache::read(const Marks& oldMarks, const SheetPlan& oldPlan, int m
     }
 }
 
-/// Copies the rest of the old plan, and moves the old marks to their lines in the new script.
+/// Copies the rest of the old plan, and moves the old marks to the same lines in the new script.
 void SheetPlanCache::finish(Marks::const_iterator mark, Marks::const_iterator end,
                             const SheetPlan& oldPlan, int moved)
 {

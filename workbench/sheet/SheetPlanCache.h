@@ -8,19 +8,20 @@
 
 namespace workbench {
 
-/// The plan of a script that changes often. Reading starts at a mark before the first changed line.
-/// It ends at a mark after the last changed line if the reader has the same state there as before.
+/// Caches the plan of a script that changes often. When the script changes, reading starts at a
+/// mark before the first changed line. It stops at a mark after the last changed line if the reader
+/// has the same state there as before.
 class SheetPlanCache
 {
 public:
-    /// A mark is set after each group of this many lines.
+    /// `linesBetweenMarks` is the number of lines after which a mark is set.
     explicit SheetPlanCache(int linesBetweenMarks = 500);
 
     /// Returns the same plan as readSheetPlan(). The plan is valid until the next call.
     const SheetPlan& planOf(const QString& script);
 
 private:
-    /// The beginning of a line, and what the reader has read before it.
+    /// The position at which a line begins, and the reader's progress there.
     struct Mark
     {
         int position;
@@ -36,7 +37,7 @@ private:
     const int m_linesBetweenMarks;
     QString m_script;
     SheetPlanReader m_reader;
-    Marks m_marks{{0, {}}}; // ascending
+    Marks m_marks{{0, {}}}; // sorted by position
 };
 
 } // namespace workbench

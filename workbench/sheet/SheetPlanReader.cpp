@@ -250,7 +250,7 @@ SheetPlanReader::Progress SheetPlanReader::progress() const
     Progress progress;
     progress.state = m_state;
     progress.sheet = m_plan;
-    progress.sheet.views = {}; // clear() would copy them first
+    progress.sheet.views = {}; // clear() would first copy the shared views
     progress.sheet.pictures = {};
     progress.views = m_plan.views.size();
     progress.pictures = m_plan.pictures.size();
@@ -288,7 +288,7 @@ void SheetPlanReader::append(const SheetPlan& plan, const Progress& progress)
     whole.views = m_plan.views + plan.views.mid(progress.views);
     whole.pictures = m_plan.pictures;
     whole.pictures.reserve(m_plan.pictures.size() + plan.pictures.size() - progress.pictures);
-    if (progress.pictures > 0) // a later line may have joined a plot to it
+    if (progress.pictures > 0) // a later line may have added a plot to the last picture
         whole.pictures.last().secondLoadCase = plan.pictures[progress.pictures - 1].secondLoadCase;
     for (int i = progress.pictures; i < plan.pictures.size(); ++i) {
         whole.pictures.append(plan.pictures[i]);

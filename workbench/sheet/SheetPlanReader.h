@@ -12,7 +12,7 @@ namespace workbench {
 class SheetPlanReader
 {
 public:
-    /// The statements that apply to the next lines.
+    /// The effect of earlier statements on the next lines.
     struct State
     {
         bool hasSetup = false;
@@ -23,7 +23,7 @@ public:
         bool operator==(const State& other) const;
     };
 
-    /// What has been read up to a line. Views and pictures are only counted.
+    /// The reader's progress at a line. Contains only the numbers of views and pictures.
     struct Progress
     {
         State state;
@@ -31,19 +31,20 @@ public:
         int views = 0;
         int pictures = 0;
         PictureView lastView;
-        int secondLoadCase = 0; ///< of the last picture
+        int secondLoadCase = 0; ///< second load case of the last picture
     };
 
     void readLine(QStringView line);
     const SheetPlan& plan() const { return m_plan; }
 
     Progress progress() const;
-    /// Returns to an earlier line, if no line before it has changed.
+    /// Continues from an earlier line. The lines before it must be unchanged.
     void resume(const Progress& progress);
-    /// Returns whether the lines after `progress` would result in the same views and pictures here.
+    /// Returns whether the lines after `progress` would add the same views and pictures if they
+    /// were read now.
     bool continuesLike(const Progress& progress) const;
     /// Appends the views and pictures that `plan` has after `progress`, instead of reading the
-    /// lines again. continuesLike() must be true.
+    /// lines again. continuesLike() must return true.
     void append(const SheetPlan& plan, const Progress& progress);
 
 private:

@@ -104,7 +104,7 @@ void SheetPreview::keyPressEvent(QKeyEvent* event)
 void SheetPreview::layOut()
 {
     auto head = new QHBoxLayout;
-    head->setSpacing(4); // the pane fits beside the output page in a window of 1280 pixels
+    head->setSpacing(4); // the pane must fit beside the output page in a 1280-pixel-wide window
     head->addWidget(m_previous);
     head->addWidget(m_pageLabel);
     head->addWidget(m_page);

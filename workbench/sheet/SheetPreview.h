@@ -34,8 +34,8 @@ public:
     /// is empty until setPlan() is called.
     void setProject(ZobHandle project, const QString& name);
     void setPlan(const SheetPlan& plan);
-    /// Turns to the page of a picture, counted from 0. If the preview is hidden, it turns to the
-    /// page when it receives the next plan.
+    /// Shows the page that contains a picture. Pictures are counted from 0. If the preview is
+    /// hidden, it shows the page when it receives the next plan.
     void showPicture(int picture);
     /// Returns the painter of the project's sheets; the preview owns it.
     SheetPainter& painter() { return *m_painter; }
@@ -61,7 +61,7 @@ private:
     VKD_QT4_ComboBox* m_zoom;
     QToolButton* m_export;
     SheetView* m_view;
-    int m_picture = -1; // the picture that showPicture() has still to show
+    int m_picture = -1; // picture whose page must still be shown, or -1
 };
 
 } // namespace workbench

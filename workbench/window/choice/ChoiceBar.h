@@ -13,9 +13,10 @@ namespace workbench {
 
 class ChoiceTable;
 
-/// The line above a table of load cases: a filter for numbers, ranges and words, and buttons that
-/// check or uncheck rows. The buttons change only the rows that the filter shows; Return, or the
-/// button for it, checks exactly these rows. Each button makes a single change.
+/// The bar above a table of load cases: a filter for numbers, ranges and words, and buttons that
+/// check or uncheck rows. All, None and Invert change only the rows that the filter shows. Only
+/// These, or Return, checks these rows and unchecks the others; Kind does the same for the rows of
+/// one kind. Each button makes a single change.
 class ChoiceBar : public QWidget
 {
     Q_OBJECT
@@ -23,8 +24,8 @@ class ChoiceBar : public QWidget
 public:
     /// `name` is the object name.
     ChoiceBar(QWidget* parent, const char* name);
-    /// Sets the table, which must outlive the line. It is created after the line, so that it
-    /// follows in the tab order.
+    /// Sets the table, which must outlive the bar. The table must be created after the bar so that
+    /// it follows the bar in the tab order.
     void setTable(ChoiceTable* table);
 
 protected:

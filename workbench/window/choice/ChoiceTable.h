@@ -7,7 +7,7 @@ class QTableView;
 
 namespace workbench {
 
-/// A table of numbered rows with check boxes, as ChoiceBar uses it.
+/// A table of numbered rows with check boxes, for use with ChoiceBar.
 class ChoiceTable
 {
 public:
@@ -16,9 +16,10 @@ public:
     virtual QTableView* view() = 0;
     virtual int numberInRow(int row) const = 0;
     virtual QString titleInRow(int row) const = 0;
-    /// Returns the kind of a row, for display; rows of the same kind have the same string.
+    /// Returns the display name of the row's kind. Rows of the same kind have the same name.
     virtual QString kindInRow(int row) const = 0;
-    /// Returns the numbers of the unchecked rows, and changes them in one step.
+    /// These functions return or set the numbers of the unchecked rows. The setter makes a single
+    /// change.
     virtual QSet<int> leftOutNumbers() const = 0;
     virtual void chooseAllBut(const QSet<int>& numbers) = 0;
 };

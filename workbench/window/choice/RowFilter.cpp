@@ -7,7 +7,8 @@
 namespace workbench {
 
 namespace {
-/// Is called for each row after each key, so it does not compile a regular expression.
+/// This function is called for each row after each keystroke, so it avoids compiling a regular
+/// expression.
 bool hasWord(const QString& title, const QString& word)
 {
     const auto isInWord = [&title](int at) {

@@ -8,8 +8,8 @@
 
 namespace workbench {
 
-/// The text of a filter for rows that have a number and a title, for example "1-20, 101" or "wind".
-/// Parts are separated by spaces, commas or semicolons. A row must match one of the numbers and
+/// A filter for rows that have a number and a title, for example "1-20, 101" or "wind". Its terms
+/// are separated by spaces, commas or semicolons. The row's number must match one of the numbers or
 /// ranges, if there are any, and its title must contain all words.
 class RowFilter
 {
