@@ -89,7 +89,7 @@ void RowsInView::pageChanged()
 
 void RowsInView::groupsChanged()
 {
-    m_marked.clear(); // the view may show another model
+    m_marked.clear(); // the view may now show another model
     m_widgets.banner->setGroupsWithoutAreas(m_widgets.groups->groupsWithoutAreas());
     readRows();
 }

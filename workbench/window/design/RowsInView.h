@@ -48,8 +48,8 @@ public:
 
     /// Returns the current row, or -1 if there is none or if its groups cannot be changed.
     int changeableRow() const;
-    /// Adds groups to a row and removes them from other rows, or removes them from the row. The row
-    /// must be one whose groups can be changed.
+    /// These functions add groups to a row or remove groups from it. Groups that are added are
+    /// removed from other rows. The groups of the row must be changeable.
     void add(int row, const QVector<int>& groups);
     void remove(int row, const QVector<int>& groups);
     /// Returns the row of a group, which may be the row for the remaining groups, or -1.
@@ -78,7 +78,7 @@ private:
     RowColours* m_colours;
     QHash<int, int> m_rowOf; // the first row of each group
     int m_remainingRow = -1;
-    std::set<int> m_marked; // in the view and in the list
+    std::set<int> m_marked; // groups marked in the view and in the list
 };
 
 } // namespace workbench

@@ -9,7 +9,8 @@
 namespace workbench {
 
 namespace {
-/// The other actions, for example Copy and Delete, would be surprising in another pane.
+/// Returns whether the shortcut also works in panes without a page. The shortcuts of other actions,
+/// such as Copy and Delete, would be surprising there.
 bool worksEverywhere(const QAction* action)
 {
     for (const char* name : {"undo", "redo", "duplicateRows"})

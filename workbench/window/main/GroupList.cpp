@@ -55,7 +55,7 @@ GroupList::GroupList(QWidget* parent)
             Q_EMIT groupSelected(groupOf(current));
     });
     connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
-        if (QApplication::keyboardModifiers() == Qt::NoModifier) // does not extend the selection
+        if (QApplication::keyboardModifiers() == Qt::NoModifier) // no multiple selection
             Q_EMIT groupChosen(groupOf(item));
     });
     setTexts();
@@ -250,7 +250,8 @@ void GroupList::fitColumns()
     fitTitles();
 }
 
-/// Elides long titles rather than the contents, but not the header of their column.
+/// Elides long titles to leave enough width for the contents, but never elides the header of the
+/// title column.
 void GroupList::fitTitles()
 {
     int others = qMax(sizeHintForColumn(ContentsColumn),

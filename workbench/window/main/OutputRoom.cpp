@@ -12,7 +12,7 @@
 namespace workbench {
 
 namespace {
-constexpr int ModelLetters = 40; // the narrowest model beside the page, in average letters
+constexpr int ModelLetters = 40; // minimum width of the model, in average character widths
 }
 
 OutputRoom::OutputRoom(const Widgets& widgets, QObject* owner)
@@ -28,7 +28,8 @@ OutputRoom::OutputRoom(const Widgets& widgets, QObject* owner)
     connect(output, &QDockWidget::dockLocationChanged, this, &OutputRoom::arrange);
 }
 
-/// A message that is shown in a hidden centre only receives an event for its parent.
+/// If a message is shown while the centre of the window is hidden, it receives only
+/// QEvent::ShowToParent.
 bool OutputRoom::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isResized = watched == m_widgets.window && event->type() == QEvent::Resize;
@@ -68,7 +69,7 @@ bool OutputRoom::showsModel() const
            room >= ModelLetters * window->fontMetrics().averageCharWidth();
 }
 
-/// In a narrow window, the script gives up the width that the page needs.
+/// In a narrow window, the script is made narrower so that the page fits.
 void OutputRoom::arrange()
 {
     QMainWindow* window = m_widgets.window;

@@ -10,25 +10,25 @@ namespace workbench {
 
 class OutputDock;
 
-/// Gives the docked output page the room that it needs beside the script. In a window that is too
-/// narrow for the page, the model and the script, the page takes the place of the model, because it
-/// has a view of its own. The model is shown again while another dock covers the page.
+/// Makes room for the docked output page beside the script. In a window that is too narrow for the
+/// page, the model and the script, the page takes the place of the model, because the page has a
+/// view of its own. The model is shown again while another dock covers the page.
 class OutputRoom : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The widgets that the object uses.
+    /// The widgets that are arranged or watched.
     struct Widgets
     {
         QMainWindow* window;
         OutputDock* output;
-        QDockWidget* groups; ///< is tabbed with the page
+        QDockWidget* groups; ///< tabbed with the page
         QDockWidget* script;
-        QWidgetList messages; ///< in the centre of the window, which stays visible for them
+        QWidgetList messages; ///< while one of them is shown, the centre of the window is visible
     };
 
-    /// The owner must destroy the object before the window destroys the widgets.
+    /// `owner` must destroy the object before the window destroys the widgets.
     OutputRoom(const Widgets& widgets, QObject* owner);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

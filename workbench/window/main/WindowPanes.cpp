@@ -129,8 +129,9 @@ void WindowPanes::resizeDocks()
     shares->add({design}, Qt::Vertical);
 }
 
-/// The page is wide, and it needs a few rows. While its dock is closed, the script has the whole
-/// height. When it opens, the model, whose groups the page highlights, becomes visible.
+/// The design page is wide and needs the height of a few rows. While its dock is closed, the script
+/// uses the whole height. When the dock opens, the model becomes visible, because the page
+/// highlights groups in it.
 void WindowPanes::makeRoomForDesign()
 {
     const bool isBelow = !design->isHidden() && !design->isFloating();
@@ -145,8 +146,8 @@ void WindowPanes::makeRoomForDesign()
         m_window->resizeDocks({design}, {wanted}, Qt::Vertical);
 }
 
-/// Tabs the page with the groups when it is first shown, because there is no room for both. Doing
-/// this earlier would show a tab bar with a single tab.
+/// Tabs the output page with the groups when it is first shown, because there is no room for both.
+/// Doing this earlier would show a tab bar with a single tab.
 void WindowPanes::placeOutput()
 {
     if (output->isHidden() || std::exchange(m_isOutputPlaced, true))
@@ -215,7 +216,7 @@ void WindowPanes::restoreGeometry()
     m_window->restoreGeometry(settings.value(GeometryKey).toByteArray());
     m_window->restoreState(settings.value(StateKey).toByteArray(), StateVersion);
     for (PageDock* dock : pageDocks())
-        dock->hide(); // until a project is open and the user opens the dock
+        dock->hide(); // stays hidden until a project is open and the user opens the dock
 }
 
 void WindowPanes::saveGeometry() const

@@ -9,9 +9,9 @@ class QTreeWidgetItem;
 
 namespace workbench {
 
-/// The captions and plots in the tree of an output page by identifier. A caption takes precedence
-/// over its descendants, and the last of several plots over the others, as when a page reads its
-/// saved string. The object is valid until the tree is rebuilt.
+/// Finds captions and plots in the tree of an output page by identifier. Among items with the same
+/// identifier, a caption takes precedence over its descendants, and the last plot over the others,
+/// as when a page reads its saved string. The object is valid until the tree is rebuilt.
 class OfferedPlots
 {
 public:

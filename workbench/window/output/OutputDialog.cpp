@@ -74,7 +74,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     , m_offers(new OutputOffers(document->handle(), m_page, m_view))
 {
     setWindowFlags(Qt::Widget);
-    setAttribute(Qt::WA_Moved); // otherwise a dialog moves to the centre of its parent
+    setAttribute(Qt::WA_Moved); // otherwise, the dialog moves to the centre of its parent
     setHelpTopic(this, "GRAV/OUTPUT");
     setHelpTopic(m_page, "GRAV/SETTINGS");
     setHelpTopic(m_plots, "GRAV/PLOTS");
@@ -98,7 +98,7 @@ OutputDialog::~OutputDialog()
 
 void OutputDialog::setButtons()
 {
-    layout()->setContentsMargins(0, 0, 0, 0); // those of the dock
+    layout()->setContentsMargins(0, 0, 0, 0); // the tabs fill the dock
     QPushButton* apply = buttons()->cmdOk();
     apply->setText(tr("&Apply"));
     apply->setToolTip(tr("Stores the choice of plots in the project file (Ctrl+S)"));
@@ -125,7 +125,8 @@ void OutputDialog::enter()
         tabWidget()->setFocus();
 }
 
-/// Keeps the tabs visible. A field that rejects its text gets the focus.
+/// Keeps the tabs visible. If a field rejects its text, gives it the focus and does not emit
+/// accepted().
 void OutputDialog::done(int result)
 {
     if (result == Rejected)
@@ -134,7 +135,8 @@ void OutputDialog::done(int result)
         Q_EMIT accepted();
 }
 
-/// Escape and Return do not discard or apply the choice, as they would in a dialog.
+/// Prevents Escape and Return from discarding or applying the choice, which they would do in a
+/// dialog.
 void OutputDialog::keyPressEvent(QKeyEvent* event)
 {
     event->ignore();
@@ -152,7 +154,7 @@ void OutputDialog::addTabs()
          {"undo", "redo", "findPlots", "findNextPlot", "findPreviousPlot", "uncheckPlots"})
         addAction(m_page->findChild<QAction*>(QLatin1String(name)));
     const auto find = m_page->findChild<QAction*>(QStringLiteral("findPlots"));
-    connect(find, &QAction::triggered, this, [this, find] { // from another tab
+    connect(find, &QAction::triggered, this, [this, find] { // shows the plots first
         if (tabWidget()->currentIndex() == 0)
             return;
         tabWidget()->setCurrentIndex(0);

@@ -28,10 +28,10 @@ struct OutputPresent
     TreeViewState plots;
 };
 
-/// The tabs for the graphical output of a project, which OutputDock shows. They contain the page
-/// with its own view, the offered load cases, and plots that are offered although the model lacks
-/// their content. The class is a dialog because the page looks for a tab dialog among its
-/// ancestors. Apply emits accepted() and Discard emits rejected(); neither hides the tabs.
+/// The tabs for the graphical output of a project. OutputDock shows them. The tabs contain the page
+/// with its own view, the offered load cases, and the option to offer plots whose content the model
+/// lacks. The class is a dialog because the page looks for a tab dialog among its ancestors. Apply
+/// emits accepted() and Discard emits rejected(); neither hides the tabs.
 class OutputDialog : public VKD_H_TabDialog
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
-    /// Enables Apply and Discard.
+    /// Enables or disables Apply and Discard.
     void enableButtons(bool canApply, bool canDiscard);
     /// Gives the focus to the tree of plots, or to the first field if another tab is shown.
     void enter();

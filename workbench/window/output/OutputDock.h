@@ -11,7 +11,7 @@ namespace workbench {
 class OutputDialog;
 
 /// The dock with the graphical output of the open project. OutputEditor owns the dialog that the
-/// dock shows; it also exists while the dock is closed, because it creates the script.
+/// dock shows. The dialog creates the script, so it exists even while the dock is closed.
 class OutputDock : public PageDock
 {
     Q_OBJECT
@@ -19,10 +19,11 @@ class OutputDock : public PageDock
 public:
     explicit OutputDock(QWidget* parent);
 
-    /// Shows a dialog, which is not owned and may be destroyed while it is shown. A null pointer
-    /// removes the dialog, which stays a hidden child of the dock.
+    /// Shows a dialog, which is not owned and may be destroyed while it is shown. If the pointer is
+    /// null, hides the current dialog, which remains a child of the dock.
     void setDialog(OutputDialog* dialog);
-    /// Returns the width of the page without scroll bars, including the frame of the dock.
+    /// Returns the width of the dock, including its frame, at which the page needs no horizontal
+    /// scroll bar.
     int widthOfPage() const;
     void setTexts();
     QList<QAction*> pageActions() const override;

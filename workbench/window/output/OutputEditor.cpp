@@ -131,15 +131,15 @@ bool OutputEditor::store()
     return true;
 }
 
-/// Replaces the dialog with one that has the state of the project. The new dialog is created when
-/// the script is updated.
+/// Replaces the dialog with a new one that shows the state of the project. The new dialog is
+/// created when the script is updated.
 void OutputEditor::reload()
 {
     m_areOutputsRead = false;
     renew();
 }
 
-/// Discards the changes to the current output. Other outputs keep their changes.
+/// Discards the changes to the current output. Changes to other outputs are preserved.
 void OutputEditor::discard()
 {
     m_outputs.revert();

@@ -17,9 +17,9 @@ class OutputDock;
 class ProjectAccess;
 class WindowMessages;
 
-/// Edits the graphical outputs of the open project: owns the dialog of the current output in the
-/// dock, and reads and stores all outputs. The dialog also exists while the dock is closed, because
-/// it creates the script.
+/// Edits the graphical outputs of the open project: owns the dialog for the current output in the
+/// dock, and reads and stores all outputs. The dialog creates the script, so it exists even while
+/// the dock is closed.
 class OutputEditor : public QObject
 {
     Q_OBJECT
@@ -37,18 +37,19 @@ public:
     OutputDialog* dialog();
     /// Returns the state for recreate(), or an empty optional if the dialog does not exist.
     std::optional<EditedOutputs> present() const;
-    /// Returns whether there are changes to the outputs that are not stored.
+    /// Returns whether the outputs have unsaved changes.
     bool isChanged() const;
-    /// Stores all outputs in the project. Returns whether they are stored.
+    /// Stores all outputs in the project. Returns whether this succeeded.
     bool store();
     /// Asks whether to store changes. Returns false if the user cancels or storing fails.
     bool mayLeave();
 
     /// Opens the dock, if the project can be read, and gives it the focus.
     void edit();
-    /// Marks unsaved changes in the title of the dock. Returns whether there are any.
+    /// Shows in the title of the dock whether there are unsaved changes. Returns whether there are
+    /// any.
     bool markChanges();
-    /// Creates a new dialog with the state of a previous dialog, and continues with its outputs.
+    /// Creates a new dialog with the state and the outputs of a previous dialog.
     void recreate(const EditedOutputs& before);
     /// Continues with a project that has been reloaded. Changed outputs are preserved.
     void continueAfterReload(const EditedOutputs& before);
@@ -60,13 +61,13 @@ public:
 
     /// Returns the outputs without the changes in the dialog.
     const OutputList& outputs() const { return m_outputs; }
-    /// Returns whether an output is changed. For the current output, this is the last result of
-    /// isChanged(), because comparing the plots takes time.
+    /// Returns whether an output has unsaved changes. For the current output, the result is as of
+    /// the last call to isChanged() without an argument, because comparing the plots takes time.
     bool isChanged(int output) const;
-    /// Changes names or the order of the outputs. The current output must not change.
+    /// Changes the names or the order of the outputs. The same output must remain current.
     void editList(const std::function<void(OutputList*)>& change);
-    /// Changes the current output, and shows it in a new dialog. The changes in the previous dialog
-    /// are preserved in the list.
+    /// Makes another output current, and shows it in a new dialog. The changes in the previous
+    /// dialog are preserved in the list.
     void changeCurrent(const std::function<void(OutputList*)>& change);
     /// Calls `work` with a dialog for each output, until it returns false. Only the dialog of the
     /// current output is shown. Returns whether all calls have returned true.
@@ -95,7 +96,7 @@ private:
     OutputDock* m_dock;
     OutputList m_outputs;
     bool m_areOutputsRead = false;
-    mutable bool m_isDialogChanged = false; ///< when isChanged() was last called
+    mutable bool m_isDialogChanged = false; ///< as of the last call to isChanged()
     std::unique_ptr<OutputDialog> m_dialog;
 };
 

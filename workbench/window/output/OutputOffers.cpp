@@ -17,7 +17,7 @@
 namespace workbench {
 
 namespace {
-constexpr QChar Separator = u' '; // in the text of a state
+constexpr QChar Separator = u' '; // separates the values in stateText()
 
 QLabel* newHint(const QString& text)
 {
@@ -129,8 +129,8 @@ void OutputOffers::readTo(OutputState* state) const
     state->leftOutNumbers = m_loadCases->leftOutNumbers();
 }
 
-/// The tree is rebuilt between begin() and finish(), which checks the user's plots again. Together,
-/// this is one undo step.
+/// The tree is rebuilt between begin() and finish(). finish() checks the user's plots again. The
+/// whole change is one undo step.
 void OutputOffers::begin()
 {
     QMetaObject::invokeMethod(m_steps, "begin");
@@ -159,7 +159,7 @@ QString OutputOffers::stateText() const
     return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers);
 }
 
-/// Is called by undo and redo. The page itself restores the plots afterwards.
+/// Called by undo and redo. The page itself restores the plots afterwards.
 void OutputOffers::restoreState(const QString& text)
 {
     const int content = text.section(Separator, 0, 0).toInt();

@@ -27,9 +27,9 @@ public:
 
     void addTabs(VKD_H_TabDialog* dialog);
 
-    /// Shows the saved state, without a signal, and clears the undo steps of the page.
+    /// Shows the saved state without emitting a signal, and clears the undo steps of the page.
     void restore(const OutputState& saved);
-    /// Returns the string of the page. It also contains the chosen plots that the page does not offer.
+    /// Returns the string of the page, including the chosen plots that the page does not offer.
     QString page() const { return m_choice.page(); }
     /// Returns the number of chosen plots that the page does not offer.
     int absentPlots() const { return m_choice.absentPlots(); }
@@ -52,7 +52,7 @@ private:
     ZobHandle m_project;
     VKD_P_WidgetGraphicalOutput* m_page;
     PlotChoice m_choice;
-    QObject* m_steps; ///< see VKD_P_WidgetGraphicalOutput_Steps.h
+    QObject* m_steps; ///< the page's undo steps; see VKD_P_WidgetGraphicalOutput_Steps.h
     LoadCaseTable* m_loadCases = nullptr;
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;

@@ -9,7 +9,7 @@ class VKD_P_WidgetGraphicalOutput;
 
 namespace workbench {
 
-/// Returns the string of a page without plots, with the settings of a saved string.
+/// Returns a saved string of a page without its plots, but with its settings.
 QString withoutPlots(QString page);
 
 /// The user's choice of plots on an output page. The class preserves the choice and the view of the
@@ -27,7 +27,7 @@ public:
     void setProposed();
     /// Shows a saved string of a page. Plots and load cases that the page does not offer are kept.
     void setSaved(const QString& page);
-    /// Returns the string of the page, with the plots that the page does not offer.
+    /// Returns the string of the page, including the plots that the page does not offer.
     QString page() const;
     /// Returns the number of chosen plots that the page does not offer.
     int absentPlots() const;
@@ -48,7 +48,7 @@ private:
     TreeViewState m_look; ///< the view of the tree before the change
     KeptPlots m_kept;
     QString m_chosen; ///< selection text of the user's plots; null for the proposal
-    QString m_shown;  ///< part of the text that the page could show after the last change
+    QString m_shown;  ///< selection text that the page could show after the last change
 };
 
 } // namespace workbench

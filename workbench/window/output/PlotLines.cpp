@@ -29,7 +29,7 @@ QStringList possibleLines(QObject* script, vkd::Language keywords)
     return lines;
 }
 
-/// Returns the numbers of all load cases, or no set if the project cannot be read at the moment.
+/// Returns the numbers of all load cases, or std::nullopt if the project currently cannot be read.
 ScriptCheck::LoadCases loadCasesOf(const OpenProject& project)
 {
     VkdStatus status;
@@ -40,7 +40,7 @@ ScriptCheck::LoadCases loadCasesOf(const OpenProject& project)
     return project.isOpen() && status.isOk() ? std::make_optional(numbers) : std::nullopt;
 }
 
-/// Returns the captions of a plot, followed by the load case of a row.
+/// Returns the captions of a plot. If the item is a row with a load case, the title ends with it.
 QString titleOf(const QTreeWidgetItem* item)
 {
     const bool isRow = item->data(0, LoadCaseRole).isValid();

@@ -14,9 +14,9 @@ class ScriptPane;
 class SheetPreview;
 class WindowMessages;
 
-/// Relates the lines in the script pane to the plots of the output page. A click on a line makes
-/// its plot the current item of the tree and turns to its sheet; the lines of the current plot are
-/// marked. Also provides the data against which the script is checked.
+/// Links the lines in the script pane to the plots of the output page. A click on a line makes its
+/// plot the current item of the tree and shows its sheet; the lines of the current plot are marked.
+/// The class also provides the data against which the script is checked.
 class PlotLines : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ private:
     SheetPreview* m_sheets;
     QPointer<QTreeWidget> m_tree;
     QPointer<QObject> m_script;
-    bool m_isChoosing = false; // the pane sets the current item of the tree
+    bool m_isChoosing = false; // whether a click in the pane is changing the current item
 };
 
 } // namespace workbench

@@ -13,7 +13,7 @@ QVector<PlotCaption> checkedPlots(QTreeWidget* tree)
         QTreeWidgetItemIterator::Checked | QTreeWidgetItemIterator::NoChildren;
     QVector<PlotCaption> plots;
     const QTreeWidgetItem* last = nullptr;
-    QString caption; // of the last plot, which usually has many rows
+    QString caption; // caption of the last plot, reused for all its rows
     for (QTreeWidgetItemIterator it(tree, checkedLeaves); *it; ++it) {
         const QVariant loadCase = (*it)->data(0, LoadCaseRole);
         const QTreeWidgetItem* plot = loadCase.isValid() ? (*it)->parent() : *it;

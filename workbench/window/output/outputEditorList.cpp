@@ -46,8 +46,8 @@ void OutputEditor::editList(const std::function<void(OutputList*)>& change)
     Q_EMIT modified();
 }
 
-/// The state of the list stays that of the project until the user changes it, so that an output
-/// that was only shown is not marked as changed.
+/// The state in the list is replaced only if the user has changed it, so that an output that has
+/// only been shown is not marked as changed.
 void OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
 {
     if (!dialog())

@@ -8,7 +8,7 @@ class QListWidget;
 
 namespace workbench {
 
-/// Asks which outputs of another project are to be copied. At first, all of them are checked.
+/// Asks which outputs of another project are to be copied. Initially, all of them are checked.
 class CopyOutputsDialog : public VKD_H_Dialog
 {
     Q_OBJECT

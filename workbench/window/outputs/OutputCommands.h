@@ -23,9 +23,9 @@ struct OutputParts
     WindowMessages* messages;
 };
 
-/// The commands of the list of outputs: new, duplicate, rename, delete, move, copy from another
-/// project, and files of all outputs. The list in the pane follows the editor. No command changes
-/// the project file.
+/// The commands for the list of outputs: new, duplicate, rename, delete, move, copy from another
+/// project, and saving files for all outputs. The list in the pane follows the editor. The commands
+/// do not change the project file.
 class OutputCommands : public QObject
 {
     Q_OBJECT

@@ -34,7 +34,8 @@ OutputFiles::OutputFiles(const OpenProject* project, OutputEditor* editor, Windo
 {
 }
 
-/// Asks for a folder, and before files are replaced. Returns an empty list if the user cancels.
+/// Asks for a folder, and for confirmation if files would be replaced. Returns an empty list if the
+/// user cancels.
 QStringList OutputFiles::choosePaths(const QString& title, const QString& suffix)
 {
     QWidget* window = m_messages->window();

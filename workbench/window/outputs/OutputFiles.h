@@ -10,8 +10,8 @@ class OutputEditor;
 class SheetPreview;
 class WindowMessages;
 
-/// Saves the scripts or the sheets of all outputs, each in a file with the name of the output. An
-/// output without plots has no file.
+/// Saves the scripts or the sheets of all outputs, each in a file with the name of the output.
+/// Outputs without plots are skipped.
 class OutputFiles
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::OutputFiles)

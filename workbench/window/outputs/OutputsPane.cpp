@@ -14,8 +14,8 @@
 
 namespace workbench {
 
-/// A list that shows a few rows. Its height is fixed, so that the panes below it do not move when
-/// outputs are added.
+/// A list with the height of a few rows. The height is fixed so that the panes below do not move
+/// when outputs are added.
 class ShortList : public QListWidget
 {
 public:
@@ -67,7 +67,7 @@ OutputsPane::OutputsPane(QWidget* parent)
     , m_more(new QToolButton(this))
     , m_note(new QLabel(this))
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // leaves the room to the script
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // leaves room for the script
     m_list->setObjectName(QStringLiteral("OutputList"));
     m_list->setEditTriggers(QAbstractItemView::DoubleClicked);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -129,7 +129,7 @@ void OutputsPane::layOut()
 void OutputsPane::listen()
 {
     connect(rename, &QAction::triggered, this, &OutputsPane::editName);
-    // Another output is shown after the list has handled its events.
+    // The other output is shown only after the list has handled the event.
     connect(m_list, &QListWidget::currentRowChanged, this, &OutputsPane::chosen,
             Qt::QueuedConnection);
     connect(m_list, &QListWidget::itemChanged, this,

@@ -12,8 +12,8 @@ namespace workbench {
 
 class ShortList;
 
-/// The list of a project's outputs, with actions to edit it. The pane only shows the list; it does
-/// not change it. OutputCommands carries out the actions.
+/// The list of a project's outputs, with actions to edit it. The pane only shows the list;
+/// OutputCommands carries out the actions.
 class OutputsPane : public QWidget
 {
     Q_OBJECT

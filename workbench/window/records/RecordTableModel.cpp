@@ -103,8 +103,8 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
     return {};
 }
 
-/// Nine significant digits distinguish all single-precision numbers. A value that is not set has no
-/// text. A secondary group is shown by its name.
+/// Nine significant digits distinguish all single-precision numbers. A value that is not set is
+/// shown as an empty cell, and a secondary group by its name.
 QString RecordTableModel::wordText(quint32 word, int row)
 {
     if (isInteger(row)) {
