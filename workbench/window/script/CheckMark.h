@@ -18,9 +18,9 @@ struct CheckSource
     std::function<ScriptCheck::LoadCases()> loadCases;
 };
 
-/// Checks the script of a view a moment after each change and shows the number of findings, which
-/// the view underlines. A click steps to the next finding. The script is checked later than it is
-/// shown, so that clicks in the output page are not delayed.
+/// Checks the script of a view shortly after each change and shows the number of findings. The view
+/// underlines the findings, and a click selects the next one. The check runs after the script has
+/// been shown, so that it does not delay clicks in the output page.
 class CheckMark : public QToolButton
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ private:
     ScriptGrammars m_grammars;
     vkd::Language m_keywords = vkd::Language::English;
     QTimer m_waiting;
-    int m_shown = -1; // index of the finding that the last click has selected
+    int m_shown = -1; // index of the finding that the last click selected
 };
 
 } // namespace workbench

@@ -48,7 +48,7 @@ QToolButton* FindBar::newButton(const char* name, Qt::ArrowType arrow)
     button->setObjectName(QLatin1String(name));
     button->setArrowType(arrow);
     button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::NoFocus); // there are keys
+    button->setFocusPolicy(Qt::NoFocus); // its shortcut is used instead
     return button;
 }
 

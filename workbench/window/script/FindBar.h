@@ -11,8 +11,8 @@ namespace workbench {
 
 class ScriptView;
 
-/// The line below a script in which the user types words to find. All hits are marked; Return, F3
-/// and Shift+F3 step through them, and Escape closes the line.
+/// The bar below a script for finding words in it. All hits are marked; Return, F3 and Shift+F3
+/// step through them, and Escape closes the bar.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -21,12 +21,12 @@ public:
     /// `view` is not owned and must outlive the bar.
     FindBar(ScriptView* view, QWidget* parent);
 
-    /// Shows the bar with the focus in it. If words of one line are selected in the script, the bar
-    /// finds these words.
+    /// Shows the bar and gives it the focus. If the selection in the script lies within one line,
+    /// searches for the selected words.
     void open();
-    /// Selects the next or the previous hit. At the end, continues at the other end.
+    /// Selects the next or the previous hit, and wraps around at either end.
     void step(bool isForward);
-    /// Finds the words in a new script, after the present event has been processed.
+    /// Searches a new script after the current event has been processed.
     void scriptChanged();
 
 protected:

@@ -8,7 +8,7 @@ namespace workbench {
 
 class ScriptGrammar;
 
-/// Highlights statements, keywords, numbers, definitions and comments of a script, and provides the
+/// Highlights statements, keywords, numbers, definitions and comments in a script, and provides the
 /// colours of marks. A word is highlighted as a keyword only if the grammar contains it.
 class ScriptColours
 {
@@ -22,7 +22,7 @@ public:
                                               const ScriptGrammar* grammar) const;
     /// Returns the background for changed lines.
     const QColor& changed() const { return m_changed; }
-    /// Returns the colour of marks where lines were removed.
+    /// Returns the colour of the marks that show where lines were removed.
     const QColor& removed() const { return m_removed; }
     /// Returns the format of words that were found.
     const QTextCharFormat& hit() const { return m_hit; }

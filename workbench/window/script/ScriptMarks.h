@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// What a script view marks in addition to the selection.
+/// The marks in a script view, apart from the selection.
 struct ScriptMarks
 {
     QVector<LineChange> changes; ///< since the previous script, in ascending order
@@ -15,17 +15,17 @@ struct ScriptMarks
     int linesOfPlot = 0;
     QVector<ScriptFinding> findings; ///< in the order of the script
 
-    /// Returns whether a line is new.
+    /// Returns whether a line was not in the previous script.
     bool isChanged(int line) const;
-    /// Returns the number of lines that were removed before a line and not replaced.
+    /// Returns the number of lines before this line that were removed without being replaced.
     int removedBefore(int line) const;
     bool isOfPlot(int line) const
     {
         return line >= firstOfPlot && line < firstOfPlot + linesOfPlot;
     }
-    /// Returns the first hit that begins at this position or after it.
+    /// Returns the index of the first hit that begins at or after this position.
     int hitAt(int position) const;
-    /// Returns the index of the first finding of this line or a later one.
+    /// Returns the index of the first finding in this line or a later one.
     int findingAt(int line) const;
 };
 

@@ -69,7 +69,7 @@ ScriptPane::ScriptPane(QAction* copy, QAction* save, QWidget* parent)
     setTexts();
 }
 
-/// The shortcut works in the whole pane; the action is also in the menu of the script.
+/// The shortcut works in the whole pane; the action is also in the script's context menu.
 QAction* ScriptPane::newAction(const char* name, const QKeySequence& shortcut)
 {
     auto action = new QAction(this);
@@ -178,7 +178,7 @@ void ScriptPane::setTexts()
     m_language->setAccessibleName(tr("Language of the keywords"));
     m_text->setAccessibleName(tr("Script"));
     m_find->setText(tr("&Find..."));
-    m_find->setIconText(tr("Find")); // on the button below the script
+    m_find->setIconText(tr("Find")); // text of the button below the script
     m_find->setToolTip(tr("Finds words in the script (Ctrl+F)"));
     m_next->setText(tr("Find &Next"));
     m_previous->setText(tr("Find &Previous"));

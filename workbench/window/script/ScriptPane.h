@@ -19,8 +19,8 @@ struct LineChange;
 class ScriptView;
 class TextLines;
 
-/// Shows the script of the current selection, with the lines of the last change, a search and the
-/// result of its check.
+/// Shows the script of the current selection. Marks the lines that changed last, and provides a
+/// search and the result of checking the script.
 class ScriptPane : public QWidget
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ public:
 
 Q_SIGNALS:
     void keywordsChosen(vkd::Language language);
-    /// Emitted if the user clicks a line, or presses Return in it.
+    /// Emitted when the user clicks a line or presses Return in it.
     void lineChosen(int line);
 
 protected:

@@ -1,5 +1,5 @@
-// The part of the view that shows the script. scriptViewGeometry.cpp contains the places of the
-// lines, and scriptViewInput.cpp handles keyboard and mouse.
+// The part of the view that draws the script. scriptViewGeometry.cpp computes the positions of the
+// lines, and scriptViewInput.cpp handles keyboard and mouse input.
 
 #include "window/script/ScriptView.h"
 
@@ -188,7 +188,7 @@ void ScriptView::paintLine(QPainter& painter, const LinePlace& place) const
                           CursorWidth);
 }
 
-/// Returns the formats of the words, the hits and the findings of a line.
+/// Returns the formats of the words, the hits and the findings in a line.
 ScriptView::Formats ScriptView::formatsOf(int line) const
 {
     Formats formats = m_colours.formats(m_lines.line(line).toString(), m_grammar);

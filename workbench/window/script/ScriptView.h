@@ -15,9 +15,9 @@ class ScriptGutter;
 /// Shows a script of any length, with line numbers. The user can select and copy parts of it. The
 /// lines of the last change have a coloured background. Only visible lines are laid out and
 /// coloured, and a line needs four bytes in addition to its text. Filling the document of a
-/// QPlainTextEdit would take ten times as long as generating the script, and nine times as much
-/// memory as the text. The font must be a fixed-width font. The vertical scroll bar counts lines,
-/// so wrapped lines need not be laid out before they are visible.
+/// QPlainTextEdit would take ten times as long as generating the script, and need nine times as
+/// much memory as the text. The font must be a fixed-width font. The vertical scroll bar counts
+/// lines, so wrapped lines need not be laid out before they are visible.
 class ScriptView : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ class ScriptView : public QAbstractScrollArea
     Q_PROPERTY(QString placeholderText READ placeholderText WRITE setPlaceholderText)
 
 public:
-    /// A line and its place in the viewport, in pixels.
+    /// A line and its position in the viewport, in pixels.
     struct LinePlace
     {
         int line;
@@ -38,7 +38,7 @@ public:
     const TextLines& lines() const { return m_lines; }
     QString plainText() const { return m_lines.text(); }
     /// Replaces the text, marks the changes and removes all other marks. The view scrolls only if
-    /// necessary to show the first change.
+    /// this is necessary to show the first change.
     void setLines(const TextLines& lines, const QVector<LineChange>& changes);
 
     const ScriptMarks& marks() const { return m_marks; }
@@ -50,7 +50,7 @@ public:
     void setPlot(int firstLine, int lineCount);
     void setFindings(const QVector<ScriptFinding>& findings);
     const ScriptColours& colours() const { return m_colours; }
-    /// Sets the keywords that are highlighted. The grammar must outlive the view.
+    /// Sets the grammar whose keywords are highlighted. The grammar must outlive the view.
     void setGrammar(const ScriptGrammar* grammar);
 
     QString placeholderText() const { return m_placeholder; }
@@ -76,17 +76,17 @@ public:
     QRect cursorRect(int position) const;
     /// Returns the line nearest to a vertical position in the viewport.
     int lineNear(int y) const;
-    /// Returns the places of the lines that are at least partly visible.
+    /// Returns the positions of the lines that are at least partly visible.
     QVector<LinePlace> visiblePlaces() const;
 
 Q_SIGNALS:
-    /// Emitted if the user clicks a line, or presses Return in it.
+    /// Emitted when the user clicks a line or presses Return in it.
     void lineChosen(int line);
 
 public Q_SLOTS:
     void copy() const;
     void selectAll();
-    /// Sets whether lines are wrapped at the width of the view.
+    /// Sets whether lines are wrapped to the width of the view.
     void setWrapped(bool isWrapped);
 
 protected:

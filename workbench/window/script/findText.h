@@ -5,8 +5,8 @@
 
 namespace workbench {
 
-/// Returns the positions of all occurrences of `words` in a text, in ascending order. They do not
-/// overlap. The case of the letters is ignored.
+/// Returns the positions of all occurrences of `words` in `text`, ignoring case, in ascending
+/// order. The occurrences do not overlap.
 QVector<int> findText(const QString& text, const QString& words);
 
 } // namespace workbench

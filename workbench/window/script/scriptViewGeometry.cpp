@@ -1,4 +1,4 @@
-// The part of the view that computes the places of the lines.
+// The part of the view that computes the positions of the lines.
 
 #include "window/script/ScriptGutter.h"
 #include "window/script/ScriptView.h"
@@ -23,10 +23,10 @@ void ScriptView::setWrapped(bool isWrapped)
     updateAll();
 }
 
-/// In a fixed-width font, most lines are obviously short enough, so they need no layout.
+/// Because the font has a fixed width, most lines are known to fit without being laid out.
 int ScriptView::heightOf(int line) const
 {
-    constexpr int WidestInCells = 2; // characters of East Asian scripts
+    constexpr int WidestInCells = 2; // width of East Asian characters
     const int width = viewport()->width() - 2 * Margin;
     const int length = m_lines.end(line) - m_lines.start(line);
     if (!m_isWrapped || length * WidestInCells * fontMetrics().averageCharWidth() <= width)
@@ -70,7 +70,7 @@ int ScriptView::lineNear(int y) const
     return qBound(0, line, m_lines.count() - 1);
 }
 
-/// The places of wrapped lines outside the viewport are estimates.
+/// If lines are wrapped, the positions of lines outside the viewport are estimates.
 QPoint ScriptView::placeOf(int line) const
 {
     const int first = verticalScrollBar()->value();
@@ -123,7 +123,7 @@ void ScriptView::layOut(QTextLayout& layout, int line, const Formats& formats) c
     layout.endLayout();
 }
 
-/// Measures the text. In a fixed-width font, the line with the most characters is the widest line.
+/// Measures the text. In a fixed-width font, the line with the most characters is the widest.
 void ScriptView::measure()
 {
     const QString longest = m_lines.line(m_lines.longest()).toString();
@@ -153,7 +153,7 @@ void ScriptView::fitScrollBars()
     across->setRange(0, m_isWrapped ? 0 : qMax(0, m_textWidth + 2 * Margin - viewport()->width()));
 }
 
-/// Returns the first line from which all lines to the end are visible.
+/// Returns the first line that can be at the top while the last line is completely visible.
 int ScriptView::lastTop() const
 {
     int line = m_lines.count() - 1;
@@ -168,7 +168,7 @@ void ScriptView::scrollTo(int position)
 {
     QScrollBar* down = verticalScrollBar();
     const int line = m_lines.lineAt(position);
-    int first = line; // the first line from which the line is completely visible
+    int first = line; // the topmost line with which `line` is completely visible
     int room = viewport()->height() - 2 * Margin - heightOf(line);
     while (first > down->value() && (room -= heightOf(first - 1)) >= 0)
         --first;

@@ -173,7 +173,7 @@ void ScriptView::dragSelection()
     drag->exec(Qt::CopyAction);
 }
 
-/// The menu of a line without a selection applies to this line.
+/// If nothing is selected, the menu applies to the line under the mouse.
 void ScriptView::contextMenuEvent(QContextMenuEvent* event)
 {
     if (event->reason() == QContextMenuEvent::Mouse && m_anchor == m_cursor.position) {

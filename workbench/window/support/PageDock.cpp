@@ -16,7 +16,7 @@ void PageDock::setTitle(const QString& title)
     setWindowTitle(title + QLatin1String("[*]"));
 }
 
-/// If the dock stays open, the action that closes it must stay checked.
+/// If the dock stays open, the action that toggles it must stay checked.
 void PageDock::closeEvent(QCloseEvent* event)
 {
     if (m_mayClose && !m_mayClose()) {

@@ -6,8 +6,8 @@
 
 namespace workbench {
 
-/// A dock with a page of the open project. It asks before it is closed, its title marks unsaved
-/// changes, and it provides actions of the page for the Edit menu.
+/// A dock with a page of the open project. It can ask for confirmation before it is closed, its
+/// title marks unsaved changes, and it provides actions of the page for the Edit menu.
 class PageDock : public QDockWidget
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
 Q_SIGNALS:
     /// Emitted after the dock has been closed.
     void closed();
-    /// Emitted after the dock has received another page or no page.
+    /// Emitted after the page in the dock has been replaced or removed.
     void pageChanged();
 
 protected:

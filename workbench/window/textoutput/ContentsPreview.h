@@ -15,7 +15,7 @@ class ContentsPreview : public QGroupBox
 public:
     explicit ContentsPreview(QWidget* parent);
 
-    /// Shows a text. An empty text disables the buttons.
+    /// Shows the contents. If the text is empty, the buttons are disabled.
     void setContents(const QString& text);
 
     /// Returns a size that is smaller than the text, so that the dialog fits on a small screen.

@@ -292,7 +292,7 @@ QVector<int> TextOutputDialog::printedCombinations() const
                                    : m_combinationTable->numbersOf(kind);
 }
 
-/// Loads have load cases, and results also have combinations.
+/// Loads are printed for load cases, and results for load cases and combinations.
 QVector<PrintedList> TextOutputDialog::printedLists() const
 {
     const auto [chosen, allValues] = printedExtent();
