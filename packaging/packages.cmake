@@ -58,7 +58,7 @@ ${sentence}
  .
  This package contains the guides, examples and the reference of the headers.")
 
-# Each package has its copyright file and its changelog.
+# Each package contains a copyright file and a changelog.
 execute_process(COMMAND date -R -u -d ${PLIB_RELEASE_DATE} OUTPUT_VARIABLE date
                 OUTPUT_STRIP_TRAILING_WHITESPACE)
 set(changelog ${CMAKE_CURRENT_BINARY_DIR}/changelog)

@@ -23,7 +23,7 @@ public:
     /// These functions return the line, which is valid until next() is called.
     const char* bytes() const { return m_line; }
     int length() const { return m_length; }
-    /// Returns whether the line is complete, so that the next line is not the rest of it.
+    /// Returns whether the line is complete, that is, not continued by the next line.
     bool isWhole() const;
 
 private:

@@ -32,7 +32,8 @@ bool isAscii(const char* bytes, int length)
     return !(all & Q_UINT64_C(0x8080808080808080));
 }
 
-/// Returns whether the first part equals `known`. This takes less time than finding its end.
+/// Returns whether the first part equals `known`. This is faster than searching for the end of the
+/// part.
 bool beginsWithPart(const char* begin, const char* end, const std::string& known)
 {
     const auto length = size_t(end - begin);

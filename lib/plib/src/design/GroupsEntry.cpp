@@ -131,7 +131,7 @@ void GroupsEntry::enter(int direction)
         table->setCurrentCell(row, table->currentColumn());
 }
 
-/// A text that is not accepted is lost, so the message says that the row keeps its groups.
+/// Text that is not accepted is lost, so the message says that the row keeps its groups.
 void GroupsEntry::leave()
 {
     const QString refusal = apply();

@@ -38,7 +38,7 @@ private:
     DesignParameter* m_page;
     QPointer<GroupsLine> m_line;
     int m_row = -1;   ///< the row that is being edited
-    QString m_before; ///< the initial text
+    QString m_before; ///< initial text of the line edit
 };
 
 } // namespace plib

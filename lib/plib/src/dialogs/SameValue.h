@@ -8,7 +8,7 @@ namespace plib {
 
 class RowStrip;
 
-/// Copies the value of a dialog's current field to the other fields of the same kind, when the user
+/// Copies the value of a dialog's current field to the other fields of the same kind when the user
 /// clicks a button in the strip of the dialog or presses Ctrl+Enter. The rows change only on OK.
 /// The object is a child of the dialog.
 class SameValue : public QObject

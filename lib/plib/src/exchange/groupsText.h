@@ -28,8 +28,8 @@ struct GroupsReading
     QStringList missing;     ///< parts that match no known group
 };
 
-/// Reads numbers, ranges and names of secondary groups, for example "1-4, 7". Rejects a text if any
-/// part of it matches no known group. "None" and "Remaining Groups" are read in both languages;
+/// Reads numbers, ranges and names of secondary groups, for example "1-4, 7". Rejects the text if
+/// any part of it matches no known group. "None" and "Remaining Groups" are read in both languages;
 /// "remaining" is also accepted.
 GroupsReading readGroupsText(const QString& text, const KnownGroups& known);
 

@@ -37,9 +37,9 @@ public:
     StepStack(QWidget* page, std::size_t mostSize, QObject* history);
     ~StepStack() override;
 
-    /// Adds a step that the user has already made.
+    /// Adds a step for a change that the user has already made.
     void push(const std::shared_ptr<HistoryStep>& step);
-    /// Removes all steps. The page counts as unmodified.
+    /// Removes all steps. Afterwards, the page counts as unmodified.
     void clear();
     bool isModified() const { return !m_stack.isClean(); }
     void setModified(bool isModified);

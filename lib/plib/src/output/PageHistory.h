@@ -54,7 +54,7 @@ private:
     void restore(const PageState& state);
 
     WidgetGraphicalOutputData& m_data;
-    PageState m_known; ///< after the last step
+    PageState m_known; ///< state after the last step
     int m_depth = 0;   ///< number of nested changes; nothing is recorded unless it is 0
     QString m_clicked; ///< name of the step for the item that has just been checked or unchecked
     StepStack m_stack;

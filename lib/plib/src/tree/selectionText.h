@@ -93,9 +93,9 @@ private:
     QHash<QString, Node*> m_items;
 };
 
-/// Returns the numbers between the commas. Each is read like QStringRef::toInt(), which returns 0
-/// for any other text. Short sequences of ASCII digits are converted directly, because a selection
-/// text consists mostly of such numbers.
+/// Returns the numbers between the commas. Each number is read as by QStringRef::toInt(), which
+/// returns 0 for text that is not a number. Short sequences of ASCII digits are converted directly,
+/// because a selection text consists mostly of such numbers.
 QVector<int> selectionNumbers(const QStringRef& text);
 
 /// One valid line of a selection text.
@@ -223,7 +223,7 @@ private:
     }
 
     /// Does the same for the children of an item whose rows are listed by number. If several rows
-    /// have the same number, the last one is listed; the others get the state of the item.
+    /// have the same number, the list refers to the last one; the others get the state of the item.
     template <typename SetLeaf>
     Qt::CheckState setRows(Node* item, Order order, RowOrders rows, const SetLeaf& setLeaf)
     {

@@ -144,7 +144,7 @@ VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
 {
     delete m_menu;
     m_menu = new VKD_QT_Menu(this);
-    // If another action has the standard shortcut for Copy, it copies something else.
+    // An added action with the standard shortcut for Copy copies something else.
     const bool isKeyTaken = hasActionFor(QKeySequence::Copy);
     QAction* copy = m_menu->addAction(isKeyTaken ? tr("Copy Cell Texts") : tr("Copy"), this,
                                       &VKD_H_TableWidget::copySelection);
