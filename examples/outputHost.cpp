@@ -20,7 +20,7 @@ int main(int argc, char* argv[])
     vkd_lib_setvalue(VKD_SETTING_LANGUAGE, QLocale().language() == QLocale::German ? 0 : 1);
     vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, 1); // the keyword language of the script's header
     QApplication application(argc, argv);
-    vkd_qt_translateQt(); // the dialogs also contain texts of Qt
+    vkd_qt_translateQt(); // the dialogs also contain Qt's own strings
     const auto project = VKD_H_ZOBDoc::open(QApplication::arguments().value(1));
     if (!project)
         return 1; // the reason is in the log

@@ -190,8 +190,8 @@ private:
                          QStringLiteral("1"), QStringLiteral("hio=0.0%1").arg(monkey.below(9))});
     }
 
-    /// Returns the number of parts of the project with changes that are not stored. Does not use
-    /// the modification marker in the window title, because it is updated only by the event loop.
+    /// Returns the number of parts of the project with unsaved changes. Does not use the
+    /// modification marker in the window title, because only the event loop updates it.
     static int changes(const MainWindow& window)
     {
         const auto plots = window.findChild<OutputDialog*>();
@@ -200,7 +200,7 @@ private:
                (text && text->isChanged()) + hasNewRows(window);
     }
 
-    /// Returns whether the list shows outputs as changed.
+    /// Returns whether the list shows any output as changed.
     static bool hasNewOutputs(const MainWindow& window)
     {
         const auto list = find<QListWidget>(window, "OutputList");
@@ -210,7 +210,7 @@ private:
         return areNew;
     }
 
-    /// Returns whether outputs were deleted or moved since the project was stored.
+    /// Returns whether outputs have been deleted or moved since the project was stored.
     static bool isOtherList(const MainWindow& window, const QString& project)
     {
         const auto list = find<QListWidget>(window, "OutputList");

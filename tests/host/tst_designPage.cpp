@@ -275,20 +275,20 @@ private Q_SLOTS:
             "Another row is for the remaining groups. Row 2 keeps its groups.");
     }
 
-    /// Text that is not accepted stays in the line until the user leaves it.
+    /// Rejected text stays in the line until the line loses the focus.
     void typedGroups()
     {
         QFETCH(const QString, typed);
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 1, 1), record(2, 1, 2)});
         QTableWidget* table = desk.table();
         table->setCurrentCell(0, 0);
-        desk.keys({Qt::Key_3}); // the first row is fixed
+        desk.keys({Qt::Key_3}); // ignored, because the groups of the first row are fixed
         table->setCurrentCell(1, 0);
         desk.keys({Qt::Key_Escape, Qt::Key_3});
         QCOMPARE(find<QLineEdit>(desk, "groupsLine")->text(), QStringLiteral("3"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         desk.keys({Qt::Key_F2});
-        QTest::keyClicks(QApplication::focusWidget(), typed); // replaces the groups
+        QTest::keyClicks(QApplication::focusWidget(), typed); // the typed text replaces the groups
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         const bool isAccepted = table->currentRow() == 2;
         QCOMPARE(find<QAction>(*desk.page, "undo")->isEnabled(), isAccepted);
@@ -336,11 +336,11 @@ private Q_SLOTS:
         QApplication::activeWindow()->close();
     }
 
-    /// A wide page gives its room to the columns, first to those whose texts are wrapped. A column
-    /// that the user has dragged keeps its width.
+    /// A wide page distributes its width among the columns, starting with those whose text wraps. A
+    /// column that the user has resized keeps its width.
     void columnWidths()
     {
-        DesignDesk desk(*m_project, {record(1, 0, 0)}); // short texts
+        DesignDesk desk(*m_project, {record(1, 0, 0)}); // the text in the cells is short
         const auto widths = [&desk](int width) {
             desk.resize(width, 500);
             QTest::qWait(0);
@@ -480,7 +480,7 @@ private Q_SLOTS:
             desk->press("btnNew");
             desk->table()->setCurrentCell(1, column);
             if (column == 0)
-                desk->keys({Qt::Key_3}); // the line is applied when the button gets the focus
+                desk->keys({Qt::Key_3}); // applied when the button gets the focus
             whenModal([&desk](QWidget*) { desk.reset(); });
             if (column == 1) // no dialog for this column; checkVals() shows a question
                 QVERIFY(!desk->page->checkVals());

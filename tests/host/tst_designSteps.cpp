@@ -216,7 +216,7 @@ private Q_SLOTS:
             QTest::keyClicks(hio, QStringLiteral("7"));
             QCOMPARE(hio->text(), QStringLiteral("7"));
             QTest::keyClick(hio, Qt::Key_Backspace);
-            QTest::keyClick(hio, Qt::Key_Delete); // not set in any row
+            QTest::keyClick(hio, Qt::Key_Delete); // sets the value to "not set" in all rows
         });
         QCOMPARE(shown, QStringLiteral("Rows 1-3: groups 1, 2 and remaining groups|rio 0.0|riu 0.0|"
                                        "hio several|hiu 35.0|hioq several|hiuq 10.0"));
@@ -302,7 +302,7 @@ private Q_SLOTS:
         desk.table()->setCurrentCell(0, 3);
         QStringList shown;
         whenModal([&](QWidget* dialog) {
-            QApplication::setActiveWindow(dialog); // shortcuts need it
+            QApplication::setActiveWindow(dialog); // shortcuts require an active window
             const auto step = [&](Qt::Key key) {
                 QTest::keyClick(dialog, key, Qt::AltModifier);
                 shown << QStringLiteral("%1 at %2 with %3 fields, aso %4%5 %6")
@@ -355,7 +355,7 @@ private Q_SLOTS:
         const auto enter = [&desk](int column, const char* field, const QString& text) {
             desk.table()->setCurrentCell(1, column);
             whenModal([&](QWidget* dialog) {
-                QApplication::setActiveWindow(dialog); // shortcuts need it
+                QApplication::setActiveWindow(dialog); // shortcuts require an active window
                 auto edit = dialog->findChild<QLineEdit*>(QLatin1String(field));
                 QWidget* focused = edit ? edit : find<QWidget>(*dialog, field);
                 focused->setFocus();
@@ -380,8 +380,8 @@ private Q_SLOTS:
                                 "-1e+05"));
     }
 
-    /// The dialog says which of its values the table shows. It stays at its row if the host has
-    /// removed the others.
+    /// The dialog says which of its values the table shows. It continues to edit its row if the
+    /// host has removed the other rows.
     void crackControlOfARow()
     {
         QStringList notes;

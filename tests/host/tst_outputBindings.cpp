@@ -194,7 +194,7 @@ private Q_SLOTS:
             QCOMPARE(sent.size(), 0);
             for (int times = 0; times < 2; ++times) {
                 Q_EMIT dialog.currentChanged(container);
-                QCOMPARE(sent.size(), times); // posted only once
+                QCOMPARE(sent.size(), times); // emitted only once, and not immediately
                 QCoreApplication::processEvents();
                 QCOMPARE(sent.size(), 1);
             }

@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(itemOf(range.value(0) + range.value(1) - 1), row);
         QCOMPARE(itemOf(0), nullptr);
         desk.page.slotDefaultSettings();
-        QCOMPARE(itemOf(range.value(0)), nullptr); // the tree is new
+        QCOMPARE(itemOf(range.value(0)), nullptr); // the tree has been rebuilt
     }
 
     void aNewPage()
@@ -157,7 +157,7 @@ private Q_SLOTS:
     }
 
     /// Undo and redo exactly restore the page and the host's load cases. The page has no animator,
-    /// and therefore no view at first.
+    /// so it initially has no view.
     void undoingEachStep()
     {
         Desk desk(m_project);
@@ -220,11 +220,12 @@ private Q_SLOTS:
             desk.find<QAction>("redo")->trigger();
             QCOMPARE(desk.page.writeXMLstring(), states[i]);
         }
-        desk.page.readXMLstring(states[0]); // another state is no step
+        desk.page.readXMLstring(states[0]); // reading a state does not add an undo step
         QVERIFY(!undo->isEnabled());
     }
 
-    /// The line below the page is updated with the host's script, and otherwise by itself.
+    /// The counts below the page are updated when the host requests the script, and automatically
+    /// after other changes.
     void countsAndWarning()
     {
         Desk desk(m_project);
@@ -255,7 +256,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!QApplication::activeModalWidget());
         QCOMPARE(click(QMessageBox::Yes), Qt::Checked);
         QTRY_VERIFY(counts().startsWith(QLatin1String("Plots: 2, pictures: 601, sheets: 301, ")));
-        for (const Qt::CheckState state : {Qt::Unchecked, Qt::Checked}) { // asks only once
+        for (const Qt::CheckState state : {Qt::Unchecked, Qt::Checked}) { // no further confirmation
             QTest::keyClick(desk.tree(), Qt::Key_Space);
             QCOMPARE(plot->checkState(0), state);
         }
@@ -265,8 +266,8 @@ private Q_SLOTS:
         QTRY_COMPARE(counts(), QStringLiteral("No plot is checked, so there is no script."));
     }
 
-    /// A sheet with its shadow and the lines between the pictures: the visible colours along a row
-    /// and a column, and the number of pixels of each colour.
+    /// Each icon shows a sheet with its shadow and the lines between its pictures. Compares the
+    /// colours along a row and a column, and the number of pixels of each colour.
     void picturesOfTheSplit()
     {
         HostProject project(QStringLiteral("hall"));

@@ -11,7 +11,7 @@ import xml.etree.ElementTree as ET
 
 PUBLIC_HEADER = re.compile(r'/(platform/\w+|lib/plib)/include/')
 SYMBOL = 'elf-symbol-id'
-# Symbols of templates of the standard library, which depend on the compiler.
+# Matches the symbols of standard library templates, which depend on the compiler.
 STANDARD = re.compile(r'_Z(TV|TI|TS|GV)?Z?N?K?(S|9__gnu_cxx)')
 PLACE = ('filepath', 'line', 'column')
 

@@ -197,7 +197,7 @@ private Q_SLOTS:
         QCOMPARE(text(rows), QStringLiteral("-1:1 1:4 :0 5:2"));
     }
 
-    /// Row 0 is reserved, and the number of a row may be outdated.
+    /// Row 0 is reserved. An outdated row number may be out of range.
     void operationsOfARow()
     {
         plib::DesignParameterData rows = data();

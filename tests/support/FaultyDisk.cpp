@@ -29,7 +29,7 @@ using Names = QMap<QByteArray, size_t>; // maps file names in the folder to file
 /// A file was created, removed or renamed.
 struct NameChange
 {
-    QByteArray removed, added; // names, or an empty string
+    QByteArray removed, added; // file names; empty if none was removed or added
     size_t file;
 
     void apply(Names& names) const
@@ -43,9 +43,9 @@ struct NameChange
 struct Disk
 {
     QByteArray folder;
-    std::vector<QByteArray> synced;  // contents when the files were last synced
-    Names names, syncedNames;        // now, and when the folder was last synced
-    std::vector<NameChange> changes; // since the folder was synced
+    std::vector<QByteArray> synced;  // contents of each file when it was last synced
+    Names names, syncedNames;        // current names; names when the folder was last synced
+    std::vector<NameChange> changes; // changes since the folder was last synced
     Fault fault = Fault::None;
     int call = 0, calls = 0;
     QByteArray failedCall;
@@ -101,7 +101,7 @@ void sync(const QByteArray& name)
     if (name == ".") {
         disk->syncedNames = disk->names;
         disk->changes.clear();
-    } else if (disk->names.contains(name)) { // else the file was deleted while it was open
+    } else if (disk->names.contains(name)) { // otherwise, it was deleted while open
         disk->synced[disk->names[name]] = contentOf(name);
     }
 }

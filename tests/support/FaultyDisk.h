@@ -20,7 +20,7 @@ public:
         Full,     ///< starting with this call, creating and writing fail with ENOSPC
         PowerCut, ///< the power is cut before the call
         TornCut,  ///< like PowerCut, but random parts of the unsynced changes are stored
-        NameCut,  ///< like PowerCut, but the last unsynced change of a file name is stored
+        NameCut,  ///< like PowerCut, but the last unsynced NameChange is stored
         None
     };
 

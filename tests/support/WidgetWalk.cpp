@@ -352,8 +352,8 @@ void Walk::lookAtStop(const QWidget* stop, QVector<const QWidget*>& before)
     before << stop;
 }
 
-/// Returns whether two actions with the same shortcut can be meant at the same time. The shortcuts
-/// of two pages are apart if they only work while their page has the focus.
+/// Returns whether the shortcut of two actions can be ambiguous. It is not ambiguous if the actions
+/// belong to different pages and work only while their own page has the focus.
 static bool clashes(const QAction* first, const QAction* second)
 {
     if (first == second)

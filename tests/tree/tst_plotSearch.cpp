@@ -142,7 +142,7 @@ private Q_SLOTS:
         QTest::mouseClick(desk.tree->viewport(), Qt::LeftButton, {},
                           desk.tree->visualItemRect(slabs).topLeft() + box);
         QCOMPARE(slabs->checkState(0), Qt::PartiallyChecked);
-        desk.words()->setText(QStringLiteral("mom")); // whole plots
+        desk.words()->setText(QStringLiteral("mom")); // matches plots with all their rows
         desk.tree->setCurrentItem(desk.tree->topLevelItem(0));
         for (const auto& [key, state] :
              {std::pair(Qt::Key_Space, Qt::Checked), {Qt::Key_Space, Qt::Unchecked}}) {

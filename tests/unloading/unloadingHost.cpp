@@ -36,9 +36,9 @@ QString mapped()
     return names.join(QLatin1Char(' '));
 }
 
-/// Uses the received objects in the ways in which Qt may use them: paints icons, translates texts,
-/// sends events, and creates and destroys values of all types. Checks that Qt's own texts are still
-/// in English although the language of the plug-in is German.
+/// Uses the received objects in the ways in which Qt may use them: paints icons, translates
+/// strings, sends events, and creates and destroys values of all types. Checks that Qt's own
+/// strings are still English although the language of the plug-in is German.
 void useApplication()
 {
     const QString cancel = QCoreApplication::translate("QPlatformTheme", "Cancel");

@@ -79,7 +79,7 @@ private Q_SLOTS:
         row("no number", "1.,6", 12.7F);
     }
 
-    /// Only a diameter that the list contains is chosen.
+    /// Only a diameter that the list contains can be chosen.
     void typing()
     {
         QFETCH(const QString, typed);

@@ -108,8 +108,8 @@ private Q_SLOTS:
         }
     }
 
-    /// The platform's buttons are German although Qt's texts are not. Qt's texts change only for a
-    /// host that has no translation of its own.
+    /// The labels of the platform's buttons are German even if Qt's own strings are not. Qt's
+    /// strings are translated only if the host has not installed a translation.
     void textsOfQtBelongToTheHost()
     {
         struct HostTexts : QTranslator

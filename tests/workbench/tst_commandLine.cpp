@@ -171,8 +171,8 @@ private Q_SLOTS:
         QFile::remove(path("saved.zob"));
     }
 
-    /// A project with named outputs prints the same scripts as projects with a single output, and
-    /// the first output without any option.
+    /// The scripts of named outputs are the same as those of projects with a single output. Without
+    /// options, the script of the first output is printed.
     void namedOutputs()
     {
         QFile::copy(path("building.zob"), path("outputs.zob"));

@@ -109,7 +109,7 @@ private Q_SLOTS:
         auto filter = find<QLineEdit>(*window, "GroupFilter");
         filter->setFocus();
         QTest::keyClicks(filter, QStringLiteral("x"));
-        QTest::keyClick(filter, Qt::Key_Z, Qt::ControlModifier); // undoes the input of the field
+        QTest::keyClick(filter, Qt::Key_Z, Qt::ControlModifier); // undoes typing in the field
         QCOMPARE(table->item(1, 0)->text(), QStringLiteral("None"));
         QVERIFY(edit->isEnabled());
         for (int step = 0; step < 3; ++step) // the focus is outside the page
@@ -192,7 +192,7 @@ private Q_SLOTS:
         groups->selectAll();
         choose(Hide);
         Q_EMIT groups->customContextMenuRequested({});
-        QImage nothing = view->grab().toImage(); // not even a support
+        QImage nothing = view->grab().toImage(); // not even supports are drawn
         nothing = nothing.copy(nothing.width() / 3, 9, nothing.width() / 2, nothing.height() - 18);
         QImage blank = nothing;
         blank.fill(nothing.pixel(9, 9));

@@ -12,7 +12,7 @@ using namespace windowtest;
 using namespace workbench;
 
 namespace {
-/// Returns the names with a mark at the current output and at changed outputs.
+/// Returns the names of the outputs, with marks for the current output and for changed outputs.
 QString shown(const OutputList& outputs)
 {
     QStringList texts;
@@ -24,7 +24,7 @@ QString shown(const OutputList& outputs)
 }
 
 /// Carries out steps: + new output, - remove, ! changed state, ? discard changes, =NAME rename,
-/// @N make current, ^N move, s store. An underscore stands for a blank.
+/// @N make current, ^N move, s store. An underscore stands for a space.
 void perform(const QString& steps, OutputList* outputs)
 {
     for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
@@ -42,7 +42,7 @@ void perform(const QString& steps, OutputList* outputs)
     }
 }
 
-/// Returns the names in the list of the window. The current one is marked, and those in italics.
+/// Returns the names in the window's list, with marks for the current name and names in italics.
 QString listed(const QWidget& window)
 {
     auto list = find<QListWidget>(window, "OutputList");
@@ -69,7 +69,7 @@ void enterName(const QWidget& window, const char* name)
 
 QTreeWidget* plots(const QWidget& window)
 {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the previous dialog
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // previous dialog
     return window.findChild<OutputDialog*>()->findChild<QTreeWidget*>();
 }
 } // namespace
@@ -97,7 +97,7 @@ private Q_SLOTS:
         row("changes discarded", "! + s ! @0 ! ?", ">Output 1|Output 2* changed");
     }
 
-    /// The list that was stored and read again equals the list.
+    /// A list does not change when it is stored and read again.
     void list()
     {
         QFETCH(const QString, steps);
@@ -207,7 +207,7 @@ private Q_SLOTS:
         QVERIFY(readFile(path("Walls.pdf")).startsWith("%PDF"));
     }
 
-    /// Plots that the model does not have are kept after another plot was chosen and stored.
+    /// Plots that the model does not have are kept after another plot has been chosen and stored.
     void copying()
     {
         const auto theirs = VKD_H_ZOBDoc::create(path("theirs.zob"));

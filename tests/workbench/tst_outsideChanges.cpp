@@ -180,7 +180,7 @@ private Q_SLOTS:
             const auto name = [part](const char* answer) {
                 return QByteArray(part) + ", " + answer;
             };
-            const bool isDock = qstrcmp(part, "TextOutput") != 0; // Apply does not close it
+            const bool isDock = qstrcmp(part, "TextOutput") != 0; // Apply does not close the dock
             row(name("overwrite"), part, "&Overwrite", true, isDock);
             row(name("reload"), part, "&Reload", false, true);
             row(name("go back"), part, "&Go Back", true, true);

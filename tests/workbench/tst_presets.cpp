@@ -18,7 +18,7 @@ using namespace testsupport;
 using namespace workbench;
 
 namespace {
-/// Returns all numbers of a text, sorted.
+/// Returns all numbers in a text, sorted.
 QStringList numbersIn(QString text)
 {
     static const QRegularExpression number(QStringLiteral("[0-9]+(?:\\.[0-9]+)*"));
@@ -30,13 +30,13 @@ QStringList numbersIn(QString text)
     return numbers;
 }
 
-/// Returns the parameters that the name and the description of a preset contain as figures.
+/// Returns the parameters whose values appear in the name or the description of a preset.
 QVariantMap figuresIn(const Preset& preset)
 {
     const struct
     {
         const char* pattern;
-        double unit; ///< in base units
+        double unit; ///< unit of the figure, in base units
         const char* fields;
     } figures[] = {
         {"Ø([0-9]+)", 1, "dio dioq diu diuq"},
@@ -60,9 +60,9 @@ QVariantMap figuresIn(const Preset& preset)
         for (const QString& field : QString::fromLatin1(known.fields).split(QLatin1Char(' ')))
             if (const QString found = figure(known.pattern); !found.isEmpty())
                 parameters[field] = found.toDouble() * known.unit;
-    if (!parameters.contains(QStringLiteral("hio"))) // the diameter belongs to the crack width
+    if (!parameters.contains(QStringLiteral("hio"))) // the diameter refers to the crack width
         return parameters;
-    for (const char* spacing : {"hioq", "hiuq"}) // the layers touch
+    for (const char* spacing : {"hioq", "hiuq"}) // the layers are in contact
         parameters[QLatin1String(spacing)] = parameters[QStringLiteral("dio")].toDouble() / 1000;
     const double cover =
         figure("nominal cover (?:at least k1 = |[0-9 +]*= )?([0-9]+) mm").toDouble();
@@ -79,7 +79,7 @@ QString textOf(const QVariantMap& parameters)
     return texts.join(QLatin1Char(' '));
 }
 
-/// A design page with three rows, of which the last two are selected, and the dialog of presets.
+/// A design page with three rows, of which the last two are selected, and the preset dialog.
 class PresetDesk
 {
 public:
@@ -187,8 +187,8 @@ private Q_SLOTS:
         }
     }
 
-    /// The page accepts each supplied preset, and the figures in its description are those that it
-    /// stores. Both languages contain the same figures.
+    /// The page accepts each supplied preset and stores the figures in its description. The
+    /// descriptions in both languages contain the same figures.
     void suppliedPresets_data()
     {
         const Columns<Preset, Preset> row("english", "german");

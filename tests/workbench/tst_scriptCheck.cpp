@@ -70,7 +70,7 @@ QString check(const QString& script, Language language)
     return text;
 }
 
-/// Returns the places in the script that a pattern matches, except in comments and titles.
+/// Returns the matches of a pattern in the script, except those in comments and titles.
 QVector<QRegularExpressionMatch> matches(const QString& script, const char* pattern)
 {
     static const QRegularExpression noCode(
@@ -101,7 +101,7 @@ private Q_SLOTS:
             row(QByteArray::number(i).constData(), i % 2, i / 2, i % 3 == 1);
     }
 
-    /// Everything that the page can set is covered, and the language is recognised.
+    /// Scripts with any settings of the page have no findings, and their language is recognised.
     void ownScripts()
     {
         QFETCH(const int, language);
@@ -134,7 +134,7 @@ private Q_SLOTS:
         row("separator", " ;", "", 0);
     }
 
-    /// A mutation is missed only if its result is another line that a plot can make.
+    /// A mutation is missed only if the resulting line is one that a plot can generate.
     void mutations()
     {
         QFETCH(const QString, pattern);

@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(view->cursorPosition(), 250000);
     }
 
-    /// Each line is visible once, at its place, and its characters are found there.
+    /// Wrapped lines do not overlap, and each character is found at its position.
     void wrapping()
     {
         const QString text = (QStringLiteral("short\n%1\n\n%2 ")
@@ -196,7 +196,7 @@ private Q_SLOTS:
         const QPoint second = view->cursorRect(10).center();
         QTest::mousePress(view->viewport(), Qt::LeftButton, {}, view->cursorRect(2).center());
         QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, second);
-        QCOMPARE(chosen.size(), 0); // text was selected
+        QCOMPARE(chosen.size(), 0); // dragging only selects text
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->cursorRect(15).center());
         QTest::keyClick(view.get(), Qt::Key_Down);
         QTest::keyClick(view.get(), Qt::Key_Return);

@@ -147,7 +147,8 @@ private Q_SLOTS:
         QVERIFY(view->marks().isOfPlot(view->marks().firstOfPlot));
     }
 
-    /// The search follows a new script, and the check knows the load cases and both languages.
+    /// A new script is searched again. The check uses the project's load cases and supports both
+    /// languages.
     void findAndCheck()
     {
         const auto window = open("building.zob");
@@ -293,7 +294,7 @@ private Q_SLOTS:
         QVERIFY(loadCase->checkState() == Qt::Checked &&
                 find<QAbstractButton>(*dialog, "ContentGroup_0")->isChecked());
         QVERIFY(areBranchesKept());
-        find<QAction>(*dialog, "findPlots")->trigger(); // from another tab
+        find<QAction>(*dialog, "findPlots")->trigger(); // while another tab is shown
         QCOMPARE(tabs->currentIndex(), 0);
         const auto edit = find<QMenu>(*window, "EditMenu");
         QVERIFY(edit->menuAction()->isEnabled() &&
@@ -423,7 +424,7 @@ private Q_SLOTS:
     void pageBesideTheScript()
     {
         const auto window = open("narrow.zob");
-        window->resize(1440, 768); // with the wide font of the tests
+        window->resize(1440, 768); // narrow, because the tests use a wide font
         const QWidget* page = openOutput(*window);
         const QWidget* script = find<QWidget>(*window, "ScriptText");
         const auto view = find<QWidget>(*window, "AnimatorView");

@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(reasonOf(messages.join(QString())), reason);
         QCOMPARE(designCells(*window), entered);
         QVERIFY(window->isWindowModified());
-        QApplication::setActiveWindow(window.get()); // after the message box
+        QApplication::setActiveWindow(window.get()); // the message box was active
         QTest::keyClick(find<QTableWidget>(*dock, "table"), Qt::Key_S, Qt::ControlModifier);
         QTest::keyRelease(dock, Qt::Key_Control); // otherwise, Qt adds to the next selection
         QVERIFY(!window->isWindowModified());

@@ -40,7 +40,7 @@ void addDesign(SnapshotAlbum& album, MainWindow& window, const QString& look)
     dock->close();
 }
 
-/// Adds screenshots of the output page in the window, and of each of its tabs.
+/// Adds screenshots of the output page in the window and of each of its tabs.
 void addOutput(SnapshotAlbum& album, MainWindow& window, const QString& look)
 {
     trigger(window, "Output");
