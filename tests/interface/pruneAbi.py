@@ -68,7 +68,8 @@ def remove_others(node, seen):
     for child in list(node):
         remove_others(child, seen)
         has_symbol = any(part.get(SYMBOL) for part in child.iter())
-        unused = child.get('id') and child.get('id') not in seen and not has_symbol
+        unused = (child.get('id') and child.get('id') not in seen and not has_symbol and
+                  child.tag != 'subrange')
         stray = child.tag in ('function-decl', 'var-decl') and node.tag not in (
             'member-function', 'data-member') and not has_symbol
         empty = child.tag in ('namespace-decl', 'member-type', 'abi-instr') and len(child) == 0
