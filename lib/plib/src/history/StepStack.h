@@ -33,7 +33,8 @@ class StepStack : public QObject
 
 public:
     /// Adds the actions to the page. `mostSize` limits the total size of all steps. The stack is a
-    /// member of `history`, and also its child, so that hosts find the actions below the page.
+    /// member of `history` and also its QObject child, so that hosts find the actions among the
+    /// descendants of the page.
     StepStack(QWidget* page, std::size_t mostSize, QObject* history);
     ~StepStack() override;
 

@@ -33,8 +33,8 @@ constexpr SixFields Stresses{&R::sigo, &R::sigoq, &R::sigoi, &R::sigu, &R::siguq
 /// Returns the dimension code of a real field, or -1 for a reserved field.
 int dimensionCode(RealField field);
 
-/// Returns whether two fields usually have the same value. This applies to directions and distances
-/// of the same layer, and to all other values regardless of the layer.
+/// Returns whether two fields are of the same kind and therefore usually have the same value. For
+/// directions and distances, the layer must also be the same.
 bool isSameKind(RealField a, RealField b);
 
 using NamedField = vkd::plib::designparameter::RecordWord;

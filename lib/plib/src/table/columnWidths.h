@@ -13,7 +13,7 @@ struct ColumnShare
 };
 
 /// Returns the widths of columns for an available width. They are never narrower than their initial
-/// widths. Columns whose texts need more width are served first. All columns share the rest in
+/// widths. Columns whose texts need more width get it first. All columns share the rest in
 /// proportion to their initial widths.
 std::vector<int> columnWidths(const std::vector<ColumnShare>& columns, int available);
 

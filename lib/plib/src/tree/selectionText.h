@@ -93,7 +93,7 @@ private:
     QHash<QString, Node*> m_items;
 };
 
-/// Returns the numbers between the commas. Each number is read as by QStringRef::toInt(), which
+/// Returns the numbers between the commas. Each number is read as with QStringRef::toInt(), which
 /// returns 0 for text that is not a number. Short sequences of ASCII digits are converted directly,
 /// because a selection text consists mostly of such numbers.
 QVector<int> selectionNumbers(const QStringRef& text);
