@@ -17,7 +17,7 @@ workbench::ScriptGrammar grammar(plib::Keywords keywords)
 }
 } // namespace
 
-/// Each finding must be at a place in the script, and the findings must be in order.
+/// Each finding must refer to a position in the script, and the findings must be in order.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     static const workbench::ScriptGrammars grammars{grammar(plib::Keywords::German),

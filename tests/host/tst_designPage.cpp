@@ -480,7 +480,7 @@ private Q_SLOTS:
             desk->press("btnNew");
             desk->table()->setCurrentCell(1, column);
             if (column == 0)
-                desk->keys({Qt::Key_3}); // applied when the button gets the focus
+                desk->keys({Qt::Key_3}); // the line is applied when the button gets the focus
             whenModal([&desk](QWidget*) { desk.reset(); });
             if (column == 1) // no dialog for this column; checkVals() shows a question
                 QVERIFY(!desk->page->checkVals());

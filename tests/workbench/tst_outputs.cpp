@@ -69,7 +69,7 @@ void enterName(const QWidget& window, const char* name)
 
 QTreeWidget* plots(const QWidget& window)
 {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // previous dialog
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // destroys the old dialog
     return window.findChild<OutputDialog*>()->findChild<QTreeWidget*>();
 }
 } // namespace

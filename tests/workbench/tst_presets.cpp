@@ -60,7 +60,7 @@ QVariantMap figuresIn(const Preset& preset)
         for (const QString& field : QString::fromLatin1(known.fields).split(QLatin1Char(' ')))
             if (const QString found = figure(known.pattern); !found.isEmpty())
                 parameters[field] = found.toDouble() * known.unit;
-    if (!parameters.contains(QStringLiteral("hio"))) // the diameter refers to the crack width
+    if (!parameters.contains(QStringLiteral("hio"))) // diameter for crack control
         return parameters;
     for (const char* spacing : {"hioq", "hiuq"}) // the layers are in contact
         parameters[QLatin1String(spacing)] = parameters[QStringLiteral("dio")].toDouble() / 1000;

@@ -101,7 +101,8 @@ private Q_SLOTS:
             row(QByteArray::number(i).constData(), i % 2, i / 2, i % 3 == 1);
     }
 
-    /// Scripts with any settings of the page have no findings, and their language is recognised.
+    /// A generated script has no findings, whatever the settings of the page, and its language is
+    /// recognised.
     void ownScripts()
     {
         QFETCH(const int, language);

@@ -320,7 +320,7 @@ private Q_SLOTS:
         QVERIFY(!bar->isEnabled());
     }
 
-    /// Lists without load cases are left out. The exported file contains the same text.
+    /// Lists without load cases are left out. The exported file contains the text that is shown.
     void tableOfContents()
     {
         const auto window = open("contents.zob");

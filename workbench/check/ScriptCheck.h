@@ -30,7 +30,8 @@ class ScriptCheck
 public:
     using LoadCases = std::optional<QSet<int>>;
 
-    /// `grammars` must outlive the object. Without load cases, their numbers are not checked.
+    /// `grammars` must outlive the object. If `loadCases` has no value, load case numbers are not
+    /// checked.
     ScriptCheck(const ScriptGrammars& grammars, vkd::Language keywords, LoadCases loadCases);
 
     /// `line` must exist until finish() has been called.

@@ -31,7 +31,7 @@ struct ScriptFinding
     };
 
     Problem problem;
-    int line;   ///< counted from 0
+    int line;   ///< line number, counted from 0
     int start;  ///< position of the first character in its line
     int length; ///< number of characters; 0 if something is missing
     QString text;

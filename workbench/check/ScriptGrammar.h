@@ -18,7 +18,7 @@ public:
     {
         int leastValues = -1; ///< -1 until an example has been read
         int mostValues = 0;
-        QSet<QString> next; ///< keywords that may follow; an empty string is the statement's end
+        QSet<QString> next; ///< keywords that may follow; contains "" if the statement may end
     };
     using Statement = QHash<QString, Word>;
 

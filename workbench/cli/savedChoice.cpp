@@ -69,7 +69,7 @@ plib::OutputSettings savedSettings(const CommandLine& line, const OutputState& s
 
 void restoreCamera(const OutputState& saved)
 {
-    vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera()); // if no camera is saved
+    vkd::dbo::setCamera(ZobHandle::scratch(), vkd::dbo::Camera()); // used if none is saved
     vkd::dbo::setAnimatorPerspektive(vkd::dbo::DesktopCamera,
                                      partOf(saved, plib::savedtag::Camera));
 }

@@ -36,8 +36,8 @@ public:
     VkdStatus put(ZobHandle project) const;
     /// Must be called after the outputs have been stored.
     void setStored();
-    /// These functions return whether there are any unsaved changes, or unsaved changes to one
-    /// output.
+    /// These functions return whether the list or any output has unsaved changes, or whether one
+    /// output has unsaved changes.
     bool isChanged() const;
     bool isChanged(int index) const;
 

@@ -55,7 +55,7 @@ GroupList::GroupList(QWidget* parent)
             Q_EMIT groupSelected(groupOf(current));
     });
     connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
-        if (QApplication::keyboardModifiers() == Qt::NoModifier) // no multiple selection
+        if (QApplication::keyboardModifiers() == Qt::NoModifier) // a plain click
             Q_EMIT groupChosen(groupOf(item));
     });
     setTexts();

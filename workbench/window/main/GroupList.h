@@ -34,7 +34,8 @@ public:
     void setRows(const QHash<int, QString>* rows);
     /// Shows that these groups are hidden in the view.
     void setHiddenGroups(const QSet<int>& groups);
-    /// Lists only the groups that match the text of a RowFilter. A number also matches in titles.
+    /// Lists only the groups that match the text of a RowFilter. A number also matches titles that
+    /// contain it.
     void setFilter(const QString& filter);
     /// Returns the selected groups in the order of the list.
     QVector<int> selectedGroups() const;

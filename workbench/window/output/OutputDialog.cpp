@@ -154,7 +154,7 @@ void OutputDialog::addTabs()
          {"undo", "redo", "findPlots", "findNextPlot", "findPreviousPlot", "uncheckPlots"})
         addAction(m_page->findChild<QAction*>(QLatin1String(name)));
     const auto find = m_page->findChild<QAction*>(QStringLiteral("findPlots"));
-    connect(find, &QAction::triggered, this, [this, find] { // shows the plots first
+    connect(find, &QAction::triggered, this, [this, find] { // shows the tab with the plots
         if (tabWidget()->currentIndex() == 0)
             return;
         tabWidget()->setCurrentIndex(0);
@@ -185,7 +185,7 @@ void OutputDialog::listen()
     connect(plots, &QAbstractItemModel::modelReset, this, start);
     connect(plots, &QAbstractItemModel::rowsInserted, this, start);
     connect(m_offers, &OutputOffers::changed, this, start);
-    // Undo restores the plots without signals of the tree's model.
+    // Undo restores the plots without signals from the tree's model.
     connect(
         m_page->findChild<QObject*>(QLatin1String(vkd::plib::widgetgraphicaloutput::StepsObject)),
         SIGNAL(stepped()), &m_changes, SLOT(start()));

@@ -40,7 +40,7 @@ ScriptCheck::LoadCases loadCasesOf(const OpenProject& project)
     return project.isOpen() && status.isOk() ? std::make_optional(numbers) : std::nullopt;
 }
 
-/// Returns the captions of a plot. If the item is a row with a load case, the title ends with it.
+/// Returns the captions of a plot. If the item is a load case, appends its name.
 QString titleOf(const QTreeWidgetItem* item)
 {
     const bool isRow = item->data(0, LoadCaseRole).isValid();

@@ -17,7 +17,7 @@ struct ScriptMarks
 
     /// Returns whether a line was not in the previous script.
     bool isChanged(int line) const;
-    /// Returns the number of lines before this line that were removed without being replaced.
+    /// Returns the number of lines that were removed directly before this line and not replaced.
     int removedBefore(int line) const;
     bool isOfPlot(int line) const
     {

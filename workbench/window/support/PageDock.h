@@ -15,7 +15,7 @@ class PageDock : public QDockWidget
 public:
     PageDock(const QString& name, QWidget* parent);
 
-    /// Sets the function that returns whether the dock may be closed. It may ask the user.
+    /// Sets a function that returns whether the dock may be closed, and that may ask the user.
     void setMayClose(const std::function<bool()>& mayClose) { m_mayClose = mayClose; }
     /// Sets the title of the dock, without the mark for unsaved changes.
     void setTitle(const QString& title);
