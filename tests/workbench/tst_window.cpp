@@ -364,6 +364,7 @@ private Q_SLOTS:
         const int top = tree->verticalScrollBar()->value();
         QVERIFY(top > 0);
         trigger(*window, "German");
+        QCOMPARE(find<QDialog>(*window, "TextOutputDialog")->geometry(), place); // long texts
         tree = find<QDialog>(*window, "OutputDialog")->findChild<QTreeWidget*>();
         const auto compareTree = [&] {
             QVERIFY(!tree->topLevelItem(1)->isExpanded());

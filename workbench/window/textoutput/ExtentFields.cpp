@@ -32,8 +32,10 @@ ExtentFields::ExtentFields(QWidget* parent)
     : QWidget(parent)
     , m_values(new VKD_QT4_ComboBox(this, "ListValues"))
 {
-    auto row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto lines = new QVBoxLayout(this);
+    lines->setContentsMargins(0, 0, 0, 0);
+    auto row = new QHBoxLayout;
+    lines->addLayout(row);
     for (const auto& list : Lists) {
         auto box = new VKD_QT_CheckBox(tr(list.text), this, list.objectName);
         connect(box, &QCheckBox::toggled, this, &ExtentFields::changed);
@@ -48,8 +50,11 @@ ExtentFields::ExtentFields(QWidget* parent)
     connect(m_values, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &ExtentFields::changed);
     row->addStretch();
-    row->addWidget(label);
-    row->addWidget(m_values);
+    auto values = new QHBoxLayout;
+    lines->addLayout(values);
+    values->addWidget(label);
+    values->addWidget(m_values);
+    values->addStretch();
     setTabOrder(m_boxes.last(), m_values);
 }
 

@@ -8,6 +8,7 @@
 #include "window/support/withinScreen.h"
 #include "window/textoutput/CombinationTable.h"
 #include "window/textoutput/ContentsPreview.h"
+#include "window/textoutput/ScrolledBoxes.h"
 
 #include <VKD_QT_Ok.h>
 #include <VKD_QT_Widgets.h>
@@ -54,7 +55,10 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     setHelpTopic(this, "TEXT/OUTPUT");
     auto columns = new QHBoxLayout;
     (new QVBoxLayout(this))->addLayout(columns);
-    columns->addLayout(m_boxes = new QVBoxLayout);
+    auto scrolled = new ScrolledBoxes(this);
+    columns->addWidget(scrolled, 1);
+    m_boxes = new QVBoxLayout(scrolled->widget());
+    m_boxes->setContentsMargins(0, 0, 0, 0);
     addExtent();
     addLoadCases(project);
     addCombinations(project);
@@ -66,14 +70,16 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     addOkRow();
     setState(TextOutputState::read(project, ExtentFields::DefaultLists));
     m_saved = state();
+    const QSize others = sizeHint() - scrolled->sizeHint();
     const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
-    resizeWithinScreen(this, {width, layout()->totalHeightForWidth(width)}); // includes all hints
+    const int height = m_boxes->totalHeightForWidth(width - others.width()); // includes all hints
+    resizeWithinScreen(this, {width, height + others.height()});
     new WindowGeometry(this);
 }
 
 QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& explanation)
 {
-    auto box = new QGroupBox(title, this);
+    auto box = new QGroupBox(title, m_boxes->parentWidget());
     auto column = new QVBoxLayout(box);
     auto hint = new QLabel(explanation, box);
     hint->setWordWrap(true);
