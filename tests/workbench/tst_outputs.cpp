@@ -207,13 +207,14 @@ private Q_SLOTS:
         QVERIFY(readFile(path("Walls.pdf")).startsWith("%PDF"));
     }
 
-    /// Plots that the model does not have are kept after another plot has been chosen and stored.
+    /// Plots and load cases that the model does not have are kept after another plot has been chosen
+    /// and stored.
     void copying()
     {
         const auto theirs = VKD_H_ZOBDoc::create(path("theirs.zob"));
         OutputList outputs;
         const auto foreign = QStringLiteral("<View>1</View><List_4>Checked:@X   $Y   ^Z</List_4>");
-        outputs.setState({foreign, 0, {}}, true);
+        outputs.setState({foreign, 0, {7777}}, true);
         QVERIFY(outputs.put(theirs->handle()).isOk() && theirs->close().isOk());
         const auto window = open("a.zob");
         answerFileDialog(path("theirs.zob"));
@@ -224,8 +225,36 @@ private Q_SLOTS:
         plots(*window)->topLevelItem(1)->setCheckState(0, Qt::Checked);
         window->findChild<OutputDialog*>()->accept();
         const auto document = VKD_H_ZOBDoc::open(path("a.zob"));
-        const QString page = OutputList::read(document->handle()).at(1).state.page;
-        QVERIFY(page.contains(QLatin1String("Checked:@X   $Y   ^Z")));
+        const OutputState state = OutputList::read(document->handle()).at(1).state;
+        QVERIFY(state.page.contains(QLatin1String("Checked:@X   $Y   ^Z")));
+        QCOMPARE(state.leftOutNumbers, QSet<int>{7777});
+    }
+
+    /// While another program is storing, no output is shown or saved with a part of its data.
+    void unreadable()
+    {
+        const auto window = open("a.zob");
+        const QString proposed = script(*window);
+        trigger(*window, "DuplicateOutput");
+        enterName(*window, "b");
+        vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, 100);
+        const OtherProgram other(path("a.zob"), OtherProgram::Storing);
+        QStringList messages;
+        for (const char* name : {"PreviousOutput", "NewOutput"}) {
+            readMessage(messages);
+            trigger(*window, name);
+            QTRY_VERIFY(!messages.isEmpty());
+            QVERIFY(messages.takeFirst().contains(QLatin1String("cannot be read")));
+            QCOMPARE(listed(*window), QStringLiteral("Output 1|>/b/"));
+            QCOMPARE(script(*window), proposed);
+        }
+        whenModal([&](QWidget* dialog) {
+            enterFile(dialog, m_folder->path());
+            readMessage(messages);
+        });
+        trigger(*window, "SaveAllScripts");
+        QCOMPARE(messages.size(), 1);
+        QVERIFY(!QFile::exists(path("b.dat")));
     }
 };
 

@@ -1607,6 +1607,10 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
 <context>
     <name>workbench::OutputEditor</name>
     <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
         <source>The choice of plots is again that of the project.</source>
         <translation>Die Auswahl der Grafiken ist wieder die des Projekts.</translation>
     </message>

@@ -33,10 +33,8 @@ OutputEditor::~OutputEditor()
 
 OutputDialog* OutputEditor::dialog()
 {
-    if (!m_dialog && m_access->canRead() && !m_dialog) { // canRead() may have created it
-        load();
+    if (!m_dialog && m_access->canRead() && !m_dialog && load()) // canRead() may have created it
         create(m_outputs.current().state);
-    }
     return m_dialog.get();
 }
 

@@ -67,10 +67,12 @@ public:
     /// Changes the names or the order of the outputs. The same output must remain current.
     void editList(const std::function<void(OutputList*)>& change);
     /// Makes another output current, and shows it in a new dialog. The changes in the previous
-    /// dialog are preserved in the list.
-    void changeCurrent(const std::function<void(OutputList*)>& change);
+    /// dialog are preserved in the list. If the project cannot be read, shows an error message,
+    /// changes nothing and returns false.
+    bool changeCurrent(const std::function<void(OutputList*)>& change);
     /// Calls `work` with a dialog for each output, until it returns false. Only the dialog of the
-    /// current output is shown. Returns whether all calls have returned true.
+    /// current output is shown. Returns whether all calls have returned true. If the project cannot
+    /// be read, shows an error message and returns false.
     bool forEachOutput(const std::function<bool(int output, OutputDialog*)>& work);
 
 Q_SIGNALS:
@@ -82,7 +84,7 @@ Q_SIGNALS:
     void modified();
 
 private:
-    void load();
+    bool load();
     void create(const OutputState& state);
     void closeLater();
     void reload();

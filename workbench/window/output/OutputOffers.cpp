@@ -111,6 +111,7 @@ void OutputOffers::connectTabs()
 void OutputOffers::restore(const OutputState& saved)
 {
     m_loadCases->setLeftOutNumbers(saved.leftOutNumbers);
+    m_absentNumbers = saved.leftOutNumbers - m_loadCases->leftOutNumbers();
     if (saved.content == OutputState::WithSolids) {
         m_contents->setButton(saved.content);
         m_contentBinding.clicked(saved.content); // the setter does not emit a signal
@@ -126,7 +127,7 @@ void OutputOffers::restore(const OutputState& saved)
 void OutputOffers::readTo(OutputState* state) const
 {
     state->content = m_contents->selectedButton();
-    state->leftOutNumbers = m_loadCases->leftOutNumbers();
+    state->leftOutNumbers = m_loadCases->leftOutNumbers() + m_absentNumbers;
 }
 
 /// The tree is rebuilt between begin() and finish(). finish() checks the user's plots again. The

@@ -56,7 +56,8 @@ private:
     LoadCaseTable* m_loadCases = nullptr;
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
-    OutputState m_known; ///< content and load cases after the last change
+    QSet<int> m_absentNumbers; ///< saved left-out load cases that the project does not have
+    OutputState m_known;       ///< content and load cases after the last change
 };
 
 } // namespace workbench

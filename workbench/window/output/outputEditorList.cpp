@@ -4,6 +4,7 @@
 #include "window/output/CameraRollback.h"
 #include "window/output/EditedOutputs.h"
 #include "window/output/OutputEditor.h"
+#include "window/support/ProjectAccess.h"
 #include "window/support/WindowMessages.h"
 
 #include <QApplication>
@@ -12,16 +13,21 @@
 namespace workbench {
 
 /// Reads the outputs of the project, unless they have been read or the list has unsaved changes.
-/// The current output is preserved if the project still contains it.
-void OutputEditor::load()
+/// The current output is preserved if the project still contains it. If the outputs cannot be read,
+/// shows an error message and returns false.
+bool OutputEditor::load()
 {
     if (m_areOutputsRead)
-        return;
-    const QString current = m_outputs.name(m_outputs.currentIndex());
+        return true;
     m_project->look(ProjectPart::Output);
-    m_outputs = OutputList::read(m_project->handle());
-    m_outputs.setCurrent(m_outputs.indexOf(current));
+    VkdStatus status;
+    OutputList outputs = OutputList::read(m_project->handle(), &status);
+    if (!m_messages->succeeds(status, m_project->path(), tr("The file %1 cannot be read.")))
+        return false;
+    outputs.setCurrent(outputs.indexOf(m_outputs.name(m_outputs.currentIndex())));
+    m_outputs = outputs;
     m_areOutputsRead = true;
+    return true;
 }
 
 void OutputEditor::continueAfterReload(const EditedOutputs& before)
@@ -48,10 +54,10 @@ void OutputEditor::editList(const std::function<void(OutputList*)>& change)
 
 /// The state in the list is replaced only if the user has changed it, so that an output that has
 /// only been shown is not marked as changed.
-void OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
+bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
 {
-    if (!dialog())
-        return;
+    if (!m_access->canRead() || !dialog())
+        return false;
     OutputPresent present = m_dialog->present();
     if (present.isChanged)
         m_outputs.setState(present.state, true);
@@ -65,6 +71,7 @@ void OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
     if (hasFocus)
         m_dialog->enter();
     Q_EMIT outputChosen();
+    return true;
 }
 
 bool OutputEditor::forEachOutput(const std::function<bool(int, OutputDialog*)>& work)
@@ -75,6 +82,8 @@ bool OutputEditor::forEachOutput(const std::function<bool(int, OutputDialog*)>& 
             goesOn = work(i, m_dialog.get());
             continue;
         }
+        if (!m_access->canRead())
+            return false;
         const CameraRollback camera;
         OutputDialog hidden(m_project->document(), m_outputs.at(i).state, m_messages->window());
         goesOn = work(i, &hidden);

@@ -69,20 +69,22 @@ void OutputCommands::choose(int output)
 /// A new output has the settings of the current output, so that the sheets of a project look alike.
 void OutputCommands::add()
 {
-    m_parts.editor->changeCurrent([](OutputList* list) {
+    const bool isAdded = m_parts.editor->changeCurrent([](OutputList* list) {
         OutputState state = list->current().state;
         state.page = withoutPlots(state.page);
         list->add(list->newName(), state);
     });
-    m_parts.pane->editName();
+    if (isAdded)
+        m_parts.pane->editName();
 }
 
 void OutputCommands::duplicate()
 {
-    m_parts.editor->changeCurrent([](OutputList* list) {
+    const bool isAdded = m_parts.editor->changeCurrent([](OutputList* list) {
         list->add(list->unusedName(list->name(list->currentIndex())), list->current().state);
     });
-    m_parts.pane->editName();
+    if (isAdded)
+        m_parts.pane->editName();
 }
 
 void OutputCommands::rename(const QString& name)
@@ -144,13 +146,14 @@ void OutputCommands::copyFrom(const QString& path)
         return;
     const QVector<int> chosen = dialog.checkedOutputs();
     const QString project = QFileInfo(path).completeBaseName();
-    m_parts.editor->changeCurrent([&](OutputList* list) {
+    const bool areAdded = m_parts.editor->changeCurrent([&](OutputList* list) {
         for (int output : chosen) {
             const QString name = theirs.at(output).name;
             list->add(list->unusedName(name.isEmpty() ? project : name), theirs.at(output).state);
         }
     });
-    m_parts.messages->say(tr("Outputs copied: %1").arg(chosen.size()));
+    if (areAdded)
+        m_parts.messages->say(tr("Outputs copied: %1").arg(chosen.size()));
 }
 
 } // namespace workbench
