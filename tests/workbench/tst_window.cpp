@@ -299,6 +299,9 @@ private Q_SLOTS:
         const auto edit = find<QMenu>(*window, "EditMenu");
         QVERIFY(edit->menuAction()->isEnabled() &&
                 edit->actions().contains(find<QAction>(*dialog, "undo")));
+        QVERIFY(find<QWidget>(*window, "OutputsDock")
+                    ->actions()
+                    .contains(find<QAction>(*dialog, "undo")));
         find<QLineEdit>(*dialog, "searchWords")->setText(QStringLiteral("displ"));
         find<QAction>(*dialog, "findNextPlot")->trigger();
         const QString hit = find<QLabel>(*dialog, "searchCount")->text();

@@ -109,7 +109,11 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_window->tabifyDockWidget(m_sheetDock, m_recordDock);
     m_scriptDock->raise();
     connect(output, &QDockWidget::visibilityChanged, this, &WindowPanes::placeOutput);
-    const QWidgetList places{m_window->centralWidget(), m_groupDock, m_scriptDock, m_sheetDock,
+    const QWidgetList places{m_window->centralWidget(),
+                             m_groupDock,
+                             m_outputsDock,
+                             m_scriptDock,
+                             m_sheetDock,
                              m_recordDock};
     new EditMenu(actions.editMenu, pageDocks(), places, this);
     new OutputRoom({m_window, output, m_groupDock, m_scriptDock, {news, banner}}, this);
