@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QProgressDialog>
 #include <QTreeWidget>
 
 using namespace windowtest;
@@ -217,7 +218,15 @@ private Q_SLOTS:
         outputs.setState({foreign, 0, {7777}}, true);
         QVERIFY(outputs.put(theirs->handle()).isOk() && theirs->close().isOk());
         const auto window = open("a.zob");
-        answerFileDialog(path("theirs.zob"));
+        vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, 2 * Patience);
+        auto other = std::make_unique<OtherProgram>(path("theirs.zob"), OtherProgram::Storing);
+        whenModal([&](QWidget* dialog) {
+            enterFile(dialog, path("theirs.zob"));
+            whenModal([&other](QWidget* waiting) {
+                QVERIFY(qobject_cast<QProgressDialog*>(waiting));
+                other.reset();
+            });
+        });
         trigger(*window, "CopyOutputs");
         QTRY_COMPARE(listed(*window), QStringLiteral("Output 1|>/theirs/"));
         QCOMPARE(find<QLabel>(*window, "AbsentPlots")->text(),

@@ -130,15 +130,16 @@ void OutputCommands::copyFromProject()
 void OutputCommands::copyFrom(const QString& path)
 {
     QWidget* window = m_parts.messages->window();
-    VkdStatus status;
     OutputList theirs;
-    {
+    VkdStatus status;
+    status.code = waitForStore(window, path, [window, &path, &status, &theirs] {
         SlowWork work(window, tr("The project is being opened."), 0);
         const auto document =
             VKD_H_ZOBDoc::open(path, &status, [&work](int) { return work.goOn(0); });
         if (document)
             theirs = OutputList::read(document->handle(), &status);
-    }
+        return cd_error_t(status.code);
+    });
     if (!m_parts.messages->succeeds(status, path, tr("The file %1 cannot be opened.")))
         return;
     CopyOutputsDialog dialog(theirs.names(), window);
