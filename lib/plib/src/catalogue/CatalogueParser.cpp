@@ -89,7 +89,7 @@ int rowClassOf(const QString& suffix)
 }
 } // namespace
 
-/// The English script remains in the working record, because the next line may have none.
+/// The English script remains in the working record, because the next line may inherit it.
 GraphicalOutputRecord CatalogueParser::takeRecord()
 {
     QString title = std::move(m_record.title3);

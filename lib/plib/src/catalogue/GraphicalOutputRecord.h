@@ -5,7 +5,7 @@
 namespace plib {
 
 /// One line of the catalogue, which describes a plot that the output page can offer. The record is
-/// a plain value; each item of an output tree stores its own copy.
+/// a plain value; each item of a tree widget stores its own copy.
 struct GraphicalOutputRecord
 {
     int prog1 = 0; ///< kinds of pages that offer the plot

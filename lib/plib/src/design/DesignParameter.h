@@ -41,7 +41,7 @@ public:
     void setEntrys(VKD_H_ProjectDialogPage& page);
     bool checkVals();
 
-    // For the objects that implement undo, the clipboard and the editing of rows.
+    // Used by the objects that implement undo, the clipboard and the editing of rows.
     plib::DesignParameterData& state() { return *data; }
     bool isConverted() const { return converted; }
     /// Commits the selection in an open list of types.
@@ -52,7 +52,7 @@ public:
     void setType(const std::set<int>& rows, int type);
     /// Sets the groups of a row in one step, and reports groups that are also in other rows.
     void takeGroups(int row, const std::vector<int>& groups);
-    /// Open the dialogs of the current row or of the selected rows.
+    /// These functions open the dialogs for the current row or the selected rows.
     void editDirections() { slot_editButtonClicked(); }
     void editReinforcement() { slot_calcReinforcementButtonClicked(); }
     void editCrackControl() { slot_calcCrackButtonClicked(); }

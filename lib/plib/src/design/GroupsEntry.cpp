@@ -47,7 +47,7 @@ bool GroupsEntry::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-/// In a new row, the current cell is the type, where digits have no other meaning.
+/// In a new row, the current cell is in the column Type, where digits have no other meaning.
 bool GroupsEntry::isForGroups(const QKeyEvent& key) const
 {
     const DesignParameterData& data = m_page->state();

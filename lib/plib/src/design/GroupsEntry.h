@@ -21,7 +21,7 @@ class GroupsEntry : public QObject
 public:
     explicit GroupsEntry(DesignParameter* page);
 
-    /// Also opens the line edit if such a key is pressed in this editor.
+    /// Also opens the line edit if a digit or F2 is pressed in this editor.
     void listenTo(const dlgSelection* editor);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

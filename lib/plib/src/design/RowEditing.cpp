@@ -91,7 +91,7 @@ void RowEditing::showRow()
 }
 
 /// A row whose fields have not been edited keeps its record: OK also clears fields that the type
-/// does not have, which must not happen to rows that the user only looks at.
+/// does not have, which must not happen to rows that the user only views.
 void RowEditing::step(int direction)
 {
     if (!m_dialog.mayAccept() || !m_page)

@@ -10,9 +10,9 @@ class DesignParameter;
 
 namespace plib {
 
-/// Provides undo and redo for the design page, whose child it is. It keeps a copy of the rows and
-/// compares it with the rows to find the change of a step, so that the operations need no code for
-/// undo. Recording takes time only for the changed rows.
+/// Provides undo and redo for the design page. It keeps a copy of the rows and compares it with the
+/// current rows to find what a step has changed, so that the operations need no code for undo. The
+/// object is a child of the page. Recording takes time only for the changed rows.
 ///
 /// Reading and writing the project start a new history, because writing converts the rows to the
 /// stored form.

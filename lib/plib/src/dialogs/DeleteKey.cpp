@@ -20,7 +20,7 @@ void DeleteKey::listenTo(QWidget* widget)
 
 bool DeleteKey::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isAsked = event->type() == QEvent::ShortcutOverride; // accepted: no shortcut
+    const bool isAsked = event->type() == QEvent::ShortcutOverride; // accepted to prevent it
     const bool isKey = isAsked || event->type() == QEvent::KeyPress;
     const auto key = isKey ? static_cast<QKeyEvent*>(event) : nullptr;
     if (!key || key->key() != Qt::Key_Delete ||

@@ -20,11 +20,11 @@ public:
     bool eventFilter(QObject* covered, QEvent* event) override;
 
 Q_SIGNALS:
-    /// Emitted when a key is pressed: with 0 for Enter, -1 for Up and 1 for Down.
+    /// Emitted when Enter (0), Up (-1) or Down (1) is pressed.
     void entered(int direction);
-    /// Emitted when the line edit loses the focus in another way.
+    /// Emitted when the line edit loses the focus to another widget of the window.
     void left();
-    /// Emitted for Escape.
+    /// Emitted when Escape is pressed.
     void cancelled();
 
 protected:

@@ -13,7 +13,7 @@ class ElidedLabel;
 
 /// A strip at the top of a dialog with the title of the edited rows. For a single row, it has
 /// buttons to continue with the previous or next row, which also work with Alt+Up and Alt+Down. It
-/// is outside the layout of the dialog, whose window title names only the parameters.
+/// is outside the layout of the dialog. The window title of the dialog does not mention the rows.
 class RowStrip : public QWidget
 {
     Q_OBJECT

@@ -37,7 +37,7 @@ SameValue::SameValue(const RecordDialog& dialog, RowStrip* strip, bool areSevera
     const QKeySequence key(Qt::CTRL + Qt::Key_Return);
     auto button = new QToolButton(strip);
     button->setObjectName(QStringLiteral("sameValue"));
-    button->setFocusPolicy(Qt::NoFocus); // a click must leave the focus in the field to copy
+    button->setFocusPolicy(Qt::NoFocus); // the focus must stay in the field to be copied
     button->setText(tr("Same Everywhere"));
     button->setToolTip(tr("Uses the value of the current field on both sides, and for bars, limits "
                           "and crack control in all layers (%1)")

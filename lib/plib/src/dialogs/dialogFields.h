@@ -22,7 +22,8 @@ struct DialogField
 /// The fields that a dialog has for the type of its record.
 using DialogFields = std::vector<DialogField>;
 
-/// Show and return a value in base units. The value of an empty line edit is -99999.0.
+/// These functions show and return a value in base units. The value of an empty line edit is
+/// -99999.0.
 void showValue(const DialogField& field, float value);
 float valueOf(const DialogField& field);
 

@@ -9,8 +9,8 @@
 /// Functions for the three dialogs in which the parameters of a row are edited.
 namespace plib {
 
-/// Sets the title, the help topic and a white background for a dialog. All dialogs are white
-/// because the figures in one dialog have a white background.
+/// Sets the title, the help topic and a white background for a dialog. All dialogs are white,
+/// because the figures in one of them have a white background.
 void dressDialog(VKD_QT_Dialog* dialog, const QString& title, const char* topic);
 
 /// Sets the topic of the design help book that the host shows when the user presses the help key.
@@ -27,7 +27,7 @@ VKD_QT_Label* addLabel(VKD_QT_GridLayout* grid, int row, int column, const QStri
 void addField(VKD_QT_GridLayout* grid, int row, int column, QWidget* field, const QString& about);
 
 /// The order in which Tab moves through the fields of the boxes. The columns of both boxes are
-/// aligned and usually filled one after the other, so the second order takes the fewest keys.
+/// aligned and usually filled one after the other, so ByColumns needs the fewest keystrokes.
 enum class TabOrder { ByRows, ByColumns };
 
 /// Deletes the boxes with fields. Their pointers in the dialog become invalid.

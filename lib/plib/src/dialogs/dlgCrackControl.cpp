@@ -20,7 +20,7 @@ constexpr int StressCode = 1092;
 constexpr int LayersOfASide = 3;
 constexpr int CrackWidthFields = 6; // in Fields, the steel stresses follow
 
-/// In millimetres and N/mm², the displayed units of these dimensions.
+/// These values are in the displayed units, millimetres and N/mm².
 const QVector<double> CrackWidths{0.2, 0.3, 0.4};
 const QVector<double> Stresses{160, 200, 240, 280, 320, 360, 400, 450};
 

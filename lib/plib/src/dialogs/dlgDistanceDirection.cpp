@@ -85,7 +85,7 @@ void dlgDistanceDirection::build(int type)
     plib::insertBoxes(this, {first, second}, plib::TabOrder::ByRows);
 }
 
-/// Returns the type whose fields exist.
+/// Returns the type for which the dialog currently has fields.
 int dlgDistanceDirection::builtType() const
 {
     if (xref)

@@ -15,7 +15,7 @@ namespace plib {
 /// the errors. If there are any errors, no row is changed.
 QStringList patchRows(const std::vector<RowPatch>& copied, int kindOfSystem, DesignRowList* rows);
 
-/// A row in which a minimum reinforcement would be above its maximum.
+/// A row with a minimum reinforcement above the corresponding maximum.
 struct LimitFault
 {
     int row;
@@ -24,9 +24,9 @@ struct LimitFault
     float maximum;
 };
 
-/// Returns the first such row if the patch is applied to the rows with these numbers, or nothing.
-/// Checks a pair of limits only if the patch sets one of them: the user must be able to change
-/// other fields of rows that were already invalid.
+/// Returns the first row that would have such a fault after the patch is applied to the rows with
+/// these numbers, or nothing. Checks a pair of limits only if the patch sets one of them: the user
+/// must be able to change other fields of rows that were already invalid.
 std::optional<LimitFault> limitFault(const DesignRowList& rows, const std::set<int>& numbers,
                                      const RowPatch& patch);
 

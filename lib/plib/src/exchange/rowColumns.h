@@ -35,7 +35,8 @@ QString nameOf(const RowColumn& column, vkd::Language language);
 QString typeName(int type, vkd::Language language);
 int typeOfText(const QString& text);
 
-/// Return whether a string, in any language, denotes "no groups" or the remaining groups.
+/// These functions return whether a string, in any language, denotes "no groups" or the remaining
+/// groups.
 bool isNoGroupsText(const QString& text);
 bool isRemainingGroupsText(const QString& text);
 

@@ -93,7 +93,7 @@ QString shownValue(float value, int code)
                            : vkd_h_numberText(double(value), vkd_h_defaultStructLineEdit(code));
 }
 
-/// Adds a value to the line of its name, in the place of its side.
+/// Adds a value to the line with its name, at the position for its side.
 void addValue(const RowColumn& column, float value, std::vector<DescriptionLine>* lines)
 {
     const int code = dimensionCode(column.field);

@@ -11,8 +11,8 @@
 
 namespace plib {
 
-/// A line of the description of a row: the name of a value, its text and its unit. A value of the
-/// two sides has two texts, the upper side first.
+/// A line of the description of a row: the name of a value, its text and its unit. A value that
+/// both sides have is shown as two texts, first for the upper side.
 struct DescriptionLine
 {
     QString name;
@@ -28,7 +28,7 @@ using GroupTitles = QHash<int, QString>;
 /// so are all values of a row without design.
 std::vector<DescriptionLine> describeRow(const DesignParameterRow& row, const GroupTitles& titles);
 
-/// Describes those values of a record that a function accepts, even if they are not set.
+/// Describes the values of a record for which `isShown` returns true, even if they are not set.
 std::vector<DescriptionLine> describeValues(const tagZOB_QUAD_RIM& record,
                                             const std::function<bool(RealField)>& isShown);
 

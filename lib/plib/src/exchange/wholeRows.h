@@ -11,8 +11,8 @@ namespace plib {
 /// Returns complete rows, with their groups, as bytes for another page of the same process.
 QByteArray bytesOfWholeRows(const DesignRowList& rows);
 
-/// Reads such bytes, without the pointers to the bars. Returns an empty optional if they are
-/// malformed.
+/// Reads rows from bytes that bytesOfWholeRows() has returned. `barData` is null in these rows.
+/// Returns an empty optional if the bytes are malformed.
 std::optional<DesignRowList> wholeRowsOf(const QByteArray& bytes);
 
 } // namespace plib

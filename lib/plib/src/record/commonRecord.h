@@ -15,9 +15,9 @@ struct CommonRecord
 };
 
 /// Returns the common values of the rows with these numbers, of which there must be at least one.
-/// The type of the result has only fields that the types of all rows have: rows with different
-/// numbers of layers share the layers of the smallest number, and circular reinforcement shares
-/// with the others the fields of two orthogonal layers.
+/// The type of the result has only the fields that the types of all rows have: it is the type with
+/// the fewest layers or, if only some of the rows are circular, the type with two orthogonal
+/// layers.
 CommonRecord commonRecord(const DesignRowList& rows, const std::set<int>& numbers);
 
 /// Returns the text of each different value of the field, in the order of the rows, with units. A

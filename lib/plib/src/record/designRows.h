@@ -28,8 +28,8 @@ bool hasRowWithoutGroups(const DesignParameterData& data);
 bool mayMoveUp(const DesignParameterData& data, int row);
 bool mayMoveDown(const DesignParameterData& data, int row);
 
-/// Returns the next row with a design in the direction, which is 1 or -1, or -1 if there is none. A
-/// row without design has no dialogs.
+/// Returns the nearest row with a design below (`direction` 1) or above (`direction` -1) the given
+/// row, or -1 if there is none. Rows without a design have no dialogs.
 int designRowBeside(const DesignParameterData& data, int row, int direction);
 
 /// Returns the rows to which an operation on the current row applies: all selected rows if the
@@ -39,7 +39,7 @@ std::set<int> rowsWith(int current, const std::set<int>& selected);
 /// Returns the type of these rows, or nothing if their types differ.
 std::optional<int> commonType(const DesignParameterData& data, const std::set<int>& rows);
 
-/// Group lists by the number of their row.
+/// The groups of rows, keyed by row number.
 using GroupLists = std::map<int, std::vector<int>>;
 
 /// Returns the lists that change if `groups` become the groups of a row. Groups that are new in the

@@ -24,7 +24,7 @@ constexpr std::array<LimitPair, 6> LimitPairs{{
 }};
 
 /// Compares in single precision, as in the record. A limit that is not set is in order with any
-/// other. A NaN is never in order with a limit that is set.
+/// other limit. A NaN is never in order with a limit that is set.
 bool isInOrder(float minimum, float maximum);
 
 } // namespace plib

@@ -9,15 +9,15 @@
 namespace plib {
 
 /// These functions return the reason why an operation on rows is impossible, or an empty string if
-/// it is possible. A direction is -1 for up and 1 for down.
+/// the operation is possible. A direction is -1 for up and 1 for down.
 
-/// For moving a row.
+/// Returns why a row cannot be moved in this direction.
 QString moveRefusal(const DesignParameterData& data, int row, int direction);
 
-/// For deleting rows.
+/// Returns why rows cannot be deleted.
 QString deletionRefusal(const std::set<int>& rows);
 
-/// For continuing with another row in a dialog.
+/// Returns why a dialog cannot continue with the next row in this direction.
 QString stepRefusal(const DesignParameterData& data, int row, int direction);
 
 } // namespace plib

@@ -32,7 +32,7 @@ QString rowText(const DesignParameterRow& row, int column);
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit);
 
 /// Returns a summary with invisible characters that allow line breaks only after " ;", so that no
-/// value is separated from its unit. For painting; the text of the cell stays as it is.
+/// value is separated from its unit. Used for painting; the text of the cell does not change.
 QString withBreaksBetweenValues(const QString& summary);
 
 } // namespace plib

@@ -7,8 +7,8 @@ class QTreeWidgetItem;
 
 namespace plib {
 
-/// The look of an output tree: the expanded captions and plots, the current item and the scroll
-/// position. It can be restored as long as the items exist.
+/// The state of an output tree's view: the expanded captions and plots, the current item and the
+/// scroll position. It can be restored as long as the items exist.
 class BranchState
 {
 public:

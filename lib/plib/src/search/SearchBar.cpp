@@ -47,7 +47,7 @@ QToolButton* SearchBar::newButton(const char* name, const QString& text)
     button->setAccessibleName(text);
     button->setToolTip(text);
     button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::NoFocus); // there are keys
+    button->setFocusPolicy(Qt::NoFocus); // keyboard users have shortcuts
     return button;
 }
 

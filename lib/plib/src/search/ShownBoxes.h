@@ -11,9 +11,9 @@ class PictureWarning;
 class PlotSearch;
 
 /// Restricts the user's changes to check boxes to the plots and rows that a search shows, so that a
-/// click never changes a plot that is out of sight. A click on the box of a caption checks
-/// everything shown below it, or unchecks it if all of it is checked. Changes by the program still
-/// affect all items.
+/// click never changes a plot that is hidden. A click on the box of a caption checks everything
+/// shown below it, or unchecks it if all of it is checked. Changes by the program still affect all
+/// items.
 class ShownBoxes : public QStyledItemDelegate
 {
     Q_OBJECT

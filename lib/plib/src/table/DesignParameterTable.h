@@ -21,9 +21,9 @@ public:
 
     explicit DesignParameterTable(QWidget* parent);
 
-    /// Fit the widths of the columns and the heights of the rows to the texts of rows that have
-    /// changed, or to all texts. In a very long table, all rows have the height required for the
-    /// longest texts, and only the first rows determine the widths.
+    /// These functions fit the widths of the columns and the heights of the rows to the texts of
+    /// rows that have changed, or to all texts. In a very long table, all rows have the height
+    /// required for the longest texts, and only the first rows determine the widths.
     void fitRows(int first, int last);
     void fitAllRows();
     /// Fits only the heights of rows.

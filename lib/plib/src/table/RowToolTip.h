@@ -11,9 +11,9 @@ class QHelpEvent;
 
 namespace plib {
 
-/// Shows all values of a row in a tool tip of the table of the design page, whose child it is. The
-/// text is created only when it is shown. The titles of the groups are read once, because a page
-/// shows the state of the project that it has read.
+/// Shows all values of a row of the design page in a tool tip of the table. The text is created
+/// only when it is shown. The titles of the groups are read once, because a page shows the state of
+/// the project that it has read. The object is a child of the page.
 class RowToolTip : public QObject
 {
     Q_OBJECT

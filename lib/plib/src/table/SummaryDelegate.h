@@ -2,8 +2,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Paints the summaries of a row. Their lines break only between values. The text of the cell stays
-/// as it is, so that copying does not copy invisible characters. VKD_QT_TableWidgetButton paints
+/// Paints the summaries of a row. Their lines break only between values. The text of the cell does
+/// not change, so that copying does not copy invisible characters. VKD_QT_TableWidgetButton paints
 /// the same text over the cell.
 class SummaryDelegate : public QStyledItemDelegate
 {

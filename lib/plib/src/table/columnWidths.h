@@ -9,7 +9,7 @@ struct ColumnShare
 {
     int width = 0;               ///< the initial width, which is also the smallest one
     bool isChosenByUser = false; ///< the user has set this width, which does not change
-    int needed = 0;              ///< the width in which no text of the column is wrapped
+    int needed = 0;              ///< the width at which no text of the column is wrapped
 };
 
 /// Returns the widths of columns for an available width. They are never narrower than their initial

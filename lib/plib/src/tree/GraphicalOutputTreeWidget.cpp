@@ -174,7 +174,7 @@ void GraphicalOutputTreeWidget::applySelection(const QString& text)
 
 void GraphicalOutputTreeWidget::expandPlots()
 {
-    scheduleDelayedItemsLayout(); // first, or each expand() would lay out the tree
+    scheduleDelayedItemsLayout(); // must be first; otherwise, each expand() would lay out the tree
     for (int i = 0; i < topLevelItemCount(); ++i) {
         const QModelIndex top = model()->index(i, 0);
         expand(top);

@@ -56,7 +56,7 @@ public Q_SLOTS:
     void expandPlots();
     /// Collapses the plots so that no load case is visible.
     void closeLoads();
-    /// Generate lines for debugging, which are currently not written anywhere.
+    /// Generates lines for debugging, which are currently not written anywhere.
     void dump() const;
     void dump(QTreeWidgetItem* item, int indent) const;
 

@@ -23,7 +23,7 @@ public:
     /// Adds the rows that a line lists. The first row gets the given time, and each row gets a
     /// later time than all previously added rows.
     void add(const QVector<int>& numbers, int time);
-    /// Must be called after the last row has been added, before find().
+    /// Must be called after the last row has been added and before find().
     void sort();
 
     /// Returns the row, or null if no line lists it.

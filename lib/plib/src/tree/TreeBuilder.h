@@ -37,7 +37,7 @@ public:
     {
     }
 
-    /// Adds the plot of a record, which must be offered by this page.
+    /// Adds the plot of a record. The page must offer this plot.
     void add(const GraphicalOutputRecord& record)
     {
         Node* top = caption(m_root, record.title1, record, 0);

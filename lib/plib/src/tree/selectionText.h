@@ -148,7 +148,7 @@ private:
         Order orLater(Order other) const { return other.time > time ? other : *this; }
     };
 
-    /// A line that lists rows, and its time.
+    /// A line that lists rows, and the time of its request.
     struct RowList
     {
         const SelectionLine* line;
