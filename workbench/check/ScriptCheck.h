@@ -67,7 +67,7 @@ private:
     const LoadCases m_loadCases;
 
     QVector<ScriptFinding> m_findings;
-    QSet<QString> m_clean; // lines without findings that need not be checked again
+    QSet<QString> m_clean; // lines without findings, which need not be checked again
     QHash<QString, Name> m_names;
     QStringView m_text; // the current line
     int m_line = -1;

@@ -24,7 +24,7 @@ DesignDock::DesignDock(QWidget* parent)
     m_apply->setObjectName(QStringLiteral("DesignApply"));
     m_apply->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
     auto content = new QWidget(this);
-    auto layout = new QHBoxLayout(content); // the page has room at its side
+    auto layout = new QHBoxLayout(content); // the buttons are beside the page
     layout->setContentsMargins(6, 0, 6, 6);
     layout->addWidget(m_place, 1);
     layout->addLayout(m_tools);

@@ -153,8 +153,8 @@ void DesignEditor::restore(const DesignPage::State& state)
     setPage(std::move(page));
 }
 
-/// Does not read the project if there are changed rows, because its present rows would then count
-/// as those that the user has seen.
+/// Does not read the project if there are changed rows, because the user would then be assumed to
+/// have seen the rows that are now in the project.
 void DesignEditor::showAgain(const std::optional<DesignPage::State>& before)
 {
     if (before && before->isModified)

@@ -36,8 +36,9 @@ public:
     DesignPage(OpenProject* project, QWidget* parent);
     ~DesignPage() override;
 
-    /// Reads the records and the dialog page entries of the project. Returns a VkdZobStatus. Must
-    /// succeed, or restore() must be called, before any other function.
+    /// Reads the records and the dialog page entries of the project. Returns a VkdZobStatus. Before
+    /// any other function is called, this function must have succeeded, or restore() must have been
+    /// called.
     cd_error_t load();
     /// Writes all rows to the project, or no row if this fails. Returns a VkdZobStatus, or
     /// PartChanged if the project contains a newer state that must not be replaced. The page can be
@@ -53,7 +54,8 @@ public:
     QTableWidget* table() const;
     /// Returns whether the rows differ from those in the project.
     bool isModified() const;
-    /// Applies the selection in an open list of types. Call it before the rows are stored or left.
+    /// Applies the selection in an open list of types. Must be called before the rows are stored or
+    /// the user leaves the page.
     void finishEditing();
     /// Returns the groups of a row in ascending order; -1 represents the remaining groups.
     QVector<int> groups(int row) const;
@@ -61,8 +63,9 @@ public:
     /// rows have changed.
     bool setGroups(int row, const QVector<int>& groups);
     int rowsWithoutGroups() const;
-    /// Asks the user if several rows have the same group, because each row would store a record for
-    /// it. Returns false if the user wants to change the rows, and selects the first such row.
+    /// If several rows have the same group, asks the user for confirmation, because each of these
+    /// rows would store a record for the group. If the user wants to change the rows, selects the
+    /// first such row and returns false.
     bool maySharedGroupsStay();
 
 Q_SIGNALS:

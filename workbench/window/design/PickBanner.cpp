@@ -30,7 +30,7 @@ PickBanner::PickBanner(QWidget* parent)
 {
     setObjectName(QStringLiteral("PickBanner"));
     m_done->setObjectName(QStringLiteral("PickDone"));
-    auto band = new QWidget(this); // without the buttons: their focus frame has its colour
+    auto band = new QWidget(this); // not behind the button, whose focus frame has this colour
     band->setAutoFillBackground(true);
     band->setBackgroundRole(QPalette::Highlight);
     auto texts = new QVBoxLayout(band);

@@ -34,14 +34,14 @@ void RowColours::setTexts()
                             "their own are pale."));
 }
 
-/// The view dims nothing while it has colours, so an entry without a group keeps all groups pale if
-/// no row has groups.
+/// The view shows all groups without a colour as pale, but only if at least one colour is set.
+/// Therefore, a colour is always set for NoGroup.
 void RowColours::show(const DesignPage* page, const QHash<int, int>& rowOf, int remainingRow)
 {
     m_button->setEnabled(page);
     std::map<int, QColor> colours;
     QVector<RowLegend::Entry> entries;
-    const QColor none = m_view->palette().color(QPalette::Base); // also of secondary groups
+    const QColor none = m_view->palette().color(QPalette::Base); // also for secondary groups
     if (page && m_button->isChecked()) {
         colours[AnimatorView::NoGroup] = Qt::gray;
         for (auto it = rowOf.cbegin(); it != rowOf.cend(); ++it)

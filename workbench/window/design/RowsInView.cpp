@@ -44,7 +44,7 @@ RowsInView::RowsInView(const Widgets& widgets, WindowMessages* messages)
     connect(m_widgets.view, &AnimatorView::pickedGroupsChanged, this, &RowsInView::takePicked);
     connect(m_widgets.groups, &GroupList::groupChosen, this, &RowsInView::togglePicked);
     connect(m_widgets.groups, &GroupList::groupSelected, this, [this](int group) {
-        if (!isPicking()) // the current row keeps getting groups
+        if (!isPicking()) // while picking, clicks add groups to the current row
             selectRowOf(group);
     });
     pageChanged();
@@ -157,8 +157,8 @@ QVector<int> RowsInView::selectedRows() const
     return rows;
 }
 
-/// Highlights the groups of the selected rows. The row for the remaining groups stands for all
-/// groups that are in no other row.
+/// Highlights the groups of the selected rows. The row for the remaining groups represents all
+/// groups that are not in any other row.
 void RowsInView::showSelected()
 {
     std::set<int> groups;

@@ -40,9 +40,9 @@ public:
     RowsInView(const Widgets& widgets, WindowMessages* messages);
     ~RowsInView() override;
 
-    /// Must be called when the dock has another page or no page.
+    /// Must be called after the page in the dock has been replaced or removed.
     void pageChanged();
-    /// Must be called when the list contains other groups.
+    /// Must be called after the groups in the list have changed.
     void groupsChanged();
     void setTexts();
 

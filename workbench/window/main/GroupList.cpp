@@ -19,7 +19,7 @@ namespace workbench {
 
 namespace {
 enum Column { NumberColumn, RowColumn, TitleColumn, ContentsColumn, ColumnCount };
-constexpr double Tint = 0.25; // part of the highlight colour in the colour of the current rows
+constexpr double Tint = 0.25; // proportion of the highlight colour in the current rows
 
 QColor tinted(const QPalette& palette)
 {

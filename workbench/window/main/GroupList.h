@@ -52,8 +52,8 @@ Q_SIGNALS:
     void groupPointed(int group);
     /// Emitted after a plain click on a group, and on Enter for the current group.
     void groupChosen(int group);
-    /// Emitted when the user makes another group the current group by a plain click or key, neither
-    /// to open the menu nor to extend the selection.
+    /// Emitted when the user makes another group the current group with a plain click or key. Not
+    /// emitted if the user opens the menu or extends the selection.
     void groupSelected(int group);
 
 protected:

@@ -36,7 +36,7 @@
 namespace workbench {
 
 namespace {
-constexpr int PopupMs = 200; // until an open menu is checked again
+constexpr int PopupMs = 200; // interval between checks for an open menu
 } // namespace
 
 MainWindow::MainWindow(const MakeProject& makeProject, QWidget* parent)

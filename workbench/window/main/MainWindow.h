@@ -27,9 +27,9 @@ class WindowPanes;
 /// The main window. It hosts the library's pages, and connects its panes and actions to the classes
 /// that implement the commands: an editor for each dialog, and FileCommands for projects.
 ///
-/// OK in a dialog and Apply in the design dock immediately write to the project file. Only the rows
-/// in the design dock and the selection in an open output dialog may be unsaved, and the window
-/// asks whether to save them before the project is closed.
+/// OK in a dialog and Apply in a dock immediately write to the project file. Only the rows in the
+/// design dock, the outputs and the selection in the open dialog for the text output may be
+/// unsaved, and the window asks whether to save them before the project is closed.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT

@@ -144,7 +144,7 @@ void WindowPanes::makeRoomForDesign()
     if (std::exchange(m_isDesignBelow, isBelow) != isBelow && isBelow)
         m_groupDock->raise();
     if (!isBelow || std::exchange(m_isDesignPlaced, true))
-        return; // later, the user decides about the place and the height
+        return; // from then on, the user determines the position and the height
     const int wanted = qMin(18 * m_window->fontMetrics().height(), m_window->height() * 2 / 5);
     if (design->height() < wanted)
         m_window->resizeDocks({design}, {wanted}, Qt::Vertical);

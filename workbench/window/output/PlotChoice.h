@@ -48,7 +48,7 @@ private:
     TreeViewState m_look; ///< the view of the tree before the change
     KeptPlots m_kept;
     QString m_chosen; ///< selection text of the user's plots; null for the proposal
-    QString m_shown;  ///< selection text that the page could show after the last change
+    QString m_shown;  ///< the page's selection text after the last change
 };
 
 } // namespace workbench

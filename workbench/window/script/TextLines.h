@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// A text and the positions of its lines. A line needs four bytes in addition to its text. The
+/// A string and the positions of its lines. A line needs four bytes in addition to its text. The
 /// class is implicitly shared. Even an empty text has one line.
 class TextLines
 {

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// A widget for the boxes of a dialog. It scrolls if the dialog is too low for the boxes; the
-/// dialog cannot be narrower than the boxes.
+/// A widget for the boxes of a dialog. It scrolls if the dialog is not tall enough for the boxes;
+/// the dialog cannot be narrower than the boxes.
 class ScrolledBoxes : public QScrollArea
 {
     Q_OBJECT
