@@ -91,7 +91,7 @@ public:
     workbench::ScriptView view;
 
 private:
-    /// Marks the lines of the last caption, because these take longest to find.
+    /// Marks the lines of the last caption, which take the longest to find.
     void markPlot()
     {
         QTreeWidgetItem* item = tree->topLevelItem(tree->topLevelItemCount() - 1);

@@ -367,7 +367,7 @@ private Q_SLOTS:
         const int top = tree->verticalScrollBar()->value();
         QVERIFY(top > 0);
         trigger(*window, "German");
-        QCOMPARE(find<QDialog>(*window, "TextOutputDialog")->geometry(), place); // long texts
+        QCOMPARE(find<QDialog>(*window, "TextOutputDialog")->geometry(), place); // longer labels
         tree = find<QDialog>(*window, "OutputDialog")->findChild<QTreeWidget*>();
         const auto compareTree = [&] {
             QVERIFY(!tree->topLevelItem(1)->isExpanded());

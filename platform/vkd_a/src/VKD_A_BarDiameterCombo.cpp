@@ -79,10 +79,10 @@ void VKD_A_BarDiameterCombo::focusOutEvent(QFocusEvent* event)
     VKD_QT4_ComboBox::focusOutEvent(event);
 }
 
-/// Chooses a bar only if its diameter is exactly the typed one. Any other input restores the
-/// previous bar, because its first digits may have chosen another bar, and shows a tool tip. The
-/// first character after a pause starts a new diameter, unless the typed characters are only the
-/// beginning of a bar's diameter.
+/// Chooses a bar only if its diameter exactly matches the input. Any other input restores the
+/// previous bar, because the first digits of the input may have chosen another bar, and shows a
+/// tool tip. The first character after a pause starts a new diameter, unless the characters typed
+/// so far are only the beginning of a bar's diameter.
 void VKD_A_BarDiameterCombo::type(const QString& character)
 {
     const bool isComplete = typedEntry() >= 0 || !isBeginning();

@@ -67,11 +67,12 @@ public:
     /// Works whether picking is enabled or disabled.
     void setHighlightedGroup(int group);
 
-    /// Highlights groups in addition, for example those of the current row in a table.
+    /// Highlights several groups, for example those of the current row in a table, in addition to
+    /// the group that setHighlightedGroup() highlights.
     void setSelectedGroups(const std::vector<int>& groups);
 
-    /// Sets the colours of groups; all other groups are pale. Without colours, each group has its
-    /// own colour. Highlighted groups do not dim the others while colours are set.
+    /// Sets the colours of groups; all other groups are pale. If the map is empty, each group has
+    /// its default colour. Highlighted groups do not dim the others while colours are set.
     void setGroupColours(const std::map<int, QColor>& colours);
     /// Returns a colour for setGroupColours(). The colours differ in hue and lightness, so that
     /// colour-blind users can distinguish them; adjacent indexes differ most. The index must not be

@@ -7,8 +7,8 @@ namespace aniview {
 
 /// Finds the element at a point of the image. Consecutive elements are usually close to each other,
 /// so they are combined into blocks, and the elements of a block are considered only if its
-/// bounding box is at the point. Therefore, finding an element takes much less time than projecting
-/// the whole geometry.
+/// bounding box contains the point. Therefore, finding an element takes much less time than
+/// projecting the whole geometry.
 class HitTest
 {
 public:
