@@ -1,4 +1,4 @@
-# Installs missing Debian packages. The scripts run and test source this file.
+# Installs missing Debian packages. The scripts run, test and packaging/makePackages source this file.
 
 plib_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev
                qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libxxhash-dev

@@ -1,6 +1,6 @@
 # Settings of the Debian packages, which packaging/makePackages builds with the preset `package`.
-# The owner of this project chooses the licence, so its text is read from the file LICENSE.
-set(license ${PROJECT_SOURCE_DIR}/LICENSE)
+# The owner of this project chooses the licence, so its text is read from a file.
+set(PLIB_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE CACHE FILEPATH "Text of the licence for the packages")
 set(PLIB_MAINTAINER "" CACHE STRING "Maintainer of the Debian packages, with a mail address")
 
 set(library libplib${PROJECT_VERSION_MAJOR})
@@ -18,19 +18,24 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
+# Later versions with the same SONAME are compatible. CPack reads these two variables only without
+# the name of a component.
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
-set(sentence "plib provides Qt widget pages for a finite-element desktop: the plots of a graphical
- output, and the design parameters of area elements.")
+# CPack indents the lines of a description and replaces blank lines with a full stop.
+set(sentence "plib provides Qt widget pages for a finite-element desktop: the plots of a
+graphical output, and the design parameters of area elements.")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qttranslations5-l10n)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "widget pages for a finite-element desktop
 ${sentence}
- .
- This package contains the shared libraries and their data.")
+
+This package contains the shared libraries and their data.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libplib-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -38,8 +43,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${library} (= ${version}), qtbase5-dev (>= 5.15)")
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "widget pages for a finite-element desktop - headers
 ${sentence}
- .
- This package contains the headers, and files for CMake and pkg-config.")
+
+This package contains the headers, and files for CMake and pkg-config.")
 
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_NAME plib-workbench)
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_SECTION science)
@@ -47,16 +52,16 @@ set(CPACK_DEBIAN_WORKBENCH_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS "${library} (= ${version})")
 set(CPACK_DEBIAN_WORKBENCH_DESCRIPTION "desktop and command line for finite-element plots
 ${sentence}
- .
- This package contains a desktop program and a command line that use the pages.")
+
+This package contains a desktop program and a command line that use the pages.")
 
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_NAME plib-doc)
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SECTION doc)
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_DOCUMENTATION_DESCRIPTION "widget pages for a finite-element desktop - documentation
 ${sentence}
- .
- This package contains the guides, examples and the reference of the headers.")
+
+This package contains the guides, examples and the reference of the headers.")
 
 # Each package contains a copyright file and a changelog.
 execute_process(COMMAND date -R -u -d ${PLIB_RELEASE_DATE} OUTPUT_VARIABLE date
@@ -69,10 +74,10 @@ execute_process(COMMAND gzip -9nfk ${changelog})
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} upper)
     set(folder ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
-    install(CODE "if(NOT EXISTS ${license})
-    message(FATAL_ERROR \"The packages need the text of the licence in the file LICENSE\")
+    install(CODE "if(NOT EXISTS ${PLIB_LICENSE})
+    message(FATAL_ERROR \"The packages need the text of the licence in the file ${PLIB_LICENSE}\")
 endif()" COMPONENT ${component})
-    install(FILES ${license} DESTINATION ${folder} RENAME copyright COMPONENT ${component})
+    install(FILES ${PLIB_LICENSE} DESTINATION ${folder} RENAME copyright COMPONENT ${component})
     install(FILES ${changelog}.gz DESTINATION ${folder} RENAME changelog.Debian.gz
             COMPONENT ${component})
 endforeach()
