@@ -288,7 +288,9 @@ private Q_SLOTS:
         QCOMPARE(find<QLineEdit>(desk, "groupsLine")->text(), QStringLiteral("3"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         desk.keys({Qt::Key_F2});
-        QTest::keyClicks(QApplication::focusWidget(), typed); // the typed text replaces the groups
+        // The typed text replaces the groups. The second F2 must not open a second line.
+        QTest::keyClicks(QApplication::focusWidget(), typed);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F2);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         const bool isAccepted = table->currentRow() == 2;
         QCOMPARE(find<QAction>(*desk.page, "undo")->isEnabled(), isAccepted);

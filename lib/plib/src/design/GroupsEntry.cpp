@@ -80,8 +80,11 @@ dlgSelection* GroupsEntry::openEditor()
     return editorOf(table, row);
 }
 
+/// Keys that an open line does not handle also reach the table. They must not open a second line.
 void GroupsEntry::open(const QString& typed)
 {
+    if (m_line)
+        return;
     const dlgSelection* editor = openEditor();
     m_row = m_page->state().table->currentRow();
     const DesignParameterRow* row = rowAt(m_page->state(), m_row);
@@ -103,7 +106,7 @@ void GroupsEntry::open(const QString& typed)
 QString GroupsEntry::apply()
 {
     const DesignParameterRow* row = rowAt(m_page->state(), m_row);
-    const QString text = m_line->text().trimmed();
+    const QString text = m_line ? m_line->text().trimmed() : m_before;
     if (!row || text == m_before)
         return QString();
     const GroupsReading read = text.isEmpty() ? GroupsReading{true, {}, {}}
@@ -120,7 +123,7 @@ QString GroupsEntry::apply()
 void GroupsEntry::enter(int direction)
 {
     const QString refusal = apply();
-    if (!refusal.isEmpty()) {
+    if (m_line && !refusal.isEmpty()) {
         m_page->showNotice(refusal);
         return m_line->refuse(refusal);
     }
@@ -140,13 +143,18 @@ void GroupsEntry::leave()
         m_page->showNotice(tr("%1 Row %2 keeps its groups.").arg(refusal).arg(m_row + 1));
 }
 
-/// Disconnects first, so that losing the focus does not apply the text.
+/// Disconnects first, so that losing the focus does not apply the text. Another line can be opened
+/// before this one is deleted.
 void GroupsEntry::close()
 {
-    m_line->disconnect(this);
-    const bool hasFocus = m_line->hasFocus();
-    m_line->hide();
-    m_line->deleteLater();
+    GroupsLine* line = m_line;
+    m_line.clear();
+    if (!line)
+        return;
+    line->disconnect(this);
+    const bool hasFocus = line->hasFocus();
+    line->hide();
+    line->deleteLater();
     if (hasFocus)
         m_page->state().table->setFocus();
 }
