@@ -88,6 +88,16 @@ private Q_SLOTS:
         box.setCurrent(12.7F);
         QTest::keyClicks(&box, typed);
         QTEST(box.getCurrent(), "chosen");
+        for (const bool isByUser : {false, true}) { // the next character starts a new diameter
+            box.setCurrent(10.0F);
+            QTest::keyClick(&box, Qt::Key_1);
+            if (isByUser)
+                box.setCurrentIndex(box.findData(20.0F));
+            else
+                box.setCurrent(20.0F);
+            QTest::keyClick(&box, Qt::Key_6);
+            QCOMPARE(box.getCurrent(), 20.0F);
+        }
     }
 
     void withoutNotSet()

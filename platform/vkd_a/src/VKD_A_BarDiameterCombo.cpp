@@ -26,6 +26,11 @@ VKD_A_BarDiameterCombo::VKD_A_BarDiameterCombo(QWidget* parent, const char* name
     : VKD_QT4_ComboBox(parent, name)
 {
     setAccessibleName(tr("Bar diameter"));
+    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int chosen) {
+        const int entry = typedEntry();
+        if (chosen != (entry >= 0 ? entry : m_entryBefore)) // the user chose it in another way
+            m_typed.clear();
+    });
 }
 
 bool VKD_A_BarDiameterCombo::load(int index)
@@ -93,8 +98,8 @@ void VKD_A_BarDiameterCombo::type(const QString& character)
     m_lastKey.start();
     m_typed += character;
     const int entry = typedEntry();
-    setCurrentIndex(entry >= 0 ? entry : m_entryBefore);
     const QString shown = QStringLiteral("Ø") + m_typed;
+    setCurrentIndex(entry >= 0 ? entry : m_entryBefore);
     if (entry >= 0)
         QToolTip::hideText();
     else
@@ -143,6 +148,7 @@ void VKD_A_BarDiameterCombo::fill(float current)
 void VKD_A_BarDiameterCombo::selectSilently(int entry)
 {
     const VKD_QT_SignalBlocker blocker(this);
+    m_typed.clear(); // the combo box may now show another row
     setCurrentIndex(entry);
 }
 
