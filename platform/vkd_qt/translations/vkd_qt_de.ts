@@ -34,6 +34,18 @@
         <source>&amp;Yes</source>
         <translation>&amp;Ja</translation>
     </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Close without Saving</source>
+        <translation>Schließen ohne Speichern</translation>
+    </message>
 </context>
 <context>
     <name>ZobTexts</name>

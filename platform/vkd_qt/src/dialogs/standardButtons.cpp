@@ -4,11 +4,17 @@
 #include <QCoreApplication>
 
 namespace {
-/// Qt's English texts, which a button shows if the host has installed no translation for Qt.
+/// The English texts of Qt and of its GNOME and GTK themes, which a button shows if the host has
+/// installed no translation for Qt.
 const char* const UntranslatedTexts[] = {
-    QT_TRANSLATE_NOOP("standardButtons", "Cancel"), QT_TRANSLATE_NOOP("standardButtons", "Discard"),
-    QT_TRANSLATE_NOOP("standardButtons", "Save"), QT_TRANSLATE_NOOP("standardButtons", "&No"),
-    QT_TRANSLATE_NOOP("standardButtons", "&Yes")};
+    QT_TRANSLATE_NOOP("standardButtons", "Cancel"),
+    QT_TRANSLATE_NOOP("standardButtons", "Discard"),
+    QT_TRANSLATE_NOOP("standardButtons", "Save"),
+    QT_TRANSLATE_NOOP("standardButtons", "&No"),
+    QT_TRANSLATE_NOOP("standardButtons", "&Yes"),
+    QT_TRANSLATE_NOOP("standardButtons", "&Cancel"),
+    QT_TRANSLATE_NOOP("standardButtons", "&Save"),
+    QT_TRANSLATE_NOOP("standardButtons", "Close without Saving")};
 } // namespace
 
 void vkd::qt::translateStandardButton(QAbstractButton* button)
