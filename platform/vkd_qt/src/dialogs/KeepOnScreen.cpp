@@ -33,7 +33,7 @@ bool KeepOnScreen::eventFilter(QObject* dialog, QEvent* event)
     const bool isGrown =
         least.width() > m_leastSize.width() || least.height() > m_leastSize.height();
     m_leastSize = least;
-    if (isGrown && m_dialog->isVisible()) {
+    if (isGrown && m_dialog->isVisible() && m_dialog->isWindow()) { // it may be embedded
         const QRect frame = m_dialog->frameGeometry();
         const QPoint place =
             placeWithin(m_dialog->screen()->availableGeometry(), frame.size(), frame.topLeft());
