@@ -211,7 +211,9 @@ void PageHistory::restore(const PageState& state)
             wanted.remove(savedPart(savedtag::View, view));
         m_data.panel->apply(SavedPage(wanted, settings));
     }
-    m_data.tree->applySelection(state.plots);
+    // The host's state can determine which rows the plots have.
+    if (state.plots != before.plots || state.host != before.host)
+        m_data.tree->applySelection(state.plots);
 }
 
 } // namespace plib
