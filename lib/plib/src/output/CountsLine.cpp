@@ -51,6 +51,13 @@ void CountsLine::showEvent(QShowEvent* event)
         m_waiting.start();
 }
 
+/// A hidden line is counted when it is shown again.
+void CountsLine::hideEvent(QHideEvent* event)
+{
+    ElidedLabel::hideEvent(event);
+    m_waiting.stop();
+}
+
 void CountsLine::countAgain()
 {
     std::vector<QString> lines;
