@@ -90,7 +90,7 @@ void RowsHistory::replace(const Step& step, bool isUndo)
     Q_EMIT rowsChanged();
 }
 
-RecordedStep::RecordedStep(DesignParameter* page, RowsStep step, std::set<int> rows)
+RecordedStep::RecordedStep(DesignParameter* page, RowsStep step, const std::set<int>& rows)
     : RecordedStep(page, nameOf(step, rows), rows)
 {
 }

@@ -51,7 +51,7 @@ private:
 class RecordedStep
 {
 public:
-    RecordedStep(DesignParameter* page, RowsStep step, std::set<int> rows);
+    RecordedStep(DesignParameter* page, RowsStep step, const std::set<int>& rows);
     /// Records a step with a name of its own.
     RecordedStep(DesignParameter* page, const QString& name, std::set<int> rows);
     ~RecordedStep();
