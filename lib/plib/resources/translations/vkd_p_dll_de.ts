@@ -809,11 +809,11 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
     <message>
         <source>Uncheck &quot;%1&quot;</source>
-        <translation>„%1“ abwählen</translation>
+        <translation>Häkchen von „%1“ entfernen</translation>
     </message>
     <message>
         <source>Check &quot;%1&quot;</source>
-        <translation>„%1“ auswählen</translation>
+        <translation>„%1“ ankreuzen</translation>
     </message>
 </context>
 <context>
