@@ -352,7 +352,8 @@ private Q_SLOTS:
     void sameValueEverywhere()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1)});
-        const auto enter = [&desk](int column, const char* field, const QString& text) {
+        QStringList messages;
+        const auto enter = [&](int column, const char* field, const QString& text) {
             desk.table()->setCurrentCell(1, column);
             whenModal([&](QWidget* dialog) {
                 QApplication::setActiveWindow(dialog); // shortcuts require an active window
@@ -361,6 +362,7 @@ private Q_SLOTS:
                 focused->setFocus();
                 QTest::keyClicks(QApplication::focusWidget(), text);
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+                messages << find<QLabel>(*dialog, "rowMessage")->text();
                 qobject_cast<QDialog*>(dialog)->accept();
             });
             desk.keys({Qt::Key_F2});
@@ -369,6 +371,8 @@ private Q_SLOTS:
         enter(3, "m_pDIUQ", QStringLiteral("14"));
         enter(3, "amoq", QStringLiteral("70"));
         enter(4, "crackWKOQ", QStringLiteral("0,2"));
+        QCOMPARE(messages.first(), QStringLiteral("Set in the other field."));
+        QCOMPARE(messages.last(), QStringLiteral("Set in 3 other fields."));
         desk.page->writeToZob();
         const tagZOB_QUAD_RIM r = m_project->records().at(1);
         QStringList values;

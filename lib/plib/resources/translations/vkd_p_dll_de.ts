@@ -1077,6 +1077,10 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Es gibt kein weiteres Feld dieser Art.</translation>
     </message>
     <message>
+        <source>Set in the other field.</source>
+        <translation>Im anderen Feld gesetzt.</translation>
+    </message>
+    <message>
         <source>Set in %1 other fields.</source>
         <translation>In %1 weiteren Feldern gesetzt.</translation>
     </message>

@@ -74,8 +74,9 @@ QString SameValue::copied(const DialogField& from) const
             showValue(field, valueOf(from));
             ++count;
         }
-    return count == 0 ? tr("There is no other field of this kind.")
-                      : tr("Set in %1 other fields.").arg(count);
+    if (count == 0)
+        return tr("There is no other field of this kind.");
+    return count == 1 ? tr("Set in the other field.") : tr("Set in %1 other fields.").arg(count);
 }
 
 } // namespace plib
