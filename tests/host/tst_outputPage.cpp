@@ -264,6 +264,14 @@ private Q_SLOTS:
         QTRY_VERIFY(counts().contains(QLatin1String("sheets: 601, ")));
         desk.page.readXMLstring(part("List_4", "\nUnchecked:@SYS\n"));
         QTRY_COMPARE(counts(), QStringLiteral("No plot is checked, so there is no script."));
+
+        auto closing = std::make_unique<Desk>(m_project); // the host closes it during the question
+        closing->page.setUsedNumbersAndNames(rows);
+        closing->tree()->setCurrentItem(closing->tree()->topLevelItem(1)->child(0)->child(0));
+        whenModal([&](QWidget*) { closing.reset(); });
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(closing->tree(), Qt::Key_Space);
+        QTRY_VERIFY(!closing && !QApplication::activeModalWidget());
     }
 
     /// Each icon shows a sheet with its shadow and the lines between its pictures. Compares the

@@ -9,6 +9,7 @@
 #include "design/RowsHistory.h"
 #include "design/RowsNotice.h"
 #include "dialogs/BoxExplanation.h"
+#include "dialogs/rejectDialogs.h"
 #include "record/designEntries.h"
 #include "record/designRows.h"
 #include "record/designStore.h"
@@ -61,13 +62,7 @@ DesignParameter::~DesignParameter()
 {
     disconnect(qApp, nullptr, this, nullptr);
     delete findChild<plib::TypeEditor*>(); // an open list commits its entry when it loses the focus
-    // The dialogs of the page are on the stack of running functions. They are closed here and must
-    // not be deleted as children of the page.
-    const auto dialogs = findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QDialog* dialog : dialogs) {
-        dialog->setParent(nullptr);
-        dialog->reject();
-    }
+    plib::rejectDialogs(this);
 }
 
 void DesignParameter::setDialog(VKD_QT_Dialog* dialog)

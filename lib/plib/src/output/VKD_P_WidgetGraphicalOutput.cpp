@@ -1,5 +1,6 @@
 #include "VKD_P_WidgetGraphicalOutput.h"
 
+#include "dialogs/rejectDialogs.h"
 #include "output/CountsLine.h"
 #include "output/PageHistory.h"
 #include "output/WidgetGraphicalOutputData.h"
@@ -52,6 +53,7 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(
 /// deleted with the page, because it has no other owner.
 VKD_P_WidgetGraphicalOutput::~VKD_P_WidgetGraphicalOutput()
 {
+    plib::rejectDialogs(data->tree);
     AnimatorView* animator = data->animator;
     if (!animator || !isAncestorOf(animator) || (data->animatorHadHome && !data->animatorHome))
         return;

@@ -6,6 +6,7 @@
 
 #include <VKD_QT_MessageBox.h>
 
+#include <QPointer>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -34,12 +35,21 @@ bool PictureWarning::holdsBack(QTreeWidgetItem* item, int pictures)
     return true;
 }
 
+/// A second click can be waiting while the message box is open. The host can destroy the page in
+/// the event loop of the box.
 void PictureWarning::ask(const QPersistentModelIndex& index, int pictures)
 {
+    if (m_isAsking)
+        return;
+    const QPointer<PictureWarning> self(this);
+    m_isAsking = true;
     const int answer = VKD_QT_MessageBox::warning(
         m_tree, tr("Many Pictures"),
         tr("This click adds %1 pictures to the script. Is it intended?").arg(pictures),
         QMessageBox::Yes, QMessageBox::No, 0);
+    if (!self)
+        return;
+    m_isAsking = false;
     if (answer != QMessageBox::Yes || !index.isValid()) // the tree may have been rebuilt
         return;
     m_isConfirmed = true;

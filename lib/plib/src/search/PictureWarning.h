@@ -31,6 +31,7 @@ private:
     QTreeWidget* m_tree;
     Check m_check;
     bool m_isConfirmed = false;
+    bool m_isAsking = false;
 };
 
 /// Returns the number of pictures that are added if the item and all its descendants are checked.

@@ -1,0 +1,12 @@
+#pragma once
+
+class QWidget;
+
+namespace plib {
+
+/// Closes the open dialogs whose parent is this widget and removes them from it. A destructor calls
+/// this function if the dialogs are on the stack of running functions, because a dialog on the
+/// stack must not be deleted with its parent.
+void rejectDialogs(const QWidget* parent);
+
+} // namespace plib
