@@ -30,8 +30,10 @@ bool KeepOnScreen::eventFilter(QObject* dialog, QEvent* event)
     if (event->type() != QEvent::LayoutRequest || !m_dialog->layout())
         return QObject::eventFilter(dialog, event);
     const QSize least = m_dialog->layout()->totalMinimumSize();
-    const bool isGrown =
-        least.width() > m_leastSize.width() || least.height() > m_leastSize.height();
+    // A dialog that is larger than its new minimum size has not grown; the user placed it.
+    const QSize size = m_dialog->size();
+    const bool isGrown = (least.width() > m_leastSize.width() && least.width() >= size.width()) ||
+                         (least.height() > m_leastSize.height() && least.height() >= size.height());
     m_leastSize = least;
     if (isGrown && m_dialog->isVisible() && m_dialog->isWindow()) { // it may be embedded
         const QRect frame = m_dialog->frameGeometry();
