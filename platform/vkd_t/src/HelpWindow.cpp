@@ -86,11 +86,11 @@ QAction* HelpWindow::addKeyAction(const char* name, const QList<QKeySequence>& k
 
 void HelpWindow::makeToolBar()
 {
-    m_back = addKeyAction("back", {QKeySequence(Qt::ALT + Qt::Key_Left)});
+    m_back = addKeyAction("back", {QKeySequence(int(Qt::ALT) | Qt::Key_Left)});
     m_back->setIcon(programIcon("back"));
-    m_forward = addKeyAction("forward", {QKeySequence(Qt::ALT + Qt::Key_Right)});
+    m_forward = addKeyAction("forward", {QKeySequence(int(Qt::ALT) | Qt::Key_Right)});
     m_forward->setIcon(programIcon("forward"));
-    m_showContents = addKeyAction("showContents", {QKeySequence(Qt::CTRL + Qt::Key_T)});
+    m_showContents = addKeyAction("showContents", {QKeySequence(int(Qt::CTRL) | Qt::Key_T)});
     m_showContents->setIcon(programIcon("contents"));
     m_showContents->setCheckable(true);
     m_showContents->setChecked(true);
@@ -128,17 +128,17 @@ void HelpWindow::makeKeyActions()
         connect(addKeyAction(name, keys), &QAction::triggered, this, act);
     };
     key("close", {Qt::Key_Escape}, [this] { close(); });
-    key("search", {Qt::CTRL + Qt::Key_F}, [this] {
+    key("search", {int(Qt::CTRL) | Qt::Key_F}, [this] {
         m_searchField->setFocus();
         m_searchField->selectAll();
     });
     key("findNext", {Qt::Key_F3}, [this] { findNext(false); });
-    key("findPrevious", {Qt::SHIFT + Qt::Key_F3}, [this] { findNext(true); });
+    key("findPrevious", {int(Qt::SHIFT) | Qt::Key_F3}, [this] { findNext(true); });
     // On many keyboards, the plus sign and the equals sign share a key.
-    key("zoomIn", {Qt::CTRL + Qt::Key_Plus, Qt::CTRL + Qt::Key_Equal},
+    key("zoomIn", {int(Qt::CTRL) | Qt::Key_Plus, int(Qt::CTRL) | Qt::Key_Equal},
         [this] { m_browser->zoomBy(1); });
-    key("zoomOut", {Qt::CTRL + Qt::Key_Minus}, [this] { m_browser->zoomBy(-1); });
-    key("resetZoom", {Qt::CTRL + Qt::Key_0}, [this] { m_browser->resetZoom(); });
+    key("zoomOut", {int(Qt::CTRL) | Qt::Key_Minus}, [this] { m_browser->zoomBy(-1); });
+    key("resetZoom", {int(Qt::CTRL) | Qt::Key_0}, [this] { m_browser->resetZoom(); });
 }
 
 void HelpWindow::makePanes()
@@ -189,7 +189,7 @@ void HelpWindow::translate()
     m_searchField->setToolTip(
         tr("Search in all topics (%1)\n"
            "Next place: Enter or F3, previous place: Shift+F3")
-            .arg(QKeySequence(Qt::CTRL + Qt::Key_F).toString(QKeySequence::NativeText)));
+            .arg(QKeySequence(int(Qt::CTRL) | Qt::Key_F).toString(QKeySequence::NativeText)));
     m_contents->setAccessibleName(tr("Contents"));
     m_hits->setAccessibleName(tr("Topics found"));
     m_browser->setAccessibleName(tr("Help topic"));

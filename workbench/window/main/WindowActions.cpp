@@ -199,15 +199,15 @@ void WindowActions::setShortcuts()
     open->setShortcut(QKeySequence::Open);
     reload->setShortcut(QKeySequence::Refresh);
     save->setShortcut(QKeySequence::Save);
-    saveAs->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_S);
-    copyScript->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_C);
-    saveScript->setShortcut(Qt::CTRL + Qt::Key_E);
-    quit->setShortcut(Qt::CTRL + Qt::Key_Q);
-    design->setShortcut(Qt::CTRL + Qt::Key_D);
-    output->setShortcut(Qt::CTRL + Qt::Key_G);
-    textOutput->setShortcut(Qt::CTRL + Qt::Key_T);
-    sheet->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_P);
-    exportSheets->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_E);
+    saveAs->setShortcut(int(Qt::CTRL) | Qt::SHIFT | Qt::Key_S);
+    copyScript->setShortcut(int(Qt::CTRL) | Qt::SHIFT | Qt::Key_C);
+    saveScript->setShortcut(int(Qt::CTRL) | Qt::Key_E);
+    quit->setShortcut(int(Qt::CTRL) | Qt::Key_Q);
+    design->setShortcut(int(Qt::CTRL) | Qt::Key_D);
+    output->setShortcut(int(Qt::CTRL) | Qt::Key_G);
+    textOutput->setShortcut(int(Qt::CTRL) | Qt::Key_T);
+    sheet->setShortcut(int(Qt::CTRL) | Qt::SHIFT | Qt::Key_P);
+    exportSheets->setShortcut(int(Qt::CTRL) | Qt::SHIFT | Qt::Key_E);
     help->setShortcut(QKeySequence::HelpContents);
     for (int i = 0; i < views.size(); ++i)
         views[i]->setShortcut(QStringLiteral("Ctrl+%1").arg(i));

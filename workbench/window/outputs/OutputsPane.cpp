@@ -52,14 +52,14 @@ QToolButton* newButton(QAction* action, const char* name, QWidget* parent)
 OutputsPane::OutputsPane(QWidget* parent)
     : QWidget(parent)
     , menu(new QMenu(this))
-    , newOutput(add("NewOutput", Qt::CTRL + Qt::SHIFT + Qt::Key_N))
+    , newOutput(add("NewOutput", int(Qt::CTRL) | Qt::SHIFT | Qt::Key_N))
     , duplicate(add("DuplicateOutput"))
     , rename(add("RenameOutput"))
     , remove(add("DeleteOutput"))
     , moveUp(add("MoveOutputUp"))
     , moveDown(add("MoveOutputDown"))
-    , previous(add("PreviousOutput", Qt::CTRL + Qt::Key_PageUp))
-    , next(add("NextOutput", Qt::CTRL + Qt::Key_PageDown))
+    , previous(add("PreviousOutput", int(Qt::CTRL) | Qt::Key_PageUp))
+    , next(add("NextOutput", int(Qt::CTRL) | Qt::Key_PageDown))
     , copyFrom(add("CopyOutputs"))
     , saveAll(add("SaveAllScripts"))
     , exportAll(add("ExportAllSheets"))
@@ -80,8 +80,8 @@ OutputsPane::OutputsPane(QWidget* parent)
     m_note->hide();
     addToList(rename, Qt::Key_F2);
     addToList(remove, QKeySequence::Delete);
-    addToList(moveUp, Qt::ALT + Qt::Key_Up);
-    addToList(moveDown, Qt::ALT + Qt::Key_Down);
+    addToList(moveUp, int(Qt::ALT) | Qt::Key_Up);
+    addToList(moveDown, int(Qt::ALT) | Qt::Key_Down);
     menu->insertSeparator(previous);
     menu->insertSeparator(copyFrom);
     menu->insertSeparator(saveAll);

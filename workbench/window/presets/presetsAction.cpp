@@ -21,7 +21,7 @@ QAction* addPresetsAction(VKD_P_DesignParameter* page, const OpenProject* projec
 {
     auto action = new QAction(ActionText::tr("Pr&esets..."), page);
     action->setObjectName(QStringLiteral("presets"));
-    action->setShortcut(Qt::CTRL + Qt::Key_R);
+    action->setShortcut(int(Qt::CTRL) | Qt::Key_R);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     QObject::connect(action, &QAction::triggered, page,
                      [page, project] { PresetsDialog(page, project, page->window()).exec(); });

@@ -34,12 +34,13 @@ RowsClipboard::RowsClipboard(DesignParameter* page)
     , m_page(page)
 {
     QAction* copyRows =
-        addAction("copyRows", tr("&Copy Rows"), Qt::CTRL + Qt::Key_C, &RowsClipboard::copy);
-    addAction("pasteRows", tr("&Paste"), Qt::CTRL + Qt::Key_V, &RowsClipboard::paste);
-    addAction("pasteNewRows", tr("Paste as &New Rows"), Qt::CTRL + Qt::SHIFT + Qt::Key_V,
+        addAction("copyRows", tr("&Copy Rows"), int(Qt::CTRL) | Qt::Key_C, &RowsClipboard::copy);
+    addAction("pasteRows", tr("&Paste"), int(Qt::CTRL) | Qt::Key_V, &RowsClipboard::paste);
+    addAction("pasteNewRows", tr("Paste as &New Rows"), int(Qt::CTRL) | Qt::SHIFT | Qt::Key_V,
               &RowsClipboard::pasteAsNewRows);
-    QAction* duplicateRows = addAction("duplicateRows", tr("&Duplicate Rows"),
-                                       Qt::CTRL + Qt::SHIFT + Qt::Key_D, &RowsClipboard::duplicate);
+    QAction* duplicateRows =
+        addAction("duplicateRows", tr("&Duplicate Rows"), int(Qt::CTRL) | Qt::SHIFT | Qt::Key_D,
+                  &RowsClipboard::duplicate);
     const auto enable = [this, copyRows, duplicateRows] {
         const bool hasSelection = m_page->state().table->selectionModel()->hasSelection();
         copyRows->setEnabled(hasSelection);

@@ -66,9 +66,9 @@ void RowStrip::showMessage(const QString& text)
 void RowStrip::setSteps(const QString& previousRefusal, const QString& nextRefusal)
 {
     if (!m_previous.button) {
-        addStep(&m_previous, "previousRow", Qt::UpArrow, Qt::ALT + Qt::Key_Up,
+        addStep(&m_previous, "previousRow", Qt::UpArrow, int(Qt::ALT) | Qt::Key_Up,
                 tr("OK and continue with the previous row (%1)"), -1);
-        addStep(&m_next, "nextRow", Qt::DownArrow, Qt::ALT + Qt::Key_Down,
+        addStep(&m_next, "nextRow", Qt::DownArrow, int(Qt::ALT) | Qt::Key_Down,
                 tr("OK and continue with the next row (%1)"), 1);
         const auto ok = window()->findChild<VKD_QT_Ok*>();
         setTabOrder(ok->cmdCancel(), m_previous.button);

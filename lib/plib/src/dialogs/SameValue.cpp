@@ -34,7 +34,7 @@ SameValue::SameValue(const RecordDialog& dialog, RowStrip* strip, bool areSevera
     , m_strip(strip)
     , m_areSeveralRows(areSeveralRows)
 {
-    const QKeySequence key(Qt::CTRL + Qt::Key_Return);
+    const QKeySequence key(int(Qt::CTRL) | Qt::Key_Return);
     auto button = new QToolButton(strip);
     button->setObjectName(QStringLiteral("sameValue"));
     button->setFocusPolicy(Qt::NoFocus); // the focus must stay in the field to be copied
@@ -44,7 +44,7 @@ SameValue::SameValue(const RecordDialog& dialog, RowStrip* strip, bool areSevera
                            .arg(key.toString(QKeySequence::NativeText)));
     strip->addButton(button);
     connect(button, &QToolButton::clicked, this, &SameValue::copy);
-    for (const QKeySequence& keys : {key, QKeySequence(Qt::CTRL + Qt::Key_Enter)})
+    for (const QKeySequence& keys : {key, QKeySequence(int(Qt::CTRL) | Qt::Key_Enter)})
         connect(new QShortcut(keys, dialog.window), &QShortcut::activated, this, &SameValue::copy);
 }
 

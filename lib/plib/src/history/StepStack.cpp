@@ -41,8 +41,9 @@ private:
 StepStack::StepStack(QWidget* page, std::size_t mostSize, QObject* history)
     : QObject(history)
     , m_mostSize(mostSize)
-    , m_undo(newAction(page, "undo", {Qt::CTRL + Qt::Key_Z}, &QUndoStack::undo))
-    , m_redo(newAction(page, "redo", {Qt::CTRL + Qt::SHIFT + Qt::Key_Z, Qt::CTRL + Qt::Key_Y},
+    , m_undo(newAction(page, "undo", {int(Qt::CTRL) | Qt::Key_Z}, &QUndoStack::undo))
+    , m_redo(newAction(page, "redo",
+                       {int(Qt::CTRL) | Qt::SHIFT | Qt::Key_Z, int(Qt::CTRL) | Qt::Key_Y},
                        &QUndoStack::redo))
 {
     m_stack.setUndoLimit(MostSteps);

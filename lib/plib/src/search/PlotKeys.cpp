@@ -40,10 +40,10 @@ PlotKeys::PlotKeys(QWidget* page, VKD_QT_TreeWidget* tree, QBoxLayout* column)
 
 void PlotKeys::addActions(QWidget* page)
 {
-    addAction(page, "findPlots", tr("Find Plots"), Qt::CTRL + Qt::Key_F, this,
+    addAction(page, "findPlots", tr("Find Plots"), int(Qt::CTRL) | Qt::Key_F, this,
               [this] { bar()->open(Qt::ShortcutFocusReason); });
     addAction(page, "findNextPlot", tr("Find Next"), Qt::Key_F3, this, [this] { step(true); });
-    addAction(page, "findPreviousPlot", tr("Find Previous"), Qt::SHIFT + Qt::Key_F3, this,
+    addAction(page, "findPreviousPlot", tr("Find Previous"), int(Qt::SHIFT) | Qt::Key_F3, this,
               [this] { step(false); });
     QAction* unchecking =
         addAction(page, "uncheckPlots", tr("Uncheck"), Qt::Key_Delete, this, [this] { uncheck(); });

@@ -15,7 +15,7 @@
 #include <algorithm>
 
 namespace {
-constexpr int CopyTextsKey = Qt::CTRL + Qt::ALT + Qt::Key_C;
+constexpr int CopyTextsKey = int(Qt::CTRL) | Qt::ALT | Qt::Key_C;
 } // namespace
 
 VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, const char* name)
