@@ -1,5 +1,6 @@
 #include "project/KeptPlots.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -9,11 +10,7 @@ namespace workbench {
 namespace {
 const QString Checked = QStringLiteral("Checked");
 const QString Partially = QStringLiteral("Partially");
-
-QString partlyChecked(const QString& identifier)
-{
-    return Partially + QLatin1Char(':') + identifier + QLatin1String(" : ");
-}
+const QString EndOfIdentifier = QStringLiteral(" : "); // in the line of a partly checked plot
 
 QString joined(const QVector<int>& numbers)
 {
@@ -21,6 +18,26 @@ QString joined(const QVector<int>& numbers)
     for (int number : numbers)
         text += QString::number(number) + QLatin1Char(',');
     return text;
+}
+
+/// Adds load cases to the partly checked plots of a tree's selection text, and removes these plots
+/// from `numbers`.
+QString withNumbers(const QString& selection, QHash<QString, QString>* numbers)
+{
+    const QString begin = QLatin1Char('\n') + Partially + QLatin1Char(':');
+    QString text;
+    int copied = 0;
+    for (int line = selection.indexOf(begin); line >= 0; line = selection.indexOf(begin, copied)) {
+        const int identifier = line + begin.size();
+        const int end = selection.indexOf(EndOfIdentifier, identifier);
+        if (end < 0)
+            break;
+        const int list = end + EndOfIdentifier.size();
+        text += selection.midRef(copied, list - copied);
+        text += numbers->take(selection.mid(identifier, end - identifier));
+        copied = list;
+    }
+    return text + selection.midRef(copied);
 }
 } // namespace
 
@@ -61,20 +78,21 @@ KeptPlots::KeptPlots(const QString& selection, const FindOffered& offered)
 
 QString KeptPlots::addedTo(const QString& selection, const FindOffered& offered) const
 {
-    QString text = selection;
-    for (const Plot& plot : m_plots) {
-        const auto absent = absentPart(plot, offered);
-        if (!absent)
-            continue;
-        const QString head = partlyChecked(plot.identifier);
-        const int place = text.indexOf(QLatin1Char('\n') + head);
+    QVector<Plot> absentPlots;
+    QHash<QString, QString> numbers; // load cases to add, by plot
+    for (const Plot& plot : m_plots)
+        if (const auto absent = absentPart(plot, offered)) {
+            absentPlots << *absent;
+            if (!absent->numbers.isEmpty())
+                numbers[plot.identifier] += joined(absent->numbers);
+        }
+    QString text = withNumbers(selection, &numbers);
+    for (const Plot& plot : qAsConst(absentPlots))
         if (plot.numbers.isEmpty())
             text += Checked + QLatin1Char(':') + plot.identifier + QLatin1Char('\n');
-        else if (place < 0)
-            text += head + joined(absent->numbers) + QLatin1Char('\n');
-        else
-            text.insert(place + 1 + head.size(), joined(absent->numbers));
-    }
+        else if (numbers.contains(plot.identifier))
+            text += Partially + QLatin1Char(':') + plot.identifier + EndOfIdentifier +
+                    numbers.take(plot.identifier) + QLatin1Char('\n');
     return text;
 }
 
