@@ -4,9 +4,12 @@
 #include "TemporaryProject.h"
 #include "window/output/OutputDialog.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressDialog>
+#include <QTableWidget>
 #include <QTreeWidget>
 
 using namespace windowtest;
@@ -229,8 +232,20 @@ private Q_SLOTS:
         });
         trigger(*window, "CopyOutputs");
         QTRY_COMPARE(listed(*window), QStringLiteral("Output 1|>/theirs/"));
-        QCOMPARE(find<QLabel>(*window, "AbsentPlots")->text(),
+        const auto note = find<QLabel>(*window, "AbsentPlots");
+        const auto isShown = [note] { return !note->isHidden(); };
+        QCOMPARE(note->text(),
                  QStringLiteral("Chosen plots that this model cannot have: 1. They are kept."));
+        find<QAbstractButton>(*window, "Button: Default settings")->click();
+        QTRY_VERIFY(!isShown());
+        const OutputDialog& dialog = *window->findChild<OutputDialog*>();
+        const auto undo = find<QAction>(dialog, "undo");
+        undo->trigger();
+        QVERIFY(!undo->isEnabled());
+        QTRY_VERIFY(isShown());
+        find<QAction>(dialog, "redo")->trigger();
+        QTRY_VERIFY(!isShown());
+        undo->trigger();
         plots(*window)->topLevelItem(1)->setCheckState(0, Qt::Checked);
         window->findChild<OutputDialog*>()->accept();
         const auto document = VKD_H_ZOBDoc::open(path("a.zob"));
@@ -264,6 +279,23 @@ private Q_SLOTS:
         trigger(*window, "SaveAllScripts");
         QCOMPARE(messages.size(), 1);
         QVERIFY(!QFile::exists(path("b.dat")));
+    }
+
+    /// A chosen load case that is not offered is kept even if the tree shows the proposed plots.
+    void leftOutLoadCase()
+    {
+        const auto window = open("a.zob");
+        const auto rows = [&window] { return plots(*window)->topLevelItem(1)->child(0)->child(0); };
+        rows()->child(2)->setCheckState(0, Qt::Checked);
+        find<QTableWidget>(*window, "LoadCases")->item(2, 1)->setCheckState(Qt::Unchecked);
+        trigger(*window, "NewOutput");
+        enterName(*window, "Walls");
+        trigger(*window, "PreviousOutput");
+        QTRY_COMPARE(window->findChildren<OutputDialog*>().size(), 1);
+        const QString title = rows()->child(2)->text(0);
+        find<QTableWidget>(*window, "LoadCases")->item(2, 1)->setCheckState(Qt::Checked);
+        QVERIFY(rows()->child(2)->text(0) != title);
+        QCOMPARE(rows()->child(2)->checkState(0), Qt::Checked);
     }
 };
 

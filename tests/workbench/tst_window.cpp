@@ -315,6 +315,13 @@ private Q_SLOTS:
         QCOMPARE(find<QAction>(*dialog, "redo")->text(),
                  isContent ? QStringLiteral("&Redo Contents")
                            : QStringLiteral("&Redo Leave Out Load Case 1"));
+        QTreeWidgetItem* system = plots->topLevelItem(0);
+        system->setCheckState(0, Qt::Unchecked);
+        offer(true);
+        find<QAction>(*dialog, "undo")->trigger();
+        find<QAction>(*dialog, "undo")->trigger();
+        offer(true); // after undo, the proposal applies again if nothing has been chosen
+        QCOMPARE(treeText(plots), offered);
     }
 
     /// A camera rotated by the user is restored even if another view was selected and saved.

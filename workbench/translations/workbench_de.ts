@@ -411,6 +411,10 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
 <context>
     <name>workbench::OutputOffers</name>
     <message>
+        <source>Default Settings</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
         <source>Load cases</source>
         <translation>Lastfälle</translation>
     </message>

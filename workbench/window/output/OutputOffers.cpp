@@ -17,7 +17,9 @@
 namespace workbench {
 
 namespace {
-constexpr QChar Separator = u' '; // separates the values in stateText()
+// separators in stateText()
+constexpr QChar Separator = u' ';
+constexpr QChar OffersEnd = u'\n';
 
 QLabel* newHint(const QString& text)
 {
@@ -104,7 +106,11 @@ void OutputOffers::connectTabs()
     connect(m_contents, clicked, this, &OutputOffers::finish);
     const auto defaults =
         m_page->findChild<QAbstractButton*>(QStringLiteral("Button: Default settings"));
-    connect(defaults, &QAbstractButton::clicked, this, [this] { m_choice.setProposed(); });
+    connect(defaults, &QAbstractButton::clicked, this, [this] {
+        m_choice.setProposed();
+        QMetaObject::invokeMethod(m_steps, "amend", Q_ARG(QString, tr("Default Settings")),
+                                  Q_ARG(QString, stateText()));
+    });
     connect(m_steps, SIGNAL(hostStateRestored(QString)), this, SLOT(restoreState(QString)));
 }
 
@@ -157,21 +163,28 @@ void OutputOffers::offerLoadCases()
 
 QString OutputOffers::stateText() const
 {
-    return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers);
+    return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers) +
+           OffersEnd + m_choice.stateText();
 }
 
-/// Called by undo and redo. The page itself restores the plots afterwards.
+/// Called by undo and redo. The page itself restores the plots afterwards. The tree is rebuilt only
+/// if it has to offer something else.
 void OutputOffers::restoreState(const QString& text)
 {
-    const int content = text.section(Separator, 0, 0).toInt();
-    const bool isOtherContent = content != m_known.content;
-    m_loadCases->setLeftOutNumbers(numbersFromSaved(text.section(Separator, 1)));
+    const QString offers = text.section(OffersEnd, 0, 0);
+    const int content = offers.section(Separator, 0, 0).toInt();
+    const QSet<int> leftOut = numbersFromSaved(offers.section(Separator, 1));
+    const OutputState before = m_known;
+    m_loadCases->setLeftOutNumbers(leftOut);
     m_contents->setButton(content);
-    begin();
-    if (isOtherContent)
+    m_choice.remember();
+    if (content != before.content)
         m_contentBinding.clicked(content);
-    offerLoadCases();
-    finish();
+    if (leftOut != before.leftOutNumbers)
+        offerLoadCases();
+    m_choice.restoreState(text.section(OffersEnd, 1));
+    readTo(&m_known);
+    Q_EMIT changed();
 }
 
 } // namespace workbench

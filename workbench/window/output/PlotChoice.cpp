@@ -7,13 +7,23 @@
 #include <VKD_P_WidgetGraphicalOutput>
 #include <vkd_qt_xmlpart.h>
 
+#include <QCryptographicHash>
 #include <QTreeWidget>
+
+#include <utility>
 
 namespace workbench {
 
 namespace {
 const QString Plots = QStringLiteral("List_4"); // tag of the plots in the page's string
+constexpr QChar Separator = u'\n';              // separates the values in stateText()
+
+QString digest(const QString& plots)
+{
+    return QLatin1String(
+        QCryptographicHash::hash(plots.toUtf8(), QCryptographicHash::Sha1).toHex());
 }
+} // namespace
 
 /// A selection text without lines would not change the plots that the catalogue proposes.
 QString withoutPlots(QString page)
@@ -34,13 +44,18 @@ void PlotChoice::setProposed()
 {
     m_kept = KeptPlots();
     m_chosen.clear();
-    m_shown = shown();
+    m_shown = digest(shownPlots());
 }
 
+/// A saved string with the proposed plots does not show that the user has chosen them.
 void PlotChoice::setSaved(const QString& page)
 {
     m_page->readXMLstring(page);
-    m_kept = KeptPlots(vkd_qt_readXMLpart(page, 0, Plots), OfferedPlots(*m_tree));
+    const QString saved = vkd_qt_readXMLpart(page, 0, Plots);
+    const QString proposed = std::exchange(m_shown, digest(shownPlots()));
+    m_kept = KeptPlots(saved, OfferedPlots(*m_tree));
+    if (m_shown != proposed || !m_kept.isEmpty())
+        m_chosen = saved;
 }
 
 QString PlotChoice::page() const
@@ -59,19 +74,31 @@ int PlotChoice::absentPlots() const
 
 void PlotChoice::remember()
 {
-    const QString present = shown();
-    if (present != m_shown)
+    const QString present = shownPlots();
+    if (digest(present) != m_shown)
         m_chosen = withKept(present);
     m_look = TreeViewState(m_tree);
 }
 
 void PlotChoice::giveBack()
 {
-    if (!m_chosen.isNull()) {
-        show(m_chosen);
-        m_kept = KeptPlots(m_chosen, OfferedPlots(*m_tree));
-    }
-    m_shown = shown();
+    showChosen();
+    m_shown = digest(shownPlots());
+    m_look.restore(m_tree);
+}
+
+/// The digest precedes the plots, so that an undo step contains no plots if they are unchanged.
+QString PlotChoice::stateText() const
+{
+    return m_shown + Separator + m_chosen;
+}
+
+void PlotChoice::restoreState(const QString& text)
+{
+    const int end = text.indexOf(Separator);
+    m_shown = text.left(end);
+    m_chosen = text.mid(end + 1);
+    showChosen();
     m_look.restore(m_tree);
 }
 
@@ -81,7 +108,7 @@ QString PlotChoice::pageString() const
     return m_page->writeXMLstring();
 }
 
-QString PlotChoice::shown() const
+QString PlotChoice::shownPlots() const
 {
     return vkd_qt_readXMLpart(pageString(), 0, Plots);
 }
@@ -93,11 +120,15 @@ QString PlotChoice::withKept(const QString& plots) const
 
 /// Stores the view's camera before reading the string and restores the desktop's camera afterwards,
 /// because reading a string makes the page's view use the stored camera.
-void PlotChoice::show(const QString& plots)
+void PlotChoice::showChosen()
 {
+    m_kept = KeptPlots();
+    if (m_chosen.isEmpty())
+        return;
     const CameraRollback camera;
     m_view->slotViewControl(AnimatorStoreCamera, 0.0);
-    m_page->readXMLstring(vkd_qt_writeXMLpart(plots, Plots));
+    m_page->readXMLstring(vkd_qt_writeXMLpart(m_chosen, Plots));
+    m_kept = KeptPlots(m_chosen, OfferedPlots(*m_tree));
 }
 
 } // namespace workbench

@@ -35,20 +35,26 @@ public:
     /// called after the change.
     void remember();
     void giveBack();
+    /// Returns the choice as text for an undo step.
+    QString stateText() const;
+    /// Restores the choice from an undo step. remember() must be called before, and the page must
+    /// already offer the load cases and the content of the step. The page itself restores its plots
+    /// afterwards.
+    void restoreState(const QString& text);
 
 private:
     QString pageString() const;
-    QString shown() const;
+    QString shownPlots() const;
     QString withKept(const QString& plots) const;
-    void show(const QString& plots);
+    void showChosen();
 
     VKD_P_WidgetGraphicalOutput* m_page;
     AnimatorView* m_view;
     QTreeWidget* m_tree;
     TreeViewState m_look; ///< the view of the tree before the change
-    KeptPlots m_kept;
-    QString m_chosen; ///< selection text of the user's plots; null for the proposal
-    QString m_shown;  ///< the page's selection text after the last change
+    QString m_chosen;     ///< selection text of the user's plots; empty for the proposal
+    QString m_shown;      ///< digest of the plots that the page showed after the last change
+    KeptPlots m_kept;     ///< plots in m_chosen that the page does not offer
 };
 
 } // namespace workbench

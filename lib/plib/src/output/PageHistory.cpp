@@ -50,6 +50,11 @@ public:
     }
 
     bool isEmpty() const { return m_settings.isEmpty() && m_plots.isEmpty() && m_host.isEmpty(); }
+    /// Changes the state of the host after this step from `known` to `state`.
+    void amend(const QString& known, const QString& state)
+    {
+        m_host = textChange(undone(known, m_host), state);
+    }
 
     QString name() const override { return m_name; }
     std::size_t size() const override
@@ -174,8 +179,18 @@ void PageHistory::restart(const QString& state)
 {
     m_known = present();
     m_known.host = state;
+    m_newest.reset();
     m_stack.clear();
     Q_EMIT stepped();
+}
+
+void PageHistory::amend(const QString& name, const QString& state)
+{
+    const auto newest = m_newest.lock();
+    if (!newest)
+        return record(name, state);
+    newest->amend(m_known.host, state);
+    m_known.host = state;
 }
 
 void PageHistory::record(const QString& name)
@@ -190,9 +205,11 @@ void PageHistory::record(const QString& name, const QString& hostState)
     PageState now = present();
     now.host = hostState;
     const auto step = std::make_shared<Step>(this, name, m_known, now);
+    m_newest.reset();
     if (step->isEmpty())
         return;
     m_known = now;
+    m_newest = step;
     m_stack.push(step);
 }
 
@@ -200,6 +217,7 @@ void PageHistory::record(const QString& name, const QString& hostState)
 void PageHistory::restore(const PageState& state)
 {
     const QScopedValueRollback<int> change(m_depth, m_depth + 1);
+    m_newest.reset();
     if (state.host != m_known.host)
         Q_EMIT hostStateRestored(state.host);
     const PageState before = std::exchange(m_known, state);

@@ -33,6 +33,7 @@ public:
     Q_INVOKABLE void begin();
     Q_INVOKABLE void end(const QString& name, const QString& state);
     Q_INVOKABLE void restart(const QString& state);
+    Q_INVOKABLE void amend(const QString& name, const QString& state);
 
     /// Ends a change that the page itself makes. A change without a name is not a step; it clears
     /// the history, unless it is part of another step.
@@ -58,6 +59,7 @@ private:
     int m_depth = 0;   ///< number of nested changes; nothing is recorded unless it is 0
     QString m_clicked; ///< name of the step for the item that has just been checked or unchecked
     StepStack m_stack;
+    std::weak_ptr<Step> m_newest; ///< the step of the last change; null if it had no effect
 };
 
 /// Marks the lifetime of this object as a single change by a function of the page.
