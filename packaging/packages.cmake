@@ -1,5 +1,5 @@
 # Settings of the Debian packages, which packaging/makePackages builds with the preset `package`.
-# The owner of this project chooses the licence, so its text is read from a file.
+# The owner of the project chooses the licence, so its text is read from a file.
 set(PLIB_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE CACHE FILEPATH "Text of the licence for the packages")
 set(PLIB_MAINTAINER "" CACHE STRING "Maintainer of the Debian packages, with a mail address")
 
@@ -18,8 +18,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
-# Later versions with the same SONAME are compatible. CPack reads these two variables only without
-# the name of a component.
+# Later versions with the same SONAME are compatible. These two variables apply to all components:
+# CPack does not read them with the name of a component.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
@@ -61,7 +61,7 @@ set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_DOCUMENTATION_DESCRIPTION "widget pages for a finite-element desktop - documentation
 ${sentence}
 
-This package contains the guides, examples and the reference of the headers.")
+This package contains the guides, the examples and the header reference.")
 
 # Each package contains a copyright file and a changelog.
 execute_process(COMMAND date -R -u -d ${PLIB_RELEASE_DATE} OUTPUT_VARIABLE date
