@@ -32,10 +32,10 @@ std::optional<PresetPart> partOf(const QString& parameter);
 /// Returns the parameters of these parts.
 QVariantMap ofParts(const QVariantMap& parameters, const QVector<PresetPart>& parts);
 
-/// Returns the parts of which there are parameters, in the order of PresetParts.
+/// Returns the parts of which `parameters` contains values, in the order of PresetParts.
 QVector<PresetPart> partsIn(const QVariantMap& parameters);
 
-/// Return the preset with this name, or null.
+/// These functions return the preset with this name, or null.
 const Preset* findPreset(const PresetList& presets, const QString& name);
 Preset* findPreset(PresetList& presets, const QString& name);
 

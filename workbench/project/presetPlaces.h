@@ -8,8 +8,8 @@
 
 namespace workbench {
 
-/// The places in which presets are stored. Presets of the user are in a file in the folder for data
-/// of the application, presets of a project are among the entries in its file.
+/// The places in which presets are stored. The user's presets are in a file in the application data
+/// folder. A project's presets are among the entries in the project file.
 enum class PresetPlace { Supplied, User, Project };
 
 using PresetChange = std::function<void(PresetList&)>;
@@ -27,8 +27,8 @@ QString changePresets(PresetPlace place, ZobHandle project, const PresetChange& 
 /// Returns the path of the user's file.
 QString userPresetsPath();
 
-/// Read and write a file that the user exchanges with others. On failure, the fault mentions the
-/// file by its name.
+/// These functions read and write a file that the user exchanges with others. On failure, the fault
+/// mentions the file by its name.
 PresetReading importPresets(const QString& path);
 QString exportPresets(const QString& path, const PresetList& presets);
 

@@ -56,7 +56,7 @@ private:
     LoadCaseTable* m_loadCases = nullptr;
     VKD_QT_RadioButtonGroup* m_contents = nullptr;
     VKD_P_WidgetGraphicalOutput_AdditionalData m_contentBinding;
-    QSet<int> m_absentNumbers; ///< saved left-out load cases that the project does not have
+    QSet<int> m_absentNumbers; ///< unchecked load cases in the saved state that the project lacks
     OutputState m_known;       ///< content and load cases after the last change
 };
 

@@ -4,9 +4,9 @@ class QWidget;
 
 namespace plib {
 
-/// Closes the open dialogs whose parent is this widget and removes them from it. A destructor calls
-/// this function if the dialogs are on the stack of running functions, because a dialog on the
-/// stack must not be deleted with its parent.
+/// Closes the open dialogs whose parent is this widget and sets their parent to null. A destructor
+/// calls this function if the dialogs are on the stack of running functions, because a dialog on
+/// the stack must not be deleted with its parent.
 void rejectDialogs(const QWidget* parent);
 
 } // namespace plib
