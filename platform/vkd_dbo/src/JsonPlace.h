@@ -48,7 +48,7 @@ public:
     /// elements.
     JsonList list(int least = 0, int most = 0) const&;
     JsonList list(int least = 0, int most = 0) && = delete;
-    /// Throws unless this is an object with all keys of `needed` and no keys except those of the
+    /// Throws unless this is an object that contains all keys in `needed` and no keys outside the
     /// two lists.
     void checkKeys(const QStringList& needed, const QStringList& optional) const;
     bool has(const QString& key) const;

@@ -11,7 +11,7 @@ namespace vkd {
 namespace dbo {
 
 namespace {
-constexpr int MostElements = 4096; // of a piece
+constexpr int MostElements = 4096; // in a piece
 
 [[noreturn]] void refuse()
 {
@@ -121,7 +121,7 @@ private:
     ModelText& m_text;
     QByteArray m_rest;
     QByteArray m_key;
-    size_t m_begin = 0; // of the piece, or of the text between two lists
+    size_t m_begin = 0; // beginning of the piece, or of the text between two lists
     ModelText::List* m_list = nullptr;
     int m_cut = 0; // elements of the current piece
     int m_depth = 0;

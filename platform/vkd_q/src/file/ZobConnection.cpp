@@ -19,7 +19,7 @@
 namespace {
 const QLatin1String InMemory(":memory:");
 
-// In pages of four times the default size, many records are read and written in a quarter less
+// With pages of four times the default size, reading and writing many records takes a quarter less
 // time.
 constexpr char Schema[] = "PRAGMA page_size = 16384;"
                           "BEGIN;" ZOB_RECORD_TABLE ";"
