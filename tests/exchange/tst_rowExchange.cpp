@@ -72,7 +72,7 @@ private Q_SLOTS:
     void reading_data()
     {
         const Columns<QString, QString> row("text", "expected");
-        row("any order and subset, both decimal signs, empty lines and columns",
+        row("any order and subset, both decimal separators, empty lines and columns",
             "\nCOVER\t\tArt\r\n33,5\t\tCIRCULAR\r\n\t\t\r\n34.5\t\t2\r\n", "0.0335 4|0.0345 2");
         row("German types", "Art\nRINGFÖRMIG\nKeine  Bemessung", "0.035 4|0.035 0");
         row("an empty cell clears", "type;COVER\n1;", "-99999 1");
@@ -80,16 +80,16 @@ private Q_SLOTS:
         row("quoted", "\"Type\",\"COVER\"\n\"Two\nLayers\",\"1\"\"\"",
             "Row 2, Distance H upper principal [mm]: \"1\"\" is not a number.");
         row("another unit, a column twice", "Distance H upper principal [cm];type;type\n1;2;3",
-            "Row 1: \"Distance H upper principal [cm]\" is not the head of a column.|"
+            "Row 1: \"Distance H upper principal [cm]\" is not a column header.|"
             "Row 1: there are two columns \"type\".");
         row("each bad cell", "Type;COVER;Diameter upper cross [mm]\n1;1.234,5;0\nx;-1;9;7",
-            "Row 2, Distance H upper principal [mm]: \"1.234,5\" has two decimal signs.|"
+            "Row 2, Distance H upper principal [mm]: \"1.234,5\" has two decimal separators.|"
             "Row 2, Diameter upper cross [mm]: \"0\" is too small.|"
             "Row 3, Type: \"x\" is not a type.|"
             "Row 3, Distance H upper principal [mm]: \"-1\" is too small.|"
             "Row 3, column 4: \"7\" has no head.");
-        row("no rows", "type", "There is no row below the heads.");
-        row("nothing", "", "There is no row below the heads.");
+        row("no rows", "type", "There are no rows below the column headers.");
+        row("nothing", "", "There are no rows below the column headers.");
         row("minimum above the maximum",
             "Minimum reinforcement lower cross [cm²/m]\tMaximum reinforcement lower cross [cm²/m]"
             "\n2\t1",

@@ -40,20 +40,20 @@ private Q_SLOTS:
         compareCases(errorOf, R"(
 "knots": [] => unknown key "knots"
 "line\nbreak": [] => unknown key "line break"
-"title": 7 => title: an object is needed
+"title": 7 => title: an object is required
 "title": {"german": "t"} => title: the key "english" is missing
 "groups": [{"number": 1, "titel": "t"}] => groups[0]: unknown key "titel"
-"groups": {} => groups: a list is needed
-"groups": [{"number": 1000, "title": "t"}] => groups[0].number: a number of 999 or less is needed
+"groups": {} => groups: a list is required
+"groups": [{"number": 1000, "title": "t"}] => groups[0].number: a number of 999 or less is required
 "nodes": oh => line 1, column 11: illegal number
-"beams": [], "beams": [] => line 1, column 15: "beams" stands here twice
-"nodes": [[1, 0, 0, 0], [1, 0, 0, 1]] => nodes[1][0]: the number 1 stands here twice
-"nodes": [[0, 0, 0, 0]] => nodes[0][0]: a number of 1 or more is needed
-"nodes": [[1, 0, 0]] => nodes[0]: 4 values are needed
-"nodes": [[1, 0, 0, 0, 0]] => nodes[0]: no more than 4 values can stand here
-"nodes": [[1, 0, "0", 0]] => nodes[0][2]: a number is needed
-"nodes": [[1.5, 0, 0, 0]] => nodes[0][0]: a whole number is needed
-"nodes": [[1, 0, 0, 0], [3e9, 0, 0, 0]] => nodes[1][0]: a whole number is needed
+"beams": [], "beams": [] => line 1, column 15: "beams" occurs twice
+"nodes": [[1, 0, 0, 0], [1, 0, 0, 1]] => nodes[1][0]: the number 1 occurs twice
+"nodes": [[0, 0, 0, 0]] => nodes[0][0]: a number of 1 or more is required
+"nodes": [[1, 0, 0]] => nodes[0]: 4 values are required
+"nodes": [[1, 0, 0, 0, 0]] => nodes[0]: at most 4 values are allowed here
+"nodes": [[1, 0, "0", 0]] => nodes[0][2]: a number is required
+"nodes": [[1.5, 0, 0, 0]] => nodes[0][0]: a whole number is required
+"nodes": [[1, 0, 0, 0], [3e9, 0, 0, 0]] => nodes[1][0]: a whole number is required
 "supports": [[4, "x"]] => supports[0][0]: node 4 does not exist
 "supports": [[1, "x u"]] => supports[0][1]: unknown direction "u"
 "beams": [[1, 1, 1, 1, 2], [2, 1, 1, 1, 0]] => beams[1][4]: node 0 does not exist
@@ -62,19 +62,19 @@ private Q_SLOTS:
 "quads": [[1, 1, 0, 1, 2, 3, 0.2]] => quads[0][2]: node 0 does not exist
 "bricks": [[1, 1, 1, 2, 3, 1, 2, 3, 1, 0]] => bricks[0][9]: node 0 does not exist
 "areas": [[1, 1, 2, 7]] => areas[0][3]: point 7 does not exist
-"loadCases": [{"number":1, "title":"", "kind":3}] => loadCases[0].kind: a kind of 1 or 2 is needed
-[] => an object is needed
+"loadCases": [{"number":1, "title":"", "kind":3}] => loadCases[0].kind: the kind must be 1 or 2
+[] => an object is required
 )");
         const QList<QPair<const char*, const char*>> inside{
             {R"({"title": "t", "kindOfSystem": 0, "groups": []})", R"(the key "nodes" is missing)"},
             {R"("axes": [{"number": 1, "title": "t", "points": [[0, 0, 0], [1, 0]]}])",
-             "axes[0].points[1]: 3 values are needed"},
+             "axes[0].points[1]: 3 values are required"},
             {R"("secondaryGroups": [{"name": "A", "title": "t", "quads": [8]}])",
              "secondaryGroups[0].quads[0]: element 8 does not exist"},
             {R"("designParameters": [{"groups": ["1"], "values": {"hio": "x"}}])",
-             "designParameters[0].values.hio: a number is needed"},
+             "designParameters[0].values.hio: a number is required"},
             {R"("designParameters": [{"groups": ["1", "1"], "values": {}}])",
-             "designParameters[0].groups[1]: group 1 does not exist or stands here twice"}};
+             "designParameters[0].groups[1]: group 1 does not exist or occurs twice"}};
         for (const auto& one : inside)
             QCOMPARE(errorOf(QLatin1String(one.first)), QLatin1String(one.second));
     }
@@ -85,7 +85,7 @@ private Q_SLOTS:
             const QString text =
                 QStringLiteral(R"("secondaryGroups": [{"name": "%1", "title": "t"}])");
             QVERIFY2(errorOf(text.arg(QString::fromUtf8(name)))
-                         .contains(QLatin1String("[0].name: a name of one to four letters")),
+                         .contains(QLatin1String("[0].name: a name of one to four ASCII letters")),
                      name);
         }
     }

@@ -140,7 +140,7 @@ private Q_SLOTS:
         edit->setText(QStringLiteral("-")); // not typed, so no further input will follow
         QVERIFY(edit->toolTip().contains(QLatin1String("number")) && !messageOf(edit));
         type(edit, "1.234,5");
-        QVERIFY(edit->toolTip().contains(QLatin1String("decimal sign")));
+        QVERIFY(edit->toolTip().contains(QLatin1String("decimal separator")));
         QTest::keyClick(edit, Qt::Key_Return);
         QVERIFY(dialog.box.isVisible());
         QWidget* message = messageOf(edit);
@@ -199,8 +199,8 @@ private Q_SLOTS:
         const Columns<int, QString> columns("code", "doubt");
         const auto row = [&columns](int code, const char* typed, const char* usual = nullptr) {
             const QString doubt =
-                usual ? QString::fromUtf8(usual) +
-                            QStringLiteral(" is usual here. The value counts all the same.")
+                usual ? QStringLiteral("Usual values are %1. The value is accepted all the same.")
+                            .arg(QString::fromUtf8(usual))
                       : QString();
             columns(typed, code, doubt);
         };

@@ -293,8 +293,8 @@ private Q_SLOTS:
             QCOMPARE(readAll(m_second), m_old + Records{"first"});
             vkd_zob_free_ex(m_second, 1, released);
         }
-        const QString reason = QStringLiteral("cannot take the lock of %1: another program holds "
-                                              "the project (database is locked)")
+        const QString reason = QStringLiteral("cannot lock %1: another program has locked the "
+                                              "project (database is locked)")
                                    .arg(m_folder->filePath(QStringLiteral("Träger.vkd")));
         QCOMPARE(vkd_zob_change_status(m_second).code, VKD_ZOB_LOCKED);
         QCOMPARE(vkd_zob_change_status(m_second).reason, reason);

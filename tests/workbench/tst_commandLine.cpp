@@ -302,9 +302,8 @@ private Q_SLOTS:
         const Result refused = run("rows hall.zob --set-row 9 type=2");
         QFile::setPermissions(path("hall.zob"), writable);
         QCOMPARE(refused.exitCode, 1);
-        QCOMPARE(refused.error,
-                 QStringLiteral("plib_workbench: cannot take the lock of hall.zob: the file "
-                                "or its folder is write-protected\n"));
+        QCOMPARE(refused.error, QStringLiteral("plib_workbench: cannot lock hall.zob: the file "
+                                               "or its folder is write-protected\n"));
         QVERIFY(readFile(path("hall.zob")) == before);
     }
 
@@ -336,7 +335,7 @@ private Q_SLOTS:
         row("script a.zob b.zob", "unexpected argument \"b.zob\"");
         row("script --colour a.zob", "Unknown option 'colour'.");
         row("script absent.zob",
-            "cannot open absent.zob: the file is not there or cannot be opened");
+            "cannot open absent.zob: the file does not exist or cannot be opened");
         row("script noproject.zob",
             "cannot open noproject.zob: the file is not a project file (file is not a database)");
         row("script slab.zob --keywords french", "--keywords is english or german, not \"french\"");
@@ -365,7 +364,7 @@ private Q_SLOTS:
         row("script slab.zob --all --into . -o x", "--all and -o exclude each other");
         row("script slab.zob --all --into bad.json/a", "cannot create the folder bad.json/a");
         row("script slab.zob --load-cases badcases.txt",
-            "badcases.txt:2: a kind of 1 or 2, a number and a name are needed");
+            "badcases.txt:2: a kind of 1 or 2, a number and a name are required");
         row("script slab.zob -o no/such/folder.txt --selection-out saved.txt",
             "cannot write no/such/folder.txt: No such file or directory");
         row("new slab.zob --model slab", "slab.zob exists already");
@@ -373,9 +372,8 @@ private Q_SLOTS:
         row("new x.zob --model bad.json", "bad.json: line 3, column 3: unterminated object");
         row("new x.zob --model field.json", "field.json: designParameters of group 7: \"hiox=1\" "
                                             "does not set a field of a design record");
-        row("new no/x.zob --model slab",
-            "cannot create no/x.zob: the file is not there or cannot be "
-            "opened (No such file or directory)");
+        row("new no/x.zob --model slab", "cannot create no/x.zob: the file does not exist or "
+                                         "cannot be opened (No such file or directory)");
         row("rows slab.zob type=1", "--set-row is missing");
         row("rows slab.zob --set-row 99 type=1", "there is no group \"99\"");
         row("rows slab.zob --set-row ; type=1", "there is no group \"\"");
@@ -385,7 +383,7 @@ private Q_SLOTS:
         row("rows slab.zob --export none/a", "cannot write none/a: No such file or directory");
         row("rows slab.zob --import none", "cannot read none: No such file or directory");
         row("rows slab.zob --import badcases.txt",
-            "badcases.txt: Row 1: \"1 2 ok\" is not the head of a column.");
+            "badcases.txt: Row 1: \"1 2 ok\" is not a column header.");
         row("rows slab.zob --set-row 1 colour=1",
             "\"colour=1\" does not set a field of a design record");
         row("rows slab.zob --set-row 1 type=5", "type cannot be \"5\"");
@@ -395,7 +393,7 @@ private Q_SLOTS:
         row("script slab.zob -o .", "cannot write .: it is not a file");
         row("check absent.txt", "cannot read absent.txt: No such file or directory");
         row("check slab.zob --project absent.zob",
-            "cannot open absent.zob: the file is not there or cannot be opened");
+            "cannot open absent.zob: the file does not exist or cannot be opened");
         row("snapshots noproject.zob pictures",
             "cannot open noproject.zob: the file is not a project file (file is not a database)");
         row("snapshots slab.zob bad.json/pictures", "cannot create the folder bad.json/pictures");

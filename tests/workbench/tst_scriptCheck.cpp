@@ -160,7 +160,7 @@ private Q_SLOTS:
     void findings_data()
     {
         const Columns<QString, QString, QString> row("part", "instead", "findings");
-        row("statement", "QUAD MXX", "QUAT MXX", "1: no plot makes a statement \"QUAT\"\n");
+        row("statement", "QUAD MXX", "QUAT MXX", "1: no plot produces a statement \"QUAT\"\n");
         row("keyword", "QUAD MXX", "QUAD MXZ", "6: \"MXZ\" is not a keyword of this statement\n");
         row("other language", "QUAD MXX", "KNOT ; STEU LEER",
             "1: \"KNOT\" is a keyword of the other language\n"

@@ -116,8 +116,8 @@ private Q_SLOTS:
         const Columns<QByteArray, QByteArray, QString> row("action", "place", "message");
         const QString notSaved = QStringLiteral("The project cannot be saved in the file %1.\n");
         const QString notWritten = QStringLiteral("The file %1 cannot be written.\n");
-        const QLatin1String noFolder("Its folder is not there.");
-        const QLatin1String isProtected("It or the folder it lies in is write-protected.");
+        const QLatin1String noFolder("Its folder does not exist.");
+        const QLatin1String isProtected("It or its folder is write-protected.");
         const QLatin1String isWritten("Another program is writing to it.");
         row("no folder", "SaveAs", "no/new.zob", notSaved + noFolder);
         row("protected folder", "SaveAs", "protected/new.zob", notSaved + isProtected);
@@ -125,14 +125,14 @@ private Q_SLOTS:
         row("in use", "SaveAs", "used.zob", notSaved + isWritten);
         row("source in use", "SaveAs", "new.zob", notSaved + isWritten);
         row("disk full", "SaveAs", "full.zob",
-            notSaved + QLatin1String("There is no room left on the disk."));
+            notSaved + QLatin1String("There is no space left on the disk."));
         row("new, no folder", "NewFromSample", "no/new.zob", notWritten + noFolder);
         row("new, protected folder", "NewFromSample", "protected/new.zob",
             notWritten + isProtected);
         row("new, in use", "NewFromSample", "used.zob", notWritten + isWritten);
         row("new, disk full", "NewFromSample", "full.zob",
-            "The project cannot be made.\ncannot create %1: the disk is full, or it does not take "
-            "what is written (File too large)");
+            "The project cannot be created.\ncannot create %1: the disk is full or does not accept "
+            "the data (File too large)");
     }
 
     void savingFails()

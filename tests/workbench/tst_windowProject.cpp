@@ -41,7 +41,7 @@ private Q_SLOTS:
         };
         const char *noProject = "It is not a project file.", *damaged = "It is damaged.";
         const char *keine = "Sie ist keine Projektdatei.", *kaputt = "Sie ist beschädigt.";
-        row("missing", "-", "It is not there.", "Sie ist nicht vorhanden.");
+        row("missing", "-", "It does not exist.", "Sie ist nicht vorhanden.");
         row("folder", "/", "It is a folder.", "Sie ist ein Ordner.");
         row("empty", "", noProject, keine);
         row("noise", noise.repeated(1000), noProject, keine);
@@ -102,8 +102,8 @@ private Q_SLOTS:
             press(box, QMessageBox::Ok);
         });
         QVERIFY(window.openProject(bad));
-        QCOMPARE(messages, {QStringLiteral("Not all of the file %1 could be read.\n"
-                                           "What is shown may lack something.")
+        QCOMPARE(messages, {QStringLiteral("The file %1 could not be read completely.\n"
+                                           "Some data may be missing from the display.")
                                 .arg(bad)});
         QCOMPARE(putMeanwhile, VKD_ZOB_OK);
         QVERIFY(vkd_zob_close(index).isOk());
@@ -172,7 +172,7 @@ private Q_SLOTS:
         const Columns<QString> row("reason");
         row("locked", InUse);
         row("no journal", "The system cannot read or write it.");
-        row("disk full", "There is no room left on the disk.");
+        row("disk full", "There is no space left on the disk.");
     }
 
     void designIsNotLost()

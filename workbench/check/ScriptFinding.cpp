@@ -15,7 +15,7 @@ struct Sentence
 
 constexpr Sentence Sentences[] = {
     {ScriptFinding::UnknownStatement,
-     QT_TRANSLATE_NOOP("workbench::ScriptFinding", "no plot makes a statement \"%1\"")},
+     QT_TRANSLATE_NOOP("workbench::ScriptFinding", "no plot produces a statement \"%1\"")},
     {ScriptFinding::UnknownKeyword,
      QT_TRANSLATE_NOOP("workbench::ScriptFinding", "\"%1\" is not a keyword of this statement")},
     {ScriptFinding::OtherLanguage,

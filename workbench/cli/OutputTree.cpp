@@ -110,7 +110,7 @@ OutputTree::Rows readRows(const QString& path)
         const int number = lines[i].section(QLatin1Char(' '), 1, 1).toInt(&hasNumber);
         if (!hasKind || !hasNumber || kind < 1 || kind > 2)
             throw CommandError{QStringLiteral("%1:%2: a kind of 1 or 2, a number and a name are "
-                                              "needed")
+                                              "required")
                                    .arg(path, QString::number(i + 1))};
         rows.push_back({kind, number, lines[i].section(QLatin1Char(' '), 2)});
     }

@@ -17,10 +17,10 @@ Bitte einen anderen Namen wählen.</translation>
         <translation>Workbench</translation>
     </message>
     <message>
-        <source>Another program has changed this in the project since the dialog was opened.
-Overwrite puts your entries in its place. Reload shows what is in the project; your entries are lost.</source>
+        <source>Another program has changed this data in the project since the dialog was opened.
+Overwrite replaces it with your entries. Reload discards your entries and shows the data in the project.</source>
         <translation>Ein anderes Programm hat diese Daten im Projekt geändert, seit der Dialog geöffnet wurde.
-„Überschreiben“ ersetzt sie durch Ihre Eingaben. „Neu laden“ zeigt den Stand im Projekt; Ihre Eingaben gehen verloren.</translation>
+„Überschreiben“ ersetzt sie durch die eigenen Eingaben. „Neu laden“ verwirft die eigenen Eingaben und zeigt die Daten im Projekt.</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
@@ -53,15 +53,15 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Sie ist ein Ordner.</translation>
     </message>
     <message>
-        <source>Its folder is not there.</source>
+        <source>Its folder does not exist.</source>
         <translation>Ihr Ordner ist nicht vorhanden.</translation>
     </message>
     <message>
-        <source>It is not there.</source>
+        <source>It does not exist.</source>
         <translation>Sie ist nicht vorhanden.</translation>
     </message>
     <message>
-        <source>It may not be read.</source>
+        <source>You do not have permission to read it.</source>
         <translation>Sie darf nicht gelesen werden.</translation>
     </message>
     <message>
@@ -77,11 +77,11 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Sie ist beschädigt.</translation>
     </message>
     <message>
-        <source>It or the folder it lies in is write-protected.</source>
+        <source>It or its folder is write-protected.</source>
         <translation>Sie oder ihr Ordner ist schreibgeschützt.</translation>
     </message>
     <message>
-        <source>There is no room left on the disk.</source>
+        <source>There is no space left on the disk.</source>
         <translation>Auf dem Datenträger ist kein Platz mehr.</translation>
     </message>
     <message>
@@ -260,7 +260,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Inhalt</translation>
     </message>
     <message>
-        <source>Groups of the model. Pointing at one lights it up in the view.</source>
+        <source>Groups of the model. The group under the mouse pointer is highlighted in the view.</source>
         <translation>Gruppen des Modells. Die Gruppe unter dem Mauszeiger leuchtet in der Ansicht auf.</translation>
     </message>
     <message>
@@ -287,7 +287,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Anbieten</translation>
     </message>
     <message>
-        <source>Whether the plots offer the load case</source>
+        <source>Whether the load case is offered for the plots</source>
         <translation>Ob der Lastfall bei den Grafiken angeboten wird</translation>
     </message>
     <message>
@@ -419,7 +419,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Lastfälle</translation>
     </message>
     <message>
-        <source>The plots offer the load cases that are checked here. The plots that you have chosen stay chosen.</source>
+        <source>The plots offer the load cases that are checked here. The plots that you have checked stay checked.</source>
         <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die ausgewählten Grafiken bleiben ausgewählt.</translation>
     </message>
     <message>
@@ -473,7 +473,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>&amp;Verwerfen</translation>
     </message>
     <message>
-        <source>Returns to the choice of plots in the project file</source>
+        <source>Restores the choice of plots from the project file</source>
         <translation>Stellt die Auswahl der Grafiken aus der Projektdatei wieder her</translation>
     </message>
     <message>
@@ -628,7 +628,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
 <context>
     <name>workbench::OutputFiles</name>
     <message>
-        <source>These files exist already:</source>
+        <source>These files already exist:</source>
         <translation>Diese Dateien gibt es schon:</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Bemessungsdatensätze</translation>
     </message>
     <message>
-        <source>The design records as they lie in the project file. Each row is a word of four bytes.</source>
+        <source>The design records as they are stored in the project file. Each row is a word of four bytes.</source>
         <translation>Die Bemessungsdatensätze, wie sie in der Projektdatei stehen. Jede Zeile ist ein Wort von vier Byte.</translation>
     </message>
 </context>
@@ -1068,7 +1068,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Umfang der Textausgabe</translation>
     </message>
     <message>
-        <source>Decides which lists are printed. Manually controlled: those that are checked here.</source>
+        <source>Determines which lists are printed. Manually controlled: those that are checked here.</source>
         <translation>Legt fest, welche Listen ausgegeben werden. Manuell gesteuert: die hier angekreuzten.</translation>
     </message>
     <message>
@@ -1076,7 +1076,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Lastfälle in der Textausgabe</translation>
     </message>
     <message>
-        <source>Decides for which load cases loads and results are printed. Manually: those that are checked in the table.</source>
+        <source>Determines the load cases for which loads and results are printed. Manually: those that are checked in the table.</source>
         <translation>Legt fest, für welche Lastfälle Lasten und Ergebnisse ausgegeben werden. Manuell: für die in der Tabelle angekreuzten.</translation>
     </message>
     <message>
@@ -1088,7 +1088,7 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Kombinationen in der Textausgabe</translation>
     </message>
     <message>
-        <source>Decides for which combinations results are printed: all of one kind, or manually those that are checked in the table. The kinds can be changed while Manually is chosen.</source>
+        <source>Determines the combinations for which results are printed: all of one kind, or manually those that are checked in the table. The kinds can be changed while Manually is chosen.</source>
         <translation>Legt fest, für welche Kombinationen Ergebnisse ausgegeben werden: für alle einer Art oder manuell für die in der Tabelle angekreuzten. Die Arten lassen sich ändern, solange Manuell gewählt ist.</translation>
     </message>
     <message>
@@ -1439,8 +1439,8 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>Neu &amp;laden</translation>
     </message>
     <message>
-        <source>Puts the script on the clipboard</source>
-        <translation>Legt das Skript in die Zwischenablage</translation>
+        <source>Copies the script to the clipboard</source>
+        <translation>Kopiert das Skript in die Zwischenablage</translation>
     </message>
     <message>
         <source>Saves the script in a file</source>
@@ -1498,8 +1498,8 @@ Overwrite puts your entries in its place. Reload shows what is in the project; y
         <translation>&amp;Zurück</translation>
     </message>
     <message>
-        <source>The design parameters are changed and not yet in the project.
-Are they to be stored?</source>
+        <source>The design parameters have been changed, but not yet stored in the project.
+Do you want to store them?</source>
         <translation>Die Bemessungsparameter sind geändert und noch nicht im Projekt.
 Sollen sie gespeichert werden?</translation>
     </message>
@@ -1527,11 +1527,11 @@ Sollen sie gespeichert werden?</translation>
         <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The project is being made.</source>
+        <source>The project is being created.</source>
         <translation>Das Projekt wird angelegt.</translation>
     </message>
     <message>
-        <source>The project cannot be made.
+        <source>The project cannot be created.
 %1</source>
         <translation>Das Projekt kann nicht angelegt werden.
 %1</translation>
@@ -1572,8 +1572,8 @@ Sollen sie gespeichert werden?</translation>
         <translation>Das Modell wird gelesen.</translation>
     </message>
     <message>
-        <source>Not all of the file %1 could be read.
-What is shown may lack something.</source>
+        <source>The file %1 could not be read completely.
+Some data may be missing from the display.</source>
         <translation>Die Datei %1 konnte nicht vollständig gelesen werden.
 In der Anzeige fehlt möglicherweise etwas.</translation>
     </message>
@@ -1599,7 +1599,7 @@ In der Anzeige fehlt möglicherweise etwas.</translation>
     </message>
     <message>
         <source>The project file was deleted or moved.
-Is the open project to be saved under another name?</source>
+Do you want to save the open project under another name?</source>
         <translation>Die Projektdatei wurde gelöscht oder verschoben.
 Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</translation>
     </message>
@@ -1615,8 +1615,8 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
         <translation>Die Datei %1 kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>The choice of plots is again that of the project.</source>
-        <translation>Die Auswahl der Grafiken ist wieder die des Projekts.</translation>
+        <source>The choice of plots from the project has been restored.</source>
+        <translation>Die Auswahl der Grafiken aus dem Projekt ist wiederhergestellt.</translation>
     </message>
     <message>
         <source>The choice of plots cannot be stored in the file %1.</source>
@@ -1627,8 +1627,8 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
         <translation>Die Auswahl der Grafiken steht in der Projektdatei.</translation>
     </message>
     <message>
-        <source>The choice of plots is changed and not yet in the project.
-Is it to be stored?</source>
+        <source>The choice of plots has been changed, but not yet stored in the project.
+Do you want to store it?</source>
         <translation>Die Auswahl der Grafiken ist geändert und steht noch nicht im Projekt.
 Soll sie gespeichert werden?</translation>
     </message>
@@ -1698,8 +1698,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Das Inhaltsverzeichnis ist in %1 gespeichert.</translation>
     </message>
     <message>
-        <source>The text output stays as it was.</source>
-        <translation>Die Textausgabe bleibt, wie sie war.</translation>
+        <source>The text output was not changed.</source>
+        <translation>Die Textausgabe wurde nicht geändert.</translation>
     </message>
     <message>
         <source>The text output cannot be stored in the file %1.</source>
@@ -1710,8 +1710,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Die Textausgabe steht in der Projektdatei.</translation>
     </message>
     <message>
-        <source>The text output is changed and not yet in the project.
-Is it to be stored?</source>
+        <source>The text output has been changed, but not yet stored in the project.
+Do you want to store it?</source>
         <translation>Die Textausgabe ist geändert und steht noch nicht im Projekt.
 Soll sie gespeichert werden?</translation>
     </message>
@@ -1729,7 +1729,7 @@ Soll sie gespeichert werden?</translation>
     <message>
         <source>Workbench %1
 
-Hosts the pages for design parameters and graphical output on projects of their own.</source>
+Hosts the pages for design parameters and graphical output, with its own projects.</source>
         <translation>Workbench %1
 
 Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Projekten bereit.</translation>
@@ -1905,7 +1905,7 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
 <context>
     <name>workbench::ScriptFinding</name>
     <message>
-        <source>no plot makes a statement &quot;%1&quot;</source>
+        <source>no plot produces a statement &quot;%1&quot;</source>
         <translation>keine Grafik erzeugt eine Anweisung „%1“</translation>
     </message>
     <message>
@@ -2042,7 +2042,7 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Prüfung: Befunde: %1</translation>
     </message>
     <message>
-        <source>Every line is one that the plots can make.</source>
+        <source>The plots can produce every line.</source>
         <translation>Jede Zeile kann von den Grafiken stammen.</translation>
     </message>
 </context>

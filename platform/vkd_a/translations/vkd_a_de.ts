@@ -180,7 +180,7 @@
         <translation>Eine Eingabe ist nicht lesbar.</translation>
     </message>
     <message>
-        <source>The effective depth is needed.</source>
+        <source>The effective depth is required.</source>
         <translation>Die statische Nutzhöhe fehlt.</translation>
     </message>
     <message>
@@ -227,11 +227,11 @@
         <translation>Bisheriger Wert:</translation>
     </message>
     <message>
-        <source>&amp;Take over %1 as the bar diameter too</source>
+        <source>Use %1 as &amp;the bar diameter, too</source>
         <translation>%1 auch als Stabdurchmesser &amp;übernehmen</translation>
     </message>
     <message>
-        <source>&amp;Take over the bar diameter too</source>
+        <source>Use &amp;the bar diameter, too</source>
         <translation>Auch den Stabdurchmesser &amp;übernehmen</translation>
     </message>
     <message>

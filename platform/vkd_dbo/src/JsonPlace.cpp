@@ -25,7 +25,7 @@ QString JsonPlace::path() const
 double JsonPlace::real() const
 {
     if (!m_value.isDouble() || !std::isfinite(m_value.toDouble()))
-        fail(ModelFileError::tr("a number is needed"));
+        fail(ModelFileError::tr("a number is required"));
     return m_value.toDouble();
 }
 
@@ -33,7 +33,7 @@ int JsonPlace::integer() const
 {
     const double value = real();
     if (value != std::floor(value) || std::abs(value) > std::numeric_limits<int>::max())
-        fail(ModelFileError::tr("a whole number is needed"));
+        fail(ModelFileError::tr("a whole number is required"));
     return int(value);
 }
 
@@ -41,14 +41,14 @@ int JsonPlace::positive() const
 {
     const int value = integer();
     if (value < 1)
-        fail(ModelFileError::tr("a number of 1 or more is needed"));
+        fail(ModelFileError::tr("a number of 1 or more is required"));
     return value;
 }
 
 QString JsonPlace::string() const
 {
     if (!m_value.isString())
-        fail(ModelFileError::tr("a text is needed"));
+        fail(ModelFileError::tr("a string is required"));
     return m_value.toString();
 }
 
@@ -65,19 +65,19 @@ QString JsonPlace::title(Language language) const
 JsonList JsonPlace::list(int least, int most) const&
 {
     if (!m_value.isArray())
-        fail(ModelFileError::tr("a list is needed"));
+        fail(ModelFileError::tr("a list is required"));
     const QJsonArray values = m_value.toArray();
     if (values.size() < least)
-        fail(ModelFileError::tr("%1 values are needed").arg(least));
+        fail(ModelFileError::tr("%1 values are required").arg(least));
     if (most > 0 && values.size() > most)
-        fail(ModelFileError::tr("no more than %1 values can stand here").arg(most));
+        fail(ModelFileError::tr("at most %1 values are allowed here").arg(most));
     return {this, values};
 }
 
 QJsonObject JsonPlace::object() const
 {
     if (!m_value.isObject())
-        fail(ModelFileError::tr("an object is needed"));
+        fail(ModelFileError::tr("an object is required"));
     return m_value.toObject();
 }
 

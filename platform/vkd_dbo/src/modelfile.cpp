@@ -169,7 +169,7 @@ void ModelFileReader::titled(const char* key, QVector<T>& things, Numbers* numbe
         const JsonPlace number = place.at(QStringLiteral("number"));
         thing.number = unique(number, *numbers);
         if (thing.number > most)
-            number.fail(ModelFileError::tr("a number of %1 or less is needed").arg(most));
+            number.fail(ModelFileError::tr("a number of %1 or less is required").arg(most));
         thing.title = place.at(QStringLiteral("title")).title(m_language);
     });
 }
@@ -201,7 +201,7 @@ void ModelFileReader::readSystem()
         const JsonPlace kind = place.at(QStringLiteral("kind"));
         loadCase.kind = kind.integer();
         if (loadCase.kind != 1 && loadCase.kind != 2)
-            kind.fail(ModelFileError::tr("a kind of 1 or 2 is needed"));
+            kind.fail(ModelFileError::tr("the kind must be 1 or 2"));
     });
 }
 
@@ -295,11 +295,10 @@ void ModelFileReader::readSecondaryGroups()
              const JsonPlace name = place.at(QStringLiteral("name"));
              group.name = name.string();
              if (!isGroupName(group.name))
-                 name.fail(
-                     ModelFileError::tr("a name of one to four letters and digits of ASCII, not of "
-                                        "digits alone, is needed"));
+                 name.fail(ModelFileError::tr("a name of one to four ASCII letters and digits, not "
+                                              "only digits, is required"));
              if (used.contains(group.name))
-                 name.fail(ModelFileError::tr("\"%1\" stands here twice").arg(group.name));
+                 name.fail(ModelFileError::tr("\"%1\" occurs twice").arg(group.name));
              used.insert(group.name);
              group.title = place.at(QStringLiteral("title")).title(m_language);
              group.quads = members(place, "quads", m_quads);
@@ -322,7 +321,7 @@ void ModelFileReader::readDesign()
              for (int i = 0; i < groups.size(); ++i) {
                  const JsonPlace group = groups[i];
                  if (!known.remove(group.string()))
-                     group.fail(ModelFileError::tr("group %1 does not exist or stands here twice")
+                     group.fail(ModelFileError::tr("group %1 does not exist or occurs twice")
                                     .arg(group.string()));
                  design.groups << group.string();
              }
@@ -360,7 +359,7 @@ int ModelFileReader::unique(const JsonPlace& place, Numbers& used)
 {
     const int number = place.positive();
     if (!used.insert(number))
-        place.fail(ModelFileError::tr("the number %1 stands here twice").arg(number));
+        place.fail(ModelFileError::tr("the number %1 occurs twice").arg(number));
     return number;
 }
 
@@ -415,8 +414,8 @@ QJsonDocument parsed(const QByteArray& bytes)
     if (repeated >= 0) {
         const int end = bytes.indexOf('"', repeated + 1);
         const QByteArray key = bytes.mid(repeated + 1, end - repeated - 1);
-        fail(repeated, ModelFileError::tr("\"%1\" stands here twice")
-                           .arg(QString::fromUtf8(key).simplified()));
+        fail(repeated,
+             ModelFileError::tr("\"%1\" occurs twice").arg(QString::fromUtf8(key).simplified()));
     }
     QJsonParseError problem;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &problem);

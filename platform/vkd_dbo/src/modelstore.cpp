@@ -110,12 +110,13 @@ VkdStatus forEachRecord(ZobHandle project, KeyPair pair,
 
 VkdStatus reportDamagedRecord(ZobHandle project, KeyPair pair)
 {
-    qCWarning(lcModel, "database %d: a record under %d, %d is too short and left out",
+    qCWarning(lcModel, "database %d: a record with the keys %d, %d is too short and is skipped",
               project.index(), pair.key1, pair.key2);
-    return VkdStatus::failure(VKD_ZOB_DAMAGED,
-                              ModelFileError::tr("a record under %1, %2 is too short and left out")
-                                  .arg(pair.key1)
-                                  .arg(pair.key2));
+    return VkdStatus::failure(
+        VKD_ZOB_DAMAGED,
+        ModelFileError::tr("a record with the keys %1, %2 is too short and is skipped")
+            .arg(pair.key1)
+            .arg(pair.key2));
 }
 
 VkdStatus storeModel(ZobHandle project, const Model& model, const VkdGoOn& goOn)

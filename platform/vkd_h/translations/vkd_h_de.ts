@@ -191,17 +191,17 @@
 <context>
     <name>VKD_H_LineEdit</name>
     <message>
-        <source>“%1” has more than one decimal sign.
-Comma and dot both are one; there is no thousands separator.</source>
-        <translation>„%1“ hat mehr als ein Dezimalzeichen.
-Komma und Punkt sind beide eines; ein Tausendertrennzeichen gibt es nicht.</translation>
+        <source>“%1” has more than one decimal separator.
+A comma and a point are both decimal separators; there is no thousands separator.</source>
+        <translation>„%1“ hat mehr als ein Dezimaltrennzeichen.
+Als Dezimaltrennzeichen gelten Komma und Punkt; Tausendertrennzeichen sind nicht zulässig.</translation>
     </message>
     <message>
         <source>%1 is too large; the greatest value is %2.</source>
         <translation>%1 ist zu groß; der größte Wert ist %2.</translation>
     </message>
     <message>
-        <source>%1 to %2 is usual here. The value counts all the same.</source>
+        <source>Usual values are %1 to %2. The value is accepted all the same.</source>
         <translation>Üblich ist hier %1 bis %2. Der Wert gilt trotzdem.</translation>
     </message>
     <message>
@@ -209,7 +209,7 @@ Komma und Punkt sind beide eines; ein Tausendertrennzeichen gibt es nicht.</tran
         <translation>%1 ist zu klein; der kleinste Wert ist %2.</translation>
     </message>
     <message>
-        <source>A value is needed here.</source>
+        <source>A value is required here.</source>
         <translation>Hier muss ein Wert stehen.</translation>
     </message>
     <message>
@@ -221,7 +221,7 @@ Komma und Punkt sind beide eines; ein Tausendertrennzeichen gibt es nicht.</tran
         <translation>Der Wert ist weiterhin nicht gesetzt. Esc leert das Feld.</translation>
     </message>
     <message>
-        <source>The value is still %1. Esc brings it back.</source>
+        <source>The value is still %1. Esc restores it.</source>
         <translation>Es gilt weiterhin der Wert %1. Esc stellt ihn wieder her.</translation>
     </message>
     <message>

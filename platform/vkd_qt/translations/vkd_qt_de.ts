@@ -74,7 +74,7 @@
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
-        <source>cannot take the lock of %1: %2</source>
+        <source>cannot lock %1: %2</source>
         <translation>%1 kann nicht gesperrt werden: %2</translation>
     </message>
     <message>
@@ -90,11 +90,11 @@
         <translation>Die Datenbank %1 kann nicht benutzt werden: %2</translation>
     </message>
     <message>
-        <source>no project is open under this index</source>
+        <source>no project is open with this index</source>
         <translation>unter diesem Index ist kein Projekt geöffnet</translation>
     </message>
     <message>
-        <source>the file is not there or cannot be opened</source>
+        <source>the file does not exist or cannot be opened</source>
         <translation>die Datei ist nicht vorhanden oder kann nicht geöffnet werden</translation>
     </message>
     <message>
@@ -114,12 +114,12 @@
         <translation>die Datei oder ihr Ordner ist schreibgeschützt</translation>
     </message>
     <message>
-        <source>the disk is full, or it does not take what is written</source>
+        <source>the disk is full or does not accept the data</source>
         <translation>der Datenträger ist voll oder nimmt die Daten nicht an</translation>
     </message>
     <message>
-        <source>another program holds the project</source>
-        <translation>ein anderes Programm hält das Projekt</translation>
+        <source>another program has locked the project</source>
+        <translation>ein anderes Programm hat das Projekt gesperrt</translation>
     </message>
     <message>
         <source>the file was deleted, moved or replaced while it was open</source>
@@ -161,35 +161,35 @@
         <translation>Punkt</translation>
     </message>
     <message>
-        <source>a number is needed</source>
+        <source>a number is required</source>
         <translation>eine Zahl wird erwartet</translation>
     </message>
     <message>
-        <source>a whole number is needed</source>
+        <source>a whole number is required</source>
         <translation>eine ganze Zahl wird erwartet</translation>
     </message>
     <message>
-        <source>a number of 1 or more is needed</source>
+        <source>a number of 1 or more is required</source>
         <translation>eine Zahl ab 1 wird erwartet</translation>
     </message>
     <message>
-        <source>a text is needed</source>
+        <source>a string is required</source>
         <translation>ein Text wird erwartet</translation>
     </message>
     <message>
-        <source>a list is needed</source>
+        <source>a list is required</source>
         <translation>eine Liste wird erwartet</translation>
     </message>
     <message>
-        <source>%1 values are needed</source>
+        <source>%1 values are required</source>
         <translation>%1 Werte werden erwartet</translation>
     </message>
     <message>
-        <source>no more than %1 values can stand here</source>
+        <source>at most %1 values are allowed here</source>
         <translation>höchstens %1 Werte können hier stehen</translation>
     </message>
     <message>
-        <source>an object is needed</source>
+        <source>an object is required</source>
         <translation>ein Objekt wird erwartet</translation>
     </message>
     <message>
@@ -205,23 +205,23 @@
         <translation>unbekannte Richtung „%1“</translation>
     </message>
     <message>
-        <source>a kind of 1 or 2 is needed</source>
+        <source>the kind must be 1 or 2</source>
         <translation>die Art muss 1 oder 2 sein</translation>
     </message>
     <message>
-        <source>a name of one to four letters and digits of ASCII, not of digits alone, is needed</source>
+        <source>a name of one to four ASCII letters and digits, not only digits, is required</source>
         <translation>ein Name aus ein bis vier ASCII-Buchstaben und Ziffern, nicht nur aus Ziffern, wird erwartet</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; occurs twice</source>
         <translation>„%1“ steht hier zweimal</translation>
     </message>
     <message>
-        <source>group %1 does not exist or stands here twice</source>
+        <source>group %1 does not exist or occurs twice</source>
         <translation>die Gruppe %1 gibt es nicht, oder sie steht hier zweimal</translation>
     </message>
     <message>
-        <source>the number %1 stands here twice</source>
+        <source>the number %1 occurs twice</source>
         <translation>die Nummer %1 steht hier zweimal</translation>
     </message>
     <message>
@@ -233,7 +233,7 @@
         <translation>Zeile %1, Spalte %2</translation>
     </message>
     <message>
-        <source>a number of %1 or less is needed</source>
+        <source>a number of %1 or less is required</source>
         <translation>eine Zahl bis %1 wird erwartet</translation>
     </message>
     <message>
@@ -241,7 +241,7 @@
         <translation>der Vorgang wurde abgebrochen</translation>
     </message>
     <message>
-        <source>a record under %1, %2 is too short and left out</source>
+        <source>a record with the keys %1, %2 is too short and is skipped</source>
         <translation>ein Datensatz unter %1, %2 ist zu kurz und wird ausgelassen</translation>
     </message>
 </context>

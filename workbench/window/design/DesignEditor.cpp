@@ -135,9 +135,10 @@ bool DesignEditor::mayLeave()
 {
     finishEditing();
     return !isChanged() ||
-           m_messages->mayLeave(tr("The design parameters are changed and not yet in the project.\n"
-                                   "Are they to be stored?"),
-                                [this] { return store(); });
+           m_messages->mayLeave(
+               tr("The design parameters have been changed, but not yet stored in the project.\n"
+                  "Do you want to store them?"),
+               [this] { return store(); });
 }
 
 std::optional<DesignPage::State> DesignEditor::state() const

@@ -175,9 +175,9 @@ void FileCommands::showProject(const VkdStatus& modelStatus)
     m_actions->setRecentFiles(settings.recentFiles());
     const bool areContentsRead = showContents();
     if (!modelStatus.isOk() || !areContentsRead)
-        m_parts.messages->complain(
-            tr("Not all of the file %1 could be read.\nWhat is shown may lack something.")
-                .arg(QDir::toNativeSeparators(path)));
+        m_parts.messages->complain(tr("The file %1 could not be read completely.\nSome data may be "
+                                      "missing from the display.")
+                                       .arg(QDir::toNativeSeparators(path)));
 }
 
 void FileCommands::showFirstProject()
@@ -268,10 +268,9 @@ bool FileCommands::takeOver(const QString& path)
 bool FileCommands::mayLeaveMissingFile()
 {
     return m_parts.project->check() != ProjectWatch::File::Missing || !m_parts.project->isOpen() ||
-           m_parts.messages->mayLeave(
-               tr("The project file was deleted or moved.\nIs the open project to be saved under "
-                  "another name?"),
-               [this] { return saveAs(); });
+           m_parts.messages->mayLeave(tr("The project file was deleted or moved.\nDo you want to "
+                                         "save the open project under another name?"),
+                                      [this] { return saveAs(); });
 }
 
 bool FileCommands::mayLeave()

@@ -204,7 +204,8 @@ void GroupList::setTexts()
 {
     setAccessibleName(tr("Groups"));
     setHeaderLabels({tr("No."), tr("Row"), tr("Title"), tr("Contents")});
-    setToolTip(tr("Groups of the model. Pointing at one lights it up in the view."));
+    setToolTip(
+        tr("Groups of the model. The group under the mouse pointer is highlighted in the view."));
     fitColumns();
 }
 

@@ -51,13 +51,13 @@ bool NewProject::make(const QString& path, const QString& model) const
     QString trouble;
     bool goesOn = true;
     {
-        SlowWork work(window, tr("The project is being made."), 100);
+        SlowWork work(window, tr("The project is being created."), 100);
         trouble =
             m_make(unfinished, model, [&](int percent) { return goesOn = work.goOn(percent); });
     }
     if (goesOn && !trouble.isEmpty()) {
         m_messages->complain(
-            tr("The project cannot be made.\n%1").arg(trouble.replace(unfinished, path)));
+            tr("The project cannot be created.\n%1").arg(trouble.replace(unfinished, path)));
         return false;
     }
     const VkdStatus status = goesOn ? place->commit() : VkdStatus{VKD_ZOB_CANCELLED, QString()};

@@ -241,7 +241,7 @@ void WindowActions::setTexts()
     saveAs->setText(tr("Save &As..."));
     copyScript->setText(tr("&Copy Script"));
     copyScript->setIconText(tr("Copy")); // on the button next to the script
-    copyScript->setToolTip(tr("Puts the script on the clipboard"));
+    copyScript->setToolTip(tr("Copies the script to the clipboard"));
     saveScript->setText(tr("Save Scr&ipt..."));
     saveScript->setToolTip(tr("Saves the script in a file"));
     exportSheets->setText(tr("&Export Sheets..."));

@@ -41,7 +41,7 @@ void WindowHelp::showAbout()
 {
     QMessageBox::about(m_messages->window(), tr("About"),
                        tr("Workbench %1\n\nHosts the pages for design parameters and graphical "
-                          "output on projects of their own.")
+                          "output, with its own projects.")
                            .arg(QApplication::applicationVersion()));
 }
 

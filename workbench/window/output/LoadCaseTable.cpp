@@ -41,10 +41,10 @@ void LoadCaseTable::addColumns()
                             new VKD_H_TwHeaderLineEditItem(NumberColumn, description, tr("No."),
                                                            tr("Number of the load case"), true,
                                                            Qt::AlignRight | Qt::AlignVCenter));
-    setHorizontalHeaderItem(
-        CheckColumn, new VKD_H_TwHeaderCheckBoxItem(CheckColumn, tr("Offer"),
-                                                    tr("Whether the plots offer the load case"),
-                                                    true, Qt::AlignCenter));
+    setHorizontalHeaderItem(CheckColumn, new VKD_H_TwHeaderCheckBoxItem(
+                                             CheckColumn, tr("Offer"),
+                                             tr("Whether the load case is offered for the plots"),
+                                             true, Qt::AlignCenter));
     setHorizontalHeaderItem(TitleColumn, new VKD_H_TwHeaderItem(TitleColumn, tr("Title"),
                                                                 tr("Title of the load case"), true,
                                                                 Qt::AlignLeft | Qt::AlignVCenter));

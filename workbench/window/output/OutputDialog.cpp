@@ -103,7 +103,7 @@ void OutputDialog::setButtons()
     apply->setText(tr("&Apply"));
     apply->setToolTip(tr("Stores the choice of plots in the project file (Ctrl+S)"));
     buttons()->cmdCancel()->setText(tr("Dis&card"));
-    buttons()->cmdCancel()->setToolTip(tr("Returns to the choice of plots in the project file"));
+    buttons()->cmdCancel()->setToolTip(tr("Restores the choice of plots from the project file"));
     for (QPushButton* button : {apply, buttons()->cmdCancel()}) {
         button->setDefault(false);
         button->setAutoDefault(false);

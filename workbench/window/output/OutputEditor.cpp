@@ -144,7 +144,7 @@ void OutputEditor::discard()
     m_areOutputsRead = m_outputs.isChanged();
     renew();
     if (m_dialog)
-        m_messages->say(tr("The choice of plots is again that of the project."));
+        m_messages->say(tr("The choice of plots from the project has been restored."));
 }
 
 void OutputEditor::renew()
@@ -167,9 +167,10 @@ void OutputEditor::leave()
 bool OutputEditor::mayLeave()
 {
     return !isChanged() ||
-           m_messages->mayLeave(tr("The choice of plots is changed and not yet in the project.\n"
-                                   "Is it to be stored?"),
-                                [this] { return store(); });
+           m_messages->mayLeave(
+               tr("The choice of plots has been changed, but not yet stored in the project.\n"
+                  "Do you want to store it?"),
+               [this] { return store(); });
 }
 
 void OutputEditor::followOthers()

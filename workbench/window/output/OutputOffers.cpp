@@ -68,7 +68,7 @@ QWidget* OutputOffers::newLoadCaseTab(QWidget* parent)
     bar->setTable(m_loadCases);
     auto layout = new QVBoxLayout(tab);
     layout->addWidget(newHint(tr("The plots offer the load cases that are checked here. The plots "
-                                 "that you have chosen stay chosen.")));
+                                 "that you have checked stay checked.")));
     layout->addWidget(bar);
     layout->addWidget(m_loadCases);
     return tab;

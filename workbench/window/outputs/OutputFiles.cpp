@@ -53,7 +53,7 @@ QStringList OutputFiles::choosePaths(const QString& title, const QString& suffix
     const bool mayReplace = existing.isEmpty() ||
                             VKD_QT_MessageBox::warning(
                                 window, title,
-                                tr("These files exist already:") + QLatin1String("\n\n") +
+                                tr("These files already exist:") + QLatin1String("\n\n") +
                                     existing.join(QLatin1Char('\n')),
                                 tr("&Replace"), tr("Cancel"), QString(), Cancel, Cancel) == Replace;
     return mayReplace ? paths : QStringList();

@@ -54,8 +54,9 @@ QStyleOptionViewItem RecordsPane::viewOptions() const
 void RecordsPane::setTexts()
 {
     setAccessibleName(tr("Design records"));
-    setToolTip(tr("The design records as they lie in the project file. Each row is a word of four "
-                  "bytes."));
+    setToolTip(
+        tr("The design records as they are stored in the project file. Each row is a word of four "
+           "bytes."));
     fitColumns();
 }
 

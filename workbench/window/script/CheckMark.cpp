@@ -91,7 +91,7 @@ void CheckMark::showResult()
     QStringList lines;
     for (int i = 0; i < qMin(MostLines, findings.size()); ++i)
         lines << findingText(findings[i]);
-    setToolTip(findings.isEmpty() ? tr("Every line is one that the plots can make.")
+    setToolTip(findings.isEmpty() ? tr("The plots can produce every line.")
                                   : lines.join(QLatin1Char('\n')));
 }
 

@@ -18,9 +18,9 @@ NewerAnswer askAboutNewer(QWidget* parent)
     const int answer = VKD_QT_MessageBox::warning(
         parent, text(QT_TRANSLATE_NOOP("askAboutNewer", "Workbench")),
         text(QT_TRANSLATE_NOOP("askAboutNewer",
-                               "Another program has changed this in the project since the dialog "
-                               "was opened.\nOverwrite puts your entries in its place. Reload "
-                               "shows what is in the project; your entries are lost.")),
+                               "Another program has changed this data in the project since the "
+                               "dialog was opened.\nOverwrite replaces it with your entries. "
+                               "Reload discards your entries and shows the data in the project.")),
         text(QT_TRANSLATE_NOOP("askAboutNewer", "&Overwrite")),
         text(QT_TRANSLATE_NOOP("askAboutNewer", "&Reload")),
         text(QT_TRANSLATE_NOOP("askAboutNewer", "&Go Back")), int(NewerAnswer::GoBack),

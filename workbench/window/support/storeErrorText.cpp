@@ -18,10 +18,10 @@ QString placeReason(const QFileInfo& file)
     if (file.isDir())
         return text(QT_TRANSLATE_NOOP("storeErrorText", "It is a folder."));
     if (!file.absoluteDir().exists())
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "Its folder is not there."));
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "Its folder does not exist."));
     if (!file.exists())
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is not there."));
-    return text(QT_TRANSLATE_NOOP("storeErrorText", "It may not be read."));
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "It does not exist."));
+    return text(QT_TRANSLATE_NOOP("storeErrorText", "You do not have permission to read it."));
 }
 } // namespace
 
@@ -36,10 +36,9 @@ QString storeErrorText(const QString& path, cd_error_t status)
                                       "It was written by a newer version of the programs."));
     case VKD_ZOB_DAMAGED: return text(QT_TRANSLATE_NOOP("storeErrorText", "It is damaged."));
     case VKD_ZOB_READ_ONLY:
-        return text(
-            QT_TRANSLATE_NOOP("storeErrorText", "It or the folder it lies in is write-protected."));
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "It or its folder is write-protected."));
     case VKD_ZOB_FULL:
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "There is no room left on the disk."));
+        return text(QT_TRANSLATE_NOOP("storeErrorText", "There is no space left on the disk."));
     case VKD_ZOB_LOCKED:
         return text(QT_TRANSLATE_NOOP("storeErrorText", "Another program is writing to it."));
     case VKD_ZOB_MOVED:

@@ -90,9 +90,9 @@ QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& expla
 
 void TextOutputDialog::addExtent()
 {
-    QVBoxLayout* column = addBox(
-        tr("Extent of the text output"),
-        tr("Decides which lists are printed. Manually controlled: those that are checked here."));
+    QVBoxLayout* column =
+        addBox(tr("Extent of the text output"), tr("Determines which lists are printed. Manually "
+                                                   "controlled: those that are checked here."));
     QWidget* box = column->parentWidget();
     setHelpTopic(box, "TEXT/EXTENT");
     m_extent.initEchoOutput(box);
@@ -110,9 +110,10 @@ void TextOutputDialog::addExtent()
 
 void TextOutputDialog::addLoadCases(ZobHandle project)
 {
-    QVBoxLayout* column = addBox(tr("Load cases in the text output"),
-                                 tr("Decides for which load cases loads and results are printed. "
-                                    "Manually: those that are checked in the table."));
+    QVBoxLayout* column =
+        addBox(tr("Load cases in the text output"),
+               tr("Determines the load cases for which loads and results are printed. "
+                  "Manually: those that are checked in the table."));
     QWidget* box = column->parentWidget();
     setHelpTopic(box, "TEXT/LOADCASES");
     m_loadCases.init(box);
@@ -133,7 +134,8 @@ void TextOutputDialog::addCombinations(ZobHandle project)
 {
     QVBoxLayout* column = addBox(
         tr("Combinations in the text output"),
-        tr("Decides for which combinations results are printed: all of one kind, or manually those "
+        tr("Determines the combinations for which results are printed: all of one kind, or "
+           "manually those "
            "that are checked in the table. The kinds can be changed while Manually is chosen."));
     QWidget* box = column->parentWidget();
     setHelpTopic(box, "TEXT/COMBINATIONS");

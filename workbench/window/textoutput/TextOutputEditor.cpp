@@ -61,7 +61,7 @@ void TextOutputEditor::create()
     });
     connect(m_dialog.get(), &QDialog::rejected, this, [this] {
         closeLater();
-        m_messages->say(tr("The text output stays as it was."));
+        m_messages->say(tr("The text output was not changed."));
     });
 }
 
@@ -117,9 +117,9 @@ void TextOutputEditor::reload()
 bool TextOutputEditor::mayLeave()
 {
     return !isChanged() ||
-           m_messages->mayLeave(
-               tr("The text output is changed and not yet in the project.\nIs it to be stored?"),
-               [this] { return store(); });
+           m_messages->mayLeave(tr("The text output has been changed, but not yet stored in the "
+                                   "project.\nDo you want to store it?"),
+                                [this] { return store(); });
 }
 
 void TextOutputEditor::reopen(const TextOutputState& state)

@@ -227,7 +227,7 @@ Daten können verloren gehen!</translation>
         <translation>Drehwinkel der Bewehrung gegen die lokale x-Achse</translation>
     </message>
     <message>
-        <source>In a plane system the layers have no distances. What is entered here is not stored.</source>
+        <source>In a plane system the layers have no distances. Values entered here are not stored.</source>
         <translation>In einem ebenen System haben die Lagen keine Abstände. Eingaben werden hier nicht gespeichert.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@ Daten können verloren gehen!</translation>
     </message>
     <message>
         <source>Boxes change only what is shown.</source>
-        <translation>Kästchen ändern nur, was angezeigt ist.</translation>
+        <translation>Kästchen ändern nur, was angezeigt wird.</translation>
     </message>
     <message>
         <source>No hits</source>
@@ -731,19 +731,19 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>„%1“ ist zu klein</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has two decimal signs</source>
-        <translation>„%1“ hat zwei Dezimalzeichen</translation>
+        <source>&quot;%1&quot; has two decimal separators</source>
+        <translation>„%1“ hat zwei Dezimaltrennzeichen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a number</source>
         <translation>„%1“ ist keine Zahl</translation>
     </message>
     <message>
-        <source>There is no row below the heads.</source>
+        <source>There are no rows below the column headers.</source>
         <translation>Unter den Spaltenköpfen steht keine Zeile.</translation>
     </message>
     <message>
-        <source>Row 1: &quot;%1&quot; is not the head of a column.</source>
+        <source>Row 1: &quot;%1&quot; is not a column header.</source>
         <translation>Zeile 1: „%1“ ist kein Spaltenkopf.</translation>
     </message>
     <message>
@@ -782,8 +782,8 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Viele Bilder</translation>
     </message>
     <message>
-        <source>This click adds %1 pictures to the script. Is it intended?</source>
-        <translation>Dieser Klick fügt dem Skript %1 Bilder hinzu. Ist das gewollt?</translation>
+        <source>This click adds %1 pictures to the script. Do you want to continue?</source>
+        <translation>Dieser Klick fügt dem Skript %1 Bilder hinzu. Fortfahren?</translation>
     </message>
 </context>
 <context>
@@ -858,7 +858,7 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Zeilen &amp;duplizieren</translation>
     </message>
     <message>
-        <source>The clipboard contains no rows of design parameters. A table needs the heads that copied rows have.</source>
+        <source>The clipboard contains no rows of design parameters. A table must have the column headers of copied rows.</source>
         <translation>Die Zwischenablage enthält keine Zeilen mit Bemessungsparametern. Eine Tabelle braucht die Spaltenköpfe, die kopierte Zeilen haben.</translation>
     </message>
     <message>

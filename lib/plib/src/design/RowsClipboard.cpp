@@ -99,8 +99,8 @@ RowTable RowsClipboard::copiedRows() const
         return table;
     if (looksLikeRowTable(mime->text()))
         return readRowTable(mime->text());
-    table.faults << tr("The clipboard contains no rows of design parameters. A table needs the "
-                       "heads that copied rows have.");
+    table.faults << tr("The clipboard contains no rows of design parameters. A table must have the "
+                       "column headers of copied rows.");
     return table;
 }
 

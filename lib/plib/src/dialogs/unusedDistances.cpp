@@ -11,7 +11,7 @@ namespace plib {
 void markUnusedDistances(dlgDistanceDirection& dialog)
 {
     const QString reason = dlgDistanceDirection::tr(
-        "In a plane system the layers have no distances. What is entered here is not stored.");
+        "In a plane system the layers have no distances. Values entered here are not stored.");
     for (const char* name : {"hio", "hiu", "hioq", "hiuq", "hioi", "hiui"}) {
         auto edit = dialog.findChild<QLineEdit*>(QLatin1String(name));
         if (!edit || !edit->placeholderText().isEmpty())

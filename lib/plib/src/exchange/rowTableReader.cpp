@@ -43,7 +43,7 @@ QString refusal(VkdNumberState state, const QString& cell)
     case VkdNumberState::TooLarge: return TableText::tr("\"%1\" is too large").arg(text);
     case VkdNumberState::TooSmall: return TableText::tr("\"%1\" is too small").arg(text);
     case VkdNumberState::TwoDecimalSigns:
-        return TableText::tr("\"%1\" has two decimal signs").arg(text);
+        return TableText::tr("\"%1\" has two decimal separators").arg(text);
     default: return TableText::tr("\"%1\" is not a number").arg(text);
     }
 }
@@ -63,7 +63,7 @@ public:
                 readRow(lines[line], line + 1);
         }
         if (m_table.rows.empty() && m_table.faults.isEmpty())
-            m_table.faults << TableText::tr("There is no row below the heads.");
+            m_table.faults << TableText::tr("There are no rows below the column headers.");
         return m_table;
     }
 
@@ -73,8 +73,8 @@ private:
         for (const QString& head : heads) {
             const RowColumn* column = columnWithHead(head);
             if (!column && !head.trimmed().isEmpty())
-                m_table.faults << TableText::tr("Row 1: \"%1\" is not the head of a column.")
-                                      .arg(quotation(head));
+                m_table.faults
+                    << TableText::tr("Row 1: \"%1\" is not a column header.").arg(quotation(head));
             if (column && std::count(m_columns.begin(), m_columns.end(), column) > 0)
                 m_table.faults
                     << TableText::tr("Row 1: there are two columns \"%1\".").arg(quotation(head));

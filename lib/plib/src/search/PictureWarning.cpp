@@ -45,7 +45,7 @@ void PictureWarning::ask(const QPersistentModelIndex& index, int pictures)
     m_isAsking = true;
     const int answer = VKD_QT_MessageBox::warning(
         m_tree, tr("Many Pictures"),
-        tr("This click adds %1 pictures to the script. Is it intended?").arg(pictures),
+        tr("This click adds %1 pictures to the script. Do you want to continue?").arg(pictures),
         QMessageBox::Yes, QMessageBox::No, 0);
     if (!self)
         return;

@@ -135,7 +135,7 @@ AreaResult MinimumPanel::result() const
     if (!isReadable)
         result.fault = tr("An entry cannot be read.");
     else if (m_depth->getVal() <= 0)
-        result.fault = tr("The effective depth is needed.");
+        result.fault = tr("The effective depth is required.");
     result.area = roundedUp(isSecondary() ? ShareOfSecondary * principalArea() : minimum().area());
     return result;
 }

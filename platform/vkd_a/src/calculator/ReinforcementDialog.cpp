@@ -110,8 +110,8 @@ void ReinforcementDialog::showResult()
     const QString diameter = VKD_A_BarDiameterData().getString(result.diameter);
     m_takesDiameter->setEnabled(canTakeDiameter(result));
     m_takesDiameter->setText(canTakeDiameter(result)
-                                 ? tr("&Take over %1 as the bar diameter too").arg(diameter)
-                                 : tr("&Take over the bar diameter too"));
+                                 ? tr("Use %1 as &the bar diameter, too").arg(diameter)
+                                 : tr("Use &the bar diameter, too"));
     buttons()->cmdOk()->setEnabled(isPossible);
 }
 

@@ -19,8 +19,8 @@ QString refusalText(VkdNumberState state, const QString& text, const StructLineE
     switch (state) {
     case VkdNumberState::Accepted: return QString();
     case VkdNumberState::TwoDecimalSigns:
-        return VKD_H_LineEdit::tr("“%1” has more than one decimal sign.\n"
-                                  "Comma and dot both are one; there is no thousands separator.")
+        return VKD_H_LineEdit::tr("“%1” has more than one decimal separator.\nA comma and a point "
+                                  "are both decimal separators; there is no thousands separator.")
             .arg(text);
     case VkdNumberState::TooLarge:
         return VKD_H_LineEdit::tr("%1 is too large; the greatest value is %2.")
@@ -28,7 +28,7 @@ QString refusalText(VkdNumberState state, const QString& text, const StructLineE
     case VkdNumberState::TooSmall:
         return VKD_H_LineEdit::tr("%1 is too small; the smallest value is %2.")
             .arg(text, withUnit(description.minimum, description));
-    case VkdNumberState::Missing: return VKD_H_LineEdit::tr("A value is needed here.");
+    case VkdNumberState::Missing: return VKD_H_LineEdit::tr("A value is required here.");
     case VkdNumberState::Incomplete:
     case VkdNumberState::NoNumber: break;
     }
@@ -41,7 +41,7 @@ QString doubtText(double value, const VkdPlausibleRange& range, const StructLine
         float(value) >= float(range.minimum) && float(value) <= float(range.maximum);
     if (isUsual || vkd_h_isNotSet(value, description))
         return QString();
-    return VKD_H_LineEdit::tr("%1 to %2 is usual here. The value counts all the same.")
+    return VKD_H_LineEdit::tr("Usual values are %1 to %2. The value is accepted all the same.")
         .arg(withUnit(range.minimum, description), withUnit(range.maximum, description));
 }
 
@@ -49,6 +49,6 @@ QString acceptedValueText(double value, const StructLineEdit& description)
 {
     if (vkd_h_isNotSet(value, description))
         return VKD_H_LineEdit::tr("The value is still not set. Esc empties the field.");
-    return VKD_H_LineEdit::tr("The value is still %1. Esc brings it back.")
+    return VKD_H_LineEdit::tr("The value is still %1. Esc restores it.")
         .arg(withUnit(value, description));
 }

@@ -19,8 +19,7 @@ const char* sentence(ZobAction action)
     case ZobAction::Read: return QT_TRANSLATE_NOOP("ZobTexts", "cannot read %1: %2");
     case ZobAction::Search: return QT_TRANSLATE_NOOP("ZobTexts", "cannot search %1: %2");
     case ZobAction::Write: return QT_TRANSLATE_NOOP("ZobTexts", "cannot write %1: %2");
-    case ZobAction::TakeLock:
-        return QT_TRANSLATE_NOOP("ZobTexts", "cannot take the lock of %1: %2");
+    case ZobAction::TakeLock: return QT_TRANSLATE_NOOP("ZobTexts", "cannot lock %1: %2");
     case ZobAction::StoreChanges:
         return QT_TRANSLATE_NOOP("ZobTexts", "cannot store the changes in %1: %2");
     case ZobAction::UndoChanges:
@@ -34,9 +33,9 @@ const char* reasonOf(cd_error_t code)
 {
     switch (code) {
     case VKD_ZOB_NOT_OPEN:
-        return QT_TRANSLATE_NOOP("ZobTexts", "no project is open under this index");
+        return QT_TRANSLATE_NOOP("ZobTexts", "no project is open with this index");
     case VKD_ZOB_NO_FILE:
-        return QT_TRANSLATE_NOOP("ZobTexts", "the file is not there or cannot be opened");
+        return QT_TRANSLATE_NOOP("ZobTexts", "the file does not exist or cannot be opened");
     case VKD_ZOB_NO_PROJECT: return QT_TRANSLATE_NOOP("ZobTexts", "the file is not a project file");
     case VKD_ZOB_NEWER:
         return QT_TRANSLATE_NOOP("ZobTexts", "the file was written by a newer version");
@@ -44,9 +43,9 @@ const char* reasonOf(cd_error_t code)
     case VKD_ZOB_READ_ONLY:
         return QT_TRANSLATE_NOOP("ZobTexts", "the file or its folder is write-protected");
     case VKD_ZOB_FULL:
-        return QT_TRANSLATE_NOOP("ZobTexts",
-                                 "the disk is full, or it does not take what is written");
-    case VKD_ZOB_LOCKED: return QT_TRANSLATE_NOOP("ZobTexts", "another program holds the project");
+        return QT_TRANSLATE_NOOP("ZobTexts", "the disk is full or does not accept the data");
+    case VKD_ZOB_LOCKED:
+        return QT_TRANSLATE_NOOP("ZobTexts", "another program has locked the project");
     case VKD_ZOB_MOVED:
         return QT_TRANSLATE_NOOP("ZobTexts",
                                  "the file was deleted, moved or replaced while it was open");
