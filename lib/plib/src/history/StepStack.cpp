@@ -128,7 +128,8 @@ void StepStack::dropOldSteps()
     {
         const QSignalBlocker silent(&m_stack); // the page's modified state does not change
         m_stack.clear();
-        m_stack.resetClean();
+        if (clean != 0)
+            m_stack.resetClean();
         for (const auto& step : newest) {
             m_stack.push(new Command(step));
             if (m_stack.count() == clean)
