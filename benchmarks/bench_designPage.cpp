@@ -121,7 +121,21 @@ void fillBareTable(benchmark::State& state)
     }
 }
 
-/// Deletes every second row, which is the worst case.
+void trigger(const VKD_P_DesignParameter& page, const char* action)
+{
+    page.findChild<QAction*>(QLatin1String(action))->trigger();
+}
+
+/// Selects every second row, which is the worst case.
+void selectHalf(QTableWidget* table)
+{
+    QItemSelection selection;
+    for (int row = 1; row < table->rowCount(); row += 2)
+        selection.select(table->model()->index(row, 0), table->model()->index(row, Columns - 1));
+    table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+/// Measures the time for deleting every second row.
 void deleteHalf(benchmark::State& state)
 {
     const Project project;
@@ -129,11 +143,7 @@ void deleteHalf(benchmark::State& state)
         const auto page = newPage(project);
         page->readZob();
         auto table = page->findChild<QTableWidget*>(QStringLiteral("table"));
-        QItemSelection selection;
-        for (int row = 1; row < Rows; row += 2)
-            selection.select(table->model()->index(row, 0),
-                             table->model()->index(row, Columns - 1));
-        table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+        selectHalf(table);
         const double start = processorSeconds();
         page->findChild<QPushButton*>(QStringLiteral("btnDelete"))->click();
         state.SetIterationTime(processorSeconds() - start);
@@ -142,9 +152,22 @@ void deleteHalf(benchmark::State& state)
     }
 }
 
-void trigger(const VKD_P_DesignParameter& page, const char* action)
+/// Measures the time for undoing the deletion of every second row.
+void undoDeletion(benchmark::State& state)
 {
-    page.findChild<QAction*>(QLatin1String(action))->trigger();
+    const Project project;
+    for (auto _ : state) {
+        const auto page = newPage(project);
+        page->readZob();
+        auto table = page->findChild<QTableWidget*>(QStringLiteral("table"));
+        selectHalf(table);
+        page->findChild<QPushButton*>(QStringLiteral("btnDelete"))->click();
+        const double start = processorSeconds();
+        trigger(*page, "undo");
+        state.SetIterationTime(processorSeconds() - start);
+        if (table->rowCount() != Rows || !table->item(1, 0)->isSelected())
+            state.SkipWithError("not all rows were restored");
+    }
 }
 
 /// Alternately undoes and redoes a change to the type of a row.
@@ -318,6 +341,7 @@ void openPlainDialog(benchmark::State& state)
 BENCHMARK(fillPage)->UseManualTime();
 BENCHMARK(fillBareTable)->UseManualTime();
 BENCHMARK(deleteHalf)->UseManualTime();
+BENCHMARK(undoDeletion)->UseManualTime();
 BENCHMARK(pasteAll)->UseManualTime();
 BENCHMARK(undoOneRow);
 BENCHMARK(redrawOneRow);
@@ -357,6 +381,7 @@ int main(int argc, char* argv[])
         {{"fillPage/manual_time", "fillBareTable/manual_time", 1.3,
           "builds the same texts and adds them to a bare table row by row"},
          {"deleteHalf/manual_time", "fillPage/manual_time", 0.7, "fills and frees all rows"},
+         {"undoDeletion/manual_time", "fillPage/manual_time", 1.0, "fills and frees all rows"},
          {"pasteAll/manual_time", "fillPage/manual_time", 2.0, "fills and frees all rows"},
          {"undoOneRow", "redrawOneRow", 2.0,
           "writes the texts of a row into a bare table and fits its height"},
