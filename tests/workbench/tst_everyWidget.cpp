@@ -171,18 +171,18 @@ private:
             find<QComboBox>(*dialog, "CombinationKind")->setCurrentIndex(3);
             visit(*dialog);
         });
-        addDesign("presets and their form",
-                  [](QWidget& window, QTableWidget& table, const Visit& visit) {
-                      table.setCurrentCell(0, Cracks);
-                      const auto open = find<QAction>(window, "presets");
-                      visitModal(visit, [open] { open->trigger(); });
-                      whenModal([&visit](QWidget* presets) {
-                          const auto form = find<QPushButton>(*presets, "presetFromRow");
-                          visitModal(visit, [form] { form->click(); });
-                          presets->close();
-                      });
-                      open->trigger();
-                  });
+        for (const QByteArray page : {"Design", "Output"})
+            addMain("presets of " + page, [page](MainWindow& window, const Visit& visit) {
+                trigger(window, page);
+                const auto open = find<QAction>(*find<QWidget>(window, page + "Dock"), "presets");
+                visitModal(visit, [open] { open->trigger(); });
+                whenModal([&visit](QWidget* presets) {
+                    const auto form = find<QPushButton>(*presets, "presetNew");
+                    visitModal(visit, [form] { form->click(); });
+                    presets->close();
+                });
+                open->trigger();
+            });
         addMain("about", [](MainWindow& window, const Visit& visit) {
             visitModal(visit, [&] { trigger(window, "About"); });
         });

@@ -1,8 +1,11 @@
 #include "DesignDesk.h"
 #include "LanguageSupport.h"
+#include "project/KeptPlots.h"
 #include "project/OpenProject.h"
+#include "project/plotPresets.h"
 #include "project/presetPlaces.h"
 #include "WidgetTestSupport.h"
+#include "window/output/OutputDialog.h"
 #include "window/presets/PageParameters.h"
 #include "window/presets/presetsAction.h"
 
@@ -162,28 +165,38 @@ private Q_SLOTS:
             "It was written by a newer version of this program: version 2 of the format, and this "
             "program reads up to version 1.");
         row("other", R"(], "format": "x", "y": [)", "It does not contain design presets.");
+        row("plots", R"({"name": "A", "plots": {"&X": ["a", "b"], "^Y": []}})", "A: : &X=a/b ^Y=");
+        row("plots: no captions", R"({"name": "A", "plots": {"&X": [1]}})",
+            "\"A\": the captions of \"&X\" are not a list of texts.");
+        row("plots: none", R"({"name": "A", "plots": {}})", "\"A\" has no plots.");
+        row("plots: other", R"(], "format": "vkd-design-presets", "y": [)",
+            "It does not contain presets of plots.");
     }
 
     void reading()
     {
         QFETCH(const QString, json);
+        const bool isPlots = QByteArray(QTest::currentDataTag()).startsWith("plots");
+        const PresetKind kind = isPlots ? PresetKind::Plots : PresetKind::DesignParameters;
         const QString start =
-            QStringLiteral(R"({"format": "vkd-design-presets", "version": 1, "presets": [)");
-        PresetReading read =
-            readPresets((start + json + QLatin1String("]}")).toUtf8(), vkd::Language::English);
+            QStringLiteral(R"({"format": "vkd-%1-presets", "version": 1, "presets": [)")
+                .arg(isPlots ? QLatin1String("plot") : QLatin1String("design"));
+        PresetReading read = readPresets(kind, (start + json + QLatin1String("]}")).toUtf8(),
+                                         vkd::Language::English);
         for (int round = 0; round < 2; ++round) {
             QStringList texts(read.fault);
             for (const Preset& preset : qAsConst(read.presets)) {
                 QStringList values;
-                for (auto it = preset.parameters.begin(); it != preset.parameters.end(); ++it)
-                    values << it.key() + QLatin1Char('=') + it.value().toString();
+                for (auto it = preset.contents.begin(); it != preset.contents.end(); ++it)
+                    values << it.key() + QLatin1Char('=') + it.value().toString() +
+                                  it.value().toStringList().join(QLatin1Char('/'));
                 texts << QStringList{preset.name, preset.description, values.join(QLatin1Char(' '))}
                              .join(QLatin1String(": "));
             }
             texts.removeAll(QString());
             QTEST(texts.join(QLatin1Char('|')), "expected");
             if (read.fault.isEmpty()) // the second round reads what was written
-                read = readPresets(presetsJson(read.presets), vkd::Language::German);
+                read = readPresets(kind, presetsJson(kind, read.presets), vkd::Language::German);
         }
     }
 
@@ -193,9 +206,11 @@ private Q_SLOTS:
     {
         const Columns<Preset, Preset> row("english", "german");
         setLanguage(English);
-        const PresetList english = presetsOf(PresetPlace::Supplied, {}).presets;
+        const PresetList english =
+            presetsOf(PresetKind::DesignParameters, PresetPlace::Supplied, {}).presets;
         setLanguage(German);
-        const PresetList german = presetsOf(PresetPlace::Supplied, {}).presets;
+        const PresetList german =
+            presetsOf(PresetKind::DesignParameters, PresetPlace::Supplied, {}).presets;
         QCOMPARE(german.size(), english.size());
         for (int i = 0; i < english.size(); ++i)
             row(english[i].name.toUtf8(), english[i], german[i]);
@@ -207,12 +222,12 @@ private Q_SLOTS:
         QFETCH(const Preset, german);
         HostProject project(QStringLiteral("slab"));
         DesignDesk desk(project, {record(-1, 1, 0)});
-        QCOMPARE(PageParameters(desk.page).faults(english.parameters), QStringList());
-        QVERIFY(german.name != english.name && german.parameters == english.parameters);
+        QCOMPARE(PageParameters(desk.page).faults(english.contents), QStringList());
+        QVERIFY(german.name != english.name && german.contents == english.contents);
         QVERIFY(german.description.startsWith(QLatin1String("EN 1992-1-1")));
         QCOMPARE(numbersIn(german.name + german.description),
                  numbersIn(english.name + english.description));
-        QVariantMap stored = english.parameters;
+        QVariantMap stored = english.contents;
         for (const char* free : {"type", "rio", "riu"})
             stored.remove(QLatin1String(free));
         const QVariantMap described = figuresIn(english);
@@ -230,13 +245,14 @@ private Q_SLOTS:
     void storing()
     {
         QFETCH(const int, place);
+        constexpr auto kind = PresetKind::DesignParameters;
         HostProject project(QStringLiteral("slab"));
         const ZobHandle handle = project.doc()->handle();
         const auto store = [&](const PresetChange& change) {
-            return changePresets(PresetPlace(place), handle, change);
+            return changePresets(kind, PresetPlace(place), handle, change);
         };
         const auto names = [&] {
-            const PresetReading reading = presetsOf(PresetPlace(place), handle);
+            const PresetReading reading = presetsOf(kind, PresetPlace(place), handle);
             QStringList texts(reading.fault);
             for (const Preset& preset : reading.presets)
                 texts << preset.name;
@@ -254,10 +270,10 @@ private Q_SLOTS:
         if (PresetPlace(place) == PresetPlace::Project)
             return;
         const QByteArray newer = R"({"format": "vkd-design-presets", "version": 3, "presets": []})";
-        writeFile(userPresetsPath(), newer);
+        writeFile(userPresetsPath(kind), newer);
         QVERIFY(
             store([](PresetList&) {}).startsWith(QLatin1String("presets.json: It was written")));
-        QCOMPARE(readFile(userPresetsPath()), newer);
+        QCOMPARE(readFile(userPresetsPath(kind)), newer);
     }
 
     void applyingParts()
@@ -289,7 +305,7 @@ private Q_SLOTS:
                 find<QAbstractButton>(*form, "partCover")->click();
                 qobject_cast<QDialog*>(form)->accept();
             });
-            press(dialog, "presetFromRow");
+            press(dialog, "presetNew");
             for (const char* button : {"presetExport", "presetImport"}) {
                 whenModal([&file](QWidget* files) { enterFile(files, file); });
                 press(dialog, button);
@@ -300,12 +316,89 @@ private Q_SLOTS:
             choose(dialog, "A & B (2)");
             press(dialog, "presetApply");
         });
-        const PresetList stored = presetsOf(PresetPlace::User, {}).presets;
+        const PresetList stored =
+            presetsOf(PresetKind::DesignParameters, PresetPlace::User, {}).presets;
         QCOMPARE(stored.size(), 1);
         QCOMPARE(stored.first().name, QStringLiteral("A & B (2)"));
-        QVERIFY(!partsIn(stored.first().parameters).contains(PresetPart::Cover));
+        QVERIFY(!partsIn(stored.first().contents).contains(PresetPart::Cover));
         QCOMPARE(find<QAction>(*desk->page, "undo")->text(),
                  QStringLiteral("&Undo Preset \"A && B (2)\""));
+    }
+
+    void selectionWithPlots_data()
+    {
+        const Columns<QString, QString, QString> row("shown", "replaced", "added");
+        row("other plots", "\nChecked:A\n", "\nChecked:P\nChecked:Q\n",
+            "\nChecked:A\nPartially:P : 9,\nChecked:P\nChecked:Q\n");
+        row("load cases of the plots", "\nUnchecked:A\nPartially:P : 1,3,\n",
+            "\nPartially:P : 9,1,3,\nChecked:Q\n",
+            "\nUnchecked:A\nPartially:P : 9,1,3,\nChecked:Q\n");
+    }
+
+    /// The page does not offer load case 9, which is kept for plot P.
+    void selectionWithPlots()
+    {
+        QFETCH(const QString, shown);
+        const KeptPlots kept(QStringLiteral("Partially:P : 9,\n"),
+                             [](const QString&) { return std::nullopt; });
+        const QString all = kept.addedTo(shown, [](const QString&) { return std::nullopt; });
+        const QVariantMap preset{{QStringLiteral("P"), {}}, {QStringLiteral("Q"), {}}};
+        QTEST(selectionWithPreset(preset, PlotsOfPreset::Replace, shown, all), "replaced");
+        QTEST(selectionWithPreset(preset, PlotsOfPreset::Add, shown, all), "added");
+    }
+
+    /// Applies a preset with a plot that the model does not have, in one step.
+    void plots()
+    {
+        HostProject project(QStringLiteral("slab"));
+        OutputDialog output(project.doc(), {}, nullptr);
+        const auto present = [&output] { return output.state().page; };
+        const QString proposed = present();
+        const auto open = [&output](const std::function<void(const QWidget&)>& use) {
+            whenModal([&use](QWidget* dialog) {
+                use(*dialog);
+                qobject_cast<QDialog*>(dialog)->reject();
+            });
+            find<QAction>(output, "presets")->trigger();
+        };
+        open([](const QWidget& dialog) {
+            whenModal([](QWidget* form) {
+                find<QLineEdit>(*form, "presetName")->setText(QStringLiteral("All"));
+                qobject_cast<QDialog*>(form)->accept();
+            });
+            press(dialog, "presetNew");
+        });
+        QVERIFY(changePresets(PresetKind::Plots, PresetPlace::User, {}, [](PresetList& presets) {
+                    presets << Preset{
+                        QStringLiteral("Other"),
+                        {},
+                        {{QStringLiteral("@X  $Y  ^Z"), QStringList(QStringLiteral("x"))}}};
+                }).isEmpty());
+        open([](const QWidget& dialog) {
+            choose(dialog, "Other");
+            QCOMPARE(find<QTextBrowser>(dialog, "presetDetails")->toPlainText(),
+                     QStringLiteral("Other\nPlots that are not offered here: 1\nx"));
+            press(dialog, "presetApply");
+        });
+        const QString other = present();
+        QVERIFY(other != proposed);
+        QCOMPARE(output.absentPlots(), 1);
+        open([](const QWidget& dialog) {
+            choose(dialog, "All");
+            find<QAbstractButton>(dialog, "presetAdds")->click();
+            press(dialog, "presetApply");
+        });
+        QCOMPARE(output.absentPlots(), 1);
+        const QAction* undo = find<QAction>(output, "undo");
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Preset \"All\""));
+        QVERIFY(output.captions().size() > 1);
+        trigger(output, "undo");
+        QCOMPARE(present(), other);
+        trigger(output, "undo");
+        QCOMPARE(present(), proposed);
+        QCOMPARE(output.absentPlots(), 0);
+        trigger(output, "redo");
+        QCOMPARE(present(), other);
     }
 
 private:

@@ -8,19 +8,24 @@
 
 namespace workbench {
 
-/// A named set of design parameters, as exchanged with the page (see docs/embedding.md): numbers in
-/// base units by field name, with an invalid value for "not set". Parameters that are not in the
-/// map do not change in a row.
+/// The kinds of presets. Each kind has files and entries of its own.
+/// - The contents of a preset of design parameters are numbers in base units by field name, with an
+///   invalid value for "not set", as exchanged with the page (see docs/embedding.md). Parameters
+///   that it does not contain do not change in a row.
+/// - The contents of a preset of plots are lists of captions by the identifier of the plot. The
+///   captions are for display only, in the language in which the preset was created.
+enum class PresetKind { DesignParameters, Plots };
+
 struct Preset
 {
     QString name; ///< not empty, unique in its place
     QString description;
-    QVariantMap parameters;
+    QVariantMap contents; ///< not empty
 };
 
 using PresetList = QVector<Preset>;
 
-/// The parts of a preset, which can be applied separately.
+/// The parts of a preset of design parameters, which can be applied separately.
 enum class PresetPart { Type, Directions, Cover, Bars, Limits, Cracks };
 constexpr PresetPart PresetParts[] = {PresetPart::Type, PresetPart::Directions, PresetPart::Cover,
                                       PresetPart::Bars, PresetPart::Limits,     PresetPart::Cracks};

@@ -5,6 +5,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
@@ -13,21 +15,66 @@ const QLatin1String VersionKey("version");
 const QLatin1String PresetsKey("presets");
 const QLatin1String NameKey("name");
 const QLatin1String DescriptionKey("description");
-const QLatin1String ParametersKey("parameters");
 const QLatin1String GermanKey("de");
-const QLatin1String FormatName("vkd-design-presets");
 
 struct JsonText
 {
     Q_DECLARE_TR_FUNCTIONS(presetJson)
 };
 
+bool isNumberOrNull(const QJsonValue& value)
+{
+    return value.isDouble() || value.isNull();
+}
+
+bool isListOfTexts(const QJsonValue& value)
+{
+    const QJsonArray array = value.toArray();
+    return value.isArray() &&
+           std::all_of(array.begin(), array.end(),
+                       [](const QJsonValue& element) { return element.isString(); });
+}
+
+/// The format of the contents of a preset. The texts have to be translated.
+struct ContentsFormat
+{
+    QLatin1String fileFormat; ///< value of "format"
+    QLatin1String key;        ///< name of the member of a preset
+    bool (*isValue)(const QJsonValue& value);
+    const char* otherFormat;
+    const char* noContents;
+    const char* wrongValue;
+};
+
+/// Returns the format of the contents of a kind of presets.
+const ContentsFormat& formatOf(PresetKind kind)
+{
+    static const ContentsFormat design{
+        QLatin1String("vkd-design-presets"),
+        QLatin1String("parameters"),
+        isNumberOrNull,
+        QT_TRANSLATE_NOOP("presetJson", "It does not contain design presets."),
+        QT_TRANSLATE_NOOP("presetJson", "\"%1\" has no parameters."),
+        QT_TRANSLATE_NOOP("presetJson", "\"%1\": the value of \"%2\" is not a number."),
+    };
+    static const ContentsFormat plots{
+        QLatin1String("vkd-plot-presets"),
+        QLatin1String("plots"),
+        isListOfTexts,
+        QT_TRANSLATE_NOOP("presetJson", "It does not contain presets of plots."),
+        QT_TRANSLATE_NOOP("presetJson", "\"%1\" has no plots."),
+        QT_TRANSLATE_NOOP("presetJson", "\"%1\": the captions of \"%2\" are not a list of texts."),
+    };
+    return kind == PresetKind::Plots ? plots : design;
+}
+
 /// Reads the presets of a document. Stops at the first fault.
 class PresetReader
 {
 public:
-    explicit PresetReader(vkd::Language language)
-        : m_language(language)
+    PresetReader(PresetKind kind, vkd::Language language)
+        : m_format(formatOf(kind))
+        , m_language(language)
     {
     }
 
@@ -56,8 +103,8 @@ private:
     bool isKnownVersion(const QJsonObject& file)
     {
         const double version = file.value(VersionKey).toDouble();
-        if (file.value(FormatKey).toString() != FormatName || !(version >= 1))
-            return fail(JsonText::tr("It does not contain design presets."));
+        if (file.value(FormatKey).toString() != m_format.fileFormat || !(version >= 1))
+            return fail(JsonText::tr(m_format.otherFormat));
         if (version > PresetVersion)
             return fail(JsonText::tr("It was written by a newer version of this program: version "
                                      "%1 of the format, and this program reads up to version %2.")
@@ -86,7 +133,7 @@ private:
 
     void readPreset(const QJsonObject& object)
     {
-        if (!hasOnly(object, {NameKey, DescriptionKey, ParametersKey, GermanKey}) ||
+        if (!hasOnly(object, {NameKey, DescriptionKey, m_format.key, GermanKey}) ||
             !hasOnly(object.value(GermanKey).toObject(), {NameKey, DescriptionKey}))
             return;
         Preset preset{text(object, NameKey).simplified(), text(object, DescriptionKey), {}};
@@ -96,7 +143,7 @@ private:
                      .arg(LongestPresetName));
         else if (findPreset(m_reading.presets, preset.name))
             fail(JsonText::tr("There are two presets \"%1\".").arg(preset.name));
-        else if (readParameters(object.value(ParametersKey).toObject(), &preset))
+        else if (readContents(object.value(m_format.key).toObject(), &preset))
             m_reading.presets << preset;
     }
 
@@ -108,49 +155,49 @@ private:
                    : object.value(key).toString();
     }
 
-    bool readParameters(const QJsonObject& object, Preset* preset)
+    bool readContents(const QJsonObject& object, Preset* preset)
     {
-        for (auto entry = object.begin(); entry != object.end(); ++entry) {
-            if (!entry.value().isDouble() && !entry.value().isNull())
-                return fail(JsonText::tr("\"%1\": the value of \"%2\" is not a number.")
-                                .arg(preset->name, entry.key()));
-            preset->parameters.insert(entry.key(), entry.value().isNull()
-                                                       ? QVariant()
-                                                       : QVariant(entry.value().toDouble()));
-        }
-        if (preset->parameters.isEmpty())
-            return fail(JsonText::tr("\"%1\" has no parameters.").arg(preset->name));
+        for (auto entry = object.begin(); entry != object.end(); ++entry)
+            if (m_format.isValue(entry.value()))
+                preset->contents.insert(entry.key(), valueOf(entry.value()));
+            else
+                return fail(JsonText::tr(m_format.wrongValue).arg(preset->name, entry.key()));
+        if (preset->contents.isEmpty())
+            return fail(JsonText::tr(m_format.noContents).arg(preset->name));
         return true;
     }
 
+    /// Returns a number, a list of strings or, for null, an invalid value.
+    static QVariant valueOf(const QJsonValue& value)
+    {
+        QVariant result = value.toVariant();
+        if (value.isArray())
+            result.convert(QMetaType::QStringList);
+        return value.isNull() ? QVariant() : result;
+    }
+
+    const ContentsFormat& m_format;
     vkd::Language m_language;
     PresetReading m_reading;
 };
 
-QJsonObject objectOf(const Preset& preset)
-{
-    QJsonObject parameters;
-    for (auto entry = preset.parameters.begin(); entry != preset.parameters.end(); ++entry)
-        parameters.insert(entry.key(), entry.value().isNull()
-                                           ? QJsonValue(QJsonValue::Null)
-                                           : QJsonValue(entry.value().toDouble()));
-    return {
-        {NameKey, preset.name}, {DescriptionKey, preset.description}, {ParametersKey, parameters}};
-}
 } // namespace
 
-PresetReading readPresets(const QByteArray& json, vkd::Language language)
+PresetReading readPresets(PresetKind kind, const QByteArray& json, vkd::Language language)
 {
-    return PresetReader(language).read(json);
+    return PresetReader(kind, language).read(json);
 }
 
-QByteArray presetsJson(const PresetList& presets)
+QByteArray presetsJson(PresetKind kind, const PresetList& presets)
 {
+    const ContentsFormat& format = formatOf(kind);
     QJsonArray list;
     for (const Preset& preset : presets)
-        list << objectOf(preset);
+        list << QJsonObject{{NameKey, preset.name},
+                            {DescriptionKey, preset.description},
+                            {format.key, QJsonObject::fromVariantMap(preset.contents)}};
     const QJsonObject file{
-        {FormatKey, FormatName}, {VersionKey, PresetVersion}, {PresetsKey, list}};
+        {FormatKey, format.fileFormat}, {VersionKey, PresetVersion}, {PresetsKey, list}};
     return QJsonDocument(file).toJson();
 }
 

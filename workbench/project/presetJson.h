@@ -20,12 +20,12 @@ struct PresetReading
     QString fault; ///< the first fault, a sentence in the desktop language
 };
 
-/// Reads presets. Names and descriptions are in the given language if the file contains a
-/// translation. Rejects files of a newer version and members that this version does not know, but
-/// does not check names and values of parameters; the page does.
-PresetReading readPresets(const QByteArray& json, vkd::Language language);
+/// Reads presets of a kind. Names and descriptions are in the given language if the file contains a
+/// translation. Rejects files of another kind or of a newer version and members that this version
+/// does not know, but does not check names and values of parameters; the page does.
+PresetReading readPresets(PresetKind kind, const QByteArray& json, vkd::Language language);
 
 /// Returns presets in the current version of the format.
-QByteArray presetsJson(const PresetList& presets);
+QByteArray presetsJson(PresetKind kind, const PresetList& presets);
 
 } // namespace workbench

@@ -24,21 +24,21 @@ struct PlaceText
     Q_DECLARE_TR_FUNCTIONS(presetPlaces)
 };
 
-PresetReading readFile(const QString& path)
+PresetReading readFile(PresetKind kind, const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {{}, file.errorString()};
     if (file.size() > MostBytes)
         return {{}, PlaceText::tr("It is too large.")};
-    return readPresets(file.readAll(), vkd::desktopLanguage());
+    return readPresets(kind, file.readAll(), vkd::desktopLanguage());
 }
 
-QString writeFile(const QString& path, const PresetList& presets)
+QString writeFile(PresetKind kind, const QString& path, const PresetList& presets)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QSaveFile file(path);
-    const QByteArray json = presetsJson(presets);
+    const QByteArray json = presetsJson(kind, presets);
     const bool isStored = file.open(QIODevice::WriteOnly) && file.write(json) == json.size();
     return isStored && file.commit() ? QString() : file.errorString();
 }
@@ -46,28 +46,29 @@ QString writeFile(const QString& path, const PresetList& presets)
 PresetReading readSupplied()
 {
     const auto path = vkd_lib_searchpath("presets/design.json", 3);
-    return path ? readFile(QFile::decodeName(path->c_str()))
+    return path ? readFile(PresetKind::DesignParameters, QFile::decodeName(path->c_str()))
                 : PresetReading{{}, PlaceText::tr("The supplied presets are missing.")};
 }
 
-PresetReading readProject(ZobHandle project)
+PresetReading readProject(PresetKind kind, ZobHandle project)
 {
     const QString json =
         VKD_H_ProjectDialogPage(project, PresetsDialogPage).getEntry(EntryKey, QString());
-    return json.isEmpty() ? PresetReading() : readPresets(json.toUtf8(), vkd::desktopLanguage());
+    return json.isEmpty() ? PresetReading()
+                          : readPresets(kind, json.toUtf8(), vkd::desktopLanguage());
 }
 
-QString changeProject(ZobHandle project, const PresetChange& change)
+QString changeProject(PresetKind kind, ZobHandle project, const PresetChange& change)
 {
     ZobTransaction transaction(project);
     if (!transaction.status().isOk())
         return transaction.status().reason;
-    PresetReading reading = readProject(project);
+    PresetReading reading = readProject(kind, project);
     if (!reading.fault.isEmpty())
         return reading.fault;
     change(reading.presets);
     VKD_H_ProjectDialogPage entries(project, PresetsDialogPage);
-    entries.setEntry(EntryKey, QString::fromUtf8(presetsJson(reading.presets)));
+    entries.setEntry(EntryKey, QString::fromUtf8(presetsJson(kind, reading.presets)));
     const VkdStatus saved = entries.save();
     return saved.isOk() ? transaction.commit().reason : saved.reason;
 }
@@ -79,47 +80,49 @@ QString inFile(const QString& path, const QString& reason)
 }
 } // namespace
 
-QString userPresetsPath()
+QString userPresetsPath(PresetKind kind)
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QStringLiteral("/plib/workbench/presets.json");
+           QLatin1String(kind == PresetKind::Plots ? "/plib/workbench/plotPresets.json"
+                                                   : "/plib/workbench/presets.json");
 }
 
-PresetReading presetsOf(PresetPlace place, ZobHandle project)
+PresetReading presetsOf(PresetKind kind, PresetPlace place, ZobHandle project)
 {
     switch (place) {
     case PresetPlace::Supplied: return readSupplied();
     case PresetPlace::User:
-        return QFileInfo::exists(userPresetsPath()) ? importPresets(userPresetsPath())
-                                                    : PresetReading();
+        return QFileInfo::exists(userPresetsPath(kind)) ? importPresets(kind, userPresetsPath(kind))
+                                                        : PresetReading();
     case PresetPlace::Project: break;
     }
-    return project.isNull() ? PresetReading() : readProject(project);
+    return project.isNull() ? PresetReading() : readProject(kind, project);
 }
 
-QString changePresets(PresetPlace place, ZobHandle project, const PresetChange& change)
+QString changePresets(PresetKind kind, PresetPlace place, ZobHandle project,
+                      const PresetChange& change)
 {
     if (place == PresetPlace::Supplied)
         return PlaceText::tr("Supplied presets cannot be changed.");
     if (place == PresetPlace::Project)
-        return changeProject(project, change);
-    PresetReading reading = presetsOf(place, project);
+        return changeProject(kind, project, change);
+    PresetReading reading = presetsOf(kind, place, project);
     if (!reading.fault.isEmpty())
         return reading.fault;
     change(reading.presets);
-    return exportPresets(userPresetsPath(), reading.presets);
+    return exportPresets(kind, userPresetsPath(kind), reading.presets);
 }
 
-PresetReading importPresets(const QString& path)
+PresetReading importPresets(PresetKind kind, const QString& path)
 {
-    PresetReading reading = readFile(path);
+    PresetReading reading = readFile(kind, path);
     reading.fault = inFile(path, reading.fault);
     return reading;
 }
 
-QString exportPresets(const QString& path, const PresetList& presets)
+QString exportPresets(PresetKind kind, const QString& path, const PresetList& presets)
 {
-    return inFile(path, writeFile(path, presets));
+    return inFile(path, writeFile(kind, path, presets));
 }
 
 } // namespace workbench

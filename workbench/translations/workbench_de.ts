@@ -741,6 +741,18 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <source>"%1" has no parameters.</source>
         <translation>„%1“ enthält keine Parameter.</translation>
     </message>
+    <message>
+        <source>It does not contain presets of plots.</source>
+        <translation>Sie enthält keine Vorlagen für Grafiken.</translation>
+    </message>
+    <message>
+        <source>"%1" has no plots.</source>
+        <translation>„%1“ enthält keine Grafiken.</translation>
+    </message>
+    <message>
+        <source>"%1": the captions of "%2" are not a list of texts.</source>
+        <translation>„%1“: Die Titel von „%2“ sind keine Liste von Texten.</translation>
+    </message>
 </context>
 <context>
     <name>presetPlaces</name>
@@ -762,15 +774,61 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
 </context>
 <context>
-    <name>workbench::PresetForm</name>
+    <name>workbench::DesignPresetsDialog</name>
+    <message>
+        <source>&amp;From Row...</source>
+        <translation>Aus &amp;Zeile ...</translation>
+    </message>
+    <message>
+        <source>Parts to apply</source>
+        <translation>Anzuwendende Teile</translation>
+    </message>
+    <message>
+        <source>Sets the checked parts in the selected row.</source>
+        <translation>Setzt die angekreuzten Teile in der ausgewählten Zeile.</translation>
+    </message>
+    <message>
+        <source>Sets the checked parts in %1 selected rows.</source>
+        <translation>Setzt die angekreuzten Teile in %1 ausgewählten Zeilen.</translation>
+    </message>
     <message>
         <source>Preset from Row</source>
         <translation>Vorlage aus Zeile</translation>
     </message>
+</context>
+<context>
+    <name>workbench::PlotPresetsDialog</name>
     <message>
-        <source>Rename Preset</source>
-        <translation>Vorlage umbenennen</translation>
+        <source>&amp;Keep the plots that are already chosen</source>
+        <translation>Bereits gewählte Grafiken &amp;behalten</translation>
     </message>
+    <message>
+        <source>&amp;From Choice...</source>
+        <translation>Aus Aus&amp;wahl ...</translation>
+    </message>
+    <message>
+        <source>Plots: %1</source>
+        <translation>Grafiken: %1</translation>
+    </message>
+    <message>
+        <source>Plots that are not offered here: %1</source>
+        <translation>Hier nicht angebotene Grafiken: %1</translation>
+    </message>
+    <message>
+        <source>Saves the chosen plots without their load cases.</source>
+        <translation>Speichert die gewählten Grafiken ohne ihre Lastfälle.</translation>
+    </message>
+    <message>
+        <source>Preset from Choice</source>
+        <translation>Vorlage aus Auswahl</translation>
+    </message>
+    <message>
+        <source>This preset adds %1 pictures to the script. Is it intended?</source>
+        <translation>Diese Vorlage fügt dem Skript %1 Bilder hinzu. Ist das gewollt?</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PresetForm</name>
     <message>
         <source>&amp;Name:</source>
         <translation>Na&amp;me:</translation>
@@ -778,14 +836,6 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     <message>
         <source>&amp;Description:</source>
         <translation>&amp;Beschreibung:</translation>
-    </message>
-    <message>
-        <source>My presets</source>
-        <translation>Meine Vorlagen</translation>
-    </message>
-    <message>
-        <source>Presets of this project</source>
-        <translation>Vorlagen dieses Projekts</translation>
     </message>
     <message>
         <source>&amp;Store in:</source>
@@ -842,16 +892,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Beschreibung</translation>
     </message>
     <message>
-        <source>Parts to apply</source>
-        <translation>Anzuwendende Teile</translation>
-    </message>
-    <message>
         <source>&amp;Apply</source>
         <translation>&amp;Anwenden</translation>
-    </message>
-    <message>
-        <source>&amp;From Row...</source>
-        <translation>Aus &amp;Zeile ...</translation>
     </message>
     <message>
         <source>Re&amp;name...</source>
@@ -890,14 +932,6 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Vorlagen dieses Projekts</translation>
     </message>
     <message>
-        <source>Sets the checked parts in the selected row.</source>
-        <translation>Setzt die angekreuzten Teile in der ausgewählten Zeile.</translation>
-    </message>
-    <message>
-        <source>Sets the checked parts in %1 selected rows.</source>
-        <translation>Setzt die angekreuzten Teile in %1 ausgewählten Zeilen.</translation>
-    </message>
-    <message>
         <source>The presets cannot be stored.</source>
         <translation>Die Vorlagen können nicht gespeichert werden.</translation>
     </message>
@@ -908,6 +942,10 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     <message>
         <source>The preset was not applied.</source>
         <translation>Die Vorlage wurde nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Vorlage umbenennen</translation>
     </message>
     <message>
         <source>Delete the preset "%1"?</source>

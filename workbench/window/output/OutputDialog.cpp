@@ -149,10 +149,10 @@ void OutputDialog::addTabs()
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addWidget(m_page);
     addTab(plots, tr("Plots"));
-    m_offers->addTabs(this);
     for (const char* name :
          {"undo", "redo", "findPlots", "findNextPlot", "findPreviousPlot", "uncheckPlots"})
         addAction(m_page->findChild<QAction*>(QLatin1String(name)));
+    m_offers->addTo(this, m_document->path());
     const auto find = m_page->findChild<QAction*>(QStringLiteral("findPlots"));
     connect(find, &QAction::triggered, this, [this, find] { // shows the tab with the plots
         if (tabWidget()->currentIndex() == 0)

@@ -3,6 +3,7 @@
 #include "project/numberTexts.h"
 #include "window/choice/ChoiceBar.h"
 #include "window/output/LoadCaseTable.h"
+#include "window/presets/presetsAction.h"
 #include "window/support/HelpKey.h"
 
 #include <VKD_H_TabDialog.h>
@@ -12,6 +13,9 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace workbench {
@@ -52,11 +56,26 @@ OutputOffers::OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page,
 {
 }
 
-void OutputOffers::addTabs(VKD_H_TabDialog* dialog)
+void OutputOffers::addTo(VKD_H_TabDialog* dialog, const QString& projectPath)
 {
     dialog->addTab(newLoadCaseTab(dialog), tr("Load cases"));
     dialog->addTab(newContentTab(dialog), tr("Contents"));
+    addPresets(dialog, projectPath);
     connectTabs();
+}
+
+/// The button is in the row of the tabs, where it does not need additional space.
+void OutputOffers::addPresets(VKD_H_TabDialog* dialog, const QString& projectPath)
+{
+    const auto apply = [this](const QVariantMap& preset, PlotsOfPreset mode, const QString& name) {
+        applyPreset(preset, mode, name);
+    };
+    auto button = new QToolButton(dialog);
+    button->setObjectName(QStringLiteral("PresetsButton"));
+    button->setDefaultAction(
+        addPlotPresetsAction(dialog, m_page->findChild<QTreeWidget*>(), apply, projectPath));
+    button->setAutoRaise(true);
+    dialog->tabWidget()->setCornerWidget(button);
 }
 
 QWidget* OutputOffers::newLoadCaseTab(QWidget* parent)
@@ -165,6 +184,17 @@ QString OutputOffers::stateText() const
 {
     return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers) +
            OffersEnd + m_choice.stateText();
+}
+
+/// Applies the contents of a preset of plots as an undo step with this name.
+void OutputOffers::applyPreset(const QVariantMap& preset, PlotsOfPreset mode,
+                               const QString& stepName)
+{
+    QMetaObject::invokeMethod(m_steps, "begin");
+    m_choice.apply(preset, mode);
+    QMetaObject::invokeMethod(m_steps, "end", Q_ARG(QString, stepName),
+                              Q_ARG(QString, stateText()));
+    Q_EMIT changed();
 }
 
 /// Called by undo and redo. The page itself restores the plots afterwards. The tree is rebuilt only

@@ -25,7 +25,9 @@ public:
     /// The page owns the object. `view` is the view of the page.
     OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view);
 
-    void addTabs(VKD_H_TabDialog* dialog);
+    /// Adds the tabs and the action for presets to the dialog. `projectPath` is a proposal for file
+    /// dialogs.
+    void addTo(VKD_H_TabDialog* dialog, const QString& projectPath);
 
     /// Shows the saved state without emitting a signal, and clears the undo steps of the page.
     void restore(const OutputState& saved);
@@ -42,6 +44,8 @@ Q_SIGNALS:
 private:
     QWidget* newLoadCaseTab(QWidget* parent);
     QWidget* newContentTab(QWidget* parent);
+    void applyPreset(const QVariantMap& preset, PlotsOfPreset mode, const QString& stepName);
+    void addPresets(VKD_H_TabDialog* dialog, const QString& projectPath);
     void connectTabs();
     void begin();
     void finish();

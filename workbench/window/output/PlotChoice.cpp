@@ -67,6 +67,14 @@ QString PlotChoice::page() const
     return page;
 }
 
+void PlotChoice::apply(const QVariantMap& preset, PlotsOfPreset mode)
+{
+    const QString present = shownPlots();
+    m_chosen = selectionWithPreset(preset, mode, present, withKept(present));
+    showChosen();
+    m_shown = digest(shownPlots());
+}
+
 int PlotChoice::absentPlots() const
 {
     return m_kept.isEmpty() ? 0 : m_kept.absentPlots(OfferedPlots(*m_tree));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/KeptPlots.h"
+#include "project/plotPresets.h"
 #include "window/output/TreeViewState.h"
 
 class AnimatorView;
@@ -29,6 +30,9 @@ public:
     void setSaved(const QString& page);
     /// Returns the string of the page, including the plots that the page does not offer.
     QString page() const;
+    /// Applies the contents of a preset. Plots and load cases that the page does not offer are
+    /// kept.
+    void apply(const QVariantMap& preset, PlotsOfPreset mode);
     /// Returns the number of chosen plots that the page does not offer.
     int absentPlots() const;
     /// Must be called before each change to the offered load cases or content; giveBack() must be

@@ -1,7 +1,7 @@
 #include "window/presets/PresetForm.h"
 
-#include "project/presetPlaces.h"
 #include "window/presets/PresetPartBoxes.h"
+#include "window/presets/PresetsDialog.h"
 #include "window/support/HelpKey.h"
 
 #include <VKD_QT4_ComboBox.h>
@@ -20,58 +20,54 @@ constexpr int OkAndCancel = 3;
 constexpr int DescriptionLines = 4;
 } // namespace
 
-PresetForm::PresetForm(const QVariantMap& parameters, bool hasProject, QWidget* parent)
-    : PresetForm(tr("Preset from Row"), {QString(), QString(), parameters}, true, hasProject,
-                 parent)
-{
-}
-
-PresetForm::PresetForm(const Preset& preset, QWidget* parent)
-    : PresetForm(tr("Rename Preset"), preset, false, false, parent)
-{
-}
-
-PresetForm::PresetForm(const QString& title, const Preset& preset, bool isNew, bool hasProject,
-                       QWidget* parent)
+PresetForm::PresetForm(const Questions& questions, const Preset& preset, QWidget* parent)
     : VKD_H_Dialog(parent, "PresetForm")
     , m_preset(preset)
     , m_name(new QLineEdit(preset.name, this))
     , m_description(new QPlainTextEdit(preset.description, this))
     , m_note(new QLabel(this))
+    , m_layout(new QFormLayout(this))
 {
-    setWindowTitle(title);
-    setHelpTopic(this, "MERDAN/PRESETS");
+    setWindowTitle(questions.title);
+    setHelpTopic(this, questions.helpTopic);
     m_name->setObjectName(QStringLiteral("presetName"));
     m_name->setMaxLength(LongestPresetName);
     m_name->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     m_description->setObjectName(QStringLiteral("presetDescription"));
     m_description->setTabChangesFocus(true);
     m_description->setFixedHeight((DescriptionLines + 1) * fontMetrics().lineSpacing());
-    auto layout = new QFormLayout(this);
-    layout->addRow(tr("&Name:"), m_name);
-    layout->addRow(tr("&Description:"), m_description);
-    if (isNew) {
-        m_place = new VKD_QT4_ComboBox(this, "presetPlace");
-        m_place->addItem(tr("My presets"), int(PresetPlace::User));
-        if (hasProject)
-            m_place->addItem(tr("Presets of this project"), int(PresetPlace::Project));
-        layout->addRow(tr("&Store in:"), m_place);
-        m_parts = new PresetPartBoxes(tr("Contents"), this);
-        m_parts->setParameters(preset.parameters);
-        layout->addRow(m_parts);
-        connect(m_place, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-                &PresetForm::check);
-        connect(m_parts, &PresetPartBoxes::changed, this, &PresetForm::check);
-    }
+    m_layout->addRow(tr("&Name:"), m_name);
+    m_layout->addRow(tr("&Description:"), m_description);
+    if (!questions.places.isEmpty())
+        addPlaces(questions.places);
+    if (questions.parts)
+        addParts();
     m_note->setObjectName(QStringLiteral("presetNote"));
-    layout->addRow(m_note);
+    m_layout->addRow(m_note);
     m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
-    layout->addRow(m_buttons);
+    m_layout->addRow(m_buttons);
     connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &PresetForm::accept);
     connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &PresetForm::reject);
     connect(m_name, &QLineEdit::textChanged, this, &PresetForm::check);
     m_name->selectAll();
     check();
+}
+
+void PresetForm::addPlaces(const QVector<PresetPlace>& places)
+{
+    m_place = new VKD_QT4_ComboBox(this, "presetPlace");
+    for (PresetPlace place : places)
+        m_place->addItem(PresetsDialog::titleOf(place), int(place));
+    connect(m_place, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &PresetForm::check);
+    m_layout->addRow(tr("&Store in:"), m_place);
+}
+
+void PresetForm::addParts()
+{
+    m_parts = new PresetPartBoxes(tr("Contents"), this);
+    m_parts->setParameters(m_preset.contents);
+    connect(m_parts, &PresetPartBoxes::changed, this, &PresetForm::check);
+    m_layout->addRow(m_parts);
 }
 
 void PresetForm::setUsedNames(const NamesOfPlace& names)
@@ -88,7 +84,7 @@ PresetPlace PresetForm::place() const
 Preset PresetForm::preset() const
 {
     return {m_name->text().simplified(), m_description->toPlainText().trimmed(),
-            m_parts ? ofParts(m_preset.parameters, m_parts->checkedParts()) : m_preset.parameters};
+            m_parts ? ofParts(m_preset.contents, m_parts->checkedParts()) : m_preset.contents};
 }
 
 void PresetForm::check()
@@ -98,7 +94,7 @@ void PresetForm::check()
         m_usedNames && entered.name != m_preset.name && m_usedNames(place()).contains(entered.name);
     m_note->setText(isUsed ? tr("Another preset has this name.") : QString());
     m_buttons->cmdOk()->setEnabled(!isUsed && !entered.name.isEmpty() &&
-                                   !entered.parameters.isEmpty());
+                                   !entered.contents.isEmpty());
 }
 
 } // namespace workbench

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "project/Preset.h"
+#include "project/presetPlaces.h"
 
 #include <VKD_H_Dialog.h>
 
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -13,19 +14,23 @@ class VKD_QT_Ok;
 namespace workbench {
 
 class PresetPartBoxes;
-enum class PresetPlace;
 
-/// Asks for the name and the description of a preset. For a new preset, it also asks for the place
-/// and for the parts that the preset contains.
+/// Asks for the name and the description of a preset. For a new preset, it can also ask for the
+/// place and for the parts that the preset contains.
 class PresetForm : public VKD_H_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Asks about a new preset with these parameters, for the user or for the project.
-    PresetForm(const QVariantMap& parameters, bool hasProject, QWidget* parent);
-    /// Asks about an existing preset.
-    PresetForm(const Preset& preset, QWidget* parent);
+    struct Questions
+    {
+        QString title;
+        const char* helpTopic;
+        QVector<PresetPlace> places; ///< to choose from; may be empty
+        bool parts = false;          ///< whether the user chooses the parts
+    };
+
+    PresetForm(const Questions& questions, const Preset& preset, QWidget* parent);
 
     /// Returns the preset as entered.
     Preset preset() const;
@@ -36,17 +41,18 @@ public:
     void setUsedNames(const NamesOfPlace& names);
 
 private:
-    PresetForm(const QString& title, const Preset& preset, bool isNew, bool hasProject,
-               QWidget* parent);
+    void addPlaces(const QVector<PresetPlace>& places);
+    void addParts();
     void check();
 
     Preset m_preset;
     NamesOfPlace m_usedNames;
     QLineEdit* m_name;
     QPlainTextEdit* m_description;
-    QComboBox* m_place = nullptr;       // null for an existing preset
-    PresetPartBoxes* m_parts = nullptr; // null for an existing preset
+    QComboBox* m_place = nullptr;       // null if the user does not choose the place
+    PresetPartBoxes* m_parts = nullptr; // null if the user does not choose the parts
     QLabel* m_note;
+    QFormLayout* m_layout;
     VKD_QT_Ok* m_buttons;
 };
 

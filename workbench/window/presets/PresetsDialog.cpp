@@ -1,14 +1,11 @@
 #include "window/presets/PresetsDialog.h"
 
-#include "project/OpenProject.h"
-#include "window/presets/PresetPartBoxes.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
 
 #include <QGridLayout>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QTextBrowser>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -19,23 +16,31 @@ namespace {
 constexpr int PlaceRole = Qt::UserRole;
 } // namespace
 
-PresetsDialog::PresetsDialog(const VKD_P_DesignParameter* page, const OpenProject* project,
+PresetsDialog::PresetsDialog(const Source& source, const QString& newText, QWidget* options,
                              QWidget* parent)
     : VKD_H_Dialog(parent, "PresetsDialog")
-    , m_project(project)
-    , m_parameters(page)
+    , m_source(source)
 {
     setWindowTitle(tr("Presets"));
-    setHelpTopic(this, "MERDAN/PRESETS");
+    setHelpTopic(this, source.helpTopic);
     auto layout = new QGridLayout(this);
     layout->addWidget(newList(), 0, 0);
-    layout->addWidget(newDetails(), 0, 1);
-    layout->addWidget(newButtons(), 0, 2);
+    layout->addWidget(newDetails(options), 0, 1);
+    layout->addWidget(newButtons(newText), 0, 2);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
-    fill();
     resizeWithinScreen(this, {fontMetrics().averageCharWidth() * 140, fontMetrics().height() * 28});
     new WindowGeometry(this);
+}
+
+QString PresetsDialog::titleOf(PresetPlace place)
+{
+    switch (place) {
+    case PresetPlace::Supplied: return tr("Supplied");
+    case PresetPlace::User: return tr("My presets");
+    case PresetPlace::Project: break;
+    }
+    return tr("Presets of this project");
 }
 
 QWidget* PresetsDialog::newList()
@@ -51,36 +56,34 @@ QWidget* PresetsDialog::newList()
     return m_list;
 }
 
-QWidget* PresetsDialog::newDetails()
+QWidget* PresetsDialog::newDetails(QWidget* options)
 {
     auto side = new QWidget(this);
     m_details = new QTextBrowser(side);
     m_details->setObjectName(QStringLiteral("presetDetails"));
     m_details->setAccessibleName(tr("Description"));
-    m_parts = new PresetPartBoxes(tr("Parts to apply"), side);
-    connect(m_parts, &PresetPartBoxes::changed, this, &PresetsDialog::enableButtons);
     auto layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_details, 1);
-    layout->addWidget(m_parts);
+    layout->addWidget(options);
     return side;
 }
 
-QWidget* PresetsDialog::newButtons()
+QWidget* PresetsDialog::newButtons(const QString& newText)
 {
     auto side = new QWidget(this);
     auto layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     m_apply = newButton("presetApply", tr("&Apply"), &PresetsDialog::apply);
     m_apply->setDefault(true);
-    m_fromRow = newButton("presetFromRow", tr("&From Row..."), &PresetsDialog::addFromRow);
+    m_create = newButton("presetNew", newText, &PresetsDialog::create);
     m_rename = newButton("presetRename", tr("Re&name..."), &PresetsDialog::rename);
     m_remove = newButton("presetDelete", tr("&Delete"), &PresetsDialog::remove);
     QPushButton* import = newButton("presetImport", tr("&Import..."), &PresetsDialog::importFile);
     m_export = newButton("presetExport", tr("&Export..."), &PresetsDialog::exportFile);
     auto close = new QPushButton(tr("Close"), this);
     connect(close, &QPushButton::clicked, this, &PresetsDialog::reject);
-    for (QPushButton* button : {m_apply, m_fromRow, m_rename, m_remove, import, m_export})
+    for (QPushButton* button : {m_apply, m_create, m_rename, m_remove, import, m_export})
         layout->addWidget(button);
     layout->addStretch(1);
     layout->addWidget(close);
@@ -100,20 +103,18 @@ QPushButton* PresetsDialog::newButton(const char* name, const QString& text,
 void PresetsDialog::fill()
 {
     m_list->clear();
-    addPlace(PresetPlace::Supplied, tr("Supplied"));
-    addPlace(PresetPlace::User, tr("My presets"));
-    if (m_project->isOpen())
-        addPlace(PresetPlace::Project, tr("Presets of this project"));
+    for (PresetPlace place : m_source.places)
+        addPlace(place);
     m_list->setCurrentItem(m_list->topLevelItem(0)->child(0));
     currentChanged();
 }
 
 /// If the presets cannot be read, the list shows the reason.
-void PresetsDialog::addPlace(PresetPlace place, const QString& title)
+void PresetsDialog::addPlace(PresetPlace place)
 {
     PresetReading& reading = m_places[int(place)];
-    reading = presetsOf(place, m_project->handle());
-    auto head = new QTreeWidgetItem(m_list, {title});
+    reading = presetsOf(m_source.kind, place, m_source.project);
+    auto head = new QTreeWidgetItem(m_list, {titleOf(place)});
     head->setFlags(Qt::ItemIsEnabled);
     QFont bold = font();
     bold.setBold(true);
@@ -162,13 +163,13 @@ PresetPlace PresetsDialog::writablePlace() const
 void PresetsDialog::currentChanged()
 {
     const Preset* preset = current();
-    m_parts->setParameters(preset ? preset->parameters : QVariantMap());
+    showOptions(preset);
     QString text;
     if (preset)
         text =
             QLatin1String("<h3>") + preset->name.toHtmlEscaped() + QLatin1String("</h3><p>") +
             preset->description.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")) +
-            QLatin1String("</p>") + m_parameters.description(preset->parameters);
+            QLatin1String("</p>") + contentsText(preset->contents);
     m_details->setHtml(text);
     enableButtons();
 }
@@ -177,11 +178,7 @@ void PresetsDialog::enableButtons()
 {
     const bool isPreset = current();
     const bool isOwn = isPreset && currentPlace() != PresetPlace::Supplied;
-    const int rows = m_parameters.selectedRowCount();
-    m_apply->setEnabled(isPreset && rows > 0 && !m_parts->checkedParts().isEmpty());
-    m_apply->setToolTip(rows == 1 ? tr("Sets the checked parts in the selected row.")
-                                  : tr("Sets the checked parts in %1 selected rows.").arg(rows));
-    m_fromRow->setEnabled(m_parameters.table()->currentRow() >= 0);
+    enable(m_apply, m_create, isPreset);
     m_rename->setEnabled(isOwn);
     m_remove->setEnabled(isOwn);
     m_export->setEnabled(isPreset);

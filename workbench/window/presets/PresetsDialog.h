@@ -1,7 +1,6 @@
 #pragma once
 
 #include "project/presetPlaces.h"
-#include "window/presets/PageParameters.h"
 
 #include <VKD_H_Dialog.h>
 
@@ -12,32 +11,61 @@ class QTreeWidgetItem;
 
 namespace workbench {
 
-class OpenProject;
-class PresetPartBoxes;
+class PresetForm;
 
-/// Lists the supplied presets, those of the user and those of the project, applies them to the
-/// selected rows of a design page, and manages them. Each change is stored at once.
+/// Lists presets of one kind by their places, and manages them. Each change is stored at once.
+/// Derived classes show the contents of a preset and apply it to a page.
 class PresetsDialog : public VKD_H_Dialog
 {
     Q_OBJECT
 
 public:
-    /// The arguments are not owned and must outlive the dialog.
-    PresetsDialog(const VKD_P_DesignParameter* page, const OpenProject* project, QWidget* parent);
+    /// Returns the title of a place in the current language.
+    static QString titleOf(PresetPlace place);
+
+protected:
+    struct Source
+    {
+        PresetKind kind;
+        QVector<PresetPlace> places;
+        ZobHandle project; ///< null if no project is open
+        QString path;      ///< path of the project, for file dialogs
+        const char* helpTopic;
+    };
+
+    /// `newText` is the text of the button that creates a preset, and `options` is a widget below
+    /// the description. The constructor of a derived class must call fill().
+    PresetsDialog(const Source& source, const QString& newText, QWidget* options, QWidget* parent);
+    void fill();
+    void enableButtons();
+
+    /// Returns the contents of a preset as HTML.
+    virtual QString contentsText(const QVariantMap& contents) const = 0;
+    /// Called when another preset becomes the current preset. `preset` is null if there is none.
+    virtual void showOptions(const Preset* preset) = 0;
+    /// Enables the button Apply and the button that creates a preset.
+    virtual void enable(QPushButton* apply, QPushButton* creation, bool isPreset) = 0;
+    /// Returns the reasons why a preset cannot have these contents.
+    virtual QStringList faultsIn(const QVariantMap& contents) const = 0;
+    /// Creates a form for a new preset.
+    virtual std::unique_ptr<PresetForm> newForm() = 0;
+    /// Asks the user, if necessary, whether to apply a preset.
+    virtual bool confirms(const Preset& preset) = 0;
+    /// Applies a preset as an undo step with this name. Returns the reasons if that is not
+    /// possible.
+    virtual QStringList applyToPage(const Preset& preset, const QString& stepName) = 0;
 
 private:
     QWidget* newList();
-    QWidget* newDetails();
-    QWidget* newButtons();
+    QWidget* newDetails(QWidget* options);
+    QWidget* newButtons(const QString& newText);
     QPushButton* newButton(const char* name, const QString& text, void (PresetsDialog::*run)());
-    void fill();
-    void addPlace(PresetPlace place, const QString& title);
+    void addPlace(PresetPlace place);
     void select(PresetPlace place, const QString& name);
     void currentChanged();
-    void enableButtons();
 
     void apply();
-    void addFromRow();
+    void create();
     void rename();
     void remove();
     void importFile();
@@ -51,14 +79,12 @@ private:
     QStringList faultsOf(const PresetList& presets) const;
     void warn(const QString& sentence, const QStringList& reasons);
 
-    const OpenProject* m_project;
-    PageParameters m_parameters;
+    const Source m_source;
     PresetReading m_places[3]; ///< indexed by PresetPlace
     QTreeWidget* m_list;
     QTextBrowser* m_details;
-    PresetPartBoxes* m_parts;
     QPushButton* m_apply;
-    QPushButton* m_fromRow;
+    QPushButton* m_create;
     QPushButton* m_rename;
     QPushButton* m_remove;
     QPushButton* m_export;

@@ -1,8 +1,6 @@
 // The part of PresetsDialog that handles its buttons.
 
-#include "project/OpenProject.h"
 #include "window/presets/PresetForm.h"
-#include "window/presets/PresetPartBoxes.h"
 #include "window/presets/PresetsDialog.h"
 #include "window/support/chooseFileToSave.h"
 
@@ -29,7 +27,7 @@ void PresetsDialog::warn(const QString& sentence, const QStringList& reasons)
 /// Returns whether the change was stored. Shows the changed list.
 bool PresetsDialog::change(PresetPlace place, const PresetChange& change)
 {
-    const QString fault = changePresets(place, m_project->handle(), change);
+    const QString fault = changePresets(m_source.kind, place, m_source.project, change);
     if (!fault.isEmpty())
         warn(tr("The presets cannot be stored."), {fault});
     fill();
@@ -39,28 +37,26 @@ bool PresetsDialog::change(PresetPlace place, const PresetChange& change)
 void PresetsDialog::apply()
 {
     const Preset* preset = current();
-    if (!preset || !m_apply->isEnabled())
+    if (!preset || !m_apply->isEnabled() || !confirms(*preset))
         return;
-    const QStringList faults =
-        m_parameters.setInSelectedRows(ofParts(preset->parameters, m_parts->checkedParts()),
-                                       tr("Preset \"%1\"").arg(preset->name));
+    const QStringList faults = applyToPage(*preset, tr("Preset \"%1\"").arg(preset->name));
     if (faults.isEmpty())
         accept();
     else
         warn(tr("The preset was not applied."), faults);
 }
 
-void PresetsDialog::addFromRow()
+void PresetsDialog::create()
 {
-    PresetForm form(m_parameters.current(), m_project->isOpen(), this);
-    form.setUsedNames([this](PresetPlace place) { return namesIn(place); });
-    if (form.exec() != QDialog::Accepted)
+    const std::unique_ptr<PresetForm> form = newForm();
+    form->setUsedNames([this](PresetPlace place) { return namesIn(place); });
+    if (form->exec() != QDialog::Accepted)
         return;
-    const Preset added = form.preset();
-    if (change(form.place(), [&added](PresetList& presets) {
-            presets << Preset{unusedName(presets, added.name), added.description, added.parameters};
+    const Preset added = form->preset();
+    if (change(form->place(), [&added](PresetList& presets) {
+            presets << Preset{unusedName(presets, added.name), added.description, added.contents};
         }))
-        select(form.place(), added.name);
+        select(form->place(), added.name);
 }
 
 void PresetsDialog::rename()
@@ -69,7 +65,7 @@ void PresetsDialog::rename()
         return;
     const Preset before = *current();
     const PresetPlace place = currentPlace();
-    PresetForm form(before, this);
+    PresetForm form({tr("Rename Preset"), m_source.helpTopic, {}}, before, this);
     form.setUsedNames([this, place](PresetPlace) { return namesIn(place); });
     if (form.exec() != QDialog::Accepted)
         return;
@@ -97,12 +93,12 @@ void PresetsDialog::remove()
         });
 }
 
-/// Returns the faults of all presets, which the page finds in their parameters.
+/// Returns the faults of all presets.
 QStringList PresetsDialog::faultsOf(const PresetList& presets) const
 {
     QStringList faults;
     for (const Preset& preset : presets) {
-        const QStringList found = m_parameters.faults(preset.parameters);
+        const QStringList found = faultsIn(preset.contents);
         for (const QString& fault : found)
             faults << tr("\"%1\": %2").arg(preset.name, fault);
     }
@@ -117,7 +113,7 @@ void PresetsDialog::importFile()
         QFileDialog::getOpenFileName(this, tr("Import Presets"), QString(), tr("Presets (*.json)"));
     if (path.isEmpty())
         return;
-    const PresetReading reading = importPresets(path);
+    const PresetReading reading = importPresets(m_source.kind, path);
     const QStringList faults =
         reading.fault.isEmpty() ? faultsOf(reading.presets) : QStringList(reading.fault);
     if (!faults.isEmpty())
@@ -127,7 +123,7 @@ void PresetsDialog::importFile()
     if (change(place, [&](PresetList& presets) {
             for (const Preset& preset : reading.presets) {
                 last = unusedName(presets, preset.name);
-                presets << Preset{last, preset.description, preset.parameters};
+                presets << Preset{last, preset.description, preset.contents};
             }
         }))
         select(place, last);
@@ -138,10 +134,10 @@ void PresetsDialog::exportFile()
 {
     const QString path =
         chooseFileToSave(this, tr("Export Presets"), QStringLiteral("presets.json"),
-                         tr("Presets (*.json)"), QStringLiteral("json"), m_project->path());
+                         tr("Presets (*.json)"), QStringLiteral("json"), m_source.path);
     if (path.isEmpty())
         return;
-    const QString fault = exportPresets(path, m_places[int(currentPlace())].presets);
+    const QString fault = exportPresets(m_source.kind, path, m_places[int(currentPlace())].presets);
     if (!fault.isEmpty())
         warn(tr("The presets cannot be stored."), {fault});
 }
