@@ -279,8 +279,8 @@ private Q_SLOTS:
         QCOMPARE(lettersOf(rows), before);
     }
 
-    /// Rows share the fields that all their types have. Rounding errors are no difference. Only
-    /// pairs of limits that a change touches are checked.
+    /// Rows share the fields that all their types have. Rounding errors do not count as
+    /// differences. Only pairs of limits that a change touches are checked.
     void commonValues()
     {
         DesignRowList rows(3, oddRow());

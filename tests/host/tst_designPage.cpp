@@ -205,7 +205,7 @@ private Q_SLOTS:
         const Columns<QString, QString, QString> row("typed", "groups", "notice");
         row("range", "2-1, 3", "1;2;3", "Groups also in row 3: 2.");
         row("name", "open 3", "3;OPEN", "");
-        row("no groups", "none", "None", "Row 2 has lost 1 (see Undo).");
+        row("no groups", "none", "None", "Removed from row 2: 1 (see Undo).");
         row("unknown groups", "3 x 99", "1", "Unknown groups: x, 99. Row 2 keeps its groups.");
         row("second row for the rest", "Remaining Groups", "1",
             "Another row is for the remaining groups. Row 2 keeps its groups.");

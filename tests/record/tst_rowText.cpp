@@ -83,8 +83,9 @@ private Q_SLOTS:
         rows[0].groups = {1, 2, 3, 4};
         rows[1].groups = {3, Open};
         rows[2].groups = {4};
-        QCOMPARE(plib::groupsNotice(rows, 0, {Open}),
-                 QStringLiteral("Row 1 has lost OPN (see Undo). Groups also in row 2, 3: 3, 4."));
+        QCOMPARE(
+            plib::groupsNotice(rows, 0, {Open}),
+            QStringLiteral("Removed from row 1: OPN (see Undo). Groups also in row 2, 3: 3, 4."));
         QCOMPARE(plib::groupsNotice(rows, 1, {1, 2, Open}),
                  QStringLiteral("Groups also in row 1: 3."));
         rows[0].groups = {-1};

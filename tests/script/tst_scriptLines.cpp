@@ -159,7 +159,7 @@ private Q_SLOTS:
             {"12 + 14 : Wind", 14},
             {"12 : a+14", -1},
             {"1+2", 2},
-            {"12+345", 34}, // without a colon five characters
+            {"12+345", 34}, // without a colon, only five characters count
                             // count
             {"1+2+3:", -1},
             {"1+:", -1},

@@ -265,8 +265,8 @@ private Q_SLOTS:
             const QModelIndex low = driver.cell(QStringLiteral("LOW"), 2);
             QCOMPARE(low.data().toString(), QStringLiteral("1 area, 2 beams"));
             QCOMPARE(driver.labelText("notShown"),
-                     QStringLiteral("1 group of the row is not shown here: 3. OK keeps it while "
-                                    "nothing is changed, and replaces it otherwise."));
+                     QStringLiteral("1 group of the row is not shown here: 3. OK keeps it if "
+                                    "nothing is changed, and otherwise replaces it."));
             driver.type("input", "low;cols");
             driver.enter("input");
             QCOMPARE(driver.labelText("notShown"),

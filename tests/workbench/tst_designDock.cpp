@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(banner->findChildren<QLabel*>().last()->text(),
                  QStringLiteral("Groups: 4, 5, 7. Without area elements: 7"));
         table->setCurrentCell(0, 0);
-        QCOMPARE(pick(6), QStringLiteral("The groups of row 1 are fixed."));
+        QCOMPARE(pick(6), QStringLiteral("The groups of row 1 cannot be changed."));
         whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
         QVERIFY(window->close());
     }
@@ -259,8 +259,8 @@ private Q_SLOTS:
         QCOMPARE(questions, QStringList({shared, shared}));
         QCOMPARE(records->columnCount(), before + 1);
         QCOMPARE(window->statusBar()->currentMessage(),
-                 QStringLiteral("The design parameters are in the project file. "
-                                "1 row without groups is kept with the page."));
+                 QStringLiteral("The design parameters have been stored in the project file. "
+                                "1 row without groups has been saved with the page."));
     }
 
     void groupsInSeveralRows_data()

@@ -235,7 +235,7 @@ private Q_SLOTS:
         const auto note = find<QLabel>(*window, "AbsentPlots");
         const auto isShown = [note] { return !note->isHidden(); };
         QCOMPARE(note->text(),
-                 QStringLiteral("Chosen plots that this model cannot have: 1. They are kept."));
+                 QStringLiteral("Checked plots that this model lacks: 1. They are kept."));
         find<QAbstractButton>(*window, "Button: Default settings")->click();
         QTRY_VERIFY(!isShown());
         const OutputDialog& dialog = *window->findChild<OutputDialog*>();

@@ -187,8 +187,9 @@ private Q_SLOTS:
         }
     }
 
-    /// OK or Apply asks the user. The project contains the user's state only after Overwrite. The
-    /// dialog shows the user's state again after Go Back, and the newer state after Reload.
+    /// OK or Apply asks for confirmation. The project contains the user's state only after
+    /// Overwrite. The dialog shows the user's state again after Go Back, and the newer state after
+    /// Reload.
     void newerDataAreAskedAbout()
     {
         QFETCH(const QByteArray, part);
@@ -227,7 +228,8 @@ private Q_SLOTS:
         QCOMPARE(it.hasMine(path("asked.zob")), answer == QLatin1String("&Overwrite"));
     }
 
-    /// An unsaved choice and unsaved rows survive Reload. OK and Apply ask afterwards.
+    /// An unsaved choice and unsaved rows survive Reload. Afterwards, OK and Apply ask for
+    /// confirmation.
     void reloadKeepsTheChoice()
     {
         const auto window = open("saved.zob");

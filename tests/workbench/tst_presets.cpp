@@ -200,8 +200,8 @@ private Q_SLOTS:
         }
     }
 
-    /// The page accepts each supplied preset and stores the figures in its description. The
-    /// descriptions in both languages contain the same figures.
+    /// The page accepts each supplied preset and stores the figures that its description contains.
+    /// The descriptions in both languages contain the same figures.
     void suppliedPresets_data()
     {
         const Columns<Preset, Preset> row("english", "german");

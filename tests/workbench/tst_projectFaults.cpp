@@ -16,7 +16,7 @@
 
 using namespace windowtest;
 
-/// Gets the paths of an existing project and of a new one, and returns the reason of a failure.
+/// Takes the paths of an existing project and of a new project. Returns the reason for a failure.
 using Run = std::function<QString(const QString& old, const QString& made)>;
 Q_DECLARE_METATYPE(Run)
 

@@ -212,7 +212,8 @@ private Q_SLOTS:
         }
     }
 
-    /// Closing the dock or the window asks; Reload preserves the rows without asking.
+    /// Closing the dock or the window asks for confirmation; Reload preserves the rows without
+    /// asking.
     void leavingDesign()
     {
         QFETCH(const QByteArray, way);

@@ -504,7 +504,7 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Zuerst die Zeile auswählen, deren Gruppen gewählt werden sollen.</translation>
     </message>
     <message>
-        <source>The groups of row 1 are fixed.</source>
+        <source>The groups of row 1 cannot be changed.</source>
         <translation>Die Gruppen der Zeile 1 sind nicht änderbar.</translation>
     </message>
     <message>
@@ -542,8 +542,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Noch nicht im Projekt gespeichert</translation>
     </message>
     <message>
-        <source>Chosen plots that this model cannot have: %1. They are kept.</source>
-        <translation>Gewählte Grafiken, die in diesem Modell nicht möglich sind: %1. Sie bleiben erhalten.</translation>
+        <source>Checked plots that this model lacks: %1. They are kept.</source>
+        <translation>Angekreuzte Grafiken, die es in diesem Modell nicht gibt: %1. Sie bleiben erhalten.</translation>
     </message>
     <message>
         <source>Outputs</source>
@@ -687,8 +687,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Projekte (*.zob)</translation>
     </message>
     <message>
-        <source>This project is open. Duplicate copies one of its outputs.</source>
-        <translation>Dieses Projekt ist geöffnet. „Duplizieren“ kopiert eine seiner Ausgaben.</translation>
+        <source>This project is already open. Use Duplicate to copy one of its outputs.</source>
+        <translation>Dieses Projekt ist bereits geöffnet. „Duplizieren“ kopiert eine seiner Ausgaben.</translation>
     </message>
     <message>
         <source>The project is being opened.</source>
@@ -1045,8 +1045,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Umbruch</translation>
     </message>
     <message>
-        <source>Wraps long lines at the width of the panel</source>
-        <translation>Bricht lange Zeilen an der Breite des Bereichs um</translation>
+        <source>Wraps long lines to the width of the panel</source>
+        <translation>Bricht lange Zeilen auf die Breite des Bereichs um</translation>
     </message>
 </context>
 <context>
@@ -1512,16 +1512,16 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Die Bemessungsparameter können nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
-        <source>The design parameters are in the project file.</source>
-        <translation>Die Bemessungsparameter stehen in der Projektdatei.</translation>
+        <source>The design parameters have been stored in the project file.</source>
+        <translation>Die Bemessungsparameter wurden in der Projektdatei gespeichert.</translation>
     </message>
     <message>
-        <source>1 row without groups is kept with the page.</source>
-        <translation>1 Zeile ohne Gruppen bleibt mit der Seite erhalten.</translation>
+        <source>1 row without groups has been saved with the page.</source>
+        <translation>1 Zeile ohne Gruppen wurde mit der Seite gespeichert.</translation>
     </message>
     <message>
-        <source>%1 rows without groups are kept with the page.</source>
-        <translation>%1 Zeilen ohne Gruppen bleiben mit der Seite erhalten.</translation>
+        <source>%1 rows without groups have been saved with the page.</source>
+        <translation>%1 Zeilen ohne Gruppen wurden mit der Seite gespeichert.</translation>
     </message>
     <message>
         <source>Workbench</source>
@@ -1632,8 +1632,8 @@ In der Anzeige fehlt möglicherweise etwas.</translation>
         <translation>Das Projekt kann nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
-        <source>The project is saved as %1.</source>
-        <translation>Das Projekt ist als %1 gespeichert.</translation>
+        <source>The project has been saved as %1.</source>
+        <translation>Das Projekt wurde als %1 gespeichert.</translation>
     </message>
     <message>
         <source>The project file was deleted or moved.
@@ -1661,8 +1661,8 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
         <translation>Die Auswahl der Grafiken kann nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
-        <source>The choice of plots is in the project file.</source>
-        <translation>Die Auswahl der Grafiken steht in der Projektdatei.</translation>
+        <source>The choice of plots has been stored in the project file.</source>
+        <translation>Die Auswahl der Grafiken wurde in der Projektdatei gespeichert.</translation>
     </message>
     <message>
         <source>The choice of plots has been changed, but not yet stored in the project.
@@ -1674,8 +1674,8 @@ Soll sie gespeichert werden?</translation>
 <context>
     <name>workbench::OutputScript</name>
     <message>
-        <source>The script is on the clipboard.</source>
-        <translation>Das Skript liegt in der Zwischenablage.</translation>
+        <source>The script has been copied to the clipboard.</source>
+        <translation>Das Skript wurde in die Zwischenablage kopiert.</translation>
     </message>
     <message>
         <source>Save Script</source>
@@ -1690,8 +1690,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>The script is saved in %1.</source>
-        <translation>Das Skript ist in %1 gespeichert.</translation>
+        <source>The script has been saved as %1.</source>
+        <translation>Das Skript wurde als %1 gespeichert.</translation>
     </message>
     <message>
         <source>Export Sheets</source>
@@ -1702,8 +1702,8 @@ Soll sie gespeichert werden?</translation>
         <translation>PDF-Dateien (*.pdf)</translation>
     </message>
     <message>
-        <source>The sheets are saved in %1.</source>
-        <translation>Die Blätter sind in %1 gespeichert.</translation>
+        <source>The sheets have been saved as %1.</source>
+        <translation>Die Blätter wurden als %1 gespeichert.</translation>
     </message>
     <message>
         <source>No sheet was saved.</source>
@@ -1732,8 +1732,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>The table of contents is saved in %1.</source>
-        <translation>Das Inhaltsverzeichnis ist in %1 gespeichert.</translation>
+        <source>The table of contents has been saved as %1.</source>
+        <translation>Das Inhaltsverzeichnis wurde als %1 gespeichert.</translation>
     </message>
     <message>
         <source>The text output was not changed.</source>
@@ -1744,8 +1744,8 @@ Soll sie gespeichert werden?</translation>
         <translation>Die Textausgabe kann nicht in der Datei %1 gespeichert werden.</translation>
     </message>
     <message>
-        <source>The text output is in the project file.</source>
-        <translation>Die Textausgabe steht in der Projektdatei.</translation>
+        <source>The text output has been stored in the project file.</source>
+        <translation>Die Textausgabe wurde in der Projektdatei gespeichert.</translation>
     </message>
     <message>
         <source>The text output has been changed, but not yet stored in the project.

@@ -30,7 +30,7 @@ Mausrad: zoomen
 Doppelklick: alles zeigen</translation>
     </message>
     <message>
-        <source>Click: pick a group or drop it</source>
+        <source>Click: pick or unpick a group</source>
         <translation>Klick: Gruppe auswählen oder abwählen</translation>
     </message>
 </context>

@@ -29,8 +29,9 @@ VKD_H_SelGRP_Dialog::VKD_H_SelGRP_Dialog(bool, int, VKD_H_ZOBDoc* doc, std::vect
     setWindowTitle(tr("Group Selection"));
     auto pick = new VKD_QT_PushButton(tr("&Pick in 3D View"), this, "pick");
     pick->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/pick")));
-    pick->setToolTip(tr("Leaves this dialog to pick the groups in the 3D view, beginning with "
-                        "those checked here. They replace all groups of the row."));
+    pick->setToolTip(
+        tr("Closes this dialog so that you can pick groups in the 3D view, starting with those "
+           "that are checked here. The picked groups replace all groups of the row."));
     pick->setEnabled(hasGroups());
     addFootButton(pick);
     connect(pick, &QPushButton::clicked, this, [this, doc] {

@@ -12,8 +12,8 @@
         <translation>In 3D-Ansicht &amp;wählen</translation>
     </message>
     <message>
-        <source>Leaves this dialog to pick the groups in the 3D view, beginning with those checked here. They replace all groups of the row.</source>
-        <translation>Verlässt diesen Dialog, um die Gruppen in der 3D-Ansicht zu wählen, ausgehend von den hier angekreuzten. Sie ersetzen alle Gruppen der Zeile.</translation>
+        <source>Closes this dialog so that you can pick groups in the 3D view, starting with those that are checked here. The picked groups replace all groups of the row.</source>
+        <translation>Schließt diesen Dialog, um Gruppen in der 3D-Ansicht zu wählen, ausgehend von den hier angekreuzten. Die gewählten Gruppen ersetzen alle Gruppen der Zeile.</translation>
     </message>
     <message>
         <source>the picked groups cannot be stored: %1 is not a group</source>

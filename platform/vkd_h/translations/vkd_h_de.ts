@@ -180,11 +180,11 @@
         <translation>OK ersetzt %1 Gruppen der Zeile, die hier nicht gezeigt werden: %2</translation>
     </message>
     <message>
-        <source>1 group of the row is not shown here: %1. OK keeps it while nothing is changed, and replaces it otherwise.</source>
+        <source>1 group of the row is not shown here: %1. OK keeps it if nothing is changed, and otherwise replaces it.</source>
         <translation>1 Gruppe der Zeile wird hier nicht gezeigt: %1. Ohne Änderung behält OK sie bei, sonst ersetzt OK sie.</translation>
     </message>
     <message>
-        <source>%1 groups of the row are not shown here: %2. OK keeps them while nothing is changed, and replaces them otherwise.</source>
+        <source>%1 groups of the row are not shown here: %2. OK keeps them if nothing is changed, and otherwise replaces them.</source>
         <translation>%1 Gruppen der Zeile werden hier nicht gezeigt: %2. Ohne Änderung behält OK sie bei, sonst ersetzt OK sie.</translation>
     </message>
 </context>

@@ -100,15 +100,15 @@ bool DesignEditor::store()
 void DesignEditor::sayStored()
 {
     const int rows = m_dock->page()->rowsWithoutGroups();
-    const QString stored = tr("The design parameters are in the project file.");
+    const QString stored = tr("The design parameters have been stored in the project file.");
     if (rows == 0)
         m_messages->say(stored);
     else if (rows == 1)
         m_messages->say(stored + QLatin1Char(' ') +
-                        tr("1 row without groups is kept with the page."));
+                        tr("1 row without groups has been saved with the page."));
     else
         m_messages->say(stored + QLatin1Char(' ') +
-                        tr("%1 rows without groups are kept with the page.").arg(rows));
+                        tr("%1 rows without groups have been saved with the page.").arg(rows));
 }
 
 /// Saving under another name stores the rows in the copy.

@@ -83,7 +83,7 @@ void PickBanner::setTexts()
     // Uses a single line, because showing and hiding a second line would move the view under the
     // mouse.
     if (isFixed)
-        m_picked->setText(m_row == 0 ? tr("The groups of row 1 are fixed.")
+        m_picked->setText(m_row == 0 ? tr("The groups of row 1 cannot be changed.")
                                      : tr("No row is selected."));
     else if (m_groups.empty())
         m_picked->setText(tr("The row has no groups yet."));

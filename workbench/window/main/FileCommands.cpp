@@ -261,7 +261,8 @@ bool FileCommands::takeOver(const QString& path)
         m_parts.textOutput->reopen(*text);
     if (m_parts.design->store() && (!plots->isChanged || m_parts.output->store()) &&
         (!wasTextChanged || m_parts.textOutput->store()))
-        m_parts.messages->say(tr("The project is saved as %1.").arg(QFileInfo(path).fileName()));
+        m_parts.messages->say(
+            tr("The project has been saved as %1.").arg(QFileInfo(path).fileName()));
     return true;
 }
 

@@ -125,7 +125,7 @@ bool OutputEditor::store()
     m_outputs.setStored();
     m_dialog->setUnchanged();
     Q_EMIT modified();
-    m_messages->say(tr("The choice of plots is in the project file."));
+    m_messages->say(tr("The choice of plots has been stored in the project file."));
     return true;
 }
 

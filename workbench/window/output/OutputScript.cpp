@@ -94,7 +94,7 @@ QString OutputScript::script()
 void OutputScript::copy()
 {
     QApplication::clipboard()->setText(script());
-    m_messages->say(tr("The script is on the clipboard."));
+    m_messages->say(tr("The script has been copied to the clipboard."));
 }
 
 QString OutputScript::proposedFile(const char* suffix) const
@@ -116,7 +116,7 @@ void OutputScript::save()
     if (path.isEmpty())
         return;
     if (saveTextFile(path, script(), m_messages))
-        m_messages->say(tr("The script is saved in %1.").arg(QDir::toNativeSeparators(path)));
+        m_messages->say(tr("The script has been saved as %1.").arg(QDir::toNativeSeparators(path)));
 }
 
 SheetPlan OutputScript::newSheetPlan()
@@ -150,7 +150,7 @@ void OutputScript::exportSheets()
     switch (workbench::exportSheets(newSheetPlan(), m_sheets->painter(), path, window, &trouble)) {
     case SheetExport::Done:
         return m_messages->say(
-            tr("The sheets are saved in %1.").arg(QDir::toNativeSeparators(path)));
+            tr("The sheets have been saved as %1.").arg(QDir::toNativeSeparators(path)));
     case SheetExport::Cancelled: return m_messages->say(tr("No sheet was saved."));
     case SheetExport::Failed: return m_messages->complainOfWriting(path, trouble);
     }

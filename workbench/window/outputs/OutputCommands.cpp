@@ -122,7 +122,7 @@ void OutputCommands::copyFromProject()
         return;
     if (isSameFile(path, m_parts.project->path()))
         return m_parts.messages->complain(
-            tr("This project is open. Duplicate copies one of its outputs."));
+            tr("This project is already open. Use Duplicate to copy one of its outputs."));
     copyFrom(path);
 }
 

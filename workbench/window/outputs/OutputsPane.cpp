@@ -173,7 +173,7 @@ void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
 
 void OutputsPane::setAbsentPlots(int count)
 {
-    m_note->setText(tr("Chosen plots that this model cannot have: %1. They are kept.").arg(count));
+    m_note->setText(tr("Checked plots that this model lacks: %1. They are kept.").arg(count));
     m_note->setVisible(count > 0);
 }
 

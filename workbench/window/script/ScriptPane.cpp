@@ -184,7 +184,7 @@ void ScriptPane::setTexts()
     m_previous->setText(tr("Find &Previous"));
     m_wrap->setText(tr("&Wrap Lines"));
     m_wrap->setIconText(tr("Wrap"));
-    m_wrap->setToolTip(tr("Wraps long lines at the width of the panel"));
+    m_wrap->setToolTip(tr("Wraps long lines to the width of the panel"));
     m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical Output."));
 }
 

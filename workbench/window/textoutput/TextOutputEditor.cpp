@@ -74,7 +74,7 @@ void TextOutputEditor::exportContents(const QString& contents)
         m_project->path());
     if (!path.isEmpty() && saveTextFile(path, contents, m_messages))
         m_messages->say(
-            tr("The table of contents is saved in %1.").arg(QDir::toNativeSeparators(path)));
+            tr("The table of contents has been saved as %1.").arg(QDir::toNativeSeparators(path)));
 }
 
 /// Destroys the dialog later, because it may be closing at the moment.
@@ -100,7 +100,7 @@ bool TextOutputEditor::store()
         return false;
     m_dialog->setUnchanged();
     Q_EMIT modified();
-    m_messages->say(tr("The text output is in the project file."));
+    m_messages->say(tr("The text output has been stored in the project file."));
     return true;
 }
 

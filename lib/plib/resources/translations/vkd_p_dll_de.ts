@@ -982,8 +982,8 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Gruppen auch in Zeile %1: %2.</translation>
     </message>
     <message>
-        <source>Row %1 has lost %2 (see Undo).</source>
-        <translation>Zeile %1 hat %2 verloren (siehe Rückgängig).</translation>
+        <source>Removed from row %1: %2 (see Undo).</source>
+        <translation>Aus Zeile %1 entfernt: %2 (siehe Rückgängig).</translation>
     </message>
 </context>
 <context>

@@ -52,7 +52,7 @@ QString lossNotice(const std::vector<int>& before, const std::vector<int>& after
         const std::vector<int> lost = ofKind(before, secondary);
         if (lost.empty() || !ofKind(after, secondary).empty())
             continue;
-        return NoticeText::tr("Row %1 has lost %2 (see Undo).")
+        return NoticeText::tr("Removed from row %1: %2 (see Undo).")
             .arg(QString::number(row + 1), vkd::dbo::groupRanges(lost));
     }
     return QString();

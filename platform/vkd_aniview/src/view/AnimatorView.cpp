@@ -241,7 +241,7 @@ void AnimatorView::setTexts()
                                 "minus zoom, Home shows all."));
     const QString mouse = tr("Left button: turn\nRight button, or Shift and left: move\n"
                              "Wheel: zoom\nDouble click: show all");
-    setToolTip(isPicking() ? tr("Click: pick a group or drop it") + QLatin1Char('\n') + mouse
+    setToolTip(isPicking() ? tr("Click: pick or unpick a group") + QLatin1Char('\n') + mouse
                            : mouse);
     update();
 }

@@ -89,14 +89,14 @@ QString notShownText(VKD_H_GroupKind kind, const std::vector<int>& opened,
         return DialogText::tr("OK replaces 1 group of the row that is not shown here: %1")
             .arg(names);
     if (groups.size() == 1)
-        return DialogText::tr("1 group of the row is not shown here: %1. OK keeps it while nothing "
-                              "is changed, and replaces it otherwise.")
+        return DialogText::tr("1 group of the row is not shown here: %1. OK keeps it if nothing is "
+                              "changed, and otherwise replaces it.")
             .arg(names);
     if (isReplaced)
         return DialogText::tr("OK replaces %1 groups of the row that are not shown here: %2")
             .arg(count, names);
-    return DialogText::tr("%1 groups of the row are not shown here: %2. OK keeps them while "
-                          "nothing is changed, and replaces them otherwise.")
+    return DialogText::tr("%1 groups of the row are not shown here: %2. OK keeps them if nothing "
+                          "is changed, and otherwise replaces them.")
         .arg(count, names);
 }
 
