@@ -89,7 +89,7 @@ void newProject(benchmark::State& state)
         makeProject(file);
 }
 
-/// The memory that is in use at most while the file is read.
+/// Measures the peak memory use while the file is read.
 void readModel(benchmark::State& state)
 {
     const ModelFile& file = fileOf(state);
@@ -134,7 +134,7 @@ void writeDesignModel(const QString& path, int records)
         qFatal("cannot write a model file");
 }
 
-/// The processor time of all child processes.
+/// Returns the processor time of all child processes.
 double childSeconds()
 {
     rusage usage;

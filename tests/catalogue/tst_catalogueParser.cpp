@@ -155,27 +155,27 @@ private Q_SLOTS:
         const Columns<QByteArray, QString> row("file", "expected");
         const QByteArray good = "1|0|0|@A__ a|@B__ b|@C__ c| |0| |0|0| |0|g|e\n";
         row("nothing wrong", "// x\n\n" + good, "");
-        row("too few", "1|2|3\n", "1: dropped: 3 columns, 15 are needed\n");
+        row("too few", "1|2|3\n", "1: dropped: 3 columns, 15 are required\n");
         row("German blank", QByteArray(good).replace("|g|", "| |"),
             "1: dropped: the German script line is blank\n");
         row("English blank", "\n" + QByteArray(good).replace("|e\n", "| \n"),
             "2: dropped: the English script line is blank\n");
         row("adjacent bars", QByteArray(good).replace("|0|g|e", "||0|g|e"),
-            "1: adjacent bars count as one: the columns behind them are shifted\n");
+            "1: adjacent bars count as one: the following columns are shifted\n");
         row("script carried over", good + "1|0|0|@A__ a|@B__ b|@D__ d| |0| |0|0| |0|g\n",
-            "2: no English script line: that of line 1 is used\n");
+            "2: no English script line: the one in line 1 is used\n");
         row("unknown tag", QByteArray(good).replace("c| |0|", "c|Quod|0|"),
             "1: unknown content tag \"Quod\": the plot is shown for every model\n");
         row("unknown word", QByteArray(good).replace("c| |0| |", "c| |0|lost-l|"),
-            "1: unknown case word \"lost-l\": the plot stands without load cases\n");
+            "1: unknown case word \"lost-l\": the plot has no load cases\n");
         row("no suffix", QByteArray(good).replace("c| |0| |", "c| |0|last-x|"),
-            "1: \"last-x\" ends in none of -l, -c and -e: the plot never makes a line\n");
+            "1: \"last-x\" does not end in -l, -c or -e: the plot never produces a line\n");
         row("empty caption", QByteArray(good).replace("@C__ c", "@C__"),
             "1: never shown: a caption is empty\n");
         row("no page", QByteArray(good).replace("1|0|0|", "x|0|0|"),
-            "1: never shown: no kind of page is named\n");
+            "1: never shown: no kind of page is specified\n");
         row("called as its parent", QByteArray(good).replace("__ c", "__ b"),
-            "1: the plot is called \"b\" as the level above: later plots get lost in it\n");
+            "1: the plot is called \"b\" like the level above: later plots are added below it\n");
         row("shared identifier", good + QByteArray(good).replace("__ c", "__ d"),
             "2: identifier \"@A__   @B__   @C__\" shared with the plot of line 1\n");
         row("shared, but on another page", good + QByteArray(good).replace("1|0|0", "2|3|0"), "");
@@ -188,8 +188,8 @@ private Q_SLOTS:
         row("colon", QByteArray(good).replace("@C__", "@C:_"),
             "1: colon in the identifier \"@A__   @B__   @C:_\": the choice cannot be stored\n");
         row("long line", good.chopped(1) + QByteArray(1000, 'e') + "\n",
-            "1: longer than 1023 bytes: the rest is read as a line of its own\n"
-            "1: dropped: 1 columns, 15 are needed\n");
+            "1: longer than 1023 bytes: the rest is read as a separate line\n"
+            "1: dropped: 1 columns, 15 are required\n");
     }
 
     void findings()

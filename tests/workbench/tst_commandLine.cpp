@@ -338,36 +338,38 @@ private Q_SLOTS:
             "cannot open absent.zob: the file does not exist or cannot be opened");
         row("script noproject.zob",
             "cannot open noproject.zob: the file is not a project file (file is not a database)");
-        row("script slab.zob --keywords french", "--keywords is english or german, not \"french\"");
-        row("script slab.zob --progname x", "--progname needs a whole number, not \"x\"");
-        row("tree slab.zob --progname 99999", "--progname is one of 1, 122, 222, not 99999");
-        row("script slab.zob --set viewId", "--set needs NAME=VALUE, not \"viewId\"");
-        row("script slab.zob --set viewId=5", "viewId is a number from 0 to 4, not \"5\"");
+        row("script slab.zob --keywords french",
+            "--keywords must be english or german, not \"french\"");
+        row("script slab.zob --progname x", "--progname must be a whole number, not \"x\"");
+        row("tree slab.zob --progname 99999", "--progname must be one of 1, 122, 222, not 99999");
+        row("script slab.zob --set viewId", "--set requires NAME=VALUE, not \"viewId\"");
+        row("script slab.zob --set viewId=5", "viewId must be a number from 0 to 4, not \"5\"");
         row("script slab.zob --set pageSplitId=1", "the page of --progname 1 has no pageSplitId");
         row("script slab.zob --progname 122 --set viewId=1",
             "the page of --progname 122 has no viewId");
         row("script slab.zob --set formatId=1 --set picturesId=1",
-            "picturesId=1 needs the portrait format, formatId=0");
-        row("script slab.zob --set scaleText=1:3", "scaleText is one of 1:1 1:2 1:5 1:10 1:20 1:25 "
-                                                   "1:50 1:100 1:200 1:500 1:1000, not \"1:3\"");
+            "picturesId=1 requires the portrait format, formatId=0");
+        row("script slab.zob --set scaleText=1:3",
+            "scaleText must be one of 1:1 1:2 1:5 1:10 1:20 1:25 "
+            "1:50 1:100 1:200 1:500 1:1000, not \"1:3\"");
         for (const char* refused : {"abc", "-3", "0.5", "1000", ""})
             row(QByteArray("script slab.zob --set fontSizeText=").append(refused).constData(),
-                QStringLiteral("fontSizeText is a number from 1 to 999, not \"%1\"")
+                QStringLiteral("fontSizeText must be a number from 1 to 999, not \"%1\"")
                     .arg(QLatin1String(refused)));
         row("script slab.zob --selection absent.txt",
             "cannot read absent.txt: No such file or directory");
         row("script slab.zob --output x", "there is no output \"x\", only \"Output 1\"");
         row("script slab.zob --output x --proposed",
-            "--output needs the saved choice of --progname 1");
+            "--output requires the saved choice of --progname 1");
         row("script slab.zob --all", "--into is missing");
         row("script slab.zob --into .", "--all is missing");
-        row("script slab.zob --all --into . -o x", "--all and -o exclude each other");
+        row("script slab.zob --all --into . -o x", "--all and -o cannot be combined");
         row("script slab.zob --all --into bad.json/a", "cannot create the folder bad.json/a");
         row("script slab.zob --load-cases badcases.txt",
             "badcases.txt:2: a kind of 1 or 2, a number and a name are required");
         row("script slab.zob -o no/such/folder.txt --selection-out saved.txt",
             "cannot write no/such/folder.txt: No such file or directory");
-        row("new slab.zob --model slab", "slab.zob exists already");
+        row("new slab.zob --model slab", "slab.zob already exists");
         row("new x.zob --model none", "there is no model \"none\"");
         row("new x.zob --model bad.json", "bad.json: line 3, column 3: unterminated object");
         row("new x.zob --model field.json", "field.json: designParameters of group 7: \"hiox=1\" "
@@ -379,7 +381,7 @@ private Q_SLOTS:
         row("rows slab.zob --set-row ; type=1", "there is no group \"\"");
         row("rows slab.zob --dry-run", "--import is missing");
         row("rows slab.zob --set-row 1 --export a",
-            "--set-row, --export and --import exclude each other");
+            "--set-row, --export and --import cannot be combined");
         row("rows slab.zob --export none/a", "cannot write none/a: No such file or directory");
         row("rows slab.zob --import none", "cannot read none: No such file or directory");
         row("rows slab.zob --import badcases.txt",
@@ -389,7 +391,7 @@ private Q_SLOTS:
         row("rows slab.zob --set-row 1 type=5", "type cannot be \"5\"");
         row("rows slab.zob --set-row 1 hio=inf", "hio cannot be \"inf\"");
         row("script slab.zob -o both.txt --selection-out ./both.txt",
-            "the script and the choice cannot both go into both.txt");
+            "the script and the choice cannot both be written to both.txt");
         row("script slab.zob -o .", "cannot write .: it is not a file");
         row("check absent.txt", "cannot read absent.txt: No such file or directory");
         row("check slab.zob --project absent.zob",
@@ -398,7 +400,7 @@ private Q_SLOTS:
             "cannot open noproject.zob: the file is not a project file (file is not a database)");
         row("snapshots slab.zob bad.json/pictures", "cannot create the folder bad.json/pictures");
         row("snapshots slab.zob none --pixel-ratio 5",
-            "--pixel-ratio is a number from 1 to 4, not \"5\"");
+            "--pixel-ratio must be a number from 1 to 4, not \"5\"");
     }
 
     /// A command that cannot be completed makes no changes.

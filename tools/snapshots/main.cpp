@@ -44,16 +44,17 @@ void reportMissing(const SnapshotAlbum& album)
 int snapshots(const QStringList& arguments)
 {
     CommandLine line(
-        QStringLiteral("Saves a picture of every page and dialog with this project in a folder, in "
-                       "light and dark colours, and prints the names of the files. The project is "
-                       "not changed."),
+        QStringLiteral(
+            "Saves screenshots of every page and dialog with this project in a folder, in "
+            "light and dark colours, and prints the names of the files. The project is "
+            "not changed."),
         {QStringLiteral("FILE"), QStringLiteral("DIR")},
         {languageOption(),
          {PixelRatio, QStringLiteral("N"),
           QStringLiteral("Pixels per point, as on high-resolution screens: 1 to 4.")}});
     line.parse(arguments);
     if (!isPixelRatio(line.number("pixel-ratio", 1)))
-        throw CommandError{QStringLiteral("--pixel-ratio is a number from 1 to 4, not \"%1\"")
+        throw CommandError{QStringLiteral("--pixel-ratio must be a number from 1 to 4, not \"%1\"")
                                .arg(line.value("pixel-ratio"))};
     applyLanguage(line);
     vkd_qt_translateQt();

@@ -77,7 +77,7 @@ int CommandLine::number(const char* option, int otherwise) const
     bool isNumber = false;
     const int number = value(option).toInt(&isNumber);
     if (!isNumber)
-        throw CommandError{QStringLiteral("--%1 needs a whole number, not \"%2\"")
+        throw CommandError{QStringLiteral("--%1 must be a whole number, not \"%2\"")
                                .arg(QLatin1String(option), value(option))};
     return number;
 }
@@ -90,7 +90,7 @@ vkd::Language CommandLine::language(const char* option, vkd::Language otherwise)
     if (name == QLatin1String("english"))
         return vkd::Language::English;
     if (name != QLatin1String("german"))
-        throw CommandError{QStringLiteral("--%1 is english or german, not \"%2\"")
+        throw CommandError{QStringLiteral("--%1 must be english or german, not \"%2\"")
                                .arg(QLatin1String(option), name)};
     return vkd::Language::German;
 }

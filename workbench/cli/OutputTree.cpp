@@ -44,7 +44,7 @@ void checkProgname(int progname, const plib::Catalogue& catalogue)
     QStringList numbers;
     for (int number : known)
         numbers << QString::number(number);
-    throw CommandError{QStringLiteral("--progname is one of %1, not %2")
+    throw CommandError{QStringLiteral("--progname must be one of %1, not %2")
                            .arg(numbers.join(QLatin1String(", ")))
                            .arg(progname)};
 }

@@ -47,11 +47,11 @@ int catalogueCommand(const QStringList& arguments)
 {
     CommandLine line(
         QStringLiteral("Prints the plots of a catalogue, one per line with tabs between the "
-                       "columns, and probable mistakes on standard error. Without FILE, uses the "
+                       "columns, and findings on standard error. Without FILE, uses the "
                        "installed catalogue."),
         {QStringLiteral("[FILE]")},
         {{QStringLiteral("strict"), QString(),
-          QStringLiteral("Exits with code 1 if there are mistakes.")},
+          QStringLiteral("Exits with code 1 if there are findings.")},
          languageOption()});
     line.parse(arguments);
     applyLanguage(line);

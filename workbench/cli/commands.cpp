@@ -35,7 +35,7 @@ constexpr Command Commands[] = {
     {"rows", rowsCommand, nullptr, "print and change the design parameters of a project"},
     {"tree", treeCommand, nullptr, "print the plots that a project offers, with their check marks"},
     {"snapshots", nullptr, "plib_workbench_snapshots",
-     "save a picture of every page and dialog in a folder"},
+     "save screenshots of every page and dialog in a folder"},
     {"window", nullptr, "plib_workbench_window", "open the desktop window"},
 };
 

@@ -111,7 +111,7 @@ QString summary(const QString& path, const vkd::dbo::Model& model)
 QString newProject(const QString& path, const QString& model, const VkdGoOn& goOn)
 {
     if (QFileInfo::exists(path))
-        throw CommandError{QStringLiteral("%1 exists already").arg(path)};
+        throw CommandError{QStringLiteral("%1 already exists").arg(path)};
     vkd::dbo::Model content;
     const QString modelFile = modelPath(model);
     const VkdStatus read =

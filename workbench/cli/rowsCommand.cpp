@@ -81,7 +81,7 @@ void checkOptions(const CommandLine& line)
 {
     const int given = int(line.has("set-row")) + int(line.has("export")) + int(line.has("import"));
     if (given > 1)
-        throw CommandError{QStringLiteral("--set-row, --export and --import exclude each other")};
+        throw CommandError{QStringLiteral("--set-row, --export and --import cannot be combined")};
     if (line.has("dry-run") && !line.has("import"))
         throw CommandError{QStringLiteral("--import is missing")};
     if (!line.argumentsFrom(1).isEmpty() && !line.has("set-row"))
@@ -96,7 +96,7 @@ int rowsCommand(const QStringList& arguments)
             "Prints the design parameters of a project's area elements, one line per set: "
             "groups, type, directions and distances, reinforcement, crack control. FIELD=VALUE "
             "changes the row given by --set-row, in base units (rad, m, mm for bars and crack "
-            "widths, cm²/m, N/mm²). The second and third distance are spacings; the value "
+            "widths, cm²/m, N/mm²). The second and third distances are spacings; the value "
             "\"unset\" clears a field. The fields are %1.")
             .arg(fieldNames()),
         {QStringLiteral("FILE"), QStringLiteral("[FIELD=VALUE...]")},
@@ -104,18 +104,20 @@ int rowsCommand(const QStringList& arguments)
           QStringLiteral(
               "Changes the row with exactly these groups, or adds one, and stores the rows. "
               "GROUPS is \"none\", \"remaining\", or numbers of groups, ranges such as 1-5 and "
-              "names of secondary groups, separated by blanks, commas or semicolons. The groups of "
+              "names of secondary groups, separated by spaces, commas or semicolons. The groups of "
               "a new row are removed from other rows.")},
          {QStringLiteral("export"), QStringLiteral("TABLE"),
-          QStringLiteral("Writes all rows into a file for spreadsheets, with a line of heads and a "
-                         "column for each value. Cells are separated by commas, in German by "
-                         "semicolons.")},
+          QStringLiteral(
+              "Writes all rows to a file for spreadsheets, with a line of column headers and a "
+              "column for each value. Cells are separated by commas, in German by "
+              "semicolons.")},
          {QStringLiteral("import"), QStringLiteral("TABLE"),
-          QStringLiteral("Reads such a file, with heads in any language and order. The column of "
-                         "groups is required; each row is set as by --set-row. Values whose "
-                         "columns are missing stay. If a cell is wrong, nothing is stored.")},
+          QStringLiteral(
+              "Reads such a file, with column headers in any language and order. The column with "
+              "the groups is required; each row is set as with --set-row. Values whose columns are "
+              "missing do not change. If a cell is invalid, nothing is stored.")},
          {QStringLiteral("dry-run"), QString(),
-          QStringLiteral("With --import, prints the changes and stores nothing.")},
+          QStringLiteral("With --import, prints the changes without storing them.")},
          languageOption()});
     line.parse(arguments);
     applyLanguage(line);

@@ -48,7 +48,8 @@ OutputState savedChoice(const CommandLine& line, ZobHandle project)
     const QString name = line.value("output");
     if (line.has("proposed") || progname(line) != VKD_P_GraphicalOutput_Standard) {
         if (line.has("output"))
-            throw CommandError{QStringLiteral("--output needs the saved choice of --progname 1")};
+            throw CommandError{
+                QStringLiteral("--output requires the saved choice of --progname 1")};
         return OutputState();
     }
     const OutputList outputs = savedOutputs(project);

@@ -42,7 +42,8 @@ std::vector<CommandLine::Option> options()
                QStringLiteral("Reads the load cases from lines of kind, number "
                               "and name, not from the project.")),
         option("o", "FILE",
-               QStringLiteral("Writes the script to a file, completely or not at all.")),
+               QStringLiteral("Writes the script to a file. An existing file is replaced only if "
+                              "this succeeds.")),
         option("all", "",
                QStringLiteral("Writes the scripts of all outputs to the folder given by --into. "
                               "Prints the paths of the files.")),
@@ -91,7 +92,7 @@ void writeResults(const CommandLine& line, const Script& script)
         return QDir::cleanPath(QFileInfo(line.value(option)).absoluteFilePath());
     };
     if (line.has("o") && line.has("selection-out") && place("o") == place("selection-out"))
-        throw CommandError{QStringLiteral("the script and the choice cannot both go into %1")
+        throw CommandError{QStringLiteral("the script and the choice cannot both be written to %1")
                                .arg(line.value("o"))};
     WholeFiles files;
     if (line.has("o"))
@@ -108,7 +109,7 @@ void checkOptionsOfAll(const CommandLine& line)
     for (const char* option : {"output", "proposed", "progname", "selection", "selection-out", "o"})
         if (line.has(option))
             throw CommandError{
-                QStringLiteral("--all and %1%2 exclude each other")
+                QStringLiteral("--all and %1%2 cannot be combined")
                     .arg(QLatin1String(qstrlen(option) > 1 ? "--" : "-"), QLatin1String(option))};
     if (!line.has("into"))
         throw CommandError{QStringLiteral("--into is missing")};

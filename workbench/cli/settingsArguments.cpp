@@ -39,7 +39,7 @@ void setScaleText(const QString& value, OutputSettings* settings)
     const QStringList scales = plib::engineeringScales();
     const int scale = scales.indexOf(value);
     if (scale < 0)
-        throw CommandError{QStringLiteral("scaleText is one of %1, not \"%2\"")
+        throw CommandError{QStringLiteral("scaleText must be one of %1, not \"%2\"")
                                .arg(scales.join(QLatin1Char(' ')), value)};
     plib::chooseScale(scale + 1, settings); // "Auto" comes first
 }
@@ -57,7 +57,7 @@ void setPictures(const QString& value, OutputSettings* settings)
     const auto pictures = plib::PagePictures(value.toInt());
     const bool isFree = settings->hasFormat && settings->formatId == plib::PageFormat::Portrait;
     if (!isFree && pictures != settings->picturesId)
-        throw CommandError{QStringLiteral("picturesId=%1 needs the portrait format, formatId=0")
+        throw CommandError{QStringLiteral("picturesId=%1 requires the portrait format, formatId=0")
                                .arg(int(pictures))};
     settings->picturesId = pictures;
 }
@@ -66,7 +66,7 @@ void setFontSize(const QString& value, OutputSettings* settings)
 {
     const QString size = plib::fontSizeText(value);
     if (size.isNull())
-        throw CommandError{QStringLiteral("fontSizeText is a number from %1 to %2, not \"%3\"")
+        throw CommandError{QStringLiteral("fontSizeText must be a number from %1 to %2, not \"%3\"")
                                .arg(plib::fontSizeField().minimum)
                                .arg(plib::fontSizeField().maximum)
                                .arg(value)};
@@ -119,7 +119,7 @@ void checkNumber(const Setting& setting, const QString& value)
     const int number = value.toInt(&isNumber);
     if (setting.highest != NoNumber && (!isNumber || number < 0 || number > setting.highest))
         throw CommandError{
-            QStringLiteral("%1 is a number from 0 to %2, not \"%3\"")
+            QStringLiteral("%1 must be a number from 0 to %2, not \"%3\"")
                 .arg(QLatin1String(setting.name), QString::number(setting.highest), value)};
 }
 } // namespace
@@ -129,7 +129,8 @@ void applySettings(const QStringList& arguments, plib::OutputSettings* settings)
     for (const QString& argument : arguments) {
         const int equals = argument.indexOf(QLatin1Char('='));
         if (equals < 1)
-            throw CommandError{QStringLiteral("--set needs NAME=VALUE, not \"%1\"").arg(argument)};
+            throw CommandError{
+                QStringLiteral("--set requires NAME=VALUE, not \"%1\"").arg(argument)};
         const Setting& setting = settingOf(argument.left(equals));
         const QString value = argument.mid(equals + 1);
         checkNumber(setting, value);

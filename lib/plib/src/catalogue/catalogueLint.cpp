@@ -50,7 +50,7 @@ void CatalogueLint::line(int number, const QByteArray& bytes, bool isCut)
 {
     m_line = number;
     if (isCut)
-        say(QStringLiteral("longer than %1 bytes: the rest is read as a line of its own")
+        say(QStringLiteral("longer than %1 bytes: the rest is read as a separate line")
                 .arg(bytes.size()));
     const Outcome outcome = m_parser.parseLine(bytes.constData(), bytes.size());
     if (outcome == Outcome::Comment || outcome == Outcome::Blank)
@@ -69,14 +69,14 @@ void CatalogueLint::line(int number, const QByteArray& bytes, bool isCut)
 void CatalogueLint::checkBytes(const QByteArray& bytes)
 {
     if (bytes.startsWith('|') || bytes.contains("||"))
-        say(QStringLiteral("adjacent bars count as one: the columns behind them are shifted"));
+        say(QStringLiteral("adjacent bars count as one: the following columns are shifted"));
 }
 
 void CatalogueLint::checkScripts(Outcome outcome)
 {
     const int parts = m_parser.partCount();
     if (outcome == Outcome::TooFewParts)
-        say(QStringLiteral("dropped: %1 columns, %2 are needed")
+        say(QStringLiteral("dropped: %1 columns, %2 are required")
                 .arg(parts)
                 .arg(CatalogueParser::UsedParts));
     else if (outcome == Outcome::NoGermanScript)
@@ -84,7 +84,8 @@ void CatalogueLint::checkScripts(Outcome outcome)
     else if (outcome == Outcome::NoEnglishScript)
         say(QStringLiteral("dropped: the English script line is blank"));
     else if (parts == CatalogueParser::MinimumParts)
-        say(QStringLiteral("no English script line: that of line %1 is used").arg(m_englishLine));
+        say(QStringLiteral("no English script line: the one in line %1 is used")
+                .arg(m_englishLine));
     if (parts > CatalogueParser::MinimumParts)
         m_englishLine = m_line;
 }
@@ -97,10 +98,10 @@ void CatalogueLint::checkWords(const GraphicalOutputRecord& record)
     if (record.caseWord.isEmpty())
         return;
     if (record.ctrl == CtrlStandsAlone)
-        say(QStringLiteral("unknown case word \"%1\": the plot stands without load cases")
+        say(QStringLiteral("unknown case word \"%1\": the plot has no load cases")
                 .arg(record.caseWord));
     else if (record.rowClass == 0)
-        say(QStringLiteral("\"%1\" ends in none of -l, -c and -e: the plot never makes a line")
+        say(QStringLiteral("\"%1\" does not end in -l, -c or -e: the plot never produces a line")
                 .arg(record.caseWord));
 }
 
@@ -109,10 +110,10 @@ void CatalogueLint::checkVisibility(const GraphicalOutputRecord& record)
     if (record.title1.isEmpty() || record.title2.isEmpty() || record.title3.isEmpty())
         say(QStringLiteral("never shown: a caption is empty"));
     if (record.prog1 <= 0 && record.prog2 <= 0 && record.prog3 <= 0)
-        say(QStringLiteral("never shown: no kind of page is named"));
+        say(QStringLiteral("never shown: no kind of page is specified"));
     if (record.title3 == record.title2)
         say(QStringLiteral(
-                "the plot is called \"%1\" as the level above: later plots get lost in it")
+                "the plot is called \"%1\" like the level above: later plots are added below it")
                 .arg(record.title3));
 }
 
