@@ -181,19 +181,23 @@ private Q_SLOTS:
         outputs.setState({QStringLiteral("<Scale>1:20</Scale><View>2</View>"), 0, {2}}, true);
         outputs.add(QStringLiteral("Slab: 1/2"), {QStringLiteral("<View>1</View>"), 0, {}});
         outputs.add(QStringLiteral("slab_ 1:2"), {});
+        outputs.add(QStringLiteral("no plots"),
+                    {QStringLiteral("<List_4>Unchecked:-</List_4>"), 0, {}});
         QVERIFY(outputs.put(project->handle()).isOk());
         QVERIFY(project->close().isOk());
         QCOMPARE(run("outputs building.zob --language german").out, QStringLiteral("Ausgabe 1\n"));
         QCOMPARE(run("outputs outputs.zob --language german").out,
-                 QStringLiteral("Output 1\nSlab: 1/2\nslab_ 1:2\n"));
+                 QStringLiteral("Output 1\nSlab: 1/2\nslab_ 1:2\nno plots\n"));
         const QString second = run("script building.zob --set viewId=1").out;
         QCOMPARE(run({QStringLiteral("script"), QStringLiteral("outputs.zob"),
                       QStringLiteral("--output"), QStringLiteral("slab: 1/2")})
                      .out,
                  second);
-        QCOMPARE(run("script outputs.zob --all --into made/all --language german").out,
-                 QStringLiteral("made/all/Output 1.dat\nmade/all/Slab_ 1_2.dat\n"
-                                "made/all/slab_ 1_2 (2).dat\n"));
+        const Result all = run("script outputs.zob --all --into made/all --language german");
+        QCOMPARE(all.error,
+                 QStringLiteral("plib_workbench: warning: outputs without plots: no plots\n"));
+        QCOMPARE(all.out, QStringLiteral("made/all/Output 1.dat\nmade/all/Slab_ 1_2.dat\n"
+                                         "made/all/slab_ 1_2 (2).dat\n"));
         const QString first = run("script outputs.zob --language german").out;
         QVERIFY(first.contains(QLatin1String("SIZE -URS SC 20*")));
         QCOMPARE(readFile(path("made/all/Output 1.dat")), first.toUtf8());

@@ -1,11 +1,13 @@
 #include "project/KeptPlots.h"
 #include "project/OutputList.h"
+#include "project/WholeFiles.h"
 #include "ProjectTest.h"
 #include "TemporaryProject.h"
 #include "window/output/OutputDialog.h"
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressDialog>
@@ -211,8 +213,8 @@ private Q_SLOTS:
         QVERIFY(readFile(path("Walls.pdf")).startsWith("%PDF"));
     }
 
-    /// Plots and load cases that the model does not have are kept after another plot has been chosen
-    /// and stored.
+    /// Plots and load cases that the model does not have are kept after another plot has been
+    /// chosen and stored.
     void copying()
     {
         const auto theirs = VKD_H_ZOBDoc::create(path("theirs.zob"));
@@ -279,6 +281,27 @@ private Q_SLOTS:
         trigger(*window, "SaveAllScripts");
         QCOMPARE(messages.size(), 1);
         QVERIFY(!QFile::exists(path("b.dat")));
+    }
+
+    /// If the last file cannot be replaced, the preceding ones are restored.
+    void wholeFiles()
+    {
+        const QDir folder(m_folder->path());
+        writeFile(path("old"), "old");
+        for (bool isBlocked : {true, false}) {
+            WholeFiles files;
+            for (const char* name : {"old", "new", "blocked"})
+                QVERIFY(files.add(path(name), "text"));
+            if (isBlocked)
+                folder.mkdir(QStringLiteral("blocked"));
+            QCOMPARE(files.commit(), !isBlocked);
+            QCOMPARE(files.failedPath(), isBlocked ? path("blocked") : QString());
+            QCOMPARE(files.replaced().size(), isBlocked ? 0 : 3);
+            QCOMPARE(readFile(path("old")), QByteArray(isBlocked ? "old" : "text"));
+            QCOMPARE(QFile::exists(path("new")), !isBlocked);
+            folder.rmdir(QStringLiteral("blocked"));
+        }
+        QCOMPARE(folder.entryList({QStringLiteral("*.????????*")}), QStringList());
     }
 
     /// A chosen load case that is not offered is kept even if the tree shows the proposed plots.

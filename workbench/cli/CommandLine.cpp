@@ -125,6 +125,11 @@ void print(const QString& text)
         throw CommandError{QStringLiteral("cannot write the result: %1").arg(out.errorString())};
 }
 
+void warn(const QString& text)
+{
+    std::fprintf(stderr, "plib_workbench: warning: %s\n", qUtf8Printable(text.simplified()));
+}
+
 CommandLine::Option languageOption()
 {
     return {QStringLiteral("language"), QStringLiteral("german|english"),

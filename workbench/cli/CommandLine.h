@@ -66,6 +66,8 @@ QString readText(const QString& path);
 
 /// Writes to standard output. Throws a CommandError if writing fails, for example on a full disk.
 void print(const QString& text);
+/// Prints a warning to standard error.
+void warn(const QString& text);
 
 /// Returns the option for the language of captions and messages.
 CommandLine::Option languageOption();

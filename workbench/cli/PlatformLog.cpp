@@ -1,8 +1,9 @@
 #include "cli/PlatformLog.h"
 
+#include "cli/CommandLine.h"
+
 #include <QStringList>
 
-#include <cstdio>
 #include <cstring>
 
 namespace workbench {
@@ -41,7 +42,7 @@ void PlatformLog::install()
 void PlatformLog::print()
 {
     for (const QString& line : qAsConst(collected()))
-        std::fprintf(stderr, "plib_workbench: warning: %s\n", qUtf8Printable(line.simplified()));
+        warn(line);
     collected().clear();
 }
 

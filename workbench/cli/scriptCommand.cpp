@@ -4,8 +4,8 @@
 #include "cli/OutputTree.h"
 #include "cli/savedChoice.h"
 #include "cli/settingsArguments.h"
-#include "cli/WholeFiles.h"
 #include "project/outputFileNames.h"
+#include "project/WholeFiles.h"
 
 #include <script/outputScript.h>
 #include <script/PlatformScriptEnvironment.h>
@@ -45,8 +45,8 @@ std::vector<CommandLine::Option> options()
                QStringLiteral("Writes the script to a file. An existing file is replaced only if "
                               "this succeeds.")),
         option("all", "",
-               QStringLiteral("Writes the scripts of all outputs to the folder given by --into. "
-                              "Prints the paths of the files.")),
+               QStringLiteral("Writes the scripts of all outputs that have plots to the folder "
+                              "given by --into. Prints the paths of the files.")),
         option("into", "FOLDER", QStringLiteral("The folder for the scripts of --all.")),
         languageOption(),
     };
@@ -85,6 +85,17 @@ Script makeScript(const CommandLine& line, VKD_H_ZOBDoc* document, const OutputS
     return {text, tree.selectionText()};
 }
 
+/// Throws a CommandError if writing has failed.
+void check(bool isWritten, const WholeFiles& files)
+{
+    if (isWritten)
+        return;
+    QString text = QStringLiteral("cannot write %1: %2").arg(files.failedPath(), files.reason());
+    if (const QStringList replaced = files.replaced(); !replaced.isEmpty())
+        text += QStringLiteral("; already written: %1").arg(replaced.join(QLatin1String(", ")));
+    throw CommandError{text};
+}
+
 /// Writes the script and the selection.
 void writeResults(const CommandLine& line, const Script& script)
 {
@@ -96,12 +107,12 @@ void writeResults(const CommandLine& line, const Script& script)
                                .arg(line.value("o"))};
     WholeFiles files;
     if (line.has("o"))
-        files.add(line.value("o"), script.text);
+        check(files.add(line.value("o"), script.text.toUtf8()), files);
     if (line.has("selection-out"))
-        files.add(line.value("selection-out"), script.selection);
+        check(files.add(line.value("selection-out"), script.selection.toUtf8()), files);
     if (!line.has("o"))
         print(script.text);
-    files.commit();
+    check(files.commit(), files);
 }
 
 void checkOptionsOfAll(const CommandLine& line)
@@ -116,7 +127,7 @@ void checkOptionsOfAll(const CommandLine& line)
 }
 
 /// Reads all outputs from the same state of the project and writes their scripts. Prints the paths
-/// of the files.
+/// of the files and a warning that lists the outputs without plots. They have no script.
 void writeAll(const CommandLine& line, VKD_H_ZOBDoc* document)
 {
     const ZobSnapshot snapshot(document->handle());
@@ -129,12 +140,20 @@ void writeAll(const CommandLine& line, VKD_H_ZOBDoc* document)
         throw CommandError{QStringLiteral("cannot create the folder %1").arg(line.value("into"))};
     WholeFiles files;
     QString paths;
+    QStringList skipped;
     for (int i = 0; i < names.size(); ++i) {
-        files.add(folder.filePath(names[i]), makeScript(line, document, outputs.at(i).state).text);
+        const QString script = makeScript(line, document, outputs.at(i).state).text;
+        if (script.isEmpty()) {
+            skipped << outputs.name(i);
+            continue;
+        }
+        check(files.add(folder.filePath(names[i]), script.toUtf8()), files);
         paths += folder.filePath(names[i]) + QLatin1Char('\n');
     }
-    files.commit();
+    check(files.commit(), files);
     print(paths);
+    if (!skipped.isEmpty())
+        warn(QStringLiteral("outputs without plots: ") + skipped.join(QLatin1String(", ")));
 }
 } // namespace
 

@@ -626,7 +626,26 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
 </context>
 <context>
+    <name>workbench::WholeFiles</name>
+    <message>
+        <source>it is not a file</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>the existing file cannot be backed up</source>
+        <translation>Die vorhandene Datei kann nicht gesichert werden.</translation>
+    </message>
+</context>
+<context>
     <name>workbench::OutputFiles</name>
+    <message>
+        <source>Already replaced:</source>
+        <translation>Bereits ersetzt:</translation>
+    </message>
+    <message>
+        <source>Outputs without plots: %1</source>
+        <translation>Ausgaben ohne Grafiken: %1</translation>
+    </message>
     <message>
         <source>These files already exist:</source>
         <translation>Diese Dateien gibt es schon:</translation>

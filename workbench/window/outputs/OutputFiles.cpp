@@ -2,6 +2,7 @@
 
 #include "project/OpenProject.h"
 #include "project/outputFileNames.h"
+#include "project/WholeFiles.h"
 #include "sheet/exportSheets.h"
 #include "sheet/readSheetPlan.h"
 #include "sheet/SheetPreview.h"
@@ -18,10 +19,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
-#include <QSaveFile>
-
-#include <memory>
-#include <vector>
 
 namespace workbench {
 
@@ -73,27 +70,44 @@ QStringList OutputFiles::scripts()
     return isDone ? scripts : QStringList();
 }
 
+void OutputFiles::complain(const WholeFiles& files)
+{
+    QString reason = files.reason();
+    if (const QStringList replaced = files.replaced(); !replaced.isEmpty())
+        reason += QLatin1Char('\n') + tr("Already replaced:") + QLatin1Char('\n') +
+                  replaced.join(QLatin1Char('\n'));
+    m_messages->complainOfWriting(files.failedPath(), reason);
+}
+
+/// Returns the end of a message: the outputs that have no script.
+QString OutputFiles::skipped(const QStringList& scripts) const
+{
+    QStringList names;
+    for (int output = 0; output < scripts.size(); ++output)
+        if (scripts[output].isEmpty())
+            names << m_editor->outputs().name(output);
+    return names.isEmpty()
+               ? QString()
+               : QLatin1String(". ") +
+                     tr("Outputs without plots: %1").arg(names.join(QLatin1String(", ")));
+}
+
 void OutputFiles::saveScripts()
 {
     const QStringList paths = choosePaths(tr("Save All Scripts"), QStringLiteral(".dat"));
     const QStringList texts = paths.isEmpty() ? QStringList() : scripts();
-    std::vector<std::unique_ptr<QSaveFile>> files;
-    for (int i = 0; i < texts.size(); ++i) {
-        if (texts[i].isEmpty())
-            continue;
-        files.push_back(std::make_unique<QSaveFile>(paths[i]));
-        QSaveFile& file = *files.back();
-        const QByteArray bytes = texts[i].toUtf8();
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
-            return m_messages->complainOfWriting(paths[i], file.errorString());
-    }
-    for (const auto& file : files)
-        if (!file->commit())
-            return m_messages->complainOfWriting(file->fileName(), file->errorString());
-    if (!texts.isEmpty())
-        m_messages->say(tr("Scripts saved in %1: %2")
-                            .arg(QDir::toNativeSeparators(QFileInfo(paths[0]).path()))
-                            .arg(files.size()));
+    if (texts.isEmpty())
+        return;
+    WholeFiles files;
+    for (int i = 0; i < texts.size(); ++i)
+        if (!texts[i].isEmpty() && !files.add(paths[i], texts[i].toUtf8()))
+            return complain(files);
+    if (!files.commit())
+        return complain(files);
+    m_messages->say(tr("Scripts saved in %1: %2")
+                        .arg(QDir::toNativeSeparators(QFileInfo(paths[0]).path()))
+                        .arg(files.size()) +
+                    skipped(texts));
 }
 
 void OutputFiles::exportSheets()
@@ -118,7 +132,8 @@ void OutputFiles::exportSheets()
     });
     m_messages->say(tr("PDF files saved in %1: %2")
                         .arg(QDir::toNativeSeparators(QFileInfo(paths[0]).path()))
-                        .arg(count));
+                        .arg(count) +
+                    skipped(texts));
 }
 
 } // namespace workbench

@@ -8,6 +8,7 @@ namespace workbench {
 class OpenProject;
 class OutputEditor;
 class SheetPreview;
+class WholeFiles;
 class WindowMessages;
 
 /// Saves the scripts or the sheets of all outputs, each in a file with the name of the output.
@@ -21,16 +22,17 @@ public:
     OutputFiles(const OpenProject* project, OutputEditor* editor, WindowMessages* messages,
                 SheetPreview* sheets);
 
-    /// Saves the scripts, either all of them or none.
+    /// Saves the scripts, either all of them or none; see WholeFiles.
     void saveScripts();
-    /// Saves the sheets as PDF files.
+    /// Saves the sheets as PDF files, one after the other. If the user cancels or an error occurs,
+    /// the files that have already been saved are kept.
     void exportSheets();
 
 private:
     QStringList choosePaths(const QString& title, const QString& suffix);
     QStringList scripts();
-    bool exportFile(int output, const QString& path);
-    void say(const QStringList& paths);
+    void complain(const WholeFiles& files);
+    QString skipped(const QStringList& scripts) const;
 
     const OpenProject* m_project;
     OutputEditor* m_editor;
