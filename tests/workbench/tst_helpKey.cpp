@@ -49,8 +49,8 @@ private Q_SLOTS:
         row("tabs of the output", in("Output", "tabs"), "Graphical Output");
         row("plots", in("Output", "m_list"), "Plots");
         row("sheet and view", in("Output", "PerspectiveGroup"), "Sheet and View");
-        row("load cases", in("Output", "LoadCases"), "Load Cases on Offer");
-        row("contents", in("Output", "ContentGroup"), "Plots on Offer");
+        row("load cases", in("Output", "LoadCases"), "Offered Load Cases");
+        row("contents", in("Output", "ContentGroup"), "Offered Plots");
         row("text output", in("TextOutput", "TextOutputDialog"), "Text Output");
         row("extent", in("TextOutput", "ForceList"), "Extent of the Text Output");
         row("printed load cases", in("TextOutput", "TextLoadCases"),

@@ -167,7 +167,7 @@ private Q_SLOTS:
         row("other", R"(], "format": "x", "y": [)", "It does not contain design presets.");
         row("plots", R"({"name": "A", "plots": {"&X": ["a", "b"], "^Y": []}})", "A: : &X=a/b ^Y=");
         row("plots: no captions", R"({"name": "A", "plots": {"&X": [1]}})",
-            "\"A\": the captions of \"&X\" are not a list of texts.");
+            "\"A\": the captions of \"&X\" are not a list of strings.");
         row("plots: none", R"({"name": "A", "plots": {}})", "\"A\" has no plots.");
         row("plots: other", R"(], "format": "vkd-design-presets", "y": [)",
             "It does not contain presets of plots.");

@@ -34,13 +34,13 @@ PresetCaptions captionsOf(const QVariantMap& contents, const PlotsOnPage& page);
 /// Returns the number of pictures that are added when a preset with these contents is applied.
 int addedPictures(const QVariantMap& contents, const PlotsOnPage& page);
 
-/// Whether the plots of a preset replace the chosen plots or are added to them.
+/// Specifies whether the plots of a preset replace the chosen plots or are added to them.
 enum class PlotsOfPreset { Replace, Add };
 
-/// Returns the selection text after a preset with these contents is applied. Plots of which some
-/// load cases are already checked keep these load cases; the others are checked with all load
-/// cases. `shown` is the selection text of the page, and `all` the same text with the plots and
-/// load cases that the page does not offer.
+/// Returns the selection text after a preset with these contents is applied. If some load cases of
+/// a plot are already checked, they do not change; other plots are checked with all their load
+/// cases. `shown` is the selection text of the page, and `all` is the same text, extended by the
+/// plots and load cases that the page does not offer.
 QString selectionWithPreset(const QVariantMap& contents, PlotsOfPreset mode, const QString& shown,
                             const QString& all);
 

@@ -35,7 +35,7 @@ bool isListOfTexts(const QJsonValue& value)
                        [](const QJsonValue& element) { return element.isString(); });
 }
 
-/// The format of the contents of a preset. The texts have to be translated.
+/// The format of the contents of a preset. The messages are not translated yet.
 struct ContentsFormat
 {
     QLatin1String fileFormat; ///< value of "format"
@@ -46,7 +46,7 @@ struct ContentsFormat
     const char* wrongValue;
 };
 
-/// Returns the format of the contents of a kind of presets.
+/// Returns the format of the contents for a kind of presets.
 const ContentsFormat& formatOf(PresetKind kind)
 {
     static const ContentsFormat design{
@@ -63,7 +63,8 @@ const ContentsFormat& formatOf(PresetKind kind)
         isListOfTexts,
         QT_TRANSLATE_NOOP("presetJson", "It does not contain presets of plots."),
         QT_TRANSLATE_NOOP("presetJson", "\"%1\" has no plots."),
-        QT_TRANSLATE_NOOP("presetJson", "\"%1\": the captions of \"%2\" are not a list of texts."),
+        QT_TRANSLATE_NOOP("presetJson",
+                          "\"%1\": the captions of \"%2\" are not a list of strings."),
     };
     return kind == PresetKind::Plots ? plots : design;
 }

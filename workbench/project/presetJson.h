@@ -20,8 +20,8 @@ struct PresetReading
     QString fault; ///< the first fault, a sentence in the desktop language
 };
 
-/// Reads presets of a kind. Names and descriptions are in the given language if the file contains a
-/// translation. Rejects files of another kind or of a newer version and members that this version
+/// Reads presets of one kind. Names and descriptions are in the given language if the file contains
+/// a translation. Rejects files of another kind or of a newer version and members that this version
 /// does not know, but does not check names and values of parameters; the page does.
 PresetReading readPresets(PresetKind kind, const QByteArray& json, vkd::Language language);
 

@@ -431,7 +431,7 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Auch Grafiken von Volumenelementen</translation>
     </message>
     <message>
-        <source>Plots on offer</source>
+        <source>Offered plots</source>
         <translation>Angebotene Grafiken</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>„%1“ enthält keine Grafiken.</translation>
     </message>
     <message>
-        <source>"%1": the captions of "%2" are not a list of texts.</source>
+        <source>"%1": the captions of "%2" are not a list of strings.</source>
         <translation>„%1“: Die Titel von „%2“ sind keine Liste von Texten.</translation>
     </message>
 </context>
@@ -842,8 +842,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Vorlage aus Auswahl</translation>
     </message>
     <message>
-        <source>This preset adds %1 pictures to the script. Is it intended?</source>
-        <translation>Diese Vorlage fügt dem Skript %1 Bilder hinzu. Ist das gewollt?</translation>
+        <source>This preset adds %1 pictures to the script. Do you want to continue?</source>
+        <translation>Diese Vorlage fügt dem Skript %1 Bilder hinzu. Fortfahren?</translation>
     </message>
 </context>
 <context>

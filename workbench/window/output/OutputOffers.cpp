@@ -102,7 +102,7 @@ QWidget* OutputOffers::newContentTab(QWidget* parent)
     auto tab = new QWidget(parent);
     setHelpTopic(tab, "GRAV/CONTENTS");
     m_contents =
-        new VKD_QT_RadioButtonGroup(tr("Plots on offer"), {model, solids}, tab, "ContentGroup");
+        new VKD_QT_RadioButtonGroup(tr("Offered plots"), {model, solids}, tab, "ContentGroup");
     m_contents->setButton(0);
     auto layout = new QVBoxLayout(tab);
     layout->addWidget(m_contents);

@@ -25,8 +25,8 @@ public:
     /// The page owns the object. `view` is the view of the page.
     OutputOffers(ZobHandle project, VKD_P_WidgetGraphicalOutput* page, AnimatorView* view);
 
-    /// Adds the tabs and the action for presets to the dialog. `projectPath` is a proposal for file
-    /// dialogs.
+    /// Adds the tabs and the action for presets to the dialog. `projectPath` is the initial path in
+    /// file dialogs.
     void addTo(VKD_H_TabDialog* dialog, const QString& projectPath);
 
     /// Shows the saved state without emitting a signal, and clears the undo steps of the page.

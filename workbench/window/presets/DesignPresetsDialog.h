@@ -8,8 +8,8 @@ namespace workbench {
 class OpenProject;
 class PresetPartBoxes;
 
-/// Applies parts of a preset to the selected rows of a design page. There are presets that are
-/// supplied, those of the user and those of the project.
+/// Applies parts of a preset to the selected rows of a design page. The dialog lists the supplied
+/// presets, those of the user and those of the project.
 class DesignPresetsDialog : public PresetsDialog
 {
     Q_OBJECT

@@ -72,7 +72,8 @@ bool PlotPresetsDialog::confirms(const Preset& preset)
     return pictures <= ManyPictures ||
            VKD_QT_MessageBox::warning(
                this, windowTitle(),
-               tr("This preset adds %1 pictures to the script. Is it intended?").arg(pictures),
+               tr("This preset adds %1 pictures to the script. Do you want to continue?")
+                   .arg(pictures),
                QMessageBox::Yes, QMessageBox::No, 0) == QMessageBox::Yes;
 }
 

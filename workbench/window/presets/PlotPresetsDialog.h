@@ -21,7 +21,7 @@ public:
     using ApplyPlots = std::function<void(const QVariantMap& contents, PlotsOfPreset mode,
                                           const QString& stepName)>;
 
-    /// `tree` is the tree of the page, and `projectPath` the proposal for the folder of files.
+    /// `tree` is the tree of the page, and `projectPath` is the initial path in file dialogs.
     PlotPresetsDialog(const QTreeWidget& tree, const ApplyPlots& applyPlots,
                       const QString& projectPath, QWidget* parent);
 

@@ -13,8 +13,8 @@ namespace workbench {
 
 class PresetForm;
 
-/// Lists presets of one kind by their places, and manages them. Each change is stored at once.
-/// Derived classes show the contents of a preset and apply it to a page.
+/// Lists the presets of one kind, grouped by place, and manages them. Each change is stored at
+/// once. Derived classes show the contents of a preset and apply it to a page.
 class PresetsDialog : public VKD_H_Dialog
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ protected:
     virtual std::unique_ptr<PresetForm> newForm() = 0;
     /// Asks the user, if necessary, whether to apply a preset.
     virtual bool confirms(const Preset& preset) = 0;
-    /// Applies a preset as an undo step with this name. Returns the reasons if that is not
+    /// Applies a preset as an undo step with this name. Returns the reasons if this is not
     /// possible.
     virtual QStringList applyToPage(const Preset& preset, const QString& stepName) = 0;
 
