@@ -9,11 +9,11 @@
 namespace workbench {
 
 /// The kinds of presets. Each kind has its own files and entries.
-/// - The contents of a preset of design parameters are numbers in base units, keyed by field name,
-///   with an invalid value for "not set", as exchanged with the page (see docs/embedding.md).
-///   Applying a preset does not change parameters that it does not contain.
-/// - The contents of a preset of plots are lists of captions, keyed by plot identifier. The captions
-///   are for display only, in the language in which the preset was created.
+/// - A preset of design parameters contains numbers in base units, keyed by field name, with an
+///   invalid value for "not set", as exchanged with the page (see docs/embedding.md). Applying a
+///   preset does not change parameters that it does not contain.
+/// - A preset of plots contains lists of captions, keyed by plot identifier. The captions are for
+///   display only, in the language in which the preset was created.
 enum class PresetKind { DesignParameters, Plots };
 
 struct Preset

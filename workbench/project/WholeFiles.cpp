@@ -46,7 +46,7 @@ WholeFiles::~WholeFiles()
 {
     for (const File& file : m_files) {
         remove(file.temporary);
-        if (m_reason.isEmpty() || !file.isPut) // otherwise it has the only copy of the old contents
+        if (m_reason.isEmpty() || !file.isPut) // otherwise, it is the only old copy
             remove(file.backup());
     }
 }
