@@ -16,7 +16,7 @@ namespace testsupport {
 /// - dialog choices or numbers that the mouse wheel changes;
 /// - mnemonics and shortcuts that are used twice.
 /// Cells are not checked, because tables may truncate them. `fixedColumns` are the object names of
-/// tables whose headers may also be truncated. In windows of the classes `tabByColumns`, Tab
+/// tables whose headers may also be truncated. In windows whose class is in `tabByColumns`, Tab
 /// follows the columns of all group boxes.
 QStringList faults(QWidget& window, const QSet<QString>& fixedColumns = {},
                    const QSet<QString>& tabByColumns = {});

@@ -23,7 +23,7 @@ constexpr auto Shift = Qt::ShiftModifier;
 const QLatin1String Aimed("camera1 3 -1 0.5 20 2 1.5 0.25 4");
 
 /// Two plates of groups 7 and 8, side by side. Seen from above in a view of 600 by 400 pixels,
-/// they cover the left and the right half of its middle.
+/// they are in the middle of the view, one in the left half and one in the right.
 Model plates()
 {
     Model model;

@@ -168,7 +168,7 @@ void ScriptView::scrollTo(int position)
 {
     QScrollBar* down = verticalScrollBar();
     const int line = m_lines.lineAt(position);
-    int first = line; // the topmost line with which `line` is completely visible
+    int first = line; // the first visible line, with `line` fully in view
     int room = viewport()->height() - 2 * Margin - heightOf(line);
     while (first > down->value() && (room -= heightOf(first - 1)) >= 0)
         --first;

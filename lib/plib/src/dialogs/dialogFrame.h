@@ -30,7 +30,7 @@ void addField(VKD_QT_GridLayout* grid, int row, int column, QWidget* field, cons
 /// aligned and usually filled one after the other, so ByColumns needs the fewest keystrokes.
 enum class TabOrder { ByRows, ByColumns };
 
-/// Deletes the boxes with fields. Their pointers in the dialog become invalid.
+/// Deletes the boxes and their fields. The dialog's pointers to the fields become invalid.
 void removeBoxes(VKD_QT_Dialog* dialog);
 
 /// Inserts filled boxes at the top of the dialog. The columns of their grids have the same widths,
