@@ -37,7 +37,7 @@ public:
     void find(const QString& text, bool checkedOnly);
     bool isActive() const { return bool(m_before); }
 
-    /// Returns the number of items found: plots that match as a whole, and single rows of other plots.
+    /// Returns the number of items found: plots that match as a whole, and rows of other plots.
     int count() const { return int(m_places.size()); }
     /// Returns the index of the current item among the items found, or -1.
     int position() const;
