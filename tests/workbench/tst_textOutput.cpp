@@ -1,4 +1,5 @@
 #include "ProjectTest.h"
+#include "window/choice/loadCaseKinds.h"
 #include "window/textoutput/CombinationTable.h"
 #include "window/textoutput/ExtentFields.h"
 #include "window/textoutput/TextOutputDialog.h"
@@ -164,32 +165,43 @@ private Q_SLOTS:
 
     void kinds_data()
     {
-        const Columns<int> row("kind");
-        row("", 0);
-        row("Tragfähigkeit, ständig und vorübergehend", 0);
-        row("Außergewöhnlich, Anprall", 3);
-        row("Accidental: impact", 3);
-        row("Brandfall", 4);
-        row("ULS fire", 4);
-        row("Erdbeben X+0.3Y", 5);
-        row("SEISMIC", 5);
-        row("GZG, charakteristisch", 6);
-        row("SLS, rare", 6);
-        row("häufig", 7);
-        row("SLS frequent", 7);
-        row("Gebrauchstauglichkeit, quasi-ständig", 8);
-        row("quasi permanent", 8);
-        row("nicht-häufig", 9);
-        row("Non-frequent", 9);
+        const Columns<int, QString> row("kind", "loads");
+        row("", 0, "Other loads");
+        row("Tragfähigkeit, ständig und vorübergehend", 0, "Permanent loads");
+        row("Außergewöhnlich, Anprall", 3, "Other loads");
+        row("Accidental: impact", 3, "Other loads");
+        row("Brandfall", 4, "Other loads");
+        row("ULS fire", 4, "Other loads");
+        row("Erdbeben X+0.3Y", 5, "Other loads");
+        row("SEISMIC", 5, "Other loads");
+        row("GZG, charakteristisch", 6, "Other loads");
+        row("SLS, rare", 6, "Other loads");
+        row("häufig", 7, "Other loads");
+        row("SLS frequent", 7, "Other loads");
+        row("Gebrauchstauglichkeit, quasi-ständig", 8, "Other loads");
+        row("quasi permanent", 8, "Other loads");
+        row("nicht-häufig", 9, "Other loads");
+        row("Non-frequent", 9, "Other loads");
+        row("Brandenburg", 0, "Other loads");
+        row("nicht ständige Lasten", 0, "Other loads");
+        row("Self weight", 0, "Permanent loads");
+        row("Dachnutzlast Krankenhaus", 0, "Live loads");
+        row("Dachkranz", 0, "Other loads");
+        row("Brückenkran", 0, "Cranes");
+        row("Kranbahn", 0, "Cranes");
+        row("Vorspannung Kranbahn", 0, "Prestress");
+        row("Windlast", 0, "Wind");
+        row("Traffic, window side", 0, "Live loads");
     }
 
-    /// The name of the data row is the title of the combination.
+    /// The name of the data row is the title of the combination or of the load case.
     void kinds()
     {
         const QString title = QString::fromUtf8(QTest::currentDataTag());
         CombinationTable table({{101, title, 2}}, nullptr, "Combinations");
         const int kind = table.kinds().value(101);
         QTEST(kind, "kind");
+        QTEST(loadCaseKind(title), "loads");
         for (const QMap<int, int>& strange :
              {QMap<int, int>(), {{7, 3}}, {{101, 2}}, {{101, -1}}}) {
             table.setKinds({{101, 4}});

@@ -321,6 +321,10 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
 <context>
     <name>LoadCaseKinds</name>
     <message>
+        <source>Prestress</source>
+        <translation>Vorspannung</translation>
+    </message>
+    <message>
         <source>Permanent loads</source>
         <translation>Ständige Lasten</translation>
     </message>

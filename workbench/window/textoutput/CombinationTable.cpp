@@ -35,7 +35,7 @@ int proposedKind(const QString& title)
         int kind;
         QRegularExpression words;
     } proposals[] = {
-        {Group::All_F, QRegularExpression(QStringLiteral("\\b(fire|brand)"))},
+        {Group::All_F, QRegularExpression(QStringLiteral("\\b(fire|brand(?!enburg))"))},
         {Group::All_E, QRegularExpression(QStringLiteral("earthquake|seismic|erdbeben"))},
         {Group::All_A, QRegularExpression(QStringLiteral("accidental|au(ß|ss)ergewöhnlich"))},
         {Group::All_PERM, QRegularExpression(QStringLiteral("quasi[- ]?(permanent|ständig)"))},
