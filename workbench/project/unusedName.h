@@ -1,16 +1,24 @@
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 
 namespace workbench {
 
-/// Returns the name, with a number appended if `isUsed` returns true for the name itself.
+/// Returns the name, with a number appended if `isUsed` returns true for the name itself. A short
+/// number that was appended before is increased: a copy of "Walls (2)" is "Walls (3)".
 template <typename IsUsed>
 QString unusedName(const QString& name, const IsUsed& isUsed)
 {
-    QString unused = name;
-    for (int number = 2; isUsed(unused); ++number)
-        unused = QStringLiteral("%1 (%2)").arg(name).arg(number);
+    if (!isUsed(name))
+        return name;
+    const auto match = QRegularExpression(QStringLiteral("^(.+) \\(([1-9]\\d?)\\)$")).match(name);
+    const QString base = match.hasMatch() ? match.captured(1) : name;
+    QString unused;
+    int number = match.hasMatch() ? match.captured(2).toInt() : 1;
+    do
+        unused = base + QStringLiteral(" (%1)").arg(++number);
+    while (isUsed(unused));
     return unused;
 }
 
