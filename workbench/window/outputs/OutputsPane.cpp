@@ -30,13 +30,15 @@ public:
     }
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
-    /// Applies the name in an open editor.
-    void finishEditing()
+    QString finishEditing()
     {
-        if (auto editor = viewport()->findChild<QLineEdit*>()) {
-            commitData(editor);
-            closeEditor(editor, QAbstractItemDelegate::NoHint);
-        }
+        const auto editor = qobject_cast<QLineEdit*>(indexWidget(currentIndex()));
+        if (!editor)
+            return QString();
+        const QString text = editor->text();
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+        return text;
     }
 };
 
@@ -46,6 +48,14 @@ QToolButton* newButton(QAction* action, const char* name, QWidget* parent)
     QToolButton* button = actionButton(action, parent);
     button->setObjectName(QLatin1String(name));
     return button;
+}
+
+/// Sets the flags only once, because setting them would reset the text in an open editor.
+QListWidgetItem* addItem(QListWidget* list)
+{
+    auto item = new QListWidgetItem(list);
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable);
+    return item;
 }
 } // namespace
 
@@ -96,7 +106,7 @@ QAction* OutputsPane::add(const char* name, const QKeySequence& shortcut)
     action->setObjectName(QLatin1String(name));
     action->setShortcut(shortcut);
     // An editor that is open while the list changes its current row would rename another output.
-    connect(action, &QAction::triggered, this, [this] { m_list->finishEditing(); });
+    connect(action, &QAction::triggered, this, &OutputsPane::finishEditing);
     return action;
 }
 
@@ -151,15 +161,12 @@ void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
     while (m_list->count() > outputs.size())
         delete m_list->takeItem(m_list->count() - 1);
     for (int i = 0; i < outputs.size(); ++i) {
-        if (i == m_list->count())
-            m_list->addItem(QString());
-        QListWidgetItem* item = m_list->item(i);
+        QListWidgetItem* item = i < m_list->count() ? m_list->item(i) : addItem(m_list);
         QFont font = m_list->font();
         font.setItalic(outputs[i].isChanged);
         item->setText(outputs[i].name);
         item->setFont(font);
         item->setToolTip(outputs[i].isChanged ? tr("Not yet saved in the project") : QString());
-        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable);
     }
     m_list->setCurrentRow(current);
     for (QAction* action : menu->actions())
@@ -183,6 +190,11 @@ void OutputsPane::editName()
         m_list->setFocus();
         m_list->editItem(m_list->currentItem());
     }
+}
+
+QString OutputsPane::finishEditing()
+{
+    return m_list->finishEditing();
 }
 
 void OutputsPane::setTexts()

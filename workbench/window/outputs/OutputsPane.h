@@ -35,6 +35,9 @@ public:
     void setAbsentPlots(int count);
     /// Opens the editor for the name of the current output, if the list is visible.
     void editName();
+    /// Closes the editor for the name and applies its text, which is returned. Without an editor,
+    /// returns a null string.
+    QString finishEditing();
 
     /// The menu with all actions.
     QMenu* const menu;
