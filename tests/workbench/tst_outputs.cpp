@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
+#include <QDockWidget>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressDialog>
@@ -18,27 +19,32 @@ using namespace windowtest;
 using namespace workbench;
 
 namespace {
-/// Returns the names of the outputs, with marks for the current output and for changed outputs.
+/// Returns the names and pages of the outputs, with marks for the current output and for changed
+/// outputs.
 QString shown(const OutputList& outputs)
 {
     QStringList texts;
     for (int i = 0; i < outputs.size(); ++i)
         texts << (i == outputs.currentIndex() ? QStringLiteral(">") : QString()) + outputs.name(i) +
+                     outputs.at(i).state.page +
                      (outputs.isChanged(i) ? QStringLiteral("*") : QString());
     return texts.join(QLatin1Char('|')) +
            (outputs.isChanged() ? QStringLiteral(" changed") : QString());
 }
 
-/// Carries out steps: + new output, - remove, ! changed state, ? discard changes, =NAME rename,
-/// @N make current, ^N move, s store. An underscore stands for a space.
+/// Carries out steps: + new output, 2 duplicate, - remove, !PAGE change, ? discard changes, =NAME
+/// rename, @N make current, ^N move, s store. An underscore stands for a space.
 void perform(const QString& steps, OutputList* outputs)
 {
     for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         const QString rest = step.mid(1).replace(QLatin1Char('_'), QLatin1Char(' '));
         switch (step[0].unicode()) {
         case '+': outputs->add(outputs->newName(), {}); break;
+        case '2':
+            outputs->add(outputs->unusedName(outputs->name(outputs->currentIndex())), {});
+            break;
         case '-': outputs->remove(); break;
-        case '!': outputs->setState({QStringLiteral("x"), 0, {}}, true); break;
+        case '!': outputs->setState({rest, 0, {}}, true); break;
         case '?': outputs->revert(); break;
         case '=': outputs->rename(rest); break;
         case '@': outputs->setCurrent(rest.toInt()); break;
@@ -63,7 +69,8 @@ QString listed(const QWidget& window)
 
 QLineEdit* typeName(const QWidget& window, const char* name)
 {
-    auto editor = find<QListWidget>(window, "OutputList")->findChild<QLineEdit*>();
+    const auto list = find<QListWidget>(window, "OutputList");
+    auto editor = qobject_cast<QLineEdit*>(list->indexWidget(list->currentIndex()));
     editor->setText(QLatin1String(name));
     return editor;
 }
@@ -73,10 +80,15 @@ void enterName(const QWidget& window, const char* name)
     QTest::keyClick(typeName(window, name), Qt::Key_Return);
 }
 
-QTreeWidget* plots(const QWidget& window)
+OutputDialog* outputDialog(const QWidget& window)
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // destroys the old dialog
-    return window.findChild<OutputDialog*>()->findChild<QTreeWidget*>();
+    return window.findChild<OutputDialog*>();
+}
+
+QTreeWidget* plots(const QWidget& window)
+{
+    return outputDialog(window)->findChild<QTreeWidget*>();
 }
 } // namespace
 
@@ -100,7 +112,10 @@ private Q_SLOTS:
         row("moved back", "+ s ^0 ^1", "Output 1|>Output 2");
         row("names exchanged", "+ s =a @0 =Output_2 ^1 @0 =Output_1",
             ">Output 1*|Output 2* changed");
-        row("changes discarded", "! + s ! @0 ! ?", ">Output 1|Output 2* changed");
+        row("changes discarded", "!:x + s !:y @0 !:z ?", ">Output 1:x|Output 2:y* changed");
+        row("duplicates", "=Walls 2 2 =Top_(2024) 2",
+            "Walls*|Walls (2)*|Top (2024)*|>Top (2024) (2)* changed");
+        row("duplicate of a duplicate", "=Walls_(2) 2", "Walls (2)*|>Walls (3)* changed");
     }
 
     /// A list does not change when it is stored and read again.
@@ -119,6 +134,38 @@ private Q_SLOTS:
         QCOMPARE(read.names(), outputs.names());
         for (int i = 0; i < read.size(); ++i)
             QCOMPARE(read.at(i).state.page, outputs.at(i).state.page);
+    }
+
+    void following_data()
+    {
+        const Columns<QString, QString, QString> row("mine", "theirs", "expected");
+        row("changes to different outputs", "@0 !:m", "@1 !:t", ">A:m*|B:t|C changed");
+        row("changes to one output", "@0 !:m", "@0 !:t", ">A:m*|B|C changed");
+        row("their change to the current output", "@1 =b @0", "@0 !:t", ">A:t|b*|C changed");
+        row("discarded", "@0 !:m ?", "@0 !:t", ">A:t|B|C");
+        row("their new output", "@0", "@1 + !:t", ">A|B|C|Output 4:t changed");
+        row("two new outputs with one name", "@2 +", "@2 + !:t",
+            "A|B|C|>Output 4*|Output 4 (2):t* changed");
+        row("removed by me", "@0 -", "@0 !:t", ">B|C changed");
+        row("removed by them", "@0 !:m @1", "@0 - @0 - ", "A:m*|>B*|C changed");
+        row("unchanged and removed by them", "@2", "@0 -", "B|>C");
+        row("renamed by both", "@1 =m !:m", "@1 =t", "A|>m:m*|C|t changed");
+        row("moved by both", "@0 ^2", "@1 ^0", "B|C|>A changed");
+    }
+
+    /// The program of another user has stored the list of the project in the meantime.
+    void following()
+    {
+        QFETCH(const QString, mine);
+        QFETCH(const QString, theirs);
+        OutputList outputs;
+        perform(QStringLiteral("+ + @0 =A @1 =B @2 =C s"), &outputs);
+        OutputList project = outputs;
+        perform(mine, &outputs);
+        perform(theirs + QLatin1String(" s"), &project);
+        for (int i = 0; i < 2; ++i)
+            outputs.follow(project);
+        QTEST(shown(outputs), "expected");
     }
 
     void names_data()
@@ -211,6 +258,119 @@ private Q_SLOTS:
         answerFileDialog(m_folder->path());
         trigger(*window, "ExportAllSheets");
         QVERIFY(readFile(path("Walls.pdf")).startsWith("%PDF"));
+    }
+
+    void typedName_data()
+    {
+        const Columns<QByteArray> row("end");
+        for (const char* end : {"Save", "SaveAs", "Reload", "German", "Quit"})
+            row(end, end);
+        row("the script is updated", "");
+    }
+
+    /// A name that is being typed is not lost.
+    void typedName()
+    {
+        QFETCH(const QByteArray, end);
+        const auto window = open("a.zob");
+        QPointer<OutputDialog> dialog = window->findChild<OutputDialog*>();
+        trigger(*window, "RenameOutput");
+        QLineEdit* editor = typeName(*window, "Walls");
+        if (end == "Quit")
+            whenModal([](QWidget* box) { press(box, QMessageBox::Save); });
+        if (end == "SaveAs")
+            answerFileDialog(path("b.zob"));
+        if (end.isEmpty()) {
+            Q_EMIT dialog->choiceChanged();
+            QTest::keyClick(editor, Qt::Key_Return);
+        } else {
+            trigger(*window, end);
+        }
+        QTRY_VERIFY(listed(*window).contains(QLatin1String("Walls")));
+        const QByteArray file = end == "SaveAs" ? "b.zob" : "a.zob";
+        const bool isStored = end.startsWith("Save") || end == "Quit";
+        QCOMPARE(commandLine({QStringLiteral("outputs"), path(file)}).trimmed() == "Walls",
+                 isStored);
+    }
+
+    /// A name that is not allowed is reported, and the window stays open.
+    void refusedInput()
+    {
+        const auto window = open("a.zob");
+        trigger(*window, "RenameOutput");
+        typeName(*window, "  ");
+        QStringList messages;
+        readMessage(messages);
+        QVERIFY(!window->close());
+        QCOMPARE(messages, {QStringLiteral("An output needs a name.")});
+        trigger(*window, "DuplicateOutput");
+        enterName(*window, "Walls");
+        auto dock = find<QDockWidget>(*window, "OutputDock");
+        auto field = find<QLineEdit>(*dock, "m_boxedEdit_edit");
+        for (const char* action : {"PreviousOutput", "Save", "SaveAs"}) {
+            field->setText(QStringLiteral("1,2,3"));
+            dock->hide();
+            trigger(*window, action);
+            QTRY_COMPARE(window->focusWidget(), field);
+            QVERIFY(dock->isVisible());
+            QCOMPARE(listed(*window), QStringLiteral("Output 1|>/Walls/"));
+        }
+    }
+
+    /// Discard in the dock affects only its output.
+    void discarding()
+    {
+        const auto window = open("a.zob");
+        changeChoice(*window);
+        const QString mine = script(*window);
+        trigger(*window, "DuplicateOutput");
+        enterName(*window, "Walls");
+        plots(*window)->topLevelItem(1)->setCheckState(0, Qt::Unchecked);
+        QTRY_VERIFY(script(*window) != mine);
+        QString question;
+        whenModal([&question](QWidget* box) {
+            question = qobject_cast<QMessageBox*>(box)->text();
+            press(box, QMessageBox::Discard);
+        });
+        find<QDockWidget>(*window, "OutputDock")->close();
+        QVERIFY(question.startsWith(QLatin1String("The output \"Walls\" has not yet")));
+        QTRY_COMPARE(script(*window), mine);
+        QCOMPARE(listed(*window), QStringLiteral("/Output 1/|>/Walls/"));
+        trigger(*window, "PreviousOutput");
+        QCoreApplication::processEvents(); // shows the output
+        QCOMPARE(listed(*window), QStringLiteral(">/Output 1/|/Walls/"));
+        QCOMPARE(script(*window), mine);
+    }
+
+    /// Discard shows the state that another program has stored, and Apply preserves its outputs.
+    void othersOutputs()
+    {
+        const auto window = open("a.zob");
+        changeChoice(*window);
+        trigger(*window, "DuplicateOutput");
+        enterName(*window, "Walls");
+        auto document = VKD_H_ZOBDoc::open(path("a.zob"));
+        OutputList theirs;
+        theirs.setState({QString(), 0, {1}}, true);
+        theirs.add(QStringLiteral("Theirs"), {});
+        QVERIFY(theirs.put(document->handle()).isOk());
+        trigger(*window, "Reload");
+        QTRY_COMPARE(listed(*window), QStringLiteral("/Output 1/|>/Walls/|Theirs"));
+        trigger(*window, "PreviousOutput");
+        QCoreApplication::processEvents(); // shows the output
+        outputDialog(*window)->reject();
+        QTRY_COMPARE(listed(*window), QStringLiteral(">Output 1|/Walls/|Theirs"));
+        QCOMPARE(outputDialog(*window)->state().leftOutNumbers, QSet<int>{1});
+        theirs.add(QStringLiteral("More"), {});
+        QVERIFY(theirs.put(document->handle()).isOk());
+        whenModal([](QWidget* box) {
+            qobject_cast<QMessageBox*>(box)->buttons().at(0)->click(); // Overwrite
+        });
+        trigger(*window, "Save");
+        QCOMPARE(listed(*window), QStringLiteral(">Output 1|Walls|Theirs|More"));
+        const OutputList stored = OutputList::read(document->handle());
+        QCOMPARE(shown(stored).count(QLatin1Char('|')), 3);
+        QCOMPARE(stored.at(0).state.leftOutNumbers, QSet<int>{1});
     }
 
     /// Plots and load cases that the model does not have are kept after another plot has been

@@ -41,6 +41,17 @@ QString nameOr(const QString& name, int index)
 {
     return name.isEmpty() ? defaultName(index + 1) : name;
 }
+
+/// Copies the saved version of an output, except for the parts that the user has changed.
+void followSaved(NamedOutput* output, const NamedOutput& saved)
+{
+    if (output->name == output->savedName)
+        output->name = saved.name;
+    if (!output->isStateChanged)
+        output->state = saved.state;
+    output->savedName = saved.name;
+    output->savedState = saved.state;
+}
 } // namespace
 
 OutputList::OutputList()
@@ -90,10 +101,58 @@ VkdStatus OutputList::put(ZobHandle project) const
 
 void OutputList::setStored()
 {
-    m_storedSize = size();
+    m_storedNames = names();
     for (int i = 0; i < size(); ++i) {
         NamedOutput& output = m_outputs[i];
         output = {output.name, output.state, false, output.name, output.state, i};
+    }
+}
+
+/// Returns the index of the saved version of an output of another list, or -1. An output without a
+/// name is the first one, even if another program has given it a name in the meantime.
+int OutputList::indexOfSaved(const NamedOutput& output) const
+{
+    if (output.savedIndex < 0)
+        return -1;
+    return output.savedName.isEmpty() ? 0 : indexOf(output.savedName);
+}
+
+void OutputList::follow(const OutputList& project)
+{
+    QVector<NamedOutput> outputs;
+    int current = 0;
+    for (int i = 0; i < size(); ++i) {
+        NamedOutput output = m_outputs[i];
+        const int saved = project.indexOfSaved(output);
+        if (saved < 0 && i != m_current && !isChanged(i))
+            continue;
+        output.savedIndex = saved;
+        if (saved >= 0)
+            followSaved(&output, project.at(saved));
+        if (i == m_current)
+            current = outputs.size();
+        outputs << output;
+    }
+    m_outputs = outputs;
+    m_current = current;
+    appendNew(project);
+    m_storedNames = project.names();
+}
+
+/// Appends the outputs that the project did not contain before. They are saved, unless they need
+/// another name here.
+void OutputList::appendNew(const OutputList& project)
+{
+    QSet<int> known;
+    for (const NamedOutput& output : qAsConst(m_outputs))
+        known << output.savedIndex;
+    for (int i = 0; i < project.size(); ++i) {
+        const NamedOutput& added = project.at(i);
+        if (known.contains(i) || m_storedNames.contains(project.name(i)))
+            continue;
+        nameAll();
+        m_outputs << NamedOutput{
+            unusedName(project.name(i)), added.state, false, added.name, added.state, i};
     }
 }
 
@@ -106,7 +165,7 @@ bool OutputList::isChanged(int index) const
 
 bool OutputList::isChanged() const
 {
-    bool changed = size() != m_storedSize;
+    bool changed = size() != m_storedNames.size();
     for (int i = 0; i < size(); ++i)
         changed = changed || isChanged(i) || m_outputs[i].savedIndex != i;
     return changed;
@@ -122,6 +181,15 @@ QStringList OutputList::names() const
     QStringList names;
     for (int i = 0; i < size(); ++i)
         names << name(i);
+    return names;
+}
+
+QStringList OutputList::unsavedNames() const
+{
+    QStringList names;
+    for (int i = 0; i < size(); ++i)
+        if (m_outputs[i].savedIndex < 0)
+            names << name(i);
     return names;
 }
 

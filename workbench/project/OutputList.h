@@ -17,7 +17,7 @@ struct NamedOutput
     bool isStateChanged = false;
     QString savedName;
     OutputState savedState; ///< for a new output, its initial state
-    int savedIndex = -1;    ///< -1 for a new output
+    int savedIndex = -1;    ///< -1 for an output that the project does not contain
 };
 
 /// The outputs of a project, of which there is always at least one, and the current output. The
@@ -36,6 +36,10 @@ public:
     VkdStatus put(ZobHandle project) const;
     /// Must be called after the outputs have been stored.
     void setStored();
+    /// Includes the changes that another program has stored in the project, whose list is
+    /// `project`. Unsaved changes and the current output are preserved, even if the project no
+    /// longer contains the output. Outputs are matched by their saved names; new ones are appended.
+    void follow(const OutputList& project);
     /// These functions return whether the list or any output has unsaved changes, or whether one
     /// output has unsaved changes.
     bool isChanged() const;
@@ -45,6 +49,8 @@ public:
     /// Returns the name. An output without a name has a default name in the desktop's language.
     QString name(int index) const;
     QStringList names() const;
+    /// Returns the names of the outputs that the project does not contain.
+    QStringList unsavedNames() const;
     /// Returns the index of the output with this name, or -1.
     int indexOf(const QString& name) const;
     const NamedOutput& at(int index) const { return m_outputs[index]; }
@@ -73,11 +79,13 @@ public:
     QString faultOfName(const QString& name) const;
 
 private:
+    int indexOfSaved(const NamedOutput& output) const;
+    void appendNew(const OutputList& project);
     void nameAll();
 
     QVector<NamedOutput> m_outputs;
     int m_current = 0;
-    int m_storedSize = 1;
+    QStringList m_storedNames;
 };
 
 } // namespace workbench

@@ -25,6 +25,11 @@ QString rowName(const vkd::dbo::LoadCase& loadCase)
 }
 } // namespace
 
+bool OutputState::operator==(const OutputState& other) const
+{
+    return page == other.page && content == other.content && leftOutNumbers == other.leftOutNumbers;
+}
+
 OutputState OutputState::read(ZobHandle project)
 {
     return fromEntries(VKD_H_ProjectDialogPage(project, OutputDialogPage));

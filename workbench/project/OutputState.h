@@ -24,6 +24,8 @@ struct OutputState
     int content = OfTheModel; ///< checked button of the content radio group
     QSet<int> leftOutNumbers; ///< load cases that are unchecked in the table
 
+    bool operator==(const OutputState& other) const;
+
     /// Reads the state of the first output of a project.
     static OutputState read(ZobHandle project);
     /// These functions read and set the entries of the output with this number. The keys of output

@@ -1693,6 +1693,22 @@ Do you want to store it?</source>
         <translation>Die Auswahl der Grafiken ist geändert und steht noch nicht im Projekt.
 Soll sie gespeichert werden?</translation>
     </message>
+    <message>
+        <source>The output &quot;%1&quot; is not in the project. Its original plots are selected again.</source>
+        <translation>Die Ausgabe „%1“ steht nicht im Projekt. Ihre ursprünglichen Grafiken sind wieder ausgewählt.</translation>
+    </message>
+    <message>
+        <source>The output &quot;%1&quot; has not yet been stored in the project.
+Do you want to store it? Discard selects its original plots again.</source>
+        <translation>Die Ausgabe „%1“ steht noch nicht im Projekt.
+Soll sie gespeichert werden? „Verwerfen“ wählt wieder ihre ursprünglichen Grafiken aus.</translation>
+    </message>
+    <message>
+        <source>These outputs have not yet been stored in the project: %1
+Do you want to store all outputs?</source>
+        <translation>Diese Ausgaben stehen noch nicht im Projekt: %1
+Sollen alle Ausgaben gespeichert werden?</translation>
+    </message>
 </context>
 <context>
     <name>workbench::OutputScript</name>

@@ -229,6 +229,8 @@ void FileCommands::save()
 
 bool FileCommands::saveAs()
 {
+    if (!m_parts.output->finishEditing())
+        return false;
     OpenProject* project = m_parts.project;
     QWidget* window = m_parts.messages->window();
     const QString path = chooseFileToSave(window, tr("Save Project As"), project->path(),

@@ -21,7 +21,8 @@ bool UnsavedChanges::exist() const
 
 bool UnsavedChanges::store() const
 {
-    return m_design->store() && (!m_output->isChanged() || m_output->store()) &&
+    return m_design->store() && m_output->finishEditing() &&
+           (!m_output->isChanged() || m_output->store()) &&
            (!m_textOutput->isChanged() || m_textOutput->store());
 }
 

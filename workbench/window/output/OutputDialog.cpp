@@ -9,7 +9,6 @@
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_P_WidgetGraphicalOutput_Steps.h>
-#include <VKD_QT_InputField.h>
 #include <VKD_QT_Ok.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_qt_xmlpart.h>
@@ -125,13 +124,12 @@ void OutputDialog::enter()
         tabWidget()->setFocus();
 }
 
-/// Keeps the tabs visible. If a field rejects its text, gives it the focus and does not emit
-/// accepted().
+/// Keeps the tabs visible. OutputEditor stores the state only if no field rejects its text.
 void OutputDialog::done(int result)
 {
     if (result == Rejected)
         Q_EMIT rejected();
-    else if (!vkd_qt_leadToRefusedField(this))
+    else
         Q_EMIT accepted();
 }
 

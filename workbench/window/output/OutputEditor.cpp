@@ -6,6 +6,8 @@
 #include "window/support/SlowWork.h"
 #include "window/support/WindowMessages.h"
 
+#include <VKD_QT_InputField.h>
+
 #include <QAction>
 
 namespace workbench {
@@ -17,7 +19,7 @@ OutputEditor::OutputEditor(OpenProject* project, ProjectAccess* access, WindowMe
     , m_messages(messages)
     , m_dock(dock)
 {
-    m_dock->setMayClose([this] { return mayLeave(); });
+    m_dock->setMayClose([this] { return mayClose(); });
     connect(m_dock, &OutputDock::closed, this, &OutputEditor::leave);
     connect(m_dock->toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
         if (isShown)
@@ -38,10 +40,24 @@ OutputDialog* OutputEditor::dialog()
     return m_dialog.get();
 }
 
-std::optional<EditedOutputs> OutputEditor::present() const
+bool OutputEditor::finishEditing()
+{
+    if (!m_dialog)
+        return true;
+    if (!m_finishName())
+        return false;
+    if (!vkd_qt_leadToRefusedField(m_dialog.get()))
+        return true;
+    edit(); // the dock may be closed
+    vkd_qt_leadToRefusedField(m_dialog.get());
+    return false;
+}
+
+std::optional<EditedOutputs> OutputEditor::present()
 {
     if (!m_dialog)
         return std::nullopt;
+    m_finishName();
     return EditedOutputs{m_dialog->present(), m_outputs, isChanged()};
 }
 
@@ -112,18 +128,23 @@ bool OutputEditor::markChanges()
 
 bool OutputEditor::store()
 {
-    if (!dialog())
+    if (!dialog() || !finishEditing())
         return false;
     OutputList stored = m_outputs;
-    stored.setState(m_dialog->state(), true);
-    const auto put = [this, &stored] { return stored.put(m_project->handle()).code; };
-    if (!m_access->storePart(ProjectPart::Output, put,
-                             tr("The choice of plots cannot be stored in the file %1."),
-                             [this] { reload(); }))
+    const bool isDialogStored = m_dialog->isChanged();
+    if (isDialogStored)
+        stored.setState(m_dialog->state(), true);
+    if (!m_access->storePart(
+            ProjectPart::Output, [this, &stored] { return put(&stored).code; },
+            tr("The choice of plots cannot be stored in the file %1."), [this] { reload(); }))
         return false;
+    const bool isOther = !(stored.current().state == m_outputs.current().state);
     m_outputs = stored;
     m_outputs.setStored();
-    m_dialog->setUnchanged();
+    if (isOther && !isDialogStored)
+        renew(); // another program has changed the current output
+    else
+        m_dialog->setUnchanged();
     Q_EMIT modified();
     m_messages->say(tr("The choice of plots has been stored in the project file."));
     return true;
@@ -137,14 +158,24 @@ void OutputEditor::reload()
     renew();
 }
 
-/// Discards the changes to the current output. Changes to other outputs are preserved.
+/// Discards the changes to the current output, and shows its state in the project. Changes to other
+/// outputs are preserved.
 void OutputEditor::discard()
 {
+    OutputList project;
+    if (!m_access->canRead() || !read(&project))
+        return;
+    m_outputs.follow(project);
     m_outputs.revert();
     m_areOutputsRead = m_outputs.isChanged();
     renew();
-    if (m_dialog)
-        m_messages->say(tr("The choice of plots from the project has been restored."));
+    if (!m_dialog)
+        return;
+    m_messages->say(m_outputs.current().savedIndex >= 0
+                        ? tr("The choice of plots from the project has been restored.")
+                        : tr("The output \"%1\" is not in the project. Its original plots are "
+                             "selected again.")
+                              .arg(m_outputs.name(m_outputs.currentIndex())));
 }
 
 void OutputEditor::renew()
@@ -160,22 +191,48 @@ void OutputEditor::renew()
 /// Discards the changes that the user did not want to store when the dock was closed.
 void OutputEditor::leave()
 {
-    if (isChanged())
-        reload();
+    if (m_dialog && m_dialog->isChanged())
+        discard();
+}
+
+/// Asks only about the changes in the dialog, because the list with all outputs stays visible.
+bool OutputEditor::mayClose()
+{
+    if (!m_dialog || !m_dialog->isChanged())
+        return true;
+    const QString question =
+        m_outputs.current().savedIndex >= 0
+            ? tr("The choice of plots has been changed, but not yet stored in the project.\n"
+                 "Do you want to store it?")
+            : tr("The output \"%1\" has not yet been stored in the project.\n"
+                 "Do you want to store it? Discard selects its original plots again.")
+                  .arg(m_outputs.name(m_outputs.currentIndex()));
+    return m_messages->mayLeave(question, [this] { return store(); });
 }
 
 bool OutputEditor::mayLeave()
 {
-    return !isChanged() ||
-           m_messages->mayLeave(
-               tr("The choice of plots has been changed, but not yet stored in the project.\n"
-                  "Do you want to store it?"),
-               [this] { return store(); });
+    if (m_dialog && !m_finishName())
+        return false;
+    if (!isChanged())
+        return true;
+    const QStringList unsaved = m_outputs.unsavedNames();
+    const QString question =
+        unsaved.isEmpty()
+            ? tr("The choice of plots has been changed, but not yet stored in the project.\n"
+                 "Do you want to store it?")
+            : tr("These outputs have not yet been stored in the project: %1\n"
+                 "Do you want to store all outputs?")
+                  .arg(unsaved.join(QLatin1String(", ")));
+    return m_messages->mayLeave(question, [this] { return store(); });
 }
 
 void OutputEditor::followOthers()
 {
-    if (m_dialog && !isChanged() && m_project->isOutdated(ProjectPart::Output))
+    if (!m_dialog || !m_project->isOutdated(ProjectPart::Output))
+        return;
+    m_finishName();
+    if (!isChanged())
         reload();
 }
 

@@ -35,13 +35,21 @@ public:
     /// Returns the dialog, and creates it with the state of the project if it does not exist. If
     /// the project cannot be read, shows an error message and returns null.
     OutputDialog* dialog();
+    /// Sets a function that applies the name that the user is typing, if any. It returns false if
+    /// the name is not allowed.
+    void setFinishName(const std::function<bool()>& finishName) { m_finishName = finishName; }
+    /// Applies the input that the user is typing. If it is not allowed, shows the reason, with the
+    /// field in its tab, and returns false.
+    bool finishEditing();
     /// Returns the state for recreate(), or an empty optional if the dialog does not exist.
-    std::optional<EditedOutputs> present() const;
+    std::optional<EditedOutputs> present();
     /// Returns whether the outputs have unsaved changes.
     bool isChanged() const;
-    /// Stores all outputs in the project. Returns whether this succeeded.
+    /// Stores all outputs in the project. Returns whether this succeeded. If another program has
+    /// stored outputs in the meantime, those without unsaved changes are preserved.
     bool store();
-    /// Asks whether to store changes. Returns false if the user cancels or storing fails.
+    /// Asks whether to store the changes to all outputs. Returns false if the user cancels or
+    /// storing fails.
     bool mayLeave();
 
     /// Opens the dock, if the project can be read, and gives it the focus.
@@ -51,7 +59,7 @@ public:
     bool markChanges();
     /// Creates a new dialog with the state and the outputs of a previous dialog.
     void recreate(const EditedOutputs& before);
-    /// Continues with a project that has been reloaded. Changed outputs are preserved.
+    /// Continues with a project that has been reloaded. Unsaved changes are preserved.
     void continueAfterReload(const EditedOutputs& before);
     /// Destroys the dialog without asking.
     void close();
@@ -68,7 +76,7 @@ public:
     void editList(const std::function<void(OutputList*)>& change);
     /// Makes another output current, and shows it in a new dialog. The changes in the previous
     /// dialog are preserved in the list. If the project cannot be read, shows an error message,
-    /// changes nothing and returns false.
+    /// changes nothing and returns false, as it does if finishEditing() fails.
     bool changeCurrent(const std::function<void(OutputList*)>& change);
     /// Calls `work` with a dialog for each output, until it returns false. Only the dialog of the
     /// current output is shown. Returns whether all calls have returned true. If the project cannot
@@ -85,11 +93,15 @@ Q_SIGNALS:
 
 private:
     bool load();
+    bool read(OutputList* outputs) const;
+    VkdStatus put(OutputList* outputs) const;
+    EditedOutputs followed(EditedOutputs outputs) const;
     void create(const OutputState& state);
     void closeLater();
     void reload();
     void renew();
     void discard();
+    bool mayClose();
     void leave();
 
     OpenProject* m_project;
@@ -100,6 +112,7 @@ private:
     bool m_areOutputsRead = false;
     mutable bool m_isDialogChanged = false; ///< as of the last call to isChanged()
     std::unique_ptr<OutputDialog> m_dialog;
+    std::function<bool()> m_finishName = [] { return true; };
 };
 
 } // namespace workbench

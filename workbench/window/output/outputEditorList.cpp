@@ -20,9 +20,8 @@ bool OutputEditor::load()
     if (m_areOutputsRead)
         return true;
     m_project->look(ProjectPart::Output);
-    VkdStatus status;
-    OutputList outputs = OutputList::read(m_project->handle(), &status);
-    if (!m_messages->succeeds(status, m_project->path(), tr("The file %1 cannot be read.")))
+    OutputList outputs;
+    if (!read(&outputs))
         return false;
     outputs.setCurrent(outputs.indexOf(m_outputs.name(m_outputs.currentIndex())));
     m_outputs = outputs;
@@ -30,13 +29,46 @@ bool OutputEditor::load()
     return true;
 }
 
+/// Reads the outputs of the project. If this fails, shows an error message and returns false.
+bool OutputEditor::read(OutputList* outputs) const
+{
+    VkdStatus status;
+    *outputs = OutputList::read(m_project->handle(), &status);
+    return m_messages->succeeds(status, m_project->path(), tr("The file %1 cannot be read."));
+}
+
+VkdStatus OutputEditor::put(OutputList* outputs) const
+{
+    VkdStatus status;
+    const OutputList project = OutputList::read(m_project->handle(), &status);
+    if (!status.isOk())
+        return status;
+    outputs->follow(project);
+    return outputs->put(m_project->handle());
+}
+
 void OutputEditor::continueAfterReload(const EditedOutputs& before)
 {
     if (before.isChanged)
-        return recreate(before);
+        return recreate(followed(before));
     m_outputs = before.outputs;
     if (dialog())
         m_dialog->setPresent(before.dialog);
+}
+
+/// Adds the changes that other programs have stored to the outputs. If they cannot be read, returns
+/// the outputs unchanged; storing them will then show the error.
+EditedOutputs OutputEditor::followed(EditedOutputs outputs) const
+{
+    OutputList& list = outputs.outputs;
+    if (outputs.dialog.isChanged)
+        list.setState(outputs.dialog.state, true);
+    VkdStatus status;
+    const OutputList project = OutputList::read(m_project->handle(), &status);
+    if (status.isOk())
+        list.follow(project);
+    outputs.dialog.state = list.current().state;
+    return outputs;
 }
 
 bool OutputEditor::isChanged(int output) const
@@ -56,7 +88,7 @@ void OutputEditor::editList(const std::function<void(OutputList*)>& change)
 /// only been shown is not marked as changed.
 bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
 {
-    if (!m_access->canRead() || !dialog())
+    if (!m_access->canRead() || !dialog() || !finishEditing())
         return false;
     OutputPresent present = m_dialog->present();
     if (present.isChanged)

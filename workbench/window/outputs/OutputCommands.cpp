@@ -41,6 +41,7 @@ OutputCommands::OutputCommands(const OutputParts& parts)
     };
     on(pane->saveAll, [files] { files().saveScripts(); });
     on(pane->exportAll, [files] { files().exportSheets(); });
+    m_parts.editor->setFinishName([this] { return finishName(); });
     connect(pane, &OutputsPane::chosen, this, &OutputCommands::choose);
     connect(pane, &OutputsPane::renamed, this, &OutputCommands::rename);
     connect(m_parts.editor, &OutputEditor::modified, this, &OutputCommands::showList);
@@ -94,6 +95,13 @@ void OutputCommands::rename(const QString& name)
         return m_parts.editor->editList([&name](OutputList* list) { list->rename(name); });
     showList();
     m_parts.messages->complain(fault);
+}
+
+bool OutputCommands::finishName()
+{
+    const QString name = m_parts.pane->finishEditing();
+    const OutputList& outputs = m_parts.editor->outputs();
+    return name.isNull() || outputs.name(outputs.currentIndex()) == name.simplified();
 }
 
 void OutputCommands::remove()

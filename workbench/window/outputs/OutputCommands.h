@@ -42,6 +42,7 @@ private:
     void add();
     void duplicate();
     void rename(const QString& name);
+    bool finishName();
     void remove();
     void move(int distance);
     void copyFromProject();
