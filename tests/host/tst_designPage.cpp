@@ -208,7 +208,7 @@ private Q_SLOTS:
         row("no groups", "none", "None", "Removed from row 2: 1 (see Undo).");
         row("unknown groups", "3 x 99", "1", "Unknown groups: x, 99. Row 2 keeps its groups.");
         row("second row for the rest", "Remaining Groups", "1",
-            "Another row is for the remaining groups. Row 2 keeps its groups.");
+            "The remaining groups belong to another row. Row 2 keeps its groups.");
     }
 
     /// Rejected text stays in the line until the line loses the focus.

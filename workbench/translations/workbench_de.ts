@@ -120,8 +120,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>Another program has changed the design parameters. Your unsaved rows are still here; Apply asks before it overwrites the newer ones.</source>
-        <translation>Ein anderes Programm hat die Bemessungsparameter geändert. Ihre ungespeicherten Zeilen bleiben erhalten; Übernehmen fragt nach, bevor es die neueren überschreibt.</translation>
+        <source>Another program has changed the design parameters. Your unsaved rows are preserved; Apply asks for confirmation before it overwrites the newer rows.</source>
+        <translation>Ein anderes Programm hat die Bemessungsparameter geändert. Die eigenen ungespeicherten Zeilen bleiben erhalten; Übernehmen fragt nach, bevor es die neueren überschreibt.</translation>
     </message>
 </context>
 <context>
@@ -807,11 +807,11 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Anzuwendende Teile</translation>
     </message>
     <message>
-        <source>Sets the checked parts in the selected row.</source>
+        <source>Applies the checked parts to the selected row.</source>
         <translation>Setzt die angekreuzten Teile in der ausgewählten Zeile.</translation>
     </message>
     <message>
-        <source>Sets the checked parts in %1 selected rows.</source>
+        <source>Applies the checked parts to %1 selected rows.</source>
         <translation>Setzt die angekreuzten Teile in %1 ausgewählten Zeilen.</translation>
     </message>
     <message>
@@ -1561,7 +1561,7 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     <message>
         <source>The design parameters have been changed, but not yet stored in the project.
 Do you want to store them?</source>
-        <translation>Die Bemessungsparameter sind geändert und noch nicht im Projekt.
+        <translation>Die Bemessungsparameter wurden geändert, aber noch nicht im Projekt gespeichert.
 Sollen sie gespeichert werden?</translation>
     </message>
 </context>
@@ -1690,7 +1690,7 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
     <message>
         <source>The choice of plots has been changed, but not yet stored in the project.
 Do you want to store it?</source>
-        <translation>Die Auswahl der Grafiken ist geändert und steht noch nicht im Projekt.
+        <translation>Die Auswahl der Grafiken wurde geändert, aber noch nicht im Projekt gespeichert.
 Soll sie gespeichert werden?</translation>
     </message>
     <message>
@@ -1789,7 +1789,7 @@ Sollen alle Ausgaben gespeichert werden?</translation>
     <message>
         <source>The text output has been changed, but not yet stored in the project.
 Do you want to store it?</source>
-        <translation>Die Textausgabe ist geändert und steht noch nicht im Projekt.
+        <translation>Die Textausgabe wurde geändert, aber noch nicht im Projekt gespeichert.
 Soll sie gespeichert werden?</translation>
     </message>
 </context>

@@ -58,7 +58,7 @@
         <translation>Die Stäbe überschneiden sich: Der Abstand muss größer als %1 sein.</translation>
     </message>
     <message>
-        <source>These bars give no usable area.</source>
+        <source>These bars do not result in a valid area.</source>
         <translation>Diese Stäbe ergeben keinen brauchbaren Querschnitt.</translation>
     </message>
     <message>

@@ -74,11 +74,11 @@ void ChangeBar::setTexts()
 {
     switch (m_file) {
     case ProjectWatch::File::Present:
-        m_text->setText(m_areRowsOlder
-                            ? tr("Another program has changed the design parameters. Your unsaved "
-                                 "rows are still here; Apply asks before it overwrites the "
-                                 "newer ones.")
-                            : tr("Another program has changed the project."));
+        m_text->setText(
+            m_areRowsOlder
+                ? tr("Another program has changed the design parameters. Your unsaved rows are "
+                     "preserved; Apply asks for confirmation before it overwrites the newer rows.")
+                : tr("Another program has changed the project."));
         break;
     case ProjectWatch::File::Missing:
         m_text->setText(tr("The project file was deleted or moved. The open project can still be "

@@ -198,7 +198,7 @@ void OutputOffers::applyPreset(const QVariantMap& preset, PlotsOfPreset mode,
 }
 
 /// Called by undo and redo. The page itself restores the plots afterwards. The tree is rebuilt only
-/// if it has to offer something else.
+/// if the offered plots or load cases change.
 void OutputOffers::restoreState(const QString& text)
 {
     const QString offers = text.section(OffersEnd, 0, 0);

@@ -55,8 +55,8 @@ void DesignPresetsDialog::enable(QPushButton* apply, QPushButton* creation, bool
 {
     const int rows = m_parameters.selectedRowCount();
     apply->setEnabled(isPreset && rows > 0 && !m_parts->checkedParts().isEmpty());
-    apply->setToolTip(rows == 1 ? tr("Sets the checked parts in the selected row.")
-                                : tr("Sets the checked parts in %1 selected rows.").arg(rows));
+    apply->setToolTip(rows == 1 ? tr("Applies the checked parts to the selected row.")
+                                : tr("Applies the checked parts to %1 selected rows.").arg(rows));
     creation->setEnabled(m_parameters.table()->currentRow() >= 0);
 }
 

@@ -993,7 +993,7 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Unbekannte Gruppen: %1.</translation>
     </message>
     <message>
-        <source>Another row is for the remaining groups.</source>
+        <source>The remaining groups belong to another row.</source>
         <translation>Die übrigen Gruppen gehören zu einer anderen Zeile.</translation>
     </message>
     <message>

@@ -115,7 +115,7 @@ QString GroupsEntry::apply()
         return tr("Unknown groups: %1.").arg(read.missing.join(QLatin1String(", ")));
     if (isRemainingGroups(read.groups) && !isRemainingGroups(row->groups) &&
         hasRemainingRow(m_page->state()))
-        return tr("Another row is for the remaining groups.");
+        return tr("The remaining groups belong to another row.");
     m_page->takeGroups(m_row, read.groups);
     return QString();
 }

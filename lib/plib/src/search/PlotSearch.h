@@ -44,7 +44,7 @@ public:
     /// Makes the next or previous item found the current item. The first item follows the last.
     void step(bool forward);
 
-    /// Returns the parts found of all plots, in the order of the tree.
+    /// Returns the parts of plots that were found, in the order of the tree.
     const std::vector<Hits>& hits() const { return m_hits; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -142,7 +142,7 @@ QString BarsPanel::layerFault(const VkdBarLayout& layer) const
     case VkdBarFault::Overlap:
         return tr("The bars overlap: the spacing has to be greater than %1.")
             .arg(lengthText(layer.diameter * layer.barsPerPlace));
-    case VkdBarFault::OutOfRange: return tr("These bars give no usable area.");
+    case VkdBarFault::OutOfRange: return tr("These bars do not result in a valid area.");
     case VkdBarFault::None: break;
     }
     return QString();
