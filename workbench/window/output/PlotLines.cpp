@@ -1,7 +1,6 @@
 #include "window/output/PlotLines.h"
 
 #include "project/OpenProject.h"
-#include "sheet/readSheetPlan.h"
 #include "sheet/SheetPreview.h"
 #include "window/script/CheckMark.h"
 #include "window/script/ScriptPane.h"
@@ -104,8 +103,7 @@ void PlotLines::showPlotOf(int line)
     m_tree->setCurrentItem(item);
     m_tree->scrollToItem(item);
     m_tree->horizontalScrollBar()->setValue(left); // keeps the check boxes of the captions visible
-    const QString before = m_pane->textBefore(linesOf(item).value(0));
-    m_sheets->showPicture(readSheetPlan(before).pictures.size());
+    m_sheets->showPicture(m_pictures.before(linesOf(item).value(0), m_pane->script()));
     m_messages->say(titleOf(item));
 }
 

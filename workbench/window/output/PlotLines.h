@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sheet/PictureNumbers.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QVector>
@@ -38,6 +40,7 @@ private:
     WindowMessages* m_messages;
     ScriptPane* m_pane;
     SheetPreview* m_sheets;
+    PictureNumbers m_pictures;
     QPointer<QTreeWidget> m_tree;
     QPointer<QObject> m_script;
     bool m_isChoosing = false; // whether a click in the pane is changing the current item

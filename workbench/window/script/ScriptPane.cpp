@@ -144,11 +144,6 @@ QString ScriptPane::script() const
     return m_text->plainText();
 }
 
-QString ScriptPane::textBefore(int line) const
-{
-    return m_text->plainText().left(m_text->lines().start(line));
-}
-
 void ScriptPane::setScript(const QString& script)
 {
     if (script == m_text->plainText())

@@ -42,8 +42,6 @@ public:
     void setPlot(int firstLine, int lineCount, bool reveals);
 
     QString script() const;
-    /// Returns the lines of the script before this line.
-    QString textBefore(int line) const;
     /// Shows a script and marks the lines that differ from the previous script. Does nothing if the
     /// script is unchanged.
     void setScript(const QString& script);
