@@ -14,7 +14,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
 # The installed programs find the libraries even if the installation is moved. Packages for system
-# folders set CMAKE_SKIP_INSTALL_RPATH or an RPATH of their own.
+# folders set CMAKE_SKIP_INSTALL_RPATH or their own RPATH.
 if(NOT DEFINED CMAKE_INSTALL_RPATH)
     file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
     set(CMAKE_INSTALL_RPATH "$ORIGIN/${libraries}" "$ORIGIN")
@@ -122,8 +122,9 @@ function(vkd_install_pkgconfig name)
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endfunction()
 
-# Installs the files for find_package(<package>): the targets and the package file, which is made
-# from cmake/<package>Config.cmake.in. The targets also have aliases without the namespace vkd::.
+# Installs the files for find_package(<package>): the targets and the package file, which is
+# generated from cmake/<package>Config.cmake.in. The targets also have aliases without the namespace
+# vkd::.
 function(vkd_install_package package)
     include(CMakePackageConfigHelpers)
     set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${package})

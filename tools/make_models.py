@@ -80,7 +80,7 @@ class Model:
         return self.shared(key, tuple(tidy(place)), tidy(place))
 
     def element(self, key, group, corners, before=(), after=()):
-        """Adds an element. Its number shows its group: 10000 * group + running number."""
+        """Adds an element. Its number shows its group: 10000 * group + sequential number."""
         self.last[group] = self.last.get(group, 0) + 1
         number = 10000 * group + self.last[group]
         self.centres[number] = tidy(sum(axis) / len(corners) for axis in zip(*corners))
@@ -350,7 +350,7 @@ class Hall(Model):
 
 
 def drape(x):
-    """Returns the height of a tendon: low at midspan of each 6 m span, high above the brackets, centric at the anchors."""
+    """Returns the height of a tendon: low at midspan of each 6 m span, high above the brackets, centred at the anchors."""
     from_end = min(x, 30 - x)
     return -0.2 * math.sin(math.pi * from_end / 6) if from_end < 3 else 0.2 * math.cos(math.pi * from_end / 3)
 
