@@ -303,6 +303,7 @@ private Q_SLOTS:
         readMessage(messages);
         QVERIFY(!window->close());
         QCOMPARE(messages, {QStringLiteral("An output needs a name.")});
+        QVERIFY(typeName(*window, "Output 1"));
         trigger(*window, "DuplicateOutput");
         enterName(*window, "Walls");
         auto dock = find<QDockWidget>(*window, "OutputDock");

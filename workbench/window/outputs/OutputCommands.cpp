@@ -101,7 +101,10 @@ bool OutputCommands::finishName()
 {
     const QString name = m_parts.pane->finishEditing();
     const OutputList& outputs = m_parts.editor->outputs();
-    return name.isNull() || outputs.name(outputs.currentIndex()) == name.simplified();
+    if (name.isNull() || outputs.name(outputs.currentIndex()) == name.simplified())
+        return true;
+    m_parts.pane->editName(); // the message has taken the focus from the list
+    return false;
 }
 
 void OutputCommands::remove()
