@@ -102,6 +102,12 @@ private Q_SLOTS:
             QVERIFY(chosen != before);
             trigger(*window, "German");
             QVERIFY(window->isWindowModified());
+            QApplication::processEvents(); // the event for the language change
+            const auto buttons =
+                find<QDialog>(*window, "OutputDialog")->findChildren<QPushButton*>();
+            QVERIFY(std::any_of(buttons.begin(), buttons.end(), [](const QPushButton* button) {
+                return button->text() == QLatin1String("&Verwerfen");
+            }));
             trigger(*window, "English");
             QCOMPARE(script(*window), chosen);
             auto dialog = find<QDialog>(*window, "OutputDialog"); // the dialog has been recreated

@@ -98,16 +98,30 @@ OutputDialog::~OutputDialog()
 void OutputDialog::setButtons()
 {
     layout()->setContentsMargins(0, 0, 0, 0); // the tabs fill the dock
-    QPushButton* apply = buttons()->cmdOk();
-    apply->setText(tr("&Apply"));
-    apply->setToolTip(tr("Stores the choice of plots in the project file (Ctrl+S)"));
-    buttons()->cmdCancel()->setText(tr("Dis&card"));
+    buttons()->cmdOk()->setToolTip(tr("Stores the choice of plots in the project file (Ctrl+S)"));
     buttons()->cmdCancel()->setToolTip(tr("Restores the choice of plots from the project file"));
-    for (QPushButton* button : {apply, buttons()->cmdCancel()}) {
+    for (QPushButton* button : {buttons()->cmdOk(), buttons()->cmdCancel()}) {
         button->setDefault(false);
         button->setAutoDefault(false);
     }
+    setButtonTexts();
     enableButtons(false, false);
+}
+
+void OutputDialog::setButtonTexts()
+{
+    buttons()->cmdOk()->setText(tr("&Apply"));
+    buttons()->cmdCancel()->setText(tr("Dis&card"));
+}
+
+/// The dialog is created in the new language, but receives the event for the change later. The
+/// buttons then return to their standard texts.
+bool OutputDialog::event(QEvent* event)
+{
+    const bool isHandled = VKD_H_TabDialog::event(event);
+    if (event->type() == QEvent::LanguageChange)
+        setButtonTexts();
+    return isHandled;
 }
 
 void OutputDialog::enableButtons(bool canApply, bool canDiscard)
@@ -127,10 +141,7 @@ void OutputDialog::enter()
 /// Keeps the tabs visible. OutputEditor stores the state only if no field rejects its text.
 void OutputDialog::done(int result)
 {
-    if (result == Rejected)
-        Q_EMIT rejected();
-    else
-        Q_EMIT accepted();
+    result == Rejected ? rejected() : accepted();
 }
 
 /// Prevents Escape and Return from discarding or applying the choice, which they would do in a

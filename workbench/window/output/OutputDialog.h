@@ -76,10 +76,12 @@ Q_SIGNALS:
     void choiceChanged();
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void setButtons();
+    void setButtonTexts();
     void addTabs();
     void restore(const OutputState& state);
     void listen();
