@@ -41,7 +41,7 @@ public:
         listen(&Group::buttonAllFireChecked, "fire");
         listen(&Group::buttonAllEartChecked, "earthquake");
         const auto logNumber = [this](const char* name) {
-            return [=](int id) { log << QLatin1String(name) + QString::number(id); };
+            return [this, name](int id) { log << QLatin1String(name) + QString::number(id); };
         };
         QObject::connect(group.get(), &Group::buttonClicked, &dialog, logNumber("~"));
         QObject::connect(group.get(), &Group::buttonChecked, &dialog, logNumber("="));
@@ -81,7 +81,7 @@ public:
 private:
     void listen(void (Group::*sent)(), const char* name)
     {
-        QObject::connect(group.get(), sent, &dialog, [=] { log << QLatin1String(name); });
+        QObject::connect(group.get(), sent, &dialog, [this, name] { log << QLatin1String(name); });
     }
 };
 } // namespace

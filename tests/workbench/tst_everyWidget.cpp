@@ -296,7 +296,7 @@ private:
 
     void addPage(const char* name, VKD_P_WidgetGraphicalOutput_Progname kind, bool withView)
     {
-        add(name, [=](const Visit& visit) {
+        add(name, [this, kind, withView](const Visit& visit) {
             VKD_H_PluginParameter parameter(m_project->doc());
             VKD_QT_TabDialog dialog;
             auto view = withView ? new AnimatorView(m_project->doc()->handle(), &dialog) : nullptr;

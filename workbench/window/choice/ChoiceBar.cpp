@@ -39,7 +39,8 @@ ChoiceBar::ChoiceBar(QWidget* parent, const char* name)
     layOut();
     const auto choose = [this](QToolButton* button, bool (*isChosen)(bool)) {
         connect(button, &QToolButton::clicked, this, [this, isChosen] {
-            this->choose([=](int row, bool was) { return isShown(row) ? isChosen(was) : was; });
+            this->choose(
+                [this, isChosen](int row, bool was) { return isShown(row) ? isChosen(was) : was; });
         });
     };
     choose(m_all, [](bool) { return true; });
