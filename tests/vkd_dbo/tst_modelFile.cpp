@@ -100,6 +100,7 @@ private Q_SLOTS:
     }
 
     /// Long lists are read in several pieces. Qt reports the position after the wrong character.
+    /// The progress shows that a file with an error is not read again.
     void longLists()
     {
         const QByteArray many = "\"supports\": [" + QByteArray("[1, \"z\"],").repeated(8192);
@@ -113,6 +114,14 @@ private Q_SLOTS:
         };
         QCOMPARE(errorAfter("[4, \"x\"]]"),
                  QStringLiteral("supports[8192][0]: node 4 does not exist"));
+        std::vector<int> progress;
+        const VkdGoOn note = [&progress](int percent) {
+            progress.push_back(percent);
+            return true;
+        };
+        QCOMPARE(readModelFile(m_path, vkd::Language::English, &m, note).code,
+                 int(VKD_ZOB_DAMAGED));
+        QVERIFY(progress.back() > 0 && std::is_sorted(progress.begin(), progress.end()));
         QCOMPARE(errorAfter("]").section(QLatin1Char(':'), 0, 0),
                  QStringLiteral("line 1, column %1").arg(many.size() + 3));
     }

@@ -74,6 +74,14 @@ JsonList JsonPlace::list(int least, int most) const&
     return {this, values};
 }
 
+JsonPlace JsonPlace::part(const QJsonArray& elements, int first) const
+{
+    JsonPlace place = *this;
+    place.m_value = elements;
+    place.m_first = first;
+    return place;
+}
+
 QJsonObject JsonPlace::object() const
 {
     if (!m_value.isObject())

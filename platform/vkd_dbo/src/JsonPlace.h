@@ -48,6 +48,9 @@ public:
     /// elements.
     JsonList list(int least = 0, int most = 0) const&;
     JsonList list(int least = 0, int most = 0) && = delete;
+    /// Returns the place of this list with only some of its elements, of which the first has the
+    /// index `first` in the whole list.
+    JsonPlace part(const QJsonArray& elements, int first) const;
     /// Throws unless this is an object that contains all keys in `needed` and no keys outside the
     /// two lists.
     void checkKeys(const QStringList& needed, const QStringList& optional) const;
@@ -75,6 +78,7 @@ private:
     QJsonValue m_value;
     const JsonPlace* m_parent = nullptr;
     int m_index = 0; // index in a list, or InObject
+    int m_first = 0; // index of the first element of m_value in the whole list
     QString m_key;
 };
 
@@ -90,7 +94,10 @@ public:
     }
 
     int size() const { return m_values.size(); }
-    JsonPlace operator[](int index) const { return {m_values[index], m_place, index}; }
+    JsonPlace operator[](int index) const
+    {
+        return {m_values[index], m_place, m_place->m_first + index};
+    }
 
 private:
     const JsonPlace* m_place;

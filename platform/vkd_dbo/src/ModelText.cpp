@@ -1,6 +1,5 @@
 #include "ModelText.h"
 
-#include "JsonPlace.h"
 #include "repeatedKey.h"
 
 #include <QJsonDocument>
@@ -13,16 +12,11 @@ namespace dbo {
 namespace {
 constexpr int MostElements = 4096; // in a piece
 
-[[noreturn]] void refuse()
-{
-    throw ModelFileError{QStringLiteral("not readable in pieces")}; // never shown
-}
-
 QJsonDocument parsed(const QByteArray& json)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json);
     if (document.isNull())
-        refuse();
+        throw NotReadableInPieces();
     return document;
 }
 } // namespace
@@ -81,7 +75,7 @@ private:
         const QString key = QString::fromUtf8(m_key);
         // A list would not be found by a decoded key, and lists in a list all have the same key.
         if (m_key.contains('\\') || m_text.m_lists.contains(key))
-            refuse();
+            throw NotReadableInPieces();
         m_rest += textBetween(m_begin, at + 1);
         m_begin = at + 1;
         m_list = &m_text.m_lists[key];
@@ -130,16 +124,19 @@ private:
 ModelText::ModelText(const QByteArray& bytes)
 {
     if (findRepeatedKey(bytes) >= 0)
-        refuse();
+        throw NotReadableInPieces();
     const QByteArray rest = ListSplitter({bytes.constData(), size_t(bytes.size())}, *this).split();
-    m_root = parsed(rest).object();
+    const QJsonDocument root = parsed(rest);
+    if (!root.isObject())
+        throw NotReadableInPieces();
+    m_root = root.object();
 }
 
 const ModelText::List& ModelText::list(const QString& key) const
 {
     const auto found = m_lists.find(key);
     if (found == m_lists.end())
-        refuse();
+        throw NotReadableInPieces();
     return *found;
 }
 
@@ -149,7 +146,7 @@ QJsonArray ModelText::piece(const QString& key, int index) const
     const QJsonArray array =
         parsed('[' + QByteArray(elements.data(), int(elements.size())) + ']').array();
     if (array.isEmpty()) // between two commas
-        refuse();
+        throw NotReadableInPieces();
     return array;
 }
 

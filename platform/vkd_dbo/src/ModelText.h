@@ -12,10 +12,14 @@
 namespace vkd {
 namespace dbo {
 
+/// Thrown if a text is not valid JSON or cannot be split. Such a text must be parsed as a whole.
+struct NotReadableInPieces
+{
+};
+
 /// The text of a model file, split into the root object and the elements of its lists. The elements
 /// are parsed in pieces, because a parsed list takes several times the memory of its text. Each
-/// operation throws a ModelFileError without a position if the text is invalid or unusual; such a
-/// text must be parsed as a whole.
+/// operation can throw NotReadableInPieces.
 class ModelText
 {
 public:

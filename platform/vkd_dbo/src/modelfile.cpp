@@ -39,7 +39,7 @@ constexpr char Point[] = QT_TRANSLATE_NOOP("vkd::dbo::ModelFileError", "point");
 
 /// Reads one model file. Items that are referenced by number are read first, so that an unknown
 /// number is reported at the position where it is used. If `text` is not null, the lists of the
-/// root are read from it in pieces, and the errors have wrong positions.
+/// root are read from it in pieces.
 class ModelFileReader
 {
 public:
@@ -143,9 +143,12 @@ void ModelFileReader::each(const char* key, QVector<T>& things, ReadOne readOne)
     const JsonList places = list.list();
     things.reserve(m_text ? m_text->size(name) : places.size());
     readAll(places, things, readOne);
+    int first = 0;
     for (int i = 0; m_text && i < m_text->pieceCount(name); ++i) {
-        const JsonPlace piece(m_text->piece(name, i));
-        readAll(piece.list(), things, readOne);
+        const JsonPlace piece = list.part(m_text->piece(name, i), first);
+        const JsonList elements = piece.list();
+        readAll(elements, things, readOne);
+        first += elements.size();
     }
 }
 
@@ -444,17 +447,14 @@ auto inOtherThread(const VkdGoOn& goOn, const Work& work)
     return result.get();
 }
 
-/// Reads the lists in pieces. Returns nothing if the file contains an error, whose position is then
-/// unknown.
+/// Reads the lists in pieces. Returns nothing if the text must be parsed as a whole.
 std::optional<Model> readInPieces(const QByteArray& bytes, Language language, const VkdGoOn& goOn)
 {
     try {
         const ModelText text = inOtherThread(goOn, [&bytes] { return ModelText(bytes); });
         VkdSteps steps(goOn, text.size());
         return ModelFileReader(JsonPlace(text.root()), &text, language, steps).read();
-    } catch (const ModelFileError& wrong) {
-        if (wrong.text.isEmpty())
-            throw;
+    } catch (const NotReadableInPieces&) {
         return {};
     }
 }
