@@ -4,6 +4,7 @@
 #include <AnimatorView.h>
 #include <vkd_dbo_camera.h>
 #include <vkd_dbo_model.h>
+#include <vkd_dbo_packedNames.h>
 
 #include <QDialog>
 #include <QSignalSpy>
@@ -209,6 +210,16 @@ private Q_SLOTS:
         QVERIFY(picture() != plain);
         m_view->setHighlightedGroup(99); // a group without elements
         QVERIFY(picture() == plain);
+        // Highlighting a secondary group dims the rest of its primary group.
+        Model model = plates();
+        model.secondaryGroups.push_back({QStringLiteral("S"), QString(), {1}, {}});
+        model.quads[0].group = model.quads[1].group = 7;
+        m_view = viewOf(model);
+        const QColor others = picture().pixelColor(Right);
+        QCOMPARE(picture().pixelColor(Left), others);
+        m_view->setSelectedGroups({packedName(QStringLiteral("S"))});
+        QCOMPARE(picture().pixelColor(Left), others);
+        QVERIFY(picture().pixelColor(Right) != others);
     }
 
     void picking()

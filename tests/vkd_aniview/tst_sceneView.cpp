@@ -81,7 +81,7 @@ QRectF extentOf(const SceneView::Drawn& drawn, int group)
     for (int item : drawn.picture.order())
         if (size_t(item) < drawn.geometry.faces.size()) {
             const Face& face = drawn.geometry.faces[size_t(item)];
-            for (int i = 0; i < face.count && face.group == group; ++i) {
+            for (int i = 0; i < face.count && face.part == group; ++i) {
                 const QPointF& at = drawn.picture.point(face.points[i]);
                 least = {std::min(least.x(), at.x()), std::min(least.y(), at.y())};
                 most = {std::max(most.x(), at.x()), std::max(most.y(), at.y())};

@@ -31,6 +31,7 @@ bool isSomewhere(const Position& position)
 
 GeometryBuilder::GeometryBuilder(const dbo::Model& model)
     : m_model(model)
+    , m_parts(model.secondaryGroups)
 {
     m_nodes.reserve(model.nodes.size());
     for (const dbo::Node& node : model.nodes)
@@ -49,8 +50,8 @@ ModelGeometry GeometryBuilder::build()
     splitLines();
     addSprings();
     addSupports();
-    numberGroups();
-    findGroupsOfSupports();
+    sortParts();
+    findPartsOfSupports();
     measure();
     scalePoints();
     completeFaces(m_geometry);
@@ -88,33 +89,38 @@ bool GeometryBuilder::takePoints(const int* nodes, int count, int* points)
 void GeometryBuilder::addQuads()
 {
     for (const dbo::Quad& quad : m_model.quads)
-        addFace(quad.nodes, quad.nodes[3] == 0 ? 3 : 4, quad.group, quad.thickness);
+        if (Face* face = addFace(quad.nodes, quad.nodes[3] == 0 ? 3 : 4, quad.thickness))
+            face->part = m_parts.ofQuad(quad.number, quad.group);
 }
 
 void GeometryBuilder::addBricks()
 {
     for (const BrickFace& face : outerFaces(m_model.bricks))
-        addFace(face.nodes.data(), int(face.nodes.size()), face.group, 0.0);
+        if (Face* added = addFace(face.nodes.data(), int(face.nodes.size()), 0.0))
+            added->part = m_parts.ofGroup(face.group);
 }
 
-void GeometryBuilder::addFace(const int* nodes, int count, int group, double thickness)
+Face* GeometryBuilder::addFace(const int* nodes, int count, double thickness)
 {
     Face face;
     face.count = count;
-    face.group = group;
     face.thickness = float(qBound(0.0, thickness, 10.0));
-    if (takePoints(nodes, count, face.points))
-        m_geometry.faces.push_back(face);
+    if (!takePoints(nodes, count, face.points))
+        return nullptr;
+    m_geometry.faces.push_back(face);
+    return &m_geometry.faces.back();
 }
 
 void GeometryBuilder::addLines(const QVector<dbo::LineElement>& elements, LineKind kind)
 {
     for (const dbo::LineElement& element : elements) {
         Line line;
-        line.group = element.group;
         line.kind = kind;
-        if (takePoints(element.nodes, 2, line.points))
-            m_geometry.lines.push_back(line);
+        if (!takePoints(element.nodes, 2, line.points))
+            continue;
+        line.part = kind == LineKind::Beam ? m_parts.ofBeam(element.number, element.group)
+                                           : m_parts.ofGroup(element.group);
+        m_geometry.lines.push_back(line);
     }
 }
 
@@ -161,11 +167,11 @@ void GeometryBuilder::addSprings()
     const double length = m_cell > 0 ? 0.5 * m_cell : 0.5;
     for (const dbo::Spring& spring : m_model.springs) {
         Line line;
-        line.group = spring.group;
         const bool toGround = spring.nodes[1] == 0;
         line.kind = toGround ? LineKind::GroundSpring : LineKind::Spring;
         if (!takePoints(spring.nodes, toGround ? 1 : 2, line.points))
             continue;
+        line.part = m_parts.ofGroup(spring.group);
         if (toGround)
             line.points[1] = addPoint(
                 along(m_positions[size_t(line.points[0])], -length, Position{0.0, 0.0, 1.0}));
@@ -184,25 +190,25 @@ void GeometryBuilder::addSupports()
     }
 }
 
-void GeometryBuilder::findGroupsOfSupports()
+void GeometryBuilder::findPartsOfSupports()
 {
-    QHash<int, QSet<int>> groupsAt;
+    QHash<int, QSet<int>> partsAt;
     for (const Support& support : m_geometry.supports)
-        groupsAt[support.point];
-    const auto add = [&groupsAt](int point, int group) {
-        const auto groups = groupsAt.find(point);
-        if (groups != groupsAt.end())
-            groups->insert(group);
+        partsAt[support.point];
+    const auto add = [&partsAt](int point, int part) {
+        const auto parts = partsAt.find(point);
+        if (parts != partsAt.end())
+            parts->insert(part);
     };
     for (const Face& face : m_geometry.faces)
         for (int i = 0; i < face.count; ++i)
-            add(face.points[i], face.group);
+            add(face.points[i], face.part);
     for (const Line& line : m_geometry.lines)
         for (int point : line.points)
-            add(point, line.group);
+            add(point, line.part);
     for (Support& support : m_geometry.supports) {
-        const QSet<int>& groups = groupsAt[support.point];
-        support.groups.assign(groups.begin(), groups.end());
+        const QSet<int>& parts = partsAt[support.point];
+        support.parts.assign(parts.begin(), parts.end());
     }
 }
 
@@ -222,23 +228,15 @@ double GeometryBuilder::lengthOf(int from, int to) const
     return std::sqrt(dot(way, way));
 }
 
-/// Replaces group numbers with indexes into the sorted list of groups.
-void GeometryBuilder::numberGroups()
+/// Replaces the numbers of parts with indexes into the sorted list.
+void GeometryBuilder::sortParts()
 {
-    std::vector<int>& groups = m_geometry.groups;
-    for (const Face& face : m_geometry.faces)
-        groups.push_back(face.group);
-    for (const Line& line : m_geometry.lines)
-        groups.push_back(line.group);
-    std::sort(groups.begin(), groups.end());
-    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
-    const auto indexOf = [&groups](int number) {
-        return int(std::lower_bound(groups.begin(), groups.end(), number) - groups.begin());
-    };
+    std::vector<int> indexes;
+    m_geometry.parts = m_parts.sorted(&indexes);
     for (Face& face : m_geometry.faces)
-        face.group = indexOf(face.group);
+        face.part = indexes[size_t(face.part)];
     for (Line& line : m_geometry.lines)
-        line.group = indexOf(line.group);
+        line.part = indexes[size_t(line.part)];
 }
 
 void GeometryBuilder::measure()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geometry/ModelGeometry.h"
+#include "geometry/GroupParts.h"
 
 #include <QHash>
 
@@ -24,22 +24,24 @@ private:
 
     void addQuads();
     void addBricks();
-    void addFace(const int* nodes, int count, int group, double thickness);
+    /// Returns the face, whose part is not set yet, or null if a node is missing.
+    Face* addFace(const int* nodes, int count, double thickness);
     void addLines(const QVector<dbo::LineElement>& elements, LineKind kind);
     void splitLines();
     void addSplit(const Line& line, int pieces);
     int wantedPieces(const Line& line) const;
     void addSprings();
     void addSupports();
-    void findGroupsOfSupports();
+    void findPartsOfSupports();
 
     double meanEdge() const;
     double lengthOf(int from, int to) const;
-    void numberGroups();
+    void sortParts();
     void measure();
     void scalePoints();
 
     const dbo::Model& m_model;
+    GroupParts m_parts;
     QHash<int, const dbo::Node*> m_nodes;
     QHash<int, int> m_pointOfNode;
     std::vector<Position> m_positions;

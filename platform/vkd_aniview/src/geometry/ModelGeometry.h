@@ -11,12 +11,24 @@ namespace aniview {
 enum class LineKind { Beam, Truss, Cable, Spring, GroundSpring };
 constexpr int LineKindCount = 5;
 
-/// A quad, a triangle or an outer face of a brick; points and groups are given as indexes.
+/// The elements of a primary group that belong to the same secondary groups.
+struct GroupPart
+{
+    int group = 0;
+    std::vector<int> secondary; ///< packed names, ascending
+
+    bool operator<(const GroupPart& other) const
+    {
+        return group != other.group ? group < other.group : secondary < other.secondary;
+    }
+};
+
+/// A quad, a triangle or an outer face of a brick; points and parts are given as indexes.
 struct Face
 {
     int points[4]{};
     int count = 4;
-    int group = 0;
+    int part = 0;
     float normal[3]{};        ///< unit vector, or zero for a face without area
     float thickness = 0.0F;   ///< metres, 0 for a brick
     unsigned strongEdges = 0; ///< one bit for each edge at the rim of a plate or at a fold
@@ -26,7 +38,7 @@ struct Face
 struct Line
 {
     int points[2]{};
-    int group = 0;
+    int part = 0;
     LineKind kind = LineKind::Beam;
     bool meetsFace = false; ///< ends at a face, but is not an edge of one
 };
@@ -34,8 +46,8 @@ struct Line
 struct Support
 {
     int point = 0;
-    int fixed = 0;           ///< the bits of dbo::Boundary
-    std::vector<int> groups; ///< the groups of the elements at the point
+    int fixed = 0;          ///< the bits of dbo::Boundary
+    std::vector<int> parts; ///< the parts of the elements at the point
 };
 
 /// The sort key of an item: a point and a distance. The item is sorted as if it were nearer to the
@@ -63,7 +75,7 @@ struct ModelGeometry
     std::vector<Face> faces;
     std::vector<Line> lines;
     std::vector<Support> supports;
-    std::vector<int> groups;           ///< numbers of the groups that contain elements, ascending
+    std::vector<GroupPart> parts;      ///< parts that contain elements, ascending
     std::vector<SortPlace> sortPlaces; ///< one for each item
 
     std::shared_ptr<const ModelGeometry> coarser; ///< for quick painting of a large model, or null

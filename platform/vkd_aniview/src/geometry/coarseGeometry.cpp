@@ -37,6 +37,7 @@ public:
     ModelGeometry merged();
 
 private:
+    int groupOf(int part) const { return m_fine.parts[size_t(part)].group; }
     quint64 keyOf(size_t point, int group) const;
     /// Returns the index of the merged point for a point of a group.
     int pointOf(int point, int group);
@@ -61,7 +62,7 @@ ModelGeometry CellMerger::merged()
 {
     m_coarse.box = m_fine.box;
     m_coarse.unit = m_fine.unit;
-    m_coarse.groups = m_fine.groups;
+    m_coarse.parts = m_fine.parts;
     m_coarse.meshCell = m_fine.meshCell;
     m_coarse.cell = m_fine.cell > 0.0F ? m_cell : 0.0F;
     for (const Face& face : m_fine.faces)
@@ -125,7 +126,7 @@ void CellMerger::addFace(Face face)
     int corners[4];
     int count = 0;
     for (int i = 0; i < face.count; ++i) {
-        const int corner = pointOf(face.points[i], face.group);
+        const int corner = pointOf(face.points[i], groupOf(face.part));
         if (std::find(corners, corners + count, corner) == corners + count)
             corners[count++] = corner;
     }
@@ -141,7 +142,7 @@ void CellMerger::addLines()
     std::vector<Line>& lines = m_coarse.lines;
     for (Line line : m_fine.lines) {
         for (int& point : line.points)
-            point = pointOf(point, line.group);
+            point = pointOf(point, groupOf(line.part));
         if (line.points[0] != line.points[1])
             lines.push_back(line);
     }
@@ -156,14 +157,14 @@ void CellMerger::addLines()
                 lines.end());
 }
 
-/// Adds one support per cell, with the groups of the first support in the cell.
+/// Adds one support per cell, with the parts of the first support in the cell.
 void CellMerger::addSupports()
 {
     for (const Support& support : m_fine.supports) {
         const auto known = int(m_coarse.x.size());
         const int point = pointOf(support.point, NoGroup);
         if (point == known)
-            m_coarse.supports.push_back({point, support.fixed, support.groups});
+            m_coarse.supports.push_back({point, support.fixed, support.parts});
     }
 }
 
@@ -185,7 +186,8 @@ void CellMerger::takeStrongEdges()
     };
     QSet<quint64> strong;
     eachStrongEdge(m_fine, [&](const Face& face, int from, int to) {
-        strong.insert(key(pointOf(from, face.group), pointOf(to, face.group)));
+        const int group = groupOf(face.part);
+        strong.insert(key(pointOf(from, group), pointOf(to, group)));
     });
     for (Face& face : m_coarse.faces) {
         face.strongEdges = 0;

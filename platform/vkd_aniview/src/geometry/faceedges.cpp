@@ -81,11 +81,13 @@ std::vector<EdgeUse> sortedEdges(const ModelGeometry& geometry)
     return edges;
 }
 
-bool isSmooth(const Face& a, const Face& b)
+bool isSmooth(const ModelGeometry& geometry, const Face& a, const Face& b)
 {
     const float cosine =
         a.normal[0] * b.normal[0] + a.normal[1] * b.normal[1] + a.normal[2] * b.normal[2];
-    return a.group == b.group && std::abs(cosine) > FoldCosine;
+    const std::vector<GroupPart>& parts = geometry.parts;
+    return parts[size_t(a.part)].group == parts[size_t(b.part)].group &&
+           std::abs(cosine) > FoldCosine;
 }
 
 void markStrongEdges(ModelGeometry& geometry, const std::vector<EdgeUse>& edges)
@@ -93,8 +95,9 @@ void markStrongEdges(ModelGeometry& geometry, const std::vector<EdgeUse>& edges)
     for (auto use = edges.begin(); use != edges.end();) {
         const auto next = std::find_if(
             use, edges.end(), [use](const EdgeUse& other) { return other.edge != use->edge; });
-        const bool isInner = next - use == 2 && isSmooth(geometry.faces[size_t(use->face)],
-                                                         geometry.faces[size_t((use + 1)->face)]);
+        const bool isInner =
+            next - use == 2 && isSmooth(geometry, geometry.faces[size_t(use->face)],
+                                        geometry.faces[size_t((use + 1)->face)]);
         for (; use != next; ++use)
             if (!isInner)
                 geometry.faces[size_t(use->face)].strongEdges |= 1U << unsigned(use->side);

@@ -52,21 +52,24 @@ QColor GroupColours::distinctColour(int index)
     return round == 0 ? hue : mixed(hue, round == 1 ? Qt::white : Qt::black, 0.4);
 }
 
-GroupColours::GroupColours(const QPalette& palette, const std::vector<int>& groups,
+GroupColours::GroupColours(const QPalette& palette, const std::vector<GroupPart>& parts,
                            const GroupMarks& marks, double meshStrength)
     : m_text(palette.color(QPalette::Active, QPalette::Text))
     , m_background(palette.color(QPalette::Active, QPalette::Base))
     , m_highlight(palette.color(QPalette::Active, QPalette::Highlight))
 {
-    const bool isAnyLit = std::any_of(groups.begin(), groups.end(),
-                                      [&marks](int group) { return marks.isLit(group); });
-    m_sets.reserve(groups.size());
+    const bool isAnyLit = std::any_of(
+        parts.begin(), parts.end(), [&marks](const GroupPart& part) { return marks.isLit(part); });
+    m_sets.reserve(parts.size());
     const QColor pale = mixed(mixed(m_text, m_background, 0.5), m_background, 0.75);
-    for (size_t i = 0; i < groups.size(); ++i) {
-        const unsigned assigned = marks.colourOf(groups[i]);
-        const QColor own = marks.hasColours() ? pale : distinctColour(int(i));
+    int groups = 0;
+    for (size_t i = 0; i < parts.size(); ++i) {
+        if (i == 0 || parts[i].group != parts[i - 1].group)
+            ++groups;
+        const unsigned assigned = marks.colourOf(parts[i].group);
+        const QColor own = marks.hasColours() ? pale : distinctColour(groups - 1);
         m_sets.push_back(makeSet(assigned ? QColor::fromRgb(assigned) : own,
-                                 marks.markOf(groups[i], isAnyLit), meshStrength));
+                                 marks.markOf(parts[i], isAnyLit), meshStrength));
     }
 }
 

@@ -11,16 +11,16 @@
 namespace vkd {
 namespace aniview {
 
-/// The brushes and pens for the groups of a model. Each group has one colour in several shades,
-/// which are modified according to the mark of the group. Colour-blind users can distinguish the
-/// colours. All other colours come from the palette of an active window, because a disabled view
-/// must not look disabled.
+/// The brushes and pens for the groups of a model. Each group has one colour in several shades. In
+/// each part of the group, the colour is modified according to the mark of the part. Colour-blind
+/// users can distinguish the colours. All other colours come from the palette of an active window,
+/// because a disabled view must not look disabled.
 class GroupColours
 {
 public:
     static constexpr int Shades = 16;
 
-    /// The brushes and pens of one group.
+    /// The brushes and pens of one part.
     struct Set
     {
         std::array<QBrush, Shades> fills; ///< dark to light
@@ -31,14 +31,14 @@ public:
     };
 
     /// `meshStrength`, from 0 to 1, is the contrast of the outlines of elements.
-    GroupColours(const QPalette& palette, const std::vector<int>& groups, const GroupMarks& marks,
-                 double meshStrength);
+    GroupColours(const QPalette& palette, const std::vector<GroupPart>& parts,
+                 const GroupMarks& marks, double meshStrength);
 
     /// Returns one of the colours that groups have if none is assigned to them. Colours with
     /// adjacent indexes differ most.
     static QColor distinctColour(int index);
 
-    const Set& operator[](int groupIndex) const { return m_sets[size_t(groupIndex)]; }
+    const Set& operator[](int partIndex) const { return m_sets[size_t(partIndex)]; }
     QColor symbol() const { return m_text; }
     QColor background() const { return m_background; }
 

@@ -66,19 +66,26 @@ void GroupMarks::toggle(int group)
         m_picked.insert(place, group);
 }
 
+bool GroupMarks::isLit(const GroupPart& part) const
+{
+    return isLit(part.group) || std::any_of(part.secondary.begin(), part.secondary.end(),
+                                            [this](int group) { return isLit(group); });
+}
+
 bool GroupMarks::isLit(int group) const
 {
     return group == m_highlighted || group == m_hovered ||
            std::binary_search(m_selected.begin(), m_selected.end(), group);
 }
 
-GroupMark GroupMarks::markOf(int group, bool isAnyLit) const
+GroupMark GroupMarks::markOf(const GroupPart& part, bool isAnyLit) const
 {
+    const bool isPickedPart = m_isPicking && isPicked(part.group);
     if (hasColours())
-        return isLit(group) || (m_isPicking && isPicked(group)) ? GroupMark::Lit : GroupMark::None;
-    if (m_isPicking && isPicked(group))
-        return isLit(group) ? GroupMark::PickedLit : GroupMark::Picked;
-    if (isLit(group))
+        return isLit(part) || isPickedPart ? GroupMark::Lit : GroupMark::None;
+    if (isPickedPart)
+        return isLit(part) ? GroupMark::PickedLit : GroupMark::Picked;
+    if (isLit(part))
         return GroupMark::Lit;
     if (m_isPicking && !m_picked.empty())
         return GroupMark::Pale;

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "geometry/ModelGeometry.h"
+
 #include <map>
 #include <vector>
 
 namespace vkd {
 namespace aniview {
 
-/// The highlighting of a group. A group is dimmed if it is neither highlighted nor picked while
-/// another group is highlighted. It is pale if it is not picked while other groups are.
+/// The highlighting of a part of a group. A part is dimmed if it is neither highlighted nor picked
+/// while another part is highlighted. It is pale if it is not picked while other groups are.
 enum class GroupMark { None, Dimmed, Pale, Lit, Picked, PickedLit };
 
 /// The numbers of the picked, the hovered, the highlighted and the selected groups of a view, and
@@ -36,13 +38,15 @@ public:
     /// Returns 0 if no colour is assigned to the group.
     unsigned colourOf(int group) const;
 
-    bool isLit(int group) const;
-    /// Returns the mark of a group. `isAnyLit` specifies whether any visible group is highlighted.
+    /// Returns whether the group of the part or one of its secondary groups is highlighted.
+    bool isLit(const GroupPart& part) const;
+    /// Returns the mark of a part. `isAnyLit` specifies whether any visible part is highlighted.
     /// Picked groups are marked only while picking is enabled. Assigned colours are neither dimmed
     /// nor replaced.
-    GroupMark markOf(int group, bool isAnyLit) const;
+    GroupMark markOf(const GroupPart& part, bool isAnyLit) const;
 
 private:
+    bool isLit(int group) const;
     bool isPicked(int group) const;
 
     std::vector<int> m_picked;

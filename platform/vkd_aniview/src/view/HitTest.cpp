@@ -26,12 +26,12 @@ struct Corners
         isFace = element < faces;
         points = isFace ? geometry.faces[element].points : geometry.lines[element - faces].points;
         count = isFace ? geometry.faces[element].count : 2;
-        group = isFace ? geometry.faces[element].group : geometry.lines[element - faces].group;
+        part = isFace ? geometry.faces[element].part : geometry.lines[element - faces].part;
     }
 
     const int* points;
     int count;
-    int group;
+    int part;
     bool isFace;
 };
 
@@ -68,15 +68,15 @@ bool isNearEdge(const QPointF* corners, int count, const QPointF& place)
 /// The frontmost of the added elements. They must be added in ascending order of their indexes.
 struct Frontmost
 {
-    void add(int newGroup, long newStep)
+    void add(int newPart, long newStep)
     {
         if (newStep < step)
             return;
-        group = newGroup;
+        part = newPart;
         step = newStep;
     }
 
-    int group = -1;
+    int part = -1;
     long step = LONG_MIN;
 };
 } // namespace
@@ -98,16 +98,16 @@ struct HitTest::Search
     void add(const ModelGeometry& geometry, size_t element)
     {
         const Corners corners(geometry, element);
-        if (!isHidden.empty() && isHidden[size_t(corners.group)])
+        if (!isHidden.empty() && isHidden[size_t(corners.part)])
             return;
         QPointF points[4];
         for (int i = 0; i < corners.count; ++i)
             points[i] = projection.pointToScreen(size_t(corners.points[i]));
         if (corners.isFace && contains(points, corners.count, place))
-            exact.add(corners.group, stepOf(geometry.sortPlaces[element]));
+            exact.add(corners.part, stepOf(geometry.sortPlaces[element]));
         else if (isNearEdge(points, corners.count, place))
             (corners.isFace ? close : exact)
-                .add(corners.group, stepOf(geometry.sortPlaces[element]));
+                .add(corners.part, stepOf(geometry.sortPlaces[element]));
     }
 
     long stepOf(const SortPlace& at) const
@@ -154,8 +154,8 @@ HitTest::Block HitTest::blockOf(size_t begin, size_t end) const
     return block;
 }
 
-int HitTest::groupAt(const Projection& projection, const QPointF& place,
-                     const std::vector<char>& isHidden) const
+int HitTest::partAt(const Projection& projection, const QPointF& place,
+                    const std::vector<char>& isHidden) const
 {
     Search search{{m_geometry, projection}, projection.axes().eye, place, isHidden};
     for (size_t i = 0; i < m_blocks.size(); ++i) {
@@ -165,7 +165,7 @@ int HitTest::groupAt(const Projection& projection, const QPointF& place,
         for (size_t element = i * BlockSize; element < end; ++element)
             search.add(m_geometry, element);
     }
-    return search.exact.group >= 0 ? search.exact.group : search.close.group;
+    return search.exact.part >= 0 ? search.exact.part : search.close.part;
 }
 
 } // namespace aniview

@@ -15,12 +15,12 @@ public:
     /// The geometry must outlive the object.
     explicit HitTest(const ModelGeometry& geometry);
 
-    /// Returns the index of the group of the frontmost element at a point of the image, or -1. If
+    /// Returns the index of the part of the frontmost element at a point of the image, or -1. If
     /// there is no element at the point, a face with an edge close to the point is also considered,
-    /// so that the user can click a plate seen edge-on. `isHidden` contains a flag for each group,
+    /// so that the user can click a plate seen edge-on. `isHidden` contains a flag for each part,
     /// or is empty if no group is hidden.
-    int groupAt(const Projection& projection, const QPointF& place,
-                const std::vector<char>& isHidden) const;
+    int partAt(const Projection& projection, const QPointF& place,
+               const std::vector<char>& isHidden) const;
 
 private:
     struct Block

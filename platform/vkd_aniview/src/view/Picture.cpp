@@ -16,12 +16,12 @@ bool isInHiddenGroup(const ModelGeometry& geometry, size_t item, const std::vect
     const size_t faces = geometry.faces.size();
     const size_t lines = geometry.lines.size();
     if (item < faces)
-        return isHidden[size_t(geometry.faces[item].group)];
+        return isHidden[size_t(geometry.faces[item].part)];
     if (item < faces + lines)
-        return isHidden[size_t(geometry.lines[item - faces].group)];
-    const std::vector<int>& groups = geometry.supports[item - faces - lines].groups;
-    return std::all_of(groups.begin(), groups.end(),
-                       [&isHidden](int group) { return isHidden[size_t(group)]; });
+        return isHidden[size_t(geometry.lines[item - faces].part)];
+    const std::vector<int>& parts = geometry.supports[item - faces - lines].parts;
+    return std::all_of(parts.begin(), parts.end(),
+                       [&isHidden](int part) { return isHidden[size_t(part)]; });
 }
 } // namespace
 

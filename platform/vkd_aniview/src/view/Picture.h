@@ -12,7 +12,7 @@ namespace aniview {
 class Picture
 {
 public:
-    /// `isHidden` contains a flag for each group of the geometry, or is empty if no group is
+    /// `isHidden` contains a flag for each part of the geometry, or is empty if no group is
     /// hidden.
     void update(const ModelGeometry& geometry, const Projection& projection, const QRectF& visible,
                 const std::vector<char>& isHidden = {});

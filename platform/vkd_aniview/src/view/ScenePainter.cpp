@@ -85,9 +85,9 @@ struct ScenePainter::Frame
     const double symbolSize;
     const bool isSmooth = painter.testRenderHint(QPainter::Antialiasing);
     std::array<double, LineKindCount> widths{};
-    // The group and the shade whose pen and brush are currently set, or -1. Setting them again
+    // The part and the shade whose pen and brush are currently set, or -1. Setting them again
     // would take time.
-    int group = -1;
+    int part = -1;
     int shade = -1;
 };
 
@@ -106,7 +106,7 @@ void ScenePainter::paint(QPainter& painter, const QPalette& palette, const Model
             drawFace(frame, geometry.faces[item]);
             continue;
         }
-        frame.group = -1;
+        frame.part = -1;
         if (item < faces + lines) {
             drawLine(frame, geometry.lines[item - faces]);
             continue;
@@ -128,7 +128,7 @@ void ScenePainter::prepare(const QPalette& palette, const ModelGeometry& geometr
         return;
     m_meshStep = step;
     m_colours =
-        std::make_unique<GroupColours>(palette, geometry.groups, marks, step / double(MeshSteps));
+        std::make_unique<GroupColours>(palette, geometry.parts, marks, step / double(MeshSteps));
 }
 
 void ScenePainter::drawFace(Frame& frame, const Face& face) const
@@ -143,14 +143,14 @@ void ScenePainter::drawFace(Frame& frame, const Face& face) const
     }
     const double lit = component(frame.light, face.normal) * (facing < 0.0 ? -1.0 : 1.0);
     const int shade = int(qBound(0.0, lit, 1.0) * (GroupColours::Shades - 1));
-    if (face.group != frame.group || shade != frame.shade) {
-        const GroupColours::Set& set = (*m_colours)[face.group];
+    if (face.part != frame.part || shade != frame.shade) {
+        const GroupColours::Set& set = (*m_colours)[face.part];
         frame.painter.setBrush(set.fills[size_t(shade)]);
         if (m_meshStep > 0)
             frame.painter.setPen(set.meshes[size_t(shade)]);
         else
             frame.painter.setPen(Qt::NoPen);
-        frame.group = face.group;
+        frame.part = face.part;
         frame.shade = shade;
     }
     if (m_meshStep > 0 || !frame.isSmooth) {
@@ -166,11 +166,11 @@ void ScenePainter::drawFace(Frame& frame, const Face& face) const
 
 void ScenePainter::drawStrongEdges(Frame& frame, const Face& face, const QPointF* corners) const
 {
-    frame.painter.setPen((*m_colours)[face.group].edge);
+    frame.painter.setPen((*m_colours)[face.part].edge);
     for (int i = 0; i < face.count; ++i)
         if (face.strongEdges & 1U << unsigned(i))
             frame.painter.drawLine(corners[i], corners[(i + 1) % face.count]);
-    frame.group = -1;
+    frame.part = -1;
 }
 
 /// Draws a plate that is seen edge-on. The plate is drawn with its thickness instead of as a
@@ -178,17 +178,17 @@ void ScenePainter::drawStrongEdges(Frame& frame, const Face& face, const QPointF
 void ScenePainter::drawEdgeOn(Frame& frame, const Face& face, const QPointF* corners) const
 {
     const double width = std::max(2.0, face.thickness * frame.projection.scale());
-    frame.painter.setPen(QPen((*m_colours)[face.group].line, width, Qt::SolidLine, Qt::FlatCap));
+    frame.painter.setPen(QPen((*m_colours)[face.part].line, width, Qt::SolidLine, Qt::FlatCap));
     for (int i = 0; i < face.count; ++i)
         frame.painter.drawLine(corners[i], corners[(i + 1) % face.count]);
-    frame.group = -1;
+    frame.part = -1;
 }
 
 void ScenePainter::drawLine(Frame& frame, const Line& line) const
 {
     const QPointF& from = frame.picture.point(line.points[0]);
     const QPointF& to = frame.picture.point(line.points[1]);
-    const GroupColours::Set& set = (*m_colours)[line.group];
+    const GroupColours::Set& set = (*m_colours)[line.part];
     const bool isSpring = line.kind == LineKind::Spring || line.kind == LineKind::GroundSpring;
     // The round cap of a column would show through the plate above it.
     const bool isFlat = isSpring || line.meetsFace;

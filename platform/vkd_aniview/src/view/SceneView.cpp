@@ -33,8 +33,8 @@ void SceneView::findHidden()
     m_isHidden.clear();
     if (m_hiddenGroups.empty())
         return;
-    for (int group : m_geometry->groups) {
-        const auto found = std::find(m_hiddenGroups.begin(), m_hiddenGroups.end(), group);
+    for (const GroupPart& part : m_geometry->parts) {
+        const auto found = std::find(m_hiddenGroups.begin(), m_hiddenGroups.end(), part.group);
         m_isHidden.push_back(found != m_hiddenGroups.end() ? 1 : 0);
     }
 }
@@ -111,8 +111,8 @@ int SceneView::groupAt(const QPointF& place)
 {
     if (!m_hitTest)
         m_hitTest = std::make_shared<const HitTest>(*m_geometry);
-    const int index = m_hitTest->groupAt(projection(), place, m_isHidden);
-    return index < 0 ? GroupMarks::NoGroup : m_geometry->groups[size_t(index)];
+    const int index = m_hitTest->partAt(projection(), place, m_isHidden);
+    return index < 0 ? GroupMarks::NoGroup : m_geometry->parts[size_t(index)].group;
 }
 
 } // namespace aniview

@@ -56,7 +56,7 @@ private:
     Picture m_quickPicture;
     bool m_isCurrent = false;
     std::vector<int> m_hiddenGroups;
-    std::vector<char> m_isHidden; // one flag for each group of the geometry, or empty
+    std::vector<char> m_isHidden; // one flag for each part of the geometry, or empty
 };
 
 } // namespace aniview
