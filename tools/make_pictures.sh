@@ -1,7 +1,7 @@
 #!/bin/sh
 # Runs the workbench to create the screenshots in docs/pictures, with the sample model of a
-# building. Needs the Debian package pngquant. Run it after a change that is visible in one of them,
-# and check the result. The optional argument is a workbench to use instead of the one built by
+# building, and the pictures of the sample models in share/models. Needs the Debian package
+# pngquant. Run it after a change that is visible in one of them, and check the result. The optional argument is a workbench to use instead of the one built by
 # ./run.
 set -eu
 
@@ -22,11 +22,22 @@ for ratio in 1 2; do
         --language english --pixel-ratio $ratio >/dev/null
 done
 
-# keep RATIO SNAPSHOT NAME: saves a compressed copy of a snapshot. Dialogs have a higher ratio,
-# because they are smaller than pages.
+# compress FILE PICTURE: saves a compressed copy of a snapshot.
+compress() {
+    pngquant --speed 1 --strip --force --output "$2" 256 "$1"
+    echo "${2##*/}: $(wc -c <"$2") bytes"
+}
+
+# keep RATIO SNAPSHOT NAME: saves a snapshot. Dialogs have a higher ratio, because they are smaller
+# than pages.
 keep() {
-    pngquant --speed 1 --strip --force --output "$pictures/$3.png" 256 "$taken/$1/$2.en.png"
-    echo "$3.png: $(wc -c <"$pictures/$3.png") bytes"
+    compress "$taken/$1/$2.en.png" "$pictures/$3.png"
+}
+
+# keepModel NAME SNAPSHOTS: saves the pictures of a sample model.
+keepModel() {
+    compress "$2/model.en.png" "$root/share/models/$1.png"
+    compress "$2/model-dark.en.png" "$root/share/models/$1-dark.png"
 }
 
 mkdir -p "$pictures"
@@ -37,3 +48,10 @@ keep 2 design-directions-type3 design-directions
 keep 2 window-output-plots output-page
 keep 1 sheet-page sheet
 keep 1 window-text-chosen text-output
+keep 1 window-start start
+keepModel building "$taken/1"
+for model in slab hall; do
+    "$workbench" new "$taken/$model.zob" --model $model --language english >/dev/null
+    "$workbench" snapshots "$taken/$model.zob" "$taken/$model" --language english >/dev/null
+    keepModel $model "$taken/$model"
+done

@@ -121,6 +121,7 @@ private:
         addMain("main window", [](MainWindow& window, const Visit& visit) { visit(window); });
         add("main window without a project", [](const Visit& visit) {
             MainWindow window;
+            window.openAfterPainting(QString());
             window.show();
             visit(window);
         });

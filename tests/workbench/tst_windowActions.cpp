@@ -67,7 +67,8 @@ private Q_SLOTS:
         row("no project", always);
         row("empty project", // even this project has a script
             always + script +
-                QLatin1String(" Design Output Reload Save SaveAs SheetPreviewAction TextOutput"));
+                QLatin1String(" CloseProject Design Output Reload Save SaveAs SheetPreviewAction "
+                              "TextOutput"));
     }
 
     /// All actions and buttons work, and the window remains usable.
@@ -156,6 +157,7 @@ private Q_SLOTS:
         window.show();
         QTRY_VERIFY(isTold);
         QVERIFY(wasPainted);
+        QTRY_VERIFY(window.findChild<QWidget*>(QStringLiteral("StartPage")));
     }
 
     /// Settings are written only if they have changed, because writing waits for the disk and loses

@@ -10,9 +10,11 @@
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QTreeWidget>
 
 using namespace windowtest;
 using workbench::MainWindow;
@@ -225,6 +227,34 @@ private Q_SLOTS:
         expected.removeOne(path("8.zob"));
         QCOMPARE(recentFiles(*window), expected);
         QCOMPARE(recentFiles(MainWindow()), expected);
+    }
+
+    /// The start page replaces the panes while no project is open. Their layout is preserved.
+    void startPage()
+    {
+        open("gone.zob");
+        const auto before = open("here.zob");
+        find<QDockWidget>(*before, "RecordDock")->hide();
+        trigger(*before, "CloseProject");
+        QCOMPARE(find<QTreeWidget>(*before, "GroupList")->topLevelItemCount(), 0);
+        QVERIFY(find<QWidget>(*before, "ScriptDock")->isHidden());
+        before->close();
+        QFile::remove(path("gone.zob"));
+        MainWindow window;
+        window.openAfterPainting(QString());
+        window.show();
+        auto recent = find<QListWidget>(window, "RecentProjects");
+        const QString folder = QDir::toNativeSeparators(m_folder->path());
+        QCOMPARE(recent->item(0)->text(), QLatin1String("here\n") + folder);
+        QCOMPARE(recent->item(1)->text(), QStringLiteral("gone\n%1 (not found)").arg(folder));
+        recent->setCurrentRow(1);
+        trigger(window, "RemoveRecent");
+        QCOMPARE(recent->count(), 1);
+        QTest::keyClick(recent, Qt::Key_Return);
+        QTRY_VERIFY(find<QTreeWidget>(window, "GroupList")->topLevelItemCount() > 0);
+        QVERIFY(!recent->isVisible());
+        QVERIFY(find<QWidget>(window, "ScriptDock")->isVisible());
+        QVERIFY(find<QWidget>(window, "RecordDock")->isHidden());
     }
 
     void drops_data()

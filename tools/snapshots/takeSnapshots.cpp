@@ -5,6 +5,7 @@
 #include "outputSnapshots.h"
 #include "windowSnapshots.h"
 
+#include <AnimatorView.h>
 #include <VKD_H_ZOBDoc.h>
 
 #include <QApplication>
@@ -17,12 +18,17 @@
 namespace workbench {
 
 namespace {
-/// Adds screenshots of the pages. The pages edit a copy of the project.
+constexpr QSize ModelSize(360, 224); // twice the size of the pictures on the start page
+
+/// Adds screenshots of the model and of the pages. The pages edit a copy of the project.
 void addPages(SnapshotAlbum& album, const QString& copy)
 {
     const auto document = VKD_H_ZOBDoc::open(copy);
     if (!document)
         throw std::runtime_error(copy.toStdString() + " is not a project");
+    AnimatorView model(document->handle());
+    model.resize(ModelSize);
+    album.add(QStringLiteral("model"), &model);
     addDesignSnapshots(album, document.get());
     addOutputSnapshots(album, document.get());
 }

@@ -4,11 +4,13 @@
 #include "SnapshotAlbum.h"
 #include "textOutputSnapshots.h"
 #include "window/main/MainWindow.h"
+#include "window/support/WindowSettings.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QFile>
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
@@ -73,6 +75,28 @@ void addSheet(SnapshotAlbum& album, MainWindow& window, const QString& look)
     album.add(QStringLiteral("sheet-width") + look, dock);
     dock->setFloating(false);
 }
+
+/// Adds a screenshot of the window without a project. The list of recent projects does not contain
+/// paths of this computer: the project is copied into a home folder, which the list shows as "~".
+void addStart(SnapshotAlbum& album, const QString& project, const QString& look)
+{
+    const QTemporaryDir home;
+    const QByteArray userHome = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(home.path()));
+    const QString copy = home.filePath(QStringLiteral("Office building.zob"));
+    QFile::copy(project, copy);
+    WindowSettings settings;
+    const QStringList before = settings.savedRecentFiles();
+    for (const QString& path : before)
+        settings.removeRecentFile(path);
+    for (const QString& path : {QStringLiteral("/projects/Warehouse.zob"), copy})
+        settings.addRecentFile(path);
+    MainWindow window;
+    window.openAfterPainting(QString());
+    window.show();
+    album.add(QStringLiteral("window-start") + look, &window);
+    qputenv("HOME", userHome);
+}
 } // namespace
 
 void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
@@ -91,6 +115,7 @@ void addWindowSnapshots(SnapshotAlbum& album, const QString& project)
         addOutput(album, window, look);
         addTextOutputSnapshots(album, window, look);
         addDesign(album, window, look);
+        addStart(album, project, look);
     }
     QApplication::setPalette(light);
 }

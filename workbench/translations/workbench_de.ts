@@ -1356,18 +1356,6 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Text</translation>
     </message>
     <message>
-        <source>&amp;Building</source>
-        <translation>&amp;Gebäude</translation>
-    </message>
-    <message>
-        <source>&amp;Slab</source>
-        <translation>&amp;Decke</translation>
-    </message>
-    <message>
-        <source>&amp;Hall</source>
-        <translation>&amp;Halle</translation>
-    </message>
-    <message>
         <source>Show &amp;All</source>
         <translation>&amp;Alles zeigen</translation>
     </message>
@@ -1498,6 +1486,14 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     <message>
         <source>Re&amp;load</source>
         <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>Close &amp;Project</source>
+        <translation>&amp;Projekt schließen</translation>
+    </message>
+    <message>
+        <source>Creates a project from a model file</source>
+        <translation>Legt ein Projekt aus einer Modelldatei an</translation>
     </message>
     <message>
         <source>Copies the script to the clipboard</source>
@@ -1645,6 +1641,10 @@ In der Anzeige fehlt möglicherweise etwas.</translation>
     <message>
         <source>%1 is reloaded.</source>
         <translation>%1 ist neu geladen.</translation>
+    </message>
+    <message>
+        <source>%1 is closed.</source>
+        <translation>%1 ist geschlossen.</translation>
     </message>
     <message>
         <source>Save Project As</source>
@@ -2121,6 +2121,68 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
     <message>
         <source>The plots can produce every line.</source>
         <translation>Jede Zeile kann von den Grafiken stammen.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::SampleModel</name>
+    <message>
+        <source>&amp;Building</source>
+        <translation>&amp;Gebäude</translation>
+    </message>
+    <message>
+        <source>&amp;Slab</source>
+        <translation>&amp;Decke</translation>
+    </message>
+    <message>
+        <source>&amp;Hall</source>
+        <translation>&amp;Halle</translation>
+    </message>
+    <message>
+        <source>Two-storey concrete office building with slabs, walls and columns</source>
+        <translation>Zweigeschossiges Bürogebäude aus Stahlbeton mit Decken, Wänden und Stützen</translation>
+    </message>
+    <message>
+        <source>Flat slab on columns and a wall</source>
+        <translation>Flachdecke auf Stützen und einer Wand</translation>
+    </message>
+    <message>
+        <source>Steel hall with crane girders on pad footings</source>
+        <translation>Stahlhalle mit Kranbahnträgern auf Einzelfundamenten</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::StartPage</name>
+    <message>
+        <source>Start page</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Zuletzt geöffnete Projekte</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Zuletzt geöffnete Projekte</translation>
+    </message>
+    <message>
+        <source>New Project from a Model</source>
+        <translation>Neues Projekt aus einem Modell</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>%1 (not found)</source>
+        <translation>%1 (nicht gefunden)</translation>
+    </message>
+    <message>
+        <source>No project has been opened yet.</source>
+        <translation>Es wurde noch kein Projekt geöffnet.</translation>
+    </message>
+    <message>
+        <source>You can also drop a project or a model file onto this window.</source>
+        <translation>Projekte und Modelldateien lassen sich auch auf dieses Fenster ziehen.</translation>
     </message>
 </context>
 </TS>

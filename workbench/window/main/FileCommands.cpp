@@ -54,6 +54,7 @@ void FileCommands::connectActions(const WindowActions& actions)
     on(actions.reload, &FileCommands::reload);
     on(actions.save, &FileCommands::save);
     on(actions.saveAs, &FileCommands::saveAs);
+    on(actions.close, &FileCommands::close);
     connect(actions.recentMenu, &QMenu::triggered, this, [this](const QAction* file) {
         leaveFor(file->data().toString()); // a copy, because the call rebuilds the menu
     });
@@ -195,9 +196,21 @@ void FileCommands::showFirstProject()
 void FileCommands::painted()
 {
     if (const QString path = std::exchange(m_pathToOpen, QString()); !path.isEmpty())
-        QTimer::singleShot(0, this, [this, path] { open(path); });
+        QTimer::singleShot(0, this, [this, path] {
+            if (!open(path))
+                Q_EMIT replaced();
+        });
     if (std::exchange(m_isProjectToShow, false))
         QTimer::singleShot(0, this, &FileCommands::showFirstProject);
+}
+
+void FileCommands::close()
+{
+    if (!mayLeave())
+        return;
+    const auto previous = setDocument(nullptr);
+    m_parts.view->setProject(ZobHandle());
+    m_parts.messages->say(tr("%1 is closed.").arg(QFileInfo(previous->path()).fileName()));
 }
 
 /// Unsaved rows and unsaved selections in open dialogs are preserved. If another program has

@@ -38,9 +38,9 @@ struct ProjectParts
     std::function<bool()> showContents;
 };
 
-/// The project commands of the File menu: new, open, reload, save and save as. The class asks about
-/// unsaved selections before a project is closed, and loads the model of a newly opened project
-/// into the view. The window shows all other data.
+/// The project commands of the File menu: new, open, reload, save, save as and close. The class
+/// asks about unsaved selections before a project is closed, and loads the model of a newly opened
+/// project into the view. The window shows all other data.
 class FileCommands : public QObject
 {
     Q_OBJECT
@@ -69,7 +69,8 @@ public:
     bool mayLeave();
 
 Q_SIGNALS:
-    /// Emitted after the open project has been replaced or closed, before the new project is shown.
+    /// Emitted after the open project has been replaced or closed, before the new project is shown,
+    /// and if openAfterPainting() has failed.
     void replaced();
 
 private:
@@ -80,6 +81,7 @@ private:
     void newProject(const QString& model);
     void chooseProject();
     void leaveFor(const QString& path);
+    void close();
     void reload();
     bool openDocument(const QString& path, Camera camera);
     std::unique_ptr<VKD_H_ZOBDoc> setDocument(std::unique_ptr<VKD_H_ZOBDoc> document);

@@ -16,8 +16,8 @@
 #include "window/output/OutputScript.h"
 #include "window/outputs/OutputCommands.h"
 #include "window/records/RecordsPane.h"
+#include "window/start/StartScreen.h"
 #include "window/support/FileDrop.h"
-#include "window/support/PageDock.h"
 #include "window/support/SlowWork.h"
 #include "window/support/withinScreen.h"
 #include "window/textoutput/TextOutputEditor.h"
@@ -122,6 +122,7 @@ void MainWindow::connectPanes()
             &OutputScript::setSheetsVisible);
     auto drop = new FileDrop(this, [] { return !QApplication::activeModalWidget(); });
     connect(drop, &FileDrop::dropped, m_files.get(), &FileCommands::openFile);
+    connect(m_panes->start, &StartScreen::projectChosen, m_files.get(), &FileCommands::openFile);
 }
 
 void MainWindow::connectProject()
@@ -147,6 +148,7 @@ bool MainWindow::openProject(const QString& path)
 
 void MainWindow::openAfterPainting(const QString& path)
 {
+    m_panes->start->setShown(path.isEmpty());
     m_files->openAfterPainting(path);
 }
 
@@ -196,22 +198,21 @@ void MainWindow::setTitle()
 void MainWindow::enableActions()
 {
     m_actions->enable(m_project.isOpen(), m_project.file() == ProjectWatch::File::Missing);
-    for (const PageDock* dock : m_panes->pageDocks())
-        dock->toggleViewAction()->setEnabled(m_project.isOpen());
 }
 
 void MainWindow::showReplaced()
 {
     m_panes->news->reset();
+    m_panes->setProjectOpen(m_project.isOpen());
     enableActions();
     setWindowModified(false);
     setTitle();
     if (!m_project.isOpen())
-        showContents();
+        showProject();
 }
 
-/// Shows the project except for the model. The script is shown last, because creating its page
-/// takes longest. Returns whether all data was read.
+/// Shows the project, if there is one, except for the model. The script is shown last, because
+/// creating its page takes longest. Returns whether all data was read.
 bool MainWindow::showProject()
 {
     const WaitCursor cursor;
@@ -241,7 +242,8 @@ bool MainWindow::showContents()
 /// If the project cannot be read at the moment, the previous records are preserved.
 bool MainWindow::showRecords()
 {
-    return m_access.canRead() && m_panes->records()->setProject(m_project.handle());
+    return (!m_project.isOpen() || m_access.canRead()) &&
+           m_panes->records()->setProject(m_project.handle());
 }
 
 /// Does nothing while a modal dialog is open, because the dialog may be using data that would

@@ -43,7 +43,8 @@ public:
     /// Replaces the open project. If the new project cannot be opened, shows a message and keeps
     /// the open project.
     bool openProject(const QString& path);
-    /// Opens a project after the window has first been painted.
+    /// Opens a project after the window has first been painted, or shows the start page if the path
+    /// is empty.
     void openAfterPainting(const QString& path);
 
 protected:

@@ -1,8 +1,9 @@
 #include "window/main/WindowActions.h"
 
+#include "window/start/SampleModel.h"
+
 #include <AnimatorViewControl.h>
 #include <vkd_language.h>
-#include <vkd_lib_searchpath.h>
 #include <vkd_qt_icon_named.h>
 
 #include <QActionGroup>
@@ -14,18 +15,6 @@
 namespace workbench {
 
 namespace {
-struct Named
-{
-    const char* name;
-    const char* text;
-};
-
-constexpr Named Samples[] = {
-    {"building", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Building")},
-    {"slab", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Slab")},
-    {"hall", QT_TRANSLATE_NOOP("workbench::WindowActions", "&Hall")},
-};
-
 struct View
 {
     AnimatorViewControl control;
@@ -56,20 +45,6 @@ constexpr Book Books[] = {
     {"TextOutputHelp", "TEXT/OUTPUT",
      QT_TRANSLATE_NOOP("workbench::WindowActions", "&Text Output")},
 };
-
-QString sampleText(const QAction* action)
-{
-    for (const Named& sample : Samples)
-        if (action->data().toString() == QLatin1String(sample.name))
-            return WindowActions::tr(sample.text);
-    return QString();
-}
-
-bool isInstalled(const char* sample)
-{
-    const QByteArray file = QByteArray("models/") + sample + ".json";
-    return vkd_lib_searchpath(file.constData(), 3).has_value();
-}
 } // namespace
 
 WindowActions::WindowActions(QMainWindow* window)
@@ -79,6 +54,7 @@ WindowActions::WindowActions(QMainWindow* window)
     , reload(add("Reload"))
     , save(add("Save"))
     , saveAs(add("SaveAs"))
+    , close(add("CloseProject"))
     , copyScript(add("CopyScriptAction"))
     , saveScript(add("SaveScriptAction"))
     , exportSheets(add("ExportSheetsAction"))
@@ -121,12 +97,12 @@ QAction* WindowActions::add(const char* name)
 
 void WindowActions::addSamples()
 {
-    for (const Named& sample : Samples)
-        if (isInstalled(sample.name)) {
-            QAction* action = add("NewFromSample");
-            action->setData(QLatin1String(sample.name));
-            newFromSample << action;
-        }
+    const QVector<SampleModel> samples = SampleModel::installed();
+    for (const SampleModel& sample : samples) {
+        QAction* action = add("NewFromSample");
+        action->setData(sample.name);
+        newFromSample << action;
+    }
 }
 
 void WindowActions::addViews()
@@ -159,7 +135,7 @@ void WindowActions::addMenus(QMainWindow* window)
     m_newMenu->addAction(newFromFile);
     m_fileMenu->addAction(open);
     recentMenu = m_fileMenu->addMenu(QString());
-    m_fileMenu->addActions({reload, save, saveAs});
+    m_fileMenu->addActions({reload, save, saveAs, close});
     m_fileMenu->addSeparator();
     m_fileMenu->addActions({copyScript, saveScript, exportSheets});
     m_fileMenu->addSeparator();
@@ -200,6 +176,7 @@ void WindowActions::setShortcuts()
     reload->setShortcut(QKeySequence::Refresh);
     save->setShortcut(QKeySequence::Save);
     saveAs->setShortcut(int(Qt::CTRL) | Qt::SHIFT | Qt::Key_S);
+    close->setShortcut(int(Qt::CTRL) | Qt::Key_W);
     copyScript->setShortcut(int(Qt::CTRL) | Qt::SHIFT | Qt::Key_C);
     saveScript->setShortcut(int(Qt::CTRL) | Qt::Key_E);
     quit->setShortcut(int(Qt::CTRL) | Qt::Key_Q);
@@ -229,16 +206,21 @@ void WindowActions::setTexts()
     m_languageMenu->setTitle(tr("&Language"));
     m_helpMenu->setTitle(tr("&Help"));
     m_toolBar->setWindowTitle(tr("Tool Bar"));
-    for (QAction* action : qAsConst(newFromSample))
-        action->setText(sampleText(action));
+    const QVector<SampleModel> samples = SampleModel::installed();
+    for (int i = 0; i < samples.size(); ++i) {
+        newFromSample[i]->setText(samples[i].title);
+        newFromSample[i]->setToolTip(samples[i].description);
+    }
     for (int i = 0; i < views.size(); ++i)
         views[i]->setText(tr(Views[i].text));
     newFromFile->setText(tr("&Model File..."));
+    newFromFile->setToolTip(tr("Creates a project from a model file"));
     open->setText(tr("&Open..."));
     reload->setText(tr("Re&load"));
     save->setText(tr("&Save"));
     save->setToolTip(tr("Stores all unsaved changes in the project file"));
     saveAs->setText(tr("Save &As..."));
+    close->setText(tr("Close &Project"));
     copyScript->setText(tr("&Copy Script"));
     copyScript->setIconText(tr("Copy")); // on the button next to the script
     copyScript->setToolTip(tr("Copies the script to the clipboard"));
@@ -267,7 +249,7 @@ void WindowActions::setTexts()
 
 void WindowActions::enable(bool hasProject, bool isFileGone)
 {
-    for (QAction* action : {save, saveAs, design, output, textOutput, sheet})
+    for (QAction* action : {save, saveAs, close, design, output, textOutput, sheet})
         action->setEnabled(hasProject);
     reload->setEnabled(hasProject && !isFileGone);
     for (QAction* action : qAsConst(views))

@@ -39,6 +39,7 @@ public:
     QAction* reload;
     QAction* save;
     QAction* saveAs;
+    QAction* close;
     QAction* copyScript;
     QAction* saveScript;
     QAction* exportSheets;

@@ -14,6 +14,7 @@
 #include "window/outputs/OutputsPane.h"
 #include "window/records/RecordsPane.h"
 #include "window/script/ScriptPane.h"
+#include "window/start/StartScreen.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowSettings.h"
 
@@ -59,6 +60,9 @@ WindowPanes::WindowPanes(const WindowActions& actions, QMainWindow* window)
     , sheets(new SheetPreview(actions.exportSheets, window))
     , design(new DesignDock(window))
     , output(new OutputDock(window))
+    , start(new StartScreen(
+          {window, view, StateVersion, {actions.newFromSample, actions.newFromFile, actions.open}},
+          this))
     , m_window(window)
 {
     addCentre();
@@ -97,8 +101,10 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_recordDock = addDock(m_window, Qt::RightDockWidgetArea, nullptr, "RecordDock");
     m_window->addDockWidget(Qt::BottomDockWidgetArea, design);
     m_window->addDockWidget(Qt::LeftDockWidgetArea, output);
-    for (PageDock* dock : pageDocks())
+    for (PageDock* dock : pageDocks()) {
         dock->hide();
+        dock->toggleViewAction()->setEnabled(false);
+    }
     for (const QDockWidget* dock : std::initializer_list<const QDockWidget*>{
              m_groupDock, output, design, m_outputsDock, m_scriptDock, m_sheetDock, m_recordDock})
         actions.viewMenu->addAction(dock->toggleViewAction());
@@ -176,6 +182,13 @@ void WindowPanes::setTexts()
     nameTabBars();
 }
 
+void WindowPanes::setProjectOpen(bool isOpen)
+{
+    start->setShown(!isOpen);
+    for (const PageDock* dock : pageDocks())
+        dock->toggleViewAction()->setEnabled(isOpen);
+}
+
 void WindowPanes::nameTabBars()
 {
     for (auto bar : m_window->findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly))
@@ -227,7 +240,7 @@ void WindowPanes::saveGeometry() const
 {
     WindowSettings settings;
     settings.setValue(GeometryKey, m_window->saveGeometry());
-    settings.setValue(StateKey, m_window->saveState(StateVersion));
+    settings.setValue(StateKey, start->dockState());
 }
 
 } // namespace workbench

@@ -21,6 +21,7 @@ class PickBanner;
 class RecordsPane;
 class ScriptPane;
 class SheetPreview;
+class StartScreen;
 class WindowActions;
 
 /// The panes of the main window: model, groups, script, sheets and design records. The class
@@ -36,6 +37,8 @@ public:
 
     /// Sets titles and labels in the language of the desktop.
     void setTexts();
+    /// Shows the start page if no project is open, and enables or disables the docks that need one.
+    void setProjectOpen(bool isOpen);
     /// Creates the pane with the design records on the first call, because a window without a
     /// project opens faster without this pane.
     RecordsPane* records();
@@ -61,6 +64,7 @@ public:
     SheetPreview* const sheets;
     DesignDock* const design;
     OutputDock* const output;
+    StartScreen* const start; ///< not shown until the window decides
 
 Q_SIGNALS:
     /// Emitted when the sheet preview becomes visible or invisible to the user.

@@ -22,24 +22,36 @@ WindowSettings::WindowSettings()
 QStringList WindowSettings::recentFiles() const
 {
     QStringList present;
-    const QStringList saved = value(RecentKey).toStringList();
+    const QStringList saved = savedRecentFiles();
     for (const QString& path : saved)
         if (QFileInfo(path).isFile())
             present << path;
-    return present.mid(0, MaximumCount);
+    return present;
+}
+
+QStringList WindowSettings::savedRecentFiles() const
+{
+    return value(RecentKey).toStringList().mid(0, MaximumCount);
 }
 
 void WindowSettings::addRecentFile(const QString& path)
 {
     const QString canonical = QFileInfo(path).canonicalFilePath();
     QStringList files{QDir::cleanPath(QFileInfo(path).absoluteFilePath())};
-    const QStringList before = recentFiles();
+    const QStringList before = savedRecentFiles();
     for (const QString& file : before)
-        if (QFileInfo(file).canonicalFilePath() != canonical)
+        if (file != files.first() && QFileInfo(file).canonicalFilePath() != canonical)
             files << file;
     if (files == before)
         return; // avoids writing to the disk
     setValue(RecentKey, QStringList(files.mid(0, MaximumCount)));
+}
+
+void WindowSettings::removeRecentFile(const QString& path)
+{
+    QStringList files = savedRecentFiles();
+    files.removeAll(path);
+    setValue(RecentKey, files);
 }
 
 Language WindowSettings::language(Language otherwise) const

@@ -18,7 +18,10 @@ public:
     /// Returns up to eight of the most recently opened projects, the latest first. A file occurs
     /// only once, even if it was opened through different paths. Missing files are omitted.
     QStringList recentFiles() const;
+    /// Returns the same list including missing files.
+    QStringList savedRecentFiles() const;
     void addRecentFile(const QString& path);
+    void removeRecentFile(const QString& path);
 
     /// Returns the saved language of the window, or `otherwise` if no language was saved.
     vkd::Language language(vkd::Language otherwise) const;
