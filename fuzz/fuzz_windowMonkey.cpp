@@ -253,8 +253,8 @@ private:
         if (project.isEmpty() && !isPopupOpen && monkey.triggered() &&
             !monkey.triggered()->actionGroup()) {
             const QByteArray text = monkey.triggered()->text().toUtf8();
-            QApplication::processEvents(); // delivers window activation events
             const bool isInList = monkey.triggered()->objectName() == QLatin1String("RemoveRecent");
+            QApplication::processEvents(); // delivers window activation events
             if (!m_watch.wasSeen && !isInList)
                 m_faults += "\nnothing comes of " + text;
         }

@@ -34,10 +34,12 @@ keep() {
     compress "$taken/$1/$2.en.png" "$pictures/$3.png"
 }
 
-# keepModel NAME SNAPSHOTS: saves the pictures of a sample model.
+# keepModel NAME FOLDER: saves the pictures of a sample model.
 keepModel() {
-    compress "$2/model.en.png" "$root/share/models/$1.png"
-    compress "$2/model-dark.en.png" "$root/share/models/$1-dark.png"
+    for look in "" -dark; do
+        compress "$2/1/model$look.en.png" "$root/share/models/$1$look.png"
+        compress "$2/2/model$look.en.png" "$root/share/models/$1$look@2x.png"
+    done
 }
 
 mkdir -p "$pictures"
@@ -49,9 +51,12 @@ keep 2 window-output-plots output-page
 keep 1 sheet-page sheet
 keep 1 window-text-chosen text-output
 keep 1 window-start start
-keepModel building "$taken/1"
+keepModel building "$taken"
 for model in slab hall; do
     "$workbench" new "$taken/$model.zob" --model $model --language english >/dev/null
-    "$workbench" snapshots "$taken/$model.zob" "$taken/$model" --language english >/dev/null
+    for ratio in 1 2; do
+        "$workbench" snapshots "$taken/$model.zob" "$taken/$model/$ratio" \
+            --language english --pixel-ratio $ratio >/dev/null
+    done
     keepModel $model "$taken/$model"
 done

@@ -18,7 +18,7 @@
 namespace workbench {
 
 namespace {
-constexpr QSize ModelSize(360, 224); // twice the size of the pictures on the start page
+constexpr QSize ModelSize(180, 120); // as on the start page
 
 /// Adds screenshots of the model and of the pages. The pages edit a copy of the project.
 void addPages(SnapshotAlbum& album, const QString& copy)

@@ -17,7 +17,7 @@ namespace workbench {
 
 namespace {
 constexpr int PathRole = Qt::UserRole;
-constexpr QSize PictureSize(180, 112);
+constexpr QSize PictureSize(180, 120);
 constexpr int Margin = 24; // around the page and between its columns
 constexpr int ListWidth = 560;
 constexpr int ListHeight = 400; // fits all projects that the settings contain
