@@ -1,5 +1,6 @@
 #include "search/SearchBar.h"
 
+#include "dialogs/ElidedLabel.h"
 #include "search/PlotSearch.h"
 
 #include <QCheckBox>
@@ -67,9 +68,11 @@ void SearchBar::layOut()
     line->addStretch(1);
     line->addWidget(m_count);
     lines->addLayout(line);
-    auto reminder = new QLabel(tr("Boxes change only what is shown."), this);
+    // A label that wraps its text would give the page a height for its width, and a scroll area
+    // would then show the page with its preferred height instead of fitting it in.
+    auto reminder = new ElidedLabel(this);
     reminder->setObjectName(QStringLiteral("searchReminder"));
-    reminder->setWordWrap(true);
+    reminder->setFullText(tr("Boxes change only what is shown."));
     lines->addWidget(reminder);
     setTabOrder(m_tree->previousInFocusChain(), m_words); // the tree follows
     setTabOrder(m_words, m_checkedOnly);
