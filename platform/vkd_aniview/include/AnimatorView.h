@@ -68,8 +68,8 @@ public:
     void setHighlightedGroup(int group);
 
     /// Highlights several groups, for example those of the current row in a table, in addition to
-    /// the group that setHighlightedGroup() highlights. Packed names
-    /// denote secondary groups (see vkd_dbo_packedNames.h).
+    /// the group that setHighlightedGroup() highlights. Packed names denote secondary groups (see
+    /// vkd_dbo_packedNames.h).
     void setSelectedGroups(const std::vector<int>& groups);
 
     /// Sets the colours of groups; all other groups are pale. If the map is empty, each group has

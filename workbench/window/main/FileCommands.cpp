@@ -183,6 +183,8 @@ void FileCommands::showProject(const VkdStatus& modelStatus)
 
 void FileCommands::showFirstProject()
 {
+    if (!m_parts.project->isOpen())
+        return; // closed in the meantime
     const VkdStatus status = showModel(m_parts.project->handle());
     if (status.code != VKD_ZOB_CANCELLED) {
         m_parts.view->slotViewControl(AnimatorStandardView, 0.0);
