@@ -153,7 +153,7 @@ private Q_SLOTS:
         row("moved by both", "@0 ^2", "@1 ^0", "B|C|>A changed");
     }
 
-    /// The program of another user has stored the list of the project in the meantime.
+    /// Another program has stored the project's list in the meantime.
     void following()
     {
         QFETCH(const QString, mine);

@@ -108,8 +108,8 @@ void OutputList::setStored()
     }
 }
 
-/// Returns the index of the saved version of an output of another list, or -1. An output without a
-/// name is the first one, even if another program has given it a name in the meantime.
+/// Returns the index of the saved version of an output from another list, or -1. An output without
+/// a name is the first one, even if another program has given it a name in the meantime.
 int OutputList::indexOfSaved(const NamedOutput& output) const
 {
     if (output.savedIndex < 0)
@@ -139,8 +139,8 @@ void OutputList::follow(const OutputList& project)
     m_storedNames = project.names();
 }
 
-/// Appends the outputs that the project did not contain before. They are saved, unless they need
-/// another name here.
+/// Appends the outputs that the project did not contain before. They count as saved unless they
+/// have to be renamed.
 void OutputList::appendNew(const OutputList& project)
 {
     QSet<int> known;

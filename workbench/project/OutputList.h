@@ -36,9 +36,9 @@ public:
     VkdStatus put(ZobHandle project) const;
     /// Must be called after the outputs have been stored.
     void setStored();
-    /// Includes the changes that another program has stored in the project, whose list is
-    /// `project`. Unsaved changes and the current output are preserved, even if the project no
-    /// longer contains the output. Outputs are matched by their saved names; new ones are appended.
+    /// Merges the changes that another program has stored. `project` is the list in the project.
+    /// Unsaved changes and the current output are preserved, even if the project no longer contains
+    /// the output. Outputs are matched by their saved names; new ones are appended.
     void follow(const OutputList& project);
     /// These functions return whether the list or any output has unsaved changes, or whether one
     /// output has unsaved changes.

@@ -6,7 +6,7 @@
 namespace workbench {
 
 /// Returns the name, with a number appended if `isUsed` returns true for the name itself. A short
-/// number that was appended before is increased: a copy of "Walls (2)" is "Walls (3)".
+/// number at the end of the name is incremented: a copy of "Walls (2)" is "Walls (3)".
 template <typename IsUsed>
 QString unusedName(const QString& name, const IsUsed& isUsed)
 {

@@ -6,7 +6,7 @@
 namespace workbench {
 
 /// Counts the pictures before the lines of a script. A script is read only once, when the first
-/// line is looked up, because a script with many load cases takes long to read.
+/// line is looked up, because reading a script with many load cases takes a long time.
 class PictureNumbers
 {
 public:
@@ -16,7 +16,7 @@ public:
 
 private:
     QString m_script;
-    QVector<int> m_before; ///< by line
+    QVector<int> m_before; ///< indexed by line
 };
 
 } // namespace workbench

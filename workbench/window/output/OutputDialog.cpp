@@ -114,8 +114,8 @@ void OutputDialog::setButtonTexts()
     buttons()->cmdCancel()->setText(tr("Dis&card"));
 }
 
-/// The dialog is created in the new language, but receives the event for the change later. The
-/// buttons then return to their standard texts.
+/// A dialog that is created after a language change still receives the event for this change. The
+/// base class then resets the buttons to their standard texts.
 bool OutputDialog::event(QEvent* event)
 {
     const bool isHandled = VKD_H_TabDialog::event(event);

@@ -158,8 +158,8 @@ void OutputEditor::reload()
     renew();
 }
 
-/// Discards the changes to the current output, and shows its state in the project. Changes to other
-/// outputs are preserved.
+/// Discards the changes to the current output, and shows the state that is stored in the project.
+/// Changes to other outputs are preserved.
 void OutputEditor::discard()
 {
     OutputList project;

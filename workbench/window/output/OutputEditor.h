@@ -38,8 +38,8 @@ public:
     /// Sets a function that applies the name that the user is typing, if any. It returns false if
     /// the name is not allowed.
     void setFinishName(const std::function<bool()>& finishName) { m_finishName = finishName; }
-    /// Applies the input that the user is typing. If it is not allowed, shows the reason, with the
-    /// field in its tab, and returns false.
+    /// Applies the input that the user is typing. If it is not allowed, shows the field and the
+    /// reason, and returns false.
     bool finishEditing();
     /// Returns the state for recreate(), or an empty optional if the dialog does not exist.
     std::optional<EditedOutputs> present();

@@ -41,7 +41,7 @@ public:
     void giveBack();
     /// Returns the choice as text for an undo step.
     QString stateText() const;
-    /// Restores the choice from an undo step. remember() must be called before, and the page must
+    /// Restores the choice from an undo step. remember() must have been called, and the page must
     /// already offer the load cases and the content of the step. The page itself restores its plots
     /// afterwards.
     void restoreState(const QString& text);

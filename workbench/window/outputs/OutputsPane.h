@@ -35,7 +35,7 @@ public:
     void setAbsentPlots(int count);
     /// Opens the editor for the name of the current output, if the list is visible.
     void editName();
-    /// Closes the editor for the name and applies its text, which is returned. Without an editor,
+    /// Closes the editor for the name, applies its text and returns it. If no editor is open,
     /// returns a null string.
     QString finishEditing();
 
