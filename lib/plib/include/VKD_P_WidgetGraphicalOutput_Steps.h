@@ -18,10 +18,10 @@ namespace widgetgraphicaloutput {
 /// - `void end(QString name, QString state)` ends the step and adds it to the history with this
 ///   name if anything has changed. `state` is the state of the host after the step.
 /// - `void restart(QString state)` clears the history. `state` is the current state of the host.
-/// - `void amend(QString name, QString state)` adds a change to the state of the host to the step of
-///   the user's last action. If that action did not change the page, adds a step with this name. A
-///   host uses this method if an action of the page, for example Default Settings, also changes the
-///   state of the host.
+/// - `void amend(QString name, QString state)` adds a change to the state of the host to the step
+///   of the user's last action. If that action did not change the page, adds a step with this name.
+///   A host uses this method if an action of the page, for example Default Settings, also changes
+///   the state of the host.
 ///
 /// Signals:
 /// - `hostStateRestored(QString)` is emitted during undo and redo if the state of the host differs.
