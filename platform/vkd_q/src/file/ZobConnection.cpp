@@ -29,8 +29,8 @@ constexpr char Schema[] = "PRAGMA page_size = 16384;"
 static_assert(ZobApplicationId == 1447773250 && ZobSchemaVersion == 2);
 
 // If the journal is deleted on commit, the mode FULL can lose the commit in a power failure. The
-// cache, in KiB, holds the records of 30 000 groups; all pages of a longer sequence are read from the
-// file in each pass.
+// cache, in KiB, holds the records of 30 000 groups; all pages of a longer sequence are read from
+// the file in each pass.
 constexpr char FileSettings[] = "PRAGMA synchronous = EXTRA;"
                                 "PRAGMA cache_size = -8000;";
 
