@@ -64,7 +64,7 @@ public:
     SheetPreview* const sheets;
     DesignDock* const design;
     OutputDock* const output;
-    StartScreen* const start; ///< not shown until the window decides
+    StartScreen* const start; ///< initially hidden
 
 Q_SIGNALS:
     /// Emitted when the sheet preview becomes visible or invisible to the user.

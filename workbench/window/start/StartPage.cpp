@@ -20,7 +20,7 @@ constexpr int PathRole = Qt::UserRole;
 constexpr QSize PictureSize(180, 120);
 constexpr int Margin = 24; // around the page and between its columns
 constexpr int ListWidth = 560;
-constexpr int ListHeight = 400; // fits all projects that the settings contain
+constexpr int ListHeight = 400; // fits the projects in the settings
 
 QLabel* newTitle(QWidget* parent)
 {
@@ -49,7 +49,7 @@ StartPage::StartPage(const Actions& actions, QWidget* parent)
     auto columns = new QHBoxLayout(page);
     columns->setContentsMargins(Margin, Margin, Margin, Margin);
     columns->setSpacing(Margin);
-    QLayout* newProject = newProjectColumn(actions); // first in tab order: Open is farther down
+    QLayout* newProject = newProjectColumn(actions); // so that Open is last in tab order
     columns->addStretch(1);
     columns->addLayout(recentColumn(actions.open), 100);
     columns->addLayout(newProject);

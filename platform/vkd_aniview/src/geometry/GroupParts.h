@@ -9,8 +9,8 @@
 namespace vkd {
 namespace aniview {
 
-/// Finds the parts of the groups of a model (see GroupPart). While elements are added, a part has
-/// the number in which it was first used.
+/// Finds the parts of the groups of a model (see GroupPart). Until sorted() is called, parts are
+/// numbered in the order of their first use.
 class GroupParts
 {
 public:
