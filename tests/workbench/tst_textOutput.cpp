@@ -271,7 +271,8 @@ private Q_SLOTS:
         dialog->findChild<CombinationTable*>()->setKinds({{102, 3}});
         choose(*dialog, CombinationBox, QStringLiteral("All Accidential"));
         const QString chosen = results(*dialog);
-        QVERIFY(dialog->isChanged() && window->isWindowModified());
+        QVERIFY(dialog->isChanged());
+        QTRY_VERIFY(window->isWindowModified());
         find<QWidget>(*dialog, "okayandcancelbutton")
             ->findChildren<QPushButton*>()[button]
             ->click();
@@ -338,9 +339,12 @@ private Q_SLOTS:
         const auto window = open("contents.zob");
         trigger(*window, "TextOutput");
         const auto dialog = window->findChild<TextOutputDialog*>();
+        QSignalSpy updates(dialog, &TextOutputDialog::choiceChanged);
         choose(*dialog, LoadCaseBox, QStringLiteral("Manually"));
         find<PickTable>(*dialog, "TextLoadCases")->chooseAllBut({1, 2, 3, 4, 5});
         find<PickTable>(*dialog, "TextCombinations")->chooseAllBut({101, 102});
+        QVERIFY(updates.wait());
+        QCOMPARE(updates.size(), 1); // the opening of the dialog is part of the same event
         const QString file = path("contents.txt");
         const auto exported = [&] {
             answerFileDialog(file);
@@ -357,11 +361,10 @@ private Q_SLOTS:
                                             "    3.2  7: Wind in Y\n"
                                             "    3.3  103: SLS, quasi-permanent\n"));
         find<PickTable>(*dialog, "TextLoadCases")->chooseAllBut({1, 2, 3, 4, 5, 6, 7});
-        QVERIFY(!find<QPlainTextEdit>(*dialog, "TextContents")
-                     ->toPlainText()
-                     .contains(QLatin1String("Loads")));
+        const auto contents = find<QPlainTextEdit>(*dialog, "TextContents");
+        QTRY_VERIFY(!contents->toPlainText().contains(QLatin1String("Loads")));
         choose(*dialog, ExtentBox, QStringLiteral("No text output"));
-        QVERIFY(!find<QPushButton>(*dialog, "CopyContents")->isEnabled());
+        QTRY_VERIFY(!find<QPushButton>(*dialog, "CopyContents")->isEnabled());
     }
 
     void languages()

@@ -67,6 +67,12 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     columns->addWidget(m_contents);
     connect(m_contents, &ContentsPreview::exportRequested, this,
             &TextOutputDialog::exportRequested);
+    m_changes.setSingleShot(true);
+    m_changes.setInterval(0);
+    connect(&m_changes, &QTimer::timeout, this, [this] {
+        m_contents->setContents(textContents(printedLists()));
+        Q_EMIT choiceChanged();
+    });
     addOkRow();
     setState(TextOutputState::read(project, ExtentFields::DefaultLists));
     m_saved = state();
@@ -246,14 +252,15 @@ bool TextOutputDialog::isChanged() const
     return !(state() == m_saved);
 }
 
+/// Updates the fields at once, because the next click must affect the fields that are shown. The
+/// table of contents can have many thousand lines, and one click can cause several changes.
 void TextOutputDialog::showChoice()
 {
     showInFields();
     m_extentResult->setText(extentText());
     m_loadCaseResult->setText(loadCaseText());
     m_combinationResult->setText(combinationText());
-    m_contents->setContents(textContents(printedLists()));
-    Q_EMIT choiceChanged();
+    m_changes.start();
 }
 
 /// Hides widgets that have no effect.

@@ -6,6 +6,8 @@
 #include <VKD_H_Dialog.h>
 #include <VKD_P_RadioGroup>
 
+#include <QTimer>
+
 #include <list>
 #include <memory>
 
@@ -39,6 +41,7 @@ public:
     void setUnchanged() { m_saved = state(); }
 
 Q_SIGNALS:
+    /// Emitted after changes, only once for all changes made by one event.
     void choiceChanged();
     /// Emitted when the user wants to save the table of contents.
     void exportRequested(const QString& contents);
@@ -79,6 +82,7 @@ private:
     QLabel* m_loadCaseResult = nullptr;
     QLabel* m_combinationResult = nullptr;
     TextOutputState m_saved;
+    QTimer m_changes; ///< runs after changes until the table of contents is updated
 };
 
 } // namespace workbench
