@@ -344,7 +344,7 @@ private Q_SLOTS:
         find<PickTable>(*dialog, "TextLoadCases")->chooseAllBut({1, 2, 3, 4, 5});
         find<PickTable>(*dialog, "TextCombinations")->chooseAllBut({101, 102});
         QVERIFY(updates.wait());
-        QCOMPARE(updates.size(), 1); // the opening of the dialog is part of the same event
+        QCOMPARE(updates.size(), 1); // opening the dialog is part of the event
         const QString file = path("contents.txt");
         const auto exported = [&] {
             answerFileDialog(file);

@@ -302,7 +302,7 @@ private Q_SLOTS:
         QVERIFY(areBranchesKept());
         find<QAction>(*dialog, "findPlots")->trigger(); // while another tab is shown
         QCOMPARE(tabs->currentIndex(), 0);
-        QVERIFY(!dialog->hasHeightForWidth()); // otherwise, the dock would not fit the page in
+        QVERIFY(!dialog->hasHeightForWidth()); // otherwise, the page would not fit
         const auto edit = find<QMenu>(*window, "EditMenu");
         QVERIFY(edit->menuAction()->isEnabled() &&
                 edit->actions().contains(find<QAction>(*dialog, "undo")));

@@ -12,7 +12,7 @@
 namespace vkd {
 namespace dbo {
 
-/// Thrown if a text is not valid JSON or cannot be split. Such a text must be parsed as a whole.
+/// Thrown if the text is not valid JSON or cannot be split. It must then be parsed as a whole.
 struct NotReadableInPieces
 {
 };

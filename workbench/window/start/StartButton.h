@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// A button of the start page, which triggers an action. In contrast to other tool buttons, Return
-/// also presses it.
+/// A button of the start page, which triggers an action. Unlike other tool buttons, it can also be
+/// pressed with Return.
 class StartButton : public QToolButton
 {
     Q_OBJECT

@@ -20,7 +20,7 @@ constexpr int PathRole = Qt::UserRole;
 constexpr QSize PictureSize(180, 120);
 constexpr int Margin = 24; // around the page and between its columns
 constexpr int ListWidth = 560;
-constexpr int ListHeight = 400; // fits the projects in the settings
+constexpr int ListHeight = 400; // enough for all recent projects
 
 QLabel* newTitle(QWidget* parent)
 {

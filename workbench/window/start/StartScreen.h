@@ -26,7 +26,7 @@ public:
     StartScreen(const Parts& parts, QObject* parent);
 
     void setShown(bool isShown);
-    /// Returns the state of the docks as it is while the page is not shown.
+    /// Returns the state that the docks have while the page is not shown.
     QByteArray dockState() const;
 
 Q_SIGNALS:

@@ -18,7 +18,7 @@ public:
     /// Returns up to eight of the most recently opened projects, the latest first. A file occurs
     /// only once, even if it was opened through different paths. Missing files are omitted.
     QStringList recentFiles() const;
-    /// Returns the same list including missing files.
+    /// Returns the same list, including missing files.
     QStringList savedRecentFiles() const;
     void addRecentFile(const QString& path);
     void removeRecentFile(const QString& path);

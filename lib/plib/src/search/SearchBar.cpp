@@ -69,7 +69,7 @@ void SearchBar::layOut()
     line->addWidget(m_count);
     lines->addLayout(line);
     // A label that wraps its text would give the page a height for its width, and a scroll area
-    // would then show the page with its preferred height instead of fitting it in.
+    // would then show the page with its preferred height instead of shrinking the page to fit.
     auto reminder = new ElidedLabel(this);
     reminder->setObjectName(QStringLiteral("searchReminder"));
     reminder->setFullText(tr("Boxes change only what is shown."));
