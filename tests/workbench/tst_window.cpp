@@ -19,6 +19,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 using namespace windowtest;
 using workbench::MainWindow;
 using workbench::ScriptView;

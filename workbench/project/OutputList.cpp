@@ -117,14 +117,15 @@ int OutputList::indexOfSaved(const NamedOutput& output) const
     return output.savedName.isEmpty() ? 0 : indexOf(output.savedName);
 }
 
-void OutputList::follow(const OutputList& project)
+void OutputList::follow(const OutputList& project, Removed removed)
 {
     QVector<NamedOutput> outputs;
     int current = 0;
     for (int i = 0; i < size(); ++i) {
         NamedOutput output = m_outputs[i];
         const int saved = project.indexOfSaved(output);
-        if (saved < 0 && i != m_current && !isChanged(i))
+        const bool isUsers = i == m_current || isChanged(i);
+        if (saved < 0 && !isUsers && removed == Removed::Drop)
             continue;
         output.savedIndex = saved;
         if (saved >= 0)

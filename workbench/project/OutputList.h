@@ -36,10 +36,12 @@ public:
     VkdStatus put(ZobHandle project) const;
     /// Must be called after the outputs have been stored.
     void setStored();
+    /// Selects whether follow() keeps unchanged outputs that the project no longer contains.
+    enum class Removed { Drop, Keep };
     /// Merges the changes that another program has stored. `project` is the list in the project.
     /// Unsaved changes and the current output are preserved, even if the project no longer contains
     /// the output. Outputs are matched by their saved names; new ones are appended.
-    void follow(const OutputList& project);
+    void follow(const OutputList& project, Removed removed);
     /// These functions return whether the list or any output has unsaved changes, or whether one
     /// output has unsaved changes.
     bool isChanged() const;

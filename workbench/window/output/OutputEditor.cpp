@@ -165,7 +165,7 @@ void OutputEditor::discard()
     OutputList project;
     if (!m_access->canRead() || !read(&project))
         return;
-    m_outputs.follow(project);
+    m_outputs.follow(project, OutputList::Removed::Drop);
     m_outputs.revert();
     m_areOutputsRead = m_outputs.isChanged();
     renew();

@@ -37,13 +37,15 @@ bool OutputEditor::read(OutputList* outputs) const
     return m_messages->succeeds(status, m_project->path(), tr("The file %1 cannot be read."));
 }
 
+/// Writes the outputs. Outputs that another program has stored are preserved, unless the user has
+/// changed them, too.
 VkdStatus OutputEditor::put(OutputList* outputs) const
 {
     VkdStatus status;
     const OutputList project = OutputList::read(m_project->handle(), &status);
     if (!status.isOk())
         return status;
-    outputs->follow(project);
+    outputs->follow(project, OutputList::Removed::Keep);
     return outputs->put(m_project->handle());
 }
 
@@ -66,7 +68,7 @@ EditedOutputs OutputEditor::followed(EditedOutputs outputs) const
     VkdStatus status;
     const OutputList project = OutputList::read(m_project->handle(), &status);
     if (status.isOk())
-        list.follow(project);
+        list.follow(project, OutputList::Removed::Drop);
     outputs.dialog.state = list.current().state;
     return outputs;
 }
