@@ -20,14 +20,16 @@ struct View
     AnimatorViewControl control;
     const char* text;
     const char* plane; ///< coordinate plane for the tool bar; null if the view has none
+    const char* icon;
 };
 
 constexpr View Views[] = {
-    {AnimatorShowAll, QT_TRANSLATE_NOOP("workbench::WindowActions", "Show &All"), nullptr},
-    {AnimatorStandardView, QT_TRANSLATE_NOOP("workbench::WindowActions", "&3D Standard"), nullptr},
-    {AnimatorViewXY, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Y"), "X/Y"},
-    {AnimatorViewXZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Z"), "X/Z"},
-    {AnimatorViewYZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "Vie&w Y/Z"), "Y/Z"},
+    {AnimatorShowAll, QT_TRANSLATE_NOOP("workbench::WindowActions", "Show &All"), nullptr, "all"},
+    {AnimatorStandardView, QT_TRANSLATE_NOOP("workbench::WindowActions", "&3D Standard"), nullptr,
+     "3d"},
+    {AnimatorViewXY, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Y"), "X/Y", "xy"},
+    {AnimatorViewXZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "View X/&Z"), "X/Z", "xz"},
+    {AnimatorViewYZ, QT_TRANSLATE_NOOP("workbench::WindowActions", "Vie&w Y/Z"), "Y/Z", "yz"},
 };
 
 struct Book
@@ -112,6 +114,8 @@ void WindowActions::addViews()
         action->setData(int(view.control));
         if (view.plane)
             action->setIconText(QLatin1String(view.plane));
+        action->setIcon(
+            vkd::qt::icon(QStringLiteral(":/icon/program/view_%1").arg(QLatin1String(view.icon))));
         views << action;
     }
 }

@@ -8,10 +8,13 @@
 #include <VKD_H_LineEdit.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
+#include <vkd_qt_icon_named.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_RadioButtonGroup.h>
 
 #include <QRadioButton>
+
+#include <iterator>
 
 namespace plib {
 
@@ -74,6 +77,10 @@ void SheetPanel::buildViews(QWidget* box)
                                     entries({tr("X/Y -Plane"), tr("X/Z -Plane"), tr("Y/Z -Plane"),
                                              tr("3D Standard"), tr("User defined")}),
                                     box, "PerspectiveGroup", Qt::Horizontal, 3);
+    constexpr const char* Icons[] = {"xy", "xz", "yz", "3d", "user"};
+    for (int view = 0; view < int(std::size(Icons)); ++view)
+        m_data.viewGroup->getRadioButton(view)->setIcon(vkd::qt::icon(
+            QStringLiteral(":/icon/program/view_%1").arg(QLatin1String(Icons[view]))));
     if (m_data.animator)
         m_data.viewGroup->setButton(int(OutputView::Standard3D));
 }
