@@ -5,6 +5,7 @@
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_Ok.h>
+#include <VKD_QT_OutlineStyle.h>
 #include <VKD_QT_TabDialog.h>
 #include <VKD_QT_TableWidget.h>
 #include <VKD_QT_TableWidgetButton.h>
@@ -16,6 +17,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QTabWidget>
 #include <QTranslator>
@@ -24,10 +26,10 @@
 using namespace testsupport;
 
 /// Returns the maximum difference in lightness between the background and any pixel, from 0 to 255.
-static int contrast(QAbstractItemView& view)
+static int contrast(QWidget& widget)
 {
-    const int ground = view.palette().color(QPalette::Base).lightness();
-    const QImage picture = view.viewport()->grab().toImage();
+    const int ground = widget.palette().color(QPalette::Base).lightness();
+    const QImage picture = widget.grab().toImage();
     int greatest = 0;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
@@ -252,7 +254,7 @@ private Q_SLOTS:
     }
 
     /// In a dark palette, Fusion's own lines have almost the colour of the background.
-    void emptyCheckBoxAndGridCanBeSeen()
+    void emptyBoxesAndGridCanBeSeen()
     {
         QPalette dark(QColor(53, 53, 53), QColor(45, 45, 45));
         dark.setColor(QPalette::Base, QColor(35, 35, 35));
@@ -263,7 +265,15 @@ private Q_SLOTS:
             for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(&tree),
                                             static_cast<QAbstractItemView*>(&table)}) {
                 view->setPalette(palette);
-                QVERIFY2(contrast(*view) > 35, view->metaObject()->className());
+                QVERIFY2(contrast(*view->viewport()) > 35, view->metaObject()->className());
+            }
+            VKD_QT_OutlineStyle style(QStringLiteral("fusion"));
+            QCheckBox check;
+            QRadioButton radio;
+            for (QWidget* button : {static_cast<QWidget*>(&check), static_cast<QWidget*>(&radio)}) {
+                button->setStyle(&style);
+                button->setPalette(palette);
+                QVERIFY2(contrast(*button) > 35, button->metaObject()->className());
             }
         }
     }

@@ -3,6 +3,7 @@
 #include "takeSnapshots.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_OutlineStyle.h>
 #include <vkd_qt_translateQt.h>
 
 #include <QApplication>
@@ -81,7 +82,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new VKD_QT_OutlineStyle(QStringLiteral("fusion")));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // the usual desktop font
     return runCommand(snapshots, command);
 }

@@ -8,3 +8,7 @@
 /// background. Styles draw them in a darker shade of the window colour, which is invisible in dark
 /// palettes. Light palettes are not changed.
 VKD_QT_EXPORT QStyleOptionViewItem vkd_qt_visibleLines(QStyleOptionViewItem option);
+
+/// Adapts a palette in the same way. `shareOfText`, in percent, is the position of the colour of
+/// the lines between the background and the text.
+VKD_QT_EXPORT QPalette vkd_qt_visibleLines(QPalette palette, int shareOfText);

@@ -3,10 +3,12 @@
 #include "window/support/WindowSettings.h"
 
 #include <VKD_QT_InitTranslator.h>
+#include <VKD_QT_OutlineStyle.h>
 #include <vkd_qt_translateQt.h>
 
 #include <QApplication>
 #include <QIcon>
+#include <QStyle>
 
 namespace workbench {
 
@@ -17,6 +19,7 @@ int runWindow(const QString& path)
     vkd_qt_translateQt();
     QGuiApplication::setDesktopFileName(QStringLiteral("org.plib.workbench"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("plib_workbench")));
+    QApplication::setStyle(new VKD_QT_OutlineStyle(QApplication::style()->objectName()));
     MainWindow window;
     window.openAfterPainting(path);
     window.show();

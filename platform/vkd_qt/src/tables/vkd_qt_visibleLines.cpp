@@ -4,20 +4,27 @@ namespace {
 constexpr int ShareOfText = 30;   // percent, as in light palettes
 constexpr int LessDarkened = 130; // percent, about the amount by which styles darken
 
-int between(int base, int text)
+int between(int base, int text, int share)
 {
-    return base + (text - base) * ShareOfText / 100;
+    return base + (text - base) * share / 100;
 }
 } // namespace
 
+QPalette vkd_qt_visibleLines(QPalette palette, int shareOfText)
+{
+    const QColor base = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::Text);
+    if (base.lightness() < text.lightness()) {
+        const QColor line(between(base.red(), text.red(), shareOfText),
+                          between(base.green(), text.green(), shareOfText),
+                          between(base.blue(), text.blue(), shareOfText));
+        palette.setColor(QPalette::Window, line.lighter(LessDarkened));
+    }
+    return palette;
+}
+
 QStyleOptionViewItem vkd_qt_visibleLines(QStyleOptionViewItem option)
 {
-    const QColor base = option.palette.color(QPalette::Base);
-    const QColor text = option.palette.color(QPalette::Text);
-    if (base.lightness() < text.lightness()) {
-        const QColor line(between(base.red(), text.red()), between(base.green(), text.green()),
-                          between(base.blue(), text.blue()));
-        option.palette.setColor(QPalette::Window, line.lighter(LessDarkened));
-    }
+    option.palette = vkd_qt_visibleLines(option.palette, ShareOfText);
     return option;
 }

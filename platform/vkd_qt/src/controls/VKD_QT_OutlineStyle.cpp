@@ -1,0 +1,26 @@
+#include "VKD_QT_OutlineStyle.h"
+
+#include "vkd_qt_visibleLines.h"
+
+#include <QStyleOptionButton>
+
+namespace {
+constexpr int ShareOfText = 60; // percent; the background may be lighter than that of a table
+}
+
+VKD_QT_OutlineStyle::VKD_QT_OutlineStyle(const QString& style)
+    : QProxyStyle(style)
+{
+}
+
+void VKD_QT_OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                        QPainter* painter, const QWidget* widget) const
+{
+    const auto button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const bool isIndicator = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    if (!isIndicator || !button)
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    QStyleOptionButton visible = *button;
+    visible.palette = vkd_qt_visibleLines(button->palette, ShareOfText);
+    QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+}
