@@ -17,6 +17,7 @@
 #include <QTableWidget>
 #include <QTabWidget>
 #include <QToolButton>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -339,6 +340,14 @@ private Q_SLOTS:
         auto window = open("turned.zob");
         trigger(*window, "Output");
         QTRY_VERIFY(!find<QWidget>(*window, "OutputView")->isEnabled()); // the first view is sent
+        find<QAbstractButton>(*window, "FormatGroup_1")->click();
+        const std::pair<const char*, const char*> hints[] = {
+            {"OutputView", "Choose “User defined” to turn the model."},
+            {"PicturesGroup_0", "A landscape page has one picture."}};
+        for (const auto& [widget, hint] : hints) {
+            QTest::mouseClick(find<QWidget>(*window, widget), Qt::LeftButton);
+            QTRY_COMPARE(QToolTip::text(), QString::fromUtf8(hint));
+        }
         find<QAbstractButton>(*window, "PerspectiveGroup_4")->click();
         QTest::keyClick(find<QWidget>(*window, "OutputView"), Qt::Key_Left);
         const auto camera = [&window] { // for both keyword languages

@@ -2,6 +2,7 @@
 
 #include "window/output/OutputOffers.h"
 #include "window/output/TreeViewMemory.h"
+#include "window/support/DisabledHint.h"
 #include "window/support/HelpKey.h"
 
 #include <AnimatorView.h>
@@ -69,7 +70,6 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     , m_view(new AnimatorView(document->handle(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
     , m_plots(m_page->findChild<QTreeWidget*>())
-    , m_viewHint(m_view->toolTip())
     , m_offers(new OutputOffers(document->handle(), m_page, m_view))
 {
     setWindowFlags(Qt::Widget);
@@ -199,22 +199,18 @@ void OutputDialog::listen()
         m_page->findChild<QObject*>(QLatin1String(vkd::plib::widgetgraphicaloutput::StepsObject)),
         SIGNAL(stepped()), &m_changes, SLOT(start()));
     m_view->installEventFilter(this);
-    const auto format = m_page->findChild<QWidget*>(QStringLiteral("PicturesGroup"));
-    if (format)
-        format->setToolTip(tr("A landscape page has one picture."));
+    new DisabledHint(m_view, tr("Choose “User defined” to turn the model."));
+    new DisabledHint(m_page->findChild<QWidget*>(QStringLiteral("PicturesGroup")),
+                     tr("A landscape page has one picture."));
 }
 
-/// A view does not emit a signal when its camera changes, so its input events are watched. A fixed
-/// view is disabled and ignores the mouse, so its tooltip explains how to turn it.
+/// A view does not emit a signal when its camera changes, so its input events are watched.
 bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
 {
     const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||
                          event->type() == QEvent::KeyRelease || event->type() == QEvent::Wheel;
     if (watched == m_view && mayTurn && showsUsersView())
         m_changes.start(0);
-    if (watched == m_view && event->type() == QEvent::EnabledChange)
-        m_view->setToolTip(m_view->isEnabled() ? m_viewHint
-                                               : tr("Choose “User defined” to turn the model."));
     return VKD_H_TabDialog::eventFilter(watched, event);
 }
 

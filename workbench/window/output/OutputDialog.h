@@ -94,7 +94,6 @@ private:
     AnimatorView* m_view;
     VKD_P_WidgetGraphicalOutput* m_page;
     QTreeWidget* m_plots;
-    const QString m_viewHint; ///< tooltip of a view that can be turned
     OutputOffers* m_offers;
     QTimer m_changes;
     QString m_unchanged;
