@@ -36,7 +36,7 @@ public:
     VkdStatus put(ZobHandle project) const;
     /// Must be called after the outputs have been stored.
     void setStored();
-    /// Selects whether follow() keeps unchanged outputs that the project no longer contains.
+    /// Specifies whether follow() keeps unchanged outputs that the project no longer contains.
     enum class Removed { Drop, Keep };
     /// Merges the changes that another program has stored. `project` is the list in the project.
     /// Unsaved changes and the current output are preserved, even if the project no longer contains

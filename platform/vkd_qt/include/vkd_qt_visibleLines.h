@@ -9,6 +9,6 @@
 /// palettes. Light palettes are not changed.
 VKD_QT_EXPORT QStyleOptionViewItem vkd_qt_visibleLines(QStyleOptionViewItem option);
 
-/// Adapts a palette in the same way. `shareOfText`, in percent, is the position of the colour of
-/// the lines between the background and the text.
+/// Adapts a palette in the same way. `shareOfText` is the percentage of the text colour in the
+/// colour of the lines; the rest is the background colour.
 VKD_QT_EXPORT QPalette vkd_qt_visibleLines(QPalette palette, int shareOfText);
