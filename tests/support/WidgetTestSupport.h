@@ -7,22 +7,24 @@
 #include <QDeadlineTimer>
 #include <QLineEdit>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QTimer>
 
 #include <functional>
 
 namespace testsupport {
 
-/// Calls `act` with the next modal dialog or message box. Must be called before the step that opens
-/// the dialog. Does nothing if no dialog opens in time.
-inline void whenModal(const std::function<void(QWidget*)>& act)
+/// Calls `act` with the next modal widget that `accepts` returns true for. Must be called before
+/// the step that opens the widget. Does nothing if no such widget opens in time.
+inline void whenModal(const std::function<bool(QWidget*)>& accepts,
+                      const std::function<void(QWidget*)>& act)
 {
     const QPointer<QWidget> before = QApplication::activeModalWidget();
     auto timer = new QTimer(qApp);
     const QDeadlineTimer deadline(Patience);
     QObject::connect(timer, &QTimer::timeout, timer, [=] {
         QWidget* modal = QApplication::activeModalWidget();
-        const bool isThere = modal && modal != before && modal->isVisible();
+        const bool isThere = modal && modal != before && modal->isVisible() && accepts(modal);
         if (!isThere && !deadline.hasExpired())
             return;
         timer->stop();
@@ -31,6 +33,20 @@ inline void whenModal(const std::function<void(QWidget*)>& act)
             act(modal);
     });
     timer->start(10);
+}
+
+/// Calls `act` with the next modal dialog or message box. Ignores progress dialogs, which open only
+/// on slow computers.
+inline void whenModal(const std::function<void(QWidget*)>& act)
+{
+    whenModal([](QWidget* modal) { return !qobject_cast<QProgressDialog*>(modal); }, act);
+}
+
+/// Calls `act` with the next progress dialog.
+inline void whenProgress(const std::function<void(QProgressDialog*)>& act)
+{
+    whenModal([](QWidget* modal) { return qobject_cast<QProgressDialog*>(modal) != nullptr; },
+              [act](QWidget* modal) { act(qobject_cast<QProgressDialog*>(modal)); });
 }
 
 template <class Widget>

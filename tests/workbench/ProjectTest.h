@@ -17,6 +17,7 @@ using testsupport::find;
 using testsupport::readFile;
 using testsupport::trigger;
 using testsupport::whenModal;
+using testsupport::whenProgress;
 using testsupport::writeFile;
 
 /// Returns the output of the command line with these arguments.

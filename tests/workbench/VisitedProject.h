@@ -17,6 +17,7 @@ using testsupport::German;
 using testsupport::setLanguage;
 using testsupport::trigger;
 using testsupport::whenModal;
+using testsupport::whenProgress;
 
 using Visit = std::function<void(QWidget&)>;
 /// Opens one or more windows one after the other, calls a function for each window, and closes it.

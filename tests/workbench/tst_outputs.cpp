@@ -11,7 +11,6 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QListWidget>
-#include <QProgressDialog>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -393,10 +392,7 @@ private Q_SLOTS:
         auto other = std::make_unique<OtherProgram>(path("theirs.zob"), OtherProgram::Storing);
         whenModal([&](QWidget* dialog) {
             enterFile(dialog, path("theirs.zob"));
-            whenModal([&other](QWidget* waiting) {
-                QVERIFY(qobject_cast<QProgressDialog*>(waiting));
-                other.reset();
-            });
+            whenProgress([&other](QProgressDialog*) { other.reset(); });
         });
         trigger(*window, "CopyOutputs");
         QTRY_COMPARE(listed(*window), QStringLiteral("Output 1|>/theirs/"));

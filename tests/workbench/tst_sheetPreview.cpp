@@ -14,7 +14,6 @@
 #include <QComboBox>
 #include <QDebug>
 #include <QPainter>
-#include <QProgressDialog>
 #include <QRadioButton>
 #include <QRandomGenerator>
 #include <QScrollBar>
@@ -359,7 +358,7 @@ private Q_SLOTS:
         const SheetPlan plan = readSheetPlan(longScript(100000));
         ModelImages none{ZobHandle()};
         SheetPainter painter(&none, QStringLiteral("Project"));
-        whenModal([](QWidget* progress) { qobject_cast<QProgressDialog*>(progress)->cancel(); });
+        testsupport::whenProgress([](QProgressDialog* progress) { progress->cancel(); });
         QString trouble;
         QVERIFY(exportSheets(plan, painter, file, nullptr, &trouble) == SheetExport::Cancelled);
         QCOMPARE(readFile(file), QByteArray("what was there"));

@@ -316,7 +316,7 @@ private Q_SLOTS:
             workbench::makeProjectFile(path, model, [&](int) { return written().isEmpty(); });
             if (written().isEmpty())
                 qFatal("killed too late");
-            whenModal([](QWidget* box) { box->findChild<QAbstractButton*>()->click(); });
+            whenProgress([](QProgressDialog* box) { box->findChild<QAbstractButton*>()->click(); });
             QElapsedTimer clock;
             clock.start();
             while (goOn(50))

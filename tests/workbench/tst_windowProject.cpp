@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QElapsedTimer>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QTableWidget>
 
@@ -129,8 +128,7 @@ private Q_SLOTS:
         vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, deadline);
         QString label;
         QStringList messages;
-        whenModal([&](QWidget* box) {
-            const auto waiting = qobject_cast<QProgressDialog*>(box);
+        whenProgress([&](QProgressDialog* waiting) {
             label = waiting->labelText();
             if (end == "free")
                 other.reset();
