@@ -91,6 +91,16 @@ void Monkey::step(QWidget* window)
         QApplication::processEvents();
 }
 
+void Monkey::stepIn(QWidget* part)
+{
+    m_window = part->window();
+    m_triggered = nullptr;
+    if (below(2))
+        act(part);
+    else
+        clickButton(part);
+}
+
 void Monkey::workOnDialog()
 {
     QTimer::singleShot(0, this, [this] { workOnDialog(); }); // this step may open a dialog
@@ -141,7 +151,7 @@ void Monkey::nameFile(QFileDialog* dialog)
 QWidget* Monkey::pickPart(QWidget* window)
 {
     QWidget* widget = pick(window->findChildren<QWidget*>());
-    return widget && widget->window() == window ? widget : nullptr;
+    return widget && widget->window() == window->window() ? widget : nullptr;
 }
 
 QPoint Monkey::placeIn(const QWidget* widget)
@@ -161,8 +171,9 @@ void Monkey::press(QWidget* widget)
         Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Tab,      Qt::Key_F1,    Qt::Key_PageUp,
     };
     static const Qt::Key withControl[] = {
-        Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Z, Qt::Key_S, Qt::Key_G, Qt::Key_T,
-        Qt::Key_D, Qt::Key_O, Qt::Key_Q, Qt::Key_P, Qt::Key_0, Qt::Key_3, Qt::Key_E, Qt::Key_Home,
+        Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X,    Qt::Key_Z, Qt::Key_S,
+        Qt::Key_G, Qt::Key_T, Qt::Key_D, Qt::Key_O,    Qt::Key_Q, Qt::Key_P,
+        Qt::Key_0, Qt::Key_3, Qt::Key_E, Qt::Key_Home, Qt::Key_F, Qt::Key_R,
     };
     if (!widget)
         return;

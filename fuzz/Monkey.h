@@ -33,6 +33,8 @@ public:
 
     /// Performs one step in a window that is not blocked by a modal dialog.
     void step(QWidget* window);
+    /// Performs one step with the mouse in a part of a window.
+    void stepIn(QWidget* part);
     void close(QWidget* window);
     int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
     /// Returns the number of steps so far, including steps in dialogs and menus.

@@ -1,4 +1,5 @@
 #include "Monkey.h"
+#include "project/presetPlaces.h"
 #include "ProjectTest.h"
 #include "window/design/DesignPage.h"
 #include "window/main/FileCommands.h"
@@ -160,12 +161,17 @@ private:
         VKD_H_ZOBDoc::create(path("empty.zob"));
         writeFile(path("noise.zob"), "noise");
         writeFile(path("noise.json"), "{\"nodes\": 1");
+        exportPresets(PresetKind::Plots, path("plots.json"),
+                      {{QStringLiteral("a"),
+                        {},
+                        {{QStringLiteral("@SYS   $G00   ^G01"), QStringList()},
+                         {QStringLiteral("&X"), QStringList()}}}});
         QFile::copy(QStringLiteral(MODELS "/slab.json"), path("slab.json"));
         QFile::setPermissions(copy("protected.zob"), QFile::ReadOwner);
-        return {copy("mine.zob"), copy("theirs.zob"), path("empty.zob"),   path("noise.zob"),
-                path("new.zob"),  path("slab.json"),  path("noise.json"),  path("protected.zob"),
-                path("new.dat"),  path("new.pdf"),    path("missing.zob"), path("no/folder.zob"),
-                m_folder->path()};
+        return {copy("mine.zob"),   copy("theirs.zob"), path("empty.zob"),   path("noise.zob"),
+                path("new.zob"),    path("slab.json"),  path("noise.json"),  path("protected.zob"),
+                path("new.dat"),    path("new.pdf"),    path("missing.zob"), path("no/folder.zob"),
+                path("plots.json"), m_folder->path()};
     }
 
     QString projectOf(const MainWindow& window) const
@@ -248,6 +254,8 @@ private:
         m_watch.begin();
         if (monkey.below(60) == 0)
             monkey.close(place);
+        else if (monkey.below(8) == 0)
+            monkey.stepIn(find<QWidget>(window, monkey.below(2) ? "ScriptDock" : "OutputDock"));
         else
             monkey.step(place);
         if (project.isEmpty() && !isPopupOpen && monkey.triggered() &&
