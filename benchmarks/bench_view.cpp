@@ -130,7 +130,8 @@ void hoverAfterTurn(benchmark::State& state)
     for (auto _ : state) {
         shown.turn();
         const QPointF place(shown.image.width() * (++step % 9) / 9.0, shown.image.height() / 2.0);
-        QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, place, shown.view.mapToGlobal(place.toPoint()),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         const double start = processorSeconds();
         QCoreApplication::sendEvent(&shown.view, &move);
         state.SetIterationTime(processorSeconds() - start);

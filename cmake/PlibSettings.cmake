@@ -20,7 +20,22 @@ if(NOT DEFINED CMAKE_INSTALL_RPATH)
     set(CMAKE_INSTALL_RPATH "$ORIGIN/${libraries}" "$ORIGIN")
 endif()
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core LinguistTools Widgets)
+set(PLIB_QT 5 CACHE STRING "Major version of Qt: 5, which the suite uses, or 6")
+set_property(CACHE PLIB_QT PROPERTY STRINGS 5 6)
+set(PLIB_QT_MINIMUM_5 5.15)
+set(PLIB_QT_MINIMUM_6 6.4)
+if(NOT PLIB_QT_MINIMUM_${PLIB_QT})
+    message(FATAL_ERROR "PLIB_QT is ${PLIB_QT}; it must be 5 or 6")
+endif()
+set(PLIB_QT_MINIMUM ${PLIB_QT_MINIMUM_${PLIB_QT}})
+find_package(Qt${PLIB_QT} ${PLIB_QT_MINIMUM} REQUIRED COMPONENTS Core LinguistTools Widgets)
+
+# The libraries for both versions of Qt can be installed in the same folders. The names of the files
+# and folders of the Qt 6 libraries have a suffix; those of the Qt 5 libraries never change.
+set(PLIB_SUFFIX "")
+if(PLIB_QT EQUAL 6)
+    set(PLIB_SUFFIX -qt6)
+endif()
 
 find_program(PLIB_CCACHE ccache)
 if(PLIB_CCACHE)
@@ -60,14 +75,15 @@ file(CREATE_LINK ${PROJECT_SOURCE_DIR}/share ${PROJECT_BINARY_DIR}/share SYMBOLI
 # <headers>.
 function(vkd_install_target name package headers)
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION}
-                                             SOVERSION ${PROJECT_VERSION_MAJOR})
+                                             SOVERSION ${PROJECT_VERSION_MAJOR}
+                                             OUTPUT_NAME ${name}${PLIB_SUFFIX})
     add_library(vkd::${name} ALIAS ${name})
     set_property(GLOBAL APPEND PROPERTY ${package}_targets ${name})
     set_property(TARGET ${name} PROPERTY vkd_headers ${headers})
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
         $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vkd/${headers}>)
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vkd${PLIB_SUFFIX}/${headers}>)
     install(TARGETS ${name} EXPORT ${package} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
                                                       COMPONENT runtime
                                                       NAMELINK_COMPONENT development)
@@ -97,39 +113,40 @@ function(vkd_install_library name package)
     string(TOUPPER ${name} prefix)
     set(version ${CMAKE_CURRENT_BINARY_DIR}/${name}_version.h)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/version.h.in ${version} @ONLY)
-    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name}
+    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd${PLIB_SUFFIX}/${name}
             COMPONENT development)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h ${version}
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd/${name} COMPONENT development)
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vkd${PLIB_SUFFIX}/${name} COMPONENT development)
     vkd_check_headers(${name})
 endfunction()
 
-# Installs the file <name>.pc for pkg-config. Its paths are relative, so that the installation can
-# be moved. The file requires the libraries that the target links publicly.
+# Installs the file <name>${PLIB_SUFFIX}.pc for pkg-config. Its paths are relative, so that the
+# installation can be moved. The file requires the libraries that the target links publicly.
 function(vkd_install_pkgconfig name)
     get_target_property(headers ${name} vkd_headers)
     get_target_property(linked ${name} INTERFACE_LINK_LIBRARIES)
-    list(FILTER linked INCLUDE REGEX "^(Qt5::|vkd_)")
+    list(FILTER linked INCLUDE REGEX "^(Qt|vkd_)")
+    list(TRANSFORM linked APPEND "${PLIB_SUFFIX}" REGEX "^vkd_")
     list(TRANSFORM linked REPLACE "::" "")
     list(REMOVE_DUPLICATES linked)
     list(JOIN linked " " requires)
     set(folder ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
     file(RELATIVE_PATH libraries ${folder} ${CMAKE_INSTALL_FULL_LIBDIR})
-    file(RELATIVE_PATH includes ${folder} ${CMAKE_INSTALL_FULL_INCLUDEDIR}/vkd/${headers})
-    configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in
-                   ${PROJECT_BINARY_DIR}/pkgconfig/${name}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${name}.pc
+    file(RELATIVE_PATH includes ${folder} ${CMAKE_INSTALL_FULL_INCLUDEDIR}/vkd${PLIB_SUFFIX}/${headers})
+    set(file ${PROJECT_BINARY_DIR}/pkgconfig/${name}${PLIB_SUFFIX}.pc)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${file} @ONLY)
+    install(FILES ${file}
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endfunction()
 
-# Installs the files for find_package(<package>): the targets and the package file, which is
-# generated from cmake/<package>Config.cmake.in. The targets also have aliases without the namespace
-# vkd::.
+# Installs the files for find_package(<package>${PLIB_SUFFIX}): the targets and the package file, which
+# is generated from cmake/<package>Config.cmake.in. The names of the targets have no suffix. The
+# targets also have aliases without the namespace vkd::.
 function(vkd_install_package package)
     include(CMakePackageConfigHelpers)
-    set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
-    set(version ${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake)
-    set(config ${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake)
+    set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${package}${PLIB_SUFFIX})
+    set(version ${CMAKE_CURRENT_BINARY_DIR}/${package}${PLIB_SUFFIX}ConfigVersion.cmake)
+    set(config ${CMAKE_CURRENT_BINARY_DIR}/${package}${PLIB_SUFFIX}Config.cmake)
     get_property(targets GLOBAL PROPERTY ${package}_targets)
     foreach(name IN LISTS targets)
         vkd_install_pkgconfig(${name})
@@ -187,11 +204,11 @@ function(vkd_add_translations target)
     endif()
     get_filename_component(module ${file} NAME)
     string(REPLACE _de.ts "" module ${module})
-    qt5_add_translation(compiled ${file} OPTIONS -silent)
+    qt_add_translation(compiled ${file} OPTIONS -silent)
     set(list ${CMAKE_CURRENT_BINARY_DIR}/${module}_translations.qrc)
     file(CONFIGURE OUTPUT ${list} CONTENT
         "<RCC><qresource prefix=\"/translations\"><file>${module}_de.qm</file></qresource></RCC>\n")
-    qt5_add_resources(resources ${list} OPTIONS --format-version 1) # contains no file times
+    qt_add_resources(resources ${list} OPTIONS --format-version 1) # contains no file times
     set(translator ${CMAKE_CURRENT_BINARY_DIR}/${module}_translator.cpp)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in ${translator} @ONLY)
     target_sources(${target} PRIVATE ${translator} ${resources})

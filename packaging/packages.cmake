@@ -1,4 +1,7 @@
 # Settings of the Debian packages, which packaging/makePackages builds with the preset `package`.
+if(NOT PLIB_QT EQUAL 5)
+    message(FATAL_ERROR "The names and dependencies of the Debian packages are those for Qt 5")
+endif()
 # The owner of the project chooses the licence, so its text is read from a file.
 set(PLIB_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE CACHE FILEPATH "Text of the licence for the packages")
 set(PLIB_MAINTAINER "" CACHE STRING "Maintainer of the Debian packages, with a mail address")

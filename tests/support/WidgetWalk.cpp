@@ -352,6 +352,15 @@ void Walk::lookAtStop(const QWidget* stop, QVector<const QWidget*>& before)
     before << stop;
 }
 
+static QWidgetList widgetsWith(const QAction* action)
+{
+    QWidgetList widgets;
+    for (QWidget* widget : QApplication::allWidgets())
+        if (widget->actions().contains(const_cast<QAction*>(action)))
+            widgets << widget;
+    return widgets;
+}
+
 /// Returns whether the shortcut of two actions can be ambiguous. It is not ambiguous if the actions
 /// belong to different pages and work only while their own page has the focus.
 static bool clashes(const QAction* first, const QAction* second)
@@ -361,8 +370,8 @@ static bool clashes(const QAction* first, const QAction* second)
     for (const QAction* action : {first, second})
         if (action->shortcutContext() != Qt::WidgetWithChildrenShortcut)
             return true;
-    for (const QWidget* one : first->associatedWidgets())
-        for (const QWidget* other : second->associatedWidgets())
+    for (const QWidget* one : widgetsWith(first))
+        for (const QWidget* other : widgetsWith(second))
             if (one == other || one->isAncestorOf(other) || other->isAncestorOf(one))
                 return true;
     return false;

@@ -222,7 +222,7 @@ private Q_SLOTS:
         QVector<int> expected;
         for (const QString& number : text.split(QLatin1Char(','), Qt::SkipEmptyParts))
             expected.append(number.toInt());
-        QCOMPARE(plib::selectionNumbers(QStringRef(&text)), expected);
+        QCOMPARE(plib::selectionNumbers(text), expected);
     }
 };
 

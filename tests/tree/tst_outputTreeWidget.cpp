@@ -59,7 +59,7 @@ QString roles(const QTreeWidgetItem* item)
     QStringList texts;
     for (int role = LevelRole; role <= LoadCaseRole; ++role) {
         const QVariant value = item->data(0, role);
-        const bool isList = value.type() == QVariant::StringList;
+        const bool isList = value.userType() == QMetaType::QStringList;
         texts << (!value.isValid() ? QStringLiteral("-")
                   : isList         ? value.toStringList().join(QLatin1Char('/'))
                                    : value.toString());

@@ -41,7 +41,8 @@ void send(QWidget& view, QEvent::Type type, const QPoint& at, Qt::MouseButton bu
           Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const bool isUp = type == QEvent::MouseButtonRelease;
-    QMouseEvent event(type, at, type == QEvent::MouseMove ? Qt::NoButton : button,
+    QMouseEvent event(type, at, view.mapToGlobal(at),
+                      type == QEvent::MouseMove ? Qt::NoButton : button,
                       isUp ? Qt::NoButton : button, modifiers);
     QCoreApplication::sendEvent(&view, &event);
 }

@@ -64,7 +64,7 @@ Model largeStorey(int side)
         for (int y = 0; y < side; ++y)
             for (int x = 0; x < side; ++x)
                 model.quads.push_back(
-                    {model.quads.size() + 1,
+                    {int(model.quads.size()) + 1,
                      z + 1,
                      {node(x, y, z), node(x + 1, y, z), node(x + 1, y + 1, z), node(x, y + 1, z)},
                      0.2});
@@ -240,7 +240,7 @@ private Q_SLOTS:
         const auto node = [](int column, int row) { return 9 * row + column + 1; };
         for (int y = 0; y < 9; ++y)
             for (int x = 0; x < 9; ++x)
-                model.nodes.push_back({model.nodes.size() + 1, {double(x), double(y), 0.0}});
+                model.nodes.push_back({int(model.nodes.size()) + 1, {double(x), double(y), 0.0}});
         for (int i = 0; i < 64; ++i) {
             const int x = i % 8, y = i / 8;
             model.quads.push_back(

@@ -54,7 +54,8 @@ public:
     bool clickOnBox()
     {
         const Qt::CheckState before = m_model.item(0)->checkState();
-        QStyleOptionViewItem option = viewOptions();
+        QStyleOptionViewItem option;
+        option.initFrom(this);
         option.features |= QStyleOptionViewItem::HasCheckIndicator;
         option.rect = visualRect(m_model.index(0, 0));
         const QRect box = style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option);

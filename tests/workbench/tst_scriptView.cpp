@@ -105,11 +105,8 @@ private Q_SLOTS:
         QFETCH(const int, start);
         QFETCH(const QString, keys);
         view->select(start, start);
-        for (const QString& key : keys.split(QLatin1Char(','))) {
-            const int code = QKeySequence(key)[0];
-            QTest::keyClick(view.get(), Qt::Key(code & ~int(Qt::KeyboardModifierMask)),
-                            Qt::KeyboardModifiers(code & int(Qt::KeyboardModifierMask)));
-        }
+        for (const QString& key : keys.split(QLatin1Char(',')))
+            QTest::keySequence(view.get(), QKeySequence(key));
         QFETCH(const QString, selected);
         QCOMPARE(view->selectedText().trimmed(), selected);
         QTEST(view->cursorPosition(), "cursor");

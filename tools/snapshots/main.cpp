@@ -4,6 +4,7 @@
 
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_OutlineStyle.h>
+#include <vkd_qt_qt6.h>
 #include <vkd_qt_translateQt.h>
 
 #include <QApplication>
@@ -79,8 +80,7 @@ int main(int argc, char* argv[])
         QStringList(QStringLiteral("snapshots")) + programArguments(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", QByteArray::number(pixelRatio(command)));
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    vkd_qt_enableHighDpi();
     const QApplication application(argc, argv);
     QApplication::setStyle(new VKD_QT_OutlineStyle(QStringLiteral("fusion")));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); // the usual desktop font

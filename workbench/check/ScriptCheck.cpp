@@ -229,8 +229,8 @@ QVector<ScriptFinding> ScriptCheck::finish()
         m_findings.append({ScriptFinding::NoEnd, last, int(m_text.size()), 0, {}, {}});
     for (auto name = m_names.cbegin(); name != m_names.cend(); ++name)
         if (!name->isUsed)
-            m_findings.append({ScriptFinding::NotUsed, name->line, name->start, name.key().size(),
-                               name.key(), QString()});
+            m_findings.append({ScriptFinding::NotUsed, name->line, name->start,
+                               int(name.key().size()), name.key(), QString()});
     std::stable_sort(m_findings.begin(), m_findings.end(),
                      [](const ScriptFinding& a, const ScriptFinding& b) {
                          return a.line != b.line ? a.line < b.line : a.start < b.start;

@@ -33,11 +33,11 @@ QString withNumbers(const QString& selection, QHash<QString, QString>* numbers)
         if (end < 0)
             break;
         const int list = end + EndOfIdentifier.size();
-        text += selection.midRef(copied, list - copied);
+        text.append(selection.constData() + copied, list - copied);
         text += numbers->take(selection.mid(identifier, end - identifier));
         copied = list;
     }
-    return text + selection.midRef(copied);
+    return text.append(selection.constData() + copied, selection.size() - copied);
 }
 } // namespace
 

@@ -39,12 +39,12 @@ cd_error_t addRecords(ZobHandle project, KeyPair pair, QCryptographicHash& hash)
             status = VKD_ZOB_OK;
         } else if (status == VKD_ZOB_OK) {
             hash.addData(QByteArray::number(length) + ' ');
-            hash.addData(record.constData(), length);
+            hash.addData(QByteArray::fromRawData(record.constData(), length));
             ++position;
         }
     }
     vkd_zob_free_ex(project.index(), pair.key1, pair.key2);
-    hash.addData("end");
+    hash.addData(QByteArrayLiteral("end"));
     const bool isWhole = status == VKD_ZOB_END || status == VKD_ZOB_NO_KEY;
     return isWhole ? cd_error_t(VKD_ZOB_OK) : status;
 }

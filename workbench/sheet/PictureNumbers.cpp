@@ -2,6 +2,9 @@
 
 #include "sheet/SheetPlanReader.h"
 
+#include <QList>
+#include <QStringView>
+
 namespace workbench {
 
 int PictureNumbers::before(int line, const QString& script)
@@ -10,8 +13,8 @@ int PictureNumbers::before(int line, const QString& script)
         m_script = script;
         m_before.clear();
         SheetPlanReader reader;
-        const QVector<QStringRef> lines = script.splitRef(QLatin1Char('\n'));
-        for (const QStringRef& text : lines) {
+        const auto lines = QStringView(script).split(QLatin1Char('\n'));
+        for (const QStringView text : lines) {
             m_before << reader.plan().pictures.size();
             reader.readLine(text);
         }

@@ -26,7 +26,7 @@ int SheetPlan::pageCount() const
 
 int SheetPlan::endPicture(int page) const
 {
-    return std::min(firstPicture(page) + picturesPerPage(), pictures.size());
+    return std::min(firstPicture(page) + picturesPerPage(), int(pictures.size()));
 }
 
 } // namespace workbench

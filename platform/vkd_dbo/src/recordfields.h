@@ -3,6 +3,7 @@
 #include "vkd_dbo_model.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QtEndian>
 
 #include <cstring>

@@ -2,6 +2,8 @@
 
 #include "vkd_properties_qt_export.h"
 
+#include <vkd_qt_qt6.h>
+
 #include <QPointer>
 #include <QTableView>
 
@@ -32,7 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     bool viewportEvent(QEvent* event) override;
-    QStyleOptionViewItem viewOptions() const override;
+    VKD_QT_DECLARE_VIEW_OPTIONS;
 
 private:
     void closeOpenEditor();

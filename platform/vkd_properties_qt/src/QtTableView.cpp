@@ -111,9 +111,6 @@ void QtTableView::enableWidgets()
             widget->setEnabled(true);
 }
 
-QStyleOptionViewItem QtTableView::viewOptions() const
-{
-    return vkd_qt_visibleLines(QTableView::viewOptions());
-}
+VKD_QT_DEFINE_VIEW_OPTIONS(QtTableView, QTableView, vkd_qt_visibleLines)
 
 } // namespace vkd::properties::nextGen

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vkd_qt_export.h"
+#include "vkd_qt_qt6.h"
 
 #include <QTableWidget>
 
@@ -20,5 +21,5 @@ public:
     std::set<int> getSelectetRows() const;
 
 protected:
-    QStyleOptionViewItem viewOptions() const override;
+    VKD_QT_DECLARE_VIEW_OPTIONS;
 };

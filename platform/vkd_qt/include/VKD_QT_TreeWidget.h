@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vkd_qt_export.h"
+#include "vkd_qt_qt6.h"
 
 #include <QTimer>
 #include <QTreeWidget>
@@ -55,7 +56,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void showEvent(QShowEvent* event) override;
     void updateGeometries() override;
-    QStyleOptionViewItem viewOptions() const override;
+    VKD_QT_DECLARE_VIEW_OPTIONS;
 
 private:
     void closeBranches();

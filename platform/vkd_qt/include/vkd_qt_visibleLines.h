@@ -4,7 +4,7 @@
 
 #include <QStyleOptionViewItem>
 
-/// Adapts the result of viewOptions() so that check boxes and grid lines stand out from the
+/// Adapts the view options of an item view so that check boxes and grid lines stand out from the
 /// background. Styles draw them in a darker shade of the window colour, which is invisible in dark
 /// palettes. Light palettes are not changed.
 VKD_QT_EXPORT QStyleOptionViewItem vkd_qt_visibleLines(QStyleOptionViewItem option);

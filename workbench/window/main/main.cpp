@@ -3,6 +3,8 @@
 #include "window/main/runWindow.h"
 #include "window/support/WindowSettings.h"
 
+#include <vkd_qt_qt6.h>
+
 #include <QApplication>
 
 #include <memory>
@@ -29,8 +31,7 @@ std::unique_ptr<QCoreApplication> newApplication(int& argc, char* argv[])
 {
     if (!hasDisplay())
         return std::make_unique<QCoreApplication>(argc, argv);
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    vkd_qt_enableHighDpi();
     return std::make_unique<QApplication>(argc, argv);
 }
 } // namespace

@@ -46,10 +46,7 @@ void RecordsPane::keyPressEvent(QKeyEvent* event)
         QTableView::keyPressEvent(event);
 }
 
-QStyleOptionViewItem RecordsPane::viewOptions() const
-{
-    return vkd_qt_visibleLines(QTableView::viewOptions());
-}
+VKD_QT_DEFINE_VIEW_OPTIONS(RecordsPane, QTableView, vkd_qt_visibleLines)
 
 void RecordsPane::setTexts()
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <vkd_qt_qt6.h>
 #include <ZobHandle.h>
 
 #include <QTableView>
@@ -24,7 +25,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    QStyleOptionViewItem viewOptions() const override;
+    VKD_QT_DECLARE_VIEW_OPTIONS;
 
 private:
     void setTexts();

@@ -46,7 +46,7 @@ bool ScriptGutter::event(QEvent* event)
 void ScriptGutter::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton)
-        m_view->chooseLine(m_view->lineNear(event->y()));
+        m_view->chooseLine(m_view->lineNear(event->pos().y()));
 }
 
 void ScriptGutter::wheelEvent(QWheelEvent* event)

@@ -181,10 +181,11 @@ void ScriptView::contextMenuEvent(QContextMenuEvent* event)
         Q_EMIT lineChosen(m_lines.lineAt(m_anchor));
     }
     QMenu menu(this);
-    QAction* copying = menu.addAction(tr("&Copy"), this, &ScriptView::copy, QKeySequence::Copy);
+    QAction* copying = menu.addAction(tr("&Copy"), this, &ScriptView::copy);
+    copying->setShortcut(QKeySequence::Copy);
     copying->setEnabled(m_anchor != m_cursor.position);
-    QAction* selecting =
-        menu.addAction(tr("Select &All"), this, &ScriptView::selectAll, QKeySequence::SelectAll);
+    QAction* selecting = menu.addAction(tr("Select &All"), this, &ScriptView::selectAll);
+    selecting->setShortcut(QKeySequence::SelectAll);
     selecting->setEnabled(!m_lines.text().isEmpty());
     menu.addSeparator();
     menu.addActions(actions());

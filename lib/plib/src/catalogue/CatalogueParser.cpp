@@ -151,7 +151,7 @@ CatalogueParser::Outcome CatalogueParser::parseText(const QString& line)
         return Outcome::Comment;
     if (line.trimmed().isEmpty())
         return Outcome::Blank;
-    const auto parts = line.splitRef(QLatin1Char('|'), Qt::SkipEmptyParts);
+    const auto parts = QStringView(line).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     m_partCount = parts.size();
     if (m_partCount < MinimumParts)
         return Outcome::TooFewParts;

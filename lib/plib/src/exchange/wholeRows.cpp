@@ -3,6 +3,7 @@
 #include "record/designRecord.h"
 
 #include <QDataStream>
+#include <QIODevice>
 
 namespace plib {
 

@@ -2,6 +2,8 @@
 
 #include <tagZOB_QUAD_RIM.h>
 
+#include <QVector>
+
 #include <vector>
 
 class DesignParameterTable;

@@ -121,7 +121,7 @@ void appendBody(QString* script, const std::vector<QString>& lines, OutputView p
     for (const QString& line : lines) {
         const int view = page == OutputView::Standard3D ? -1 : line.indexOf(QLatin1String("EG3"));
         if (view > 0) // the rest of the line is also replaced
-            *script += line.leftRef(view) + clause;
+            script->append(line.constData(), view).append(clause);
         else
             *script += line;
         *script += QLatin1Char('\n');

@@ -63,7 +63,7 @@ void DesignParameterTable::contextMenuEvent(QContextMenuEvent*)
     if (!menu)
         return;
     menu->addSeparator();
-    menu->addAction(tr("New"), this, &DesignParameterTable::signal_newClicked, QKeySequence());
-    menu->addAction(tr("Delete"), this, &DesignParameterTable::signal_delClicked, QKeySequence());
+    menu->addAction(tr("New"), this, &DesignParameterTable::signal_newClicked);
+    menu->addAction(tr("Delete"), this, &DesignParameterTable::signal_delClicked);
     menu->exec(QCursor::pos(), nullptr);
 }

@@ -22,7 +22,7 @@ int nextNumber(const QChar*& begin, const QChar* end)
 }
 } // namespace
 
-QVector<int> selectionNumbers(const QStringRef& text)
+QVector<int> selectionNumbers(QStringView text)
 {
     QVector<int> numbers;
     constexpr int Length = 4; // estimate for a number and its comma
@@ -49,9 +49,9 @@ QString itemId(const GraphicalOutputRecord& record, int level)
 std::vector<SelectionLine> parseSelection(const QString& text, bool* isEmpty)
 {
     std::vector<SelectionLine> result;
-    const auto lines = text.splitRef(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const auto lines = QStringView(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     *isEmpty = lines.isEmpty();
-    for (const QStringRef& line : lines) {
+    for (const QStringView line : lines) {
         const auto parts = line.split(QLatin1Char(':'), Qt::SkipEmptyParts);
         if (parts.size() < 2)
             continue;

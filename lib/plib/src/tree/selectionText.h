@@ -93,10 +93,10 @@ private:
     QHash<QString, Node*> m_items;
 };
 
-/// Returns the numbers between the commas. Each number is read as with QStringRef::toInt(), which
+/// Returns the numbers between the commas. Each number is read as with QString::toInt(), which
 /// returns 0 for text that is not a number. Short sequences of ASCII digits are converted directly,
 /// because a selection text consists mostly of such numbers.
-QVector<int> selectionNumbers(const QStringRef& text);
+QVector<int> selectionNumbers(QStringView text);
 
 /// One valid line of a selection text.
 struct SelectionLine

@@ -5,6 +5,8 @@
 #include "view/GroupMarks.h"
 #include "view/SceneView.h"
 
+#include <vkd_qt_qt6.h>
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
@@ -40,7 +42,7 @@ void AnimatorView::keyPressEvent(QKeyEvent* event)
 /// show the whole model.
 void AnimatorView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (isPicking() && m_scene->groupAt(event->localPos()) != NoGroup) {
+    if (isPicking() && m_scene->groupAt(vkd_qt_position(*event)) != NoGroup) {
         mousePressEvent(event);
         return;
     }
@@ -52,7 +54,7 @@ void AnimatorView::mouseMoveEvent(QMouseEvent* event)
 {
     endLostDrag(*event);
     if (m_hand == Hand::Free) {
-        hoverAt(event->localPos());
+        hoverAt(vkd_qt_position(*event));
         return;
     }
     const int way = (event->pos() - m_pressed).manhattanLength();
@@ -87,11 +89,11 @@ void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
     const bool isTurning = m_hand == Hand::Turning;
     endDrag();
     const QPointer<AnimatorView> view(this); // slots of any signal may delete the view
-    hoverAt(event->localPos());
+    hoverAt(vkd_qt_position(*event));
     if (isClick && isTurning && view)
         click(event->pos());
     else if (isClick && event->button() == Qt::RightButton && view)
-        Q_EMIT menuRequested(m_scene->groupAt(event->pos()), event->globalPos());
+        Q_EMIT menuRequested(m_scene->groupAt(event->pos()), mapToGlobal(event->pos()));
 }
 
 void AnimatorView::wheelEvent(QWheelEvent* event)

@@ -97,10 +97,7 @@ void GroupView::paintEvent(QPaintEvent* event)
                      tr("No group matches the filter."));
 }
 
-QStyleOptionViewItem GroupView::viewOptions() const
-{
-    return vkd_qt_visibleLines(QTreeView::viewOptions());
-}
+VKD_QT_DEFINE_VIEW_OPTIONS(GroupView, QTreeView, vkd_qt_visibleLines)
 
 } // namespace h
 } // namespace vkd

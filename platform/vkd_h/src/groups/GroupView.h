@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_qt_qt6.h>
+
 #include <QTreeView>
 
 namespace vkd {
@@ -32,7 +34,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    QStyleOptionViewItem viewOptions() const override;
+    VKD_QT_DECLARE_VIEW_OPTIONS;
 
 private:
     int columnWidthFor(const GroupTableModel& groups, int column) const;

@@ -150,7 +150,8 @@ VKD_QT_Menu* VKD_H_TableWidget::getContextMenu()
                                       &VKD_H_TableWidget::copySelection);
     copy->setEnabled(selectionModel()->hasSelection());
     copy->setShortcut(isKeyTaken ? QKeySequence(CopyTextsKey) : QKeySequence(QKeySequence::Copy));
-    m_menu->addAction(tr("Select All"), this, &QTableWidget::selectAll, QKeySequence::SelectAll);
+    m_menu->addAction(tr("Select All"), this, &QTableWidget::selectAll)
+        ->setShortcut(QKeySequence::SelectAll);
     if (!actions().isEmpty())
         m_menu->addSeparator();
     m_menu->addActions(actions());

@@ -27,7 +27,4 @@ std::set<int> VKD_QT_TableWidget::getSelectetRows() const
     return rows;
 }
 
-QStyleOptionViewItem VKD_QT_TableWidget::viewOptions() const
-{
-    return vkd_qt_visibleLines(QTableWidget::viewOptions());
-}
+VKD_QT_DEFINE_VIEW_OPTIONS(VKD_QT_TableWidget, QTableWidget, vkd_qt_visibleLines)

@@ -1,5 +1,7 @@
 #include "VKD_QT_TableWidgetButton.h"
 
+#include "vkd_qt_qt6.h"
+
 #include <QHelpEvent>
 #include <QStyledItemDelegate>
 #include <QStyleOptionButton>
@@ -72,8 +74,8 @@ QString VKD_QT_TableWidgetButton::shownText() const
 {
     const auto view = qobject_cast<const QTableWidget*>(
         m_index.isValid() ? static_cast<const QObject*>(m_index.model())->parent() : nullptr);
-    const auto delegate =
-        qobject_cast<const QStyledItemDelegate*>(view ? view->itemDelegate(m_index) : nullptr);
+    const auto delegate = qobject_cast<const QStyledItemDelegate*>(
+        view ? vkd_qt_delegateOf(*view, m_index) : nullptr);
     const QString text = delegate ? delegate->displayText(m_index.data(), locale()) : itemText();
     return QString(text).replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
 }

@@ -1,9 +1,10 @@
 #include "VKD_QT_InitTranslator.h"
 
+#include "vkd_qt_qt6.h"
+
 #include <vkd_language.h>
 
 #include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QTranslator>
 #include <QVector>
 
@@ -60,6 +61,6 @@ void VKD_QT_InitTranslator::install()
     m_translator.reset(new QTranslator);
     const QString file = QLatin1String(m_module) + QLatin1String("_de.qm");
     if (m_translator->load(QLatin1String(":/translations/") + file) ||
-        m_translator->load(file, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        m_translator->load(file, vkd_qt_translationsFolder()))
         QCoreApplication::installTranslator(m_translator.data());
 }

@@ -82,7 +82,7 @@ QString vkd_qt_readXMLpart(const QString& xml, int from, const QString& tag, int
         const int close = xml.indexOf(QLatin1Char('<'), at);
         if (close < 0)
             break;
-        if (xml.midRef(close).startsWith(end)) {
+        if (QStringView(xml).mid(close).startsWith(end)) {
             if (next)
                 *next = close + end.size();
             return unescaped(QStringView(xml).mid(at, close - at));

@@ -148,7 +148,4 @@ void VKD_QT_TreeWidget::updateGeometries()
     measureLater();
 }
 
-QStyleOptionViewItem VKD_QT_TreeWidget::viewOptions() const
-{
-    return vkd_qt_visibleLines(QTreeWidget::viewOptions());
-}
+VKD_QT_DEFINE_VIEW_OPTIONS(VKD_QT_TreeWidget, QTreeWidget, vkd_qt_visibleLines)
