@@ -1,5 +1,5 @@
 #include "Monkey.h"
-#include "project/presetPlaces.h"
+#include "project/presets/presetPlaces.h"
 #include "ProjectTest.h"
 #include "window/design/DesignPage.h"
 #include "window/main/FileCommands.h"

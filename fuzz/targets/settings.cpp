@@ -1,7 +1,7 @@
 #include "FuzzTarget.h"
 
 #include "cli/CommandLine.h"
-#include "cli/settingsArguments.h"
+#include "cli/output/settingsArguments.h"
 
 /// Each line of the input is an argument for --set. The message for a refused argument must have
 /// one line, and a page must be able to show accepted settings.

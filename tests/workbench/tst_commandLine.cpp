@@ -1,4 +1,4 @@
-#include "project/OutputList.h"
+#include "project/output/OutputList.h"
 #include "TestSupport.h"
 
 #include <VKD_H_ZOBDoc.h>

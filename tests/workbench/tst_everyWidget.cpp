@@ -1,8 +1,8 @@
 #include "cli/PlatformLog.h"
 #include "VisitedProject.h"
 #include "WidgetWalk.h"
-#include "window/support/askAboutNewer.h"
-#include "window/support/SlowWork.h"
+#include "window/files/askAboutNewer.h"
+#include "window/files/SlowWork.h"
 #include "window/support/WindowSettings.h"
 
 #include <AnimatorView.h>

@@ -1,5 +1,5 @@
-#include "project/KeptPlots.h"
-#include "project/OutputList.h"
+#include "project/output/KeptPlots.h"
+#include "project/output/OutputList.h"
 #include "project/WholeFiles.h"
 #include "ProjectTest.h"
 #include "TemporaryProject.h"

@@ -1,5 +1,5 @@
-#include "project/OutputState.h"
-#include "project/TextOutputState.h"
+#include "project/output/OutputState.h"
+#include "project/output/TextOutputState.h"
 #include "ProjectTest.h"
 #include "window/textoutput/ExtentFields.h"
 

@@ -2,11 +2,11 @@
 #include "cli/DesignRows.h"
 #include "cli/newProject.h"
 #include "project/OpenProject.h"
-#include "project/OutputList.h"
+#include "project/output/OutputList.h"
 #include "ProjectTest.h"
 #include "walkOverFaults.h"
 #include "window/design/DesignPage.h"
-#include "window/support/copyProject.h"
+#include "window/files/copyProject.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_zob.h>

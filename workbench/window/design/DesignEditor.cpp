@@ -1,8 +1,8 @@
 #include "window/design/DesignEditor.h"
 
 #include "window/design/DesignDock.h"
-#include "window/support/ProjectAccess.h"
-#include "window/support/storeErrorText.h"
+#include "window/files/ProjectAccess.h"
+#include "window/files/storeErrorText.h"
 #include "window/support/WindowMessages.h"
 
 #include <VKD_QT_MessageBox.h>

@@ -4,7 +4,7 @@
 #include "window/design/DesignPage.h"
 #include "window/design/PickBanner.h"
 #include "window/design/RowColours.h"
-#include "window/main/GroupList.h"
+#include "window/groups/GroupList.h"
 #include "window/support/WindowMessages.h"
 
 #include <AnimatorView.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "project/OpenProject.h"
+#include "window/files/ProjectAccess.h"
 #include "window/main/makeProjectFile.h"
-#include "window/support/ProjectAccess.h"
 #include "window/support/WindowMessages.h"
 
 #include <vkd_language.h>

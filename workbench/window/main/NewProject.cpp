@@ -1,10 +1,10 @@
 #include "window/main/NewProject.h"
 
 #include "project/OpenProject.h"
-#include "window/support/chooseFileToSave.h"
-#include "window/support/copyProject.h"
-#include "window/support/SlowWork.h"
-#include "window/support/waitForStore.h"
+#include "window/files/chooseFileToSave.h"
+#include "window/files/copyProject.h"
+#include "window/files/SlowWork.h"
+#include "window/files/waitForStore.h"
 #include "window/support/WindowMessages.h"
 
 #include <ZobFilePlace.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/KeptPlots.h"
+#include "project/output/KeptPlots.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/OutputState.h"
+#include "project/output/OutputState.h"
 #include "window/output/checkedPlots.h"
 #include "window/output/TreeViewState.h"
 

@@ -1,9 +1,9 @@
 #include "window/output/OutputEditor.h"
 
+#include "window/files/ProjectAccess.h"
+#include "window/files/SlowWork.h"
 #include "window/output/EditedOutputs.h"
 #include "window/output/OutputDock.h"
-#include "window/support/ProjectAccess.h"
-#include "window/support/SlowWork.h"
 #include "window/support/WindowMessages.h"
 
 #include <VKD_QT_InputField.h>

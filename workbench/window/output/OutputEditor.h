@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/OutputList.h"
+#include "project/output/OutputList.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "project/KeptPlots.h"
-#include "project/plotPresets.h"
+#include "project/output/KeptPlots.h"
+#include "project/presets/plotPresets.h"
 #include "window/output/TreeViewState.h"
 
 class AnimatorView;

@@ -1,10 +1,10 @@
 // The part of OutputEditor that handles the list of outputs.
 
 #include "project/OpenProject.h"
+#include "window/files/ProjectAccess.h"
 #include "window/output/CameraRollback.h"
 #include "window/output/EditedOutputs.h"
 #include "window/output/OutputEditor.h"
-#include "window/support/ProjectAccess.h"
 #include "window/support/WindowMessages.h"
 
 #include <QApplication>

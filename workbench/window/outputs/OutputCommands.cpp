@@ -1,6 +1,9 @@
 #include "window/outputs/OutputCommands.h"
 
 #include "project/OpenProject.h"
+#include "window/files/projectFiles.h"
+#include "window/files/SlowWork.h"
+#include "window/files/waitForStore.h"
 #include "window/output/OutputDialog.h"
 #include "window/output/OutputEditor.h"
 #include "window/output/OutputScript.h"
@@ -8,9 +11,6 @@
 #include "window/outputs/CopyOutputsDialog.h"
 #include "window/outputs/OutputFiles.h"
 #include "window/outputs/OutputsPane.h"
-#include "window/support/projectFiles.h"
-#include "window/support/SlowWork.h"
-#include "window/support/waitForStore.h"
 #include "window/support/WindowMessages.h"
 
 #include <VKD_H_ZOBDoc.h>

@@ -1,15 +1,15 @@
 #include "window/outputs/OutputFiles.h"
 
 #include "project/OpenProject.h"
-#include "project/outputFileNames.h"
+#include "project/output/outputFileNames.h"
 #include "project/WholeFiles.h"
 #include "sheet/exportSheets.h"
 #include "sheet/readSheetPlan.h"
 #include "sheet/SheetPreview.h"
+#include "window/files/SlowWork.h"
 #include "window/output/addCaptions.h"
 #include "window/output/OutputDialog.h"
 #include "window/output/OutputEditor.h"
-#include "window/support/SlowWork.h"
 #include "window/support/WindowMessages.h"
 #include "window/support/WindowSettings.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/Preset.h"
+#include "project/presets/Preset.h"
 
 #include <QGroupBox>
 

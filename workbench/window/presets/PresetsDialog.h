@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/presetPlaces.h"
+#include "project/presets/presetPlaces.h"
 
 #include <VKD_H_Dialog.h>
 

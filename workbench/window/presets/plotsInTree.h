@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/plotPresets.h"
+#include "project/presets/plotPresets.h"
 
 class QTreeWidget;
 

@@ -1,8 +1,8 @@
 // The part of PresetsDialog that handles its buttons.
 
+#include "window/files/chooseFileToSave.h"
 #include "window/presets/PresetForm.h"
 #include "window/presets/PresetsDialog.h"
-#include "window/support/chooseFileToSave.h"
 
 #include <VKD_QT_MessageBox.h>
 

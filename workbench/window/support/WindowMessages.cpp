@@ -1,6 +1,6 @@
 #include "window/support/WindowMessages.h"
 
-#include "window/support/storeErrorText.h"
+#include "window/files/storeErrorText.h"
 
 #include <VKD_QT_MessageBox.h>
 

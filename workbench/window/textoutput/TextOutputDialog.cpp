@@ -1,7 +1,7 @@
 #include "window/textoutput/TextOutputDialog.h"
 
 #include "project/numberTexts.h"
-#include "project/textContents.h"
+#include "project/output/textContents.h"
 #include "window/choice/ChoiceBar.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
@@ -166,8 +166,7 @@ void TextOutputDialog::updateKindRow()
     showChoice();
 }
 
-/// Kinds can change only while the individual choice is active, so it is also active in the new
-/// radio group.
+/// The kinds can change only while Manually is chosen, so it is also chosen in the new radio group.
 void TextOutputDialog::fillKindRow()
 {
     auto row = new QWidget(m_kindRow->parentWidget());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/TextOutputState.h"
+#include "project/output/TextOutputState.h"
 #include "window/textoutput/ExtentFields.h"
 
 #include <VKD_H_Dialog.h>

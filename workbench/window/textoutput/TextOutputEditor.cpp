@@ -1,9 +1,9 @@
 #include "window/textoutput/TextOutputEditor.h"
 
 #include "project/OpenProject.h"
-#include "window/support/chooseFileToSave.h"
-#include "window/support/ProjectAccess.h"
-#include "window/support/saveTextFile.h"
+#include "window/files/chooseFileToSave.h"
+#include "window/files/ProjectAccess.h"
+#include "window/files/saveTextFile.h"
 #include "window/support/WindowMessages.h"
 #include "window/textoutput/TextOutputDialog.h"
 

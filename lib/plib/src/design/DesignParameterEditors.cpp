@@ -8,7 +8,7 @@
 #include "dialogs/dlgDistanceDirection.h"
 #include "dialogs/dlgReinforcement.h"
 #include "dialogs/dlgSelection.h"
-#include "dialogs/unusedDistances.h"
+#include "fields/unusedDistances.h"
 #include "record/designRecord.h"
 #include "record/designRows.h"
 #include "table/DesignParameterTable.h"

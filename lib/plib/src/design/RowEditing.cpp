@@ -2,9 +2,9 @@
 
 #include "design/DesignParameter.h"
 #include "design/RowsHistory.h"
-#include "dialogs/CommonFields.h"
 #include "dialogs/RowStrip.h"
-#include "dialogs/SameValue.h"
+#include "fields/CommonFields.h"
+#include "fields/SameValue.h"
 #include "record/commonRecord.h"
 #include "record/designRecord.h"
 #include "record/designRows.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/dialogFields.h"
+#include "fields/dialogFields.h"
 
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_InputField.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/dialogFields.h"
+#include "fields/dialogFields.h"
 
 #include <tagZOB_QUAD_RIM.h>
 

@@ -1,8 +1,8 @@
 #include "dialogs/dlgReinforcement.h"
 
-#include "dialogs/BoxExplanation.h"
-#include "dialogs/CommonFields.h"
 #include "dialogs/dialogFrame.h"
+#include "fields/BoxExplanation.h"
+#include "fields/CommonFields.h"
 #include "record/designFields.h"
 #include "record/designRecord.h"
 

@@ -1,6 +1,6 @@
 #include "dialogs/dlgSelection.h"
 
-#include "dialogs/DeleteKey.h"
+#include "fields/DeleteKey.h"
 #include "record/DesignParameterData.h"
 #include "record/rowText.h"
 

@@ -1,0 +1,282 @@
+#include "project/output/OutputList.h"
+
+#include "project/dialogPages.h"
+#include "project/putEntries.h"
+#include "project/unusedName.h"
+
+#include <VKD_H_ProjectDialogPage.h>
+#include <ZobTransaction.h>
+
+#include <QCoreApplication>
+
+namespace workbench {
+
+namespace {
+constexpr char NameKey[] = "Name";
+
+struct ListText
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::OutputList)
+};
+
+QString savedName(const VKD_H_ProjectDialogPage& entries, int number)
+{
+    return entries.getEntry(OutputState::entryKey(NameKey, number), QString()).simplified();
+}
+
+NamedOutput outputOf(const VKD_H_ProjectDialogPage& entries, int number)
+{
+    NamedOutput output;
+    output.name = savedName(entries, number);
+    output.state = OutputState::fromEntries(entries, number);
+    return output;
+}
+
+QString defaultName(int number)
+{
+    return ListText::tr("Output %1").arg(number);
+}
+
+QString nameOr(const QString& name, int index)
+{
+    return name.isEmpty() ? defaultName(index + 1) : name;
+}
+
+/// Copies the saved version of an output, except for the parts that the user has changed.
+void followSaved(NamedOutput* output, const NamedOutput& saved)
+{
+    if (output->name == output->savedName)
+        output->name = saved.name;
+    if (!output->isStateChanged)
+        output->state = saved.state;
+    output->savedName = saved.name;
+    output->savedState = saved.state;
+}
+} // namespace
+
+OutputList::OutputList()
+    : m_outputs(1)
+{
+    setStored();
+}
+
+/// Appends a number to a duplicate name, which only another program can have stored.
+OutputList OutputList::read(ZobHandle project, VkdStatus* status)
+{
+    const VKD_H_ProjectDialogPage entries(project, OutputDialogPage);
+    if (status)
+        *status = entries.readStatus();
+    OutputList list;
+    list.m_outputs[0] = outputOf(entries, 1);
+    for (int number = 2; !savedName(entries, number).isEmpty(); ++number) {
+        NamedOutput output = outputOf(entries, number);
+        output.name = list.unusedName(output.name);
+        list.m_outputs << output;
+    }
+    list.setStored();
+    return list;
+}
+
+VkdStatus OutputList::put(ZobHandle project) const
+{
+    ZobTransaction transaction(project);
+    const VkdStatus stored =
+        putEntries(project, OutputDialogPage, [this](VKD_H_ProjectDialogPage& entries) {
+            for (int number = 1; number <= size(); ++number) {
+                const NamedOutput& output = m_outputs[number - 1];
+                output.state.setEntries(&entries, number);
+                const QString nameKey = OutputState::entryKey(NameKey, number);
+                if (output.name.isEmpty())
+                    entries.deleteEntry(nameKey);
+                else
+                    entries.setEntry(nameKey, output.name);
+            }
+            for (int number = size() + 1; !savedName(entries, number).isEmpty(); ++number) {
+                OutputState::deleteEntries(&entries, number);
+                entries.deleteEntry(OutputState::entryKey(NameKey, number));
+            }
+        });
+    return stored.isOk() ? transaction.commit() : transaction.rollback();
+}
+
+void OutputList::setStored()
+{
+    m_storedNames = names();
+    for (int i = 0; i < size(); ++i) {
+        NamedOutput& output = m_outputs[i];
+        output = {output.name, output.state, false, output.name, output.state, i};
+    }
+}
+
+/// Returns the index of the saved version of an output from another list, or -1. An output without
+/// a name is the first one, even if another program has given it a name in the meantime.
+int OutputList::indexOfSaved(const NamedOutput& output) const
+{
+    if (output.savedIndex < 0)
+        return -1;
+    return output.savedName.isEmpty() ? 0 : indexOf(output.savedName);
+}
+
+void OutputList::follow(const OutputList& project, Removed removed)
+{
+    QVector<NamedOutput> outputs;
+    int current = 0;
+    for (int i = 0; i < size(); ++i) {
+        NamedOutput output = m_outputs[i];
+        const int saved = project.indexOfSaved(output);
+        const bool isUsers = i == m_current || isChanged(i);
+        if (saved < 0 && !isUsers && removed == Removed::Drop)
+            continue;
+        output.savedIndex = saved;
+        if (saved >= 0)
+            followSaved(&output, project.at(saved));
+        if (i == m_current)
+            current = outputs.size();
+        outputs << output;
+    }
+    m_outputs = outputs;
+    m_current = current;
+    appendNew(project);
+    m_storedNames = project.names();
+}
+
+/// Appends the outputs that the project did not contain before. They count as saved unless they
+/// have to be renamed.
+void OutputList::appendNew(const OutputList& project)
+{
+    QSet<int> known;
+    for (const NamedOutput& output : qAsConst(m_outputs))
+        known << output.savedIndex;
+    for (int i = 0; i < project.size(); ++i) {
+        const NamedOutput& added = project.at(i);
+        if (known.contains(i) || m_storedNames.contains(project.name(i)))
+            continue;
+        nameAll();
+        m_outputs << NamedOutput{
+            unusedName(project.name(i)), added.state, false, added.name, added.state, i};
+    }
+}
+
+bool OutputList::isChanged(int index) const
+{
+    const NamedOutput& output = m_outputs[index];
+    return output.isStateChanged || output.savedIndex < 0 ||
+           nameOr(output.name, index) != nameOr(output.savedName, index);
+}
+
+bool OutputList::isChanged() const
+{
+    bool changed = size() != m_storedNames.size();
+    for (int i = 0; i < size(); ++i)
+        changed = changed || isChanged(i) || m_outputs[i].savedIndex != i;
+    return changed;
+}
+
+QString OutputList::name(int index) const
+{
+    return nameOr(m_outputs[index].name, index);
+}
+
+QStringList OutputList::names() const
+{
+    QStringList names;
+    for (int i = 0; i < size(); ++i)
+        names << name(i);
+    return names;
+}
+
+QStringList OutputList::unsavedNames() const
+{
+    QStringList names;
+    for (int i = 0; i < size(); ++i)
+        if (m_outputs[i].savedIndex < 0)
+            names << name(i);
+    return names;
+}
+
+int OutputList::indexOf(const QString& wanted) const
+{
+    for (int i = 0; i < size(); ++i)
+        if (name(i).compare(wanted.simplified(), Qt::CaseInsensitive) == 0)
+            return i;
+    return -1;
+}
+
+void OutputList::setCurrent(int index)
+{
+    m_current = qBound(0, index, size() - 1);
+}
+
+void OutputList::setState(const OutputState& state, bool isChanged)
+{
+    m_outputs[m_current].state = state;
+    m_outputs[m_current].isStateChanged = isChanged;
+}
+
+void OutputList::revert()
+{
+    m_outputs[m_current].state = m_outputs[m_current].savedState;
+    m_outputs[m_current].isStateChanged = false;
+}
+
+void OutputList::add(const QString& name, const OutputState& state)
+{
+    nameAll();
+    m_outputs.insert(++m_current, {name.simplified(), state, false, QString(), state});
+}
+
+void OutputList::rename(const QString& name)
+{
+    m_outputs[m_current].name = name.simplified();
+}
+
+void OutputList::move(int index)
+{
+    const int to = qBound(0, index, size() - 1);
+    m_outputs.move(m_current, to);
+    m_current = to;
+}
+
+void OutputList::remove()
+{
+    if (size() == 1)
+        return;
+    m_outputs.remove(m_current);
+    setCurrent(m_current);
+}
+
+QString OutputList::newName() const
+{
+    int number = size() + 1;
+    while (indexOf(defaultName(number)) >= 0)
+        ++number;
+    return defaultName(number);
+}
+
+QString OutputList::unusedName(const QString& name) const
+{
+    return workbench::unusedName(name.simplified(),
+                                 [this](const QString& tried) { return indexOf(tried) >= 0; });
+}
+
+QString OutputList::faultOfName(const QString& name) const
+{
+    const QString simple = name.simplified();
+    const int user = indexOf(simple);
+    if (simple.isEmpty())
+        return ListText::tr("An output needs a name.");
+    if (simple.size() > LongestOutputName)
+        return ListText::tr("A name has at most %1 characters.").arg(LongestOutputName);
+    return user < 0 || user == m_current ? QString()
+                                         : ListText::tr("Another output has this name.");
+}
+
+/// The default name depends on the position and the language, so an output has this name only while
+/// it is the only output.
+void OutputList::nameAll()
+{
+    for (int i = 0; i < size(); ++i)
+        m_outputs[i].name = name(i);
+}
+
+} // namespace workbench
