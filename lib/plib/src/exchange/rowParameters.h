@@ -9,7 +9,7 @@ namespace plib {
 
 /// Functions for the parameters of a row as a map, the form in which hosts exchange them. The keys
 /// are "type" and the names of real fields in tagZOB_QUAD_RIM_Words.h. The values are numbers in
-/// base units, with distances in the edited form; an invalid value represents "not set". A map may
+/// base units, with distances as they are edited; an invalid value represents "not set". A map may
 /// contain any subset of the keys.
 
 /// Returns all parameters of a record, in numbers with the fewest digits that preserve each value.

@@ -4,7 +4,7 @@
 
 namespace plib {
 
-/// A column of a table that fills the width of its page.
+/// A column of a table. The columns fill the width of the page.
 struct ColumnShare
 {
     int width = 0;               ///< the initial width, which is also the smallest one

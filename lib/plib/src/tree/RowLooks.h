@@ -12,7 +12,7 @@
 
 namespace plib {
 
-/// The looks of rows in the output tree: text, icon, data roles and check state. They account for
+/// The appearance of rows in the output tree: text, icon, data roles and check state. They account for
 /// most of the time and memory required for a row. Because they are identical under each plot, they
 /// are created once for each load case and shared by its rows. Two strings are considered identical
 /// if they share their data, as the strings for the rows of one load case do. Looks are searched in
@@ -31,7 +31,7 @@ public:
     const QTreeWidgetItem& like(const QTreeWidgetItem& row, int number, bool checked);
 
 private:
-    /// The struct is small, so that the looks of all load cases fit into the processor's caches.
+    /// The struct is small, so that the structs of all load cases fit into the processor's caches.
     struct Looks
     {
         bool belongTo(const QString& rowText, int rowNumber) const

@@ -16,8 +16,8 @@ public:
     struct Row
     {
         int number;
-        int time;       ///< of the last line that lists the row
-        int index = -1; ///< of the row in the plot; -1 until the user of the class sets it
+        int time;       ///< time of the last line that lists the row
+        int index = -1; ///< index of the row in the plot; -1 until the user of the class sets it
     };
 
     /// Adds the rows that a line lists. The first row gets the given time, and each row gets a

@@ -33,8 +33,8 @@ public:
     bool isAway() const;
     /// Returns whether a journal exists next to the file.
     bool hasJournal() const;
-    /// Sets whether statements wait for another program's lock. The default is true. The deadline
-    /// is setting 201.
+    /// Sets whether statements wait for another program's lock. The default is true. Setting
+    /// 201 contains the deadline.
     void setWaiting(bool waits);
 
     VkdStatus execute(const char* sql, ZobAction action);
