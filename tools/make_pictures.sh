@@ -1,8 +1,8 @@
 #!/bin/sh
 # Runs the workbench to create the screenshots in docs/pictures, with the sample model of a
 # building, and the pictures of the sample models in share/models. Needs the Debian package
-# pngquant. Run it after a change that is visible in one of them, and check the result. The optional argument is a workbench to use instead of the one built by
-# ./run.
+# pngquant. Run it after a change that is visible in one of them, and check the result. The optional
+# argument is a workbench to use instead of the one built by ./run.
 set -eu
 
 root=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
@@ -45,7 +45,7 @@ keepModel() {
 mkdir -p "$pictures"
 keep 1 window window
 keep 1 window-dark window-dark
-keep 2 design-editor-groups design-page
+keep 1 window-design design-dock
 keep 2 design-directions-type3 design-directions
 keep 2 window-output-plots output-page
 keep 1 sheet-page sheet
