@@ -8,6 +8,7 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -454,6 +455,8 @@ private Q_SLOTS:
     {
         const auto window = open("narrow.zob");
         window->resize(1440, 768); // narrow, because the tests use a wide font
+        const auto groups = find<QDockWidget>(*window, "GroupDock");
+        const int width = groups->width();
         const QWidget* page = openOutput(*window);
         const QWidget* script = find<QWidget>(*window, "ScriptText");
         const auto view = find<QWidget>(*window, "AnimatorView");
@@ -466,6 +469,11 @@ private Q_SLOTS:
         QTRY_VERIFY(!view->isVisible());
         window->resize(2400, 768);
         QTRY_VERIFY(view->isVisible() && !page->visibleRegion().isEmpty());
+        auto dock = find<QDockWidget>(*window, "OutputDock");
+        for (const bool isFloating : {true, false})
+            dock->setFloating(isFloating);
+        dock->close();
+        QTRY_COMPARE(groups->width(), width);
     }
 };
 

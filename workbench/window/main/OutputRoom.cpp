@@ -87,9 +87,11 @@ void OutputRoom::arrange()
 
 void OutputRoom::restore()
 {
-    if (m_groupWidth > 0)
-        m_widgets.window->resizeDocks({m_widgets.groups, m_widgets.script},
-                                      {m_groupWidth, qMax(1, m_scriptWidth)}, Qt::Horizontal);
+    if (m_groupWidth <= 0)
+        return;
+    m_widgets.window->resizeDocks({m_widgets.groups, m_widgets.script},
+                                  {m_groupWidth, qMax(1, m_scriptWidth)}, Qt::Horizontal);
+    m_widgets.window->layout()->activate(); // a dock that starts to float is shown again at once
 }
 
 } // namespace workbench
