@@ -28,6 +28,21 @@ using plib::RecordedStep;
 using plib::RowsStep;
 using Table = DesignParameterTable;
 
+namespace {
+/// Returns the result of a group dialog, or QDialog::Rejected if the host has closed the page
+/// during the dialog.
+int runDialog(QDialog& dialog, DesignParameter* parent)
+{
+    plib::setHelpTopic(&dialog, "GROUPS");
+    const QPointer<DesignParameter> page(parent);
+    const int result = dialog.exec();
+    if (!page)
+        return QDialog::Rejected;
+    page->focusTable();
+    return result;
+}
+} // namespace
+
 void DesignParameter::slot_openGroups()
 {
     const int row = data->table->currentRow();
@@ -39,12 +54,7 @@ void DesignParameter::slot_openGroups()
     plib::collectUsedGroups(*data, row, used);
     VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, vkd::zob::keys::Design.key1, data->doc, checked,
                                used, nullptr, this, "Group Selection");
-    plib::setHelpTopic(&dialog, "GROUPS");
-    const QPointer<DesignParameter> page(this);
-    const int result = dialog.exec();
-    if (!page)
-        return;
-    focusTable();
+    const int result = runDialog(dialog, this);
     if (result == QDialog::Accepted) {
         std::vector<int> confirmed;
         dialog.getChecked(confirmed);
@@ -89,13 +99,7 @@ void DesignParameter::slot_openSekGroups()
     std::vector<int> used;
     plib::collectUsedGroups(*data, row, used);
     VKD_H_SecondaryGroupDialog dialog(data->doc, shown->groups, used, this);
-    plib::setHelpTopic(&dialog, "GROUPS");
-    const QPointer<DesignParameter> page(this);
-    const int result = dialog.exec();
-    if (!page)
-        return;
-    focusTable();
-    if (result != QDialog::Accepted)
+    if (runDialog(dialog, this) != QDialog::Accepted)
         return;
     std::vector<int> confirmed;
     dialog.getChecked(confirmed);
