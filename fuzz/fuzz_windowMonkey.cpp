@@ -199,10 +199,13 @@ private:
     }
 
     /// Returns the number of parts of the project with unsaved changes. Does not use the
-    /// modification marker in the window title, because only the event loop updates it.
+    /// modification marker in the window title, because only the event loop updates it. It also
+    /// updates the list of outputs, so pending updates are made first.
     static int changes(const MainWindow& window)
     {
         const auto plots = window.findChild<OutputDialog*>();
+        if (plots)
+            plots->finishChanges();
         const auto text = window.findChild<TextOutputDialog*>();
         return ((plots && plots->isChanged()) || hasNewOutputs(window)) +
                (text && text->isChanged()) + hasNewRows(window);
