@@ -322,6 +322,29 @@ private Q_SLOTS:
         }
     }
 
+    /// A text that a field refuses stays in the field until the user gives it up.
+    void refusedText()
+    {
+        const auto window = open("a.zob");
+        const auto field = [&] {
+            return find<QLineEdit>(*outputDialog(*window), "m_boxedEdit_edit");
+        };
+        const QString accepted = field()->text();
+        field()->setText(QStringLiteral("1.2.3"));
+        for (const char* action : {"Reload", "German"}) {
+            trigger(*window, action);
+            QCOMPARE(field()->text(), QStringLiteral("1.2.3"));
+        }
+        QTRY_VERIFY(window->isWindowModified());
+        whenModal([](QWidget* box) { press(box, QMessageBox::Cancel); });
+        QVERIFY(!window->close());
+        trigger(*window, "Output");
+        whenModal([](QWidget* box) { press(box, QMessageBox::Discard); });
+        QVERIFY(find<QDockWidget>(*window, "OutputDock")->close());
+        QCOMPARE(field()->text(), accepted);
+        QVERIFY(window->close());
+    }
+
     /// Discard in the dock affects only its output.
     void discarding()
     {

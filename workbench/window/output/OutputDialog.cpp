@@ -275,6 +275,11 @@ void OutputDialog::setUnchanged()
     m_unchanged = fingerprint();
 }
 
+bool OutputDialog::hasUnsavedInput()
+{
+    return !RefusedTexts(m_page).isEmpty() || isChanged();
+}
+
 void OutputDialog::removePlots()
 {
     hide(); // saves the view of the tree
@@ -291,7 +296,8 @@ void OutputDialog::finishChanges()
 
 OutputPresent OutputDialog::present()
 {
-    return {state(), isChanged(), tabWidget()->currentIndex(), TreeViewState(m_plots)};
+    return {state(), isChanged(), tabWidget()->currentIndex(), TreeViewState(m_plots),
+            RefusedTexts(m_page)};
 }
 
 void OutputDialog::setPresent(const OutputPresent& present)
@@ -299,6 +305,7 @@ void OutputDialog::setPresent(const OutputPresent& present)
     if (present.isChanged)
         m_unchanged.clear();
     tabWidget()->setCurrentIndex(present.tab);
+    present.refused.restore(m_page);
     present.plots.restore(m_plots); // after the tree has been resized
 }
 

@@ -2,6 +2,7 @@
 
 #include "project/output/OutputState.h"
 #include "window/output/checkedPlots.h"
+#include "window/output/RefusedTexts.h"
 #include "window/output/TreeViewState.h"
 
 #include <VKD_H_PluginParameter.h>
@@ -26,6 +27,7 @@ struct OutputPresent
     bool isChanged;
     int tab;
     TreeViewState plots;
+    RefusedTexts refused;
 };
 
 /// The tabs for the graphical output of a project. OutputDock shows them. The tabs contain the page
@@ -54,6 +56,9 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
+    /// Returns whether there are changes or texts that a field refuses. Such a text is not part of
+    /// the state, but the user must not lose it without being asked.
+    bool hasUnsavedInput();
     /// Enables or disables Apply and Discard.
     void enableButtons(bool canApply, bool canDiscard);
     /// Gives the focus to the tree of plots, or to the first field if another tab is shown.

@@ -63,7 +63,7 @@ std::optional<EditedOutputs> OutputEditor::present()
 
 bool OutputEditor::isChanged() const
 {
-    m_isDialogChanged = m_dialog && m_dialog->isChanged();
+    m_isDialogChanged = m_dialog && m_dialog->hasUnsavedInput();
     return m_isDialogChanged || m_outputs.isChanged();
 }
 
@@ -182,6 +182,7 @@ void OutputEditor::renew()
 {
     OutputPresent present = m_dialog->present();
     present.isChanged = false;
+    present.refused = RefusedTexts();
     closeLater();
     Q_EMIT choiceChanged();
     if (m_dialog)
@@ -191,14 +192,14 @@ void OutputEditor::renew()
 /// Discards the changes that the user did not want to store when the dock was closed.
 void OutputEditor::leave()
 {
-    if (m_dialog && m_dialog->isChanged())
+    if (m_dialog && m_dialog->hasUnsavedInput())
         discard();
 }
 
 /// Asks only about the changes in the dialog, because the list with all outputs stays visible.
 bool OutputEditor::mayClose()
 {
-    if (!m_dialog || !m_dialog->isChanged())
+    if (!m_dialog || !m_dialog->hasUnsavedInput())
         return true;
     const QString question =
         m_outputs.current().savedIndex >= 0
