@@ -4,6 +4,7 @@
 #include "ProjectTest.h"
 #include "TemporaryProject.h"
 #include "window/output/OutputDialog.h"
+#include "window/outputs/OutputsHistory.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -11,6 +12,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -32,11 +34,12 @@ QString shown(const OutputList& outputs)
 }
 
 /// Carries out steps: + new output, 2 duplicate, - remove, !PAGE change, ? discard changes, =NAME
-/// rename, @N make current, ^N move, s store. An underscore stands for a space.
-void perform(const QString& steps, OutputList* outputs)
+/// rename, @N make current, ^N move, s store, u undo, r redo. An underscore stands for a space.
+void perform(const QString& steps, OutputList* outputs, OutputsHistory* history)
 {
     for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         const QString rest = step.mid(1).replace(QLatin1Char('_'), QLatin1Char(' '));
+        const OutputList before = *outputs;
         switch (step[0].unicode()) {
         case '+': outputs->add(outputs->newName(), {}); break;
         case '2':
@@ -49,8 +52,17 @@ void perform(const QString& steps, OutputList* outputs)
         case '@': outputs->setCurrent(rest.toInt()); break;
         case '^': outputs->move(rest.toInt()); break;
         case 's': outputs->setStored(); break;
+        case 'u': history->undo(outputs); continue;
+        case 'r': history->redo(outputs); continue;
         }
+        history->record(OutputsStep::Rename, QString(), before, *outputs);
     }
+}
+
+void perform(const QString& steps, OutputList* outputs)
+{
+    OutputsHistory history;
+    perform(steps, outputs, &history);
 }
 
 /// Returns the names in the window's list, with marks for the current name and names in italics.
@@ -115,6 +127,13 @@ private Q_SLOTS:
         row("duplicates", "=Walls 2 2 =Top_(2024) 2",
             "Walls*|Walls (2)*|Top (2024)*|>Top (2024) (2)* changed");
         row("duplicate of a duplicate", "=Walls_(2) 2", "Walls (2)*|>Walls (3)* changed");
+        row("undone: removed", "+ !:p s @0 - u", ">Output 1|Output 2:p");
+        row("undone: removed and stored", "+ s @0 - s u", ">Output 1*|Output 2 changed");
+        row("undone: renamed, then changed", "=Walls !:p u", ">Output 1:p* changed");
+        row("undone: moved, then another one shown", "+ s ^0 @1 u", "Output 1|>Output 2");
+        row("undone: all", "+ 2 =x ^0 - u u u u u", ">Output 1");
+        row("redone: new, with its plots", "+ !:p u r", "Output 1|>Output 2:p* changed");
+        row("redone: removed", "+ s - u r", ">Output 1 changed");
     }
 
     /// A list does not change when it is stored and read again.
@@ -150,6 +169,9 @@ private Q_SLOTS:
         row("unchanged and removed by them", "@2", "@0 -", "B|>C, or A*|B|>C changed");
         row("renamed by both", "@1 =m !:m", "@1 =t", "A|>m:m*|C|t changed");
         row("moved by both", "@0 ^2", "@1 ^0", "B|C|>A changed");
+        row("removed, restored after their change", "@0 - / u", "@1 !:t", ">A|B:t|C");
+        row("removed, restored after they renamed it", "@0 - / u", "@0 =t", ">A*|B|C|t changed");
+        row("restored name used by them", "@2 + =N - / u", "@2 + =N", "A|B|C|>N (2)*|N changed");
     }
 
     /// Another program has stored the project's list in the meantime.
@@ -160,7 +182,8 @@ private Q_SLOTS:
         OutputList outputs;
         perform(QStringLiteral("+ + @0 =A @1 =B @2 =C s"), &outputs);
         OutputList project = outputs;
-        perform(mine, &outputs);
+        OutputsHistory history;
+        perform(mine.section(QLatin1Char('/'), 0, 0), &outputs, &history);
         perform(theirs + QLatin1String(" s"), &project);
         OutputList complete = outputs;
         for (int i = 0; i < 2; ++i) {
@@ -168,6 +191,7 @@ private Q_SLOTS:
             complete.follow(project, OutputList::Removed::Keep);
         }
         const bool isSame = shown(outputs) == shown(complete);
+        perform(mine.section(QLatin1Char('/'), 1), &outputs, &history);
         QTEST(shown(outputs) + (isSame ? QString() : QLatin1String(", or ") + shown(complete)),
               "expected");
     }
@@ -320,6 +344,53 @@ private Q_SLOTS:
             QVERIFY(dock->isVisible());
             QCOMPARE(listed(*window), QStringLiteral("Output 1|>/Walls/"));
         }
+    }
+
+    /// Undo and redo restore an output with its plots and load cases, in any language and after the
+    /// project has been reloaded.
+    void undoing()
+    {
+        const auto window = open("a.zob");
+        const QString proposed = script(*window);
+        const auto list = find<QListWidget>(*window, "OutputList");
+        const auto undo = [&](Qt::KeyboardModifier redo = Qt::NoModifier) {
+            QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier | redo);
+            QCoreApplication::processEvents();
+            return listed(*window);
+        };
+        trigger(*window, "DuplicateOutput");
+        enterName(*window, "A & B");
+        find<QTableWidget>(*outputDialog(*window), "LoadCases")
+            ->item(2, 1)
+            ->setCheckState(Qt::Unchecked);
+        plots(*window)->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+        QTRY_VERIFY(script(*window) != proposed);
+        const QString changed = script(*window);
+        const QSet<int> leftOut = outputDialog(*window)->state().leftOutNumbers;
+        trigger(*window, "DeleteOutput");
+        QCOMPARE(listed(*window), QStringLiteral(">Output 1"));
+        QCOMPARE(script(*window), proposed);
+        QCOMPARE(window->focusWidget(), list);
+        const auto edit = find<QMenu>(*window, "EditMenu");
+        QCOMPARE(edit->actions().at(0)->text(), QStringLiteral("&Undo Delete \"A && B\""));
+        trigger(*window, "Reload");
+        QTRY_VERIFY(!edit->isEmpty());
+        QCOMPARE(undo(), QStringLiteral("Output 1|>/A & B/"));
+        QCOMPARE(script(*window), changed);
+        QCOMPARE(outputDialog(*window)->state().leftOutNumbers, leftOut);
+        trigger(*window, "German");
+        QCOMPARE(edit->actions().at(0)->text(),
+                 QStringLiteral("&Rückgängig: „Output 1 (2)“ umbenennen"));
+        QCOMPARE(undo(), QStringLiteral("/Output 1/|>/Output 1 (2)/"));
+        QCOMPARE(undo(), QStringLiteral(">Ausgabe 1"));
+        QTRY_VERIFY(!window->isWindowModified());
+        undo(Qt::ShiftModifier);
+        QCOMPARE(undo(Qt::ShiftModifier), QStringLiteral("/Output 1/|>/A & B/"));
+        trigger(*window, "English");
+        QTRY_COMPARE(script(*window), changed);
+        QVERIFY(window->openProject(copy("b.zob")));
+        QTRY_COMPARE(script(*window), proposed);
+        QVERIFY(!edit->actions().at(0)->isEnabled());
     }
 
     /// A text that a field refuses stays in the field until the user gives it up.

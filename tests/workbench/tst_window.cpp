@@ -310,7 +310,7 @@ private Q_SLOTS:
         const auto edit = find<QMenu>(*window, "EditMenu");
         QVERIFY(edit->menuAction()->isEnabled() &&
                 edit->actions().contains(find<QAction>(*dialog, "undo")));
-        QVERIFY(find<QWidget>(*window, "OutputsDock")
+        QVERIFY(find<QWidget>(*window, "ScriptDock")
                     ->actions()
                     .contains(find<QAction>(*dialog, "undo")));
         find<QLineEdit>(*dialog, "searchWords")->setText(QStringLiteral("displ"));

@@ -590,7 +590,7 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>&amp;Löschen</translation>
     </message>
     <message>
-        <source>Move &amp;Up</source>
+        <source>&amp;Move Up</source>
         <translation>Nach &amp;oben</translation>
     </message>
     <message>
@@ -684,22 +684,53 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
 </context>
 <context>
+    <name>workbench::OutputsHistory</name>
+    <message>
+        <source>New Output &quot;%1&quot;</source>
+        <translation>Neue Ausgabe „%1“</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>„%1“ duplizieren</translation>
+    </message>
+    <message>
+        <source>Rename &quot;%1&quot;</source>
+        <translation>„%1“ umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>„%1“ löschen</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>„%1“ verschieben</translation>
+    </message>
+    <message>
+        <source>Copy from &quot;%1&quot;</source>
+        <translation>Aus „%1“ kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Red&amp;o %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+</context>
+<context>
     <name>workbench::OutputCommands</name>
     <message>
-        <source>Delete the output &quot;%1&quot;?</source>
-        <translation>Ausgabe „%1“ löschen?</translation>
-    </message>
-    <message>
-        <source>Workbench</source>
-        <translation>Workbench</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Löschen</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>&amp;Behalten</translation>
+        <source>The output &quot;%1&quot; has been deleted. Undo restores it.</source>
+        <translation>Die Ausgabe „%1“ wurde gelöscht. „Rückgängig“ stellt sie wieder her.</translation>
     </message>
     <message>
         <source>Copy from Project</source>

@@ -2,22 +2,20 @@
 
 #include "project/dialogPages.h"
 #include "project/putEntries.h"
-#include "project/unusedName.h"
 
 #include <VKD_H_ProjectDialogPage.h>
 #include <ZobTransaction.h>
 
-#include <QCoreApplication>
-
 namespace workbench {
+
+int newOutputId()
+{
+    static int last = 0;
+    return ++last;
+}
 
 namespace {
 constexpr char NameKey[] = "Name";
-
-struct ListText
-{
-    Q_DECLARE_TR_FUNCTIONS(workbench::OutputList)
-};
 
 QString savedName(const VKD_H_ProjectDialogPage& entries, int number)
 {
@@ -30,16 +28,6 @@ NamedOutput outputOf(const VKD_H_ProjectDialogPage& entries, int number)
     output.name = savedName(entries, number);
     output.state = OutputState::fromEntries(entries, number);
     return output;
-}
-
-QString defaultName(int number)
-{
-    return ListText::tr("Output %1").arg(number);
-}
-
-QString nameOr(const QString& name, int index)
-{
-    return name.isEmpty() ? defaultName(index + 1) : name;
 }
 
 /// Copies the saved version of an output, except for the parts that the user has changed.
@@ -104,8 +92,16 @@ void OutputList::setStored()
     m_storedNames = names();
     for (int i = 0; i < size(); ++i) {
         NamedOutput& output = m_outputs[i];
-        output = {output.name, output.state, false, output.name, output.state, i};
+        output = {output.name, output.state, false, output.name, output.state, i, output.id};
     }
+}
+
+void OutputList::continueFrom(const OutputList& before)
+{
+    setCurrent(indexOf(before.name(before.currentIndex())));
+    for (int i = 0; i < before.size(); ++i)
+        if (const int index = indexOf(before.name(i)); index >= 0)
+            m_outputs[index].id = before.at(i).id;
 }
 
 /// Returns the index of the saved version of an output from another list, or -1. An output without
@@ -161,7 +157,7 @@ bool OutputList::isChanged(int index) const
 {
     const NamedOutput& output = m_outputs[index];
     return output.isStateChanged || output.savedIndex < 0 ||
-           nameOr(output.name, index) != nameOr(output.savedName, index);
+           shownName(output.name, index) != shownName(output.savedName, index);
 }
 
 bool OutputList::isChanged() const
@@ -170,36 +166,6 @@ bool OutputList::isChanged() const
     for (int i = 0; i < size(); ++i)
         changed = changed || isChanged(i) || m_outputs[i].savedIndex != i;
     return changed;
-}
-
-QString OutputList::name(int index) const
-{
-    return nameOr(m_outputs[index].name, index);
-}
-
-QStringList OutputList::names() const
-{
-    QStringList names;
-    for (int i = 0; i < size(); ++i)
-        names << name(i);
-    return names;
-}
-
-QStringList OutputList::unsavedNames() const
-{
-    QStringList names;
-    for (int i = 0; i < size(); ++i)
-        if (m_outputs[i].savedIndex < 0)
-            names << name(i);
-    return names;
-}
-
-int OutputList::indexOf(const QString& wanted) const
-{
-    for (int i = 0; i < size(); ++i)
-        if (name(i).compare(wanted.simplified(), Qt::CaseInsensitive) == 0)
-            return i;
-    return -1;
 }
 
 void OutputList::setCurrent(int index)
@@ -245,38 +211,23 @@ void OutputList::remove()
     setCurrent(m_current);
 }
 
-QString OutputList::newName() const
+void OutputList::setOutputs(const QVector<NamedOutput>& outputs, int current)
 {
-    int number = size() + 1;
-    while (indexOf(defaultName(number)) >= 0)
-        ++number;
-    return defaultName(number);
-}
-
-QString OutputList::unusedName(const QString& name) const
-{
-    return workbench::unusedName(name.simplified(),
-                                 [this](const QString& tried) { return indexOf(tried) >= 0; });
-}
-
-QString OutputList::faultOfName(const QString& name) const
-{
-    const QString simple = name.simplified();
-    const int user = indexOf(simple);
-    if (simple.isEmpty())
-        return ListText::tr("An output needs a name.");
-    if (simple.size() > LongestOutputName)
-        return ListText::tr("A name has at most %1 characters.").arg(LongestOutputName);
-    return user < 0 || user == m_current ? QString()
-                                         : ListText::tr("Another output has this name.");
-}
-
-/// The default name depends on the position and the language, so an output has this name only while
-/// it is the only output.
-void OutputList::nameAll()
-{
-    for (int i = 0; i < size(); ++i)
-        m_outputs[i].name = name(i);
+    QHash<int, int> saved; // by identifier
+    for (const NamedOutput& output : qAsConst(m_outputs))
+        saved.insert(output.id, output.savedIndex);
+    m_outputs = outputs;
+    for (NamedOutput& output : m_outputs)
+        if (!saved.contains(output.id)) {
+            const int index = output.savedIndex < 0 ? -1
+                              : output.savedName.isEmpty()
+                                  ? 0
+                                  : m_storedNames.indexOf(output.savedName);
+            output.savedIndex = saved.values().contains(index) ? -1 : index;
+        }
+    if (size() > 1)
+        nameAll();
+    setCurrent(current);
 }
 
 } // namespace workbench

@@ -9,6 +9,9 @@ namespace workbench {
 
 constexpr int LongestOutputName = 80;
 
+/// Returns a number that no other output of this process has.
+int newOutputId();
+
 /// An output of a project, including its unsaved changes.
 struct NamedOutput
 {
@@ -18,6 +21,7 @@ struct NamedOutput
     QString savedName;
     OutputState savedState; ///< for a new output, its initial state
     int savedIndex = -1;    ///< -1 for an output that the project does not contain
+    int id = newOutputId(); ///< identifies the output after it has been renamed or moved
 };
 
 /// The outputs of a project, of which there is always at least one, and the current output. The
@@ -36,6 +40,9 @@ public:
     VkdStatus put(ZobHandle project) const;
     /// Must be called after the outputs have been stored.
     void setStored();
+    /// Must be called after the list has been read again. The current output stays current, and the
+    /// outputs keep their identifiers. Outputs are matched by their names.
+    void continueFrom(const OutputList& before);
     /// Specifies whether follow() keeps unchanged outputs that the project no longer contains.
     enum class Removed { Drop, Keep };
     /// Merges the changes that another program has stored. `project` is the list in the project.
@@ -73,6 +80,11 @@ public:
     /// Removes the current output, unless it is the only one.
     void remove();
 
+    const QVector<NamedOutput>& outputs() const { return m_outputs; }
+    /// Replaces the outputs, of which there must be at least one. An output that was not in the
+    /// list before counts as saved only if the project still contains it.
+    void setOutputs(const QVector<NamedOutput>& outputs, int current);
+
     /// Returns a name for a new output.
     QString newName() const;
     /// Returns the name, with a number appended if an output already has this name.
@@ -81,6 +93,7 @@ public:
     QString faultOfName(const QString& name) const;
 
 private:
+    static QString shownName(const QString& name, int index);
     int indexOfSaved(const NamedOutput& output) const;
     void appendNew(const OutputList& project);
     void nameAll();

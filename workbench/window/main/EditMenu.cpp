@@ -44,25 +44,26 @@ EditMenu::~EditMenu()
 
 void EditMenu::followFocus(const QWidget* now)
 {
-    for (PageDock* dock : qAsConst(m_docks))
+    for (const PageDock* dock : qAsConst(m_docks))
         if (dock != m_current && dock->isAncestorOf(now) && !dock->pageActions().isEmpty()) {
-            m_current = dock;
-            return show();
+            m_used = dock;
+            return choose();
         }
 }
 
-/// Keeps the current page if its dock is open; otherwise chooses the page of another open dock.
+/// Chooses the page that was used last if its dock is open; otherwise the page of another open
+/// dock. A page that is replaced is missing for a moment.
 void EditMenu::choose()
 {
     const auto isUsable = [](const PageDock* dock) {
         return dock && !dock->isHidden() && !dock->pageActions().isEmpty();
     };
-    if (!isUsable(m_current)) {
-        m_current = nullptr;
-        for (PageDock* dock : qAsConst(m_docks))
-            if (isUsable(dock))
-                m_current = dock;
-    }
+    m_current = nullptr;
+    for (const PageDock* dock : qAsConst(m_docks))
+        if (isUsable(dock))
+            m_current = dock;
+    if (isUsable(m_used))
+        m_current = m_used;
     show();
 }
 

@@ -13,8 +13,8 @@ namespace workbench {
 class PageDock;
 
 /// The Edit menu. It contains the actions of the page that was used last, as long as its dock is
-/// open. The shortcuts of some actions, such as Undo, also work while the model or another pane
-/// without a page has the focus.
+/// open, or else those of another page. The list of outputs counts as a page. The shortcuts of some
+/// actions, such as Undo, also work while the model or another pane without a page has the focus.
 class EditMenu : public QObject
 {
     Q_OBJECT
@@ -33,7 +33,8 @@ private:
     QMenu* m_menu;
     QList<PageDock*> m_docks;
     QWidgetList m_places;
-    PageDock* m_current = nullptr;
+    const PageDock* m_used = nullptr;        ///< the dock of the page that was used last
+    const PageDock* m_current = nullptr;     ///< the dock of the page whose actions are shown
     QVector<QPointer<QAction>> m_everywhere; ///< actions that were added to m_places
 };
 

@@ -11,6 +11,7 @@
 #include "window/main/OutputRoom.h"
 #include "window/main/WindowActions.h"
 #include "window/output/OutputDock.h"
+#include "window/outputs/OutputsDock.h"
 #include "window/outputs/OutputsPane.h"
 #include "window/records/RecordsPane.h"
 #include "window/script/ScriptPane.h"
@@ -95,7 +96,8 @@ void WindowPanes::addDocks(const WindowActions& actions)
 {
     m_window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_groupDock = addDock(m_window, Qt::LeftDockWidgetArea, groupPane, "GroupDock");
-    m_outputsDock = addDock(m_window, Qt::RightDockWidgetArea, outputs, "OutputsDock");
+    m_outputsDock = new OutputsDock(outputs, m_window);
+    m_window->addDockWidget(Qt::RightDockWidgetArea, m_outputsDock);
     m_scriptDock = addDock(m_window, Qt::RightDockWidgetArea, script, "ScriptDock");
     m_sheetDock = addDock(m_window, Qt::RightDockWidgetArea, sheets, "SheetDock");
     m_recordDock = addDock(m_window, Qt::RightDockWidgetArea, nullptr, "RecordDock");
@@ -115,13 +117,9 @@ void WindowPanes::addDocks(const WindowActions& actions)
     m_window->tabifyDockWidget(m_sheetDock, m_recordDock);
     m_scriptDock->raise();
     connect(output, &QDockWidget::visibilityChanged, this, &WindowPanes::placeOutput);
-    const QWidgetList places{m_window->centralWidget(),
-                             m_groupDock,
-                             m_outputsDock,
-                             m_scriptDock,
-                             m_sheetDock,
+    const QWidgetList places{m_window->centralWidget(), m_groupDock, m_scriptDock, m_sheetDock,
                              m_recordDock};
-    new EditMenu(actions.editMenu, pageDocks(), places, this);
+    new EditMenu(actions.editMenu, QList<PageDock*>{m_outputsDock} + pageDocks(), places, this);
     new OutputRoom({m_window, output, m_groupDock, m_scriptDock, {news, banner}}, this);
 }
 
@@ -172,7 +170,7 @@ void WindowPanes::setTexts()
     view->setAccessibleName(tr("Model"));
     m_groupDock->setWindowTitle(tr("Groups"));
     groupPane->setTexts();
-    m_outputsDock->setWindowTitle(tr("Outputs"));
+    m_outputsDock->setTitle(tr("Outputs"));
     outputs->setTexts();
     m_scriptDock->setWindowTitle(tr("Script"));
     m_sheetDock->setWindowTitle(tr("Sheet"));

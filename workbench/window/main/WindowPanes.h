@@ -16,6 +16,7 @@ class DesignDock;
 class GroupList;
 class GroupPane;
 class OutputDock;
+class OutputsDock;
 class OutputsPane;
 class PickBanner;
 class RecordsPane;
@@ -80,7 +81,7 @@ private:
 
     QMainWindow* m_window;
     QDockWidget* m_groupDock = nullptr;
-    QDockWidget* m_outputsDock = nullptr;
+    OutputsDock* m_outputsDock = nullptr;
     QDockWidget* m_scriptDock = nullptr;
     QDockWidget* m_sheetDock = nullptr;
     QDockWidget* m_recordDock = nullptr;

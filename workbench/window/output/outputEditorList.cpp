@@ -23,7 +23,7 @@ bool OutputEditor::load()
     OutputList outputs;
     if (!read(&outputs))
         return false;
-    outputs.setCurrent(outputs.indexOf(m_outputs.name(m_outputs.currentIndex())));
+    outputs.continueFrom(m_outputs);
     m_outputs = outputs;
     m_areOutputsRead = true;
     return true;

@@ -14,7 +14,6 @@
 #include "window/support/WindowMessages.h"
 
 #include <VKD_H_ZOBDoc.h>
-#include <VKD_QT_MessageBox.h>
 
 #include <QAction>
 #include <QFileDialog>
@@ -30,6 +29,8 @@ OutputCommands::OutputCommands(const OutputParts& parts)
     const auto on = [this](const QAction* action, auto slot) {
         connect(action, &QAction::triggered, this, slot);
     };
+    on(pane->undo, &OutputCommands::undo);
+    on(pane->redo, &OutputCommands::redo);
     on(pane->newOutput, &OutputCommands::add);
     on(pane->duplicate, &OutputCommands::duplicate);
     on(pane->remove, &OutputCommands::remove);
@@ -57,7 +58,58 @@ void OutputCommands::showList()
     for (int i = 0; isRead && i < outputs.size(); ++i)
         rows.append({outputs.name(i), m_parts.editor->isChanged(i)});
     m_parts.pane->setOutputs(rows, isRead ? outputs.currentIndex() : -1);
+    if (isRead)
+        m_history.follow(outputs);
+    showSteps();
     m_parts.pane->setAbsentPlots(isRead ? m_parts.editor->dialog()->absentPlots() : 0);
+}
+
+void OutputCommands::showSteps()
+{
+    const OutputsPane* pane = m_parts.pane;
+    pane->undo->setText(m_history.undoText());
+    pane->redo->setText(m_history.redoText());
+    pane->undo->setEnabled(pane->isFilled() && m_history.canUndo());
+    pane->redo->setEnabled(pane->isFilled() && m_history.canRedo());
+}
+
+/// Returns a function that makes the change and records it as an undo step.
+OutputCommands::Change OutputCommands::recorded(OutputsStep step, const QString& name,
+                                                const Change& change)
+{
+    return [this, step, name, change](OutputList* list) {
+        const OutputList before = *list;
+        change(list);
+        m_history.record(step, name, before, *list);
+    };
+}
+
+QString OutputCommands::currentName() const
+{
+    const OutputList& outputs = m_parts.editor->outputs();
+    return outputs.name(outputs.currentIndex());
+}
+
+void OutputCommands::undo()
+{
+    if (m_history.canUndo()) // finishing the input of a name may have added or removed steps
+        step(m_history.currentAfterUndo(), [this](OutputList* list) { m_history.undo(list); });
+}
+
+void OutputCommands::redo()
+{
+    if (m_history.canRedo())
+        step(m_history.currentAfterRedo(), [this](OutputList* list) { m_history.redo(list); });
+}
+
+/// Shows the output that has changed.
+void OutputCommands::step(int currentAfter, const Change& change)
+{
+    if (currentAfter == m_parts.editor->outputs().current().id)
+        m_parts.editor->editList(change);
+    else
+        m_parts.editor->changeCurrent(change);
+    showList();
 }
 
 void OutputCommands::choose(int output)
@@ -70,21 +122,24 @@ void OutputCommands::choose(int output)
 /// A new output has the settings of the current output, so that the sheets of a project look alike.
 void OutputCommands::add()
 {
-    const bool isAdded = m_parts.editor->changeCurrent([](OutputList* list) {
-        OutputState state = list->current().state;
-        state.page = withoutPlots(state.page);
-        list->add(list->newName(), state);
-    });
+    const QString name = m_parts.editor->outputs().newName();
+    const bool isAdded =
+        m_parts.editor->changeCurrent(recorded(OutputsStep::Add, name, [&name](OutputList* list) {
+            OutputState state = list->current().state;
+            state.page = withoutPlots(state.page);
+            list->add(name, state);
+        }));
     if (isAdded)
         m_parts.pane->editName();
 }
 
 void OutputCommands::duplicate()
 {
-    const bool isAdded = m_parts.editor->changeCurrent([](OutputList* list) {
-        list->add(list->unusedName(list->name(list->currentIndex())), list->current().state);
-    });
-    if (isAdded)
+    const QString name = currentName();
+    const auto change = [&name](OutputList* list) {
+        list->add(list->unusedName(name), list->current().state);
+    };
+    if (m_parts.editor->changeCurrent(recorded(OutputsStep::Duplicate, name, change)))
         m_parts.pane->editName();
 }
 
@@ -92,7 +147,8 @@ void OutputCommands::rename(const QString& name)
 {
     const QString fault = m_parts.editor->outputs().faultOfName(name);
     if (fault.isEmpty())
-        return m_parts.editor->editList([&name](OutputList* list) { list->rename(name); });
+        return m_parts.editor->editList(recorded(
+            OutputsStep::Rename, currentName(), [&name](OutputList* list) { list->rename(name); }));
     showList();
     m_parts.messages->complain(fault);
 }
@@ -107,21 +163,23 @@ bool OutputCommands::finishName()
     return false;
 }
 
+/// Does not ask, because the command can be undone, even after the list has been stored.
 void OutputCommands::remove()
 {
-    enum Button { Delete, Keep };
-    const OutputList& outputs = m_parts.editor->outputs();
-    const QString question =
-        tr("Delete the output \"%1\"?").arg(outputs.name(outputs.currentIndex()));
-    if (VKD_QT_MessageBox::warning(m_parts.messages->window(), tr("Workbench"), question,
-                                   tr("&Delete"), tr("&Keep"), QString(), Keep, Keep) == Delete)
-        m_parts.editor->changeCurrent([](OutputList* list) { list->remove(); });
+    const QString name = currentName();
+    if (!m_parts.editor->changeCurrent(
+            recorded(OutputsStep::Delete, name, [](OutputList* list) { list->remove(); })))
+        return;
+    m_parts.pane->enter();
+    m_parts.messages->say(tr("The output \"%1\" has been deleted. Undo restores it.").arg(name));
 }
 
 void OutputCommands::move(int distance)
 {
     m_parts.editor->editList(
-        [distance](OutputList* list) { list->move(list->currentIndex() + distance); });
+        recorded(OutputsStep::Move, currentName(),
+                 [distance](OutputList* list) { list->move(list->currentIndex() + distance); }));
+    m_parts.pane->enter();
 }
 
 void OutputCommands::copyFromProject()
@@ -158,13 +216,13 @@ void OutputCommands::copyFrom(const QString& path)
         return;
     const QVector<int> chosen = dialog.checkedOutputs();
     const QString project = QFileInfo(path).completeBaseName();
-    const bool areAdded = m_parts.editor->changeCurrent([&](OutputList* list) {
+    const auto add = [&](OutputList* list) {
         for (int output : chosen) {
             const QString name = theirs.at(output).name;
             list->add(list->unusedName(name.isEmpty() ? project : name), theirs.at(output).state);
         }
-    });
-    if (areAdded)
+    };
+    if (m_parts.editor->changeCurrent(recorded(OutputsStep::Copy, project, add)))
         m_parts.messages->say(tr("Outputs copied: %1").arg(chosen.size()));
 }
 

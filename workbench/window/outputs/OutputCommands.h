@@ -1,6 +1,10 @@
 #pragma once
 
+#include "window/outputs/OutputsHistory.h"
+
 #include <QObject>
+
+#include <functional>
 
 namespace workbench {
 
@@ -24,8 +28,8 @@ struct OutputParts
 };
 
 /// The commands for the list of outputs: new, duplicate, rename, delete, move, copy from another
-/// project, and saving files for all outputs. The list in the pane follows the editor. The commands
-/// do not change the project file.
+/// project, undo, redo, and saving files for all outputs. The list in the pane follows the editor.
+/// The commands do not change the project file.
 class OutputCommands : public QObject
 {
     Q_OBJECT
@@ -38,6 +42,14 @@ public:
     void showList();
 
 private:
+    using Change = std::function<void(OutputList*)>;
+
+    Change recorded(OutputsStep step, const QString& name, const Change& change);
+    QString currentName() const;
+    void showSteps();
+    void step(int currentAfter, const Change& change);
+    void undo();
+    void redo();
     void choose(int output);
     void add();
     void duplicate();
@@ -49,6 +61,7 @@ private:
     void copyFrom(const QString& path);
 
     OutputParts m_parts;
+    OutputsHistory m_history;
 };
 
 } // namespace workbench

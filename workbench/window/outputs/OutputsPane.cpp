@@ -62,6 +62,8 @@ QListWidgetItem* addItem(QListWidget* list)
 OutputsPane::OutputsPane(QWidget* parent)
     : QWidget(parent)
     , menu(new QMenu(this))
+    , undo(addStep("undo", {int(Qt::CTRL) | Qt::Key_Z}))
+    , redo(addStep("redo", {int(Qt::CTRL) | Qt::SHIFT | Qt::Key_Z, int(Qt::CTRL) | Qt::Key_Y}))
     , newOutput(add("NewOutput", int(Qt::CTRL) | Qt::SHIFT | Qt::Key_N))
     , duplicate(add("DuplicateOutput"))
     , rename(add("RenameOutput"))
@@ -92,6 +94,7 @@ OutputsPane::OutputsPane(QWidget* parent)
     addToList(remove, QKeySequence::Delete);
     addToList(moveUp, int(Qt::ALT) | Qt::Key_Up);
     addToList(moveDown, int(Qt::ALT) | Qt::Key_Down);
+    menu->insertSeparator(newOutput);
     menu->insertSeparator(previous);
     menu->insertSeparator(copyFrom);
     menu->insertSeparator(saveAll);
@@ -107,6 +110,16 @@ QAction* OutputsPane::add(const char* name, const QKeySequence& shortcut)
     action->setShortcut(shortcut);
     // An editor that is open while the list changes its current row would rename another output.
     connect(action, &QAction::triggered, this, &OutputsPane::finishEditing);
+    return action;
+}
+
+/// Adds an action whose shortcuts work in the whole pane.
+QAction* OutputsPane::addStep(const char* name, const QList<QKeySequence>& shortcuts)
+{
+    QAction* action = add(name);
+    action->setShortcuts(shortcuts);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
     return action;
 }
 
@@ -157,6 +170,7 @@ void OutputsPane::listen()
 
 void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
 {
+    const bool wasFilled = isFilled();
     const QSignalBlocker blocker(m_list);
     while (m_list->count() > outputs.size())
         delete m_list->takeItem(m_list->count() - 1);
@@ -176,12 +190,25 @@ void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
         action->setEnabled(last > 0);
     moveUp->setEnabled(current > 0);
     moveDown->setEnabled(current < last);
+    if (isFilled() != wasFilled)
+        Q_EMIT filled();
+}
+
+bool OutputsPane::isFilled() const
+{
+    return m_list->count() > 0;
 }
 
 void OutputsPane::setAbsentPlots(int count)
 {
     m_note->setText(tr("Checked plots that this model lacks: %1. They are kept.").arg(count));
     m_note->setVisible(count > 0);
+}
+
+void OutputsPane::enter()
+{
+    if (m_list->isVisible())
+        m_list->setFocus();
 }
 
 void OutputsPane::editName()
@@ -209,7 +236,7 @@ void OutputsPane::setTexts()
     duplicate->setToolTip(tr("Adds a copy of the current output"));
     rename->setText(tr("&Rename"));
     remove->setText(tr("D&elete"));
-    moveUp->setText(tr("Move &Up"));
+    moveUp->setText(tr("&Move Up"));
     moveDown->setText(tr("Move Do&wn"));
     previous->setText(tr("&Previous"));
     next->setText(tr("Ne&xt"));

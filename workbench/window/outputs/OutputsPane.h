@@ -33,6 +33,10 @@ public:
     void setOutputs(const QVector<Row>& outputs, int current);
     /// Shows how many chosen plots of the current output are not offered.
     void setAbsentPlots(int count);
+    /// Returns whether outputs are shown.
+    bool isFilled() const;
+    /// Gives the focus to the list, if it is visible.
+    void enter();
     /// Opens the editor for the name of the current output, if the list is visible.
     void editName();
     /// Closes the editor for the name, applies its text and returns it. If no editor is open,
@@ -42,6 +46,8 @@ public:
     /// The menu with all actions.
     QMenu* const menu;
     // These actions are in the order of the menu.
+    QAction* const undo;
+    QAction* const redo;
     QAction* const newOutput;
     QAction* const duplicate;
     QAction* const rename;
@@ -59,9 +65,12 @@ Q_SIGNALS:
     void chosen(int index);
     /// Emitted when the user has entered a name for the current output.
     void renamed(const QString& name);
+    /// Emitted when isFilled() has changed.
+    void filled();
 
 private:
     QAction* add(const char* name, const QKeySequence& shortcut = {});
+    QAction* addStep(const char* name, const QList<QKeySequence>& shortcuts);
     void addToList(QAction* action, const QKeySequence& shortcut);
     void layOut();
     void listen();
