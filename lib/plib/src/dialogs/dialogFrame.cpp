@@ -99,9 +99,9 @@ std::vector<QWidget*> tabStops(const std::vector<QGroupBox*>& boxes, TabOrder or
     if (order == TabOrder::ByColumns)
         std::stable_sort(stops.begin(), stops.end(),
                          [](const Stop& a, const Stop& b) { return a.column < b.column; });
-    std::vector<QWidget*> widgets;
-    for (const Stop& stop : stops)
-        widgets.push_back(stop.widget);
+    std::vector<QWidget*> widgets(stops.size());
+    std::transform(stops.begin(), stops.end(), widgets.begin(),
+                   [](const Stop& stop) { return stop.widget; });
     return widgets;
 }
 } // namespace
