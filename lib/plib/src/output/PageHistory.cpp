@@ -25,7 +25,7 @@ constexpr std::size_t MostCharacters = 16000000; // in all steps together; 32 MB
 
 std::size_t sizeOf(const TextChange& change)
 {
-    return std::size_t(change.before.size() + change.after.size());
+    return std::size_t(change.before.size()) + std::size_t(change.after.size());
 }
 
 /// Returns the caption of an item. The caption of a row is preceded by the caption of its plot.
