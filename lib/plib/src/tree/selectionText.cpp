@@ -26,7 +26,7 @@ QVector<int> selectionNumbers(QStringView text)
 {
     QVector<int> numbers;
     constexpr int Length = 4; // estimate for a number and its comma
-    numbers.reserve(text.size() / Length + 1);
+    numbers.reserve(int(text.size()) / Length + 1);
     const QChar* begin = text.begin();
     while (begin < text.end())
         if (*begin == QLatin1Char(','))
