@@ -3,6 +3,7 @@
 #include "WidgetTestSupport.h"
 
 #include <VKD_A_BarDiameterCombo.h>
+#include <VKD_A_BarDiameterData.h>
 
 #include <cmath>
 #include <cstring>
@@ -109,6 +110,15 @@ private Q_SLOTS:
         QCOMPARE(box.getCurrent(), 10.0F);
         QVERIFY(!box.setCurrent(12.7F));
         QCOMPARE(box.currentText(), QStringLiteral("Ø12.7"));
+    }
+
+    /// Only the bars of area elements, on the lower and the upper side, begin with 10 mm.
+    void barsOfNewRecords()
+    {
+        QVector<float> diameters;
+        for (int barClass = 4; barClass <= 7; ++barClass)
+            diameters << vkd_a_get_min_bar_type(barClass);
+        QCOMPARE(diameters, (QVector<float>{6.0F, 10.0F, 10.0F, 6.0F}));
     }
 
 private:

@@ -42,8 +42,11 @@ private Q_SLOTS:
         QVERIFY(storeModel(project.handle(), block).isOk());
         AnimatorPicture picture(project.handle());
         QVERIFY(!picture.isEmpty());
-        for (const Camera& camera : {Camera{{0, 0, 1}}, Camera{{0, -3, 0}}, Camera{{1, 0, 0}}}) {
-            const QSize seen(camera.eye[0] > 0 ? 4 : 8, camera.eye[2] > 0 ? 4 : 2); // metres
+        const QList<QPair<Camera, QSize>> views{{{{0, 0, 1}}, {8, 4}},
+                                                {{{0, -3, 0}}, {8, 2}},
+                                                {{{1, 0, 0}}, {4, 2}},
+                                                {{{0, 0, 1}, 90.0}, {4, 8}}};
+        for (const auto& [camera, seen] : views) { // the size in metres
             QCOMPARE(picture.sizeSeen(camera).toSize(), seen);
             const double fitting = picture.fittingScale(camera, Size);
             for (double pixels : {fitting, 10.0, 25.0}) {
@@ -58,6 +61,26 @@ private Q_SLOTS:
             }
             QVERIFY(fitting * seen.width() < Size.width());
             QVERIFY(fitting * seen.height() < Size.height());
+        }
+    }
+
+    /// A wall that is seen edge-on is as thick as in the model, but never a hairline.
+    void thickness()
+    {
+        const testsupport::TemporaryProject project;
+        Model wall;
+        wall.nodes = {{1, {0, 0, 0}}, {2, {8, 0, 0}}, {3, {8, 0, 4}}, {4, {0, 0, 4}}};
+        wall.quads.push_back({1, 1, {1, 2, 3, 4}, 0.5});
+        QVERIFY(storeModel(project.handle(), wall).isOk());
+        AnimatorPicture picture(project.handle());
+        for (double pixels : {2.0, 20.0}) {
+            QImage image(Size, QImage::Format_RGB32);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            picture.paint(painter, Size, Camera{{0, 0, 1}}, pixels);
+            painter.end();
+            QVERIFY(qAbs(drawn(image, false) - qMax(2.0, 0.5 * pixels)) < 2.0);
+            QVERIFY(qAbs(drawn(image, true) - 8.0 * pixels) < 2.0 + 0.5 * pixels);
         }
     }
 };

@@ -276,6 +276,8 @@ private Q_SLOTS:
         };
         QCOMPARE(after("0.25", Qt::Key_Down), QStringLiteral("-1 0.30"));
         QCOMPARE(after("0,25", Qt::Key_Up), QStringLiteral("-1 0.20"));
+        QCOMPARE(after("0.15", Qt::Key_PageDown), QStringLiteral("-1 0.20"));
+        QCOMPARE(after("0.15", Qt::Key_PageUp), QStringLiteral("-1 0.10"));
         QCOMPARE(after("0.2", Qt::Key_Down), QStringLiteral("1 0.30"));
         QCOMPARE(after("0.05", Qt::Key_Up), QStringLiteral("-1 0.05")); // there is no lower preset
         type(combo.edit, "0.2");
@@ -284,7 +286,8 @@ private Q_SLOTS:
         QTest::keyClick(&combo.box, Qt::Key_Up);
         QTest::keyClick(&combo.box, Qt::Key_Escape); // a preset is not typed text
         QCOMPARE(combo.edit->text(), QStringLiteral("0.10"));
-        combo.box.setCurrentIndex(3);
+        combo.box.setCurrentIndex(2);
+        QTest::keyClick(&combo.box, Qt::Key_Down); // the last entry is not a number
         QCOMPARE(combo.edit->getVal(), NotSet);
     }
 };

@@ -13,12 +13,14 @@
 
 #include <QComboBox>
 #include <QDebug>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QRadioButton>
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 using namespace windowtest;
 using namespace workbench;
@@ -51,6 +53,57 @@ QString described(const SheetPlan& plan)
             << picture.secondLoadCase;
     return text;
 }
+
+/// Records the texts, images and outlines on a page, in units of the paper device.
+class RecordingEngine : public QPaintEngine
+{
+public:
+    RecordingEngine()
+        : QPaintEngine(AllFeatures)
+    {
+    }
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState&) override {}
+    Type type() const override { return User; }
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+    void drawPath(const QPainterPath&) override {}
+    void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+    void drawImage(const QRectF& area, const QImage&, const QRectF&,
+                   Qt::ImageConversionFlags) override
+    {
+        images << seen(area);
+    }
+    void drawRects(const QRectF* rects, int count) override
+    {
+        for (int i = 0; i < count && painter()->brush().style() == Qt::NoBrush; ++i)
+            outlines << seen(rects[i]);
+    }
+    void drawTextItem(const QPointF& at, const QTextItem& item) override
+    {
+        texts << item.text();
+        places << seen({at.x(), at.y() - item.ascent(), item.width(), item.ascent()});
+    }
+
+    QStringList texts;
+    QVector<QRectF> places, images, outlines;
+
+private:
+    QRectF seen(const QRectF& area) const { return painter()->deviceTransform().mapRect(area); }
+};
+
+class RecordedPage : public QPaintDevice
+{
+public:
+    QPaintEngine* paintEngine() const override { return &engine; }
+    mutable RecordingEngine engine;
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        return metric == PdmDevicePixelRatio || metric == PdmDepth ? 1 : 1000;
+    }
+};
 
 /// Clicks the button with this label in the output dialog.
 void choose(const QWidget& window, const QString& label)
@@ -257,6 +310,59 @@ private Q_SLOTS:
         QCOMPARE(models.scale(view, {5, 5}, SheetPlan::EngineeringScale), 6000.0);
     }
 
+    /// The texts of a page neither overlap nor leave the page, and each picture is within its
+    /// frame.
+    void page()
+    {
+        const auto document = VKD_H_ZOBDoc::open(copy("building.zob"));
+        ModelImages models(document->handle());
+        SheetPlan plan = readSheetPlan(
+            QStringLiteral("SIZE A4 SC 200 SPLI 2x3 MARG YES\nVIEW EGXY\nA\nB\nLC 3\nC\nD LEGE\n"
+                           "VIEW EG3\nE\nLC 5\nF\nG\n"));
+        setLoadCaseTitles(&plan,
+                          {{3, QStringLiteral("Wind")}, {5, QString(300, QLatin1Char('x'))}});
+        QStringList texts;
+        for (int number = 0; number < plan.pageCount(); ++number) {
+            RecordedPage page;
+            QPainter painter(&page);
+            SheetPainter(&models, QStringLiteral("Project"))
+                .paint(painter, {100, 200, 2970, 2100}, plan, number);
+            painter.end();
+            const RecordingEngine& drawn = page.engine;
+            const QRectF border = drawn.outlines.first();
+            QVERIFY(border.adjusted(-2, -2, 2, 2).contains({200, 300, 2770, 1900}));
+            QVERIFY(QRectF(198, 298, 2774, 1904).contains(border)); // a margin of 10 mm
+            QCOMPARE(drawn.images.size(), number == 0 ? 5 : 1);
+            QCOMPARE(drawn.outlines.size(), number == 0 ? 13 : 3);
+            for (int i = 1; i < drawn.outlines.size(); ++i)
+                QVERIFY(border.contains(drawn.outlines[i]));
+            for (int i = 2; i < drawn.outlines.size(); i += 2) { // the frames, in reading order
+                QVERIFY(drawn.outlines[i].contains(drawn.outlines[i - 1]));
+                for (int other = 2; other < i; other += 2)
+                    QVERIFY(!drawn.outlines[i].intersects(drawn.outlines[other]));
+            }
+            for (int i = 0; i < drawn.places.size(); ++i) {
+                QVERIFY2(border.contains(drawn.places[i]), qPrintable(drawn.texts[i]));
+                for (int other = 0; other < i; ++other)
+                    QVERIFY2(!drawn.places[i].intersects(drawn.places[other]),
+                             qPrintable(drawn.texts[i] + QLatin1Char('/') + drawn.texts[other]));
+                texts << drawn.texts[i].section(QLatin1String("xx"), 0, 0);
+            }
+        }
+        const QString note = QStringLiteral("Preview without results, which the graphics program "
+                                            "draws|");
+        const QString plane = QStringLiteral("X/Y plane, 1:200, cut off|");
+        const QString spatial = QStringLiteral("3D Standard, 1:200, cut off|");
+        const QString wind = QStringLiteral("Load case 3: Wind|");
+        const QString longTitle = QStringLiteral("Load case 5: |");
+        QCOMPARE(texts.join(QLatin1Char('|')),
+                 QLatin1String("Page 1 of 2|Project|") + note + plane + QLatin1String("1  A|") +
+                     plane + QLatin1String("2  B|") + plane + wind + QLatin1String("3  C|Legend|") +
+                     wind + QLatin1String("4  D LEGE|") + spatial + wind + QLatin1String("5  E|") +
+                     spatial + longTitle + QLatin1String("6  F|Page 2 of 2|Project|") + note +
+                     spatial + longTitle + QLatin1String("7  G"));
+    }
+
     void leafing()
     {
         QAction exportSheets;
@@ -292,6 +398,31 @@ private Q_SLOTS:
         QCOMPARE(view->verticalScrollBar()->value(), 0);
         QCOMPARE(press(view, Qt::Key_PageUp), 700);
         QVERIFY(view->verticalScrollBar()->value() > 0);
+
+        // In its actual size, the sheet can be scrolled so that its last corner is visible.
+        find<QComboBox>(preview, "SheetZoom")->setCurrentIndex(SheetView::ActualSize);
+        QVERIFY(qAbs(view->sheetRect().width() * 25.4 / view->logicalDpiX() - 210.0) < 0.1);
+        view->horizontalScrollBar()->setValue(view->horizontalScrollBar()->maximum());
+        view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
+        const QRectF seen = view->viewport()->rect();
+        const QPointF gap = seen.bottomRight() - view->sheetRect().bottomRight();
+        QVERIFY(gap.x() > 5.0 && gap.x() < 15.0 && gap.y() > 5.0 && gap.y() < 15.0);
+
+        // The whole sheet is centred. Small steps of the wheel add up to a page.
+        find<QComboBox>(preview, "SheetZoom")->setCurrentIndex(SheetView::WholePage);
+        const QRectF whole = view->viewport()->rect();
+        QVERIFY(QLineF(view->sheetRect().center(), whole.center()).length() < 2.0);
+        QVERIFY(whole.contains(view->sheetRect()));
+        const auto wheel = [&](int delta) {
+            QWheelEvent event({9, 9}, {9, 9}, {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(view->viewport(), &event);
+            return number->value();
+        };
+        QVector<int> pages;
+        for (int delta : {-60, -60, -100, 60, -60, 60, 60, 240})
+            pages << wheel(delta);
+        QCOMPARE(pages, QVector<int>({700, 701, 701, 701, 701, 701, 700, 698}));
 
         // A printed sheet has the same aspect ratio as the sheet on screen.
         const QSizeF sheet = view->sheetRect().size();
