@@ -16,6 +16,13 @@
 
 namespace {
 constexpr int CopyTextsKey = int(Qt::CTRL) | Qt::ALT | Qt::Key_C;
+
+void removeCellWidgets(QTableWidget* table, int row)
+{
+    for (int column = 0; column < table->columnCount(); ++column)
+        if (table->cellWidget(row, column))
+            table->removeCellWidget(row, column);
+}
 } // namespace
 
 VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, const char* name)
@@ -103,8 +110,11 @@ void VKD_H_TableWidget::deleteSelectedRows()
         // With updates enabled, the header computes the position of each row whose height changes.
         const bool updates = verticalHeader()->updatesEnabled();
         verticalHeader()->setUpdatesEnabled(false);
-        for (int row = kept; row < rowCount(); ++row)
-            moveRow(row, rows.count(row) ? -1 : kept++);
+        for (int row = kept; row < rowCount(); ++row) {
+            removeCellWidgets(this, row);
+            if (!rows.count(row))
+                moveRow(row, kept++);
+        }
         verticalHeader()->setUpdatesEnabled(updates);
     }
     model()->removeRows(kept, rowCount() - kept);
@@ -116,14 +126,8 @@ void VKD_H_TableWidget::deleteSelectedRows()
 
 void VKD_H_TableWidget::moveRow(int row, int to)
 {
-    for (int column = 0; column < columnCount(); ++column) {
-        if (cellWidget(row, column))
-            removeCellWidget(row, column);
-        if (to >= 0 && to != row)
-            setItem(to, column, takeItem(row, column));
-    }
-    if (to < 0 || to == row)
-        return;
+    for (int column = 0; column < columnCount(); ++column)
+        setItem(to, column, takeItem(row, column));
     setVerticalHeaderItem(to, takeVerticalHeaderItem(row));
     const bool isHidden = isRowHidden(row);
     for (int shown : {row, to})
