@@ -172,6 +172,8 @@ public:
         for (QWidget* widget : visibleWidgets(m_window)) {
             lookForCuts(widget);
             lookForPlace(widget);
+            lookForCover(widget);
+            lookForFace(widget);
         }
     }
 
@@ -204,6 +206,8 @@ private:
     void lookForNames();
     void lookForCuts(QWidget* widget);
     void lookForPlace(const QWidget* widget);
+    void lookForCover(const QWidget* widget);
+    void lookForFace(const QWidget* widget);
     void lookAtHeader(const QHeaderView* header);
     QVector<const QWidget*> tabStops() const;
     void lookForOrder();
@@ -284,6 +288,35 @@ void Walk::lookForPlace(const QWidget* widget)
         return;
     if (!parent->rect().contains(widget->geometry()))
         note(widget, QStringLiteral("stands out of %1").arg(parent->objectName()));
+}
+
+/// Reports a widget that overlaps another one in a layout.
+void Walk::lookForCover(const QWidget* widget)
+{
+    const QWidget* parent = widget->parentWidget();
+    if (widget == &m_window || widget->isWindow() || isInner(widget) || !parent->layout())
+        return;
+    for (const QObject* child : parent->children()) {
+        const auto other = qobject_cast<const QWidget*>(child);
+        if (other && other != widget && other->isVisible() && !other->isWindow() &&
+            !isInner(other) && other->geometry().intersects(widget->geometry()))
+            note(widget, QStringLiteral("overlaps ") + other->objectName());
+    }
+}
+
+/// Reports a button that shows nothing, or only a picture that no tool tip explains. Derived tool
+/// buttons may paint a picture of their own.
+void Walk::lookForFace(const QWidget* widget)
+{
+    const auto button = qobject_cast<const QAbstractButton*>(widget);
+    if (!button || !button->text().isEmpty() || isInner(widget) || isInCell(widget))
+        return;
+    const auto tool = qobject_cast<const QToolButton*>(widget);
+    const bool isPainted = tool && tool->metaObject() != &QToolButton::staticMetaObject;
+    if (button->icon().isNull() && !isPainted && (!tool || tool->arrowType() == Qt::NoArrow))
+        note(widget, QStringLiteral("shows nothing"));
+    if (button->toolTip().isEmpty())
+        note(widget, QStringLiteral("has no tool tip"));
 }
 
 void Walk::lookAtHeader(const QHeaderView* header)
