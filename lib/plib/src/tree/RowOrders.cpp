@@ -30,7 +30,6 @@ void RowOrders::add(const QVector<int>& numbers, int time)
 
 void RowOrders::sort()
 {
-    m_next = 0;
     if (std::adjacent_find(m_rows.begin(), m_rows.end(), isNotLess) == m_rows.end())
         return;
     std::stable_sort(m_rows.begin(), m_rows.end(), isLess);
