@@ -2,10 +2,11 @@
 
 #include <vkd_lib_searchpath.h>
 #include <vkd_lib_text.h>
+#include <vkd_lib_value.h>
 
 #include <QTemporaryDir>
 
-/// Tests the search path and the messages.
+/// Tests the search path, the messages and the settings.
 class TestLibraryServices : public QObject
 {
     Q_OBJECT
@@ -72,6 +73,14 @@ sub => none
         QCOMPARE(vkd_lib_convtext(0, 1, "ONE"), std::string());
         vkd_lib_opentext("p");
         QCOMPARE(vkd_lib_convtext(0, 1, "ONE"), std::string("one"));
+    }
+
+    void settings()
+    {
+        constexpr int Key = 4711;
+        QCOMPARE(vkd_lib_getvalue(Key), 0); // has never been set
+        vkd_lib_setvalue(Key, 5);
+        QCOMPARE(vkd_lib_getvalue(Key), 5);
     }
 
 private:

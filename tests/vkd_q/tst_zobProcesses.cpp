@@ -16,7 +16,8 @@ static QByteArray record(int round, int size)
 /// The task of a child process.
 struct Task
 {
-    int rounds = 0, records = 0, size = 0;
+    int rounds = 0; ///< 0: exits during the first change
+    int records = 0, size = 0;
     int takes = 1; ///< 0: writes without locking the project
     int waits = 1; ///< 0: does not wait for other processes, and skips refused rounds
     int milliseconds = Unlimited;
@@ -54,6 +55,10 @@ static int childMain(const Task& task, const QString& path)
     vkd_zob_lock_ex(index, 1, 1);
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     std::fputs("taken\n", stdout); // in one step
+    if (task.rounds == 0) {
+        put(index, 1, 1, record(2, task.size), 1);
+        return 0; // during the change
+    }
     vkd_zob_free_ex(index, 1, 1);
     cd_error_t result = VKD_ZOB_OK;
     vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, task.waits ? Patience : 1);
@@ -151,6 +156,18 @@ private Q_SLOTS:
             broken += left.isEmpty() || isWhole(left) ? 0 : 1;
         }
         QTEST(broken == 0, "alwaysWhole");
+    }
+
+    /// A process that exits during a change leaves neither a part of it nor a journal.
+    void exitDuringAChange()
+    {
+        makeProject(m_path, {record(1, 300)});
+        QProcess child;
+        QVERIFY(start(child, {0, 0, 300}));
+        QVERIFY(child.waitForFinished(Patience));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).join(QLatin1Char(' ')),
+                 QStringLiteral("p"));
+        QCOMPARE(readProject(m_path), Records{record(1, 300)});
     }
 
 private:
