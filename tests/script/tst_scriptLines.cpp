@@ -160,12 +160,12 @@ private Q_SLOTS:
             {"12 : a+14", -1},
             {"1+2", 2},
             {"12+345", 34}, // without a colon, only five characters count
-                            // count
             {"1+2+3:", -1},
             {"1+:", -1},
             {"1+x:", -1},
             {"1+-5:", -5},
             {"1e+06 : x", 6}, // the label of row 1000000
+            {":+7", -1},
             {"+7", 7},
         };
         for (const auto& [label, number] : labels)

@@ -210,6 +210,11 @@ private Q_SLOTS:
         record.id1 = QStringLiteral("   @ROW");
         row->setRecord(record);
         row->number = 5;
+        OutputNode* below = row->addChild(QString());
+        below->setRecord(plib::GraphicalOutputRecord());
+        below->setRecord(row->record());
+        QCOMPARE(&below->record(), &row->record()); // shared, not copied
+        row->removeChild(below);
         leaves.addChild(QString())->setCheckState(0, Qt::PartiallyChecked);
         QCOMPARE(plib::selectionText(&leaves), QStringLiteral("\nUnchecked:@ROW:%2\nERROR CASE\n"));
     }

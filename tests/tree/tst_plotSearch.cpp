@@ -13,9 +13,11 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QScrollBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using plib::OutputNode;
+using testsupport::find;
 using testsupport::line;
 
 namespace {
@@ -164,7 +166,8 @@ private Q_SLOTS:
     void steps()
     {
         Desk desk(m_parameter.get());
-        testsupport::trigger(desk, "findPlots");
+        const QString before = desk.items();
+        testsupport::trigger(desk, "findNextPlot"); // there is no search to continue
         desk.words()->setText(QStringLiteral("2 : slab"));
         QStringList rows;
         for (const auto& [key, modifier] : {std::pair(Qt::Key_Return, Qt::NoModifier),
@@ -184,6 +187,32 @@ private Q_SLOTS:
         desk.words()->setText(QStringLiteral("nothing"));
         QCOMPARE(desk.items() + desk.count(), QStringLiteral("No hits"));
         QVERIFY(!desk.tree->currentItem()); // Space would check a hidden item
+        QTest::keyClick(desk.words(), Qt::Key_F3);
+        QTest::keyClick(desk.words(), Qt::Key_Escape);
+        QCOMPARE(desk.count(), QString());
+        QCOMPARE(desk.items(), before);
+    }
+
+    /// The buttons and the box of the search line do the same as its keys.
+    void mouseInTheSearchLine()
+    {
+        Desk desk(m_parameter.get());
+        testsupport::trigger(desk, "findPlots");
+        QVERIFY(desk.words()->hasFocus());
+        QTreeWidgetItem* plot = desk.tree->topLevelItem(0)->child(0)->child(1);
+        for (int row : {4, 6})
+            plot->child(row)->setCheckState(0, Qt::Checked);
+        find<QCheckBox>(desk, "searchCheckedOnly")->click();
+        QString counts = desk.count();
+        for (const char* button : {"searchNext", "searchNext", "searchPrevious"}) {
+            find<QToolButton>(desk, button)->click();
+            counts += QLatin1Char('|') + desk.count();
+        }
+        QCOMPARE(counts, QStringLiteral("Hit 1 of 3|Hit 2 of 3|Hit 3 of 3|Hit 2 of 3"));
+        find<QToolButton>(desk, "searchClose")->click();
+        QVERIFY(!desk.words()->isVisible() && desk.tree->hasFocus());
+        testsupport::trigger(desk, "findPlots");
+        QVERIFY(!find<QCheckBox>(desk, "searchCheckedOnly")->isChecked());
     }
 
     void keysOfTheTree()
