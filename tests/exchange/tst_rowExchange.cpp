@@ -5,6 +5,7 @@
 #include <exchange/rowParameters.h>
 #include <exchange/rowRecords.h>
 #include <exchange/rowTable.h>
+#include <history/TextChange.h>
 #include <record/commonRecord.h>
 #include <record/designRecord.h>
 #include <vkd_language.h>
@@ -191,7 +192,26 @@ private Q_SLOTS:
         texts.replaceInStrings(QStringLiteral("Crack width cross 0.30 – mm"),
                                QStringLiteral("CRACK"));
         QTEST(texts.join(QLatin1Char('|')), "expected");
-        QVERIFY(descriptionHtml(lines, {}).contains(QLatin1String("2: Slab &lt;1&gt;")));
+    }
+
+    void descriptionAsHtml()
+    {
+        const std::vector<DescriptionLine> lines{
+            {QStringLiteral("Name"), {QStringLiteral("<1>\n2")}, {}},
+            {QStringLiteral("Spin"), {QStringLiteral("1"), QStringLiteral("2")}, {}},
+            {QStringLiteral("Size"), {QStringLiteral("3")}, QStringLiteral("m")}};
+        QString html = descriptionHtml(lines, QStringLiteral("a\n&b"));
+        html.remove(QLatin1String(" style='white-space:nowrap'"))
+            .remove(QLatin1String(" align='right'"))
+            .replace(QLatin1String("</td><td"), QLatin1String("|"));
+        QCOMPARE(html, QStringLiteral("<table cellspacing='0' cellpadding='2'>"
+                                      "<tr><td>Name| colspan='3'>&lt;1&gt;<br>2</td></tr>"
+                                      "<tr><td>|>Upper|>Lower|></td></tr>"
+                                      "<tr><td>Spin|>1|>2|></td></tr>"
+                                      "<tr><td>Size|>3|>|>m</td></tr></table>"
+                                      "<p>a<br>&amp;b</p>"));
+        QCOMPARE(descriptionHtml({lines[0]}, {}).count(QLatin1String("<tr>")), 1);
+        QVERIFY(descriptionHtml({lines[0]}, {}).endsWith(QLatin1String("</table>")));
     }
 
     /// The parameters of a row, as hosts exchange them, preserve every bit.
@@ -277,6 +297,29 @@ private Q_SLOTS:
               "expected");
         replaceRows(rows, change.first, int(change.after.size()), change.before);
         QCOMPARE(lettersOf(rows), before);
+    }
+
+    /// The change between two texts, which an undo step saves, does not repeat what they have in
+    /// common.
+    void textChanges_data()
+    {
+        const Columns<QString, QString, QString> row("before", "after", "expected");
+        row("replaced", "<a>1</a>", "<a>23</a>", "3 1 23");
+        row("inserted into equal letters", "aa", "aaa", "2  a");
+        row("removed", "abcbc", "abc", "3 bc ");
+        row("equal", "ab", "ab", "2  ");
+        row("all", "", "ab", "0  ab");
+    }
+
+    void textChanges()
+    {
+        QFETCH(const QString, before);
+        QFETCH(const QString, after);
+        const TextChange change = textChange(before, after);
+        QTEST(QStringLiteral("%1 %2 %3").arg(change.first).arg(change.before, change.after),
+              "expected");
+        QCOMPARE(redone(before, change), after);
+        QCOMPARE(undone(after, change), before);
     }
 
     /// Rows share the fields that all their types have. Rounding errors do not count as

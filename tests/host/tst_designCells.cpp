@@ -157,7 +157,8 @@ private Q_SLOTS:
             for (int row = 0; row < desk.table()->rowCount(); ++row) {
                 const QTableWidgetItem* cell = desk.table()->item(row, 0);
                 texts << cell->toolTip().remove(QStringLiteral("Group 3: also in row "));
-                if (cell->icon().isNull() != cell->toolTip().isEmpty())
+                if (cell->icon().isNull() != cell->toolTip().isEmpty() ||
+                    cell->data(Qt::AccessibleDescriptionRole).toString() != cell->toolTip())
                     texts << QStringLiteral("sign without a text, or a text without a sign");
             }
             return texts.join(QLatin1Char('|'));

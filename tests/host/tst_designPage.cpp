@@ -7,7 +7,9 @@
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -158,8 +160,15 @@ private Q_SLOTS:
         QCOMPARE(desk.notice(), QString());
         desk.press("btnUp");
         QCOMPARE(desk.notice(), QStringLiteral("The first row stays first."));
-        for (int row : {1, 4, 0})
+        for (int row : {1, 0, 4})
             QCOMPARE(groupsAfter("btnDown", row), QStringLiteral("Remaining Groups|1|2|3|4"));
+        QCOMPARE(desk.notice(), QStringLiteral("This is the last row."));
+        table->setCurrentCell(0, 1, QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(find<QPushButton>(desk, "btnDelete")->toolTip(),
+                 QStringLiteral("The first row can be neither moved nor deleted."));
+        table->setFocus();
+        desk.keys({Qt::Key_Delete});
+        QCOMPARE(desk.notice(), find<QPushButton>(desk, "btnDelete")->toolTip());
         QCOMPARE(groupsAfter("btnDown", 3), QStringLiteral("Remaining Groups|1|2|4|3"));
         table->setCurrentItem(nullptr);
         desk.press("btnDown");
@@ -177,6 +186,38 @@ private Q_SLOTS:
                     table->sizeHintForIndex(table->model()->index(row, 2)).height());
         desk.page->writeToZob();
         QCOMPARE(m_project->records().size(), std::size_t(3));
+    }
+
+    void contextMenu()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 1, 1)});
+        const auto choose = [&desk](int row, const QString& entry) {
+            desk.table()->setCurrentCell(row, 1);
+            QStringList texts;
+            QTimer::singleShot(0, &desk, [&] {
+                auto menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                for (QAction* action : menu->actions()) {
+                    texts << action->text();
+                    if (action->text() == entry)
+                        action->trigger();
+                }
+                menu->close();
+            });
+            QContextMenuEvent opening(QContextMenuEvent::Keyboard, QPoint());
+            QApplication::sendEvent(desk.table()->viewport(), &opening);
+            return texts.join(QLatin1Char('|')).remove(QLatin1String(" New row 3")) +
+                   QLatin1Char(' ') + desk.groups();
+        };
+        const QString entries = choose(0, QStringLiteral("Delete"));
+        QCOMPARE(entries,
+                 QStringLiteral(
+                     "Copy Cell Texts|Select All||&Undo|&Redo||&Type|Direction and Di&stance...|"
+                     "Rein&forcement...|Crack C&ontrol...||&Copy Rows|&Paste|Paste as &New Rows|"
+                     "&Duplicate Rows||New|Delete Remaining Groups|1"));
+        QCOMPARE(desk.notice(), QStringLiteral("The first row can be neither moved nor deleted."));
+        QCOMPARE(choose(0, QStringLiteral("New")), entries + QLatin1String("|None"));
+        QCOMPARE(choose(2, QStringLiteral("Delete")), entries);
+        QCOMPARE(desk.notice(), QString());
     }
 
     void choosingRemainingGroups()

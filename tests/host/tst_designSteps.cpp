@@ -308,7 +308,7 @@ private Q_SLOTS:
             const auto step = [&](Qt::Key key) {
                 QTest::keyClick(dialog, key, Qt::AltModifier);
                 shown << QStringLiteral("%1 at %2 with %3 fields, aso %4%5 %6")
-                             .arg(find<QLabel>(*dialog, "rowTitle")->accessibleName())
+                             .arg(dialog->accessibleDescription())
                              .arg(desk.table()->currentRow())
                              .arg(dialog->findChildren<QLineEdit*>().size())
                              .arg(find<QLineEdit>(*dialog, "aso")->text(),

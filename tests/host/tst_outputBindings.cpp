@@ -174,6 +174,12 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(animator->parentWidget(), &home); // not destroyed with the page
+        QWidget other;
+        {
+            Desk desk(m_project, VKD_P_GraphicalOutput_Standard, animator);
+            animator->setParent(&other); // by the host, which keeps it there
+        }
+        QCOMPARE(animator->parentWidget(), &other);
     }
 
     void firstShow()
