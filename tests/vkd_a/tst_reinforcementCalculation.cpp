@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
@@ -258,6 +259,8 @@ private Q_SLOTS:
     {
         const float value = calculate(NotSet, 12.7F, [](const Parts& parts) {
             QCOMPARE(parts.table->item(1, 6)->text(), QStringLiteral("2.51"));
+            QVERIFY(parts.table->horizontalHeader()->minimumSectionSize() >
+                    parts.table->fontMetrics().horizontalAdvance(QStringLiteral("125.66")));
             parts.click(3, 4); // the marked cell, which is nearest to 12.7/150
             QCOMPARE(parts.diameter->getCurrent(), 12.0F);
             parts.click(1, 6);

@@ -9,6 +9,8 @@
 #include "window/presets/PageParameters.h"
 #include "window/presets/presetsAction.h"
 
+#include <VKD_QT_Ok.h>
+
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -310,19 +312,37 @@ private Q_SLOTS:
                 whenModal([&file](QWidget* files) { enterFile(files, file); });
                 press(dialog, button);
             }
+            choose(dialog, "A & B (2)");
+            whenModal([](QWidget* form) {
+                auto name = find<QLineEdit>(*form, "presetName");
+                QCOMPARE(name->text(), QStringLiteral("A & B (2)"));
+                const auto canAccept = [form](QLineEdit* field, const char* text) {
+                    field->setText(QLatin1String(text));
+                    return find<VKD_QT_Ok>(*form, "okayandcancelbutton")->cmdOk()->isEnabled();
+                };
+                QVERIFY(!canAccept(name, "A & B") && !canAccept(name, " ") && canAccept(name, "C"));
+                qobject_cast<QDialog*>(form)->accept();
+            });
+            press(dialog, "presetRename");
             whenModal([](QWidget* box) { box->findChildren<QPushButton*>().value(0)->click(); });
             choose(dialog, "A & B");
             press(dialog, "presetDelete");
-            choose(dialog, "A & B (2)");
-            press(dialog, "presetApply");
+            const auto list = find<QTreeWidget>(dialog, "presetList");
+            choose(dialog, "My presets");
+            Q_EMIT list->itemDoubleClicked(list->currentItem(), 0); // not a preset
+            for (const char* button : {"presetApply", "presetRename", "presetExport"})
+                QVERIFY(!find<QPushButton>(dialog, button)->isEnabled());
+            choose(dialog, "C");
+            QVERIFY(list->currentItem()->parent());
+            Q_EMIT list->itemDoubleClicked(list->currentItem(), 0);
+            QVERIFY(!dialog.isVisible());
         });
         const PresetList stored =
             presetsOf(PresetKind::DesignParameters, PresetPlace::User, {}).presets;
         QCOMPARE(stored.size(), 1);
-        QCOMPARE(stored.first().name, QStringLiteral("A & B (2)"));
+        QCOMPARE(stored.first().name, QStringLiteral("C"));
         QVERIFY(!partsIn(stored.first().contents).contains(PresetPart::Cover));
-        QCOMPARE(find<QAction>(*desk->page, "undo")->text(),
-                 QStringLiteral("&Undo Preset \"A && B (2)\""));
+        QCOMPARE(find<QAction>(*desk->page, "undo")->text(), QStringLiteral("&Undo Preset \"C\""));
     }
 
     void selectionWithPlots_data()

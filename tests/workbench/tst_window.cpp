@@ -472,7 +472,8 @@ private Q_SLOTS:
         auto dock = find<QDockWidget>(*window, "OutputDock");
         for (const bool isFloating : {true, false})
             dock->setFloating(isFloating);
-        dock->close();
+        dock->toggleViewAction()->trigger();
+        QVERIFY(dock->isHidden());
         QTRY_COMPARE(groups->width(), width);
     }
 };
