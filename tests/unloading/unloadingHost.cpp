@@ -28,7 +28,7 @@ QString mapped()
     QFile maps(QStringLiteral("/proc/self/maps"));
     require(maps.open(QIODevice::ReadOnly), maps.errorString());
     QStringList names;
-    const QRegularExpression library(QStringLiteral("/lib(vkd_\\w+|pagesPlugin)\\.so"));
+    const QRegularExpression library(QStringLiteral("/lib(vkd_\\w+|pagesPlugin)(-qt6)?\\.so"));
     for (auto i = library.globalMatch(QString::fromLocal8Bit(maps.readAll())); i.hasNext();)
         names << i.next().captured(1);
     names.removeDuplicates();
@@ -53,8 +53,10 @@ void useApplication()
         window->grab();
     }
     QCoreApplication::processEvents();
-    for (int type = QMetaType::User; QMetaType::isRegistered(type); ++type)
-        QMetaType::destroy(type, QMetaType::create(type));
+    for (int id = QMetaType::User; QMetaType::isRegistered(id); ++id) {
+        const QMetaType type(id);
+        type.destroy(type.create());
+    }
 }
 
 template <typename Result>
