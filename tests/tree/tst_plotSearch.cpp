@@ -229,7 +229,7 @@ private Q_SLOTS:
         QTest::keyClick(desk.tree, Qt::Key_Delete);
         QCOMPARE(plot->checkState(0), Qt::Unchecked);
         QTest::keyClick(desk.tree, Qt::Key_F10, Qt::ShiftModifier);
-        QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint());
+        QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
         QCoreApplication::sendEvent(desk.tree, &menuKey);
         QCOMPARE(menus.size(), 2);
         const QPoint place =

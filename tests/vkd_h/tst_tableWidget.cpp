@@ -167,7 +167,7 @@ private Q_SLOTS:
                 menu->actions().at(entry)->trigger();
                 menu->close();
             });
-            QContextMenuEvent opening(QContextMenuEvent::Keyboard, QPoint());
+            QContextMenuEvent opening(QContextMenuEvent::Keyboard, QPoint(), QPoint());
             QApplication::sendEvent(table.viewport(), &opening);
             return texts.join(QLatin1Char('|')) + QLatin1Char(' ') + table.firstColumn();
         };
