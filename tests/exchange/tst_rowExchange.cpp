@@ -132,7 +132,7 @@ private Q_SLOTS:
             for (const DesignParameterRow& row : rows)
                 if (row.record.type != (found.isEmpty() ? 3 : 1) || row.groups.front() != 7)
                     return -1;
-            return rows.front().record.hio == NotSet ? 100 : found.size();
+            return rows.front().record.hio == NotSet ? 100 : int(found.size());
         };
         QCOMPARE(faults(1, 3), 0);
         QCOMPARE(faults(3, 3), 0);
