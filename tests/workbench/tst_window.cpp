@@ -475,6 +475,10 @@ private Q_SLOTS:
         dock->toggleViewAction()->trigger();
         QVERIFY(dock->isHidden());
         QTRY_COMPARE(groups->width(), width);
+        openOutput(*window);
+        trigger(*window, "CloseProject");
+        QVERIFY(window->openProject(path("narrow.zob"))); // restores the docks one by one
+        QVERIFY(dock->isVisible());
     }
 };
 

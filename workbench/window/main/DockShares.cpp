@@ -1,5 +1,7 @@
 #include "window/main/DockShares.h"
 
+#include "window/support/resizeDocks.h"
+
 #include <QDockWidget>
 #include <QEvent>
 #include <QLayout>
@@ -72,7 +74,7 @@ void DockShares::giveShares(const QSize& before)
         if (entry.share == 0.0)
             takeShare(entry, before);
         const int wanted = qRound(entry.share * along(m_window->size(), entry.orientation));
-        m_window->resizeDocks({dock}, {wanted}, entry.orientation);
+        resizeDocks(m_window, {dock}, {wanted}, entry.orientation);
     }
     m_window->layout()->activate(); // a later event would be attributed to the user
 }

@@ -1,6 +1,7 @@
 #include "window/main/OutputRoom.h"
 
 #include "window/output/OutputDock.h"
+#include "window/support/resizeDocks.h"
 
 #include <QEvent>
 #include <QLayout>
@@ -79,9 +80,8 @@ void OutputRoom::arrange()
         return;
     const int needed = m_widgets.output->widthOfPage();
     const int script = qMax(1, qMin(m_scriptWidth, window->width() - needed));
-    window->resizeDocks({m_widgets.output, m_widgets.script},
-                        {isModel ? needed : qMax(1, window->width() - script), script},
-                        Qt::Horizontal);
+    resizeDocks(window, {m_widgets.output, m_widgets.script},
+                {isModel ? needed : qMax(1, window->width() - script), script}, Qt::Horizontal);
     window->layout()->activate();
 }
 
@@ -89,8 +89,8 @@ void OutputRoom::restore()
 {
     if (m_groupWidth <= 0)
         return;
-    m_widgets.window->resizeDocks({m_widgets.groups, m_widgets.script},
-                                  {m_groupWidth, qMax(1, m_scriptWidth)}, Qt::Horizontal);
+    resizeDocks(m_widgets.window, {m_widgets.groups, m_widgets.script},
+                {m_groupWidth, qMax(1, m_scriptWidth)}, Qt::Horizontal);
     m_widgets.window->layout()->activate(); // a dock that starts to float is shown again at once
 }
 

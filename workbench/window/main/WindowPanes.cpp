@@ -17,6 +17,7 @@
 #include "window/script/ScriptPane.h"
 #include "window/start/StartScreen.h"
 #include "window/support/HelpKey.h"
+#include "window/support/resizeDocks.h"
 #include "window/support/WindowSettings.h"
 
 #include <AnimatorView.h>
@@ -129,9 +130,9 @@ void WindowPanes::resizeDocks()
     const QFontMetrics metrics = m_window->fontMetrics();
     const int letter = metrics.averageCharWidth();
     const int width = m_window->width();
-    m_window->resizeDocks({m_groupDock, m_scriptDock},
-                          {qMin(45 * letter, width / 4), qMin(60 * letter, width / 3)},
-                          Qt::Horizontal);
+    workbench::resizeDocks(m_window, {m_groupDock, m_scriptDock},
+                           {qMin(45 * letter, width / 4), qMin(60 * letter, width / 3)},
+                           Qt::Horizontal);
     auto shares = new DockShares(m_window);
     shares->add({m_scriptDock, m_sheetDock, m_recordDock}, Qt::Horizontal);
     shares->add({design}, Qt::Vertical);
@@ -151,7 +152,7 @@ void WindowPanes::makeRoomForDesign()
         return; // from then on, the user determines the position and the height
     const int wanted = qMin(18 * m_window->fontMetrics().height(), m_window->height() * 2 / 5);
     if (design->height() < wanted)
-        m_window->resizeDocks({design}, {wanted}, Qt::Vertical);
+        workbench::resizeDocks(m_window, {design}, {wanted}, Qt::Vertical);
 }
 
 /// Tabs the output page with the groups when it is first shown, because there is no room for both.
