@@ -301,6 +301,16 @@ private Q_SLOTS:
         other.reset();
         find<QDialog>(*window, "OutputDialog")->reject();
         QTRY_COMPARE(script(*window), proposed);
+        QVERIFY(window->openProject(path("unreadable.zob"))); // its script follows
+        other = std::make_unique<OtherProgram>(path("unreadable.zob"), OtherProgram::Storing);
+        readMessage(messages);
+        QTRY_COMPARE(messages.size(), 3);
+        readMessage(messages);
+        const auto keywords = find<QComboBox>(*window, "KeywordLanguage");
+        const int before = keywords->currentIndex();
+        keywords->setCurrentIndex(1 - before);
+        QCOMPARE(messages.size(), 4);
+        QCOMPARE(keywords->currentIndex(), before);
     }
 };
 
