@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -263,6 +264,11 @@ private Q_SLOTS:
         QTRY_COMPARE(script(*window), changed);
         trigger(*window, "PreviousOutput");
         QTRY_COMPARE(script(*window), QString());
+        QDir(m_folder->path()).mkdir(QStringLiteral("first"));
+        answerFileDialog(path("first"));
+        trigger(*window, "SaveAllScripts");
+        QVERIFY(window->statusBar()->currentMessage().endsWith(
+            QLatin1String("first: 1. Outputs without plots: Walls")));
         plots(*window)->topLevelItem(1)->setCheckState(0, Qt::Checked);
         QTRY_VERIFY(!script(*window).isEmpty());
         const QString walls = script(*window);
@@ -286,6 +292,33 @@ private Q_SLOTS:
         answerFileDialog(m_folder->path());
         trigger(*window, "ExportAllSheets");
         QVERIFY(readFile(path("Walls.pdf")).startsWith("%PDF"));
+    }
+
+    void focusAfterNaming_data()
+    {
+        const Columns<QByteArray, Qt::Key, bool> row("action", "key", "isNew");
+        row("new", "NewOutput", Qt::Key_Return, true);
+        row("duplicate, proposed name", "DuplicateOutput", Qt::Key_Escape, true);
+        row("renamed", "RenameOutput", Qt::Key_Return, false);
+    }
+
+    /// A new output can be filled at once. It does not show the search of the previous output.
+    void focusAfterNaming()
+    {
+        QFETCH(const QByteArray, action);
+        QFETCH(const Qt::Key, key);
+        QFETCH(const bool, isNew);
+        const auto window = open("a.zob");
+        openOutput(*window);
+        trigger(*outputDialog(*window), "findPlots");
+        find<QLineEdit>(*window, "searchWords")->setText(QStringLiteral("displ"));
+        trigger(*window, action);
+        QTest::keyClick(typeName(*window, "Walls"), key);
+        const QTreeWidget* tree = plots(*window);
+        const QWidget* list = find<QWidget>(*window, "OutputList");
+        QTRY_COMPARE(window->focusWidget(), isNew ? tree : list);
+        QCOMPARE(tree->topLevelItem(0)->isHidden(), !isNew);
+        QCOMPARE(find<QWidget>(*window, "plotSearch")->isVisible(), !isNew);
     }
 
     void typedName_data()
@@ -375,6 +408,7 @@ private Q_SLOTS:
         QCOMPARE(edit->actions().at(0)->text(), QStringLiteral("&Undo Delete \"A && B\""));
         trigger(*window, "Reload");
         QTRY_VERIFY(!edit->isEmpty());
+        list->setFocus();
         QCOMPARE(undo(), QStringLiteral("Output 1|>/A & B/"));
         QCOMPARE(script(*window), changed);
         QCOMPARE(outputDialog(*window)->state().leftOutNumbers, leftOut);

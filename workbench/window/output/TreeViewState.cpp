@@ -2,6 +2,7 @@
 
 #include <VKD_P_WidgetGraphicalOutput_Role.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QHash>
@@ -96,11 +97,15 @@ struct Search
     QCheckBox* checkedOnly;
 };
 
-/// Opens the search line without changing the focus.
-void openSearch(const QTreeWidget* tree)
+/// Opens or closes the search line without changing the focus.
+void showSearch(const QTreeWidget* tree, bool isShown)
 {
     QWidget* focus = tree->window()->focusWidget();
-    tree->window()->findChild<QAction*>(QStringLiteral("findPlots"))->trigger();
+    const QWidget* page = tree->parentWidget();
+    if (isShown)
+        tree->window()->findChild<QAction*>(QStringLiteral("findPlots"))->trigger();
+    else if (const auto close = page->findChild<QAbstractButton*>(QStringLiteral("searchClose")))
+        close->click();
     if (focus)
         focus->setFocus();
 }
@@ -129,12 +134,12 @@ TreeViewState::TreeViewState(QTreeWidget* tree)
 
 void TreeViewState::restore(QTreeWidget* tree) const
 {
-    Search(tree).set(QString(), false);
+    showSearch(tree, false);
     const ItemKeys keys(*tree);
     restoreBranches(tree, keys);
     if (!m_checkedOnly && m_words.isEmpty())
         return;
-    openSearch(tree);
+    showSearch(tree, true);
     Search(tree).set(m_words, m_checkedOnly);
     if (QTreeWidgetItem* found = keys.itemOf(m_found))
         tree->setCurrentItem(found);
@@ -153,6 +158,13 @@ void TreeViewState::restoreBranches(QTreeWidget* tree, const ItemKeys& keys) con
     tree->setAutoScroll(scrolls);
     if (QTreeWidgetItem* top = keys.itemOf(m_top))
         tree->scrollToItem(top, QAbstractItemView::PositionAtTop);
+}
+
+void TreeViewState::endSearch()
+{
+    m_words.clear();
+    m_checkedOnly = false;
+    m_found.clear();
 }
 
 QStringList TreeViewState::toStrings() const

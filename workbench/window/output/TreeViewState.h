@@ -21,6 +21,8 @@ public:
     /// Restores the state. The focus does not change.
     void restore(QTreeWidget* tree) const;
 
+    /// Removes the search, so that it is not restored.
+    void endSearch();
     /// Returns the state as strings for the program settings, and reads these strings.
     QStringList toStrings() const;
     static TreeViewState fromStrings(const QStringList& texts);

@@ -96,7 +96,10 @@ bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
     if (present.isChanged)
         m_outputs.setState(present.state, true);
     const bool hasFocus = m_dialog->isAncestorOf(QApplication::focusWidget());
+    const int count = m_outputs.size();
     change(&m_outputs);
+    if (m_outputs.size() > count)
+        present.plots.endSearch(); // the words were meant for another output
     present.state = m_outputs.current().state;
     present.isChanged = m_outputs.current().isStateChanged;
     closeLater();

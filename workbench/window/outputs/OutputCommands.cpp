@@ -19,6 +19,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
+#include <QTimer>
+
+#include <utility>
 
 namespace workbench {
 
@@ -45,6 +48,7 @@ OutputCommands::OutputCommands(const OutputParts& parts)
     m_parts.editor->setFinishName([this] { return finishName(); });
     connect(pane, &OutputsPane::chosen, this, &OutputCommands::choose);
     connect(pane, &OutputsPane::renamed, this, &OutputCommands::rename);
+    connect(pane, &OutputsPane::namingEnded, this, &OutputCommands::endNaming);
     connect(m_parts.editor, &OutputEditor::modified, this, &OutputCommands::showList);
     connect(m_parts.script, &OutputScript::refreshed, this, &OutputCommands::showList);
     showList();
@@ -130,7 +134,7 @@ void OutputCommands::add()
             list->add(name, state);
         }));
     if (isAdded)
-        m_parts.pane->editName();
+        nameNew();
 }
 
 void OutputCommands::duplicate()
@@ -140,7 +144,20 @@ void OutputCommands::duplicate()
         list->add(list->unusedName(name), list->current().state);
     };
     if (m_parts.editor->changeCurrent(recorded(OutputsStep::Duplicate, name, change)))
-        m_parts.pane->editName();
+        nameNew();
+}
+
+void OutputCommands::nameNew()
+{
+    m_parts.pane->editName();
+    m_isNaming = true;
+}
+
+/// Gives the focus to the plots of a new output, so that they can be chosen at once.
+void OutputCommands::endNaming(bool byKey)
+{
+    if (std::exchange(m_isNaming, false) && byKey) // later, because the list takes the focus
+        QTimer::singleShot(0, m_parts.editor, &OutputEditor::edit);
 }
 
 void OutputCommands::rename(const QString& name)
@@ -149,6 +166,7 @@ void OutputCommands::rename(const QString& name)
     if (fault.isEmpty())
         return m_parts.editor->editList(recorded(
             OutputsStep::Rename, currentName(), [&name](OutputList* list) { list->rename(name); }));
+    m_isNaming = false;
     showList();
     m_parts.messages->complain(fault);
 }

@@ -53,6 +53,8 @@ private:
     void choose(int output);
     void add();
     void duplicate();
+    void nameNew();
+    void endNaming(bool byKey);
     void rename(const QString& name);
     bool finishName();
     void remove();
@@ -62,6 +64,7 @@ private:
 
     OutputParts m_parts;
     OutputsHistory m_history;
+    bool m_isNaming = false; ///< whether the user has been asked to name a new output
 };
 
 } // namespace workbench

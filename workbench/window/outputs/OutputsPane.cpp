@@ -43,6 +43,13 @@ public:
 };
 
 namespace {
+/// Returns whether the user has closed the editor with Return or Escape.
+bool isEndedByKey(QAbstractItemDelegate::EndEditHint hint)
+{
+    return hint == QAbstractItemDelegate::SubmitModelCache ||
+           hint == QAbstractItemDelegate::RevertModelCache;
+}
+
 QToolButton* newButton(QAction* action, const char* name, QWidget* parent)
 {
     QToolButton* button = actionButton(action, parent);
@@ -157,6 +164,10 @@ void OutputsPane::listen()
             Qt::QueuedConnection);
     connect(m_list, &QListWidget::itemChanged, this,
             [this](const QListWidgetItem* item) { Q_EMIT renamed(item->text()); });
+    connect(m_list->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            [this](QWidget*, QAbstractItemDelegate::EndEditHint hint) {
+                Q_EMIT namingEnded(isEndedByKey(hint));
+            });
     connect(m_list, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& place) { menu->popup(m_list->viewport()->mapToGlobal(place)); });
     const auto step = [this](int distance) {
@@ -221,6 +232,7 @@ void OutputsPane::editName()
 
 QString OutputsPane::finishEditing()
 {
+    Q_EMIT namingEnded(false);
     return m_list->finishEditing();
 }
 
