@@ -1540,7 +1540,7 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
     <message>
         <source>Export PDF...</source>
-        <translation>PDF exportieren ...</translation>
+        <translation>Als PDF ...</translation>
     </message>
     <message>
         <source>Copy</source>

@@ -148,6 +148,7 @@ void OutputsPane::layOut()
     head->addStretch();
     head->addWidget(m_more);
     auto layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6); // as in the panes below
     layout->addLayout(head);
     layout->addWidget(m_list, 1);
     layout->addWidget(m_note);

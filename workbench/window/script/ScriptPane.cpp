@@ -105,6 +105,7 @@ void ScriptPane::layOut()
         foot->addWidget(button);
     }
     auto layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6); // leaves room for the output page
     layout->addLayout(head);
     layout->addWidget(m_text);
     layout->addWidget(m_findBar);
