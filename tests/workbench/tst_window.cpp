@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTabWidget>
@@ -448,6 +449,34 @@ private Q_SLOTS:
         drag(400, -150); // too small for the saved shares
         drag(-150, 0);
         QCOMPARE(QSize(script->width(), rows->height()), before);
+    }
+
+    /// The German page, script and sheets fit into a maximised window on a screen of 1280 x 720.
+    /// The design dock is hidden while the page needs its height.
+    void smallScreen()
+    {
+        const QFont before = QApplication::font();
+        QFont font = before;
+        font.setPixelSize(13); // as on most desktops
+        QApplication::setFont(font);
+        const auto window = open("small.zob");
+        trigger(*window, "German");
+        window->resize(1264, 680);
+        const auto dock = find<QDockWidget>(*window, "OutputDock");
+        const QWidget* design = openDesign(*window);
+        for (const char* pane : {"ScriptDock", "SheetDock", "RecordDock"}) {
+            find<QDockWidget>(*window, pane)->raise();
+            openOutput(*window);
+            QTRY_VERIFY(dock->isVisible() && !design->isVisible());
+            const auto page = dock->findChild<QScrollArea*>();
+            QTRY_COMPARE(page->horizontalScrollBar()->maximum(), 0);
+            QTRY_COMPARE(page->verticalScrollBar()->maximum(), 0);
+            find<QDockWidget>(*window, "GroupDock")->raise();
+            QTRY_VERIFY(design->isVisible());
+        }
+        trigger(*window, "CloseProject");
+        QVERIFY(!design->isVisible());
+        QApplication::setFont(before);
     }
 
     /// In a narrow window, the output page takes the place of the model.

@@ -9,6 +9,7 @@
 #include "window/main/DockShares.h"
 #include "window/main/EditMenu.h"
 #include "window/main/OutputRoom.h"
+#include "window/main/PagesInTurn.h"
 #include "window/main/WindowActions.h"
 #include "window/output/OutputDock.h"
 #include "window/outputs/OutputsDock.h"
@@ -122,6 +123,7 @@ void WindowPanes::addDocks(const WindowActions& actions)
                              m_recordDock};
     new EditMenu(actions.editMenu, QList<PageDock*>{m_outputsDock} + pageDocks(), places, this);
     new OutputRoom({m_window, output, m_groupDock, m_scriptDock, {news, banner}}, this);
+    new PagesInTurn(m_window, output, design, banner, this);
 }
 
 /// The list of groups needs no additional space in a larger window, so its dock has no share.

@@ -45,6 +45,11 @@ int OutputDock::widthOfPage() const
     return page + m_place->verticalScrollBar()->sizeHint().width() + width() - m_place->width();
 }
 
+int OutputDock::heightOfPage() const
+{
+    return (m_dialog ? m_dialog->minimumSizeHint().height() : 0) + height() - m_place->height();
+}
+
 void OutputDock::setTexts()
 {
     setTitle(tr("Graphical Output"));

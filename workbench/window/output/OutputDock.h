@@ -25,6 +25,8 @@ public:
     /// Returns the width of the dock, including its frame, at which the page needs no horizontal
     /// scroll bar.
     int widthOfPage() const;
+    /// Returns the height of the dock at which the page needs no vertical scroll bar.
+    int heightOfPage() const;
     void setTexts();
     QList<QAction*> pageActions() const override;
 
