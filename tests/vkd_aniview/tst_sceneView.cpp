@@ -1,3 +1,4 @@
+#include "geometry/coarseGeometry.h"
 #include "TestSupport.h"
 #include "view/GroupMarks.h"
 #include "view/SceneView.h"
@@ -5,6 +6,7 @@
 #include <QLineF>
 
 #include <cmath>
+#include <set>
 
 using namespace vkd::aniview;
 using vkd::dbo::Model;
@@ -293,6 +295,27 @@ private Q_SLOTS:
         }
         view.zoom(20.0, {428, 328}); // only a few items are still visible
         QCOMPARE(&view.quickPicture(10000).geometry, &view.geometry());
+    }
+
+    /// Faces whose corners are merged have fewer corners or vanish.
+    void mergedFaces()
+    {
+        Model model = largeStorey(40);
+        for (vkd::dbo::Node& node : model.nodes)
+            node.position[0] += 0.03 * node.position[1]; // a skewed mesh
+        const ModelGeometry fine = buildGeometry(model);
+        const ModelGeometry coarse = mergedInCells(fine, 2.5F * fine.cell);
+        QVector<size_t> faces(5);
+        for (const Face& face : coarse.faces) {
+            std::set<int> corners;
+            for (int i = 0; i < face.count; ++i)
+                if (size_t(face.points[i]) < coarse.x.size())
+                    corners.insert(face.points[i]);
+            QCOMPARE(int(corners.size()), face.count);
+            ++faces[face.count];
+        }
+        QVERIFY(faces[3] > 0 && faces[4] > 0);
+        QVERIFY(coarse.faces.size() < fine.faces.size() / 2);
     }
 
     void triangle()

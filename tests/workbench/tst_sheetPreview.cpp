@@ -163,9 +163,10 @@ private Q_SLOTS:
     void views()
     {
         const SheetPlan plan = readSheetPlan(QStringLiteral(
-            "SIZE A3 SPLI 3x2\nA\nVIEW EG3\nB\nC\nBEOB TYP EGYZ ; PERS INFI\nD\n"
+            "SIZE A3 SPLI 3x2\nSCHH H6 none\nA\nVIEW EG3\nB\nC\nBEOB TYP EGYZ ; PERS INFI\nD\n"
             "VIEW TYPE STAN 1 -0.5 2 ROTA 30\nE\nVIEW \nF\nBEOB EGX $ EG3\nG ; H $(SCHR)\n"));
         QCOMPARE(plan.size, QSizeF(420, 297));
+        QCOMPARE(plan.textHeight, SheetPlan().textHeight);
         QCOMPARE(plan.picturesPerPage(), 6);
         QCOMPARE(plan.pageCount(), 2);
         QVector<int> kinds;
