@@ -193,7 +193,17 @@ private Q_SLOTS:
                 cells += driver.cell(group, column).data().toString() +
                          QLatin1Char(column < 3 ? '|' : '\n');
         QCOMPARE(cells, wanted);
-        QVERIFY(!driver.find<QTreeView>("groups")->isColumnHidden(3));
+        auto view = driver.find<QTreeView>("groups");
+        QVERIFY(!view->isColumnHidden(3));
+        QStringList headers, orders;
+        for (int column = 0; column < 4; ++column) {
+            headers << view->model()->headerData(column, Qt::Horizontal).toString();
+            view->sortByColumn(column, column == 2 ? Qt::DescendingOrder : Qt::AscendingOrder);
+            orders << driver.shown();
+        }
+        QCOMPARE(headers.join(QLatin1Char('|')), QStringLiteral("Group|Title|Contents|Remark"));
+        QCOMPARE(orders.join(QLatin1Char('|')),
+                 QStringLiteral("1 2 3 4 12 77|12 77 2 1 3 4|2 1 12 77 3 4|1 12 3 2 4 77"));
         Groups low{Low};
         const VKD_H_SecondaryGroupDialog withoutRemarks(m_project.doc.get(), low, {}, nullptr);
         QVERIFY(Driver(&withoutRemarks).find<QTreeView>("groups")->isColumnHidden(3));

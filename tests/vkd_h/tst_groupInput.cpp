@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 
 #include <groups/shownName.h>
+#include <vkd_dbo_groupTexts.h>
 #include <vkd_dbo_packedNames.h>
 #include <vkd_h_groupInput.h>
 
@@ -51,6 +52,21 @@ private Q_SLOTS:
                            "5- => /5-/\n"
                            "1-2-3 9 => 9/1-2-3/\n"
                            "abc 1 2x +3 1.5 ٣ => 1/abc|2x|+3|1.5|٣/\n");
+    }
+
+    void ranges()
+    {
+        const auto ranges = [](const QString& text) {
+            Groups groups;
+            for (const QString& number : text.split(QLatin1Char(' ')))
+                groups.push_back(number.toInt());
+            return vkd::dbo::groupRanges(groups);
+        };
+        compareCases(ranges, "0 => 0\n"
+                             "2 1 => 1, 2\n"
+                             "3 1 2 12 5 6 7 8 5 => 1-3, 5-8, 12\n"
+                             "-2 -1 0 1 => 0, 1\n"
+                             "538976321 538976322 538976323 => A, B, C\n"); // packed names
     }
 
     void names()

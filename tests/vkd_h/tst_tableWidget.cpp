@@ -90,7 +90,7 @@ private Q_SLOTS:
         for (int row : {8, 0, 4, 5, 2})
             table.setRangeSelected({row, 0, row, 1}, true);
         QVERIFY(table.isRowSelected(4) && !table.isRowSelected(3));
-        table.deleteSelectedRows();
+        QTest::keyClick(&table, Qt::Key_Delete);
         QCOMPARE(table.firstColumn(), QStringLiteral("t1367"));
         QCOMPARE(table.currentIndex(), table.model()->index(2, 1)); // moved up with its row
         QVERIFY(table.getSelectetRows().empty());
@@ -176,6 +176,10 @@ private Q_SLOTS:
         QCOMPARE(choose(3), QStringLiteral("no Kopieren|Alles auswählen||Neu|Löschen "));
         QCOMPARE(table.rowCount(), 1);
         table.setContextmenueEnabled_new_del(false);
+        table.selectRow(0);
+        QTest::keyClick(&table, Qt::Key_Delete);
+        QCOMPARE(table.rowCount(), 1);
+        table.clearSelection();
         QCOMPARE(choose(0), QStringLiteral("no Kopieren|Alles auswählen "));
     }
 
