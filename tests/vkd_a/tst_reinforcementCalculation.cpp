@@ -150,6 +150,8 @@ private Q_SLOTS:
             parts.type(parts.spacing, "125");
             QCOMPARE(parts.number->text(), QStringLiteral("8"));
             QCOMPARE(parts.text("area"), QStringLiteral("9.05 cm²/m"));
+            parts.type(parts.number, "1");
+            QCOMPARE(parts.spacing->text(), QStringLiteral("1000.0"));
             parts.type(parts.number, "5");
             QCOMPARE(parts.spacing->text(), QStringLiteral("200.0"));
             QTest::keyClick(parts.arrangement, Qt::Key_Down); // pairs preserve the spacing

@@ -1,6 +1,7 @@
 #include "ProjectTest.h"
 #include "sheet/SheetView.h"
 #include "window/output/CameraRollback.h"
+#include "window/output/TreeViewState.h"
 #include "window/script/ScriptPane.h"
 #include "window/script/ScriptView.h"
 
@@ -379,6 +380,10 @@ private Q_SLOTS:
     /// A dialog is recreated with the same state after a language change and after a restart.
     void dialogStateIsRestored()
     {
+        QStringList saved = QStringLiteral("current top words 1 found A B").split(QLatin1Char(' '));
+        QCOMPARE(workbench::TreeViewState::fromStrings(saved).toStrings(), saved);
+        saved[3] = QLatin1Char('0');
+        QCOMPARE(workbench::TreeViewState::fromStrings(saved).toStrings(), saved);
         const QRect place(20, 30, 1234, 765);
         const auto textDialog = [](const MainWindow& window) {
             trigger(window, "TextOutput");

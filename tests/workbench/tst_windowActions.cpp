@@ -113,6 +113,25 @@ private Q_SLOTS:
                 widget->close(); // the help window
     }
 
+    /// Users know the keys from the manual.
+    void shortcuts()
+    {
+        const MainWindow window;
+        QStringList keys;
+        for (const QAction* action : windowActions(window))
+            for (const QKeySequence& key : action->shortcuts())
+                keys << action->objectName() + QLatin1Char(' ') +
+                            key.toString(QKeySequence::PortableText);
+        keys.sort();
+        QCOMPARE(keys.join(QLatin1Char('|')),
+                 QStringLiteral("CloseProject Ctrl+W|CopyScriptAction Ctrl+Shift+C|Design Ctrl+D|"
+                                "ExportSheetsAction Ctrl+Shift+E|Help F1|NewFromFile Ctrl+N|"
+                                "Open Ctrl+O|Output Ctrl+G|Quit Ctrl+Q|Reload F5|Save Ctrl+S|"
+                                "SaveAs Ctrl+Shift+S|SaveScriptAction Ctrl+E|"
+                                "SheetPreviewAction Ctrl+Shift+P|TextOutput Ctrl+T|View Ctrl+0|"
+                                "View Ctrl+1|View Ctrl+2|View Ctrl+3|View Ctrl+4"));
+    }
+
     void projectIsReadAfterThePainting_data()
     {
         const Columns<bool> row("isShown");
