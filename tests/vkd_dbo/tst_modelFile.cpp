@@ -1,3 +1,4 @@
+#include "ModelText.h"
 #include "TestSupport.h"
 
 #include <vkd_dbo_model.h>
@@ -124,6 +125,33 @@ private Q_SLOTS:
         QVERIFY(progress.back() > 0 && std::is_sorted(progress.begin(), progress.end()));
         QCOMPARE(errorAfter("]").section(QLatin1Char(':'), 0, 0),
                  QStringLiteral("line 1, column %1").arg(many.size() + 3));
+    }
+
+    /// A long list is parsed in pieces, because the parsed list would take much more memory.
+    void pieces()
+    {
+        QByteArray nodes;
+        for (int i = 0; i < 10000; ++i)
+            nodes += QByteArray(i ? "," : "") + "{\"number\": [" + QByteArray::number(i) +
+                     ", \"],\\\"}\"]}";
+        const QByteArray bytes =
+            "{\"title\": \"a, [b]\", \"nodes\": [" + nodes +
+            "], \"view\": {\"beams\": [1, 2]}, \"cables\": [ ], \"beams\": [7]}";
+        const ModelText text(bytes);
+        QCOMPARE(text.size(), 10001);
+        QCOMPARE(text.size(QStringLiteral("cables")), 0);
+        QCOMPARE(text.piece(QStringLiteral("beams"), 0), QJsonArray{7});
+        int read = 0;
+        for (int piece = 0; piece < text.pieceCount(QStringLiteral("nodes")); ++piece) {
+            const QJsonArray elements = text.piece(QStringLiteral("nodes"), piece);
+            QVERIFY(elements.size() < 5000);
+            for (const auto& element : elements)
+                QCOMPARE(element.toObject().value(QStringLiteral("number")).toArray().first(),
+                         read++);
+        }
+        QCOMPARE(read, text.size(QStringLiteral("nodes")));
+        QCOMPARE(text.root().value(QStringLiteral("title")), QStringLiteral("a, [b]"));
+        QVERIFY(text.root().value(QStringLiteral("nodes")).toArray().isEmpty());
     }
 
     /// The error at the end shows whether the whole file was parsed.
