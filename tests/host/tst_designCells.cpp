@@ -3,6 +3,7 @@
 #include "WidgetTestSupport.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -191,14 +192,16 @@ private Q_SLOTS:
     /// press.
     void openListOfTypes_data()
     {
-        const Columns<bool> row("isDeleting");
-        row("another row is deleted", true);
-        row("the page is written", false);
+        const Columns<QString, int> row("action", "rows");
+        row("another row is deleted", QString(), 2);
+        row("another row is duplicated", "duplicateRows", 4);
+        row("the page is written", "none", 3);
     }
 
     void openListOfTypes()
     {
-        QFETCH(const bool, isDeleting);
+        QFETCH(const QString, action);
+        QFETCH(const int, rows);
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 0, 2)});
         desk.table()->setCurrentCell(1, 1);
         desk.table()->setCurrentCell(2, 1, QItemSelectionModel::NoUpdate); // row 1 is selected
@@ -208,11 +211,14 @@ private Q_SLOTS:
         auto list = find<QComboBox>(desk, "cellCombo");
         QTest::keyClick(list, Qt::Key_Down);
         const QString chosen = list->currentText();
-        if (isDeleting)
+        if (action.isEmpty())
             QTest::keyClick(list, Qt::Key_Delete);
+        else if (auto copying = desk.page->findChild<QAction*>(action))
+            copying->trigger();
+        QVERIFY(!find<QAction>(*desk.page, "undo")->text().contains(QLatin1String("Type")));
         desk.page->writeToZob();
-        QCOMPARE(desk.table()->rowCount(), isDeleting ? 2 : 3);
-        QCOMPARE(desk.table()->item(isDeleting ? 1 : 2, 1)->text(), chosen);
+        QCOMPARE(desk.table()->rowCount(), rows);
+        QCOMPARE(desk.table()->item(action.isEmpty() ? 1 : 2, 1)->text(), chosen);
         QCOMPARE(m_project->records().back().group, 2);
         QVERIFY(m_project->records().back().type != 0);
     }

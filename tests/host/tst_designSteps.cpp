@@ -156,12 +156,15 @@ private Q_SLOTS:
                  desk.row(1).section(QLatin1Char('|'), 1));
         press(Qt::Key_Z);
         QCOMPARE(desk.row(0) + desk.row(2), before);
+        const auto undo = [&desk] { return find<QAction>(*desk.page, "undo")->text(); };
         QCOMPARE(press(Qt::Key_D, Qt::ShiftModifier),
                  QStringLiteral("Remaining Groups|1|2|None|None"));
+        QCOMPARE(undo(), QStringLiteral("&Undo Duplicates of 2 rows"));
         QCOMPARE(desk.row(4).section(QLatin1Char('|'), 1),
                  desk.row(2).section(QLatin1Char('|'), 1));
         QCOMPARE(press(Qt::Key_V, Qt::ShiftModifier),
                  QStringLiteral("Remaining Groups|1|2|None|None|None"));
+        QCOMPARE(undo(), QStringLiteral("&Undo New row 6"));
         table->clearSelection();
         QApplication::clipboard()->setText(
             QString(copied).replace(QLatin1String("4.00"), QLatin1String("5,5")));
@@ -182,6 +185,17 @@ private Q_SLOTS:
         }
         QCOMPARE(told.size(), 3);
         QCOMPARE(told.first(), QStringLiteral("Row 2, Type: \"7\" is not a type."));
+        for (int bad : {12, 13}) { // the message has room for 12 faults
+            QApplication::clipboard()->setText(QStringLiteral("Type") +
+                                               QStringLiteral("\n7").repeated(bad));
+            whenModal([&](QWidget* box) {
+                told << qobject_cast<QMessageBox*>(box)->text().section(QLatin1Char('\n'), 14);
+                qobject_cast<QDialog*>(box)->reject();
+            });
+            press(Qt::Key_V);
+            QApplication::setActiveWindow(&desk);
+        }
+        QCOMPARE(told.mid(3).join(QLatin1Char('|')), QStringLiteral("|1 more"));
     }
 
     /// Fields in which the rows differ are empty. Only changed fields are written, to all selected

@@ -39,7 +39,7 @@ void RowToolTip::show(const QHelpEvent& event)
     DesignParameterTable* table = m_page->state().table;
     const QTableWidgetItem* item =
         table->itemAt(table->viewport()->mapFromGlobal(event.globalPos()));
-    if (!item || item->row() >= int(m_page->state().rows.size())) {
+    if (!item) {
         QToolTip::hideText();
         return;
     }

@@ -37,7 +37,7 @@ void markSharedGroups(DesignParameterTable* table, const std::vector<DesignParam
 {
     const std::vector<SharedGroup> shared = sharedGroups(rows);
     const auto ofRows = sharedGroupsOfRows(shared, rows.size());
-    for (int row = 0; row < table->rowCount() && row < int(rows.size()); ++row) {
+    for (int row = 0; row < int(rows.size()); ++row) {
         QTableWidgetItem* item = table->item(row, DesignParameterTable::Selection);
         const auto& here = ofRows[std::size_t(row)];
         if (!item)
