@@ -180,8 +180,5 @@ VkdStatus ZobTransactions::finish()
     m_table.stopWalk();
     if (m_isChanging && m_connection.isInTransaction())
         m_connection.execute("ROLLBACK", ZobAction::UndoChanges);
-    m_isChanging = false;
-    m_parts = 0;
-    m_taken.clear();
     return m_firstFailure;
 }

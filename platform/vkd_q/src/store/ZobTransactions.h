@@ -47,8 +47,8 @@ public:
     cd_error_t spoilChange(const VkdStatus& status);
     /// Returns the result of the last change.
     const VkdStatus& endOfChange() const { return m_endOfChange; }
-    /// Ends all snapshots and changes, and rolls back unstored changes. Returns the first failure
-    /// of all changes.
+    /// Ends all snapshots and passes, and rolls back unstored changes. Returns the first failure of
+    /// all changes. The store must not be used afterwards.
     VkdStatus finish();
 
 private:
