@@ -169,6 +169,24 @@ private Q_SLOTS:
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
     }
 
+    /// A dialog that steps to a row of another type looks as if it had been opened for that row.
+    void stepsToEveryType()
+    {
+        for (int type : {1, 2, 3, 4})
+            for (int next : {1, 2, 3, 4}) {
+                QCOMPARE(shownAfterStep<dlgDistanceDirection>(type, next),
+                         shownAfterStep<dlgDistanceDirection>(next, next));
+                QCOMPARE(shownAfterStep<dlgReinforcement>(type, next),
+                         shownAfterStep<dlgReinforcement>(next, next));
+                QCOMPARE(shownAfterStep<dlgCrackControl>(type, next),
+                         shownAfterStep<dlgCrackControl>(next, next));
+            }
+        const QString shown = shownAfterStep<dlgDistanceDirection>(4, 4);
+        for (const char* label :
+             {"|Lower (B)|", "|Upper (A)|", "|The local x-axis of the elements"})
+            QVERIFY2(shown.contains(QLatin1String(label)), qPrintable(shown));
+    }
+
     /// Tab moves down the columns of both sides, also after the fields have been rebuilt.
     void keysBetweenTheBars()
     {
@@ -297,6 +315,31 @@ private Q_SLOTS:
     }
 
 private:
+    /// Returns the labels and fields of a dialog that shows two records in succession.
+    template <class Dialog>
+    static QString shownAfterStep(int type, int next)
+    {
+        const auto usualRecord = [](int of) { // without hints at unusual values
+            tagZOB_QUAD_RIM usual = unevenRecord(of);
+            for (plib::RealField width : plib::fields::CrackWidths)
+                usual.*width /= 10;
+            return usual;
+        };
+        tagZOB_QUAD_RIM record = usualRecord(type);
+        const auto dialog = open<Dialog>(&record);
+        record = usualRecord(next);
+        if (next != type)
+            dialog->showRecord(record);
+        QStringList texts;
+        for (QGroupBox* box : dialog->template findChildren<QGroupBox*>())
+            texts << box->title() << textsOf(box).split(QLatin1Char('|'));
+        for (const QLineEdit* edit : dialog->template findChildren<QLineEdit*>())
+            texts << edit->objectName() + QLatin1Char(' ') + edit->text();
+        texts.sort();
+        dialog->writeToRecord(&record);
+        return texts.join(QLatin1Char('|')) + changes(usualRecord(next), record);
+    }
+
     /// Sets a different number in each field.
     template <class Dialog>
     void typeIntoFields(int type, const char* names, double factor, const QString& combo = {})

@@ -69,10 +69,11 @@ QString DesignDesk::editors() const
 
 QString DesignDesk::notice() const
 {
-    return findChild<QWidget*>(QStringLiteral("rowsNotice"))
-        ->findChildren<QLabel*>()
-        .last()
-        ->accessibleName();
+    const QLabel* label =
+        findChild<QWidget*>(QStringLiteral("rowsNotice"))->findChildren<QLabel*>().last();
+    const QString whole = label->accessibleName();
+    const QString shown = label->text().section(QChar(0x2026), 0, 0); // it may be elided
+    return whole.startsWith(shown) && whole.isEmpty() == shown.isEmpty() ? whole : shown;
 }
 
 void DesignDesk::press(const char* button)

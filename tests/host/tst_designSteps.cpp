@@ -156,6 +156,13 @@ private Q_SLOTS:
                  desk.row(1).section(QLatin1Char('|'), 1));
         press(Qt::Key_Z);
         QCOMPARE(desk.row(0) + desk.row(2), before);
+        table->setCurrentCell(2, 3, QItemSelectionModel::ClearAndSelect);
+        press(Qt::Key_V);
+        QCOMPARE(desk.row(2).section(QLatin1Char('|'), 1),
+                 desk.row(1).section(QLatin1Char('|'), 1));
+        press(Qt::Key_Z); // a step after one that was undone
+        QCOMPARE(desk.row(0) + desk.row(2), before);
+        table->setRangeSelected({0, 3, 0, 3}, true);
         const auto undo = [&desk] { return find<QAction>(*desk.page, "undo")->text(); };
         QCOMPARE(press(Qt::Key_D, Qt::ShiftModifier),
                  QStringLiteral("Remaining Groups|1|2|None|None"));
@@ -204,7 +211,7 @@ private Q_SLOTS:
     {
         tagZOB_QUAD_RIM thin = record(1, 2, 4);
         thin.hio = 0.025F;
-        thin.dio = 12;
+        thin.dio = thin.diu = 12;
         tagZOB_QUAD_RIM limited = record(2, 3, 4);
         limited.amo = 9;
         DesignDesk desk(*m_project, {record(-1, 1, 4), thin, limited, record(3, 0, 0)});
@@ -259,8 +266,11 @@ private Q_SLOTS:
         });
         QCOMPARE(told, QStringLiteral("Row 3: the minimum would be 9.50 cm²/m and the maximum 9.00 "
                                       "cm²/m."));
-        edit(3,
-             [](QWidget& dialog) { find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9")); });
+        edit(3, [](QWidget& dialog) {
+            find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9"));
+            const auto bar = find<QComboBox>(dialog, "m_pDIU");
+            bar->setCurrentIndex(bar->findText(QStringLiteral("-"), Qt::MatchContains));
+        });
         QVERIFY(desk.row(1).contains(QStringLiteral("Ø12 ;9.00 cm²/m ; - ")));
         QVERIFY(desk.row(2).contains(QStringLiteral("Ø10 ;9.00 cm²/m ;9.00")));
     }
@@ -343,18 +353,25 @@ private Q_SLOTS:
             find<QLineEdit>(*dialog, "aso")->setFocus();
             step(Qt::Key_Down);
             step(Qt::Key_Down); // the last row
-            step(Qt::Key_Up);
+            for (int row : {3, 2, 0, 0}) {
+                Q_UNUSED(row)
+                step(Qt::Key_Up);
+            }
             qobject_cast<QDialog*>(dialog)->reject();
         });
         desk.keys({Qt::Key_F2});
         QCOMPARE(
             shown.join(QLatin1Char('\n')),
-            QStringLiteral("Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
-                           "Row 4: group 3 at 3 with 8 fields, aso 3.00\n"
-                           "Row 4: group 3 at 3 with 8 fields, aso 8.50 without focus\n"
-                           "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
-                           "Row 5: group 4 at 4 with 8 fields, aso 4.00 This is the last row.\n"
-                           "Row 4: group 3 at 3 with 8 fields, aso 8.50"));
+            QStringLiteral(
+                "Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
+                "Row 4: group 3 at 3 with 8 fields, aso 3.00\n"
+                "Row 4: group 3 at 3 with 8 fields, aso 8.50 without focus\n"
+                "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
+                "Row 5: group 4 at 4 with 8 fields, aso 4.00 This is the last row.\n"
+                "Row 4: group 3 at 3 with 8 fields, aso 8.50\n"
+                "Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
+                "Row 1: remaining groups at 0 with 8 fields, aso 1.00\n"
+                "Row 1: remaining groups at 0 with 8 fields, aso 1.00 This is the first row."));
         QAction* undo = find<QAction>(*desk.page, "undo");
         QCOMPARE(undo->text(), QStringLiteral("&Undo Reinforcement of row 4"));
         undo->trigger();

@@ -89,9 +89,9 @@ private Q_SLOTS:
     {
         Desk desk(m_project);
         VKD_H_TableWidget table(0, 1);
-        // The first two numbers are equal after truncation, so the second is used. Two numbers are
-        // out of range.
-        for (double number : {3.2, 3.9, 3e9, -3e9, 123456789.0, -0.5, -1.5}) {
+        // The first two numbers are equal after truncation, so the second is used. Three numbers
+        // are out of range.
+        for (double number : {3.2, 3.9, 2147483648.0, 3e9, -3e9, 123456789.0, -0.5, -1.5}) {
             table.addNewRow(false);
             auto item =
                 new VKD_H_TwSimpleLineEditItem(VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(-1));
