@@ -220,8 +220,25 @@ private Q_SLOTS:
             desk.find<QAction>("redo")->trigger();
             QCOMPARE(desk.page.writeXMLstring(), states[i]);
         }
+        for (int undone = 0; undone < 2; ++undone)
+            undo->trigger();
+        const QString state = desk.page.writeXMLstring();
+        QByteArray bytes;
+        QMetaObject::invokeMethod(steps, "steps", Q_RETURN_ARG(QByteArray, bytes));
+        const auto areTaken = [&] {
+            bool isDone = false;
+            QMetaObject::invokeMethod(steps, "setSteps", Q_RETURN_ARG(bool, isDone),
+                                      Q_ARG(QByteArray, bytes));
+            return isDone;
+        };
         desk.page.readXMLstring(states[0]); // reading a state does not add an undo step
-        QVERIFY(!undo->isEnabled());
+        QVERIFY(!undo->isEnabled() && !areTaken());
+        desk.page.readXMLstring(state);
+        QVERIFY(areTaken());
+        for (int redone = 0; redone < 2; ++redone)
+            desk.find<QAction>("redo")->trigger();
+        QCOMPARE(desk.page.writeXMLstring(), states.last());
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Default Settings"));
     }
 
     /// The counts below the page are updated when the host requests the script, and automatically

@@ -5,7 +5,6 @@
 #include <QWidget>
 
 #include <utility>
-#include <vector>
 
 namespace plib {
 
@@ -13,29 +12,36 @@ namespace {
 constexpr int MostSteps = 500;
 }
 
-/// Undoes and redoes a step. Pushing a command calls redo(), which at that time has no effect,
-/// because the user has already made the change.
+/// Undoes and redoes a step. The first calls have no effect: pushing a command calls redo(), but
+/// the user has already made the change.
 class StepStack::Command : public QUndoCommand
 {
 public:
-    explicit Command(std::shared_ptr<HistoryStep> step)
+    explicit Command(std::shared_ptr<HistoryStep> step, int callsWithoutEffect = 1)
         : QUndoCommand(step->name())
         , m_step(std::move(step))
+        , m_callsWithoutEffect(callsWithoutEffect)
     {
     }
 
     const std::shared_ptr<HistoryStep>& step() const { return m_step; }
 
-    void undo() override { m_step->undo(); }
+    void undo() override
+    {
+        if (hasEffect())
+            m_step->undo();
+    }
     void redo() override
     {
-        if (!std::exchange(m_isDone, false))
+        if (hasEffect())
             m_step->redo();
     }
 
 private:
+    bool hasEffect() { return m_callsWithoutEffect == 0 || m_callsWithoutEffect-- == 0; }
+
     std::shared_ptr<HistoryStep> m_step;
-    bool m_isDone = true;
+    int m_callsWithoutEffect;
 };
 
 StepStack::StepStack(QWidget* page, std::size_t mostSize, QObject* history)
@@ -90,6 +96,27 @@ void StepStack::clear()
     showSteps();
 }
 
+std::vector<std::shared_ptr<HistoryStep>> StepStack::steps() const
+{
+    std::vector<std::shared_ptr<HistoryStep>> steps;
+    for (int index = 0; index < m_stack.count(); ++index)
+        steps.push_back(static_cast<const Command*>(m_stack.command(index))->step());
+    return steps;
+}
+
+void StepStack::setSteps(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done)
+{
+    {
+        const QSignalBlocker silent(&m_stack);
+        m_stack.clear();
+        for (const auto& step : steps)
+            m_stack.push(new Command(step, m_stack.count() < done ? 1 : 2));
+        while (m_stack.index() > qMax(done, 0))
+            m_stack.undo();
+    }
+    showSteps();
+}
+
 void StepStack::setModified(bool isModified)
 {
     isModified ? m_stack.resetClean() : m_stack.setClean();
@@ -112,18 +139,14 @@ void StepStack::showSteps()
 /// again.
 void StepStack::dropOldSteps()
 {
-    const auto stepAt = [this](int index) {
-        return static_cast<const Command*>(m_stack.command(index))->step();
-    };
+    std::vector<std::shared_ptr<HistoryStep>> newest = steps();
     std::size_t size = 0;
     int kept = m_stack.count();
-    while (kept > 0 && (size += stepAt(kept - 1)->size()) <= m_mostSize)
+    while (kept > 0 && (size += newest[std::size_t(kept) - 1]->size()) <= m_mostSize)
         --kept;
     if (kept == 0)
         return;
-    std::vector<std::shared_ptr<HistoryStep>> newest;
-    for (int index = qMin(kept, m_stack.count() - 1); index < m_stack.count(); ++index)
-        newest.push_back(stepAt(index));
+    newest.erase(newest.begin(), newest.begin() + qMin(kept, m_stack.count() - 1));
     const int clean = m_stack.cleanIndex() - (m_stack.count() - int(newest.size()));
     {
         const QSignalBlocker silent(&m_stack); // the page's modified state does not change

@@ -4,6 +4,7 @@
 #include <QUndoStack>
 
 #include <memory>
+#include <vector>
 
 class QAction;
 class QWidget;
@@ -42,6 +43,13 @@ public:
     void push(const std::shared_ptr<HistoryStep>& step);
     /// Removes all steps. Afterwards, the page counts as unmodified.
     void clear();
+    /// Returns all steps, including those that were undone.
+    std::vector<std::shared_ptr<HistoryStep>> steps() const;
+    /// Returns the number of steps that can be undone.
+    int doneSteps() const { return m_stack.index(); }
+    /// Replaces the steps without carrying them out. The first `done` steps can be undone, and the
+    /// others can be redone.
+    void setSteps(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done);
     bool isModified() const { return !m_stack.isClean(); }
     void setModified(bool isModified);
 

@@ -1,5 +1,7 @@
 #include "history/TextChange.h"
 
+#include <QDataStream>
+
 #include <algorithm>
 
 namespace plib {
@@ -25,6 +27,19 @@ QString redone(QString text, const TextChange& change)
 QString undone(QString text, const TextChange& change)
 {
     return text.replace(change.first, change.after.size(), change.before);
+}
+
+QDataStream& operator<<(QDataStream& stream, const TextChange& change)
+{
+    return stream << qint32(change.first) << change.before << change.after;
+}
+
+QDataStream& operator>>(QDataStream& stream, TextChange& change)
+{
+    qint32 first = 0;
+    stream >> first >> change.before >> change.after;
+    change.first = first;
+    return stream;
 }
 
 } // namespace plib

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QDataStream;
+
 namespace plib {
 
 /// The difference between two strings: the part that differs, before and after the change. The
@@ -22,5 +24,8 @@ TextChange textChange(const QString& before, const QString& after);
 /// opposite.
 QString redone(QString text, const TextChange& change);
 QString undone(QString text, const TextChange& change);
+
+QDataStream& operator<<(QDataStream& stream, const TextChange& change);
+QDataStream& operator>>(QDataStream& stream, TextChange& change);
 
 } // namespace plib

@@ -13,6 +13,7 @@
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
 
+#include <QDataStream>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 
@@ -49,6 +50,14 @@ public:
     {
     }
 
+    /// Reads a step that write() has written.
+    Step(PageHistory* history, QDataStream& stream)
+        : m_history(history)
+    {
+        stream >> m_name >> m_settings >> m_plots >> m_host;
+    }
+
+    void write(QDataStream& stream) const { stream << m_name << m_settings << m_plots << m_host; }
     bool isEmpty() const { return m_settings.isEmpty() && m_plots.isEmpty() && m_host.isEmpty(); }
     /// Changes the state of the host after this step from `known` to `state`.
     void amend(const QString& known, const QString& state)
@@ -191,6 +200,38 @@ void PageHistory::amend(const QString& name, const QString& state)
         return record(name, state);
     newest->amend(m_known.host, state);
     m_known.host = state;
+}
+
+QByteArray PageHistory::steps() const
+{
+    const auto steps = m_stack.steps();
+    if (steps.empty())
+        return QByteArray();
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << m_known.settings << m_known.plots << m_known.host << qint32(m_stack.doneSteps());
+    for (const auto& step : steps)
+        static_cast<const Step&>(*step).write(stream);
+    return bytes;
+}
+
+bool PageHistory::setSteps(const QByteArray& steps)
+{
+    PageState state;
+    qint32 done = 0;
+    QDataStream stream(steps);
+    stream >> state.settings >> state.plots >> state.host >> done;
+    const PageState now = present();
+    std::vector<std::shared_ptr<HistoryStep>> all;
+    while (stream.status() == QDataStream::Ok && !stream.atEnd())
+        all.push_back(std::make_shared<Step>(this, stream));
+    if (stream.status() != QDataStream::Ok || now.settings != state.settings ||
+        now.plots != state.plots)
+        return false;
+    restore(state);
+    m_stack.setSteps(all, done);
+    Q_EMIT stepped();
+    return true;
 }
 
 void PageHistory::record(const QString& name)

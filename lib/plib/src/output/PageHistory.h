@@ -34,6 +34,8 @@ public:
     Q_INVOKABLE void end(const QString& name, const QString& state);
     Q_INVOKABLE void restart(const QString& state);
     Q_INVOKABLE void amend(const QString& name, const QString& state);
+    Q_INVOKABLE QByteArray steps() const;
+    Q_INVOKABLE bool setSteps(const QByteArray& steps);
 
     /// Ends a change that the page itself makes. A change without a name is not a step; it clears
     /// the history, unless it is part of another step.
