@@ -427,6 +427,44 @@ private Q_SLOTS:
         QVERIFY(!edit->actions().at(0)->isEnabled());
     }
 
+    void pageSteps_data()
+    {
+        const Columns<QByteArray, bool> row("actions", "isSaved");
+        row("language", "German", true);
+        row("reloaded", "Reload", false);
+        row("other output", "NewOutput PreviousOutput", false);
+        row("deleted output", "NewOutput PreviousOutput DeleteOutput undo", false);
+    }
+
+    /// The undo steps of a page are preserved when the page is replaced.
+    void pageSteps()
+    {
+        QFETCH(const QByteArray, actions);
+        const auto window = open("a.zob");
+        const auto stateAfter = [&window](const char* step) {
+            trigger(*outputDialog(*window), step);
+            const OutputState state = outputDialog(*window)->state();
+            return state.page + QString::number(state.leftOutNumbers.size());
+        };
+        const QString initial = stateAfter("undo");
+        find<QTableWidget>(*outputDialog(*window), "LoadCases")
+            ->item(2, 1)
+            ->setCheckState(Qt::Unchecked);
+        changeChoice(*window);
+        const QString last = stateAfter("redo");
+        stateAfter("undo");
+        for (const QByteArray& action : actions.split(' ')) {
+            trigger(action == "undo" ? *find<QWidget>(*window, "OutputsDock") : *window, action);
+            QCoreApplication::processEvents(); // shows the output
+        }
+        QCOMPARE(stateAfter("redo"), last);
+        QVERIFY(stateAfter("undo") != initial);
+        QCOMPARE(stateAfter("undo"), initial);
+        QVERIFY(!find<QAction>(*outputDialog(*window), "undo")->isEnabled());
+        QCoreApplication::processEvents();
+        QTEST(!window->isWindowModified(), "isSaved");
+    }
+
     /// A text that a field refuses stays in the field until the user gives it up.
     void refusedText()
     {

@@ -16,6 +16,7 @@ int newOutputId()
 
 namespace {
 constexpr char NameKey[] = "Name";
+constexpr qint64 MostStepBytes = 64000000; // of all outputs together
 
 QString savedName(const VKD_H_ProjectDialogPage& entries, int number)
 {
@@ -92,7 +93,8 @@ void OutputList::setStored()
     m_storedNames = names();
     for (int i = 0; i < size(); ++i) {
         NamedOutput& output = m_outputs[i];
-        output = {output.name, output.state, false, output.name, output.state, i, output.id};
+        output = {output.name, output.state, false,       output.name, output.state,
+                  i,           output.id,    output.steps};
     }
 }
 
@@ -100,8 +102,10 @@ void OutputList::continueFrom(const OutputList& before)
 {
     setCurrent(indexOf(before.name(before.currentIndex())));
     for (int i = 0; i < before.size(); ++i)
-        if (const int index = indexOf(before.name(i)); index >= 0)
+        if (const int index = indexOf(before.name(i)); index >= 0) {
             m_outputs[index].id = before.at(i).id;
+            m_outputs[index].steps = before.at(i).steps;
+        }
 }
 
 /// Returns the index of the saved version of an output from another list, or -1. An output without
@@ -177,6 +181,18 @@ void OutputList::setState(const OutputState& state, bool isChanged)
 {
     m_outputs[m_current].state = state;
     m_outputs[m_current].isStateChanged = isChanged;
+}
+
+/// Limits the memory. The output that was shown last keeps its steps.
+void OutputList::setSteps(const QByteArray& steps)
+{
+    qint64 size = 0;
+    m_outputs[m_current].steps = steps;
+    for (const NamedOutput& output : qAsConst(m_outputs))
+        size += output.steps.size();
+    for (int i = 0; size > MostStepBytes && i < m_outputs.size(); ++i)
+        if (i != m_current)
+            m_outputs[i].steps.clear();
 }
 
 void OutputList::revert()

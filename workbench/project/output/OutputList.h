@@ -22,6 +22,7 @@ struct NamedOutput
     OutputState savedState; ///< for a new output, its initial state
     int savedIndex = -1;    ///< -1 for an output that the project does not contain
     int id = newOutputId(); ///< identifies the output after it has been renamed or moved
+    QByteArray steps = {};  ///< undo steps of the page while another output is shown
 };
 
 /// The outputs of a project, of which there is always at least one, and the current output. The
@@ -69,6 +70,8 @@ public:
     const NamedOutput& current() const { return m_outputs[m_current]; }
     /// Replaces the state of the current output.
     void setState(const OutputState& state, bool isChanged);
+    /// Stores the undo steps of the current output's page in memory.
+    void setSteps(const QByteArray& steps);
     /// Discards the changes to the state of the current output.
     void revert();
 

@@ -60,7 +60,8 @@ std::size_t OutputListChange::size() const
 {
     std::size_t size = 0;
     for (const NamedOutput& output : m_removed)
-        size += std::size_t(output.state.page.size() + output.savedState.page.size());
+        size += std::size_t(output.state.page.size() + output.savedState.page.size()) +
+                std::size_t(output.steps.size()) / sizeof(QChar);
     return size;
 }
 

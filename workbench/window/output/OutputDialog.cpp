@@ -296,14 +296,19 @@ void OutputDialog::finishChanges()
 
 OutputPresent OutputDialog::present()
 {
-    return {state(), isChanged(), tabWidget()->currentIndex(), TreeViewState(m_plots),
-            RefusedTexts(m_page)};
+    return {state(),
+            isChanged(),
+            m_unchanged,
+            tabWidget()->currentIndex(),
+            TreeViewState(m_plots),
+            RefusedTexts(m_page),
+            m_offers->steps()};
 }
 
 void OutputDialog::setPresent(const OutputPresent& present)
 {
-    if (present.isChanged)
-        m_unchanged.clear();
+    m_offers->setSteps(present.steps);
+    m_unchanged = present.isChanged ? present.unchanged : fingerprint();
     tabWidget()->setCurrentIndex(present.tab);
     present.refused.restore(m_page);
     present.plots.restore(m_plots); // after the tree has been resized

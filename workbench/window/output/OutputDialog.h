@@ -25,9 +25,11 @@ struct OutputPresent
 {
     OutputState state;
     bool isChanged;
+    QString unchanged; ///< the last saved state as text; empty if it is unknown
     int tab;
     TreeViewState plots;
     RefusedTexts refused;
+    QByteArray steps; ///< undo steps of the page
 };
 
 /// The tabs for the graphical output of a project. OutputDock shows them. The tabs contain the page

@@ -180,10 +180,34 @@ void OutputOffers::offerLoadCases()
     m_page->setUsedNumbersAndNames(present.offeredRows(m_project));
 }
 
+QString OutputOffers::offersText() const
+{
+    return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers);
+}
+
 QString OutputOffers::stateText() const
 {
-    return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers) +
-           OffersEnd + m_choice.stateText();
+    return offersText() + OffersEnd + m_choice.stateText();
+}
+
+/// Identifies the part of the state that the page cannot compare in setSteps().
+QByteArray OutputOffers::stepsHead() const
+{
+    return (offersText() + Separator + m_choice.chosenDigest() + OffersEnd).toUtf8();
+}
+
+QByteArray OutputOffers::steps() const
+{
+    QByteArray steps;
+    QMetaObject::invokeMethod(m_steps, "steps", Q_RETURN_ARG(QByteArray, steps));
+    return steps.isEmpty() ? steps : stepsHead() + steps;
+}
+
+void OutputOffers::setSteps(const QByteArray& steps)
+{
+    const QByteArray head = steps.isEmpty() ? QByteArray() : stepsHead();
+    if (!head.isEmpty() && steps.startsWith(head))
+        QMetaObject::invokeMethod(m_steps, "setSteps", Q_ARG(QByteArray, steps.mid(head.size())));
 }
 
 /// Applies the contents of a preset of plots as an undo step with this name.

@@ -35,6 +35,10 @@ public:
     QString page() const { return m_choice.page(); }
     /// Returns the number of chosen plots that the page does not offer.
     int absentPlots() const { return m_choice.absentPlots(); }
+    /// Returns the undo steps of the page, for another page with the same state.
+    QByteArray steps() const;
+    /// Continues with the undo steps of another page, unless the pages have different states.
+    void setSteps(const QByteArray& steps);
     /// Sets the content and the load cases in `state`.
     void readTo(OutputState* state) const;
 
@@ -50,6 +54,8 @@ private:
     void begin();
     void finish();
     void offerLoadCases();
+    QString offersText() const;
+    QByteArray stepsHead() const;
     QString stateText() const;
     Q_SLOT void restoreState(const QString& text);
 

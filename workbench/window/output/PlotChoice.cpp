@@ -67,6 +67,11 @@ QString PlotChoice::page() const
     return page;
 }
 
+QString PlotChoice::chosenDigest() const
+{
+    return digest(withKept(shownPlots()));
+}
+
 void PlotChoice::apply(const QVariantMap& preset, PlotsOfPreset mode)
 {
     const QString present = shownPlots();

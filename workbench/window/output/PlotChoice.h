@@ -30,6 +30,8 @@ public:
     void setSaved(const QString& page);
     /// Returns the string of the page, including the plots that the page does not offer.
     QString page() const;
+    /// Returns a digest of all chosen plots, including those that the page does not offer.
+    QString chosenDigest() const;
     /// Applies the contents of a preset. Plots and load cases that the page does not offer are
     /// kept.
     void apply(const QVariantMap& preset, PlotsOfPreset mode);

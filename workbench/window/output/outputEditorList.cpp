@@ -95,6 +95,7 @@ bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
     OutputPresent present = m_dialog->present();
     if (present.isChanged)
         m_outputs.setState(present.state, true);
+    m_outputs.setSteps(present.steps);
     const bool hasFocus = m_dialog->isAncestorOf(QApplication::focusWidget());
     const int count = m_outputs.size();
     change(&m_outputs);
@@ -102,6 +103,8 @@ bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
         present.plots.endSearch(); // the words were meant for another output
     present.state = m_outputs.current().state;
     present.isChanged = m_outputs.current().isStateChanged;
+    present.unchanged.clear();
+    present.steps = m_outputs.current().steps;
     closeLater();
     create(present.state);
     m_dialog->setPresent(present);
