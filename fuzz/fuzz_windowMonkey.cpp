@@ -221,15 +221,21 @@ private:
         return areNew;
     }
 
-    /// Returns whether outputs have been deleted or moved since the project was stored.
-    static bool isOtherList(const MainWindow& window, const QString& project)
+    static QByteArray namesOfOutputs(const MainWindow& window)
     {
         const auto list = find<QListWidget>(window, "OutputList");
         QByteArray names;
         for (int i = 0; i < list->count(); ++i)
             names += list->item(i)->text().toUtf8() + '\n';
+        return names;
+    }
+
+    /// Returns whether outputs have been deleted or moved since the project was stored.
+    static bool isOtherList(const MainWindow& window, const QString& project)
+    {
+        const QByteArray names = namesOfOutputs(window);
         const bool isGerman = vkd_lib_getvalue(VKD_SETTING_LANGUAGE) == testsupport::German;
-        return list->count() > 0 &&
+        return !names.isEmpty() &&
                names !=
                    commandLine({QStringLiteral("outputs"), project, QStringLiteral("--language"),
                                 isGerman ? QStringLiteral("german") : QStringLiteral("english")});
@@ -304,8 +310,11 @@ private:
         if (window.isWindowModified() != (changes(window) > 0) &&
             !isOtherList(window, projectOf(window)))
             m_faults += "\nthe mark in the title is not right";
+        if (contentOf(projectOf(window)).isEmpty())
+            return;
+        undoAndRedoOutputs(window);
         const auto output = window.findChild<OutputDialog*>();
-        if (!output || contentOf(projectOf(window)).isEmpty())
+        if (!output)
             return;
         const QString scriptNow = scriptOf(projectOf(window), output->state(), window);
         // The script of a new project is generated after the first paint event.
@@ -318,6 +327,31 @@ private:
         if (shown != expected)
             m_faults += "\nscript: " + shown.value(line).toUtf8() +
                         "\nby the command line: " + expected.value(line).toUtf8();
+    }
+
+    /// Undoes changes to the list of outputs and redoes them. A refused text prevents this. A name
+    /// that is being typed would be one more step.
+    void undoAndRedoOutputs(MainWindow& window)
+    {
+        const auto list = find<QListWidget>(window, "OutputList");
+        if (list->indexWidget(list->currentIndex()))
+            return;
+        const auto dock = find<QWidget>(window, "OutputsDock");
+        const auto undo = find<QAction>(*dock, "undo");
+        const auto redo = find<QAction>(*dock, "redo");
+        const QByteArray before = namesOfOutputs(window);
+        int steps = 0;
+        for (QString text; steps < 5 && undo->isEnabled(); ++steps) {
+            text = undo->text() + redo->text();
+            undo->trigger();
+            if (text == undo->text() + redo->text())
+                break;
+        }
+        for (int i = 0; i < steps; ++i)
+            redo->trigger();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (namesOfOutputs(window) != before)
+            m_faults += "\noutputs: " + namesOfOutputs(window) + "before undo and redo: " + before;
     }
 
     /// Returns the script that the command line prints for a copy of the project in which this
