@@ -108,6 +108,9 @@ private Q_SLOTS:
         box.setNotSetAllowed(false);
         QCOMPARE(box.count(), 3);
         QCOMPARE(box.getCurrent(), 10.0F);
+        box.setCurrent(16.0F);
+        QTest::keyClicks(&box, QStringLiteral("10,0"));
+        QCOMPARE(box.getCurrent(), 10.0F);
         QVERIFY(!box.setCurrent(12.7F));
         QCOMPARE(box.currentText(), QStringLiteral("Ø12.7"));
     }
