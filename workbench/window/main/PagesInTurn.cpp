@@ -19,7 +19,8 @@ PagesInTurn::PagesInTurn(QMainWindow* window, OutputDock* output, PageDock* desi
 {
     connect(output, &QDockWidget::visibilityChanged, this, [this](bool isShown) {
         m_isOutputShown = isShown;
-        QMetaObject::invokeMethod(this, &PagesInTurn::arrange, Qt::QueuedConnection); // laid out
+        // The docks do not have their sizes yet.
+        QMetaObject::invokeMethod(this, &PagesInTurn::arrange, Qt::QueuedConnection);
     });
     connect(design, &QDockWidget::visibilityChanged, this,
             [this](bool isShown) { m_isDesignHidden = m_isDesignHidden && !isShown; });

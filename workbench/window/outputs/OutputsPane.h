@@ -67,7 +67,8 @@ Q_SIGNALS:
     void renamed(const QString& name);
     /// Emitted when isFilled() has changed.
     void filled();
-    /// Emitted when the editor for a name is closed; by the user if `byKey`, with Return or Escape.
+    /// Emitted when the user can no longer type a name. `byKey` is true if the user has closed the
+    /// editor with Return or Escape.
     void namingEnded(bool byKey);
 
 private:
