@@ -171,9 +171,9 @@ private:
     /// Returns a number, a list of strings or, for null, an invalid value.
     static QVariant valueOf(const QJsonValue& value)
     {
-        QVariant result = value.toVariant();
+        const QVariant result = value.toVariant();
         if (value.isArray())
-            result.convert(QMetaType::QStringList);
+            return result.toStringList();
         return value.isNull() ? QVariant() : result;
     }
 

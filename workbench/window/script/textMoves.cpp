@@ -104,7 +104,7 @@ TextRange wordAt(const TextLines& lines, int position)
 TextRange lineAt(const TextLines& lines, int position)
 {
     const int line = lines.lineAt(position);
-    return {lines.start(line), qMin(lines.end(line) + 1, lines.text().size())};
+    return {lines.start(line), qMin(lines.end(line) + 1, int(lines.text().size()))};
 }
 
 } // namespace workbench
