@@ -168,7 +168,7 @@ private Q_SLOTS:
         QVERIFY(view->horizontalScrollBar()->maximum() > 0);
         view->setWrapped(true);
         QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
-        for (int position : {0, 150, text.size() / 2, 310, text.size()}) {
+        for (int position : {0, 150, int(text.size()) / 2, 310, int(text.size())}) {
             view->select(position, position);
             const QRect cursor = view->cursorRect(position);
             QVERIFY(view->viewport()->rect().contains(cursor));

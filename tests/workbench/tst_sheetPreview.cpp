@@ -232,7 +232,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, script);
         const SheetPlan plan = readSheetPlan(script);
-        QTEST(plan.pictures.size(), "pictures");
+        QTEST(int(plan.pictures.size()), "pictures");
         QTEST(plan.picturesPerPage(), "perPage");
         ModelImages none{ZobHandle()};
         SheetPainter painter(&none, QStringLiteral("Project"));
