@@ -68,9 +68,7 @@ Model largeStorey(int side)
             for (int x = 0; x < side; ++x)
                 model.quads.push_back(
                     {int(model.quads.size()) + 1,
-                     z == 1         ? 3
-                     : x < side / 3 ? 1
-                                    : 2,
+                     z == 0 ? (x < side / 3 ? 1 : 2) : 3,
                      {node(x, y, z), node(x + 1, y, z), node(x + 1, y + 1, z), node(x, y + 1, z)},
                      0.2});
     for (int x = 0; x < side; ++x)

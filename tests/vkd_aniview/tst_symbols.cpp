@@ -57,6 +57,7 @@ struct Drawing
 };
 } // namespace
 
+/// Tests the areas that symbols cover, in pixels relative to the node.
 class TestSymbols : public QObject
 {
     Q_OBJECT
@@ -113,7 +114,7 @@ private Q_SLOTS:
         QVERIFY2(drawing.covers(area), drawing.told().constData());
     }
 
-    /// The axis along the view is a point, and its name does not cover it.
+    /// The name of an axis along the view is drawn to the lower left of the origin.
     void triad()
     {
         const Drawing drawing([](QPainter& painter) {

@@ -320,7 +320,8 @@ private Q_SLOTS:
                     field->setText(QLatin1String(text));
                     return find<VKD_QT_Ok>(*form, "okayandcancelbutton")->cmdOk()->isEnabled();
                 };
-                QVERIFY(!canAccept(name, "A & B") && !canAccept(name, " ") && canAccept(name, "C"));
+                QVERIFY(!canAccept(name, "A & B") && !canAccept(name, " ") &&
+                        canAccept(name, "C & D"));
                 qobject_cast<QDialog*>(form)->accept();
             });
             press(dialog, "presetRename");
@@ -332,7 +333,7 @@ private Q_SLOTS:
             Q_EMIT list->itemDoubleClicked(list->currentItem(), 0); // not a preset
             for (const char* button : {"presetApply", "presetRename", "presetExport"})
                 QVERIFY(!find<QPushButton>(dialog, button)->isEnabled());
-            choose(dialog, "C");
+            choose(dialog, "C & D");
             QVERIFY(list->currentItem()->parent());
             Q_EMIT list->itemDoubleClicked(list->currentItem(), 0);
             QVERIFY(!dialog.isVisible());
@@ -340,9 +341,10 @@ private Q_SLOTS:
         const PresetList stored =
             presetsOf(PresetKind::DesignParameters, PresetPlace::User, {}).presets;
         QCOMPARE(stored.size(), 1);
-        QCOMPARE(stored.first().name, QStringLiteral("C"));
+        QCOMPARE(stored.first().name, QStringLiteral("C & D"));
         QVERIFY(!partsIn(stored.first().contents).contains(PresetPart::Cover));
-        QCOMPARE(find<QAction>(*desk->page, "undo")->text(), QStringLiteral("&Undo Preset \"C\""));
+        QCOMPARE(find<QAction>(*desk->page, "undo")->text(),
+                 QStringLiteral("&Undo Preset \"C && D\""));
     }
 
     void selectionWithPlots_data()
