@@ -10,13 +10,14 @@ namespace {
 bool areAlike(const Model& a, const Model& b)
 {
     const auto sizes = [](const Model& m) {
-        return QVector<int>{m.nodes.size(),       m.supports.size(),       m.crossSections.size(),
-                            m.groups.size(),      m.beams.size(),          m.trusses.size(),
-                            m.cables.size(),      m.springs.size(),        m.quads.size(),
-                            m.bricks.size(),      m.quadTendons.size(),    m.points.size(),
-                            m.beamTendons.size(), m.lines.size(),          m.areas.size(),
-                            m.axes.size(),        m.sectionCuts.size(),    m.designLines.size(),
-                            m.loadCases.size(),   m.secondaryGroups.size()};
+        return QVector<qint64>{
+            m.nodes.size(),       m.supports.size(),       m.crossSections.size(),
+            m.groups.size(),      m.beams.size(),          m.trusses.size(),
+            m.cables.size(),      m.springs.size(),        m.quads.size(),
+            m.bricks.size(),      m.quadTendons.size(),    m.points.size(),
+            m.beamTendons.size(), m.lines.size(),          m.areas.size(),
+            m.axes.size(),        m.sectionCuts.size(),    m.designLines.size(),
+            m.loadCases.size(),   m.secondaryGroups.size()};
     };
     return sizes(a) == sizes(b) && a.system.title == b.system.title &&
            a.system.kindOfSystem == b.system.kindOfSystem;

@@ -30,7 +30,7 @@ Model plates()
     Model model;
     for (double y : {0.0, 4.0})
         for (double x : {0.0, 4.0, 8.0})
-            model.nodes.push_back({model.nodes.size() + 1, {x, y, 0.0}});
+            model.nodes.push_back({int(model.nodes.size()) + 1, {x, y, 0.0}});
     model.quads.push_back({1, 7, {1, 2, 5, 4}, 0.2});
     model.quads.push_back({2, 8, {2, 3, 6, 5}, 0.2});
     return model;
@@ -367,7 +367,7 @@ private Q_SLOTS:
         Model model;
         for (int y = 0; y < Side; ++y)
             for (int x = 0; x < Side; ++x)
-                model.nodes.push_back({model.nodes.size() + 1, {double(x), double(y), 0.0}});
+                model.nodes.push_back({int(model.nodes.size()) + 1, {double(x), double(y), 0.0}});
         for (int i = 1; i < Side * (Side - 1); ++i)
             if (i % Side)
                 model.quads.push_back({i, 7, {i, i + 1, i + Side + 1, i + Side}, 0.2});
