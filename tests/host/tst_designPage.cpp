@@ -203,7 +203,7 @@ private Q_SLOTS:
                 }
                 menu->close();
             });
-            QContextMenuEvent opening(QContextMenuEvent::Keyboard, QPoint());
+            QContextMenuEvent opening(QContextMenuEvent::Keyboard, QPoint(), QPoint());
             QApplication::sendEvent(desk.table()->viewport(), &opening);
             return texts.join(QLatin1Char('|')).remove(QLatin1String(" New row 3")) +
                    QLatin1Char(' ') + desk.groups();
