@@ -46,7 +46,7 @@ VkdStatus putFirst(const QString& path)
     return inProject(path, putNew);
 }
 
-VkdStatus read(const QString& path)
+VkdStatus readRecords(const QString& path)
 {
     return inProject(path, [](int index) {
         cd_error_t end = VKD_ZOB_END;
@@ -85,8 +85,8 @@ private Q_SLOTS:
         const Columns<QByteArray, Run, int> row("before", "run", "stride");
         const Run few = [](const QString& path) { return change(path, {"a", "b", ""}); };
         const Run many = [](const QString& path) { return change(path, moreThanCache()); };
-        row("read", "project", read, 1);
-        row("read after a crash", "crashed", read, 1);
+        row("read", "project", readRecords, 1);
+        row("read after a crash", "crashed", readRecords, 1);
         row("change", "project", few, 1);
         row("change after a crash", "crashed", few, 2);
         row("change of more than the cache", "project", many, 199);
