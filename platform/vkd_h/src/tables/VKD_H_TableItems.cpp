@@ -23,7 +23,7 @@ QTableWidgetItem* VKD_H_TwHeaderItem::createEmptyItem() const
 
 QTableWidgetItem* VKD_H_TwHeaderItem::aligned(QTableWidgetItem* item) const
 {
-    item->setTextAlignment(m_alignment);
+    item->setData(Qt::TextAlignmentRole, int(m_alignment));
     return item;
 }
 
