@@ -19,7 +19,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
-#include <QTimer>
 
 #include <utility>
 
@@ -45,6 +44,8 @@ OutputCommands::OutputCommands(const OutputParts& parts)
     };
     on(pane->saveAll, [files] { files().saveScripts(); });
     on(pane->exportAll, [files] { files().exportSheets(); });
+    m_focusPlots.setSingleShot(true);
+    connect(&m_focusPlots, &QTimer::timeout, m_parts.editor, &OutputEditor::edit);
     m_parts.editor->setFinishName([this] { return finishName(); });
     connect(pane, &OutputsPane::chosen, this, &OutputCommands::choose);
     connect(pane, &OutputsPane::renamed, this, &OutputCommands::rename);
@@ -153,11 +154,14 @@ void OutputCommands::nameNew()
     m_isNaming = true;
 }
 
-/// Gives the focus to the plots of a new output, so that they can be chosen at once.
+/// Gives the focus to the plots of a new output, so that they can be chosen at once. This happens
+/// later, because the list takes the focus first. Another command of the list prevents it.
 void OutputCommands::endNaming(bool byKey)
 {
-    if (std::exchange(m_isNaming, false) && byKey) // later, because the list takes the focus
-        QTimer::singleShot(0, m_parts.editor, &OutputEditor::edit);
+    if (std::exchange(m_isNaming, false) && byKey)
+        m_focusPlots.start(0);
+    else
+        m_focusPlots.stop();
 }
 
 void OutputCommands::rename(const QString& name)

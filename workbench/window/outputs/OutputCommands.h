@@ -3,6 +3,7 @@
 #include "window/outputs/OutputsHistory.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 
@@ -65,6 +66,7 @@ private:
     OutputParts m_parts;
     OutputsHistory m_history;
     bool m_isNaming = false; ///< whether the user has been asked to name a new output
+    QTimer m_focusPlots;     ///< gives the focus to the plots after the user has named a new output
 };
 
 } // namespace workbench
