@@ -79,10 +79,21 @@ QString listed(const QWidget& window)
     return texts.join(QLatin1Char('|'));
 }
 
-QLineEdit* typeName(const QWidget& window, const char* name)
+QLineEdit* nameEditor(const QWidget& window)
 {
     const auto list = find<QListWidget>(window, "OutputList");
-    auto editor = qobject_cast<QLineEdit*>(list->indexWidget(list->currentIndex()));
+    return qobject_cast<QLineEdit*>(list->indexWidget(list->currentIndex()));
+}
+
+QString typedIn(const QWidget& window)
+{
+    const QLineEdit* editor = nameEditor(window);
+    return editor ? editor->text() : QString();
+}
+
+QLineEdit* typeName(const QWidget& window, const char* name)
+{
+    QLineEdit* editor = nameEditor(window);
     editor->setText(QLatin1String(name));
     return editor;
 }
@@ -257,7 +268,11 @@ private Q_SLOTS:
         readMessage(refusals);
         enterName(*window, "output  1");
         QTRY_COMPARE(refusals, QStringList(QStringLiteral("Another output has this name.")));
-        trigger(*window, "RenameOutput");
+        QTRY_COMPARE(typedIn(*window), QStringLiteral("output  1"));
+        readMessage(refusals);
+        trigger(*window, "NextOutput");
+        QTRY_COMPARE(typedIn(*window), QStringLiteral("output  1"));
+        QCOMPARE(listed(*window), QStringLiteral("/Output 1/|>/Output 2/"));
         typeName(*window, " Walls ");
         trigger(*window, "NextOutput"); // while the name is being edited
         QTRY_COMPARE(listed(*window), QStringLiteral(">/Output 1/|/Walls/"));
@@ -364,6 +379,7 @@ private Q_SLOTS:
         readMessage(messages);
         QVERIFY(!window->close());
         QCOMPARE(messages, {QStringLiteral("An output needs a name.")});
+        QCOMPARE(typedIn(*window), QStringLiteral("  "));
         QVERIFY(typeName(*window, "Output 1"));
         trigger(*window, "DuplicateOutput");
         enterName(*window, "Walls");

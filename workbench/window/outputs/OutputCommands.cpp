@@ -44,6 +44,8 @@ OutputCommands::OutputCommands(const OutputParts& parts)
     };
     on(pane->saveAll, [files] { files().saveScripts(); });
     on(pane->exportAll, [files] { files().exportSheets(); });
+    m_editRefused.setSingleShot(true);
+    connect(&m_editRefused, &QTimer::timeout, this, &OutputCommands::editRefusedName);
     m_focusPlots.setSingleShot(true);
     connect(&m_focusPlots, &QTimer::timeout, m_parts.editor, &OutputEditor::edit);
     m_parts.editor->setFinishName([this] { return finishName(); });
@@ -119,7 +121,8 @@ void OutputCommands::step(int currentAfter, const Change& change)
 
 void OutputCommands::choose(int output)
 {
-    if (output >= 0 && output != m_parts.editor->outputs().currentIndex())
+    if (output >= 0 && output != m_parts.editor->outputs().currentIndex() &&
+        !m_editRefused.isActive())
         m_parts.editor->changeCurrent([output](OutputList* list) { list->setCurrent(output); });
     showList();
 }
@@ -173,15 +176,24 @@ void OutputCommands::rename(const QString& name)
     m_isNaming = false;
     showList();
     m_parts.messages->complain(fault);
+    m_refusedName = name;
+    m_editRefused.start(0); // later, because the list is about to close its editor
+}
+
+/// The refused name stays in the editor until the user corrects it or presses Escape.
+void OutputCommands::editRefusedName()
+{
+    m_editRefused.stop();
+    showList(); // the user may have clicked on another output
+    m_parts.pane->editName(m_refusedName);
 }
 
 bool OutputCommands::finishName()
 {
-    const QString name = m_parts.pane->finishEditing();
-    const OutputList& outputs = m_parts.editor->outputs();
-    if (name.isNull() || outputs.name(outputs.currentIndex()) == name.simplified())
+    m_parts.pane->finishEditing();
+    if (!m_editRefused.isActive())
         return true;
-    m_parts.pane->editName(); // the message has taken the focus from the list
+    editRefusedName();
     return false;
 }
 

@@ -57,6 +57,7 @@ private:
     void nameNew();
     void endNaming(bool byKey);
     void rename(const QString& name);
+    void editRefusedName();
     bool finishName();
     void remove();
     void move(int distance);
@@ -66,7 +67,9 @@ private:
     OutputParts m_parts;
     OutputsHistory m_history;
     bool m_isNaming = false; ///< whether the user has been asked to name a new output
-    QTimer m_focusPlots;     ///< gives the focus to the plots after the user has named a new output
+    QString m_refusedName;
+    QTimer m_editRefused; ///< opens the editor with the refused name again
+    QTimer m_focusPlots;  ///< gives the focus to the plots after the user has named a new output
 };
 
 } // namespace workbench

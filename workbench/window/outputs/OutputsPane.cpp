@@ -159,7 +159,7 @@ void OutputsPane::layOut()
 
 void OutputsPane::listen()
 {
-    connect(rename, &QAction::triggered, this, &OutputsPane::editName);
+    connect(rename, &QAction::triggered, this, [this] { editName(); });
     // The other output is shown only after the list has handled the event.
     connect(m_list, &QListWidget::currentRowChanged, this, &OutputsPane::chosen,
             Qt::QueuedConnection);
@@ -223,12 +223,15 @@ void OutputsPane::enter()
         m_list->setFocus();
 }
 
-void OutputsPane::editName()
+void OutputsPane::editName(const QString& text)
 {
-    if (m_list->currentItem() && m_list->isVisible()) {
-        m_list->setFocus();
-        m_list->editItem(m_list->currentItem());
-    }
+    if (!m_list->currentItem() || !m_list->isVisible())
+        return;
+    m_list->setFocus();
+    m_list->editItem(m_list->currentItem());
+    const auto editor = qobject_cast<QLineEdit*>(m_list->indexWidget(m_list->currentIndex()));
+    if (editor && !text.isNull())
+        editor->setText(text);
 }
 
 QString OutputsPane::finishEditing()
