@@ -4,6 +4,7 @@
 #include "exchange/rowTable.h"
 #include "exchange/separatedText.h"
 #include "record/designRecord.h"
+#include "record/limitPairs.h"
 
 #include <StructLineEdit.h>
 #include <vkd_h_numberText.h>
@@ -171,14 +172,11 @@ bool looksLikeRowTable(const QString& text)
 QString limitFault(const tagZOB_QUAD_RIM& record, int line)
 {
     for (const RowColumn& column : rowColumns())
-        for (std::size_t i = 0; i < fields::Minimum.size(); ++i) {
-            const float minimum = record.*fields::Minimum[i];
-            const float maximum = record.*fields::Maximum[i];
-            if (column.field == fields::Minimum[i] && minimum != NotSet && maximum != NotSet &&
-                minimum > maximum)
+        for (const LimitPair& pair : LimitPairs)
+            if (column.field == pair.minimum &&
+                !isInOrder(record.*pair.minimum, record.*pair.maximum))
                 return TableText::tr("Row %1, %2: the minimum is greater than the maximum.")
                     .arg(QString::number(line), headOf(column, vkd::desktopLanguage()));
-        }
     return QString();
 }
 
