@@ -231,7 +231,7 @@ void CatalogueParser::storeCaseWord(const QString& part)
     const QString lower = part.toLower();
     const int dash = lower.indexOf(QLatin1Char('-'));
     m_record.rowClass = dash < 0 ? 0 : rowClassOf(lower.mid(dash + 1));
-    m_record.ctrl = ctrlOf(dash < 0 ? lower : lower.left(dash));
+    m_record.ctrl = ctrlOf(lower.left(dash)); // the whole word if there is no dash
     const int designMark = m_record.ctrl == CtrlDesign ? 3 : 2;
     m_record.rowMark = m_record.rowClass == 3 ? designMark : 1;
 }

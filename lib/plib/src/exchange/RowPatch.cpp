@@ -1,5 +1,6 @@
 #include "exchange/RowPatch.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace plib {
@@ -15,10 +16,9 @@ bool isKey(const NamedField& word)
 template <typename Field>
 std::size_t wordOf(Field field, Field NamedField::*member)
 {
-    std::size_t word = 0;
-    while (RecordWords[word].*member != field)
-        ++word;
-    return word;
+    const auto word = std::find_if(std::begin(RecordWords), std::end(RecordWords),
+                                   [=](const NamedField& any) { return any.*member == field; });
+    return std::size_t(word - std::begin(RecordWords));
 }
 } // namespace
 

@@ -25,7 +25,7 @@ QTreeWidgetItem* HostScript::itemOfLine(int line) const
 
 QVector<int> HostScript::linesOfItem(QTreeWidgetItem* item) const
 {
-    if (!item || m_linesBefore < 0)
+    if (m_linesBefore < 0)
         return {};
     const LineRange lines = plib::linesOfItem(m_tree->invisibleRootItem(), m_origins, item);
     return lines.count > 0 ? QVector<int>{m_linesBefore + lines.first, lines.count}
