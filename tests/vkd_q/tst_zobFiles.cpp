@@ -1,8 +1,10 @@
 #include "FaultyDisk.h"
 #include "ZobTestSupport.h"
 
+#include <vkd_zob_deadline.h>
 #include <ZobFilePlace.h>
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -304,6 +306,16 @@ private Q_SLOTS:
         const int first = numbers[2], second = numbers[5];
         QVERIFY(first != 0 && second != first);
         QCOMPARE(numbers, QList<int>({0, 0, first, first, first, second}));
+        sqlite3* locker = nullptr;
+        QCOMPARE(sqlite3_open(path.toUtf8(), &locker), SQLITE_OK);
+        QCOMPARE(sqlite3_exec(locker, "PRAGMA user_version = 2; BEGIN EXCLUSIVE", nullptr, nullptr,
+                              nullptr),
+                 SQLITE_OK);
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(ask(), VKD_ZOB_LOCKED);
+        QVERIFY(!clock.hasExpired(vkd_zob_deadline())); // does not wait for the other program
+        sqlite3_close(locker);
         testsupport::writeFile(path, halfWritten);
         testsupport::writeFile(journal, halfJournal);
         QCOMPARE(ask(), VKD_ZOB_LOCKED);
@@ -380,6 +392,8 @@ private Q_SLOTS:
         }
         QVERIFY(readAll(index) == m_records);
         vkd_zob_close(index);
+        for (const QString& noFile : {folder.path(), folder.filePath(QStringLiteral("no/p"))})
+            QCOMPARE(log.once(ZobFilePlace(noFile).status().code), VKD_ZOB_NO_FILE);
         vkd_lib_setvalue(201, 0);
     }
 

@@ -112,6 +112,8 @@ private Q_SLOTS:
         int last = 0, rounds = 0;
         for (QProcess& writer : writers)
             while (!writer.waitForFinished(1) && writer.state() == QProcess::Running) {
+                int changes = 0;
+                vkd_zob_outside_changes(index, &changes); // does not wait; the snapshot does
                 const ZobSnapshot snapshot{ZobHandle(index)};
                 QVERIFY(snapshot.status().isOk());
                 const Records seen = readAll(index);
