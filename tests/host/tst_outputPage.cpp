@@ -86,14 +86,20 @@ private Q_SLOTS:
                                       Q_ARG(int, line));
             return item;
         };
-        QVector<int> range;
-        QMetaObject::invokeMethod(script, "linesOfItem", Q_RETURN_ARG(QVector<int>, range),
-                                  Q_ARG(QTreeWidgetItem*, row));
+        const auto linesOf = [script](QTreeWidgetItem* item) {
+            QVector<int> range;
+            QMetaObject::invokeMethod(script, "linesOfItem", Q_RETURN_ARG(QVector<int>, range),
+                                      Q_ARG(QTreeWidgetItem*, item));
+            return range;
+        };
+        const QVector<int> range = linesOf(row);
         QCOMPARE(lines.value(range.value(0)), QStringLiteral("LC 2 DESI 2"));
         QCOMPARE(itemOf(range.value(0) + range.value(1) - 1), row);
         QCOMPARE(itemOf(0), nullptr);
         desk.page.slotDefaultSettings();
         QCOMPARE(itemOf(range.value(0)), nullptr); // the tree has been rebuilt
+        desk.plotWithRows()->setCheckState(0, Qt::Checked);
+        QVERIFY(linesOf(desk.plotWithRows()).isEmpty() && linesOf(nullptr).isEmpty());
     }
 
     void aNewPage()

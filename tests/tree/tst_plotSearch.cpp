@@ -181,6 +181,16 @@ private Q_SLOTS:
         }
         QCOMPARE(rows.join(QLatin1Char(' ')).remove(QLatin1String("Hit ")),
                  QStringLiteral("2 of 4 3 of 4 2 of 4 1 of 4 4 of 4 1 of 4"));
+        desk.words()->setText(QStringLiteral("2 :"));
+        desk.tree->setCurrentItem(desk.tree->topLevelItem(0)->child(1)); // F3 starts here
+        QTest::keyClick(desk.words(), Qt::Key_F3);
+        QCOMPARE(desk.count(), QStringLiteral("Hit 5 of 6"));
+        // Plots with many rows are not expanded. The user expands one.
+        desk.tree->setUsedNumbersAndNames(testsupport::rows(5000));
+        desk.words()->setText(QStringLiteral("4999 slab"));
+        desk.tree->topLevelItem(0)->child(0)->child(1)->setExpanded(true);
+        QCOMPARE(desk.items().count(QLatin1Char('\n')), 6);
+        desk.words()->setText(QStringLiteral("2 : slab"));
         // The tree is rebuilt with fewer rows and searched again.
         desk.tree->setUsedNumbersAndNames(testsupport::rows(3));
         QCOMPARE(desk.count(), QStringLiteral("Hit 1 of 2"));
@@ -202,7 +212,9 @@ private Q_SLOTS:
         QTreeWidgetItem* plot = desk.tree->topLevelItem(0)->child(0)->child(1);
         for (int row : {4, 6})
             plot->child(row)->setCheckState(0, Qt::Checked);
-        find<QCheckBox>(desk, "searchCheckedOnly")->click();
+        const auto checkedOnly = find<QCheckBox>(desk, "searchCheckedOnly");
+        QVERIFY(!checkedOnly->geometry().intersects(desk.words()->geometry()));
+        checkedOnly->click();
         QString counts = desk.count();
         for (const char* button : {"searchNext", "searchNext", "searchPrevious"}) {
             find<QToolButton>(desk, button)->click();
@@ -213,6 +225,34 @@ private Q_SLOTS:
         QVERIFY(!desk.words()->isVisible() && desk.tree->hasFocus());
         testsupport::trigger(desk, "findPlots");
         QVERIFY(!find<QCheckBox>(desk, "searchCheckedOnly")->isChecked());
+    }
+
+    /// A narrow page elides the text of the search bar, and its tree can be scrolled.
+    void narrowPage()
+    {
+        Desk desk(m_parameter.get());
+        testsupport::trigger(desk, "findPlots");
+        const auto reminder = find<QLabel>(desk, "searchReminder");
+        for (bool isNarrow : {true, false}) {
+            desk.resize(isNarrow ? 50 : 600, 300);
+            QCOMPARE(reminder->text() != reminder->accessibleName(), isNarrow);
+            QTRY_COMPARE(desk.tree->horizontalScrollBar()->maximum() > 0, isNarrow);
+        }
+    }
+
+    void searchFollowsTheLanguage()
+    {
+        m_texts = std::make_unique<testsupport::Texts>("0|ABC|Grund|Base\n");
+        testsupport::writeFile(m_texts->path("graphicaloutput.data"), line("&ABC|B|C", " "));
+        Desk desk(m_parameter.get());
+        testsupport::trigger(desk, "findPlots");
+        desk.words()->setText(QStringLiteral("grund"));
+        QCOMPARE(desk.count(), QStringLiteral("No hits"));
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, 0);
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(desk.tree, &change);
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.count(), QStringLiteral("Hit 1 of 1"));
     }
 
     void keysOfTheTree()
