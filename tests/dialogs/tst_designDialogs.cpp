@@ -8,6 +8,7 @@
 #include <VKD_A_BarDiameterCombo.h>
 #include <VKD_H_LineEdit.h>
 #include <vkd_lib_value.h>
+#include <VKD_QT_InfoText.h>
 #include <VKD_QT_Ok.h>
 
 #include <QAbstractItemView>
@@ -167,6 +168,15 @@ private Q_SLOTS:
                  QStringLiteral("Diameter|Min. Reinforcement|max. Reinforcement") + rows);
         const auto cracks = open<dlgCrackControl>(&record);
         QCOMPARE(cracks->findChildren<VKD_H_LineEdit*>(QStringLiteral("crack")).size(), 3);
+        tagZOB_QUAD_RIM usual{}; // without warning icons, which widen their fields
+        usual.type = 3;
+        const auto distances = open<dlgDistanceDirection>(&usual);
+        const auto left = [&distances](const char* field) {
+            return find<QWidget>(*distances, field)->mapTo(distances.get(), QPoint()).x();
+        };
+        QCOMPARE(left("riu"), left("hiu")); // aligned across the boxes
+        const auto note = distances->findChild<VKD_QT_InfoText*>();
+        QCOMPARE(note->findChildren<QLabel*>().size(), 2); // the icon and the text
     }
 
     /// A dialog that steps to a row of another type looks as if it had been opened for that row.

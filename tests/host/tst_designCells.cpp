@@ -43,6 +43,8 @@ private Q_SLOTS:
         QCOMPARE(select(3, 4), QStringLiteral("3,4"));
         QCOMPARE(again(), QString());
         QCOMPARE(again(), QStringLiteral("3,4"));
+        desk.table()->cellWidget(3, 4)->setFocus();
+        QCOMPARE(again(), QStringLiteral("3,4")); // the user has clicked in the editor
         QTest::keyClick(desk.table(), Qt::Key_Escape);
         QCOMPARE(desk.editors(), QString());
         QCOMPARE(select(3, 2), QStringLiteral("3,2"));
@@ -98,6 +100,8 @@ private Q_SLOTS:
                    (desk.table()->horizontalHeader()->length() == room ? QStringLiteral(" full")
                                                                        : QString());
         };
+        widths(100);
+        QVERIFY(desk.width() >= 890); // the minimum width of the page
         widths(1000);
         const int margin = 1000 - desk.table()->viewport()->width();
         QCOMPARE(widths(2 * 740 + margin), QStringLiteral("300 300 400 240 240 full"));

@@ -4,6 +4,7 @@
 
 #include <vkd_dbo_model.h>
 #include <VKD_H_ProjectDialogPage.h>
+#include <VKD_H_SelGRP_Dialog.h>
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -297,6 +298,12 @@ private Q_SLOTS:
         QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("3"));
         confirmGroups(QStringLiteral("OPEN"));
         desk.press("buttonSekGroups");
+        QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("OPEN"));
+        whenModal([](QWidget* dialog) {
+            qobject_cast<QDialog*>(dialog)->done(VKD_H_SelGRP_Dialog::PickOutside);
+        });
+        desk.press("buttonGroups");
+        Q_EMIT desk.isReOpen(VKD_H_SelGRP_Dialog::PickOutside); // nothing has been picked
         QCOMPARE(desk.groupCombo()->currentText(), QStringLiteral("OPEN"));
         desk.table()->setCurrentCell(1, 1);
         desk.page->writeToZob();

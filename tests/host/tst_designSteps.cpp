@@ -8,12 +8,14 @@
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QToolButton>
+#include <QToolTip>
 #include <QWindow>
 
 using namespace testsupport;
@@ -141,6 +143,8 @@ private Q_SLOTS:
             QTest::keyClick(table, Qt::Key(key), Qt::ControlModifier | modifiers);
             return desk.groups();
         };
+        table->setCurrentCell(-1, -1);
+        QVERIFY(!find<QAction>(*desk.page, "copyRows")->isEnabled());
         table->setCurrentCell(1, 3);
         press(Qt::Key_C);
         const QString copied = QApplication::clipboard()->text();
@@ -257,6 +261,9 @@ private Q_SLOTS:
         edit(3, [&told](QWidget& dialog) {
             const auto bar = find<QComboBox>(dialog, "m_pDIO");
             QCOMPARE(bar->currentText(), QStringLiteral("several"));
+            QHelpEvent help(QEvent::ToolTip, {5, 5}, bar->mapToGlobal({5, 5}));
+            QApplication::sendEvent(bar, &help);
+            QVERIFY(QToolTip::text().contains(QLatin1String("Different values: ")));
             bar->setCurrentIndex(bar->findText(QStringLiteral("Ø20")));
             find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9,5"));
             whenModal([&told](QWidget* box) {
@@ -269,9 +276,11 @@ private Q_SLOTS:
         edit(3, [](QWidget& dialog) {
             find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9"));
             const auto bar = find<QComboBox>(dialog, "m_pDIU");
-            bar->setCurrentIndex(bar->findText(QStringLiteral("-"), Qt::MatchContains));
+            const int notSet = bar->findText(QStringLiteral("not set"));
+            QVERIFY(notSet >= 0);
+            bar->setCurrentIndex(notSet);
         });
-        QVERIFY(desk.row(1).contains(QStringLiteral("Ø12 ;9.00 cm²/m ; - ")));
+        QVERIFY(desk.row(1).contains(QStringLiteral("Ø12 ;9.00 cm²/m ; - / -  ;")));
         QVERIFY(desk.row(2).contains(QStringLiteral("Ø10 ;9.00 cm²/m ;9.00")));
     }
 
