@@ -444,11 +444,11 @@ private Q_SLOTS:
 
     void pageSteps_data()
     {
-        const Columns<QByteArray, bool> row("actions", "isSaved");
-        row("language", "German", true);
-        row("reloaded", "Reload", false);
-        row("other output", "NewOutput PreviousOutput", false);
-        row("deleted output", "NewOutput PreviousOutput DeleteOutput undo", false);
+        const Columns<QByteArray> row("actions");
+        row("language", "German");
+        row("reloaded", "Reload");
+        row("other output", "NewOutput PreviousOutput");
+        row("deleted output", "NewOutput PreviousOutput DeleteOutput undo");
     }
 
     /// The undo steps of a page are preserved when the page is replaced.
@@ -477,7 +477,7 @@ private Q_SLOTS:
         QCOMPARE(stateAfter("undo"), initial);
         QVERIFY(!find<QAction>(*outputDialog(*window), "undo")->isEnabled());
         QCoreApplication::processEvents();
-        QTEST(!window->isWindowModified(), "isSaved");
+        QTRY_VERIFY(!listed(*window).contains(QLatin1String(">/")));
     }
 
     /// A text that a field refuses stays in the field until the user gives it up.

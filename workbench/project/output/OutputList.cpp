@@ -39,6 +39,8 @@ void followSaved(NamedOutput* output, const NamedOutput& saved)
     if (!output->isStateChanged)
         output->state = saved.state;
     output->savedName = saved.name;
+    if (!(output->savedState == saved.state))
+        output->unchanged.clear();
     output->savedState = saved.state;
 }
 } // namespace

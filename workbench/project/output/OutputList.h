@@ -23,6 +23,7 @@ struct NamedOutput
     int savedIndex = -1;    ///< -1 for an output that the project does not contain
     int id = newOutputId(); ///< identifies the output after it has been renamed or moved
     QByteArray steps = {};  ///< undo steps of the page while another output is shown
+    QString unchanged = {}; ///< the saved state as text of the page; empty if it is unknown
 };
 
 /// The outputs of a project, of which there is always at least one, and the current output. The
@@ -72,6 +73,8 @@ public:
     void setState(const OutputState& state, bool isChanged);
     /// Stores the undo steps of the current output's page in memory.
     void setSteps(const QByteArray& steps);
+    /// Stores the text with which the page of the current output compares its state.
+    void setUnchanged(const QString& text) { m_outputs[m_current].unchanged = text; }
     /// Discards the changes to the state of the current output.
     void revert();
 

@@ -82,7 +82,16 @@ void OutputEditor::recreate(const EditedOutputs& before)
     m_outputs = before.outputs;
     m_areOutputsRead = true;
     create(before.dialog.state);
-    m_dialog->setPresent(before.dialog);
+    showPresent(before.dialog);
+}
+
+/// If the page knows its saved state, the list contains this state, and only the page contains the
+/// changes. The output is unchanged as soon as the user undoes them.
+void OutputEditor::showPresent(const OutputPresent& present)
+{
+    m_dialog->setPresent(present);
+    if (present.isChanged && !present.unchanged.isEmpty())
+        m_outputs.revert();
 }
 
 void OutputEditor::close()

@@ -14,6 +14,7 @@ struct EditedOutputs;
 class OpenProject;
 class OutputDialog;
 class OutputDock;
+struct OutputPresent;
 class ProjectAccess;
 class WindowMessages;
 
@@ -97,6 +98,7 @@ private:
     VkdStatus put(OutputList* outputs) const;
     EditedOutputs followed(EditedOutputs outputs) const;
     void create(const OutputState& state);
+    void showPresent(const OutputPresent& present);
     void closeLater();
     void reload();
     void renew();

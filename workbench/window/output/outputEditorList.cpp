@@ -63,6 +63,7 @@ void OutputEditor::continueAfterReload(const EditedOutputs& before)
 EditedOutputs OutputEditor::followed(EditedOutputs outputs) const
 {
     OutputList& list = outputs.outputs;
+    list.setUnchanged(outputs.dialog.unchanged);
     if (outputs.dialog.isChanged)
         list.setState(outputs.dialog.state, true);
     VkdStatus status;
@@ -70,6 +71,7 @@ EditedOutputs OutputEditor::followed(EditedOutputs outputs) const
     if (status.isOk())
         list.follow(project, OutputList::Removed::Drop);
     outputs.dialog.state = list.current().state;
+    outputs.dialog.unchanged = list.current().unchanged;
     return outputs;
 }
 
@@ -96,6 +98,7 @@ bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
     if (present.isChanged)
         m_outputs.setState(present.state, true);
     m_outputs.setSteps(present.steps);
+    m_outputs.setUnchanged(present.unchanged);
     const bool hasFocus = m_dialog->isAncestorOf(QApplication::focusWidget());
     const int count = m_outputs.size();
     change(&m_outputs);
@@ -103,11 +106,11 @@ bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
         present.plots.endSearch(); // the words were meant for another output
     present.state = m_outputs.current().state;
     present.isChanged = m_outputs.current().isStateChanged;
-    present.unchanged.clear();
+    present.unchanged = m_outputs.current().unchanged;
     present.steps = m_outputs.current().steps;
     closeLater();
     create(present.state);
-    m_dialog->setPresent(present);
+    showPresent(present);
     if (hasFocus)
         m_dialog->enter();
     Q_EMIT outputChosen();
