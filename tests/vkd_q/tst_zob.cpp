@@ -331,6 +331,35 @@ private Q_SLOTS:
         QCOMPARE(readAll(m_first), expected);
     }
 
+    void replacedSequence_data()
+    {
+        const Columns<QByteArray, Records> row("changedByOther", "records");
+        row("empty", "", {});
+        row("longer record", "", {"old 0 is longer", "old 1"});
+        row("gap", "UPDATE record SET position=5 WHERE position=1", {"a", "b", "c"});
+        row("negative position", "UPDATE record SET position=-1 WHERE position=1", {});
+    }
+
+    void replacedSequence()
+    {
+        QFETCH(const QByteArray, changedByOther);
+        QFETCH(const Records, records);
+        changeByOther(m_folder->filePath(QStringLiteral("Träger.vkd")), changedByOther);
+        for (bool readsWithinTheChange : {false, true}) {
+            QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
+            put(m_first, 1, 1, QByteArray(), 0);
+            for (int count = 0; count < records.size(); ++count) {
+                if (readsWithinTheChange)
+                    QCOMPARE(readAll(m_first), records.mid(0, count));
+                QCOMPARE(put(m_first, 1, 1, records[count], 1), VKD_ZOB_OK);
+            }
+            vkd_zob_free_ex(m_first, 1, 1);
+            cd_error_t end = -1;
+            QCOMPARE(readAll(m_second, 1, &end), records);
+            QCOMPARE(end, records.isEmpty() ? VKD_ZOB_NO_KEY : VKD_ZOB_END);
+        }
+    }
+
     void failureDropsTheChange_data()
     {
         const Columns<int, int> row("length", "position");

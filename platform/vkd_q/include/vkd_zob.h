@@ -72,7 +72,8 @@ VKD_Q_EXPORT cd_error_t vkd_zob_get(int index, int key1, int key2, void* record,
 /// Writes a record: `position` 0 writes the first record, or removes all records if `*length` is 0
 /// as well; `position` 1 appends. Outside a change, the record is stored immediately; within a
 /// change, it is stored when the change ends. The call fails if the change has failed or if the
-/// record is larger than 256 MB.
+/// record is larger than 256 MB. Within a change, a later call or the end of the change may return
+/// the failure of this call, because records are buffered.
 VKD_Q_EXPORT cd_error_t vkd_zob_put(int index, int key1, int key2, const void* record,
                                     const int* length, int position);
 

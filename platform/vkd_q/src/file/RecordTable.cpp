@@ -32,6 +32,7 @@ static_assert(ZobSchemaVersion == 2);
 
 RecordTable::RecordTable(sqlite3* connection)
     : m_connection(connection)
+    , m_rewrite(connection)
 {
 }
 
@@ -39,6 +40,8 @@ int RecordTable::stepTo(KeyPair pair, int position)
 {
     if (pair != m_walkPair || position != m_walkPosition + 1) {
         stopWalk();
+        if (const int code = settle(); code != SQLITE_DONE)
+            return code;
         const int code = m_get.start(m_connection, GetSql, pair.first, pair.second);
         if (code != SQLITE_OK)
             return code;
@@ -113,6 +116,8 @@ int RecordTable::findAny(KeyPair pair)
 
 int RecordTable::findNext(KeyPair* pair)
 {
+    if (const int settled = settle(); settled != SQLITE_DONE)
+        return settled;
     int code = m_next.start(m_connection, NextSql, pair->first, pair->second);
     if (code == SQLITE_OK)
         code = m_next.step();
@@ -131,6 +136,8 @@ int RecordTable::clear(KeyPair pair)
 
 int RecordTable::writeFirst(KeyPair pair, const void* record, int length)
 {
+    if (const int settled = settle(); settled != SQLITE_DONE)
+        return settled;
     m_ends.erase(pair);
     const int code = m_first.start(m_connection, FirstSql, pair.first, pair.second);
     return code == SQLITE_OK ? m_first.run(record, length) : code;
@@ -142,8 +149,34 @@ int RecordTable::append(KeyPair pair, const void* record, int length)
     return code == SQLITE_OK ? m_append.run(record, length) : code;
 }
 
+int RecordTable::clearInside(KeyPair pair)
+{
+    if (const int settled = settle(); settled != SQLITE_DONE)
+        return settled;
+    int end = 0;
+    if (const int code = findEnd(pair, &end); code != SQLITE_ROW)
+        return code;
+    m_rewrite.begin(pair, end);
+    m_ends[pair] = 0;
+    return SQLITE_DONE;
+}
+
+int RecordTable::settle()
+{
+    return m_rewrite.isActive() ? m_rewrite.finish() : SQLITE_DONE;
+}
+
+void RecordTable::rolledBack()
+{
+    m_hasChecksums = false;
+    m_rewrite.drop();
+}
+
 int RecordTable::appendInside(KeyPair pair, const void* record, int length)
 {
+    const bool overwrites = m_rewrite.covers(pair);
+    if (const int settled = overwrites ? SQLITE_DONE : settle(); settled != SQLITE_DONE)
+        return settled;
     auto end = m_ends.find(pair);
     if (end == m_ends.end()) {
         int position = 0;
@@ -152,9 +185,12 @@ int RecordTable::appendInside(KeyPair pair, const void* record, int length)
             return code;
         end = m_ends.emplace(pair, position).first;
     }
+    const int position = end->second++;
+    if (overwrites)
+        return m_rewrite.append(record, length);
     int code = m_appendAt.start(m_connection, AppendAtSql, pair.first, pair.second);
     if (code == SQLITE_OK)
-        code = m_appendAt.bind(4, end->second++);
+        code = m_appendAt.bind(4, position);
     return code == SQLITE_OK ? m_appendAt.run(record, length) : code;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "file/SequenceRewrite.h"
 #include "file/Statement.h"
 #include "vkd_zob.h"
 
@@ -35,20 +36,26 @@ public:
     int findNext(KeyPair* pair);
 
     /// Adds checksums to the records of a version 1 file. Call this function in a transaction
-    /// before any record is changed, and call forgetVersion() if the transaction is rolled back.
+    /// before any record is changed, and call rolledBack() if the transaction is rolled back.
     /// Returns SQLITE_OK even if the file already has checksums.
     int upgrade();
     /// Returns whether the records have checksums. Returns false if the version cannot be read.
     bool isUpgraded();
-    void forgetVersion() { m_hasChecksums = false; }
+    /// Forgets what a rolled-back transaction may have changed.
+    void rolledBack();
 
     // The following operations return SQLITE_DONE on success.
     int clear(KeyPair pair);
     int writeFirst(KeyPair pair, const void* record, int length);
     int append(KeyPair pair, const void* record, int length);
-    /// Appends a record. The file must be locked, so that no other program can write. The end of
-    /// the sequence is looked up only once and then cached.
+
+    // The following operations do the same within a transaction, which locks the file against
+    // other programs. Records that are appended after a sequence was cleared overwrite its records.
+    int clearInside(KeyPair pair);
+    /// Looks up the end of the sequence only once and caches it.
     int appendInside(KeyPair pair, const void* record, int length);
+    /// Completes the replacement of a cleared sequence. Call this before the commit.
+    int settle();
     /// Drops the cached ends of sequences. Call this before other programs can write again.
     void forgetEnds() { m_ends.clear(); }
 
@@ -64,4 +71,5 @@ private:
     KeyPair m_walkPair{};
     int m_walkPosition = NoPosition; // position of the record that m_get returned
     std::map<KeyPair, int> m_ends;   // ends of sequences with appended records
+    SequenceRewrite m_rewrite;
 };

@@ -20,9 +20,10 @@ namespace {
 const QLatin1String InMemory(":memory:");
 
 // With pages of four times the default size, reading and writing many records takes a quarter less
-// time.
-constexpr char Schema[] = "PRAGMA page_size = 16384;"
-                          "BEGIN;" ZOB_RECORD_TABLE ";"
+// time. The page size is set before the size of the cache: SQLite limits the number of pages in the
+// cache and does not adjust that number when the page size changes.
+constexpr char PageSize[] = "PRAGMA page_size = 16384";
+constexpr char Schema[] = "BEGIN;" ZOB_RECORD_TABLE ";"
                           "PRAGMA application_id = 1447773250;"
                           "PRAGMA user_version = 2;"
                           "COMMIT;";
@@ -157,8 +158,11 @@ int ZobConnection::restrictConnection()
 
 VkdStatus ZobConnection::makeSchema()
 {
-    const VkdStatus status = execute(FileSettings, ZobAction::Create);
-    return status.isOk() ? execute(Schema, ZobAction::Create) : status;
+    VkdStatus status;
+    for (const char* sql : {PageSize, FileSettings, Schema})
+        if (status.isOk())
+            status = execute(sql, ZobAction::Create);
+    return status;
 }
 
 bool ZobConnection::isReadOnly() const

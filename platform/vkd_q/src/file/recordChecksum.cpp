@@ -44,8 +44,7 @@ void withChecksum(sqlite3_context* context, int, sqlite3_value** values)
         return sqlite3_result_error_nomem(context);
     if (stored.length > 0)
         std::memcpy(result, stored.bytes, size_t(stored.length));
-    qToLittleEndian(checksum(stored.pair, stored.position, result, size_t(stored.length)),
-                    result + stored.length);
+    writeChecksum(stored.pair, stored.position, result, stored.length);
     sqlite3_result_blob64(context, result, sqlite3_uint64(stored.length) + ChecksumBytes,
                           sqlite3_free);
 }
@@ -63,6 +62,11 @@ bool hasChecksum(std::pair<int, int> pair, int position, const void* bytes, int 
     const int own = length - ChecksumBytes;
     return own >= 0 && qFromLittleEndian<quint64>(static_cast<const uchar*>(bytes) + own) ==
                            checksum(pair, position, bytes, size_t(own));
+}
+
+void writeChecksum(std::pair<int, int> pair, int position, unsigned char* record, int length)
+{
+    qToLittleEndian(checksum(pair, position, record, size_t(length)), record + length);
 }
 
 int addChecksumFunctions(sqlite3* connection)

@@ -59,7 +59,7 @@ cd_error_t ZobDatabase::statusAfterEnd(RecordTable::KeyPair pair)
 /// transaction. Later writes would be stored separately and might lack data that could not be read.
 cd_error_t ZobDatabase::failInside(int sqliteCode, ZobAction action)
 {
-    m_table.forgetVersion(); // SQLite may have rolled back an upgrade
+    m_table.rolledBack(); // SQLite may already have rolled back
     return m_transactions.spoilChange(m_connection->fail(sqliteCode, action));
 }
 
@@ -86,8 +86,13 @@ cd_error_t ZobDatabase::put(int key1, int key2, const void* record, int length, 
         code = m_transactions.isChanging() ? m_table.appendInside(pair, record, length)
                                            : m_table.append(pair, record, length);
     else
-        code = length == 0 ? m_table.clear(pair) : m_table.writeFirst(pair, record, length);
+        code = length == 0 ? clear(pair) : m_table.writeFirst(pair, record, length);
     return code == SQLITE_DONE ? cd_error_t(VKD_ZOB_OK) : failInside(code, ZobAction::Write);
+}
+
+int ZobDatabase::clear(RecordTable::KeyPair pair)
+{
+    return m_transactions.isChanging() ? m_table.clearInside(pair) : m_table.clear(pair);
 }
 
 /// Upgrades a file of an older version. Outside a change, the upgrade has its own transaction.
@@ -102,7 +107,7 @@ int ZobDatabase::upgrade()
         code = sqlite3_exec(m_connection->handle(), "COMMIT", nullptr, nullptr, nullptr);
     if (code != SQLITE_OK && m_connection->isInTransaction()) {
         m_connection->execute("ROLLBACK", ZobAction::UndoChanges);
-        m_table.forgetVersion();
+        m_table.rolledBack();
     }
     return code;
 }

@@ -33,6 +33,7 @@ public:
 private:
     cd_error_t statusAfterEnd(RecordTable::KeyPair pair);
     cd_error_t deliver(void* record, int* length);
+    int clear(RecordTable::KeyPair pair);
     int upgrade();
     cd_error_t failInside(int sqliteCode, ZobAction action);
 

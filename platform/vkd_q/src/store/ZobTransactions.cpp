@@ -142,14 +142,21 @@ void ZobTransactions::storeOrDrop()
         m_table.stopWalk();
     VkdStatus status = std::exchange(m_changeStatus, VkdStatus());
     if (status.isOk())
-        status = m_connection.execute("COMMIT", ZobAction::StoreChanges);
+        status = commit();
     const bool wasChanging = std::exchange(m_isChanging, false);
     // SQLite itself rolls back after some failures.
     if (!status.isOk() && wasChanging && m_connection.isInTransaction())
         m_connection.execute("ROLLBACK", ZobAction::UndoChanges);
     if (!status.isOk())
-        m_table.forgetVersion();
+        m_table.rolledBack();
     rememberEnd(status);
+}
+
+VkdStatus ZobTransactions::commit()
+{
+    const int code = m_table.settle();
+    return code == SQLITE_DONE ? m_connection.execute("COMMIT", ZobAction::StoreChanges)
+                               : m_connection.fail(code, ZobAction::StoreChanges);
 }
 
 void ZobTransactions::rememberEnd(const VkdStatus& status)

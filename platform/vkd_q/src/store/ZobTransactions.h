@@ -59,6 +59,7 @@ private:
     VkdStatus beginChange();
     void dropChange();
     void storeOrDrop();
+    VkdStatus commit();
     void rememberEnd(const VkdStatus& status);
 
     ZobConnection& m_connection;
