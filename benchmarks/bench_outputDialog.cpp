@@ -17,6 +17,7 @@
 #include <window/script/ScriptView.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -204,6 +205,18 @@ void offerLoadCase(benchmark::State& state)
     state.counters["bytes"] = heapInUse() - before;
 }
 
+/// Hides half of the load cases and shows them again.
+void filterLoadCases(benchmark::State& state)
+{
+    const int number = int(state.range(0));
+    const Output output(number);
+    auto filter = output.dialog.findChild<QLineEdit*>(QStringLiteral("ChoiceFilter"));
+    for (auto _ : state) {
+        filter->setText(QStringLiteral("1-%1").arg(number / 2));
+        filter->clear();
+    }
+}
+
 void openDialog(benchmark::State& state)
 {
     project(int(state.range(0)));
@@ -244,6 +257,7 @@ BENCHMARK(fillDocument)->Unit(benchmark::kMillisecond);
 BENCHMARK(checkAll)->Unit(benchmark::kMillisecond);
 BENCHMARK(makeScript)->Unit(benchmark::kMillisecond);
 BENCHMARK(offerLoadCase)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
+BENCHMARK(filterLoadCases)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
 BENCHMARK(openDialog)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
 BENCHMARK(viewMemory)->Unit(benchmark::kMillisecond);
 BENCHMARK(textMemory)->Unit(benchmark::kMillisecond);
@@ -266,6 +280,8 @@ int main(int argc, char* argv[])
          {"offerLoadCase/10000", "offerLoadCase/1000", 1.4, "the same with 1000 load cases",
           Figure::TimePerItem},
          {"offerLoadCase/10000", "", 1.0, "megabytes that remain in use", Figure::Memory},
+         {"filterLoadCases/10000", "filterLoadCases/1000", 1.4, "the same with 1000 load cases",
+          Figure::TimePerItem},
          {"openDialog/10000", "openDialog/1000", 1.4, "the same with 1000 load cases",
           Figure::TimePerItem},
          {"openDialog/10000", "openDialog/1000", 10.5, "the same with a tenth of the load cases",

@@ -85,12 +85,15 @@ void ChoiceBar::filter()
     QTableView* view = m_table->view();
     const int rows = view->model()->rowCount();
     int count = 0;
+    // While updates are enabled, Qt computes the positions of all rows again after each change.
+    view->setUpdatesEnabled(false);
     for (int row = 0; row < rows; ++row) {
         const bool matches = shown.matches(m_table->numberInRow(row), m_table->titleInRow(row));
         if (view->isRowHidden(row) == matches)
             view->setRowHidden(row, !matches);
         count += matches;
     }
+    view->setUpdatesEnabled(true);
     m_only->setEnabled(!shown.isEmpty() && count > 0);
     m_count->setText(shown.isEmpty() ? QString() : tr("Shown: %1 of %2").arg(count).arg(rows));
 }
