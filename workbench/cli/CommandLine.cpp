@@ -138,7 +138,10 @@ CommandLine::Option languageOption()
 
 void applyLanguage(const CommandLine& commandLine)
 {
-    vkd::setDesktopLanguage(commandLine.language("language", vkd::desktopLanguage()));
+    const vkd::Language language = commandLine.language("language", vkd::desktopLanguage());
+    if (language == vkd::desktopLanguage())
+        return; // the translations are already loaded
+    vkd::setDesktopLanguage(language);
     VKD_QT_InitTranslator::languageChanged();
 }
 

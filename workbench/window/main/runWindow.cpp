@@ -1,9 +1,9 @@
 #include "window/main/runWindow.h"
 
 #include "window/support/WindowSettings.h"
+#include "window/support/WindowStyle.h"
 
 #include <VKD_QT_InitTranslator.h>
-#include <VKD_QT_OutlineStyle.h>
 #include <vkd_qt_translateQt.h>
 
 #include <QApplication>
@@ -14,12 +14,15 @@ namespace workbench {
 
 int runWindow(const QString& path)
 {
-    vkd::setDesktopLanguage(WindowSettings().language(vkd::desktopLanguage()));
-    VKD_QT_InitTranslator::languageChanged();
+    const vkd::Language language = WindowSettings().language(vkd::desktopLanguage());
+    if (language != vkd::desktopLanguage()) { // otherwise, the translations are already loaded
+        vkd::setDesktopLanguage(language);
+        VKD_QT_InitTranslator::languageChanged();
+    }
     vkd_qt_translateQt();
     QGuiApplication::setDesktopFileName(QStringLiteral("org.plib.workbench"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("plib_workbench")));
-    QApplication::setStyle(new VKD_QT_OutlineStyle(QApplication::style()->objectName()));
+    QApplication::setStyle(new WindowStyle(QApplication::style()->objectName()));
     MainWindow window;
     window.openAfterPainting(path);
     window.show();
