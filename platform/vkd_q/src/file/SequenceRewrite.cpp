@@ -127,7 +127,7 @@ void SequenceRewrite::drop()
 {
     m_isActive = false;
     m_ends.clear();
-    m_bytes.clear();
+    m_bytes = {}; // releases the memory of large records
 }
 
 /// The SQL function buffered_record(position) returns the bytes to store at the position.
