@@ -35,10 +35,12 @@ vkd::dbo::Camera lookingFrom(double x, double y, double z)
     return camera;
 }
 
-/// Returns the frame aligned to whole device pixels, so that the image is sharp.
+/// Returns the frame aligned to whole device pixels, so that the image is sharp. Its size does not
+/// depend on its position on the sheet, so that frames of the same size share an image.
 QRectF dotsOf(const QPainter& painter, const QRectF& frame)
 {
-    return QRectF(painter.deviceTransform().mapRect(frame).toRect());
+    const QRectF exact = painter.deviceTransform().mapRect(frame);
+    return {exact.topLeft().toPoint(), exact.size().toSize()};
 }
 
 QSize pixelsOf(const QSizeF& dots)
