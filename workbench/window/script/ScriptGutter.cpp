@@ -49,6 +49,12 @@ void ScriptGutter::mousePressEvent(QMouseEvent* event)
         m_view->chooseLine(m_view->lineNear(event->pos().y()));
 }
 
+/// Accepts the end of a click. The script has not received its start.
+void ScriptGutter::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
 void ScriptGutter::wheelEvent(QWheelEvent* event)
 {
     QApplication::sendEvent(m_view->viewport(), event);
