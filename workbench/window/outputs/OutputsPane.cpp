@@ -3,11 +3,13 @@
 #include "sheet/actionButton.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -32,14 +34,22 @@ public:
 
     QString finishEditing()
     {
-        const auto editor = qobject_cast<QLineEdit*>(indexWidget(currentIndex()));
+        const QPointer<QLineEdit> editor = openEditor();
         if (!editor)
             return QString();
         const QString text = editor->text();
-        commitData(editor);
-        closeEditor(editor, QAbstractItemDelegate::NoHint);
+        // After Return, the delegate commits the text in a posted event. Send it before the editor
+        // is closed.
+        QCoreApplication::sendPostedEvents(itemDelegate(), QEvent::MetaCall);
+        if (editor && editor == openEditor()) {
+            commitData(editor);
+            closeEditor(editor, QAbstractItemDelegate::NoHint);
+        }
         return text;
     }
+
+private:
+    QLineEdit* openEditor() const { return qobject_cast<QLineEdit*>(indexWidget(currentIndex())); }
 };
 
 namespace {
