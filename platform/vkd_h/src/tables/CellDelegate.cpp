@@ -53,6 +53,18 @@ protected:
 private:
     bool m_isBrowsing = false;
 };
+
+/// Opens the list after the view has placed the combo box. The list of a closed editor stays
+/// closed: while the view closes an editor, it also sends the events posted to the editor.
+void showListLater(VKD_QT4_ComboBox* combo, const VKD_H_TableWidget* table,
+                   const QPersistentModelIndex& cell)
+{
+    const auto show = [combo, table, cell] {
+        if (table->indexWidget(cell) == combo)
+            combo->showPopup();
+    };
+    QMetaObject::invokeMethod(combo, show, Qt::QueuedConnection);
+}
 } // namespace
 
 CellDelegate::CellDelegate(VKD_H_TableWidget* table)
@@ -134,7 +146,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     const QTableWidgetItem* header = m_table->horizontalHeaderItem(index.column());
     const QString name = header ? header->text() : QString();
     if (auto choice = dynamic_cast<const VKD_H_TwSimpleComboBoxItem*>(item))
-        return newCombo(parent, *choice, name);
+        return newCombo(parent, *choice, index, name);
     if (auto number = dynamic_cast<const VKD_H_TwSimpleLineEditItem*>(item)) {
         StructLineEdit description = number->description();
         return new VKD_H_LineEdit(parent, &description, "cellEdit", name, QString(), true);
@@ -142,21 +154,23 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     return QStyledItemDelegate::createEditor(parent, option, index);
 }
 
-QWidget* CellDelegate::newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,
-                                const QString& name) const
+VKD_QT4_ComboBox* CellDelegate::newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,
+                                         const QPersistentModelIndex& cell,
+                                         const QString& name) const
 {
     auto combo = new CellCombo(parent, "cellCombo");
     for (const ComboList& entry : item.entries())
         combo->addEntry(entry.text, entry.id);
     combo->setAccessibleName(name);
     auto self = const_cast<CellDelegate*>(this);
-    connect(combo, QOverload<int>::of(&QComboBox::activated), self, [self, combo] {
-        if (combo->isBrowsing())
+    connect(combo, QOverload<int>::of(&QComboBox::activated), self, [self, combo, cell] {
+        // The view may have closed the editor together with its list.
+        if (combo->isBrowsing() || self->m_table->indexWidget(cell) != combo)
             return;
         Q_EMIT self->commitData(combo);
         Q_EMIT self->closeEditor(combo);
     });
-    QMetaObject::invokeMethod(combo, &QComboBox::showPopup, Qt::QueuedConnection);
+    showListLater(combo, m_table, cell);
     return combo;
 }
 

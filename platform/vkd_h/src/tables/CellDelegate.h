@@ -4,6 +4,7 @@
 
 class VKD_H_TableWidget;
 class VKD_H_TwSimpleComboBoxItem;
+class VKD_QT4_ComboBox;
 
 /// Paints and edits the cells of a VKD_H_TableWidget. Cells with a combo box have an arrow.
 class CellDelegate : public QStyledItemDelegate
@@ -30,8 +31,8 @@ public:
     bool eventFilter(QObject* editor, QEvent* event) override;
 
 private:
-    QWidget* newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,
-                      const QString& name) const;
+    VKD_QT4_ComboBox* newCombo(QWidget* parent, const VKD_H_TwSimpleComboBoxItem& item,
+                               const QPersistentModelIndex& cell, const QString& name) const;
 
     VKD_H_TableWidget* m_table;
 };
