@@ -329,7 +329,7 @@ private:
     template <class Dialog>
     static QString shownAfterStep(int type, int next)
     {
-        const auto usualRecord = [](int of) { // without hints at unusual values
+        const auto usualRecord = [](int of) { // without hints about unusual values
             tagZOB_QUAD_RIM usual = unevenRecord(of);
             for (plib::RealField width : plib::fields::CrackWidths)
                 usual.*width /= 10;

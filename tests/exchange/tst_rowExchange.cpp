@@ -299,8 +299,7 @@ private Q_SLOTS:
         QCOMPARE(lettersOf(rows), before);
     }
 
-    /// The change between two texts, which an undo step saves, does not repeat what they have in
-    /// common.
+    /// An undo step saves the change between two texts without the parts that they have in common.
     void textChanges_data()
     {
         const Columns<QString, QString, QString> row("before", "after", "expected");

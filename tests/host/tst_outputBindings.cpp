@@ -177,7 +177,7 @@ private Q_SLOTS:
         QWidget other;
         {
             Desk desk(m_project, VKD_P_GraphicalOutput_Standard, animator);
-            animator->setParent(&other); // by the host, which keeps it there
+            animator->setParent(&other); // the host keeps it in another widget
         }
         QCOMPARE(animator->parentWidget(), &other);
     }

@@ -312,7 +312,8 @@ private Q_SLOTS:
     {
         HostProject project(QStringLiteral("hall"));
         Desk desk(project, VKD_P_GraphicalOutput_Split);
-        QVERIFY(!desk.find<QLabel>("scriptCounts")->isVisible()); // its sheets are not counted
+        // The sheets of this page are not counted.
+        QVERIFY(!desk.find<QLabel>("scriptCounts")->isVisible());
         const auto combo = desk.find<QComboBox>("COMBO_PAGESPLITTING");
         QStringList texts;
         for (int id = 0; id < combo->count(); ++id) {

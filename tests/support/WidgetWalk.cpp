@@ -304,8 +304,8 @@ void Walk::lookForCover(const QWidget* widget)
     }
 }
 
-/// Reports a button that shows nothing, or only a picture that no tool tip explains. Derived tool
-/// buttons may paint a picture of their own.
+/// Reports a button that shows nothing, or only a picture without a tool tip. Derived tool buttons
+/// may paint their own picture.
 void Walk::lookForFace(const QWidget* widget)
 {
     const auto button = qobject_cast<const QAbstractButton*>(widget);

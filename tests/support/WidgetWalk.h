@@ -11,7 +11,7 @@ namespace testsupport {
 
 /// Returns the problems of a visible window on all of its tabs:
 /// - controls without an accessible name or with the same name as another control;
-/// - truncated text, and widgets that extend beyond their parent or overlap another one;
+/// - truncated text, and widgets that extend beyond their parent or overlap each other;
 /// - buttons that show nothing, or only a picture without a tool tip;
 /// - a tab order that differs from the reading order, which is row by row within each group box;
 /// - dialog choices or numbers that the mouse wheel changes;

@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(box.currentText(), QStringLiteral("Ø12.7"));
     }
 
-    /// Only the bars of area elements, on the lower and the upper side, begin with 10 mm.
+    /// Only the lists of bars of area elements, for the lower and the upper side, begin with 10 mm.
     void barsOfNewRecords()
     {
         QVector<float> diameters;

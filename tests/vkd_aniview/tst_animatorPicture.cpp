@@ -64,7 +64,8 @@ private Q_SLOTS:
         }
     }
 
-    /// A wall that is seen edge-on is as thick as in the model, but never a hairline.
+    /// A wall that is seen edge-on is drawn as thick as in the model, but never as thin as a
+    /// hairline.
     void thickness()
     {
         const testsupport::TemporaryProject project;

@@ -52,7 +52,7 @@ Model storey()
 }
 
 /// Two plates, one above the other, with beams along one edge. The lower plate consists of groups 1
-/// and 2, which are side by side in the direction of x.
+/// and 2, which are side by side in the x direction.
 Model largeStorey(int side)
 {
     Model model;
@@ -93,7 +93,7 @@ QRectF extentOf(const SceneView::Drawn& drawn, int group)
     return {least, most};
 }
 
-/// Returns the least and the greatest x of a group's faces.
+/// Returns the smallest and the largest x-coordinate of a group's faces.
 std::pair<float, float> rangeOf(const SceneView::Drawn& drawn, int group)
 {
     std::pair<float, float> range(1e9F, -1e9F);

@@ -33,7 +33,7 @@ struct Drawing
         area.translate(-Node.toPoint());
     }
 
-    /// Compares the area relative to the node, except for the width of the lines.
+    /// Compares the area relative to the node, ignoring the width of the lines.
     bool covers(const QRectF& wanted) const
     {
         const QRectF drawn = area.isEmpty() ? QRectF() : QRectF(area);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QVERIFY2(drawing.covers(area), drawing.told().constData());
     }
 
-    /// The name of an axis along the view is drawn to the lower left of the origin.
+    /// The name of an axis along the viewing direction is drawn to the lower left of the origin.
     void triad()
     {
         const Drawing drawing([](QPainter& painter) {

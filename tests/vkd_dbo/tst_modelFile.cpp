@@ -127,7 +127,7 @@ private Q_SLOTS:
                  QStringLiteral("line 1, column %1").arg(many.size() + 3));
     }
 
-    /// A long list is parsed in pieces, because the parsed list would take much more memory.
+    /// A long list is parsed in pieces, because parsing it as a whole would take much more memory.
     void pieces()
     {
         QByteArray nodes;

@@ -78,7 +78,7 @@ sub => none
     void settings()
     {
         constexpr int Key = 4711;
-        QCOMPARE(vkd_lib_getvalue(Key), 0); // has never been set
+        QCOMPARE(vkd_lib_getvalue(Key), 0); // the key has never been set
         vkd_lib_setvalue(Key, 5);
         QCOMPARE(vkd_lib_getvalue(Key), 5);
     }

@@ -160,7 +160,7 @@ private Q_SLOTS:
         QTEST(broken == 0, "alwaysWhole");
     }
 
-    /// A process that exits during a change leaves neither a part of it nor a journal.
+    /// A process that exits during a change leaves neither a part of the change nor a journal.
     void exitDuringAChange()
     {
         makeProject(m_path, {record(1, 300)});

@@ -181,9 +181,12 @@ private Q_SLOTS:
         row("unchanged and removed by them", "@2", "@0 -", "B|>C, or A*|B|>C changed");
         row("renamed by both", "@1 =m !:m", "@1 =t", "A|>m:m*|C|t changed");
         row("moved by both", "@0 ^2", "@1 ^0", "B|C|>A changed");
-        row("removed, restored after their change", "@0 - / u", "@1 !:t", ">A|B:t|C");
-        row("removed, restored after they renamed it", "@0 - / u", "@0 =t", ">A*|B|C|t changed");
-        row("restored name used by them", "@2 + =N - / u", "@2 + =N", "A|B|C|>N (2)*|N changed");
+        row("removed, restored after a change by another program", "@0 - / u", "@1 !:t",
+            ">A|B:t|C");
+        row("removed, restored after another program renamed it", "@0 - / u", "@0 =t",
+            ">A*|B|C|t changed");
+        row("restored name used by another program", "@2 + =N - / u", "@2 + =N",
+            "A|B|C|>N (2)*|N changed");
     }
 
     /// Another program has stored the project's list in the meantime.
@@ -480,7 +483,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!listed(*window).contains(QLatin1String(">/")));
     }
 
-    /// A text that a field refuses stays in the field until the user gives it up.
+    /// A text that a field refuses stays in the field until the user discards it.
     void refusedText()
     {
         const auto window = open("a.zob");

@@ -400,7 +400,7 @@ private Q_SLOTS:
         QCOMPARE(press(view, Qt::Key_PageUp), 700);
         QVERIFY(view->verticalScrollBar()->value() > 0);
 
-        // In its actual size, the sheet can be scrolled so that its last corner is visible.
+        // At actual size, the sheet can be scrolled so that its bottom right corner is visible.
         find<QComboBox>(preview, "SheetZoom")->setCurrentIndex(SheetView::ActualSize);
         QVERIFY(qAbs(view->sheetRect().width() * 25.4 / view->logicalDpiX() - 210.0) < 0.1);
         view->horizontalScrollBar()->setValue(view->horizontalScrollBar()->maximum());

@@ -113,7 +113,7 @@ private Q_SLOTS:
                 widget->close(); // the help window
     }
 
-    /// Users know the keys from the manual.
+    /// The shortcuts do not change, because users know them from the manual.
     void shortcuts()
     {
         const MainWindow window;

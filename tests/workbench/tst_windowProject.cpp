@@ -301,7 +301,7 @@ private Q_SLOTS:
         other.reset();
         find<QDialog>(*window, "OutputDialog")->reject();
         QTRY_COMPARE(script(*window), proposed);
-        QVERIFY(window->openProject(path("unreadable.zob"))); // its script follows
+        QVERIFY(window->openProject(path("unreadable.zob"))); // the script is generated afterwards
         other = std::make_unique<OtherProgram>(path("unreadable.zob"), OtherProgram::Storing);
         readMessage(messages);
         QTRY_COMPARE(messages.size(), 3);

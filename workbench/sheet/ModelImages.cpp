@@ -35,8 +35,8 @@ vkd::dbo::Camera lookingFrom(double x, double y, double z)
     return camera;
 }
 
-/// Returns the frame aligned to whole device pixels, so that the image is sharp. Its size does not
-/// depend on its position on the sheet, so that frames of the same size share an image.
+/// Returns the frame aligned to whole device pixels, so that the image is sharp. The size does not
+/// depend on the position on the sheet, so that frames of the same size share an image.
 QRectF dotsOf(const QPainter& painter, const QRectF& frame)
 {
     const QRectF exact = painter.deviceTransform().mapRect(frame);

@@ -22,9 +22,9 @@ namespace widgetgraphicaloutput {
 ///   of the user's last action. If that action did not change the page, adds a step with this name.
 ///   A host uses this method if an action of the page, for example Default Settings, also changes
 ///   the state of the host.
-/// - `QByteArray steps()` returns the history for another page of the same process, which replaces
-///   this page, for example after a language change. The names of the steps are not translated.
-///   Without steps, returns an empty array.
+/// - `QByteArray steps()` returns the history for a page of the same process that replaces this
+///   page, for example after a language change. The names of the steps are not translated. Without
+///   steps, returns an empty array.
 /// - `bool setSteps(QByteArray steps)` replaces the history with that of another page. If the state
 ///   of the host differs, `hostStateRestored()` is emitted. If the settings or the checked plots of
 ///   the pages differ, does nothing and returns false.

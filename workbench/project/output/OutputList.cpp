@@ -185,7 +185,7 @@ void OutputList::setState(const OutputState& state, bool isChanged)
     m_outputs[m_current].isStateChanged = isChanged;
 }
 
-/// Limits the memory. The output that was shown last keeps its steps.
+/// Limits the memory for the undo steps. The current output always keeps its steps.
 void OutputList::setSteps(const QByteArray& steps)
 {
     qint64 size = 0;
@@ -231,7 +231,7 @@ void OutputList::remove()
 
 void OutputList::setOutputs(const QVector<NamedOutput>& outputs, int current)
 {
-    QHash<int, int> saved; // by identifier
+    QHash<int, int> saved; // keyed by identifier
     for (const NamedOutput& output : qAsConst(m_outputs))
         saved.insert(output.id, output.savedIndex);
     m_outputs = outputs;

@@ -94,8 +94,8 @@ void OutputListChange::change(const Order& from, const Order& to, OutputList* li
                                                        : int(current - outputs.begin()));
 }
 
-/// Sets the names that differ between both orders. Another program may have stored an output with
-/// the same name in the meantime. Only a single output may lack a name.
+/// Sets the names that differ between the two orders. Another program may have stored an output
+/// with the same name in the meantime. An output may lack a name only if it is the only one.
 void OutputListChange::rename(const Order& from, const Order& to,
                               QVector<NamedOutput>* outputs) const
 {

@@ -30,7 +30,7 @@ private:
         explicit Order(const OutputList& list);
         QString nameOf(int id) const;
 
-        QVector<QPair<int, QString>> names; ///< by the identifiers, in the order of the list
+        QVector<QPair<int, QString>> names; ///< identifiers and names, in the order of the list
         int current;
     };
 

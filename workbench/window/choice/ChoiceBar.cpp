@@ -85,7 +85,7 @@ void ChoiceBar::filter()
     QTableView* view = m_table->view();
     const int rows = view->model()->rowCount();
     int count = 0;
-    // While updates are enabled, Qt computes the positions of all rows again after each change.
+    // While updates are enabled, Qt recomputes the positions of all rows after each change.
     view->setUpdatesEnabled(false);
     for (int row = 0; row < rows; ++row) {
         const bool matches = shown.matches(m_table->numberInRow(row), m_table->titleInRow(row));

@@ -51,8 +51,8 @@ void EditMenu::followFocus(const QWidget* now)
         }
 }
 
-/// Chooses the page that was used last if its dock is open; otherwise the page of another open
-/// dock. A page that is replaced is missing for a moment.
+/// Chooses the page that was used last if its dock is open; otherwise, the page of another open
+/// dock. A page that is being replaced is missing for a moment.
 void EditMenu::choose()
 {
     const auto isUsable = [](const PageDock* dock) {

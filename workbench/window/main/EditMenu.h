@@ -13,8 +13,9 @@ namespace workbench {
 class PageDock;
 
 /// The Edit menu. It contains the actions of the page that was used last, as long as its dock is
-/// open, or else those of another page. The list of outputs counts as a page. The shortcuts of some
-/// actions, such as Undo, also work while the model or another pane without a page has the focus.
+/// open; otherwise, it contains the actions of another page. The list of outputs counts as a page.
+/// The shortcuts of some actions, such as Undo, also work while the model or another pane without a
+/// page has the focus.
 class EditMenu : public QObject
 {
     Q_OBJECT

@@ -18,8 +18,8 @@ class PagesInTurn : public QObject
     Q_OBJECT
 
 public:
-    /// The design dock stays visible while `banner` is shown, because groups are being picked.
-    /// `owner` must destroy the object before the window destroys the widgets.
+    /// The design dock stays visible while `banner` is shown, because it is needed for picking
+    /// groups. `owner` must destroy the object before the window destroys the widgets.
     PagesInTurn(QMainWindow* window, OutputDock* output, PageDock* design, const QWidget* banner,
                 QObject* owner);
 

@@ -58,7 +58,7 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
-    /// Returns whether there are changes or texts that a field refuses. Such a text is not part of
+    /// Returns whether there are changes, or texts that a field refuses. Such a text is not part of
     /// the state, but the user must not lose it without being asked.
     bool hasUnsavedInput();
     /// Enables or disables Apply and Discard.

@@ -20,7 +20,7 @@ public:
     void restore(const QWidget* page) const;
 
 private:
-    QHash<QString, QString> m_texts; ///< by the object name of the field
+    QHash<QString, QString> m_texts; ///< keyed by the object name of the field
 };
 
 } // namespace workbench

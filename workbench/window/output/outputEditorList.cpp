@@ -103,7 +103,7 @@ bool OutputEditor::changeCurrent(const std::function<void(OutputList*)>& change)
     const int count = m_outputs.size();
     change(&m_outputs);
     if (m_outputs.size() > count)
-        present.plots.endSearch(); // the words were meant for another output
+        present.plots.endSearch(); // the search belongs to the previous output
     present.state = m_outputs.current().state;
     present.isChanged = m_outputs.current().isStateChanged;
     present.unchanged = m_outputs.current().unchanged;

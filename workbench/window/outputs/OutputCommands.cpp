@@ -109,7 +109,7 @@ void OutputCommands::redo()
         step(m_history.currentAfterRedo(), [this](OutputList* list) { m_history.redo(list); });
 }
 
-/// Shows the output that has changed.
+/// Carries out an undo or redo step and shows the output that has changed.
 void OutputCommands::step(int currentAfter, const Change& change)
 {
     if (currentAfter == m_parts.editor->outputs().current().id)
@@ -157,8 +157,8 @@ void OutputCommands::nameNew()
     m_isNaming = true;
 }
 
-/// Gives the focus to the plots of a new output, so that they can be chosen at once. This happens
-/// later, because the list takes the focus first. Another command of the list prevents it.
+/// Gives the focus to the plots of a new output, so that they can be chosen at once. The list takes
+/// the focus first, so this happens later, unless another command of the list follows.
 void OutputCommands::endNaming(bool byKey)
 {
     if (std::exchange(m_isNaming, false) && byKey)
@@ -197,7 +197,8 @@ bool OutputCommands::finishName()
     return false;
 }
 
-/// Does not ask, because the command can be undone, even after the list has been stored.
+/// Does not ask for confirmation, because the command can be undone, even after the list has been
+/// stored.
 void OutputCommands::remove()
 {
     const QString name = currentName();

@@ -13,7 +13,7 @@ namespace {
 constexpr int MostSteps = 500;
 constexpr std::size_t MostCharacters = 16000000; // in all steps together; 32 MB
 
-/// The name of an output may contain an ampersand, which would be a mnemonic in a menu.
+/// The name of an output may contain an ampersand, which would mark a mnemonic in a menu.
 QString shown(QString name)
 {
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));

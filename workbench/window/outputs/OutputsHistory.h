@@ -21,8 +21,8 @@ class OutputsHistory
 public:
     OutputsHistory();
 
-    /// Adds a step for a change that the user has already made. `name` is the name in the text of
-    /// the step.
+    /// Adds a step for a change that the user has already made. `name` appears in the text of the
+    /// step.
     void record(OutputsStep step, const QString& name, const OutputList& before,
                 const OutputList& after);
     /// Clears the history if the list belongs to another project. Must be called for each new list.

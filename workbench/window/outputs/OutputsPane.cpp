@@ -38,8 +38,8 @@ public:
         if (!editor)
             return QString();
         const QString text = editor->text();
-        // After Return, the delegate commits the text in a posted event. Send it before the editor
-        // is closed.
+        // After Return, the delegate commits the text in a posted event. Send this event before the
+        // editor is closed.
         QCoreApplication::sendPostedEvents(itemDelegate(), QEvent::MetaCall);
         if (editor && editor == openEditor()) {
             commitData(editor);

@@ -38,7 +38,7 @@ public:
     /// Gives the focus to the list, if it is visible.
     void enter();
     /// Opens the editor for the name of the current output, if the list is visible. The editor
-    /// contains `text`, or the name if it is null.
+    /// contains `text`, or the name if `text` is null.
     void editName(const QString& text = QString());
     /// Closes the editor for the name, applies its text and returns it. If no editor is open,
     /// returns a null string.

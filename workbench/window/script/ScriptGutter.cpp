@@ -49,7 +49,7 @@ void ScriptGutter::mousePressEvent(QMouseEvent* event)
         m_view->chooseLine(m_view->lineNear(event->pos().y()));
 }
 
-/// Accepts the end of a click. The script has not received its start.
+/// Accepts the release, because the script has not received the press.
 void ScriptGutter::mouseReleaseEvent(QMouseEvent* event)
 {
     event->accept();

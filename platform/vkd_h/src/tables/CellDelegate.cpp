@@ -55,7 +55,7 @@ private:
 };
 
 /// Opens the list after the view has placed the combo box. The list of a closed editor stays
-/// closed: while the view closes an editor, it also sends the events posted to the editor.
+/// closed: while the view closes an editor, it also delivers the events posted to the editor.
 void showListLater(VKD_QT4_ComboBox* combo, const VKD_H_TableWidget* table,
                    const QPersistentModelIndex& cell)
 {

@@ -41,7 +41,7 @@ public:
     int upgrade();
     /// Returns whether the records have checksums. Returns false if the version cannot be read.
     bool isUpgraded();
-    /// Forgets what a rolled-back transaction may have changed.
+    /// Drops the cached data that a rolled-back transaction may have changed.
     void rolledBack();
 
     // The following operations return SQLITE_DONE on success.
@@ -49,8 +49,8 @@ public:
     int writeFirst(KeyPair pair, const void* record, int length);
     int append(KeyPair pair, const void* record, int length);
 
-    // The following operations do the same within a transaction, which locks the file against
-    // other programs. Records that are appended after a sequence was cleared overwrite its records.
+    // The following operations may be used only in a transaction that locks the file against other
+    // programs. Records that are appended to a cleared sequence overwrite the old records.
     int clearInside(KeyPair pair);
     /// Looks up the end of the sequence only once and caches it.
     int appendInside(KeyPair pair, const void* record, int length);

@@ -14,8 +14,8 @@ constexpr char OverwriteSql[] = "UPDATE record SET data = buffered_record(positi
                                 " WHERE key1=?1 AND key2=?2 AND position>=?3 AND position<?4";
 constexpr char InsertSql[] = "INSERT INTO record VALUES(?1, ?2, ?3, buffered_record(?3))";
 constexpr char CutSql[] = "DELETE FROM record WHERE key1=?1 AND key2=?2 AND position>=?3";
-// Only a foreign file contains negative positions. With OR in one statement, SQLite would visit all
-// records of the pair.
+// Only files of other programs can contain negative positions. With OR in one statement, SQLite
+// would visit all records of the pair.
 constexpr char NegativeSql[] = "DELETE FROM record WHERE key1=?1 AND key2=?2 AND position<0";
 constexpr char TouchSql[] = "PRAGMA user_version = 2";
 static_assert(ZobSchemaVersion == 2);
@@ -71,7 +71,7 @@ int SequenceRewrite::flush()
     return code;
 }
 
-/// Continues without the stored records. The positions in a foreign file may have gaps.
+/// Continues without the stored records. The positions in files of other programs may have gaps.
 int SequenceRewrite::insertBuffered(int first)
 {
     m_end = first;
@@ -115,8 +115,8 @@ int SequenceRewrite::finish()
 }
 
 /// Writes the header of the file, so that the commit syncs the file even if all records are
-/// unchanged. The change that wrote these records may not be durable yet, because it failed to make
-/// the removal of its journal durable.
+/// unchanged. If the removal of its journal could not be synced, the change that wrote these
+/// records is not durable yet.
 int SequenceRewrite::touchFile()
 {
     const int code = m_touch.prepare(m_connection, TouchSql);

@@ -11,7 +11,7 @@ struct sqlite3_context;
 struct sqlite3_value;
 
 /// Replaces the records of a cleared sequence in place. Programs usually store a sequence by
-/// clearing it and appending all records again, although most of them have not changed. SQLite does
+/// clearing it and appending all records again, although most records have not changed. SQLite does
 /// not journal or write a page whose bytes stay the same, and it overwrites many records with one
 /// statement faster than it deletes and inserts them. RecordTable uses this class within a change.
 /// Operations that return an int return an SQLite result code, which is SQLITE_DONE on success.
@@ -50,6 +50,6 @@ private:
     KeyPair m_pair{};
     int m_end = 0;                   // the stored records before this position are overwritten
     int m_next = 0;                  // position of the next record
-    std::vector<std::size_t> m_ends; // of the buffered records in m_bytes
+    std::vector<std::size_t> m_ends; // ends of the buffered records in m_bytes
     std::vector<unsigned char> m_bytes;
 };
