@@ -6,14 +6,16 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QToolTip>
+#include <QWindow>
 
 using namespace testsupport;
 
-/// The cells of the page's table: editors, widths, tool tips, marks.
+/// The cells of the page's table: editors, selection, widths, tool tips, marks.
 class tst_designCells : public QObject
 {
     Q_OBJECT
@@ -225,6 +227,37 @@ private Q_SLOTS:
         QCOMPARE(desk.table()->item(action.isEmpty() ? 1 : 2, 1)->text(), chosen);
         QCOMPARE(m_project->records().back().group, 2);
         QVERIFY(m_project->records().back().type != 0);
+    }
+
+    /// Clicks with Ctrl add cells to the selection, even cells in which a click opens an editor.
+    /// The button in the last of several selected cells edits all their rows.
+    void selectingSeveralRows()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
+        QTableWidget* table = desk.table();
+        QWindow* window = desk.windowHandle();
+        const auto at = [&](int row) {
+            return table->viewport()->mapTo(&desk,
+                                            table->visualItemRect(table->item(row, 3)).center());
+        };
+        QTest::mousePress(window, Qt::LeftButton, {}, at(0));
+        for (int row : {1, 2})
+            for (int pixel : {0, 3})
+                QTest::mouseMove(window, at(row) + QPoint(pixel, pixel));
+        QTest::mouseRelease(window, Qt::LeftButton, {}, at(2));
+        QTRY_COMPARE(desk.editors(), QStringLiteral("2,3"));
+        QString title;
+        whenModal([&title](QWidget* dialog) {
+            title = find<QLabel>(*dialog, "rowTitle")->accessibleName();
+            dialog->close();
+        });
+        QTest::mouseClick(window, Qt::LeftButton, {}, at(2));
+        QCOMPARE(title, QStringLiteral("Rows 1-3: groups 1, 2 and remaining groups"));
+        table->clearSelection();
+        for (int row : {1, 2})
+            QTest::mouseClick(window, Qt::LeftButton, Qt::ControlModifier, at(row));
+        desk.press("btnDelete");
+        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups"));
     }
 
 private:

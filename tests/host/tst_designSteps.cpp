@@ -16,7 +16,6 @@
 #include <QMimeData>
 #include <QToolButton>
 #include <QToolTip>
-#include <QWindow>
 
 using namespace testsupport;
 
@@ -447,37 +446,6 @@ private Q_SLOTS:
             desk.keys({Qt::Key_F2});
         }
         QCOMPARE(notes.join(QLatin1Char('|')), QStringLiteral("the crack|the steel"));
-    }
-
-    /// Clicks with Ctrl add cells to the selection, even cells in which a click opens an editor.
-    /// The button in the last of several selected cells edits all their rows.
-    void selectingSeveralRows()
-    {
-        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1), record(2, 2, 2)});
-        QTableWidget* table = desk.table();
-        QWindow* window = desk.windowHandle();
-        const auto at = [&](int row) {
-            return table->viewport()->mapTo(&desk,
-                                            table->visualItemRect(table->item(row, 3)).center());
-        };
-        QTest::mousePress(window, Qt::LeftButton, {}, at(0));
-        for (int row : {1, 2})
-            for (int pixel : {0, 3})
-                QTest::mouseMove(window, at(row) + QPoint(pixel, pixel));
-        QTest::mouseRelease(window, Qt::LeftButton, {}, at(2));
-        QTRY_COMPARE(desk.editors(), QStringLiteral("2,3"));
-        QString title;
-        whenModal([&title](QWidget* dialog) {
-            title = find<QLabel>(*dialog, "rowTitle")->accessibleName();
-            dialog->close();
-        });
-        QTest::mouseClick(window, Qt::LeftButton, {}, at(2));
-        QCOMPARE(title, QStringLiteral("Rows 1-3: groups 1, 2 and remaining groups"));
-        table->clearSelection();
-        for (int row : {1, 2})
-            QTest::mouseClick(window, Qt::LeftButton, Qt::ControlModifier, at(row));
-        desk.press("btnDelete");
-        QCOMPARE(desk.groups(), QStringLiteral("Remaining Groups"));
     }
 
     /// Steps that change very many rows are dropped, oldest first. The others still work, and the
