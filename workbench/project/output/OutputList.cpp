@@ -95,8 +95,11 @@ void OutputList::setStored()
     m_storedNames = names();
     for (int i = 0; i < size(); ++i) {
         NamedOutput& output = m_outputs[i];
-        output = {output.name, output.state, false,       output.name, output.state,
-                  i,           output.id,    output.steps};
+        output.isStateChanged = false;
+        output.savedName = output.name;
+        output.savedState = output.state;
+        output.savedIndex = i;
+        output.unchanged.clear();
     }
 }
 
