@@ -257,7 +257,7 @@ BENCHMARK(fillDocument)->Unit(benchmark::kMillisecond);
 BENCHMARK(checkAll)->Unit(benchmark::kMillisecond);
 BENCHMARK(makeScript)->Unit(benchmark::kMillisecond);
 BENCHMARK(offerLoadCase)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
-BENCHMARK(filterLoadCases)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
+BENCHMARK(filterLoadCases)->Arg(Many)->Unit(benchmark::kMillisecond);
 BENCHMARK(openDialog)->Arg(Few)->Arg(Many)->Unit(benchmark::kMillisecond);
 BENCHMARK(viewMemory)->Unit(benchmark::kMillisecond);
 BENCHMARK(textMemory)->Unit(benchmark::kMillisecond);
@@ -280,8 +280,7 @@ int main(int argc, char* argv[])
          {"offerLoadCase/10000", "offerLoadCase/1000", 1.4, "the same with 1000 load cases",
           Figure::TimePerItem},
          {"offerLoadCase/10000", "", 1.0, "megabytes that remain in use", Figure::Memory},
-         {"filterLoadCases/10000", "filterLoadCases/1000", 1.4, "the same with 1000 load cases",
-          Figure::TimePerItem},
+         {"filterLoadCases/10000", "", 33.0, "milliseconds, so that each letter takes one frame"},
          {"openDialog/10000", "openDialog/1000", 1.4, "the same with 1000 load cases",
           Figure::TimePerItem},
          {"openDialog/10000", "openDialog/1000", 10.5, "the same with a tenth of the load cases",
