@@ -24,7 +24,6 @@
 using plib::NamedField;
 using testsupport::find;
 using testsupport::whenModal;
-using testsupport::whenProgress;
 
 namespace {
 /// Returns a record whose floating-point fields all have different values, with more digits than

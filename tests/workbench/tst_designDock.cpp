@@ -13,7 +13,6 @@
 #include <QTreeWidget>
 
 using namespace windowtest;
-using workbench::MainWindow;
 
 namespace {
 int markedRows(const QTreeWidget* list)

@@ -23,8 +23,8 @@ constexpr double Tint = 0.25; // proportion of the highlight colour in the curre
 
 QColor tinted(const QPalette& palette)
 {
-    const QColor base = palette.color(QPalette::Base);
-    const QColor light = palette.color(QPalette::Highlight);
+    const QColor& base = palette.color(QPalette::Base);
+    const QColor& light = palette.color(QPalette::Highlight);
     const auto mixed = [](int a, int b) { return int(a + Tint * (b - a)); };
     return {mixed(base.red(), light.red()), mixed(base.green(), light.green()),
             mixed(base.blue(), light.blue())};
@@ -122,6 +122,7 @@ QVector<int> GroupList::selectedGroups() const
 std::vector<int> GroupList::groups() const
 {
     std::vector<int> groups;
+    groups.reserve(std::size_t(topLevelItemCount()));
     for (int row = 0; row < topLevelItemCount(); ++row)
         groups.push_back(groupOf(topLevelItem(row)));
     return groups;
