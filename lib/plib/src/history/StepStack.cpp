@@ -99,6 +99,7 @@ void StepStack::clear()
 std::vector<std::shared_ptr<HistoryStep>> StepStack::steps() const
 {
     std::vector<std::shared_ptr<HistoryStep>> steps;
+    steps.reserve(std::size_t(m_stack.count()));
     for (int index = 0; index < m_stack.count(); ++index)
         steps.push_back(static_cast<const Command*>(m_stack.command(index))->step());
     return steps;

@@ -8,7 +8,7 @@
 #include <cstring>
 
 namespace {
-constexpr std::size_t MostBufferedBytes = 64 * 1024;
+constexpr std::size_t MostBufferedBytes = 65536;
 
 constexpr char OverwriteSql[] = "UPDATE record SET data = buffered_record(position)"
                                 " WHERE key1=?1 AND key2=?2 AND position>=?3 AND position<?4";
