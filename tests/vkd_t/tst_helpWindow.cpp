@@ -222,6 +222,8 @@ private Q_SLOTS:
         QCOMPARE(host(), dialog->windowHandle());
         dialog->hide();
         QCOMPARE(host(), main->windowHandle());
+        QVERIFY(show(helpPage(), "PARA"));
+        QCOMPARE(host(), main->windowHandle());
         QVERIFY(show(page, "PARA"));
         QCOMPARE(host(), dialog->windowHandle());
         dialog.reset();

@@ -73,12 +73,11 @@ void TransientParent::followModal()
 
 void TransientParent::drop(QWidget* gone)
 {
-    const bool wasHost = gone == m_hosts.first();
     forget(gone);
     m_hosts.removeOne(gone);
     if (m_hosts.isEmpty())
         m_window->close();
-    else if (wasHost)
+    else
         applyHost();
 }
 
