@@ -12,13 +12,21 @@
 using vkd::properties::nextGen::QtTableView;
 
 namespace {
+/// Without data, a drag ends at once.
+struct Model : QStandardItemModel
+{
+    using QStandardItemModel::QStandardItemModel;
+    QMimeData* mimeData(const QModelIndexList&) const override { return ++dragged, nullptr; }
+    mutable int dragged = 0;
+};
+
 /// A visible table of three load cases. Each has an editable title with a check box, and a kind
 /// that is not editable.
 class Table : public QtTableView
 {
 public:
     Table()
-        : m_model(*new QStandardItemModel(3, 2, this))
+        : m_model(*new Model(3, 2, this))
     {
         for (int row = 0; row < 3; ++row) {
             auto title = new QStandardItem(QStringLiteral("LC %1").arg(row + 1));
@@ -67,7 +75,8 @@ public:
     bool drop()
     {
         const QString before = titles();
-        const std::unique_ptr<QMimeData> mime(m_model.mimeData({m_model.index(2, 0)}));
+        const std::unique_ptr<QMimeData> mime(
+            m_model.QStandardItemModel::mimeData({m_model.index(2, 0)}));
         const QPoint belowRows(5, viewport()->height() - 5);
         QDragEnterEvent enter(belowRows, Qt::CopyAction, mime.get(), Qt::LeftButton, {});
         QCoreApplication::sendEvent(viewport(), &enter);
@@ -75,12 +84,19 @@ public:
         QCoreApplication::sendEvent(viewport(), &event);
         return titles() != before;
     }
+    /// Returns whether a drag with these actions reads the data of the cells.
+    bool drags(Qt::DropActions actions)
+    {
+        const int before = m_model.dragged;
+        startDrag(actions);
+        return m_model.dragged > before;
+    }
     QImage picture(int column)
     {
         return viewport()->grab(visualRect(m_model.index(1, column))).toImage();
     }
 
-    QStandardItemModel& m_model;
+    Model& m_model;
 };
 } // namespace
 
@@ -96,6 +112,8 @@ private Q_SLOTS:
             table.set_read_only(readOnly);
             QCOMPARE(table.clickOnBox(), !readOnly);
             QCOMPARE(table.drop(), !readOnly);
+            QVERIFY(table.drags(Qt::CopyAction | Qt::MoveAction));
+            QCOMPARE(table.drags(Qt::MoveAction), !readOnly);
             table.setCurrentIndex(table.m_model.index(0, 0));
             const QString before = table.titles();
             for (int key : {Qt::Key_F2, Qt::Key_X, Qt::Key_Space, Qt::Key_Delete})

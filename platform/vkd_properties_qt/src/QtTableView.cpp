@@ -22,13 +22,13 @@ void QtTableView::set_read_only(bool readOnly)
 {
     if (readOnly == m_readOnly)
         return;
-    if (readOnly)
-        closeOpenEditor();
     m_readOnly = readOnly;
-    if (readOnly)
+    if (readOnly) {
+        closeOpenEditor();
         disableWidgets();
-    else
+    } else {
         enableWidgets();
+    }
     viewport()->update();
 }
 
