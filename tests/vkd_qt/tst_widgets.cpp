@@ -15,11 +15,14 @@
 #include <vkd_qt_xmlpart.h>
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QTabWidget>
+#include <QToolTip>
 #include <QTranslator>
 #include <QVBoxLayout>
 
@@ -61,6 +64,7 @@ private Q_SLOTS:
         VKD_QT_Dialog dialog;
         auto layout = new QVBoxLayout(&dialog);
         dialog.show();
+        QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
         const QRect area = dialog.screen()->availableGeometry();
         dialog.move(area.bottomRight() - QPoint(dialog.width(), dialog.height()));
         for (int row = 0; row < 10; ++row)
@@ -186,6 +190,22 @@ private Q_SLOTS:
 )");
     }
 
+    void cutEntryHasAToolTip()
+    {
+        VKD_QT4_ComboBox combo(nullptr, "cbo");
+        combo.addItems({QStringLiteral("an entry that is cut"), QStringLiteral("x")});
+        combo.setPlaceholderText(QStringLiteral("a hint that is cut"));
+        combo.resize(70, 30);
+        const auto tipOf = [&combo](int index) {
+            combo.setCurrentIndex(index);
+            QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), combo.mapToGlobal(QPoint(1, 1)));
+            QCoreApplication::sendEvent(&combo, &event);
+            return QToolTip::text();
+        };
+        QCOMPARE(tipOf(-1) + tipOf(1), QString());
+        QCOMPARE(tipOf(0), combo.itemText(0));
+    }
+
     void tabDialogNotifiesItsPages()
     {
         VKD_QT_TabDialog dialog;
@@ -237,6 +257,31 @@ private Q_SLOTS:
         QCOMPARE(item->asked, 0);
         item->setText(QStringLiteral("y"));
         QVERIFY(button.accessibleName().endsWith(QLatin1String(": y")));
+    }
+
+    void cellButtonShowsMarkAndFocus()
+    {
+        struct Style : QProxyStyle
+        {
+            void drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const override
+            {
+                focusFrames += element == PE_FrameFocusRect;
+                QProxyStyle::drawPrimitive(element, option, painter, widget);
+            }
+            mutable int focusFrames = 0;
+        } style;
+        VKD_QT_TableWidgetButton button(nullptr, nullptr, VKD_QT_TableWidgetButton::MarkOnly);
+        button.setStyle(&style);
+        button.setPalette(QPalette(Qt::white));
+        button.setFlat(true);
+        QVERIFY(contrast(button) > 100);
+        QCOMPARE(style.focusFrames, 0);
+        button.show();
+        QApplication::setActiveWindow(&button);
+        button.setFocus();
+        button.grab();
+        QVERIFY(style.focusFrames > 0);
     }
 
     void titleOfABoxIsNotCut()

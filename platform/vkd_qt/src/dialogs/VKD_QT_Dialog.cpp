@@ -8,11 +8,11 @@
 
 #include <utility>
 
+/// Because of the explicit hint, Qt does not add its button for context help.
 VKD_QT_Dialog::VKD_QT_Dialog(QWidget* parent, const char* name, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::WindowCloseButtonHint)
 {
     setObjectName(QLatin1String(name));
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     new KeepOnScreen(this);
 }
 
