@@ -78,6 +78,19 @@ QDialog* openOutput(const QWidget& window)
     return find<QDialog>(window, "OutputDialog");
 }
 
+QString treeText(QTreeWidget* tree)
+{
+    QString text;
+    for (QTreeWidgetItemIterator item(tree); *item; ++item) {
+        for (const QTreeWidgetItem* above = (*item)->parent(); above; above = above->parent())
+            text += QLatin1String("  ");
+        text += QStringLiteral("[%1] %2\n")
+                    .arg(QLatin1Char(" -x"[(*item)->checkState(0)]))
+                    .arg((*item)->text(0));
+    }
+    return text;
+}
+
 void changeChoice(const QWidget& window)
 {
     openOutput(window)->findChild<QTreeWidget*>()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);

@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class QTreeWidget;
+
 /// Functions shared by the tests of the workbench window.
 namespace windowtest {
 
@@ -33,6 +35,8 @@ void answerFileDialog(const QString& path);
 /// Returns the script that the window saves to a file.
 QString savedScript(const QWidget& window, const QString& keywords);
 QDialog* openOutput(const QWidget& window);
+/// Returns the tree in the format that the command line prints.
+QString treeText(QTreeWidget* tree);
 /// Opens the output dialog and unchecks a plot.
 void changeChoice(const QWidget& window);
 /// Opens the design dock and returns it.

@@ -11,7 +11,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -35,20 +34,6 @@ QString printed(const char* command, const QString& project, const QString& lang
     return QString::fromUtf8(commandLine(
         QStringList{QLatin1String(command), project, QStringLiteral("--language"), language} +
         options));
-}
-
-/// Returns the tree in the format that the command line prints.
-QString treeText(QTreeWidget* tree)
-{
-    QString text;
-    for (QTreeWidgetItemIterator item(tree); *item; ++item) {
-        for (const QTreeWidgetItem* above = (*item)->parent(); above; above = above->parent())
-            text += QLatin1String("  ");
-        text += QStringLiteral("[%1] %2\n")
-                    .arg(QLatin1Char(" -x"[(*item)->checkState(0)]))
-                    .arg((*item)->text(0));
-    }
-    return text;
 }
 } // namespace
 
@@ -184,8 +169,10 @@ private Q_SLOTS:
         window->findChild<workbench::ScriptPane*>()->setScript(
             script(*window).replace(QLatin1String("LAST"), QLatin1String("LOAD")));
         QTRY_VERIFY(check->text().startsWith(QLatin1String("Check: findings: ")));
-        check->click();
-        QCOMPARE(view->selectedText(), QStringLiteral("LOAD"));
+        for (int times = 0; times < 2; ++times) { // the only finding follows itself
+            check->click();
+            QCOMPARE(view->selectedText(), QStringLiteral("LOAD"));
+        }
         QVERIFY(
             check->text().endsWith(QLatin1String("\"LOAD\" is a keyword of the other language")));
         QTest::keyClick(words, Qt::Key_Escape);
@@ -235,104 +222,6 @@ private Q_SLOTS:
         for (const char* part : {"\nMATE ", "\nLC 1 ", " STAN 1 -2 1 "})
             QVERIFY2(!saved.contains(QLatin1String(part)), qPrintable(saved));
         QCOMPARE(of("script", {QStringLiteral("--proposed")}), proposed);
-    }
-
-    void choiceOutlastsOffers_data()
-    {
-        const Columns<bool, bool, QString> row("isContent", "isChosen", "pattern");
-        row("load case, chosen", false, true, R"((?s)\[ \] Overview\n.*\[x\] 3 : )");
-        row("load case, proposed", false, false, R"(\[x\] 2 : )");
-        row("content, chosen", true, true, R"(\[ \] Overview\n)");
-        row("content, proposed", true, false, R"(\[x\] Bricks in)");
-    }
-
-    /// In a new project, the tree first offers other plots and afterwards the same plots as before.
-    void choiceOutlastsOffers()
-    {
-        QFETCH(const bool, isChosen);
-        QFETCH(const bool, isContent);
-        const auto window = open("offers.zob");
-        const auto dialog = openOutput(*window);
-        const auto plots = dialog->findChild<QTreeWidget*>();
-        auto loadCase = find<QTableWidget>(*dialog, "LoadCases")->item(0, 1);
-        const auto offer = [&](bool isOther) {
-            if (isContent)
-                find<QAbstractButton>(*dialog, isOther ? "ContentGroup_1" : "ContentGroup_0")
-                    ->click();
-            else
-                loadCase->setCheckState(isOther ? Qt::Unchecked : Qt::Checked);
-        };
-        QTreeWidgetItem* loads = plots->topLevelItem(1)->child(0)->child(0);
-        QVERIFY(loads->child(0)->checkState(0) == Qt::Checked && loads->childCount() > 2);
-        if (isChosen) {
-            plots->topLevelItem(0)->child(0)->setCheckState(0, Qt::Unchecked);
-            loads->child(2)->setCheckState(0, Qt::Checked);
-        }
-        plots->topLevelItem(1)->setExpanded(false);
-        loads->setExpanded(true);
-        plots->setCurrentItem(plots->topLevelItem(2)->child(1));
-        plots->scrollToItem(plots->topLevelItem(2), QTreeWidget::PositionAtTop);
-        const auto tabs = dialog->findChild<QTabWidget*>();
-        tabs->setCurrentIndex(isContent ? 2 : 1); // hides the tree
-        const auto areBranchesKept = [=] {
-            tabs->setCurrentIndex(0);
-            const QTreeWidgetItem* caption = plots->topLevelItem(1);
-            const bool isKept = !caption->isExpanded() &&
-                                caption->child(0)->child(0)->isExpanded() &&
-                                plots->itemAt(0, 0) == plots->topLevelItem(2) &&
-                                plots->currentItem() == plots->topLevelItem(2)->child(1);
-            tabs->setCurrentIndex(isContent ? 2 : 1);
-            return isKept;
-        };
-        const QString before = treeText(plots);
-        QSignalSpy filled(plots->model(), &QAbstractItemModel::modelReset);
-        offer(true);
-        QCOMPARE(filled.size(), 1);
-        QFETCH(const QString, pattern);
-        QTRY_VERIFY2(treeText(plots).contains(QRegularExpression(pattern)),
-                     qPrintable(treeText(plots)));
-        QVERIFY(areBranchesKept());
-        const QString offered = treeText(plots);
-        offer(false);
-        QCOMPARE(filled.size(), 2);
-        QTRY_COMPARE(treeText(plots), before); // once the captions are in English
-        QVERIFY(areBranchesKept());
-        for (const QString& text : {offered, before}) {
-            find<QAction>(*dialog, "undo")->trigger();
-            QCOMPARE(treeText(plots), text);
-        }
-        QVERIFY(loadCase->checkState() == Qt::Checked &&
-                find<QAbstractButton>(*dialog, "ContentGroup_0")->isChecked());
-        QVERIFY(areBranchesKept());
-        find<QAction>(*dialog, "findPlots")->trigger(); // while another tab is shown
-        QCOMPARE(tabs->currentIndex(), 0);
-        QVERIFY(!dialog->hasHeightForWidth()); // otherwise, the page would not fit
-        const auto edit = find<QMenu>(*window, "EditMenu");
-        QVERIFY(edit->menuAction()->isEnabled() &&
-                edit->actions().contains(find<QAction>(*dialog, "undo")));
-        QVERIFY(find<QWidget>(*window, "ScriptDock")
-                    ->actions()
-                    .contains(find<QAction>(*dialog, "undo")));
-        find<QLineEdit>(*dialog, "searchWords")->setText(QStringLiteral("displ"));
-        find<QAction>(*dialog, "findNextPlot")->trigger();
-        const QString hit = find<QLabel>(*dialog, "searchCount")->text();
-        offer(true);
-        QVERIFY(plots->topLevelItem(0)->isHidden());
-        offer(false);
-        QCOMPARE(find<QLabel>(*dialog, "searchCount")->text(), hit);
-        find<QAction>(*dialog, "undo")->trigger();
-        find<QAction>(*dialog, "undo")->trigger();
-        QCOMPARE(find<QLabel>(*dialog, "searchCount")->text(), hit);
-        QCOMPARE(find<QAction>(*dialog, "redo")->text(),
-                 isContent ? QStringLiteral("&Redo Contents")
-                           : QStringLiteral("&Redo Leave Out Load Case 1"));
-        QTreeWidgetItem* system = plots->topLevelItem(0);
-        system->setCheckState(0, Qt::Unchecked);
-        offer(true);
-        find<QAction>(*dialog, "undo")->trigger();
-        find<QAction>(*dialog, "undo")->trigger();
-        offer(true); // after undo, the proposal applies again if nothing has been chosen
-        QCOMPARE(treeText(plots), offered);
     }
 
     /// A camera rotated by the user is restored even if another view was selected and saved.
