@@ -304,10 +304,16 @@ void Walk::lookForCover(const QWidget* widget)
     }
 }
 
-/// Reports a button that shows nothing, or only a picture without a tool tip. Derived tool buttons
-/// may paint their own picture.
+/// Reports a label of a field that shows nothing or whose key does not lead to the field. Reports a
+/// button that shows nothing, or only a picture without a tool tip. Derived tool buttons may paint
+/// their own picture.
 void Walk::lookForFace(const QWidget* widget)
 {
+    const auto label = qobject_cast<const QLabel*>(widget);
+    if (label && label->buddy() && label->text().isEmpty())
+        note(widget, QStringLiteral("shows nothing"));
+    if (label && !label->buddy() && !QKeySequence::mnemonic(label->text()).isEmpty())
+        note(widget, QStringLiteral("has a key but no field"));
     const auto button = qobject_cast<const QAbstractButton*>(widget);
     if (!button || !button->text().isEmpty() || isInner(widget) || isInCell(widget))
         return;
