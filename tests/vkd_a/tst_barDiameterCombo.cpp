@@ -109,8 +109,10 @@ private Q_SLOTS:
         QCOMPARE(box.count(), 3);
         QCOMPARE(box.getCurrent(), 10.0F);
         box.setCurrent(16.0F);
-        QTest::keyClicks(&box, QStringLiteral("10,0"));
+        QTest::keyClicks(&box, QStringLiteral("10"));
         QCOMPARE(box.getCurrent(), 10.0F);
+        QTest::keyClicks(&box, QStringLiteral(",5"));
+        QCOMPARE(box.getCurrent(), 16.0F);
         QVERIFY(!box.setCurrent(12.7F));
         QCOMPARE(box.currentText(), QStringLiteral("Ø12.7"));
     }

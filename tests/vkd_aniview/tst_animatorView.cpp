@@ -287,6 +287,34 @@ private Q_SLOTS:
         QCOMPARE(groups(), (Groups{8, AnimatorView::NoGroup, 7, AnimatorView::NoGroup}));
     }
 
+    void cursors()
+    {
+        const auto shape = [this] { return m_view->cursor().shape(); };
+        for (const auto& [button, dragging] :
+             {std::make_pair(Qt::LeftButton, Qt::ClosedHandCursor),
+              std::make_pair(Qt::RightButton, Qt::SizeAllCursor)}) {
+            send(*m_view, QEvent::MouseButtonPress, Corner, button);
+            QCOMPARE(shape(), dragging);
+            send(*m_view, QEvent::MouseButtonRelease, Corner, button);
+            QCOMPARE(shape(), Qt::OpenHandCursor);
+        }
+        m_view->setPicking(true);
+        send(*m_view, QEvent::MouseMove, Left, Qt::NoButton);
+        QCOMPARE(shape(), Qt::PointingHandCursor);
+        send(*m_view, QEvent::MouseButtonPress, Left, Qt::LeftButton); // may become a click
+        QCOMPARE(shape(), Qt::PointingHandCursor);
+        send(*m_view, QEvent::MouseMove, Right, Qt::LeftButton);
+        QCOMPARE(shape(), Qt::ClosedHandCursor);
+        send(*m_view, QEvent::MouseButtonRelease, Corner, Qt::LeftButton);
+        QCOMPARE(shape(), Qt::ArrowCursor);
+        m_view->setPicking(false);
+        m_view->setEnabled(false);
+        QCOMPARE(shape(), Qt::ArrowCursor);
+        m_view->setEnabled(true);
+        QVERIFY(m_view->setProject(ZobHandle()).isOk());
+        QCOMPARE(shape(), Qt::ArrowCursor);
+    }
+
     void noModel()
     {
         for (const ZobHandle project : {ZobHandle(), m_project->handle()}) {

@@ -195,6 +195,7 @@ private Q_SLOTS:
         QCOMPARE(cells, wanted);
         auto view = driver.find<QTreeView>("groups");
         QVERIFY(!view->isColumnHidden(3));
+        QVERIFY(view->sizeHint().height() > 6 * view->sizeHintForRow(0));
         QStringList headers, orders;
         for (int column = 0; column < 4; ++column) {
             headers << view->model()->headerData(column, Qt::Horizontal).toString();
@@ -245,6 +246,7 @@ private Q_SLOTS:
                      QStringLiteral("Cannot read: x<b>. Type numbers and ranges such as 1-5 9.\n"
                                     "There is no group 8.\n"
                                     "Without area elements: 2"));
+            QVERIFY(driver.find<QLabel>("message")->isVisible());
             QCOMPARE(driver.labelText("count"),
                      QStringLiteral("3 of 6 groups checked, 1 without area elements"));
             driver.select({QStringLiteral("2")});

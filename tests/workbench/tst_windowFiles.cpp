@@ -237,6 +237,8 @@ private Q_SLOTS:
         find<QDockWidget>(*before, "RecordDock")->hide();
         trigger(*before, "CloseProject");
         QCOMPARE(find<QTreeWidget>(*before, "GroupList")->topLevelItemCount(), 0);
+        const auto view = find<QWidget>(*before, "AnimatorView");
+        QCOMPARE(view->cursor().shape(), Qt::ArrowCursor); // no model to turn
         QVERIFY(find<QWidget>(*before, "ScriptDock")->isHidden());
         before->close();
         QFile::remove(path("gone.zob"));
