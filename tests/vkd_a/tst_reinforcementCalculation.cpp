@@ -4,6 +4,7 @@
 #include <vkd_a_barArea.h>
 #include <VKD_A_BarDiameterCombo.h>
 #include <vkd_a_ReinforcementCalculation.h>
+#include <vkd_a_weldedFabric.h>
 #include <VKD_H_LineEdit.h>
 #include <vkd_h_units.h>
 
@@ -108,6 +109,20 @@ private Q_SLOTS:
             QVERIFY(std::fabs(vkd_a_barArea(layout) - area) <= 0.005);
             QCOMPARE(vkd_a_barSpacing(area, layout.diameter, layout.barsPerPlace), layout.spacing);
         }
+    }
+
+    void weldedFabrics()
+    {
+        QStringList areas; // in mm²/m
+        for (const VkdWeldedFabric& fabric : vkd_a_weldedFabrics())
+            areas << QStringLiteral("%1 %2 %3")
+                         .arg(QLatin1String(fabric.name))
+                         .arg(qRound(100.0 * vkd_a_barArea(fabric.along)))
+                         .arg(qRound(100.0 * vkd_a_barArea(fabric.across)));
+        QCOMPARE(areas.join(QLatin1Char('|')),
+                 QStringLiteral("Q188A 188 188|Q257A 257 257|Q335A 335 335|Q424A 424 424|"
+                                "Q524A 524 524|Q636A 636 628|R188A 188 113|R257A 257 113|"
+                                "R335A 335 113|R424A 424 201|R524A 524 201"));
     }
 
     void begins_data()

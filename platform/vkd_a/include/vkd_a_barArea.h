@@ -6,9 +6,9 @@
 /// records.
 struct VkdBarLayout
 {
-    double diameter;  ///< nominal diameter, mm
-    double spacing;   ///< centre-to-centre distance of adjacent places, m
-    int barsPerPlace; ///< 1, or 2 for side-by-side pairs of bars in contact
+    double diameter;      ///< nominal diameter, mm
+    double spacing;       ///< centre-to-centre distance of adjacent places, m
+    int barsPerPlace = 1; ///< 1, or 2 for side-by-side pairs of bars in contact
 };
 
 /// The reason why a bar layout is invalid.
