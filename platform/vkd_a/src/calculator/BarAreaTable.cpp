@@ -8,6 +8,7 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
@@ -20,11 +21,11 @@ const QLatin1String WidestText("000.00");
 template <class List>
 int nearest(const List& values, double wanted)
 {
-    int found = 0;
-    for (int i = 1; i < int(std::size(values)); ++i)
-        if (std::fabs(double(values[i]) - wanted) < std::fabs(double(values[found]) - wanted))
-            found = i;
-    return found;
+    const auto isNearer = [wanted](double a, double b) {
+        return std::fabs(a - wanted) < std::fabs(b - wanted);
+    };
+    return int(std::min_element(std::begin(values), std::end(values), isNearer) -
+               std::begin(values));
 }
 
 /// Compares lengths in metres with a tolerance far below a millimetre.
