@@ -273,7 +273,6 @@ void AnimatorView::drawQuickly(QPainter& painter)
     const SceneView::Drawn drawn = m_scene->quickPicture(m_pace->itemsInFrame());
     QElapsedTimer clock;
     clock.start();
-    painter.setRenderHint(QPainter::Antialiasing, false);
     m_painter->paint(painter, palette(), drawn.geometry, drawn.picture, m_scene->projection(),
                      *m_marks);
     m_pace->painted(drawn.picture.order().size(), 1e-9 * double(clock.nsecsElapsed()));
