@@ -115,8 +115,7 @@ void VKD_H_GroupDialog::addFootButton(QPushButton* button)
 {
     button->setAutoDefault(false);
     m_foot->insertWidget(0, button);
-    if (m_check)
-        setTabOrder(m_check, button);
+    setTabOrder(m_check, button); // does nothing if there are no groups to check
     setTabOrder(button, m_ok->cmdOk());
 }
 
