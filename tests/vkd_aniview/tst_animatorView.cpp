@@ -223,6 +223,24 @@ private Q_SLOTS:
         QVERIFY(picture().pixelColor(Right) != others);
     }
 
+    /// Outlines are dark at the rim of the plates and between groups.
+    void outlines()
+    {
+        const QImage picture = m_view->grab().toImage();
+        const int ground = picture.pixelColor(Left).lightness();
+        const auto crossed = [&](QPoint place, const QPoint& step) {
+            int count = 0;
+            for (bool wasDark = true; picture.rect().contains(place); place += step) {
+                const bool isDark = picture.pixelColor(place).lightness() < ground / 2;
+                count += isDark && !wasDark;
+                wasDark = isDark;
+            }
+            return count;
+        };
+        QCOMPARE(crossed({3, Left.y()}, {1, 0}), 3);
+        QCOMPARE(crossed({Left.x(), 3}, {0, 1}), 2);
+    }
+
     void picking()
     {
         QSignalSpy changed(m_view.get(), &AnimatorView::pickedGroupsChanged);
@@ -285,6 +303,10 @@ private Q_SLOTS:
         send(*m_view, QEvent::MouseMove, Left, Qt::NoButton);
         m_view->setHovering(false);
         QCOMPARE(groups(), (Groups{8, AnimatorView::NoGroup, 7, AnimatorView::NoGroup}));
+        m_view->setHovering(true);
+        send(*m_view, QEvent::MouseMove, Left, Qt::NoButton);
+        m_view->reload();
+        QCOMPARE(groups(), (Groups{7, AnimatorView::NoGroup}));
     }
 
     void cursors()

@@ -131,6 +131,15 @@ private Q_SLOTS:
             "A|B|C|>N (2)*|N changed");
     }
 
+    /// The only output of a project has no name until the user or another program enters one.
+    void namedByAnotherProgram()
+    {
+        OutputList outputs, project;
+        perform(QStringLiteral("=A s"), &project);
+        outputs.follow(project, OutputList::Removed::Drop);
+        QCOMPARE(shown(outputs), QStringLiteral(">A"));
+    }
+
     /// Another program has stored the project's list in the meantime.
     void following()
     {

@@ -4,7 +4,9 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <random>
 
@@ -130,6 +132,14 @@ private Q_SLOTS:
         QCOMPARE(view->selectedText(), QStringLiteral(" four\nf"));
     }
 
+    void cursorBlinks()
+    {
+        QApplication::setCursorFlashTime(40);
+        const std::unique_ptr<ScriptView> view = shown("one", 400);
+        const QImage first = view->viewport()->grab().toImage();
+        QTRY_VERIFY(view->viewport()->grab().toImage() != first);
+    }
+
     /// The first change is visible, even if lines were only removed.
     void placeAfterChanges()
     {
@@ -149,6 +159,15 @@ private Q_SLOTS:
         QCOMPARE(view->marks().removedBefore(70000), 1);
         QVERIFY(!view->marks().isChanged(70000));
         const QImage removed = view->viewport()->grab().toImage();
+        view->verticalScrollBar()->setValue(69995);
+        const auto hintBeside = [&view](int line) {
+            QHelpEvent event(QEvent::ToolTip, {3, view->cursorRect(5 * line).center().y()}, {});
+            QCoreApplication::sendEvent(view->findChild<QWidget*>(QStringLiteral("ScriptGutter")),
+                                        &event);
+            return QToolTip::text();
+        };
+        QCOMPARE(hintBeside(70001), QString());
+        QVERIFY(hintBeside(69999).endsWith(QLatin1Char('1')));
         view->setLines(view->lines(), {});
         view->verticalScrollBar()->setValue(top);
         QVERIFY(view->viewport()->grab().toImage() != removed && added != removed);
