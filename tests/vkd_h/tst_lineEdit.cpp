@@ -230,8 +230,10 @@ private Q_SLOTS:
         dialog.box.layout()->addWidget(edit);
         edit->show();
         edit->setFocus();
+        const QSize size = edit->sizeHint();
         type(edit, QTest::currentDataTag());
         QCOMPARE(edit->doubt(), doubt);
+        QCOMPARE(edit->sizeHint(), size);
         const bool isRefused = !edit->refusal().isEmpty();
         QCOMPARE(!doubt.isEmpty(), !isRefused && messageOf(edit) && messageOf(edit)->isVisible());
         QVERIFY(edit->accessibleDescription().startsWith(doubt) &&

@@ -56,12 +56,12 @@ bool FieldMark::set(FieldMarkKind kind, const QString& text)
 
 int FieldMark::width() const
 {
-    return m_kind == FieldMarkKind::None ? 0 : m_field->fontMetrics().ascent();
+    return m_field->fontMetrics().ascent();
 }
 
 void FieldMark::paint(QPainter* painter, const QRect& place) const
 {
-    if (m_kind == FieldMarkKind::None)
+    if (!isSet())
         return;
     QRectF sign(0, 0, width(), width());
     sign.moveCenter(QRectF(place).center());

@@ -27,7 +27,8 @@ public:
     bool set(FieldMarkKind kind, const QString& text);
     const QString& text() const { return m_text; }
 
-    /// Returns the width of the symbol in pixels, or 0 if there is no mark.
+    bool isSet() const { return m_kind != FieldMarkKind::None; }
+    /// Returns the width of the symbol in pixels, even while there is no mark.
     int width() const;
     /// Paints the frame around the field, and the symbol inside `place`.
     void paint(QPainter* painter, const QRect& place) const;

@@ -201,7 +201,7 @@ void VKD_H_LineEdit::setMargins()
         return text.isEmpty() ? 0 : fontMetrics().horizontalAdvance(text) + Gap;
     };
     const int unit = m_showsUnit ? widthOf(vkd_h_suffixText(m_description)) : 0;
-    const int mark = m_mark->width() > 0 ? m_mark->width() + Gap : 0;
+    const int mark = m_mark->isSet() ? m_mark->width() + Gap : 0;
     setTextMargins(widthOf(m_description.prefix), 0, unit + mark, 0);
     updateGeometry();
 }
@@ -250,13 +250,15 @@ bool VKD_H_LineEdit::eventFilter(QObject* watched, QEvent* event)
     return QLineEdit::eventFilter(watched, event);
 }
 
+/// Always includes space for the symbol of a mark, so that a mark does not move other widgets.
 QSize VKD_H_LineEdit::sizeHint() const
 {
     const QMargins around = textMargins();
     const int number = fontMetrics().horizontalAdvance(QLatin1String("-99999,00"));
+    const int symbol = m_mark->isSet() ? 0 : m_mark->width() + Gap; // else part of the margins
     QStyleOptionFrame option;
     initStyleOption(&option);
-    const QSize content(number + around.left() + around.right() + 2 * Gap,
+    const QSize content(around.left() + number + symbol + around.right() + 2 * Gap,
                         QLineEdit::sizeHint().height());
     const QSize framed = style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
     return {framed.width(), content.height()};
@@ -360,7 +362,7 @@ void VKD_H_LineEdit::paintEvent(QPaintEvent* event)
     QRect place = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
     place.adjust(Gap / 2, 0, -Gap / 2, 0);
     m_mark->paint(&painter, place);
-    if (m_mark->width() > 0)
+    if (m_mark->isSet())
         place.setRight(place.right() - m_mark->width() - Gap);
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     painter.setPen(dimmed(palette().color(group, QPalette::Text)));
