@@ -2,6 +2,7 @@
 
 #include "window/output/OutputOffers.h"
 #include "window/output/TreeViewMemory.h"
+#include "window/output/UserDefinedView.h"
 #include "window/support/DisabledHint.h"
 #include "window/support/HelpKey.h"
 
@@ -11,8 +12,6 @@
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_P_WidgetGraphicalOutput_Steps.h>
 #include <VKD_QT_Ok.h>
-#include <VKD_QT_RadioButtonGroup.h>
-#include <vkd_qt_xmlpart.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -30,7 +29,6 @@
 namespace workbench {
 
 namespace {
-constexpr int UsersView = 4;
 constexpr int PlainLoadCase = 1;
 
 /// Creates the page in the language of the first page of the process and then switches it to the
@@ -50,17 +48,6 @@ VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* par
     page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // offers no load cases yet
     return page;
 }
-
-/// Replaces the camera in the string of a page with the user's camera. The page writes the camera
-/// of its view even if it is a fixed view, which would discard the user-defined view.
-QString withUsersCamera(QString page)
-{
-    const QString tag = QStringLiteral("Camera");
-    const auto part = [&tag](const QString& camera) { return vkd_qt_writeXMLpart(camera, tag); };
-    return page.replace(part(vkd_qt_readXMLpart(page, 0, tag)),
-                        part(vkd::dbo::getAnimatorPerspektive(vkd::dbo::DesktopCamera,
-                                                              vkd::dbo::PersistentCamera)));
-}
 } // namespace
 
 OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWidget* parent)
@@ -69,6 +56,7 @@ OutputDialog::OutputDialog(VKD_H_ZOBDoc* document, const OutputState& saved, QWi
     , m_parameter(document)
     , m_view(new AnimatorView(document->handle(), this, "OutputView"))
     , m_page(newPage(this, &m_parameter, m_view))
+    , m_userDefinedView(new UserDefinedView(m_page, m_view, this))
     , m_plots(m_page->findChild<QTreeWidget*>())
     , m_offers(new OutputOffers(document->handle(), m_page, m_view))
 {
@@ -198,41 +186,17 @@ void OutputDialog::listen()
     connect(
         m_page->findChild<QObject*>(QLatin1String(vkd::plib::widgetgraphicaloutput::StepsObject)),
         SIGNAL(stepped()), &m_changes, SLOT(start()));
-    m_view->installEventFilter(this);
+    connect(m_userDefinedView, &UserDefinedView::moved, this, start);
     new DisabledHint(m_view, tr("Choose “User defined” to turn the model."));
     new DisabledHint(m_page->findChild<QWidget*>(QStringLiteral("PicturesGroup")),
                      tr("A landscape page has one picture."));
 }
 
-/// A view does not emit a signal when its camera changes, so its input events are watched.
-bool OutputDialog::eventFilter(QObject* watched, QEvent* event)
-{
-    const bool mayTurn = event->type() == QEvent::MouseButtonRelease ||
-                         event->type() == QEvent::KeyRelease || event->type() == QEvent::Wheel;
-    if (watched == m_view && mayTurn && showsUsersView())
-        m_changes.start(0);
-    return VKD_H_TabDialog::eventFilter(watched, event);
-}
-
-bool OutputDialog::showsUsersView() const
-{
-    const auto views =
-        m_page->findChild<VKD_QT_RadioButtonGroup*>(QStringLiteral("PerspectiveGroup"));
-    return views && views->selectedButton() == UsersView;
-}
-
 QString OutputDialog::script(vkd::Language keywords)
 {
     vkd_lib_setvalue(VKD_SETTING_HEAD_LANGUAGE, int(keywords));
-    storeUsersCamera();
+    m_userDefinedView->store();
     return m_page->getTORVAL(keywords == vkd::Language::English);
-}
-
-/// The view itself stores its camera only when the user switches to another view.
-void OutputDialog::storeUsersCamera()
-{
-    if (showsUsersView())
-        m_view->slotViewControl(AnimatorStoreCamera, 0.0);
 }
 
 QVector<PlotCaption> OutputDialog::captions()
@@ -242,9 +206,9 @@ QVector<PlotCaption> OutputDialog::captions()
 
 OutputState OutputDialog::state()
 {
-    storeUsersCamera();
+    m_userDefinedView->store();
     OutputState present;
-    present.page = withUsersCamera(m_offers->page());
+    present.page = UserDefinedView::withCamera(m_offers->page());
     m_offers->readTo(&present);
     return present;
 }

@@ -19,6 +19,7 @@ class VKD_P_WidgetGraphicalOutput;
 namespace workbench {
 
 class OutputOffers;
+class UserDefinedView;
 
 /// The state of a dialog, which can be passed to a dialog that replaces it.
 struct OutputPresent
@@ -75,7 +76,6 @@ public:
     /// the other dialog.
     void setPresent(const OutputPresent& present);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void done(int result) override;
 
 Q_SIGNALS:
@@ -92,14 +92,13 @@ private:
     void addTabs();
     void restore(const OutputState& state);
     void listen();
-    bool showsUsersView() const;
-    void storeUsersCamera();
     QString fingerprint();
 
     VKD_H_ZOBDoc* m_document;
     VKD_H_PluginParameter m_parameter;
     AnimatorView* m_view;
     VKD_P_WidgetGraphicalOutput* m_page;
+    UserDefinedView* m_userDefinedView;
     QTreeWidget* m_plots;
     OutputOffers* m_offers;
     QTimer m_changes;
