@@ -34,11 +34,15 @@ const QSet<QString> TabByColumns{QStringLiteral("dlgCrackControl"),
                                  QStringLiteral("dlgReinforcement")};
 
 /// Texts with the same spelling in both languages.
-const QSet<QString> SameSpelling{
-    QStringLiteral("&Filter:"),  QStringLiteral("Name"),
-    QStringLiteral("System"),    QStringLiteral("Text"),
-    QStringLiteral("Workbench"), QStringLiteral("Zoom"),
-    QStringLiteral("phi-Y"),     QStringLiteral("project.zob[*] - Workbench")};
+const QSet<QString> SameSpelling{QStringLiteral("&Filter:"),
+                                 QStringLiteral("1 System"),
+                                 QStringLiteral("Name"),
+                                 QStringLiteral("System"),
+                                 QStringLiteral("Text"),
+                                 QStringLiteral("Workbench"),
+                                 QStringLiteral("Zoom"),
+                                 QStringLiteral("phi-Y"),
+                                 QStringLiteral("project.zob[*] - Workbench")};
 } // namespace
 
 /// Checks every window of the program and of the libraries in both languages. Each row adds a
@@ -87,7 +91,8 @@ private Q_SLOTS:
         QSet<QString> english;
         if (language == German)
             visit(English, [&](QWidget& window) { english += testsupport::texts(window); });
-        english -= m_project->texts();
+        const QSet<QString> fromProject = m_project->texts(); // may follow a number and a colon
+        english -= fromProject;
         english -= SameSpelling;
         static const QRegularExpression Word(QStringLiteral("[A-Za-z]{3}"));
         QStringList faults;
@@ -95,7 +100,8 @@ private Q_SLOTS:
             faults += testsupport::faults(window, FixedColumns, TabByColumns);
             if (language == German)
                 for (const QString& text : testsupport::texts(window) & english)
-                    if (text.contains(Word) && !text.contains(m_project->doc()->path()))
+                    if (text.contains(Word) && !text.contains(m_project->doc()->path()) &&
+                        !fromProject.contains(text.mid(text.indexOf(QLatin1String(": ")) + 2)))
                         faults << QStringLiteral("not in German: %1").arg(text);
         });
         QVERIFY2(faults.isEmpty(), qPrintable(QLatin1Char('\n') + faults.join(QLatin1Char('\n'))));

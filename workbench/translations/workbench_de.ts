@@ -1115,6 +1115,13 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
 </context>
 <context>
+    <name>workbench::ContentsList</name>
+    <message>
+        <source>Nothing is printed.</source>
+        <translation>Es wird nichts ausgegeben.</translation>
+    </message>
+</context>
+<context>
     <name>workbench::ContentsPreview</name>
     <message>
         <source>Table of contents</source>
@@ -1140,52 +1147,12 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <source>Each list, and below it the load cases and combinations for which it is printed.</source>
         <translation>Jede Liste und darunter die Lastfälle und Kombinationen, für die sie ausgegeben wird.</translation>
     </message>
-    <message>
-        <source>Nothing is printed.</source>
-        <translation>Es wird nichts ausgegeben.</translation>
-    </message>
 </context>
 <context>
-    <name>workbench::TextOutputDialog</name>
+    <name>workbench::PrintedContents</name>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Text Output</source>
-        <translation>Textausgabe</translation>
-    </message>
-    <message>
-        <source>Extent of the text output</source>
-        <translation>Umfang der Textausgabe</translation>
-    </message>
-    <message>
-        <source>Determines which lists are printed. Manually controlled: those that are checked here.</source>
-        <translation>Legt fest, welche Listen ausgegeben werden. Manuell gesteuert: die hier angekreuzten.</translation>
-    </message>
-    <message>
-        <source>Load cases in the text output</source>
-        <translation>Lastfälle in der Textausgabe</translation>
-    </message>
-    <message>
-        <source>Determines the load cases for which loads and results are printed. Manually: those that are checked in the table.</source>
-        <translation>Legt fest, für welche Lastfälle Lasten und Ergebnisse ausgegeben werden. Manuell: für die in der Tabelle angekreuzten.</translation>
-    </message>
-    <message>
-        <source>Load cases</source>
-        <translation>Lastfälle</translation>
-    </message>
-    <message>
-        <source>Combinations in the text output</source>
-        <translation>Kombinationen in der Textausgabe</translation>
-    </message>
-    <message>
-        <source>Determines the combinations for which results are printed: all of one kind, or manually those that are checked in the table. The kinds can be changed while Manually is chosen.</source>
-        <translation>Legt fest, für welche Kombinationen Ergebnisse ausgegeben werden: für alle einer Art oder manuell für die in der Tabelle angekreuzten. Die Arten lassen sich ändern, solange Manuell gewählt ist.</translation>
-    </message>
-    <message>
-        <source>Combinations</source>
-        <translation>Kombinationen</translation>
     </message>
     <message>
         <source>Printed lists: none</source>
@@ -1222,6 +1189,45 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     <message>
         <source>Printed combinations (%1 of %2): %3</source>
         <translation>Ausgegebene Kombinationen (%1 von %2): %3</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::TextOutputDialog</name>
+    <message>
+        <source>Text Output</source>
+        <translation>Textausgabe</translation>
+    </message>
+    <message>
+        <source>Extent of the text output</source>
+        <translation>Umfang der Textausgabe</translation>
+    </message>
+    <message>
+        <source>Determines which lists are printed. Manually controlled: those that are checked here.</source>
+        <translation>Legt fest, welche Listen ausgegeben werden. Manuell gesteuert: die hier angekreuzten.</translation>
+    </message>
+    <message>
+        <source>Load cases in the text output</source>
+        <translation>Lastfälle in der Textausgabe</translation>
+    </message>
+    <message>
+        <source>Determines the load cases for which loads and results are printed. Manually: those that are checked in the table.</source>
+        <translation>Legt fest, für welche Lastfälle Lasten und Ergebnisse ausgegeben werden. Manuell: für die in der Tabelle angekreuzten.</translation>
+    </message>
+    <message>
+        <source>Load cases</source>
+        <translation>Lastfälle</translation>
+    </message>
+    <message>
+        <source>Combinations in the text output</source>
+        <translation>Kombinationen in der Textausgabe</translation>
+    </message>
+    <message>
+        <source>Determines the combinations for which results are printed: all of one kind, or manually those that are checked in the table. The kinds can be changed while Manually is chosen.</source>
+        <translation>Legt fest, für welche Kombinationen Ergebnisse ausgegeben werden: für alle einer Art oder manuell für die in der Tabelle angekreuzten. Die Arten lassen sich ändern, solange Manuell gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Combinations</source>
+        <translation>Kombinationen</translation>
     </message>
 </context>
 <context>

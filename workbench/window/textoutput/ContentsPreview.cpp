@@ -1,38 +1,35 @@
 #include "window/textoutput/ContentsPreview.h"
 
+#include "window/textoutput/ContentsList.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 namespace workbench {
 
 namespace {
-constexpr int WidthInLetters = 40;
+constexpr int WidthInLetters = 50;
 }
 
 ContentsPreview::ContentsPreview(QWidget* parent)
     : QGroupBox(tr("Table of contents"), parent)
-    , m_text(new QPlainTextEdit(this))
+    , m_list(new ContentsList(this))
     , m_copy(newButton("CopyContents", tr("Co&py"), tr("Copies the table of contents as text")))
     , m_export(newButton("ExportContents", tr("&Export..."),
                          tr("Saves the table of contents as a text file")))
 {
-    m_text->setObjectName(QStringLiteral("TextContents"));
-    m_text->setAccessibleName(tr("Table of contents"));
-    m_text->setReadOnly(true);
-    m_text->setTabChangesFocus(true);
-    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_text->setPlaceholderText(tr("Nothing is printed."));
+    m_list->setObjectName(QStringLiteral("TextContents"));
+    m_list->setAccessibleName(tr("Table of contents"));
     auto column = new QVBoxLayout(this);
     auto hint = new QLabel(
         tr("Each list, and below it the load cases and combinations for which it is printed."),
         this);
     hint->setWordWrap(true);
     column->addWidget(hint);
-    column->addWidget(m_text, 1);
+    column->addWidget(m_list, 1);
     auto row = new QHBoxLayout;
     row->addWidget(m_copy);
     row->addWidget(m_export);
@@ -58,7 +55,7 @@ void ContentsPreview::setContents(const QString& text)
 {
     if (m_contents != text) {
         m_contents = text;
-        m_text->setPlainText(text);
+        m_list->setText(text);
     }
     for (QPushButton* button : {m_copy, m_export})
         button->setEnabled(!text.isEmpty());

@@ -2,10 +2,11 @@
 
 #include <QGroupBox>
 
-class QPlainTextEdit;
 class QPushButton;
 
 namespace workbench {
+
+class ContentsList;
 
 /// The table of contents of the text output, with buttons that copy and export it.
 class ContentsPreview : public QGroupBox
@@ -28,7 +29,7 @@ private:
     QPushButton* newButton(const char* name, const QString& text, const QString& toolTip);
 
     QString m_contents;
-    QPlainTextEdit* m_text;
+    ContentsList* m_list;
     QPushButton* m_copy;
     QPushButton* m_export;
 };

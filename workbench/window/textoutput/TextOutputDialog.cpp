@@ -1,13 +1,12 @@
 #include "window/textoutput/TextOutputDialog.h"
 
-#include "project/numberTexts.h"
-#include "project/output/textContents.h"
 #include "window/choice/ChoiceBar.h"
 #include "window/support/HelpKey.h"
 #include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
 #include "window/textoutput/CombinationTable.h"
 #include "window/textoutput/ContentsPreview.h"
+#include "window/textoutput/PrintedContents.h"
 #include "window/textoutput/ScrolledBoxes.h"
 
 #include <VKD_QT_Ok.h>
@@ -56,7 +55,7 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     auto columns = new QHBoxLayout;
     (new QVBoxLayout(this))->addLayout(columns);
     auto scrolled = new ScrolledBoxes(this);
-    columns->addWidget(scrolled, 1);
+    columns->addWidget(scrolled, 3);
     m_boxes = new QVBoxLayout(scrolled->widget());
     m_boxes->setContentsMargins(0, 0, 0, 0);
     addExtent();
@@ -64,20 +63,21 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     addCombinations(project);
     m_contents = new ContentsPreview(this);
     setHelpTopic(m_contents, "TEXT/CONTENTS");
-    columns->addWidget(m_contents);
+    columns->addWidget(m_contents, 2);
     connect(m_contents, &ContentsPreview::exportRequested, this,
             &TextOutputDialog::exportRequested);
     m_changes.setSingleShot(true);
     m_changes.setInterval(0);
     connect(&m_changes, &QTimer::timeout, this, [this] {
-        m_contents->setContents(textContents(printedLists()));
+        m_contents->setContents(
+            textContents(printed().lists(*m_loadCaseTable, *m_combinationTable)));
         Q_EMIT choiceChanged();
     });
     addOkRow();
     setState(TextOutputState::read(project, ExtentFields::DefaultLists));
     m_saved = state();
     const QSize others = sizeHint() - scrolled->sizeHint();
-    const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 110);
+    const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 120);
     const int height = m_boxes->totalHeightForWidth(width - others.width()); // includes all hints
     resizeWithinScreen(this, {width, height + others.height()});
     new WindowGeometry(this);
@@ -256,9 +256,10 @@ bool TextOutputDialog::isChanged() const
 void TextOutputDialog::showChoice()
 {
     showInFields();
-    m_extentResult->setText(extentText());
-    m_loadCaseResult->setText(loadCaseText());
-    m_combinationResult->setText(combinationText());
+    const PrintedContents contents = printed();
+    m_extentResult->setText(contents.extentText());
+    m_loadCaseResult->setText(contents.loadCaseText(m_loadCaseTable->numbers().size()));
+    m_combinationResult->setText(contents.combinationText(m_combinationTable->numbers().size()));
     m_changes.start();
 }
 
@@ -279,6 +280,11 @@ void TextOutputDialog::showInFields()
         m_combinationTable->showPicked();
     else
         m_combinationTable->showRule(printedCombinations());
+}
+
+PrintedContents TextOutputDialog::printed() const
+{
+    return {printedExtent(), printedLoadCases(), printedCombinations()};
 }
 
 ExtentFields::Choice TextOutputDialog::printedExtent() const
@@ -304,68 +310,6 @@ QVector<int> TextOutputDialog::printedCombinations() const
     const Group::ButtonID kind = m_combinations->getSelectedId();
     return kind == Group::Manually ? m_combinationTable->picked()
                                    : m_combinationTable->numbersOf(kind);
-}
-
-/// Loads are printed for load cases, and results for load cases and combinations.
-QVector<PrintedList> TextOutputDialog::printedLists() const
-{
-    const auto [chosen, allValues] = printedExtent();
-    const QVector<vkd::dbo::LoadCase> loads = m_loadCaseTable->rowsOf(printedLoadCases());
-    const QVector<vkd::dbo::LoadCase> results =
-        loads + m_combinationTable->rowsOf(printedCombinations());
-    QVector<PrintedList> lists;
-    for (int list = 1; list <= chosen; list *= 2) {
-        const bool isResult = list & ExtentFields::ResultLists;
-        const QVector<vkd::dbo::LoadCase> cases = isResult ? results
-                                                  : list == ExtentFields::Loads
-                                                      ? loads
-                                                      : QVector<vkd::dbo::LoadCase>();
-        const bool isPrinted =
-            (chosen & list) && (list == ExtentFields::System || !cases.isEmpty());
-        const QString name = ExtentFields::listNames(list);
-        if (isPrinted)
-            lists.append(
-                {isResult ? tr("%1 (%2)").arg(name, ExtentFields::valuesName(allValues)) : name,
-                 cases});
-    }
-    return lists;
-}
-
-QString TextOutputDialog::extentText() const
-{
-    const auto [lists, allValues] = printedExtent();
-    if (!lists)
-        return tr("Printed lists: none");
-    const QString printed = tr("Printed lists: %1").arg(ExtentFields::listNames(lists));
-    if (!(lists & ExtentFields::ResultLists))
-        return printed;
-    return tr("%1. Result values: %2").arg(printed, ExtentFields::valuesName(allValues));
-}
-
-QString TextOutputDialog::loadCaseText() const
-{
-    if (!(printedExtent().lists & (ExtentFields::Loads | ExtentFields::ResultLists)))
-        return tr("Printed load cases: none, as neither loads nor results are printed");
-    const QVector<int> printed = printedLoadCases();
-    if (printed.isEmpty())
-        return tr("Printed load cases: none");
-    return tr("Printed load cases (%1 of %2): %3")
-        .arg(printed.size())
-        .arg(m_loadCaseTable->numbers().size())
-        .arg(shownNumbers(printed));
-}
-
-QString TextOutputDialog::combinationText() const
-{
-    if (!(printedExtent().lists & ExtentFields::ResultLists))
-        return tr("Printed combinations: none, as no results are printed");
-    const QVector<int> printed = printedCombinations();
-    if (printed.isEmpty())
-        return tr("Printed combinations: none");
-    return tr("Printed combinations (%1 of %2): %3")
-        .arg(printed.size())
-        .arg(m_combinationTable->numbers().size())
-        .arg(shownNumbers(printed));
 }
 
 } // namespace workbench

@@ -20,7 +20,7 @@ class ChoiceBar;
 class CombinationTable;
 class ContentsPreview;
 class PickTable;
-struct PrintedList;
+struct PrintedContents;
 
 /// The modeless dialog for the lists, load cases and combinations of the text output of a project.
 /// For each of the three, it has a radio group of the library, a widget for an individual choice
@@ -58,13 +58,10 @@ private:
     void showChoice();
     void showInFields();
 
+    PrintedContents printed() const;
     ExtentFields::Choice printedExtent() const;
     QVector<int> printedLoadCases() const;
     QVector<int> printedCombinations() const;
-    QVector<PrintedList> printedLists() const;
-    QString extentText() const;
-    QString loadCaseText() const;
-    QString combinationText() const;
 
     VKD_P_RadioGroup m_extent;
     VKD_P_RadioGroup m_loadCases;
