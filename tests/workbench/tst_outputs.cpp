@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -128,6 +129,22 @@ private Q_SLOTS:
         answerFileDialog(m_folder->path());
         trigger(*window, "ExportAllSheets");
         QVERIFY(readFile(path("Walls.pdf")).startsWith("%PDF"));
+        QDir(m_folder->path()).mkpath(QStringLiteral("second/Output 1.pdf"));
+        QStringList messages;
+        whenModal([&](QWidget* folders) {
+            whenModal([&](QWidget* question) {
+                readMessage(messages);
+                for (QPushButton* button : question->findChildren<QPushButton*>())
+                    if (button->text() == QLatin1String("&Replace"))
+                        return button->click();
+            });
+            enterFile(folders, path("second"));
+        });
+        trigger(*window, "ExportAllSheets");
+        QTRY_COMPARE(messages.size(), 1);
+        QVERIFY2(messages[0].endsWith(
+                     QLatin1String("\n\nAlready saved:\nWalls.pdf\nNot saved:\nOutput 1.pdf")),
+                 qPrintable(messages[0]));
     }
 
     void focusAfterNaming_data()

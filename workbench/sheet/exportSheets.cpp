@@ -8,15 +8,13 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QProgressDialog>
 #include <QSaveFile>
 
 namespace workbench {
 
 namespace {
 constexpr int DotsPerInch = 300;
-constexpr int ShowsAfterMs = 500;
-constexpr int SliceMs = 40; // interval for processing events
+constexpr int SliceMs = 40; // interval for reporting progress
 
 void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
 {
@@ -30,56 +28,49 @@ void setUp(QPdfWriter& writer, const SheetPlan& plan, const QString& path)
     writer.setCreator(QCoreApplication::applicationName());
 }
 
-/// Returns false if the user has cancelled or a page could not be started.
-bool writePages(const SheetPlan& plan, SheetPainter& sheets, QPdfWriter& writer,
-                QProgressDialog& progress)
+SheetExport writePages(const SheetPlan& plan, SheetPainter& sheets, QPdfWriter& writer,
+                       const SheetProgress& goOn)
 {
     QPainter painter(&writer);
     if (!painter.isActive())
-        return false;
+        return SheetExport::Failed;
     const QRectF sheet(0.0, 0.0, plan.size.width() / 25.4 * DotsPerInch,
                        plan.size.height() / 25.4 * DotsPerInch);
     QElapsedTimer slice;
     slice.start();
     for (int page = 0; page < plan.pageCount(); ++page) {
         if (slice.elapsed() >= SliceMs) {
-            progress.setValue(page); // processes the dialog's events
+            if (!goOn(page))
+                return SheetExport::Cancelled;
             slice.restart();
         }
-        if (progress.wasCanceled() || (page > 0 && !writer.newPage()))
-            return false;
+        if (page > 0 && !writer.newPage())
+            return SheetExport::Failed;
         sheets.paint(painter, sheet, plan, page);
     }
-    return painter.end();
+    return painter.end() ? SheetExport::Done : SheetExport::Failed;
 }
 } // namespace
 
 SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QString& path,
-                         QWidget* parent, QString* trouble)
+                         const SheetProgress& goOn, QString* trouble)
 {
     QSaveFile file(path);
     if (plan.isEmpty() || !file.open(QIODevice::WriteOnly)) {
         *trouble = file.errorString();
         return SheetExport::Failed;
     }
-    QProgressDialog progress(QCoreApplication::translate("exportSheets", "Writing the sheets ..."),
-                             QCoreApplication::translate("exportSheets", "Cancel"), 0,
-                             plan.pageCount(), parent);
-    progress.setObjectName(QStringLiteral("SheetProgress"));
-    progress.setWindowModality(Qt::ApplicationModal); // the plan must not change during the export
-    progress.setMinimumDuration(ShowsAfterMs);
-    progress.setValue(0); // starts measuring time
-    bool isWritten = false;
+    SheetExport result = SheetExport::Failed;
     {
         QPdfWriter writer(&file);
         setUp(writer, plan, path);
-        isWritten = writePages(plan, painter, writer, progress);
+        result = writePages(plan, painter, writer, goOn);
     }
-    if (isWritten && file.commit())
+    if (result == SheetExport::Done && file.commit())
         return SheetExport::Done;
     *trouble = file.errorString();
     file.cancelWriting();
-    return progress.wasCanceled() ? SheetExport::Cancelled : SheetExport::Failed;
+    return result == SheetExport::Cancelled ? result : SheetExport::Failed;
 }
 
 } // namespace workbench

@@ -2,7 +2,7 @@
 
 #include "sheet/SheetPlan.h"
 
-class QWidget;
+#include <functional>
 
 namespace workbench {
 
@@ -10,10 +10,13 @@ class SheetPainter;
 
 enum class SheetExport { Done, Cancelled, Failed };
 
-/// Writes the pages of a plan to a PDF file, one sheet per page. If this takes longer than half a
-/// second, a progress dialog with a Cancel button is shown over the window of `parent`. The file is
-/// either written completely or not changed. After a failure, `trouble` contains the reason.
+/// Reports the number of pages that have been drawn. If it returns false, the export is cancelled.
+using SheetProgress = std::function<bool(int pages)>;
+
+/// Writes the pages of a plan to a PDF file, one sheet per page. The file is either written
+/// completely or not changed. `goOn` is called every few pages. After a failure, `trouble` contains
+/// the reason.
 SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QString& path,
-                         QWidget* parent, QString* trouble);
+                         const SheetProgress& goOn, QString* trouble);
 
 } // namespace workbench

@@ -36,17 +36,6 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
 </context>
 <context>
-    <name>exportSheets</name>
-    <message>
-        <source>Writing the sheets ...</source>
-        <translation>Blätter werden geschrieben ...</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-</context>
-<context>
     <name>storeErrorText</name>
     <message>
         <source>It is a folder.</source>
@@ -681,6 +670,30 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     <message>
         <source>PDF files saved in %1: %2</source>
         <translation>In %1 gespeicherte PDF-Dateien: %2</translation>
+    </message>
+    <message>
+        <source>The sheets are being exported.</source>
+        <translation>Die Blätter werden exportiert.</translation>
+    </message>
+    <message>
+        <source>Cancelled. No PDF file was saved.</source>
+        <translation>Abgebrochen. Es wurde keine PDF-Datei gespeichert.</translation>
+    </message>
+    <message>
+        <source>Cancelled. PDF files saved in %1: %2</source>
+        <translation>Abgebrochen. In %1 gespeicherte PDF-Dateien: %2</translation>
+    </message>
+    <message>
+        <source>Already saved:</source>
+        <translation>Bereits gespeichert:</translation>
+    </message>
+    <message>
+        <source>Not saved:</source>
+        <translation>Nicht gespeichert:</translation>
+    </message>
+    <message>
+        <source>No script was saved.</source>
+        <translation>Es wurde kein Skript gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -1780,6 +1793,10 @@ Sollen alle Ausgaben gespeichert werden?</translation>
     <message>
         <source>The sheets have been saved as %1.</source>
         <translation>Die Blätter wurden als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The sheets are being exported.</source>
+        <translation>Die Blätter werden exportiert.</translation>
     </message>
     <message>
         <source>No sheet was saved.</source>

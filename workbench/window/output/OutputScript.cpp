@@ -2,7 +2,6 @@
 
 #include "project/OpenProject.h"
 #include "project/output/outputFileNames.h"
-#include "sheet/exportSheets.h"
 #include "sheet/SheetPreview.h"
 #include "window/files/chooseFileToSave.h"
 #include "window/files/saveTextFile.h"
@@ -146,14 +145,21 @@ void OutputScript::exportSheets()
                          QStringLiteral("pdf"), m_project->path());
     if (path.isEmpty())
         return;
-    QString trouble;
-    switch (workbench::exportSheets(newSheetPlan(), m_sheets->painter(), path, window, &trouble)) {
+    switch (QString trouble; writeSheets(path, &trouble)) {
     case SheetExport::Done:
         return m_messages->say(
             tr("The sheets have been saved as %1.").arg(QDir::toNativeSeparators(path)));
     case SheetExport::Cancelled: return m_messages->say(tr("No sheet was saved."));
     case SheetExport::Failed: return m_messages->complainOfWriting(path, trouble);
     }
+}
+
+SheetExport OutputScript::writeSheets(const QString& path, QString* trouble)
+{
+    const SheetPlan plan = newSheetPlan();
+    SlowWork work(m_messages->window(), tr("The sheets are being exported."), plan.pageCount());
+    const auto goOn = [&work](int pages) { return work.goOn(pages); };
+    return workbench::exportSheets(plan, m_sheets->painter(), path, goOn, trouble);
 }
 
 } // namespace workbench

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sheet/exportSheets.h"
 #include "sheet/SheetPlanCache.h"
 #include "window/output/PlotLines.h"
 
@@ -49,6 +50,7 @@ private:
     QString proposedFile(const char* suffix) const;
     SheetPlan newSheetPlan();
     void refreshSheets();
+    SheetExport writeSheets(const QString& path, QString* trouble);
 
     OpenProject* m_project;
     OutputEditor* m_output;

@@ -3,7 +3,6 @@
 #include "project/OpenProject.h"
 #include "project/output/outputFileNames.h"
 #include "project/WholeFiles.h"
-#include "sheet/exportSheets.h"
 #include "sheet/readSheetPlan.h"
 #include "sheet/SheetPreview.h"
 #include "window/files/SlowWork.h"
@@ -20,7 +19,38 @@
 #include <QFileInfo>
 #include <QMainWindow>
 
+#include <vector>
+
 namespace workbench {
+
+namespace {
+QString lines(const QString& title, const QStringList& names)
+{
+    return names.isEmpty()
+               ? QString()
+               : QLatin1Char('\n') + title + QLatin1Char('\n') + names.join(QLatin1Char('\n'));
+}
+} // namespace
+
+/// The files that are written for the outputs.
+struct OutputFiles::Job
+{
+    QString folder;
+    QStringList files;             ///< names in the folder
+    QStringList scripts;           // empty if the sheets are exported
+    std::vector<SheetPlan> sheets; // empty if the scripts are saved
+    QStringList skipped;           ///< outputs without plots
+
+    QString path(int file) const { return QDir(folder).filePath(files[file]); }
+};
+
+/// The files that have been exported, and the reason why the export has ended.
+struct OutputFiles::Exported
+{
+    SheetExport end = SheetExport::Done;
+    int files = 0;
+    QString trouble;
+};
 
 OutputFiles::OutputFiles(const OpenProject* project, OutputEditor* editor, WindowMessages* messages,
                          SheetPreview* sheets)
@@ -31,109 +61,133 @@ OutputFiles::OutputFiles(const OpenProject* project, OutputEditor* editor, Windo
 {
 }
 
-/// Asks for a folder, and for confirmation if files would be replaced. Returns an empty list if the
-/// user cancels.
-QStringList OutputFiles::choosePaths(const QString& title, const QString& suffix)
+/// Asks for a folder, and for confirmation if files would be replaced. Returns nothing if the user
+/// cancels or the project cannot be read.
+std::optional<OutputFiles::Job> OutputFiles::prepare(const QString& title, Content content)
 {
-    QWidget* window = m_messages->window();
-    const QString folder = QFileDialog::getExistingDirectory(window, title, m_project->folder());
-    if (folder.isEmpty())
-        return {};
-    QStringList paths = outputFileNames(m_editor->outputs().names(), suffix);
-    QStringList existing;
-    for (QString& path : paths) {
-        if (QFileInfo::exists(QDir(folder).filePath(path)))
-            existing << path;
-        path = QDir(folder).filePath(path);
-    }
-    enum Button { Replace, Cancel };
-    const bool mayReplace = existing.isEmpty() ||
-                            VKD_QT_MessageBox::warning(
-                                window, title,
-                                tr("These files already exist:") + QLatin1String("\n\n") +
-                                    existing.join(QLatin1Char('\n')),
-                                tr("&Replace"), tr("Cancel"), QString(), Cancel, Cancel) == Replace;
-    return mayReplace ? paths : QStringList();
+    Job job;
+    job.folder =
+        QFileDialog::getExistingDirectory(m_messages->window(), title, m_project->folder());
+    if (job.folder.isEmpty() || !generate(&job, content) || !mayReplace(title, job))
+        return std::nullopt;
+    return job;
 }
 
-/// Returns an empty list if the user cancels or the project cannot be read.
-QStringList OutputFiles::scripts()
+/// Returns false if the user cancels or the project cannot be read.
+bool OutputFiles::generate(Job* job, Content content)
 {
-    QStringList scripts;
     SlowWork work(m_messages->window(), tr("The scripts are being generated."),
                   m_editor->outputs().size());
     const vkd::Language keywords = WindowSettings().keywords();
-    const bool isDone = m_editor->forEachOutput([&](int output, OutputDialog* dialog) {
-        scripts << dialog->script(keywords);
-        return work.goOn(output);
+    const QStringList names = outputFileNames(
+        m_editor->outputs().names(), QLatin1String(content == Content::Scripts ? ".dat" : ".pdf"));
+    return m_editor->forEachOutput([&](int output, OutputDialog* dialog) {
+        const QString script = dialog->script(keywords);
+        if (script.isEmpty())
+            job->skipped << m_editor->outputs().name(output);
+        else
+            job->files << names[output];
+        if (!script.isEmpty() && content == Content::Scripts)
+            job->scripts << script;
+        if (!script.isEmpty() && content == Content::Sheets) {
+            job->sheets.push_back(readSheetPlan(script));
+            addCaptions(&job->sheets.back(), dialog, m_project->handle());
+        }
+        return work.goOn(output + 1);
     });
-    return isDone ? scripts : QStringList();
+}
+
+bool OutputFiles::mayReplace(const QString& title, const Job& job)
+{
+    QStringList existing;
+    for (int file = 0; file < job.files.size(); ++file)
+        if (QFileInfo::exists(job.path(file)))
+            existing << job.files[file];
+    enum Button { Replace, Cancel };
+    return existing.isEmpty() ||
+           VKD_QT_MessageBox::warning(m_messages->window(), title,
+                                      tr("These files already exist:") + QLatin1String("\n\n") +
+                                          existing.join(QLatin1Char('\n')),
+                                      tr("&Replace"), tr("Cancel"), QString(), Cancel,
+                                      Cancel) == Replace;
+}
+
+void OutputFiles::saySaved(const QString& text, const Job& job)
+{
+    QString message = text;
+    if (!job.skipped.isEmpty())
+        message += QLatin1String(". ") +
+                   tr("Outputs without plots: %1").arg(job.skipped.join(QLatin1String(", ")));
+    m_messages->say(message);
 }
 
 void OutputFiles::complain(const WholeFiles& files)
 {
-    QString reason = files.reason();
-    if (const QStringList replaced = files.replaced(); !replaced.isEmpty())
-        reason += QLatin1Char('\n') + tr("Already replaced:") + QLatin1Char('\n') +
-                  replaced.join(QLatin1Char('\n'));
-    m_messages->complainOfWriting(files.failedPath(), reason);
-}
-
-/// Returns the end of a message: the outputs that have no script.
-QString OutputFiles::skipped(const QStringList& scripts) const
-{
-    QStringList names;
-    for (int output = 0; output < scripts.size(); ++output)
-        if (scripts[output].isEmpty())
-            names << m_editor->outputs().name(output);
-    return names.isEmpty()
-               ? QString()
-               : QLatin1String(". ") +
-                     tr("Outputs without plots: %1").arg(names.join(QLatin1String(", ")));
+    const QStringList replaced = files.replaced();
+    m_messages->complainOfWriting(
+        files.failedPath(), files.reason() + QLatin1Char('\n') +
+                                (replaced.isEmpty() ? QLatin1Char('\n') + tr("No script was saved.")
+                                                    : lines(tr("Already replaced:"), replaced)));
 }
 
 void OutputFiles::saveScripts()
 {
-    const QStringList paths = choosePaths(tr("Save All Scripts"), QStringLiteral(".dat"));
-    const QStringList texts = paths.isEmpty() ? QStringList() : scripts();
-    if (texts.isEmpty())
+    const std::optional<Job> job = prepare(tr("Save All Scripts"), Content::Scripts);
+    if (!job)
         return;
     WholeFiles files;
-    for (int i = 0; i < texts.size(); ++i)
-        if (!texts[i].isEmpty() && !files.add(paths[i], texts[i].toUtf8()))
+    for (int file = 0; file < job->files.size(); ++file)
+        if (!files.add(job->path(file), job->scripts[file].toUtf8()))
             return complain(files);
     if (!files.commit())
         return complain(files);
-    m_messages->say(tr("Scripts saved in %1: %2")
-                        .arg(QDir::toNativeSeparators(QFileInfo(paths[0]).path()))
-                        .arg(files.size()) +
-                    skipped(texts));
+    saySaved(
+        tr("Scripts saved in %1: %2").arg(QDir::toNativeSeparators(job->folder)).arg(files.size()),
+        *job);
+}
+
+/// The progress counts the pages of all files.
+OutputFiles::Exported OutputFiles::writeSheets(const Job& job)
+{
+    int all = 0, before = 0;
+    for (const SheetPlan& plan : job.sheets)
+        all += plan.pageCount();
+    SlowWork work(m_messages->window(), tr("The sheets are being exported."), all);
+    const auto goOn = [&](int pages) { return work.goOn(before + pages); };
+    Exported done;
+    for (const SheetPlan& plan : job.sheets) {
+        done.end = goOn(0) ? workbench::exportSheets(plan, m_sheets->painter(),
+                                                     job.path(done.files), goOn, &done.trouble)
+                           : SheetExport::Cancelled;
+        if (done.end != SheetExport::Done)
+            break;
+        ++done.files;
+        before += plan.pageCount();
+    }
+    return done;
 }
 
 void OutputFiles::exportSheets()
 {
-    const QStringList paths = choosePaths(tr("Export All Sheets"), QStringLiteral(".pdf"));
-    const QStringList texts = paths.isEmpty() ? QStringList() : scripts();
-    if (texts.isEmpty())
+    const std::optional<Job> job = prepare(tr("Export All Sheets"), Content::Sheets);
+    if (!job)
         return;
-    int count = 0;
-    m_editor->forEachOutput([&](int output, OutputDialog* dialog) {
-        if (texts[output].isEmpty())
-            return true;
-        QString trouble;
-        SheetPlan plan = readSheetPlan(texts[output]);
-        addCaptions(&plan, dialog, m_project->handle());
-        const SheetExport result = workbench::exportSheets(plan, m_sheets->painter(), paths[output],
-                                                           m_messages->window(), &trouble);
-        if (result == SheetExport::Failed)
-            m_messages->complainOfWriting(paths[output], trouble);
-        count += result == SheetExport::Done ? 1 : 0;
-        return result == SheetExport::Done;
-    });
-    m_messages->say(tr("PDF files saved in %1: %2")
-                        .arg(QDir::toNativeSeparators(QFileInfo(paths[0]).path()))
-                        .arg(count) +
-                    skipped(texts));
+    const Exported done = writeSheets(*job);
+    const QString folder = QDir::toNativeSeparators(job->folder);
+    const QStringList saved = job->files.mid(0, done.files);
+    switch (done.end) {
+    case SheetExport::Done:
+        return saySaved(tr("PDF files saved in %1: %2").arg(folder).arg(saved.size()), *job);
+    case SheetExport::Cancelled:
+        return m_messages->say(saved.isEmpty() ? tr("Cancelled. No PDF file was saved.")
+                                               : tr("Cancelled. PDF files saved in %1: %2")
+                                                     .arg(folder, saved.join(QLatin1String(", "))));
+    case SheetExport::Failed:
+        return m_messages->complainOfWriting(
+            job->path(done.files), done.trouble + QLatin1Char('\n') +
+                                       lines(tr("Already saved:"), saved) +
+                                       lines(tr("Not saved:"), job->files.mid(done.files)));
+    }
 }
 
 } // namespace workbench

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "sheet/exportSheets.h"
+
 #include <QCoreApplication>
 #include <QStringList>
+
+#include <optional>
 
 namespace workbench {
 
@@ -25,14 +29,20 @@ public:
     /// Saves the scripts, either all of them or none; see WholeFiles.
     void saveScripts();
     /// Saves the sheets as PDF files, one after the other. If the user cancels or an error occurs,
-    /// the files that have already been saved are kept.
+    /// the files that have already been saved are kept, and a message lists them.
     void exportSheets();
 
 private:
-    QStringList choosePaths(const QString& title, const QString& suffix);
-    QStringList scripts();
+    enum class Content { Scripts, Sheets };
+    struct Job;
+    struct Exported;
+
+    std::optional<Job> prepare(const QString& title, Content content);
+    bool generate(Job* job, Content content);
+    bool mayReplace(const QString& title, const Job& job);
+    Exported writeSheets(const Job& job);
+    void saySaved(const QString& text, const Job& job);
     void complain(const WholeFiles& files);
-    QString skipped(const QStringList& scripts) const;
 
     const OpenProject* m_project;
     OutputEditor* m_editor;
