@@ -54,6 +54,8 @@ LayerFields::LayerFields(ZobHandle project, QGridLayout* grid, int row, int colu
     grid->addWidget(m_fabric, row, column + 1);
     grid->addWidget(m_spacing, row, column + 2);
     grid->addWidget(m_number, row, column + 3);
+    // Otherwise, the dialog would grow when the user chooses fabric.
+    grid->setColumnMinimumWidth(column + 1, m_fabric->sizeHint().width());
     connectAll();
     arrange();
 }

@@ -17,6 +17,8 @@
 #include <cmath>
 
 namespace {
+const QSize Frame(16, 40); // estimate; the frame size is unknown until the window is shown
+
 bool isValue(float value)
 {
     return value > 0 && std::isfinite(value); // the value for "not set" is negative
@@ -46,12 +48,13 @@ ReinforcementDialog::ReinforcementDialog(QWidget* parent, ZobHandle project, flo
     connectAll();
     showResult();
     // Qt limits a new window to two thirds of the screen size, which would cut off the table.
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    resize(sizeHint().boundedTo(screen()->availableSize() - Frame));
 }
 
 VKD_QT_GroupBox* ReinforcementDialog::makeResult()
 {
     auto box = new VKD_QT_GroupBox(tr("Result"), this, "result");
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum); // leaves room for the table
     m_area = new VKD_QT_Label(box, "area");
     QFont bold = m_area->font();
     bold.setBold(true);
