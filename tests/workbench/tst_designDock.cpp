@@ -222,6 +222,14 @@ private Q_SLOTS:
         table->setCurrentCell(0, 0);
         colour->click();
         QVERIFY(!legend->isVisible());
+        trigger(*window, "German"); // replaces the page
+        QString opened;
+        whenModal([&opened](QWidget* presets) {
+            opened = presets->objectName();
+            presets->close();
+        });
+        find<QPushButton>(*window, "DesignPresets")->click();
+        QCOMPARE(opened, QStringLiteral("PresetsDialog"));
     }
 
     /// Apply asks about a group that is in two rows, and reports that a row without groups is

@@ -1923,6 +1923,14 @@ Stellt die Seiten für Bemessungsparameter und grafische Ausgabe mit eigenen Pro
         <translation>Überneh&amp;men</translation>
     </message>
     <message>
+        <source>P&amp;resets...</source>
+        <translation>&amp;Vorlagen ...</translation>
+    </message>
+    <message>
+        <source>Applies or edits named sets of parameters (Ctrl+R)</source>
+        <translation>Parametersätze mit Namen anwenden oder bearbeiten (Strg+R)</translation>
+    </message>
+    <message>
         <source>Stores the rows in the project file (Ctrl+S)</source>
         <translation>Speichert die Zeilen in der Projektdatei (Strg+S)</translation>
     </message>

@@ -5,6 +5,7 @@
 
 #include <vkd_qt_icon_named.h>
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollArea>
@@ -15,12 +16,14 @@ DesignDock::DesignDock(QWidget* parent)
     : PageDock(QStringLiteral("DesignDock"), parent)
     , m_place(new QScrollArea(this))
     , m_tools(new QVBoxLayout)
+    , m_presets(new QPushButton(this))
     , m_apply(new QPushButton(this))
 {
     setHelpTopic(this, "MERDAN/PARA");
     m_place->setWidgetResizable(true); // the page may be wider than the window
     m_place->setFrameShape(QFrame::NoFrame);
     m_place->setFocusPolicy(Qt::NoFocus);
+    m_presets->setObjectName(QStringLiteral("DesignPresets"));
     m_apply->setObjectName(QStringLiteral("DesignApply"));
     m_apply->setIcon(vkd::qt::icon(QStringLiteral(":/icon/program/save")));
     auto content = new QWidget(this);
@@ -28,10 +31,13 @@ DesignDock::DesignDock(QWidget* parent)
     layout->setContentsMargins(6, 0, 6, 6);
     layout->addWidget(m_place, 1);
     layout->addLayout(m_tools);
+    m_tools->addWidget(m_presets);
     m_tools->addStretch();
     m_tools->addWidget(m_apply);
     setWidget(content);
     setModified(false);
+    connect(m_presets, &QPushButton::clicked, this,
+            [this] { m_page->findChild<QAction*>(QStringLiteral("presets"))->trigger(); });
     connect(m_apply, &QPushButton::clicked, this, &DesignDock::applyRequested);
 }
 
@@ -50,6 +56,7 @@ void DesignDock::setPage(std::unique_ptr<DesignPage> page)
         if (hadFocus)
             m_page->setFocus();
     }
+    m_presets->setEnabled(m_page);
     Q_EMIT pageChanged();
 }
 
@@ -76,12 +83,14 @@ void DesignDock::setModified(bool isModified)
 
 void DesignDock::addTool(QWidget* button)
 {
-    m_tools->insertWidget(m_tools->indexOf(m_apply) - 1, button);
+    m_tools->insertWidget(m_tools->indexOf(m_presets), button);
 }
 
 void DesignDock::setTexts()
 {
     setTitle(tr("Design Parameters"));
+    m_presets->setText(tr("P&resets..."));
+    m_presets->setToolTip(tr("Applies or edits named sets of parameters (Ctrl+R)"));
     m_apply->setText(tr("&Apply"));
     m_apply->setToolTip(tr("Stores the rows in the project file (Ctrl+S)"));
 }

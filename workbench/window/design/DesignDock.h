@@ -27,7 +27,7 @@ public:
     DesignPage* page() const { return m_page; }
     /// Marks unsaved rows in the title, and enables Apply.
     void setModified(bool isModified);
-    /// Adds a button to the column beside the page, above Apply. Takes ownership.
+    /// Adds a button to the column beside the page, above Presets. Takes ownership.
     void addTool(QWidget* button);
     void setTexts();
     QList<QAction*> pageActions() const override;
@@ -41,6 +41,7 @@ private:
     DesignPage* m_page = nullptr;
     QScrollArea* m_place;
     QVBoxLayout* m_tools;
+    QPushButton* m_presets;
     QPushButton* m_apply;
 };
 
