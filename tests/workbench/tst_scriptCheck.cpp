@@ -168,6 +168,13 @@ private Q_SLOTS:
         row("order", "QUAD MXX FILL", "QUAD FILL", "6: no plot has \"FILL\" after \"QUAD\"\n");
         row("incomplete", "VIEW EG3", "VIEW TYPE", "10: a keyword is missing after \"TYPE\"\n");
         row("value", "WARN 873 ", "WARN     ", "10: a value is missing after \"WARN\"\n");
+        row("number", "WARN 873 ", "WARN -9.e+19 ", "");
+        row("no exponent", "WARN 873 ", "WARN 9e$x ",
+            "10: a value is missing after \"WARN\"\n"
+            "11: \"9e\" is not a keyword of this statement\n");
+        row("no digit", "WARN 873 ", "WARN -.e1 ",
+            "10: a value is missing after \"WARN\"\n"
+            "11: \"-.e1\" is not a keyword of this statement\n");
         row("values", "WARN 873 ", "WARN 1 2 3 4",
             "17: no plot has the value \"4\" after \"WARN\"\n");
         row("reference", "FILL $(FILL)", "FILL $(FILL",
