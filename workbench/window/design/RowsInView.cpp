@@ -133,15 +133,19 @@ void RowsInView::readRows()
 void RowsInView::showRows()
 {
     QHash<int, QString> numbers;
-    for (auto it = m_rowOf.cbegin(); it != m_rowOf.cend(); ++it)
-        numbers[it.key()] = QString::number(it.value() + 1);
+    for (int group : m_widgets.groups->groups())
+        if (const int row = rowOf(group); row >= 0)
+            numbers[group] = QString::number(row + 1);
     m_widgets.groups->setRows(page() ? &numbers : nullptr);
     m_colours->show(page(), m_rowOf, m_remainingRow);
 }
 
+/// Groups without area elements are not remaining groups, because they are not designed.
 int RowsInView::rowOf(int group) const
 {
-    return m_rowOf.value(group, m_remainingRow);
+    const std::vector<int>& others = m_widgets.groups->groupsWithoutAreas();
+    const bool hasAreas = !std::binary_search(others.begin(), others.end(), group);
+    return m_rowOf.value(group, hasAreas ? m_remainingRow : -1);
 }
 
 QVector<int> RowsInView::selectedRows() const
@@ -158,7 +162,7 @@ QVector<int> RowsInView::selectedRows() const
 }
 
 /// Highlights the groups of the selected rows. The row for the remaining groups represents all
-/// groups that are not in any other row.
+/// groups with area elements that are not in any other row.
 void RowsInView::showSelected()
 {
     std::set<int> groups;
@@ -167,7 +171,7 @@ void RowsInView::showSelected()
             groups.insert(group);
         if (row == m_remainingRow)
             for (int group : m_widgets.groups->groups())
-                if (!m_rowOf.contains(group))
+                if (rowOf(group) == row)
                     groups.insert(group);
     }
     mark(groups);
