@@ -128,7 +128,7 @@ void SheetView::paintEvent(QPaintEvent*)
         painter.setPen(palette().color(QPalette::Text));
         painter.drawText(viewport()->rect().adjusted(Room, Room, -Room, -Room),
                          Qt::AlignCenter | Qt::TextWordWrap,
-                         tr("No plot is chosen. Choose plots in Graphical Output."));
+                         tr("No plot is checked. Check plots in Graphical Output."));
     } else {
         paintSheet(painter);
     }

@@ -1080,8 +1080,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Skript</translation>
     </message>
     <message>
-        <source>No plot is chosen. Choose plots in Graphical Output.</source>
-        <translation>Es ist keine Grafik gewählt. Grafiken werden in der grafischen Ausgabe gewählt.</translation>
+        <source>No plot is checked. Check plots in Graphical Output.</source>
+        <translation>Es ist keine Grafik angekreuzt. Grafiken werden in der grafischen Ausgabe angekreuzt.</translation>
     </message>
     <message>
         <source>&amp;Find...</source>
@@ -1387,8 +1387,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Blatt</translation>
     </message>
     <message>
-        <source>No plot is chosen. Choose plots in Graphical Output.</source>
-        <translation>Es ist keine Grafik gewählt. Grafiken werden in der grafischen Ausgabe gewählt.</translation>
+        <source>No plot is checked. Check plots in Graphical Output.</source>
+        <translation>Es ist keine Grafik angekreuzt. Grafiken werden in der grafischen Ausgabe angekreuzt.</translation>
     </message>
 </context>
 <context>

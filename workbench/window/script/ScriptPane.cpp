@@ -181,7 +181,7 @@ void ScriptPane::setTexts()
     m_wrap->setText(tr("&Wrap Lines"));
     m_wrap->setIconText(tr("Wrap"));
     m_wrap->setToolTip(tr("Wraps long lines to the width of the panel"));
-    m_text->setPlaceholderText(tr("No plot is chosen. Choose plots in Graphical Output."));
+    m_text->setPlaceholderText(tr("No plot is checked. Check plots in Graphical Output."));
 }
 
 void ScriptPane::show(const TextLines& lines, const QVector<LineChange>& changes)
