@@ -133,7 +133,7 @@ void WindowPanes::resizeDocks()
     const int letter = metrics.averageCharWidth();
     const int width = m_window->width();
     workbench::resizeDocks(m_window, {m_groupDock, m_scriptDock},
-                           {qMin(45 * letter, width / 4), qMin(60 * letter, width / 3)},
+                           {qMin(48 * letter, width * 4 / 15), qMin(60 * letter, width / 3)},
                            Qt::Horizontal);
     auto shares = new DockShares(m_window);
     shares->add({m_scriptDock, m_sheetDock, m_recordDock}, Qt::Horizontal);
