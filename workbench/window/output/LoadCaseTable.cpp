@@ -1,6 +1,7 @@
 #include "window/output/LoadCaseTable.h"
 
 #include "window/choice/loadCaseKinds.h"
+#include "window/support/FullTextTip.h"
 #include "window/support/rowHeight.h"
 
 #include <vkd_dbo_model.h>
@@ -31,6 +32,7 @@ LoadCaseTable::LoadCaseTable(ZobHandle project, QWidget* parent)
     resizeColumnsToContents();
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    new FullTextTip(this);
     connect(this, &QTableWidget::itemChanged, this, &LoadCaseTable::changed);
 }
 

@@ -1,6 +1,7 @@
 #include "window/textoutput/PickTable.h"
 
 #include "window/choice/loadCaseKinds.h"
+#include "window/support/FullTextTip.h"
 #include "window/support/rowHeight.h"
 
 #include <QHeaderView>
@@ -48,6 +49,7 @@ PickTable::PickTable(const QVector<vkd::dbo::LoadCase>& rows, QWidget* parent, c
     // The space key needs a current row, but this row must not look selected.
     selectionModel()->setCurrentIndex(m_model->index(0, NumberColumn),
                                       QItemSelectionModel::NoUpdate);
+    new FullTextTip(this);
     connect(m_model, &QStandardItemModel::itemChanged, this, &PickTable::changed);
 }
 
