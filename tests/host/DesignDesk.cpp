@@ -57,6 +57,23 @@ QString DesignDesk::groups() const
     return texts.join(QLatin1Char('|'));
 }
 
+QString DesignDesk::state() const
+{
+    QStringList texts;
+    for (int number = 0; number < table()->rowCount(); ++number)
+        texts << row(number) + table()->item(number, 0)->toolTip();
+    for (const QModelIndex& cell : table()->selectionModel()->selectedIndexes())
+        texts << QStringLiteral("%1,%2").arg(cell.row()).arg(cell.column());
+    const QModelIndex current = table()->currentIndex();
+    return texts.join(QLatin1Char('\n')) +
+           QStringLiteral(" at %1,%2").arg(current.row()).arg(current.column());
+}
+
+QString DesignDesk::undoText() const
+{
+    return testsupport::find<QAction>(*page, "undo")->text();
+}
+
 QString DesignDesk::editors() const
 {
     QStringList places;

@@ -23,6 +23,10 @@ public:
     QString row(int number) const;
     /// Returns the contents of the groups column, joined by "|".
     QString groups() const;
+    /// Returns the rows with their tool tips, and the selected and current cells.
+    QString state() const;
+    /// Returns the text of the command that undoes the last step.
+    QString undoText() const;
     /// Returns the cells that contain widgets, as "row,column" joined by spaces.
     QString editors() const;
     /// Returns the message beside the buttons.

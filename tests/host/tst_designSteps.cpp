@@ -4,18 +4,13 @@
 
 #include <VKD_P_DesignParameter_Rows.h>
 
-#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
-#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QToolButton>
-#include <QToolTip>
 
 using namespace testsupport;
 
@@ -24,20 +19,6 @@ QByteArray bytesOf(const std::vector<tagZOB_QUAD_RIM>& records)
 {
     return {reinterpret_cast<const char*>(records.data()),
             int(records.size() * sizeof records.front())};
-}
-
-/// Returns the rows with their tool tips, and the selected and current cells.
-QString stateOf(const DesignDesk& desk)
-{
-    const QTableWidget* table = desk.table();
-    QStringList texts;
-    for (int row = 0; row < table->rowCount(); ++row)
-        texts << desk.row(row) + table->item(row, 0)->toolTip();
-    for (const QModelIndex& cell : table->selectionModel()->selectedIndexes())
-        texts << QStringLiteral("%1,%2").arg(cell.row()).arg(cell.column());
-    const QModelIndex current = table->currentIndex();
-    return texts.join(QLatin1Char('\n')) +
-           QStringLiteral(" at %1,%2").arg(current.row()).arg(current.column());
 }
 
 struct Step
@@ -76,9 +57,36 @@ std::vector<Step> stepsOn(DesignDesk& desk)
         {"Deletion of 2 rows", 2, 3, [&desk] { desk.press("btnDelete"); }},
     };
 }
+/// Presses a key and Ctrl in the table. Returns the groups of all rows.
+QString pressCtrl(const DesignDesk& desk, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(desk.table(), key, Qt::ControlModifier | modifiers);
+    return desk.groups();
+}
+
+/// Returns the parameters of a row.
+QString parameters(const DesignDesk& desk, int row)
+{
+    return desk.row(row).section(QLatin1Char('|'), 1);
+}
+
+/// Pastes a text that is refused. Returns the message.
+QString refusalOf(const DesignDesk& desk, const QString& text)
+{
+    QString message;
+    QApplication::clipboard()->setText(text);
+    whenModal([&message](QWidget* box) {
+        message = qobject_cast<QMessageBox*>(box)->text();
+        qobject_cast<QDialog*>(box)->reject();
+    });
+    pressCtrl(desk, Qt::Key_V);
+    QApplication::setActiveWindow(desk.page->window());
+    return message;
+}
+
 } // namespace
 
-/// Tests steps that can be undone, the clipboard, and selections of several rows.
+/// Tests steps that can be undone, and the clipboard.
 class tst_designSteps : public QObject
 {
     Q_OBJECT
@@ -96,7 +104,7 @@ private Q_SLOTS:
         const QByteArray stored = bytesOf(m_project->records());
         DesignDesk desk(*m_project, records);
         QTableWidget* table = desk.table();
-        const auto state = [&desk] { return stateOf(desk); };
+        const auto state = [&desk] { return desk.state(); };
         const std::vector<Step> steps = stepsOn(desk);
         QStringList before, after;
         for (const Step& step : steps) {
@@ -105,8 +113,7 @@ private Q_SLOTS:
                 table->setRangeSelected({1, 1, 1, 2}, true);
             before << state();
             step.run();
-            QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
-                     QLatin1String("&Undo ") + QLatin1String(step.name));
+            QCOMPARE(desk.undoText(), QLatin1String("&Undo ") + QLatin1String(step.name));
             table->setCurrentCell(-1, -1); // closes the editor
             table->setCurrentCell(0, 0);
             after << state();
@@ -132,320 +139,71 @@ private Q_SLOTS:
         QVERIFY(bytesOf(m_project->records()) == stored);
     }
 
-    /// Pasting sets parameters and preserves groups. It is a single step, which is performed
-    /// completely or not at all.
+    /// Pasting sets parameters and preserves groups. It is a single step.
     void copyingRows()
     {
         DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 4), record(2, 4, 0)});
         QTableWidget* table = desk.table();
-        const auto press = [&](int key, Qt::KeyboardModifiers modifiers = {}) {
-            QTest::keyClick(table, Qt::Key(key), Qt::ControlModifier | modifiers);
-            return desk.groups();
-        };
         table->setCurrentCell(-1, -1);
         QVERIFY(!find<QAction>(*desk.page, "copyRows")->isEnabled());
         table->setCurrentCell(1, 3);
-        press(Qt::Key_C);
-        const QString copied = QApplication::clipboard()->text();
-        QCOMPARE(copied.count(QLatin1Char('\n')), 2);
-        QVERIFY(QApplication::clipboard()->mimeData()->html().contains(QLatin1String("<td>4.00")));
+        pressCtrl(desk, Qt::Key_C);
+        const QMimeData* copied = QApplication::clipboard()->mimeData();
+        QCOMPARE(copied->text().count(QLatin1Char('\n')), 2);
+        QVERIFY(copied->html().contains(QLatin1String("<td>4.00")));
         table->setCurrentCell(0, 3, QItemSelectionModel::ClearAndSelect);
         table->setRangeSelected({2, 3, 2, 3}, true);
         const QString before = desk.row(0) + desk.row(2);
-        QCOMPARE(press(Qt::Key_V), QStringLiteral("Remaining Groups|1|2"));
-        QCOMPARE(desk.row(0).section(QLatin1Char('|'), 1),
-                 desk.row(1).section(QLatin1Char('|'), 1));
-        QCOMPARE(desk.row(2).section(QLatin1Char('|'), 1),
-                 desk.row(1).section(QLatin1Char('|'), 1));
-        press(Qt::Key_Z);
+        QCOMPARE(pressCtrl(desk, Qt::Key_V), QStringLiteral("Remaining Groups|1|2"));
+        QCOMPARE(parameters(desk, 0), parameters(desk, 1));
+        QCOMPARE(parameters(desk, 2), parameters(desk, 1));
+        pressCtrl(desk, Qt::Key_Z);
         QCOMPARE(desk.row(0) + desk.row(2), before);
         table->setCurrentCell(2, 3, QItemSelectionModel::ClearAndSelect);
-        press(Qt::Key_V);
-        QCOMPARE(desk.row(2).section(QLatin1Char('|'), 1),
-                 desk.row(1).section(QLatin1Char('|'), 1));
-        press(Qt::Key_Z); // a step after one that was undone
+        pressCtrl(desk, Qt::Key_V);
+        QCOMPARE(parameters(desk, 2), parameters(desk, 1));
+        pressCtrl(desk, Qt::Key_Z); // a step after one that was undone
         QCOMPARE(desk.row(0) + desk.row(2), before);
-        table->setRangeSelected({0, 3, 0, 3}, true);
-        const auto undo = [&desk] { return find<QAction>(*desk.page, "undo")->text(); };
-        QCOMPARE(press(Qt::Key_D, Qt::ShiftModifier),
+    }
+
+    void addingCopies()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 4), record(2, 4, 0)});
+        desk.table()->setCurrentCell(1, 3);
+        pressCtrl(desk, Qt::Key_C);
+        desk.table()->setCurrentCell(0, 3, QItemSelectionModel::ClearAndSelect);
+        desk.table()->setRangeSelected({2, 3, 2, 3}, true);
+        QCOMPARE(pressCtrl(desk, Qt::Key_D, Qt::ShiftModifier),
                  QStringLiteral("Remaining Groups|1|2|None|None"));
-        QCOMPARE(undo(), QStringLiteral("&Undo Duplicates of 2 rows"));
-        QCOMPARE(desk.row(4).section(QLatin1Char('|'), 1),
-                 desk.row(2).section(QLatin1Char('|'), 1));
-        QCOMPARE(press(Qt::Key_V, Qt::ShiftModifier),
+        QCOMPARE(desk.undoText(), QStringLiteral("&Undo Duplicates of 2 rows"));
+        QCOMPARE(parameters(desk, 4), parameters(desk, 2));
+        QCOMPARE(pressCtrl(desk, Qt::Key_V, Qt::ShiftModifier),
                  QStringLiteral("Remaining Groups|1|2|None|None|None"));
-        QCOMPARE(undo(), QStringLiteral("&Undo New row 6"));
-        table->clearSelection();
+        QCOMPARE(desk.undoText(), QStringLiteral("&Undo New row 6"));
+        desk.table()->clearSelection();
         QApplication::clipboard()->setText(
-            QString(copied).replace(QLatin1String("4.00"), QLatin1String("5,5")));
-        press(Qt::Key_V);
+            QApplication::clipboard()->text().replace(QLatin1String("4.00"), QLatin1String("5,5")));
+        pressCtrl(desk, Qt::Key_V);
         QVERIFY(desk.row(6).contains(QLatin1String("5.50 cm")));
-        const QString same = desk.row(6);
+    }
+
+    /// A text is pasted completely or not at all. The message has room for 12 faults.
+    void pastingFaultyTexts()
+    {
+        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 4)});
+        desk.table()->setCurrentCell(1, 3);
+        const QString before = desk.state();
         QStringList told;
-        for (const char* text : {"Type\n7", "x", "Type\n1\n2"}) {
-            QApplication::clipboard()->setText(QLatin1String(text));
-            whenModal([&told](QWidget* box) {
-                told << qobject_cast<QMessageBox*>(box)->text().section(QLatin1Char('\n'), 2);
-                qobject_cast<QDialog*>(box)->reject();
-            });
-            press(Qt::Key_V);
-            QApplication::setActiveWindow(&desk);
-            QCOMPARE(desk.row(6), same);
-            QCOMPARE(table->rowCount(), 7);
-        }
-        QCOMPARE(told.size(), 3);
-        QCOMPARE(told.first(), QStringLiteral("Row 2, Type: \"7\" is not a type."));
-        for (int bad : {12, 13}) { // the message has room for 12 faults
-            QApplication::clipboard()->setText(QStringLiteral("Type") +
-                                               QStringLiteral("\n7").repeated(bad));
-            whenModal([&](QWidget* box) {
-                told << qobject_cast<QMessageBox*>(box)->text().section(QLatin1Char('\n'), 14);
-                qobject_cast<QDialog*>(box)->reject();
-            });
-            press(Qt::Key_V);
-            QApplication::setActiveWindow(&desk);
-        }
-        QCOMPARE(told.mid(3).join(QLatin1Char('|')), QStringLiteral("|1 more"));
-    }
-
-    /// Fields in which the rows differ are empty. Only changed fields are written, to all selected
-    /// rows with a design and in one step. The limits are checked in each row.
-    void editingSeveralRows()
-    {
-        tagZOB_QUAD_RIM thin = record(1, 2, 4);
-        thin.hio = 0.025F;
-        thin.dio = thin.diu = 12;
-        tagZOB_QUAD_RIM limited = record(2, 3, 4);
-        limited.amo = 9;
-        DesignDesk desk(*m_project, {record(-1, 1, 4), thin, limited, record(3, 0, 0)});
-        const QString before = stateOf(desk);
-        const auto edit = [&desk](int column, const std::function<void(QWidget&)>& fill) {
-            desk.table()->setCurrentCell(2, column, QItemSelectionModel::ClearAndSelect);
-            desk.table()->setRangeSelected({0, column, 3, column}, true);
-            QString shown;
-            whenModal([&](QWidget* dialog) {
-                QStringList texts{find<QLabel>(*dialog, "rowTitle")->accessibleName()};
-                for (const auto* field : dialog->findChildren<QLineEdit*>())
-                    texts << field->objectName() + QLatin1Char(' ') + field->text() +
-                                 field->placeholderText();
-                shown = texts.join(QLatin1Char('|'));
-                fill(*dialog);
-                qobject_cast<QDialog*>(dialog)->accept();
-                dialog->close(); // if it was not accepted
-            });
-            desk.keys({Qt::Key_F2});
-            return shown;
-        };
-        const QString shown = edit(2, [](QWidget& dialog) {
-            find<QLineEdit>(dialog, "hiuq")->setText(QStringLiteral("12"));
-            const auto hio = find<QLineEdit>(dialog, "hio");
-            QTest::keyClicks(hio, QStringLiteral("7"));
-            QCOMPARE(hio->text(), QStringLiteral("7"));
-            QTest::keyClick(hio, Qt::Key_Backspace);
-            QTest::keyClick(hio, Qt::Key_Delete); // sets the value to "not set" in all rows
-        });
-        QCOMPARE(shown, QStringLiteral("Rows 1-3: groups 1, 2 and remaining groups|rio 0.0|riu 0.0|"
-                                       "hio several|hiu 35.0|hioq several|hiuq 10.0"));
-        for (int row : {0, 1, 2})
-            QVERIFY(desk.row(row).contains(QLatin1String("/ -  ;35.0 mm ;")) &&
-                    desk.row(row).contains(QLatin1String(" ;12.0 mm")));
-        QVERIFY(desk.row(1).contains(QLatin1String("20.0 mm"))); // the spacing of the thin row
-        QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
-                 QStringLiteral("&Undo Direction and distance of 3 rows"));
-        find<QAction>(*desk.page, "undo")->trigger();
-        desk.table()->setCurrentCell(-1, -1);
-        QCOMPARE(stateOf(desk).section(QLatin1Char('\n'), 0, 6),
-                 before.section(QLatin1Char('\n'), 0, 6));
-        QString told;
-        edit(3, [&told](QWidget& dialog) {
-            const auto bar = find<QComboBox>(dialog, "m_pDIO");
-            QCOMPARE(bar->currentText(), QStringLiteral("several"));
-            QHelpEvent help(QEvent::ToolTip, {5, 5}, bar->mapToGlobal({5, 5}));
-            QApplication::sendEvent(bar, &help);
-            QVERIFY(QToolTip::text().contains(QLatin1String("Different values: ")));
-            bar->setCurrentIndex(bar->findText(QStringLiteral("Ø20")));
-            find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9,5"));
-            whenModal([&told](QWidget* box) {
-                told = qobject_cast<QMessageBox*>(box)->informativeText();
-                box->close();
-            });
-        });
-        QCOMPARE(told, QStringLiteral("Row 3: the minimum would be 9.50 cm²/m and the maximum 9.00 "
-                                      "cm²/m."));
-        edit(3, [](QWidget& dialog) {
-            find<QLineEdit>(dialog, "aso")->setText(QStringLiteral("9"));
-            const auto bar = find<QComboBox>(dialog, "m_pDIU");
-            const int notSet = bar->findText(QStringLiteral("not set"));
-            QVERIFY(notSet >= 0);
-            bar->setCurrentIndex(notSet);
-        });
-        QVERIFY(desk.row(1).contains(QStringLiteral("Ø12 ;9.00 cm²/m ; - / -  ;")));
-        QVERIFY(desk.row(2).contains(QStringLiteral("Ø10 ;9.00 cm²/m ;9.00")));
-    }
-
-    /// The list of types is empty if the types differ. It may then also choose the type of its own
-    /// row for the others.
-    void typeOfSeveralRows()
-    {
-        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 3, 1), record(2, 2, 2)});
-        const auto types = [&desk] {
-            QStringList texts;
-            for (int row : {0, 1, 2})
-                texts << desk.table()->item(row, 1)->text();
-            return texts.join(QLatin1Char('|'));
-        };
-        const QString before = types();
-        desk.table()->setCurrentCell(1, 1);
-        desk.table()->setRangeSelected({1, 1, 2, 1}, true);
-        desk.keys({Qt::Key_F2});
-        const auto list = find<QComboBox>(desk, "cellCombo");
-        QTRY_VERIFY(list->view()->isVisible());
-        QCOMPARE(list->currentIndex(), -1);
-        list->view()->setCurrentIndex(list->model()->index(3, 0));
-        QTest::keyClick(list->view(), Qt::Key_Enter);
-        QTRY_COMPARE(types(), QStringLiteral("Two Layers (orthogonal)|Three Layers|Three Layers"));
-        QMenu* menu = find<QAction>(*desk.page, "rowType")->menu();
-        const auto checked = [menu] {
-            QStringList texts;
-            Q_EMIT menu->aboutToShow();
-            for (const QAction* entry : menu->actions())
-                texts << (entry->isChecked() ? entry->text() : QString());
-            return texts.join(QString());
-        };
-        QCOMPARE(checked(), QStringLiteral("Three Layers"));
-        for (QAction* entry : menu->actions())
-            if (entry->text() == QLatin1String("Circular"))
-                entry->trigger();
-        QCOMPARE(types(), QStringLiteral("Two Layers (orthogonal)|Circular|Circular"));
-        desk.table()->setRangeSelected({0, 1, 2, 1}, true);
-        QCOMPARE(checked(), QString());
-        for (int step = 0; step < 2; ++step) {
-            QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
-                     QStringLiteral("&Undo Type of 2 rows"));
-            find<QAction>(*desk.page, "undo")->trigger();
-        }
-        QCOMPARE(types(), before);
-    }
-
-    /// The dialog stays open from row to row. A row that is only shown keeps its record, even if OK
-    /// would clear some of its fields.
-    void steppingThroughRows()
-    {
-        DesignDesk desk(*m_project, {record(-1, 1, 1), record(1, 0, 0), record(2, 3, 2),
-                                     record(3, 2, 3), record(4, 2, 4)});
-        desk.table()->setCurrentCell(0, 3);
-        QStringList shown;
-        whenModal([&](QWidget* dialog) {
-            QApplication::setActiveWindow(dialog); // shortcuts require an active window
-            const auto step = [&](Qt::Key key) {
-                QTest::keyClick(dialog, key, Qt::AltModifier);
-                shown << QStringLiteral("%1 at %2 with %3 fields, aso %4%5 %6")
-                             .arg(dialog->accessibleDescription())
-                             .arg(desk.table()->currentRow())
-                             .arg(dialog->findChildren<QLineEdit*>().size())
-                             .arg(find<QLineEdit>(*dialog, "aso")->text(),
-                                  find<QLineEdit>(*dialog, "aso")->hasFocus()
-                                      ? QString()
-                                      : QStringLiteral(" without focus"),
-                                  find<QLabel>(*dialog, "rowMessage")->text())
-                             .trimmed();
-            };
-            find<QLineEdit>(*dialog, "aso")->setFocus();
-            find<QLineEdit>(*dialog, "asu")->setText(QStringLiteral("7"));
-            step(Qt::Key_Down);
-            step(Qt::Key_Down);
-            find<QLineEdit>(*dialog, "aso")->setText(QStringLiteral("8,5"));
-            find<QLineEdit>(*dialog, "amo")->setText(QStringLiteral("x"));
-            step(Qt::Key_Down); // refused
-            find<QLineEdit>(*dialog, "amo")->clear();
-            find<QLineEdit>(*dialog, "aso")->setFocus();
-            step(Qt::Key_Down);
-            step(Qt::Key_Down); // the last row
-            for (int row : {3, 2, 0, 0}) {
-                Q_UNUSED(row)
-                step(Qt::Key_Up);
-            }
-            qobject_cast<QDialog*>(dialog)->reject();
-        });
-        desk.keys({Qt::Key_F2});
-        QCOMPARE(
-            shown.join(QLatin1Char('\n')),
-            QStringLiteral(
-                "Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
-                "Row 4: group 3 at 3 with 8 fields, aso 3.00\n"
-                "Row 4: group 3 at 3 with 8 fields, aso 8.50 without focus\n"
-                "Row 5: group 4 at 4 with 8 fields, aso 4.00\n"
-                "Row 5: group 4 at 4 with 8 fields, aso 4.00 This is the last row.\n"
-                "Row 4: group 3 at 3 with 8 fields, aso 8.50\n"
-                "Row 3: group 2 at 2 with 12 fields, aso 2.00\n"
-                "Row 1: remaining groups at 0 with 8 fields, aso 1.00\n"
-                "Row 1: remaining groups at 0 with 8 fields, aso 1.00 This is the first row."));
-        QAction* undo = find<QAction>(*desk.page, "undo");
-        QCOMPARE(undo->text(), QStringLiteral("&Undo Reinforcement of row 4"));
-        undo->trigger();
-        QCOMPARE(undo->text(), QStringLiteral("&Undo Reinforcement of row 1"));
-        undo->trigger();
-        QVERIFY(!undo->isEnabled());
-        QCOMPARE(desk.focusWidget(), desk.table());
-    }
-
-    /// Ctrl+Enter copies the value of a field to the fields of the same kind.
-    void sameValueEverywhere()
-    {
-        DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 1)});
-        QStringList messages;
-        const auto enter = [&](int column, const char* field, const QString& text) {
-            desk.table()->setCurrentCell(1, column);
-            whenModal([&](QWidget* dialog) {
-                QApplication::setActiveWindow(dialog); // shortcuts require an active window
-                auto edit = dialog->findChild<QLineEdit*>(QLatin1String(field));
-                QWidget* focused = edit ? edit : find<QWidget>(*dialog, field);
-                focused->setFocus();
-                QTest::keyClicks(QApplication::focusWidget(), text);
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ControlModifier);
-                messages << find<QLabel>(*dialog, "rowMessage")->text();
-                qobject_cast<QDialog*>(dialog)->accept();
-            });
-            desk.keys({Qt::Key_F2});
-        };
-        enter(2, "hiu", QStringLiteral("40"));
-        enter(3, "m_pDIUQ", QStringLiteral("14"));
-        enter(3, "amoq", QStringLiteral("70"));
-        enter(4, "crackWKOQ", QStringLiteral("0,2"));
-        QCOMPARE(messages.first(), QStringLiteral("Set in the other field."));
-        QCOMPARE(messages.last(), QStringLiteral("Set in 3 other fields."));
-        desk.page->writeToZob();
-        const tagZOB_QUAD_RIM r = m_project->records().at(1);
-        QStringList values;
-        for (float value : {r.hio, r.hioq, r.hiu, r.dio, r.dioq, r.diu, r.diuq, r.aso, r.asu, r.amo,
-                            r.amoq, r.amu, r.amuq, r.wko, r.wkoq, r.wku, r.wkuq, r.sigo})
-            values << QString::number(double(value), 'g', 3);
-        QCOMPARE(values.join(QLatin1Char(' ')),
-                 QStringLiteral("0.04 0.05 0.04 14 14 14 14 1 -1e+05 70 70 70 70 0.2 0.2 0.2 0.2 "
-                                "-1e+05"));
-    }
-
-    /// The dialog says which of its values the table shows. It continues to edit its row if the
-    /// host has removed the other rows.
-    void crackControlOfARow()
-    {
-        QStringList notes;
-        for (int row : {0, 1}) {
-            DesignDesk desk(*m_project, {record(-1, 1, 0), record(1, 2, 0)});
-            desk.table()->setCurrentCell(row, 4);
-            whenModal([&](QWidget* dialog) {
-                const auto note = find<QLabel>(*dialog, "rowNote");
-                notes << (note->isVisible() ? note->text().section(QLatin1Char(' '), 3, 4)
-                                            : QString());
-                m_project->setRecords({record(-1, 1, 0)});
-                desk.page->readZob();
-                find<QToolButton>(*dialog, row == 0 ? "nextRow" : "previousRow")->click();
-                QVERIFY(dialog->isVisible());
-                qobject_cast<QDialog*>(dialog)->reject();
-            });
-            desk.keys({Qt::Key_F2});
-        }
-        QCOMPARE(notes.join(QLatin1Char('|')), QStringLiteral("the crack|the steel"));
+        for (const char* text : {"Type\n7", "x", "Type\n1\n2"})
+            told << refusalOf(desk, QLatin1String(text));
+        QCOMPARE(told.first().section(QLatin1Char('\n'), 2),
+                 QStringLiteral("Row 2, Type: \"7\" is not a type."));
+        QVERIFY(!told.contains(QString()));
+        for (int bad : {12, 13})
+            QCOMPARE(refusalOf(desk, QStringLiteral("Type") + QStringLiteral("\n7").repeated(bad))
+                         .section(QLatin1Char('\n'), 14),
+                     bad == 13 ? QStringLiteral("1 more") : QString());
+        QCOMPARE(desk.state(), before);
     }
 
     /// Steps that change very many rows are dropped, oldest first. The others still work, and the
