@@ -1,6 +1,7 @@
 #include "file/OutsideChanges.h"
 
 #include "file/openFile.h"
+#include "file/Statement.h"
 #include "file/systemErrors.h"
 #include "file/ZobConnection.h"
 #include "file/zobFailure.h"
@@ -46,14 +47,12 @@ cd_error_t OutsideChanges::ask()
         return VKD_ZOB_LOCKED;
     sqlite3* handle = m_connection.handle();
     m_connection.setWaiting(false);
-    sqlite3_stmt* question = nullptr;
-    int code = sqlite3_prepare_v2(handle, VersionSql, -1, &question, nullptr);
-    if (code == SQLITE_OK)
-        code = sqlite3_step(question);
+    Statement question;
+    question.prepare(handle, VersionSql);
+    const int code = question.step();
     if (code == SQLITE_ROW)
-        m_version = sqlite3_column_int(question, 0);
+        m_version = question.column(0);
     const cd_error_t status = zobStatus(handle, code, takeSystemError());
-    sqlite3_finalize(question);
     m_connection.setWaiting(true);
     return status;
 }

@@ -42,9 +42,7 @@ int RecordTable::stepTo(KeyPair pair, int position)
         stopWalk();
         if (const int code = settle(); code != SQLITE_DONE)
             return code;
-        const int code = m_get.start(m_connection, GetSql, pair.first, pair.second);
-        if (code != SQLITE_OK)
-            return code;
+        m_get.start(m_connection, GetSql, pair.first, pair.second);
         m_get.bind(3, position);
         m_walkPair = pair;
     }
@@ -57,9 +55,8 @@ int RecordTable::stepTo(KeyPair pair, int position)
 
 int RecordTable::findVersion()
 {
-    int code = m_version.prepare(m_connection, VersionSql);
-    if (code == SQLITE_OK)
-        code = m_version.step();
+    m_version.prepare(m_connection, VersionSql);
+    const int code = m_version.step();
     if (code == SQLITE_ROW)
         m_hasChecksums = m_version.column(0) >= ZobSchemaVersion;
     m_version.done();
@@ -107,9 +104,8 @@ void RecordTable::stopWalk()
 
 int RecordTable::findAny(KeyPair pair)
 {
-    int code = m_any.start(m_connection, AnySql, pair.first, pair.second);
-    if (code == SQLITE_OK)
-        code = m_any.step();
+    m_any.start(m_connection, AnySql, pair.first, pair.second);
+    const int code = m_any.step();
     m_any.done();
     return code;
 }
@@ -118,9 +114,8 @@ int RecordTable::findNext(KeyPair* pair)
 {
     if (const int settled = settle(); settled != SQLITE_DONE)
         return settled;
-    int code = m_next.start(m_connection, NextSql, pair->first, pair->second);
-    if (code == SQLITE_OK)
-        code = m_next.step();
+    m_next.start(m_connection, NextSql, pair->first, pair->second);
+    const int code = m_next.step();
     if (code == SQLITE_ROW)
         *pair = {m_next.column(0), m_next.column(1)};
     m_next.done();
@@ -129,9 +124,8 @@ int RecordTable::findNext(KeyPair* pair)
 
 int RecordTable::clear(KeyPair pair)
 {
-    m_ends.erase(pair);
-    const int code = m_clear.start(m_connection, ClearSql, pair.first, pair.second);
-    return code == SQLITE_OK ? m_clear.run() : code;
+    m_clear.start(m_connection, ClearSql, pair.first, pair.second);
+    return m_clear.run();
 }
 
 int RecordTable::writeFirst(KeyPair pair, const void* record, int length)
@@ -139,14 +133,14 @@ int RecordTable::writeFirst(KeyPair pair, const void* record, int length)
     if (const int settled = settle(); settled != SQLITE_DONE)
         return settled;
     m_ends.erase(pair);
-    const int code = m_first.start(m_connection, FirstSql, pair.first, pair.second);
-    return code == SQLITE_OK ? m_first.run(record, length) : code;
+    m_first.start(m_connection, FirstSql, pair.first, pair.second);
+    return m_first.run(record, length);
 }
 
 int RecordTable::append(KeyPair pair, const void* record, int length)
 {
-    const int code = m_append.start(m_connection, AppendSql, pair.first, pair.second);
-    return code == SQLITE_OK ? m_append.run(record, length) : code;
+    m_append.start(m_connection, AppendSql, pair.first, pair.second);
+    return m_append.run(record, length);
 }
 
 int RecordTable::clearInside(KeyPair pair)
@@ -188,17 +182,15 @@ int RecordTable::appendInside(KeyPair pair, const void* record, int length)
     const int position = end->second++;
     if (overwrites)
         return m_rewrite.append(record, length);
-    int code = m_appendAt.start(m_connection, AppendAtSql, pair.first, pair.second);
-    if (code == SQLITE_OK)
-        code = m_appendAt.bind(4, position);
-    return code == SQLITE_OK ? m_appendAt.run(record, length) : code;
+    m_appendAt.start(m_connection, AppendAtSql, pair.first, pair.second);
+    m_appendAt.bind(4, position);
+    return m_appendAt.run(record, length);
 }
 
 int RecordTable::findEnd(KeyPair pair, int* position)
 {
-    int code = m_end.start(m_connection, EndSql, pair.first, pair.second);
-    if (code == SQLITE_OK)
-        code = m_end.step();
+    m_end.start(m_connection, EndSql, pair.first, pair.second);
+    const int code = m_end.step();
     if (code == SQLITE_ROW)
         *position = m_end.column(0);
     m_end.done();

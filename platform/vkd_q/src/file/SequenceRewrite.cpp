@@ -57,12 +57,10 @@ int SequenceRewrite::flush()
     const int first = m_next - count;
     int code = SQLITE_DONE;
     if (count > 0) {
-        code = m_overwrite.start(m_connection, OverwriteSql, m_pair.first, m_pair.second);
-        if (code == SQLITE_OK) {
-            m_overwrite.bind(3, first);
-            m_overwrite.bind(4, m_next);
-            code = m_overwrite.run();
-        }
+        m_overwrite.start(m_connection, OverwriteSql, m_pair.first, m_pair.second);
+        m_overwrite.bind(3, first);
+        m_overwrite.bind(4, m_next);
+        code = m_overwrite.run();
         if (code == SQLITE_DONE && sqlite3_changes(m_connection) != count)
             code = insertBuffered(first);
     }
@@ -77,25 +75,21 @@ int SequenceRewrite::insertBuffered(int first)
     m_end = first;
     int code = cut(first);
     for (int position = first; position < m_next && code == SQLITE_DONE; ++position) {
-        code = m_insert.start(m_connection, InsertSql, m_pair.first, m_pair.second);
-        if (code == SQLITE_OK)
-            code = m_insert.bind(3, position);
-        if (code == SQLITE_OK)
-            code = m_insert.run();
+        m_insert.start(m_connection, InsertSql, m_pair.first, m_pair.second);
+        m_insert.bind(3, position);
+        code = m_insert.run();
     }
     return code;
 }
 
 int SequenceRewrite::cut(int position)
 {
-    int code = m_cut.start(m_connection, CutSql, m_pair.first, m_pair.second);
-    if (code == SQLITE_OK)
-        code = m_cut.bind(3, position);
-    if (code == SQLITE_OK)
-        code = m_cut.run();
-    if (code == SQLITE_DONE)
-        code = m_negative.start(m_connection, NegativeSql, m_pair.first, m_pair.second);
-    return code == SQLITE_OK ? m_negative.run() : code;
+    m_cut.start(m_connection, CutSql, m_pair.first, m_pair.second);
+    m_cut.bind(3, position);
+    if (const int code = m_cut.run(); code != SQLITE_DONE)
+        return code;
+    m_negative.start(m_connection, NegativeSql, m_pair.first, m_pair.second);
+    return m_negative.run();
 }
 
 int SequenceRewrite::finish()
@@ -119,8 +113,8 @@ int SequenceRewrite::finish()
 /// records is not durable yet.
 int SequenceRewrite::touchFile()
 {
-    const int code = m_touch.prepare(m_connection, TouchSql);
-    return code == SQLITE_OK ? m_touch.run() : code;
+    m_touch.prepare(m_connection, TouchSql);
+    return m_touch.run();
 }
 
 void SequenceRewrite::drop()

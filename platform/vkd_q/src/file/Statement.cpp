@@ -7,31 +7,28 @@ Statement::~Statement()
     sqlite3_finalize(m_statement);
 }
 
-int Statement::prepare(sqlite3* connection, const char* sql)
+void Statement::prepare(sqlite3* connection, const char* sql)
 {
-    if (m_statement)
-        return SQLITE_OK;
-    return sqlite3_prepare_v3(connection, sql, -1, SQLITE_PREPARE_PERSISTENT, &m_statement,
-                              nullptr);
+    if (!m_statement)
+        m_prepared = sqlite3_prepare_v3(connection, sql, -1, SQLITE_PREPARE_PERSISTENT,
+                                        &m_statement, nullptr);
 }
 
-int Statement::start(sqlite3* connection, const char* sql, int first, int second)
+void Statement::start(sqlite3* connection, const char* sql, int first, int second)
 {
-    const int code = prepare(connection, sql);
-    if (code != SQLITE_OK)
-        return code;
+    prepare(connection, sql);
     bind(1, first);
-    return bind(2, second);
+    bind(2, second);
 }
 
-int Statement::bind(int parameter, int value)
+void Statement::bind(int parameter, int value)
 {
-    return sqlite3_bind_int(m_statement, parameter, value);
+    sqlite3_bind_int(m_statement, parameter, value);
 }
 
 int Statement::step()
 {
-    return sqlite3_step(m_statement);
+    return m_statement ? sqlite3_step(m_statement) : m_prepared;
 }
 
 int Statement::run()
@@ -44,9 +41,9 @@ int Statement::run()
 int Statement::run(const void* bytes, int length)
 {
     // A null pointer would store NULL instead of an empty record.
-    const int code = length == 0 ? sqlite3_bind_zeroblob(m_statement, 3, 0)
-                                 : sqlite3_bind_blob(m_statement, 3, bytes, length, SQLITE_STATIC);
-    return code == SQLITE_OK ? run() : code;
+    const int bound = length == 0 ? sqlite3_bind_zeroblob(m_statement, 3, 0)
+                                  : sqlite3_bind_blob(m_statement, 3, bytes, length, SQLITE_STATIC);
+    return m_statement && bound != SQLITE_OK ? bound : run();
 }
 
 int Statement::column(int index) const

@@ -13,12 +13,12 @@ public:
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
 
-    /// Prepares `sql` on the first call. All operations that return an int return an SQLite result
-    /// code.
-    int prepare(sqlite3* connection, const char* sql);
+    /// Prepares `sql` on the first call. If this fails, step() and run() return the result code.
+    void prepare(sqlite3* connection, const char* sql);
     /// Prepares `sql` and binds the integers to its first parameters.
-    int start(sqlite3* connection, const char* sql, int first, int second);
-    int bind(int parameter, int value);
+    void start(sqlite3* connection, const char* sql, int first, int second);
+    void bind(int parameter, int value);
+    /// Returns an SQLite result code, like the other operations that return an int.
     int step();
     /// Executes the statement once and resets it. The bytes are bound to the third parameter.
     int run();
@@ -29,4 +29,5 @@ public:
 
 private:
     sqlite3_stmt* m_statement = nullptr;
+    int m_prepared = 0; // result code of prepare()
 };

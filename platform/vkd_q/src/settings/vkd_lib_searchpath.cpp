@@ -11,9 +11,8 @@ namespace {
 /// a symbolic link.
 QStringList libraryFolders()
 {
-    Dl_info info;
-    if (!dladdr(reinterpret_cast<void*>(&vkd_lib_searchpath), &info) || !info.dli_fname)
-        return {};
+    Dl_info info{};
+    dladdr(reinterpret_cast<void*>(&vkd_lib_searchpath), &info); // finds every loaded function
     const QFileInfo library(QFile::decodeName(info.dli_fname));
     return {library.absolutePath(), library.canonicalPath()};
 }

@@ -62,9 +62,8 @@ VkdStatus ZobTransactions::hold()
     // for an interrupted change to the open file and roll it back there.
     if (m_connection.isAway() && m_connection.hasJournal())
         return m_connection.fail(VKD_ZOB_MOVED, ZobAction::Read);
-    int code = m_hold.prepare(m_connection.handle(), HoldSql);
-    if (code == SQLITE_OK)
-        code = m_hold.step();
+    m_hold.prepare(m_connection.handle(), HoldSql);
+    const int code = m_hold.step();
     m_isReading = code == SQLITE_ROW;
     if (m_isReading)
         return {};
