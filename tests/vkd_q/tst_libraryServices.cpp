@@ -12,6 +12,11 @@ class TestLibraryServices : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QCOMPARE(vkd_lib_convtext(0, 0, "ABC"), std::string()); // before any texts are opened
+    }
+
     void init()
     {
         qunsetenv("VKD_SHARE");
@@ -46,7 +51,8 @@ sub => none
     void text()
     {
         useTexts("# a|b|c|d\n\n0|ABC|Größe|Size\r\n4|ABC|Vier|Four\n1|DUP|eins|one\n"
-                 "1|DUP|zwei|two\n0|ÄQ1|Umlaut|Umlaut\n1|NUL|| none ");
+                 "1|DUP|zwei|two\n0|ÄQ1|Umlaut|Umlaut\n1|NUL|| none \n1|XYZ|drei\nx|XYZ|a|b",
+                 {9, 10});
         const auto found = [](const QString& text) { // "class language key"
             const QStringList parts = text.split(QLatin1Char(' '));
             return QString::fromStdString(vkd_lib_convtext(parts[0].toInt(), parts[1].toInt(),
@@ -61,6 +67,7 @@ sub => none
 1 0 NUL =>
 0 0 XYZ =>
 0 2 ABC =>
+0 -1 ABC =>
 )");
         QCOMPARE(vkd_lib_convtext(1, 1, "NUL"), std::string(" none ")); // spaces are preserved
     }
@@ -86,8 +93,11 @@ sub => none
 private:
     /// For each test, writes the text file of the program "p" to a new folder and selects this
     /// program.
-    void useTexts(const QByteArray& bytes)
+    void useTexts(const QByteArray& bytes, const QList<int>& faultyLines = {})
     {
+        for (int number : faultyLines)
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QStringLiteral("p.txt:%1: ").arg(number)));
         testsupport::writeFile(m_folder->filePath(QStringLiteral("two/texts/p.txt")), bytes);
         qputenv("VKD_SHARE", m_folder->filePath(QStringLiteral("two")).toUtf8());
         vkd_lib_opentext("p");

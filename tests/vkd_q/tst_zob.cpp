@@ -135,6 +135,8 @@ private Q_SLOTS:
             QCOMPARE(put(m_second, 1, 1, "new", 0), VKD_ZOB_OK);
             QCOMPARE(readAll(m_first), (Records{"new", "old 1"}));
         }
+        QCOMPARE(readOne(1), QByteArray("old 1")); // a single record does not begin a pass
+        QCOMPARE(put(m_second, 1, 1, "newer", 0), VKD_ZOB_OK);
     }
 
     void snapshotsAndTransactionsNest_data()
@@ -254,6 +256,15 @@ private Q_SLOTS:
         QCOMPARE(m_log->once(ZobTransaction(ZobHandle(99)).commit().code), VKD_ZOB_NOT_OPEN);
     }
 
+    void scratchStore()
+    {
+        int changes = 0;
+        QCOMPARE(vkd_zob_outside_changes(0, &changes), VKD_ZOB_FAILED);
+        const auto take = [](const void*, int) { return true; };
+        QCOMPARE(m_log->once(vkd_zob_copy(0, take).code), VKD_ZOB_FAILED);
+        QCOMPARE(m_log->once(vkd_zob_close(0).code), VKD_ZOB_BAD_CALL);
+    }
+
     void lastReleaseStoresAndCloseDrops()
     {
         QCOMPARE(vkd_zob_lock_ex(m_first, 1, 1), VKD_ZOB_OK);
@@ -325,10 +336,14 @@ private Q_SLOTS:
         for (int index : {m_first, m_second, m_first}) {
             ZobTransaction change{ZobHandle(index)};
             QCOMPARE(put(index, 1, 1, "more", 1), VKD_ZOB_OK);
+            if (index == m_first)
+                readOne(0); // the commit ends this iteration
             QVERIFY(change.commit().isOk());
             expected << "more";
         }
-        QCOMPARE(readAll(m_first), expected);
+        for (int index : {m_second, m_first})
+            QCOMPARE(put(index, 1, 1, "more", 1), VKD_ZOB_OK);
+        QCOMPARE(readAll(m_first), expected + Records({"more", "more"}));
     }
 
     void replacedSequence_data()

@@ -116,6 +116,26 @@ private Q_SLOTS:
                                     {[&] { return run(path).reason; }, path, stride});
     }
 
+    void failedCreationLeavesNoFile()
+    {
+        using testsupport::FaultyDisk;
+        ZobLog log;
+        QByteArray failed("none yet");
+        for (int call = 1; !failed.isEmpty(); ++call) {
+            const QTemporaryDir folder;
+            const QString path = folder.filePath(QStringLiteral("p"));
+            bool isCreated = false;
+            {
+                const FaultyDisk disk(folder.path(), FaultyDisk::Fault::Once, call);
+                int index = -1;
+                isCreated = vkd_zob_create(path.toUtf8(), &index).isOk();
+                vkd_zob_close(index);
+                failed = disk.failedCall();
+            }
+            QVERIFY2(QFile::exists(path) == isCreated, failed);
+        }
+    }
+
 private:
     static void prepare(const QString& path, const QByteArray& kind)
     {

@@ -65,6 +65,9 @@ private Q_SLOTS:
         row("first page only", m_sound.left(pageBytes(m_sound)), damaged);
         row("last bytes missing", m_sound.left(m_sound.size() - 100), damaged);
         row("noise at the head of a page", patched(m_sound, page, noise), damaged);
+        for (const char* place : {"position = 3000", "key1 = 2", "key2 = 2"})
+            row(place, with((QByteArray("UPDATE record SET ") + place + " WHERE position = 0")),
+                damaged);
         row("record of 2 GB", patched(m_sound, firstRecord, "\x87\xFF\xFF\xFF\x7F"), damaged);
         row("noise in the table of contents", patched(m_sound, 100, noise), damaged);
         row("takes memory in a constraint",
@@ -150,6 +153,27 @@ private Q_SLOTS:
         QCOMPARE(log.once(end), VKD_ZOB_DAMAGED);
         QVERIFY(vkd_zob_last_failure(index).reason.contains(QLatin1String("checksum")));
         vkd_zob_close(index);
+    }
+
+    /// Triggers are not executed and views are not read.
+    void schemaChangedWhileOpen()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p"));
+        ZobLog log;
+        for (bool isView : {false, true}) {
+            testsupport::writeFile(path, m_sound);
+            const int index = openProject(path);
+            changeByOther(path, isView ? "ALTER TABLE record RENAME TO t;"
+                                         "CREATE VIEW record AS SELECT * FROM t"
+                                       : "CREATE TRIGGER t AFTER INSERT ON record"
+                                         " BEGIN DELETE FROM record; END");
+            if (!isView)
+                QCOMPARE(put(index, 1, 1, "new", 1), VKD_ZOB_OK);
+            QVERIFY(readAll(index) == (isView ? Records() : m_records + Records{"new"}));
+            QCOMPARE(log.take(), isView ? 1 : 0);
+            vkd_zob_close(index);
+        }
     }
 
     /// Reading does not change a version 1 file. The first stored change upgrades it.
@@ -281,6 +305,7 @@ private Q_SLOTS:
         const QString journal = path + QLatin1String("-journal");
         testsupport::writeFile(path, m_sound);
         const int index = openProject(path), other = openProject(path);
+        ZobLog log;
         QList<int> numbers;
         const auto ask = [&numbers, index] {
             int number = -1;
@@ -306,7 +331,8 @@ private Q_SLOTS:
         const int first = numbers[2], second = numbers[5];
         QVERIFY(first != 0 && second != first);
         QCOMPARE(numbers, QList<int>({0, 0, first, first, first, second}));
-        sqlite3* locker = nullptr;
+        sqlite3* locker = nullptr; // does not use the store's layer over the file system
+        QVERIFY(qstrcmp(sqlite3_vfs_find(nullptr)->zName, "unix") == 0);
         QCOMPARE(sqlite3_open(path.toUtf8(), &locker), SQLITE_OK);
         QCOMPARE(sqlite3_exec(locker, "PRAGMA user_version = 2; BEGIN EXCLUSIVE", nullptr, nullptr,
                               nullptr),
@@ -315,6 +341,11 @@ private Q_SLOTS:
         clock.start();
         QCOMPARE(ask(), VKD_ZOB_LOCKED);
         QVERIFY(!clock.hasExpired(vkd_zob_deadline())); // does not wait for the other program
+        vkd_lib_setvalue(201, 30);
+        clock.start();
+        QCOMPARE(log.once(put(index, 1, 1, "x", 1)), VKD_ZOB_LOCKED);
+        QVERIFY(clock.hasExpired(29));
+        vkd_lib_setvalue(201, 0);
         sqlite3_close(locker);
         testsupport::writeFile(path, halfWritten);
         testsupport::writeFile(journal, halfJournal);
@@ -348,6 +379,8 @@ private Q_SLOTS:
         QFile::remove(path);
         if (before != "-")
             testsupport::writeFile(path, before == "write" ? halfWritten : before);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+        const QFile::Permissions permissions = QFile::permissions(path);
         testsupport::writeFile(path + QLatin1String("-journal"), journal);
         const QString own = ZobFilePlace(path).temporaryPath();
         const auto ofProcess = [&own](qint64 process) {
@@ -363,6 +396,7 @@ private Q_SLOTS:
         makeProject(place.temporaryPath(), {"new"});
         QVERIFY2(place.commit().isOk(), "commit");
         QCOMPARE(readProject(path), Records{"new"});
+        QVERIFY(before == "-" || QFile::permissions(path) == permissions);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
                  QStringList({QStringLiteral("p"), QFileInfo(ofProcess(1)).fileName()}));
     }
@@ -394,6 +428,11 @@ private Q_SLOTS:
         vkd_zob_close(index);
         for (const QString& noFile : {folder.path(), folder.filePath(QStringLiteral("no/p"))})
             QCOMPARE(log.once(ZobFilePlace(noFile).status().code), VKD_ZOB_NO_FILE);
+        for (const QString& readOnly : {path, folder.path()}) {
+            QVERIFY(QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ExeOwner));
+            QCOMPARE(log.once(ZobFilePlace(path).status().code), VKD_ZOB_READ_ONLY);
+            QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
         vkd_lib_setvalue(201, 0);
     }
 
