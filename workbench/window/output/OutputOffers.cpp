@@ -74,7 +74,6 @@ void OutputOffers::addPresets(VKD_H_TabDialog* dialog, const QString& projectPat
     button->setObjectName(QStringLiteral("PresetsButton"));
     button->setDefaultAction(
         addPlotPresetsAction(dialog, m_page->findChild<QTreeWidget*>(), apply, projectPath));
-    button->setAutoRaise(true);
     dialog->tabWidget()->setCornerWidget(button);
 }
 
