@@ -413,7 +413,7 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
     <message>
         <source>The plots offer the load cases that are checked here. The plots that you have checked stay checked.</source>
-        <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die ausgewählten Grafiken bleiben ausgewählt.</translation>
+        <translation>Bei den Grafiken werden die hier angekreuzten Lastfälle angeboten. Die angekreuzten Grafiken bleiben angekreuzt.</translation>
     </message>
     <message>
         <source>Plots that suit the model</source>
@@ -866,8 +866,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
 <context>
     <name>workbench::PlotPresetsDialog</name>
     <message>
-        <source>&amp;Keep the plots that are already chosen</source>
-        <translation>Bereits gewählte Grafiken &amp;behalten</translation>
+        <source>&amp;Keep the plots that are already checked</source>
+        <translation>Bereits angekreuzte Grafiken &amp;behalten</translation>
     </message>
     <message>
         <source>&amp;From Choice...</source>
@@ -882,8 +882,8 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
         <translation>Hier nicht angebotene Grafiken: %1</translation>
     </message>
     <message>
-        <source>Saves the chosen plots without their load cases.</source>
-        <translation>Speichert die gewählten Grafiken ohne ihre Lastfälle.</translation>
+        <source>Saves the checked plots without their load cases.</source>
+        <translation>Speichert die angekreuzten Grafiken ohne ihre Lastfälle.</translation>
     </message>
     <message>
         <source>Preset from Choice</source>

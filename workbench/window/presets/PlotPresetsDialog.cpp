@@ -29,7 +29,7 @@ QString listOf(const QStringList& captions, const QString& heading)
 PlotPresetsDialog::PlotPresetsDialog(const QTreeWidget& tree, const ApplyPlots& applyPlots,
                                      const QString& projectPath, QWidget* parent)
     : PlotPresetsDialog(tree, applyPlots, projectPath,
-                        new QCheckBox(tr("&Keep the plots that are already chosen")), parent)
+                        new QCheckBox(tr("&Keep the plots that are already checked")), parent)
 {
 }
 
@@ -57,7 +57,7 @@ void PlotPresetsDialog::enable(QPushButton* apply, QPushButton* creation, bool i
 {
     apply->setEnabled(isPreset);
     creation->setEnabled(!chosenPlots(m_page).isEmpty());
-    creation->setToolTip(tr("Saves the chosen plots without their load cases."));
+    creation->setToolTip(tr("Saves the checked plots without their load cases."));
 }
 
 std::unique_ptr<PresetForm> PlotPresetsDialog::newForm()
