@@ -21,6 +21,7 @@ class VKD_P_FEA_EXPORT VKD_P_RadioGroup : public QObject
     Q_OBJECT
 
 public:
+    /// The buttons; the init functions create some of them.
     enum ButtonID : int {
         NoTextOutput = 0,
         Manually = 1,
@@ -78,6 +79,7 @@ Q_SIGNALS:
     void buttonAllAcciChecked();
     void buttonAllFireChecked();
     void buttonAllEartChecked();
+    /// Emitted when any button except NoTextOutput is checked.
     void buttonChecked(int buttonID);
 
 public Q_SLOTS:

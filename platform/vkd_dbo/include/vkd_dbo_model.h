@@ -20,6 +20,7 @@ namespace dbo {
 
 using Position = std::array<double, 3>; ///< global x, y, z (upwards) in metres
 
+/// A node. Elements and supports refer to its number, which is positive.
 struct Node
 {
     int number = 0;
@@ -34,15 +35,17 @@ struct Boundary
     int fixed = 0;
 };
 
+/// The number and title of a cross-section; the model has no dimensions of it.
 struct CrossSection
 {
     int number = 0;
     QString title;
 };
 
+/// A primary group. Each element belongs to one, and refers to its number.
 struct Group
 {
-    int number = 0;
+    int number = 0; ///< 1 to 999 in model files
     QString title;
 };
 
@@ -52,7 +55,7 @@ struct SecondaryGroup
 {
     QString name;
     QString title;
-    QVector<int> quads;
+    QVector<int> quads; ///< numbers of the elements
     QVector<int> beams;
 };
 
@@ -60,11 +63,12 @@ struct SecondaryGroup
 struct LineElement
 {
     int number = 0;
-    int group = 0;
-    int crossSection = 0;
-    int nodes[2]{};
+    int group = 0;        ///< number of a primary group
+    int crossSection = 0; ///< number of a cross-section
+    int nodes[2]{};       ///< numbers of the nodes
 };
 
+/// A spring between two nodes, or between a node and the ground.
 struct Spring
 {
     int number = 0;
@@ -73,6 +77,7 @@ struct Spring
     double stiffness = 0.0; ///< kN/m
 };
 
+/// An area element with three or four nodes.
 struct Quad
 {
     int number = 0;
@@ -81,11 +86,12 @@ struct Quad
     double thickness = 0.0; ///< metres
 };
 
+/// A volume element with eight nodes.
 struct Brick
 {
     int number = 0;
     int group = 0;
-    int nodes[8]{};
+    int nodes[8]{}; ///< the four lower nodes, then the upper nodes in the same order
 };
 
 /// A structural point.
@@ -118,6 +124,7 @@ struct LoadCase
     int kind = 1;
 };
 
+/// The title and the kind of the structural system.
 struct SystemInformation
 {
     QString title;
@@ -128,8 +135,8 @@ struct SystemInformation
 /// stores design records instead.
 struct DesignValues
 {
-    QStringList groups; ///< group numbers or names of secondary groups
-    QMap<QString, double> values;
+    QStringList groups;           ///< group numbers or names of secondary groups
+    QMap<QString, double> values; ///< in base units
 };
 
 /// A structural model as plain data. The model file reader checks that every referenced item

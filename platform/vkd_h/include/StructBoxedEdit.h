@@ -6,6 +6,7 @@
 /// handled, unless EmptyIsDefault is set.
 struct StructBoxedEdit
 {
+    /// The place of the label relative to the field.
     enum LabelPlace { LabelAbove = 0, LabelBeside = 1 };
     /// A bit of `edit.flags`: when an empty field loses focus, its value changes to `edit.emptied`.
     static constexpr int EmptyIsDefault = 0x100000;

@@ -17,6 +17,7 @@ class VKD_H_EXPORT VKD_H_TableWidgetBox : public VKD_QT_GroupBox
     Q_OBJECT
 
 public:
+    /// Buttons that addButton() can add. The caller connects them.
     enum Buttons {
         New = 0,
         Delete = 1,

@@ -17,6 +17,7 @@ enum class VkdNumberState {
     Missing   ///< empty although a value is required
 };
 
+/// The number that vkd_h_readNumber() has parsed, or the reason why the text is not accepted.
 struct VkdNumberReading
 {
     VkdNumberState state;

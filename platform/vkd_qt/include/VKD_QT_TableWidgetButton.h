@@ -17,6 +17,7 @@ class VKD_QT_EXPORT VKD_QT_TableWidgetButton : public QPushButton
     Q_OBJECT
 
 public:
+    /// The place of the mark.
     enum ButtonModus {
         MarkBeside = 0,      ///< mark to the right of the text, if there is room
         MarkOnly = 1,        ///< mark without text

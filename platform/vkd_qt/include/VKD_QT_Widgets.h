@@ -23,6 +23,7 @@ public:
     }
 };
 
+/// A check box with an object name.
 class VKD_QT_CheckBox : public QCheckBox
 {
 public:
@@ -47,6 +48,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+/// A label with an object name.
 class VKD_QT_Label : public QLabel
 {
 public:
