@@ -75,6 +75,8 @@ private Q_SLOTS:
         const Columns<QString, QString> row("text", "expected");
         row("any order and subset, both decimal separators, empty lines and columns",
             "\nCOVER\t\tArt\r\n33,5\t\tCIRCULAR\r\n\t\t\r\n34.5\t\t2\r\n", "0.0335 4|0.0345 2");
+        row("header below empty lines", "\n ; \nType;x\n1;2",
+            "Row 3: \"x\" is not a column header.");
         row("German types", "Art\nRINGFÖRMIG\nKeine  Bemessung", "0.035 4|0.035 0");
         row("an empty cell clears", "type;COVER\n1;", "-99999 1");
         row("a missing column leaves", "type\n1", "0.035 1");
@@ -88,7 +90,7 @@ private Q_SLOTS:
             "Row 2, Diameter upper cross [mm]: \"0\" is too small.|"
             "Row 3, Type: \"x\" is not a type.|"
             "Row 3, Distance H upper principal [mm]: \"-1\" is too small.|"
-            "Row 3, column 4: \"7\" has no head.");
+            "Row 3, column 4: \"7\" has no column header.");
         row("no rows", "type", "There are no rows below the column headers.");
         row("nothing", "", "There are no rows below the column headers.");
         row("minimum above the maximum",

@@ -743,12 +743,12 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Unter den Spaltenköpfen steht keine Zeile.</translation>
     </message>
     <message>
-        <source>Row 1: &quot;%1&quot; is not a column header.</source>
-        <translation>Zeile 1: „%1“ ist kein Spaltenkopf.</translation>
+        <source>Row %1: &quot;%2&quot; is not a column header.</source>
+        <translation>Zeile %1: „%2“ ist kein Spaltenkopf.</translation>
     </message>
     <message>
-        <source>Row 1: there are two columns &quot;%1&quot;.</source>
-        <translation>Zeile 1: Die Spalte „%1“ ist doppelt.</translation>
+        <source>Row %1: there are two columns &quot;%2&quot;.</source>
+        <translation>Zeile %1: Die Spalte „%2“ ist doppelt.</translation>
     </message>
     <message>
         <source>Row %1, %2: %3.</source>
@@ -759,7 +759,7 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
         <translation>Spalte %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has no head</source>
+        <source>&quot;%1&quot; has no column header</source>
         <translation>„%1“ hat keinen Spaltenkopf</translation>
     </message>
     <message>

@@ -58,7 +58,7 @@ RowColumn valueColumn(RealField field, const Words& name, std::size_t side, cons
     for (vkd::Language language : Languages) {
         const QString place = Sides[side].in(language) + QLatin1Char(' ') + layer.in(language);
         const QString start = name.in(language) + QLatin1Char(' ');
-        column.heads[int(language)] = withUnit(start + place, field);
+        column.headers[int(language)] = withUnit(start + place, field);
         column.names[int(language)] = start + layer.in(language);
     }
     return column;
@@ -68,7 +68,7 @@ RowColumn midpointColumn(RealField field, const Words& name)
 {
     RowColumn column{RowColumn::Value, field, {}, {}, 0};
     for (vkd::Language language : Languages) {
-        column.heads[int(language)] = withUnit(name.in(language), field);
+        column.headers[int(language)] = withUnit(name.in(language), field);
         column.names[int(language)] = name.in(language);
     }
     return column;
@@ -164,21 +164,21 @@ const std::vector<RowColumn>& rowColumns()
     return columns;
 }
 
-const RowColumn* columnWithHead(const QString& head)
+const RowColumn* columnWithHeader(const QString& header)
 {
     static const QHash<QString, const RowColumn*> columns = [] {
-        QHash<QString, const RowColumn*> byHead;
+        QHash<QString, const RowColumn*> byHeader;
         for (const RowColumn& column : rowColumns())
-            for (const QString& text : column.heads)
-                byHead.insert(folded(text), &column);
-        return byHead;
+            for (const QString& text : column.headers)
+                byHeader.insert(folded(text), &column);
+        return byHeader;
     }();
-    return columns.value(folded(head));
+    return columns.value(folded(header));
 }
 
-QString headOf(const RowColumn& column, vkd::Language language)
+QString headerOf(const RowColumn& column, vkd::Language language)
 {
-    return column.heads[int(language)];
+    return column.headers[int(language)];
 }
 
 QString nameOf(const RowColumn& column, vkd::Language language)

@@ -14,10 +14,10 @@ struct RowColumn
 {
     enum Kind { Groups, Type, Value };
     Kind kind;
-    RealField field;  ///< null unless the column contains a value
-    QString heads[2]; ///< header in German and English; includes the unit of a value
-    QString names[2]; ///< name of a value without its side and unit: the same for both sides
-    int side;         ///< 1 for a value of the lower side, otherwise 0
+    RealField field;    ///< null unless the column contains a value
+    QString headers[2]; ///< header in German and English; includes the unit of a value
+    QString names[2];   ///< name of a value without its side and unit: the same for both sides
+    int side;           ///< 1 for a value of the lower side, otherwise 0
 };
 
 /// Returns all columns in the order in which they are written.
@@ -25,9 +25,9 @@ const std::vector<RowColumn>& rowColumns();
 
 /// Returns the column with this header in any language, or null. Upper and lower case and the
 /// number of spaces are ignored, but the unit must match.
-const RowColumn* columnWithHead(const QString& head);
+const RowColumn* columnWithHeader(const QString& header);
 
-QString headOf(const RowColumn& column, vkd::Language language);
+QString headerOf(const RowColumn& column, vkd::Language language);
 QString nameOf(const RowColumn& column, vkd::Language language);
 
 /// typeName() converts a design type to its name. typeOfText() converts a name in any language or a

@@ -145,8 +145,8 @@ std::vector<DescriptionLine> describeRow(const DesignParameterRow& row, const Gr
 {
     const tagZOB_QUAD_RIM& record = row.record;
     std::vector<DescriptionLine> lines{
-        {headOf(rowColumns()[0], vkd::desktopLanguage()), {groupsWithTitles(row, titles)}, {}},
-        {headOf(rowColumns()[1], vkd::desktopLanguage()), {rowText(row, 1)}, {}}};
+        {headerOf(rowColumns()[0], vkd::desktopLanguage()), {groupsWithTitles(row, titles)}, {}},
+        {headerOf(rowColumns()[1], vkd::desktopLanguage()), {rowText(row, 1)}, {}}};
     if (record.type > NoDesign)
         for (const DescriptionLine& line : describeValues(
                  record, [&](RealField field) { return isInDialogs(field, record.type); }))
@@ -160,10 +160,10 @@ QString descriptionHtml(const std::vector<DescriptionLine>& lines, const QString
     const bool hasSides = std::any_of(lines.begin(), lines.end(),
                                       [](const auto& line) { return line.values.size() > 1; });
     QString html = QStringLiteral("<table cellspacing='0' cellpadding='2'>");
-    bool hasHead = !hasSides;
+    bool hasHeader = !hasSides;
     for (const DescriptionLine& line : lines) {
-        if (!hasHead && line.values.size() > 1) {
-            hasHead = true;
+        if (!hasHeader && line.values.size() > 1) {
+            hasHeader = true;
             html += htmlLine({QString(),
                               {DescriptionText::tr("Upper"), DescriptionText::tr("Lower")},
                               QString()});

@@ -31,11 +31,11 @@ double shortestNumber(float value)
     return number;
 }
 
-QString headOf(RealField field)
+QString headerOf(RealField field)
 {
     for (const RowColumn& column : rowColumns())
         if (column.field == field)
-            return headOf(column, vkd::desktopLanguage());
+            return headerOf(column, vkd::desktopLanguage());
     return QString();
 }
 
@@ -51,7 +51,7 @@ QString readValue(const QVariant& value, RealField field, RowPatch* patch)
                                         : value.toString();
     const QString refusal = readNumberCell(cell, field, patch);
     if (!refusal.isEmpty())
-        return ParameterText::tr("%1: %2.").arg(headOf(field), refusal);
+        return ParameterText::tr("%1: %2.").arg(headerOf(field), refusal);
     patch->set(field, value.isNull() ? NotSet : float(number));
     return QString();
 }
@@ -104,7 +104,7 @@ std::vector<DescriptionLine> describeParameters(const QVariantMap& parameters)
     patch.applyTo(record);
     std::vector<DescriptionLine> lines;
     if (parameters.contains(TypeKey))
-        lines.push_back({headOf(rowColumns()[1], vkd::desktopLanguage()),
+        lines.push_back({headerOf(rowColumns()[1], vkd::desktopLanguage()),
                          {typeName(record.type, vkd::desktopLanguage())},
                          {}});
     const auto values = describeValues(record, [&parameters](RealField field) {

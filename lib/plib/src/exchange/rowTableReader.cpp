@@ -59,7 +59,7 @@ public:
             if (isEmptyLine(lines[line]))
                 continue;
             if (m_columns.empty())
-                readHeads(lines[line]);
+                readHeaders(lines[line], line + 1);
             else
                 readRow(lines[line], line + 1);
         }
@@ -69,19 +69,19 @@ public:
     }
 
 private:
-    void readHeads(const QStringList& heads)
+    void readHeaders(const QStringList& headers, int line)
     {
-        for (const QString& head : heads) {
-            const RowColumn* column = columnWithHead(head);
-            if (!column && !head.trimmed().isEmpty())
-                m_table.faults
-                    << TableText::tr("Row 1: \"%1\" is not a column header.").arg(quotation(head));
+        for (const QString& header : headers) {
+            const RowColumn* column = columnWithHeader(header);
+            if (!column && !header.trimmed().isEmpty())
+                m_table.faults << TableText::tr("Row %1: \"%2\" is not a column header.")
+                                      .arg(QString::number(line), quotation(header));
             if (column && std::count(m_columns.begin(), m_columns.end(), column) > 0)
-                m_table.faults
-                    << TableText::tr("Row 1: there are two columns \"%1\".").arg(quotation(head));
+                m_table.faults << TableText::tr("Row %1: there are two columns \"%2\".")
+                                      .arg(QString::number(line), quotation(header));
             m_table.hasGroups |= column && column->kind == RowColumn::Groups;
             m_columns.push_back(column);
-            m_heads << head.simplified();
+            m_headers << header.simplified();
         }
     }
 
@@ -89,18 +89,18 @@ private:
     {
         RowPatch row;
         row.line = line;
-        for (int i = 0; i < qMax(m_heads.size(), cells.size()); ++i) {
-            const QString head = m_heads.value(i);
+        for (int i = 0; i < qMax(m_headers.size(), cells.size()); ++i) {
+            const QString header = m_headers.value(i);
             const RowColumn* column = columnAt(i);
-            if (!column && !head.isEmpty())
+            if (!column && !header.isEmpty())
                 continue; // the header was rejected
             const QString cell = cells.value(i);
             const QString reason =
-                column ? readCell(cell, *column, &row) : refusedWithoutHead(cell);
+                column ? readCell(cell, *column, &row) : refusedWithoutHeader(cell);
             if (!reason.isEmpty())
                 m_table.faults << TableText::tr("Row %1, %2: %3.")
                                       .arg(QString::number(line),
-                                           column ? head : TableText::tr("column %1").arg(i + 1),
+                                           column ? header : TableText::tr("column %1").arg(i + 1),
                                            reason);
         }
         m_table.rows.push_back(row);
@@ -111,10 +111,11 @@ private:
         return index < int(m_columns.size()) ? m_columns[std::size_t(index)] : nullptr;
     }
 
-    static QString refusedWithoutHead(const QString& cell)
+    static QString refusedWithoutHeader(const QString& cell)
     {
-        return cell.trimmed().isEmpty() ? QString()
-                                        : TableText::tr("\"%1\" has no head").arg(quotation(cell));
+        return cell.trimmed().isEmpty()
+                   ? QString()
+                   : TableText::tr("\"%1\" has no column header").arg(quotation(cell));
     }
 
     /// Returns the reason if the cell is rejected, otherwise an empty string.
@@ -140,7 +141,7 @@ private:
 
     RowTable m_table;
     std::vector<const RowColumn*> m_columns; // null for an empty header
-    QStringList m_heads;
+    QStringList m_headers;
 };
 } // namespace
 
@@ -166,7 +167,7 @@ bool looksLikeRowTable(const QString& text)
     const QString first = text.trimmed().section(QLatin1Char('\n'), 0, 0);
     const QVector<QStringList> lines = readCells(first, separatorOf(first));
     return !lines.isEmpty() &&
-           std::any_of(lines.first().begin(), lines.first().end(), columnWithHead);
+           std::any_of(lines.first().begin(), lines.first().end(), columnWithHeader);
 }
 
 QString limitFault(const tagZOB_QUAD_RIM& record, int line)
@@ -176,7 +177,7 @@ QString limitFault(const tagZOB_QUAD_RIM& record, int line)
             if (column.field == pair.minimum &&
                 !isInOrder(record.*pair.minimum, record.*pair.maximum))
                 return TableText::tr("Row %1, %2: the minimum is greater than the maximum.")
-                    .arg(QString::number(line), headOf(column, vkd::desktopLanguage()));
+                    .arg(QString::number(line), headerOf(column, vkd::desktopLanguage()));
     return QString();
 }
 

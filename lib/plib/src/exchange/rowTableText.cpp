@@ -47,11 +47,11 @@ QString cellOf(const DesignParameterRow& row, const RowColumn& column)
     return numberCell(row.record.*column.field, dimensionCode(column.field));
 }
 
-QStringList heads()
+QStringList headers()
 {
     QStringList texts;
     for (const RowColumn& column : rowColumns())
-        texts << headOf(column, vkd::desktopLanguage());
+        texts << headerOf(column, vkd::desktopLanguage());
     return texts;
 }
 
@@ -79,7 +79,7 @@ QChar separatorOfFiles()
 
 QString rowTableText(const DesignRowList& rows, QChar separator)
 {
-    QString text = lineOfCells(heads(), separator);
+    QString text = lineOfCells(headers(), separator);
     for (const DesignParameterRow& row : rows)
         text += lineOfCells(cellsOf(row), separator);
     return text;
@@ -88,7 +88,7 @@ QString rowTableText(const DesignRowList& rows, QChar separator)
 QString rowTableHtml(const DesignRowList& rows)
 {
     QString html = QStringLiteral("<html><head><meta charset=\"utf-8\"></head><body><table>\n");
-    html += htmlLine(heads(), QStringLiteral("th"));
+    html += htmlLine(headers(), QStringLiteral("th"));
     for (const DesignParameterRow& row : rows)
         html += htmlLine(cellsOf(row), QStringLiteral("td"));
     return html + QLatin1String("</table></body></html>\n");
@@ -102,7 +102,7 @@ QStringList differentCells(const DesignParameterRow& before, const DesignParamet
         const QString now = cellOf(after, column);
         if (column.kind != RowColumn::Groups && old != now)
             lines << QStringLiteral("%1: %2 -> %3")
-                         .arg(headOf(column, vkd::desktopLanguage()), old, now);
+                         .arg(headerOf(column, vkd::desktopLanguage()), old, now);
     }
     return lines;
 }

@@ -1,6 +1,7 @@
 #include "exchange/separatedText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace plib {
 
@@ -10,6 +11,11 @@ constexpr QLatin1Char Quote('"');
 bool isLineEnd(QChar character)
 {
     return character == QLatin1Char('\n') || character == QLatin1Char('\r');
+}
+
+bool isSpace(QChar character)
+{
+    return character.isSpace();
 }
 
 /// Reads the cells of a table one by one.
@@ -53,10 +59,14 @@ private:
     QString quotedPart()
     {
         QString content;
-        for (++m_place; !atEnd(); ++m_place) {
-            if (m_text[m_place] == Quote && m_text.mid(++m_place, 1) != QString(Quote))
+        ++m_place; // the opening mark
+        while (!atEnd()) {
+            const bool isMark = m_text[m_place] == Quote;
+            if (isMark)
+                ++m_place;
+            if (isMark && (atEnd() || m_text[m_place] != Quote))
                 break;
-            content += m_text[m_place];
+            content += m_text[m_place++];
         }
         return content;
     }
@@ -76,9 +86,12 @@ QString quotedIfNecessary(QString cell, QChar separator)
 
 QChar separatorOf(const QString& text)
 {
-    const auto end = std::find_if(text.begin(), text.end(), isLineEnd);
+    const auto visible = std::find_if_not(text.begin(), text.end(), isSpace);
+    const auto begin =
+        std::find_if(std::make_reverse_iterator(visible), text.rend(), isLineEnd).base();
+    const auto end = std::find_if(visible, text.end(), isLineEnd);
     for (char candidate : {'\t', ';', ','})
-        if (std::find(text.begin(), end, QLatin1Char(candidate)) != end)
+        if (std::find(begin, end, QLatin1Char(candidate)) != end)
             return QLatin1Char(candidate);
     return QLatin1Char('\t');
 }

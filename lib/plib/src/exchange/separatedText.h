@@ -10,8 +10,8 @@ namespace plib {
 /// or commas, and are quoted if necessary. Spreadsheet programs use this format for the clipboard
 /// and for files.
 
-/// Returns the character that separates the cells of the first line: a tab, a semicolon or a comma.
-/// If the line contains none of these characters, returns a tab.
+/// Returns the character that separates the cells of the first line that is not blank: a tab, a
+/// semicolon or a comma. If the line contains none of these characters, returns a tab.
 QChar separatorOf(const QString& text);
 
 /// Returns the cells of all lines. A cell that begins with a quotation mark ends with the closing
