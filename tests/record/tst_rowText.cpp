@@ -90,6 +90,12 @@ private Q_SLOTS:
                  QStringLiteral("Groups also in row 1: 3."));
         rows[0].groups = {-1};
         QCOMPARE(plib::groupsNotice(rows, 2, {-1}), QString());
+        rows[2].groups = {-1, 3};
+        QCOMPARE(plib::groupsNotice(rows, 2, {}),
+                 QStringLiteral("Groups also in row 1, 2: 3 and remaining groups."));
+        rows[1].groups = {};
+        QCOMPARE(plib::groupsNotice(rows, 2, {}),
+                 QStringLiteral("Groups also in row 1: remaining groups."));
     }
 
     /// Tests the text of rows with groups, with ", " instead of newlines.
@@ -118,6 +124,12 @@ private Q_SLOTS:
                            "5|4 5|5 4 => Group 5: also in row 2, 3|Group 4: also in row 3, "
                            "Group 5: also in row 1, 3|Group 4: also in row 2, "
                            "Group 5: also in row 1, 2\n"
+                           "6||6 6|6|6|6|6 => Group 6: also in row 3, 4, 5, 6, 7||"
+                           "Group 6: also in row 1, 4, 5, 6, 7|"
+                           "Group 6: also in row 1, 3, 5, 6, 7|"
+                           "Group 6: also in row 1, 3, 4, 6, 7|"
+                           "Group 6: also in row 1, 3, 4, 5, 7|"
+                           "Group 6: also in row 1, 3, 4, 5, 6\n"
                            "1 2 3 4 5 6|6|6|6|6|6|6 => Group 6: also in row 2, 3, 4, 5, 6, …|"
                            "Group 6: also in row 1, 3, 4, 5, 6, …|"
                            "Group 6: also in row 1, 2, 4, 5, 6, …|"

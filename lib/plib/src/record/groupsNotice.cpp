@@ -1,8 +1,8 @@
 #include "record/groupsNotice.h"
 
+#include "record/rowTitle.h"
 #include "record/sharedGroups.h"
 
-#include <vkd_dbo_groupTexts.h>
 #include <vkd_dbo_packedNames.h>
 
 #include <QCoreApplication>
@@ -38,12 +38,11 @@ QString sharedNotice(const DesignRowList& rows, int row)
         groups.push_back(shared.group);
         for (int other : shared.rows)
             if (other != row)
-                others.push_back(other + 1);
+                others.push_back(other);
     }
     if (groups.empty())
         return QString();
-    return NoticeText::tr("Groups also in row %1: %2.")
-        .arg(vkd::dbo::groupRanges(others), vkd::dbo::groupRanges(groups));
+    return NoticeText::tr("Groups also in row %1: %2.").arg(rowList(others), groupList(groups));
 }
 
 QString lossNotice(const std::vector<int>& before, const std::vector<int>& after, int row)
@@ -53,7 +52,7 @@ QString lossNotice(const std::vector<int>& before, const std::vector<int>& after
         if (lost.empty() || !ofKind(after, secondary).empty())
             continue;
         return NoticeText::tr("Removed from row %1: %2 (see Undo).")
-            .arg(QString::number(row + 1), vkd::dbo::groupRanges(lost));
+            .arg(QString::number(row + 1), groupList(lost));
     }
     return QString();
 }

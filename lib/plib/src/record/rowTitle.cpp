@@ -14,30 +14,48 @@ struct TitleText
     Q_DECLARE_TR_FUNCTIONS(RowTitle)
 };
 
+bool hasRemaining(const std::vector<int>& groups)
+{
+    return std::find(groups.begin(), groups.end(), -1) != groups.end();
+}
+
 QString groupsTitle(const std::vector<int>& groups)
 {
-    const bool hasRemaining = std::find(groups.begin(), groups.end(), -1) != groups.end();
-    const std::size_t others = groups.size() - (hasRemaining ? 1 : 0);
+    const auto others = int(groups.size()) - std::count(groups.begin(), groups.end(), -1);
     if (others == 0)
-        return hasRemaining ? TitleText::tr("remaining groups") : TitleText::tr("no groups");
+        return groups.empty() ? TitleText::tr("no groups") : groupList(groups);
     const QString text = others == 1 ? TitleText::tr("group %1") : TitleText::tr("groups %1");
-    const QString listed = text.arg(vkd::dbo::groupRanges(groups));
-    return hasRemaining ? TitleText::tr("%1 and remaining groups").arg(listed) : listed;
+    return text.arg(groupList(groups));
 }
 } // namespace
 
+QString groupList(const std::vector<int>& groups)
+{
+    const QString named = vkd::dbo::groupRanges(groups); // without the remaining groups
+    if (!hasRemaining(groups))
+        return named;
+    return named.isEmpty() ? TitleText::tr("remaining groups")
+                           : TitleText::tr("%1 and remaining groups").arg(named);
+}
+
+/// Ranges of rows have the same form as ranges of groups.
+QString rowList(std::vector<int> rows)
+{
+    for (int& row : rows)
+        ++row;
+    return vkd::dbo::groupRanges(rows);
+}
+
 QString rowTitle(const DesignRowList& rows, const std::set<int>& numbers)
 {
-    std::vector<int> shown;
     std::vector<int> groups;
     for (int number : numbers) {
         const std::vector<int>& here = rows[std::size_t(number)].groups;
-        shown.push_back(number + 1);
         groups.insert(groups.end(), here.begin(), here.end());
     }
     const QString title =
         numbers.size() == 1 ? TitleText::tr("Row %1: %2") : TitleText::tr("Rows %1: %2");
-    return title.arg(vkd::dbo::groupRanges(shown), groupsTitle(groups));
+    return title.arg(rowList({numbers.begin(), numbers.end()}), groupsTitle(groups));
 }
 
 } // namespace plib

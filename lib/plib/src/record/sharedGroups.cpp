@@ -23,12 +23,13 @@ QString sentence(int row, const SharedGroup& shared)
 {
     QStringList others;
     for (int other : shared.rows) {
+        if (other == row)
+            continue;
         if (others.size() == MostNamed) {
             others << QString(QChar(0x2026));
             break;
         }
-        if (other != row)
-            others << QString::number(other + 1);
+        others << QString::number(other + 1);
     }
     const QString numbers = others.join(QLatin1String(", "));
     if (shared.group == -1)
