@@ -248,8 +248,8 @@ private Q_SLOTS:
         row("range", "2-1, 3", "1;2;3", "Groups also in row 3: 2.");
         row("name", "open 3", "3;OPEN", "");
         row("no groups", "none", "None", "Removed from row 2: 1 (see Undo).");
-        row("unknown groups", "3 x 99", "1", "Unknown groups: x, 99. Row 2 keeps its groups.");
-        row("second row for the rest", "Remaining Groups", "1",
+        row("unknown groups", "3 %2 99", "1", "Unknown groups: %2, 99. Row 2 keeps its groups.");
+        row("second row for the rest", "REMAINING", "1",
             "The remaining groups belong to another row. Row 2 keeps its groups.");
     }
 

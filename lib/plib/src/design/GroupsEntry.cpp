@@ -140,7 +140,8 @@ void GroupsEntry::leave()
     const QString refusal = apply();
     close();
     if (!refusal.isEmpty())
-        m_page->showNotice(tr("%1 Row %2 keeps its groups.").arg(refusal).arg(m_row + 1));
+        m_page->showNotice(
+            tr("%1 Row %2 keeps its groups.").arg(refusal, QString::number(m_row + 1)));
 }
 
 /// Disconnects first, so that losing the focus does not apply the text. Another line can be opened

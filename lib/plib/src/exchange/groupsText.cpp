@@ -40,7 +40,8 @@ GroupsReading readGroupsText(const QString& text, const KnownGroups& known)
 {
     if (isNoGroupsText(text) && !known.names.contains(vkd::dbo::packedName(text)))
         return {true, {}, {}};
-    if (text == QLatin1String("remaining") || isRemainingGroupsText(text))
+    if (text.compare(QLatin1String("remaining"), Qt::CaseInsensitive) == 0 ||
+        isRemainingGroupsText(text))
         return {true, {-1}, {}};
     const vkd::h::GroupInput input = vkd::h::readNumbersAndNames(text, known.numbers, known.names);
     return {input.missing.isEmpty() && !input.groups.empty(), input.groups, input.missing};
