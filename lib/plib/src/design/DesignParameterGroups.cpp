@@ -103,7 +103,7 @@ void DesignParameter::slot_openSekGroups()
         return;
     std::vector<int> confirmed;
     dialog.getChecked(confirmed);
-    takeGroups(data->table->currentRow(), confirmed);
+    takeGroups(row, confirmed);
 }
 
 /// Replaces the groups of a row and shows them in its editor.
