@@ -68,6 +68,23 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
     }
 
+    /// An entry without a diameter is preserved. It is inserted by the caller.
+    void entryOfTheCaller()
+    {
+        VKD_A_BarDiameterCombo box;
+        box.load(m_project->index());
+        box.insertItem(0, QStringLiteral("several"), QVariant());
+        box.setCurrentIndex(0);
+        setLanguage(German);
+        QCOMPARE(box.currentText() + box.itemText(1), QStringLiteral("severalnicht gesetzt"));
+        for (const float diameter : {12.7F, 20.0F, NotSet}) {
+            box.setCurrent(diameter);
+            QCOMPARE(box.getCurrent(), diameter);
+            QCOMPARE(box.findText(QStringLiteral("several")), 0);
+        }
+        QCOMPARE(box.count(), 5);
+    }
+
     void typing_data()
     {
         const Columns<QString, float> row("typed", "chosen");

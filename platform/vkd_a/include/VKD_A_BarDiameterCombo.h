@@ -11,7 +11,8 @@
 /// millimetres; -99999 means "not set" and is the first entry. A diameter that is missing from the
 /// project has its own entry in the sorted list, so that the combo box can show it and return it
 /// unchanged. Signals are emitted only when the user chooses an entry. The user can also type a
-/// diameter; a diameter that is not in the list is refused.
+/// diameter; a diameter that is not in the list is refused. A caller may insert entries without
+/// data above the diameters; the combo box preserves them.
 class VKD_A_EXPORT VKD_A_BarDiameterCombo : public VKD_QT4_ComboBox
 {
     Q_OBJECT
@@ -41,6 +42,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void refill();
     void fill(float current);
     void selectSilently(int entry);
     bool isOffered(float diameter) const;

@@ -36,14 +36,14 @@ VKD_A_BarDiameterCombo::VKD_A_BarDiameterCombo(QWidget* parent, const char* name
 bool VKD_A_BarDiameterCombo::load(int index)
 {
     const bool isLoaded = m_bars.load(index);
-    fill(getCurrent());
+    refill();
     return isLoaded;
 }
 
 void VKD_A_BarDiameterCombo::setNotSetAllowed(bool isAllowed)
 {
     m_isNotSetAllowed = isAllowed;
-    fill(getCurrent());
+    refill();
 }
 
 bool VKD_A_BarDiameterCombo::setCurrent(float diameter)
@@ -65,7 +65,7 @@ float VKD_A_BarDiameterCombo::getCurrent() const
 void VKD_A_BarDiameterCombo::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
-        fill(getCurrent());
+        refill();
     VKD_QT4_ComboBox::changeEvent(event);
 }
 
@@ -125,6 +125,16 @@ bool VKD_A_BarDiameterCombo::isBeginning() const
     return false;
 }
 
+void VKD_A_BarDiameterCombo::refill()
+{
+    const int entry = currentIndex();
+    const bool isCallers = entry >= 0 && !currentData().isValid();
+    fill(getCurrent());
+    if (isCallers)
+        selectSilently(entry);
+}
+
+/// Entries without a diameter belong to the caller. They stay above the diameters.
 void VKD_A_BarDiameterCombo::fill(float current)
 {
     const VKD_QT_SignalBlocker blocker(this);
@@ -135,13 +145,16 @@ void VKD_A_BarDiameterCombo::fill(float current)
     int entry = int(place - diameters.begin()) - (isExtra ? 0 : 1);
     if (isExtra)
         diameters.insert(place, current);
-    clear();
+    for (int i = count() - 1; i >= 0; --i)
+        if (itemData(i).isValid())
+            removeItem(i);
+    const int first = count();
     for (float diameter : qAsConst(diameters))
         addItem(m_bars.getString(diameter), diameter);
     if (m_isNotSetAllowed)
-        insertItem(0, tr("not set"), NotSet);
+        insertItem(first, tr("not set"), NotSet);
     entry = current == NotSet ? 0 : entry + int(m_isNotSetAllowed);
-    setCurrentIndex(entry);
+    setCurrentIndex(first + entry);
     m_hasExtra = isExtra;
 }
 
