@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
+#include <QProxyStyle>
 #include <QStatusBar>
 #include <QTreeWidget>
 
@@ -39,6 +40,18 @@ MainWindow* shownWindow()
     qFatal("no window");
     return nullptr;
 }
+
+/// The style of a desktop on which a single click activates an item.
+class ActivatingStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_ItemView_ActivateItemOnSingleClick ||
+               QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 /// Saves the project under this name, or creates another project, and replaces an existing file.
 void saveAs(const MainWindow& window, const QString& path, QStringList* messages = nullptr,
@@ -252,7 +265,12 @@ private Q_SLOTS:
         recent->setCurrentRow(1);
         trigger(window, "RemoveRecent");
         QCOMPARE(recent->count(), 1);
-        QTest::keyClick(recent, Qt::Key_Return);
+        ActivatingStyle style;
+        recent->setStyle(&style);
+        const QSignalSpy chosen(find<QWidget>(window, "StartPage"), SIGNAL(projectChosen(QString)));
+        QTest::mouseClick(recent->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          recent->visualItemRect(recent->item(0)).center());
+        QCOMPARE(chosen.count(), 1);
         QTRY_VERIFY(find<QTreeWidget>(window, "GroupList")->topLevelItemCount() > 0);
         QVERIFY(!recent->isVisible());
         QVERIFY(find<QWidget>(window, "ScriptDock")->isVisible());

@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QStyle>
 
 namespace workbench {
 
@@ -74,7 +75,7 @@ QLayout* StartPage::recentColumn(QAction* open)
     m_remove->setShortcutContext(Qt::WidgetShortcut);
     m_recent->addAction(m_remove);
     connect(m_remove, &QAction::triggered, this, &StartPage::remove);
-    connect(m_recent, &QListWidget::itemClicked, this, &StartPage::choose);
+    connect(m_recent, &QListWidget::itemClicked, this, &StartPage::chooseClicked);
     connect(m_recent, &QListWidget::itemActivated, this, &StartPage::choose);
     auto column = new QVBoxLayout;
     column->addWidget(m_recentTitle);
@@ -143,6 +144,14 @@ void StartPage::addProjects()
             item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
     }
     m_recent->setCurrentRow(0);
+}
+
+/// On some desktops, a single click also activates the item.
+void StartPage::chooseClicked(const QListWidgetItem* item)
+{
+    if (!m_recent->style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, nullptr,
+                                      m_recent))
+        choose(item);
 }
 
 void StartPage::choose(const QListWidgetItem* item)

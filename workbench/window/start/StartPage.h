@@ -44,6 +44,7 @@ private:
     QLayout* newProjectColumn(const Actions& actions);
     void addProjects();
     void addPictures();
+    void chooseClicked(const QListWidgetItem* item);
     void choose(const QListWidgetItem* item);
     void remove();
     void setTexts();
