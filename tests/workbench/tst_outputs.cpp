@@ -2,8 +2,10 @@
 #include "project/WholeFiles.h"
 #include "ProjectTest.h"
 #include "window/output/OutputDialog.h"
+#include "window/outputs/CopyOutputsDialog.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_Ok.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -435,6 +437,20 @@ private Q_SLOTS:
         const OutputState state = OutputList::read(document->handle()).at(1).state;
         QVERIFY(state.page.contains(QLatin1String("Checked:@X   $Y   ^Z")));
         QCOMPARE(state.leftOutNumbers, QSet<int>{7777});
+    }
+
+    void choosingNoOutputs()
+    {
+        const CopyOutputsDialog dialog({QStringLiteral("a"), QStringLiteral("b")}, nullptr);
+        const auto list = find<QListWidget>(dialog, "OutputsToCopy");
+        const auto ok = dialog.findChild<VKD_QT_Ok*>()->cmdOk();
+        QString states;
+        for (const int row : {0, 1, 0}) {
+            const bool isChecked = list->item(row)->checkState() == Qt::Checked;
+            list->item(row)->setCheckState(isChecked ? Qt::Unchecked : Qt::Checked);
+            states += QString::number(int(ok->isEnabled()));
+        }
+        QCOMPARE(states, QStringLiteral("101"));
     }
 
     /// While another program is storing, no output is shown or saved with a part of its data.

@@ -31,6 +31,8 @@ CopyOutputsDialog::CopyOutputsDialog(const QStringList& names, QWidget* parent)
     }
     m_list->setCurrentRow(0);
     auto buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
+    connect(m_list, &QListWidget::itemChanged, buttons->cmdOk(),
+            [this, ok = buttons->cmdOk()] { ok->setEnabled(!checkedOutputs().isEmpty()); });
     connect(buttons->cmdOk(), &QPushButton::clicked, this, &CopyOutputsDialog::accept);
     connect(buttons->cmdCancel(), &QPushButton::clicked, this, &CopyOutputsDialog::reject);
     auto layout = new QVBoxLayout(this);
