@@ -54,7 +54,7 @@ private:
             QTreeWidgetItem* item = parent->child(i);
             const int level = item->data(0, LevelRole).toInt();
             const QString id = item->data(0, IdentifierRole).toString();
-            const QString key = QStringLiteral("%1/%2").arg(id).arg(m_counts[id]++);
+            const QString key = id + QLatin1Char('/') + QString::number(m_counts[id]++);
             m_keys.insert(item, key);
             m_items.insert(key, item);
             m_branches << item;
