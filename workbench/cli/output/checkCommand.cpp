@@ -14,9 +14,8 @@ namespace {
 ScriptGrammars catalogueGrammars()
 {
     plib::Catalogue catalogue;
-    if (!plib::loadCatalogue(catalogue, vkd::desktopLanguage(),
-                             [](const QString&, const QString& text) { throw CommandError{text}; }))
-        return {};
+    plib::loadCatalogue(catalogue, vkd::desktopLanguage(),
+                        [](const QString&, const QString& text) { throw CommandError{text}; });
     return {ScriptGrammar(possibleLines(catalogue.list, plib::Keywords::German)),
             ScriptGrammar(possibleLines(catalogue.list, plib::Keywords::English))};
 }

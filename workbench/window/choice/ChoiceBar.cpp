@@ -37,17 +37,17 @@ ChoiceBar::ChoiceBar(QWidget* parent, const char* name)
     m_kind->setMenu(m_kinds);
     m_kind->setPopupMode(QToolButton::InstantPopup);
     layOut();
-    const auto choose = [this](QToolButton* button, bool (*isChosen)(bool)) {
+    const auto chooseShown = [this](QToolButton* button, bool (*isChosen)(bool)) {
         connect(button, &QToolButton::clicked, this, [this, isChosen] {
-            this->choose(
+            choose(
                 [this, isChosen](int row, bool was) { return isShown(row) ? isChosen(was) : was; });
         });
     };
-    choose(m_all, [](bool) { return true; });
-    choose(m_none, [](bool) { return false; });
-    choose(m_invert, [](bool was) { return !was; });
+    chooseShown(m_all, [](bool) { return true; });
+    chooseShown(m_none, [](bool) { return false; });
+    chooseShown(m_invert, [](bool was) { return !was; });
     connect(m_only, &QToolButton::clicked, this,
-            [this] { this->choose([this](int row, bool) { return isShown(row); }); });
+            [this] { choose([this](int row, bool) { return isShown(row); }); });
     connect(m_filter, &QLineEdit::textChanged, this, &ChoiceBar::filter);
     connect(m_kinds, &QMenu::aboutToShow, this, &ChoiceBar::listKinds);
 }
@@ -123,9 +123,11 @@ void ChoiceBar::listKinds()
     m_kinds->clear();
     QStringList kinds;
     const int rows = m_table->view()->model()->rowCount();
-    for (int row = 0; row < rows; ++row)
-        if (!kinds.contains(m_table->kindInRow(row)))
-            kinds << m_table->kindInRow(row);
+    for (int row = 0; row < rows; ++row) {
+        const QString kind = m_table->kindInRow(row);
+        if (!kinds.contains(kind))
+            kinds << kind;
+    }
     for (const QString& kind : qAsConst(kinds))
         connect(m_kinds->addAction(kind), &QAction::triggered, this, [this, kind] {
             choose([&](int row, bool) { return m_table->kindInRow(row) == kind; });

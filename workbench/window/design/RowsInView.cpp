@@ -212,7 +212,10 @@ void RowsInView::togglePicked(int group)
     if (!isPicking() || changeableRow() < 0)
         return;
     const bool isInRow = page()->groups(currentRow()).contains(group);
-    isInRow ? remove(currentRow(), {group}) : add(currentRow(), {group});
+    if (isInRow)
+        remove(currentRow(), {group});
+    else
+        add(currentRow(), {group});
 }
 
 /// Assigns the picked groups of the view. Groups that the view does not contain stay in the row.

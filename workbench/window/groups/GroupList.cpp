@@ -214,7 +214,7 @@ VkdStatus GroupList::fill()
 {
     VkdStatus status;
     const int current = groupOf(currentItem());
-    m_isQuiet = true;
+    const QScopedValueRollback<bool> quiet(m_isQuiet, true);
     m_items.clear();
     clear();
     m_withoutAreas.clear();
@@ -241,7 +241,6 @@ VkdStatus GroupList::fill()
     }
     std::sort(m_withoutAreas.begin(), m_withoutAreas.end());
     fitColumns();
-    m_isQuiet = false;
     return status;
 }
 

@@ -26,7 +26,10 @@ void StartScreen::setShown(bool isShown)
 {
     if (std::exchange(m_isShown, isShown) == isShown)
         return;
-    isShown ? enter() : leave();
+    if (isShown)
+        enter();
+    else
+        leave();
 }
 
 QByteArray StartScreen::dockState() const
