@@ -55,7 +55,7 @@ private:
     VKD_A_BarDiameterData m_bars;
     plib::DesignParameterData m_data;
     VKD_H_ProjectDialogPage m_page;
-    std::set<int> m_namedGroups; // groups in any row; constant: groups only move between rows
+    std::set<int> m_namedGroups; // groups in any row; none is removed, as groups only move
     bool m_converted = false;
 };
 

@@ -35,7 +35,7 @@ bool isListOfTexts(const QJsonValue& value)
                        [](const QJsonValue& element) { return element.isString(); });
 }
 
-/// The format of the contents of a preset. The messages are not translated yet.
+/// The format of the contents of a preset. The messages are translated when they are used.
 struct ContentsFormat
 {
     QLatin1String fileFormat; ///< value of "format"
