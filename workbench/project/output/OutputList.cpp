@@ -113,22 +113,23 @@ void OutputList::continueFrom(const OutputList& before)
         }
 }
 
-/// Returns the index of the saved version of an output from another list, or -1. An output without
+/// Returns the index of the saved version of an output among these names, or -1. An output without
 /// a name is the first one, even if another program has given it a name in the meantime.
-int OutputList::indexOfSaved(const NamedOutput& output) const
+int OutputList::indexOfSaved(const NamedOutput& output, const QStringList& names)
 {
     if (output.savedIndex < 0)
         return -1;
-    return output.savedName.isEmpty() ? 0 : indexOf(output.savedName);
+    return output.savedName.isEmpty() ? 0 : indexOf(output.savedName, names);
 }
 
 void OutputList::follow(const OutputList& project, Removed removed)
 {
     QVector<NamedOutput> outputs;
+    const QStringList savedNames = project.names();
     int current = 0;
     for (int i = 0; i < size(); ++i) {
         NamedOutput output = m_outputs[i];
-        const int saved = project.indexOfSaved(output);
+        const int saved = indexOfSaved(output, savedNames);
         const bool isUsers = i == m_current || isChanged(i);
         if (saved < 0 && !isUsers && removed == Removed::Drop)
             continue;
@@ -142,7 +143,7 @@ void OutputList::follow(const OutputList& project, Removed removed)
     m_outputs = outputs;
     m_current = current;
     appendNew(project);
-    m_storedNames = project.names();
+    m_storedNames = savedNames;
 }
 
 /// Appends the outputs that the project did not contain before. They count as saved unless they
@@ -234,17 +235,16 @@ void OutputList::remove()
 
 void OutputList::setOutputs(const QVector<NamedOutput>& outputs, int current)
 {
-    QHash<int, int> saved; // keyed by identifier
-    for (const NamedOutput& output : qAsConst(m_outputs))
-        saved.insert(output.id, output.savedIndex);
+    QSet<int> present, taken; // identifiers, and indices of saved versions
+    for (const NamedOutput& output : qAsConst(m_outputs)) {
+        present << output.id;
+        taken << output.savedIndex;
+    }
     m_outputs = outputs;
     for (NamedOutput& output : m_outputs)
-        if (!saved.contains(output.id)) {
-            const int index = output.savedIndex < 0 ? -1
-                              : output.savedName.isEmpty()
-                                  ? 0
-                                  : m_storedNames.indexOf(output.savedName);
-            output.savedIndex = saved.values().contains(index) ? -1 : index;
+        if (!present.contains(output.id)) {
+            const int index = indexOfSaved(output, m_storedNames);
+            output.savedIndex = taken.contains(index) ? -1 : index;
         }
     if (size() > 1)
         nameAll();

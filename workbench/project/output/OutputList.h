@@ -100,7 +100,8 @@ public:
 
 private:
     static QString shownName(const QString& name, int index);
-    int indexOfSaved(const NamedOutput& output) const;
+    static int indexOf(const QString& name, const QStringList& names);
+    static int indexOfSaved(const NamedOutput& output, const QStringList& names);
     void appendNew(const OutputList& project);
     void nameAll();
 

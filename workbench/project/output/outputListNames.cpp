@@ -49,8 +49,13 @@ QStringList OutputList::unsavedNames() const
 
 int OutputList::indexOf(const QString& wanted) const
 {
-    for (int i = 0; i < size(); ++i)
-        if (name(i).compare(wanted.simplified(), Qt::CaseInsensitive) == 0)
+    return indexOf(wanted, names());
+}
+
+int OutputList::indexOf(const QString& wanted, const QStringList& names)
+{
+    for (int i = 0; i < names.size(); ++i)
+        if (names[i].compare(wanted.simplified(), Qt::CaseInsensitive) == 0)
             return i;
     return -1;
 }
