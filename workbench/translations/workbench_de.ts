@@ -1097,11 +1097,11 @@ Overwrite replaces it with your entries. Reload discards your entries and shows 
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>&amp;Weitersuchen</translation>
+        <translation>&amp;Nächster Treffer</translation>
     </message>
     <message>
         <source>Find &amp;Previous</source>
-        <translation>&amp;Rückwärts suchen</translation>
+        <translation>&amp;Voriger Treffer</translation>
     </message>
     <message>
         <source>&amp;Wrap Lines</source>
