@@ -129,7 +129,10 @@ void OutputDialog::enter()
 /// Keeps the tabs visible. OutputEditor stores the state only if no field rejects its text.
 void OutputDialog::done(int result)
 {
-    result == Rejected ? rejected() : accepted();
+    if (result == Rejected)
+        rejected();
+    else
+        accepted();
 }
 
 /// Prevents Escape and Return from discarding or applying the choice, which they would do in a
