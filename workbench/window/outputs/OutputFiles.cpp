@@ -141,9 +141,9 @@ void OutputFiles::saveScripts()
             return complain(files);
     if (!files.commit())
         return complain(files);
-    saySaved(
-        tr("Scripts saved in %1: %2").arg(QDir::toNativeSeparators(job->folder)).arg(files.size()),
-        *job);
+    saySaved(tr("Scripts saved in %1: %2")
+                 .arg(QDir::toNativeSeparators(job->folder), QString::number(files.size())),
+             *job);
 }
 
 /// The progress counts the pages of all files.
@@ -177,7 +177,8 @@ void OutputFiles::exportSheets()
     const QStringList saved = job->files.mid(0, done.files);
     switch (done.end) {
     case SheetExport::Done:
-        return saySaved(tr("PDF files saved in %1: %2").arg(folder).arg(saved.size()), *job);
+        return saySaved(tr("PDF files saved in %1: %2").arg(folder, QString::number(saved.size())),
+                        *job);
     case SheetExport::Cancelled:
         return m_messages->say(saved.isEmpty() ? tr("Cancelled. No PDF file was saved.")
                                                : tr("Cancelled. PDF files saved in %1: %2")
