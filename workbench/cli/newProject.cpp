@@ -2,17 +2,16 @@
 
 #include "cli/CommandLine.h"
 #include "cli/DesignRows.h"
+#include "project/installedFile.h"
 
 #include <record/designStore.h>
 #include <vkd_dbo_model.h>
 #include <vkd_dbo_packedNames.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_language.h>
-#include <vkd_lib_searchpath.h>
 #include <ZobFilePlace.h>
 #include <ZobTransaction.h>
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -24,11 +23,10 @@ QString modelPath(const QString& nameOrFile)
 {
     if (nameOrFile.endsWith(QLatin1String(".json")) || QFileInfo(nameOrFile).isFile())
         return nameOrFile;
-    const QByteArray name = QFile::encodeName(QStringLiteral("models/%1.json").arg(nameOrFile));
-    const auto found = vkd_lib_searchpath(name.constData(), 3);
-    if (!found)
+    const QString found = installedFile(QStringLiteral("models/%1.json").arg(nameOrFile));
+    if (found.isEmpty())
         throw CommandError{QStringLiteral("there is no model \"%1\"").arg(nameOrFile)};
-    return QFile::decodeName(found->c_str());
+    return found;
 }
 
 /// Converts the groups of a model file, each of which is a number or the name of a secondary group.

@@ -1,9 +1,10 @@
 #include "cli/commands.h"
 
 #include "cli/CommandLine.h"
+#include "project/installedFile.h"
 
+#include <catalogue/Catalogue.h>
 #include <catalogue/catalogueLint.h>
-#include <vkd_lib_searchpath.h>
 
 #include <QFile>
 
@@ -16,10 +17,11 @@ QString cataloguePath(const QString& given)
 {
     if (!given.isEmpty())
         return given;
-    const auto found = vkd_lib_searchpath("graphicaloutput.data", 3);
-    if (!found)
-        throw CommandError{QStringLiteral("graphicaloutput.data is not on the search path")};
-    return QFile::decodeName(found->c_str());
+    const QLatin1String name(plib::CatalogueFile);
+    const QString found = installedFile(name);
+    if (found.isEmpty())
+        throw CommandError{QStringLiteral("%1 is not on the search path").arg(name)};
+    return found;
 }
 
 QString recordLine(const plib::GraphicalOutputRecord& r)

@@ -1,9 +1,9 @@
 #include "project/presets/presetPlaces.h"
 
 #include "project/dialogPages.h"
+#include "project/installedFile.h"
 
 #include <VKD_H_ProjectDialogPage.h>
-#include <vkd_lib_searchpath.h>
 #include <ZobSnapshot.h>
 #include <ZobTransaction.h>
 
@@ -45,9 +45,9 @@ QString writeFile(PresetKind kind, const QString& path, const PresetList& preset
 
 PresetReading readSupplied()
 {
-    const auto path = vkd_lib_searchpath("presets/design.json", 3);
-    return path ? readFile(PresetKind::DesignParameters, QFile::decodeName(path->c_str()))
-                : PresetReading{{}, PlaceText::tr("The supplied presets are missing.")};
+    const QString path = installedFile(QStringLiteral("presets/design.json"));
+    return path.isEmpty() ? PresetReading{{}, PlaceText::tr("The supplied presets are missing.")}
+                          : readFile(PresetKind::DesignParameters, path);
 }
 
 PresetReading readProject(PresetKind kind, ZobHandle project)

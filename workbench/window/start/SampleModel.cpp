@@ -1,8 +1,6 @@
 #include "window/start/SampleModel.h"
 
-#include <vkd_lib_searchpath.h>
-
-#include <QFile>
+#include "project/installedFile.h"
 
 namespace workbench {
 
@@ -23,12 +21,6 @@ constexpr Sample Samples[] = {
     {"hall", QT_TRANSLATE_NOOP("workbench::SampleModel", "&Hall"),
      QT_TRANSLATE_NOOP("workbench::SampleModel", "Steel hall with crane girders on pad footings")},
 };
-
-QString installedFile(const QString& name)
-{
-    const auto found = vkd_lib_searchpath(QFile::encodeName(name).constData(), 3);
-    return found ? QFile::decodeName(found->c_str()) : QString();
-}
 } // namespace
 
 QVector<SampleModel> SampleModel::installed()

@@ -10,7 +10,6 @@
 namespace plib {
 
 namespace {
-constexpr char FileName[] = "graphicaloutput.data";
 constexpr int SearchMode = 3;
 
 /// Translates messages in the context of the tree, because they report why the tree remains empty.
@@ -30,10 +29,10 @@ bool loadCatalogue(Catalogue& catalogue, vkd::Language language, const ShowError
 {
     if (int(language) == catalogue.catalogueLanguage)
         return true;
-    const auto path = vkd_lib_searchpath(FileName, SearchMode);
+    const auto path = vkd_lib_searchpath(CatalogueFile, SearchMode);
     if (!path) {
         showError(TreeText::tr("File not found"),
-                  TreeText::tr("File %1 not found").arg(QLatin1String(FileName)));
+                  TreeText::tr("File %1 not found").arg(QLatin1String(CatalogueFile)));
         return false;
     }
     QFile file(QFile::decodeName(path->c_str()));

@@ -9,6 +9,9 @@
 
 namespace plib {
 
+/// The name of the catalogue on the search path.
+constexpr char CatalogueFile[] = "graphicaloutput.data";
+
 /// The catalogue of plots, which all output trees of the process share.
 struct Catalogue
 {
@@ -22,10 +25,9 @@ Catalogue& sharedCatalogue();
 /// Shows an error to the user. Called at most once per load.
 using ShowError = std::function<void(const QString& title, const QString& text)>;
 
-/// Loads the catalogue for the language, unless it is already loaded. The file is
-/// `graphicaloutput.data` on the search path. The records of a second language are intentionally
-/// appended to those of the first language. If the file is missing or cannot be opened, calls
-/// `showError` and returns false; the next call tries again.
+/// Loads the catalogue for the language, unless it is already loaded. The records of a second
+/// language are intentionally appended to those of the first language. If the file is missing or
+/// cannot be opened, calls `showError` and returns false; the next call tries again.
 bool loadCatalogue(Catalogue& catalogue, vkd::Language language, const ShowError& showError);
 
 } // namespace plib
