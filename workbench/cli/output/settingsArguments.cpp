@@ -4,6 +4,7 @@
 
 #include <output/fontSize.h>
 
+#include <iterator>
 #include <type_traits>
 
 namespace workbench {
@@ -75,9 +76,10 @@ void setFontSize(const QString& value, OutputSettings* settings)
 
 constexpr Setting Settings[] = {
     {"scaleMode", int(plib::ScaleMode::ToFit), Pages::All, setNumber<&OutputSettings::scaleMode>},
-    {"scaleIndex", 11, Pages::All, setScaleIndex},
+    {"scaleIndex", int(std::size(plib::EngineeringScales)), Pages::All, setScaleIndex},
     {"scaleText", NoNumber, Pages::All, setScaleText},
-    {"pageSplitId", 5, Pages::Split, setNumber<&OutputSettings::pageSplitId>},
+    {"pageSplitId", plib::PageSplitCount - 1, Pages::Split,
+     setNumber<&OutputSettings::pageSplitId>},
     {"hasFormat", 1, Pages::AllButSplit, setNumber<&OutputSettings::hasFormat>},
     {"formatId", int(plib::PageFormat::Landscape), Pages::AllButSplit, setFormat},
     {"picturesId", int(plib::PagePictures::Two), Pages::AllButSplit, setPictures},

@@ -7,7 +7,7 @@ namespace plib {
 QStringList engineeringScales()
 {
     QStringList rows;
-    for (int scale : {1, 2, 5, 10, 20, 25, 50, 100, 200, 500, 1000})
+    for (int scale : EngineeringScales)
         rows << QStringLiteral("1:%1").arg(scale);
     return rows;
 }

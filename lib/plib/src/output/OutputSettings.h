@@ -14,8 +14,10 @@ enum class PageFormat : int { Portrait, Landscape };
 enum class PagePictures : int { One, Two };
 enum class OutputView : int { PlaneXY, PlaneXZ, PlaneYZ, Standard3D, UserDefined };
 
-/// The index of the row "Auto" in the scale list.
+/// The index of the row "Auto" in the scale list. The rows of the scales follow.
 constexpr int AutoScaleRow = 0;
+constexpr int EngineeringScales[] = {1, 2, 5, 10, 20, 25, 50, 100, 200, 500, 1000};
+constexpr int PageSplitCount = 6; ///< divisions of a sheet
 
 /// The settings of a graphical output page on which the script depends. A page creates a new object
 /// for each script. The default values are the settings of a new page.
@@ -25,7 +27,7 @@ struct OutputSettings
     ScaleMode scaleMode = ScaleMode::ToFit;
     int scaleIndex = AutoScaleRow; ///< row of the scale list
     QString scaleText;             ///< text of that row, such as "1:100"
-    int pageSplitId = 0;           ///< division of the sheet, 0 to 5; only in the split variant
+    int pageSplitId = 0;           ///< division of the sheet; only in the split variant
     bool hasFormat = true;         ///< false in the split variant, which has no choice of format
     PageFormat formatId = PageFormat::Portrait;
     PagePictures picturesId = PagePictures::Two; ///< number of pictures on a page

@@ -2,6 +2,8 @@
 
 #include "script/Words.h"
 
+#include <iterator>
+
 namespace plib {
 
 namespace {
@@ -62,6 +64,7 @@ constexpr struct
     const char* sheet;
 } PageSplits[] = {{" 1X1", " \"-URS\" "}, {" 2X1", " \"-URS\" "}, {" 2X2", " \"-URS\" "},
                   {" 3X2", " \"-URS\" "}, {" 1X1", " \"URS\" "},  {" 2X2", " \"URS\" "}};
+static_assert(std::size(PageSplits) == PageSplitCount);
 
 /// Returns the font size in centimetres. Text that is not a number is read as 0.
 QString fontNumber(const OutputSettings& settings)
@@ -95,7 +98,7 @@ QString splitResult(const OutputSettings& settings, const QString& additional, K
 {
     QString kind = SplitKind.in(keywords);
     QString division;
-    if (settings.pageSplitId >= 0 && settings.pageSplitId < int(std::size(PageSplits))) {
+    if (settings.pageSplitId >= 0 && settings.pageSplitId < PageSplitCount) {
         const auto& split = PageSplits[settings.pageSplitId];
         kind += QLatin1String(split.sheet);
         division = SplitDivision.in(keywords) + QLatin1String(split.division);
