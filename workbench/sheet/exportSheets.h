@@ -14,7 +14,7 @@ enum class SheetExport { Done, Cancelled, Failed };
 using SheetProgress = std::function<bool(int pages)>;
 
 /// Writes the pages of a plan to a PDF file, one sheet per page. The file is either written
-/// completely or not changed. `goOn` is called every few pages. After a failure, `trouble` contains
+/// completely or not changed. `goOn` is called at intervals. After a failure, `trouble` contains
 /// the reason.
 SheetExport exportSheets(const SheetPlan& plan, SheetPainter& painter, const QString& path,
                          const SheetProgress& goOn, QString* trouble);

@@ -255,7 +255,8 @@ QSize VKD_H_LineEdit::sizeHint() const
 {
     const QMargins around = textMargins();
     const int number = fontMetrics().horizontalAdvance(QLatin1String("-99999,00"));
-    const int symbol = m_mark->isSet() ? 0 : m_mark->width() + Gap; // else part of the margins
+    // While the mark is set, the margins include this space.
+    const int symbol = m_mark->isSet() ? 0 : m_mark->width() + Gap;
     QStyleOptionFrame option;
     initStyleOption(&option);
     const QSize content(around.left() + number + symbol + around.right() + 2 * Gap,
