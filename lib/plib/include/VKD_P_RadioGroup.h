@@ -60,6 +60,8 @@ public:
 
     /// Enables or disables a button. Ignores IDs of buttons that are not in the row.
     void setEnabledById(ButtonID id, bool enabled);
+    /// Checks a button. If the choice changes, the signals are emitted. Ignores IDs of buttons that
+    /// are not in the row.
     void setSelectedId(ButtonID id);
     /// Returns the ID of the checked button, or -1 if no button is checked.
     ButtonID getSelectedId() const;
@@ -73,11 +75,17 @@ Q_SIGNALS:
     /// Emitted when the choice may have changed, but only if a widget is coupled. May be emitted
     /// more than once per click. The ID is -1 if no button is checked.
     void buttonClicked(int buttonID);
+    /// Emitted when the button NoTextOutput is checked.
     void buttonNoOutputChecked();
+    /// Emitted when the button Manually is checked.
     void buttonManuallyChecked();
+    /// Emitted when the button All is checked.
     void buttonAllChecked();
+    /// Emitted when the button All_A is checked.
     void buttonAllAcciChecked();
+    /// Emitted when the button All_F is checked.
     void buttonAllFireChecked();
+    /// Emitted when the button All_E is checked.
     void buttonAllEartChecked();
     /// Emitted when any button except NoTextOutput is checked.
     void buttonChecked(int buttonID);

@@ -39,6 +39,7 @@ public:
     /// text is inserted before the plots without any change. The split page returns two alternative
     /// page setups instead of a script.
     QString getTORVAL(const QString& additional, bool english);
+    /// Returns the script without additional text.
     QString getTORVAL(bool english);
     /// Appends the script, even an empty one, to `scripts`. Always returns 1.
     int getTORVAL(std::vector<QString>& scripts, bool english);
