@@ -1,5 +1,6 @@
 #include "ProjectTest.h"
 #include "window/main/runWindow.h"
+#include "window/support/WindowSettings.h"
 
 #include <vkd_lib_value.h>
 #include <vkd_zob.h>
@@ -240,6 +241,17 @@ private Q_SLOTS:
         expected.removeOne(path("8.zob"));
         QCOMPARE(recentFiles(*window), expected);
         QCOMPARE(recentFiles(MainWindow()), expected);
+    }
+
+    /// Builds with Qt 5 and Qt 6 share the settings file. Qt 6 writes UTF-8, and older builds with
+    /// Qt 5 wrote escaped characters.
+    void recentFromBothVersionsOfQt()
+    {
+        QVERIFY(QDir().mkpath(path("ini/plib")));
+        writeFile(path("ini/plib/workbench.ini"), "[General]\nrecentFiles=/T\\xfcr.zob, /Br\xc3\xbc"
+                                                  "cke.zob\n");
+        const auto expected = QStringLiteral("/T\u00fcr.zob|/Br\u00fccke.zob");
+        QCOMPARE(workbench::WindowSettings().savedRecentFiles().join(QLatin1Char('|')), expected);
     }
 
     /// The start page replaces the panes while no project is open. Their layout is preserved.

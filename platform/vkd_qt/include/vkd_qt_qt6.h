@@ -59,6 +59,17 @@ auto vkd_qt_delegateOf(const View& view, const Index& index)
 #endif
 }
 
+/// Reads and writes a settings file in UTF-8, as Qt 6 always does, so that builds with both
+/// versions can share the file. Escaped characters, which Qt 5 writes by default, are still read.
+/// Must be called directly after the settings are created.
+template <typename Settings>
+void vkd_qt_useUtf8([[maybe_unused]] Settings& settings)
+{
+#if QT_VERSION_MAJOR < 6
+    settings.setIniCodec("UTF-8");
+#endif
+}
+
 /// Enables scaling on high-resolution screens before the application is created. Qt 6 always
 /// scales.
 inline void vkd_qt_enableHighDpi()

@@ -1,5 +1,7 @@
 #include "window/support/WindowSettings.h"
 
+#include <vkd_qt_qt6.h>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -17,6 +19,7 @@ const QString KeywordsKey = QStringLiteral("englishKeywords");
 WindowSettings::WindowSettings()
     : QSettings(IniFormat, UserScope, QStringLiteral("plib"), QStringLiteral("workbench"))
 {
+    vkd_qt_useUtf8(*this);
 }
 
 QStringList WindowSettings::recentFiles() const
