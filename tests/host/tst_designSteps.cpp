@@ -118,6 +118,10 @@ private Q_SLOTS:
             table->setCurrentCell(0, 0);
             after << state();
         }
+        setLanguage(German);
+        QCOMPARE(find<QAction>(*desk.page, "undo")->text(),
+                 QStringLiteral("&Rückgängig: Löschen von 2 Zeilen"));
+        setLanguage(English);
         QApplication::setActiveWindow(&desk); // because the dialogs have deactivated it
         table->setFocus();
         for (int round : {0, 1}) {

@@ -252,20 +252,50 @@ private Q_SLOTS:
         const QString state = desk.page.writeXMLstring();
         QByteArray bytes;
         QMetaObject::invokeMethod(steps, "steps", Q_RETURN_ARG(QByteArray, bytes));
-        const auto areTaken = [&] {
+        const auto areTaken = [&bytes](QObject* by) {
             bool isDone = false;
-            QMetaObject::invokeMethod(steps, "setSteps", Q_RETURN_ARG(bool, isDone),
+            QMetaObject::invokeMethod(by, "setSteps", Q_RETURN_ARG(bool, isDone),
                                       Q_ARG(QByteArray, bytes));
             return isDone;
         };
         desk.page.readXMLstring(other); // reading a state does not add an undo step
-        QVERIFY(!undo->isEnabled() && !areTaken());
+        QVERIFY(!undo->isEnabled() && !areTaken(steps));
         desk.page.readXMLstring(state);
-        QVERIFY(areTaken());
+        QVERIFY(areTaken(steps));
         for (int redone = 0; redone < 2; ++redone)
             desk.find<QAction>("redo")->trigger();
         QCOMPARE(desk.page.writeXMLstring(), last);
         QVERIFY(undo->text().startsWith(QLatin1String("&Undo View \"")));
+    }
+
+    /// A page that replaces another page shows the names of its steps in the current language.
+    void namesInGerman()
+    {
+        Desk desk(m_project);
+        const std::vector<Step> steps = stepsOn(desk, [](const QString&) {});
+        for (std::size_t i = 0; i + 2 < steps.size(); ++i) // without those of the host
+            steps[i].run();
+        QByteArray bytes;
+        QMetaObject::invokeMethod(desk.find<QObject>("steps"), "steps",
+                                  Q_RETURN_ARG(QByteArray, bytes));
+        setLanguage(German);
+        vkd_lib_setvalue(VKD_SETTING_LANGUAGE, English); // the catalogue is loaded only once
+        Desk german(m_project);
+        setLanguage(German);
+        german.page.readXMLstring(desk.page.writeXMLstring());
+        QMetaObject::invokeMethod(german.find<QObject>("steps"), "setSteps",
+                                  Q_ARG(QByteArray, bytes));
+        const QString plot = german.plotWithRows()->text(0);
+        QStringList texts;
+        for (const auto next = german.find<QAction>("undo"); next->isEnabled(); next->trigger())
+            texts << next->text().section(QLatin1Char(' '), 1);
+        setLanguage(English);
+        QCOMPARE(texts.join(QLatin1Char('|')),
+                 QStringLiteral("„%1, 2 : Snow“ ankreuzen|Schriftgröße|Isoflächen|"
+                                "Ansicht „X/Z-Ebene“|Seitenformat „Querformat“|"
+                                "Häkchen von „System“ entfernen|Maßstab „1:50“|"
+                                "Maßstab „Ingenieurmaßstab“")
+                     .arg(plot));
     }
 
     /// The counts below the page are updated when the host requests the script, and automatically

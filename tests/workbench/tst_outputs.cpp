@@ -272,6 +272,8 @@ private Q_SLOTS:
                  QStringLiteral("&Rückgängig: „Output 1 (2)“ umbenennen"));
         QCOMPARE(undo(), QStringLiteral("/Output 1/|>/Output 1 (2)/"));
         QCOMPARE(undo(), QStringLiteral(">Ausgabe 1"));
+        QCOMPARE(edit->actions().at(1)->text(),
+                 QStringLiteral("&Wiederholen: „Ausgabe 1“ duplizieren"));
         QTRY_VERIFY(!window->isWindowModified());
         undo(Qt::ShiftModifier);
         QCOMPARE(undo(Qt::ShiftModifier), QStringLiteral("/Output 1/|>/A & B/"));

@@ -9,7 +9,8 @@ namespace designparameter {
 /// meta-object. Rows are counted from 0.
 ///
 /// Property `bool modified`: whether the rows differ from those that were read or written last. A
-/// host that has stored the rows itself sets it to false.
+/// host that has stored the rows itself sets it to false. If a host sets it to true, it stays true
+/// even if the user undoes all changes.
 ///
 /// Signals:
 /// - `modifiedChanged(bool)`
@@ -32,6 +33,10 @@ namespace designparameter {
 /// - `QByteArray rows()` returns all rows for setRows().
 /// - `bool setRows(QByteArray)` replaces all rows with those of another page and clears the undo
 ///   history. Returns false and changes nothing if the data is malformed.
+/// - `QByteArray steps()` returns the undo history for setSteps(), or an empty array without steps.
+/// - `bool setSteps(QByteArray)` replaces the undo history with that of another page of the same
+///   process, and sets `modified` as on that page. Does nothing and returns false if the rows of
+///   the pages differ.
 constexpr char RowsObject[] = "rows";
 
 /// The object name of a child object of VKD_P_DesignParameter that provides the parameters of rows
@@ -45,9 +50,11 @@ constexpr char RowsObject[] = "rows";
 /// - `QStringList faults(QVariantMap)` returns a message for each parameter that is unknown or that
 ///   the page would not accept.
 /// - `QString description(QVariantMap)` returns the parameters as a table in rich text.
-/// - `QStringList setInSelectedRows(QVariantMap, QString stepName)` sets the parameters in all
-///   selected rows as one undo step with this name. Other parameters and the groups do not change.
-///   If there are faults, the method returns them and changes nothing.
+/// - `QStringList setInSelectedRows(QVariantMap, QStringList stepName)` sets the parameters in all
+///   selected rows as one undo step. Its name consists of the context and the source text of a
+///   translation and an optional argument that replaces "%1"; the page translates it when it is
+///   shown. A name that is a QString is not translated. Other parameters and the groups do not
+///   change. If there are faults, the method returns them and changes nothing.
 constexpr char ParametersObject[] = "rowParameters";
 
 } // namespace designparameter

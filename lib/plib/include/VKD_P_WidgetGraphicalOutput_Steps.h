@@ -15,16 +15,17 @@ namespace widgetgraphicaloutput {
 ///
 /// Methods:
 /// - `void begin()` begins a step of the host. Steps can be nested.
-/// - `void end(QString name, QString state)` ends the step and adds it to the history with this
-///   name if anything has changed. `state` is the state of the host after the step.
+/// - `void end(QStringList name, QString state)` ends the step and adds it to the history if
+///   anything has changed. `name` consists of the context and the source text of a translation and
+///   an optional argument that replaces "%1"; the page translates it when it is shown. A name that
+///   is a QString is not translated. `state` is the state of the host after the step.
 /// - `void restart(QString state)` clears the history. `state` is the current state of the host.
-/// - `void amend(QString name, QString state)` adds a change to the state of the host to the step
-///   of the user's last action. If that action did not change the page, adds a step with this name.
-///   A host uses this method if an action of the page, for example Default Settings, also changes
-///   the state of the host.
+/// - `void amend(QStringList name, QString state)` adds a change to the state of the host to the
+///   step of the user's last action. If that action did not change the page, adds a step with this
+///   name. A host uses this method if an action of the page, for example Default Settings, also
+///   changes the state of the host.
 /// - `QByteArray steps()` returns the history for a page of the same process that replaces this
-///   page, for example after a language change. The names of the steps are not translated. Without
-///   steps, returns an empty array.
+///   page, for example after a language change. Without steps, returns an empty array.
 /// - `bool setSteps(QByteArray steps)` replaces the history with that of another page. If the state
 ///   of the host differs, `hostStateRestored()` is emitted. If the settings or the checked plots of
 ///   the pages differ, does nothing and returns false.

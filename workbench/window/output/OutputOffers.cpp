@@ -32,17 +32,26 @@ QLabel* newHint(const QString& text)
     return hint;
 }
 
+/// Returns the name of an undo step, which the page translates.
+template <typename... Argument>
+QStringList newStepName(const char* sourceText, const Argument&... argument)
+{
+    return {QLatin1String("workbench::OutputOffers"), QLatin1String(sourceText), argument...};
+}
+
 /// Returns the name of the undo step between two states.
-QString stepName(const OutputState& before, const OutputState& after)
+QStringList stepName(const OutputState& before, const OutputState& after)
 {
     if (before.content != after.content)
-        return OutputOffers::tr("Contents");
+        return newStepName(QT_TRANSLATE_NOOP("workbench::OutputOffers", "Contents"));
     const QSet<int> left = after.leftOutNumbers - before.leftOutNumbers;
     const QSet<int> added = before.leftOutNumbers - after.leftOutNumbers;
     if (left.size() + added.size() != 1)
-        return OutputOffers::tr("Offered Load Cases");
-    return left.isEmpty() ? OutputOffers::tr("Offer Load Case %1").arg(*added.begin())
-                          : OutputOffers::tr("Leave Out Load Case %1").arg(*left.begin());
+        return newStepName(QT_TRANSLATE_NOOP("workbench::OutputOffers", "Offered Load Cases"));
+    const char* text = left.isEmpty()
+                           ? QT_TRANSLATE_NOOP("workbench::OutputOffers", "Offer Load Case %1")
+                           : QT_TRANSLATE_NOOP("workbench::OutputOffers", "Leave Out Load Case %1");
+    return newStepName(text, QString::number(*(left.isEmpty() ? added : left).begin()));
 }
 } // namespace
 
@@ -67,9 +76,8 @@ void OutputOffers::addTo(VKD_H_TabDialog* dialog, const QString& projectPath)
 /// The button is in the row of the tabs, where it does not need additional space.
 void OutputOffers::addPresets(VKD_H_TabDialog* dialog, const QString& projectPath)
 {
-    const auto apply = [this](const QVariantMap& preset, PlotsOfPreset mode, const QString& name) {
-        applyPreset(preset, mode, name);
-    };
+    const auto apply = [this](const QVariantMap& preset, PlotsOfPreset mode,
+                              const QStringList& name) { applyPreset(preset, mode, name); };
     auto button = new QToolButton(dialog);
     button->setObjectName(QStringLiteral("PresetsButton"));
     button->setDefaultAction(
@@ -126,7 +134,8 @@ void OutputOffers::connectTabs()
         m_page->findChild<QAbstractButton*>(QStringLiteral("Button: Default settings"));
     connect(defaults, &QAbstractButton::clicked, this, [this] {
         m_choice.setProposed();
-        QMetaObject::invokeMethod(m_steps, "amend", Q_ARG(QString, tr("Default Settings")),
+        const char* name = QT_TRANSLATE_NOOP("workbench::OutputOffers", "Default Settings");
+        QMetaObject::invokeMethod(m_steps, "amend", Q_ARG(QStringList, newStepName(name)),
                                   Q_ARG(QString, stateText()));
     });
     connect(m_steps, SIGNAL(hostStateRestored(QString)), this, SLOT(restoreState(QString)));
@@ -167,7 +176,7 @@ void OutputOffers::finish()
     m_choice.giveBack();
     const OutputState before = m_known;
     readTo(&m_known);
-    QMetaObject::invokeMethod(m_steps, "end", Q_ARG(QString, stepName(before, m_known)),
+    QMetaObject::invokeMethod(m_steps, "end", Q_ARG(QStringList, stepName(before, m_known)),
                               Q_ARG(QString, stateText()));
     Q_EMIT changed();
 }
@@ -211,11 +220,11 @@ void OutputOffers::setSteps(const QByteArray& steps)
 
 /// Applies the contents of a preset of plots as an undo step with this name.
 void OutputOffers::applyPreset(const QVariantMap& preset, PlotsOfPreset mode,
-                               const QString& stepName)
+                               const QStringList& stepName)
 {
     QMetaObject::invokeMethod(m_steps, "begin");
     m_choice.apply(preset, mode);
-    QMetaObject::invokeMethod(m_steps, "end", Q_ARG(QString, stepName),
+    QMetaObject::invokeMethod(m_steps, "end", Q_ARG(QStringList, stepName),
                               Q_ARG(QString, stateText()));
     Q_EMIT changed();
 }

@@ -48,7 +48,7 @@ Q_SIGNALS:
 private:
     QWidget* newLoadCaseTab(QWidget* parent);
     QWidget* newContentTab(QWidget* parent);
-    void applyPreset(const QVariantMap& preset, PlotsOfPreset mode, const QString& stepName);
+    void applyPreset(const QVariantMap& preset, PlotsOfPreset mode, const QStringList& stepName);
     void addPresets(VKD_H_TabDialog* dialog, const QString& projectPath);
     void connectTabs();
     void begin();

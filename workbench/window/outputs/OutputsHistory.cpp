@@ -24,19 +24,20 @@ struct OutputsHistory::Step
 {
     QString text() const
     {
+        const QString shownName = name.isEmpty() ? OutputList().name(0) : name;
         switch (step) {
-        case OutputsStep::Add: return tr("New Output \"%1\"").arg(name);
-        case OutputsStep::Duplicate: return tr("Duplicate \"%1\"").arg(name);
-        case OutputsStep::Rename: return tr("Rename \"%1\"").arg(name);
-        case OutputsStep::Delete: return tr("Delete \"%1\"").arg(name);
-        case OutputsStep::Move: return tr("Move \"%1\"").arg(name);
-        case OutputsStep::Copy: return tr("Copy from \"%1\"").arg(name);
+        case OutputsStep::Add: return tr("New Output \"%1\"").arg(shownName);
+        case OutputsStep::Duplicate: return tr("Duplicate \"%1\"").arg(shownName);
+        case OutputsStep::Rename: return tr("Rename \"%1\"").arg(shownName);
+        case OutputsStep::Delete: return tr("Delete \"%1\"").arg(shownName);
+        case OutputsStep::Move: return tr("Move \"%1\"").arg(shownName);
+        case OutputsStep::Copy: return tr("Copy from \"%1\"").arg(shownName);
         }
         return QString();
     }
 
     OutputsStep step;
-    QString name;
+    QString name; ///< empty if the output has a default name, which depends on the language
     OutputListChange change;
 };
 
@@ -81,7 +82,10 @@ void OutputsHistory::record(OutputsStep step, const QString& name, const OutputL
     const OutputListChange change(before, after);
     if (change.isEmpty())
         return;
-    m_stack.push(new Command(this, std::make_shared<Step>(Step{step, name, change})));
+    const bool isDefault =
+        before.current().name.isEmpty() && name == before.name(before.currentIndex());
+    m_stack.push(new Command(
+        this, std::make_shared<Step>(Step{step, isDefault ? QString() : name, change})));
     dropOldSteps();
 }
 

@@ -71,7 +71,7 @@ std::unique_ptr<PresetForm> DesignPresetsDialog::newForm()
     return std::make_unique<PresetForm>(questions, Preset{{}, {}, m_parameters.current()}, this);
 }
 
-QStringList DesignPresetsDialog::applyToPage(const Preset& preset, const QString& stepName)
+QStringList DesignPresetsDialog::applyToPage(const Preset& preset, const QStringList& stepName)
 {
     return m_parameters.setInSelectedRows(ofParts(preset.contents, m_parts->checkedParts()),
                                           stepName);

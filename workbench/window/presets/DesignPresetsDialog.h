@@ -26,7 +26,7 @@ protected:
     QStringList faultsIn(const QVariantMap& contents) const override;
     std::unique_ptr<PresetForm> newForm() override;
     bool confirms(const Preset&) override { return true; }
-    QStringList applyToPage(const Preset& preset, const QString& stepName) override;
+    QStringList applyToPage(const Preset& preset, const QStringList& stepName) override;
 
 private:
     DesignPresetsDialog(const VKD_P_DesignParameter* page, const OpenProject* project,

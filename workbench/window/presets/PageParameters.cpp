@@ -48,11 +48,11 @@ QString PageParameters::description(const QVariantMap& parameters) const
 }
 
 QStringList PageParameters::setInSelectedRows(const QVariantMap& parameters,
-                                              const QString& stepName) const
+                                              const QStringList& stepName) const
 {
     QStringList faults;
     QMetaObject::invokeMethod(m_object, "setInSelectedRows", Q_RETURN_ARG(QStringList, faults),
-                              Q_ARG(QVariantMap, parameters), Q_ARG(QString, stepName));
+                              Q_ARG(QVariantMap, parameters), Q_ARG(QStringList, stepName));
     return faults;
 }
 

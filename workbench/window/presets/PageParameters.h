@@ -23,7 +23,7 @@ public:
     QVariantMap current() const;
     QStringList faults(const QVariantMap& parameters) const;
     QString description(const QVariantMap& parameters) const;
-    QStringList setInSelectedRows(const QVariantMap& parameters, const QString& stepName) const;
+    QStringList setInSelectedRows(const QVariantMap& parameters, const QStringList& stepName) const;
 
 private:
     QObject* m_object;

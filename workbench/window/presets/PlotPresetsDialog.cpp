@@ -77,7 +77,7 @@ bool PlotPresetsDialog::confirms(const Preset& preset)
                QMessageBox::Yes, QMessageBox::No, 0) == QMessageBox::Yes;
 }
 
-QStringList PlotPresetsDialog::applyToPage(const Preset& preset, const QString& stepName)
+QStringList PlotPresetsDialog::applyToPage(const Preset& preset, const QStringList& stepName)
 {
     m_applyPlots(preset.contents, m_adds->isChecked() ? PlotsOfPreset::Add : PlotsOfPreset::Replace,
                  stepName);

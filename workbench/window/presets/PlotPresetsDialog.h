@@ -19,7 +19,7 @@ class PlotPresetsDialog : public PresetsDialog
 public:
     /// Applies the contents of a preset as an undo step with this name.
     using ApplyPlots = std::function<void(const QVariantMap& contents, PlotsOfPreset mode,
-                                          const QString& stepName)>;
+                                          const QStringList& stepName)>;
 
     /// `tree` is the tree of the page, and `projectPath` is the initial path in file dialogs.
     PlotPresetsDialog(const QTreeWidget& tree, const ApplyPlots& applyPlots,
@@ -32,7 +32,7 @@ protected:
     QStringList faultsIn(const QVariantMap&) const override { return {}; }
     std::unique_ptr<PresetForm> newForm() override;
     bool confirms(const Preset& preset) override;
-    QStringList applyToPage(const Preset& preset, const QString& stepName) override;
+    QStringList applyToPage(const Preset& preset, const QStringList& stepName) override;
 
 private:
     PlotPresetsDialog(const QTreeWidget& tree, const ApplyPlots& applyPlots,

@@ -53,7 +53,7 @@ protected:
     virtual bool confirms(const Preset& preset) = 0;
     /// Applies a preset as an undo step with this name. Returns the reasons if this is not
     /// possible.
-    virtual QStringList applyToPage(const Preset& preset, const QString& stepName) = 0;
+    virtual QStringList applyToPage(const Preset& preset, const QStringList& stepName) = 0;
 
 private:
     QWidget* newList();

@@ -39,7 +39,11 @@ void PresetsDialog::apply()
     const Preset* preset = current();
     if (!preset || !m_apply->isEnabled() || !confirms(*preset))
         return;
-    const QStringList faults = applyToPage(*preset, tr("Preset \"%1\"").arg(preset->name));
+    const QStringList stepName{
+        QLatin1String("workbench::PresetsDialog"),
+        QLatin1String(QT_TRANSLATE_NOOP("workbench::PresetsDialog", "Preset \"%1\"")),
+        preset->name};
+    const QStringList faults = applyToPage(*preset, stepName);
     if (faults.isEmpty())
         accept();
     else

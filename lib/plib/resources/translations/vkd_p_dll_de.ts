@@ -798,7 +798,7 @@ nützlich zur Fehlersuche oder zum Vergleich von Varianten</translation>
     </message>
 </context>
 <context>
-    <name>plib::PageHistory</name>
+    <name>plib::PageStepName</name>
     <message>
         <source>Font Size</source>
         <translation>Schriftgröße</translation>

@@ -31,6 +31,23 @@ struct GraphicalOutputRecord
     QString scriptEnglish;
 };
 
+/// A caption: its identifier, and its text in the language in which the catalogue was loaded.
+struct RecordCaption
+{
+    QString id;
+    QString title;
+};
+
+/// Returns the caption of a level: 0 and 1 for captions, otherwise the plot.
+inline RecordCaption captionAt(const GraphicalOutputRecord& record, int level)
+{
+    switch (level) {
+    case 0: return {record.id1, record.title1};
+    case 1: return {record.id2, record.title2};
+    default: return {record.id3, record.title3};
+    }
+}
+
 /// Values of GraphicalOutputRecord::ctrl on which rules depend.
 constexpr int CtrlStandsAlone = -1;
 constexpr int CtrlDesign = 8;

@@ -114,4 +114,11 @@ QString captionOr(QStringView field, QStringView fallback)
     return text.isEmpty() ? fallback.toString() : text.trimmed();
 }
 
+/// The identifier is the key text, padded with three spaces if the key text has no qualifiers.
+QString captionOfId(const QString& id, const QString& title)
+{
+    const QLatin1String alignment("   ");
+    return captionOr(id.startsWith(alignment) ? id.mid(alignment.size()) : id, title);
+}
+
 } // namespace plib

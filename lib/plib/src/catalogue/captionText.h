@@ -23,4 +23,8 @@ QString captionText(QStringView field);
 /// if there is none.
 QString captionOr(QStringView field, QStringView fallback);
 
+/// Returns the caption with this identifier in the desktop language, or `title` if the identifier
+/// is not a key text.
+QString captionOfId(const QString& id, const QString& title);
+
 } // namespace plib

@@ -99,15 +99,23 @@ QByteArray HostRows::rows() const
 
 bool HostRows::setRows(const QByteArray& bytes)
 {
-    std::optional<DesignRowList> rows = wholeRowsOf(bytes);
+    const DesignParameterData& data = m_page->state();
+    const std::optional<DesignRowList> rows = wholeRowsOf(bytes, data.barData);
     if (!rows)
         return false;
-    DesignParameterData& data = m_page->state();
-    for (DesignParameterRow& row : *rows)
-        row.barData = data.barData;
     m_page->replaceRows(0, int(data.rows.size()), *rows, TableSelection());
     historyOf(m_page)->restart();
     return true;
+}
+
+QByteArray HostRows::steps() const
+{
+    return historyOf(m_page)->steps();
+}
+
+bool HostRows::setSteps(const QByteArray& steps)
+{
+    return historyOf(m_page)->setSteps(steps);
 }
 
 bool HostRows::isPickingPossible() const

@@ -28,6 +28,8 @@ public:
     Q_INVOKABLE void write(VKD_H_ZOBDoc* document, VKD_H_ProjectDialogPage* page);
     Q_INVOKABLE QByteArray rows() const;
     Q_INVOKABLE bool setRows(const QByteArray& bytes);
+    Q_INVOKABLE QByteArray steps() const;
+    Q_INVOKABLE bool setSteps(const QByteArray& steps);
 
     /// Returns whether a host lets the user pick groups.
     bool isPickingPossible() const;

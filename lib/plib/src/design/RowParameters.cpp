@@ -36,7 +36,8 @@ QString RowParameters::description(const QVariantMap& parameters) const
     return descriptionHtml(describeParameters(parameters), QString());
 }
 
-QStringList RowParameters::setInSelectedRows(const QVariantMap& parameters, const QString& stepName)
+QStringList RowParameters::setInSelectedRows(const QVariantMap& parameters,
+                                             const QStringList& stepName)
 {
     RowPatch patch;
     const QStringList faults = readParameters(parameters, &patch);

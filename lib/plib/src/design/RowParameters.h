@@ -21,7 +21,13 @@ public:
     Q_INVOKABLE QStringList faults(const QVariantMap& parameters) const;
     Q_INVOKABLE QString description(const QVariantMap& parameters) const;
     Q_INVOKABLE QStringList setInSelectedRows(const QVariantMap& parameters,
-                                              const QString& stepName);
+                                              const QStringList& stepName);
+    /// Has a name that is not translated.
+    Q_INVOKABLE QStringList setInSelectedRows(const QVariantMap& parameters,
+                                              const QString& stepName)
+    {
+        return setInSelectedRows(parameters, QStringList(stepName));
+    }
 
 private:
     DesignParameter* m_page;

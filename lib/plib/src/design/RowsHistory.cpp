@@ -1,9 +1,12 @@
 #include "design/RowsHistory.h"
 
 #include "design/DesignParameter.h"
+#include "exchange/wholeRows.h"
+#include "history/stepText.h"
 #include "table/DesignParameterTable.h"
 
 #include <QAction>
+#include <QDataStream>
 
 #include <utility>
 
@@ -17,7 +20,7 @@ constexpr std::size_t MostRows = 100000; // in all steps; roughly 30 MB
 class RowsHistory::Step : public HistoryStep
 {
 public:
-    Step(RowsHistory* history, QString name, RowsChange change, const TableSelection& before,
+    Step(RowsHistory* history, QStringList name, RowsChange change, const TableSelection& before,
          const TableSelection& after)
         : rows(std::move(change))
         , selectedBefore(before)
@@ -27,7 +30,14 @@ public:
     {
     }
 
-    QString name() const override { return m_name; }
+    /// Writes the step for readStep().
+    void write(QDataStream& stream) const
+    {
+        stream << m_name << qint32(rows.first) << bytesOfWholeRows(rows.before)
+               << bytesOfWholeRows(rows.after) << selectedBefore << selectedAfter;
+    }
+
+    QString name() const override { return stepText(m_name); }
     void undo() override { m_history->replace(*this, true); }
     void redo() override { m_history->replace(*this, false); }
     std::size_t size() const override { return rows.before.size() + rows.after.size(); }
@@ -38,7 +48,7 @@ public:
 
 private:
     RowsHistory* m_history;
-    QString m_name;
+    QStringList m_name;
 };
 
 RowsHistory::RowsHistory(DesignParameter* page)
@@ -61,8 +71,55 @@ void RowsHistory::restart()
     Q_EMIT rowsChanged();
 }
 
+QByteArray RowsHistory::steps() const
+{
+    const auto steps = m_stack.steps();
+    if (steps.empty())
+        return QByteArray();
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << bytesOfWholeRows(m_known) << qint32(m_stack.doneSteps())
+           << qint32(m_stack.cleanStep());
+    for (const auto& step : steps)
+        static_cast<const Step&>(*step).write(stream);
+    return bytes;
+}
+
+bool RowsHistory::setSteps(const QByteArray& bytes)
+{
+    QDataStream stream(bytes);
+    QByteArray known;
+    qint32 done = 0, clean = 0;
+    stream >> known >> done >> clean;
+    std::vector<std::shared_ptr<HistoryStep>> all;
+    while (stream.status() == QDataStream::Ok && !stream.atEnd())
+        all.push_back(readStep(stream));
+    if (stream.status() != QDataStream::Ok || known != bytesOfWholeRows(m_known))
+        return false;
+    m_stack.setSteps(all, done, clean);
+    return true;
+}
+
+/// Sets the status of the stream if the bytes are malformed.
+std::shared_ptr<HistoryStep> RowsHistory::readStep(QDataStream& stream)
+{
+    QStringList name;
+    qint32 first = 0;
+    QByteArray before, after;
+    TableSelection selectedBefore, selectedAfter;
+    stream >> name >> first >> before >> after >> selectedBefore >> selectedAfter;
+    const auto rowsBefore = wholeRowsOf(before, m_page->state().barData);
+    const auto rowsAfter = wholeRowsOf(after, m_page->state().barData);
+    if (!rowsBefore || !rowsAfter) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return nullptr;
+    }
+    return std::make_shared<Step>(this, name, RowsChange{first, *rowsBefore, *rowsAfter},
+                                  selectedBefore, selectedAfter);
+}
+
 /// Compares the rows of the step and their neighbours, with which they may have been swapped.
-void RowsHistory::record(const QString& name, const std::set<int>& rows,
+void RowsHistory::record(const QStringList& name, const std::set<int>& rows,
                          const TableSelection& selectedBefore)
 {
     const DesignRowList& now = m_page->state().rows;
@@ -95,7 +152,7 @@ RecordedStep::RecordedStep(DesignParameter* page, RowsStep step, const std::set<
 {
 }
 
-RecordedStep::RecordedStep(DesignParameter* page, const QString& name, std::set<int> rows)
+RecordedStep::RecordedStep(DesignParameter* page, const QStringList& name, std::set<int> rows)
     : m_history(page->findChild<RowsHistory*>(QString(), Qt::FindDirectChildrenOnly))
     , m_name(name)
     , m_rows(std::move(rows))

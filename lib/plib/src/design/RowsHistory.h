@@ -15,7 +15,8 @@ namespace plib {
 /// object is a child of the page. Recording takes time only for the changed rows.
 ///
 /// Reading and writing the project start a new history, because writing converts the rows to the
-/// stored form.
+/// stored form. A page that replaces another page can continue with its steps if it has the same
+/// rows.
 class RowsHistory : public QObject
 {
     Q_OBJECT
@@ -28,7 +29,12 @@ public:
     /// Returns whether the rows differ from those that were read or written last.
     bool isModified() const { return m_stack.isModified(); }
     void setModified(bool isModified) { m_stack.setModified(isModified); }
-    void record(const QString& name, const std::set<int>& rows,
+    /// Returns the steps for another page with the same rows, or an empty array if there are none.
+    QByteArray steps() const;
+    /// Replaces the steps with those of another page. If its rows differ, or the bytes are
+    /// malformed, does nothing and returns false.
+    bool setSteps(const QByteArray& bytes);
+    void record(const QStringList& name, const std::set<int>& rows,
                 const TableSelection& selectedBefore);
 
 Q_SIGNALS:
@@ -38,6 +44,7 @@ Q_SIGNALS:
 
 private:
     class Step;
+    std::shared_ptr<HistoryStep> readStep(QDataStream& stream);
     void replace(const Step& step, bool isUndo);
 
     DesignParameter* m_page;
@@ -52,15 +59,15 @@ class RecordedStep
 {
 public:
     RecordedStep(DesignParameter* page, RowsStep step, const std::set<int>& rows);
-    /// Records a step with a name of its own.
-    RecordedStep(DesignParameter* page, const QString& name, std::set<int> rows);
+    /// Records a step with a name of its own; see stepText().
+    RecordedStep(DesignParameter* page, const QStringList& name, std::set<int> rows);
     ~RecordedStep();
     RecordedStep(const RecordedStep&) = delete;
     RecordedStep& operator=(const RecordedStep&) = delete;
 
 private:
     QPointer<RowsHistory> m_history;
-    QString m_name;
+    QStringList m_name;
     std::set<int> m_rows;
     TableSelection m_selection;
 };

@@ -9,7 +9,7 @@ namespace plib {
 
 /// Replaces the rows from the first to the last selected one.
 QStringList patchSelectedRows(DesignParameter* page, const std::vector<RowPatch>& patches,
-                              const QString& stepName)
+                              const QStringList& stepName)
 {
     const std::set<int> selected = page->state().table->getSelectetRows();
     const DesignRowList& rows = page->state().rows;

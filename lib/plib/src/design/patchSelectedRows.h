@@ -11,8 +11,8 @@ class DesignParameter;
 namespace plib {
 
 /// Applies parameters to the selected rows of the page, as patchRows() does, in a single undo step
-/// with this name. Returns the errors. If there are any, nothing is changed.
+/// with this name (see stepText()). Returns the errors. If there are any, nothing is changed.
 QStringList patchSelectedRows(DesignParameter* page, const std::vector<RowPatch>& patches,
-                              const QString& stepName);
+                              const QStringList& stepName);
 
 } // namespace plib

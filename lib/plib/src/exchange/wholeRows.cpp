@@ -19,7 +19,8 @@ QByteArray bytesOfWholeRows(const DesignRowList& rows)
     return bytes;
 }
 
-std::optional<DesignRowList> wholeRowsOf(const QByteArray& bytes)
+std::optional<DesignRowList> wholeRowsOf(const QByteArray& bytes,
+                                         const VKD_A_BarDiameterData* barData)
 {
     DesignRowList rows;
     QDataStream stream(bytes);
@@ -31,7 +32,7 @@ std::optional<DesignRowList> wholeRowsOf(const QByteArray& bytes)
         stream >> groups;
         if (stream.status() != QDataStream::Ok)
             return std::nullopt;
-        rows.push_back({nullptr, fromBytes(record), {groups.begin(), groups.end()}});
+        rows.push_back({barData, fromBytes(record), {groups.begin(), groups.end()}});
     }
     return rows;
 }

@@ -1,6 +1,7 @@
 #include "history/StepStack.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QUndoCommand>
 #include <QWidget>
 
@@ -17,9 +18,8 @@ constexpr int MostSteps = 500;
 class StepStack::Command : public QUndoCommand
 {
 public:
-    explicit Command(std::shared_ptr<HistoryStep> step, int callsWithoutEffect = 1)
-        : QUndoCommand(step->name())
-        , m_step(std::move(step))
+    explicit Command(std::shared_ptr<HistoryStep> step, int callsWithoutEffect)
+        : m_step(std::move(step))
         , m_callsWithoutEffect(callsWithoutEffect)
     {
     }
@@ -59,6 +59,7 @@ StepStack::StepStack(QWidget* page, std::size_t mostSize, QObject* history)
     });
     connect(&m_stack, &QUndoStack::cleanChanged, this,
             [this](bool isClean) { Q_EMIT modifiedChanged(!isClean); });
+    page->installEventFilter(this);
     showSteps();
 }
 
@@ -85,7 +86,7 @@ QAction* StepStack::newAction(QWidget* page, const char* name, const QList<QKeyS
 
 void StepStack::push(const std::shared_ptr<HistoryStep>& step)
 {
-    m_stack.push(new Command(step));
+    m_stack.push(new Command(step, 1));
     dropOldSteps();
 }
 
@@ -105,13 +106,27 @@ std::vector<std::shared_ptr<HistoryStep>> StepStack::steps() const
     return steps;
 }
 
-void StepStack::setSteps(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done)
+void StepStack::setSteps(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done,
+                         int clean)
+{
+    const bool wasModified = isModified();
+    fill(steps, done, clean);
+    if (isModified() != wasModified)
+        Q_EMIT modifiedChanged(!wasModified);
+}
+
+/// Does not emit signals. The stack can mark only its current index as clean.
+void StepStack::fill(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done, int clean)
 {
     {
         const QSignalBlocker silent(&m_stack);
         m_stack.clear();
-        for (const auto& step : steps)
+        setModified(clean != 0);
+        for (const auto& step : steps) {
             m_stack.push(new Command(step, m_stack.count() < done ? 1 : 2));
+            if (m_stack.count() == clean)
+                m_stack.setClean();
+        }
         while (m_stack.index() > qMax(done, 0))
             m_stack.undo();
     }
@@ -130,10 +145,23 @@ void StepStack::showSteps()
     const auto shown = [](QString name) {
         return name.replace(QLatin1Char('&'), QLatin1String("&&"));
     };
-    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(shown(m_stack.undoText()))
+    const int done = m_stack.index();
+    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(shown(stepAt(done - 1).name()))
                                       : tr("&Undo"));
-    m_redo->setText(m_stack.canRedo() ? tr("&Redo %1").arg(shown(m_stack.redoText()))
+    m_redo->setText(m_stack.canRedo() ? tr("&Redo %1").arg(shown(stepAt(done).name()))
                                       : tr("&Redo"));
+}
+
+const HistoryStep& StepStack::stepAt(int index) const
+{
+    return *static_cast<const Command*>(m_stack.command(index))->step();
+}
+
+bool StepStack::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        showSteps();
+    return QObject::eventFilter(watched, event);
 }
 
 /// Limits the memory. The stack can only be cleared as a whole, so the newest steps are pushed
@@ -147,20 +175,9 @@ void StepStack::dropOldSteps()
         --kept;
     if (kept == 0)
         return;
-    newest.erase(newest.begin(), newest.begin() + qMin(kept, m_stack.count() - 1));
-    const int clean = m_stack.cleanIndex() - (m_stack.count() - int(newest.size()));
-    {
-        const QSignalBlocker silent(&m_stack); // the page's modified state does not change
-        m_stack.clear();
-        if (clean != 0)
-            m_stack.resetClean();
-        for (const auto& step : newest) {
-            m_stack.push(new Command(step));
-            if (m_stack.count() == clean)
-                m_stack.setClean();
-        }
-    }
-    showSteps();
+    const int dropped = qMin(kept, m_stack.count() - 1);
+    newest.erase(newest.begin(), newest.begin() + dropped);
+    fill(newest, int(newest.size()), m_stack.cleanIndex() - dropped);
 }
 
 } // namespace plib

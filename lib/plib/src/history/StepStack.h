@@ -18,6 +18,7 @@ class HistoryStep
 public:
     virtual ~HistoryStep() = default;
 
+    /// Returns the name in the current language.
     virtual QString name() const = 0;
     virtual void undo() = 0;
     virtual void redo() = 0;
@@ -27,7 +28,7 @@ public:
 
 /// The undo and redo steps of a page, and the actions "undo" and "redo" with their shortcuts. The
 /// number of steps and their total size are limited. The history of each page records the steps and
-/// adds them to a stack.
+/// adds them to a stack. The actions are translated again after a language change.
 class StepStack : public QObject
 {
     Q_OBJECT
@@ -47,13 +48,17 @@ public:
     std::vector<std::shared_ptr<HistoryStep>> steps() const;
     /// Returns the number of steps that can be undone.
     int doneSteps() const { return m_stack.index(); }
+    /// Returns the number of steps after which the page was unmodified, or -1 if there is none.
+    int cleanStep() const { return m_stack.cleanIndex(); }
     /// Replaces the steps without carrying them out. The first `done` steps can be undone, and the
-    /// others can be redone.
-    void setSteps(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done);
+    /// others can be redone. `clean` is the result of cleanStep().
+    void setSteps(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done, int clean);
     bool isModified() const { return !m_stack.isClean(); }
     void setModified(bool isModified);
 
     QList<QAction*> actions() const { return {m_undo, m_redo}; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     /// Emitted before the user undoes or redoes a step.
@@ -66,6 +71,8 @@ private:
     class Command;
     QAction* newAction(QWidget* page, const char* name, const QList<QKeySequence>& keys,
                        void (QUndoStack::*step)());
+    const HistoryStep& stepAt(int index) const;
+    void fill(const std::vector<std::shared_ptr<HistoryStep>>& steps, int done, int clean);
     void showSteps();
     void dropOldSteps();
 

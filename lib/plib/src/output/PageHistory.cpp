@@ -1,11 +1,11 @@
 #include "output/PageHistory.h"
 
+#include "history/stepText.h"
 #include "history/TextChange.h"
 #include "output/SavedPage.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "tree/GraphicalOutputTreeWidget.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
-#include "VKD_P_WidgetGraphicalOutput_Role.h"
 #include "VKD_P_WidgetGraphicalOutput_Steps.h"
 
 #include <VKD_H_BoxedLineEdit.h>
@@ -29,19 +29,22 @@ std::size_t sizeOf(const TextChange& change)
     return std::size_t(change.before.size()) + std::size_t(change.after.size());
 }
 
-/// Returns the caption of an item. The caption of a row is preceded by the caption of its plot.
-QString captionOf(const QTreeWidgetItem& item)
+QStringList isoAreas()
 {
-    const bool isRow =
-        item.data(0, vkd::plib::widgetgraphicaloutput::LoadCaseRole).isValid() && item.parent();
-    return isRow ? item.parent()->text(0) + QLatin1String(", ") + item.text(0) : item.text(0);
+    return stepName("VKD_P_WidgetGraphicalOutput",
+                    QT_TRANSLATE_NOOP("VKD_P_WidgetGraphicalOutput", "Iso Areas"));
+}
+
+QStringList fontSize()
+{
+    return stepName("plib::PageStepName", QT_TRANSLATE_NOOP("plib::PageStepName", "Font Size"));
 }
 } // namespace
 
 class PageHistory::Step : public HistoryStep
 {
 public:
-    Step(PageHistory* history, QString name, const PageState& before, const PageState& after)
+    Step(PageHistory* history, PageStepName name, const PageState& before, const PageState& after)
         : m_history(history)
         , m_name(std::move(name))
         , m_settings(textChange(before.settings, after.settings))
@@ -65,7 +68,7 @@ public:
         m_host = textChange(undone(known, m_host), state);
     }
 
-    QString name() const override { return m_name; }
+    QString name() const override { return m_name.text(m_history->m_data); }
     std::size_t size() const override
     {
         return sizeOf(m_settings) + sizeOf(m_plots) + sizeOf(m_host);
@@ -85,7 +88,7 @@ public:
 
 private:
     PageHistory* m_history;
-    QString m_name;
+    PageStepName m_name;
     TextChange m_settings;
     TextChange m_plots;
     TextChange m_host;
@@ -111,31 +114,33 @@ void PageHistory::watchSettings()
          {m_data.scaleGroup, m_data.formatGroup, m_data.picturesGroup, m_data.viewGroup})
         if (group)
             watchGroup(group);
-    watchList(m_data.scaleCombo, m_data.scaleGroup->box()->title());
-    if (m_data.pageSplitCombo)
-        watchList(m_data.pageSplitCombo, m_data.pageSplitBox->title());
+    for (const VKD_QT4_ComboBox* list : {m_data.scaleCombo, m_data.pageSplitCombo})
+        if (list)
+            watchList(list);
     if (m_data.fillCheck)
         connect(m_data.fillCheck, &QCheckBox::clicked, this,
-                [this] { record(m_data.fillCheck->text()); });
-    connect(m_data.fontEdit->edit(), &QLineEdit::editingFinished, this,
-            [this] { record(tr("Font Size")); });
+                [this] { record(PageStepName(isoAreas())); });
+    connect(m_data.fontEdit->edit(), &QLineEdit::editingFinished, this, &PageHistory::recordFont);
     connect(&m_stack, &StepStack::aboutToStep, this, // the user may still be typing
-            [this] { record(tr("Font Size")); });
+            &PageHistory::recordFont);
 }
 
 void PageHistory::watchGroup(const VKD_QT_RadioButtonGroup* group)
 {
     connect(group, &VKD_QT_RadioButtonGroup::buttWasClicked, this, [this, group](int entry) {
-        record(tr("%1 \"%2\"").arg(group->title(), group->getRadioButton(entry)->text()));
+        record(PageStepName::ofEntry(group->objectName(), entry));
     });
 }
 
-void PageHistory::watchList(const VKD_QT4_ComboBox* list, const QString& title)
+void PageHistory::watchList(const VKD_QT4_ComboBox* list)
 {
-    connect(list, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, list, title] {
-        const QString text = list->currentText();
-        record(text.isEmpty() ? title : tr("%1 \"%2\"").arg(title, text));
-    });
+    connect(list, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this, list](int entry) { record(PageStepName::ofEntry(list->objectName(), entry)); });
+}
+
+void PageHistory::recordFont()
+{
+    record(PageStepName(fontSize()));
 }
 
 /// The tree emits itemChanged() only for changes by the user, but checkStatesChanged() after any
@@ -143,15 +148,12 @@ void PageHistory::watchList(const VKD_QT4_ComboBox* list, const QString& title)
 void PageHistory::watchPlots()
 {
     GraphicalOutputTreeWidget* tree = m_data.tree;
-    connect(tree, &QTreeWidget::itemChanged, this, [this](const QTreeWidgetItem* item) {
-        const QString text =
-            item->checkState(0) == Qt::Unchecked ? tr("Uncheck \"%1\"") : tr("Check \"%1\"");
-        m_clicked = text.arg(captionOf(*item));
-    });
+    connect(tree, &QTreeWidget::itemChanged, this,
+            [this](QTreeWidgetItem* item) { m_clicked = PageStepName::ofItem(item); });
     connect(tree->model(), &QAbstractItemModel::modelAboutToBeReset, this,
-            [this] { m_clicked.clear(); });
+            [this] { m_clicked = PageStepName(); });
     connect(tree, &GraphicalOutputTreeWidget::checkStatesChanged, this, [this] {
-        const QString clicked = std::exchange(m_clicked, QString());
+        const PageStepName clicked = std::exchange(m_clicked, PageStepName());
         if (!clicked.isNull())
             record(clicked);
         else if (m_depth == 0)
@@ -169,17 +171,17 @@ void PageHistory::begin()
     ++m_depth;
 }
 
-void PageHistory::end(const QString& name, const QString& state)
+void PageHistory::end(const QStringList& name, const QString& state)
 {
     --m_depth;
-    record(name, state);
+    record(PageStepName(name), state);
 }
 
-void PageHistory::end(const QString& name)
+void PageHistory::end(const QStringList& name)
 {
     --m_depth;
-    if (!name.isNull())
-        record(name);
+    if (!name.isEmpty())
+        record(PageStepName(name));
     else if (m_depth == 0)
         restart(m_known.host);
 }
@@ -193,11 +195,11 @@ void PageHistory::restart(const QString& state)
     Q_EMIT stepped();
 }
 
-void PageHistory::amend(const QString& name, const QString& state)
+void PageHistory::amend(const QStringList& name, const QString& state)
 {
     const auto newest = m_newest.lock();
     if (!newest)
-        return record(name, state);
+        return record(PageStepName(name), state);
     newest->amend(m_known.host, state);
     m_known.host = state;
 }
@@ -229,17 +231,17 @@ bool PageHistory::setSteps(const QByteArray& steps)
         now.plots != state.plots)
         return false;
     restore(state);
-    m_stack.setSteps(all, done);
+    m_stack.setSteps(all, done, done);
     Q_EMIT stepped();
     return true;
 }
 
-void PageHistory::record(const QString& name)
+void PageHistory::record(const PageStepName& name)
 {
     record(name, m_known.host);
 }
 
-void PageHistory::record(const QString& name, const QString& hostState)
+void PageHistory::record(const PageStepName& name, const QString& hostState)
 {
     if (m_depth > 0)
         return;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "history/StepStack.h"
+#include "output/PageStepName.h"
 
-class QTreeWidgetItem;
 class VKD_P_WidgetGraphicalOutput;
 class VKD_QT_RadioButtonGroup;
 class VKD_QT4_ComboBox;
@@ -31,15 +31,24 @@ public:
     PageHistory(VKD_P_WidgetGraphicalOutput* page, WidgetGraphicalOutputData* data);
 
     Q_INVOKABLE void begin();
-    Q_INVOKABLE void end(const QString& name, const QString& state);
+    Q_INVOKABLE void end(const QStringList& name, const QString& state);
     Q_INVOKABLE void restart(const QString& state);
-    Q_INVOKABLE void amend(const QString& name, const QString& state);
+    Q_INVOKABLE void amend(const QStringList& name, const QString& state);
+    // These overloads have a name that is not translated.
+    Q_INVOKABLE void end(const QString& name, const QString& state)
+    {
+        end(QStringList(name), state);
+    }
+    Q_INVOKABLE void amend(const QString& name, const QString& state)
+    {
+        amend(QStringList(name), state);
+    }
     Q_INVOKABLE QByteArray steps() const;
     Q_INVOKABLE bool setSteps(const QByteArray& steps);
 
     /// Ends a change that the page itself makes. A change without a name is not a step; it clears
     /// the history, unless it is part of another step.
-    void end(const QString& name);
+    void end(const QStringList& name);
 
 Q_SIGNALS:
     void hostStateRestored(const QString& state);
@@ -49,17 +58,18 @@ private:
     class Step;
     void watchSettings();
     void watchGroup(const VKD_QT_RadioButtonGroup* group);
-    void watchList(const VKD_QT4_ComboBox* list, const QString& title);
+    void watchList(const VKD_QT4_ComboBox* list);
     void watchPlots();
     PageState present() const;
-    void record(const QString& name);
-    void record(const QString& name, const QString& hostState);
+    void recordFont();
+    void record(const PageStepName& name);
+    void record(const PageStepName& name, const QString& hostState);
     void restore(const PageState& state);
 
     WidgetGraphicalOutputData& m_data;
-    PageState m_known; ///< state after the last step
-    int m_depth = 0;   ///< number of nested changes; nothing is recorded unless it is 0
-    QString m_clicked; ///< name of the step for the item that has just been checked or unchecked
+    PageState m_known;      ///< state after the last step
+    int m_depth = 0;        ///< number of nested changes; nothing is recorded unless it is 0
+    PageStepName m_clicked; ///< the step for the item that has just been checked or unchecked
     StepStack m_stack;
     std::weak_ptr<Step> m_newest; ///< the step of the last change; null if it had no effect
 };
@@ -68,7 +78,7 @@ private:
 class PageChange
 {
 public:
-    explicit PageChange(PageHistory* history, const QString& name = QString())
+    explicit PageChange(PageHistory* history, const QStringList& name = {})
         : m_history(history)
         , m_name(name)
     {
@@ -80,7 +90,7 @@ public:
 
 private:
     PageHistory* m_history;
-    QString m_name;
+    QStringList m_name;
 };
 
 } // namespace plib

@@ -1,6 +1,7 @@
 #include "VKD_P_WidgetGraphicalOutput.h"
 
 #include "dialogs/rejectDialogs.h"
+#include "history/stepText.h"
 #include "output/CountsLine.h"
 #include "output/PageHistory.h"
 #include "output/WidgetGraphicalOutputData.h"
@@ -160,7 +161,10 @@ void VKD_P_WidgetGraphicalOutput::slotQuerFormat()
 
 void VKD_P_WidgetGraphicalOutput::slotDefaultSettings()
 {
-    const plib::PageChange change(data->history.get(), tr("Default Settings"));
+    const plib::PageChange change(
+        data->history.get(),
+        plib::stepName("VKD_P_WidgetGraphicalOutput",
+                       QT_TRANSLATE_NOOP("VKD_P_WidgetGraphicalOutput", "Default Settings")));
     data->tree->rebuild(true);
     data->panel->reset();
 }

@@ -1,5 +1,6 @@
 #include "record/RowsChange.h"
 
+#include "history/stepText.h"
 #include "record/designRecord.h"
 
 #include <QCoreApplication>
@@ -9,10 +10,7 @@
 namespace plib {
 
 namespace {
-struct StepText
-{
-    Q_DECLARE_TR_FUNCTIONS(RowsChange)
-};
+constexpr char Context[] = "RowsChange"; // of the translations
 
 /// The names of a step for one row and for several rows. The table is in the order of RowsStep.
 struct StepNames
@@ -78,12 +76,12 @@ void replaceRows(DesignRowList& rows, int first, int count, const DesignRowList&
         rows.insert(place, by.begin() + overwritten, by.end());
 }
 
-QString nameOf(RowsStep step, const std::set<int>& rows)
+QStringList nameOf(RowsStep step, const std::set<int>& rows)
 {
     const StepNames& names = Names[int(step)];
     if (rows.size() == 1 || !names.several)
-        return StepText::tr(names.one).arg(rows.empty() ? 0 : *rows.begin() + 1);
-    return StepText::tr(names.several).arg(rows.size());
+        return stepName(Context, names.one, QString::number(rows.empty() ? 0 : *rows.begin() + 1));
+    return stepName(Context, names.several, QString::number(rows.size()));
 }
 
 } // namespace plib

@@ -2,7 +2,7 @@
 
 #include "record/DesignParameterData.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <set>
 
@@ -48,8 +48,8 @@ enum class RowsStep {
     Duplicate,
 };
 
-/// Returns the name of a step for display, such as "Reinforcement of row 3". Row numbers in the
+/// Returns the name of a step, such as "Reinforcement of row 3", for stepText(). Row numbers in the
 /// name start at 1.
-QString nameOf(RowsStep step, const std::set<int>& rows);
+QStringList nameOf(RowsStep step, const std::set<int>& rows);
 
 } // namespace plib

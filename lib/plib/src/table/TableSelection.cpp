@@ -1,5 +1,6 @@
 #include "table/TableSelection.h"
 
+#include <QDataStream>
 #include <QTableWidget>
 
 namespace plib {
@@ -32,6 +33,20 @@ void TableSelection::restore(QTableWidget* table) const
     table->selectionModel()->setCurrentIndex(model->index(m_row, m_column),
                                              QItemSelectionModel::NoUpdate);
     table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+QDataStream& operator<<(QDataStream& stream, const TableSelection& selection)
+{
+    return stream << qint32(selection.m_row) << qint32(selection.m_column) << selection.m_ranges;
+}
+
+QDataStream& operator>>(QDataStream& stream, TableSelection& selection)
+{
+    qint32 row = 0, column = 0;
+    stream >> row >> column >> selection.m_ranges;
+    selection.m_row = row;
+    selection.m_column = column;
+    return stream;
 }
 
 } // namespace plib

@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QVector>
 
+class QDataStream;
 class QTableWidget;
 
 namespace plib {
@@ -20,6 +21,9 @@ public:
     /// Selects these cells in the table. The table's signals notify the page, unless the caller
     /// blocks them.
     void restore(QTableWidget* table) const;
+
+    friend QDataStream& operator<<(QDataStream& stream, const TableSelection& selection);
+    friend QDataStream& operator>>(QDataStream& stream, TableSelection& selection);
 
 private:
     int m_row = -1;

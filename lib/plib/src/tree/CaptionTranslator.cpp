@@ -14,30 +14,12 @@ namespace plib {
 namespace {
 constexpr int CaptionLevels = 3;
 
-/// Translates a caption. The identifier of a caption is the key text, padded with three spaces if
-/// the key text has no qualifiers.
-QString translated(const QString& identifier, const QString& title)
-{
-    const QLatin1String alignment("   ");
-    return captionOr(
-        identifier.startsWith(alignment) ? identifier.mid(alignment.size()) : identifier, title);
-}
-
-QString captionOf(const GraphicalOutputTreeWidgetItem& item)
-{
-    const GraphicalOutputRecord& record = item.record;
-    switch (item.level) {
-    case 0: return translated(record.id1, record.title1);
-    case 1: return translated(record.id2, record.title2);
-    default: return translated(record.id3, record.title3);
-    }
-}
-
 void translateBelow(QTreeWidgetItem* parent, int level)
 {
     for (int i = 0; level < CaptionLevels && i < parent->childCount(); ++i)
         if (GraphicalOutputTreeWidgetItem* item = outputItem(parent->child(i))) {
-            item->setText(0, captionOf(*item));
+            const RecordCaption caption = captionAt(item->record, item->level);
+            item->setText(0, captionOfId(caption.id, caption.title));
             translateBelow(item, level + 1);
         }
 }
