@@ -4,6 +4,8 @@
 
 #include <AnimatorView.h>
 
+#include <QAction>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -271,6 +273,54 @@ private Q_SLOTS:
         QCOMPARE(window->statusBar()->currentMessage(),
                  QStringLiteral("The design parameters have been stored in the project file. "
                                 "1 row without groups has been saved with the page."));
+    }
+
+    void rowSteps_data()
+    {
+        const Columns<QByteArray, bool, bool> row("actions", "areOffered", "isChanged");
+        row("language", "German English", true, false);
+        row("reloaded", "Reload", true, false);
+        row("stored and reloaded", "Save Reload", true, true);
+        row("saved under another name", "SaveAs", true, true);
+        row("dock closed and opened", "Save close", true, true);
+        row("changed by another program", "Save change Reload", false, false);
+        row("other project", "Save OtherProject", false, false);
+    }
+
+    /// The undo steps of the rows are preserved when the page is replaced, unless the rows differ.
+    void rowSteps()
+    {
+        QFETCH(const QByteArray, actions);
+        QFETCH(const bool, areOffered);
+        const auto window = open("a.zob");
+        const auto cellsAfter = [&window](const char* step) {
+            trigger(*openDesign(*window), step);
+            return designCells(*window);
+        };
+        deleteDesignRow(*openDesign(*window));
+        const QStringList changed = designCells(*window);
+        const QStringList initial = cellsAfter("undo");
+        cellsAfter("redo");
+        for (const QByteArray& action : actions.split(' ')) {
+            if (action == "close") {
+                find<QDockWidget>(*window, "DesignDock")->close();
+            } else if (action == "change") {
+                commandLine({QStringLiteral("rows"), path("a.zob"), QStringLiteral("--set-row"),
+                             QStringLiteral("1"), QStringLiteral("hio=0.077")});
+            } else if (action == "OtherProject") {
+                QVERIFY(window->openProject(copy("b.zob")));
+            } else {
+                if (action == "SaveAs")
+                    answerFileDialog(path("b.zob"));
+                trigger(*window, action);
+            }
+        }
+        QCOMPARE(find<QAction>(*openDesign(*window), "undo")->isEnabled(), areOffered);
+        if (!areOffered)
+            return;
+        QCOMPARE(cellsAfter("undo"), initial);
+        QTEST(window->isWindowModified(), "isChanged");
+        QCOMPARE(cellsAfter("redo"), changed);
     }
 
     void groupsInSeveralRows_data()

@@ -23,7 +23,10 @@ DesignEditor::DesignEditor(OpenProject* project, ProjectAccess* access, WindowMe
 {
     m_dock->setMayClose([this] { return mayLeave(); });
     connect(m_dock, &DesignDock::applyRequested, this, &DesignEditor::store);
-    connect(m_dock, &DesignDock::closed, this, &DesignEditor::close);
+    connect(m_dock, &DesignDock::closed, this, [this] {
+        m_closed = state();
+        setPage(nullptr);
+    });
     connect(m_dock->toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
         if (isShown)
             edit();
@@ -38,7 +41,7 @@ DesignEditor::~DesignEditor()
 
 void DesignEditor::edit()
 {
-    if (!m_dock->page() && !load())
+    if (!m_dock->page() && !load(m_closed))
         return m_dock->hide();
     m_dock->show();
     m_dock->raise();
@@ -46,13 +49,16 @@ void DesignEditor::edit()
     m_dock->page()->table()->setFocus();
 }
 
-/// Replaces the page only if the project can be read.
-bool DesignEditor::load()
+/// Replaces the page only if the project can be read. The new page continues with the undo steps of
+/// the page before, if they fit.
+bool DesignEditor::load(const std::optional<DesignPage::State>& before)
 {
     auto page = std::make_unique<DesignPage>(m_project, m_dock);
     page->hide(); // until it is in the dock
     if (!m_access->run([&page] { return page->load(); }, tr("The file %1 cannot be read.")))
         return false;
+    if (before)
+        page->continueFrom(*before);
     setPage(std::move(page));
     return true;
 }
@@ -89,7 +95,7 @@ bool DesignEditor::store()
         m_access->store([this](SeenPart::Newer newer) { return m_dock->page()->store(newer); },
                         tr("The design parameters cannot be stored in the file %1."));
     if (stored == ProjectAccess::Stored::Reload)
-        load();
+        load(state());
     if (stored != ProjectAccess::Stored::Yes)
         return false;
     sayStored();
@@ -158,20 +164,23 @@ void DesignEditor::restore(const DesignPage::State& state)
 /// have seen the rows that are now in the project.
 void DesignEditor::showAgain(const std::optional<DesignPage::State>& before)
 {
-    if (before && before->isModified)
-        restore(*before);
-    else
+    if (!before)
         showProject();
+    else if (before->isModified)
+        restore(*before);
+    else if (!load(before))
+        m_dock->hide();
 }
 
 void DesignEditor::close()
 {
+    m_closed.reset(); // the next project may be another one
     setPage(nullptr);
 }
 
 void DesignEditor::showProject()
 {
-    if (m_dock->isVisible() && !m_dock->page() && !load())
+    if (m_dock->isVisible() && !m_dock->page() && !load(std::nullopt))
         m_dock->hide();
 }
 
@@ -180,11 +189,11 @@ bool DesignEditor::followOthers()
     if (!m_dock->page() || !m_project->isOutdated(ProjectPart::Design))
         return true;
     finishEditing();
-    if (isChanged())
+    if (isChanged()) {
+        m_dock->page()->setOutdated();
         return false;
-    const DesignPage::State before = m_dock->page()->state();
-    if (load())
-        m_dock->page()->table()->setCurrentCell(before.currentRow, before.currentColumn);
+    }
+    load(state());
     return true;
 }
 

@@ -42,7 +42,8 @@ public:
     /// Creates a new page with these rows, for the project that is open now.
     void restore(const DesignPage::State& state);
     /// Creates a new page after the document of the project has been replaced. Preserves changed
-    /// rows; store() then still detects newer rows in the project.
+    /// rows; store() then still detects newer rows in the project. The undo steps are preserved if
+    /// the rows are the same.
     void showAgain(const std::optional<DesignPage::State>& before);
     /// Destroys the page without asking. The dock stays open.
     void close();
@@ -61,7 +62,7 @@ Q_SIGNALS:
     void pageChanged();
 
 private:
-    bool load();
+    bool load(const std::optional<DesignPage::State>& before);
     void setPage(std::unique_ptr<DesignPage> page);
     void finishEditing();
     bool storeElsewhere();
@@ -72,6 +73,7 @@ private:
     WindowMessages* m_messages;
     DesignDock* m_dock;
     std::function<bool()> m_saveAs;
+    std::optional<DesignPage::State> m_closed; ///< the page when the user closed the dock
 };
 
 } // namespace workbench

@@ -130,8 +130,9 @@ cd_error_t DesignPage::store(SeenPart::Newer newer)
 DesignPage::State DesignPage::state()
 {
     finishEditing();
-    State state{{}, isModified(), table()->currentRow(), table()->currentColumn()};
+    State state{{}, {}, isModified(), table()->currentRow(), table()->currentColumn()};
     QMetaObject::invokeMethod(m_rows, "rows", Q_RETURN_ARG(QByteArray, state.rows));
+    QMetaObject::invokeMethod(m_rows, "steps", Q_RETURN_ARG(QByteArray, state.steps));
     return state;
 }
 
@@ -142,6 +143,22 @@ void DesignPage::restore(const State& state)
     createPage();
     QMetaObject::invokeMethod(m_rows, "setRows", Q_ARG(QByteArray, state.rows));
     m_rows->setProperty("modified", state.isModified);
+    setSteps(state);
+    if (state.isModified && m_project->isOutdated(ProjectPart::Design))
+        setOutdated();
+}
+
+/// Rows that have just been read are unmodified, even if they were entered on the other page.
+void DesignPage::continueFrom(const State& state)
+{
+    setSteps(state);
+    m_rows->setProperty("modified", false);
+}
+
+/// The steps also contain the state of the rows that is in the project.
+void DesignPage::setSteps(const State& state)
+{
+    QMetaObject::invokeMethod(m_rows, "setSteps", Q_ARG(QByteArray, state.steps));
     table()->setCurrentCell(state.currentRow, state.currentColumn);
 }
 
@@ -158,6 +175,11 @@ void DesignPage::finishEditing()
 bool DesignPage::isModified() const
 {
     return m_rows->property("modified").toBool();
+}
+
+void DesignPage::setOutdated()
+{
+    m_rows->setProperty("modified", true);
 }
 
 QVector<int> DesignPage::groups(int row) const

@@ -23,10 +23,11 @@ class DesignPage : public QWidget
     Q_OBJECT
 
 public:
-    /// The rows of a page, for another page of the same project or of its copy.
+    /// The rows and undo steps of a page, for another page of the same project or of its copy.
     struct State
     {
         QByteArray rows;
+        QByteArray steps;
         bool isModified;
         int currentRow;
         int currentColumn;
@@ -49,11 +50,17 @@ public:
     /// Creates the page with the rows of another page. The project may contain a newer state than
     /// that on which the rows are based; store() still detects this.
     void restore(const State& state);
+    /// Selects the current cell of another page, and continues with its undo steps if the rows are
+    /// the same. load() must have succeeded.
+    void continueFrom(const State& state);
 
     /// Returns the page's table, which shows one row for each set of parameters.
     QTableWidget* table() const;
     /// Returns whether the rows differ from those in the project.
     bool isModified() const;
+    /// Must be called if the project contains newer rows. The rows then stay modified even if the
+    /// user undoes all changes.
+    void setOutdated();
     /// Applies the selection in an open list of types. Must be called before the rows are stored or
     /// the user leaves the page.
     void finishEditing();
@@ -77,6 +84,7 @@ Q_SIGNALS:
 private:
     cd_error_t copyProject();
     void createPage();
+    void setSteps(const State& state);
 
     OpenProject* m_project;
     std::unique_ptr<VKD_H_ZOBDoc> m_desk;
