@@ -332,7 +332,13 @@ private Q_SLOTS:
         const QString accepted = field()->text();
         field()->setText(QStringLiteral("1.2.3"));
         for (const char* action : {"Reload", "German"}) {
+            trigger(*window, "RenameOutput");
+            typeName(*window, "  ");
+            QStringList messages;
+            readMessage(messages);
             trigger(*window, action);
+            QTRY_COMPARE(typedIn(*window), QStringLiteral("  "));
+            QTest::keyClick(nameEditor(*window), Qt::Key_Escape);
             QCOMPARE(field()->text(), QStringLiteral("1.2.3"));
         }
         QTRY_VERIFY(window->isWindowModified());

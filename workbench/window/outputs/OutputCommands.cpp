@@ -64,11 +64,25 @@ void OutputCommands::showList()
     const bool isRead = m_parts.editor->exists();
     for (int i = 0; isRead && i < outputs.size(); ++i)
         rows.append({outputs.name(i), m_parts.editor->isChanged(i)});
+    const bool wasFilled = m_parts.pane->isFilled();
     m_parts.pane->setOutputs(rows, isRead ? outputs.currentIndex() : -1);
     if (isRead)
         m_history.follow(outputs);
+    if (isRead && !wasFilled)
+        showRefusedName();
     showSteps();
     m_parts.pane->setAbsentPlots(isRead ? m_parts.editor->dialog()->absentPlots() : 0);
+}
+
+/// Reloading the project closes the editor for the name.
+void OutputCommands::showRefusedName()
+{
+    if (m_refusedName.isNull())
+        return;
+    if (m_parts.editor->outputs().current().id == m_refusedId)
+        m_editRefused.start(0);
+    else
+        m_refusedName = QString();
 }
 
 void OutputCommands::showSteps()
@@ -161,6 +175,8 @@ void OutputCommands::nameNew()
 /// the focus first, so this happens later, unless another command of the list follows.
 void OutputCommands::endNaming(bool byKey)
 {
+    if (!m_editRefused.isActive())
+        m_refusedName = QString();
     if (std::exchange(m_isNaming, false) && byKey)
         m_focusPlots.start(0);
     else
@@ -176,7 +192,8 @@ void OutputCommands::rename(const QString& name)
     m_isNaming = false;
     showList();
     m_parts.messages->complain(fault);
-    m_refusedName = name;
+    m_refusedName = name.isNull() ? QLatin1String("") : name;
+    m_refusedId = m_parts.editor->outputs().current().id;
     m_editRefused.start(0); // later, because the list is about to close its editor
 }
 

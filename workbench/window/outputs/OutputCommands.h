@@ -48,6 +48,7 @@ private:
     Change recorded(OutputsStep step, const QString& name, const Change& change);
     QString currentName() const;
     void showSteps();
+    void showRefusedName();
     void step(int currentAfter, const Change& change);
     void undo();
     void redo();
@@ -67,9 +68,10 @@ private:
     OutputParts m_parts;
     OutputsHistory m_history;
     bool m_isNaming = false; ///< whether the user has been asked to name a new output
-    QString m_refusedName;
-    QTimer m_editRefused; ///< opens the editor with the refused name again
-    QTimer m_focusPlots;  ///< gives the focus to the plots after the user has named a new output
+    QString m_refusedName;   ///< the name in the open editor if it was refused, otherwise null
+    int m_refusedId = 0;     ///< identifier of the output for which it was entered
+    QTimer m_editRefused;    ///< opens the editor with the refused name again
+    QTimer m_focusPlots;     ///< gives the focus to the plots after the user has named a new output
 };
 
 } // namespace workbench

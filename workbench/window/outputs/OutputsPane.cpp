@@ -32,6 +32,17 @@ public:
     }
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
+    /// Calls a function that may change the names. An open editor keeps its text.
+    template <typename Change>
+    void keepTypedText(const Change& change)
+    {
+        const QPointer<QLineEdit> editor = openEditor();
+        const QString text = editor ? editor->text() : QString();
+        change();
+        if (editor && editor->text() != text)
+            editor->setText(text);
+    }
+
     QString finishEditing()
     {
         const QPointer<QLineEdit> editor = openEditor();
@@ -194,16 +205,7 @@ void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
 {
     const bool wasFilled = isFilled();
     const QSignalBlocker blocker(m_list);
-    while (m_list->count() > outputs.size())
-        delete m_list->takeItem(m_list->count() - 1);
-    for (int i = 0; i < outputs.size(); ++i) {
-        QListWidgetItem* item = i < m_list->count() ? m_list->item(i) : addItem(m_list);
-        QFont font = m_list->font();
-        font.setItalic(outputs[i].isChanged);
-        item->setText(outputs[i].name);
-        item->setFont(font);
-        item->setToolTip(outputs[i].isChanged ? tr("Not yet saved in the project") : QString());
-    }
+    m_list->keepTypedText([&] { fill(outputs); });
     m_list->setCurrentRow(current);
     for (QAction* action : menu->actions())
         action->setEnabled(!outputs.isEmpty());
@@ -214,6 +216,20 @@ void OutputsPane::setOutputs(const QVector<Row>& outputs, int current)
     moveDown->setEnabled(current < last);
     if (isFilled() != wasFilled)
         Q_EMIT filled();
+}
+
+void OutputsPane::fill(const QVector<Row>& outputs)
+{
+    while (m_list->count() > outputs.size())
+        delete m_list->takeItem(m_list->count() - 1);
+    for (int i = 0; i < outputs.size(); ++i) {
+        QListWidgetItem* item = i < m_list->count() ? m_list->item(i) : addItem(m_list);
+        QFont font = m_list->font();
+        font.setItalic(outputs[i].isChanged);
+        item->setText(outputs[i].name);
+        item->setFont(font);
+        item->setToolTip(outputs[i].isChanged ? tr("Not yet saved in the project") : QString());
+    }
 }
 
 bool OutputsPane::isFilled() const

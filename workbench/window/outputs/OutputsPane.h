@@ -78,6 +78,7 @@ private:
     void addToList(QAction* action, const QKeySequence& shortcut);
     void layOut();
     void listen();
+    void fill(const QVector<Row>& outputs);
 
     ShortList* m_list;
     QToolButton* m_more;
