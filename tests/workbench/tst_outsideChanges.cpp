@@ -1,6 +1,7 @@
 #include "project/output/OutputState.h"
 #include "project/output/TextOutputState.h"
 #include "ProjectTest.h"
+#include "window/output/OutputDialog.h"
 #include "window/textoutput/ExtentFields.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -19,6 +20,7 @@
 using namespace windowtest;
 using workbench::ExtentFields;
 using workbench::MainWindow;
+using workbench::OutputDialog;
 using workbench::OutputState;
 using workbench::TextOutputState;
 
@@ -261,6 +263,49 @@ private Q_SLOTS:
         applyDesign(*window);
         QCOMPARE(questions, 2);
         QVERIFY(!window->isWindowModified());
+    }
+
+    void undoneAfterNewerData_data()
+    {
+        const Columns<QByteArray, bool, bool> row("part", "isReloaded", "isEqual");
+        row("rows", "Design", false, false);
+        row("rows, reloaded", "Design", true, false);
+        row("choice", "Output", false, false);
+        row("choice, reloaded", "Output", true, false);
+        row("equal choice", "Output", false, true);
+        row("equal choice, reloaded", "Output", true, true);
+    }
+
+    /// Another program stores a newer state. Undo then leads to a state that is not in the project,
+    /// or to the state that the other program has stored.
+    void undoneAfterNewerData()
+    {
+        QFETCH(const QByteArray, part);
+        QFETCH(const bool, isEqual);
+        const bool isDesign = part == "Design";
+        const auto window = open("undone.zob");
+        trigger(*window, part);
+        if (isEqual) {
+            changeChoice(*window);
+            const OutputState mine = window->findChild<OutputDialog*>()->state();
+            const auto document = VKD_H_ZOBDoc::open(path("undone.zob"));
+            QVERIFY(mine.put(document->handle()).isOk());
+        } else {
+            (isDesign ? designPart() : outputPart()).changeOutside(path("undone.zob"));
+        }
+        const QString name = QString::fromLatin1(part + (isDesign ? "Dock" : "Dialog"));
+        isDesign ? deleteDesignRow(*window)
+                 : find<QTreeWidget>(*window, "m_list")
+                       ->topLevelItem(1)
+                       ->setCheckState(0, Qt::Unchecked);
+        QTRY_VERIFY(bar(*window) != QLatin1String("-"));
+        QFETCH(const bool, isReloaded);
+        if (isReloaded)
+            trigger(*window, "Reload");
+        QTRY_COMPARE(window->findChildren<QDialog*>(name).size(), isDesign ? 0 : 1);
+        trigger(*find<QWidget>(*window, name.toLatin1()), "undo");
+        QCoreApplication::processEvents();
+        QTRY_COMPARE(window->isWindowModified(), !isEqual);
     }
 
     void saveAsWithOpenDialogs_data()

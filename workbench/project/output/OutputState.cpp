@@ -30,6 +30,16 @@ bool OutputState::operator==(const OutputState& other) const
     return page == other.page && content == other.content && leftOutNumbers == other.leftOutNumbers;
 }
 
+QString OutputState::text() const
+{
+    QList<int> leftOut = leftOutNumbers.values();
+    std::sort(leftOut.begin(), leftOut.end());
+    QString text = page;
+    for (int number : leftOut)
+        text += QString::number(number) + QLatin1Char(';');
+    return text + QString::number(content);
+}
+
 OutputState OutputState::read(ZobHandle project)
 {
     return fromEntries(VKD_H_ProjectDialogPage(project, OutputDialogPage));

@@ -25,6 +25,8 @@ struct OutputState
     QSet<int> leftOutNumbers; ///< load cases that are unchecked in the table
 
     bool operator==(const OutputState& other) const;
+    /// Returns the whole state as text. Equal states have equal texts.
+    QString text() const;
 
     /// Reads the state of the first output of a project.
     static OutputState read(ZobHandle project);

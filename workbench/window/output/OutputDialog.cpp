@@ -24,8 +24,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace workbench {
 
 namespace {
@@ -221,25 +219,14 @@ int OutputDialog::absentPlots() const
     return m_offers->absentPlots();
 }
 
-QString OutputDialog::fingerprint()
-{
-    const OutputState present = state();
-    QString text = present.page;
-    QList<int> leftOut = present.leftOutNumbers.values();
-    std::sort(leftOut.begin(), leftOut.end());
-    for (int number : leftOut)
-        text += QString::number(number) + QLatin1Char(';');
-    return text + QString::number(present.content);
-}
-
 bool OutputDialog::isChanged()
 {
-    return fingerprint() != m_unchanged;
+    return state().text() != m_unchanged;
 }
 
 void OutputDialog::setUnchanged()
 {
-    m_unchanged = fingerprint();
+    setUnchanged(state().text());
 }
 
 bool OutputDialog::hasUnsavedInput()
@@ -275,7 +262,7 @@ OutputPresent OutputDialog::present()
 void OutputDialog::setPresent(const OutputPresent& present)
 {
     m_offers->setSteps(present.steps);
-    m_unchanged = present.isChanged ? present.unchanged : fingerprint();
+    m_unchanged = present.isChanged ? present.unchanged : state().text();
     tabWidget()->setCurrentIndex(present.tab);
     present.refused.restore(m_page);
     present.plots.restore(m_plots); // after the tree has been resized

@@ -59,6 +59,8 @@ public:
     /// was called.
     bool isChanged();
     void setUnchanged();
+    /// Sets the saved state, as text, with which isChanged() compares the state of the dialog.
+    void setUnchanged(const QString& text) { m_unchanged = text; }
     /// Returns whether there are changes, or texts that a field refuses. Such a text is not part of
     /// the state, but the user must not lose it without being asked.
     bool hasUnsavedInput();
@@ -92,7 +94,6 @@ private:
     void addTabs();
     void restore(const OutputState& state);
     void listen();
-    QString fingerprint();
 
     VKD_H_ZOBDoc* m_document;
     VKD_H_PluginParameter m_parameter;

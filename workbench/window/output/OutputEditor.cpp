@@ -242,7 +242,9 @@ void OutputEditor::followOthers()
     if (!m_dialog || !m_project->isOutdated(ProjectPart::Output))
         return;
     m_finishName();
-    if (!isChanged())
+    if (isChanged())
+        compareWithProject();
+    else
         reload();
 }
 

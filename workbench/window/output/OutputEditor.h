@@ -64,8 +64,8 @@ public:
     void continueAfterReload(const EditedOutputs& before);
     /// Destroys the dialog without asking.
     void close();
-    /// Reads the project again if another program has stored a newer state and the dialog is
-    /// unchanged.
+    /// Must be called after another program has stored a newer state. Reads the outputs again if
+    /// they are unchanged.
     void followOthers();
 
     /// Returns the outputs without the changes in the dialog.
@@ -97,6 +97,7 @@ private:
     bool read(OutputList* outputs) const;
     VkdStatus put(OutputList* outputs) const;
     EditedOutputs followed(EditedOutputs outputs) const;
+    void compareWithProject();
     void create(const OutputState& state);
     void showPresent(const OutputPresent& present);
     void closeLater();

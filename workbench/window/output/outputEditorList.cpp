@@ -59,7 +59,8 @@ void OutputEditor::continueAfterReload(const EditedOutputs& before)
 }
 
 /// Adds the changes that other programs have stored to the outputs. If they cannot be read, returns
-/// the outputs unchanged; storing them will then show the error.
+/// the outputs unchanged; storing them will then show the error. If the current output was stored
+/// with another state, the dialog compares its state with that one.
 EditedOutputs OutputEditor::followed(EditedOutputs outputs) const
 {
     OutputList& list = outputs.outputs;
@@ -72,7 +73,17 @@ EditedOutputs OutputEditor::followed(EditedOutputs outputs) const
         list.follow(project, OutputList::Removed::Drop);
     outputs.dialog.state = list.current().state;
     outputs.dialog.unchanged = list.current().unchanged;
+    if (outputs.dialog.unchanged.isEmpty() && list.current().savedIndex >= 0)
+        outputs.dialog.unchanged = list.current().savedState.text();
     return outputs;
+}
+
+/// Does not change the outputs. An output whose changes are undone still differs from the newer
+/// state in the project.
+void OutputEditor::compareWithProject()
+{
+    const EditedOutputs newer = followed({m_dialog->present(), m_outputs, true});
+    m_dialog->setUnchanged(newer.dialog.unchanged);
 }
 
 bool OutputEditor::isChanged(int output) const
