@@ -162,6 +162,28 @@ private Q_SLOTS:
               "expected");
     }
 
+    /// Old steps are dropped, but never the newest ones.
+    void limitedMemory()
+    {
+        OutputList outputs;
+        OutputsHistory history;
+        const QString large(6000000, QLatin1Char('x'));
+        for (int round = 0; round < 3; ++round)
+            perform(QLatin1String("+ !") + large + QLatin1String(" -"), &outputs, &history);
+        int undone = 0;
+        for (; history.canUndo(); ++undone)
+            history.undo(&outputs);
+        QCOMPARE(undone, 4);
+        perform(QStringLiteral("+ +"), &outputs);
+        const QByteArray steps(30000000, 'x');
+        for (int current : {0, 1, 2}) {
+            outputs.setCurrent(current);
+            outputs.setSteps(steps);
+            QCOMPARE(outputs.at(0).steps.isEmpty(), current == 2);
+        }
+        QCOMPARE(outputs.at(2).steps.size(), steps.size());
+    }
+
     void names_data()
     {
         const Columns<QString, QString> row("name", "fault");
