@@ -272,6 +272,10 @@ private Q_SLOTS:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         const bool isAccepted = table->currentRow() == 2;
         QCOMPARE(find<QAction>(*desk.page, "undo")->isEnabled(), isAccepted);
+        bool isFinished = false;
+        QMetaObject::invokeMethod(find<QObject>(desk, "rows"), "finishEditing",
+                                  Q_RETURN_ARG(bool, isFinished));
+        QCOMPARE(isFinished, isAccepted);
         table->setFocus();
         QTEST(desk.notice(), "notice");
         table->setCurrentCell(0, 1);

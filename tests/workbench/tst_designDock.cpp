@@ -323,6 +323,21 @@ private Q_SLOTS:
         QCOMPARE(cellsAfter("redo"), changed);
     }
 
+    /// Groups that are not accepted stay in their line until the user corrects them.
+    void refusedGroups()
+    {
+        const auto window = open("a.zob");
+        const auto table = find<QTableWidget>(*openDesign(*window), "table");
+        table->setCurrentCell(1, 0);
+        QTest::keyClick(table, Qt::Key_F2);
+        find<QLineEdit>(*table, "groupsLine")->setText(QStringLiteral("99x"));
+        for (const char* action : {"Reload", "German", "Save", "SaveAs", "Quit"}) {
+            trigger(*window, action);
+            QVERIFY(window->isVisible());
+            QCOMPARE(find<QLineEdit>(*window, "groupsLine")->text(), QStringLiteral("99x"));
+        }
+    }
+
     void groupsInSeveralRows_data()
     {
         const Columns<QVector<QVector<int>>, QString> row("groups", "question");

@@ -8,6 +8,8 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
@@ -263,6 +265,26 @@ private Q_SLOTS:
         applyDesign(*window);
         QCOMPARE(questions, 2);
         QVERIFY(!window->isWindowModified());
+    }
+
+    /// A name that is being typed is not applied before the user has finished it.
+    void newDataWhileTyping()
+    {
+        const auto window = open("typed.zob");
+        trigger(*window, "RenameOutput");
+        const auto list = find<QListWidget>(*window, "OutputList");
+        const QPointer<QLineEdit> editor = list->findChild<QLineEdit*>();
+        editor->setText(QStringLiteral("Wa"));
+        outputPart().changeOutside(path("typed.zob"));
+        window->activateWindow();
+        QEvent activation(QEvent::ActivationChange);
+        QApplication::sendEvent(window.get(), &activation);
+        QApplication::processEvents();
+        QVERIFY(editor);
+        QTest::keyClicks(editor, QStringLiteral("lls"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(bar(*window) != QLatin1String("-"));
+        QCOMPARE(list->item(0)->text(), QStringLiteral("Walls"));
     }
 
     void undoneAfterNewerData_data()

@@ -25,8 +25,9 @@ namespace designparameter {
 /// - `bool setGroups(int row, QVector<int> groups)` assigns primary or secondary groups as one undo
 ///   step. Groups that are new in the row are removed from all other rows except row 0. Returns
 ///   whether rows have changed. The groups of row 0 never change.
-/// - `void finishEditing()` applies the selection in an open list of types. Call it before
-///   `modified` is read.
+/// - `bool finishEditing()` applies the selection in an open list of types, and groups that the
+///   user is typing. If these groups are not accepted, they stay in their line, which gets the
+///   focus and shows the reason, and the method returns false. Call it before `modified` is read.
 /// - `void write(VKD_H_ZOBDoc*, VKD_H_ProjectDialogPage*)` writes the rows like setEntrys(), but to
 ///   this document. The page can be used afterwards, and `modified` and the undo history do not
 ///   change.

@@ -84,7 +84,8 @@ bool DesignEditor::isChanged() const
 
 bool DesignEditor::store()
 {
-    finishEditing();
+    if (!finishEditing())
+        return false;
     if (!isChanged())
         return true;
     if (!m_dock->page()->maySharedGroupsStay())
@@ -131,15 +132,15 @@ bool DesignEditor::storeElsewhere()
            m_saveAs() && !isChanged();
 }
 
-void DesignEditor::finishEditing()
+bool DesignEditor::finishEditing()
 {
-    if (m_dock->page())
-        m_dock->page()->finishEditing();
+    return !m_dock->page() || m_dock->page()->finishEditing();
 }
 
 bool DesignEditor::mayLeave()
 {
-    finishEditing();
+    if (!finishEditing())
+        return false;
     return !isChanged() ||
            m_messages->mayLeave(
                tr("The design parameters have been changed, but not yet stored in the project.\n"

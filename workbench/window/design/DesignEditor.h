@@ -30,6 +30,9 @@ public:
 
     /// Opens the dock, if the project can be read, and gives it the focus.
     void edit();
+    /// Applies the input that the user is typing. If it is not accepted, shows the reason and
+    /// returns false.
+    bool finishEditing();
     /// Returns whether there are rows that are not stored.
     bool isChanged() const;
     /// Stores the rows in the project. Returns whether they are stored.
@@ -64,7 +67,6 @@ Q_SIGNALS:
 private:
     bool load(const std::optional<DesignPage::State>& before);
     void setPage(std::unique_ptr<DesignPage> page);
-    void finishEditing();
     bool storeElsewhere();
     void sayStored();
 

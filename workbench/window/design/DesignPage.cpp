@@ -167,9 +167,11 @@ QTableWidget* DesignPage::table() const
     return m_page->findChild<QTableWidget*>(QStringLiteral("table"));
 }
 
-void DesignPage::finishEditing()
+bool DesignPage::finishEditing()
 {
-    QMetaObject::invokeMethod(m_rows, "finishEditing");
+    bool isAccepted = false;
+    QMetaObject::invokeMethod(m_rows, "finishEditing", Q_RETURN_ARG(bool, isAccepted));
+    return isAccepted;
 }
 
 bool DesignPage::isModified() const

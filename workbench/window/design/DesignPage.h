@@ -61,9 +61,9 @@ public:
     /// Must be called if the project contains newer rows. The rows then stay modified even if the
     /// user undoes all changes.
     void setOutdated();
-    /// Applies the selection in an open list of types. Must be called before the rows are stored or
-    /// the user leaves the page.
-    void finishEditing();
+    /// Applies the input that the user is typing. If it is not accepted, shows the reason and
+    /// returns false. Must be called before the rows are stored or the user leaves the page.
+    bool finishEditing();
     /// Returns the groups of a row in ascending order; -1 represents the remaining groups.
     QVector<int> groups(int row) const;
     /// Assigns groups to a row as one undo step and removes them from other rows. Returns whether

@@ -160,8 +160,7 @@ VkdStatus FileCommands::showModel(ZobHandle project)
     return m_parts.view->setProject(project, [&work](int) { return work.goOn(0); });
 }
 
-/// Shows the project except for the model, all from the same snapshot. Returns whether everything
-/// was read.
+/// Shows all data except the model from one snapshot. Returns whether everything was read.
 bool FileCommands::showContents()
 {
     const ZobSnapshot snapshot(m_parts.project->handle()); // must end before a message is shown
@@ -215,10 +214,11 @@ void FileCommands::close()
     m_parts.messages->say(tr("%1 is closed.").arg(QFileInfo(previous->path()).fileName()));
 }
 
-/// Unsaved rows and unsaved selections in open dialogs are preserved. If another program has
-/// changed the same part, Apply and OK ask for confirmation.
+/// Unsaved changes are preserved. If another program has changed the same part, Apply and OK ask.
 void FileCommands::reload()
 {
+    if (!m_parts.design->finishEditing())
+        return;
     const auto rows = m_parts.design->state();
     const auto plots = m_parts.output->present();
     const bool isTextOpen = m_parts.textOutput->isOpen();
@@ -244,7 +244,7 @@ void FileCommands::save()
 
 bool FileCommands::saveAs()
 {
-    if (!m_parts.output->finishEditing())
+    if (!m_changes.finishEditing())
         return false;
     OpenProject* project = m_parts.project;
     QWidget* window = m_parts.messages->window();

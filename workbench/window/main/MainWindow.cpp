@@ -19,6 +19,7 @@
 #include "window/outputs/OutputCommands.h"
 #include "window/records/RecordsPane.h"
 #include "window/start/StartScreen.h"
+#include "window/support/isCellEditorOpen.h"
 #include "window/support/withinScreen.h"
 #include "window/textoutput/TextOutputEditor.h"
 
@@ -247,13 +248,13 @@ bool MainWindow::showRecords()
 }
 
 /// Does nothing while a modal dialog is open, because the dialog may be using data that would
-/// change. The window calls this function again when it becomes active. An open menu delays the
-/// function, because its widget may be destroyed.
+/// change. The window calls this function again when it becomes active. An open menu or editor
+/// delays the function, because it would be closed.
 void MainWindow::showNews()
 {
     if (!m_project.isOpen() || QApplication::activeModalWidget())
         return;
-    if (QApplication::activePopupWidget())
+    if (QApplication::activePopupWidget() || isCellEditorOpen(this))
         return QTimer::singleShot(PopupMs, this, &MainWindow::showNews);
     enableActions();
     const bool isChanged = m_project.isChangedByOthers();
@@ -283,11 +284,12 @@ void MainWindow::showModified()
         m_panes->news->setRowsCurrent();
 }
 
+/// The pages are created again, so the project must be readable.
 void MainWindow::setLanguage(vkd::Language language)
 {
     if (vkd::desktopLanguage() == language)
         return;
-    if (m_project.isOpen() && !m_access.canRead()) // its data would be reloaded
+    if (m_project.isOpen() && (!m_designEditor->finishEditing() || !m_access.canRead()))
         return m_actions->setTexts();
     switchLanguage(language,
                    {m_designEditor.get(), m_outputEditor.get(), m_textOutputEditor.get()});

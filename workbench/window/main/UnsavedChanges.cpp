@@ -19,6 +19,11 @@ bool UnsavedChanges::exist() const
     return m_design->isChanged() || m_output->isChanged() || m_textOutput->isChanged();
 }
 
+bool UnsavedChanges::finishEditing() const
+{
+    return m_design->finishEditing() && m_output->finishEditing();
+}
+
 bool UnsavedChanges::store() const
 {
     return m_design->store() && m_output->finishEditing() &&

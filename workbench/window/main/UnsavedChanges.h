@@ -15,6 +15,9 @@ public:
 
     /// Returns whether there are unsaved changes.
     bool exist() const;
+    /// Applies the input that the user is typing. If it is not accepted, shows the reason and
+    /// returns false.
+    bool finishEditing() const;
     /// Stores the changes in the project. Returns false if one of them could not be stored.
     bool store() const;
     /// Asks separately for each part whether its changes are to be stored. Returns false if the

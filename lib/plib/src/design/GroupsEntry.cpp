@@ -120,6 +120,15 @@ QString GroupsEntry::apply()
     return QString();
 }
 
+bool GroupsEntry::finish()
+{
+    if (m_line)
+        enter(0);
+    if (m_line)
+        m_line->setFocus();
+    return !m_line;
+}
+
 void GroupsEntry::enter(int direction)
 {
     const QString refusal = apply();

@@ -23,6 +23,9 @@ public:
 
     /// Also opens the line edit if a digit or F2 is pressed in this editor.
     void listenTo(const dlgSelection* editor);
+    /// Applies the typed groups, if any. If they are not accepted, the line edit stays open, gets
+    /// the focus and shows the reason, and the function returns false.
+    bool finish();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

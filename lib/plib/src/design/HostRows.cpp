@@ -1,6 +1,7 @@
 #include "design/HostRows.h"
 
 #include "design/DesignParameter.h"
+#include "design/GroupsEntry.h"
 #include "design/RowsHistory.h"
 #include "exchange/wholeRows.h"
 #include "record/designEntries.h"
@@ -75,9 +76,12 @@ bool HostRows::setGroups(int row, const QVector<int>& groups)
     return true;
 }
 
-void HostRows::finishEditing()
+bool HostRows::finishEditing()
 {
+    if (!m_page->findChild<GroupsEntry*>()->finish())
+        return false;
     m_page->finishEditing();
+    return true;
 }
 
 /// Writes a copy, because writing converts the rows to the stored form.

@@ -24,7 +24,7 @@ public:
     void setModified(bool isModified);
     Q_INVOKABLE QVector<int> groups(int row) const;
     Q_INVOKABLE bool setGroups(int row, const QVector<int>& groups);
-    Q_INVOKABLE void finishEditing();
+    Q_INVOKABLE bool finishEditing();
     Q_INVOKABLE void write(VKD_H_ZOBDoc* document, VKD_H_ProjectDialogPage* page);
     Q_INVOKABLE QByteArray rows() const;
     Q_INVOKABLE bool setRows(const QByteArray& bytes);

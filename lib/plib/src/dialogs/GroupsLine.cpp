@@ -43,12 +43,15 @@ void GroupsLine::keyPressEvent(QKeyEvent* event)
     }
 }
 
-/// A context menu or another window takes the focus only temporarily.
+/// A menu or another window takes the focus only temporarily.
 void GroupsLine::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        Q_EMIT left();
+    for (Qt::FocusReason temporary :
+         {Qt::PopupFocusReason, Qt::MenuBarFocusReason, Qt::ActiveWindowFocusReason})
+        if (event->reason() == temporary)
+            return;
+    Q_EMIT left();
 }
 
 } // namespace plib
