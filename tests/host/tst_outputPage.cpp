@@ -219,17 +219,23 @@ private Q_SLOTS:
         connect(&restored, &HostStates::restored, &desk.page, offer);
         const auto undo = desk.find<QAction>("undo");
         QStringList states{desk.page.writeXMLstring()};
-        for (const Step& step : stepsOn(desk, offer)) {
+        const std::vector<Step> list = stepsOn(desk, offer);
+        for (const Step& step : list) {
             step.run();
             QCOMPARE(undo->text(), QStringLiteral("&Undo ") + step.name);
             states << desk.page.writeXMLstring();
         }
         QApplication::setActiveWindow(&desk.page);
         desk.tree()->setFocus();
+        const auto font = desk.find<QLineEdit>("m_boxedEdit_edit");
+        const QString refused = QStringLiteral("1.2.3");
         for (int i = states.size() - 2; i >= 0; --i) {
+            if (list[std::size_t(i)].name == QLatin1String("Iso Areas"))
+                font->setText(refused); // stays in the field until the font size changes
             QTest::keyClick(desk.tree(), Qt::Key_Z, Qt::ControlModifier);
             QCOMPARE(desk.page.writeXMLstring(), states[i]);
         }
+        QCOMPARE(font->text(), refused);
         QVERIFY(!undo->isEnabled() && desk.plotWithRows());
         for (int i = 1; i < states.size(); ++i) {
             desk.find<QAction>("redo")->trigger();

@@ -256,7 +256,8 @@ void PageHistory::record(const PageStepName& name, const QString& hostState)
     m_stack.push(step);
 }
 
-/// Sets the view only if it differs, because a page may have no checked view.
+/// Sets the view only if it differs, because a page may have no checked view, and the font size,
+/// because its field may contain text that it refuses.
 void PageHistory::restore(const PageState& state)
 {
     const QScopedValueRollback<int> change(m_depth, m_depth + 1);
@@ -266,10 +267,12 @@ void PageHistory::restore(const PageState& state)
     const PageState before = std::exchange(m_known, state);
     if (state.settings != before.settings) {
         const OutputSettings settings = m_data.panel->settings();
-        const QString view = SavedPage(state.settings, settings).part(savedtag::View);
         QString wanted = state.settings;
-        if (view == SavedPage(before.settings, settings).part(savedtag::View))
-            wanted.remove(savedPart(savedtag::View, view));
+        for (const char* tag : {savedtag::View, savedtag::Font}) {
+            const QString part = SavedPage(state.settings, settings).part(tag);
+            if (part == SavedPage(before.settings, settings).part(tag))
+                wanted.remove(savedPart(tag, part));
+        }
         m_data.panel->apply(SavedPage(wanted, settings));
     }
     // The host's state can determine which rows the plots have.
