@@ -331,6 +331,8 @@ private Q_SLOTS:
         };
         const QString accepted = field()->text();
         field()->setText(QStringLiteral("1.2.3"));
+        const auto filter = [&] { return find<QLineEdit>(*outputDialog(*window), "ChoiceFilter"); };
+        filter()->setText(QStringLiteral("1-3"));
         for (const char* action : {"Reload", "German"}) {
             trigger(*window, "RenameOutput");
             typeName(*window, "  ");
@@ -339,7 +341,7 @@ private Q_SLOTS:
             trigger(*window, action);
             QTRY_COMPARE(typedIn(*window), QStringLiteral("  "));
             QTest::keyClick(nameEditor(*window), Qt::Key_Escape);
-            QCOMPARE(field()->text(), QStringLiteral("1.2.3"));
+            QCOMPARE(field()->text() + filter()->text(), QStringLiteral("1.2.31-3"));
         }
         QTRY_VERIFY(window->isWindowModified());
         whenModal([](QWidget* box) { press(box, QMessageBox::Cancel); });

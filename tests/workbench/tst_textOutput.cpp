@@ -392,8 +392,10 @@ private Q_SLOTS:
         choose(*dialog, LoadCaseBox, QStringLiteral("Manually"));
         find<PickTable>(*dialog, "TextLoadCases")->chooseAllBut({3});
         const QString english = results(*dialog);
+        find<QLineEdit>(*dialog, "ChoiceFilter")->setText(QStringLiteral("1-3"));
         trigger(*window, "German");
         dialog = window->findChild<TextOutputDialog*>();
+        QCOMPARE(find<QLineEdit>(*dialog, "ChoiceFilter")->text(), QStringLiteral("1-3"));
         QVERIFY(dialog->isVisible() && dialog->isChanged());
         QVERIFY(results(*dialog).contains(QStringLiteral("Lastfälle (6 von 7): 1, 2, 4–7\n")));
         trigger(*window, "English");

@@ -58,6 +58,16 @@ void ChoiceBar::setTable(ChoiceTable* table)
     filter();
 }
 
+QString ChoiceBar::filterText() const
+{
+    return m_filter->text();
+}
+
+void ChoiceBar::setFilterText(const QString& text)
+{
+    m_filter->setText(text);
+}
+
 QToolButton* ChoiceBar::newButton(const char* name, const QString& text, const QString& toolTip)
 {
     auto button = new QToolButton(this);

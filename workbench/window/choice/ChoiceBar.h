@@ -27,6 +27,8 @@ public:
     /// Sets the table, which must outlive the bar. The table must be created after the bar so that
     /// it follows the bar in the tab order.
     void setTable(ChoiceTable* table);
+    QString filterText() const;
+    void setFilterText(const QString& text);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

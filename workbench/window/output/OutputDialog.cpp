@@ -256,6 +256,7 @@ OutputPresent OutputDialog::present()
             tabWidget()->currentIndex(),
             TreeViewState(m_plots),
             RefusedTexts(m_page),
+            TypedFilters(this),
             m_offers->steps()};
 }
 
@@ -265,6 +266,7 @@ void OutputDialog::setPresent(const OutputPresent& present)
     m_unchanged = present.isChanged ? present.unchanged : state().text();
     tabWidget()->setCurrentIndex(present.tab);
     present.refused.restore(m_page);
+    present.filters.restore(this);
     present.plots.restore(m_plots); // after the tree has been resized
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/output/OutputState.h"
+#include "window/choice/TypedFilters.h"
 #include "window/output/checkedPlots.h"
 #include "window/output/RefusedTexts.h"
 #include "window/output/TreeViewState.h"
@@ -30,6 +31,7 @@ struct OutputPresent
     int tab;
     TreeViewState plots;
     RefusedTexts refused;
+    TypedFilters filters;
     QByteArray steps; ///< undo steps of the page
 };
 

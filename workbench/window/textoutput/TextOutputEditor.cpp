@@ -1,6 +1,7 @@
 #include "window/textoutput/TextOutputEditor.h"
 
 #include "project/OpenProject.h"
+#include "window/choice/TypedFilters.h"
 #include "window/files/chooseFileToSave.h"
 #include "window/files/ProjectAccess.h"
 #include "window/files/saveTextFile.h"
@@ -134,8 +135,10 @@ void TextOutputEditor::recreate()
     if (!m_dialog)
         return;
     const TextOutputState before = m_dialog->state();
+    const TypedFilters filters(m_dialog.get());
     m_dialog.reset(); // saves its geometry, which the new dialog restores
     reopen(before);
+    filters.restore(m_dialog.get());
 }
 
 } // namespace workbench
