@@ -5,6 +5,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_language.h>
 #include <VKD_QT_InitTranslator.h>
+#include <vkd_readFile.h>
 
 #include <QFile>
 
@@ -106,10 +107,11 @@ std::unique_ptr<VKD_H_ZOBDoc> openProject(const QString& path)
 
 QByteArray readBytes(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw CommandError{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
-    return file.readAll();
+    QByteArray bytes;
+    const VkdStatus status = vkd_readFile(path, &bytes);
+    if (!status.isOk())
+        throw CommandError{QStringLiteral("cannot read %1: %2").arg(path, status.reason)};
+    return bytes;
 }
 
 QString readText(const QString& path)

@@ -4,6 +4,7 @@
 #include "project/installedFile.h"
 
 #include <VKD_H_ProjectDialogPage.h>
+#include <vkd_readFile.h>
 #include <ZobSnapshot.h>
 #include <ZobTransaction.h>
 
@@ -26,12 +27,12 @@ struct PlaceText
 
 PresetReading readFile(PresetKind kind, const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, file.errorString()};
-    if (file.size() > MostBytes)
+    if (QFileInfo(path).size() > MostBytes)
         return {{}, PlaceText::tr("It is too large.")};
-    return readPresets(kind, file.readAll(), vkd::desktopLanguage());
+    QByteArray json;
+    const VkdStatus status = vkd_readFile(path, &json);
+    return status.isOk() ? readPresets(kind, json, vkd::desktopLanguage())
+                         : PresetReading{{}, status.reason};
 }
 
 QString writeFile(PresetKind kind, const QString& path, const PresetList& presets)
