@@ -20,6 +20,13 @@
 
 namespace {
 
+void write(const QString& path, const QByteArray& text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0)
+        qFatal("cannot write a model file");
+}
+
 /// A model file with the given number of quads in a square, and the project that is created from
 /// it.
 class ModelFile
@@ -37,9 +44,7 @@ public:
             const int corner = i / side * (side + 1) + i % side + 1;
             add(text, {i + 1, 1, corner, corner + 1, corner + side + 2, corner + side + 1, 1});
         }
-        QFile file(path());
-        if (!file.open(QIODevice::WriteOnly) || file.write(text + "]}") < 0)
-            qFatal("cannot write a model file");
+        write(path(), text + "]}");
     }
 
     QString path() const { return m_folder.filePath(QStringLiteral("model.json")); }
@@ -126,12 +131,42 @@ void writeDesignModel(const QString& path, int records)
     }
     groups.chop(1);
     design.chop(1);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) ||
-        file.write(R"({"title": "T", "kindOfSystem": 20, "nodes": [], "groups": [],
-                       "secondaryGroups": [)" +
-                   groups + R"(], "designParameters": [)" + design + "]}") < 0)
-        qFatal("cannot write a model file");
+    write(path, R"({"title": "T", "kindOfSystem": 20, "nodes": [], "groups": [],
+                   "secondaryGroups": [)" +
+                    groups + R"(], "designParameters": [)" + design + "]}");
+}
+
+/// Reads a model file with this number of keys in objects of this size, which must be refused.
+void readKeys(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("model.json"));
+    QByteArray text = R"({"title": "T", "x": [)";
+    for (int64_t i = 0; i < state.range(0); ++i)
+        text += QByteArray(i % state.range(1) ? ", \"k"
+                           : i                ? "}, {\"k"
+                                              : "{\"k") +
+                QByteArray::number(qint64(i)) + "\": 0";
+    write(path, text + "}]}");
+    vkd::dbo::Model model;
+    for (auto _ : state)
+        if (vkd::dbo::readModelFile(path, vkd::Language::English, &model).isOk())
+            qFatal("an unknown key was accepted");
+}
+
+/// Creates projects from a model file with titles of 10 kB each and this size in total.
+void newTitles(benchmark::State& state)
+{
+    const ModelFile file(1);
+    QByteArray loadCases;
+    for (int i = 1; i <= int(state.range(0)) / 10000; ++i)
+        loadCases += QByteArray(i == 1 ? "" : ",") + R"({"number": )" + QByteArray::number(i) +
+                     R"(, "title": ")" + QByteArray(10000, 'x') + R"("})";
+    write(file.path(), R"({"title": "T", "kindOfSystem": 6, "nodes": [], "groups": [],
+                          "loadCases": [)" +
+                           loadCases + "]}");
+    for (auto _ : state)
+        makeProject(file);
 }
 
 /// Returns the processor time of all child processes.
@@ -262,6 +297,8 @@ BENCHMARK(parseAndWrite)->Arg(Quads);
 BENCHMARK(readModel)->Arg(Quads);
 BENCHMARK(fileSize)->Arg(Quads);
 BENCHMARK(newDesignRecords)->Arg(1000)->Arg(4000)->UseManualTime();
+BENCHMARK(readKeys)->Args({500000, 1000})->Args({1000000, 1000})->Args({1000000, 1000000});
+BENCHMARK(newTitles)->Arg(8000000)->Arg(16000000);
 
 } // namespace
 
@@ -275,5 +312,10 @@ int main(int argc, char* argv[])
           Figure::TimePerItem},
          {"readModel/250000", "fileSize/250000", 4.0, "is the size of the file", Figure::Memory},
          {"newDesignRecords/4000/manual_time", "newDesignRecords/1000/manual_time", 2.0,
-          "does the same, each item", Figure::TimePerItem}});
+          "does the same, each item", Figure::TimePerItem},
+         {"readKeys/1000000/1000", "readKeys/500000/1000", 3.0,
+          "does the same with half as many keys"},
+         {"readKeys/1000000/1000000", "readKeys/1000000/1000", 1.0,
+          "reads as many keys in objects of 1000 keys"},
+         {"newTitles/16000000", "newTitles/8000000", 3.0, "does the same with half the titles"}});
 }

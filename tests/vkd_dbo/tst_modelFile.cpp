@@ -78,6 +78,10 @@ private Q_SLOTS:
              "designParameters[0].groups[1]: group 1 does not exist or occurs twice"}};
         for (const auto& one : inside)
             QCOMPARE(errorOf(QLatin1String(one.first)), QLatin1String(one.second));
+        QString keys = QStringLiteral("\"knots\": []");
+        for (int i = 0; i < 1000; ++i)
+            keys += QStringLiteral(", \"k%1\": 0").arg(i);
+        QVERIFY(errorOf(keys).endsWith(QLatin1String(": an object has more than 1000 keys")));
     }
 
     void wrongNames()

@@ -1,6 +1,6 @@
 #include "ModelText.h"
 
-#include "repeatedKey.h"
+#include "faultyKey.h"
 
 #include <QJsonDocument>
 
@@ -123,7 +123,7 @@ private:
 
 ModelText::ModelText(const QByteArray& bytes)
 {
-    if (findRepeatedKey(bytes) >= 0)
+    if (findFaultyKey(bytes).fault != FaultyKey::None)
         throw NotReadableInPieces();
     const QByteArray rest = ListSplitter({bytes.constData(), size_t(bytes.size())}, *this).split();
     const QJsonDocument root = parsed(rest);

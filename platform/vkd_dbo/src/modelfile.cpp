@@ -1,13 +1,13 @@
 #include "vkd_dbo_model.h"
 
+#include "faultyKey.h"
 #include "JsonPlace.h"
 #include "ModelText.h"
 #include "NumberSet.h"
-#include "repeatedKey.h"
 
+#include <vkd_readFile.h>
 #include <vkd_zob.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -413,11 +413,13 @@ QJsonDocument parsed(const QByteArray& bytes)
     const auto fail = [&bytes](int offset, const QString& cause) {
         throw ModelFileError{lineAndColumn(bytes, offset) + QLatin1String(": ") + cause};
     };
-    const int repeated = findRepeatedKey(bytes);
-    if (repeated >= 0) {
-        const int end = bytes.indexOf('"', repeated + 1);
-        const QByteArray key = bytes.mid(repeated + 1, end - repeated - 1);
-        fail(repeated,
+    const FaultyKey faulty = findFaultyKey(bytes);
+    if (faulty.fault == FaultyKey::TooMany)
+        fail(faulty.offset, ModelFileError::tr("an object has more than %1 keys").arg(MostKeys));
+    if (faulty.fault == FaultyKey::Repeated) {
+        const int end = bytes.indexOf('"', faulty.offset + 1);
+        const QByteArray key = bytes.mid(faulty.offset + 1, end - faulty.offset - 1);
+        fail(faulty.offset,
              ModelFileError::tr("\"%1\" occurs twice").arg(QString::fromUtf8(key).simplified()));
     }
     QJsonParseError problem;
@@ -476,10 +478,9 @@ VkdStatus failureOf(const QString& path, int code, const QString& cause)
 
 VkdStatus readModelFile(const QString& path, Language language, Model* model, const VkdGoOn& goOn)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return failureOf(path, VKD_ZOB_NO_FILE, file.errorString());
-    const QByteArray bytes = file.readAll();
+    QByteArray bytes;
+    if (const VkdStatus status = vkd_readFile(path, &bytes); !status.isOk())
+        return failureOf(path, status.code, status.reason);
     try {
         std::optional<Model> read = readInPieces(bytes, language, goOn);
         *model = read ? std::move(*read) : readAsWhole(bytes, language, goOn);

@@ -213,6 +213,10 @@
         <translation>ein Name aus ein bis vier ASCII-Buchstaben und Ziffern, nicht nur aus Ziffern, wird erwartet</translation>
     </message>
     <message>
+        <source>an object has more than %1 keys</source>
+        <translation>ein Objekt hat mehr als %1 Schlüssel</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; occurs twice</source>
         <translation>„%1“ steht hier zweimal</translation>
     </message>

@@ -1,4 +1,4 @@
-#include "repeatedKey.h"
+#include "faultyKey.h"
 
 #include <algorithm>
 #include <string_view>
@@ -9,7 +9,7 @@ namespace dbo {
 
 namespace {
 /// Collects the keys of the objects that are not yet closed. The keys are sorted at the end of each
-/// object, which bounds the time for objects with very many keys.
+/// object.
 class KeyScanner
 {
 public:
@@ -18,22 +18,22 @@ public:
     {
     }
 
-    int find()
+    FaultyKey find()
     {
-        for (size_t at = 0; at < m_json.size(); ++at) {
+        for (size_t at = 0; at < m_json.size() && m_found.fault == FaultyKey::None; ++at) {
             const char c = m_json[at];
             if (c == '"')
                 at = readText(at);
             else if (c == '{' || c == '[')
                 m_open.push_back({m_keys.size(), c == '{'});
-            else if ((c == '}' || c == ']') && close())
-                return m_found;
+            else if (c == '}' || c == ']')
+                close();
             if (c == '{' || c == ',')
                 m_isKey = !m_open.empty() && m_open.back().isObject;
             else if (c == ':' || c == '[')
                 m_isKey = false;
         }
-        return -1;
+        return m_found;
     }
 
 private:
@@ -50,34 +50,42 @@ private:
         while (end < m_json.size() && m_json[end] != '"')
             end += m_json[end] == '\\' ? 2 : 1;
         if (m_isKey)
-            m_keys.push_back(m_json.substr(begin, std::min(end, m_json.size()) - begin));
+            addKey(m_json.substr(begin, std::min(end, m_json.size()) - begin));
         return end;
     }
 
-    /// Closes the current object. Returns whether it contained the same key twice.
-    bool close()
+    void addKey(std::string_view key)
+    {
+        if (m_keys.size() - m_open.back().firstKey == MostKeys)
+            m_found = {FaultyKey::TooMany, offsetOf(key)};
+        m_keys.push_back(key);
+    }
+
+    void close()
     {
         if (m_open.empty())
-            return false;
+            return;
         const auto first = m_keys.begin() + std::ptrdiff_t(m_open.back().firstKey);
         std::sort(first, m_keys.end());
         const auto repeated = std::adjacent_find(first, m_keys.end());
         if (repeated != m_keys.end())
-            m_found = int(std::max(repeated->data(), (repeated + 1)->data()) - m_json.data());
+            m_found = {FaultyKey::Repeated,
+                       std::max(offsetOf(*repeated), offsetOf(*(repeated + 1)))};
         m_keys.erase(first, m_keys.end());
         m_open.pop_back();
-        return m_found >= 0;
     }
+
+    int offsetOf(std::string_view key) const { return int(key.data() - m_json.data()); }
 
     std::string_view m_json;
     std::vector<std::string_view> m_keys;
     std::vector<Open> m_open;
     bool m_isKey = false;
-    int m_found = -1;
+    FaultyKey m_found;
 };
 } // namespace
 
-int findRepeatedKey(const QByteArray& json)
+FaultyKey findFaultyKey(const QByteArray& json)
 {
     return KeyScanner({json.constData(), size_t(json.size())}).find();
 }
