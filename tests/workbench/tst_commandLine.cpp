@@ -205,6 +205,16 @@ private Q_SLOTS:
                  run("script building.zob --language german").out.toUtf8());
     }
 
+    /// Titles may contain line breaks.
+    void titlesInOneLine()
+    {
+        writeFile(path("lines.json"), R"({"title": "a\nb", "kindOfSystem": 6, "nodes": [],
+            "groups": [], "loadCases": [{"number": 1, "title": "c\nd"}]})");
+        QCOMPARE(run("new lines.zob --model lines.json").out,
+                 QStringLiteral("lines.zob: a b, 0 nodes, 0 elements in 0 groups, 1 load cases\n"));
+        QVERIFY(run("tree lines.zob").out.contains(QLatin1String("1 : c d\n")));
+    }
+
     void otherShareFolder()
     {
         writeFile(path("graphicaloutput.data"), "1|0|0|A|B|C| |0| |0|3| |0|NUR HIER|ONLY HERE\n");

@@ -9,6 +9,7 @@
 #include <vkd_dbo_packedNames.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_language.h>
+#include <vkd_status.h>
 #include <ZobFilePlace.h>
 #include <ZobTransaction.h>
 
@@ -100,9 +101,11 @@ QString summary(const QString& path, const vkd::dbo::Model& model)
     const int elements = model.quads.size() + model.beams.size() + model.trusses.size() +
                          model.cables.size() + model.springs.size() + model.bricks.size();
     const auto number = [](int value) { return QString::number(value); };
-    return QStringLiteral("%1: %2, %3 nodes, %4 elements in %5 groups, %6 load cases\n")
-        .arg(path, model.system.title, number(model.nodes.size()), number(elements),
-             number(model.groups.size()), number(model.loadCases.size()));
+    const QString line =
+        QStringLiteral("%1: %2, %3 nodes, %4 elements in %5 groups, %6 load cases")
+            .arg(path, model.system.title, number(model.nodes.size()), number(elements),
+                 number(model.groups.size()), number(model.loadCases.size()));
+    return vkd_oneLine(line) + QLatin1Char('\n');
 }
 } // namespace
 

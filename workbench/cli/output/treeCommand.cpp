@@ -5,6 +5,7 @@
 #include "cli/output/savedChoice.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <vkd_status.h>
 
 namespace workbench {
 
@@ -24,8 +25,8 @@ void append(const plib::OutputNode* parent, int depth, QString* text)
 {
     for (int i = 0; i < parent->childCount(); ++i) {
         const plib::OutputNode* node = parent->child(i);
-        *text +=
-            QString(2 * depth, QLatin1Char(' ')) + mark(node) + node->text(0) + QLatin1Char('\n');
+        *text += QString(2 * depth, QLatin1Char(' ')) + mark(node) + vkd_oneLine(node->text(0)) +
+                 QLatin1Char('\n');
         append(node, depth + 1, text);
     }
 }

@@ -1,5 +1,7 @@
 #include "project/presets/presetJson.h"
 
+#include <vkd_status.h>
+
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -97,7 +99,7 @@ private:
     bool fail(const QString& fault)
     {
         if (m_reading.fault.isEmpty())
-            m_reading.fault = fault;
+            m_reading.fault = vkd_oneLine(fault); // it may quote a key
         return false;
     }
 
