@@ -1,20 +1,27 @@
 #include "cli/CommandLine.h"
 #include "cli/DesignRows.h"
 #include "cli/newProject.h"
+#include "FaultyDisk.h"
 #include "project/OpenProject.h"
 #include "project/output/OutputList.h"
+#include "project/output/TextOutputState.h"
 #include "ProjectTest.h"
 #include "walkOverFaults.h"
 #include "window/design/DesignPage.h"
 #include "window/files/copyProject.h"
+#include "window/files/ProjectAccess.h"
+#include "window/support/WindowMessages.h"
+#include "window/textoutput/TextOutputEditor.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_zob.h>
 
+#include <QMainWindow>
 #include <QPushButton>
 #include <QTableWidget>
 
 using namespace windowtest;
+using testsupport::FaultyDisk;
 
 /// Takes the paths of an existing project and of a new project. Returns the reason for a failure.
 using Run = std::function<QString(const QString& old, const QString& made)>;
@@ -69,11 +76,40 @@ QString saveAs(const QString& from, const QString& to)
     return status.reason;
 }
 
+/// Returns a small model with four design rows, so that an operation takes little time.
+QString modelFile()
+{
+    static const QTemporaryDir folder;
+    QByteArray groups, rows;
+    for (const char* number : {"1", "2", "3", "4"}) {
+        const char* comma = groups.isEmpty() ? "" : ", ";
+        groups += comma + QByteArray(R"({"title": "Wall", "number": )") + number + '}';
+        rows += comma + QByteArray(R"({"groups": [")") + number + R"("], "values": {"hio": 0.0)" +
+                number + "}}";
+    }
+    const QString path = folder.filePath(QStringLiteral("model.json"));
+    writeFile(path, R"({"title": "House", "kindOfSystem": 0, "nodes": [], "groups": [)" + groups +
+                        R"(], "designParameters": [)" + rows + "]}");
+    return path;
+}
+
 QString make(const QString&, const QString& path)
 {
     try {
         if (!QFile::exists(path))
-            workbench::newProject(path, QStringLiteral(MODELS "/slab.json"), VkdGoOn());
+            workbench::newProject(path, modelFile(), VkdGoOn());
+        return QString();
+    } catch (const workbench::CommandError& error) {
+        return error.text;
+    }
+}
+
+/// Reads a file that the command line imports. A failure must not shorten it.
+QString importFile(const QString& path, const QString&)
+{
+    try {
+        if (workbench::readBytes(path).size() != QFileInfo(path).size())
+            QTest::qFail("the file is incomplete", __FILE__, __LINE__);
         return QString();
     } catch (const workbench::CommandError& error) {
         return error.text;
@@ -109,8 +145,9 @@ private Q_SLOTS:
         row("design", storeDesign, "old.zob", 4); // slow, because it creates a page
         row("outputs", storeOutputs, "old.zob", 1);
         row("read rows", readRows, "old.zob", 1);
-        row("save as", saveAs, "new.zob", 2);
-        row("new", make, "new.zob", 2);
+        row("import a file", importFile, "old.zob", 1);
+        row("save as", saveAs, "new.zob", 1);
+        row("new", make, "new.zob", 1);
     }
 
     void walk()
@@ -121,9 +158,38 @@ private Q_SLOTS:
         const QTemporaryDir folder; // m_folder has a subfolder
         const QString old = folder.filePath(QStringLiteral("old.zob"));
         const QString made = folder.filePath(QStringLiteral("new.zob"));
-        writeFile(old, m_building);
+        QCOMPARE(make(QString(), old), QString());
         testsupport::walkOverFaults(
             folder.path(), {[&] { return run(old, made); }, folder.filePath(project), stride});
+    }
+
+    /// The dialog shows the saved state, or it is not opened.
+    void textOutput()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("p.zob"));
+        writeFile(path, m_building);
+        QMainWindow window;
+        workbench::WindowMessages windowMessages(&window);
+        workbench::OpenProject project;
+        workbench::ProjectAccess access(&project, &windowMessages);
+        project.setDocument(VKD_H_ZOBDoc::open(path));
+        workbench::TextOutputState saved;
+        saved.leftOutLoadCases = {3};
+        QVERIFY(saved.put(project.handle()).isOk());
+        QStringList messages;
+        bool isFailed = true;
+        for (int call = 1; isFailed; ++call) {
+            workbench::TextOutputEditor editor(&project, &access, &windowMessages, {});
+            const FaultyDisk disk(folder.path(), FaultyDisk::Fault::Once, call);
+            readMessage(messages);
+            editor.show();
+            isFailed = !disk.failedCall().isEmpty();
+            QCOMPARE(editor.isOpen(), !isFailed);
+            QCOMPARE(messages.size(), isFailed ? call : call - 1);
+            if (editor.isOpen())
+                QCOMPARE(editor.state()->leftOutLoadCases, saved.leftOutLoadCases);
+        }
     }
 };
 

@@ -1722,10 +1722,6 @@ Soll das geöffnete Projekt unter einem anderen Namen gespeichert werden?</trans
 <context>
     <name>workbench::OutputEditor</name>
     <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
-    </message>
-    <message>
         <source>The choice of plots from the project has been restored.</source>
         <translation>Die Auswahl der Grafiken aus dem Projekt ist wiederhergestellt.</translation>
     </message>

@@ -48,9 +48,11 @@ auto fields(const TextOutputState& state)
 }
 } // namespace
 
-TextOutputState TextOutputState::read(ZobHandle project, int defaultLists)
+TextOutputState TextOutputState::read(ZobHandle project, int defaultLists, VkdStatus* status)
 {
     const VKD_H_ProjectDialogPage entries(project, TextOutputDialogPage);
+    if (status)
+        *status = entries.readStatus();
     const auto entry = [&entries](const QString& key) { return entries.getEntry(key, QString()); };
     TextOutputState state;
     state.extent = entry(ExtentKey);

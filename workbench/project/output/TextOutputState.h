@@ -24,7 +24,8 @@ struct TextOutputState
     QMap<int, int> kinds; ///< keyed by combination number; see CombinationTable
 
     /// Reads the state from the project. If no lists were saved, `lists` is set to `defaultLists`.
-    static TextOutputState read(ZobHandle project, int defaultLists);
+    /// If reading fails, the reason is in `status`, and the state must not be used.
+    static TextOutputState read(ZobHandle project, int defaultLists, VkdStatus* status = nullptr);
     /// Writes the state to the project. Returns the status of VKD_H_ProjectDialogPage::save().
     VkdStatus put(ZobHandle project) const;
 

@@ -4,6 +4,8 @@
 #include "window/files/waitForStore.h"
 #include "window/support/WindowMessages.h"
 
+#include <ZobSnapshot.h>
+
 #include <QMainWindow>
 
 namespace workbench {
@@ -16,7 +18,20 @@ ProjectAccess::ProjectAccess(OpenProject* project, WindowMessages* messages)
 
 bool ProjectAccess::canRead()
 {
-    return run([this] { return m_project->readStatus(); }, tr("The file %1 cannot be read."));
+    return read([] { return cd_error_t(VKD_ZOB_OK); });
+}
+
+bool ProjectAccess::read(const std::function<cd_error_t()>& work)
+{
+    const QString path = m_project->path();
+    const int index = m_project->handle().index();
+    const cd_error_t status = waitForStore(m_messages->window(), path, [&] {
+        const ZobSnapshot snapshot(m_project->handle());
+        return snapshot.status().isOk() ? work() : cd_error_t(snapshot.status().code);
+    });
+    const VkdStatus last = vkd_zob_last_failure(index);
+    return m_messages->succeeds(last.code == status ? last : VkdStatus{status, QString()}, path,
+                                tr("The file %1 cannot be read."));
 }
 
 bool ProjectAccess::run(const std::function<cd_error_t()>& work, const QString& sentence)

@@ -25,6 +25,10 @@ public:
     /// Returns whether the project can currently be read. Callers that read several parts should
     /// check this first, because each read would wait for another program.
     bool canRead();
+    /// Calls `work`, which returns a VkdZobStatus, in a snapshot of the project (see
+    /// waitForStore()). Shows an error if the project cannot be read. Returns whether `work`
+    /// succeeded.
+    bool read(const std::function<cd_error_t()>& work);
     /// Calls `work`, which returns a VkdZobStatus (see waitForStore()). An error is shown with the
     /// path inserted into `sentence`. Returns whether `work` succeeded.
     bool run(const std::function<cd_error_t()>& work, const QString& sentence);

@@ -172,7 +172,7 @@ void OutputEditor::reload()
 void OutputEditor::discard()
 {
     OutputList project;
-    if (!m_access->canRead() || !read(&project))
+    if (!read(&project))
         return;
     m_outputs.follow(project, OutputList::Removed::Drop);
     m_outputs.revert();

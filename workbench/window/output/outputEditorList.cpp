@@ -19,9 +19,14 @@ bool OutputEditor::load()
 {
     if (m_areOutputsRead)
         return true;
-    m_project->look(ProjectPart::Output);
     OutputList outputs;
-    if (!read(&outputs))
+    const auto read = [this, &outputs] {
+        VkdStatus status{m_project->look(ProjectPart::Output), QString()};
+        if (status.isOk())
+            outputs = OutputList::read(m_project->handle(), &status);
+        return cd_error_t(status.code);
+    };
+    if (!m_access->read(read))
         return false;
     outputs.continueFrom(m_outputs);
     m_outputs = outputs;
@@ -32,9 +37,11 @@ bool OutputEditor::load()
 /// Reads the outputs of the project. If this fails, shows an error message and returns false.
 bool OutputEditor::read(OutputList* outputs) const
 {
-    VkdStatus status;
-    *outputs = OutputList::read(m_project->handle(), &status);
-    return m_messages->succeeds(status, m_project->path(), tr("The file %1 cannot be read."));
+    return m_access->read([this, outputs] {
+        VkdStatus status;
+        *outputs = OutputList::read(m_project->handle(), &status);
+        return cd_error_t(status.code);
+    });
 }
 
 /// Writes the outputs. Outputs that another program has stored are preserved, unless the user has

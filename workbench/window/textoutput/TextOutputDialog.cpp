@@ -26,10 +26,9 @@ using Group = VKD_P_RadioGroup;
 constexpr int OkAndCancel = 3;
 constexpr int PlainLoadCase = 1;
 
-QVector<vkd::dbo::LoadCase> loadCases(ZobHandle project, bool isPlain)
+QVector<vkd::dbo::LoadCase> ofKind(const QVector<vkd::dbo::LoadCase>& all, bool isPlain)
 {
     QVector<vkd::dbo::LoadCase> found;
-    const auto all = vkd::dbo::readLoadCases(project);
     std::copy_if(all.begin(), all.end(), std::back_inserter(found),
                  [isPlain](const auto& any) { return (any.kind == PlainLoadCase) == isPlain; });
     std::sort(found.begin(), found.end(),
@@ -59,8 +58,9 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
     m_boxes = new QVBoxLayout(scrolled->widget());
     m_boxes->setContentsMargins(0, 0, 0, 0);
     addExtent();
-    addLoadCases(project);
-    addCombinations(project);
+    const auto all = vkd::dbo::readLoadCases(project, &m_readStatus);
+    addLoadCases(ofKind(all, true));
+    addCombinations(ofKind(all, false));
     m_contents = new ContentsPreview(this);
     setHelpTopic(m_contents, "TEXT/CONTENTS");
     columns->addWidget(m_contents, 2);
@@ -74,13 +74,21 @@ TextOutputDialog::TextOutputDialog(ZobHandle project, QWidget* parent)
         Q_EMIT choiceChanged();
     });
     addOkRow();
-    setState(TextOutputState::read(project, ExtentFields::DefaultLists));
-    m_saved = state();
+    readState(project);
     const QSize others = sizeHint() - scrolled->sizeHint();
     const int width = qMax(sizeHint().width(), fontMetrics().averageCharWidth() * 120);
     const int height = m_boxes->totalHeightForWidth(width - others.width()); // includes all hints
     resizeWithinScreen(this, {width, height + others.height()});
     new WindowGeometry(this);
+}
+
+void TextOutputDialog::readState(ZobHandle project)
+{
+    VkdStatus status;
+    setState(TextOutputState::read(project, ExtentFields::DefaultLists, &status));
+    m_saved = state();
+    if (m_readStatus.isOk())
+        m_readStatus = status;
 }
 
 QVBoxLayout* TextOutputDialog::addBox(const QString& title, const QString& explanation)
@@ -114,7 +122,7 @@ void TextOutputDialog::addExtent()
     connect(m_fields, &ExtentFields::changed, this, &TextOutputDialog::showChoice);
 }
 
-void TextOutputDialog::addLoadCases(ZobHandle project)
+void TextOutputDialog::addLoadCases(const QVector<vkd::dbo::LoadCase>& loadCases)
 {
     QVBoxLayout* column =
         addBox(tr("Load cases in the text output"),
@@ -126,7 +134,7 @@ void TextOutputDialog::addLoadCases(ZobHandle project)
     column->addLayout(m_loadCases.layout());
     m_loadCaseBar = new ChoiceBar(box, "TextLoadCaseChoice");
     column->addWidget(m_loadCaseBar);
-    m_loadCaseTable = new PickTable(loadCases(project, true), box, "TextLoadCases");
+    m_loadCaseTable = new PickTable(loadCases, box, "TextLoadCases");
     m_loadCaseTable->setAccessibleName(tr("Load cases"));
     m_loadCaseBar->setTable(m_loadCaseTable);
     column->addWidget(m_loadCaseTable);
@@ -136,7 +144,7 @@ void TextOutputDialog::addLoadCases(ZobHandle project)
     connect(m_loadCaseTable, &PickTable::changed, this, &TextOutputDialog::showChoice);
 }
 
-void TextOutputDialog::addCombinations(ZobHandle project)
+void TextOutputDialog::addCombinations(const QVector<vkd::dbo::LoadCase>& combinations)
 {
     QVBoxLayout* column = addBox(
         tr("Combinations in the text output"),
@@ -149,7 +157,7 @@ void TextOutputDialog::addCombinations(ZobHandle project)
     column->addWidget(m_kindRow);
     m_combinationBar = new ChoiceBar(box, "TextCombinationChoice");
     column->addWidget(m_combinationBar);
-    m_combinationTable = new CombinationTable(loadCases(project, false), box, "TextCombinations");
+    m_combinationTable = new CombinationTable(combinations, box, "TextCombinations");
     m_combinationTable->setAccessibleName(tr("Combinations"));
     m_combinationBar->setTable(m_combinationTable);
     column->addWidget(m_combinationTable);

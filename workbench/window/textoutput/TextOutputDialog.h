@@ -3,6 +3,7 @@
 #include "project/output/TextOutputState.h"
 #include "window/textoutput/ExtentFields.h"
 
+#include <vkd_dbo_model.h>
 #include <VKD_H_Dialog.h>
 #include <VKD_P_RadioGroup>
 
@@ -33,6 +34,9 @@ public:
     /// Shows the saved state of the project. The project must outlive the dialog.
     TextOutputDialog(ZobHandle project, QWidget* parent);
 
+    /// Returns whether the project could be read. After a failure, the dialog must not be shown.
+    const VkdStatus& readStatus() const { return m_readStatus; }
+
     /// Returns the state that is saved in the project.
     TextOutputState state() const;
     void setState(const TextOutputState& state);
@@ -49,8 +53,9 @@ Q_SIGNALS:
 private:
     QVBoxLayout* addBox(const QString& title, const QString& explanation);
     void addExtent();
-    void addLoadCases(ZobHandle project);
-    void addCombinations(ZobHandle project);
+    void addLoadCases(const QVector<vkd::dbo::LoadCase>& loadCases);
+    void addCombinations(const QVector<vkd::dbo::LoadCase>& combinations);
+    void readState(ZobHandle project);
     void updateKindRow();
     void fillKindRow();
     QLabel* addResult(QVBoxLayout* column, const char* name);
@@ -78,6 +83,7 @@ private:
     QLabel* m_extentResult = nullptr;
     QLabel* m_loadCaseResult = nullptr;
     QLabel* m_combinationResult = nullptr;
+    VkdStatus m_readStatus;
     TextOutputState m_saved;
     QTimer m_changes; ///< runs after changes until the table of contents is updated
 };

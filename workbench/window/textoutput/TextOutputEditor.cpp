@@ -36,15 +36,25 @@ std::optional<TextOutputState> TextOutputEditor::state() const
 
 void TextOutputEditor::show()
 {
-    if (!m_dialog && !m_access->canRead())
+    if (!m_dialog && !m_access->read([this] { return load(); }))
         return;
-    if (!m_dialog) {
-        m_project->look(ProjectPart::TextOutput);
-        create();
-    }
     m_dialog->show();
     m_dialog->raise();
     m_dialog->activateWindow();
+}
+
+/// Creates the dialog. If the project cannot be read, there is no dialog, because storing an
+/// incomplete state would overwrite the saved one.
+cd_error_t TextOutputEditor::load()
+{
+    cd_error_t status = m_project->look(ProjectPart::TextOutput);
+    if (status != VKD_ZOB_OK)
+        return status;
+    create();
+    status = m_dialog->readStatus().code;
+    if (status != VKD_ZOB_OK)
+        m_dialog.reset();
+    return status;
 }
 
 void TextOutputEditor::create()
@@ -107,10 +117,16 @@ bool TextOutputEditor::store()
 
 void TextOutputEditor::reload()
 {
-    if (!m_access->canRead())
+    TextOutputState state;
+    const auto read = [this, &state] {
+        VkdStatus status{m_project->look(ProjectPart::TextOutput), QString()};
+        if (status.isOk())
+            state = TextOutputState::read(m_project->handle(), ExtentFields::DefaultLists, &status);
+        return cd_error_t(status.code);
+    };
+    if (!m_access->read(read))
         return;
-    m_project->look(ProjectPart::TextOutput);
-    m_dialog->setState(TextOutputState::read(m_project->handle(), ExtentFields::DefaultLists));
+    m_dialog->setState(state);
     m_dialog->setUnchanged();
     Q_EMIT modified();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vkd_zob.h>
+
 #include <QObject>
 
 #include <memory>
@@ -53,6 +55,7 @@ Q_SIGNALS:
 
 private:
     void create();
+    cd_error_t load();
     void reload();
     void closeLater();
     void exportContents(const QString& contents);
