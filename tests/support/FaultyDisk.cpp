@@ -136,7 +136,7 @@ auto run(Call call, const char* function, const QByteArray& name, const Next& ne
         return Result(-1);
     const Result result = next();
     const int error = errno;
-    if (result >= 0)
+    if (result >= 0 && disk->fault != Fault::None)
         done(result);
     errno = error;
     return result;
@@ -170,7 +170,8 @@ FaultyDisk::FaultyDisk(const QString& folder, Fault fault, int call)
 {
     auto state = std::make_unique<Disk>();
     state->folder = QFile::encodeName(QFileInfo(folder).canonicalFilePath());
-    const QStringList names = QDir(folder).entryList(QDir::Files);
+    const bool canBeCut = fault != Fault::None;
+    const QStringList names = canBeCut ? QDir(folder).entryList(QDir::Files) : QStringList();
     for (const QString& name : names) {
         state->names[QFile::encodeName(name)] = state->synced.size();
         state->synced.push_back(readFile(QDir(folder).filePath(name)));
@@ -198,6 +199,7 @@ void FaultyDisk::slowDown(int milliseconds)
 
 void FaultyDisk::restart()
 {
+    Q_ASSERT(disk->fault != Fault::None);
     const auto before = std::exchange(disk, nullptr);
     static std::mt19937 random;
     const bool isTorn = before->fault == Fault::TornCut;

@@ -21,7 +21,7 @@ public:
         PowerCut, ///< the power is cut before the call
         TornCut,  ///< like PowerCut, but random parts of the unsynced changes are stored
         NameCut,  ///< like PowerCut, but the last unsynced NameChange is stored
-        None
+        None      ///< no call fails; the power cannot be cut
     };
 
     /// All files that exist on construction count as stored. `call` is counted from 1; if the fault

@@ -9,6 +9,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <string_view>
 
 namespace testsupport {
 
@@ -16,10 +17,15 @@ namespace {
 using Fault = FaultyDisk::Fault;
 using Files = QMap<QString, QByteArray>;
 
+QStringList namesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files);
+}
+
 Files filesIn(const QString& folder)
 {
     Files files;
-    const QStringList names = QDir(folder).entryList(QDir::Files);
+    const QStringList names = namesIn(folder);
     for (const QString& name : names)
         files[name] = readFile(QDir(folder).filePath(name));
     return files;
@@ -27,14 +33,20 @@ Files filesIn(const QString& folder)
 
 void setFiles(const QString& folder, const Files& files)
 {
-    const QStringList names = QDir(folder).entryList(QDir::Files);
+    const QStringList names = namesIn(folder);
     for (const QString& name : names)
         QFile::remove(QDir(folder).filePath(name));
     for (auto file = files.begin(); file != files.end(); ++file)
         writeFile(QDir(folder).filePath(file.key()), file.value());
 }
 
-/// Returns all records, or a string that is not a record if they cannot be read.
+QByteArray hashOf(const QByteArray& bytes, int length)
+{
+    return QByteArray::number(
+        quint64(std::hash<std::string_view>()({bytes.data(), size_t(length)})));
+}
+
+/// Returns a text that represents all records. If they cannot be read, returns another text.
 QByteArray stateOf(const QString& project)
 {
     constexpr int Title = 10; // key of a single record, which contains a random number
@@ -50,11 +62,19 @@ QByteArray stateOf(const QString& project)
         int length = record.size();
         for (int i = key1 == Title; vkd_zob_get(index, key1, key2, record.data(), &length, i) == 0;
              ++i, length = record.size())
-            records += record.left(length) + '|';
+            records += QByteArray::number(length) + ':' + hashOf(record, length) + '|';
         ++key2;
     }
     vkd_zob_close(index);
     return records;
+}
+
+/// Returns the stride of the walk. The environment variable PLIB_FAULT_STRIDE replaces it.
+int strideOf(const Operation& operation)
+{
+    bool isGiven = false;
+    const int stride = qEnvironmentVariableIntValue("PLIB_FAULT_STRIDE", &isGiven);
+    return isGiven ? qMax(stride, 1) : operation.stride;
 }
 
 class Walk
@@ -73,11 +93,12 @@ public:
     Walk(const QString& folder, const Operation& operation)
         : m_folder(folder)
         , m_operation(operation)
+        , m_stride(strideOf(operation))
         , m_filesBefore(filesIn(folder))
         , m_old(state())
         , m_reason(onSoundDisk(operation.run))
         , m_new(state())
-        , m_namesAfter(filesIn(folder).keys())
+        , m_namesAfter(namesIn(folder))
     {
         expect(m_reason.isEmpty(), "it fails on a sound disk");
     }
@@ -86,8 +107,7 @@ public:
     int walk(Fault fault)
     {
         int failures = 0;
-        for (int call = 1 + int(fault) % m_operation.stride; runWith(fault, call);
-             call += m_operation.stride) {
+        for (int call = 1 + int(fault) % m_stride; runWith(fault, call); call += m_stride) {
             checkResult(fault);
             checkRepetition();
             ++failures;
@@ -115,7 +135,7 @@ private:
     void checkResult(Fault fault)
     {
         m_state = state();
-        const QStringList left = filesIn(m_folder).keys();
+        const QStringList left = namesIn(m_folder);
         expect(m_state == m_old || m_state == m_new, "neither the old state nor the new one");
         if (m_reason.isEmpty())
             return expect(m_state == m_new, "success, but the new state is not stored");
@@ -138,7 +158,7 @@ private:
         m_reason = onSoundDisk(m_operation.run);
         expect(m_reason.isEmpty(), "repeating it fails");
         expect(state() == m_new, "repeating it stores another state");
-        expect(filesIn(m_folder).keys() == m_namesAfter, "repeating it leaves files");
+        expect(namesIn(m_folder) == m_namesAfter, "repeating it leaves files");
     }
 
     /// Also rolls back a journal.
@@ -154,11 +174,12 @@ private:
         if (!condition)
             m_problems << QStringLiteral("\n%1: %2; %3; files: %4")
                               .arg(m_place, QLatin1String(problem), m_reason,
-                                   filesIn(m_folder).keys().join(QLatin1Char(' ')));
+                                   namesIn(m_folder).join(QLatin1Char(' ')));
     }
 
     const QString m_folder;
     const Operation m_operation;
+    const int m_stride;
     const Files m_filesBefore;
     const QByteArray m_old;
     QString m_reason;

@@ -14,7 +14,8 @@ struct Operation
     /// before or after the call.
     std::function<QString()> run;
     QString project; ///< the file that the operation reads or writes
-    int stride = 1;  ///< distance between the calls that are made to fail
+    int stride = 1;  ///< distance between the calls that are made to fail; PLIB_FAULT_STRIDE
+                     ///< replaces it
 };
 
 /// Runs the operation with each fault of FaultyDisk at each of its calls. Afterwards either the old
