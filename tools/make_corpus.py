@@ -6,12 +6,18 @@ corpora are inputs that once failed; they are not changed.
 
 import json
 import pathlib
+import shutil
+import sqlite3
 import subprocess
 import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 SHARE = ROOT / "share"
 WORKBENCH = ROOT / "build/dev/bin/plib_workbench"
+SMALLEST_MODEL = """{"title": "House", "kindOfSystem": 0, "nodes": [[1, 0, 0, 0], [2, 1, 0, 0]],
+    "groups": [{"number": 1, "title": "Wall"}], "loadCases": [{"number": 1, "title": "Wind"}],
+    "designParameters": [{"groups": ["1"], "values": {"hio": 0.03}}]}"""
+OUTPUTS = (420, 2)  # key pair of the entries of the graphical outputs
 
 
 def write(target, seeds):
@@ -64,6 +70,33 @@ def record(pair, content):
     return bytes([pair, len(content)]) + content
 
 
+def old_project(project):
+    """Returns a project of version 1 with two outputs. Its records have no checksums."""
+    old = project.with_name("old.zob")
+    shutil.copy(project, old)
+    outputs = ["Name", "Slab", "Page", "<Scale>1:100</Scale>", "Name 2", "Walls", "LeftOut 2", "1;2"]
+    with sqlite3.connect(old) as database:
+        database.execute("UPDATE record SET data = substr(data, 1, length(data) - 8)")
+        database.executemany("INSERT INTO record VALUES (?, ?, ?, ?)",
+                             [(*OUTPUTS, at, text.encode()) for at, text in enumerate(outputs)])
+        database.execute("PRAGMA user_version = 1")
+    database.close()
+    return old.read_bytes()
+
+
+def crashed_project(project):
+    """Returns a project of which a killed program had written only the first half, without its
+    journal.
+    """
+    changed = project.with_name("changed.zob")
+    shutil.copy(project, changed)
+    with sqlite3.connect(changed) as database:
+        database.execute("UPDATE record SET data = zeroblob(length(data))")
+    database.close()
+    half = changed.stat().st_size // 2
+    return changed.read_bytes()[:half] + project.read_bytes()[half:]
+
+
 def main():
     models = [small_model(name) for name in ("slab", "hall", "building")]
     write("modelFile", models)
@@ -92,16 +125,38 @@ def main():
     write("pageString", ["<Scale>1:100</Scale><Font>2.5</Font><Fill>1</Fill><Format>0</Format>"
                          "<Part>1</Part><View>4</View><Camera>1 -2 1 ROTA 0</Camera>"
                          "<List_4>\nChecked:@SYS &amp; &#x1;\n</List_4>",
-                         "<Scale>-</Scale><Font> </Font><View>7</View><Part>2"])
+                         "<Scale>-</Scale><Font> </Font><View>7</View><Part>2",
+                         "<Part>0</Part><List_1>\nPartially:&L00   $L00   &L01 : 1,6,\n</List_1>"
+                         "<List_2>\nUnchecked:@SYS   $G00\n</List_2><Camera>VIEW EG3</Camera>",
+                         "<Scale>1:75</Scale><Scale>1:50</Scale><Font>3,5</Font><Fill>0</Fill>"
+                         "<Format>1</Format><Unknown>&lt;&#10;</Unknown>"])
     write("helpBook", [b"one|The first\nTWO|The second\n# note\none|Again\n three |\n",
-                       (SHARE / "help/grav/en/index.txt").read_bytes()])
+                       "one|Über ‘eins’\r\ntwo|a|b\r\none.html|\r\n../two|Outside\n|none\n".encode()]
+          + [(SHARE / f"help/{book}/index.txt").read_bytes()
+             for book in ("grav/en", "grav/de", "merdan/en", "text/de")])
+    presets = [{"name": "Wall", "description": "Both faces", "parameters": {"hio": 0.03, "type": None},
+                "de": {"name": "Wand", "description": "Beide Seiten"}}]
+    plots = [{"name": "Model", "description": "", "plots": {"^G01": ["System", "Materials"]}}]
+    write("presets", [json.dumps({"format": "vkd-design-presets", "version": 1, "presets": presets}),
+                      json.dumps({"format": "vkd-plot-presets", "version": 1, "presets": plots}),
+                      (SHARE / "presets/design.json").read_bytes()])
+    write("savedOutputs", ["\0".join(entries) for entries in (
+        ["Page", "<Scale>1:100</Scale>", "Content", "1", "LeftOut", "1;7", "Name", "Slab", "Name 2",
+         "SLAB", "Page 2", "<Fill>1</Fill>", "Name 3", " a  b ", "Content 3", "-1"],
+        ["Extent", "checked:m_Manually", "LoadCases", "checked:m_All", "Lists", "21", "AllValues", "1",
+         "LeftOutLoadCases", "1;6", "LeftOutCombinations", "102", "Kinds", "103=8;104=0"])])
+    write("loadCases", ["1 1 Dead load\n1 2 Wind, 100 %\n\n2 101 ULS + SLS\n", "1 -3 \r\n2 4\r\n",
+                        "3 1 Wind\n"])
 
     with tempfile.TemporaryDirectory() as folder:
         project = pathlib.Path(folder) / "project.zob"
         model = pathlib.Path(folder) / "model.json"
         model.write_text(models[1])
         workbench("new", project, "--model", model)
-        write("projectFile", [project.read_bytes()])
+        small = project.with_name("small.zob")  # tools/fuzz cuts off inputs after 40 kB
+        model.write_text(SMALLEST_MODEL)
+        workbench("new", small, "--model", model)
+        write("projectFile", [small.read_bytes(), old_project(small), crashed_project(small)])
         scripts = [workbench("script", project, "--keywords", language, "--set", "viewId=1")
                    for language in ("german", "english")]
         rows = workbench("rows", project)
