@@ -278,6 +278,8 @@ private Q_SLOTS:
     void namesInGerman()
     {
         Desk desk(m_project);
+        QMetaObject::invokeMethod(desk.find<QObject>("steps"), "restart",
+                                  Q_ARG(QString, QString()));
         const std::vector<Step> steps = stepsOn(desk, [](const QString&) {});
         for (std::size_t i = 0; i + 2 < steps.size(); ++i) // without those of the host
             steps[i].run();
