@@ -6,11 +6,19 @@ namespace vkd {
 namespace plib {
 namespace widgetgraphicaloutput {
 
+/// The levels of plots and of their rows in the page's tree. Captions have the levels below
+/// PlotLevel.
+enum Level {
+    PlotLevel = 2,
+    /// The row of a load case
+    RowLevel = 3
+};
+
 /// Data roles of the items in the page's tree, a QTreeWidget with the object name "m_list". They
 /// provide data to hosts in addition to the visible text. The tree sets the data whenever it is
 /// filled. Items that do not come from the catalogue have no such data.
 enum Role {
-    /// An int: 0 and 1 for captions, 2 for a plot, 3 for the row of a load case.
+    /// An int: 0 and 1 for captions, otherwise a Level.
     LevelRole = Qt::UserRole + 1,
     /// Set on captions and plots: a QString that identifies the item in the stored selection. It is
     /// the same in every language. Captions without keys of their own share an identifier.

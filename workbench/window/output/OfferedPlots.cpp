@@ -8,10 +8,6 @@ namespace workbench {
 
 using namespace vkd::plib::widgetgraphicaloutput;
 
-namespace {
-constexpr int PlotLevel = 2;
-}
-
 OfferedPlots::OfferedPlots(const QTreeWidget& tree)
 {
     add(tree.invisibleRootItem(), 0);

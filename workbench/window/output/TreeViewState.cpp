@@ -15,7 +15,6 @@ namespace workbench {
 namespace {
 using namespace vkd::plib::widgetgraphicaloutput;
 
-constexpr int PlotLevel = 2;
 constexpr QChar RowMark = u'\t'; ///< precedes the load case in the key of a row
 constexpr int FixedStrings = 5;  ///< strings before the list of branches
 } // namespace

@@ -5,6 +5,7 @@
 #include "script/rowLabel.h"
 
 #include <VKD_P_WidgetGraphicalOutput_Progname.h>
+#include <VKD_P_WidgetGraphicalOutput_Role.h>
 
 #include <functional>
 #include <utility>
@@ -142,7 +143,7 @@ LineOrigins collectScriptLines(Node* root, std::vector<QString>& lines, Keywords
     if (root->childCount() == 0 || !outputItem(root->child(0)))
         return origins;
     ScriptLineWriter writer(lines, keywords, progname, std::move(kindOfSystem));
-    constexpr int PlotLevel = 2;
+    using vkd::plib::widgetgraphicaloutput::PlotLevel;
     const Node* lastPlot = nullptr;
     for (int i = 0; i < root->childCount(); ++i)
         visitWriters(root->child(i), [&](auto* item, Node* parent) {

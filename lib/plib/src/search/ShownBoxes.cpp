@@ -4,6 +4,7 @@
 #include "search/PlotSearch.h"
 #include "search/treeItems.h"
 #include "tree/checkStates.h"
+#include "VKD_P_WidgetGraphicalOutput_Role.h"
 
 #include <VKD_QT_SignalBlocker.h>
 
@@ -16,7 +17,7 @@
 namespace plib {
 
 namespace {
-constexpr int PlotLevel = 2;
+using vkd::plib::widgetgraphicaloutput::PlotLevel;
 
 /// Returns whether the plot is the item or is below it.
 bool isBelow(const QTreeWidgetItem* plot, const QTreeWidgetItem* item)

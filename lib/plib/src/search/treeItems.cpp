@@ -1,11 +1,13 @@
 #include "search/treeItems.h"
 
+#include "VKD_P_WidgetGraphicalOutput_Role.h"
+
 #include <QTreeWidget>
 
 namespace plib {
 
 namespace {
-constexpr int PlotLevel = 2;
+using vkd::plib::widgetgraphicaloutput::PlotLevel;
 
 void addBranches(QTreeWidgetItem* parent, int level, QVector<QTreeWidgetItem*>* branches)
 {

@@ -2,14 +2,15 @@
 
 #include "catalogue/Catalogue.h"
 #include "catalogue/ZobModelQueries.h"
-#include "tree/HostScript.h"
 #include "tree/CaptionTranslator.h"
 #include "tree/GraphicalOutputTreeWidgetItem.h"
+#include "tree/HostScript.h"
 #include "tree/itemRoles.h"
 #include "tree/outputTreeIcons.h"
 #include "tree/RowLooks.h"
 #include "tree/selectionText.h"
 #include "tree/TreeBuilder.h"
+#include "VKD_P_WidgetGraphicalOutput_Role.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
@@ -23,8 +24,7 @@
 
 namespace {
 using Item = GraphicalOutputTreeWidgetItem;
-
-constexpr int PlotLevel = 2;
+using vkd::plib::widgetgraphicaloutput::PlotLevel;
 
 /// Implements the operations of the builder for the tree widget. A plot is added to the tree only
 /// after the plot has all of its rows, so that the tree processes only one change.
@@ -153,9 +153,8 @@ int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, b
 {
     const plib::ZobModelQueries model(parameter);
     plib::LineOrigins& origins = findChild<plib::HostScript*>()->origins();
-    origins =
-        plib::collectScriptLines(invisibleRootItem(), lines, plib::keywordsIf(english), progname,
-                                 [&model] { return model.kindOfSystem(); });
+    origins = plib::collectScriptLines(invisibleRootItem(), lines, plib::keywordsIf(english),
+                                       progname, [&model] { return model.kindOfSystem(); });
     return origins.count;
 }
 

@@ -51,7 +51,6 @@ std::unique_ptr<const QTreeWidgetItem> RowLooks::newLook(const QString& text, in
                                                          Qt::CheckState state)
 {
     using namespace vkd::plib::widgetgraphicaloutput;
-    constexpr int RowLevel = 3;
     if (m_icon.isNull())
         m_icon = rowIcon(m_language);
     auto look = std::make_unique<QTreeWidgetItem>();

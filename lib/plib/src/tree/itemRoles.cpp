@@ -13,8 +13,6 @@ namespace plib {
 namespace {
 using namespace vkd::plib::widgetgraphicaloutput;
 
-constexpr int PlotLevel = 2;
-
 void publish(QTreeWidgetItem* parent, const QStringList& captionsAbove)
 {
     for (int i = 0; i < parent->childCount(); ++i) {

@@ -3,6 +3,7 @@
 #include "catalogue/GraphicalOutputRecord.h"
 #include "tree/checkStates.h"
 #include "tree/RowOrders.h"
+#include "VKD_P_WidgetGraphicalOutput_Role.h"
 
 #include <QHash>
 #include <QStringList>
@@ -196,7 +197,8 @@ private:
         auto* item = outputItem(node);
         if (!item)
             return node->checkState(0);
-        if (item->level < RowLevel) // lines never refer to rows by identifier
+        if (item->level <
+            vkd::plib::widgetgraphicaloutput::RowLevel) // lines never refer to rows by identifier
             order = order.orLater(m_orders.value(item));
         if (item->childCount() == 0) {
             setLeaf(item, order.state);
@@ -257,8 +259,6 @@ private:
         __builtin_prefetch(child);
         __builtin_prefetch(child + CacheLine);
     }
-
-    static constexpr int RowLevel = 3;
 
     Node* m_root;
     ItemIndex<Node> m_index;
