@@ -116,12 +116,14 @@ struct Polyline
     QVector<Position> points;
 };
 
-/// A load case (`kind` 1) or a design combination (`kind` 2).
+constexpr int PlainLoadCase = 1; ///< kind of a load case that is not a combination
+
+/// A load case (`kind` PlainLoadCase) or a design combination (`kind` 2).
 struct LoadCase
 {
     int number = 0;
     QString title;
-    int kind = 1;
+    int kind = PlainLoadCase;
 };
 
 /// The title and the kind of the structural system.

@@ -15,7 +15,6 @@ namespace {
 constexpr char PageKey[] = "Page";
 constexpr char ContentKey[] = "Content";
 constexpr char LeftOutKey[] = "LeftOut";
-constexpr int PlainLoadCase = 1;
 
 /// The name contains only the digits of the number; a "+" would request a combined picture.
 QString rowName(const vkd::dbo::LoadCase& loadCase)
@@ -93,7 +92,7 @@ OutputState::offeredRows(ZobHandle project) const
     std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation> rows;
     const auto loadCases = vkd::dbo::readLoadCases(project);
     for (const vkd::dbo::LoadCase& loadCase : loadCases)
-        if (loadCase.kind != PlainLoadCase || !leftOutNumbers.contains(loadCase.number))
+        if (loadCase.kind != vkd::dbo::PlainLoadCase || !leftOutNumbers.contains(loadCase.number))
             rows.push_back({loadCase.kind, loadCase.number, rowName(loadCase)});
     std::sort(rows.begin(), rows.end(),
               [](const auto& a, const auto& b) { return a.number < b.number; });

@@ -13,7 +13,6 @@
 namespace workbench {
 
 namespace {
-constexpr int PlainLoadCase = 1;
 constexpr int NoDimension = -1;
 } // namespace
 
@@ -26,7 +25,7 @@ LoadCaseTable::LoadCaseTable(ZobHandle project, QWidget* parent)
     setRowsOneLineHigh(this);
     const auto loadCases = vkd::dbo::readLoadCases(project);
     for (const vkd::dbo::LoadCase& loadCase : loadCases)
-        if (loadCase.kind == PlainLoadCase)
+        if (loadCase.kind == vkd::dbo::PlainLoadCase)
             addLoadCase(loadCase.number, loadCase.title);
     verticalHeader()->hide();
     resizeColumnsToContents();

@@ -8,6 +8,7 @@
 
 #include <AnimatorView.h>
 #include <vkd_dbo_camera.h>
+#include <vkd_dbo_model.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_WidgetGraphicalOutput>
 #include <VKD_P_WidgetGraphicalOutput_Steps.h>
@@ -27,8 +28,6 @@
 namespace workbench {
 
 namespace {
-constexpr int PlainLoadCase = 1;
-
 /// Creates the page in the language of the first page of the process and then switches it to the
 /// current language. A page created in a second language would load the catalogue again and offer
 /// each plot twice.
@@ -43,7 +42,8 @@ VKD_P_WidgetGraphicalOutput* newPage(QWidget* parent, VKD_H_PluginParameter* par
     vkd::setDesktopLanguage(present);
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(page, &change);
-    page->setUsedNumbersAndNames({{PlainLoadCase, -1, QString()}}); // offers no load cases yet
+    page->setUsedNumbersAndNames(
+        {{vkd::dbo::PlainLoadCase, -1, QString()}}); // offers no load cases yet
     return page;
 }
 } // namespace
