@@ -1,6 +1,7 @@
 #include "window/outputs/CopyOutputsDialog.h"
 
 #include "window/support/HelpKey.h"
+#include "window/support/okAndCancel.h"
 
 #include <VKD_QT_Ok.h>
 
@@ -10,10 +11,6 @@
 #include <QVBoxLayout>
 
 namespace workbench {
-
-namespace {
-constexpr int OkAndCancel = 3;
-}
 
 CopyOutputsDialog::CopyOutputsDialog(const QStringList& names, QWidget* parent)
     : VKD_H_Dialog(parent, "CopyOutputsDialog")
@@ -30,7 +27,7 @@ CopyOutputsDialog::CopyOutputsDialog(const QStringList& names, QWidget* parent)
         item->setCheckState(Qt::Checked);
     }
     m_list->setCurrentRow(0);
-    auto buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
+    auto buttons = newOkAndCancel(this);
     connect(m_list, &QListWidget::itemChanged, buttons->cmdOk(),
             [this, ok = buttons->cmdOk()] { ok->setEnabled(!checkedOutputs().isEmpty()); });
     connect(buttons->cmdOk(), &QPushButton::clicked, this, &CopyOutputsDialog::accept);

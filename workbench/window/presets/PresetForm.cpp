@@ -3,6 +3,7 @@
 #include "window/presets/PresetPartBoxes.h"
 #include "window/presets/PresetsDialog.h"
 #include "window/support/HelpKey.h"
+#include "window/support/okAndCancel.h"
 
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Ok.h>
@@ -16,7 +17,6 @@
 namespace workbench {
 
 namespace {
-constexpr int OkAndCancel = 3;
 constexpr int DescriptionLines = 4;
 } // namespace
 
@@ -44,7 +44,7 @@ PresetForm::PresetForm(const Questions& questions, const Preset& preset, QWidget
         addParts();
     m_note->setObjectName(QStringLiteral("presetNote"));
     m_layout->addRow(m_note);
-    m_buttons = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
+    m_buttons = newOkAndCancel(this);
     m_layout->addRow(m_buttons);
     connect(m_buttons->cmdOk(), &QPushButton::clicked, this, &PresetForm::accept);
     connect(m_buttons->cmdCancel(), &QPushButton::clicked, this, &PresetForm::reject);

@@ -2,6 +2,7 @@
 
 #include "window/choice/ChoiceBar.h"
 #include "window/support/HelpKey.h"
+#include "window/support/okAndCancel.h"
 #include "window/support/WindowGeometry.h"
 #include "window/support/withinScreen.h"
 #include "window/textoutput/CombinationTable.h"
@@ -23,14 +24,12 @@ namespace workbench {
 namespace {
 using Group = VKD_P_RadioGroup;
 
-constexpr int OkAndCancel = 3;
-constexpr int PlainLoadCase = 1;
-
 QVector<vkd::dbo::LoadCase> ofKind(const QVector<vkd::dbo::LoadCase>& all, bool isPlain)
 {
     QVector<vkd::dbo::LoadCase> found;
-    std::copy_if(all.begin(), all.end(), std::back_inserter(found),
-                 [isPlain](const auto& any) { return (any.kind == PlainLoadCase) == isPlain; });
+    std::copy_if(all.begin(), all.end(), std::back_inserter(found), [isPlain](const auto& any) {
+        return (any.kind == vkd::dbo::PlainLoadCase) == isPlain;
+    });
     std::sort(found.begin(), found.end(),
               [](const auto& a, const auto& b) { return a.number < b.number; });
     return found;
@@ -210,7 +209,7 @@ QLabel* TextOutputDialog::addResult(QVBoxLayout* column, const char* name)
 
 void TextOutputDialog::addOkRow()
 {
-    auto row = new VKD_QT_Ok(this, OkAndCancel, "okayandcancelbutton");
+    auto row = newOkAndCancel(this);
     layout()->addWidget(row);
     connect(row->cmdOk(), &QPushButton::clicked, this, &TextOutputDialog::accept);
     connect(row->cmdCancel(), &QPushButton::clicked, this, &TextOutputDialog::reject);
