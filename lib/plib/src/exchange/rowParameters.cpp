@@ -2,6 +2,7 @@
 
 #include "exchange/rowColumns.h"
 #include "exchange/rowTable.h"
+#include "exchange/shortestText.h"
 #include "record/designRecord.h"
 
 #include <vkd_h_units.h>
@@ -11,8 +12,6 @@
 namespace plib {
 
 namespace {
-constexpr int FewestDigits = 6;
-constexpr int MostDigits = 17; // significant digits of a double
 const QLatin1String TypeKey("type");
 
 struct ParameterText
@@ -22,13 +21,8 @@ struct ParameterText
 
 double shortestNumber(float value)
 {
-    double number = 0;
-    for (int digits = FewestDigits; digits <= MostDigits; ++digits) {
-        number = QString::number(double(value), 'g', digits).toDouble();
-        if (float(number) == value)
-            break;
-    }
-    return number;
+    const auto isExact = [value](const QString& text) { return float(text.toDouble()) == value; };
+    return shortestText(double(value), isExact).toDouble();
 }
 
 QString headerOf(RealField field)

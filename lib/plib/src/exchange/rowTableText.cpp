@@ -3,6 +3,7 @@
 #include "exchange/rowColumns.h"
 #include "exchange/rowTable.h"
 #include "exchange/separatedText.h"
+#include "exchange/shortestText.h"
 #include "record/designRecord.h"
 #include "record/rowText.h"
 
@@ -11,9 +12,6 @@
 namespace plib {
 
 namespace {
-constexpr int FewestDigits = 6;
-constexpr int MostDigits = 17; // significant digits of a double
-
 /// Returns the shortest number in the displayed unit that is read back as exactly this value.
 QString exactText(float value, int code)
 {
@@ -22,10 +20,8 @@ QString exactText(float value, int code)
     const auto isExact = [&](const QString& text) {
         return float(text.toDouble() / dimension.factor) == value;
     };
-    QString text = QString::number(shown, 'f', qMax(dimension.decimals, 0));
-    for (int digits = FewestDigits; !isExact(text) && digits <= MostDigits; ++digits)
-        text = QString::number(shown, 'g', digits);
-    return text;
+    const QString usual = QString::number(shown, 'f', qMax(dimension.decimals, 0));
+    return isExact(usual) ? usual : shortestText(shown, isExact);
 }
 
 QString numberCell(float value, int code)
