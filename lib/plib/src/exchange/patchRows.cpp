@@ -1,18 +1,12 @@
 #include "exchange/patchRows.h"
 
 #include "exchange/rowTable.h"
+#include "exchange/TableText.h"
 #include "record/designRecord.h"
-
-#include <QCoreApplication>
 
 namespace plib {
 
 namespace {
-struct TableText
-{
-    Q_DECLARE_TR_FUNCTIONS(RowTable)
-};
-
 /// Returns the record with the copied parameters. Distances are not applied if this kind of system
 /// has none, because they would not be stored.
 tagZOB_QUAD_RIM patched(tagZOB_QUAD_RIM record, const RowPatch& copied, int kindOfSystem)

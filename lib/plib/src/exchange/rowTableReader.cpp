@@ -3,13 +3,12 @@
 #include "exchange/rowColumns.h"
 #include "exchange/rowTable.h"
 #include "exchange/separatedText.h"
+#include "exchange/TableText.h"
 #include "record/designRecord.h"
 #include "record/limitPairs.h"
 
 #include <StructLineEdit.h>
 #include <vkd_h_numberText.h>
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -17,11 +16,6 @@ namespace plib {
 
 namespace {
 constexpr int LongestQuotation = 50;
-
-struct TableText
-{
-    Q_DECLARE_TR_FUNCTIONS(RowTable)
-};
 
 QString quotation(const QString& cell)
 {

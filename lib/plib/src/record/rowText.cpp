@@ -2,13 +2,13 @@
 
 #include "record/designFields.h"
 #include "record/designRecord.h"
+#include "record/PageText.h"
 
 #include <VKD_A_BarDiameterData.h>
 #include <vkd_dbo_groupTexts.h>
 #include <VKD_H_UnitLabel.h>
 #include <vkd_h_units.h>
 
-#include <QCoreApplication>
 #include <QVarLengthArray>
 
 #include <iterator>
@@ -28,12 +28,6 @@ struct Summary
     FieldList first;
     FieldList second;
     bool closes;
-};
-
-/// Translates in the context of the page.
-struct PageText
-{
-    Q_DECLARE_TR_FUNCTIONS(DesignParameter)
 };
 
 Summary distances(int type)

@@ -1,8 +1,9 @@
 #include "record/sharedGroups.h"
 
+#include "record/PageText.h"
+
 #include <vkd_dbo_groupTexts.h>
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -12,12 +13,6 @@ namespace plib {
 
 namespace {
 constexpr int MostNamed = 5; // maximum number of groups in a message, and of rows per group
-
-/// Translates in the context of the page.
-struct PageText
-{
-    Q_DECLARE_TR_FUNCTIONS(DesignParameter)
-};
 
 QString sentence(int row, const SharedGroup& shared)
 {

@@ -1,6 +1,7 @@
 #include "table/designColumns.h"
 
 #include "dialogs/dialogFrame.h"
+#include "record/PageText.h"
 #include "record/rowText.h"
 #include "table/ColumnRoom.h"
 #include "table/DesignParameterTable.h"
@@ -8,18 +9,10 @@
 
 #include <VKD_H_TableItems.h>
 
-#include <QCoreApplication>
-
 namespace plib {
 
 namespace {
 using Table = DesignParameterTable;
-
-/// Translates the headers in the translation context of the page.
-struct PageText
-{
-    Q_DECLARE_TR_FUNCTIONS(DesignParameter)
-};
 
 struct Column
 {

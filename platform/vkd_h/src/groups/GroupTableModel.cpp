@@ -1,6 +1,7 @@
 #include "groups/GroupTableModel.h"
 
-#include <QCoreApplication>
+#include "groups/DialogText.h"
+
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
@@ -11,12 +12,6 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// The translation context of the dialog, which all its files share.
-struct DialogText
-{
-    Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)
-};
-
 QString remark(const GroupRow& row, bool isChecked)
 {
     QStringList texts;

@@ -1,9 +1,8 @@
 #include "groups/groupTexts.h"
 
+#include "groups/DialogText.h"
 #include "groups/groupChoice.h"
 #include "groups/shownName.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -11,12 +10,6 @@ namespace vkd {
 namespace h {
 
 namespace {
-/// The translation context of the dialog, which all its files share.
-struct DialogText
-{
-    Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)
-};
-
 /// Lists only the first few parts of the input, because pasted text may be long.
 QString listed(const QStringList& parts)
 {

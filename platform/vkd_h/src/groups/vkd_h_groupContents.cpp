@@ -1,6 +1,7 @@
 #include "vkd_h_groupContents.h"
 
-#include <QCoreApplication>
+#include "groups/DialogText.h"
+
 #include <QStringList>
 
 namespace vkd {
@@ -8,12 +9,6 @@ namespace h {
 
 namespace {
 using dbo::GroupContents;
-
-/// The translation context of the group dialogs, which all their files share.
-struct DialogText
-{
-    Q_DECLARE_TR_FUNCTIONS(VKD_H_GroupDialog)
-};
 
 struct ElementSort
 {
