@@ -85,7 +85,7 @@ class Walk
     template <typename Function>
     auto onSoundDisk(const Function& function) const
     {
-        const FaultyDisk disk(m_folder);
+        const FaultyDisk sound(m_folder);
         return function();
     }
 
@@ -122,13 +122,13 @@ private:
     bool runWith(Fault fault, int call)
     {
         setFiles(m_folder, m_filesBefore);
-        FaultyDisk disk(m_folder, fault, call);
+        FaultyDisk faulty(m_folder, fault, call);
         m_reason = m_operation.run();
-        m_failedCall = disk.failedCall();
+        m_failedCall = faulty.failedCall();
         m_place = QStringLiteral("fault %1 at call %2, ").arg(int(fault)).arg(call) +
                   QString::fromUtf8(m_failedCall);
         if (m_reason.isEmpty() || isCut(fault))
-            disk.restart();
+            faulty.restart();
         return !m_failedCall.isEmpty();
     }
 

@@ -5,7 +5,7 @@
 
 namespace {
 constexpr double Pi = 3.14159265358979323846;
-constexpr double MillimetresPerMetre = 1000.0;
+constexpr double Metre = 1000.0; // mm
 constexpr double SquareMillimetresPerSquareCentimetre = 100.0;
 constexpr double LeastClearDistance = 20.0;            // mm
 constexpr double AggregateAllowance = 5.0;             // mm
@@ -44,20 +44,18 @@ double vkd_a_roundedArea(double area)
 
 double vkd_a_barSpacing(double area, double diameter, int barsPerPlace)
 {
-    const double spacing =
-        vkd_a_barArea({diameter, 1.0, barsPerPlace}) / area * MillimetresPerMetre;
+    const double spacing = vkd_a_barArea({diameter, 1.0, barsPerPlace}) / area * Metre;
     const double whole = std::round(spacing);
     const bool isSame =
         whole > 0 &&
-        hundredths(vkd_a_barArea({diameter, whole / MillimetresPerMetre, barsPerPlace})) ==
-            hundredths(area);
+        hundredths(vkd_a_barArea({diameter, whole / Metre, barsPerPlace})) == hundredths(area);
     const double tenths = std::max(std::round(spacing * 10.0), 1.0) / 10.0;
-    return (isSame ? whole : tenths) / MillimetresPerMetre;
+    return (isSame ? whole : tenths) / Metre;
 }
 
 double vkd_a_clearDistance(const VkdBarLayout& layout)
 {
-    return layout.spacing * MillimetresPerMetre - layout.barsPerPlace * layout.diameter;
+    return layout.spacing * Metre - layout.barsPerPlace * layout.diameter;
 }
 
 double vkd_a_leastClearDistance(const VkdBarLayout& layout, double aggregate)

@@ -12,7 +12,7 @@ namespace dbo {
 namespace {
 constexpr int MostElements = 4096; // in a piece
 
-QJsonDocument parsed(const QByteArray& json)
+QJsonDocument parsedPiece(const QByteArray& json)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json);
     if (document.isNull())
@@ -126,7 +126,7 @@ ModelText::ModelText(const QByteArray& bytes)
     if (findFaultyKey(bytes).fault != FaultyKey::None)
         throw NotReadableInPieces();
     const QByteArray rest = ListSplitter({bytes.constData(), size_t(bytes.size())}, *this).split();
-    const QJsonDocument root = parsed(rest);
+    const QJsonDocument root = parsedPiece(rest);
     if (!root.isObject())
         throw NotReadableInPieces();
     m_root = root.object();
@@ -144,7 +144,7 @@ QJsonArray ModelText::piece(const QString& key, int index) const
 {
     const std::string_view elements = list(key).pieces[size_t(index)];
     const QJsonArray array =
-        parsed('[' + QByteArray(elements.data(), int(elements.size())) + ']').array();
+        parsedPiece('[' + QByteArray(elements.data(), int(elements.size())) + ']').array();
     if (array.isEmpty()) // between two commas
         throw NotReadableInPieces();
     return array;

@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 
 namespace {
-Q_LOGGING_CATEGORY(lcHelp, "vkd.help")
+Q_LOGGING_CATEGORY(lcHelpPages, "vkd.help.pages")
 
 constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 20;
@@ -127,7 +127,7 @@ void HelpBrowser::followLink(const QUrl& address)
     if (m_book.find(address) >= 0)
         setSource(address);
     else
-        qCWarning(lcHelp, "the help has no page for the link %s",
+        qCWarning(lcHelpPages, "the help has no page for the link %s",
                   qUtf8Printable(address.toString()));
 }
 

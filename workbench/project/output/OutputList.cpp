@@ -15,12 +15,12 @@ int newOutputId()
 }
 
 namespace {
-constexpr char NameKey[] = "Name";
+constexpr char NameEntry[] = "Name";
 constexpr qint64 MostStepBytes = 64000000; // of all outputs together
 
 QString savedName(const VKD_H_ProjectDialogPage& entries, int number)
 {
-    return entries.getEntry(OutputState::entryKey(NameKey, number), QString()).simplified();
+    return entries.getEntry(OutputState::entryKey(NameEntry, number), QString()).simplified();
 }
 
 NamedOutput outputOf(const VKD_H_ProjectDialogPage& entries, int number)
@@ -76,7 +76,7 @@ VkdStatus OutputList::put(ZobHandle project) const
             for (int number = 1; number <= size(); ++number) {
                 const NamedOutput& output = m_outputs[number - 1];
                 output.state.setEntries(&entries, number);
-                const QString nameKey = OutputState::entryKey(NameKey, number);
+                const QString nameKey = OutputState::entryKey(NameEntry, number);
                 if (output.name.isEmpty())
                     entries.deleteEntry(nameKey);
                 else
@@ -84,7 +84,7 @@ VkdStatus OutputList::put(ZobHandle project) const
             }
             for (int number = size() + 1; !savedName(entries, number).isEmpty(); ++number) {
                 OutputState::deleteEntries(&entries, number);
-                entries.deleteEntry(OutputState::entryKey(NameKey, number));
+                entries.deleteEntry(OutputState::entryKey(NameEntry, number));
             }
         });
     return stored.isOk() ? transaction.commit() : transaction.rollback();

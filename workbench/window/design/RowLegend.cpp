@@ -6,7 +6,7 @@
 namespace workbench {
 
 namespace {
-constexpr int Margin = 6;
+constexpr int LegendMargin = 6;
 } // namespace
 
 RowLegend::RowLegend(QWidget* view)
@@ -57,7 +57,7 @@ void RowLegend::mousePressEvent(QMouseEvent* event)
 
 void RowLegend::mouseReleaseEvent(QMouseEvent* event)
 {
-    const int line = (event->pos().y() - Margin) / lineHeight();
+    const int line = (event->pos().y() - LegendMargin) / lineHeight();
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && line >= 0 &&
         line < shownEntries())
         Q_EMIT rowClicked(m_entries[line].row);
@@ -69,13 +69,13 @@ void RowLegend::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const int height = lineHeight();
     const int square = height * 2 / 3;
-    QRect line(Margin, Margin, width() - 2 * Margin, height);
+    QRect line(LegendMargin, LegendMargin, width() - 2 * LegendMargin, height);
     for (int i = 0; i < shownEntries(); ++i) {
         const QRect swatch(line.left(), line.top() + (height - square) / 2, square, square);
         painter.setPen(palette().color(QPalette::Text));
         painter.setBrush(m_entries[i].colour);
         painter.drawRect(swatch);
-        const QRect place = line.adjusted(square + Margin, 0, 0, 0);
+        const QRect place = line.adjusted(square + LegendMargin, 0, 0, 0);
         painter.drawText(
             place, Qt::AlignVCenter,
             fontMetrics().elidedText(text(m_entries[i]), Qt::ElideRight, place.width()));
@@ -93,11 +93,11 @@ void RowLegend::place()
     for (int i = 0; i < shownEntries(); ++i)
         widest = qMax(widest, fontMetrics().horizontalAdvance(text(m_entries[i])));
     const int lines = shownEntries() + (shownEntries() < m_entries.size() ? 1 : 0);
-    const int wanted = widest + lineHeight() + 3 * Margin;
+    const int wanted = widest + lineHeight() + 3 * LegendMargin;
     const QSize room = parentWidget()->size();
     resize(qMin(wanted, qMax(room.width() / 3, 8 * lineHeight())),
-           lines * lineHeight() + 2 * Margin);
-    move(room.width() - width() - Margin, Margin);
+           lines * lineHeight() + 2 * LegendMargin);
+    move(room.width() - width() - LegendMargin, LegendMargin);
 }
 
 int RowLegend::lineHeight() const
@@ -107,7 +107,7 @@ int RowLegend::lineHeight() const
 
 int RowLegend::shownEntries() const
 {
-    const int lines = qMax(1, (parentWidget()->height() - 4 * Margin) / lineHeight());
+    const int lines = qMax(1, (parentWidget()->height() - 4 * LegendMargin) / lineHeight());
     return m_entries.size() <= lines ? m_entries.size() : lines - 1;
 }
 

@@ -9,7 +9,7 @@
 namespace workbench {
 
 namespace {
-constexpr int MostLines = 5;
+constexpr int MostGroups = 5;
 constexpr int MostRows = 10;
 
 /// Translates a string in the context of the page that asks the question.
@@ -49,9 +49,9 @@ QString sharedGroupsQuestion(const QVector<QVector<int>>& groupsOfRows)
             rowsOfGroups[group].append(row);
     QStringList lines;
     for (auto it = rowsOfGroups.cbegin(); it != rowsOfGroups.cend(); ++it) {
-        if (lines.size() == MostLines) {
+        if (lines.size() == MostGroups) {
             lines << DialogText::tr("%1 more groups are in several rows.")
-                         .arg(rowsOfGroups.size() - MostLines);
+                         .arg(rowsOfGroups.size() - MostGroups);
             break;
         }
         lines << line(it.key(), it.value());

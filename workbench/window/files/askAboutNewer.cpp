@@ -7,7 +7,7 @@
 namespace workbench {
 
 namespace {
-QString text(const char* source)
+QString newerText(const char* source)
 {
     return QCoreApplication::translate("askAboutNewer", source);
 }
@@ -16,14 +16,14 @@ QString text(const char* source)
 NewerAnswer askAboutNewer(QWidget* parent)
 {
     const int answer = VKD_QT_MessageBox::warning(
-        parent, text(QT_TRANSLATE_NOOP("askAboutNewer", "Workbench")),
-        text(QT_TRANSLATE_NOOP("askAboutNewer",
-                               "Another program has changed this data in the project since the "
-                               "dialog was opened.\nOverwrite replaces it with your entries. "
-                               "Reload discards your entries and shows the data in the project.")),
-        text(QT_TRANSLATE_NOOP("askAboutNewer", "&Overwrite")),
-        text(QT_TRANSLATE_NOOP("askAboutNewer", "&Reload")),
-        text(QT_TRANSLATE_NOOP("askAboutNewer", "&Go Back")), int(NewerAnswer::GoBack),
+        parent, newerText(QT_TRANSLATE_NOOP("askAboutNewer", "Workbench")),
+        newerText(QT_TRANSLATE_NOOP(
+            "askAboutNewer", "Another program has changed this data in the project since the "
+                             "dialog was opened.\nOverwrite replaces it with your entries. "
+                             "Reload discards your entries and shows the data in the project.")),
+        newerText(QT_TRANSLATE_NOOP("askAboutNewer", "&Overwrite")),
+        newerText(QT_TRANSLATE_NOOP("askAboutNewer", "&Reload")),
+        newerText(QT_TRANSLATE_NOOP("askAboutNewer", "&Go Back")), int(NewerAnswer::GoBack),
         int(NewerAnswer::GoBack));
     return NewerAnswer(answer);
 }

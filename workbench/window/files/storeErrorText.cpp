@@ -7,7 +7,7 @@
 namespace workbench {
 
 namespace {
-QString text(const char* source)
+QString reason(const char* source)
 {
     return QCoreApplication::translate("storeErrorText", source);
 }
@@ -16,12 +16,12 @@ QString text(const char* source)
 QString placeReason(const QFileInfo& file)
 {
     if (file.isDir())
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is a folder."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "It is a folder."));
     if (!file.absoluteDir().exists())
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "Its folder does not exist."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "Its folder does not exist."));
     if (!file.exists())
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "It does not exist."));
-    return text(QT_TRANSLATE_NOOP("storeErrorText", "You do not have permission to read it."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "It does not exist."));
+    return reason(QT_TRANSLATE_NOOP("storeErrorText", "You do not have permission to read it."));
 }
 } // namespace
 
@@ -30,25 +30,25 @@ QString storeErrorText(const QString& path, cd_error_t status)
     switch (status) {
     case VKD_ZOB_NO_FILE: return placeReason(QFileInfo(path));
     case VKD_ZOB_NO_PROJECT:
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "It is not a project file."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "It is not a project file."));
     case VKD_ZOB_NEWER:
-        return text(QT_TRANSLATE_NOOP("storeErrorText",
-                                      "It was written by a newer version of the programs."));
-    case VKD_ZOB_DAMAGED: return text(QT_TRANSLATE_NOOP("storeErrorText", "It is damaged."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText",
+                                        "It was written by a newer version of the programs."));
+    case VKD_ZOB_DAMAGED: return reason(QT_TRANSLATE_NOOP("storeErrorText", "It is damaged."));
     case VKD_ZOB_READ_ONLY:
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "It or its folder is write-protected."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "It or its folder is write-protected."));
     case VKD_ZOB_FULL:
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "There is no space left on the disk."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "There is no space left on the disk."));
     case VKD_ZOB_LOCKED:
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "Another program is writing to it."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "Another program is writing to it."));
     case VKD_ZOB_MOVED:
         return QFileInfo::exists(path)
-                   ? text(QT_TRANSLATE_NOOP("storeErrorText",
-                                            "It was replaced by another file while it was open."))
-                   : text(QT_TRANSLATE_NOOP("storeErrorText",
-                                            "It was deleted or moved while it was open."));
+                   ? reason(QT_TRANSLATE_NOOP("storeErrorText",
+                                              "It was replaced by another file while it was open."))
+                   : reason(QT_TRANSLATE_NOOP("storeErrorText",
+                                              "It was deleted or moved while it was open."));
     default:
-        return text(QT_TRANSLATE_NOOP("storeErrorText", "The system cannot read or write it."));
+        return reason(QT_TRANSLATE_NOOP("storeErrorText", "The system cannot read or write it."));
     }
 }
 

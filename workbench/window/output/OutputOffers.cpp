@@ -22,7 +22,7 @@ namespace workbench {
 
 namespace {
 // separators in stateText()
-constexpr QChar Separator = u' ';
+constexpr QChar EndOfContent = u' ';
 constexpr QChar OffersEnd = u'\n';
 
 QLabel* newHint(const QString& text)
@@ -190,7 +190,7 @@ void OutputOffers::offerLoadCases()
 
 QString OutputOffers::offersText() const
 {
-    return QString::number(m_known.content) + Separator + savedNumbers(m_known.leftOutNumbers);
+    return QString::number(m_known.content) + EndOfContent + savedNumbers(m_known.leftOutNumbers);
 }
 
 QString OutputOffers::stateText() const
@@ -201,7 +201,7 @@ QString OutputOffers::stateText() const
 /// Identifies the part of the state that the page cannot compare in setSteps().
 QByteArray OutputOffers::stepsHead() const
 {
-    return (offersText() + Separator + m_choice.chosenDigest() + OffersEnd).toUtf8();
+    return (offersText() + EndOfContent + m_choice.chosenDigest() + OffersEnd).toUtf8();
 }
 
 QByteArray OutputOffers::steps() const
@@ -234,8 +234,8 @@ void OutputOffers::applyPreset(const QVariantMap& preset, PlotsOfPreset mode,
 void OutputOffers::restoreState(const QString& text)
 {
     const QString offers = text.section(OffersEnd, 0, 0);
-    const int content = offers.section(Separator, 0, 0).toInt();
-    const QSet<int> leftOut = numbersFromSaved(offers.section(Separator, 1));
+    const int content = offers.section(EndOfContent, 0, 0).toInt();
+    const QSet<int> leftOut = numbersFromSaved(offers.section(EndOfContent, 1));
     const OutputState before = m_known;
     m_loadCases->setLeftOutNumbers(leftOut);
     m_contents->setButton(content);

@@ -16,7 +16,7 @@ namespace workbench {
 
 namespace {
 const QString Plots = QStringLiteral("List_4"); // tag of the plots in the page's string
-constexpr QChar Separator = u'\n';              // separates the values in stateText()
+constexpr QChar EndOfValue = u'\n';             // separates the values in stateText()
 
 QString digest(const QString& plots)
 {
@@ -103,12 +103,12 @@ void PlotChoice::giveBack()
 /// The digest precedes the plots, so that an undo step contains no plots if they are unchanged.
 QString PlotChoice::stateText() const
 {
-    return m_shown + Separator + m_chosen;
+    return m_shown + EndOfValue + m_chosen;
 }
 
 void PlotChoice::restoreState(const QString& text)
 {
-    const int end = text.indexOf(Separator);
+    const int end = text.indexOf(EndOfValue);
     m_shown = text.left(end);
     m_chosen = text.mid(end + 1);
     showChosen();

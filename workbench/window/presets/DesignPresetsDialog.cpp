@@ -10,7 +10,7 @@
 namespace workbench {
 
 namespace {
-constexpr char HelpTopic[] = "MERDAN/PRESETS";
+constexpr char DesignTopic[] = "MERDAN/PRESETS";
 
 QVector<PresetPlace> placesOf(const OpenProject& project)
 {
@@ -31,7 +31,7 @@ DesignPresetsDialog::DesignPresetsDialog(const VKD_P_DesignParameter* page,
                                          const OpenProject* project, PresetPartBoxes* parts,
                                          QWidget* parent)
     : PresetsDialog({PresetKind::DesignParameters, placesOf(*project), project->handle(),
-                     project->path(), HelpTopic},
+                     project->path(), DesignTopic},
                     tr("&From Row..."), parts, parent)
     , m_parameters(page)
     , m_newPlaces(placesOf(*project).mid(1))
@@ -67,7 +67,7 @@ QStringList DesignPresetsDialog::faultsIn(const QVariantMap& contents) const
 
 std::unique_ptr<PresetForm> DesignPresetsDialog::newForm()
 {
-    const PresetForm::Questions questions{tr("Preset from Row"), HelpTopic, m_newPlaces, true};
+    const PresetForm::Questions questions{tr("Preset from Row"), DesignTopic, m_newPlaces, true};
     return std::make_unique<PresetForm>(questions, Preset{{}, {}, m_parameters.current()}, this);
 }
 

@@ -11,7 +11,7 @@
 namespace workbench {
 
 namespace {
-constexpr char HelpTopic[] = "GRAV/PRESETS";
+constexpr char PlotTopic[] = "GRAV/PRESETS";
 constexpr int ManyPictures = 500; // the page also warns before a click that adds more pictures
 
 /// Returns captions as an HTML list below a heading, or an empty string if there are none.
@@ -35,7 +35,7 @@ PlotPresetsDialog::PlotPresetsDialog(const QTreeWidget& tree, const ApplyPlots& 
 
 PlotPresetsDialog::PlotPresetsDialog(const QTreeWidget& tree, const ApplyPlots& applyPlots,
                                      const QString& projectPath, QCheckBox* adds, QWidget* parent)
-    : PresetsDialog({PresetKind::Plots, {PresetPlace::User}, ZobHandle(), projectPath, HelpTopic},
+    : PresetsDialog({PresetKind::Plots, {PresetPlace::User}, ZobHandle(), projectPath, PlotTopic},
                     tr("&From Choice..."), adds, parent)
     , m_page(plotsInTree(tree))
     , m_applyPlots(applyPlots)
@@ -62,7 +62,7 @@ void PlotPresetsDialog::enable(QPushButton* apply, QPushButton* creation, bool i
 
 std::unique_ptr<PresetForm> PlotPresetsDialog::newForm()
 {
-    const PresetForm::Questions questions{tr("Preset from Choice"), HelpTopic, {}};
+    const PresetForm::Questions questions{tr("Preset from Choice"), PlotTopic, {}};
     return std::make_unique<PresetForm>(questions, Preset{{}, {}, chosenPlots(m_page)}, this);
 }
 

@@ -7,8 +7,8 @@
 namespace workbench {
 
 namespace {
-constexpr int Delay = 300;    // ms
-constexpr int MostLines = 10; // in the tool tip
+constexpr int Delay = 300;       // ms
+constexpr int MostFindings = 10; // in the tool tip
 } // namespace
 
 CheckMark::CheckMark(ScriptView* view, QWidget* parent)
@@ -89,7 +89,7 @@ void CheckMark::showResult()
     setText(text);
     setAccessibleName(text.isEmpty() ? tr("Check of the script") : text);
     QStringList lines;
-    for (int i = 0; i < qMin(MostLines, findings.size()); ++i)
+    for (int i = 0; i < qMin(MostFindings, findings.size()); ++i)
         lines << findingText(findings[i]);
     setToolTip(findings.isEmpty() ? tr("The plots can produce every line.")
                                   : lines.join(QLatin1Char('\n')));

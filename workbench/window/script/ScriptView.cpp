@@ -14,8 +14,6 @@
 namespace workbench {
 
 namespace {
-constexpr int Margin = 4; // pixels
-constexpr int CursorWidth = 1;
 constexpr int RemovedHeight = 2;
 } // namespace
 

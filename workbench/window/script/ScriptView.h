@@ -105,6 +105,9 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    static constexpr int Margin = 4;      ///< pixels
+    static constexpr int CursorWidth = 1; ///< pixels
+
     using Unit = TextRange (*)(const TextLines&, int position);
     using Formats = QVector<QTextLayout::FormatRange>;
 

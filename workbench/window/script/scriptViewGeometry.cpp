@@ -9,11 +9,6 @@
 
 namespace workbench {
 
-namespace {
-constexpr int Margin = 4; // pixels
-constexpr int CursorWidth = 1;
-} // namespace
-
 void ScriptView::setWrapped(bool isWrapped)
 {
     m_isWrapped = isWrapped;

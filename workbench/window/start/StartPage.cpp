@@ -19,7 +19,7 @@ namespace workbench {
 namespace {
 constexpr int PathRole = Qt::UserRole;
 constexpr QSize PictureSize(180, 120);
-constexpr int Margin = 24; // around the page and between its columns
+constexpr int PageMargin = 24; // around the page and between its columns
 constexpr int ListWidth = 560;
 constexpr int ListHeight = 400; // enough for all recent projects
 
@@ -48,8 +48,8 @@ StartPage::StartPage(const Actions& actions, QWidget* parent)
     setWidgetResizable(true); // the page may be larger than the window
     auto page = new QWidget(this);
     auto columns = new QHBoxLayout(page);
-    columns->setContentsMargins(Margin, Margin, Margin, Margin);
-    columns->setSpacing(Margin);
+    columns->setContentsMargins(PageMargin, PageMargin, PageMargin, PageMargin);
+    columns->setSpacing(PageMargin);
     QLayout* newProject = newProjectColumn(actions); // so that Open is last in tab order
     columns->addStretch(1);
     columns->addLayout(recentColumn(actions.open), 100);
@@ -82,7 +82,7 @@ QLayout* StartPage::recentColumn(QAction* open)
     column->addWidget(m_recent, 100);
     column->addWidget(new StartButton(open, this));
     column->addStretch(1);
-    column->setSpacing(Margin / 3);
+    column->setSpacing(PageMargin / 3);
     return column;
 }
 
@@ -99,11 +99,11 @@ QLayout* StartPage::newProjectColumn(const Actions& actions)
     column->addWidget(m_newTitle);
     column->addLayout(samples);
     column->addWidget(new StartButton(actions.modelFile, this));
-    column->addSpacing(Margin);
+    column->addSpacing(PageMargin);
     column->addWidget(m_drop);
     column->addStretch();
-    column->setSpacing(Margin / 3);
-    samples->setSpacing(Margin / 3);
+    column->setSpacing(PageMargin / 3);
+    samples->setSpacing(PageMargin / 3);
     return column;
 }
 

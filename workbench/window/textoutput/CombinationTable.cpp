@@ -14,7 +14,7 @@ constexpr struct
 {
     int kind;
     const char* text;
-} Kinds[] = {
+} CombinationKinds[] = {
     {CombinationTable::OtherKind,
      QT_TRANSLATE_NOOP("workbench::CombinationTable", "Fundamental, other")},
     {Group::All_A, QT_TRANSLATE_NOOP("workbench::CombinationTable", "Accidental")},
@@ -69,7 +69,7 @@ VKD_QT4_ComboBox* CombinationTable::newKindBox(int row)
 {
     auto box = new VKD_QT4_ComboBox(viewport(), "CombinationKind");
     box->setAccessibleName(tr("Kind of combination %1").arg(numberInRow(row)));
-    for (const auto& kind : Kinds)
+    for (const auto& kind : CombinationKinds)
         box->addEntry(tr(kind.text), kind.kind);
     box->setCurrentId(proposedKind(titleInRow(row)));
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,

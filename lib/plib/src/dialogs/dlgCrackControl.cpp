@@ -17,7 +17,6 @@ using R = tagZOB_QUAD_RIM;
 
 constexpr int CrackWidthCode = 1026;
 constexpr int StressCode = 1092;
-constexpr int LayersOfASide = 3;
 constexpr int CrackWidthFields = 6; // in Fields, the steel stresses follow
 
 /// These values are in the displayed units, millimetres and N/mm².
@@ -42,20 +41,20 @@ struct dlgCrackControl::Field
     int code;
 };
 
-using D = dlgCrackControl;
+using Crack = dlgCrackControl;
 const dlgCrackControl::Field dlgCrackControl::Fields[] = {
-    {&D::m_pWKO, "m_pWKO", "crackWKO", &R::wko, CrackWidthCode},
-    {&D::m_pWKOQ, "m_pWKOQ", "crackWKOQ", &R::wkoq, CrackWidthCode},
-    {&D::m_pWKOI, "m_pWKOI", "crackWKOI", &R::wkoi, CrackWidthCode},
-    {&D::m_pWKU, "m_pWKU", "crack", &R::wku, CrackWidthCode},
-    {&D::m_pWKUQ, "m_pWKUQ", "crack", &R::wkuq, CrackWidthCode},
-    {&D::m_pWKUI, "m_pWKUI", "crack", &R::wkui, CrackWidthCode},
-    {&D::m_pSIGO, "m_pSIGO", "stressSIGO", &R::sigo, StressCode},
-    {&D::m_pSIGOQ, "m_pSIGOQ", "stressSIGOQ", &R::sigoq, StressCode},
-    {&D::m_pSIGOI, "m_pSIGOI", "stressSIGOI", &R::sigoi, StressCode},
-    {&D::m_pSIGU, "m_pSIGU", "stressSIGU", &R::sigu, StressCode},
-    {&D::m_pSIGUQ, "m_pSIGUQ", "stressSIGUQ", &R::siguq, StressCode},
-    {&D::m_pSIGUI, "m_pSIGUI", "stressSIGUI", &R::sigui, StressCode},
+    {&Crack::m_pWKO, "m_pWKO", "crackWKO", &R::wko, CrackWidthCode},
+    {&Crack::m_pWKOQ, "m_pWKOQ", "crackWKOQ", &R::wkoq, CrackWidthCode},
+    {&Crack::m_pWKOI, "m_pWKOI", "crackWKOI", &R::wkoi, CrackWidthCode},
+    {&Crack::m_pWKU, "m_pWKU", "crack", &R::wku, CrackWidthCode},
+    {&Crack::m_pWKUQ, "m_pWKUQ", "crack", &R::wkuq, CrackWidthCode},
+    {&Crack::m_pWKUI, "m_pWKUI", "crack", &R::wkui, CrackWidthCode},
+    {&Crack::m_pSIGO, "m_pSIGO", "stressSIGO", &R::sigo, StressCode},
+    {&Crack::m_pSIGOQ, "m_pSIGOQ", "stressSIGOQ", &R::sigoq, StressCode},
+    {&Crack::m_pSIGOI, "m_pSIGOI", "stressSIGOI", &R::sigoi, StressCode},
+    {&Crack::m_pSIGU, "m_pSIGU", "stressSIGU", &R::sigu, StressCode},
+    {&Crack::m_pSIGUQ, "m_pSIGUQ", "stressSIGUQ", &R::siguq, StressCode},
+    {&Crack::m_pSIGUI, "m_pSIGUI", "stressSIGUI", &R::sigui, StressCode},
 };
 
 dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
@@ -114,8 +113,8 @@ VKD_QT_GroupBox* dlgCrackControl::side(bool upper)
                               tr("Third Layer")};
     const int count = type == plib::ThreeLayers ? 3 : 2;
     for (int layer = 0; layer < count; ++layer) {
-        const Field& width = Fields[(upper ? 0 : LayersOfASide) + layer];
-        const Field& stress = Fields[(upper ? 0 : LayersOfASide) + layer + CrackWidthFields];
+        const Field& width = Fields[(upper ? 0 : plib::LayersOfASide) + layer];
+        const Field& stress = Fields[(upper ? 0 : plib::LayersOfASide) + layer + CrackWidthFields];
         const QString about = layers[layer] + QLatin1String(", ") + box->title();
         VKD_QT_Label* label = plib::addLabel(grid, layer + 1, 0, layers[layer]);
         plib::addField(grid, layer + 1, 1, newCombo(width), about);

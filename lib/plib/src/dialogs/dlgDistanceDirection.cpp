@@ -43,7 +43,7 @@ void addFigure(VKD_QT_GridLayout* grid, const QPixmap& picture)
 }
 } // namespace
 
-using D = dlgDistanceDirection;
+using Direction = dlgDistanceDirection;
 
 /// A line edit, the field of the record that it shows, its object name and its dimension code.
 struct dlgDistanceDirection::Field
@@ -55,14 +55,21 @@ struct dlgDistanceDirection::Field
 };
 
 const dlgDistanceDirection::Field dlgDistanceDirection::Fields[] = {
-    {&D::hio, &R::hio, "hio", DistanceCode},      {&D::hiu, &R::hiu, "hiu", DistanceCode},
-    {&D::hioq, &R::hioq, "hioq", DistanceCode},   {&D::hiuq, &R::hiuq, "hiuq", DistanceCode},
-    {&D::hioi, &R::hioi, "hioi", DistanceCode},   {&D::hiui, &R::hiui, "hiui", DistanceCode},
-    {&D::rio, &R::rio, "rio", DirectionCode},     {&D::riu, &R::riu, "riu", DirectionCode},
-    {&D::rioq, &R::rioq, "rioq", DirectionCode},  {&D::riuq, &R::riuq, "riuq", DirectionCode},
-    {&D::rioi, &R::rioi, "rioi", DirectionCode},  {&D::riui, &R::riui, "riui", DirectionCode},
-    {&D::xref, &R::xref, "xref", CoordinateCode}, {&D::yref, &R::yref, "yref", CoordinateCode},
-    {&D::zref, &R::zref, "zref", CoordinateCode},
+    {&Direction::hio, &R::hio, "hio", DistanceCode},
+    {&Direction::hiu, &R::hiu, "hiu", DistanceCode},
+    {&Direction::hioq, &R::hioq, "hioq", DistanceCode},
+    {&Direction::hiuq, &R::hiuq, "hiuq", DistanceCode},
+    {&Direction::hioi, &R::hioi, "hioi", DistanceCode},
+    {&Direction::hiui, &R::hiui, "hiui", DistanceCode},
+    {&Direction::rio, &R::rio, "rio", DirectionCode},
+    {&Direction::riu, &R::riu, "riu", DirectionCode},
+    {&Direction::rioq, &R::rioq, "rioq", DirectionCode},
+    {&Direction::riuq, &R::riuq, "riuq", DirectionCode},
+    {&Direction::rioi, &R::rioi, "rioi", DirectionCode},
+    {&Direction::riui, &R::riui, "riui", DirectionCode},
+    {&Direction::xref, &R::xref, "xref", CoordinateCode},
+    {&Direction::yref, &R::yref, "yref", CoordinateCode},
+    {&Direction::zref, &R::zref, "zref", CoordinateCode},
 };
 
 dlgDistanceDirection::dlgDistanceDirection(tagZOB_QUAD_RIM* record, QWidget* parent)
@@ -129,11 +136,11 @@ VKD_QT_GroupBox* dlgDistanceDirection::layeredDirection(int type)
     VKD_QT_GridLayout* grid = newGrid(tr("Direction"), "direction", &box);
     const QLatin1String range(" (0 ... 180)");
     addHeader(grid);
-    addRow(grid, 1, tr("Principal Reinforcement") + range, &D::rio, &D::riu);
+    addRow(grid, 1, tr("Principal Reinforcement") + range, &Direction::rio, &Direction::riu);
     if (type >= plib::TwoLayers)
-        addRow(grid, 2, tr("Cross Reinforcement") + range, &D::rioq, &D::riuq);
+        addRow(grid, 2, tr("Cross Reinforcement") + range, &Direction::rioq, &Direction::riuq);
     if (type == plib::ThreeLayers)
-        addRow(grid, 3, tr("Third Layer") + range, &D::rioi, &D::riui);
+        addRow(grid, 3, tr("Third Layer") + range, &Direction::rioi, &Direction::riui);
     addNote(grid);
     addFigure(grid, GET_PIXMAP_WITH_LANG(QStringLiteral(":/neq_merpara_rich.png")));
     return box;
@@ -145,10 +152,12 @@ VKD_QT_GroupBox* dlgDistanceDirection::layeredDistance(int type)
     VKD_QT_GridLayout* grid = newGrid(tr("Distance"), "distance", &box);
     grid->setColumnMinimumWidth(2, grid->horizontalSpacing()); // same gap as in the box above
     addHeader(grid);
-    addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"), &D::hio, &D::hiu);
-    addRow(grid, 2, tr("Cross Reinforcement") + QLatin1String(" (DH)"), &D::hioq, &D::hiuq);
+    addRow(grid, 1, tr("Principal Reinforcement") + QLatin1String(" (H)"), &Direction::hio,
+           &Direction::hiu);
+    addRow(grid, 2, tr("Cross Reinforcement") + QLatin1String(" (DH)"), &Direction::hioq,
+           &Direction::hiuq);
     if (type == plib::ThreeLayers)
-        addRow(grid, 3, tr("Third layer reinforcement (DDH)"), &D::hioi, &D::hiui);
+        addRow(grid, 3, tr("Third layer reinforcement (DDH)"), &Direction::hioi, &Direction::hiui);
     addFigure(grid, QPixmap(QStringLiteral(":/betondeckung_1.png")));
     return box;
 }
@@ -158,11 +167,12 @@ VKD_QT_GroupBox* dlgDistanceDirection::circular()
     VKD_QT_GroupBox* box = nullptr;
     VKD_QT_GridLayout* grid = newGrid(tr("Direction / Distance"), "direction_distance", &box);
     addHeader(grid);
-    addRow(grid, 1, tr("Direction (-180 ... 180)"), &D::rio, &D::riu);
+    addRow(grid, 1, tr("Direction (-180 ... 180)"), &Direction::rio, &Direction::riu);
     for (VKD_H_LineEdit* edit : {rio, riu})
         edit->setPlausibleRange(vkd_h_plausibleRange(DirectionCode, VkdDirections::Signed));
-    addRow(grid, 2, tr("Distance of Principal Reinforcement (H)"), &D::hio, &D::hiu);
-    addRow(grid, 3, tr("Distance of Cross Reinforcement (DH)"), &D::hioq, &D::hiuq);
+    addRow(grid, 2, tr("Distance of Principal Reinforcement (H)"), &Direction::hio,
+           &Direction::hiu);
+    addRow(grid, 3, tr("Distance of Cross Reinforcement (DH)"), &Direction::hioq, &Direction::hiuq);
     addNote(grid);
     addFigure(grid, GET_PIXMAP_WITH_LANG(QStringLiteral(":/neq_merpara_rich.png")));
     return box;
@@ -177,9 +187,9 @@ VKD_QT_GroupBox* dlgDistanceDirection::midpoint()
         QString text;
         Edit edit;
     } rows[] = {
-        {tr("X coordinate"), &D::xref},
-        {tr("Y coordinate"), &D::yref},
-        {tr("Z coordinate"), &D::zref},
+        {tr("X coordinate"), &Direction::xref},
+        {tr("Y coordinate"), &Direction::yref},
+        {tr("Z coordinate"), &Direction::zref},
     };
     int number = 0;
     for (const auto& row : rows) {

@@ -22,7 +22,6 @@ using R = tagZOB_QUAD_RIM;
 
 constexpr int ReinforcementCode = 1021;
 constexpr int CalculationMode = 1; // for both minimum and maximum
-constexpr int LayersOfASide = 3;
 /// The calculator changes this property if the user applies its bar diameter.
 constexpr char DiameterProperty[] = "barDiameter";
 
@@ -52,22 +51,22 @@ struct dlgReinforcement::Layer
     Slot calculateMaximum;
 };
 
-using D = dlgReinforcement;
+using Area = dlgReinforcement;
 
 /// Principal, cross and third layer of the upper side, followed by those of the lower side.
 const dlgReinforcement::Layer dlgReinforcement::Layers[] = {
-    {&D::m_pDIO, "m_pDIO", &R::dio, &D::aso, "aso", &R::aso, &D::calcO, &D::amo, "amo", &R::amo,
-     &D::calcMaxO},
-    {&D::m_pDIOQ, "m_pDIOQ", &R::dioq, &D::asoq, "asoq", &R::asoq, &D::calcOQ, &D::amoq, "amoq",
-     &R::amoq, &D::calcMaxOQ},
-    {&D::m_pDIOI, "m_pDIOI", &R::dioi, &D::asoi, "asoi", &R::asoi, &D::calcOI, &D::amoi, "amoi",
-     &R::amoi, &D::calcMaxOI},
-    {&D::m_pDIU, "m_pDIU", &R::diu, &D::asu, "asu", &R::asu, &D::calcU, &D::amu, "amu", &R::amu,
-     &D::calcMaxU},
-    {&D::m_pDIUQ, "m_pDIUQ", &R::diuq, &D::asuq, "asuq", &R::asuq, &D::calcUQ, &D::amuq, "amuq",
-     &R::amuq, &D::calcMaxUQ},
-    {&D::m_pDIUI, "m_pDIUI", &R::diui, &D::asui, "asui", &R::asui, &D::calcUI, &D::amui, "amui",
-     &R::amui, &D::calcMaxUI},
+    {&Area::m_pDIO, "m_pDIO", &R::dio, &Area::aso, "aso", &R::aso, &Area::calcO, &Area::amo, "amo",
+     &R::amo, &Area::calcMaxO},
+    {&Area::m_pDIOQ, "m_pDIOQ", &R::dioq, &Area::asoq, "asoq", &R::asoq, &Area::calcOQ, &Area::amoq,
+     "amoq", &R::amoq, &Area::calcMaxOQ},
+    {&Area::m_pDIOI, "m_pDIOI", &R::dioi, &Area::asoi, "asoi", &R::asoi, &Area::calcOI, &Area::amoi,
+     "amoi", &R::amoi, &Area::calcMaxOI},
+    {&Area::m_pDIU, "m_pDIU", &R::diu, &Area::asu, "asu", &R::asu, &Area::calcU, &Area::amu, "amu",
+     &R::amu, &Area::calcMaxU},
+    {&Area::m_pDIUQ, "m_pDIUQ", &R::diuq, &Area::asuq, "asuq", &R::asuq, &Area::calcUQ, &Area::amuq,
+     "amuq", &R::amuq, &Area::calcMaxUQ},
+    {&Area::m_pDIUI, "m_pDIUI", &R::diui, &Area::asui, "asui", &R::asui, &Area::calcUI, &Area::amui,
+     "amui", &R::amui, &Area::calcMaxUI},
 };
 
 dlgReinforcement::dlgReinforcement(int index, tagZOB_QUAD_RIM* record, QWidget* parent)
@@ -124,7 +123,7 @@ VKD_QT_GroupBox* dlgReinforcement::side(bool upper, int type)
     // The lower side has a lower-case "max."; the difference is intentional.
     plib::addLabel(grid, 0, MaximumColumn,
                    upper ? tr("Max. Reinforcement") : tr("max. Reinforcement"));
-    const Layer* layers = Layers + (upper ? 0 : LayersOfASide);
+    const Layer* layers = Layers + (upper ? 0 : plib::LayersOfASide);
     addLayer(box, 1, layers[0], tr("Principal Reinforcement"));
     addLayer(box, 2, layers[1], tr("Cross Reinforcement"));
     if (type == plib::ThreeLayers)
@@ -263,60 +262,60 @@ void dlgReinforcement::calculate(Combo combo, Edit edit)
 
 void dlgReinforcement::calcO()
 {
-    calculate(&D::m_pDIO, &D::aso);
+    calculate(&Area::m_pDIO, &Area::aso);
 }
 
 void dlgReinforcement::calcU()
 {
-    calculate(&D::m_pDIU, &D::asu);
+    calculate(&Area::m_pDIU, &Area::asu);
 }
 
 void dlgReinforcement::calcOQ()
 {
-    calculate(&D::m_pDIOQ, &D::asoq);
+    calculate(&Area::m_pDIOQ, &Area::asoq);
 }
 
 void dlgReinforcement::calcUQ()
 {
-    calculate(&D::m_pDIUQ, &D::asuq);
+    calculate(&Area::m_pDIUQ, &Area::asuq);
 }
 
 void dlgReinforcement::calcOI()
 {
-    calculate(&D::m_pDIOI, &D::asoi);
+    calculate(&Area::m_pDIOI, &Area::asoi);
 }
 
 void dlgReinforcement::calcUI()
 {
-    calculate(&D::m_pDIUI, &D::asui);
+    calculate(&Area::m_pDIUI, &Area::asui);
 }
 
 void dlgReinforcement::calcMaxO()
 {
-    calculate(&D::m_pDIO, &D::amo);
+    calculate(&Area::m_pDIO, &Area::amo);
 }
 
 void dlgReinforcement::calcMaxU()
 {
-    calculate(&D::m_pDIU, &D::amu);
+    calculate(&Area::m_pDIU, &Area::amu);
 }
 
 void dlgReinforcement::calcMaxOQ()
 {
-    calculate(&D::m_pDIOQ, &D::amoq);
+    calculate(&Area::m_pDIOQ, &Area::amoq);
 }
 
 void dlgReinforcement::calcMaxUQ()
 {
-    calculate(&D::m_pDIUQ, &D::amuq);
+    calculate(&Area::m_pDIUQ, &Area::amuq);
 }
 
 void dlgReinforcement::calcMaxOI()
 {
-    calculate(&D::m_pDIOI, &D::amoi);
+    calculate(&Area::m_pDIOI, &Area::amoi);
 }
 
 void dlgReinforcement::calcMaxUI()
 {
-    calculate(&D::m_pDIUI, &D::amui);
+    calculate(&Area::m_pDIUI, &Area::amui);
 }

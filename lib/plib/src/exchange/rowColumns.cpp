@@ -16,7 +16,7 @@ namespace plib {
 namespace {
 /// A string in both languages, in UTF-8. Both versions are in one place, because a table that was
 /// copied in one language can be pasted in the other.
-struct Words
+struct BothLanguages
 {
     const char* german;
     const char* english;
@@ -29,18 +29,18 @@ struct Words
 
 constexpr vkd::Language Languages[] = {vkd::Language::German, vkd::Language::English};
 
-constexpr Words Sides[] = {{"oben", "upper"}, {"unten", "lower"}};
-constexpr Words Layers[] = {
+constexpr BothLanguages Sides[] = {{"oben", "upper"}, {"unten", "lower"}};
+constexpr BothLanguages Layers[] = {
     {"Hauptbewehrung", "principal"}, {"Querbewehrung", "cross"}, {"dritte Lage", "third layer"}};
 
 /// The symbols are the same as in the dialog: DH and DDH are the distances of a layer from the
 /// previous layer.
-constexpr Words DistanceNames[] = {
+constexpr BothLanguages DistanceNames[] = {
     {"Abstand H", "Distance H"},
     {"Abstand DH", "Distance DH"},
     {"Abstand DDH", "Distance DDH"},
 };
-constexpr Words MidpointNames[] = {
+constexpr BothLanguages MidpointNames[] = {
     {"Mittelpunkt X", "Midpoint X"},
     {"Mittelpunkt Y", "Midpoint Y"},
     {"Mittelpunkt Z", "Midpoint Z"},
@@ -52,7 +52,8 @@ QString withUnit(const QString& name, RealField field)
     return QStringLiteral("%1 [%2]").arg(name, unit);
 }
 
-RowColumn valueColumn(RealField field, const Words& name, std::size_t side, const Words& layer)
+RowColumn valueColumn(RealField field, const BothLanguages& name, std::size_t side,
+                      const BothLanguages& layer)
 {
     RowColumn column{RowColumn::Value, field, {}, {}, int(side)};
     for (vkd::Language language : Languages) {
@@ -64,7 +65,7 @@ RowColumn valueColumn(RealField field, const Words& name, std::size_t side, cons
     return column;
 }
 
-RowColumn midpointColumn(RealField field, const Words& name)
+RowColumn midpointColumn(RealField field, const BothLanguages& name)
 {
     RowColumn column{RowColumn::Value, field, {}, {}, 0};
     for (vkd::Language language : Languages) {
@@ -84,7 +85,7 @@ void addSix(std::vector<RowColumn>* columns, const SixFields& fields, const Name
             valueColumn(fields[i], name(i % LayerCount), i / LayerCount, Layers[i % LayerCount]));
 }
 
-void addSix(std::vector<RowColumn>* columns, const SixFields& fields, const Words& name)
+void addSix(std::vector<RowColumn>* columns, const SixFields& fields, const BothLanguages& name)
 {
     addSix(columns, fields, [&name](std::size_t) { return name; });
 }
@@ -106,7 +107,7 @@ std::vector<RowColumn> makeColumns()
     return columns;
 }
 
-QString folded(const QString& text)
+QString comparable(const QString& text)
 {
     return text.simplified().toCaseFolded();
 }
@@ -153,7 +154,7 @@ QString pageText(const char* english, vkd::Language language)
 bool isPageText(const QString& text, const char* english)
 {
     return std::any_of(std::begin(Languages), std::end(Languages), [&](vkd::Language language) {
-        return folded(text) == folded(pageText(english, language));
+        return comparable(text) == comparable(pageText(english, language));
     });
 }
 } // namespace
@@ -170,10 +171,10 @@ const RowColumn* columnWithHeader(const QString& header)
         QHash<QString, const RowColumn*> byHeader;
         for (const RowColumn& column : rowColumns())
             for (const QString& text : column.headers)
-                byHeader.insert(folded(text), &column);
+                byHeader.insert(comparable(text), &column);
         return byHeader;
     }();
-    return columns.value(folded(header));
+    return columns.value(comparable(header));
 }
 
 QString headerOf(const RowColumn& column, vkd::Language language)

@@ -15,6 +15,7 @@ using RealField = float tagZOB_QUAD_RIM::*;
 /// The six fields of one kind, in the order of the record: principal, cross and third layer of the
 /// upper side, followed by the same layers of the lower side.
 using SixFields = std::array<RealField, 6>;
+constexpr int LayersOfASide = 3;
 
 /// Tables of the real fields by kind. The code for records, entries, row texts and dialogs iterates
 /// over these tables.

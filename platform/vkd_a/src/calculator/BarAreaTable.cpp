@@ -1,5 +1,6 @@
 #include "calculator/BarAreaTable.h"
 
+#include "calculator/areaFields.h"
 #include "vkd_a_barArea.h"
 #include "VKD_A_BarDiameterData.h"
 
@@ -14,8 +15,7 @@
 
 namespace {
 constexpr double Spacings[] = {0.05, 0.075, 0.1, 0.125, 0.15, 0.175, 0.2, 0.25, 0.3}; // m
-constexpr int AreaCode = 1021;
-constexpr int CellMargin = 8; // px
+constexpr int CellMargin = 8;                                                         // px
 const QLatin1String WidestText("000.00");
 
 template <class List>
@@ -29,7 +29,7 @@ int nearest(const List& values, double wanted)
 }
 
 /// Compares lengths in metres with a tolerance far below a millimetre.
-bool isSame(double a, double b)
+bool isSameLength(double a, double b)
 {
     return std::fabs(a - b) < 1e-6;
 }
@@ -82,8 +82,8 @@ void BarAreaTable::showLayout(const VkdBarLayout& layout)
     const int column = nearest(Spacings, layout.spacing);
     // The nearest cell becomes the current cell, so that the arrow keys start there. It is selected
     // only if it matches the layout exactly.
-    const bool isThere =
-        isSame(m_diameters[row], layout.diameter) && isSame(Spacings[column], layout.spacing);
+    const bool isThere = isSameLength(m_diameters[row], layout.diameter) &&
+                         isSameLength(Spacings[column], layout.spacing);
     setCurrentCell(row, column,
                    isThere ? QItemSelectionModel::Select : QItemSelectionModel::NoUpdate);
 }

@@ -14,7 +14,6 @@
 #include <cmath>
 
 namespace {
-constexpr int DistanceCode = 1024;
 constexpr double NotSet = -99999.0;
 
 /// Returns the object name of a field. For layers other than the first, it contains the layer

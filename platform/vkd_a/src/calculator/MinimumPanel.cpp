@@ -12,7 +12,6 @@
 #include <cmath>
 
 namespace {
-constexpr int AreaCode = 1021, DistanceCode = 1024;
 constexpr int UsualConcrete = 30, UsualSteel = 500; // N/mm²
 constexpr int Steels[] = {400, 500, 550, 600};      // N/mm², the range of EN 1992-1-1, 3.2.2
 constexpr double ShareOfSecondary = 0.2;

@@ -5,7 +5,7 @@
 #include <vkd_h_units.h>
 
 namespace {
-constexpr int AreaCode = 1021, BarCode = 1023;
+constexpr int BarCode = 1023;
 }
 
 VKD_H_LineEdit* newAreaField(QWidget* parent, int code, const QString& suffix, const char* name,

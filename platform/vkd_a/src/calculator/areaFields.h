@@ -5,6 +5,9 @@
 class QWidget;
 class VKD_H_LineEdit;
 
+constexpr int AreaCode = 1021;     ///< dimension of areas in cm²/m
+constexpr int DistanceCode = 1024; ///< dimension of distances
+
 /// Creates a number field that accepts zero, so that the calculator itself can explain why zero is
 /// invalid. A non-empty `suffix` replaces the unit of the dimension `code`.
 VKD_H_LineEdit* newAreaField(QWidget* parent, int code, const QString& suffix, const char* name,

@@ -6,8 +6,8 @@ namespace vkd {
 namespace aniview {
 
 namespace {
-constexpr int Corners[6][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 1, 5, 4},
-                               {1, 2, 6, 5}, {2, 3, 7, 6}, {3, 0, 4, 7}};
+constexpr int FaceCorners[6][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 1, 5, 4},
+                                   {1, 2, 6, 5}, {2, 3, 7, 6}, {3, 0, 4, 7}};
 
 struct Candidate
 {
@@ -19,7 +19,7 @@ std::vector<Candidate> allFaces(const QVector<dbo::Brick>& bricks)
 {
     std::vector<Candidate> faces;
     for (const dbo::Brick& brick : bricks)
-        for (const auto& corners : Corners) {
+        for (const auto& corners : FaceCorners) {
             Candidate candidate;
             for (size_t i = 0; i < 4; ++i)
                 candidate.face.nodes[i] = brick.nodes[corners[i]];

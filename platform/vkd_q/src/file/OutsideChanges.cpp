@@ -12,13 +12,13 @@
 
 namespace {
 constexpr int CounterOffset = 24; // offset of the change counter in the SQLite header
-constexpr char VersionSql[] = "PRAGMA data_version";
+constexpr char DataVersionSql[] = "PRAGMA data_version";
 } // namespace
 
 OutsideChanges::OutsideChanges(ZobConnection& connection)
     : m_connection(connection)
 {
-    m_connection.number(VersionSql, &m_firstVersion);
+    m_connection.number(DataVersionSql, &m_firstVersion);
     m_version = m_firstVersion;
 }
 
@@ -48,7 +48,7 @@ cd_error_t OutsideChanges::ask()
     sqlite3* handle = m_connection.handle();
     m_connection.setWaiting(false);
     Statement question;
-    question.prepare(handle, VersionSql);
+    question.prepare(handle, DataVersionSql);
     const int code = question.step();
     if (code == SQLITE_ROW)
         m_version = question.column(0);

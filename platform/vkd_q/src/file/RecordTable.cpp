@@ -24,7 +24,7 @@ constexpr char AppendAtSql[] =
 constexpr char EndSql[] = "SELECT ifnull(max(position) + 1, 0) FROM record"
                           " WHERE key1=?1 AND key2=?2";
 constexpr char ClearSql[] = "DELETE FROM record WHERE key1=?1 AND key2=?2";
-constexpr char VersionSql[] = "PRAGMA user_version";
+constexpr char SchemaVersionSql[] = "PRAGMA user_version";
 constexpr char UpgradeSql[] = "UPDATE record SET data = with_checksum(key1, key2, position, data);"
                               "PRAGMA user_version = 2";
 static_assert(ZobSchemaVersion == 2);
@@ -55,7 +55,7 @@ int RecordTable::stepTo(KeyPair pair, int position)
 
 int RecordTable::findVersion()
 {
-    m_version.prepare(m_connection, VersionSql);
+    m_version.prepare(m_connection, SchemaVersionSql);
     const int code = m_version.step();
     if (code == SQLITE_ROW)
         m_hasChecksums = m_version.column(0) >= ZobSchemaVersion;

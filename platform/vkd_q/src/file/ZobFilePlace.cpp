@@ -44,10 +44,10 @@ bool isOtherRunning(int process)
 /// Flushes the contents of a file or folder to the disk.
 bool sync(const QString& path, int flags)
 {
-    const int descriptor = open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
+    const int descriptor = ::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
     const bool isDone = descriptor >= 0 && fsync(descriptor) == 0;
     if (descriptor >= 0)
-        close(descriptor);
+        ::close(descriptor);
     return isDone;
 }
 

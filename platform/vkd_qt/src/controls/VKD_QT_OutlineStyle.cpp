@@ -5,7 +5,8 @@
 #include <QStyleOptionButton>
 
 namespace {
-constexpr int ShareOfText = 60; // percent; the background may be lighter than that of a table
+constexpr int TextShareOfOutlines =
+    60; // percent; the background may be lighter than that of a table
 }
 
 VKD_QT_OutlineStyle::VKD_QT_OutlineStyle(const QString& style)
@@ -21,6 +22,6 @@ void VKD_QT_OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOp
     if (!isIndicator || !button)
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     QStyleOptionButton visible = *button;
-    visible.palette = vkd_qt_visibleLines(button->palette, ShareOfText);
+    visible.palette = vkd_qt_visibleLines(button->palette, TextShareOfOutlines);
     QProxyStyle::drawPrimitive(element, &visible, painter, widget);
 }

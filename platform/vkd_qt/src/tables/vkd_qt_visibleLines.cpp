@@ -1,8 +1,8 @@
 #include "vkd_qt_visibleLines.h"
 
 namespace {
-constexpr int ShareOfText = 30;   // percent, as in light palettes
-constexpr int LessDarkened = 130; // percent, about the amount by which styles darken
+constexpr int TextShareOfLines = 30; // percent, as in light palettes
+constexpr int LessDarkened = 130;    // percent, about the amount by which styles darken
 
 int between(int base, int text, int share)
 {
@@ -25,6 +25,6 @@ QPalette vkd_qt_visibleLines(QPalette palette, int shareOfText)
 
 QStyleOptionViewItem vkd_qt_visibleLines(QStyleOptionViewItem option)
 {
-    option.palette = vkd_qt_visibleLines(option.palette, ShareOfText);
+    option.palette = vkd_qt_visibleLines(option.palette, TextShareOfLines);
     return option;
 }
