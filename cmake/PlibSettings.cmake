@@ -49,6 +49,10 @@ endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                         QT_DEPRECATED_WARNINGS)
+if(CMAKE_UNITY_BUILD)
+    set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
+    add_compile_options(-Wno-subobject-linkage) # treats the sources of a batch as headers
+endif()
 if(PLIB_WERROR)
     add_compile_options(-Werror)
 endif()
@@ -211,5 +215,6 @@ function(vkd_add_translations target)
     qt_add_resources(resources ${list} OPTIONS --format-version 1) # contains no file times
     set(translator ${CMAKE_CURRENT_BINARY_DIR}/${module}_translator.cpp)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/translator.cpp.in ${translator} @ONLY)
+    set_source_files_properties(${resources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     target_sources(${target} PRIVATE ${translator} ${resources})
 endfunction()
