@@ -8,12 +8,14 @@
 
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_lib_value.h>
+#include <VKD_QT_Ok.h>
 
 #include <QComboBox>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QListWidget>
 #include <QMenu>
+#include <QPushButton>
 #include <QSet>
 #include <QVariantAnimation>
 
@@ -207,8 +209,14 @@ private:
         if (plots)
             plots->finishChanges();
         const auto text = window.findChild<TextOutputDialog*>();
-        return ((plots && plots->isChanged()) || hasNewOutputs(window)) +
+        return ((plots && (plots->isChanged() || offersApply(*plots))) || hasNewOutputs(window)) +
                (text && text->isChanged()) + hasNewRows(window);
+    }
+
+    /// Returns whether the user can apply changes, for example the deletion of an output.
+    static bool offersApply(const OutputDialog& plots)
+    {
+        return plots.findChild<VKD_QT_Ok*>()->cmdOk()->isEnabled();
     }
 
     /// Returns whether the list shows any output as changed.
