@@ -112,6 +112,11 @@ private Q_SLOTS:
         QCOMPARE(widths(2 * 540 + 50 + margin), QStringLiteral("300 300 50 240 240 full"));
         desk.table()->horizontalHeader()->resizeSection(0, 1000);
         QCOMPARE(widths(1000 + margin), QStringLiteral("1000 150 50 120 120"));
+    }
+
+    /// A wider page first widens the columns whose text wraps.
+    void wrappedText()
+    {
         VKD_P_DesignParameter page(m_project->doc(), m_project->doc(), nullptr, false, false);
         page.init();
         page.readZob(); // before the first show
@@ -119,13 +124,23 @@ private Q_SLOTS:
         page.show();
         const auto table = find<QTableWidget>(page, "table");
         QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
-        const auto lines = [table] {
-            return (table->rowHeight(0) - 2) / table->fontMetrics().lineSpacing();
+        const auto needed = [table](int column) {
+            return table->sizeHintForIndex(table->model()->index(0, column)) + QSize(1, 1);
         };
+        const std::vector<int> initial{150, 150, 200, 120, 120};
+        QFont font = table->font();
+        font.setPointSizeF(font.pointSizeF() * 2 * initial[2] / needed(2).width());
+        table->setFont(font);
         table->item(0, 1)->setText(QStringLiteral("Three Layers"));
-        QVERIFY(lines() > 2);
-        page.resize(1400, 500);
-        QTRY_COMPARE(lines(), 2);
+        const auto isWrapped = [&] {
+            return table->rowHeight(0) > needed(2).height() + table->fontMetrics().height() / 2;
+        };
+        QVERIFY(isWrapped());
+        double width = page.width() - table->viewport()->width();
+        for (int column = 0; column < table->columnCount(); ++column)
+            width += 1.1 * qMax(needed(column).width(), initial[std::size_t(column)]);
+        page.resize(qRound(width), 500);
+        QTRY_VERIFY(!isWrapped());
     }
 
     /// The tool tip of each cell shows the whole row, also over an editor, and fits on the screen.

@@ -1,4 +1,5 @@
 #include "ProjectTest.h"
+#include "window/output/OutputDock.h"
 
 #include <QDockWidget>
 #include <QScrollArea>
@@ -66,11 +67,17 @@ private Q_SLOTS:
     void pageBesideTheScript()
     {
         const auto window = open("narrow.zob");
-        window->resize(1440, 768); // narrow, because the tests use a wide font
+        auto dock = find<workbench::OutputDock>(*window, "OutputDock");
         const auto groups = find<QDockWidget>(*window, "GroupDock");
-        const int width = groups->width();
         const QWidget* page = openOutput(*window);
-        const QWidget* script = find<QWidget>(*window, "ScriptText");
+        dock->hide();
+        const QWidget* script = find<QWidget>(*window, "ScriptDock");
+        const int letter = window->fontMetrics().averageCharWidth();
+        const int least = dock->widthOfPage() + script->minimumSizeHint().width();
+        window->resize(least + 10 * letter, 768);
+        const int width = groups->width();
+        const int scriptWidth = script->width();
+        openOutput(*window);
         const auto view = find<QWidget>(*window, "AnimatorView");
         QTRY_VERIFY(!view->isVisible());
         for (const QWidget* shown : {page, script})
@@ -79,9 +86,12 @@ private Q_SLOTS:
         QTRY_VERIFY(view->isVisible());
         openOutput(*window);
         QTRY_VERIFY(!view->isVisible());
-        window->resize(2400, 768);
-        QTRY_VERIFY(view->isVisible() && !page->visibleRegion().isEmpty());
-        auto dock = find<QDockWidget>(*window, "OutputDock");
+        const auto leaveRoom = [&](int letters) { // for the model
+            window->resize(dock->widthOfPage() + scriptWidth + letters * letter, 768);
+            return view->isVisible();
+        };
+        QVERIFY(!leaveRoom(39));
+        QVERIFY(leaveRoom(40) && !page->visibleRegion().isEmpty());
         for (const bool isFloating : {true, false})
             dock->setFloating(isFloating);
         dock->toggleViewAction()->trigger();
