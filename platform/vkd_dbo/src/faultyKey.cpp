@@ -30,7 +30,7 @@ public:
                 close();
             if (c == '{' || c == ',')
                 m_isKey = !m_open.empty() && m_open.back().isObject;
-            else if (c == ':' || c == '[')
+            else if (c == ':' || c == '[' || c == ']' || c == '}')
                 m_isKey = false;
         }
         return m_found;
