@@ -17,7 +17,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSet>
-#include <QVariantAnimation>
 
 using namespace windowtest;
 using namespace workbench;
@@ -119,16 +118,6 @@ class fuzz_windowMonkey : public ProjectTest
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Waits for the fade animation of Qt's clear buttons, which would be reported as a leak when
-    /// the program exits.
-    void cleanupTestCase()
-    {
-        QVariantAnimation later; // runs on the same timer, for a longer time
-        later.setEndValue(1);
-        later.start();
-        QTRY_COMPARE(later.state(), QAbstractAnimation::Stopped);
-    }
-
     void work_data() { Monkey::addRounds(Steps); }
 
     void work()

@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QTableWidget>
 #include <QTreeWidget>
+#include <QVariantAnimation>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -189,6 +190,14 @@ void ProjectTest::init()
     qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
     vkd_lib_setvalue(VKD_SETTING_LOCK_DEADLINE, 300);
     testsupport::setLanguage(testsupport::English);
+}
+
+void ProjectTest::cleanupTestCase()
+{
+    QVariantAnimation later; // runs on the same timer, for a longer time
+    later.setEndValue(1);
+    later.start();
+    QTRY_COMPARE(later.state(), QAbstractAnimation::Stopped);
 }
 
 QString ProjectTest::copy(const char* name) const

@@ -104,6 +104,9 @@ protected:
 private Q_SLOTS:
     void initTestCase();
     void init();
+    /// Waits for the fade animation of Qt's clear buttons, which would be reported as a leak when
+    /// the program exits.
+    void cleanupTestCase();
 };
 
 } // namespace windowtest
