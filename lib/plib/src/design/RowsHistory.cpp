@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QDataStream>
+#include <QIODevice>
 
 #include <utility>
 
