@@ -105,7 +105,7 @@ private Q_SLOTS:
         editFourRows(desk, 3, [&told](QWidget& dialog) {
             const auto bar = find<QComboBox>(dialog, "m_pDIO");
             QCOMPARE(bar->currentText(), QStringLiteral("several"));
-            QHelpEvent help(QEvent::ToolTip, {5, 5}, bar->mapToGlobal({5, 5}));
+            QHelpEvent help(QEvent::ToolTip, {5, 5}, bar->mapToGlobal(QPoint(5, 5)));
             QApplication::sendEvent(bar, &help);
             QVERIFY(QToolTip::text().contains(QLatin1String("Different values: ")));
             bar->setCurrentIndex(bar->findText(QStringLiteral("Ø20")));
