@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 
 namespace {
-Q_LOGGING_CATEGORY(lcHelpPages, "vkd.help.pages")
+Q_LOGGING_CATEGORY(lcHelpPages, "vkd.help")
 
 constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 20;

@@ -14,7 +14,7 @@ class ScriptView;
 /// The data against which a script is checked.
 struct CheckSource
 {
-    std::function<ScriptGrammars()> grammars; ///< called by each check that has none
+    std::function<ScriptGrammars()> grammars; ///< called by each check until it succeeds
     std::function<ScriptCheck::LoadCases()> loadCases;
 };
 

@@ -4,7 +4,7 @@
 
 namespace plib {
 
-constexpr int MostDigits = 17; ///< identify every double
+constexpr int MostDigits = 17; ///< enough significant digits to identify every double
 
 /// Returns the number with the fewest significant digits, at least 6, that `isExact` accepts. The
 /// longest text has MostDigits.

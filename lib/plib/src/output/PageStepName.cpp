@@ -4,6 +4,7 @@
 #include "history/stepText.h"
 #include "output/WidgetGraphicalOutputData.h"
 #include "tree/GraphicalOutputTreeWidgetItem.h"
+#include "VKD_P_WidgetGraphicalOutput_Role.h"
 
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
@@ -14,7 +15,7 @@
 namespace plib {
 
 namespace {
-constexpr int RowLevel = 3;
+using vkd::plib::widgetgraphicaloutput::RowLevel;
 
 /// An entry of a radio group or a list, and the title of the group box that contains it.
 struct Entry

@@ -197,8 +197,8 @@ private:
         auto* item = outputItem(node);
         if (!item)
             return node->checkState(0);
-        if (item->level <
-            vkd::plib::widgetgraphicaloutput::RowLevel) // lines never refer to rows by identifier
+        using vkd::plib::widgetgraphicaloutput::RowLevel;
+        if (item->level < RowLevel) // lines never refer to rows by identifier
             order = order.orLater(m_orders.value(item));
         if (item->childCount() == 0) {
             setLeaf(item, order.state);

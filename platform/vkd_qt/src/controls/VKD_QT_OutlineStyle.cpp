@@ -5,9 +5,9 @@
 #include <QStyleOptionButton>
 
 namespace {
-constexpr int TextShareOfOutlines =
-    60; // percent; the background may be lighter than that of a table
-}
+/// In percent. The background may be lighter than that of a table.
+constexpr int TextShareOfOutlines = 60;
+} // namespace
 
 VKD_QT_OutlineStyle::VKD_QT_OutlineStyle(const QString& style)
     : QProxyStyle(style)
